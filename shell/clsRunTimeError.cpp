@@ -1,0 +1,96 @@
+#include "shell/clsRunTimeError.h"
+
+#include <cerrno>
+
+namespace {
+
+struct Description {
+    int number;
+    const char *text;
+};
+
+constexpr Description Descriptions[] = {
+    {clsRunTimeError::InvalidProcedureCall, "Invalid procedure call or argument"},
+    {clsRunTimeError::Overflow, "Overflow"},
+    {clsRunTimeError::OutOfMemory, "Out of memory"},
+    {clsRunTimeError::SubscriptOutOfRange, "Subscript out of range"},
+    {clsRunTimeError::TypeMismatch, "Type mismatch"},
+    {clsRunTimeError::BadFileName, "Bad file name or number"},
+    {clsRunTimeError::FileNotFound, "File not found"},
+    {clsRunTimeError::BadFileMode, "Bad file mode"},
+    {clsRunTimeError::FileAlreadyOpen, "File already open"},
+    {clsRunTimeError::DeviceError, "Device I/O error"},
+    {clsRunTimeError::FileAlreadyExists, "File already exists"},
+    {clsRunTimeError::DiskFull, "Disk full"},
+    {clsRunTimeError::InputPastEnd, "Input past end of file"},
+    {clsRunTimeError::TooManyFiles, "Too many files"},
+    {clsRunTimeError::PermissionDenied, "Permission denied"},
+    {clsRunTimeError::DiskNotReady, "Disk not ready"},
+    {clsRunTimeError::PathFileAccess, "Path/File access error"},
+    {clsRunTimeError::PathNotFound, "Path not found"},
+    {clsRunTimeError::ObjectNotSet, "Object variable or With block variable not set"},
+};
+
+struct SystemError {
+    int system;
+    int number;
+};
+
+constexpr SystemError SystemErrors[] = {
+    {ENOENT, clsRunTimeError::FileNotFound},
+    {ENOTDIR, clsRunTimeError::PathNotFound},
+    {ENOSPC, clsRunTimeError::DiskFull},
+    {EDQUOT, clsRunTimeError::DiskFull},
+    {EFBIG, clsRunTimeError::DiskFull},
+    {EACCES, clsRunTimeError::PermissionDenied},
+    {EPERM, clsRunTimeError::PermissionDenied},
+    {EROFS, clsRunTimeError::PermissionDenied},
+    {ETXTBSY, clsRunTimeError::PermissionDenied},
+    {EBUSY, clsRunTimeError::PermissionDenied},
+    {EIO, clsRunTimeError::DeviceError},
+    {ENXIO, clsRunTimeError::DiskNotReady},
+    {ENODEV, clsRunTimeError::DiskNotReady},
+    {EISDIR, clsRunTimeError::PathFileAccess},
+    {ELOOP, clsRunTimeError::PathFileAccess},
+    {EEXIST, clsRunTimeError::FileAlreadyExists},
+    {ENAMETOOLONG, clsRunTimeError::BadFileName},
+    {EINVAL, clsRunTimeError::BadFileName},
+    {EMFILE, clsRunTimeError::TooManyFiles},
+    {ENFILE, clsRunTimeError::TooManyFiles},
+    {ENOMEM, clsRunTimeError::OutOfMemory},
+};
+
+QString whatText(int number, const QString &description)
+{
+    return QStringLiteral("Run-time error '%1': %2").arg(number).arg(description);
+}
+
+} // namespace
+
+clsRunTimeError::clsRunTimeError(int number)
+    : clsRunTimeError(number, standardDescription(number))
+{
+}
+
+clsRunTimeError::clsRunTimeError(int number, const QString &description)
+    : std::runtime_error(whatText(number, description).toStdString())
+    , m_number(number)
+    , m_description(description)
+{
+}
+
+clsRunTimeError clsRunTimeError::fromSystem(int systemError)
+{
+    for (const SystemError &row : SystemErrors)
+        if (row.system == systemError)
+            return clsRunTimeError(row.number);
+    return clsRunTimeError(PathFileAccess);
+}
+
+QString clsRunTimeError::standardDescription(int number)
+{
+    for (const Description &row : Descriptions)
+        if (row.number == number)
+            return QString::fromLatin1(row.text);
+    return QStringLiteral("Application-defined or object-defined error");
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QString>
+
+/// Everything that the core tells or asks the user, in one small interface.
+/// The core opens no box, moves no bar and plays no sound by itself: windows, the console and the tests each
+/// stand behind this door with an implementation of their own.
+class clsUserInterface {
+public:
+    /// Answers of a message box.
+    enum Answer { OK = 0, Cancel = 1, Yes = 2, No = 3 };
+    /// Button sets of a message box.
+    enum Buttons { OKOnly = 0, OKCancel = 1, YesNo = 2, YesNoCancel = 3 };
+    /// Icons of the plain system box.
+    enum SystemIcon { Critical, Question, Information };
+
+    virtual ~clsUserInterface() = default;
+
+    /// The system's own message box; `icon` is 0, 1 or 2, `timeout` is in seconds, 0 means no countdown.
+    virtual Answer customMessage(const QString &message, const QString &title, Buttons buttons, int icon, int timeout) = 0;
+    /// The plain message box of the desktop, for failures that lie below the program's own windows.
+    virtual Answer systemMessage(const QString &message, const QString &title, SystemIcon icon, Buttons buttons) = 0;
+
+    /// Long work reports how far it is: `value` of `maximum`, with a text.
+    virtual void showProgress(int value, int maximum, const QString &text) = 0;
+    virtual void clearProgress() = 0;
+
+    /// Asks for a folder; empty when the user gave none.
+    virtual QString chooseFolder(const QString &prompt) = 0;
+    /// Asks for a file to open or to save; empty when the user gave none.
+    virtual QString chooseFileToOpen(const QString &filter) = 0;
+    virtual QString chooseFileToSave(const QString &filter, const QString &defaultExtension) = 0;
+
+    /// Plays a wave file in the background; a failure is silent.
+    virtual void playSound(const QString &path) = 0;
+    /// Opens a document or address with the desktop's own handler; true on success.
+    virtual bool openTarget(const QString &target) = 0;
+};
+
+/// The interface in force. There is always one: until a program sets its own, a silent one that answers
+/// OK, Cancel or No, so that a core routine called early can't fail for want of a listener.
+clsUserInterface &UserInterface();
+
+/// Puts an interface in force for as long as this object lives, then the one before it again.
+class clsUserInterfaceScope {
+public:
+    explicit clsUserInterfaceScope(clsUserInterface &userInterface);
+    ~clsUserInterfaceScope();
+    clsUserInterfaceScope(const clsUserInterfaceScope &) = delete;
+    clsUserInterfaceScope &operator=(const clsUserInterfaceScope &) = delete;
+
+private:
+    clsUserInterface *m_previous;
+};

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+/// The single-byte code page of all text files and of the encoded values: Windows-1252, always.
+/// Its five undefined bytes are the control characters of the same number, so that every byte survives a read
+/// and a write.
+
+/// One character for each byte.
+QString mdFromCodePage(QByteArrayView bytes);
+/// One byte for each character; a character outside the page becomes "?".
+QByteArray mdToCodePage(QStringView text);
+/// The character of one byte.
+QChar mdFromCodePage(uchar byte);

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "shell/clsUserInterface.h"
+
+#include <QStringList>
+
+#include <deque>
+#include <vector>
+
+/// The interface of the tests: answers are given in advance, every message is recorded word for word.
+/// A question without an answer prepared for it gets the last button of its set, as a user who closes the box.
+class clsScriptedUserInterface final : public clsUserInterface {
+public:
+    struct Message {
+        QString title;
+        QString text;
+        Buttons buttons;
+        int icon;
+        int timeout;
+        bool system;
+    };
+    struct Progress {
+        int value;
+        int maximum;
+        QString text;
+    };
+
+    std::deque<Answer> answers;
+    std::deque<QString> folders;
+    std::deque<QString> files;
+
+    std::vector<Message> messages;
+    std::vector<Progress> progress;
+    int progressCleared = 0;
+    QStringList prompts;
+    QStringList sounds;
+    QStringList opened;
+
+    Answer customMessage(const QString &message, const QString &title, Buttons buttons, int icon, int timeout) override
+    {
+        messages.push_back({title, message, buttons, icon, timeout, false});
+        return answer(buttons);
+    }
+    Answer systemMessage(const QString &message, const QString &title, SystemIcon icon, Buttons buttons) override
+    {
+        messages.push_back({title, message, buttons, int(icon), 0, true});
+        return answer(buttons);
+    }
+    void showProgress(int value, int maximum, const QString &text) override { progress.push_back({value, maximum, text}); }
+    void clearProgress() override { ++progressCleared; }
+    QString chooseFolder(const QString &prompt) override
+    {
+        prompts << prompt;
+        return next(folders);
+    }
+    QString chooseFileToOpen(const QString &) override { return next(files); }
+    QString chooseFileToSave(const QString &, const QString &) override { return next(files); }
+    void playSound(const QString &path) override { sounds << path; }
+    bool openTarget(const QString &target) override
+    {
+        opened << target;
+        return true;
+    }
+
+private:
+    Answer answer(Buttons buttons)
+    {
+        if (!answers.empty()) {
+            const Answer given = answers.front();
+            answers.pop_front();
+            return given;
+        }
+        switch (buttons) {
+        case OKOnly: return OK;
+        case YesNo: return No;
+        case OKCancel:
+        case YesNoCancel: return Cancel;
+        }
+        return Cancel;
+    }
+    static QString next(std::deque<QString> &prepared)
+    {
+        if (prepared.empty())
+            return {};
+        const QString given = prepared.front();
+        prepared.pop_front();
+        return given;
+    }
+};

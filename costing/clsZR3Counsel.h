@@ -1,0 +1,21 @@
+#pragma once
+
+#include "formdata/clsZR3Item.h"
+
+class clsZR3Form;
+
+/// A barrister instructed in the case. `VAT` is stored and edited only: no figure reads it, since the VAT on a
+/// counsel's fee is what the disbursement says.
+class clsZR3Counsel : public clsZR3Item {
+public:
+    explicit clsZR3Counsel(clsZR3Form &, pugi::xml_node node = {})
+        : clsZR3Item(clsXMLPropertyTable::of<clsZR3Counsel>(), "xmlZR3Counsel", node)
+    {
+    }
+
+    clsXMLLong<"OrderID", true> OrderID {*this};
+    clsXMLText<"UniqueID", true> UniqueID {*this};
+    clsXMLText<"Name"> Name {*this};
+    clsXMLText<"AccountNumber"> AccountNumber {*this};
+    clsXMLBoolean<"VAT"> VAT {*this};
+};

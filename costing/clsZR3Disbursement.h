@@ -1,0 +1,22 @@
+#pragma once
+
+#include "formdata/clsZR3Item.h"
+
+class clsZR3Form;
+
+/// Something that the firm paid out; with `Counsel` set it is a counsel's fee. Amounts are pounds, as text.
+class clsZR3Disbursement : public clsZR3Item {
+public:
+    explicit clsZR3Disbursement(clsZR3Form &, pugi::xml_node node = {})
+        : clsZR3Item(clsXMLPropertyTable::of<clsZR3Disbursement>(), "xmlZR3Disbursement", node)
+    {
+    }
+
+    clsXMLLong<"OrderID", true> OrderID {*this};
+    clsXMLBoolean<"Counsel"> Counsel {*this};
+    clsXMLText<"CounselUniqueID"> CounselUniqueID {*this};
+    clsXMLText<"DateOfWork"> DateOfWork {*this};
+    clsXMLText<"Description"> Description {*this};
+    clsXMLText<"Amount"> Amount {*this};
+    clsXMLText<"VAT"> VAT {*this};
+};

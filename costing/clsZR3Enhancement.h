@@ -1,0 +1,19 @@
+#pragma once
+
+#include "formdata/clsZR3Item.h"
+
+class clsZR3Form;
+
+/// A named percentage that time items and letters and calls can be enhanced by; 50.00 means fifty per cent.
+class clsZR3Enhancement : public clsZR3Item {
+public:
+    explicit clsZR3Enhancement(clsZR3Form &, pugi::xml_node node = {})
+        : clsZR3Item(clsXMLPropertyTable::of<clsZR3Enhancement>(), "xmlZR3Enhancement", node)
+    {
+    }
+
+    clsXMLLong<"OrderID", true> OrderID {*this};
+    clsXMLText<"UniqueID", true> UniqueID {*this};
+    clsXMLText<"Name"> Name {*this};
+    clsXMLText<"Rate"> Rate {*this};
+};

@@ -1,0 +1,26 @@
+#include "costing/clsZR3FASItem.h"
+
+#include "costing/mdDateSerial.h"
+#include "costing/mdPercentageCalculate.h"
+#include "costing/mdStrictDouble.h"
+
+QString clsZR3FASItem::DDateSerial() const
+{
+    return mdDateSerial(dDate());
+}
+
+Money clsZR3FASItem::UnitPayment() const
+{
+    return MoneyFromDouble(mdStrictDouble(RateForUnits()) * double(HearingUnits()));
+}
+
+Money clsZR3FASItem::BoltOn() const
+{
+    return PercentageCalculate(UnitPayment(), BoltOnClaimed());
+}
+
+Money clsZR3FASItem::Total() const
+{
+    return UnitPayment() + BoltOn() + MoneyFromText(CourtBundlePayment()) + MoneyFromText(SettlementFee())
+        + MoneyFromText(ExceptionalTravel());
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "formdata/clsZR3Item.h"
+
+#include <memory>
+
+class clsZR3FeeEarnerGroup;
+class clsZR3Form;
+
+/// A person who did work on the case: a short code, a group that sets the rates, and the counts of letters and calls.
+class clsZR3FeeEarner : public clsZR3Item {
+public:
+    explicit clsZR3FeeEarner(clsZR3Form &form, pugi::xml_node node = {})
+        : clsZR3Item(clsXMLPropertyTable::of<clsZR3FeeEarner>(), "xmlZR3FeeEarner", node)
+        , m_form(&form)
+    {
+    }
+
+    clsXMLLong<"OrderID", true> OrderID {*this};
+    clsXMLText<"UniqueID", true> UniqueID {*this};
+    clsXMLText<"Reference"> Reference {*this};
+    clsXMLText<"GroupUniqueID"> GroupUniqueID {*this};
+    clsXMLLong<"Calls"> Calls {*this};
+    clsXMLLong<"LettersIn"> LettersIn {*this};
+    clsXMLLong<"LettersOut"> LettersOut {*this};
+
+    /// The group that `GroupUniqueID` names, or nothing.
+    std::shared_ptr<clsZR3FeeEarnerGroup> Group() const;
+    /// That group's reference; without a group it is the object error.
+    QString GroupReference() const;
+
+private:
+    clsZR3Form *m_form;
+};

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "formdata/clsZR3Item.h"
+
+class clsZR3Form;
+
+/// A party's share in an expert who was instructed jointly. The share is a percentage, as text.
+class clsZR3JointInstruction : public clsZR3Item {
+public:
+    explicit clsZR3JointInstruction(clsZR3Form &, pugi::xml_node node = {})
+        : clsZR3Item(clsXMLPropertyTable::of<clsZR3JointInstruction>(), "xmlZR3JointInstruction", node)
+    {
+    }
+
+    clsXMLLong<"OrderID", true> OrderID {*this};
+    clsXMLText<"ExpertType"> ExpertType {*this};
+    clsXMLText<"PartyName"> PartyName {*this};
+    clsXMLText<"Solicitor"> Solicitor {*this};
+    clsXMLText<"CertificateReference"> CertificateReference {*this};
+    clsXMLText<"PercentApportioned"> PercentApportioned {*this};
+};

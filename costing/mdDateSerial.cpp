@@ -1,0 +1,32 @@
+#include "costing/mdDateSerial.h"
+
+#include <QDate>
+#include <QStringList>
+
+namespace {
+
+constexpr int LastYearOfThisCentury = 29;
+
+int fullYear(int year, qsizetype digits)
+{
+    if (digits > 2)
+        return year;
+    return year <= LastYearOfThisCentury ? 2000 + year : 1900 + year;
+}
+
+} // namespace
+
+QString mdDateSerial(const QString &date)
+{
+    const QStringList pieces = date.split(u'/');
+    if (pieces.size() != 3)
+        return date;
+    bool isNumber[3];
+    const int day = pieces[0].toInt(&isNumber[0]);
+    const int month = pieces[1].toInt(&isNumber[1]);
+    const int year = pieces[2].toInt(&isNumber[2]);
+    if (!isNumber[0] || !isNumber[1] || !isNumber[2])
+        return date;
+    const QDate parsed(fullYear(year, pieces[2].size()), month, day);
+    return parsed.isValid() ? parsed.toString(QStringLiteral("yyyyMMdd")) : date;
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "costing/Money.h"
+
+#include <QString>
+
+class clsZR3Form;
+
+// The figures of the schedule of time. Columns are numbered as an item's `TimeColumn` gives them, 0 to 4. Nothing is
+// stored: each total is computed from the items when it is asked for, over the items that stand on the bill.
+
+/// The time of a column as hours, a colon and minutes.
+QString ColumnTimeTotal(const clsZR3Form &form, int column);
+/// The claims of a column.
+Money ColumnClaimTotal(const clsZR3Form &form, int column);
+/// The claims of all columns.
+Money ScheduleTotal(const clsZR3Form &form);
+/// The claims of all advocacy items, also of a bill that leaves the others out. On `Claim1A` with items of the Family
+/// Advocacy Scheme it is their total instead, and the schedule's advocacy plays no part.
+Money AdvocacyTotal(const clsZR3Form &form);

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "costing/Money.h"
+
+#include <QString>
+
+#include <memory>
+
+class clsZR3FeeEarnerGroup;
+class clsZR3Form;
+
+/// The kinds of communication, by the numbers that the bill's lines are asked for.
+enum class clsCommsKind { Calls = 0, LettersIn = 1, LettersOut = 2 };
+
+/// The government forms have two rows for each kind: a third group is not billed.
+constexpr int CommsLines = 2;
+
+// A line is the n-th group, by order, that has both such communications and a positive rate for them. Without a group
+// on the line the money figures are 0 and the texts empty.
+
+/// The group on a line, or nothing.
+std::shared_ptr<clsZR3FeeEarnerGroup> CommsGroupAtLine(const clsZR3Form &form, int line, clsCommsKind kind);
+/// The group's rate for the kind, to the penny.
+Money CommsRateAtLine(const clsZR3Form &form, int line, clsCommsKind kind);
+/// The group's count for the kind.
+QString CommsCountAtLine(const clsZR3Form &form, int line, clsCommsKind kind);
+/// Count times rate, to the penny.
+Money CommsBasicAtLine(const clsZR3Form &form, int line, clsCommsKind kind);
+/// The uplift from the group's own enhancement, to the penny.
+Money CommsGroupEnhancement(const clsZR3Form &form, int line, clsCommsKind kind);
+/// The listed uplift, at four decimals, plus the group's.
+Money CommsEnhancementAtLine(const clsZR3Form &form, int line, clsCommsKind kind);
+/// Basic plus uplift, with the uplift's decimals.
+Money CommsClaimAtLine(const clsZR3Form &form, int line, clsCommsKind kind);
+
+/// The claims of all lines, to the penny.
+Money CommsTotal(const clsZR3Form &form);
+/// Schedule of time plus communications, to the penny.
+Money ProfitCostsTotal(const clsZR3Form &form);

@@ -1,0 +1,63 @@
+#include "costing/mdGetCounselTotals.h"
+
+#include "formdata/clsZR3Form.h"
+#include "shell/mdExisting.h"
+
+namespace {
+
+/// The sum of a money field over the disbursements that are counsel's fees.
+template <class Field> Money sumOfFees(const clsZR3Form &form, Field field)
+{
+    Money total;
+    for (const auto &disbursement : form.DisbursementsCollection())
+        if (disbursement->Counsel())
+            total = total + MoneyFromText(((*disbursement).*field)());
+    return total;
+}
+
+/// The counsel whom the breakdown shows at a position, or nothing.
+std::shared_ptr<clsZR3Counsel> counselAtLine(const clsZR3Form &form, int position)
+{
+    const int number = int(form.CounselCollection().size());
+    if (number < 2 || position > number)
+        return {};
+    const auto counsel = form.CounselByOrderID(position);
+    mdExisting(counsel);
+    return counsel;
+}
+
+} // namespace
+
+Money CounselFeesAmountTotal(const clsZR3Form &form)
+{
+    return sumOfFees(form, &clsZR3Disbursement::Amount);
+}
+
+Money CounselFeesVATTotal(const clsZR3Form &form)
+{
+    return sumOfFees(form, &clsZR3Disbursement::VAT);
+}
+
+Money CounselFeesTotal(const clsZR3Form &form)
+{
+    return CounselFeesAmountTotal(form) + CounselFeesVATTotal(form);
+}
+
+QString CounselAccountNumberAtLine(const clsZR3Form &form, int position)
+{
+    const auto counsel = counselAtLine(form, position);
+    return counsel ? counsel->AccountNumber() : QString();
+}
+
+Money CounselGrossAtLine(const clsZR3Form &form, int position)
+{
+    const auto counsel = counselAtLine(form, position);
+    if (!counsel)
+        return {};
+    const QString uniqueID = counsel->UniqueID();
+    Money total;
+    for (const auto &disbursement : form.DisbursementsCollection())
+        if (disbursement->Counsel() && disbursement->CounselUniqueID() == uniqueID)
+            total = total + MoneyFromText(disbursement->Amount()) + MoneyFromText(disbursement->VAT());
+    return total;
+}

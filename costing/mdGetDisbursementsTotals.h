@@ -1,0 +1,14 @@
+#pragma once
+
+#include "costing/Money.h"
+
+class clsZR3Form;
+
+// Sums of amounts as they are entered, with no rounding. An amount that is no number is the type error.
+
+Money CounselDisbursementsAmountTotal(const clsZR3Form &form);
+Money CounselDisbursementsVATTotal(const clsZR3Form &form);
+Money NonCounselDisbursementsAmountTotal(const clsZR3Form &form);
+Money NonCounselDisbursementsVATTotal(const clsZR3Form &form);
+Money ExpertInvoicesNetTotal(const clsZR3Form &form);
+Money ExpertInvoicesVATTotal(const clsZR3Form &form);

@@ -1,0 +1,22 @@
+#include "costing/mdGetFASTotals.h"
+
+#include "formdata/clsZR3Form.h"
+
+Money FASItemsTotal(const clsZR3Form &form)
+{
+    Money total;
+    for (const auto &item : form.FASItemsCollection())
+        total = total + item->Total();
+    return total;
+}
+
+Money FASVATTotal(const clsZR3Form &form)
+{
+    Money total;
+    for (const auto &item : form.FASItemsCollection()) {
+        if (item->VATForFAS().isEmpty())
+            item->VATForFAS = QStringLiteral("0");
+        total = total + MoneyFromText(item->VATForFAS());
+    }
+    return total;
+}

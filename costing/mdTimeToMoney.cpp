@@ -1,0 +1,11 @@
+#include "costing/mdTimeToMoney.h"
+
+#include "costing/mdTimeFormatting.h"
+
+Money TimeToMoney(QStringView timeText, Money ratePerHour)
+{
+    // Dividing first, multiplying once, on the whole time: another order gives another last digit, and the claim must
+    // agree to the penny with those already lodged.
+    const double hours = double(TimeToMinutes(timeText)) / 60.0;
+    return RoundMoney2(ratePerHour.toDouble() * hours);
+}

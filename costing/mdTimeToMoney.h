@@ -1,0 +1,6 @@
+#pragma once
+
+#include "costing/Money.h"
+
+/// The price of a duration at a rate in pounds per hour, to the penny. Errors of `TimeToMinutes` and `RoundMoney2`.
+Money TimeToMoney(QStringView timeText, Money ratePerHour);

@@ -1,0 +1,164 @@
+#pragma once
+
+#include "formdata/mdXMLControl.h"
+
+#include <QString>
+
+#include <algorithm>
+#include <cstddef>
+#include <vector>
+
+class clsXMLRecord;
+
+/// The kinds of value that an element can hold. Money, rates, dates and times are text at this level: only their
+/// users convert them, so that a value survives a load and a save to the last character.
+enum class clsXMLKind { Text, Boolean, Long };
+
+/// What is known of a property without any record at hand: declared once, by the field that bears it.
+struct clsXMLProperty {
+    const char *name; ///< such as "DateOfBirth"
+    const char *element; ///< the name in lower case, which is the element's
+    clsXMLKind kind;
+    bool key; ///< the record is looked up by this value, so that a write makes look-ups stale
+};
+
+/// The place of a property in a record of its class.
+struct clsXMLPropertyPlace {
+    const clsXMLProperty *property;
+    std::ptrdiff_t offset;
+};
+
+/// The properties of one class of records in the order of their declaration. It fills itself while the first record
+/// of the class is made, from the same lines that declare the properties.
+class clsXMLPropertyTable {
+public:
+    template <class Record> static clsXMLPropertyTable &of()
+    {
+        static clsXMLPropertyTable table;
+        return table;
+    }
+
+    const std::vector<clsXMLPropertyPlace> &rows() const { return m_rows; }
+
+private:
+    friend class clsXMLRecord;
+    friend class clsXMLField;
+    void recordBegins() { m_complete = !m_rows.empty(); }
+
+    std::vector<clsXMLPropertyPlace> m_rows;
+    bool m_complete = false;
+};
+
+/// One property of a record: reads and writes the child element of its name directly. There is no second copy.
+class clsXMLField {
+public:
+    clsXMLField(clsXMLRecord &record, const clsXMLProperty &property);
+    clsXMLField(const clsXMLField &) = delete;
+
+    const clsXMLProperty &property() const { return *m_property; }
+
+    /// The element's content as it stands; a missing element is the object error.
+    const char *content() const;
+    /// Writes the content, and nothing when it stands there already.
+    void setContent(const char *content);
+
+    /// The content by the rule of each kind, for whoever knows a property only by its name.
+    /// A text is decoded; a boolean is "True" or "False" in any case or a number, and anything else is the type error;
+    /// a long is the number at the start of the content, rounded, and 0 without one.
+    QString readText() const;
+    bool readBoolean() const;
+    int readLong() const;
+    void writeText(const QString &value);
+    void writeBoolean(bool value);
+    void writeLong(int value);
+
+private:
+    clsXMLRecord *m_record;
+    const clsXMLProperty *m_property;
+};
+
+/// A live view of one element: its fields go to the tree on every read and write. Not copyable, since an element
+/// has one record.
+class clsXMLRecord {
+public:
+    clsXMLRecord(const clsXMLRecord &) = delete;
+    clsXMLRecord &operator=(const clsXMLRecord &) = delete;
+
+    pugi::xml_node XMLNode() const { return m_node; }
+    QString XMLOutput() const { return XMLElementOutput(m_node); }
+
+    /// The record's properties, in the order of their declaration.
+    const std::vector<clsXMLPropertyPlace> &properties() const { return m_table->rows(); }
+    /// The property of that name, or nothing.
+    clsXMLField *field(QStringView name);
+    const clsXMLField *field(QStringView name) const { return const_cast<clsXMLRecord *>(this)->field(name); }
+
+protected:
+    explicit clsXMLRecord(clsXMLPropertyTable &table)
+        : m_table(&table)
+    {
+        table.recordBegins();
+    }
+    ~clsXMLRecord() = default;
+
+    void bind(pugi::xml_node node) { m_node = node; }
+    /// Sets the flag that a write to a key property raises.
+    void reportKeyWritesTo(bool *keysChanged) { m_keysChanged = keysChanged; }
+
+private:
+    friend class clsXMLField;
+
+    pugi::xml_node m_node;
+    clsXMLPropertyTable *m_table;
+    bool *m_keysChanged = nullptr;
+};
+
+/// A name that is part of a type, so that its lower-case twin is made by the compiler.
+template <std::size_t Size> struct clsXMLName {
+    char text[Size];
+    consteval clsXMLName(const char (&name)[Size]) { std::copy_n(name, Size, text); }
+    consteval clsXMLName lower() const
+    {
+        clsXMLName result = *this;
+        for (char &c : result.text)
+            if (c >= 'A' && c <= 'Z')
+                c = char(c - 'A' + 'a');
+        return result;
+    }
+};
+
+template <clsXMLName Name, clsXMLKind Kind, bool Key> struct clsXMLPropertyOf {
+    static constexpr clsXMLName Lower = Name.lower();
+    static constexpr clsXMLProperty value {Name.text, Lower.text, Kind, Key};
+};
+
+/// `record.Surname()` reads, `record.Surname = text` writes.
+template <clsXMLName Name, bool Key = false> class clsXMLText : public clsXMLField {
+public:
+    explicit clsXMLText(clsXMLRecord &record)
+        : clsXMLField(record, clsXMLPropertyOf<Name, clsXMLKind::Text, Key>::value)
+    {
+    }
+    QString operator()() const { return readText(); }
+    void operator=(const QString &value) { writeText(value); }
+};
+
+template <clsXMLName Name> class clsXMLBoolean : public clsXMLField {
+public:
+    explicit clsXMLBoolean(clsXMLRecord &record)
+        : clsXMLField(record, clsXMLPropertyOf<Name, clsXMLKind::Boolean, false>::value)
+    {
+    }
+    bool operator()() const { return readBoolean(); }
+    void operator=(bool value) { writeBoolean(value); }
+};
+
+template <clsXMLName Name, bool Key = false> class clsXMLLong : public clsXMLField {
+public:
+    explicit clsXMLLong(clsXMLRecord &record)
+        : clsXMLField(record, clsXMLPropertyOf<Name, clsXMLKind::Long, Key>::value)
+    {
+    }
+    int operator()() const { return readLong(); }
+    void operator=(int value) { writeLong(value); }
+};

@@ -1,0 +1,195 @@
+#include "formdata/clsZR3Form.h"
+
+#include "costing/mdNumberText.h"
+#include "formdata/mdXMLGenerateNodes.h"
+#include "formdata/mdXMLTemplate.h"
+#include "shell/clsRunTimeError.h"
+#include "shell/mdCustomMessages.h"
+#include "shell/mdGetResourceData.h"
+#include "shell/mdSetProgress.h"
+#include "shell/mdTextDocumentHandling.h"
+
+#include <limits>
+
+namespace {
+
+constexpr char RootElement[] = "vzrform";
+
+// It must not end in the letters of a claim's extension: a backup under this name is then never deleted by age.
+const QString UnsavedFileName = QStringLiteral("Unsaved Claim.zr3-new");
+
+/// Walks a list by `OrderID` from 1 to its count; a gap is the object error.
+template <class List, class Visit> void inOrder(const List &list, Visit visit)
+{
+    for (int n = 1; n <= list.count(); ++n) {
+        const auto item = list.byOrder(n);
+        if (!item)
+            throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
+        visit(item);
+    }
+}
+
+/// The item at a 1-based place of a derived collection; the subscript error outside it.
+template <class Collection> auto itemAt(const Collection &collection, int index)
+{
+    if (index < 1 || index > int(collection.size()))
+        throw clsRunTimeError(clsRunTimeError::SubscriptOutOfRange);
+    return collection[size_t(index - 1)];
+}
+
+} // namespace
+
+clsZR3Form::clsZR3Form()
+    : clsXMLRecord(clsXMLPropertyTable::of<clsZR3Form>())
+{
+    takeRoot(XMLLoadElement(GetResourceData(QStringLiteral("xmlZR3Form"), QStringLiteral("VELMORZR3XML")),
+                            RootElement));
+}
+
+bool clsZR3Form::LoadXML(const QString &filePath)
+{
+    const clsXMLElement root = XMLLoadElement(ReadTextDocument(filePath, true), RootElement);
+    if (!root) {
+        mdCustomMessages(QStringLiteral("There was a problem opening the selected file. Please ensure that the file is "
+                                        "a valid ZR3 file and try again"),
+                         QStringLiteral("Error"));
+        return false;
+    }
+    GenerateNodes(root.node(), mdXMLTemplate("xmlZR3Form"));
+    takeRoot(root);
+    return true;
+}
+
+void clsZR3Form::takeRoot(const clsXMLElement &root)
+{
+    m_root = root;
+    bind(root.node());
+    LoadElements();
+}
+
+void clsZR3Form::SaveXML(const QString &filePath) const
+{
+    WriteTextDocument(XMLOutput(), filePath, true);
+}
+
+void clsZR3Form::LoadElements()
+{
+    mdSetProgress(1, 1, QStringLiteral("Loading , please wait...")); // the blank before the comma is part of the text
+    RenderFeeEarnerGroups();
+    RenderFeeEarners();
+    RenderCounsel();
+    RenderEnhancements();
+    RenderExpertInvoices();
+    RenderJointInstructions();
+    RenderDisbursements();
+    RenderFASItems();
+    RenderScheduleOfTimeItems();
+
+    clsZR3Section *const sections[] = {
+        &ClientDetails, &SolicitorDetails, &PreviousAdvice, &CaseInformation, &OutcomeOfCase, &LateSubmission,
+        &NatureOfProceedings, &ActualCostsIncurred, &DetailsOfWork, &CounselOutstandingClaims, &Communications,
+        &DetailsOfMonies, &DetailsOfCostsAwarded, &DebtorsDetails,
+    };
+    for (clsZR3Section *section : sections)
+        section->XMLNode(XMLNode().child(section->elementName()));
+    mdClearProgress();
+}
+
+QString clsZR3Form::FormFileName() const
+{
+    QString file = path();
+    if (file.isEmpty())
+        return UnsavedFileName;
+    file.replace(u'/', u'\\');
+    return file.mid(file.lastIndexOf(u'\\') + 1);
+}
+
+QString clsZR3Form::GenerateUniqueID()
+{
+    // Strict, unlike other longs: an identity given twice would tie items to the wrong fee earner.
+    const int last = LongFromStrictText(m_idCounter.readText());
+    if (last == std::numeric_limits<int>::max())
+        throw clsRunTimeError(clsRunTimeError::Overflow);
+    m_idCounter = last + 1;
+    return QStringLiteral("ID%1").arg(last + 1);
+}
+
+bool clsZR3Form::IncludePage(int page) const
+{
+    const clsXMLField *flag = field(QStringLiteral("IncludePage%1").arg(page));
+    if (!flag)
+        throw clsRunTimeError(clsRunTimeError::SubscriptOutOfRange);
+    return flag->readBoolean();
+}
+
+bool clsZR3Form::IsOnBill(const clsZR3ScheduleOfTimeItem &item) const
+{
+    return FormType() == QLatin1String("Claim1") || !ExcludeNonAdvocacy() || item.Advocacy();
+}
+
+void clsZR3Form::RenderScheduleOfTimeItemsForExport()
+{
+    m_forExport.clear();
+    int number = 0;
+    inOrder(m_ScheduleOfTimeItems, [&](const ScheduleOfTimeItemsList::Pointer &item) {
+        if (!IsOnBill(*item))
+            return;
+        item->SOTItemNumber = ++number;
+        m_forExport.push_back(item);
+    });
+}
+
+void clsZR3Form::RenderAdditionalInformationItems()
+{
+    m_additional.clear();
+    for (const auto &item : m_forExport)
+        if (!item->Description().isEmpty())
+            m_additional.push_back(item);
+}
+
+clsZR3Form::ScheduleOfTimeItemsList::Pointer clsZR3Form::AdditionalInformationItem(int index) const
+{
+    return itemAt(m_additional, index);
+}
+
+void clsZR3Form::CreateFASCollections()
+{
+    m_boltOns.clear();
+    m_travel.clear();
+    inOrder(m_FASItems, [&](const FASItemsList::Pointer &item) {
+        if (!item->BoltOnDescription().isEmpty())
+            m_boltOns.push_back(item);
+        if (!item->ExceptionalTravelDistance().isEmpty() || !item->ExceptionalTravelReason().isEmpty())
+            m_travel.push_back(item);
+    });
+}
+
+void clsZR3Form::SeparateCounselAndNonCounselDisbursements()
+{
+    m_counselFees.clear();
+    m_nonCounsel.clear();
+    inOrder(m_Disbursements, [&](const DisbursementsList::Pointer &item) {
+        (item->Counsel() ? m_counselFees : m_nonCounsel).push_back(item);
+    });
+}
+
+clsZR3Form::DisbursementsList::Pointer clsZR3Form::CounselDisbursement(int index) const
+{
+    return itemAt(m_counselFees, index);
+}
+
+clsZR3Form::DisbursementsList::Pointer clsZR3Form::NonCounselDisbursement(int index) const
+{
+    return itemAt(m_nonCounsel, index);
+}
+
+void clsZR3Form::rendered(const ScheduleOfTimeItemsList &)
+{
+    RenderScheduleOfTimeItemsForExport();
+    RenderAdditionalInformationItems();
+}
+
+pugi::xml_node clsZR3Form::listElement(QLatin1String plural) const
+{
+    return XMLNode().child(QString(plural).toLower().toLatin1().constData());
+}

@@ -1,0 +1,187 @@
+#pragma once
+
+#include "costing/clsZR3Communications.h"
+#include "costing/clsZR3Counsel.h"
+#include "costing/clsZR3Disbursement.h"
+#include "costing/clsZR3Enhancement.h"
+#include "costing/clsZR3ExpertInvoice.h"
+#include "costing/clsZR3FASItem.h"
+#include "costing/clsZR3FeeEarner.h"
+#include "costing/clsZR3FeeEarnerGroup.h"
+#include "costing/clsZR3JointInstruction.h"
+#include "costing/clsZR3ScheduleOfTimeItem.h"
+#include "formdata/clsXMLRecord.h"
+#include "formdata/clsZR3List.h"
+#include "formdata/clsZR3Sections.h"
+
+/// One list of the claim and its family of members. `Plural` names the element, the collection and the render routine,
+/// `Single` the item class and the members that deal with one item.
+#define ZR3_LIST(Plural, Single)                                                                                       \
+public:                                                                                                                \
+    using Plural##List = clsZR3List<clsZR3##Single>;                                                                   \
+    pugi::xml_node XML##Plural##Node() const { return m_##Plural.XMLNode(); }                                          \
+    const Plural##List::Collection &Plural##Collection() const { return m_##Plural.collection(); }                     \
+    void Render##Plural()                                                                                              \
+    {                                                                                                                  \
+        m_##Plural.render(listElement(QLatin1String(#Plural)), *this);                                                 \
+        rendered(m_##Plural);                                                                                          \
+    }                                                                                                                  \
+    Plural##List::Pointer Add##Single() { return identified(m_##Plural.add(*this)); }                                  \
+    void Delete##Single(int index) { m_##Plural.remove(index); }                                                       \
+    Plural##List::Pointer Single(int index) const { return m_##Plural.at(index); }                                     \
+    Plural##List::Pointer Single##ByOrderID(int orderID) const { return m_##Plural.byOrder(orderID); }                 \
+                                                                                                                       \
+private:                                                                                                               \
+    Plural##List m_##Plural;
+
+/// The look-up by identity, for the lists whose items other elements point at.
+#define ZR3_IDENTITY(Plural, Single)                                                                                   \
+public:                                                                                                                \
+    Plural##List::Pointer Single##ByUniqueID(const QString &uniqueID) const                                            \
+    {                                                                                                                  \
+        return m_##Plural.byIdentity(uniqueID);                                                                        \
+    }
+
+/// A claim: the one object that owns the live tree, hands out its sections and lists, gives out identities, and loads
+/// and saves itself. It holds no value of its own: every property goes to the tree each time.
+class clsZR3Form : public clsXMLRecord {
+public:
+    /// A valid, empty claim with the template's defaults.
+    clsZR3Form();
+
+    /// Reads the claim at a path and brings it up to date. False, after a message, when it is no claim: this object is
+    /// then to be dropped, and whoever asked for the load goes on with a new claim.
+    bool LoadXML(const QString &filePath);
+    /// Writes the claim as it stands. Failures show the box of the text document routines; there is no result.
+    void SaveXML(const QString &filePath) const;
+    /// Rebuilds every collection and hands every section its element.
+    void LoadElements();
+
+    /// The file name in `path`, or a fixed one for a claim that was never saved.
+    QString FormFileName() const;
+    /// The next identity, "ID" and a number that is never given again.
+    QString GenerateUniqueID();
+
+    clsXMLText<"path"> path {*this};
+    clsXMLText<"Version"> Version {*this};
+    clsXMLText<"ExportPath"> ExportPath {*this};
+    clsXMLText<"TimeSpent"> TimeSpent {*this};
+    clsXMLLong<"DefaultFeeEarnerListIndex"> DefaultFeeEarnerListIndex {*this};
+    clsXMLText<"FormType"> FormType {*this};
+    clsXMLBoolean<"VAT"> VAT {*this};
+    clsXMLText<"VATRate"> VATRate {*this};
+    clsXMLBoolean<"IncludePanelMembershipContSheet"> IncludePanelMembershipContSheet {*this};
+    clsXMLBoolean<"CostsAssessedByLSC"> CostsAssessedByLSC {*this};
+    clsXMLBoolean<"CostsAssessedByCourt"> CostsAssessedByCourt {*this};
+    clsXMLBoolean<"ExceptionalCaseFunding"> ExceptionalCaseFunding {*this};
+    clsXMLBoolean<"MentalHealth"> MentalHealth {*this};
+    clsXMLBoolean<"VHCC"> VHCC {*this};
+    clsXMLText<"StageNumber"> StageNumber {*this};
+    clsXMLText<"TypeOfCase"> TypeOfCase {*this};
+    clsXMLText<"Notes"> Notes {*this};
+    clsXMLBoolean<"IncludePage1"> IncludePage1 {*this};
+    clsXMLBoolean<"IncludePage2"> IncludePage2 {*this};
+    clsXMLBoolean<"IncludePage3"> IncludePage3 {*this};
+    clsXMLBoolean<"IncludePage4"> IncludePage4 {*this};
+    clsXMLBoolean<"IncludePage5"> IncludePage5 {*this};
+    clsXMLBoolean<"IncludePage6"> IncludePage6 {*this};
+    clsXMLBoolean<"IncludePage7"> IncludePage7 {*this};
+    clsXMLBoolean<"IncludePage8"> IncludePage8 {*this};
+    clsXMLBoolean<"IncludePage9"> IncludePage9 {*this};
+    clsXMLBoolean<"IncludePage10"> IncludePage10 {*this};
+    clsXMLBoolean<"IncludePage11"> IncludePage11 {*this};
+    clsXMLBoolean<"IncludePage12"> IncludePage12 {*this};
+    clsXMLBoolean<"IncludePage13"> IncludePage13 {*this};
+    clsXMLBoolean<"ExcludeNonAdvocacy"> ExcludeNonAdvocacy {*this};
+    clsXMLBoolean<"ExpertsMeetMOJStandardYes"> ExpertsMeetMOJStandardYes {*this};
+    clsXMLBoolean<"ExpertsMeetMOJStandardNo"> ExpertsMeetMOJStandardNo {*this};
+    clsXMLText<"ExpertsMeetMOJStandardReasons"> ExpertsMeetMOJStandardReasons {*this};
+
+    /// `IncludePage1` to `IncludePage13` by number.
+    bool IncludePage(int page) const;
+
+    clsZR3ClientDetails ClientDetails;
+    clsZR3SolicitorDetails SolicitorDetails;
+    clsZR3PreviousAdvice PreviousAdvice;
+    clsZR3CaseInformation CaseInformation;
+    clsZR3OutcomeOfCase OutcomeOfCase;
+    clsZR3LateSubmission LateSubmission;
+    clsZR3NatureOfProceedings NatureOfProceedings;
+    clsZR3ActualCostsIncurred ActualCostsIncurred;
+    clsZR3DetailsOfWork DetailsOfWork;
+    clsZR3CounselOutstandingClms CounselOutstandingClaims;
+    clsZR3Communications Communications;
+    clsZR3DetailsOfMonies DetailsOfMonies;
+    clsZR3DetailsOfCostsAwarded DetailsOfCostsAwarded;
+    clsZR3DebtorsDetails DebtorsDetails;
+
+    ZR3_LIST(FeeEarnerGroups, FeeEarnerGroup)
+    ZR3_IDENTITY(FeeEarnerGroups, FeeEarnerGroup)
+    ZR3_LIST(FeeEarners, FeeEarner)
+    ZR3_IDENTITY(FeeEarners, FeeEarner)
+    ZR3_LIST(Counsel, Counsel)
+    ZR3_IDENTITY(Counsel, Counsel)
+    ZR3_LIST(Enhancements, Enhancement)
+    ZR3_IDENTITY(Enhancements, Enhancement)
+    ZR3_LIST(FASItems, FASItem)
+    ZR3_LIST(ScheduleOfTimeItems, ScheduleOfTimeItem)
+    ZR3_LIST(ExpertInvoices, ExpertInvoice)
+    ZR3_LIST(JointInstructions, JointInstruction)
+    ZR3_LIST(Disbursements, Disbursement)
+
+public:
+    /// True when the item stands on the bill: all but the non-advocacy items of a `Claim1A` that leaves them out.
+    bool IsOnBill(const clsZR3ScheduleOfTimeItem &item) const;
+
+    // The derived collections hold the objects of the lists, in `OrderID` order. Each is rebuilt whole by its routine
+    // and is not kept up to date by changes of properties. A gap in the order is the object error.
+
+    /// Numbers the items that the export prints into their `SOTItemNumber` and collects them.
+    void RenderScheduleOfTimeItemsForExport();
+    const ScheduleOfTimeItemsList::Collection &ScheduleOfTimeItemsForExportCollection() const { return m_forExport; }
+
+    /// Collects those of the export's items that have a description; to be run after the routine above.
+    void RenderAdditionalInformationItems();
+    const ScheduleOfTimeItemsList::Collection &AdditionalInformationItemsCollection() const { return m_additional; }
+    ScheduleOfTimeItemsList::Pointer AdditionalInformationItem(int index) const;
+
+    /// Collects the items with a bolt-on and those with exceptional travel; an item may stand in both or neither.
+    void CreateFASCollections();
+    const FASItemsList::Collection &FASBoltOnPaymentsCollection() const { return m_boltOns; }
+    const FASItemsList::Collection &FASTravelBoltOnsCollection() const { return m_travel; }
+
+    /// Parts the disbursements into counsel's fees and the others.
+    void SeparateCounselAndNonCounselDisbursements();
+    const DisbursementsList::Collection &CounselDisbursementsCollection() const { return m_counselFees; }
+    const DisbursementsList::Collection &NonCounselDisbursementsCollection() const { return m_nonCounsel; }
+    DisbursementsList::Pointer CounselDisbursement(int index) const;
+    DisbursementsList::Pointer NonCounselDisbursement(int index) const;
+
+private:
+    pugi::xml_node listElement(QLatin1String plural) const;
+    template <class Pointer> Pointer identified(const Pointer &item)
+    {
+        if constexpr (requires { item->UniqueID; })
+            item->UniqueID = GenerateUniqueID();
+        return item;
+    }
+
+    template <class List> void rendered(const List &) { }
+    void rendered(const FASItemsList &) { CreateFASCollections(); }
+    void rendered(const ScheduleOfTimeItemsList &);
+    void rendered(const DisbursementsList &) { SeparateCounselAndNonCounselDisbursements(); }
+
+    void takeRoot(const clsXMLElement &root);
+
+    clsXMLLong<"IDCounter"> m_idCounter {*this};
+    clsXMLElement m_root;
+    ScheduleOfTimeItemsList::Collection m_forExport;
+    ScheduleOfTimeItemsList::Collection m_additional;
+    FASItemsList::Collection m_boltOns;
+    FASItemsList::Collection m_travel;
+    DisbursementsList::Collection m_counselFees;
+    DisbursementsList::Collection m_nonCounsel;
+};
+
+#undef ZR3_LIST
+#undef ZR3_IDENTITY

@@ -1,0 +1,50 @@
+#include "formdata/clsZR3PreferencesDatabase.h"
+
+#include "formdata/mdXMLGenerateNodes.h"
+#include "formdata/mdXMLTemplate.h"
+#include "shell/clsRunTimeError.h"
+#include "shell/mdDatabasePath.h"
+#include "shell/mdTextDocumentHandling.h"
+
+clsZR3PreferencesDatabase::clsZR3PreferencesDatabase()
+    : clsXMLRecord(clsXMLPropertyTable::of<clsZR3PreferencesDatabase>())
+{
+    LoadXML(filePath());
+}
+
+QString clsZR3PreferencesDatabase::filePath()
+{
+    return GetDatabasePath() + QStringLiteral("/Preferences Database.vzp");
+}
+
+void clsZR3PreferencesDatabase::LoadXML(const QString &path)
+{
+    m_root = XMLLoadElement(ReadTextDocument(path, true), "preferencesdatabase");
+    bind(m_root.node());
+    GenerateNodes(m_root.node(), mdXMLTemplate("xmlZR3PreferencesDatabase"));
+    LoadElements();
+}
+
+void clsZR3PreferencesDatabase::SaveXML() const
+{
+    WriteTextDocument(XMLOutput(), filePath(), true);
+}
+
+void clsZR3PreferencesDatabase::LoadElements()
+{
+    // There is no fallback for a missing or malformed file: an administrator makes a new one.
+    if (!m_root)
+        throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
+    RenderReplacements();
+    RenderRateSets();
+}
+
+void clsZR3PreferencesDatabase::RenderReplacements()
+{
+    m_replacements.render(XMLNode().child("replacements"));
+}
+
+void clsZR3PreferencesDatabase::RenderRateSets()
+{
+    m_rateSets.render(XMLNode().child("ratesets"));
+}

@@ -1,0 +1,71 @@
+#include "formdata/mdXMLControl.h"
+
+#include "formdata/mdURLEncode.h"
+#include "formdata/mdXMLReplaceProblemCharacters.h"
+
+#include <cstring>
+#include <string>
+
+namespace {
+
+// A claim is four levels deep. The bound keeps whatever walks a tree safe from a file made to exhaust it, and leaves
+// later versions all the room that they could want.
+constexpr int DeepestNesting = 1000;
+
+// White space between elements carries no meaning and is dropped; comments and instructions are kept, since nothing
+// that the program does not know may be lost by a load and a save.
+constexpr unsigned ParseOptions = pugi::parse_default | pugi::parse_comments | pugi::parse_pi;
+
+class DepthCheck final : public pugi::xml_tree_walker {
+public:
+    bool for_each(pugi::xml_node &) override { return depth() < DeepestNesting; }
+};
+
+class TextWriter final : public pugi::xml_writer {
+public:
+    std::string text;
+    void write(const void *data, size_t size) override { text.append(static_cast<const char *>(data), size); }
+};
+
+/// True when the content reads as it stands: plain ASCII without an encoded character.
+bool readsAsItStands(const char *content)
+{
+    for (; *content; ++content)
+        if (*content == '%' || *content == '+' || uchar(*content) >= 0x80)
+            return false;
+    return true;
+}
+
+} // namespace
+
+QByteArray XMLEncodeText(const QString &text)
+{
+    return URLEncode(ReplaceProblemCharacters(text));
+}
+
+QString XMLDecodeText(const char *content)
+{
+    if (readsAsItStands(content))
+        return QString::fromLatin1(content);
+    return URLDecode(QString::fromUtf8(content));
+}
+
+clsXMLElement XMLLoadElement(const QString &xml, const char *name)
+{
+    const QByteArray utf8 = xml.toUtf8();
+    auto document = std::make_shared<pugi::xml_document>();
+    if (!document->load_buffer(utf8.constData(), size_t(utf8.size()), ParseOptions, pugi::encoding_utf8))
+        return {};
+    const pugi::xml_node root = document->document_element();
+    DepthCheck depthCheck;
+    if (std::strcmp(root.name(), name) != 0 || !document->traverse(depthCheck))
+        return {};
+    return {std::move(document), root};
+}
+
+QString XMLElementOutput(pugi::xml_node node)
+{
+    TextWriter writer;
+    node.print(writer, "", pugi::format_raw | pugi::format_no_declaration, pugi::encoding_utf8);
+    return QString::fromUtf8(writer.text.data(), qsizetype(writer.text.size()));
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <pugixml.hpp>
+
+#include <memory>
+
+/// An element and the document in which it lives; the element is good for as long as this is.
+class clsXMLElement {
+public:
+    clsXMLElement() = default;
+    clsXMLElement(std::shared_ptr<pugi::xml_document> document, pugi::xml_node node)
+        : m_document(std::move(document))
+        , m_node(node)
+    {
+    }
+
+    explicit operator bool() const { return !m_node.empty(); }
+    pugi::xml_node node() const { return m_node; }
+
+private:
+    std::shared_ptr<pugi::xml_document> m_document;
+    pugi::xml_node m_node;
+};
+
+/// A text as it stands in an element: problem characters replaced, then encoded. Every write goes through here.
+QByteArray XMLEncodeText(const QString &text);
+
+/// The text of an element's content (UTF-8). Every read goes through here.
+QString XMLDecodeText(const char *content);
+
+/// Parses a text and returns its root element, or nothing when the text is not XML, its root has another name, or it
+/// is nested so deeply that no program of this house can have written it.
+clsXMLElement XMLLoadElement(const QString &xml, const char *name);
+
+/// The serialisation of an element with its descendants, on one line: the same tree gives the same text, which is
+/// what tells a changed claim from an unchanged one.
+QString XMLElementOutput(pugi::xml_node node);

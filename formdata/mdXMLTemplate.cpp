@@ -1,0 +1,22 @@
+#include "formdata/mdXMLTemplate.h"
+
+#include "shell/clsRunTimeError.h"
+#include "shell/mdGetResourceData.h"
+
+#include <map>
+#include <string_view>
+
+pugi::xml_node mdXMLTemplate(const char *resourceName)
+{
+    static std::map<std::string_view, pugi::xml_document, std::less<>> templates;
+    const auto known = templates.find(std::string_view(resourceName));
+    if (known != templates.end())
+        return known->second.document_element();
+
+    pugi::xml_document &document = templates[resourceName];
+    const QByteArray text
+        = GetResourceData(QString::fromLatin1(resourceName), QStringLiteral("VELMORZR3XML")).toUtf8();
+    if (!document.load_buffer(text.constData(), size_t(text.size())))
+        throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
+    return document.document_element();
+}

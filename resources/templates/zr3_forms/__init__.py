@@ -1,0 +1,1 @@
+"""The page templates of the printed forms: look, pieces, pages and packages."""

@@ -1,0 +1,150 @@
+"""Every measure, tone, line and letter of the printed forms, in one place.
+
+One idea carries the design: what is printed stands on tint, what is answered
+stands on white.  Two tones, two line weights, one typeface, one set of columns.
+
+Lengths are points unless a name says otherwise; widths of cells are units.
+"""
+
+from typing import NamedTuple
+
+# --- The sheet -------------------------------------------------------------
+
+TWIPS = 20                      # to the point
+UNIT = 85                       # twips; 120 units fill the sheet's width
+ACROSS = 120
+SHEET_WIDTH, SHEET_HEIGHT = 11906, 16838            # A4 upright, in twips
+MARGIN_SIDE, MARGIN_TOP = 853, 624                  # in twips
+FULLEST = 15300                 # twips; 290 less than there is, so that a sheet
+                                # never spills, in whatever program prints it
+
+
+def twips(points):
+    return round(points * TWIPS)
+
+
+def units(count):
+    return count * UNIT
+
+
+# --- Tones and lines -------------------------------------------------------
+
+BAND = "1F3A4A"                 # deep slate, near black on an office printer
+TINT = "E9EEF1"                 # about 7 % grey
+RULE = "7F8C94"
+BLACK, WHITE = "000000", "FFFFFF"   # no grey type: laser printers break it into dots
+
+
+class Line(NamedTuple):
+    """A line between two cells; where two meet, the higher rank is drawn."""
+    rank: int
+    eighths: int                # of a point
+    colour: str
+
+
+NONE = Line(0, 0, "")
+HAIR = Line(1, 4, RULE)
+GAP = Line(2, 4, WHITE)         # parts the number from the title within a band
+EDGE = Line(3, 6, BAND)         # the outer edge, groups of columns, above totals
+
+
+# --- Type ------------------------------------------------------------------
+
+TYPEFACE = "Arial"
+LANGUAGE = "en-GB"
+LEFT, CENTRE, RIGHT = "left", "center", "right"
+
+
+class Style(NamedTuple):
+    """A paragraph style.  `line` is exact, so no program can lay it out taller."""
+    name: str
+    size: float
+    line: float
+    bold: bool = False
+    colour: str = BLACK
+    align: str = LEFT
+    before: float = 0
+    after: float = 0
+    left: int = 0               # insets in twips
+    right: int = 0
+
+
+MARK = Style("Mark", 9, 12, bold=True, align=RIGHT, right=100)
+SPACER = Style("Spacer", 1, 10)
+TAIL = Style("Tail", 1, 1)
+
+FORM_NAME = Style("Form Name", 27, 30, bold=True, colour=WHITE, align=CENTRE)
+FORM_TITLE = Style("Form Title", 19, 23, bold=True, left=280)
+FORM_SUBTITLE = Style("Form Subtitle", 10, 13, left=280)
+PAGE_WORD = Style("Page Word", 8, 10, align=CENTRE)
+PAGE_NUMBER = Style("Page Number", 17, 21, bold=True, align=CENTRE)
+PAGE_BOX = Style("Page Box", 11, 13, bold=True, left=100, right=100)
+PAGE_BOX_FORM = 8               # size of the form's name in the page box
+BAND_NUMBER = Style("Band Number", 11, 13, bold=True, colour=WHITE, align=CENTRE)
+BAND_TITLE = Style("Band Title", 11, 13, bold=True, colour=WHITE, left=160)
+CONTINUED = 9                   # size of ", continued" beside a title
+SUBHEADING = Style("Subheading", 9.5, 14, bold=True, before=3)
+
+QUESTION = Style("Question", 9.5, 12, left=100, right=100)
+KEY = Style("Key", 9.5, 12, bold=True, align=CENTRE)
+TICK = Style("Tick", 9.5, 15, left=100)
+TICK_BOX = 13                   # size of the box beside its word
+LABEL = Style("Label", 8, 10, left=100, right=100)
+NOTE = Style("Note", 8, 10)
+
+HEAD = Style("Head", 8, 9.5, bold=True, after=3, left=80, right=80)
+DENSE_HEAD = Style("Dense Head", 7.5, 8.6, bold=True, after=2.5, left=60, right=60)
+ANSWER_HEAD = Style("Answer Head", 8, 9.5, bold=True, after=3, left=100, right=100)
+GROUP_HEAD = Style("Group Head", 7.5, 9, bold=True, align=CENTRE)
+SCHEDULE_HEAD = Style("Schedule Head", 7.5, 8.6, bold=True, after=2.5, left=40, right=40)
+
+ANSWER = Style("Answer", 10, 12.5, left=100, right=100)
+BOX = Style("Text Box", 10, 12.5, before=5, left=100, right=100)
+LONG_BOX = Style("Long Text Box", 10, 14, before=5, left=280, right=280)
+SHEET_BOX = Style("Sheet Text Box", 10, 13, before=5, left=280, right=280)
+PLACE = Style("Place", 10, 13, left=100, right=100)
+GRAND_TOTAL = Style("Grand Total", 14, 18, bold=True, left=100, right=100)
+GRAND_TOTAL_LABEL = Style("Grand Total Label", 11, 13, bold=True, align=RIGHT,
+                          left=100, right=100)
+
+# Two lines of a grid's type fill a row of 20 points: a certificate reference of
+# twenty capitals needs both.
+GRID = Style("Grid", 9, 10, left=80, right=80)
+DENSE_GRID = Style("Dense Grid", 8, 9, left=60, right=60)
+SCHEDULE = Style("Schedule", 8.5, 10, left=40, right=40)
+# Five figures before the point stay on one line in a time column of the schedule.
+SCHEDULE_TOTAL = Style("Schedule Total", 8, 10, bold=True, left=40, right=40)
+
+STYLES = [
+    MARK, SPACER, TAIL,
+    FORM_NAME, FORM_TITLE, FORM_SUBTITLE, PAGE_WORD, PAGE_NUMBER, PAGE_BOX,
+    BAND_NUMBER, BAND_TITLE, SUBHEADING,
+    QUESTION, KEY, TICK, LABEL, NOTE,
+    HEAD, ANSWER_HEAD, DENSE_HEAD, SCHEDULE_HEAD, GROUP_HEAD,
+    ANSWER, BOX, LONG_BOX, SHEET_BOX, PLACE, GRAND_TOTAL, GRAND_TOTAL_LABEL,
+    GRID, DENSE_GRID, SCHEDULE, SCHEDULE_TOTAL,
+]
+
+# --- Heights of the pieces -------------------------------------------------
+
+QUIET_LINE = 12
+MASTHEAD = 58
+HEAD_BAND = 24
+BAND_HEIGHT = 20
+LABEL_ROW = 13
+ANSWER_ROW = 25                 # two lines: an allowance's worth of wide letters
+TICK_ROW = 27
+QUESTION_ROW = {1: 24, 2: 31, 3: 43}   # by lines of the question
+TOTAL_ROW = 22
+GROUP_HEADS = 14
+TAIL_LINE = 1
+
+# --- Stops of the pieces that stand on every page, in units ----------------
+
+KEY_UNITS = 8
+YES_NO_UNITS = 12
+PAGE_BOX_UNITS = 28
+MASTHEAD_UNITS = (32, 68, 20)
+
+# Stops of an additional information note, in twips from the edge of its place.
+NOTE_NUMBER_STOP, NOTE_TEXT_STOP = 450, 600

@@ -1,0 +1,419 @@
+"""Pages that both forms have, written once.
+
+A page differs between the forms in its number, the numbers of its sections and
+a few names of placeholders: those are the arguments.
+"""
+
+from . import look
+from .look import CENTRE, LEFT, RIGHT
+from .markup import Row, slot
+from .pieces import (
+    Column, Field, Grid, Total, answer_row, answered, code_question, fields, follow_up,
+    footnote, grid_heads, grid_table, head, label_row, masthead, money_row, notes, place, place_strip, printed, question, section, sheet, spacer,
+    strip, subheading, text_box, tick, ticks, totals,
+)
+
+
+# --- The first pages -------------------------------------------------------
+
+def first_page(form, exceptional, final_bill, other_providers=None):
+    """The ticks have other numbers on each form, and only one form asks about
+    the costs of other providers."""
+    final_key = "c" if other_providers else "b"
+    return sheet(
+        masthead(form, 1),
+        section(1, "This claim"),
+        ticks((60, "1", "Claim for costs to be assessed by the LAA"),
+              (60, "2", "Claim for costs assessed by the Court")),
+        ticks((50, exceptional, "Exceptional Case Funding determination"),
+              (45, "10", "Mental Health / Court of Protection"),
+              (25, "11", "VHCC / HCC")),
+        fields(Field(60, "Type of case", "typeofcase"),
+               Field(60, "Stage number", "stagenumber")),
+
+        section(2, "Client"),
+        fields(Field(25, "Title", "title"),
+               Field(25, "First name", "firstname"),
+               Field(70, "Surname", "surname")),
+        fields(Field(50, "Date of birth", "dateofbirth"),
+               Field(70, "Our case reference number", "casereferencenumber")),
+        strip("Does this claim cover more than one certificate?\n"
+              "If so, give the other case reference numbers and the percentage apportionments "
+              "between the cases", lines=2),
+        text_box("morethan1certificate", 44),
+
+        section(3, "Solicitor"),
+        fields(Field(25, "Account number", "accountnumber"),
+               Field(25, "Roll number", "rollnumber"),
+               Field(70, "Case reference", "casereference")),
+        fields(Field(70, "Name of firm", "nameoffirm"),
+               Field(50, "Tel. no.", "telephoneforenquiries")),
+        fields(Field(60, "Contact name for enquiries", "contactnameforenquiries"),
+               Field(60, "Email address for enquiries", "emailforenquiries")),
+
+        section(4, "Previous advice and related claims"),
+        question("a", "Did your client receive advice under legal help, family help (lower) or "
+                      "help with family mediation in this matter?", "3", "4", lines=2),
+        fields(Field(60, "Date Legal Help form signed", "datelegalhelpformsigned"),
+               Field(60, "Total costs reported", "totalcostsincurred", is_money=True)),
+        [question("b", "Does this claim include the costs of all other providers that have been "
+                       "instructed?", *other_providers),
+         strip("If no, give reasons"),
+         text_box("inclusiveofallsolicitorsreasons", 44)] if other_providers else [],
+        question(final_key, "Is this the final bill on this certificate?", *final_bill),
+        footnote("A number in brackets beside a page number marks a further sheet of that page: "
+                 "Page 3 (2) is the second sheet of page 3."))
+
+
+def outcome(codes, awarded, wasted):
+    questions = ("At what stage did case end?",
+                 "How did case end?",
+                 "What was the result?",
+                 "Was ADR proposed or used?",
+                 "Were significant wider public benefits achieved?")
+    return [
+        strip("Enter the code of the outcome in the box beside each question"),
+        [code_question(key, text, code, 27)
+         for key, text, code in zip("abcde", questions, codes)],
+        strip("Indicate which, if any, of the following were awarded"),
+        ticks(*zip((40, 40, 40), awarded, ("Costs", "Damages", "Property"))),
+        question("f", "Was a wasted costs order made?", *wasted)]
+
+
+# --- Continuation of a text ------------------------------------------------
+
+def text_continuation(form, page, number, title, prompt, name):
+    """Fifty lines, which hold the longest piece that the export cuts."""
+    return sheet(
+        head(form, page, number, title, continued=True),
+        strip(prompt, height=20),
+        text_box(name, 655, look.SHEET_BOX))
+
+
+def panel_membership(form, page, number):
+    grid = Grid(row=26, heads=18, columns=(
+        Column("Fee earner", 40),
+        Column("Panel", 36),
+        Column("Membership number", 24),
+        Column("Member since", 20)))
+    return sheet(
+        head(form, page, number, "Panel membership", continued=True),
+        notes("An enhanced rate is sought for work by fee earners who are members of a "
+              "specialist panel.", "Enter each of them below, with the panel, the number of the "
+              "membership and the date from which it has been held.", height=15),
+        grid_table(grid, 12))
+
+
+# --- Counsel's fees --------------------------------------------------------
+
+COUNSEL = Grid(row=17.5, heads=18, columns=(
+    Column("Number", 10, CENTRE),
+    Column("Counsel", 70),
+    Column("Date", 18, CENTRE),
+    Column("Amount £", 22, RIGHT)))
+
+
+def counsels_fees(form, page, number):
+    return sheet(
+        head(form, page, number, "Counsel’s fees"),
+        question("a", "Have all outstanding claims for payment by counsel been paid by LAA?",
+                 "1", "2"),
+        spacer(10),
+        subheading("Fees claimed"),
+        notes("One line for each fee. Give counsel’s account number and name, and the date of "
+              "the work.",
+              "Amounts are in pounds and include VAT.",
+              "Counsel’s fees are reported apart from profit costs and from other "
+              "disbursements."),
+        grid_table(COUNSEL, 32),
+        totals(COUNSEL, Total(3, "Total for counsel £"), Total(1, name="ctotal")))
+
+
+def counsels_fees_continuation(form, page, number):
+    return sheet(
+        head(form, page, number, "Counsel’s fees", continued=True),
+        grid_table(COUNSEL._replace(row=18), 38))
+
+
+# --- Schedule of time ------------------------------------------------------
+
+SCHEDULE = Grid(
+    row=18, heads=26, style=look.SCHEDULE, head_style=look.SCHEDULE_HEAD,
+    groups=(("Work", 4), ("Time (hours : minutes)", 5), ("Price", 4)),
+    columns=(
+        Column("Item", 6, CENTRE),
+        Column("Fee\nearner", 9, CENTRE),
+        Column("Date", 11, CENTRE),
+        Column("Code", 7, CENTRE),
+        Column("Attend /\nconfer", 9.6, CENTRE, begins_group=True),
+        Column("Docs", 9.6, CENTRE),
+        Column("Hearing", 9.6, CENTRE),
+        Column("Travel", 9.6, CENTRE),
+        Column("Waiting", 9.6, CENTRE),
+        Column("Rate\n£", 9, RIGHT, begins_group=True),
+        Column("Basic\nclaim £", 11, RIGHT),
+        Column("Enh.\n%", 7, RIGHT),
+        Column("Claim\n£", 12, RIGHT)))
+
+
+def schedule_of_time(form, page, number):
+    """Every sheet of the schedule is this one; the totals are filled on the last."""
+    return sheet(
+        head(form, page, number, "Schedule of time"),
+        notes("One line for each piece of work. The time stands in the column of its kind. "
+              "Amounts are in pounds and do not include VAT.", height=16),
+        grid_table(SCHEDULE, 33),
+        totals(SCHEDULE, Total(4, "Time", align=LEFT),
+               *(Total(1, name=name, align=CENTRE) for name in ("actm", "dtm", "htm", "ttm", "wtm")),
+               Total(4), style=look.SCHEDULE_TOTAL, height=20),
+        totals(SCHEDULE, Total(4, "Claim £", align=LEFT),
+               *(Total(1, name=name) for name in ("actl", "dtl", "htl", "ttl", "wtl")),
+               Total(3, "Total £"), Total(1, name="total"),
+               style=look.SCHEDULE_TOTAL, above=look.HAIR))
+
+
+# --- Additional information ------------------------------------------------
+
+def additional_information_continuation(form, page, number, named_columns):
+    return sheet(
+        head(form, page, number, "Additional information", continued=True),
+        [place_strip()] if named_columns else [],
+        place(50))
+
+
+# --- Experts ---------------------------------------------------------------
+
+EXPERTS = Grid(
+    row=20, heads=24, style=look.DENSE_GRID, head_style=look.DENSE_HEAD,
+    groups=(("Expert", 3), ("Preparation", 2), ("Court attendance", 2), ("Costs", 2),
+            ("Claim", 3)),
+    columns=(
+        Column("Expert", 16),
+        Column("Type", 14),
+        Column("PA", 5, CENTRE),
+        Column("Rate\n£", 8, RIGHT, begins_group=True),
+        Column("Cost\n£", 10, RIGHT),
+        Column("Rate\n£", 8, RIGHT, begins_group=True),
+        Column("Cost\n£", 10, RIGHT),
+        Column("Travel\n£", 9, RIGHT, begins_group=True),
+        Column("Other\n£", 9, RIGHT),
+        Column("Net\n£", 10, RIGHT, begins_group=True),
+        Column("VAT\n£", 10, RIGHT),
+        Column("Total\n£", 11, RIGHT)))
+
+EXPERT_STANDARDS_PROMPT = "If no, give reasons"
+
+
+def expert_standards(reasons_height):
+    return [
+        question("a", "If these are proceedings involving a dispute about children, are you "
+                      "satisfied that the experts used meet the Ministry of Justice standards for "
+                      "experts in England and Wales?", "1", "2", lines=3),
+        Row(reasons_height, (
+            printed(look.KEY_UNITS, "b", look.KEY),
+            printed(28, EXPERT_STANDARDS_PROMPT, look.QUESTION),
+            answered(84, slot("expertsmeetmojstandardreasons"), style=look.BOX, stands="top")))]
+
+
+def expert_standards_continuation(form, page, number):
+    return text_continuation(form, page, number, "Experts", EXPERT_STANDARDS_PROMPT,
+                             "expertsmeetmojstandardreasons")
+
+
+def expert_grid():
+    return [
+        grid_table(EXPERTS, 11),
+        totals(EXPERTS, Total(9, "Total for experts £"),
+               Total(1, name="exnet"), Total(1, name="exvat"), Total(1, name="extot"))]
+
+
+def experts_continuation(form, page, number, *note_lines):
+    return sheet(
+        head(form, page, number, "Experts", continued=True),
+        notes(*note_lines),
+        grid_table(EXPERTS, 32))
+
+
+# --- Joint instruction and other disbursements -----------------------------
+
+JOINT = Grid(row=20, heads=18, columns=(
+    Column("Type of expert", 22),
+    Column("Party", 30),
+    Column("Solicitor", 30),
+    Column("Certificate reference", 26),
+    Column("Share %", 12, RIGHT)))
+
+OTHER = Grid(row=20, heads=18, columns=(
+    Column("Description", 66),
+    Column("Amount £", 18, RIGHT),
+    Column("VAT £", 18, RIGHT),
+    Column("Total £", 18, RIGHT)))
+
+JOINT_TITLE = "Joint instruction of experts"
+SHARES = "One line for each party to the instruction. The share is a percentage of the expert’s fee."
+
+
+def disbursements(form, page, joint, other, totals_names, before_joint=()):
+    """`joint` and `other` are the numbers of the sections; `before_joint` are
+    lines that a form has between the notes and the first grid."""
+    return sheet(
+        head(form, page, joint, JOINT_TITLE),
+        notes("List each expert who was instructed jointly with another party to the proceedings.",
+              SHARES,
+              "Give the reference of the certificate of a party who is legally aided."),
+        before_joint,
+        grid_table(JOINT, 14),
+        notes("The shares of one instruction add up to 100 per cent.", height=14,
+              above=look.HAIR),
+        section(other, "Other disbursements", 10),
+        notes("One line for each disbursement, without experts and without counsel. Amounts are "
+              "in pounds.", height=14),
+        grid_table(OTHER, 12),
+        totals(OTHER, Total(1, "Total for other disbursements £"),
+               *(Total(1, name=name) for name in totals_names)))
+
+
+def joint_continuation(form, page, number):
+    return sheet(
+        head(form, page, number, JOINT_TITLE, continued=True),
+        notes("List each expert who was instructed jointly with another party to the proceedings.",
+              SHARES),
+        grid_table(JOINT, 30))
+
+
+def other_disbursements_continuation(form, page, number):
+    return sheet(
+        head(form, page, number, "Other disbursements", continued=True),
+        grid_table(OTHER, 32))
+
+
+# --- Letters, calls and sums -----------------------------------------------
+
+LETTERS_AND_CALLS = Grid(row=24, heads=22, columns=(
+    Column("Kind", 34),
+    Column("Fee earners at", 18),
+    Column("Number", 14, RIGHT),
+    Column("Rate £", 17, RIGHT),
+    Column("Enhancement £", 18, RIGHT),
+    Column("Claim £", 19, RIGHT, begins_group=True)),
+    style=look.ANSWER, head_style=look.ANSWER_HEAD)
+
+KINDS = (("Letters out", "lo"), ("Letters in", "li"), ("Telephone calls", "tc"))
+
+
+def letters_and_calls(row_height):
+    """Two lines for each kind, with no line between them in the column of the kind."""
+    grid = LETTERS_AND_CALLS
+    rows = []
+    for kind, short in KINDS:
+        for number, rate in ((1, "First rate"), (2, "Second rate")):
+            amounts = ("%s%d", "%sir%d", "%senh%d", "%stotal%d")
+            rows.append(Row(row_height, (
+                printed(grid.columns[0].width, kind if number == 1 else "", look.QUESTION,
+                        bold=True, above=None if number == 1 else look.NONE),
+                printed(grid.columns[1].width, rate, look.QUESTION),
+                *(answered(column.width, slot(name % (short, number)), align=RIGHT,
+                           left=look.EDGE if column.begins_group else look.HAIR)
+                  for column, name in zip(grid.columns[2:], amounts)))))
+    return [
+        grid_heads(grid), rows,
+        totals(grid, Total(5, "Total for letters and calls £"), Total(1, name="cmtotal"),
+               height=row_height + 3)]
+
+
+SUMS = Grid(row=27, heads=22, columns=(
+    Column("", 72),
+    Column("Net £", 24, RIGHT),
+    Column("VAT £", 24, RIGHT)),
+    style=look.ANSWER, head_style=look.ANSWER_HEAD)
+
+
+def sums(*rows, height=SUMS.row):
+    """Rows of a label with its net amount and its VAT."""
+    return [Row(height, (printed(72, label, look.QUESTION),
+                         answered(24, slot(net), align=RIGHT),
+                         answered(24, slot(vat), align=RIGHT)))
+            for label, net, vat in rows]
+
+
+def sums_total(label, net, vat, height=SUMS.row):
+    return totals(SUMS, Total(1, label), Total(1, name=net), Total(1, name=vat), height=height)
+
+
+# --- Costs awarded and their recovery --------------------------------------
+
+def costs_awarded(form, page, costs, recovery, *more_money_rows):
+    """The lines of both sections; a form may have more sections on the sheet.
+    The page takes no mark: its exporter looks for none."""
+    return [
+        head(form, page, costs, "Costs awarded", marked=False),
+        money_row("Pre-certificate costs awarded", "precertcosts"),
+        money_row("During certificate costs awarded (legal aid prescribed rates)",
+                  "duringcertlsc"),
+        money_row("During certificate costs awarded (market rates)", "duringcertmr"),
+        more_money_rows,
+        question("a", "Are legal advice and assistance, and/or Legal Help costs included in the "
+                      "pre-certificate costs awarded?", "1", "2", lines=2),
+        follow_up("If yes, tell us the amount", "lhipccamount"),
+        fields(Field(60, "Interest on all costs", "interest", is_money=True),
+               Field(60, "Date interest commenced or commences", "dateinterestcommenced")),
+        strip("Please provide a breakdown where interest has been calculated"),
+        text_box("interestbreakdown", 31),
+
+        section(recovery, "Recovery"),
+        fields(Field(60, "Amount recovered to date", "rcvrdtodate", is_money=True),
+               Field(60, "Date order was served", "dateorderserved")),
+        strip("Address of service"),
+        text_box("addressofservice", 44),
+        question("a", "Does the court order say leave of the court is required before enforcement "
+                      "can take place?", "3", "4", lines=2),
+        question("b", "Has a determination of the debtor’s means been undertaken by the court?",
+                 "5", "6"),
+        follow_up("If yes, give the amount", "detmamount"),
+        question("c", "Has any offer been made by the debtor?", "7", "8"),
+        strip("If so, give details"),
+        text_box("offerbydebtordetails", 44)]
+
+
+# --- The debtor ------------------------------------------------------------
+
+def debtor(form, page, person, employment, means):
+    address, beside = 42, 78
+    return sheet(
+        head(form, page, person, "Debtor"),
+        fields(Field(16, "Title", "title"),
+               Field(16, "Initials", "initials"),
+               Field(40, "First name", "firstname"),
+               Field(48, "Surname or organisation", "surnameororganisation")),
+        fields(Field(16, "Date of birth", "dateofbirth"),
+               Field(62, "National Insurance no.", "nationalinsurancenumber"),
+               Field(42, "Fax", "fax")),
+        fields(Field(38, "Phone (work)", "phonework"),
+               Field(38, "Phone (home)", "phonehome"),
+               Field(44, "Mobile", "mobile")),
+        # The address has a corner of its own: five lines beside two fields.
+        label_row(printed(address, "Address"), printed(beside, "Email address")),
+        answer_row(answered(address, slot("address"), style=look.BOX, stands="top",
+                            merge="restart"),
+                   answered(beside, slot("email"))),
+        label_row(answered(address, style=look.BOX, merge="continue", above=look.NONE),
+                  printed(beside, "Solicitor’s firm name")),
+        answer_row(answered(address, style=look.BOX, merge="continue"),
+                   answered(beside, slot("solicitorsfirmname")), height=30),
+
+        section(employment, "Employment", 8),
+        ticks((40, "1", "Employed"), (40, "2", "Self-employed"), (40, "3", "Unemployed"),
+              height=22),
+        fields(Field(80, "Job", "job"),
+               Field(40, "Debtor’s income", "debtorsincome", is_money=True)),
+        fields(Field(60, "Employer’s name", "employersname"),
+               Field(60, "Employer’s address", "employersaddress"), height=40),
+
+        section(means, "Means and information", 8),
+        strip("Debtor’s assets"),
+        text_box("assets", 93),
+        label_row(printed(40, "Was the debtor legally aided?"), printed(80, "Case reference")),
+        answer_row(tick(20, "4", "Yes"), tick(20, "5", "No"),
+                   answered(80, slot("casereference"))),
+        strip("Information"),
+        text_box("information", 205))

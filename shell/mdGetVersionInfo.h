@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QString>
+
+/// The running program's version: major, minor and revision joined by points, without leading zeros.
+QString GetVersionInfo();

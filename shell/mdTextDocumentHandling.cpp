@@ -1,0 +1,64 @@
+#include "shell/mdTextDocumentHandling.h"
+
+#include "shell/clsFileSystem.h"
+#include "shell/mdCodePage.h"
+#include "shell/mdLog.h"
+#include "shell/mdSystemFailure.h"
+
+#include <new>
+
+namespace {
+
+// The order is the guard: at every moment the old content is whole in the file or in the side file, on the disk and
+// not only in the system's memory, so that a loss of power is no worse than a crash of the program.
+void overwrite(const QString &path, const QByteArray &bytes)
+{
+    const QString side = path + u'a';
+    if (FileSystem().FileExists(path))
+        FileSystem().CopyFile(path, side);
+    FileSystem().EmptyFile(path);
+    FileSystem().WriteFile(path, bytes);
+    if (FileSystem().FileExists(side))
+        FileSystem().DeleteFile(side);
+}
+
+/// Runs a file operation; false where it failed, with its box shown.
+template <class Operation>
+bool trapped(const QString &title, const QString &whatWasTried, const QString &path, Operation operation)
+{
+    try {
+        operation();
+        return true;
+    } catch (const clsRunTimeError &error) {
+        mdSystemFailure(title, whatWasTried, path, error);
+    } catch (const std::bad_alloc &) {
+        mdSystemFailure(title, whatWasTried, path, clsRunTimeError(clsRunTimeError::OutOfMemory));
+    }
+    return false;
+}
+
+} // namespace
+
+QString ReadTextDocument(const QString &path, bool logIt)
+{
+    if (logIt)
+        WriteLog(QStringLiteral("Begin Read Text Document - ") + path);
+    QString text;
+    if (!trapped(QStringLiteral("File Not Read"), QStringLiteral("There was a problem reading the following path:"), path,
+                 [&] { text = mdFromCodePage(FileSystem().ReadFile(path)); }))
+        return {};
+    if (logIt)
+        WriteLog(QStringLiteral("End Read Text Document - ") + path);
+    return text;
+}
+
+void WriteTextDocument(const QString &text, const QString &path, bool logIt)
+{
+    if (logIt)
+        WriteLog(QStringLiteral("Begin Write Text Document - ") + path);
+    if (!trapped(QStringLiteral("File Not Saved"), QStringLiteral("There was a problem writing to the following path:"),
+                 path, [&] { overwrite(path, mdToCodePage(text)); }))
+        return;
+    if (logIt)
+        WriteLog(QStringLiteral("End Write Text Document - ") + path);
+}

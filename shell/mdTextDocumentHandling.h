@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+
+/// The whole content of a file, one character of the code page for each byte. A failure shows the box "File Not Read"
+/// and returns an empty text, which the caller can't tell from an empty file. `logIt` logs the beginning and the end.
+QString ReadTextDocument(const QString &path, bool logIt);
+
+/// Replaces the whole content of a file, one byte for each character. The old content lies beside the file, under its
+/// path followed by "a", until the new one is on the disk: a crash or a failure leaves it there for the user to find.
+/// A failure shows the box "File Not Saved", and the caller goes on as if the file were saved.
+void WriteTextDocument(const QString &text, const QString &path, bool logIt);

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QString>
+
+/// Sees every operation of every clsMSWord, in order, with the texts as they are typed in the end: U+00FE and
+/// U+00A8 for ticks, U+000B for a line break inside the paragraph, one blank for an empty replacement.
+/// For proof of what an export sends to the word processor; the operations themselves do not depend on it.
+class clsMSWordObserver {
+public:
+    virtual ~clsMSWordObserver() = default;
+
+    virtual void opened(const QString &) { }
+    virtual void movedDown(int) { }
+    virtual void movedRight(int) { }
+    virtual void movedToRowStart() { }
+    /// One line down and to the start of that row, as one operation.
+    virtual void nextRow() { }
+    virtual void newParagraph() { }
+    virtual void tabs(int) { }
+    /// A placeholder gave way to a text; the text's typing is not told again by typed().
+    virtual void replaced(const QString & /*find*/, const QString & /*typedText*/, bool /*isTick*/) { }
+    virtual void typed(const QString & /*textAsTyped*/, bool /*isTick*/, bool /*bold*/) { }
+    /// An operation failed. For a text that could not be typed `what` is the placeholder, or "cell" for one typed
+    /// at the cursor, and `value` the text; for the others they are the operation's name and its path, if any.
+    virtual void failed(const QString & /*what*/, const QString & /*value*/) { }
+    virtual void pageBreak() { }
+    virtual void inserted(const QString & /*path*/) { }
+    virtual void backSpace() { }
+    virtual void savedAndClosed() { }
+};
+
+/// The observer in force; where nobody watches, one that does nothing.
+clsMSWordObserver &MSWordObserver();
+
+/// Puts an observer in force for as long as this object lives, then the one before it again.
+class clsMSWordObserverScope {
+public:
+    explicit clsMSWordObserverScope(clsMSWordObserver &observer);
+    ~clsMSWordObserverScope();
+    clsMSWordObserverScope(const clsMSWordObserverScope &) = delete;
+    clsMSWordObserverScope &operator=(const clsMSWordObserverScope &) = delete;
+
+private:
+    clsMSWordObserver *m_previous;
+};

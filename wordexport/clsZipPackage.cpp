@@ -1,0 +1,222 @@
+#include "wordexport/clsZipPackage.h"
+
+#include "wordexport/mdDocumentError.h"
+#include "wordexport/mdDocumentFile.h"
+
+#include <zip.h>
+
+#include <algorithm>
+#include <memory>
+
+namespace {
+
+// A fixed moment, the first that a zip can name: documents hold no clock.
+constexpr zip_uint16_t FixedDosTime = 0;
+constexpr zip_uint16_t FixedDosDate = (0 << 9) | (1 << 5) | 1;
+
+struct CloseArchive {
+    void operator()(zip_t *archive) const { zip_discard(archive); }
+};
+using Archive = std::unique_ptr<zip_t, CloseArchive>;
+
+struct CloseEntry {
+    void operator()(zip_file_t *file) const { zip_fclose(file); }
+};
+
+struct FreeSource {
+    void operator()(zip_source_t *source) const { zip_source_free(source); }
+};
+using Source = std::unique_ptr<zip_source_t, FreeSource>;
+
+QString key(const QString &name)
+{
+    return name.toCaseFolded();
+}
+
+// Names that point outside the package when somebody unpacks it, or that no document part may have.
+bool nameIsSafe(const QString &name)
+{
+    if (name.isEmpty() || name.startsWith(u'/') || name.contains(u'\\') || name.contains(QChar(0)))
+        return false;
+    if (name.size() >= 2 && name[1] == u':')
+        return false;
+    const auto segments = QStringView(name).split(u'/');
+    return std::none_of(segments.begin(), segments.end(),
+                        [](QStringView segment) { return segment == u".." || segment == u"."; });
+}
+
+Archive openArchive(const QByteArray &bytes, const QString &shownName)
+{
+    zip_error_t error;
+    zip_error_init(&error);
+    Source source(zip_source_buffer_create(bytes.constData(), zip_uint64_t(bytes.size()), 0, &error));
+    Archive archive(source ? zip_open_from_source(source.get(), ZIP_RDONLY, &error) : nullptr);
+    zip_error_fini(&error);
+    if (!archive)
+        throw mdDocumentDamaged(shownName);
+    source.release(); // the archive owns it now
+    return archive;
+}
+
+void checkContainer(const QByteArray &bytes, const QString &shownName)
+{
+    // The container of the older binary format, which is also that of encrypted documents.
+    if (bytes.startsWith("\xD0\xCF\x11\xE0"))
+        throw mdDocumentError(QStringLiteral("The document %1 is in the older binary format or protected by a password. "
+                                             "Please save it again as a Word 2007 document without a password.")
+                                  .arg(shownName));
+    if (!bytes.startsWith("PK\3\4"))
+        throw mdDocumentError(QStringLiteral("The document %1 is not a Word document.").arg(shownName));
+    if (bytes.size() > ZipLimits::PackageBytes)
+        throw mdDocumentTooLarge(shownName);
+}
+
+zip_stat_t statOf(zip_t *archive, zip_uint64_t index, const QString &shownName)
+{
+    zip_stat_t stat;
+    zip_stat_init(&stat);
+    constexpr zip_uint64_t Needed = ZIP_STAT_NAME | ZIP_STAT_SIZE | ZIP_STAT_COMP_SIZE | ZIP_STAT_ENCRYPTION_METHOD;
+    if (zip_stat_index(archive, index, 0, &stat) != 0 || (stat.valid & Needed) != Needed)
+        throw mdDocumentDamaged(shownName);
+    if (stat.encryption_method != ZIP_EM_NONE)
+        throw mdDocumentError(QStringLiteral("The document %1 is protected by a password.").arg(shownName));
+    const qint64 ratioBytes = qint64(stat.comp_size) * ZipLimits::Ratio;
+    if (stat.size > zip_uint64_t(ZipLimits::EntryBytes) || stat.comp_size > zip_uint64_t(ZipLimits::PackageBytes)
+        || (qint64(stat.size) > ZipLimits::RatioFrom && qint64(stat.size) > ratioBytes))
+        throw mdDocumentTooLarge(shownName);
+    return stat;
+}
+
+QByteArray inflate(zip_t *archive, zip_uint64_t index, qint64 size, const QString &shownName)
+{
+    const std::unique_ptr<zip_file_t, CloseEntry> file(zip_fopen_index(archive, index, 0));
+    if (!file)
+        throw mdDocumentDamaged(shownName);
+    QByteArray bytes(size, Qt::Uninitialized);
+    qint64 done = 0;
+    while (done < size) {
+        const zip_int64_t read = zip_fread(file.get(), bytes.data() + done, zip_uint64_t(size - done));
+        if (read <= 0)
+            throw mdDocumentDamaged(shownName);
+        done += read;
+    }
+    // Only the read that meets the end checks the sum; bytes beyond the stated size are a lie about it.
+    char beyond;
+    if (zip_fread(file.get(), &beyond, 1) != 0)
+        throw mdDocumentDamaged(shownName);
+    return bytes;
+}
+
+void addTo(zip_t *archive, const clsZipPackage::Entry &entry, clsZipPackage::Packing packing)
+{
+    // libzip reads the bytes when the archive is closed; the package outlives that.
+    zip_source_t *source = zip_source_buffer(archive, entry.bytes.constData(), zip_uint64_t(entry.bytes.size()), 0);
+    const zip_int64_t index = source
+        ? zip_file_add(archive, entry.name.toUtf8().constData(), source, ZIP_FL_ENC_UTF_8)
+        : -1;
+    if (index < 0) {
+        zip_source_free(source);
+        throw clsRunTimeError(clsRunTimeError::OutOfMemory);
+    }
+    constexpr zip_uint32_t Level = 6;
+    const bool stored = packing == clsZipPackage::Stored;
+    zip_set_file_compression(archive, zip_uint64_t(index), stored ? ZIP_CM_STORE : ZIP_CM_DEFLATE, stored ? 0 : Level);
+    zip_file_set_dostime(archive, zip_uint64_t(index), FixedDosTime, FixedDosDate, 0);
+}
+
+QByteArray readBack(zip_source_t *source)
+{
+    zip_stat_t stat;
+    zip_stat_init(&stat);
+    if (zip_source_stat(source, &stat) != 0 || zip_source_open(source) != 0)
+        throw clsRunTimeError(clsRunTimeError::OutOfMemory);
+    QByteArray bytes(qsizetype(stat.size), Qt::Uninitialized);
+    const zip_int64_t read = zip_source_read(source, bytes.data(), stat.size);
+    zip_source_close(source);
+    if (read != qint64(stat.size))
+        throw clsRunTimeError(clsRunTimeError::OutOfMemory);
+    return bytes;
+}
+
+} // namespace
+
+clsZipPackage clsZipPackage::fromFile(const QString &path)
+{
+    return fromBytes(mdReadDocumentFile(path, ZipLimits::PackageBytes), path);
+}
+
+clsZipPackage clsZipPackage::fromBytes(const QByteArray &bytes, const QString &shownName)
+{
+    checkContainer(bytes, shownName);
+    const Archive archive = openArchive(bytes, shownName);
+    const zip_int64_t count = zip_get_num_entries(archive.get(), 0);
+    if (count > ZipLimits::Entries)
+        throw mdDocumentTooLarge(shownName);
+
+    clsZipPackage package;
+    package.m_entries.reserve(size_t(count));
+    qint64 total = 0;
+    for (zip_uint64_t i = 0; i < zip_uint64_t(count); ++i) {
+        const zip_stat_t stat = statOf(archive.get(), i, shownName);
+        total += qint64(stat.size);
+        if (total > ZipLimits::TotalBytes)
+            throw mdDocumentTooLarge(shownName);
+        const QString name = QString::fromUtf8(stat.name);
+        if (name.endsWith(u'/') && stat.size == 0)
+            continue; // a folder's own entry is no part
+        if (!nameIsSafe(name))
+            throw mdDocumentError(
+                QStringLiteral("The document %1 holds a part whose name points outside the document.").arg(shownName));
+        if (package.indexOf(name) >= 0)
+            throw mdDocumentDamaged(shownName);
+        package.add(name, inflate(archive.get(), i, qint64(stat.size), shownName));
+    }
+    return package;
+}
+
+QByteArray clsZipPackage::toBytes(Packing packing) const
+{
+    // The order that readers expect: what describes the package, where to begin, the beginning, then the rest.
+    const auto rank = [this](const Entry &entry) {
+        return entry.name == QLatin1String("[Content_Types].xml") ? 0
+            : entry.name == QLatin1String("_rels/.rels")          ? 1
+            : entry.name == m_mainEntry                           ? 2
+                                                                  : 3;
+    };
+    std::vector<const Entry *> ordered;
+    for (const Entry &entry : m_entries)
+        ordered.push_back(&entry);
+    std::sort(ordered.begin(), ordered.end(), [&rank](const Entry *a, const Entry *b) {
+        const int rankA = rank(*a);
+        const int rankB = rank(*b);
+        return rankA != rankB ? rankA < rankB : a->name < b->name;
+    });
+
+    zip_error_t error;
+    zip_error_init(&error);
+    const Source source(zip_source_buffer_create(nullptr, 0, 0, &error));
+    Archive archive(source ? zip_open_from_source(source.get(), ZIP_TRUNCATE, &error) : nullptr);
+    zip_error_fini(&error);
+    if (!archive)
+        throw clsRunTimeError(clsRunTimeError::OutOfMemory);
+    zip_source_keep(source.get()); // closing the archive lets go of it, and the result is read from it afterwards
+    for (const Entry *entry : ordered)
+        addTo(archive.get(), *entry, packing);
+    if (zip_close(archive.get()) != 0)
+        throw clsRunTimeError(clsRunTimeError::OutOfMemory);
+    archive.release();
+    return readBack(source.get());
+}
+
+int clsZipPackage::indexOf(const QString &name) const
+{
+    return m_index.value(key(name), -1);
+}
+
+int clsZipPackage::add(const QString &name, const QByteArray &bytes)
+{
+    m_entries.push_back({name, bytes});
+    const int index = int(m_entries.size()) - 1;
+    m_index.insert(key(name), index);
+    return index;
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "shell/clsRunTimeError.h"
+
+/// The failures of a document that is there but can't be worked with: one number, one clear sentence.
+inline clsRunTimeError mdDocumentError(const QString &description)
+{
+    constexpr int InvalidFileFormat = 321;
+    return clsRunTimeError(InvalidFileFormat, description);
+}
+
+inline clsRunTimeError mdDocumentDamaged(const QString &shownName)
+{
+    return mdDocumentError(QStringLiteral("The document %1 is damaged.").arg(shownName));
+}
+
+inline clsRunTimeError mdDocumentTooLarge(const QString &shownName)
+{
+    return mdDocumentError(QStringLiteral("The document %1 is too large.").arg(shownName));
+}

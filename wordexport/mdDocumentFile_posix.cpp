@@ -1,0 +1,143 @@
+#include "wordexport/mdDocumentFile.h"
+
+#include "wordexport/mdDocumentError.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <cstdio>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+class clsDescriptor {
+public:
+    explicit clsDescriptor(int descriptor)
+        : m_descriptor(descriptor)
+    {
+    }
+    ~clsDescriptor()
+    {
+        if (m_descriptor >= 0)
+            ::close(m_descriptor);
+    }
+    clsDescriptor(const clsDescriptor &) = delete;
+    clsDescriptor &operator=(const clsDescriptor &) = delete;
+
+    int get() const { return m_descriptor; }
+    /// A full disk may show only here, so that closing can fail like writing.
+    bool close()
+    {
+        const int descriptor = m_descriptor;
+        m_descriptor = -1;
+        return ::close(descriptor) == 0;
+    }
+
+private:
+    int m_descriptor;
+};
+
+[[noreturn]] void fail(int systemError)
+{
+    throw clsRunTimeError::fromSystem(systemError);
+}
+
+// A name that is free, beside the document and hidden. A leftover of an earlier crash is passed over.
+int createSideFile(const QByteArray &document, QByteArray &sidePath)
+{
+    constexpr int Attempts = 100;
+    const qsizetype folderEnd = document.lastIndexOf('/') + 1;
+    for (int i = 0; i < Attempts; ++i) {
+        sidePath = document.left(folderEnd) + ".~" + document.mid(folderEnd) + '.' + QByteArray::number(i);
+        const int descriptor = ::open(sidePath.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        if (descriptor >= 0 || errno != EEXIST)
+            return descriptor;
+    }
+    return -1;
+}
+
+bool writeAll(int descriptor, const QByteArray &bytes)
+{
+    qsizetype done = 0;
+    while (done < bytes.size()) {
+        const ssize_t written = ::write(descriptor, bytes.constData() + done, size_t(bytes.size() - done));
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0)
+            return false;
+        done += written;
+    }
+    return true;
+}
+
+// The folder's entry is on the disk only when the folder is; a file system that can't do that is no failure.
+void syncFolder(const QByteArray &document)
+{
+    const qsizetype slash = document.lastIndexOf('/');
+    const QByteArray folder = slash < 0 ? QByteArray(".") : document.left(slash + 1);
+    const clsDescriptor descriptor(::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (descriptor.get() >= 0)
+        ::fsync(descriptor.get());
+}
+
+} // namespace
+
+QByteArray mdReadDocumentFile(const QString &path, qint64 limit)
+{
+    // Without O_NONBLOCK, opening a pipe would wait for somebody to write into it.
+    const clsDescriptor file(::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    struct stat status;
+    if (file.get() < 0 || ::fstat(file.get(), &status) != 0)
+        fail(errno);
+    if (!S_ISREG(status.st_mode))
+        throw clsRunTimeError(clsRunTimeError::PathFileAccess);
+    if (status.st_size > limit)
+        throw mdDocumentTooLarge(path);
+
+    QByteArray bytes(status.st_size, Qt::Uninitialized);
+    qsizetype done = 0;
+    while (done < bytes.size()) {
+        const ssize_t read = ::read(file.get(), bytes.data() + done, size_t(bytes.size() - done));
+        if (read < 0 && errno == EINTR)
+            continue;
+        if (read < 0)
+            fail(errno);
+        if (read == 0)
+            break;
+        done += read;
+    }
+    bytes.truncate(done);
+    return bytes;
+}
+
+void mdWriteDocumentFile(const QString &path, const QByteArray &bytes, bool toDisk)
+{
+    // Where the name is a link, the file that it leads to is replaced, not the link.
+    const QString target = QFileInfo(path).canonicalFilePath();
+    const QByteArray document = QFile::encodeName(target.isEmpty() ? path : target);
+    struct stat status;
+    const bool exists = ::stat(document.constData(), &status) == 0;
+    if (exists && !S_ISREG(status.st_mode))
+        throw clsRunTimeError(clsRunTimeError::PathFileAccess);
+
+    QByteArray sidePath;
+    clsDescriptor side(createSideFile(document, sidePath));
+    if (side.get() < 0)
+        fail(errno == ENOENT ? ENOTDIR : errno); // it is the folder that was not found
+    if (exists)
+        (void)::fchmod(side.get(), status.st_mode & 07777); // a file system without modes is no reason to fail
+
+    const bool written = writeAll(side.get(), bytes) && (!toDisk || ::fsync(side.get()) == 0) && side.close()
+        && ::rename(sidePath.constData(), document.constData()) == 0;
+    if (!written) {
+        const int systemError = errno;
+        ::unlink(sidePath.constData());
+        fail(systemError);
+    }
+    if (toDisk)
+        syncFolder(document);
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QStringList>
+
+// The code lists of the outcome of a case, fixed by the government forms and the same for both. A claim stores the place
+// in the list, 0 for none; the forms print only the code in front of the bracket. The blank before "No Selection", and
+// the one that ends the first text of the public benefits, are part of the texts.
+
+QStringList StageOfCaseEndCollection();
+QStringList HowDidCaseEndCollection();
+QStringList ResultCollection();
+QStringList ADRProposedCollection();
+QStringList PublicBenefitsAchievedCollection();
+
+/// What stands before the first ")" of a text; empty where there is none.
+QString OutcomeCode(const QString &text);

@@ -15,26 +15,35 @@ QString reportLine(const QString &kind, int count)
 
 } // namespace
 
-clsBlankItems mdCountBlankItems(const clsZR3Form &form)
+int mdCountBlankScheduleItems(const clsZR3Form &form)
 {
-    clsBlankItems blank;
+    int count = 0;
     for (const auto &item : form.ScheduleOfTimeItemsCollection())
         if (TimeToMinutes(item->TTime()) == 0)
-            ++blank.ScheduleItems;
+            ++count;
+    return count;
+}
+
+int mdCountBlankDisbursements(const clsZR3Form &form)
+{
+    int count = 0;
     for (const auto &disbursement : form.DisbursementsCollection())
         if (TextValue(disbursement->Amount()) == 0 && TextValue(disbursement->VAT()) == 0)
-            ++blank.Disbursements;
+            ++count;
+    return count;
+}
 
-    const QString report = reportLine(QStringLiteral("Schedule of Time Items"), blank.ScheduleItems)
-        + reportLine(QStringLiteral("Disbursements"), blank.Disbursements);
-    blank.Message = report.isEmpty() ? QStringLiteral("No blank items found")
-                                     : QStringLiteral("Blank items: \r\n\r\n") + report;
-    return blank;
+QString mdBlankItemsMessage(const clsZR3Form &form)
+{
+    const QString report = reportLine(QStringLiteral("Schedule of Time Items"), mdCountBlankScheduleItems(form))
+        + reportLine(QStringLiteral("Disbursements"), mdCountBlankDisbursements(form));
+    return report.isEmpty() ? QStringLiteral("No blank items found")
+                            : QStringLiteral("Blank items: \r\n\r\n") + report;
 }
 
 void CheckForBlankItems(const clsZR3Form &form)
 {
     WriteLog(QStringLiteral("Begin Check for Blank Items"));
-    mdCustomMessages(mdCountBlankItems(form).Message, QStringLiteral("Blank Items"));
+    mdCustomMessages(mdBlankItemsMessage(form), QStringLiteral("Blank Items"));
     WriteLog(QStringLiteral("End Check for Blank Items"));
 }

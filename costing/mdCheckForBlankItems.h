@@ -4,16 +4,12 @@
 
 class clsZR3Form;
 
-/// What would bill nothing, and the text that tells the user of it (line breaks are CR LF).
-struct clsBlankItems {
-    int ScheduleItems = 0;
-    int Disbursements = 0;
-    QString Message;
-};
+/// The schedule items without a time. A time text without a colon is the subscript error.
+int mdCountBlankScheduleItems(const clsZR3Form &form);
+/// The disbursements, counsel's fees among them, whose amount and VAT are both 0.
+int mdCountBlankDisbursements(const clsZR3Form &form);
+/// The text that tells the user of both counts; its line breaks are CR LF.
+QString mdBlankItemsMessage(const clsZR3Form &form);
 
-/// Counts the schedule items without a time and the disbursements, counsel's fees among them, whose amount and VAT are
-/// both 0. Changes nothing. A time text without a colon is the subscript error.
-clsBlankItems mdCountBlankItems(const clsZR3Form &form);
-
-/// The user's command: counts and shows.
+/// The user's command: counts what would bill nothing, and shows it. Nothing is changed, and no item named.
 void CheckForBlankItems(const clsZR3Form &form);

@@ -3,6 +3,8 @@
 #include "costing/mdNumberText.h"
 #include "shell/clsRunTimeError.h"
 
+#include <QList>
+
 #include <array>
 
 namespace {

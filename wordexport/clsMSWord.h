@@ -76,13 +76,15 @@ public:
 
 private:
     void SetBold(bool bold);
-    void TypeText(const QString &text);
+    bool TypeText(const QString &text);
     void ErrorHandler(const clsRunTimeError &error);
 
     /// The open document; error 91 where there is none.
     clsWordDocument &document() const;
     /// Runs one guarded operation under its name; true when it came to its end.
     template <class Operation> bool guarded(const char *name, Operation operation);
+    /// MoveCursorDown without its report to the observer.
+    void moveDown(int n);
     /// SetText without its report to the observer; true when the text was typed.
     bool setTextUnobserved(QString &text, bool IsTick, bool IsMoney, bool BlankZero, bool Bold);
 

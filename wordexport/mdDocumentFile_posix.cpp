@@ -123,6 +123,9 @@ void mdWriteDocumentFile(const QString &path, const QByteArray &bytes, bool toDi
     const bool exists = ::stat(document.constData(), &status) == 0;
     if (exists && !S_ISREG(status.st_mode))
         throw clsRunTimeError(clsRunTimeError::PathFileAccess);
+    // Taking over the name would succeed on a write-protected document, since it asks the folder only.
+    if (exists && ::access(document.constData(), W_OK) != 0)
+        fail(errno);
 
     QByteArray sidePath;
     clsDescriptor side(createSideFile(document, sidePath));

@@ -24,7 +24,7 @@ def twips(points):
 
 
 def units(count):
-    return count * UNIT
+    return round(count * UNIT)
 
 
 # --- Tones and lines -------------------------------------------------------
@@ -36,16 +36,15 @@ BLACK, WHITE = "000000", "FFFFFF"   # no grey type: laser printers break it into
 
 
 class Line(NamedTuple):
-    """A line between two cells; where two meet, the higher rank is drawn."""
-    rank: int
+    """A line at the edge of a cell."""
     eighths: int                # of a point
     colour: str
 
 
-NONE = Line(0, 0, "")
-HAIR = Line(1, 4, RULE)
-GAP = Line(2, 4, WHITE)         # parts the number from the title within a band
-EDGE = Line(3, 6, BAND)         # the outer edge, groups of columns, above totals
+NONE = Line(0, "")
+HAIR = Line(4, RULE)
+GAP = Line(4, WHITE)         # parts the number from the title within a band
+EDGE = Line(6, BAND)         # the outer edge, groups of columns, above totals
 
 
 # --- Type ------------------------------------------------------------------

@@ -42,6 +42,7 @@ class Cell(NamedTuple):
     fill: Optional[str] = None
     left: look.Line = look.HAIR
     above: Optional[look.Line] = None   # None: as its row
+    below: look.Line = look.NONE        # besides what the row below draws
     stands: str = "center"              # top, center or bottom
     merge: Optional[str] = None         # downwards: restart or continue
 
@@ -50,7 +51,7 @@ class Row(NamedTuple):
     height: float
     cells: Tuple[Cell, ...]
     above: look.Line = look.HAIR
-    below: look.Line = look.NONE
+    ruled_below: bool = True            # False: whatever the row below would draw
 
 
 def slot(name, size=None, bold=None):
@@ -138,7 +139,8 @@ def line_element(side, line):
 
 
 def cell_element(cell, span, top, left, bottom, right):
-    """A line between two cells is stated by the lower or the right one alone."""
+    """A line between two cells is stated by one of them: as a rule by the lower
+    one and by the right one."""
     return element(
         "tc",
         element(
@@ -161,11 +163,13 @@ def row_element(row, grid, row_above, is_last):
     for i, cell in enumerate(row.cells):
         top = look.EDGE
         if row_above:
-            top = max(row_above.below, row.above if cell.above is None else cell.above)
+            top = row.above if cell.above is None else cell.above
+            if not row_above.ruled_below:
+                top = look.NONE
         made.append(cell_element(
             cell, grid.index(stops[i + 1]) - grid.index(stops[i]), top,
             left=cell.left if i else look.EDGE,
-            bottom=look.EDGE if is_last else look.NONE,
+            bottom=look.EDGE if is_last else cell.below,
             right=look.EDGE if i == len(row.cells) - 1 else look.NONE))
     return made
 

@@ -72,13 +72,16 @@ def head(form, page, number, title, continued=False, marked=True):
         tabs=(Tab(RIGHT, width - look.PAGE_BOX.right),))
     number_and_title = banded(number, (title, *going_on),
                               look.ACROSS - look.KEY_UNITS - look.PAGE_BOX_UNITS)
-    return Row(look.HEAD_BAND, (*number_and_title, Cell(width, (box,), look.TINT, left=look.EDGE)),
-               below=look.EDGE)
+    return Row(look.HEAD_BAND,
+               (*number_and_title,
+                Cell(width, (box,), look.TINT, left=look.EDGE, below=look.EDGE)),
+               ruled_below=False)
 
 
 def band(number, title):
+    """Without a line below: beside so dark a fill it shows only as a flaw."""
     return Row(look.BAND_HEIGHT, banded(number, (title,), look.ACROSS - look.KEY_UNITS),
-               below=look.EDGE)
+               ruled_below=False)
 
 
 def spacer(height):

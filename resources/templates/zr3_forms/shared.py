@@ -237,10 +237,10 @@ def experts_continuation(form, page, number, *note_lines):
 # --- Joint instruction and other disbursements -----------------------------
 
 JOINT = Grid(row=20, heads=18, columns=(
-    Column("Type of expert", 22),
-    Column("Party", 30),
-    Column("Solicitor", 30),
-    Column("Certificate reference", 26),
+    Column("Type of expert", 20),
+    Column("Party", 29),
+    Column("Solicitor", 29),
+    Column("Certificate reference", 30),
     Column("Share %", 12, RIGHT)))
 
 OTHER = Grid(row=20, heads=18, columns=(
@@ -263,7 +263,7 @@ def disbursements(form, page, joint, other, totals_names, before_joint=()):
               "Give the reference of the certificate of a party who is legally aided."),
         before_joint,
         grid_table(JOINT, 14),
-        notes("The shares of one instruction add up to 100 per cent.", height=14,
+        notes("The shares of all parties to one instruction add up to 100 per cent.", height=14,
               above=look.HAIR),
         section(other, "Other disbursements", 10),
         notes("One line for each disbursement, without experts and without counsel. Amounts are "

@@ -1,0 +1,21 @@
+#include "shell/mdDatabaseCreation.h"
+
+#include "shell/clsUserInterface.h"
+#include "shell/mdDatabasePath.h"
+#include "shell/mdGetResourceData.h"
+#include "shell/mdTextDocumentHandling.h"
+
+#include <QDir>
+
+void CreateDatabases()
+{
+    const QString folder
+        = UserInterface().chooseFolder(QStringLiteral("Please select or create a database folder"));
+    if (folder.isEmpty())
+        return;
+    WriteTextDocument(GetResourceData(QStringLiteral("xmlZR3PreferencesDatabase"), QStringLiteral("VELMORZR3XML")),
+                      QDir(folder).filePath(QStringLiteral("Preferences Database.vzp")), true);
+    SetDatabasePath(folder);
+    UserInterface().systemMessage(QStringLiteral("The databases have been created successfully"),
+                                  QStringLiteral("Databases"), clsUserInterface::Information, clsUserInterface::OKOnly);
+}

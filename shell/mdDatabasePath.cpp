@@ -1,0 +1,63 @@
+#include "shell/mdDatabasePath.h"
+
+#include "shell/clsFileSystem.h"
+#include "shell/clsProgramEnd.h"
+#include "shell/clsUserInterface.h"
+#include "shell/mdProgramFolder.h"
+#include "shell/mdRegistry.h"
+
+namespace {
+
+QString registryName()
+{
+    return QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Velmor\\ZR3") + QStringLiteral("\\Database Path");
+}
+
+} // namespace
+
+QString GetDatabasePath()
+{
+    QString path = ReadRegKey(registryName());
+    if (path.endsWith(u'\\') || path.endsWith(u'/'))
+        path.chop(1);
+    if (path.isEmpty())
+        path = DefaultDatabasePath();
+    if (!FileSystem().FolderExists(path)) {
+        UserInterface().systemMessage(
+            QStringLiteral("The folder ") + path
+                + QStringLiteral(" does not exist. Please contact your system administrator"),
+            QStringLiteral("Folder Error"), clsUserInterface::Critical, clsUserInterface::OKOnly);
+        throw clsProgramEnd();
+    }
+    // Written even when it has not changed, and without asking first whether it may be: where it may not, the box of
+    // the failed write shows each time. Both are meant.
+    SetDatabasePath(path);
+    return path;
+}
+
+void SetDatabasePath(const QString &path)
+{
+    WriteRegKey(registryName(), path);
+}
+
+void ResetDatabasePath()
+{
+    const auto answer = UserInterface().systemMessage(
+        QStringLiteral("This function will reset the database path to the standard setting. "
+                       "Are you sure you wish to continue?"),
+        QStringLiteral("Reset"), clsUserInterface::Question, clsUserInterface::YesNo);
+    if (answer == clsUserInterface::Yes)
+        DeleteRegKey(registryName());
+}
+
+QString DefaultDatabasePath()
+{
+    return ProgramPath(QStringLiteral("Databases"));
+}
+
+void SelectDatabasePath()
+{
+    const QString folder = UserInterface().chooseFolder(QStringLiteral("Please select a valid database folder"));
+    if (!folder.isEmpty())
+        SetDatabasePath(folder);
+}

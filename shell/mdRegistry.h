@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+// The settings that must be known before the preferences can be found, each a text under a full name such as
+// HKEY_LOCAL_MACHINE\SOFTWARE\Velmor\ZR3\Database Path. They lie in Velmor/ZR3.conf in the user's configuration folder;
+// what is not there is read from the machine-wide ones, where an administrator can put it for all users. A failure
+// shows the box "Registry Key", and the operation is given up.
+
+/// The text under a name, or an empty one when there is none.
+QString ReadRegKey(const QString &name);
+
+/// Stores a text for this user.
+void WriteRegKey(const QString &name, const QString &value);
+
+/// Makes the name read as empty. A machine-wide value is left to its administrator and hidden by an empty one of the
+/// user's.
+void DeleteRegKey(const QString &name);

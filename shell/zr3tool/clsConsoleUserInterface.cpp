@@ -1,0 +1,61 @@
+#include "shell/zr3tool/clsConsoleUserInterface.h"
+
+#include <cstdio>
+
+#include <unistd.h>
+
+namespace {
+
+clsUserInterface::Answer answerThatChangesNothing(clsUserInterface::Buttons buttons)
+{
+    switch (buttons) {
+    case clsUserInterface::OKOnly: return clsUserInterface::OK;
+    case clsUserInterface::YesNo: return clsUserInterface::No;
+    case clsUserInterface::OKCancel:
+    case clsUserInterface::YesNoCancel: return clsUserInterface::Cancel;
+    }
+    return clsUserInterface::Cancel;
+}
+
+} // namespace
+
+void clsConsoleUserInterface::tell(const QString &title, const QString &text)
+{
+    clearProgress();
+    ++m_messageCount;
+    if (showsOnlyFirstMessage && m_messageCount > 1)
+        return;
+    QString block = title + QStringLiteral(": ") + text;
+    block.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    std::fprintf(stderr, "%s\n", block.toUtf8().constData());
+}
+
+clsUserInterface::Answer clsConsoleUserInterface::customMessage(const QString &message, const QString &title,
+                                                                Buttons buttons, int, int)
+{
+    tell(title, message);
+    return answerThatChangesNothing(buttons);
+}
+
+clsUserInterface::Answer clsConsoleUserInterface::systemMessage(const QString &message, const QString &title, SystemIcon,
+                                                                Buttons buttons)
+{
+    tell(title, message);
+    return answerThatChangesNothing(buttons);
+}
+
+void clsConsoleUserInterface::showProgress(int value, int maximum, const QString &text)
+{
+    if (!showsProgress || !isatty(STDERR_FILENO))
+        return;
+    std::fprintf(stderr, "\r\033[K%s (%d/%d)", text.toUtf8().constData(), value, maximum);
+    std::fflush(stderr);
+    m_progressStands = true;
+}
+
+void clsConsoleUserInterface::clearProgress()
+{
+    if (m_progressStands)
+        std::fputs("\r\033[K", stderr);
+    m_progressStands = false;
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+/// Writes JSON in the order in which it is told, which the library's own objects, sorted by key, can't keep.
+class clsJsonWriter {
+public:
+    void beginObject(const char *key = nullptr) { open(key, '{'); }
+    void endObject() { close('}'); }
+    void beginArray(const char *key = nullptr) { open(key, '['); }
+    void endArray() { close(']'); }
+
+    void text(const char *key, const QString &value) { raw(key, quoted(value)); }
+    void number(const char *key, int value) { raw(key, QByteArray::number(value)); }
+    void boolean(const char *key, bool value) { raw(key, value ? "true" : "false"); }
+
+    const QByteArray &bytes() const { return m_bytes; }
+
+private:
+    static QByteArray quoted(const QString &text);
+    void raw(const char *key, const QByteArray &value);
+    void open(const char *key, char bracket);
+    void close(char bracket);
+    void newLine();
+
+    QByteArray m_bytes;
+    int m_depth = 0;
+    bool m_first = true;
+};

@@ -1,0 +1,279 @@
+#include "shell/zr3tool/mdTotalsReport.h"
+
+#include "costing/mdCheckForBlankItems.h"
+#include "costing/mdGetColumnTotals.h"
+#include "costing/mdGetCommsInfo.h"
+#include "costing/mdGetCounselTotals.h"
+#include "costing/mdGetDisbursementsTotals.h"
+#include "costing/mdGetFASTotals.h"
+#include "costing/mdPercentageCalculate.h"
+#include "formdata/clsZR3Form.h"
+#include "shell/clsRunTimeError.h"
+#include "shell/mdExisting.h"
+#include "shell/zr3tool/clsJsonWriter.h"
+
+#include <span>
+
+namespace {
+
+using Form = clsZR3Form;
+
+struct FigureRow {
+    const char *key;
+    Money (*figure)(const Form &form);
+};
+
+Money vatOf(const Form &form, Money amount)
+{
+    return PercentageCalculate(amount, form.VATRate());
+}
+
+Money profitCostsVAT(const Form &form)
+{
+    return vatOf(form, ProfitCostsTotal(form));
+}
+
+Money loadFromBillNet(const Form &form)
+{
+    return ProfitCostsTotal(form) - AdvocacyTotal(form);
+}
+
+Money netWithoutCounsel(const Form &form)
+{
+    return ProfitCostsTotal(form) + ExpertInvoicesNetTotal(form) + NonCounselDisbursementsAmountTotal(form);
+}
+
+Money vatWithoutCounsel(const Form &form)
+{
+    return profitCostsVAT(form) + ExpertInvoicesVATTotal(form) + NonCounselDisbursementsVATTotal(form);
+}
+
+const FigureRow Totals[] = {
+    {"ScheduleTotal", ScheduleTotal},
+    {"AdvocacyTotal", AdvocacyTotal},
+    {"CounselDisbursementsAmountTotal", CounselDisbursementsAmountTotal},
+    {"CounselDisbursementsVATTotal", CounselDisbursementsVATTotal},
+    {"NonCounselDisbursementsAmountTotal", NonCounselDisbursementsAmountTotal},
+    {"NonCounselDisbursementsVATTotal", NonCounselDisbursementsVATTotal},
+    {"ExpertInvoicesNetTotal", ExpertInvoicesNetTotal},
+    {"ExpertInvoicesVATTotal", ExpertInvoicesVATTotal},
+    {"CounselFeesAmountTotal", CounselFeesAmountTotal},
+    {"CounselFeesVATTotal", CounselFeesVATTotal},
+    {"CounselFeesTotal", CounselFeesTotal},
+    {"FASItemsTotal", FASItemsTotal},
+    {"FASVATTotal", FASVATTotal},
+    {"CommsTotal", CommsTotal},
+    {"ProfitCostsTotal", ProfitCostsTotal},
+    {"ProfitCostsVAT", profitCostsVAT},
+    {"AdvocacyVAT", [](const Form &form) { return vatOf(form, AdvocacyTotal(form)); }},
+    {"LoadFromBillNet", loadFromBillNet},
+    {"LoadFromBillVAT", [](const Form &form) { return vatOf(form, loadFromBillNet(form)); }},
+};
+
+const FigureRow Claim1Summary[] = {
+    {"npc", ProfitCostsTotal},
+    {"nex", ExpertInvoicesNetTotal},
+    {"ndibs", NonCounselDisbursementsAmountTotal},
+    {"vpc", profitCostsVAT},
+    {"vex", ExpertInvoicesVATTotal},
+    {"vdibs", NonCounselDisbursementsVATTotal},
+    {"ntotal", netWithoutCounsel},
+    {"vtotal", vatWithoutCounsel},
+    {"grandtotal", [](const Form &form) { return netWithoutCounsel(form) + vatWithoutCounsel(form); }},
+    {"ncf", CounselFeesAmountTotal},
+    {"vcf", CounselFeesVATTotal},
+    {"cftotal", CounselFeesTotal},
+};
+
+const FigureRow Claim1ASummary[] = {
+    {"npc", ProfitCostsTotal},
+    {"nex", ExpertInvoicesNetTotal},
+    {"ndibs", NonCounselDisbursementsAmountTotal},
+    {"vpc", profitCostsVAT},
+    {"vex", ExpertInvoicesVATTotal},
+    {"vdibs", NonCounselDisbursementsVATTotal},
+    {"nsubtotal", netWithoutCounsel},
+    {"vsubtotal", vatWithoutCounsel},
+    {"nfas", FASItemsTotal},
+    {"vfas", FASVATTotal},
+    {"ncsl", CounselFeesAmountTotal},
+    {"vcsl", CounselFeesVATTotal},
+    {"ntotal",
+     [](const Form &form) { return netWithoutCounsel(form) + FASItemsTotal(form) + CounselFeesAmountTotal(form); }},
+    {"vtotal",
+     [](const Form &form) { return vatWithoutCounsel(form) + FASVATTotal(form) + CounselFeesVATTotal(form); }},
+};
+
+/// Writes the report; a figure that fails is written as its error's number.
+class Report {
+public:
+    explicit Report(const Form &form)
+        : m_form(form)
+    {
+    }
+
+    clsTotalsReport write();
+
+private:
+    template <class Figure> void figure(const char *key, Figure compute)
+    {
+        guarded(key, [&] { m_json.text(key, MoneyToText(compute())); });
+    }
+    template <class Text> void text(const char *key, Text compute)
+    {
+        guarded(key, [&] { m_json.text(key, compute()); });
+    }
+    template <class Number> void number(const char *key, Number compute)
+    {
+        guarded(key, [&] { m_json.number(key, compute()); });
+    }
+    template <class Write> void guarded(const char *key, Write writeValue)
+    {
+        try {
+            writeValue();
+        } catch (const clsRunTimeError &error) {
+            m_hasFailures = true;
+            m_json.text(key, QStringLiteral("!%1").arg(error.number()));
+        }
+    }
+
+    void figures(std::span<const FigureRow> rows);
+    void scheduleItems();
+    void scheduleItem(const clsZR3ScheduleOfTimeItem &item);
+    void fasItems();
+    void communications();
+    void communicationLine(int line, clsCommsKind kind);
+    void columns();
+    void counselAtLine();
+    void blankItems();
+
+    const Form &m_form;
+    clsJsonWriter m_json;
+    bool m_hasFailures = false;
+};
+
+clsTotalsReport Report::write()
+{
+    m_json.beginObject();
+    text("FormType", [&] { return m_form.FormType(); });
+    text("VATRate", [&] { return m_form.VATRate(); });
+    scheduleItems();
+    fasItems();
+    communications();
+    columns();
+    figures(Totals);
+    counselAtLine();
+    m_json.beginObject("Summary");
+    if (m_form.FormType() == QLatin1String("Claim1A"))
+        figures(Claim1ASummary);
+    else
+        figures(Claim1Summary);
+    m_json.endObject();
+    blankItems();
+    m_json.endObject();
+    return {m_json.bytes(), m_hasFailures};
+}
+
+void Report::figures(std::span<const FigureRow> rows)
+{
+    for (const FigureRow &row : rows)
+        figure(row.key, [&] { return row.figure(m_form); });
+}
+
+void Report::scheduleItems()
+{
+    m_json.beginArray("ScheduleItems");
+    for (int n = 1; n <= int(m_form.ScheduleOfTimeItemsCollection().size()); ++n)
+        scheduleItem(*m_form.ScheduleOfTimeItemByOrderID(n));
+    m_json.endArray();
+}
+
+void Report::scheduleItem(const clsZR3ScheduleOfTimeItem &item)
+{
+    m_json.beginObject();
+    m_json.number("OrderID", item.OrderID());
+    guarded("InExport", [&] { m_json.boolean("InExport", m_form.IsOnBill(item)); });
+    m_json.number("SOTItemNumber", item.SOTItemNumber);
+    number("TimeColumn", [&] { return item.TimeColumn(); });
+    figure("Rate", [&] { return item.Rate(); });
+    figure("BasicClaim", [&] { return item.BasicClaim(); });
+    figure("TotalEnhancementPercentage", [&] { return item.TotalEnhancementPercentage(); });
+    figure("Claim", [&] { return item.Claim(); });
+    m_json.endObject();
+}
+
+void Report::fasItems()
+{
+    m_json.beginArray("FASItems");
+    for (int n = 1; n <= int(m_form.FASItemsCollection().size()); ++n) {
+        const auto item = m_form.FASItemByOrderID(n);
+        m_json.beginObject();
+        m_json.number("OrderID", item->OrderID());
+        figure("Total", [&] { return item->Total(); });
+        m_json.endObject();
+    }
+    m_json.endArray();
+}
+
+void Report::communications()
+{
+    m_json.beginArray("Communications");
+    for (const clsCommsKind kind : {clsCommsKind::Calls, clsCommsKind::LettersIn, clsCommsKind::LettersOut})
+        for (int line = 1; line <= CommsLines; ++line)
+            communicationLine(line, kind);
+    m_json.endArray();
+}
+
+void Report::communicationLine(int line, clsCommsKind kind)
+{
+    m_json.beginObject();
+    m_json.number("Kind", int(kind));
+    m_json.number("Line", line);
+    figure("Rate", [&] { return CommsRateAtLine(m_form, line, kind); });
+    text("Count", [&] { return CommsCountAtLine(m_form, line, kind); });
+    figure("Basic", [&] { return CommsBasicAtLine(m_form, line, kind); });
+    figure("Enhancement", [&] { return CommsEnhancementAtLine(m_form, line, kind); });
+    figure("Claim", [&] { return CommsClaimAtLine(m_form, line, kind); });
+    m_json.endObject();
+}
+
+void Report::columns()
+{
+    m_json.beginArray("ColumnTimeTotal");
+    for (int column = 0; column < clsZR3ScheduleOfTimeItem::Columns; ++column)
+        text(nullptr, [&] { return ColumnTimeTotal(m_form, column); });
+    m_json.endArray();
+    m_json.beginArray("ColumnClaimTotal");
+    for (int column = 0; column < clsZR3ScheduleOfTimeItem::Columns; ++column)
+        figure(nullptr, [&] { return ColumnClaimTotal(m_form, column); });
+    m_json.endArray();
+}
+
+void Report::counselAtLine()
+{
+    m_json.beginArray("CounselAtLine");
+    for (int position = 1; position <= CounselPositions; ++position) {
+        m_json.beginObject();
+        m_json.number("Position", position);
+        text("AccountNumber", [&] { return CounselAccountNumberAtLine(m_form, position); });
+        figure("Gross", [&] { return CounselGrossAtLine(m_form, position); });
+        m_json.endObject();
+    }
+    m_json.endArray();
+}
+
+void Report::blankItems()
+{
+    m_json.beginObject("BlankItems");
+    number("ScheduleItems", [&] { return mdCountBlankScheduleItems(m_form); });
+    number("Disbursements", [&] { return mdCountBlankDisbursements(m_form); });
+    text("Message", [&] { return mdBlankItemsMessage(m_form); });
+    m_json.endObject();
+}
+
+} // namespace
+
+clsTotalsReport mdTotalsReport(const clsZR3Form &form)
+{
+    return Report(form).write();
+}

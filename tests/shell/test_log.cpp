@@ -1,0 +1,154 @@
+#include "shell/mdRegistry.h"
+#include "shell/mdTextDocumentHandling.h"
+#include "tests/shell/clsShellTest.h"
+
+class Log : public clsShellTest {
+protected:
+    void SetUp() override
+    {
+        clsShellTest::SetUp();
+        SetClock([] { return QDateTime(QDate(2026, 11, 15), QTime(14, 3, 22, 900)); });
+        day = path("program/Logs/15-11-2026.txt");
+    }
+    void switchOn()
+    {
+        SetLogSwitch([this] { return on; });
+        on = true;
+    }
+
+    bool on = false;
+    QString day;
+};
+
+TEST_F(Log, BeforeThePreferencesExistNothingIsDoneAndNoFolderTouched)
+{
+    WriteLog(QStringLiteral("frmSplash Opened"));
+    EXPECT_TRUE(user.messages.empty());
+    EXPECT_FALSE(exists(path("program/Logs")));
+}
+
+TEST_F(Log, WithTheSwitchOffNothingIsDone)
+{
+    make(QStringLiteral("program/Logs"));
+    switchOn();
+    on = false;
+    WriteLog(QStringLiteral("frmMain Opened"));
+    EXPECT_FALSE(exists(day));
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(Log, TheSwitchIsAskedAtEachLine)
+{
+    make(QStringLiteral("program/Logs"));
+    switchOn();
+    WriteLog(QStringLiteral("one"));
+    on = false;
+    WriteLog(QStringLiteral("two"));
+    on = true;
+    WriteLog(QStringLiteral("three"));
+    EXPECT_EQ(QByteArray("15/11/2026 14:03:22 : one\r\n15/11/2026 14:03:22 : three\r\n"), bytesOf(day));
+}
+
+TEST_F(Log, TheFirstLineOfADayMeetsAMissingFile)
+{
+    make(QStringLiteral("program/Logs"));
+    switchOn();
+    WriteLog(QStringLiteral("frmMain Opened"));
+    expectOneBox("File Not Read",
+                 QStringLiteral("There was a problem reading the following path:\r\n\r\n") + day
+                     + QStringLiteral("\r\n\r\nThe error reported is:\r\n\r\n53 - File not found"));
+    EXPECT_EQ(QByteArray("15/11/2026 14:03:22 : frmMain Opened\r\n"), bytesOf(day));
+    EXPECT_EQ(day, LogPath());
+    user.messages.clear();
+    WriteLog(QStringLiteral("frmAbout Opened"));
+    EXPECT_TRUE(user.messages.empty());
+    EXPECT_EQ(QByteArray("15/11/2026 14:03:22 : frmMain Opened\r\n15/11/2026 14:03:22 : frmAbout Opened\r\n"),
+              bytesOf(day));
+    EXPECT_FALSE(exists(day + u'a'));
+}
+
+TEST_F(Log, AMissingFolderShowsBothBoxesForEachLine)
+{
+    switchOn();
+    for (size_t line = 1; line <= 2; ++line) {
+        WriteLog(QStringLiteral("frmMain Opened"));
+        ASSERT_EQ(2 * line, user.messages.size());
+        EXPECT_EQ(QStringLiteral("File Not Read"), user.messages[2 * line - 2].title);
+        EXPECT_EQ(QStringLiteral("File Not Saved"), user.messages[2 * line - 1].title);
+    }
+    EXPECT_FALSE(exists(path("program/Logs")));
+}
+
+TEST_F(Log, EachDayHasItsFile)
+{
+    make(QStringLiteral("program/Logs"));
+    switchOn();
+    WriteLog(QStringLiteral("late"));
+    SetClock([] { return QDateTime(QDate(2026, 11, 16), QTime(0, 0)); });
+    WriteLog(QStringLiteral("early"));
+    EXPECT_EQ(QByteArray("15/11/2026 14:03:22 : late\r\n"), bytesOf(day));
+    EXPECT_EQ(QByteArray("16/11/2026 00:00:00 : early\r\n"), bytesOf(path("program/Logs/16-11-2026.txt")));
+}
+
+TEST_F(Log, AnEntryCanHoldLineBreaks)
+{
+    make(QStringLiteral("program/Logs"));
+    switchOn();
+    WriteLog(QStringLiteral("Program Ended\r\n##"));
+    EXPECT_EQ(QByteArray("15/11/2026 14:03:22 : Program Ended\r\n##\r\n"), bytesOf(day));
+}
+
+TEST_F(Log, ReadingAndWritingADocumentIsLoggedInPairs)
+{
+    make(QStringLiteral("program/Logs"));
+    switchOn();
+    put(day, QByteArray());
+    const QString claim = path("claim.zr3");
+    WriteTextDocument(QStringLiteral("x"), claim, true);
+    ReadTextDocument(claim, true);
+    const QString stamp = QStringLiteral("15/11/2026 14:03:22 : ");
+    EXPECT_EQ(stamp + QStringLiteral("Begin Write Text Document - ") + claim + QStringLiteral("\r\n") + stamp
+                  + QStringLiteral("End Write Text Document - ") + claim + QStringLiteral("\r\n") + stamp
+                  + QStringLiteral("Begin Read Text Document - ") + claim + QStringLiteral("\r\n") + stamp
+                  + QStringLiteral("End Read Text Document - ") + claim + QStringLiteral("\r\n"),
+              QString::fromUtf8(bytesOf(day)));
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(Log, WithoutLogItNothingIsLogged)
+{
+    make(QStringLiteral("program/Logs"));
+    switchOn();
+    WriteTextDocument(QStringLiteral("x"), path("claim.zr3"), false);
+    ReadTextDocument(path("claim.zr3"), false);
+    EXPECT_FALSE(exists(day));
+}
+
+TEST_F(Log, AFailedReadOrWriteHasNoEndLine)
+{
+    make(QStringLiteral("program/Logs"));
+    switchOn();
+    put(day, QByteArray());
+    ReadTextDocument(path("nowhere/a"), true);
+    WriteTextDocument(QString(), path("nowhere/b"), true);
+    const QByteArray log = bytesOf(day);
+    EXPECT_TRUE(log.contains("Begin Read Text Document - "));
+    EXPECT_TRUE(log.contains("Begin Write Text Document - "));
+    EXPECT_FALSE(log.contains("End "));
+}
+
+TEST_F(Log, StoredSettingsAreLoggedInPairs)
+{
+    make(QStringLiteral("program/Logs"));
+    switchOn();
+    put(day, QByteArray());
+    const QString name = QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Velmor\\ZR3\\Database Path");
+    WriteRegKey(name, QStringLiteral("/srv"));
+    ReadRegKey(name);
+    DeleteRegKey(name);
+    QByteArray expected;
+    for (const char *operation : {"Write", "Read", "Delete"})
+        for (const char *moment : {"Begin ", "End "})
+            expected += QByteArray("15/11/2026 14:03:22 : ") + moment + operation + " Reg Key - " + name.toUtf8() + "\r\n";
+    EXPECT_EQ(expected, bytesOf(day));
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "shell/clsRunTimeError.h"
+
+#include <gtest/gtest.h>
+
+/// The number of the run-time error that the call raises, 0 when it raises none.
+template <class Call> int errorOf(Call call)
+{
+    try {
+        call();
+    } catch (const clsRunTimeError &error) {
+        return error.number();
+    }
+    return 0;
+}

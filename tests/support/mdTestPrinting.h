@@ -1,0 +1,25 @@
+#pragma once
+
+#include "costing/Money.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <ostream>
+
+// How a failed comparison shows the values of this house.
+
+inline void PrintTo(const QString &text, std::ostream *out)
+{
+    *out << '"' << text.toUtf8().constData() << '"';
+}
+
+inline void PrintTo(const QByteArray &bytes, std::ostream *out)
+{
+    *out << '"' << bytes.toPercentEncoding(" ").constData() << '"';
+}
+
+inline void PrintTo(Money amount, std::ostream *out)
+{
+    *out << MoneyToText(amount).toLatin1().constData();
+}

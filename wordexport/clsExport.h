@@ -1,0 +1,33 @@
+#pragma once
+
+#include "formdata/clsZR3Form.h"
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+/// One running export: the claim that it prints and the whole of the state that its steps share.
+struct clsExport {
+    clsZR3Form &form;
+    /// Where the page templates lie.
+    QString templatesFolder;
+
+    /// A sheet that could not be opened, saved or joined is passed over, as every failure of the word processor: the
+    /// user has been told. With this set the export stops there instead, and no document comes out: for callers who
+    /// can't ask anybody whether an incomplete one will do.
+    bool stopsAtLostSheet = false;
+    /// The sheets stay in the temporary folder when the export has ended.
+    bool keepsSheets = false;
+
+    /// The full paths of the sheet files, in the order in which they were made.
+    QStringList ExportFileCollection {};
+    /// The number of the latest sheet of the page in hand. Each page sets it but counsel's fees, which goes on from the
+    /// page before it, as it stands.
+    int ExportSheetCounter = 0;
+
+    /// The templates read so far, each found to be a document.
+    QHash<QString, QByteArray> templates {};
+};
+
+/// Ends an export after the user has been told why; no document comes out.
+struct clsExportStopped { };

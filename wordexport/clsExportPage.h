@@ -1,0 +1,88 @@
+#pragma once
+
+#include "formdata/clsZR3Form.h"
+
+#include <QString>
+
+#include <span>
+
+// What a page of a government form consists of, as tables. The shapes of pages (plain, grids, schedule, additional
+// information) work on these, and a page that is only tables has no code of its own.
+
+/// How a value is typed. A text of "0", "0.00" or "00:00" never prints, in whatever class.
+enum class clsFillClass {
+    Text, ///< the stored text as it stands
+    TickBox, ///< "True" or "False": a ticked or an empty box
+    Money, ///< an amount as plain text: two decimals and commas
+};
+
+/// Where a text goes that is too long for its box.
+struct clsOverRun {
+    int limit; ///< the characters that the box holds
+    int cutLength; ///< the characters that one continuation sheet holds
+    const char *continuationTemplate;
+};
+
+/// A placeholder of a page and what replaces it.
+struct clsPlaceholderRow {
+    const char *placeholder;
+    QString (*source)(const clsZR3Form &form);
+    clsFillClass fill = clsFillClass::Text;
+    const clsOverRun *overRun = nullptr;
+};
+
+/// A cell of a grid's row: what is typed for item `i` of the list, from 1.
+struct clsGridCell {
+    QString (*source)(const clsZR3Form &form, int i);
+    clsFillClass fill = clsFillClass::Text;
+};
+
+/// A table of a page with one row for each item of a list. Offsets are lines from the start of the sheet.
+struct clsGrid {
+    int (*count)(const clsZR3Form &form);
+    std::span<const clsGridCell> cells;
+    int firstCapacity;
+    int furtherCapacity;
+    int firstOffset;
+    int furtherOffset;
+    const char *continuationTemplate;
+};
+
+/// A page on which text and boxes are filled in and nothing else.
+struct clsPlainPage {
+    int number;
+    const char *pageTemplate;
+    std::span<const clsPlaceholderRow> rows;
+    /// The template of the panel membership sheet, on the page that has one.
+    const char *panelTemplate = nullptr;
+    /// The costs pages alone bear no mark of further sheets.
+    bool hasMark = true;
+    /// Rows that follow the first ones, where those are a table that both forms share.
+    std::span<const clsPlaceholderRow> furtherRows = {};
+};
+
+/// A page with grids, and with placeholders that are filled in after them.
+struct clsGridPage {
+    /// What the sheet counter is before a grid.
+    enum Counter { RunsOn, StartsAnew };
+    struct Grid {
+        const clsGrid *grid;
+        Counter counter;
+    };
+
+    int number;
+    const char *pageTemplate;
+    std::span<const Grid> grids;
+    std::span<const clsPlaceholderRow> rows;
+    /// On one page the mark comes after the placeholders; the printed result is the same.
+    bool markComesLast = false;
+};
+
+/// The place of the additional information on its page.
+struct clsAdditionalInformation {
+    int pageNumber;
+    const char *pageTemplate;
+    const char *continuationTemplate;
+    int firstBudget; ///< lines on the page's own sheet
+    int offset; ///< lines from the start of the sheet, on all sheets
+};

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "wordexport/clsWordBoldness.h"
+#include "wordexport/clsWordCursor.h"
+#include "wordexport/clsWordPackage.h"
+
+#include <memory>
+#include <optional>
+
+class clsWordComposer;
+
+/// One open document: its main story and the cursor in it, on which all editing is done.
+class clsWordDocument {
+public:
+    /// Opens a document's file. One that can't be worked with is a clsRunTimeError that says why.
+    explicit clsWordDocument(const QString &path);
+    ~clsWordDocument();
+
+    /// Writes the document back to its file.
+    void save(clsZipPackage::Packing packing, bool toDisk);
+
+    void goToStart();
+    void lineDown();
+    void cellRight();
+    void rowStart();
+
+    /// Selects the first occurrence of a text in the story; where there is none, the cursor is at the start.
+    void findFirst(const QString &find);
+    /// True when any of the selected text is bold; with nothing selected, when typed text would be.
+    bool selectionIsBold();
+
+    /// The weight and the symbol font of what is typed next; both last until the cursor is moved.
+    void setBold(bool bold) { m_bold = bold; }
+    void setSymbolFont() { m_symbolFont = true; }
+    /// Types over the selection; character 11 and line ends are line breaks within the paragraph.
+    void typeText(const QString &text);
+    void typePageBreak();
+    void startParagraph();
+    void backSpace();
+
+    /// Appends another document's file as sections of its own; the cursor is then at the end.
+    void append(const QString &path);
+
+private:
+    pugi::xml_node body();
+    void changed() { m_package.setChanged(m_package.mainPart()); }
+    void moved();
+    void type(const QString &typed);
+    void clearSelectedCell();
+    pugi::xml_node formatForTyping(const pugi::xml_node &like, bool symbolFont);
+    const clsWordBoldness &boldness();
+
+    QString m_path;
+    clsWordPackage m_package;
+    clsWordCursor m_cursor;
+    std::optional<bool> m_bold;
+    bool m_symbolFont = false;
+    pugi::xml_document m_format; // holds the formatting of the text that is being typed
+    std::unique_ptr<clsWordBoldness> m_boldness;
+    std::unique_ptr<clsWordComposer> m_composer;
+};

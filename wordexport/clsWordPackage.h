@@ -1,0 +1,90 @@
+#pragma once
+
+#include "wordexport/clsZipPackage.h"
+
+#include <pugixml.hpp>
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+/// A document as a package of parts, each with a content type and relationships to others. A part is parsed only
+/// when it is asked for; one that nobody changes is written back byte for byte.
+class clsWordPackage {
+public:
+    struct Relationship {
+        std::string id;
+        std::string type;
+        std::string target;
+        bool external = false;
+    };
+
+    static clsWordPackage fromFile(const QString &path);
+    clsWordPackage(clsZipPackage zip, const QString &shownName);
+
+    QByteArray toBytes(clsZipPackage::Packing packing);
+
+    /// The name that stands for the document in error messages.
+    const QString &shownName() const { return m_shownName; }
+    /// The part with the text: the one that the package's own relationship leads to, whatever it is called.
+    int mainPart() const { return m_mainPart; }
+    /// The part that the main part is related to by a type (its last word: "styles", "numbering"), or -1.
+    int relatedPart(const char *typeName);
+
+    int partCount() const { return int(m_zip.entries().size()); }
+    const QString &partName(int part) const { return m_zip.entries()[size_t(part)].name; }
+    const QByteArray &partBytes(int part) const { return m_zip.bytes(part); }
+    /// The bytes of a part as they are now, changes included.
+    QByteArray currentBytes(int part);
+    /// The tree of a part, parsed on the first call. Whoever changes it says so with setChanged.
+    pugi::xml_document &partXml(int part);
+    void setChanged(int part) { m_parsed[part].changed = true; }
+    std::string contentType(int part) const;
+
+    int findPart(const QString &name) const { return m_zip.indexOf(name); }
+    /// Adds a part under that name, or with another number in it ("word/media/image2.png") where it is taken.
+    int addPart(const QString &nameLike, const QByteArray &bytes, const std::string &contentType);
+
+    const std::vector<Relationship> &relationships(int part);
+    const Relationship *relationship(int part, const char *id);
+    /// The part that an internal relationship leads to; one that leads nowhere is an error.
+    int targetOf(int part, const Relationship &relationship) const;
+    /// Adds a relationship and returns its new id.
+    std::string addRelationship(int part, const std::string &type, int targetPart);
+    std::string addExternalRelationship(int part, const std::string &type, const std::string &target);
+    /// Gives a new part the relationships of another, ids included.
+    void setRelationships(int part, std::vector<Relationship> relationships);
+    /// How a part refers to another one: the absolute form, which holds wherever the part lies.
+    std::string referenceTo(int targetPart) const;
+
+private:
+    struct Parsed {
+        std::unique_ptr<pugi::xml_document> tree;
+        bool changed = false;
+    };
+    struct Relations {
+        std::vector<Relationship> list;
+        int nextId = 1;
+        bool changed = false;
+    };
+
+    static constexpr int Package = -1;
+
+    QString relationshipsName(int part) const;
+    Relations &relations(int part);
+    std::unique_ptr<pugi::xml_document> parse(const QByteArray &bytes) const;
+    void findMainPart();
+    void writeRelationships();
+
+    clsZipPackage m_zip;
+    QString m_shownName;
+    int m_mainPart = -1;
+    std::map<int, Parsed> m_parsed;
+    std::map<int, Relations> m_relations;
+    std::unique_ptr<pugi::xml_document> m_contentTypes;
+    std::map<std::string, std::string> m_defaultTypes;  // by extension, lower case
+    std::map<std::string, std::string> m_overrideTypes; // by part name, lower case
+    bool m_contentTypesChanged = false;
+    std::map<QString, int> m_nextNumber; // of part names, by what surrounds the number
+};

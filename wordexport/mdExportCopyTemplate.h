@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+struct clsExport;
+
+/// Copies a template to the temporary folder as the file of a sheet and returns its full path, which the caller adds to
+/// the sheets at once. A template that is missing or is no document, and a folder that can't be written to, are
+/// run-time errors: they end the export before anything stands under the finished document's name.
+QString mdExportCopyTemplate(clsExport &run, const QString &templateName, const QString &sheetName);
+
+/// The name of a sheet: the page's number and the sheet's in brackets, such as 3(2).
+QString mdSheetName(int pageNumber, int sheetNumber);
+
+/// The mark beside the page number of a sheet: the sheet's number in brackets.
+QString mdSheetMark(int sheetNumber);

@@ -1,0 +1,177 @@
+#include "wordexport/mdExportRows.h"
+
+#include "costing/mdGetCommsInfo.h"
+#include "costing/mdGetDisbursementsTotals.h"
+#include "shell/mdExisting.h"
+#include "wordexport/mdExportSources.h"
+
+namespace {
+
+using Form = clsZR3Form;
+using enum clsCommsKind;
+
+/// Account number and name of the counsel whose fee item `i` is; the object error where it names none.
+QString counselText(const Form &form, int i)
+{
+    const auto named = form.CounselByUniqueID(form.CounselDisbursement(i)->CounselUniqueID());
+    const clsZR3Counsel &counsel = mdExisting(named);
+    return counsel.AccountNumber() + QStringLiteral(" - ") + counsel.Name();
+}
+
+const clsZR3Disbursement &counselFee(const Form &form, int i)
+{
+    return *form.CounselDisbursement(i);
+}
+
+const clsZR3Disbursement &other(const Form &form, int i)
+{
+    return *form.NonCounselDisbursement(i);
+}
+
+std::shared_ptr<clsZR3ExpertInvoice> expert(const Form &form, int i)
+{
+    auto invoice = form.ExpertInvoiceByOrderID(i);
+    mdExisting(invoice);
+    return invoice;
+}
+
+std::shared_ptr<clsZR3JointInstruction> joint(const Form &form, int i)
+{
+    auto instruction = form.JointInstructionByOrderID(i);
+    mdExisting(instruction);
+    return instruction;
+}
+
+const clsGridCell CounselFees[] = {
+    ZR3_CELL(QString::number(i), Text),
+    ZR3_CELL(counselText(form, i), Text),
+    ZR3_CELL(counselFee(form, i).DateOfWork(), Text),
+    ZR3_CELL(mdGrossText(counselFee(form, i).Amount(), counselFee(form, i).VAT()), Money),
+};
+
+const clsPlaceholderRow CounselFeesPlaceholders[] = {
+    ZR3_FIGURE("{ctotal}", CounselDisbursementsAmountTotal(form) + CounselDisbursementsVATTotal(form)),
+    ZR3_TICK("{1}", CounselOutstandingClaims.OutstandingClaimsYes),
+    ZR3_TICK("{2}", CounselOutstandingClaims.OutstandingClaimsNo),
+};
+
+const clsGridCell ExpertInvoices[] = {
+    ZR3_CELL(expert(form, i)->ExpertGroup(), Text),
+    ZR3_CELL(expert(form, i)->ExpertType(), Text),
+    ZR3_CELL(expert(form, i)->PriorAuthorityObtained() ? QStringLiteral("Y") : QStringLiteral("N"), Text),
+    ZR3_CELL(expert(form, i)->PreparationHourlyRate(), Text),
+    ZR3_CELL(expert(form, i)->TotalPrepCost(), Text),
+    ZR3_CELL(expert(form, i)->CourtAttendanceHourlyRate(), Text),
+    ZR3_CELL(expert(form, i)->TotalCourtCost(), Text),
+    ZR3_CELL(expert(form, i)->TravelTimeCosts(), Text),
+    ZR3_CELL(expert(form, i)->OtherCosts(), Text),
+    ZR3_CELL(expert(form, i)->NetAmount(), Text),
+    ZR3_CELL(expert(form, i)->VATAmount(), Text),
+    ZR3_CELL(mdGrossText(expert(form, i)->NetAmount(), expert(form, i)->VATAmount()), Money),
+};
+
+const clsGridCell JointInstructions[] = {
+    ZR3_CELL(joint(form, i)->ExpertType(), Text),
+    ZR3_CELL(joint(form, i)->PartyName(), Text),
+    ZR3_CELL(joint(form, i)->Solicitor(), Text),
+    ZR3_CELL(joint(form, i)->CertificateReference(), Text),
+    ZR3_CELL(joint(form, i)->PercentApportioned(), Text),
+};
+
+const clsGridCell OtherDisbursements[] = {
+    ZR3_CELL(other(form, i).Description(), Text),
+    ZR3_CELL(other(form, i).Amount(), Money),
+    ZR3_CELL(other(form, i).VAT(), Money),
+    ZR3_CELL(mdGrossText(other(form, i).Amount(), other(form, i).VAT()), Money),
+};
+
+const clsPlaceholderRow Communications[] = {
+    ZR3_FIGURE("{loir1}", CommsRateAtLine(form, 1, LettersOut)),
+    ZR3_WORDS("{lo1}", CommsCountAtLine(form, 1, LettersOut)),
+    ZR3_FIGURE("{loenh1}", CommsEnhancementAtLine(form, 1, LettersOut)),
+    ZR3_FIGURE("{lototal1}", CommsClaimAtLine(form, 1, LettersOut)),
+    ZR3_FIGURE("{loir2}", CommsRateAtLine(form, 2, LettersOut)),
+    ZR3_WORDS("{lo2}", CommsCountAtLine(form, 2, LettersOut)),
+    ZR3_FIGURE("{loenh2}", CommsEnhancementAtLine(form, 2, LettersOut)),
+    ZR3_FIGURE("{lototal2}", CommsClaimAtLine(form, 2, LettersOut)),
+    ZR3_FIGURE("{liir1}", CommsRateAtLine(form, 1, LettersIn)),
+    ZR3_WORDS("{li1}", CommsCountAtLine(form, 1, LettersIn)),
+    ZR3_FIGURE("{lienh1}", CommsEnhancementAtLine(form, 1, LettersIn)),
+    ZR3_FIGURE("{litotal1}", CommsClaimAtLine(form, 1, LettersIn)),
+    ZR3_FIGURE("{liir2}", CommsRateAtLine(form, 2, LettersIn)),
+    ZR3_WORDS("{li2}", CommsCountAtLine(form, 2, LettersIn)),
+    ZR3_FIGURE("{lienh2}", CommsEnhancementAtLine(form, 2, LettersIn)),
+    ZR3_FIGURE("{litotal2}", CommsClaimAtLine(form, 2, LettersIn)),
+    ZR3_FIGURE("{tcir1}", CommsRateAtLine(form, 1, Calls)),
+    ZR3_WORDS("{tc1}", CommsCountAtLine(form, 1, Calls)),
+    ZR3_FIGURE("{tcenh1}", CommsEnhancementAtLine(form, 1, Calls)),
+    ZR3_FIGURE("{tctotal1}", CommsClaimAtLine(form, 1, Calls)),
+    ZR3_FIGURE("{tcir2}", CommsRateAtLine(form, 2, Calls)),
+    ZR3_WORDS("{tc2}", CommsCountAtLine(form, 2, Calls)),
+    ZR3_FIGURE("{tcenh2}", CommsEnhancementAtLine(form, 2, Calls)),
+    ZR3_FIGURE("{tctotal2}", CommsClaimAtLine(form, 2, Calls)),
+    ZR3_FIGURE("{cmtotal}", CommsTotal(form)),
+};
+
+const clsPlaceholderRow Debtor[] = {
+    ZR3_TEXT("{title}", DebtorsDetails.Title),
+    ZR3_TEXT("{initials}", DebtorsDetails.Initials),
+    ZR3_TEXT("{surnameororganisation}", DebtorsDetails.SurnameOrOrganisation),
+    ZR3_TEXT("{firstname}", DebtorsDetails.FirstName),
+    ZR3_TEXT("{dateofbirth}", DebtorsDetails.DateOfBirth),
+    ZR3_TEXT("{nationalinsurancenumber}", DebtorsDetails.NationalInsuranceNumber),
+    ZR3_TEXT("{address}", DebtorsDetails.Address),
+    ZR3_TEXT("{phonework}", DebtorsDetails.PhoneWork),
+    ZR3_TEXT("{phonehome}", DebtorsDetails.PhoneHome),
+    ZR3_TEXT("{mobile}", DebtorsDetails.Mobile),
+    ZR3_TEXT("{fax}", DebtorsDetails.Fax),
+    ZR3_TEXT("{email}", DebtorsDetails.Email),
+    ZR3_TEXT("{solicitorsfirmname}", DebtorsDetails.SolicitorsFirmName),
+    ZR3_TICK("{1}", DebtorsDetails.Employed),
+    ZR3_TICK("{2}", DebtorsDetails.SelfEmployed),
+    ZR3_TICK("{3}", DebtorsDetails.UnEmployed),
+    ZR3_TEXT("{job}", DebtorsDetails.Job),
+    ZR3_TEXT("{employersname}", DebtorsDetails.EmployersName),
+    ZR3_TEXT("{employersaddress}", DebtorsDetails.EmployersAddress),
+    ZR3_TEXT("{assets}", DebtorsDetails.Assets),
+    ZR3_MONEY("{debtorsincome}", DebtorsDetails.DebtorsIncome),
+    ZR3_TICK("{4}", DebtorsDetails.DebtorCLSFundedYes),
+    ZR3_TICK("{5}", DebtorsDetails.DebtorCLSFundedNo),
+    ZR3_TEXT("{casereference}", DebtorsDetails.CaseReference),
+    ZR3_TEXT("{information}", DebtorsDetails.Information),
+};
+
+} // namespace
+
+const std::span<const clsGridCell> CounselFeesCells = CounselFees;
+const std::span<const clsPlaceholderRow> CounselFeesRows = CounselFeesPlaceholders;
+const std::span<const clsGridCell> ExpertInvoiceCells = ExpertInvoices;
+const std::span<const clsGridCell> JointInstructionCells = JointInstructions;
+const std::span<const clsGridCell> OtherDisbursementCells = OtherDisbursements;
+const std::span<const clsPlaceholderRow> CommunicationsRows = Communications;
+const std::span<const clsPlaceholderRow> DebtorsDetailsRows = Debtor;
+
+int mdCountCounselFees(const clsZR3Form &form)
+{
+    return int(form.CounselDisbursementsCollection().size());
+}
+
+int mdCountExpertInvoices(const clsZR3Form &form)
+{
+    return int(form.ExpertInvoicesCollection().size());
+}
+
+int mdCountJointInstructions(const clsZR3Form &form)
+{
+    return int(form.JointInstructionsCollection().size());
+}
+
+int mdCountOtherDisbursements(const clsZR3Form &form)
+{
+    return int(form.NonCounselDisbursementsCollection().size());
+}
+
+QString mdGrossText(const QString &amount, const QString &vat)
+{
+    return MoneyToText(MoneyFromText(amount) + MoneyFromText(vat));
+}

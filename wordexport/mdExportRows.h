@@ -1,0 +1,31 @@
+#pragma once
+
+#include "wordexport/clsExportPage.h"
+
+// The tables that both government forms print, each in its own place.
+
+/// The cells of counsel's fees: number, counsel, date, amount with VAT.
+extern const std::span<const clsGridCell> CounselFeesCells;
+/// What counsel's page shows after its grid.
+extern const std::span<const clsPlaceholderRow> CounselFeesRows;
+
+/// The twelve cells of an expert's invoice. Its amounts are typed as text on purpose: they print as they are stored, and
+/// only the total is formatted.
+extern const std::span<const clsGridCell> ExpertInvoiceCells;
+/// The cells of a joint instruction and of a disbursement that is not counsel's.
+extern const std::span<const clsGridCell> JointInstructionCells;
+extern const std::span<const clsGridCell> OtherDisbursementCells;
+
+/// Letters out, letters in and calls, two lines each, and their total.
+extern const std::span<const clsPlaceholderRow> CommunicationsRows;
+/// The whole of the debtor's page.
+extern const std::span<const clsPlaceholderRow> DebtorsDetailsRows;
+
+// How many items the grids have.
+int mdCountCounselFees(const clsZR3Form &form);
+int mdCountExpertInvoices(const clsZR3Form &form);
+int mdCountJointInstructions(const clsZR3Form &form);
+int mdCountOtherDisbursements(const clsZR3Form &form);
+
+/// The text of an expert's invoice item's or disbursement's amount and VAT added; the type error where one is no number.
+QString mdGrossText(const QString &amount, const QString &vat);

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "wordexport/clsExportPage.h"
+#include "wordexport/clsMSWord.h"
+
+struct clsExport;
+
+// The small steps that all pages and continuation sheets are made of.
+
+/// The placeholder of the mark beside a sheet's page number.
+inline const QString SheetMarkPlaceholder = QStringLiteral("{or}");
+
+/// Copies a template to a sheet, adds it to the sheets of the export and returns its path.
+QString mdMakeSheet(clsExport &run, const QString &templateName, int pageNumber, int sheetNumber);
+
+// Opening and saving stop the export where it asks for that and the sheet is lost.
+
+void mdOpenSheet(const clsExport &run, clsMSWord &word, const QString &path);
+void mdSaveSheet(const clsExport &run, clsMSWord &word);
+/// Saves, closes and ends a sheet's word processor.
+void mdFinishSheet(const clsExport &run, clsMSWord &word);
+
+void mdReplace(clsMSWord &word, const QString &placeholder, const QString &text, clsFillClass fill);
+void mdReplaceMark(clsMSWord &word, const QString &mark);
+/// Types a grid's cell, or a piece of the additional information.
+void mdTypeCell(clsMSWord &word, const QString &text, clsFillClass fill);
+
+/// Replaces the placeholders of a page in the order of their table. A text too long for its box goes to continuation
+/// sheets in its place in that order.
+void mdReplaceRows(clsExport &run, clsMSWord &word, std::span<const clsPlaceholderRow> rows, int pageNumber);

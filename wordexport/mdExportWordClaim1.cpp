@@ -1,0 +1,269 @@
+#include "wordexport/mdExportWordClaim1.h"
+
+#include "costing/mdGetCommsInfo.h"
+#include "costing/mdGetCounselTotals.h"
+#include "costing/mdGetDisbursementsTotals.h"
+#include "costing/mdPercentageCalculate.h"
+#include "wordexport/clsExport.h"
+#include "wordexport/mdExportRows.h"
+#include "wordexport/mdExportSheet.h"
+#include "wordexport/mdExportSources.h"
+#include "wordexport/mdExportWordAdditionalInformation.h"
+#include "wordexport/mdExportWordForm.h"
+#include "wordexport/mdExportWordGridPage.h"
+#include "wordexport/mdExportWordPlainPage.h"
+#include "wordexport/mdExportWordScheduleOfTime.h"
+#include "wordexport/mdOutcomesCollections.h"
+
+// The ten pages of Claim 1. The rows stand in the order in which they are filled in.
+
+namespace {
+
+/// The code of the entry chosen in a list of outcomes; a place outside the list is the subscript error.
+QString outcome(const QStringList &list, int place)
+{
+    if (place < 0 || place >= list.size())
+        throw clsRunTimeError(clsRunTimeError::SubscriptOutOfRange);
+    return OutcomeCode(list[place]);
+}
+
+/// The VAT of the profit costs, which the claim shows to four decimals' worth: it is not rounded to the penny first.
+Money profitCostsVAT(const clsZR3Form &form)
+{
+    return PercentageCalculate(ProfitCostsTotal(form), form.VATRate());
+}
+
+Money netTotal(const clsZR3Form &form)
+{
+    return ProfitCostsTotal(form) + ExpertInvoicesNetTotal(form) + NonCounselDisbursementsAmountTotal(form);
+}
+
+Money vatTotal(const clsZR3Form &form)
+{
+    return profitCostsVAT(form) + ExpertInvoicesVATTotal(form) + NonCounselDisbursementsVATTotal(form);
+}
+
+// Page 1
+
+const clsPlaceholderRow Page1Rows[] = {
+    ZR3_TICK("{1}", CostsAssessedByLSC),
+    ZR3_TICK("{2}", CostsAssessedByCourt),
+    ZR3_TICK("{9}", ExceptionalCaseFunding),
+    ZR3_TICK("{10}", MentalHealth),
+    ZR3_TICK("{11}", VHCC),
+    ZR3_TEXT("{stagenumber}", StageNumber),
+    ZR3_TEXT("{typeofcase}", TypeOfCase),
+    ZR3_TEXT("{casereferencenumber}", ClientDetails.CaseReferenceNumber),
+    ZR3_TEXT("{title}", ClientDetails.Title),
+    ZR3_TEXT("{firstname}", ClientDetails.FirstName),
+    ZR3_TEXT("{surname}", ClientDetails.Surname),
+    ZR3_TEXT("{dateofbirth}", ClientDetails.DateOfBirth),
+    ZR3_TEXT("{morethan1certificate}", ClientDetails.MoreThan1Certificate),
+    ZR3_TEXT("{accountnumber}", SolicitorDetails.AccountNumber),
+    ZR3_TEXT("{rollnumber}", SolicitorDetails.RollNumber),
+    ZR3_TEXT("{nameoffirm}", SolicitorDetails.NameOfFirm),
+    ZR3_TEXT("{casereference}", SolicitorDetails.CaseReference),
+    ZR3_TEXT("{contactnameforenquiries}", SolicitorDetails.ContactNameForEnquiries),
+    ZR3_TEXT("{telephoneforenquiries}", SolicitorDetails.TelephoneForEnquiries),
+    ZR3_TEXT("{emailforenquiries}", SolicitorDetails.EmailForEnquiries),
+    ZR3_TICK("{3}", PreviousAdvice.LegalHelpYes),
+    ZR3_TICK("{4}", PreviousAdvice.LegalHelpNo),
+    ZR3_TEXT("{datelegalhelpformsigned}", PreviousAdvice.DateLegalHelpFormSigned),
+    ZR3_MONEY("{totalcostsincurred}", PreviousAdvice.TotalCostsIncurred),
+    ZR3_TICK("{5}", PreviousAdvice.InclusiveOfAllSolicitorsYes),
+    ZR3_TICK("{6}", PreviousAdvice.InclusiveOfAllSolicitorsNo),
+    ZR3_TEXT("{inclusiveofallsolicitorsreasons}", PreviousAdvice.InclusiveOfAllSolicitorsReasons),
+    ZR3_TICK("{7}", PreviousAdvice.FurtherClaimsYes),
+    ZR3_TICK("{8}", PreviousAdvice.FurtherClaimsNo),
+};
+
+const clsPlainPage Page1 = {1, "Claim1 P1", Page1Rows};
+
+// Page 2
+
+const clsOverRun LateSubmissionOverRun = {400, 3000, "Claim1 P2 Late Submission Cont"};
+
+const clsPlaceholderRow Page2Rows[] = {
+    ZR3_TEXT("{issueofproceedingsdate}", CaseInformation.IssueOfProceedingsDate),
+    ZR3_TEXT("{dateoffinalworkdate}", CaseInformation.DateOfFinalWorkDate),
+    ZR3_TEXT("{nameofcourt}", CaseInformation.NameOfCourt),
+    ZR3_TEXT("{emergencycertificatedate}", CaseInformation.EmergencyCertificateDate),
+    ZR3_TEXT("{substantivecertificatedate}", CaseInformation.SubstantiveCertificateDate),
+    ZR3_WORDS("{g}", outcome(StageOfCaseEndCollection(), form.OutcomeOfCase.StageOfCaseEnd())),
+    ZR3_WORDS("{h}", outcome(HowDidCaseEndCollection(), form.OutcomeOfCase.HowDidCaseEnd())),
+    ZR3_WORDS("{i}", outcome(ResultCollection(), form.OutcomeOfCase.Result())),
+    ZR3_WORDS("{j}", outcome(ADRProposedCollection(), form.OutcomeOfCase.ADRProposed())),
+    ZR3_WORDS("{k}", outcome(PublicBenefitsAchievedCollection(), form.OutcomeOfCase.PublicBenefitsAchieved())),
+    ZR3_TICK("{l}", OutcomeOfCase.Costs),
+    ZR3_TICK("{m}", OutcomeOfCase.Damages),
+    ZR3_TICK("{n}", OutcomeOfCase.Property),
+    ZR3_TICK("{q}", OutcomeOfCase.WastedCostsOrderYes),
+    ZR3_TICK("{r}", OutcomeOfCase.WastedCostsOrderNo),
+    ZR3_TEXT("{date}", LateSubmission.dDate),
+    ZR3_LONG("{explanation}", LateSubmission.Explanation, LateSubmissionOverRun),
+};
+
+const clsPlainPage Page2 = {2, "Claim1 P2", Page2Rows};
+
+// Page 3
+
+const clsOverRun CaseDetailsOverRun = {770, 2750, "Claim1 P3 Case Details Cont"};
+const clsOverRun EnhancementOverRun = {710, 2620, "Claim1 P3 Enhancement Cont"};
+
+const clsPlaceholderRow Page3Rows[] = {
+    ZR3_LONG("{detailsofcase}", DetailsOfWork.DetailsOfCase, CaseDetailsOverRun),
+    ZR3_LONG("{detailsofenhancement}", DetailsOfWork.DetailsOfEnhancement, EnhancementOverRun),
+};
+
+const clsPlainPage Page3 = {3, "Claim1 P3", Page3Rows, "Claim1 P3 Panel Membership Cont"};
+
+// Page 4: counsel's fees. The sheet counter goes on from whatever page ran before it, and so do the further sheets'
+// names and marks: that carry-over belongs to this page and stays.
+
+const clsGrid CounselFeesGrid = {mdCountCounselFees, CounselFeesCells, 32, 38, 9, 3, "Claim1 P4 Counsels Fees Cont"};
+const clsGridPage::Grid Page4Grids[] = {{&CounselFeesGrid, clsGridPage::RunsOn}};
+const clsGridPage Page4 = {4, "Claim1 P4", Page4Grids, CounselFeesRows};
+
+// Page 6: additional information and experts
+
+const clsAdditionalInformation Page6AdditionalInformation
+    = {6, "Claim1 P6", "Claim1 P6 Additional Info Cont", 10, 3};
+
+/// The lines above the experts' grid while no note is typed; each typed line pushes it down by one.
+constexpr int LinesAboveExperts = 20;
+
+const clsGrid ExpertsGrid
+    = {mdCountExpertInvoices, ExpertInvoiceCells, 11, 32, LinesAboveExperts, 4, "Claim1 P6 Expert Dibs Cont"};
+
+const clsOverRun ExpertStandardsOverRun = {100, 2750, "Claim1 P6 Expert Dibs Standards Cont"};
+
+const clsPlaceholderRow Page6Rows[] = {
+    ZR3_TICK("{1}", ExpertsMeetMOJStandardYes),
+    ZR3_TICK("{2}", ExpertsMeetMOJStandardNo),
+    ZR3_LONG("{expertsmeetmojstandardreasons}", ExpertsMeetMOJStandardReasons, ExpertStandardsOverRun),
+    ZR3_FIGURE("{exnet}", ExpertInvoicesNetTotal(form)),
+    ZR3_FIGURE("{exvat}", ExpertInvoicesVATTotal(form)),
+    ZR3_FIGURE("{extot}", ExpertInvoicesNetTotal(form) + ExpertInvoicesVATTotal(form)),
+};
+
+void exportPage6(clsExport &run)
+{
+    run.ExportSheetCounter = 0;
+    const auto notes = mdExportWordAdditionalInformation(run, Page6AdditionalInformation);
+    clsMSWord word;
+    mdOpenSheet(run, word, notes.firstSheet);
+    mdExportGrid(run, word, ExpertsGrid, notes.linesUsed + ExpertsGrid.firstOffset, notes.firstSheet, 6);
+    mdReplaceFirstSheetMark(run, word);
+    mdReplaceRows(run, word, Page6Rows, 6);
+    mdFinishSheet(run, word);
+}
+
+// Page 7: disbursements. The counter starts anew before the second grid, so that both grids' first further sheets are
+// 7(2): the second overwrites the first, and the finished document shows it twice. It is to stay so.
+
+const clsGrid JointInstructionsGrid
+    = {mdCountJointInstructions, JointInstructionCells, 14, 30, 6, 5, "Claim1 P7 Expert Dibs Joint Instruction Cont"};
+const clsGrid OtherDisbursementsGrid
+    = {mdCountOtherDisbursements, OtherDisbursementCells, 12, 32, 25, 3, "Claim1 P7 Other Dibs Cont"};
+
+const clsGridPage::Grid Page7Grids[] = {
+    {&JointInstructionsGrid, clsGridPage::StartsAnew},
+    {&OtherDisbursementsGrid, clsGridPage::StartsAnew},
+};
+
+const clsPlaceholderRow Page7Rows[] = {
+    ZR3_FIGURE("{nettotal}", NonCounselDisbursementsAmountTotal(form)),
+    ZR3_FIGURE("{vattotal}", NonCounselDisbursementsVATTotal(form)),
+    ZR3_FIGURE("{dibstotal}", NonCounselDisbursementsAmountTotal(form) + NonCounselDisbursementsVATTotal(form)),
+};
+
+const clsGridPage Page7 = {7, "Claim1 P7", Page7Grids, Page7Rows};
+
+// Page 8: letters and calls, and the summary
+
+const clsPlaceholderRow SummaryRows[] = {
+    ZR3_FIGURE("{npc}", ProfitCostsTotal(form)),
+    ZR3_FIGURE("{nex}", ExpertInvoicesNetTotal(form)),
+    ZR3_FIGURE("{ndibs}", NonCounselDisbursementsAmountTotal(form)),
+    ZR3_FIGURE("{ntotal}", netTotal(form)),
+    ZR3_FIGURE("{vpc}", profitCostsVAT(form)),
+    ZR3_FIGURE("{vex}", ExpertInvoicesVATTotal(form)),
+    ZR3_FIGURE("{vdibs}", NonCounselDisbursementsVATTotal(form)),
+    ZR3_FIGURE("{vtotal}", vatTotal(form)),
+    ZR3_FIGURE("{grandtotal}", netTotal(form) + vatTotal(form)),
+    ZR3_WORDS("{counsel}", QString::number(form.CounselCollection().size())),
+    ZR3_FIGURE("{ncf}", CounselFeesAmountTotal(form)),
+    ZR3_FIGURE("{vcf}", CounselFeesVATTotal(form)),
+    ZR3_FIGURE("{cftotal}", CounselFeesTotal(form)),
+    ZR3_WORDS("{csl1}", CounselAccountNumberAtLine(form, 1)),
+    ZR3_FIGURE("{cslamt1}", CounselGrossAtLine(form, 1)),
+    ZR3_WORDS("{csl2}", CounselAccountNumberAtLine(form, 2)),
+    ZR3_FIGURE("{cslamt2}", CounselGrossAtLine(form, 2)),
+    ZR3_WORDS("{csl3}", CounselAccountNumberAtLine(form, 3)),
+    ZR3_FIGURE("{cslamt3}", CounselGrossAtLine(form, 3)),
+    ZR3_WORDS("{csl4}", CounselAccountNumberAtLine(form, 4)),
+    ZR3_FIGURE("{cslamt4}", CounselGrossAtLine(form, 4)),
+    ZR3_WORDS("{csl5}", CounselAccountNumberAtLine(form, 5)),
+    ZR3_FIGURE("{cslamt5}", CounselGrossAtLine(form, 5)),
+    ZR3_WORDS("{csl6}", CounselAccountNumberAtLine(form, 6)),
+    ZR3_FIGURE("{cslamt6}", CounselGrossAtLine(form, 6)),
+};
+
+const clsPlainPage Page8 = {8, "Claim1 P8", CommunicationsRows, nullptr, true, SummaryRows};
+
+// Page 9: costs awarded
+
+const clsPlaceholderRow Page9Rows[] = {
+    ZR3_MONEY("{precertcosts}", DetailsOfCostsAwarded.PreCertificateCosts),
+    ZR3_MONEY("{duringcertlsc}", DetailsOfCostsAwarded.DuringCertificateCostsLSC),
+    ZR3_MONEY("{duringcertmr}", DetailsOfCostsAwarded.DuringCertificateCostsMarketRates),
+    ZR3_TICK("{1}", DetailsOfCostsAwarded.LegalHelpInPreCertificateCostsYes),
+    ZR3_TICK("{2}", DetailsOfCostsAwarded.LegalHelpInPreCertificateCostsNo),
+    ZR3_MONEY("{lhipccamount}", DetailsOfCostsAwarded.LegalHelpInPreCertificateCostsAmount),
+    ZR3_MONEY("{interest}", DetailsOfCostsAwarded.InterestOnAllCosts),
+    ZR3_TEXT("{dateinterestcommenced}", DetailsOfCostsAwarded.DateInterestCommenced),
+    ZR3_TEXT("{interestbreakdown}", DetailsOfCostsAwarded.InterestBreakdown),
+    ZR3_MONEY("{rcvrdtodate}", DetailsOfCostsAwarded.AmountRecoveredToDate),
+    ZR3_TEXT("{dateorderserved}", DetailsOfCostsAwarded.DateOrderServed),
+    ZR3_TEXT("{addressofservice}", DetailsOfCostsAwarded.AddressOfService),
+    ZR3_TICK("{3}", DetailsOfCostsAwarded.LeaveYes),
+    ZR3_TICK("{4}", DetailsOfCostsAwarded.LeaveNo),
+    ZR3_TICK("{5}", DetailsOfCostsAwarded.DeterminationYes),
+    ZR3_TICK("{6}", DetailsOfCostsAwarded.DeterminationNo),
+    ZR3_MONEY("{detmamount}", DetailsOfCostsAwarded.DeterminationAmount),
+    ZR3_TICK("{7}", DetailsOfCostsAwarded.OfferByDebtorYes),
+    ZR3_TICK("{8}", DetailsOfCostsAwarded.OfferByDebtorNo),
+    ZR3_TEXT("{offerbydebtordetails}", DetailsOfCostsAwarded.OfferByDebtorDetails),
+    ZR3_MONEY("{value}", DetailsOfMonies.Value),
+    ZR3_MONEY("{dmrcvrdtodate}", DetailsOfMonies.AmountRecovered),
+};
+
+const clsPlainPage Page9 = {9, "Claim1 P9", Page9Rows, nullptr, false};
+
+// Page 10: the debtor
+
+const clsPlainPage Page10 = {10, "Claim1 P10", DebtorsDetailsRows};
+
+const clsExportPageRow Pages[] = {
+    {1, "Claim1 Page 1", [](clsExport &run) { mdExportWordPlainPage(run, Page1); }},
+    {2, "Claim1 Page 2", [](clsExport &run) { mdExportWordPlainPage(run, Page2); }},
+    {3, "Claim1 Page 3", [](clsExport &run) { mdExportWordPlainPage(run, Page3); }},
+    {4, "Claim1 Page 4", [](clsExport &run) { mdExportWordGridPage(run, Page4); }},
+    {5, "Claim1 Page 5", [](clsExport &run) { mdExportWordScheduleOfTime(run, QStringLiteral("Claim1 P5"), 5); }},
+    {6, "Claim1 Page 6", exportPage6},
+    {7, "Claim1 Page 7", [](clsExport &run) { mdExportWordGridPage(run, Page7); }},
+    {8, "Claim1 Page 8", [](clsExport &run) { mdExportWordPlainPage(run, Page8); }},
+    {9, "Claim1 Page 9", [](clsExport &run) { mdExportWordPlainPage(run, Page9); }},
+    {10, "Claim1 Page 10", [](clsExport &run) { mdExportWordPlainPage(run, Page10); }},
+};
+
+/// The progress bar counts to eleven although the form has ten pages; the bar has always had its last step free.
+constexpr int ProgressMaximum = 11;
+constexpr int AdditionalInformationPage = 6;
+
+} // namespace
+
+bool mdExportWordClaim1(clsExport &run)
+{
+    return mdExportWordForm(run, {"Claim1", Pages, ProgressMaximum, AdditionalInformationPage});
+}

@@ -1,0 +1,52 @@
+#include "wordexport/mdExportWordCombineDocuments.h"
+
+#include "shell/clsRunTimeError.h"
+#include "shell/mdLog.h"
+#include "shell/mdSetProgress.h"
+#include "wordexport/clsExport.h"
+#include "wordexport/clsMSWord.h"
+#include "wordexport/clsZipPackage.h"
+#include "wordexport/mdDocumentFile.h"
+#include "wordexport/mdExportSheet.h"
+#include "wordexport/mdExportTempFolder.h"
+
+#include <filesystem>
+
+namespace {
+
+/// Gives the finished name to the joined document, in one step.
+void putInPlace(const QString &joined, const QString &finished)
+{
+    std::error_code error;
+    std::filesystem::rename(joined.toStdString(), finished.toStdString(), error);
+    if (error)
+        throw clsRunTimeError::fromSystem(error.value());
+}
+
+} // namespace
+
+QString mdFinishedDocumentPath(const clsZR3Form &form)
+{
+    return QStringLiteral("%1/%2.doc").arg(form.ExportPath(), form.FormType());
+}
+
+void mdExportWordCombineDocuments(clsExport &run)
+{
+    WriteLog(QStringLiteral("Begin Export Word Combine Documents"));
+    const QString folder = mdExportTempFolder(run.form);
+    const QString joined = folder + QStringLiteral("/Joined.doc");
+    // The first sheet is always page 1's, and its name is taken for granted.
+    mdWriteDocumentFile(joined, mdReadDocumentFile(folder + QStringLiteral("/1(1).doc"), ZipLimits::PackageBytes), false);
+
+    clsMSWord word(clsMSWord::Finished);
+    mdOpenSheet(run, word, joined);
+    const int count = int(run.ExportFileCollection.size());
+    for (int i = 2; i <= count; ++i) {
+        mdSetProgress(i, count, QStringLiteral("Combining Documents"));
+        word.InsertFileAtEnd(run.ExportFileCollection[i - 1]);
+    }
+    word.TypeBackSpace();
+    mdFinishSheet(run, word);
+    putInPlace(joined, mdFinishedDocumentPath(run.form));
+    WriteLog(QStringLiteral("End Export Word Combine Documents"));
+}

@@ -1,0 +1,55 @@
+#include "wordexport/mdExportWordForm.h"
+
+#include "shell/mdLog.h"
+#include "shell/mdSetProgress.h"
+#include "wordexport/clsExport.h"
+#include "wordexport/mdExportTempFolder.h"
+#include "wordexport/mdExportWordAdditionalInformation.h"
+#include "wordexport/mdExportWordCombineDocuments.h"
+
+namespace {
+
+void exportPage(clsExport &run, const clsExportPageRow &page)
+{
+    const QString name = QString::fromLatin1(page.logName);
+    WriteLog(QStringLiteral("Begin Export Word ") + name);
+    if (!run.form.IncludePage(page.number))
+        return;
+    page.exporter(run);
+    WriteLog(QStringLiteral("End Export Word ") + name);
+}
+
+void exportSheets(clsExport &run, const clsExportForm &form)
+{
+    mdCreateExportTempFolder(run.form);
+    for (const clsExportPageRow &page : form.pages) {
+        // The step is taken whether or not the page is included.
+        mdSetProgress(page.number, form.progressMaximum, QStringLiteral("Exporting Page %1").arg(page.number));
+        exportPage(run, page);
+    }
+}
+
+} // namespace
+
+bool mdExportWordForm(clsExport &run, const clsExportForm &form)
+{
+    const QString name = QString::fromLatin1(form.logName);
+    WriteLog(QStringLiteral("Begin Export Word ") + name);
+    run.form.RenderScheduleOfTimeItemsForExport();
+    run.form.RenderAdditionalInformationItems();
+    if (run.form.IncludePage(form.additionalInformationPage) && mdNoteCanNeverFit(run))
+        return false;
+    run.ExportFileCollection.clear();
+    run.ExportSheetCounter = 0;
+    try {
+        exportSheets(run, form);
+        mdExportWordCombineDocuments(run);
+    } catch (const clsExportStopped &) {
+        return false;
+    }
+    if (!run.keepsSheets)
+        mdClearExportTempFolder(run.form, true);
+    mdClearProgress();
+    WriteLog(QStringLiteral("End Export Word ") + name);
+    return true;
+}

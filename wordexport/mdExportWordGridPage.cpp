@@ -1,0 +1,87 @@
+#include "wordexport/mdExportWordGridPage.h"
+
+#include "shell/mdSetProgress.h"
+#include "wordexport/clsExport.h"
+#include "wordexport/mdExportCopyTemplate.h"
+#include "wordexport/mdExportSheet.h"
+
+namespace {
+
+/// Gives the open sheet the number of the last sheet made. After a grid that did not overflow this is the first sheet,
+/// which then takes the number of an earlier grid's last sheet: the order of the steps is meant, and the templates have
+/// a place where the "(1)" that finds no mark left reads naturally.
+void markOpenSheet(const clsExport &run, clsMSWord &word)
+{
+    if (run.ExportSheetCounter > 1)
+        mdReplaceMark(word, mdSheetMark(run.ExportSheetCounter));
+}
+
+void beginFurtherSheet(clsExport &run, clsMSWord &word, const clsGrid &grid, int pageNumber)
+{
+    ++run.ExportSheetCounter;
+    mdSaveSheet(run, word);
+    const QString path
+        = mdMakeSheet(run, QString::fromLatin1(grid.continuationTemplate), pageNumber, run.ExportSheetCounter);
+    mdOpenSheet(run, word, path);
+    word.MoveCursorDown(grid.furtherOffset);
+}
+
+void typeRow(const clsExport &run, clsMSWord &word, const clsGrid &grid, int i)
+{
+    for (const clsGridCell &cell : grid.cells) {
+        mdTypeCell(word, cell.source(run.form, i), cell.fill);
+        if (&cell != &grid.cells.back())
+            word.MoveCursorRight(1);
+    }
+    word.MoveSursorToNextLine();
+}
+
+} // namespace
+
+void mdExportGrid(clsExport &run, clsMSWord &word, const clsGrid &grid, int firstOffset, const QString &firstSheet,
+                  int pageNumber)
+{
+    word.MoveCursorDown(firstOffset);
+    const int count = grid.count(run.form);
+    bool onFirstSheet = true;
+    int rowsWritten = 0;
+    for (int i = 1; i <= count; ++i) {
+        if ((onFirstSheet && rowsWritten == grid.firstCapacity) || rowsWritten == grid.furtherCapacity) {
+            if (!onFirstSheet)
+                markOpenSheet(run, word);
+            onFirstSheet = false;
+            beginFurtherSheet(run, word, grid, pageNumber);
+            rowsWritten = 0;
+        }
+        mdSetProgress(i, count, QStringLiteral("Exporting Page %1").arg(pageNumber));
+        typeRow(run, word, grid, i);
+        ++rowsWritten;
+    }
+    markOpenSheet(run, word);
+    mdSaveSheet(run, word);
+    mdOpenSheet(run, word, firstSheet);
+}
+
+void mdReplaceFirstSheetMark(const clsExport &run, clsMSWord &word)
+{
+    mdReplaceMark(word, run.ExportSheetCounter < 2 ? QString() : mdSheetMark(1));
+}
+
+void mdExportWordGridPage(clsExport &run, const clsGridPage &page)
+{
+    // The first sheet's name is the page's and "(1)", whatever the counter says.
+    const QString firstSheet = mdMakeSheet(run, QString::fromLatin1(page.pageTemplate), page.number, 1);
+    clsMSWord word;
+    mdOpenSheet(run, word, firstSheet);
+    for (const clsGridPage::Grid &part : page.grids) {
+        if (part.counter == clsGridPage::StartsAnew)
+            run.ExportSheetCounter = 1;
+        mdExportGrid(run, word, *part.grid, part.grid->firstOffset, firstSheet, page.number);
+    }
+    if (!page.markComesLast)
+        mdReplaceFirstSheetMark(run, word);
+    mdReplaceRows(run, word, page.rows, page.number);
+    if (page.markComesLast)
+        mdReplaceFirstSheetMark(run, word);
+    mdFinishSheet(run, word);
+}

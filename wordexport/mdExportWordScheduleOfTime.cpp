@@ -1,0 +1,103 @@
+#include "wordexport/mdExportWordScheduleOfTime.h"
+
+#include "costing/mdGetColumnTotals.h"
+#include "shell/mdSetProgress.h"
+#include "wordexport/clsExport.h"
+#include "wordexport/mdExportCopyTemplate.h"
+#include "wordexport/mdExportSheet.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int RowsOnSheet = 33;
+constexpr int LinesAboveGrid = 5;
+/// What a date box gives where there is no date. It is cleared in this column only; elsewhere it prints as it stands.
+const QString NoDate = QStringLiteral("31/12/29");
+
+using Form = clsZR3Form;
+using Fill = clsFillClass;
+
+const clsPlaceholderRow Totals[] = {
+    {"{actm}", [](const Form &form) { return ColumnTimeTotal(form, 0); }, Fill::Text},
+    {"{dtm}", [](const Form &form) { return ColumnTimeTotal(form, 1); }, Fill::Text},
+    {"{htm}", [](const Form &form) { return ColumnTimeTotal(form, 2); }, Fill::Text},
+    {"{ttm}", [](const Form &form) { return ColumnTimeTotal(form, 3); }, Fill::Text},
+    {"{wtm}", [](const Form &form) { return ColumnTimeTotal(form, 4); }, Fill::Text},
+    {"{actl}", [](const Form &form) { return MoneyToText(ColumnClaimTotal(form, 0)); }, Fill::Money},
+    {"{dtl}", [](const Form &form) { return MoneyToText(ColumnClaimTotal(form, 1)); }, Fill::Money},
+    {"{htl}", [](const Form &form) { return MoneyToText(ColumnClaimTotal(form, 2)); }, Fill::Money},
+    {"{ttl}", [](const Form &form) { return MoneyToText(ColumnClaimTotal(form, 3)); }, Fill::Money},
+    {"{wtl}", [](const Form &form) { return MoneyToText(ColumnClaimTotal(form, 4)); }, Fill::Money},
+    {"{total}", [](const Form &form) { return MoneyToText(ScheduleTotal(form)); }, Fill::Money},
+};
+
+/// Types a cell and moves to the cell `cellsOn` to the right.
+void typeAndMove(clsMSWord &word, const QString &text, Fill fill, int cellsOn)
+{
+    mdTypeCell(word, text, fill);
+    word.MoveCursorRight(cellsOn);
+}
+
+void typeRow(clsMSWord &word, const clsZR3ScheduleOfTimeItem &item)
+{
+    const int column = item.TimeColumn();
+    typeAndMove(word, QString::number(item.SOTItemNumber), Fill::Text, 1);
+    typeAndMove(word, item.FeeEarnerInitials(), Fill::Text, 1);
+    typeAndMove(word, item.dDate() == NoDate ? QString() : item.dDate(), Fill::Text, 1);
+    typeAndMove(word, item.Code(), Fill::Text, column + 1);
+    typeAndMove(word, item.TTime(), Fill::Text, clsZR3ScheduleOfTimeItem::Columns - column);
+    typeAndMove(word, MoneyToText(item.Rate()), Fill::Money, 1);
+    typeAndMove(word, MoneyToText(item.BasicClaim()), Fill::Money, 1);
+    typeAndMove(word, MoneyToText(item.TotalEnhancementPercentage()), Fill::Text, 1);
+    mdTypeCell(word, MoneyToText(item.Claim()), Fill::Money);
+}
+
+void replaceTotals(clsExport &run, clsMSWord &word, bool lastSheet, int pageNumber)
+{
+    if (lastSheet) {
+        mdReplaceRows(run, word, Totals, pageNumber);
+        return;
+    }
+    for (const clsPlaceholderRow &row : Totals)
+        mdReplace(word, QString::fromLatin1(row.placeholder), QString(), Fill::Text);
+}
+
+QString markOf(const clsExport &run, int count)
+{
+    if (run.ExportSheetCounter == 1 && count <= RowsOnSheet)
+        return {};
+    return mdSheetMark(run.ExportSheetCounter);
+}
+
+/// One sheet with the rows from `start` to `last`.
+void exportSheet(clsExport &run, const QString &pageTemplate, int pageNumber, int start, int last, int count)
+{
+    ++run.ExportSheetCounter;
+    const QString path = mdMakeSheet(run, pageTemplate, pageNumber, run.ExportSheetCounter);
+    clsMSWord word;
+    mdOpenSheet(run, word, path);
+    word.MoveCursorDown(LinesAboveGrid);
+    for (int row = start; row <= last; ++row) {
+        mdSetProgress(row, count, QStringLiteral("Exporting Page %1").arg(pageNumber));
+        typeRow(word, *run.form.ScheduleOfTimeItemsForExportCollection()[size_t(row - 1)]);
+        if (row < last)
+            word.MoveSursorToNextLine();
+    }
+    replaceTotals(run, word, last == count, pageNumber);
+    mdReplaceMark(word, markOf(run, count));
+    mdFinishSheet(run, word);
+}
+
+} // namespace
+
+void mdExportWordScheduleOfTime(clsExport &run, const QString &pageTemplate, int pageNumber)
+{
+    run.ExportSheetCounter = 0;
+    const int count = int(run.form.ScheduleOfTimeItemsForExportCollection().size());
+    int start = 1;
+    do {
+        exportSheet(run, pageTemplate, pageNumber, start, std::min(start + RowsOnSheet - 1, count), count);
+        start += RowsOnSheet;
+    } while (start <= count);
+}

@@ -1,0 +1,94 @@
+#include "wordexport/mdFormatMoney.h"
+
+#include "shell/clsRunTimeError.h"
+
+#include <algorithm>
+
+namespace {
+
+struct Amount {
+    bool negative = false;
+    QString whole;
+    QString decimals;
+};
+
+bool isDigit(QChar c)
+{
+    return c >= u'0' && c <= u'9';
+}
+
+QString withoutBlanks(const QString &text)
+{
+    qsizetype from = 0;
+    qsizetype to = text.size();
+    while (from < to && text[from] == u' ')
+        ++from;
+    while (to > from && text[to - 1] == u' ')
+        --to;
+    return text.mid(from, to - from);
+}
+
+Amount read(const QString &number)
+{
+    Amount amount;
+    qsizetype at = 0;
+    if (number.startsWith(u'-') || number.startsWith(u'+')) {
+        amount.negative = number.startsWith(u'-');
+        ++at;
+    }
+    bool point = false;
+    for (; at < number.size(); ++at) {
+        const QChar c = number[at];
+        if (isDigit(c))
+            (point ? amount.decimals : amount.whole) += c;
+        else if (c == u'.' && !point)
+            point = true;
+        else if (c != u',' || point) // where the commas stand among the whole digits is not checked
+            throw clsRunTimeError(clsRunTimeError::TypeMismatch);
+    }
+    if (amount.whole.isEmpty() && amount.decimals.isEmpty())
+        throw clsRunTimeError(clsRunTimeError::TypeMismatch);
+    return amount;
+}
+
+// Adds one to a row of digits.
+QString increased(QString digits)
+{
+    for (qsizetype i = digits.size() - 1; i >= 0; --i) {
+        if (digits[i] != u'9') {
+            digits[i] = QChar(digits[i].unicode() + 1);
+            return digits;
+        }
+        digits[i] = u'0';
+    }
+    return u'1' + digits;
+}
+
+// The amount in pence: at least three digits, none of them a leading zero of the pounds but a single one.
+QString pence(const Amount &amount)
+{
+    constexpr qsizetype Places = 2;
+    QString digits = amount.whole + amount.decimals.left(Places).leftJustified(Places, u'0');
+    if (amount.decimals.size() > Places && amount.decimals[Places] >= u'5')
+        digits = increased(digits);
+    while (digits.size() > Places + 1 && digits.startsWith(u'0'))
+        digits.remove(0, 1);
+    return digits.rightJustified(Places + 1, u'0');
+}
+
+} // namespace
+
+QString mdFormatMoney(const QString &text)
+{
+    const QString number = withoutBlanks(text);
+    if (number.isEmpty())
+        return QStringLiteral("0.00");
+    const Amount amount = read(number);
+    QString digits = pence(amount);
+    const bool nothing = std::all_of(digits.begin(), digits.end(), [](QChar c) { return c == u'0'; });
+    digits.insert(digits.size() - 2, u'.');
+    for (qsizetype comma = digits.size() - 6; comma > 0; comma -= 3)
+        digits.insert(comma, u',');
+    // An amount that rounds to nothing has no sign, so that it can be told as nothing.
+    return amount.negative && !nothing ? u'-' + digits : digits;
+}

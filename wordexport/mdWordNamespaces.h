@@ -1,0 +1,8 @@
+#pragma once
+
+#include <pugixml.hpp>
+
+/// Makes the target's root declare every prefix that the source's root declares, and take over what it says of
+/// prefixes that older readers may ignore; to be called before anything is copied from source to target.
+/// A prefix that means something else in the target is renamed throughout the source's tree.
+void mdMergeNamespaces(pugi::xml_node sourceRoot, pugi::xml_node targetRoot);

@@ -1,0 +1,202 @@
+#include "wordexport/clsWordComposer.h"
+
+#include "wordexport/clsWordContentMap.h"
+#include "wordexport/mdDocumentError.h"
+#include "wordexport/mdWordNamespaces.h"
+#include "wordexport/mdWordXml.h"
+
+using pugi::xml_node;
+
+namespace {
+
+xml_node bodyOf(clsWordPackage &package)
+{
+    return package.partXml(package.mainPart()).document_element().child("w:body");
+}
+
+// The section that the body ends with; every body has one, if only of default values.
+xml_node ensureFinalSection(xml_node body)
+{
+    const xml_node present = body.child("w:sectPr");
+    return present ? present : body.append_child("w:sectPr");
+}
+
+// The sections of a body in order. All but the last end in a paragraph of the body itself.
+template <class Visitor> void visitSections(const xml_node &body, Visitor visitor)
+{
+    for (const xml_node &child : body.children())
+        if (WordXml::is(child, "w:p")) {
+            if (const xml_node section = child.child("w:pPr").child("w:sectPr"))
+                visitor(section);
+        } else if (WordXml::is(child, "w:sectPr")) {
+            visitor(child);
+        }
+}
+
+bool isHeaderReference(const xml_node &node)
+{
+    return WordXml::is(node, "w:headerReference") || WordXml::is(node, "w:footerReference");
+}
+
+std::string typeOf(const xml_node &headerReference)
+{
+    const std::string type = headerReference.attribute("w:type").value();
+    return type.empty() ? "default" : type;
+}
+
+xml_node lastBlock(const xml_node &body)
+{
+    for (xml_node child = body.last_child(); child; child = child.previous_sibling())
+        if (WordXml::is(child, "w:p") || WordXml::is(child, "w:tbl") || WordXml::isWrapper(child))
+            return child;
+    return {};
+}
+
+// A paragraph that takes next to no room, where a section's end needs one of its own.
+xml_node insertTinyParagraph(xml_node body, const xml_node &after)
+{
+    xml_node paragraph = after ? body.insert_child_after("w:p", after) : body.prepend_child("w:p");
+    xml_node properties = paragraph.append_child("w:pPr");
+    xml_node spacing = properties.append_child("w:spacing");
+    for (const auto &[name, value] : {std::pair("w:before", "0"), std::pair("w:after", "0"),
+                                      std::pair("w:line", "20"), std::pair("w:lineRule", "exact")})
+        spacing.append_attribute(name) = value;
+    properties.append_child("w:rPr").append_child("w:sz").append_attribute("w:val") = "2";
+    return paragraph;
+}
+
+// The prefix, colon included, that a tree writes relationship ids with.
+std::string relationshipPrefix(const xml_node &root)
+{
+    constexpr std::string_view Declaration = "xmlns:";
+    for (const pugi::xml_attribute &attribute : root.attributes()) {
+        const std::string_view name = attribute.name();
+        if (name.starts_with(Declaration)
+            && std::strcmp(attribute.value(), WordXml::RelationshipNamespace) == 0)
+            return std::string(name.substr(Declaration.size())) + ':';
+    }
+    return "r:";
+}
+
+} // namespace
+
+clsWordComposer::clsWordComposer(clsWordPackage &target)
+    : m_target(target)
+    , m_identities(target)
+    , m_styles(target)
+{
+    noteHeaders(targetBody());
+}
+
+xml_node clsWordComposer::targetBody()
+{
+    return bodyOf(m_target);
+}
+
+void clsWordComposer::append(clsWordPackage &source)
+{
+    xml_node sourceBody = bodyOf(source);
+    const xml_node finalSection = ensureFinalSection(sourceBody);
+    mapContent(source, sourceBody);
+
+    xml_node firstSection;
+    visitSections(sourceBody, [&](const xml_node &section) { firstSection = firstSection ? firstSection : section; });
+    beginOnNewPage(firstSection);
+    fillMissingHeaders(firstSection);
+    noteHeaders(sourceBody);
+
+    xml_node body = targetBody();
+    sealLastSection(body);
+    for (const xml_node &block : sourceBody.children())
+        if (WordXml::isElement(block) && block != finalSection)
+            body.append_copy(block);
+    body.append_copy(finalSection);
+    m_target.setChanged(m_target.mainPart());
+}
+
+void clsWordComposer::mapContent(clsWordPackage &source, xml_node body)
+{
+    clsWordNumberingImport *listsOfStyles = nullptr;
+    clsWordStyleImport styles(m_styles, source,
+                              [&listsOfStyles](const std::string &id) { return listsOfStyles->numberFor(id); });
+    clsWordNumberingImport lists(m_target, m_lists, source,
+                                 [&styles](const std::string &id) { return styles.styleFor(id); });
+    listsOfStyles = &lists;
+    clsWordContentMap content(styles, [&lists](const std::string &id) { return lists.numberFor(id); }, m_identities);
+    clsWordPartImport parts(m_target, m_parts, m_styles.originalBytes(), source, styles.sourceBytes(),
+                            [&content](const xml_node &root) { content.mapOther(root); });
+    parts.checkSource();
+
+    xml_node sourceRoot = body.parent();
+    xml_node targetRoot = targetBody().parent();
+    mdMergeNamespaces(sourceRoot, targetRoot);
+    content.mapMain(body, relationshipPrefix(targetRoot),
+                    [&parts](const std::string &id) { return parts.relationshipFor(id.c_str()); });
+    if (content.hadNotes())
+        throw mdDocumentError(QStringLiteral("The document %1 holds footnotes or endnotes, so that it can't be "
+                                             "appended to another.")
+                                  .arg(source.shownName()));
+}
+
+// A section's type tells how it begins: left at "continuous", two sheets would share a page.
+void clsWordComposer::beginOnNewPage(xml_node firstSection)
+{
+    const xml_node type = firstSection.child("w:type");
+    const std::string_view value = WordXml::val(type);
+    if (value == "continuous" || value == "nextColumn")
+        WordXml::setAttribute(type, "w:val", "nextPage");
+}
+
+// A header that a section does not name is that of the section before it, which here is another document's.
+void clsWordComposer::fillMissingHeaders(xml_node firstSection)
+{
+    std::set<HeaderKind> missing = m_headers;
+    for (const xml_node &child : firstSection.children())
+        if (isHeaderReference(child))
+            missing.erase({child.name(), typeOf(child)});
+    for (const auto &[reference, type] : missing) {
+        xml_node added = WordXml::addChild(firstSection, reference.c_str());
+        added.append_attribute("w:type") = type.c_str();
+        added.append_attribute((relationshipPrefix(targetBody().parent()) + "id").c_str())
+            = emptyHeader(reference).c_str();
+    }
+}
+
+void clsWordComposer::noteHeaders(const xml_node &body)
+{
+    visitSections(body, [this](const xml_node &section) {
+        for (const xml_node &child : section.children())
+            if (isHeaderReference(child))
+                m_headers.insert({child.name(), typeOf(child)});
+    });
+}
+
+std::string clsWordComposer::emptyHeader(const std::string &reference)
+{
+    std::string &id = m_emptyHeaders[reference];
+    if (!id.empty())
+        return id;
+    const bool header = reference == "w:headerReference";
+    const char *root = header ? "w:hdr" : "w:ftr";
+    const std::string kind = header ? "header" : "footer";
+    const QByteArray bytes = QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?><") + root
+        + " xmlns:w=\"" + WordXml::MainNamespace + "\"><w:p/></" + root + '>';
+    const int part = m_target.addPart(
+        QStringLiteral("word/") + QString::fromStdString(kind) + QStringLiteral("1.xml"), bytes,
+        "application/vnd.openxmlformats-officedocument.wordprocessingml." + kind + "+xml");
+    id = m_target.addRelationship(m_target.mainPart(), std::string(WordXml::RelationshipNamespace) + '/' + kind, part);
+    return id;
+}
+
+// The section that the document ended with moves into its last paragraph, so that another one can follow.
+void clsWordComposer::sealLastSection(xml_node body)
+{
+    const xml_node section = ensureFinalSection(body);
+    xml_node last = lastBlock(body);
+    if (!WordXml::is(last, "w:p") || last.child("w:pPr").child("w:sectPr"))
+        last = insertTinyParagraph(body, last);
+    xml_node properties = WordXml::ensureProperties(last, "w:pPr");
+    const xml_node place = WordXml::addChild(properties, "w:sectPr");
+    properties.insert_move_after(section, place);
+    properties.remove_child(place);
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "wordexport/clsWordIdentities.h"
+#include "wordexport/clsWordNumberingImport.h"
+#include "wordexport/clsWordPackage.h"
+#include "wordexport/clsWordPartImport.h"
+#include "wordexport/clsWordStyleImport.h"
+
+#include <map>
+#include <set>
+#include <string>
+
+/// Appends whole documents to one, each as sections of its own with its own page setup. Lives as long as the
+/// document that it appends to is open, so that each further document costs no more than the one before.
+class clsWordComposer {
+public:
+    explicit clsWordComposer(clsWordPackage &target);
+
+    /// A document that can't be appended is an error, and the target's text is then as it was. The source's trees
+    /// are used up.
+    void append(clsWordPackage &source);
+
+private:
+    /// Which header or footer: its element's name and its type.
+    using HeaderKind = std::pair<std::string, std::string>;
+
+    pugi::xml_node targetBody();
+    void mapContent(clsWordPackage &source, pugi::xml_node body);
+    void beginOnNewPage(pugi::xml_node firstSection);
+    void fillMissingHeaders(pugi::xml_node firstSection);
+    void noteHeaders(const pugi::xml_node &body);
+    std::string emptyHeader(const std::string &reference);
+    void sealLastSection(pugi::xml_node body);
+
+    clsWordPackage &m_target;
+    clsWordIdentities m_identities;
+    clsWordStylesOnDemand m_styles;
+    clsWordListNumbers m_lists;
+    clsWordKnownParts m_parts;
+    std::set<HeaderKind> m_headers; // in use anywhere so far
+    std::map<std::string, std::string> m_emptyHeaders;
+};

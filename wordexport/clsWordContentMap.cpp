@@ -1,0 +1,242 @@
+#include "wordexport/clsWordContentMap.h"
+
+#include "wordexport/clsWordIdentities.h"
+#include "wordexport/clsWordStyleImport.h"
+#include "wordexport/mdWordXml.h"
+
+#include <string_view>
+
+using pugi::xml_node;
+
+namespace {
+
+enum class Kind {
+    Paragraph,
+    Table,
+    Style,
+    List,
+    Drawing,
+    BookmarkStart,
+    BookmarkEnd,
+    BookmarkUse,
+    Control,
+    Dropped,
+    Note,
+};
+
+const std::unordered_map<std::string_view, Kind> Kinds = {
+    {"w:p", Kind::Paragraph},
+    {"w:tbl", Kind::Table},
+    {"w:pStyle", Kind::Style},
+    {"w:rStyle", Kind::Style},
+    {"w:tblStyle", Kind::Style},
+    {"w:numId", Kind::List},
+    {"wp:docPr", Kind::Drawing},
+    {"w:bookmarkStart", Kind::BookmarkStart},
+    {"w:bookmarkEnd", Kind::BookmarkEnd},
+    {"w:hyperlink", Kind::BookmarkUse},
+    {"w:instrText", Kind::BookmarkUse},
+    {"w:fldSimple", Kind::BookmarkUse},
+    {"w:sdtPr", Kind::Control},
+    // Comments and bound data stay behind with the parts that hold them.
+    {"w:commentRangeStart", Kind::Dropped},
+    {"w:commentRangeEnd", Kind::Dropped},
+    {"w:commentReference", Kind::Dropped},
+    {"w:dataBinding", Kind::Dropped},
+    {"w15:dataBinding", Kind::Dropped},
+    {"w:footnoteReference", Kind::Note},
+    {"w:endnoteReference", Kind::Note},
+};
+
+// Marks of one document's own history of edits, which must not come twice in a package.
+bool isHistory(std::string_view attribute)
+{
+    return attribute.starts_with("w:rsid") || attribute == "w14:paraId" || attribute == "w14:textId";
+}
+
+bool isWordCharacter(char c)
+{
+    return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || uchar(c) >= 0x80;
+}
+
+// Renames whole words in a field's code.
+std::string withNames(std::string_view text, const std::unordered_map<std::string, std::string> &names)
+{
+    std::string result;
+    for (size_t at = 0; at < text.size();) {
+        size_t end = at;
+        while (end < text.size() && isWordCharacter(text[end]))
+            ++end;
+        if (end == at) {
+            result += text[at++];
+            continue;
+        }
+        const std::string word(text.substr(at, end - at));
+        const auto renamed = names.find(word);
+        result += renamed == names.end() ? word : renamed->second;
+        at = end;
+    }
+    return result;
+}
+
+} // namespace
+
+clsWordContentMap::clsWordContentMap(clsWordStyleImport &styles, Map lists, clsWordIdentities &identities)
+    : m_styles(styles)
+    , m_lists(std::move(lists))
+    , m_identities(identities)
+{
+}
+
+void clsWordContentMap::mapMain(xml_node root, const std::string &prefix, Map relationships)
+{
+    m_prefix = prefix;
+    m_relationships = std::move(relationships);
+    map(root);
+}
+
+void clsWordContentMap::mapOther(xml_node root)
+{
+    // Called in the middle of the main part's walk, when that meets a reference to a header.
+    clsWordContentMap other(m_styles, m_lists, m_identities);
+    other.map(root);
+    m_hadNotes = m_hadNotes || other.m_hadNotes;
+}
+
+void clsWordContentMap::map(xml_node root)
+{
+    mapNode(root);
+    for (const auto &[id, start] : m_openBookmarks)
+        m_dropped.push_back(start); // one that never ends
+    renameBookmarkUses();
+    removeDropped();
+}
+
+void clsWordContentMap::mapNode(xml_node node)
+{
+    mapAttributes(node);
+    mapElement(node);
+    for (const xml_node &child : node.children())
+        if (WordXml::isElement(child))
+            mapNode(child);
+}
+
+void clsWordContentMap::mapAttributes(xml_node node)
+{
+    for (pugi::xml_attribute attribute = node.first_attribute(); attribute;) {
+        const pugi::xml_attribute next = attribute.next_attribute();
+        const std::string_view name = attribute.name();
+        if (isHistory(name))
+            node.remove_attribute(attribute);
+        else if (m_relationships && name.starts_with(m_prefix) && *attribute.value() != '\0')
+            attribute.set_value(m_relationships(attribute.value()).c_str());
+        attribute = next;
+    }
+}
+
+void clsWordContentMap::mapElement(xml_node node)
+{
+    const auto kind = Kinds.find(node.name());
+    if (kind == Kinds.end())
+        return;
+    switch (kind->second) {
+    case Kind::Paragraph: nameDefaultStyle(node, "w:pPr", "w:pStyle", "paragraph"); break;
+    case Kind::Table: nameDefaultStyle(node, "w:tblPr", "w:tblStyle", "table"); break;
+    case Kind::Style: mapStyle(node); break;
+    case Kind::List: WordXml::setAttribute(node, "w:val", m_lists(WordXml::val(node))); break;
+    case Kind::Drawing: WordXml::setAttribute(node, "id", m_identities.nextDrawing()); break;
+    case Kind::BookmarkStart: mapBookmarkStart(node); break;
+    case Kind::BookmarkEnd: mapBookmarkEnd(node); break;
+    case Kind::BookmarkUse: m_bookmarkUses.push_back(node); break;
+    case Kind::Control:
+        if (const xml_node id = node.child("w:id"))
+            WordXml::setAttribute(id, "w:val", m_identities.nextControl());
+        break;
+    case Kind::Dropped: m_dropped.push_back(node); break;
+    case Kind::Note: m_hadNotes = true; break;
+    }
+}
+
+void clsWordContentMap::mapStyle(xml_node reference)
+{
+    if (m_styles.isSame() || m_named.contains(reference.internal_object()))
+        return;
+    const std::string id = m_styles.styleFor(WordXml::val(reference));
+    if (id.empty())
+        m_dropped.push_back(reference); // no such style: it could mean another one where it is going
+    else
+        WordXml::setAttribute(reference, "w:val", id);
+}
+
+// What names no style has its document's default one, which may not be that of the document it is going to.
+void clsWordContentMap::nameDefaultStyle(xml_node owner, const char *propertiesName, const char *styleName,
+                                         const char *type)
+{
+    if (m_styles.isSame() || owner.child(propertiesName).child(styleName))
+        return;
+    const std::string id = m_styles.defaultFor(type);
+    if (id.empty())
+        return;
+    xml_node properties = WordXml::ensureProperties(owner, propertiesName);
+    // Straight into the target's terms: the walk comes past this reference, and must leave it as it is.
+    xml_node style = WordXml::addChild(properties, styleName);
+    style.append_attribute("w:val") = id.c_str();
+    m_named.insert(style.internal_object());
+}
+
+void clsWordContentMap::mapBookmarkStart(xml_node node)
+{
+    const std::string name = node.attribute("w:name").value();
+    if (name == "_GoBack") { // where somebody last edited
+        m_dropped.push_back(node);
+        return;
+    }
+    const std::string id = node.attribute("w:id").value();
+    const std::string mapped = m_identities.nextBookmark();
+    m_bookmarkIds[id] = mapped;
+    m_openBookmarks[id] = node;
+    WordXml::setAttribute(node, "w:id", mapped);
+    const std::string free = m_identities.freeBookmarkName(name);
+    if (free != name) {
+        m_bookmarkNames.emplace(name, free);
+        WordXml::setAttribute(node, "w:name", free);
+    }
+}
+
+void clsWordContentMap::mapBookmarkEnd(xml_node node)
+{
+    const std::string id = node.attribute("w:id").value();
+    const auto mapped = m_bookmarkIds.find(id);
+    if (mapped == m_bookmarkIds.end()) {
+        m_dropped.push_back(node);
+        return;
+    }
+    WordXml::setAttribute(node, "w:id", mapped->second);
+    m_bookmarkIds.erase(mapped);
+    m_openBookmarks.erase(id);
+}
+
+void clsWordContentMap::renameBookmarkUses()
+{
+    if (m_bookmarkNames.empty())
+        return;
+    for (xml_node use : m_bookmarkUses) {
+        for (const char *name : {"w:anchor", "w:instr"})
+            if (pugi::xml_attribute attribute = use.attribute(name))
+                attribute.set_value(withNames(attribute.value(), m_bookmarkNames).c_str());
+        if (WordXml::is(use, "w:instrText"))
+            use.text().set(withNames(use.text().get(), m_bookmarkNames).c_str());
+    }
+}
+
+void clsWordContentMap::removeDropped()
+{
+    for (const xml_node &node : m_dropped) {
+        xml_node parent = node.parent();
+        parent.remove_child(node);
+        const xml_node left = parent.first_child();
+        if (WordXml::is(parent, "w:r") && (!left || (WordXml::is(left, "w:rPr") && !left.next_sibling())))
+            parent.parent().remove_child(parent);
+    }
+    m_dropped.clear();
+}

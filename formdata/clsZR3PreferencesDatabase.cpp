@@ -4,12 +4,23 @@
 #include "formdata/mdXMLTemplate.h"
 #include "shell/clsRunTimeError.h"
 #include "shell/mdDatabasePath.h"
+#include "shell/mdLog.h"
+#include "shell/mdPlayWav.h"
 #include "shell/mdTextDocumentHandling.h"
 
 clsZR3PreferencesDatabase::clsZR3PreferencesDatabase()
     : clsXMLRecord(clsXMLPropertyTable::of<clsZR3PreferencesDatabase>())
 {
     LoadXML(filePath());
+    // Only now: while the preferences are being read nothing is logged, not even the reading.
+    SetLogSwitch([this] { return Log(); });
+    SetSoundSwitch([this] { return PlaySound(); });
+}
+
+clsZR3PreferencesDatabase::~clsZR3PreferencesDatabase()
+{
+    SetLogSwitch({});
+    SetSoundSwitch({});
 }
 
 QString clsZR3PreferencesDatabase::filePath()

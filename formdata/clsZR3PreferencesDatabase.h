@@ -42,7 +42,9 @@ public:
 
     /// Loads the file of the database folder. The file is required: without it, or when it is malformed, this ends
     /// in the object error.
+    /// Once they stand, the log and the sounds ask them whether they are on.
     clsZR3PreferencesDatabase();
+    ~clsZR3PreferencesDatabase();
 
     void LoadXML(const QString &path);
     void SaveXML() const;

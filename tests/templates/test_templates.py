@@ -531,14 +531,15 @@ class Packages(unittest.TestCase):
                 self.assertEqual(places, sorted(places), tag)
 
     @on_each
-    def test_every_style_is_defined_and_every_one_defined_is_sensible(self, template):
+    def test_every_style_in_use_is_defined(self, template):
         used = {value(style) for style in template.document.iter(W + "pStyle")}
         self.assertLessEqual(used, set(template.styles))
-        self.assertEqual(len(used), len(used & set(template.styles)))
+
+    def test_every_style_defined_is_in_use(self):
         used = {value(style) for template in TEMPLATES.values()
                 for style in template.document.iter(W + "pStyle")}
         own = {name for name in TEMPLATES["Claim1 P1"].styles if name.startswith("ZR3")}
-        self.assertEqual(own, used, "no style that no sheet uses")
+        self.assertEqual(own, used)
 
     @on_each
     def test_every_run_and_mark_states_its_size(self, template):
@@ -577,17 +578,18 @@ class Paper(unittest.TestCase):
             self.assertEqual(self.pages(Path(made)), dict.fromkeys(PLACEHOLDERS, 1))
 
     def test_sheets_with_far_too_much_in_every_box_are_one_page_each(self):
-        much = "W" * 4000
+        cell, box, sheet = "W" * 100, "W" * 1000, "W" * 4000
         with tempfile.TemporaryDirectory() as made:
             for name in PLACEHOLDERS:
                 template = Template(FOLDER / (name + ".doc"))
                 for paragraph in template.document.iter(W + "p"):
                     if find(paragraph, "r") is None and paragraph.getparent().tag == W + "tc":
-                        self.type(paragraph, much)
+                        self.type(paragraph, cell)
                 self.type(template.body[0], "(1)(2)")
                 for t in template.document.iter(W + "t"):
                     if t.text.startswith("{"):
-                        t.text = "(12)" if t.text == "{or}" else much
+                        t.text = ("(12)" if t.text == "{or}"
+                                  else sheet if name.endswith("Cont") else box)
                 template.parts["word/document.xml"] = etree.tostring(template.document)
                 with zipfile.ZipFile(Path(made) / (name + ".doc"), "w") as package:
                     for part, content in template.parts.items():

@@ -13,7 +13,7 @@ from .pieces import (
     spacer, text_box,
 )
 
-FORM = Form("Claim 1", "Claim1")
+FORM = Form("Claim 1")
 
 # A sheet that continues a text repeats its section's title and its prompt.
 LATE = ("Late submission", "Explanation", "explanation")

@@ -126,7 +126,6 @@ STYLES = [
 
 # --- Heights of the pieces -------------------------------------------------
 
-QUIET_LINE = 12
 MASTHEAD = 58
 HEAD_BAND = 24
 BAND_HEIGHT = 20
@@ -136,7 +135,6 @@ TICK_ROW = 27
 QUESTION_ROW = {1: 24, 2: 31, 3: 43}   # by lines of the question
 TOTAL_ROW = 22
 GROUP_HEADS = 14
-TAIL_LINE = 1
 
 # --- Stops of the pieces that stand on every page, in units ----------------
 

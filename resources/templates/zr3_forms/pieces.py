@@ -15,7 +15,6 @@ NO_BREAK_SPACE = "\u00a0"
 
 class Form(NamedTuple):
     name: str                   # as printed
-    files: str                  # how the names of its templates begin
 
 
 # --- A sheet and what stands on each ---------------------------------------

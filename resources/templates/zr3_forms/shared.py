@@ -9,8 +9,9 @@ from .look import CENTRE, LEFT, RIGHT
 from .markup import Row, slot
 from .pieces import (
     Column, Field, Grid, Total, answer_row, answered, code_question, fields, follow_up,
-    footnote, grid_heads, grid_table, head, label_row, masthead, money_row, notes, place, place_strip, printed, question, section, sheet, spacer,
-    strip, subheading, text_box, tick, ticks, totals,
+    footnote, grid_heads, grid_table, head, label_row, masthead, money_row, notes, place,
+    place_strip, printed, question, section, sheet, spacer, strip, subheading, text_box, tick,
+    ticks, totals,
 )
 
 
@@ -164,7 +165,8 @@ def schedule_of_time(form, page, number):
               "Amounts are in pounds and do not include VAT.", height=16),
         grid_table(SCHEDULE, 33),
         totals(SCHEDULE, Total(4, "Time", align=LEFT),
-               *(Total(1, name=name, align=CENTRE) for name in ("actm", "dtm", "htm", "ttm", "wtm")),
+               *(Total(1, name=name, align=CENTRE)
+                 for name in ("actm", "dtm", "htm", "ttm", "wtm")),
                Total(4), style=look.SCHEDULE_TOTAL, height=20),
         totals(SCHEDULE, Total(4, "Claim £", align=LEFT),
                *(Total(1, name=name) for name in ("actl", "dtl", "htl", "ttl", "wtl")),
@@ -250,7 +252,9 @@ OTHER = Grid(row=20, heads=18, columns=(
     Column("Total £", 18, RIGHT)))
 
 JOINT_TITLE = "Joint instruction of experts"
-SHARES = "One line for each party to the instruction. The share is a percentage of the expert’s fee."
+LIST_EACH = "List each expert who was instructed jointly with another party to the proceedings."
+SHARES = ("One line for each party to the instruction. The share is a percentage of the "
+          "expert’s fee.")
 
 
 def disbursements(form, page, joint, other, totals_names, before_joint=()):
@@ -258,8 +262,7 @@ def disbursements(form, page, joint, other, totals_names, before_joint=()):
     lines that a form has between the notes and the first grid."""
     return sheet(
         head(form, page, joint, JOINT_TITLE),
-        notes("List each expert who was instructed jointly with another party to the proceedings.",
-              SHARES,
+        notes(LIST_EACH, SHARES,
               "Give the reference of the certificate of a party who is legally aided."),
         before_joint,
         grid_table(JOINT, 14),
@@ -276,8 +279,7 @@ def disbursements(form, page, joint, other, totals_names, before_joint=()):
 def joint_continuation(form, page, number):
     return sheet(
         head(form, page, number, JOINT_TITLE, continued=True),
-        notes("List each expert who was instructed jointly with another party to the proceedings.",
-              SHARES),
+        notes(LIST_EACH, SHARES),
         grid_table(JOINT, 30))
 
 

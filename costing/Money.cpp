@@ -29,8 +29,7 @@ clsFourteenDigits atFourteenDigits(double positive)
     constexpr int ExactDecimals = 32;
     std::array<char, 48> text;
     const auto [end, failure] = std::to_chars(text.data(), text.data() + text.size(), positive,
-                                              std::chars_format::scientific,
-                                              positive < TiesMatter ? Kept - 1 : ExactDecimals);
+        std::chars_format::scientific, positive < TiesMatter ? Kept - 1 : ExactDecimals);
     const char *at = text.data();
     std::int64_t count = *at - '0';
     at += 2; // the first digit and the point

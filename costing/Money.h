@@ -62,7 +62,8 @@ Money MoneyFromDouble(double pounds);
 QString MoneyToText(Money amount);
 
 /// The amount to the penny, half away from zero on its decimal text. A double is first taken at fourteen significant
-/// digits, which is what makes 0.1 * 47.25 the 4.725 that it is on paper; error 6 for what is out of range or no number.
+/// digits, which is what makes 0.1 * 47.25 the 4.725 that it is on paper; error 6 for what is out of range or no
+/// number.
 Money RoundMoney2(double pounds);
 /// The same of an exact amount, which is rounded as it stands.
 Money RoundMoney2(Money amount);

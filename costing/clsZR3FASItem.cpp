@@ -3,6 +3,7 @@
 #include "costing/mdDateSerial.h"
 #include "costing/mdPercentageCalculate.h"
 #include "costing/mdStrictDouble.h"
+#include "costing/mdSumOf.h"
 
 QString clsZR3FASItem::DDateSerial() const
 {
@@ -21,6 +22,6 @@ Money clsZR3FASItem::BoltOn() const
 
 Money clsZR3FASItem::Total() const
 {
-    return UnitPayment() + BoltOn() + MoneyFromText(CourtBundlePayment()) + MoneyFromText(SettlementFee())
-        + MoneyFromText(ExceptionalTravel());
+    return mdSumOf({UnitPayment(), BoltOn(), MoneyFromText(CourtBundlePayment()), MoneyFromText(SettlementFee()),
+        MoneyFromText(ExceptionalTravel())});
 }

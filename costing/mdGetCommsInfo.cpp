@@ -4,6 +4,7 @@
 #include "costing/mdNumberText.h"
 #include "costing/mdPercentageCalculate.h"
 #include "costing/mdStrictDouble.h"
+#include "costing/mdSumOf.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/mdExisting.h"
 
@@ -62,7 +63,9 @@ std::shared_ptr<clsZR3FeeEarnerGroup> CommsGroupAtLine(const clsZR3Form &form, i
     for (int n = 1; n <= int(form.FeeEarnerGroupsCollection().size()); ++n) {
         const auto group = form.FeeEarnerGroupByOrderID(n);
         const Group &candidate = mdExisting(group);
-        if (TextValue(row.rate(candidate)) > 0 && row.count(candidate) >= 1)
+        const double rate = TextValue(row.rate(candidate));
+        const int count = row.count(candidate); // read without a rate too: a sum beyond 32 bits is an error all the same
+        if (count >= 1 && rate > 0)
             ++found;
         if (found == line)
             return group;
@@ -103,15 +106,15 @@ Money CommsEnhancementAtLine(const clsZR3Form &form, int line, clsCommsKind kind
 {
     if (!CommsGroupAtLine(form, line, kind))
         return {};
-    return listedEnhancement(form, line, kind) + CommsGroupEnhancement(form, line, kind);
+    return mdSumOf({listedEnhancement(form, line, kind), CommsGroupEnhancement(form, line, kind)});
 }
 
 Money CommsClaimAtLine(const clsZR3Form &form, int line, clsCommsKind kind)
 {
     if (!CommsGroupAtLine(form, line, kind))
         return {};
-    return MoneyFromDouble(asPrinted(CommsEnhancementAtLine(form, line, kind))
-                           + asPrinted(CommsBasicAtLine(form, line, kind)));
+    const double enhancement = asPrinted(CommsEnhancementAtLine(form, line, kind));
+    return MoneyFromDouble(enhancement + asPrinted(CommsBasicAtLine(form, line, kind)));
 }
 
 Money CommsTotal(const clsZR3Form &form)
@@ -125,5 +128,6 @@ Money CommsTotal(const clsZR3Form &form)
 
 Money ProfitCostsTotal(const clsZR3Form &form)
 {
-    return RoundMoney2(MoneyFromDouble(asPrinted(ScheduleTotal(form)) + asPrinted(CommsTotal(form))));
+    const double schedule = asPrinted(ScheduleTotal(form));
+    return RoundMoney2(MoneyFromDouble(schedule + asPrinted(CommsTotal(form))));
 }

@@ -1,5 +1,6 @@
 #include "costing/mdGetCounselTotals.h"
 
+#include "costing/mdSumOf.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/mdExisting.h"
 
@@ -40,7 +41,7 @@ Money CounselFeesVATTotal(const clsZR3Form &form)
 
 Money CounselFeesTotal(const clsZR3Form &form)
 {
-    return CounselFeesAmountTotal(form) + CounselFeesVATTotal(form);
+    return mdSumOf({CounselFeesAmountTotal(form), CounselFeesVATTotal(form)});
 }
 
 QString CounselAccountNumberAtLine(const clsZR3Form &form, int position)
@@ -58,6 +59,6 @@ Money CounselGrossAtLine(const clsZR3Form &form, int position)
     Money total;
     for (const auto &disbursement : form.DisbursementsCollection())
         if (disbursement->Counsel() && disbursement->CounselUniqueID() == uniqueID)
-            total = total + MoneyFromText(disbursement->Amount()) + MoneyFromText(disbursement->VAT());
+            total = mdSumOf({total, MoneyFromText(disbursement->Amount()), MoneyFromText(disbursement->VAT())});
     return total;
 }

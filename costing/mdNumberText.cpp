@@ -28,15 +28,14 @@ int digit(QChar c)
 // A double holds every integer of so many digits, and every power of ten up to the last of this table; dividing one by
 // the other then gives the nearest double to the decimal number.
 constexpr int ExactDigits = 15;
-constexpr double PowersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
-                                  1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+constexpr double PowersOfTen[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+    1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 
 /// The nearest double to a number of any length, written with digits and at most one point.
 double valueOfPlainNumber(const std::string &number)
 {
     double value = 0.0;
-    const auto result
-        = std::from_chars(number.data(), number.data() + number.size(), value, std::chars_format::fixed);
+    const auto result = std::from_chars(number.data(), number.data() + number.size(), value, std::chars_format::fixed);
     if (result.ec != std::errc::result_out_of_range)
         return value;
     const size_t firstFigure = number.find_first_not_of('0');

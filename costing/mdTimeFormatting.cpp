@@ -29,10 +29,8 @@ int TimeToMinutes(QStringView timeText)
     if (colon < 0)
         throw clsRunTimeError(clsRunTimeError::SubscriptOutOfRange);
 
-    QStringView minutes = timeText.sliced(colon + 1);
-    if (const qsizetype end = minutes.indexOf(u':'); end >= 0)
-        minutes = minutes.first(end);
-    return LongFromDouble(ofHours + TextValue(minutes));
+    // A further colon ends the number of the minutes, and what follows it is ignored.
+    return LongFromDouble(ofHours + TextValue(timeText.sliced(colon + 1)));
 }
 
 QString MinutesToTime(int minutes)

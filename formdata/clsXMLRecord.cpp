@@ -1,7 +1,7 @@
 #include "formdata/clsXMLRecord.h"
 
-#include "costing/Money.h"
 #include "costing/mdNumberText.h"
+#include "costing/mdStrictDouble.h"
 #include "shell/clsRunTimeError.h"
 
 #include <cstring>
@@ -17,7 +17,7 @@ bool booleanFromText(QLatin1String text)
         return false;
     if (text.compare(QLatin1String("True"), Qt::CaseInsensitive) == 0)
         return true;
-    return MoneyFromText(QString(text)) != Money();
+    return mdStrictDouble(QString(text)) != 0.0;
 }
 
 } // namespace

@@ -59,6 +59,9 @@ public:
 
     /// The element's content as it stands; a missing element is the object error.
     const char *content() const;
+    /// True when the value is the empty text. Every encoded character stands for one of the text, so that nothing needs
+    /// decoding to know it.
+    bool isEmpty() const { return *content() == '\0'; }
     /// Writes the content, and nothing when it stands there already.
     void setContent(const char *content);
 

@@ -143,7 +143,7 @@ void clsZR3Form::RenderAdditionalInformationItems()
 {
     m_additional.clear();
     for (const auto &item : m_forExport)
-        if (!item->Description().isEmpty())
+        if (!item->Description.isEmpty())
             m_additional.push_back(item);
 }
 
@@ -157,9 +157,9 @@ void clsZR3Form::CreateFASCollections()
     m_boltOns.clear();
     m_travel.clear();
     inOrder(m_FASItems, [&](const FASItemsList::Pointer &item) {
-        if (!item->BoltOnDescription().isEmpty())
+        if (!item->BoltOnDescription.isEmpty())
             m_boltOns.push_back(item);
-        if (!item->ExceptionalTravelDistance().isEmpty() || !item->ExceptionalTravelReason().isEmpty())
+        if (!item->ExceptionalTravelDistance.isEmpty() || !item->ExceptionalTravelReason.isEmpty())
             m_travel.push_back(item);
     });
 }

@@ -99,12 +99,13 @@ private:
             return;
         m_byOrder.clear();
         m_byIdentity.clear();
+        m_byOrder.reserve(qsizetype(m_items.size()));
         for (const Pointer &item : m_items) {
-            if (const int orderID = item->OrderID(); !m_byOrder.contains(orderID))
-                m_byOrder.insert(orderID, item);
+            if (Pointer &first = m_byOrder[item->OrderID()]; !first)
+                first = item;
             if constexpr (requires { item->UniqueID; })
-                if (const QString uniqueID = item->UniqueID(); !m_byIdentity.contains(uniqueID))
-                    m_byIdentity.insert(uniqueID, item);
+                if (Pointer &first = m_byIdentity[item->UniqueID()]; !first)
+                    first = item;
         }
         m_keysChanged = false;
     }

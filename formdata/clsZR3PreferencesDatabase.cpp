@@ -8,10 +8,24 @@
 #include "shell/mdPlayWav.h"
 #include "shell/mdTextDocumentHandling.h"
 
+namespace {
+
+QString filePath()
+{
+    return GetDatabasePath() + u'/' + clsZR3PreferencesDatabase::fileName();
+}
+
+} // namespace
+
 clsZR3PreferencesDatabase::clsZR3PreferencesDatabase()
+    : clsZR3PreferencesDatabase(filePath())
+{
+}
+
+clsZR3PreferencesDatabase::clsZR3PreferencesDatabase(const QString &path)
     : clsXMLRecord(clsXMLPropertyTable::of<clsZR3PreferencesDatabase>())
 {
-    LoadXML(filePath());
+    LoadXML(path);
     // Only now: while the preferences are being read nothing is logged, not even the reading.
     SetLogSwitch([this] { return Log(); });
     SetSoundSwitch([this] { return PlaySound(); });
@@ -23,9 +37,9 @@ clsZR3PreferencesDatabase::~clsZR3PreferencesDatabase()
     SetSoundSwitch({});
 }
 
-QString clsZR3PreferencesDatabase::filePath()
+QString clsZR3PreferencesDatabase::fileName()
 {
-    return GetDatabasePath() + QStringLiteral("/Preferences Database.vzp");
+    return QStringLiteral("Preferences Database.vzp");
 }
 
 void clsZR3PreferencesDatabase::LoadXML(const QString &path)

@@ -44,6 +44,8 @@ public:
     /// in the object error.
     /// Once they stand, the log and the sounds ask them whether they are on.
     clsZR3PreferencesDatabase();
+    /// The same with the file at that path, for programs that do without where there is none.
+    explicit clsZR3PreferencesDatabase(const QString &path);
     ~clsZR3PreferencesDatabase();
 
     void LoadXML(const QString &path);
@@ -70,8 +72,10 @@ public:
     clsXMLBoolean<"PlaySound"> PlaySound {*this};
     clsXMLBoolean<"Log"> Log {*this};
 
+    /// The file's name in the database folder.
+    static QString fileName();
+
 private:
-    static QString filePath();
 
     clsXMLElement m_root;
     ReplacementsList m_replacements;

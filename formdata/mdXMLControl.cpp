@@ -13,8 +13,19 @@ namespace {
 constexpr int DeepestNesting = 1000;
 
 // White space between elements carries no meaning and is dropped; comments and instructions are kept, since nothing
-// that the program does not know may be lost by a load and a save.
-constexpr unsigned ParseOptions = pugi::parse_default | pugi::parse_comments | pugi::parse_pi;
+// that the program does not know may be lost by a load and a save. As a fragment, so that text beside the root is seen.
+constexpr unsigned ParseOptions = pugi::parse_default | pugi::parse_comments | pugi::parse_pi | pugi::parse_fragment;
+
+/// True when something but comments and instructions stands beside the root: the text is then no XML document, and a
+/// save, which writes the root only, would lose the rest.
+bool hasContentBesideRoot(const pugi::xml_document &document, pugi::xml_node root)
+{
+    for (const pugi::xml_node node : document.children())
+        if (node != root
+            && (node.type() == pugi::node_element || node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata))
+            return true;
+    return false;
+}
 
 class DepthCheck final : public pugi::xml_tree_walker {
 public:
@@ -52,13 +63,15 @@ QString XMLDecodeText(const char *content)
 
 clsXMLElement XMLLoadElement(const QString &xml, const char *name)
 {
+    if (xml.contains(QChar(0))) // the parser would take it for the end
+        return {};
     const QByteArray utf8 = xml.toUtf8();
     auto document = std::make_shared<pugi::xml_document>();
     if (!document->load_buffer(utf8.constData(), size_t(utf8.size()), ParseOptions, pugi::encoding_utf8))
         return {};
     const pugi::xml_node root = document->document_element();
     DepthCheck depthCheck;
-    if (std::strcmp(root.name(), name) != 0 || !document->traverse(depthCheck))
+    if (std::strcmp(root.name(), name) != 0 || hasContentBesideRoot(*document, root) || !document->traverse(depthCheck))
         return {};
     return {std::move(document), root};
 }

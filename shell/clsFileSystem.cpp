@@ -101,8 +101,8 @@ public:
     void write(const char *data, qint64 size) const
     {
         while (size > 0) {
-            const qint64 written = transfer(clsFileStep::Write, size,
-                                            [&](size_t part) { return ::write(m_descriptor, data, part); });
+            const qint64 written
+                = transfer(clsFileStep::Write, size, [&](size_t part) { return ::write(m_descriptor, data, part); });
             data += written;
             size -= written;
         }
@@ -168,7 +168,8 @@ void syncFolder(const QString &folder)
 /// The folder in which the file itself lies, whatever links lead to it.
 QString folderOf(const QString &path)
 {
-    const std::unique_ptr<char, decltype(&std::free)> real(::realpath(systemPath(path).constData(), nullptr), &std::free);
+    const std::unique_ptr<char, decltype(&std::free)> real(
+        ::realpath(systemPath(path).constData(), nullptr), &std::free);
     return QFileInfo(real ? QFile::decodeName(real.get()) : path).path();
 }
 

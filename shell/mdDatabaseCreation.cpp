@@ -9,13 +9,12 @@
 
 void CreateDatabases()
 {
-    const QString folder
-        = UserInterface().chooseFolder(QStringLiteral("Please select or create a database folder"));
+    const QString folder = UserInterface().chooseFolder(QStringLiteral("Please select or create a database folder"));
     if (folder.isEmpty())
         return;
     WriteTextDocument(GetResourceData(QStringLiteral("xmlZR3PreferencesDatabase"), QStringLiteral("VELMORZR3XML")),
-                      QDir(folder).filePath(QStringLiteral("Preferences Database.vzp")), true);
+        QDir(folder).filePath(QStringLiteral("Preferences Database.vzp")), true);
     SetDatabasePath(folder);
     UserInterface().systemMessage(QStringLiteral("The databases have been created successfully"),
-                                  QStringLiteral("Databases"), clsUserInterface::Information, clsUserInterface::OKOnly);
+        QStringLiteral("Databases"), clsUserInterface::Information, clsUserInterface::OKOnly);
 }

@@ -15,16 +15,19 @@ QString registryName()
 
 } // namespace
 
-QString GetDatabasePath()
+QString StoredDatabasePath()
 {
     QString path = ReadRegKey(registryName());
     if (path.endsWith(u'\\') || path.endsWith(u'/'))
         path.chop(1);
-    if (path.isEmpty())
-        path = DefaultDatabasePath();
+    return path.isEmpty() ? DefaultDatabasePath() : path;
+}
+
+QString GetDatabasePath()
+{
+    const QString path = StoredDatabasePath();
     if (!FileSystem().FolderExists(path)) {
-        UserInterface().systemMessage(
-            QStringLiteral("The folder ") + path
+        UserInterface().systemMessage(QStringLiteral("The folder ") + path
                 + QStringLiteral(" does not exist. Please contact your system administrator"),
             QStringLiteral("Folder Error"), clsUserInterface::Critical, clsUserInterface::OKOnly);
         throw clsProgramEnd();

@@ -22,8 +22,8 @@ QString readResource(const QString &name, const QString &group)
     [[maybe_unused]] static const bool initialised = (initialiseResources(), true);
     QFile file(QStringLiteral(":/") + group + u'/' + name);
     if (!file.open(QIODevice::ReadOnly))
-        throw clsRunTimeError(ResourceNotFound, QStringLiteral("Resource with identifier '") + name
-                                                    + QStringLiteral("' not found"));
+        throw clsRunTimeError(
+            ResourceNotFound, QStringLiteral("Resource with identifier '") + name + QStringLiteral("' not found"));
     return mdFromCodePage(file.readAll());
 }
 

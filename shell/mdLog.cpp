@@ -21,8 +21,8 @@ void WriteLog(const QString &message)
         return;
     const QDateTime now = Now();
     const QString path = pathOfDay(now.date());
-    const QString line
-        = now.toString(QStringLiteral("dd/MM/yyyy HH:mm:ss")) + QStringLiteral(" : ") + message + QStringLiteral("\r\n");
+    const QString line = now.toString(QStringLiteral("dd/MM/yyyy HH:mm:ss")) + QStringLiteral(" : ") + message
+        + QStringLiteral("\r\n");
     WriteTextDocument(ReadTextDocument(path, false) + line, path, false);
 }
 

@@ -114,7 +114,8 @@ void removeOrHide(const QString &key)
 }
 
 /// Runs one operation between its two lines of the log; a failure shows the box instead of the second.
-template <class Operation> void logged(const char *what, const char *whatWasTried, const QString &name, Operation operation)
+template <class Operation>
+void logged(const char *what, const char *whatWasTried, const QString &name, Operation operation)
 {
     const QString line = QString::fromLatin1(what) + QStringLiteral(" Reg Key - ") + name;
     WriteLog(QStringLiteral("Begin ") + line);
@@ -133,18 +134,18 @@ QString ReadRegKey(const QString &name)
 {
     QString value;
     logged("Read", "There was a problem reading the following registry key:", name,
-           [&] { value = firstValue(stores(), storeKey(name)).value_or(QString()); });
+        [&] { value = firstValue(stores(), storeKey(name)).value_or(QString()); });
     return value;
 }
 
 void WriteRegKey(const QString &name, const QString &value)
 {
     logged("Write", "There was a problem writing to the following registry key:", name,
-           [&] { store(storeKey(name), value); });
+        [&] { store(storeKey(name), value); });
 }
 
 void DeleteRegKey(const QString &name)
 {
     logged("Delete", "There was a problem deleting the following registry key:", name,
-           [&] { removeOrHide(storeKey(name)); });
+        [&] { removeOrHide(storeKey(name)); });
 }

@@ -44,8 +44,8 @@ QString ReadTextDocument(const QString &path, bool logIt)
     if (logIt)
         WriteLog(QStringLiteral("Begin Read Text Document - ") + path);
     QString text;
-    if (!trapped(QStringLiteral("File Not Read"), QStringLiteral("There was a problem reading the following path:"), path,
-                 [&] { text = mdFromCodePage(FileSystem().ReadFile(path)); }))
+    if (!trapped(QStringLiteral("File Not Read"), QStringLiteral("There was a problem reading the following path:"),
+            path, [&] { text = mdFromCodePage(FileSystem().ReadFile(path)); }))
         return {};
     if (logIt)
         WriteLog(QStringLiteral("End Read Text Document - ") + path);
@@ -57,7 +57,7 @@ void WriteTextDocument(const QString &text, const QString &path, bool logIt)
     if (logIt)
         WriteLog(QStringLiteral("Begin Write Text Document - ") + path);
     if (!trapped(QStringLiteral("File Not Saved"), QStringLiteral("There was a problem writing to the following path:"),
-                 path, [&] { overwrite(path, mdToCodePage(text)); }))
+            path, [&] { overwrite(path, mdToCodePage(text)); }))
         return;
     if (logIt)
         WriteLog(QStringLiteral("End Write Text Document - ") + path);

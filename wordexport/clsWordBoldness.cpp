@@ -25,6 +25,19 @@ clsWordBoldness::clsWordBoldness(const pugi::xml_node &styles)
     }
 }
 
+std::shared_ptr<const clsWordBoldness> clsWordBoldness::ofStyles(const QByteArray &styles)
+{
+    static QByteArray lastStyles;
+    static std::shared_ptr<const clsWordBoldness> last;
+    if (!last || lastStyles != styles) {
+        pugi::xml_document tree;
+        tree.load_buffer(styles.constData(), size_t(styles.size()), WordXml::ParseFlags);
+        last = std::make_shared<clsWordBoldness>(tree.document_element());
+        lastStyles = styles;
+    }
+    return last;
+}
+
 std::optional<bool> clsWordBoldness::ofStyle(const std::string &id) const
 {
     // A chain can't be longer than there are styles; one that is goes in a circle.

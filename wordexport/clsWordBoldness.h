@@ -2,6 +2,9 @@
 
 #include <pugixml.hpp>
 
+#include <QByteArray>
+
+#include <memory>
 #include <optional>
 #include <string>
 #include <unordered_map>
@@ -11,6 +14,9 @@ class clsWordBoldness {
 public:
     /// `styles` is the root of the styles part; a null node where the document has none.
     explicit clsWordBoldness(const pugi::xml_node &styles);
+    /// The boldness that the bytes of a styles part make. All sheets of an export have the same styles, so the last
+    /// answer is kept.
+    static std::shared_ptr<const clsWordBoldness> ofStyles(const QByteArray &styles);
 
     /// `format` is the w:rPr of the text, `paragraph` the paragraph that it stands in.
     bool isBold(const pugi::xml_node &format, const pugi::xml_node &paragraph) const;

@@ -11,8 +11,28 @@ namespace {
 
 xml_node bodyOf(clsWordPackage &package)
 {
-    return package.partXml(package.mainPart()).document_element().child("w:body");
+    return package.mainRoot().child("w:body");
 }
+
+// A place in the target's tree, behind its root, where a document's text is made ready before it is moved in.
+// Whatever happens, it is gone before anybody writes the tree.
+class clsStaging {
+public:
+    explicit clsStaging(pugi::xml_document &tree)
+        : m_tree(tree)
+        , m_place(tree.append_child("staging"))
+    {
+    }
+    ~clsStaging() { m_tree.remove_child(m_place); }
+    clsStaging(const clsStaging &) = delete;
+    clsStaging &operator=(const clsStaging &) = delete;
+
+    const xml_node &place() const { return m_place; }
+
+private:
+    pugi::xml_document &m_tree;
+    xml_node m_place;
+};
 
 // The section that the body ends with; every body has one, if only of default values.
 xml_node ensureFinalSection(xml_node body)
@@ -52,19 +72,6 @@ xml_node lastBlock(const xml_node &body)
     return {};
 }
 
-// A paragraph that takes next to no room, where a section's end needs one of its own.
-xml_node insertTinyParagraph(xml_node body, const xml_node &after)
-{
-    xml_node paragraph = after ? body.insert_child_after("w:p", after) : body.prepend_child("w:p");
-    xml_node properties = paragraph.append_child("w:pPr");
-    xml_node spacing = properties.append_child("w:spacing");
-    for (const auto &[name, value] : {std::pair("w:before", "0"), std::pair("w:after", "0"),
-                                      std::pair("w:line", "20"), std::pair("w:lineRule", "exact")})
-        spacing.append_attribute(name) = value;
-    properties.append_child("w:rPr").append_child("w:sz").append_attribute("w:val") = "2";
-    return paragraph;
-}
-
 // The prefix, colon included, that a tree writes relationship ids with.
 std::string relationshipPrefix(const xml_node &root)
 {
@@ -93,6 +100,13 @@ xml_node clsWordComposer::targetBody()
     return bodyOf(m_target);
 }
 
+void clsWordComposer::append(const QString &path)
+{
+    const clsStaging staging(m_target.partXml(m_target.mainPart()));
+    clsWordPackage source(clsZipPackage::fromFile(path), path, staging.place());
+    append(source);
+}
+
 void clsWordComposer::append(clsWordPackage &source)
 {
     xml_node sourceBody = bodyOf(source);
@@ -107,10 +121,14 @@ void clsWordComposer::append(clsWordPackage &source)
 
     xml_node body = targetBody();
     sealLastSection(body);
-    for (const xml_node &block : sourceBody.children())
+    m_target.settleBody();
+    for (xml_node block = sourceBody.first_child(); block;) {
+        const xml_node next = block.next_sibling();
         if (WordXml::isElement(block) && block != finalSection)
-            body.append_copy(block);
-    body.append_copy(finalSection);
+            body.append_move(block);
+        block = next;
+    }
+    body.append_move(finalSection);
     m_target.setChanged(m_target.mainPart());
 }
 
@@ -194,7 +212,7 @@ void clsWordComposer::sealLastSection(xml_node body)
     const xml_node section = ensureFinalSection(body);
     xml_node last = lastBlock(body);
     if (!WordXml::is(last, "w:p") || last.child("w:pPr").child("w:sectPr"))
-        last = insertTinyParagraph(body, last);
+        last = WordXml::insertTinyParagraph(body, last);
     xml_node properties = WordXml::ensureProperties(last, "w:pPr");
     const xml_node place = WordXml::addChild(properties, "w:sectPr");
     properties.insert_move_after(section, place);

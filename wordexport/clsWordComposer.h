@@ -16,15 +16,15 @@ class clsWordComposer {
 public:
     explicit clsWordComposer(clsWordPackage &target);
 
-    /// A document that can't be appended is an error, and the target's text is then as it was. The source's trees
-    /// are used up.
-    void append(clsWordPackage &source);
+    /// Appends a document's file. One that can't be appended is an error, and the target's text is then as it was.
+    void append(const QString &path);
 
 private:
     /// Which header or footer: its element's name and its type.
     using HeaderKind = std::pair<std::string, std::string>;
 
     pugi::xml_node targetBody();
+    void append(clsWordPackage &source);
     void mapContent(clsWordPackage &source, pugi::xml_node body);
     void beginOnNewPage(pugi::xml_node firstSection);
     void fillMissingHeaders(pugi::xml_node firstSection);

@@ -49,9 +49,23 @@ const std::unordered_map<std::string_view, Kind> Kinds = {
 };
 
 // Marks of one document's own history of edits, which must not come twice in a package.
-bool isHistory(std::string_view attribute)
+bool isHistory(const char *attribute)
 {
-    return attribute.starts_with("w:rsid") || attribute == "w14:paraId" || attribute == "w14:textId";
+    return std::strncmp(attribute, "w:rsid", 6) == 0 || std::strcmp(attribute, "w14:paraId") == 0
+        || std::strcmp(attribute, "w14:textId") == 0;
+}
+
+bool isFormatting(const char *name)
+{
+    return std::strcmp(name, "w:rPr") == 0 || std::strcmp(name, "w:tcPr") == 0 || std::strcmp(name, "w:tblPr") == 0
+        || std::strcmp(name, "w:tblGrid") == 0;
+}
+
+// Most elements of a text are of the few with the shortest names, and only one of those matters.
+bool isShortName(const char *name)
+{
+    constexpr size_t ShortName = 5;
+    return std::strlen(name) <= ShortName && std::strcmp(name, "w:p") != 0 && std::strcmp(name, "w:tbl") != 0;
 }
 
 bool isWordCharacter(char c)
@@ -114,6 +128,9 @@ void clsWordContentMap::map(xml_node root)
 
 void clsWordContentMap::mapNode(xml_node node)
 {
+    // Half of a text is formatting, which refers to nothing but styles.
+    if (m_styles.isSame() && isFormatting(node.name()))
+        return;
     mapAttributes(node);
     mapElement(node);
     for (const xml_node &child : node.children())
@@ -125,10 +142,11 @@ void clsWordContentMap::mapAttributes(xml_node node)
 {
     for (pugi::xml_attribute attribute = node.first_attribute(); attribute;) {
         const pugi::xml_attribute next = attribute.next_attribute();
-        const std::string_view name = attribute.name();
+        const char *name = attribute.name();
         if (isHistory(name))
             node.remove_attribute(attribute);
-        else if (m_relationships && name.starts_with(m_prefix) && *attribute.value() != '\0')
+        else if (m_relationships && std::strncmp(name, m_prefix.c_str(), m_prefix.size()) == 0
+                 && *attribute.value() != '\0')
             attribute.set_value(m_relationships(attribute.value()).c_str());
         attribute = next;
     }
@@ -136,6 +154,8 @@ void clsWordContentMap::mapAttributes(xml_node node)
 
 void clsWordContentMap::mapElement(xml_node node)
 {
+    if (isShortName(node.name()))
+        return;
     const auto kind = Kinds.find(node.name());
     if (kind == Kinds.end())
         return;

@@ -89,7 +89,7 @@ void clsWordCursor::goToEnd()
     if (!last)
         last = enterContainer(m_body);
     else if (WordXml::is(last, "w:tbl")) // a story ends with a paragraph; one that does not gets it
-        last = last.parent().insert_child_after("w:p", last);
+        last = WordXml::insertTinyParagraph(last.parent(), last);
     place(last, clsWordParagraph(last).length());
 }
 

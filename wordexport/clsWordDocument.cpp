@@ -15,7 +15,7 @@ namespace {
 constexpr QChar LineBreak(11);
 
 // The paragraphs of the story in document order, until the visitor has seen enough.
-template <class Visitor> bool visitParagraphs(const xml_node &container, Visitor &visitor)
+template <class Visitor> bool visitParagraphs(const xml_node &container, const Visitor &visitor)
 {
     for (xml_node block = WordXml::firstItem(container, WordXml::isBlock); block;
          block = WordXml::nextItem(block, WordXml::isBlock)) {
@@ -65,7 +65,7 @@ clsWordDocument::~clsWordDocument() = default;
 
 xml_node clsWordDocument::body()
 {
-    return m_package.partXml(m_package.mainPart()).document_element().child("w:body");
+    return m_package.mainRoot().child("w:body");
 }
 
 void clsWordDocument::save(clsZipPackage::Packing packing, bool toDisk)
@@ -81,6 +81,7 @@ void clsWordDocument::moved()
 
 void clsWordDocument::goToStart()
 {
+    m_package.restoreBody(); // a document that others were appended to begins there
     m_cursor.goToStart();
     moved();
 }
@@ -107,8 +108,10 @@ void clsWordDocument::findFirst(const QString &find)
 {
     goToStart();
     const clsWordFinder finder(find);
+    if (finder.isEmpty())
+        return;
     const char sure = finder.sureCharacter();
-    auto visitor = [&](const xml_node &paragraph) {
+    const auto selectIn = [&](const xml_node &paragraph) {
         if (sure != 0 && !clsWordParagraph::mayHold(paragraph, sure))
             return false;
         const clsWordFinder::Hit hit = finder.firstIn(clsWordParagraph(paragraph).text());
@@ -117,16 +120,36 @@ void clsWordDocument::findFirst(const QString &find)
         m_cursor.select(paragraph, hit.from, hit.to);
         return true;
     };
-    if (!finder.isEmpty())
-        visitParagraphs(body(), visitor);
+    if (sure == 0) {
+        visitParagraphs(body(), selectIn);
+        return;
+    }
+    const std::vector<xml_node> &candidates = paragraphsThatMayHold(sure);
+    (void)std::any_of(candidates.begin(), candidates.end(), selectIn);
+}
+
+// A sheet is searched for one placeholder after another, and all of them have a brace: the paragraphs that have one
+// are looked for once. The list may hold too many, but never too few.
+const std::vector<xml_node> &clsWordDocument::paragraphsThatMayHold(char c)
+{
+    const auto known = m_placeholders.find(c);
+    if (known != m_placeholders.end())
+        return known->second;
+    std::vector<xml_node> &found = m_placeholders[c];
+    const auto collect = [&](const xml_node &paragraph) {
+        if (clsWordParagraph::mayHold(paragraph, c))
+            found.push_back(paragraph);
+        return false;
+    };
+    visitParagraphs(body(), collect);
+    return found;
 }
 
 const clsWordBoldness &clsWordDocument::boldness()
 {
     if (!m_boldness) {
         const int styles = m_package.relatedPart("styles");
-        m_boldness = std::make_unique<clsWordBoldness>(styles < 0 ? xml_node()
-                                                                  : m_package.partXml(styles).document_element());
+        m_boldness = clsWordBoldness::ofStyles(styles < 0 ? QByteArray() : m_package.partBytes(styles));
     }
     return *m_boldness;
 }
@@ -170,6 +193,8 @@ void clsWordDocument::type(const QString &typed)
     const xml_node format = formatForTyping(paragraph.formatAt(m_cursor.from(), m_cursor.to()), symbolFont);
     const int end = paragraph.type(m_cursor.from(), m_cursor.to(), typed, format, symbols);
     m_cursor.place(m_cursor.paragraph(), end);
+    // Typed text can bring the character into a paragraph that had none.
+    std::erase_if(m_placeholders, [&typed](const auto &known) { return typed.contains(QLatin1Char(known.first)); });
     changed();
 }
 
@@ -190,6 +215,8 @@ void clsWordDocument::clearSelectedCell()
     }
     for (const xml_node &block : others)
         block.parent().remove_child(block);
+    if (!others.empty())
+        m_placeholders.clear();
     if (!kept)
         kept = cell.append_child("w:p");
     m_cursor.select(kept, 0, clsWordParagraph(kept).length());
@@ -197,7 +224,7 @@ void clsWordDocument::clearSelectedCell()
 
 xml_node clsWordDocument::formatForTyping(const xml_node &like, bool symbolFont)
 {
-    m_format.reset();
+    m_format.remove_children();
     xml_node format = like ? m_format.append_copy(like) : m_format.append_child("w:rPr");
     // What a paragraph mark says of its own insertion or deletion is not a look to take over.
     for (const char *markOnly : {"w:ins", "w:del", "w:moveFrom", "w:moveTo", "w:rPrChange"})
@@ -219,6 +246,7 @@ void clsWordDocument::startParagraph()
     clsWordParagraph paragraph(m_cursor.paragraph());
     paragraph.erase(m_cursor.from(), m_cursor.to());
     m_cursor.place(paragraph.split(m_cursor.from()), 0);
+    m_placeholders.clear();
     changed();
 }
 
@@ -250,6 +278,7 @@ void clsWordDocument::backSpace()
     const int end = joined.length();
     joined.join(m_cursor.paragraph());
     m_cursor.place(before, end);
+    m_placeholders.clear();
     moved();
     changed();
 }
@@ -258,9 +287,9 @@ void clsWordDocument::append(const QString &path)
 {
     m_cursor.goToEnd();
     moved();
-    clsWordPackage source = clsWordPackage::fromFile(path);
     if (!m_composer)
         m_composer = std::make_unique<clsWordComposer>(m_package);
-    m_composer->append(source);
+    m_composer->append(path);
+    m_placeholders.clear();
     m_cursor.goToEnd();
 }

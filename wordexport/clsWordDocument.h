@@ -4,8 +4,10 @@
 #include "wordexport/clsWordCursor.h"
 #include "wordexport/clsWordPackage.h"
 
+#include <map>
 #include <memory>
 #include <optional>
+#include <vector>
 
 class clsWordComposer;
 
@@ -47,6 +49,7 @@ private:
     void moved();
     void type(const QString &typed);
     void clearSelectedCell();
+    const std::vector<pugi::xml_node> &paragraphsThatMayHold(char c);
     pugi::xml_node formatForTyping(const pugi::xml_node &like, bool symbolFont);
     const clsWordBoldness &boldness();
 
@@ -56,6 +59,7 @@ private:
     std::optional<bool> m_bold;
     bool m_symbolFont = false;
     pugi::xml_document m_format; // holds the formatting of the text that is being typed
-    std::unique_ptr<clsWordBoldness> m_boldness;
+    std::map<char, std::vector<pugi::xml_node>> m_placeholders; // paragraphs in order, by a character in them
+    std::shared_ptr<const clsWordBoldness> m_boldness;
     std::unique_ptr<clsWordComposer> m_composer;
 };

@@ -82,8 +82,14 @@ clsWordPackage clsWordPackage::fromFile(const QString &path)
 }
 
 clsWordPackage::clsWordPackage(clsZipPackage zip, const QString &shownName)
+    : clsWordPackage(std::move(zip), shownName, pugi::xml_node())
+{
+}
+
+clsWordPackage::clsWordPackage(clsZipPackage zip, const QString &shownName, const pugi::xml_node &mainPlace)
     : m_zip(std::move(zip))
     , m_shownName(shownName)
+    , m_mainPlace(mainPlace)
 {
     const int types = m_zip.indexOf(QLatin1String(ContentTypesName));
     if (types < 0)
@@ -113,7 +119,9 @@ void clsWordPackage::findMainPart()
     if (m_mainPart < 0)
         throw mdDocumentError(QStringLiteral("The document %1 is not a Word document.").arg(m_shownName));
 
-    const pugi::xml_node root = partXml(m_mainPart).document_element();
+    if (m_mainPlace)
+        parseInto(m_mainPlace, m_zip.bytes(m_mainPart));
+    const pugi::xml_node root = mainRoot();
     if (QByteArrayView(root.attribute("xmlns:w").value()) == WordXml::StrictNamespace)
         throw mdDocumentError(strictMessage(m_shownName));
     if (!WordXml::is(root, "w:document") || QByteArrayView(root.attribute("xmlns:w").value()) != WordXml::MainNamespace)
@@ -122,16 +130,33 @@ void clsWordPackage::findMainPart()
         throw mdDocumentDamaged(m_shownName);
 }
 
+pugi::xml_node clsWordPackage::mainRoot()
+{
+    if (!m_mainPlace)
+        return partXml(m_mainPart).document_element();
+    return m_mainPlace.find_child([](const pugi::xml_node &node) { return WordXml::isElement(node); });
+}
+
 std::unique_ptr<pugi::xml_document> clsWordPackage::parse(const QByteArray &bytes) const
 {
-    const bool utf16 = bytes.startsWith("\xFE\xFF") || bytes.startsWith("\xFF\xFE") || bytes.left(2).contains('\0');
-    if (!utf16 && !bytes.isValidUtf8())
-        throw mdDocumentDamaged(m_shownName);
     auto tree = std::make_unique<pugi::xml_document>();
-    if (!tree->load_buffer(bytes.constData(), size_t(bytes.size()), WordXml::ParseFlags)
-        || WordXml::depth(*tree, MaximumDepth) >= MaximumDepth)
-        throw mdDocumentDamaged(m_shownName);
+    parseInto(*tree, bytes);
     return tree;
+}
+
+void clsWordPackage::parseInto(pugi::xml_node place, const QByteArray &bytes) const
+{
+    const bool utf16 = bytes.startsWith("\xFE\xFF") || bytes.startsWith("\xFF\xFE") || bytes.left(2).contains('\0');
+    // Within another tree there is no place for a part's declaration; it would be taken for damage.
+    const unsigned flags = place.type() == pugi::node_document ? WordXml::ParseFlags
+                                                               : WordXml::ParseFlags & ~pugi::parse_declaration;
+    const bool sound = (utf16 || bytes.isValidUtf8())
+        && place.append_buffer(bytes.constData(), size_t(bytes.size()), flags)
+        && WordXml::depth(place, MaximumDepth) < MaximumDepth;
+    // A fragment that a tree would take without a word is no document.
+    const bool hasRoot = sound && place.find_child([](const pugi::xml_node &node) { return WordXml::isElement(node); });
+    if (!hasRoot)
+        throw mdDocumentDamaged(m_shownName);
 }
 
 pugi::xml_document &clsWordPackage::partXml(int part)
@@ -150,8 +175,62 @@ QByteArray clsWordPackage::currentBytes(int part)
     return serialise(*parsed->second.tree, m_zip.bytes(part).size());
 }
 
+void clsWordPackage::settleBody()
+{
+    pugi::xml_node body = mainRoot().child("w:body");
+    clsByteWriter writer;
+    writer.bytes.reserve(m_zip.bytes(m_mainPart).size());
+    while (body.first_child()) {
+        body.first_child().print(writer, "", pugi::format_raw, pugi::encoding_utf8);
+        body.remove_child(body.first_child());
+    }
+    writer.bytes.squeeze();
+    m_settled.push_back(writer.bytes);
+}
+
+void clsWordPackage::restoreBody()
+{
+    if (m_settled.empty())
+        return;
+    pugi::xml_node body = mainRoot().child("w:body");
+    pugi::xml_node staging = body.prepend_child("staging");
+    for (const QByteArray &bytes : m_settled)
+        staging.append_buffer(bytes.constData(), size_t(bytes.size()),
+                              (WordXml::ParseFlags & ~pugi::parse_declaration) | pugi::parse_fragment);
+    while (const pugi::xml_node block = staging.first_child())
+        body.insert_move_before(block, staging);
+    body.remove_child(staging);
+    m_settled.clear();
+}
+
+// The settled text goes between the pieces of the tree's own text, where a mark stands for it meanwhile.
+void clsWordPackage::writeMainPart()
+{
+    pugi::xml_document &tree = partXml(m_mainPart);
+    pugi::xml_node body = mainRoot().child("w:body");
+    std::string name = "settled";
+    QByteArray bytes;
+    QByteArray mark;
+    do { // until the mark is one that nothing else in the text looks like
+        name += '-';
+        const pugi::xml_node node = body.prepend_child(pugi::node_pi);
+        body.first_child().set_name(name.c_str());
+        bytes = serialise(tree, m_zip.bytes(m_mainPart).size());
+        body.remove_child(node);
+        mark = "<?" + QByteArray::fromStdString(name) + "?>";
+    } while (bytes.count(mark) != 1);
+    const qsizetype at = bytes.indexOf(mark);
+    std::vector<QByteArray> pieces{bytes.left(at)};
+    pieces.insert(pieces.end(), m_settled.begin(), m_settled.end());
+    pieces.push_back(bytes.mid(at + mark.size()));
+    m_zip.setPieces(m_mainPart, pieces);
+    m_parsed[m_mainPart].changed = false;
+}
+
 QByteArray clsWordPackage::toBytes(clsZipPackage::Packing packing)
 {
+    if (hasSettledText())
+        writeMainPart();
     for (auto &[part, parsed] : m_parsed)
         if (parsed.changed) {
             m_zip.setBytes(part, serialise(*parsed.tree, m_zip.bytes(part).size()));

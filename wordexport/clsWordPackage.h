@@ -22,6 +22,9 @@ public:
 
     static clsWordPackage fromFile(const QString &path);
     clsWordPackage(clsZipPackage zip, const QString &shownName);
+    /// With the main part's tree below a node of another tree: what is in it can then be moved there instead of
+    /// copied. That node must outlive the package's use.
+    clsWordPackage(clsZipPackage zip, const QString &shownName, const pugi::xml_node &mainPlace);
 
     QByteArray toBytes(clsZipPackage::Packing packing);
 
@@ -29,8 +32,17 @@ public:
     const QString &shownName() const { return m_shownName; }
     /// The part with the text: the one that the package's own relationship leads to, whatever it is called.
     int mainPart() const { return m_mainPart; }
+    /// The root element of that part.
+    pugi::xml_node mainRoot();
     /// The part that the main part is related to by a type (its last word: "styles", "numbering"), or -1.
     int relatedPart(const char *typeName);
+
+    /// Text at the front of the main part's body that is finished, as bytes: a joined document would take ten times
+    /// the room as a tree. Moves all that the body holds there.
+    void settleBody();
+    /// Makes the finished text part of the tree again.
+    void restoreBody();
+    bool hasSettledText() const { return !m_settled.empty(); }
 
     int partCount() const { return int(m_zip.entries().size()); }
     const QString &partName(int part) const { return m_zip.entries()[size_t(part)].name; }
@@ -74,12 +86,16 @@ private:
     QString relationshipsName(int part) const;
     Relations &relations(int part);
     std::unique_ptr<pugi::xml_document> parse(const QByteArray &bytes) const;
+    void parseInto(pugi::xml_node place, const QByteArray &bytes) const;
     void findMainPart();
+    void writeMainPart();
     void writeRelationships();
 
     clsZipPackage m_zip;
     QString m_shownName;
     int m_mainPart = -1;
+    pugi::xml_node m_mainPlace; // of the main part's tree; a null node where it is a tree of its own
+    std::vector<QByteArray> m_settled;
     std::map<int, Parsed> m_parsed;
     std::map<int, Relations> m_relations;
     std::unique_ptr<pugi::xml_document> m_contentTypes;

@@ -109,8 +109,16 @@ QByteArray inflate(zip_t *archive, zip_uint64_t index, qint64 size, const QStrin
 
 void addTo(zip_t *archive, const clsZipPackage::Entry &entry, clsZipPackage::Packing packing)
 {
-    // libzip reads the bytes when the archive is closed; the package outlives that.
-    zip_source_t *source = zip_source_buffer(archive, entry.bytes.constData(), zip_uint64_t(entry.bytes.size()), 0);
+    // libzip reads the bytes when the archive is closed; the package outlives that, and so do the fragments' bytes.
+    std::vector<zip_buffer_fragment_t> fragments;
+    const auto addFragment = [&fragments](const QByteArray &bytes) {
+        zip_uint8_t *data = reinterpret_cast<zip_uint8_t *>(const_cast<char *>(bytes.constData())); // only read
+        fragments.push_back({data, zip_uint64_t(bytes.size())});
+    };
+    addFragment(entry.bytes);
+    for (const QByteArray &piece : entry.more)
+        addFragment(piece);
+    zip_source_t *source = zip_source_buffer_fragment(archive, fragments.data(), fragments.size(), 0);
     const zip_int64_t index = source
         ? zip_file_add(archive, entry.name.toUtf8().constData(), source, ZIP_FL_ENC_UTF_8)
         : -1;
@@ -208,6 +216,13 @@ QByteArray clsZipPackage::toBytes(Packing packing) const
     return readBack(source.get());
 }
 
+void clsZipPackage::setPieces(int index, const std::vector<QByteArray> &pieces)
+{
+    Entry &entry = m_entries[size_t(index)];
+    entry.bytes = pieces.empty() ? QByteArray() : pieces.front();
+    entry.more.assign(pieces.empty() ? pieces.end() : pieces.begin() + 1, pieces.end());
+}
+
 int clsZipPackage::indexOf(const QString &name) const
 {
     return m_index.value(key(name), -1);
@@ -215,7 +230,7 @@ int clsZipPackage::indexOf(const QString &name) const
 
 int clsZipPackage::add(const QString &name, const QByteArray &bytes)
 {
-    m_entries.push_back({name, bytes});
+    m_entries.push_back({name, bytes, {}});
     const int index = int(m_entries.size()) - 1;
     m_index.insert(key(name), index);
     return index;

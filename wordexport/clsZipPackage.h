@@ -14,6 +14,8 @@ public:
     struct Entry {
         QString name;
         QByteArray bytes;
+        /// What follows the bytes, for an entry too long to be wanted in one piece.
+        std::vector<QByteArray> more = {};
     };
     /// How hard to pack. Stored is for files that live for moments; the format is the same.
     enum Packing { Stored, Deflated };
@@ -25,11 +27,13 @@ public:
     /// The whole package as bytes: the same entries give the same bytes, whatever the clock says.
     QByteArray toBytes(Packing packing) const;
 
-    const std::vector<Entry> &entries() const { return m_entries; }
+    const std::vector<Entry> &entries() const & { return m_entries; }
+    const std::vector<Entry> &entries() && = delete; // a loop over those of a package of the moment would outlive it
     /// The index of an entry, or -1. Names compare without case, as the parts of a document do.
     int indexOf(const QString &name) const;
     const QByteArray &bytes(int index) const { return m_entries[size_t(index)].bytes; }
     void setBytes(int index, const QByteArray &bytes) { m_entries[size_t(index)].bytes = bytes; }
+    void setPieces(int index, const std::vector<QByteArray> &pieces);
     /// Adds an entry under a name that is not taken.
     int add(const QString &name, const QByteArray &bytes);
 

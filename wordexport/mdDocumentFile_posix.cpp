@@ -116,10 +116,11 @@ QByteArray mdReadDocumentFile(const QString &path, qint64 limit)
 
 void mdWriteDocumentFile(const QString &path, const QByteArray &bytes, bool toDisk)
 {
-    // Where the name is a link, the file that it leads to is replaced, not the link.
-    const QString target = QFileInfo(path).canonicalFilePath();
-    const QByteArray document = QFile::encodeName(target.isEmpty() ? path : target);
+    QByteArray document = QFile::encodeName(path);
     struct stat status;
+    // Where the name is a link, the file that it leads to is replaced, not the link.
+    if (::lstat(document.constData(), &status) == 0 && S_ISLNK(status.st_mode))
+        document = QFile::encodeName(QFileInfo(path).canonicalFilePath());
     const bool exists = ::stat(document.constData(), &status) == 0;
     if (exists && !S_ISREG(status.st_mode))
         throw clsRunTimeError(clsRunTimeError::PathFileAccess);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <span>
+#include <utility>
 
 namespace WordXml {
 
@@ -111,8 +112,12 @@ bool isOn(const xml_node &property)
 
 bool isWrapper(const xml_node &node)
 {
-    return isElement(node)
-        && std::any_of(std::begin(Wrappers), std::end(Wrappers), [&node](const char *name) { return is(node, name); });
+    // Asked of every element that is no item itself, mostly properties: their initials are told at a glance.
+    const char *name = node.name();
+    if (name[0] != 'w' || name[1] != ':' || name[2] == 'p' || name[2] == 't' || name[2] == 'r')
+        return false;
+    return std::any_of(std::begin(Wrappers), std::end(Wrappers),
+                       [name](const char *wrapper) { return std::strcmp(name, wrapper) == 0; });
 }
 
 bool isBlock(const xml_node &node)
@@ -198,6 +203,18 @@ xml_node ensureProperties(xml_node owner, const char *name)
     return present ? present : owner.prepend_child(name);
 }
 
+xml_node insertTinyParagraph(xml_node container, const xml_node &after)
+{
+    xml_node paragraph = after ? container.insert_child_after("w:p", after) : container.prepend_child("w:p");
+    xml_node properties = paragraph.append_child("w:pPr");
+    xml_node spacing = properties.append_child("w:spacing");
+    for (const auto &[name, value] : {std::pair("w:before", "0"), std::pair("w:after", "0"),
+                                      std::pair("w:line", "20"), std::pair("w:lineRule", "exact")})
+        spacing.append_attribute(name) = value;
+    properties.append_child("w:rPr").append_child("w:sz").append_attribute("w:val") = "2";
+    return paragraph;
+}
+
 QString withoutForbiddenCharacters(const QString &text)
 {
     QString kept;
@@ -223,22 +240,24 @@ int depth(const xml_node &root, int limit)
     int deepest = 0;
     int level = 0;
     xml_node node = root;
-    while (node) {
-        deepest = std::max(deepest, level);
-        if (deepest >= limit)
-            return limit;
+    for (;;) {
         if (const xml_node child = node.first_child()) {
             node = child;
-            ++level;
+            deepest = std::max(deepest, ++level);
+            if (level >= limit)
+                return limit;
             continue;
         }
-        while (node != root && !node.next_sibling()) {
+        for (; level > 0; --level) {
+            if (const xml_node next = node.next_sibling()) {
+                node = next;
+                break;
+            }
             node = node.parent();
-            --level;
         }
-        node = node == root ? xml_node() : node.next_sibling();
+        if (level == 0)
+            return deepest;
     }
-    return deepest;
 }
 
 } // namespace WordXml

@@ -77,6 +77,10 @@ pugi::xml_node addChild(pugi::xml_node parent, const char *name);
 /// The property element of a paragraph or run, which is always its first child; added where it is missing.
 pugi::xml_node ensureProperties(pugi::xml_node owner, const char *name);
 
+/// Adds a paragraph that takes next to no room behind a block, or at the front: where the format demands a paragraph
+/// and a full sheet has no room for one.
+pugi::xml_node insertTinyParagraph(pugi::xml_node container, const pugi::xml_node &after);
+
 /// Text without what XML can't hold: control characters but tab, line feed and carriage return, halves of
 /// surrogate pairs, and the two non-characters.
 QString withoutForbiddenCharacters(const QString &text);

@@ -6,6 +6,7 @@
 The same sources always make the same bytes.
 """
 
+import argparse
 import sys
 from pathlib import Path
 
@@ -25,6 +26,6 @@ def make_templates(folder):
 
 
 if __name__ == "__main__":
-    if len(sys.argv) != 2:
-        sys.exit("usage: make_templates.py OUTDIR")
-    make_templates(Path(sys.argv[1]))
+    arguments = argparse.ArgumentParser(description="Writes the page templates of the printed forms into a folder.")
+    arguments.add_argument("OUTDIR", type=Path)
+    make_templates(arguments.parse_args().OUTDIR)

@@ -23,7 +23,7 @@ void clsConsoleUserInterface::tell(const QString &title, const QString &text)
 {
     clearProgress();
     ++m_messageCount;
-    if (showsOnlyFirstMessage && m_messageCount > 1)
+    if (isMute || (showsOnlyFirstMessage && m_messageCount > 1))
         return;
     QString block = title + QStringLiteral(": ") + text;
     block.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));

@@ -1,7 +1,9 @@
 #include "costing/mdCheckForBlankItems.h"
 #include "formdata/clsZR3Form.h"
+#include "formdata/clsZR3PreferencesDatabase.h"
 #include "shell/clsProgramEnd.h"
 #include "shell/clsRunTimeError.h"
+#include "shell/mdDatabasePath.h"
 #include "shell/mdGetVersionInfo.h"
 #include "shell/mdProgramFolder.h"
 #include "shell/zr3tool/clsConsoleUserInterface.h"
@@ -18,6 +20,7 @@
 
 #include <cstdio>
 #include <functional>
+#include <memory>
 #include <new>
 
 namespace {
@@ -110,7 +113,7 @@ Status exportDocument(clsConsoleUserInterface &console, clsZR3Form &form, const 
                      QStringLiteral("The selected Export Path does not exist. Please select a valid folder and try again."));
         return Status::Failed;
     }
-    form.ExportPath = folder.absoluteFilePath();
+    form.ExportPath = QDir(command.target).absolutePath();
     if (!command.force && QFileInfo::exists(mdFinishedDocumentPath(form))) {
         console.tell(QStringLiteral("Export"), QStringLiteral("The document %1 exists already. Give --force to replace it.")
                                                    .arg(QDir::toNativeSeparators(mdFinishedDocumentPath(form))));
@@ -145,6 +148,25 @@ Status runOnClaim(clsConsoleUserInterface &console, const clsToolCommand &comman
     });
 }
 
+/// The preferences, for the sake of the log; nothing where there are none or they can't be read: the tool does without
+/// them and says nothing.
+std::unique_ptr<clsZR3PreferencesDatabase> preferencesIfAny()
+{
+    clsConsoleUserInterface mute;
+    mute.isMute = true;
+    const clsUserInterfaceScope scope(mute);
+    try {
+        const QString path = StoredDatabasePath() + u'/' + clsZR3PreferencesDatabase::fileName();
+        if (!QFileInfo::exists(path))
+            return {};
+        auto preferences = std::make_unique<clsZR3PreferencesDatabase>(path);
+        preferences->Log(); // refuses a file whose switch can't be read
+        return preferences;
+    } catch (const clsRunTimeError &) {
+    }
+    return {};
+}
+
 Status run(const QStringList &arguments)
 {
     clsConsoleUserInterface console;
@@ -158,8 +180,10 @@ Status run(const QStringList &arguments)
         print(clsToolCommand::usage());
     else if (command->verb == clsToolCommand::Version)
         print(QStringLiteral("Velmor ZR3 %1\n").arg(GetVersionInfo()));
-    else
+    else {
+        const auto preferences = preferencesIfAny();
         return runOnClaim(console, *command);
+    }
     return Status::Done;
 }
 

@@ -7,6 +7,7 @@
 #include "costing/mdGetDisbursementsTotals.h"
 #include "costing/mdGetFASTotals.h"
 #include "costing/mdPercentageCalculate.h"
+#include "costing/mdSumOf.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/clsRunTimeError.h"
 #include "shell/mdExisting.h"
@@ -35,17 +36,18 @@ Money profitCostsVAT(const Form &form)
 
 Money loadFromBillNet(const Form &form)
 {
-    return ProfitCostsTotal(form) - AdvocacyTotal(form);
+    const Money profitCosts = ProfitCostsTotal(form);
+    return profitCosts - AdvocacyTotal(form);
 }
 
 Money netWithoutCounsel(const Form &form)
 {
-    return ProfitCostsTotal(form) + ExpertInvoicesNetTotal(form) + NonCounselDisbursementsAmountTotal(form);
+    return mdSumOf({ProfitCostsTotal(form), ExpertInvoicesNetTotal(form), NonCounselDisbursementsAmountTotal(form)});
 }
 
 Money vatWithoutCounsel(const Form &form)
 {
-    return profitCostsVAT(form) + ExpertInvoicesVATTotal(form) + NonCounselDisbursementsVATTotal(form);
+    return mdSumOf({profitCostsVAT(form), ExpertInvoicesVATTotal(form), NonCounselDisbursementsVATTotal(form)});
 }
 
 const FigureRow Totals[] = {
@@ -79,7 +81,7 @@ const FigureRow Claim1Summary[] = {
     {"vdibs", NonCounselDisbursementsVATTotal},
     {"ntotal", netWithoutCounsel},
     {"vtotal", vatWithoutCounsel},
-    {"grandtotal", [](const Form &form) { return netWithoutCounsel(form) + vatWithoutCounsel(form); }},
+    {"grandtotal", [](const Form &form) { return mdSumOf({netWithoutCounsel(form), vatWithoutCounsel(form)}); }},
     {"ncf", CounselFeesAmountTotal},
     {"vcf", CounselFeesVATTotal},
     {"cftotal", CounselFeesTotal},
@@ -99,9 +101,13 @@ const FigureRow Claim1ASummary[] = {
     {"ncsl", CounselFeesAmountTotal},
     {"vcsl", CounselFeesVATTotal},
     {"ntotal",
-     [](const Form &form) { return netWithoutCounsel(form) + FASItemsTotal(form) + CounselFeesAmountTotal(form); }},
+     [](const Form &form) {
+         return mdSumOf({netWithoutCounsel(form), FASItemsTotal(form), CounselFeesAmountTotal(form)});
+     }},
     {"vtotal",
-     [](const Form &form) { return vatWithoutCounsel(form) + FASVATTotal(form) + CounselFeesVATTotal(form); }},
+     [](const Form &form) {
+         return mdSumOf({vatWithoutCounsel(form), FASVATTotal(form), CounselFeesVATTotal(form)});
+     }},
 };
 
 /// Writes the report; a figure that fails is written as its error's number.

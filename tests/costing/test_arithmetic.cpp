@@ -106,9 +106,9 @@ TEST(MoneyFromText, DoesNotCheckThePlacesOfTheCommas)
 
 TEST(MoneyFromText, BlankOrOtherTextIsATypeMismatch)
 {
-    for (const char16_t *text : {u"", u" ", u"\r\n", u"abc", u"12a", u"a12", u"1.2.3", u".", u",", u"-", u"+", u"--1", u"1-",
-                                 u"- 1", u"1 2", u"1e3", u"&H10", u"0x10", u"\u00a312", u"(5)", u"12%", u"inf", u"nan",
-                                 u"\u0661", u"1\u00a0000", u"\uff11"})
+    for (const char16_t *text :
+        {u"", u" ", u"\r\n", u"abc", u"12a", u"a12", u"1.2.3", u".", u",", u"-", u"+", u"--1", u"1-", u"- 1", u"1 2",
+            u"1e3", u"&H10", u"0x10", u"\u00a312", u"(5)", u"12%", u"inf", u"nan", u"\u0661", u"1\u00a0000", u"\uff11"})
         EXPECT_EQ(Error::TypeMismatch, errorOf([&] { money(text); })) << QString::fromUtf16(text).toStdString();
 }
 
@@ -138,6 +138,10 @@ TEST(MoneyFromText, ReachesTheLimitsAndNoFurther)
     EXPECT_EQ(Error::Overflow, errorOf([] { money(u"922337203685477.58075"); }));
     EXPECT_EQ(Error::Overflow, errorOf([] { money(u"-922337203685477.5809"); }));
     EXPECT_EQ(Error::Overflow, errorOf([] { money(u"99999999999999999999999999999999"); }));
+    // Two to the 64th ten-thousandths and its neighbours, which 64 bits would take for next to nothing.
+    EXPECT_EQ(Error::Overflow, errorOf([] { money(u"1844674407370955.1616"); }));
+    EXPECT_EQ(Error::Overflow, errorOf([] { money(u"1844674407370955.2"); }));
+    EXPECT_EQ(Error::Overflow, errorOf([] { money(u"1844674407370955.16155"); }));
 }
 
 TEST(MoneyFromText, AHugeTextIsJudgedToItsEnd)
@@ -247,7 +251,8 @@ TEST(RoundMoney2, OfALargeDoubleKeepsFourteenDigits)
 
 TEST(RoundMoney2, OutOfRangeOrNoNumberIsOverflow)
 {
-    for (const double value : {Infinity, -Infinity, NoNumber, 1e300, -1e300, 1e15, 999999999999999.0, -999999999999999.0})
+    for (const double value :
+        {Infinity, -Infinity, NoNumber, 1e300, -1e300, 1e15, 999999999999999.0, -999999999999999.0})
         EXPECT_EQ(Error::Overflow, errorOf([&] { RoundMoney2(value); })) << value;
 }
 
@@ -302,6 +307,13 @@ TEST(TextValue, NeverFailsOnHugeTexts)
     EXPECT_EQ(1.0, TextValue(QString(100'000, u'0') + u'1'));
     EXPECT_EQ(1.0, TextValue(QStringLiteral("0.") + QString(100'000, u'9')));
     EXPECT_EQ(0.0, TextValue(QString(100'000, u' ')));
+}
+
+TEST(TextValue, ReadsASignBeforeANumberOfAnyLength)
+{
+    EXPECT_EQ(-1.2345678901234567, TextValue(u"-1.2345678901234567"));
+    EXPECT_EQ(1.2345678901234567, TextValue(u"+1.2345678901234567"));
+    EXPECT_EQ(-12345678901234567890.0, TextValue(u" - 1234567890 1234567890"));
 }
 
 TEST(TextValue, IsTheNearestDouble)
@@ -428,7 +440,8 @@ TEST(TimeToMoney, AgreesWithExactArithmetic)
         for (int minutes = 0; minutes < 600; minutes += 11) {
             const std::int64_t product = pence * minutes;
             const std::int64_t rounded = product / 60 + (product % 60 >= 30 ? 1 : 0);
-            EXPECT_EQ(units(rounded * Money::PerPenny), TimeToMoney(MinutesToTime(minutes), units(pence * Money::PerPenny)))
+            EXPECT_EQ(
+                units(rounded * Money::PerPenny), TimeToMoney(MinutesToTime(minutes), units(pence * Money::PerPenny)))
                 << minutes << " minutes at " << pence << " pence";
         }
     }

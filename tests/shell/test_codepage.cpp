@@ -33,7 +33,8 @@ TEST(CodePage, EveryByteIsACharacterOfItsOwn)
 
 TEST(CodePage, KnowsTheCharactersOfTheUpperBytes)
 {
-    EXPECT_EQ(QString::fromUtf8("\u20ac\u2018\u2019\u201c\u201d\u2013\u2122\u0178"), mdFromCodePage("\x80\x91\x92\x93\x94\x96\x99\x9f"));
+    EXPECT_EQ(QString::fromUtf8("\u20ac\u2018\u2019\u201c\u201d\u2013\u2122\u0178"),
+        mdFromCodePage("\x80\x91\x92\x93\x94\x96\x99\x9f"));
     EXPECT_EQ(QString::fromUtf8("\u00a3\u00e9\u00ff"), mdFromCodePage("\xa3\xe9\xff"));
 }
 

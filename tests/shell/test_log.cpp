@@ -55,15 +55,15 @@ TEST_F(Log, TheFirstLineOfADayMeetsAMissingFile)
     switchOn();
     WriteLog(QStringLiteral("frmMain Opened"));
     expectOneBox("File Not Read",
-                 QStringLiteral("There was a problem reading the following path:\r\n\r\n") + day
-                     + QStringLiteral("\r\n\r\nThe error reported is:\r\n\r\n53 - File not found"));
+        QStringLiteral("There was a problem reading the following path:\r\n\r\n") + day
+            + QStringLiteral("\r\n\r\nThe error reported is:\r\n\r\n53 - File not found"));
     EXPECT_EQ(QByteArray("15/11/2026 14:03:22 : frmMain Opened\r\n"), bytesOf(day));
     EXPECT_EQ(day, LogPath());
     user.messages.clear();
     WriteLog(QStringLiteral("frmAbout Opened"));
     EXPECT_TRUE(user.messages.empty());
-    EXPECT_EQ(QByteArray("15/11/2026 14:03:22 : frmMain Opened\r\n15/11/2026 14:03:22 : frmAbout Opened\r\n"),
-              bytesOf(day));
+    EXPECT_EQ(
+        QByteArray("15/11/2026 14:03:22 : frmMain Opened\r\n15/11/2026 14:03:22 : frmAbout Opened\r\n"), bytesOf(day));
     EXPECT_FALSE(exists(day + u'a'));
 }
 
@@ -84,10 +84,10 @@ TEST_F(Log, EachDayHasItsFile)
     make(QStringLiteral("program/Logs"));
     switchOn();
     WriteLog(QStringLiteral("late"));
-    SetClock([] { return QDateTime(QDate(2026, 11, 16), QTime(0, 0)); });
+    SetClock([] { return QDateTime(QDate(2027, 1, 5), QTime(0, 0)); });
     WriteLog(QStringLiteral("early"));
     EXPECT_EQ(QByteArray("15/11/2026 14:03:22 : late\r\n"), bytesOf(day));
-    EXPECT_EQ(QByteArray("16/11/2026 00:00:00 : early\r\n"), bytesOf(path("program/Logs/16-11-2026.txt")));
+    EXPECT_EQ(QByteArray("05/01/2027 00:00:00 : early\r\n"), bytesOf(path("program/Logs/05-01-2027.txt")));
 }
 
 TEST_F(Log, AnEntryCanHoldLineBreaks)
@@ -108,10 +108,10 @@ TEST_F(Log, ReadingAndWritingADocumentIsLoggedInPairs)
     ReadTextDocument(claim, true);
     const QString stamp = QStringLiteral("15/11/2026 14:03:22 : ");
     EXPECT_EQ(stamp + QStringLiteral("Begin Write Text Document - ") + claim + QStringLiteral("\r\n") + stamp
-                  + QStringLiteral("End Write Text Document - ") + claim + QStringLiteral("\r\n") + stamp
-                  + QStringLiteral("Begin Read Text Document - ") + claim + QStringLiteral("\r\n") + stamp
-                  + QStringLiteral("End Read Text Document - ") + claim + QStringLiteral("\r\n"),
-              QString::fromUtf8(bytesOf(day)));
+            + QStringLiteral("End Write Text Document - ") + claim + QStringLiteral("\r\n") + stamp
+            + QStringLiteral("Begin Read Text Document - ") + claim + QStringLiteral("\r\n") + stamp
+            + QStringLiteral("End Read Text Document - ") + claim + QStringLiteral("\r\n"),
+        QString::fromUtf8(bytesOf(day)));
     EXPECT_TRUE(user.messages.empty());
 }
 
@@ -149,6 +149,7 @@ TEST_F(Log, StoredSettingsAreLoggedInPairs)
     QByteArray expected;
     for (const char *operation : {"Write", "Read", "Delete"})
         for (const char *moment : {"Begin ", "End "})
-            expected += QByteArray("15/11/2026 14:03:22 : ") + moment + operation + " Reg Key - " + name.toUtf8() + "\r\n";
+            expected
+                += QByteArray("15/11/2026 14:03:22 : ") + moment + operation + " Reg Key - " + name.toUtf8() + "\r\n";
     EXPECT_EQ(expected, bytesOf(day));
 }

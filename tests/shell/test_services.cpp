@@ -49,8 +49,8 @@ TEST(CompareVersions, IgnoresFieldsAfterTheThird)
 
 TEST(CompareVersions, FewerThanThreeFieldsAreASubscriptErrorInEitherText)
 {
-    for (const auto &[file, program] : {std::pair("", "1.1.140"), std::pair("9", "1.1.140"), std::pair("9.9", "1.1.140"),
-                                        std::pair("1.1.140", "9.9"), std::pair("0", "9.9.9")})
+    for (const auto &[file, program] : {std::pair("", "1.1.140"), std::pair("9", "1.1.140"),
+             std::pair("9.9", "1.1.140"), std::pair("1.1.140", "9.9"), std::pair("0", "9.9.9")})
         EXPECT_EQ(9, errorOf([&] { compared(file, program); })) << file;
 }
 
@@ -71,9 +71,10 @@ TEST(GetVersionInfo, IsThreeNumbersWithoutLeadingZeros)
 
 TEST(GetResourceData, HoldsEveryTemplate)
 {
-    for (const char *name : {"xmlZR3Form", "xmlZR3FeeEarnerGroup", "xmlZR3FeeEarner", "xmlZR3Counsel", "xmlZR3Enhancement",
-                             "xmlZR3Disbursement", "xmlZR3ScheduleOfTimeItem", "xmlZR3ExpertInvoice", "xmlZR3FASItem",
-                             "xmlZR3JointInstruction", "xmlZR3PreferencesDatabase", "xmlZR3Replacement", "xmlZR3RateSet"}) {
+    for (const char *name :
+        {"xmlZR3Form", "xmlZR3FeeEarnerGroup", "xmlZR3FeeEarner", "xmlZR3Counsel", "xmlZR3Enhancement",
+            "xmlZR3Disbursement", "xmlZR3ScheduleOfTimeItem", "xmlZR3ExpertInvoice", "xmlZR3FASItem",
+            "xmlZR3JointInstruction", "xmlZR3PreferencesDatabase", "xmlZR3Replacement", "xmlZR3RateSet"}) {
         const QString text = GetResourceData(QString::fromUtf8(name), QStringLiteral("VELMORZR3XML"));
         EXPECT_TRUE(text.startsWith(u'<')) << name;
         EXPECT_TRUE(text.trimmed().endsWith(u'>')) << name;
@@ -130,20 +131,21 @@ TEST_F(Services, ASoundIsPlayedOnlyWhenSoundIsOn)
     EXPECT_TRUE(user.sounds.isEmpty()) << "switched off";
     on = true;
     PlayWav(alert);
-    EXPECT_EQ(QStringList {path("program/Sounds/Alert.wav")}, user.sounds);
+    EXPECT_EQ(QStringList{path("program/Sounds/Alert.wav")}, user.sounds);
     EXPECT_TRUE(user.messages.empty());
 }
 
 TEST_F(Services, ADocumentIsOpenedByTheDesktop)
 {
     EXPECT_TRUE(ShellOpen(QStringLiteral("mailto:someone@velmor.example")));
-    EXPECT_EQ(QStringList {QStringLiteral("mailto:someone@velmor.example")}, user.opened);
+    EXPECT_EQ(QStringList{QStringLiteral("mailto:someone@velmor.example")}, user.opened);
 }
 
 TEST_F(Services, TheProgramFolderIsThatOfTheRunningProgram)
 {
     SetProgramFolder(QString());
-    EXPECT_TRUE(QFileInfo(ProgramFolder() + QStringLiteral("/shell_test")).isExecutable()) << qPrintable(ProgramFolder());
+    EXPECT_TRUE(QFileInfo(ProgramFolder() + QStringLiteral("/shell_test")).isExecutable())
+        << qPrintable(ProgramFolder());
     EXPECT_EQ(ProgramFolder() + QStringLiteral("/Templates"), TemplatesFolder());
     EXPECT_EQ(ProgramFolder() + QStringLiteral("/Logs"), LogsFolder());
     EXPECT_EQ(ProgramFolder() + QStringLiteral("/Sounds"), SoundsFolder());

@@ -49,8 +49,8 @@ TEST_F(Registry, AMissingValueReadsAsEmptyWithoutABox)
 
 TEST_F(Registry, AValueIsStoredForTheUserAndComesBack)
 {
-    for (const char *value : {"/srv/claims", "/srv/with blank/and, comma", "/srv/\u00e9\u20ac\u4e2d", "/srv/a=b;c#d%20\"e\"", "C:\\Velmor\\Databases",
-                              "@odd", " blanks around ", ""}) {
+    for (const char *value : {"/srv/claims", "/srv/with blank/and, comma", "/srv/\u00e9\u20ac\u4e2d",
+             "/srv/a=b;c#d%20\"e\"", "C:\\Velmor\\Databases", "@odd", " blanks around ", ""}) {
         WriteRegKey(Name, QString::fromUtf8(value));
         EXPECT_EQ(QString::fromUtf8(value), ReadRegKey(Name));
     }
@@ -171,8 +171,8 @@ TEST_F(DatabasePath, WithoutTheFolderTheProgramEnds)
     }
     EXPECT_EQ(1, status);
     expectOneBox("Folder Error",
-                 QStringLiteral("The folder ") + path("program/Databases")
-                     + QStringLiteral(" does not exist. Please contact your system administrator"));
+        QStringLiteral("The folder ") + path("program/Databases")
+            + QStringLiteral(" does not exist. Please contact your system administrator"));
     EXPECT_EQ(QString(), ReadRegKey(Name)) << "nothing is stored";
 }
 
@@ -182,8 +182,8 @@ TEST_F(DatabasePath, AStoredPathWhoseFolderIsGoneEndsTheProgramToo)
     SetDatabasePath(path("gone"));
     EXPECT_THROW(GetDatabasePath(), clsProgramEnd);
     expectOneBox("Folder Error",
-                 QStringLiteral("The folder ") + path("gone")
-                     + QStringLiteral(" does not exist. Please contact your system administrator"));
+        QStringLiteral("The folder ") + path("gone")
+            + QStringLiteral(" does not exist. Please contact your system administrator"));
 }
 
 TEST_F(DatabasePath, ATrailingSlashOrBackslashIsStrippedAndStoredSo)
@@ -216,9 +216,10 @@ TEST_F(DatabasePath, ResetAsksAndNoChangesNothing)
     EXPECT_EQ(path("own"), ReadRegKey(Name));
     ASSERT_EQ(1u, user.messages.size());
     EXPECT_EQ(QStringLiteral("Reset"), user.messages[0].title);
-    EXPECT_EQ(QStringLiteral("This function will reset the database path to the standard setting. Are you sure you wish to "
-                             "continue?"),
-              user.messages[0].text);
+    EXPECT_EQ(
+        QStringLiteral("This function will reset the database path to the standard setting. Are you sure you wish to "
+                       "continue?"),
+        user.messages[0].text);
     EXPECT_EQ(clsUserInterface::YesNo, user.messages[0].buttons);
     EXPECT_TRUE(user.messages[0].system);
 }
@@ -238,7 +239,7 @@ TEST_F(DatabasePath, AChosenFolderIsStoredWithoutATest)
     user.folders = {path("chosen")};
     SelectDatabasePath();
     EXPECT_EQ(path("chosen"), ReadRegKey(Name));
-    EXPECT_EQ(QStringList {QStringLiteral("Please select a valid database folder")}, user.prompts);
+    EXPECT_EQ(QStringList{QStringLiteral("Please select a valid database folder")}, user.prompts);
     EXPECT_TRUE(user.messages.empty());
 }
 
@@ -259,9 +260,9 @@ TEST_F(DatabasePath, FreshDatabasesAreTheTemplateWordForWord)
     user.folders = {path("chosen")};
     CreateDatabases();
     EXPECT_EQ(GetResourceData(QStringLiteral("xmlZR3PreferencesDatabase"), QStringLiteral("VELMORZR3XML")),
-              QString::fromLatin1(bytesOf(path("chosen/Preferences Database.vzp"))));
+        QString::fromLatin1(bytesOf(path("chosen/Preferences Database.vzp"))));
     EXPECT_EQ(path("chosen"), ReadRegKey(Name));
-    EXPECT_EQ(QStringList {QStringLiteral("Please select or create a database folder")}, user.prompts);
+    EXPECT_EQ(QStringList{QStringLiteral("Please select or create a database folder")}, user.prompts);
     ASSERT_EQ(1u, user.messages.size());
     EXPECT_EQ(QStringLiteral("Databases"), user.messages[0].title);
     EXPECT_EQ(QStringLiteral("The databases have been created successfully"), user.messages[0].text);

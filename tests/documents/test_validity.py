@@ -1,0 +1,83 @@
+#!/usr/bin/env python3
+"""Every template and every finished document is valid for every office version that the validator knows."""
+
+import json
+import os
+import shutil
+import subprocess
+import sys
+import unittest
+import zipfile
+from concurrent.futures import ThreadPoolExecutor
+from pathlib import Path
+
+import claims
+import support
+
+SCRIPT = Path(__file__).with_name("validate_documents.mjs")
+VERSIONS = 7
+WORK = None
+
+
+def setUpModule():
+    global WORK
+    validator = os.environ.get("ZR3_VALIDATOR")
+    if not validator or not Path(validator).exists():
+        raise unittest.SkipTest(os.environ.get("ZR3_VALIDATOR_MISSING", "there is no document validator here"))
+    support.need("node")
+    WORK = support.work_folder()
+
+
+def findings(files):
+    """What the validator says of each file: lines such as "Office2007: word/document.xml: ..."."""
+
+    def run(some):
+        return subprocess.run(["node", str(SCRIPT), os.environ["ZR3_VALIDATOR"], *map(str, some)], check=True,
+                              stdout=subprocess.PIPE, text=True).stdout.splitlines()
+
+    halves = [half for half in (files[::2], files[1::2]) if half]
+    found = {str(file): [] for file in files}
+    versions = {str(file): set() for file in files}
+    with ThreadPoolExecutor(2) as pool:
+        for line in [line for lines in pool.map(run, halves) for line in lines]:
+            entry = json.loads(line)
+            versions[entry["file"]].add(entry["version"])
+            found[entry["file"]] += [f"{entry['version']}: {finding['part']}: {finding['description']} {finding['path']}"
+                                     for finding in entry["findings"]]
+    for file, seen in versions.items():
+        assert len(seen) == VERSIONS, f"{file} was looked at for {sorted(seen)} only"
+    return found
+
+
+class Validity(unittest.TestCase):
+    maxDiff = None
+
+    def check(self, files):
+        for file, problems in findings(files).items():
+            with self.subTest(file=Path(file).stem if Path(file).stem != "Claim1" else Path(file).parent.name):
+                self.assertEqual(problems[:10], [])
+
+    def test_a_broken_document_is_found_out(self):
+        """Else the other tests would prove nothing."""
+        broken = WORK / "broken.doc"
+        with zipfile.ZipFile(support.TEMPLATES / "Claim1 P9.doc") as package, zipfile.ZipFile(broken, "w") as out:
+            for name in package.namelist():
+                data = package.read(name)
+                if name == "word/document.xml":
+                    data = data.replace(b"<w:tblGrid>", b"<w:noSuchThing/><w:tblGrid>", 1)
+                    self.assertIn(b"noSuchThing", data)
+                out.writestr(name, data)
+        self.assertNotEqual(findings([broken])[str(broken)], [])
+
+    def test_templates(self):
+        self.check(support.templates())
+
+    def test_finished_documents(self):
+        documents = [support.export(support.SAMPLES / f"{name}.zr3", WORK / name) for name in support.CLAIM1_SAMPLES]
+        for name, made in (("full", claims.full(claims.Words())), ("over", claims.over(claims.Words()))):
+            documents.append(support.export(made.write(WORK / f"{name}.zr3"), WORK / name))
+        self.check(documents)
+
+
+if __name__ == "__main__":
+    support.main()

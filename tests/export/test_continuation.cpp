@@ -1,0 +1,231 @@
+#include "tests/export/clsExportTest.h"
+
+// Long texts: what stays on the page, what goes to continuation sheets, and how they refer to each other.
+
+namespace {
+
+const QString Mark = QStringLiteral("{or}");
+
+struct LongField {
+    int page;
+    const char *placeholder;
+    void (*set)(clsZR3Form &form, const QString &text);
+    int limit;
+    int cutLength;
+    const char *continuationTemplate;
+    /// The marks that the page's own sheet gets when the text stays there and when it overruns.
+    const char *markWithout = " ";
+    const char *markWith = "(1)";
+};
+
+void PrintTo(const LongField &field, std::ostream *out)
+{
+    *out << field.placeholder;
+}
+
+const LongField LongFields[] = {
+    {2, "{explanation}", [](clsZR3Form &form, const QString &text) { form.LateSubmission.Explanation = text; }, 400, 3000,
+     "Claim1 P2 Late Submission Cont"},
+    {3, "{detailsofcase}", [](clsZR3Form &form, const QString &text) { form.DetailsOfWork.DetailsOfCase = text; }, 770, 2750,
+     "Claim1 P3 Case Details Cont"},
+    {3, "{detailsofenhancement}",
+     [](clsZR3Form &form, const QString &text) { form.DetailsOfWork.DetailsOfEnhancement = text; }, 710, 2620,
+     "Claim1 P3 Enhancement Cont"},
+    {6, "{expertsmeetmojstandardreasons}",
+     [](clsZR3Form &form, const QString &text) { form.ExpertsMeetMOJStandardReasons = text; }, 100, 2750,
+     "Claim1 P6 Expert Dibs Standards Cont",
+     // This page is marked by its notes and again after its grid, both of which come before the text.
+     " | ", " | "},
+};
+
+class Continuation : public clsExportTest {
+protected:
+    static QString sheet(int page, int number) { return QStringLiteral("%1(%2)").arg(page).arg(number); }
+    QStringList on(const QString &name, const char *placeholder) const
+    {
+        return recorder->replacements(name, QString::fromLatin1(placeholder));
+    }
+    QString mark(const QString &name) const { return recorder->replacements(name, Mark).join(u'|'); }
+};
+
+class EachLongField : public Continuation, public testing::WithParamInterface<LongField> {
+protected:
+    void exportWith(const QString &text)
+    {
+        includeOnly({1, GetParam().page});
+        GetParam().set(form, text);
+        ASSERT_TRUE(exportClaim());
+    }
+    QString first() const { return sheet(GetParam().page, 1); }
+    QString further(int number) const { return sheet(GetParam().page, number); }
+    QStringList texts(const QString &name) const { return on(name, GetParam().placeholder); }
+};
+
+TEST_P(EachLongField, OfTheLimitsLengthStaysOnThePage)
+{
+    const QString text = words(GetParam().limit);
+    ASSERT_EQ(GetParam().limit, text.size());
+    exportWith(text);
+    EXPECT_EQ(2, run->ExportFileCollection.size());
+    EXPECT_EQ(QStringList {text}, texts(first()));
+    EXPECT_EQ(QString::fromLatin1(GetParam().markWithout), mark(first()));
+}
+
+TEST_P(EachLongField, OfOneMoreGoesWholeToASheet)
+{
+    const QString text = words(GetParam().limit + 1);
+    exportWith(text);
+    EXPECT_EQ(3, run->ExportFileCollection.size());
+    EXPECT_EQ(QStringList {QStringLiteral("See Page %1 (2)").arg(GetParam().page)}, texts(first()));
+    EXPECT_EQ(QString::fromLatin1(GetParam().markWith), mark(first()));
+    EXPECT_EQ(QString::fromLatin1(GetParam().continuationTemplate), recorder->templateOf(further(2)));
+    const QStringList lines = {
+        QStringLiteral("open"),
+        QStringLiteral("replace %1 %2").arg(QString::fromLatin1(GetParam().placeholder), text),
+        QStringLiteral("replace {or} (2)"),
+    };
+    EXPECT_EQ(lines, recorder->linesOf(further(2)));
+}
+
+TEST_P(EachLongField, JustShortOfTheCutLengthFillsOneSheet)
+{
+    // With the blank after its last word it is as long as the cut length, which is not longer.
+    const QString text = words(GetParam().cutLength - 1);
+    exportWith(text);
+    EXPECT_EQ(3, run->ExportFileCollection.size());
+    EXPECT_EQ(QStringList {text}, texts(further(2)));
+}
+
+TEST_P(EachLongField, WhoseLastWordTipsTheCutLengthLeavesAnEmptyLastSheet)
+{
+    const QString text = words(GetParam().cutLength);
+    exportWith(text);
+    EXPECT_EQ(4, run->ExportFileCollection.size());
+    EXPECT_EQ(QStringList {text}, texts(further(2)));
+    EXPECT_EQ(QStringList {QStringLiteral(" ")}, texts(further(3)));
+    EXPECT_EQ(QStringLiteral("(3)"), mark(further(3)));
+    EXPECT_EQ(QStringList {QStringLiteral("See Page %1 (2)").arg(GetParam().page)}, texts(first()));
+}
+
+TEST_P(EachLongField, WithoutBlanksIsOnePieceOfItsWholeLength)
+{
+    const QString text(GetParam().cutLength + 500, u'x');
+    exportWith(text);
+    EXPECT_EQ(QStringList {text}, texts(further(2)));
+    // It is the word that tips the line, so that an empty last piece follows it.
+    EXPECT_EQ(QStringList {QStringLiteral(" ")}, texts(further(3)));
+    EXPECT_EQ(4, run->ExportFileCollection.size());
+}
+
+TEST_P(EachLongField, OverrunsItsSheetByUpToOneWord)
+{
+    // Every word and its blank take ten characters, so that the cut comes after the first word beyond the cut length.
+    const int words = GetParam().cutLength / 10 + 1;
+    const QString full = QStringLiteral("ninechars ").repeated(words).trimmed();
+    exportWith(full + QStringLiteral(" tail"));
+    EXPECT_EQ(QStringList {full}, texts(further(2)));
+    EXPECT_EQ(QStringList {QStringLiteral("tail")}, texts(further(3)));
+    EXPECT_EQ(4, run->ExportFileCollection.size());
+}
+
+TEST_P(EachLongField, KeepsRunsOfBlanksInsideAPiece)
+{
+    exportWith(QStringLiteral("  two   blanks ") + QString(GetParam().limit, u'x'));
+    EXPECT_EQ(QStringList {QStringLiteral("two   blanks ") + QString(GetParam().limit, u'x')}, texts(further(2)));
+}
+
+TEST_P(EachLongField, KeepsItsLineEndsWhichAreNoPlaceToCut)
+{
+    const QString body(GetParam().limit, u'x');
+    exportWith(QStringLiteral("one\r\ntwo ") + body);
+    EXPECT_EQ(QStringList {QStringLiteral("one\u000Btwo ") + body}, texts(further(2)));
+    // Two characters each count for the limit too.
+    exportWith(QString(GetParam().limit - 2, u'x') + QStringLiteral("\r\n"));
+    EXPECT_EQ(QStringList {QString(GetParam().limit - 2, u'x') + QStringLiteral("\u000B")}, texts(first()));
+    exportWith(QString(GetParam().limit - 1, u'x') + QStringLiteral("\r\n"));
+    EXPECT_EQ(QStringList {QStringLiteral("See Page %1 (2)").arg(GetParam().page)}, texts(first()));
+}
+
+INSTANTIATE_TEST_SUITE_P(, EachLongField, testing::ValuesIn(LongFields), [](const auto &field) {
+    return QString::fromLatin1(field.param.placeholder).remove(u'{').remove(u'}').toStdString();
+});
+
+TEST_F(Continuation, TheSecondLongTextOfAPageRefersToItsOwnFirstSheet)
+{
+    includeOnly({1, 3});
+    form.DetailsOfWork.DetailsOfCase = words(4000);
+    form.DetailsOfWork.DetailsOfEnhancement = words(711);
+    ASSERT_TRUE(exportClaim());
+    const QStringList order = {QStringLiteral("1(1)"), QStringLiteral("3(1)"), QStringLiteral("3(2)"),
+                               QStringLiteral("3(3)"), QStringLiteral("3(4)")};
+    EXPECT_EQ(order, recorder->order());
+    EXPECT_EQ(QStringList {QStringLiteral("See Page 3 (2)")}, on(sheet(3, 1), "{detailsofcase}"));
+    EXPECT_EQ(QStringList {QStringLiteral("See Page 3 (4)")}, on(sheet(3, 1), "{detailsofenhancement}"));
+    EXPECT_EQ(QStringLiteral("Claim1 P3 Enhancement Cont"), recorder->templateOf(sheet(3, 4)));
+    EXPECT_EQ(QStringLiteral("(4)"), mark(sheet(3, 4)));
+}
+
+TEST_F(Continuation, ThePanelSheetHoldsFixedTextAndNothingRefersToIt)
+{
+    includeOnly({1, 3});
+    form.IncludePanelMembershipContSheet = true;
+    form.DetailsOfWork.DetailsOfCase = QStringLiteral("Short");
+    ASSERT_TRUE(exportClaim());
+    const QStringList order = {QStringLiteral("1(1)"), QStringLiteral("3(1)"), QStringLiteral("3(2)")};
+    EXPECT_EQ(order, recorder->order());
+    EXPECT_EQ(QStringLiteral("Claim1 P3 Panel Membership Cont"), recorder->templateOf(sheet(3, 2)));
+    const QStringList panel = {QStringLiteral("open"), QStringLiteral("replace {or} (2)")};
+    EXPECT_EQ(panel, recorder->linesOf(sheet(3, 2)));
+    const QStringList page = {QStringLiteral("open"), QStringLiteral("replace {detailsofcase} Short"),
+                              QStringLiteral("replace {detailsofenhancement}  "), QStringLiteral("replace {or} (1)")};
+    EXPECT_EQ(page, recorder->linesOf(sheet(3, 1)));
+}
+
+TEST_F(Continuation, NoPanelSheetWithoutPage3)
+{
+    includeOnly({1, 2});
+    form.IncludePanelMembershipContSheet = true;
+    ASSERT_TRUE(exportClaim());
+    EXPECT_EQ(2, run->ExportFileCollection.size());
+}
+
+TEST_F(Continuation, SheetsFollowTheirPageInTheOrderInWhichTheyWereMade)
+{
+    includeOnly({1, 3, 4});
+    form.DetailsOfWork.DetailsOfCase = words(4000);
+    form.DetailsOfWork.DetailsOfEnhancement = words(4000);
+    form.IncludePanelMembershipContSheet = true;
+    ASSERT_TRUE(exportClaim());
+    const QStringList order = {QStringLiteral("1(1)"), QStringLiteral("3(1)"), QStringLiteral("3(2)"),
+                               QStringLiteral("3(3)"), QStringLiteral("3(4)"), QStringLiteral("3(5)"),
+                               QStringLiteral("3(6)"), QStringLiteral("4(1)")};
+    EXPECT_EQ(order, recorder->order());
+    const QStringList templatesInOrder = {
+        QStringLiteral("Claim1 P1"),
+        QStringLiteral("Claim1 P3"),
+        QStringLiteral("Claim1 P3 Case Details Cont"),
+        QStringLiteral("Claim1 P3 Case Details Cont"),
+        QStringLiteral("Claim1 P3 Enhancement Cont"),
+        QStringLiteral("Claim1 P3 Enhancement Cont"),
+        QStringLiteral("Claim1 P3 Panel Membership Cont"),
+        QStringLiteral("Claim1 P4"),
+    };
+    QStringList found;
+    for (const QString &name : order)
+        found << recorder->templateOf(name);
+    EXPECT_EQ(templatesInOrder, found);
+    QStringList joined;
+    for (const QString &name : order)
+        joined << name + QStringLiteral(".doc");
+    EXPECT_EQ(joined, recorder->combinedOrder());
+}
+
+TEST_F(Continuation, ATextOfZeroNeverPrints)
+{
+    includeOnly({1, 3});
+    form.DetailsOfWork.DetailsOfCase = QStringLiteral("0");
+    ASSERT_TRUE(exportClaim());
+    EXPECT_EQ(QStringList {QStringLiteral(" ")}, on(sheet(3, 1), "{detailsofcase}"));
+}
+
+} // namespace

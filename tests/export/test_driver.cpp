@@ -1,0 +1,378 @@
+#include "tests/export/clsExportTest.h"
+#include "tests/export/mdDocumentText.h"
+
+#include <QDate>
+
+// The driver of an export: which pages are printed, what is told on the way, and what a failure leaves behind.
+
+namespace {
+
+class Driver : public clsExportTest {
+protected:
+    /// "Exporting Page 1 1/11": the steps told to the user.
+    QStringList steps() const
+    {
+        QStringList lines;
+        for (const auto &step : user.progress)
+            lines << QStringLiteral("%1 %2/%3").arg(step.text).arg(step.value).arg(step.maximum);
+        return lines;
+    }
+    void switchLogOn()
+    {
+        QDir(folder.path()).mkpath(QStringLiteral("program/Logs"));
+        SetProgramFolder(path(QStringLiteral("program")));
+        put(LogPath(), {});
+        SetLogSwitch([] { return true; });
+    }
+    /// The log without its dates and times.
+    QStringList logLines() const
+    {
+        QStringList lines;
+        for (const QString &line : QString::fromLatin1(bytesOf(LogPath())).split(QStringLiteral("\r\n"), Qt::SkipEmptyParts))
+            lines << line.section(QStringLiteral(" : "), 1);
+        return lines;
+    }
+    /// A folder with all templates, to be spoilt.
+    void copyTemplates()
+    {
+        templates = path(QStringLiteral("templates"));
+        ASSERT_TRUE(QDir().mkpath(templates));
+        for (const QString &file : QDir(TestTemplates).entryList({QStringLiteral("*.doc")}))
+            ASSERT_TRUE(QFile::copy(TestTemplates + u'/' + file, templates + u'/' + file));
+    }
+    static QByteArray mainPartOf(const QString &file)
+    {
+        clsWordPackage package = clsWordPackage::fromFile(file);
+        return package.currentBytes(package.mainPart());
+    }
+};
+
+const QStringList FirstSheets = {
+    QStringLiteral("1(1)"), QStringLiteral("2(1)"), QStringLiteral("3(1)"), QStringLiteral("4(1)"), QStringLiteral("5(1)"),
+    QStringLiteral("6(1)"), QStringLiteral("7(1)"), QStringLiteral("8(1)"), QStringLiteral("9(1)"), QStringLiteral("10(1)"),
+};
+
+TEST_F(Driver, AnEmptyClaimGivesOneSheetForEachPage)
+{
+    EXPECT_TRUE(exportClaim());
+    EXPECT_EQ(FirstSheets, recorder->order());
+    EXPECT_EQ(finished(), mdFinishedDocumentPath(form));
+    EXPECT_TRUE(QFileInfo::exists(finished()));
+    EXPECT_EQ(1, user.progressCleared);
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(Driver, OnlyPage1Included)
+{
+    includeOnly({1});
+    keepsSheets = true;
+    EXPECT_TRUE(exportClaim());
+    EXPECT_EQ(QStringList {QStringLiteral("1(1)")}, recorder->order());
+    EXPECT_EQ(QStringList {QStringLiteral("1(1).doc")}, recorder->combinedOrder());
+    // The backspace at the document's start changes nothing.
+    EXPECT_EQ(1, recorder->backSpaces);
+    EXPECT_EQ(mainPartOf(temporary() + QStringLiteral("/1(1).doc")), mainPartOf(finished()));
+}
+
+TEST_F(Driver, EachPageCanBeLeftOut)
+{
+    for (int left = 2; left <= 10; ++left) {
+        includeOnly({1, 2, 3, 4, 5, 6, 7, 8, 9, 10});
+        form.field(QStringLiteral("IncludePage%1").arg(left))->writeBoolean(false);
+        EXPECT_TRUE(exportClaim());
+        QStringList expected = FirstSheets;
+        expected.removeAt(left - 1);
+        EXPECT_EQ(expected, recorder->order()) << left;
+    }
+}
+
+TEST_F(Driver, PagesBeyondTheTenthMakeNoDifference)
+{
+    includeOnly({1, 2, 3, 4, 5, 6, 7, 8, 9, 10});
+    EXPECT_TRUE(exportClaim());
+    EXPECT_EQ(FirstSheets, recorder->order());
+}
+
+TEST_F(Driver, ProgressCountsToElevenWhetherOrNotAPageIsIncluded)
+{
+    includeOnly({1, 4});
+    addFees(2);
+    addItem(QStringLiteral("Not printed: its pages are left out"));
+    EXPECT_TRUE(exportClaim());
+    const QStringList expected = {
+        QStringLiteral("Exporting Page 1 1/11"), QStringLiteral("Exporting Page 2 2/11"),
+        QStringLiteral("Exporting Page 3 3/11"), QStringLiteral("Exporting Page 4 4/11"),
+        QStringLiteral("Exporting Page 4 1/2"),  QStringLiteral("Exporting Page 4 2/2"),
+        QStringLiteral("Exporting Page 5 5/11"), QStringLiteral("Exporting Page 6 6/11"),
+        QStringLiteral("Exporting Page 7 7/11"), QStringLiteral("Exporting Page 8 8/11"),
+        QStringLiteral("Exporting Page 9 9/11"), QStringLiteral("Exporting Page 10 10/11"),
+        QStringLiteral("Combining Documents 2/2"),
+    };
+    EXPECT_EQ(expected, steps());
+    EXPECT_EQ(1, user.progressCleared);
+}
+
+TEST_F(Driver, ProgressOfRowsAndContinuationSheets)
+{
+    includeOnly({1, 3, 5, 7});
+    form.DetailsOfWork.DetailsOfCase = words(3000);
+    addItems(2);
+    addJointInstructions(1);
+    addDisbursements(2);
+    EXPECT_TRUE(exportClaim());
+    const QStringList expected = {
+        QStringLiteral("Exporting Page 1 1/11"),
+        QStringLiteral("Exporting Page 2 2/11"),
+        QStringLiteral("Exporting Page 3 3/11"),
+        QStringLiteral("Exporting Page 3 Continuation Sheet 2 1/2"),
+        QStringLiteral("Exporting Page 3 Continuation Sheet 3 2/2"),
+        QStringLiteral("Exporting Page 4 4/11"),
+        QStringLiteral("Exporting Page 5 5/11"),
+        QStringLiteral("Exporting Page 5 1/2"),
+        QStringLiteral("Exporting Page 5 2/2"),
+        QStringLiteral("Exporting Page 6 6/11"),
+        QStringLiteral("Exporting Page 7 7/11"),
+        QStringLiteral("Exporting Page 7 1/1"),
+        QStringLiteral("Exporting Page 7 1/2"),
+        QStringLiteral("Exporting Page 7 2/2"),
+        QStringLiteral("Exporting Page 8 8/11"),
+        QStringLiteral("Exporting Page 9 9/11"),
+        QStringLiteral("Exporting Page 10 10/11"),
+        QStringLiteral("Combining Documents 2/6"),
+        QStringLiteral("Combining Documents 3/6"),
+        QStringLiteral("Combining Documents 4/6"),
+        QStringLiteral("Combining Documents 5/6"),
+        QStringLiteral("Combining Documents 6/6"),
+    };
+    EXPECT_EQ(expected, steps());
+}
+
+TEST_F(Driver, LogsEachStep)
+{
+    switchLogOn();
+    includeOnly({1, 3});
+    form.IncludePanelMembershipContSheet = true;
+    EXPECT_TRUE(exportClaim());
+    const QStringList expected = {
+        QStringLiteral("Begin Export Word Claim1"),
+        QStringLiteral("Begin Create Export Temp Folder"),
+        QStringLiteral("Begin Clear Export Temp Folder"),
+        QStringLiteral("End Clear Export Temp Folder"),
+        QStringLiteral("End Create Export Temp Folder"),
+        QStringLiteral("Begin Export Word Claim1 Page 1"),
+        QStringLiteral("Begin Export Copy Template"),
+        QStringLiteral("End Export Copy Template"),
+        QStringLiteral("End Export Word Claim1 Page 1"),
+        // A page that is left out has no end line.
+        QStringLiteral("Begin Export Word Claim1 Page 2"),
+        QStringLiteral("Begin Export Word Claim1 Page 3"),
+        QStringLiteral("Begin Export Copy Template"),
+        QStringLiteral("End Export Copy Template"),
+        QStringLiteral("Begin Export Word Panel Membership Overrun"),
+        QStringLiteral("Begin Export Copy Template"),
+        QStringLiteral("End Export Copy Template"),
+        // The panel sheet ends with its page's line, which thus stands twice.
+        QStringLiteral("End Export Word Claim1 Page 3"),
+        QStringLiteral("End Export Word Claim1 Page 3"),
+        QStringLiteral("Begin Export Word Claim1 Page 4"),
+        QStringLiteral("Begin Export Word Claim1 Page 5"),
+        QStringLiteral("Begin Export Word Claim1 Page 6"),
+        QStringLiteral("Begin Export Word Claim1 Page 7"),
+        QStringLiteral("Begin Export Word Claim1 Page 8"),
+        QStringLiteral("Begin Export Word Claim1 Page 9"),
+        QStringLiteral("Begin Export Word Claim1 Page 10"),
+        QStringLiteral("Begin Export Word Combine Documents"),
+        QStringLiteral("End Export Word Combine Documents"),
+        QStringLiteral("Begin Clear Export Temp Folder"),
+        QStringLiteral("End Clear Export Temp Folder"),
+        QStringLiteral("End Export Word Claim1"),
+    };
+    EXPECT_EQ(expected, logLines());
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(Driver, TheListsAreBuiltAnewForEachExport)
+{
+    includeOnly({1, 5});
+    EXPECT_TRUE(exportClaim());
+    EXPECT_EQ(0, recorder->countOf(QStringLiteral("5(1)"), QStringLiteral("cell")));
+    addItems(1);
+    EXPECT_TRUE(exportClaim());
+    EXPECT_EQ(QStringLiteral("1"), recorder->rows(QStringLiteral("5(1)")).value(0).value(0));
+}
+
+TEST_F(Driver, LeftoversInTheTemporaryFolderAreSweptBeforeTheFirstSheet)
+{
+    ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("~ZR3Temp")));
+    put(temporary() + QStringLiteral("/2(1).doc"), "of an export that died");
+    put(temporary() + QStringLiteral("/anything.txt"), "else");
+    includeOnly({1});
+    keepsSheets = true;
+    EXPECT_TRUE(exportClaim());
+    EXPECT_EQ(QStringList {QStringLiteral("1(1).doc")}, QDir(temporary()).entryList(QDir::Files | QDir::Hidden));
+}
+
+TEST_F(Driver, OnlyTheFinishedDocumentIsLeft)
+{
+    EXPECT_TRUE(exportClaim());
+    EXPECT_EQ(QStringList {QStringLiteral("Claim1.doc")},
+              QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+}
+
+TEST_F(Driver, AnOlderDocumentIsReplaced)
+{
+    put(finished(), "the older one");
+    EXPECT_TRUE(exportClaim());
+    EXPECT_TRUE(bytesOf(finished()).startsWith("PK"));
+}
+
+TEST_F(Driver, TheFinishedDocumentIsNamedAfterTheFormType)
+{
+    EXPECT_EQ(path(QStringLiteral("Claim1.doc")), mdFinishedDocumentPath(form));
+    form.FormType = QStringLiteral("Claim1A");
+    EXPECT_EQ(path(QStringLiteral("Claim1A.doc")), mdFinishedDocumentPath(form));
+}
+
+TEST_F(Driver, TheFirstSheetIsTakenForGranted)
+{
+    put(finished(), "as it was");
+    includeOnly({2, 3});
+    EXPECT_EQ(clsRunTimeError::FileNotFound, errorOf([&] { exportClaim(); }));
+    EXPECT_EQ(QByteArray("as it was"), bytesOf(finished()));
+    EXPECT_TRUE(QFileInfo::exists(temporary() + QStringLiteral("/2(1).doc"))) << "the sheets stay behind";
+}
+
+TEST_F(Driver, AMissingTemplateEndsTheExportAndLeavesTheDocumentAsItWas)
+{
+    copyTemplates();
+    ASSERT_TRUE(QFile::remove(templates + QStringLiteral("/Claim1 P3.doc")));
+    put(finished(), "as it was");
+    EXPECT_EQ(clsRunTimeError::FileNotFound, errorOf([&] { exportClaim(); }));
+    EXPECT_EQ(QByteArray("as it was"), bytesOf(finished()));
+    const QStringList left = {QStringLiteral("1(1).doc"), QStringLiteral("2(1).doc")};
+    EXPECT_EQ(left, QDir(temporary()).entryList(QDir::Files | QDir::Hidden)) << "the temporary folder stays behind";
+
+    // The next export clears it.
+    templates = TestTemplates;
+    EXPECT_TRUE(exportClaim());
+    EXPECT_FALSE(QFileInfo::exists(temporary()));
+    EXPECT_TRUE(bytesOf(finished()).startsWith("PK"));
+}
+
+TEST_F(Driver, ATemplateThatIsNotNeededMayBeMissing)
+{
+    copyTemplates();
+    ASSERT_TRUE(QFile::remove(templates + QStringLiteral("/Claim1 P3 Panel Membership Cont.doc")));
+    EXPECT_TRUE(exportClaim());
+    form.IncludePanelMembershipContSheet = true;
+    EXPECT_EQ(clsRunTimeError::FileNotFound, errorOf([&] { exportClaim(); }));
+}
+
+TEST_F(Driver, ADamagedTemplateEndsTheExportAndLeavesTheDocumentAsItWas)
+{
+    copyTemplates();
+    put(finished(), "as it was");
+    put(templates + QStringLiteral("/Claim1 P4.doc"), "no document");
+    EXPECT_NE(0, errorOf([&] { exportClaim(); }));
+    EXPECT_EQ(QByteArray("as it was"), bytesOf(finished()));
+}
+
+TEST_F(Driver, ATemporaryFolderThatCannotBeMadeEndsTheExport)
+{
+    put(temporary(), "a file in the way");
+    EXPECT_EQ(clsRunTimeError::PathFileAccess, errorOf([&] { exportClaim(); }));
+    EXPECT_EQ(QByteArray("a file in the way"), bytesOf(temporary()));
+    EXPECT_FALSE(QFileInfo::exists(finished()));
+
+    form.ExportPath = path(QStringLiteral("no such folder"));
+    EXPECT_NE(0, errorOf([&] { exportClaim(); }));
+}
+
+TEST_F(Driver, NobodyElsesFilesAreSwept)
+{
+    ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("letters")));
+    put(path(QStringLiteral("letters/dear.txt")), "sir");
+    ASSERT_TRUE(QFile::link(path(QStringLiteral("letters")), temporary()));
+    EXPECT_NE(0, errorOf([&] { exportClaim(); }));
+    EXPECT_EQ(QByteArray("sir"), bytesOf(path(QStringLiteral("letters/dear.txt"))));
+}
+
+TEST_F(Driver, AFolderUnderTheFinishedNameIsAnErrorAndStays)
+{
+    ASSERT_TRUE(QDir().mkpath(finished()));
+    includeOnly({1});
+    EXPECT_NE(0, errorOf([&] { exportClaim(); }));
+    EXPECT_TRUE(QFileInfo(finished()).isDir());
+}
+
+TEST_F(Driver, AFailureOnAPageIsToldOnceAndTheExportGoesOn)
+{
+    includeOnly({1, 9});
+    form.PreviousAdvice.TotalCostsIncurred = QStringLiteral("about ten pounds");
+    form.DetailsOfCostsAwarded.PreCertificateCosts = QStringLiteral("first of its page");
+    form.DetailsOfCostsAwarded.InterestOnAllCosts = QStringLiteral("second of its page: not told");
+    EXPECT_TRUE(exportClaim());
+
+    ASSERT_EQ(2u, user.messages.size()) << "one for each page's word processor";
+    EXPECT_EQ(QStringLiteral("Word Automation Error"), user.messages[0].title);
+    EXPECT_EQ(QStringLiteral("An error has occured during Word automation. If the problem persists please contact Velmor "
+                             "technical support via stating the following details:\r\n"
+                             "\r\n"
+                             "Error Number: 13\r\n"
+                             "Error Description: Type mismatch\r\n"
+                             "Subroutine: SetText"),
+              user.messages[0].text);
+    EXPECT_EQ(clsUserInterface::OKOnly, user.messages[0].buttons);
+    EXPECT_EQ(0, user.messages[0].icon);
+    // The placeholders stay in the document; all others are gone.
+    const QStringList left = {QStringLiteral("{totalcostsincurred}"), QStringLiteral("{precertcosts}"),
+                              QStringLiteral("{interest}")};
+    EXPECT_EQ(left, mdPlaceholdersIn(finished()));
+}
+
+/// Takes the file of a sheet away when the sheets are being joined.
+class clsSheetThief : public clsMSWordObserver {
+public:
+    explicit clsSheetThief(const QString &sheet)
+        : m_sheet(sheet)
+    {
+    }
+    void opened(const QString &path) override
+    {
+        if (path.endsWith(QLatin1String("Joined.doc")))
+            QFile::remove(m_sheet);
+    }
+
+private:
+    QString m_sheet;
+};
+
+TEST_F(Driver, ALostSheetIsToldAndTheRestIsJoined)
+{
+    includeOnly({1, 8, 9});
+    clsExport lossy {.form = form, .templatesFolder = templates};
+    clsSheetThief thief(temporary() + QStringLiteral("/8(1).doc"));
+    const clsMSWordObserverScope scope(thief);
+    EXPECT_TRUE(mdExportWordClaim1(lossy));
+    ASSERT_EQ(1u, user.messages.size());
+    EXPECT_TRUE(user.messages[0].text.endsWith(QLatin1String("Subroutine: InsertFileAtEnd")))
+        << qPrintable(user.messages[0].text);
+    const QString text = mdDocumentText(finished());
+    EXPECT_TRUE(text.contains(QLatin1String("Costs awarded")));
+    EXPECT_FALSE(text.contains(QLatin1String("Letters and calls")));
+}
+
+TEST_F(Driver, ALostSheetStopsAnExportThatAsksForThat)
+{
+    includeOnly({1, 8, 9});
+    put(finished(), "as it was");
+    clsExport careful {.form = form, .templatesFolder = templates};
+    careful.stopsAtLostSheet = true;
+    clsSheetThief thief(temporary() + QStringLiteral("/8(1).doc"));
+    const clsMSWordObserverScope scope(thief);
+    EXPECT_FALSE(mdExportWordClaim1(careful));
+    EXPECT_EQ(1u, user.messages.size());
+    EXPECT_EQ(QByteArray("as it was"), bytesOf(finished()));
+}
+
+} // namespace

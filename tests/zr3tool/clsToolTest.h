@@ -1,0 +1,121 @@
+#pragma once
+
+#include "formdata/clsZR3Form.h"
+#include "tests/support/clsScriptedUserInterface.h"
+#include "tests/support/mdTestPaths.h"
+#include "tests/support/mdTestPrinting.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+inline QString operator""_q(const char *text, size_t size)
+{
+    return QString::fromUtf8(text, qsizetype(size));
+}
+
+/// What a run of the tool came to.
+struct clsToolResult {
+    int status = -1; ///< -1 where it crashed or did not end
+    QByteArray out;
+    QByteArray err;
+};
+
+/// A test that runs the tool in a folder of its own, without a display and with a configuration of its own.
+class clsToolTest : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(folder.isValid());
+        // Processes are waited for by the library's application object.
+        static int count = 1;
+        static char name[] = "zr3tool_test";
+        static char *arguments[] = {name, nullptr};
+        static QCoreApplication application(count, arguments);
+    }
+
+    clsToolResult run(const QStringList &arguments, const QString &standardOutput = {},
+                      const std::function<void()> &inTheChild = {}) const
+    {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("XDG_CONFIG_HOME"_q, path("config"));
+        environment.insert("XDG_CONFIG_DIRS"_q, path("config"));
+        environment.remove("DISPLAY"_q);
+        environment.remove("WAYLAND_DISPLAY"_q);
+        process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(folder.path());
+        if (!standardOutput.isEmpty())
+            process.setStandardOutputFile(standardOutput);
+        if (inTheChild)
+            process.setChildProcessModifier(inTheChild);
+        process.start(QStringLiteral(ZR3_TOOL), arguments, QIODevice::ReadOnly);
+        constexpr int LongestRun = 120'000;
+        if (!process.waitForFinished(LongestRun) || process.exitStatus() != QProcess::NormalExit)
+            return {-1, process.readAllStandardOutput(), process.readAllStandardError() + process.errorString().toUtf8()};
+        return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+    }
+
+    QString path(const char *name) const { return folder.filePath(QString::fromUtf8(name)); }
+    QString put(const char *name, const QByteArray &bytes) const
+    {
+        QFile file(path(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        EXPECT_EQ(bytes.size(), file.write(bytes));
+        return path(name);
+    }
+    static QByteArray bytesOf(const QString &path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArrayLiteral("(no file)");
+    }
+    /// Writes a claim as a file of the folder.
+    QString putClaim(const clsZR3Form &form, const char *name = "claim.zr3") const
+    {
+        return put(name, form.XMLOutput().toLatin1());
+    }
+    QStringList filesOf(const QString &of) const
+    {
+        return QDir(of).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+    }
+
+    static QStringList sampleNames()
+    {
+        QStringList names;
+        for (const QString &file : QDir(QStringLiteral(ZR3_SAMPLES)).entryList({"*.zr3"_q}, QDir::Files, QDir::Name))
+            names << file.chopped(4);
+        return names;
+    }
+
+    /// A priced claim: a group at 40.00, a fee earner and an item of one hour.
+    static void fill(clsZR3Form &form)
+    {
+        const auto group = form.AddFeeEarnerGroup();
+        group->HourlyRate = "40.00"_q;
+        group->AdvocacyRate = "50.00"_q;
+        group->CallsRate = "4.00"_q;
+        const auto feeEarner = form.AddFeeEarner();
+        feeEarner->GroupUniqueID = group->UniqueID();
+        feeEarner->Reference = "AB"_q;
+        addItem(form, "01:00");
+    }
+    static std::shared_ptr<clsZR3ScheduleOfTimeItem> addItem(clsZR3Form &form, const char *time)
+    {
+        const auto item = form.AddScheduleOfTimeItem();
+        item->FeeEarnerUniqueID = form.FeeEarner(1)->UniqueID();
+        item->TTime = QString::fromLatin1(time);
+        item->Code = "ACT"_q;
+        return item;
+    }
+
+    QTemporaryDir folder;
+};

@@ -1,0 +1,144 @@
+// What is no claim: one message, status 2, and no result.
+
+#include "tests/zr3tool/clsToolTest.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+const QByteArray NoClaim = "Error: There was a problem opening the selected file. Please ensure that the file is a valid ZR3 "
+                           "file and try again\n";
+
+class BadInput : public clsToolTest {
+protected:
+    /// Runs each command on a file that is no claim; each must tell that message and nothing else.
+    void expectRefused(const QString &file, const QByteArray &message)
+    {
+        ASSERT_TRUE(QDir(folder.path()).mkpath("out"_q));
+        for (const QStringList &arguments : {QStringList {"totals"_q, file}, {"check"_q, file}, {"save"_q, file, path("out/new.zr3")},
+                                             {"export"_q, file, path("out")}, {"export"_q, file, path("out"), "--force"_q}}) {
+            const clsToolResult result = run(arguments);
+            EXPECT_EQ(2, result.status) << arguments.join(u' ').toStdString();
+            EXPECT_EQ("", result.out);
+            EXPECT_EQ(message, result.err);
+        }
+        EXPECT_EQ(QStringList(), filesOf(path("out")));
+    }
+
+    static QByteArray notRead(const QString &file, const char *error)
+    {
+        return "File Not Read: There was a problem reading the following path:\n\n" + file.toUtf8()
+            + "\n\nThe error reported is:\n\n" + error + "\n";
+    }
+};
+
+} // namespace
+
+TEST_F(BadInput, AMissingFile)
+{
+    expectRefused(path("missing.zr3"), notRead(path("missing.zr3"), "53 - File not found"));
+}
+
+TEST_F(BadInput, AMissingFolder)
+{
+    const clsToolResult result = run({"totals"_q, path("missing/claim.zr3")});
+    EXPECT_EQ(2, result.status);
+    EXPECT_TRUE(result.err.startsWith("File Not Read: ")) << result.err.constData();
+    EXPECT_EQ(1, result.err.count("File Not Read"));
+}
+
+TEST_F(BadInput, AFolder)
+{
+    expectRefused(folder.path(), notRead(folder.path(), "75 - Path/File access error"));
+}
+
+TEST_F(BadInput, APipeIsNotWaitedFor)
+{
+    ASSERT_EQ(0, mkfifo(QFile::encodeName(path("pipe")).constData(), 0600));
+    const clsToolResult result = run({"totals"_q, path("pipe")});
+    EXPECT_EQ(2, result.status);
+    EXPECT_EQ("", result.out);
+    EXPECT_EQ(1, result.err.count("File Not Read: ")) << result.err.constData();
+}
+
+TEST_F(BadInput, AnUnreadableFile)
+{
+    constexpr uid_t Nobody = 65534;
+    const QString file = putClaim(clsZR3Form());
+    ASSERT_EQ(0, chmod(QFile::encodeName(file).constData(), 0));
+    std::function<void()> asSomebodyElse;
+    if (geteuid() == 0) {
+        // The administrator can read everything: the tool runs as a user who can't.
+        ASSERT_EQ(0, chmod(QFile::encodeName(folder.path()).constData(), 0755));
+        asSomebodyElse = [] {
+            if (setuid(Nobody) != 0)
+                _exit(1);
+        };
+        if (run({"--version"_q}, {}, asSomebodyElse).status != 0)
+            GTEST_SKIP() << "no other user can run the program where it lies";
+    }
+    const clsToolResult result = run({"totals"_q, file}, {}, asSomebodyElse);
+    EXPECT_EQ(2, result.status);
+    EXPECT_EQ("", result.out);
+    EXPECT_EQ(notRead(file, "70 - Permission denied"), result.err);
+}
+
+TEST_F(BadInput, WhatIsNoClaim)
+{
+    QByteArray rubbish;
+    for (int i = 0; i < 100'000; ++i)
+        rubbish += char(i * 7919 % 251);
+    const QByteArray claim = clsZR3Form().XMLOutput().toLatin1();
+    const std::pair<const char *, QByteArray> rows[] = {
+        {"empty.zr3", ""},
+        {"text.zr3", "Dear Sirs,\r\n"},
+        {"root.zr3", "<preferencesdatabase/>"},
+        {"cut.zr3", claim.left(claim.size() * 2 / 3)},
+        {"cut1.zr3", claim.chopped(1)},
+        {"rubbish.zr3", rubbish},
+        {"package.zr3", "PK\x03\x04" + rubbish},
+        {"zeros.zr3", claim + QByteArray(4096, '\0')},
+        {"twice.zr3", claim + claim},
+        {"deep.zr3", "<vzrform>" + QByteArray("<a>").repeated(100'000) + QByteArray("</a>").repeated(100'000) + "</vzrform>"},
+        {"deeper.zr3", QByteArray("<vzrform>").repeated(100'000)},
+    };
+    for (const auto &[name, bytes] : rows) {
+        SCOPED_TRACE(name);
+        expectRefused(put(name, bytes), NoClaim);
+    }
+}
+
+TEST_F(BadInput, TwoHundredMegabytesOfNothing)
+{
+    // A file with a hole: it takes no room on the disk.
+    QFile file(path("large.zr3"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(file.resize(200'000'000));
+    file.close();
+    const clsToolResult result = run({"totals"_q, path("large.zr3")});
+    EXPECT_EQ(2, result.status);
+    EXPECT_EQ("", result.out);
+    EXPECT_EQ(NoClaim, result.err);
+}
+
+TEST_F(BadInput, AClaimWhoseOrderHasAGapEndsItsLoad)
+{
+    const QString file = put("gap.zr3", "<vzrform><disbursements><disbursement><orderid>2</orderid></disbursement>"
+                                        "</disbursements></vzrform>");
+    expectRefused(file, "Run-time error '91': Object variable or With block variable not set\n");
+}
+
+TEST_F(BadInput, ABooleanThatIsNoneEndsALoadThatReadsIt)
+{
+    const QString file = put("boolean.zr3", "<vzrform><disbursements><disbursement><orderid>1</orderid><counsel>perhaps</counsel>"
+                                            "</disbursement></disbursements></vzrform>");
+    expectRefused(file, "Run-time error '13': Type mismatch\n");
+}
+
+TEST_F(BadInput, ANumberBeyondItsRangeEndsALoadThatReadsIt)
+{
+    const QString file = put("number.zr3", "<vzrform><fasitems><fasitem><orderid>99999999999</orderid></fasitem></fasitems>"
+                                           "</vzrform>");
+    expectRefused(file, "Run-time error '6': Overflow\n");
+}

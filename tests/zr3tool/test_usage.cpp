@@ -1,0 +1,106 @@
+// The command line.
+
+#include "shell/mdGetVersionInfo.h"
+#include "tests/zr3tool/clsToolTest.h"
+
+namespace {
+
+class Usage : public clsToolTest {
+};
+
+} // namespace
+
+TEST_F(Usage, WrongCommandLinesGetTheUsageAndStatusOne)
+{
+    const QString claim = mdSamplePath("empty.zr3"_q);
+    const QStringList rows[] = {
+        {},
+        {""_q},
+        {"bill"_q},
+        {"Totals"_q, claim},
+        {"totals"_q},
+        {"totals"_q, claim, "extra"_q},
+        {claim},
+        {claim, "totals"_q},
+        {"check"_q},
+        {"check"_q, claim, claim},
+        {"save"_q},
+        {"save"_q, claim},
+        {"save"_q, claim, "a"_q, "b"_q},
+        {"export"_q},
+        {"export"_q, claim},
+        {"export"_q, claim, "a"_q, "b"_q},
+        {"export"_q, claim, "a"_q, "--templates"_q},
+        {"export"_q, claim, "a"_q, "--force=yes"_q},
+        {"export"_q, claim, "a"_q, "--unknown"_q},
+        {"export"_q, claim, "a"_q, "-f"_q},
+        {"totals"_q, claim, "--force"_q},
+        {"totals"_q, claim, "--quiet"_q},
+        {"check"_q, claim, "--keep-sheets"_q},
+        {"save"_q, claim, "a"_q, "--templates"_q, "x"_q},
+        {"--help"_q, "totals"_q},
+        {"--help"_q, "--version"_q},
+        {"totals"_q, claim, "--version"_q},
+        {"-h"_q},
+        {"--quiet"_q},
+    };
+    for (const QStringList &arguments : rows) {
+        const clsToolResult result = run(arguments);
+        EXPECT_EQ(1, result.status) << arguments.join(u' ').toStdString();
+        EXPECT_EQ("", result.out);
+        EXPECT_TRUE(result.err.startsWith("Usage:\n")) << result.err.constData();
+        EXPECT_EQ(1, result.err.count("Usage:"));
+    }
+    EXPECT_EQ(QStringList(), filesOf(folder.path()));
+}
+
+TEST_F(Usage, HelpIsTheSameUsageAsAResult)
+{
+    const clsToolResult help = run({"--help"_q});
+    EXPECT_EQ(0, help.status);
+    EXPECT_EQ("", help.err);
+    EXPECT_EQ(run({}).err, help.out);
+    for (const char *word : {"totals", "export", "check", "save", "--force", "--templates", "--keep-sheets", "--quiet",
+                             "--help", "--version"})
+        EXPECT_TRUE(help.out.contains(word)) << word;
+}
+
+TEST_F(Usage, TheVersionIsTheProgramsOwn)
+{
+    const clsToolResult version = run({"--version"_q});
+    EXPECT_EQ(0, version.status);
+    EXPECT_EQ("", version.err);
+    EXPECT_EQ("Velmor ZR3 " + GetVersionInfo().toLatin1() + "\n", version.out);
+}
+
+TEST_F(Usage, OptionsMayStandAnywhereAndPathsMayBeginWithADash)
+{
+    clsZR3Form form;
+    putClaim(form, "-claim.zr3");
+    EXPECT_EQ(0, run({"check"_q, "--"_q, "-claim.zr3"_q}).status);
+    // The folder is missing: the command line was read.
+    EXPECT_EQ(4, run({"--quiet"_q, "export"_q, "--force"_q, mdSamplePath("empty.zr3"_q), "missing"_q}).status);
+}
+
+TEST_F(Usage, AResultThatCanNotBeWrittenIsAFailure)
+{
+    if (!QFile::exists("/dev/full"_q))
+        GTEST_SKIP() << "this system has no device that is always full";
+    const QString claim = mdSamplePath("housing-typical.zr3"_q);
+    for (const QStringList &arguments :
+         {QStringList {"totals"_q, claim}, {"check"_q, claim}, {"--help"_q}, {"--version"_q}}) {
+        const clsToolResult result = run(arguments, "/dev/full"_q);
+        EXPECT_EQ(4, result.status) << arguments.join(u' ').toStdString();
+        EXPECT_EQ("Standard output: The result could not be written.\n", result.err);
+    }
+}
+
+TEST_F(Usage, NeedsNoPreferences)
+{
+    // The configuration names a database folder that does not exist.
+    ASSERT_TRUE(QDir(folder.path()).mkpath("config/Velmor"_q));
+    put("config/Velmor/ZR3.conf", "[General]\nDatabase%20Path=/no/such/folder\n");
+    const clsToolResult result = run({"check"_q, mdSamplePath("empty.zr3"_q)});
+    EXPECT_EQ(0, result.status);
+    EXPECT_EQ("", result.err);
+}

@@ -8,7 +8,8 @@
 
 #include <new>
 
-namespace {
+namespace
+{
 
 struct Version {
     const char *number;

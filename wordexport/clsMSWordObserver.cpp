@@ -1,6 +1,7 @@
 #include "wordexport/clsMSWordObserver.h"
 
-namespace {
+namespace
+{
 
 clsMSWordObserver nobody;
 clsMSWordObserver *current = &nobody;

@@ -2,7 +2,8 @@
 
 #include "wordexport/mdWordXml.h"
 
-namespace {
+namespace
+{
 
 std::optional<bool> ownBoldness(const pugi::xml_node &format)
 {
@@ -13,8 +14,7 @@ std::optional<bool> ownBoldness(const pugi::xml_node &format)
 } // namespace
 
 clsWordBoldness::clsWordBoldness(const pugi::xml_node &styles)
-    : m_documentDefault(
-          ownBoldness(styles.child("w:docDefaults").child("w:rPrDefault").child("w:rPr")).value_or(false))
+    : m_documentDefault(ownBoldness(styles.child("w:docDefaults").child("w:rPrDefault").child("w:rPr")).value_or(false))
 {
     for (const pugi::xml_node &style : styles.children("w:style")) {
         const char *id = style.attribute("w:styleId").value();

@@ -7,7 +7,8 @@
 
 using pugi::xml_node;
 
-namespace {
+namespace
+{
 
 xml_node bodyOf(clsWordPackage &package)
 {
@@ -16,7 +17,8 @@ xml_node bodyOf(clsWordPackage &package)
 
 // A place in the target's tree, behind its root, where a document's text is made ready before it is moved in.
 // Whatever happens, it is gone before anybody writes the tree.
-class clsStaging {
+class clsStaging
+{
 public:
     explicit clsStaging(pugi::xml_document &tree)
         : m_tree(tree)
@@ -78,8 +80,7 @@ std::string relationshipPrefix(const xml_node &root)
     constexpr std::string_view Declaration = "xmlns:";
     for (const pugi::xml_attribute &attribute : root.attributes()) {
         const std::string_view name = attribute.name();
-        if (name.starts_with(Declaration)
-            && std::strcmp(attribute.value(), WordXml::RelationshipNamespace) == 0)
+        if (name.starts_with(Declaration) && std::strcmp(attribute.value(), WordXml::RelationshipNamespace) == 0)
             return std::string(name.substr(Declaration.size())) + ':';
     }
     return "r:";
@@ -135,21 +136,22 @@ void clsWordComposer::append(clsWordPackage &source)
 void clsWordComposer::mapContent(clsWordPackage &source, xml_node body)
 {
     clsWordNumberingImport *listsOfStyles = nullptr;
-    clsWordStyleImport styles(m_styles, source,
-                              [&listsOfStyles](const std::string &id) { return listsOfStyles->numberFor(id); });
-    clsWordNumberingImport lists(m_target, m_lists, source,
-                                 [&styles](const std::string &id) { return styles.styleFor(id); });
+    clsWordStyleImport styles(
+        m_styles, source, [&listsOfStyles](const std::string &id) { return listsOfStyles->numberFor(id); });
+    clsWordNumberingImport lists(
+        m_target, m_lists, source, [&styles](const std::string &id) { return styles.styleFor(id); });
     listsOfStyles = &lists;
-    clsWordContentMap content(styles, [&lists](const std::string &id) { return lists.numberFor(id); }, m_identities);
+    clsWordContentMap content(
+        styles, [&lists](const std::string &id) { return lists.numberFor(id); }, m_identities);
     clsWordPartImport parts(m_target, m_parts, m_styles.originalBytes(), source, styles.sourceBytes(),
-                            [&content](const xml_node &root) { content.mapOther(root); });
+        [&content](const xml_node &root) { content.mapOther(root); });
     parts.checkSource();
 
     xml_node sourceRoot = body.parent();
     xml_node targetRoot = targetBody().parent();
     mdMergeNamespaces(sourceRoot, targetRoot);
     content.mapMain(body, relationshipPrefix(targetRoot),
-                    [&parts](const std::string &id) { return parts.relationshipFor(id.c_str()); });
+        [&parts](const std::string &id) { return parts.relationshipFor(id.c_str()); });
     if (content.hadNotes())
         throw mdDocumentError(QStringLiteral("The document %1 holds footnotes or endnotes, so that it can't be "
                                              "appended to another.")
@@ -199,9 +201,8 @@ std::string clsWordComposer::emptyHeader(const std::string &reference)
     const std::string kind = header ? "header" : "footer";
     const QByteArray bytes = QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?><") + root
         + " xmlns:w=\"" + WordXml::MainNamespace + "\"><w:p/></" + root + '>';
-    const int part = m_target.addPart(
-        QStringLiteral("word/") + QString::fromStdString(kind) + QStringLiteral("1.xml"), bytes,
-        "application/vnd.openxmlformats-officedocument.wordprocessingml." + kind + "+xml");
+    const int part = m_target.addPart(QStringLiteral("word/") + QString::fromStdString(kind) + QStringLiteral("1.xml"),
+        bytes, "application/vnd.openxmlformats-officedocument.wordprocessingml." + kind + "+xml");
     id = m_target.addRelationship(m_target.mainPart(), std::string(WordXml::RelationshipNamespace) + '/' + kind, part);
     return id;
 }

@@ -8,7 +8,8 @@
 
 using pugi::xml_node;
 
-namespace {
+namespace
+{
 
 enum class Kind {
     Paragraph,
@@ -146,7 +147,7 @@ void clsWordContentMap::mapAttributes(xml_node node)
         if (isHistory(name))
             node.remove_attribute(attribute);
         else if (m_relationships && std::strncmp(name, m_prefix.c_str(), m_prefix.size()) == 0
-                 && *attribute.value() != '\0')
+            && *attribute.value() != '\0')
             attribute.set_value(m_relationships(attribute.value()).c_str());
         attribute = next;
     }
@@ -189,8 +190,8 @@ void clsWordContentMap::mapStyle(xml_node reference)
 }
 
 // What names no style has its document's default one, which may not be that of the document it is going to.
-void clsWordContentMap::nameDefaultStyle(xml_node owner, const char *propertiesName, const char *styleName,
-                                         const char *type)
+void clsWordContentMap::nameDefaultStyle(
+    xml_node owner, const char *propertiesName, const char *styleName, const char *type)
 {
     if (m_styles.isSame() || owner.child(propertiesName).child(styleName))
         return;

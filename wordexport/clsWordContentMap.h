@@ -13,7 +13,8 @@ class clsWordStyleImport;
 
 /// Makes the content of one document ready to stand in another, in one walk over each of its trees: styles, lists,
 /// relationships and identities become the target's, and what belongs to one document's own history is dropped.
-class clsWordContentMap {
+class clsWordContentMap
+{
 public:
     using Map = std::function<std::string(const std::string &)>;
 
@@ -45,7 +46,7 @@ private:
     std::string m_prefix;
     Map m_relationships;
     bool m_hadNotes = false;
-    std::unordered_map<std::string, std::string> m_bookmarkIds;   // open bookmarks: old number, new number
+    std::unordered_map<std::string, std::string> m_bookmarkIds; // open bookmarks: old number, new number
     std::unordered_map<std::string, std::string> m_bookmarkNames; // those that had to change
     std::unordered_map<std::string, pugi::xml_node> m_openBookmarks;
     std::unordered_set<const void *> m_named; // references to a style that are the target's already

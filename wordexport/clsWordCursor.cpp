@@ -8,7 +8,8 @@
 
 using pugi::xml_node;
 
-namespace {
+namespace
+{
 
 // The lower part of a cell that goes over several rows: not a cell of its own to the cursor.
 bool isMergedIntoAbove(const xml_node &cell)
@@ -182,7 +183,7 @@ void clsWordCursor::cellRight()
     const xml_node cell = WordXml::ancestor(m_paragraph, "w:tc");
     if (!cell)
         throw clsRunTimeError(clsRunTimeError::InvalidProcedureCall,
-                              QStringLiteral("The cursor is not in a table, so that it can't move to another cell."));
+            QStringLiteral("The cursor is not in a table, so that it can't move to another cell."));
     xml_node right = WordXml::nextItem(cell, WordXml::isCell);
     while (right && isMergedIntoAbove(right))
         right = WordXml::nextItem(right, WordXml::isCell);

@@ -10,7 +10,8 @@
 
 using pugi::xml_node;
 
-namespace {
+namespace
+{
 
 constexpr QChar LineBreak(11);
 
@@ -160,9 +161,8 @@ bool clsWordDocument::selectionIsBold()
     std::vector<xml_node> formats = paragraph.formatsIn(m_cursor.from(), m_cursor.to());
     if (formats.empty())
         formats.push_back(paragraph.formatAt(m_cursor.from(), m_cursor.to()));
-    return std::any_of(formats.begin(), formats.end(), [this](const xml_node &format) {
-        return boldness().isBold(format, m_cursor.paragraph());
-    });
+    return std::any_of(formats.begin(), formats.end(),
+        [this](const xml_node &format) { return boldness().isBold(format, m_cursor.paragraph()); });
 }
 
 void clsWordDocument::typeText(const QString &text)

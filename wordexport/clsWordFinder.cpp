@@ -3,7 +3,8 @@
 #include <QChar>
 #include <QList>
 
-namespace {
+namespace
+{
 
 char32_t folded(char32_t c)
 {

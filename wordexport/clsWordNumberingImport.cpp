@@ -10,7 +10,8 @@
 
 using pugi::xml_node;
 
-namespace {
+namespace
+{
 
 long highest(const xml_node &root, const char *element, const char *attribute)
 {
@@ -28,8 +29,8 @@ std::string listIdentity(long number)
 
 } // namespace
 
-clsWordNumberingImport::clsWordNumberingImport(clsWordPackage &target, clsWordListNumbers &last, clsWordPackage &source,
-                                               StyleMap styles)
+clsWordNumberingImport::clsWordNumberingImport(
+    clsWordPackage &target, clsWordListNumbers &last, clsWordPackage &source, StyleMap styles)
     : m_target(target)
     , m_last(last)
     , m_source(source)
@@ -68,8 +69,8 @@ std::string clsWordNumberingImport::numberFor(const std::string &id)
     const xml_node source = sourceRoot();
     xml_node root = targetRoot();
     const xml_node number = source.find_child_by_attribute("w:num", "w:numId", id.c_str());
-    const xml_node abstract = source.find_child_by_attribute("w:abstractNum", "w:abstractNumId",
-                                                             WordXml::val(number.child("w:abstractNumId")));
+    const xml_node abstract = source.find_child_by_attribute(
+        "w:abstractNum", "w:abstractNumId", WordXml::val(number.child("w:abstractNumId")));
     if (!abstract)
         return m_numbers.emplace(id, "0").first->second;
 

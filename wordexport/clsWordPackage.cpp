@@ -6,7 +6,8 @@
 #include <algorithm>
 #include <cstdlib>
 
-namespace {
+namespace
+{
 
 constexpr const char *ContentTypesName = "[Content_Types].xml";
 constexpr const char *RelationshipsType = "http://schemas.openxmlformats.org/package/2006/relationships";
@@ -16,7 +17,8 @@ constexpr const char *StrictRelationships = "http://purl.oclc.org/ooxml/officeDo
 // on the stack.
 constexpr int MaximumDepth = 400;
 
-class clsByteWriter final : public pugi::xml_writer {
+class clsByteWriter final : public pugi::xml_writer
+{
 public:
     void write(const void *data, size_t size) override
     {
@@ -148,8 +150,8 @@ void clsWordPackage::parseInto(pugi::xml_node place, const QByteArray &bytes) co
 {
     const bool utf16 = bytes.startsWith("\xFE\xFF") || bytes.startsWith("\xFF\xFE") || bytes.left(2).contains('\0');
     // Within another tree there is no place for a part's declaration; it would be taken for damage.
-    const unsigned flags = place.type() == pugi::node_document ? WordXml::ParseFlags
-                                                               : WordXml::ParseFlags & ~pugi::parse_declaration;
+    const unsigned flags
+        = place.type() == pugi::node_document ? WordXml::ParseFlags : WordXml::ParseFlags & ~pugi::parse_declaration;
     const bool sound = (utf16 || bytes.isValidUtf8())
         && place.append_buffer(bytes.constData(), size_t(bytes.size()), flags)
         && WordXml::depth(place, MaximumDepth) < MaximumDepth;
@@ -196,7 +198,7 @@ void clsWordPackage::restoreBody()
     pugi::xml_node staging = body.prepend_child("staging");
     for (const QByteArray &bytes : m_settled)
         staging.append_buffer(bytes.constData(), size_t(bytes.size()),
-                              (WordXml::ParseFlags & ~pugi::parse_declaration) | pugi::parse_fragment);
+            (WordXml::ParseFlags & ~pugi::parse_declaration) | pugi::parse_fragment);
     while (const pugi::xml_node block = staging.first_child())
         body.insert_move_before(block, staging);
     body.remove_child(staging);
@@ -327,8 +329,7 @@ clsWordPackage::Relations &clsWordPackage::relations(int part)
         const auto tree = parse(m_zip.bytes(index));
         for (const pugi::xml_node &node : tree->document_element().children("Relationship")) {
             read.list.push_back({node.attribute("Id").value(), node.attribute("Type").value(),
-                                 node.attribute("Target").value(),
-                                 std::strcmp(node.attribute("TargetMode").value(), "External") == 0});
+                node.attribute("Target").value(), std::strcmp(node.attribute("TargetMode").value(), "External") == 0});
             // A number beyond the counter's reach can't collide with it either.
             const std::string &id = read.list.back().id;
             if (id.starts_with("rId") && id.size() <= 10)

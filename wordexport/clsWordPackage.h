@@ -11,7 +11,8 @@
 
 /// A document as a package of parts, each with a content type and relationships to others. A part is parsed only
 /// when it is asked for; one that nobody changes is written back byte for byte.
-class clsWordPackage {
+class clsWordPackage
+{
 public:
     struct Relationship {
         std::string id;
@@ -99,7 +100,7 @@ private:
     std::map<int, Parsed> m_parsed;
     std::map<int, Relations> m_relations;
     std::unique_ptr<pugi::xml_document> m_contentTypes;
-    std::map<std::string, std::string> m_defaultTypes;  // by extension, lower case
+    std::map<std::string, std::string> m_defaultTypes; // by extension, lower case
     std::map<std::string, std::string> m_overrideTypes; // by part name, lower case
     bool m_contentTypesChanged = false;
     std::map<QString, int> m_nextNumber; // of part names, by what surrounds the number

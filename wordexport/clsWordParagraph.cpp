@@ -7,11 +7,18 @@
 
 using pugi::xml_node;
 
-namespace {
+namespace
+{
 
 constexpr const char *Invisible[] = {
-    "w:rPr", "w:instrText", "w:delText", "w:delInstrText", "w:fldChar", "w:lastRenderedPageBreak",
-    "w:commentReference", "w:annotationRef",
+    "w:rPr",
+    "w:instrText",
+    "w:delText",
+    "w:delInstrText",
+    "w:fldChar",
+    "w:lastRenderedPageBreak",
+    "w:commentReference",
+    "w:annotationRef",
 };
 
 bool isInvisible(const xml_node &node)
@@ -62,8 +69,7 @@ bool sameTree(const xml_node &a, const xml_node &b)
         return false;
     pugi::xml_attribute attributeA = a.first_attribute();
     pugi::xml_attribute attributeB = b.first_attribute();
-    for (; attributeA && attributeB;
-         attributeA = attributeA.next_attribute(), attributeB = attributeB.next_attribute())
+    for (; attributeA && attributeB; attributeA = attributeA.next_attribute(), attributeB = attributeB.next_attribute())
         if (std::strcmp(attributeA.name(), attributeB.name()) != 0
             || std::strcmp(attributeA.value(), attributeB.value()) != 0)
             return false;
@@ -92,7 +98,8 @@ void giveFormat(xml_node run, const xml_node &format)
 }
 
 // Writes typed text into a run, element by element.
-class clsTyper {
+class clsTyper
+{
 public:
     clsTyper(const xml_node &run, bool symbols)
         : m_run(run)

@@ -4,7 +4,8 @@
 
 #include <QCryptographicHash>
 
-namespace {
+namespace
+{
 
 using Relationships = std::vector<clsWordPackage::Relationship>;
 
@@ -21,7 +22,7 @@ void addField(QCryptographicHash &hash, QByteArrayView field)
 }
 
 std::string contentKey(const std::string &contentType, const QByteArray &bytes, const Relationships &relationships,
-                       const QByteArray &styles)
+    const QByteArray &styles)
 {
     QCryptographicHash hash(QCryptographicHash::Sha256);
     addField(hash, contentType);
@@ -40,7 +41,7 @@ std::string contentKey(const std::string &contentType, const QByteArray &bytes, 
 } // namespace
 
 clsWordPartImport::clsWordPartImport(clsWordPackage &target, clsWordKnownParts &known, const QByteArray &targetStyles,
-                                     clsWordPackage &source, const QByteArray &sourceStyles, ContentMap mapContent)
+    clsWordPackage &source, const QByteArray &sourceStyles, ContentMap mapContent)
     : m_target(target)
     , m_known(known)
     , m_targetStyles(targetStyles)
@@ -121,7 +122,8 @@ int clsWordPartImport::copyPart(int sourcePart)
             m_mapContent(m_source.partXml(sourcePart).document_element());
             m_source.setChanged(sourcePart);
         }
-        const int part = m_target.addPart(m_source.partName(sourcePart), m_source.currentBytes(sourcePart), contentType);
+        const int part
+            = m_target.addPart(m_source.partName(sourcePart), m_source.currentBytes(sourcePart), contentType);
         if (!relationships.empty())
             m_target.setRelationships(part, std::move(relationships));
         known = m_known.byContent.emplace(key, part).first;

@@ -17,14 +17,15 @@ struct clsWordKnownParts {
 };
 
 /// The parts that the content of one document refers to, on their way into another.
-class clsWordPartImport {
+class clsWordPartImport
+{
 public:
     /// Makes the tree of a header or footer ready for the target.
     using ContentMap = std::function<void(pugi::xml_node root)>;
 
     /// `targetStyles` and `sourceStyles` tell apart headers and footers that only look the same byte for byte.
     clsWordPartImport(clsWordPackage &target, clsWordKnownParts &known, const QByteArray &targetStyles,
-                      clsWordPackage &source, const QByteArray &sourceStyles, ContentMap mapContent);
+        clsWordPackage &source, const QByteArray &sourceStyles, ContentMap mapContent);
 
     /// An error where a part that the source's main part is related to is missing: before anything is copied.
     void checkSource();

@@ -5,7 +5,8 @@
 
 using pugi::xml_node;
 
-namespace {
+namespace
+{
 
 xml_node rootOf(clsWordPackage &package, const char *typeName)
 {
@@ -148,8 +149,8 @@ void clsWordStyleImport::addDefaults(xml_node style)
     xml_node paragraph = ensureStyleProperties(style, "w:pPr");
     addMissing(paragraph, defaults.child("w:pPrDefault").child("w:pPr"));
     xml_node spacing = WordXml::ensureChild(paragraph, "w:spacing");
-    for (const auto &[name, value] : {std::pair("w:before", "0"), std::pair("w:after", "0"),
-                                      std::pair("w:line", "240"), std::pair("w:lineRule", "auto")})
+    for (const auto &[name, value] : {std::pair("w:before", "0"), std::pair("w:after", "0"), std::pair("w:line", "240"),
+             std::pair("w:lineRule", "auto")})
         if (!spacing.attribute(name))
             spacing.append_attribute(name) = value;
 }

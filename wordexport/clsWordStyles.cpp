@@ -7,18 +7,35 @@
 
 using pugi::xml_node;
 
-namespace {
+namespace
+{
 
 // What says nothing of how a text looks: identity, the order of lists of styles, the history of edits.
 constexpr const char *NoLook[] = {
-    "w:name", "w:aliases", "w:basedOn", "w:next", "w:link", "w:rsid", "w:uiPriority", "w:semiHidden",
-    "w:unhideWhenUsed", "w:qFormat", "w:locked", "w:autoRedefine", "w:personal", "w:personalCompose",
-    "w:personalReply", "w:nsid", "w:tmpl", "w:numPr",
+    "w:name",
+    "w:aliases",
+    "w:basedOn",
+    "w:next",
+    "w:link",
+    "w:rsid",
+    "w:uiPriority",
+    "w:semiHidden",
+    "w:unhideWhenUsed",
+    "w:qFormat",
+    "w:locked",
+    "w:autoRedefine",
+    "w:personal",
+    "w:personalCompose",
+    "w:personalReply",
+    "w:nsid",
+    "w:tmpl",
+    "w:numPr",
 };
 
 bool saysNothing(const xml_node &node)
 {
-    return std::any_of(std::begin(NoLook), std::end(NoLook), [&node](const char *name) { return WordXml::is(node, name); });
+    return std::any_of(
+        std::begin(NoLook), std::end(NoLook), [&node](const char *name) { return WordXml::is(node, name); });
 }
 
 // The same text for the same content: attributes in one order, no history of edits.
@@ -44,8 +61,8 @@ void describeTree(const xml_node &node, std::string &out)
 std::string describeNumbering(const xml_node &numbering, const char *numId)
 {
     const xml_node number = numbering.find_child_by_attribute("w:num", "w:numId", numId);
-    const xml_node abstract = numbering.find_child_by_attribute("w:abstractNum", "w:abstractNumId",
-                                                                WordXml::val(number.child("w:abstractNumId")));
+    const xml_node abstract = numbering.find_child_by_attribute(
+        "w:abstractNum", "w:abstractNumId", WordXml::val(number.child("w:abstractNumId")));
     std::string description;
     for (const xml_node &level : abstract.children())
         if (!saysNothing(level))
@@ -129,8 +146,7 @@ int mdEnsureRelatedPart(clsWordPackage &package, const char *typeName, const cha
         + " xmlns:w=\"" + WordXml::MainNamespace + "\"/>";
     const QString &main = package.partName(package.mainPart());
     const QString name = main.left(main.lastIndexOf(u'/') + 1) + QLatin1String(typeName) + QLatin1String(".xml");
-    const int part = package.addPart(
-        name, empty,
+    const int part = package.addPart(name, empty,
         std::string("application/vnd.openxmlformats-officedocument.wordprocessingml.") + typeName + "+xml");
     package.addRelationship(package.mainPart(), std::string(WordXml::RelationshipNamespace) + '/' + typeName, part);
     return part;
@@ -142,8 +158,8 @@ clsWordStyles::clsWordStyles(clsWordPackage &target)
     , m_originalBytes(m_part < 0 ? QByteArray() : target.partBytes(m_part))
     , m_root(m_part < 0 ? xml_node() : target.partXml(m_part).document_element())
     , m_own(m_definitions, m_root,
-            target.relatedPart("numbering") < 0 ? xml_node()
-                                                : target.partXml(target.relatedPart("numbering")).document_element())
+          target.relatedPart("numbering") < 0 ? xml_node()
+                                              : target.partXml(target.relatedPart("numbering")).document_element())
 {
     for (const xml_node &style : m_root.children("w:style")) {
         const std::string id = style.attribute("w:styleId").value();

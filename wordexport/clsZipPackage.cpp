@@ -8,7 +8,8 @@
 #include <algorithm>
 #include <memory>
 
-namespace {
+namespace
+{
 
 // A fixed moment, the first that a zip can name: documents hold no clock.
 constexpr zip_uint16_t FixedDosTime = 0;
@@ -41,8 +42,8 @@ bool nameIsSafe(const QString &name)
     if (name.size() >= 2 && name[1] == u':')
         return false;
     const auto segments = QStringView(name).split(u'/');
-    return std::none_of(segments.begin(), segments.end(),
-                        [](QStringView segment) { return segment == u".." || segment == u"."; });
+    return std::none_of(
+        segments.begin(), segments.end(), [](QStringView segment) { return segment == u".." || segment == u"."; });
 }
 
 Archive openArchive(const QByteArray &bytes, const QString &shownName)
@@ -62,9 +63,10 @@ void checkContainer(const QByteArray &bytes, const QString &shownName)
 {
     // The container of the older binary format, which is also that of encrypted documents.
     if (bytes.startsWith("\xD0\xCF\x11\xE0"))
-        throw mdDocumentError(QStringLiteral("The document %1 is in the older binary format or protected by a password. "
-                                             "Please save it again as a Word 2007 document without a password.")
-                                  .arg(shownName));
+        throw mdDocumentError(
+            QStringLiteral("The document %1 is in the older binary format or protected by a password. "
+                           "Please save it again as a Word 2007 document without a password.")
+                .arg(shownName));
     if (!bytes.startsWith("PK\3\4"))
         throw mdDocumentError(QStringLiteral("The document %1 is not a Word document.").arg(shownName));
     if (bytes.size() > ZipLimits::PackageBytes)
@@ -119,9 +121,8 @@ void addTo(zip_t *archive, const clsZipPackage::Entry &entry, clsZipPackage::Pac
     for (const QByteArray &piece : entry.more)
         addFragment(piece);
     zip_source_t *source = zip_source_buffer_fragment(archive, fragments.data(), fragments.size(), 0);
-    const zip_int64_t index = source
-        ? zip_file_add(archive, entry.name.toUtf8().constData(), source, ZIP_FL_ENC_UTF_8)
-        : -1;
+    const zip_int64_t index
+        = source ? zip_file_add(archive, entry.name.toUtf8().constData(), source, ZIP_FL_ENC_UTF_8) : -1;
     if (index < 0) {
         zip_source_free(source);
         throw clsRunTimeError(clsRunTimeError::OutOfMemory);

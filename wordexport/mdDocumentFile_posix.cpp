@@ -12,9 +12,11 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace {
+namespace
+{
 
-class clsDescriptor {
+class clsDescriptor
+{
 public:
     explicit clsDescriptor(int descriptor)
         : m_descriptor(descriptor)

@@ -10,17 +10,35 @@
 #include "wordexport/mdExportSheet.h"
 #include "wordexport/mdExportTempFolder.h"
 
+#include <QFileInfo>
+
 #include <filesystem>
 
 namespace {
 
-/// Gives the finished name to the joined document, in one step.
-void putInPlace(const QString &joined, const QString &finished)
+void check(const std::error_code &error)
 {
-    std::error_code error;
-    std::filesystem::rename(joined.toStdString(), finished.toStdString(), error);
     if (error)
         throw clsRunTimeError::fromSystem(error.value());
+}
+
+/// Gives the finished name to the joined document, in one step. A document that is there already is replaced as if it
+/// were written over: one that is write-protected stays, which taking over its name would not ask; where the name is a
+/// link, the document that it leads to is the one; and who may read it stays as it was.
+void putInPlace(const QString &joined, const QString &finished)
+{
+    namespace fs = std::filesystem;
+    std::error_code error;
+    const QFileInfo older(finished);
+    if (older.exists()) {
+        if (!older.isWritable())
+            throw clsRunTimeError(clsRunTimeError::PermissionDenied);
+        fs::permissions(joined.toStdString(), fs::status(finished.toStdString(), error).permissions(), error);
+        check(error);
+    }
+    const QString target = older.exists() ? older.canonicalFilePath() : finished;
+    fs::rename(joined.toStdString(), target.toStdString(), error);
+    check(error);
 }
 
 } // namespace

@@ -6,7 +6,8 @@
 #include <QFile>
 #include <QFileInfo>
 
-namespace {
+namespace
+{
 
 constexpr const char *ProcessFolder = "/proc";
 

@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-namespace {
+namespace
+{
 
 clsProcessList current = mdProcessNames;
 

@@ -15,7 +15,8 @@ using clsProcessList = std::function<QStringList()>;
 QStringList mdProcessNames();
 
 /// Puts another process list in force for as long as this object lives.
-class clsProcessListScope {
+class clsProcessListScope
+{
 public:
     explicit clsProcessListScope(clsProcessList list);
     ~clsProcessListScope();

@@ -5,39 +5,140 @@
 #include <span>
 #include <utility>
 
-namespace WordXml {
+namespace WordXml
+{
 
-namespace {
+namespace
+{
 
 using pugi::xml_node;
 
 constexpr const char *RunPropertyOrder[] = {
-    "w:rStyle", "w:rFonts", "w:b", "w:bCs", "w:i", "w:iCs", "w:caps", "w:smallCaps", "w:strike", "w:dstrike",
-    "w:outline", "w:shadow", "w:emboss", "w:imprint", "w:noProof", "w:snapToGrid", "w:vanish", "w:webHidden",
-    "w:color", "w:spacing", "w:w", "w:kern", "w:position", "w:sz", "w:szCs", "w:highlight", "w:u", "w:effect",
-    "w:bdr", "w:shd", "w:fitText", "w:vertAlign", "w:rtl", "w:cs", "w:em", "w:lang", "w:eastAsianLayout",
-    "w:specVanish", "w:oMath", "w:rPrChange",
+    "w:rStyle",
+    "w:rFonts",
+    "w:b",
+    "w:bCs",
+    "w:i",
+    "w:iCs",
+    "w:caps",
+    "w:smallCaps",
+    "w:strike",
+    "w:dstrike",
+    "w:outline",
+    "w:shadow",
+    "w:emboss",
+    "w:imprint",
+    "w:noProof",
+    "w:snapToGrid",
+    "w:vanish",
+    "w:webHidden",
+    "w:color",
+    "w:spacing",
+    "w:w",
+    "w:kern",
+    "w:position",
+    "w:sz",
+    "w:szCs",
+    "w:highlight",
+    "w:u",
+    "w:effect",
+    "w:bdr",
+    "w:shd",
+    "w:fitText",
+    "w:vertAlign",
+    "w:rtl",
+    "w:cs",
+    "w:em",
+    "w:lang",
+    "w:eastAsianLayout",
+    "w:specVanish",
+    "w:oMath",
+    "w:rPrChange",
 };
 
 constexpr const char *ParagraphPropertyOrder[] = {
-    "w:pStyle", "w:keepNext", "w:keepLines", "w:pageBreakBefore", "w:framePr", "w:widowControl", "w:numPr",
-    "w:suppressLineNumbers", "w:pBdr", "w:shd", "w:tabs", "w:suppressAutoHyphens", "w:kinsoku", "w:wordWrap",
-    "w:overflowPunct", "w:topLinePunct", "w:autoSpaceDE", "w:autoSpaceDN", "w:bidi", "w:adjustRightInd",
-    "w:snapToGrid", "w:spacing", "w:ind", "w:contextualSpacing", "w:mirrorIndents", "w:suppressOverlap", "w:jc",
-    "w:textDirection", "w:textAlignment", "w:textboxTightWrap", "w:outlineLvl", "w:divId", "w:cnfStyle", "w:rPr",
-    "w:sectPr", "w:pPrChange",
+    "w:pStyle",
+    "w:keepNext",
+    "w:keepLines",
+    "w:pageBreakBefore",
+    "w:framePr",
+    "w:widowControl",
+    "w:numPr",
+    "w:suppressLineNumbers",
+    "w:pBdr",
+    "w:shd",
+    "w:tabs",
+    "w:suppressAutoHyphens",
+    "w:kinsoku",
+    "w:wordWrap",
+    "w:overflowPunct",
+    "w:topLinePunct",
+    "w:autoSpaceDE",
+    "w:autoSpaceDN",
+    "w:bidi",
+    "w:adjustRightInd",
+    "w:snapToGrid",
+    "w:spacing",
+    "w:ind",
+    "w:contextualSpacing",
+    "w:mirrorIndents",
+    "w:suppressOverlap",
+    "w:jc",
+    "w:textDirection",
+    "w:textAlignment",
+    "w:textboxTightWrap",
+    "w:outlineLvl",
+    "w:divId",
+    "w:cnfStyle",
+    "w:rPr",
+    "w:sectPr",
+    "w:pPrChange",
 };
 
 constexpr const char *SectionPropertyOrder[] = {
-    "w:headerReference", "w:footerReference", "w:footnotePr", "w:endnotePr", "w:type", "w:pgSz", "w:pgMar",
-    "w:paperSrc", "w:pgBorders", "w:lnNumType", "w:pgNumType", "w:cols", "w:formProt", "w:vAlign", "w:noEndnote",
-    "w:titlePg", "w:textDirection", "w:bidi", "w:rtlGutter", "w:docGrid", "w:printerSettings", "w:sectPrChange",
+    "w:headerReference",
+    "w:footerReference",
+    "w:footnotePr",
+    "w:endnotePr",
+    "w:type",
+    "w:pgSz",
+    "w:pgMar",
+    "w:paperSrc",
+    "w:pgBorders",
+    "w:lnNumType",
+    "w:pgNumType",
+    "w:cols",
+    "w:formProt",
+    "w:vAlign",
+    "w:noEndnote",
+    "w:titlePg",
+    "w:textDirection",
+    "w:bidi",
+    "w:rtlGutter",
+    "w:docGrid",
+    "w:printerSettings",
+    "w:sectPrChange",
 };
 
 constexpr const char *TablePropertyOrder[] = {
-    "w:tblStyle", "w:tblpPr", "w:tblOverlap", "w:bidiVisual", "w:tblStyleRowBandSize", "w:tblStyleColBandSize",
-    "w:tblW", "w:jc", "w:tblCellSpacing", "w:tblInd", "w:tblBorders", "w:shd", "w:tblLayout", "w:tblCellMar",
-    "w:tblLook", "w:tblCaption", "w:tblDescription", "w:tblPrChange",
+    "w:tblStyle",
+    "w:tblpPr",
+    "w:tblOverlap",
+    "w:bidiVisual",
+    "w:tblStyleRowBandSize",
+    "w:tblStyleColBandSize",
+    "w:tblW",
+    "w:jc",
+    "w:tblCellSpacing",
+    "w:tblInd",
+    "w:tblBorders",
+    "w:shd",
+    "w:tblLayout",
+    "w:tblCellMar",
+    "w:tblLook",
+    "w:tblCaption",
+    "w:tblDescription",
+    "w:tblPrChange",
 };
 
 std::span<const char *const> childOrder(const xml_node &parent)
@@ -53,13 +154,21 @@ std::span<const char *const> childOrder(const xml_node &parent)
 
 size_t rankOf(std::span<const char *const> order, const char *name)
 {
-    const auto at = std::find_if(order.begin(), order.end(),
-                                 [name](const char *known) { return std::strcmp(known, name) == 0; });
+    const auto at
+        = std::find_if(order.begin(), order.end(), [name](const char *known) { return std::strcmp(known, name) == 0; });
     return size_t(at - order.begin());
 }
 
 constexpr const char *Wrappers[] = {
-    "w:sdt", "w:sdtContent", "w:customXml", "w:smartTag", "w:ins", "w:moveTo", "w:hyperlink", "w:fldSimple", "w:dir",
+    "w:sdt",
+    "w:sdtContent",
+    "w:customXml",
+    "w:smartTag",
+    "w:ins",
+    "w:moveTo",
+    "w:hyperlink",
+    "w:fldSimple",
+    "w:dir",
     "w:bdo",
 };
 
@@ -117,7 +226,7 @@ bool isWrapper(const xml_node &node)
     if (name[0] != 'w' || name[1] != ':' || name[2] == 'p' || name[2] == 't' || name[2] == 'r')
         return false;
     return std::any_of(std::begin(Wrappers), std::end(Wrappers),
-                       [name](const char *wrapper) { return std::strcmp(name, wrapper) == 0; });
+        [name](const char *wrapper) { return std::strcmp(name, wrapper) == 0; });
 }
 
 bool isBlock(const xml_node &node)
@@ -208,8 +317,8 @@ xml_node insertTinyParagraph(xml_node container, const xml_node &after)
     xml_node paragraph = after ? container.insert_child_after("w:p", after) : container.prepend_child("w:p");
     xml_node properties = paragraph.append_child("w:pPr");
     xml_node spacing = properties.append_child("w:spacing");
-    for (const auto &[name, value] : {std::pair("w:before", "0"), std::pair("w:after", "0"),
-                                      std::pair("w:line", "20"), std::pair("w:lineRule", "exact")})
+    for (const auto &[name, value] : {std::pair("w:before", "0"), std::pair("w:after", "0"), std::pair("w:line", "20"),
+             std::pair("w:lineRule", "exact")})
         spacing.append_attribute(name) = value;
     properties.append_child("w:rPr").append_child("w:sz").append_attribute("w:val") = "2";
     return paragraph;

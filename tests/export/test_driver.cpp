@@ -305,6 +305,39 @@ TEST_F(Driver, AFolderUnderTheFinishedNameIsAnErrorAndStays)
     EXPECT_TRUE(QFileInfo(finished()).isDir());
 }
 
+TEST_F(Driver, AWriteProtectedDocumentStays)
+{
+    put(finished(), "as it was");
+    ASSERT_TRUE(QFile::setPermissions(finished(), QFile::ReadOwner));
+    if (QFileInfo(finished()).isWritable())
+        GTEST_SKIP() << "this user may write to everything";
+    includeOnly({1});
+    EXPECT_EQ(clsRunTimeError::PermissionDenied, errorOf([&] { exportClaim(); }));
+    EXPECT_EQ(QByteArray("as it was"), bytesOf(finished()));
+}
+
+TEST_F(Driver, WhoMayReadADocumentStaysAsItWas)
+{
+    put(finished(), "private");
+    ASSERT_TRUE(QFile::setPermissions(finished(), QFile::ReadOwner | QFile::WriteOwner));
+    includeOnly({1});
+    EXPECT_TRUE(exportClaim());
+    EXPECT_TRUE(bytesOf(finished()).startsWith("PK"));
+    const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+    EXPECT_FALSE(QFile::permissions(finished()) & others);
+}
+
+TEST_F(Driver, WhereTheFinishedNameIsALinkItsDocumentIsReplaced)
+{
+    ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("shared")));
+    put(path(QStringLiteral("shared/real.doc")), "as it was");
+    ASSERT_TRUE(QFile::link(path(QStringLiteral("shared/real.doc")), finished()));
+    includeOnly({1});
+    EXPECT_TRUE(exportClaim());
+    EXPECT_TRUE(QFileInfo(finished()).isSymLink());
+    EXPECT_TRUE(bytesOf(path(QStringLiteral("shared/real.doc"))).startsWith("PK"));
+}
+
 TEST_F(Driver, AFailureOnAPageIsToldOnceAndTheExportGoesOn)
 {
     includeOnly({1, 9});

@@ -13,7 +13,8 @@
 
 /// Rules of a sound document that no schema sees: what makes a word processor ask for repair, lose a text or show
 /// another document's footer. Each problem is one line.
-class clsWordLint {
+class clsWordLint
+{
 public:
     enum Placeholders { MayBeLeft, MustBeGone };
 
@@ -168,7 +169,7 @@ private:
         else if (WordXml::is(node, "w:pStyle") || WordXml::is(node, "w:rStyle") || WordXml::is(node, "w:tblStyle"))
             checkStyle(node);
         else if (WordXml::is(node, "w:numId") && std::strcmp(WordXml::val(node), "0") != 0
-                 && !m_lists.contains(WordXml::val(node)))
+            && !m_lists.contains(WordXml::val(node)))
             problem(QStringLiteral("list number of no list: ") + WordXml::val(node));
         else if (WordXml::is(node, "wp:docPr"))
             checkUnique("picture", node.attribute("id").value());

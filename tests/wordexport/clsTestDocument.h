@@ -53,17 +53,17 @@ struct clsTestDocument {
         std::vector<Part> all = parts;
         if (!styles.isEmpty())
             all.push_back({QStringLiteral("word/styles.xml"), root("w:styles", styles),
-                           typeBase + QLatin1String("styles+xml"), QStringLiteral("styles"), QStringLiteral("rId1")});
+                typeBase + QLatin1String("styles+xml"), QStringLiteral("styles"), QStringLiteral("rId1")});
         if (!numbering.isEmpty())
             all.push_back({QStringLiteral("word/numbering.xml"), root("w:numbering", numbering),
-                           typeBase + QLatin1String("numbering+xml"), QStringLiteral("numbering"),
-                           QStringLiteral("rId2")});
+                typeBase + QLatin1String("numbering+xml"), QStringLiteral("numbering"), QStringLiteral("rId2")});
 
         QString types = QStringLiteral(
             "<Types xmlns=\"http://schemas.openxmlformats.org/package/2006/content-types\">"
             "<Default Extension=\"rels\" ContentType=\"application/vnd.openxmlformats-package.relationships+xml\"/>"
             "<Default Extension=\"xml\" ContentType=\"application/xml\"/>");
-        types += QStringLiteral("<Override PartName=\"/%1\" ContentType=\"%2document.main+xml\"/>").arg(mainName, typeBase);
+        types += QStringLiteral("<Override PartName=\"/%1\" ContentType=\"%2document.main+xml\"/>")
+                     .arg(mainName, typeBase);
         QString relations;
         for (const Part &part : all) {
             types += QStringLiteral("<Override PartName=\"/%1\" ContentType=\"%2\"/>").arg(part.name, part.contentType);
@@ -79,16 +79,18 @@ struct clsTestDocument {
 
         clsZipPackage zip;
         zip.add(QStringLiteral("[Content_Types].xml"), (types + QLatin1String("</Types>")).toUtf8());
-        zip.add(QStringLiteral("_rels/.rels"), relationships(QStringLiteral("<Relationship Id=\"rId1\" Type=\"%1officeDocument\" Target=\"%2\"/>").arg(relationshipBase, mainName)));
+        zip.add(QStringLiteral("_rels/.rels"),
+            relationships(QStringLiteral("<Relationship Id=\"rId1\" Type=\"%1officeDocument\" Target=\"%2\"/>")
+                              .arg(relationshipBase, mainName)));
         zip.add(mainName,
-                QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n"
-                               "<w:document %1 %2><w:body>%3</w:body></w:document>")
-                    .arg(namespaces(), rootAttributes, body)
-                    .toUtf8());
+            QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n"
+                           "<w:document %1 %2><w:body>%3</w:body></w:document>")
+                .arg(namespaces(), rootAttributes, body)
+                .toUtf8());
         if (!relations.isEmpty()) {
             const qsizetype slash = mainName.lastIndexOf(u'/') + 1;
             zip.add(mainName.left(slash) + QLatin1String("_rels/") + mainName.mid(slash) + QLatin1String(".rels"),
-                    relationships(relations));
+                relationships(relations));
         }
         for (const Part &part : all)
             zip.add(part.name, part.bytes);
@@ -111,7 +113,8 @@ struct clsTestDocument {
 };
 
 /// A folder that holds the documents of one test.
-class clsTestFolder {
+class clsTestFolder
+{
 public:
     QString path(const QString &name) const { return m_folder.filePath(name); }
 
@@ -224,7 +227,8 @@ inline QString tc(const QString &blocks, const QString &properties = {})
 inline QString tr(const QStringList &cells, const QString &properties = {})
 {
     return QStringLiteral("<w:tr>%1%2</w:tr>")
-        .arg(properties.isEmpty() ? QString() : QStringLiteral("<w:trPr>%1</w:trPr>").arg(properties), cells.join(QString()));
+        .arg(properties.isEmpty() ? QString() : QStringLiteral("<w:trPr>%1</w:trPr>").arg(properties),
+            cells.join(QString()));
 }
 inline QString tbl(const QStringList &rows)
 {

@@ -1,10 +1,12 @@
 #include "tests/support/clsScriptedUserInterface.h"
 #include "tests/wordexport/clsTestDocument.h"
 
-namespace {
+namespace
+{
 
-const QString Tail = QStringLiteral("<w:p><w:pPr><w:spacing w:before=\"0\" w:after=\"0\" w:line=\"20\" w:lineRule=\"exact\"/>"
-                                    "<w:rPr><w:sz w:val=\"2\"/></w:rPr></w:pPr></w:p>");
+const QString Tail
+    = QStringLiteral("<w:p><w:pPr><w:spacing w:before=\"0\" w:after=\"0\" w:line=\"20\" w:lineRule=\"exact\"/>"
+                     "<w:rPr><w:sz w:val=\"2\"/></w:rPr></w:pPr></w:p>");
 
 QString section(const QString &content)
 {
@@ -22,7 +24,8 @@ QString withSection(const QString &sectionXml)
 }
 
 /// Joins documents in order and proves the result sound.
-class clsJoin {
+class clsJoin
+{
 public:
     explicit clsJoin(const std::vector<clsTestDocument> &documents, bool backSpace = false)
     {
@@ -68,15 +71,17 @@ clsTestDocument sheet(const QString &text, int width = 11906)
 TEST(InsertFileAtEnd, EachDocumentIsASectionWithItsOwnPageSetup)
 {
     const clsJoin join({clsTestDocument(p(QStringLiteral("a")) + p() + section(page(100))),
-                        clsTestDocument(p(QStringLiteral("b")) + p() + section(page(200))),
-                        clsTestDocument(p(QStringLiteral("c")) + p() + section(page(300)))});
-    EXPECT_EQ(join.body(), p(QStringLiteral("a")) + withSection(section(page(100))) + p(QStringLiteral("b"))
-                  + withSection(section(page(200))) + p(QStringLiteral("c")) + p() + section(page(300)));
+        clsTestDocument(p(QStringLiteral("b")) + p() + section(page(200))),
+        clsTestDocument(p(QStringLiteral("c")) + p() + section(page(300)))});
+    EXPECT_EQ(join.body(),
+        p(QStringLiteral("a")) + withSection(section(page(100))) + p(QStringLiteral("b"))
+            + withSection(section(page(200))) + p(QStringLiteral("c")) + p() + section(page(300)));
 }
 
 TEST(InsertFileAtEnd, TheSectionsEndGoesWhereReadersExpectItAmongTheParagraphsProperties)
 {
-    const QString paragraph = QStringLiteral("<w:p><w:pPr><w:jc w:val=\"right\"/><w:rPr><w:b/></w:rPr>%1</w:pPr></w:p>");
+    const QString paragraph
+        = QStringLiteral("<w:p><w:pPr><w:jc w:val=\"right\"/><w:rPr><w:b/></w:rPr>%1</w:pPr></w:p>");
     const clsJoin join({clsTestDocument(paragraph.arg(QString()) + section(page(100))), sheet(QStringLiteral("b"))});
     EXPECT_TRUE(join.body().startsWith(paragraph.arg(section(page(100)))));
 }
@@ -87,10 +92,11 @@ TEST(InsertFileAtEnd, ADocumentThatEndsWithATableOrASectionsEndGetsATinyParagrap
     for (const QString &body : {grid(1, 1), ended}) {
         // A document may break the rule that a body ends with a paragraph; what is joined to it may not.
         const clsJoin join({clsTestDocument(body + section(page(100))), sheet(QStringLiteral("b"))});
-        EXPECT_TRUE(join.body().startsWith(
-            body + QStringLiteral("<w:p><w:pPr><w:spacing w:before=\"0\" w:after=\"0\" w:line=\"20\" w:lineRule=\"exact\"/>"
-                                  "<w:rPr><w:sz w:val=\"2\"/></w:rPr>")
-            + section(page(100)) + QStringLiteral("</w:pPr></w:p>") + p(QStringLiteral("b")))) << join.body().toStdString();
+        EXPECT_TRUE(join.body().startsWith(body
+            + QStringLiteral("<w:p><w:pPr><w:spacing w:before=\"0\" w:after=\"0\" w:line=\"20\" w:lineRule=\"exact\"/>"
+                             "<w:rPr><w:sz w:val=\"2\"/></w:rPr>")
+            + section(page(100)) + QStringLiteral("</w:pPr></w:p>") + p(QStringLiteral("b"))))
+            << join.body().toStdString();
     }
 }
 
@@ -100,8 +106,8 @@ TEST(InsertFileAtEnd, AFirstSectionThatContinuesBeginsOnANewPageInstead)
         return section(QStringLiteral("<w:type w:val=\"%1\"/>").arg(QLatin1String(type)) + page(300));
     };
     const clsJoin join({sheet(QStringLiteral("a")), clsTestDocument(p() + typed("continuous")),
-                        clsTestDocument(withSection(typed("nextColumn")) + p() + typed("continuous")),
-                        clsTestDocument(p() + typed("oddPage"))});
+        clsTestDocument(withSection(typed("nextColumn")) + p() + typed("continuous")),
+        clsTestDocument(p() + typed("oddPage"))});
     const QString body = join.body();
     EXPECT_EQ(body.count(typed("nextPage")), 2);
     EXPECT_EQ(body.count(typed("continuous")), 1); // within its document
@@ -111,8 +117,9 @@ TEST(InsertFileAtEnd, AFirstSectionThatContinuesBeginsOnANewPageInstead)
 TEST(InsertFileAtEnd, ADocumentWithoutASectionGetsOne)
 {
     const clsJoin join({clsTestDocument(p(QStringLiteral("a"))), clsTestDocument(p(QStringLiteral("b")))});
-    EXPECT_EQ(join.body(), QStringLiteral("<w:p><w:pPr><w:sectPr/></w:pPr>") + r(QStringLiteral("a"))
-                  + QStringLiteral("</w:p>") + p(QStringLiteral("b")) + QStringLiteral("<w:sectPr/>"));
+    EXPECT_EQ(join.body(),
+        QStringLiteral("<w:p><w:pPr><w:sectPr/></w:pPr>") + r(QStringLiteral("a")) + QStringLiteral("</w:p>")
+            + p(QStringLiteral("b")) + QStringLiteral("<w:sectPr/>"));
 }
 
 TEST(TypeBackSpaceAfterJoining, TakesTheLastTailAndNoSection)
@@ -138,14 +145,15 @@ TEST(TypeBackSpaceAfterJoining, WithNothingInsertedChangesNothing)
     EXPECT_EQ(join.body(), only.body);
 }
 
-const QString NormalStyle = QStringLiteral(
-    "<w:style w:type=\"paragraph\" w:default=\"1\" w:styleId=\"Normal\"><w:name w:val=\"Normal\"/><w:rPr><w:sz w:val=\"%1\"/></w:rPr></w:style>");
+const QString NormalStyle = QStringLiteral("<w:style w:type=\"paragraph\" w:default=\"1\" w:styleId=\"Normal\"><w:name "
+                                           "w:val=\"Normal\"/><w:rPr><w:sz w:val=\"%1\"/></w:rPr></w:style>");
 
-QString style(const QString &id, const QString &name, const QString &look, const QString &basedOn = QStringLiteral("Normal"))
+QString style(
+    const QString &id, const QString &name, const QString &look, const QString &basedOn = QStringLiteral("Normal"))
 {
     return QStringLiteral("<w:style w:type=\"paragraph\" w:styleId=\"%1\"><w:name w:val=\"%2\"/>%3%4</w:style>")
         .arg(id, name, basedOn.isEmpty() ? QString() : QStringLiteral("<w:basedOn w:val=\"%1\"/>").arg(basedOn),
-             look.isEmpty() ? QString() : QStringLiteral("<w:rPr>%1</w:rPr>").arg(look));
+            look.isEmpty() ? QString() : QStringLiteral("<w:rPr>%1</w:rPr>").arg(look));
 }
 
 QString styled(const QString &id, const QString &text)
@@ -162,20 +170,22 @@ clsTestDocument withStyles(const QString &body, const QString &styles)
 
 TEST(JoinedStyles, TheVerySameStylesAreLeftAlone)
 {
-    const QString styles = NormalStyle.arg(20) + style(QStringLiteral("A"), QStringLiteral("Answer"), QStringLiteral("<w:i/>"));
+    const QString styles
+        = NormalStyle.arg(20) + style(QStringLiteral("A"), QStringLiteral("Answer"), QStringLiteral("<w:i/>"));
     const clsJoin join({withStyles(styled(QStringLiteral("A"), QStringLiteral("1")), styles),
-                        withStyles(styled(QStringLiteral("A"), QStringLiteral("2")), styles)});
+        withStyles(styled(QStringLiteral("A"), QStringLiteral("2")), styles)});
     EXPECT_EQ(join.part(QStringLiteral("word/styles.xml")), styles);
     EXPECT_EQ(join.body().count(QStringLiteral("<w:pStyle w:val=\"A\"/>")), 2);
 }
 
 TEST(JoinedStyles, EqualStylesAreSharedWhateverTheirIdsAndWhateverElseTheListHolds)
 {
-    const clsJoin join({withStyles(styled(QStringLiteral("A"), QStringLiteral("1")),
-                                   NormalStyle.arg(20) + style(QStringLiteral("A"), QStringLiteral("Answer"), QStringLiteral("<w:i/>"))),
-                        withStyles(styled(QStringLiteral("Antwort"), QStringLiteral("2")),
-                                   NormalStyle.arg(20) + style(QStringLiteral("Other"), QStringLiteral("Other"), QStringLiteral("<w:b/>"))
-                                       + style(QStringLiteral("Antwort"), QStringLiteral("Answer"), QStringLiteral("<w:i/>")))});
+    const clsJoin join(
+        {withStyles(styled(QStringLiteral("A"), QStringLiteral("1")),
+             NormalStyle.arg(20) + style(QStringLiteral("A"), QStringLiteral("Answer"), QStringLiteral("<w:i/>"))),
+            withStyles(styled(QStringLiteral("Antwort"), QStringLiteral("2")),
+                NormalStyle.arg(20) + style(QStringLiteral("Other"), QStringLiteral("Other"), QStringLiteral("<w:b/>"))
+                    + style(QStringLiteral("Antwort"), QStringLiteral("Answer"), QStringLiteral("<w:i/>")))});
     EXPECT_EQ(join.body().count(QStringLiteral("<w:pStyle w:val=\"A\"/>")), 2);
     EXPECT_EQ(join.part(QStringLiteral("word/styles.xml")).count(QStringLiteral("<w:style ")), 2);
 }
@@ -183,16 +193,18 @@ TEST(JoinedStyles, EqualStylesAreSharedWhateverTheirIdsAndWhateverElseTheListHol
 TEST(JoinedStyles, DifferentStylesOfTheSameNameAreKeptApart)
 {
     const clsTestDocument second = withStyles(styled(QStringLiteral("A"), QStringLiteral("2")),
-                                              NormalStyle.arg(20) + style(QStringLiteral("A"), QStringLiteral("Answer"), QStringLiteral("<w:b/>")));
-    const clsJoin join({withStyles(styled(QStringLiteral("A"), QStringLiteral("1")),
-                                   NormalStyle.arg(20) + style(QStringLiteral("A"), QStringLiteral("Answer"), QStringLiteral("<w:i/>"))),
-                        second, second});
+        NormalStyle.arg(20) + style(QStringLiteral("A"), QStringLiteral("Answer"), QStringLiteral("<w:b/>")));
+    const clsJoin join(
+        {withStyles(styled(QStringLiteral("A"), QStringLiteral("1")),
+             NormalStyle.arg(20) + style(QStringLiteral("A"), QStringLiteral("Answer"), QStringLiteral("<w:i/>"))),
+            second, second});
     EXPECT_EQ(join.body().count(QStringLiteral("<w:pStyle w:val=\"A\"/>")), 1);
     EXPECT_EQ(join.body().count(QStringLiteral("<w:pStyle w:val=\"A_2\"/>")), 2); // and shared by those that agree
     const QString styles = join.part(QStringLiteral("word/styles.xml"));
     EXPECT_TRUE(styles.endsWith(QStringLiteral(
         "<w:style w:type=\"paragraph\" w:styleId=\"A_2\" w:customStyle=\"1\"><w:name w:val=\"Answer (2)\"/>"
-        "<w:basedOn w:val=\"Normal\"/><w:rPr><w:b/></w:rPr></w:style>"))) << styles.toStdString();
+        "<w:basedOn w:val=\"Normal\"/><w:rPr><w:b/></w:rPr></w:style>")))
+        << styles.toStdString();
 }
 
 TEST(JoinedStyles, AStyleDiffersWhenWhatItIsBasedOnDiffers)
@@ -202,58 +214,71 @@ TEST(JoinedStyles, AStyleDiffersWhenWhatItIsBasedOnDiffers)
             + style(QStringLiteral("A"), QStringLiteral("Answer"), QString(), QStringLiteral("B"));
     };
     const clsJoin join({withStyles(styled(QStringLiteral("A"), QStringLiteral("1")), chain(QStringLiteral("<w:i/>"))),
-                        withStyles(styled(QStringLiteral("A"), QStringLiteral("2")), chain(QStringLiteral("<w:b/>")))});
+        withStyles(styled(QStringLiteral("A"), QStringLiteral("2")), chain(QStringLiteral("<w:b/>")))});
     EXPECT_EQ(join.body().count(QStringLiteral("<w:pStyle w:val=\"A_2\"/>")), 1);
-    EXPECT_TRUE(join.part(QStringLiteral("word/styles.xml")).contains(QStringLiteral("<w:name w:val=\"Answer (2)\"/><w:basedOn w:val=\"B_2\"/>")));
+    EXPECT_TRUE(join.part(QStringLiteral("word/styles.xml"))
+                    .contains(QStringLiteral("<w:name w:val=\"Answer (2)\"/><w:basedOn w:val=\"B_2\"/>")));
 }
 
 TEST(JoinedStyles, WhatNamesNoStyleKeepsItsOwnDocumentsDefault)
 {
-    const clsJoin join({withStyles(p(QStringLiteral("1")), NormalStyle.arg(20)), withStyles(p(QStringLiteral("2")), NormalStyle.arg(30))});
+    const clsJoin join({withStyles(p(QStringLiteral("1")), NormalStyle.arg(20)),
+        withStyles(p(QStringLiteral("2")), NormalStyle.arg(30))});
     EXPECT_TRUE(join.body().contains(styled(QStringLiteral("Normal_2"), QStringLiteral("2"))));
     EXPECT_TRUE(join.part(QStringLiteral("word/styles.xml"))
-                    .contains(QStringLiteral("w:styleId=\"Normal_2\" w:customStyle=\"1\"><w:name w:val=\"Normal (2)\"/><w:rPr><w:sz w:val=\"30\"/>")));
+                    .contains(QStringLiteral("w:styleId=\"Normal_2\" w:customStyle=\"1\"><w:name w:val=\"Normal "
+                                             "(2)\"/><w:rPr><w:sz w:val=\"30\"/>")));
 }
 
 TEST(JoinedStyles, DifferentDefaultsOfTheDocumentsBecomePartOfTheLowestStyle)
 {
-    const QString defaults = QStringLiteral("<w:docDefaults><w:rPrDefault><w:rPr><w:i/><w:sz w:val=\"44\"/></w:rPr></w:rPrDefault></w:docDefaults>");
-    const clsJoin join({withStyles(p(QStringLiteral("1")), NormalStyle.arg(20)), withStyles(p(QStringLiteral("2")), defaults + NormalStyle.arg(20))});
+    const QString defaults = QStringLiteral(
+        "<w:docDefaults><w:rPrDefault><w:rPr><w:i/><w:sz w:val=\"44\"/></w:rPr></w:rPrDefault></w:docDefaults>");
+    const clsJoin join({withStyles(p(QStringLiteral("1")), NormalStyle.arg(20)),
+        withStyles(p(QStringLiteral("2")), defaults + NormalStyle.arg(20))});
     EXPECT_TRUE(join.body().contains(styled(QStringLiteral("Normal_2"), QStringLiteral("2"))));
-    EXPECT_TRUE(join.part(QStringLiteral("word/styles.xml")).endsWith(QStringLiteral(
-        "<w:name w:val=\"Normal (2)\"/><w:pPr><w:spacing w:before=\"0\" w:after=\"0\" w:line=\"240\" w:lineRule=\"auto\"/></w:pPr>"
-        "<w:rPr><w:i/><w:sz w:val=\"20\"/><w:szCs w:val=\"20\"/></w:rPr></w:style>"))) << join.part(QStringLiteral("word/styles.xml")).toStdString();
+    EXPECT_TRUE(
+        join.part(QStringLiteral("word/styles.xml"))
+            .endsWith(QStringLiteral("<w:name w:val=\"Normal (2)\"/><w:pPr><w:spacing w:before=\"0\" w:after=\"0\" "
+                                     "w:line=\"240\" w:lineRule=\"auto\"/></w:pPr>"
+                                     "<w:rPr><w:i/><w:sz w:val=\"20\"/><w:szCs w:val=\"20\"/></w:rPr></w:style>")))
+        << join.part(QStringLiteral("word/styles.xml")).toStdString();
 }
 
 TEST(JoinedStyles, AReferenceToNoStyleDoesNotBecomeOneByChance)
 {
-    const clsJoin join({withStyles(p(QStringLiteral("1")), NormalStyle.arg(20) + style(QStringLiteral("Ghost"), QStringLiteral("Ghost"), QString())),
-                        withStyles(styled(QStringLiteral("Ghost"), QStringLiteral("2")), NormalStyle.arg(20))});
+    const clsJoin join({withStyles(p(QStringLiteral("1")),
+                            NormalStyle.arg(20) + style(QStringLiteral("Ghost"), QStringLiteral("Ghost"), QString())),
+        withStyles(styled(QStringLiteral("Ghost"), QStringLiteral("2")), NormalStyle.arg(20))});
     EXPECT_FALSE(join.body().contains(QStringLiteral("Ghost")));
 }
 
 TEST(JoinedStyles, ADocumentWithoutStylesTakesThoseOfTheOther)
 {
-    const clsJoin join({sheet(QStringLiteral("1")), withStyles(styled(QStringLiteral("A"), QStringLiteral("2")), style(QStringLiteral("A"), QStringLiteral("Answer"), QStringLiteral("<w:b/>"), QString()))});
+    const clsJoin join({sheet(QStringLiteral("1")),
+        withStyles(styled(QStringLiteral("A"), QStringLiteral("2")),
+            style(QStringLiteral("A"), QStringLiteral("Answer"), QStringLiteral("<w:b/>"), QString()))});
     EXPECT_TRUE(join.part(QStringLiteral("word/styles.xml")).contains(QStringLiteral("w:styleId=\"A\"")));
 }
 
 TEST(JoinedStyles, StylesThatAreBasedOnOneAnotherInACircleAreNoTrap)
 {
-    const QString circle = style(QStringLiteral("A"), QStringLiteral("A"), QStringLiteral("<w:%1/>"), QStringLiteral("B"))
+    const QString circle
+        = style(QStringLiteral("A"), QStringLiteral("A"), QStringLiteral("<w:%1/>"), QStringLiteral("B"))
         + style(QStringLiteral("B"), QStringLiteral("B"), QString(), QStringLiteral("A"));
     const clsJoin join({withStyles(styled(QStringLiteral("A"), QStringLiteral("{x}")), circle.arg(QStringLiteral("i"))),
-                        withStyles(styled(QStringLiteral("B"), QStringLiteral("2")), circle.arg(QStringLiteral("b")))});
+        withStyles(styled(QStringLiteral("B"), QStringLiteral("2")), circle.arg(QStringLiteral("b")))});
     EXPECT_TRUE(join.body().contains(QStringLiteral("<w:pStyle w:val=\"B_2\"/>")));
 }
 
-const QString Numbering = QStringLiteral(
-    "<w:abstractNum w:abstractNumId=\"0\"><w:nsid w:val=\"00000001\"/><w:lvl w:ilvl=\"0\"><w:numFmt w:val=\"decimal\"/></w:lvl></w:abstractNum>"
-    "<w:num w:numId=\"1\"><w:abstractNumId w:val=\"0\"/></w:num>");
+const QString Numbering = QStringLiteral("<w:abstractNum w:abstractNumId=\"0\"><w:nsid w:val=\"00000001\"/><w:lvl "
+                                         "w:ilvl=\"0\"><w:numFmt w:val=\"decimal\"/></w:lvl></w:abstractNum>"
+                                         "<w:num w:numId=\"1\"><w:abstractNumId w:val=\"0\"/></w:num>");
 
 QString listed(int numId)
 {
-    return QStringLiteral("<w:p><w:pPr><w:numPr><w:ilvl w:val=\"0\"/><w:numId w:val=\"%1\"/></w:numPr></w:pPr></w:p>").arg(numId);
+    return QStringLiteral("<w:p><w:pPr><w:numPr><w:ilvl w:val=\"0\"/><w:numId w:val=\"%1\"/></w:numPr></w:pPr></w:p>")
+        .arg(numId);
 }
 
 clsTestDocument withList(int numId = 1)
@@ -289,16 +314,21 @@ TEST(JoinedLists, NoListStaysNoListAndANumberOfNoListBecomesNone)
 clsTestDocument withImage(const QByteArray &image, const QString &name = QStringLiteral("word/media/image1.png"))
 {
     clsTestDocument document(
-        QStringLiteral("<w:p><w:r><w:drawing xmlns:wp=\"http://schemas.openxmlformats.org/drawingml/2006/wordprocessingDrawing\" "
-                       "xmlns:a=\"http://schemas.openxmlformats.org/drawingml/2006/main\"><wp:inline><wp:docPr id=\"1\" name=\"P\"/>"
-                       "<a:blip r:embed=\"rId7\"/></wp:inline></w:drawing></w:r></w:p>") + p() + section(page(100)));
-    document.parts.push_back({name, image, QStringLiteral("image/png"), QStringLiteral("image"), QStringLiteral("rId7")});
+        QStringLiteral(
+            "<w:p><w:r><w:drawing xmlns:wp=\"http://schemas.openxmlformats.org/drawingml/2006/wordprocessingDrawing\" "
+            "xmlns:a=\"http://schemas.openxmlformats.org/drawingml/2006/main\"><wp:inline><wp:docPr id=\"1\" "
+            "name=\"P\"/>"
+            "<a:blip r:embed=\"rId7\"/></wp:inline></w:drawing></w:r></w:p>")
+        + p() + section(page(100)));
+    document.parts.push_back(
+        {name, image, QStringLiteral("image/png"), QStringLiteral("image"), QStringLiteral("rId7")});
     return document;
 }
 
 TEST(JoinedParts, PicturesComeAlongAndEqualOnesAreThereOnce)
 {
-    const clsJoin join({withImage("one"), withImage("two"), withImage("one", QStringLiteral("word/media/logo.png")), withImage("two")});
+    const clsJoin join({withImage("one"), withImage("two"), withImage("one", QStringLiteral("word/media/logo.png")),
+        withImage("two")});
     QStringList media = join.parts().filter(QStringLiteral("media"));
     EXPECT_EQ(media, (QStringList{QStringLiteral("word/media/image1.png"), QStringLiteral("word/media/image2.png")}));
     const clsZipPackage zip = clsZipPackage::fromFile(join.path);
@@ -309,7 +339,9 @@ TEST(JoinedParts, PicturesComeAlongAndEqualOnesAreThereOnce)
 
 TEST(JoinedParts, LinksToTheWebStayLinks)
 {
-    clsTestDocument document(QStringLiteral("<w:p><w:hyperlink r:id=\"rIdX1\">%1</w:hyperlink></w:p>").arg(r(QStringLiteral("link"))) + section(page(100)));
+    clsTestDocument document(
+        QStringLiteral("<w:p><w:hyperlink r:id=\"rIdX1\">%1</w:hyperlink></w:p>").arg(r(QStringLiteral("link")))
+        + section(page(100)));
     document.externalLinks = QStringList{QStringLiteral("https://example.org/?a=1&amp;b=2")};
     const clsJoin join({sheet(QStringLiteral("a")), document, document});
     clsWordPackage package = clsWordPackage::fromFile(join.path);
@@ -322,9 +354,14 @@ TEST(JoinedParts, PartsOfPartsComeAlongWithTheirOwnRelationships)
 {
     // A chart with a workbook, as one part that refers to another.
     clsTestDocument document(QStringLiteral("<w:p><w:r><w:object r:id=\"rId9\"/></w:r></w:p>") + section(page(100)));
-    document.parts.push_back({QStringLiteral("word/charts/chart1.xml"), "<c r:id='rId1' xmlns:r='x'/>", QStringLiteral("application/chart+xml"), QStringLiteral("chart"), QStringLiteral("rId9")});
-    document.parts.push_back({QStringLiteral("word/embeddings/book1.xlsx"), "book", QStringLiteral("application/book"), QString(), QString()});
-    document.parts.push_back({QStringLiteral("word/charts/_rels/chart1.xml.rels"), clsTestDocument::relationships(QStringLiteral("<Relationship Id=\"rId1\" Type=\"t/package\" Target=\"../embeddings/book1.xlsx\"/>")), QStringLiteral("application/vnd.openxmlformats-package.relationships+xml"), QString(), QString()});
+    document.parts.push_back({QStringLiteral("word/charts/chart1.xml"), "<c r:id='rId1' xmlns:r='x'/>",
+        QStringLiteral("application/chart+xml"), QStringLiteral("chart"), QStringLiteral("rId9")});
+    document.parts.push_back({QStringLiteral("word/embeddings/book1.xlsx"), "book", QStringLiteral("application/book"),
+        QString(), QString()});
+    document.parts.push_back({QStringLiteral("word/charts/_rels/chart1.xml.rels"),
+        clsTestDocument::relationships(
+            QStringLiteral("<Relationship Id=\"rId1\" Type=\"t/package\" Target=\"../embeddings/book1.xlsx\"/>")),
+        QStringLiteral("application/vnd.openxmlformats-package.relationships+xml"), QString(), QString()});
     const clsJoin join({sheet(QStringLiteral("a")), document});
     EXPECT_TRUE(join.parts().contains(QStringLiteral("word/embeddings/book1.xlsx")));
     clsWordPackage package = clsWordPackage::fromFile(join.path);
@@ -355,16 +392,19 @@ TEST(JoinedParts, ADocumentWithAMissingPartIsRefusedAndTheTargetStaysAsItWas)
 
 clsTestDocument withFooter(const QString &text, const char *type = "default")
 {
-    clsTestDocument document(p(text) + section(QStringLiteral("<w:footerReference w:type=\"%1\" r:id=\"rId7\"/>").arg(QLatin1String(type)) + page(100)));
+    clsTestDocument document(p(text)
+        + section(
+            QStringLiteral("<w:footerReference w:type=\"%1\" r:id=\"rId7\"/>").arg(QLatin1String(type)) + page(100)));
     document.parts.push_back({QStringLiteral("word/footer1.xml"), clsTestDocument::root("w:ftr", p(text)),
-                              QStringLiteral("application/vnd.openxmlformats-officedocument.wordprocessingml.footer+xml"),
-                              QStringLiteral("footer"), QStringLiteral("rId7")});
+        QStringLiteral("application/vnd.openxmlformats-officedocument.wordprocessingml.footer+xml"),
+        QStringLiteral("footer"), QStringLiteral("rId7")});
     return document;
 }
 
 TEST(JoinedFooters, EachDocumentKeepsItsOwnAndEqualOnesAreShared)
 {
-    const clsJoin join({withFooter(QStringLiteral("one")), withFooter(QStringLiteral("two")), withFooter(QStringLiteral("one"))});
+    const clsJoin join(
+        {withFooter(QStringLiteral("one")), withFooter(QStringLiteral("two")), withFooter(QStringLiteral("one"))});
     EXPECT_EQ(join.parts().filter(QStringLiteral("footer")).size(), 2);
     EXPECT_EQ(join.part(QStringLiteral("word/footer1.xml")), p(QStringLiteral("one")));
     EXPECT_EQ(join.part(QStringLiteral("word/footer2.xml")), p(QStringLiteral("two")));
@@ -373,7 +413,8 @@ TEST(JoinedFooters, EachDocumentKeepsItsOwnAndEqualOnesAreShared)
 
 TEST(JoinedFooters, ADocumentWithoutAFooterDoesNotTakeTheOneBefore)
 {
-    const clsJoin join({withFooter(QStringLiteral("one")), sheet(QStringLiteral("b")), sheet(QStringLiteral("c")), withFooter(QStringLiteral("four"), "first")});
+    const clsJoin join({withFooter(QStringLiteral("one")), sheet(QStringLiteral("b")), sheet(QStringLiteral("c")),
+        withFooter(QStringLiteral("four"), "first")});
     EXPECT_EQ(join.part(QStringLiteral("word/footer2.xml")), QStringLiteral("<w:p/>"));
     // The empty one for both that have none, and for the last one's default footer.
     EXPECT_EQ(join.body().count(QStringLiteral("<w:footerReference w:type=\"default\" r:id=\"rId8\"/>")), 3);
@@ -381,16 +422,21 @@ TEST(JoinedFooters, ADocumentWithoutAFooterDoesNotTakeTheOneBefore)
 
 TEST(JoinedIdentities, PicturesBookmarksAndControlsAreNumberedAnew)
 {
-    clsTestDocument document(QStringLiteral(
-        "<w:p><w:bookmarkStart w:id=\"0\" w:name=\"Total\"/><w:bookmarkEnd w:id=\"0\"/>"
-        "<w:hyperlink w:anchor=\"Total\"/><w:r><w:instrText>REF Total \\h</w:instrText></w:r>"
-        "<w:bookmarkStart w:id=\"1\" w:name=\"_GoBack\"/><w:bookmarkEnd w:id=\"1\"/></w:p>"
-        "<w:sdt><w:sdtPr><w:id w:val=\"5\"/><w:dataBinding w:xpath=\"x\"/></w:sdtPr><w:sdtContent><w:p/></w:sdtContent></w:sdt>") + p() + section(page(100)));
+    clsTestDocument document(
+        QStringLiteral("<w:p><w:bookmarkStart w:id=\"0\" w:name=\"Total\"/><w:bookmarkEnd w:id=\"0\"/>"
+                       "<w:hyperlink w:anchor=\"Total\"/><w:r><w:instrText>REF Total \\h</w:instrText></w:r>"
+                       "<w:bookmarkStart w:id=\"1\" w:name=\"_GoBack\"/><w:bookmarkEnd w:id=\"1\"/></w:p>"
+                       "<w:sdt><w:sdtPr><w:id w:val=\"5\"/><w:dataBinding "
+                       "w:xpath=\"x\"/></w:sdtPr><w:sdtContent><w:p/></w:sdtContent></w:sdt>")
+        + p() + section(page(100)));
     clsTestDocument first = document;
     first.body.remove(QStringLiteral("<w:bookmarkStart w:id=\"1\" w:name=\"_GoBack\"/><w:bookmarkEnd w:id=\"1\"/>"));
     const clsJoin join({first, document, document});
     const QString body = join.body();
-    EXPECT_TRUE(body.contains(QStringLiteral("<w:bookmarkStart w:id=\"1\" w:name=\"Total_2\"/><w:bookmarkEnd w:id=\"1\"/><w:hyperlink w:anchor=\"Total_2\"/><w:r><w:instrText>REF Total_2 \\h</w:instrText></w:r></w:p>"))) << body.toStdString();
+    EXPECT_TRUE(body.contains(
+        QStringLiteral("<w:bookmarkStart w:id=\"1\" w:name=\"Total_2\"/><w:bookmarkEnd w:id=\"1\"/><w:hyperlink "
+                       "w:anchor=\"Total_2\"/><w:r><w:instrText>REF Total_2 \\h</w:instrText></w:r></w:p>")))
+        << body.toStdString();
     EXPECT_TRUE(body.contains(QStringLiteral("w:name=\"Total_3\"")));
     EXPECT_TRUE(body.contains(QStringLiteral("<w:sdtPr><w:id w:val=\"7\"/></w:sdtPr>")));
     EXPECT_FALSE(body.contains(QStringLiteral("_GoBack")));
@@ -398,11 +444,14 @@ TEST(JoinedIdentities, PicturesBookmarksAndControlsAreNumberedAnew)
 
 TEST(JoinedIdentities, HistoryAndCommentsStayBehind)
 {
-    clsTestDocument document(QStringLiteral(
-        "<w:p w:rsidR=\"00AA\" w14:paraId=\"01\" w14:textId=\"02\"><w:commentRangeStart w:id=\"0\"/><w:r w:rsidRPr=\"00BB\"><w:t>a</w:t></w:r>"
-        "<w:commentRangeEnd w:id=\"0\"/><w:r><w:rPr/><w:commentReference w:id=\"0\"/></w:r></w:p>") + section(page(100)));
-    document.rootAttributes = QStringLiteral("xmlns:w14=\"http://schemas.microsoft.com/office/word/2010/wordml\" "
-                                             "xmlns:mc=\"http://schemas.openxmlformats.org/markup-compatibility/2006\" mc:Ignorable=\"w14\"");
+    clsTestDocument document(
+        QStringLiteral("<w:p w:rsidR=\"00AA\" w14:paraId=\"01\" w14:textId=\"02\"><w:commentRangeStart "
+                       "w:id=\"0\"/><w:r w:rsidRPr=\"00BB\"><w:t>a</w:t></w:r>"
+                       "<w:commentRangeEnd w:id=\"0\"/><w:r><w:rPr/><w:commentReference w:id=\"0\"/></w:r></w:p>")
+        + section(page(100)));
+    document.rootAttributes = QStringLiteral(
+        "xmlns:w14=\"http://schemas.microsoft.com/office/word/2010/wordml\" "
+        "xmlns:mc=\"http://schemas.openxmlformats.org/markup-compatibility/2006\" mc:Ignorable=\"w14\"");
     const clsJoin join({sheet(QStringLiteral("x")), document});
     EXPECT_TRUE(join.body().endsWith(QStringLiteral("<w:p><w:r><w:t>a</w:t></w:r></w:p>") + section(page(100))));
 }
@@ -411,10 +460,14 @@ TEST(JoinedNamespaces, PrefixesAreDeclaredAndOnesThatClashAreRenamed)
 {
     const auto document = [](const QString &meaning) {
         clsTestDocument made(QStringLiteral("<w:p><x:note x:kind=\"k\"/></w:p>") + section(page(100)));
-        made.rootAttributes = QStringLiteral("xmlns:x=\"urn:%1\" xmlns:mc=\"http://schemas.openxmlformats.org/markup-compatibility/2006\" mc:Ignorable=\"x\"").arg(meaning);
+        made.rootAttributes = QStringLiteral(
+            "xmlns:x=\"urn:%1\" xmlns:mc=\"http://schemas.openxmlformats.org/markup-compatibility/2006\" "
+            "mc:Ignorable=\"x\"")
+                                  .arg(meaning);
         return made;
     };
-    const clsJoin join({sheet(QStringLiteral("a")), document(QStringLiteral("one")), document(QStringLiteral("two")), document(QStringLiteral("two"))});
+    const clsJoin join({sheet(QStringLiteral("a")), document(QStringLiteral("one")), document(QStringLiteral("two")),
+        document(QStringLiteral("two"))});
     EXPECT_EQ(join.body().count(QStringLiteral("<x:note x:kind=\"k\"/>")), 1);
     EXPECT_EQ(join.body().count(QStringLiteral("<x2:note x2:kind=\"k\"/>")), 2);
     clsWordPackage package = clsWordPackage::fromFile(join.path);
@@ -430,14 +483,17 @@ TEST(InsertFileAtEnd, ADocumentWithFootnotesIsRefusedRatherThanAppendedWithoutTh
     const clsUserInterfaceScope scope(user);
     clsMSWord word;
     word.OpenDocument(folder.write(QStringLiteral("a.doc"), sheet(QStringLiteral("a"))));
-    word.InsertFileAtEnd(folder.write(QStringLiteral("b.doc"), clsTestDocument(QStringLiteral("<w:p><w:r><w:footnoteReference w:id=\"2\"/></w:r></w:p>"))));
+    word.InsertFileAtEnd(folder.write(QStringLiteral("b.doc"),
+        clsTestDocument(QStringLiteral("<w:p><w:r><w:footnoteReference w:id=\"2\"/></w:r></w:p>"))));
     ASSERT_EQ(user.messages.size(), 1u);
-    EXPECT_TRUE(user.messages[0].text.contains(QStringLiteral("holds footnotes or endnotes, so that it can't be appended to another.")));
+    EXPECT_TRUE(user.messages[0].text.contains(
+        QStringLiteral("holds footnotes or endnotes, so that it can't be appended to another.")));
 }
 
 TEST(InsertFileAtEnd, TheJoinedDocumentCanBeEditedFromItsStart)
 {
-    const auto made = [](const QString &text) { return clsTestDocument(p(text) + p(QStringLiteral("{x}")) + section(page(100))); };
+    const auto made
+        = [](const QString &text) { return clsTestDocument(p(text) + p(QStringLiteral("{x}")) + section(page(100))); };
     const clsTestFolder folder;
     const QString path = folder.write(QStringLiteral("a.doc"), made(QStringLiteral("a &lt;&amp;&gt; {y}")));
     const QString b = folder.write(QStringLiteral("b.doc"), made(QStringLiteral("b {y}")));
@@ -490,7 +546,9 @@ std::vector<clsTestDocument> manySheets(int count)
         rows += p(QStringLiteral("Row %1").arg(i));
     std::vector<clsTestDocument> sheets;
     for (int i = 0; i < count; ++i) {
-        clsTestDocument made = i % 3 == 0 ? withList() : i % 3 == 1 ? withImage("image" + QByteArray::number(i % 5)) : withFooter(QStringLiteral("f%1").arg(i % 4));
+        clsTestDocument made = i % 3 == 0 ? withList()
+            : i % 3 == 1                  ? withImage("image" + QByteArray::number(i % 5))
+                                          : withFooter(QStringLiteral("f%1").arg(i % 4));
         made.body = rows + made.body;
         sheets.push_back(made);
     }

@@ -3,7 +3,8 @@
 
 #include <zlib.h>
 
-namespace {
+namespace
+{
 
 QByteArray number(quint32 value, int bytes)
 {
@@ -60,7 +61,9 @@ QString complaintAbout(const QByteArray &bytes)
     const QString text = user.messages.empty() ? QString() : user.messages[0].text;
     const qsizetype from = text.indexOf(QLatin1String("Error Number: "));
     const qsizetype to = text.indexOf(QLatin1String("\r\nSubroutine"));
-    return text.mid(from, to - from).replace(path, QLatin1String("X.doc")).replace(QLatin1String("\r\n"), QLatin1String(" | "));
+    return text.mid(from, to - from)
+        .replace(path, QLatin1String("X.doc"))
+        .replace(QLatin1String("\r\n"), QLatin1String(" | "));
 }
 
 const QString Complaint = QStringLiteral("Error Number: 321 | Error Description: The document X.doc ");
@@ -88,14 +91,16 @@ TEST(HostilePackages, WhatIsNoPackageIsNoWordDocument)
         clsZipPackage zip;
         zip.add(QStringLiteral("a.txt"), "a");
         return zip;
-    }())), NotWord);
+    }())),
+        NotWord);
 }
 
 TEST(HostilePackages, TheOlderBinaryFormatIsRefusedByName)
 {
     EXPECT_EQ(complaintAbout(QByteArray::fromHex("D0CF11E0A1B11AE1") + QByteArray(600, '\0')),
-              Complaint + QStringLiteral("is in the older binary format or protected by a password. Please save it again "
-                                         "as a Word 2007 document without a password."));
+        Complaint
+            + QStringLiteral("is in the older binary format or protected by a password. Please save it again "
+                             "as a Word 2007 document without a password."));
 }
 
 TEST(HostilePackages, ACutOffPackageIsDamaged)
@@ -157,7 +162,8 @@ TEST(HostilePackages, NamesThatPointOutsideAreRefused)
 {
     for (const char *name : {"../evil", "word/../../evil", "/etc/evil", "word\\evil", "C:/evil", "a/./b"})
         EXPECT_EQ(complaintAbout(rawZip({stored(name, "x")})),
-                  Complaint + QStringLiteral("holds a part whose name points outside the document.")) << name;
+            Complaint + QStringLiteral("holds a part whose name points outside the document."))
+            << name;
 }
 
 TEST(HostilePackages, TwoPartsOfOneNameAreDamage)
@@ -184,9 +190,12 @@ TEST(HostilePackages, AMissingMainPartIsDamage)
 
 TEST(HostilePackages, ARelationshipThatLeavesThePackageIsDamage)
 {
-    EXPECT_EQ(complaintAbout(packed(with(QStringLiteral("_rels/.rels"), clsTestDocument::relationships(QStringLiteral(
-        "<Relationship Id=\"rId1\" Type=\"http://schemas.openxmlformats.org/officeDocument/2006/relationships/officeDocument\" "
-        "Target=\"../../word/document.xml\"/>"))))), Damaged);
+    EXPECT_EQ(complaintAbout(packed(with(QStringLiteral("_rels/.rels"),
+                  clsTestDocument::relationships(QStringLiteral(
+                      "<Relationship Id=\"rId1\" "
+                      "Type=\"http://schemas.openxmlformats.org/officeDocument/2006/relationships/officeDocument\" "
+                      "Target=\"../../word/document.xml\"/>"))))),
+        Damaged);
 }
 
 TEST(HostilePackages, XmlThatIsNotWellFormedIsDamage)
@@ -221,18 +230,24 @@ TEST(HostilePackages, EntitiesAreNotExpanded)
 TEST(HostilePackages, AnotherKindOfOfficeDocumentIsNoWordDocument)
 {
     EXPECT_EQ(complaintAbout(packed(with(QStringLiteral("word/document.xml"),
-                                         "<workbook xmlns=\"http://schemas.openxmlformats.org/spreadsheetml/2006/main\"/>"))), NotWord);
+                  "<workbook xmlns=\"http://schemas.openxmlformats.org/spreadsheetml/2006/main\"/>"))),
+        NotWord);
 }
 
 TEST(HostilePackages, TheStrictFormIsRefusedWithAdvice)
 {
-    const QString strict = Complaint + QStringLiteral("is in the strict form of its format, which is not supported. "
-                                                      "Please save it again as an ordinary Word document.");
+    const QString strict = Complaint
+        + QStringLiteral("is in the strict form of its format, which is not supported. "
+                         "Please save it again as an ordinary Word document.");
     EXPECT_EQ(complaintAbout(packed(with(QStringLiteral("word/document.xml"),
-                                         "<w:document xmlns:w=\"http://purl.oclc.org/ooxml/wordprocessingml/main\"><w:body/></w:document>"))), strict);
-    EXPECT_EQ(complaintAbout(packed(with(QStringLiteral("_rels/.rels"), clsTestDocument::relationships(QStringLiteral(
-        "<Relationship Id=\"rId1\" Type=\"http://purl.oclc.org/ooxml/officeDocument/relationships/officeDocument\" "
-        "Target=\"word/document.xml\"/>"))))), strict);
+                  "<w:document xmlns:w=\"http://purl.oclc.org/ooxml/wordprocessingml/main\"><w:body/></w:document>"))),
+        strict);
+    EXPECT_EQ(complaintAbout(packed(with(QStringLiteral("_rels/.rels"),
+                  clsTestDocument::relationships(
+                      QStringLiteral("<Relationship Id=\"rId1\" "
+                                     "Type=\"http://purl.oclc.org/ooxml/officeDocument/relationships/officeDocument\" "
+                                     "Target=\"word/document.xml\"/>"))))),
+        strict);
 }
 
 TEST(HostilePackages, AFolderUnderTheNameIsAnAccessError)
@@ -258,8 +273,9 @@ TEST(clsZipPackage, KeepsTheOrderThatReadersExpect)
         names << entry.name;
         EXPECT_EQ(entry.bytes, entry.name.toLatin1());
     }
-    EXPECT_EQ(names, (QStringList{QStringLiteral("[Content_Types].xml"), QStringLiteral("_rels/.rels"),
-                                  QStringLiteral("word/document.xml"), QStringLiteral("a.xml"), QStringLiteral("word/styles.xml")}));
+    EXPECT_EQ(names,
+        (QStringList{QStringLiteral("[Content_Types].xml"), QStringLiteral("_rels/.rels"),
+            QStringLiteral("word/document.xml"), QStringLiteral("a.xml"), QStringLiteral("word/styles.xml")}));
 }
 
 TEST(clsZipPackage, WritesTheSameBytesWhateverTheClockAndTheTimeZoneSay)
@@ -292,15 +308,19 @@ TEST(clsWordPackage, FindsTheMainPartByItsRelationshipWhateverItIsCalled)
 {
     clsTestDocument document(p(QStringLiteral("{x}")));
     document.mainName = QStringLiteral("other/place/story.xml");
-    EXPECT_EQ(plainAfterEditing(document, [](clsMSWord &w) { w.DoReplace(QStringLiteral("{x}"), QStringLiteral("y"), false, false, true); }),
-              QStringLiteral("y/"));
+    EXPECT_EQ(plainAfterEditing(document,
+                  [](clsMSWord &w) { w.DoReplace(QStringLiteral("{x}"), QStringLiteral("y"), false, false, true); }),
+        QStringLiteral("y/"));
 }
 
 TEST(clsWordPackage, LeavesUntouchedPartsAsTheyAreByteForByte)
 {
     clsTestDocument document(p(QStringLiteral("{x}")));
-    const QByteArray odd = "<?xml version='1.0'?>\r\n<!-- odd -->\n<w:styles   xmlns:w = 'http://schemas.openxmlformats.org/wordprocessingml/2006/main' ></w:styles>";
-    document.parts.push_back({QStringLiteral("word/styles.xml"), odd, QStringLiteral("application/vnd.openxmlformats-officedocument.wordprocessingml.styles+xml"), QStringLiteral("styles"), QStringLiteral("rId5")});
+    const QByteArray odd = "<?xml version='1.0'?>\r\n<!-- odd -->\n<w:styles   xmlns:w = "
+                           "'http://schemas.openxmlformats.org/wordprocessingml/2006/main' ></w:styles>";
+    document.parts.push_back({QStringLiteral("word/styles.xml"), odd,
+        QStringLiteral("application/vnd.openxmlformats-officedocument.wordprocessingml.styles+xml"),
+        QStringLiteral("styles"), QStringLiteral("rId5")});
     const clsTestFolder folder;
     const QString path = folder.write(QStringLiteral("a.doc"), document);
     clsMSWord word;
@@ -317,9 +337,11 @@ TEST(clsWordPackage, LeavesUntouchedPartsAsTheyAreByteForByte)
 
 TEST(clsWordPackage, KeepsBlanksBetweenAndInTexts)
 {
-    const QString body = QStringLiteral("<w:p><w:r><w:t xml:space=\"preserve\"> </w:t></w:r> <w:r><w:t>a</w:t></w:r></w:p><!-- c -->");
-    EXPECT_EQ(afterEditing(body + p(QStringLiteral("{x}")), [](clsMSWord &w) { w.DoReplace(QStringLiteral("{x}"), QStringLiteral("y"), false, false, true); }),
-              body + p(QStringLiteral("y")));
+    const QString body
+        = QStringLiteral("<w:p><w:r><w:t xml:space=\"preserve\"> </w:t></w:r> <w:r><w:t>a</w:t></w:r></w:p><!-- c -->");
+    EXPECT_EQ(afterEditing(body + p(QStringLiteral("{x}")),
+                  [](clsMSWord &w) { w.DoReplace(QStringLiteral("{x}"), QStringLiteral("y"), false, false, true); }),
+        body + p(QStringLiteral("y")));
 }
 
 TEST(clsWordPackage, ReadsUtf16AndWritesUtf8)

@@ -4,10 +4,12 @@
 
 #include <QFileInfo>
 
-namespace {
+namespace
+{
 
 /// Writes each event as a line.
-class clsRecorder final : public clsMSWordObserver {
+class clsRecorder final : public clsMSWordObserver
+{
 public:
     QStringList events;
 
@@ -25,7 +27,8 @@ public:
     void typed(const QString &text, bool tick, bool bold) override
     {
         events << QStringLiteral("typed '%1'%2%3")
-                      .arg(text, tick ? QStringLiteral(" tick") : QString(), bold ? QStringLiteral(" bold") : QString());
+                      .arg(
+                          text, tick ? QStringLiteral(" tick") : QString(), bold ? QStringLiteral(" bold") : QString());
     }
     void failed(const QString &what, const QString &value) override
     {
@@ -39,7 +42,8 @@ public:
 TEST(clsMSWordObserver, SeesEachOperationOnceWithTheTextsAsTyped)
 {
     const clsTestFolder folder;
-    const QString path = folder.write(QStringLiteral("a.doc"), clsTestDocument(p(QStringLiteral("{a}{b}{c}{d}")) + grid(2, 2) + p()));
+    const QString path
+        = folder.write(QStringLiteral("a.doc"), clsTestDocument(p(QStringLiteral("{a}{b}{c}{d}")) + grid(2, 2) + p()));
     const QString other = folder.write(QStringLiteral("b.doc"), clsTestDocument(p(QStringLiteral("b"))));
     clsRecorder recorder;
     const clsMSWordObserverScope scope(recorder);
@@ -64,27 +68,27 @@ TEST(clsMSWordObserver, SeesEachOperationOnceWithTheTextsAsTyped)
     word.TypeBackSpace();
     word.SaveAndClose();
     EXPECT_EQ(recorder.events,
-              (QStringList{
-                  QStringLiteral("opened a.doc"),
-                  QStringLiteral("replaced {a} '%1' tick").arg(QChar(0xFE)),
-                  QStringLiteral("replaced {b} ' '"),
-                  QStringLiteral("replaced {c} '1\v2'"),
-                  QStringLiteral("failed {d} 'no'"),
-                  QStringLiteral("down 2"),
-                  QStringLiteral("typed '1,234.50'"),
-                  QStringLiteral("right 1"),
-                  QStringLiteral("typed '' bold"),
-                  QStringLiteral("failed cell 'x'"),
-                  QStringLiteral("nextrow"),
-                  QStringLiteral("rowstart"),
-                  QStringLiteral("newpara"),
-                  QStringLiteral("tabs 1"),
-                  QStringLiteral("tabs 2"),
-                  QStringLiteral("inserted b.doc"),
-                  QStringLiteral("failed InsertFileAtEnd '%1'").arg(folder.path(QStringLiteral("none.doc"))),
-                  QStringLiteral("backspace"),
-                  QStringLiteral("saved"),
-              }));
+        (QStringList{
+            QStringLiteral("opened a.doc"),
+            QStringLiteral("replaced {a} '%1' tick").arg(QChar(0xFE)),
+            QStringLiteral("replaced {b} ' '"),
+            QStringLiteral("replaced {c} '1\v2'"),
+            QStringLiteral("failed {d} 'no'"),
+            QStringLiteral("down 2"),
+            QStringLiteral("typed '1,234.50'"),
+            QStringLiteral("right 1"),
+            QStringLiteral("typed '' bold"),
+            QStringLiteral("failed cell 'x'"),
+            QStringLiteral("nextrow"),
+            QStringLiteral("rowstart"),
+            QStringLiteral("newpara"),
+            QStringLiteral("tabs 1"),
+            QStringLiteral("tabs 2"),
+            QStringLiteral("inserted b.doc"),
+            QStringLiteral("failed InsertFileAtEnd '%1'").arg(folder.path(QStringLiteral("none.doc"))),
+            QStringLiteral("backspace"),
+            QStringLiteral("saved"),
+        }));
     EXPECT_TRUE(word.sheetLost());
 }
 

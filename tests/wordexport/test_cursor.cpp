@@ -1,7 +1,8 @@
 #include "tests/support/mdExpectError.h"
 #include "tests/wordexport/clsTestDocument.h"
 
-namespace {
+namespace
+{
 
 /// The document with a "#" typed where the cursor has come to.
 QString markedAfter(const QString &body, const std::function<void(clsMSWord &)> &moves)
@@ -47,7 +48,7 @@ TEST(MoveCursorDown, CountsBodyParagraphsRowsAndTheParagraphsOfTheFirstCell)
     // Down the first cells: one line each for the title and the first row, two for the second.
     const QString body = p(QStringLiteral("t"))
         + tbl({tr({tc(p(QStringLiteral("a"))), tc(p(QStringLiteral("b")) + p(QStringLiteral("c")))}),
-               tr({tc(p(QStringLiteral("d")) + p(QStringLiteral("e"))), tc(p(QStringLiteral("f")))})})
+            tr({tc(p(QStringLiteral("d")) + p(QStringLiteral("e"))), tc(p(QStringLiteral("f")))})})
         + p(QStringLiteral("g"));
     EXPECT_EQ(markedDown(body, 0), QStringLiteral("#t/a/|b/c/||d/e/|f/||g/"));
     EXPECT_EQ(markedDown(body, 1), QStringLiteral("t/#a/|b/c/||d/e/|f/||g/"));
@@ -71,7 +72,7 @@ TEST(MoveCursorDown, ALineBreakBeginsALine)
 TEST(MoveCursorDown, TheLinesOfARowAreThoseOfTheCellThatTheCursorIsIn)
 {
     const QString body = tbl({tr({tc(p(QStringLiteral("a")) + p(QStringLiteral("b"))), tc(p(QStringLiteral("c")))}),
-                              tr({tc(p(QStringLiteral("d"))), tc(p(QStringLiteral("e")))})})
+                             tr({tc(p(QStringLiteral("d"))), tc(p(QStringLiteral("e")))})})
         + p();
     const auto inSecondColumn = [&](int n) {
         return markedAfter(body, [n](clsMSWord &word) {
@@ -86,24 +87,26 @@ TEST(MoveCursorDown, TheLinesOfARowAreThoseOfTheCellThatTheCursorIsIn)
 TEST(MoveCursorDown, EntersASecondTableAtItsFirstCell)
 {
     const QString body = table({QStringLiteral("a b")}) + p(QStringLiteral("m")) + table({QStringLiteral("c d")}) + p();
-    EXPECT_EQ(markedAfter(body, [](clsMSWord &word) {
-        word.MoveCursorRight(1);
-        word.MoveCursorDown(2);
-    }), QStringLiteral("a/|b/||m/#c/|d/||/"));
+    EXPECT_EQ(markedAfter(body,
+                  [](clsMSWord &word) {
+                      word.MoveCursorRight(1);
+                      word.MoveCursorDown(2);
+                  }),
+        QStringLiteral("a/|b/||m/#c/|d/||/"));
 }
 
 TEST(MoveCursorDown, StopsAtTheLastLine)
 {
     EXPECT_EQ(markedDown(p(QStringLiteral("a")) + p(QStringLiteral("b")), 100), QStringLiteral("a/#b/"));
     EXPECT_EQ(markedDown(table({QStringLiteral("a b"), QStringLiteral("c d")}) + p(), 100),
-              QStringLiteral("a/|b/||c/|d/||#/"));
+        QStringLiteral("a/|b/||c/|d/||#/"));
 }
 
 TEST(MoveCursorDown, KeepsToItsGridColumnThroughWideCells)
 {
     const QString body = tbl({tr({tc(p(QStringLiteral("a"))), tc(p(QStringLiteral("b"))), tc(p(QStringLiteral("c")))}),
-                              tr({spanned(QStringLiteral("d"), 2), tc(p(QStringLiteral("e")))}),
-                              tr({tc(p(QStringLiteral("f"))), tc(p(QStringLiteral("g"))), tc(p(QStringLiteral("h")))})})
+                             tr({spanned(QStringLiteral("d"), 2), tc(p(QStringLiteral("e")))}),
+                             tr({tc(p(QStringLiteral("f"))), tc(p(QStringLiteral("g"))), tc(p(QStringLiteral("h")))})})
         + p();
     const auto from = [&](int right, int down) {
         return markedAfter(body, [=](clsMSWord &word) {
@@ -120,32 +123,38 @@ TEST(MoveCursorDown, KeepsToItsGridColumnThroughWideCells)
 TEST(MoveCursorDown, CountsTheColumnsThatARowLeavesOut)
 {
     const QString body = tbl({tr({tc(p(QStringLiteral("a"))), tc(p(QStringLiteral("b")))}),
-                              tr({tc(p(QStringLiteral("c")))}, QStringLiteral("<w:gridBefore w:val=\"1\"/>"))})
+                             tr({tc(p(QStringLiteral("c")))}, QStringLiteral("<w:gridBefore w:val=\"1\"/>"))})
         + p();
-    EXPECT_EQ(markedAfter(body, [](clsMSWord &word) {
-        word.MoveCursorRight(1);
-        word.MoveCursorDown(1);
-    }), QStringLiteral("a/|b/||#c/||/"));
+    EXPECT_EQ(markedAfter(body,
+                  [](clsMSWord &word) {
+                      word.MoveCursorRight(1);
+                      word.MoveCursorDown(1);
+                  }),
+        QStringLiteral("a/|b/||#c/||/"));
 }
 
 TEST(MoveCursorDown, PassesOverTheRestOfACellThatGoesOverSeveralRows)
 {
     const QString body = tbl({tr({merged(QStringLiteral("a"), true), tc(p(QStringLiteral("b")))}),
-                              tr({merged(QString(), false), tc(p(QStringLiteral("c")))}),
-                              tr({tc(p(QStringLiteral("d"))), tc(p(QStringLiteral("e")))})})
+                             tr({merged(QString(), false), tc(p(QStringLiteral("c")))}),
+                             tr({tc(p(QStringLiteral("d"))), tc(p(QStringLiteral("e")))})})
         + p();
     EXPECT_EQ(markedDown(body, 1), QStringLiteral("a/|b/||/|c/||#d/|e/||/"));
 }
 
 TEST(MoveCursorDown, WalksThroughATableInACellAndOutAgain)
 {
-    const QString body = tbl({tr({tc(p(QStringLiteral("a")) + table({QStringLiteral("b c"), QStringLiteral("d e")}) + p(QStringLiteral("f")))}),
-                              tr({tc(p(QStringLiteral("g")))})})
+    const QString body = tbl({tr({tc(p(QStringLiteral("a")) + table({QStringLiteral("b c"), QStringLiteral("d e")})
+                                  + p(QStringLiteral("f")))}),
+                             tr({tc(p(QStringLiteral("g")))})})
         + p();
     const QStringList expected = {
-        QStringLiteral("#a/b/|c/||d/|e/||f/||g/||/"), QStringLiteral("a/#b/|c/||d/|e/||f/||g/||/"),
-        QStringLiteral("a/b/|c/||#d/|e/||f/||g/||/"), QStringLiteral("a/b/|c/||d/|e/||#f/||g/||/"),
-        QStringLiteral("a/b/|c/||d/|e/||f/||#g/||/"), QStringLiteral("a/b/|c/||d/|e/||f/||g/||#/"),
+        QStringLiteral("#a/b/|c/||d/|e/||f/||g/||/"),
+        QStringLiteral("a/#b/|c/||d/|e/||f/||g/||/"),
+        QStringLiteral("a/b/|c/||#d/|e/||f/||g/||/"),
+        QStringLiteral("a/b/|c/||d/|e/||#f/||g/||/"),
+        QStringLiteral("a/b/|c/||d/|e/||f/||#g/||/"),
+        QStringLiteral("a/b/|c/||d/|e/||f/||g/||#/"),
     };
     for (int n = 0; n < expected.size(); ++n)
         EXPECT_EQ(markedDown(body, n), expected[n]) << n;
@@ -157,7 +166,8 @@ TEST(MoveCursorDown, LooksThroughContentControlsAroundBlocksRowsAndCells)
         return QStringLiteral("<w:sdt><w:sdtPr/><w:sdtContent>%1</w:sdtContent></w:sdt>").arg(content);
     };
     const QString body = control(p(QStringLiteral("a")) + p(QStringLiteral("b")))
-        + tbl({control(tr({control(tc(p(QStringLiteral("c")))), tc(p(QStringLiteral("d")))})), tr({tc(p(QStringLiteral("e"))), tc(p())})})
+        + tbl({control(tr({control(tc(p(QStringLiteral("c")))), tc(p(QStringLiteral("d")))})),
+            tr({tc(p(QStringLiteral("e"))), tc(p())})})
         + p();
     EXPECT_EQ(markedDown(body, 1), QStringLiteral("a/#b/c/|d/||e/|/||/"));
     EXPECT_EQ(markedDown(body, 2), QStringLiteral("a/b/#c/|d/||e/|/||/"));
@@ -182,21 +192,23 @@ TEST(MoveCursorRight, GoesFromCellToCellAndOnToTheNextRow)
 
 TEST(MoveCursorRight, SelectsTheCellSoThatTypingReplacesWhatItHolds)
 {
-    const QString body = tbl({tr({tc(p(QStringLiteral("a"))), tc(p(QStringLiteral("old")) + grid(1, 1) + p(QStringLiteral("er")))})}) + p();
+    const QString body
+        = tbl({tr({tc(p(QStringLiteral("a"))), tc(p(QStringLiteral("old")) + grid(1, 1) + p(QStringLiteral("er")))})})
+        + p();
     EXPECT_EQ(markedAfter(body, [](clsMSWord &word) { word.MoveCursorRight(1); }), QStringLiteral("a/|#/||/"));
 }
 
 TEST(MoveCursorRight, AtTheTablesEndNothingIsReplaced)
 {
     EXPECT_EQ(markedAfter(table({QStringLiteral("a b")}) + p(), [](clsMSWord &word) { word.MoveCursorRight(2); }),
-              QStringLiteral("a/|b#/||/"));
+        QStringLiteral("a/|b#/||/"));
 }
 
 TEST(MoveCursorRight, CountsAWideCellOnceAndTheRestOfATallOneNotAtAll)
 {
     const QString body = tbl({tr({spanned(QStringLiteral("a"), 2), merged(QStringLiteral("b"), true)}),
-                              tr({tc(p(QStringLiteral("c"))), tc(p(QStringLiteral("d"))), merged(QString(), false)}),
-                              tr({tc(p(QStringLiteral("e"))), tc(p()), tc(p())})})
+                             tr({tc(p(QStringLiteral("c"))), tc(p(QStringLiteral("d"))), merged(QString(), false)}),
+                             tr({tc(p(QStringLiteral("e"))), tc(p()), tc(p())})})
         + p();
     const auto right = [&](int n) { return markedAfter(body, [n](clsMSWord &word) { word.MoveCursorRight(n); }); };
     EXPECT_EQ(right(2), QStringLiteral("a/|b/||#/|d/|/||e/|/|/||/"));
@@ -205,19 +217,23 @@ TEST(MoveCursorRight, CountsAWideCellOnceAndTheRestOfATallOneNotAtAll)
 
 TEST(MoveCursorToStartOfRow, GoesToTheFirstCell)
 {
-    EXPECT_EQ(markedAfter(table({QStringLiteral("a b"), QStringLiteral("c d")}) + p(), [](clsMSWord &word) {
-        word.MoveCursorRight(3);
-        word.MoveCursorToStartOfRow();
-    }), QStringLiteral("a/|b/||#c/|d/||/"));
+    EXPECT_EQ(markedAfter(table({QStringLiteral("a b"), QStringLiteral("c d")}) + p(),
+                  [](clsMSWord &word) {
+                      word.MoveCursorRight(3);
+                      word.MoveCursorToStartOfRow();
+                  }),
+        QStringLiteral("a/|b/||#c/|d/||/"));
 }
 
 TEST(MoveCursorToStartOfRow, OutsideATableDoesNothing)
 {
-    EXPECT_EQ(plainAfterEditing(clsTestDocument(p(QStringLiteral("a{x}b"))), [](clsMSWord &word) {
-        word.DoReplace(QStringLiteral("{x}"), QStringLiteral("y"), false, false, true);
-        word.MoveCursorToStartOfRow();
-        word.SetText(QStringLiteral("#"), false, false, true, false);
-    }), QStringLiteral("ay#b/"));
+    EXPECT_EQ(plainAfterEditing(clsTestDocument(p(QStringLiteral("a{x}b"))),
+                  [](clsMSWord &word) {
+                      word.DoReplace(QStringLiteral("{x}"), QStringLiteral("y"), false, false, true);
+                      word.MoveCursorToStartOfRow();
+                      word.SetText(QStringLiteral("#"), false, false, true, false);
+                  }),
+        QStringLiteral("ay#b/"));
 }
 
 TEST(MoveSursorToNextLine, FillsAGridRowByRow)
@@ -239,13 +255,15 @@ TEST(MoveSursorToNextLine, FillsAGridRowByRow)
 
 TEST(MoveSursorToNextLine, ALineBreakTypedInTheLastCellIsOneOfItsLinesAndTheCursorIsOnTheLast)
 {
-    EXPECT_EQ(plainAfterEditing(clsTestDocument(grid(2, 2) + p()), [](clsMSWord &word) {
-        word.SetText(QStringLiteral("a\r\nb"), false, false, true, false);
-        word.MoveCursorRight(1);
-        word.SetText(QStringLiteral("c\r\nd"), false, false, true, false);
-        word.MoveSursorToNextLine();
-        word.SetText(QStringLiteral("#"), false, false, true, false);
-    }), QStringLiteral("a^b/|c^d/||#/|/||/"));
+    EXPECT_EQ(plainAfterEditing(clsTestDocument(grid(2, 2) + p()),
+                  [](clsMSWord &word) {
+                      word.SetText(QStringLiteral("a\r\nb"), false, false, true, false);
+                      word.MoveCursorRight(1);
+                      word.SetText(QStringLiteral("c\r\nd"), false, false, true, false);
+                      word.MoveSursorToNextLine();
+                      word.SetText(QStringLiteral("#"), false, false, true, false);
+                  }),
+        QStringLiteral("a^b/|c^d/||#/|/||/"));
 }
 
 TEST(clsWordCursor, ABodyOrCellWithoutAParagraphGetsOneWhereTheCursorComes)
@@ -258,7 +276,8 @@ TEST(clsWordCursor, ABodyOrCellWithoutAParagraphGetsOneWhereTheCursorComes)
 TEST(clsWordCursor, ATableWithoutCellsIsPassedOver)
 {
     const clsTestFolder folder;
-    const QString path = folder.write(QStringLiteral("a.doc"), clsTestDocument(p(QStringLiteral("a")) + QStringLiteral("<w:tbl><w:tr/></w:tbl>") + p(QStringLiteral("b"))));
+    const QString path = folder.write(QStringLiteral("a.doc"),
+        clsTestDocument(p(QStringLiteral("a")) + QStringLiteral("<w:tbl><w:tr/></w:tbl>") + p(QStringLiteral("b"))));
     clsMSWord word;
     word.OpenDocument(path);
     word.MoveCursorDown(1);

@@ -4,14 +4,16 @@
 
 #include <QFileInfo>
 
-namespace {
+namespace
+{
 
 const QString ErrorText = QStringLiteral(
     "An error has occured during Word automation. If the problem persists please contact Velmor technical support "
     "via stating the following details:\r\n\r\nError Number: %1\r\nError Description: %2\r\nSubroutine: %3");
 const QString NotSet = QStringLiteral("Object variable or With block variable not set");
 
-class clsMSWordFailures : public testing::Test {
+class clsMSWordFailures : public testing::Test
+{
 protected:
     void expectOnly(int number, const QString &description, const QString &subroutine)
     {
@@ -34,8 +36,15 @@ TEST(clsMSWord, VersionsHaveTheirMarketingYears)
     EXPECT_EQ(clsMSWord().VersionNumber(), QStringLiteral("12.0"));
     EXPECT_EQ(clsMSWord().VersionString(), QStringLiteral("2007"));
     const std::pair<const char *, const char *> rows[] = {
-        {"7.0", "97"}, {"8.0", "98"}, {"9.0", "2000"}, {"10.0", "2002"}, {"11.0", "2003"},
-        {"12.0", "2007"}, {"14.0", "Unknown"}, {"", "Unknown"}, {"12", "Unknown"},
+        {"7.0", "97"},
+        {"8.0", "98"},
+        {"9.0", "2000"},
+        {"10.0", "2002"},
+        {"11.0", "2003"},
+        {"12.0", "2007"},
+        {"14.0", "Unknown"},
+        {"", "Unknown"},
+        {"12", "Unknown"},
     };
     for (const auto &[number, year] : rows)
         EXPECT_EQ(clsMSWord::versionYear(QLatin1String(number)), QLatin1String(year)) << number;
@@ -184,9 +193,8 @@ TEST_F(clsMSWordFailures, OneInstanceEditsSeveralDocumentsOneAfterAnother)
 // What SetText makes of a text, for a cell.
 QString typedInto(const QString &given, bool tick, bool money, bool blankZero)
 {
-    return plainAfterEditing(clsTestDocument(p()), [&](clsMSWord &word) {
-        word.SetText(QString(given), tick, money, blankZero, false);
-    });
+    return plainAfterEditing(
+        clsTestDocument(p()), [&](clsMSWord &word) { word.SetText(QString(given), tick, money, blankZero, false); });
 }
 
 TEST(SetText, TicksAreBoxesOnlyForTheExactWordsAndOnlyAsTicks)
@@ -199,15 +207,17 @@ TEST(SetText, TicksAreBoxesOnlyForTheExactWordsAndOnlyAsTicks)
 
 TEST(SetText, ATickIsASymbolOfTheSymbolFont)
 {
-    EXPECT_EQ(afterEditing(clsTestDocument(p()), [](clsMSWord &w) { w.SetText(QStringLiteral("True"), true, false, true, false); }),
-              QStringLiteral("<w:p><w:r><w:sym w:font=\"Wingdings\" w:char=\"F0FE\"/></w:r></w:p>"));
+    EXPECT_EQ(afterEditing(clsTestDocument(p()),
+                  [](clsMSWord &w) { w.SetText(QStringLiteral("True"), true, false, true, false); }),
+        QStringLiteral("<w:p><w:r><w:sym w:font=\"Wingdings\" w:char=\"F0FE\"/></w:r></w:p>"));
 }
 
 TEST(SetText, AnyOtherTextThatIsATickIsTypedInTheSymbolFont)
 {
-    EXPECT_EQ(afterEditing(clsTestDocument(p()), [](clsMSWord &w) { w.SetText(QStringLiteral("Yes"), true, false, true, false); }),
-              QStringLiteral("<w:p><w:r><w:rPr><w:rFonts w:ascii=\"Wingdings\" w:hAnsi=\"Wingdings\" w:cs=\"Wingdings\"/>"
-                             "</w:rPr><w:t xml:space=\"preserve\">Yes</w:t></w:r></w:p>"));
+    EXPECT_EQ(afterEditing(clsTestDocument(p()),
+                  [](clsMSWord &w) { w.SetText(QStringLiteral("Yes"), true, false, true, false); }),
+        QStringLiteral("<w:p><w:r><w:rPr><w:rFonts w:ascii=\"Wingdings\" w:hAnsi=\"Wingdings\" w:cs=\"Wingdings\"/>"
+                       "</w:rPr><w:t xml:space=\"preserve\">Yes</w:t></w:r></w:p>"));
 }
 
 TEST(SetText, AnAmountOfNothingPrintsOnlyWhereZerosPrint)
@@ -240,7 +250,7 @@ TEST(SetText, LineEndsBreakWithinTheParagraphAndTabsAreBlanks)
 TEST(SetText, AnEmptyCellIsTypedAsNothing)
 {
     EXPECT_EQ(afterEditing(clsTestDocument(p()), [](clsMSWord &w) { w.SetText(QString(), false, false, true, false); }),
-              QStringLiteral("<w:p/>"));
+        QStringLiteral("<w:p/>"));
 }
 
 TEST(SetText, ChangesTheTextInPlaceToWhatIsTyped)
@@ -264,7 +274,7 @@ TEST(SetText, WhatTheFormatCannotHoldIsLeftOut)
     const QString hostile = QStringLiteral("a\x01\x08\x0C\x1F<&>\"'") + QChar(0xD800) + QChar(0xFFFE) + QChar(0xFFFF)
         + QString::fromUcs4(U"\U0001F600") + QStringLiteral("z");
     EXPECT_EQ(typedInto(hostile, false, false, true),
-              QStringLiteral("a<&>\"'") + QString::fromUcs4(U"\U0001F600") + QStringLiteral("z/"));
+        QStringLiteral("a<&>\"'") + QString::fromUcs4(U"\U0001F600") + QStringLiteral("z/"));
 }
 
 TEST(SetText, BlanksAtTheEndsAreKept)
@@ -277,15 +287,17 @@ TEST(SetText, IsBoldOnlyAsTold)
     const auto typedBold = [](const QString &paragraph, bool bold, const QString &styles = {}) {
         clsTestDocument document(paragraph);
         document.styles = styles;
-        return afterEditing(document, [bold](clsMSWord &w) { w.SetText(QStringLiteral("x"), false, false, true, bold); });
+        return afterEditing(
+            document, [bold](clsMSWord &w) { w.SetText(QStringLiteral("x"), false, false, true, bold); });
     };
     const QString mark = QStringLiteral("<w:p><w:pPr><w:rPr><w:b/></w:rPr></w:pPr>%1</w:p>");
     const QString text = QStringLiteral("<w:t xml:space=\"preserve\">x</w:t></w:r>");
     EXPECT_EQ(typedBold(p(), false), QStringLiteral("<w:p><w:r>") + text + QStringLiteral("</w:p>"));
-    EXPECT_EQ(typedBold(p(), true), QStringLiteral("<w:p><w:r><w:rPr><w:b/></w:rPr>") + text + QStringLiteral("</w:p>"));
+    EXPECT_EQ(
+        typedBold(p(), true), QStringLiteral("<w:p><w:r><w:rPr><w:b/></w:rPr>") + text + QStringLiteral("</w:p>"));
     EXPECT_EQ(typedBold(mark.arg(QString()), true), mark.arg(QStringLiteral("<w:r><w:rPr><w:b/></w:rPr>") + text));
     EXPECT_EQ(typedBold(mark.arg(QString()), false),
-              mark.arg(QStringLiteral("<w:r><w:rPr><w:b w:val=\"0\"/></w:rPr>") + text));
+        mark.arg(QStringLiteral("<w:r><w:rPr><w:b w:val=\"0\"/></w:rPr>") + text));
 
     // A bold style needs the word against it, and none for it.
     const QString styles = QStringLiteral(
@@ -294,16 +306,17 @@ TEST(SetText, IsBoldOnlyAsTold)
     const QString styled = QStringLiteral("<w:p><w:pPr><w:pStyle w:val=\"On\"/></w:pPr>%1</w:p>");
     EXPECT_EQ(typedBold(styled.arg(QString()), true, styles), styled.arg(QStringLiteral("<w:r>") + text));
     EXPECT_EQ(typedBold(styled.arg(QString()), false, styles),
-              styled.arg(QStringLiteral("<w:r><w:rPr><w:b w:val=\"0\"/></w:rPr>") + text));
+        styled.arg(QStringLiteral("<w:r><w:rPr><w:b w:val=\"0\"/></w:rPr>") + text));
 }
 
 TEST(SetText, TakesTheLookOfAnEmptyBoxFromItsParagraphMark)
 {
     const QString mark = QStringLiteral("<w:p><w:pPr><w:jc w:val=\"right\"/><w:rPr><w:ins w:id=\"1\" w:author=\"a\"/>"
                                         "<w:color w:val=\"112233\"/><w:sz w:val=\"26\"/></w:rPr></w:pPr>%1</w:p>");
-    EXPECT_EQ(afterEditing(mark.arg(QString()), [](clsMSWord &w) { w.SetText(QStringLiteral("x"), false, false, true, false); }),
-              mark.arg(QStringLiteral("<w:r><w:rPr><w:color w:val=\"112233\"/><w:sz w:val=\"26\"/></w:rPr>"
-                                      "<w:t xml:space=\"preserve\">x</w:t></w:r>")));
+    EXPECT_EQ(afterEditing(
+                  mark.arg(QString()), [](clsMSWord &w) { w.SetText(QStringLiteral("x"), false, false, true, false); }),
+        mark.arg(QStringLiteral("<w:r><w:rPr><w:color w:val=\"112233\"/><w:sz w:val=\"26\"/></w:rPr>"
+                                "<w:t xml:space=\"preserve\">x</w:t></w:r>")));
 }
 
 TEST(clsMSWordTyping, TabsParagraphsAndTextStandInTheOrderTyped)
@@ -321,29 +334,30 @@ TEST(clsMSWordTyping, TabsParagraphsAndTextStandInTheOrderTyped)
         word.NextLine();
         word.SetText(QString(42, QChar(0x2014)), false, false, true, false);
     });
-    EXPECT_EQ(result, QStringLiteral("/~7~ First line/~~second/") + QString(42, QChar(0x2014)) + QStringLiteral("/||/"));
+    EXPECT_EQ(
+        result, QStringLiteral("/~7~ First line/~~second/") + QString(42, QChar(0x2014)) + QStringLiteral("/||/"));
 }
 
 TEST(clsMSWordTyping, ANewParagraphLooksLikeTheOneBeforeAndLeavesItsPageBreakAndSectionWhereTheyBelong)
 {
     const QString section = QStringLiteral("<w:sectPr><w:pgSz w:w=\"100\" w:h=\"200\"/></w:sectPr>");
-    EXPECT_EQ(afterEditing(QStringLiteral("<w:p><w:pPr><w:pageBreakBefore/><w:jc w:val=\"right\"/><w:rPr><w:i/></w:rPr>")
-                               + section + QStringLiteral("</w:pPr>") + r(QStringLiteral("{x}tail"))
-                               + QStringLiteral("</w:p>") + p(),
-                           [](clsMSWord &word) {
-                               word.DoReplace(QStringLiteral("{x}"), QStringLiteral("head"), false, false, true);
-                               word.NextLine();
-                           }),
-              QStringLiteral("<w:p><w:pPr><w:pageBreakBefore/><w:jc w:val=\"right\"/><w:rPr><w:i/></w:rPr></w:pPr>")
-                  + r(QStringLiteral("head"))
-                  + QStringLiteral("</w:p><w:p><w:pPr><w:jc w:val=\"right\"/><w:rPr><w:i/></w:rPr>") + section
-                  + QStringLiteral("</w:pPr>") + r(QStringLiteral("tail")) + QStringLiteral("</w:p><w:p/>"));
+    EXPECT_EQ(
+        afterEditing(QStringLiteral("<w:p><w:pPr><w:pageBreakBefore/><w:jc w:val=\"right\"/><w:rPr><w:i/></w:rPr>")
+                + section + QStringLiteral("</w:pPr>") + r(QStringLiteral("{x}tail")) + QStringLiteral("</w:p>") + p(),
+            [](clsMSWord &word) {
+                word.DoReplace(QStringLiteral("{x}"), QStringLiteral("head"), false, false, true);
+                word.NextLine();
+            }),
+        QStringLiteral("<w:p><w:pPr><w:pageBreakBefore/><w:jc w:val=\"right\"/><w:rPr><w:i/></w:rPr></w:pPr>")
+            + r(QStringLiteral("head"))
+            + QStringLiteral("</w:p><w:p><w:pPr><w:jc w:val=\"right\"/><w:rPr><w:i/></w:rPr>") + section
+            + QStringLiteral("</w:pPr>") + r(QStringLiteral("tail")) + QStringLiteral("</w:p><w:p/>"));
 }
 
 TEST(clsMSWordTyping, APageBreakIsABreakOfItsOwnKind)
 {
     EXPECT_EQ(plainAfterEditing(clsTestDocument(p(QStringLiteral("a"))), [](clsMSWord &w) { w.PageBreak(); }),
-              QStringLiteral("%a/"));
+        QStringLiteral("%a/"));
 }
 
 TEST(TypeBackSpace, DeletesTheCharacterBeforeTheCursor)
@@ -363,13 +377,15 @@ TEST(TypeBackSpace, DeletesTheCharacterBeforeTheCursor)
 TEST(TypeBackSpace, AtTheStartOfTheDocumentOrOfACellChangesNothing)
 {
     const auto unchanged = [](const QString &body, int right) {
-        EXPECT_EQ(afterEditing(body, [right](clsMSWord &word) {
-            word.MoveCursorRight(right);
-            word.TypeBackSpace();
-        }), body);
+        EXPECT_EQ(afterEditing(body,
+                      [right](clsMSWord &word) {
+                          word.MoveCursorRight(right);
+                          word.TypeBackSpace();
+                      }),
+            body);
     };
     EXPECT_EQ(afterEditing(p(QStringLiteral("a")) + p(), [](clsMSWord &w) { w.TypeBackSpace(); }),
-              p(QStringLiteral("a")) + p());
+        p(QStringLiteral("a")) + p());
     unchanged(grid(1, 2) + p(), 0);
     unchanged(grid(1, 2) + p(), 1);
 }
@@ -381,14 +397,15 @@ TEST(TypeBackSpace, JoinsParagraphsButNeverTakesATableOrASectionsEnd)
         word.TypeBackSpace();
     };
     EXPECT_EQ(plainAfterEditing(clsTestDocument(p(QStringLiteral("a")) + p(QStringLiteral("b"))), back),
-              QStringLiteral("ab/"));
+        QStringLiteral("ab/"));
     const QString afterTable = grid(1, 1) + p(QStringLiteral("b"));
     EXPECT_EQ(afterEditing(afterTable, back), afterTable);
     const QString afterSection = QStringLiteral("<w:p><w:pPr><w:sectPr/></w:pPr></w:p>") + p(QStringLiteral("b"));
     EXPECT_EQ(afterEditing(afterSection, back), afterSection);
     // The second one's section ends with the joined paragraph.
-    EXPECT_EQ(afterEditing(p(QStringLiteral("a")) + QStringLiteral("<w:p><w:pPr><w:sectPr/></w:pPr></w:p>") + p(), back),
-              QStringLiteral("<w:p><w:pPr><w:sectPr/></w:pPr>") + r(QStringLiteral("a")) + QStringLiteral("</w:p><w:p/>"));
+    EXPECT_EQ(
+        afterEditing(p(QStringLiteral("a")) + QStringLiteral("<w:p><w:pPr><w:sectPr/></w:pPr></w:p>") + p(), back),
+        QStringLiteral("<w:p><w:pPr><w:sectPr/></w:pPr>") + r(QStringLiteral("a")) + QStringLiteral("</w:p><w:p/>"));
 }
 
 } // namespace

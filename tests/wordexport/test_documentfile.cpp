@@ -15,9 +15,11 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace {
+namespace
+{
 
-class mdDocumentFile : public testing::Test {
+class mdDocumentFile : public testing::Test
+{
 protected:
     QString path(const QString &name) const { return folder.filePath(name); }
     QStringList names() const
@@ -35,7 +37,8 @@ protected:
 };
 
 /// No file may grow beyond this for as long as the object lives, as on a disk that is full.
-class clsFileSizeLimit {
+class clsFileSizeLimit
+{
 public:
     explicit clsFileSizeLimit(rlim_t bytes)
     {
@@ -80,10 +83,10 @@ TEST_F(mdDocumentFile, ADiskThatIsFullLeavesTheOldFileAndNothingElse)
 TEST_F(mdDocumentFile, AFolderThatIsNotThereIsPathNotFound)
 {
     EXPECT_EQ(errorOf([&] { mdWriteDocumentFile(path(QStringLiteral("none/a.doc")), "x", true); }),
-              clsRunTimeError::PathNotFound);
+        clsRunTimeError::PathNotFound);
     put(QStringLiteral("file"), "x");
     EXPECT_EQ(errorOf([&] { mdWriteDocumentFile(path(QStringLiteral("file/a.doc")), "x", true); }),
-              clsRunTimeError::PathNotFound);
+        clsRunTimeError::PathNotFound);
 }
 
 TEST_F(mdDocumentFile, AFolderUnderTheNameIsAnAccessError)
@@ -94,8 +97,8 @@ TEST_F(mdDocumentFile, AFolderUnderTheNameIsAnAccessError)
 
 TEST_F(mdDocumentFile, ADeviceIsNeverReplaced)
 {
-    EXPECT_EQ(errorOf([] { mdWriteDocumentFile(QStringLiteral("/dev/null"), "x", true); }),
-              clsRunTimeError::PathFileAccess);
+    EXPECT_EQ(
+        errorOf([] { mdWriteDocumentFile(QStringLiteral("/dev/null"), "x", true); }), clsRunTimeError::PathFileAccess);
 }
 
 TEST_F(mdDocumentFile, APipeUnderTheNameIsNotWaitedFor)
@@ -107,8 +110,8 @@ TEST_F(mdDocumentFile, APipeUnderTheNameIsNotWaitedFor)
 
 TEST_F(mdDocumentFile, AFileThatIsNotThereIsFileNotFound)
 {
-    EXPECT_EQ(errorOf([&] { mdReadDocumentFile(path(QStringLiteral("none.doc")), 100); }),
-              clsRunTimeError::FileNotFound);
+    EXPECT_EQ(
+        errorOf([&] { mdReadDocumentFile(path(QStringLiteral("none.doc")), 100); }), clsRunTimeError::FileNotFound);
 }
 
 TEST_F(mdDocumentFile, ALinkStaysALinkAndItsFileIsReplaced)
@@ -138,7 +141,7 @@ TEST_F(mdDocumentFile, AWriteProtectedFileIsNotReplaced)
     put(QStringLiteral("a.doc"), "old");
     ASSERT_EQ(chmod(QFile::encodeName(path(QStringLiteral("a.doc"))).constData(), 0440), 0);
     EXPECT_EQ(errorOf([&] { mdWriteDocumentFile(path(QStringLiteral("a.doc")), "new", true); }),
-              clsRunTimeError::PermissionDenied);
+        clsRunTimeError::PermissionDenied);
 }
 
 TEST_F(mdDocumentFile, ALeftoverSideFileIsPassedOver)

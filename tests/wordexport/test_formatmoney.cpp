@@ -4,7 +4,8 @@
 
 #include <gtest/gtest.h>
 
-namespace {
+namespace
+{
 
 struct Row {
     const char *given;
@@ -43,7 +44,24 @@ constexpr Row Amounts[] = {
 };
 
 constexpr const char *NoNumbers[] = {
-    "abc", "1.2.3", "12a", "1 2", "- 3", "--3", "3-", "-", "+", ".", ",", "£5", "(3)", "1e3", "&H10", "1.2,3", "\t5", "\u0661",
+    "abc",
+    "1.2.3",
+    "12a",
+    "1 2",
+    "- 3",
+    "--3",
+    "3-",
+    "-",
+    "+",
+    ".",
+    ",",
+    "£5",
+    "(3)",
+    "1e3",
+    "&H10",
+    "1.2,3",
+    "\t5",
+    "\u0661",
 };
 
 TEST(mdFormatMoney, PrintsAmountsWithTwoDecimalsAndCommas)

@@ -167,11 +167,11 @@ def schedule_of_time(form, page, number):
         totals(SCHEDULE, Total(4, "Time", align=LEFT),
                *(Total(1, name=name, align=CENTRE)
                  for name in ("actm", "dtm", "htm", "ttm", "wtm")),
-               Total(4), style=look.SCHEDULE_TOTAL, height=20),
+               Total(4), style=look.DENSE_TOTAL, height=20),
         totals(SCHEDULE, Total(4, "Claim £", align=LEFT),
                *(Total(1, name=name) for name in ("actl", "dtl", "htl", "ttl", "wtl")),
                Total(3, "Total £"), Total(1, name="total"),
-               style=look.SCHEDULE_TOTAL, above=look.HAIR))
+               style=look.DENSE_TOTAL, above=look.HAIR))
 
 
 # --- Additional information ------------------------------------------------
@@ -226,7 +226,8 @@ def expert_grid():
     return [
         grid_table(EXPERTS, 11),
         totals(EXPERTS, Total(9, "Total for experts £"),
-               Total(1, name="exnet"), Total(1, name="exvat"), Total(1, name="extot"))]
+               Total(1, name="exnet"), Total(1, name="exvat"), Total(1, name="extot"),
+               style=look.DENSE_TOTAL)]
 
 
 def experts_continuation(form, page, number, *note_lines):

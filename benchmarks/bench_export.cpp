@@ -74,7 +74,7 @@ void exportFloor(benchmark::State &state)
     int sheets = 0;
     if (!exportSample(form, sheets))
         return state.SkipWithError("The export failed.");
-    const clsUnpackedFiles finished = mdUnpack(bytesOf(mdFinishedDocumentPath(form)));
+    const clsUnpackedFiles finished = mdUnpack(bytesOf(mdFinishedDocumentPath(form.ExportPath(), form.FormType())));
     const QList<QByteArray> templates = templatesInUse();
     for (auto _ : state) {
         for (const QByteArray &package : templates)

@@ -1,6 +1,6 @@
 #include "costing/Money.h"
 
-#include "costing/mdNumberText.h"
+#include "shell/mdNumberText.h"
 #include "shell/clsRunTimeError.h"
 
 #include <array>

@@ -2,7 +2,7 @@
 
 #include "costing/mdDateSerial.h"
 #include "costing/mdPercentageCalculate.h"
-#include "costing/mdStrictDouble.h"
+#include "shell/mdNumberText.h"
 #include "costing/mdSumOf.h"
 
 QString clsZR3FASItem::DDateSerial() const
@@ -12,7 +12,7 @@ QString clsZR3FASItem::DDateSerial() const
 
 Money clsZR3FASItem::UnitPayment() const
 {
-    return MoneyFromDouble(mdStrictDouble(RateForUnits()) * double(HearingUnits()));
+    return MoneyFromDouble(DoubleFromStrictText(RateForUnits()) * double(HearingUnits()));
 }
 
 Money clsZR3FASItem::BoltOn() const

@@ -36,6 +36,10 @@ public:
     /// The fee earners of this group in the form's collection order, computed on each call.
     std::vector<std::shared_ptr<clsZR3FeeEarner>> FeeEarnersCollection() const;
 
+    /// Two members that stand in the class without a use.
+    void LoadElements() { }
+    std::shared_ptr<clsZR3FeeEarner> FeeEarner(int) const { return {}; }
+
     /// Sums over the group's fee earners; a sum beyond 32 bits is the overflow error.
     int Calls() const;
     int LettersIn() const;

@@ -1,6 +1,6 @@
 #include "costing/mdCheckForBlankItems.h"
 
-#include "costing/mdNumberText.h"
+#include "shell/mdNumberText.h"
 #include "costing/mdTimeFormatting.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/mdCustomMessages.h"

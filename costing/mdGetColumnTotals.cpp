@@ -1,7 +1,7 @@
 #include "costing/mdGetColumnTotals.h"
 
 #include "costing/mdGetFASTotals.h"
-#include "costing/mdNumberText.h"
+#include "shell/mdNumberText.h"
 #include "costing/mdTimeFormatting.h"
 #include "formdata/clsZR3Form.h"
 

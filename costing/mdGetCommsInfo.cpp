@@ -1,9 +1,8 @@
 #include "costing/mdGetCommsInfo.h"
 
 #include "costing/mdGetColumnTotals.h"
-#include "costing/mdNumberText.h"
+#include "shell/mdNumberText.h"
 #include "costing/mdPercentageCalculate.h"
-#include "costing/mdStrictDouble.h"
 #include "costing/mdSumOf.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/mdExisting.h"
@@ -91,7 +90,7 @@ Money CommsBasicAtLine(const clsZR3Form &form, int line, clsCommsKind kind)
     if (!group)
         return {};
     const KindRow &row = rowOf(kind);
-    return RoundMoney2(mdStrictDouble(row.rate(*group)) * double(row.count(*group)));
+    return RoundMoney2(DoubleFromStrictText(row.rate(*group)) * double(row.count(*group)));
 }
 
 Money CommsGroupEnhancement(const clsZR3Form &form, int line, clsCommsKind kind)

@@ -1,6 +1,6 @@
 #include "costing/mdPercentageCalculate.h"
 
-#include "costing/mdNumberText.h"
+#include "shell/mdNumberText.h"
 
 Money PercentageCalculate(Money amount, QStringView percentage)
 {

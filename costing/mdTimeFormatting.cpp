@@ -1,6 +1,6 @@
 #include "costing/mdTimeFormatting.h"
 
-#include "costing/mdNumberText.h"
+#include "shell/mdNumberText.h"
 #include "shell/clsRunTimeError.h"
 
 #include <cmath>

@@ -2,7 +2,7 @@
 
 #include "formdata/clsZR3Form.h"
 
-bool mdUniqueIDInUseInForm(const clsZR3Form &form, const QString &uniqueID)
+bool UniqueIDInUseInForm(const clsZR3Form &form, const QString &uniqueID)
 {
     return form.XMLOutput().count(u'>' + uniqueID + u'<', Qt::CaseSensitive) >= 2;
 }

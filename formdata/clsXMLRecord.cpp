@@ -1,7 +1,6 @@
 #include "formdata/clsXMLRecord.h"
 
-#include "costing/mdNumberText.h"
-#include "costing/mdStrictDouble.h"
+#include "shell/mdNumberText.h"
 #include "shell/clsRunTimeError.h"
 
 #include <cstring>
@@ -17,7 +16,7 @@ bool booleanFromText(QLatin1String text)
         return false;
     if (text.compare(QLatin1String("True"), Qt::CaseInsensitive) == 0)
         return true;
-    return mdStrictDouble(QString(text)) != 0.0;
+    return DoubleFromStrictText(QString(text)) != 0.0;
 }
 
 } // namespace

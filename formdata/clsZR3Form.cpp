@@ -1,6 +1,6 @@
 #include "formdata/clsZR3Form.h"
 
-#include "costing/mdNumberText.h"
+#include "shell/mdNumberText.h"
 #include "formdata/mdXMLGenerateNodes.h"
 #include "formdata/mdXMLTemplate.h"
 #include "shell/clsRunTimeError.h"
@@ -29,6 +29,11 @@ template <class List, class Visit> void inOrder(const List &list, Visit visit)
     }
 }
 
+clsXMLElement emptyClaim()
+{
+    return XMLLoadElement(GetResourceData(QStringLiteral("xmlZR3Form"), QStringLiteral("VELMORZR3XML")), RootElement);
+}
+
 /// The item at a 1-based place of a derived collection; the subscript error outside it.
 template <class Collection> auto itemAt(const Collection &collection, int index)
 {
@@ -42,8 +47,7 @@ template <class Collection> auto itemAt(const Collection &collection, int index)
 clsZR3Form::clsZR3Form()
     : clsXMLRecord(clsXMLPropertyTable::of<clsZR3Form>())
 {
-    takeRoot(XMLLoadElement(GetResourceData(QStringLiteral("xmlZR3Form"), QStringLiteral("VELMORZR3XML")),
-                            RootElement));
+    takeRoot(emptyClaim());
 }
 
 bool clsZR3Form::LoadXML(const QString &filePath)
@@ -56,7 +60,13 @@ bool clsZR3Form::LoadXML(const QString &filePath)
         return false;
     }
     GenerateNodes(root.node(), mdXMLTemplate("xmlZR3Form"));
-    takeRoot(root);
+    try {
+        takeRoot(root);
+    } catch (...) {
+        // No record may be left on the tree that goes with the claim before: this one is an empty claim then.
+        takeRoot(emptyClaim());
+        throw;
+    }
     return true;
 }
 

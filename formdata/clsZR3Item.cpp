@@ -34,6 +34,12 @@ void clsZR3Item::detach()
     reportKeyWritesTo(nullptr);
 }
 
+void clsZR3Item::release()
+{
+    bind({});
+    reportKeyWritesTo(nullptr);
+}
+
 void clsZR3Item::own(pugi::xml_node original)
 {
     auto document = std::make_unique<pugi::xml_document>();

@@ -23,6 +23,7 @@ private:
 
     void attachTo(pugi::xml_node listNode);
     void detach();
+    void release();
     void own(pugi::xml_node original);
 
     const char *m_templateName;

@@ -20,6 +20,11 @@ public:
     using Pointer = std::shared_ptr<Item>;
     using Collection = std::vector<Pointer>;
 
+    clsZR3List() = default;
+    ~clsZR3List() { releaseItems(); }
+    clsZR3List(const clsZR3List &) = delete;
+    clsZR3List &operator=(const clsZR3List &) = delete;
+
     pugi::xml_node XMLNode() const { return m_node; }
     const Collection &collection() const { return m_items; }
     int count() const { return int(m_items.size()); }
@@ -28,6 +33,7 @@ public:
     /// Every child element is an item, whatever its name.
     template <class... Arguments> void render(pugi::xml_node listNode, Arguments &...arguments)
     {
+        releaseItems();
         m_node = listNode;
         m_items.clear();
         for (const pugi::xml_node child : listNode.children())
@@ -81,6 +87,13 @@ public:
     }
 
 private:
+    /// The tree of the items goes: whoever still holds one meets the object error and not freed memory.
+    void releaseItems()
+    {
+        for (const Pointer &item : m_items)
+            item->release();
+    }
+
     void take(const Pointer &item)
     {
         item->reportKeyWritesTo(&m_keysChanged);

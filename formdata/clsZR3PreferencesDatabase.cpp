@@ -12,20 +12,15 @@ namespace {
 
 QString filePath()
 {
-    return GetDatabasePath() + u'/' + clsZR3PreferencesDatabase::fileName();
+    return GetDatabasePath() + QStringLiteral("/Preferences Database.vzp");
 }
 
 } // namespace
 
 clsZR3PreferencesDatabase::clsZR3PreferencesDatabase()
-    : clsZR3PreferencesDatabase(filePath())
-{
-}
-
-clsZR3PreferencesDatabase::clsZR3PreferencesDatabase(const QString &path)
     : clsXMLRecord(clsXMLPropertyTable::of<clsZR3PreferencesDatabase>())
 {
-    LoadXML(path);
+    LoadXML(filePath());
     // Only now: while the preferences are being read nothing is logged, not even the reading.
     SetLogSwitch([this] { return Log(); });
     SetSoundSwitch([this] { return PlaySound(); });
@@ -35,11 +30,6 @@ clsZR3PreferencesDatabase::~clsZR3PreferencesDatabase()
 {
     SetLogSwitch({});
     SetSoundSwitch({});
-}
-
-QString clsZR3PreferencesDatabase::fileName()
-{
-    return QStringLiteral("Preferences Database.vzp");
 }
 
 void clsZR3PreferencesDatabase::LoadXML(const QString &path)

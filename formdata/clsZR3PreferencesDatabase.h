@@ -44,8 +44,6 @@ public:
     /// in the object error.
     /// Once they stand, the log and the sounds ask them whether they are on.
     clsZR3PreferencesDatabase();
-    /// The same with the file at that path, for programs that do without where there is none.
-    explicit clsZR3PreferencesDatabase(const QString &path);
     ~clsZR3PreferencesDatabase();
 
     void LoadXML(const QString &path);
@@ -71,9 +69,6 @@ public:
     clsXMLBoolean<"AutoRefreshPreview"> AutoRefreshPreview {*this};
     clsXMLBoolean<"PlaySound"> PlaySound {*this};
     clsXMLBoolean<"Log"> Log {*this};
-
-    /// The file's name in the database folder.
-    static QString fileName();
 
 private:
 

@@ -12,6 +12,9 @@ namespace {
 // later versions all the room that they could want.
 constexpr int DeepestNesting = 1000;
 
+// Tags of a text. A bill of a hundred thousand items has fewer; rubbish that happens to parse would fill the memory.
+constexpr qsizetype MostTags = 4'000'000;
+
 // White space between elements carries no meaning and is dropped; comments and instructions are kept, since nothing
 // that the program does not know may be lost by a load and a save. As a fragment, so that text beside the root is seen.
 constexpr unsigned ParseOptions = pugi::parse_default | pugi::parse_comments | pugi::parse_pi | pugi::parse_fragment;
@@ -63,7 +66,8 @@ QString XMLDecodeText(const char *content)
 
 clsXMLElement XMLLoadElement(const QString &xml, const char *name)
 {
-    if (xml.contains(QChar(0))) // the parser would take it for the end
+    // The parser would take a zero for the end.
+    if (xml.contains(QChar(0)) || xml.count(u'<') > MostTags)
         return {};
     const QByteArray utf8 = xml.toUtf8();
     auto document = std::make_shared<pugi::xml_document>();

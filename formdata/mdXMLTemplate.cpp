@@ -13,10 +13,10 @@ pugi::xml_node mdXMLTemplate(const char *resourceName)
     if (known != templates.end())
         return known->second.document_element();
 
-    pugi::xml_document &document = templates[resourceName];
     const QByteArray text
         = GetResourceData(QString::fromLatin1(resourceName), QStringLiteral("VELMORZR3XML")).toUtf8();
+    pugi::xml_document document;
     if (!document.load_buffer(text.constData(), size_t(text.size())))
         throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
-    return document.document_element();
+    return templates.emplace(resourceName, std::move(document)).first->second.document_element();
 }

@@ -29,6 +29,7 @@ constexpr Description Descriptions[] = {
     {clsRunTimeError::PathFileAccess, "Path/File access error"},
     {clsRunTimeError::PathNotFound, "Path not found"},
     {clsRunTimeError::ObjectNotSet, "Object variable or With block variable not set"},
+    {clsRunTimeError::InvalidFileFormat, "Invalid file format"},
 };
 
 struct SystemError {

@@ -29,6 +29,7 @@ public:
         PathFileAccess = 75,
         PathNotFound = 76,
         ObjectNotSet = 91,
+        InvalidFileFormat = 321,
     };
 
     /// The error with its standard description.

@@ -4,8 +4,8 @@ namespace {
 
 class clsSilentUserInterface final : public clsUserInterface {
 public:
-    Answer customMessage(const QString &, const QString &, Buttons buttons, int, int) override { return unasked(buttons); }
-    Answer systemMessage(const QString &, const QString &, SystemIcon, Buttons buttons) override { return unasked(buttons); }
+    Answer customMessage(const QString &, const QString &, Buttons buttons, int, int) override { return answerThatChangesNothing(buttons); }
+    Answer systemMessage(const QString &, const QString &, SystemIcon, Buttons buttons) override { return answerThatChangesNothing(buttons); }
     void showProgress(int, int, const QString &) override { }
     void clearProgress() override { }
     QString chooseFolder(const QString &) override { return {}; }
@@ -13,24 +13,23 @@ public:
     QString chooseFileToSave(const QString &, const QString &) override { return {}; }
     void playSound(const QString &) override { }
     bool openTarget(const QString &) override { return false; }
-
-private:
-    static Answer unasked(Buttons buttons)
-    {
-        switch (buttons) {
-        case OKOnly: return OK;
-        case YesNo: return No;
-        case OKCancel:
-        case YesNoCancel: return Cancel;
-        }
-        return Cancel;
-    }
 };
 
 clsSilentUserInterface silentUserInterface;
 clsUserInterface *current = &silentUserInterface;
 
 } // namespace
+
+clsUserInterface::Answer clsUserInterface::answerThatChangesNothing(Buttons buttons)
+{
+    switch (buttons) {
+    case OKOnly: return OK;
+    case YesNo: return No;
+    case OKCancel:
+    case YesNoCancel: return Cancel;
+    }
+    return Cancel;
+}
 
 clsUserInterface &UserInterface()
 {

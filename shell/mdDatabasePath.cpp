@@ -15,17 +15,13 @@ QString registryName()
 
 } // namespace
 
-QString StoredDatabasePath()
+QString GetDatabasePath()
 {
     QString path = ReadRegKey(registryName());
     if (path.endsWith(u'\\') || path.endsWith(u'/'))
         path.chop(1);
-    return path.isEmpty() ? DefaultDatabasePath() : path;
-}
-
-QString GetDatabasePath()
-{
-    const QString path = StoredDatabasePath();
+    if (path.isEmpty())
+        path = DefaultDatabasePath();
     if (!FileSystem().FolderExists(path)) {
         UserInterface().systemMessage(QStringLiteral("The folder ") + path
                 + QStringLiteral(" does not exist. Please contact your system administrator"),

@@ -7,9 +7,6 @@
 /// The path is stored again at each call, which fills in the default at the first start and cleans a slash away.
 QString GetDatabasePath();
 
-/// The database folder as it is stored, or the default; whether it exists is not looked at, and nothing is stored.
-QString StoredDatabasePath();
-
 /// Stores the database folder.
 void SetDatabasePath(const QString &path);
 

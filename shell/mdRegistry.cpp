@@ -12,8 +12,6 @@
 
 namespace {
 
-constexpr int InvalidFileFormat = 321;
-
 /// The stores, the user's first.
 QStringList stores()
 {
@@ -80,7 +78,7 @@ private:
         switch (m_settings.status()) {
         case QSettings::NoError: return;
         case QSettings::AccessError: throw clsRunTimeError(clsRunTimeError::PathFileAccess);
-        case QSettings::FormatError: throw clsRunTimeError(InvalidFileFormat, QStringLiteral("Invalid file format"));
+        case QSettings::FormatError: throw clsRunTimeError(clsRunTimeError::InvalidFileFormat);
         }
     }
 

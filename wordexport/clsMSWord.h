@@ -72,6 +72,8 @@ public:
     /// To the first cell of the next table row. The misspelling is the name. Unguarded.
     void MoveSursorToNextLine();
 
+    /// True while a document is open; one that could not be saved stays so.
+    bool isOpen() const { return m_document != nullptr; }
     /// True once a failure has lost a whole sheet: a document that could not be opened, saved or appended.
     bool sheetLost() const { return m_sheetLost; }
 

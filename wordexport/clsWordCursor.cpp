@@ -8,8 +8,7 @@
 
 using pugi::xml_node;
 
-namespace
-{
+namespace {
 
 // The lower part of a cell that goes over several rows: not a cell of its own to the cursor.
 bool isMergedIntoAbove(const xml_node &cell)
@@ -26,14 +25,17 @@ xml_node firstOwnCell(const xml_node &row)
     return cell;
 }
 
+// No table has more; a file that says so must not make the counting overflow.
+constexpr int MostColumns = 1000;
+
 int spanOf(const xml_node &cell)
 {
-    return std::max(1, cell.child("w:tcPr").child("w:gridSpan").attribute("w:val").as_int(1));
+    return std::clamp(cell.child("w:tcPr").child("w:gridSpan").attribute("w:val").as_int(1), 1, MostColumns);
 }
 
 int columnsBefore(const xml_node &row)
 {
-    return std::max(0, row.child("w:trPr").child("w:gridBefore").attribute("w:val").as_int(0));
+    return std::clamp(row.child("w:trPr").child("w:gridBefore").attribute("w:val").as_int(0), 0, MostColumns);
 }
 
 // Columns are those of the table's grid, not counted cells: a row may have a wide cell where others have several.

@@ -5,8 +5,7 @@
 /// The failures of a document that is there but can't be worked with: one number, one clear sentence.
 inline clsRunTimeError mdDocumentError(const QString &description)
 {
-    constexpr int InvalidFileFormat = 321;
-    return clsRunTimeError(InvalidFileFormat, description);
+    return clsRunTimeError(clsRunTimeError::InvalidFileFormat, description);
 }
 
 inline clsRunTimeError mdDocumentDamaged(const QString &shownName)

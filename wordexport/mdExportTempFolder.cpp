@@ -1,8 +1,7 @@
 #include "wordexport/mdExportTempFolder.h"
 
-#include "formdata/clsZR3Form.h"
-#include "shell/clsRunTimeError.h"
 #include "shell/mdLog.h"
+#include "shell/mdSystemErrorCode.h"
 
 #include <filesystem>
 
@@ -10,15 +9,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-fs::path folderOf(const clsZR3Form &form)
+fs::path folderOf(const QString &exportFolder)
 {
-    return fs::path(mdExportTempFolder(form).toStdString());
-}
-
-void check(const std::error_code &error)
-{
-    if (error)
-        throw clsRunTimeError::fromSystem(error.value());
+    return mdExportTempFolder(exportFolder).toStdString();
 }
 
 /// Nobody's files but the export's own may be swept away: what stands under the name must be a folder, and not a link
@@ -31,41 +24,50 @@ void refuseForeignFolder(const fs::path &folder)
         throw clsRunTimeError(clsRunTimeError::PathFileAccess);
 }
 
-} // namespace
-
-QString mdExportTempFolder(const clsZR3Form &form)
+void deleteFile(const fs::directory_entry &entry)
 {
-    return form.ExportPath() + QStringLiteral("/~ZR3Temp");
+    std::error_code error;
+    const fs::file_status status = entry.symlink_status(error);
+    mdCheckSystemError(error);
+    // A folder in there is none of the export's. It is met before the first sheet is made, not after the last.
+    if (status.type() == fs::file_type::directory)
+        throw clsRunTimeError(clsRunTimeError::PathFileAccess);
+    fs::remove(entry.path(), error);
+    mdCheckSystemError(error);
 }
 
-void mdCreateExportTempFolder(const clsZR3Form &form)
+} // namespace
+
+QString mdExportTempFolder(const QString &exportFolder)
+{
+    return exportFolder + QStringLiteral("/~ZR3Temp");
+}
+
+void mdCreateExportTempFolder(const QString &exportFolder)
 {
     WriteLog(QStringLiteral("Begin Create Export Temp Folder"));
-    const fs::path folder = folderOf(form);
+    const fs::path folder = folderOf(exportFolder);
     refuseForeignFolder(folder);
     std::error_code error;
     fs::create_directory(folder, error);
-    check(error);
-    mdClearExportTempFolder(form, false);
+    mdCheckSystemError(error);
+    fs::permissions(folder, fs::perms::owner_all, error); // a file system without permissions is no reason to stop
+    mdClearExportTempFolder(exportFolder, false);
     WriteLog(QStringLiteral("End Create Export Temp Folder"));
 }
 
-void mdClearExportTempFolder(const clsZR3Form &form, bool deleteFolder)
+void mdClearExportTempFolder(const QString &exportFolder, bool deleteFolder)
 {
     WriteLog(QStringLiteral("Begin Clear Export Temp Folder"));
-    const fs::path folder = folderOf(form);
+    const fs::path folder = folderOf(exportFolder);
     refuseForeignFolder(folder);
     std::error_code error;
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
-        if (!entry->is_directory() || entry->is_symlink()) {
-            fs::remove(entry->path(), error);
-            check(error);
-        }
-    }
-    check(error);
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error))
+        deleteFile(*entry);
+    mdCheckSystemError(error);
     if (deleteFolder) {
         fs::remove(folder, error);
-        check(error);
+        mdCheckSystemError(error);
     }
     WriteLog(QStringLiteral("End Clear Export Temp Folder"));
 }

@@ -1,9 +1,10 @@
 #include "wordexport/mdExportWordClaim1.h"
 
+#include "costing/mdGetBillSummary.h"
 #include "costing/mdGetCommsInfo.h"
 #include "costing/mdGetCounselTotals.h"
 #include "costing/mdGetDisbursementsTotals.h"
-#include "costing/mdPercentageCalculate.h"
+#include "costing/mdSumOf.h"
 #include "wordexport/clsExport.h"
 #include "wordexport/mdExportRows.h"
 #include "wordexport/mdExportSheet.h"
@@ -25,22 +26,6 @@ QString outcome(const QStringList &list, int place)
     if (place < 0 || place >= list.size())
         throw clsRunTimeError(clsRunTimeError::SubscriptOutOfRange);
     return OutcomeCode(list[place]);
-}
-
-/// The VAT of the profit costs, which the claim shows to four decimals' worth: it is not rounded to the penny first.
-Money profitCostsVAT(const clsZR3Form &form)
-{
-    return PercentageCalculate(ProfitCostsTotal(form), form.VATRate());
-}
-
-Money netTotal(const clsZR3Form &form)
-{
-    return ProfitCostsTotal(form) + ExpertInvoicesNetTotal(form) + NonCounselDisbursementsAmountTotal(form);
-}
-
-Money vatTotal(const clsZR3Form &form)
-{
-    return profitCostsVAT(form) + ExpertInvoicesVATTotal(form) + NonCounselDisbursementsVATTotal(form);
 }
 
 // Page 1
@@ -143,10 +128,10 @@ const clsPlaceholderRow Page6Rows[] = {
     ZR3_LONG("{expertsmeetmojstandardreasons}", ExpertsMeetMOJStandardReasons, ExpertStandardsOverRun),
     ZR3_FIGURE("{exnet}", ExpertInvoicesNetTotal(form)),
     ZR3_FIGURE("{exvat}", ExpertInvoicesVATTotal(form)),
-    ZR3_FIGURE("{extot}", ExpertInvoicesNetTotal(form) + ExpertInvoicesVATTotal(form)),
+    ZR3_FIGURE("{extot}", mdSumOf({ExpertInvoicesNetTotal(form), ExpertInvoicesVATTotal(form)})),
 };
 
-void exportPage6(clsExport &run)
+void mdExportWordClaim1Page6(clsExport &run)
 {
     run.ExportSheetCounter = 0;
     const auto notes = mdExportWordAdditionalInformation(run, Page6AdditionalInformation);
@@ -185,12 +170,12 @@ const clsPlaceholderRow SummaryRows[] = {
     ZR3_FIGURE("{npc}", ProfitCostsTotal(form)),
     ZR3_FIGURE("{nex}", ExpertInvoicesNetTotal(form)),
     ZR3_FIGURE("{ndibs}", NonCounselDisbursementsAmountTotal(form)),
-    ZR3_FIGURE("{ntotal}", netTotal(form)),
-    ZR3_FIGURE("{vpc}", profitCostsVAT(form)),
+    ZR3_FIGURE("{ntotal}", NetWithoutCounsel(form)),
+    ZR3_FIGURE("{vpc}", ProfitCostsVAT(form)),
     ZR3_FIGURE("{vex}", ExpertInvoicesVATTotal(form)),
     ZR3_FIGURE("{vdibs}", NonCounselDisbursementsVATTotal(form)),
-    ZR3_FIGURE("{vtotal}", vatTotal(form)),
-    ZR3_FIGURE("{grandtotal}", netTotal(form) + vatTotal(form)),
+    ZR3_FIGURE("{vtotal}", VATWithoutCounsel(form)),
+    ZR3_FIGURE("{grandtotal}", NetWithoutCounsel(form) + VATWithoutCounsel(form)),
     ZR3_WORDS("{counsel}", QString::number(form.CounselCollection().size())),
     ZR3_FIGURE("{ncf}", CounselFeesAmountTotal(form)),
     ZR3_FIGURE("{vcf}", CounselFeesVATTotal(form)),
@@ -244,17 +229,29 @@ const clsPlainPage Page9 = {9, "Claim1 P9", Page9Rows, nullptr, false};
 
 const clsPlainPage Page10 = {10, "Claim1 P10", DebtorsDetailsRows};
 
+// The exporters by their names; page 6 alone has steps of its own.
+
+void mdExportWordClaim1Page1(clsExport &run) { mdExportWordPlainPage(run, Page1); }
+void mdExportWordClaim1Page2(clsExport &run) { mdExportWordPlainPage(run, Page2); }
+void mdExportWordClaim1Page3(clsExport &run) { mdExportWordPlainPage(run, Page3); }
+void mdExportWordClaim1Page4(clsExport &run) { mdExportWordGridPage(run, Page4); }
+void mdExportWordClaim1Page5(clsExport &run) { mdExportWordScheduleOfTime(run, QStringLiteral("Claim1 P5"), 5); }
+void mdExportWordClaim1Page7(clsExport &run) { mdExportWordGridPage(run, Page7); }
+void mdExportWordClaim1Page8(clsExport &run) { mdExportWordPlainPage(run, Page8); }
+void mdExportWordClaim1Page9(clsExport &run) { mdExportWordPlainPage(run, Page9); }
+void mdExportWordClaim1Page10(clsExport &run) { mdExportWordPlainPage(run, Page10); }
+
 const clsExportPageRow Pages[] = {
-    {1, "Claim1 Page 1", [](clsExport &run) { mdExportWordPlainPage(run, Page1); }},
-    {2, "Claim1 Page 2", [](clsExport &run) { mdExportWordPlainPage(run, Page2); }},
-    {3, "Claim1 Page 3", [](clsExport &run) { mdExportWordPlainPage(run, Page3); }},
-    {4, "Claim1 Page 4", [](clsExport &run) { mdExportWordGridPage(run, Page4); }},
-    {5, "Claim1 Page 5", [](clsExport &run) { mdExportWordScheduleOfTime(run, QStringLiteral("Claim1 P5"), 5); }},
-    {6, "Claim1 Page 6", exportPage6},
-    {7, "Claim1 Page 7", [](clsExport &run) { mdExportWordGridPage(run, Page7); }},
-    {8, "Claim1 Page 8", [](clsExport &run) { mdExportWordPlainPage(run, Page8); }},
-    {9, "Claim1 Page 9", [](clsExport &run) { mdExportWordPlainPage(run, Page9); }},
-    {10, "Claim1 Page 10", [](clsExport &run) { mdExportWordPlainPage(run, Page10); }},
+    {1, "Claim1 Page 1", mdExportWordClaim1Page1},
+    {2, "Claim1 Page 2", mdExportWordClaim1Page2},
+    {3, "Claim1 Page 3", mdExportWordClaim1Page3},
+    {4, "Claim1 Page 4", mdExportWordClaim1Page4},
+    {5, "Claim1 Page 5", mdExportWordClaim1Page5},
+    {6, "Claim1 Page 6", mdExportWordClaim1Page6},
+    {7, "Claim1 Page 7", mdExportWordClaim1Page7},
+    {8, "Claim1 Page 8", mdExportWordClaim1Page8},
+    {9, "Claim1 Page 9", mdExportWordClaim1Page9},
+    {10, "Claim1 Page 10", mdExportWordClaim1Page10},
 };
 
 /// The progress bar counts to eleven although the form has ten pages; the bar has always had its last step free.

@@ -2,11 +2,10 @@
 
 #include <QString>
 
-class clsZR3Form;
 struct clsExport;
 
 /// The path of the finished document: the export folder, and the form type's name with ".doc".
-QString mdFinishedDocumentPath(const clsZR3Form &form);
+QString mdFinishedDocumentPath(const QString &exportFolder, const QString &formType);
 
 /// Joins the sheets in the order in which they were made and puts the result under the finished document's name. The
 /// joining is done in the temporary folder: the finished name holds the old document or the whole new one at all times.

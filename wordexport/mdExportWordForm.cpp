@@ -1,5 +1,6 @@
 #include "wordexport/mdExportWordForm.h"
 
+#include "shell/clsRunTimeError.h"
 #include "shell/mdLog.h"
 #include "shell/mdSetProgress.h"
 #include "wordexport/clsExport.h"
@@ -21,11 +22,20 @@ void exportPage(clsExport &run, const clsExportPageRow &page)
 
 void exportSheets(clsExport &run, const clsExportForm &form)
 {
-    mdCreateExportTempFolder(run.form);
+    mdCreateExportTempFolder(run.exportFolder);
     for (const clsExportPageRow &page : form.pages) {
         // The step is taken whether or not the page is included.
         mdSetProgress(page.number, form.progressMaximum, QStringLiteral("Exporting Page %1").arg(page.number));
         exportPage(run, page);
+    }
+}
+
+/// The document stands: sheets that can't be swept away don't make its export a failure, and the next one tries again.
+void sweep(const clsExport &run)
+{
+    try {
+        mdClearExportTempFolder(run.exportFolder, true);
+    } catch (const clsRunTimeError &) {
     }
 }
 
@@ -45,10 +55,11 @@ bool mdExportWordForm(clsExport &run, const clsExportForm &form)
         exportSheets(run, form);
         mdExportWordCombineDocuments(run);
     } catch (const clsExportStopped &) {
+        mdClearProgress();
         return false;
     }
     if (!run.keepsSheets)
-        mdClearExportTempFolder(run.form, true);
+        sweep(run);
     mdClearProgress();
     WriteLog(QStringLiteral("End Export Word ") + name);
     return true;

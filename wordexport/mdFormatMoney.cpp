@@ -1,6 +1,7 @@
 #include "wordexport/mdFormatMoney.h"
 
 #include "shell/clsRunTimeError.h"
+#include "shell/mdTrimmedOfBlanks.h"
 
 #include <algorithm>
 
@@ -18,17 +19,6 @@ bool isDigit(QChar c)
     return c >= u'0' && c <= u'9';
 }
 
-QString withoutBlanks(const QString &text)
-{
-    qsizetype from = 0;
-    qsizetype to = text.size();
-    while (from < to && text[from] == u' ')
-        ++from;
-    while (to > from && text[to - 1] == u' ')
-        --to;
-    return text.mid(from, to - from);
-}
-
 Amount read(const QString &number)
 {
     Amount amount;
@@ -44,7 +34,7 @@ Amount read(const QString &number)
             (point ? amount.decimals : amount.whole) += c;
         else if (c == u'.' && !point)
             point = true;
-        else if (c != u',' || point) // where the commas stand among the whole digits is not checked
+        else if (c != u',') // where the commas stand is not checked, as in every reader of amounts
             throw clsRunTimeError(clsRunTimeError::TypeMismatch);
     }
     if (amount.whole.isEmpty() && amount.decimals.isEmpty())
@@ -81,7 +71,7 @@ QString pence(const Amount &amount)
 
 QString mdFormatMoney(const QString &text)
 {
-    const QString number = withoutBlanks(text);
+    const QString number = mdTrimmedOfBlanks(text);
     if (number.isEmpty())
         return QStringLiteral("0.00");
     const Amount amount = read(number);

@@ -1,20 +1,6 @@
 #include "wordexport/mdSplitLineIntoCollection.h"
 
-namespace {
-
-/// The text without the blanks at its ends; other white space belongs to it.
-QString trimmedOfBlanks(const QString &text)
-{
-    qsizetype first = 0;
-    qsizetype last = text.size();
-    while (first < last && text[first] == u' ')
-        ++first;
-    while (last > first && text[last - 1] == u' ')
-        --last;
-    return text.mid(first, last - first);
-}
-
-} // namespace
+#include "shell/mdTrimmedOfBlanks.h"
 
 QStringList mdSplitLineIntoCollection(const QString &text, int width)
 {
@@ -22,12 +8,12 @@ QStringList mdSplitLineIntoCollection(const QString &text, int width)
     QString line;
     for (const QString &word : text.split(u' ')) {
         if (word.size() + line.size() + 1 > width) {
-            lines << trimmedOfBlanks(line);
+            lines << mdTrimmedOfBlanks(line);
             line.clear();
         }
         line += u' ' + word;
     }
-    return lines << trimmedOfBlanks(line);
+    return lines << mdTrimmedOfBlanks(line);
 }
 
 QStringList mdCutIntoPieces(const QString &text, int cutLength)
@@ -37,9 +23,9 @@ QStringList mdCutIntoPieces(const QString &text, int cutLength)
     for (const QString &word : text.split(u' ')) {
         piece += word + u' ';
         if (piece.size() > cutLength) {
-            pieces << trimmedOfBlanks(piece);
+            pieces << mdTrimmedOfBlanks(piece);
             piece.clear();
         }
     }
-    return pieces << trimmedOfBlanks(piece);
+    return pieces << mdTrimmedOfBlanks(piece);
 }

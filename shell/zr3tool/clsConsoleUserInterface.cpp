@@ -4,26 +4,11 @@
 
 #include <unistd.h>
 
-namespace {
-
-clsUserInterface::Answer answerThatChangesNothing(clsUserInterface::Buttons buttons)
-{
-    switch (buttons) {
-    case clsUserInterface::OKOnly: return clsUserInterface::OK;
-    case clsUserInterface::YesNo: return clsUserInterface::No;
-    case clsUserInterface::OKCancel:
-    case clsUserInterface::YesNoCancel: return clsUserInterface::Cancel;
-    }
-    return clsUserInterface::Cancel;
-}
-
-} // namespace
-
 void clsConsoleUserInterface::tell(const QString &title, const QString &text)
 {
     clearProgress();
     ++m_messageCount;
-    if (isMute || (showsOnlyFirstMessage && m_messageCount > 1))
+    if (showsOnlyFirstMessage && m_messageCount > 1)
         return;
     QString block = title + QStringLiteral(": ") + text;
     block.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));

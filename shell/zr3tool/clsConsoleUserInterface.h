@@ -10,8 +10,6 @@ public:
     bool showsProgress = true;
     /// Where one failure draws several messages after it, only the first tells anything.
     bool showsOnlyFirstMessage = false;
-    /// Nothing is shown at all.
-    bool isMute = false;
 
     /// How many messages there have been, shown or not.
     int messageCount() const { return m_messageCount; }

@@ -96,5 +96,6 @@ QString clsToolCommand::usage()
                           "  --quiet            show no progress\n"
                           "\n"
                           "Exit status: 0 done; 1 wrong usage; 2 the claim can't be read; 3 blank items found;\n"
-                          "4 a figure can't be computed, or the export failed; 5 the document exists already.\n");
+                          "4 a figure can't be computed, or the export failed; 5 the document exists already.\n"
+                          "A box whose text is no amount is told of and left as it is; the document is made all the same.\n");
 }

@@ -1,9 +1,7 @@
 #include "costing/mdCheckForBlankItems.h"
 #include "formdata/clsZR3Form.h"
-#include "formdata/clsZR3PreferencesDatabase.h"
 #include "shell/clsProgramEnd.h"
 #include "shell/clsRunTimeError.h"
-#include "shell/mdDatabasePath.h"
 #include "shell/mdGetVersionInfo.h"
 #include "shell/mdProgramFolder.h"
 #include "shell/zr3tool/clsConsoleUserInterface.h"
@@ -20,7 +18,6 @@
 
 #include <cstdio>
 #include <functional>
-#include <memory>
 #include <new>
 
 namespace {
@@ -48,6 +45,8 @@ Status guarded(clsConsoleUserInterface &console, Status onError, const std::func
         // The user has been told why.
     } catch (const std::bad_alloc &) {
         console.tell(QStringLiteral("Run-time error '7'"), clsRunTimeError::standardDescription(7));
+    } catch (const std::exception &error) {
+        console.tell(QStringLiteral("Run-time error"), QString::fromUtf8(error.what()));
     }
     return onError;
 }
@@ -80,9 +79,11 @@ Status check(const clsZR3Form &form)
 Status save(const clsConsoleUserInterface &console, clsZR3Form &form, const QString &newFile)
 {
     const int messagesBefore = console.messageCount();
-    form.path = QFileInfo(newFile).absoluteFilePath();
+    // Not read back from the claim, which keeps its texts in the code page: a file's name may have other characters.
+    const QString path = QFileInfo(newFile).absoluteFilePath();
+    form.path = path;
     form.Version = GetVersionInfo();
-    form.SaveXML(form.path());
+    form.SaveXML(path);
     return console.messageCount() > messagesBefore ? Status::Failed : Status::Done;
 }
 
@@ -99,9 +100,9 @@ Status exportSheetsAndDocument(clsConsoleUserInterface &console, clsExport &run)
 void sweep(const clsExport &run)
 {
     try {
-        if (!run.keepsSheets && QFileInfo::exists(mdExportTempFolder(run.form)))
-            mdClearExportTempFolder(run.form, true);
-    } catch (const clsRunTimeError &) {
+        if (!run.keepsSheets && QFileInfo::exists(mdExportTempFolder(run.exportFolder)))
+            mdClearExportTempFolder(run.exportFolder, true);
+    } catch (const std::exception &) {
     }
 }
 
@@ -113,14 +114,15 @@ Status exportDocument(clsConsoleUserInterface &console, clsZR3Form &form, const 
                      QStringLiteral("The selected Export Path does not exist. Please select a valid folder and try again."));
         return Status::Failed;
     }
-    form.ExportPath = QDir(command.target).absolutePath();
-    if (!command.force && QFileInfo::exists(mdFinishedDocumentPath(form))) {
+    const QString exportFolder = QDir(command.target).absolutePath();
+    const QString document = mdFinishedDocumentPath(exportFolder, form.FormType());
+    if (!command.force && QFileInfo::exists(document)) {
         console.tell(QStringLiteral("Export"), QStringLiteral("The document %1 exists already. Give --force to replace it.")
-                                                   .arg(QDir::toNativeSeparators(mdFinishedDocumentPath(form))));
+                                                   .arg(QDir::toNativeSeparators(document)));
         return Status::DocumentExists;
     }
-    console.showsProgress = !command.quiet;
     clsExport run {.form = form, .templatesFolder = command.templates.isEmpty() ? TemplatesFolder() : command.templates};
+    run.exportFolder = exportFolder;
     run.stopsAtLostSheet = true;
     run.keepsSheets = command.keepSheets;
     const Status status
@@ -132,10 +134,10 @@ Status exportDocument(clsConsoleUserInterface &console, clsZR3Form &form, const 
 
 Status runOnClaim(clsConsoleUserInterface &console, const clsToolCommand &command)
 {
-    clsZR3Form form;
-    if (const Status status = load(console, form, command.claim); status != Status::Done)
-        return status;
     return guarded(console, Status::Failed, [&] {
+        clsZR3Form form;
+        if (const Status status = load(console, form, command.claim); status != Status::Done)
+            return status;
         switch (command.verb) {
         case clsToolCommand::Totals: return totals(form);
         case clsToolCommand::Check: return check(form);
@@ -148,25 +150,6 @@ Status runOnClaim(clsConsoleUserInterface &console, const clsToolCommand &comman
     });
 }
 
-/// The preferences, for the sake of the log; nothing where there are none or they can't be read: the tool does without
-/// them and says nothing.
-std::unique_ptr<clsZR3PreferencesDatabase> preferencesIfAny()
-{
-    clsConsoleUserInterface mute;
-    mute.isMute = true;
-    const clsUserInterfaceScope scope(mute);
-    try {
-        const QString path = StoredDatabasePath() + u'/' + clsZR3PreferencesDatabase::fileName();
-        if (!QFileInfo::exists(path))
-            return {};
-        auto preferences = std::make_unique<clsZR3PreferencesDatabase>(path);
-        preferences->Log(); // refuses a file whose switch can't be read
-        return preferences;
-    } catch (const clsRunTimeError &) {
-    }
-    return {};
-}
-
 Status run(const QStringList &arguments)
 {
     clsConsoleUserInterface console;
@@ -176,12 +159,12 @@ Status run(const QStringList &arguments)
         std::fputs(clsToolCommand::usage().toUtf8().constData(), stderr);
         return Status::WrongUsage;
     }
-    if (command->verb == clsToolCommand::Help)
+    if (command->verb == clsToolCommand::Help) {
         print(clsToolCommand::usage());
-    else if (command->verb == clsToolCommand::Version)
+    } else if (command->verb == clsToolCommand::Version) {
         print(QStringLiteral("Velmor ZR3 %1\n").arg(GetVersionInfo()));
-    else {
-        const auto preferences = preferencesIfAny();
+    } else {
+        console.showsProgress = !command->quiet;
         return runOnClaim(console, *command);
     }
     return Status::Done;

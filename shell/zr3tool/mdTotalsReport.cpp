@@ -1,12 +1,12 @@
 #include "shell/zr3tool/mdTotalsReport.h"
 
 #include "costing/mdCheckForBlankItems.h"
+#include "costing/mdGetBillSummary.h"
 #include "costing/mdGetColumnTotals.h"
 #include "costing/mdGetCommsInfo.h"
 #include "costing/mdGetCounselTotals.h"
 #include "costing/mdGetDisbursementsTotals.h"
 #include "costing/mdGetFASTotals.h"
-#include "costing/mdPercentageCalculate.h"
 #include "costing/mdSumOf.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/clsRunTimeError.h"
@@ -24,30 +24,10 @@ struct FigureRow {
     Money (*figure)(const Form &form);
 };
 
-Money vatOf(const Form &form, Money amount)
-{
-    return PercentageCalculate(amount, form.VATRate());
-}
-
-Money profitCostsVAT(const Form &form)
-{
-    return vatOf(form, ProfitCostsTotal(form));
-}
-
 Money loadFromBillNet(const Form &form)
 {
     const Money profitCosts = ProfitCostsTotal(form);
     return profitCosts - AdvocacyTotal(form);
-}
-
-Money netWithoutCounsel(const Form &form)
-{
-    return mdSumOf({ProfitCostsTotal(form), ExpertInvoicesNetTotal(form), NonCounselDisbursementsAmountTotal(form)});
-}
-
-Money vatWithoutCounsel(const Form &form)
-{
-    return mdSumOf({profitCostsVAT(form), ExpertInvoicesVATTotal(form), NonCounselDisbursementsVATTotal(form)});
 }
 
 const FigureRow Totals[] = {
@@ -66,22 +46,22 @@ const FigureRow Totals[] = {
     {"FASVATTotal", FASVATTotal},
     {"CommsTotal", CommsTotal},
     {"ProfitCostsTotal", ProfitCostsTotal},
-    {"ProfitCostsVAT", profitCostsVAT},
-    {"AdvocacyVAT", [](const Form &form) { return vatOf(form, AdvocacyTotal(form)); }},
+    {"ProfitCostsVAT", ProfitCostsVAT},
+    {"AdvocacyVAT", [](const Form &form) { return VATOf(form, AdvocacyTotal(form)); }},
     {"LoadFromBillNet", loadFromBillNet},
-    {"LoadFromBillVAT", [](const Form &form) { return vatOf(form, loadFromBillNet(form)); }},
+    {"LoadFromBillVAT", [](const Form &form) { return VATOf(form, loadFromBillNet(form)); }},
 };
 
 const FigureRow Claim1Summary[] = {
     {"npc", ProfitCostsTotal},
     {"nex", ExpertInvoicesNetTotal},
     {"ndibs", NonCounselDisbursementsAmountTotal},
-    {"vpc", profitCostsVAT},
+    {"vpc", ProfitCostsVAT},
     {"vex", ExpertInvoicesVATTotal},
     {"vdibs", NonCounselDisbursementsVATTotal},
-    {"ntotal", netWithoutCounsel},
-    {"vtotal", vatWithoutCounsel},
-    {"grandtotal", [](const Form &form) { return mdSumOf({netWithoutCounsel(form), vatWithoutCounsel(form)}); }},
+    {"ntotal", NetWithoutCounsel},
+    {"vtotal", VATWithoutCounsel},
+    {"grandtotal", [](const Form &form) { return mdSumOf({NetWithoutCounsel(form), VATWithoutCounsel(form)}); }},
     {"ncf", CounselFeesAmountTotal},
     {"vcf", CounselFeesVATTotal},
     {"cftotal", CounselFeesTotal},
@@ -91,22 +71,22 @@ const FigureRow Claim1ASummary[] = {
     {"npc", ProfitCostsTotal},
     {"nex", ExpertInvoicesNetTotal},
     {"ndibs", NonCounselDisbursementsAmountTotal},
-    {"vpc", profitCostsVAT},
+    {"vpc", ProfitCostsVAT},
     {"vex", ExpertInvoicesVATTotal},
     {"vdibs", NonCounselDisbursementsVATTotal},
-    {"nsubtotal", netWithoutCounsel},
-    {"vsubtotal", vatWithoutCounsel},
+    {"nsubtotal", NetWithoutCounsel},
+    {"vsubtotal", VATWithoutCounsel},
     {"nfas", FASItemsTotal},
     {"vfas", FASVATTotal},
     {"ncsl", CounselFeesAmountTotal},
     {"vcsl", CounselFeesVATTotal},
     {"ntotal",
      [](const Form &form) {
-         return mdSumOf({netWithoutCounsel(form), FASItemsTotal(form), CounselFeesAmountTotal(form)});
+         return mdSumOf({NetWithoutCounsel(form), FASItemsTotal(form), CounselFeesAmountTotal(form)});
      }},
     {"vtotal",
      [](const Form &form) {
-         return mdSumOf({vatWithoutCounsel(form), FASVATTotal(form), CounselFeesVATTotal(form)});
+         return mdSumOf({VATWithoutCounsel(form), FASVATTotal(form), CounselFeesVATTotal(form)});
      }},
 };
 
@@ -190,7 +170,7 @@ void Report::scheduleItems()
 {
     m_json.beginArray("ScheduleItems");
     for (int n = 1; n <= int(m_form.ScheduleOfTimeItemsCollection().size()); ++n)
-        scheduleItem(*m_form.ScheduleOfTimeItemByOrderID(n));
+        scheduleItem(mdExisting(m_form.ScheduleOfTimeItemByOrderID(n)));
     m_json.endArray();
 }
 

@@ -1,5 +1,5 @@
 #include "costing/Money.h"
-#include "costing/mdNumberText.h"
+#include "shell/mdNumberText.h"
 #include "costing/mdPercentageCalculate.h"
 #include "costing/mdTimeFormatting.h"
 #include "costing/mdTimeToMoney.h"

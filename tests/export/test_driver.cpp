@@ -56,7 +56,7 @@ TEST_F(Driver, AnEmptyClaimGivesOneSheetForEachPage)
 {
     EXPECT_TRUE(exportClaim());
     EXPECT_EQ(FirstSheets, recorder->order());
-    EXPECT_EQ(finished(), mdFinishedDocumentPath(form));
+    EXPECT_EQ(finished(), mdFinishedDocumentPath(form.ExportPath(), form.FormType()));
     EXPECT_TRUE(QFileInfo::exists(finished()));
     EXPECT_EQ(1, user.progressCleared);
     EXPECT_TRUE(user.messages.empty());
@@ -228,9 +228,9 @@ TEST_F(Driver, AnOlderDocumentIsReplaced)
 
 TEST_F(Driver, TheFinishedDocumentIsNamedAfterTheFormType)
 {
-    EXPECT_EQ(path(QStringLiteral("Claim1.doc")), mdFinishedDocumentPath(form));
+    EXPECT_EQ(path(QStringLiteral("Claim1.doc")), mdFinishedDocumentPath(form.ExportPath(), form.FormType()));
     form.FormType = QStringLiteral("Claim1A");
-    EXPECT_EQ(path(QStringLiteral("Claim1A.doc")), mdFinishedDocumentPath(form));
+    EXPECT_EQ(path(QStringLiteral("Claim1A.doc")), mdFinishedDocumentPath(form.ExportPath(), form.FormType()));
 }
 
 TEST_F(Driver, TheFirstSheetIsTakenForGranted)

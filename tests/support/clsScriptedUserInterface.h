@@ -70,13 +70,7 @@ private:
             answers.pop_front();
             return given;
         }
-        switch (buttons) {
-        case OKOnly: return OK;
-        case YesNo: return No;
-        case OKCancel:
-        case YesNoCancel: return Cancel;
-        }
-        return Cancel;
+        return answerThatChangesNothing(buttons);
     }
     static QString next(std::deque<QString> &prepared)
     {

@@ -1,8 +1,7 @@
 #include "tests/support/mdExpectError.h"
 #include "tests/wordexport/clsTestDocument.h"
 
-namespace
-{
+namespace {
 
 /// The document with a "#" typed where the cursor has come to.
 QString markedAfter(const QString &body, const std::function<void(clsMSWord &)> &moves)
@@ -271,6 +270,20 @@ TEST(clsWordCursor, ABodyOrCellWithoutAParagraphGetsOneWhereTheCursorComes)
     EXPECT_EQ(markedDown(QString(), 0), QStringLiteral("#/"));
     EXPECT_EQ(markedDown(QStringLiteral("<w:sectPr/>"), 0), QStringLiteral("#/"));
     EXPECT_EQ(markedDown(tbl({tr({tc(QString())})}) + p(), 0), QStringLiteral("#/||/"));
+}
+
+TEST(clsWordCursor, SpansBeyondAllMeasureDoNotUpsetTheCounting)
+{
+    const QString body = tbl({tr({spanned(QStringLiteral("a"), 2147483647), spanned(QStringLiteral("b"), 2147483647),
+                                  tc(p(QStringLiteral("c")))}),
+                             tr({tc(p(QStringLiteral("d"))), spanned(QStringLiteral("e"), -5)})})
+        + p();
+    EXPECT_EQ(markedAfter(body,
+                  [](clsMSWord &word) {
+                      word.MoveCursorRight(2);
+                      word.MoveCursorDown(1);
+                  }),
+        QStringLiteral("a/|b/|c/||d/|#e/||/"));
 }
 
 TEST(clsWordCursor, ATableWithoutCellsIsPassedOver)

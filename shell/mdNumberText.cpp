@@ -1,4 +1,4 @@
-#include "costing/mdNumberText.h"
+#include "shell/mdNumberText.h"
 
 #include "shell/clsRunTimeError.h"
 
@@ -188,4 +188,11 @@ std::int64_t FixedFromText(QStringView text, int places, std::int64_t largest)
     if (remainder.roundsUp(count.isOdd()))
         count.addOne();
     return count.signedValue(negative, largest);
+}
+
+double DoubleFromStrictText(QStringView text)
+{
+    constexpr int Places = 4;
+    static_cast<void>(FixedFromText(text, Places, std::numeric_limits<std::int64_t>::max())); // refuses what is no number
+    return TextValue(text.toString().remove(u','));
 }

@@ -25,3 +25,7 @@ int LongFromStrictText(QStringView text);
 /// commas (their places are not checked), one point, a sign in front and blanks around; any other text is error 13.
 /// What lies above `largest` or below `-largest - 1` is error 6.
 std::int64_t FixedFromText(QStringView text, int places, std::int64_t largest);
+
+/// Strict, with all the decimals that there are: the nearest double to a number as `FixedFromText` takes it; error 13 for a
+/// text that is none. Steps that multiply before they round take their factors so.
+double DoubleFromStrictText(QStringView text);

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Counts the results of test runs and ends with one line: "N passed, N failed", and how many were skipped, if any.
+"""Counts the results of test runs and ends with one line: "N passed, N failed". What was skipped is told before it.
 
     test_summary.py RESULTS.xml...
 
@@ -52,10 +52,9 @@ def main(paths):
                 print(f"Failed: {case.get('name')} ({path.parent.name})")
             elif outcome == "skipped":
                 print(f"Skipped: {case.get('name')} ({path.parent.name}): {reason(case)}")
-    line = f"{counts['passed']} passed, {counts['failed']} failed"
     if counts["skipped"]:
-        line += f", {counts['skipped']} skipped"
-    print(line)
+        print(f"{counts['skipped']} skipped, for the reasons above")
+    print(f"{counts['passed']} passed, {counts['failed']} failed")
     return 0 if complete and counts["passed"] and not counts["failed"] else 1
 
 

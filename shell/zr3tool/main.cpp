@@ -61,11 +61,16 @@ Status load(clsConsoleUserInterface &console, clsZR3Form &form, const QString &p
     return status;
 }
 
-Status totals(const clsZR3Form &form)
+Status totals(clsConsoleUserInterface &console, const clsZR3Form &form)
 {
     const clsTotalsReport report = mdTotalsReport(form);
     print(report.json);
-    return report.hasFailures ? Status::Failed : Status::Done;
+    if (!report.hasFailures)
+        return Status::Done;
+    console.tell(QStringLiteral("Totals"),
+        QStringLiteral("Some figures of this claim can't be computed. Each of them stands as \"!\" and the number of its "
+                       "run-time error."));
+    return Status::Failed;
 }
 
 Status check(const clsZR3Form &form)
@@ -139,7 +144,7 @@ Status runOnClaim(clsConsoleUserInterface &console, const clsToolCommand &comman
         if (const Status status = load(console, form, command.claim); status != Status::Done)
             return status;
         switch (command.verb) {
-        case clsToolCommand::Totals: return totals(form);
+        case clsToolCommand::Totals: return totals(console, form);
         case clsToolCommand::Check: return check(form);
         case clsToolCommand::Save: return save(console, form, command.target);
         case clsToolCommand::Export: return exportDocument(console, form, command);

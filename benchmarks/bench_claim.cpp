@@ -38,7 +38,8 @@ const ClaimFile &claimFile(int items, bool older)
         mdMakeClaim(form, items);
         claim.bytes = form.XMLOutput().toUtf8();
         if (older) // from before items could have a listed enhancement
-            for (const char *missing : {"<includeinenhancements>False</includeinenhancements>", "<enhancementuniqueid/>"})
+            for (const char *missing :
+                {"<includeinenhancements>False</includeinenhancements>", "<enhancementuniqueid/>"})
                 claim.bytes.replace(missing, "");
         claim.path = folder.filePath(QStringLiteral("claim%1%2.zr3").arg(items).arg(int(older)));
         write(claim.path, claim.bytes);

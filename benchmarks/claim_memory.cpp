@@ -32,6 +32,6 @@ int main(int argc, char **argv)
         return 3;
     const QByteArray account = file.readAll();
     std::printf("{\"held\": %s, \"peak\": %s}\n", statusValue(account, "VmRSS:").constData(),
-                statusValue(account, "VmHWM:").constData());
+        statusValue(account, "VmHWM:").constData());
     return 0;
 }

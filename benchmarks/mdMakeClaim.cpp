@@ -14,7 +14,10 @@ public:
     int below(int bound) { return int(m_random() % unsigned(bound)); }
     bool oneIn(int count) { return below(count) == 0; }
     template <class List> auto &oneOf(List &list) { return list[below(int(list.size()))]; }
-    QString money(int pounds) { return QStringLiteral("%1.%2").arg(below(pounds)).arg(below(100), 2, 10, QLatin1Char('0')); }
+    QString money(int pounds)
+    {
+        return QStringLiteral("%1.%2").arg(below(pounds)).arg(below(100), 2, 10, QLatin1Char('0'));
+    }
     QString date()
     {
         return QStringLiteral("%1/%2/%3")
@@ -29,13 +32,14 @@ private:
 };
 
 const QStringList Codes {"ATT", "CON", "DOC", "REX", "ROP", "HEA", "OTH", "TRA", "PRE", "DRA"};
-const QStringList Deeds {"Perusing and considering", "Preparing", "Drafting and amending", "Attendance upon the client to discuss",
-                         "Conference with counsel concerning", "Telephone attendance upon the expert about"};
-const QStringList Matters {"the statement of the social worker", "a schedule of issues for the hearing", "the expert's addendum report (pages 1-48)",
-                           "the disrepair at 14, Mill Road & the landlord's offer of \u00a3750", "the instructions to the joint expert",
-                           "the other side's letter of the 14th; 50% of the costs remain in dispute"};
-const QStringList Ends {"; noting points for the next conference.", ". Considering the merits and advising on the prospects of success.",
-                        ", and next steps.", "."};
+const QStringList Deeds {"Perusing and considering", "Preparing", "Drafting and amending",
+    "Attendance upon the client to discuss", "Conference with counsel concerning",
+    "Telephone attendance upon the expert about"};
+const QStringList Matters {"the statement of the social worker", "a schedule of issues for the hearing",
+    "the expert's addendum report (pages 1-48)", "the disrepair at 14, Mill Road & the landlord's offer of \u00a3750",
+    "the instructions to the joint expert", "the other side's letter of the 14th; 50% of the costs remain in dispute"};
+const QStringList Ends {"; noting points for the next conference.",
+    ". Considering the merits and advising on the prospects of success.", ", and next steps.", "."};
 
 QString description(Chooser &chooser)
 {

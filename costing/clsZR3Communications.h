@@ -7,8 +7,7 @@ class clsZR3Communications : public clsZR3Section {
 public:
     clsZR3Communications()
         : clsZR3Section(clsXMLPropertyTable::of<clsZR3Communications>(), "communications")
-    {
-    }
+    { }
 
     clsXMLBoolean<"EnhanceLettersOut"> EnhanceLettersOut {*this};
     clsXMLText<"LettersOutEnhancementUniqueID"> LettersOutEnhancementUniqueID {*this};

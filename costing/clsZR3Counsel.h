@@ -10,8 +10,7 @@ class clsZR3Counsel : public clsZR3Item {
 public:
     explicit clsZR3Counsel(clsZR3Form &, pugi::xml_node node = {})
         : clsZR3Item(clsXMLPropertyTable::of<clsZR3Counsel>(), "xmlZR3Counsel", node)
-    {
-    }
+    { }
 
     clsXMLLong<"OrderID", true> OrderID {*this};
     clsXMLText<"UniqueID", true> UniqueID {*this};

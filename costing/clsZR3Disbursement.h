@@ -9,8 +9,7 @@ class clsZR3Disbursement : public clsZR3Item {
 public:
     explicit clsZR3Disbursement(clsZR3Form &, pugi::xml_node node = {})
         : clsZR3Item(clsXMLPropertyTable::of<clsZR3Disbursement>(), "xmlZR3Disbursement", node)
-    {
-    }
+    { }
 
     clsXMLLong<"OrderID", true> OrderID {*this};
     clsXMLBoolean<"Counsel"> Counsel {*this};

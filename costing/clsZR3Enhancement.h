@@ -9,8 +9,7 @@ class clsZR3Enhancement : public clsZR3Item {
 public:
     explicit clsZR3Enhancement(clsZR3Form &, pugi::xml_node node = {})
         : clsZR3Item(clsXMLPropertyTable::of<clsZR3Enhancement>(), "xmlZR3Enhancement", node)
-    {
-    }
+    { }
 
     clsXMLLong<"OrderID", true> OrderID {*this};
     clsXMLText<"UniqueID", true> UniqueID {*this};

@@ -10,8 +10,7 @@ class clsZR3ExpertInvoice : public clsZR3Item {
 public:
     explicit clsZR3ExpertInvoice(clsZR3Form &, pugi::xml_node node = {})
         : clsZR3Item(clsXMLPropertyTable::of<clsZR3ExpertInvoice>(), "xmlZR3ExpertInvoice", node)
-    {
-    }
+    { }
 
     clsXMLLong<"OrderID", true> OrderID {*this};
     clsXMLText<"ExpertGroup"> ExpertGroup {*this};

@@ -10,8 +10,7 @@ class clsZR3FASItem : public clsZR3Item {
 public:
     explicit clsZR3FASItem(clsZR3Form &, pugi::xml_node node = {})
         : clsZR3Item(clsXMLPropertyTable::of<clsZR3FASItem>(), "xmlZR3FASItem", node)
-    {
-    }
+    { }
 
     clsXMLLong<"OrderID", true> OrderID {*this};
     clsXMLText<"dDate"> dDate {*this};

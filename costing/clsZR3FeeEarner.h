@@ -13,8 +13,7 @@ public:
     explicit clsZR3FeeEarner(clsZR3Form &form, pugi::xml_node node = {})
         : clsZR3Item(clsXMLPropertyTable::of<clsZR3FeeEarner>(), "xmlZR3FeeEarner", node)
         , m_form(&form)
-    {
-    }
+    { }
 
     clsXMLLong<"OrderID", true> OrderID {*this};
     clsXMLText<"UniqueID", true> UniqueID {*this};

@@ -15,8 +15,7 @@ public:
     explicit clsZR3FeeEarnerGroup(clsZR3Form &form, pugi::xml_node node = {})
         : clsZR3Item(clsXMLPropertyTable::of<clsZR3FeeEarnerGroup>(), "xmlZR3FeeEarnerGroup", node)
         , m_form(&form)
-    {
-    }
+    { }
 
     clsXMLLong<"OrderID", true> OrderID {*this};
     clsXMLText<"UniqueID", true> UniqueID {*this};

@@ -9,8 +9,7 @@ class clsZR3JointInstruction : public clsZR3Item {
 public:
     explicit clsZR3JointInstruction(clsZR3Form &, pugi::xml_node node = {})
         : clsZR3Item(clsXMLPropertyTable::of<clsZR3JointInstruction>(), "xmlZR3JointInstruction", node)
-    {
-    }
+    { }
 
     clsXMLLong<"OrderID", true> OrderID {*this};
     clsXMLText<"ExpertType"> ExpertType {*this};

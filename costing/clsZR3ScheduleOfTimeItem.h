@@ -20,8 +20,7 @@ public:
     explicit clsZR3ScheduleOfTimeItem(clsZR3Form &form, pugi::xml_node node = {})
         : clsZR3Item(clsXMLPropertyTable::of<clsZR3ScheduleOfTimeItem>(), "xmlZR3ScheduleOfTimeItem", node)
         , m_form(&form)
-    {
-    }
+    { }
 
     clsXMLLong<"OrderID", true> OrderID {*this};
     /// The number on the exported schedule, given by the export list; held here and not in the file.

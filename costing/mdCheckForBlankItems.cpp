@@ -37,8 +37,7 @@ QString mdBlankItemsMessage(const clsZR3Form &form)
 {
     const QString report = reportLine(QStringLiteral("Schedule of Time Items"), mdCountBlankScheduleItems(form))
         + reportLine(QStringLiteral("Disbursements"), mdCountBlankDisbursements(form));
-    return report.isEmpty() ? QStringLiteral("No blank items found")
-                            : QStringLiteral("Blank items: \r\n\r\n") + report;
+    return report.isEmpty() ? QStringLiteral("No blank items found") : QStringLiteral("Blank items: \r\n\r\n") + report;
 }
 
 void CheckForBlankItems(const clsZR3Form &form)

@@ -6,15 +6,15 @@ class clsZR3Form;
 
 // The sums of the bill's summary. They are exact additions, with no rounding.
 
-/// An amount's VAT at the claim's rate, at four decimals: VAT is shown as it is worked out, not rounded to the penny first.
-/// The claim's VAT tick is not asked; the way to no VAT is a rate of 0.
+/// An amount's VAT at the claim's rate, at four decimals: VAT is shown as it is worked out, not rounded to the penny
+/// first. The claim's VAT tick is not asked; the way to no VAT is a rate of 0.
 Money VATOf(const clsZR3Form &form, Money amount);
 
 /// The VAT of the profit costs.
 Money ProfitCostsVAT(const clsZR3Form &form);
 
-/// Profit costs, experts and other disbursements, net: the whole of Claim 1, where counsel stands apart, and the subtotal
-/// of Claim 1A.
+/// Profit costs, experts and other disbursements, net: the whole of Claim 1, where counsel stands apart, and the
+/// subtotal of Claim 1A.
 Money NetWithoutCounsel(const clsZR3Form &form);
 /// The VAT of the same.
 Money VATWithoutCounsel(const clsZR3Form &form);

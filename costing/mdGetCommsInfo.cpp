@@ -22,13 +22,13 @@ using Comms = clsZR3Communications;
 
 const KindRow Kinds[] = {
     {[](const Group &g) { return g.CallsRate(); }, [](const Group &g) { return g.Calls(); },
-     [](const Comms &c) { return c.EnhanceCalls(); }, [](const Comms &c) { return c.CallsEnhancementUniqueID(); }},
+        [](const Comms &c) { return c.EnhanceCalls(); }, [](const Comms &c) { return c.CallsEnhancementUniqueID(); }},
     {[](const Group &g) { return g.LettersInRate(); }, [](const Group &g) { return g.LettersIn(); },
-     [](const Comms &c) { return c.EnhanceLettersIn(); },
-     [](const Comms &c) { return c.LettersInEnhancementUniqueID(); }},
+        [](const Comms &c) { return c.EnhanceLettersIn(); },
+        [](const Comms &c) { return c.LettersInEnhancementUniqueID(); }},
     {[](const Group &g) { return g.LettersOutRate(); }, [](const Group &g) { return g.LettersOut(); },
-     [](const Comms &c) { return c.EnhanceLettersOut(); },
-     [](const Comms &c) { return c.LettersOutEnhancementUniqueID(); }},
+        [](const Comms &c) { return c.EnhanceLettersOut(); },
+        [](const Comms &c) { return c.LettersOutEnhancementUniqueID(); }},
 };
 
 const KindRow &rowOf(clsCommsKind kind)
@@ -63,7 +63,8 @@ std::shared_ptr<clsZR3FeeEarnerGroup> CommsGroupAtLine(const clsZR3Form &form, i
         const auto group = form.FeeEarnerGroupByOrderID(n);
         const Group &candidate = mdExisting(group);
         const double rate = TextValue(row.rate(candidate));
-        const int count = row.count(candidate); // read without a rate too: a sum beyond 32 bits is an error all the same
+        const int count
+            = row.count(candidate); // read without a rate too: a sum beyond 32 bits is an error all the same
         if (count >= 1 && rate > 0)
             ++found;
         if (found == line)

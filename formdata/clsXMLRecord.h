@@ -140,8 +140,7 @@ template <clsXMLName Name, bool Key = false> class clsXMLText : public clsXMLFie
 public:
     explicit clsXMLText(clsXMLRecord &record)
         : clsXMLField(record, clsXMLPropertyOf<Name, clsXMLKind::Text, Key>::value)
-    {
-    }
+    { }
     QString operator()() const { return readText(); }
     void operator=(const QString &value) { writeText(value); }
 };
@@ -150,8 +149,7 @@ template <clsXMLName Name> class clsXMLBoolean : public clsXMLField {
 public:
     explicit clsXMLBoolean(clsXMLRecord &record)
         : clsXMLField(record, clsXMLPropertyOf<Name, clsXMLKind::Boolean, false>::value)
-    {
-    }
+    { }
     bool operator()() const { return readBoolean(); }
     void operator=(bool value) { writeBoolean(value); }
 };
@@ -160,8 +158,7 @@ template <clsXMLName Name, bool Key = false> class clsXMLLong : public clsXMLFie
 public:
     explicit clsXMLLong(clsXMLRecord &record)
         : clsXMLField(record, clsXMLPropertyOf<Name, clsXMLKind::Long, Key>::value)
-    {
-    }
+    { }
     int operator()() const { return readLong(); }
     void operator=(int value) { writeLong(value); }
 };

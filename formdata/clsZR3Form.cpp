@@ -56,7 +56,7 @@ bool clsZR3Form::LoadXML(const QString &filePath)
     if (!root) {
         mdCustomMessages(QStringLiteral("There was a problem opening the selected file. Please ensure that the file is "
                                         "a valid ZR3 file and try again"),
-                         QStringLiteral("Error"));
+            QStringLiteral("Error"));
         return false;
     }
     GenerateNodes(root.node(), mdXMLTemplate("xmlZR3Form"));
@@ -96,9 +96,20 @@ void clsZR3Form::LoadElements()
     RenderScheduleOfTimeItems();
 
     clsZR3Section *const sections[] = {
-        &ClientDetails, &SolicitorDetails, &PreviousAdvice, &CaseInformation, &OutcomeOfCase, &LateSubmission,
-        &NatureOfProceedings, &ActualCostsIncurred, &DetailsOfWork, &CounselOutstandingClaims, &Communications,
-        &DetailsOfMonies, &DetailsOfCostsAwarded, &DebtorsDetails,
+        &ClientDetails,
+        &SolicitorDetails,
+        &PreviousAdvice,
+        &CaseInformation,
+        &OutcomeOfCase,
+        &LateSubmission,
+        &NatureOfProceedings,
+        &ActualCostsIncurred,
+        &DetailsOfWork,
+        &CounselOutstandingClaims,
+        &Communications,
+        &DetailsOfMonies,
+        &DetailsOfCostsAwarded,
+        &DebtorsDetails,
     };
     for (clsZR3Section *section : sections)
         section->XMLNode(XMLNode().child(section->elementName()));

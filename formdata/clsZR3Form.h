@@ -14,6 +14,7 @@
 #include "formdata/clsZR3List.h"
 #include "formdata/clsZR3Sections.h"
 
+// clang-format off
 /// One list of the claim and its family of members. `Plural` names the element, the collection and the render routine,
 /// `Single` the item class and the members that deal with one item.
 #define ZR3_LIST(Plural, Single)                                                                                       \
@@ -42,6 +43,7 @@ public:                                                                         
         return m_##Plural.byIdentity(uniqueID);                                                                        \
     }
 
+// clang-format on
 /// A claim: the one object that owns the live tree, hands out its sections and lists, gives out identities, and loads
 /// and saves itself. It holds no value of its own: every property goes to the tree each time.
 class clsZR3Form : public clsXMLRecord {

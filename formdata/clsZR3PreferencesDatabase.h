@@ -8,8 +8,7 @@ class clsZR3Replacement : public clsZR3Item {
 public:
     explicit clsZR3Replacement(pugi::xml_node node = {})
         : clsZR3Item(clsXMLPropertyTable::of<clsZR3Replacement>(), "xmlZR3Replacement", node)
-    {
-    }
+    { }
 
     clsXMLText<"InputText"> InputText {*this};
     clsXMLText<"OutputText"> OutputText {*this};
@@ -20,8 +19,7 @@ class clsZR3RateSet : public clsZR3Item {
 public:
     explicit clsZR3RateSet(pugi::xml_node node = {})
         : clsZR3Item(clsXMLPropertyTable::of<clsZR3RateSet>(), "xmlZR3RateSet", node)
-    {
-    }
+    { }
 
     clsXMLText<"Name"> Name {*this};
     clsXMLText<"HourlyRate"> HourlyRate {*this};
@@ -71,7 +69,6 @@ public:
     clsXMLBoolean<"Log"> Log {*this};
 
 private:
-
     clsXMLElement m_root;
     ReplacementsList m_replacements;
     RateSetsList m_rateSets;

@@ -17,8 +17,7 @@ protected:
     clsZR3Section(clsXMLPropertyTable &table, const char *elementName)
         : clsXMLRecord(table)
         , m_elementName(elementName)
-    {
-    }
+    { }
     ~clsZR3Section() = default;
 
 private:

@@ -10,8 +10,7 @@ class clsZR3ClientDetails : public clsZR3Section {
 public:
     clsZR3ClientDetails()
         : clsZR3Section(clsXMLPropertyTable::of<clsZR3ClientDetails>(), "clientdetails")
-    {
-    }
+    { }
 
     clsXMLText<"CaseReferenceNumber"> CaseReferenceNumber {*this};
     clsXMLText<"Title"> Title {*this};
@@ -26,8 +25,7 @@ class clsZR3SolicitorDetails : public clsZR3Section {
 public:
     clsZR3SolicitorDetails()
         : clsZR3Section(clsXMLPropertyTable::of<clsZR3SolicitorDetails>(), "solicitordetails")
-    {
-    }
+    { }
 
     clsXMLText<"AccountNumber"> AccountNumber {*this};
     clsXMLText<"RollNumber"> RollNumber {*this};
@@ -43,8 +41,7 @@ class clsZR3PreviousAdvice : public clsZR3Section {
 public:
     clsZR3PreviousAdvice()
         : clsZR3Section(clsXMLPropertyTable::of<clsZR3PreviousAdvice>(), "previousadvice")
-    {
-    }
+    { }
 
     clsXMLBoolean<"LegalHelpYes"> LegalHelpYes {*this};
     clsXMLBoolean<"LegalHelpNo"> LegalHelpNo {*this};
@@ -62,8 +59,7 @@ class clsZR3CaseInformation : public clsZR3Section {
 public:
     clsZR3CaseInformation()
         : clsZR3Section(clsXMLPropertyTable::of<clsZR3CaseInformation>(), "caseinformation")
-    {
-    }
+    { }
 
     clsXMLText<"IssueOfProceedingsDate"> IssueOfProceedingsDate {*this};
     clsXMLText<"DateOfFinalWorkDate"> DateOfFinalWorkDate {*this};
@@ -77,8 +73,7 @@ class clsZR3OutcomeOfCase : public clsZR3Section {
 public:
     clsZR3OutcomeOfCase()
         : clsZR3Section(clsXMLPropertyTable::of<clsZR3OutcomeOfCase>(), "outcomeofcase")
-    {
-    }
+    { }
 
     clsXMLText<"IssueOfProceedingsDate"> IssueOfProceedingsDate {*this};
     clsXMLText<"EmergencyCertificateDate"> EmergencyCertificateDate {*this};
@@ -101,8 +96,7 @@ class clsZR3LateSubmission : public clsZR3Section {
 public:
     clsZR3LateSubmission()
         : clsZR3Section(clsXMLPropertyTable::of<clsZR3LateSubmission>(), "latesubmission")
-    {
-    }
+    { }
 
     clsXMLText<"dDate"> dDate {*this};
     clsXMLText<"Explanation"> Explanation {*this};
@@ -114,8 +108,7 @@ class clsZR3NatureOfProceedings : public clsZR3Section {
 public:
     clsZR3NatureOfProceedings()
         : clsZR3Section(clsXMLPropertyTable::of<clsZR3NatureOfProceedings>(), "natureofproceedings")
-    {
-    }
+    { }
 
     clsXMLText<"DetailsOfCase"> DetailsOfCase {*this};
     clsXMLBoolean<"CareAndSupervision"> CareAndSupervision {*this};
@@ -129,14 +122,13 @@ public:
     clsXMLBoolean<"ChangeOfSolicitorHalfFeeNo"> ChangeOfSolicitorHalfFeeNo {*this};
 };
 
-/// Actual costs of care and of private law work. Shown on `Claim1A` only. The small c in `PrivateLawcourtFamilyProceeding`
-/// is the name as it stands.
+/// Actual costs of care and of private law work. Shown on `Claim1A` only. The small c in
+/// `PrivateLawcourtFamilyProceeding` is the name as it stands.
 class clsZR3ActualCostsIncurred : public clsZR3Section {
 public:
     clsZR3ActualCostsIncurred()
         : clsZR3Section(clsXMLPropertyTable::of<clsZR3ActualCostsIncurred>(), "actualcostsincurred")
-    {
-    }
+    { }
 
     clsXMLText<"CareAndSupervisionProfitCosts"> CareAndSupervisionProfitCosts {*this};
     clsXMLText<"CareAndSupervisionProfitCostsVAT"> CareAndSupervisionProfitCostsVAT {*this};
@@ -177,8 +169,7 @@ class clsZR3DetailsOfWork : public clsZR3Section {
 public:
     clsZR3DetailsOfWork()
         : clsZR3Section(clsXMLPropertyTable::of<clsZR3DetailsOfWork>(), "detailsofwork")
-    {
-    }
+    { }
 
     clsXMLText<"DetailsOfCase"> DetailsOfCase {*this};
     clsXMLText<"DetailsOfEnhancement"> DetailsOfEnhancement {*this};
@@ -189,8 +180,7 @@ class clsZR3CounselOutstandingClms : public clsZR3Section {
 public:
     clsZR3CounselOutstandingClms()
         : clsZR3Section(clsXMLPropertyTable::of<clsZR3CounselOutstandingClms>(), "counseloutstandingclaims")
-    {
-    }
+    { }
 
     clsXMLBoolean<"OutstandingClaimsYes"> OutstandingClaimsYes {*this};
     clsXMLBoolean<"OutstandingClaimsNo"> OutstandingClaimsNo {*this};
@@ -201,8 +191,7 @@ class clsZR3DetailsOfMonies : public clsZR3Section {
 public:
     clsZR3DetailsOfMonies()
         : clsZR3Section(clsXMLPropertyTable::of<clsZR3DetailsOfMonies>(), "detailsofmonies")
-    {
-    }
+    { }
 
     clsXMLText<"Value"> Value {*this};
     clsXMLText<"AmountRecovered"> AmountRecovered {*this};
@@ -213,8 +202,7 @@ class clsZR3DetailsOfCostsAwarded : public clsZR3Section {
 public:
     clsZR3DetailsOfCostsAwarded()
         : clsZR3Section(clsXMLPropertyTable::of<clsZR3DetailsOfCostsAwarded>(), "detailsofcostsawarded")
-    {
-    }
+    { }
 
     clsXMLText<"PreCertificateCosts"> PreCertificateCosts {*this};
     clsXMLText<"DuringCertificateCostsLSC"> DuringCertificateCostsLSC {*this};
@@ -244,8 +232,7 @@ class clsZR3DebtorsDetails : public clsZR3Section {
 public:
     clsZR3DebtorsDetails()
         : clsZR3Section(clsXMLPropertyTable::of<clsZR3DebtorsDetails>(), "debtorsdetails")
-    {
-    }
+    { }
 
     clsXMLText<"Title"> Title {*this};
     clsXMLText<"Initials"> Initials {*this};

@@ -25,7 +25,8 @@ bool hasContentBesideRoot(const pugi::xml_document &document, pugi::xml_node roo
 {
     for (const pugi::xml_node node : document.children())
         if (node != root
-            && (node.type() == pugi::node_element || node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata))
+            && (node.type() == pugi::node_element || node.type() == pugi::node_pcdata
+                || node.type() == pugi::node_cdata))
             return true;
     return false;
 }

@@ -14,8 +14,7 @@ public:
     clsXMLElement(std::shared_ptr<pugi::xml_document> document, pugi::xml_node node)
         : m_document(std::move(document))
         , m_node(node)
-    {
-    }
+    { }
 
     explicit operator bool() const { return !m_node.empty(); }
     pugi::xml_node node() const { return m_node; }

@@ -13,8 +13,7 @@ pugi::xml_node mdXMLTemplate(const char *resourceName)
     if (known != templates.end())
         return known->second.document_element();
 
-    const QByteArray text
-        = GetResourceData(QString::fromLatin1(resourceName), QStringLiteral("VELMORZR3XML")).toUtf8();
+    const QByteArray text = GetResourceData(QString::fromLatin1(resourceName), QStringLiteral("VELMORZR3XML")).toUtf8();
     pugi::xml_document document;
     if (!document.load_buffer(text.constData(), size_t(text.size())))
         throw clsRunTimeError(clsRunTimeError::ObjectNotSet);

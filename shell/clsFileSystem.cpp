@@ -70,8 +70,7 @@ public:
         , m_descriptor(step(which, path, [native = systemPath(path), flags, mode] {
             return ::open(native.constData(), flags | NeverBlock, mode);
         }))
-    {
-    }
+    { }
     ~clsOpenFile()
     {
         if (m_descriptor >= 0)

@@ -70,15 +70,13 @@ QString whatText(int number, const QString &description)
 
 clsRunTimeError::clsRunTimeError(int number)
     : clsRunTimeError(number, standardDescription(number))
-{
-}
+{ }
 
 clsRunTimeError::clsRunTimeError(int number, const QString &description)
     : std::runtime_error(whatText(number, description).toStdString())
     , m_number(number)
     , m_description(description)
-{
-}
+{ }
 
 clsRunTimeError clsRunTimeError::fromSystem(int systemError)
 {

@@ -4,8 +4,14 @@ namespace {
 
 class clsSilentUserInterface final : public clsUserInterface {
 public:
-    Answer customMessage(const QString &, const QString &, Buttons buttons, int, int) override { return answerThatChangesNothing(buttons); }
-    Answer systemMessage(const QString &, const QString &, SystemIcon, Buttons buttons) override { return answerThatChangesNothing(buttons); }
+    Answer customMessage(const QString &, const QString &, Buttons buttons, int, int) override
+    {
+        return answerThatChangesNothing(buttons);
+    }
+    Answer systemMessage(const QString &, const QString &, SystemIcon, Buttons buttons) override
+    {
+        return answerThatChangesNothing(buttons);
+    }
     void showProgress(int, int, const QString &) override { }
     void clearProgress() override { }
     QString chooseFolder(const QString &) override { return {}; }

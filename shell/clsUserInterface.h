@@ -20,7 +20,8 @@ public:
     static Answer answerThatChangesNothing(Buttons buttons);
 
     /// The system's own message box; `icon` is 0, 1 or 2, `timeout` is in seconds, 0 means no countdown.
-    virtual Answer customMessage(const QString &message, const QString &title, Buttons buttons, int icon, int timeout) = 0;
+    virtual Answer customMessage(const QString &message, const QString &title, Buttons buttons, int icon, int timeout)
+        = 0;
     /// The plain message box of the desktop, for failures that lie below the program's own windows.
     virtual Answer systemMessage(const QString &message, const QString &title, SystemIcon icon, Buttons buttons) = 0;
 

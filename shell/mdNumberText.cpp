@@ -193,6 +193,7 @@ std::int64_t FixedFromText(QStringView text, int places, std::int64_t largest)
 double DoubleFromStrictText(QStringView text)
 {
     constexpr int Places = 4;
-    static_cast<void>(FixedFromText(text, Places, std::numeric_limits<std::int64_t>::max())); // refuses what is no number
+    static_cast<void>(
+        FixedFromText(text, Places, std::numeric_limits<std::int64_t>::max())); // refuses what is no number
     return TextValue(text.toString().remove(u','));
 }

@@ -26,6 +26,6 @@ int LongFromStrictText(QStringView text);
 /// What lies above `largest` or below `-largest - 1` is error 6.
 std::int64_t FixedFromText(QStringView text, int places, std::int64_t largest);
 
-/// Strict, with all the decimals that there are: the nearest double to a number as `FixedFromText` takes it; error 13 for a
-/// text that is none. Steps that multiply before they round take their factors so.
+/// Strict, with all the decimals that there are: the nearest double to a number as `FixedFromText` takes it; error 13
+/// for a text that is none. Steps that multiply before they round take their factors so.
 double DoubleFromStrictText(QStringView text);

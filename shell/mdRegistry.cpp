@@ -36,8 +36,7 @@ class clsStore {
 public:
     explicit clsStore(const QString &path)
         : m_settings(regular(path), QSettings::IniFormat)
-    {
-    }
+    { }
 
     std::optional<QString> value(const QString &key)
     {

@@ -12,6 +12,7 @@ inline QString mdTickText(bool ticked)
     return ticked ? QStringLiteral("True") : QStringLiteral("False");
 }
 
+// clang-format off
 #define ZR3_TEXT(placeholder, member)                                                                                  \
     clsPlaceholderRow { placeholder, [](const clsZR3Form &form) { return form.member(); }, clsFillClass::Text }
 #define ZR3_TICK(placeholder, member)                                                                                  \
@@ -32,3 +33,4 @@ inline QString mdTickText(bool ticked)
 #define ZR3_CELL(expression, fill)                                                                                     \
     clsGridCell { []([[maybe_unused]] const clsZR3Form &form, [[maybe_unused]] int i) { return QString(expression); }, \
         clsFillClass::fill }
+// clang-format on

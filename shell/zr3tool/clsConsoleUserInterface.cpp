@@ -15,15 +15,15 @@ void clsConsoleUserInterface::tell(const QString &title, const QString &text)
     std::fprintf(stderr, "%s\n", block.toUtf8().constData());
 }
 
-clsUserInterface::Answer clsConsoleUserInterface::customMessage(const QString &message, const QString &title,
-                                                                Buttons buttons, int, int)
+clsUserInterface::Answer clsConsoleUserInterface::customMessage(
+    const QString &message, const QString &title, Buttons buttons, int, int)
 {
     tell(title, message);
     return answerThatChangesNothing(buttons);
 }
 
-clsUserInterface::Answer clsConsoleUserInterface::systemMessage(const QString &message, const QString &title, SystemIcon,
-                                                                Buttons buttons)
+clsUserInterface::Answer clsConsoleUserInterface::systemMessage(
+    const QString &message, const QString &title, SystemIcon, Buttons buttons)
 {
     tell(title, message);
     return answerThatChangesNothing(buttons);

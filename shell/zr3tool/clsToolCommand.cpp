@@ -42,9 +42,8 @@ bool hasExportOptions(const QCommandLineParser &parser)
 std::optional<clsToolCommand> commandOf(const QCommandLineParser &parser)
 {
     const QStringList words = parser.positionalArguments();
-    const auto *row = std::find_if(std::begin(Verbs), std::end(Verbs), [&](const VerbRow &candidate) {
-        return !words.isEmpty() && words.first() == QLatin1String(candidate.word);
-    });
+    const auto *row = std::find_if(std::begin(Verbs), std::end(Verbs),
+        [&](const VerbRow &candidate) { return !words.isEmpty() && words.first() == QLatin1String(candidate.word); });
     if (row == std::end(Verbs) || words.size() != row->paths + 1)
         return {};
     if (row->verb != clsToolCommand::Export && hasExportOptions(parser))
@@ -82,20 +81,21 @@ std::optional<clsToolCommand> clsToolCommand::read(const QStringList &arguments)
 
 QString clsToolCommand::usage()
 {
-    return QStringLiteral("Usage:\n"
-                          "  zr3tool totals CLAIM           every figure of the bill, as JSON\n"
-                          "  zr3tool export CLAIM FOLDER    the finished document into FOLDER\n"
-                          "  zr3tool check  CLAIM           the blank items check\n"
-                          "  zr3tool save   CLAIM NEWFILE   brings the claim up to date and writes it to NEWFILE\n"
-                          "  zr3tool --help | --version\n"
-                          "\n"
-                          "Options of export:\n"
-                          "  --force            replace an existing document\n"
-                          "  --templates DIR    the folder of the page templates\n"
-                          "  --keep-sheets      leave the folder ~ZR3Temp with its sheets\n"
-                          "  --quiet            show no progress\n"
-                          "\n"
-                          "Exit status: 0 done; 1 wrong usage; 2 the claim can't be read; 3 blank items found;\n"
-                          "4 a figure can't be computed, or the export failed; 5 the document exists already.\n"
-                          "A box whose text is no amount is told of and left as it is; the document is made all the same.\n");
+    return QStringLiteral(
+        "Usage:\n"
+        "  zr3tool totals CLAIM           every figure of the bill, as JSON\n"
+        "  zr3tool export CLAIM FOLDER    the finished document into FOLDER\n"
+        "  zr3tool check  CLAIM           the blank items check\n"
+        "  zr3tool save   CLAIM NEWFILE   brings the claim up to date and writes it to NEWFILE\n"
+        "  zr3tool --help | --version\n"
+        "\n"
+        "Options of export:\n"
+        "  --force            replace an existing document\n"
+        "  --templates DIR    the folder of the page templates\n"
+        "  --keep-sheets      leave the folder ~ZR3Temp with its sheets\n"
+        "  --quiet            show no progress\n"
+        "\n"
+        "Exit status: 0 done; 1 wrong usage; 2 the claim can't be read; 3 blank items found;\n"
+        "4 a figure can't be computed, or the export failed; 5 the document exists already.\n"
+        "A box whose text is no amount is told of and left as it is; the document is made all the same.\n");
 }

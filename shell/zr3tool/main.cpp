@@ -55,8 +55,8 @@ Status load(clsConsoleUserInterface &console, clsZR3Form &form, const QString &p
 {
     // That a file which can't be read is no claim either goes without saying.
     console.showsOnlyFirstMessage = true;
-    const Status status = guarded(console, Status::NoClaim,
-                                  [&] { return form.LoadXML(path) ? Status::Done : Status::NoClaim; });
+    const Status status
+        = guarded(console, Status::NoClaim, [&] { return form.LoadXML(path) ? Status::Done : Status::NoClaim; });
     console.showsOnlyFirstMessage = false;
     return status;
 }
@@ -68,8 +68,9 @@ Status totals(clsConsoleUserInterface &console, const clsZR3Form &form)
     if (!report.hasFailures)
         return Status::Done;
     console.tell(QStringLiteral("Totals"),
-        QStringLiteral("Some figures of this claim can't be computed. Each of them stands as \"!\" and the number of its "
-                       "run-time error."));
+        QStringLiteral(
+            "Some figures of this claim can't be computed. Each of them stands as \"!\" and the number of its "
+            "run-time error."));
     return Status::Failed;
 }
 
@@ -97,7 +98,7 @@ Status exportSheetsAndDocument(clsConsoleUserInterface &console, clsExport &run)
     if (run.form.FormType() == QLatin1String("Claim1"))
         return mdExportWordClaim1(run) ? Status::Done : Status::Failed;
     console.tell(QStringLiteral("Export"),
-                 QStringLiteral("There are no pages for the form type \"%1\" of this claim.").arg(run.form.FormType()));
+        QStringLiteral("There are no pages for the form type \"%1\" of this claim.").arg(run.form.FormType()));
     return Status::Failed;
 }
 
@@ -107,8 +108,7 @@ void sweep(const clsExport &run)
     try {
         if (!run.keepsSheets && QFileInfo::exists(mdExportTempFolder(run.exportFolder)))
             mdClearExportTempFolder(run.exportFolder, true);
-    } catch (const std::exception &) {
-    }
+    } catch (const std::exception &) { }
 }
 
 Status exportDocument(clsConsoleUserInterface &console, clsZR3Form &form, const clsToolCommand &command)
@@ -116,22 +116,23 @@ Status exportDocument(clsConsoleUserInterface &console, clsZR3Form &form, const 
     const QFileInfo folder(command.target);
     if (!folder.isDir()) {
         console.tell(QStringLiteral("Export Path"),
-                     QStringLiteral("The selected Export Path does not exist. Please select a valid folder and try again."));
+            QStringLiteral("The selected Export Path does not exist. Please select a valid folder and try again."));
         return Status::Failed;
     }
     const QString exportFolder = QDir(command.target).absolutePath();
     const QString document = mdFinishedDocumentPath(exportFolder, form.FormType());
     if (!command.force && QFileInfo::exists(document)) {
-        console.tell(QStringLiteral("Export"), QStringLiteral("The document %1 exists already. Give --force to replace it.")
-                                                   .arg(QDir::toNativeSeparators(document)));
+        console.tell(QStringLiteral("Export"),
+            QStringLiteral("The document %1 exists already. Give --force to replace it.")
+                .arg(QDir::toNativeSeparators(document)));
         return Status::DocumentExists;
     }
-    clsExport run {.form = form, .templatesFolder = command.templates.isEmpty() ? TemplatesFolder() : command.templates};
+    clsExport run {
+        .form = form, .templatesFolder = command.templates.isEmpty() ? TemplatesFolder() : command.templates};
     run.exportFolder = exportFolder;
     run.stopsAtLostSheet = true;
     run.keepsSheets = command.keepSheets;
-    const Status status
-        = guarded(console, Status::Failed, [&] { return exportSheetsAndDocument(console, run); });
+    const Status status = guarded(console, Status::Failed, [&] { return exportSheetsAndDocument(console, run); });
     if (status != Status::Done)
         sweep(run);
     return status;

@@ -61,7 +61,10 @@ const FigureRow Claim1Summary[] = {
     {"vdibs", NonCounselDisbursementsVATTotal},
     {"ntotal", NetWithoutCounsel},
     {"vtotal", VATWithoutCounsel},
-    {"grandtotal", [](const Form &form) { return mdSumOf({NetWithoutCounsel(form), VATWithoutCounsel(form)}); }},
+    {"grandtotal",
+        [](const Form &form) {
+            return mdSumOf({NetWithoutCounsel(form), VATWithoutCounsel(form)});
+        }},
     {"ncf", CounselFeesAmountTotal},
     {"vcf", CounselFeesVATTotal},
     {"cftotal", CounselFeesTotal},
@@ -81,13 +84,13 @@ const FigureRow Claim1ASummary[] = {
     {"ncsl", CounselFeesAmountTotal},
     {"vcsl", CounselFeesVATTotal},
     {"ntotal",
-     [](const Form &form) {
-         return mdSumOf({NetWithoutCounsel(form), FASItemsTotal(form), CounselFeesAmountTotal(form)});
-     }},
+        [](const Form &form) {
+            return mdSumOf({NetWithoutCounsel(form), FASItemsTotal(form), CounselFeesAmountTotal(form)});
+        }},
     {"vtotal",
-     [](const Form &form) {
-         return mdSumOf({VATWithoutCounsel(form), FASVATTotal(form), CounselFeesVATTotal(form)});
-     }},
+        [](const Form &form) {
+            return mdSumOf({VATWithoutCounsel(form), FASVATTotal(form), CounselFeesVATTotal(form)});
+        }},
 };
 
 /// Writes the report; a figure that fails is written as its error's number.
@@ -95,8 +98,7 @@ class Report {
 public:
     explicit Report(const Form &form)
         : m_form(form)
-    {
-    }
+    { }
 
     clsTotalsReport write();
 

@@ -38,7 +38,6 @@ public:
     }
     Money operator-() const { return Money() - *this; }
     Money &operator+=(Money other) { return *this = *this + other; }
-    Money &operator-=(Money other) { return *this = *this - other; }
 
 private:
     explicit constexpr Money(std::int64_t tenThousandths)

@@ -37,16 +37,6 @@ QString LogsFolder()
     return ProgramPath(QStringLiteral("Logs"));
 }
 
-QString SoundsFolder()
-{
-    return ProgramPath(QStringLiteral("Sounds"));
-}
-
-QString DocumentationFolder()
-{
-    return ProgramPath(QStringLiteral("Documentation"));
-}
-
 QString TemplatesFolder()
 {
     return ProgramPath(QStringLiteral("Templates"));

@@ -14,6 +14,4 @@ void SetProgramFolder(const QString &folder);
 
 /// The folders beside the program.
 QString LogsFolder();
-QString SoundsFolder();
-QString DocumentationFolder();
 QString TemplatesFolder();

@@ -74,8 +74,6 @@ struct clsGridPage {
     const char *pageTemplate;
     std::span<const Grid> grids;
     std::span<const clsPlaceholderRow> rows;
-    /// On one page the mark comes after the placeholders; the printed result is the same.
-    bool markComesLast = false;
 };
 
 /// The place of the additional information on its page.

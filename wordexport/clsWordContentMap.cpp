@@ -4,7 +4,10 @@
 #include "wordexport/clsWordStyleImport.h"
 #include "wordexport/mdWordXml.h"
 
+#include <algorithm>
+#include <functional>
 #include <string_view>
+#include <utility>
 
 using pugi::xml_node;
 
@@ -67,6 +70,27 @@ bool isShortName(const char *name)
 {
     constexpr size_t ShortName = 5;
     return std::strlen(name) <= ShortName && std::strcmp(name, "w:p") != 0 && std::strcmp(name, "w:tbl") != 0;
+}
+
+// What holds nothing by the format, and is taken out as a whole.
+bool isEmptyElement(Kind kind)
+{
+    return kind == Kind::Style || kind == Kind::List || kind == Kind::BookmarkStart || kind == Kind::BookmarkEnd
+        || kind == Kind::Dropped;
+}
+
+int levelOf(xml_node node)
+{
+    int level = 0;
+    while ((node = node.parent()))
+        ++level;
+    return level;
+}
+
+bool isRunWithoutContent(const xml_node &node)
+{
+    const xml_node left = node.first_child();
+    return WordXml::is(node, "w:r") && (!left || (WordXml::is(left, "w:rPr") && !left.next_sibling()));
 }
 
 bool isWordCharacter(char c)
@@ -160,6 +184,9 @@ void clsWordContentMap::mapElement(xml_node node)
     const auto kind = Kinds.find(node.name());
     if (kind == Kinds.end())
         return;
+    // Else what a hostile document puts in there would be noted for removal a second time, within what is removed.
+    if (isEmptyElement(kind->second))
+        node.remove_children();
     switch (kind->second) {
     case Kind::Paragraph: nameDefaultStyle(node, "w:pPr", "w:pStyle", "paragraph"); break;
     case Kind::Table: nameDefaultStyle(node, "w:tblPr", "w:tblStyle", "table"); break;
@@ -215,7 +242,10 @@ void clsWordContentMap::mapBookmarkStart(xml_node node)
     const std::string id = node.attribute("w:id").value();
     const std::string mapped = m_identities.nextBookmark();
     m_bookmarkIds[id] = mapped;
-    m_openBookmarks[id] = node;
+    if (xml_node &open = m_openBookmarks[id]; open)
+        m_dropped.push_back(std::exchange(open, node)); // its end would now be this one's
+    else
+        open = node;
     WordXml::setAttribute(node, "w:id", mapped);
     const std::string free = m_identities.freeBookmarkName(name);
     if (free != name) {
@@ -252,12 +282,18 @@ void clsWordContentMap::renameBookmarkUses()
 
 void clsWordContentMap::removeDropped()
 {
+    std::vector<std::pair<int, xml_node>> runs;
     for (const xml_node &node : m_dropped) {
         xml_node parent = node.parent();
         parent.remove_child(node);
-        const xml_node left = parent.first_child();
-        if (WordXml::is(parent, "w:r") && (!left || (WordXml::is(left, "w:rPr") && !left.next_sibling())))
-            parent.parent().remove_child(parent);
+        if (WordXml::is(parent, "w:r"))
+            runs.emplace_back(levelOf(parent), parent);
     }
     m_dropped.clear();
+    // Only when nothing that was noted is left in them; the inner ones first, should runs stand in one another.
+    std::sort(runs.begin(), runs.end(), std::greater());
+    runs.erase(std::unique(runs.begin(), runs.end()), runs.end());
+    for (const auto &[level, run] : runs)
+        if (isRunWithoutContent(run))
+            run.parent().remove_child(run);
 }

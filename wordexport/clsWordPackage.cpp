@@ -155,9 +155,8 @@ void clsWordPackage::parseInto(pugi::xml_node place, const QByteArray &bytes) co
     const bool sound = (utf16 || bytes.isValidUtf8())
         && place.append_buffer(bytes.constData(), size_t(bytes.size()), flags)
         && WordXml::depth(place, MaximumDepth) < MaximumDepth;
-    // A fragment that a tree would take without a word is no document.
-    const bool hasRoot = sound && place.find_child([](const pugi::xml_node &node) { return WordXml::isElement(node); });
-    if (!hasRoot)
+    // A fragment without a root, or with two, is no document, though a tree takes it without a word.
+    if (!sound || std::count_if(place.begin(), place.end(), WordXml::isElement) != 1)
         throw mdDocumentDamaged(m_shownName);
 }
 

@@ -224,11 +224,6 @@ void clsWordParagraph::addLeaf(const xml_node &run, const xml_node &node)
     m_leaves.push_back({run, node, start, length() - start});
 }
 
-bool clsWordParagraph::isText(const Leaf &leaf) const
-{
-    return WordXml::is(leaf.node, "w:t");
-}
-
 const clsWordParagraph::Leaf *clsWordParagraph::leafEndingAt(int at) const
 {
     for (const Leaf &leaf : m_leaves)

@@ -27,7 +27,6 @@ public:
 
     const std::string &text() const { return m_text; }
     int length() const { return int(m_text.size()); }
-    bool isEmpty() const { return m_text.empty(); }
 
     /// The formatting (w:rPr, or a null node) of the characters in a range, run by run.
     std::vector<pugi::xml_node> formatsIn(int from, int to) const;
@@ -59,7 +58,6 @@ private:
     void read();
     void readRun(const pugi::xml_node &run, std::vector<bool> &fieldCodes);
     void addLeaf(const pugi::xml_node &run, const pugi::xml_node &node);
-    bool isText(const Leaf &leaf) const;
     pugi::xml_node splitRunAt(int at);
     const Leaf *leafEndingAt(int at) const;
     const Leaf *leafStartingAt(int at) const;

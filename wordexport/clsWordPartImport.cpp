@@ -119,7 +119,10 @@ int clsWordPartImport::copyPart(int sourcePart)
     auto known = m_known.byContent.find(key);
     if (known == m_known.byContent.end()) {
         if (isHeaderOrFooter(contentType)) {
-            m_mapContent(m_source.partXml(sourcePart).document_element());
+            const pugi::xml_node root = m_source.partXml(sourcePart).document_element();
+            if (!WordXml::is(root, "w:hdr") && !WordXml::is(root, "w:ftr"))
+                throw mdDocumentDamaged(m_source.shownName());
+            m_mapContent(root);
             m_source.setChanged(sourcePart);
         }
         const int part

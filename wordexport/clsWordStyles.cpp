@@ -155,7 +155,6 @@ int mdEnsureRelatedPart(clsWordPackage &package, const char *typeName, const cha
 clsWordStyles::clsWordStyles(clsWordPackage &target)
     : m_target(target)
     , m_part(target.relatedPart("styles"))
-    , m_originalBytes(m_part < 0 ? QByteArray() : target.partBytes(m_part))
     , m_root(m_part < 0 ? xml_node() : target.partXml(m_part).document_element())
     , m_own(m_definitions, m_root,
           target.relatedPart("numbering") < 0 ? xml_node()

@@ -60,14 +60,10 @@ public:
     clsWordStyleDefinitions &definitions() { return m_definitions; }
     const clsWordStyleDefinitions::Of &own() const { return m_own; }
     pugi::xml_node root() { return m_root; }
-    int part() const { return m_part; }
-    /// The bytes of the styles before anything was added.
-    const QByteArray &originalBytes() const { return m_originalBytes; }
 
 private:
     clsWordPackage &m_target;
     int m_part;
-    QByteArray m_originalBytes;
     pugi::xml_node m_root;
     clsWordStyleDefinitions m_definitions;
     clsWordStyleDefinitions::Of m_own;

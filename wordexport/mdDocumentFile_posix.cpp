@@ -1,5 +1,6 @@
 #include "wordexport/mdDocumentFile.h"
 
+#include "shell/clsFileSystem.h"
 #include "wordexport/mdDocumentError.h"
 
 #include <QFile>
@@ -86,43 +87,34 @@ void syncFolder(const QByteArray &document)
         ::fsync(descriptor.get());
 }
 
+// The file that is meant: where the name is a link, the one that it leads to is replaced, not the link.
+QByteArray fileItself(const QString &path)
+{
+    const QByteArray document = QFile::encodeName(path);
+    struct stat status;
+    if (document.isEmpty())
+        fail(ENOENT);
+    if (::lstat(document.constData(), &status) != 0 || !S_ISLNK(status.st_mode))
+        return document;
+    if (::stat(document.constData(), &status) != 0) // it leads nowhere
+        fail(errno);
+    return QFile::encodeName(QFileInfo(path).canonicalFilePath());
+}
+
 } // namespace
 
 QByteArray mdReadDocumentFile(const QString &path, qint64 limit)
 {
-    // Without O_NONBLOCK, opening a pipe would wait for somebody to write into it.
-    const clsDescriptor file(::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-    struct stat status;
-    if (file.get() < 0 || ::fstat(file.get(), &status) != 0)
-        fail(errno);
-    if (!S_ISREG(status.st_mode))
-        throw clsRunTimeError(clsRunTimeError::PathFileAccess);
-    if (status.st_size > limit)
+    const QFileInfo file(path);
+    if (file.isFile() && file.size() > limit)
         throw mdDocumentTooLarge(path);
-
-    QByteArray bytes(status.st_size, Qt::Uninitialized);
-    qsizetype done = 0;
-    while (done < bytes.size()) {
-        const ssize_t read = ::read(file.get(), bytes.data() + done, size_t(bytes.size() - done));
-        if (read < 0 && errno == EINTR)
-            continue;
-        if (read < 0)
-            fail(errno);
-        if (read == 0)
-            break;
-        done += read;
-    }
-    bytes.truncate(done);
-    return bytes;
+    return FileSystem().ReadFile(path);
 }
 
 void mdWriteDocumentFile(const QString &path, const QByteArray &bytes, bool toDisk)
 {
-    QByteArray document = QFile::encodeName(path);
+    const QByteArray document = fileItself(path);
     struct stat status;
-    // Where the name is a link, the file that it leads to is replaced, not the link.
-    if (::lstat(document.constData(), &status) == 0 && S_ISLNK(status.st_mode))
-        document = QFile::encodeName(QFileInfo(path).canonicalFilePath());
     const bool exists = ::stat(document.constData(), &status) == 0;
     if (exists && !S_ISREG(status.st_mode))
         throw clsRunTimeError(clsRunTimeError::PathFileAccess);

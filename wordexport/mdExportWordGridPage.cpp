@@ -78,10 +78,7 @@ void mdExportWordGridPage(clsExport &run, const clsGridPage &page)
             run.ExportSheetCounter = 1;
         mdExportGrid(run, word, *part.grid, part.grid->firstOffset, firstSheet, page.number);
     }
-    if (!page.markComesLast)
-        mdReplaceFirstSheetMark(run, word);
+    mdReplaceFirstSheetMark(run, word);
     mdReplaceRows(run, word, page.rows, page.number);
-    if (page.markComesLast)
-        mdReplaceFirstSheetMark(run, word);
     mdFinishSheet(run, word);
 }

@@ -49,9 +49,9 @@ TEST(Money, AddsAndSubtractsExactly)
     EXPECT_EQ(units(-1), units(1) - units(2));
     EXPECT_EQ(units(-7), -units(7));
     Money sum;
-    sum += units(Largest);
-    sum -= units(1);
-    EXPECT_EQ(units(Largest - 1), sum);
+    sum += units(Largest - 1);
+    sum += units(1);
+    EXPECT_EQ(units(Largest), sum);
 }
 
 TEST(Money, OverflowOfASumIsAnErrorAndNeverWraps)

@@ -148,6 +148,4 @@ TEST_F(Services, TheProgramFolderIsThatOfTheRunningProgram)
         << qPrintable(ProgramFolder());
     EXPECT_EQ(ProgramFolder() + QStringLiteral("/Templates"), TemplatesFolder());
     EXPECT_EQ(ProgramFolder() + QStringLiteral("/Logs"), LogsFolder());
-    EXPECT_EQ(ProgramFolder() + QStringLiteral("/Sounds"), SoundsFolder());
-    EXPECT_EQ(ProgramFolder() + QStringLiteral("/Documentation"), DocumentationFolder());
 }

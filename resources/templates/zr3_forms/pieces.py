@@ -286,13 +286,13 @@ class Total(NamedTuple):
 
 
 def totals(grid, *parts, style=None, height=look.TOTAL_ROW, above=look.EDGE):
-    style = style or grid.style
+    """A row of totals; `style` is the amounts' where they need a smaller one than the grid's."""
     cells, begin = [], 0
     for part in parts:
         columns = grid.columns[begin:begin + part.columns]
-        make = printed if part.name is None else answered
-        content = part.label if part.name is None else slot(part.name)
-        cells.append(make(width_of(columns), content, style=style, align=part.align, bold=True,
-                          left=left_edge(columns[0])))
+        looks = dict(align=part.align, bold=True, left=left_edge(columns[0]))
+        cells.append(printed(width_of(columns), part.label, style=grid.style, **looks)
+                     if part.name is None else
+                     answered(width_of(columns), slot(part.name), style=style or grid.style, **looks))
         begin += part.columns
     return Row(height, tuple(cells), above=above)

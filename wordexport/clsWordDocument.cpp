@@ -71,7 +71,11 @@ xml_node clsWordDocument::body()
 
 void clsWordDocument::save(clsZipPackage::Packing packing, bool toDisk)
 {
-    mdWriteDocumentFile(m_path, m_package.toBytes(packing), toDisk);
+    const QByteArray bytes = m_package.toBytes(packing);
+    if (toDisk)
+        mdWriteDocumentFile(m_path, bytes);
+    else
+        mdWriteWorkingFile(m_path, bytes);
 }
 
 void clsWordDocument::moved()

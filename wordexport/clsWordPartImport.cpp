@@ -1,6 +1,7 @@
 #include "wordexport/clsWordPartImport.h"
 
 #include "wordexport/mdDocumentError.h"
+#include "wordexport/mdWordXml.h"
 
 #include <QCryptographicHash>
 

@@ -92,8 +92,8 @@ QByteArray fileItself(const QString &path)
 {
     const QByteArray document = QFile::encodeName(path);
     struct stat status;
-    if (document.isEmpty())
-        fail(ENOENT);
+    if (document.isEmpty()) // its side file would come to lie in the current folder
+        throw clsRunTimeError(clsRunTimeError::PathNotFound);
     if (::lstat(document.constData(), &status) != 0 || !S_ISLNK(status.st_mode))
         return document;
     if (::stat(document.constData(), &status) != 0) // it leads nowhere
@@ -111,7 +111,7 @@ QByteArray mdReadDocumentFile(const QString &path, qint64 limit)
     return FileSystem().ReadFile(path);
 }
 
-void mdWriteDocumentFile(const QString &path, const QByteArray &bytes, bool toDisk)
+void mdWriteDocumentFile(const QString &path, const QByteArray &bytes)
 {
     const QByteArray document = fileItself(path);
     struct stat status;
@@ -129,13 +129,27 @@ void mdWriteDocumentFile(const QString &path, const QByteArray &bytes, bool toDi
     if (exists)
         (void)::fchmod(side.get(), status.st_mode & 07777); // a file system without modes is no reason to fail
 
-    const bool written = writeAll(side.get(), bytes) && (!toDisk || ::fsync(side.get()) == 0) && side.close()
+    const bool written = writeAll(side.get(), bytes) && ::fsync(side.get()) == 0 && side.close()
         && ::rename(sidePath.constData(), document.constData()) == 0;
     if (!written) {
         const int systemError = errno;
         ::unlink(sidePath.constData());
         fail(systemError);
     }
-    if (toDisk)
-        syncFolder(document);
+    syncFolder(document);
+}
+
+void mdWriteWorkingFile(const QString &path, const QByteArray &bytes)
+{
+    const QByteArray file = QFile::encodeName(path);
+    if (::unlink(file.constData()) != 0 && errno != ENOENT)
+        fail(errno);
+    clsDescriptor descriptor(::open(file.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    if (descriptor.get() < 0)
+        fail(errno == ENOENT ? ENOTDIR : errno); // it is the folder that was not found
+    if (writeAll(descriptor.get(), bytes) && descriptor.close())
+        return;
+    const int systemError = errno;
+    ::unlink(file.constData());
+    fail(systemError);
 }

@@ -40,7 +40,7 @@ QString mdExportCopyTemplate(clsExport &run, const QString &templateName, const 
 {
     WriteLog(QStringLiteral("Begin Export Copy Template"));
     const QString path = QStringLiteral("%1/%2.doc").arg(mdExportTempFolder(run.exportFolder), sheetName);
-    mdWriteDocumentFile(path, templateBytes(run, templateName), false);
+    mdWriteWorkingFile(path, templateBytes(run, templateName));
     WriteLog(QStringLiteral("End Export Copy Template"));
     return path;
 }

@@ -4,6 +4,7 @@
 #include "shell/mdSystemErrorCode.h"
 
 #include <filesystem>
+#include <vector>
 
 namespace {
 
@@ -24,16 +25,20 @@ void refuseForeignFolder(const fs::path &folder)
         throw clsRunTimeError(clsRunTimeError::PathFileAccess);
 }
 
-void deleteFile(const fs::directory_entry &entry)
+/// The files in the folder. A folder in there is none of the export's, so that nothing at all may be swept away.
+std::vector<fs::path> filesIn(const fs::path &folder)
 {
+    std::vector<fs::path> files;
     std::error_code error;
-    const fs::file_status status = entry.symlink_status(error);
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+        const fs::file_status status = entry->symlink_status(error);
+        mdCheckSystemError(error);
+        if (status.type() == fs::file_type::directory)
+            throw clsRunTimeError(clsRunTimeError::PathFileAccess);
+        files.push_back(entry->path());
+    }
     mdCheckSystemError(error);
-    // A folder in there is none of the export's. It is met before the first sheet is made, not after the last.
-    if (status.type() == fs::file_type::directory)
-        throw clsRunTimeError(clsRunTimeError::PathFileAccess);
-    fs::remove(entry.path(), error);
-    mdCheckSystemError(error);
+    return files;
 }
 
 } // namespace
@@ -51,8 +56,8 @@ void mdCreateExportTempFolder(const QString &exportFolder)
     std::error_code error;
     fs::create_directory(folder, error);
     mdCheckSystemError(error);
-    fs::permissions(folder, fs::perms::owner_all, error); // a file system without permissions is no reason to stop
     mdClearExportTempFolder(exportFolder, false);
+    fs::permissions(folder, fs::perms::owner_all, error); // a file system without permissions is no reason to stop
     WriteLog(QStringLiteral("End Create Export Temp Folder"));
 }
 
@@ -62,9 +67,10 @@ void mdClearExportTempFolder(const QString &exportFolder, bool deleteFolder)
     const fs::path folder = folderOf(exportFolder);
     refuseForeignFolder(folder);
     std::error_code error;
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error))
-        deleteFile(*entry);
-    mdCheckSystemError(error);
+    for (const fs::path &file : filesIn(folder)) {
+        fs::remove(file, error);
+        mdCheckSystemError(error);
+    }
     if (deleteFolder) {
         fs::remove(folder, error);
         mdCheckSystemError(error);

@@ -34,7 +34,7 @@ void putInPlace(const QString &joined, const QString &finished)
     fs::rename(joined.toStdString(), target.toStdString(), error);
     // A link may lead to another file system, where a name can't be taken over.
     if (error == std::errc::cross_device_link)
-        mdWriteDocumentFile(target, mdReadDocumentFile(joined, ZipLimits::PackageBytes), true);
+        mdWriteDocumentFile(target, mdReadDocumentFile(joined, ZipLimits::PackageBytes));
     else
         mdCheckSystemError(error);
 }
@@ -52,7 +52,7 @@ void mdExportWordCombineDocuments(clsExport &run)
     const QString folder = mdExportTempFolder(run.exportFolder);
     const QString joined = folder + QStringLiteral("/Joined.doc");
     // The first sheet is always page 1's, and its name is taken for granted.
-    mdWriteDocumentFile(joined, mdReadDocumentFile(folder + QStringLiteral("/1(1).doc"), ZipLimits::PackageBytes), false);
+    mdWriteWorkingFile(joined, mdReadDocumentFile(folder + QStringLiteral("/1(1).doc"), ZipLimits::PackageBytes));
 
     clsMSWord word(clsMSWord::Finished);
     mdOpenSheet(run, word, joined);

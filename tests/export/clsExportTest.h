@@ -145,6 +145,23 @@ protected:
             form.AddJointInstruction()->ExpertType = QStringLiteral("Joint %1").arg(i);
     }
 
+    void switchLogOn()
+    {
+        QDir(folder.path()).mkpath(QStringLiteral("program/Logs"));
+        SetProgramFolder(path(QStringLiteral("program")));
+        put(LogPath(), {});
+        SetLogSwitch([] { return true; });
+    }
+    /// The log without its dates and times.
+    QStringList logLines() const
+    {
+        QStringList lines;
+        for (const QString &line :
+            QString::fromLatin1(bytesOf(LogPath())).split(QStringLiteral("\r\n"), Qt::SkipEmptyParts))
+            lines << line.section(QStringLiteral(" : "), 1);
+        return lines;
+    }
+
     QString path(const QString &relative) const { return folder.filePath(relative); }
     QString finished() const { return path(QStringLiteral("Claim1.doc")); }
     QString temporary() const { return path(QStringLiteral("~ZR3Temp")); }

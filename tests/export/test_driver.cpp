@@ -1,5 +1,6 @@
 #include "tests/export/clsExportTest.h"
 #include "tests/export/mdDocumentText.h"
+#include "tests/support/mdOrdinaryUser.h"
 
 #include <QDate>
 
@@ -15,21 +16,6 @@ protected:
         QStringList lines;
         for (const auto &step : user.progress)
             lines << QStringLiteral("%1 %2/%3").arg(step.text).arg(step.value).arg(step.maximum);
-        return lines;
-    }
-    void switchLogOn()
-    {
-        QDir(folder.path()).mkpath(QStringLiteral("program/Logs"));
-        SetProgramFolder(path(QStringLiteral("program")));
-        put(LogPath(), {});
-        SetLogSwitch([] { return true; });
-    }
-    /// The log without its dates and times.
-    QStringList logLines() const
-    {
-        QStringList lines;
-        for (const QString &line : QString::fromLatin1(bytesOf(LogPath())).split(QStringLiteral("\r\n"), Qt::SkipEmptyParts))
-            lines << line.section(QStringLiteral(" : "), 1);
         return lines;
     }
     /// A folder with all templates, to be spoilt.
@@ -307,13 +293,21 @@ TEST_F(Driver, AFolderUnderTheFinishedNameIsAnErrorAndStays)
 
 TEST_F(Driver, AWriteProtectedDocumentStays)
 {
-    put(finished(), "as it was");
-    ASSERT_TRUE(QFile::setPermissions(finished(), QFile::ReadOwner));
-    if (QFileInfo(finished()).isWritable())
-        GTEST_SKIP() << "this user may write to everything";
+    copyTemplates(); // where every user can read them
     includeOnly({1});
-    EXPECT_EQ(clsRunTimeError::PermissionDenied, errorOf([&] { exportClaim(); }));
+    put(finished(), "as it was");
+    const auto everybody = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::WriteGroup
+        | QFile::ReadOther | QFile::WriteOther;
+    const auto search = QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther;
+    ASSERT_TRUE(QFile::setPermissions(folder.path(), everybody | search));
+    const auto exported = [&] { return errorOf([&] { exportClaim(); }); };
+    ASSERT_TRUE(QFile::setPermissions(finished(), QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther));
+    EXPECT_EQ(clsRunTimeError::PermissionDenied, resultAsOrdinaryUser(exported));
     EXPECT_EQ(QByteArray("as it was"), bytesOf(finished()));
+    // It is the document's protection and nothing else that held the export up.
+    ASSERT_TRUE(QFile::setPermissions(finished(), everybody));
+    EXPECT_EQ(0, resultAsOrdinaryUser(exported));
+    EXPECT_TRUE(bytesOf(finished()).startsWith("PK"));
 }
 
 TEST_F(Driver, WhoMayReadADocumentStaysAsItWas)
@@ -406,6 +400,56 @@ TEST_F(Driver, ALostSheetStopsAnExportThatAsksForThat)
     EXPECT_FALSE(mdExportWordClaim1(careful));
     EXPECT_EQ(1u, user.messages.size());
     EXPECT_EQ(QByteArray("as it was"), bytesOf(finished()));
+}
+
+/// Puts a folder in the place of the joined document when that is about to be saved.
+class clsSaveBlocker : public clsMSWordObserver {
+public:
+    explicit clsSaveBlocker(const QString &joined)
+        : m_joined(joined)
+    { }
+    void backSpace() override { blocked = QFile::remove(m_joined) && QDir().mkpath(m_joined); }
+
+    bool blocked = false;
+
+private:
+    QString m_joined;
+};
+
+TEST_F(Driver, AJoinedDocumentThatCanNotBeSavedIsNeverGivenTheFinishedName)
+{
+    includeOnly({1, 8});
+    for (const bool stops : {false, true})
+        for (const bool older : {false, true}) {
+            SCOPED_TRACE(testing::Message() << stops << older);
+            user.messages.clear();
+            QDir(temporary()).removeRecursively();
+            if (older)
+                put(finished(), "as it was");
+            clsExport exporting {.form = form, .templatesFolder = templates};
+            exporting.stopsAtLostSheet = stops;
+            clsSaveBlocker blocker(temporary() + QStringLiteral("/Joined.doc"));
+            const clsMSWordObserverScope scope(blocker);
+            EXPECT_FALSE(mdExportWordClaim1(exporting));
+            EXPECT_TRUE(blocker.blocked);
+            ASSERT_EQ(1u, user.messages.size());
+            EXPECT_TRUE(user.messages[0].text.endsWith(QLatin1String("Subroutine: SaveAndClose")));
+            EXPECT_EQ(older ? QByteArray("as it was") : QByteArray("(no file)"), bytesOf(finished()));
+            QFile::remove(finished());
+        }
+}
+
+TEST_F(Driver, AFolderAmongTheSheetsStopsTheExportBeforeAnythingIsSwept)
+{
+    ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("~ZR3Temp/letters")));
+    for (const char *name : {"/a.txt", "/m.txt", "/z.txt", "/letters/dear.txt"})
+        put(temporary() + QLatin1String(name), name);
+    const auto before = QFile::permissions(temporary());
+    EXPECT_EQ(clsRunTimeError::PathFileAccess, errorOf([&] { exportClaim(); }));
+    for (const char *name : {"/a.txt", "/m.txt", "/z.txt", "/letters/dear.txt"})
+        EXPECT_EQ(QByteArray(name), bytesOf(temporary() + QLatin1String(name)));
+    EXPECT_EQ(before, QFile::permissions(temporary()));
+    EXPECT_FALSE(QFileInfo::exists(finished()));
 }
 
 } // namespace

@@ -221,10 +221,10 @@ TEST(Lists, RenderingMakesNewObjectsInTheOrderOfTheFile)
     EXPECT_EQ(QStringLiteral("A"), form.JointInstruction(1)->PartyName());
     EXPECT_EQ((Numbers {2, 1}), ordersOf(form.JointInstructionsCollection()));
     EXPECT_EQ((Numbers {1, 2}), indexesOf(form.JointInstructionsCollection()));
-    // An object from before still writes to the same element, and the look-ups see it.
     EXPECT_EQ(form.JointInstruction(1), form.JointInstructionByOrderID(2));
-    first->OrderID = 5;
-    EXPECT_EQ(form.JointInstruction(1), form.JointInstructionByOrderID(5));
+    // An object from before has no element any more, since nobody could tell it that its element goes.
+    EXPECT_EQ(Error::ObjectNotSet, errorOf([&] { first->OrderID = 5; }));
+    EXPECT_EQ(form.JointInstruction(1), form.JointInstructionByOrderID(2));
 }
 
 TEST(Lists, ReorderingMovesNoElement)

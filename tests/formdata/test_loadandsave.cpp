@@ -323,6 +323,76 @@ TEST_F(LoadAndSave, AGapInAnOrderEndsTheLoad)
     }
 }
 
+TEST_F(LoadAndSave, ALoadThatEndsMidwayLeavesAnEmptyClaimThatCanBeUsed)
+{
+    const QString gap = put("gap.zr3",
+        "<vzrform><notes>lost</notes><feeearners><feeearner><orderid>1</orderid></feeearner>"
+        "</feeearners><clientdetails><surname>Lost</surname></clientdetails><disbursements>"
+        "<disbursement><orderid>2</orderid></disbursement></disbursements></vzrform>");
+    clsZR3Form form;
+    form.Notes = QStringLiteral("kept by nobody");
+    addToEachList(form);
+    ASSERT_EQ(Error::ObjectNotSet, errorOf([&] { form.LoadXML(gap); }));
+    EXPECT_EQ(clsZR3Form().XMLOutput(), form.XMLOutput());
+    EXPECT_EQ(QString(), form.Notes());
+    EXPECT_EQ(QString(), form.ClientDetails.Surname());
+    forEachList(
+        form, [](const char *, const char *list, const auto &collection) { EXPECT_TRUE(collection.empty()) << list; });
+
+    form.ClientDetails.Surname = QStringLiteral("Usable");
+    addToEachList(form);
+    EXPECT_EQ(1, form.Disbursement(1)->OrderID());
+    form.SaveXML(path("saved.zr3"));
+    clsZR3Form loaded;
+    ASSERT_TRUE(loaded.LoadXML(path("saved.zr3")));
+    EXPECT_EQ(form.XMLOutput(), loaded.XMLOutput());
+    EXPECT_EQ(QStringLiteral("Usable"), loaded.ClientDetails.Surname());
+}
+
+namespace {
+
+/// Every property of an item whose claim is gone is the object error, to read and to write.
+void expectReleased(clsXMLRecord &item)
+{
+    for (const clsXMLPropertyPlace &place : item.properties()) {
+        clsXMLField &field = *item.field(QString::fromLatin1(place.property->name));
+        EXPECT_EQ(Error::ObjectNotSet, errorOf([&] { field.readText(); })) << place.property->name;
+        EXPECT_EQ(Error::ObjectNotSet, errorOf([&] { field.writeText(QStringLiteral("x")); })) << place.property->name;
+    }
+    EXPECT_FALSE(item.XMLNode());
+}
+
+} // namespace
+
+TEST_F(LoadAndSave, AnItemThatOutlivesItsClaimIsTheObjectError)
+{
+    const QString gap
+        = put("gap.zr3", "<vzrform><fasitems><fasitem><orderid>2</orderid></fasitem></fasitems></vzrform>");
+    const QString whole = put("whole.zr3", "<vzrform/>");
+    for (const char *end : {"deleted", "loaded", "load that fails", "load that throws"}) {
+        SCOPED_TRACE(end);
+        auto form = std::make_unique<clsZR3Form>();
+        addToEachList(*form);
+        std::vector<std::shared_ptr<clsXMLRecord>> items;
+        forEachList(*form, [&](const char *, const char *, const auto &collection) { items.push_back(collection[0]); });
+        const QString how = QString::fromLatin1(end);
+        if (how == QStringLiteral("deleted")) {
+            form.reset();
+        } else if (how == QStringLiteral("loaded")) {
+            ASSERT_TRUE(form->LoadXML(whole));
+        } else if (how == QStringLiteral("load that throws")) {
+            ASSERT_EQ(Error::ObjectNotSet, errorOf([&] { form->LoadXML(gap); }));
+        } else {
+            ASSERT_FALSE(form->LoadXML(put("none.zr3", "none")));
+            for (const auto &item : items)
+                EXPECT_TRUE(item->XMLNode()); // the claim was not touched
+            continue;
+        }
+        for (const auto &item : items)
+            expectReleased(*item);
+    }
+}
+
 TEST_F(LoadAndSave, AGapAmongFeeEarnersDoesNot)
 {
     clsZR3Form form;

@@ -1,4 +1,6 @@
+#include "shell/clsFileSystem.h"
 #include "tests/support/mdExpectError.h"
+#include "tests/support/mdOrdinaryUser.h"
 #include "tests/support/mdTestPrinting.h"
 #include "wordexport/mdDocumentFile.h"
 
@@ -60,11 +62,26 @@ private:
 
 TEST_F(mdDocumentFile, WritesAndReadsBack)
 {
-    for (const bool toDisk : {false, true}) {
-        mdWriteDocumentFile(path(QStringLiteral("a.doc")), "new", toDisk);
+    for (const auto write : {mdWriteDocumentFile, mdWriteWorkingFile}) {
+        put(QStringLiteral("a.doc"), "old and longer");
+        write(path(QStringLiteral("a.doc")), "new");
         EXPECT_EQ(mdReadDocumentFile(path(QStringLiteral("a.doc")), 100), QByteArray("new"));
     }
-    EXPECT_EQ(names(), QStringList{QStringLiteral("a.doc")});
+    EXPECT_EQ(names(), QStringList {QStringLiteral("a.doc")});
+}
+
+TEST_F(mdDocumentFile, AWorkingFileIsNewAndNeverWrittenThroughALink)
+{
+    put(QStringLiteral("theirs"), "theirs");
+    ASSERT_TRUE(QFile::link(path(QStringLiteral("theirs")), path(QStringLiteral("sheet.doc"))));
+    mdWriteWorkingFile(path(QStringLiteral("sheet.doc")), "sheet");
+    EXPECT_EQ(mdReadDocumentFile(path(QStringLiteral("theirs")), 100), QByteArray("theirs"));
+    EXPECT_FALSE(QFileInfo(path(QStringLiteral("sheet.doc"))).isSymLink());
+}
+
+TEST_F(mdDocumentFile, AWorkingFileInAFolderThatIsNotThereIsPathNotFound)
+{
+    EXPECT_EQ(errorOf([&] { mdWriteWorkingFile(path(QStringLiteral("none/a.doc")), "x"); }), clsRunTimeError::PathNotFound);
 }
 
 TEST_F(mdDocumentFile, ADiskThatIsFullLeavesTheOldFileAndNothingElse)
@@ -73,7 +90,7 @@ TEST_F(mdDocumentFile, ADiskThatIsFullLeavesTheOldFileAndNothingElse)
     int error = 0;
     {
         const clsFileSizeLimit limit(1000);
-        error = errorOf([&] { mdWriteDocumentFile(path(QStringLiteral("a.doc")), QByteArray(5000, 'x'), true); });
+        error = errorOf([&] { mdWriteDocumentFile(path(QStringLiteral("a.doc")), QByteArray(5000, 'x')); });
     }
     EXPECT_EQ(error, clsRunTimeError::DiskFull);
     EXPECT_EQ(mdReadDocumentFile(path(QStringLiteral("a.doc")), 100), QByteArray("old"));
@@ -82,23 +99,23 @@ TEST_F(mdDocumentFile, ADiskThatIsFullLeavesTheOldFileAndNothingElse)
 
 TEST_F(mdDocumentFile, AFolderThatIsNotThereIsPathNotFound)
 {
-    EXPECT_EQ(errorOf([&] { mdWriteDocumentFile(path(QStringLiteral("none/a.doc")), "x", true); }),
+    EXPECT_EQ(errorOf([&] { mdWriteDocumentFile(path(QStringLiteral("none/a.doc")), "x"); }),
         clsRunTimeError::PathNotFound);
     put(QStringLiteral("file"), "x");
-    EXPECT_EQ(errorOf([&] { mdWriteDocumentFile(path(QStringLiteral("file/a.doc")), "x", true); }),
+    EXPECT_EQ(errorOf([&] { mdWriteDocumentFile(path(QStringLiteral("file/a.doc")), "x"); }),
         clsRunTimeError::PathNotFound);
 }
 
 TEST_F(mdDocumentFile, AFolderUnderTheNameIsAnAccessError)
 {
-    EXPECT_EQ(errorOf([&] { mdWriteDocumentFile(folder.path(), "x", true); }), clsRunTimeError::PathFileAccess);
+    EXPECT_EQ(errorOf([&] { mdWriteDocumentFile(folder.path(), "x"); }), clsRunTimeError::PathFileAccess);
     EXPECT_EQ(errorOf([&] { mdReadDocumentFile(folder.path(), 100); }), clsRunTimeError::PathFileAccess);
 }
 
 TEST_F(mdDocumentFile, ADeviceIsNeverReplaced)
 {
     EXPECT_EQ(
-        errorOf([] { mdWriteDocumentFile(QStringLiteral("/dev/null"), "x", true); }), clsRunTimeError::PathFileAccess);
+        errorOf([] { mdWriteDocumentFile(QStringLiteral("/dev/null"), "x"); }), clsRunTimeError::PathFileAccess);
 }
 
 TEST_F(mdDocumentFile, APipeUnderTheNameIsNotWaitedFor)
@@ -118,7 +135,7 @@ TEST_F(mdDocumentFile, ALinkStaysALinkAndItsFileIsReplaced)
 {
     put(QStringLiteral("real.doc"), "old");
     ASSERT_TRUE(QFile::link(path(QStringLiteral("real.doc")), path(QStringLiteral("link.doc"))));
-    mdWriteDocumentFile(path(QStringLiteral("link.doc")), "new", true);
+    mdWriteDocumentFile(path(QStringLiteral("link.doc")), "new");
     EXPECT_TRUE(QFileInfo(path(QStringLiteral("link.doc"))).isSymLink());
     EXPECT_EQ(mdReadDocumentFile(path(QStringLiteral("real.doc")), 100), QByteArray("new"));
 }
@@ -128,7 +145,7 @@ TEST_F(mdDocumentFile, KeepsThePermissionsOfTheFileThatItReplaces)
     put(QStringLiteral("a.doc"), "old");
     const QByteArray name = QFile::encodeName(path(QStringLiteral("a.doc")));
     ASSERT_EQ(chmod(name.constData(), 0640), 0);
-    mdWriteDocumentFile(path(QStringLiteral("a.doc")), "new", true);
+    mdWriteDocumentFile(path(QStringLiteral("a.doc")), "new");
     struct stat status;
     ASSERT_EQ(stat(name.constData(), &status), 0);
     EXPECT_EQ(status.st_mode & 07777, 0640u);
@@ -136,18 +153,83 @@ TEST_F(mdDocumentFile, KeepsThePermissionsOfTheFileThatItReplaces)
 
 TEST_F(mdDocumentFile, AWriteProtectedFileIsNotReplaced)
 {
-    if (geteuid() == 0)
-        GTEST_SKIP() << "the administrator may write to every file";
     put(QStringLiteral("a.doc"), "old");
-    ASSERT_EQ(chmod(QFile::encodeName(path(QStringLiteral("a.doc"))).constData(), 0440), 0);
-    EXPECT_EQ(errorOf([&] { mdWriteDocumentFile(path(QStringLiteral("a.doc")), "new", true); }),
-        clsRunTimeError::PermissionDenied);
+    const QByteArray name = QFile::encodeName(path(QStringLiteral("a.doc")));
+    ASSERT_EQ(chmod(QFile::encodeName(folder.path()).constData(), 0777), 0);
+    const auto write = [&] {
+        return errorOf([&] { mdWriteDocumentFile(path(QStringLiteral("a.doc")), "new"); });
+    };
+    ASSERT_EQ(chmod(name.constData(), 0444), 0);
+    EXPECT_EQ(resultAsOrdinaryUser(write), clsRunTimeError::PermissionDenied);
+    EXPECT_EQ(mdReadDocumentFile(path(QStringLiteral("a.doc")), 100), QByteArray("old"));
+    EXPECT_EQ(names(), QStringList {QStringLiteral("a.doc")});
+    // It is the file's protection and nothing else that held the writer up.
+    ASSERT_EQ(chmod(name.constData(), 0666), 0);
+    EXPECT_EQ(resultAsOrdinaryUser(write), 0);
+    EXPECT_EQ(mdReadDocumentFile(path(QStringLiteral("a.doc")), 100), QByteArray("new"));
+}
+
+/// The current folder is another one for as long as the object lives.
+class clsCurrentFolder {
+public:
+    explicit clsCurrentFolder(const QString &folder) { EXPECT_TRUE(QDir::setCurrent(folder)); }
+    ~clsCurrentFolder() { QDir::setCurrent(m_before); }
+
+private:
+    QString m_before = QDir::currentPath();
+};
+
+TEST_F(mdDocumentFile, ALinkThatLeadsNowhereIsRefused)
+{
+    const clsCurrentFolder current(folder.path());
+    const QString link = path(QStringLiteral("link.doc"));
+    ASSERT_TRUE(QFile::link(path(QStringLiteral("none.doc")), link));
+    EXPECT_EQ(errorOf([&] { mdWriteDocumentFile(link, "new"); }), clsRunTimeError::FileNotFound);
+    ASSERT_TRUE(QFile::remove(link));
+    ASSERT_TRUE(QFile::link(link, link));
+    EXPECT_EQ(errorOf([&] { mdWriteDocumentFile(link, "new"); }), clsRunTimeError::PathFileAccess);
+    EXPECT_EQ(errorOf([&] { mdReadDocumentFile(link, 100); }), clsRunTimeError::PathFileAccess);
+    EXPECT_EQ(names(), QStringList {QStringLiteral("link.doc")});
+    EXPECT_TRUE(QFileInfo(link).isSymLink());
+}
+
+TEST_F(mdDocumentFile, APathOfNothingIsPathNotFound)
+{
+    const clsCurrentFolder current(folder.path());
+    EXPECT_EQ(errorOf([&] { mdWriteDocumentFile(QString(), "new"); }), clsRunTimeError::PathNotFound);
+    EXPECT_EQ(errorOf([&] { mdReadDocumentFile(QString(), 100); }), clsRunTimeError::PathNotFound);
+    EXPECT_EQ(names(), QStringList());
+}
+
+TEST_F(mdDocumentFile, ALargerFileIsTooLarge)
+{
+    put(QStringLiteral("a.doc"), QByteArray(101, 'x'));
+    try {
+        mdReadDocumentFile(path(QStringLiteral("a.doc")), 100);
+        ADD_FAILURE() << "read";
+    } catch (const clsRunTimeError &error) {
+        EXPECT_EQ(error.number(), clsRunTimeError::InvalidFileFormat);
+        EXPECT_EQ(error.description(),
+            QStringLiteral("The document %1 is too large.").arg(path(QStringLiteral("a.doc"))));
+    }
+    EXPECT_EQ(mdReadDocumentFile(path(QStringLiteral("a.doc")), 101).size(), 101);
+}
+
+TEST_F(mdDocumentFile, AFileThatShrinksWhileItIsReadIsAnError)
+{
+    put(QStringLiteral("a.doc"), "content");
+    FileSystem().faultPoint = [](clsFileStep step, const QString &) {
+        return step == clsFileStep::Read ? clsFileFault {0, 0} : clsFileFault();
+    };
+    const int error = errorOf([&] { mdReadDocumentFile(path(QStringLiteral("a.doc")), 100); });
+    FileSystem().faultPoint = nullptr;
+    EXPECT_EQ(error, clsRunTimeError::InputPastEnd);
 }
 
 TEST_F(mdDocumentFile, ALeftoverSideFileIsPassedOver)
 {
     put(QStringLiteral(".~a.doc.0"), "left by a crash");
-    mdWriteDocumentFile(path(QStringLiteral("a.doc")), "new", true);
+    mdWriteDocumentFile(path(QStringLiteral("a.doc")), "new");
     EXPECT_EQ(names(), (QStringList{QStringLiteral(".~a.doc.0"), QStringLiteral("a.doc")}));
 }
 

@@ -261,6 +261,89 @@ TEST(HostilePackages, AFolderUnderTheNameIsAnAccessError)
     EXPECT_TRUE(user.messages[0].text.contains(QLatin1String("Error Number: 75\r\n")));
 }
 
+TEST(HostilePackages, ASecondRootIsDamage)
+{
+    const clsZipPackage whole = clsTestDocument(p()).zip();
+    for (const char *part : {"[Content_Types].xml", "_rels/.rels", "word/document.xml"}) {
+        const QByteArray xml = whole.bytes(whole.indexOf(QLatin1String(part)));
+        for (const QByteArray &second : {QByteArray("<more/>"), QByteArray("<!-- c --><more><more/></more>")})
+            EXPECT_EQ(complaintAbout(packed(with(QLatin1String(part), xml + second))), Damaged) << part;
+    }
+}
+
+/// What is joined to a document of one paragraph "first", and the failures told.
+struct clsAppended {
+    explicit clsAppended(const clsTestDocument &document)
+    {
+        clsTestDocument first(p(QStringLiteral("first")));
+        first.styles = QStringLiteral("<w:style w:type=\"paragraph\" w:styleId=\"own\"/>"); // so that styles differ
+        const clsUserInterfaceScope scope(user);
+        const clsTestFolder folder;
+        const QString path = folder.write(QStringLiteral("first.doc"), first);
+        clsMSWord word(clsMSWord::Finished);
+        word.OpenDocument(path);
+        word.InsertFileAtEnd(folder.write(QStringLiteral("X.doc"), document));
+        sheetLost = word.sheetLost();
+        word.SaveAndClose();
+        body = bodyXml(path);
+        text = plain(path);
+    }
+
+    clsScriptedUserInterface user;
+    bool sheetLost = false;
+    QString body;
+    QString text;
+};
+
+TEST(HostilePackages, WhatStaysBehindMayStandInOneAnother)
+{
+    const QString reference = QStringLiteral("<w:commentReference w:id=\"0\">%1</w:commentReference>");
+    const QString bookmark = QStringLiteral("<w:bookmarkStart w:id=\"%1\" w:name=\"%2\">%3</w:bookmarkStart>");
+    const QString inner = bookmark.arg(2).arg(QStringLiteral("b"), reference.arg(QString()));
+    const QString run = QStringLiteral("<w:r>%1</w:r>");
+    const QString deepRun = QStringLiteral("<w:r><w:rPr>%1</w:rPr>%2</w:r>");
+    const QString style = QStringLiteral("<w:pStyle w:val=\"none\"><w:rStyle w:val=\"none\">%1</w:rStyle></w:pStyle>");
+    const QString hostile[] = {
+        run.arg(reference.arg(reference.arg(reference.arg(QString())))),
+        run.arg(reference.arg(run.arg(reference.arg(QString())))),
+        run.arg(reference.arg(QString()) + reference.arg(QString())),
+        bookmark.arg(1).arg(QStringLiteral("_GoBack"), inner),
+        bookmark.arg(1).arg(QStringLiteral("a"), inner),
+        bookmark.arg(1).arg(QStringLiteral("a"), QString()) + bookmark.arg(1).arg(QStringLiteral("b"), QString()),
+        run.arg(reference.arg(bookmark.arg(1).arg(QStringLiteral("a"), QString()))),
+        QStringLiteral("<w:pPr>%1</w:pPr>").arg(style.arg(reference.arg(QString()))),
+        deepRun.arg(inner, reference.arg(QString())),
+        deepRun.arg(deepRun.arg(inner, reference.arg(QString())), reference.arg(QString())),
+        deepRun.arg(run.arg(reference.arg(QString())) + style, reference.arg(inner)),
+    };
+    for (const QString &content : hostile) {
+        SCOPED_TRACE(content.toStdString());
+        const QString paragraph = QStringLiteral("<w:p>%1%2</w:p>").arg(content, r(QStringLiteral("text")));
+        const clsAppended appended(clsTestDocument(paragraph + paragraph));
+        EXPECT_FALSE(appended.sheetLost);
+        EXPECT_EQ(appended.text, QStringLiteral("first/text/text/"));
+        for (const char *left : {"commentReference", "bookmarkStart", "\"none\""})
+            EXPECT_FALSE(appended.body.contains(QLatin1String(left))) << appended.body.toStdString();
+    }
+}
+
+TEST(HostilePackages, AFooterThatIsNoneIsDamage)
+{
+    for (const char *root : {"w:commentReference", "w:bookmarkStart", "w:r", "w:p"}) {
+        clsTestDocument document(p(QStringLiteral("text"))
+            + QStringLiteral("<w:sectPr><w:footerReference w:type=\"default\" r:id=\"rId7\"/></w:sectPr>"));
+        document.parts.push_back(
+            {QStringLiteral("word/footer1.xml"), clsTestDocument::root(root, QStringLiteral("<w:commentReference/>")),
+                QStringLiteral("application/vnd.openxmlformats-officedocument.wordprocessingml.footer+xml"),
+                QStringLiteral("footer"), QStringLiteral("rId7")});
+        const clsAppended appended(document);
+        EXPECT_TRUE(appended.sheetLost) << root;
+        ASSERT_EQ(appended.user.messages.size(), 1u);
+        EXPECT_TRUE(appended.user.messages[0].text.contains(QStringLiteral("is damaged.")));
+        EXPECT_EQ(appended.text, QStringLiteral("first/"));
+    }
+}
+
 TEST(clsZipPackage, KeepsTheOrderThatReadersExpect)
 {
     clsZipPackage zip;

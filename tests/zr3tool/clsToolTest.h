@@ -2,6 +2,7 @@
 
 #include "formdata/clsZR3Form.h"
 #include "tests/support/clsScriptedUserInterface.h"
+#include "tests/support/mdOrdinaryUser.h"
 #include "tests/support/mdTestPaths.h"
 #include "tests/support/mdTestPrinting.h"
 
@@ -16,7 +17,13 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <functional>
+#include <optional>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 inline QString operator""_q(const char *text, size_t size)
 {
@@ -46,6 +53,11 @@ protected:
     clsToolResult run(const QStringList &arguments, const QString &standardOutput = {},
                       const std::function<void()> &inTheChild = {}) const
     {
+        return runProgram(QStringLiteral(ZR3_TOOL), arguments, standardOutput, inTheChild);
+    }
+    clsToolResult runProgram(const QString &program, const QStringList &arguments, const QString &standardOutput = {},
+        const std::function<void()> &inTheChild = {}) const
+    {
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("XDG_CONFIG_HOME"_q, path("config"));
@@ -58,11 +70,37 @@ protected:
             process.setStandardOutputFile(standardOutput);
         if (inTheChild)
             process.setChildProcessModifier(inTheChild);
-        process.start(QStringLiteral(ZR3_TOOL), arguments, QIODevice::ReadOnly);
+        process.start(program, arguments, QIODevice::ReadOnly);
         constexpr int LongestRun = 120'000;
         if (!process.waitForFinished(LongestRun) || process.exitStatus() != QProcess::NormalExit)
             return {-1, process.readAllStandardOutput(), process.readAllStandardError() + process.errorString().toUtf8()};
         return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+    }
+
+    /// Makes a run one of a user who may not read and write everything; empty where the tests' own user is one. Nothing
+    /// where no other user can run the program, because of where it lies.
+    std::optional<std::function<void()>> asOrdinaryUser() const
+    {
+        if (geteuid() != 0)
+            return std::function<void()>();
+        EXPECT_EQ(0, chmod(QFile::encodeName(folder.path()).constData(), 0755));
+        const auto change = [] {
+            if (setuid(OrdinaryUser) != 0)
+                _exit(1);
+        };
+        if (run({"--version"_q}, {}, change).status != 0)
+            return std::nullopt;
+        return change;
+    }
+    /// Makes a run one on a disk that is full: no file can grow beyond so many bytes.
+    static std::function<void()> withFilesOfAtMost(rlim_t bytes)
+    {
+        return [bytes] {
+            const rlimit limit {bytes, bytes};
+            std::signal(SIGXFSZ, SIG_IGN);
+            if (setrlimit(RLIMIT_FSIZE, &limit) != 0)
+                _exit(1);
+        };
     }
 
     QString path(const char *name) const { return folder.filePath(QString::fromUtf8(name)); }

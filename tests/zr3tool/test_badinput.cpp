@@ -2,9 +2,6 @@
 
 #include "tests/zr3tool/clsToolTest.h"
 
-#include <sys/stat.h>
-#include <unistd.h>
-
 namespace {
 
 const QByteArray NoClaim = "Error: There was a problem opening the selected file. Please ensure that the file is a valid ZR3 "
@@ -64,21 +61,12 @@ TEST_F(BadInput, APipeIsNotWaitedFor)
 
 TEST_F(BadInput, AnUnreadableFile)
 {
-    constexpr uid_t Nobody = 65534;
     const QString file = putClaim(clsZR3Form());
     ASSERT_EQ(0, chmod(QFile::encodeName(file).constData(), 0));
-    std::function<void()> asSomebodyElse;
-    if (geteuid() == 0) {
-        // The administrator can read everything: the tool runs as a user who can't.
-        ASSERT_EQ(0, chmod(QFile::encodeName(folder.path()).constData(), 0755));
-        asSomebodyElse = [] {
-            if (setuid(Nobody) != 0)
-                _exit(1);
-        };
-        if (run({"--version"_q}, {}, asSomebodyElse).status != 0)
-            GTEST_SKIP() << "no other user can run the program where it lies";
-    }
-    const clsToolResult result = run({"totals"_q, file}, {}, asSomebodyElse);
+    const auto asSomebodyElse = asOrdinaryUser();
+    if (!asSomebodyElse)
+        GTEST_SKIP() << "no other user can run the program where it lies";
+    const clsToolResult result = run({"totals"_q, file}, {}, *asSomebodyElse);
     EXPECT_EQ(2, result.status);
     EXPECT_EQ("", result.out);
     EXPECT_EQ(notRead(file, "70 - Permission denied"), result.err);
@@ -120,6 +108,33 @@ TEST_F(BadInput, TwoHundredMegabytesOfNothing)
     EXPECT_EQ(2, result.status);
     EXPECT_EQ("", result.out);
     EXPECT_EQ(NoClaim, result.err);
+}
+
+TEST_F(BadInput, TwoHundredMegabytesOfRubbishWithoutAZero)
+{
+    constexpr qsizetype Size = 200'000'000;
+    QByteArray letters(1'000'000, Qt::Uninitialized);
+    quint32 random = 1;
+    for (char &letter : letters) {
+        random = random * 1664525 + 1013904223;
+        letter = char('!' + (random >> 24) % 94);
+    }
+    const QByteArray tags = QByteArray("<a>").repeated(letters.size() / 3);
+    for (const auto &[start, block] : {std::pair("", letters),
+             std::pair("<vzrform>", letters.replace('<', '(').replace('&', '+')), std::pair("<vzrform>", tags)}) {
+        SCOPED_TRACE(start + block.left(20).toStdString());
+        QFile file(path("large.zr3"));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(start);
+        while (file.pos() < Size)
+            ASSERT_EQ(block.size(), file.write(block));
+        file.close();
+        const clsToolResult result = run({"totals"_q, path("large.zr3")});
+        EXPECT_TRUE(file.remove());
+        EXPECT_EQ(2, result.status);
+        EXPECT_EQ("", result.out);
+        EXPECT_EQ(NoClaim, result.err);
+    }
 }
 
 TEST_F(BadInput, AClaimWhoseOrderHasAGapEndsItsLoad)

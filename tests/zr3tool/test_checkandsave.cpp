@@ -181,3 +181,42 @@ TEST_F(ToolSave, ATargetThatCanNotBeWrittenIsToldOnce)
     EXPECT_EQ(QStringList {"folder"_q}, filesOf(folder.path()));
     EXPECT_EQ(QStringList(), filesOf(path("folder")));
 }
+
+TEST_F(ToolSave, ADiskThatIsFullIsToldOnceAndTheOldFileStaysBesideIt)
+{
+    const QString claim = mdSamplePath("housing-typical.zr3"_q);
+    const qint64 size = bytesOf(claim).size();
+    ASSERT_GT(size, 2000);
+    const QByteArray older(1500, 'o');
+    for (const rlim_t limit : {rlim_t(0), rlim_t(1000), rlim_t(2000), rlim_t(size - 1000)}) {
+        SCOPED_TRACE(limit);
+        put("new.zr3", older);
+        const clsToolResult result = run({"save"_q, claim, path("new.zr3")}, {}, withFilesOfAtMost(limit));
+        EXPECT_EQ(4, result.status);
+        EXPECT_EQ("", result.out);
+        EXPECT_EQ("File Not Saved: There was a problem writing to the following path:\n\n" + path("new.zr3").toUtf8()
+                + "\n\nThe error reported is:\n\n61 - Disk full\n",
+            result.err);
+        // The old text is whole under the name, or under that of the copy made to guard it.
+        const bool guarded = QFile::exists(path("new.zr3a"));
+        EXPECT_EQ(limit >= rlim_t(older.size()), guarded);
+        EXPECT_EQ(older, bytesOf(path(guarded ? "new.zr3a" : "new.zr3")));
+        QFile::remove(path("new.zr3a"));
+    }
+}
+
+TEST_F(ToolSave, NamesOutsideTheCodePageAreThoseThatAreWritten)
+{
+    for (const QString &name : {"\u6cd5\u5f8b.zr3"_q, "O\u00b4Brien.zr3"_q, "O'Brien \u00e9\u20ac.zr3"_q}) {
+        SCOPED_TRACE(name.toStdString());
+        ASSERT_TRUE(QDir(folder.path()).mkpath("saved"_q));
+        const QString file = path("saved") + u'/' + name;
+        const clsToolResult result = run({"save"_q, mdSamplePath("empty.zr3"_q), file});
+        EXPECT_EQ(0, result.status);
+        EXPECT_EQ("", result.err);
+        EXPECT_EQ(QStringList {name}, filesOf(path("saved")));
+        EXPECT_TRUE(bytesOf(file).startsWith("<vzrform>"));
+        EXPECT_EQ(0, run({"totals"_q, file}).status);
+        EXPECT_TRUE(QFile::remove(file));
+    }
+}

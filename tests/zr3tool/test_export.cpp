@@ -1,11 +1,12 @@
 // The finished document, and what a failure leaves: nothing that was not there before.
 
+#include "tests/export/mdDocumentText.h"
 #include "tests/zr3tool/clsToolTest.h"
 
 #include <QFileInfo>
+#include <QStandardPaths>
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace {
 
@@ -128,8 +129,14 @@ TEST_F(ToolExport, AMissingFolderIsTold)
 
 TEST_F(ToolExport, MissingTemplatesAreAFailure)
 {
+    ASSERT_TRUE(QDir(folder.path()).mkpath("own"_q));
+    ASSERT_TRUE(QFile::copy(templates() + "/Claim1 P1.doc"_q, path("own/Claim1 P1.doc")));
+    expectFailure({"export"_q, smallClaim(), out(), "--templates"_q, path("own")},
+        "Run-time error '53': File not found: " + path("own/Claim1 P2.doc").toUtf8() + "\n");
+    for (const char *document : {"out/Claim1.doc", "out/Claim1A.doc"})
+        ASSERT_TRUE(QFile::remove(path(document)));
     expectFailure({"export"_q, smallClaim(), out(), "--templates"_q, path("missing")},
-                  "Run-time error '53': File not found\n");
+        "Run-time error '76': Path not found: " + path("missing/Claim1 P1.doc").toUtf8() + "\n");
 }
 
 TEST_F(ToolExport, ABrokenTemplateIsAFailure)
@@ -153,21 +160,13 @@ TEST_F(ToolExport, ABrokenTemplateIsAFailure)
 
 TEST_F(ToolExport, AFolderThatCanNotBeWrittenIsAFailure)
 {
-    constexpr uid_t Nobody = 65534;
     const QString claim = smallClaim();
-    std::function<void()> asSomebodyElse;
-    if (geteuid() == 0) {
-        ASSERT_EQ(0, chmod(QFile::encodeName(folder.path()).constData(), 0755));
-        asSomebodyElse = [] {
-            if (setuid(Nobody) != 0)
-                _exit(1);
-        };
-        if (run({"--version"_q}, {}, asSomebodyElse).status != 0)
-            GTEST_SKIP() << "no other user can run the program where it lies";
-    }
+    const auto asSomebodyElse = asOrdinaryUser();
+    if (!asSomebodyElse)
+        GTEST_SKIP() << "no other user can run the program where it lies";
     ASSERT_EQ(0, chmod(QFile::encodeName(claim).constData(), 0644));
     ASSERT_EQ(0, chmod(QFile::encodeName(out()).constData(), 0555));
-    const clsToolResult result = run({"export"_q, claim, out()}, {}, asSomebodyElse);
+    const clsToolResult result = run({"export"_q, claim, out()}, {}, *asSomebodyElse);
     EXPECT_EQ(4, result.status);
     EXPECT_EQ("Run-time error '70': Permission denied\n", result.err);
     EXPECT_EQ(QStringList(), filesOf(out()));
@@ -239,4 +238,160 @@ TEST_F(ToolExport, WhatStandsInTheWayOfTheSheetsIsLeftAlone)
     EXPECT_EQ(1, result.err.count("Run-time error '")) << result.err.constData();
     EXPECT_EQ("somebody's file", bytesOf(path("out/~ZR3Temp")));
     EXPECT_EQ(QStringList {"~ZR3Temp"_q}, filesOf(out()));
+}
+
+TEST_F(ToolExport, ADiskThatIsFullLeavesTheOldDocumentAndNothingElse)
+{
+    const QString claim = smallClaim();
+    ASSERT_EQ(0, run({"export"_q, claim, out(), "--keep-sheets"_q}).status);
+    const qint64 document = QFileInfo(path("out/Claim1.doc")).size();
+    const qint64 templateSize = QFileInfo(templates() + "/Claim1 P1.doc"_q).size();
+    const qint64 sheet = QFileInfo(path("out/~ZR3Temp/1(1).doc")).size();
+    ASSERT_GT(document, templateSize);
+    ASSERT_GT(sheet, templateSize);
+    QDir(out()).removeRecursively();
+    ASSERT_TRUE(QDir(folder.path()).mkpath("out"_q));
+    // What can't be written: a copy of a template, a sheet that was filled in.
+    for (const qint64 limit : {qint64(0), templateSize - 1, templateSize + 1}) {
+        SCOPED_TRACE(limit);
+        for (const bool older : {false, true}) {
+            if (older)
+                put("out/Claim1.doc", "the older document");
+            const clsToolResult result
+                = run({"export"_q, claim, out(), "--force"_q}, {}, withFilesOfAtMost(rlim_t(limit)));
+            EXPECT_EQ(4, result.status);
+            EXPECT_EQ("", result.out);
+            EXPECT_EQ(1, result.err.count("Disk full")) << result.err.constData();
+            EXPECT_EQ(limit > templateSize ? 1 : 0, result.err.count("Word Automation Error: "))
+                << result.err.constData();
+            EXPECT_EQ(limit > templateSize ? 0 : 1, result.err.count("Run-time error '61': "))
+                << result.err.constData();
+            EXPECT_EQ(older ? QStringList {"Claim1.doc"_q} : QStringList(), filesOf(out()));
+            EXPECT_EQ(older ? "the older document" : "(no file)", bytesOf(path("out/Claim1.doc")));
+            QFile::remove(path("out/Claim1.doc"));
+        }
+    }
+}
+
+TEST_F(ToolExport, AnAmountThatIsNoneIsToldAndPassedOver)
+{
+    clsZR3Form form;
+    fill(form);
+    includePages(form, {1, 2});
+    form.PreviousAdvice.TotalCostsIncurred = "abc"_q;
+    const clsToolResult result = run({"export"_q, putClaim(form), out()});
+    EXPECT_EQ(0, result.status);
+    EXPECT_EQ("", result.out);
+    EXPECT_EQ(
+        "Word Automation Error: An error has occured during Word automation. If the problem persists please contact "
+        "Velmor technical support via stating the following details:\n\n"
+        "Error Number: 13\nError Description: Type mismatch\nSubroutine: SetText\n",
+        result.err);
+    EXPECT_EQ(QStringList {"Claim1.doc"_q}, filesOf(out()));
+    EXPECT_EQ(QStringList {"{totalcostsincurred}"_q}, mdPlaceholdersIn(path("out/Claim1.doc")));
+}
+
+TEST_F(ToolExport, AFolderMayHaveANameOutsideTheCodePage)
+{
+    for (const QString &name : {"\u6cd5\u5f8b"_q, "O\u00b4Brien"_q}) {
+        SCOPED_TRACE(name.toStdString());
+        const QString target = out() + u'/' + name;
+        ASSERT_TRUE(QDir().mkpath(target));
+        const clsToolResult result = run({"export"_q, smallClaim(), target});
+        EXPECT_EQ(0, result.status);
+        EXPECT_EQ("", result.err);
+        EXPECT_EQ(QStringList {"Claim1.doc"_q}, filesOf(target));
+        EXPECT_TRUE(QDir(target).removeRecursively());
+        EXPECT_EQ(QStringList(), filesOf(out()));
+    }
+}
+
+TEST_F(ToolExport, ALinkThatLeadsToItselfAmongTheSheetsIsSwept)
+{
+    ASSERT_TRUE(QDir(folder.path()).mkpath("out/~ZR3Temp"_q));
+    ASSERT_TRUE(QFile::link("loop"_q, path("out/~ZR3Temp/loop")));
+    ASSERT_TRUE(QFile::link(".."_q, path("out/~ZR3Temp/up")));
+    const clsToolResult result = run({"export"_q, smallClaim(), out()});
+    EXPECT_EQ(0, result.status);
+    EXPECT_EQ("", result.err);
+    EXPECT_EQ(QStringList {"Claim1.doc"_q}, filesOf(out()));
+}
+
+TEST_F(ToolExport, AFolderAmongTheSheetsIsLeftAlone)
+{
+    ASSERT_TRUE(QDir(folder.path()).mkpath("out/~ZR3Temp/letters"_q));
+    const QStringList names = {"a.txt"_q, "letters/dear.txt"_q, "z.txt"_q};
+    for (const QString &name : names)
+        put(QString("out/~ZR3Temp/"_q + name).toUtf8().constData(), name.toUtf8());
+    const QByteArray claim = bytesOf(smallClaim());
+    for (const bool force : {false, true}) {
+        QStringList arguments {"export"_q, path("claim.zr3"), out()};
+        if (force) {
+            put("out/Claim1.doc", "the older document");
+            arguments << "--force"_q;
+        }
+        const clsToolResult result = run(arguments);
+        EXPECT_EQ(4, result.status);
+        EXPECT_EQ("", result.out);
+        EXPECT_EQ("Run-time error '75': Path/File access error\n", result.err);
+        EXPECT_EQ(QStringList({"a.txt"_q, "letters"_q, "z.txt"_q}), filesOf(path("out/~ZR3Temp")));
+        for (const QString &name : names)
+            EXPECT_EQ(name.toUtf8(), bytesOf(path("out/~ZR3Temp") + u'/' + name));
+        EXPECT_EQ(force ? QStringList({"Claim1.doc"_q, "~ZR3Temp"_q}) : QStringList {"~ZR3Temp"_q}, filesOf(out()));
+    }
+    EXPECT_EQ("the older document", bytesOf(path("out/Claim1.doc")));
+    EXPECT_EQ(claim, bytesOf(path("claim.zr3")));
+}
+
+TEST_F(ToolExport, ADocumentThatIsALinkToAnotherFileSystemIsReplacedThere)
+{
+    const QTemporaryDir elsewhere("/dev/shm/zr3tool_test-XXXXXX"_q);
+    struct stat here = {};
+    struct stat there = {};
+    if (!elsewhere.isValid() || stat(QFile::encodeName(elsewhere.path()).constData(), &there) != 0
+        || stat(QFile::encodeName(folder.path()).constData(), &here) != 0 || here.st_dev == there.st_dev)
+        GTEST_SKIP() << "there is no other file system";
+    const QString real = elsewhere.filePath("real.doc"_q);
+    ASSERT_TRUE(QFile::copy(smallClaim(), real));
+    ASSERT_TRUE(QFile::link(real, path("out/Claim1.doc")));
+    EXPECT_EQ(5, run({"export"_q, smallClaim(), out()}).status);
+    const clsToolResult result = run({"export"_q, smallClaim(), out(), "--force"_q});
+    EXPECT_EQ(0, result.status);
+    EXPECT_EQ("", result.err);
+    EXPECT_TRUE(QFileInfo(path("out/Claim1.doc")).isSymLink());
+    EXPECT_TRUE(bytesOf(real).startsWith("PK"));
+    EXPECT_EQ(QStringList {"real.doc"_q}, filesOf(elsewhere.path()));
+    EXPECT_EQ(QStringList {"Claim1.doc"_q}, filesOf(out()));
+}
+
+TEST_F(ToolExport, ATerminalShowsTheProgressUnlessItIsToBeQuiet)
+{
+    if (QStandardPaths::findExecutable("script"_q).isEmpty())
+        GTEST_SKIP() << "no program gives the tool a terminal";
+    const QString command = "'%1' export '%2' '%3' --force"_q.arg(QStringLiteral(ZR3_TOOL), smallClaim(), out());
+    const auto onATerminal = [&](const QString &options) {
+        return runProgram("script"_q, {"-qec"_q, command + options, "/dev/null"_q});
+    };
+    const clsToolResult shown = onATerminal({});
+    EXPECT_EQ(0, shown.status);
+    EXPECT_TRUE(shown.out.contains("\r\033[KExporting Page 1 (1/11)")) << shown.out.constData();
+    EXPECT_TRUE(shown.out.contains("\r\033[KCombining Documents (2/2)")) << shown.out.constData();
+    EXPECT_TRUE(shown.out.endsWith("\r\033[K")) << "the line is cleared at the end";
+    const clsToolResult quiet = onATerminal(" --quiet"_q);
+    EXPECT_EQ(0, quiet.status);
+    EXPECT_EQ("", quiet.out);
+}
+
+TEST_F(ToolExport, TheSheetsAreTheirOwnersAlone)
+{
+    // A folder that was left behind may have been anybody's to read.
+    for (const bool leftBehind : {false, true}) {
+        if (leftBehind) {
+            ASSERT_EQ(0, chmod(QFile::encodeName(path("out/~ZR3Temp")).constData(), 0755));
+        }
+        ASSERT_EQ(0, run({"export"_q, smallClaim(), out(), "--keep-sheets"_q, "--force"_q}).status);
+        struct stat status = {};
+        ASSERT_EQ(0, stat(QFile::encodeName(path("out/~ZR3Temp")).constData(), &status));
+        EXPECT_EQ(mode_t(S_IRWXU), status.st_mode & 07777);
+    }
 }

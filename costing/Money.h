@@ -42,8 +42,7 @@ public:
 private:
     explicit constexpr Money(std::int64_t tenThousandths)
         : m_tenThousandths(tenThousandths)
-    {
-    }
+    { }
     [[noreturn]] static void overflow();
 
     std::int64_t m_tenThousandths = 0;

@@ -11,8 +11,8 @@ struct clsExport {
     clsZR3Form &form;
     /// Where the page templates lie.
     QString templatesFolder;
-    /// The folder of the finished document. It starts as the claim's export folder, but it is held here: the claim keeps its
-    /// texts in the code page, which not every folder's name is in.
+    /// The folder of the finished document. It starts as the claim's export folder, but it is held here: the claim
+    /// keeps its texts in the code page, which not every folder's name is in.
     QString exportFolder = form.ExportPath();
 
     /// A sheet that could not be opened, saved or joined is passed over, as every failure of the word processor: the

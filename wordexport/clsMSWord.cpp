@@ -8,8 +8,7 @@
 
 #include <new>
 
-namespace
-{
+namespace {
 
 struct Version {
     const char *number;
@@ -53,8 +52,7 @@ bool isZero(const QString &text)
 clsMSWord::clsMSWord(Lasting lasting)
     : CurrentSubroutine(QStringLiteral("Class_Initialize"))
     , m_lasting(lasting)
-{
-}
+{ }
 
 clsMSWord::~clsMSWord() = default;
 

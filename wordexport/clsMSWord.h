@@ -12,8 +12,7 @@ class clsWordDocument;
 ///
 /// Most operations guard themselves: a failure is reported once by this instance, the rest of that operation is
 /// skipped, and the caller goes on without being told. Those marked "unguarded" throw clsRunTimeError instead.
-class clsMSWord
-{
+class clsMSWord {
 public:
     /// What becomes of the documents that an instance saves. Working copies live for one export only, so they are
     /// packed in the quickest way and not forced on to the disk; a finished document gets both.

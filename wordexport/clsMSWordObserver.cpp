@@ -1,7 +1,6 @@
 #include "wordexport/clsMSWordObserver.h"
 
-namespace
-{
+namespace {
 
 clsMSWordObserver nobody;
 clsMSWordObserver *current = &nobody;

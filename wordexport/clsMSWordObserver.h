@@ -5,8 +5,7 @@
 /// Sees every operation of every clsMSWord, in order, with the texts as they are typed in the end: U+00FE and
 /// U+00A8 for ticks, U+000B for a line break inside the paragraph, one blank for an empty replacement.
 /// For proof of what an export sends to the word processor; the operations themselves do not depend on it.
-class clsMSWordObserver
-{
+class clsMSWordObserver {
 public:
     virtual ~clsMSWordObserver() = default;
 
@@ -34,8 +33,7 @@ public:
 clsMSWordObserver &MSWordObserver();
 
 /// Puts an observer in force for as long as this object lives, then the one before it again.
-class clsMSWordObserverScope
-{
+class clsMSWordObserverScope {
 public:
     explicit clsMSWordObserverScope(clsMSWordObserver &observer);
     ~clsMSWordObserverScope();

@@ -2,8 +2,7 @@
 
 #include "wordexport/mdWordXml.h"
 
-namespace
-{
+namespace {
 
 std::optional<bool> ownBoldness(const pugi::xml_node &format)
 {

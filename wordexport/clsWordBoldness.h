@@ -10,8 +10,7 @@
 #include <unordered_map>
 
 /// Whether a text is bold: by its own formatting, else by the styles of run and paragraph.
-class clsWordBoldness
-{
+class clsWordBoldness {
 public:
     /// `styles` is the root of the styles part; a null node where the document has none.
     explicit clsWordBoldness(const pugi::xml_node &styles);

@@ -7,8 +7,7 @@
 
 using pugi::xml_node;
 
-namespace
-{
+namespace {
 
 xml_node bodyOf(clsWordPackage &package)
 {
@@ -17,14 +16,12 @@ xml_node bodyOf(clsWordPackage &package)
 
 // A place in the target's tree, behind its root, where a document's text is made ready before it is moved in.
 // Whatever happens, it is gone before anybody writes the tree.
-class clsStaging
-{
+class clsStaging {
 public:
     explicit clsStaging(pugi::xml_document &tree)
         : m_tree(tree)
         , m_place(tree.append_child("staging"))
-    {
-    }
+    { }
     ~clsStaging() { m_tree.remove_child(m_place); }
     clsStaging(const clsStaging &) = delete;
     clsStaging &operator=(const clsStaging &) = delete;

@@ -12,8 +12,7 @@
 
 /// Appends whole documents to one, each as sections of its own with its own page setup. Lives as long as the
 /// document that it appends to is open, so that each further document costs no more than the one before.
-class clsWordComposer
-{
+class clsWordComposer {
 public:
     explicit clsWordComposer(clsWordPackage &target);
 

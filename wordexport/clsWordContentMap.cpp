@@ -11,8 +11,7 @@
 
 using pugi::xml_node;
 
-namespace
-{
+namespace {
 
 enum class Kind {
     Paragraph,
@@ -124,8 +123,7 @@ clsWordContentMap::clsWordContentMap(clsWordStyleImport &styles, Map lists, clsW
     : m_styles(styles)
     , m_lists(std::move(lists))
     , m_identities(identities)
-{
-}
+{ }
 
 void clsWordContentMap::mapMain(xml_node root, const std::string &prefix, Map relationships)
 {

@@ -13,8 +13,7 @@ class clsWordStyleImport;
 
 /// Makes the content of one document ready to stand in another, in one walk over each of its trees: styles, lists,
 /// relationships and identities become the target's, and what belongs to one document's own history is dropped.
-class clsWordContentMap
-{
+class clsWordContentMap {
 public:
     using Map = std::function<std::string(const std::string &)>;
 

@@ -6,8 +6,7 @@
 /// Pages and wrapped lines do not exist in the file, so a line is what the text itself makes one: a body paragraph
 /// is one line, plus one for each line break in it, and a table row has as many lines as the cell that the cursor
 /// is in.
-class clsWordCursor
-{
+class clsWordCursor {
 public:
     /// `body` is what holds the story.
     explicit clsWordCursor(const pugi::xml_node &body);

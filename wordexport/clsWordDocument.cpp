@@ -10,8 +10,7 @@
 
 using pugi::xml_node;
 
-namespace
-{
+namespace {
 
 constexpr QChar LineBreak(11);
 
@@ -59,8 +58,7 @@ clsWordDocument::clsWordDocument(const QString &path)
     : m_path(path)
     , m_package(clsWordPackage::fromFile(path))
     , m_cursor(body())
-{
-}
+{ }
 
 clsWordDocument::~clsWordDocument() = default;
 

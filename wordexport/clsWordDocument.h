@@ -12,8 +12,7 @@
 class clsWordComposer;
 
 /// One open document: its main story and the cursor in it, on which all editing is done.
-class clsWordDocument
-{
+class clsWordDocument {
 public:
     /// Opens a document's file. One that can't be worked with is a clsRunTimeError that says why.
     explicit clsWordDocument(const QString &path);

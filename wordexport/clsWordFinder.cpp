@@ -3,8 +3,7 @@
 #include <QChar>
 #include <QList>
 
-namespace
-{
+namespace {
 
 char32_t folded(char32_t c)
 {

@@ -7,8 +7,7 @@
 
 /// Looks for a literal text without regard to case. A no-break blank counts as a blank: it is easily typed by
 /// mistake into a placeholder, and nobody sees it.
-class clsWordFinder
-{
+class clsWordFinder {
 public:
     struct Hit {
         int from;

@@ -5,8 +5,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-namespace
-{
+namespace {
 
 // Numbers beyond this are no one's counting, and counting on from them would leave the format's range. Nor will
 // any count from below ever meet them.

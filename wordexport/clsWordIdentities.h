@@ -8,8 +8,7 @@
 
 /// What must be unique in the whole of a document: the numbers of pictures, bookmarks and content controls, and the
 /// names of bookmarks. Counters, no random numbers: the same documents joined twice give the same bytes.
-class clsWordIdentities
-{
+class clsWordIdentities {
 public:
     /// Learns what the document has already.
     explicit clsWordIdentities(clsWordPackage &document);

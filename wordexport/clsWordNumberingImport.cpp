@@ -10,8 +10,7 @@
 
 using pugi::xml_node;
 
-namespace
-{
+namespace {
 
 long highest(const xml_node &root, const char *element, const char *attribute)
 {
@@ -35,8 +34,7 @@ clsWordNumberingImport::clsWordNumberingImport(
     , m_last(last)
     , m_source(source)
     , m_styles(std::move(styles))
-{
-}
+{ }
 
 xml_node clsWordNumberingImport::sourceRoot()
 {

@@ -14,8 +14,7 @@ struct clsWordListNumbers {
 
 /// The lists of one document on their way into another. Each document's lists get numbers of their own, so that
 /// they start again instead of counting on.
-class clsWordNumberingImport
-{
+class clsWordNumberingImport {
 public:
     /// Gives the target's id for a style's id in the source.
     using StyleMap = std::function<std::string(const std::string &)>;

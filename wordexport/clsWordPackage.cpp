@@ -6,8 +6,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-namespace
-{
+namespace {
 
 constexpr const char *ContentTypesName = "[Content_Types].xml";
 constexpr const char *RelationshipsType = "http://schemas.openxmlformats.org/package/2006/relationships";
@@ -17,8 +16,7 @@ constexpr const char *StrictRelationships = "http://purl.oclc.org/ooxml/officeDo
 // on the stack.
 constexpr int MaximumDepth = 400;
 
-class clsByteWriter final : public pugi::xml_writer
-{
+class clsByteWriter final : public pugi::xml_writer {
 public:
     void write(const void *data, size_t size) override
     {
@@ -85,8 +83,7 @@ clsWordPackage clsWordPackage::fromFile(const QString &path)
 
 clsWordPackage::clsWordPackage(clsZipPackage zip, const QString &shownName)
     : clsWordPackage(std::move(zip), shownName, pugi::xml_node())
-{
-}
+{ }
 
 clsWordPackage::clsWordPackage(clsZipPackage zip, const QString &shownName, const pugi::xml_node &mainPlace)
     : m_zip(std::move(zip))
@@ -221,7 +218,7 @@ void clsWordPackage::writeMainPart()
         mark = "<?" + QByteArray::fromStdString(name) + "?>";
     } while (bytes.count(mark) != 1);
     const qsizetype at = bytes.indexOf(mark);
-    std::vector<QByteArray> pieces{bytes.left(at)};
+    std::vector<QByteArray> pieces {bytes.left(at)};
     pieces.insert(pieces.end(), m_settled.begin(), m_settled.end());
     pieces.push_back(bytes.mid(at + mark.size()));
     m_zip.setPieces(m_mainPart, pieces);

@@ -11,8 +11,7 @@
 
 /// A document as a package of parts, each with a content type and relationships to others. A part is parsed only
 /// when it is asked for; one that nobody changes is written back byte for byte.
-class clsWordPackage
-{
+class clsWordPackage {
 public:
     struct Relationship {
         std::string id;

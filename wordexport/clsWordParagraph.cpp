@@ -7,8 +7,7 @@
 
 using pugi::xml_node;
 
-namespace
-{
+namespace {
 
 constexpr const char *Invisible[] = {
     "w:rPr",
@@ -98,14 +97,12 @@ void giveFormat(xml_node run, const xml_node &format)
 }
 
 // Writes typed text into a run, element by element.
-class clsTyper
-{
+class clsTyper {
 public:
     clsTyper(const xml_node &run, bool symbols)
         : m_run(run)
         , m_symbols(symbols)
-    {
-    }
+    { }
 
     /// Returns how many positions the text takes.
     int type(const QString &typed)

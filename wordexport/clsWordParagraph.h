@@ -11,8 +11,7 @@
 /// a symbol or a picture counts one. Field codes, deleted text and what is anchored in text boxes do not count:
 /// they are not in the text that a reader sees here.
 /// A view of the moment: whoever changes the tree by other ways reads the paragraph anew.
-class clsWordParagraph
-{
+class clsWordParagraph {
 public:
     /// The characters that stand for elements in text().
     static constexpr char Tab = '\t';

@@ -5,8 +5,7 @@
 
 #include <QCryptographicHash>
 
-namespace
-{
+namespace {
 
 using Relationships = std::vector<clsWordPackage::Relationship>;
 
@@ -49,8 +48,7 @@ clsWordPartImport::clsWordPartImport(clsWordPackage &target, clsWordKnownParts &
     , m_source(source)
     , m_sourceStyles(sourceStyles)
     , m_mapContent(std::move(mapContent))
-{
-}
+{ }
 
 void clsWordPartImport::checkSource()
 {

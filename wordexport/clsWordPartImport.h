@@ -17,8 +17,7 @@ struct clsWordKnownParts {
 };
 
 /// The parts that the content of one document refers to, on their way into another.
-class clsWordPartImport
-{
+class clsWordPartImport {
 public:
     /// Makes the tree of a header or footer ready for the target.
     using ContentMap = std::function<void(pugi::xml_node root)>;

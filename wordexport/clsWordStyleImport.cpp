@@ -5,8 +5,7 @@
 
 using pugi::xml_node;
 
-namespace
-{
+namespace {
 
 xml_node rootOf(clsWordPackage &package, const char *typeName)
 {
@@ -61,8 +60,7 @@ xml_node ensureStyleProperties(xml_node style, const char *name)
 clsWordStylesOnDemand::clsWordStylesOnDemand(clsWordPackage &target)
     : m_target(target)
     , m_originalBytes(stylesOf(target))
-{
-}
+{ }
 
 clsWordStyles &clsWordStylesOnDemand::get()
 {
@@ -77,8 +75,7 @@ clsWordStyleImport::clsWordStyleImport(clsWordStylesOnDemand &target, clsWordPac
     , m_numbers(std::move(numbers))
     , m_sourceBytes(stylesOf(source))
     , m_same(m_sourceBytes == target.originalBytes())
-{
-}
+{ }
 
 clsWordStyleDefinitions::Of &clsWordStyleImport::definitions()
 {

@@ -11,8 +11,7 @@
 
 /// The styles of the document that others are appended to, read only when the first one comes whose styles are not
 /// the very same bytes.
-class clsWordStylesOnDemand
-{
+class clsWordStylesOnDemand {
 public:
     explicit clsWordStylesOnDemand(clsWordPackage &target);
 
@@ -26,8 +25,7 @@ private:
 };
 
 /// The styles of one document on their way into another. A style is taken over when it is first asked for.
-class clsWordStyleImport
-{
+class clsWordStyleImport {
 public:
     /// Gives the target's number for a list's number in the source.
     using NumberMap = std::function<std::string(const std::string &)>;

@@ -7,8 +7,7 @@
 
 using pugi::xml_node;
 
-namespace
-{
+namespace {
 
 // What says nothing of how a text looks: identity, the order of lists of styles, the history of edits.
 constexpr const char *NoLook[] = {

@@ -8,13 +8,11 @@
 
 /// The definitions of styles, told apart by what they say and not by their ids, which every word processor is
 /// free to choose. Two styles with the same number look the same, including all that they are based on.
-class clsWordStyleDefinitions
-{
+class clsWordStyleDefinitions {
 public:
     /// The number of a style of a document; `styles` is the root of its styles part, `numbering` that of its
     /// numbering part.
-    class Of
-    {
+    class Of {
     public:
         Of(clsWordStyleDefinitions &definitions, const pugi::xml_node &styles, const pugi::xml_node &numbering);
 
@@ -47,8 +45,7 @@ private:
 
 /// The styles of the document that others are appended to: identical styles are shared, different ones of the same
 /// name are taken over under a new name.
-class clsWordStyles
-{
+class clsWordStyles {
 public:
     explicit clsWordStyles(clsWordPackage &target);
 

@@ -8,8 +8,7 @@
 #include <algorithm>
 #include <memory>
 
-namespace
-{
+namespace {
 
 // A fixed moment, the first that a zip can name: documents hold no clock.
 constexpr zip_uint16_t FixedDosTime = 0;

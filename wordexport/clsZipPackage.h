@@ -9,8 +9,7 @@
 /// A zip package in memory: names and bytes, in the order of the file. Nothing is ever unpacked to the disk.
 /// Reading distrusts the package: sizes, counts and names have limits, so that a hostile one gives one clear
 /// error and harms nothing.
-class clsZipPackage
-{
+class clsZipPackage {
 public:
     struct Entry {
         QString name;
@@ -49,8 +48,7 @@ private:
 
 /// The limits of a package that is read. Sheets and templates hold some hundred kilobytes; these are far above
 /// that and far below what would hurt.
-namespace ZipLimits
-{
+namespace ZipLimits {
 inline constexpr qint64 PackageBytes = 64 * 1024 * 1024;
 inline constexpr qint64 EntryBytes = 64 * 1024 * 1024;
 inline constexpr qint64 TotalBytes = 192 * 1024 * 1024;
@@ -58,4 +56,4 @@ inline constexpr qint64 Entries = 4096;
 /// Honest text packs to a fiftieth at best; beyond this ratio, from a megabyte on, it is a bomb.
 inline constexpr qint64 Ratio = 300;
 inline constexpr qint64 RatioFrom = 1024 * 1024;
-}
+} // namespace ZipLimits

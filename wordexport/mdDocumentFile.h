@@ -7,12 +7,12 @@
 /// pipe under the name is an error, not a wait without end. A larger file is an error that says so.
 QByteArray mdReadDocumentFile(const QString &path, qint64 limit);
 
-/// Writes a document's file so that the name holds either the old bytes or the new ones, whole, and the disk has them: they
-/// go to a side file in the same folder, which then takes the name.
-/// Any failure (a full disk, a folder that may not be written to) is a clsRunTimeError; the old file stays.
+/// Writes a document's file so that the name holds either the old bytes or the new ones, whole, and the disk has them:
+/// they go to a side file in the same folder, which then takes the name. Any failure (a full disk, a folder that may
+/// not be written to) is a clsRunTimeError; the old file stays.
 void mdWriteDocumentFile(const QString &path, const QByteArray &bytes);
 
-/// Writes a file that lives for one export only, in the quickest way: always a new file, since replacing one, by its name or
-/// by its content, makes some file systems write it to the disk at once, and the deletion at the end then waits for that.
-/// A failure is a clsRunTimeError and leaves no file.
+/// Writes a file that lives for one export only, in the quickest way: always a new file, since replacing one, by its
+/// name or by its content, makes some file systems write it to the disk at once, and the deletion at the end then waits
+/// for that. A failure is a clsRunTimeError and leaves no file.
 void mdWriteWorkingFile(const QString &path, const QByteArray &bytes);

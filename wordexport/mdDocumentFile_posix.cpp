@@ -13,16 +13,13 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace
-{
+namespace {
 
-class clsDescriptor
-{
+class clsDescriptor {
 public:
     explicit clsDescriptor(int descriptor)
         : m_descriptor(descriptor)
-    {
-    }
+    { }
     ~clsDescriptor()
     {
         if (m_descriptor >= 0)

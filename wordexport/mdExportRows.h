@@ -9,8 +9,8 @@ extern const std::span<const clsGridCell> CounselFeesCells;
 /// What counsel's page shows after its grid.
 extern const std::span<const clsPlaceholderRow> CounselFeesRows;
 
-/// The twelve cells of an expert's invoice. Its amounts are typed as text on purpose: they print as they are stored, and
-/// only the total is formatted.
+/// The twelve cells of an expert's invoice. Its amounts are typed as text on purpose: they print as they are stored,
+/// and only the total is formatted.
 extern const std::span<const clsGridCell> ExpertInvoiceCells;
 /// The cells of a joint instruction and of a disbursement that is not counsel's.
 extern const std::span<const clsGridCell> JointInstructionCells;
@@ -27,5 +27,6 @@ int mdCountExpertInvoices(const clsZR3Form &form);
 int mdCountJointInstructions(const clsZR3Form &form);
 int mdCountOtherDisbursements(const clsZR3Form &form);
 
-/// The text of an expert's invoice item's or disbursement's amount and VAT added; the type error where one is no number.
+/// The text of an expert's invoice item's or disbursement's amount and VAT added; the type error where one is no
+/// number.
 QString mdGrossText(const QString &amount, const QString &vat);

@@ -3,8 +3,8 @@
 #include "costing/Money.h"
 #include "wordexport/clsExportPage.h"
 
-// Short ways of writing the rows of a page's table: a placeholder, the property that it shows, and by the word the class
-// in which it is typed. `form` is the claim.
+// Short ways of writing the rows of a page's table: a placeholder, the property that it shows, and by the word the
+// class in which it is typed. `form` is the claim.
 
 /// A boolean as the text that a tick box is typed from.
 inline QString mdTickText(bool ticked)

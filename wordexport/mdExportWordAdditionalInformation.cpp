@@ -45,8 +45,8 @@ QString markOf(const clsExport &run, int position, int count)
     return mdSheetMark(run.ExportSheetCounter);
 }
 
-/// Fills one sheet from the item at `start` and returns the first that it could not take. `linesLeft` is its budget, and
-/// then what is left of it.
+/// Fills one sheet from the item at `start` and returns the first that it could not take. `linesLeft` is its budget,
+/// and then what is left of it.
 int fillSheet(clsExport &run, const QString &path, const clsAdditionalInformation &place, int start, int &linesLeft)
 {
     const int count = int(run.form.AdditionalInformationItemsCollection().size());
@@ -83,8 +83,8 @@ clsAdditionalInformationResult mdExportWordAdditionalInformation(clsExport &run,
 
     while (position <= count) {
         ++run.ExportSheetCounter;
-        const QString sheet = mdMakeSheet(run, QString::fromLatin1(place.continuationTemplate), place.pageNumber,
-                                          run.ExportSheetCounter);
+        const QString sheet = mdMakeSheet(
+            run, QString::fromLatin1(place.continuationTemplate), place.pageNumber, run.ExportSheetCounter);
         linesLeft = FurtherBudget;
         position = fillSheet(run, sheet, place, position, linesLeft);
     }

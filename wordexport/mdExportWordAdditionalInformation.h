@@ -15,6 +15,6 @@ struct clsAdditionalInformationResult {
 /// further one. A note is never split over sheets.
 clsAdditionalInformationResult mdExportWordAdditionalInformation(clsExport &run, const clsAdditionalInformation &place);
 
-/// Tells the user of the first note that no sheet could ever hold, and returns true. Without this such a note would make
-/// sheets without end.
+/// Tells the user of the first note that no sheet could ever hold, and returns true. Without this such a note would
+/// make sheets without end.
 bool mdNoteCanNeverFit(const clsExport &run);

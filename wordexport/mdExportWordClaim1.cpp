@@ -111,8 +111,7 @@ const clsGridPage Page4 = {4, "Claim1 P4", Page4Grids, CounselFeesRows};
 
 // Page 6: additional information and experts
 
-const clsAdditionalInformation Page6AdditionalInformation
-    = {6, "Claim1 P6", "Claim1 P6 Additional Info Cont", 10, 3};
+const clsAdditionalInformation Page6AdditionalInformation = {6, "Claim1 P6", "Claim1 P6 Additional Info Cont", 10, 3};
 
 /// The lines above the experts' grid while no note is typed; each typed line pushes it down by one.
 constexpr int LinesAboveExperts = 20;
@@ -231,6 +230,7 @@ const clsPlainPage Page10 = {10, "Claim1 P10", DebtorsDetailsRows};
 
 // The exporters by their names; page 6 alone has steps of its own.
 
+// clang-format off
 void mdExportWordClaim1Page1(clsExport &run) { mdExportWordPlainPage(run, Page1); }
 void mdExportWordClaim1Page2(clsExport &run) { mdExportWordPlainPage(run, Page2); }
 void mdExportWordClaim1Page3(clsExport &run) { mdExportWordPlainPage(run, Page3); }
@@ -240,6 +240,7 @@ void mdExportWordClaim1Page7(clsExport &run) { mdExportWordGridPage(run, Page7);
 void mdExportWordClaim1Page8(clsExport &run) { mdExportWordPlainPage(run, Page8); }
 void mdExportWordClaim1Page9(clsExport &run) { mdExportWordPlainPage(run, Page9); }
 void mdExportWordClaim1Page10(clsExport &run) { mdExportWordPlainPage(run, Page10); }
+// clang-format on
 
 const clsExportPageRow Pages[] = {
     {1, "Claim1 Page 1", mdExportWordClaim1Page1},

@@ -65,8 +65,8 @@ void mdExportWordCombineDocuments(clsExport &run)
     }
     word.TypeBackSpace();
     mdSaveSheet(run, word);
-    // A sheet that could not be joined has been told of, and is passed over. But while the joined document is not saved there
-    // is nothing that may stand under the finished name.
+    // A sheet that could not be joined has been told of, and is passed over. But while the joined document is not saved
+    // there is nothing that may stand under the finished name.
     if (word.isOpen())
         throw clsExportStopped();
     word.Quit();

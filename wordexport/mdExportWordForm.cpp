@@ -35,8 +35,7 @@ void sweep(const clsExport &run)
 {
     try {
         mdClearExportTempFolder(run.exportFolder, true);
-    } catch (const clsRunTimeError &) {
-    }
+    } catch (const clsRunTimeError &) { }
 }
 
 } // namespace

@@ -10,8 +10,8 @@
 
 namespace {
 
-void makeContinuationSheet(clsExport &run, const QString &templateName, int pageNumber, const QString &placeholder,
-                           const QString &piece)
+void makeContinuationSheet(
+    clsExport &run, const QString &templateName, int pageNumber, const QString &placeholder, const QString &piece)
 {
     const QString path = mdMakeSheet(run, templateName, pageNumber, run.ExportSheetCounter);
     clsMSWord word;
@@ -25,23 +25,23 @@ void makeContinuationSheet(clsExport &run, const QString &templateName, int page
 } // namespace
 
 void mdExportWordGenerateOverRuns(clsExport &run, const QString &text, const clsOverRun &overRun, clsMSWord &word,
-                                  const QString &placeholder, int pageNumber)
+    const QString &placeholder, int pageNumber)
 {
     if (!mdTextRequiresOverRun(text, overRun.limit)) {
         mdReplace(word, placeholder, text, clsFillClass::Text);
         return;
     }
     mdReplace(word, placeholder,
-              QStringLiteral("See Page %1 %2").arg(pageNumber).arg(mdSheetMark(run.ExportSheetCounter + 1)),
-              clsFillClass::Text);
+        QStringLiteral("See Page %1 %2").arg(pageNumber).arg(mdSheetMark(run.ExportSheetCounter + 1)),
+        clsFillClass::Text);
 
     const QStringList pieces = mdCutIntoPieces(text, overRun.cutLength);
     for (int i = 1; i <= int(pieces.size()); ++i) {
         ++run.ExportSheetCounter;
         mdSetProgress(i, int(pieces.size()),
-                      QStringLiteral("Exporting Page %1 Continuation Sheet %2").arg(pageNumber).arg(run.ExportSheetCounter));
-        makeContinuationSheet(run, QString::fromLatin1(overRun.continuationTemplate), pageNumber, placeholder,
-                              pieces[i - 1]);
+            QStringLiteral("Exporting Page %1 Continuation Sheet %2").arg(pageNumber).arg(run.ExportSheetCounter));
+        makeContinuationSheet(
+            run, QString::fromLatin1(overRun.continuationTemplate), pageNumber, placeholder, pieces[i - 1]);
     }
 }
 

@@ -38,8 +38,8 @@ void typeRow(const clsExport &run, clsMSWord &word, const clsGrid &grid, int i)
 
 } // namespace
 
-void mdExportGrid(clsExport &run, clsMSWord &word, const clsGrid &grid, int firstOffset, const QString &firstSheet,
-                  int pageNumber)
+void mdExportGrid(
+    clsExport &run, clsMSWord &word, const clsGrid &grid, int firstOffset, const QString &firstSheet, int pageNumber)
 {
     word.MoveCursorDown(firstOffset);
     const int count = grid.count(run.form);

@@ -10,10 +10,10 @@ struct clsGridPage;
 /// Exports a page with grids: rows typed into tables, overflowing on to further sheets.
 void mdExportWordGridPage(clsExport &run, const clsGridPage &page);
 
-/// Fills one grid of a page, beginning `firstOffset` lines below the start of the first sheet, which is open. At the end
-/// the first sheet is open again, at its start.
-void mdExportGrid(clsExport &run, clsMSWord &word, const clsGrid &grid, int firstOffset, const QString &firstSheet,
-                  int pageNumber);
+/// Fills one grid of a page, beginning `firstOffset` lines below the start of the first sheet, which is open. At the
+/// end the first sheet is open again, at its start.
+void mdExportGrid(
+    clsExport &run, clsMSWord &word, const clsGrid &grid, int firstOffset, const QString &firstSheet, int pageNumber);
 
 /// Replaces the mark of a grid page's first sheet.
 void mdReplaceFirstSheetMark(const clsExport &run, clsMSWord &word);

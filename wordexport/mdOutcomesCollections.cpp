@@ -9,7 +9,8 @@ QStringList StageOfCaseEndCollection()
         QStringLiteral("C) Determined at final hearing"),
         QStringLiteral("D) Determined on appeal"),
         QStringLiteral("E1) No proceedings issued"),
-        QStringLiteral("E2) Proceedings issued, case concluded before decision on whether or not to grant permission is made"),
+        QStringLiteral(
+            "E2) Proceedings issued, case concluded before decision on whether or not to grant permission is made"),
         QStringLiteral("F1) Permission refused, concluded at first application stage (usually papers)"),
         QStringLiteral("F2) Permission refused, concluded at a rolled - up hearing"),
         QStringLiteral("G) Permission not granted, concluded after renewed application"),
@@ -46,7 +47,8 @@ QStringList ResultCollection()
         QStringLiteral("A) Lump sum/property adjustment and periodical payments"),
         QStringLiteral("B) Lump sum/property adjustment only"),
         QStringLiteral("C) Periodical payments only"),
-        QStringLiteral("D) Client is respondent - clients liability to other party reduced, avoided or less than claimed"),
+        QStringLiteral(
+            "D) Client is respondent - clients liability to other party reduced, avoided or less than claimed"),
         QStringLiteral("E) Possession proceedings dismissed or withdrawn"),
         QStringLiteral("F) Postponed or suspended possession order made"),
         QStringLiteral("G) Possession proceedings adjourned on terms"),

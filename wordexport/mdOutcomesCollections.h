@@ -2,9 +2,9 @@
 
 #include <QStringList>
 
-// The code lists of the outcome of a case, fixed by the government forms and the same for both. A claim stores the place
-// in the list, 0 for none; the forms print only the code in front of the bracket. The blank before "No Selection", and
-// the one that ends the first text of the public benefits, are part of the texts.
+// The code lists of the outcome of a case, fixed by the government forms and the same for both. A claim stores the
+// place in the list, 0 for none; the forms print only the code in front of the bracket. The blank before "No
+// Selection", and the one that ends the first text of the public benefits, are part of the texts.
 
 QStringList StageOfCaseEndCollection();
 QStringList HowDidCaseEndCollection();

@@ -6,8 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 
-namespace
-{
+namespace {
 
 constexpr const char *ProcessFolder = "/proc";
 

@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace
-{
+namespace {
 
 clsProcessList current = mdProcessNames;
 
@@ -21,8 +20,7 @@ bool mdWordAlreadyRunning()
 
 clsProcessListScope::clsProcessListScope(clsProcessList list)
     : m_previous(std::exchange(current, std::move(list)))
-{
-}
+{ }
 
 clsProcessListScope::~clsProcessListScope()
 {

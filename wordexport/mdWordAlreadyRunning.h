@@ -15,8 +15,7 @@ using clsProcessList = std::function<QStringList()>;
 QStringList mdProcessNames();
 
 /// Puts another process list in force for as long as this object lives.
-class clsProcessListScope
-{
+class clsProcessListScope {
 public:
     explicit clsProcessListScope(clsProcessList list);
     ~clsProcessListScope();

@@ -5,8 +5,7 @@
 
 #include <exception>
 
-namespace
-{
+namespace {
 
 constexpr const char *ContentTypes
     = "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>"

@@ -8,8 +8,7 @@
 
 using pugi::xml_node;
 
-namespace
-{
+namespace {
 
 constexpr std::string_view Declaration = "xmlns:";
 // The attributes whose value is a list of prefixes.

@@ -5,11 +5,9 @@
 #include <span>
 #include <utility>
 
-namespace WordXml
-{
+namespace WordXml {
 
-namespace
-{
+namespace {
 
 using pugi::xml_node;
 

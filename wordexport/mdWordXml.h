@@ -10,8 +10,7 @@
 
 /// What every room of this layer needs to know about the XML of a document: how it is read and written, which
 /// elements only wrap others, and in which order the children of a property element stand.
-namespace WordXml
-{
+namespace WordXml {
 
 /// Without these, blanks that stand alone in a text would be lost when a part is read.
 inline constexpr unsigned ParseFlags

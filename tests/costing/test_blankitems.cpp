@@ -59,7 +59,7 @@ TEST_F(BlankItems, ADisbursementIsBlankOnlyWhereBothAmountsAreNothing)
         bool blank;
     };
     for (const Row &row : {Row {"0.00", "0.00", true}, {"", "", true}, {"x", "y", true}, {"0.00", "5.00", false},
-                           {"5.00", "0.00", false}, {"0.001", "0", false}, {"-1", "0", false}, {"-0.00", "0", true}}) {
+             {"5.00", "0.00", false}, {"0.001", "0", false}, {"-1", "0", false}, {"-0.00", "0", true}}) {
         clsTestClaim other;
         other.addDisbursement(row.amount, row.vat);
         EXPECT_EQ(row.blank ? 1 : 0, mdCountBlankDisbursements(other.form)) << row.amount << ' ' << row.vat;

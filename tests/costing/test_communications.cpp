@@ -89,7 +89,8 @@ TEST_F(Communications, EachKindHasItsOwnRateCountAndEnhancement)
             EXPECT_EQ(QString::fromLatin1(rates[k]), textOf(CommsRateAtLine(form, 1, kind)));
             EXPECT_EQ(QString::fromLatin1(counts[k]), CommsCountAtLine(form, 1, kind));
             EXPECT_EQ(QString::fromLatin1(basics[k]), textOf(CommsBasicAtLine(form, 1, kind)));
-            EXPECT_EQ(QString::fromLatin1(kind == enhanced ? uplifts[k] : "0"), textOf(CommsEnhancementAtLine(form, 1, kind)));
+            EXPECT_EQ(QString::fromLatin1(kind == enhanced ? uplifts[k] : "0"),
+                textOf(CommsEnhancementAtLine(form, 1, kind)));
         }
     }
 }

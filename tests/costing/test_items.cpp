@@ -96,10 +96,20 @@ TEST_F(ScheduleItem, TheColumnByTheFirstRuleThatHolds)
         int column;
     };
     const Row rows[] = {
-        {false, false, "ACT", 0}, {false, false, "DOT", 1}, {false, false, "ROP", 1}, {false, false, "RES", 1},
-        {false, false, "OOT", 1}, {false, false, "HIN", 2}, {false, false, "", 0},    {false, false, "dot", 0},
-        {false, false, " DOT", 0}, {false, false, "D", 1},  {true, false, "HIN", 3},  {false, true, "DOT", 4},
-        {true, true, "ACT", 3},   {false, true, "", 4},
+        {false, false, "ACT", 0},
+        {false, false, "DOT", 1},
+        {false, false, "ROP", 1},
+        {false, false, "RES", 1},
+        {false, false, "OOT", 1},
+        {false, false, "HIN", 2},
+        {false, false, "", 0},
+        {false, false, "dot", 0},
+        {false, false, " DOT", 0},
+        {false, false, "D", 1},
+        {true, false, "HIN", 3},
+        {false, true, "DOT", 4},
+        {true, true, "ACT", 3},
+        {false, true, "", 4},
     };
     const auto feeEarner = claim.addFeeEarner(claim.addGroup());
     for (const Row &row : rows) {
@@ -137,13 +147,20 @@ TEST_F(ScheduleItem, ALaterRuleOfTheRateOverridesAnEarlierOne)
     };
     // Hourly 40, advocacy 50, counsel 30, travel and waiting 20.
     const Row rows[] = {
-        {false, false, false, false, false, "40"}, {true, false, false, false, false, "50"},
-        {false, true, false, false, false, "30"},  {true, true, false, false, false, "30"},
-        {false, false, true, false, false, "20"},  {false, false, false, true, false, "20"},
-        {true, false, true, false, false, "20"},   {true, false, false, true, false, "20"},
-        {false, true, true, false, false, "20"},   {true, true, true, true, false, "20"},
-        {true, false, false, false, true, "40"},   {true, true, true, true, true, "40"},
-        {false, false, true, false, true, "40"},   {false, false, false, false, true, "40"},
+        {false, false, false, false, false, "40"},
+        {true, false, false, false, false, "50"},
+        {false, true, false, false, false, "30"},
+        {true, true, false, false, false, "30"},
+        {false, false, true, false, false, "20"},
+        {false, false, false, true, false, "20"},
+        {true, false, true, false, false, "20"},
+        {true, false, false, true, false, "20"},
+        {false, true, true, false, false, "20"},
+        {true, true, true, true, false, "20"},
+        {true, false, false, false, true, "40"},
+        {true, true, true, true, true, "40"},
+        {false, false, true, false, true, "40"},
+        {false, false, false, false, true, "40"},
     };
     const auto feeEarner = claim.addFeeEarner(claim.addGroup());
     for (const Row &row : rows) {
@@ -309,7 +326,10 @@ TEST_F(ScheduleItem, ATimeWithoutAColonIsTheSubscriptError)
 TEST_F(ScheduleItem, TheDateSorts)
 {
     const std::pair<const char *, const char *> rows[] = {
-        {"31/12/29", "20291231"}, {"01/02/06", "20060201"}, {"28/02/1999", "19990228"}, {"", ""},
+        {"31/12/29", "20291231"},
+        {"01/02/06", "20060201"},
+        {"28/02/1999", "19990228"},
+        {"", ""},
     };
     for (const auto &[date, serial] : rows) {
         const auto item = form.AddScheduleOfTimeItem();
@@ -412,7 +432,7 @@ TEST_F(UniqueIDInUse, EveryReferenceCounts)
     item->EnhancementUniqueID = QString();
     EXPECT_FALSE(UniqueIDInUseInForm(form, enhancement->UniqueID()));
     for (const char16_t *name :
-         {u"LettersOutEnhancementUniqueID", u"LettersInEnhancementUniqueID", u"CallsEnhancementUniqueID"}) {
+        {u"LettersOutEnhancementUniqueID", u"LettersInEnhancementUniqueID", u"CallsEnhancementUniqueID"}) {
         form.Communications.field(name)->writeText(enhancement->UniqueID());
         EXPECT_TRUE(UniqueIDInUseInForm(form, enhancement->UniqueID()));
         form.Communications.field(name)->writeText(QString());
@@ -452,9 +472,38 @@ TEST_F(UniqueIDInUse, OneIdentityIsNoPartOfAnother)
 TEST_F(Codes, AreThese32InThisOrder)
 {
     const QStringList expected = {
-        "ACL"_q, "ACO"_q, "ACT"_q, "AEX"_q, "AOS"_q, "AOT"_q, "ASI"_q, "ASO"_q, "AWI"_q, "DAF"_q, "DAG"_q,
-        "DAN"_q, "DAP"_q, "DBL"_q, "DCN"_q, "DFL"_q, "DIC"_q, "DNO"_q, "DOT"_q, "DPL"_q, "DST"_q, "HDI"_q,
-        "HFN"_q, "HIN"_q, "HOT"_q, "OOT"_q, "RES"_q, "REX"_q, "RMD"_q, "ROP"_q, "ROT"_q, "RWE"_q,
+        "ACL"_q,
+        "ACO"_q,
+        "ACT"_q,
+        "AEX"_q,
+        "AOS"_q,
+        "AOT"_q,
+        "ASI"_q,
+        "ASO"_q,
+        "AWI"_q,
+        "DAF"_q,
+        "DAG"_q,
+        "DAN"_q,
+        "DAP"_q,
+        "DBL"_q,
+        "DCN"_q,
+        "DFL"_q,
+        "DIC"_q,
+        "DNO"_q,
+        "DOT"_q,
+        "DPL"_q,
+        "DST"_q,
+        "HDI"_q,
+        "HFN"_q,
+        "HIN"_q,
+        "HOT"_q,
+        "OOT"_q,
+        "RES"_q,
+        "REX"_q,
+        "RMD"_q,
+        "ROP"_q,
+        "ROT"_q,
+        "RWE"_q,
     };
     ASSERT_EQ(32, expected.size());
     EXPECT_EQ(expected, mdScheduleOfTimeCodesCollection());

@@ -96,7 +96,7 @@ protected:
         return counsel->UniqueID();
     }
     std::shared_ptr<clsZR3Disbursement> addFee(const QString &counsel, const QString &amount = QStringLiteral("100.00"),
-                                               const QString &vat = QStringLiteral("20.00"))
+        const QString &vat = QStringLiteral("20.00"))
     {
         auto fee = form.AddDisbursement();
         fee->Counsel = true;
@@ -114,8 +114,7 @@ protected:
             addFee(counsel);
     }
     std::shared_ptr<clsZR3Disbursement> addDisbursement(const QString &description,
-                                                        const QString &amount = QStringLiteral("10.00"),
-                                                        const QString &vat = QStringLiteral("2.00"))
+        const QString &amount = QStringLiteral("10.00"), const QString &vat = QStringLiteral("2.00"))
     {
         auto disbursement = form.AddDisbursement();
         disbursement->Counsel = false;

@@ -32,10 +32,8 @@ public:
         QJsonArray sheets;
         for (const QString &name : m_names)
             sheets << sheet(name);
-        return {{QStringLiteral("FormType"), m_run.form.FormType()},
-                {QStringLiteral("Order"), order},
-                {QStringLiteral("CombinedOrder"), m_combined},
-                {QStringLiteral("Sheets"), sheets}};
+        return {{QStringLiteral("FormType"), m_run.form.FormType()}, {QStringLiteral("Order"), order},
+            {QStringLiteral("CombinedOrder"), m_combined}, {QStringLiteral("Sheets"), sheets}};
     }
 
     QStringList order() const
@@ -161,7 +159,8 @@ public:
     void replaced(const QString &find, const QString &text, bool isTick) override
     {
         add({QStringLiteral("replace"), find, text,
-             QJsonObject {{QStringLiteral("tick"), isTick}, {QStringLiteral("bold"), QStringLiteral("from placeholder")}}});
+            QJsonObject {
+                {QStringLiteral("tick"), isTick}, {QStringLiteral("bold"), QStringLiteral("from placeholder")}}});
     }
     void typed(const QString &text, bool isTick, bool bold) override
     {
@@ -169,7 +168,7 @@ public:
             add({QStringLiteral("settext"), text});
         else
             add({QStringLiteral("cell"), text,
-                 QJsonObject {{QStringLiteral("tick"), isTick}, {QStringLiteral("bold"), bold}}});
+                QJsonObject {{QStringLiteral("tick"), isTick}, {QStringLiteral("bold"), bold}}});
     }
     void failed(const QString &what, const QString &value) override { add({QStringLiteral("failed"), what, value}); }
     void pageBreak() override { add({QStringLiteral("pagebreak")}); }
@@ -200,9 +199,8 @@ private:
     }
     QJsonObject sheet(const QString &name) const
     {
-        return {{QStringLiteral("Name"), name},
-                {QStringLiteral("Template"), at(name).templateName},
-                {QStringLiteral("Ops"), at(name).ops}};
+        return {{QStringLiteral("Name"), name}, {QStringLiteral("Template"), at(name).templateName},
+            {QStringLiteral("Ops"), at(name).ops}};
     }
     void add(const QJsonArray &op)
     {

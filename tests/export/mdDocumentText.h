@@ -14,8 +14,7 @@ struct clsDocumentTree {
     explicit clsDocumentTree(const QString &path)
         : package(clsWordPackage::fromFile(path))
         , body(package.partXml(package.mainPart()).child("w:document").child("w:body"))
-    {
-    }
+    { }
     clsWordPackage package;
     pugi::xml_node body;
 };

@@ -9,10 +9,7 @@ const QString Mark = QStringLiteral("{or}");
 
 class Claim1Pages : public clsExportTest {
 protected:
-    QString mark(const char *name) const
-    {
-        return recorder->replacements(QString::fromLatin1(name), Mark).join(u'|');
-    }
+    QString mark(const char *name) const { return recorder->replacements(QString::fromLatin1(name), Mark).join(u'|'); }
     QString value(const char *name, const char *placeholder) const
     {
         return recorder->replacements(QString::fromLatin1(name), QString::fromLatin1(placeholder)).join(u'|');
@@ -157,7 +154,7 @@ TEST_F(Claim1Pages, Page6WithoutNotesGoesDownTwentyLines)
     addItem();
     ASSERT_TRUE(exportClaim());
     EXPECT_EQ(QStringLiteral("down 3|down 20"),
-              recorder->linesOf(QStringLiteral("6(1)")).filter(QStringLiteral("down")).join(u'|'));
+        recorder->linesOf(QStringLiteral("6(1)")).filter(QStringLiteral("down")).join(u'|'));
     EXPECT_EQ(QStringLiteral(" | "), mark("6(1)")) << "the sheet is opened twice, and marked each time";
 }
 
@@ -197,15 +194,33 @@ TEST_F(Claim1Pages, AnExpertsAmountsPrintAsTheyAreStoredAndOnlyTheTotalIsFormatt
     nothing->ExpertGroup = QStringLiteral("Interpreter");
     ASSERT_TRUE(exportClaim());
     const QStringList expected = {
-        QStringLiteral("Surveyor"), QStringLiteral("Building"), QStringLiteral("Y"),      QStringLiteral("1234.5"),
-        QStringLiteral(" "),        QStringLiteral(" "),        QStringLiteral("n/a"),    QStringLiteral("7"),
-        QString(),                  QStringLiteral("1000.1"),   QStringLiteral("200.02"), QStringLiteral("1,200.12"),
+        QStringLiteral("Surveyor"),
+        QStringLiteral("Building"),
+        QStringLiteral("Y"),
+        QStringLiteral("1234.5"),
+        QStringLiteral(" "),
+        QStringLiteral(" "),
+        QStringLiteral("n/a"),
+        QStringLiteral("7"),
+        QString(),
+        QStringLiteral("1000.1"),
+        QStringLiteral("200.02"),
+        QStringLiteral("1,200.12"),
     };
     EXPECT_EQ(expected, row("6(1)", 1));
     const QStringList blank = {
-        QStringLiteral("Interpreter"), QString(),           QStringLiteral("N"), QStringLiteral(" "),
-        QStringLiteral(" "),           QStringLiteral(" "), QStringLiteral(" "), QStringLiteral(" "),
-        QStringLiteral(" "),           QStringLiteral(" "), QStringLiteral(" "), QStringLiteral(" "),
+        QStringLiteral("Interpreter"),
+        QString(),
+        QStringLiteral("N"),
+        QStringLiteral(" "),
+        QStringLiteral(" "),
+        QStringLiteral(" "),
+        QStringLiteral(" "),
+        QStringLiteral(" "),
+        QStringLiteral(" "),
+        QStringLiteral(" "),
+        QStringLiteral(" "),
+        QStringLiteral(" "),
     };
     EXPECT_EQ(blank, row("6(1)", 2)) << "a net amount and a total of nothing print nothing";
     EXPECT_EQ(QStringLiteral("1,000.10"), value("6(1)", "{exnet}"));
@@ -363,13 +378,34 @@ TEST_F(Claim1Pages, LettersAndCallsOfTwoGroups)
         const char *placeholder;
         const char *text;
     } expected[] = {
-        {"{loir1}", "8.00"},   {"{lo1}", "30"},  {"{loenh1}", " "},      {"{lototal1}", "240.00"},
-        {"{loir2}", "12.00"},  {"{lo2}", "7"},   {"{loenh2}", "42.00"},  {"{lototal2}", "126.00"},
-        {"{liir1}", "2.00"},   {"{li1}", "20"},  {"{lienh1}", " "},      {"{litotal1}", "40.00"},
-        {"{liir2}", "3.00"},   {"{li2}", "6"},   {"{lienh2}", "9.00"},   {"{litotal2}", "27.00"},
-        {"{tcir1}", "4.00"},   {"{tc1}", "10"},  {"{tcenh1}", " "},      {"{tctotal1}", "40.00"},
-        {"{tcir2}", "6.00"},   {"{tc2}", "5"},   {"{tcenh2}", "15.00"},  {"{tctotal2}", "45.00"},
-        {"{cmtotal}", "518.00"}, {"{npc}", "518.00"}, {"{ntotal}", "518.00"}, {"{vpc}", " "},
+        {"{loir1}", "8.00"},
+        {"{lo1}", "30"},
+        {"{loenh1}", " "},
+        {"{lototal1}", "240.00"},
+        {"{loir2}", "12.00"},
+        {"{lo2}", "7"},
+        {"{loenh2}", "42.00"},
+        {"{lototal2}", "126.00"},
+        {"{liir1}", "2.00"},
+        {"{li1}", "20"},
+        {"{lienh1}", " "},
+        {"{litotal1}", "40.00"},
+        {"{liir2}", "3.00"},
+        {"{li2}", "6"},
+        {"{lienh2}", "9.00"},
+        {"{litotal2}", "27.00"},
+        {"{tcir1}", "4.00"},
+        {"{tc1}", "10"},
+        {"{tcenh1}", " "},
+        {"{tctotal1}", "40.00"},
+        {"{tcir2}", "6.00"},
+        {"{tc2}", "5"},
+        {"{tcenh2}", "15.00"},
+        {"{tctotal2}", "45.00"},
+        {"{cmtotal}", "518.00"},
+        {"{npc}", "518.00"},
+        {"{ntotal}", "518.00"},
+        {"{vpc}", " "},
     };
     for (const auto &row : expected)
         EXPECT_EQ(QString::fromLatin1(row.text), value("8(1)", row.placeholder)) << row.placeholder;

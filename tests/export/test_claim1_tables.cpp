@@ -2,6 +2,9 @@
 #include "tests/export/mdDocumentText.h"
 #include "wordexport/clsMSWord.h"
 
+// clang-format off
+// These are tables, to be read row for row.
+
 // The pages of Claim 1 as tables: which placeholder shows which property, in what order and class, and whether the real
 // templates hold exactly what the export fills in.
 

@@ -24,18 +24,18 @@ void PrintTo(const LongField &field, std::ostream *out)
 }
 
 const LongField LongFields[] = {
-    {2, "{explanation}", [](clsZR3Form &form, const QString &text) { form.LateSubmission.Explanation = text; }, 400, 3000,
-     "Claim1 P2 Late Submission Cont"},
-    {3, "{detailsofcase}", [](clsZR3Form &form, const QString &text) { form.DetailsOfWork.DetailsOfCase = text; }, 770, 2750,
-     "Claim1 P3 Case Details Cont"},
+    {2, "{explanation}", [](clsZR3Form &form, const QString &text) { form.LateSubmission.Explanation = text; }, 400,
+        3000, "Claim1 P2 Late Submission Cont"},
+    {3, "{detailsofcase}", [](clsZR3Form &form, const QString &text) { form.DetailsOfWork.DetailsOfCase = text; }, 770,
+        2750, "Claim1 P3 Case Details Cont"},
     {3, "{detailsofenhancement}",
-     [](clsZR3Form &form, const QString &text) { form.DetailsOfWork.DetailsOfEnhancement = text; }, 710, 2620,
-     "Claim1 P3 Enhancement Cont"},
+        [](clsZR3Form &form, const QString &text) { form.DetailsOfWork.DetailsOfEnhancement = text; }, 710, 2620,
+        "Claim1 P3 Enhancement Cont"},
     {6, "{expertsmeetmojstandardreasons}",
-     [](clsZR3Form &form, const QString &text) { form.ExpertsMeetMOJStandardReasons = text; }, 100, 2750,
-     "Claim1 P6 Expert Dibs Standards Cont",
-     // This page is marked by its notes and again after its grid, both of which come before the text.
-     " | ", " | "},
+        [](clsZR3Form &form, const QString &text) { form.ExpertsMeetMOJStandardReasons = text; }, 100, 2750,
+        "Claim1 P6 Expert Dibs Standards Cont",
+        // This page is marked by its notes and again after its grid, both of which come before the text.
+        " | ", " | "},
 };
 
 class Continuation : public clsExportTest {
@@ -157,7 +157,7 @@ TEST_F(Continuation, TheSecondLongTextOfAPageRefersToItsOwnFirstSheet)
     form.DetailsOfWork.DetailsOfEnhancement = words(711);
     ASSERT_TRUE(exportClaim());
     const QStringList order = {QStringLiteral("1(1)"), QStringLiteral("3(1)"), QStringLiteral("3(2)"),
-                               QStringLiteral("3(3)"), QStringLiteral("3(4)")};
+        QStringLiteral("3(3)"), QStringLiteral("3(4)")};
     EXPECT_EQ(order, recorder->order());
     EXPECT_EQ(QStringList {QStringLiteral("See Page 3 (2)")}, on(sheet(3, 1), "{detailsofcase}"));
     EXPECT_EQ(QStringList {QStringLiteral("See Page 3 (4)")}, on(sheet(3, 1), "{detailsofenhancement}"));
@@ -177,7 +177,7 @@ TEST_F(Continuation, ThePanelSheetHoldsFixedTextAndNothingRefersToIt)
     const QStringList panel = {QStringLiteral("open"), QStringLiteral("replace {or} (2)")};
     EXPECT_EQ(panel, recorder->linesOf(sheet(3, 2)));
     const QStringList page = {QStringLiteral("open"), QStringLiteral("replace {detailsofcase} Short"),
-                              QStringLiteral("replace {detailsofenhancement}  "), QStringLiteral("replace {or} (1)")};
+        QStringLiteral("replace {detailsofenhancement}  "), QStringLiteral("replace {or} (1)")};
     EXPECT_EQ(page, recorder->linesOf(sheet(3, 1)));
 }
 
@@ -196,9 +196,9 @@ TEST_F(Continuation, SheetsFollowTheirPageInTheOrderInWhichTheyWereMade)
     form.DetailsOfWork.DetailsOfEnhancement = words(4000);
     form.IncludePanelMembershipContSheet = true;
     ASSERT_TRUE(exportClaim());
-    const QStringList order = {QStringLiteral("1(1)"), QStringLiteral("3(1)"), QStringLiteral("3(2)"),
-                               QStringLiteral("3(3)"), QStringLiteral("3(4)"), QStringLiteral("3(5)"),
-                               QStringLiteral("3(6)"), QStringLiteral("4(1)")};
+    const QStringList order
+        = {QStringLiteral("1(1)"), QStringLiteral("3(1)"), QStringLiteral("3(2)"), QStringLiteral("3(3)"),
+            QStringLiteral("3(4)"), QStringLiteral("3(5)"), QStringLiteral("3(6)"), QStringLiteral("4(1)")};
     EXPECT_EQ(order, recorder->order());
     const QStringList templatesInOrder = {
         QStringLiteral("Claim1 P1"),

@@ -34,8 +34,16 @@ protected:
 };
 
 const QStringList FirstSheets = {
-    QStringLiteral("1(1)"), QStringLiteral("2(1)"), QStringLiteral("3(1)"), QStringLiteral("4(1)"), QStringLiteral("5(1)"),
-    QStringLiteral("6(1)"), QStringLiteral("7(1)"), QStringLiteral("8(1)"), QStringLiteral("9(1)"), QStringLiteral("10(1)"),
+    QStringLiteral("1(1)"),
+    QStringLiteral("2(1)"),
+    QStringLiteral("3(1)"),
+    QStringLiteral("4(1)"),
+    QStringLiteral("5(1)"),
+    QStringLiteral("6(1)"),
+    QStringLiteral("7(1)"),
+    QStringLiteral("8(1)"),
+    QStringLiteral("9(1)"),
+    QStringLiteral("10(1)"),
 };
 
 TEST_F(Driver, AnEmptyClaimGivesOneSheetForEachPage)
@@ -86,12 +94,18 @@ TEST_F(Driver, ProgressCountsToElevenWhetherOrNotAPageIsIncluded)
     addItem(QStringLiteral("Not printed: its pages are left out"));
     EXPECT_TRUE(exportClaim());
     const QStringList expected = {
-        QStringLiteral("Exporting Page 1 1/11"), QStringLiteral("Exporting Page 2 2/11"),
-        QStringLiteral("Exporting Page 3 3/11"), QStringLiteral("Exporting Page 4 4/11"),
-        QStringLiteral("Exporting Page 4 1/2"),  QStringLiteral("Exporting Page 4 2/2"),
-        QStringLiteral("Exporting Page 5 5/11"), QStringLiteral("Exporting Page 6 6/11"),
-        QStringLiteral("Exporting Page 7 7/11"), QStringLiteral("Exporting Page 8 8/11"),
-        QStringLiteral("Exporting Page 9 9/11"), QStringLiteral("Exporting Page 10 10/11"),
+        QStringLiteral("Exporting Page 1 1/11"),
+        QStringLiteral("Exporting Page 2 2/11"),
+        QStringLiteral("Exporting Page 3 3/11"),
+        QStringLiteral("Exporting Page 4 4/11"),
+        QStringLiteral("Exporting Page 4 1/2"),
+        QStringLiteral("Exporting Page 4 2/2"),
+        QStringLiteral("Exporting Page 5 5/11"),
+        QStringLiteral("Exporting Page 6 6/11"),
+        QStringLiteral("Exporting Page 7 7/11"),
+        QStringLiteral("Exporting Page 8 8/11"),
+        QStringLiteral("Exporting Page 9 9/11"),
+        QStringLiteral("Exporting Page 10 10/11"),
         QStringLiteral("Combining Documents 2/2"),
     };
     EXPECT_EQ(expected, steps());
@@ -202,7 +216,7 @@ TEST_F(Driver, OnlyTheFinishedDocumentIsLeft)
 {
     EXPECT_TRUE(exportClaim());
     EXPECT_EQ(QStringList {QStringLiteral("Claim1.doc")},
-              QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+        QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
 }
 
 TEST_F(Driver, AnOlderDocumentIsReplaced)
@@ -342,18 +356,19 @@ TEST_F(Driver, AFailureOnAPageIsToldOnceAndTheExportGoesOn)
 
     ASSERT_EQ(2u, user.messages.size()) << "one for each page's word processor";
     EXPECT_EQ(QStringLiteral("Word Automation Error"), user.messages[0].title);
-    EXPECT_EQ(QStringLiteral("An error has occured during Word automation. If the problem persists please contact Velmor "
-                             "technical support via stating the following details:\r\n"
-                             "\r\n"
-                             "Error Number: 13\r\n"
-                             "Error Description: Type mismatch\r\n"
-                             "Subroutine: SetText"),
-              user.messages[0].text);
+    EXPECT_EQ(
+        QStringLiteral("An error has occured during Word automation. If the problem persists please contact Velmor "
+                       "technical support via stating the following details:\r\n"
+                       "\r\n"
+                       "Error Number: 13\r\n"
+                       "Error Description: Type mismatch\r\n"
+                       "Subroutine: SetText"),
+        user.messages[0].text);
     EXPECT_EQ(clsUserInterface::OKOnly, user.messages[0].buttons);
     EXPECT_EQ(0, user.messages[0].icon);
     // The placeholders stay in the document; all others are gone.
-    const QStringList left = {QStringLiteral("{totalcostsincurred}"), QStringLiteral("{precertcosts}"),
-                              QStringLiteral("{interest}")};
+    const QStringList left
+        = {QStringLiteral("{totalcostsincurred}"), QStringLiteral("{precertcosts}"), QStringLiteral("{interest}")};
     EXPECT_EQ(left, mdPlaceholdersIn(finished()));
 }
 
@@ -362,8 +377,7 @@ class clsSheetThief : public clsMSWordObserver {
 public:
     explicit clsSheetThief(const QString &sheet)
         : m_sheet(sheet)
-    {
-    }
+    { }
     void opened(const QString &path) override
     {
         if (path.endsWith(QLatin1String("Joined.doc")))

@@ -19,26 +19,27 @@ QStringList listOf(std::initializer_list<const char *> texts)
 
 TEST(Outcomes, StageOfCaseEnd)
 {
-    EXPECT_EQ(listOf({
-                  " No Selection",
-                  "A) No proceedings issued",
-                  "B) Proceedings issued, no final hearing",
-                  "C) Determined at final hearing",
-                  "D) Determined on appeal",
-                  "E1) No proceedings issued",
-                  "E2) Proceedings issued, case concluded before decision on whether or not to grant permission is made",
-                  "F1) Permission refused, concluded at first application stage (usually papers)",
-                  "F2) Permission refused, concluded at a rolled - up hearing",
-                  "G) Permission not granted, concluded after renewed application",
-                  "H) Permission granted, no final hearing took place",
-                  "I1) Permission granted, no final hearing took place",
-                  "I2) Permission granted, determined at a rolled up hearing",
-                  "J) Permission granted, determined on appeal",
-                  "K) Interim bill fixed fee cases only - change of solicitor",
-                  "L) Interim bill fixed fee cases only - Aspect concluded",
-                  "M) Interim Bill VHCC - Stage concluded",
-              }),
-              StageOfCaseEndCollection());
+    EXPECT_EQ(
+        listOf({
+            " No Selection",
+            "A) No proceedings issued",
+            "B) Proceedings issued, no final hearing",
+            "C) Determined at final hearing",
+            "D) Determined on appeal",
+            "E1) No proceedings issued",
+            "E2) Proceedings issued, case concluded before decision on whether or not to grant permission is made",
+            "F1) Permission refused, concluded at first application stage (usually papers)",
+            "F2) Permission refused, concluded at a rolled - up hearing",
+            "G) Permission not granted, concluded after renewed application",
+            "H) Permission granted, no final hearing took place",
+            "I1) Permission granted, no final hearing took place",
+            "I2) Permission granted, determined at a rolled up hearing",
+            "J) Permission granted, determined on appeal",
+            "K) Interim bill fixed fee cases only - change of solicitor",
+            "L) Interim bill fixed fee cases only - Aspect concluded",
+            "M) Interim Bill VHCC - Stage concluded",
+        }),
+        StageOfCaseEndCollection());
 }
 
 TEST(Outcomes, HowDidCaseEnd)
@@ -55,7 +56,7 @@ TEST(Outcomes, HowDidCaseEnd)
                   "H) Interim bill fixed fee cases only - Aspect concluded",
                   "I) Interim Bill VHCC - Stage concluded",
               }),
-              HowDidCaseEndCollection());
+        HowDidCaseEndCollection());
 }
 
 TEST(Outcomes, Result)
@@ -81,7 +82,7 @@ TEST(Outcomes, Result)
                   "Q) Outcome not known/client proceeding by other means",
                   "R) None of the above apply (i.e. concluded with no favourable order or settlement)",
               }),
-              ResultCollection());
+        ResultCollection());
 }
 
 TEST(Outcomes, ADRProposed)
@@ -99,7 +100,7 @@ TEST(Outcomes, ADRProposed)
                   "I) ADR led to a significant narrowing of the issues or earlier settlement",
                   "J) Case continued and was not significantly assisted by ADR",
               }),
-              ADRProposedCollection());
+        ADRProposedCollection());
 }
 
 TEST(Outcomes, PublicBenefitsAchievedWithTheBlankAtItsEnd)
@@ -109,7 +110,7 @@ TEST(Outcomes, PublicBenefitsAchievedWithTheBlankAtItsEnd)
                   "P) The case achieved significant benefits for individuals other than the client ",
                   "N) No such wider public benefits achieved",
               }),
-              PublicBenefitsAchievedCollection());
+        PublicBenefitsAchievedCollection());
 }
 
 TEST(Outcomes, AsManyRowsAsTheFormsHave)
@@ -154,9 +155,7 @@ TEST(SplitLineIntoCollection, TestsBeforeTheWord)
 {
     // A line is as long as its words with a blank before each, so that the width counts one blank more than is seen.
     const CutRow rows[] = {
-        {"", 60, {""}},
-        {"one", 60, {"one"}},
-        {"ab cd", 6, {"ab cd"}}, // 2 + 3 + 1 is 6: not greater
+        {"", 60, {""}}, {"one", 60, {"one"}}, {"ab cd", 6, {"ab cd"}}, // 2 + 3 + 1 is 6: not greater
         {"ab cd", 5, {"ab", "cd"}},
         {"abcdef gh", 5, {"", "abcdef", "gh"}}, // a first word that is too long leaves an empty line before it
         {"abcd", 5, {"abcd"}}, // 4 + 0 + 1 is 5
@@ -178,14 +177,11 @@ TEST(CutIntoPieces, TestsAfterTheWord)
 {
     // A piece grows by a word and a blank; when it is longer than the cut length, it ends there.
     const CutRow rows[] = {
-        {"", 5, {""}},
-        {"ab", 5, {"ab"}},
-        {"ab cd", 6, {"ab cd"}}, // 6 is not greater than 6
+        {"", 5, {""}}, {"ab", 5, {"ab"}}, {"ab cd", 6, {"ab cd"}}, // 6 is not greater than 6
         {"ab cd", 5, {"ab cd", ""}}, // the last word tips the line: an empty last piece, and so a further sheet
         {"ab cd ef", 5, {"ab cd", "ef"}}, // the piece overruns by the word that tipped it
         {"abcdefgh", 5, {"abcdefgh", ""}}, // without a blank, one piece of the whole length, and it tips the line
-        {"abcde", 5, {"abcde", ""}},
-        {"abcd", 5, {"abcd"}}, // 4 and a blank
+        {"abcde", 5, {"abcde", ""}}, {"abcd", 5, {"abcd"}}, // 4 and a blank
         {"ab   cd", 9, {"ab   cd"}}, // runs of blanks survive inside a piece
         {"ab   cd", 4, {"ab", "cd"}}, // and vanish at its ends
         {"ab\r\ncd ef", 20, {"ab\r\ncd ef"}},

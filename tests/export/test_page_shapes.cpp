@@ -8,10 +8,7 @@ const QString Mark = QStringLiteral("{or}");
 
 class PageShapes : public clsExportTest {
 protected:
-    QString mark(const char *name) const
-    {
-        return recorder->replacements(QString::fromLatin1(name), Mark).join(u'|');
-    }
+    QString mark(const char *name) const { return recorder->replacements(QString::fromLatin1(name), Mark).join(u'|'); }
     QStringList lines(const char *name) const { return recorder->linesOf(QString::fromLatin1(name)); }
     QString value(const char *name, const char *placeholder) const
     {
@@ -89,35 +86,35 @@ struct GridRow {
 
 const GridRow GridRows[] = {
     {"counsel", 4,
-     [](clsZR3Form &form, int count) {
-         const auto counsel = form.AddCounsel();
-         for (int i = 0; i < count; ++i) {
-             const auto fee = form.AddDisbursement();
-             fee->Counsel = true;
-             fee->CounselUniqueID = counsel->UniqueID();
-         }
-         form.SeparateCounselAndNonCounselDisbursements();
-     },
-     4, 32, 38, 9, 3, "Claim1 P4 Counsels Fees Cont"},
+        [](clsZR3Form &form, int count) {
+            const auto counsel = form.AddCounsel();
+            for (int i = 0; i < count; ++i) {
+                const auto fee = form.AddDisbursement();
+                fee->Counsel = true;
+                fee->CounselUniqueID = counsel->UniqueID();
+            }
+            form.SeparateCounselAndNonCounselDisbursements();
+        },
+        4, 32, 38, 9, 3, "Claim1 P4 Counsels Fees Cont"},
     {"experts", 6,
-     [](clsZR3Form &form, int count) {
-         for (int i = 0; i < count; ++i)
-             form.AddExpertInvoice();
-     },
-     12, 11, 32, 20, 4, "Claim1 P6 Expert Dibs Cont"},
+        [](clsZR3Form &form, int count) {
+            for (int i = 0; i < count; ++i)
+                form.AddExpertInvoice();
+        },
+        12, 11, 32, 20, 4, "Claim1 P6 Expert Dibs Cont"},
     {"joint", 7,
-     [](clsZR3Form &form, int count) {
-         for (int i = 0; i < count; ++i)
-             form.AddJointInstruction();
-     },
-     5, 14, 30, 6, 5, "Claim1 P7 Expert Dibs Joint Instruction Cont"},
+        [](clsZR3Form &form, int count) {
+            for (int i = 0; i < count; ++i)
+                form.AddJointInstruction();
+        },
+        5, 14, 30, 6, 5, "Claim1 P7 Expert Dibs Joint Instruction Cont"},
     {"other", 7,
-     [](clsZR3Form &form, int count) {
-         for (int i = 0; i < count; ++i)
-             form.AddDisbursement();
-         form.SeparateCounselAndNonCounselDisbursements();
-     },
-     4, 12, 32, 25, 3, "Claim1 P7 Other Dibs Cont"},
+        [](clsZR3Form &form, int count) {
+            for (int i = 0; i < count; ++i)
+                form.AddDisbursement();
+            form.SeparateCounselAndNonCounselDisbursements();
+        },
+        4, 12, 32, 25, 3, "Claim1 P7 Other Dibs Cont"},
 };
 
 class EachGrid : public PageShapes, public testing::WithParamInterface<GridRow> {
@@ -155,7 +152,8 @@ TEST_P(EachGrid, OneMoreRowGoesToAFurtherSheetAtItsOwnOffset)
     EXPECT_EQ(3, run->ExportFileCollection.size());
     EXPECT_EQ(GetParam().firstCapacity, rowCount(sheet(1)));
     EXPECT_EQ(1, rowCount(sheet(2)));
-    EXPECT_EQ(QString::fromLatin1(GetParam().continuationTemplate), recorder->templateOf(QString::fromLatin1(sheet(2))));
+    EXPECT_EQ(
+        QString::fromLatin1(GetParam().continuationTemplate), recorder->templateOf(QString::fromLatin1(sheet(2))));
     EXPECT_EQ(QStringList {QStringLiteral("down %1").arg(GetParam().furtherOffset)}, moves(2));
     EXPECT_EQ(QStringLiteral("(2)"), mark(sheet(2)));
     EXPECT_EQ(GetParam().cells, row(sheet(2), 1).size());
@@ -187,8 +185,8 @@ TEST_P(EachGrid, WithoutItemsTypesNothing)
     EXPECT_EQ(0, rowCount(sheet(1)));
 }
 
-INSTANTIATE_TEST_SUITE_P(, EachGrid, testing::ValuesIn(GridRows),
-                         [](const auto &grid) { return std::string(grid.param.name); });
+INSTANTIATE_TEST_SUITE_P(
+    , EachGrid, testing::ValuesIn(GridRows), [](const auto &grid) { return std::string(grid.param.name); });
 
 TEST_F(PageShapes, AGridsCellsAreTypedFromLeftToRightAndNeverBold)
 {
@@ -250,7 +248,7 @@ TEST_F(PageShapes, AnAmountThatIsNoNumberTypesNothingAndTheCursorMovesOn)
     EXPECT_EQ(clsRunTimeError::TypeMismatch, errorOf([&] { exportClaim(); }));
     ASSERT_FALSE(user.messages.empty());
     EXPECT_EQ(QStringLiteral("failed cell twenty per cent"),
-              recorder->linesOf(QStringLiteral("7(1)")).filter(QStringLiteral("failed")).join(u'|'));
+        recorder->linesOf(QStringLiteral("7(1)")).filter(QStringLiteral("failed")).join(u'|'));
 }
 
 // The schedule of time
@@ -261,22 +259,37 @@ TEST_F(PageShapes, ARowOfTheSchedule)
     addItem()->Code = QStringLiteral("AOT");
     ASSERT_TRUE(exportClaim());
     const QStringList expected = {
-        QStringLiteral("open"),         QStringLiteral("down 5"),
-        QStringLiteral("cell 1"),       QStringLiteral("right 1"),
-        QStringLiteral("cell AB"),      QStringLiteral("right 1"),
-        QStringLiteral("cell 03/02/26"), QStringLiteral("right 1"),
-        QStringLiteral("cell AOT"),     QStringLiteral("right 1"),
-        QStringLiteral("cell 01:30"),   QStringLiteral("right 5"),
-        QStringLiteral("cell 60.00"),   QStringLiteral("right 1"),
-        QStringLiteral("cell 90.00"),   QStringLiteral("right 1"),
-        QStringLiteral("cell  "),       QStringLiteral("right 1"),
+        QStringLiteral("open"),
+        QStringLiteral("down 5"),
+        QStringLiteral("cell 1"),
+        QStringLiteral("right 1"),
+        QStringLiteral("cell AB"),
+        QStringLiteral("right 1"),
+        QStringLiteral("cell 03/02/26"),
+        QStringLiteral("right 1"),
+        QStringLiteral("cell AOT"),
+        QStringLiteral("right 1"),
+        QStringLiteral("cell 01:30"),
+        QStringLiteral("right 5"),
+        QStringLiteral("cell 60.00"),
+        QStringLiteral("right 1"),
         QStringLiteral("cell 90.00"),
-        QStringLiteral("replace {actm} 01:30"), QStringLiteral("replace {dtm}  "),
-        QStringLiteral("replace {htm}  "),      QStringLiteral("replace {ttm}  "),
-        QStringLiteral("replace {wtm}  "),      QStringLiteral("replace {actl} 90.00"),
-        QStringLiteral("replace {dtl}  "),      QStringLiteral("replace {htl}  "),
-        QStringLiteral("replace {ttl}  "),      QStringLiteral("replace {wtl}  "),
-        QStringLiteral("replace {total} 90.00"), QStringLiteral("replace {or}  "),
+        QStringLiteral("right 1"),
+        QStringLiteral("cell  "),
+        QStringLiteral("right 1"),
+        QStringLiteral("cell 90.00"),
+        QStringLiteral("replace {actm} 01:30"),
+        QStringLiteral("replace {dtm}  "),
+        QStringLiteral("replace {htm}  "),
+        QStringLiteral("replace {ttm}  "),
+        QStringLiteral("replace {wtm}  "),
+        QStringLiteral("replace {actl} 90.00"),
+        QStringLiteral("replace {dtl}  "),
+        QStringLiteral("replace {htl}  "),
+        QStringLiteral("replace {ttl}  "),
+        QStringLiteral("replace {wtl}  "),
+        QStringLiteral("replace {total} 90.00"),
+        QStringLiteral("replace {or}  "),
     };
     EXPECT_EQ(expected, lines("5(1)"));
 }
@@ -295,8 +308,10 @@ TEST_F(PageShapes, TheTimeStandsInItsOwnColumnAndTheRateBeyondAllFive)
 {
     includeOnly({1, 5});
     const ColumnRow rows[] = {
-        {"AOT", false, false, 1, 5, "{actm}", "{actl}"}, {"DPL", false, false, 2, 4, "{dtm}", "{dtl}"},
-        {"HDI", false, false, 3, 3, "{htm}", "{htl}"},   {"AOT", true, false, 4, 2, "{ttm}", "{ttl}"},
+        {"AOT", false, false, 1, 5, "{actm}", "{actl}"},
+        {"DPL", false, false, 2, 4, "{dtm}", "{dtl}"},
+        {"HDI", false, false, 3, 3, "{htm}", "{htl}"},
+        {"AOT", true, false, 4, 2, "{ttm}", "{ttl}"},
         {"AOT", false, true, 5, 1, "{wtm}", "{wtl}"},
     };
     const auto item = addItem();
@@ -331,8 +346,8 @@ TEST_F(PageShapes, AScheduleOfNoItemsStillMakesOneSheetWithBlankTotals)
     ASSERT_TRUE(exportClaim());
     EXPECT_EQ(2, run->ExportFileCollection.size());
     QStringList expected = {QStringLiteral("open"), QStringLiteral("down 5")};
-    for (const char *placeholder : {"{actm}", "{dtm}", "{htm}", "{ttm}", "{wtm}", "{actl}", "{dtl}", "{htl}", "{ttl}",
-                                    "{wtl}", "{total}", "{or}"})
+    for (const char *placeholder :
+        {"{actm}", "{dtm}", "{htm}", "{ttm}", "{wtm}", "{actl}", "{dtl}", "{htl}", "{ttl}", "{wtl}", "{total}", "{or}"})
         expected << QStringLiteral("replace %1  ").arg(QString::fromLatin1(placeholder));
     EXPECT_EQ(expected, lines("5(1)"));
 }
@@ -364,8 +379,8 @@ TEST_F(PageShapes, AScheduleOf34ItemsMakesTwoSheetsAndTheTotalsAreOnTheLast)
     EXPECT_EQ(1, rowCount("5(2)"));
     EXPECT_EQ(QStringLiteral("34"), row("5(2)", 1).value(0));
     EXPECT_EQ(QStringLiteral("down 5"), lines("5(2)").value(1));
-    for (const char *placeholder : {"{actm}", "{dtm}", "{htm}", "{ttm}", "{wtm}", "{actl}", "{dtl}", "{htl}", "{ttl}",
-                                    "{wtl}", "{total}"})
+    for (const char *placeholder :
+        {"{actm}", "{dtm}", "{htm}", "{ttm}", "{wtm}", "{actl}", "{dtl}", "{htl}", "{ttl}", "{wtl}", "{total}"})
         EXPECT_EQ(QStringLiteral(" "), value("5(1)", placeholder)) << placeholder;
     EXPECT_EQ(QStringLiteral("51:00"), value("5(2)", "{dtm}"));
     EXPECT_EQ(QStringLiteral("3,060.00"), value("5(2)", "{dtl}"));
@@ -400,10 +415,7 @@ protected:
     QStringList order() const { return recorder->order().mid(1); }
     QString firstDown(const char *name) const { return lines(name).filter(QStringLiteral("down")).value(0); }
     QString secondDown(const char *name) const { return lines(name).filter(QStringLiteral("down")).value(1); }
-    int notesOn(const char *name) const
-    {
-        return int(lines(name).filter(QStringLiteral("\u2014")).size());
-    }
+    int notesOn(const char *name) const { return int(lines(name).filter(QStringLiteral("\u2014")).size()); }
 };
 
 TEST_F(AdditionalInformation, ANoteAsItIsTyped)
@@ -526,7 +538,7 @@ TEST_F(AdditionalInformation, FortyNineLinesNeverFitAndNothingIsWritten)
     EXPECT_EQ(QStringLiteral("Additional Information"), user.messages[0].title);
     EXPECT_EQ(QStringLiteral("Item 3 has a description of 49 lines. The additional information sheets hold at most 48 "
                              "lines for one item. Please shorten the description and try again."),
-              user.messages[0].text);
+        user.messages[0].text);
     EXPECT_EQ(clsUserInterface::OKOnly, user.messages[0].buttons);
     EXPECT_FALSE(user.messages[0].system);
     EXPECT_EQ(QByteArray("as it was"), bytesOf(finished()));

@@ -33,7 +33,7 @@ TEST_P(Reproducible, GivesTheSameBytesInAnotherCountryAndTimeZone)
     };
     QByteArray first;
     for (const Place &place : {Place {"Europe/London", "en_GB.UTF-8"}, Place {"Pacific/Auckland", "de_DE.UTF-8"},
-                               Place {"America/St_Johns", "tr_TR.UTF-8"}, Place {"UTC", "C"}}) {
+             Place {"America/St_Johns", "tr_TR.UTF-8"}, Place {"UTC", "C"}}) {
         const QString target = path(QString::fromLatin1(place.locale));
         ASSERT_TRUE(QDir().mkpath(target));
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -42,8 +42,9 @@ TEST_P(Reproducible, GivesTheSameBytesInAnotherCountryAndTimeZone)
         environment.insert(QStringLiteral("LANG"), QString::fromLatin1(place.locale));
         QProcess tool;
         tool.setProcessEnvironment(environment);
-        tool.start(QStringLiteral(ZR3_TOOL), {QStringLiteral("export"), mdSamplePath(GetParam()), target,
-                                              QStringLiteral("--templates"), TestTemplates, QStringLiteral("--quiet")});
+        tool.start(QStringLiteral(ZR3_TOOL),
+            {QStringLiteral("export"), mdSamplePath(GetParam()), target, QStringLiteral("--templates"), TestTemplates,
+                QStringLiteral("--quiet")});
         ASSERT_TRUE(tool.waitForFinished()) << qPrintable(tool.errorString());
         ASSERT_EQ(0, tool.exitCode()) << tool.readAllStandardError().constData();
         const QByteArray bytes = bytesOf(target + QStringLiteral("/Claim1.doc"));
@@ -55,8 +56,8 @@ TEST_P(Reproducible, GivesTheSameBytesInAnotherCountryAndTimeZone)
 }
 
 INSTANTIATE_TEST_SUITE_P(, Reproducible,
-                         testing::Values(QStringLiteral("many-sheets.zr3"), QStringLiteral("odd-characters.zr3"),
-                                         QStringLiteral("empty.zr3")),
-                         [](const auto &sample) { return sample.param.section(u'.', 0, 0).replace(u'-', u'_').toStdString(); });
+    testing::Values(
+        QStringLiteral("many-sheets.zr3"), QStringLiteral("odd-characters.zr3"), QStringLiteral("empty.zr3")),
+    [](const auto &sample) { return sample.param.section(u'.', 0, 0).replace(u'-', u'_').toStdString(); });
 
 } // namespace

@@ -9,14 +9,23 @@ namespace {
 /// The samples of the form types that have an exporter. A form type that gets one must have its samples added.
 const QStringList ExportedFormTypes = {QStringLiteral("Claim1")};
 const QStringList Claim1Samples = {
-    QStringLiteral("at-the-limit"),    QStringLiteral("carried-counter"), QStringLiteral("empty"),
-    QStringLiteral("exactly-full"),    QStringLiteral("housing-typical"), QStringLiteral("joint-only"),
-    QStringLiteral("many-sheets"),     QStringLiteral("odd-characters"),  QStringLiteral("older-file"),
+    QStringLiteral("at-the-limit"),
+    QStringLiteral("carried-counter"),
+    QStringLiteral("empty"),
+    QStringLiteral("exactly-full"),
+    QStringLiteral("housing-typical"),
+    QStringLiteral("joint-only"),
+    QStringLiteral("many-sheets"),
+    QStringLiteral("odd-characters"),
+    QStringLiteral("older-file"),
     QStringLiteral("second-grid-twice"),
 };
 const QStringList NotYetPrinted = {
-    QStringLiteral("advocacy-only"), QStringLiteral("at-the-limit-1a"), QStringLiteral("care-typical"),
-    QStringLiteral("empty-1a"),      QStringLiteral("many-sheets-1a"),
+    QStringLiteral("advocacy-only"),
+    QStringLiteral("at-the-limit-1a"),
+    QStringLiteral("care-typical"),
+    QStringLiteral("empty-1a"),
+    QStringLiteral("many-sheets-1a"),
 };
 
 QJsonObject expectedOf(const QString &sample)
@@ -56,7 +65,8 @@ QString differenceOf(const QJsonObject &expected, const QJsonObject &actual)
     if (expected[QLatin1String("FormType")] != actual[QLatin1String("FormType")])
         return QStringLiteral("FormType");
     for (const QString &list : {QStringLiteral("Order"), QStringLiteral("CombinedOrder")})
-        if (const QString found = differenceOf(list, expected[list].toArray(), actual[list].toArray()); !found.isEmpty())
+        if (const QString found = differenceOf(list, expected[list].toArray(), actual[list].toArray());
+            !found.isEmpty())
             return found;
 
     QHash<QString, QJsonObject> byName;
@@ -71,7 +81,7 @@ QString differenceOf(const QJsonObject &expected, const QJsonObject &actual)
             return QStringLiteral("sheet %1: template %2 instead of %3")
                 .arg(name, inOneLine(found[QLatin1String("Template")]), inOneLine(sheet[QLatin1String("Template")]));
         const QString difference = differenceOf(QStringLiteral("sheet ") + name, sheet[QLatin1String("Ops")].toArray(),
-                                                found[QLatin1String("Ops")].toArray());
+            found[QLatin1String("Ops")].toArray());
         if (!difference.isEmpty())
             return difference;
     }
@@ -83,7 +93,8 @@ class Samples : public clsExportTest, public testing::WithParamInterface<QString
 TEST_P(Samples, SendWhatWasWorkedOutForThem)
 {
     const QJsonObject expected = expectedOf(GetParam());
-    ASSERT_FALSE(expected[QLatin1String("Sheets")].toArray().isEmpty()) << "no expectation for " << qPrintable(GetParam());
+    ASSERT_FALSE(expected[QLatin1String("Sheets")].toArray().isEmpty())
+        << "no expectation for " << qPrintable(GetParam());
     ASSERT_TRUE(form.LoadXML(mdSamplePath(GetParam() + QStringLiteral(".zr3"))));
     form.ExportPath = folder.path();
 
@@ -97,9 +108,8 @@ TEST_P(Samples, SendWhatWasWorkedOutForThem)
     EXPECT_FALSE(QFileInfo::exists(temporary()));
 }
 
-INSTANTIATE_TEST_SUITE_P(, Samples, testing::ValuesIn(Claim1Samples), [](const auto &sample) {
-    return QString(sample.param).replace(u'-', u'_').toStdString();
-});
+INSTANTIATE_TEST_SUITE_P(, Samples, testing::ValuesIn(Claim1Samples),
+    [](const auto &sample) { return QString(sample.param).replace(u'-', u'_').toStdString(); });
 
 TEST(SampleComparison, FindsADifferenceWhereverItIs)
 {
@@ -125,7 +135,8 @@ TEST(SampleComparison, FindsADifferenceWhereverItIs)
         else if (what == QByteArray("text"))
             op[2] = QStringLiteral("x");
         else if (what == QByteArray("flag"))
-            op[3] = QJsonObject {{QStringLiteral("tick"), false}, {QStringLiteral("bold"), QStringLiteral("from placeholder")}};
+            op[3] = QJsonObject {
+                {QStringLiteral("tick"), false}, {QStringLiteral("bold"), QStringLiteral("from placeholder")}};
         if (what == QByteArray("text") || what == QByteArray("flag"))
             ops[1] = op;
         sheet[QLatin1String("Ops")] = ops;

@@ -6,6 +6,9 @@
 #include <string>
 #include <vector>
 
+// clang-format off
+// These are tables, to be read row for row.
+
 // The file format, laid down a second time and by hand: whoever changes a template or a property must change it here
 // too, and so cannot do it unawares. Existing claims depend on every one of these names.
 

@@ -44,11 +44,8 @@ TEST(ScheduleForExport, WhatIsOnTheBillByFormTypeAndFlag)
         Numbers places;
     };
     const Row rows[] = {
-        {u"Claim1", false, {4, 3, 2, 1}},
-        {u"Claim1", true, {4, 3, 2, 1}},
-        {u"Claim1A", false, {4, 3, 2, 1}},
-        {u"Claim1A", true, {4, 2}},
-        {u"claim1", true, {4, 2}}, // the type is compared exactly
+        {u"Claim1", false, {4, 3, 2, 1}}, {u"Claim1", true, {4, 3, 2, 1}}, {u"Claim1A", false, {4, 3, 2, 1}},
+        {u"Claim1A", true, {4, 2}}, {u"claim1", true, {4, 2}}, // the type is compared exactly
     };
     for (const Row &row : rows) {
         clsZR3Form form;

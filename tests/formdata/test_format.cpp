@@ -88,8 +88,8 @@ TEST(Format, APropertyIsTheElementOfItsNameInLowerCaseAndOfItsKind)
             if (table == "scheduleoftimeitem" && element == "typeofcase")
                 continue;
             const std::vector<FormatRow> &elements = elementTables().at(table);
-            const auto found = std::find_if(elements.begin(), elements.end(),
-                                            [&](const FormatRow &row) { return row.name == element; });
+            const auto found = std::find_if(
+                elements.begin(), elements.end(), [&](const FormatRow &row) { return row.name == element; });
             ASSERT_NE(elements.end(), found) << table << ' ' << element;
             EXPECT_EQ(found->kind, property.kind) << table << ' ' << element;
         }
@@ -180,7 +180,7 @@ TEST(Format, ANewClaimHasEveryPropertyAtItsDefault)
                 const clsXMLField &field = *record.field(QString::fromLatin1(place.property->name));
                 if (row.kind == Text)
                     EXPECT_EQ(QString::fromStdString(row.initially).replace(QStringLiteral("%3A"), QStringLiteral(":")),
-                              field.readText())
+                        field.readText())
                         << table << ' ' << row.name;
                 else if (row.kind == Boolean)
                     EXPECT_EQ(row.initially == "True", field.readBoolean()) << table << ' ' << row.name;

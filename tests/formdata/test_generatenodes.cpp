@@ -27,36 +27,39 @@ TEST(GenerateNodes, ChangesNothingOnACompleteElement)
 TEST(GenerateNodes, GivesAnEmptyElementAllChildrenWithTheirDefaults)
 {
     EXPECT_EQ(QStringLiteral("<thing><one>1</one><two/><three><inner>3</inner></three><four>4</four></thing>"),
-              generated("<thing/>"));
+        generated("<thing/>"));
 }
 
 TEST(GenerateNodes, AppendsWhatIsMissingAtTheEndInTheTemplatesOrder)
 {
     EXPECT_EQ(QStringLiteral("<thing><three>x</three><one>1</one><two/><four>4</four></thing>"),
-              generated("<thing><three>x</three></thing>"));
+        generated("<thing><three>x</three></thing>"));
 }
 
 TEST(GenerateNodes, NeitherReordersNorRemovesNorConverts)
 {
-    const char *odd = "<thing><four>d</four><new>?</new><three>c</three><!--n--><two>b</two><one>a</one><one>aa</one></thing>";
+    const char *odd
+        = "<thing><four>d</four><new>?</new><three>c</three><!--n--><two>b</two><one>a</one><one>aa</one></thing>";
     EXPECT_EQ(QString::fromLatin1(odd), generated(odd));
 }
 
 TEST(GenerateNodes, FindsChildrenWhateverStandsBetweenThem)
 {
-    EXPECT_EQ(QStringLiteral("<thing><new/><one>a</one><new/><!--n--><four>d</four><two/><three><inner>3</inner></three></thing>"),
-              generated("<thing><new/><one>a</one><new/><!--n--><four>d</four></thing>"));
+    EXPECT_EQ(QStringLiteral(
+                  "<thing><new/><one>a</one><new/><!--n--><four>d</four><two/><three><inner>3</inner></three></thing>"),
+        generated("<thing><new/><one>a</one><new/><!--n--><four>d</four></thing>"));
 }
 
 TEST(GenerateNodes, WorksOneLevelDeep)
 {
-    EXPECT_EQ(QStringLiteral("<thing><three/><one>1</one><two/><four>4</four></thing>"), generated("<thing><three/></thing>"));
+    EXPECT_EQ(QStringLiteral("<thing><three/><one>1</one><two/><four>4</four></thing>"),
+        generated("<thing><three/></thing>"));
 }
 
 TEST(GenerateNodes, TellsUpperFromLowerCase)
 {
     EXPECT_EQ(QStringLiteral("<thing><ONE/><one>1</one><two/><three><inner>3</inner></three><four>4</four></thing>"),
-              generated("<thing><ONE/></thing>"));
+        generated("<thing><ONE/></thing>"));
 }
 
 TEST(GenerateNodes, LeavesNothingAndATemplateThatIsNoneAlone)

@@ -29,9 +29,8 @@ using Numbers = std::vector<int>;
 TEST(Lists, AreEmptyInANewClaim)
 {
     clsZR3Form form;
-    forEachList(form, [](const char *, const char *list, const auto &collection) {
-        EXPECT_TRUE(collection.empty()) << list;
-    });
+    forEachList(
+        form, [](const char *, const char *list, const auto &collection) { EXPECT_TRUE(collection.empty()) << list; });
     EXPECT_EQ("0", contentOf(form.XMLNode(), "idcounter"));
 }
 
@@ -45,7 +44,8 @@ TEST(Lists, AnAddedItemIsTheLastInPlaceAndOrderAndInTheFile)
             EXPECT_EQ(round, collection.back()->Index) << list;
             EXPECT_EQ(round, collection.back()->OrderID()) << list;
             EXPECT_EQ(collection.back()->XMLNode(), form.XMLNode().child(list).last_child()) << list;
-            EXPECT_EQ(QStringList(QList<QString>(round, QString::fromLatin1(item))), childNames(form.XMLNode().child(list)));
+            EXPECT_EQ(
+                QStringList(QList<QString>(round, QString::fromLatin1(item))), childNames(form.XMLNode().child(list)));
         });
     }
 }
@@ -57,7 +57,7 @@ TEST(Lists, AnItemsOutputIsItsElement)
     counsel->Name = QStringLiteral("A & B");
     EXPECT_EQ(QStringLiteral("<counsel><orderid>1</orderid><uniqueid>ID1</uniqueid><name>A+%26+B</name>"
                              "<accountnumber/><vat>False</vat></counsel>"),
-              counsel->XMLOutput());
+        counsel->XMLOutput());
     EXPECT_TRUE(form.XMLOutput().contains(counsel->XMLOutput()));
 }
 

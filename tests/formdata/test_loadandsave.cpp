@@ -20,9 +20,10 @@ protected:
         ASSERT_FALSE(user.messages.empty());
         const auto &told = user.messages.back();
         EXPECT_EQ(QStringLiteral("Error"), told.title);
-        EXPECT_EQ(QStringLiteral("There was a problem opening the selected file. Please ensure that the file is a valid ZR3 "
-                                 "file and try again"),
-                  told.text);
+        EXPECT_EQ(
+            QStringLiteral("There was a problem opening the selected file. Please ensure that the file is a valid ZR3 "
+                           "file and try again"),
+            told.text);
         EXPECT_EQ(clsUserInterface::OKOnly, told.buttons);
         EXPECT_FALSE(told.system);
     }
@@ -171,15 +172,16 @@ TEST_F(LoadAndSave, AMissingListIsAddedEmptyAtTheEndOfTheRoot)
 TEST_F(LoadAndSave, SectionsAndItemsGainWhatTheyLackAtTheirEnd)
 {
     clsZR3Form loaded;
-    ASSERT_TRUE(loaded.LoadXML(
-        put("old.zr3", "<vzrform><latesubmission><explanation>too+late</explanation></latesubmission>"
-                       "<counsel><counsel><name>A+B</name><orderid>1</orderid></counsel></counsel></vzrform>")));
+    ASSERT_TRUE(loaded.LoadXML(put("old.zr3",
+        "<vzrform><latesubmission><explanation>too+late</explanation></latesubmission>"
+        "<counsel><counsel><name>A+B</name><orderid>1</orderid></counsel></counsel></vzrform>")));
     EXPECT_EQ(QStringLiteral("<latesubmission><explanation>too+late</explanation><ddate/></latesubmission>"),
-              loaded.LateSubmission.XMLOutput());
-    EXPECT_EQ(QStringLiteral("<counsel><name>A+B</name><orderid>1</orderid><uniqueid/><accountnumber/><vat>False</vat></counsel>"),
-              loaded.Counsel(1)->XMLOutput());
+        loaded.LateSubmission.XMLOutput());
+    EXPECT_EQ(QStringLiteral(
+                  "<counsel><name>A+B</name><orderid>1</orderid><uniqueid/><accountnumber/><vat>False</vat></counsel>"),
+        loaded.Counsel(1)->XMLOutput());
     EXPECT_EQ(QStringList({QStringLiteral("latesubmission"), QStringLiteral("counsel"), QStringLiteral("path")}),
-              childNames(loaded.XMLNode()).mid(0, 3));
+        childNames(loaded.XMLNode()).mid(0, 3));
 }
 
 TEST_F(LoadAndSave, EachItemClassGainsItsDefaults)
@@ -197,8 +199,8 @@ TEST_F(LoadAndSave, EachItemClassGainsItsDefaults)
     };
     for (const auto &[list, item] : lists) {
         clsZR3Form loaded;
-        const QByteArray text = QByteArray("<vzrform><") + list + "><" + item + "><orderid>1</orderid></" + item + "></" + list
-            + "></vzrform>";
+        const QByteArray text = QByteArray("<vzrform><") + list + "><" + item + "><orderid>1</orderid></" + item + "></"
+            + list + "></vzrform>";
         ASSERT_TRUE(loaded.LoadXML(put("old.zr3", text)));
         const pugi::xml_node node = loaded.XMLNode().child(list).first_child();
         for (const FormatRow &row : elementTables().at(item))
@@ -212,8 +214,9 @@ TEST_F(LoadAndSave, EachItemClassGainsItsDefaults)
 TEST_F(LoadAndSave, ChildrenOfAListAreItemsWhateverTheirNames)
 {
     clsZR3Form loaded;
-    ASSERT_TRUE(loaded.LoadXML(put("odd.zr3", "<vzrform><counsel><!-- none --><barrister><name>A</name></barrister></counsel>"
-                                              "</vzrform>")));
+    ASSERT_TRUE(loaded.LoadXML(put("odd.zr3",
+        "<vzrform><counsel><!-- none --><barrister><name>A</name></barrister></counsel>"
+        "</vzrform>")));
     ASSERT_EQ(1u, loaded.CounselCollection().size());
     EXPECT_EQ(QStringLiteral("A"), loaded.Counsel(1)->Name());
 }
@@ -237,8 +240,9 @@ TEST_F(LoadAndSave, WhatTheProgramDoesNotKnowStaysInItsPlaceToTheLastCharacter)
             EXPECT_EQ(text, saved(text)) << before;
         }
         QByteArray item = known;
-        item.replace("<counsel/>", "<counsel><counsel><orderid>1</orderid>" + extra
-                                       + "<uniqueid>ID1</uniqueid><name/><accountnumber/><vat>False</vat></counsel></counsel>");
+        item.replace("<counsel/>",
+            "<counsel><counsel><orderid>1</orderid>" + extra
+                + "<uniqueid>ID1</uniqueid><name/><accountnumber/><vat>False</vat></counsel></counsel>");
         EXPECT_EQ(item, saved(item));
     }
 }
@@ -317,8 +321,8 @@ TEST_F(LoadAndSave, AGapInAnOrderEndsTheLoad)
 {
     for (const char *order : {"0", "2", "", "x"}) {
         clsZR3Form form;
-        const QByteArray text
-            = QByteArray("<vzrform><disbursements><disbursement><orderid>") + order + "</orderid></disbursement></disbursements></vzrform>";
+        const QByteArray text = QByteArray("<vzrform><disbursements><disbursement><orderid>") + order
+            + "</orderid></disbursement></disbursements></vzrform>";
         EXPECT_EQ(Error::ObjectNotSet, errorOf([&] { form.LoadXML(put("gap.zr3", text)); })) << order;
     }
 }
@@ -396,8 +400,9 @@ TEST_F(LoadAndSave, AnItemThatOutlivesItsClaimIsTheObjectError)
 TEST_F(LoadAndSave, AGapAmongFeeEarnersDoesNot)
 {
     clsZR3Form form;
-    EXPECT_TRUE(form.LoadXML(put("gap.zr3", "<vzrform><feeearners><feeearner><orderid>5</orderid></feeearner></feeearners>"
-                                            "</vzrform>")));
+    EXPECT_TRUE(form.LoadXML(put("gap.zr3",
+        "<vzrform><feeearners><feeearner><orderid>5</orderid></feeearner></feeearners>"
+        "</vzrform>")));
     EXPECT_EQ(5, form.FeeEarner(1)->OrderID());
 }
 
@@ -448,7 +453,8 @@ TEST_F(LoadAndSave, LoadingAnotherClaimIntoTheSameObjectReplacesItWhole)
     form.Notes = QStringLiteral("first");
     ASSERT_TRUE(form.LoadXML(put("bare.zr3", "<vzrform/>")));
     EXPECT_EQ(clsZR3Form().XMLOutput(), form.XMLOutput());
-    forEachList(form, [](const char *, const char *list, const auto &collection) { EXPECT_TRUE(collection.empty()) << list; });
+    forEachList(
+        form, [](const char *, const char *list, const auto &collection) { EXPECT_TRUE(collection.empty()) << list; });
     EXPECT_TRUE(form.NonCounselDisbursementsCollection().empty());
     form.ClientDetails.Surname = QStringLiteral("New");
     EXPECT_TRUE(form.XMLOutput().contains(QStringLiteral("<surname>New</surname>")));
@@ -476,8 +482,13 @@ TEST_F(LoadAndSave, AFailedSaveShowsItsBoxAndKeepsTheClaim)
 TEST(FormFileName, IsWhatFollowsTheLastSlashOfEitherKind)
 {
     const std::pair<const char *, const char *> rows[] = {
-        {"C:\\a\\b.zr3", "b.zr3"}, {"C:/a/b.zr3", "b.zr3"},   {"b.zr3", "b.zr3"},      {"/home/a b/c.zr3", "c.zr3"},
-        {"C:\\a/b.zr3", "b.zr3"},  {"C:/a\\b.zr3", "b.zr3"}, {"C:\\a\\", ""},
+        {"C:\\a\\b.zr3", "b.zr3"},
+        {"C:/a/b.zr3", "b.zr3"},
+        {"b.zr3", "b.zr3"},
+        {"/home/a b/c.zr3", "c.zr3"},
+        {"C:\\a/b.zr3", "b.zr3"},
+        {"C:/a\\b.zr3", "b.zr3"},
+        {"C:\\a\\", ""},
     };
     for (const auto &[path, name] : rows) {
         clsZR3Form form;

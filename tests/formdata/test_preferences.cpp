@@ -25,7 +25,8 @@ protected:
     void putPreferences(const QByteArray &bytes) const { put(file(), bytes); }
     void putFreshPreferences() const
     {
-        putPreferences(GetResourceData(QStringLiteral("xmlZR3PreferencesDatabase"), QStringLiteral("VELMORZR3XML")).toLatin1());
+        putPreferences(
+            GetResourceData(QStringLiteral("xmlZR3PreferencesDatabase"), QStringLiteral("VELMORZR3XML")).toLatin1());
     }
 };
 
@@ -55,7 +56,8 @@ TEST_F(Preferences, PropertiesAreThoseOfTheTableInTheirOrder)
     ASSERT_EQ(rows.size(), preferences.properties().size());
     for (size_t i = 0; i < rows.size(); ++i) {
         EXPECT_EQ(rows[i].name, preferences.properties()[i].property->name);
-        EXPECT_EQ(rows[i].kind == Text ? clsXMLKind::Text : clsXMLKind::Boolean, preferences.properties()[i].property->kind);
+        EXPECT_EQ(
+            rows[i].kind == Text ? clsXMLKind::Text : clsXMLKind::Boolean, preferences.properties()[i].property->kind);
     }
 }
 
@@ -98,7 +100,7 @@ TEST_F(Preferences, EverythingSurvivesTheFile)
         EXPECT_EQ(n, read.RateSet(n)->Index);
         for (const clsXMLPropertyPlace &place : read.RateSet(n)->properties())
             EXPECT_EQ(QStringLiteral("%1 %2").arg(n).arg(QString::fromLatin1(place.property->name)),
-                      read.RateSet(n)->field(QString::fromLatin1(place.property->name))->readText());
+                read.RateSet(n)->field(QString::fromLatin1(place.property->name))->readText());
     }
     EXPECT_EQ(8u, read.RateSet(1)->properties().size());
     EXPECT_TRUE(user.messages.empty());
@@ -106,9 +108,10 @@ TEST_F(Preferences, EverythingSurvivesTheFile)
 
 TEST_F(Preferences, AnOlderFileGainsWhatItLacks)
 {
-    putPreferences("<preferencesdatabase><log>False</log><defaultvatrate>15</defaultvatrate><later>x y</later><ratesets>"
-                   "<rateset><name>Old</name></rateset></ratesets><replacements><replacement/></replacements>"
-                   "</preferencesdatabase>");
+    putPreferences(
+        "<preferencesdatabase><log>False</log><defaultvatrate>15</defaultvatrate><later>x y</later><ratesets>"
+        "<rateset><name>Old</name></rateset></ratesets><replacements><replacement/></replacements>"
+        "</preferencesdatabase>");
     clsZR3PreferencesDatabase preferences;
     EXPECT_FALSE(preferences.AutoRefreshPreview());
     EXPECT_TRUE(preferences.PlaySound());
@@ -227,7 +230,8 @@ TEST_F(Preferences, TheLogAndTheSoundsFollowTheirSwitches)
 TEST_F(Preferences, TheDatabaseFolderMayBeElsewhere)
 {
     make(QStringLiteral("elsewhere"));
-    put(path("elsewhere/Preferences Database.vzp"), "<preferencesdatabase><defaultvatrate>5</defaultvatrate></preferencesdatabase>");
+    put(path("elsewhere/Preferences Database.vzp"),
+        "<preferencesdatabase><defaultvatrate>5</defaultvatrate></preferencesdatabase>");
     make(QStringLiteral("config/Velmor"));
     SetDatabasePath(path("elsewhere"));
     clsZR3PreferencesDatabase preferences;

@@ -59,7 +59,8 @@ TEST(URLEncode, UsesNothingThatXmlWouldEscape)
     for (int byte = 0; byte < 256; ++byte)
         all += mdFromCodePage(uchar(byte));
     for (const char c : URLEncode(all))
-        EXPECT_TRUE((c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '+' || c == '%') << c;
+        EXPECT_TRUE((c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '+' || c == '%')
+            << c;
 }
 
 TEST(URLDecode, KeepsAPlusOfTheTextApartFromABlank)

@@ -32,7 +32,8 @@ std::string longRead(const char *content)
 
 TEST(BooleanValue, ReadsTheWordsInAnyCaseAndNumbers)
 {
-    for (const char *content : {"True", "true", "TRUE", "tRuE", "1", "-1", "2", "0.5", "+1", "007", "1,000", " 1 ", "0.0001"})
+    for (const char *content :
+        {"True", "true", "TRUE", "tRuE", "1", "-1", "2", "0.5", "+1", "007", "1,000", " 1 ", "0.0001"})
         EXPECT_EQ("True", booleanRead(content)) << content;
     for (const char *content : {"False", "false", "FALSE", "fAlSe", "0", "-0", "0.0", "0000", "+0"})
         EXPECT_EQ("False", booleanRead(content)) << content;
@@ -46,7 +47,8 @@ TEST(BooleanValue, ANumberTooSmallForPenceIsStillNotZero)
 
 TEST(BooleanValue, AnyOtherTextIsTheTypeError)
 {
-    for (const char *content : {"", "Yes", "No", "T", "Truee", "wahr", "1a", "a1", "True%20", "Tru%65", "1.2.3", "-", "."})
+    for (const char *content :
+        {"", "Yes", "No", "T", "Truee", "wahr", "1a", "a1", "True%20", "Tru%65", "1.2.3", "-", "."})
         EXPECT_EQ("13", booleanRead(content)) << content;
 }
 
@@ -63,10 +65,23 @@ TEST(BooleanValue, IsWrittenAsOneOfTheTwoWords)
 TEST(LongValue, ReadsTheNumberAtTheStartRoundedToTheNearestEven)
 {
     const std::pair<const char *, const char *> rows[] = {
-        {"", "0"},           {"0", "0"},        {"7", "7"},          {"-7", "-7"},       {"  12", "12"},
-        {"12abc", "12"},     {"abc", "0"},      {"1 2", "12"},       {"2.5", "2"},       {"3.5", "4"},
-        {"2.51", "3"},       {"-2.5", "-2"},    {"1,000", "1"},      {"1e3", "1"},       {"2147483647", "2147483647"},
-        {"-2147483648", "-2147483648"},         {"2147483647.4", "2147483647"},
+        {"", "0"},
+        {"0", "0"},
+        {"7", "7"},
+        {"-7", "-7"},
+        {"  12", "12"},
+        {"12abc", "12"},
+        {"abc", "0"},
+        {"1 2", "12"},
+        {"2.5", "2"},
+        {"3.5", "4"},
+        {"2.51", "3"},
+        {"-2.5", "-2"},
+        {"1,000", "1"},
+        {"1e3", "1"},
+        {"2147483647", "2147483647"},
+        {"-2147483648", "-2147483648"},
+        {"2147483647.4", "2147483647"},
     };
     for (const auto &[content, value] : rows)
         EXPECT_EQ(value, longRead(content)) << content;

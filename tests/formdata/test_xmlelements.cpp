@@ -44,8 +44,8 @@ TEST(XMLLoadElement, TheElementKeepsItsDocumentAlive)
 TEST(XMLLoadElement, ReturnsNothingForWhatIsNoXmlOrHasAnotherRoot)
 {
     for (const char *xml :
-         {"", " ", "\r\n", "root", "<", "<root", "<root>", "<root><a></root>", "<root></Root>", "<other/>", "<Root/>",
-          "<other><root/></other>", "<roots/>", "<!-- <root/> -->", "&lt;root/&gt;", "{\"root\": 1}", "</root>"})
+        {"", " ", "\r\n", "root", "<", "<root", "<root>", "<root><a></root>", "<root></Root>", "<other/>", "<Root/>",
+            "<other><root/></other>", "<roots/>", "<!-- <root/> -->", "&lt;root/&gt;", "{\"root\": 1}", "</root>"})
         EXPECT_FALSE(loads(QString::fromUtf8(xml))) << xml;
 }
 
@@ -87,14 +87,16 @@ TEST(XMLElementOutput, TheSameTreeGivesTheSameText)
 
 TEST(XMLElementOutput, DropsWhiteSpaceBetweenElements)
 {
-    EXPECT_EQ(QStringLiteral("<root><a>1</a><b/></root>"), roundTrip("<root>\r\n\t<a>1</a>\r\n  <b></b>\r\n</root>\r\n"));
+    EXPECT_EQ(
+        QStringLiteral("<root><a>1</a><b/></root>"), roundTrip("<root>\r\n\t<a>1</a>\r\n  <b></b>\r\n</root>\r\n"));
 }
 
 TEST(XMLElementOutput, KeepsWhatNobodyKnowsToTheLastCharacter)
 {
-    for (const char *xml : {"<root><new x=\"1\" y=\"a b\">  a  b  </new></root>", "<root><!-- note --><a/><!----></root>",
-                            "<root><new><deep><deeper>&lt;&amp;&gt;</deeper></deep><deep/></new></root>",
-                            "<root><?target data?></root>", "<root><new>caf\xc3\xa9 \xe2\x82\xac</new></root>"})
+    for (const char *xml :
+        {"<root><new x=\"1\" y=\"a b\">  a  b  </new></root>", "<root><!-- note --><a/><!----></root>",
+            "<root><new><deep><deeper>&lt;&amp;&gt;</deeper></deep><deep/></new></root>",
+            "<root><?target data?></root>", "<root><new>caf\xc3\xa9 \xe2\x82\xac</new></root>"})
         EXPECT_EQ(QString::fromUtf8(xml), roundTrip(xml));
 }
 

@@ -66,5 +66,5 @@ protected:
     clsScriptedUserInterface user;
 
 private:
-    clsUserInterfaceScope m_scope{user};
+    clsUserInterfaceScope m_scope {user};
 };

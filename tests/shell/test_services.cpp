@@ -117,8 +117,7 @@ TEST(GetResourceData, IsReadOnceAndKept)
 
 // Sounds and documents
 
-class Services : public clsShellTest {
-};
+class Services : public clsShellTest { };
 
 TEST_F(Services, ASoundIsPlayedOnlyWhenSoundIsOn)
 {
@@ -131,14 +130,14 @@ TEST_F(Services, ASoundIsPlayedOnlyWhenSoundIsOn)
     EXPECT_TRUE(user.sounds.isEmpty()) << "switched off";
     on = true;
     PlayWav(alert);
-    EXPECT_EQ(QStringList{path("program/Sounds/Alert.wav")}, user.sounds);
+    EXPECT_EQ(QStringList {path("program/Sounds/Alert.wav")}, user.sounds);
     EXPECT_TRUE(user.messages.empty());
 }
 
 TEST_F(Services, ADocumentIsOpenedByTheDesktop)
 {
     EXPECT_TRUE(ShellOpen(QStringLiteral("mailto:someone@velmor.example")));
-    EXPECT_EQ(QStringList{QStringLiteral("mailto:someone@velmor.example")}, user.opened);
+    EXPECT_EQ(QStringList {QStringLiteral("mailto:someone@velmor.example")}, user.opened);
 }
 
 TEST_F(Services, TheProgramFolderIsThatOfTheRunningProgram)

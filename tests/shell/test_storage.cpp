@@ -149,8 +149,7 @@ TEST_F(Registry, ADamagedStoreIsReported)
 
 // The database folder
 
-class DatabasePath : public Registry {
-};
+class DatabasePath : public Registry { };
 
 TEST_F(DatabasePath, WithoutAStoredPathTheDefaultIsTakenAndStored)
 {
@@ -239,7 +238,7 @@ TEST_F(DatabasePath, AChosenFolderIsStoredWithoutATest)
     user.folders = {path("chosen")};
     SelectDatabasePath();
     EXPECT_EQ(path("chosen"), ReadRegKey(Name));
-    EXPECT_EQ(QStringList{QStringLiteral("Please select a valid database folder")}, user.prompts);
+    EXPECT_EQ(QStringList {QStringLiteral("Please select a valid database folder")}, user.prompts);
     EXPECT_TRUE(user.messages.empty());
 }
 
@@ -262,7 +261,7 @@ TEST_F(DatabasePath, FreshDatabasesAreTheTemplateWordForWord)
     EXPECT_EQ(GetResourceData(QStringLiteral("xmlZR3PreferencesDatabase"), QStringLiteral("VELMORZR3XML")),
         QString::fromLatin1(bytesOf(path("chosen/Preferences Database.vzp"))));
     EXPECT_EQ(path("chosen"), ReadRegKey(Name));
-    EXPECT_EQ(QStringList{QStringLiteral("Please select or create a database folder")}, user.prompts);
+    EXPECT_EQ(QStringList {QStringLiteral("Please select or create a database folder")}, user.prompts);
     ASSERT_EQ(1u, user.messages.size());
     EXPECT_EQ(QStringLiteral("Databases"), user.messages[0].title);
     EXPECT_EQ(QStringLiteral("The databases have been created successfully"), user.messages[0].text);

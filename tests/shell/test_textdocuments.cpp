@@ -285,7 +285,7 @@ TEST_F(TextDocuments, AKillAtAnyStepLeavesTheOldContentWhole)
 TEST_F(TextDocuments, AFailedFirstWriteLeavesNoSideFile)
 {
     FileSystem().faultPoint = [](clsFileStep step, const QString &) {
-        return step == clsFileStep::Write ? clsFileFault{ENOSPC, 3} : clsFileFault();
+        return step == clsFileStep::Write ? clsFileFault {ENOSPC, 3} : clsFileFault();
     };
     WriteTextDocument(next, claim, false);
     expectOneBox("File Not Saved", writeBox(claim, "61 - Disk full"));
@@ -296,7 +296,7 @@ TEST_F(TextDocuments, AFullDiskWhileCopyingLeavesTheFileAloneAndNoHalfCopy)
 {
     startWith(old);
     FileSystem().faultPoint = [&](clsFileStep step, const QString &at) {
-        return step == clsFileStep::Write && at == side ? clsFileFault{ENOSPC, 5} : clsFileFault();
+        return step == clsFileStep::Write && at == side ? clsFileFault {ENOSPC, 5} : clsFileFault();
     };
     WriteTextDocument(next, claim, false);
     expectOneBox("File Not Saved", writeBox(claim, "61 - Disk full"));
@@ -308,7 +308,7 @@ TEST_F(TextDocuments, ADiskThatIsFullOnlyWhenFlushedIsFound)
 {
     startWith(old);
     FileSystem().faultPoint = [&](clsFileStep step, const QString &at) {
-        return step == clsFileStep::SyncFile && at == claim ? clsFileFault{ENOSPC} : clsFileFault();
+        return step == clsFileStep::SyncFile && at == claim ? clsFileFault {ENOSPC} : clsFileFault();
     };
     WriteTextDocument(next, claim, false);
     expectOneBox("File Not Saved", writeBox(claim, "61 - Disk full"));
@@ -331,7 +331,7 @@ TEST_F(TextDocuments, ShortReadsAreCarriedOn)
 {
     startWith(old);
     FileSystem().faultPoint = [](clsFileStep step, const QString &) {
-        return step == clsFileStep::Read ? clsFileFault{0, 3} : clsFileFault();
+        return step == clsFileStep::Read ? clsFileFault {0, 3} : clsFileFault();
     };
     EXPECT_EQ(QString::fromLatin1(old), ReadTextDocument(claim, false));
 }
@@ -355,7 +355,7 @@ TEST_F(TextDocuments, AFailedReadShowsItsBoxAndReadsAsEmpty)
     for (const clsFileStep failing : {OpenToRead, Inspect, Read, Close}) {
         user.messages.clear();
         FileSystem().faultPoint = [failing](clsFileStep step, const QString &) {
-            return step == failing ? clsFileFault{EACCES} : clsFileFault();
+            return step == failing ? clsFileFault {EACCES} : clsFileFault();
         };
         EXPECT_EQ(QString(), ReadTextDocument(claim, false));
         expectOneBox("File Not Read", readBox(claim, "70 - Permission denied"));
@@ -462,7 +462,7 @@ TEST_F(TextDocuments, ALinkIsFollowedAndKept)
     EXPECT_EQ(QByteArray("the new claim"), bytesOf(real));
     EXPECT_EQ(next, ReadTextDocument(claim, false));
     EXPECT_FALSE(exists(side));
-    EXPECT_EQ(QStringList{QStringLiteral("real.zr3")}, QDir(path("elsewhere")).entryList(QDir::Files));
+    EXPECT_EQ(QStringList {QStringLiteral("real.zr3")}, QDir(path("elsewhere")).entryList(QDir::Files));
 }
 
 TEST_F(TextDocuments, TheFolderBehindALinkIsFlushed)
@@ -477,7 +477,7 @@ TEST_F(TextDocuments, TheFolderBehindALinkIsFlushed)
         return clsFileFault();
     };
     WriteTextDocument(next, claim, false);
-    EXPECT_EQ((QStringList{QFileInfo(folder.path()).fileName(), QStringLiteral("elsewhere")}), flushed);
+    EXPECT_EQ((QStringList {QFileInfo(folder.path()).fileName(), QStringLiteral("elsewhere")}), flushed);
 }
 
 TEST_F(TextDocuments, ANewFileIsReadableByItsOwnerOnly)
@@ -557,7 +557,7 @@ TEST_F(TextDocuments, AFileSystemThatCanNotTellWhetherAFileExistsIsNotTakenForAN
 {
     startWith(old);
     FileSystem().faultPoint = [](clsFileStep step, const QString &) {
-        return step == clsFileStep::Inspect ? clsFileFault{EIO} : clsFileFault();
+        return step == clsFileStep::Inspect ? clsFileFault {EIO} : clsFileFault();
     };
     EXPECT_EQ(clsRunTimeError::DeviceError, errorOf([&] { FileSystem().FileExists(claim); }));
     WriteTextDocument(next, claim, false);

@@ -46,7 +46,10 @@ public:
         messages.push_back({title, message, buttons, int(icon), 0, true});
         return answer(buttons);
     }
-    void showProgress(int value, int maximum, const QString &text) override { progress.push_back({value, maximum, text}); }
+    void showProgress(int value, int maximum, const QString &text) override
+    {
+        progress.push_back({value, maximum, text});
+    }
     void clearProgress() override { ++progressCleared; }
     QString chooseFolder(const QString &prompt) override
     {

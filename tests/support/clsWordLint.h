@@ -13,8 +13,7 @@
 
 /// Rules of a sound document that no schema sees: what makes a word processor ask for repair, lose a text or show
 /// another document's footer. Each problem is one line.
-class clsWordLint
-{
+class clsWordLint {
 public:
     enum Placeholders { MayBeLeft, MustBeGone };
 
@@ -42,8 +41,7 @@ private:
 
     explicit clsWordLint(clsWordPackage &package)
         : m_package(package)
-    {
-    }
+    { }
 
     void problem(const QString &text) { m_problems << text; }
 
@@ -92,7 +90,7 @@ private:
 
     std::vector<int> storyParts()
     {
-        std::vector<int> parts{m_package.mainPart()};
+        std::vector<int> parts {m_package.mainPart()};
         const auto relationships = m_package.relationships(m_package.mainPart());
         for (const clsWordPackage::Relationship &relation : relationships)
             if (relation.type.ends_with("/header") || relation.type.ends_with("/footer"))

@@ -36,8 +36,7 @@ struct clsTestDocument {
     clsTestDocument() = default;
     clsTestDocument(const QString &bodyXml)
         : body(bodyXml)
-    {
-    }
+    { }
 
     static QString namespaces()
     {
@@ -113,8 +112,7 @@ struct clsTestDocument {
 };
 
 /// A folder that holds the documents of one test.
-class clsTestFolder
-{
+class clsTestFolder {
 public:
     QString path(const QString &name) const { return m_folder.filePath(name); }
 

@@ -1,8 +1,7 @@
 #include "tests/support/clsScriptedUserInterface.h"
 #include "tests/wordexport/clsTestDocument.h"
 
-namespace
-{
+namespace {
 
 const QString Tail
     = QStringLiteral("<w:p><w:pPr><w:spacing w:before=\"0\" w:after=\"0\" w:line=\"20\" w:lineRule=\"exact\"/>"
@@ -24,8 +23,7 @@ QString withSection(const QString &sectionXml)
 }
 
 /// Joins documents in order and proves the result sound.
-class clsJoin
-{
+class clsJoin {
 public:
     explicit clsJoin(const std::vector<clsTestDocument> &documents, bool backSpace = false)
     {
@@ -330,7 +328,7 @@ TEST(JoinedParts, PicturesComeAlongAndEqualOnesAreThereOnce)
     const clsJoin join({withImage("one"), withImage("two"), withImage("one", QStringLiteral("word/media/logo.png")),
         withImage("two")});
     QStringList media = join.parts().filter(QStringLiteral("media"));
-    EXPECT_EQ(media, (QStringList{QStringLiteral("word/media/image1.png"), QStringLiteral("word/media/image2.png")}));
+    EXPECT_EQ(media, (QStringList {QStringLiteral("word/media/image1.png"), QStringLiteral("word/media/image2.png")}));
     const clsZipPackage zip = clsZipPackage::fromFile(join.path);
     EXPECT_EQ(zip.bytes(zip.indexOf(QStringLiteral("word/media/image2.png"))), QByteArray("two"));
     EXPECT_EQ(join.body().count(QStringLiteral("r:embed=\"rId7\"")), 2);
@@ -342,7 +340,7 @@ TEST(JoinedParts, LinksToTheWebStayLinks)
     clsTestDocument document(
         QStringLiteral("<w:p><w:hyperlink r:id=\"rIdX1\">%1</w:hyperlink></w:p>").arg(r(QStringLiteral("link")))
         + section(page(100)));
-    document.externalLinks = QStringList{QStringLiteral("https://example.org/?a=1&amp;b=2")};
+    document.externalLinks = QStringList {QStringLiteral("https://example.org/?a=1&amp;b=2")};
     const clsJoin join({sheet(QStringLiteral("a")), document, document});
     clsWordPackage package = clsWordPackage::fromFile(join.path);
     ASSERT_EQ(package.relationships(package.mainPart()).size(), 1u);

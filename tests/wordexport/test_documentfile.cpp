@@ -17,11 +17,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace
-{
+namespace {
 
-class mdDocumentFile : public testing::Test
-{
+class mdDocumentFile : public testing::Test {
 protected:
     QString path(const QString &name) const { return folder.filePath(name); }
     QStringList names() const
@@ -39,14 +37,13 @@ protected:
 };
 
 /// No file may grow beyond this for as long as the object lives, as on a disk that is full.
-class clsFileSizeLimit
-{
+class clsFileSizeLimit {
 public:
     explicit clsFileSizeLimit(rlim_t bytes)
     {
         getrlimit(RLIMIT_FSIZE, &m_before);
         m_handler = std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit limit{bytes, m_before.rlim_max};
+        const rlimit limit {bytes, m_before.rlim_max};
         setrlimit(RLIMIT_FSIZE, &limit);
     }
     ~clsFileSizeLimit()
@@ -56,7 +53,7 @@ public:
     }
 
 private:
-    rlimit m_before{};
+    rlimit m_before {};
     void (*m_handler)(int);
 };
 
@@ -81,7 +78,8 @@ TEST_F(mdDocumentFile, AWorkingFileIsNewAndNeverWrittenThroughALink)
 
 TEST_F(mdDocumentFile, AWorkingFileInAFolderThatIsNotThereIsPathNotFound)
 {
-    EXPECT_EQ(errorOf([&] { mdWriteWorkingFile(path(QStringLiteral("none/a.doc")), "x"); }), clsRunTimeError::PathNotFound);
+    EXPECT_EQ(
+        errorOf([&] { mdWriteWorkingFile(path(QStringLiteral("none/a.doc")), "x"); }), clsRunTimeError::PathNotFound);
 }
 
 TEST_F(mdDocumentFile, ADiskThatIsFullLeavesTheOldFileAndNothingElse)
@@ -94,16 +92,16 @@ TEST_F(mdDocumentFile, ADiskThatIsFullLeavesTheOldFileAndNothingElse)
     }
     EXPECT_EQ(error, clsRunTimeError::DiskFull);
     EXPECT_EQ(mdReadDocumentFile(path(QStringLiteral("a.doc")), 100), QByteArray("old"));
-    EXPECT_EQ(names(), QStringList{QStringLiteral("a.doc")});
+    EXPECT_EQ(names(), QStringList {QStringLiteral("a.doc")});
 }
 
 TEST_F(mdDocumentFile, AFolderThatIsNotThereIsPathNotFound)
 {
-    EXPECT_EQ(errorOf([&] { mdWriteDocumentFile(path(QStringLiteral("none/a.doc")), "x"); }),
-        clsRunTimeError::PathNotFound);
+    EXPECT_EQ(
+        errorOf([&] { mdWriteDocumentFile(path(QStringLiteral("none/a.doc")), "x"); }), clsRunTimeError::PathNotFound);
     put(QStringLiteral("file"), "x");
-    EXPECT_EQ(errorOf([&] { mdWriteDocumentFile(path(QStringLiteral("file/a.doc")), "x"); }),
-        clsRunTimeError::PathNotFound);
+    EXPECT_EQ(
+        errorOf([&] { mdWriteDocumentFile(path(QStringLiteral("file/a.doc")), "x"); }), clsRunTimeError::PathNotFound);
 }
 
 TEST_F(mdDocumentFile, AFolderUnderTheNameIsAnAccessError)
@@ -114,8 +112,7 @@ TEST_F(mdDocumentFile, AFolderUnderTheNameIsAnAccessError)
 
 TEST_F(mdDocumentFile, ADeviceIsNeverReplaced)
 {
-    EXPECT_EQ(
-        errorOf([] { mdWriteDocumentFile(QStringLiteral("/dev/null"), "x"); }), clsRunTimeError::PathFileAccess);
+    EXPECT_EQ(errorOf([] { mdWriteDocumentFile(QStringLiteral("/dev/null"), "x"); }), clsRunTimeError::PathFileAccess);
 }
 
 TEST_F(mdDocumentFile, APipeUnderTheNameIsNotWaitedFor)
@@ -156,9 +153,7 @@ TEST_F(mdDocumentFile, AWriteProtectedFileIsNotReplaced)
     put(QStringLiteral("a.doc"), "old");
     const QByteArray name = QFile::encodeName(path(QStringLiteral("a.doc")));
     ASSERT_EQ(chmod(QFile::encodeName(folder.path()).constData(), 0777), 0);
-    const auto write = [&] {
-        return errorOf([&] { mdWriteDocumentFile(path(QStringLiteral("a.doc")), "new"); });
-    };
+    const auto write = [&] { return errorOf([&] { mdWriteDocumentFile(path(QStringLiteral("a.doc")), "new"); }); };
     ASSERT_EQ(chmod(name.constData(), 0444), 0);
     EXPECT_EQ(resultAsOrdinaryUser(write), clsRunTimeError::PermissionDenied);
     EXPECT_EQ(mdReadDocumentFile(path(QStringLiteral("a.doc")), 100), QByteArray("old"));
@@ -209,8 +204,8 @@ TEST_F(mdDocumentFile, ALargerFileIsTooLarge)
         ADD_FAILURE() << "read";
     } catch (const clsRunTimeError &error) {
         EXPECT_EQ(error.number(), clsRunTimeError::InvalidFileFormat);
-        EXPECT_EQ(error.description(),
-            QStringLiteral("The document %1 is too large.").arg(path(QStringLiteral("a.doc"))));
+        EXPECT_EQ(
+            error.description(), QStringLiteral("The document %1 is too large.").arg(path(QStringLiteral("a.doc"))));
     }
     EXPECT_EQ(mdReadDocumentFile(path(QStringLiteral("a.doc")), 101).size(), 101);
 }
@@ -230,7 +225,7 @@ TEST_F(mdDocumentFile, ALeftoverSideFileIsPassedOver)
 {
     put(QStringLiteral(".~a.doc.0"), "left by a crash");
     mdWriteDocumentFile(path(QStringLiteral("a.doc")), "new");
-    EXPECT_EQ(names(), (QStringList{QStringLiteral(".~a.doc.0"), QStringLiteral("a.doc")}));
+    EXPECT_EQ(names(), (QStringList {QStringLiteral(".~a.doc.0"), QStringLiteral("a.doc")}));
 }
 
 } // namespace

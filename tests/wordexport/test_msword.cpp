@@ -4,16 +4,14 @@
 
 #include <QFileInfo>
 
-namespace
-{
+namespace {
 
 const QString ErrorText = QStringLiteral(
     "An error has occured during Word automation. If the problem persists please contact Velmor technical support "
     "via stating the following details:\r\n\r\nError Number: %1\r\nError Description: %2\r\nSubroutine: %3");
 const QString NotSet = QStringLiteral("Object variable or With block variable not set");
 
-class clsMSWordFailures : public testing::Test
-{
+class clsMSWordFailures : public testing::Test {
 protected:
     void expectOnly(int number, const QString &description, const QString &subroutine)
     {
@@ -26,7 +24,7 @@ protected:
     }
 
     clsScriptedUserInterface user;
-    clsUserInterfaceScope scope{user};
+    clsUserInterfaceScope scope {user};
     clsTestFolder folder;
     clsMSWord word;
 };

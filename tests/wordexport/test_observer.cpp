@@ -4,12 +4,10 @@
 
 #include <QFileInfo>
 
-namespace
-{
+namespace {
 
 /// Writes each event as a line.
-class clsRecorder final : public clsMSWordObserver
-{
+class clsRecorder final : public clsMSWordObserver {
 public:
     QStringList events;
 
@@ -68,7 +66,7 @@ TEST(clsMSWordObserver, SeesEachOperationOnceWithTheTextsAsTyped)
     word.TypeBackSpace();
     word.SaveAndClose();
     EXPECT_EQ(recorder.events,
-        (QStringList{
+        (QStringList {
             QStringLiteral("opened a.doc"),
             QStringLiteral("replaced {a} '%1' tick").arg(QChar(0xFE)),
             QStringLiteral("replaced {b} ' '"),

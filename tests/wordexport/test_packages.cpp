@@ -3,8 +3,7 @@
 
 #include <zlib.h>
 
-namespace
-{
+namespace {
 
 QByteArray number(quint32 value, int bytes)
 {
@@ -137,7 +136,7 @@ TEST(HostilePackages, AnEntryThatHoldsMoreThanItStatesIsDamage)
 {
     const QByteArray content(100000, 'a');
     QByteArray deflated(200000, '\0');
-    z_stream stream{};
+    z_stream stream {};
     ASSERT_EQ(deflateInit2(&stream, 9, Z_DEFLATED, -15, 8, Z_DEFAULT_STRATEGY), Z_OK);
     stream.next_in = reinterpret_cast<Bytef *>(const_cast<char *>(content.constData()));
     stream.avail_in = uInt(content.size());
@@ -357,7 +356,7 @@ TEST(clsZipPackage, KeepsTheOrderThatReadersExpect)
         EXPECT_EQ(entry.bytes, entry.name.toLatin1());
     }
     EXPECT_EQ(names,
-        (QStringList{QStringLiteral("[Content_Types].xml"), QStringLiteral("_rels/.rels"),
+        (QStringList {QStringLiteral("[Content_Types].xml"), QStringLiteral("_rels/.rels"),
             QStringLiteral("word/document.xml"), QStringLiteral("a.xml"), QStringLiteral("word/styles.xml")}));
 }
 

@@ -1,7 +1,6 @@
 #include "tests/wordexport/clsTestDocument.h"
 
-namespace
-{
+namespace {
 
 const QString Bold = QStringLiteral("<w:b/>");
 

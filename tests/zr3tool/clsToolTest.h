@@ -51,7 +51,7 @@ protected:
     }
 
     clsToolResult run(const QStringList &arguments, const QString &standardOutput = {},
-                      const std::function<void()> &inTheChild = {}) const
+        const std::function<void()> &inTheChild = {}) const
     {
         return runProgram(QStringLiteral(ZR3_TOOL), arguments, standardOutput, inTheChild);
     }
@@ -73,7 +73,8 @@ protected:
         process.start(program, arguments, QIODevice::ReadOnly);
         constexpr int LongestRun = 120'000;
         if (!process.waitForFinished(LongestRun) || process.exitStatus() != QProcess::NormalExit)
-            return {-1, process.readAllStandardOutput(), process.readAllStandardError() + process.errorString().toUtf8()};
+            return {
+                -1, process.readAllStandardOutput(), process.readAllStandardError() + process.errorString().toUtf8()};
         return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
     }
 

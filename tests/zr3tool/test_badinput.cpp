@@ -4,8 +4,9 @@
 
 namespace {
 
-const QByteArray NoClaim = "Error: There was a problem opening the selected file. Please ensure that the file is a valid ZR3 "
-                           "file and try again\n";
+const QByteArray NoClaim
+    = "Error: There was a problem opening the selected file. Please ensure that the file is a valid ZR3 "
+      "file and try again\n";
 
 class BadInput : public clsToolTest {
 protected:
@@ -13,8 +14,9 @@ protected:
     void expectRefused(const QString &file, const QByteArray &message)
     {
         ASSERT_TRUE(QDir(folder.path()).mkpath("out"_q));
-        for (const QStringList &arguments : {QStringList {"totals"_q, file}, {"check"_q, file}, {"save"_q, file, path("out/new.zr3")},
-                                             {"export"_q, file, path("out")}, {"export"_q, file, path("out"), "--force"_q}}) {
+        for (const QStringList &arguments :
+            {QStringList {"totals"_q, file}, {"check"_q, file}, {"save"_q, file, path("out/new.zr3")},
+                {"export"_q, file, path("out")}, {"export"_q, file, path("out"), "--force"_q}}) {
             const clsToolResult result = run(arguments);
             EXPECT_EQ(2, result.status) << arguments.join(u' ').toStdString();
             EXPECT_EQ("", result.out);
@@ -88,7 +90,8 @@ TEST_F(BadInput, WhatIsNoClaim)
         {"package.zr3", "PK\x03\x04" + rubbish},
         {"zeros.zr3", claim + QByteArray(4096, '\0')},
         {"twice.zr3", claim + claim},
-        {"deep.zr3", "<vzrform>" + QByteArray("<a>").repeated(100'000) + QByteArray("</a>").repeated(100'000) + "</vzrform>"},
+        {"deep.zr3",
+            "<vzrform>" + QByteArray("<a>").repeated(100'000) + QByteArray("</a>").repeated(100'000) + "</vzrform>"},
         {"deeper.zr3", QByteArray("<vzrform>").repeated(100'000)},
     };
     for (const auto &[name, bytes] : rows) {
@@ -139,21 +142,24 @@ TEST_F(BadInput, TwoHundredMegabytesOfRubbishWithoutAZero)
 
 TEST_F(BadInput, AClaimWhoseOrderHasAGapEndsItsLoad)
 {
-    const QString file = put("gap.zr3", "<vzrform><disbursements><disbursement><orderid>2</orderid></disbursement>"
-                                        "</disbursements></vzrform>");
+    const QString file = put("gap.zr3",
+        "<vzrform><disbursements><disbursement><orderid>2</orderid></disbursement>"
+        "</disbursements></vzrform>");
     expectRefused(file, "Run-time error '91': Object variable or With block variable not set\n");
 }
 
 TEST_F(BadInput, ABooleanThatIsNoneEndsALoadThatReadsIt)
 {
-    const QString file = put("boolean.zr3", "<vzrform><disbursements><disbursement><orderid>1</orderid><counsel>perhaps</counsel>"
-                                            "</disbursement></disbursements></vzrform>");
+    const QString file = put("boolean.zr3",
+        "<vzrform><disbursements><disbursement><orderid>1</orderid><counsel>perhaps</counsel>"
+        "</disbursement></disbursements></vzrform>");
     expectRefused(file, "Run-time error '13': Type mismatch\n");
 }
 
 TEST_F(BadInput, ANumberBeyondItsRangeEndsALoadThatReadsIt)
 {
-    const QString file = put("number.zr3", "<vzrform><fasitems><fasitem><orderid>99999999999</orderid></fasitem></fasitems>"
-                                           "</vzrform>");
+    const QString file = put("number.zr3",
+        "<vzrform><fasitems><fasitem><orderid>99999999999</orderid></fasitem></fasitems>"
+        "</vzrform>");
     expectRefused(file, "Run-time error '6': Overflow\n");
 }

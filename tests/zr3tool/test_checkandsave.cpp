@@ -6,8 +6,7 @@
 
 namespace {
 
-class ToolCheck : public clsToolTest {
-};
+class ToolCheck : public clsToolTest { };
 
 class ToolSave : public clsToolTest {
 protected:
@@ -39,8 +38,9 @@ TEST_F(ToolCheck, TellsTheSamplesAsWorkedOutForThem)
         SCOPED_TRACE(name.toStdString());
         const QString claim = mdSamplePath(name + ".zr3"_q);
         const QByteArray before = bytesOf(claim);
-        const QJsonObject worked
-            = QJsonDocument::fromJson(bytesOf(mdSamplePath(name + ".totals.json"_q))).object()["BlankItems"_q].toObject();
+        const QJsonObject worked = QJsonDocument::fromJson(bytesOf(mdSamplePath(name + ".totals.json"_q)))
+                                       .object()["BlankItems"_q]
+                                       .toObject();
         const bool blank = worked["ScheduleItems"_q].toInt() + worked["Disbursements"_q].toInt() > 0;
         blankClaims += blank;
         const clsToolResult result = run({"check"_q, claim});
@@ -103,16 +103,18 @@ TEST_F(ToolSave, AnOlderFileGainsWhatItLacksAndBillsTheSame)
     ASSERT_EQ(0, run({"save"_q, mdSamplePath("older-file.zr3"_q), path("new.zr3")}).status);
     const clsToolResult result = run({"totals"_q, path("new.zr3")});
     EXPECT_EQ(0, result.status);
-    EXPECT_EQ(QJsonDocument::fromJson(bytesOf(mdSamplePath("older-file.totals.json"_q))), QJsonDocument::fromJson(result.out));
+    EXPECT_EQ(QJsonDocument::fromJson(bytesOf(mdSamplePath("older-file.totals.json"_q))),
+        QJsonDocument::fromJson(result.out));
     // It lacked a list and a section, which stand there now, once each, and the white space is gone.
     const QByteArray saved = bytesOf(path("new.zr3"));
     const QByteArray old = bytesOf(mdSamplePath("older-file.zr3"_q));
     ASSERT_TRUE(old.contains('\n'));
     ASSERT_FALSE(old.contains("<fasitems") || old.contains("<communications"));
-    EXPECT_TRUE(saved.endsWith("<fasitems/><communications><enhancelettersout>False</enhancelettersout>"
-                               "<lettersoutenhancementuniqueid/><enhancelettersin>False</enhancelettersin>"
-                               "<lettersinenhancementuniqueid/><enhancecalls>False</enhancecalls><callsenhancementuniqueid/>"
-                               "</communications></vzrform>"));
+    EXPECT_TRUE(
+        saved.endsWith("<fasitems/><communications><enhancelettersout>False</enhancelettersout>"
+                       "<lettersoutenhancementuniqueid/><enhancelettersin>False</enhancelettersin>"
+                       "<lettersinenhancementuniqueid/><enhancecalls>False</enhancecalls><callsenhancementuniqueid/>"
+                       "</communications></vzrform>"));
     EXPECT_EQ(1, saved.count("<fasitems"));
     EXPECT_EQ(1, saved.count("<communications"));
     EXPECT_FALSE(saved.contains('\n'));
@@ -174,7 +176,7 @@ TEST_F(ToolSave, ATargetThatCanNotBeWrittenIsToldOnce)
         EXPECT_EQ(4, result.status) << target;
         EXPECT_EQ("", result.out);
         EXPECT_TRUE(result.err.startsWith("File Not Saved: There was a problem writing to the following path:\n\n"
-                                          + path(target).toUtf8() + "\n\nThe error reported is:\n\n7"))
+            + path(target).toUtf8() + "\n\nThe error reported is:\n\n7"))
             << result.err.constData();
         EXPECT_EQ(1, result.err.count(": There was a problem"));
     }

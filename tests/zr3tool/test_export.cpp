@@ -33,7 +33,8 @@ protected:
     static void includePages(clsZR3Form &form, const std::vector<int> &pages)
     {
         for (int page = 1; page <= 13; ++page)
-            form.field("IncludePage%1"_q.arg(page))->writeBoolean(std::find(pages.begin(), pages.end(), page) != pages.end());
+            form.field("IncludePage%1"_q.arg(page))
+                ->writeBoolean(std::find(pages.begin(), pages.end(), page) != pages.end());
     }
 
     /// A failed export: status 4, that message alone, and the folder as it was, with and without a document in it.
@@ -77,8 +78,9 @@ TEST_F(ToolExport, AnExistingDocumentNeedsForce)
     const clsToolResult refused = run({"export"_q, claim, out()});
     EXPECT_EQ(5, refused.status);
     EXPECT_EQ("", refused.out);
-    EXPECT_EQ("Export: The document " + path("out/Claim1.doc").toUtf8() + " exists already. Give --force to replace it.\n",
-              refused.err);
+    EXPECT_EQ(
+        "Export: The document " + path("out/Claim1.doc").toUtf8() + " exists already. Give --force to replace it.\n",
+        refused.err);
     EXPECT_EQ("the older document", bytesOf(path("out/Claim1.doc")));
     EXPECT_EQ(QStringList {"Claim1.doc"_q}, filesOf(out()));
     EXPECT_EQ(0, run({"export"_q, claim, out(), "--force"_q}).status);
@@ -122,7 +124,8 @@ TEST_F(ToolExport, AMissingFolderIsTold)
         const clsToolResult result = run({"export"_q, smallClaim(), target});
         EXPECT_EQ(4, result.status);
         EXPECT_EQ("", result.out);
-        EXPECT_EQ("Export Path: The selected Export Path does not exist. Please select a valid folder and try again.\n", result.err);
+        EXPECT_EQ("Export Path: The selected Export Path does not exist. Please select a valid folder and try again.\n",
+            result.err);
     }
     EXPECT_FALSE(QFileInfo::exists(path("missing")));
 }
@@ -182,8 +185,8 @@ TEST_F(ToolExport, ANoteThatCanNeverFitEndsTheExportBeforeItsFirstSheet)
     const QStringList words(49, QString(40, u'x'));
     form.ScheduleOfTimeItem(1)->Description = words.join(u' ');
     expectFailure({"export"_q, putClaim(form), out()},
-                  "Additional Information: Item 1 has a description of 49 lines. The additional information sheets hold at most "
-                  "48 lines for one item. Please shorten the description and try again.\n");
+        "Additional Information: Item 1 has a description of 49 lines. The additional information sheets hold at most "
+        "48 lines for one item. Please shorten the description and try again.\n");
 }
 
 TEST_F(ToolExport, ANoteThatIsNotPrintedMayBeAsLongAsItLikes)
@@ -201,7 +204,7 @@ TEST_F(ToolExport, ClaimsOfTheOtherTypeHaveNoPagesYet)
     clsZR3Form form;
     form.FormType = "Claim1A"_q;
     expectFailure({"export"_q, putClaim(form), out()},
-                  "Export: There are no pages for the form type \"Claim1A\" of this claim.\n");
+        "Export: There are no pages for the form type \"Claim1A\" of this claim.\n");
 }
 
 TEST_F(ToolExport, AFigureThatCanNotBeComputedIsAFailure)
@@ -227,7 +230,7 @@ TEST_F(ToolExport, AFormTypeThatNobodyKnowsIsAFailure)
     clsZR3Form form;
     form.FormType = "Claim2"_q;
     expectFailure({"export"_q, putClaim(form), out()},
-                  "Export: There are no pages for the form type \"Claim2\" of this claim.\n");
+        "Export: There are no pages for the form type \"Claim2\" of this claim.\n");
 }
 
 TEST_F(ToolExport, WhatStandsInTheWayOfTheSheetsIsLeftAlone)

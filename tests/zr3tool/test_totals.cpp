@@ -13,9 +13,10 @@ protected:
     {
         const clsToolResult result = run({"totals"_q, putClaim(form)});
         EXPECT_EQ(status, result.status);
-        EXPECT_EQ(status == 0 ? QByteArray()
-                              : QByteArray("Totals: Some figures of this claim can't be computed. Each of them stands as "
-                                           "\"!\" and the number of its run-time error.\n"),
+        EXPECT_EQ(status == 0
+                ? QByteArray()
+                : QByteArray("Totals: Some figures of this claim can't be computed. Each of them stands as "
+                             "\"!\" and the number of its run-time error.\n"),
             result.err);
         QJsonParseError error;
         const QJsonObject json = QJsonDocument::fromJson(result.out, &error).object();
@@ -73,27 +74,21 @@ TEST_F(ToolTotals, TheKeysStandInTheirOrder)
     clsZR3Form form;
     fill(form);
     form.AddFASItem();
-    const QStringList common = {
-        "FormType"_q, "VATRate"_q,
-        "ScheduleItems"_q, "OrderID"_q, "InExport"_q, "SOTItemNumber"_q, "TimeColumn"_q, "Rate"_q, "BasicClaim"_q,
-        "TotalEnhancementPercentage"_q, "Claim"_q,
-        "FASItems"_q, "OrderID"_q, "Total"_q,
-        "Communications"_q};
+    const QStringList common = {"FormType"_q, "VATRate"_q, "ScheduleItems"_q, "OrderID"_q, "InExport"_q,
+        "SOTItemNumber"_q, "TimeColumn"_q, "Rate"_q, "BasicClaim"_q, "TotalEnhancementPercentage"_q, "Claim"_q,
+        "FASItems"_q, "OrderID"_q, "Total"_q, "Communications"_q};
     const QStringList line = {"Kind"_q, "Line"_q, "Rate"_q, "Count"_q, "Basic"_q, "Enhancement"_q, "Claim"_q};
-    const QStringList totals = {
-        "ColumnTimeTotal"_q, "ColumnClaimTotal"_q, "ScheduleTotal"_q, "AdvocacyTotal"_q,
+    const QStringList totals = {"ColumnTimeTotal"_q, "ColumnClaimTotal"_q, "ScheduleTotal"_q, "AdvocacyTotal"_q,
         "CounselDisbursementsAmountTotal"_q, "CounselDisbursementsVATTotal"_q, "NonCounselDisbursementsAmountTotal"_q,
         "NonCounselDisbursementsVATTotal"_q, "ExpertInvoicesNetTotal"_q, "ExpertInvoicesVATTotal"_q,
         "CounselFeesAmountTotal"_q, "CounselFeesVATTotal"_q, "CounselFeesTotal"_q, "FASItemsTotal"_q, "FASVATTotal"_q,
         "CommsTotal"_q, "ProfitCostsTotal"_q, "ProfitCostsVAT"_q, "AdvocacyVAT"_q, "LoadFromBillNet"_q,
         "LoadFromBillVAT"_q, "CounselAtLine"_q};
     const QStringList counsel = {"Position"_q, "AccountNumber"_q, "Gross"_q};
-    const QStringList summaryOf1
-        = {"npc"_q, "nex"_q, "ndibs"_q, "vpc"_q, "vex"_q, "vdibs"_q, "ntotal"_q, "vtotal"_q, "grandtotal"_q, "ncf"_q, "vcf"_q,
-           "cftotal"_q};
-    const QStringList summaryOf1A
-        = {"npc"_q, "nex"_q, "ndibs"_q, "vpc"_q, "vex"_q, "vdibs"_q, "nsubtotal"_q, "vsubtotal"_q, "nfas"_q, "vfas"_q,
-           "ncsl"_q, "vcsl"_q, "ntotal"_q, "vtotal"_q};
+    const QStringList summaryOf1 = {"npc"_q, "nex"_q, "ndibs"_q, "vpc"_q, "vex"_q, "vdibs"_q, "ntotal"_q, "vtotal"_q,
+        "grandtotal"_q, "ncf"_q, "vcf"_q, "cftotal"_q};
+    const QStringList summaryOf1A = {"npc"_q, "nex"_q, "ndibs"_q, "vpc"_q, "vex"_q, "vdibs"_q, "nsubtotal"_q,
+        "vsubtotal"_q, "nfas"_q, "vfas"_q, "ncsl"_q, "vcsl"_q, "ntotal"_q, "vtotal"_q};
     const QStringList blank = {"BlankItems"_q, "ScheduleItems"_q, "Disbursements"_q, "Message"_q};
     for (const auto &[type, summary] : {std::pair("Claim1"_q, summaryOf1), std::pair("Claim1A"_q, summaryOf1A)}) {
         form.FormType = type;
@@ -132,7 +127,7 @@ TEST_F(ToolTotals, AFigureThatFailsIsItsErrorAndAllOthersAreThere)
     EXPECT_EQ("!13"_q, json["ColumnClaimTotal"_q][0].toString());
     EXPECT_EQ("0"_q, json["ColumnClaimTotal"_q][1].toString());
     for (const char *key : {"ScheduleTotal", "AdvocacyTotal", "ProfitCostsTotal", "ProfitCostsVAT", "AdvocacyVAT",
-                            "LoadFromBillNet", "LoadFromBillVAT"})
+             "LoadFromBillNet", "LoadFromBillVAT"})
         EXPECT_EQ("!13"_q, at(json, key)) << key;
     EXPECT_EQ("12"_q, at(json, "CommsTotal"));
     EXPECT_EQ("200"_q, at(json, "ExpertInvoicesNetTotal"));

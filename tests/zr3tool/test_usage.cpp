@@ -5,8 +5,7 @@
 
 namespace {
 
-class Usage : public clsToolTest {
-};
+class Usage : public clsToolTest { };
 
 } // namespace
 
@@ -61,7 +60,7 @@ TEST_F(Usage, HelpIsTheSameUsageAsAResult)
     EXPECT_EQ("", help.err);
     EXPECT_EQ(run({}).err, help.out);
     for (const char *word : {"totals", "export", "check", "save", "--force", "--templates", "--keep-sheets", "--quiet",
-                             "--help", "--version"})
+             "--help", "--version"})
         EXPECT_TRUE(help.out.contains(word)) << word;
 }
 
@@ -88,7 +87,7 @@ TEST_F(Usage, AResultThatCanNotBeWrittenIsAFailure)
         GTEST_SKIP() << "this system has no device that is always full";
     const QString claim = mdSamplePath("housing-typical.zr3"_q);
     for (const QStringList &arguments :
-         {QStringList {"totals"_q, claim}, {"check"_q, claim}, {"--help"_q}, {"--version"_q}}) {
+        {QStringList {"totals"_q, claim}, {"check"_q, claim}, {"--help"_q}, {"--version"_q}}) {
         const clsToolResult result = run(arguments, "/dev/full"_q);
         EXPECT_EQ(4, result.status) << arguments.join(u' ').toStdString();
         EXPECT_EQ("Standard output: The result could not be written.\n", result.err);

@@ -2,34 +2,18 @@
 
 #include "formdata/clsZR3Form.h"
 #include "shell/clsFileSystem.h"
+#include "tests/support/clsFolderTest.h"
 #include "tests/support/clsScriptedUserInterface.h"
 #include "tests/support/mdExpectError.h"
 #include "tests/support/mdTestPrinting.h"
 
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
 /// A test that loads and saves claims: a folder of its own and a scripted user.
-class clsFormTest : public testing::Test {
+class clsFormTest : public clsFolderTest {
 protected:
-    QString path(const char *name) const { return folder.filePath(QString::fromLatin1(name)); }
-
-    QString put(const char *name, const QByteArray &bytes) const
-    {
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        EXPECT_EQ(bytes.size(), file.write(bytes));
-        return path(name);
-    }
-    static QByteArray bytesOf(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArrayLiteral("(no file)");
-    }
-
-    QTemporaryDir folder;
     clsScriptedUserInterface user;
 
 private:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "formdata/clsZR3Form.h"
+#include "tests/support/clsFolderTest.h"
 #include "tests/support/clsScriptedUserInterface.h"
 #include "tests/support/mdOrdinaryUser.h"
 #include "tests/support/mdTestPaths.h"
@@ -13,7 +14,6 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -38,7 +38,7 @@ struct clsToolResult {
 };
 
 /// A test that runs the tool in a folder of its own, without a display and with a configuration of its own.
-class clsToolTest : public testing::Test {
+class clsToolTest : public clsFolderTest {
 protected:
     void SetUp() override
     {
@@ -104,19 +104,6 @@ protected:
         };
     }
 
-    QString path(const char *name) const { return folder.filePath(QString::fromUtf8(name)); }
-    QString put(const char *name, const QByteArray &bytes) const
-    {
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        EXPECT_EQ(bytes.size(), file.write(bytes));
-        return path(name);
-    }
-    static QByteArray bytesOf(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArrayLiteral("(no file)");
-    }
     /// Writes a claim as a file of the folder.
     QString putClaim(const clsZR3Form &form, const char *name = "claim.zr3") const
     {
@@ -155,6 +142,4 @@ protected:
         item->Code = "ACT"_q;
         return item;
     }
-
-    QTemporaryDir folder;
 };

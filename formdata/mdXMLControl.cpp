@@ -51,6 +51,13 @@ bool readsAsItStands(const char *content)
     return true;
 }
 
+/// A text too short for so many of the shortest tags need not be counted through.
+bool hasTooManyTags(const QByteArray &text)
+{
+    constexpr qsizetype ShortestTag = 3;
+    return text.size() > MostTags * ShortestTag && text.count('<') > MostTags;
+}
+
 } // namespace
 
 QByteArray XMLEncodeText(const QString &text)
@@ -67,10 +74,10 @@ QString XMLDecodeText(const char *content)
 
 clsXMLElement XMLLoadElement(const QString &xml, const char *name)
 {
-    // The parser would take a zero for the end.
-    if (xml.contains(QChar(0)) || xml.count(u'<') > MostTags)
-        return {};
     const QByteArray utf8 = xml.toUtf8();
+    // The parser would take a zero for the end.
+    if (utf8.contains('\0') || hasTooManyTags(utf8))
+        return {};
     auto document = std::make_shared<pugi::xml_document>();
     if (!document->load_buffer(utf8.constData(), size_t(utf8.size()), ParseOptions, pugi::encoding_utf8))
         return {};

@@ -518,7 +518,7 @@ TEST_F(Codes, ACodeIsAcceptedInSilence)
 
 TEST_F(Codes, AnythingElseIsToldAndRefused)
 {
-    for (const char *code : {"", "dot", "DO", "DOTT", "DOT ", "XXX"}) {
+    for (const char *code : {"", "dot", "DO", "DOTT", "DOT ", "QQQ"}) {
         claim.user.messages.clear();
         EXPECT_FALSE(mdCheckScheduleOfTimeCode(QString::fromLatin1(code))) << code;
         ASSERT_EQ(1u, claim.user.messages.size());

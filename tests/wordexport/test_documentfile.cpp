@@ -76,6 +76,17 @@ TEST_F(mdDocumentFile, AWorkingFileIsNewAndNeverWrittenThroughALink)
     EXPECT_FALSE(QFileInfo(path(QStringLiteral("sheet.doc"))).isSymLink());
 }
 
+TEST_F(mdDocumentFile, AWorkingFileOnAFullDiskLeavesNothing)
+{
+    int error = 0;
+    {
+        const clsFileSizeLimit limit(1000);
+        error = errorOf([&] { mdWriteWorkingFile(path(QStringLiteral("a.doc")), QByteArray(5000, 'x')); });
+    }
+    EXPECT_EQ(error, clsRunTimeError::DiskFull);
+    EXPECT_EQ(names(), QStringList());
+}
+
 TEST_F(mdDocumentFile, AWorkingFileInAFolderThatIsNotThereIsPathNotFound)
 {
     EXPECT_EQ(

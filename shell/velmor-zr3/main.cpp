@@ -1,0 +1,10 @@
+#include "controls/mdTheme.h"
+
+#include <QApplication>
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    mdApplyTheme(application);
+    return 0;
+}

@@ -24,6 +24,7 @@ ITEMS = 10000
 REPETITIONS = 9
 PROCESS_RUNS = 15
 WRITER_RUNS = 3
+SPLASH = 750
 
 rows = []
 notes = []
@@ -121,6 +122,28 @@ def memory_row(build):
                f"held afterwards {full['held'] / 1024:.0f} MB")
 
 
+def start_row(build):
+    """From the start of the process to a window that waits for its user, as the clock has it."""
+    def start(folder, *claim):
+        surroundings = os.environ | {"QT_QPA_PLATFORM": "offscreen", "HOME": folder, "XDG_CONFIG_HOME": folder}
+        begun = time.perf_counter()
+        with subprocess.Popen([build / "benchmarks" / "zr3-start-window", *claim], env=surroundings,
+                              stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True) as program:
+            told = program.stdout.readline()
+            seconds = time.perf_counter() - begun
+        if told != "usable\n":
+            sys.exit("The window did not come up.")
+        return seconds * 1000 - SPLASH
+
+    with tempfile.TemporaryDirectory() as folder:
+        empty = statistics.median(start(folder) for _ in range(PROCESS_RUNS))
+        claim = Path(folder) / "claim.zr3"
+        subprocess.run([build / "benchmarks" / "zr3-make-claim", str(ITEMS), claim], check=True)
+        full = statistics.median(start(folder, claim) for _ in range(3))
+    row("Start to a usable window, ms", empty, 300,
+        detail=f"without the splash's {SPLASH} ms; on a claim of {ITEMS:,} items {full:,.0f} ms")
+
+
 def machine():
     model = next((line.split(":", 1)[1].strip() for line in Path("/proc/cpuinfo").read_text().splitlines()
                   if line.startswith("model name")), platform.machine())
@@ -137,6 +160,7 @@ def main(build):
     export_row(medians)
     writer_row(build)
     memory_row(build)
+    start_row(build)
     widths = [max(len(line[i]) for line in rows) for i in range(3)]
     for line in rows:
         print("  ".join([line[0].ljust(widths[0]), line[1].rjust(widths[1]), line[2].ljust(widths[2]), line[3]]))

@@ -1,0 +1,43 @@
+// Starts the desktop program as a user does, says on standard output when its main window can be used, and ends.
+// Usable is the moment in which the window has been painted and waits for its user with nothing left to do.
+
+#include "shell/mdProgramFolder.h"
+#include "shell/mdRunProgram.h"
+
+#include <QApplication>
+#include <QTimer>
+#include <QWidget>
+
+#include <cstdio>
+
+namespace {
+
+class clsFirstPaint final : public QObject {
+public:
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint && object->objectName() == QLatin1String("frmMain"))
+            QTimer::singleShot(0, [] {
+                std::puts("usable");
+                std::fflush(stdout);
+                std::_Exit(0);
+            });
+        return false;
+    }
+};
+
+void watchForTheWindow()
+{
+    static clsFirstPaint firstPaint;
+    qApp->installEventFilter(&firstPaint);
+}
+
+} // namespace
+
+Q_COREAPP_STARTUP_FUNCTION(watchForTheWindow)
+
+int main(int argc, char **argv)
+{
+    SetProgramFolder(QStringLiteral(ZR3_PROGRAM_FOLDER));
+    return RunProgram(argc, argv);
+}

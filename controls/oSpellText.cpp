@@ -182,10 +182,7 @@ int oSpellText::topOfFirstLine() const
 
 int oSpellText::heightOfLines(int lines) const
 {
-    // A line and 6 above and below, but no less than 30 at 10 points, as lists and typed boxes have it.
-    const int line = fontMetrics().height();
-    const int least = qRound(30 * font().pointSizeF() / 10);
-    return qMax(line + Theme::Space12, least) + (lines - 1) * line;
+    return Theme::boxHeight(fontMetrics()) + (lines - 1) * fontMetrics().height();
 }
 
 QSize oSpellText::sizeHint() const

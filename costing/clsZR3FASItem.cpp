@@ -2,8 +2,19 @@
 
 #include "costing/mdDateSerial.h"
 #include "costing/mdPercentageCalculate.h"
+#include "formdata/mdReadDerived.h"
 #include "shell/mdNumberText.h"
 #include "costing/mdSumOf.h"
+
+std::span<const clsXMLDerivedProperty> clsZR3FASItem::DerivedProperties()
+{
+    // clang-format off
+    static constexpr clsXMLDerivedProperty table[] = {
+        {"DDateSerial", &mdReadDerived<&clsZR3FASItem::DDateSerial>},
+    };
+    // clang-format on
+    return table;
+}
 
 QString clsZR3FASItem::DDateSerial() const
 {

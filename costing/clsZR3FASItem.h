@@ -8,6 +8,8 @@ class clsZR3Form;
 /// A hearing under the Family Advocacy Scheme, paid by units and fixed payments rather than by time.
 class clsZR3FASItem : public clsZR3Item {
 public:
+    static std::span<const clsXMLDerivedProperty> DerivedProperties();
+
     explicit clsZR3FASItem(clsZR3Form &, pugi::xml_node node = {})
         : clsZR3Item(clsXMLPropertyTable::of<clsZR3FASItem>(), "xmlZR3FASItem", node)
     { }

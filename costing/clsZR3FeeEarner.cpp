@@ -1,7 +1,18 @@
 #include "costing/clsZR3FeeEarner.h"
 
 #include "formdata/clsZR3Form.h"
+#include "formdata/mdReadDerived.h"
 #include "shell/mdExisting.h"
+
+std::span<const clsXMLDerivedProperty> clsZR3FeeEarner::DerivedProperties()
+{
+    // clang-format off
+    static constexpr clsXMLDerivedProperty table[] = {
+        {"GroupReference", &mdReadDerived<&clsZR3FeeEarner::GroupReference>},
+    };
+    // clang-format on
+    return table;
+}
 
 std::shared_ptr<clsZR3FeeEarnerGroup> clsZR3FeeEarner::Group() const
 {

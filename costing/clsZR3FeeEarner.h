@@ -10,6 +10,8 @@ class clsZR3Form;
 /// A person who did work on the case: a short code, a group that sets the rates, and the counts of letters and calls.
 class clsZR3FeeEarner : public clsZR3Item {
 public:
+    static std::span<const clsXMLDerivedProperty> DerivedProperties();
+
     explicit clsZR3FeeEarner(clsZR3Form &form, pugi::xml_node node = {})
         : clsZR3Item(clsXMLPropertyTable::of<clsZR3FeeEarner>(), "xmlZR3FeeEarner", node)
         , m_form(&form)

@@ -1,6 +1,7 @@
 #include "costing/clsZR3FeeEarnerGroup.h"
 
 #include "formdata/clsZR3Form.h"
+#include "formdata/mdReadDerived.h"
 
 namespace {
 
@@ -15,6 +16,18 @@ template <class FeeEarners, class Count> int sum(const FeeEarners &feeEarners, C
 }
 
 } // namespace
+
+std::span<const clsXMLDerivedProperty> clsZR3FeeEarnerGroup::DerivedProperties()
+{
+    // clang-format off
+    static constexpr clsXMLDerivedProperty table[] = {
+        {"Calls",      &mdReadDerived<&clsZR3FeeEarnerGroup::Calls>},
+        {"LettersIn",  &mdReadDerived<&clsZR3FeeEarnerGroup::LettersIn>},
+        {"LettersOut", &mdReadDerived<&clsZR3FeeEarnerGroup::LettersOut>},
+    };
+    // clang-format on
+    return table;
+}
 
 std::vector<std::shared_ptr<clsZR3FeeEarner>> clsZR3FeeEarnerGroup::FeeEarnersCollection() const
 {

@@ -12,6 +12,8 @@ class clsZR3Form;
 /// its own.
 class clsZR3FeeEarnerGroup : public clsZR3Item {
 public:
+    static std::span<const clsXMLDerivedProperty> DerivedProperties();
+
     explicit clsZR3FeeEarnerGroup(clsZR3Form &form, pugi::xml_node node = {})
         : clsZR3Item(clsXMLPropertyTable::of<clsZR3FeeEarnerGroup>(), "xmlZR3FeeEarnerGroup", node)
         , m_form(&form)

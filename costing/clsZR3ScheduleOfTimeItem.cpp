@@ -4,7 +4,22 @@
 #include "costing/mdPercentageCalculate.h"
 #include "costing/mdTimeToMoney.h"
 #include "formdata/clsZR3Form.h"
+#include "formdata/mdReadDerived.h"
 #include "shell/mdExisting.h"
+
+std::span<const clsXMLDerivedProperty> clsZR3ScheduleOfTimeItem::DerivedProperties()
+{
+    // clang-format off
+    static constexpr clsXMLDerivedProperty table[] = {
+        {"SOTItemNumber",      &mdReadDerived<&clsZR3ScheduleOfTimeItem::SOTItemNumber>},
+        {"FeeEarnerReference", &mdReadDerived<&clsZR3ScheduleOfTimeItem::FeeEarnerReference>},
+        {"FeeEarnerInitials",  &mdReadDerived<&clsZR3ScheduleOfTimeItem::FeeEarnerInitials>},
+        {"DDateSerial",        &mdReadDerived<&clsZR3ScheduleOfTimeItem::DDateSerial>},
+        {"TimeColumn",         &mdReadDerived<&clsZR3ScheduleOfTimeItem::TimeColumn>},
+    };
+    // clang-format on
+    return table;
+}
 
 std::shared_ptr<clsZR3FeeEarner> clsZR3ScheduleOfTimeItem::FeeEarner() const
 {

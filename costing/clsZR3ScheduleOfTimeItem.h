@@ -17,6 +17,8 @@ public:
     enum Column { AttendanceAndConferences = 0, Documents = 1, Hearings = 2, TravelTime = 3, WaitingTime = 4 };
     static constexpr int Columns = 5;
 
+    static std::span<const clsXMLDerivedProperty> DerivedProperties();
+
     explicit clsZR3ScheduleOfTimeItem(clsZR3Form &form, pugi::xml_node node = {})
         : clsZR3Item(clsXMLPropertyTable::of<clsZR3ScheduleOfTimeItem>(), "xmlZR3ScheduleOfTimeItem", node)
         , m_form(&form)

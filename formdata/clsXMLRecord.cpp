@@ -83,10 +83,10 @@ void clsXMLField::writeLong(int value)
     setContent(QByteArray::number(value).constData());
 }
 
-clsXMLField *clsXMLRecord::field(QStringView name)
+clsXMLField *clsXMLRecord::field(QStringView name, Qt::CaseSensitivity letters)
 {
     for (const clsXMLPropertyPlace &row : m_table->rows())
-        if (name == QLatin1String(row.property->name))
+        if (const QLatin1String own(row.property->name); own.size() == name.size() && name.compare(own, letters) == 0)
             return reinterpret_cast<clsXMLField *>(reinterpret_cast<char *>(this) + row.offset);
     return nullptr;
 }

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <span>
 #include <vector>
 
 class clsXMLRecord;
@@ -28,24 +29,43 @@ struct clsXMLPropertyPlace {
     std::ptrdiff_t offset;
 };
 
+/// A property that stands in no element: its name, and how its value is read, as text. `argument` is null where the
+/// reader of the property gave none.
+struct clsXMLDerivedProperty {
+    const char *name;
+    QString (*read)(const clsXMLRecord &record, const QString *argument);
+};
+
 /// The properties of one class of records in the order of their declaration. It fills itself while the first record
-/// of the class is made, from the same lines that declare the properties.
+/// of the class is made, from the same lines that declare the properties. What a class derives stands in a table of its
+/// own, `DerivedProperties()`, if it has one.
 class clsXMLPropertyTable {
 public:
     template <class Record> static clsXMLPropertyTable &of()
     {
-        static clsXMLPropertyTable table;
-        return table;
+        if constexpr (requires { Record::DerivedProperties(); }) {
+            static clsXMLPropertyTable table(Record::DerivedProperties());
+            return table;
+        } else {
+            static clsXMLPropertyTable table({});
+            return table;
+        }
     }
 
     const std::vector<clsXMLPropertyPlace> &rows() const { return m_rows; }
+    std::span<const clsXMLDerivedProperty> derived() const { return m_derived; }
 
 private:
+    explicit clsXMLPropertyTable(std::span<const clsXMLDerivedProperty> derived)
+        : m_derived(derived)
+    { }
+
     friend class clsXMLRecord;
     friend class clsXMLField;
     void recordBegins() { m_complete = !m_rows.empty(); }
 
     std::vector<clsXMLPropertyPlace> m_rows;
+    std::span<const clsXMLDerivedProperty> m_derived;
     bool m_complete = false;
 };
 
@@ -92,9 +112,14 @@ public:
 
     /// The record's properties, in the order of their declaration.
     const std::vector<clsXMLPropertyPlace> &properties() const { return m_table->rows(); }
+    /// The properties that are computed.
+    std::span<const clsXMLDerivedProperty> derivedProperties() const { return m_table->derived(); }
     /// The property of that name, or nothing.
-    clsXMLField *field(QStringView name);
-    const clsXMLField *field(QStringView name) const { return const_cast<clsXMLRecord *>(this)->field(name); }
+    clsXMLField *field(QStringView name, Qt::CaseSensitivity letters = Qt::CaseSensitive);
+    const clsXMLField *field(QStringView name, Qt::CaseSensitivity letters = Qt::CaseSensitive) const
+    {
+        return const_cast<clsXMLRecord *>(this)->field(name, letters);
+    }
 
 protected:
     explicit clsXMLRecord(clsXMLPropertyTable &table)

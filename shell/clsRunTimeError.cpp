@@ -30,6 +30,9 @@ constexpr Description Descriptions[] = {
     {clsRunTimeError::PathNotFound, "Path not found"},
     {clsRunTimeError::ObjectNotSet, "Object variable or With block variable not set"},
     {clsRunTimeError::InvalidFileFormat, "Invalid file format"},
+    {clsRunTimeError::NoSuchProperty, "Object doesn't support this property or method"},
+    {clsRunTimeError::ArgumentNotOptional, "Argument not optional"},
+    {clsRunTimeError::WrongNumberOfArguments, "Wrong number of arguments or invalid property assignment"},
 };
 
 struct SystemError {

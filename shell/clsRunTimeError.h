@@ -30,6 +30,9 @@ public:
         PathNotFound = 76,
         ObjectNotSet = 91,
         InvalidFileFormat = 321,
+        NoSuchProperty = 438,
+        ArgumentNotOptional = 449,
+        WrongNumberOfArguments = 450,
     };
 
     /// The error with its standard description.

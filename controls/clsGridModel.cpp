@@ -1,0 +1,178 @@
+#include "controls/clsGridModel.h"
+
+#include "formdata/mdLateProperty.h"
+#include "shell/clsRunTimeError.h"
+#include "shell/mdNumberText.h"
+#include "shell/mdSetProgress.h"
+
+namespace {
+
+/// Lists of up to this many rows fill at once, and no bar flickers for them.
+constexpr int RowsWithoutProgress = 250;
+
+constexpr char16_t TickMark = u'\u2713';
+constexpr char16_t CrossMark = u'\u2717';
+
+/// Takes the bar away again, also when an item can't be read.
+class clsFillProgress {
+public:
+    explicit clsFillProgress(int count)
+        : m_count(count)
+    { }
+    ~clsFillProgress()
+    {
+        if (m_count > RowsWithoutProgress)
+            mdClearProgress();
+    }
+    clsFillProgress(const clsFillProgress &) = delete;
+    void reached(int row) const
+    {
+        if (row > RowsWithoutProgress)
+            mdSetProgress(row, m_count, QStringLiteral("Loading, please wait"));
+    }
+
+private:
+    int m_count;
+};
+
+QString propertyText(const clsZR3Item &item, const clsGridColumn &column)
+{
+    if (column.helperProperty.isEmpty())
+        return ReadProperty(item, column.property);
+    if (!column.helper)
+        throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
+    return ReadProperty(item, column.property, ReadProperty(*column.helper, column.helperProperty));
+}
+
+} // namespace
+
+clsGridCell clsGridCell::of(const QString &text)
+{
+    // The rule goes by the text alone: whatever reads as one of these words is shown so, a description too.
+    if (text == QLatin1String("True"))
+        return {text, Tick};
+    if (text == QLatin1String("False"))
+        return {text, Cross};
+    if (text == QLatin1String("01/01/1700"))
+        return {QStringLiteral("-"), Text};
+    return {text, Text};
+}
+
+void clsGridModel::setColumns(std::vector<clsGridColumn> columns, bool orderable)
+{
+    beginResetModel();
+    m_rows.clear();
+    m_columns = std::move(columns);
+    m_orderable = orderable;
+    endResetModel();
+}
+
+int clsGridModel::firstShownColumn() const
+{
+    for (size_t column = 0; column < m_columns.size(); ++column)
+        if (m_columns[column].isShown())
+            return int(column);
+    return 0;
+}
+
+void clsGridModel::fill(const clsGridItems &items)
+{
+    std::vector<Row> rows = readRows(items);
+    sort(rows);
+    beginResetModel();
+    m_rows = std::move(rows);
+    endResetModel();
+}
+
+std::vector<clsGridModel::Row> clsGridModel::readRows(const clsGridItems &items) const
+{
+    const clsFillProgress progress(int(items.size()));
+    std::vector<Row> rows;
+    rows.reserve(items.size());
+    for (const std::shared_ptr<clsZR3Item> &item : items) {
+        progress.reached(int(rows.size()) + 1);
+        Row &row = rows.emplace_back(Row {item, item->Index, 0, {}});
+        row.cells.reserve(m_columns.size());
+        for (const clsGridColumn &column : m_columns)
+            row.cells.push_back(clsGridCell::of(propertyText(*item, column)));
+        if (m_orderable)
+            row.orderID = LongFromText(ReadProperty(*item, u"OrderID"));
+    }
+    return rows;
+}
+
+/// Key columns as text, ascending; an orderable list by its order after them. Letters compare without regard to their
+/// case and otherwise by their codes: the same order on every machine. Rows that are equal keep the items' order.
+void clsGridModel::sort(std::vector<Row> &rows) const
+{
+    std::vector<size_t> keys;
+    for (size_t column = 0; column < m_columns.size(); ++column)
+        if (m_columns[column].sortKey)
+            keys.push_back(column);
+    std::stable_sort(rows.begin(), rows.end(), [&](const Row &left, const Row &right) {
+        for (const size_t key : keys)
+            if (const int order = left.cells[key].text.compare(right.cells[key].text, Qt::CaseInsensitive))
+                return order < 0;
+        return left.orderID < right.orderID;
+    });
+}
+
+void clsGridModel::clearRows()
+{
+    beginResetModel();
+    m_rows.clear();
+    endResetModel();
+}
+
+void clsGridModel::renumber()
+{
+    for (int row = 0; row < rowCount(); ++row)
+        writeOrder(row, row + 1);
+}
+
+void clsGridModel::writeOrder(int row, int orderID)
+{
+    m_rows[size_t(row)].orderID = orderID;
+    WriteProperty(*item(row), u"OrderID", QString::number(orderID));
+}
+
+int clsGridModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(m_rows.size());
+}
+
+int clsGridModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(m_columns.size());
+}
+
+QVariant clsGridModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const clsGridCell &shown = cell(index.row(), index.column());
+    switch (role) {
+    case Qt::DisplayRole:
+        if (shown.kind == clsGridCell::Text)
+            return shown.text;
+        return QString(QChar(shown.kind == clsGridCell::Tick ? TickMark : CrossMark));
+    case Qt::TextAlignmentRole: return int(mdGridAlignment(m_columns[size_t(index.column())].alignment));
+    case Qt::AccessibleTextRole:
+        if (shown.kind == clsGridCell::Text)
+            return shown.text;
+        return shown.kind == clsGridCell::Tick ? QStringLiteral("yes") : QStringLiteral("no");
+    default: return {};
+    }
+}
+
+QVariant clsGridModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
+        return {};
+    const clsGridColumn &column = m_columns[size_t(section)];
+    if (role == Qt::DisplayRole)
+        return column.caption;
+    if (role == Qt::TextAlignmentRole)
+        return int(mdGridAlignment(column.headingAlignment));
+    return {};
+}

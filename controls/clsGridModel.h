@@ -1,0 +1,68 @@
+#pragma once
+
+#include "controls/clsGridColumn.h"
+#include "formdata/clsZR3Item.h"
+
+#include <QAbstractTableModel>
+
+#include <memory>
+#include <vector>
+
+using clsGridItems = std::vector<std::shared_ptr<clsZR3Item>>;
+
+/// What a cell shows: a text, or the mark that stands for a boolean.
+struct clsGridCell {
+    enum Kind { Text, Tick, Cross };
+
+    QString text; ///< of a mark, the word that it stands for
+    Kind kind = Text;
+
+    /// The text of a property by the grid's rule.
+    static clsGridCell of(const QString &text);
+};
+
+/// The rows of an `oSGrid`, read once from the items at each fill and kept until the next: painting and scrolling read
+/// nothing from the claim. It knows of an item no more than its `Index`, its `OrderID` and the names in the columns.
+class clsGridModel : public QAbstractTableModel {
+    Q_OBJECT
+
+public:
+    using QAbstractTableModel::QAbstractTableModel;
+
+    /// Gives the grid its columns and takes all its rows away.
+    void setColumns(std::vector<clsGridColumn> columns, bool orderable);
+    const std::vector<clsGridColumn> &columns() const { return m_columns; }
+    int firstShownColumn() const;
+
+    /// Reads the items anew and sorts them. When an item can't be read, the rows stay as they were.
+    void fill(const clsGridItems &items);
+    void clearRows();
+    /// Writes each item's place, from 1, into its `OrderID`.
+    void renumber();
+    void writeOrder(int row, int orderID);
+
+    const clsGridCell &cell(int row, int column) const { return m_rows[size_t(row)].cells[size_t(column)]; }
+    /// The `Index` that the item had when it was read.
+    int itemData(int row) const { return m_rows[size_t(row)].itemData; }
+    const std::shared_ptr<clsZR3Item> &item(int row) const { return m_rows[size_t(row)].item; }
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    struct Row {
+        std::shared_ptr<clsZR3Item> item;
+        int itemData;
+        int orderID;
+        std::vector<clsGridCell> cells;
+    };
+
+    std::vector<Row> readRows(const clsGridItems &items) const;
+    void sort(std::vector<Row> &rows) const;
+
+    std::vector<clsGridColumn> m_columns;
+    std::vector<Row> m_rows;
+    bool m_orderable = false;
+};

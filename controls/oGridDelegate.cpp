@@ -1,0 +1,131 @@
+#include "controls/oGridDelegate.h"
+
+#include "controls/mdGridMetrics.h"
+#include "controls/mdTheme.h"
+
+#include <QAbstractItemView>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QTextDocument>
+#include <QToolTip>
+
+namespace {
+
+constexpr int BarWidth = 3;
+constexpr int WrappedMargin = 4;
+
+QRect insideOf(const QRect &cell)
+{
+    return cell.adjusted(Theme::Space8, 0, -Theme::Space8, -1);
+}
+
+QFontMetrics metricsOf(const QFont &font)
+{
+    return QFontMetrics(font);
+}
+
+const clsGridModel &modelOf(const QModelIndex &index)
+{
+    return *static_cast<const clsGridModel *>(index.model());
+}
+
+} // namespace
+
+oGridDelegate::oGridDelegate(QObject *parent)
+    : QStyledItemDelegate(parent)
+    , m_mark {mdGridMarkFont(), metricsOf(mdGridMarkFont())}
+{ }
+
+void oGridDelegate::takeFonts(const std::vector<clsGridColumn> &columns)
+{
+    m_mark = {mdGridMarkFont(), metricsOf(mdGridMarkFont())};
+    m_columns.clear();
+    for (const clsGridColumn &column : columns) {
+        QFont font = mdGridCellFont();
+        font.setBold(column.bold);
+        font.setItalic(column.italic);
+        font.setUnderline(column.underline || column.forceUnderline);
+        m_columns.push_back({font, metricsOf(font)});
+    }
+}
+
+int oGridDelegate::wrappedHeight(const QString &text, int column, int columnWidth) const
+{
+    const QRect room = insideOf(QRect(0, 0, columnWidth, QWIDGETSIZE_MAX));
+    return m_columns[size_t(column)].metrics.boundingRect(room, Qt::TextWordWrap, text).height() + 2 * WrappedMargin;
+}
+
+QSize oGridDelegate::sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const
+{
+    return {0, mdGridRowHeight()};
+}
+
+void oGridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    const QRect &cell = option.rect;
+    if (option.state & QStyle::State_Selected) {
+        painter->fillRect(cell, Theme::Selected);
+        if (index.column() == modelOf(index).firstShownColumn())
+            painter->fillRect(QRect(cell.left(), cell.top(), BarWidth, cell.height()), Theme::Purple);
+    } else if (index.row() == m_hoveredRow && (option.state & QStyle::State_Enabled)) {
+        painter->fillRect(cell, Theme::Hover);
+    }
+    painter->fillRect(QRect(cell.left(), cell.bottom(), cell.width(), 1), Theme::Hairline);
+
+    const clsGridCell &shown = modelOf(index).cell(index.row(), index.column());
+    if (shown.kind == clsGridCell::Text)
+        paintText(*painter, option, modelOf(index).columns()[size_t(index.column())], index.column(), shown.text);
+    else
+        paintMark(*painter, option, index);
+}
+
+void oGridDelegate::paintMark(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    const bool tick = modelOf(index).cell(index.row(), index.column()).kind == clsGridCell::Tick;
+    QColor colour = tick ? Theme::Ink : option.state & QStyle::State_Selected ? Theme::Ink2 : Theme::Ink3;
+    if (!(option.state & QStyle::State_Enabled))
+        colour = Theme::Ink3;
+    painter.setFont(m_mark.font);
+    painter.setPen(colour);
+    painter.drawText(insideOf(option.rect), index.data(Qt::TextAlignmentRole).toInt(), index.data().toString());
+}
+
+bool oGridDelegate::isCut(
+    const QStyleOptionViewItem &option, const clsGridColumn &column, int number, const QString &text) const
+{
+    return !mdGridWraps(column.alignment)
+        && m_columns[size_t(number)].metrics.horizontalAdvance(text) > insideOf(option.rect).width();
+}
+
+void oGridDelegate::paintText(QPainter &painter, const QStyleOptionViewItem &option, const clsGridColumn &column,
+    int number, const QString &text) const
+{
+    const Font &font = m_columns[size_t(number)];
+    const QRect inside = insideOf(option.rect);
+    painter.setFont(font.font);
+    painter.setPen(option.state & QStyle::State_Enabled ? column.colour : Theme::Ink3);
+    const int flags = int(mdGridAlignment(column.alignment));
+    if (mdGridWraps(column.alignment))
+        painter.drawText(inside, flags | Qt::TextWordWrap, text);
+    else if (isCut(option, column, number, text))
+        painter.drawText(
+            inside, flags | Qt::TextSingleLine, font.metrics.elidedText(text, Qt::ElideRight, inside.width()));
+    else
+        painter.drawText(inside, flags | Qt::TextSingleLine, text);
+}
+
+bool oGridDelegate::helpEvent(
+    QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option, const QModelIndex &index)
+{
+    if (event->type() != QEvent::ToolTip || !index.isValid())
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    const clsGridCell &shown = modelOf(index).cell(index.row(), index.column());
+    const clsGridColumn &column = modelOf(index).columns()[size_t(index.column())];
+    if (shown.kind == clsGridCell::Text && isCut(option, column, index.column(), shown.text))
+        // A claim's text may hold what reads as mark-up.
+        QToolTip::showText(event->globalPos(),
+            Qt::mightBeRichText(shown.text) ? shown.text.toHtmlEscaped() : shown.text, view->viewport(), option.rect);
+    else
+        QToolTip::hideText();
+    return true;
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "controls/clsGridModel.h"
+
+#include <QFontMetrics>
+#include <QStyledItemDelegate>
+
+#include <vector>
+
+/// Draws the cells of a grid. Fonts are made once for a change of font and columns, not for each cell.
+class oGridDelegate : public QStyledItemDelegate {
+    Q_OBJECT
+
+public:
+    explicit oGridDelegate(QObject *parent = nullptr);
+
+    /// To be called when the font or the columns have changed.
+    void takeFonts(const std::vector<clsGridColumn> &columns);
+    void setHoveredRow(int row) { m_hoveredRow = row; }
+    int hoveredRow() const { return m_hoveredRow; }
+
+    /// The height that a wrapped text needs in a column of that width.
+    int wrappedHeight(const QString &text, int column, int columnWidth) const;
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+    /// The whole text of a cell that can't show it.
+    bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
+        const QModelIndex &index) override;
+
+private:
+    struct Font {
+        QFont font;
+        QFontMetrics metrics;
+    };
+
+    void paintMark(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
+    void paintText(QPainter &painter, const QStyleOptionViewItem &option, const clsGridColumn &column, int number,
+        const QString &text) const;
+    bool isCut(const QStyleOptionViewItem &option, const clsGridColumn &column, int number, const QString &text) const;
+
+    Font m_mark;
+    std::vector<Font> m_columns;
+    int m_hoveredRow = -1;
+};

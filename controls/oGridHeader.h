@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QHeaderView>
+
+/// The end of the headings' band, above the scroll bar beside the rows.
+class oGridHeaderEnd : public QWidget {
+public:
+    using QWidget::QWidget;
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};
+
+/// The headings of a grid: captions on the canvas colour, aligned as their columns say. They are not for clicking,
+/// moving or resizing, since the order of a list is the claim's.
+class oGridHeader : public QHeaderView {
+public:
+    explicit oGridHeader(QWidget *parent = nullptr);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintSection(QPainter *painter, const QRect &rectangle, int section) const override;
+};

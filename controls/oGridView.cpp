@@ -1,0 +1,279 @@
+#include "controls/oGridView.h"
+
+#include "controls/mdGridMetrics.h"
+#include "controls/mdTheme.h"
+#include "controls/oGridHeader.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr int FrameWidth = 2;
+constexpr int EmptyGlyphSize = 34;
+
+/// A sheet with three lines: a list, whatever it will hold.
+void paintListGlyph(QPainter &painter, const QRectF &rectangle)
+{
+    const double unit = rectangle.width() / 16;
+    painter.setPen(QPen(Theme::EdgeOff, 1.5 * unit, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawRoundedRect(rectangle.adjusted(2 * unit, unit, -2 * unit, -unit), 1.5 * unit, 1.5 * unit);
+    for (const int line : {5, 8, 11})
+        painter.drawLine(rectangle.topLeft() + QPointF(5, line) * unit, rectangle.topLeft() + QPointF(11, line) * unit);
+}
+
+} // namespace
+
+oGridView::oGridView(clsGridModel *gridModel, QWidget *parent)
+    : QTableView(parent)
+    , m_delegate(new oGridDelegate(this))
+    , m_emptyGlyph(paintListGlyph)
+{
+    setHorizontalHeader(new oGridHeader(this));
+    setModel(gridModel);
+    setItemDelegate(m_delegate);
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setTabKeyNavigation(false);
+    setShowGrid(false);
+    setWordWrap(false);
+    setCornerButtonEnabled(false);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFrameStyle(QFrame::Box | QFrame::Plain);
+    setLineWidth(FrameWidth);
+    auto *end = new oGridHeaderEnd(this);
+    end->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    addScrollBarWidget(end, Qt::AlignTop);
+    setMouseTracking(true);
+    viewport()->setMouseTracking(true);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    takeFonts();
+}
+
+void oGridView::takeFonts()
+{
+    m_delegate->takeFonts(static_cast<const clsGridModel *>(model())->columns());
+    const int height = mdGridRowHeight();
+    // The smallest height first: the style's own may be larger than a row.
+    verticalHeader()->setMinimumSectionSize(height);
+    verticalHeader()->setDefaultSectionSize(height);
+}
+
+void oGridView::setEmptyText(const QString &text)
+{
+    m_emptyText = text;
+    viewport()->update();
+}
+
+void oGridView::setEmptyGlyph(GlyphPainter glyph)
+{
+    m_emptyGlyph = std::move(glyph);
+    viewport()->update();
+}
+
+int oGridView::selectedRow() const
+{
+    const QItemSelection selection = selectionModel()->selection();
+    if (selection.isEmpty())
+        return -1;
+    return selectionModel()->isSelected(currentIndex()) ? currentIndex().row() : selection.first().top();
+}
+
+void oGridView::selectOnly(int row)
+{
+    if (row < 0 || row >= model()->rowCount()) {
+        selectionModel()->clear();
+        return;
+    }
+    const auto &gridModel = *static_cast<const clsGridModel *>(model());
+    const int column = currentIndex().isValid() ? currentIndex().column() : gridModel.firstShownColumn();
+    selectionModel()->setCurrentIndex(
+        gridModel.index(row, column), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+bool oGridView::event(QEvent *event)
+{
+    const bool result = QTableView::event(event);
+    if (event->type() == QEvent::Paint)
+        paintFrame();
+    return result;
+}
+
+/// Two pixels with the focus and one without, inside the same room, so that nothing shifts.
+void oGridView::paintFrame()
+{
+    QPainter painter(this);
+    if (hasFocus()) {
+        painter.fillRect(rect(), Theme::Purple);
+        return;
+    }
+    painter.fillRect(rect(), Theme::Grey);
+    const QRect inside = rect().adjusted(1, 1, -1, -1);
+    painter.fillRect(inside, Theme::Paper);
+    painter.fillRect(QRect(inside.topLeft(), QSize(inside.width(), horizontalHeader()->height() + 1)), Theme::Canvas);
+}
+
+bool oGridView::viewportEvent(QEvent *event)
+{
+    if (event->type() == QEvent::MouseMove)
+        hoverAt(static_cast<QMouseEvent *>(event)->position().toPoint());
+    else if (event->type() == QEvent::Leave)
+        hoverAt(QPoint(-1, -1));
+    return QTableView::viewportEvent(event);
+}
+
+void oGridView::hoverAt(const QPoint &position)
+{
+    const int row = rowAt(position.y());
+    if (row == m_delegate->hoveredRow())
+        return;
+    updateRow(m_delegate->hoveredRow());
+    m_delegate->setHoveredRow(row);
+    updateRow(row);
+}
+
+void oGridView::updateRow(int row)
+{
+    if (row >= 0)
+        viewport()->update(0, rowViewportPosition(row), viewport()->width(), rowHeight(row));
+}
+
+void oGridView::keyPressEvent(QKeyEvent *event)
+{
+    bool doDefault = true;
+    emit keyDown(event->key(), event->modifiers(), &doDefault);
+    if (!doDefault) {
+        event->accept();
+        return;
+    }
+    if (takesKey(event))
+        event->accept();
+    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        event->ignore(); // no row to open: the screen's default button may have it
+    else
+        QTableView::keyPressEvent(event);
+}
+
+bool oGridView::takesKey(QKeyEvent *event)
+{
+    const Qt::KeyboardModifiers shift = event->modifiers() & ~Qt::KeypadModifier;
+    const int key = event->key();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter)
+        return activatesSelectedRow();
+    if (shift == Qt::AltModifier && (key == Qt::Key_Up || key == Qt::Key_Down)) {
+        emit orderKeyPressed(key == Qt::Key_Up);
+        return true;
+    }
+    if (key == Qt::Key_Delete) {
+        if (selectedRow() >= 0)
+            emit deletePressed();
+        return true;
+    }
+    if (key == Qt::Key_Menu || (key == Qt::Key_F10 && shift == Qt::ShiftModifier)) {
+        askForMenuAtSelectedRow();
+        return true;
+    }
+    const QString text = event->text();
+    if ((shift & ~Qt::ShiftModifier) || text.isEmpty() || !text[0].isPrint())
+        return false;
+    emit characterTyped(text);
+    return true;
+}
+
+bool oGridView::activatesSelectedRow()
+{
+    const int row = selectedRow();
+    if (row < 0)
+        return false;
+    emit rowActivated(model()->index(row, std::max(0, currentIndex().column())));
+    return true;
+}
+
+void oGridView::askForMenuAtSelectedRow()
+{
+    const int row = selectedRow();
+    if (row < 0)
+        return;
+    const QModelIndex index = model()->index(row, static_cast<const clsGridModel *>(model())->firstShownColumn());
+    scrollTo(index);
+    const QRect cell = visualRect(index);
+    emit menuAsked(QPoint(cell.left() + Theme::Space24, cell.bottom()));
+}
+
+/// Letters do not jump by themselves: what a typed text means is the screen's own affair.
+void oGridView::keyboardSearch(const QString &) { }
+
+/// Home and End go to the first and the last row: a row is one thing here, and its cells are no stops.
+QModelIndex oGridView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    if (model()->rowCount() > 0 && (action == MoveHome || action == MoveEnd))
+        return model()->index(action == MoveHome ? 0 : model()->rowCount() - 1, std::max(0, currentIndex().column()));
+    return QTableView::moveCursor(action, modifiers);
+}
+
+void oGridView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    QTableView::mouseDoubleClickEvent(event);
+    const QModelIndex index = indexAt(event->position().toPoint());
+    if (event->button() == Qt::LeftButton && index.isValid())
+        emit rowActivated(index);
+}
+
+void oGridView::mouseReleaseEvent(QMouseEvent *event)
+{
+    QTableView::mouseReleaseEvent(event);
+    const QPoint position = event->position().toPoint();
+    const bool right = event->button() == Qt::RightButton;
+    if (right && !indexAt(position).isValid())
+        return;
+    emit mouseUp(event->button(), event->modifiers(), position);
+    if (right)
+        emit menuAsked(position);
+}
+
+/// The menu comes with the release of the button and with its keys; the desktop's own request, which comes with the
+/// press on some desktops and the release on others, would bring it a second time.
+void oGridView::contextMenuEvent(QContextMenuEvent *event)
+{
+    event->accept();
+}
+
+void oGridView::focusInEvent(QFocusEvent *event)
+{
+    QTableView::focusInEvent(event);
+    if (event->reason() != Qt::MouseFocusReason && selectedRow() < 0)
+        selectOnly(0);
+    update();
+}
+
+void oGridView::focusOutEvent(QFocusEvent *event)
+{
+    QTableView::focusOutEvent(event);
+    update();
+}
+
+void oGridView::paintEvent(QPaintEvent *event)
+{
+    QTableView::paintEvent(event);
+    if (model()->rowCount() == 0 && !m_emptyText.isEmpty())
+        paintEmptyState();
+}
+
+void oGridView::paintEmptyState()
+{
+    QPainter painter(viewport());
+    painter.setRenderHint(QPainter::Antialiasing);
+    const int size = mdGridScaled(EmptyGlyphSize);
+    const QFont font = Theme::font();
+    const QRect room = viewport()->rect().adjusted(Theme::Space8, 0, -Theme::Space8, 0);
+    const QRect words = QFontMetrics(font).boundingRect(room, Qt::AlignHCenter | Qt::TextWordWrap, m_emptyText);
+    const int height = size + Theme::Space12 + words.height();
+    const int top = room.top() + std::max(0, (room.height() - height) / 2);
+    m_emptyGlyph(painter, QRectF(room.center().x() - size / 2.0, top, size, size));
+    painter.setFont(font);
+    painter.setPen(Theme::Ink2);
+    painter.drawText(QRect(room.left(), top + size + Theme::Space12, room.width(), words.height()),
+        Qt::AlignHCenter | Qt::TextWordWrap, m_emptyText);
+}

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "controls/oGridDelegate.h"
+
+#include <QTableView>
+
+#include <functional>
+
+/// The table inside an `oSGrid`: whole rows are selected, keys and clicks are told to the grid in its own terms, and
+/// the frame shows where the focus is. It knows nothing of items and orders.
+class oGridView : public QTableView {
+    Q_OBJECT
+
+public:
+    using GlyphPainter = std::function<void(QPainter &painter, const QRectF &rectangle)>;
+
+    oGridView(clsGridModel *model, QWidget *parent);
+
+    oGridDelegate *delegate() const { return m_delegate; }
+    void setEmptyText(const QString &text);
+    const QString &emptyText() const { return m_emptyText; }
+    void setEmptyGlyph(GlyphPainter glyph);
+
+    /// The selected row, from 0, or -1. With several selected it is the one that the keys act on.
+    int selectedRow() const;
+    /// Selects one row, or none at a row that isn't there.
+    void selectOnly(int row);
+    /// Takes the fonts and heights of the theme and the columns of the model.
+    void takeFonts();
+
+signals:
+    /// A key went down; nothing is done with it when a listener sets `*doDefault` to false.
+    void keyDown(int key, Qt::KeyboardModifiers shift, bool *doDefault);
+    void rowActivated(const QModelIndex &index);
+    void orderKeyPressed(bool up);
+    void deletePressed();
+    void characterTyped(const QString &character);
+    void mouseUp(Qt::MouseButton button, Qt::KeyboardModifiers shift, const QPoint &position);
+    /// The menu of the selected row, at a place of the viewport.
+    void menuAsked(const QPoint &position);
+
+protected:
+    bool event(QEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyboardSearch(const QString &search) override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    bool takesKey(QKeyEvent *event);
+    bool activatesSelectedRow();
+    void askForMenuAtSelectedRow();
+    void hoverAt(const QPoint &position);
+    void updateRow(int row);
+    void paintFrame();
+    void paintEmptyState();
+
+    oGridDelegate *m_delegate;
+    QString m_emptyText;
+    GlyphPainter m_emptyGlyph;
+};

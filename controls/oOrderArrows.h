@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QWidget>
+
+class QAbstractButton;
+
+/// The pair of arrows that moves the selected row of a grid up or down. The keys beside them live in the grid, so that
+/// the arrows never take the focus away from the row that they move.
+class oOrderArrows : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit oOrderArrows(QWidget *parent = nullptr);
+
+    void setMovable(bool up, bool down);
+
+signals:
+    void UpClick();
+    void DownClick();
+
+private:
+    QAbstractButton *m_up;
+    QAbstractButton *m_down;
+};

@@ -1,5 +1,6 @@
 #include "shell/clsLongWork.h"
 
+#include <QCursor>
 #include <QElapsedTimer>
 #include <QGuiApplication>
 

@@ -11,7 +11,7 @@
 #include "editors/mdUnloadAndDummyTabClick.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
-#include "preview/mdExportPreview.h"
+#include "preview/mdPreview.h"
 #include "preview/oPreviewGrid.h"
 #include "shell/clsLongWork.h"
 #include "shell/frmAbout.h"
@@ -36,7 +36,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
-#include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -74,9 +73,11 @@ frmMain::frmMain(QWidget *parent)
     connect(tbSection, &oTabBar::Click, this, &frmMain::tbSection_Click);
     connect(tbSubSection, &oTabBar::Click, this, &frmMain::tbSubSection_Click);
     connect(tmrAutoBackup, &QTimer::timeout, this, &frmMain::tmrAutoBackup_Timer);
+    connect(sgPreview, &oPreviewGrid::RightClick, this, [this](const QPoint &place) {
+        menuBar()->findChild<QMenu *>(QStringLiteral("mnuPreview"))->popup(place);
+    });
     SetOpenSection([this](const QString &text) { tbSubSection_Click(-1, text); });
-    SetFormDisplay({[this] { Activate(); }, [this] { sgPreview->Clear(); },
-        [this] { oFooter->TimeSpentTimer()->StopTimer(); }});
+    SetFormDisplay({[this] { Activate(); }, mdClearPreview, [this] { oFooter->TimeSpentTimer()->StopTimer(); }});
 }
 
 frmMain::~frmMain()
@@ -98,7 +99,6 @@ void frmMain::build()
     pctPreview->setObjectName(QStringLiteral("pctPreview"));
     sgPreview->setObjectName(QStringLiteral("sgPreview"));
     sgPreview->setMaximumWidth(Theme::scaled(SheetWidth));
-    sgPreview->installEventFilter(this);
     oFooter->setObjectName(QStringLiteral("oFooter"));
     tmrAutoBackup->setObjectName(QStringLiteral("tmrAutoBackup"));
     tmrAutoBackup->setInterval(AutoBackupMilliseconds);
@@ -194,7 +194,7 @@ void frmMain::UpdateInfo()
 {
     if (!Form)
         return;
-    const QString path = Form->path();
+    const QString path = FormFilePath();
     QString title = path.isEmpty() ? QStringLiteral("New ZR3 File") : path;
     if (FormIsDirty())
         title += u'*';
@@ -204,7 +204,7 @@ void frmMain::UpdateInfo()
         setWindowTitle(QStringLiteral("Velmor ZR3"));
     oFooter->TimeSpentTimer()->setTimeSpent(Form->TimeSpent());
     oHeader->setChip(Form->FormType());
-    setWindowFilePath(FormFilePath());
+    setWindowFilePath(path);
 }
 
 void frmMain::Activate()
@@ -228,19 +228,13 @@ bool frmMain::event(QEvent *event)
     return handled;
 }
 
-void frmMain::redraw(const std::function<void(clsPreviewKind)> &routine)
+void frmMain::redraw(void (*routine)(clsPreviewKind))
 {
     if (m_redrawing)
         return;
     const QScopedValueRollback<bool> redrawing(m_redrawing, true);
     const clsLongWork work;
-    // Disabling takes the focus away, which is to be where it was.
-    QWidget *focus = focusWidget();
-    setEnabled(false);
     routine(m_previewKind);
-    setEnabled(true);
-    if (focus)
-        focus->setFocus();
 }
 
 void frmMain::drawPreview(clsPreviewKind kind)
@@ -251,7 +245,7 @@ void frmMain::drawPreview(clsPreviewKind kind)
 
 void frmMain::refreshPreview()
 {
-    if (Form && Preferences && Preferences->AutoRefreshPreview())
+    if (!m_drawingFollows && Form && Preferences && Preferences->AutoRefreshPreview())
         redraw(mdRefreshPreview);
 }
 
@@ -264,14 +258,20 @@ void frmMain::tmrAutoBackup_Timer()
 
 void frmMain::New()
 {
-    NewForm(false);
+    {
+        const QScopedValueRollback<bool> follows(m_drawingFollows, true);
+        NewForm(false);
+    }
     UpdateInfo();
     PreviewScheduleOfTime();
 }
 
 void frmMain::Open()
 {
-    OpenFormDialog(false);
+    {
+        const QScopedValueRollback<bool> follows(m_drawingFollows, true);
+        OpenFormDialog(false);
+    }
     UpdateInfo();
     PreviewScheduleOfTime();
 }
@@ -326,16 +326,6 @@ void frmMain::About()
     showModal(dialog);
 }
 
-bool frmMain::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched == sgPreview && event->type() == QEvent::MouseButtonRelease) {
-        const auto *mouse = static_cast<QMouseEvent *>(event);
-        if (mouse->button() == Qt::RightButton)
-            menuBar()->findChild<QMenu *>(QStringLiteral("mnuPreview"))->popup(mouse->globalPosition().toPoint());
-    }
-    return QMainWindow::eventFilter(watched, event);
-}
-
 void frmMain::dragEnterEvent(QDragEnterEvent *event)
 {
     if (!draggedClaim(*event->mimeData()).isEmpty())
@@ -356,10 +346,13 @@ void frmMain::openDropped(const QString &path)
 {
     if (m_modal || clsLongWork::isRunning() || !ConfirmClose())
         return;
-    OpenFormFile(path);
-    sgPreview->Clear();
-    oFooter->TimeSpentTimer()->StopTimer();
-    Activate();
+    {
+        const QScopedValueRollback<bool> follows(m_drawingFollows, true);
+        OpenFormFile(path);
+        mdClearPreview();
+        oFooter->TimeSpentTimer()->StopTimer();
+        Activate();
+    }
     PreviewScheduleOfTime();
 }
 

@@ -70,7 +70,6 @@ protected:
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     bool event(QEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void build();
@@ -79,7 +78,7 @@ private:
     void showModal(QDialog &dialog);
     void drawPreview(clsPreviewKind kind);
     void refreshPreview();
-    void redraw(const std::function<void(clsPreviewKind)> &routine);
+    void redraw(void (*routine)(clsPreviewKind));
     void openDropped(const QString &path);
 
     oHeaderBar *oHeader;
@@ -97,6 +96,8 @@ private:
     bool m_sectionOpen = false;
     bool m_loaded = false;
     bool m_redrawing = false;
+    /// A command that ends with drawing the preview is at work: to refresh it before would be to draw it twice.
+    bool m_drawingFollows = false;
     /// A modal window of this one's is up, and the activation routine follows when it is gone.
     bool m_modal = false;
     /// The routine has run for an activation that the desktop is still to tell of.

@@ -1,5 +1,6 @@
 #include "costing/clsZR3ScheduleOfTimeItem.h"
 
+#include "costing/clsSchedulePrices.h"
 #include "costing/mdDateSerial.h"
 #include "costing/mdPercentageCalculate.h"
 #include "costing/mdTimeToMoney.h"
@@ -48,30 +49,44 @@ int clsZR3ScheduleOfTimeItem::TimeColumn() const
 Money clsZR3ScheduleOfTimeItem::Rate() const
 {
     const auto group = FeeEarnerGroup();
-    const clsZR3FeeEarnerGroup &rates = mdExisting(group);
-    Money rate = MoneyFromText(rates.HourlyRate());
+    clsGroupRates rates(mdExisting(group));
+    return RateBy(rates);
+}
+
+Money clsZR3ScheduleOfTimeItem::RateBy(clsGroupRates &rates) const
+{
+    Money rate = rates.HourlyRate();
     if (Advocacy())
-        rate = MoneyFromText(rates.AdvocacyRate());
+        rate = rates.AdvocacyRate();
     if (Counsel())
-        rate = MoneyFromText(rates.CounselRate());
+        rate = rates.CounselRate();
     if (Travel() || Waiting())
-        rate = MoneyFromText(rates.TravelAndWaitingRate());
+        rate = rates.TravelAndWaitingRate();
     if (UseHourlyRate())
-        rate = MoneyFromText(rates.HourlyRate());
+        rate = rates.HourlyRate();
     return rate;
 }
 
 Money clsZR3ScheduleOfTimeItem::BasicClaim() const
 {
-    return TimeToMoney(TTime(), Rate());
+    return BasicClaimBy(Rate());
+}
+
+Money clsZR3ScheduleOfTimeItem::BasicClaimBy(Money rate) const
+{
+    return TimeToMoney(TTime(), rate);
 }
 
 Money clsZR3ScheduleOfTimeItem::TotalEnhancementPercentage() const
 {
-    Money percentage;
     const auto group = FeeEarnerGroup();
-    if (const clsZR3FeeEarnerGroup &own = mdExisting(group); own.Enhance())
-        percentage = percentage + MoneyFromText(own.EnhancementRate());
+    clsGroupRates rates(mdExisting(group));
+    return TotalEnhancementPercentageBy(rates);
+}
+
+Money clsZR3ScheduleOfTimeItem::TotalEnhancementPercentageBy(clsGroupRates &rates) const
+{
+    Money percentage = rates.Enhancement();
     if (IncludeInEnhancements()) {
         const auto listed = m_form->EnhancementByUniqueID(EnhancementUniqueID());
         percentage = percentage + MoneyFromText(mdExisting(listed).Rate());
@@ -81,7 +96,10 @@ Money clsZR3ScheduleOfTimeItem::TotalEnhancementPercentage() const
 
 Money clsZR3ScheduleOfTimeItem::Claim() const
 {
-    const QString percentage = MoneyToText(TotalEnhancementPercentage());
-    const Money basic = BasicClaim();
-    return RoundMoney2(basic + PercentageCalculate(basic, percentage));
+    return ClaimBy(BasicClaim(), TotalEnhancementPercentage());
+}
+
+Money clsZR3ScheduleOfTimeItem::ClaimBy(Money basicClaim, Money percentage)
+{
+    return RoundMoney2(basicClaim + PercentageCalculate(basicClaim, MoneyToText(percentage)));
 }

@@ -5,6 +5,7 @@
 
 #include <memory>
 
+class clsGroupRates;
 class clsZR3FeeEarner;
 class clsZR3FeeEarnerGroup;
 class clsZR3Form;
@@ -59,6 +60,12 @@ public:
     Money TotalEnhancementPercentage() const;
     /// Basic claim plus its uplift, rounded to the penny once, on the sum.
     Money Claim() const;
+
+    // The rules of the four figures, for whoever has the figures before them at hand already.
+    Money RateBy(clsGroupRates &rates) const;
+    Money BasicClaimBy(Money rate) const;
+    Money TotalEnhancementPercentageBy(clsGroupRates &rates) const;
+    static Money ClaimBy(Money basicClaim, Money percentage);
 
 private:
     clsZR3Form *m_form;

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "costing/Money.h"
+
+#include <QHash>
+#include <QString>
+
+#include <deque>
+#include <memory>
+#include <optional>
+#include <vector>
+
+class clsZR3FeeEarnerGroup;
+class clsZR3Form;
+class clsZR3ScheduleOfTimeItem;
+
+/// The rates of a fee earner group, each read from the tree when it is first asked for and then kept: a rate that no
+/// item uses may be anything.
+class clsGroupRates {
+public:
+    explicit clsGroupRates(const clsZR3FeeEarnerGroup &group)
+        : m_group(&group)
+    { }
+
+    Money HourlyRate();
+    Money AdvocacyRate();
+    Money CounselRate();
+    Money TravelAndWaitingRate();
+    /// What the group adds to every item: its rate where it enhances at all.
+    Money Enhancement();
+
+private:
+    const clsZR3FeeEarnerGroup *m_group;
+    std::optional<Money> m_hourly;
+    std::optional<Money> m_advocacy;
+    std::optional<Money> m_counsel;
+    std::optional<Money> m_travelAndWaiting;
+    std::optional<Money> m_enhancement;
+};
+
+/// All that is worked out for one item of the schedule.
+struct clsSchedulePrice {
+    QString FeeEarnerInitials;
+    QString TTime;
+    int TimeColumn = 0;
+    Money Rate;
+    Money BasicClaim;
+    Money TotalEnhancementPercentage;
+    Money Claim;
+};
+
+/// Prices each item of a schedule once, for whoever shows all of them and their totals: the figures are those of the
+/// items. It must not outlive the drawing that it is made for, since the claim may change after it.
+class clsSchedulePrices {
+public:
+    explicit clsSchedulePrices(const clsZR3Form &form);
+
+    const clsSchedulePrice &of(const clsZR3ScheduleOfTimeItem &item);
+
+private:
+    struct clsEarner {
+        QString initials;
+        clsGroupRates *rates = nullptr;
+    };
+    clsEarner &earnerOf(const QString &uniqueID);
+    void price(const clsZR3ScheduleOfTimeItem &item, clsSchedulePrice &result);
+
+    const clsZR3Form &m_form;
+    std::vector<std::optional<clsSchedulePrice>> m_prices; ///< by the item's place in the claim
+    std::deque<clsSchedulePrice> m_strangers;
+    QHash<QString, clsEarner> m_earners;
+    std::vector<std::shared_ptr<clsZR3FeeEarnerGroup>> m_groups;
+    std::vector<std::unique_ptr<clsGroupRates>> m_rates;
+};

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+/// How the text of a preview cell lies in it.
+enum class clsPreviewAlignment : unsigned char {
+    Left = 0,
+    Centred = 1,
+    Right = 2,
+    LeftWrapped = 16,
+    CentredWrapped = 17,
+};
+
+/// What a row is among the others: it decides which lines are drawn around it, and nothing else.
+enum class clsPreviewRowLook : unsigned char {
+    Ordinary,
+    Joined, ///< a band whose cells meet without a gap, so that a word can be written across two of them
+    Captions, ///< stays in view while the rows below it scroll; a line stands under it
+    Totals, ///< a line stands above it
+};
+
+struct clsPreviewCell {
+    QString text;
+    clsPreviewAlignment alignment = clsPreviewAlignment::Left;
+    bool bold = false;
+    bool underline = false;
+
+    bool wraps() const { return int(alignment) >= int(clsPreviewAlignment::LeftWrapped); }
+};
+
+/// The cells of the preview grid, counted from 1. They stand in one block, and a row to which nothing was ever written
+/// has none: half the rows of a schedule are such spacers. A place outside the grid is the subscript error.
+class clsPreviewCells {
+public:
+    int Rows() const { return int(m_rows.size()); }
+    int Columns() const { return int(m_columns.size()); }
+
+    void RemoveAll();
+    void AddColumn(const QString &key, int width);
+    void AddRow(int height);
+    void SetCell(int row, int column, clsPreviewCell cell);
+    void setRowHeight(int row, int height) { rowAt(row).height = height; }
+    void setRowLook(int row, clsPreviewRowLook look) { rowAt(row).look = look; }
+
+    const QString &ColumnKey(int column) const { return columnAt(column).key; }
+    int ColumnWidth(int column) const { return columnAt(column).width; }
+    int RowHeight(int row) const { return rowAt(row).height; }
+    clsPreviewRowLook RowLook(int row) const { return rowAt(row).look; }
+    /// True for a row to which nothing was written, not even an empty text.
+    bool IsSpacer(int row) const { return rowAt(row).firstCell == Nothing; }
+    /// True for a row with a cell that may take more than one line.
+    bool Wraps(int row) const { return rowAt(row).wraps; }
+    /// The cell, an empty one where nothing was written.
+    const clsPreviewCell &Cell(int row, int column) const;
+
+private:
+    static constexpr int Nothing = -1;
+    struct clsColumn {
+        QString key;
+        int width;
+    };
+    struct clsRow {
+        int firstCell = Nothing;
+        int height = 0;
+        clsPreviewRowLook look = clsPreviewRowLook::Ordinary;
+        bool wraps = false;
+    };
+
+    const clsRow &rowAt(int row) const;
+    clsRow &rowAt(int row) { return const_cast<clsRow &>(std::as_const(*this).rowAt(row)); }
+    const clsColumn &columnAt(int column) const;
+
+    std::vector<clsColumn> m_columns;
+    std::vector<clsRow> m_rows;
+    std::vector<clsPreviewCell> m_cells;
+};

@@ -1,0 +1,47 @@
+#include "preview/clsPreviewModel.h"
+
+#include "controls/mdTheme.h"
+
+#include <QBrush>
+
+namespace {
+
+Qt::Alignment alignmentOf(clsPreviewAlignment alignment)
+{
+    switch (alignment) {
+    case clsPreviewAlignment::Right: return Qt::AlignRight | Qt::AlignVCenter;
+    case clsPreviewAlignment::Centred:
+    case clsPreviewAlignment::CentredWrapped: return Qt::AlignCenter;
+    default: return Qt::AlignLeft | Qt::AlignVCenter;
+    }
+}
+
+} // namespace
+
+int clsPreviewModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : cells.Rows();
+}
+
+int clsPreviewModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : cells.Columns();
+}
+
+QVariant clsPreviewModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const clsPreviewCell &cell = cells.Cell(index.row() + 1, index.column() + 1);
+    switch (role) {
+    case Qt::DisplayRole: return cell.text;
+    case Qt::TextAlignmentRole: return QVariant::fromValue(alignmentOf(cell.alignment));
+    case Qt::BackgroundRole: return QBrush(columnBacks.value(index.column() + 1, Theme::Paper));
+    default: return {};
+    }
+}
+
+Qt::ItemFlags clsPreviewModel::flags(const QModelIndex &index) const
+{
+    return index.isValid() ? Qt::ItemIsEnabled | Qt::ItemNeverHasChildren : Qt::NoItemFlags;
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "preview/clsPreviewModel.h"
+
+#include <QFont>
+#include <QRect>
+
+#include <array>
+
+class QPainter;
+
+/// Measures and draws the rows of the preview. Its fonts are made once and shared by all cells.
+class clsPreviewPainter {
+public:
+    explicit clsPreviewPainter(const clsPreviewModel &model);
+
+    /// Makes the fonts anew, after the desktop's font has changed.
+    void takeFont();
+
+    const QFont &font(bool bold, bool underline) const { return m_fonts[size_t(bold) + 2 * size_t(underline)]; }
+    int itemHeight() const { return m_lineHeight + m_gap; }
+    int spacerHeight() const { return m_gap; }
+
+    /// The height that a row needs: little for one without cells, else that of its tallest text.
+    int heightOf(int row) const;
+    /// Draws a row; `lefts` are the left edges of its columns and the right edge of the last.
+    void paintRow(QPainter &painter, int row, int top, const std::vector<int> &lefts) const;
+    /// True when a cell's text is cut short for want of room.
+    bool isElided(int row, int column) const;
+
+private:
+    /// Where a cell's text goes, and whether it fits there in one line.
+    struct clsPlaced {
+        QRect rect;
+        bool fits;
+    };
+    clsPlaced place(int row, int column, const QRect &rect) const;
+    void paintSpacer(QPainter &painter, int row, int top, const std::vector<int> &lefts) const;
+    void paintCell(QPainter &painter, int row, int column, const QRect &rect) const;
+    int wrappedHeight(const clsPreviewCell &cell, int width) const;
+
+    const clsPreviewModel &m_model;
+    std::array<QFont, 4> m_fonts;
+    int m_lineHeight = 0;
+    int m_gap = 0;
+    int m_padding = 0;
+};

@@ -1,0 +1,62 @@
+#include "preview/mdExportPreview.h"
+
+#include "controls/mdTheme.h"
+#include "preview/oPreviewGrid.h"
+#include "shell/clsRunTimeError.h"
+#include "shell/mdNumberText.h"
+#include "wordexport/mdFormatMoney.h"
+
+oPreviewGrid &mdExportPreviewGrid()
+{
+    if (!PreviewGrid)
+        throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
+    return *PreviewGrid;
+}
+
+void mdExportPreviewInit()
+{
+    oPreviewGrid &grid = mdExportPreviewGrid();
+    grid.setRedraw(false);
+    grid.RemoveAll();
+}
+
+void mdExportPreviewAddColumn(int percent)
+{
+    // The shares of a preview add up to 100; three parts more are left free for the scroll bar.
+    constexpr double Parts = 103;
+    oPreviewGrid &grid = mdExportPreviewGrid();
+    const int width = LongFromDouble(grid.width() / Parts * percent);
+    grid.AddColumn(QStringLiteral("Column %1").arg(grid.Columns()), width);
+}
+
+void mdExportPreviewAddRow(bool spacer)
+{
+    oPreviewGrid &grid = mdExportPreviewGrid();
+    if (spacer)
+        grid.AddRow();
+    grid.AddRow();
+}
+
+void mdExportPreviewSetText(
+    int column, const QString &text, clsPreviewAlignment alignment, bool bold, bool underline, bool money)
+{
+    oPreviewGrid &grid = mdExportPreviewGrid();
+    QString shown = money ? mdFormatMoney(text) : text;
+    if (money && shown == QLatin1String("0.00"))
+        shown.clear();
+    if (shown == QLatin1String("00:00"))
+        shown.clear();
+    if (shown == QLatin1String("31/12/29")) // what a date box gives where there is no date
+        shown = QStringLiteral("-");
+    grid.SetCell(grid.Rows(), column, shown, alignment, bold, underline);
+}
+
+void mdExportPreviewDeInit()
+{
+    oPreviewGrid &grid = mdExportPreviewGrid();
+    for (int column = 1; column <= grid.Columns(); column += 2)
+        grid.setColumnBackColour(column, Theme::Stripe);
+    for (int row = 1; row <= grid.Rows(); ++row)
+        grid.FitRowHeight(row);
+    grid.setRedraw(true);
+}

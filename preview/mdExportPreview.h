@@ -1,0 +1,25 @@
+#pragma once
+
+#include "preview/clsPreviewCells.h"
+#include "preview/mdPreview.h"
+
+#include <QString>
+
+class oPreviewGrid;
+
+// What both previews are drawn with. Everything goes to the grid `PreviewGrid`; without one it is the object error.
+
+/// The grid that is drawn to.
+oPreviewGrid &mdExportPreviewGrid();
+
+/// Switches painting off and removes all rows and columns.
+void mdExportPreviewInit();
+/// Appends a column that takes a share, in hundredths, of the grid's present width.
+void mdExportPreviewAddColumn(int percent);
+/// Appends a row; a spacer is a further, empty row above it.
+void mdExportPreviewAddRow(bool spacer);
+/// Writes a cell of the last row. Money is printed with two decimals; what is zero is not shown at all.
+void mdExportPreviewSetText(int column, const QString &text, clsPreviewAlignment alignment, bool bold = false,
+    bool underline = false, bool money = false);
+/// Stripes the columns, fits the heights of the rows, and switches painting on.
+void mdExportPreviewDeInit();

@@ -1,0 +1,44 @@
+#include "preview/mdExportPreviewAdditionalInformation.h"
+
+#include "formdata/clsZR3Form.h"
+#include "preview/mdExportPreview.h"
+#include "shell/mdSetProgress.h"
+
+namespace {
+
+constexpr int NumberColumn = 1;
+constexpr int TextColumn = 2;
+constexpr int NumberShare = 10;
+constexpr int TextShare = 90;
+
+} // namespace
+
+void mdExportPreviewAdditionalInformationInit()
+{
+    mdExportPreviewInit();
+    mdExportPreviewAddColumn(NumberShare);
+    mdExportPreviewAddColumn(TextShare);
+}
+
+void mdExportPreviewAdditionalInformationDraw(const clsZR3Form &form)
+{
+    const int count = int(form.AdditionalInformationItemsCollection().size());
+    for (int index = 1; index <= count; ++index) {
+        mdSetProgress(index, count, QStringLiteral("Drawing"));
+        mdExportPreviewAdditionalInformationItemDraw(*form.AdditionalInformationItem(index));
+    }
+    mdClearProgress();
+}
+
+void mdExportPreviewAdditionalInformationItemDraw(const clsZR3ScheduleOfTimeItem &item)
+{
+    mdExportPreviewAddRow(true);
+    // The place in the order and not the number on the schedule, which differs once items are left out: it is meant.
+    mdExportPreviewSetText(NumberColumn, QString::number(item.OrderID()), clsPreviewAlignment::Right, true);
+    mdExportPreviewSetText(TextColumn, item.Description(), clsPreviewAlignment::LeftWrapped, true);
+}
+
+void mdExportPreviewAdditionalInformationDeInit()
+{
+    mdExportPreviewDeInit();
+}

@@ -1,0 +1,124 @@
+#include "preview/mdPreview.h"
+
+#include "formdata/clsZR3Form.h"
+#include "formdata/clsZR3PreferencesDatabase.h"
+#include "preview/mdExportPreview.h"
+#include "preview/mdExportPreviewAdditionalInformation.h"
+#include "preview/mdExportPreviewScheduleOfTime.h"
+#include "preview/oPreviewGrid.h"
+#include "shell/clsRunTimeError.h"
+#include "shell/mdGlobals.h"
+#include "shell/mdSetProgress.h"
+
+#include <QPointer>
+
+namespace {
+
+struct clsPreviewRoutines {
+    clsPreviewKind kind;
+    void (*init)();
+    void (*draw)(const clsZR3Form &form);
+    void (*deInit)();
+};
+
+// clang-format off
+const clsPreviewRoutines Routines[] = {
+    {clsPreviewKind::ScheduleOfTime,        mdExportPreviewScheduleOfTimeInit,
+        mdExportPreviewScheduleOfTimeDraw,        mdExportPreviewScheduleOfTimeDeInit},
+    {clsPreviewKind::AdditionalInformation, mdExportPreviewAdditionalInformationInit,
+        mdExportPreviewAdditionalInformationDraw, mdExportPreviewAdditionalInformationDeInit},
+};
+// clang-format on
+
+/// The grid's window is disabled while this lives. An end before the drawing's own end, by an error, leaves no half of
+/// a bill behind, and painting switched on.
+class clsDrawing {
+public:
+    explicit clsDrawing(oPreviewGrid &grid)
+        : m_grid(grid)
+        , m_window(grid.window())
+        , m_focus(m_window->focusWidget())
+    {
+        m_window->setEnabled(false);
+        Running = true;
+    }
+    ~clsDrawing()
+    {
+        if (!m_grid.Redraw()) {
+            m_grid.RemoveAll();
+            m_grid.setRedraw(true);
+            mdClearProgress();
+        }
+        m_window->setEnabled(true);
+        if (m_focus) // disabling took it away
+            m_focus->setFocus();
+        Running = false;
+    }
+    clsDrawing(const clsDrawing &) = delete;
+    clsDrawing &operator=(const clsDrawing &) = delete;
+
+    static inline bool Running = false;
+
+private:
+    oPreviewGrid &m_grid;
+    QWidget *m_window;
+    QPointer<QWidget> m_focus;
+};
+
+clsZR3Form &form()
+{
+    if (!Form)
+        throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
+    return *Form;
+}
+
+void redraw(clsPreviewKind kind)
+{
+    const clsDrawing drawing(mdExportPreviewGrid());
+    // Properties have changed since the lists were last made: the bill is shown as it would be printed now.
+    form().RenderScheduleOfTimeItemsForExport();
+    form().RenderAdditionalInformationItems();
+    for (const clsPreviewRoutines &routines : Routines)
+        if (routines.kind == kind) {
+            routines.init();
+            routines.draw(form());
+            routines.deInit();
+        }
+}
+
+} // namespace
+
+void mdDrawPreview(clsPreviewKind kind)
+{
+    if (!clsDrawing::Running) // the progress bar may let events through
+        redraw(kind);
+}
+
+void mdRefreshPreview(clsPreviewKind kind)
+{
+    if (!Preferences)
+        throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
+    if (clsDrawing::Running || !Preferences->AutoRefreshPreview())
+        return;
+    oPreviewGrid &grid = mdExportPreviewGrid();
+    const int first = grid.FirstRowInView();
+    const int last = grid.LastRowInView();
+    const int hidden = first >= 1 ? grid.HiddenAbove(first) : 0;
+    redraw(kind);
+    // In this order, the second step scrolls the first row up to where it was.
+    if (first >= 1 && first <= grid.Rows())
+        grid.BringIntoView(first, 1);
+    if (last < 1 || last > grid.Rows())
+        return;
+    grid.BringIntoView(last, 1);
+    // The first row was hardly ever at its very top: without this the bill would creep at each refresh.
+    grid.SetHiddenAbove(first, hidden);
+    if (grid.LastRowInView() < last)
+        grid.BringIntoView(last, 1);
+}
+
+void mdClearPreview()
+{
+    if (!clsDrawing::Running)
+        mdExportPreviewGrid().RemoveAll();
+}

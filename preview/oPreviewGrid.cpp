@@ -1,0 +1,357 @@
+#include "preview/oPreviewGrid.h"
+
+#include "controls/mdTheme.h"
+
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QToolTip>
+
+#include <algorithm>
+
+oPreviewGrid *PreviewGrid = nullptr;
+
+/// The captions of the columns over the top edge of the grid, for as long as their own row is scrolled away.
+class oPreviewCaptions : public QWidget {
+public:
+    explicit oPreviewCaptions(oPreviewGrid *grid)
+        : QWidget(grid)
+        , m_grid(grid)
+    {
+        setObjectName(QStringLiteral("sgPreviewCaptions"));
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        setAttribute(Qt::WA_OpaquePaintEvent);
+        setFocusPolicy(Qt::NoFocus);
+        hide();
+    }
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        QPainter painter(this);
+        m_grid->paintRows(painter, event->rect(), 1, 0);
+    }
+
+private:
+    oPreviewGrid *m_grid;
+};
+
+oPreviewGrid::oPreviewGrid(QWidget *parent)
+    : QTableView(parent)
+    , m_model(new clsPreviewModel(this))
+    , m_painter(*m_model)
+    , m_captions(new oPreviewCaptions(this))
+{
+    setObjectName(QStringLiteral("sgPreview"));
+    setAccessibleName(QStringLiteral("Preview"));
+    setModel(m_model);
+    setFrameShape(QFrame::NoFrame);
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(NoSelection);
+    setTabKeyNavigation(false);
+    setFocusPolicy(Qt::TabFocus); // a left click does nothing, and so takes no focus
+    setShowGrid(false);
+    setWordWrap(false);
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollMode(ScrollPerPixel);
+    for (QHeaderView *header : {horizontalHeader(), verticalHeader()}) {
+        header->hide();
+        header->setSectionResizeMode(QHeaderView::Fixed);
+        header->setMinimumSectionSize(1);
+    }
+}
+
+template <class Change> void oPreviewGrid::change(Change what)
+{
+    // Whoever changes a single thing with painting on sees it at once.
+    const bool own = m_redraw;
+    if (own)
+        setRedraw(false);
+    what();
+    if (own)
+        setRedraw(true);
+}
+
+void oPreviewGrid::setRedraw(bool redraw)
+{
+    if (redraw == m_redraw)
+        return;
+    m_redraw = redraw;
+    if (!redraw) {
+        setUpdatesEnabled(false);
+        m_model->beginChange();
+        return;
+    }
+    m_model->endChange();
+    takeSizes();
+    setUpdatesEnabled(true);
+    if (m_toTop) {
+        verticalScrollBar()->setValue(0);
+        horizontalScrollBar()->setValue(0);
+    }
+    m_toTop = false;
+    placeCaptions();
+    viewport()->update();
+}
+
+/// Hands the widths and heights to the view, in bulk: nothing is painted and nobody is told of each of them.
+void oPreviewGrid::takeSizes()
+{
+    const QSignalBlocker quietColumns(horizontalHeader());
+    const QSignalBlocker quietRows(verticalHeader());
+    for (int column = 1; column <= Columns(); ++column)
+        horizontalHeader()->resizeSection(column - 1, ColumnWidth(column));
+    for (int row = 1; row <= Rows(); ++row)
+        verticalHeader()->resizeSection(row - 1, RowHeight(row));
+    updateGeometries();
+}
+
+void oPreviewGrid::RemoveAll()
+{
+    change([this] {
+        m_model->cells.RemoveAll();
+        m_model->columnBacks.clear();
+        m_captionsRow = 0;
+        m_toTop = true;
+    });
+}
+
+void oPreviewGrid::AddColumn(const QString &key, int width)
+{
+    change([&] { m_model->cells.AddColumn(key, width); });
+}
+
+void oPreviewGrid::AddRow()
+{
+    change([this] { m_model->cells.AddRow(m_painter.itemHeight()); });
+}
+
+void oPreviewGrid::SetCell(
+    int row, int column, const QString &text, clsPreviewAlignment alignment, bool bold, bool underline)
+{
+    change([&] { m_model->cells.SetCell(row, column, {text, alignment, bold, underline}); });
+}
+
+void oPreviewGrid::setColumnBackColour(int column, const QColor &colour)
+{
+    change([&] { m_model->columnBacks[column] = colour; });
+}
+
+void oPreviewGrid::setRowLook(int row, clsPreviewRowLook look)
+{
+    change([&] {
+        m_model->cells.setRowLook(row, look);
+        if (look == clsPreviewRowLook::Captions)
+            m_captionsRow = row;
+    });
+}
+
+void oPreviewGrid::FitRowHeight(int row)
+{
+    change([&] { m_model->cells.setRowHeight(row, m_painter.heightOf(row)); });
+}
+
+QColor oPreviewGrid::CellBackColour(int row, int column) const
+{
+    return m_model->index(row - 1, column - 1).data(Qt::BackgroundRole).value<QBrush>().color();
+}
+
+std::vector<int> oPreviewGrid::columnEdges() const
+{
+    std::vector<int> edges = {-horizontalOffset()};
+    for (int column = 1; column <= Columns(); ++column)
+        edges.push_back(edges.back() + ColumnWidth(column));
+    return edges;
+}
+
+void oPreviewGrid::paintRows(QPainter &painter, const QRect &part, int firstRow, int top) const
+{
+    painter.fillRect(part, Theme::Paper);
+    const std::vector<int> edges = columnEdges();
+    for (int row = firstRow; row >= 1 && row <= Rows() && top <= part.bottom(); ++row) {
+        m_painter.paintRow(painter, row, top, edges);
+        top += RowHeight(row);
+    }
+}
+
+void oPreviewGrid::paintEvent(QPaintEvent *event)
+{
+    QPainter painter(viewport());
+    const int first = rowAt(event->rect().top()) + 1;
+    paintRows(painter, event->rect(), first, first >= 1 ? rowViewportPosition(first - 1) : 0);
+}
+
+int oPreviewGrid::topOf(int row) const
+{
+    return verticalHeader()->sectionPosition(row - 1);
+}
+
+/// The rows of the captions and half the spacer below them, which carries their line.
+int oPreviewGrid::captionsHeight() const
+{
+    if (m_captionsRow < 1 || m_captionsRow >= Rows())
+        return 0;
+    return topOf(m_captionsRow + 1) + RowHeight(m_captionsRow + 1) / 2 + 1;
+}
+
+int oPreviewGrid::coveredHeight() const
+{
+    // In a very low window the rows are worth more than their captions.
+    constexpr int LeastShare = 3;
+    const int height = captionsHeight();
+    return height * LeastShare <= viewport()->height() ? height : 0;
+}
+
+void oPreviewGrid::placeCaptions()
+{
+    const int height = verticalScrollBar()->value() > 0 ? coveredHeight() : 0;
+    if (height > 0)
+        m_captions->setGeometry(QRect(viewport()->pos(), QSize(viewport()->width(), height)));
+    m_captions->setVisible(height > 0);
+    if (height > 0) {
+        m_captions->raise();
+        m_captions->update();
+    }
+}
+
+int oPreviewGrid::FirstRowInView() const
+{
+    const int covered = verticalScrollBar()->value() > 0 ? coveredHeight() : 0;
+    return rowAt(covered) + 1;
+}
+
+int oPreviewGrid::LastRowInView() const
+{
+    const int row = rowAt(viewport()->height() - 1) + 1;
+    return row > 0 ? row : Rows();
+}
+
+void oPreviewGrid::BringIntoView(int row, int column)
+{
+    const int top = topOf(row);
+    const int scrolled = verticalScrollBar()->value();
+    const int lowest = top - coveredHeight();
+    const int highest = top + RowHeight(row) - viewport()->height();
+    verticalScrollBar()->setValue(std::min(std::max(scrolled, highest), lowest));
+    const int left = horizontalHeader()->sectionPosition(column - 1);
+    const int right = left + ColumnWidth(column) - viewport()->width();
+    horizontalScrollBar()->setValue(std::min(std::max(horizontalScrollBar()->value(), right), left));
+}
+
+int oPreviewGrid::HiddenAbove(int row) const
+{
+    return verticalScrollBar()->value() - topOf(row);
+}
+
+void oPreviewGrid::SetHiddenAbove(int row, int pixels)
+{
+    verticalScrollBar()->setValue(topOf(row) + pixels);
+}
+
+void oPreviewGrid::keyPressEvent(QKeyEvent *event)
+{
+    struct clsKey {
+        int key;
+        QScrollBar *bar;
+        QScrollBar::SliderAction action;
+    };
+    // clang-format off
+    const clsKey keys[] = {
+        {Qt::Key_Up,       verticalScrollBar(),   QScrollBar::SliderSingleStepSub},
+        {Qt::Key_Down,     verticalScrollBar(),   QScrollBar::SliderSingleStepAdd},
+        {Qt::Key_Left,     horizontalScrollBar(), QScrollBar::SliderSingleStepSub},
+        {Qt::Key_Right,    horizontalScrollBar(), QScrollBar::SliderSingleStepAdd},
+        {Qt::Key_PageUp,   verticalScrollBar(),   QScrollBar::SliderPageStepSub},
+        {Qt::Key_PageDown, verticalScrollBar(),   QScrollBar::SliderPageStepAdd},
+        {Qt::Key_Home,     verticalScrollBar(),   QScrollBar::SliderToMinimum},
+        {Qt::Key_End,      verticalScrollBar(),   QScrollBar::SliderToMaximum},
+    };
+    // clang-format on
+    for (const clsKey &key : keys)
+        if (key.key == event->key()) {
+            key.bar->triggerAction(key.action);
+            event->accept();
+            return;
+        }
+    event->ignore();
+}
+
+void oPreviewGrid::mousePressEvent(QMouseEvent *event)
+{
+    event->accept();
+}
+
+void oPreviewGrid::mouseMoveEvent(QMouseEvent *event)
+{
+    event->accept();
+}
+
+void oPreviewGrid::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    event->accept();
+}
+
+void oPreviewGrid::mouseReleaseEvent(QMouseEvent *event)
+{
+    event->accept();
+    if (event->button() == Qt::RightButton)
+        emit RightClick(event->globalPosition().toPoint());
+}
+
+void oPreviewGrid::contextMenuEvent(QContextMenuEvent *event)
+{
+    event->accept();
+    if (event->reason() != QContextMenuEvent::Mouse) // the mouse asks when its button is released
+        emit RightClick(viewport()->mapToGlobal(QPoint(Theme::Space16, Theme::Space16)));
+}
+
+void oPreviewGrid::changeEvent(QEvent *event)
+{
+    QTableView::changeEvent(event);
+    if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange)
+        return;
+    change([this] {
+        m_painter.takeFont();
+        for (int row = 1; row <= Rows(); ++row)
+            FitRowHeight(row);
+    });
+}
+
+void oPreviewGrid::scrollContentsBy(int dx, int dy)
+{
+    QTableView::scrollContentsBy(dx, dy);
+    placeCaptions();
+}
+
+void oPreviewGrid::updateGeometries()
+{
+    QTableView::updateGeometries();
+    const int line = m_painter.itemHeight() + m_painter.spacerHeight();
+    verticalScrollBar()->setSingleStep(line);
+    verticalScrollBar()->setPageStep(std::max(line, viewport()->height() - coveredHeight() - line));
+    placeCaptions();
+}
+
+bool oPreviewGrid::viewportEvent(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QTableView::viewportEvent(event);
+    const auto *help = static_cast<QHelpEvent *>(event);
+    if (!showToolTip(help->pos(), help->globalPos()))
+        QToolTip::hideText();
+    return true;
+}
+
+bool oPreviewGrid::showToolTip(const QPoint &place, const QPoint &onScreen)
+{
+    const int row = rowAt(place.y()) + 1;
+    const int column = columnAt(place.x()) + 1;
+    if (row < 1 || column < 1 || m_captions->geometry().contains(viewport()->mapTo(this, place))
+        || !m_painter.isElided(row, column))
+        return false;
+    QToolTip::showText(onScreen, Text(row, column).toHtmlEscaped(), viewport());
+    return true;
+}

@@ -1,0 +1,92 @@
+#pragma once
+
+#include "preview/clsPreviewModel.h"
+#include "preview/clsPreviewPainter.h"
+
+#include <QTableView>
+
+class oPreviewCaptions;
+
+/// The read-only grid of the preview, `sgPreview`: a list of rows and columns that is emptied and filled anew at each
+/// redraw. It paints by itself the rows in view and nothing else, so that the longest bill scrolls as smoothly as a
+/// short one. Rows and columns are counted from 1. It can be scrolled, and answers to nothing else but a right click.
+class oPreviewGrid : public QTableView {
+    Q_OBJECT
+
+public:
+    explicit oPreviewGrid(QWidget *parent = nullptr);
+
+    /// Switches painting off and on. While it is off the old picture stands, and the cells may be anything.
+    void setRedraw(bool redraw);
+    bool Redraw() const { return m_redraw; }
+
+    void RemoveAll();
+    /// Adds a column of a width in pixels. All columns come before the first cell.
+    void AddColumn(const QString &key, int width);
+    void AddRow();
+    void SetCell(int row, int column, const QString &text, clsPreviewAlignment alignment, bool bold = false,
+        bool underline = false);
+    /// Colours a column's cells in all rows.
+    void setColumnBackColour(int column, const QColor &colour);
+    void setRowLook(int row, clsPreviewRowLook look);
+    /// Makes a row as high as its tallest text.
+    void FitRowHeight(int row);
+
+    int Rows() const { return m_model->cells.Rows(); }
+    int Columns() const { return m_model->cells.Columns(); }
+    QString ColumnKey(int column) const { return m_model->cells.ColumnKey(column); }
+    int ColumnWidth(int column) const { return m_model->cells.ColumnWidth(column); }
+    int RowHeight(int row) const { return m_model->cells.RowHeight(row); }
+    QString Text(int row, int column) const { return m_model->cells.Cell(row, column).text; }
+    const clsPreviewCell &Cell(int row, int column) const { return m_model->cells.Cell(row, column); }
+    QColor CellBackColour(int row, int column) const;
+    QFont CellFont(bool bold, bool underline) const { return m_painter.font(bold, underline); }
+
+    /// The first and last row of which something is to be seen; 0 in an empty grid.
+    int FirstRowInView() const;
+    int LastRowInView() const;
+    /// Scrolls no further than needed for the cell to be seen whole; a row taller than the grid is shown from its top.
+    void BringIntoView(int row, int column);
+    /// How many pixels of a row are hidden above the top; negative for one that begins below it.
+    int HiddenAbove(int row) const;
+    void SetHiddenAbove(int row, int pixels);
+
+signals:
+    /// The right mouse button was released, or the menu key pressed, at this place of the screen.
+    void RightClick(const QPoint &place);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void updateGeometries() override;
+    bool viewportEvent(QEvent *event) override;
+
+private:
+    friend class oPreviewCaptions;
+    template <class Change> void change(Change what);
+    void takeSizes();
+    void paintRows(QPainter &painter, const QRect &part, int firstRow, int top) const;
+    std::vector<int> columnEdges() const;
+    int topOf(int row) const;
+    int captionsHeight() const;
+    int coveredHeight() const;
+    void placeCaptions();
+    bool showToolTip(const QPoint &place, const QPoint &onScreen);
+
+    clsPreviewModel *m_model;
+    clsPreviewPainter m_painter;
+    oPreviewCaptions *m_captions;
+    bool m_redraw = true;
+    bool m_toTop = false;
+    int m_captionsRow = 0;
+};
+
+/// The grid of the main window; nothing until that window is loaded. The drawing of the previews goes there.
+extern oPreviewGrid *PreviewGrid;

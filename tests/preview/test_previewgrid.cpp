@@ -1,0 +1,291 @@
+// The grid of the preview: what it holds, what is in view, and what it answers to.
+
+#include "tests/preview/clsPreviewTest.h"
+
+#include <QAccessible>
+#include <QFontMetrics>
+#include <QHelpEvent>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QToolTip>
+
+namespace {
+
+using Alignment = clsPreviewAlignment;
+
+class PreviewGridControl : public clsPreviewTest {
+protected:
+    static void fill(int items)
+    {
+        addItems(items);
+        mdDrawPreview(clsPreviewKind::ScheduleOfTime);
+    }
+    static QScrollBar &bar() { return *grid().verticalScrollBar(); }
+    static QWidget *captions() { return grid().findChild<QWidget *>(QStringLiteral("sgPreviewCaptions")); }
+};
+
+} // namespace
+
+TEST_F(PreviewGridControl, PlacesOutsideItAreTheSubscriptError)
+{
+    grid().AddColumn(QStringLiteral("a"), 50);
+    grid().AddRow();
+    grid().SetCell(1, 1, QStringLiteral("x"), Alignment::Left);
+    for (const auto &place : {std::pair(0, 1), {2, 1}, {1, 0}, {1, 2}}) {
+        EXPECT_EQ(clsRunTimeError::SubscriptOutOfRange,
+            errorOf([&] { grid().SetCell(place.first, place.second, QString(), Alignment::Left); }));
+        EXPECT_EQ(clsRunTimeError::SubscriptOutOfRange, errorOf([&] { grid().Text(place.first, place.second); }));
+    }
+    EXPECT_TRUE(grid().updatesEnabled()); // an error leaves painting on
+    EXPECT_EQ(QStringLiteral("x"), grid().Text(1, 1));
+}
+
+TEST_F(PreviewGridControl, AChangeWithPaintingOnIsSeenAtOnce)
+{
+    grid().AddColumn(QStringLiteral("a"), 80);
+    grid().AddRow();
+    grid().SetCell(1, 1, QStringLiteral("x"), Alignment::Left);
+    EXPECT_EQ(1, grid().model()->rowCount());
+    EXPECT_EQ(80, grid().columnWidth(0));
+    EXPECT_EQ(grid().RowHeight(1), grid().rowHeight(0));
+    grid().RemoveAll();
+    EXPECT_EQ(0, grid().model()->rowCount());
+    EXPECT_EQ(0, grid().model()->columnCount());
+}
+
+TEST_F(PreviewGridControl, WithPaintingOffTheOldPictureStands)
+{
+    fill(3);
+    const QImage before = grid().grab().toImage();
+    grid().setRedraw(false);
+    EXPECT_FALSE(grid().updatesEnabled());
+    grid().RemoveAll();
+    EXPECT_FALSE(grid().updatesEnabled());
+    grid().setRedraw(true);
+    EXPECT_TRUE(grid().updatesEnabled());
+    EXPECT_NE(before, grid().grab().toImage());
+}
+
+TEST_F(PreviewGridControl, SpacersAreFlatAndItemsALineAndFive)
+{
+    fill(2);
+    ASSERT_EQ(11, grid().Rows());
+    const int line = std::max(
+        QFontMetrics(grid().CellFont(false, false)).height(), QFontMetrics(grid().CellFont(true, false)).height());
+    for (int row = 2; row <= 10; row += 2) {
+        EXPECT_EQ(5, grid().RowHeight(row)) << row;
+        EXPECT_EQ(line + 5, grid().RowHeight(row + 1)) << row;
+        EXPECT_EQ(5, grid().rowHeight(row - 1)) << row;
+        EXPECT_EQ(line + 5, grid().rowHeight(row)) << row;
+    }
+}
+
+TEST_F(PreviewGridControl, RowsInViewAndBringingIntoView)
+{
+    fill(200);
+    ASSERT_EQ(407, grid().Rows());
+    EXPECT_EQ(1, grid().FirstRowInView());
+    const int last = grid().LastRowInView();
+    EXPECT_GT(last, 20);
+    EXPECT_LT(last, 60);
+
+    grid().BringIntoView(5, 1); // in view already
+    EXPECT_EQ(0, bar().value());
+    grid().BringIntoView(300, 1);
+    EXPECT_EQ(300, grid().LastRowInView());
+    EXPECT_GT(grid().FirstRowInView(), 250);
+    grid().BringIntoView(101, 1);
+    EXPECT_EQ(101, grid().FirstRowInView());
+    EXPECT_EQ(0, grid().HiddenAbove(101) + captions()->height());
+    grid().BringIntoView(407, 13);
+    EXPECT_EQ(407, grid().LastRowInView());
+    EXPECT_EQ(bar().maximum(), bar().value());
+    grid().BringIntoView(1, 1);
+    EXPECT_EQ(0, bar().value());
+    EXPECT_EQ(clsRunTimeError::SubscriptOutOfRange, errorOf([] { grid().BringIntoView(408, 1); }));
+
+    grid().RemoveAll();
+    EXPECT_EQ(0, grid().FirstRowInView());
+    EXPECT_EQ(0, grid().LastRowInView());
+}
+
+TEST_F(PreviewGridControl, AShortListIsInViewToItsEnd)
+{
+    fill(2);
+    EXPECT_EQ(1, grid().FirstRowInView());
+    EXPECT_EQ(11, grid().LastRowInView());
+}
+
+TEST_F(PreviewGridControl, KeysScrollIt)
+{
+    fill(200);
+    grid().setFocus();
+    const int line = grid().RowHeight(4) + grid().RowHeight(5);
+    QTest::keyClick(&grid(), Qt::Key_Down);
+    EXPECT_EQ(line, bar().value());
+    QTest::keyClick(&grid(), Qt::Key_Down);
+    QTest::keyClick(&grid(), Qt::Key_Up);
+    EXPECT_EQ(line, bar().value());
+    QTest::keyClick(&grid(), Qt::Key_End);
+    EXPECT_EQ(bar().maximum(), bar().value());
+    QTest::keyClick(&grid(), Qt::Key_Home);
+    EXPECT_EQ(0, bar().value());
+    const int last = grid().LastRowInView();
+    QTest::keyClick(&grid(), Qt::Key_PageDown);
+    EXPECT_LE(grid().FirstRowInView(), last); // nothing is skipped
+    EXPECT_GT(grid().FirstRowInView(), last - 6);
+    QTest::keyClick(&grid(), Qt::Key_PageUp);
+    EXPECT_EQ(0, bar().value());
+}
+
+TEST_F(PreviewGridControl, OtherKeysGoToTheWindow)
+{
+    fill(2);
+    class clsListener : public QObject {
+    public:
+        int keys = 0;
+        bool eventFilter(QObject *, QEvent *event) override
+        {
+            keys += event->type() == QEvent::KeyPress;
+            return false;
+        }
+    } listener;
+    window.installEventFilter(&listener);
+    QTest::keyClick(&grid(), Qt::Key_F5);
+    QTest::keyClick(&grid(), Qt::Key_A);
+    EXPECT_EQ(2, listener.keys);
+    QTest::keyClick(&grid(), Qt::Key_Down);
+    EXPECT_EQ(2, listener.keys);
+}
+
+TEST_F(PreviewGridControl, ARightClickIsToldAtItsReleaseAndALeftClickDoesNothing)
+{
+    fill(3);
+    QSignalSpy clicks(&grid(), &oPreviewGrid::RightClick);
+    QWidget *area = grid().viewport();
+    const QImage before = window.grab().toImage();
+    QTest::mouseClick(area, Qt::LeftButton, {}, QPoint(100, 60));
+    QTest::mouseDClick(area, Qt::LeftButton, {}, QPoint(100, 60));
+    EXPECT_TRUE(clicks.isEmpty());
+    EXPECT_FALSE(grid().hasFocus());
+    EXPECT_TRUE(grid().selectionModel()->selectedIndexes().isEmpty());
+    EXPECT_EQ(before, window.grab().toImage());
+
+    QTest::mousePress(area, Qt::RightButton, {}, QPoint(100, 60));
+    EXPECT_TRUE(clicks.isEmpty());
+    QTest::mouseRelease(area, Qt::RightButton, {}, QPoint(101, 61));
+    ASSERT_EQ(1, clicks.size());
+    EXPECT_EQ(area->mapToGlobal(QPoint(101, 61)), clicks[0][0].toPoint());
+
+    QTest::mouseRelease(area, Qt::MiddleButton, {}, QPoint(100, 60));
+    EXPECT_EQ(1, clicks.size());
+    QContextMenuEvent byMouse(QContextMenuEvent::Mouse, QPoint(5, 5), area->mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(area, &byMouse);
+    EXPECT_EQ(1, clicks.size());
+    QContextMenuEvent byKey(QContextMenuEvent::Keyboard, QPoint(5, 5), area->mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(area, &byKey);
+    EXPECT_EQ(2, clicks.size());
+}
+
+TEST_F(PreviewGridControl, ItIsReadAloudCellByCell)
+{
+    fill(1);
+    EXPECT_EQ(QStringLiteral("sgPreview"), grid().objectName());
+    EXPECT_EQ(QStringLiteral("Preview"), grid().accessibleName());
+    QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(&grid());
+    ASSERT_TRUE(interface && interface->tableInterface());
+    EXPECT_EQ(9, interface->tableInterface()->rowCount());
+    EXPECT_EQ(QStringLiteral("AB"), interface->tableInterface()->cellAt(4, 1)->text(QAccessible::Name));
+    EXPECT_FALSE(grid().model()->flags(grid().model()->index(4, 1)) & Qt::ItemIsEditable);
+}
+
+TEST_F(PreviewGridControl, CaptionsStayInViewWhileItScrolls)
+{
+    fill(200);
+    EXPECT_FALSE(captions()->isVisible());
+    const QImage top = grid().viewport()->grab().toImage();
+    bar().setValue(1000);
+    ASSERT_TRUE(captions()->isVisible());
+    const QRect band = captions()->geometry();
+    EXPECT_GT(band.height(), grid().RowHeight(1) + grid().RowHeight(3));
+    EXPECT_EQ(top.copy(band), grid().grab().toImage().copy(band));
+    bar().setValue(0);
+    EXPECT_FALSE(captions()->isVisible());
+}
+
+TEST_F(PreviewGridControl, LinesStandUnderTheCaptionsAndAboveTheTotals)
+{
+    const QColor edge(0x8F, 0x88, 0x96);
+    const QColor hairline(0xEC, 0xE8, 0xEE);
+    const QColor stripe(250, 250, 250);
+    fill(2);
+    const QImage picture = grid().viewport()->grab().toImage();
+    // Rows: 1 band, 3 captions, 5 and 7 items, 9 and 11 totals.
+    const std::pair<int, QColor> lines[] = {{2, stripe}, {4, edge}, {6, hairline}, {8, edge}, {10, hairline}};
+    for (const auto &[row, colour] : lines)
+        EXPECT_EQ(colour.rgb(), picture.pixelColor(3, grid().rowViewportPosition(row - 1) + 2).rgb()) << row;
+    EXPECT_EQ(QColor(Qt::white).rgb(),
+        picture.pixelColor(grid().viewport()->width() - 3, grid().rowViewportPosition(3) + 2).rgb());
+}
+
+TEST_F(PreviewGridControl, ACellCutShortTellsItsTextInATooltip)
+{
+    fill(1);
+    Form->FeeEarner(1)->Reference = QStringLiteral("a reference <b> that is wider than its column ever was");
+    mdDrawPreview(clsPreviewKind::ScheduleOfTime);
+    const auto hover = [](int row, int column) {
+        const QPoint place(grid().columnViewportPosition(column - 1) + 5, grid().rowViewportPosition(row - 1) + 5);
+        QHelpEvent event(QEvent::ToolTip, place, grid().viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(grid().viewport(), &event);
+        return QToolTip::text();
+    };
+    EXPECT_EQ(QStringLiteral("a reference &lt;b&gt; that is wider than its column ever was"), hover(5, 2));
+    QToolTip::hideText();
+}
+
+TEST_F(PreviewGridControl, TheSheetIsCentredAndOfLimitedWidth)
+{
+    window.resize(1366, 600);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return sheet->width() == 1366; }));
+    EXPECT_EQ(QStringLiteral("pctPreview"), sheet->objectName());
+    EXPECT_EQ(1120, grid().width() + 4);
+    EXPECT_LE(std::abs(grid().geometry().left() - (1366 - grid().geometry().right() - 1)), 1);
+    EXPECT_EQ(sheet->height(), grid().geometry().bottom() + 1);
+    const QImage picture = sheet->grab().toImage();
+    EXPECT_EQ(QColor(204, 204, 204), picture.pixelColor(grid().x() - 2, 300));
+    grid().setFocus();
+    window.activateWindow();
+    if (QTest::qWaitForWindowActive(&window)) {
+        EXPECT_EQ(QColor(110, 15, 108), sheet->grab().toImage().pixelColor(grid().x() - 2, 300));
+    }
+    window.resize(700, 600);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return sheet->width() == 700; }));
+    EXPECT_EQ(700 - 48, grid().width() + 4);
+}
+
+TEST_F(PreviewGridControl, ALargerFontMakesHigherRows)
+{
+    fill(2);
+    const int item = grid().rowHeight(4);
+    QFont font = QApplication::font();
+    const QFont before = font;
+    font.setPointSize(20);
+    QApplication::setFont(font);
+    QCoreApplication::processEvents();
+    EXPECT_GT(grid().rowHeight(4), item * 3 / 2);
+    EXPECT_EQ(10, grid().rowHeight(3));
+    QApplication::setFont(before);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(item, grid().rowHeight(4));
+}
+
+TEST_F(PreviewGridControl, PaintsOnlyTheRowsInView)
+{
+    fill(2000);
+    ASSERT_EQ(4007, grid().Rows());
+    // The last rows come from the end of the list, and nothing above them is walked through: the bar says where.
+    grid().BringIntoView(4007, 1);
+    EXPECT_EQ(4007, grid().LastRowInView());
+    EXPECT_EQ(QStringLiteral("2000"), grid().Text(4003, 1));
+    EXPECT_FALSE(grid().grab().isNull());
+}

@@ -1,0 +1,174 @@
+// When the preview is redrawn, and from where.
+
+#include "formdata/clsZR3PreferencesDatabase.h"
+#include "shell/mdGetResourceData.h"
+#include "shell/mdProgramFolder.h"
+#include "tests/preview/clsPreviewTest.h"
+
+#include <QDir>
+#include <QFile>
+#include <QScrollBar>
+#include <QTemporaryDir>
+
+namespace {
+
+constexpr auto Schedule = clsPreviewKind::ScheduleOfTime;
+constexpr auto Notes = clsPreviewKind::AdditionalInformation;
+
+class PreviewRefresh : public clsPreviewTest {
+protected:
+    void SetUp() override
+    {
+        clsPreviewTest::SetUp();
+        ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("Databases")));
+        QFile file(folder.filePath(QStringLiteral("Databases/Preferences Database.vzp")));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(
+            GetResourceData(QStringLiteral("xmlZR3PreferencesDatabase"), QStringLiteral("VELMORZR3XML")).toLatin1());
+        file.close();
+        SetProgramFolder(folder.path());
+        Preferences = std::make_unique<clsZR3PreferencesDatabase>();
+        Preferences->AutoRefreshPreview = true;
+    }
+    void TearDown() override
+    {
+        Preferences.reset();
+        SetProgramFolder(QString());
+        clsPreviewTest::TearDown();
+    }
+    static void leaveItems(int count)
+    {
+        for (int n = int(Form->ScheduleOfTimeItemsCollection().size()); n > count; --n)
+            Form->DeleteScheduleOfTimeItem(n);
+    }
+    static QScrollBar &bar() { return *grid().verticalScrollBar(); }
+
+    QTemporaryDir folder;
+};
+
+} // namespace
+
+TEST_F(PreviewRefresh, WithoutThePreferenceTheOldPreviewStands)
+{
+    Preferences->AutoRefreshPreview = false;
+    addItems(2);
+    mdDrawPreview(Schedule);
+    addItems(1);
+    mdRefreshPreview(Schedule);
+    EXPECT_EQ(11, grid().Rows());
+    mdDrawPreview(Schedule); // the menu redraws all the same
+    EXPECT_EQ(13, grid().Rows());
+    Preferences->AutoRefreshPreview = true;
+    addItems(1);
+    mdRefreshPreview(Schedule);
+    EXPECT_EQ(15, grid().Rows());
+    mdRefreshPreview(Notes);
+    EXPECT_EQ(2, grid().Columns());
+}
+
+TEST_F(PreviewRefresh, KeepsThePlaceToThePixel)
+{
+    addItems(300);
+    mdDrawPreview(Schedule);
+    for (const int place : {0, 1, 7, 1000, 1003, 1011, 3000, bar().maximum() - 1, bar().maximum()}) {
+        bar().setValue(place);
+        const int first = grid().FirstRowInView();
+        const int last = grid().LastRowInView();
+        for (int times = 0; times < 3; ++times) {
+            mdRefreshPreview(Schedule);
+            EXPECT_EQ(place, bar().value());
+            EXPECT_EQ(first, grid().FirstRowInView());
+            EXPECT_EQ(last, grid().LastRowInView());
+        }
+    }
+}
+
+TEST_F(PreviewRefresh, AMenuEntryStartsFromTheTop)
+{
+    addItems(300);
+    mdDrawPreview(Schedule);
+    bar().setValue(2000);
+    mdDrawPreview(Schedule);
+    EXPECT_EQ(0, bar().value());
+    EXPECT_EQ(1, grid().FirstRowInView());
+}
+
+TEST_F(PreviewRefresh, ARememberedRowBeyondTheLastIsIgnored)
+{
+    addItems(300);
+    mdDrawPreview(Schedule);
+    bar().setValue(bar().maximum());
+    leaveItems(3);
+    mdRefreshPreview(Schedule); // neither row is left
+    EXPECT_EQ(13, grid().Rows());
+    EXPECT_EQ(0, bar().value());
+
+    addItems(297);
+    mdDrawPreview(Schedule);
+    bar().setValue(bar().maximum());
+    const int first = grid().FirstRowInView();
+    ASSERT_LT(first, 600);
+    leaveItems((first - 3) / 2 + 1); // the first row is left, the last is not
+    mdRefreshPreview(Schedule);
+    EXPECT_LE(grid().FirstRowInView(), first);
+    EXPECT_GE(grid().LastRowInView(), first);
+    EXPECT_GT(bar().value(), 0);
+}
+
+TEST_F(PreviewRefresh, ALongerListKeepsThePlaceToo)
+{
+    addItems(300);
+    mdDrawPreview(Schedule);
+    bar().setValue(1234);
+    addItems(20);
+    mdRefreshPreview(Schedule);
+    EXPECT_EQ(1234, bar().value());
+}
+
+TEST_F(PreviewRefresh, ThePlaceInsideATallNoteIsKept)
+{
+    addItem()->Description = QStringLiteral("line\r\n").repeated(300);
+    mdDrawPreview(Notes);
+    bar().setValue(777);
+    mdRefreshPreview(Notes);
+    EXPECT_EQ(777, bar().value());
+}
+
+TEST_F(PreviewRefresh, ANarrowerWindowKeepsTheRows)
+{
+    addItems(300);
+    mdDrawPreview(Schedule);
+    bar().setValue(3000);
+    const int first = grid().FirstRowInView();
+    window.resize(700, 600);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return sheet->width() == 700; }));
+    mdRefreshPreview(Schedule);
+    EXPECT_NEAR(first, grid().FirstRowInView(), 2);
+}
+
+TEST_F(PreviewRefresh, AnEmptyGridIsFilled)
+{
+    addItems(2);
+    mdRefreshPreview(Schedule);
+    EXPECT_EQ(11, grid().Rows());
+}
+
+TEST_F(PreviewRefresh, ClearingLeavesNothing)
+{
+    addItems(2);
+    mdDrawPreview(Schedule);
+    mdClearPreview();
+    EXPECT_EQ(0, grid().Rows());
+    EXPECT_EQ(0, grid().Columns());
+    EXPECT_FALSE(grid().grab().isNull());
+}
+
+TEST_F(PreviewRefresh, WithoutAClaimItIsTheObjectError)
+{
+    Form.reset();
+    EXPECT_EQ(clsRunTimeError::ObjectNotSet, errorOf([] { mdRefreshPreview(Schedule); }));
+    EXPECT_TRUE(window.isEnabled());
+    EXPECT_TRUE(grid().updatesEnabled());
+    Preferences.reset();
+    EXPECT_EQ(clsRunTimeError::ObjectNotSet, errorOf([] { mdRefreshPreview(Schedule); }));
+}

@@ -1,8 +1,12 @@
 #include "controls/mdTheme.h"
 
+#include "controls/oInputFilter.h"
+#include "controls/oStyle.h"
+
 #include <QApplication>
+#include <QFontInfo>
 #include <QPalette>
-#include <QStyleFactory>
+#include <QToolTip>
 
 namespace {
 
@@ -58,9 +62,19 @@ QFont Theme::font(double morePoints, bool semibold)
     return result;
 }
 
+int Theme::scaled(double pixels)
+{
+    return qRound(pixels * QFontInfo(QApplication::font()).pointSizeF() / 10);
+}
+
+int Theme::boxHeight(const QFontMetrics &metrics)
+{
+    return qMax(metrics.height() + 12, scaled(30));
+}
+
 void mdApplyTheme(QApplication &application)
 {
-    application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new oStyle);
     const QPalette common = palette();
     QApplication::setPalette(common);
     // Rows and menu entries keep their ink where they are selected; only selected text turns white.
@@ -69,7 +83,13 @@ void mdApplyTheme(QApplication &application)
         rows.setColor(group, QPalette::Highlight, Theme::Selected);
         rows.setColor(group, QPalette::HighlightedText, Theme::Ink);
     }
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+        rows.setColor(group, QPalette::Window, Theme::Paper);
     QApplication::setPalette(rows, "QAbstractItemView");
     QApplication::setPalette(rows, "QMenu");
     QApplication::setPalette(rows, "QMenuBar");
+    // Tooltips have a palette and a font of their own, which the desktop may have set.
+    QToolTip::setPalette(common);
+    QToolTip::setFont(Theme::font(-1));
+    oInputFilter::install(application);
 }

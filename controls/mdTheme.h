@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QFontMetrics>
 
 class QApplication;
 
@@ -33,6 +34,9 @@ inline constexpr QColor Band          {0xEB, 0xE7, 0xED}; ///< second tab row
 inline constexpr QColor Hover         {0xF6, 0xEF, 0xF6}; ///< row or button under the pointer
 inline constexpr QColor Selected      {0xEF, 0xDF, 0xEF}; ///< selected row, pressed button
 inline constexpr QColor TooltipBack   {0x2F, 0x2A, 0x33};
+inline constexpr QColor RedHover      {0x8B, 0x0D, 0x11}; ///< danger button under the pointer
+inline constexpr QColor RedPressed    {0x69, 0x0A, 0x0D};
+inline constexpr QColor PageEdge      {0xC9, 0xB0, 0xC9}; ///< border of the open page of a content switcher
 
 /// Distances in logical pixels.
 inline constexpr int Space4  =  4;
@@ -47,6 +51,15 @@ inline constexpr int FrameCorner   = 6;
 
 /// The desktop's own font, larger or smaller by some points, in semibold or not.
 QFont font(double morePoints = 0, bool semibold = false);
+
+/// A size that is told for a font of 10 points, at the size of the desktop's font.
+int scaled(double pixels);
+
+/// Height of a text box or list of one line: the line and 6 above and below, and 30 at 10 points whatever the family.
+int boxHeight(const QFontMetrics &metrics);
+
+/// Width of the room for the focus ring that buttons and ticks carry outside their visible edge.
+inline constexpr int RingRoom = 4;
 
 } // namespace Theme
 

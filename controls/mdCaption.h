@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QString>
+
+/// A caption as it reads on the screen: without the ampersands that mark its mnemonic.
+QString mdPlainCaption(const QString &caption);
+
+/// A caption as a screen reader says it: without mnemonic, colon and asterisk, so "Surname" of "&Surname:*".
+QString mdSpokenCaption(const QString &caption);

@@ -1,0 +1,97 @@
+#include "controls/oCustomButton.h"
+
+#include "controls/mdCaption.h"
+#include "controls/mdTheme.h"
+
+#include <QKeyEvent>
+
+namespace {
+
+struct clsLookName {
+    oCustomButton::Look look;
+    QLatin1String name;
+};
+
+// clang-format off
+constexpr clsLookName Names[] = {
+    {oCustomButton::Look::Secondary,   QLatin1String("secondary")},
+    {oCustomButton::Look::Default,     QLatin1String("default")},
+    {oCustomButton::Look::Danger,      QLatin1String("danger")},
+    {oCustomButton::Look::Small,       QLatin1String("small")},
+    {oCustomButton::Look::JoinedLeft,  QLatin1String("joinedLeft")},
+    {oCustomButton::Look::JoinedRight, QLatin1String("joinedRight")},
+    {oCustomButton::Look::Arrow,       QLatin1String("arrow")},
+    {oCustomButton::Look::Band,        QLatin1String("band")},
+};
+// clang-format on
+
+} // namespace
+
+oCustomButton::Look oCustomButton::lookFromName(const QString &name)
+{
+    for (const clsLookName &row : Names)
+        if (row.name == name)
+            return row.look;
+    return Look::Secondary;
+}
+
+oCustomButton::oCustomButton(QWidget *parent)
+    : QPushButton(parent)
+{
+    setLook(Look::Secondary);
+    connect(this, &QPushButton::clicked, this, &oCustomButton::Click);
+}
+
+void oCustomButton::setCaption(const QString &caption)
+{
+    setText(caption);
+}
+
+QString oCustomButton::Caption() const
+{
+    return mdPlainCaption(text());
+}
+
+void oCustomButton::setLook(Look look)
+{
+    m_look = look;
+    const bool filled = look == Look::Default || look == Look::Danger;
+    // Only these may be the default: else Enter would press whichever button was added first.
+    setAutoDefault(filled);
+    setDefault(filled);
+    QFont own;
+    if (filled)
+        own.setWeight(QFont::DemiBold);
+    else if (look == Look::Small)
+        own = Theme::font(-1);
+    setFont(own);
+    for (const clsLookName &row : Names)
+        if (row.look == look)
+            setProperty("look", QString(row.name));
+    updateGeometry();
+    update();
+}
+
+void oCustomButton::setGlyph(Glyph glyph)
+{
+    setProperty("glyph", int(glyph));
+    updateGeometry();
+    update();
+}
+
+void oCustomButton::keyPressEvent(QKeyEvent *event)
+{
+    // A button with the focus takes Enter for itself; only elsewhere does it belong to the default one.
+    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && !event->isAutoRepeat())
+        click();
+    else
+        QPushButton::keyPressEvent(event);
+}
+
+void oCustomButton::focusInEvent(QFocusEvent *event)
+{
+    QPushButton::focusInEvent(event);
+    // The ring of one half of a pair lies over the other half.
+    if (m_look == Look::JoinedLeft || m_look == Look::JoinedRight)
+        raise();
+}

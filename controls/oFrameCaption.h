@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QAbstractButton>
+
+class oFrame;
+
+/// The caption of a frame. It is a button for the keyboard's and the screen reader's sake; what a click means is the
+/// frame's matter. Of a frame that only groups it is plain text that can't have the focus.
+class oFrameCaption final : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    explicit oFrameCaption(oFrame &frame);
+
+    QSize sizeHint() const override;
+    /// Whether it is the caption of a page, and of an open one.
+    bool isPage() const;
+    bool isOpen() const;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void paintHeading(QPainter &painter) const;
+    void paintPage(QPainter &painter) const;
+
+    oFrame &m_frame;
+};

@@ -1,0 +1,89 @@
+#include "controls/oInputFilter.h"
+
+#include "controls/mdTheme.h"
+
+#include <QAbstractScrollArea>
+#include <QAbstractSlider>
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QScrollBar>
+
+namespace {
+
+bool underlineMnemonics = false;
+
+/// Lists, spin boxes and sliders turn their value with the wheel. One that only lies on the wheel's way must not.
+bool turnsByAccident(const QObject *watched)
+{
+    const auto *widget = qobject_cast<const QWidget *>(watched);
+    if (!widget || widget->hasFocus())
+        return false;
+    return qobject_cast<const QComboBox *>(widget) || qobject_cast<const QAbstractSpinBox *>(widget)
+        || (qobject_cast<const QAbstractSlider *>(widget) && !qobject_cast<const QScrollBar *>(widget));
+}
+
+} // namespace
+
+void oInputFilter::install(QApplication &application)
+{
+    if (!application.findChild<oInputFilter *>())
+        application.installEventFilter(new oInputFilter(&application));
+}
+
+bool oInputFilter::UnderlineMnemonics()
+{
+    return underlineMnemonics;
+}
+
+void oInputFilter::setUnderlineMnemonics(bool underline)
+{
+    if (underlineMnemonics == underline)
+        return;
+    underlineMnemonics = underline;
+    for (QWidget *widget : QApplication::allWidgets())
+        if (widget->isVisible())
+            widget->update();
+}
+
+void oInputFilter::showInvalid(QWidget &box)
+{
+    // A text edit's page is a widget of its own, to which the style has no say.
+    if (const auto *area = qobject_cast<QAbstractScrollArea *>(&box)) {
+        QPalette palette;
+        if (box.property("invalid").toBool())
+            palette.setColor(QPalette::Base, Theme::Pink);
+        area->viewport()->setPalette(palette);
+    }
+    box.update();
+}
+
+bool oInputFilter::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::KeyPress:
+        if (static_cast<QKeyEvent *>(event)->key() == Qt::Key_Alt)
+            setUnderlineMnemonics(true);
+        return false;
+    case QEvent::KeyRelease:
+        if (static_cast<QKeyEvent *>(event)->key() == Qt::Key_Alt)
+            setUnderlineMnemonics(false);
+        return false;
+    case QEvent::ApplicationDeactivate:
+        // The release of Alt+Tab goes to another program.
+        setUnderlineMnemonics(false);
+        return false;
+    case QEvent::Wheel:
+        if (!turnsByAccident(watched))
+            return false;
+        // Ignored, so that it goes on to the page below.
+        event->ignore();
+        return true;
+    case QEvent::DynamicPropertyChange:
+        if (static_cast<QDynamicPropertyChangeEvent *>(event)->propertyName() == "invalid" && watched->isWidgetType())
+            showInvalid(*static_cast<QWidget *>(watched));
+        return false;
+    default: return false;
+    }
+}

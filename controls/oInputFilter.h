@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QObject>
+
+class QApplication;
+class QWidget;
+
+/// What the whole application does with keys and the wheel before its controls see them: mnemonics are underlined
+/// while Alt is held, a wheel over a list that hasn't the focus scrolls the page, and a box that is marked as invalid
+/// is painted anew. It eats nothing else.
+class oInputFilter final : public QObject {
+    Q_OBJECT
+
+public:
+    /// Watches the application, which owns the filter; a second call changes nothing.
+    static void install(QApplication &application);
+
+    /// Whether mnemonics are underlined at the moment.
+    static bool UnderlineMnemonics();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    using QObject::QObject;
+
+    static void setUnderlineMnemonics(bool underline);
+    static void showInvalid(QWidget &box);
+};

@@ -1,0 +1,70 @@
+#include "controls/oLeftRightButton.h"
+
+#include "controls/mdTheme.h"
+#include "controls/oCustomButton.h"
+
+#include <QHBoxLayout>
+
+oLeftRightButton::oLeftRightButton(QWidget *parent)
+    : QFrame(parent)
+    , m_btnLeft(new oCustomButton(this))
+    , m_btnRight(new oCustomButton(this))
+{
+    m_btnLeft->setObjectName(QStringLiteral("btnLeft"));
+    m_btnLeft->setLook(oCustomButton::Look::JoinedLeft);
+    m_btnRight->setObjectName(QStringLiteral("btnRight"));
+    m_btnRight->setLook(oCustomButton::Look::JoinedRight);
+    setLeftCaption(QStringLiteral("<<"));
+    setRightCaption(QStringLiteral(">>"));
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(Theme::RingRoom, Theme::RingRoom, Theme::RingRoom, Theme::RingRoom);
+    row->setSpacing(0);
+    row->addWidget(m_btnLeft);
+    row->addWidget(m_btnRight);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    // The margin is the room of the rings, so that layouts align the visible edges. The frame style makes it known.
+    setProperty("ringRoom", true);
+    setFrameStyle(QFrame::NoFrame);
+    connect(m_btnLeft, &oCustomButton::Click, this, &oLeftRightButton::LeftClick);
+    connect(m_btnRight, &oCustomButton::Click, this, &oLeftRightButton::RightClick);
+}
+
+void oLeftRightButton::setLeftCaption(const QString &caption)
+{
+    m_btnLeft->setCaption(caption);
+}
+
+QString oLeftRightButton::LeftCaption() const
+{
+    return m_btnLeft->Caption();
+}
+
+void oLeftRightButton::setRightCaption(const QString &caption)
+{
+    m_btnRight->setCaption(caption);
+}
+
+QString oLeftRightButton::RightCaption() const
+{
+    return m_btnRight->Caption();
+}
+
+void oLeftRightButton::setLeftEnabled(bool enabled)
+{
+    m_btnLeft->setEnabled(enabled);
+}
+
+bool oLeftRightButton::LeftEnabled() const
+{
+    return m_btnLeft->isEnabledTo(this);
+}
+
+void oLeftRightButton::setRightEnabled(bool enabled)
+{
+    m_btnRight->setEnabled(enabled);
+}
+
+bool oLeftRightButton::RightEnabled() const
+{
+    return m_btnRight->isEnabledTo(this);
+}

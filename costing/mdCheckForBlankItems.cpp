@@ -4,6 +4,7 @@
 #include "costing/mdTimeFormatting.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/mdCustomMessages.h"
+#include "shell/mdGlobals.h"
 #include "shell/mdLog.h"
 
 namespace {
@@ -40,9 +41,17 @@ QString mdBlankItemsMessage(const clsZR3Form &form)
     return report.isEmpty() ? QStringLiteral("No blank items found") : QStringLiteral("Blank items: \r\n\r\n") + report;
 }
 
+void CheckForBlankItems()
+{
+    if (!Form)
+        throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
+    CheckForBlankItems(*Form);
+}
+
 void CheckForBlankItems(const clsZR3Form &form)
 {
     WriteLog(QStringLiteral("Begin Check for Blank Items"));
-    mdCustomMessages(mdBlankItemsMessage(form), QStringLiteral("Blank Items"));
+    mdCustomMessages(mdBlankItemsMessage(form), QStringLiteral("Blank Items"), clsUserInterface::OKOnly,
+        clsUserInterface::Information);
     WriteLog(QStringLiteral("End Check for Blank Items"));
 }

@@ -11,5 +11,7 @@ int mdCountBlankDisbursements(const clsZR3Form &form);
 /// The text that tells the user of both counts; its line breaks are CR LF.
 QString mdBlankItemsMessage(const clsZR3Form &form);
 
-/// The user's command: counts what would bill nothing, and shows it. Nothing is changed, and no item named.
+/// The user's command, on the current claim: counts what would bill nothing, and shows it. Nothing is changed, and no
+/// item named.
+void CheckForBlankItems();
 void CheckForBlankItems(const clsZR3Form &form);

@@ -13,15 +13,19 @@ QString registryName()
     return QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Velmor\\ZR3") + QStringLiteral("\\Database Path");
 }
 
+/// The folder that a stored text means.
+QString folderOf(QString stored)
+{
+    if (stored.endsWith(u'\\') || stored.endsWith(u'/'))
+        stored.chop(1);
+    return stored.isEmpty() ? DefaultDatabasePath() : stored;
+}
+
 } // namespace
 
 QString GetDatabasePath()
 {
-    QString path = ReadRegKey(registryName());
-    if (path.endsWith(u'\\') || path.endsWith(u'/'))
-        path.chop(1);
-    if (path.isEmpty())
-        path = DefaultDatabasePath();
+    const QString path = folderOf(ReadRegKey(registryName()));
     if (!FileSystem().FolderExists(path)) {
         UserInterface().systemMessage(QStringLiteral("The folder ") + path
                 + QStringLiteral(" does not exist. Please contact your system administrator"),
@@ -32,6 +36,11 @@ QString GetDatabasePath()
     // the failed write shows each time. Both are meant.
     SetDatabasePath(path);
     return path;
+}
+
+QString StoredDatabasePath()
+{
+    return folderOf(ReadRegKeyQuietly(registryName()));
 }
 
 void SetDatabasePath(const QString &path)

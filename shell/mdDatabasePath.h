@@ -7,6 +7,10 @@
 /// The path is stored again at each call, which fills in the default at the first start and cleans a slash away.
 QString GetDatabasePath();
 
+/// The database folder as it is stored or by default, whether or not it exists. Nothing is shown, logged or stored: for
+/// the moments at which the program can't talk to anybody.
+QString StoredDatabasePath();
+
 /// Stores the database folder.
 void SetDatabasePath(const QString &path);
 

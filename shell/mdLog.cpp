@@ -6,7 +6,8 @@
 
 namespace {
 
-std::function<bool()> logSwitch;
+// Never destroyed: the preferences take it back when they go, which can be at the very end of the program.
+std::function<bool()> &logSwitch = *new std::function<bool()>;
 
 QString pathOfDay(const QDate &day)
 {

@@ -4,7 +4,8 @@
 
 namespace {
 
-std::function<bool()> soundSwitch;
+// Never destroyed: the preferences take it back when they go, which can be at the very end of the program.
+std::function<bool()> &soundSwitch = *new std::function<bool()>;
 
 } // namespace
 

@@ -135,6 +135,15 @@ QString ReadRegKey(const QString &name)
     return value;
 }
 
+QString ReadRegKeyQuietly(const QString &name)
+{
+    try {
+        return firstValue(stores(), storeKey(name)).value_or(QString());
+    } catch (const clsRunTimeError &) {
+        return {};
+    }
+}
+
 void WriteRegKey(const QString &name, const QString &value)
 {
     logged("Write", "There was a problem writing to the following registry key:", name,

@@ -10,6 +10,9 @@
 /// The text under a name, or an empty one when there is none.
 QString ReadRegKey(const QString &name);
 
+/// The same without box and log: a failure reads as empty.
+QString ReadRegKeyQuietly(const QString &name);
+
 /// Stores a text for this user.
 void WriteRegKey(const QString &name, const QString &value);
 

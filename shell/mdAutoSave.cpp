@@ -1,0 +1,61 @@
+#include "shell/mdAutoSave.h"
+
+#include "formdata/clsZR3Form.h"
+#include "formdata/clsZR3PreferencesDatabase.h"
+#include "shell/clsFileSystem.h"
+#include "shell/mdClock.h"
+#include "shell/mdFileHandling.h"
+#include "shell/mdGlobals.h"
+#include "shell/mdLog.h"
+
+#include <QDir>
+
+namespace {
+
+constexpr qint64 SecondsBetweenBackups = 600;
+
+void autoSave()
+{
+    WriteLog(QStringLiteral("Begin Autosave"));
+    if (!Form || !Preferences)
+        throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
+    // Whether backups are written is up to this folder alone. The preference `AutoBackup` is a hint to the user on the
+    // preferences screen and no switch: that is meant.
+    const QString folder = Preferences->AutoBackupPath();
+    if (!FileSystem().FolderExists(folder)) {
+        WriteLog(QStringLiteral("Autosave cancelled. Path not found"));
+        return;
+    }
+    Form->SaveXML(QDir(folder).absolutePath() + u'/' + FormCopyName());
+    WriteLog(QStringLiteral("End Autosave"));
+}
+
+QString noted(const QDateTime &time)
+{
+    // With its offset, so that ten minutes are ten minutes in the night in which the clocks change, too.
+    return time.toOffsetFromUtc(time.offsetFromUtc()).toString(Qt::ISODate);
+}
+
+} // namespace
+
+void mdAutoSave()
+{
+    try {
+        autoSave();
+    } catch (const std::exception &) {
+        WriteLog(QStringLiteral("End Autosave - ERROR ENCOUNTERED"));
+    }
+}
+
+void mdAutoBackupTick(QString &tag)
+{
+    const QDateTime last = QDateTime::fromString(tag, Qt::ISODate);
+    if (!last.isValid()) {
+        tag = noted(Now());
+        return;
+    }
+    if (last.secsTo(Now()) < SecondsBetweenBackups)
+        return;
+    mdAutoSave();
+    tag = noted(Now());
+}

@@ -1,0 +1,9 @@
+#pragma once
+
+#include <functional>
+
+/// Has the handler called, from the event loop, when the system asks the program to end (on POSIX systems SIGTERM and
+/// SIGHUP). It is called once: whatever asks again while the program is ending is ignored. An empty handler leaves the
+/// signals to the system again.
+/// Without a running event loop nothing is called. To be used on the one thread only.
+void SetEndSignalHandler(std::function<void()> handler);

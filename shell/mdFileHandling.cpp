@@ -1,0 +1,229 @@
+#include "shell/mdFileHandling.h"
+
+#include "formdata/clsZR3Form.h"
+#include "formdata/clsZR3PreferencesDatabase.h"
+#include "shell/clsFileSystem.h"
+#include "shell/mdCodePage.h"
+#include "shell/mdCustomMessages.h"
+#include "shell/mdGetResourceData.h"
+#include "shell/mdGetVersionInfo.h"
+#include "shell/mdGlobals.h"
+#include "shell/mdVersionComparison.h"
+
+#include <QFileInfo>
+
+namespace {
+
+const QString Filter = QStringLiteral("Velmor ZR3 Files (*.zr3)|*.zr3");
+const QString DefaultExtension = QStringLiteral(".zr3");
+
+constexpr int FileIsNewer = 2;
+
+clsFormDisplay formDisplay;
+
+/// The path as the claim holds it, and the one that it was given. They differ where the code page lacks a character.
+struct {
+    QString held;
+    QString real;
+} givenPath;
+
+/// Whether this program has written the current claim to its file.
+bool wasSaved = false;
+
+void run(const std::function<void()> &action)
+{
+    if (action)
+        action();
+}
+
+template <class T> T &existing(const std::unique_ptr<T> &pointer)
+{
+    if (!pointer)
+        throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
+    return *pointer;
+}
+
+void replaceForm()
+{
+    Form = std::make_unique<clsZR3Form>();
+    givenPath = {};
+    wasSaved = false;
+}
+
+void givePath(const QString &path)
+{
+    Form->path = path;
+    givenPath = {Form->path(), path};
+}
+
+void warnOfNewerVersion(const QString &fileVersion)
+{
+    const QString paragraph = QStringLiteral("\r\n\r\n");
+    mdCustomMessages(
+        QStringLiteral("The file you have opened was created on a newer version of the program than you are currently "
+                       "running.")
+            + paragraph + QStringLiteral("This file was created in version ") + fileVersion
+            + QStringLiteral(", you are currently running version ") + GetVersionInfo() + paragraph
+            + QStringLiteral(
+                "This file may contain functionality that is not recognised by this version and saving may "
+                "lose information that is vital to the file.")
+            + paragraph + QStringLiteral("Please visit ")
+            + GetResourceData(QStringLiteral("ciWebsite"), QStringLiteral("COMPANYINFO"))
+            + QStringLiteral(" and download the latest version of the program."),
+        QStringLiteral("Version Error"));
+}
+
+/// Loads the file into the current claim, and begins a new one where it is none; true when it was loaded.
+bool loadForm(const QString &path)
+{
+    if (!Form->LoadXML(path)) {
+        NewForm(true);
+        return false;
+    }
+    if (CompareVersions(Form->Version(), GetVersionInfo()) == FileIsNewer)
+        warnOfNewerVersion(Form->Version());
+    return true;
+}
+
+bool cleanTextIsOnDisk()
+{
+    try {
+        return FileSystem().ReadFile(FormFilePath()) == mdToCodePage(CleanXML);
+    } catch (const clsRunTimeError &) {
+        return false;
+    }
+}
+
+} // namespace
+
+void SetFormDisplay(clsFormDisplay display)
+{
+    formDisplay = std::move(display);
+}
+
+bool FormIsDirty()
+{
+    return Form && Form->XMLOutput() != CleanXML;
+}
+
+bool ConfirmClose()
+{
+    if (!FormIsDirty())
+        return true;
+    switch (mdCustomMessages(QStringLiteral("Save changes to this form before closing?"), QStringLiteral("Save?"),
+        clsUserInterface::YesNoCancel, clsUserInterface::Question)) {
+    case clsUserInterface::Yes: return SaveForm(false);
+    case clsUserInterface::No: return true;
+    default: return false;
+    }
+}
+
+bool SaveForm(bool saveAs)
+{
+    clsZR3Form &form = existing(Form);
+    if ((form.path.isEmpty() || saveAs) && !SaveFormDialog())
+        return false;
+    // Before the text is written, so that it is part of it.
+    form.Version = GetVersionInfo();
+    form.SaveXML(FormFilePath());
+    // Also after a write that failed. That is meant: its box has told the user, and the old content lies beside the
+    // file.
+    CleanXML = form.XMLOutput();
+    wasSaved = true;
+    run(formDisplay.activate);
+    return true;
+}
+
+bool SaveFormDialog()
+{
+    existing(Form);
+    const QString path = UserInterface().chooseFileToSave(Filter, DefaultExtension);
+    if (path.isEmpty() || !ConfirmOverwrite(path))
+        return false;
+    givePath(path);
+    return true;
+}
+
+bool ConfirmOverwrite(const QString &path)
+{
+    try {
+        if (!FileSystem().FileExists(path))
+            return true;
+    } catch (const clsRunTimeError &) {
+        // What keeps the program from looking keeps it from writing too, and the write tells the user why.
+        return true;
+    }
+    return mdCustomMessages(QStringLiteral("The chosen file path already exists. Would you like to overwrite it?"),
+               QStringLiteral("Overwrite?"), clsUserInterface::YesNo, clsUserInterface::Question)
+        == clsUserInterface::Yes;
+}
+
+void NewForm(bool skipConfirm)
+{
+    if (!skipConfirm && !ConfirmClose())
+        return;
+    replaceForm();
+    Form->Version = GetVersionInfo();
+    Form->VAT = true;
+    Form->VATRate = existing(Preferences).DefaultVATRate();
+    CleanXML = Form->XMLOutput();
+    run(formDisplay.stopTimer);
+    run(formDisplay.activate);
+}
+
+void OpenFormDialog(bool clearPath)
+{
+    // Before the dialog: whoever then cancels it has been asked already, and keeps his claim with its changes.
+    if (!ConfirmClose())
+        return;
+    const QString path = UserInterface().chooseFileToOpen(Filter);
+    if (!path.isEmpty()) {
+        OpenFormFile(path);
+        if (clearPath)
+            givePath(QString());
+        run(formDisplay.clearPreview);
+        run(formDisplay.stopTimer);
+    }
+    run(formDisplay.activate);
+}
+
+void OpenFormFile(const QString &path)
+{
+    // The claim before is gone from here on, also where the load fails.
+    replaceForm();
+    try {
+        if (!loadForm(path))
+            return;
+    } catch (...) {
+        // The failure goes on to the top. Nothing of the user's is in a claim that was never opened: compared with the
+        // clean text of the claim before it would count as changed.
+        CleanXML = Form->XMLOutput();
+        throw;
+    }
+    // In this order: new elements that an older file got by being loaded count as clean, and a path that differs from
+    // the one in the file counts as a change. A copy or a backup thus asks to be saved where it lies now.
+    CleanXML = Form->XMLOutput();
+    givePath(path);
+}
+
+QString FormFilePath()
+{
+    const QString held = existing(Form).path();
+    return held == givenPath.held ? givenPath.real : held;
+}
+
+QString FormCopyName()
+{
+    const QString real = FormFilePath();
+    return real == Form->path() ? Form->FormFileName() : QFileInfo(real).fileName();
+}
+
+bool FormNeedsRecovery() noexcept
+{
+    try {
+        return FormIsDirty() || (Form && wasSaved && !cleanTextIsOnDisk());
+    } catch (...) {
+        // A claim that can't even be compared is not known to be safe.
+        return true;
+    }
+}

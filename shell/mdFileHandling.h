@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+// The commands that change which claim is current and whether it is on the disk. What they ask and tell passes through
+// UserInterface(), what they do to the window through the display below, so that they run without either.
+
+/// What the commands do to the main window; any of it may be empty.
+struct clsFormDisplay {
+    std::function<void()> activate; ///< the window's activation routine
+    std::function<void()> clearPreview;
+    std::function<void()> stopTimer; ///< the footer's stopwatch
+};
+void SetFormDisplay(clsFormDisplay display);
+
+/// True when there is a claim and its text differs from the clean one.
+bool FormIsDirty();
+
+/// Asks whether to save a changed claim. True when the caller may drop it.
+bool ConfirmClose();
+
+/// Writes the claim to its path, asking for one where it has none or with `saveAs`. False when the user gave none. A
+/// write that failed has shown its box and counts as saved.
+bool SaveForm(bool saveAs);
+
+/// Asks for a path and gives it to the claim; false when the user gave none or would not overwrite.
+bool SaveFormDialog();
+
+/// True when nothing lies at the path or the user agrees to overwrite it.
+bool ConfirmOverwrite(const QString &path);
+
+/// Begins a new claim, after the save question unless it is skipped.
+void NewForm(bool skipConfirm);
+
+/// Asks for a claim and opens it, after the save question. With `clearPath` the claim is cut off from its file.
+void OpenFormDialog(bool clearPath);
+
+/// Opens the claim at a path. Where that is no claim, the user is told and a new one begins. A claim whose version has
+/// fewer than three fields raises the subscript error, which is not caught.
+void OpenFormFile(const QString &path);
+
+/// The file in which the claim lies, empty where it has none. The claim itself holds its path in the code page, in
+/// which a foreign character is a question mark; whoever touches the file must ask here, or he would write to another
+/// one.
+QString FormFilePath();
+
+/// The name that a copy of the claim bears: its file's, or the fixed one of an unsaved claim.
+QString FormCopyName();
+
+/// True when the end of the program would lose work: the claim has changes, or it counts as saved though its last save
+/// did not get through. Shows nothing and never fails.
+bool FormNeedsRecovery() noexcept;

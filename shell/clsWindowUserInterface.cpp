@@ -95,9 +95,8 @@ clsUserInterface::Answer clsWindowUserInterface::systemMessage(
         return answerThatChangesNothing(buttons);
     clsLongWork::hideWaiting();
     const clsButtonsRow &row = ButtonsRows[buttons];
-    QMessageBox box(
-        boxIcon(icon), title, QString(message).replace(QStringLiteral("\r\n"), QStringLiteral("\n")), row.shown,
-        activeParent());
+    QMessageBox box(boxIcon(icon), title, QString(message).replace(QStringLiteral("\r\n"), QStringLiteral("\n")),
+        row.shown, activeParent());
     // Paths and descriptions are shown as they are, whatever they look like, and can be copied.
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

@@ -91,8 +91,7 @@ void frmAbout::addLink(
 {
     auto *content = new QLabel(bxGeneral);
     content->setTextFormat(Qt::RichText);
-    content->setText(
-        QStringLiteral("<a href=\"%1\">%2</a>").arg(target.toHtmlEscaped(), text.toHtmlEscaped()));
+    content->setText(QStringLiteral("<a href=\"%1\">%2</a>").arg(target.toHtmlEscaped(), text.toHtmlEscaped()));
     content->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     content->setObjectName(QString::fromLatin1(name));
     content->setAccessibleName(mdSpokenCaption(caption));

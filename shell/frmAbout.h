@@ -16,7 +16,8 @@ public:
 
 private:
     void addRow(QFormLayout &rows, const QString &caption, const char *name, const QString &text);
-    void addLink(QFormLayout &rows, const QString &caption, const char *name, const QString &text, const QString &target);
+    void addLink(
+        QFormLayout &rows, const QString &caption, const char *name, const QString &text, const QString &target);
 
     oFrame *bxGeneral;
     oCustomButton *cmdClose;

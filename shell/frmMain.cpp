@@ -73,9 +73,8 @@ frmMain::frmMain(QWidget *parent)
     connect(tbSection, &oTabBar::Click, this, &frmMain::tbSection_Click);
     connect(tbSubSection, &oTabBar::Click, this, &frmMain::tbSubSection_Click);
     connect(tmrAutoBackup, &QTimer::timeout, this, &frmMain::tmrAutoBackup_Timer);
-    connect(sgPreview, &oPreviewGrid::RightClick, this, [this](const QPoint &place) {
-        menuBar()->findChild<QMenu *>(QStringLiteral("mnuPreview"))->popup(place);
-    });
+    connect(sgPreview, &oPreviewGrid::RightClick, this,
+        [this](const QPoint &place) { menuBar()->findChild<QMenu *>(QStringLiteral("mnuPreview"))->popup(place); });
     SetOpenSection([this](const QString &text) { tbSubSection_Click(-1, text); });
     SetFormDisplay({[this] { Activate(); }, mdClearPreview, [this] { oFooter->TimeSpentTimer()->StopTimer(); }});
 }
@@ -222,8 +221,7 @@ void frmMain::Activate()
 bool frmMain::event(QEvent *event)
 {
     const bool handled = QMainWindow::event(event);
-    if (event->type() == QEvent::WindowActivate && m_loaded && !m_modal
-        && !std::exchange(m_activationDone, false))
+    if (event->type() == QEvent::WindowActivate && m_loaded && !m_modal && !std::exchange(m_activationDone, false))
         Activate();
     return handled;
 }
@@ -291,8 +289,9 @@ void frmMain::SaveAs()
 void frmMain::ExportToWord()
 {
     if (!wordInstalled()) {
-        mdCustomMessages(QStringLiteral("Velmor ZR3 could not detect Microsoft Word. Please install Microsoft Word onto "
-                                        "your computer and try again."),
+        mdCustomMessages(
+            QStringLiteral("Velmor ZR3 could not detect Microsoft Word. Please install Microsoft Word onto "
+                           "your computer and try again."),
             QStringLiteral("Word Error"));
         return;
     }

@@ -57,7 +57,8 @@ frmSplash::frmSplash(QWidget *parent)
 {
     setObjectName(QStringLiteral("frmSplash"));
     setWindowTitle(QStringLiteral("Velmor ZR3"));
-    // Nothing is logged yet, since there are no preferences; the splash announces itself like every window all the same.
+    // Nothing is logged yet, since there are no preferences; the splash announces itself like every window all the
+    // same.
     WriteLog(objectName() + QStringLiteral(" Opened"));
     setFocusPolicy(Qt::StrongFocus);
     setFixedSize(Theme::scaled(SplashWidth), Theme::scaled(SplashHeight));

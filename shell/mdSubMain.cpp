@@ -62,9 +62,8 @@ void showMain(clsProgram &program, oApplication &application, clsWindowUserInter
     frmMain *window = program.main.get();
     QObject::connect(window, &frmMain::Closed, &application, [&application] { application.end(0); });
     user.setProgressDisplay({
-        [footer = window->footer()](int value, int maximum, const QString &text) {
-            footer->showProgress(value, maximum, text);
-        },
+        [footer = window->footer()](
+            int value, int maximum, const QString &text) { footer->showProgress(value, maximum, text); },
         [footer = window->footer()] { footer->clearProgress(); },
     });
     window->Load(claimPath);
@@ -88,8 +87,9 @@ int RunProgram(int argc, char **argv)
     SetEndSignalHandler([&application] { application.endUnasked(); });
 
     if (IsNetworkPath(ProgramFolder())) {
-        mdCustomMessages(QStringLiteral("Velmor ZR3 cannot be run through a network. Please install and run the program "
-                                        "on this machine directly."),
+        mdCustomMessages(
+            QStringLiteral("Velmor ZR3 cannot be run through a network. Please install and run the program "
+                           "on this machine directly."),
             QStringLiteral("Network Error"));
         return 1;
     }

@@ -12,7 +12,8 @@ oApplication::oApplication(int &argc, char **argv)
     // The splash stays alive, hidden, to the end; the end is the main window's to tell.
     setQuitOnLastWindowClosed(false);
     // The desktop may yet change its mind about ending the session, so the program only makes sure of the work.
-    connect(this, &QGuiApplication::commitDataRequest, this, [this] { recoveredCopy(); }, Qt::DirectConnection);
+    connect(
+        this, &QGuiApplication::commitDataRequest, this, [this] { recoveredCopy(); }, Qt::DirectConnection);
 }
 
 oApplication *oApplication::instance()

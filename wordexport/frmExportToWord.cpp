@@ -186,8 +186,8 @@ void frmExportToWord::cmdExport_Click()
     cmdExport->setFocus();
     // Without a document the user has been told why.
     if (finished)
-        mdCustomMessages(QStringLiteral("Exporting is complete."), QStringLiteral("Export Complete"),
-            clsUserInterface::OKOnly, 2);
+        mdCustomMessages(
+            QStringLiteral("Exporting is complete."), QStringLiteral("Export Complete"), clsUserInterface::OKOnly, 2);
 }
 
 void frmExportToWord::done(int result)

@@ -48,8 +48,7 @@ protected:
     /// The preferences file of the program folder, with some switches on.
     void writePreferences(std::initializer_list<const char *> switchedOn) const
     {
-        QString text = GetResourceData(
-            QStringLiteral("xmlZR3PreferencesDatabase"), QStringLiteral("VELMORZR3XML"));
+        QString text = GetResourceData(QStringLiteral("xmlZR3PreferencesDatabase"), QStringLiteral("VELMORZR3XML"));
         for (const char *name : switchedOn) {
             const QString off = QStringLiteral("<%1>False</%1>").arg(QString::fromLatin1(name));
             ASSERT_TRUE(text.contains(off)) << name;

@@ -60,7 +60,8 @@ TEST_F(About, AClickOpensMailAndSite)
         auto &label = control<QLabel>(about, name);
         QTest::mouseClick(&label, Qt::LeftButton, {}, QPoint(10, label.height() / 2));
     }
-    EXPECT_EQ(QStringList({QStringLiteral("mailto:") + resource("ciSupportEmail"), resource("ciWebsite")}), user.opened);
+    EXPECT_EQ(
+        QStringList({QStringLiteral("mailto:") + resource("ciSupportEmail"), resource("ciWebsite")}), user.opened);
 }
 
 TEST_F(About, TheLinksWorkByKeyboard)

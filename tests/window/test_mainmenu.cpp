@@ -4,6 +4,7 @@
 #include <QMenuBar>
 
 #include <QSet>
+#include <QTimer>
 
 namespace {
 

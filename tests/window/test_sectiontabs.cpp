@@ -22,7 +22,8 @@ TEST(SectionTabs, SecondRowOfClaim1)
 {
     const QString type = QStringLiteral("Claim1");
     EXPECT_EQ(split("Form Setup|Fee Earners / Rates|Counsel|Enhancements"), mdSubSectionTabs(1, type));
-    EXPECT_EQ(split("Client Details|Solicitor Details|Previous Advice|Case Information|Outcome of Case|Late Submission"),
+    EXPECT_EQ(
+        split("Client Details|Solicitor Details|Previous Advice|Case Information|Outcome of Case|Late Submission"),
         mdSubSectionTabs(2, type));
     EXPECT_EQ(split("Counsel Outstanding Claims|Details of Work|Schedule of Time|Disbursements|Communications"),
         mdSubSectionTabs(3, type));

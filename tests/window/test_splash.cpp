@@ -85,8 +85,9 @@ TEST_F(Splash, RResetsTheDatabaseFolderOnYesOnly)
     QTest::keyClick(splash.get(), Qt::Key_R);
     ASSERT_EQ(1u, user.messages.size());
     EXPECT_EQ(QStringLiteral("Reset"), user.messages[0].title);
-    EXPECT_EQ(QStringLiteral("This function will reset the database path to the standard setting. Are you sure you wish "
-                             "to continue?"),
+    EXPECT_EQ(
+        QStringLiteral("This function will reset the database path to the standard setting. Are you sure you wish "
+                       "to continue?"),
         user.messages[0].text);
     EXPECT_EQ(clsUserInterface::YesNo, user.messages[0].buttons);
     EXPECT_TRUE(user.messages[0].system);

@@ -2,7 +2,7 @@
 // Usable is the moment in which the window has been painted and waits for its user with nothing left to do.
 
 #include "shell/mdProgramFolder.h"
-#include "shell/mdRunProgram.h"
+#include "shell/mdSubMain.h"
 
 #include <QApplication>
 #include <QTimer>

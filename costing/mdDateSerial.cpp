@@ -1,20 +1,9 @@
 #include "costing/mdDateSerial.h"
 
+#include "costing/mdDateText.h"
+
 #include <QDate>
 #include <QStringList>
-
-namespace {
-
-constexpr int LastYearOfThisCentury = 29;
-
-int fullYear(int year, qsizetype digits)
-{
-    if (digits > 2)
-        return year;
-    return year <= LastYearOfThisCentury ? 2000 + year : 1900 + year;
-}
-
-} // namespace
 
 QString mdDateSerial(const QString &date)
 {
@@ -27,6 +16,6 @@ QString mdDateSerial(const QString &date)
     const int year = pieces[2].toInt(&isNumber[2]);
     if (!isNumber[0] || !isNumber[1] || !isNumber[2])
         return date;
-    const QDate parsed(fullYear(year, pieces[2].size()), month, day);
+    const QDate parsed(FullYear(year, pieces[2].size()), month, day);
     return parsed.isValid() ? parsed.toString(QStringLiteral("yyyyMMdd")) : date;
 }

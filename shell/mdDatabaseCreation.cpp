@@ -2,6 +2,7 @@
 
 #include "shell/clsUserInterface.h"
 #include "shell/mdDatabasePath.h"
+#include "shell/mdGetFolder.h"
 #include "shell/mdGetResourceData.h"
 #include "shell/mdTextDocumentHandling.h"
 
@@ -9,7 +10,7 @@
 
 void CreateDatabases()
 {
-    const QString folder = UserInterface().chooseFolder(QStringLiteral("Please select or create a database folder"));
+    const QString folder = GetFolder(QStringLiteral("Please select or create a database folder"));
     if (folder.isEmpty())
         return;
     WriteTextDocument(GetResourceData(QStringLiteral("xmlZR3PreferencesDatabase"), QStringLiteral("VELMORZR3XML")),

@@ -3,6 +3,7 @@
 #include "shell/clsFileSystem.h"
 #include "shell/clsProgramEnd.h"
 #include "shell/clsUserInterface.h"
+#include "shell/mdGetFolder.h"
 #include "shell/mdProgramFolder.h"
 #include "shell/mdRegistry.h"
 
@@ -65,7 +66,7 @@ QString DefaultDatabasePath()
 
 void SelectDatabasePath()
 {
-    const QString folder = UserInterface().chooseFolder(QStringLiteral("Please select a valid database folder"));
+    const QString folder = GetFolder(QStringLiteral("Please select a valid database folder"));
     if (!folder.isEmpty())
         SetDatabasePath(folder);
 }

@@ -197,3 +197,13 @@ double DoubleFromStrictText(QStringView text)
         FixedFromText(text, Places, std::numeric_limits<std::int64_t>::max())); // refuses what is no number
     return TextValue(text.toString().remove(u','));
 }
+
+bool IsNumeric(QStringView text)
+{
+    try {
+        FixedFromText(text, 0, std::numeric_limits<std::int64_t>::max());
+    } catch (const clsRunTimeError &error) {
+        return error.number() == clsRunTimeError::Overflow;
+    }
+    return true;
+}

@@ -29,3 +29,6 @@ std::int64_t FixedFromText(QStringView text, int places, std::int64_t largest);
 /// Strict, with all the decimals that there are: the nearest double to a number as `FixedFromText` takes it; error 13
 /// for a text that is none. Steps that multiply before they round take their factors so.
 double DoubleFromStrictText(QStringView text);
+
+/// Whether the text is a number as `FixedFromText` takes it, of whatever size.
+bool IsNumeric(QStringView text);

@@ -1,10 +1,6 @@
-#include "controls/mdTheme.h"
-
-#include <QApplication>
+#include "shell/mdSubMain.h"
 
 int main(int argc, char **argv)
 {
-    QApplication application(argc, argv);
-    mdApplyTheme(application);
-    return 0;
+    return RunProgram(argc, argv);
 }

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "editors/oFieldLabel.h"
+#include "editors/oScreenFrame.h"
+
+class QGridLayout;
+class QHBoxLayout;
+class oTickLayout;
+
+/// Turns the rows of a frame's table into widgets, one after the other: it makes each control and its caption and finds
+/// them a place. It lives while a frame is made.
+class clsFrameRows {
+public:
+    clsFrameRows(oScreenFrame &frame, const clsScreenFrame &table);
+
+    void layOut();
+
+private:
+    void beginPart();
+    void endPart();
+    void addSpace(int height);
+    void addSeparator();
+    void addQuestion(const clsScreenRow &row);
+    void addControl(const clsScreenRow &row);
+    void addAnswer(const clsScreenRow &row, QWidget *control);
+    void addToRowBefore(const clsScreenRow &row, QWidget *control);
+    void addBelowCaption(const clsScreenRow &row, QWidget *control, bool captioned);
+    void addBesideCaption(const clsScreenRow &row, QWidget *control);
+
+    oFieldLabel *label(const clsScreenRow &row, oFieldLabel::Place place, QWidget *control);
+    QHBoxLayout *cell(QWidget *control, bool wholeWidth);
+    bool standsAbove(const clsScreenRow &row) const;
+    bool isAnswer(const clsScreenRow &row) const;
+    int labelColumnWidth() const;
+    bool isTall(const clsScreenRow &row) const;
+
+    oScreenFrame &m_frame;
+    const clsScreenFrame &m_table;
+    QGridLayout *m_grid = nullptr; ///< the part being filled: labels in column 0, fields in column 1
+    int m_line = 0;
+    int m_spaceBefore = 0; ///< what the next row asks for above it, once there is one
+    QHBoxLayout *m_cell = nullptr; ///< of the last field, for one that stands behind it
+    oTickLayout *m_answers = nullptr; ///< of the question that is open
+    oFieldLabel *m_question = nullptr; ///< the open question, until its first answer is known
+    bool m_lastWasTick = false;
+};

@@ -1,0 +1,102 @@
+#pragma once
+
+#include <QStringList>
+
+#include <vector>
+
+class QWidget;
+class clsXMLRecord;
+class frmSection;
+
+/// What a row of a screen's table is: a field of some kind, or one of the rows that only arrange the others.
+enum class clsRowKind {
+    Text, ///< free text, with an allowance
+    Date,
+    Decimal,
+    Integer,
+    Time,
+    Tick,
+    List, ///< one entry of several; stored as its place, or as its text where the record keeps a text
+    Button,
+    Other, ///< a control that the row makes itself: a grid, or a control made of several
+    Question, ///< a caption of full width; the ticks behind it are its answers and stand in one row
+    Separator, ///< a hairline where the subject changes
+    ColumnBreak, ///< where a single long frame parts into two columns, if there is room for two
+};
+
+/// What is particular to a field. A row joins its flags with "|".
+enum clsFieldFlag : unsigned {
+    None = 0,
+    MultiLine = 1,
+    SpellCheck = 2,
+    OverRun = 4, ///< the text may run on to a continuation sheet
+    NoReplacements = 8, ///< abbreviations are not expanded
+    StartsDisabled = 16,
+    SameRow = 32, ///< stands behind the field before it
+    Required = 64, ///< Save refuses while it is empty
+    DateTick = 128, ///< a date that can be switched off
+    Unbound = 256, ///< has no member in the record
+    NoCaption = 512, ///< the frame's caption serves; the row's is read out only
+    Independent = 1024, ///< no pair, although its name ends in Yes or No
+};
+
+/// A control that a table brings with it. Loading and storing may be missing where it has no part in the record.
+struct clsOtherControl {
+    QWidget *(*make)(QWidget *parent);
+    void (*load)(QWidget &control, clsXMLRecord &record) = nullptr;
+    void (*store)(const QWidget &control, clsXMLRecord &record) = nullptr;
+};
+
+/// One row of a screen: a line for each control, in the order in which the user walks through them and in which they
+/// are loaded and stored.
+struct clsScreenRow {
+    clsRowKind kind;
+    const char *control = ""; ///< object name, such as "txtSurname"
+    const char *caption = "";
+    int allowance = 0; ///< characters that the printed box holds
+    unsigned flags = None;
+    char group = 0; ///< ticks of one letter are exclusive; pairs ...Yes and ...No are so by their names
+    const char *member = nullptr; ///< the record's property, where it isn't the control's name less its prefix
+    QStringList (*entries)() = nullptr; ///< what a list offers; it starts on the first
+    const clsOtherControl *other = nullptr;
+};
+
+/// A titled group of fields.
+struct clsScreenFrame {
+    const char *name; ///< object name, such as "bxGeneral"
+    const char *caption;
+    std::vector<clsScreenRow> rows;
+    bool startsColumn = false; ///< where there is room for two columns, the second begins here
+    int tickColumns = 0; ///< ticks stand in a grid of so many columns, row by row
+};
+
+/// The width that a screen opens with.
+enum class clsScreenWidth { Edit, OneColumn, List, TwoColumns };
+
+/// How a screen is left. A screen with one button only stores with it.
+enum class clsScreenEnding { SaveCancel, Close };
+
+/// A way to another section, as a button of the bar and an entry of the menu "Jump To".
+struct clsScreenJump {
+    const char *control; ///< the button's object name
+    const char *menu; ///< the entry's object name
+    const char *section; ///< what both are captioned and where they lead
+    bool menuStores = true; ///< the entry runs the store step, as the button always does
+};
+
+/// A screen, as a table. What it does beyond its table stands beside the table, in its `rules`.
+struct clsScreen {
+    const char *name; ///< of the window, such as "frmClientDetails"
+    const char *header;
+    const char *subCaption;
+    int iconGroup;
+    clsScreenWidth width;
+    clsScreenEnding ending;
+    const char *section = nullptr; ///< the section's text where the screen has Prev and Next
+    clsXMLRecord *(*record)() = nullptr; ///< the record of a section; an item's editor is given its item
+    std::vector<clsScreenFrame> frames {};
+    void (*rules)(frmSection &screen) = nullptr; ///< run once, when the controls stand and before they are filled
+    std::vector<clsScreenJump> jumps {};
+    const char *itemWord = nullptr; ///< an item's editor: what it edits, in the words of its questions
+    clsXMLRecord *(*add)() = nullptr; ///< an item's editor opened without one: makes it at the first Save
+};

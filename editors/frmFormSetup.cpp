@@ -1,0 +1,96 @@
+#include "editors/mdScreens.h"
+
+#include "controls/oCheckBox.h"
+#include "controls/oDecimalBox.h"
+#include "editors/frmSection.h"
+#include "formdata/clsZR3Form.h"
+#include "shell/mdGlobals.h"
+
+#include <QComboBox>
+
+namespace {
+
+QStringList formTypes()
+{
+    return {QStringLiteral("Claim1"), QStringLiteral("Claim1A")};
+}
+
+/// The form Claim1 has ten pages. The ticks of the others keep their state while they are disabled, and it is stored.
+void formTypeChanged(const frmSection &screen)
+{
+    const QString type = screen.Box<QComboBox>("cmbFormType").currentText();
+    if (type != QLatin1String("Claim1") && type != QLatin1String("Claim1A"))
+        return;
+    for (const char *page : {"chkIncludePage11", "chkIncludePage12", "chkIncludePage13"})
+        screen.Box(page).setEnabled(type == QLatin1String("Claim1A"));
+}
+
+void rules(frmSection &screen)
+{
+    QObject::connect(&screen.Box<QComboBox>("cmbFormType"), &QComboBox::currentIndexChanged, &screen,
+        [&screen] { formTypeChanged(screen); });
+    formTypeChanged(screen);
+    // The rate keeps its text while it is disabled: the totals go on using it.
+    QObject::connect(&screen.Box<oCheckBox>("chkVAT"), &oCheckBox::Click, &screen,
+        [&screen](bool checked) { screen.Box("txtVATRate").setEnabled(checked); });
+    // No export goes without the first page, whatever a file says.
+    QObject::connect(&screen, &frmSection::Loaded, &screen,
+        [&screen] { screen.Box<oCheckBox>("chkIncludePage1").setChecked(true); });
+}
+
+} // namespace
+
+/// What kind of claim this is: the form, VAT, the ticks of its first page, the pages that the export makes, and the
+/// user's own notes. It writes to the claim itself, and its one button stores.
+const clsScreen &ScreenFormSetup()
+{
+    using enum clsRowKind;
+    // clang-format off
+    static const clsScreen screen {
+        .name = "frmFormSetup",
+        .header = "Form Setup",
+        .subCaption = "Define the form type and preferences",
+        .iconGroup = 12,
+        .width = clsScreenWidth::TwoColumns,
+        .ending = clsScreenEnding::Close,
+        .record = []() -> clsXMLRecord * { return Form.get(); },
+        .frames = {
+            {"bxGeneral", "General", {
+                {.kind = List, .control = "cmbFormType", .caption = "Form Type:", .entries = formTypes},
+                {Tick,    "chkVAT",                           "VAT:"},
+                {Decimal, "txtVATRate",                       "%", 0, StartsDisabled | SameRow},
+                {Tick,    "chkIncludePanelMembershipContSheet", "Include Panel Membership Cont. Sheet:"},
+            }},
+            {"bxHeaders", "Form Header", {
+                {Tick,    "chkCostsAssessedByLSC",            "Claim for costs to be assessed by the LAA:"},
+                {Tick,    "chkCostsAssessedByCourt",          "Claim for costs assessed by the Court:"},
+                {Tick,    "chkExceptionalCaseFunding",        "Exceptional Case Funding determination:"},
+                {Tick,    "chkMentalHealth",                  "Mental Health/Court of Protection:"},
+                {Tick,    "chkVHCC",                          "VHCC/HCC:"},
+                {Text,    "txtStageNumber",                   "Stage Number:", 40},
+                {Text,    "txtTypeOfCase",                    "Type of Case:", 40},
+            }},
+            {.name = "bgPages", .caption = "Pages", .rows = {
+                {Tick,    "chkIncludePage1",  "1:", 0, StartsDisabled},
+                {Tick,    "chkIncludePage2",  "2:"},
+                {Tick,    "chkIncludePage3",  "3:"},
+                {Tick,    "chkIncludePage4",  "4:"},
+                {Tick,    "chkIncludePage5",  "5:"},
+                {Tick,    "chkIncludePage6",  "6:"},
+                {Tick,    "chkIncludePage7",  "7:"},
+                {Tick,    "chkIncludePage8",  "8:"},
+                {Tick,    "chkIncludePage9",  "9:"},
+                {Tick,    "chkIncludePage10", "10:"},
+                {Tick,    "chkIncludePage11", "11:"},
+                {Tick,    "chkIncludePage12", "12:"},
+                {Tick,    "chkIncludePage13", "13:"},
+            }, .startsColumn = true, .tickColumns = 5},
+            {"bxNotes", "Notes", {
+                {Text,    "txtNotes", "Notes", 0, MultiLine | SpellCheck | NoCaption},
+            }},
+        },
+        .rules = rules,
+    };
+    // clang-format on
+    return screen;
+}

@@ -1,0 +1,286 @@
+#include "editors/frmSection.h"
+
+#include "controls/mdLeaveFocusedBox.h"
+#include "controls/mdTheme.h"
+#include "controls/oCheckBox.h"
+#include "controls/oHeaderBar.h"
+#include "editors/clsMnemonics.h"
+#include "editors/mdCheckForBlanks.h"
+#include "editors/mdConfirmCancelEdit.h"
+#include "editors/mdExclusiveTicks.h"
+#include "editors/mdScreenControls.h"
+#include "editors/mdScreenLetters.h"
+#include "editors/mdSectionRoutes.h"
+#include "editors/mdUnloadAndDummyTabClick.h"
+#include "editors/oScreenBar.h"
+#include "editors/oScreenFrame.h"
+#include "editors/oScreenPage.h"
+#include "formdata/clsZR3Form.h"
+#include "shell/clsRunTimeError.h"
+#include "shell/mdFileHandling.h"
+#include "shell/mdGlobals.h"
+#include "shell/mdLog.h"
+
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QVBoxLayout>
+
+#include <map>
+
+namespace {
+
+struct clsWidth {
+    clsScreenWidth width;
+    int pixels;
+};
+
+// clang-format off
+constexpr clsWidth Widths[] = {
+    {clsScreenWidth::Edit,       640},
+    {clsScreenWidth::OneColumn,  820},
+    {clsScreenWidth::List,       1080},
+    {clsScreenWidth::TwoColumns, 1100},
+};
+// clang-format on
+
+/// A list is as high as this; all other screens are as high as what they show.
+constexpr int ListHeight = 680;
+constexpr int LowestWindow = 300;
+
+int widthOf(clsScreenWidth width)
+{
+    for (const clsWidth &row : Widths)
+        if (row.width == width)
+            return Theme::scaled(row.pixels);
+    return 0;
+}
+
+} // namespace
+
+frmSection::frmSection(const clsScreen &screen, QWidget *parent)
+    : QDialog(parent)
+    , m_screen(screen)
+    , m_header(new oHeaderBar(this))
+    , m_menus(new QMenuBar(this))
+    , m_page(new oScreenPage(this))
+{
+    setObjectName(QString::fromUtf8(screen.name));
+    setWindowTitle(QString::fromUtf8(screen.header));
+    m_header->setObjectName(QStringLiteral("oHeader"));
+    m_header->setCaption(QString::fromUtf8(screen.header));
+    m_header->setSubCaption(QString::fromUtf8(screen.subCaption));
+    m_header->setIconGroup(screen.iconGroup);
+    buildFrames();
+    m_bar = new oScreenBar(screen, this);
+    connectBar();
+    buildMenus();
+    mdGiveLetters(*m_menus, *m_bar, m_fields, m_labels);
+
+    auto *all = new QVBoxLayout(this);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->setSpacing(0);
+    all->setMenuBar(m_menus);
+    all->addWidget(m_header);
+    all->addWidget(m_page, 1);
+    all->addWidget(m_bar);
+
+    makeTicksExclusive();
+    if (screen.rules)
+        screen.rules(*this);
+}
+
+void frmSection::buildFrames()
+{
+    for (const clsScreenFrame &table : m_screen.frames) {
+        auto *frame = new oScreenFrame(table, m_page->content());
+        m_page->addFrame(frame, table.startsColumn);
+        m_fields.insert(m_fields.end(), frame->fields().begin(), frame->fields().end());
+        m_labels.insert(m_labels.end(), frame->labels().begin(), frame->labels().end());
+    }
+    m_page->complete();
+}
+
+void frmSection::buildMenus()
+{
+    QMenu *file = m_menus->addMenu(QStringLiteral("&File"));
+    QAction *save = file->addAction(QStringLiteral("&Save"));
+    save->setObjectName(QStringLiteral("mnuSave"));
+    save->setShortcut(Qt::CTRL | Qt::Key_S);
+    // The claim as it stands, without the store step. That is meant: the button closes the section, the key protects
+    // the work done so far.
+    connect(save, &QAction::triggered, this, [] { SaveForm(false); });
+    if (m_screen.jumps.empty())
+        return;
+    QMenu *jumpTo = m_menus->addMenu(QStringLiteral("&Jump To"));
+    clsMnemonics letters;
+    for (const clsScreenJump &jump : m_screen.jumps) {
+        const QString section = QString::fromUtf8(jump.section);
+        QAction *entry = jumpTo->addAction(letters.marked(section));
+        entry->setObjectName(QString::fromUtf8(jump.menu));
+        connect(entry, &QAction::triggered, this,
+            [this, section, store = jump.menuStores] { JumpTo(section, store); });
+    }
+}
+
+void frmSection::connectBar()
+{
+    connect(m_bar, &oScreenBar::Prev, this, &frmSection::Prev);
+    connect(m_bar, &oScreenBar::Next, this, &frmSection::Next);
+    connect(m_bar, &oScreenBar::Save, this, &frmSection::Save);
+    connect(m_bar, &oScreenBar::Close, this, &frmSection::Close);
+    connect(m_bar, &oScreenBar::Jump, this, [this](const QString &section) { JumpTo(section, true); });
+    connect(m_bar, &oScreenBar::Cancel, this, [this] {
+        // A box with bad input holds the focus and so all buttons, this one too; Esc and the close box are free.
+        if (mdLeaveFocusedBox(this))
+            Cancel();
+    });
+}
+
+void frmSection::makeTicksExclusive()
+{
+    std::map<QString, std::vector<oCheckBox *>> groups;
+    for (const clsScreenField &field : m_fields) {
+        auto *box = qobject_cast<oCheckBox *>(field.control);
+        if (!box || field.row->flags & Independent)
+            continue;
+        const QString pair = mdPairOf(box->objectName());
+        if (field.row->group)
+            groups[QString(QLatin1Char(field.row->group))].push_back(box);
+        else if (!pair.isEmpty())
+            groups[pair].push_back(box);
+    }
+    for (const auto &[name, boxes] : groups)
+        mdMakeExclusive(boxes);
+}
+
+void frmSection::Initialise()
+{
+    Initialise(m_screen.record ? m_screen.record() : nullptr);
+}
+
+void frmSection::Initialise(clsXMLRecord *item)
+{
+    WriteLog(objectName() + QStringLiteral(" Opened"));
+    m_record = item;
+    if (m_record)
+        for (const clsScreenField &field : m_fields)
+            mdLoadControl(*field.row, *field.control, *m_record);
+    emit Loaded();
+    // The first field that can take it has the focus, unless the rules have put it elsewhere.
+    for (const clsScreenField &field : m_fields) {
+        if (focusWidget())
+            break;
+        if (field.control->isEnabledTo(this) && field.control->focusPolicy() != Qt::NoFocus)
+            field.control->setFocus(Qt::TabFocusReason);
+    }
+}
+
+void frmSection::Store()
+{
+    if (!m_record && m_screen.add)
+        m_record = m_screen.add();
+    if (m_record)
+        for (const clsScreenField &field : m_fields)
+            mdStoreControl(*field.row, *field.control, *m_record);
+    emit Stored();
+}
+
+bool frmSection::checkRequired()
+{
+    QStringList texts;
+    QWidget *firstEmpty = nullptr;
+    for (const clsScreenField &field : m_fields) {
+        if (!(field.row->flags & Required))
+            continue;
+        texts << mdTextOf(*field.control);
+        if (texts.last().isEmpty() && !firstEmpty)
+            firstEmpty = field.control;
+    }
+    if (mdCheckForBlanks(texts))
+        return true;
+    firstEmpty->setFocus(Qt::TabFocusReason);
+    return false;
+}
+
+void frmSection::Save()
+{
+    if (!mdLeaveFocusedBox(this) || !checkRequired())
+        return;
+    Store();
+    done(Accepted);
+}
+
+void frmSection::Close()
+{
+    Save();
+}
+
+void frmSection::Cancel()
+{
+    // Only the editors of items go through the confirmation.
+    if (m_screen.itemWord && !mdConfirmCancelEdit(QString::fromUtf8(m_screen.itemWord)))
+        return;
+    done(Rejected);
+}
+
+void frmSection::Prev()
+{
+    leaveFor(mdPrevSection(QString::fromUtf8(m_screen.section), Form->FormType()));
+}
+
+void frmSection::Next()
+{
+    leaveFor(mdNextSection(QString::fromUtf8(m_screen.section), Form->FormType()));
+}
+
+/// Moving on always saves; only Cancel drops changes. A form of an unknown type leads nowhere, and nothing happens.
+void frmSection::leaveFor(const QString &section)
+{
+    if (!section.isEmpty())
+        JumpTo(section, true);
+}
+
+void frmSection::JumpTo(const QString &section, bool store)
+{
+    if (!mdLeaveFocusedBox(this))
+        return;
+    if (store)
+        Store();
+    mdUnloadAndDummyTabClick(*this, section);
+}
+
+QWidget &frmSection::Box(const char *name) const
+{
+    for (const clsScreenField &field : m_fields)
+        if (field.control->objectName() == QLatin1String(name))
+            return *field.control;
+    throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
+}
+
+void frmSection::reject()
+{
+    if (m_screen.ending == clsScreenEnding::Close)
+        Close();
+    else
+        Cancel();
+}
+
+void frmSection::closeEvent(QCloseEvent *event)
+{
+    done(Rejected);
+    event->accept();
+}
+
+QSize frmSection::sizeHint() const
+{
+    const int width = qMax(widthOf(m_screen.width), minimumSizeHint().width());
+    if (m_screen.width == clsScreenWidth::List)
+        return {width, Theme::scaled(ListHeight)};
+    const int around = m_menus->sizeHint().height() + m_header->sizeHint().height() + m_bar->sizeHint().height();
+    return {width, around + m_page->heightFor(width)};
+}
+
+QSize frmSection::minimumSizeHint() const
+{
+    return {qMax(m_page->minimumSizeHint().width(), m_bar->minimumSizeHint().width()), Theme::scaled(LowestWindow)};
+}

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "editors/clsScreenTable.h"
+#include "editors/oScreenFrame.h"
+
+#include <QDialog>
+
+#include <vector>
+
+class oHeaderBar;
+class oScreenBar;
+class oScreenPage;
+class QMenuBar;
+
+/// A screen of the claim, made from its table: a section, a list, or the editor of an item. It holds no data between
+/// openings: it copies its record into the controls when it is initialised, and back when it stores. Whatever a single
+/// screen does beyond that is wired by its rules, which find the controls by their names.
+class frmSection : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit frmSection(const clsScreen &screen, QWidget *parent = nullptr);
+
+    const clsScreen &Screen() const { return m_screen; }
+
+    /// Tells the log, and fills the controls from the section's record.
+    void Initialise();
+    /// The same for the editor of an item, or for a new one that the first Save makes.
+    void Initialise(clsXMLRecord *item);
+    /// The record that is edited; nothing while a new item has none.
+    clsXMLRecord *Record() const { return m_record; }
+
+    /// Writes every control to the record, in the order of the table.
+    void Store();
+    void Save();
+    void Cancel();
+    void Close();
+    void Prev();
+    void Next();
+    /// Leaves for another section, with the store step or without it.
+    void JumpTo(const QString &section, bool store);
+
+    /// The control of that name; a name that the screen doesn't have is the object error.
+    QWidget &Box(const char *name) const;
+    /// The same as what it is: `Box<oDecimalBox>("txtVATRate")`.
+    template <class Control> Control &Box(const char *name) const { return static_cast<Control &>(Box(name)); }
+    /// All fields, in the order of the table.
+    const std::vector<clsScreenField> &Fields() const { return m_fields; }
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+signals:
+    /// The controls have just been filled from the record.
+    void Loaded();
+    /// The record has just been written.
+    void Stored();
+
+public slots:
+    /// Esc: Cancel, or Close on a screen that has no other way out, so that nothing typed is lost.
+    void reject() override;
+
+protected:
+    /// The close box leaves without storing, on every screen.
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void buildFrames();
+    void buildMenus();
+    void connectBar();
+    void makeTicksExclusive();
+    bool checkRequired();
+    void leaveFor(const QString &section);
+
+    const clsScreen &m_screen;
+    clsXMLRecord *m_record = nullptr;
+    oHeaderBar *m_header;
+    QMenuBar *m_menus;
+    oScreenPage *m_page;
+    oScreenBar *m_bar;
+    std::vector<clsScreenField> m_fields;
+    std::vector<oFieldLabel *> m_labels;
+};

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+/// A text as the caption of a menu entry: its "&" are no access keys, and a lone "-" is no separator.
+inline QString mdFormatTextForMenu(const QString &text)
+{
+    if (text == QLatin1String("-"))
+        return QString(QChar(0x2014));
+    return QString(text).replace(u'&', QLatin1String("&&"));
+}

@@ -1,0 +1,181 @@
+#include "editors/mdScreenControls.h"
+
+#include "controls/mdCaption.h"
+#include "controls/oAllPurposeBox.h"
+#include "controls/oCheckBox.h"
+#include "controls/oCustomButton.h"
+#include "controls/oDateBox.h"
+#include "controls/oDecimalBox.h"
+#include "controls/oIntegerBox.h"
+#include "controls/oTimeBox.h"
+#include "editors/oScreenList.h"
+#include "formdata/clsXMLRecord.h"
+#include "shell/clsRunTimeError.h"
+#include "shell/mdNumberText.h"
+
+
+namespace {
+
+/// The prefix of a control's name, as in "txtSurname".
+constexpr int PrefixLength = 3;
+
+QWidget *makeTextBox(const clsScreenRow &row, QWidget *parent)
+{
+    auto *box = new oAllPurposeBox(parent);
+    box->setMultiLine(row.flags & MultiLine);
+    box->setSpellCheck(row.flags & SpellCheck);
+    box->setAllowReplacements(!(row.flags & NoReplacements));
+    box->setOverRun(row.flags & OverRun);
+    box->setCharacterAllowance(row.allowance);
+    return box;
+}
+
+QWidget *makeDateBox(const clsScreenRow &row, QWidget *parent)
+{
+    auto *box = new oDateBox(parent);
+    box->setShowTickBox(row.flags & DateTick);
+    return box;
+}
+
+QWidget *makeList(const clsScreenRow &row, QWidget *parent)
+{
+    auto *list = new oScreenList(parent);
+    if (row.entries)
+        list->addItems(row.entries());
+    return list;
+}
+
+QWidget *makeButton(const clsScreenRow &row, QWidget *parent)
+{
+    auto *button = new oCustomButton(parent);
+    button->setCaption(QString::fromUtf8(row.caption));
+    return button;
+}
+
+QWidget *make(const clsScreenRow &row, QWidget *parent)
+{
+    switch (row.kind) {
+    case clsRowKind::Text: return makeTextBox(row, parent);
+    case clsRowKind::Date: return makeDateBox(row, parent);
+    case clsRowKind::Decimal: return new oDecimalBox(parent);
+    case clsRowKind::Integer: return new oIntegerBox(parent);
+    case clsRowKind::Time: return new oTimeBox(parent);
+    case clsRowKind::Tick: return new oCheckBox(parent);
+    case clsRowKind::List: return makeList(row, parent);
+    case clsRowKind::Button: return makeButton(row, parent);
+    case clsRowKind::Other: return row.other->make(parent);
+    default: throw clsRunTimeError(clsRunTimeError::InvalidProcedureCall);
+    }
+}
+
+/// A table that names no property of its record is a mistake, which shows when the screen is opened.
+clsXMLField &fieldOf(const clsScreenRow &row, clsXMLRecord &record)
+{
+    clsXMLField *field = record.field(mdMemberOf(row));
+    if (!field)
+        throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
+    return *field;
+}
+
+void setTextOf(QWidget &control, const QString &text)
+{
+    if (auto *box = qobject_cast<oAllPurposeBox *>(&control))
+        box->setText(text);
+    else
+        control.setProperty("Text", text);
+}
+
+/// Selects by place or by text. Of what it doesn't have, the list shows nothing.
+void loadList(QComboBox &list, const clsXMLField &field)
+{
+    const int entry
+        = field.property().kind == clsXMLKind::Long ? field.readLong() : list.findText(field.readText());
+    list.setCurrentIndex(entry < list.count() ? entry : -1);
+}
+
+/// A list in which nothing is selected, since it lacks what the record says, leaves the record alone.
+void storeList(const QComboBox &list, clsXMLField &field)
+{
+    if (list.currentIndex() < 0 && !list.isEditable())
+        return;
+    if (field.property().kind == clsXMLKind::Long)
+        field.writeLong(list.currentIndex());
+    else
+        field.writeText(list.currentText());
+}
+
+bool hasMember(const clsScreenRow &row)
+{
+    return mdIsControl(row) && row.kind != clsRowKind::Button && !(row.flags & Unbound);
+}
+
+} // namespace
+
+QString mdMemberOf(const clsScreenRow &row)
+{
+    return row.member ? QString::fromUtf8(row.member) : QString::fromUtf8(row.control).mid(PrefixLength);
+}
+
+bool mdIsControl(const clsScreenRow &row)
+{
+    return row.kind != clsRowKind::Question && row.kind != clsRowKind::Separator && row.kind != clsRowKind::ColumnBreak;
+}
+
+QWidget *mdMakeControl(const clsScreenRow &row, QWidget *parent)
+{
+    QWidget *control = make(row, parent);
+    control->setObjectName(QString::fromUtf8(row.control));
+    control->setAccessibleName(mdSpokenCaption(QString::fromUtf8(row.caption)));
+    if (row.flags & StartsDisabled)
+        control->setEnabled(false);
+    return control;
+}
+
+void mdLoadControl(const clsScreenRow &row, QWidget &control, clsXMLRecord &record)
+{
+    if (!hasMember(row))
+        return;
+    if (row.other) {
+        if (row.other->load)
+            row.other->load(control, record);
+        return;
+    }
+    const clsXMLField &field = fieldOf(row, record);
+    if (auto *tick = qobject_cast<oCheckBox *>(&control))
+        tick->setChecked(field.readBoolean());
+    else if (auto *list = qobject_cast<QComboBox *>(&control))
+        loadList(*list, field);
+    else if (field.property().kind == clsXMLKind::Long)
+        setTextOf(control, QString::number(field.readLong()));
+    else
+        setTextOf(control, field.readText());
+}
+
+void mdStoreControl(const clsScreenRow &row, const QWidget &control, clsXMLRecord &record)
+{
+    if (!hasMember(row))
+        return;
+    if (row.other) {
+        if (row.other->store)
+            row.other->store(control, record);
+        return;
+    }
+    clsXMLField &field = fieldOf(row, record);
+    if (const auto *tick = qobject_cast<const oCheckBox *>(&control))
+        field.writeBoolean(tick->Checked());
+    else if (const auto *list = qobject_cast<const QComboBox *>(&control))
+        storeList(*list, field);
+    else if (field.property().kind == clsXMLKind::Long)
+        field.writeLong(LongFromText(mdTextOf(control)));
+    else
+        field.writeText(mdTextOf(control));
+}
+
+QString mdTextOf(const QWidget &control)
+{
+    if (const auto *box = qobject_cast<const oAllPurposeBox *>(&control))
+        return box->Text();
+    if (const auto *list = qobject_cast<const QComboBox *>(&control))
+        return list->currentText();
+    return control.property("Text").toString();
+}

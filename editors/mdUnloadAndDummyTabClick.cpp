@@ -1,0 +1,30 @@
+#include "editors/mdUnloadAndDummyTabClick.h"
+
+#include "controls/mdShowModal.h"
+
+#include <QDialog>
+
+#include <utility>
+
+namespace {
+
+std::function<void(const QString &)> &openSectionInForce()
+{
+    static std::function<void(const QString &)> openSection;
+    return openSection;
+}
+
+} // namespace
+
+void SetOpenSection(std::function<void(const QString &)> openSection)
+{
+    openSectionInForce() = std::move(openSection);
+}
+
+void mdUnloadAndDummyTabClick(QDialog &form, const QString &sectionCaption)
+{
+    mdUnloadAndThen(form, [sectionCaption] {
+        if (const auto &openSection = openSectionInForce())
+            openSection(sectionCaption);
+    });
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QLabel>
+
+/// The caption of a field or of a question. Its letter leads to the field; a tick is ticked by its own letter, but not
+/// by that of the question whose first answer it is.
+class oFieldLabel : public QLabel {
+    Q_OBJECT
+
+public:
+    enum class Place {
+        Beside, ///< left of its field, in the column of labels
+        Above, ///< over its field or answers, as wide as the frame
+        Answer, ///< left of one of several answers to a question
+    };
+
+    oFieldLabel(const QString &caption, Place place, QWidget *parent);
+
+    /// The caption as the table has it.
+    const QString &Caption() const { return m_caption; }
+    Place place() const { return m_place; }
+    /// Makes this the caption of a field: leads to it, and is pale while it is disabled.
+    void setField(QWidget *field);
+    /// Whether a tick is ticked by this label's letter.
+    void setTicks(bool ticks) { m_ticks = ticks; }
+    /// Keeps the label level with a tall box's first line.
+    void setTopOfFirstLine(int top);
+
+protected:
+    bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QString m_caption;
+    Place m_place;
+    bool m_ticks = true;
+};

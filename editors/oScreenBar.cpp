@@ -1,0 +1,112 @@
+#include "editors/oScreenBar.h"
+
+#include "controls/mdTheme.h"
+#include "controls/oCustomButton.h"
+#include "controls/oLeftRightButton.h"
+#include "editors/clsMnemonics.h"
+#include "editors/mdSectionRoutes.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+
+namespace {
+
+/// A window narrower than this has no room for the jumps.
+constexpr int RoomForJumps = 820;
+constexpr int LowWindow = 620;
+
+/// The letters that these buttons have on every screen.
+struct clsFixedLetter {
+    const char *caption;
+    char letter;
+};
+constexpr clsFixedLetter FixedLetters[] = {{"Save", 'S'}, {"Close", 'C'}, {"Cancel", 'N'}};
+
+} // namespace
+
+oScreenBar::oScreenBar(const clsScreen &screen, QWidget *parent)
+    : QWidget(parent)
+{
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(Theme::Space24, Theme::Space12, Theme::Space24, Theme::Space12);
+    row->setSpacing(Theme::Space8);
+    if (screen.section)
+        addSwitcher(screen.section);
+    for (const clsScreenJump &jump : screen.jumps) {
+        const QString section = QString::fromUtf8(jump.section);
+        m_jumps.push_back(addButton(jump.control, section));
+        connect(m_jumps.back(), &oCustomButton::Click, this, [this, section] { emit Jump(section); });
+    }
+    row->addStretch(1);
+    addEnding(screen.ending);
+}
+
+oCustomButton *oScreenBar::addButton(const char *name, const QString &caption)
+{
+    auto *button = new oCustomButton(this);
+    button->setObjectName(QString::fromUtf8(name));
+    button->setCaption(clsMnemonics::unmarked(caption));
+    layout()->addWidget(button);
+    return button;
+}
+
+/// Which end of the way a screen stands at does not depend on the form type.
+void oScreenBar::addSwitcher(const char *section)
+{
+    const QString name = QString::fromUtf8(section);
+    const QString anyType = QStringLiteral("Claim1");
+    m_switcher = new oLeftRightButton(this);
+    m_switcher->setObjectName(QStringLiteral("oFormSwitcher"));
+    m_switcher->setLeftCaption(QStringLiteral("<< Prev"));
+    m_switcher->setRightCaption(QStringLiteral("Next >>"));
+    m_switcher->setLeftEnabled(!mdPrevSection(name, anyType).isEmpty());
+    m_switcher->setRightEnabled(!mdNextSection(name, anyType).isEmpty());
+    connect(m_switcher, &oLeftRightButton::LeftClick, this, &oScreenBar::Prev);
+    connect(m_switcher, &oLeftRightButton::RightClick, this, &oScreenBar::Next);
+    layout()->addWidget(m_switcher);
+}
+
+void oScreenBar::addEnding(clsScreenEnding ending)
+{
+    if (ending == clsScreenEnding::Close) {
+        m_endings = {addButton("cmdClose", QStringLiteral("Close"))};
+        connect(m_endings[0], &oCustomButton::Click, this, &oScreenBar::Close);
+    } else {
+        m_endings = {addButton("cmdSave", QStringLiteral("Save")), addButton("cmdCancel", QStringLiteral("Cancel"))};
+        connect(m_endings[0], &oCustomButton::Click, this, &oScreenBar::Save);
+        connect(m_endings[1], &oCustomButton::Click, this, &oScreenBar::Cancel);
+    }
+    m_endings[0]->setLook(oCustomButton::Look::Default);
+}
+
+void oScreenBar::giveLetters(clsMnemonics &letters)
+{
+    for (oCustomButton *button : m_endings)
+        for (const clsFixedLetter &row : FixedLetters)
+            if (button->Caption() == QLatin1String(row.caption))
+                button->setCaption(letters.marked(button->Caption(), QLatin1Char(row.letter)));
+    if (m_switcher) {
+        m_switcher->setLeftCaption(letters.marked(m_switcher->LeftCaption()));
+        m_switcher->setRightCaption(letters.marked(m_switcher->RightCaption()));
+    }
+    for (oCustomButton *button : m_jumps)
+        button->setCaption(letters.marked(button->Caption()));
+}
+
+void oScreenBar::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), Theme::Paper);
+    painter.fillRect(QRect(0, 0, width(), 1), Theme::Line);
+}
+
+void oScreenBar::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    for (oCustomButton *button : m_jumps)
+        button->setVisible(width() >= Theme::scaled(RoomForJumps));
+    const bool low = window()->height() < Theme::scaled(LowWindow);
+    const int edge = low ? Theme::Space16 : Theme::Space24;
+    const int gap = low ? Theme::Space8 : Theme::Space12;
+    layout()->setContentsMargins(edge, gap, edge, gap);
+}

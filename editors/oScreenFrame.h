@@ -1,0 +1,49 @@
+#pragma once
+
+#include "controls/oFrame.h"
+#include "editors/clsScreenTable.h"
+
+#include <vector>
+
+class QBoxLayout;
+class oFieldLabel;
+
+/// A field as it stands on a screen.
+struct clsScreenField {
+    const clsScreenRow *row;
+    QWidget *control;
+    oFieldLabel *label; ///< nothing where the field has no caption of its own
+};
+
+/// A frame of a screen with its fields, laid out from its table: a column of labels with the boxes beside it, questions
+/// over their answers, hairlines where the subject changes, and two parts side by side where the table has a break and
+/// the window the room.
+class oScreenFrame : public oFrame {
+    Q_OBJECT
+
+public:
+    oScreenFrame(const clsScreenFrame &frame, QWidget *parent);
+
+    const std::vector<clsScreenField> &fields() const { return m_fields; }
+    /// The labels that can be given a letter, in the order of the table.
+    const std::vector<oFieldLabel *> &labels() const { return m_labels; }
+    /// Whether a box in it grows with the window.
+    bool grows() const { return m_grows; }
+
+    /// Puts the parts of the frame side by side, or one below the other.
+    void setSideBySide(bool sideBySide);
+    /// The width below which something would be cut, with the parts one below the other.
+    int narrowestWidth() const;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    friend class clsFrameRows;
+
+    std::vector<clsScreenField> m_fields;
+    std::vector<oFieldLabel *> m_labels;
+    std::vector<QWidget *> m_hairlines;
+    QBoxLayout *m_parts;
+    bool m_grows = false;
+};

@@ -1,0 +1,122 @@
+#include "editors/oScreenPage.h"
+
+#include "controls/mdTheme.h"
+#include "editors/oScreenFrame.h"
+
+#include <QApplication>
+#include <QResizeEvent>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int RoomForTwoColumns = 1040;
+constexpr int WidestContent = 1400;
+/// A window lower than this saves on its edges.
+constexpr int LowWindow = 620;
+/// The left column holds the boxes and is the wider one.
+constexpr int LeftShare = 4;
+constexpr int RightShare = 3;
+
+} // namespace
+
+oScreenPage::oScreenPage(QWidget *parent)
+    : QScrollArea(parent)
+    , m_columns(new QBoxLayout(QBoxLayout::TopToBottom))
+{
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    setFocusPolicy(Qt::NoFocus);
+    auto *content = new QWidget;
+    content->setLayout(m_columns);
+    content->setMaximumWidth(Theme::scaled(WidestContent));
+    m_columns->setSpacing(Theme::Space16);
+    m_columns->setContentsMargins(Theme::Space24, Theme::Space16, Theme::Space24, Theme::Space16);
+    setWidget(content);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, const QWidget *now) { showFocus(now); });
+}
+
+void oScreenPage::addFrame(oScreenFrame *frame, bool startsColumn)
+{
+    if (m_columns->count() == 0 || startsColumn) {
+        auto *column = new QVBoxLayout;
+        column->setSpacing(Theme::Space16);
+        m_columns->addLayout(column, m_columns->count() == 0 ? LeftShare : RightShare);
+    }
+    m_columns->itemAt(m_columns->count() - 1)->layout()->addWidget(frame);
+    m_frames.push_back(frame);
+}
+
+void oScreenPage::complete()
+{
+    for (int i = 0; i < m_columns->count(); ++i) {
+        auto *column = static_cast<QVBoxLayout *>(m_columns->itemAt(i)->layout());
+        bool grows = false;
+        for (int place = 0; place < column->count(); ++place) {
+            const auto *frame = static_cast<oScreenFrame *>(column->itemAt(place)->widget());
+            column->setStretch(place, frame->grows() ? 1 : 0);
+            grows = grows || frame->grows();
+        }
+        if (!grows)
+            column->addStretch(1);
+    }
+}
+
+/// One column or two is a question of the width alone, so that it can be asked for a width that is not there yet.
+void oScreenPage::arrange(int width) const
+{
+    const QMargins edges = m_columns->contentsMargins();
+    const bool wide = width - edges.left() - edges.right() >= Theme::scaled(RoomForTwoColumns);
+    m_columns->setDirection(wide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    for (oScreenFrame *frame : m_frames)
+        frame->setSideBySide(wide && m_columns->count() == 1);
+}
+
+int oScreenPage::heightFor(int width) const
+{
+    arrange(width);
+    const int inside = qMin(width, content()->maximumWidth());
+    return m_columns->hasHeightForWidth() ? m_columns->totalHeightForWidth(inside) : m_columns->totalSizeHint().height();
+}
+
+QSize oScreenPage::sizeHint() const
+{
+    return {minimumSizeHint().width(), heightFor(width())};
+}
+
+/// As narrow as the widest frame, which then stands alone in its line.
+QSize oScreenPage::minimumSizeHint() const
+{
+    int width = 0;
+    for (const oScreenFrame *frame : m_frames)
+        width = qMax(width, frame->narrowestWidth());
+    const QMargins edges = m_columns->contentsMargins();
+    width += edges.left() + edges.right() + verticalScrollBar()->sizeHint().width();
+    return {width, Theme::scaled(RoomForTwoColumns) / 10};
+}
+
+void oScreenPage::resizeEvent(QResizeEvent *event)
+{
+    const bool low = window()->height() < Theme::scaled(LowWindow);
+    const int edge = low ? Theme::Space16 : Theme::Space24;
+    m_columns->setContentsMargins(edge, Theme::Space16, edge, Theme::Space16);
+    arrange(event->size().width());
+    QScrollArea::resizeEvent(event);
+}
+
+void oScreenPage::showFocus(const QWidget *focused)
+{
+    if (!focused || !content()->isAncestorOf(focused))
+        return;
+    const QRect place(focused->mapTo(content(), QPoint()), focused->size());
+    QScrollBar *bar = verticalScrollBar();
+    const int top = place.top() - Theme::Space24;
+    const int bottom = place.bottom() + 1 + Theme::Space24 - viewport()->height();
+    // A box taller than the page shows its beginning.
+    if (bar->value() < bottom)
+        bar->setValue(bottom);
+    if (bar->value() > top)
+        bar->setValue(top);
+}

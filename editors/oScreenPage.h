@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QScrollArea>
+
+#include <vector>
+
+class QBoxLayout;
+class oScreenFrame;
+
+/// The middle of a screen: its frames in one column or, where there is room, in two. It alone scrolls, and only up and
+/// down; whatever gets the focus comes into view.
+class oScreenPage : public QScrollArea {
+    Q_OBJECT
+
+public:
+    explicit oScreenPage(QWidget *parent);
+
+    /// The parent of the frames.
+    QWidget *content() const { return widget(); }
+    /// Puts a frame below the ones before, or at the top of the second column.
+    void addFrame(oScreenFrame *frame, bool startsColumn);
+    /// Gives the height that is left over to the frames that grow, or leaves it below them. To be called once, at last.
+    void complete();
+
+    /// The height that the frames take at a width of the page.
+    int heightFor(int width) const;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void arrange(int width) const;
+    void showFocus(const QWidget *focused);
+
+    QBoxLayout *m_columns;
+    std::vector<oScreenFrame *> m_frames;
+    bool m_low = false;
+};

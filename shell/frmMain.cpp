@@ -1,0 +1,368 @@
+#include "shell/frmMain.h"
+
+#include "controls/mdShowModal.h"
+#include "controls/mdTheme.h"
+#include "controls/oFooterBar.h"
+#include "controls/oHeaderBar.h"
+#include "controls/oTabBar.h"
+#include "controls/oTimeSpentBox.h"
+#include "costing/mdCheckForBlankItems.h"
+#include "editors/mdSections.h"
+#include "editors/mdUnloadAndDummyTabClick.h"
+#include "formdata/clsZR3Form.h"
+#include "formdata/clsZR3PreferencesDatabase.h"
+#include "preview/mdPreview.h"
+#include "preview/oPreviewGrid.h"
+#include "shell/clsLongWork.h"
+#include "shell/frmAbout.h"
+#include "shell/mdAutoDeleteBackups.h"
+#include "shell/mdAutoSave.h"
+#include "shell/mdCustomMessages.h"
+#include "shell/mdFileHandling.h"
+#include "shell/mdGetResourceData.h"
+#include "shell/mdGlobals.h"
+#include "shell/mdLog.h"
+#include "shell/mdMainMenu.h"
+#include "shell/mdProgramFolder.h"
+#include "shell/mdSectionTabs.h"
+#include "shell/mdShellExecute.h"
+#include "shell/oApplication.h"
+#include "wordexport/frmExportToWord.h"
+
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QScopedValueRollback>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int AutoBackupMilliseconds = 10000;
+constexpr int SheetWidth = 1120;
+
+/// The claim among what is dragged on to the window, empty where there is none or more than one.
+QString draggedClaim(const QMimeData &data)
+{
+    const QList<QUrl> urls = data.urls();
+    const QString path = urls.size() == 1 ? urls.first().toLocalFile() : QString();
+    return path.endsWith(QLatin1String(".zr3"), Qt::CaseInsensitive) ? path : QString();
+}
+
+} // namespace
+
+frmMain::frmMain(QWidget *parent)
+    : QMainWindow(parent)
+    , createScreen(mdCreateScreen)
+    , oHeader(new oHeaderBar)
+    , tbSection(new oTabBar)
+    , tbSubSection(new oTabBar)
+    , pctPreview(new QWidget)
+    , sgPreview(new oPreviewGrid(pctPreview))
+    , oFooter(new oFooterBar)
+    , tmrAutoBackup(new QTimer(this))
+{
+    setObjectName(QStringLiteral("frmMain"));
+    setWindowTitle(QStringLiteral("Velmor ZR3"));
+    setAcceptDrops(true);
+    build();
+    connect(tbSection, &oTabBar::Click, this, &frmMain::tbSection_Click);
+    connect(tbSubSection, &oTabBar::Click, this, &frmMain::tbSubSection_Click);
+    connect(tmrAutoBackup, &QTimer::timeout, this, &frmMain::tmrAutoBackup_Timer);
+    connect(sgPreview, &oPreviewGrid::RightClick, this,
+        [this](const QPoint &place) { menuBar()->findChild<QMenu *>(QStringLiteral("mnuPreview"))->popup(place); });
+    SetOpenSection([this](const QString &text) { tbSubSection_Click(-1, text); });
+    SetFormDisplay({[this] { Activate(); }, mdClearPreview, [this] { oFooter->TimeSpentTimer()->StopTimer(); }});
+}
+
+frmMain::~frmMain()
+{
+    SetFormDisplay({});
+    SetOpenSection({});
+    PreviewGrid = nullptr;
+    TimeSpentBox = nullptr;
+}
+
+void frmMain::build()
+{
+    oHeader->setObjectName(QStringLiteral("oHeader"));
+    oHeader->setDocument(true);
+    tbSection->setObjectName(QStringLiteral("tbSection"));
+    tbSection->setRow(oTabBar::Row::Tabs);
+    tbSubSection->setObjectName(QStringLiteral("tbSubSection"));
+    tbSubSection->setRow(oTabBar::Row::Buttons);
+    pctPreview->setObjectName(QStringLiteral("pctPreview"));
+    sgPreview->setObjectName(QStringLiteral("sgPreview"));
+    sgPreview->setMaximumWidth(Theme::scaled(SheetWidth));
+    oFooter->setObjectName(QStringLiteral("oFooter"));
+    tmrAutoBackup->setObjectName(QStringLiteral("tmrAutoBackup"));
+    tmrAutoBackup->setInterval(AutoBackupMilliseconds);
+
+    // The sheet stands in the middle and reaches down to the footer, as paper on a desk.
+    auto *sheet = new QHBoxLayout(pctPreview);
+    sheet->setContentsMargins(Theme::Space24, Theme::Space12, Theme::Space24, 0);
+    sheet->addStretch(1);
+    sheet->addWidget(sgPreview, 1000);
+    sheet->addStretch(1);
+
+    auto *centre = new QWidget;
+    auto *layout = new QVBoxLayout(centre);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(oHeader);
+    layout->addWidget(tbSection);
+    layout->addWidget(tbSubSection);
+    layout->addWidget(pctPreview, 1);
+    layout->addWidget(oFooter);
+    setCentralWidget(centre);
+    mdBuildMainMenu(*this);
+}
+
+void frmMain::Load(const QString &claimPath)
+{
+    setWindowState(Qt::WindowMaximized);
+    Preferences = std::make_unique<clsZR3PreferencesDatabase>();
+    PreviewGrid = sgPreview;
+    TimeSpentBox = oFooter->TimeSpentTimer();
+    mdAutoDeleteBackups();
+    if (claimPath.isEmpty()) {
+        New();
+    } else {
+        OpenFormFile(claimPath);
+        UpdateInfo();
+        PreviewScheduleOfTime();
+    }
+    buildTabs();
+    tmrAutoBackup->start();
+    m_loaded = true;
+}
+
+void frmMain::buildTabs()
+{
+    tbSection->setDoRedraw(false);
+    for (const QString &text : mdSectionTabs())
+        tbSection->AddButton(text, text);
+    tbSection->SwitchTo(1);
+    tbSection->setDoRedraw(true);
+    tbSection_Click();
+}
+
+void frmMain::tbSection_Click()
+{
+    // Only here: after a New, an Open or a change of the form type the tabs stay those of the last click.
+    tbSubSection->setDoRedraw(false);
+    tbSubSection->Clear();
+    for (const QString &text : mdSubSectionTabs(tbSection->SelectedIndex(), Form->FormType()))
+        tbSubSection->AddButton(text, text);
+    tbSubSection->setDoRedraw(true);
+}
+
+void frmMain::tbSubSection_Click(int, const QString &tag)
+{
+    m_nextSection = tag;
+    if (m_sectionOpen)
+        return;
+    const QScopedValueRollback<bool> open(m_sectionOpen, true);
+    bool shown = false;
+    while (!m_nextSection.isEmpty() && !oApplication::ending()) {
+        const std::unique_ptr<QDialog> screen(createScreen(std::exchange(m_nextSection, QString()), this));
+        if (!screen)
+            continue;
+        shown = true;
+        const QScopedValueRollback<bool> modal(m_modal, true);
+        mdShowModal(*screen);
+    }
+    if (shown)
+        Activate();
+}
+
+void frmMain::showModal(QDialog &dialog)
+{
+    {
+        const QScopedValueRollback<bool> modal(m_modal, true);
+        mdShowModal(dialog);
+    }
+    Activate();
+}
+
+void frmMain::UpdateInfo()
+{
+    if (!Form)
+        return;
+    const QString path = FormFilePath();
+    QString title = path.isEmpty() ? QStringLiteral("New ZR3 File") : path;
+    if (FormIsDirty())
+        title += u'*';
+    if (oHeader->Caption() != title)
+        oHeader->setCaption(title);
+    if (windowTitle() != QLatin1String("Velmor ZR3"))
+        setWindowTitle(QStringLiteral("Velmor ZR3"));
+    oFooter->TimeSpentTimer()->setTimeSpent(Form->TimeSpent());
+    oHeader->setChip(Form->FormType());
+    setWindowFilePath(path);
+}
+
+void frmMain::Activate()
+{
+    if (oApplication::ending() || m_redrawing)
+        return;
+    WriteLog(objectName() + QStringLiteral(" Opened"));
+    UpdateInfo();
+    // Without the mark on the tab that was clicked, the same one can be clicked again.
+    tbSubSection->SwitchTo(0);
+    refreshPreview();
+    m_activationDone = !isActiveWindow();
+}
+
+bool frmMain::event(QEvent *event)
+{
+    const bool handled = QMainWindow::event(event);
+    if (event->type() == QEvent::WindowActivate && m_loaded && !m_modal && !std::exchange(m_activationDone, false))
+        Activate();
+    return handled;
+}
+
+void frmMain::redraw(void (*routine)(clsPreviewKind))
+{
+    if (m_redrawing)
+        return;
+    const QScopedValueRollback<bool> redrawing(m_redrawing, true);
+    const clsLongWork work;
+    routine(m_previewKind);
+}
+
+void frmMain::drawPreview(clsPreviewKind kind)
+{
+    m_previewKind = kind;
+    redraw(mdDrawPreview);
+}
+
+void frmMain::refreshPreview()
+{
+    if (!m_drawingFollows && Form && Preferences && Preferences->AutoRefreshPreview())
+        redraw(mdRefreshPreview);
+}
+
+void frmMain::tmrAutoBackup_Timer()
+{
+    // A backup inside long work could hold a claim that is half changed, and its box would interrupt.
+    if (!clsLongWork::isRunning())
+        mdAutoBackupTick(m_backupTag);
+}
+
+void frmMain::New()
+{
+    {
+        const QScopedValueRollback<bool> follows(m_drawingFollows, true);
+        NewForm(false);
+    }
+    UpdateInfo();
+    PreviewScheduleOfTime();
+}
+
+void frmMain::Open()
+{
+    {
+        const QScopedValueRollback<bool> follows(m_drawingFollows, true);
+        OpenFormDialog(false);
+    }
+    UpdateInfo();
+    PreviewScheduleOfTime();
+}
+
+void frmMain::Save()
+{
+    SaveForm(false);
+    UpdateInfo();
+}
+
+void frmMain::SaveAs()
+{
+    SaveForm(true);
+    UpdateInfo();
+}
+
+void frmMain::ExportToWord()
+{
+    if (!wordInstalled()) {
+        mdCustomMessages(
+            QStringLiteral("Velmor ZR3 could not detect Microsoft Word. Please install Microsoft Word onto "
+                           "your computer and try again."),
+            QStringLiteral("Word Error"));
+        return;
+    }
+    frmExportToWord dialog(this);
+    showModal(dialog);
+}
+
+void frmMain::CheckForBlank()
+{
+    CheckForBlankItems(*Form);
+}
+
+void frmMain::UserGuide()
+{
+    ShellOpen(ProgramPath(QStringLiteral("Documentation/Velmor ZR3 User Guide.pdf")));
+}
+
+void frmMain::KeyboardShortcutsList()
+{
+    ShellOpen(ProgramPath(QStringLiteral("Documentation/Velmor ZR3 Keyboard Shortcuts.pdf")));
+}
+
+void frmMain::MakeASuggestion()
+{
+    ShellOpen(GetResourceData(QStringLiteral("ciSuggestionURL"), QStringLiteral("COMPANYINFO")));
+}
+
+void frmMain::About()
+{
+    frmAbout dialog(wordInstalled(), this);
+    showModal(dialog);
+}
+
+void frmMain::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!draggedClaim(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void frmMain::dropEvent(QDropEvent *event)
+{
+    const QString path = draggedClaim(*event->mimeData());
+    if (path.isEmpty())
+        return;
+    event->acceptProposedAction();
+    // Later: the program that the file came from waits until this event is handled.
+    QTimer::singleShot(0, this, [this, path] { openDropped(path); });
+}
+
+void frmMain::openDropped(const QString &path)
+{
+    if (m_modal || clsLongWork::isRunning() || !ConfirmClose())
+        return;
+    {
+        const QScopedValueRollback<bool> follows(m_drawingFollows, true);
+        OpenFormFile(path);
+        mdClearPreview();
+        oFooter->TimeSpentTimer()->StopTimer();
+        Activate();
+    }
+    PreviewScheduleOfTime();
+}
+
+void frmMain::closeEvent(QCloseEvent *event)
+{
+    event->ignore();
+    if (clsLongWork::isRunning() || !ConfirmClose())
+        return;
+    event->accept();
+    tmrAutoBackup->stop();
+    WriteLog(QStringLiteral("Program Ended\r\n") + QString(110, u'#'));
+    m_loaded = false;
+    emit Closed();
+}

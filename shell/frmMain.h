@@ -1,0 +1,105 @@
+#pragma once
+
+#include "preview/mdPreviewTypes.h"
+#include "wordexport/mdWordInstalled.h"
+
+#include <QMainWindow>
+
+#include <functional>
+
+class QDialog;
+class QMenu;
+class QTimer;
+class oFooterBar;
+class oHeaderBar;
+class oPreviewGrid;
+class oTabBar;
+
+/// The one top-level window: a launcher and a display. Everything that is edited is edited on modal screens that it
+/// opens; its own area shows which claim this is, two rows of tabs, the preview and the status line. Its caption is
+/// constant, the document's name and its mark stand in the header.
+class frmMain : public QMainWindow {
+    Q_OBJECT
+
+public:
+    explicit frmMain(QWidget *parent = nullptr);
+    ~frmMain() override;
+
+    /// What the window does once, before it is shown: the preferences, the globals, old backups, the claim at the path
+    /// or a new one for an empty path, the tabs. The order is required.
+    void Load(const QString &claimPath);
+
+    /// Refreshes the header and the stopwatch from the claim.
+    void UpdateInfo();
+    /// The activation routine: on the return from every modal screen and after each document command.
+    void Activate();
+    /// Opens the screen of a text, as a click on its tab does. While a screen is open the text is remembered, and its
+    /// screen follows when that one is gone. An unknown or empty text does nothing.
+    void tbSubSection_Click(int index, const QString &tag);
+    /// One tick of the timer for backups.
+    void tmrAutoBackup_Timer();
+
+    oFooterBar *footer() const { return oFooter; }
+
+    // The commands of the menu.
+    void New();
+    void Open();
+    void Save();
+    void SaveAs();
+    void ExportToWord();
+    void Exit() { close(); }
+    void CheckForBlank();
+    void PreviewScheduleOfTime() { drawPreview(clsPreviewKind::ScheduleOfTime); }
+    void PreviewAdditionalInformation() { drawPreview(clsPreviewKind::AdditionalInformation); }
+    void UserGuide();
+    void KeyboardShortcutsList();
+    void MakeASuggestion();
+    void About();
+
+    /// Whether there is a word processor; tests put another answer here.
+    std::function<bool()> wordInstalled = mdWordInstalled;
+    /// Makes the screen of a text, nothing for a text without one.
+    std::function<QDialog *(const QString &text, QWidget *parent)> createScreen;
+
+signals:
+    /// The user has left the program, and whatever was to be saved is saved.
+    void Closed();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+    bool event(QEvent *event) override;
+
+private:
+    void build();
+    void buildTabs();
+    void tbSection_Click();
+    void showModal(QDialog &dialog);
+    void drawPreview(clsPreviewKind kind);
+    void refreshPreview();
+    void redraw(void (*routine)(clsPreviewKind));
+    void openDropped(const QString &path);
+
+    oHeaderBar *oHeader;
+    oTabBar *tbSection;
+    oTabBar *tbSubSection;
+    QWidget *pctPreview;
+    oPreviewGrid *sgPreview;
+    oFooterBar *oFooter;
+    QTimer *tmrAutoBackup;
+
+    /// The kind of preview last shown.
+    clsPreviewKind m_previewKind = clsPreviewKind::ScheduleOfTime;
+    QString m_backupTag;
+    QString m_nextSection;
+    bool m_sectionOpen = false;
+    bool m_loaded = false;
+    bool m_redrawing = false;
+    /// A command that ends with drawing the preview is at work: to refresh it before would be to draw it twice.
+    bool m_drawingFollows = false;
+    /// A modal window of this one's is up, and the activation routine follows when it is gone.
+    bool m_modal = false;
+    /// The routine has run for an activation that the desktop is still to tell of.
+    bool m_activationDone = false;
+};

@@ -1,0 +1,68 @@
+#include "shell/mdMainMenu.h"
+
+#include "controls/mdIcons.h"
+#include "controls/mdTheme.h"
+#include "shell/frmMain.h"
+
+#include <QMenu>
+#include <QMenuBar>
+
+namespace {
+
+struct clsMenuRow {
+    const char *menu; ///< an ampersand marks the mnemonic, here and in the text
+    const char *text;
+    const char *member;
+    const char *key; ///< empty for none
+    void (frmMain::*action)(); ///< nothing where the command is still to come
+    bool separatorAfter = false;
+    Glyph glyph = Glyph::None;
+};
+
+// clang-format off
+constexpr clsMenuRow MenuRows[] = {
+    {"&File",    "&New",                          "mnuNew",                          "Ctrl+N", &frmMain::New,                          true, Glyph::NewDocument},
+    {"&File",    "&Open",                         "mnuOpen",                         "Ctrl+O", &frmMain::Open,                         true, Glyph::Folder},
+    {"&File",    "&Save",                         "mnuSave",                         "Ctrl+S", &frmMain::Save,                         false, Glyph::Disk},
+    {"&File",    "Save &As...",                   "mnuSaveAs",                       "",       &frmMain::SaveAs,                       true},
+    {"&File",    "&Export to Word",               "mnuExportToWord",                 "Ctrl+W", &frmMain::ExportToWord,                 true},
+    {"&File",    "E&xit",                         "mnuExit",                         "Ctrl+Q", &frmMain::Exit},
+    {"&Tools",   "&Preferences",                  "mnuPreferences",                  "Ctrl+P", nullptr,                                true, Glyph::Sliders},
+    {"&Tools",   "&Check For Blank Time / Values", "mnuCheckForBlankItems",          "",       &frmMain::CheckForBlank},
+    {"&Preview", "&Schedule of Time",             "mnuPreviewScheduleOfTime",        "Ctrl+T", &frmMain::PreviewScheduleOfTime},
+    {"&Preview", "&Additional Information",       "mnuPreviewAdditionalInformation", "Ctrl+I", &frmMain::PreviewAdditionalInformation},
+    {"&Help",    "&User Guide",                   "mnuUserGuide",                    "",       &frmMain::UserGuide},
+    {"&Help",    "&Keyboard Shortcuts List",      "mnuKeyboardShortcutsList",        "",       &frmMain::KeyboardShortcutsList,        true},
+    {"&Help",    "&Make a Suggestion",            "mnuMakeASuggestion",              "",       &frmMain::MakeASuggestion,              true},
+    {"&Help",    "&About Velmor ZR3",             "mnuAbout",                        "",       &frmMain::About},
+};
+// clang-format on
+
+QMenu *menuOf(QMenuBar &bar, const char *caption)
+{
+    const QString text = QString::fromLatin1(caption);
+    const QString name = QStringLiteral("mnu") + QString(text).remove(u'&');
+    if (auto *existing = bar.findChild<QMenu *>(name))
+        return existing;
+    QMenu *menu = bar.addMenu(text);
+    menu->setObjectName(name);
+    return menu;
+}
+
+} // namespace
+
+void mdBuildMainMenu(frmMain &window)
+{
+    for (const clsMenuRow &row : MenuRows) {
+        QMenu *menu = menuOf(*window.menuBar(), row.menu);
+        QAction *entry = menu->addAction(QString::fromLatin1(row.text));
+        entry->setObjectName(QString::fromLatin1(row.member));
+        entry->setShortcut(QKeySequence(QString::fromLatin1(row.key)));
+        entry->setIcon(mdGlyphIcon(row.glyph, Theme::Ink2));
+        entry->setEnabled(row.action != nullptr);
+        if (row.action)
+            QObject::connect(entry, &QAction::triggered, &window, row.action);
+        if (row.separatorAfter)
+            menu->addSeparator();
+    }
+}

@@ -1,0 +1,104 @@
+#include "shell/mdSubMain.h"
+
+#include "controls/mdIcons.h"
+#include "controls/mdTheme.h"
+#include "controls/oFooterBar.h"
+#include "formdata/clsZR3Form.h"
+#include "formdata/clsZR3PreferencesDatabase.h"
+#include "shell/clsWindowUserInterface.h"
+#include "shell/frmMain.h"
+#include "shell/frmSplash.h"
+#include "shell/mdCommandLine.h"
+#include "shell/mdCustomMessages.h"
+#include "shell/mdEndSignals.h"
+#include "shell/mdGlobals.h"
+#include "shell/mdNetworkPath.h"
+#include "shell/mdProgramFolder.h"
+#include "shell/mdRecoveredCopy.h"
+#include "shell/oApplication.h"
+
+#include <QFile>
+#include <QPainter>
+
+namespace {
+
+QStringList argumentsOf(int argc, char **argv)
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments << QFile::decodeName(argv[i]);
+    return arguments;
+}
+
+QIcon programIcon()
+{
+    QIcon icon;
+    for (const int side : {16, 24, 32, 48, 64, 128}) {
+        QPixmap pixmap(side, side);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        mdPaintTile(painter, QRectF(0, 0, side, side), {Glyph::Document, Theme::Purple, false});
+        icon.addPixmap(pixmap);
+    }
+    return icon;
+}
+
+/// Everything that the program's end takes down, in that order: the windows, then what they show.
+struct clsProgram {
+    frmSplash splash;
+    std::unique_ptr<frmMain> main;
+
+    ~clsProgram()
+    {
+        main.reset();
+        Form.reset();
+        Preferences.reset();
+    }
+};
+
+void showMain(clsProgram &program, oApplication &application, clsWindowUserInterface &user, const QString &claimPath)
+{
+    program.main = std::make_unique<frmMain>();
+    frmMain *window = program.main.get();
+    QObject::connect(window, &frmMain::Closed, &application, [&application] { application.end(0); });
+    user.setProgressDisplay({
+        [footer = window->footer()](
+            int value, int maximum, const QString &text) { footer->showProgress(value, maximum, text); },
+        [footer = window->footer()] { footer->clearProgress(); },
+    });
+    window->Load(claimPath);
+    window->show();
+    program.splash.StepAside();
+}
+
+} // namespace
+
+int RunProgram(int argc, char **argv)
+{
+    // The whole command line is a claim's path. None of it is a switch, not the toolkit's own either.
+    const QString claimPath = CommandLinePath(argumentsOf(argc, argv));
+    int nameOnly = 1;
+    oApplication application(nameOnly, argv);
+    mdApplyTheme(application);
+    QApplication::setWindowIcon(programIcon());
+    clsWindowUserInterface user;
+    const clsUserInterfaceScope scope(user);
+    application.writeRecoveredCopy = WriteRecoveredCopy;
+    SetEndSignalHandler([&application] { application.endUnasked(); });
+
+    if (IsNetworkPath(ProgramFolder())) {
+        mdCustomMessages(
+            QStringLiteral("Velmor ZR3 cannot be run through a network. Please install and run the program "
+                           "on this machine directly."),
+            QStringLiteral("Network Error"));
+        return 1;
+    }
+    clsProgram program;
+    QObject::connect(&program.splash, &frmSplash::Initialised, &application,
+        [&] { showMain(program, application, user, claimPath); });
+    program.splash.show();
+    const int status = application.run();
+    user.setProgressDisplay({});
+    SetEndSignalHandler({});
+    return status;
+}

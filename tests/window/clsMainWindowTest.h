@@ -1,0 +1,52 @@
+#pragma once
+
+#include "controls/oFooterBar.h"
+#include "controls/oHeaderBar.h"
+#include "controls/oTabBar.h"
+#include "controls/oTabBarButton.h"
+#include "shell/frmMain.h"
+#include "tests/window/clsWindowTest.h"
+
+/// A test of the main window.
+class clsMainWindowTest : public clsWindowTest {
+protected:
+    void TearDown() override
+    {
+        window.reset();
+        clsWindowTest::TearDown();
+    }
+
+    /// The window as the program makes it, on a claim or a new one.
+    void start(const QString &claimPath = {})
+    {
+        window = std::make_unique<frmMain>();
+        window->Load(claimPath);
+        window->setWindowState(Qt::WindowNoState);
+        window->resize(1200, 760);
+        show(*window);
+    }
+
+    QString header() const { return control<oHeaderBar>(*window, "oHeader").Caption(); }
+    QAction &entry(const char *name) const { return control<QAction>(*window, name); }
+    oTabBar &row(const char *name) const { return control<oTabBar>(*window, name); }
+
+    /// The captions of a row of tabs, as they stand.
+    QStringList tabs(const char *name) const
+    {
+        QStringList captions;
+        for (const oTabBarButton *button : row(name).findChildren<oTabBarButton *>())
+            captions << button->Caption();
+        return captions;
+    }
+    void clickTab(const char *name, const char *text) const
+    {
+        for (oTabBarButton *button : row(name).findChildren<oTabBarButton *>())
+            if (button->Caption() == QLatin1String(text)) {
+                QTest::mouseClick(button, Qt::LeftButton);
+                return;
+            }
+        ADD_FAILURE() << "no tab " << text;
+    }
+
+    std::unique_ptr<frmMain> window;
+};

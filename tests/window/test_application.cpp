@@ -1,0 +1,196 @@
+#include "shell/clsProgramEnd.h"
+#include "shell/clsRunTimeError.h"
+#include "shell/mdGlobals.h"
+#include "formdata/clsZR3Form.h"
+#include "shell/oApplication.h"
+#include "tests/support/clsScriptedUserInterface.h"
+#include "tests/support/mdTestPrinting.h"
+
+#include <QDialog>
+#include <QEventLoop>
+#include <QSessionManager>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// A test with an application of its own, which may end.
+class Application : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        application = std::make_unique<oApplication>(m_count, m_arguments);
+        application->writeRecoveredCopy = [this] {
+            ++copies;
+            return copyPath;
+        };
+        // A loop that nothing ends is a failure, and not a hanging test.
+        QTimer::singleShot(5000, application.get(), [] { QCoreApplication::exit(99); });
+    }
+
+    /// Runs a step as an event of the loop; the status with which the program ends.
+    int statusOf(const std::function<void()> &step)
+    {
+        QTimer::singleShot(0, application.get(), step);
+        return application->run();
+    }
+
+    void expectBox(const QString &text) const
+    {
+        ASSERT_EQ(1u, user.messages.size());
+        EXPECT_EQ(QStringLiteral("Velmor ZR3"), user.messages[0].title);
+        EXPECT_EQ(text, user.messages[0].text);
+        EXPECT_TRUE(user.messages[0].system);
+        EXPECT_EQ(int(clsUserInterface::Critical), user.messages[0].icon);
+        EXPECT_EQ(clsUserInterface::OKOnly, user.messages[0].buttons);
+    }
+
+    std::unique_ptr<oApplication> application;
+    clsScriptedUserInterface user;
+    QString copyPath;
+    int copies = 0;
+
+private:
+    clsUserInterfaceScope m_scope {user};
+    int m_count = 1;
+    char m_name[5] = "test";
+    char *m_arguments[2] = {m_name, nullptr};
+};
+
+} // namespace
+
+TEST_F(Application, AnEndWithoutAFailureHasItsStatus)
+{
+    EXPECT_EQ(0, statusOf([this] { application->end(0); }));
+    EXPECT_TRUE(user.messages.empty());
+    EXPECT_EQ(0, copies);
+}
+
+TEST_F(Application, ARunTimeErrorIsToldAndEndsTheProgram)
+{
+    EXPECT_EQ(1, statusOf([] { throw clsRunTimeError(clsRunTimeError::FileNotFound); }));
+    expectBox(QStringLiteral("Run-time error '53':\r\n\r\nFile not found"));
+    EXPECT_EQ(1, copies);
+}
+
+TEST_F(Application, TheBoxSaysWhereTheCopyOfTheClaimLies)
+{
+    copyPath = QStringLiteral("/somewhere/Recovered/claim.zr3");
+    EXPECT_EQ(1, statusOf([] { throw clsRunTimeError(9); }));
+    ASSERT_EQ(1u, user.messages.size());
+    EXPECT_TRUE(
+        user.messages[0].text.startsWith(QStringLiteral("Run-time error '9':\r\n\r\nSubscript out of range\r\n\r\n")));
+    EXPECT_TRUE(user.messages[0].text.endsWith(copyPath));
+}
+
+TEST_F(Application, ACopyThatFailsHoldsNothingUp)
+{
+    application->writeRecoveredCopy = []() -> QString { throw clsRunTimeError(clsRunTimeError::DiskFull); };
+    EXPECT_EQ(1, statusOf([] { throw clsRunTimeError(9); }));
+    expectBox(QStringLiteral("Run-time error '9':\r\n\r\nSubscript out of range"));
+}
+
+TEST_F(Application, MemoryThatIsNotThereIsError7)
+{
+    EXPECT_EQ(1, statusOf([] { throw std::bad_alloc(); }));
+    expectBox(QStringLiteral("Run-time error '7':\r\n\r\nOut of memory"));
+}
+
+TEST_F(Application, AnyOtherFailureIsAnInternalError)
+{
+    EXPECT_EQ(1, statusOf([] { throw std::logic_error("something odd"); }));
+    expectBox(QStringLiteral("Run-time error '51':\r\n\r\nsomething odd"));
+}
+
+TEST_F(Application, EvenWhatIsNoExceptionIsCaught)
+{
+    EXPECT_EQ(1, statusOf([] { throw 42; }));
+    expectBox(QStringLiteral("Run-time error '51':\r\n\r\nInternal error"));
+}
+
+TEST_F(Application, AProgramEndEndsItWithoutAWord)
+{
+    EXPECT_EQ(3, statusOf([] { throw clsProgramEnd {3}; }));
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(Application, AFailureBeforeTheLoopEndsItToo)
+{
+    application->guarded([] { throw clsRunTimeError(clsRunTimeError::FileNotFound); });
+    EXPECT_EQ(1, application->run());
+    expectBox(QStringLiteral("Run-time error '53':\r\n\r\nFile not found"));
+}
+
+TEST_F(Application, LoopsWithinLoopsEndAndNoFurtherEventIsDelivered)
+{
+    int after = 0;
+    const int status = statusOf([&] {
+        QTimer::singleShot(0, [&] {
+            QTimer::singleShot(0, [&] { ++after; });
+            throw clsRunTimeError(clsRunTimeError::FileNotFound);
+        });
+        QEventLoop inner;
+        inner.exec();
+        // What stands on the road back meets an application that delivers nothing more.
+        EXPECT_TRUE(oApplication::ending());
+        QDialog late;
+        late.exec();
+        QCoreApplication::processEvents();
+    });
+    EXPECT_EQ(1, status);
+    EXPECT_EQ(0, after);
+    EXPECT_EQ(1u, user.messages.size());
+}
+
+TEST_F(Application, WhatFailsWhileTheBoxStandsIsNotToldAgain)
+{
+    struct clsAsking final : clsUserInterface {
+        Answer customMessage(const QString &, const QString &, Buttons, int, int) override { return OK; }
+        Answer systemMessage(const QString &, const QString &, SystemIcon, Buttons) override
+        {
+            ++boxes;
+            QTimer::singleShot(0, [] { throw clsRunTimeError(clsRunTimeError::Overflow); });
+            QEventLoop box;
+            QTimer::singleShot(20, &box, &QEventLoop::quit);
+            box.exec();
+            return OK;
+        }
+        void showProgress(int, int, const QString &) override { }
+        void clearProgress() override { }
+        QString chooseFolder(const QString &) override { return {}; }
+        QString chooseFileToOpen(const QString &) override { return {}; }
+        QString chooseFileToSave(const QString &, const QString &) override { return {}; }
+        void playSound(const QString &) override { }
+        bool openTarget(const QString &) override { return false; }
+        int boxes = 0;
+    } asking;
+    const clsUserInterfaceScope scope(asking);
+    EXPECT_EQ(1, statusOf([] { throw clsRunTimeError(clsRunTimeError::FileNotFound); }));
+    EXPECT_EQ(1, asking.boxes);
+}
+
+TEST_F(Application, TheDesktopsRequestToQuitWritesTheCopyAndAsksNothing)
+{
+    EXPECT_EQ(0, statusOf([] {
+        QEvent quit(QEvent::Quit);
+        QCoreApplication::sendEvent(QCoreApplication::instance(), &quit);
+    }));
+    EXPECT_EQ(1, copies);
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(Application, TheEndOfTheLastWindowIsNotItsEnd)
+{
+    bool goesOn = false;
+    EXPECT_EQ(0, statusOf([&] {
+        QDialog window;
+        window.show();
+        window.close();
+        QTimer::singleShot(50, application.get(), [&] {
+            goesOn = true;
+            application->end(0);
+        });
+    }));
+    EXPECT_TRUE(goesOn);
+}

@@ -1,0 +1,311 @@
+#include "controls/oCustomButton.h"
+#include "controls/oFrame.h"
+#include "controls/oHeaderBar.h"
+#include "shell/clsLongWork.h"
+#include "shell/clsRunTimeError.h"
+#include "tests/window/clsWindowTest.h"
+#include "wordexport/clsMSWord.h"
+#include "wordexport/frmExportToWord.h"
+#include "wordexport/mdDesktopFolder.h"
+#include "wordexport/mdWordAlreadyRunning.h"
+
+#include <QLineEdit>
+
+namespace {
+
+class ExportToWord : public clsWindowTest {
+protected:
+    void SetUp() override
+    {
+        clsWindowTest::SetUp();
+        QDir(folder.path()).mkpath(QStringLiteral("profile/Desktop"));
+        QDir(folder.path()).mkpath(QStringLiteral("out"));
+        qputenv("UserProfile", QFile::encodeName(path("profile")));
+        ASSERT_TRUE(QFile::link(QStringLiteral(ZR3_TEMPLATES), path("program/Templates")));
+        Preferences = std::make_unique<clsZR3PreferencesDatabase>();
+        Form = std::make_unique<clsZR3Form>();
+    }
+    void TearDown() override
+    {
+        dialog.reset();
+        qunsetenv("UserProfile");
+        clsWindowTest::TearDown();
+    }
+
+    void open(const QString &exportPath)
+    {
+        Form->ExportPath = exportPath;
+        dialog = std::make_unique<frmExportToWord>();
+        box = &control<QLineEdit>(*dialog, "txtExportPath");
+        show(*dialog);
+    }
+    void press(const char *button) { QTest::mouseClick(&control<oCustomButton>(*dialog, button), Qt::LeftButton); }
+    QString desktop() const { return path("profile/Desktop"); }
+
+    void put(const char *relative, const QByteArray &bytes) const
+    {
+        QFile file(path(relative));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+    QByteArray bytesOf(const char *relative) const
+    {
+        QFile file(path(relative));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArrayLiteral("(no file)");
+    }
+
+    /// Only page 1, so that an export takes no time.
+    static void includeOnlyPage1()
+    {
+        for (int page = 2; page <= 13; ++page)
+            Form->field(QStringLiteral("IncludePage%1").arg(page))->writeBoolean(false);
+    }
+
+    std::unique_ptr<frmExportToWord> dialog;
+    QLineEdit *box = nullptr;
+    QStringList processes;
+
+private:
+    clsProcessListScope m_processes {[this] { return processes; }};
+};
+
+} // namespace
+
+TEST_F(ExportToWord, BearsItsTexts)
+{
+    open(path("out"));
+    const auto &header = control<oHeaderBar>(*dialog, "oHeader");
+    EXPECT_EQ(QStringLiteral("Export to Word"), header.Caption());
+    EXPECT_EQ(QStringLiteral("Export the form to a Word Document"), header.SubCaption());
+    EXPECT_EQ(QStringLiteral("Export Settings"), control<oFrame>(*dialog, "bxGeneral").Caption());
+    EXPECT_EQ(QStringLiteral("Browse..."), control<oCustomButton>(*dialog, "cmdExportPathBrowse").Caption());
+    EXPECT_EQ(QStringLiteral("Open"), control<oCustomButton>(*dialog, "cmdOpenExportFolder").Caption());
+    EXPECT_EQ(QStringLiteral("Export"), control<oCustomButton>(*dialog, "cmdExport").Caption());
+    EXPECT_EQ(QStringLiteral("Close"), control<oCustomButton>(*dialog, "cmdClose").Caption());
+}
+
+TEST_F(ExportToWord, TakesTheFolderOfTheClaim)
+{
+    open(path("out"));
+    EXPECT_EQ(path("out"), box->text());
+    EXPECT_EQ(path("out"), Form->ExportPath());
+}
+
+TEST_F(ExportToWord, ANewClaimGetsTheDesktop)
+{
+    open(QString());
+    EXPECT_EQ(desktop(), box->text());
+    EXPECT_EQ(desktop(), Form->ExportPath());
+}
+
+TEST_F(ExportToWord, AFolderThatIsGoneFallsBackToTheDesktopOnLoad)
+{
+    open(path("gone"));
+    EXPECT_EQ(desktop(), box->text());
+    EXPECT_EQ(desktop(), Form->ExportPath());
+}
+
+TEST_F(ExportToWord, ASlashAtTheEndIsLost)
+{
+    open(path("out") + u'/');
+    EXPECT_EQ(path("out"), box->text());
+    EXPECT_EQ(path("out"), Form->ExportPath());
+    box->setText(path("claims") + u'\\');
+    EXPECT_EQ(path("claims"), box->text());
+    EXPECT_EQ(path("claims"), Form->ExportPath());
+    box->setText(QStringLiteral("/"));
+    EXPECT_EQ(QStringLiteral("/"), box->text());
+}
+
+TEST_F(ExportToWord, TypingWhatIsNoFolderIsThrownBackAtOnce)
+{
+    open(path("out"));
+    box->setFocus();
+    box->setCursorPosition(int(box->text().size()));
+    QTest::keyClick(box, Qt::Key_X);
+    EXPECT_EQ(desktop(), box->text());
+    EXPECT_EQ(desktop(), Form->ExportPath());
+    box->clear();
+    EXPECT_EQ(desktop(), box->text());
+}
+
+TEST_F(ExportToWord, BrowseAsksForAFolder)
+{
+    open(path("out"));
+    user.folders = {path("claims"), QString()};
+    press("cmdExportPathBrowse");
+    EXPECT_EQ(QStringList("Please select a folder to export to..."), user.prompts);
+    EXPECT_EQ(path("claims"), box->text());
+    EXPECT_EQ(path("claims"), Form->ExportPath());
+    press("cmdExportPathBrowse");
+    EXPECT_EQ(path("claims"), box->text());
+}
+
+TEST_F(ExportToWord, OpenOpensTheFolder)
+{
+    open(path("out"));
+    press("cmdOpenExportFolder");
+    EXPECT_EQ(QStringList(path("out")), user.opened);
+}
+
+TEST_F(ExportToWord, WarnsOfAnOpenWordAndCancelEndsThere)
+{
+    open(path("out"));
+    processes = {QStringLiteral("soffice.bin")};
+    user.answers = {clsUserInterface::Cancel};
+    press("cmdExport");
+    ASSERT_EQ(1u, user.messages.size());
+    EXPECT_EQ(QStringLiteral("Word Instances"), user.messages[0].title);
+    EXPECT_EQ(QStringLiteral(
+                  "It is recommended that you close all instances of Microsoft Word before exporting.\r\n\r\n"
+                  "Leaving Microsoft Word open during exporting may lead to Velmor ZR3 closing unexpectedly and any "
+                  "unsaved work will be lost.\r\n\r\nClick OK to continue."),
+        user.messages[0].text);
+    EXPECT_EQ(clsUserInterface::OKCancel, user.messages[0].buttons);
+    EXPECT_EQ(2, user.messages[0].icon);
+    EXPECT_TRUE(QDir(path("out")).isEmpty());
+}
+
+TEST_F(ExportToWord, ExportsAfterTheWarning)
+{
+    includeOnlyPage1();
+    open(path("out"));
+    processes = {QStringLiteral("soffice.bin")};
+    user.answers = {clsUserInterface::OK};
+    press("cmdExport");
+    ASSERT_EQ(2u, user.messages.size());
+    EXPECT_EQ(QStringLiteral("Export Complete"), user.messages[1].title);
+    EXPECT_EQ(QStringLiteral("Exporting is complete."), user.messages[1].text);
+    EXPECT_EQ(clsUserInterface::OKOnly, user.messages[1].buttons);
+    EXPECT_EQ(2, user.messages[1].icon);
+    EXPECT_TRUE(bytesOf("out/Claim1.doc").startsWith("PK"));
+    EXPECT_FALSE(QFile::exists(path("out/~ZR3Temp")));
+    EXPECT_TRUE(user.opened.isEmpty());
+    ASSERT_EQ(11u, user.progress.size());
+    EXPECT_EQ(QStringLiteral("Exporting Page 1"), user.progress[0].text);
+    EXPECT_EQ(1, user.progressCleared);
+    EXPECT_TRUE(dialog->isEnabled());
+    EXPECT_FALSE(clsLongWork::isRunning());
+}
+
+TEST_F(ExportToWord, AFolderThatVanishedMeanwhileIsRefused)
+{
+    open(path("out"));
+    QDir(path("out")).removeRecursively();
+    press("cmdExport");
+    ASSERT_EQ(1u, user.messages.size());
+    EXPECT_EQ(QStringLiteral("Export Path"), user.messages[0].title);
+    EXPECT_EQ(QStringLiteral("The selected Export Path does not exist. Please select a valid folder and try again."),
+        user.messages[0].text);
+    EXPECT_EQ(clsUserInterface::OKOnly, user.messages[0].buttons);
+    EXPECT_EQ(0, user.messages[0].icon);
+}
+
+TEST_F(ExportToWord, CancelAtOverwriteLeavesTheOldFile)
+{
+    includeOnlyPage1();
+    open(path("out"));
+    put("out/Claim1.doc", "old");
+    user.answers = {clsUserInterface::Cancel};
+    press("cmdExport");
+    ASSERT_EQ(1u, user.messages.size());
+    EXPECT_EQ(QStringLiteral("Overwrite?"), user.messages[0].title);
+    EXPECT_EQ(QStringLiteral("The following file will be overwritten:\r\n\r\nClaim1.doc\r\n"), user.messages[0].text);
+    EXPECT_EQ(clsUserInterface::OKCancel, user.messages[0].buttons);
+    EXPECT_EQ(1, user.messages[0].icon);
+    EXPECT_EQ("old", bytesOf("out/Claim1.doc"));
+    EXPECT_FALSE(QFile::exists(path("out/~ZR3Temp")));
+
+    user.answers = {clsUserInterface::OK};
+    press("cmdExport");
+    EXPECT_NE("old", bytesOf("out/Claim1.doc"));
+}
+
+TEST_F(ExportToWord, LeftoversOfACrashAreSweptAway)
+{
+    includeOnlyPage1();
+    open(path("out"));
+    QDir(path("out")).mkdir(QStringLiteral("~ZR3Temp"));
+    put("out/~ZR3Temp/9(9).doc", "left");
+    press("cmdExport");
+    EXPECT_TRUE(QFile::exists(path("out/Claim1.doc")));
+    EXPECT_FALSE(QFile::exists(path("out/~ZR3Temp")));
+}
+
+TEST_F(ExportToWord, AnUnknownFormTypeRunsNothing)
+{
+    Form->FormType = QStringLiteral("Claim9");
+    open(path("out"));
+    press("cmdExport");
+    ASSERT_EQ(1u, user.messages.size());
+    EXPECT_EQ(QStringLiteral("Export Complete"), user.messages[0].title);
+    EXPECT_TRUE(QDir(path("out")).isEmpty());
+    EXPECT_TRUE(user.progress.empty());
+}
+
+TEST_F(ExportToWord, UsesAFolderWhoseNameTheClaimCanNotHold)
+{
+    includeOnlyPage1();
+    const QString folderName = folder.filePath(QString::fromUtf8("Żółw"));
+    QDir().mkpath(folderName);
+    open(path("out"));
+    box->setText(folderName);
+    EXPECT_EQ(folderName, box->text());
+    press("cmdExport");
+    EXPECT_TRUE(QFile::exists(folderName + QStringLiteral("/Claim1.doc")));
+}
+
+TEST_F(ExportToWord, IsDisabledAndHeldOpenWhileItRuns)
+{
+    struct clsObserving final : clsUserInterface {
+        Answer customMessage(const QString &, const QString &, Buttons, int, int) override { return OK; }
+        Answer systemMessage(const QString &, const QString &, SystemIcon, Buttons) override { return OK; }
+        void showProgress(int, int, const QString &) override
+        {
+            ++steps;
+            disabled = disabled && !dialog->isEnabled();
+            busy = busy && clsLongWork::isRunning();
+            dialog->reject();
+            held = held && dialog->isVisible();
+        }
+        void clearProgress() override { }
+        QString chooseFolder(const QString &) override { return {}; }
+        QString chooseFileToOpen(const QString &) override { return {}; }
+        QString chooseFileToSave(const QString &, const QString &) override { return {}; }
+        void playSound(const QString &) override { }
+        bool openTarget(const QString &) override { return false; }
+        QDialog *dialog = nullptr;
+        int steps = 0;
+        bool disabled = true, busy = true, held = true;
+    } observing;
+    includeOnlyPage1();
+    open(path("out"));
+    observing.dialog = dialog.get();
+    const clsUserInterfaceScope scope(observing);
+    press("cmdExport");
+    EXPECT_GT(observing.steps, 10);
+    EXPECT_TRUE(observing.disabled);
+    EXPECT_TRUE(observing.busy);
+    EXPECT_TRUE(observing.held);
+    EXPECT_TRUE(dialog->isEnabled());
+    EXPECT_TRUE(dialog->isVisible());
+}
+
+TEST_F(ExportToWord, CloseAndEscapeLeave)
+{
+    open(path("out"));
+    press("cmdClose");
+    EXPECT_FALSE(dialog->isVisible());
+    show(*dialog);
+    QTest::keyClick(dialog.get(), Qt::Key_Escape);
+    EXPECT_FALSE(dialog->isVisible());
+}
+
+TEST_F(ExportToWord, LogsItsOpening)
+{
+    Preferences->Log = true;
+    put("program/Logs/21-11-2026.txt", "");
+    SetClock([] { return QDateTime(QDate(2026, 11, 21), QTime(14, 3)); });
+    open(path("out"));
+    EXPECT_TRUE(bytesOf("program/Logs/21-11-2026.txt").contains(" : frmExportToWord Opened\r\n"));
+}

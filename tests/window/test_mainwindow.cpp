@@ -1,0 +1,325 @@
+#include "controls/oTimeSpentBox.h"
+#include "preview/oPreviewGrid.h"
+#include "shell/clsLongWork.h"
+#include "shell/mdGetVersionInfo.h"
+#include "tests/window/clsMainWindowTest.h"
+
+#include <QDropEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QSignalSpy>
+#include <QTimer>
+
+namespace {
+
+class MainWindow : public clsMainWindowTest {
+protected:
+    oPreviewGrid &preview() const { return control<oPreviewGrid>(*window, "sgPreview"); }
+    QString previewText() const
+    {
+        QString text;
+        for (int i = 1; i <= preview().Rows(); ++i)
+            for (int j = 1; j <= preview().Columns(); ++j)
+                text += preview().Text(i, j) + u'\t';
+        return text;
+    }
+    void drop(const QList<QUrl> &urls) const
+    {
+        QMimeData data;
+        data.setUrls(urls);
+        QDragEnterEvent enter({20, 300}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(window.get(), &enter);
+        if (!enter.isAccepted())
+            return;
+        QDropEvent dropped({20, 300}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(window.get(), &dropped);
+        QTest::qWait(10);
+    }
+    static QString addItem()
+    {
+        const auto item = Form->AddScheduleOfTimeItem();
+        item->OrderID = 1;
+        item->ItemCode = QStringLiteral("ASI");
+        item->TTime = QStringLiteral("07:37");
+        return item->TTime();
+    }
+};
+
+} // namespace
+
+TEST_F(MainWindow, ANewClaimIsANewFileWithoutTheMark)
+{
+    start();
+    EXPECT_EQ(QStringLiteral("New ZR3 File"), header());
+    EXPECT_EQ(QStringLiteral("Velmor ZR3"), window->windowTitle());
+    EXPECT_EQ(GetVersionInfo(), Form->Version());
+    EXPECT_EQ(QStringLiteral("Claim1"), control<oHeaderBar>(*window, "oHeader").Chip());
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(MainWindow, LoadSetsTheGlobals)
+{
+    ASSERT_EQ(nullptr, Preferences);
+    start();
+    EXPECT_NE(nullptr, Preferences);
+    EXPECT_EQ(&preview(), PreviewGrid);
+    EXPECT_EQ(window->footer()->TimeSpentTimer(), TimeSpentBox);
+    window.reset();
+    EXPECT_EQ(nullptr, PreviewGrid);
+    EXPECT_EQ(nullptr, TimeSpentBox);
+}
+
+TEST_F(MainWindow, AsksToBeMaximised)
+{
+    frmMain main;
+    main.Load({});
+    EXPECT_TRUE(main.windowState().testFlag(Qt::WindowMaximized));
+}
+
+TEST_F(MainWindow, OpensTheClaimOfTheCommandLineAndShowsItsBill)
+{
+    const QString claim = sample("housing-typical.zr3");
+    start(claim);
+    // It lies elsewhere than where it was saved, so that it counts as changed.
+    EXPECT_EQ(claim + u'*', header());
+    EXPECT_GT(preview().Rows(), 10);
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(MainWindow, AFileThatIsNoClaimIsToldAndANewOneBegins)
+{
+    start(path("claims/none.zr3"));
+    EXPECT_FALSE(user.messages.empty());
+    EXPECT_EQ(QStringLiteral("New ZR3 File"), header());
+    EXPECT_EQ(4, tabs("tbSubSection").size());
+}
+
+TEST_F(MainWindow, AfterASaveTheFullPathStandsWithoutTheMark)
+{
+    start(sample("empty.zr3"));
+    EXPECT_TRUE(header().endsWith(u'*'));
+    entry("mnuSave").trigger();
+    EXPECT_EQ(path("claims/empty.zr3"), header());
+    Form->ClientDetails.Surname = QStringLiteral("Hartwell");
+    // At the next run of the routine, and not at the change.
+    EXPECT_EQ(path("claims/empty.zr3"), header());
+    window->Activate();
+    EXPECT_EQ(path("claims/empty.zr3*"), header());
+}
+
+TEST_F(MainWindow, SaveAsTakesThePathThatIsGiven)
+{
+    start();
+    user.files = {path("claims/new one.zr3")};
+    entry("mnuSaveAs").trigger();
+    EXPECT_EQ(path("claims/new one.zr3"), header());
+    EXPECT_TRUE(QFile::exists(path("claims/new one.zr3")));
+    EXPECT_EQ(QStringLiteral("Velmor ZR3"), window->windowTitle());
+    EXPECT_EQ(path("claims/new one.zr3"), window->windowFilePath());
+}
+
+TEST_F(MainWindow, OpenAsksAndShowsTheBillOfTheNewClaim)
+{
+    start();
+    user.files = {sample("housing-typical.zr3")};
+    entry("mnuOpen").trigger();
+    EXPECT_EQ(path("claims/housing-typical.zr3*"), header());
+    EXPECT_GT(preview().Rows(), 10);
+}
+
+TEST_F(MainWindow, NewWithAChangedClaimAsksFirst)
+{
+    start();
+    Form->ClientDetails.Surname = QStringLiteral("Hartwell");
+    user.answers = {clsUserInterface::Cancel};
+    entry("mnuNew").trigger();
+    ASSERT_EQ(1u, user.messages.size());
+    EXPECT_EQ(QStringLiteral("Hartwell"), Form->ClientDetails.Surname());
+    user.answers = {clsUserInterface::No};
+    entry("mnuNew").trigger();
+    EXPECT_EQ(QString(), Form->ClientDetails.Surname());
+    EXPECT_EQ(QStringLiteral("New ZR3 File"), header());
+}
+
+TEST_F(MainWindow, ShowsTheTimeSpent)
+{
+    start();
+    Form->TimeSpent = QStringLiteral("03:25");
+    window->UpdateInfo();
+    EXPECT_EQ(QStringLiteral("03:25"), TimeSpentBox->TimeSpent());
+}
+
+TEST_F(MainWindow, EveryActivationByTheDesktopRunsTheRoutine)
+{
+    start();
+    Form->ClientDetails.Surname = QStringLiteral("Hartwell");
+    QEvent away(QEvent::WindowDeactivate), back(QEvent::WindowActivate);
+    QCoreApplication::sendEvent(window.get(), &away);
+    EXPECT_EQ(QStringLiteral("New ZR3 File"), header());
+    QCoreApplication::sendEvent(window.get(), &back);
+    EXPECT_EQ(QStringLiteral("New ZR3 File*"), header());
+}
+
+TEST_F(MainWindow, TheRoutineRefreshesThePreviewWhereThePreferencesAskForIt)
+{
+    writePreferences({"AutoRefreshPreview"});
+    start();
+    const QString time = addItem();
+    EXPECT_FALSE(previewText().contains(time));
+    window->Activate();
+    EXPECT_TRUE(previewText().contains(time));
+}
+
+TEST_F(MainWindow, WithoutThePreferenceTheOldPreviewStandsUntilAnEntryIsPicked)
+{
+    start();
+    ASSERT_FALSE(Preferences->AutoRefreshPreview());
+    const QString time = addItem();
+    window->Activate();
+    EXPECT_FALSE(previewText().contains(time));
+    entry("mnuPreviewScheduleOfTime").trigger();
+    EXPECT_TRUE(previewText().contains(time));
+}
+
+TEST_F(MainWindow, TheRefreshKeepsTheKindLastShown)
+{
+    writePreferences({"AutoRefreshPreview"});
+    start(sample("housing-typical.zr3"));
+    entry("mnuPreviewAdditionalInformation").trigger();
+    const QString additional = previewText();
+    window->Activate();
+    EXPECT_EQ(additional, previewText());
+    entry("mnuPreviewScheduleOfTime").trigger();
+    EXPECT_NE(additional, previewText());
+}
+
+TEST_F(MainWindow, ARightClickOnTheSheetOpensThePreviewMenuAndALeftClickNothing)
+{
+    start();
+    const auto &menu = control<QMenu>(*window, "mnuPreview");
+    QTest::mouseClick(preview().viewport(), Qt::LeftButton, {}, QPoint(50, 50));
+    EXPECT_FALSE(menu.isVisible());
+    QTest::mousePress(preview().viewport(), Qt::RightButton, {}, QPoint(50, 50));
+    EXPECT_FALSE(menu.isVisible());
+    QTest::mouseRelease(preview().viewport(), Qt::RightButton, {}, QPoint(50, 50));
+    EXPECT_TRUE(menu.isVisible());
+    control<QMenu>(*window, "mnuPreview").close();
+}
+
+TEST_F(MainWindow, TheSheetStandsInTheMiddleDownToTheFooter)
+{
+    start();
+    window->resize(1600, 900);
+    QTest::qWait(10);
+    const auto &area = control<QWidget>(*window, "pctPreview");
+    EXPECT_EQ(area.geometry().bottom() + 1, window->footer()->geometry().top());
+    EXPECT_EQ(row("tbSubSection").geometry().bottom() + 1, area.geometry().top());
+    EXPECT_NEAR(area.width() / 2.0, preview().geometry().center().x(), 1.0);
+    EXPECT_EQ(area.height() - 1, preview().geometry().bottom());
+    EXPECT_LE(preview().width(), 1120 * 2);
+}
+
+TEST_F(MainWindow, ClosingACleanClaimEndsTheProgram)
+{
+    start();
+    const QSignalSpy closed(window.get(), &frmMain::Closed);
+    entry("mnuExit").trigger();
+    EXPECT_EQ(1, closed.count());
+    EXPECT_TRUE(user.messages.empty());
+    EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(MainWindow, CancelAtTheSaveQuestionLeavesEverythingAsItWas)
+{
+    start();
+    Form->ClientDetails.Surname = QStringLiteral("Hartwell");
+    const QString before = Form->XMLOutput();
+    const QSignalSpy closed(window.get(), &frmMain::Closed);
+    user.answers = {clsUserInterface::Cancel};
+    EXPECT_FALSE(window->close());
+    ASSERT_EQ(1u, user.messages.size());
+    EXPECT_EQ(QStringLiteral("Save?"), user.messages[0].title);
+    EXPECT_EQ(0, closed.count());
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(before, Form->XMLOutput());
+
+    user.answers = {clsUserInterface::No};
+    EXPECT_TRUE(window->close());
+    EXPECT_EQ(1, closed.count());
+}
+
+TEST_F(MainWindow, TheEndIsLogged)
+{
+    writePreferences({"Log"});
+    SetClock([] { return QDateTime(QDate(2026, 11, 21), QTime(14, 3, 22)); });
+    QFile log(path("program/Logs/21-11-2026.txt"));
+    ASSERT_TRUE(log.open(QIODevice::ReadWrite));
+    start();
+    window->close();
+    const QByteArray text = log.readAll();
+    EXPECT_TRUE(text.contains(" : frmMain Opened\r\n"));
+    EXPECT_TRUE(text.endsWith(
+        QByteArray("21/11/2026 14:03:22 : Program Ended\r\n") + QByteArray(110, '#') + QByteArray("\r\n")));
+}
+
+TEST_F(MainWindow, LongWorkHoldsTheCloseAndTheBackup)
+{
+    QDir(folder.path()).mkpath(QStringLiteral("backups"));
+    start();
+    Preferences->AutoBackupPath = path("backups");
+    auto &timer = control<QTimer>(*window, "tmrAutoBackup");
+    EXPECT_EQ(10000, timer.interval());
+    EXPECT_TRUE(timer.isActive());
+    QDateTime now(QDate(2026, 11, 21), QTime(14, 0));
+    SetClock([&now] { return now; });
+    window->tmrAutoBackup_Timer();
+    now = now.addSecs(600);
+    {
+        const clsLongWork work;
+        window->tmrAutoBackup_Timer();
+        EXPECT_TRUE(QDir(path("backups")).isEmpty());
+        EXPECT_FALSE(window->close());
+    }
+    window->tmrAutoBackup_Timer();
+    EXPECT_FALSE(QDir(path("backups")).isEmpty());
+    EXPECT_TRUE(window->close());
+    EXPECT_FALSE(timer.isActive());
+}
+
+TEST_F(MainWindow, AClaimThatIsDroppedOnItIsOpened)
+{
+    start();
+    drop({QUrl::fromLocalFile(sample("housing-typical.zr3"))});
+    EXPECT_EQ(path("claims/housing-typical.zr3*"), header());
+    EXPECT_GT(preview().Rows(), 10);
+    // It counts as changed: dropping another one asks, and Cancel keeps it.
+    drop({QUrl::fromLocalFile(sample("empty.zr3"))});
+    ASSERT_EQ(1u, user.messages.size());
+    EXPECT_EQ(path("claims/housing-typical.zr3*"), header());
+}
+
+TEST_F(MainWindow, WhatIsNoClaimIsNotTakenFromADrag)
+{
+    start();
+    drop({QUrl::fromLocalFile(path("claims/letter.doc"))});
+    drop({QUrl(QStringLiteral("https://www.velmor.example/claim.zr3"))});
+    drop({QUrl::fromLocalFile(path("a.zr3")), QUrl::fromLocalFile(path("b.zr3"))});
+    EXPECT_EQ(QStringLiteral("New ZR3 File"), header());
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(MainWindow, TheFocusStaysWhereItWasWhenThePreviewIsDrawn)
+{
+    start();
+    auto *tab = row("tbSection").findChildren<oTabBarButton *>().first();
+    tab->setFocus();
+    ASSERT_EQ(tab, QApplication::focusWidget());
+    entry("mnuPreviewAdditionalInformation").trigger();
+    EXPECT_EQ(tab, QApplication::focusWidget());
+}
+
+TEST_F(MainWindow, TheFirstTabRowHasTheFirstFocus)
+{
+    start();
+    EXPECT_EQ(row("tbSection").findChildren<oTabBarButton *>().first(), QApplication::focusWidget());
+}

@@ -1,12 +1,12 @@
 #include "controls/oDateBox.h"
 
+#include "controls/oCheckBox.h"
 #include "controls/oTypedText.h"
 #include "costing/mdDateText.h"
 #include "costing/mdTypedText.h"
 #include "shell/mdClock.h"
 
 #include <QBoxLayout>
-#include <QCheckBox>
 
 namespace {
 
@@ -32,15 +32,15 @@ const clsTypedKind Kind {
 oDateBox::oDateBox(QWidget *parent)
     : QWidget(parent)
     , txtText(oTypedText::inside(*this, Kind))
-    , chkShowDate(new QCheckBox(this))
+    , chkShowDate(new oCheckBox(this))
 {
     chkShowDate->setObjectName(QStringLiteral("chkShowDate"));
-    chkShowDate->setAccessibleName(tr("Has a date"));
+    chkShowDate->setCaption(tr("Has a date"));
     chkShowDate->setChecked(true);
     chkShowDate->setVisible(false);
     static_cast<QBoxLayout *>(layout())->insertWidget(0, chkShowDate);
     setTabOrder(chkShowDate, txtText);
-    connect(chkShowDate, &QCheckBox::toggled, this, &oDateBox::ticked);
+    connect(chkShowDate, &oCheckBox::Click, this, &oDateBox::ticked);
 }
 
 QString oDateBox::Text() const

@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-class QCheckBox;
+class oCheckBox;
 class oTypedText;
 
 /// A box for a date, with or without a tick in front of it. Leaving it, and a value that the program writes, give
@@ -28,6 +28,6 @@ private:
     void ticked(bool hasDate);
 
     oTypedText *txtText;
-    QCheckBox *chkShowDate;
+    oCheckBox *chkShowDate;
     bool m_showTickBox = false;
 };

@@ -229,7 +229,8 @@ TEST_F(TabBar, ScrollsWhereItIsTooNarrowAndNeverShrinksItsTexts)
     EXPECT_GT(view->horizontalScrollBar()->value(), 0);
     const QRect seen(tab(4)->mapTo(view->viewport(), QPoint()), tab(4)->size());
     EXPECT_TRUE(view->viewport()->rect().contains(seen)) << "the focus comes into view";
-    const auto right = bar.findChildren<QToolButton *>().at(1);
+    auto *right = bar.findChildren<QToolButton *>().at(1);
+    ASSERT_TRUE(QTest::qWaitFor([right] { return right->width() > 0; }, 1000)) << "a second pass of the layout";
     tab(1)->setFocus();
     const int left = view->horizontalScrollBar()->value();
     QTest::mouseClick(right, Qt::LeftButton);

@@ -1,5 +1,6 @@
 #include "controls/oDateBox.h"
 
+#include "controls/mdTheme.h"
 #include "controls/oCheckBox.h"
 #include "controls/oTypedText.h"
 #include "costing/mdDateText.h"
@@ -30,7 +31,7 @@ const clsTypedKind Kind {
 } // namespace
 
 oDateBox::oDateBox(QWidget *parent)
-    : QWidget(parent)
+    : QFrame(parent)
     , txtText(oTypedText::inside(*this, Kind))
     , chkShowDate(new oCheckBox(this))
 {
@@ -62,6 +63,12 @@ void oDateBox::setShowTickBox(bool show)
 {
     m_showTickBox = show;
     chkShowDate->setVisible(show);
+    // The square of the focused tick stands out by this much: room that layouts take for the outside of the box, so
+    // that its visible edges line up with its neighbours'. The frame style makes it known.
+    const int room = show ? Theme::RingRoom : 0;
+    layout()->setContentsMargins(room, room, room, room);
+    setProperty("ringRoom", show);
+    setFrameStyle(QFrame::NoFrame);
 }
 
 void oDateBox::ticked(bool hasDate)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include <QFrame>
 
 class oCheckBox;
 class oTypedText;
@@ -9,7 +9,7 @@ class oTypedText;
 /// "dd/mm/yy"; what is no date is held. A date typed without its year falls into the year that was last used in any
 /// date box of the program. With the tick, no date is the text "31/12/29" outside and an empty box inside. See
 /// oTypedText.
-class oDateBox : public QWidget {
+class oDateBox : public QFrame {
     Q_OBJECT
     Q_PROPERTY(QString Text READ Text WRITE setText)
 

@@ -18,6 +18,15 @@ namespace {
 
 constexpr int ScrollStep = 80;
 
+/// A view as high as the row that it scrolls sideways.
+class clsRowView final : public QScrollArea {
+public:
+    using QScrollArea::QScrollArea;
+
+    QSize sizeHint() const override { return widget()->sizeHint(); }
+    QSize minimumSizeHint() const override { return {Theme::Space32, widget()->sizeHint().height()}; }
+};
+
 QAccessibleInterface *accessibleRow(const QString &, QObject *object)
 {
     auto *row = qobject_cast<oTabBar *>(object);
@@ -29,7 +38,7 @@ QAccessibleInterface *accessibleRow(const QString &, QObject *object)
 oTabBar::oTabBar(QWidget *parent)
     : QWidget(parent)
     , m_tabOrder(new QWidget(this))
-    , m_view(new QScrollArea(this))
+    , m_view(new clsRowView(this))
 {
     [[maybe_unused]] static const bool installed = (QAccessible::installFactory(accessibleRow), true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -59,7 +68,10 @@ oTabBar::oTabBar(QWidget *parent)
     row->addWidget(m_scrollLeft);
     row->addWidget(m_view, 1);
     row->addWidget(m_scrollRight);
-    connect(m_view->horizontalScrollBar(), &QScrollBar::rangeChanged, this, &oTabBar::showScrollers);
+    // Later, here and on a change of size, since both come in the middle of a pass of the layout, which would place
+    // what is shown or hidden meanwhile as it was before.
+    connect(
+        m_view->horizontalScrollBar(), &QScrollBar::rangeChanged, this, &oTabBar::showScrollers, Qt::QueuedConnection);
     connect(m_view->horizontalScrollBar(), &QScrollBar::valueChanged, this, &oTabBar::showScrollers);
     setRow(Row::Tabs);
 }
@@ -184,7 +196,7 @@ void oTabBar::setTabStop(const oTabBarButton *stop)
 void oTabBar::showScrollers()
 {
     const QScrollBar *bar = m_view->horizontalScrollBar();
-    const bool tooWide = bar->maximum() > 0;
+    const bool tooWide = m_view->widget()->sizeHint().width() > width();
     for (QToolButton *scroller : {m_scrollLeft, m_scrollRight})
         scroller->setVisible(tooWide);
     m_scrollLeft->setEnabled(bar->value() > 0);
@@ -210,7 +222,7 @@ bool oTabBar::eventFilter(QObject *watched, QEvent *event)
 void oTabBar::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    showScrollers();
+    QMetaObject::invokeMethod(this, &oTabBar::showScrollers, Qt::QueuedConnection);
 }
 
 void oTabBar::paintEvent(QPaintEvent *)

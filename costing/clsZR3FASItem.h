@@ -8,6 +8,7 @@ class clsZR3Form;
 /// A hearing under the Family Advocacy Scheme, paid by units and fixed payments rather than by time.
 class clsZR3FASItem : public clsZR3Item {
 public:
+    /// What is read by name beside the fields: one row for each derived member that a list shows.
     static std::span<const clsXMLDerivedProperty> DerivedProperties();
 
     explicit clsZR3FASItem(clsZR3Form &, pugi::xml_node node = {})

@@ -10,6 +10,7 @@ class clsZR3Form;
 /// A person who did work on the case: a short code, a group that sets the rates, and the counts of letters and calls.
 class clsZR3FeeEarner : public clsZR3Item {
 public:
+    /// What is read by name beside the fields: one row for each derived member that a list shows.
     static std::span<const clsXMLDerivedProperty> DerivedProperties();
 
     explicit clsZR3FeeEarner(clsZR3Form &form, pugi::xml_node node = {})

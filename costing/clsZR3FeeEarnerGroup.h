@@ -12,6 +12,7 @@ class clsZR3Form;
 /// its own.
 class clsZR3FeeEarnerGroup : public clsZR3Item {
 public:
+    /// What is read by name beside the fields: one row for each derived member that a list shows.
     static std::span<const clsXMLDerivedProperty> DerivedProperties();
 
     explicit clsZR3FeeEarnerGroup(clsZR3Form &form, pugi::xml_node node = {})

@@ -18,6 +18,7 @@ public:
     enum Column { AttendanceAndConferences = 0, Documents = 1, Hearings = 2, TravelTime = 3, WaitingTime = 4 };
     static constexpr int Columns = 5;
 
+    /// What is read by name beside the fields: one row for each derived member that a list shows.
     static std::span<const clsXMLDerivedProperty> DerivedProperties();
 
     explicit clsZR3ScheduleOfTimeItem(clsZR3Form &form, pugi::xml_node node = {})

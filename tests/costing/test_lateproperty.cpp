@@ -91,8 +91,8 @@ TEST(LateProperty, AnUnknownNameIsItsOwnError)
     clsTestClaim claim;
     const auto group = claim.addGroup();
     for (const QString &name : {"Surname"_q, ""_q, "Reference "_q, "GroupReference"_q, "TimeColumn"_q}) {
-        EXPECT_EQ(438, errorOf([&] { ReadProperty(*group, name); })) << name;
-        EXPECT_EQ(438, errorOf([&] { WriteProperty(*group, name, "1"_q); })) << name;
+        EXPECT_EQ(438, errorOf([&] { ReadProperty(*group, name); })) << name.toStdString();
+        EXPECT_EQ(438, errorOf([&] { WriteProperty(*group, name, "1"_q); })) << name.toStdString();
     }
     EXPECT_EQ("Object doesn't support this property or method"_q, clsRunTimeError(438).description());
 }

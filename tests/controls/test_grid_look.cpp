@@ -1,0 +1,108 @@
+// Widths, heights, places and the frame of an `oSGrid`.
+
+#include "tests/controls/clsGridTest.h"
+
+#include <QScrollBar>
+
+using clsGridLook = clsGridTest;
+
+TEST_F(clsGridLook, ColumnsTakeTheirShareOfTheWidthAndTheLastOneTheRest)
+{
+    addGroups(1);
+    grid.AddColumn({.caption = "Ref", .width = 20, .property = "Reference"});
+    grid.AddColumn({.caption = "Serial", .width = 0, .property = "Name"});
+    grid.AddColumn({.caption = "Hidden", .width = 50, .property = "Name", .visible = false});
+    grid.AddColumn({.caption = "Name", .width = 40, .property = "Name"});
+    draw();
+    for (const int width : {620, 1020}) {
+        grid.resize(width, 300);
+        EXPECT_EQ((view()->width() - 20) / 5, view()->columnWidth(0)) << width;
+        EXPECT_EQ(view()->viewport()->width() - view()->columnWidth(0), view()->columnWidth(3)) << width;
+    }
+    EXPECT_TRUE(view()->isColumnHidden(1));
+    EXPECT_TRUE(view()->isColumnHidden(2));
+    EXPECT_FALSE(view()->horizontalScrollBar()->isVisible());
+}
+
+TEST_F(clsGridLook, KeepInViewPutsTheSelectionAsFarDownAsItGoes)
+{
+    addGroups(100);
+    addReferenceColumn();
+    draw();
+    const auto lastRowInView = [&] { return view()->rowAt(view()->viewport()->height() - view()->rowHeight(0) / 2); };
+    grid.SelectRow(50);
+    grid.Redraw(true);
+    EXPECT_NEAR(49, lastRowInView(), 1);
+    EXPECT_LE(view()->visualRect(model()->index(49, 0)).bottom(), view()->viewport()->height());
+    grid.SelectRow(2);
+    grid.Redraw(true);
+    EXPECT_EQ(0, view()->rowAt(0));
+    grid.SelectRow(0);
+    grid.Redraw(true);
+    EXPECT_TRUE(view()->viewport()->rect().contains(view()->visualRect(model()->index(99, 0))));
+}
+
+TEST_F(clsGridLook, WithoutKeepInViewTheListStandsStill)
+{
+    addGroups(100);
+    addReferenceColumn();
+    draw();
+    grid.SelectRow(60);
+    view()->verticalScrollBar()->setValue(7);
+    grid.Redraw(false);
+    EXPECT_EQ(7, view()->verticalScrollBar()->value());
+    EXPECT_EQ(60, grid.SelectedRow());
+}
+
+TEST_F(clsGridLook, AWrappedTextMakesItsRowHigher)
+{
+    addGroup("short", "short");
+    addGroup(
+        "long", "a long name that goes on and on and on until it needs more lines than one to stand in its column");
+    grid.AddColumn({.caption = "Name", .width = 30, .property = "Name", .bold = true});
+    draw();
+    EXPECT_EQ(view()->rowHeight(0), view()->rowHeight(1));
+    grid.ClearAll();
+    grid.AddColumn({.caption = "Name", .alignment = clsGridAlignment::LeftWrapped, .width = 30, .property = "Name"});
+    grid.AddColumn({.caption = "Ref", .width = 70, .property = "Reference"});
+    grid.Draw();
+    EXPECT_GT(view()->rowHeight(1), view()->rowHeight(0));
+    const int narrow = view()->rowHeight(1);
+    grid.resize(2000, 300);
+    EXPECT_LT(view()->rowHeight(1), narrow);
+}
+
+TEST_F(clsGridLook, AnEmptyGridSaysWhatToDo)
+{
+    addReferenceColumn();
+    grid.setEmptyText("No groups yet. Add one to begin.");
+    draw();
+    EXPECT_EQ("No groups yet. Add one to begin.", view()->accessibleDescription());
+    const QImage empty = view()->grab().toImage();
+    grid.setEmptyText("");
+    EXPECT_NE(empty, view()->grab().toImage());
+    grid.setEmptyText("No groups yet. Add one to begin.");
+    addGroup("A");
+    grid.Redraw(true);
+    EXPECT_EQ("", view()->accessibleDescription());
+}
+
+TEST_F(clsGridLook, TheFrameShowsTheFocusWithoutAShift)
+{
+    addGroups(2);
+    addReferenceColumn();
+    draw();
+    QWidget other(&window);
+    other.setFocusPolicy(Qt::StrongFocus);
+    other.show();
+    other.setFocus();
+    const QRect viewport = view()->viewport()->geometry();
+    QImage image = view()->grab().toImage();
+    EXPECT_EQ(QColor(204, 204, 204), image.pixelColor(0, 60));
+    EXPECT_NE(QColor(204, 204, 204), image.pixelColor(1, 60));
+    grid.setFocus();
+    image = view()->grab().toImage();
+    EXPECT_EQ(QColor(110, 15, 108), image.pixelColor(0, 60));
+    EXPECT_EQ(QColor(110, 15, 108), image.pixelColor(1, 60));
+    EXPECT_EQ(viewport, view()->viewport()->geometry());
+}

@@ -5,11 +5,12 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <QScreen>
 
 namespace {
 
-/// A window lower than this has no room for a second line.
-constexpr int LowWindow = 620;
+/// On a screen lower than this there is no room for a second line.
+constexpr int LowScreen = 620;
 
 constexpr int Line = Qt::TextSingleLine | Qt::AlignVCenter | Qt::AlignLeft;
 
@@ -100,21 +101,13 @@ QSize oHeaderBar::minimumSizeHint() const
 void oHeaderBar::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
-    window()->installEventFilter(this);
-    followWindow();
+    followScreen();
 }
 
-bool oHeaderBar::eventFilter(QObject *watched, QEvent *event)
+void oHeaderBar::followScreen()
 {
-    if (event->type() == QEvent::Resize && watched == window())
-        followWindow();
-    return QWidget::eventFilter(watched, event);
-}
-
-void oHeaderBar::followWindow()
-{
-    // A box of one message is low by nature and keeps its lines: it has no second one.
-    const bool low = !m_subCaption.isEmpty() && window()->height() < Theme::scaled(LowWindow);
+    // The screen's height counts and not the window's: many windows are low because they hold little.
+    const bool low = screen()->availableGeometry().height() < Theme::scaled(LowScreen);
     if (low == m_low)
         return;
     m_low = low;

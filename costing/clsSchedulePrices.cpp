@@ -1,5 +1,6 @@
 #include "costing/clsSchedulePrices.h"
 
+#include "costing/mdTimeToMoney.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/mdExisting.h"
 
@@ -83,8 +84,8 @@ void clsSchedulePrices::price(const clsZR3ScheduleOfTimeItem &item, clsScheduleP
     result.FeeEarnerInitials = earner.initials;
     result.TTime = item.TTime();
     result.TimeColumn = item.TimeColumn();
-    result.Rate = item.RateBy(*earner.rates);
-    result.BasicClaim = item.BasicClaimBy(result.Rate);
+    result.Rate = item.RateBy(*earner.rates, result.TimeColumn);
+    result.BasicClaim = TimeToMoney(result.TTime, result.Rate);
     result.TotalEnhancementPercentage = item.TotalEnhancementPercentageBy(*earner.rates);
     result.Claim = item.ClaimBy(result.BasicClaim, result.TotalEnhancementPercentage);
 }

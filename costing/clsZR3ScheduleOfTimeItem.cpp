@@ -50,17 +50,17 @@ Money clsZR3ScheduleOfTimeItem::Rate() const
 {
     const auto group = FeeEarnerGroup();
     clsGroupRates rates(mdExisting(group));
-    return RateBy(rates);
+    return RateBy(rates, TimeColumn());
 }
 
-Money clsZR3ScheduleOfTimeItem::RateBy(clsGroupRates &rates) const
+Money clsZR3ScheduleOfTimeItem::RateBy(clsGroupRates &rates, int timeColumn) const
 {
     Money rate = rates.HourlyRate();
     if (Advocacy())
         rate = rates.AdvocacyRate();
     if (Counsel())
         rate = rates.CounselRate();
-    if (Travel() || Waiting())
+    if (timeColumn == TravelTime || timeColumn == WaitingTime)
         rate = rates.TravelAndWaitingRate();
     if (UseHourlyRate())
         rate = rates.HourlyRate();
@@ -69,12 +69,7 @@ Money clsZR3ScheduleOfTimeItem::RateBy(clsGroupRates &rates) const
 
 Money clsZR3ScheduleOfTimeItem::BasicClaim() const
 {
-    return BasicClaimBy(Rate());
-}
-
-Money clsZR3ScheduleOfTimeItem::BasicClaimBy(Money rate) const
-{
-    return TimeToMoney(TTime(), rate);
+    return TimeToMoney(TTime(), Rate());
 }
 
 Money clsZR3ScheduleOfTimeItem::TotalEnhancementPercentage() const

@@ -62,8 +62,7 @@ public:
     Money Claim() const;
 
     // The rules of the four figures, for whoever has the figures before them at hand already.
-    Money RateBy(clsGroupRates &rates) const;
-    Money BasicClaimBy(Money rate) const;
+    Money RateBy(clsGroupRates &rates, int timeColumn) const;
     Money TotalEnhancementPercentageBy(clsGroupRates &rates) const;
     static Money ClaimBy(Money basicClaim, Money percentage);
 

@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QScopeGuard>
 #include <QScrollBar>
 #include <QToolTip>
 
@@ -70,9 +71,11 @@ template <class Change> void oPreviewGrid::change(Change what)
     const bool own = m_redraw;
     if (own)
         setRedraw(false);
+    const auto on = qScopeGuard([&] {
+        if (own)
+            setRedraw(true);
+    });
     what();
-    if (own)
-        setRedraw(true);
 }
 
 void oPreviewGrid::setRedraw(bool redraw)
@@ -340,18 +343,16 @@ bool oPreviewGrid::viewportEvent(QEvent *event)
     if (event->type() != QEvent::ToolTip)
         return QTableView::viewportEvent(event);
     const auto *help = static_cast<QHelpEvent *>(event);
-    if (!showToolTip(help->pos(), help->globalPos()))
-        QToolTip::hideText();
+    QToolTip::showText(help->globalPos(), ToolTipAt(help->pos()), viewport());
     return true;
 }
 
-bool oPreviewGrid::showToolTip(const QPoint &place, const QPoint &onScreen)
+QString oPreviewGrid::ToolTipAt(const QPoint &place) const
 {
     const int row = rowAt(place.y()) + 1;
     const int column = columnAt(place.x()) + 1;
     if (row < 1 || column < 1 || m_captions->geometry().contains(viewport()->mapTo(this, place))
         || !m_painter.isElided(row, column))
-        return false;
-    QToolTip::showText(onScreen, Text(row, column).toHtmlEscaped(), viewport());
-    return true;
+        return {};
+    return Text(row, column).toHtmlEscaped();
 }

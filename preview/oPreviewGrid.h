@@ -50,6 +50,8 @@ public:
     /// How many pixels of a row are hidden above the top; negative for one that begins below it.
     int HiddenAbove(int row) const;
     void SetHiddenAbove(int row, int pixels);
+    /// The whole text of a cell that is cut short there; empty elsewhere.
+    QString ToolTipAt(const QPoint &place) const;
 
 signals:
     /// The right mouse button was released, or the menu key pressed, at this place of the screen.
@@ -78,7 +80,6 @@ private:
     int captionsHeight() const;
     int coveredHeight() const;
     void placeCaptions();
-    bool showToolTip(const QPoint &place, const QPoint &onScreen);
 
     clsPreviewModel *m_model;
     clsPreviewPainter m_painter;

@@ -38,6 +38,8 @@ protected:
         const auto feeEarner = Form->AddFeeEarner();
         feeEarner->Reference = QStringLiteral("AB");
         feeEarner->GroupUniqueID = group->UniqueID();
+        user.progress.clear();
+        user.progressCleared = 0;
     }
     void TearDown() override
     {

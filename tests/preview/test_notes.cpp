@@ -5,7 +5,6 @@
 
 #include <QFile>
 #include <QFontMetrics>
-#include <QUrl>
 #include <QXmlStreamReader>
 
 #include <map>
@@ -24,6 +23,13 @@ protected:
         return item;
     }
 };
+
+/// The text that an element stands for: bytes of the code page, of which the samples use two signs beyond Latin 1.
+QString decoded(QString encoded)
+{
+    const QByteArray bytes = QByteArray::fromPercentEncoding(encoded.replace(u'+', u' ').toLatin1());
+    return QString::fromLatin1(bytes).replace(QChar(0x92), QChar(0x2019)).replace(QChar(0x96), QChar(0x2013));
+}
 
 /// The notes of a claim by their order, read from its file without the program.
 std::map<int, QString> notesOf(const QString &path)
@@ -46,7 +52,7 @@ std::map<int, QString> notesOf(const QString &path)
         if (token == QXmlStreamReader::StartElement && name == QLatin1String("orderid"))
             order = reader.readElementText().toInt();
         else if (token == QXmlStreamReader::StartElement && name == QLatin1String("description"))
-            text = QUrl::fromPercentEncoding(reader.readElementText().replace(u'+', u' ').toUtf8());
+            text = decoded(reader.readElementText());
         else if (token == QXmlStreamReader::EndElement && !text.isEmpty() && order > 0) {
             if (name == QLatin1String("scheduleoftimeitem")) {
                 notes[order] = text;
@@ -96,10 +102,6 @@ TEST_F(NotesPreview, ANoteStandsUnderTheNumberOfItsPlaceAndNotOfItsLine)
 
 TEST_F(NotesPreview, ShowsEveryNoteOfASample)
 {
-    struct Sample {
-        const char *name;
-        size_t notes;
-    };
     for (const char *name : {"housing-typical", "many-sheets", "odd-characters"}) {
         const QString path = mdSamplePath(QString::fromLatin1(name) + QStringLiteral(".zr3"));
         const auto expected = notesOf(path);

@@ -27,6 +27,7 @@ protected:
             GetResourceData(QStringLiteral("xmlZR3PreferencesDatabase"), QStringLiteral("VELMORZR3XML")).toLatin1());
         file.close();
         SetProgramFolder(folder.path());
+        qputenv("HOME", QFile::encodeName(folder.path())); // the registry of each test is its own
         Preferences = std::make_unique<clsZR3PreferencesDatabase>();
         Preferences->AutoRefreshPreview = true;
     }

@@ -94,7 +94,8 @@ void mdPaintTick(QPainter &painter, const QStyleOption &option)
     const bool enabled = option.state & QStyle::State_Enabled;
     const bool focused = enabled && (option.state & QStyle::State_HasFocus);
     const QRectF square = option.rect;
-    const double inset = square.width() / 6;
+    // In a menu there is no room around it.
+    const double inset = square.width() < Theme::scaled(20) ? 0 : square.width() / 6;
     const QRectF box = square.adjusted(inset, inset, -inset, -inset);
     if (focused)
         mdPaintBox(painter, square, Theme::Blue, Theme::Blue);

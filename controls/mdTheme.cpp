@@ -51,12 +51,18 @@ QPalette palette()
     return result;
 }
 
+double pointSize(const QFont &font)
+{
+    // A font that is told in pixels has no points of its own.
+    return font.pointSizeF() > 0 ? font.pointSizeF() : QFontInfo(font).pointSizeF();
+}
+
 } // namespace
 
 QFont Theme::font(double morePoints, bool semibold)
 {
     QFont result = QApplication::font();
-    result.setPointSizeF(result.pointSizeF() + morePoints);
+    result.setPointSizeF(pointSize(result) + morePoints);
     if (semibold)
         result.setWeight(QFont::DemiBold);
     return result;
@@ -64,7 +70,7 @@ QFont Theme::font(double morePoints, bool semibold)
 
 int Theme::scaled(double pixels)
 {
-    return qRound(pixels * QFontInfo(QApplication::font()).pointSizeF() / 10);
+    return qRound(pixels * pointSize(QApplication::font()) / 10);
 }
 
 int Theme::boxHeight(const QFontMetrics &metrics)

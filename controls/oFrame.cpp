@@ -82,8 +82,9 @@ void oFrame::setCount(int count)
 
 void oFrame::measure()
 {
-    const int side = m_showExpandCollapseIcon ? Theme::Space12 : Theme::Space16;
-    const bool titled = m_showExpandCollapseIcon || !m_caption.isEmpty();
+    // The margins of a page are the switcher's, which puts them away together with the contents of a closed one.
+    const int side = m_showExpandCollapseIcon ? 0 : Theme::Space16;
+    const bool titled = !m_showExpandCollapseIcon && !m_caption.isEmpty();
     m_body->setContentsMargins(side, titled ? Theme::Space12 : 0, side, side);
     m_bar->setAccessibleName(mdSpokenCaption(m_caption));
     m_bar->updateGeometry();

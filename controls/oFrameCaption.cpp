@@ -68,6 +68,7 @@ oFrameCaption::oFrameCaption(oFrame &frame)
     }();
     Q_UNUSED(installed)
     setAttribute(Qt::WA_Hover);
+    setFocusPolicy(Qt::NoFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 

@@ -77,6 +77,11 @@ int oHeaderBar::tileSide() const
     return Theme::scaled(m_document || m_low ? 30 : 36);
 }
 
+int oHeaderBar::captionWidth() const
+{
+    return QFontMetrics(captionFont()).horizontalAdvance(m_caption) + tileSide() + Theme::Space12 + 2 * Theme::Space24;
+}
+
 QSize oHeaderBar::sizeHint() const
 {
     const QFontMetrics metrics(captionFont());

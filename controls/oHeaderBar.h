@@ -25,6 +25,9 @@ public:
     void setChip(const QString &text);
     QString Chip() const { return m_chip; }
 
+    /// The width at which nothing of the caption is cut.
+    int captionWidth() const;
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

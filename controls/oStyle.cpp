@@ -30,6 +30,12 @@ int tickRoom()
     return (Theme::scaled(24) - Theme::scaled(16)) / 2;
 }
 
+/// Width of the part of a list in which its chevron stands.
+int listArrow()
+{
+    return Theme::scaled(14) + Theme::Space16;
+}
+
 } // namespace
 
 oStyle::oStyle()
@@ -107,26 +113,29 @@ int oStyle::styleHint(
 QSize oStyle::sizeFromContents(
     ContentsType type, const QStyleOption *option, const QSize &size, const QWidget *widget) const
 {
+    const auto atLeast = [&](int height) {
+        const QSize whole = QProxyStyle::sizeFromContents(type, option, size, widget);
+        return QSize(whole.width(), qMax(whole.height(), height));
+    };
     switch (type) {
     case CT_PushButton:
         if (const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option))
             return mdButtonSize(*button, size, widget);
         break;
-    case CT_LineEdit: {
-        const QSize whole = QProxyStyle::sizeFromContents(type, option, size, widget);
-        return {whole.width(), Theme::boxHeight(option->fontMetrics)};
-    }
-    case CT_ComboBox:
+    case CT_LineEdit:
         return {
-            size.width() + Theme::Space8 + Theme::scaled(14) + Theme::Space16, Theme::boxHeight(option->fontMetrics)};
+            QProxyStyle::sizeFromContents(type, option, size, widget).width(), Theme::boxHeight(option->fontMetrics)};
+    case CT_ComboBox: return {size.width() + Theme::Space12 + listArrow(), Theme::boxHeight(option->fontMetrics)};
     case CT_CheckBox:
         if (const auto *box = qstyleoption_cast<const QStyleOptionButton *>(option); box && box->text.isEmpty())
             return {Theme::scaled(24), Theme::scaled(24)};
         break;
-    case CT_HeaderSection: {
-        const QSize whole = QProxyStyle::sizeFromContents(type, option, size, widget);
-        return {whole.width(), qMax(whole.height(), Theme::scaled(28))};
-    }
+    case CT_HeaderSection: return atLeast(Theme::scaled(28));
+    case CT_ItemViewItem: return atLeast(Theme::scaled(26));
+    case CT_MenuItem:
+        if (const auto *item = qstyleoption_cast<const QStyleOptionMenuItem *>(option))
+            return atLeast(item->menuItemType == QStyleOptionMenuItem::Separator ? 0 : Theme::scaled(28));
+        break;
     case CT_MenuBarItem: return size + QSize(2 * 10, 2 * 6);
     case CT_TabBarTab:
         if (const auto *tab = qstyleoption_cast<const QStyleOptionTab *>(option))
@@ -201,12 +210,11 @@ QRect oStyle::scrollBarRect(const QStyleOptionSlider &option, SubControl part, c
 
 QRect oStyle::listRect(const QStyleOptionComboBox &option, SubControl part, const QWidget *widget) const
 {
-    const int arrow = Theme::scaled(14) + Theme::Space16;
     QRect result = option.rect;
     switch (part) {
     // A line edit inside has a small margin of its own.
-    case SC_ComboBoxEditField: result.adjust(option.editable ? 4 : 8, 2, -arrow, -2); break;
-    case SC_ComboBoxArrow: result.setLeft(result.right() + 1 - arrow); break;
+    case SC_ComboBoxEditField: result.adjust(option.editable ? 4 : 8, 2, -listArrow(), -2); break;
+    case SC_ComboBoxArrow: result.setLeft(result.right() + 1 - listArrow()); break;
     case SC_ComboBoxListBoxPopup:
     case SC_ComboBoxFrame: return result;
     default: return QProxyStyle::subControlRect(CC_ComboBox, &option, part, widget);

@@ -6,6 +6,7 @@
 
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QListView>
 #include <QMenu>
@@ -85,8 +86,8 @@ bool oStyle::drawOurPrimitive(
         }
         return false;
     case PE_FrameFocusRect:
-        // Rows show the focus by their tint and the frame of their grid.
-        if (!qobject_cast<const QAbstractItemView *>(widget))
+        // Rows show the focus by their tint and the frame of their grid, ticks by their blue square.
+        if (!qobject_cast<const QAbstractItemView *>(widget) && !qobject_cast<const QCheckBox *>(widget))
             mdPaintRing(painter, option.rect, Theme::Purple);
         return true;
     default: return false;

@@ -1,0 +1,217 @@
+#include "controls/frmMessageBox.h"
+
+#include "controls/mdTheme.h"
+#include "controls/oCustomButton.h"
+#include "controls/oHeaderBar.h"
+#include "shell/mdPlayWav.h"
+#include "shell/mdProgramFolder.h"
+
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QScreen>
+#include <QScrollArea>
+#include <QStringList>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <vector>
+
+namespace {
+
+using UI = clsUserInterface;
+
+constexpr int NarrowestBox = 440;
+constexpr int WidestBox = 560;
+
+/// The part of the screen's height that a box may take; a longer message scrolls.
+constexpr double LargestShare = 0.94;
+
+struct clsButtonSet {
+    std::vector<UI::Answer> shown;
+    UI::Answer preset;
+};
+
+/// By the number of the set.
+const clsButtonSet &buttonSet(UI::Buttons buttons)
+{
+    // clang-format off
+    static const clsButtonSet sets[] = {
+        {{UI::OK},                      UI::OK},
+        {{UI::OK, UI::Cancel},          UI::OK},
+        {{UI::Yes, UI::No},             UI::Yes},
+        {{UI::Yes, UI::No, UI::Cancel}, UI::Yes},
+    };
+    // clang-format on
+    return sets[size_t(buttons)];
+}
+
+/// Icons 0, 1 and 2 are these groups of the header's icons.
+int iconGroup(int icon)
+{
+    static constexpr int groups[] = {2, 4, 3};
+    return groups[qBound(0, icon, 2)];
+}
+
+/// Questions whose Yes loses something.
+bool losesSomething(const QString &title)
+{
+    return title == u"Delete?" || title == u"Overwrite?";
+}
+
+QString countdownCaption(int seconds)
+{
+    return QStringLiteral("OK (%1)").arg(seconds);
+}
+
+} // namespace
+
+frmMessageBox::frmMessageBox(QWidget *parent)
+    : QDialog(parent)
+    , m_header(new oHeaderBar(this))
+    , m_paper(new QScrollArea(this))
+    , m_message(new QLabel)
+    , m_timer(new QTimer(this))
+{
+    setObjectName(QStringLiteral("frmMessageBox"));
+    m_header->setObjectName(QStringLiteral("oHeader"));
+    buildMessage();
+
+    auto *line = new QWidget(this);
+    QPalette ruled;
+    ruled.setColor(QPalette::Window, Theme::Line);
+    line->setPalette(ruled);
+    line->setAutoFillBackground(true);
+    line->setFixedHeight(1);
+
+    auto *bar = new QHBoxLayout;
+    bar->setContentsMargins(Theme::Space24, Theme::Space12, Theme::Space24, Theme::Space12);
+    bar->setSpacing(Theme::Space8);
+    bar->addStretch();
+    addButton(*bar, "cmdOK", QStringLiteral("&OK"), UI::OK);
+    addButton(*bar, "cmdYes", QStringLiteral("&Yes"), UI::Yes);
+    addButton(*bar, "cmdNo", QStringLiteral("N&o"), UI::No);
+    addButton(*bar, "cmdCancel", QStringLiteral("Ca&ncel"), UI::Cancel);
+
+    auto *all = new QVBoxLayout(this);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->setSpacing(0);
+    all->addWidget(m_header);
+    all->addWidget(m_paper, 1);
+    all->addWidget(line);
+    all->addLayout(bar);
+
+    m_timer->setObjectName(QStringLiteral("tmrAutoOK"));
+    m_timer->setInterval(1000);
+    connect(m_timer, &QTimer::timeout, this, &frmMessageBox::countDown);
+}
+
+void frmMessageBox::buildMessage()
+{
+    m_message->setObjectName(QStringLiteral("lblMessage"));
+    m_message->setTextFormat(Qt::PlainText);
+    m_message->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    // A click brings the focus for copying; the first focus is a button's.
+    m_message->setFocusPolicy(Qt::ClickFocus);
+    m_message->setWordWrap(true);
+    m_message->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    m_message->setContentsMargins(Theme::Space24, Theme::Space24, Theme::Space24, Theme::Space24);
+    QPalette paper;
+    paper.setColor(QPalette::Window, Theme::Paper);
+    m_paper->setPalette(paper);
+    m_paper->setFrameShape(QFrame::NoFrame);
+    m_paper->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_paper->setFocusPolicy(Qt::NoFocus);
+    m_paper->setWidgetResizable(true);
+    m_paper->setWidget(m_message);
+}
+
+void frmMessageBox::addButton(QHBoxLayout &bar, const char *name, const QString &caption, UI::Answer given)
+{
+    auto *button = new oCustomButton(this);
+    button->setObjectName(QLatin1String(name));
+    button->setCaption(caption);
+    connect(button, &oCustomButton::Click, this, [this, given] { answer(given); });
+    bar.addWidget(button);
+    m_buttons[given] = button;
+}
+
+void frmMessageBox::Initialise(const QString &message, const QString &title, UI::Buttons buttons, int icon, int timeout)
+{
+    QString lines = message;
+    m_message->setText(lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    setAccessibleDescription(m_message->text());
+    m_header->setCaption(title);
+    setWindowTitle(title);
+    chooseButtons(buttons, losesSomething(title));
+    m_header->setIconGroup(iconGroup(icon));
+    m_remaining = timeout;
+    if (timeout >= 1) {
+        reserveCountdown();
+        m_timer->start();
+    }
+    fit();
+    PlayWav(ProgramPath(QStringLiteral("Sounds/Alert.wav")));
+}
+
+void frmMessageBox::chooseButtons(UI::Buttons buttons, bool danger)
+{
+    const clsButtonSet &set = buttonSet(buttons);
+    for (const auto &[which, button] : m_buttons)
+        button->setVisible(false);
+    for (const UI::Answer which : set.shown)
+        m_buttons[which]->setVisible(true);
+    oCustomButton *preset = m_buttons[set.preset];
+    preset->setLook(danger ? oCustomButton::Look::Danger : oCustomButton::Look::Default);
+    preset->setFocus();
+}
+
+void frmMessageBox::reserveCountdown()
+{
+    // As wide as its longest caption from the start, so that nothing moves while it counts.
+    oCustomButton *ok = m_buttons[UI::OK];
+    ok->setCaption(countdownCaption(m_remaining));
+    ok->setMinimumWidth(ok->sizeHint().width());
+    ok->setCaption(QStringLiteral("OK"));
+}
+
+void frmMessageBox::countDown()
+{
+    oCustomButton *ok = m_buttons[UI::OK];
+    const int before = m_remaining;
+    m_remaining = before - 1;
+    ok->setCaption(countdownCaption(m_remaining));
+    // Also where OK is not of the set: the box must not stay open for ever.
+    if (before == 1)
+        ok->click();
+}
+
+void frmMessageBox::answer(UI::Answer given)
+{
+    m_timer->stop();
+    m_result = given;
+    QDialog::accept();
+}
+
+void frmMessageBox::reject()
+{
+    for (const UI::Answer which : {UI::Cancel, UI::No, UI::OK})
+        if (!m_buttons[which]->isHidden())
+            return answer(which);
+}
+
+void frmMessageBox::fit()
+{
+    // No wider than its longest line needs, so that a short question stays a small box.
+    int widest = 0;
+    for (const QString &line : m_message->text().split(u'\n'))
+        widest = qMax(widest, fontMetrics().horizontalAdvance(line));
+    const QScreen *on = screen() ? screen() : QGuiApplication::primaryScreen();
+    const QSize room = on->availableGeometry().size() * LargestShare;
+    const int wanted = qMax(widest + 2 * Theme::Space24 + 2, m_header->captionWidth());
+    int width = qBound(Theme::scaled(NarrowestBox), wanted, Theme::scaled(WidestBox));
+    width = qMin(qMax(width, layout()->minimumSize().width()), room.width());
+    const int least = Theme::scaled(72);
+    const int rest = layout()->totalSizeHint().height() - m_paper->sizeHint().height();
+    resize(width, qMin(rest + qMax(m_message->heightForWidth(width), least), room.height()));
+}

@@ -1,0 +1,240 @@
+#include "controls/mdTheme.h"
+#include "controls/oInputFilter.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyle>
+#include <QStyleOptionSlider>
+#include <QTableWidget>
+#include <QHeaderView>
+#include <QTest>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// Two boxes in a shown window, the second with the focus.
+template <typename Widget> struct Window : QWidget {
+    Window()
+    {
+        auto *column = new QVBoxLayout(this);
+        column->addWidget(box = new Widget(this));
+        column->addWidget(other = new QLineEdit(this));
+        show();
+        activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(this));
+        other->setFocus();
+    }
+    QColor edge() const { return box->grab().toImage().pixelColor(0, box->height() / 2); }
+    QColor innerEdge() const { return box->grab().toImage().pixelColor(1, box->height() / 2); }
+    QColor back() const { return box->grab().toImage().pixelColor(4, box->height() / 2); }
+    Widget *box;
+    QLineEdit *other;
+};
+
+void turnWheel(QWidget &over, int steps)
+{
+    const QPointF place(5, 5);
+    QWheelEvent event(place, over.mapToGlobal(place), QPoint(), QPoint(0, steps * 120), Qt::NoButton, Qt::NoModifier,
+        Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&over, &event);
+}
+
+} // namespace
+
+template <typename Widget> class TextBoxes : public testing::Test { };
+using BoxKinds = testing::Types<QLineEdit, QPlainTextEdit, QComboBox>;
+TYPED_TEST_SUITE(TextBoxes, BoxKinds);
+
+TYPED_TEST(TextBoxes, HaveAThinEdgeAndAThickPurpleOneWithTheFocus)
+{
+    Window<TypeParam> window;
+    EXPECT_EQ(Theme::Edge, window.edge());
+    EXPECT_EQ(Theme::Paper, window.innerEdge());
+    const QSize before = window.box->size();
+    window.box->setFocus();
+    EXPECT_EQ(Theme::Purple, window.edge());
+    EXPECT_EQ(Theme::Purple, window.innerEdge());
+    EXPECT_EQ(before, window.box->size());
+}
+
+TYPED_TEST(TextBoxes, TurnPurpleUnderThePointer)
+{
+    Window<TypeParam> window;
+    window.box->setAttribute(Qt::WA_UnderMouse);
+    EXPECT_EQ(Theme::Purple, window.edge());
+    EXPECT_EQ(Theme::Paper, window.innerEdge());
+    window.box->setAttribute(Qt::WA_UnderMouse, false);
+}
+
+TYPED_TEST(TextBoxes, ArePaleWhileDisabled)
+{
+    Window<TypeParam> window;
+    window.box->setEnabled(false);
+    EXPECT_EQ(Theme::EdgeOff, window.edge());
+    EXPECT_EQ(Theme::Canvas, window.back());
+}
+
+TYPED_TEST(TextBoxes, ArePinkWithARedEdgeWhileInvalid)
+{
+    Window<TypeParam> window;
+    const QImage valid = window.box->grab().toImage();
+    window.box->setProperty("invalid", true);
+    EXPECT_EQ(Theme::Red, window.edge());
+    EXPECT_EQ(Theme::Red, window.innerEdge());
+    EXPECT_EQ(Theme::Pink, window.back());
+    window.box->setFocus();
+    EXPECT_EQ(Theme::Red, window.edge()) << "the focus does not hide it";
+    window.other->setFocus();
+    window.box->setProperty("invalid", false);
+    EXPECT_EQ(valid, window.box->grab().toImage());
+}
+
+TEST(Style, AnInvalidLineEditBearsASignThatItsTextKeepsClearOf)
+{
+    Window<QLineEdit> window;
+    window.box->setProperty("invalid", true);
+    const QImage picture = window.box->grab().toImage();
+    bool sign = false;
+    for (int x = picture.width() - 24; x < picture.width() - 4; ++x)
+        for (int y = 4; y < picture.height() - 4; ++y)
+            sign = sign || picture.pixelColor(x, y).red() > picture.pixelColor(x, y).green() + 100;
+    EXPECT_TRUE(sign);
+    window.box->setText(QString(200, u'm'));
+    const QImage full = window.box->grab().toImage();
+    for (int y = 4; y < full.height() - 4; ++y)
+        EXPECT_GT(full.pixelColor(full.width() - 4, y).lightness(), 200);
+}
+
+TEST(Style, BoxesOfOneLineAreThirtyHighAtTenPoints)
+{
+    const QLineEdit line;
+    const QComboBox list;
+    EXPECT_EQ(30, line.sizeHint().height());
+    EXPECT_EQ(30, list.sizeHint().height());
+}
+
+TEST(Style, AListIsWideEnoughForItsTextAndChevron)
+{
+    QComboBox list;
+    list.addItem(QStringLiteral("Claim1A Only"));
+    list.resize(list.sizeHint());
+    QStyleOptionComboBox option;
+    option.initFrom(&list);
+    const QRect text = list.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &list);
+    EXPECT_GE(text.width(), list.fontMetrics().horizontalAdvance(QStringLiteral("Claim1A Only")) + 2);
+}
+
+TEST(Style, AWheelOverAListWithoutTheFocusScrollsThePage)
+{
+    QScrollArea page;
+    auto *content = new QWidget;
+    auto *column = new QVBoxLayout(content);
+    auto *list = new QComboBox;
+    list->addItems({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
+    list->setCurrentIndex(1);
+    column->addWidget(list);
+    content->setMinimumHeight(2000);
+    page.setWidget(content);
+    page.resize(300, 200);
+    page.show();
+    page.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&page));
+    page.setFocus();
+    std::fprintf(stderr, "max %d content %d vp %d\n", page.verticalScrollBar()->maximum(), content->height(), page.viewport()->height());
+    turnWheel(*list, -1);
+    EXPECT_EQ(1, list->currentIndex());
+    EXPECT_GT(page.verticalScrollBar()->value(), 0);
+    EXPECT_FALSE(list->hasFocus());
+    const int before = page.verticalScrollBar()->value();
+    list->setFocus();
+    turnWheel(*list, -1);
+    EXPECT_EQ(2, list->currentIndex()) << "with the focus it turns";
+    EXPECT_EQ(before, page.verticalScrollBar()->value());
+}
+
+TEST(Style, MnemonicsAreUnderlinedOnlyWhileAltIsHeld)
+{
+    Window<QLineEdit> window;
+    QLabel label(QStringLiteral("&Surname:"), &window);
+    label.setBuddy(window.box);
+    label.resize(label.sizeHint());
+    label.show();
+    const QImage plain = label.grab().toImage();
+    QTest::keyPress(window.other, Qt::Key_Alt);
+    EXPECT_TRUE(oInputFilter::UnderlineMnemonics());
+    EXPECT_NE(plain, label.grab().toImage());
+    QTest::keyRelease(window.other, Qt::Key_Alt);
+    EXPECT_EQ(plain, label.grab().toImage());
+}
+
+TEST(Style, MnemonicsLoseTheirLineWhenTheProgramLosesTheKeyboard)
+{
+    Window<QLineEdit> window;
+    QTest::keyPress(window.other, Qt::Key_Alt);
+    QEvent gone(QEvent::ApplicationDeactivate);
+    QApplication::sendEvent(qApp, &gone);
+    EXPECT_FALSE(oInputFilter::UnderlineMnemonics());
+    QTest::keyRelease(window.other, Qt::Key_Alt);
+}
+
+TEST(Style, SelectedRowsCarryAPurpleBarAtTheirLeftOnly)
+{
+    QTableWidget table(2, 3);
+    table.setShowGrid(false);
+    table.setSelectionBehavior(QAbstractItemView::SelectRows);
+    table.verticalHeader()->hide();
+    table.selectRow(1);
+    table.resize(400, 200);
+    table.show();
+    const QImage picture = table.viewport()->grab().toImage();
+    const int selected = table.rowViewportPosition(1) + table.rowHeight(1) / 2;
+    const int other = table.rowViewportPosition(0) + table.rowHeight(0) / 2;
+    for (int x = 0; x < 3; ++x)
+        EXPECT_EQ(Theme::Purple, picture.pixelColor(x, selected)) << x;
+    EXPECT_EQ(Theme::Selected, picture.pixelColor(3, selected));
+    EXPECT_EQ(Theme::Selected, picture.pixelColor(table.columnViewportPosition(1), selected));
+    EXPECT_EQ(Theme::Paper, picture.pixelColor(0, other));
+}
+
+TEST(Style, ScrollBarsAreTwelveWideWithoutArrows)
+{
+    QScrollBar bar(Qt::Vertical);
+    bar.setRange(0, 100);
+    bar.setPageStep(100);
+    bar.resize(bar.sizeHint().width(), 200);
+    EXPECT_EQ(12, bar.width());
+    QStyleOptionSlider option;
+    option.initFrom(&bar);
+    option.orientation = Qt::Vertical;
+    option.minimum = 0;
+    option.maximum = 100;
+    option.pageStep = 100;
+    const auto part = [&](int value, QStyle::SubControl control) {
+        option.sliderPosition = value;
+        return bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, control, &bar);
+    };
+    EXPECT_EQ(QRect(0, 0, 12, 100), part(0, QStyle::SC_ScrollBarSlider));
+    EXPECT_EQ(QRect(0, 100, 12, 100), part(100, QStyle::SC_ScrollBarSlider));
+    EXPECT_EQ(QRect(0, 50, 12, 100), part(50, QStyle::SC_ScrollBarSlider));
+    EXPECT_EQ(QRect(0, 0, 12, 50), part(50, QStyle::SC_ScrollBarSubPage));
+    EXPECT_EQ(QRect(0, 150, 12, 50), part(50, QStyle::SC_ScrollBarAddPage));
+    EXPECT_TRUE(part(50, QStyle::SC_ScrollBarAddLine).isEmpty());
+    option.maximum = 1000000000;
+    EXPECT_EQ(32, part(0, QStyle::SC_ScrollBarSlider).height()) << "it can always be caught";
+}
+
+TEST(Style, NothingMovesByItself)
+{
+    const QStyle *style = QApplication::style();
+    EXPECT_EQ(0, style->styleHint(QStyle::SH_Widget_Animation_Duration));
+    EXPECT_EQ(0, style->styleHint(QStyle::SH_EtchDisabledText));
+    EXPECT_EQ(Qt::AlignRight, style->styleHint(QStyle::SH_FormLayoutLabelAlignment) & Qt::AlignHorizontal_Mask);
+}

@@ -1,0 +1,73 @@
+#include "controls/mdLeaveFocusedBox.h"
+
+#include "controls/oTypedText.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QEvent>
+#include <QPointer>
+#include <QScrollBar>
+
+namespace {
+
+/// Whether the widget, or one that it lies in, is marked as a way out of a held box.
+bool leavesHeldBox(const QWidget *widget)
+{
+    for (; widget; widget = widget->isWindow() ? nullptr : widget->parentWidget())
+        if (widget->property("leavesHeldBox").toBool())
+            return true;
+    return false;
+}
+
+/// A press gives the focus to the widget or to the first one around it that takes it.
+bool takesFocusByClick(const QWidget *widget)
+{
+    for (; widget && !widget->isWindow(); widget = widget->parentWidget())
+        if (widget->isEnabled() && (widget->focusPolicy() & Qt::ClickFocus) == Qt::ClickFocus)
+            return true;
+    return false;
+}
+
+bool wouldLeave(const QWidget *target, const oTypedText *box, QEvent::Type type)
+{
+    if (target->window() != box->window() || box->parentWidget()->isAncestorOf(target) || leavesHeldBox(target))
+        return false;
+    const bool isButton = qobject_cast<const QAbstractButton *>(target);
+    if (type == QEvent::Shortcut)
+        return isButton;
+    return !qobject_cast<const QScrollBar *>(target) && (isButton || takesFocusByClick(target));
+}
+
+/// Stops presses and mnemonics while a typed box holds the user.
+class clsFocusGuard final : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        const QEvent::Type type = event->type();
+        if (type != QEvent::MouseButtonPress && type != QEvent::MouseButtonDblClick && type != QEvent::Shortcut)
+            return false;
+        const auto *target = qobject_cast<QWidget *>(watched);
+        auto *box = qobject_cast<oTypedText *>(QApplication::focusWidget());
+        return target && box && wouldLeave(target, box, type) && !box->leave();
+    }
+};
+
+} // namespace
+
+bool mdLeaveFocusedBox(const QWidget *window)
+{
+    auto *box = qobject_cast<oTypedText *>(window->focusWidget());
+    return !box || box->leave();
+}
+
+void mdGuardFocusedBoxes()
+{
+    static QPointer<clsFocusGuard> guard;
+    if (guard)
+        return;
+    guard = new clsFocusGuard(qApp);
+    qApp->installEventFilter(guard);
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+class QWidget;
+
+// A typed box whose text doesn't fit holds the user. Taking the focus back isn't enough for that: a button is pressed
+// by the mouse although its focus was taken away, by its mnemonic and by a default key without having had the focus at
+// all.
+//
+// So while a typed box has the focus, the application is watched: a mouse press on anything of the same window that
+// would take the focus or is a button, and the mnemonic of a button, first make the box leave, and are swallowed when
+// it holds. Return in a box does the same before it reaches the default button. Free are scroll bars, menus, the box's
+// own parts, and every widget, or child of one, with the dynamic property "leavesHeldBox": Cancel has it, since who
+// cancels doesn't want the text. Esc and the close box reach the window unhindered.
+//
+// Menu entries and other actions don't move the focus and may mean something else than leaving (Ctrl+S saves the claim
+// as it stands). What closes a screen or reads its boxes from there asks `mdLeaveFocusedBox` itself.
+
+/// Makes the typed box that has the focus of a window, if there is one, normalise its text as if the focus were about
+/// to move. False when it holds: its text doesn't fit, it has turned pale pink, and whoever asked is to stop. To be
+/// called at the start of Save, Close, Prev, Next and whatever else reads the boxes of a screen; a second call does no
+/// harm.
+bool mdLeaveFocusedBox(const QWidget *window);
+
+/// Lets the application be watched; called by every typed box, and once is enough.
+void mdGuardFocusedBoxes();

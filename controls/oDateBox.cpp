@@ -1,0 +1,78 @@
+#include "controls/oDateBox.h"
+
+#include "controls/oTypedText.h"
+#include "costing/mdDateText.h"
+#include "costing/mdTypedText.h"
+#include "shell/mdClock.h"
+
+#include <QBoxLayout>
+#include <QCheckBox>
+
+namespace {
+
+/// One memory of the last year for all date boxes.
+std::optional<QString> typedDate(const QString &text)
+{
+    static int lastYear = 0;
+    return TypedDate(text, lastYear);
+}
+
+// clang-format off
+const clsTypedKind Kind {
+    .normalised = typedDate,
+    .whatFits = QT_TRANSLATE_NOOP("oTypedText", "A date, such as 21/11/26"),
+    .alignment = Qt::AlignLeft,
+    .normalisesWrites = true,
+    .refusesWhenDisabled = false,
+};
+// clang-format on
+
+} // namespace
+
+oDateBox::oDateBox(QWidget *parent)
+    : QWidget(parent)
+    , txtText(oTypedText::inside(*this, Kind))
+    , chkShowDate(new QCheckBox(this))
+{
+    chkShowDate->setObjectName(QStringLiteral("chkShowDate"));
+    chkShowDate->setAccessibleName(tr("Has a date"));
+    chkShowDate->setChecked(true);
+    chkShowDate->setVisible(false);
+    static_cast<QBoxLayout *>(layout())->insertWidget(0, chkShowDate);
+    setTabOrder(chkShowDate, txtText);
+    connect(chkShowDate, &QCheckBox::toggled, this, &oDateBox::ticked);
+}
+
+QString oDateBox::Text() const
+{
+    return m_showTickBox && txtText->text().isEmpty() ? QString(NoDate) : txtText->text();
+}
+
+void oDateBox::setText(const QString &text)
+{
+    txtText->write(text);
+    // Also where no tick is shown that could bring the date back: the value says that there is none.
+    if (text == NoDate) {
+        chkShowDate->setChecked(false);
+        ticked(false);
+    }
+}
+
+void oDateBox::setShowTickBox(bool show)
+{
+    m_showTickBox = show;
+    chkShowDate->setVisible(show);
+}
+
+void oDateBox::ticked(bool hasDate)
+{
+    txtText->setEnabled(hasDate);
+    if (hasDate) {
+        // Today as the desktop writes it; leaving the box gives it the form of the claim.
+        txtText->setText(Now().date().toString(QStringLiteral("dd/MM/yyyy")));
+        txtText->setFocus(Qt::OtherFocusReason);
+    } else {
+        txtText->clear();
+        txtText->validate(); // an empty box is never pink
+    }
+}

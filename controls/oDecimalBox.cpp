@@ -1,0 +1,33 @@
+#include "controls/oDecimalBox.h"
+
+#include "controls/oTypedText.h"
+#include "costing/mdTypedText.h"
+
+namespace {
+
+// clang-format off
+const clsTypedKind Kind {
+    .normalised = TypedDecimal,
+    .whatFits = QT_TRANSLATE_NOOP("oTypedText", "An amount, such as 1200.50"),
+    .alignment = Qt::AlignRight,
+    .normalisesWrites = true,
+    .refusesWhenDisabled = true,
+};
+// clang-format on
+
+} // namespace
+
+oDecimalBox::oDecimalBox(QWidget *parent)
+    : QWidget(parent)
+    , txtText(oTypedText::inside(*this, Kind))
+{ }
+
+QString oDecimalBox::Text() const
+{
+    return txtText->text();
+}
+
+void oDecimalBox::setText(const QString &text)
+{
+    txtText->write(text);
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+
+class QLabel;
+class QProgressBar;
+class oTimeSpentBox;
+
+/// The status line of the main window: the program's name and version, how far long work has come, the claim's clock,
+/// the date and the time. Every part has its fixed place, whatever the texts are.
+class oFooterBar : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit oFooterBar(QWidget *parent = nullptr);
+
+    oTimeSpentBox *TimeSpentTimer() const { return m_timeSpentTimer; }
+    QProgressBar *ProgressBar() const { return m_progressBar; }
+
+    /// Shows how far work has come, and repaints at once: the window handles no events meanwhile. Only what differs is
+    /// written.
+    void showProgress(int value, int maximum, const QString &text);
+    void clearProgress();
+    /// Writes the program's name and the present time.
+    void UpdateInfo();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void updateDateTime();
+
+    QLabel *lblProgramInfo;
+    QProgressBar *m_progressBar;
+    oTimeSpentBox *m_timeSpentTimer;
+    QLabel *lblDateTime;
+    QTimer tmrUpdate;
+};

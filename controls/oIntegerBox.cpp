@@ -1,0 +1,33 @@
+#include "controls/oIntegerBox.h"
+
+#include "controls/oTypedText.h"
+#include "costing/mdTypedText.h"
+
+namespace {
+
+// clang-format off
+const clsTypedKind Kind {
+    .normalised = TypedInteger,
+    .whatFits = QT_TRANSLATE_NOOP("oTypedText", "A number, such as 12"),
+    .alignment = Qt::AlignRight,
+    .normalisesWrites = false,
+    .refusesWhenDisabled = true,
+};
+// clang-format on
+
+} // namespace
+
+oIntegerBox::oIntegerBox(QWidget *parent)
+    : QWidget(parent)
+    , txtText(oTypedText::inside(*this, Kind))
+{ }
+
+QString oIntegerBox::Text() const
+{
+    return txtText->text();
+}
+
+void oIntegerBox::setText(const QString &text)
+{
+    txtText->write(text);
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QAbstractButton>
+
+/// One button of a tab row, drawn as a text tab or as a button. It knows nothing of its neighbours: the row says which
+/// one is selected and moves the focus when it is asked to.
+class oTabBarButton final : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    enum class Shape { Tab, Button };
+
+    oTabBarButton(const QString &caption, Shape shape, QWidget *parent);
+
+    QString Caption() const { return text(); }
+    void setCaption(const QString &caption);
+    bool Selected() const { return m_selected; }
+    void setSelected(bool selected);
+    /// As after creation: not selected.
+    void Reset() { setSelected(false); }
+    void setShape(Shape shape);
+    Shape shape() const { return m_shape; }
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+signals:
+    /// An arrow key asks for a neighbour: -1 for the one before, 1 for the next, less or more for the ends of the row.
+    void Move(int steps);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    bool event(QEvent *event) override;
+
+private:
+    void paintTab(QPainter &painter);
+    void paintButton(QPainter &painter);
+
+    Shape m_shape;
+    bool m_selected = false;
+};

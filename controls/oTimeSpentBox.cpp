@@ -1,0 +1,96 @@
+#include "controls/oTimeSpentBox.h"
+
+#include "controls/mdTheme.h"
+#include "controls/oTimeBox.h"
+#include "costing/mdTypedText.h"
+#include "formdata/clsZR3Form.h"
+#include "shell/clsRunTimeError.h"
+#include "shell/mdGlobals.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+
+#include <chrono>
+
+oTimeSpentBox *TimeSpentBox = nullptr;
+
+oTimeSpentBox::oTimeSpentBox(QWidget *parent)
+    : QWidget(parent)
+    , txtTime(new oTimeBox(this))
+    , cmdStartStop(new QPushButton(this))
+    , tmrTimer(this)
+{
+    txtTime->setObjectName(QStringLiteral("txtTime"));
+    txtTime->setAccessibleName(tr("Time spent"));
+    txtTime->setToolTip(tr("Time spent on this claim"));
+    txtTime->setCompact();
+    cmdStartStop->setObjectName(QStringLiteral("cmdStartStop"));
+    cmdStartStop->setProperty("look", QStringLiteral("small"));
+    cmdStartStop->setFont(Theme::font(-1));
+    cmdStartStop->setAutoDefault(false);
+    tmrTimer.setObjectName(QStringLiteral("tmrTimer"));
+    tmrTimer.setInterval(std::chrono::minutes(1));
+
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(Theme::Space8);
+    row->addWidget(txtTime);
+    row->addWidget(cmdStartStop);
+    setFocusProxy(txtTime);
+
+    connect(&tmrTimer, &QTimer::timeout, this, &oTimeSpentBox::tick);
+    connect(txtTime, &oTimeBox::Left, this, &oTimeSpentBox::writeToForm);
+    connect(cmdStartStop, &QPushButton::clicked, this, [this] { run(!tmrTimer.isActive()); });
+
+    // As wide as the wider caption from the start.
+    run(true);
+    const int width = cmdStartStop->sizeHint().width();
+    run(false);
+    cmdStartStop->setMinimumWidth(qMax(width, cmdStartStop->sizeHint().width()));
+}
+
+QString oTimeSpentBox::TimeSpent() const
+{
+    return txtTime->Text();
+}
+
+void oTimeSpentBox::setTimeSpent(const QString &time)
+{
+    if (!txtTime->isActive())
+        txtTime->setText(time);
+}
+
+void oTimeSpentBox::StartTimer()
+{
+    run(true);
+}
+
+void oTimeSpentBox::StopTimer()
+{
+    run(false);
+}
+
+void oTimeSpentBox::run(bool runs)
+{
+    txtTime->setEnabled(!runs);
+    if (!runs)
+        tmrTimer.stop();
+    else if (!tmrTimer.isActive()) // a second start doesn't begin the minute anew
+        tmrTimer.start();
+    cmdStartStop->setText(runs ? tr("Stop") : tr("Start"));
+}
+
+void oTimeSpentBox::tick()
+{
+    // A time that can't be counted on stays as it is: the clock must never end the program.
+    try {
+        txtTime->setText(TimeAfterOneMinute(txtTime->Text()));
+        writeToForm();
+    } catch (const clsRunTimeError &) { }
+}
+
+void oTimeSpentBox::writeToForm() const
+{
+    if (Form)
+        Form->TimeSpent = txtTime->Text();
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+
+class QPushButton;
+class oTimeBox;
+
+/// The running clock of the claim: a time, and a button that starts and stops it. It goes by whole minutes, and each
+/// new time goes to the claim at once. The time can't be typed while the clock runs.
+class oTimeSpentBox : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit oTimeSpentBox(QWidget *parent = nullptr);
+
+    QString TimeSpent() const;
+    /// Shows a time, except where the user is typing one: a refresh of the window comes at any moment.
+    void setTimeSpent(const QString &time);
+
+    void StartTimer();
+    void StopTimer();
+
+private:
+    void run(bool runs);
+    void tick();
+    void writeToForm() const;
+
+    oTimeBox *txtTime;
+    QPushButton *cmdStartStop;
+    QTimer tmrTimer;
+};
+
+/// The clock in the footer of the main window; nothing until that is loaded.
+extern oTimeSpentBox *TimeSpentBox;

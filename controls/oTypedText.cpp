@@ -1,0 +1,190 @@
+#include "controls/oTypedText.h"
+
+#include "controls/mdLeaveFocusedBox.h"
+#include "controls/mdTheme.h"
+
+#include <QAccessible>
+#include <QDialog>
+#include <QFocusEvent>
+#include <QHBoxLayout>
+#include <QPointer>
+
+namespace {
+
+constexpr int BoxWidth = 112;
+constexpr int CompactWidth = 64;
+constexpr int CompactPadding = 8;
+
+/// The focus comes back to where it was: nobody has left.
+bool isInterruption(Qt::FocusReason reason)
+{
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason;
+}
+
+} // namespace
+
+oTypedText *oTypedText::inside(QWidget &box, const clsTypedKind &kind)
+{
+    auto *text = new oTypedText(box, kind);
+    auto *layout = new QHBoxLayout(&box);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(Theme::Space12);
+    layout->addWidget(text);
+    // Before the proxy, which would take the policy over. The box itself is no stop of the Tab key; a label's mnemonic
+    // asks for some policy.
+    box.setFocusPolicy(Qt::ClickFocus);
+    box.setFocusProxy(text);
+    box.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    return text;
+}
+
+oTypedText::oTypedText(QWidget &box, const clsTypedKind &kind)
+    : QLineEdit(&box)
+    , m_kind(kind)
+{
+    setObjectName(QStringLiteral("txtText"));
+    setAlignment(kind.alignment | Qt::AlignVCenter);
+    setMargins();
+    mdGuardFocusedBoxes();
+}
+
+void oTypedText::write(const QString &newText)
+{
+    if (newText == text())
+        return;
+    setText(newText);
+    if (m_kind.normalisesWrites && !isActive())
+        validate();
+}
+
+bool oTypedText::validate()
+{
+    setInvalid(false);
+    const std::optional<QString> normalised = m_kind.normalised(text());
+    if (normalised) {
+        if (*normalised != text())
+            setText(*normalised);
+        return true;
+    }
+    if (!isEnabled() && !m_kind.refusesWhenDisabled)
+        return true;
+    setInvalid(true);
+    setFocus(Qt::OtherFocusReason);
+    selectAll();
+    return false;
+}
+
+bool oTypedText::leave()
+{
+    if (!isVisible() || !isEnabled())
+        return true;
+    if (!validate())
+        return false;
+    emit Left();
+    return true;
+}
+
+bool oTypedText::isActive() const
+{
+    return isVisible() && window()->focusWidget() == this;
+}
+
+void oTypedText::setCompact()
+{
+    m_compact = true;
+    setAlignment(Qt::AlignCenter);
+    setFont(Theme::font(-1));
+    setMargins();
+    updateGeometry();
+}
+
+QSize oTypedText::sizeHint() const
+{
+    if (!m_compact)
+        return {Theme::scaled(BoxWidth), QLineEdit::sizeHint().height()};
+    return {Theme::scaled(CompactWidth), fontMetrics().height() + CompactPadding};
+}
+
+void oTypedText::setInvalid(bool invalid)
+{
+    if (invalid == m_invalid)
+        return;
+    m_invalid = invalid;
+    QPalette back;
+    if (invalid)
+        back.setColor(QPalette::Base, Theme::Pink);
+    setPalette(back);
+    setProperty("invalid", invalid);
+    setMargins();
+    const QString whatFits = invalid ? tr(m_kind.whatFits) : QString();
+    setToolTip(whatFits);
+    setAccessibleDescription(whatFits);
+    QAccessibleEvent changed(this, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&changed);
+    update();
+}
+
+/// The sign of an invalid box stands at its right end, and the text keeps clear of it.
+void oTypedText::setMargins()
+{
+    const int side = m_compact ? 0 : Theme::Space4;
+    setTextMargins(side, 0, m_invalid ? side + fontMetrics().height() + Theme::Space4 : side, 0);
+}
+
+void oTypedText::focusInEvent(QFocusEvent *event)
+{
+    QLineEdit::focusInEvent(event);
+    if (m_inside && isInterruption(event->reason()))
+        return;
+    m_inside = true;
+    selectAll();
+    // A click would set the caret and drop the selection at once.
+    m_selectsOnRelease = event->reason() == Qt::MouseFocusReason;
+}
+
+void oTypedText::focusOutEvent(QFocusEvent *event)
+{
+    QLineEdit::focusOutEvent(event);
+    if (!m_inside || isInterruption(event->reason()))
+        return;
+    m_inside = false;
+    const bool stays = isEnabled() && window()->isVisible() && isVisibleTo(window());
+    if (stays && validate())
+        emit Left();
+}
+
+void oTypedText::showEvent(QShowEvent *event)
+{
+    QLineEdit::showEvent(event);
+    // A screen names the box; a screen reader meets the text inside.
+    if (const QString name = parentWidget()->accessibleName(); !name.isEmpty())
+        setAccessibleName(name);
+}
+
+void oTypedText::hideEvent(QHideEvent *event)
+{
+    QLineEdit::hideEvent(event);
+    m_inside = false;
+}
+
+void oTypedText::keyPressEvent(QKeyEvent *event)
+{
+    const QPointer<oTypedText> self(this);
+    if (!event->text().isEmpty())
+        emit KeyPress(event->text().at(0).unicode());
+    // The default button of a dialog is pressed by the key that the box passes on.
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!self || (isReturn && qobject_cast<QDialog *>(window()) && !leave())) {
+        event->accept();
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+void oTypedText::mouseReleaseEvent(QMouseEvent *event)
+{
+    QLineEdit::mouseReleaseEvent(event);
+    if (m_selectsOnRelease && !hasSelectedText())
+        selectAll();
+    m_selectsOnRelease = false;
+}

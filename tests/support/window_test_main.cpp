@@ -11,7 +11,7 @@ namespace {
 /// A warning of the toolkit is a mistake of ours.
 void failOnWarning(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
-    // But not these: the offscreen platform has no window manager to tell of sizes and stacking.
+    // But not these: the offscreen platform tells of whatever takes a window manager, such as raising a menu.
     if (message.startsWith(QLatin1String("This plugin does not support ")))
         return;
     if (type == QtWarningMsg || type == QtCriticalMsg)

@@ -1,0 +1,208 @@
+#include "controls/oAllPurposeBox.h"
+
+#include "controls/clsCharacterCount.h"
+#include "controls/mdTheme.h"
+#include "controls/oSpellText.h"
+#include "formdata/mdReplacements.h"
+
+#include <QAction>
+#include <QBoxLayout>
+#include <QEvent>
+#include <QLabel>
+
+namespace {
+
+std::function<void()> &editReplacements()
+{
+    static std::function<void()> edit;
+    return edit;
+}
+
+/// The box's text for the expansion of abbreviations, which is an edit like the user's own: it can be undone.
+struct clsTypedText {
+    oSpellText &box;
+    QString Text() const { return box.Text(); }
+    void setText(const QString &text) { box.rewriteText(text); }
+    int SelStart() const { return box.SelStart(); }
+    void setSelStart(int position) { box.setSelStart(position); }
+};
+
+/// A length that is told for a font of 10 points.
+int scaled(const QFont &font, int length)
+{
+    return qRound(length * font.pointSizeF() / 10);
+}
+
+/// Boxes have one of three widths, so that a screen of them looks calm.
+int widthFor(int allowance, bool multiLine)
+{
+    if (multiLine || allowance <= 0 || allowance > 25)
+        return 560;
+    return allowance > 9 ? 224 : 112;
+}
+
+/// A larger room on the form gets a taller box; a text without a limit the tallest.
+int linesFor(int allowance)
+{
+    return allowance > 0 ? qBound(3, 3 + allowance / 130, 8) : 8;
+}
+
+} // namespace
+
+void SetEditReplacements(std::function<void()> edit)
+{
+    editReplacements() = std::move(edit);
+}
+
+oAllPurposeBox::oAllPurposeBox(QWidget *parent)
+    : QWidget(parent)
+    , m_text(new oSpellText(this))
+    , m_count(new QLabel(this))
+{
+    m_text->setObjectName(QStringLiteral("txtText"));
+    m_count->setObjectName(QStringLiteral("lblCharacterAllowance"));
+    setFocusProxy(m_text);
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(Theme::Space8);
+    row->addWidget(m_text, 1);
+    row->addWidget(m_count);
+
+    auto *edit = new QAction(QStringLiteral("Edit Replacements..."), m_text);
+    m_text->addAction(edit);
+    connect(edit, &QAction::triggered, this, [] {
+        if (editReplacements())
+            editReplacements()();
+    });
+    connect(m_text, &oSpellText::Change, this, [this] {
+        emit Change();
+        refreshCount();
+    });
+    connect(m_text, &oSpellText::KeyRelease, this, &oAllPurposeBox::keyReleased);
+    m_text->installEventFilter(this);
+    layOut();
+}
+
+QString oAllPurposeBox::Text() const
+{
+    return m_text->Text();
+}
+
+void oAllPurposeBox::setText(const QString &text)
+{
+    m_text->setText(text);
+}
+
+bool oAllPurposeBox::MultiLine() const
+{
+    return m_text->MultiLine();
+}
+
+void oAllPurposeBox::setMultiLine(bool multiLine)
+{
+    m_text->setMultiLine(multiLine);
+    layOut();
+}
+
+bool oAllPurposeBox::SpellCheck() const
+{
+    return m_text->SpellCheck();
+}
+
+void oAllPurposeBox::setSpellCheck(bool spellCheck)
+{
+    m_text->setSpellCheck(spellCheck);
+}
+
+void oAllPurposeBox::setOverRun(bool overRun)
+{
+    m_overRun = overRun;
+    refreshCount();
+}
+
+void oAllPurposeBox::setCharacterAllowance(int characterAllowance)
+{
+    m_characterAllowance = characterAllowance;
+    refreshCount();
+    layOut();
+}
+
+int oAllPurposeBox::SelStart() const
+{
+    return m_text->SelStart();
+}
+
+void oAllPurposeBox::setSelStart(int position)
+{
+    m_text->setSelStart(position);
+}
+
+int oAllPurposeBox::topOfFirstLine() const
+{
+    return m_text->topOfFirstLine();
+}
+
+void oAllPurposeBox::keyReleased(int KeyCode)
+{
+    if (!m_allowReplacements)
+        return;
+    clsTypedText text {*m_text};
+    ApplyReplacements(KeyCode, text);
+}
+
+void oAllPurposeBox::refreshCount()
+{
+    if (m_characterAllowance == 0)
+        return;
+    const clsCharacterCount count(m_characterAllowance, Text().size(), m_overRun);
+    if (count.colour) {
+        QPalette palette = m_count->palette();
+        palette.setColor(QPalette::Active, QPalette::WindowText, *count.colour);
+        palette.setColor(QPalette::Inactive, QPalette::WindowText, *count.colour);
+        m_count->setPalette(palette);
+    }
+    m_count->setText(count.text);
+    m_count->setToolTip(count.words);
+    m_count->setAccessibleDescription(count.words);
+    m_text->setAccessibleDescription(count.words);
+    // Only a number of five figures needs more than the usual width.
+    m_count->setFixedWidth(qMax(scaled(font(), 44), m_count->sizeHint().width()));
+}
+
+void oAllPurposeBox::layOut()
+{
+    const int allowance = m_characterAllowance;
+    m_count->setVisible(allowance != 0);
+    // The colour of the count is its own, and so is its font; everything else is inherited.
+    QFont countFont = font();
+    countFont.setPointSizeF(countFont.pointSizeF() - 1);
+    countFont.setWeight(QFont::DemiBold);
+    m_count->setFont(countFont);
+    m_count->setAlignment(Qt::AlignLeft | (MultiLine() ? Qt::AlignTop : Qt::AlignVCenter));
+    const int lower = (m_text->fontMetrics().height() - m_count->fontMetrics().height() + 1) / 2;
+    m_count->setContentsMargins(0, MultiLine() ? m_text->topOfFirstLine() + lower : 0, 0, 0);
+    m_text->setRoom(scaled(font(), widthFor(allowance, MultiLine())), linesFor(allowance));
+    setSizePolicy(m_text->sizePolicy());
+    refreshCount();
+}
+
+void oAllPurposeBox::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        layOut();
+}
+
+bool oAllPurposeBox::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Show || event->type() == QEvent::FocusIn)
+        passNameOn();
+    return QWidget::eventFilter(watched, event);
+}
+
+void oAllPurposeBox::passNameOn()
+{
+    // The owner names the box; what the user stands in, and what is read to him, is the editor within.
+    if (m_text->accessibleName() != accessibleName())
+        m_text->setAccessibleName(accessibleName());
+}

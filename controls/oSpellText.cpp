@@ -1,0 +1,296 @@
+#include "controls/oSpellText.h"
+
+#include "controls/mdBoxText.h"
+#include "controls/mdSpellingMenu.h"
+#include "controls/mdTheme.h"
+#include "controls/oSpellHighlighter.h"
+
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace {
+
+/// From the edge of the box to its text, at the sides.
+constexpr int SidePadding = 9;
+/// Of the document all round: little, so that a wide frame leaves a line its room.
+constexpr int DocumentMargin = 1;
+/// What the toolkit wants below the last line on top of that, or it lets the only line scroll.
+constexpr int RoomBelow = DocumentMargin + 1;
+
+/// How far two texts are alike, without ending within a character of two halves.
+int lengthOfCommonStart(const QString &first, const QString &second)
+{
+    const auto [end, other] = std::mismatch(first.begin(), first.end(), second.begin(), second.end());
+    const int length = int(end - first.begin());
+    return length > 0 && first[length - 1].isHighSurrogate() ? length - 1 : length;
+}
+
+int lengthOfCommonEnd(QStringView first, QStringView second)
+{
+    int length = 0;
+    while (length < qMin(first.size(), second.size())
+        && first[first.size() - 1 - length] == second[second.size() - 1 - length])
+        ++length;
+    return length > 0 && first[first.size() - length].isLowSurrogate() ? length - 1 : length;
+}
+
+} // namespace
+
+oSpellText::oSpellText(QWidget *parent)
+    : QPlainTextEdit(parent)
+    , m_width(fontMetrics().averageCharWidth() * 20)
+{
+    setFrameShape(QFrame::StyledPanel);
+    setAttribute(Qt::WA_Hover);
+    setTabChangesFocus(true);
+    document()->setDocumentMargin(DocumentMargin);
+    // Highlighting makes the editor tell of a change while its document doesn't.
+    connect(document(), &QTextDocument::contentsChange, this, [this] { m_edited = true; });
+    connect(this, &QPlainTextEdit::textChanged, this, [this] {
+        if (m_edited && !m_writing)
+            tellChange();
+    });
+    layOut();
+}
+
+oSpellText::~oSpellText()
+{
+    // What goes tells of no change any more, although its lines are taken away.
+    blockSignals(true);
+    document()->disconnect(this);
+}
+
+QString oSpellText::editorText() const
+{
+    // Not the plain text, which has lost the non-breaking blanks of the claim.
+    return document()->toRawText();
+}
+
+QString oSpellText::Text() const
+{
+    return WithLineBreaks(editorText());
+}
+
+void oSpellText::setText(const QString &text)
+{
+    {
+        const QScopedValueRollback writing(m_writing, true);
+        setPlainText(BoxText(text, m_multiLine));
+        m_leftWithWindow = false;
+    }
+    tellChange();
+}
+
+void oSpellText::rewriteText(const QString &text)
+{
+    {
+        const QScopedValueRollback writing(m_writing, true);
+        const QString before = BoxText(editorText(), true);
+        const QString after = BoxText(text, m_multiLine);
+        const int start = lengthOfCommonStart(before, after);
+        const int end = lengthOfCommonEnd(QStringView(before).mid(start), QStringView(after).mid(start));
+        if (before != after) {
+            QTextCursor cursor(document());
+            cursor.beginEditBlock();
+            cursor.setPosition(start);
+            cursor.setPosition(int(before.size()) - end, QTextCursor::KeepAnchor);
+            cursor.insertText(after.mid(start, after.size() - start - end));
+            cursor.endEditBlock();
+        }
+    }
+    tellChange();
+}
+
+void oSpellText::tellChange()
+{
+    m_edited = false;
+    emit Change();
+}
+
+int oSpellText::SelStart() const
+{
+    return int(WithLineBreaks(editorText().left(textCursor().selectionStart())).size());
+}
+
+void oSpellText::setSelStart(int position)
+{
+    const QString text = BoxText(editorText(), true);
+    int place = 0;
+    for (int passed = 0; place < text.size(); ++place) {
+        passed += text[place] == u'\n' ? 2 : 1;
+        if (passed > position)
+            break;
+    }
+    QTextCursor cursor = textCursor();
+    cursor.setPosition(place);
+    setTextCursor(cursor);
+}
+
+void oSpellText::setMultiLine(bool multiLine)
+{
+    if (m_multiLine == multiLine)
+        return;
+    m_multiLine = multiLine;
+    // A text of several lines can't stay as it is in a box of one.
+    if (!multiLine && blockCount() > 1)
+        setText(Text());
+    layOut();
+}
+
+void oSpellText::setSpellCheck(bool spellCheck)
+{
+    if (spellCheck == SpellCheck())
+        return;
+    const QScopedValueRollback writing(m_writing, true);
+    m_highlighter = spellCheck ? std::make_unique<oSpellHighlighter>(this) : nullptr;
+    // The document may tell of a change when its lines are taken away.
+    m_edited = false;
+}
+
+void oSpellText::setRoom(int width, int lines)
+{
+    m_width = width;
+    m_lines = lines;
+    updateGeometry();
+}
+
+void oSpellText::layOut()
+{
+    setLineWrapMode(m_multiLine ? WidgetWidth : NoWrap);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(m_multiLine ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+    setSizePolicy(QSizePolicy::Expanding, m_multiLine ? QSizePolicy::MinimumExpanding : QSizePolicy::Fixed);
+    // The frame has a width and the document a margin; the rest of the padding lies between them.
+    const int inner = frameWidth() + DocumentMargin;
+    const int padding = heightOfLines(1) - fontMetrics().height();
+    const int above = qMax(0, padding / 2 - inner);
+    const int below = qMax(0, padding - 2 * inner - above - RoomBelow);
+    const int side = qMax(0, SidePadding - inner);
+    setViewportMargins(side, above, side, below);
+    updateGeometry();
+}
+
+int oSpellText::topOfFirstLine() const
+{
+    return frameWidth() + viewportMargins().top() + DocumentMargin;
+}
+
+int oSpellText::heightOfLines(int lines) const
+{
+    // A line and 6 above and below, but no less than 30 at 10 points, as lists and typed boxes have it.
+    const int line = fontMetrics().height();
+    const int least = qRound(30 * font().pointSizeF() / 10);
+    return qMax(line + Theme::Space12, least) + (lines - 1) * line;
+}
+
+QSize oSpellText::sizeHint() const
+{
+    return {m_width, heightOfLines(m_multiLine ? m_lines : 1)};
+}
+
+QSize oSpellText::minimumSizeHint() const
+{
+    return {qMin(m_width, fontMetrics().averageCharWidth() * 8), sizeHint().height()};
+}
+
+std::unique_ptr<QMenu> oSpellText::menuAt(int position)
+{
+    std::unique_ptr<QMenu> menu(createStandardContextMenu());
+    // The icons are the desktop's, and differ from one to the next.
+    const QList<QAction *> standard = menu->actions();
+    for (QAction *entry : standard)
+        entry->setIcon({});
+    if (SpellCheck())
+        mdAddSpellingEntries(*menu, *this, position);
+    if (!actions().isEmpty())
+        menu->addSeparator();
+    menu->addActions(actions());
+    return menu;
+}
+
+void oSpellText::contextMenuEvent(QContextMenuEvent *event)
+{
+    // The key's menu is that of the caret, wherever the pointer is.
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    const int position = byKey ? textCursor().position() : cursorForPosition(event->pos()).position();
+    menuAt(position)->exec(byKey ? viewport()->mapToGlobal(cursorRect().bottomLeft()) : event->globalPos());
+}
+
+void oSpellText::changeEvent(QEvent *event)
+{
+    QPlainTextEdit::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        layOut();
+}
+
+void oSpellText::focusInEvent(QFocusEvent *event)
+{
+    QPlainTextEdit::focusInEvent(event);
+    // The focus that comes back from a menu or from another window finds the caret where it was left.
+    const Qt::FocusReason reason = event->reason();
+    const bool comesBack = reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason
+        || (reason == Qt::ActiveWindowFocusReason && m_leftWithWindow);
+    if (comesBack)
+        return;
+    const int across = horizontalScrollBar()->value();
+    const int down = verticalScrollBar()->value();
+    moveCursor(QTextCursor::End);
+    if (reason != Qt::MouseFocusReason)
+        return;
+    // The click that brings the focus is still to find the text where it was aimed.
+    horizontalScrollBar()->setValue(across);
+    verticalScrollBar()->setValue(down);
+}
+
+void oSpellText::focusOutEvent(QFocusEvent *event)
+{
+    m_leftWithWindow = event->reason() == Qt::ActiveWindowFocusReason;
+    QPlainTextEdit::focusOutEvent(event);
+}
+
+void oSpellText::inputMethodEvent(QInputMethodEvent *event)
+{
+    const QString typed = PastedBoxText(event->commitString(), m_multiLine);
+    if (typed != event->commitString())
+        event->setCommitString(typed, event->replacementStart(), event->replacementLength());
+    QPlainTextEdit::inputMethodEvent(event);
+}
+
+void oSpellText::insertFromMimeData(const QMimeData *source)
+{
+    insertPlainText(PastedBoxText(source->text(), m_multiLine));
+    ensureCursorVisible();
+}
+
+void oSpellText::keyPressEvent(QKeyEvent *event)
+{
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && !m_multiLine) {
+        // For the default button of the screen.
+        event->ignore();
+        return;
+    }
+    // A line break is a line break, with Shift held too; and a blank a blank, with whatever key it is typed.
+    QString typed = event->text();
+    if (event->matches(QKeySequence::InsertLineSeparator))
+        typed = QStringLiteral("\n");
+    else if (typed.size() != 1 || typed[0].category() != QChar::Separator_Space || typed == QStringLiteral(" ")) {
+        QPlainTextEdit::keyPressEvent(event);
+        return;
+    }
+    insertPlainText(PastedBoxText(typed, m_multiLine));
+    ensureCursorVisible();
+}
+
+void oSpellText::keyReleaseEvent(QKeyEvent *event)
+{
+    QPlainTextEdit::keyReleaseEvent(event);
+    // A key that is held down is released once, although the desktop may tell of a release at each repetition.
+    if (!event->isAutoRepeat())
+        emit KeyRelease(event->key());
+}

@@ -1,0 +1,537 @@
+// The text box: its text, its count, its keys and its abbreviations.
+
+#include "controls/mdTheme.h"
+#include "controls/oSpellText.h"
+#include "tests/controls/clsTextBoxTest.h"
+
+#include <QClipboard>
+#include <QDialog>
+#include <QMimeData>
+#include <QPushButton>
+
+using AllPurposeBox = clsTextBoxTest;
+
+TEST_F(AllPurposeBox, AFreshOneIsABoxOfOneLineThatExpandsAndCountsNothing)
+{
+    EXPECT_FALSE(box->MultiLine());
+    EXPECT_EQ(QString(), box->Text());
+    EXPECT_TRUE(box->isEnabled());
+    EXPECT_FALSE(box->SpellCheck());
+    EXPECT_TRUE(box->AllowReplacements());
+    EXPECT_FALSE(box->OverRun());
+    EXPECT_EQ(0, box->CharacterAllowance());
+}
+
+// The count
+
+TEST_F(AllPurposeBox, WithoutAnAllowanceTheTextHasTheWholeWidth)
+{
+    show();
+    EXPECT_FALSE(count()->isVisible());
+    EXPECT_EQ(box->width(), editor()->width());
+    box->setCharacterAllowance(10);
+    QCoreApplication::processEvents();
+    QTest::qWait(1);
+    EXPECT_TRUE(count()->isVisible());
+    EXPECT_EQ(44, count()->width());
+    EXPECT_EQ(editor()->geometry().right() + 1 + 8, count()->x());
+    EXPECT_EQ(box->width(), count()->geometry().right() + 1);
+    EXPECT_EQ(editor()->height(), count()->height());
+}
+
+TEST_F(AllPurposeBox, TheCountStandsBeforeAnythingIsTyped)
+{
+    box->setCharacterAllowance(10);
+    EXPECT_EQ(QStringLiteral("10"), count()->text());
+    EXPECT_EQ(Theme::Green, countColour());
+}
+
+TEST_F(AllPurposeBox, AFullBoxCountsNoneInRedOrInBlueIfItMayRunOver)
+{
+    box->setCharacterAllowance(10);
+    box->setText(QStringLiteral("1234567890"));
+    EXPECT_EQ(QStringLiteral("0"), count()->text());
+    EXPECT_EQ(Theme::Red, countColour());
+    box->setOverRun(true);
+    EXPECT_EQ(QStringLiteral("(0)"), count()->text());
+    EXPECT_EQ(Theme::Blue, countColour());
+    box->setText(QStringLiteral("1234567890123"));
+    EXPECT_EQ(QStringLiteral("(3)"), count()->text());
+    EXPECT_EQ(Theme::Blue, countColour());
+    box->setOverRun(false);
+    EXPECT_EQ(QStringLiteral("3"), count()->text());
+    EXPECT_EQ(Theme::Red, countColour());
+}
+
+TEST_F(AllPurposeBox, FiveLeftKeepTheColourTheyCameFrom)
+{
+    box->setCharacterAllowance(10);
+    box->setText(QStringLiteral("1234"));
+    enter();
+    type(QStringLiteral("5"));
+    EXPECT_EQ(QStringLiteral("5"), count()->text());
+    EXPECT_EQ(Theme::Green, countColour());
+    type(QStringLiteral("6"));
+    EXPECT_EQ(Theme::Orange, countColour());
+    press(Qt::Key_Backspace);
+    EXPECT_EQ(QStringLiteral("5"), count()->text());
+    EXPECT_EQ(Theme::Orange, countColour());
+}
+
+TEST_F(AllPurposeBox, ALineBreakCountsAsTwo)
+{
+    box->setMultiLine(true);
+    box->setCharacterAllowance(10);
+    box->setText(QStringLiteral("a\r\nb"));
+    EXPECT_EQ(QStringLiteral("6"), count()->text());
+    enter();
+    press(Qt::Key_Return);
+    EXPECT_EQ(QStringLiteral("4"), count()->text());
+    EXPECT_EQ(QStringLiteral("a\r\nb\r\n"), box->Text());
+}
+
+TEST_F(AllPurposeBox, TheCountIsToldInWords)
+{
+    box->setCharacterAllowance(17);
+    box->setText(QStringLiteral("Hartwell"));
+    EXPECT_EQ(QStringLiteral("9 of 17 left"), count()->toolTip());
+    EXPECT_EQ(QStringLiteral("9 of 17 left"), count()->accessibleDescription());
+    EXPECT_EQ(QStringLiteral("9 of 17 left"), editor()->accessibleDescription());
+}
+
+TEST_F(AllPurposeBox, ADisabledCountIsDisabledText)
+{
+    box->setCharacterAllowance(17);
+    box->setEnabled(false);
+    EXPECT_FALSE(editor()->isEnabled());
+    EXPECT_EQ(Theme::Ink3, count()->palette().color(QPalette::Disabled, QPalette::WindowText));
+}
+
+TEST_F(AllPurposeBox, NothingStopsTypingPastTheAllowance)
+{
+    box->setCharacterAllowance(2);
+    enter();
+    type(QStringLiteral("abcdef"));
+    EXPECT_EQ(QStringLiteral("abcdef"), box->Text());
+    EXPECT_EQ(QStringLiteral("4"), count()->text());
+}
+
+// The text and its change
+
+TEST_F(AllPurposeBox, AWriteRaisesOneChangeBeforeTheCountShowsIt)
+{
+    box->setSpellCheck(true);
+    box->setCharacterAllowance(10);
+    QStringList seen;
+    QObject::connect(box, &oAllPurposeBox::Change, [&] { seen << box->Text() + u'/' + count()->text(); });
+    box->setText(QStringLiteral("abc"));
+    EXPECT_EQ(QStringList {QStringLiteral("abc/10")}, seen);
+    EXPECT_EQ(QStringLiteral("7"), count()->text());
+    box->setText(QString());
+    EXPECT_EQ((QStringList {QStringLiteral("abc/10"), QStringLiteral("/7")}), seen);
+}
+
+TEST_F(AllPurposeBox, EachKeyRaisesOneChange)
+{
+    box->setAllowReplacements(false);
+    enter();
+    QSignalSpy changes(box, &oAllPurposeBox::Change);
+    type(QStringLiteral("abc"));
+    EXPECT_EQ(3, changes.count());
+    press(Qt::Key_Left);
+    EXPECT_EQ(3, changes.count());
+    press(Qt::Key_Backspace);
+    EXPECT_EQ(4, changes.count());
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(5, changes.count());
+}
+
+TEST_F(AllPurposeBox, LineBreaksAreThoseOfTheClaim)
+{
+    box->setMultiLine(true);
+    box->setText(QStringLiteral("a\r\nb\nc\r\n"));
+    EXPECT_EQ(QStringLiteral("a\r\nb\r\nc\r\n"), box->Text());
+    const QString loaded = QString::fromUtf8(" £\u00a0“x” é\t ");
+    box->setText(loaded);
+    EXPECT_EQ(loaded, box->Text());
+}
+
+TEST_F(AllPurposeBox, TheCaretCountsALineBreakAsTwo)
+{
+    box->setMultiLine(true);
+    box->setText(QStringLiteral("ab\r\ncd\r\ne"));
+    enter();
+    EXPECT_EQ(9, box->SelStart());
+    for (const int place : {0, 2, 4, 5, 6, 8, 9}) {
+        box->setSelStart(place);
+        EXPECT_EQ(place, box->SelStart());
+    }
+    box->setSelStart(4);
+    type(QStringLiteral("x"));
+    EXPECT_EQ(QStringLiteral("ab\r\nxcd\r\ne"), box->Text());
+    // Within a break and beyond the text, the nearest place before.
+    box->setSelStart(3);
+    EXPECT_EQ(2, box->SelStart());
+    box->setSelStart(99);
+    EXPECT_EQ(10, box->SelStart());
+    box->setSelStart(-7);
+    EXPECT_EQ(0, box->SelStart());
+}
+
+TEST_F(AllPurposeBox, OneLineHasBlanksForLineBreaks)
+{
+    box->setText(QStringLiteral("a\r\nb"));
+    EXPECT_EQ(QStringLiteral("a b"), box->Text());
+    box->setMultiLine(true);
+    box->setText(QStringLiteral("a\r\nb"));
+    box->setMultiLine(false);
+    EXPECT_EQ(QStringLiteral("a b"), box->Text());
+}
+
+TEST_F(AllPurposeBox, APasteIsCleaned)
+{
+    enter();
+    QApplication::clipboard()->setText(QString::fromUtf8("one\r\ntwo\u00a0three\u200b"));
+    press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(QStringLiteral("one two three"), box->Text());
+    box->setMultiLine(true);
+    box->setText(QString());
+    press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(QStringLiteral("one\r\ntwo three"), box->Text());
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(QString(), box->Text());
+}
+
+TEST_F(AllPurposeBox, ARichPasteBringsItsTextOnly)
+{
+    enter();
+    auto *data = new QMimeData;
+    data->setHtml(QStringLiteral("<b>bold</b>"));
+    data->setText(QStringLiteral("bold"));
+    QApplication::clipboard()->setMimeData(data);
+    press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(QStringLiteral("bold"), box->Text());
+}
+
+TEST_F(AllPurposeBox, WhatAnInputMethodCommitsIsCleanedToo)
+{
+    enter();
+    QInputMethodEvent event;
+    event.setCommitString(QString::fromUtf8("a\nb\u00a0c"));
+    QCoreApplication::sendEvent(editor(), &event);
+    EXPECT_EQ(QStringLiteral("a b c"), box->Text());
+}
+
+TEST_F(AllPurposeBox, ANonBreakingBlankIsTypedAsABlank)
+{
+    enter();
+    QTest::sendKeyEvent(QTest::Press, editor(), Qt::Key_nobreakspace, QString(QChar(0xa0)), Qt::NoModifier);
+    EXPECT_EQ(QStringLiteral(" "), box->Text());
+}
+
+// Abbreviations
+
+TEST_F(AllPurposeBox, ASpaceExpandsTheWordBeforeIt)
+{
+    replace("ab", "above");
+    box->setText(QStringLiteral("see ab"));
+    enter();
+    press(Qt::Key_Space);
+    EXPECT_EQ(QStringLiteral("see above"), box->Text());
+    EXPECT_EQ(9, box->SelStart());
+    EXPECT_FALSE(editor()->textCursor().hasSelection());
+}
+
+TEST_F(AllPurposeBox, TheExpansionIsOnTheReleaseOfTheKey)
+{
+    replace("ab", "above");
+    box->setText(QStringLiteral("ab"));
+    enter();
+    QTest::keyPress(editor(), Qt::Key_Space);
+    EXPECT_EQ(QStringLiteral("ab "), box->Text());
+    // A desktop that repeats a held key tells of releases in between.
+    QKeyEvent repeated(QEvent::KeyRelease, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), true);
+    QCoreApplication::sendEvent(editor(), &repeated);
+    EXPECT_EQ(QStringLiteral("ab "), box->Text());
+    QTest::keyRelease(editor(), Qt::Key_Space);
+    EXPECT_EQ(QStringLiteral("above"), box->Text());
+}
+
+TEST_F(AllPurposeBox, ShiftPlaysNoPart)
+{
+    replace("ab", "above");
+    box->setText(QStringLiteral("ab"));
+    enter();
+    QTest::keyClick(editor(), Qt::Key_Space, Qt::ShiftModifier);
+    EXPECT_EQ(QStringLiteral("above"), box->Text());
+}
+
+TEST_F(AllPurposeBox, WithoutReplacementsTheSpaceIsASpace)
+{
+    replace("ab", "above");
+    box->setAllowReplacements(false);
+    box->setText(QStringLiteral("see ab"));
+    enter();
+    QSignalSpy changes(box, &oAllPurposeBox::Change);
+    QTest::keyPress(editor(), Qt::Key_Space);
+    EXPECT_EQ(1, changes.count());
+    QTest::keyRelease(editor(), Qt::Key_Space);
+    EXPECT_EQ(1, changes.count());
+    EXPECT_EQ(QStringLiteral("see ab "), box->Text());
+    EXPECT_EQ(7, box->SelStart());
+}
+
+TEST_F(AllPurposeBox, EverySpaceRaisesAChangeMore)
+{
+    enter();
+    QSignalSpy changes(box, &oAllPurposeBox::Change);
+    press(Qt::Key_Space);
+    EXPECT_EQ(2, changes.count());
+    EXPECT_EQ(QStringLiteral(" "), box->Text());
+}
+
+TEST_F(AllPurposeBox, ANewLineBegunWithAnAbbreviationIsExpanded)
+{
+    replace("ab", "above");
+    box->setMultiLine(true);
+    box->setText(QStringLiteral("one"));
+    enter();
+    press(Qt::Key_Return);
+    type(QStringLiteral("ab"));
+    press(Qt::Key_Space);
+    EXPECT_EQ(QStringLiteral("one\r\nabove"), box->Text());
+    EXPECT_EQ(10, box->SelStart());
+}
+
+TEST_F(AllPurposeBox, TwoSideBySideLoseTheBlankBetweenThem)
+{
+    replace("ab", "above");
+    box->setText(QStringLiteral("ab ab"));
+    enter();
+    press(Qt::Key_Space);
+    EXPECT_EQ(QStringLiteral("aboveab "), box->Text());
+}
+
+TEST_F(AllPurposeBox, AnExpansionWithLinesGoesIntoOneLineAsBlanks)
+{
+    replace("ad", "1 High Street\r\nOakham");
+    box->setText(QStringLiteral("ad"));
+    enter();
+    press(Qt::Key_Space);
+    EXPECT_EQ(QStringLiteral("1 High Street Oakham"), box->Text());
+    EXPECT_EQ(20, box->SelStart());
+}
+
+TEST_F(AllPurposeBox, AnExpansionCanBeUndone)
+{
+    replace("ab", "above");
+    box->setMultiLine(true);
+    box->setText(QStringLiteral("first\r\nsee ab"));
+    enter();
+    press(Qt::Key_Space);
+    ASSERT_EQ(QStringLiteral("first\r\nsee above"), box->Text());
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(QStringLiteral("first\r\nsee ab "), box->Text());
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(QStringLiteral("first\r\nsee ab"), box->Text());
+    press(Qt::Key_Y, Qt::ControlModifier);
+    press(Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(QStringLiteral("first\r\nsee above"), box->Text());
+}
+
+TEST_F(AllPurposeBox, ASpaceThatExpandsNothingLeavesUndoAlone)
+{
+    box->setText(QStringLiteral("one"));
+    enter();
+    type(QStringLiteral(" two"));
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(QStringLiteral("one"), box->Text());
+}
+
+TEST_F(AllPurposeBox, ARecordThatIsLoadedCanNotBeUndone)
+{
+    enter();
+    type(QStringLiteral("abc"));
+    box->setText(QStringLiteral("loaded"));
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(QStringLiteral("loaded"), box->Text());
+}
+
+TEST_F(AllPurposeBox, ARewriteLeavesCharactersOfTwoHalvesWhole)
+{
+    auto *text = static_cast<oSpellText *>(editor());
+    text->setText(QString::fromUtf8("a\U0001f600b"));
+    QString written;
+    QObject::connect(editor()->document(), &QTextDocument::contentsChange,
+        [&](int from, int, int added) { written = editor()->document()->toRawText().mid(from, added); });
+    // The two begin with the same half, and the next two end with the same one.
+    for (const char *next : {"a\U0001f601b", "a\U0001f201b"}) {
+        text->rewriteText(QString::fromUtf8(next));
+        EXPECT_EQ(QString::fromUtf8(next), text->Text());
+        EXPECT_EQ(QString::fromUtf8(next).mid(1, 2), written);
+    }
+}
+
+// Focus and keys
+
+TEST_F(AllPurposeBox, TheFocusFindsTheCaretBehindTheText)
+{
+    box->setText(QStringLiteral("Hartwell"));
+    EXPECT_EQ(0, box->SelStart());
+    show();
+    for (const auto reason : {Qt::TabFocusReason, Qt::BacktabFocusReason, Qt::ShortcutFocusReason, Qt::OtherFocusReason,
+             Qt::MouseFocusReason}) {
+        other->setFocus();
+        editor()->selectAll();
+        box->setFocus(reason);
+        EXPECT_EQ(8, box->SelStart()) << reason;
+        EXPECT_FALSE(editor()->textCursor().hasSelection()) << reason;
+    }
+}
+
+TEST_F(AllPurposeBox, TheFocusThatComesBackFindsTheCaretWhereItWas)
+{
+    box->setText(QStringLiteral("Hartwell"));
+    enter();
+    for (const auto reason : {Qt::PopupFocusReason, Qt::MenuBarFocusReason, Qt::ActiveWindowFocusReason}) {
+        box->setSelStart(3);
+        QFocusEvent out(QEvent::FocusOut, reason);
+        QCoreApplication::sendEvent(editor(), &out);
+        QFocusEvent in(QEvent::FocusIn, reason);
+        QCoreApplication::sendEvent(editor(), &in);
+        EXPECT_EQ(3, box->SelStart()) << reason;
+    }
+}
+
+TEST_F(AllPurposeBox, AClickPutsTheCaretWhereItIsAimed)
+{
+    box->setMultiLine(true);
+    QString text;
+    for (int line = 1; line <= 40; ++line)
+        text += QStringLiteral("line %1\r\n").arg(line);
+    box->setText(text);
+    show();
+    other->setFocus();
+    editor()->verticalScrollBar()->setValue(0);
+    QTest::mouseClick(editor()->viewport(), Qt::LeftButton, {}, QPoint(20, 8));
+    EXPECT_TRUE(editor()->hasFocus());
+    EXPECT_EQ(0, editor()->textCursor().blockNumber());
+}
+
+TEST_F(AllPurposeBox, TabLeavesABoxOfOneLineAndOfSeveral)
+{
+    enter();
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(other->hasFocus());
+    box->setMultiLine(true);
+    box->setFocus();
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(other->hasFocus());
+    EXPECT_EQ(QString(), box->Text());
+}
+
+TEST_F(AllPurposeBox, ShiftAndReturnIsALineBreakLikeAnother)
+{
+    box->setMultiLine(true);
+    enter();
+    type(QStringLiteral("a"));
+    press(Qt::Key_Return, Qt::ShiftModifier);
+    type(QStringLiteral("b"));
+    EXPECT_EQ(QStringLiteral("a\r\nb"), box->Text());
+    EXPECT_EQ(2, editor()->blockCount());
+}
+
+TEST_F(AllPurposeBox, EnterInOneLinePressesTheDefaultButton)
+{
+    QDialog dialog;
+    QVBoxLayout layout(&dialog);
+    oAllPurposeBox line;
+    oAllPurposeBox lines;
+    lines.setMultiLine(true);
+    QPushButton save;
+    save.setDefault(true);
+    layout.addWidget(&line);
+    layout.addWidget(&lines);
+    layout.addWidget(&save);
+    QSignalSpy clicks(&save, &QPushButton::clicked);
+    dialog.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
+        clicks.clear();
+        line.setFocus();
+        QTest::keyClick(line.focusProxy(), key);
+        EXPECT_EQ(1, clicks.count());
+        lines.setFocus();
+        QTest::keyClick(lines.focusProxy(), key);
+        EXPECT_EQ(1, clicks.count());
+    }
+    EXPECT_EQ(QString(), line.Text());
+    EXPECT_EQ(QStringLiteral("\r\n\r\n"), lines.Text());
+}
+
+TEST_F(AllPurposeBox, EscReachesTheScreen)
+{
+    QDialog dialog;
+    QVBoxLayout layout(&dialog);
+    oAllPurposeBox lines;
+    lines.setMultiLine(true);
+    layout.addWidget(&lines);
+    QSignalSpy rejected(&dialog, &QDialog::rejected);
+    dialog.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    lines.setFocus();
+    QTest::keyClick(lines.focusProxy(), Qt::Key_Escape);
+    EXPECT_EQ(1, rejected.count());
+}
+
+TEST_F(AllPurposeBox, TheEditorBearsTheNameOfTheBox)
+{
+    box->setAccessibleName(QStringLiteral("Surname"));
+    show();
+    EXPECT_EQ(QStringLiteral("Surname"), editor()->accessibleName());
+}
+
+// Size
+
+TEST_F(AllPurposeBox, OneLineHasAFixedHeightAndSeveralGrow)
+{
+    window.resize(600, 400);
+    show();
+    EXPECT_EQ(qMax(30, box->fontMetrics().height() + 12), editor()->height());
+    EXPECT_FALSE(editor()->verticalScrollBar()->maximum() > 0);
+    const int oneLine = box->height();
+    box->setMultiLine(true);
+    box->setCharacterAllowance(100);
+    const int line = box->fontMetrics().height();
+    EXPECT_EQ(oneLine + 2 * line, box->sizeHint().height());
+    box->setCharacterAllowance(130);
+    EXPECT_EQ(oneLine + 3 * line, box->sizeHint().height());
+    box->setCharacterAllowance(770);
+    EXPECT_EQ(oneLine + 7 * line, box->sizeHint().height());
+    box->setCharacterAllowance(0);
+    EXPECT_EQ(oneLine + 7 * line, box->sizeHint().height());
+    QCoreApplication::processEvents();
+    EXPECT_GT(box->height(), box->sizeHint().height());
+}
+
+TEST_F(AllPurposeBox, ALargerFontMakesEverythingLarger)
+{
+    box->setCharacterAllowance(10);
+    const int height = box->sizeHint().height();
+    const int width = box->sizeHint().width();
+    QFont font = box->font();
+    font.setPointSizeF(font.pointSizeF() * 2);
+    box->setFont(font);
+    EXPECT_GE(box->sizeHint().height(), height * 3 / 2);
+    EXPECT_EQ(88, count()->width());
+    EXPECT_EQ(19, qRound(count()->font().pointSizeF()));
+    EXPECT_GE(box->sizeHint().width(), width * 3 / 2);
+}
+
+TEST_F(AllPurposeBox, ALongTextInOneLineDoesNotScrollDown)
+{
+    box->setText(QString(500, u'x'));
+    enter();
+    EXPECT_EQ(0, editor()->verticalScrollBar()->maximum());
+    EXPECT_TRUE(editor()->viewport()->rect().contains(editor()->cursorRect()));
+}

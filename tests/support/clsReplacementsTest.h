@@ -1,0 +1,35 @@
+#pragma once
+
+#include "formdata/clsZR3PreferencesDatabase.h"
+#include "shell/mdDatabasePath.h"
+#include "shell/mdGetResourceData.h"
+#include "shell/mdGlobals.h"
+#include "tests/shell/clsShellTest.h"
+
+/// A test in which the user has preferences, at first without abbreviations.
+class clsReplacementsTest : public clsShellTest {
+protected:
+    void SetUp() override
+    {
+        clsShellTest::SetUp();
+        make(QStringLiteral("program/Databases"));
+        make(QStringLiteral("program/Logs"));
+        put(path("program/Databases/Preferences Database.vzp"),
+            GetResourceData(QStringLiteral("xmlZR3PreferencesDatabase"), QStringLiteral("VELMORZR3XML")).toLatin1());
+        // Said outright: a window test's settings stay the same from one test to the next.
+        SetDatabasePath(path("program/Databases"));
+        Preferences = std::make_unique<clsZR3PreferencesDatabase>();
+    }
+    void TearDown() override
+    {
+        Preferences.reset();
+        clsShellTest::TearDown();
+    }
+
+    static void replace(const char *input, const char *output)
+    {
+        const auto replacement = Preferences->AddReplacement();
+        replacement->InputText = QString::fromUtf8(input);
+        replacement->OutputText = QString::fromUtf8(output);
+    }
+};

@@ -139,8 +139,8 @@ void oTypedText::focusOutEvent(QFocusEvent *event)
     if (!m_inside || isInterruption(event->reason()))
         return;
     m_inside = false;
-    const bool stays = isEnabled() && window()->isVisible() && isVisibleTo(window());
-    if (stays && validate())
+    // A box that is being disabled or hidden can't hold anybody.
+    if (isEnabled() && isVisible() && validate())
         emit Left();
 }
 

@@ -47,7 +47,8 @@ public:
             if (row.look != clsPreviewRowLook::Ordinary)
                 grid.setRowLook(grid.Rows(), row.look);
             for (const auto &[column, cell] : row.cells)
-                mdExportPreviewSetText(column, cell.text, cell.alignment, cell.bold, cell.underline, isMoney(column));
+                mdExportPreviewSetText(
+                    column, cell.text, cell.alignment, cell.bold, cell.underline, isMoney(column, cell));
         }
         mdExportPreviewDeInit();
     }
@@ -55,9 +56,9 @@ public:
     void paint() { benchmark::DoNotOptimize(m_sheet.grab()); }
 
 private:
-    bool isMoney(int column) const
+    bool isMoney(int column, const clsPreviewCell &cell) const
     {
-        return m_kind == clsPreviewKind::ScheduleOfTime && (column == 10 || column == 11 || column == 13);
+        return !cell.bold && m_kind == clsPreviewKind::ScheduleOfTime && (column == 10 || column == 11 || column == 13);
     }
     struct Row {
         clsPreviewRowLook look;

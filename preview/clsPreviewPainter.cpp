@@ -46,7 +46,9 @@ Qt::Alignment across(clsPreviewAlignment alignment)
 double layOut(QTextLayout &layout, int width, Qt::Alignment alignment)
 {
     QTextOption option(alignment);
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere); // nothing of a word without blanks is lost
+    // Nothing of a word without blanks is lost in a note; a caption is a word or two that are never broken.
+    option.setWrapMode(
+        alignment == Qt::AlignHCenter ? QTextOption::WordWrap : QTextOption::WrapAtWordBoundaryOrAnywhere);
     layout.setTextOption(option);
     double height = 0;
     layout.beginLayout();
@@ -107,7 +109,11 @@ int clsPreviewPainter::wrappedHeight(const clsPreviewCell &cell, int width) cons
 clsPreviewPainter::clsPlaced clsPreviewPainter::place(int row, int column, const QRect &rect) const
 {
     const clsPreviewCell &cell = m_model.cells.Cell(row, column);
-    const int padding = m_model.cells.RowLook(row) == clsPreviewRowLook::Joined ? 0 : m_padding;
+    int padding = m_padding;
+    if (m_model.cells.RowLook(row) == clsPreviewRowLook::Joined)
+        padding = 0;
+    else if (cell.alignment == clsPreviewAlignment::CentredWrapped)
+        padding = 1;
     const QRect padded = rect.adjusted(padding, 0, -padding, 0);
     if (cell.text.isEmpty())
         return {padded, true};
@@ -173,7 +179,7 @@ void clsPreviewPainter::paintCell(QPainter &painter, int row, int column, const 
     }
     QRect line = placed.rect;
     if (!middle)
-        line.setHeight(itemHeight());
+        line = QRect(line.left(), line.top() + m_gap / 2, line.width(), m_lineHeight);
     const QString shown
         = placed.fits ? cell.text : QFontMetrics(own).elidedText(cell.text, Qt::ElideRight, line.width());
     painter.drawText(line, int(alignment | Qt::AlignVCenter) | Qt::TextSingleLine, shown);

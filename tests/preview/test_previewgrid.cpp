@@ -278,6 +278,8 @@ TEST_F(PreviewGridControl, ALargerFontMakesHigherRows)
     QCoreApplication::processEvents();
     EXPECT_GT(grid().rowHeight(4), item * 3 / 2);
     EXPECT_EQ(10, grid().rowHeight(3));
+    mdDrawPreview(clsPreviewKind::ScheduleOfTime); // captions may take a second line, but no word is broken
+    EXPECT_LE(grid().RowHeight(3), 2 * grid().RowHeight(5));
     QApplication::setFont(before);
     QCoreApplication::processEvents();
     EXPECT_EQ(item, grid().rowHeight(4));

@@ -1,15 +1,13 @@
 #include "controls/oHeaderBar.h"
 
 #include "controls/mdIcons.h"
+#include "controls/mdLowWindow.h"
 #include "controls/mdTheme.h"
 
 #include <QEvent>
 #include <QPainter>
 
 namespace {
-
-/// A window lower than this has no room for a second line.
-constexpr int LowWindow = 620;
 
 constexpr int Line = Qt::TextSingleLine | Qt::AlignVCenter | Qt::AlignLeft;
 
@@ -114,7 +112,7 @@ bool oHeaderBar::eventFilter(QObject *watched, QEvent *event)
 void oHeaderBar::followWindow()
 {
     // A box of one message is low by nature and keeps its lines: it has no second one.
-    const bool low = !m_subCaption.isEmpty() && window()->height() < Theme::scaled(LowWindow);
+    const bool low = !m_subCaption.isEmpty() && mdIsLowWindow(window());
     if (low == m_low)
         return;
     m_low = low;

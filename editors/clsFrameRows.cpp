@@ -10,7 +10,6 @@
 namespace {
 
 constexpr int NarrowestLabels = 120;
-constexpr int WidestLabels = 300;
 constexpr int TickRowGap = 6;
 constexpr int AnswerGap = 6;
 
@@ -205,9 +204,11 @@ QHBoxLayout *clsFrameRows::cell(QWidget *control, bool wholeWidth)
     return m_cell;
 }
 
+/// Long captions of long texts stand above them. Those of short fields are wrapped instead, so that the boxes of a frame
+/// keep their common edge.
 bool clsFrameRows::standsAbove(const clsScreenRow &row) const
 {
-    return captionWidth(m_frame, row.caption) > Theme::scaled(WidestLabels);
+    return isTall(row) && captionWidth(m_frame, row.caption) > oFieldLabel::WidestBeside();
 }
 
 bool clsFrameRows::isAnswer(const clsScreenRow &row) const
@@ -233,7 +234,7 @@ int clsFrameRows::labelColumnWidth() const
         const bool beside = mdIsControl(row) && row.kind != clsRowKind::Button && !(row.flags & (SameRow | NoCaption))
             && !(answers && row.kind == clsRowKind::Tick) && !standsAbove(row);
         if (beside)
-            widest = qMax(widest, captionWidth(m_frame, row.caption));
+            widest = qMax(widest, qMin(captionWidth(m_frame, row.caption), oFieldLabel::WidestBeside()));
     }
     return widest;
 }

@@ -1,6 +1,7 @@
 #include "editors/frmSection.h"
 
 #include "controls/mdLeaveFocusedBox.h"
+#include "controls/mdLowWindow.h"
 #include "controls/mdTheme.h"
 #include "controls/oCheckBox.h"
 #include "controls/oHeaderBar.h"
@@ -166,11 +167,12 @@ void frmSection::Initialise(clsXMLRecord *item)
         for (const clsScreenField &field : m_fields)
             mdLoadControl(*field.row, *field.control, *m_record);
     emit Loaded();
+    mdSetNaturalHeight(*this, sizeHint().height());
     // The first field that can take it has the focus, unless the rules have put it elsewhere.
     for (const clsScreenField &field : m_fields) {
         if (focusWidget())
             break;
-        if (field.control->isEnabledTo(this) && field.control->focusPolicy() != Qt::NoFocus)
+        if (field.control->isEnabledTo(this) && (field.control->focusProxy() || field.control->focusPolicy()))
             field.control->setFocus(Qt::TabFocusReason);
     }
 }

@@ -1,10 +1,10 @@
 #include "editors/oScreenPage.h"
 
+#include "controls/mdLowWindow.h"
 #include "controls/mdTheme.h"
 #include "editors/oScreenFrame.h"
 
 #include <QApplication>
-#include <QResizeEvent>
 #include <QScrollBar>
 #include <QVBoxLayout>
 
@@ -12,8 +12,6 @@ namespace {
 
 constexpr int RoomForTwoColumns = 1040;
 constexpr int WidestContent = 1400;
-/// A window lower than this saves on its edges.
-constexpr int LowWindow = 620;
 /// The left column holds the boxes and is the wider one.
 constexpr int LeftShare = 4;
 constexpr int RightShare = 3;
@@ -99,10 +97,11 @@ QSize oScreenPage::minimumSizeHint() const
 
 void oScreenPage::resizeEvent(QResizeEvent *event)
 {
-    const bool low = window()->height() < Theme::scaled(LowWindow);
+    const bool low = mdIsLowWindow(window());
     const int edge = low ? Theme::Space16 : Theme::Space24;
     m_columns->setContentsMargins(edge, Theme::Space16, edge, Theme::Space16);
-    arrange(event->size().width());
+    // Not the width that the scroll bar leaves: its coming and going must not change the arrangement.
+    arrange(width());
     QScrollArea::resizeEvent(event);
 }
 

@@ -37,5 +37,4 @@ private:
 
     QBoxLayout *m_columns;
     std::vector<oScreenFrame *> m_frames;
-    bool m_low = false;
 };

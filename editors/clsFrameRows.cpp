@@ -204,8 +204,8 @@ QHBoxLayout *clsFrameRows::cell(QWidget *control, bool wholeWidth)
     return m_cell;
 }
 
-/// Long captions of long texts stand above them. Those of short fields are wrapped instead, so that the boxes of a frame
-/// keep their common edge.
+/// Long captions of long texts stand above them. Those of short fields are wrapped instead, so that the boxes of a
+/// frame keep their common edge.
 bool clsFrameRows::standsAbove(const clsScreenRow &row) const
 {
     return isTall(row) && captionWidth(m_frame, row.caption) > oFieldLabel::WidestBeside();

@@ -118,8 +118,7 @@ void frmSection::buildMenus()
         const QString section = QString::fromUtf8(jump.section);
         QAction *entry = jumpTo->addAction(letters.marked(section));
         entry->setObjectName(QString::fromUtf8(jump.menu));
-        connect(entry, &QAction::triggered, this,
-            [this, section, store = jump.menuStores] { JumpTo(section, store); });
+        connect(entry, &QAction::triggered, this, [this, section, store = jump.menuStores] { JumpTo(section, store); });
     }
 }
 

@@ -54,6 +54,12 @@ void oFieldLabel::setTopOfFirstLine(int top)
     setContentsMargins(0, top, 0, 0);
 }
 
+/// A layout asks for the width of the frame, also where the label takes less of it.
+int oFieldLabel::heightForWidth(int width) const
+{
+    return QLabel::heightForWidth(qMin(width, maximumWidth()));
+}
+
 bool oFieldLabel::event(QEvent *event)
 {
     if (event->type() != QEvent::Shortcut || !buddy())

@@ -29,6 +29,8 @@ public:
     /// Keeps the label level with a tall box's first line.
     void setTopOfFirstLine(int top);
 
+    int heightForWidth(int width) const override;
+
 protected:
     bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -76,7 +76,8 @@ int oScreenPage::heightFor(int width) const
 {
     arrange(width);
     const int inside = qMin(width, content()->maximumWidth());
-    return m_columns->hasHeightForWidth() ? m_columns->totalHeightForWidth(inside) : m_columns->totalSizeHint().height();
+    return m_columns->hasHeightForWidth() ? m_columns->totalHeightForWidth(inside)
+                                          : m_columns->totalSizeHint().height();
 }
 
 QSize oScreenPage::sizeHint() const

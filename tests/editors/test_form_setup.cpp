@@ -120,8 +120,8 @@ TEST_F(FormSetup, PageOneIsTickedAndDisabledForGood)
 TEST_F(FormSetup, TheTicksAreIndependentOfEachOther)
 {
     const auto screen = setup();
-    for (const char *name : {"chkCostsAssessedByLSC", "chkCostsAssessedByCourt", "chkExceptionalCaseFunding",
-             "chkMentalHealth", "chkVHCC"})
+    for (const char *name :
+        {"chkCostsAssessedByLSC", "chkCostsAssessedByCourt", "chkExceptionalCaseFunding", "chkMentalHealth", "chkVHCC"})
         QTest::mouseClick(&screen->Box(name), Qt::LeftButton, {}, QPoint(12, 12));
     press(*screen, "cmdClose");
     EXPECT_TRUE(Form->CostsAssessedByLSC() && Form->CostsAssessedByCourt() && Form->ExceptionalCaseFunding()

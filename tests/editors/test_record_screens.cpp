@@ -52,9 +52,9 @@ protected:
         default: QTest::keyClick(&control, Qt::Key_Down);
         }
         switch (field.kind) {
-        case 't': return QByteArray("Mark%20") + field.control;
+        case 't': return QByteArray("Mark+") + field.control;
         case 'd': return "03%2F04%2F21";
-        case 'm': return "12.30";
+        case 'm': return "12%2E30";
         case 'x': return static_cast<oCheckBox &>(control).Checked() ? "True" : "False";
         default: return "Claim1A";
         }
@@ -79,6 +79,8 @@ TEST_F(RecordScreens, EachFieldIsStoredInItsOwnElementAndShownAgain)
     for (const clsExpectedScreen &expected : ExpectedScreens) {
         for (const clsExpectedField &field : expected.fields) {
             Form = std::make_unique<clsZR3Form>();
+            // The template holds its rate with a plain point, which the first write encodes.
+            Form->VATRate = Form->VATRate();
             const auto screen = opened(QString::fromUtf8(expected.section));
             if (!screen->Box(field.control).isEnabled())
                 continue;
@@ -92,7 +94,7 @@ TEST_F(RecordScreens, EachFieldIsStoredInItsOwnElementAndShownAgain)
             EXPECT_FALSE(screen->isVisible()) << name;
             EXPECT_NE(before, contentOf(expected, field)) << name;
             EXPECT_EQ(content, contentOf(expected, field)) << name;
-            EXPECT_EQ(others, claimWithout(expected, field)) << name << ": another field has changed";
+            EXPECT_TRUE(others == claimWithout(expected, field)) << name << ": another field has changed";
             const QString value = shown(screen->Box(field.control));
             EXPECT_EQ(value, shown(created(QString::fromUtf8(expected.section))->Box(field.control))) << name;
         }

@@ -66,8 +66,8 @@ void EveryScreen::expectNothingCut(QSize size)
         EXPECT_TRUE(part->parentWidget()->rect().contains(own)) << name;
         EXPECT_GE(part->width(), part->minimumSizeHint().width()) << name;
         const auto *label = qobject_cast<QLabel *>(part);
-        const int needed = label && label->wordWrap() ? label->heightForWidth(label->width())
-                                                      : part->minimumSizeHint().height();
+        const int needed
+            = label && label->wordWrap() ? label->heightForWidth(label->width()) : part->minimumSizeHint().height();
         EXPECT_GE(part->height(), needed) << name;
         if (label && !label->wordWrap()) {
             EXPECT_GE(label->width(), label->fontMetrics().horizontalAdvance(mdPlainCaption(label->text()))) << name;
@@ -214,8 +214,14 @@ TEST_P(EveryScreen, NoLetterIsGivenTwice)
     for (const QChar letter : letters)
         EXPECT_EQ(1u, letters.count(letter)) << QString(letter).toStdString();
     EXPECT_EQ(1u, letters.count(u'F'));
-    EXPECT_EQ(hasClose() ? 0u : 1u, letters.count(u'S'));
-    EXPECT_EQ(hasClose() ? 1u : 0u, hasClose() ? letters.count(u'C') : 0u);
+    // The letters of the buttons are the same on every screen.
+    QStringList fixed;
+    for (const char *name : {"cmdSave", "cmdCancel", "cmdClose"})
+        if (const auto *button = screen->findChild<oCustomButton *>(QString::fromUtf8(name)))
+            fixed << button->text();
+    EXPECT_EQ(hasClose() ? QStringList {QStringLiteral("&Close")}
+                         : QStringList({QStringLiteral("&Save"), QStringLiteral("Ca&ncel")}),
+        fixed);
 }
 
 TEST_P(EveryScreen, TheLetterOfALabelLeadsToItsFieldAndTicksATick)
@@ -343,11 +349,9 @@ TEST_P(EveryScreen, HoldsWhatItsTableSays)
         EXPECT_EQ(QString::fromUtf8(field.frame), found.control->parentWidget()->objectName()) << name;
         if (*field.caption && !field.answer) {
             EXPECT_EQ(QString::fromUtf8(field.caption), mdPlainCaption(found.label->text())) << name;
-        }
-        else if (field.answer) {
+        } else if (field.answer) {
             EXPECT_EQ(QString::fromUtf8(field.answer), mdPlainCaption(found.label->text())) << name;
-        }
-        else
+        } else
             EXPECT_FALSE(found.label) << name;
         EXPECT_EQ(field.kind == 't', bool(qobject_cast<oAllPurposeBox *>(found.control))) << name;
         EXPECT_EQ(field.kind == 'd', bool(qobject_cast<oDateBox *>(found.control))) << name;

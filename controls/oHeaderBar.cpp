@@ -1,13 +1,16 @@
 #include "controls/oHeaderBar.h"
 
 #include "controls/mdIcons.h"
-#include "controls/mdLowWindow.h"
 #include "controls/mdTheme.h"
 
 #include <QEvent>
 #include <QPainter>
+#include <QScreen>
 
 namespace {
+
+/// On a screen lower than this there is no room for a second line.
+constexpr int LowScreen = 620;
 
 constexpr int Line = Qt::TextSingleLine | Qt::AlignVCenter | Qt::AlignLeft;
 
@@ -98,21 +101,13 @@ QSize oHeaderBar::minimumSizeHint() const
 void oHeaderBar::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
-    window()->installEventFilter(this);
-    followWindow();
+    followScreen();
 }
 
-bool oHeaderBar::eventFilter(QObject *watched, QEvent *event)
+void oHeaderBar::followScreen()
 {
-    if (event->type() == QEvent::Resize && watched == window())
-        followWindow();
-    return QWidget::eventFilter(watched, event);
-}
-
-void oHeaderBar::followWindow()
-{
-    // A box of one message is low by nature and keeps its lines: it has no second one.
-    const bool low = !m_subCaption.isEmpty() && mdIsLowWindow(window());
+    // The screen's height counts and not the window's: many windows are low because they hold little.
+    const bool low = screen()->availableGeometry().height() < Theme::scaled(LowScreen);
     if (low == m_low)
         return;
     m_low = low;

@@ -4,7 +4,7 @@
 
 /// The title of a screen: a tile with the glyph of its family, the caption and a line of explanation, on paper with a
 /// line below. As the header of the main window it shows the document instead, its folder paler than its name, and a
-/// chip at the right. On a low window everything stands in one line.
+/// chip at the right. On a low screen everything stands in one line.
 class oHeaderBar : public QWidget {
     Q_OBJECT
 
@@ -33,14 +33,13 @@ public:
 
 protected:
     void changeEvent(QEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:
     QFont captionFont(bool semibold = true) const;
     int tileSide() const;
-    void followWindow();
+    void followScreen();
     void describe();
     int paintChip(QPainter &painter) const;
     void paintTitle(QPainter &painter, const QRect &room) const;

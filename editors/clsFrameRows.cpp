@@ -51,6 +51,7 @@ void clsFrameRows::layOut()
         }
     }
     endPart();
+    m_frame.setLabelColumn(m_frame.m_labelColumn);
 }
 
 void clsFrameRows::beginPart()
@@ -173,7 +174,7 @@ void clsFrameRows::addBesideCaption(const clsScreenRow &row, QWidget *control)
     oFieldLabel *caption = label(row, oFieldLabel::Place::Beside, control);
     if (const auto *box = qobject_cast<oAllPurposeBox *>(control); box && box->MultiLine())
         caption->setTopOfFirstLine(box->topOfFirstLine());
-    m_grid->setColumnMinimumWidth(0, labelColumnWidth());
+    m_frame.m_labelColumn = labelColumnWidth();
     m_grid->addWidget(caption, m_line, 0);
     m_grid->addLayout(cell(control, false), m_line, 1);
     if (tick)
@@ -221,7 +222,7 @@ bool clsFrameRows::isTall(const clsScreenRow &row) const
     return row.kind == clsRowKind::Other || (row.kind == clsRowKind::Text && row.flags & MultiLine);
 }
 
-/// One width for the whole frame, also for its second part.
+/// One width for the whole frame, whichever part a label stands in.
 int clsFrameRows::labelColumnWidth() const
 {
     int widest = Theme::scaled(NarrowestLabels);

@@ -1,7 +1,6 @@
 #include "editors/frmSection.h"
 
 #include "controls/mdLeaveFocusedBox.h"
-#include "controls/mdLowWindow.h"
 #include "controls/mdTheme.h"
 #include "controls/oCheckBox.h"
 #include "controls/oHeaderBar.h"
@@ -166,7 +165,6 @@ void frmSection::Initialise(clsXMLRecord *item)
         for (const clsScreenField &field : m_fields)
             mdLoadControl(*field.row, *field.control, *m_record);
     emit Loaded();
-    mdSetNaturalHeight(*this, sizeHint().height());
     // The first field that can take it has the focus, unless the rules have put it elsewhere.
     for (const clsScreenField &field : m_fields) {
         if (focusWidget())

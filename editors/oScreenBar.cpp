@@ -1,6 +1,6 @@
 #include "editors/oScreenBar.h"
 
-#include "controls/mdLowWindow.h"
+#include "controls/mdLowScreen.h"
 #include "controls/mdTheme.h"
 #include "controls/oCustomButton.h"
 #include "controls/oLeftRightButton.h"
@@ -105,7 +105,7 @@ void oScreenBar::resizeEvent(QResizeEvent *event)
     QWidget::resizeEvent(event);
     for (oCustomButton *button : m_jumps)
         button->setVisible(width() >= Theme::scaled(RoomForJumps));
-    const bool low = mdIsLowWindow(window());
+    const bool low = mdIsOnLowScreen(*this);
     const int edge = low ? Theme::Space16 : Theme::Space24;
     const int gap = low ? Theme::Space8 : Theme::Space12;
     layout()->setContentsMargins(edge, gap, edge, gap);

@@ -1,6 +1,6 @@
 #include "editors/oScreenPage.h"
 
-#include "controls/mdLowWindow.h"
+#include "controls/mdLowScreen.h"
 #include "controls/mdTheme.h"
 #include "editors/oScreenFrame.h"
 
@@ -51,9 +51,13 @@ void oScreenPage::complete()
 {
     for (int i = 0; i < m_columns->count(); ++i) {
         auto *column = static_cast<QVBoxLayout *>(m_columns->itemAt(i)->layout());
+        int labels = 0;
+        for (int place = 0; place < column->count(); ++place)
+            labels = qMax(labels, static_cast<oScreenFrame *>(column->itemAt(place)->widget())->labelColumn());
         bool grows = false;
         for (int place = 0; place < column->count(); ++place) {
-            const auto *frame = static_cast<oScreenFrame *>(column->itemAt(place)->widget());
+            auto *frame = static_cast<oScreenFrame *>(column->itemAt(place)->widget());
+            frame->setLabelColumn(labels);
             column->setStretch(place, frame->grows() ? 1 : 0);
             grows = grows || frame->grows();
         }
@@ -98,7 +102,7 @@ QSize oScreenPage::minimumSizeHint() const
 
 void oScreenPage::resizeEvent(QResizeEvent *event)
 {
-    const bool low = mdIsLowWindow(window());
+    const bool low = mdIsOnLowScreen(*this);
     const int edge = low ? Theme::Space16 : Theme::Space24;
     m_columns->setContentsMargins(edge, Theme::Space16, edge, Theme::Space16);
     // Not the width that the scroll bar leaves: its coming and going must not change the arrangement.

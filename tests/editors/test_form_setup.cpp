@@ -197,3 +197,13 @@ TEST_F(FormSetup, ThePagesStandInFiveColumnsAndTheRateBesideItsTick)
     EXPECT_LT(tick.right(), rate.left());
     EXPECT_LE(qAbs(tick.center().y() - rate.center().y()), 1);
 }
+
+TEST_F(FormSetup, TheBoxesOfAColumnBeginAtOneEdge)
+{
+    const auto screen = setup();
+    const auto left = [&screen](const char *name) { return screen->Box(name).mapTo(screen.get(), QPoint()).x(); };
+    EXPECT_EQ(left("cmbFormType"), left("txtStageNumber"));
+    EXPECT_EQ(left("chkVAT"), left("chkVHCC"));
+    // A tick's visible edge lies inside the room for its ring.
+    EXPECT_EQ(left("cmbFormType"), left("chkVAT") + 4);
+}

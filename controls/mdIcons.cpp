@@ -237,7 +237,8 @@ void mdPaintTile(QPainter &painter, const QRectF &rectangle, const clsTile &tile
         painter.drawEllipse(rectangle);
     else
         painter.drawRoundedRect(rectangle, Theme::FrameCorner, Theme::FrameCorner);
-    const double inset = rectangle.width() / 4;
+    // A sign of one stroke or two is drawn larger than a picture.
+    const double inset = rectangle.width() / (tile.round ? 5 : 4);
     mdPaintGlyph(painter, rectangle.adjusted(inset, inset, -inset, -inset), tile.glyph, Theme::Paper);
     painter.restore();
 }

@@ -22,8 +22,12 @@ void oContentSwitcher::AddContent(QWidget *container, const QString &caption)
     frame->captionBar()->installEventFilter(this);
     auto *body = new QWidget(frame);
     auto *inset = new QVBoxLayout(body);
-    // One more above, for the line below the caption.
-    inset->setContentsMargins(Theme::Space12, Theme::Space12 + 1, Theme::Space12, Theme::Space12);
+    // A part of the margin lies in the container, as room for the rings of whatever stands at its edges. One more
+    // above is for the line below the caption.
+    constexpr int Ring = Theme::RingRoom;
+    constexpr int Outside = Theme::Space12 - Ring;
+    inset->setContentsMargins(Outside, Outside + 1, Outside, Outside);
+    container->setContentsMargins(Ring, Ring, Ring, Ring);
     inset->addWidget(container);
     container->show();
     frame->bodyLayout()->addWidget(body);

@@ -213,7 +213,7 @@ QRect oStyle::listRect(const QStyleOptionComboBox &option, SubControl part, cons
     QRect result = option.rect;
     switch (part) {
     // A line edit inside has a small margin of its own.
-    case SC_ComboBoxEditField: result.adjust(option.editable ? 4 : 8, 2, -listArrow(), -2); break;
+    case SC_ComboBoxEditField: result.adjust(option.editable ? 6 : 8, 2, -listArrow(), -2); break;
     case SC_ComboBoxArrow: result.setLeft(result.right() + 1 - listArrow()); break;
     case SC_ComboBoxListBoxPopup:
     case SC_ComboBoxFrame: return result;

@@ -1,5 +1,6 @@
 #include "controls/mdTheme.h"
 #include "controls/oContentSwitcher.h"
+#include "controls/oCustomButton.h"
 #include "controls/oFrame.h"
 
 #include <QAccessible>
@@ -186,6 +187,22 @@ TEST(ContentSwitcher, TakesTheContainersOver)
     for (int page = 1; page <= 3; ++page)
         EXPECT_TRUE(pages.frame(page)->isAncestorOf(pages.boxes[size_t(page - 1)]));
     EXPECT_EQ(QStringLiteral("Replacements"), pages.frame(2)->Caption());
+}
+
+TEST(ContentSwitcher, ButtonsAtTheEdgeOfAPageAlignWithItsBoxes)
+{
+    oContentSwitcher pages;
+    auto *container = new QWidget;
+    auto *column = new QVBoxLayout(container);
+    column->setContentsMargins(0, 0, 0, 0);
+    auto *box = new QLineEdit;
+    auto *button = new oCustomButton;
+    column->addWidget(box);
+    column->addWidget(button, 0, Qt::AlignLeft);
+    pages.AddContent(container, QStringLiteral("Rate Sets"));
+    pages.show();
+    EXPECT_EQ(box->x() - Theme::RingRoom, button->x());
+    EXPECT_GE(button->x(), 0) << "its ring is not cut";
 }
 
 TEST(ContentSwitcher, SwitchToLeavesThePageOpenWhenItReturns)

@@ -16,6 +16,8 @@
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
+#include <QtTest/qtestspontaneevent.h>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -44,7 +46,9 @@ void turnWheel(QWidget &over, int steps)
     const QPointF place(5, 5);
     QWheelEvent event(place, over.mapToGlobal(place), QPoint(), QPoint(0, steps * 120), Qt::NoButton, Qt::NoModifier,
         Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&over, &event);
+    // Only what seems to come from the desktop goes on to the parents.
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(&over, &event);
 }
 
 } // namespace
@@ -107,10 +111,11 @@ TEST(Style, AnInvalidLineEditBearsASignThatItsTextKeepsClearOf)
         for (int y = 4; y < picture.height() - 4; ++y)
             sign = sign || picture.pixelColor(x, y).red() > picture.pixelColor(x, y).green() + 100;
     EXPECT_TRUE(sign);
+    const QRect signsRoom(picture.width() - 24, 0, 24, picture.height());
     window.box->setText(QString(200, u'm'));
     const QImage full = window.box->grab().toImage();
-    for (int y = 4; y < full.height() - 4; ++y)
-        EXPECT_GT(full.pixelColor(full.width() - 4, y).lightness(), 200);
+    EXPECT_NE(picture, full);
+    EXPECT_EQ(picture.copy(signsRoom), full.copy(signsRoom));
 }
 
 TEST(Style, BoxesOfOneLineAreThirtyHighAtTenPoints)
@@ -148,7 +153,6 @@ TEST(Style, AWheelOverAListWithoutTheFocusScrollsThePage)
     page.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&page));
     page.setFocus();
-    std::fprintf(stderr, "max %d content %d vp %d\n", page.verticalScrollBar()->maximum(), content->height(), page.viewport()->height());
     turnWheel(*list, -1);
     EXPECT_EQ(1, list->currentIndex());
     EXPECT_GT(page.verticalScrollBar()->value(), 0);

@@ -1,12 +1,13 @@
 #include "controls/oDateBox.h"
 
+#include "controls/mdTheme.h"
+#include "controls/oCheckBox.h"
 #include "controls/oTypedText.h"
 #include "costing/mdDateText.h"
 #include "costing/mdTypedText.h"
 #include "shell/mdClock.h"
 
 #include <QBoxLayout>
-#include <QCheckBox>
 
 namespace {
 
@@ -30,17 +31,17 @@ const clsTypedKind Kind {
 } // namespace
 
 oDateBox::oDateBox(QWidget *parent)
-    : QWidget(parent)
+    : QFrame(parent)
     , txtText(oTypedText::inside(*this, Kind))
-    , chkShowDate(new QCheckBox(this))
+    , chkShowDate(new oCheckBox(this))
 {
     chkShowDate->setObjectName(QStringLiteral("chkShowDate"));
-    chkShowDate->setAccessibleName(tr("Has a date"));
+    chkShowDate->setCaption(tr("Has a date"));
     chkShowDate->setChecked(true);
     chkShowDate->setVisible(false);
     static_cast<QBoxLayout *>(layout())->insertWidget(0, chkShowDate);
     setTabOrder(chkShowDate, txtText);
-    connect(chkShowDate, &QCheckBox::toggled, this, &oDateBox::ticked);
+    connect(chkShowDate, &oCheckBox::Click, this, &oDateBox::ticked);
 }
 
 QString oDateBox::Text() const
@@ -62,6 +63,12 @@ void oDateBox::setShowTickBox(bool show)
 {
     m_showTickBox = show;
     chkShowDate->setVisible(show);
+    // The square of the focused tick stands out by this much: room that layouts take for the outside of the box, so
+    // that its visible edges line up with its neighbours'. The frame style makes it known.
+    const int room = show ? Theme::RingRoom : 0;
+    layout()->setContentsMargins(room, room, room, room);
+    setProperty("ringRoom", show);
+    setFrameStyle(QFrame::NoFrame);
 }
 
 void oDateBox::ticked(bool hasDate)

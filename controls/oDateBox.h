@@ -1,15 +1,15 @@
 #pragma once
 
-#include <QWidget>
+#include <QFrame>
 
-class QCheckBox;
+class oCheckBox;
 class oTypedText;
 
 /// A box for a date, with or without a tick in front of it. Leaving it, and a value that the program writes, give
 /// "dd/mm/yy"; what is no date is held. A date typed without its year falls into the year that was last used in any
 /// date box of the program. With the tick, no date is the text "31/12/29" outside and an empty box inside. See
 /// oTypedText.
-class oDateBox : public QWidget {
+class oDateBox : public QFrame {
     Q_OBJECT
     Q_PROPERTY(QString Text READ Text WRITE setText)
 
@@ -28,6 +28,6 @@ private:
     void ticked(bool hasDate);
 
     oTypedText *txtText;
-    QCheckBox *chkShowDate;
+    oCheckBox *chkShowDate;
     bool m_showTickBox = false;
 };

@@ -1,5 +1,6 @@
 #include "controls/oFooterBar.h"
 
+#include "controls/mdPaintControls.h"
 #include "controls/mdTheme.h"
 #include "controls/oTimeSpentBox.h"
 #include "shell/mdClock.h"
@@ -10,6 +11,7 @@
 #include <QLocale>
 #include <QPainter>
 #include <QProgressBar>
+#include <QStyleOption>
 
 #include <algorithm>
 #include <chrono>
@@ -18,7 +20,6 @@ namespace {
 
 constexpr int FooterRoomAboveAndBelow = 18;
 constexpr int BarWidth = 160;
-constexpr int BarHeight = 6;
 
 /// The text and a thin bar behind it; nothing at 0. Its `format` holds the text as it is: nothing in it is replaced.
 class clsFooterProgress final : public QProgressBar {
@@ -34,26 +35,17 @@ protected:
         if (value() <= 0 || maximum() <= 0)
             return;
         QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
         const int barWidth = Theme::scaled(BarWidth);
-        const int barHeight = Theme::scaled(BarHeight);
-        const QRectF bar(width() - barWidth, (height() - barHeight) / 2.0, barWidth, barHeight);
-        paintPart(painter, bar, Theme::Band);
-        paintPart(
-            painter, QRectF(bar.topLeft(), QSizeF(bar.width() * value() / maximum(), bar.height())), Theme::Purple);
+        QStyleOptionProgressBar option;
+        initStyleOption(&option);
+        option.rect.setLeft(width() - barWidth);
+        mdPaintProgressGroove(painter, option);
+        mdPaintProgress(painter, option);
 
         const QRect room(0, 0, width() - barWidth - Theme::Space12, height());
         painter.setPen(Theme::Ink2);
         painter.drawText(room, Qt::AlignRight | Qt::AlignVCenter,
             painter.fontMetrics().elidedText(format(), Qt::ElideMiddle, room.width()));
-    }
-
-private:
-    static void paintPart(QPainter &painter, const QRectF &part, const QColor &colour)
-    {
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(colour);
-        painter.drawRoundedRect(part, part.height() / 2, part.height() / 2);
     }
 };
 
@@ -62,16 +54,6 @@ QString dateTimeText(const QDateTime &dateTime)
 {
     static const QLocale british(QLocale::English, QLocale::UnitedKingdom);
     return british.toString(dateTime, QStringLiteral("d MMMM yyyy '|' HH:mm"));
-}
-
-/// The width of the widest text of a year.
-int dateTimeWidth(const QFontMetrics &metrics)
-{
-    int width = 0;
-    for (int month = 1; month <= 12; ++month)
-        width
-            = std::max(width, metrics.horizontalAdvance(dateTimeText(QDateTime(QDate(2000, month, 28), QTime(20, 0)))));
-    return width;
 }
 
 QLabel *addLabel(QWidget *parent, const QString &name)
@@ -117,7 +99,11 @@ oFooterBar::oFooterBar(QWidget *parent)
     m_timeSpentTimer->setObjectName(QStringLiteral("TimeSpentTimer"));
     m_timeSpentTimer->setAccessibleName(tr("Time spent"));
     lblDateTime->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    lblDateTime->setMinimumWidth(dateTimeWidth(lblDateTime->fontMetrics()));
+    // As wide as the widest text of a year, so that nothing moves at midnight.
+    for (int month = 1; month <= 12; ++month) {
+        lblDateTime->setText(dateTimeText(QDateTime(QDate(2000, month, 28), QTime(20, 0))));
+        lblDateTime->setMinimumWidth(std::max(lblDateTime->minimumWidth(), lblDateTime->sizeHint().width()));
+    }
 
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(Theme::Space16, 1, Theme::Space16, 0);

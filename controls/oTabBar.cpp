@@ -16,8 +16,16 @@
 
 namespace {
 
-constexpr int ButtonGap = 6;
 constexpr int ScrollStep = 80;
+
+/// A view as high as the row that it scrolls sideways.
+class clsRowView final : public QScrollArea {
+public:
+    using QScrollArea::QScrollArea;
+
+    QSize sizeHint() const override { return widget()->sizeHint(); }
+    QSize minimumSizeHint() const override { return {Theme::Space32, widget()->sizeHint().height()}; }
+};
 
 QAccessibleInterface *accessibleRow(const QString &, QObject *object)
 {
@@ -29,10 +37,15 @@ QAccessibleInterface *accessibleRow(const QString &, QObject *object)
 
 oTabBar::oTabBar(QWidget *parent)
     : QWidget(parent)
-    , m_view(new QScrollArea(this))
+    , m_tabOrder(new QWidget(this))
+    , m_view(new clsRowView(this))
 {
     [[maybe_unused]] static const bool installed = (QAccessible::installFactory(accessibleRow), true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+
+    // A new widget comes last in the order of its window. Only what takes the focus has a place in it; this takes none.
+    m_tabOrder->setFocusPolicy(Qt::ClickFocus);
+    m_tabOrder->hide();
 
     auto *tabs = new QWidget;
     m_buttons = new QHBoxLayout(tabs);
@@ -55,7 +68,10 @@ oTabBar::oTabBar(QWidget *parent)
     row->addWidget(m_scrollLeft);
     row->addWidget(m_view, 1);
     row->addWidget(m_scrollRight);
-    connect(m_view->horizontalScrollBar(), &QScrollBar::rangeChanged, this, &oTabBar::showScrollers);
+    // Later, here and on a change of size, since both come in the middle of a pass of the layout, which would place
+    // what is shown or hidden meanwhile as it was before.
+    connect(
+        m_view->horizontalScrollBar(), &QScrollBar::rangeChanged, this, &oTabBar::showScrollers, Qt::QueuedConnection);
     connect(m_view->horizontalScrollBar(), &QScrollBar::valueChanged, this, &oTabBar::showScrollers);
     setRow(Row::Tabs);
 }
@@ -80,12 +96,11 @@ void oTabBar::setRow(Row row)
 {
     m_row = row;
     const bool isTabs = row == Row::Tabs;
-    // The text of the first tab stands where the sheet of a screen begins.
-    m_buttons->setContentsMargins(Theme::scaled(isTabs ? Theme::Space8 : Theme::Space24), 0,
-        Theme::scaled(isTabs ? Theme::Space8 : Theme::Space24), 0);
-    m_buttons->setSpacing(isTabs ? 0 : Theme::scaled(ButtonGap));
-    const int above = isTabs ? 0 : Theme::scaled(Theme::Space4) + 1;
-    layout()->setContentsMargins(0, above, 0, isTabs ? 1 : above);
+    // The text of the first tab, and the edge of the first button, stand where the sheet of a screen begins.
+    const int side = isTabs ? Theme::Space8 : Theme::Space24 - Theme::RingRoom;
+    m_buttons->setContentsMargins(side, 0, side, 0);
+    m_buttons->setSpacing(0); // the room for the rings keeps the buttons apart
+    layout()->setContentsMargins(0, isTabs ? 0 : 1, 0, isTabs ? 1 : 2); // below stands the line
     for (const clsTab &tab : m_tabs)
         tab.button->setShape(isTabs ? oTabBarButton::Shape::Tab : oTabBarButton::Shape::Button);
     updateGeometry();
@@ -115,6 +130,7 @@ void oTabBar::AddButton(const QString &caption, const QString &tag)
     if (m_tabs.empty())
         m_buttons->addStretch(1);
     m_buttons->insertWidget(m_buttons->count() - 1, button);
+    setTabOrder(m_tabs.empty() ? m_tabOrder : m_tabs.back().button, button);
     m_tabs.push_back({button, tag});
     button->installEventFilter(this);
     connect(button, &oTabBarButton::clicked, this, [this, button] { clicked(button); });
@@ -180,7 +196,7 @@ void oTabBar::setTabStop(const oTabBarButton *stop)
 void oTabBar::showScrollers()
 {
     const QScrollBar *bar = m_view->horizontalScrollBar();
-    const bool tooWide = bar->maximum() > 0;
+    const bool tooWide = m_view->widget()->sizeHint().width() > width();
     for (QToolButton *scroller : {m_scrollLeft, m_scrollRight})
         scroller->setVisible(tooWide);
     m_scrollLeft->setEnabled(bar->value() > 0);
@@ -206,7 +222,7 @@ bool oTabBar::eventFilter(QObject *watched, QEvent *event)
 void oTabBar::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    showScrollers();
+    QMetaObject::invokeMethod(this, &oTabBar::showScrollers, Qt::QueuedConnection);
 }
 
 void oTabBar::paintEvent(QPaintEvent *)

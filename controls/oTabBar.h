@@ -60,6 +60,7 @@ private:
     int m_selected = 0;
     bool m_doRedraw = true;
     std::vector<clsTab> m_tabs;
+    QWidget *m_tabOrder; ///< where the row stands among the stops of the Tab key
     QScrollArea *m_view;
     QHBoxLayout *m_buttons;
     QToolButton *m_scrollLeft;

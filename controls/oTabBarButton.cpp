@@ -1,22 +1,13 @@
 #include "controls/oTabBarButton.h"
 
-#include "controls/mdTheme.h"
-
 #include <QAccessibleWidget>
 #include <QKeyEvent>
-#include <QPainter>
+#include <QStyleOption>
+#include <QStylePainter>
 
 #include <limits>
 
 namespace {
-
-constexpr double TabLine = 3; // under the chosen tab
-constexpr double RingWidth = 2; // of the focus
-constexpr int TabLineReach = 4; // of the line beyond the text at either side
-constexpr int TabPadding = Theme::Space16;
-constexpr int TabRoomAboveAndBelow = 20;
-constexpr int ButtonPadding = 15;
-constexpr int ButtonRoomAboveAndBelow = 12;
 
 /// What a screen reader is told of a text tab; toolkit buttons are told as buttons anyway.
 class clsAccessibleTab final : public QAccessibleWidget {
@@ -53,15 +44,6 @@ QAccessibleInterface *accessibleTab(const QString &, QObject *object)
     return button && button->shape() == oTabBarButton::Shape::Tab ? new clsAccessibleTab(button) : nullptr;
 }
 
-/// The outline of a rounded rectangle, inside the one given.
-void paintOutline(QPainter &painter, const QRectF &rectangle, double width, const QColor &colour)
-{
-    const double inset = width / 2;
-    painter.setPen(QPen(colour, width));
-    painter.drawRoundedRect(
-        rectangle.adjusted(inset, inset, -inset, -inset), Theme::ControlCorner, Theme::ControlCorner);
-}
-
 } // namespace
 
 oTabBarButton::oTabBarButton(const QString &caption, Shape shape, QWidget *parent)
@@ -72,12 +54,15 @@ oTabBarButton::oTabBarButton(const QString &caption, Shape shape, QWidget *paren
     setCaption(caption);
     setFocusPolicy(Qt::ClickFocus);
     setAttribute(Qt::WA_Hover);
+    setProperty("look", QStringLiteral("band")); // where it is drawn as a button
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
 void oTabBarButton::setCaption(const QString &caption)
 {
-    setText(caption);
+    m_caption = caption;
+    setText(
+        QString(caption).replace(u'&', QStringLiteral("&&"))); // no mnemonic: the row is moved through by the arrows
     setAccessibleName(caption);
 }
 
@@ -102,11 +87,13 @@ void oTabBarButton::setShape(Shape shape)
 
 QSize oTabBarButton::sizeHint() const
 {
-    // As wide as the semibold text, so that choosing a tab moves none.
-    const QFontMetrics metrics(Theme::font(0, m_shape == Shape::Tab));
-    const bool isTab = m_shape == Shape::Tab;
-    return {metrics.horizontalAdvance(text()) + 2 * Theme::scaled(isTab ? TabPadding : ButtonPadding),
-        metrics.height() + Theme::scaled(isTab ? TabRoomAboveAndBelow : ButtonRoomAboveAndBelow)};
+    const QSize textSize = fontMetrics().size(Qt::TextShowMnemonic, text());
+    if (m_shape == Shape::Tab) {
+        const QStyleOptionTab option = tabOption();
+        return style()->sizeFromContents(QStyle::CT_TabBarTab, &option, textSize, this);
+    }
+    const QStyleOptionButton option = buttonOption();
+    return style()->sizeFromContents(QStyle::CT_PushButton, &option, textSize, this);
 }
 
 void oTabBarButton::keyPressEvent(QKeyEvent *event)
@@ -134,47 +121,33 @@ bool oTabBarButton::event(QEvent *event)
 
 void oTabBarButton::paintEvent(QPaintEvent *)
 {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    if (m_shape == Shape::Tab)
-        paintTab(painter);
-    else
-        paintButton(painter);
-}
-
-void oTabBarButton::paintTab(QPainter &painter)
-{
-    const bool hovered = isEnabled() && underMouse();
-    painter.setFont(Theme::font(0, m_selected));
-    if (hovered || isDown())
-        painter.fillRect(rect(), isDown() ? Theme::Selected : Theme::Hover);
-    if (m_selected) {
-        const int textWidth = painter.fontMetrics().horizontalAdvance(text()) + 2 * Theme::scaled(TabLineReach);
-        const double line = Theme::scaled(TabLine);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(Theme::Purple);
-        painter.drawRoundedRect(QRectF((width() - textWidth) / 2.0, height() - line, textWidth, line), 1, 1);
-        painter.setBrush(Qt::NoBrush);
+    QStylePainter painter(this);
+    if (m_shape == Shape::Tab) {
+        const QStyleOptionTab option = tabOption();
+        painter.drawControl(QStyle::CE_TabBarTabShape, option);
+        painter.drawControl(QStyle::CE_TabBarTabLabel, option);
+    } else {
+        painter.drawControl(QStyle::CE_PushButton, buttonOption());
     }
-    if (hasFocus())
-        paintOutline(painter, rect().adjusted(2, 2, -2, -Theme::scaled(TabLine) - 2), RingWidth, Theme::Purple);
-    painter.setPen(!isEnabled() ? Theme::Ink3 : m_selected || hovered ? Theme::Purple : Theme::Ink2);
-    painter.drawText(rect(), Qt::AlignCenter, text());
 }
 
-void oTabBarButton::paintButton(QPainter &painter)
+QStyleOptionTab oTabBarButton::tabOption() const
 {
-    const bool hovered = isEnabled() && underMouse();
-    const QColor back = !isEnabled() ? Theme::Canvas
-        : isDown() || m_selected     ? Theme::Selected
-        : hovered                    ? Theme::Hover
-                                     : Theme::Paper;
-    painter.setBrush(back);
-    paintOutline(painter, rect(), 1, hovered || isDown() ? Theme::Purple : Theme::EdgeOff);
-    painter.setBrush(Qt::NoBrush);
-    if (hasFocus())
-        paintOutline(painter, rect(), RingWidth, Theme::Purple);
-    painter.setFont(Theme::font());
-    painter.setPen(!isEnabled() ? Theme::Ink3 : hovered || isDown() ? Theme::Purple : Theme::Ink);
-    painter.drawText(rect(), Qt::AlignCenter, text());
+    QStyleOptionTab option;
+    option.initFrom(this);
+    option.text = text();
+    option.state.setFlag(QStyle::State_Sunken, isDown());
+    option.state.setFlag(QStyle::State_Selected, m_selected);
+    return option;
+}
+
+QStyleOptionButton oTabBarButton::buttonOption() const
+{
+    QStyleOptionButton option;
+    option.initFrom(this);
+    option.text = text();
+    // While its screen is open, the button stays down.
+    option.state.setFlag(QStyle::State_Sunken, isDown());
+    option.state.setFlag(QStyle::State_On, m_selected);
+    return option;
 }

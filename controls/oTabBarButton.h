@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QStyleOptionButton>
+#include <QStyleOptionTab>
 
 /// One button of a tab row, drawn as a text tab or as a button. It knows nothing of its neighbours: the row says which
 /// one is selected and moves the focus when it is asked to.
@@ -12,7 +14,7 @@ public:
 
     oTabBarButton(const QString &caption, Shape shape, QWidget *parent);
 
-    QString Caption() const { return text(); }
+    QString Caption() const { return m_caption; }
     void setCaption(const QString &caption);
     bool Selected() const { return m_selected; }
     void setSelected(bool selected);
@@ -34,9 +36,10 @@ protected:
     bool event(QEvent *event) override;
 
 private:
-    void paintTab(QPainter &painter);
-    void paintButton(QPainter &painter);
+    QStyleOptionTab tabOption() const;
+    QStyleOptionButton buttonOption() const;
 
+    QString m_caption;
     Shape m_shape;
     bool m_selected = false;
 };

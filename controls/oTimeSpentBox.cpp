@@ -1,6 +1,7 @@
 #include "controls/oTimeSpentBox.h"
 
 #include "controls/mdTheme.h"
+#include "controls/oCustomButton.h"
 #include "controls/oTimeBox.h"
 #include "costing/mdTypedText.h"
 #include "formdata/clsZR3Form.h"
@@ -8,7 +9,6 @@
 #include "shell/mdGlobals.h"
 
 #include <QHBoxLayout>
-#include <QPushButton>
 
 #include <chrono>
 
@@ -17,7 +17,7 @@ oTimeSpentBox *TimeSpentBox = nullptr;
 oTimeSpentBox::oTimeSpentBox(QWidget *parent)
     : QWidget(parent)
     , txtTime(new oTimeBox(this))
-    , cmdStartStop(new QPushButton(this))
+    , cmdStartStop(new oCustomButton(this))
     , tmrTimer(this)
 {
     txtTime->setObjectName(QStringLiteral("txtTime"));
@@ -25,9 +25,8 @@ oTimeSpentBox::oTimeSpentBox(QWidget *parent)
     txtTime->setToolTip(tr("Time spent on this claim"));
     txtTime->setCompact();
     cmdStartStop->setObjectName(QStringLiteral("cmdStartStop"));
-    cmdStartStop->setProperty("look", QStringLiteral("small"));
+    cmdStartStop->setLook(oCustomButton::Look::Small);
     cmdStartStop->setFont(Theme::font(-1));
-    cmdStartStop->setAutoDefault(false);
     tmrTimer.setObjectName(QStringLiteral("tmrTimer"));
     tmrTimer.setInterval(std::chrono::minutes(1));
 
@@ -40,7 +39,7 @@ oTimeSpentBox::oTimeSpentBox(QWidget *parent)
 
     connect(&tmrTimer, &QTimer::timeout, this, &oTimeSpentBox::tick);
     connect(txtTime, &oTimeBox::Left, this, &oTimeSpentBox::writeToForm);
-    connect(cmdStartStop, &QPushButton::clicked, this, [this] { run(!tmrTimer.isActive()); });
+    connect(cmdStartStop, &oCustomButton::Click, this, [this] { run(!tmrTimer.isActive()); });
 
     // As wide as the wider caption from the start.
     run(true);
@@ -77,7 +76,7 @@ void oTimeSpentBox::run(bool runs)
         tmrTimer.stop();
     else if (!tmrTimer.isActive()) // a second start doesn't begin the minute anew
         tmrTimer.start();
-    cmdStartStop->setText(runs ? tr("Stop") : tr("Start"));
+    cmdStartStop->setCaption(runs ? tr("Stop") : tr("Start"));
 }
 
 void oTimeSpentBox::tick()

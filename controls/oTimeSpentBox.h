@@ -3,7 +3,7 @@
 #include <QTimer>
 #include <QWidget>
 
-class QPushButton;
+class oCustomButton;
 class oTimeBox;
 
 /// The running clock of the claim: a time, and a button that starts and stops it. It goes by whole minutes, and each
@@ -27,7 +27,7 @@ private:
     void writeToForm() const;
 
     oTimeBox *txtTime;
-    QPushButton *cmdStartStop;
+    oCustomButton *cmdStartStop;
     QTimer tmrTimer;
 };
 

@@ -44,7 +44,7 @@ oTypedText::oTypedText(QWidget &box, const clsTypedKind &kind)
 {
     setObjectName(QStringLiteral("txtText"));
     setAlignment(kind.alignment | Qt::AlignVCenter);
-    setMargins();
+    setTextMargins(Theme::Space4, 0, Theme::Space4, 0);
     mdGuardFocusedBoxes();
 }
 
@@ -94,7 +94,7 @@ void oTypedText::setCompact()
     m_compact = true;
     setAlignment(Qt::AlignCenter);
     setFont(Theme::font(-1));
-    setMargins();
+    setTextMargins(0, 0, 0, 0);
     updateGeometry();
 }
 
@@ -114,21 +114,12 @@ void oTypedText::setInvalid(bool invalid)
     if (invalid)
         back.setColor(QPalette::Base, Theme::Pink);
     setPalette(back);
-    setProperty("invalid", invalid);
-    setMargins();
+    setProperty("invalid", invalid); // the style draws the red edge and the sign
     const QString whatFits = invalid ? tr(m_kind.whatFits) : QString();
     setToolTip(whatFits);
     setAccessibleDescription(whatFits);
     QAccessibleEvent changed(this, QAccessible::DescriptionChanged);
     QAccessible::updateAccessibility(&changed);
-    update();
-}
-
-/// The sign of an invalid box stands at its right end, and the text keeps clear of it.
-void oTypedText::setMargins()
-{
-    const int side = m_compact ? 0 : Theme::Space4;
-    setTextMargins(side, 0, m_invalid ? side + fontMetrics().height() + Theme::Space4 : side, 0);
 }
 
 void oTypedText::focusInEvent(QFocusEvent *event)
@@ -148,8 +139,8 @@ void oTypedText::focusOutEvent(QFocusEvent *event)
     if (!m_inside || isInterruption(event->reason()))
         return;
     m_inside = false;
-    const bool stays = isEnabled() && window()->isVisible() && isVisibleTo(window());
-    if (stays && validate())
+    // A box that is being disabled or hidden can't hold anybody.
+    if (isEnabled() && isVisible() && validate())
         emit Left();
 }
 

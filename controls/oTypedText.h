@@ -60,7 +60,6 @@ private:
     oTypedText(QWidget &box, const clsTypedKind &kind);
 
     void setInvalid(bool invalid);
-    void setMargins();
 
     const clsTypedKind &m_kind;
     bool m_inside = false;

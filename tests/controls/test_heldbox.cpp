@@ -161,8 +161,8 @@ TEST_F(HeldBox, AClosingScreenValidatesNothing)
 TEST_F(HeldBox, TwoBadBoxesDoNotFight)
 {
     auto *txtSecond = add<oDateBox>("txtSecond");
-    txtSecond->setText(QStringLiteral("never"));
     typeBadDate();
+    txtSecond->setText(QStringLiteral("never"));
     QSignalSpy changes(qApp, &QApplication::focusChanged);
     press(inner(txtSecond));
     expectHeld();
@@ -196,9 +196,9 @@ TEST_F(HeldBox, AProgramThatWritesASecondBadDateDoesNotStartAFight)
 TEST_F(HeldBox, SeveralBadDatesOfOneRecordEndWithOneFocus)
 {
     auto *txtSecond = add<oDateBox>("txtSecond");
+    show();
     for (oDateBox *box : {txtDate, txtSecond, txtDate})
         box->setText(QStringLiteral("never"));
-    show();
     txtDate->setText(QStringLiteral("at no time"));
     txtSecond->setText(QStringLiteral("at no time"));
     EXPECT_TRUE(isPink(txtDate));
@@ -231,7 +231,8 @@ TEST_F(HeldBox, AnOpenMenuIsNoLeaving)
     menu.addAction(QStringLiteral("Paste"));
     QTimer::singleShot(0, &menu, &QMenu::close);
     menu.exec(screen.mapToGlobal(QPoint(1, 1)));
-    EXPECT_TRUE(has(txtDate));
+    screen.activateWindow(); // nobody else does that on the offscreen platform
+    EXPECT_TRUE(QTest::qWaitFor([this] { return has(txtDate); }, 1000));
     EXPECT_TRUE(isWhite(txtDate));
 }
 
@@ -266,7 +267,6 @@ TEST_F(HeldBox, APlainPlaceMayBeClicked)
 TEST_F(HeldBox, AScrollBarMoves)
 {
     QScrollArea area(&screen);
-    area.setFocusPolicy(Qt::NoFocus);
     auto *tall = new QWidget;
     tall->setMinimumHeight(1000);
     area.setWidget(tall);
@@ -280,15 +280,19 @@ TEST_F(HeldBox, AScrollBarMoves)
 
 TEST_F(HeldBox, ABoxThatIsDisabledOrHiddenLetsGo)
 {
+    auto *txtAmount = add<oDecimalBox>("txtAmount");
     typeBadDate();
-    txtDate->setEnabled(false);
-    EXPECT_FALSE(has(txtDate));
-    EXPECT_FALSE(inner(txtDate)->property("invalid").toBool());
-    txtDate->setEnabled(true);
-    type(txtDate, "31/02/24");
-    txtDate->hide();
-    EXPECT_FALSE(has(txtDate));
-    EXPECT_FALSE(inner(txtDate)->property("invalid").toBool());
+    for (QWidget *box : {static_cast<QWidget *>(txtDate), static_cast<QWidget *>(txtAmount)}) {
+        type(box, "31x");
+        box->setEnabled(false);
+        EXPECT_FALSE(has(box));
+        EXPECT_FALSE(inner(box)->property("invalid").toBool());
+        box->setEnabled(true);
+        type(box, "31x");
+        box->hide();
+        EXPECT_FALSE(has(box));
+        EXPECT_FALSE(inner(box)->property("invalid").toBool());
+    }
 }
 
 TEST_F(HeldBox, AHiddenPageLetsItsBoxGo)

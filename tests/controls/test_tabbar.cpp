@@ -220,20 +220,21 @@ TEST_F(TabBar, ScrollsWhereItIsTooNarrowAndNeverShrinksItsTexts)
     const std::vector widths {tab(1)->width(), tab(4)->width()};
     EXPECT_FALSE(scrollers->isVisible());
     window.resize(260, 200);
-    QTest::qWait(0);
+    auto *right = bar.findChildren<QToolButton *>().at(1);
+    ASSERT_TRUE(QTest::qWaitFor([right] { return right->isVisible() && right->width() > 0; }, 1000));
     ASSERT_LT(bar.width(), 300);
     EXPECT_EQ(widths, (std::vector {tab(1)->width(), tab(4)->width()}));
-    EXPECT_TRUE(scrollers->isVisible());
     tab(4)->setFocus();
     auto *view = bar.findChild<QScrollArea *>();
     EXPECT_GT(view->horizontalScrollBar()->value(), 0);
     const QRect seen(tab(4)->mapTo(view->viewport(), QPoint()), tab(4)->size());
     EXPECT_TRUE(view->viewport()->rect().contains(seen)) << "the focus comes into view";
-    const auto right = bar.findChildren<QToolButton *>().at(1);
     tab(1)->setFocus();
     const int left = view->horizontalScrollBar()->value();
     QTest::mouseClick(right, Qt::LeftButton);
     EXPECT_GT(view->horizontalScrollBar()->value(), left);
+    window.resize(1000, 200);
+    EXPECT_TRUE(QTest::qWaitFor([right] { return !right->isVisible(); }, 1000));
 }
 
 TEST_F(TabBar, ChoosingATabMovesNoneOfThem)

@@ -27,12 +27,6 @@ struct clsTypedText {
     void setSelStart(int position) { box.setSelStart(position); }
 };
 
-/// A length that is told for a font of 10 points.
-int scaled(const QFont &font, int length)
-{
-    return qRound(length * font.pointSizeF() / 10);
-}
-
 /// Boxes have one of three widths, so that a screen of them looks calm.
 int widthFor(int allowance, bool multiLine)
 {
@@ -166,22 +160,18 @@ void oAllPurposeBox::refreshCount()
     m_count->setAccessibleDescription(count.words);
     m_text->setAccessibleDescription(count.words);
     // Only a number of five figures needs more than the usual width.
-    m_count->setFixedWidth(qMax(scaled(font(), 44), m_count->sizeHint().width()));
+    m_count->setFixedWidth(qMax(Theme::scaled(44), m_count->sizeHint().width()));
 }
 
 void oAllPurposeBox::layOut()
 {
     const int allowance = m_characterAllowance;
     m_count->setVisible(allowance != 0);
-    // The colour of the count is its own, and so is its font; everything else is inherited.
-    QFont countFont = font();
-    countFont.setPointSizeF(countFont.pointSizeF() - 1);
-    countFont.setWeight(QFont::DemiBold);
-    m_count->setFont(countFont);
+    m_count->setFont(Theme::font(-1, true));
     m_count->setAlignment(Qt::AlignLeft | (MultiLine() ? Qt::AlignTop : Qt::AlignVCenter));
     const int lower = (m_text->fontMetrics().height() - m_count->fontMetrics().height() + 1) / 2;
     m_count->setContentsMargins(0, MultiLine() ? m_text->topOfFirstLine() + lower : 0, 0, 0);
-    m_text->setRoom(scaled(font(), widthFor(allowance, MultiLine())), linesFor(allowance));
+    m_text->setRoom(Theme::scaled(widthFor(allowance, MultiLine())), linesFor(allowance));
     setSizePolicy(m_text->sizePolicy());
     refreshCount();
 }

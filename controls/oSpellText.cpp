@@ -19,8 +19,6 @@ namespace {
 constexpr int SidePadding = 9;
 /// Of the document all round: little, so that a wide frame leaves a line its room.
 constexpr int DocumentMargin = 1;
-/// What the toolkit wants below the last line on top of that, or it lets the only line scroll.
-constexpr int RoomBelow = DocumentMargin + 1;
 
 /// How far two texts are alike, without ending within a character of two halves.
 int lengthOfCommonStart(const QString &first, const QString &second)
@@ -169,7 +167,8 @@ void oSpellText::layOut()
     const int inner = frameWidth() + DocumentMargin;
     const int padding = heightOfLines(1) - fontMetrics().height();
     const int above = qMax(0, padding / 2 - inner);
-    const int below = qMax(0, padding - 2 * inner - above - RoomBelow);
+    // None below a single line: if its room is the least bit too low, the toolkit lets it scroll.
+    const int below = m_multiLine ? qMax(0, padding - 2 * inner - above) : 0;
     const int side = qMax(0, SidePadding - inner);
     setViewportMargins(side, above, side, below);
     updateGeometry();
@@ -182,10 +181,7 @@ int oSpellText::topOfFirstLine() const
 
 int oSpellText::heightOfLines(int lines) const
 {
-    // A line and 6 above and below, but no less than 30 at 10 points, as lists and typed boxes have it.
-    const int line = fontMetrics().height();
-    const int least = qRound(30 * font().pointSizeF() / 10);
-    return qMax(line + Theme::Space12, least) + (lines - 1) * line;
+    return Theme::boxHeight(fontMetrics()) + (lines - 1) * fontMetrics().height();
 }
 
 QSize oSpellText::sizeHint() const

@@ -156,6 +156,7 @@ void oTabBar::setDoRedraw(bool redrawNow)
 
 void oTabBar::redraw()
 {
+    m_view->updateGeometry(); // a row that got its first button is higher than an empty one
     const oTabBarButton *stop = m_tabs.empty() ? nullptr : m_tabs.front().button;
     for (size_t i = 0; i < m_tabs.size(); ++i) {
         const bool selected = int(i) + 1 == m_selected;

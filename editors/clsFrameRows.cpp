@@ -10,7 +10,6 @@
 namespace {
 
 constexpr int NarrowestLabels = 120;
-constexpr int WidestLabels = 300;
 constexpr int TickRowGap = 6;
 constexpr int AnswerGap = 6;
 
@@ -52,6 +51,7 @@ void clsFrameRows::layOut()
         }
     }
     endPart();
+    m_frame.setLabelColumn(m_frame.m_labelColumn);
 }
 
 void clsFrameRows::beginPart()
@@ -174,7 +174,7 @@ void clsFrameRows::addBesideCaption(const clsScreenRow &row, QWidget *control)
     oFieldLabel *caption = label(row, oFieldLabel::Place::Beside, control);
     if (const auto *box = qobject_cast<oAllPurposeBox *>(control); box && box->MultiLine())
         caption->setTopOfFirstLine(box->topOfFirstLine());
-    m_grid->setColumnMinimumWidth(0, labelColumnWidth());
+    m_frame.m_labelColumn = labelColumnWidth();
     m_grid->addWidget(caption, m_line, 0);
     m_grid->addLayout(cell(control, false), m_line, 1);
     if (tick)
@@ -205,9 +205,11 @@ QHBoxLayout *clsFrameRows::cell(QWidget *control, bool wholeWidth)
     return m_cell;
 }
 
+/// Long captions of long texts stand above them. Those of short fields are wrapped instead, so that the boxes of a
+/// frame keep their common edge.
 bool clsFrameRows::standsAbove(const clsScreenRow &row) const
 {
-    return captionWidth(m_frame, row.caption) > Theme::scaled(WidestLabels);
+    return isTall(row) && captionWidth(m_frame, row.caption) > oFieldLabel::WidestBeside();
 }
 
 bool clsFrameRows::isAnswer(const clsScreenRow &row) const
@@ -220,7 +222,7 @@ bool clsFrameRows::isTall(const clsScreenRow &row) const
     return row.kind == clsRowKind::Other || (row.kind == clsRowKind::Text && row.flags & MultiLine);
 }
 
-/// One width for the whole frame, also for its second part.
+/// One width for the whole frame, whichever part a label stands in.
 int clsFrameRows::labelColumnWidth() const
 {
     int widest = Theme::scaled(NarrowestLabels);
@@ -233,7 +235,7 @@ int clsFrameRows::labelColumnWidth() const
         const bool beside = mdIsControl(row) && row.kind != clsRowKind::Button && !(row.flags & (SameRow | NoCaption))
             && !(answers && row.kind == clsRowKind::Tick) && !standsAbove(row);
         if (beside)
-            widest = qMax(widest, captionWidth(m_frame, row.caption));
+            widest = qMax(widest, qMin(captionWidth(m_frame, row.caption), oFieldLabel::WidestBeside()));
     }
     return widest;
 }

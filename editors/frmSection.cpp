@@ -117,8 +117,7 @@ void frmSection::buildMenus()
         const QString section = QString::fromUtf8(jump.section);
         QAction *entry = jumpTo->addAction(letters.marked(section));
         entry->setObjectName(QString::fromUtf8(jump.menu));
-        connect(entry, &QAction::triggered, this,
-            [this, section, store = jump.menuStores] { JumpTo(section, store); });
+        connect(entry, &QAction::triggered, this, [this, section, store = jump.menuStores] { JumpTo(section, store); });
     }
 }
 
@@ -170,7 +169,7 @@ void frmSection::Initialise(clsXMLRecord *item)
     for (const clsScreenField &field : m_fields) {
         if (focusWidget())
             break;
-        if (field.control->isEnabledTo(this) && field.control->focusPolicy() != Qt::NoFocus)
+        if (field.control->isEnabledTo(this) && (field.control->focusProxy() || field.control->focusPolicy()))
             field.control->setFocus(Qt::TabFocusReason);
     }
 }

@@ -25,8 +25,10 @@ void mdLoadMenuFromCollection(QMenu &menu, std::vector<clsMenuItem> items, QStri
 /// The same for a list of the claim or of the preferences, which stays in its own order.
 template <class Collection>
 void mdLoadMenuFromCollection(QMenu &menu, const Collection &collection, QStringView captionProperty,
-    QStringView sortProperty = {}, clsMenuOrder order = clsMenuOrder::Ascending)
-    requires requires { (*collection.begin())->Index; }
+    QStringView sortProperty = {}, clsMenuOrder order = clsMenuOrder::Ascending) requires requires
+{
+    (*collection.begin())->Index;
+}
 {
     std::vector<clsMenuItem> items;
     for (const auto &item : collection)

@@ -13,7 +13,6 @@
 #include "shell/clsRunTimeError.h"
 #include "shell/mdNumberText.h"
 
-
 namespace {
 
 /// The prefix of a control's name, as in "txtSurname".
@@ -88,8 +87,7 @@ void setTextOf(QWidget &control, const QString &text)
 /// Selects by place or by text. Of what it doesn't have, the list shows nothing.
 void loadList(QComboBox &list, const clsXMLField &field)
 {
-    const int entry
-        = field.property().kind == clsXMLKind::Long ? field.readLong() : list.findText(field.readText());
+    const int entry = field.property().kind == clsXMLKind::Long ? field.readLong() : list.findText(field.readText());
     list.setCurrentIndex(entry < list.count() ? entry : -1);
 }
 

@@ -2,7 +2,8 @@
 
 namespace {
 
-/// Where Prev and Next lead. `Same` stands for what the column before it says: the way does not depend on the form type.
+/// Where Prev and Next lead. `Same` stands for what the column before it says: the way does not depend on the form
+/// type.
 struct clsRoute {
     const char *section;
     const char *prevClaim1;

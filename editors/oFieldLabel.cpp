@@ -11,8 +11,14 @@ namespace {
 
 /// A line longer than this is hard to read.
 constexpr int WidestQuestion = 640;
+constexpr int WidestLabels = 300;
 
 } // namespace
+
+int oFieldLabel::WidestBeside()
+{
+    return Theme::scaled(WidestLabels);
+}
 
 oFieldLabel::oFieldLabel(const QString &caption, Place place, QWidget *parent)
     : QLabel(clsMnemonics::unmarked(caption), parent)
@@ -20,13 +26,18 @@ oFieldLabel::oFieldLabel(const QString &caption, Place place, QWidget *parent)
     , m_place(place)
 {
     setTextFormat(Qt::PlainText);
+    setWordWrap(place == Place::Above || (place == Place::Beside && sizeHint().width() > WidestBeside()));
     if (place == Place::Above) {
-        setWordWrap(true);
         setMaximumWidth(Theme::scaled(WidestQuestion));
         setAlignment(Qt::AlignLeft | Qt::AlignTop);
-        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Minimum);
+        // As high as its lines are at the width that it gets, and not at the one that it would like.
+        QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+        policy.setHeightForWidth(true);
+        setSizePolicy(policy);
     } else {
         setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        if (wordWrap())
+            setMaximumWidth(WidestBeside());
     }
 }
 
@@ -41,6 +52,12 @@ void oFieldLabel::setTopOfFirstLine(int top)
 {
     setAlignment(Qt::AlignRight | Qt::AlignTop);
     setContentsMargins(0, top, 0, 0);
+}
+
+/// A layout asks for the width of the frame, also where the label takes less of it.
+int oFieldLabel::heightForWidth(int width) const
+{
+    return QLabel::heightForWidth(qMin(width, maximumWidth()));
 }
 
 bool oFieldLabel::event(QEvent *event)

@@ -9,10 +9,13 @@ class oFieldLabel : public QLabel {
 
 public:
     enum class Place {
-        Beside, ///< left of its field, in the column of labels
+        Beside, ///< left of its field, in the column of labels, and wrapped where it is wider than the column
         Above, ///< over its field or answers, as wide as the frame
         Answer, ///< left of one of several answers to a question
     };
+
+    /// The widest that the column of labels becomes.
+    static int WidestBeside();
 
     oFieldLabel(const QString &caption, Place place, QWidget *parent);
 
@@ -25,6 +28,8 @@ public:
     void setTicks(bool ticks) { m_ticks = ticks; }
     /// Keeps the label level with a tall box's first line.
     void setTopOfFirstLine(int top);
+
+    int heightForWidth(int width) const override;
 
 protected:
     bool event(QEvent *event) override;

@@ -1,5 +1,6 @@
 #include "editors/oScreenBar.h"
 
+#include "controls/mdLowScreen.h"
 #include "controls/mdTheme.h"
 #include "controls/oCustomButton.h"
 #include "controls/oLeftRightButton.h"
@@ -13,7 +14,6 @@ namespace {
 
 /// A window narrower than this has no room for the jumps.
 constexpr int RoomForJumps = 820;
-constexpr int LowWindow = 620;
 
 /// The letters that these buttons have on every screen.
 struct clsFixedLetter {
@@ -105,7 +105,7 @@ void oScreenBar::resizeEvent(QResizeEvent *event)
     QWidget::resizeEvent(event);
     for (oCustomButton *button : m_jumps)
         button->setVisible(width() >= Theme::scaled(RoomForJumps));
-    const bool low = window()->height() < Theme::scaled(LowWindow);
+    const bool low = mdIsOnLowScreen(*this);
     const int edge = low ? Theme::Space16 : Theme::Space24;
     const int gap = low ? Theme::Space8 : Theme::Space12;
     layout()->setContentsMargins(edge, gap, edge, gap);

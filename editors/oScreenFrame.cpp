@@ -3,6 +3,7 @@
 #include "controls/mdTheme.h"
 #include "editors/clsFrameRows.h"
 
+#include <QGridLayout>
 #include <QPainter>
 #include <QVBoxLayout>
 
@@ -15,6 +16,15 @@ oScreenFrame::oScreenFrame(const clsScreenFrame &frame, QWidget *parent)
     m_parts->setSpacing(Theme::Space32);
     bodyLayout()->addLayout(m_parts, 1);
     clsFrameRows(*this, frame).layOut();
+}
+
+void oScreenFrame::setLabelColumn(int width)
+{
+    if (m_labelColumn == 0)
+        return;
+    m_labelColumn = width;
+    for (int part = 0; part < m_parts->count(); ++part)
+        static_cast<QGridLayout *>(m_parts->itemAt(part)->layout())->setColumnMinimumWidth(0, width);
 }
 
 void oScreenFrame::setSideBySide(bool sideBySide)

@@ -30,6 +30,10 @@ public:
     /// Whether a box in it grows with the window.
     bool grows() const { return m_grows; }
 
+    /// The width of the column of labels; 0 for a frame without one, which then has no use for another's.
+    int labelColumn() const { return m_labelColumn; }
+    void setLabelColumn(int width);
+
     /// Puts the parts of the frame side by side, or one below the other.
     void setSideBySide(bool sideBySide);
     /// The width below which something would be cut, with the parts one below the other.
@@ -46,4 +50,5 @@ private:
     std::vector<QWidget *> m_hairlines;
     QBoxLayout *m_parts;
     bool m_grows = false;
+    int m_labelColumn = 0;
 };

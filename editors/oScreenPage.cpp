@@ -1,10 +1,10 @@
 #include "editors/oScreenPage.h"
 
+#include "controls/mdLowScreen.h"
 #include "controls/mdTheme.h"
 #include "editors/oScreenFrame.h"
 
 #include <QApplication>
-#include <QResizeEvent>
 #include <QScrollBar>
 #include <QVBoxLayout>
 
@@ -12,8 +12,6 @@ namespace {
 
 constexpr int RoomForTwoColumns = 1040;
 constexpr int WidestContent = 1400;
-/// A window lower than this saves on its edges.
-constexpr int LowWindow = 620;
 /// The left column holds the boxes and is the wider one.
 constexpr int LeftShare = 4;
 constexpr int RightShare = 3;
@@ -53,9 +51,13 @@ void oScreenPage::complete()
 {
     for (int i = 0; i < m_columns->count(); ++i) {
         auto *column = static_cast<QVBoxLayout *>(m_columns->itemAt(i)->layout());
+        int labels = 0;
+        for (int place = 0; place < column->count(); ++place)
+            labels = qMax(labels, static_cast<oScreenFrame *>(column->itemAt(place)->widget())->labelColumn());
         bool grows = false;
         for (int place = 0; place < column->count(); ++place) {
-            const auto *frame = static_cast<oScreenFrame *>(column->itemAt(place)->widget());
+            auto *frame = static_cast<oScreenFrame *>(column->itemAt(place)->widget());
+            frame->setLabelColumn(labels);
             column->setStretch(place, frame->grows() ? 1 : 0);
             grows = grows || frame->grows();
         }
@@ -78,7 +80,8 @@ int oScreenPage::heightFor(int width) const
 {
     arrange(width);
     const int inside = qMin(width, content()->maximumWidth());
-    return m_columns->hasHeightForWidth() ? m_columns->totalHeightForWidth(inside) : m_columns->totalSizeHint().height();
+    return m_columns->hasHeightForWidth() ? m_columns->totalHeightForWidth(inside)
+                                          : m_columns->totalSizeHint().height();
 }
 
 QSize oScreenPage::sizeHint() const
@@ -99,10 +102,11 @@ QSize oScreenPage::minimumSizeHint() const
 
 void oScreenPage::resizeEvent(QResizeEvent *event)
 {
-    const bool low = window()->height() < Theme::scaled(LowWindow);
+    const bool low = mdIsOnLowScreen(*this);
     const int edge = low ? Theme::Space16 : Theme::Space24;
     m_columns->setContentsMargins(edge, Theme::Space16, edge, Theme::Space16);
-    arrange(event->size().width());
+    // Not the width that the scroll bar leaves: its coming and going must not change the arrangement.
+    arrange(width());
     QScrollArea::resizeEvent(event);
 }
 

@@ -19,7 +19,8 @@ public:
     QWidget *content() const { return widget(); }
     /// Puts a frame below the ones before, or at the top of the second column.
     void addFrame(oScreenFrame *frame, bool startsColumn);
-    /// Gives the height that is left over to the frames that grow, or leaves it below them. To be called once, at last.
+    /// Lets the frames of a column begin their boxes at one edge, and gives the height that is left over to those that
+    /// grow, or leaves it below them. To be called once, at last.
     void complete();
 
     /// The height that the frames take at a width of the page.
@@ -37,5 +38,4 @@ private:
 
     QBoxLayout *m_columns;
     std::vector<oScreenFrame *> m_frames;
-    bool m_low = false;
 };

@@ -36,6 +36,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScreen>
 #include <QScopedValueRollback>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -44,6 +45,7 @@ namespace {
 
 constexpr int AutoBackupMilliseconds = 10000;
 constexpr int SheetWidth = 1120;
+constexpr int AllTheRoom = 100000;
 
 /// The claim among what is dragged on to the window, empty where there is none or more than one.
 QString draggedClaim(const QMimeData &data)
@@ -106,7 +108,7 @@ void frmMain::build()
     auto *sheet = new QHBoxLayout(pctPreview);
     sheet->setContentsMargins(Theme::Space24, Theme::Space12, Theme::Space24, 0);
     sheet->addStretch(1);
-    sheet->addWidget(sgPreview, 1000);
+    sheet->addWidget(sgPreview, AllTheRoom);
     sheet->addStretch(1);
 
     auto *centre = new QWidget;
@@ -125,6 +127,9 @@ void frmMain::build()
 void frmMain::Load(const QString &claimPath)
 {
     setWindowState(Qt::WindowMaximized);
+    // The preview takes the widths of its columns from the sheet, and it is drawn before the window shows.
+    resize(screen()->availableSize());
+    sgPreview->resize(qMin(sgPreview->maximumWidth(), width() - 2 * Theme::Space24), height());
     Preferences = std::make_unique<clsZR3PreferencesDatabase>();
     PreviewGrid = sgPreview;
     TimeSpentBox = oFooter->TimeSpentTimer();
@@ -218,6 +223,16 @@ void frmMain::Activate()
     m_activationDone = !isActiveWindow();
 }
 
+void frmMain::showEvent(QShowEvent *event)
+{
+    QMainWindow::showEvent(event);
+    // Where the desktop gave the window another size than it asked for, the first drawing has not the sheet's width.
+    QTimer::singleShot(0, this, [this] {
+        if (m_loaded && m_drawnWidth != sgPreview->width())
+            drawPreview(m_previewKind);
+    });
+}
+
 bool frmMain::event(QEvent *event)
 {
     const bool handled = QMainWindow::event(event);
@@ -232,6 +247,7 @@ void frmMain::redraw(void (*routine)(clsPreviewKind))
         return;
     const QScopedValueRollback<bool> redrawing(m_redrawing, true);
     const clsLongWork work;
+    m_drawnWidth = sgPreview->width();
     routine(m_previewKind);
 }
 

@@ -70,6 +70,7 @@ protected:
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     bool event(QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     void build();
@@ -91,6 +92,7 @@ private:
 
     /// The kind of preview last shown.
     clsPreviewKind m_previewKind = clsPreviewKind::ScheduleOfTime;
+    int m_drawnWidth = 0;
     QString m_backupTag;
     QString m_nextSection;
     bool m_sectionOpen = false;

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "editors/frmSection.h"
+#include "editors/mdSections.h"
+#include "editors/mdUnloadAndDummyTabClick.h"
+#include "formdata/clsZR3Form.h"
+#include "shell/mdGlobals.h"
+#include "tests/support/clsFolderTest.h"
+#include "tests/support/clsScriptedUserInterface.h"
+#include "tests/support/mdTestPrinting.h"
+
+#include <QApplication>
+#include <QTest>
+
+#include <memory>
+
+/// A test of screens: a new claim, a scripted user, and windows that are shown without waiting for them to close.
+class clsScreenTest : public clsFolderTest {
+protected:
+    void SetUp() override { Form = std::make_unique<clsZR3Form>(); }
+    void TearDown() override
+    {
+        SetOpenSection(nullptr);
+        Form.reset();
+    }
+
+    /// The screen of a section, filled and shown.
+    static std::unique_ptr<frmSection> opened(const QString &section)
+    {
+        auto screen = created(section);
+        show(*screen);
+        return screen;
+    }
+    static std::unique_ptr<frmSection> created(const QString &section)
+    {
+        std::unique_ptr<frmSection> screen(dynamic_cast<frmSection *>(mdCreateScreen(section, nullptr)));
+        if (!screen)
+            throw std::runtime_error("no screen " + section.toStdString());
+        return screen;
+    }
+    static void show(frmSection &screen)
+    {
+        screen.resize(screen.sizeHint());
+        screen.show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&screen));
+    }
+
+    /// What the user's keys reach in a control: itself or the part that takes the focus for it.
+    static QWidget *focusPart(QWidget &control)
+    {
+        QWidget *part = &control;
+        while (part->focusProxy())
+            part = part->focusProxy();
+        return part;
+    }
+    /// Types a text over what stands in a box.
+    static void type(QWidget &box, const QString &text)
+    {
+        QWidget *part = focusPart(box);
+        part->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(part, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(part, Qt::Key_Delete);
+        QTest::keyClicks(part, text);
+    }
+    static void press(frmSection &screen, const char *button)
+    {
+        auto *found = screen.findChild<QWidget *>(QString::fromUtf8(button));
+        ASSERT_TRUE(found) << button;
+        QTest::mouseClick(found, Qt::LeftButton);
+    }
+    /// The field of the screen that the focus is in, or nothing.
+    static const clsScreenField *focusedField(const frmSection &screen)
+    {
+        for (const clsScreenField &field : screen.Fields()) {
+            const QWidget *focused = screen.focusWidget();
+            if (focused && (field.control == focused || field.control->isAncestorOf(focused)))
+                return &field;
+        }
+        return nullptr;
+    }
+    static QString focusedName(const frmSection &screen)
+    {
+        const clsScreenField *field = focusedField(screen);
+        return field ? field->control->objectName() : QString();
+    }
+
+    clsScriptedUserInterface user;
+
+private:
+    clsUserInterfaceScope m_scope {user};
+};

@@ -1,118 +1,19 @@
-#include "shell/clsFileSystem.h"
-#include "shell/frmMain.h"
-#include "shell/frmSplash.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGetResourceData.h"
+#include "shell/clsFileSystem.h"
+#include "shell/frmSplash.h"
 #include "shell/mdGlobals.h"
-#include "shell/mdProgramFolder.h"
-#include "shell/mdSubMain.h"
-#include "shell/oApplication.h"
-#include "controls/oHeaderBar.h"
 #include "tests/support/mdTestPaths.h"
 #include "tests/support/mdTestPrinting.h"
+#include "tests/window/clsProgramTest.h"
 
-#include <QDir>
-#include <QElapsedTimer>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
-
-#include <gtest/gtest.h>
-
 #include <csignal>
-#include <vector>
+
+Q_COREAPP_STARTUP_FUNCTION(startTicking)
 
 namespace {
 
-/// What a run of the program is watched by: it is asked every few milliseconds, from the first event on.
-std::function<void()> onTick;
-
-void startTicking()
-{
-    if (!onTick)
-        return;
-    auto *ticker = new QTimer(QCoreApplication::instance());
-    QObject::connect(ticker, &QTimer::timeout, ticker, [] { onTick(); });
-    ticker->start(5);
-}
-Q_COREAPP_STARTUP_FUNCTION(startTicking)
-
-template <class Window> Window *topLevel()
-{
-    for (QWidget *widget : QApplication::topLevelWidgets())
-        if (auto *window = qobject_cast<Window *>(widget))
-            return window;
-    return nullptr;
-}
-
-/// Runs of the whole program within this process.
-class Program : public testing::Test {
-protected:
-    void SetUp() override
-    {
-        ASSERT_TRUE(folder.isValid());
-        for (const char *name : {"program/Databases", "claims", "config", "state"})
-            ASSERT_TRUE(QDir(folder.path()).mkpath(QString::fromLatin1(name)));
-        SetProgramFolder(path("program"));
-        qputenv("XDG_CONFIG_HOME", QFile::encodeName(path("config")));
-        qputenv("XDG_CONFIG_DIRS", QFile::encodeName(path("machine")));
-        qputenv("XDG_STATE_HOME", QFile::encodeName(path("state")));
-        QFile file(path("program/Databases/Preferences Database.vzp"));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(
-            GetResourceData(QStringLiteral("xmlZR3PreferencesDatabase"), QStringLiteral("VELMORZR3XML")).toLatin1());
-    }
-    void TearDown() override
-    {
-        onTick = nullptr;
-        SetProgramFolder(QString());
-    }
-
-    QString path(const char *relative) const { return folder.filePath(QString::fromUtf8(relative)); }
-
-    /// The status of the program, watched by a step that is asked until it says that it is done.
-    int run(const std::vector<QByteArray> &arguments, std::function<bool()> step)
-    {
-        QElapsedTimer patience;
-        patience.start();
-        bool done = false;
-        onTick = [&] {
-            if (!done && step())
-                done = true;
-            else if (patience.elapsed() > 20000) {
-                ADD_FAILURE() << "the program does not come to its end";
-                oApplication::instance()->end(99);
-            }
-        };
-        std::vector<QByteArray> held = arguments;
-        held.insert(held.begin(), "velmor-zr3");
-        std::vector<char *> argv;
-        for (QByteArray &argument : held)
-            argv.push_back(argument.data());
-        argv.push_back(nullptr);
-        const int status = RunProgram(int(held.size()), argv.data());
-        EXPECT_TRUE(done);
-        return status;
-    }
-
-    static QString header()
-    {
-        const auto *window = topLevel<frmMain>();
-        return window && window->isVisible() ? window->findChild<oHeaderBar *>()->Caption() : QString();
-    }
-    static bool press(const QString &title, QMessageBox::StandardButton button)
-    {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (!box || box->windowTitle() != title)
-            return false;
-        box->button(button)->click();
-        return true;
-    }
-
-    QTemporaryDir folder;
-};
+using Program = clsProgramTest;
 
 } // namespace
 

@@ -126,9 +126,9 @@ void frmMain::build()
 
 void frmMain::Load(const QString &claimPath)
 {
-    setWindowState(Qt::WindowMaximized);
     // The preview takes the widths of its columns from the sheet, and it is drawn before the window shows.
     resize(screen()->availableSize());
+    setWindowState(Qt::WindowMaximized);
     sgPreview->resize(qMin(sgPreview->maximumWidth(), width() - 2 * Theme::Space24), height());
     Preferences = std::make_unique<clsZR3PreferencesDatabase>();
     PreviewGrid = sgPreview;

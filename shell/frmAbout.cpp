@@ -12,11 +12,26 @@
 #include "shell/oButtonBar.h"
 #include "wordexport/clsMSWord.h"
 
+#include <QFocusEvent>
 #include <QFormLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 
 namespace {
+
+/// A link that is marked as soon as the Tab key reaches it, so that Enter opens it.
+class oLink final : public QLabel {
+public:
+    using QLabel::QLabel;
+
+protected:
+    void focusInEvent(QFocusEvent *event) override
+    {
+        QLabel::focusInEvent(event);
+        if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
+            focusNextPrevChild(event->reason() == Qt::TabFocusReason);
+    }
+};
 
 QString companyInfo(const char *name)
 {
@@ -89,7 +104,7 @@ void frmAbout::addRow(QFormLayout &rows, const QString &caption, const char *nam
 void frmAbout::addLink(
     QFormLayout &rows, const QString &caption, const char *name, const QString &text, const QString &target)
 {
-    auto *content = new QLabel(bxGeneral);
+    auto *content = new oLink(bxGeneral);
     content->setTextFormat(Qt::RichText);
     content->setText(QStringLiteral("<a href=\"%1\">%2</a>").arg(target.toHtmlEscaped(), text.toHtmlEscaped()));
     content->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);

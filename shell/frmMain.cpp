@@ -1,7 +1,6 @@
 #include "shell/frmMain.h"
 
 #include "controls/mdShowModal.h"
-#include "controls/mdTheme.h"
 #include "controls/oFooterBar.h"
 #include "controls/oHeaderBar.h"
 #include "controls/oTabBar.h"
@@ -13,6 +12,7 @@
 #include "formdata/clsZR3PreferencesDatabase.h"
 #include "preview/mdPreview.h"
 #include "preview/oPreviewGrid.h"
+#include "preview/oPreviewSheet.h"
 #include "shell/clsLongWork.h"
 #include "shell/frmAbout.h"
 #include "shell/mdAutoDeleteBackups.h"
@@ -32,10 +32,10 @@
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QFileInfo>
-#include <QHBoxLayout>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QResizeEvent>
 #include <QScreen>
 #include <QScopedValueRollback>
 #include <QTimer>
@@ -44,8 +44,6 @@
 namespace {
 
 constexpr int AutoBackupMilliseconds = 10000;
-constexpr int SheetWidth = 1120;
-constexpr int AllTheRoom = 100000;
 
 /// The claim among what is dragged on to the window, empty where there is none or more than one.
 QString draggedClaim(const QMimeData &data)
@@ -63,8 +61,8 @@ frmMain::frmMain(QWidget *parent)
     , oHeader(new oHeaderBar)
     , tbSection(new oTabBar)
     , tbSubSection(new oTabBar)
-    , pctPreview(new QWidget)
-    , sgPreview(new oPreviewGrid(pctPreview))
+    , pctPreview(new oPreviewSheet)
+    , sgPreview(pctPreview->Grid())
     , oFooter(new oFooterBar)
     , tmrAutoBackup(new QTimer(this))
 {
@@ -97,19 +95,9 @@ void frmMain::build()
     tbSection->setRow(oTabBar::Row::Tabs);
     tbSubSection->setObjectName(QStringLiteral("tbSubSection"));
     tbSubSection->setRow(oTabBar::Row::Buttons);
-    pctPreview->setObjectName(QStringLiteral("pctPreview"));
-    sgPreview->setObjectName(QStringLiteral("sgPreview"));
-    sgPreview->setMaximumWidth(Theme::scaled(SheetWidth));
     oFooter->setObjectName(QStringLiteral("oFooter"));
     tmrAutoBackup->setObjectName(QStringLiteral("tmrAutoBackup"));
     tmrAutoBackup->setInterval(AutoBackupMilliseconds);
-
-    // The sheet stands in the middle and reaches down to the footer, as paper on a desk.
-    auto *sheet = new QHBoxLayout(pctPreview);
-    sheet->setContentsMargins(Theme::Space24, Theme::Space12, Theme::Space24, 0);
-    sheet->addStretch(1);
-    sheet->addWidget(sgPreview, AllTheRoom);
-    sheet->addStretch(1);
 
     auto *centre = new QWidget;
     auto *layout = new QVBoxLayout(centre);
@@ -126,10 +114,12 @@ void frmMain::build()
 
 void frmMain::Load(const QString &claimPath)
 {
-    setWindowState(Qt::WindowMaximized);
     // The preview takes the widths of its columns from the sheet, and it is drawn before the window shows.
     resize(screen()->availableSize());
-    sgPreview->resize(qMin(sgPreview->maximumWidth(), width() - 2 * Theme::Space24), height());
+    setWindowState(Qt::WindowMaximized);
+    pctPreview->resize(size());
+    QResizeEvent placed(size(), QSize());
+    QCoreApplication::sendEvent(pctPreview, &placed);
     Preferences = std::make_unique<clsZR3PreferencesDatabase>();
     PreviewGrid = sgPreview;
     TimeSpentBox = oFooter->TimeSpentTimer();

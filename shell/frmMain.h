@@ -13,6 +13,7 @@ class QTimer;
 class oFooterBar;
 class oHeaderBar;
 class oPreviewGrid;
+class oPreviewSheet;
 class oTabBar;
 
 /// The one top-level window: a launcher and a display. Everything that is edited is edited on modal screens that it
@@ -85,7 +86,7 @@ private:
     oHeaderBar *oHeader;
     oTabBar *tbSection;
     oTabBar *tbSubSection;
-    QWidget *pctPreview;
+    oPreviewSheet *pctPreview;
     oPreviewGrid *sgPreview;
     oFooterBar *oFooter;
     QTimer *tmrAutoBackup;

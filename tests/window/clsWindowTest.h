@@ -4,6 +4,7 @@
 #include "formdata/clsZR3PreferencesDatabase.h"
 #include "shell/clsFileSystem.h"
 #include "shell/mdClock.h"
+#include "shell/mdDatabasePath.h"
 #include "shell/mdGetResourceData.h"
 #include "shell/mdGlobals.h"
 #include "shell/mdLog.h"
@@ -19,18 +20,17 @@
 
 #include <gtest/gtest.h>
 
-/// A test of windows: a program folder and a configuration of its own, a scripted user, and no claim and no preferences
-/// left behind.
+/// A test of windows: a program folder of its own, no stored database folder, a scripted user, and no claim and no
+/// preferences left behind.
 class clsWindowTest : public testing::Test {
 protected:
     void SetUp() override
     {
         ASSERT_TRUE(folder.isValid());
-        for (const char *name : {"program/Databases", "program/Logs", "claims", "config"})
+        for (const char *name : {"program/Databases", "program/Logs", "claims"})
             ASSERT_TRUE(QDir(folder.path()).mkpath(QString::fromLatin1(name)));
         SetProgramFolder(path("program"));
-        qputenv("XDG_CONFIG_HOME", QFile::encodeName(path("config")));
-        qputenv("XDG_CONFIG_DIRS", QFile::encodeName(path("machine")));
+        SetDatabasePath(QString());
         writePreferences({});
     }
     void TearDown() override
@@ -50,9 +50,9 @@ protected:
     {
         QString text = GetResourceData(QStringLiteral("xmlZR3PreferencesDatabase"), QStringLiteral("VELMORZR3XML"));
         for (const char *name : switchedOn) {
-            const QString off = QStringLiteral("<%1>False</%1>").arg(QString::fromLatin1(name));
+            const QString off = QStringLiteral("<%1>False</%1>").arg(QString::fromLatin1(name).toLower());
             ASSERT_TRUE(text.contains(off)) << name;
-            text.replace(off, QStringLiteral("<%1>True</%1>").arg(QString::fromLatin1(name)));
+            text.replace(off, QString(off).replace(QLatin1String("False"), QLatin1String("True")));
         }
         QFile file(path("program/Databases/Preferences Database.vzp"));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));

@@ -37,9 +37,16 @@ protected:
     }
     static QString addItem()
     {
+        const auto group = Form->AddFeeEarnerGroup();
+        for (const char *rate : {"HourlyRate", "AdvocacyRate", "CounselRate", "TravelAndWaitingRate"})
+            group->field(QString::fromLatin1(rate))->writeText(QStringLiteral("60.00"));
+        group->EnhancementRate = QStringLiteral("0.00");
+        const auto earner = Form->AddFeeEarner();
+        earner->GroupUniqueID = group->UniqueID();
         const auto item = Form->AddScheduleOfTimeItem();
+        item->FeeEarnerUniqueID = earner->UniqueID();
         item->OrderID = 1;
-        item->ItemCode = QStringLiteral("ASI");
+        item->Code = QStringLiteral("ASI");
         item->TTime = QStringLiteral("07:37");
         return item->TTime();
     }

@@ -141,6 +141,7 @@ TEST_F(Sections, TabsWorkByKeyboard)
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     EXPECT_EQ(2, row("tbSection").SelectedIndex());
+    QCoreApplication::processEvents(); // the new row shows
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);

@@ -1,3 +1,4 @@
+#include "controls/mdTheme.h"
 #include "controls/oTimeSpentBox.h"
 #include "preview/oPreviewGrid.h"
 #include "shell/clsLongWork.h"
@@ -223,7 +224,26 @@ TEST_F(MainWindow, TheSheetStandsInTheMiddleDownToTheFooter)
     EXPECT_EQ(row("tbSubSection").geometry().bottom() + 1, area.geometry().top());
     EXPECT_NEAR(area.width() / 2.0, preview().geometry().center().x(), 1.0);
     EXPECT_EQ(area.height() - 1, preview().geometry().bottom());
-    EXPECT_LE(preview().width(), 1120 * 2);
+    EXPECT_LE(preview().width(), Theme::scaled(1120));
+}
+
+TEST_F(MainWindow, TheFirstDrawingHasTheWidthOfTheSheetThatIsShown)
+{
+    for (const bool maximised : {true, false}) {
+        window = std::make_unique<frmMain>();
+        window->Load({});
+        if (!maximised) { // as on a desktop that gives the window another size than it asked for
+            window->setWindowState(Qt::WindowNoState);
+            window->resize(1300, 700);
+        }
+        show(*window);
+        QTest::qWait(20);
+        int columns = 0;
+        for (int i = 1; i <= preview().Columns(); ++i)
+            columns += preview().ColumnWidth(i);
+        EXPECT_GT(columns, preview().width() * 9 / 10) << maximised;
+        EXPECT_LT(columns, preview().width()) << maximised;
+    }
 }
 
 TEST_F(MainWindow, ClosingACleanClaimEndsTheProgram)

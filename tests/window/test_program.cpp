@@ -6,7 +6,9 @@
 #include "tests/support/mdTestPrinting.h"
 #include "tests/window/clsProgramTest.h"
 
+#include <QAction>
 #include <QTest>
+
 #include <csignal>
 
 Q_COREAPP_STARTUP_FUNCTION(startTicking)
@@ -127,4 +129,36 @@ TEST_F(Program, ASignalToEndSetsTheUnsavedClaimAside)
     QFile copy(path("program/Databases/Recovered/") + copies.first());
     ASSERT_TRUE(copy.open(QIODevice::ReadOnly));
     EXPECT_TRUE(copy.readAll().contains("Hartwell"));
+}
+
+TEST_F(Program, AnExportWithoutItsTemplatesEndsTheProgramAndKeepsTheClaim)
+{
+    ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("out")));
+    bool asked = false, pressed = false;
+    QString text;
+    EXPECT_EQ(1, run({}, [&] {
+        QWidget *modal = QApplication::activeModalWidget();
+        if (!modal && !header().isEmpty() && !asked) {
+            asked = true;
+            Form->ExportPath = path("out");
+            auto *entry = topLevel<frmMain>()->findChild<QAction *>(QStringLiteral("mnuExportToWord"));
+            QTimer::singleShot(0, entry, &QAction::trigger);
+        } else if (modal && modal->objectName() == QLatin1String("frmExportToWord") && !pressed) {
+            pressed = true;
+            auto *button = modal->findChild<QPushButton *>(QStringLiteral("cmdExport"));
+            QTimer::singleShot(0, button, &QPushButton::click);
+        } else if (const auto *box = qobject_cast<QMessageBox *>(modal)) {
+            text = box->text();
+            return press(QStringLiteral("Velmor ZR3"), QMessageBox::Ok);
+        } else if (pressed && modal && modal->windowTitle() == QLatin1String("Word Instances")) {
+            // Another word processor may run where the tests do.
+            modal->findChild<QPushButton *>(QStringLiteral("cmdOK"))->click();
+        }
+        return false;
+    }));
+    EXPECT_TRUE(text.startsWith(QStringLiteral("Run-time error '"))) << qPrintable(text);
+    EXPECT_FALSE(QFile::exists(path("out/Claim1.doc")));
+    const QStringList copies = QDir(path("program/Databases/Recovered")).entryList(QDir::Files);
+    ASSERT_EQ(1, copies.size());
+    EXPECT_TRUE(text.endsWith(copies.first()));
 }

@@ -174,7 +174,8 @@ void clsFrameRows::addBesideCaption(const clsScreenRow &row, QWidget *control)
     oFieldLabel *caption = label(row, oFieldLabel::Place::Beside, control);
     if (const auto *box = qobject_cast<oAllPurposeBox *>(control); box && box->MultiLine())
         caption->setTopOfFirstLine(box->topOfFirstLine());
-    m_frame.m_labelColumn = labelColumnWidth();
+    const int wanted = qBound(Theme::scaled(NarrowestLabels), caption->sizeHint().width(), oFieldLabel::WidestBeside());
+    m_frame.m_labelColumn = qMax(m_frame.m_labelColumn, wanted);
     m_grid->addWidget(caption, m_line, 0);
     m_grid->addLayout(cell(control, false), m_line, 1);
     if (tick)
@@ -220,22 +221,4 @@ bool clsFrameRows::isAnswer(const clsScreenRow &row) const
 bool clsFrameRows::isTall(const clsScreenRow &row) const
 {
     return row.kind == clsRowKind::Other || (row.kind == clsRowKind::Text && row.flags & MultiLine);
-}
-
-/// One width for the whole frame, whichever part a label stands in.
-int clsFrameRows::labelColumnWidth() const
-{
-    int widest = Theme::scaled(NarrowestLabels);
-    bool answers = false;
-    for (const clsScreenRow &row : m_table.rows) {
-        if (row.kind == clsRowKind::Question)
-            answers = true;
-        else if (row.kind != clsRowKind::Tick)
-            answers = false;
-        const bool beside = mdIsControl(row) && row.kind != clsRowKind::Button && !(row.flags & (SameRow | NoCaption))
-            && !(answers && row.kind == clsRowKind::Tick) && !standsAbove(row);
-        if (beside)
-            widest = qMax(widest, qMin(captionWidth(m_frame, row.caption), oFieldLabel::WidestBeside()));
-    }
-    return widest;
 }

@@ -31,7 +31,6 @@ private:
     QHBoxLayout *cell(QWidget *control, bool wholeWidth);
     bool standsAbove(const clsScreenRow &row) const;
     bool isAnswer(const clsScreenRow &row) const;
-    int labelColumnWidth() const;
     bool isTall(const clsScreenRow &row) const;
 
     oScreenFrame &m_frame;

@@ -62,10 +62,15 @@ private:
             const Step step = m_steps.front();
             m_steps.pop_front();
             m_waited = 0;
-            step.act(*screen);
-        } else if (screen && ++m_waited > 200) {
-            ADD_FAILURE() << "stuck on " << screen->objectName().toStdString();
-            screen->done(QDialog::Rejected);
+            // Outside the timer's own call, in which it would not run again.
+            QMetaObject::invokeMethod(
+                screen, [step, screen] { step.act(*screen); }, Qt::QueuedConnection);
+        } else if (++m_waited > 200) {
+            // A walk that is lost fails and doesn't hang.
+            ADD_FAILURE() << "stuck on " << (screen ? screen->objectName().toStdString() : "no screen");
+            for (QWidget *window : QApplication::topLevelWidgets())
+                if (auto *lost = qobject_cast<frmSection *>(window))
+                    lost->done(QDialog::Rejected);
         }
     }
 

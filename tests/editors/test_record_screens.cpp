@@ -8,6 +8,7 @@
 #include "tests/editors/clsScreenTest.h"
 #include "tests/editors/mdScreenTables.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QDir>
 #include <QLabel>
@@ -221,6 +222,9 @@ TEST_F(RecordScreens, ABoxWithBadInputBlocksTheButtonsButNotEscAndTheCloseBox)
         EXPECT_EQ(QStringLiteral("txtDateOfBirth"), focusedName(*screen)) << button;
         QTest::keyClick(screen->focusWidget(), Qt::Key_Return);
         EXPECT_TRUE(screen->isVisible()) << button;
+        screen->findChild<QAbstractButton *>(QString::fromUtf8(button))->click();
+        EXPECT_TRUE(screen->isVisible()) << button;
+        EXPECT_FALSE(opensNext);
         QTest::keyClick(screen.get(), Qt::Key_S, Qt::AltModifier);
         EXPECT_TRUE(screen->isVisible()) << button;
         QTest::keyClick(screen->focusWidget(), Qt::Key_Escape);

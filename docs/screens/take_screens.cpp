@@ -33,6 +33,7 @@ public:
     void take(QWidget &window, const QString &name)
     {
         window.show();
+        window.activateWindow();
         if (!QTest::qWaitForWindowActive(&window))
             fail(name, "does not come up");
         QTest::qWait(50);
@@ -55,8 +56,10 @@ private:
 void takeSections(clsPictures &pictures, frmMain &main)
 {
     for (const QString &section : mdSectionTexts())
-        if (const std::unique_ptr<QDialog> screen {mdCreateScreen(section, &main)})
+        if (const std::unique_ptr<QDialog> screen {mdCreateScreen(section, &main)}) {
+            screen->resize(screen->sizeHint());
             pictures.take(*screen, mdScreenName(section));
+        }
 }
 
 void takeBoxes(clsPictures &pictures, frmMain &main)
@@ -84,6 +87,7 @@ bool takeAll(const QString &claim, const QString &folder)
     main.Load(claim);
     // Whoever looks at the pictures need not know where they were taken.
     Form->path = QStringLiteral("/home/costs/Claims/2026/Hartwell disrepair LA-20417.zr3");
+    Form->ExportPath = QStringLiteral("/home");
     main.setWindowState(Qt::WindowNoState);
     main.resize(1366, 740);
     main.show();
@@ -106,7 +110,9 @@ int main(int argc, char **argv)
     }
     SetProgramFolder(QStringLiteral(ZR3_PROGRAM_FOLDER));
     SetClock([] { return QDateTime(QDate(2026, 11, 21), QTime(14, 3)); });
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" ZR3_SCREEN);
+    // Without a window manager the platform has something to say on each window.
+    qputenv("QT_LOGGING_RULES", "default.warning=false;default.info=false;default.debug=false");
     QApplication application(argc, argv);
     QFont font(QStringLiteral("DejaVu Sans"));
     font.setPointSize(10);

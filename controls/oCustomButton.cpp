@@ -81,11 +81,15 @@ void oCustomButton::setGlyph(Glyph glyph)
 
 void oCustomButton::keyPressEvent(QKeyEvent *event)
 {
-    // A button with the focus takes Enter for itself; only elsewhere does it belong to the default one.
-    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && !event->isAutoRepeat())
-        click();
-    else
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
         QPushButton::keyPressEvent(event);
+        return;
+    }
+    // A button with the focus takes Enter for itself; only elsewhere does it belong to the default one. A key held down
+    // presses once, and its repeats press nothing else either.
+    event->accept();
+    if (!event->isAutoRepeat())
+        click();
 }
 
 void oCustomButton::focusInEvent(QFocusEvent *event)

@@ -94,13 +94,17 @@ QSize oFrameCaption::sizeHint() const
 
 void oFrameCaption::keyPressEvent(QKeyEvent *event)
 {
-    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && !event->isAutoRepeat())
-        click();
-    else if (event->key() == Qt::Key_Space)
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        // The repeats of a key held down are its own too: further up they would press the default button.
+        event->accept();
+        if (!event->isAutoRepeat())
+            click();
+    } else if (event->key() == Qt::Key_Space) {
         QAbstractButton::keyPressEvent(event);
-    else
+    } else {
         // Up and Down belong to the switcher, which walks its captions.
         QWidget::keyPressEvent(event);
+    }
 }
 
 void oFrameCaption::paintEvent(QPaintEvent *)

@@ -105,7 +105,11 @@ void oTabBarButton::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Home: emit Move(-toTheEnd); return;
     case Qt::Key_End: emit Move(toTheEnd); return;
     case Qt::Key_Return:
-    case Qt::Key_Enter: click(); return;
+    case Qt::Key_Enter:
+        // A key held down opens its screen once.
+        if (!event->isAutoRepeat())
+            click();
+        return;
     case Qt::Key_Up:
     case Qt::Key_Down: event->ignore(); return; // the base would walk to whatever lies above or below
     default: QAbstractButton::keyPressEvent(event);

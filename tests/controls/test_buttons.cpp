@@ -5,10 +5,12 @@
 #include "controls/oLeftRightButton.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QDialog>
 #include <QFocusEvent>
 #include <QHBoxLayout>
 #include <QImage>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
 #include <QSignalSpy>
@@ -111,6 +113,27 @@ TEST(CustomButton, TakesEnterForItselfWhileItHasTheFocus)
     QTest::keyClick(dialogue.cancel, Qt::Key_Space);
     EXPECT_EQ(0, save.count());
     EXPECT_EQ(3, cancel.count());
+}
+
+TEST(CustomButton, AKeyHeldDownPressesOnceAndPressesNoOther)
+{
+    Dialogue dialogue;
+    for (oCustomButton *button : {dialogue.cancel, dialogue.save}) {
+        button->setFocus();
+        const QSignalSpy save(dialogue.save, &oCustomButton::Click);
+        const QSignalSpy cancel(dialogue.cancel, &oCustomButton::Click);
+        for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
+            QTest::keyPress(button, key);
+            for (int i = 0; i < 3; ++i) {
+                QKeyEvent repeat(QEvent::KeyPress, key, Qt::NoModifier, QStringLiteral("\r"), true);
+                QApplication::sendEvent(button, &repeat);
+                EXPECT_TRUE(repeat.isAccepted());
+            }
+            QTest::keyRelease(button, key);
+        }
+        EXPECT_EQ(button == dialogue.save ? 2 : 0, save.count());
+        EXPECT_EQ(button == dialogue.cancel ? 2 : 0, cancel.count());
+    }
 }
 
 TEST(CustomButton, AnswersItsMnemonic)

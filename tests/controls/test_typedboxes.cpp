@@ -1,3 +1,4 @@
+#include "controls/mdTheme.h"
 #include "controls/oDateBox.h"
 #include "controls/oDecimalBox.h"
 #include "controls/oIntegerBox.h"

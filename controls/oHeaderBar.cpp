@@ -2,6 +2,7 @@
 
 #include "controls/mdIcons.h"
 #include "controls/mdTheme.h"
+#include "controls/mdToolTip.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -63,7 +64,7 @@ void oHeaderBar::describe()
     setAccessibleName(m_caption);
     setAccessibleDescription(m_chip.isEmpty() ? m_subCaption : m_chip);
     // A path may be cut, so that the whole of it stands in the tooltip.
-    setToolTip(m_document ? m_caption : QString());
+    setToolTip(m_document ? mdPlainToolTip(m_caption) : QString());
     updateGeometry();
     update();
 }

@@ -5,6 +5,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QTest>
+#include <QTextDocument>
 #include <QVBoxLayout>
 
 #include <gtest/gtest.h>
@@ -86,6 +87,15 @@ TEST(HeaderBar, ADocumentsPathIsWholeInTheTooltip)
     header.setCaption(path);
     EXPECT_EQ(path, header.toolTip());
     EXPECT_EQ(path, header.Caption());
+    for (const char *odd : {"/home/a/<b>x</b>/c.zr3", "/home/Smith & Sons/&lt;b>.zr3", "/home/<i>/Smith & Sons.zr3"}) {
+        header.setCaption(QString::fromUtf8(odd));
+        QTextDocument shown; // as a tooltip shows it
+        if (Qt::mightBeRichText(header.toolTip()))
+            shown.setHtml(header.toolTip());
+        else
+            shown.setPlainText(header.toolTip());
+        EXPECT_EQ(odd, shown.toPlainText().toStdString());
+    }
 }
 
 TEST(HeaderBar, ALongFolderIsCutAndTheFileNameIsNot)

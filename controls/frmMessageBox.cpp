@@ -61,7 +61,7 @@ bool losesSomething(const QString &title)
 
 QString countdownCaption(int seconds)
 {
-    return QStringLiteral("OK (%1)").arg(seconds);
+    return QStringLiteral("&OK (%1)").arg(seconds);
 }
 
 } // namespace
@@ -172,7 +172,7 @@ void frmMessageBox::reserveCountdown()
     oCustomButton *ok = m_buttons[UI::OK];
     ok->setCaption(countdownCaption(m_remaining));
     ok->setMinimumWidth(ok->sizeHint().width());
-    ok->setCaption(QStringLiteral("OK"));
+    ok->setCaption(QStringLiteral("&OK"));
 }
 
 void frmMessageBox::countDown()

@@ -156,8 +156,10 @@ void oAllPurposeBox::keyReleased(int KeyCode)
 
 void oAllPurposeBox::refreshCount()
 {
-    if (m_characterAllowance == 0)
+    if (m_characterAllowance == 0) {
+        m_text->setAccessibleDescription({});
         return;
+    }
     const clsCharacterCount count(m_characterAllowance, Text().size(), m_overRun);
     if (count.colour) {
         QPalette palette = m_count->palette();

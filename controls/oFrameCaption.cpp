@@ -1,5 +1,6 @@
 #include "controls/oFrameCaption.h"
 
+#include "controls/mdAccessible.h"
 #include "controls/mdIcons.h"
 #include "controls/mdPaintControls.h"
 #include "controls/mdTheme.h"
@@ -62,11 +63,7 @@ oFrameCaption::oFrameCaption(oFrame &frame)
     : QAbstractButton(&frame)
     , m_frame(frame)
 {
-    static const bool installed = [] {
-        QAccessible::installFactory(accessibleCaption);
-        return true;
-    }();
-    Q_UNUSED(installed)
+    mdInstallAccessible<accessibleCaption>();
     setAttribute(Qt::WA_Hover);
     setFocusPolicy(Qt::NoFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);

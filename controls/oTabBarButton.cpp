@@ -1,5 +1,7 @@
 #include "controls/oTabBarButton.h"
 
+#include "controls/mdAccessible.h"
+
 #include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QStyleOption>
@@ -50,7 +52,7 @@ oTabBarButton::oTabBarButton(const QString &caption, Shape shape, QWidget *paren
     : QAbstractButton(parent)
     , m_shape(shape)
 {
-    [[maybe_unused]] static const bool installed = (QAccessible::installFactory(accessibleTab), true);
+    mdInstallAccessible<accessibleTab>();
     setCaption(caption);
     setFocusPolicy(Qt::ClickFocus);
     setAttribute(Qt::WA_Hover);

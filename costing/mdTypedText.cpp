@@ -100,7 +100,8 @@ std::optional<QString> TypedInteger(const QString &text)
     if (number.isEmpty())
         number = QStringLiteral("0");
     return fitting([&] {
-        // Not every number fits, and that is meant: a record counts in 32 bits, so that storing a larger one would fail.
+        // Not every number fits, and that is meant: a record counts in 32 bits, so that storing a larger one would
+        // fail.
         LongFromStrictText(number);
         return number;
     });

@@ -267,9 +267,8 @@ TEST_F(TypedBoxes, OfTheDisabledOnesOnlyTheDateBoxLetsABadValueBe)
     EXPECT_TRUE(isPink(amount));
     EXPECT_TRUE(txtOther.hasFocus());
     // What can be seen: the paper of each left of its text, and the sign at the right end of the bad one.
-    const auto paper = [](QWidget *box) {
-        return inner(box)->grab().toImage().pixelColor(4, inner(box)->height() / 2);
-    };
+    const auto paper
+        = [](QWidget *box) { return inner(box)->grab().toImage().pixelColor(4, inner(box)->height() / 2); };
     const auto hasSign = [](QWidget *box) {
         const QImage picture = inner(box)->grab().toImage();
         const int side = Theme::scaled(16);

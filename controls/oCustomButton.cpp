@@ -59,12 +59,7 @@ void oCustomButton::setLook(Look look)
     // Only these may be the default: else Enter would press whichever button was added first.
     setAutoDefault(filled);
     setDefault(filled);
-    QFont own;
-    if (filled)
-        own.setWeight(QFont::DemiBold);
-    else if (look == Look::Small)
-        own = Theme::font(-1);
-    setFont(own);
+    chooseFont();
     for (const clsLookName &row : Names)
         if (row.look == look)
             setProperty("look", QString(row.name));
@@ -72,11 +67,29 @@ void oCustomButton::setLook(Look look)
     update();
 }
 
+void oCustomButton::chooseFont()
+{
+    QFont own;
+    if (m_look == Look::Default || m_look == Look::Danger)
+        own.setWeight(QFont::DemiBold);
+    else if (m_look == Look::Small)
+        own = Theme::font(-1);
+    setFont(own);
+}
+
 void oCustomButton::setGlyph(Glyph glyph)
 {
     setProperty("glyph", int(glyph));
     updateGeometry();
     update();
+}
+
+bool oCustomButton::event(QEvent *event)
+{
+    const bool done = QPushButton::event(event);
+    if (event->type() == QEvent::ApplicationFontChange)
+        chooseFont();
+    return done;
 }
 
 void oCustomButton::keyPressEvent(QKeyEvent *event)

@@ -13,6 +13,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTest>
 #include <QVBoxLayout>
@@ -145,6 +146,27 @@ TEST(CustomButton, AnswersItsMnemonic)
     // A mnemonic shows the button held down for a moment.
     EXPECT_TRUE(QTest::qWaitFor([&] { return cancel.count() == 1; }));
     EXPECT_EQ(QStringLiteral("Cancel"), dialogue.cancel->Caption());
+}
+
+TEST(CustomButton, FollowsTheDesktopsFont)
+{
+    const QFont desktop = QApplication::font();
+    const auto restore = qScopeGuard([&] { QApplication::setFont(desktop); });
+    oCustomButton button;
+    button.setCaption(QStringLiteral("Start"));
+    for (const auto look : {oCustomButton::Look::Small, oCustomButton::Look::Default, oCustomButton::Look::Secondary}) {
+        button.setLook(look);
+        const int usual = button.sizeHint().width();
+        QFont large = desktop;
+        large.setPointSizeF(2 * desktop.pointSizeF());
+        QApplication::setFont(large);
+        const double expected = 2 * desktop.pointSizeF() - (look == oCustomButton::Look::Small ? 1 : 0);
+        EXPECT_EQ(expected, button.font().pointSizeF()) << int(look);
+        EXPECT_EQ(look == oCustomButton::Look::Default ? QFont::DemiBold : desktop.weight(), button.font().weight());
+        EXPECT_GT(button.sizeHint().width(), usual) << int(look);
+        QApplication::setFont(desktop);
+        EXPECT_EQ(usual, button.sizeHint().width()) << int(look);
+    }
 }
 
 TEST(CustomButton, OnlyFilledOnesAreEverTheDefault)

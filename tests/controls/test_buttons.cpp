@@ -152,7 +152,8 @@ TEST(CustomButton, FollowsTheDesktopsFont)
 {
     const QFont desktop = QApplication::font();
     const auto restore = qScopeGuard([&] { QApplication::setFont(desktop); });
-    oCustomButton button;
+    QWidget window;
+    oCustomButton button(&window);
     button.setCaption(QStringLiteral("Start"));
     for (const auto look : {oCustomButton::Look::Small, oCustomButton::Look::Default, oCustomButton::Look::Secondary}) {
         button.setLook(look);
@@ -160,11 +161,13 @@ TEST(CustomButton, FollowsTheDesktopsFont)
         QFont large = desktop;
         large.setPointSizeF(2 * desktop.pointSizeF());
         QApplication::setFont(large);
+        QCoreApplication::processEvents();
         const double expected = 2 * desktop.pointSizeF() - (look == oCustomButton::Look::Small ? 1 : 0);
         EXPECT_EQ(expected, button.font().pointSizeF()) << int(look);
         EXPECT_EQ(look == oCustomButton::Look::Default ? QFont::DemiBold : desktop.weight(), button.font().weight());
         EXPECT_GT(button.sizeHint().width(), usual) << int(look);
         QApplication::setFont(desktop);
+        QCoreApplication::processEvents();
         EXPECT_EQ(usual, button.sizeHint().width()) << int(look);
     }
 }

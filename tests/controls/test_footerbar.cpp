@@ -179,6 +179,7 @@ TEST_F(FooterBar, FollowsTheDesktopsFontInAllItsParts)
     QFont large = desktop;
     large.setPointSizeF(2 * desktop.pointSizeF());
     QApplication::setFont(large);
+    QCoreApplication::processEvents();
     const oFooterBar fresh; // as the whole would be in a program started with that font
     EXPECT_EQ(fresh.minimumSize(), footer->minimumSize());
     const QList<QWidget *> expected = fresh.findChildren<QWidget *>();

@@ -1,5 +1,7 @@
 #include "controls/frmMessageBox.h"
 
+#include "controls/mdLargestWindow.h"
+#include "controls/mdLine.h"
 #include "controls/mdTheme.h"
 #include "controls/oCustomButton.h"
 #include "controls/oHeaderBar.h"
@@ -23,9 +25,6 @@ using UI = clsUserInterface;
 
 constexpr int NarrowestBox = 440;
 constexpr int WidestBox = 560;
-
-/// The part of the screen's height that a box may take; a longer message scrolls.
-constexpr double LargestShare = 0.94;
 
 struct clsButtonSet {
     std::vector<UI::Answer> shown;
@@ -61,7 +60,7 @@ bool losesSomething(const QString &title)
 
 QString countdownCaption(int seconds)
 {
-    return QStringLiteral("OK (%1)").arg(seconds);
+    return QStringLiteral("&OK (%1)").arg(seconds);
 }
 
 } // namespace
@@ -77,13 +76,6 @@ frmMessageBox::frmMessageBox(QWidget *parent)
     m_header->setObjectName(QStringLiteral("oHeader"));
     buildMessage();
 
-    auto *line = new QWidget(this);
-    QPalette ruled;
-    ruled.setColor(QPalette::Window, Theme::Line);
-    line->setPalette(ruled);
-    line->setAutoFillBackground(true);
-    line->setFixedHeight(1);
-
     auto *bar = new QHBoxLayout;
     bar->setContentsMargins(Theme::Space24, Theme::Space12, Theme::Space24, Theme::Space12);
     bar->setSpacing(Theme::Space8);
@@ -98,7 +90,7 @@ frmMessageBox::frmMessageBox(QWidget *parent)
     all->setSpacing(0);
     all->addWidget(m_header);
     all->addWidget(m_paper, 1);
-    all->addWidget(line);
+    all->addWidget(mdHorizontalLine(this));
     all->addLayout(bar);
 
     m_timer->setObjectName(QStringLiteral("tmrAutoOK"));
@@ -172,7 +164,7 @@ void frmMessageBox::reserveCountdown()
     oCustomButton *ok = m_buttons[UI::OK];
     ok->setCaption(countdownCaption(m_remaining));
     ok->setMinimumWidth(ok->sizeHint().width());
-    ok->setCaption(QStringLiteral("OK"));
+    ok->setCaption(QStringLiteral("&OK"));
 }
 
 void frmMessageBox::countDown()
@@ -207,7 +199,7 @@ void frmMessageBox::fit()
     for (const QString &line : m_message->text().split(u'\n'))
         widest = qMax(widest, fontMetrics().horizontalAdvance(line));
     const QScreen *on = screen() ? screen() : QGuiApplication::primaryScreen();
-    const QSize room = on->availableGeometry().size() * LargestShare;
+    const QSize room = mdLargestWindow(*on); // a longer message scrolls
     const int wanted = qMax(widest + 2 * Theme::Space24 + 2, m_header->captionWidth());
     int width = qBound(Theme::scaled(NarrowestBox), wanted, Theme::scaled(WidestBox));
     width = qMin(qMax(width, layout()->minimumSize().width()), room.width());

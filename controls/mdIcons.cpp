@@ -2,7 +2,6 @@
 
 #include "controls/mdTheme.h"
 
-#include <QHash>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
@@ -194,16 +193,6 @@ void mdPaintGlyph(QPainter &painter, const QRectF &rectangle, Glyph glyph, const
     painter.setBrush(colour);
     painter.drawPath(paths(glyph).fills);
     painter.restore();
-}
-
-QPixmap mdGlyphPixmap(Glyph glyph, int size, const QColor &colour, qreal devicePixelRatio)
-{
-    QPixmap result(QSize(size, size) * devicePixelRatio);
-    result.setDevicePixelRatio(devicePixelRatio);
-    result.fill(Qt::transparent);
-    QPainter painter(&result);
-    mdPaintGlyph(painter, QRectF(0, 0, size, size), glyph, colour);
-    return result;
 }
 
 QIcon mdGlyphIcon(Glyph glyph, const QColor &colour)

@@ -42,9 +42,6 @@ enum class Glyph {
 /// Draws the glyph into the middle of the rectangle, as large as its shorter side.
 void mdPaintGlyph(QPainter &painter, const QRectF &rectangle, Glyph glyph, const QColor &colour);
 
-/// The glyph alone on a transparent ground; `size` in logical pixels.
-QPixmap mdGlyphPixmap(Glyph glyph, int size, const QColor &colour, qreal devicePixelRatio);
-
 /// The glyph for a menu entry or a button: in the colour, and in the colour of disabled text where it is disabled.
 QIcon mdGlyphIcon(Glyph glyph, const QColor &colour);
 

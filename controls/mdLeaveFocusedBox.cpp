@@ -10,15 +10,6 @@
 
 namespace {
 
-/// Whether the widget, or one that it lies in, is marked as a way out of a held box.
-bool leavesHeldBox(const QWidget *widget)
-{
-    for (; widget; widget = widget->isWindow() ? nullptr : widget->parentWidget())
-        if (widget->property("leavesHeldBox").toBool())
-            return true;
-    return false;
-}
-
 /// A press gives the focus to the widget or to the first one around it that takes it.
 bool takesFocusByClick(const QWidget *widget)
 {
@@ -30,7 +21,7 @@ bool takesFocusByClick(const QWidget *widget)
 
 bool wouldLeave(const QWidget *target, const oTypedText *box, QEvent::Type type)
 {
-    if (target->window() != box->window() || box->parentWidget()->isAncestorOf(target) || leavesHeldBox(target))
+    if (target->window() != box->window() || box->parentWidget()->isAncestorOf(target))
         return false;
     const bool isButton = qobject_cast<const QAbstractButton *>(target);
     if (type == QEvent::Shortcut)

@@ -8,9 +8,8 @@ class QWidget;
 //
 // So while a typed box has the focus, the application is watched: a mouse press on anything of the same window that
 // would take the focus or is a button, and the mnemonic of a button, first make the box leave, and are swallowed when
-// it holds. Return in a box does the same before it reaches the default button. Free are scroll bars, menus, the box's
-// own parts, and every widget, or child of one, with the dynamic property "leavesHeldBox": Cancel has it, since who
-// cancels doesn't want the text. Esc and the close box reach the window unhindered.
+// it holds. Return in a box does the same before it reaches the default button. Cancel's button is a button as any
+// other. Free are scroll bars, menus and the box's own parts; Esc and the close box reach the window unhindered.
 //
 // Menu entries and other actions don't move the focus and may mean something else than leaving (Ctrl+S saves the claim
 // as it stands). What closes a screen or reads its boxes from there asks `mdLeaveFocusedBox` itself.

@@ -24,10 +24,11 @@ struct clsBoxLook {
 
 clsBoxLook boxLook(const QStyleOption &option, bool invalid)
 {
-    if (!(option.state & QStyle::State_Enabled))
-        return {Theme::Canvas, Theme::EdgeOff, 1};
+    // A box that can't be typed in may hold a bad value all the same, which has to be seen.
     if (invalid)
         return {Theme::Pink, Theme::Red, FocusWidth};
+    if (!(option.state & QStyle::State_Enabled))
+        return {Theme::Canvas, Theme::EdgeOff, 1};
     if (option.state & QStyle::State_HasFocus)
         return {Theme::Paper, Theme::Purple, FocusWidth};
     return {Theme::Paper, option.state & QStyle::State_MouseOver ? Theme::Purple : Theme::Edge, 1};
@@ -66,7 +67,7 @@ int mdInvalidSignRoom(const QWidget *widget)
 
 void mdPaintTextBox(QPainter &painter, const QStyleOption &option, const QWidget *widget)
 {
-    const bool invalid = isInvalid(widget) && (option.state & QStyle::State_Enabled);
+    const bool invalid = isInvalid(widget);
     const clsBoxLook look = boxLook(option, invalid);
     mdPaintBox(painter, option.rect, look.back, look.edge, look.width);
     if (!invalid)

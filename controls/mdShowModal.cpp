@@ -1,5 +1,6 @@
 #include "controls/mdShowModal.h"
 
+#include "controls/mdLargestWindow.h"
 #include "controls/mdTheme.h"
 
 #include <QApplication>
@@ -73,7 +74,7 @@ void place(QDialog &form, const QWidget *below)
     const QScreen *screen = below ? below->screen() : form.screen();
     const QRect room = screen->availableGeometry();
     const QSize wanted = form.testAttribute(Qt::WA_Resized) ? form.size() : form.sizeHint();
-    form.resize(wanted.boundedTo(room.size() * 0.94).expandedTo(form.minimumSizeHint()));
+    form.resize(wanted.boundedTo(mdLargestWindow(*screen)).expandedTo(form.minimumSizeHint()));
     QRect frame = form.rect();
     frame.moveCenter(below ? below->frameGeometry().center() : room.center());
     frame.moveLeft(qBound(room.left(), frame.left(), qMax(room.left(), room.right() + 1 - frame.width())));

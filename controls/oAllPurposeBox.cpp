@@ -6,9 +6,11 @@
 #include "formdata/mdReplacements.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QBoxLayout>
 #include <QEvent>
 #include <QLabel>
+#include <QPointer>
 
 namespace {
 
@@ -16,6 +18,18 @@ std::function<void()> &editReplacements()
 {
     static std::function<void()> edit;
     return edit;
+}
+
+/// The one entry that stands in the menus of all boxes; it can be chosen once there is something for it to do.
+QAction &editReplacementsEntry()
+{
+    static QPointer<QAction> entry;
+    if (!entry) {
+        entry = new QAction(QStringLiteral("Edit Replacements..."), qApp);
+        entry->setEnabled(bool(editReplacements()));
+        QObject::connect(entry, &QAction::triggered, entry, [] { editReplacements()(); });
+    }
+    return *entry;
 }
 
 /// The box's text for the expansion of abbreviations, which is an edit like the user's own: it can be undone.
@@ -46,6 +60,7 @@ int linesFor(int allowance)
 void SetEditReplacements(std::function<void()> edit)
 {
     editReplacements() = std::move(edit);
+    editReplacementsEntry().setEnabled(bool(editReplacements()));
 }
 
 oAllPurposeBox::oAllPurposeBox(QWidget *parent)
@@ -62,12 +77,7 @@ oAllPurposeBox::oAllPurposeBox(QWidget *parent)
     row->addWidget(m_text, 1);
     row->addWidget(m_count);
 
-    auto *edit = new QAction(QStringLiteral("Edit Replacements..."), m_text);
-    m_text->addAction(edit);
-    connect(edit, &QAction::triggered, this, [] {
-        if (editReplacements())
-            editReplacements()();
-    });
+    m_text->addAction(&editReplacementsEntry());
     connect(m_text, &oSpellText::Change, this, [this] {
         emit Change();
         refreshCount();
@@ -146,8 +156,10 @@ void oAllPurposeBox::keyReleased(int KeyCode)
 
 void oAllPurposeBox::refreshCount()
 {
-    if (m_characterAllowance == 0)
+    if (m_characterAllowance == 0) {
+        m_text->setAccessibleDescription({});
         return;
+    }
     const clsCharacterCount count(m_characterAllowance, Text().size(), m_overRun);
     if (count.colour) {
         QPalette palette = m_count->palette();

@@ -65,5 +65,6 @@ private:
     int m_characterAllowance = 0;
 };
 
-/// What the entry "Edit Replacements..." in the menu of every box does; the preferences screen puts it here.
+/// What the entry "Edit Replacements..." in the menu of every box does; the preferences screen puts it here. Until
+/// then the entry is greyed.
 void SetEditReplacements(std::function<void()> edit);

@@ -59,17 +59,22 @@ void oCustomButton::setLook(Look look)
     // Only these may be the default: else Enter would press whichever button was added first.
     setAutoDefault(filled);
     setDefault(filled);
-    QFont own;
-    if (filled)
-        own.setWeight(QFont::DemiBold);
-    else if (look == Look::Small)
-        own = Theme::font(-1);
-    setFont(own);
+    chooseFont();
     for (const clsLookName &row : Names)
         if (row.look == look)
             setProperty("look", QString(row.name));
     updateGeometry();
     update();
+}
+
+void oCustomButton::chooseFont()
+{
+    QFont own;
+    if (m_look == Look::Default || m_look == Look::Danger)
+        own.setWeight(QFont::DemiBold);
+    else if (m_look == Look::Small)
+        own = Theme::font(-1);
+    setFont(own);
 }
 
 void oCustomButton::setGlyph(Glyph glyph)
@@ -79,13 +84,25 @@ void oCustomButton::setGlyph(Glyph glyph)
     update();
 }
 
+bool oCustomButton::event(QEvent *event)
+{
+    const bool done = QPushButton::event(event);
+    if (event->type() == QEvent::ApplicationFontChange)
+        chooseFont();
+    return done;
+}
+
 void oCustomButton::keyPressEvent(QKeyEvent *event)
 {
-    // A button with the focus takes Enter for itself; only elsewhere does it belong to the default one.
-    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && !event->isAutoRepeat())
-        click();
-    else
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
         QPushButton::keyPressEvent(event);
+        return;
+    }
+    // A button with the focus takes Enter for itself; only elsewhere does it belong to the default one. A key held down
+    // presses once, and its repeats press nothing else either.
+    event->accept();
+    if (!event->isAutoRepeat())
+        click();
 }
 
 void oCustomButton::focusInEvent(QFocusEvent *event)

@@ -41,9 +41,12 @@ signals:
     void Click();
 
 protected:
+    bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
 
 private:
+    void chooseFont();
+
     Look m_look = Look::Secondary;
 };

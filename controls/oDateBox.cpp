@@ -21,7 +21,7 @@ std::optional<QString> typedDate(const QString &text)
 // clang-format off
 const clsTypedKind Kind {
     .normalised = typedDate,
-    .whatFits = QT_TRANSLATE_NOOP("oTypedText", "A date, such as 21/11/26"),
+    .whatFits = QLatin1String("A date, such as 21/11/26"),
     .alignment = Qt::AlignLeft,
     .normalisesWrites = true,
     .refusesWhenDisabled = false,
@@ -36,7 +36,7 @@ oDateBox::oDateBox(QWidget *parent)
     , chkShowDate(new oCheckBox(this))
 {
     chkShowDate->setObjectName(QStringLiteral("chkShowDate"));
-    chkShowDate->setCaption(tr("Has a date"));
+    chkShowDate->setCaption(QStringLiteral("Has a date"));
     chkShowDate->setChecked(true);
     chkShowDate->setVisible(false);
     static_cast<QBoxLayout *>(layout())->insertWidget(0, chkShowDate);

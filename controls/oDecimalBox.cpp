@@ -8,7 +8,7 @@ namespace {
 // clang-format off
 const clsTypedKind Kind {
     .normalised = TypedDecimal,
-    .whatFits = QT_TRANSLATE_NOOP("oTypedText", "An amount, such as 1200.50"),
+    .whatFits = QLatin1String("An amount, such as 1200.50"),
     .alignment = Qt::AlignRight,
     .normalisesWrites = true,
     .refusesWhenDisabled = true,

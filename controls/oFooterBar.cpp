@@ -1,11 +1,13 @@
 #include "controls/oFooterBar.h"
 
+#include "controls/mdLine.h"
 #include "controls/mdPaintControls.h"
 #include "controls/mdTheme.h"
 #include "controls/oTimeSpentBox.h"
 #include "shell/mdClock.h"
 #include "shell/mdGetVersionInfo.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
@@ -61,23 +63,10 @@ QLabel *addLabel(QWidget *parent, const QString &name)
     auto *label = new QLabel(parent);
     label->setObjectName(name);
     label->setTextFormat(Qt::PlainText);
-    label->setFont(Theme::font(-1));
     QPalette palette;
     palette.setColor(QPalette::WindowText, Theme::Ink2);
     label->setPalette(palette);
     return label;
-}
-
-/// A thin upright line.
-QWidget *addSeparator(QWidget *parent)
-{
-    auto *line = new QWidget(parent);
-    QPalette palette;
-    palette.setColor(QPalette::Window, Theme::Line);
-    line->setPalette(palette);
-    line->setAutoFillBackground(true);
-    line->setFixedSize(1, QFontMetrics(Theme::font(-1)).height());
-    return line;
 }
 
 } // namespace
@@ -87,23 +76,18 @@ oFooterBar::oFooterBar(QWidget *parent)
     , lblProgramInfo(addLabel(this, QStringLiteral("lblProgramInfo")))
     , m_progressBar(new clsFooterProgress(this))
     , m_timeSpentTimer(new oTimeSpentBox(this))
+    , m_line(mdVerticalLine(this))
     , lblDateTime(addLabel(this, QStringLiteral("lblDateTime")))
     , tmrUpdate(this)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_progressBar->setObjectName(QStringLiteral("ProgressBar"));
-    m_progressBar->setAccessibleName(tr("Progress"));
-    m_progressBar->setFont(Theme::font(-1));
+    m_progressBar->setAccessibleName(QStringLiteral("Progress"));
     m_progressBar->setFormat(QString());
     m_progressBar->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_timeSpentTimer->setObjectName(QStringLiteral("TimeSpentTimer"));
-    m_timeSpentTimer->setAccessibleName(tr("Time spent"));
+    m_timeSpentTimer->setAccessibleName(QStringLiteral("Time spent"));
     lblDateTime->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    // As wide as the widest text of a year, so that nothing moves at midnight.
-    for (int month = 1; month <= 12; ++month) {
-        lblDateTime->setText(dateTimeText(QDateTime(QDate(2000, month, 28), QTime(20, 0))));
-        lblDateTime->setMinimumWidth(std::max(lblDateTime->minimumWidth(), lblDateTime->sizeHint().width()));
-    }
 
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(Theme::Space16, 1, Theme::Space16, 0);
@@ -111,15 +95,40 @@ oFooterBar::oFooterBar(QWidget *parent)
     row->addWidget(lblProgramInfo);
     row->addWidget(m_progressBar, 1);
     row->addWidget(m_timeSpentTimer);
-    row->addWidget(addSeparator(this));
+    row->addWidget(m_line);
     row->addWidget(lblDateTime);
-    setMinimumHeight(fontMetrics().height() + Theme::scaled(FooterRoomAboveAndBelow));
+    followFont();
 
     UpdateInfo();
     tmrUpdate.setObjectName(QStringLiteral("tmrUpdate"));
     tmrUpdate.setInterval(std::chrono::seconds(1));
     connect(&tmrUpdate, &QTimer::timeout, this, &oFooterBar::updateDateTime);
     tmrUpdate.start();
+}
+
+void oFooterBar::followFont()
+{
+    const QFont small = Theme::font(-1);
+    const QFontMetrics metrics(small);
+    for (QWidget *part : {static_cast<QWidget *>(lblProgramInfo), static_cast<QWidget *>(m_progressBar),
+             static_cast<QWidget *>(lblDateTime)})
+        part->setFont(small);
+    m_line->setFixedHeight(metrics.height());
+    // As wide as the widest text of a year, so that nothing moves at midnight.
+    int widest = 0;
+    for (int month = 1; month <= 12; ++month)
+        widest
+            = std::max(widest, metrics.size(0, dateTimeText(QDateTime(QDate(2000, month, 28), QTime(20, 0)))).width());
+    lblDateTime->setMinimumWidth(widest);
+    setMinimumHeight(QFontMetrics(Theme::font()).height() + Theme::scaled(FooterRoomAboveAndBelow));
+}
+
+bool oFooterBar::event(QEvent *event)
+{
+    const bool done = QWidget::event(event);
+    if (event->type() == QEvent::ApplicationFontChange)
+        followFont();
+    return done;
 }
 
 void oFooterBar::showProgress(int value, int maximum, const QString &text)

@@ -26,14 +26,18 @@ public:
     void UpdateInfo();
 
 protected:
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
     void updateDateTime();
+    /// Gives all parts the small form of the desktop's font, and the room that it needs.
+    void followFont();
 
     QLabel *lblProgramInfo;
     QProgressBar *m_progressBar;
     oTimeSpentBox *m_timeSpentTimer;
+    QWidget *m_line;
     QLabel *lblDateTime;
     QTimer tmrUpdate;
 };

@@ -1,5 +1,6 @@
 #include "controls/oFrameCaption.h"
 
+#include "controls/mdAccessible.h"
 #include "controls/mdIcons.h"
 #include "controls/mdPaintControls.h"
 #include "controls/mdTheme.h"
@@ -62,11 +63,7 @@ oFrameCaption::oFrameCaption(oFrame &frame)
     : QAbstractButton(&frame)
     , m_frame(frame)
 {
-    static const bool installed = [] {
-        QAccessible::installFactory(accessibleCaption);
-        return true;
-    }();
-    Q_UNUSED(installed)
+    mdInstallAccessible<accessibleCaption>();
     setAttribute(Qt::WA_Hover);
     setFocusPolicy(Qt::NoFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -94,13 +91,17 @@ QSize oFrameCaption::sizeHint() const
 
 void oFrameCaption::keyPressEvent(QKeyEvent *event)
 {
-    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && !event->isAutoRepeat())
-        click();
-    else if (event->key() == Qt::Key_Space)
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        // The repeats of a key held down are its own too: further up they would press the default button.
+        event->accept();
+        if (!event->isAutoRepeat())
+            click();
+    } else if (event->key() == Qt::Key_Space) {
         QAbstractButton::keyPressEvent(event);
-    else
+    } else {
         // Up and Down belong to the switcher, which walks its captions.
         QWidget::keyPressEvent(event);
+    }
 }
 
 void oFrameCaption::paintEvent(QPaintEvent *)

@@ -2,11 +2,11 @@
 
 #include "controls/mdGridMetrics.h"
 #include "controls/mdTheme.h"
+#include "controls/mdToolTip.h"
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
 #include <QPainter>
-#include <QTextDocument>
 #include <QToolTip>
 
 namespace {
@@ -122,9 +122,7 @@ bool oGridDelegate::helpEvent(
     const clsGridCell &shown = modelOf(index).cell(index.row(), index.column());
     const clsGridColumn &column = modelOf(index).columns()[size_t(index.column())];
     if (shown.kind == clsGridCell::Text && isCut(option, column, index.column(), shown.text))
-        // A claim's text may hold what reads as mark-up.
-        QToolTip::showText(event->globalPos(),
-            Qt::mightBeRichText(shown.text) ? shown.text.toHtmlEscaped() : shown.text, view->viewport(), option.rect);
+        QToolTip::showText(event->globalPos(), mdPlainToolTip(shown.text), view->viewport(), option.rect);
     else
         QToolTip::hideText();
     return true;

@@ -1,16 +1,14 @@
 #include "controls/oHeaderBar.h"
 
 #include "controls/mdIcons.h"
+#include "controls/mdLowScreen.h"
 #include "controls/mdTheme.h"
+#include "controls/mdToolTip.h"
 
 #include <QEvent>
 #include <QPainter>
-#include <QScreen>
 
 namespace {
-
-/// On a screen lower than this there is no room for a second line.
-constexpr int LowScreen = 620;
 
 constexpr int Line = Qt::TextSingleLine | Qt::AlignVCenter | Qt::AlignLeft;
 
@@ -63,7 +61,7 @@ void oHeaderBar::describe()
     setAccessibleName(m_caption);
     setAccessibleDescription(m_chip.isEmpty() ? m_subCaption : m_chip);
     // A path may be cut, so that the whole of it stands in the tooltip.
-    setToolTip(m_document ? m_caption : QString());
+    setToolTip(m_document ? mdPlainToolTip(m_caption) : QString());
     updateGeometry();
     update();
 }
@@ -106,8 +104,7 @@ void oHeaderBar::showEvent(QShowEvent *event)
 
 void oHeaderBar::followScreen()
 {
-    // The screen's height counts and not the window's: many windows are low because they hold little.
-    const bool low = screen()->availableGeometry().height() < Theme::scaled(LowScreen);
+    const bool low = mdIsOnLowScreen(*this); // there is no room for a second line
     if (low == m_low)
         return;
     m_low = low;

@@ -59,6 +59,15 @@ void oInputFilter::showInvalid(QWidget &box)
     box.update();
 }
 
+void oInputFilter::passFontOn(const QWidget &window)
+{
+    // Only windows are told, and what inherits their font. A part with a font of its own would keep it for ever.
+    for (QWidget *part : window.findChildren<QWidget *>()) {
+        QEvent changed(QEvent::ApplicationFontChange);
+        QCoreApplication::sendEvent(part, &changed);
+    }
+}
+
 bool oInputFilter::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
@@ -80,6 +89,10 @@ bool oInputFilter::eventFilter(QObject *watched, QEvent *event)
         // Ignored, so that it goes on to the page below.
         event->ignore();
         return true;
+    case QEvent::ApplicationFontChange:
+        if (watched->isWidgetType() && static_cast<QWidget *>(watched)->isWindow())
+            passFontOn(*static_cast<QWidget *>(watched));
+        return false;
     case QEvent::DynamicPropertyChange:
         if (static_cast<QDynamicPropertyChangeEvent *>(event)->propertyName() == "invalid" && watched->isWidgetType())
             showInvalid(*static_cast<QWidget *>(watched));

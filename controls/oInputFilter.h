@@ -5,9 +5,9 @@
 class QApplication;
 class QWidget;
 
-/// What the whole application does with keys and the wheel before its controls see them: mnemonics are underlined
-/// while Alt is held, a wheel over a list that hasn't the focus scrolls the page, and a box that is marked as invalid
-/// is painted anew. It eats nothing else.
+/// What the whole application does with events before its controls see them: mnemonics are underlined while Alt is
+/// held, a wheel over a list that hasn't the focus scrolls the page, a box that is marked as invalid is painted anew,
+/// and every part of a window hears of a new font of the desktop. It eats nothing else.
 class oInputFilter final : public QObject {
     Q_OBJECT
 
@@ -26,4 +26,5 @@ private:
 
     static void setUnderlineMnemonics(bool underline);
     static void showInvalid(QWidget &box);
+    static void passFontOn(const QWidget &window);
 };

@@ -8,7 +8,7 @@ namespace {
 // clang-format off
 const clsTypedKind Kind {
     .normalised = TypedInteger,
-    .whatFits = QT_TRANSLATE_NOOP("oTypedText", "A number, such as 12"),
+    .whatFits = QLatin1String("A number of no more than 2,147,483,647, such as 12"),
     .alignment = Qt::AlignRight,
     .normalisesWrites = false,
     .refusesWhenDisabled = true,

@@ -132,7 +132,8 @@ bool oStyle::drawOurControl(
     else if (element == CE_TabBarTabLabel && tab)
         mdPaintTabLabel(painter, *tab, underline);
     else if (element == CE_MenuBarItem && menu)
-        mdPaintMenuBarItem(painter, *menu, underline);
+        // Once Alt is released the menu bar has the keyboard, and the letters act alone.
+        mdPaintMenuBarItem(painter, *menu, underline || (widget && widget->hasFocus()));
     else if (element == CE_MenuBarEmptyArea)
         painter.fillRect(option.rect, Theme::Paper);
     else if (element == CE_ProgressBarGroove)

@@ -1,5 +1,6 @@
 #include "controls/oTabBar.h"
 
+#include "controls/mdAccessible.h"
 #include "controls/mdTheme.h"
 #include "controls/oTabBarButton.h"
 
@@ -40,7 +41,7 @@ oTabBar::oTabBar(QWidget *parent)
     , m_tabOrder(new QWidget(this))
     , m_view(new clsRowView(this))
 {
-    [[maybe_unused]] static const bool installed = (QAccessible::installFactory(accessibleRow), true);
+    mdInstallAccessible<accessibleRow>();
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 
     // A new widget comes last in the order of its window. Only what takes the focus has a place in it; this takes none.
@@ -59,7 +60,6 @@ oTabBar::oTabBar(QWidget *parent)
     m_view->viewport()->setAutoFillBackground(false);
     tabs->setAutoFillBackground(false);
     m_view->viewport()->installEventFilter(this);
-    tabs->installEventFilter(this);
 
     m_scrollLeft = addScroller(Qt::LeftArrow, -1);
     m_scrollRight = addScroller(Qt::RightArrow, 1);
@@ -83,7 +83,7 @@ QToolButton *oTabBar::addScroller(Qt::ArrowType arrow, int direction)
     scroller->setAutoRaise(true);
     scroller->setAutoRepeat(true);
     scroller->setFocusPolicy(Qt::NoFocus); // the keys move along the row by themselves
-    scroller->setAccessibleName(direction < 0 ? tr("Scroll left") : tr("Scroll right"));
+    scroller->setAccessibleName(direction < 0 ? QStringLiteral("Scroll left") : QStringLiteral("Scroll right"));
     scroller->hide();
     connect(scroller, &QToolButton::clicked, this, [this, direction] {
         QScrollBar *bar = m_view->horizontalScrollBar();

@@ -1,5 +1,7 @@
 #include "controls/oTabBarButton.h"
 
+#include "controls/mdAccessible.h"
+
 #include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QStyleOption>
@@ -50,7 +52,7 @@ oTabBarButton::oTabBarButton(const QString &caption, Shape shape, QWidget *paren
     : QAbstractButton(parent)
     , m_shape(shape)
 {
-    [[maybe_unused]] static const bool installed = (QAccessible::installFactory(accessibleTab), true);
+    mdInstallAccessible<accessibleTab>();
     setCaption(caption);
     setFocusPolicy(Qt::ClickFocus);
     setAttribute(Qt::WA_Hover);
@@ -105,7 +107,11 @@ void oTabBarButton::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Home: emit Move(-toTheEnd); return;
     case Qt::Key_End: emit Move(toTheEnd); return;
     case Qt::Key_Return:
-    case Qt::Key_Enter: click(); return;
+    case Qt::Key_Enter:
+        // A key held down opens its screen once.
+        if (!event->isAutoRepeat())
+            click();
+        return;
     case Qt::Key_Up:
     case Qt::Key_Down: event->ignore(); return; // the base would walk to whatever lies above or below
     default: QAbstractButton::keyPressEvent(event);

@@ -8,7 +8,7 @@ namespace {
 // clang-format off
 const clsTypedKind Kind {
     .normalised = TypedTime,
-    .whatFits = QT_TRANSLATE_NOOP("oTypedText", "A time, such as 1:30, 1.5 or 90"),
+    .whatFits = QLatin1String("A time, such as 1:30, 1.5 or 90"),
     .alignment = Qt::AlignLeft,
     .normalisesWrites = false,
     .refusesWhenDisabled = true,

@@ -8,11 +8,19 @@
 #include "shell/clsRunTimeError.h"
 #include "shell/mdGlobals.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 
 #include <chrono>
 
 oTimeSpentBox *TimeSpentBox = nullptr;
+
+namespace {
+
+constexpr QLatin1String StartCaption("Start");
+constexpr QLatin1String StopCaption("Stop");
+
+} // namespace
 
 oTimeSpentBox::oTimeSpentBox(QWidget *parent)
     : QWidget(parent)
@@ -21,12 +29,10 @@ oTimeSpentBox::oTimeSpentBox(QWidget *parent)
     , tmrTimer(this)
 {
     txtTime->setObjectName(QStringLiteral("txtTime"));
-    txtTime->setAccessibleName(tr("Time spent"));
-    txtTime->setToolTip(tr("Time spent on this claim"));
+    txtTime->setAccessibleName(QStringLiteral("Time spent"));
+    txtTime->setToolTip(QStringLiteral("Time spent on this claim"));
     txtTime->setCompact();
     cmdStartStop->setObjectName(QStringLiteral("cmdStartStop"));
-    cmdStartStop->setLook(oCustomButton::Look::Small);
-    cmdStartStop->setFont(Theme::font(-1));
     tmrTimer.setObjectName(QStringLiteral("tmrTimer"));
     tmrTimer.setInterval(std::chrono::minutes(1));
 
@@ -41,11 +47,8 @@ oTimeSpentBox::oTimeSpentBox(QWidget *parent)
     connect(txtTime, &oTimeBox::Left, this, &oTimeSpentBox::writeToForm);
     connect(cmdStartStop, &oCustomButton::Click, this, [this] { run(!tmrTimer.isActive()); });
 
-    // As wide as the wider caption from the start.
-    run(true);
-    const int width = cmdStartStop->sizeHint().width();
     run(false);
-    cmdStartStop->setMinimumWidth(qMax(width, cmdStartStop->sizeHint().width()));
+    fitButton();
 }
 
 QString oTimeSpentBox::TimeSpent() const
@@ -76,7 +79,28 @@ void oTimeSpentBox::run(bool runs)
         tmrTimer.stop();
     else if (!tmrTimer.isActive()) // a second start doesn't begin the minute anew
         tmrTimer.start();
-    cmdStartStop->setCaption(runs ? tr("Stop") : tr("Start"));
+    cmdStartStop->setCaption(runs ? StopCaption : StartCaption);
+}
+
+void oTimeSpentBox::fitButton()
+{
+    cmdStartStop->setLook(oCustomButton::Look::Small); // measured in the present font of the desktop
+    const QString shown = cmdStartStop->text();
+    int widest = 0;
+    for (const QLatin1String caption : {StartCaption, StopCaption}) {
+        cmdStartStop->setCaption(caption);
+        widest = qMax(widest, cmdStartStop->sizeHint().width());
+    }
+    cmdStartStop->setCaption(shown);
+    cmdStartStop->setMinimumWidth(widest);
+}
+
+bool oTimeSpentBox::event(QEvent *event)
+{
+    const bool done = QWidget::event(event);
+    if (event->type() == QEvent::ApplicationFontChange)
+        fitButton();
+    return done;
 }
 
 void oTimeSpentBox::tick()

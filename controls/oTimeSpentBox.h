@@ -21,8 +21,13 @@ public:
     void StartTimer();
     void StopTimer();
 
+protected:
+    bool event(QEvent *event) override;
+
 private:
     void run(bool runs);
+    /// Makes the button as wide as its wider caption, so that nothing moves when the clock starts.
+    void fitButton();
     void tick();
     void writeToForm() const;
 

@@ -115,11 +115,19 @@ void oTypedText::setInvalid(bool invalid)
         back.setColor(QPalette::Base, Theme::Pink);
     setPalette(back);
     setProperty("invalid", invalid); // the style draws the red edge and the sign
-    const QString whatFits = invalid ? tr(m_kind.whatFits) : QString();
+    const QString whatFits = invalid ? QString(m_kind.whatFits) : QString();
     setToolTip(whatFits);
     setAccessibleDescription(whatFits);
     QAccessibleEvent changed(this, QAccessible::DescriptionChanged);
     QAccessible::updateAccessibility(&changed);
+}
+
+bool oTypedText::event(QEvent *event)
+{
+    const bool done = QLineEdit::event(event);
+    if (m_compact && event->type() == QEvent::ApplicationFontChange)
+        setFont(Theme::font(-1));
+    return done;
 }
 
 void oTypedText::focusInEvent(QFocusEvent *event)

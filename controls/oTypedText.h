@@ -7,7 +7,7 @@
 /// One kind of typed value: what becomes of a text, and what a user is told whose text doesn't fit.
 struct clsTypedKind {
     std::optional<QString> (*normalised)(const QString &text); ///< nothing where the text doesn't fit
-    const char *whatFits; ///< "A date, such as 21/11/26"
+    QLatin1String whatFits; ///< "A date, such as 21/11/26"
     Qt::AlignmentFlag alignment;
     bool normalisesWrites; ///< a value that the program writes is normalised at once
     bool refusesWhenDisabled; ///< a disabled box turns pale pink too
@@ -49,6 +49,7 @@ signals:
     void Left();
 
 protected:
+    bool event(QEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void showEvent(QShowEvent *event) override;

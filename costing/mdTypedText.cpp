@@ -100,7 +100,9 @@ std::optional<QString> TypedInteger(const QString &text)
     if (number.isEmpty())
         number = QStringLiteral("0");
     return fitting([&] {
-        LongFromStrictText(number); // refuses what no count can hold
+        // Not every number fits, and that is meant: a record counts in 32 bits, so that storing a larger one would
+        // fail.
+        LongFromStrictText(number);
         return number;
     });
 }

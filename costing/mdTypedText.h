@@ -17,7 +17,8 @@ std::optional<QString> TypedDate(const QString &text, int &lastYear);
 /// is 0.00. A number is read up to its first comma, so that £1,200 becomes 1.00: amounts are typed without separators.
 std::optional<QString> TypedDecimal(const QString &text);
 
-/// A number without its blanks, 0 for an empty text. It is neither rounded nor written anew: 1.5 stands.
+/// A number without its blanks, 0 for an empty text. It is neither rounded nor written anew: 1.5 stands. One that a
+/// record could not store, beyond 32 bits, doesn't fit.
 std::optional<QString> TypedInteger(const QString &text);
 
 /// A duration as hours, a colon and minutes, from "1:30", from hours with decimals such as "1.5", or from minutes.

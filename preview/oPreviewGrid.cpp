@@ -1,6 +1,7 @@
 #include "preview/oPreviewGrid.h"
 
 #include "controls/mdTheme.h"
+#include "controls/mdToolTip.h"
 
 #include <QHeaderView>
 #include <QHelpEvent>
@@ -354,5 +355,5 @@ QString oPreviewGrid::ToolTipAt(const QPoint &place) const
     if (row < 1 || column < 1 || m_captions->geometry().contains(viewport()->mapTo(this, place))
         || !m_painter.isElided(row, column))
         return {};
-    return Text(row, column).toHtmlEscaped();
+    return mdPlainToolTip(Text(row, column));
 }

@@ -25,7 +25,6 @@ protected:
     {
         cmdSave.setDefault(true);
         cmdCancel.setAutoDefault(false);
-        cmdCancel.setProperty("leavesHeldBox", true);
         rows.addWidget(&cmdSave);
         rows.addWidget(&cmdCancel);
         QObject::connect(&cmdSave, &QPushButton::clicked, &screen, [this] { ++saved; });

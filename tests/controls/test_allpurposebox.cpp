@@ -95,6 +95,8 @@ TEST_F(AllPurposeBox, TheCountIsToldInWords)
     EXPECT_EQ(QStringLiteral("9 of 17 left"), count()->toolTip());
     EXPECT_EQ(QStringLiteral("9 of 17 left"), count()->accessibleDescription());
     EXPECT_EQ(QStringLiteral("9 of 17 left"), editor()->accessibleDescription());
+    box->setCharacterAllowance(0);
+    EXPECT_EQ(QString(), editor()->accessibleDescription()) << "nothing is counted any more";
 }
 
 TEST_F(AllPurposeBox, ADisabledCountIsDisabledText)

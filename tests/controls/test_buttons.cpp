@@ -5,12 +5,15 @@
 #include "controls/oLeftRightButton.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QDialog>
 #include <QFocusEvent>
 #include <QHBoxLayout>
 #include <QImage>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTest>
 #include <QVBoxLayout>
@@ -113,6 +116,27 @@ TEST(CustomButton, TakesEnterForItselfWhileItHasTheFocus)
     EXPECT_EQ(3, cancel.count());
 }
 
+TEST(CustomButton, AKeyHeldDownPressesOnceAndPressesNoOther)
+{
+    Dialogue dialogue;
+    for (oCustomButton *button : {dialogue.cancel, dialogue.save}) {
+        button->setFocus();
+        const QSignalSpy save(dialogue.save, &oCustomButton::Click);
+        const QSignalSpy cancel(dialogue.cancel, &oCustomButton::Click);
+        for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
+            QTest::keyPress(button, key);
+            for (int i = 0; i < 3; ++i) {
+                QKeyEvent repeat(QEvent::KeyPress, key, Qt::NoModifier, QStringLiteral("\r"), true);
+                QApplication::sendEvent(button, &repeat);
+                EXPECT_TRUE(repeat.isAccepted());
+            }
+            QTest::keyRelease(button, key);
+        }
+        EXPECT_EQ(button == dialogue.save ? 2 : 0, save.count());
+        EXPECT_EQ(button == dialogue.cancel ? 2 : 0, cancel.count());
+    }
+}
+
 TEST(CustomButton, AnswersItsMnemonic)
 {
     Dialogue dialogue;
@@ -122,6 +146,30 @@ TEST(CustomButton, AnswersItsMnemonic)
     // A mnemonic shows the button held down for a moment.
     EXPECT_TRUE(QTest::qWaitFor([&] { return cancel.count() == 1; }));
     EXPECT_EQ(QStringLiteral("Cancel"), dialogue.cancel->Caption());
+}
+
+TEST(CustomButton, FollowsTheDesktopsFont)
+{
+    const QFont desktop = QApplication::font();
+    const auto restore = qScopeGuard([&] { QApplication::setFont(desktop); });
+    QWidget window;
+    oCustomButton button(&window);
+    button.setCaption(QStringLiteral("Start"));
+    for (const auto look : {oCustomButton::Look::Small, oCustomButton::Look::Default, oCustomButton::Look::Secondary}) {
+        button.setLook(look);
+        const int usual = button.sizeHint().width();
+        QFont large = desktop;
+        large.setPointSizeF(2 * desktop.pointSizeF());
+        QApplication::setFont(large);
+        QCoreApplication::processEvents();
+        const double expected = 2 * desktop.pointSizeF() - (look == oCustomButton::Look::Small ? 1 : 0);
+        EXPECT_EQ(expected, button.font().pointSizeF()) << int(look);
+        EXPECT_EQ(look == oCustomButton::Look::Default ? QFont::DemiBold : desktop.weight(), button.font().weight());
+        EXPECT_GT(button.sizeHint().width(), usual) << int(look);
+        QApplication::setFont(desktop);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(usual, button.sizeHint().width()) << int(look);
+    }
 }
 
 TEST(CustomButton, OnlyFilledOnesAreEverTheDefault)

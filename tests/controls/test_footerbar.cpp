@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QProgressBar>
+#include <QScopeGuard>
 #include <QTimer>
 #include <QtTest>
 
@@ -169,4 +170,29 @@ TEST_F(FooterBar, NothingMovesWhenATextChanges)
     now = QDateTime(QDate(2026, 9, 30), QTime(20, 0));
     second();
     EXPECT_EQ(before, places());
+}
+
+TEST_F(FooterBar, FollowsTheDesktopsFontInAllItsParts)
+{
+    const QFont desktop = QApplication::font();
+    const auto restore = qScopeGuard([&] { QApplication::setFont(desktop); });
+    QFont large = desktop;
+    large.setPointSizeF(2 * desktop.pointSizeF());
+    QApplication::setFont(large);
+    QCoreApplication::processEvents();
+    const oFooterBar fresh; // as the whole would be in a program started with that font
+    EXPECT_EQ(fresh.minimumSize(), footer->minimumSize());
+    const QList<QWidget *> expected = fresh.findChildren<QWidget *>();
+    const QList<QWidget *> parts = footer->findChildren<QWidget *>();
+    ASSERT_EQ(expected.size(), parts.size());
+    int small = 0;
+    for (int i = 0; i < parts.size(); ++i) {
+        const std::string name = parts[i]->objectName().toStdString();
+        EXPECT_EQ(expected[i]->font(), parts[i]->font()) << name;
+        EXPECT_EQ(expected[i]->minimumSize(), parts[i]->minimumSize()) << name;
+        EXPECT_EQ(expected[i]->sizeHint(), parts[i]->sizeHint()) << name;
+        small += parts[i]->font().pointSizeF() == large.pointSizeF() - 1;
+    }
+    EXPECT_GE(small, 5) << "two texts, the progress, the time and its button";
+    EXPECT_EQ(fresh.sizeHint(), footer->sizeHint());
 }

@@ -4,6 +4,9 @@
 #include "controls/oFrame.h"
 
 #include <QAccessible>
+#include <QApplication>
+#include <QDialog>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
@@ -155,6 +158,27 @@ TEST(Frame, APageCanBePressedByTheKeyboardAndByAScreenReader)
     ASSERT_TRUE(action->actionNames().contains(QAccessibleActionInterface::pressAction()));
     EXPECT_THAT(eventsOf(frame, [&] { action->doAction(QAccessibleActionInterface::pressAction()); }),
         ElementsAre("Click", "ExpandCollapse"));
+}
+
+TEST(Frame, AKeyHeldDownPressesACaptionOnceAndNothingAroundIt)
+{
+    QDialog dialogue;
+    oFrame frame(&dialogue);
+    frame.setShowExpandCollapseIcon(true);
+    oCustomButton save(&dialogue);
+    save.setLook(oCustomButton::Look::Default);
+    dialogue.show();
+    const QSignalSpy saved(&save, &oCustomButton::Click);
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter})
+        EXPECT_THAT(eventsOf(frame,
+                        [&] {
+                            for (const bool isRepeat : {false, true, true}) {
+                                QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, QStringLiteral("\r"), isRepeat);
+                                QApplication::sendEvent(frame.captionBar(), &press);
+                            }
+                        }),
+            ElementsAre("Click", "ExpandCollapse"));
+    EXPECT_EQ(0, saved.count());
 }
 
 TEST(Frame, NumbersStandAtTheRightEndOfAPagesCaption)

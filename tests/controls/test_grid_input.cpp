@@ -320,7 +320,7 @@ TEST_F(clsGridInput, ACutCellTellsItsTextInATooltip)
     form.FeeEarnerGroup(3)->Name = "<b>" + longName;
     grid.Redraw(true);
     EXPECT_EQ(longName, toolTipOf(1));
-    EXPECT_EQ("&lt;b&gt;" + longName, toolTipOf(3));
+    EXPECT_EQ("<p>&lt;b&gt;" + longName + "</p>", toolTipOf(3));
     toolTipOf(2);
     EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
 }

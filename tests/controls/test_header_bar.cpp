@@ -5,6 +5,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QTest>
+#include <QTextDocument>
 #include <QVBoxLayout>
 
 #include <gtest/gtest.h>
@@ -86,6 +87,15 @@ TEST(HeaderBar, ADocumentsPathIsWholeInTheTooltip)
     header.setCaption(path);
     EXPECT_EQ(path, header.toolTip());
     EXPECT_EQ(path, header.Caption());
+    for (const char *odd : {"/home/a/<b>x</b>/c.zr3", "/home/Smith & Sons/&lt;b>.zr3", "/home/<i>/Smith & Sons.zr3"}) {
+        header.setCaption(QString::fromUtf8(odd));
+        QTextDocument shown; // as a tooltip shows it
+        if (Qt::mightBeRichText(header.toolTip()))
+            shown.setHtml(header.toolTip());
+        else
+            shown.setPlainText(header.toolTip());
+        EXPECT_EQ(odd, shown.toPlainText().toStdString());
+    }
 }
 
 TEST(HeaderBar, ALongFolderIsCutAndTheFileNameIsNot)
@@ -158,7 +168,7 @@ TEST(Icons, EveryGlyphDrawsSomethingOfItsOwn)
 {
     std::vector<QImage> seen;
     for (int number = int(Glyph::None) + 1; number <= int(Glyph::Warning); ++number) {
-        const QImage picture = mdGlyphPixmap(Glyph(number), 20, Theme::Ink, 1).toImage();
+        const QImage picture = mdGlyphIcon(Glyph(number), Theme::Ink).pixmap(QSize(20, 20), 1).toImage();
         bool inked = false;
         for (int y = 0; y < 20; ++y)
             for (int x = 0; x < 20; ++x)
@@ -172,9 +182,9 @@ TEST(Icons, EveryGlyphDrawsSomethingOfItsOwn)
 
 TEST(Icons, AreDrawnAtTheScreensOwnResolution)
 {
-    const QPixmap picture = mdGlyphPixmap(Glyph::Bin, 16, Theme::Ink, 2);
+    const QIcon icon = mdGlyphIcon(Glyph::Bin, Theme::Red);
+    const QPixmap picture = icon.pixmap(QSize(16, 16), 2);
     EXPECT_EQ(QSize(32, 32), picture.size());
     EXPECT_EQ(2, picture.devicePixelRatio());
-    const QIcon icon = mdGlyphIcon(Glyph::Bin, Theme::Red);
     EXPECT_NE(icon.pixmap(16, QIcon::Normal).toImage(), icon.pixmap(16, QIcon::Disabled).toImage());
 }

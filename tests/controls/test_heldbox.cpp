@@ -67,8 +67,6 @@ TEST_F(HeldBox, AClickThroughTheWindowSystemDoesNotSaveEither)
     typeBadDate();
     QTest::mouseClick(screen.windowHandle(), Qt::LeftButton, {}, cmdSave.mapTo(&screen, cmdSave.rect().center()));
     expectHeld();
-    QTest::mouseClick(screen.windowHandle(), Qt::LeftButton, {}, cmdCancel.mapTo(&screen, cmdCancel.rect().center()));
-    EXPECT_EQ(1, cancelled);
 }
 
 TEST_F(HeldBox, AClickOnAButtonWithoutFocusIsStopped)
@@ -111,28 +109,20 @@ TEST_F(HeldBox, ReturnDoesNotPressTheDefaultButton)
     EXPECT_EQ(QStringLiteral("01/02/24"), txtDate->Text());
 }
 
-TEST_F(HeldBox, CancelIsReachedByTheMouse)
+TEST_F(HeldBox, CancelIsHeldAsEveryButton)
 {
     typeBadDate();
     press(&cmdCancel);
-    EXPECT_EQ(1, cancelled);
-    EXPECT_FALSE(screen.isVisible());
-}
-
-TEST_F(HeldBox, CancelIsReachedByItsMnemonic)
-{
-    typeBadDate();
-    QTest::keyClick(inner(txtDate), Qt::Key_N, Qt::AltModifier);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return cancelled == 1; }, 1000));
-}
-
-TEST_F(HeldBox, APressOnCancelThatIsThoughtBetterOfIsNoWayOut)
-{
-    typeBadDate();
-    QTest::mousePress(&cmdCancel, Qt::LeftButton);
-    QTest::mouseRelease(&cmdCancel, Qt::LeftButton, {}, QPoint(-20, -20));
-    EXPECT_EQ(0, cancelled);
     expectHeld();
+    QTest::mouseClick(screen.windowHandle(), Qt::LeftButton, {}, cmdCancel.mapTo(&screen, cmdCancel.rect().center()));
+    expectHeld();
+    QTest::keyClick(inner(txtDate), Qt::Key_N, Qt::AltModifier);
+    QTest::qWait(150); // a mnemonic shows the button pressed for a moment before it clicks
+    expectHeld();
+    EXPECT_EQ(0, cancelled);
+    type(txtDate, "1/2/24");
+    press(&cmdCancel);
+    EXPECT_EQ(1, cancelled);
 }
 
 TEST_F(HeldBox, EscAndTheCloseBoxGoThrough)

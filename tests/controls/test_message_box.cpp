@@ -113,8 +113,10 @@ TEST(MessageBox, ATimeoutOfThreeCountsDownAndClosesWithOK)
     Box box(UI::OKCancel, 3);
     EXPECT_TRUE(box.timer()->isActive());
     EXPECT_EQ(QStringLiteral("OK"), box.button("cmdOK")->Caption());
+    EXPECT_EQ(QKeySequence(Qt::ALT | Qt::Key_O), box.button("cmdOK")->shortcut());
     box.tick();
     EXPECT_EQ(QStringLiteral("OK (2)"), box.button("cmdOK")->Caption());
+    EXPECT_EQ(QKeySequence(Qt::ALT | Qt::Key_O), box.button("cmdOK")->shortcut());
     box.tick();
     EXPECT_EQ(QStringLiteral("OK (1)"), box.button("cmdOK")->Caption());
     EXPECT_TRUE(box.form.isVisible());

@@ -356,9 +356,13 @@ TEST_F(ReplacementsEntry, RunsWhatThePreferencesHaveSetAndNothingBefore)
     const auto menu = static_cast<oSpellText *>(editor())->menuAt(0);
     QAction *entry = menu->actions().last();
     ASSERT_EQ(QStringLiteral("Edit Replacements..."), entry->text());
+    EXPECT_FALSE(entry->isEnabled()) << "there is nothing that it could open";
     entry->trigger();
     int opened = 0;
     SetEditReplacements([&] { ++opened; });
+    EXPECT_TRUE(entry->isEnabled()) << "in a box that was there before, too";
     entry->trigger();
     EXPECT_EQ(1, opened);
+    SetEditReplacements({});
+    EXPECT_FALSE(entry->isEnabled());
 }

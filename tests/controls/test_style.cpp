@@ -5,6 +5,8 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMainWindow>
+#include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -19,6 +21,8 @@
 #include <QtTest/qtestspontaneevent.h>
 
 #include <gtest/gtest.h>
+
+#include <vector>
 
 namespace {
 
@@ -177,6 +181,39 @@ TEST(Style, MnemonicsAreUnderlinedOnlyWhileAltIsHeld)
     EXPECT_NE(plain, label.grab().toImage());
     QTest::keyRelease(window.other, Qt::Key_Alt);
     EXPECT_EQ(plain, label.grab().toImage());
+}
+
+TEST(Style, MnemonicsOfTheMenuBarAreUnderlinedWithTheOthers)
+{
+    QMainWindow window;
+    auto *box = new QLineEdit(&window);
+    window.setCentralWidget(box);
+    window.menuBar()->addMenu(QStringLiteral("&File"));
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    box->setFocus();
+    // Without the tint of an entry that is chosen.
+    const auto ink = [&] {
+        const QImage picture = window.menuBar()->grab().toImage();
+        std::vector<bool> result;
+        for (int y = 0; y < picture.height(); ++y)
+            for (int x = 0; x < picture.width(); ++x)
+                result.push_back(picture.pixelColor(x, y).lightness() < 128);
+        return result;
+    };
+    const auto plain = ink();
+    QTest::keyPress(box, Qt::Key_Alt);
+    const auto held = ink();
+    EXPECT_NE(plain, held);
+    QTest::keyRelease(box, Qt::Key_Alt);
+    ASSERT_TRUE(window.menuBar()->hasFocus()) << "the letter can be pressed alone";
+    const auto chosen = ink();
+    for (size_t i = 0; i < held.size(); ++i)
+        if (held[i] && !plain[i]) {
+            EXPECT_TRUE(chosen[i]) << "a dot of the line";
+        }
+    QTest::keyClick(window.menuBar(), Qt::Key_Escape);
+    EXPECT_EQ(plain, ink());
 }
 
 TEST(Style, MnemonicsLoseTheirLineWhenTheProgramLosesTheKeyboard)

@@ -194,6 +194,18 @@ TEST_F(TabBar, EnterAndSpaceOpen)
     EXPECT_EQ(2, clicks[2][0].toInt());
 }
 
+TEST_F(TabBar, EnterHeldDownOpensOnce)
+{
+    addFour();
+    show();
+    QSignalSpy clicks(&bar, &oTabBar::Click);
+    for (const bool isRepeat : {false, true, true}) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), isRepeat);
+        QApplication::sendEvent(tab(2), &press);
+    }
+    EXPECT_EQ(1, clicks.size());
+}
+
 TEST_F(TabBar, TheTabKeyStopsOnceAndLeaves)
 {
     addFour();

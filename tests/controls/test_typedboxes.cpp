@@ -1,3 +1,4 @@
+#include "controls/mdTheme.h"
 #include "controls/oDateBox.h"
 #include "controls/oDecimalBox.h"
 #include "controls/oIntegerBox.h"
@@ -172,7 +173,8 @@ TEST_F(TypedBoxes, WhatDoesNotFitStaysAsTypedAndKeepsTheFocus)
     } cases[] = {
         {date, "31/02/24", "29/02/24", "A date, such as 21/11/26"},
         {amount, "12x", "12.00", "An amount, such as 1200.50"},
-        {count, "abc", "12", "A number, such as 12"},
+        {count, "abc", "12", "A number of no more than 2,147,483,647, such as 12"},
+        {count, "3000000000", "2147483647", "A number of no more than 2,147,483,647, such as 12"},
         {time, "1:2:3", "01:30", "A time, such as 1:30, 1.5 or 90"},
         {time, "99999999999", "01:30", "A time, such as 1:30, 1.5 or 90"},
     };
@@ -264,6 +266,22 @@ TEST_F(TypedBoxes, OfTheDisabledOnesOnlyTheDateBoxLetsABadValueBe)
     amount->setText(QStringLiteral("much"));
     EXPECT_TRUE(isPink(amount));
     EXPECT_TRUE(txtOther.hasFocus());
+    // What can be seen: the paper of each left of its text, and the sign at the right end of the bad one.
+    const auto paper
+        = [](QWidget *box) { return inner(box)->grab().toImage().pixelColor(4, inner(box)->height() / 2); };
+    const auto hasSign = [](QWidget *box) {
+        const QImage picture = inner(box)->grab().toImage();
+        const int side = Theme::scaled(16);
+        for (int x = picture.width() - Theme::Space8 - side; x < picture.width() - Theme::Space8; ++x)
+            for (int y = Theme::Space4; y < picture.height() - Theme::Space4; ++y)
+                if (picture.pixelColor(x, y) == Theme::Red)
+                    return true;
+        return false;
+    };
+    EXPECT_EQ(Theme::Canvas, paper(date));
+    EXPECT_FALSE(hasSign(date));
+    EXPECT_EQ(Theme::Pink, paper(amount));
+    EXPECT_TRUE(hasSign(amount));
 }
 
 // The date box's tick

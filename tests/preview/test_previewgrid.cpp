@@ -240,7 +240,7 @@ TEST_F(PreviewGridControl, ACellCutShortTellsItsTextInATooltip)
         return grid().ToolTipAt(
             QPoint(grid().columnViewportPosition(column - 1) + 5, grid().rowViewportPosition(row - 1) + 2));
     };
-    EXPECT_EQ(QStringLiteral("a reference &lt;b&gt; that is wider than its column ever was"), toolTip(5, 2));
+    EXPECT_EQ(QStringLiteral("<p>a reference &lt;b&gt; that is wider than its column ever was</p>"), toolTip(5, 2));
     EXPECT_EQ(QString(), toolTip(5, 3));
     EXPECT_EQ(QString(), toolTip(4, 2));
     EXPECT_EQ(QString(), grid().ToolTipAt(QPoint(5, grid().viewport()->height() - 1)));

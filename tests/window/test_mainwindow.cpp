@@ -375,7 +375,7 @@ TEST_F(MainWindow, TheFirstShowDrawsNothingInsideLongWork)
     window = std::make_unique<frmMain>();
     window->Load({});
     window->setWindowState(Qt::WindowNoState);
-    window->resize(800, 600);
+    window->resize(1300, 700); // not the width for which it was drawn
     const QString time = addItem();
     const clsLongWork work;
     show(*window);

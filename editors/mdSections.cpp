@@ -8,36 +8,32 @@ namespace {
 struct clsSection {
     const char *text; ///< of the tab, and the section's identity
     const char *screen; ///< the window's name
-    clsSectionKind kind;
     const clsScreen &(*table)();
 };
 
-constexpr clsSectionKind Shared = clsSectionKind::Shared;
-constexpr clsSectionKind New = clsSectionKind::New;
-
 // clang-format off
 constexpr clsSection Sections[] = {
-    {"Form Setup",                 "frmFormSetup",               Shared, ScreenFormSetup},
-    {"Fee Earners / Rates",        "frmFeeEarnerGroups",         Shared, nullptr},
-    {"Counsel",                    "frmCounsel",                 Shared, nullptr},
-    {"Enhancements",               "frmEnhancements",            Shared, nullptr},
-    {"Schedule of Time",           "frmScheduleOfTime",          Shared, nullptr},
-    {"Disbursements",              "frmDisbursements",           Shared, nullptr},
-    {"Family Advocacy Scheme",     "frmFamilyAdvocacyScheme",    Shared, nullptr},
-    {"Communications",             "frmCommunications",          Shared, nullptr},
-    {"Client Details",             "frmClientDetails",           New,    ScreenClientDetails},
-    {"Solicitor Details",          "frmSolicitorDetails",        New,    ScreenSolicitorDetails},
-    {"Previous Advice",            "frmPreviousAdvice",          New,    ScreenPreviousAdvice},
-    {"Case Information",           "frmCaseInformation",         New,    ScreenCaseInformation},
-    {"Outcome of Case",            "frmOutcomeOfCase",           New,    nullptr},
-    {"Late Submission",            "frmLateSubmission",          New,    nullptr},
-    {"Nature of Proceedings",      "frmNatureOfProceedings",     New,    nullptr},
-    {"Actual Costs",               "frmActualCostsIncurred",     New,    nullptr},
-    {"Details of Work",            "frmDetailsOfWork",           New,    nullptr},
-    {"Counsel Outstanding Claims", "frmCounselOutstandingClaims", New,   nullptr},
-    {"Details of Monies Awarded",  "frmDetailsOfMonies",         New,    nullptr},
-    {"Details of Costs Awarded",   "frmDetailsOfCostsAwarded",   New,    nullptr},
-    {"Debtor's Details",           "frmDebtorsDetails",          New,    nullptr},
+    {"Form Setup",                 "frmFormSetup",               ScreenFormSetup},
+    {"Fee Earners / Rates",        "frmFeeEarnerGroups",         nullptr},
+    {"Counsel",                    "frmCounsel",                 nullptr},
+    {"Enhancements",               "frmEnhancements",            nullptr},
+    {"Schedule of Time",           "frmScheduleOfTime",          nullptr},
+    {"Disbursements",              "frmDisbursements",           nullptr},
+    {"Family Advocacy Scheme",     "frmFamilyAdvocacyScheme",    nullptr},
+    {"Communications",             "frmCommunications",          nullptr},
+    {"Client Details",             "frmClientDetails",           ScreenClientDetails},
+    {"Solicitor Details",          "frmSolicitorDetails",        ScreenSolicitorDetails},
+    {"Previous Advice",            "frmPreviousAdvice",          ScreenPreviousAdvice},
+    {"Case Information",           "frmCaseInformation",         ScreenCaseInformation},
+    {"Outcome of Case",            "frmOutcomeOfCase",           nullptr},
+    {"Late Submission",            "frmLateSubmission",          nullptr},
+    {"Nature of Proceedings",      "frmNatureOfProceedings",     nullptr},
+    {"Actual Costs",               "frmActualCostsIncurred",     nullptr},
+    {"Details of Work",            "frmDetailsOfWork",           nullptr},
+    {"Counsel Outstanding Claims", "frmCounselOutstandingClaims", nullptr},
+    {"Details of Monies Awarded",  "frmDetailsOfMonies",         nullptr},
+    {"Details of Costs Awarded",   "frmDetailsOfCostsAwarded",   nullptr},
+    {"Debtor's Details",           "frmDebtorsDetails",          nullptr},
 };
 // clang-format on
 

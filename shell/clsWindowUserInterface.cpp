@@ -4,6 +4,7 @@
 #include "formdata/clsZR3Form.h"
 #include "shell/clsFileSystem.h"
 #include "shell/clsLongWork.h"
+#include "shell/mdFileHandling.h"
 #include "shell/mdGlobals.h"
 #include "shell/oApplication.h"
 
@@ -12,6 +13,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QMainWindow>
 #include <QMediaDevices>
 #include <QMessageBox>
 #include <QSoundEffect>
@@ -27,7 +29,28 @@ QWidget *activeParent()
 {
     if (QWidget *modal = QApplication::activeModalWidget())
         return modal;
-    return QApplication::activeWindow();
+    if (QWidget *active = QApplication::activeWindow())
+        return active;
+    // Another program is in front. A box without a window of its own would come up as one more window beside ours.
+    for (QWidget *window : QApplication::topLevelWidgets())
+        if (qobject_cast<QMainWindow *>(window) && window->isVisible())
+            return window;
+    return nullptr;
+}
+
+/// A filter as the commands give it, "text|pattern", again and again for more than one, as the toolkit's dialog takes
+/// it: the patterns in brackets at the end of the text, where many texts have them already.
+QStringList nameFilters(const QString &filter)
+{
+    const QStringList pieces = filter.split(u'|');
+    QStringList filters;
+    for (qsizetype i = 0; i < pieces.size(); i += 2) {
+        const QString patterns = pieces.value(i + 1).replace(u';', u' ');
+        const QString brackets = u'(' + patterns + u')';
+        const bool whole = patterns.isEmpty() || pieces[i].endsWith(brackets);
+        filters << (whole ? pieces[i] : pieces[i] + u' ' + brackets);
+    }
+    return filters;
 }
 
 struct clsButtonsRow {
@@ -85,7 +108,8 @@ clsUserInterface::Answer clsWindowUserInterface::customMessage(
     frmMessageBox box(activeParent());
     box.Initialise(message, title, buttons, icon, timeout);
     box.exec();
-    return Answer(box.Result());
+    // A box that the program's end has closed was not answered.
+    return oApplication::ending() ? answerThatChangesNothing(buttons) : Answer(box.Result());
 }
 
 clsUserInterface::Answer clsWindowUserInterface::systemMessage(
@@ -102,7 +126,8 @@ clsUserInterface::Answer clsWindowUserInterface::systemMessage(
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     box.setDefaultButton(row.pressedByEnter);
     box.setEscapeButton(row.pressedByEscape);
-    return answerOf(box.exec());
+    const int pressed = box.exec();
+    return oApplication::ending() ? answerThatChangesNothing(buttons) : answerOf(pressed);
 }
 
 void clsWindowUserInterface::showProgress(int value, int maximum, const QString &text)
@@ -134,7 +159,7 @@ void clsWindowUserInterface::letWindowsRepaint()
 
 QString clsWindowUserInterface::startFolder() const
 {
-    const QString path = Form ? Form->path() : QString();
+    const QString path = Form ? FormFilePath() : QString();
     const QString ofClaim = path.isEmpty() ? QString() : QFileInfo(path).absolutePath();
     for (const QString &folder :
         {ofClaim, m_lastFolder, QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)})
@@ -170,14 +195,16 @@ QString clsWindowUserInterface::chooseFolder(const QString &prompt)
 
 QString clsWindowUserInterface::chooseFileToOpen(const QString &filter)
 {
-    QFileDialog dialog(activeParent(), QStringLiteral("Open"), startFolder(), filter);
+    QFileDialog dialog(activeParent(), QStringLiteral("Open"), startFolder());
+    dialog.setNameFilters(nameFilters(filter));
     dialog.setFileMode(QFileDialog::ExistingFile);
     return chosen(asked(dialog));
 }
 
 QString clsWindowUserInterface::chooseFileToSave(const QString &filter, const QString &defaultExtension)
 {
-    QFileDialog dialog(activeParent(), QStringLiteral("Save As"), startFolder(), filter);
+    QFileDialog dialog(activeParent(), QStringLiteral("Save As"), startFolder());
+    dialog.setNameFilters(nameFilters(filter));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setDefaultSuffix(defaultExtension);

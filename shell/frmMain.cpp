@@ -1,5 +1,6 @@
 #include "shell/frmMain.h"
 
+#include "controls/mdLeaveFocusedBox.h"
 #include "controls/mdShowModal.h"
 #include "controls/oFooterBar.h"
 #include "controls/oHeaderBar.h"
@@ -24,6 +25,8 @@
 #include "shell/mdLog.h"
 #include "shell/mdMainMenu.h"
 #include "shell/mdProgramFolder.h"
+#include "shell/mdRecoveredCopy.h"
+#include "shell/mdRunTimeErrorMessage.h"
 #include "shell/mdSectionTabs.h"
 #include "shell/mdShellExecute.h"
 #include "shell/oApplication.h"
@@ -216,9 +219,12 @@ void frmMain::Activate()
 void frmMain::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
+    if (std::exchange(m_wasShown, true))
+        return;
     // Where the desktop gave the window another size than it asked for, the first drawing has not the sheet's width.
     QTimer::singleShot(0, this, [this] {
-        if (m_loaded && m_drawnWidth != sgPreview->width())
+        // Not inside work that lets events through: the claim may be half loaded.
+        if (m_loaded && !m_drawingFollows && !clsLongWork::isRunning() && m_drawnWidth != sgPreview->width())
             drawPreview(m_previewKind);
     });
 }
@@ -226,14 +232,19 @@ void frmMain::showEvent(QShowEvent *event)
 bool frmMain::event(QEvent *event)
 {
     const bool handled = QMainWindow::event(event);
-    if (event->type() == QEvent::WindowActivate && m_loaded && !m_modal && !std::exchange(m_activationDone, false))
+    if (event->type() != QEvent::WindowActivate || !m_loaded || m_modal)
+        return handled;
+    // Another program may have been in front since the routine ran, and the claim may count as changed by now.
+    if (std::exchange(m_activationDone, false))
+        UpdateInfo();
+    else
         Activate();
     return handled;
 }
 
 void frmMain::redraw(void (*routine)(clsPreviewKind))
 {
-    if (m_redrawing)
+    if (m_redrawing || oApplication::ending())
         return;
     const QScopedValueRollback<bool> redrawing(m_redrawing, true);
     const clsLongWork work;
@@ -260,8 +271,20 @@ void frmMain::tmrAutoBackup_Timer()
         mdAutoBackupTick(m_backupTag);
 }
 
+bool frmMain::leaveForAnotherClaim()
+{
+    if (!mdLeaveFocusedBox(this))
+        return false;
+    // A box with the focus keeps its text, and would write it into the next claim.
+    if (QWidget *box = focusWidget(); box && oFooter->TimeSpentTimer()->isAncestorOf(box))
+        box->clearFocus();
+    return true;
+}
+
 void frmMain::New()
 {
+    if (!leaveForAnotherClaim())
+        return;
     {
         const QScopedValueRollback<bool> follows(m_drawingFollows, true);
         NewForm(false);
@@ -272,6 +295,8 @@ void frmMain::New()
 
 void frmMain::Open()
 {
+    if (!leaveForAnotherClaim())
+        return;
     {
         const QScopedValueRollback<bool> follows(m_drawingFollows, true);
         OpenFormDialog(false);
@@ -282,12 +307,15 @@ void frmMain::Open()
 
 void frmMain::Save()
 {
+    // Whether or not the box lets go: a text that doesn't fit is not in the claim, and must not hold its save up.
+    mdLeaveFocusedBox(this);
     SaveForm(false);
     UpdateInfo();
 }
 
 void frmMain::SaveAs()
 {
+    mdLeaveFocusedBox(this);
     SaveForm(true);
     UpdateInfo();
 }
@@ -349,7 +377,7 @@ void frmMain::dropEvent(QDropEvent *event)
 
 void frmMain::openDropped(const QString &path)
 {
-    if (m_modal || clsLongWork::isRunning() || !ConfirmClose())
+    if (m_modal || clsLongWork::isRunning() || !leaveForAnotherClaim() || !ConfirmClose())
         return;
     {
         const QScopedValueRollback<bool> follows(m_drawingFollows, true);
@@ -361,10 +389,27 @@ void frmMain::openDropped(const QString &path)
     PreviewScheduleOfTime();
 }
 
+bool frmMain::confirmExit()
+{
+    // A text that doesn't fit holds nobody who leaves the program.
+    mdLeaveFocusedBox(this);
+    const bool changed = FormIsDirty();
+    if (!ConfirmClose())
+        return false;
+    // After Yes and a write that failed the claim counts as saved, and is nowhere. After No it still counts as changed.
+    if (!changed || FormIsDirty() || !FormNeedsRecovery())
+        return true;
+    const QString copy = WriteRecoveredCopy();
+    UserInterface().systemMessage(mdRecoveredCopyMessage(copy), QStringLiteral("Velmor ZR3"),
+        clsUserInterface::Information, clsUserInterface::OKOnly);
+    // Without a copy either, the open window is the only place that the claim still has.
+    return !copy.isEmpty();
+}
+
 void frmMain::closeEvent(QCloseEvent *event)
 {
     event->ignore();
-    if (clsLongWork::isRunning() || !ConfirmClose())
+    if (clsLongWork::isRunning() || !confirmExit())
         return;
     event->accept();
     tmrAutoBackup->stop();

@@ -82,6 +82,10 @@ private:
     void refreshPreview();
     void redraw(void (*routine)(clsPreviewKind));
     void openDropped(const QString &path);
+    /// Takes the user's typed text into the claim and the user out of the box; false where its text doesn't fit.
+    bool leaveForAnotherClaim();
+    /// Asks about changes, and sees to it that a claim whose save failed is kept; false when the program is to stay.
+    bool confirmExit();
 
     oHeaderBar *oHeader;
     oTabBar *tbSection;
@@ -98,6 +102,7 @@ private:
     QString m_nextSection;
     bool m_sectionOpen = false;
     bool m_loaded = false;
+    bool m_wasShown = false;
     bool m_redrawing = false;
     /// A command that ends with drawing the preview is at work: to refresh it before would be to draw it twice.
     bool m_drawingFollows = false;

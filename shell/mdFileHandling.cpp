@@ -11,6 +11,7 @@
 #include "shell/mdVersionComparison.h"
 
 #include <QFileInfo>
+#include <QScopedValueRollback>
 
 namespace {
 
@@ -29,6 +30,9 @@ struct {
 
 /// Whether this program has written the current claim to its file.
 bool wasSaved = false;
+
+/// Whether the current claim is being read from its file, so that nothing in it is the user's work yet.
+bool opening = false;
 
 void run(const std::function<void()> &action)
 {
@@ -80,6 +84,8 @@ bool loadForm(const QString &path)
         NewForm(true);
         return false;
     }
+    // New elements that an older file got by being loaded count as clean.
+    CleanXML = Form->XMLOutput();
     if (CompareVersions(Form->Version(), GetVersionInfo()) == FileIsNewer)
         warnOfNewerVersion(Form->Version());
     return true;
@@ -189,20 +195,22 @@ void OpenFormDialog(bool clearPath)
 
 void OpenFormFile(const QString &path)
 {
-    // The claim before is gone from here on, also where the load fails.
+    // A tick of the stopwatch would write the time of the claim before into this one.
+    run(formDisplay.stopTimer);
+    const QScopedValueRollback<bool> reading(opening, true);
+    // The claim before is gone from here on, also where the load fails, and its clean text with it.
     replaceForm();
+    CleanXML = Form->XMLOutput();
     try {
         if (!loadForm(path))
             return;
     } catch (...) {
-        // The failure goes on to the top. Nothing of the user's is in a claim that was never opened: compared with the
-        // clean text of the claim before it would count as changed.
+        // The failure goes on to the top. Nothing of the user's is in a claim that was never opened.
         CleanXML = Form->XMLOutput();
         throw;
     }
-    // In this order: new elements that an older file got by being loaded count as clean, and a path that differs from
-    // the one in the file counts as a change. A copy or a backup thus asks to be saved where it lies now.
-    CleanXML = Form->XMLOutput();
+    // After the clean text was taken: a path that differs from the one in the file counts as a change. A copy or a
+    // backup thus asks to be saved where it lies now.
     givePath(path);
 }
 
@@ -221,7 +229,7 @@ QString FormCopyName()
 bool FormNeedsRecovery() noexcept
 {
     try {
-        return FormIsDirty() || (Form && wasSaved && !cleanTextIsOnDisk());
+        return !opening && (FormIsDirty() || (Form && wasSaved && !cleanTextIsOnDisk()));
     } catch (...) {
         // A claim that can't even be compared is not known to be safe.
         return true;

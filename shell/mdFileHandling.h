@@ -50,5 +50,5 @@ QString FormFilePath();
 QString FormCopyName();
 
 /// True when the end of the program would lose work: the claim has changes, or it counts as saved though its last save
-/// did not get through. Shows nothing and never fails.
+/// did not get through. Never while a claim is still being opened. Shows nothing and never fails.
 bool FormNeedsRecovery() noexcept;

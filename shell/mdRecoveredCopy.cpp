@@ -80,11 +80,23 @@ QString writtenBelow(const QString &parent, const QString &name, const QByteArra
     return file.fileName();
 }
 
-QString writeCopy()
+/// What was written last, and where.
+struct {
+    QString path;
+    QByteArray bytes;
+} lastCopy;
+
+bool lastCopyHolds(const QByteArray &bytes)
 {
-    if (!FormNeedsRecovery())
-        return {};
-    const QByteArray bytes = mdToCodePage(Form->XMLOutput());
+    try {
+        return !lastCopy.path.isEmpty() && bytes == lastCopy.bytes && FileSystem().ReadFile(lastCopy.path) == bytes;
+    } catch (const clsRunTimeError &) {
+        return false;
+    }
+}
+
+QString writtenNew(const QByteArray &bytes)
+{
     const QString name = stem() + Now().toString(QStringLiteral(" yyyy-MM-dd HH.mm.ss"));
     // The database folder may have gone, or belong to an administrator: the user's last copy must not depend on it.
     const QString written = writtenBelow(StoredDatabasePath(), name, bytes);
@@ -92,6 +104,17 @@ QString writeCopy()
         return written;
     QDir().mkpath(stateFolder());
     return writtenBelow(stateFolder(), name, bytes);
+}
+
+QString writeCopy()
+{
+    if (!FormNeedsRecovery())
+        return {};
+    const QByteArray bytes = mdToCodePage(Form->XMLOutput());
+    // A desktop that ends its session asks more than once.
+    if (!lastCopyHolds(bytes))
+        lastCopy = {writtenNew(bytes), bytes};
+    return lastCopy.path;
 }
 
 } // namespace

@@ -2,6 +2,10 @@
 
 #include "shell/clsRunTimeError.h"
 
+/// What became of the work that was not saved, as the user is told. `recoveredCopy` is the path of the copy, empty
+/// where none was written; the text is empty where there was nothing to write.
+QString mdRecoveredCopyMessage(const QString &recoveredCopy);
+
 /// The text of the box that an error shows when nothing has caught it: its number, its description, and what became of
-/// the work that was not saved. `recoveredCopy` is the path of the copy, empty where none was written.
+/// the work that was not saved.
 QString mdRunTimeErrorMessage(const clsRunTimeError &error, const QString &recoveredCopy);

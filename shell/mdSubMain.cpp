@@ -19,6 +19,7 @@
 
 #include <QFile>
 #include <QPainter>
+#include <QScopeGuard>
 
 namespace {
 
@@ -67,6 +68,9 @@ void showMain(clsProgram &program, oApplication &application, clsWindowUserInter
         [footer = window->footer()] { footer->clearProgress(); },
     });
     window->Load(claimPath);
+    // The system may have asked for the end while the user was asked or told something.
+    if (oApplication::ending())
+        return;
     window->show();
     program.splash.StepAside();
 }
@@ -85,6 +89,7 @@ int RunProgram(int argc, char **argv)
     const clsUserInterfaceScope scope(user);
     application.writeRecoveredCopy = WriteRecoveredCopy;
     SetEndSignalHandler([&application] { application.endUnasked(); });
+    const auto signalsToTheSystem = qScopeGuard([] { SetEndSignalHandler({}); });
 
     if (IsNetworkPath(ProgramFolder())) {
         mdCustomMessages(
@@ -99,6 +104,5 @@ int RunProgram(int argc, char **argv)
     program.splash.show();
     const int status = application.run();
     user.setProgressDisplay({});
-    SetEndSignalHandler({});
     return status;
 }

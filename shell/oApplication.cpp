@@ -32,6 +32,8 @@ void oApplication::guarded(const std::function<void()> &step)
     try {
         step();
     } catch (const clsProgramEnd &end) {
+        if (!m_ending)
+            recoveredCopy();
         this->end(end.exitStatus);
     } catch (...) {
         fail(std::current_exception());
@@ -58,6 +60,9 @@ void oApplication::end(int status)
 
 void oApplication::endUnasked()
 {
+    // The user still reads about a failure: its copy is written, and the end is that failure's.
+    if (m_failing)
+        return end(1);
     recoveredCopy();
     end(0);
 }

@@ -2,6 +2,7 @@
 
 #include "preview/mdExportPreviewScheduleOfTime.h"
 #include "tests/preview/clsPreviewTest.h"
+#include "tests/support/clsQuietUserInterface.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -304,19 +305,12 @@ TEST_F(SchedulePreview, ReportsItsProgressInThisWindowOnly)
 {
     addItems(3);
     bool enabled = true;
-    class clsWatch final : public clsUserInterface {
+    class clsWatch final : public clsQuietUserInterface {
     public:
         std::function<void(int, int, const QString &)> onProgress;
         int cleared = 0;
-        Answer customMessage(const QString &, const QString &, Buttons, int, int) override { return OK; }
-        Answer systemMessage(const QString &, const QString &, SystemIcon, Buttons) override { return OK; }
         void showProgress(int value, int maximum, const QString &text) override { onProgress(value, maximum, text); }
         void clearProgress() override { ++cleared; }
-        QString chooseFolder(const QString &) override { return {}; }
-        QString chooseFileToOpen(const QString &) override { return {}; }
-        QString chooseFileToSave(const QString &, const QString &) override { return {}; }
-        void playSound(const QString &) override { }
-        bool openTarget(const QString &) override { return false; }
     } watch;
     const clsUserInterfaceScope scope(watch);
     int calls = 0;

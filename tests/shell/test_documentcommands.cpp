@@ -2,6 +2,7 @@
 
 #include "shell/mdGetVersionInfo.h"
 #include "tests/shell/clsDocumentTest.h"
+#include "tests/support/clsQuietUserInterface.h"
 #include "tests/support/mdOrdinaryUser.h"
 
 #include <QRegularExpression>
@@ -20,14 +21,9 @@ const QString NoClaim = QStringLiteral(
     "There was a problem opening the selected file. Please ensure that the file is a valid ZR3 file and try again");
 
 /// Records what the file dialogs were asked for.
-class clsFileDialogs final : public clsUserInterface {
+class clsFileDialogs final : public clsQuietUserInterface {
 public:
     QStringList asked;
-    Answer customMessage(const QString &, const QString &, Buttons, int, int) override { return Cancel; }
-    Answer systemMessage(const QString &, const QString &, SystemIcon, Buttons) override { return Cancel; }
-    void showProgress(int, int, const QString &) override { }
-    void clearProgress() override { }
-    QString chooseFolder(const QString &) override { return {}; }
     QString chooseFileToOpen(const QString &filter) override
     {
         asked << filter;
@@ -38,8 +34,6 @@ public:
         asked << filter << defaultExtension;
         return {};
     }
-    void playSound(const QString &) override { }
-    bool openTarget(const QString &) override { return false; }
 };
 
 } // namespace
@@ -401,9 +395,63 @@ TEST_F(DocumentCommands, OpenOpensAndClearsWhatTheWindowShowed)
     user.files = {file};
     OpenFormDialog(false);
     EXPECT_EQ(file, Form->path());
-    EXPECT_EQ((QStringList {QStringLiteral("clear preview"), QStringLiteral("stop timer"), QStringLiteral("activate")}),
+    EXPECT_EQ((QStringList {QStringLiteral("stop timer"), QStringLiteral("clear preview"), QStringLiteral("stop timer"),
+                  QStringLiteral("activate")}),
         shown);
     EXPECT_FALSE(FormIsDirty());
+}
+
+TEST_F(DocumentCommands, TheStopwatchStandsBeforeTheClaimBeforeIsGone)
+{
+    const QString file = savedClaim();
+    NewForm(true);
+    Form->path = path("claims/before.zr3");
+    QStringList of;
+    SetFormDisplay({{}, {}, [&of] { of << Form->path(); }});
+    OpenFormFile(file);
+    EXPECT_EQ(QStringList {path("claims/before.zr3")}, of);
+}
+
+namespace {
+
+/// Looks at the claim while the user waits for its opening and reads about it.
+class clsOnlooker final : public clsQuietUserInterface {
+public:
+    int looks = 0, needingRecovery = 0;
+    int boxes = 0, changedInBox = 0;
+    Answer customMessage(const QString &, const QString &title, Buttons buttons, int, int) override
+    {
+        EXPECT_EQ(QStringLiteral("Version Error"), title);
+        ++boxes;
+        changedInBox += FormIsDirty();
+        look();
+        return answerThatChangesNothing(buttons);
+    }
+    void showProgress(int, int, const QString &) override { look(); }
+
+private:
+    void look()
+    {
+        ++looks;
+        needingRecovery += FormNeedsRecovery();
+    }
+};
+
+} // namespace
+
+TEST_F(DocumentCommands, NothingOfAClaimThatIsBeingOpenedNeedsRecovery)
+{
+    const QString file = claimOfVersion("99%2E2%2E0");
+    savedClaim("claims/before.zr3");
+    clsOnlooker onlooker;
+    const clsUserInterfaceScope scope(onlooker);
+    OpenFormFile(file);
+    EXPECT_EQ(1, onlooker.boxes);
+    EXPECT_GT(onlooker.looks, 1) << "the reading reports its progress";
+    EXPECT_EQ(0, onlooker.changedInBox);
+    EXPECT_EQ(0, onlooker.needingRecovery);
+    change();
+    EXPECT_TRUE(FormNeedsRecovery());
 }
 
 TEST_F(DocumentCommands, OpenCanCutTheClaimOffFromItsFile)
@@ -492,8 +540,8 @@ TEST_F(DocumentCommands, AFileThatIsNoClaimIsToldAndANewClaimBegins)
     EXPECT_EQ(GetVersionInfo(), Form->Version());
     EXPECT_TRUE(Form->VAT());
     EXPECT_FALSE(FormIsDirty());
-    EXPECT_EQ((QStringList {QStringLiteral("stop timer"), QStringLiteral("activate"), QStringLiteral("clear preview"),
-                  QStringLiteral("stop timer"), QStringLiteral("activate")}),
+    EXPECT_EQ((QStringList {QStringLiteral("stop timer"), QStringLiteral("stop timer"), QStringLiteral("activate"),
+                  QStringLiteral("clear preview"), QStringLiteral("stop timer"), QStringLiteral("activate")}),
         shown);
 }
 

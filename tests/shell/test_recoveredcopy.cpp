@@ -120,8 +120,26 @@ TEST_F(RecoveredCopy, TwoOfOneSecondAreBothKept)
     const QByteArray first = bytesOf(recovered("Smith 2026-11-21 14.03.22.zr3"));
     change();
     EXPECT_EQ(recovered("Smith 2026-11-21 14.03.22 (2).zr3"), WriteRecoveredCopy());
+    change();
     EXPECT_EQ(recovered("Smith 2026-11-21 14.03.22 (3).zr3"), WriteRecoveredCopy());
     EXPECT_EQ(first, bytesOf(recovered("Smith 2026-11-21 14.03.22.zr3")));
+}
+
+TEST_F(RecoveredCopy, IsWrittenOnceForTheSameText)
+{
+    changedClaim();
+    const QString first = WriteRecoveredCopy();
+    SetClock([] { return QDateTime(QDate(2026, 11, 21), QTime(14, 3, 25)); });
+    EXPECT_EQ(first, WriteRecoveredCopy());
+    EXPECT_EQ(1, QDir(recovered("")).entryList(QDir::Files).size());
+    change();
+    EXPECT_EQ(recovered("Smith 2026-11-21 14.03.25.zr3"), WriteRecoveredCopy());
+    // One that is gone, or no longer what was written, is no copy.
+    put(recovered("Smith 2026-11-21 14.03.25.zr3"), "another");
+    EXPECT_EQ(recovered("Smith 2026-11-21 14.03.25 (2).zr3"), WriteRecoveredCopy());
+    QFile::remove(recovered("Smith 2026-11-21 14.03.25 (2).zr3"));
+    EXPECT_EQ(recovered("Smith 2026-11-21 14.03.25 (2).zr3"), WriteRecoveredCopy());
+    EXPECT_EQ(3, QDir(recovered("")).entryList(QDir::Files).size());
 }
 
 TEST_F(RecoveredCopy, HasANameThatEveryFileSystemTakes)

@@ -89,6 +89,9 @@ protected:
         return status;
     }
 
+    /// The files that were set aside.
+    QStringList recovered() const { return QDir(path("program/Databases/Recovered")).entryList(QDir::Files); }
+
     static QString header()
     {
         const auto *window = topLevel<frmMain>();

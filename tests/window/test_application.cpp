@@ -1,17 +1,22 @@
 #include "shell/clsProgramEnd.h"
 #include "shell/clsRunTimeError.h"
+#include "shell/clsWindowUserInterface.h"
 #include "shell/mdGlobals.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/oApplication.h"
+#include "tests/support/clsQuietUserInterface.h"
 #include "tests/support/clsScriptedUserInterface.h"
 #include "tests/support/mdTestPrinting.h"
 
 #include <QDialog>
 #include <QEventLoop>
+#include <QMetaMethod>
 #include <QSessionManager>
 #include <QTimer>
 
 #include <gtest/gtest.h>
+
+#include <optional>
 
 namespace {
 
@@ -109,9 +114,10 @@ TEST_F(Application, EvenWhatIsNoExceptionIsCaught)
     expectBox(QStringLiteral("Run-time error '51':\r\n\r\nInternal error"));
 }
 
-TEST_F(Application, AProgramEndEndsItWithoutAWord)
+TEST_F(Application, AProgramEndEndsItWithoutAWordAndWritesTheCopy)
 {
     EXPECT_EQ(3, statusOf([] { throw clsProgramEnd {3}; }));
+    EXPECT_EQ(1, copies);
     EXPECT_TRUE(user.messages.empty());
 }
 
@@ -145,8 +151,7 @@ TEST_F(Application, LoopsWithinLoopsEndAndNoFurtherEventIsDelivered)
 
 TEST_F(Application, WhatFailsWhileTheBoxStandsIsNotToldAgain)
 {
-    struct clsAsking final : clsUserInterface {
-        Answer customMessage(const QString &, const QString &, Buttons, int, int) override { return OK; }
+    struct clsAsking final : clsQuietUserInterface {
         Answer systemMessage(const QString &, const QString &, SystemIcon, Buttons) override
         {
             ++boxes;
@@ -156,18 +161,68 @@ TEST_F(Application, WhatFailsWhileTheBoxStandsIsNotToldAgain)
             box.exec();
             return OK;
         }
-        void showProgress(int, int, const QString &) override { }
-        void clearProgress() override { }
-        QString chooseFolder(const QString &) override { return {}; }
-        QString chooseFileToOpen(const QString &) override { return {}; }
-        QString chooseFileToSave(const QString &, const QString &) override { return {}; }
-        void playSound(const QString &) override { }
-        bool openTarget(const QString &) override { return false; }
         int boxes = 0;
     } asking;
     const clsUserInterfaceScope scope(asking);
     EXPECT_EQ(1, statusOf([] { throw clsRunTimeError(clsRunTimeError::FileNotFound); }));
     EXPECT_EQ(1, asking.boxes);
+}
+
+TEST_F(Application, ASignalWhileTheBoxStandsKeepsTheStatusOfTheFailure)
+{
+    struct clsSignalled final : clsQuietUserInterface {
+        Answer systemMessage(const QString &, const QString &, SystemIcon, Buttons) override
+        {
+            oApplication::instance()->endUnasked();
+            return OK;
+        }
+    } signalled;
+    const clsUserInterfaceScope scope(signalled);
+    EXPECT_EQ(1, statusOf([] { throw clsRunTimeError(clsRunTimeError::FileNotFound); }));
+    EXPECT_EQ(1, copies);
+}
+
+TEST_F(Application, AQuestionThatTheEndClosesChangesNothing)
+{
+    clsWindowUserInterface windows;
+    std::optional<clsUserInterface::Answer> answer;
+    const auto end = [this] {
+        ASSERT_NE(nullptr, QApplication::activeModalWidget());
+        application->endUnasked();
+    };
+    EXPECT_EQ(0, statusOf([&] {
+        QTimer::singleShot(20, application.get(), end);
+        answer = windows.customMessage(
+            QStringLiteral("?"), QStringLiteral("Overwrite?"), clsUserInterface::OKCancel, 1, 0);
+    }));
+    EXPECT_EQ(clsUserInterface::Cancel, answer);
+}
+
+TEST_F(Application, ASystemQuestionThatTheEndClosesChangesNothing)
+{
+    clsWindowUserInterface windows;
+    std::optional<clsUserInterface::Answer> answer;
+    EXPECT_EQ(0, statusOf([&] {
+        QTimer::singleShot(20, application.get(), [this] { application->endUnasked(); });
+        answer = windows.systemMessage(
+            QStringLiteral("?"), QStringLiteral("Reset"), clsUserInterface::Question, clsUserInterface::YesNo);
+    }));
+    EXPECT_EQ(clsUserInterface::No, answer);
+}
+
+TEST_F(Application, TheDesktopsQuestionBeforeTheSessionsEndWritesTheCopyAndEndsNothing)
+{
+    // Only the desktop can make a session, and what is connected to the signal does not look at it.
+    alignas(QSessionManager) char noSession[sizeof(QSessionManager)] = {};
+    void *arguments[] = {nullptr, noSession};
+    const QMetaMethod signal = QMetaMethod::fromSignal(&QGuiApplication::commitDataRequest);
+    EXPECT_EQ(0, statusOf([&] {
+        QMetaObject::activate(application.get(), signal.methodIndex(), arguments);
+        EXPECT_EQ(1, copies);
+        EXPECT_FALSE(oApplication::ending());
+        application->end(0);
+    }));
+    EXPECT_TRUE(user.messages.empty());
 }
 
 TEST_F(Application, TheDesktopsRequestToQuitWritesTheCopyAndAsksNothing)

@@ -3,6 +3,7 @@
 #include "controls/oHeaderBar.h"
 #include "shell/clsLongWork.h"
 #include "shell/clsRunTimeError.h"
+#include "tests/support/clsQuietUserInterface.h"
 #include "tests/window/clsWindowTest.h"
 #include "wordexport/clsMSWord.h"
 #include "wordexport/frmExportToWord.h"
@@ -245,8 +246,24 @@ TEST_F(ExportToWord, AnUnknownFormTypeRunsNothing)
     press("cmdExport");
     ASSERT_EQ(1u, user.messages.size());
     EXPECT_EQ(QStringLiteral("Export Complete"), user.messages[0].title);
+    EXPECT_EQ(QStringLiteral("Exporting is complete."), user.messages[0].text);
     EXPECT_TRUE(QDir(path("out")).isEmpty());
     EXPECT_TRUE(user.progress.empty());
+}
+
+TEST_F(ExportToWord, TheFormTypeWhosePagesAreStillMissingIsToldSo)
+{
+    Form->FormType = QStringLiteral("Claim1A");
+    open(path("out"));
+    put("out/Claim1A.doc", "old");
+    press("cmdExport");
+    ASSERT_EQ(1u, user.messages.size());
+    EXPECT_EQ(QStringLiteral("Export to Word"), user.messages[0].title);
+    EXPECT_EQ(QStringLiteral("The pages of Claim1A can't be exported yet."), user.messages[0].text);
+    EXPECT_EQ(clsUserInterface::OKOnly, user.messages[0].buttons);
+    EXPECT_EQ("old", bytesOf("out/Claim1A.doc"));
+    EXPECT_TRUE(user.progress.empty());
+    EXPECT_TRUE(dialog->isVisible());
 }
 
 TEST_F(ExportToWord, UsesAFolderWhoseNameTheClaimCanNotHold)
@@ -263,9 +280,7 @@ TEST_F(ExportToWord, UsesAFolderWhoseNameTheClaimCanNotHold)
 
 TEST_F(ExportToWord, IsDisabledAndHeldOpenWhileItRuns)
 {
-    struct clsObserving final : clsUserInterface {
-        Answer customMessage(const QString &, const QString &, Buttons, int, int) override { return OK; }
-        Answer systemMessage(const QString &, const QString &, SystemIcon, Buttons) override { return OK; }
+    struct clsObserving final : clsQuietUserInterface {
         void showProgress(int, int, const QString &) override
         {
             ++steps;
@@ -274,12 +289,6 @@ TEST_F(ExportToWord, IsDisabledAndHeldOpenWhileItRuns)
             dialog->reject();
             held = held && dialog->isVisible();
         }
-        void clearProgress() override { }
-        QString chooseFolder(const QString &) override { return {}; }
-        QString chooseFileToOpen(const QString &) override { return {}; }
-        QString chooseFileToSave(const QString &, const QString &) override { return {}; }
-        void playSound(const QString &) override { }
-        bool openTarget(const QString &) override { return false; }
         QDialog *dialog = nullptr;
         int steps = 0;
         bool disabled = true, busy = true, held = true;

@@ -2,14 +2,18 @@
 #include "controls/oTimeSpentBox.h"
 #include "preview/oPreviewGrid.h"
 #include "shell/clsLongWork.h"
+#include "shell/mdFileHandling.h"
 #include "shell/mdGetVersionInfo.h"
 #include "tests/window/clsMainWindowTest.h"
 
 #include <QDropEvent>
 #include <QMenu>
 #include <QMimeData>
+#include <QLineEdit>
 #include <QSignalSpy>
 #include <QTimer>
+
+#include <cerrno>
 
 namespace {
 
@@ -35,6 +39,24 @@ protected:
         QDropEvent dropped({20, 300}, Qt::CopyAction, &data, Qt::LeftButton, {});
         QCoreApplication::sendEvent(window.get(), &dropped);
         QTest::qWait(10);
+    }
+    /// Types a time into the stopwatch's box and stays in it.
+    void typeTime(const char *time) const
+    {
+        auto *box = TimeSpentBox->findChildren<QLineEdit *>().first();
+        box->setFocus();
+        box->selectAll();
+        QTest::keyClicks(box, QString::fromLatin1(time));
+        ASSERT_EQ(box, QApplication::focusWidget());
+    }
+    /// A claim as this program saved it.
+    QString savedClaim()
+    {
+        const QString claim = sample("empty.zr3");
+        start(claim);
+        entry("mnuSave").trigger();
+        EXPECT_FALSE(FormIsDirty());
+        return claim;
     }
     static QString addItem()
     {
@@ -157,6 +179,94 @@ TEST_F(MainWindow, ShowsTheTimeSpent)
     EXPECT_EQ(QStringLiteral("03:25"), TimeSpentBox->TimeSpent());
 }
 
+TEST_F(MainWindow, ATypedTimeGoesToTheClaimBeforeAndNotIntoTheNext)
+{
+    const QString other = sample("empty.zr3");
+    start(other);
+    const QString ofOther = Form->TimeSpent();
+    NewForm(true);
+    const QString ofNew = Form->TimeSpent();
+    const struct {
+        std::function<void()> run;
+        QString time;
+    } commands[] = {
+        {[this] { entry("mnuNew").trigger(); }, ofNew},
+        {[&] {
+             user.files = {other};
+             entry("mnuOpen").trigger();
+         },
+            ofOther},
+        {[&] { drop({QUrl::fromLocalFile(other)}); }, ofOther},
+    };
+    for (const auto &command : commands) {
+        NewForm(true);
+        user.messages.clear();
+        typeTime("90");
+        user.answers = {clsUserInterface::Cancel};
+        command.run();
+        EXPECT_EQ(QStringLiteral("01:30"), Form->TimeSpent());
+        typeTime("45");
+        user.answers = {clsUserInterface::No};
+        command.run();
+        EXPECT_EQ(2u, user.messages.size()) << "the typed time is a change";
+        EXPECT_EQ(command.time, Form->TimeSpent());
+        EXPECT_EQ(command.time, TimeSpentBox->TimeSpent());
+        row("tbSection").findChildren<oTabBarButton *>().first()->setFocus();
+        EXPECT_EQ(command.time, Form->TimeSpent());
+    }
+}
+
+TEST_F(MainWindow, ATimeThatDoesNotFitHoldsTheClaim)
+{
+    start();
+    Form->ClientDetails.Surname = QStringLiteral("Hartwell");
+    user.answers = {clsUserInterface::No};
+    typeTime("soon");
+    entry("mnuNew").trigger();
+    EXPECT_TRUE(user.messages.empty());
+    EXPECT_EQ(QStringLiteral("Hartwell"), Form->ClientDetails.Surname());
+    EXPECT_EQ(QStringLiteral("soon"), TimeSpentBox->TimeSpent());
+    // But not the end of the program.
+    EXPECT_TRUE(window->close());
+}
+
+TEST_F(MainWindow, SavingWritesTheTypedTime)
+{
+    const QString claim = savedClaim();
+    typeTime("90");
+    entry("mnuSave").trigger();
+    EXPECT_EQ(claim, header());
+    OpenFormFile(claim);
+    EXPECT_EQ(QStringLiteral("01:30"), Form->TimeSpent());
+    typeTime("45");
+    user.files = {path("claims/other.zr3")};
+    entry("mnuSaveAs").trigger();
+    OpenFormFile(path("claims/other.zr3"));
+    EXPECT_EQ(QStringLiteral("00:45"), Form->TimeSpent());
+}
+
+TEST_F(MainWindow, ClosingAsksAboutATypedTime)
+{
+    start();
+    typeTime("90");
+    user.answers = {clsUserInterface::Cancel};
+    EXPECT_FALSE(window->close());
+    ASSERT_EQ(1u, user.messages.size());
+    EXPECT_EQ(QStringLiteral("Save?"), user.messages[0].title);
+    EXPECT_EQ(QStringLiteral("01:30"), Form->TimeSpent());
+}
+
+TEST_F(MainWindow, AnActivationAfterTheRoutineRanBehindAnotherProgramShowsTheMark)
+{
+    start();
+    QApplication::setActiveWindow(nullptr);
+    window->Activate();
+    EXPECT_EQ(QStringLiteral("New ZR3 File"), header());
+    Form->ClientDetails.Surname = QStringLiteral("Hartwell");
+    QApplication::setActiveWindow(window.get());
+    EXPECT_EQ(QStringLiteral("New ZR3 File*"), header());
+}
+
 TEST_F(MainWindow, EveryActivationByTheDesktopRunsTheRoutine)
 {
     start();
@@ -244,6 +354,82 @@ TEST_F(MainWindow, TheFirstDrawingHasTheWidthOfTheSheetThatIsShown)
         EXPECT_GT(columns, preview().width() * 9 / 10) << maximised;
         EXPECT_LT(columns, preview().width()) << maximised;
     }
+}
+
+TEST_F(MainWindow, RestoringTheWindowLeavesThePreviewAsItWas)
+{
+    start();
+    QTest::qWait(20);
+    const QString time = addItem();
+    window->hide();
+    window->resize(800, 600);
+    const int before = preview().width();
+    show(*window);
+    QTest::qWait(20);
+    ASSERT_NE(before, preview().width());
+    EXPECT_FALSE(previewText().contains(time));
+}
+
+TEST_F(MainWindow, TheFirstShowDrawsNothingInsideLongWork)
+{
+    window = std::make_unique<frmMain>();
+    window->Load({});
+    window->setWindowState(Qt::WindowNoState);
+    window->resize(1300, 700); // not the width for which it was drawn
+    const QString time = addItem();
+    const clsLongWork work;
+    show(*window);
+    QTest::qWait(20);
+    EXPECT_FALSE(previewText().contains(time));
+}
+
+TEST_F(MainWindow, AClaimWhoseSaveFailsOnClosingIsSetAside)
+{
+    const QString claim = savedClaim();
+    Form->ClientDetails.Surname = QStringLiteral("Hartwell");
+    FileSystem().faultPoint = [&](clsFileStep step, const QString &at) {
+        return step == clsFileStep::Write && at == claim ? clsFileFault {ENOSPC, 100} : clsFileFault();
+    };
+    user.answers = {clsUserInterface::Yes};
+    EXPECT_TRUE(window->close());
+    FileSystem().faultPoint = nullptr;
+    ASSERT_EQ(3u, user.messages.size());
+    EXPECT_EQ(QStringLiteral("Save?"), user.messages[0].title);
+    EXPECT_EQ(QStringLiteral("File Not Saved"), user.messages[1].title);
+    const QString told = QStringLiteral("A copy of your claim with its unsaved changes is in:\r\n\r\n");
+    ASSERT_TRUE(user.messages[2].text.startsWith(told));
+    QFile copy(user.messages[2].text.mid(told.size()));
+    ASSERT_TRUE(copy.open(QIODevice::ReadOnly)) << qPrintable(copy.fileName());
+    EXPECT_TRUE(copy.readAll().contains("Hartwell"));
+}
+
+TEST_F(MainWindow, AClaimThatCanBeWrittenNowhereKeepsTheProgramOpen)
+{
+    qputenv("XDG_STATE_HOME", QFile::encodeName(path("state")));
+    savedClaim();
+    Form->ClientDetails.Surname = QStringLiteral("Hartwell");
+    const QSignalSpy closed(window.get(), &frmMain::Closed);
+    FileSystem().faultPoint = [](clsFileStep step, const QString &) {
+        return step == clsFileStep::Write ? clsFileFault {ENOSPC, 100} : clsFileFault();
+    };
+    user.answers = {clsUserInterface::Yes};
+    EXPECT_FALSE(window->close());
+    FileSystem().faultPoint = nullptr;
+    qunsetenv("XDG_STATE_HOME");
+    ASSERT_EQ(3u, user.messages.size());
+    EXPECT_EQ(
+        QStringLiteral("The unsaved changes to your claim could not be written to a copy."), user.messages[2].text);
+    EXPECT_EQ(0, closed.count());
+}
+
+TEST_F(MainWindow, NoOnClosingSetsNothingAside)
+{
+    savedClaim();
+    Form->ClientDetails.Surname = QStringLiteral("Hartwell");
+    user.answers = {clsUserInterface::No};
+    EXPECT_TRUE(window->close());
+    EXPECT_EQ(1u, user.messages.size());
+    EXPECT_FALSE(QFile::exists(path("program/Databases/Recovered")));
 }
 
 TEST_F(MainWindow, ClosingACleanClaimEndsTheProgram)

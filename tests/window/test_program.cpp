@@ -1,10 +1,13 @@
 #include "formdata/clsZR3Form.h"
+#include "preview/mdPreview.h"
+#include "preview/oPreviewGrid.h"
 #include "shell/clsFileSystem.h"
 #include "shell/frmSplash.h"
 #include "shell/mdGlobals.h"
 #include "tests/support/mdTestPaths.h"
 #include "tests/support/mdTestPrinting.h"
 #include "tests/window/clsProgramTest.h"
+#include "wordexport/mdWordAlreadyRunning.h"
 
 #include <QAction>
 #include <QTest>
@@ -89,6 +92,9 @@ TEST_F(Program, ANetworkFolderIsRefusedBeforeTheSplash)
     EXPECT_EQ(QStringLiteral("Network Error"), title);
     EXPECT_FALSE(splashSeen);
     EXPECT_TRUE(QDir(path("config")).isEmpty());
+    struct sigaction action = {};
+    ASSERT_EQ(0, ::sigaction(SIGTERM, nullptr, &action));
+    EXPECT_EQ(SIG_DFL, action.sa_handler) << "the signal goes to the system again";
 }
 
 TEST_F(Program, WithoutADatabaseFolderItEnds)
@@ -124,11 +130,87 @@ TEST_F(Program, ASignalToEndSetsTheUnsavedClaimAside)
         std::raise(SIGTERM);
         return true;
     }));
-    const QStringList copies = QDir(path("program/Databases/Recovered")).entryList(QDir::Files);
+    const QStringList copies = recovered();
     ASSERT_EQ(1, copies.size());
     QFile copy(path("program/Databases/Recovered/") + copies.first());
     ASSERT_TRUE(copy.open(QIODevice::ReadOnly));
     EXPECT_TRUE(copy.readAll().contains("Hartwell"));
+}
+
+TEST_F(Program, ASignalWhileTheFirstClaimIsOpenedShowsNoWindow)
+{
+    bool shown = false;
+    EXPECT_EQ(0, run({"none.zr3"}, [&] {
+        QWidget *box = QApplication::activeModalWidget();
+        if (!box)
+            return false;
+        EXPECT_EQ(QStringLiteral("File Not Read"), box->windowTitle());
+        // What still happens on the way back has happened by then.
+        QObject::connect(oApplication::instance(), &QCoreApplication::aboutToQuit,
+            [&shown] { shown = topLevel<frmMain>() && topLevel<frmMain>()->isVisible(); });
+        std::raise(SIGTERM);
+        return true;
+    }));
+    EXPECT_FALSE(shown);
+    EXPECT_EQ(QStringList(), recovered());
+}
+
+TEST_F(Program, ASignalAtTheSaveQuestionDrawsNoPreview)
+{
+    bool asked = false;
+    int rows = -1;
+    EXPECT_EQ(0, run({}, [&] {
+        QWidget *box = QApplication::activeModalWidget();
+        if (!box && !header().isEmpty() && !asked) {
+            asked = true;
+            Form->ClientDetails.Surname = QStringLiteral("Hartwell");
+            mdClearPreview();
+            QTimer::singleShot(0, topLevel<frmMain>()->findChild<QAction *>("mnuNew"), &QAction::trigger);
+        }
+        if (!box)
+            return false;
+        EXPECT_EQ(QStringLiteral("Save?"), box->windowTitle());
+        QObject::connect(
+            oApplication::instance(), &QCoreApplication::aboutToQuit, [&rows] { rows = PreviewGrid->Rows(); });
+        std::raise(SIGTERM);
+        return true;
+    }));
+    EXPECT_EQ(0, rows);
+    EXPECT_EQ(1, recovered().size());
+}
+
+TEST_F(Program, ASignalAtAQuestionOfTheExportWritesNoDocument)
+{
+    ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("out")));
+    ASSERT_TRUE(QFile::link(QStringLiteral(ZR3_TEMPLATES), path("program/Templates")));
+    for (const QString &question : {QStringLiteral("Word Instances"), QStringLiteral("Overwrite?")}) {
+        const bool overwrites = question == QLatin1String("Overwrite?");
+        const clsProcessListScope processes([&] { return overwrites ? QStringList() : QStringList("soffice.bin"); });
+        QFile document(path("out/Claim1.doc"));
+        if (overwrites) {
+            ASSERT_TRUE(document.open(QIODevice::WriteOnly));
+            document.write("old");
+            document.close();
+        }
+        bool asked = false, pressed = false;
+        EXPECT_EQ(0, run({}, [&] {
+            QWidget *modal = QApplication::activeModalWidget();
+            if (!modal && !header().isEmpty() && !asked) {
+                asked = true;
+                Form->ExportPath = path("out");
+                topLevel<frmMain>()->wordInstalled = [] { return true; };
+                QTimer::singleShot(0, topLevel<frmMain>()->findChild<QAction *>("mnuExportToWord"), &QAction::trigger);
+            } else if (modal && modal->objectName() == QLatin1String("frmExportToWord") && !pressed) {
+                pressed = true;
+                QTimer::singleShot(0, modal->findChild<QPushButton *>("cmdExport"), &QPushButton::click);
+            } else if (modal && modal->windowTitle() == question) {
+                std::raise(SIGTERM);
+                return true;
+            }
+            return false;
+        }));
+        EXPECT_EQ(overwrites ? 3 : 0, document.size());
+    }
 }
 
 TEST_F(Program, AnExportWithoutItsTemplatesEndsTheProgramAndKeepsTheClaim)
@@ -158,7 +240,7 @@ TEST_F(Program, AnExportWithoutItsTemplatesEndsTheProgramAndKeepsTheClaim)
     }));
     EXPECT_TRUE(text.startsWith(QStringLiteral("Run-time error '"))) << qPrintable(text);
     EXPECT_FALSE(QFile::exists(path("out/Claim1.doc")));
-    const QStringList copies = QDir(path("program/Databases/Recovered")).entryList(QDir::Files);
+    const QStringList copies = recovered();
     ASSERT_EQ(1, copies.size());
     EXPECT_TRUE(text.endsWith(copies.first()));
 }

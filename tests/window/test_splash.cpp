@@ -2,6 +2,7 @@
 
 #include "shell/mdDatabasePath.h"
 #include "shell/mdGetVersionInfo.h"
+#include "tests/support/clsQuietUserInterface.h"
 #include "tests/window/clsWindowTest.h"
 
 #include <QLabel>
@@ -136,21 +137,13 @@ TEST_F(Splash, CapitalsAndOtherKeysOnlyRestartTheTimer)
 
 TEST_F(Splash, TheTimerStandsStillWhileACommandRuns)
 {
-    struct clsWatching final : clsUserInterface {
-        Answer customMessage(const QString &, const QString &, Buttons, int, int) override { return OK; }
-        Answer systemMessage(const QString &, const QString &, SystemIcon, Buttons) override { return No; }
-        void showProgress(int, int, const QString &) override { }
-        void clearProgress() override { }
+    struct clsWatching final : clsQuietUserInterface {
         QString chooseFolder(const QString &) override
         {
             ranDuring = timer->isActive();
             ++asked;
             return {};
         }
-        QString chooseFileToOpen(const QString &) override { return {}; }
-        QString chooseFileToSave(const QString &, const QString &) override { return {}; }
-        void playSound(const QString &) override { }
-        bool openTarget(const QString &) override { return false; }
         QTimer *timer = nullptr;
         bool ranDuring = true;
         int asked = 0;

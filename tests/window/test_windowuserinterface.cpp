@@ -1,6 +1,7 @@
 #include "controls/frmMessageBox.h"
 #include "shell/clsLongWork.h"
 #include "shell/clsWindowUserInterface.h"
+#include "shell/mdFileHandling.h"
 #include "tests/window/clsWindowTest.h"
 
 #include <QDesktopServices>
@@ -8,6 +9,8 @@
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QLineEdit>
+#include <QListView>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QThread>
@@ -153,11 +156,11 @@ TEST_F(WindowUserInterface, ChoosesAFolder)
 
 TEST_F(WindowUserInterface, BeginsInTheFolderOfTheClaimElseInTheOneLastUsed)
 {
-    const QString filter = QStringLiteral("Velmor ZR3 Files (*.zr3)");
+    const QString filter = QStringLiteral("Velmor ZR3 Files (*.zr3)|*.zr3");
     const QString claim = sample("empty.zr3");
     whenShown<QFileDialog>([&](QFileDialog &dialog) {
         EXPECT_EQ(QFileDialog::ExistingFile, dialog.fileMode());
-        EXPECT_EQ(QStringList(filter), dialog.nameFilters());
+        EXPECT_EQ(QStringList("Velmor ZR3 Files (*.zr3)"), dialog.nameFilters());
         dialog.setDirectory(path("claims"));
         dialog.selectFile(claim);
         QMetaObject::invokeMethod(&dialog, "accept");
@@ -172,7 +175,59 @@ TEST_F(WindowUserInterface, BeginsInTheFolderOfTheClaimElseInTheOneLastUsed)
     Form->path = path("other/claim.zr3");
     whenShown<QFileDialog>([&](QFileDialog &dialog) { EXPECT_EQ(path("other"), dialog.directory().path()); });
     EXPECT_EQ(QString(), windows.chooseFileToOpen(filter));
+
+    // A claim that can't hold the name of its folder lies in it all the same.
+    Preferences = std::make_unique<clsZR3PreferencesDatabase>();
+    const QString foreign = folder.filePath(QString::fromUtf8("Żółw"));
+    QDir().mkpath(foreign);
+    ASSERT_TRUE(QFile::copy(claim, foreign + QStringLiteral("/claim.zr3")));
+    OpenFormFile(foreign + QStringLiteral("/claim.zr3"));
+    whenShown<QFileDialog>([&](QFileDialog &dialog) { EXPECT_EQ(foreign, dialog.directory().path()); });
+    EXPECT_EQ(QString(), windows.chooseFileToOpen(filter));
+    EXPECT_EQ(4, shown);
+}
+
+TEST_F(WindowUserInterface, TheFileDialogsShowTheFilesOfTheirFilter)
+{
+    Form = std::make_unique<clsZR3Form>();
+    Form->path = sample("empty.zr3");
+    ASSERT_TRUE(QFile::copy(path("claims/empty.zr3"), path("claims/letter.doc")));
+    ASSERT_TRUE(QFile::copy(path("claims/empty.zr3"), path("claims/old.zr2")));
+    const auto expectFiles = [this](const QStringList &files) {
+        whenShown<QFileDialog>([files](QFileDialog &dialog) {
+            const auto &list = control<QListView>(dialog, "listView");
+            QStringList seen;
+            EXPECT_TRUE(QTest::qWaitFor(
+                [&] {
+                    seen.clear();
+                    for (int i = 0; i < list.model()->rowCount(list.rootIndex()); ++i)
+                        seen << list.model()->index(i, 0, list.rootIndex()).data().toString();
+                    seen.sort();
+                    return seen == files;
+                },
+                3000))
+                << seen.join(u' ').toStdString();
+        });
+    };
+    expectFiles({QStringLiteral("empty.zr3")});
+    windows.chooseFileToOpen(QStringLiteral("Velmor ZR3 Files (*.zr3)|*.zr3"));
+    expectFiles({QStringLiteral("empty.zr3")});
+    windows.chooseFileToSave(QStringLiteral("Velmor ZR3 Files (*.zr3)|*.zr3"), QStringLiteral(".zr3"));
+    expectFiles({QStringLiteral("empty.zr3"), QStringLiteral("old.zr2")});
+    windows.chooseFileToOpen(QStringLiteral("Claims|*.zr3;*.zr2"));
     EXPECT_EQ(3, shown);
+}
+
+TEST_F(WindowUserInterface, ABoxOfAProgramThatIsNotInFrontBelongsToItsMainWindow)
+{
+    QMainWindow main;
+    main.setObjectName(QStringLiteral("main"));
+    show(main);
+    QApplication::setActiveWindow(nullptr);
+    ASSERT_EQ(nullptr, QApplication::activeWindow());
+    whenShown<frmMessageBox>([&](frmMessageBox &box) { EXPECT_EQ(&main, box.parentWidget()); });
+    windows.customMessage(QStringLiteral("m"), QStringLiteral("t"), clsUserInterface::OKOnly, 0, 0);
+    EXPECT_EQ(1, shown);
 }
 
 TEST_F(WindowUserInterface, SavingAddsTheExtensionAndAsksNoQuestionOfItsOwn)
@@ -186,7 +241,7 @@ TEST_F(WindowUserInterface, SavingAddsTheExtensionAndAsksNoQuestionOfItsOwn)
         QMetaObject::invokeMethod(&dialog, "accept");
     });
     EXPECT_EQ(path("claims/empty.zr3"),
-        windows.chooseFileToSave(QStringLiteral("Velmor ZR3 Files (*.zr3)"), QStringLiteral(".zr3")));
+        windows.chooseFileToSave(QStringLiteral("Velmor ZR3 Files (*.zr3)|*.zr3"), QStringLiteral(".zr3")));
     EXPECT_EQ(1, shown);
 }
 

@@ -7,7 +7,7 @@ class QWidget;
 
 /// What the whole application does with keys and the wheel before its controls see them: mnemonics are underlined
 /// while Alt is held, a wheel over a list that hasn't the focus scrolls the page, and a box that is marked as invalid
-/// is painted anew. It eats nothing else.
+/// is painted anew. A letter under Alt that leads nowhere is not typed into a text box. It eats nothing else.
 class oInputFilter final : public QObject {
     Q_OBJECT
 

@@ -1,6 +1,7 @@
 #include "shell/clsWindowUserInterface.h"
 
 #include "controls/frmMessageBox.h"
+#include "controls/oVeil.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/clsFileSystem.h"
 #include "shell/clsLongWork.h"
@@ -84,6 +85,7 @@ clsUserInterface::Answer clsWindowUserInterface::customMessage(
     clsLongWork::hideWaiting();
     frmMessageBox box(activeParent());
     box.Initialise(message, title, buttons, icon, timeout);
+    const oVeil veil(box.parentWidget());
     box.exec();
     return Answer(box.Result());
 }
@@ -102,6 +104,7 @@ clsUserInterface::Answer clsWindowUserInterface::systemMessage(
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     box.setDefaultButton(row.pressedByEnter);
     box.setEscapeButton(row.pressedByEscape);
+    const oVeil veil(box.parentWidget());
     return answerOf(box.exec());
 }
 
@@ -155,6 +158,7 @@ namespace {
 QString asked(QFileDialog &dialog)
 {
     clsLongWork::hideWaiting();
+    const oVeil veil(dialog.parentWidget());
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 

@@ -38,11 +38,6 @@ QRectF progressLine(const QRect &rectangle)
         thickness};
 }
 
-constexpr int mnemonicFlags(bool underline)
-{
-    return underline ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
-}
-
 } // namespace
 
 void mdPaintScrollBar(QPainter &painter, const QStyleOptionSlider &option, const QRect &slider, const QWidget *widget)
@@ -97,7 +92,7 @@ void mdPaintMenuBarItem(QPainter &painter, const QStyleOptionMenuItem &option, b
     const bool open = chosen && (option.state & QStyle::State_Sunken);
     painter.fillRect(option.rect, open ? Theme::Selected : chosen ? Theme::Hover : Theme::Paper);
     painter.setPen(enabled ? Theme::Ink : Theme::Ink3);
-    painter.drawText(option.rect, Qt::AlignCenter | Qt::TextSingleLine | mnemonicFlags(underline), option.text);
+    mdPaintCaption(painter, option.rect, Qt::AlignCenter | Qt::TextSingleLine, option.text, underline);
 }
 
 void mdPaintTabShape(QPainter &painter, const QStyleOptionTab &option)
@@ -122,6 +117,6 @@ void mdPaintTabLabel(QPainter &painter, const QStyleOptionTab &option, bool unde
     font.setWeight(chosen ? QFont::DemiBold : QFont::Normal);
     painter.setFont(font);
     painter.setPen(!enabled ? Theme::Ink3 : chosen ? Theme::Purple : Theme::Ink2);
-    painter.drawText(option.rect, Qt::AlignCenter | Qt::TextSingleLine | mnemonicFlags(underline), option.text);
+    mdPaintCaption(painter, option.rect, Qt::AlignCenter | Qt::TextSingleLine, option.text, underline);
     painter.restore();
 }

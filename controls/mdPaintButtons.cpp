@@ -91,7 +91,7 @@ void paintBack(QPainter &painter, const QRectF &visible, const clsButtonColours 
 void paintCaption(QPainter &painter, const QStyleOptionButton &option, const QRect &visible, const QColor &colour,
     Glyph glyph, bool underline)
 {
-    const int flags = Qt::AlignCenter | Qt::TextSingleLine | (underline ? Qt::TextShowMnemonic : Qt::TextHideMnemonic);
+    const int flags = Qt::AlignCenter | Qt::TextSingleLine | Qt::TextHideMnemonic;
     const int side = glyph == Glyph::None ? 0 : Theme::scaled(option.text.isEmpty() ? 16 : 14);
     const int gap = side && !option.text.isEmpty() ? Theme::Space8 : 0;
     const int textWidth = option.text.isEmpty() ? 0 : painter.fontMetrics().size(flags, option.text).width();
@@ -102,7 +102,8 @@ void paintCaption(QPainter &painter, const QStyleOptionButton &option, const QRe
     }
     painter.setPen(colour);
     const QRect text(left + side + gap, visible.top(), textWidth, visible.height());
-    painter.drawText(QStyle::visualRect(option.direction, visible, text), flags | Qt::TextDontClip, option.text);
+    mdPaintCaption(
+        painter, QStyle::visualRect(option.direction, visible, text), flags | Qt::TextDontClip, option.text, underline);
 }
 
 } // namespace

@@ -23,6 +23,10 @@ void mdPaintBox(QPainter &painter, const QRectF &rectangle, const QColor &back, 
 /// The focus ring: 2 wide, along the inside of the rectangle.
 void mdPaintRing(QPainter &painter, const QRectF &rectangle, const QColor &colour);
 
+/// A caption with a marked letter. The mark changes nothing but the line below the letter, so that the text stays where
+/// it is when Alt is pressed.
+void mdPaintCaption(QPainter &painter, const QRect &rectangle, int flags, const QString &caption, bool underline);
+
 /// Boxes of text, in all their states: back, edge, and the sign of an invalid one.
 void mdPaintTextBox(QPainter &painter, const QStyleOption &option, const QWidget *widget);
 /// Room that the sign of an invalid box takes at its right end.

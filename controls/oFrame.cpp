@@ -39,8 +39,15 @@ QWidget *oFrame::captionBar() const
 void oFrame::setCaption(const QString &caption)
 {
     m_caption = caption;
+    m_markedCaption.clear();
     setAccessibleName(mdSpokenCaption(caption));
     measure();
+}
+
+void oFrame::setMarkedCaption(const QString &caption)
+{
+    m_markedCaption = caption;
+    m_bar->update();
 }
 
 void oFrame::setBackColour(const QColor &colour)

@@ -17,6 +17,10 @@ public:
 
     void setCaption(const QString &caption);
     QString Caption() const { return m_caption; }
+    /// The caption with the mark of a letter for the Alt key, in the way of buttons. What the letter does is for others
+    /// to say.
+    void setMarkedCaption(const QString &caption);
+    QString MarkedCaption() const { return m_markedCaption; }
 
     void setBackColour(const QColor &colour);
     QColor BackColour() const { return m_backColour; }
@@ -55,6 +59,7 @@ private:
     void measure();
 
     QString m_caption;
+    QString m_markedCaption; ///< empty while it has no letter
     QColor m_backColour;
     QColor m_captionColour;
     bool m_showExpandCollapseIcon = false;

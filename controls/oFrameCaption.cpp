@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QStyle>
 
 namespace {
 
@@ -119,7 +120,12 @@ void oFrameCaption::paintHeading(QPainter &painter) const
     painter.setPen(isEnabled() ? m_frame.m_captionColour : Theme::Ink3);
     const QRect room = rect().adjusted(Theme::Space16, 0, -Theme::Space16, 0);
     const QString shown = painter.fontMetrics().elidedText(m_frame.m_caption, Qt::ElideRight, room.width());
-    painter.drawText(room, int(Qt::AlignLeft | Qt::AlignBottom) | Qt::TextSingleLine, shown);
+    const int flags = int(Qt::AlignLeft | Qt::AlignBottom) | Qt::TextSingleLine;
+    // One that is too long for its frame goes without the mark.
+    if (shown == m_frame.m_caption && !m_frame.m_markedCaption.isEmpty())
+        mdPaintCaption(painter, room, flags, m_frame.m_markedCaption, style()->styleHint(QStyle::SH_UnderlineShortcut));
+    else
+        painter.drawText(room, flags, shown);
 }
 
 void oFrameCaption::paintPage(QPainter &painter) const

@@ -8,7 +8,10 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QScrollBar>
+#include <QTextEdit>
 
 namespace {
 
@@ -22,6 +25,16 @@ bool turnsByAccident(const QObject *watched)
         return false;
     return qobject_cast<const QComboBox *>(widget) || qobject_cast<const QAbstractSpinBox *>(widget)
         || (qobject_cast<const QAbstractSlider *>(widget) && !qobject_cast<const QScrollBar *>(widget));
+}
+
+/// A letter under Alt that belongs to nothing on the screen would be typed into the claim. What AltGr types has no Alt.
+bool typesByAccident(const QObject *watched, const QKeyEvent &key)
+{
+    const Qt::KeyboardModifiers held = key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+    if (held != Qt::AltModifier || key.text().isEmpty() || !key.text()[0].isPrint())
+        return false;
+    return qobject_cast<const QLineEdit *>(watched) || qobject_cast<const QPlainTextEdit *>(watched)
+        || qobject_cast<const QTextEdit *>(watched);
 }
 
 } // namespace
@@ -74,7 +87,10 @@ bool oInputFilter::eventFilter(QObject *watched, QEvent *event)
     case QEvent::KeyPress:
         if (static_cast<QKeyEvent *>(event)->key() == Qt::Key_Alt)
             setUnderlineMnemonics(true);
-        return false;
+        if (!typesByAccident(watched, *static_cast<QKeyEvent *>(event)))
+            return false;
+        event->accept();
+        return true;
     case QEvent::KeyRelease:
         if (static_cast<QKeyEvent *>(event)->key() == Qt::Key_Alt)
             setUnderlineMnemonics(false);

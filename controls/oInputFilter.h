@@ -7,7 +7,8 @@ class QWidget;
 
 /// What the whole application does with events before its controls see them: mnemonics are underlined while Alt is
 /// held, a wheel over a list that hasn't the focus scrolls the page, a box that is marked as invalid is painted anew,
-/// and every part of a window hears of a new font of the desktop. It eats nothing else.
+/// and every part of a window hears of a new font of the desktop. A letter under Alt that leads nowhere is not typed
+/// into a text box. It eats nothing else.
 class oInputFilter final : public QObject {
     Q_OBJECT
 

@@ -166,11 +166,12 @@ void oSpellText::layOut()
     // The frame has a width and the document a margin; the rest of the padding lies between them.
     const int inner = frameWidth() + DocumentMargin;
     const int padding = heightOfLines(1) - fontMetrics().height();
-    const int above = qMax(0, padding / 2 - inner);
+    // An odd pixel lies above the text, as in the boxes beside it.
+    const int above = qMax(0, (padding + 1) / 2 - inner);
     // None below a single line: if its room is the least bit too low, the toolkit lets it scroll.
     const int below = m_multiLine ? qMax(0, padding - 2 * inner - above) : 0;
     const int side = qMax(0, SidePadding - inner);
-    setViewportMargins(side, above, side, below);
+    setViewportMargins(qMax(0, side - 1), above, side, below);
     updateGeometry();
 }
 

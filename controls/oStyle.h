@@ -35,6 +35,8 @@ public:
         const QWidget *widget = nullptr) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
         const QWidget *widget = nullptr) const override;
+    void drawItemText(QPainter *painter, const QRect &rectangle, int flags, const QPalette &palette, bool enabled,
+        const QString &text, QPalette::ColorRole role = QPalette::NoRole) const override;
 
 private:
     bool drawOurPrimitive(

@@ -145,6 +145,21 @@ bool oStyle::drawOurControl(
     return true;
 }
 
+/// The captions of fields.
+void oStyle::drawItemText(QPainter *painter, const QRect &rectangle, int flags, const QPalette &palette, bool enabled,
+    const QString &text, QPalette::ColorRole role) const
+{
+    if (!(flags & Qt::TextShowMnemonic)) {
+        QProxyStyle::drawItemText(painter, rectangle, flags, palette, enabled, text, role);
+        return;
+    }
+    painter->save();
+    if (role != QPalette::NoRole)
+        painter->setPen(QPen(palette.brush(role), painter->pen().widthF()));
+    mdPaintCaption(*painter, rectangle, flags & ~Qt::TextHideMnemonic, text, !(flags & Qt::TextHideMnemonic));
+    painter->restore();
+}
+
 void oStyle::drawMenuItem(const QStyleOptionMenuItem &option, QPainter *painter, const QWidget *widget) const
 {
     QStyleOptionMenuItem ours = option;

@@ -13,11 +13,6 @@ constexpr int NarrowestLabels = 120;
 constexpr int TickRowGap = 6;
 constexpr int AnswerGap = 6;
 
-int captionWidth(const QWidget &widget, const char *caption)
-{
-    return widget.fontMetrics().horizontalAdvance(QString::fromUtf8(caption));
-}
-
 /// The rows that take whatever height is left over.
 bool growsWithWindow(const clsScreenRow &row)
 {
@@ -206,11 +201,12 @@ QHBoxLayout *clsFrameRows::cell(QWidget *control, bool wholeWidth)
     return m_cell;
 }
 
-/// Long captions of long texts stand above them. Those of short fields are wrapped instead, so that the boxes of a
-/// frame keep their common edge.
+/// A caption that the column of labels has no room for stands above its field. Only a tick keeps it beside, wrapped,
+/// since a tick on a line of its own would lose it.
 bool clsFrameRows::standsAbove(const clsScreenRow &row) const
 {
-    return isTall(row) && captionWidth(m_frame, row.caption) > oFieldLabel::WidestBeside();
+    const oFieldLabel beside(QString::fromUtf8(row.caption), oFieldLabel::Place::Beside, &m_frame);
+    return row.kind != clsRowKind::Tick && beside.wordWrap();
 }
 
 bool clsFrameRows::isAnswer(const clsScreenRow &row) const
@@ -220,5 +216,5 @@ bool clsFrameRows::isAnswer(const clsScreenRow &row) const
 
 bool clsFrameRows::isTall(const clsScreenRow &row) const
 {
-    return row.kind == clsRowKind::Other || (row.kind == clsRowKind::Text && row.flags & MultiLine);
+    return row.kind == clsRowKind::Other ? row.other->tall : row.kind == clsRowKind::Text && (row.flags & MultiLine);
 }

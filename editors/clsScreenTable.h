@@ -38,13 +38,17 @@ enum clsFieldFlag : unsigned {
     Unbound = 256, ///< has no member in the record
     NoCaption = 512, ///< the frame's caption serves; the row's is read out only
     Independent = 1024, ///< no pair, although its name ends in Yes or No
+    AtCloseOnly = 2048, ///< stored by the button that closes, and not on the way to another section
 };
+
+struct clsScreenRow;
 
 /// A control that a table brings with it. Loading and storing may be missing where it has no part in the record.
 struct clsOtherControl {
-    QWidget *(*make)(QWidget *parent);
+    QWidget *(*make)(const clsScreenRow &row, QWidget *parent);
     void (*load)(QWidget &control, clsXMLRecord &record) = nullptr;
     void (*store)(const QWidget &control, clsXMLRecord &record) = nullptr;
+    bool tall = true; ///< fills the width below its caption, as a grid does; a short one is as wide as it asks for
 };
 
 /// One row of a screen: a line for each control, in the order in which the user walks through them and in which they
@@ -99,4 +103,5 @@ struct clsScreen {
     std::vector<clsScreenJump> jumps {};
     const char *itemWord = nullptr; ///< an item's editor: what it edits, in the words of its questions
     clsXMLRecord *(*add)() = nullptr; ///< an item's editor opened without one: makes it at the first Save
+    bool fileMenu = true; ///< has the menu that saves the claim, as sections do and editors of items don't
 };

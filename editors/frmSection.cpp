@@ -73,8 +73,12 @@ frmSection::frmSection(const clsScreen &screen, QWidget *parent)
     buildFrames();
     m_bar = new oScreenBar(screen, this);
     connectBar();
-    buildMenus();
-    mdGiveLetters(*m_menus, *m_bar, m_fields, m_labels);
+    if (screen.fileMenu)
+        buildFileMenu();
+    if (!screen.jumps.empty())
+        buildJumpMenu();
+    m_menus->setVisible(!m_menus->actions().isEmpty());
+    mdGiveLetters(*m_bar, m_fields, m_labels, m_page->frames());
 
     auto *all = new QVBoxLayout(this);
     all->setContentsMargins(0, 0, 0, 0);
@@ -100,7 +104,7 @@ void frmSection::buildFrames()
     m_page->complete();
 }
 
-void frmSection::buildMenus()
+void frmSection::buildFileMenu()
 {
     QMenu *file = m_menus->addMenu(QStringLiteral("&File"));
     QAction *save = file->addAction(QStringLiteral("&Save"));
@@ -109,8 +113,10 @@ void frmSection::buildMenus()
     // The claim as it stands, without the store step. That is meant: the button closes the section, the key protects
     // the work done so far.
     connect(save, &QAction::triggered, this, [] { SaveForm(false); });
-    if (m_screen.jumps.empty())
-        return;
+}
+
+void frmSection::buildJumpMenu()
+{
     QMenu *jumpTo = m_menus->addMenu(QStringLiteral("&Jump To"));
     clsMnemonics letters;
     for (const clsScreenJump &jump : m_screen.jumps) {
@@ -174,13 +180,14 @@ void frmSection::Initialise(clsXMLRecord *item)
     }
 }
 
-void frmSection::Store()
+void frmSection::Store(clsStoring storing)
 {
     if (!m_record && m_screen.add)
         m_record = m_screen.add();
     if (m_record)
         for (const clsScreenField &field : m_fields)
-            mdStoreControl(*field.row, *field.control, *m_record);
+            if (storing == clsStoring::Closing || !(field.row->flags & AtCloseOnly))
+                mdStoreControl(*field.row, *field.control, *m_record);
     emit Stored();
 }
 
@@ -203,9 +210,9 @@ bool frmSection::checkRequired()
 
 void frmSection::Save()
 {
-    if (!mdLeaveFocusedBox(this) || !checkRequired())
+    if (!mdLeaveFocusedBox(this) || !checkRequired() || (m_mayStore && !m_mayStore()))
         return;
-    Store();
+    Store(clsStoring::Closing);
     done(Accepted);
 }
 
@@ -244,7 +251,7 @@ void frmSection::JumpTo(const QString &section, bool store)
     if (!mdLeaveFocusedBox(this))
         return;
     if (store)
-        Store();
+        Store(clsStoring::MovingOn);
     mdUnloadAndDummyTabClick(*this, section);
 }
 
@@ -275,7 +282,8 @@ QSize frmSection::sizeHint() const
     const int width = qMax(widthOf(m_screen.width), minimumSizeHint().width());
     if (m_screen.width == clsScreenWidth::List)
         return {width, Theme::scaled(ListHeight)};
-    const int around = m_menus->sizeHint().height() + m_header->sizeHint().height() + m_bar->sizeHint().height();
+    const int menus = m_menus->isHidden() ? 0 : m_menus->sizeHint().height();
+    const int around = menus + m_header->sizeHint().height() + m_bar->sizeHint().height();
     return {width, around + m_page->heightFor(width)};
 }
 

@@ -5,12 +5,17 @@
 
 #include <QDialog>
 
+#include <functional>
+#include <utility>
 #include <vector>
 
 class oHeaderBar;
 class oScreenBar;
 class oScreenPage;
 class QMenuBar;
+
+/// What a screen is stored for.
+enum class clsStoring { Closing, MovingOn };
 
 /// A screen of the claim, made from its table: a section, a list, or the editor of an item. It holds no data between
 /// openings: it copies its record into the controls when it is initialised, and back when it stores. Whatever a single
@@ -30,8 +35,9 @@ public:
     /// The record that is edited; nothing while a new item has none.
     clsXMLRecord *Record() const { return m_record; }
 
-    /// Writes every control to the record, in the order of the table.
-    void Store();
+    /// Writes the controls to the record, in the order of the table: all of them where the screen closes, and on the
+    /// way to another section all but those that are stored at the close only.
+    void Store(clsStoring storing);
     void Save();
     void Cancel();
     void Close();
@@ -39,6 +45,10 @@ public:
     void Next();
     /// Leaves for another section, with the store step or without it.
     void JumpTo(const QString &section, bool store);
+
+    /// A rule's own check before a Save, once nothing required is missing and before anything is made or written. Where
+    /// it says no, having told the user why, the screen stays.
+    void setMayStore(std::function<bool()> mayStore) { m_mayStore = std::move(mayStore); }
 
     /// The control of that name; a name that the screen doesn't have is the object error.
     QWidget &Box(const char *name) const;
@@ -66,7 +76,8 @@ protected:
 
 private:
     void buildFrames();
-    void buildMenus();
+    void buildFileMenu();
+    void buildJumpMenu();
     void connectBar();
     void makeTicksExclusive();
     bool checkRequired();
@@ -80,4 +91,5 @@ private:
     oScreenBar *m_bar;
     std::vector<clsScreenField> m_fields;
     std::vector<oFieldLabel *> m_labels;
+    std::function<bool()> m_mayStore;
 };

@@ -62,7 +62,7 @@ QWidget *make(const clsScreenRow &row, QWidget *parent)
     case clsRowKind::Tick: return new oCheckBox(parent);
     case clsRowKind::List: return makeList(row, parent);
     case clsRowKind::Button: return makeButton(row, parent);
-    case clsRowKind::Other: return row.other->make(parent);
+    case clsRowKind::Other: return row.other->make(row, parent);
     default: throw clsRunTimeError(clsRunTimeError::InvalidProcedureCall);
     }
 }

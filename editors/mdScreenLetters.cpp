@@ -6,19 +6,13 @@
 #include "editors/oScreenBar.h"
 #include "editors/oScreenFrame.h"
 
-#include <QMenuBar>
+#include <algorithm>
 
 namespace {
 
-void reserveMenus(const QMenuBar &menus, clsMnemonics &letters)
-{
-    for (const QAction *menu : menus.actions()) {
-        const QString caption = menu->text();
-        const qsizetype mark = caption.indexOf(u'&');
-        if (mark >= 0 && mark + 1 < caption.size())
-            letters.reserve(caption[mark + 1]);
-    }
-}
+/// File, Jump To, Save, Add, Close and Cancel. They have their letters on every screen: where one of them is missing,
+/// its letter leads to nothing, and not to something else.
+constexpr QLatin1String FixedLetters("FJSACN");
 
 /// The first "Add" of a screen has its letter on every screen; a second one takes what there is.
 void giveButtons(const std::vector<clsScreenField> &fields, clsMnemonics &letters, bool adds)
@@ -31,16 +25,32 @@ void giveButtons(const std::vector<clsScreenField> &fields, clsMnemonics &letter
     }
 }
 
+/// Whether the first field of a frame has a caption to lead to it: its own or its question's, or it is a button.
+bool hasCaption(const oScreenFrame &frame)
+{
+    const QWidget *first = frame.fields().empty() ? nullptr : frame.fields().front().control;
+    if (!first || qobject_cast<const oCustomButton *>(first))
+        return true;
+    const auto &labels = frame.labels();
+    return std::any_of(labels.begin(), labels.end(), [first](const oFieldLabel *label) {
+        return label->buddy() == first && label->place() != oFieldLabel::Place::Answer;
+    });
+}
+
 } // namespace
 
-void mdGiveLetters(const QMenuBar &menus, oScreenBar &bar, const std::vector<clsScreenField> &fields,
-    const std::vector<oFieldLabel *> &labels)
+void mdGiveLetters(oScreenBar &bar, const std::vector<clsScreenField> &fields, const std::vector<oFieldLabel *> &labels,
+    const std::vector<oScreenFrame *> &frames)
 {
     clsMnemonics letters;
-    reserveMenus(menus, letters);
     giveButtons(fields, letters, true);
+    for (const char letter : FixedLetters)
+        letters.reserve(QLatin1Char(letter));
     bar.giveLetters(letters);
     giveButtons(fields, letters, false);
+    for (oScreenFrame *frame : frames)
+        if (!hasCaption(*frame))
+            frame->setLetter(letters.marked(frame->Caption()));
     for (oFieldLabel *label : labels)
         if (label->place() != oFieldLabel::Place::Answer)
             label->setText(letters.marked(label->Caption()));

@@ -1,7 +1,5 @@
 #include "editors/mdUnloadAndDummyTabClick.h"
 
-#include "controls/mdShowModal.h"
-
 #include <QDialog>
 
 #include <utility>
@@ -23,8 +21,7 @@ void SetOpenSection(std::function<void(const QString &)> openSection)
 
 void mdUnloadAndDummyTabClick(QDialog &form, const QString &sectionCaption)
 {
-    mdUnloadAndThen(form, [sectionCaption] {
-        if (const auto &openSection = openSectionInForce())
-            openSection(sectionCaption);
-    });
+    form.done(QDialog::Accepted);
+    if (const auto &openSection = openSectionInForce())
+        openSection(sectionCaption);
 }

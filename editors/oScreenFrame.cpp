@@ -1,11 +1,15 @@
 #include "editors/oScreenFrame.h"
 
+#include "controls/mdLeaveFocusedBox.h"
 #include "controls/mdTheme.h"
 #include "editors/clsFrameRows.h"
 
 #include <QGridLayout>
 #include <QPainter>
+#include <QShortcut>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 oScreenFrame::oScreenFrame(const clsScreenFrame &frame, QWidget *parent)
     : oFrame(parent)
@@ -16,6 +20,25 @@ oScreenFrame::oScreenFrame(const clsScreenFrame &frame, QWidget *parent)
     m_parts->setSpacing(Theme::Space32);
     bodyLayout()->addLayout(m_parts, 1);
     clsFrameRows(*this, frame).layOut();
+}
+
+void oScreenFrame::setLetter(const QString &markedCaption)
+{
+    const QKeySequence key = QKeySequence::mnemonic(markedCaption);
+    if (key.isEmpty())
+        return;
+    setMarkedCaption(markedCaption);
+    auto *letter = new QShortcut(key, this);
+    connect(letter, &QShortcut::activated, this, [this] {
+        if (!mdLeaveFocusedBox(window()))
+            return;
+        const auto first = std::find_if(m_fields.begin(), m_fields.end(),
+            [this](const clsScreenField &field) { return field.control->isEnabledTo(window()); });
+        if (first == m_fields.end())
+            return;
+        first->control->setFocus(Qt::ShortcutFocusReason);
+        window()->setAttribute(Qt::WA_KeyboardFocusChange);
+    });
 }
 
 void oScreenFrame::setLabelColumn(int width)

@@ -30,6 +30,9 @@ public:
     /// Whether a box in it grows with the window.
     bool grows() const { return m_grows; }
 
+    /// Shows the caption with the mark of its letter, which leads to the first field that can take the focus.
+    void setLetter(const QString &markedCaption);
+
     /// The width of the column of labels; 0 for a frame without one, which then has no use for another's.
     int labelColumn() const { return m_labelColumn; }
     void setLabelColumn(int width);

@@ -12,6 +12,8 @@ namespace {
 
 constexpr int RoomForTwoColumns = 1040;
 constexpr int WidestContent = 1400;
+/// A field and a bit: enough to scroll in.
+constexpr int LowestPage = 104;
 /// The left column holds the boxes and is the wider one.
 constexpr int LeftShare = 4;
 constexpr int RightShare = 3;
@@ -97,7 +99,7 @@ QSize oScreenPage::minimumSizeHint() const
         width = qMax(width, frame->narrowestWidth());
     const QMargins edges = m_columns->contentsMargins();
     width += edges.left() + edges.right() + verticalScrollBar()->sizeHint().width();
-    return {width, Theme::scaled(RoomForTwoColumns) / 10};
+    return {width, Theme::scaled(LowestPage)};
 }
 
 void oScreenPage::resizeEvent(QResizeEvent *event)

@@ -19,6 +19,7 @@ public:
     QWidget *content() const { return widget(); }
     /// Puts a frame below the ones before, or at the top of the second column.
     void addFrame(oScreenFrame *frame, bool startsColumn);
+    const std::vector<oScreenFrame *> &frames() const { return m_frames; }
     /// Lets the frames of a column begin their boxes at one edge, and gives the height that is left over to those that
     /// grow, or leaves it below them. To be called once, at last.
     void complete();

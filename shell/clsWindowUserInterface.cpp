@@ -1,6 +1,7 @@
 #include "shell/clsWindowUserInterface.h"
 
 #include "controls/frmMessageBox.h"
+#include "controls/oVeil.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/clsFileSystem.h"
 #include "shell/clsLongWork.h"
@@ -107,6 +108,7 @@ clsUserInterface::Answer clsWindowUserInterface::customMessage(
     clsLongWork::hideWaiting();
     frmMessageBox box(activeParent());
     box.Initialise(message, title, buttons, icon, timeout);
+    const oVeil veil(box.parentWidget());
     box.exec();
     // A box that the program's end has closed was not answered.
     return oApplication::ending() ? answerThatChangesNothing(buttons) : Answer(box.Result());
@@ -126,6 +128,7 @@ clsUserInterface::Answer clsWindowUserInterface::systemMessage(
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     box.setDefaultButton(row.pressedByEnter);
     box.setEscapeButton(row.pressedByEscape);
+    const oVeil veil(box.parentWidget());
     const int pressed = box.exec();
     return oApplication::ending() ? answerThatChangesNothing(buttons) : answerOf(pressed);
 }
@@ -180,6 +183,7 @@ namespace {
 QString asked(QFileDialog &dialog)
 {
     clsLongWork::hideWaiting();
+    const oVeil veil(dialog.parentWidget());
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 

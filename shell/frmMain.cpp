@@ -159,8 +159,11 @@ void frmMain::tbSection_Click()
     tbSubSection->setDoRedraw(true);
 }
 
-void frmMain::tbSubSection_Click(int, const QString &tag)
+void frmMain::tbSubSection_Click(int index, const QString &tag)
 {
+    // A screen that is reached from another has not been opened by the tab that is marked.
+    if (index < 0)
+        tbSubSection->SwitchTo(0);
     m_nextSection = tag;
     if (m_sectionOpen)
         return;

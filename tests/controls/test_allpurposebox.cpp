@@ -1,10 +1,12 @@
 // The text box: its text, its count and its size.
 
 #include "controls/mdTheme.h"
+#include "controls/oDateBox.h"
 #include "controls/oSpellText.h"
 #include "tests/controls/clsTextBoxTest.h"
 
 #include <QClipboard>
+#include <QLineEdit>
 #include <QMimeData>
 
 using AllPurposeBox = clsTextBoxTest;
@@ -292,4 +294,33 @@ TEST_F(AllPurposeBox, ALongTextInOneLineDoesNotScrollDown)
     enter();
     EXPECT_EQ(0, editor()->verticalScrollBar()->maximum());
     EXPECT_TRUE(editor()->viewport()->rect().contains(editor()->cursorRect()));
+}
+
+TEST_F(AllPurposeBox, ItsTextStandsWhereThatOfTheOtherBoxesStands)
+{
+    auto *date = new oDateBox(&window);
+    window.layout()->addWidget(date);
+    show();
+    const auto ink = [](QWidget &whole) {
+        const QImage image = whole.grab().toImage();
+        QRect result;
+        // Inside the edges.
+        for (int y = 4; y < image.height() - 4; ++y)
+            for (int x = 4; x < 60; ++x)
+                if (image.pixelColor(x, y).lightness() < 128)
+                    result |= QRect(x, y, 1, 1);
+        return result;
+    };
+    box->setText(QStringLiteral("11"));
+    date->findChild<QLineEdit *>()->setText(QStringLiteral("11"));
+    // No caret.
+    other->setFocus();
+    ASSERT_EQ(box->height(), date->height());
+    ASSERT_FALSE(ink(*box).isEmpty());
+    EXPECT_EQ(ink(*date), ink(*box));
+    // A box of several lines begins at the same place.
+    box->setMultiLine(true);
+    box->resize(box->sizeHint());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(ink(*date), ink(*box));
 }

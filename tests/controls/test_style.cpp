@@ -216,6 +216,58 @@ TEST(Style, MnemonicsOfTheMenuBarAreUnderlinedWithTheOthers)
     EXPECT_EQ(plain, ink());
 }
 
+TEST(Style, ACaptionStaysWhereItIsWhenItsLetterIsUnderlined)
+{
+    Window<QLineEdit> window;
+    for (const char *caption : {"Form &Type:", "V&AT:", "&Type of Case:", "R&&D &Tax:"}) {
+        for (const bool wrapped : {false, true}) {
+            QLabel label(QString::fromUtf8(caption), &window);
+            label.setBuddy(window.box);
+            label.setWordWrap(wrapped);
+            label.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+            label.resize(wrapped ? 60 : 120, 50);
+            label.show();
+            const QImage plain = label.grab().toImage();
+            QTest::keyPress(window.other, Qt::Key_Alt);
+            const QImage marked = label.grab().toImage();
+            QTest::keyRelease(window.other, Qt::Key_Alt);
+            QRect changed;
+            for (int y = 0; y < plain.height(); ++y)
+                for (int x = 0; x < plain.width(); ++x)
+                    if (plain.pixel(x, y) != marked.pixel(x, y))
+                        changed |= QRect(x, y, 1, 1);
+            // A line as long as the letter is wide, and nothing else.
+            EXPECT_EQ(1, changed.height()) << caption << wrapped;
+            EXPECT_GE(changed.width(), 5) << caption << wrapped;
+            EXPECT_LE(changed.width(), 11) << caption << wrapped;
+        }
+    }
+}
+
+TEST(Style, TheLineLiesBelowItsLetter)
+{
+    Window<QLineEdit> window;
+    QLabel label(QStringLiteral("iii &Wiii"), &window);
+    label.setBuddy(window.box);
+    label.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    label.resize(120, 30);
+    label.show();
+    const QImage plain = label.grab().toImage();
+    QTest::keyPress(window.other, Qt::Key_Alt);
+    const QImage marked = label.grab().toImage();
+    QTest::keyRelease(window.other, Qt::Key_Alt);
+    const QFontMetrics metrics = label.fontMetrics();
+    QRect changed;
+    for (int y = 0; y < plain.height(); ++y)
+        for (int x = 0; x < plain.width(); ++x)
+            if (plain.pixel(x, y) != marked.pixel(x, y))
+                changed |= QRect(x, y, 1, 1);
+    const int behind = label.contentsRect().right() + 1 - metrics.horizontalAdvance(QStringLiteral("iii"));
+    EXPECT_NEAR(behind, changed.right() + 1, 1);
+    EXPECT_NEAR(metrics.horizontalAdvance(u'W'), changed.width(), 1);
+    EXPECT_GT(changed.top(), label.height() / 2 + metrics.height() / 2 - metrics.descent() - 1);
+}
+
 TEST(Style, MnemonicsLoseTheirLineWhenTheProgramLosesTheKeyboard)
 {
     Window<QLineEdit> window;

@@ -1,6 +1,7 @@
 #include "controls/oCheckBox.h"
 #include "controls/oCustomButton.h"
 #include "controls/oDecimalBox.h"
+#include "controls/oFrame.h"
 #include "controls/oLeftRightButton.h"
 #include "editors/oFieldLabel.h"
 #include "tests/editors/clsScreenTest.h"
@@ -198,12 +199,26 @@ TEST_F(FormSetup, ThePagesStandInFiveColumnsAndTheRateBesideItsTick)
     EXPECT_LE(qAbs(tick.center().y() - rate.center().y()), 1);
 }
 
-TEST_F(FormSetup, TheBoxesOfAColumnBeginAtOneEdge)
+TEST_F(FormSetup, ThePagesAndTheNotesAreReachedByTheLettersOfTheirFrames)
 {
     const auto screen = setup();
-    const auto left = [&screen](const char *name) { return screen->Box(name).mapTo(screen.get(), QPoint()).x(); };
-    EXPECT_EQ(left("cmbFormType"), left("txtStageNumber"));
-    EXPECT_EQ(left("chkVAT"), left("chkVHCC"));
-    // A tick's visible edge lies inside the room for its ring.
-    EXPECT_EQ(left("cmbFormType"), left("chkVAT") + 4);
+    const auto press = [&screen](const char *frame) {
+        const QString caption = screen->findChild<oFrame *>(QString::fromUtf8(frame))->MarkedCaption();
+        const qsizetype mark = caption.indexOf(u'&');
+        ASSERT_GE(mark, 0) << frame;
+        QTest::keyClick(screen.get(), caption[mark + 1].toLower().toLatin1(), Qt::AltModifier);
+    };
+    // Page 1 is disabled for good.
+    press("bgPages");
+    EXPECT_EQ(QStringLiteral("chkIncludePage2"), focusedName(*screen));
+    EXPECT_TRUE(screen->Box<oCheckBox>("chkIncludePage2").Checked()) << "leads there and ticks nothing";
+    press("bxNotes");
+    EXPECT_EQ(QStringLiteral("txtNotes"), focusedName(*screen));
+    // The captions of fields have their own letters, and those of their frames have none.
+    EXPECT_EQ(QString(), screen->findChild<oFrame *>(QStringLiteral("bxGeneral"))->MarkedCaption());
+    EXPECT_EQ(QString(), screen->findChild<oFrame *>(QStringLiteral("bxHeaders"))->MarkedCaption());
+    // A box with bad input lets nobody go.
+    clsScreenTest::type(screen->Box("txtVATRate"), QStringLiteral("x"));
+    press("bxNotes");
+    EXPECT_EQ(QStringLiteral("txtVATRate"), focusedName(*screen));
 }

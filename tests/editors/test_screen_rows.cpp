@@ -26,9 +26,10 @@ QStringList stages()
     return {QStringLiteral(" No Selection"), QStringLiteral("A) One"), QStringLiteral("B) Two")};
 }
 
-QWidget *makePair(QWidget *parent)
+QWidget *makePair(const clsScreenRow &row, QWidget *parent)
 {
     auto *box = new QLabel(parent);
+    box->setMaximumWidth(row.allowance);
     box->setFocusPolicy(Qt::StrongFocus);
     return box;
 }
@@ -40,7 +41,8 @@ void storePair(const QWidget &control, clsXMLRecord &record)
 {
     record.field(u"GroupUniqueID")->writeText(static_cast<const QLabel &>(control).text() + QStringLiteral("!"));
 }
-constexpr clsOtherControl Pair {makePair, loadPair, storePair};
+constexpr clsOtherControl Pair {makePair, loadPair, storePair, false};
+constexpr clsOtherControl TallPair {makePair, loadPair, storePair};
 
 /// The editor of an item, as the lists open it.
 const clsScreen Editor {
@@ -54,12 +56,13 @@ const clsScreen Editor {
         {
             {Text, "txtReference", "Reference:*", 0, Required},
             {Integer, "txtCallCount", "Calls:", 0, None, 0, "Calls"},
-            {.kind = Other, .control = "oPair", .caption = "Pair:", .other = &Pair},
+            {.kind = Other, .control = "oPair", .caption = "Pair:", .allowance = 123, .other = &Pair},
             {Button, "cmdCalculate", "Calculate"},
             {Text, "txtLettersIn", "Unbound:", 0, Unbound},
         }}},
     .itemWord = "Thing",
     .add = []() -> clsXMLRecord * { return Form->AddFeeEarner().get(); },
+    .fileMenu = false,
 };
 
 /// A section with a list by place, two groups of ticks, ticks that are no pair, and ways to other sections.
@@ -74,7 +77,7 @@ const clsScreen Outcome {
     .record = []() -> clsXMLRecord * { return &Form->OutcomeOfCase; },
     .frames = {{"bxGeneral", "Outcome",
         {
-            {.kind = List, .control = "cmbResult", .caption = "Result:", .entries = stages},
+            {.kind = List, .control = "cmbResult", .caption = "Result:", .flags = AtCloseOnly, .entries = stages},
             {Question, "", "Which?"},
             {Tick, "chkCosts", "Costs:", 0, None, 'A'},
             {Tick, "chkDamages", "Damages:", 0, None, 'A'},
@@ -244,6 +247,84 @@ TEST_F(ScreenRows, TheButtonOfAJumpStoresAndItsMenuAsTheTableSays)
     press(*screen, "cmdCommunications");
     EXPECT_EQ(QStringLiteral("Communications"), target);
     EXPECT_TRUE(Form->OutcomeOfCase.Property());
+}
+
+TEST_F(ScreenRows, WhatIsStoredAtTheCloseOnlyIsNotOnTheWayToAnotherSection)
+{
+    for (const bool byMenu : {true, false}) {
+        const auto screen = outcome();
+        QTest::keyClick(&screen->Box("cmbResult"), Qt::Key_End);
+        if (byMenu)
+            screen->findChild<QAction *>(QStringLiteral("mnuDisbursements"))->trigger();
+        else
+            press(*screen, "btnRight");
+        EXPECT_FALSE(screen->isVisible());
+        EXPECT_EQ(0, Form->OutcomeOfCase.Result());
+    }
+    const auto screen = outcome();
+    QTest::keyClick(&screen->Box("cmbResult"), Qt::Key_End);
+    press(*screen, "cmdSave");
+    EXPECT_EQ(2, Form->OutcomeOfCase.Result());
+}
+
+TEST_F(ScreenRows, ARuleMayRefuseASaveBeforeAnythingIsMade)
+{
+    const auto screen = edit(nullptr);
+    int asked = 0;
+    bool agrees = false;
+    screen->setMayStore([&] {
+        ++asked;
+        return agrees;
+    });
+    // What is required comes first.
+    press(*screen, "cmdSave");
+    EXPECT_EQ(0, asked);
+    type(screen->Box("txtReference"), QStringLiteral("JH"));
+    press(*screen, "cmdSave");
+    EXPECT_EQ(1, asked);
+    EXPECT_TRUE(screen->isVisible());
+    EXPECT_EQ(nullptr, screen->Record());
+    EXPECT_TRUE(Form->FeeEarnersCollection().empty());
+    agrees = true;
+    press(*screen, "cmdSave");
+    EXPECT_FALSE(screen->isVisible());
+    EXPECT_EQ(1u, Form->FeeEarnersCollection().size());
+}
+
+TEST_F(ScreenRows, OnlyAScreenWithTheFileMenuHasAMenuBar)
+{
+    const auto editor = edit(nullptr);
+    EXPECT_FALSE(editor->findChild<QMenuBar *>()->isVisible());
+    EXPECT_FALSE(editor->findChild<QAction *>(QStringLiteral("mnuSave")));
+    EXPECT_EQ(0, editor->findChild<QWidget *>(QStringLiteral("oHeader"))->y());
+    const auto section = outcome();
+    EXPECT_TRUE(section->findChild<QMenuBar *>()->isVisible());
+    EXPECT_TRUE(section->findChild<QAction *>(QStringLiteral("mnuSave")));
+}
+
+TEST_F(ScreenRows, AControlOfItsOwnIsMadeFromItsRowAndIsShortOrTall)
+{
+    EXPECT_EQ(123, edit(nullptr)->Box("oPair").maximumWidth());
+    clsScreen table = Editor;
+    table.frames = {{"bxGeneral", "Thing",
+        {
+            {.kind = Other,
+                .control = "oShort",
+                .caption = "Short",
+                .allowance = 9999,
+                .flags = NoCaption,
+                .other = &Pair},
+            {.kind = Other,
+                .control = "oTall",
+                .caption = "Tall",
+                .allowance = 9999,
+                .flags = NoCaption,
+                .other = &TallPair},
+        }}};
+    frmSection screen(table);
+    show(screen);
+    EXPECT_EQ(screen.Box("oShort").sizeHint().width(), screen.Box("oShort").width());
+    EXPECT_GT(screen.Box("oTall").width(), 400);
 }
 
 TEST_F(ScreenRows, JumpsFoldIntoTheirMenuOnANarrowWindow)

@@ -1,4 +1,5 @@
 #include "controls/mdCaption.h"
+#include "controls/mdTheme.h"
 #include "controls/oAllPurposeBox.h"
 #include "controls/oCheckBox.h"
 #include "controls/oCustomButton.h"
@@ -6,6 +7,7 @@
 #include "controls/oDecimalBox.h"
 #include "controls/oHeaderBar.h"
 #include "controls/oLeftRightButton.h"
+#include "editors/mdScreenControls.h"
 #include "editors/oFieldLabel.h"
 #include "tests/editors/clsScreenTest.h"
 #include "tests/editors/mdScreenTables.h"
@@ -193,6 +195,26 @@ TEST_P(EveryScreen, EveryStopOfTabHasANameThatIsReadOut)
     } while (screen->focusWidget() != first);
 }
 
+TEST_P(EveryScreen, ALetterThatNothingHasIsNotTyped)
+{
+    for (const clsScreenField &field : screen->Fields()) {
+        QWidget *part = focusPart(*field.control);
+        if (!field.control->isEnabledTo(screen.get()) || qobject_cast<oCheckBox *>(field.control)
+            || qobject_cast<QComboBox *>(field.control))
+            continue;
+        field.control->setFocus(Qt::TabFocusReason);
+        const QString before = mdTextOf(*field.control);
+        for (const Qt::KeyboardModifiers held :
+            {Qt::KeyboardModifiers(Qt::AltModifier), Qt::AltModifier | Qt::ShiftModifier}) {
+            // Straight to the box, as a letter comes that no caption and no menu takes.
+            QKeyEvent key(QEvent::KeyPress, Qt::Key_9, held, QStringLiteral("9"));
+            QApplication::sendEvent(part, &key);
+            EXPECT_TRUE(key.isAccepted()) << field.control->objectName().toStdString();
+        }
+        EXPECT_EQ(before, mdTextOf(*field.control)) << field.control->objectName().toStdString();
+    }
+}
+
 TEST_P(EveryScreen, NoLetterIsGivenTwice)
 {
     std::multiset<QChar> letters;
@@ -211,10 +233,18 @@ TEST_P(EveryScreen, NoLetterIsGivenTwice)
         note(label->text());
     for (const QAbstractButton *button : screen->findChildren<QAbstractButton *>())
         note(button->text());
+    for (const oFrame *frame : screen->findChildren<oFrame *>())
+        note(frame->MarkedCaption());
     for (const QChar letter : letters)
         EXPECT_EQ(1u, letters.count(letter)) << QString(letter).toStdString();
     EXPECT_EQ(1u, letters.count(u'F'));
-    // The letters of the buttons are the same on every screen.
+    // The letters of the buttons are the same on every screen, and where a button is missing its letter is free.
+    const auto has = [this](const char *button) { return screen->findChild<QWidget *>(QString::fromUtf8(button)); };
+    EXPECT_EQ(has("cmdSave") ? 1u : 0u, letters.count(u'S'));
+    EXPECT_EQ(has("cmdCancel") ? 1u : 0u, letters.count(u'N'));
+    EXPECT_EQ(has("cmdClose") ? 1u : 0u, letters.count(u'C'));
+    EXPECT_EQ(has("cmdAdd") ? 1u : 0u, letters.count(u'A'));
+    EXPECT_EQ(screen->Screen().jumps.empty() ? 0u : 1u, letters.count(u'J'));
     QStringList fixed;
     for (const char *name : {"cmdSave", "cmdCancel", "cmdClose"})
         if (const auto *button = screen->findChild<oCustomButton *>(QString::fromUtf8(name)))
@@ -309,6 +339,53 @@ TEST_P(EveryScreen, NothingIsCutInALargeFont)
     expectNothingCut({1366, 768});
     screen.reset();
     QApplication::setFont(before);
+}
+
+TEST_P(EveryScreen, TheBoxesOfAColumnBeginAtOneEdge)
+{
+    for (const QSize size : {screen->sizeHint(), QSize(1366, 768), QSize(960, 540)}) {
+        screen->resize(size);
+        QTest::qWait(20);
+        std::map<int, std::set<int>> edges;
+        for (const clsScreenField &field : screen->Fields()) {
+            if (!field.label || field.label->place() != oFieldLabel::Place::Beside || field.row->flags & SameRow)
+                continue;
+            const int frame = field.control->parentWidget()->mapTo(screen.get(), QPoint()).x();
+            // A tick's visible edge lies inside the room for its ring.
+            const int ring = qobject_cast<oCheckBox *>(field.control) ? Theme::RingRoom : 0;
+            edges[frame].insert(field.control->mapTo(screen.get(), QPoint()).x() + ring);
+        }
+        for (const auto &[frame, ofColumn] : edges)
+            EXPECT_EQ(1u, ofColumn.size()) << frame << " at " << size.width();
+    }
+}
+
+TEST_P(EveryScreen, ACaptionWiderThanTheColumnOfLabelsStandsOverItsFieldAtTheLeft)
+{
+    for (const clsScreenField &field : screen->Fields()) {
+        if (!field.label || field.label->place() == oFieldLabel::Place::Answer
+            || qobject_cast<oCheckBox *>(field.control))
+            continue;
+        const std::string name = field.control->objectName().toStdString();
+        const QRect label(field.label->mapTo(screen.get(), QPoint()), field.label->size());
+        const QRect box(field.control->mapTo(screen.get(), QPoint()), field.control->size());
+        const int caption = field.label->fontMetrics().horizontalAdvance(field.label->Caption());
+        if (caption > Theme::scaled(300)) {
+            EXPECT_LT(label.bottom(), box.top()) << name;
+            EXPECT_EQ(label.left(), box.left()) << name;
+            EXPECT_TRUE(field.label->alignment() & Qt::AlignLeft) << name;
+        } else if (caption < Theme::scaled(290)) {
+            EXPECT_LT(label.right(), box.left()) << name;
+            EXPECT_FALSE(field.label->wordWrap()) << name;
+        }
+    }
+}
+
+TEST_P(EveryScreen, HasACloseBoxAndNoOtherButtonsInItsTitle)
+{
+    const Qt::WindowFlags flags = screen->windowFlags();
+    EXPECT_TRUE(flags & Qt::WindowCloseButtonHint);
+    EXPECT_FALSE(flags & Qt::WindowMinMaxButtonsHint);
 }
 
 TEST_P(EveryScreen, WhateverHasTheFocusIsInViewWithSomeRoomAroundIt)

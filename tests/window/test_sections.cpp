@@ -121,6 +121,19 @@ TEST_F(Sections, NextOpensTheFollowingScreenWhenThePresentOneIsGone)
     EXPECT_EQ(nullptr, QApplication::activeModalWidget());
 }
 
+TEST_F(Sections, NextTakesTheMarkFromTheTabThatWasClicked)
+{
+    startWithScreens();
+    std::vector<int> marks;
+    onOpen = [this, &marks](QDialog &screen, const QString &) {
+        marks.push_back(row("tbSubSection").SelectedIndex());
+        if (marks.size() == 1)
+            mdUnloadAndDummyTabClick(screen, QStringLiteral("Client Details"));
+    };
+    clickTab("tbSubSection", "Form Setup");
+    EXPECT_EQ((std::vector<int> {1, 0}), marks);
+}
+
 TEST_F(Sections, TheActivationRoutineRunsWhenTheLastScreenIsGone)
 {
     startWithScreens();

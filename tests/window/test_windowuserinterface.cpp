@@ -106,6 +106,24 @@ TEST_F(WindowUserInterface, CustomMessagesAreTheSystemsOwnBox)
     EXPECT_EQ(1, shown);
 }
 
+TEST_F(WindowUserInterface, WhateverIsAskedVeilsTheWindowBelow)
+{
+    QWidget below;
+    show(below);
+    const auto veils = [&below] { return below.findChildren<QWidget *>(QStringLiteral("oVeil")).size(); };
+    whenShown<frmMessageBox>([&veils](frmMessageBox &) { EXPECT_EQ(1, veils()); });
+    windows.customMessage(QStringLiteral("m"), QStringLiteral("t"), clsUserInterface::OKOnly, 0, 0);
+    EXPECT_EQ(0, veils());
+    whenShown<QMessageBox>([&veils](QMessageBox &) { EXPECT_EQ(1, veils()); });
+    windows.systemMessage(
+        QStringLiteral("m"), QStringLiteral("t"), clsUserInterface::Critical, clsUserInterface::OKOnly);
+    EXPECT_EQ(0, veils());
+    whenShown<QFileDialog>([&veils](QFileDialog &) { EXPECT_EQ(1, veils()); });
+    windows.chooseFileToOpen(QStringLiteral("All (*)"));
+    EXPECT_EQ(0, veils());
+    EXPECT_EQ(3, shown);
+}
+
 TEST_F(WindowUserInterface, ABoxOverADisabledWindowCanBeAnswered)
 {
     QDialog below;

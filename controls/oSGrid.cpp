@@ -105,9 +105,9 @@ void oSGrid::setEmptyText(const QString &text)
     describe();
 }
 
-void oSGrid::setEmptyGlyph(std::function<void(QPainter &, const QRectF &)> glyph)
+void oSGrid::setEmptyGlyph(Glyph glyph)
 {
-    m_view->setEmptyGlyph(std::move(glyph));
+    m_view->setEmptyGlyph(glyph);
 }
 
 void oSGrid::ClearAll()

@@ -157,7 +157,7 @@ TEST(Icons, SectionsAreToldByTheirWindow)
 TEST(Icons, EveryGlyphDrawsSomethingOfItsOwn)
 {
     std::vector<QImage> seen;
-    for (int number = int(Glyph::None) + 1; number <= int(Glyph::Warning); ++number) {
+    for (int number = int(Glyph::None) + 1; number <= int(Glyph::List); ++number) {
         const QImage picture = mdGlyphPixmap(Glyph(number), 20, Theme::Ink, 1).toImage();
         bool inked = false;
         for (int y = 0; y < 20; ++y)

@@ -3,6 +3,7 @@
 #include "costing/clsSchedulePrices.h"
 #include "costing/mdDateText.h"
 #include "costing/mdGetColumnTotals.h"
+#include "formdata/clsXMLReading.h"
 #include "formdata/clsZR3Form.h"
 #include "preview/mdExportPreview.h"
 #include "preview/oPreviewGrid.h"
@@ -118,6 +119,7 @@ void mdExportPreviewScheduleOfTimeDraw(const clsZR3Form &form)
 
 void mdExportPreviewScheduleOfTimeItemDraw(const clsZR3ScheduleOfTimeItem &item, clsSchedulePrices &prices)
 {
+    const clsXMLReading reading(item);
     const Price &price = prices.of(item);
     mdExportPreviewAddRow(true);
     int number = 0;

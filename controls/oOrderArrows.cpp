@@ -13,7 +13,8 @@ oOrderArrows::oOrderArrows(QWidget *parent)
     m_up->setToolTip(QStringLiteral("Move up (Alt+Up)"));
     m_down->setToolTip(QStringLiteral("Move down (Alt+Down)"));
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    // A layout gives no button room beyond its own edge.
+    layout->setContentsMargins(Theme::RingRoom, 0, Theme::RingRoom, 0);
     layout->setSpacing(Theme::Space4);
     layout->addStretch();
     layout->addWidget(m_up);

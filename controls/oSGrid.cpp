@@ -60,7 +60,7 @@ oSGrid::oSGrid(QWidget *parent)
     m_typing->setInterval(TypingPause);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(Theme::Space8);
+    layout->setSpacing(Theme::Space8 - Theme::RingRoom); // the arrows have the rest at their own edge
     layout->addWidget(m_view, 1);
     layout->addWidget(m_arrows);
     setFocusProxy(m_view);

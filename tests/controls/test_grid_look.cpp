@@ -70,6 +70,24 @@ TEST_F(clsGridLook, WithALargeFontTheColumnsLeaveRoomForTheScrollBar)
     }
 }
 
+TEST_F(clsGridLook, TheArrowsAreSeenWholeBesideTheRows)
+{
+    const clsDesktopFont font(10);
+    grid.setOrderable(true);
+    addGroups(2);
+    addReferenceColumn();
+    draw();
+    QTest::qWait(0);
+    const int room = Theme::RingRoom;
+    for (const char *name : {"cmdUp", "cmdDown"}) {
+        const auto &arrow = *grid.findChild<oCustomButton *>(name);
+        EXPECT_EQ(QSize(28, 32), arrow.size() - 2 * QSize(room, room)) << name;
+        const QRect seen(arrow.mapTo(&grid, QPoint(room, room)), QSize(28, 32));
+        EXPECT_EQ(view()->geometry().right() + 1 + Theme::Space8, seen.left()) << name;
+        EXPECT_TRUE(grid.rect().contains(seen)) << name;
+    }
+}
+
 TEST_F(clsGridLook, WithASmallFontTheRowsKeepTheirHeightAndAllElseShrinks)
 {
     const auto arrowHeight

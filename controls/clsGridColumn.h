@@ -1,17 +1,11 @@
 #pragma once
 
 #include "controls/mdTheme.h"
+#include "shell/clsGridAlignment.h"
 
 #include <QString>
 
 class clsXMLRecord;
-
-/// How a cell's text stands; the preview uses the same codes.
-enum class clsGridAlignment { Left = 0, Centre = 1, Right = 2, LeftWrapped = 16, CentreWrapped = 17 };
-
-/// The toolkit's flags for a code; the height is always centred.
-Qt::Alignment mdGridAlignment(clsGridAlignment code);
-bool mdGridWraps(clsGridAlignment code);
 
 /// One column of an `oSGrid`: what its heading says and which property of the items it shows. Whoever declares one
 /// gives the first five places, and of the others those that differ.

@@ -5,7 +5,6 @@
 #include <QFontMetrics>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -17,6 +16,12 @@ QFont fontOf(double points, bool semibold)
 {
     const double base = Theme::font().pointSizeF();
     return Theme::font(points * std::max(1.0, base / BasePoints) - base, semibold);
+}
+
+/// Heights stop shrinking where the fonts that stand in them do, which other sizes of the program don't.
+int scaledWithFonts(double pixels)
+{
+    return std::max(qRound(pixels), Theme::scaled(pixels));
 }
 
 } // namespace
@@ -36,17 +41,12 @@ QFont mdGridHeadingFont()
     return fontOf(CellPoints, true);
 }
 
-int mdGridScaled(double pixels)
-{
-    return int(std::lround(pixels * std::max(1.0, Theme::font().pointSizeF() / BasePoints)));
-}
-
 int mdGridRowHeight()
 {
-    return std::max(mdGridScaled(26), QFontMetrics(mdGridMarkFont()).height() + 2);
+    return std::max(scaledWithFonts(26), QFontMetrics(mdGridMarkFont()).height() + 2);
 }
 
 int mdGridHeadingHeight()
 {
-    return std::max(mdGridScaled(28), QFontMetrics(mdGridHeadingFont()).height() + Theme::Space8);
+    return std::max(scaledWithFonts(28), QFontMetrics(mdGridHeadingFont()).height() + Theme::Space8);
 }

@@ -9,7 +9,5 @@ QFont mdGridCellFont();
 QFont mdGridMarkFont();
 QFont mdGridHeadingFont();
 
-/// A size in logical pixels that is right beside a desktop font of 10 points, at the size of the one in force.
-int mdGridScaled(double pixels);
 int mdGridRowHeight();
 int mdGridHeadingHeight();

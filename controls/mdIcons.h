@@ -37,6 +37,7 @@ enum class Glyph {
     Plus,
     Bin,
     Warning,
+    List,
 };
 
 /// Draws the glyph into the middle of the rectangle, as large as its shorter side.

@@ -1,6 +1,7 @@
 #include "controls/oGridDelegate.h"
 
 #include "controls/mdGridMetrics.h"
+#include "controls/mdPaintControls.h"
 #include "controls/mdTheme.h"
 #include "controls/mdToolTip.h"
 
@@ -11,7 +12,6 @@
 
 namespace {
 
-constexpr int BarWidth = 3;
 constexpr int WrappedMargin = 4;
 
 QRect insideOf(const QRect &cell)
@@ -63,13 +63,10 @@ QSize oGridDelegate::sizeHint(const QStyleOptionViewItem &, const QModelIndex &)
 void oGridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     const QRect &cell = option.rect;
-    if (option.state & QStyle::State_Selected) {
-        painter->fillRect(cell, Theme::Selected);
-        if (index.column() == modelOf(index).firstShownColumn())
-            painter->fillRect(QRect(cell.left(), cell.top(), BarWidth, cell.height()), Theme::Purple);
-    } else if (index.row() == m_hoveredRow && (option.state & QStyle::State_Enabled)) {
-        painter->fillRect(cell, Theme::Hover);
-    }
+    // The table knows of the cell under the mouse only; here it is the whole row.
+    QStyleOptionViewItem row = option;
+    row.state.setFlag(QStyle::State_MouseOver, index.row() == m_hoveredRow);
+    mdPaintRow(*painter, row, option.widget);
     painter->fillRect(QRect(cell.left(), cell.bottom(), cell.width(), 1), Theme::Hairline);
 
     const clsGridCell &shown = modelOf(index).cell(index.row(), index.column());

@@ -1,19 +1,11 @@
 #include "controls/oGridHeader.h"
 
 #include "controls/mdGridMetrics.h"
+#include "controls/mdPaintControls.h"
 #include "controls/mdTheme.h"
 
 #include <QPainter>
-
-namespace {
-
-void paintBand(QPainter &painter, const QRect &rectangle)
-{
-    painter.fillRect(rectangle, Theme::Canvas);
-    painter.fillRect(QRect(rectangle.left(), rectangle.bottom(), rectangle.width(), 1), Theme::Line);
-}
-
-} // namespace
+#include <QStyleOption>
 
 QSize oGridHeaderEnd::sizeHint() const
 {
@@ -23,7 +15,9 @@ QSize oGridHeaderEnd::sizeHint() const
 void oGridHeaderEnd::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    paintBand(painter, rect());
+    QStyleOption option;
+    option.initFrom(this);
+    mdPaintHeading(painter, option);
 }
 
 oGridHeader::oGridHeader(QWidget *parent)
@@ -45,7 +39,9 @@ QSize oGridHeader::sizeHint() const
 void oGridHeader::paintSection(QPainter *painter, const QRect &rectangle, int section) const
 {
     painter->save();
-    paintBand(*painter, rectangle);
+    QStyleOption option;
+    option.rect = rectangle;
+    mdPaintHeading(*painter, option);
     const QFont font = mdGridHeadingFont();
     painter->setFont(font);
     painter->setPen(isEnabled() ? Theme::Ink2 : Theme::Ink3);

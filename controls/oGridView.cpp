@@ -12,22 +12,11 @@ namespace {
 constexpr int FrameWidth = 2;
 constexpr int EmptyGlyphSize = 34;
 
-/// A sheet with three lines: a list, whatever it will hold.
-void paintListGlyph(QPainter &painter, const QRectF &rectangle)
-{
-    const double unit = rectangle.width() / 16;
-    painter.setPen(QPen(Theme::EdgeOff, 1.5 * unit, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawRoundedRect(rectangle.adjusted(2 * unit, unit, -2 * unit, -unit), 1.5 * unit, 1.5 * unit);
-    for (const int line : {5, 8, 11})
-        painter.drawLine(rectangle.topLeft() + QPointF(5, line) * unit, rectangle.topLeft() + QPointF(11, line) * unit);
-}
-
 } // namespace
 
 oGridView::oGridView(clsGridModel *gridModel, QWidget *parent)
     : QTableView(parent)
     , m_delegate(new oGridDelegate(this))
-    , m_emptyGlyph(paintListGlyph)
 {
     setHorizontalHeader(new oGridHeader(this));
     setModel(gridModel);
@@ -67,9 +56,9 @@ void oGridView::setEmptyText(const QString &text)
     viewport()->update();
 }
 
-void oGridView::setEmptyGlyph(GlyphPainter glyph)
+void oGridView::setEmptyGlyph(Glyph glyph)
 {
-    m_emptyGlyph = std::move(glyph);
+    m_emptyGlyph = glyph;
     viewport()->update();
 }
 
@@ -264,14 +253,13 @@ void oGridView::paintEvent(QPaintEvent *event)
 void oGridView::paintEmptyState()
 {
     QPainter painter(viewport());
-    painter.setRenderHint(QPainter::Antialiasing);
-    const int size = mdGridScaled(EmptyGlyphSize);
+    const int size = Theme::scaled(EmptyGlyphSize);
     const QFont font = Theme::font();
     const QRect room = viewport()->rect().adjusted(Theme::Space8, 0, -Theme::Space8, 0);
     const QRect words = QFontMetrics(font).boundingRect(room, Qt::AlignHCenter | Qt::TextWordWrap, m_emptyText);
     const int height = size + Theme::Space12 + words.height();
     const int top = room.top() + std::max(0, (room.height() - height) / 2);
-    m_emptyGlyph(painter, QRectF(room.center().x() - size / 2.0, top, size, size));
+    mdPaintGlyph(painter, QRectF(room.center().x() - size / 2.0, top, size, size), m_emptyGlyph, Theme::EdgeOff);
     painter.setFont(font);
     painter.setPen(Theme::Ink2);
     painter.drawText(QRect(room.left(), top + size + Theme::Space12, room.width(), words.height()),

@@ -1,10 +1,9 @@
 #pragma once
 
+#include "controls/mdIcons.h"
 #include "controls/oGridDelegate.h"
 
 #include <QTableView>
-
-#include <functional>
 
 /// The table inside an `oSGrid`: whole rows are selected, keys and clicks are told to the grid in its own terms, and
 /// the frame shows where the focus is. It knows nothing of items and orders.
@@ -12,14 +11,12 @@ class oGridView : public QTableView {
     Q_OBJECT
 
 public:
-    using GlyphPainter = std::function<void(QPainter &painter, const QRectF &rectangle)>;
-
     oGridView(clsGridModel *model, QWidget *parent);
 
     oGridDelegate *delegate() const { return m_delegate; }
     void setEmptyText(const QString &text);
     const QString &emptyText() const { return m_emptyText; }
-    void setEmptyGlyph(GlyphPainter glyph);
+    void setEmptyGlyph(Glyph glyph);
 
     /// The selected row, from 0, or -1. With several selected it is the one that the keys act on.
     int selectedRow() const;
@@ -63,5 +60,5 @@ private:
 
     oGridDelegate *m_delegate;
     QString m_emptyText;
-    GlyphPainter m_emptyGlyph;
+    Glyph m_emptyGlyph = Glyph::List;
 };

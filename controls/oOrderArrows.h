@@ -1,8 +1,10 @@
 #pragma once
 
+#include "controls/mdIcons.h"
+
 #include <QWidget>
 
-class QAbstractButton;
+class oCustomButton;
 
 /// The pair of arrows that moves the selected row of a grid up or down. The keys beside them live in the grid, so that
 /// the arrows never take the focus away from the row that they move.
@@ -19,6 +21,8 @@ signals:
     void DownClick();
 
 private:
-    QAbstractButton *m_up;
-    QAbstractButton *m_down;
+    oCustomButton *addArrow(const QString &objectName, const QString &accessibleName, Glyph glyph);
+
+    oCustomButton *m_up;
+    oCustomButton *m_down;
 };

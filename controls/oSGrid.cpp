@@ -11,12 +11,14 @@
 #include <QMenu>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <QTimer>
 
 namespace {
 
-/// Room for the scroll bar, and the share of the rest that a column takes.
+/// The least room for the scroll bar and the frame, in pixels.
 constexpr int ScrollBarRoom = 20;
+/// In milliseconds.
 constexpr int TypingPause = 500;
 
 } // namespace
@@ -58,7 +60,7 @@ oSGrid::oSGrid(QWidget *parent)
     m_typing->setInterval(TypingPause);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(Theme::Space8);
+    layout->setSpacing(Theme::Space8 - Theme::RingRoom); // the arrows have the rest at their own edge
     layout->addWidget(m_view, 1);
     layout->addWidget(m_arrows);
     setFocusProxy(m_view);
@@ -105,9 +107,9 @@ void oSGrid::setEmptyText(const QString &text)
     describe();
 }
 
-void oSGrid::setEmptyGlyph(std::function<void(QPainter &, const QRectF &)> glyph)
+void oSGrid::setEmptyGlyph(Glyph glyph)
 {
-    m_view->setEmptyGlyph(std::move(glyph));
+    m_view->setEmptyGlyph(glyph);
 }
 
 void oSGrid::ClearAll()
@@ -144,9 +146,12 @@ void oSGrid::drawColumns()
     setColumnWidths();
 }
 
+/// Columns share what the scroll bar leaves of the grid, whether it is there or not: nothing shifts when it comes. With
+/// a large font the bar is wider than its usual room.
 void oSGrid::setColumnWidths()
 {
-    const double share = (m_view->width() - ScrollBarRoom) / 100.0;
+    const int barAndFrame = m_view->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2 * m_view->frameWidth();
+    const double share = (m_view->width() - std::max(ScrollBarRoom, barAndFrame)) / 100.0;
     const std::vector<clsGridColumn> &columns = m_model->columns();
     for (size_t column = 0; column < columns.size(); ++column)
         if (columns[column].isShown())
@@ -257,8 +262,12 @@ void oSGrid::moveSelectedRow(int by)
         return;
     m_model->writeOrder(row - 1, other);
     m_model->writeOrder(other - 1, row);
-    Redraw(true);
-    SelectRow(other);
+    {
+        const clsPaintingOff off(*this);
+        refill(row, true);
+        SelectRow(other);
+    }
+    announceSelection();
 }
 
 void oSGrid::announceSelection()
@@ -325,5 +334,6 @@ void oSGrid::changeEvent(QEvent *event)
     if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange)
         return;
     m_view->takeFonts();
+    setColumnWidths();
     fitRows();
 }

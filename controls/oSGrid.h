@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/clsGridModel.h"
+#include "controls/mdIcons.h"
 
 #include <QPoint>
 #include <QWidget>
@@ -31,7 +32,7 @@ public:
     void setMultiSelect(bool multiSelect);
     /// The line in the middle of a grid without rows, and the picture above it.
     void setEmptyText(const QString &text);
-    void setEmptyGlyph(std::function<void(QPainter &painter, const QRectF &rectangle)> glyph);
+    void setEmptyGlyph(Glyph glyph);
 
     /// Declares one more column; it is seen from the next `Draw` on.
     void AddColumn(const clsGridColumn &column) { m_columns.push_back(column); }

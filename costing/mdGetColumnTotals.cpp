@@ -4,15 +4,16 @@
 #include "costing/mdGetFASTotals.h"
 #include "shell/mdNumberText.h"
 #include "costing/mdTimeFormatting.h"
-#include "formdata/clsZR3Form.h"
+#include "formdata/clsOnBill.h"
 
 namespace {
 
 /// Visits the items of a column that stand on the bill.
 template <class Visit> void forBilledItems(const clsZR3Form &form, int column, Visit visit)
 {
+    clsOnBill isOnBill(form);
     for (const auto &item : form.ScheduleOfTimeItemsCollection())
-        if (form.IsOnBill(*item) && item->TimeColumn() == column)
+        if (isOnBill(*item) && item->TimeColumn() == column)
             visit(*item);
 }
 
@@ -56,8 +57,9 @@ clsColumnTotals AllColumnTotals(const clsZR3Form &form, clsSchedulePrices &price
 {
     std::array<int, clsZR3ScheduleOfTimeItem::Columns> minutes {};
     clsColumnTotals totals;
+    clsOnBill isOnBill(form);
     for (const auto &item : form.ScheduleOfTimeItemsCollection()) {
-        if (!form.IsOnBill(*item))
+        if (!isOnBill(*item))
             continue;
         const clsSchedulePrice &price = prices.of(*item);
         const auto column = size_t(price.TimeColumn);

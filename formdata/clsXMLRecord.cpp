@@ -1,5 +1,6 @@
 #include "formdata/clsXMLRecord.h"
 
+#include "formdata/clsXMLReading.h"
 #include "shell/mdNumberText.h"
 #include "shell/clsRunTimeError.h"
 
@@ -32,7 +33,7 @@ clsXMLField::clsXMLField(clsXMLRecord &record, const clsXMLProperty &property)
 
 const char *clsXMLField::content() const
 {
-    const pugi::xml_node element = m_record->m_node.child(m_property->element);
+    const pugi::xml_node element = clsXMLReading::find(m_record->m_node, *m_property);
     if (!element)
         throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
     return element.child_value();
@@ -40,7 +41,7 @@ const char *clsXMLField::content() const
 
 void clsXMLField::setContent(const char *content)
 {
-    const pugi::xml_node element = m_record->m_node.child(m_property->element);
+    const pugi::xml_node element = clsXMLReading::find(m_record->m_node, *m_property);
     if (!element)
         throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
     if (std::strcmp(element.child_value(), content) == 0)

@@ -1,5 +1,6 @@
 #include "formdata/clsZR3Form.h"
 
+#include "formdata/clsOnBill.h"
 #include "shell/mdNumberText.h"
 #include "formdata/mdXMLGenerateNodes.h"
 #include "formdata/mdXMLTemplate.h"
@@ -145,15 +146,16 @@ bool clsZR3Form::IncludePage(int page) const
 
 bool clsZR3Form::IsOnBill(const clsZR3ScheduleOfTimeItem &item) const
 {
-    return FormType() == QLatin1String("Claim1") || !ExcludeNonAdvocacy() || item.Advocacy();
+    return clsOnBill(*this)(item);
 }
 
 void clsZR3Form::RenderScheduleOfTimeItemsForExport()
 {
     m_forExport.clear();
     int number = 0;
+    clsOnBill isOnBill(*this);
     inOrder(m_ScheduleOfTimeItems, [&](const ScheduleOfTimeItemsList::Pointer &item) {
-        if (!IsOnBill(*item))
+        if (!isOnBill(*item))
             return;
         item->SOTItemNumber = ++number;
         m_forExport.push_back(item);

@@ -1,17 +1,10 @@
 #pragma once
 
+#include "shell/clsGridAlignment.h"
+
 #include <QString>
 
 #include <vector>
-
-/// How the text of a preview cell lies in it.
-enum class clsPreviewAlignment : unsigned char {
-    Left = 0,
-    Centred = 1,
-    Right = 2,
-    LeftWrapped = 16,
-    CentredWrapped = 17,
-};
 
 /// What a row is among the others: it decides which lines are drawn around it, and nothing else.
 enum class clsPreviewRowLook : unsigned char {
@@ -23,11 +16,11 @@ enum class clsPreviewRowLook : unsigned char {
 
 struct clsPreviewCell {
     QString text;
-    clsPreviewAlignment alignment = clsPreviewAlignment::Left;
+    clsGridAlignment alignment = clsGridAlignment::Left;
     bool bold = false;
     bool underline = false;
 
-    bool wraps() const { return int(alignment) >= int(clsPreviewAlignment::LeftWrapped); }
+    bool wraps() const { return mdGridWraps(alignment); }
 };
 
 /// The cells of the preview grid, counted from 1. They stand in one block, and a row to which nothing was ever written

@@ -4,20 +4,6 @@
 
 #include <QBrush>
 
-namespace {
-
-Qt::Alignment alignmentOf(clsPreviewAlignment alignment)
-{
-    switch (alignment) {
-    case clsPreviewAlignment::Right: return Qt::AlignRight | Qt::AlignVCenter;
-    case clsPreviewAlignment::Centred:
-    case clsPreviewAlignment::CentredWrapped: return Qt::AlignCenter;
-    default: return Qt::AlignLeft | Qt::AlignVCenter;
-    }
-}
-
-} // namespace
-
 int clsPreviewModel::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : cells.Rows();
@@ -35,7 +21,7 @@ QVariant clsPreviewModel::data(const QModelIndex &index, int role) const
     const clsPreviewCell &cell = cells.Cell(index.row() + 1, index.column() + 1);
     switch (role) {
     case Qt::DisplayRole: return cell.text;
-    case Qt::TextAlignmentRole: return QVariant::fromValue(alignmentOf(cell.alignment));
+    case Qt::TextAlignmentRole: return QVariant::fromValue(mdGridAlignment(cell.alignment));
     case Qt::BackgroundRole: return QBrush(columnBacks.value(index.column() + 1, Theme::Paper));
     default: return {};
     }

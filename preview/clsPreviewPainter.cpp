@@ -32,14 +32,9 @@ bool hasLineEnd(const QString &text)
     return std::any_of(text.begin(), text.end(), [](QChar c) { return c == u'\n' || c == u'\r'; });
 }
 
-Qt::Alignment across(clsPreviewAlignment alignment)
+Qt::Alignment across(clsGridAlignment alignment)
 {
-    switch (alignment) {
-    case clsPreviewAlignment::Right: return Qt::AlignRight;
-    case clsPreviewAlignment::Centred:
-    case clsPreviewAlignment::CentredWrapped: return Qt::AlignHCenter;
-    default: return Qt::AlignLeft;
-    }
+    return mdGridAlignment(alignment) & Qt::AlignHorizontal_Mask;
 }
 
 /// Breaks a text into lines of a width; measuring and drawing go through here, so that they agree.
@@ -112,7 +107,7 @@ clsPreviewPainter::clsPlaced clsPreviewPainter::place(int row, int column, const
     int padding = m_padding;
     if (m_model.cells.RowLook(row) == clsPreviewRowLook::Joined)
         padding = 0;
-    else if (cell.alignment == clsPreviewAlignment::CentredWrapped)
+    else if (cell.alignment == clsGridAlignment::CentreWrapped)
         padding = 1;
     const QRect padded = rect.adjusted(padding, 0, -padding, 0);
     if (cell.text.isEmpty())

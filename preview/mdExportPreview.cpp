@@ -1,6 +1,7 @@
 #include "preview/mdExportPreview.h"
 
 #include "controls/mdTheme.h"
+#include "costing/mdDateText.h"
 #include "preview/oPreviewGrid.h"
 #include "shell/clsRunTimeError.h"
 #include "shell/mdNumberText.h"
@@ -38,7 +39,7 @@ void mdExportPreviewAddRow(bool spacer)
 }
 
 void mdExportPreviewSetText(
-    int column, const QString &text, clsPreviewAlignment alignment, bool bold, bool underline, bool money)
+    int column, const QString &text, clsGridAlignment alignment, bool bold, bool underline, bool money)
 {
     oPreviewGrid &grid = mdExportPreviewGrid();
     QString shown = money ? mdFormatMoney(text) : text;
@@ -46,7 +47,7 @@ void mdExportPreviewSetText(
         shown.clear();
     if (shown == QLatin1String("00:00"))
         shown.clear();
-    if (shown == QLatin1String("31/12/29")) // what a date box gives where there is no date
+    if (shown == NoDate)
         shown = QStringLiteral("-");
     grid.SetCell(grid.Rows(), column, shown, alignment, bold, underline);
 }

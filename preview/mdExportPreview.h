@@ -19,7 +19,7 @@ void mdExportPreviewAddColumn(int percent);
 /// Appends a row; a spacer is a further, empty row above it.
 void mdExportPreviewAddRow(bool spacer);
 /// Writes a cell of the last row. Money is printed with two decimals; what is zero is not shown at all.
-void mdExportPreviewSetText(int column, const QString &text, clsPreviewAlignment alignment, bool bold = false,
+void mdExportPreviewSetText(int column, const QString &text, clsGridAlignment alignment, bool bold = false,
     bool underline = false, bool money = false);
 /// Stripes the columns, fits the heights of the rows, and switches painting on.
 void mdExportPreviewDeInit();

@@ -34,8 +34,8 @@ void mdExportPreviewAdditionalInformationItemDraw(const clsZR3ScheduleOfTimeItem
 {
     mdExportPreviewAddRow(true);
     // The place in the order and not the number on the schedule, which differs once items are left out: it is meant.
-    mdExportPreviewSetText(NumberColumn, QString::number(item.OrderID()), clsPreviewAlignment::Right, true);
-    mdExportPreviewSetText(TextColumn, item.Description(), clsPreviewAlignment::LeftWrapped, true);
+    mdExportPreviewSetText(NumberColumn, QString::number(item.OrderID()), clsGridAlignment::Right, true);
+    mdExportPreviewSetText(TextColumn, item.Description(), clsGridAlignment::LeftWrapped, true);
 }
 
 void mdExportPreviewAdditionalInformationDeInit()

@@ -1,7 +1,9 @@
 #include "preview/mdExportPreviewScheduleOfTime.h"
 
 #include "costing/clsSchedulePrices.h"
+#include "costing/mdDateText.h"
 #include "costing/mdGetColumnTotals.h"
+#include "formdata/clsXMLReading.h"
 #include "formdata/clsZR3Form.h"
 #include "preview/mdExportPreview.h"
 #include "preview/oPreviewGrid.h"
@@ -11,7 +13,7 @@ namespace {
 
 using Item = clsZR3ScheduleOfTimeItem;
 using Price = clsSchedulePrice;
-using Alignment = clsPreviewAlignment;
+using Alignment = clsGridAlignment;
 
 constexpr int FirstTimeColumn = 5;
 constexpr int ClaimColumn = 13;
@@ -26,9 +28,9 @@ struct clsScheduleColumn {
 
 QString dateOf(const Item &item)
 {
-    // What a date box gives where there is no date is not shown at all here, not even as the dash that it is elsewhere.
+    // No date is not shown at all here, not even as the dash that it is elsewhere.
     const QString date = item.dDate();
-    return date == QLatin1String("31/12/29") ? QString() : date;
+    return date == NoDate ? QString() : date;
 }
 
 QString percentageOf(const Price &price)
@@ -45,18 +47,18 @@ template <int Column> QString timeIn(const Item &, const Price &price)
 // clang-format off
 const clsScheduleColumn Columns[] = {
     { 4, "",           [](const Item &item, const Price &) { return QString::number(item.SOTItemNumber); }, Alignment::Right},
-    { 9, "FE",         [](const Item &, const Price &price) { return price.FeeEarnerInitials; },       Alignment::Centred},
-    {10, "Date",       [](const Item &item, const Price &) { return dateOf(item); },                   Alignment::Centred},
-    { 6, "Code",       [](const Item &item, const Price &) { return item.Code(); },                    Alignment::Centred},
-    { 7, "Att / Conf", timeIn<Item::AttendanceAndConferences>,                                         Alignment::Centred},
-    { 7, "Docs",       timeIn<Item::Documents>,                                                        Alignment::Centred},
-    { 7, "Hrng",       timeIn<Item::Hearings>,                                                         Alignment::Centred},
-    { 7, "Trvl",       timeIn<Item::TravelTime>,                                                       Alignment::Centred},
-    { 7, "Wtng",       timeIn<Item::WaitingTime>,                                                      Alignment::Centred},
-    {10, "Rate",       [](const Item &, const Price &price) { return MoneyToText(price.Rate); },       Alignment::Centred, true},
-    {10, "Bsc Clm",    [](const Item &, const Price &price) { return MoneyToText(price.BasicClaim); }, Alignment::Centred, true},
-    { 6, "Enh",        [](const Item &, const Price &price) { return percentageOf(price); },           Alignment::Centred},
-    {10, "Clm",        [](const Item &, const Price &price) { return MoneyToText(price.Claim); },      Alignment::Centred, true},
+    { 9, "FE",         [](const Item &, const Price &price) { return price.FeeEarnerInitials; },       Alignment::Centre},
+    {10, "Date",       [](const Item &item, const Price &) { return dateOf(item); },                   Alignment::Centre},
+    { 6, "Code",       [](const Item &item, const Price &) { return item.Code(); },                    Alignment::Centre},
+    { 7, "Att / Conf", timeIn<Item::AttendanceAndConferences>,                                         Alignment::Centre},
+    { 7, "Docs",       timeIn<Item::Documents>,                                                        Alignment::Centre},
+    { 7, "Hrng",       timeIn<Item::Hearings>,                                                         Alignment::Centre},
+    { 7, "Trvl",       timeIn<Item::TravelTime>,                                                       Alignment::Centre},
+    { 7, "Wtng",       timeIn<Item::WaitingTime>,                                                      Alignment::Centre},
+    {10, "Rate",       [](const Item &, const Price &price) { return MoneyToText(price.Rate); },       Alignment::Centre, true},
+    {10, "Bsc Clm",    [](const Item &, const Price &price) { return MoneyToText(price.BasicClaim); }, Alignment::Centre, true},
+    { 6, "Enh",        [](const Item &, const Price &price) { return percentageOf(price); },           Alignment::Centre},
+    {10, "Clm",        [](const Item &, const Price &price) { return MoneyToText(price.Claim); },      Alignment::Centre, true},
 };
 // clang-format on
 
@@ -71,12 +73,12 @@ void drawTotals(const clsColumnTotals &totals)
     mdExportPreviewAddRow(true);
     setLookOfLastRow(clsPreviewRowLook::Totals);
     for (int column = 0; column < Item::Columns; ++column)
-        mdExportPreviewSetText(FirstTimeColumn + column, totals.times[size_t(column)], Alignment::Centred, true, false);
+        mdExportPreviewSetText(FirstTimeColumn + column, totals.times[size_t(column)], Alignment::Centre, true, false);
     mdExportPreviewAddRow(true);
     for (int column = 0; column < Item::Columns; ++column)
-        mdExportPreviewSetText(FirstTimeColumn + column, MoneyToText(totals.claims[size_t(column)]), Alignment::Centred,
+        mdExportPreviewSetText(FirstTimeColumn + column, MoneyToText(totals.claims[size_t(column)]), Alignment::Centre,
             false, false, true);
-    mdExportPreviewSetText(ClaimColumn, MoneyToText(totals.schedule), Alignment::Centred, false, false, true);
+    mdExportPreviewSetText(ClaimColumn, MoneyToText(totals.schedule), Alignment::Centre, false, false, true);
 }
 
 } // namespace
@@ -98,7 +100,7 @@ void mdExportPreviewScheduleOfTimeInit()
     int number = 0;
     for (const clsScheduleColumn &column : Columns)
         if (++number; *column.caption)
-            mdExportPreviewSetText(number, QLatin1String(column.caption), Alignment::CentredWrapped, true);
+            mdExportPreviewSetText(number, QLatin1String(column.caption), Alignment::CentreWrapped, true);
 }
 
 void mdExportPreviewScheduleOfTimeDraw(const clsZR3Form &form)
@@ -117,6 +119,7 @@ void mdExportPreviewScheduleOfTimeDraw(const clsZR3Form &form)
 
 void mdExportPreviewScheduleOfTimeItemDraw(const clsZR3ScheduleOfTimeItem &item, clsSchedulePrices &prices)
 {
+    const clsXMLReading reading(item);
     const Price &price = prices.of(item);
     mdExportPreviewAddRow(true);
     int number = 0;

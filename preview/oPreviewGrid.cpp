@@ -134,7 +134,7 @@ void oPreviewGrid::AddRow()
 }
 
 void oPreviewGrid::SetCell(
-    int row, int column, const QString &text, clsPreviewAlignment alignment, bool bold, bool underline)
+    int row, int column, const QString &text, clsGridAlignment alignment, bool bold, bool underline)
 {
     change([&] { m_model->cells.SetCell(row, column, {text, alignment, bold, underline}); });
 }

@@ -24,7 +24,7 @@ public:
     /// Adds a column of a width in pixels. All columns come before the first cell.
     void AddColumn(const QString &key, int width);
     void AddRow();
-    void SetCell(int row, int column, const QString &text, clsPreviewAlignment alignment, bool bold = false,
+    void SetCell(int row, int column, const QString &text, clsGridAlignment alignment, bool bold = false,
         bool underline = false);
     /// Colours a column's cells in all rows.
     void setColumnBackColour(int column, const QColor &colour);

@@ -1,5 +1,6 @@
 #include "wordexport/mdExportWordScheduleOfTime.h"
 
+#include "costing/mdDateText.h"
 #include "costing/mdGetColumnTotals.h"
 #include "shell/mdSetProgress.h"
 #include "wordexport/clsExport.h"
@@ -12,8 +13,6 @@ namespace {
 
 constexpr int RowsOnSheet = 33;
 constexpr int LinesAboveGrid = 5;
-/// What a date box gives where there is no date. It is cleared in this column only; elsewhere it prints as it stands.
-const QString NoDate = QStringLiteral("31/12/29");
 
 using Form = clsZR3Form;
 using Fill = clsFillClass;
@@ -44,6 +43,7 @@ void typeRow(clsMSWord &word, const clsZR3ScheduleOfTimeItem &item)
     const int column = item.TimeColumn();
     typeAndMove(word, QString::number(item.SOTItemNumber), Fill::Text, 1);
     typeAndMove(word, item.FeeEarnerInitials(), Fill::Text, 1);
+    // In this column only; elsewhere no date prints as it stands.
     typeAndMove(word, item.dDate() == NoDate ? QString() : item.dDate(), Fill::Text, 1);
     typeAndMove(word, item.Code(), Fill::Text, column + 1);
     typeAndMove(word, item.TTime(), Fill::Text, clsZR3ScheduleOfTimeItem::Columns - column);

@@ -138,7 +138,10 @@ TEST_F(clsGridInput, TheFocusSelectsTheFirstRowWhereNoneIsSelected)
 
 TEST_F(clsGridInput, TheArrowsMoveTheRowAndWriteTheItems)
 {
+    QSignalSpy selected(&grid, &oSGrid::SelectionChange);
     QTest::mouseClick(arrow("cmdDown"), Qt::LeftButton);
+    // The neighbour, which stands in the row for a moment, is never told as the selected item.
+    EXPECT_EQ(QList<QVariantList>({{2, 3}}), QList<QVariantList>(selected));
     EXPECT_EQ(QStringList({"G1", "G3", "G2", "G4"}), column(1));
     EXPECT_EQ(QStringList({"1", "3", "2", "4"}), orders());
     EXPECT_EQ(3, grid.SelectedRow());
@@ -149,6 +152,16 @@ TEST_F(clsGridInput, TheArrowsMoveTheRowAndWriteTheItems)
     EXPECT_EQ(QStringList({"G2", "G1", "G3", "G4"}), column(1));
     EXPECT_EQ(QStringList({"2", "1", "3", "4"}), orders());
     EXPECT_EQ(1, grid.SelectedRow());
+    EXPECT_EQ(QList<QVariantList>({{2, 3}, {2, 2}, {2, 1}}), QList<QVariantList>(selected));
+}
+
+TEST_F(clsGridInput, AnArrowThatIsHeldMovesTheRowOnAndOn)
+{
+    QTest::mousePress(arrow("cmdDown"), Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return grid.SelectedRow() == 4; }));
+    QTest::mouseRelease(arrow("cmdDown"), Qt::LeftButton);
+    EXPECT_EQ(QStringList({"G1", "G3", "G4", "G2"}), column(1));
+    EXPECT_TRUE(view()->hasFocus());
 }
 
 TEST_F(clsGridInput, AltAndAnArrowKeyMoveTheRow)

@@ -2,9 +2,40 @@
 
 #include "tests/controls/clsGridTest.h"
 
+#include "controls/mdGridMetrics.h"
+#include "controls/mdTheme.h"
+#include "controls/oCustomButton.h"
+
+#include <QApplication>
 #include <QScrollBar>
 
 using clsGridLook = clsGridTest;
+
+namespace {
+
+/// The desktop's font at another size, for as long as this lives.
+class clsDesktopFont {
+public:
+    explicit clsDesktopFont(int points)
+        : m_before(QApplication::font())
+    {
+        QFont font = m_before;
+        font.setPointSize(points);
+        QApplication::setFont(font);
+        QCoreApplication::processEvents();
+    }
+    ~clsDesktopFont()
+    {
+        QApplication::setFont(m_before);
+        QCoreApplication::processEvents();
+    }
+    clsDesktopFont(const clsDesktopFont &) = delete;
+
+private:
+    QFont m_before;
+};
+
+} // namespace
 
 TEST_F(clsGridLook, ColumnsTakeTheirShareOfTheWidthAndTheLastOneTheRest)
 {
@@ -22,6 +53,53 @@ TEST_F(clsGridLook, ColumnsTakeTheirShareOfTheWidthAndTheLastOneTheRest)
     EXPECT_TRUE(view()->isColumnHidden(1));
     EXPECT_TRUE(view()->isColumnHidden(2));
     EXPECT_FALSE(view()->horizontalScrollBar()->isVisible());
+}
+
+TEST_F(clsGridLook, WithALargeFontTheColumnsLeaveRoomForTheScrollBar)
+{
+    addGroups(100);
+    grid.AddColumn({.caption = "Ref", .width = 60, .property = "Reference"});
+    grid.AddColumn({.caption = "Name", .width = 40, .property = "Name"});
+    draw();
+    for (const int points : {10, 20}) {
+        const clsDesktopFont font(points);
+        ASSERT_TRUE(view()->verticalScrollBar()->isVisible());
+        const int room = std::min(view()->width() - 20, view()->viewport()->width());
+        EXPECT_NEAR(room * 0.6, view()->columnWidth(0), 0.5) << points;
+        EXPECT_LE(view()->columnWidth(0) + view()->columnWidth(1), view()->viewport()->width()) << points;
+    }
+}
+
+TEST_F(clsGridLook, TheArrowsAreSeenWholeBesideTheRows)
+{
+    const clsDesktopFont font(10);
+    grid.setOrderable(true);
+    addGroups(2);
+    addReferenceColumn();
+    draw();
+    QTest::qWait(0);
+    const int room = Theme::RingRoom;
+    for (const char *name : {"cmdUp", "cmdDown"}) {
+        const auto &arrow = *grid.findChild<oCustomButton *>(name);
+        EXPECT_EQ(QSize(28, 32), arrow.size() - 2 * QSize(room, room)) << name;
+        const QRect seen(arrow.mapTo(&grid, QPoint(room, room)), QSize(28, 32));
+        EXPECT_EQ(view()->geometry().right() + 1 + Theme::Space8, seen.left()) << name;
+        EXPECT_TRUE(grid.rect().contains(seen)) << name;
+    }
+}
+
+TEST_F(clsGridLook, WithASmallFontTheRowsKeepTheirHeightAndAllElseShrinks)
+{
+    const auto arrowHeight
+        = [this] { return grid.findChild<oCustomButton *>("cmdUp")->sizeHint().height() - 2 * Theme::RingRoom; };
+    const clsDesktopFont usual(10);
+    const int row = mdGridRowHeight();
+    const int heading = mdGridHeadingHeight();
+    const int arrow = arrowHeight();
+    const clsDesktopFont small(8);
+    EXPECT_EQ(row, mdGridRowHeight());
+    EXPECT_EQ(heading, mdGridHeadingHeight());
+    EXPECT_LT(arrowHeight(), arrow);
 }
 
 TEST_F(clsGridLook, KeepInViewPutsTheSelectionAsFarDownAsItGoes)

@@ -4,7 +4,7 @@
 
 namespace {
 
-using Alignment = clsPreviewAlignment;
+using Alignment = clsGridAlignment;
 
 class PreviewKit : public clsPreviewTest {
 protected:
@@ -60,7 +60,7 @@ TEST_F(PreviewKit, ATextIsWrittenToTheLastRowInItsFont)
     mdExportPreviewAddRow(false);
     mdExportPreviewAddRow(true);
     mdExportPreviewSetText(2, QStringLiteral("x"), Alignment::Right, true, true);
-    mdExportPreviewSetText(1, QStringLiteral("y"), Alignment::CentredWrapped);
+    mdExportPreviewSetText(1, QStringLiteral("y"), Alignment::CentreWrapped);
     mdExportPreviewDeInit();
 
     ASSERT_EQ(3, grid().Rows());
@@ -70,7 +70,7 @@ TEST_F(PreviewKit, ATextIsWrittenToTheLastRowInItsFont)
     EXPECT_EQ(Alignment::Right, grid().Cell(3, 2).alignment);
     EXPECT_TRUE(grid().Cell(3, 2).bold);
     EXPECT_TRUE(grid().Cell(3, 2).underline);
-    EXPECT_EQ(Alignment::CentredWrapped, grid().Cell(3, 1).alignment);
+    EXPECT_EQ(Alignment::CentreWrapped, grid().Cell(3, 1).alignment);
     EXPECT_FALSE(grid().Cell(3, 1).bold);
     EXPECT_FALSE(grid().Cell(3, 1).underline);
     EXPECT_TRUE(grid().CellFont(true, false).bold());
@@ -81,10 +81,10 @@ TEST_F(PreviewKit, ATextIsWrittenToTheLastRowInItsFont)
 TEST_F(PreviewKit, AlignmentsHaveTheirCodes)
 {
     EXPECT_EQ(0, int(Alignment::Left));
-    EXPECT_EQ(1, int(Alignment::Centred));
+    EXPECT_EQ(1, int(Alignment::Centre));
     EXPECT_EQ(2, int(Alignment::Right));
     EXPECT_EQ(16, int(Alignment::LeftWrapped));
-    EXPECT_EQ(17, int(Alignment::CentredWrapped));
+    EXPECT_EQ(17, int(Alignment::CentreWrapped));
 }
 
 TEST_F(PreviewKit, AColumnTakesItsShareOfAHundredAndThree)

@@ -11,7 +11,7 @@
 
 namespace {
 
-using Alignment = clsPreviewAlignment;
+using Alignment = clsGridAlignment;
 
 class NotesPreview : public clsPreviewTest {
 protected:

@@ -9,7 +9,7 @@
 
 namespace {
 
-using Alignment = clsPreviewAlignment;
+using Alignment = clsGridAlignment;
 
 class PreviewGridControl : public clsPreviewTest {
 protected:

@@ -13,7 +13,7 @@
 
 namespace {
 
-using Alignment = clsPreviewAlignment;
+using Alignment = clsGridAlignment;
 using Error = clsRunTimeError;
 
 constexpr int FirstItemRow = 5;
@@ -151,7 +151,7 @@ TEST_F(SchedulePreview, ColumnsBandAndCaptions)
         rowTexts(3));
     for (int column = 2; column <= 13; ++column) {
         EXPECT_TRUE(grid().Cell(3, column).bold);
-        EXPECT_EQ(Alignment::CentredWrapped, grid().Cell(3, column).alignment);
+        EXPECT_EQ(Alignment::CentreWrapped, grid().Cell(3, column).alignment);
     }
 }
 
@@ -236,7 +236,7 @@ TEST_F(SchedulePreview, ATimeStandsInOneOfFiveColumns)
                 grid().Text(FirstItemRow + 2 * item, column));
     EXPECT_EQ(Alignment::Right, grid().Cell(FirstItemRow, 1).alignment);
     for (int column : {2, 3, 4, 5, 10, 11, 13}) {
-        EXPECT_EQ(Alignment::Centred, grid().Cell(FirstItemRow, column).alignment) << column;
+        EXPECT_EQ(Alignment::Centre, grid().Cell(FirstItemRow, column).alignment) << column;
         EXPECT_FALSE(grid().Cell(FirstItemRow, column).bold);
     }
     const int totals = FirstItemRow + 10;

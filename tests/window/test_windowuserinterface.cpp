@@ -108,16 +108,24 @@ TEST_F(WindowUserInterface, CustomMessagesAreTheSystemsOwnBox)
 
 TEST_F(WindowUserInterface, WhateverIsAskedVeilsTheWindowBelow)
 {
+    // The offscreen platform has no window manager: each time it has to be told which window is the active one.
     QWidget below;
+    const auto show = [](QWidget &window) {
+        window.show();
+        window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    };
     show(below);
     const auto veils = [&below] { return below.findChildren<QWidget *>(QStringLiteral("oVeil")).size(); };
     whenShown<frmMessageBox>([&veils](frmMessageBox &) { EXPECT_EQ(1, veils()); });
     windows.customMessage(QStringLiteral("m"), QStringLiteral("t"), clsUserInterface::OKOnly, 0, 0);
     EXPECT_EQ(0, veils());
+    show(below);
     whenShown<QMessageBox>([&veils](QMessageBox &) { EXPECT_EQ(1, veils()); });
     windows.systemMessage(
         QStringLiteral("m"), QStringLiteral("t"), clsUserInterface::Critical, clsUserInterface::OKOnly);
     EXPECT_EQ(0, veils());
+    show(below);
     whenShown<QFileDialog>([&veils](QFileDialog &) { EXPECT_EQ(1, veils()); });
     windows.chooseFileToOpen(QStringLiteral("All (*)"));
     EXPECT_EQ(0, veils());

@@ -1,4 +1,4 @@
-#include "controls/clsGridColumn.h"
+#include "shell/clsGridAlignment.h"
 
 Qt::Alignment mdGridAlignment(clsGridAlignment code)
 {

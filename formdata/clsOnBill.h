@@ -1,0 +1,26 @@
+#pragma once
+
+#include "formdata/clsZR3Form.h"
+
+/// Which items of the schedule stand on the bill: all but the non-advocacy items of a `Claim1A` that leaves them out.
+/// What the claim says of all of them is read once, at the first item, so that it is for one walk over the items only.
+class clsOnBill {
+public:
+    explicit clsOnBill(const clsZR3Form &form)
+        : m_form(form)
+    { }
+
+    bool operator()(const clsZR3ScheduleOfTimeItem &item)
+    {
+        if (m_items == Items::Unread)
+            m_items = m_form.FormType() == QLatin1String("Claim1") || !m_form.ExcludeNonAdvocacy() ? Items::All
+                                                                                                   : Items::Advocacy;
+        return m_items == Items::All || item.Advocacy();
+    }
+
+private:
+    enum class Items { Unread, All, Advocacy };
+
+    const clsZR3Form &m_form;
+    Items m_items = Items::Unread;
+};

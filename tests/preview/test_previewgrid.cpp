@@ -1,5 +1,6 @@
 // The grid of the preview: what it holds, what is in view, and what it answers to.
 
+#include "controls/mdTheme.h"
 #include "tests/preview/clsPreviewTest.h"
 
 #include <QAccessible>
@@ -256,7 +257,13 @@ TEST_F(PreviewGridControl, TheSheetIsCentredAndOfLimitedWidth)
     EXPECT_EQ(sheet->height(), grid().geometry().bottom() + 1);
     grid().clearFocus();
     const QImage picture = sheet->grab().toImage();
-    EXPECT_EQ(QColor(204, 204, 204), picture.pixelColor(grid().x() - 2, 300));
+    // All around but for the foot, where the sheet runs on below the edge.
+    const QRect frame = grid().geometry().adjusted(-2, -2, 2, 0);
+    const int right = frame.right();
+    for (const QPoint place : {QPoint(frame.left(), 300), QPoint(right, 300), QPoint(600, frame.top())})
+        EXPECT_EQ(QColor(204, 204, 204), picture.pixelColor(place)) << place.x();
+    for (const QPoint place : {QPoint(frame.left() + 1, 300), QPoint(right - 1, 300), QPoint(600, frame.top() + 1)})
+        EXPECT_EQ(QColor(Theme::Paper), picture.pixelColor(place)) << place.x();
     grid().setFocus();
     window.activateWindow();
     if (QTest::qWaitForWindowActive(&window)) {

@@ -25,6 +25,8 @@ public:
         PreviewGrid = m_sheet.Grid();
         Form = std::make_unique<clsZR3Form>();
         mdMakeClaim(*Form, items);
+        Form->RenderScheduleOfTimeItemsForExport();
+        Form->RenderAdditionalInformationItems();
         redraw();
         takeCells();
     }

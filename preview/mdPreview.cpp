@@ -75,9 +75,8 @@ clsZR3Form &form()
 void redraw(clsPreviewKind kind)
 {
     const clsDrawing drawing(mdExportPreviewGrid());
-    // Properties have changed since the lists were last made: the bill is shown as it would be printed now.
-    form().RenderScheduleOfTimeItemsForExport();
-    form().RenderAdditionalInformationItems();
+    // The lists are drawn as they were last made: by the load, the actions of the schedule's screen, or an export. A
+    // change of a property, such as the form type, does not make them anew. That is meant.
     for (const clsPreviewRoutines &routines : Routines)
         if (routines.kind == kind) {
             routines.init();

@@ -62,6 +62,13 @@ protected:
     {
         for (int i = 0; i < count; ++i)
             addItem();
+        makeLists();
+    }
+    /// What the schedule's screen does after each of its actions.
+    static void makeLists()
+    {
+        Form->RenderScheduleOfTimeItemsForExport();
+        Form->RenderAdditionalInformationItems();
     }
 
     static oPreviewGrid &grid() { return *PreviewGrid; }

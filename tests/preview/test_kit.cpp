@@ -125,6 +125,7 @@ TEST_F(PreviewKit, EverySecondColumnIsStriped)
     addItems(3);
     for (const auto kind : {clsPreviewKind::ScheduleOfTime, clsPreviewKind::AdditionalInformation}) {
         Form->ScheduleOfTimeItem(1)->Description = QStringLiteral("note");
+        makeLists();
         mdDrawPreview(kind);
         for (int row = 1; row <= grid().Rows(); ++row)
             for (int column = 1; column <= grid().Columns(); ++column)

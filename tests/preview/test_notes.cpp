@@ -15,7 +15,11 @@ using Alignment = clsGridAlignment;
 
 class NotesPreview : public clsPreviewTest {
 protected:
-    static void draw() { mdDrawPreview(clsPreviewKind::AdditionalInformation); }
+    static void draw()
+    {
+        makeLists();
+        mdDrawPreview(clsPreviewKind::AdditionalInformation);
+    }
     static Item addNote(const QString &text)
     {
         const Item item = addItem();

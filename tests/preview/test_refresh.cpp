@@ -41,6 +41,7 @@ protected:
     {
         for (int n = int(Form->ScheduleOfTimeItemsCollection().size()); n > count; --n)
             Form->DeleteScheduleOfTimeItem(n);
+        makeLists();
     }
     static QScrollBar &bar() { return *grid().verticalScrollBar(); }
 
@@ -129,6 +130,7 @@ TEST_F(PreviewRefresh, ALongerListKeepsThePlaceToo)
 TEST_F(PreviewRefresh, ThePlaceInsideATallNoteIsKept)
 {
     addItem()->Description = QStringLiteral("line\r\n").repeated(300);
+    makeLists();
     mdDrawPreview(Notes);
     bar().setValue(777);
     mdRefreshPreview(Notes);

@@ -2,6 +2,7 @@
 
 #include "benchmarks/mdMakeClaim.h"
 #include "formdata/clsZR3Form.h"
+#include "shell/mdGetVersionInfo.h"
 
 #include <QFile>
 
@@ -18,6 +19,7 @@ int main(int argc, char **argv)
     clsZR3Form form;
     if (items > 0)
         mdMakeClaim(form, items);
+    form.Version = GetVersionInfo();
     form.path = file;
     form.SaveXML(file);
     return QFile::exists(file) ? 0 : 1;

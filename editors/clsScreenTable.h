@@ -1,12 +1,17 @@
 #pragma once
 
+#include "shell/clsGridAlignment.h"
+
 #include <QStringList>
 
+#include <memory>
 #include <vector>
 
 class QWidget;
 class clsXMLRecord;
 class frmSection;
+class oSGrid;
+struct clsScreen;
 
 /// What a row of a screen's table is: a field of some kind, or one of the rows that only arrange the others.
 enum class clsRowKind {
@@ -18,7 +23,8 @@ enum class clsRowKind {
     Tick,
     List, ///< one entry of several; stored as its place, or as its text where the record keeps a text
     Button,
-    Other, ///< a control that the row makes itself: a grid, or a control made of several
+    Items, ///< a grid with a list of the claim, and "Add" below it
+    Other, ///< a control that the row makes itself, as one that is made of several
     Question, ///< a caption of full width; the ticks behind it are its answers and stand in one row
     Separator, ///< a hairline where the subject changes
     ColumnBreak, ///< where a single long frame parts into two columns, if there is room for two
@@ -32,7 +38,7 @@ enum clsFieldFlag : unsigned {
     OverRun = 4, ///< the text may run on to a continuation sheet
     NoReplacements = 8, ///< abbreviations are not expanded
     StartsDisabled = 16,
-    SameRow = 32, ///< stands behind the field before it
+    SameRow = 32, ///< stands behind the field before it; behind a list, at the right end of the line with its "Add"
     Required = 64, ///< Save refuses while it is empty
     DateTick = 128, ///< a date that can be switched off
     Unbound = 256, ///< has no member in the record
@@ -42,6 +48,40 @@ enum clsFieldFlag : unsigned {
 };
 
 struct clsScreenRow;
+
+/// A column of a list of items.
+struct clsItemColumn {
+    const char *caption;
+    const char *property; ///< of the items
+    int width = 0; ///< per cent of the grid; without one the column is hidden
+    clsGridAlignment alignment = clsGridAlignment::Left; ///< of the heading and the cells
+};
+
+/// An entry of a list's pop-up menu beside "Delete".
+struct clsItemAction {
+    const char *name; ///< object name
+    const char *caption;
+    void (*run)(frmSection &screen); ///< all lists of the screen are drawn anew after it
+};
+
+/// A list of items on a screen: what its grid shows, and how an item is added, edited and deleted. What a list leaves
+/// out it doesn't offer.
+struct clsItemList {
+    bool orderable = true;
+    std::vector<clsItemColumn> columns {};
+    void (*show)(oSGrid &grid) = nullptr; ///< hands the grid its collection
+    const char *empty = ""; ///< what an empty grid says
+    const clsScreen &(*editor)() = nullptr; ///< opened by "Add", and on an item by a double click or Return
+    std::shared_ptr<clsXMLRecord> (*item)(int index) = nullptr; ///< the item of that `Index`
+    void (*remove)(int index) = nullptr; ///< takes the item of that `Index` out of the claim
+    bool keepsUsed = false; ///< an item that another element of the claim points at can't be deleted
+    const char *add = nullptr; ///< object name of the button "Add"
+    QString (*whyNoAdd)() = nullptr; ///< why nothing can be added now, for the button and the empty grid; or nothing
+    const char *menu = nullptr; ///< object name of the pop-up menu
+    const char *deleteEntry = nullptr; ///< object name of the menu's entry "Delete"
+    std::vector<clsItemAction> actions {}; ///< further entries, above "Delete"
+    void (*changed)() = nullptr; ///< brings up to date what the claim derives from the list, after each change of it
+};
 
 /// A control that a table brings with it. Loading and storing may be missing where it has no part in the record.
 struct clsOtherControl {
@@ -63,15 +103,25 @@ struct clsScreenRow {
     const char *member = nullptr; ///< the record's property, where it isn't the control's name less its prefix
     QStringList (*entries)() = nullptr; ///< what a list offers; it starts on the first
     const clsOtherControl *other = nullptr;
+    const clsItemList *items = nullptr;
+    const char *beside = nullptr; ///< a tick that stands in the line of this one, in a second column
+};
+
+/// A page of a frame whose pages are opened one at a time.
+struct clsScreenPage {
+    const char *caption;
+    std::vector<clsScreenRow> rows;
 };
 
 /// A titled group of fields.
 struct clsScreenFrame {
     const char *name; ///< object name, such as "bxGeneral"
     const char *caption;
-    std::vector<clsScreenRow> rows;
+    std::vector<clsScreenRow> rows {};
     bool startsColumn = false; ///< where there is room for two columns, the second begins here
     int tickColumns = 0; ///< ticks stand in a grid of so many columns, row by row
+    const char *switcher = nullptr; ///< object name of the switcher of its pages
+    std::vector<clsScreenPage> pages {}; ///< instead of rows; a frame without a caption is only the stack of them
 };
 
 /// The width that a screen opens with.

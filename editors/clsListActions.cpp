@@ -91,10 +91,20 @@ void clsListActions::addItem()
     const bool added = mdEditItem(&m_screen, m_list.editor(), nullptr);
     // What the editor opened in its turn is kept even where the editor itself was cancelled.
     tellChanged();
-    // A new item stands at the end of its list, and the next key goes on from there.
     if (added)
-        m_grid.SelectRow(m_grid.Rows());
+        selectNewItem();
     m_grid.setFocus(Qt::OtherFocusReason);
+}
+
+/// A new item is the last of its collection, and the next key goes on from there. A sorted grid may show it anywhere.
+void clsListActions::selectNewItem()
+{
+    for (int row = m_grid.Rows(); row >= 1; --row) {
+        m_grid.SelectRow(row);
+        if (m_grid.SelectedItemData() == m_grid.Rows())
+            return;
+    }
+    m_grid.SelectRow(m_grid.Rows());
 }
 
 void clsListActions::editItem(int index)

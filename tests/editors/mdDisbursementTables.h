@@ -8,6 +8,21 @@
 
 // clang-format off
 inline const std::vector<clsExpectedScreen> ExpectedDisbursementScreens {
+    {"Disbursements", "frmDisbursements", "Disbursements", "Edit the disbursements for your form", "", {
+        {"sgExpertInvoices", "Expert Invoices", nullptr, 'g'},
+        {"cmdAddExpertInvoice", "Add", nullptr, 'b'},
+        {"chkExpertsMeetMOJStandardYes", "If these are proceedings involving a dispute about children, are you "
+         "satisfied that the experts used meet the Ministry of Justice standards for experts in England and Wales?",
+         "Yes:", 'x'},
+        {"chkExpertsMeetMOJStandardNo", "If these are proceedings involving a dispute about children, are you "
+         "satisfied that the experts used meet the Ministry of Justice standards for experts in England and Wales?",
+         "No:", 'x'},
+        {"txtExpertsMeetMOJStandardReasons", "If no, give reasons:", nullptr, 't', 250, true, true},
+        {"sgJointInstructions", "Joint Instructions", nullptr, 'g'},
+        {"cmdAddJointInstruction", "Add", nullptr, 'b'},
+        {"sgOtherDisbursements", "Other Disbursements", nullptr, 'g'},
+        {"cmdAddDisbursement", "Add", nullptr, 'b'},
+    }},
     {"", "frmDisbursementEdit", "Disbursement", "Change a disbursement's settings", "disbursement", {
         {"txtDescription", "Description:*", nullptr, 't', 35, false, true},
         {"txtAmount", "Amount:*", nullptr, 'm'},

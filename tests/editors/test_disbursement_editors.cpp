@@ -35,10 +35,7 @@ protected:
     {
         return item.XMLNode().child(element).child_value();
     }
-    static void addCounsel(const char *name)
-    {
-        Form->AddCounsel()->Name = QString::fromUtf8(name);
-    }
+    static void addCounsel(const char *name) { Form->AddCounsel()->Name = QString::fromUtf8(name); }
 };
 
 struct clsEditorCase {

@@ -18,7 +18,7 @@ constexpr clsSection Sections[] = {
     {"Counsel",                    "frmCounsel",                 ScreenCounsel},
     {"Enhancements",               "frmEnhancements",            ScreenEnhancements},
     {"Schedule of Time",           "frmScheduleOfTime",          ScreenScheduleOfTime},
-    {"Disbursements",              "frmDisbursements",           nullptr},
+    {"Disbursements",              "frmDisbursements",           ScreenDisbursements},
     {"Family Advocacy Scheme",     "frmFamilyAdvocacyScheme",    ScreenFamilyAdvocacyScheme},
     {"Communications",             "frmCommunications",          nullptr},
     {"Client Details",             "frmClientDetails",           ScreenClientDetails},

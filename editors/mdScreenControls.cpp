@@ -135,7 +135,7 @@ void mdLoadControl(const clsScreenRow &row, QWidget &control, clsXMLRecord &reco
         return;
     if (row.other) {
         if (row.other->load)
-            row.other->load(control, record);
+            row.other->load(row, control, record);
         return;
     }
     const clsXMLField &field = fieldOf(row, record);
@@ -155,7 +155,7 @@ void mdStoreControl(const clsScreenRow &row, const QWidget &control, clsXMLRecor
         return;
     if (row.other) {
         if (row.other->store)
-            row.other->store(control, record);
+            row.other->store(row, control, record);
         return;
     }
     clsXMLField &field = fieldOf(row, record);

@@ -17,6 +17,7 @@ protected:
         grid.AddColumn({.caption = "Name", .width = 30, .property = "Name"});
         grid.AddColumn({.caption = "Enh", .width = 30, .property = "Enhance"});
         draw();
+        grid.SelectRow(1);
         grid.setFocus(Qt::TabFocusReason);
     }
     /// Where Return would act, as "row/column".

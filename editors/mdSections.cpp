@@ -15,8 +15,8 @@ struct clsSection {
 constexpr clsSection Sections[] = {
     {"Form Setup",                 "frmFormSetup",               ScreenFormSetup},
     {"Fee Earners / Rates",        "frmFeeEarnerGroups",         nullptr},
-    {"Counsel",                    "frmCounsel",                 nullptr},
-    {"Enhancements",               "frmEnhancements",            nullptr},
+    {"Counsel",                    "frmCounsel",                 ScreenCounsel},
+    {"Enhancements",               "frmEnhancements",            ScreenEnhancements},
     {"Schedule of Time",           "frmScheduleOfTime",          nullptr},
     {"Disbursements",              "frmDisbursements",           nullptr},
     {"Family Advocacy Scheme",     "frmFamilyAdvocacyScheme",    nullptr},

@@ -14,7 +14,7 @@
 namespace {
 
 // clang-format off
-constexpr clsChoiceSource Counsels {
+constexpr clsChoiceSource CounselSource {
     .tick = "chkCounsel",
     .tickCaption = "Counsel",
     .list = "cmbCounsel",
@@ -43,7 +43,7 @@ const clsOtherControl CounselOfItem {
 
 oCounselBox::oCounselBox(QWidget *parent)
     : QFrame(parent)
-    , m_choice(new clsItemChoice(*this, Counsels))
+    , m_choice(new clsItemChoice(*this, CounselSource))
     , cmdAddCounsel(addButton("cmdAddCounsel", "Add", "Add counsel"))
     , cmdEditCounsel(addButton("cmdEditCounsel", "Edit", "Edit counsel"))
 {

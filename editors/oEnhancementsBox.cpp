@@ -8,7 +8,7 @@
 namespace {
 
 // clang-format off
-constexpr clsChoiceSource Enhancements {
+constexpr clsChoiceSource EnhancementSource {
     .tick = "chkIncludeInEnhancements",
     .tickCaption = "Include in Enhancements",
     .list = "cmbEnhancement",
@@ -37,7 +37,7 @@ const clsOtherControl EnhancementsOfItem {
 
 oEnhancementsBox::oEnhancementsBox(QWidget *parent)
     : QFrame(parent)
-    , m_choice(new clsItemChoice(*this, Enhancements))
+    , m_choice(new clsItemChoice(*this, EnhancementSource))
 {
     fill();
 }

@@ -22,6 +22,9 @@ public:
     void SwitchTo(int index);
     /// The number of the open page; 0 while there is none.
     int OpenPage() const { return m_open; }
+    int Pages() const { return int(m_pages.size()); }
+    /// The frame of a page, by its number; nothing for a number without a page.
+    oFrame *Page(int index) const { return hasPage(index) ? m_pages[size_t(index - 1)].frame : nullptr; }
 
     /// While it is set, only SwitchTo changes the page.
     void setIgnoreClicks(bool ignore) { m_ignoreClicks = ignore; }

@@ -86,6 +86,12 @@ void oCustomButton::setGlyph(Glyph glyph)
 
 bool oCustomButton::event(QEvent *event)
 {
+    // At once, and not after the moment that an animated click takes: whoever types on at speed would otherwise still
+    // type into the old window.
+    if (event->type() == QEvent::Shortcut && !static_cast<QShortcutEvent *>(event)->isAmbiguous()) {
+        click();
+        return true;
+    }
     const bool done = QPushButton::event(event);
     if (event->type() == QEvent::ApplicationFontChange)
         chooseFont();

@@ -79,6 +79,12 @@ void oFrame::setExpanded(bool expanded)
     update();
 }
 
+void oFrame::setBare(bool bare)
+{
+    m_bare = bare;
+    measure();
+}
+
 void oFrame::setCount(int count)
 {
     m_count = count;
@@ -90,7 +96,7 @@ void oFrame::setCount(int count)
 void oFrame::measure()
 {
     // The margins of a page are the switcher's, which puts them away together with the contents of a closed one.
-    const int side = m_showExpandCollapseIcon ? 0 : Theme::Space16;
+    const int side = m_showExpandCollapseIcon || m_bare ? 0 : Theme::Space16;
     const bool titled = !m_showExpandCollapseIcon && !m_caption.isEmpty();
     m_body->setContentsMargins(side, titled ? Theme::Space12 : 0, side, side);
     m_bar->setAccessibleName(mdSpokenCaption(m_caption));
@@ -119,6 +125,8 @@ void oFrame::mouseReleaseEvent(QMouseEvent *event)
 
 void oFrame::paintEvent(QPaintEvent *)
 {
+    if (m_bare)
+        return;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const bool open = m_showExpandCollapseIcon && m_expanded;

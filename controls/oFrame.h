@@ -32,6 +32,9 @@ public:
     /// Shows the icon of an open or a closed page, with the tint of the open one. The frame's size stays.
     void setExpanded(bool expanded);
 
+    /// A bare frame only keeps others together: it has no line and no margins.
+    void setBare(bool bare);
+
     /// The number at the right end of a page's caption; nothing at 0.
     void setCount(int count);
 
@@ -64,6 +67,7 @@ private:
     QColor m_captionColour;
     bool m_showExpandCollapseIcon = false;
     bool m_expanded = false;
+    bool m_bare = false;
     bool m_pressed = false;
     int m_count = 0;
     oFrameCaption *m_bar;

@@ -268,6 +268,7 @@ void oSGrid::moveSelectedRow(int by)
         SelectRow(other);
     }
     announceSelection();
+    emit OrderChange();
 }
 
 void oSGrid::announceSelection()

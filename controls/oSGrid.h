@@ -80,6 +80,8 @@ signals:
     /// Comes before the grid does anything with the key, and nothing after it when `*doDefault` is set to false.
     void KeyDown(int keyCode, Qt::KeyboardModifiers shift, bool *doDefault);
     void DeletePressed();
+    /// The user has moved the selected row, and the items have their new order.
+    void OrderChange();
     /// What was typed without a pause of half a second.
     void TimedKeyPress(const QString &text);
 

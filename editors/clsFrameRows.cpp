@@ -2,6 +2,7 @@
 
 #include "controls/mdTheme.h"
 #include "controls/oAllPurposeBox.h"
+#include "controls/oCustomButton.h"
 #include "editors/mdScreenControls.h"
 #include "editors/oTickLayout.h"
 
@@ -12,6 +13,7 @@ namespace {
 constexpr int NarrowestLabels = 120;
 constexpr int TickRowGap = 6;
 constexpr int AnswerGap = 6;
+constexpr int SecondColumnGap = 80;
 
 /// The rows that take whatever height is left over.
 bool growsWithWindow(const clsScreenRow &row)
@@ -22,19 +24,21 @@ bool growsWithWindow(const clsScreenRow &row)
 
 } // namespace
 
-clsFrameRows::clsFrameRows(oScreenFrame &frame, const clsScreenFrame &table)
+clsFrameRows::clsFrameRows(oScreenFrame &frame, QBoxLayout &parts, const std::vector<clsScreenRow> &rows, int page)
     : m_frame(frame)
-    , m_table(table)
+    , m_parts(parts)
+    , m_rows(rows)
+    , m_page(page)
 { }
 
-void clsFrameRows::layOut()
+void clsFrameRows::layOut(int tickColumns)
 {
     beginPart();
-    if (m_table.tickColumns > 0) {
-        m_answers = new oTickLayout(m_table.tickColumns);
+    if (tickColumns > 0) {
+        m_answers = new oTickLayout(tickColumns);
         m_grid->addLayout(m_answers, m_line++, 0, 1, 2);
     }
-    for (const clsScreenRow &row : m_table.rows) {
+    for (const clsScreenRow &row : m_rows) {
         switch (row.kind) {
         case clsRowKind::ColumnBreak:
             endPart();
@@ -46,7 +50,6 @@ void clsFrameRows::layOut()
         }
     }
     endPart();
-    m_frame.setLabelColumn(m_frame.m_labelColumn);
 }
 
 void clsFrameRows::beginPart()
@@ -55,7 +58,8 @@ void clsFrameRows::beginPart()
     m_grid->setSpacing(0);
     m_grid->setHorizontalSpacing(Theme::Space12);
     m_grid->setColumnStretch(1, 1);
-    m_frame.m_parts->addLayout(m_grid, 1);
+    m_parts.addLayout(m_grid, 1);
+    m_frame.m_grids.push_back(m_grid);
     m_line = 0;
     m_spaceBefore = 0;
     m_cell = nullptr;
@@ -72,6 +76,12 @@ void clsFrameRows::endPart()
         grows = grows || m_grid->rowStretch(line) > 0;
     if (!grows)
         m_grid->setRowStretch(m_line, 1);
+    int captions = 0;
+    for (const oFieldLabel *caption : m_secondColumn)
+        captions = qMax(captions, caption->sizeHint().width());
+    for (oFieldLabel *caption : m_secondColumn)
+        caption->setMinimumWidth(captions);
+    m_secondColumn.clear();
     m_frame.m_grows = m_frame.m_grows || grows;
 }
 
@@ -86,7 +96,15 @@ void clsFrameRows::addSeparator()
     addSpace(Theme::Space16);
     auto *hairline = new QWidget(&m_frame);
     hairline->setFixedHeight(1);
-    m_frame.m_hairlines.push_back(hairline);
+    if (m_page == 0) {
+        m_frame.m_hairlines.push_back(hairline);
+    } else {
+        // On a page, which is painted over the frame, it is as wide as the fields.
+        QPalette palette = hairline->palette();
+        palette.setColor(QPalette::Window, Theme::Hairline);
+        hairline->setPalette(palette);
+        hairline->setAutoFillBackground(true);
+    }
     m_grid->addWidget(hairline, m_line++, 0, 1, 2);
     m_spaceBefore = Theme::Space16;
     m_answers = nullptr;
@@ -106,8 +124,12 @@ void clsFrameRows::addQuestion(const clsScreenRow &row)
 void clsFrameRows::addControl(const clsScreenRow &row)
 {
     QWidget *control = mdMakeControl(row, &m_frame);
-    m_frame.m_fields.push_back({&row, control, nullptr});
-    if (isAnswer(row))
+    m_frame.m_fields.push_back({&row, control, nullptr, m_page});
+    if (row.kind == clsRowKind::Items)
+        addItems(row, control);
+    else if (row.beside)
+        addInSecondColumn(row, control);
+    else if (isAnswer(row))
         addAnswer(row, control);
     else if (row.flags & SameRow && m_cell)
         addToRowBefore(row, control);
@@ -134,8 +156,9 @@ void clsFrameRows::addAnswer(const clsScreenRow &row, QWidget *control)
 void clsFrameRows::addToRowBefore(const clsScreenRow &row, QWidget *control)
 {
     // Before the stretch at the end.
-    int place = m_cell->count() - 1;
-    m_cell->insertSpacing(place++, Theme::Space24);
+    int place = m_cellEndsRight ? m_cell->count() : m_cell->count() - 1;
+    if (!m_cellEndsRight)
+        m_cell->insertSpacing(place++, Theme::Space24);
     if (row.kind != clsRowKind::Button && !(row.flags & NoCaption)) {
         m_cell->insertWidget(place++, label(row, oFieldLabel::Place::Beside, control));
         m_cell->insertSpacing(place++, Theme::Space8);
@@ -173,11 +196,45 @@ void clsFrameRows::addBesideCaption(const clsScreenRow &row, QWidget *control)
     m_frame.m_labelColumn = qMax(m_frame.m_labelColumn, wanted);
     m_grid->addWidget(caption, m_line, 0);
     m_grid->addLayout(cell(control, false), m_line, 1);
-    if (tick)
+    if (tick) {
         m_grid->setRowMinimumHeight(m_line, Theme::scaled(Theme::Space24));
+        m_tickCells[control->objectName()] = m_cell;
+    }
     m_grid->setRowStretch(m_line++, growsWithWindow(row) ? 1 : 0);
     m_spaceBefore = 0;
     m_lastWasTick = tick;
+}
+
+/// A grid fills the frame, and what adds to it stands in a line of its own below.
+void clsFrameRows::addItems(const clsScreenRow &row, QWidget *grid)
+{
+    m_answers = nullptr;
+    addSpace(m_spaceBefore ? m_spaceBefore : int(Theme::Space8));
+    m_grid->addLayout(cell(grid, true), m_line, 0, 1, 2);
+    m_grid->setRowStretch(m_line++, 1);
+    m_frame.m_grows = true;
+    m_spaceBefore = 0;
+    m_lastWasTick = false;
+    if (!row.items->add)
+        return;
+    auto *add = mdMakeAddButton(row, &m_frame);
+    m_frame.m_fields.push_back({&row, add, nullptr, m_page});
+    addSpace(Theme::Space12);
+    m_grid->addLayout(cell(add, false), m_line++, 0, 1, 2);
+    m_cellEndsRight = true;
+}
+
+/// The captions of the second column end at one edge, and so the ticks behind them begin at one.
+void clsFrameRows::addInSecondColumn(const clsScreenRow &row, QWidget *tick)
+{
+    QHBoxLayout *line = m_tickCells.at(QString::fromUtf8(row.beside));
+    oFieldLabel *caption = label(row, oFieldLabel::Place::Beside, tick);
+    m_secondColumn.push_back(caption);
+    int place = line->count() - 1;
+    line->insertSpacing(place++, Theme::scaled(SecondColumnGap));
+    line->insertWidget(place++, caption);
+    line->insertSpacing(place++, Theme::Space8);
+    line->insertWidget(place, tick);
 }
 
 oFieldLabel *clsFrameRows::label(const clsScreenRow &row, oFieldLabel::Place place, QWidget *control)
@@ -195,6 +252,7 @@ oFieldLabel *clsFrameRows::label(const clsScreenRow &row, oFieldLabel::Place pla
 QHBoxLayout *clsFrameRows::cell(QWidget *control, bool wholeWidth)
 {
     m_cell = new QHBoxLayout;
+    m_cellEndsRight = false;
     m_cell->setSpacing(0);
     m_cell->addWidget(control, wholeWidth ? 1 : 0);
     m_cell->addStretch(wholeWidth ? 0 : 1);

@@ -86,8 +86,8 @@ struct clsItemList {
 /// A control that a table brings with it. Loading and storing may be missing where it has no part in the record.
 struct clsOtherControl {
     QWidget *(*make)(const clsScreenRow &row, QWidget *parent);
-    void (*load)(QWidget &control, clsXMLRecord &record) = nullptr;
-    void (*store)(const QWidget &control, clsXMLRecord &record) = nullptr;
+    void (*load)(const clsScreenRow &row, QWidget &control, clsXMLRecord &record) = nullptr;
+    void (*store)(const clsScreenRow &row, const QWidget &control, clsXMLRecord &record) = nullptr;
     bool tall = true; ///< fills the width below its caption, as a grid does; a short one is as wide as it asks for
 };
 

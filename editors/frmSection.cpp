@@ -3,7 +3,11 @@
 #include "controls/mdLeaveFocusedBox.h"
 #include "controls/mdTheme.h"
 #include "controls/oCheckBox.h"
+#include "controls/oContentSwitcher.h"
+#include "controls/oCustomButton.h"
 #include "controls/oHeaderBar.h"
+#include "controls/oSGrid.h"
+#include "editors/clsListActions.h"
 #include "editors/clsMnemonics.h"
 #include "editors/mdCheckForBlanks.h"
 #include "editors/mdConfirmCancelEdit.h"
@@ -89,6 +93,7 @@ frmSection::frmSection(const clsScreen &screen, QWidget *parent)
     all->addWidget(m_bar);
 
     makeTicksExclusive();
+    buildLists();
     if (screen.rules)
         screen.rules(*this);
 }
@@ -102,6 +107,33 @@ void frmSection::buildFrames()
         m_labels.insert(m_labels.end(), frame->labels().begin(), frame->labels().end());
     }
     m_page->complete();
+}
+
+void frmSection::buildLists()
+{
+    for (size_t i = 0; i < m_fields.size(); ++i) {
+        auto *grid = qobject_cast<oSGrid *>(m_fields[i].control);
+        if (!grid)
+            continue;
+        const clsItemList &list = *m_fields[i].row->items;
+        auto *add = list.add ? static_cast<oCustomButton *>(m_fields[i + 1].control) : nullptr;
+        m_lists.push_back({new clsListActions(*this, list, *grid, add), m_fields[i].page});
+        connect(m_lists.back().actions, &clsListActions::Changed, this, &frmSection::RedrawLists);
+    }
+}
+
+void frmSection::RedrawLists()
+{
+    for (const clsList &list : m_lists)
+        list.actions->redraw();
+    showCounts();
+}
+
+void frmSection::showCounts()
+{
+    for (const clsList &list : m_lists)
+        if (list.page > 0)
+            Switcher().setCount(list.page, list.actions->Rows());
 }
 
 void frmSection::buildFileMenu()
@@ -170,6 +202,9 @@ void frmSection::Initialise(clsXMLRecord *item)
     if (m_record)
         for (const clsScreenField &field : m_fields)
             mdLoadControl(*field.row, *field.control, *m_record);
+    for (const clsList &list : m_lists)
+        list.actions->draw();
+    showCounts();
     emit Loaded();
     // The first field that can take it has the focus, unless the rules have put it elsewhere.
     for (const clsScreenField &field : m_fields) {
@@ -263,6 +298,14 @@ QWidget &frmSection::Box(const char *name) const
     throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
 }
 
+oContentSwitcher &frmSection::Switcher() const
+{
+    auto *switcher = findChild<oContentSwitcher *>();
+    if (!switcher)
+        throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
+    return *switcher;
+}
+
 void frmSection::reject()
 {
     if (m_screen.ending == clsScreenEnding::Close)
@@ -280,7 +323,7 @@ void frmSection::closeEvent(QCloseEvent *event)
 QSize frmSection::sizeHint() const
 {
     const int width = qMax(widthOf(m_screen.width), minimumSizeHint().width());
-    if (m_screen.width == clsScreenWidth::List)
+    if (m_screen.width == clsScreenWidth::List || !m_lists.empty())
         return {width, Theme::scaled(ListHeight)};
     const int menus = m_menus->isHidden() ? 0 : m_menus->sizeHint().height();
     const int around = menus + m_header->sizeHint().height() + m_bar->sizeHint().height();

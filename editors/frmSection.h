@@ -9,6 +9,8 @@
 #include <utility>
 #include <vector>
 
+class clsListActions;
+class oContentSwitcher;
 class oHeaderBar;
 class oScreenBar;
 class oScreenPage;
@@ -54,8 +56,12 @@ public:
     QWidget &Box(const char *name) const;
     /// The same as what it is: `Box<oDecimalBox>("txtVATRate")`.
     template <class Control> Control &Box(const char *name) const { return static_cast<Control &>(Box(name)); }
-    /// All fields, in the order of the table.
+    /// All fields, in the order of the table; behind a list stands its button "Add".
     const std::vector<clsScreenField> &Fields() const { return m_fields; }
+    /// The switcher of a screen with pages; the object error where there is none.
+    oContentSwitcher &Switcher() const;
+    /// Shows all lists as they now are, and what can be added to them.
+    void RedrawLists();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -76,6 +82,8 @@ protected:
 
 private:
     void buildFrames();
+    void buildLists();
+    void showCounts();
     void buildFileMenu();
     void buildJumpMenu();
     void connectBar();
@@ -91,5 +99,10 @@ private:
     oScreenBar *m_bar;
     std::vector<clsScreenField> m_fields;
     std::vector<oFieldLabel *> m_labels;
+    struct clsList {
+        clsListActions *actions;
+        int page;
+    };
+    std::vector<clsList> m_lists;
     std::function<bool()> m_mayStore;
 };

@@ -1,12 +1,14 @@
 #include "editors/mdScreenControls.h"
 
 #include "controls/mdCaption.h"
+#include "controls/mdTheme.h"
 #include "controls/oAllPurposeBox.h"
 #include "controls/oCheckBox.h"
 #include "controls/oCustomButton.h"
 #include "controls/oDateBox.h"
 #include "controls/oDecimalBox.h"
 #include "controls/oIntegerBox.h"
+#include "controls/oSGrid.h"
 #include "controls/oTimeBox.h"
 #include "editors/oScreenList.h"
 #include "formdata/clsXMLRecord.h"
@@ -17,6 +19,8 @@ namespace {
 
 /// The prefix of a control's name, as in "txtSurname".
 constexpr int PrefixLength = 3;
+/// The heading and a few rows.
+constexpr int LowestGrid = 136;
 
 QWidget *makeTextBox(const clsScreenRow &row, QWidget *parent)
 {
@@ -51,6 +55,22 @@ QWidget *makeButton(const clsScreenRow &row, QWidget *parent)
     return button;
 }
 
+QWidget *makeGrid(const clsScreenRow &row, QWidget *parent)
+{
+    auto *grid = new oSGrid(parent);
+    grid->setMinimumHeight(Theme::scaled(LowestGrid));
+    grid->setOrderable(row.items->orderable);
+    grid->setEmptyText(QString::fromUtf8(row.items->empty));
+    for (const clsItemColumn &column : row.items->columns)
+        grid->AddColumn({.caption = QString::fromUtf8(column.caption),
+            .headingAlignment = column.alignment,
+            .alignment = column.alignment,
+            .width = column.width,
+            .property = QString::fromUtf8(column.property),
+            .visible = column.width > 0});
+    return grid;
+}
+
 QWidget *make(const clsScreenRow &row, QWidget *parent)
 {
     switch (row.kind) {
@@ -62,6 +82,7 @@ QWidget *make(const clsScreenRow &row, QWidget *parent)
     case clsRowKind::Tick: return new oCheckBox(parent);
     case clsRowKind::List: return makeList(row, parent);
     case clsRowKind::Button: return makeButton(row, parent);
+    case clsRowKind::Items: return makeGrid(row, parent);
     case clsRowKind::Other: return row.other->make(row, parent);
     default: throw clsRunTimeError(clsRunTimeError::InvalidProcedureCall);
     }
@@ -104,7 +125,8 @@ void storeList(const QComboBox &list, clsXMLField &field)
 
 bool hasMember(const clsScreenRow &row)
 {
-    return mdIsControl(row) && row.kind != clsRowKind::Button && !(row.flags & Unbound);
+    return mdIsControl(row) && row.kind != clsRowKind::Button && row.kind != clsRowKind::Items
+        && !(row.flags & Unbound);
 }
 
 } // namespace
@@ -129,13 +151,22 @@ QWidget *mdMakeControl(const clsScreenRow &row, QWidget *parent)
     return control;
 }
 
+oCustomButton *mdMakeAddButton(const clsScreenRow &row, QWidget *parent)
+{
+    auto *button = new oCustomButton(parent);
+    button->setObjectName(QString::fromUtf8(row.items->add));
+    button->setCaption(QStringLiteral("Add"));
+    button->setGlyph(Glyph::Plus);
+    return button;
+}
+
 void mdLoadControl(const clsScreenRow &row, QWidget &control, clsXMLRecord &record)
 {
     if (!hasMember(row))
         return;
     if (row.other) {
         if (row.other->load)
-            row.other->load(control, record);
+            row.other->load(row, control, record);
         return;
     }
     const clsXMLField &field = fieldOf(row, record);
@@ -155,7 +186,7 @@ void mdStoreControl(const clsScreenRow &row, const QWidget &control, clsXMLRecor
         return;
     if (row.other) {
         if (row.other->store)
-            row.other->store(control, record);
+            row.other->store(row, control, record);
         return;
     }
     clsXMLField &field = fieldOf(row, record);

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+class oCustomButton;
 class QWidget;
 
 // The kinds of field, each made, read and written in one place: what a table calls a date is a date box here.
@@ -16,6 +17,9 @@ bool mdIsControl(const clsScreenRow &row);
 
 /// Makes the control of a row, with its name, what is read out for it, and what its flags say.
 QWidget *mdMakeControl(const clsScreenRow &row, QWidget *parent);
+
+/// Makes the button "Add" of a row with a list.
+oCustomButton *mdMakeAddButton(const clsScreenRow &row, QWidget *parent);
 
 /// Copies the row's property from the record into the control.
 void mdLoadControl(const clsScreenRow &row, QWidget &control, clsXMLRecord &record);

@@ -14,20 +14,26 @@ namespace {
 /// its letter leads to nothing, and not to something else.
 constexpr QLatin1String FixedLetters("FJSACN");
 
-/// The first "Add" of a screen has its letter on every screen; a second one takes what there is.
+/// The first "Add" of a screen, and that of each page, of which only one is open, has its letter on every screen; a
+/// second one takes what there is.
 void giveButtons(const std::vector<clsScreenField> &fields, clsMnemonics &letters, bool adds)
 {
     for (const clsScreenField &field : fields) {
         auto *button = qobject_cast<oCustomButton *>(field.control);
         if (!button || (button->Caption() == QLatin1String("Add")) != adds)
             continue;
-        button->setCaption(letters.marked(button->Caption()));
+        if (adds && field.page > 0)
+            button->setCaption(letters.marked(button->Caption(), u'A'));
+        else
+            button->setCaption(letters.marked(button->Caption()));
     }
 }
 
 /// Whether the first field of a frame has a caption to lead to it: its own or its question's, or it is a button.
 bool hasCaption(const oScreenFrame &frame)
 {
+    if (frame.switcher())
+        return false;
     const QWidget *first = frame.fields().empty() ? nullptr : frame.fields().front().control;
     if (!first || qobject_cast<const oCustomButton *>(first))
         return true;
@@ -50,7 +56,7 @@ void mdGiveLetters(oScreenBar &bar, const std::vector<clsScreenField> &fields, c
     giveButtons(fields, letters, false);
     for (oScreenFrame *frame : frames)
         if (!hasCaption(*frame))
-            frame->setLetter(letters.marked(frame->Caption()));
+            frame->giveLetter(letters);
     for (oFieldLabel *label : labels)
         if (label->place() != oFieldLabel::Place::Answer)
             label->setText(letters.marked(label->Caption()));

@@ -14,9 +14,9 @@ struct clsSection {
 // clang-format off
 constexpr clsSection Sections[] = {
     {"Form Setup",                 "frmFormSetup",               ScreenFormSetup},
-    {"Fee Earners / Rates",        "frmFeeEarnerGroups",         nullptr},
-    {"Counsel",                    "frmCounsel",                 nullptr},
-    {"Enhancements",               "frmEnhancements",            nullptr},
+    {"Fee Earners / Rates",        "frmFeeEarnerGroups",         ScreenFeeEarnerGroups},
+    {"Counsel",                    "frmCounsel",                 ScreenCounsel},
+    {"Enhancements",               "frmEnhancements",            ScreenEnhancements},
     {"Schedule of Time",           "frmScheduleOfTime",          nullptr},
     {"Disbursements",              "frmDisbursements",           nullptr},
     {"Family Advocacy Scheme",     "frmFamilyAdvocacyScheme",    nullptr},

@@ -2,7 +2,9 @@
 
 #include "controls/mdLeaveFocusedBox.h"
 #include "controls/mdTheme.h"
+#include "controls/oContentSwitcher.h"
 #include "editors/clsFrameRows.h"
+#include "editors/clsMnemonics.h"
 
 #include <QGridLayout>
 #include <QPainter>
@@ -19,26 +21,62 @@ oScreenFrame::oScreenFrame(const clsScreenFrame &frame, QWidget *parent)
     setCaption(QString::fromUtf8(frame.caption));
     m_parts->setSpacing(Theme::Space32);
     bodyLayout()->addLayout(m_parts, 1);
-    clsFrameRows(*this, frame).layOut();
+    if (frame.switcher)
+        addPages(frame);
+    else
+        clsFrameRows(*this, *m_parts, frame.rows).layOut(frame.tickColumns);
+    setLabelColumn(m_labelColumn);
 }
 
-void oScreenFrame::setLetter(const QString &markedCaption)
+void oScreenFrame::addPages(const clsScreenFrame &frame)
 {
-    const QKeySequence key = QKeySequence::mnemonic(markedCaption);
+    setBare(Caption().isEmpty());
+    m_switcher = new oContentSwitcher(this);
+    m_switcher->setObjectName(QString::fromUtf8(frame.switcher));
+    int number = 0;
+    for (const clsScreenPage &page : frame.pages) {
+        auto *container = new QWidget(this);
+        auto *parts = new QVBoxLayout(container);
+        clsFrameRows(*this, *parts, page.rows, ++number).layOut();
+        m_switcher->AddContent(container, QString::fromUtf8(page.caption));
+    }
+    m_parts->addWidget(m_switcher, 1);
+    m_grows = true;
+}
+
+void oScreenFrame::giveLetter(clsMnemonics &letters)
+{
+    if (!m_switcher)
+        return giveLetter(*this, letters, 0);
+    for (int page = 1; page <= m_switcher->Pages(); ++page)
+        giveLetter(*m_switcher->Page(page), letters, page);
+}
+
+void oScreenFrame::giveLetter(oFrame &caption, clsMnemonics &letters, int page)
+{
+    const QString marked = letters.marked(caption.Caption());
+    const QKeySequence key = QKeySequence::mnemonic(marked);
     if (key.isEmpty())
         return;
-    setMarkedCaption(markedCaption);
+    caption.setMarkedCaption(marked);
     auto *letter = new QShortcut(key, this);
-    connect(letter, &QShortcut::activated, this, [this] {
-        if (!mdLeaveFocusedBox(window()))
-            return;
-        const auto first = std::find_if(m_fields.begin(), m_fields.end(),
-            [this](const clsScreenField &field) { return field.control->isEnabledTo(window()); });
-        if (first == m_fields.end())
-            return;
-        first->control->setFocus(Qt::ShortcutFocusReason);
-        window()->setAttribute(Qt::WA_KeyboardFocusChange);
+    connect(letter, &QShortcut::activated, this, [this, page] {
+        if (mdLeaveFocusedBox(window()))
+            enter(page);
     });
+}
+
+void oScreenFrame::enter(int page)
+{
+    if (m_switcher)
+        m_switcher->SwitchTo(page);
+    const auto first = std::find_if(m_fields.begin(), m_fields.end(), [this, page](const clsScreenField &field) {
+        return field.page == page && field.control->isEnabledTo(window());
+    });
+    if (first == m_fields.end())
+        return;
+    first->control->setFocus(Qt::ShortcutFocusReason);
+    window()->setAttribute(Qt::WA_KeyboardFocusChange);
 }
 
 void oScreenFrame::setLabelColumn(int width)
@@ -46,8 +84,8 @@ void oScreenFrame::setLabelColumn(int width)
     if (m_labelColumn == 0)
         return;
     m_labelColumn = width;
-    for (int part = 0; part < m_parts->count(); ++part)
-        static_cast<QGridLayout *>(m_parts->itemAt(part)->layout())->setColumnMinimumWidth(0, width);
+    for (QGridLayout *grid : m_grids)
+        grid->setColumnMinimumWidth(0, width);
 }
 
 void oScreenFrame::setSideBySide(bool sideBySide)

@@ -5,14 +5,18 @@
 
 #include <vector>
 
-class QBoxLayout;
+class clsMnemonics;
+class oContentSwitcher;
 class oFieldLabel;
+class QBoxLayout;
+class QGridLayout;
 
 /// A field as it stands on a screen.
 struct clsScreenField {
     const clsScreenRow *row;
     QWidget *control;
     oFieldLabel *label; ///< nothing where the field has no caption of its own
+    int page = 0; ///< of the frame's switcher, from 1; 0 where the frame has none
 };
 
 /// A frame of a screen with its fields, laid out from its table: a column of labels with the boxes beside it, questions
@@ -30,8 +34,12 @@ public:
     /// Whether a box in it grows with the window.
     bool grows() const { return m_grows; }
 
-    /// Shows the caption with the mark of its letter, which leads to the first field that can take the focus.
-    void setLetter(const QString &markedCaption);
+    /// Gives the caption a letter, which leads to the first field that can take the focus; with pages, each of their
+    /// captions, which opens its page first.
+    void giveLetter(clsMnemonics &letters);
+
+    /// Of the frame's pages; nothing where it has none.
+    oContentSwitcher *switcher() const { return m_switcher; }
 
     /// The width of the column of labels; 0 for a frame without one, which then has no use for another's.
     int labelColumn() const { return m_labelColumn; }
@@ -48,10 +56,16 @@ protected:
 private:
     friend class clsFrameRows;
 
+    void addPages(const clsScreenFrame &frame);
+    void giveLetter(oFrame &caption, clsMnemonics &letters, int page);
+    void enter(int page);
+
     std::vector<clsScreenField> m_fields;
     std::vector<oFieldLabel *> m_labels;
     std::vector<QWidget *> m_hairlines;
+    std::vector<QGridLayout *> m_grids; ///< of all parts and pages
     QBoxLayout *m_parts;
+    oContentSwitcher *m_switcher = nullptr;
     bool m_grows = false;
     int m_labelColumn = 0;
 };

@@ -33,11 +33,11 @@ QWidget *makePair(const clsScreenRow &row, QWidget *parent)
     box->setFocusPolicy(Qt::StrongFocus);
     return box;
 }
-void loadPair(QWidget &control, clsXMLRecord &record)
+void loadPair(const clsScreenRow &, QWidget &control, clsXMLRecord &record)
 {
     static_cast<QLabel &>(control).setText(record.field(u"Reference")->readText());
 }
-void storePair(const QWidget &control, clsXMLRecord &record)
+void storePair(const clsScreenRow &, const QWidget &control, clsXMLRecord &record)
 {
     record.field(u"GroupUniqueID")->writeText(static_cast<const QLabel &>(control).text() + QStringLiteral("!"));
 }

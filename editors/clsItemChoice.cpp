@@ -1,0 +1,130 @@
+#include "editors/clsItemChoice.h"
+
+#include "controls/mdTheme.h"
+#include "controls/oCheckBox.h"
+#include "editors/clsScreenTable.h"
+#include "editors/mdComboboxSelectByItemData.h"
+#include "editors/oScreenList.h"
+#include "formdata/clsXMLRecord.h"
+#include "shell/clsRunTimeError.h"
+
+#include <QHBoxLayout>
+#include <QSignalBlocker>
+
+namespace {
+
+enum class clsMember { Flag, Identity };
+
+/// A table that names no two properties of its record is a mistake, which shows when the screen is opened.
+clsXMLField &fieldOf(const clsScreenRow &row, const clsChoiceSource &source, clsXMLRecord &record, clsMember member)
+{
+    const QString both = QString::fromUtf8(row.member ? row.member : source.members);
+    clsXMLField *field = record.field(both.section(u' ', int(member), int(member)));
+    if (!field)
+        throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
+    return *field;
+}
+
+} // namespace
+
+clsItemChoice::clsItemChoice(QFrame &box, const clsChoiceSource &source)
+    : QObject(&box)
+    , m_source(source)
+    , m_tick(new oCheckBox(&box))
+    , m_list(new oScreenList(&box))
+    , m_row(new QHBoxLayout(&box))
+{
+    m_tick->setObjectName(QString::fromUtf8(source.tick));
+    m_tick->setCaption(QString::fromUtf8(source.tickCaption));
+    m_list->setObjectName(QString::fromUtf8(source.list));
+    m_list->setAccessibleName(QString::fromUtf8(source.listCaption));
+    m_list->setEnabled(false);
+
+    // Room for the square of the focused tick, which layouts take for the outside of the box, so that its visible edge
+    // lines up with its neighbours'. The frame style makes it known.
+    m_row->setContentsMargins(Theme::RingRoom, Theme::RingRoom, Theme::RingRoom, Theme::RingRoom);
+    m_row->setSpacing(Theme::Space8);
+    m_row->addWidget(m_tick);
+    m_row->addSpacing(Theme::Space12 - Theme::Space8);
+    m_row->addWidget(m_list);
+    box.setProperty("ringRoom", true);
+    box.setFrameStyle(QFrame::NoFrame);
+
+    // Before the proxy, which would take the policy over. The box itself is no stop of the Tab key.
+    box.setFocusPolicy(Qt::ClickFocus);
+    box.setFocusProxy(m_tick);
+    box.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+
+    connect(m_tick, &oCheckBox::Click, this, &clsItemChoice::ticked);
+    connect(m_list, &QComboBox::currentIndexChanged, this, &clsItemChoice::Change);
+}
+
+bool clsItemChoice::Ticked() const
+{
+    return m_tick->Checked();
+}
+
+void clsItemChoice::setTicked(bool ticked)
+{
+    m_tick->setChecked(ticked);
+}
+
+void clsItemChoice::ticked(bool isTicked)
+{
+    m_list->setEnabled(isTicked);
+    // At either change: also what is unticked shows what a tick would bring back.
+    if (m_list->currentIndex() < 0 && m_list->count() > 0)
+        m_list->setCurrentIndex(0);
+    emit Click(isTicked);
+}
+
+QString clsItemChoice::UniqueID() const
+{
+    const int index = SelectedIndex();
+    return Ticked() && index ? m_source.uniqueIDOf(index) : QString();
+}
+
+void clsItemChoice::setUniqueID(const QString &uniqueID)
+{
+    if (uniqueID.isEmpty())
+        return;
+    if (const int index = m_source.indexOf(uniqueID))
+        mdComboboxSelectByItemData(*m_list, index);
+}
+
+int clsItemChoice::SelectedIndex() const
+{
+    return m_list->currentData().toInt();
+}
+
+void clsItemChoice::fill()
+{
+    const int selected = SelectedIndex();
+    const std::vector<clsChoiceItem> items = m_source.items();
+    {
+        const QSignalBlocker quiet(m_list);
+        m_list->clear();
+        for (const clsChoiceItem &item : items)
+            m_list->addItem(item.name, item.index);
+        // A list selects the first entry that it is given. Here nothing is chosen before it is remembered or asked for.
+        m_list->setCurrentIndex(-1);
+        mdComboboxSelectByItemData(*m_list, selected);
+    }
+    m_list->updateGeometry();
+    m_tick->setEnabled(!items.empty());
+    m_tick->setToolTip(items.empty() ? QString::fromUtf8(m_source.whyNoTick) : QString());
+    if (SelectedIndex() != selected)
+        emit Change();
+}
+
+void clsItemChoice::load(const clsScreenRow &row, clsXMLRecord &record)
+{
+    setTicked(fieldOf(row, m_source, record, clsMember::Flag).readBoolean());
+    setUniqueID(fieldOf(row, m_source, record, clsMember::Identity).readText());
+}
+
+void clsItemChoice::store(const clsScreenRow &row, clsXMLRecord &record) const
+{
+    fieldOf(row, m_source, record, clsMember::Flag).writeBoolean(Ticked());
+    fieldOf(row, m_source, record, clsMember::Identity).writeText(UniqueID());
+}

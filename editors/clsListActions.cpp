@@ -1,0 +1,145 @@
+#include "editors/clsListActions.h"
+
+#include "controls/mdIcons.h"
+#include "controls/mdLeaveFocusedBox.h"
+#include "controls/mdTheme.h"
+#include "controls/oCustomButton.h"
+#include "controls/oSGrid.h"
+#include "costing/mdUniqueIDInUseInForm.h"
+#include "editors/frmSection.h"
+#include "editors/mdConfirmDelete.h"
+#include "editors/mdEditItem.h"
+#include "formdata/clsXMLRecord.h"
+#include "formdata/clsZR3Form.h"
+#include "shell/mdCustomMessages.h"
+#include "shell/mdGlobals.h"
+
+#include <QMenu>
+
+clsListActions::clsListActions(frmSection &screen, const clsItemList &list, oSGrid &grid, oCustomButton *add)
+    : QObject(&grid)
+    , m_screen(screen)
+    , m_list(list)
+    , m_grid(grid)
+    , m_add(add)
+{
+    if (m_list.menu)
+        buildMenu();
+    if (m_list.remove)
+        connect(&m_grid, &oSGrid::DeletePressed, this, &clsListActions::deleteItem);
+    if (m_list.editor)
+        connect(&m_grid, &oSGrid::RowActivated, this, &clsListActions::editItem);
+    connect(&m_grid, &oSGrid::OrderChange, this, &clsListActions::tellChanged);
+    if (!m_add)
+        return;
+    connect(m_add, &oCustomButton::Click, this, &clsListActions::addItem);
+    connect(&m_grid, &oSGrid::KeyDown, this, &clsListActions::takeInsert);
+}
+
+void clsListActions::buildMenu()
+{
+    auto *menu = new QMenu(&m_screen);
+    menu->setObjectName(QString::fromUtf8(m_list.menu));
+    for (const clsItemAction &action : m_list.actions) {
+        QAction *entry = menu->addAction(QString::fromUtf8(action.caption));
+        entry->setObjectName(QString::fromUtf8(action.name));
+        connect(entry, &QAction::triggered, this, [this, &action] {
+            action.run(m_screen);
+            tellChanged();
+        });
+    }
+    if (!m_list.actions.empty())
+        menu->addSeparator();
+    QAction *entry = menu->addAction(mdGlyphIcon(Glyph::Bin, Theme::Red), QStringLiteral("&Delete"));
+    entry->setObjectName(QString::fromUtf8(m_list.deleteEntry));
+    entry->setProperty("look", QStringLiteral("danger"));
+    connect(entry, &QAction::triggered, this, &clsListActions::deleteItem);
+    m_grid.setPopupMenuName(menu->objectName());
+}
+
+void clsListActions::draw()
+{
+    m_list.show(m_grid);
+    m_grid.Draw();
+    m_grid.SelectRow(1);
+    tellWhatCanBeAdded();
+}
+
+void clsListActions::redraw()
+{
+    m_grid.Redraw(true);
+    tellWhatCanBeAdded();
+}
+
+int clsListActions::Rows() const
+{
+    return m_grid.Rows();
+}
+
+void clsListActions::takeInsert(int key, Qt::KeyboardModifiers shift, bool *doDefault)
+{
+    if (key != Qt::Key_Insert || (shift & ~Qt::KeypadModifier) || !m_add->isEnabled())
+        return;
+    *doDefault = false;
+    addItem();
+}
+
+void clsListActions::addItem()
+{
+    if (!mdLeaveFocusedBox(&m_screen))
+        return;
+    const bool added = mdEditItem(&m_screen, m_list.editor(), nullptr);
+    // What the editor opened in its turn is kept even where the editor itself was cancelled.
+    tellChanged();
+    // A new item stands at the end of its list, and the next key goes on from there.
+    if (added)
+        m_grid.SelectRow(m_grid.Rows());
+    m_grid.setFocus(Qt::OtherFocusReason);
+}
+
+void clsListActions::editItem(int index)
+{
+    const std::shared_ptr<clsXMLRecord> item = m_list.item(index);
+    mdEditItem(&m_screen, m_list.editor(), item.get());
+    tellChanged();
+    m_grid.setFocus(Qt::OtherFocusReason);
+}
+
+void clsListActions::deleteItem()
+{
+    const int index = m_grid.SelectedItemData();
+    if (index == 0 || !mayDelete(index))
+        return;
+    m_list.remove(index);
+    tellChanged();
+}
+
+/// Whether nothing else of the claim points at the item, where that matters, and the user agrees.
+bool clsListActions::mayDelete(int index) const
+{
+    const QString word = QString::fromUtf8(m_list.editor().itemWord);
+    if (m_list.keepsUsed && UniqueIDInUseInForm(*Form, m_list.item(index)->field(u"UniqueID")->readText())) {
+        mdCustomMessages(QStringLiteral("This %1 is in use. Please remove all uses of it before deleting").arg(word),
+            QStringLiteral("Cannot Delete"));
+        return false;
+    }
+    return mdConfirmDelete(word);
+}
+
+/// The lists first, then what the claim derives from them.
+void clsListActions::tellChanged()
+{
+    emit Changed();
+    if (m_list.changed)
+        m_list.changed();
+}
+
+void clsListActions::tellWhatCanBeAdded()
+{
+    const QString why = m_list.whyNoAdd ? m_list.whyNoAdd() : QString();
+    m_grid.setEmptyText(why.isEmpty() ? QString::fromUtf8(m_list.empty) : why);
+    if (!m_add)
+        return;
+    m_add->setEnabled(why.isEmpty());
+    m_add->setToolTip(why);
+}

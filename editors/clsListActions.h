@@ -1,0 +1,43 @@
+#pragma once
+
+#include "editors/clsScreenTable.h"
+
+#include <QObject>
+
+class oCustomButton;
+class QMenu;
+
+/// What a list on a screen does with its items, as its table says: it shows them, and adds, edits and deletes them by
+/// mouse and keys. It belongs to its grid.
+class clsListActions : public QObject {
+    Q_OBJECT
+
+public:
+    /// `add` is the list's button, or nothing.
+    clsListActions(frmSection &screen, const clsItemList &list, oSGrid &grid, oCustomButton *add);
+
+    /// Lays out the columns and shows the items, the first selected.
+    void draw();
+    /// Shows the items as they now are, the same row selected.
+    void redraw();
+    int Rows() const;
+
+signals:
+    /// An item was added, edited, deleted or moved by the user: all lists of the screen are to be shown anew.
+    void Changed();
+
+private:
+    void buildMenu();
+    void takeInsert(int key, Qt::KeyboardModifiers shift, bool *doDefault);
+    void addItem();
+    void editItem(int index);
+    void deleteItem();
+    bool mayDelete(int index) const;
+    void tellChanged();
+    void tellWhatCanBeAdded();
+
+    frmSection &m_screen;
+    const clsItemList &m_list;
+    oSGrid &m_grid;
+    oCustomButton *m_add;
+};

@@ -1,0 +1,15 @@
+#include "editors/mdEditItem.h"
+
+#include "controls/mdShowModal.h"
+#include "editors/frmSection.h"
+
+bool mdEditItem(
+    QWidget *owner, const clsScreen &editor, clsXMLRecord *item, const std::function<void(frmSection &screen)> &prepare)
+{
+    frmSection screen(editor, owner ? owner->window() : nullptr);
+    screen.Initialise(item);
+    if (prepare)
+        prepare(screen);
+    mdShowModal(screen);
+    return screen.result() == QDialog::Accepted;
+}

@@ -1,0 +1,115 @@
+#include "editors/oCounselBox.h"
+
+#include "controls/oCheckBox.h"
+#include "controls/oCustomButton.h"
+#include "editors/clsItemChoice.h"
+#include "editors/clsScreenTable.h"
+#include "editors/mdEditItem.h"
+#include "editors/mdScreens.h"
+#include "formdata/clsZR3Form.h"
+#include "shell/mdGlobals.h"
+
+#include <QHBoxLayout>
+
+namespace {
+
+// clang-format off
+constexpr clsChoiceSource CounselSource {
+    .tick = "chkCounsel",
+    .tickCaption = "Counsel",
+    .list = "cmbCounsel",
+    .listCaption = "Name of counsel",
+    .members = "Counsel CounselUniqueID",
+    .whyNoTick = "Add a counsel first",
+    .items = [] { return mdChoiceItems(Form->CounselCollection()); },
+    .uniqueIDOf = [](int index) { return Form->Counsel(index)->UniqueID(); },
+    .indexOf = [](const QString &uniqueID) {
+        const auto counsel = Form->CounselByUniqueID(uniqueID);
+        return counsel ? counsel->Index : 0;
+    },
+};
+// clang-format on
+
+} // namespace
+
+const clsOtherControl CounselOfItem {
+    .make = [](const clsScreenRow &, QWidget *parent) -> QWidget * { return new oCounselBox(parent); },
+    .load = [](const clsScreenRow &row, QWidget &control,
+                clsXMLRecord &record) { static_cast<oCounselBox &>(control).choice().load(row, record); },
+    .store = [](const clsScreenRow &row, const QWidget &control,
+                 clsXMLRecord &record) { static_cast<const oCounselBox &>(control).choice().store(row, record); },
+    .tall = false,
+};
+
+oCounselBox::oCounselBox(QWidget *parent)
+    : QFrame(parent)
+    , m_choice(new clsItemChoice(*this, CounselSource))
+    , cmdAddCounsel(addButton("cmdAddCounsel", "Add", "Add counsel"))
+    , cmdEditCounsel(addButton("cmdEditCounsel", "Edit", "Edit counsel"))
+{
+    connect(m_choice, &clsItemChoice::Click, this, &oCounselBox::enableEdit);
+    connect(m_choice, &clsItemChoice::Change, this, [this] {
+        enableEdit();
+        emit Change(selected());
+    });
+    connect(cmdAddCounsel, &oCustomButton::Click, this, [this] { edit(nullptr); });
+    connect(cmdEditCounsel, &oCustomButton::Click, this, [this] { edit(selected()); });
+    fill();
+}
+
+/// A button of the box. It has no letter: the letters of a screen are given to its rows.
+oCustomButton *oCounselBox::addButton(const char *name, const char *caption, const char *spokenCaption)
+{
+    auto *button = new oCustomButton(this);
+    button->setObjectName(QString::fromUtf8(name));
+    button->setCaption(QString::fromUtf8(caption));
+    button->setAccessibleName(QString::fromUtf8(spokenCaption));
+    m_choice->row().addWidget(button);
+    return button;
+}
+
+bool oCounselBox::Counsel() const
+{
+    return m_choice->Ticked();
+}
+
+void oCounselBox::setCounsel(bool counsel)
+{
+    m_choice->setTicked(counsel);
+}
+
+QString oCounselBox::CounselUniqueID() const
+{
+    return m_choice->UniqueID();
+}
+
+void oCounselBox::setCounselUniqueID(const QString &uniqueID)
+{
+    m_choice->setUniqueID(uniqueID);
+}
+
+void oCounselBox::fill()
+{
+    m_choice->fill();
+    enableEdit();
+    // The caption's letter leads to what can be done: with no counsel to tick for, that is to add one.
+    setFocusProxy(m_choice->tick().isEnabled() ? static_cast<QWidget *>(&m_choice->tick()) : cmdAddCounsel);
+}
+
+std::shared_ptr<clsZR3Counsel> oCounselBox::selected() const
+{
+    const int index = m_choice->SelectedIndex();
+    return index ? Form->Counsel(index) : nullptr;
+}
+
+void oCounselBox::enableEdit()
+{
+    cmdEditCounsel->setEnabled(m_choice->Ticked() && m_choice->SelectedIndex());
+}
+
+/// Opens the editor of a counsel, or of a new one. A name that was changed in it shows at once.
+void oCounselBox::edit(const std::shared_ptr<clsZR3Counsel> &counsel)
+{
+    mdEditItem(window(), ScreenCounselEdit(), counsel.get());
+    fill();
+}

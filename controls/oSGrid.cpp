@@ -242,6 +242,15 @@ void oSGrid::SelectRow(int row)
     m_view->selectOnly(row - 1);
 }
 
+void oSGrid::SelectItem(int itemData)
+{
+    for (int row = 0; row < Rows(); ++row)
+        if (m_model->itemData(row) == itemData) {
+            SelectRow(row + 1);
+            return;
+        }
+}
+
 int oSGrid::RowAt(const QPoint &position) const
 {
     return m_view->indexAt(position).row() + 1;

@@ -62,6 +62,8 @@ public:
     clsGridItems SelectedItemCollection() const;
     /// Selects a row, or none at a number that no row has.
     void SelectRow(int row);
+    /// Selects the row of the item of that `Index`, wherever it stands now; nothing else where there is none.
+    void SelectItem(int itemData);
     int Rows() const { return m_model->rowCount(); }
     /// The row and the column at a position as `MouseUp` tells it, 0 where there is none.
     int RowAt(const QPoint &position) const;

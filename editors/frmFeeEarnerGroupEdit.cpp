@@ -32,12 +32,12 @@ QWidget *makeName(const clsScreenRow &, QWidget *parent)
     return box;
 }
 
-void loadName(QWidget &control, clsXMLRecord &record)
+void loadName(const clsScreenRow &, QWidget &control, clsXMLRecord &record)
 {
     static_cast<oTypeAheadBox &>(control).setText(static_cast<clsZR3FeeEarnerGroup &>(record).Name());
 }
 
-void storeName(const QWidget &control, clsXMLRecord &record)
+void storeName(const clsScreenRow &, const QWidget &control, clsXMLRecord &record)
 {
     static_cast<clsZR3FeeEarnerGroup &>(record).Name = static_cast<const oTypeAheadBox &>(control).Text();
 }
@@ -84,9 +84,8 @@ void makeRateSetMenu(frmSection &screen)
     QObject::connect(menu, &QMenu::triggered, &screen,
         [&screen](const QAction *entry) { loadRateSet(screen, *Preferences->RateSet(entry->data().toInt())); });
     const auto &load = screen.Box<oCustomButton>("cmdLoad");
-    QObject::connect(&load, &oCustomButton::Click, menu, [menu, &load] {
-        menu->popup(load.mapToGlobal(QPoint(Theme::RingRoom, load.height())));
-    });
+    QObject::connect(&load, &oCustomButton::Click, menu,
+        [menu, &load] { menu->popup(load.mapToGlobal(QPoint(Theme::RingRoom, load.height()))); });
 }
 
 void rules(frmSection &screen)

@@ -14,7 +14,7 @@ struct clsSection {
 // clang-format off
 constexpr clsSection Sections[] = {
     {"Form Setup",                 "frmFormSetup",               ScreenFormSetup},
-    {"Fee Earners / Rates",        "frmFeeEarnerGroups",         nullptr},
+    {"Fee Earners / Rates",        "frmFeeEarnerGroups",         ScreenFeeEarnerGroups},
     {"Counsel",                    "frmCounsel",                 ScreenCounsel},
     {"Enhancements",               "frmEnhancements",            ScreenEnhancements},
     {"Schedule of Time",           "frmScheduleOfTime",          ScreenScheduleOfTime},

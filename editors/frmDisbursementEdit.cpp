@@ -1,7 +1,6 @@
 #include "editors/mdScreens.h"
 
 #include "editors/mdCalculateVAT.h"
-#include "editors/mdStartDecimalsAtZero.h"
 #include "editors/oCounselBox.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/mdGlobals.h"
@@ -10,7 +9,6 @@ namespace {
 
 void rules(frmSection &screen)
 {
-    mdStartDecimalsAtZero(screen);
     mdCalculateVATByButton(screen, "txtAmount", "txtVAT");
 }
 

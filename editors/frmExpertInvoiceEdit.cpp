@@ -1,7 +1,6 @@
 #include "editors/mdScreens.h"
 
 #include "editors/mdCalculateVAT.h"
-#include "editors/mdStartDecimalsAtZero.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/mdGlobals.h"
 
@@ -9,7 +8,6 @@ namespace {
 
 void rules(frmSection &screen)
 {
-    mdStartDecimalsAtZero(screen);
     mdCalculateVATByButton(screen, "txtNetAmount", "txtVATAmount");
 }
 

@@ -57,14 +57,6 @@ void enhanceChanged(const frmSection &screen, bool enhance)
     communications.setChecked(false);
 }
 
-/// A decimal box that nobody has been in is empty, and a rate is not: what prices the bill takes no empty text for one.
-void fillEmptyRates(const frmSection &screen)
-{
-    for (const clsScreenField &field : screen.Fields())
-        if (auto *box = qobject_cast<oDecimalBox *>(field.control); box && box->Text().isEmpty())
-            box->setText(QStringLiteral("0.00"));
-}
-
 /// Copies the rates of a rate set into the boxes that are named after them, and nothing into the group.
 void loadRateSet(const frmSection &screen, const clsZR3RateSet &rateSet)
 {
@@ -95,14 +87,6 @@ void rules(frmSection &screen)
     makeRateSetMenu(screen);
     QObject::connect(&screen.Box<oCustomButton>("cmdEditRateSets"), &oCustomButton::Click, &screen,
         [&screen] { mdShowPreferences(&screen, RateSetsPage); });
-    QObject::connect(&screen, &frmSection::Loaded, &screen, [&screen] {
-        if (!screen.Record())
-            fillEmptyRates(screen);
-    });
-    screen.setMayStore([&screen] {
-        fillEmptyRates(screen);
-        return true;
-    });
 }
 
 } // namespace

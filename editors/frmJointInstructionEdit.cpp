@@ -1,6 +1,5 @@
 #include "editors/mdScreens.h"
 
-#include "editors/mdStartDecimalsAtZero.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/mdGlobals.h"
 
@@ -26,7 +25,6 @@ const clsScreen &ScreenJointInstructionEdit()
                 {Decimal, "txtPercentApportioned",   "Percent Apportioned:"},
             }},
         },
-        .rules = mdStartDecimalsAtZero,
         .itemWord = "Joint Instruction",
         .add = []() -> clsXMLRecord * { return Form->AddJointInstruction().get(); },
         .fileMenu = false,

@@ -91,20 +91,10 @@ void clsListActions::addItem()
     const bool added = mdEditItem(&m_screen, m_list.editor(), nullptr);
     // What the editor opened in its turn is kept even where the editor itself was cancelled.
     tellChanged();
+    // The next key goes on from the new item. It is the last of the claim's list, wherever the grid sorts it.
     if (added)
-        selectNewItem();
+        m_grid.SelectItem(m_grid.Rows());
     m_grid.setFocus(Qt::OtherFocusReason);
-}
-
-/// A new item is the last of its collection, and the next key goes on from there. A sorted grid may show it anywhere.
-void clsListActions::selectNewItem()
-{
-    for (int row = m_grid.Rows(); row >= 1; --row) {
-        m_grid.SelectRow(row);
-        if (m_grid.SelectedItemData() == m_grid.Rows())
-            return;
-    }
-    m_grid.SelectRow(m_grid.Rows());
 }
 
 void clsListActions::editItem(int index)
@@ -112,6 +102,7 @@ void clsListActions::editItem(int index)
     const std::shared_ptr<clsXMLRecord> item = m_list.item(index);
     mdEditItem(&m_screen, m_list.editor(), item.get());
     tellChanged();
+    m_grid.SelectItem(index);
     m_grid.setFocus(Qt::OtherFocusReason);
 }
 

@@ -32,7 +32,6 @@ private:
     void addItem();
     void editItem(int index);
     void deleteItem();
-    void selectNewItem();
     bool mayDelete(int index) const;
     void tellChanged();
     void tellWhatCanBeAdded();

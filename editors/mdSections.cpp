@@ -14,12 +14,12 @@ struct clsSection {
 // clang-format off
 constexpr clsSection Sections[] = {
     {"Form Setup",                 "frmFormSetup",               ScreenFormSetup},
-    {"Fee Earners / Rates",        "frmFeeEarnerGroups",         nullptr},
+    {"Fee Earners / Rates",        "frmFeeEarnerGroups",         ScreenFeeEarnerGroups},
     {"Counsel",                    "frmCounsel",                 ScreenCounsel},
     {"Enhancements",               "frmEnhancements",            ScreenEnhancements},
-    {"Schedule of Time",           "frmScheduleOfTime",          nullptr},
-    {"Disbursements",              "frmDisbursements",           nullptr},
-    {"Family Advocacy Scheme",     "frmFamilyAdvocacyScheme",    nullptr},
+    {"Schedule of Time",           "frmScheduleOfTime",          ScreenScheduleOfTime},
+    {"Disbursements",              "frmDisbursements",           ScreenDisbursements},
+    {"Family Advocacy Scheme",     "frmFamilyAdvocacyScheme",    ScreenFamilyAdvocacyScheme},
     {"Communications",             "frmCommunications",          nullptr},
     {"Client Details",             "frmClientDetails",           ScreenClientDetails},
     {"Solicitor Details",          "frmSolicitorDetails",        ScreenSolicitorDetails},

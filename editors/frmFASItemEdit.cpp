@@ -1,30 +1,7 @@
 #include "editors/mdScreens.h"
 
-#include "controls/oDecimalBox.h"
-#include "controls/oIntegerBox.h"
-#include "editors/frmSection.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/mdGlobals.h"
-
-namespace {
-
-/// No amount is ever empty, also none that the user hasn't been to: without one the item could not be priced.
-void fillEmptyFigures(const frmSection &screen)
-{
-    for (const clsScreenField &field : screen.Fields()) {
-        if (auto *amount = qobject_cast<oDecimalBox *>(field.control); amount && amount->Text().isEmpty())
-            amount->setText(QStringLiteral("0.00"));
-        if (auto *number = qobject_cast<oIntegerBox *>(field.control); number && number->Text().isEmpty())
-            number->setText(QStringLiteral("0"));
-    }
-}
-
-void rules(frmSection &screen)
-{
-    QObject::connect(&screen, &frmSection::Loaded, &screen, [&screen] { fillEmptyFigures(screen); });
-}
-
-} // namespace
 
 /// A hearing that is paid by units, with its bolt-ons and fixed payments. Its VAT is typed and not worked out.
 const clsScreen &ScreenFASItemEdit()
@@ -56,7 +33,6 @@ const clsScreen &ScreenFASItemEdit()
                 {Decimal, "txtVATForFAS",                 "VAT for FAS:"},
             }},
         },
-        .rules = rules,
         .itemWord = "Family Advocacy Scheme Item",
         .add = []() -> clsXMLRecord * { return Form->AddFASItem().get(); },
         .fileMenu = false,

@@ -11,13 +11,13 @@ QWidget *makeGroup(const clsScreenRow &, QWidget *parent)
     return new oFeeEarnerGroupCombo(parent);
 }
 
-void loadGroup(QWidget &control, clsXMLRecord &record)
+void loadGroup(const clsScreenRow &, QWidget &control, clsXMLRecord &record)
 {
     static_cast<oFeeEarnerGroupCombo &>(control).setSelectedFeeEarnerGroupUniqueID(
         static_cast<clsZR3FeeEarner &>(record).GroupUniqueID());
 }
 
-void storeGroup(const QWidget &control, clsXMLRecord &record)
+void storeGroup(const clsScreenRow &, const QWidget &control, clsXMLRecord &record)
 {
     static_cast<clsZR3FeeEarner &>(record).GroupUniqueID
         = static_cast<const oFeeEarnerGroupCombo &>(control).SelectedFeeEarnerGroupUniqueID();

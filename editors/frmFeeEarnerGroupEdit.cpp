@@ -32,12 +32,12 @@ QWidget *makeName(const clsScreenRow &, QWidget *parent)
     return box;
 }
 
-void loadName(QWidget &control, clsXMLRecord &record)
+void loadName(const clsScreenRow &, QWidget &control, clsXMLRecord &record)
 {
     static_cast<oTypeAheadBox &>(control).setText(static_cast<clsZR3FeeEarnerGroup &>(record).Name());
 }
 
-void storeName(const QWidget &control, clsXMLRecord &record)
+void storeName(const clsScreenRow &, const QWidget &control, clsXMLRecord &record)
 {
     static_cast<clsZR3FeeEarnerGroup &>(record).Name = static_cast<const oTypeAheadBox &>(control).Text();
 }
@@ -55,14 +55,6 @@ void enhanceChanged(const frmSection &screen, bool enhance)
         return;
     rate.setText(QStringLiteral("0"));
     communications.setChecked(false);
-}
-
-/// A decimal box that nobody has been in is empty, and a rate is not: what prices the bill takes no empty text for one.
-void fillEmptyRates(const frmSection &screen)
-{
-    for (const clsScreenField &field : screen.Fields())
-        if (auto *box = qobject_cast<oDecimalBox *>(field.control); box && box->Text().isEmpty())
-            box->setText(QStringLiteral("0.00"));
 }
 
 /// Copies the rates of a rate set into the boxes that are named after them, and nothing into the group.
@@ -84,9 +76,8 @@ void makeRateSetMenu(frmSection &screen)
     QObject::connect(menu, &QMenu::triggered, &screen,
         [&screen](const QAction *entry) { loadRateSet(screen, *Preferences->RateSet(entry->data().toInt())); });
     const auto &load = screen.Box<oCustomButton>("cmdLoad");
-    QObject::connect(&load, &oCustomButton::Click, menu, [menu, &load] {
-        menu->popup(load.mapToGlobal(QPoint(Theme::RingRoom, load.height())));
-    });
+    QObject::connect(&load, &oCustomButton::Click, menu,
+        [menu, &load] { menu->popup(load.mapToGlobal(QPoint(Theme::RingRoom, load.height()))); });
 }
 
 void rules(frmSection &screen)
@@ -96,14 +87,6 @@ void rules(frmSection &screen)
     makeRateSetMenu(screen);
     QObject::connect(&screen.Box<oCustomButton>("cmdEditRateSets"), &oCustomButton::Click, &screen,
         [&screen] { mdShowPreferences(&screen, RateSetsPage); });
-    QObject::connect(&screen, &frmSection::Loaded, &screen, [&screen] {
-        if (!screen.Record())
-            fillEmptyRates(screen);
-    });
-    screen.setMayStore([&screen] {
-        fillEmptyRates(screen);
-        return true;
-    });
 }
 
 } // namespace

@@ -50,8 +50,7 @@ QString labelOf(int place)
 {
     for (const clsKeyTier &tier : Tiers)
         if (place >= tier.offset && place < tier.offset + KeysOfTier)
-            return QLatin1String(tier.prefix) + u'F' + QString::number(place - tier.offset + 1)
-                + QStringLiteral(" - ");
+            return QLatin1String(tier.prefix) + u'F' + QString::number(place - tier.offset + 1) + QStringLiteral(" - ");
     return {};
 }
 

@@ -3,10 +3,10 @@
 #include "costing/clsZR3FeeEarner.h"
 #include "costing/clsZR3FeeEarnerGroup.h"
 #include "editors/mdScreens.h"
-#include "tests/editors/clsScreenTest.h"
+#include "tests/editors/clsModalTest.h"
 
 /// A test of the screens of fee earners: makes groups and fee earners, and opens the editor of one.
-class clsFeeEarnersTest : public clsScreenTest {
+class clsFeeEarnersTest : public clsModalTest {
 protected:
     static std::shared_ptr<clsZR3FeeEarnerGroup> addGroup(const char *reference, const char *name = "")
     {
@@ -36,5 +36,4 @@ protected:
         show(*screen);
         return screen;
     }
-    static void click(QWidget &box) { QTest::mouseClick(&box, Qt::LeftButton, {}, box.rect().center()); }
 };

@@ -120,10 +120,11 @@ TEST_F(FeeEarnerGroupEdit, TheFieldsAreStoredInTheOrderOfTheScreen)
     QStringList order;
     for (const clsScreenField &field : screen->Fields())
         order << field.control->objectName();
-    EXPECT_EQ((QString::fromUtf8("txtReference txtName chkEnhance txtEnhancementRate chkEnhanceComms txtHourly txtCalls "
-                                 "txtLettersIn txtLettersOut txtAdvocacy txtCounsel txtTravelAndWaiting cmdLoad "
-                                 "cmdEditRateSets")
-                      .split(u' ')),
+    EXPECT_EQ(
+        (QString::fromUtf8("txtReference txtName chkEnhance txtEnhancementRate chkEnhanceComms txtHourly txtCalls "
+                           "txtLettersIn txtLettersOut txtAdvocacy txtCounsel txtTravelAndWaiting cmdLoad "
+                           "cmdEditRateSets")
+                .split(u' ')),
         order);
 }
 
@@ -262,8 +263,8 @@ TEST_F(FeeEarnerGroupEdit, LoadOffersTheRateSetsInTheirOrderOrSaysThatThereAreNo
     addRateSet("Criminal & Civil", 11);
     addRateSet("-", 21);
     openMenu(*screen);
-    EXPECT_EQ(
-        QStringList({QStringLiteral("London"), QStringLiteral("Criminal && Civil"), QString(QChar(0x2014))}), shown(menu));
+    EXPECT_EQ(QStringList({QStringLiteral("London"), QStringLiteral("Criminal && Civil"), QString(QChar(0x2014))}),
+        shown(menu));
     menu.close();
     Preferences->DeleteRateSet(1);
     openMenu(*screen);

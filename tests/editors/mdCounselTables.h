@@ -1,0 +1,25 @@
+#pragma once
+
+#include "tests/editors/mdScreenTables.h"
+
+// clang-format off
+inline const std::vector<clsExpectedScreen> ExpectedCounselScreens {
+    {"Counsel", "frmCounsel", "Counsel", "Create and edit barristers for your form", "", {
+        {"sgCounsel", "", nullptr, 'g'},
+        {"cmdAddCounsel", "Add", nullptr, 'b'},
+    }},
+    {"", "frmCounselEdit", "Counsel", "Change settings for a barrister", "", {
+        {"txtName", "Name:*", nullptr, 't'},
+        {"txtAccountNumber", "Account Number:", nullptr, 't'},
+        {"chkVAT", "VAT:", nullptr, 'x'},
+    }},
+    {"Enhancements", "frmEnhancements", "Enhancements", "Enhancements for the form", "", {
+        {"sgEnhancements", "", nullptr, 'g'},
+        {"cmdAddEnhancement", "Add", nullptr, 'b'},
+    }},
+    {"", "frmEnhancementEdit", "Enhancement", "Change enhancement settings", "", {
+        {"txtName", "Name:*", nullptr, 't'},
+        {"txtRate", "Rate:*", nullptr, 'm'},
+    }},
+};
+// clang-format on

@@ -20,7 +20,7 @@ constexpr clsSection Sections[] = {
     {"Schedule of Time",           "frmScheduleOfTime",          nullptr},
     {"Disbursements",              "frmDisbursements",           nullptr},
     {"Family Advocacy Scheme",     "frmFamilyAdvocacyScheme",    nullptr},
-    {"Communications",             "frmCommunications",          nullptr},
+    {"Communications",             "frmCommunications",          ScreenCommunications},
     {"Client Details",             "frmClientDetails",           ScreenClientDetails},
     {"Solicitor Details",          "frmSolicitorDetails",        ScreenSolicitorDetails},
     {"Previous Advice",            "frmPreviousAdvice",          ScreenPreviousAdvice},

@@ -69,6 +69,7 @@ signals:
 
 private:
     void ticked(bool isTicked);
+    void showWhole();
 
     const clsChoiceSource &m_source;
     oCheckBox *m_tick;

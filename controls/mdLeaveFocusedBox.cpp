@@ -1,6 +1,6 @@
 #include "controls/mdLeaveFocusedBox.h"
 
-#include "controls/oTypedText.h"
+#include "controls/clsHoldingBox.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -19,9 +19,14 @@ bool takesFocusByClick(const QWidget *widget)
     return false;
 }
 
-bool wouldLeave(const QWidget *target, const oTypedText *box, QEvent::Type type)
+clsHoldingBox *holdingBox(QWidget *focused)
 {
-    if (target->window() != box->window() || box->parentWidget()->isAncestorOf(target))
+    return dynamic_cast<clsHoldingBox *>(focused);
+}
+
+bool wouldLeave(const QWidget *target, const QWidget &box, QEvent::Type type)
+{
+    if (target->window() != box.window() || target == &box || box.isAncestorOf(target))
         return false;
     const bool isButton = qobject_cast<const QAbstractButton *>(target);
     if (type == QEvent::Shortcut)
@@ -29,7 +34,7 @@ bool wouldLeave(const QWidget *target, const oTypedText *box, QEvent::Type type)
     return !qobject_cast<const QScrollBar *>(target) && (isButton || takesFocusByClick(target));
 }
 
-/// Stops presses and mnemonics while a typed box holds the user.
+/// Stops presses and mnemonics while a box holds the user.
 class clsFocusGuard final : public QObject {
 public:
     using QObject::QObject;
@@ -41,8 +46,8 @@ protected:
         if (type != QEvent::MouseButtonPress && type != QEvent::MouseButtonDblClick && type != QEvent::Shortcut)
             return false;
         const auto *target = qobject_cast<QWidget *>(watched);
-        auto *box = qobject_cast<oTypedText *>(QApplication::focusWidget());
-        return target && box && wouldLeave(target, box, type) && !box->leave();
+        clsHoldingBox *box = target ? holdingBox(QApplication::focusWidget()) : nullptr;
+        return box && wouldLeave(target, box->whole(), type) && !box->leave();
     }
 };
 
@@ -50,7 +55,7 @@ protected:
 
 bool mdLeaveFocusedBox(const QWidget *window)
 {
-    auto *box = qobject_cast<oTypedText *>(window->focusWidget());
+    clsHoldingBox *box = holdingBox(window->focusWidget());
     return !box || box->leave();
 }
 

@@ -13,6 +13,7 @@
 namespace {
 
 constexpr int WrappedMargin = 4;
+constexpr int CellFrameGap = 2;
 
 QRect insideOf(const QRect &cell)
 {
@@ -74,6 +75,10 @@ void oGridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
         paintText(*painter, option, modelOf(index).columns()[size_t(index.column())], index.column(), shown.text);
     else
         paintMark(*painter, option, index);
+    if (m_marksCell && (option.state & QStyle::State_HasFocus)) {
+        painter->setPen(Theme::Purple);
+        painter->drawRect(cell.adjusted(CellFrameGap, CellFrameGap, -CellFrameGap - 1, -CellFrameGap - 2));
+    }
 }
 
 void oGridDelegate::paintMark(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index) const

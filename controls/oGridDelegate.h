@@ -18,6 +18,8 @@ public:
     void takeFonts(const std::vector<clsGridColumn> &columns);
     void setHoveredRow(int row) { m_hoveredRow = row; }
     int hoveredRow() const { return m_hoveredRow; }
+    /// Frames the cell with the focus.
+    void setMarksCell(bool marksCell) { m_marksCell = marksCell; }
 
     /// The height that a wrapped text needs in a column of that width.
     int wrappedHeight(const QString &text, int column, int columnWidth) const;
@@ -42,4 +44,5 @@ private:
     Font m_mark;
     std::vector<Font> m_columns;
     int m_hoveredRow = -1;
+    bool m_marksCell = false;
 };

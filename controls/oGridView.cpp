@@ -70,14 +70,15 @@ int oGridView::selectedRow() const
     return selectionModel()->isSelected(currentIndex()) ? currentIndex().row() : selection.first().top();
 }
 
-void oGridView::selectOnly(int row)
+void oGridView::selectOnly(int row, int column)
 {
     if (row < 0 || row >= model()->rowCount()) {
         selectionModel()->clear();
         return;
     }
     const auto &gridModel = *static_cast<const clsGridModel *>(model());
-    const int column = currentIndex().isValid() ? currentIndex().column() : gridModel.firstShownColumn();
+    if (column < 0)
+        column = currentIndex().isValid() ? currentIndex().column() : gridModel.firstShownColumn();
     selectionModel()->setCurrentIndex(
         gridModel.index(row, column), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
@@ -88,6 +89,12 @@ bool oGridView::event(QEvent *event)
     if (event->type() == QEvent::Paint)
         paintFrame();
     return result;
+}
+
+void oGridView::setMarksCell(bool marksCell)
+{
+    m_delegate->setMarksCell(marksCell);
+    viewport()->update();
 }
 
 /// Two pixels with the focus and one without, inside the same room, so that nothing shifts.

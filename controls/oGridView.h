@@ -20,8 +20,11 @@ public:
 
     /// The selected row, from 0, or -1. With several selected it is the one that the keys act on.
     int selectedRow() const;
-    /// Selects one row, or none at a row that isn't there.
-    void selectOnly(int row);
+    /// Selects one row, or none at a row that isn't there. The cell that Return acts on is that of the column, or stays
+    /// in its own where none is given.
+    void selectOnly(int row, int column = -1);
+    /// Frames, while the focus is here, the cell that Return acts on.
+    void setMarksCell(bool marksCell);
     /// Takes the fonts and heights of the theme and the columns of the model.
     void takeFonts();
 

@@ -112,6 +112,11 @@ void oSGrid::setEmptyGlyph(Glyph glyph)
     m_view->setEmptyGlyph(glyph);
 }
 
+void oSGrid::setMarksCell(bool marksCell)
+{
+    m_view->setMarksCell(marksCell);
+}
+
 void oSGrid::ClearAll()
 {
     m_columns.clear();
@@ -172,10 +177,11 @@ void oSGrid::refill(int selected, bool keepInView)
     if (!m_readItems)
         return;
     const int scrolled = m_view->verticalScrollBar()->value();
+    const int column = SelectedColumn();
     m_model->fill(m_readItems());
     fitRows();
     // Where the selected row is gone, the last one takes its place; where none was selected, none is.
-    SelectRow(std::min(selected, Rows()));
+    m_view->selectOnly(std::min(selected, Rows()) - 1, column - 1);
     if (m_orderable)
         m_model->renumber();
     if (keepInView)
@@ -240,6 +246,25 @@ clsGridItems oSGrid::SelectedItemCollection() const
 void oSGrid::SelectRow(int row)
 {
     m_view->selectOnly(row - 1);
+}
+
+void oSGrid::SelectItem(int itemData)
+{
+    for (int row = 0; row < Rows(); ++row)
+        if (m_model->itemData(row) == itemData) {
+            SelectRow(row + 1);
+            return;
+        }
+}
+
+int oSGrid::SelectedColumn() const
+{
+    return m_view->currentIndex().column() + 1;
+}
+
+void oSGrid::SelectColumn(int column)
+{
+    m_view->selectOnly(SelectedRow() - 1, column - 1);
 }
 
 int oSGrid::RowAt(const QPoint &position) const

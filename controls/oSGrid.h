@@ -33,6 +33,9 @@ public:
     /// The line in the middle of a grid without rows, and the picture above it.
     void setEmptyText(const QString &text);
     void setEmptyGlyph(Glyph glyph);
+    /// Frames, while the grid has the focus, the cell that Return acts on: for lists whose columns open different
+    /// things.
+    void setMarksCell(bool marksCell);
 
     /// Declares one more column; it is seen from the next `Draw` on.
     void AddColumn(const clsGridColumn &column) { m_columns.push_back(column); }
@@ -47,6 +50,8 @@ public:
         m_readItems = [&collection] { return clsGridItems(collection.begin(), collection.end()); };
     }
     template <class Item> void setItemCollection(const std::vector<std::shared_ptr<Item>> &&collection) = delete;
+    /// The same for a collection that is put together for each `Redraw`.
+    void setItemCollection(std::function<clsGridItems()> collect) { m_readItems = std::move(collect); }
     clsGridItems ItemCollection() const { return m_readItems ? m_readItems() : clsGridItems(); }
 
     /// Lays out the columns and fills the rows; for once after the columns and the collection are given.
@@ -62,6 +67,12 @@ public:
     clsGridItems SelectedItemCollection() const;
     /// Selects a row, or none at a number that no row has.
     void SelectRow(int row);
+    /// Selects the row of the item of that `Index`, wherever it stands now; nothing else where there is none.
+    void SelectItem(int itemData);
+    /// The column of the cell that Return acts on, 0 when none is selected.
+    int SelectedColumn() const;
+    /// Goes to a column of the selected row.
+    void SelectColumn(int column);
     int Rows() const { return m_model->rowCount(); }
     /// The row and the column at a position as `MouseUp` tells it, 0 where there is none.
     int RowAt(const QPoint &position) const;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "controls/clsHoldingBox.h"
+
 #include <QLineEdit>
 
 #include <optional>
@@ -21,7 +23,7 @@ struct clsTypedKind {
 /// window are no leaving, so that a held box lets Esc and the close box through and two programs don't fight over the
 /// focus. A second bad box can't fight either: it never got the focus that the first one took back. What else a held
 /// box stops is told in mdLeaveFocusedBox.h.
-class oTypedText final : public QLineEdit {
+class oTypedText final : public QLineEdit, public clsHoldingBox {
     Q_OBJECT
 
 public:
@@ -32,8 +34,8 @@ public:
     void write(const QString &text);
     /// Normalises the text, or refuses it and takes the focus; whether it fits.
     bool validate();
-    /// What leaving by keyboard or mouse does, with the focus where it is; whether the box lets go.
-    bool leave();
+    bool leave() override;
+    const QWidget &whole() const override { return *parentWidget(); }
     /// Whether the user is in this box: it has the focus of its window, which may itself lie behind another.
     bool isActive() const;
     /// The small form of the footer: less high and wide, its text in the middle.

@@ -53,7 +53,11 @@ int clsZR3ScheduleOfTimeItem::TimeColumn() const
         return TravelTime;
     if (Waiting())
         return WaitingTime;
-    const QString code = Code();
+    return ColumnOfCode(Code());
+}
+
+clsZR3ScheduleOfTimeItem::Column clsZR3ScheduleOfTimeItem::ColumnOfCode(QStringView code)
+{
     if (code.startsWith(u'D') || code.startsWith(u'R') || code.startsWith(u'O'))
         return Documents;
     if (code.startsWith(u'H'))

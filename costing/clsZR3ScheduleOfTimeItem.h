@@ -55,6 +55,8 @@ public:
 
     /// The column of the bill, 0 to 4.
     int TimeColumn() const;
+    /// The column of a code by itself, as of a piece of work that is neither travel nor waiting.
+    static Column ColumnOfCode(QStringView code);
     /// Pounds per hour: a later rule overrides an earlier one, so that travel prices an advocate's journey.
     Money Rate() const;
     /// The time at the rate, to the penny.

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "editors/mdInOrder.h"
+
 #include <QFrame>
 #include <QString>
 
-#include <algorithm>
 #include <vector>
 
 class clsXMLRecord;
@@ -78,12 +79,10 @@ private:
 };
 
 /// The items of a collection by their order, each under its name.
-template <class Collection> std::vector<clsChoiceItem> mdChoiceItems(Collection items)
+template <class Collection> std::vector<clsChoiceItem> mdChoiceItems(const Collection &items)
 {
-    std::stable_sort(
-        items.begin(), items.end(), [](const auto &a, const auto &b) { return a->OrderID() < b->OrderID(); });
     std::vector<clsChoiceItem> result;
-    for (const auto &item : items)
+    for (const auto &item : mdInOrder(items))
         result.push_back({item->Name(), item->Index});
     return result;
 }

@@ -91,9 +91,9 @@ void clsListActions::addItem()
     const bool added = mdEditItem(&m_screen, m_list.editor(), nullptr);
     // What the editor opened in its turn is kept even where the editor itself was cancelled.
     tellChanged();
-    // A new item stands at the end of its list, and the next key goes on from there.
+    // The next key goes on from the new item. It is the last of the claim's list, wherever the grid sorts it.
     if (added)
-        m_grid.SelectRow(m_grid.Rows());
+        m_grid.SelectItem(m_grid.Rows());
     m_grid.setFocus(Qt::OtherFocusReason);
 }
 
@@ -102,6 +102,7 @@ void clsListActions::editItem(int index)
     const std::shared_ptr<clsXMLRecord> item = m_list.item(index);
     mdEditItem(&m_screen, m_list.editor(), item.get());
     tellChanged();
+    m_grid.SelectItem(index);
     m_grid.setFocus(Qt::OtherFocusReason);
 }
 

@@ -55,6 +55,7 @@ struct clsItemColumn {
     const char *property; ///< of the items
     int width = 0; ///< per cent of the grid; without one the column is hidden
     clsGridAlignment alignment = clsGridAlignment::Left; ///< of the heading and the cells
+    bool sortKey = false; ///< the grid sorts its rows by the text of this column
 };
 
 /// An entry of a list's pop-up menu beside "Delete".

@@ -1,23 +1,7 @@
 #include "editors/mdScreens.h"
 
-#include "controls/oDecimalBox.h"
-#include "editors/frmSection.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/mdGlobals.h"
-
-namespace {
-
-/// A box that nobody has been in is empty, and a rate is not: what prices the bill takes no empty text for one.
-void rules(frmSection &screen)
-{
-    QObject::connect(&screen, &frmSection::Loaded, &screen, [&screen] {
-        auto &rate = screen.Box<oDecimalBox>("txtRate");
-        if (rate.Text().isEmpty())
-            rate.setText(QStringLiteral("0.00"));
-    });
-}
-
-} // namespace
 
 /// A named percentage. Any rate is taken, one of nothing too, which has no effect.
 const clsScreen &ScreenEnhancementEdit()
@@ -38,7 +22,6 @@ const clsScreen &ScreenEnhancementEdit()
                 {Decimal, "txtRate", "Rate:*"},
             }},
         },
-        .rules = rules,
         .itemWord = "Enhancement",
         .add = []() -> clsXMLRecord * { return Form->AddEnhancement().get(); },
         .fileMenu = false,

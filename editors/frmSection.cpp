@@ -5,7 +5,9 @@
 #include "controls/oCheckBox.h"
 #include "controls/oContentSwitcher.h"
 #include "controls/oCustomButton.h"
+#include "controls/oDecimalBox.h"
 #include "controls/oHeaderBar.h"
+#include "controls/oIntegerBox.h"
 #include "controls/oSGrid.h"
 #include "editors/clsListActions.h"
 #include "editors/clsMnemonics.h"
@@ -199,9 +201,12 @@ void frmSection::Initialise(clsXMLRecord *item)
 {
     WriteLog(objectName() + QStringLiteral(" Opened"));
     m_record = item;
-    if (m_record)
+    if (m_record) {
         for (const clsScreenField &field : m_fields)
             mdLoadControl(*field.row, *field.control, *m_record);
+    } else if (m_screen.add) {
+        startFiguresAtZero();
+    }
     for (const clsList &list : m_lists)
         list.actions->draw();
     showCounts();
@@ -210,8 +215,20 @@ void frmSection::Initialise(clsXMLRecord *item)
     for (const clsScreenField &field : m_fields) {
         if (focusWidget())
             break;
-        if (field.control->isEnabledTo(this) && (field.control->focusProxy() || field.control->focusPolicy()))
+        const bool offered = field.control->isEnabledTo(this) && field.control->isVisibleTo(this);
+        if (offered && (field.control->focusProxy() || field.control->focusPolicy()))
             field.control->setFocus(Qt::TabFocusReason);
+    }
+}
+
+/// A figure that nobody has been to would be stored as nothing, and then the item could not be priced.
+void frmSection::startFiguresAtZero()
+{
+    for (const clsScreenField &field : m_fields) {
+        if (auto *amount = qobject_cast<oDecimalBox *>(field.control))
+            amount->setText(QStringLiteral("0.00"));
+        else if (auto *number = qobject_cast<oIntegerBox *>(field.control))
+            number->setText(QStringLiteral("0"));
     }
 }
 

@@ -84,6 +84,7 @@ private:
     void buildFrames();
     void buildLists();
     void showCounts();
+    void startFiguresAtZero();
     void buildFileMenu();
     void buildJumpMenu();
     void connectBar();

@@ -67,6 +67,7 @@ QWidget *makeGrid(const clsScreenRow &row, QWidget *parent)
             .alignment = column.alignment,
             .width = column.width,
             .property = QString::fromUtf8(column.property),
+            .sortKey = column.sortKey,
             .visible = column.width > 0});
     return grid;
 }

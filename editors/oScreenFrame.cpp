@@ -37,8 +37,9 @@ void oScreenFrame::addPages(const clsScreenFrame &frame)
     for (const clsScreenPage &page : frame.pages) {
         auto *container = new QWidget(this);
         auto *parts = new QVBoxLayout(container);
-        clsFrameRows(*this, *parts, page.rows, ++number).layOut();
+        // The caption is made before the fields, so that the Tab key meets it before them.
         m_switcher->AddContent(container, QString::fromUtf8(page.caption));
+        clsFrameRows(*this, *parts, page.rows, ++number).layOut();
     }
     m_parts->addWidget(m_switcher, 1);
     m_grows = true;

@@ -1,6 +1,13 @@
 #include "editors/oScreenList.h"
 
 #include "controls/mdTheme.h"
+#include "controls/mdToolTip.h"
+
+#include <QAbstractItemView>
+#include <QHelpEvent>
+#include <QScreen>
+#include <QScrollBar>
+#include <QToolTip>
 
 namespace {
 
@@ -20,11 +27,38 @@ oScreenList::oScreenList(QWidget *parent)
     setMinimumContentsLength(FewestCharacters);
 }
 
-QSize oScreenList::sizeHint() const
+int oScreenList::widthFor(const QString &text) const
+{
+    return fontMetrics().horizontalAdvance(text) + Theme::scaled(Trimmings);
+}
+
+int oScreenList::widestEntry() const
 {
     int widest = 0;
     for (int entry = 0; entry < count(); ++entry)
-        widest = qMax(widest, fontMetrics().horizontalAdvance(itemText(entry)));
-    const int width = widest + Theme::scaled(Trimmings) > Theme::scaled(ShortWidth) ? LongWidth : ShortWidth;
+        widest = qMax(widest, widthFor(itemText(entry)));
+    return widest;
+}
+
+QSize oScreenList::sizeHint() const
+{
+    const int width = widestEntry() > Theme::scaled(ShortWidth) ? LongWidth : ShortWidth;
     return {Theme::scaled(width), QComboBox::sizeHint().height()};
+}
+
+void oScreenList::showPopup()
+{
+    const int room = screen()->availableGeometry().right() - mapToGlobal(QPoint()).x();
+    const QAbstractItemView &entries = *view();
+    const int edges = 2 * entries.frameWidth() + entries.verticalScrollBar()->sizeHint().width();
+    view()->setMinimumWidth(qMax(width(), qMin(entries.sizeHintForColumn(0) + edges, room)));
+    QComboBox::showPopup();
+}
+
+bool oScreenList::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip || !toolTip().isEmpty() || widthFor(currentText()) <= width())
+        return QComboBox::event(event);
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), mdPlainToolTip(currentText()), this);
+    return true;
 }

@@ -3,7 +3,8 @@
 #include <QComboBox>
 
 /// A list of a screen, in one of two widths: that of a short text, or, for long entries, whatever the frame has. Its
-/// entries never make a screen wider than its window.
+/// entries never make a screen wider than its window: opened, it is as wide as they are, and closed, a text that is cut
+/// is whole in the tooltip.
 class oScreenList : public QComboBox {
     Q_OBJECT
 
@@ -11,4 +12,12 @@ public:
     explicit oScreenList(QWidget *parent = nullptr);
 
     QSize sizeHint() const override;
+    void showPopup() override;
+
+protected:
+    bool event(QEvent *event) override;
+
+private:
+    int widthFor(const QString &text) const;
+    int widestEntry() const;
 };

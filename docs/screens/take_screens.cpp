@@ -3,6 +3,9 @@
 
 #include "controls/frmMessageBox.h"
 #include "controls/mdTheme.h"
+#include "controls/oContentSwitcher.h"
+#include "editors/frmSection.h"
+#include "editors/mdScreens.h"
 #include "editors/mdSections.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
@@ -53,13 +56,83 @@ private:
     bool m_complete = true;
 };
 
+/// A picture of each page of a screen that has any, else of the screen.
+void takeScreen(clsPictures &pictures, QDialog &screen)
+{
+    screen.resize(screen.sizeHint());
+    auto *switcher = screen.findChild<oContentSwitcher *>();
+    pictures.take(screen, screen.objectName());
+    for (int page = 2; switcher && page <= switcher->Pages(); ++page) {
+        switcher->SwitchTo(page);
+        pictures.take(screen, QStringLiteral("%1-%2").arg(screen.objectName()).arg(page));
+    }
+    screen.close();
+}
+
 void takeSections(clsPictures &pictures, frmMain &main)
 {
     for (const QString &section : mdSectionTexts())
-        if (const std::unique_ptr<QDialog> screen {mdCreateScreen(section, &main)}) {
-            screen->resize(screen->sizeHint());
-            pictures.take(*screen, mdScreenName(section));
-        }
+        if (const std::unique_ptr<QDialog> screen {mdCreateScreen(section, &main)})
+            takeScreen(pictures, *screen);
+}
+
+/// What the editors of single items are opened on: the first of each list of the claim.
+struct clsEditor {
+    const clsScreen &(*table)();
+    std::shared_ptr<clsXMLRecord> (*item)();
+};
+// clang-format off
+constexpr clsEditor Editors[] = {
+    {ScreenFeeEarnerGroupEdit,       [] { return std::shared_ptr<clsXMLRecord>(Form->FeeEarnerGroup(1)); }},
+    {ScreenFeeEarnerEdit,            [] { return std::shared_ptr<clsXMLRecord>(Form->FeeEarner(1)); }},
+    {ScreenCounselEdit,              [] { return std::shared_ptr<clsXMLRecord>(Form->Counsel(1)); }},
+    {ScreenEnhancementEdit,          [] { return std::shared_ptr<clsXMLRecord>(Form->Enhancement(1)); }},
+    {ScreenScheduleOfTimeItemEdit,   [] { return std::shared_ptr<clsXMLRecord>(Form->ScheduleOfTimeItem(1)); }},
+    {ScreenDisbursementEdit,         [] { return std::shared_ptr<clsXMLRecord>(Form->Disbursement(1)); }},
+    {ScreenExpertInvoiceEdit,        [] { return std::shared_ptr<clsXMLRecord>(Form->ExpertInvoice(1)); }},
+    {ScreenJointInstructionEdit,     [] { return std::shared_ptr<clsXMLRecord>(Form->JointInstruction(1)); }},
+    {ScreenFASItemEdit,              [] { return std::shared_ptr<clsXMLRecord>(Form->FASItem(1)); }},
+    {ScreenCorrespondences,          [] { return std::shared_ptr<clsXMLRecord>(Form->FeeEarner(1)); }},
+    {ScreenReplacementEdit,          [] { return std::shared_ptr<clsXMLRecord>(Preferences->Replacement(1)); }},
+    {ScreenPreferencesRateSetEdit,   [] { return std::shared_ptr<clsXMLRecord>(Preferences->RateSet(1)); }},
+};
+// clang-format on
+
+/// A few abbreviations and rate sets, as a firm would have them.
+void fillPreferences()
+{
+    for (const auto &[input, output] : {std::pair("att", "Attending"), std::pair("dft", "Drafting"),
+             std::pair("oas", "the other side's solicitors"), std::pair("wrt", "with regard to")}) {
+        const auto replacement = Preferences->AddReplacement();
+        replacement->InputText = QString::fromUtf8(input);
+        replacement->OutputText = QString::fromUtf8(output);
+    }
+    for (const auto &[name, hourly, item] : {std::tuple("Preparation, county court", "47.25", "4.05"),
+             std::tuple("Preparation, High Court", "51.35", "4.15"), std::tuple("Care proceedings", "63.90", "4.25")}) {
+        const auto set = Preferences->AddRateSet();
+        set->Name = QString::fromUtf8(name);
+        for (const QStringView rate : {u"HourlyRate", u"AdvocacyRate", u"CounselRate", u"TravelAndWaitingRate"})
+            set->field(rate)->writeText(QString::fromUtf8(hourly));
+        for (const QStringView rate : {u"CallsRate", u"LettersOutRate", u"LettersInRate"})
+            set->field(rate)->writeText(QString::fromUtf8(item));
+    }
+}
+
+void takeEditors(clsPictures &pictures, frmMain &main)
+{
+    for (const clsEditor &row : Editors) {
+        const std::shared_ptr<clsXMLRecord> item = row.item();
+        frmSection screen(row.table(), &main);
+        screen.Initialise(item.get());
+        takeScreen(pictures, screen);
+    }
+}
+
+void takePreferences(clsPictures &pictures, frmMain &main)
+{
+    frmSection screen(ScreenPreferences(), &main);
+    screen.Initialise();
+    takeScreen(pictures, screen);
 }
 
 void takeBoxes(clsPictures &pictures, frmMain &main)
@@ -94,6 +167,9 @@ bool takeAll(const QString &claim, const QString &folder)
     main.PreviewScheduleOfTime();
     pictures.take(main, QStringLiteral("frmMain"));
     takeSections(pictures, main);
+    fillPreferences();
+    takeEditors(pictures, main);
+    takePreferences(pictures, main);
     takeBoxes(pictures, main);
     main.PreviewAdditionalInformation();
     pictures.take(main, QStringLiteral("frmMain-notes"));

@@ -23,26 +23,21 @@ protected:
             if (!screen)
                 return;
             opened = true;
-            activate(*screen);
+            EXPECT_TRUE(QTest::qWaitForWindowActive(screen));
             act(*screen);
             EXPECT_FALSE(screen->isVisible()) << screen->objectName().toStdString() << " was left open";
             if (screen->isVisible())
-                screen->close();
+                screen->done(QDialog::Rejected);
         });
         waiting.start(2);
         QWidget *below = QApplication::activeWindow();
         opens();
         EXPECT_TRUE(opened);
-        if (below)
-            activate(*below);
-    }
-    /// The platform of the tests has no window manager: a window that is uncovered isn't brought back, and what was
-    /// asked for earlier may still arrive late.
-    static void activate(QWidget &window)
-    {
-        QCoreApplication::processEvents();
-        window.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        // The platform of the tests has no window manager that would bring the window below back.
+        if (below) {
+            below->activateWindow();
+            EXPECT_TRUE(QTest::qWaitForWindowActive(below));
+        }
     }
     static void click(QWidget &widget) { QTest::mouseClick(&widget, Qt::LeftButton, {}, widget.rect().center()); }
     /// A key for whatever has the focus in a window.

@@ -1,0 +1,83 @@
+#include "controls/oTypeAheadBox.h"
+
+#include "controls/mdTheme.h"
+
+#include <QAbstractItemView>
+#include <QCompleter>
+#include <QCoreApplication>
+#include <QFocusEvent>
+#include <QStringListModel>
+
+namespace {
+
+/// That of every text box without a limit.
+constexpr int BoxWidth = 560;
+
+} // namespace
+
+oTypeAheadBox::oTypeAheadBox(QWidget *parent)
+    : QLineEdit(parent)
+    , m_suggestions(new QStringListModel(this))
+{
+    setTextMargins(Theme::Space4, 0, Theme::Space4, 0);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    auto *suggester = new QCompleter(m_suggestions, this);
+    suggester->setCaseSensitivity(Qt::CaseInsensitive);
+    setCompleter(suggester);
+}
+
+void oTypeAheadBox::setSuggestions(QStringList suggestions)
+{
+    suggestions.removeDuplicates();
+    m_suggestions->setStringList(suggestions);
+}
+
+QStringList oTypeAheadBox::Suggestions() const
+{
+    return m_suggestions->stringList();
+}
+
+QSize oTypeAheadBox::sizeHint() const
+{
+    return {Theme::scaled(BoxWidth), QLineEdit::sizeHint().height()};
+}
+
+void oTypeAheadBox::focusInEvent(QFocusEvent *event)
+{
+    QLineEdit::focusInEvent(event);
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason
+        || event->reason() == Qt::ShortcutFocusReason)
+        end(false);
+}
+
+void oTypeAheadBox::keyPressEvent(QKeyEvent *event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isReturn && suggesting()) {
+        // The list of suggestions would keep the key to itself. Return means the default button as in any other text
+        // box, unless it chooses a suggestion.
+        const bool chooses = completer()->popup()->currentIndex().isValid();
+        completer()->popup()->hide();
+        if (!chooses)
+            QCoreApplication::sendEvent(parentWidget(), event);
+        event->accept();
+        return;
+    }
+    if (event->key() == Qt::Key_Down && !suggesting()) {
+        suggest();
+        event->accept();
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+bool oTypeAheadBox::suggesting() const
+{
+    return completer()->popup()->isVisible();
+}
+
+void oTypeAheadBox::suggest()
+{
+    completer()->setCompletionPrefix(text());
+    completer()->complete();
+}

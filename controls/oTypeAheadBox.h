@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QLineEdit>
+
+class QStringListModel;
+
+/// A text box that suggests texts while the user types, and on Down: those that begin with what is typed, whatever the
+/// capitals. Nothing typed is ever changed by itself; only a suggestion that is chosen takes its place.
+class oTypeAheadBox : public QLineEdit {
+    Q_OBJECT
+    Q_PROPERTY(QString Text READ Text WRITE setText)
+
+public:
+    explicit oTypeAheadBox(QWidget *parent = nullptr);
+
+    QString Text() const { return text(); }
+
+    /// What is suggested, in this order; a text that comes twice is suggested once.
+    void setSuggestions(QStringList suggestions);
+    QStringList Suggestions() const;
+
+    QSize sizeHint() const override;
+
+protected:
+    void focusInEvent(QFocusEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    bool suggesting() const;
+    void suggest();
+
+    QStringListModel *m_suggestions;
+};

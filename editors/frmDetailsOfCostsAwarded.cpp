@@ -1,0 +1,66 @@
+#include "editors/mdScreens.h"
+
+#include "formdata/clsZR3Form.h"
+#include "shell/mdGlobals.h"
+
+/// Costs awarded to the client, and what became of them. The total is typed and not added up, and an amount that hangs
+/// on a question stays open whatever the answer. Only one of the forms prints the total: its frame says so, within the
+/// order of the others, and stays open too.
+const clsScreen &ScreenDetailsOfCostsAwarded()
+{
+    using enum clsRowKind;
+    // clang-format off
+    static const clsScreen screen {
+        .name = "frmDetailsOfCostsAwarded",
+        .header = "Details of Costs Awarded",
+        .subCaption = "Enter details of the costs awarded",
+        .iconGroup = 12,
+        .width = clsScreenWidth::TwoColumns,
+        .ending = clsScreenEnding::SaveCancel,
+        .section = "Details of Costs Awarded",
+        .record = []() -> clsXMLRecord * { return &Form->DetailsOfCostsAwarded; },
+        .frames = {
+            {"bxGeneral", "Details of Costs Awarded", {
+                {Decimal, "txtPreCertificateCosts",               "Pre-certificate costs awarded:"},
+                {Decimal, "txtDuringCertificateCostsLSC",
+                 "During certificate costs awarded (legal aid prescribed rates):"},
+                {Decimal, "txtDuringCertificateCostsMarketRates", "During certificate costs awarded (Market Rates):"},
+            }},
+            {"bxClaim1A", "Claim1A Only", {
+                {Decimal, "txtTotalCostsAwarded",                 "Total costs awarded:"},
+            }},
+            {"bxInterest", "", {
+                {Question, "", "Are legal advice and assistance, and/or Legal Help costs included in the "
+                               "pre-certificate costs Awarded?"},
+                {Tick,    "chkLegalHelpInPreCertificateCostsYes",    "Yes:"},
+                {Tick,    "chkLegalHelpInPreCertificateCostsNo",     "No:"},
+                {Decimal, "txtLegalHelpInPreCertificateCostsAmount", "If yes, tell us the amount:"},
+                {Separator},
+                {Decimal, "txtInterestOnAllCosts",                   "Interest on all costs:"},
+                {Date,    "txtDateInterestCommenced",                "Date interest commenced or commences:"},
+                {Text,    "txtInterestBreakdown",
+                 "Please provide a breakdown where interest has been calculated:", 60, MultiLine | SpellCheck},
+            }},
+            {.name = "bxEnforcement", .caption = "", .rows = {
+                {Decimal, "txtAmountRecoveredToDate",  "Amount recovered to date:"},
+                {Date,    "txtDateOrderServed",        "Date order was served:"},
+                {Text,    "txtAddressOfService",       "Address of service:", 75, MultiLine},
+                {Separator},
+                {Question, "", "Does the court order say leave of the court is required before enforcement can take "
+                               "place?"},
+                {Tick,    "chkLeaveYes",               "Yes:"},
+                {Tick,    "chkLeaveNo",                "No:"},
+                {Question, "", "Has a determination of the debtor's means been undertaken by the court?"},
+                {Tick,    "chkDeterminationYes",       "Yes:"},
+                {Tick,    "chkDeterminationNo",        "No:"},
+                {Decimal, "txtDeterminationAmount",    "If yes, give the amount:"},
+                {Question, "", "Has any offer been made by the debtor?"},
+                {Tick,    "chkOfferByDebtorYes",       "Yes:"},
+                {Tick,    "chkOfferByDebtorNo",        "No:"},
+                {Text,    "txtOfferByDebtorDetails",   "If so, give details:", 85, MultiLine | SpellCheck},
+            }, .startsColumn = true},
+        },
+    };
+    // clang-format on
+    return screen;
+}

@@ -1,0 +1,47 @@
+#include "editors/mdScreens.h"
+
+#include "editors/mdCalculateVAT.h"
+#include "editors/oCounselBox.h"
+#include "formdata/clsZR3Form.h"
+#include "shell/mdGlobals.h"
+
+namespace {
+
+void rules(frmSection &screen)
+{
+    mdCalculateVATByButton(screen, "txtAmount", "txtVAT");
+}
+
+} // namespace
+
+/// Something that the firm paid out; with the tick it is a counsel's fee. The amounts bear an asterisk and are not
+/// asked for at Save, since their boxes are never blank.
+const clsScreen &ScreenDisbursementEdit()
+{
+    using enum clsRowKind;
+    // clang-format off
+    static const clsScreen screen {
+        .name = "frmDisbursementEdit",
+        .header = "Disbursement",
+        .subCaption = "Change a disbursement's settings",
+        .iconGroup = 12,
+        .width = clsScreenWidth::Edit,
+        .ending = clsScreenEnding::SaveCancel,
+        .frames = {
+            {"bxGeneral", "Disbursement", {
+                {Text,    "txtDescription", "Description:*", 35, Required | SpellCheck},
+                {Decimal, "txtAmount",      "Amount:*"},
+                {Decimal, "txtVAT",         "VAT:*"},
+                {Button,  "cmdCalculate",   "Calculate", 0, SameRow},
+                {.kind = Other, .control = "oCounsel", .caption = "Counsel:", .other = &CounselOfItem},
+                {Date,    "txtDateOfWork",  "Date of Work:"},
+            }},
+        },
+        .rules = rules,
+        .itemWord = "Disbursement",
+        .add = []() -> clsXMLRecord * { return Form->AddDisbursement().get(); },
+        .fileMenu = false,
+    };
+    // clang-format on
+    return screen;
+}

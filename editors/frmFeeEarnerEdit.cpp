@@ -1,0 +1,54 @@
+#include "editors/mdScreens.h"
+
+#include "editors/oFeeEarnerGroupCombo.h"
+#include "formdata/clsZR3Form.h"
+#include "shell/mdGlobals.h"
+
+namespace {
+
+QWidget *makeGroup(const clsScreenRow &, QWidget *parent)
+{
+    return new oFeeEarnerGroupCombo(parent);
+}
+
+void loadGroup(const clsScreenRow &, QWidget &control, clsXMLRecord &record)
+{
+    static_cast<oFeeEarnerGroupCombo &>(control).setSelectedFeeEarnerGroupUniqueID(
+        static_cast<clsZR3FeeEarner &>(record).GroupUniqueID());
+}
+
+void storeGroup(const clsScreenRow &, const QWidget &control, clsXMLRecord &record)
+{
+    static_cast<clsZR3FeeEarner &>(record).GroupUniqueID
+        = static_cast<const oFeeEarnerGroupCombo &>(control).SelectedFeeEarnerGroupUniqueID();
+}
+
+constexpr clsOtherControl Group {makeGroup, loadGroup, storeGroup, false};
+
+} // namespace
+
+/// One fee earner: a short code, and the group that has the rates.
+const clsScreen &ScreenFeeEarnerEdit()
+{
+    using enum clsRowKind;
+    // clang-format off
+    static const clsScreen screen {
+        .name = "frmFeeEarnerEdit",
+        .header = "Fee Earner",
+        .subCaption = "Change settings for a fee earner",
+        .iconGroup = 12,
+        .width = clsScreenWidth::Edit,
+        .ending = clsScreenEnding::SaveCancel,
+        .frames = {
+            {"bxGeneral", "Fee Earner Setup", {
+                {Text,    "txtReference", "Reference:*", 0, Required},
+                {.kind = Other, .control = "cmbGroup", .caption = "Group:", .member = "GroupUniqueID", .other = &Group},
+            }},
+        },
+        .itemWord = "Fee Earner",
+        .add = []() -> clsXMLRecord * { return Form->AddFeeEarner().get(); },
+        .fileMenu = false,
+    };
+    // clang-format on
+    return screen;
+}

@@ -1,0 +1,135 @@
+#include "editors/mdScreens.h"
+
+#include "controls/mdTheme.h"
+#include "controls/oCheckBox.h"
+#include "controls/oCustomButton.h"
+#include "controls/oDecimalBox.h"
+#include "controls/oTypeAheadBox.h"
+#include "editors/frmSection.h"
+#include "editors/mdInOrder.h"
+#include "editors/mdLoadMenuFromCollection.h"
+#include "editors/mdScreenControls.h"
+#include "editors/mdShowPreferences.h"
+#include "formdata/clsZR3Form.h"
+#include "formdata/clsZR3PreferencesDatabase.h"
+#include "shell/mdGlobals.h"
+
+#include <QAction>
+#include <QMenu>
+
+namespace {
+
+constexpr int RateSetsPage = 3;
+
+/// The names of the claim's groups are suggested, so that groups of one grade are called the same.
+QWidget *makeName(const clsScreenRow &, QWidget *parent)
+{
+    auto *box = new oTypeAheadBox(parent);
+    QStringList names;
+    for (const auto &group : mdInOrder(Form->FeeEarnerGroupsCollection()))
+        names << group->Name();
+    box->setSuggestions(names);
+    return box;
+}
+
+void loadName(const clsScreenRow &, QWidget &control, clsXMLRecord &record)
+{
+    static_cast<oTypeAheadBox &>(control).setText(static_cast<clsZR3FeeEarnerGroup &>(record).Name());
+}
+
+void storeName(const clsScreenRow &, const QWidget &control, clsXMLRecord &record)
+{
+    static_cast<clsZR3FeeEarnerGroup &>(record).Name = static_cast<const oTypeAheadBox &>(control).Text();
+}
+
+constexpr clsOtherControl Name {makeName, loadName, storeName, false};
+
+/// Without an enhancement there is no rate of it, and none of the communications.
+void enhanceChanged(const frmSection &screen, bool enhance)
+{
+    auto &rate = screen.Box<oDecimalBox>("txtEnhancementRate");
+    auto &communications = screen.Box<oCheckBox>("chkEnhanceComms");
+    rate.setEnabled(enhance);
+    communications.setEnabled(enhance);
+    if (enhance)
+        return;
+    rate.setText(QStringLiteral("0"));
+    communications.setChecked(false);
+}
+
+/// Copies the rates of a rate set into the boxes that are named after them, and nothing into the group.
+void loadRateSet(const frmSection &screen, const clsZR3RateSet &rateSet)
+{
+    for (const clsScreenField &field : screen.Fields())
+        if (auto *box = qobject_cast<oDecimalBox *>(field.control))
+            if (const clsXMLField *rate = rateSet.field(mdMemberOf(*field.row)))
+                box->setText(rate->readText());
+}
+
+/// The menu is made anew whenever it is opened, so that it always holds the rate sets as they were last edited.
+void makeRateSetMenu(frmSection &screen)
+{
+    auto *menu = new QMenu(&screen);
+    menu->setObjectName(QStringLiteral("mnuRateSets"));
+    QObject::connect(menu, &QMenu::aboutToShow, menu,
+        [menu] { mdLoadMenuFromCollection(*menu, Preferences->RateSetsCollection(), u"Name"); });
+    QObject::connect(menu, &QMenu::triggered, &screen,
+        [&screen](const QAction *entry) { loadRateSet(screen, *Preferences->RateSet(entry->data().toInt())); });
+    const auto &load = screen.Box<oCustomButton>("cmdLoad");
+    QObject::connect(&load, &oCustomButton::Click, menu,
+        [menu, &load] { menu->popup(load.mapToGlobal(QPoint(Theme::RingRoom, load.height()))); });
+}
+
+void rules(frmSection &screen)
+{
+    QObject::connect(&screen.Box<oCheckBox>("chkEnhance"), &oCheckBox::Click, &screen,
+        [&screen](bool enhance) { enhanceChanged(screen, enhance); });
+    makeRateSetMenu(screen);
+    QObject::connect(&screen.Box<oCustomButton>("cmdEditRateSets"), &oCustomButton::Click, &screen,
+        [&screen] { mdShowPreferences(&screen, RateSetsPage); });
+}
+
+} // namespace
+
+/// A group of fee earners: its name, the enhancement of all its work, and the seven rates, which may be taken from a
+/// rate set of the preferences.
+const clsScreen &ScreenFeeEarnerGroupEdit()
+{
+    using enum clsRowKind;
+    // clang-format off
+    static const clsScreen screen {
+        .name = "frmFeeEarnerGroupEdit",
+        .header = "Fee Earner Group",
+        .subCaption = "Change settings for a fee earner group",
+        .iconGroup = 12,
+        .width = clsScreenWidth::Edit,
+        .ending = clsScreenEnding::SaveCancel,
+        .frames = {
+            {"bxGeneral", "Group Setup", {
+                {Text,    "txtReference",       "Reference:*", 0, Required},
+                {.kind = Other, .control = "txtName", .caption = "Name:*", .flags = Required, .other = &Name},
+                {Tick,    "chkEnhance",         "Enhance:"},
+                {Decimal, "txtEnhancementRate", "%", 0, StartsDisabled | SameRow},
+                {Tick,    "chkEnhanceComms",    "Enhance Communications:", 0, StartsDisabled},
+            }},
+            {"bxRates", "Rates", {
+                {.kind = Decimal, .control = "txtHourly",     .caption = "Hourly:*",      .member = "HourlyRate"},
+                {.kind = Decimal, .control = "txtCalls",      .caption = "Calls:*",       .member = "CallsRate"},
+                {.kind = Decimal, .control = "txtLettersIn",  .caption = "Letters In:*",  .member = "LettersInRate"},
+                {.kind = Decimal, .control = "txtLettersOut", .caption = "Letters Out:*", .member = "LettersOutRate"},
+                {.kind = Decimal, .control = "txtAdvocacy",   .caption = "Advocacy:*",    .member = "AdvocacyRate"},
+                {.kind = Decimal, .control = "txtCounsel",    .caption = "Counsel:*",     .member = "CounselRate"},
+                {.kind = Decimal, .control = "txtTravelAndWaiting", .caption = "Travel and Waiting:*",
+                 .member = "TravelAndWaitingRate"},
+                {Button,  "cmdLoad",            "Load"},
+                {Button,  "cmdEditRateSets",    "Edit Rate Sets", 0, SameRow},
+            }},
+        },
+        .rules = rules,
+        .itemWord = "Fee Earner Group",
+        .add = []() -> clsXMLRecord * { return Form->AddFeeEarnerGroup().get(); },
+        .fileMenu = false,
+    };
+    // clang-format on
+    return screen;
+}

@@ -1,0 +1,124 @@
+#include "editors/mdScreens.h"
+
+#include "controls/mdTheme.h"
+#include "controls/oSGrid.h"
+#include "editors/frmSection.h"
+#include "formdata/clsZR3Form.h"
+#include "shell/mdCustomMessages.h"
+#include "shell/mdGlobals.h"
+
+#include <QAction>
+
+namespace {
+
+QStringList emptyGroups()
+{
+    QStringList references;
+    for (const auto &group : Form->FeeEarnerGroupsCollection())
+        if (group->FeeEarnersCollection().empty())
+            references << group->Reference();
+    return references;
+}
+
+/// For a firm whose groups are its people: each group without a fee earner gets one of its own name.
+void createFeeEarners(frmSection &)
+{
+    const QStringList references = emptyGroups();
+    if (references.isEmpty()) {
+        mdCustomMessages(QStringLiteral("No Fee Earners were created"), QStringLiteral("No Empty Groups"));
+        return;
+    }
+    const QString paragraph = QStringLiteral("\r\n\r\n");
+    const QString question = QStringLiteral("Fee Earners will be created for the following groups") + paragraph
+        + references.join(QStringLiteral(", ")) + paragraph + QStringLiteral("Continue?");
+    if (mdCustomMessages(question, QStringLiteral("Continue?"), clsUserInterface::YesNo, 1) != clsUserInterface::Yes)
+        return;
+    for (const auto &group : Form->FeeEarnerGroupsCollection()) {
+        if (!group->FeeEarnersCollection().empty())
+            continue;
+        const auto feeEarner = Form->AddFeeEarner();
+        feeEarner->Reference = group->Reference();
+        feeEarner->GroupUniqueID = group->UniqueID();
+    }
+}
+
+QString whyNoFeeEarner()
+{
+    return Form->FeeEarnerGroupsCollection().empty() ? QStringLiteral("Add a group first.") : QString();
+}
+
+// clang-format off
+const clsItemList Groups {
+    .columns = {
+        {"Ref",   "Reference",       25},
+        {"Name",  "Name",            50},
+        {"Enh",   "Enhance",         10, clsGridAlignment::Centre},
+        {"Enh %", "EnhancementRate", 15, clsGridAlignment::Right},
+    },
+    .show = [](oSGrid &grid) { grid.setItemCollection(Form->FeeEarnerGroupsCollection()); },
+    .empty = "No groups yet. Add one to begin.",
+    .editor = ScreenFeeEarnerGroupEdit,
+    .item = [](int index) -> std::shared_ptr<clsXMLRecord> { return Form->FeeEarnerGroup(index); },
+    .remove = [](int index) { Form->DeleteFeeEarnerGroup(index); },
+    .keepsUsed = true,
+    .add = "cmdAddFeeEarnerGroup",
+    .menu = "mnuFeeEarnerGroups",
+    .deleteEntry = "mnuDeleteFeeEarnerGroup",
+    .actions = {{"mnuCreateFeeEarners", "&Create Fee Earners for Empty Groups", createFeeEarners}},
+};
+
+const clsItemList FeeEarners {
+    .columns = {
+        {"Ref",   "Reference",      50},
+        {"Group", "GroupReference", 50},
+    },
+    .show = [](oSGrid &grid) { grid.setItemCollection(Form->FeeEarnersCollection()); },
+    .empty = "No fee earners yet. Add one to begin.",
+    .editor = ScreenFeeEarnerEdit,
+    .item = [](int index) -> std::shared_ptr<clsXMLRecord> { return Form->FeeEarner(index); },
+    .remove = [](int index) { Form->DeleteFeeEarner(index); },
+    .keepsUsed = true,
+    .add = "cmdAddFeeEarner",
+    .whyNoAdd = whyNoFeeEarner,
+    .menu = "mnuFeeEarners",
+    .deleteEntry = "mnuDeleteFeeEarner",
+};
+// clang-format on
+
+void rules(frmSection &screen)
+{
+    for (const char *grid : {"sgFeeEarnerGroups", "sgFeeEarners"})
+        screen.Box<oSGrid>(grid).setEmptyGlyph(Glyph::People);
+    screen.findChild<QAction *>(QStringLiteral("mnuCreateFeeEarners"))
+        ->setIcon(mdGlyphIcon(Glyph::AddPerson, Theme::Ink));
+}
+
+} // namespace
+
+/// The groups of fee earners, which have the rates, and the fee earners themselves.
+const clsScreen &ScreenFeeEarnerGroups()
+{
+    using enum clsRowKind;
+    // clang-format off
+    static const clsScreen screen {
+        .name = "frmFeeEarnerGroups",
+        .header = "Fee Earners / Rates",
+        .subCaption = "Set up fee earners and rates for the bill element of the form",
+        .iconGroup = 12,
+        .width = clsScreenWidth::TwoColumns,
+        .ending = clsScreenEnding::Close,
+        .frames = {
+            {"bxFeeEarnerGroups", "Fee Earner Groups", {
+                {.kind = Items, .control = "sgFeeEarnerGroups", .caption = "Fee Earner Groups", .flags = NoCaption,
+                 .items = &Groups},
+            }},
+            {.name = "bxFeeEarners", .caption = "Fee Earners", .rows = {
+                {.kind = Items, .control = "sgFeeEarners", .caption = "Fee Earners", .flags = NoCaption,
+                 .items = &FeeEarners},
+            }, .startsColumn = true},
+        },
+        .rules = rules,
+    };
+    // clang-format on
+    return screen;
+}

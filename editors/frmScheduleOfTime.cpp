@@ -1,0 +1,87 @@
+#include "editors/mdScreens.h"
+
+#include "controls/oSGrid.h"
+#include "editors/frmSection.h"
+#include "formdata/clsZR3Form.h"
+#include "shell/mdGlobals.h"
+
+namespace {
+
+void renderForBill()
+{
+    Form->RenderScheduleOfTimeItemsForExport();
+    Form->RenderAdditionalInformationItems();
+}
+
+/// Whoever does a piece of work sets its price.
+QString whyNoAdd()
+{
+    return Form->FeeEarnersCollection().empty() ? QStringLiteral("Add a fee earner under Fee Earners / Rates first.")
+                                                : QString();
+}
+
+// clang-format off
+const clsItemList ScheduleItems {
+    .columns = {
+        {"Fee Earner", "FeeEarnerReference",    15},
+        {"Date",       "DDate",                 15},
+        {.caption = "DateSerial", .property = "DDateSerial", .sortKey = true},
+        {"Code",       "Code",                  10},
+        {"Time",       "TTime",                 15},
+        {"Adv",        "Advocacy",              9, clsGridAlignment::Centre},
+        {"Csl",        "Counsel",               9, clsGridAlignment::Centre},
+        {"Trv",        "Travel",                9, clsGridAlignment::Centre},
+        {"Wtg",        "Waiting",               9, clsGridAlignment::Centre},
+        {"Enh",        "IncludeInEnhancements", 9, clsGridAlignment::Centre},
+    },
+    .show = [](oSGrid &grid) { grid.setItemCollection(Form->ScheduleOfTimeItemsCollection()); },
+    .empty = "No items yet. Add one to begin.",
+    .editor = ScreenScheduleOfTimeItemEdit,
+    .item = [](int index) -> std::shared_ptr<clsXMLRecord> { return Form->ScheduleOfTimeItem(index); },
+    .remove = [](int index) { Form->DeleteScheduleOfTimeItem(index); },
+    .add = "cmdAddScheduleOfTimeItem",
+    .whyNoAdd = whyNoAdd,
+    .menu = "mnuScheduleOfTime",
+    .deleteEntry = "mnuDeleteScheduleOfTimeItem",
+    .changed = renderForBill,
+};
+// clang-format on
+
+void rules(frmSection &screen)
+{
+    // What stands on the bill depends on the tick and on the order, which the arrows change.
+    QObject::connect(&screen, &frmSection::Stored, &screen, renderForBill);
+}
+
+} // namespace
+
+/// The dated work of the bill. The tick takes effect where the screen is closed by its button only; all other ways out
+/// leave it as it was, and that is meant.
+const clsScreen &ScreenScheduleOfTime()
+{
+    using enum clsRowKind;
+    // clang-format off
+    static const clsScreen screen {
+        .name = "frmScheduleOfTime",
+        .header = "Schedule of Time",
+        .subCaption = "Edit the schedule of time for your form",
+        .iconGroup = 12,
+        .width = clsScreenWidth::List,
+        .ending = clsScreenEnding::Close,
+        .section = "Schedule of Time",
+        .record = []() -> clsXMLRecord * { return Form.get(); },
+        .frames = {
+            {"bxGeneral", "Schedule of Time", {
+                {.kind = Items, .control = "sgScheduleOfTime", .caption = "Schedule of Time", .items = &ScheduleItems},
+                {Tick, "chkExcludeNonAdvocacy", "Exclude Non-Advocacy Items from Bill (Claim1A Only):", 0, SameRow | AtCloseOnly},
+            }},
+        },
+        .rules = rules,
+        .jumps = {
+            {"cmdDisbursements",  "mnuDisbursements",  "Disbursements"},
+            {"cmdCommunications", "mnuCommunications", "Communications"},
+        },
+    };
+    // clang-format on
+    return screen;
+}

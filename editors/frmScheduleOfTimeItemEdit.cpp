@@ -1,0 +1,159 @@
+#include "editors/mdScreens.h"
+
+#include "controls/oCheckBox.h"
+#include "controls/oDateBox.h"
+#include "controls/oTimeBox.h"
+#include "editors/frmSection.h"
+#include "editors/mdCheckForBlanks.h"
+#include "editors/oCodeCombo.h"
+#include "editors/oEnhancementsBox.h"
+#include "editors/oFeeEarnerCombo.h"
+#include "formdata/clsZR3Form.h"
+#include "shell/mdGlobals.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+namespace {
+
+clsZR3ScheduleOfTimeItem &itemOf(clsXMLRecord &record)
+{
+    return static_cast<clsZR3ScheduleOfTimeItem &>(record);
+}
+
+void loadFeeEarner(const clsScreenRow &, QWidget &control, clsXMLRecord &record)
+{
+    static_cast<oFeeEarnerCombo &>(control).setSelectedFeeEarner(itemOf(record).FeeEarner());
+}
+
+/// An item of a file whose fee earner is missing keeps what it says, until one is chosen.
+void storeFeeEarner(const clsScreenRow &, const QWidget &control, clsXMLRecord &record)
+{
+    const auto &list = static_cast<const oFeeEarnerCombo &>(control);
+    if (list.SelectedFeeEarner())
+        itemOf(record).FeeEarnerUniqueID = list.SelectedFeeEarnerUniqueID();
+}
+
+const clsOtherControl FeeEarner {
+    .make = [](const clsScreenRow &, QWidget *parent) -> QWidget * { return new oFeeEarnerCombo(parent); },
+    .load = loadFeeEarner,
+    .store = storeFeeEarner,
+    .tall = false,
+};
+
+void loadCode(const clsScreenRow &, QWidget &control, clsXMLRecord &record)
+{
+    static_cast<oCodeCombo &>(control).setCode(itemOf(record).Code());
+}
+
+void storeCode(const clsScreenRow &, const QWidget &control, clsXMLRecord &record)
+{
+    itemOf(record).Code = static_cast<const oCodeCombo &>(control).Code();
+}
+
+const clsOtherControl Code {
+    .make = [](const clsScreenRow &, QWidget *parent) -> QWidget * { return new oCodeCombo(parent); },
+    .load = loadCode,
+    .store = storeCode,
+    .tall = false,
+};
+
+/// Function keys choose the fee earner from every field, before any of them takes the key for itself, as lists do with
+/// F4.
+class clsFunctionKeys final : public QObject {
+public:
+    explicit clsFunctionKeys(frmSection &screen)
+        : QObject(&screen)
+        , m_screen(screen)
+    {
+        qApp->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::KeyPress)
+            return false;
+        const auto *part = qobject_cast<const QWidget *>(watched);
+        if (!part || part->window() != &m_screen)
+            return false;
+        const auto *key = static_cast<QKeyEvent *>(event);
+        return m_screen.Box<oFeeEarnerCombo>("cmbFeeEarner")
+            .SelectByKeyCode(oFeeEarnerCombo::KeyCodeOf(key->key()), key->modifiers());
+    }
+
+private:
+    frmSection &m_screen;
+};
+
+/// A box without a date is right as long as its tick says so: an item may have none.
+bool dateIsGiven(const frmSection &screen)
+{
+    const auto &date = screen.Box<oDateBox>("txtDate");
+    auto *text = date.findChild<QLineEdit *>(QStringLiteral("txtText"));
+    if (!date.findChild<oCheckBox *>(QStringLiteral("chkShowDate"))->Checked()
+        || mdCheckForBlanks(QStringList {text->text()}))
+        return true;
+    text->setFocus(Qt::TabFocusReason);
+    return false;
+}
+
+void rules(frmSection &screen)
+{
+    new clsFunctionKeys(screen);
+    screen.setMayStore([&screen] { return dateIsGiven(screen); });
+    QObject::connect(&screen.Box<oCheckBox>("chkAdvocacy"), &oCheckBox::Click, &screen, [&screen](bool advocacy) {
+        auto &useHourlyRate = screen.Box<oCheckBox>("chkUseHourlyRate");
+        useHourlyRate.setEnabled(advocacy);
+        if (!advocacy)
+            useHourlyRate.setChecked(false);
+    });
+    // A time has a colon from the first: without one the item could not be priced.
+    QObject::connect(&screen, &frmSection::Loaded, &screen, [&screen] {
+        auto &time = screen.Box<oTimeBox>("txtTime");
+        if (time.Text().isEmpty())
+            time.setText(QStringLiteral("00:00"));
+    });
+}
+
+} // namespace
+
+/// A piece of work: whose, when, what and how long, and in which capacity, which decides on its rate. Advocacy goes
+/// with each of the three that exclude each other: an advocate may attend counsel, travel or wait.
+const clsScreen &ScreenScheduleOfTimeItemEdit()
+{
+    using enum clsRowKind;
+    // clang-format off
+    static const clsScreen screen {
+        .name = "frmScheduleOfTimeItemEdit",
+        .header = "Schedule of Time Item",
+        .subCaption = "Change a schedule of time item's settings",
+        .iconGroup = 12,
+        .width = clsScreenWidth::Edit,
+        .ending = clsScreenEnding::SaveCancel,
+        .frames = {
+            {"bxGeneral", "Schedule of Time Item", {
+                {.kind = Other, .control = "cmbFeeEarner",     .caption = "Fee Earner:*", .other = &FeeEarner},
+                {.kind = Date,  .control = "txtDate",          .caption = "Date:*", .flags = DateTick | Required, .member = "dDate"},
+                {.kind = Other, .control = "cmbCode",          .caption = "Code:*", .other = &Code},
+                {.kind = Text,  .control = "txtDescription",   .caption = "Description:", .flags = SpellCheck},
+                {.kind = Time,  .control = "txtTime",          .caption = "Time:*", .member = "TTime"},
+                {Separator},
+                {.kind = Tick,  .control = "chkAdvocacy",      .caption = "Advocacy:"},
+                {.kind = Tick,  .control = "chkCounsel",       .caption = "Counsel:", .group = 'c'},
+                {.kind = Tick,  .control = "chkTravel",        .caption = "Travel:", .group = 'c'},
+                {.kind = Tick,  .control = "chkWaiting",       .caption = "Waiting:", .group = 'c', .beside = "chkAdvocacy"},
+                {.kind = Tick,  .control = "chkUseHourlyRate", .caption = "Use Hourly Rate:", .flags = StartsDisabled, .beside = "chkCounsel"},
+                {Separator},
+                {.kind = Other, .control = "oEnhancement",     .caption = "Include in Enhancements:", .other = &EnhancementsOfItem},
+            }},
+        },
+        .rules = rules,
+        .itemWord = "Schedule of Time Item",
+        .add = []() -> clsXMLRecord * { return Form->AddScheduleOfTimeItem().get(); },
+        .fileMenu = false,
+    };
+    // clang-format on
+    return screen;
+}

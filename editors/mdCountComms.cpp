@@ -1,0 +1,53 @@
+#include "editors/mdCountComms.h"
+
+#include "costing/clsZR3FeeEarner.h"
+#include "shell/clsRunTimeError.h"
+#include "shell/mdNumberText.h"
+
+#include <algorithm>
+
+namespace {
+
+// clang-format off
+constexpr clsCommsCount Counts[] = {
+    {Qt::Key_C, "Calls",      3, "txtCalls"},
+    {Qt::Key_I, "LettersIn",  4, "txtLettersIn"},
+    {Qt::Key_O, "LettersOut", 5, "txtLettersOut"},
+};
+
+constexpr clsCommsStep Up   {+1, "Sounds/Blip.wav"};
+constexpr clsCommsStep Down {-1, "Sounds/Blip Low.wav"};
+// clang-format on
+
+} // namespace
+
+const clsCommsCount *mdCommsCountOfKey(int key)
+{
+    for (const clsCommsCount &row : Counts)
+        if (row.key == key)
+            return &row;
+    return nullptr;
+}
+
+const clsCommsCount *mdCommsCountAtColumn(int column)
+{
+    for (const clsCommsCount &row : Counts)
+        if (row.column == column)
+            return &row;
+    return nullptr;
+}
+
+const clsCommsStep &mdCommsStep(Qt::KeyboardModifiers shift)
+{
+    // Exactly Shift: with Control or Alt beside it the count goes up. That is meant.
+    constexpr Qt::KeyboardModifiers state = Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier;
+    return (shift & state) == Qt::ShiftModifier ? Down : Up;
+}
+
+void mdCountComms(clsZR3FeeEarner &feeEarner, const clsCommsCount &count, int by)
+{
+    clsXMLField *field = feeEarner.field(QString::fromUtf8(count.count));
+    if (!field)
+        throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
+    field->writeLong(std::max(0, LongFromDouble(double(field->readLong()) + by)));
+}

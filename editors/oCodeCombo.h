@@ -1,0 +1,33 @@
+#pragma once
+
+#include "controls/clsHoldingBox.h"
+
+#include <QComboBox>
+
+/// The list of activity codes, in which a code can be typed as well: it completes what is typed, and on leaving turns
+/// it to upper case and checks it. What is no code is told once, and the user is held until it is one; Esc and the
+/// close box are free. A code that the program writes is shown as it is and not checked.
+class oCodeCombo : public QComboBox, public clsHoldingBox {
+    Q_OBJECT
+
+public:
+    explicit oCodeCombo(QWidget *parent = nullptr);
+
+    QString Code() const { return currentText(); }
+    void setCode(const QString &code);
+
+    bool leave() override;
+    const QWidget &whole() const override { return *this; }
+
+    QSize sizeHint() const override;
+
+protected:
+    bool event(QEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void explain();
+
+    bool m_telling = false;
+};

@@ -1,0 +1,153 @@
+#include "editors/oFeeEarnerCombo.h"
+
+#include "editors/mdComboboxSelectByItemData.h"
+#include "editors/mdInOrder.h"
+#include "formdata/clsZR3Form.h"
+#include "shell/mdExisting.h"
+#include "shell/mdGlobals.h"
+
+#include <QAbstractItemView>
+#include <QKeyEvent>
+#include <QSignalBlocker>
+
+namespace {
+
+struct clsKeyTier {
+    Qt::KeyboardModifiers held;
+    int offset;
+    const char *prefix;
+};
+
+// The prefix of the last tier has no blank behind it: its labels read "Shift-Control-AltF1" and so on. That is meant.
+// clang-format off
+constexpr clsKeyTier Tiers[] = {
+    {Qt::NoModifier,                                              0, ""},
+    {Qt::ShiftModifier,                                          12, "Shift "},
+    {Qt::ControlModifier,                                        24, "Control "},
+    {Qt::AltModifier,                                            36, "Alt "},
+    {Qt::ShiftModifier | Qt::ControlModifier,                    48, "Shift-Control "},
+    {Qt::ControlModifier | Qt::AltModifier,                      60, "Control-Alt "},
+    {Qt::ShiftModifier | Qt::AltModifier,                        72, "Shift-Alt "},
+    {Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier,  84, "Shift-Control-Alt"},
+};
+// clang-format on
+
+constexpr int FirstKeyCode = 112;
+constexpr int LastKeyCode = 123;
+constexpr int KeysOfTier = 12;
+
+int offsetOf(Qt::KeyboardModifiers modifiers)
+{
+    const Qt::KeyboardModifiers held = modifiers & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
+    for (const clsKeyTier &tier : Tiers)
+        if (tier.held == held)
+            return tier.offset;
+    return 0;
+}
+
+/// What stands before the reference at a place, which counts from 0; nothing for a place that no key reaches.
+QString labelOf(int place)
+{
+    for (const clsKeyTier &tier : Tiers)
+        if (place >= tier.offset && place < tier.offset + KeysOfTier)
+            return QLatin1String(tier.prefix) + u'F' + QString::number(place - tier.offset + 1) + QStringLiteral(" - ");
+    return {};
+}
+
+} // namespace
+
+oFeeEarnerCombo::oFeeEarnerCombo(QWidget *parent)
+    : oScreenList(parent)
+{
+    connect(this, &QComboBox::currentIndexChanged, this, &oFeeEarnerCombo::Change);
+    // The next new item starts on the fee earner that the user chose for this one.
+    connect(this, &QComboBox::activated, this, [](int place) { Form->DefaultFeeEarnerListIndex = place; });
+    view()->installEventFilter(this);
+    fill();
+}
+
+void oFeeEarnerCombo::fill()
+{
+    {
+        const QSignalBlocker quiet(this);
+        clear();
+        for (const auto &feeEarner : mdInOrder(Form->FeeEarnersCollection()))
+            addItem(labelOf(count()) + feeEarner->Reference(), feeEarner->Index);
+        const int chosenLast = Form->DefaultFeeEarnerListIndex();
+        const int first = count() > 0 ? 0 : -1;
+        setCurrentIndex(chosenLast >= 0 && chosenLast < count() ? chosenLast : first);
+    }
+    updateGeometry();
+    emit Change();
+}
+
+std::shared_ptr<clsZR3FeeEarner> oFeeEarnerCombo::SelectedFeeEarner() const
+{
+    return currentIndex() < 0 ? nullptr : Form->FeeEarner(currentData().toInt());
+}
+
+void oFeeEarnerCombo::setSelectedFeeEarner(const std::shared_ptr<clsZR3FeeEarner> &feeEarner)
+{
+    if (feeEarner)
+        mdComboboxSelectByItemData(*this, feeEarner->Index);
+    else
+        setCurrentIndex(-1);
+}
+
+QString oFeeEarnerCombo::SelectedFeeEarnerUniqueID() const
+{
+    const auto selected = SelectedFeeEarner();
+    return selected ? selected->UniqueID() : QString();
+}
+
+bool oFeeEarnerCombo::SelectByKeyCode(int keyCode, Qt::KeyboardModifiers modifiers)
+{
+    if (keyCode < FirstKeyCode || keyCode > LastKeyCode)
+        return false;
+    const int place = keyCode - FirstKeyCode + offsetOf(modifiers);
+    if (place < count()) {
+        setCurrentIndex(place);
+        emit activated(place);
+    }
+    // Consumed beyond the end of the list as well, so that a key never does something else just because the claim has
+    // few fee earners.
+    return true;
+}
+
+int oFeeEarnerCombo::KeyCodeOf(int key)
+{
+    return key >= Qt::Key_F1 && key <= Qt::Key_F12 ? FirstKeyCode + key - Qt::Key_F1 : 0;
+}
+
+bool oFeeEarnerCombo::takeKey(const QKeyEvent &event)
+{
+    return SelectByKeyCode(KeyCodeOf(event.key()), event.modifiers());
+}
+
+bool oFeeEarnerCombo::event(QEvent *event)
+{
+    // Neither a menu nor a shortcut gets a function key while the list has the focus.
+    if (event->type() == QEvent::ShortcutOverride && KeyCodeOf(static_cast<QKeyEvent *>(event)->key())) {
+        event->accept();
+        return true;
+    }
+    return oScreenList::event(event);
+}
+
+bool oFeeEarnerCombo::eventFilter(QObject *watched, QEvent *event)
+{
+    // The open list: what a key chooses closes it.
+    if (watched == view() && event->type() == QEvent::KeyPress && takeKey(*static_cast<QKeyEvent *>(event))) {
+        hidePopup();
+        return true;
+    }
+    return oScreenList::eventFilter(watched, event);
+}
+
+void oFeeEarnerCombo::keyPressEvent(QKeyEvent *event)
+{
+    if (takeKey(*event))
+        event->accept();
+    else
+        oScreenList::keyPressEvent(event);
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "costing/clsZR3FeeEarner.h"
+#include "costing/clsZR3FeeEarnerGroup.h"
+#include "editors/mdScreens.h"
+#include "tests/editors/clsModalTest.h"
+
+/// A test of the screens of fee earners: makes groups and fee earners, and opens the editor of one.
+class clsFeeEarnersTest : public clsModalTest {
+protected:
+    static std::shared_ptr<clsZR3FeeEarnerGroup> addGroup(const char *reference, const char *name = "")
+    {
+        const auto group = Form->AddFeeEarnerGroup();
+        group->Reference = QString::fromUtf8(reference);
+        group->Name = QString::fromUtf8(name);
+        return group;
+    }
+    static std::shared_ptr<clsZR3FeeEarner> addFeeEarner(const QString &reference, const clsZR3FeeEarnerGroup &group)
+    {
+        const auto feeEarner = Form->AddFeeEarner();
+        feeEarner->Reference = reference;
+        feeEarner->GroupUniqueID = group.UniqueID();
+        return feeEarner;
+    }
+    /// So many fee earners of one group, whose references are their places.
+    static void addFeeEarners(int count)
+    {
+        const auto group = addGroup("PTR");
+        for (int n = 1; n <= count; ++n)
+            addFeeEarner(QString::number(n), *group);
+    }
+    static std::unique_ptr<frmSection> edit(const clsScreen &editor, clsXMLRecord *item)
+    {
+        auto screen = std::make_unique<frmSection>(editor);
+        screen->Initialise(item);
+        show(*screen);
+        return screen;
+    }
+};

@@ -215,7 +215,8 @@ void frmSection::Initialise(clsXMLRecord *item)
     for (const clsScreenField &field : m_fields) {
         if (focusWidget())
             break;
-        if (field.control->isEnabledTo(this) && (field.control->focusProxy() || field.control->focusPolicy()))
+        const bool offered = field.control->isEnabledTo(this) && field.control->isVisibleTo(this);
+        if (offered && (field.control->focusProxy() || field.control->focusPolicy()))
             field.control->setFocus(Qt::TabFocusReason);
     }
 }

@@ -2,12 +2,14 @@
 
 #include "controls/mdLeaveFocusedBox.h"
 #include "controls/mdShowModal.h"
+#include "controls/oAllPurposeBox.h"
 #include "controls/oFooterBar.h"
 #include "controls/oHeaderBar.h"
 #include "controls/oTabBar.h"
 #include "controls/oTimeSpentBox.h"
 #include "costing/mdCheckForBlankItems.h"
 #include "editors/mdSections.h"
+#include "editors/mdShowPreferences.h"
 #include "editors/mdUnloadAndDummyTabClick.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
@@ -47,6 +49,7 @@
 namespace {
 
 constexpr int AutoBackupMilliseconds = 10000;
+constexpr int ReplacementsPage = 2;
 
 /// The claim among what is dragged on to the window, empty where there is none or more than one.
 QString draggedClaim(const QMimeData &data)
@@ -79,12 +82,15 @@ frmMain::frmMain(QWidget *parent)
     connect(sgPreview, &oPreviewGrid::RightClick, this,
         [this](const QPoint &place) { menuBar()->findChild<QMenu *>(QStringLiteral("mnuPreview"))->popup(place); });
     SetOpenSection([this](const QString &text) { tbSubSection_Click(-1, text); });
+    // From a box of whatever screen is open, over that screen.
+    SetEditReplacements([] { mdShowPreferences(QApplication::activeWindow(), ReplacementsPage); });
     SetFormDisplay({[this] { Activate(); }, mdClearPreview, [this] { oFooter->TimeSpentTimer()->StopTimer(); }});
 }
 
 frmMain::~frmMain()
 {
     SetFormDisplay({});
+    SetEditReplacements({});
     SetOpenSection({});
     PreviewGrid = nullptr;
     TimeSpentBox = nullptr;
@@ -181,11 +187,11 @@ void frmMain::tbSubSection_Click(int index, const QString &tag)
         Activate();
 }
 
-void frmMain::showModal(QDialog &dialog)
+void frmMain::whileModal(const std::function<void()> &show)
 {
     {
         const QScopedValueRollback<bool> modal(m_modal, true);
-        mdShowModal(dialog);
+        show();
     }
     Activate();
 }
@@ -333,7 +339,12 @@ void frmMain::ExportToWord()
         return;
     }
     frmExportToWord dialog(this);
-    showModal(dialog);
+    whileModal([&dialog] { mdShowModal(dialog); });
+}
+
+void frmMain::ShowPreferences()
+{
+    whileModal([this] { mdShowPreferences(this); });
 }
 
 void frmMain::CheckForBlank()
@@ -359,7 +370,7 @@ void frmMain::MakeASuggestion()
 void frmMain::About()
 {
     frmAbout dialog(wordInstalled(), this);
-    showModal(dialog);
+    whileModal([&dialog] { mdShowModal(dialog); });
 }
 
 void frmMain::dragEnterEvent(QDragEnterEvent *event)

@@ -49,6 +49,7 @@ public:
     void SaveAs();
     void ExportToWord();
     void Exit() { close(); }
+    void ShowPreferences();
     void CheckForBlank();
     void PreviewScheduleOfTime() { drawPreview(clsPreviewKind::ScheduleOfTime); }
     void PreviewAdditionalInformation() { drawPreview(clsPreviewKind::AdditionalInformation); }
@@ -77,7 +78,7 @@ private:
     void build();
     void buildTabs();
     void tbSection_Click();
-    void showModal(QDialog &dialog);
+    void whileModal(const std::function<void()> &show);
     void drawPreview(clsPreviewKind kind);
     void refreshPreview();
     void redraw(void (*routine)(clsPreviewKind));

@@ -14,7 +14,7 @@ struct clsMenuRow {
     const char *text;
     const char *member;
     const char *key; ///< empty for none
-    void (frmMain::*action)(); ///< nothing where the command is still to come
+    void (frmMain::*action)();
     bool separatorAfter = false;
     Glyph glyph = Glyph::None;
 };
@@ -27,7 +27,7 @@ constexpr clsMenuRow MenuRows[] = {
     {"&File",    "Save &As...",                   "mnuSaveAs",                       "",       &frmMain::SaveAs,                       true},
     {"&File",    "&Export to Word",               "mnuExportToWord",                 "Ctrl+W", &frmMain::ExportToWord,                 true},
     {"&File",    "E&xit",                         "mnuExit",                         "Ctrl+Q", &frmMain::Exit},
-    {"&Tools",   "&Preferences",                  "mnuPreferences",                  "Ctrl+P", nullptr,                                true, Glyph::Sliders},
+    {"&Tools",   "&Preferences",                  "mnuPreferences",                  "Ctrl+P", &frmMain::ShowPreferences,              true, Glyph::Sliders},
     {"&Tools",   "&Check For Blank Time / Values", "mnuCheckForBlankItems",          "",       &frmMain::CheckForBlank},
     {"&Preview", "&Schedule of Time",             "mnuPreviewScheduleOfTime",        "Ctrl+T", &frmMain::PreviewScheduleOfTime},
     {"&Preview", "&Additional Information",       "mnuPreviewAdditionalInformation", "Ctrl+I", &frmMain::PreviewAdditionalInformation},
@@ -59,9 +59,7 @@ void mdBuildMainMenu(frmMain &window)
         entry->setObjectName(QString::fromLatin1(row.member));
         entry->setShortcut(QKeySequence(QString::fromLatin1(row.key)));
         entry->setIcon(mdGlyphIcon(row.glyph, Theme::Ink2));
-        entry->setEnabled(row.action != nullptr);
-        if (row.action)
-            QObject::connect(entry, &QAction::triggered, &window, row.action);
+        QObject::connect(entry, &QAction::triggered, &window, row.action);
         if (row.separatorAfter)
             menu->addSeparator();
     }

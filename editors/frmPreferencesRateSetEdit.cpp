@@ -1,0 +1,90 @@
+#include "editors/mdScreens.h"
+
+#include "controls/oCustomButton.h"
+#include "controls/oDecimalBox.h"
+#include "costing/Money.h"
+#include "editors/frmSection.h"
+#include "formdata/clsZR3PreferencesDatabase.h"
+#include "shell/mdGlobals.h"
+#include "shell/mdNumberText.h"
+
+namespace {
+
+/// What a rate is of the hourly one.
+struct clsShare {
+    const char *control;
+    double factor;
+};
+
+// clang-format off
+constexpr clsShare Shares[] = {
+    {"txtCalls",            0.1},
+    {"txtLettersOut",       0.1},
+    {"txtLettersIn",        0.05},
+    {"txtAdvocacy",         1.0},
+    {"txtCounsel",          1.0},
+    {"txtTravelAndWaiting", 1.0},
+};
+// clang-format on
+
+void calculate(const frmSection &screen)
+{
+    const double hourly = MoneyFromDouble(TextValue(screen.Box<oDecimalBox>("txtHourly").Text())).toDouble();
+    for (const clsShare &share : Shares)
+        screen.Box<oDecimalBox>(share.control).setText(MoneyToText(RoundMoney2(hourly * share.factor)));
+}
+
+/// A decimal box that nobody has been in is empty, and a rate is not: what prices the bill takes no empty text for one.
+void fillEmptyRates(const frmSection &screen)
+{
+    for (const clsScreenField &field : screen.Fields())
+        if (auto *box = qobject_cast<oDecimalBox *>(field.control); box && box->Text().isEmpty())
+            box->setText(QStringLiteral("0.00"));
+}
+
+void rules(frmSection &screen)
+{
+    QObject::connect(
+        &screen.Box<oCustomButton>("cmdCalculate"), &oCustomButton::Click, &screen, [&screen] { calculate(screen); });
+    screen.setMayStore([&screen] {
+        fillEmptyRates(screen);
+        return true;
+    });
+}
+
+} // namespace
+
+/// A named set of rates, from which a fee earner group can take its own.
+const clsScreen &ScreenPreferencesRateSetEdit()
+{
+    using enum clsRowKind;
+    // clang-format off
+    static const clsScreen screen {
+        .name = "frmPreferencesRateSetEdit",
+        .header = "Rate Set",
+        .subCaption = "Edit a standard rate set",
+        .iconGroup = 12,
+        .width = clsScreenWidth::Edit,
+        .ending = clsScreenEnding::SaveCancel,
+        .frames = {
+            {"bxGeneral", "", {
+                {Text,    "txtName",       "Name:*", 0, Required},
+                {.kind = Decimal, .control = "txtHourly",     .caption = "Hourly:*",      .member = "HourlyRate"},
+                {Button,  "cmdCalculate",  "Calculate", 0, SameRow},
+                {.kind = Decimal, .control = "txtCalls",      .caption = "Calls:*",       .member = "CallsRate"},
+                {.kind = Decimal, .control = "txtLettersIn",  .caption = "Letters In:*",  .member = "LettersInRate"},
+                {.kind = Decimal, .control = "txtLettersOut", .caption = "Letters Out:*", .member = "LettersOutRate"},
+                {.kind = Decimal, .control = "txtAdvocacy",   .caption = "Advocacy:*",    .member = "AdvocacyRate"},
+                {.kind = Decimal, .control = "txtCounsel",    .caption = "Counsel:*",     .member = "CounselRate"},
+                {.kind = Decimal, .control = "txtTravelAndWaiting", .caption = "Travel and Waiting:*",
+                 .member = "TravelAndWaitingRate"},
+            }},
+        },
+        .rules = rules,
+        .itemWord = "Rate Set",
+        .add = []() -> clsXMLRecord * { return Preferences->AddRateSet().get(); },
+        .fileMenu = false,
+    };
+    // clang-format on
+    return screen;
+}

@@ -1,0 +1,56 @@
+#include "editors/mdScreens.h"
+
+#include "controls/oAllPurposeBox.h"
+#include "editors/frmSection.h"
+#include "formdata/clsZR3PreferencesDatabase.h"
+#include "formdata/mdReplacements.h"
+#include "shell/mdCustomMessages.h"
+#include "shell/mdGlobals.h"
+
+namespace {
+
+bool mayStore(const frmSection &screen)
+{
+    auto &inputText = screen.Box<oAllPurposeBox>("txtInputText");
+    if (IsValidInputText(inputText.Text()))
+        return true;
+    mdCustomMessages(QStringLiteral("Only alpha-numeric characters are allowed in the Input Text field"),
+        QStringLiteral("Invalid Characters"));
+    inputText.setFocus(Qt::TabFocusReason);
+    return false;
+}
+
+void rules(frmSection &screen)
+{
+    screen.setMayStore([&screen] { return mayStore(screen); });
+}
+
+} // namespace
+
+/// An abbreviation and the text that it stands for. The abbreviation's own box expands nothing: it would put the text
+/// in its place as soon as a blank is typed behind it.
+const clsScreen &ScreenReplacementEdit()
+{
+    using enum clsRowKind;
+    // clang-format off
+    static const clsScreen screen {
+        .name = "frmReplacementEdit",
+        .header = "Replacement",
+        .subCaption = "Change input and output text",
+        .iconGroup = 12,
+        .width = clsScreenWidth::Edit,
+        .ending = clsScreenEnding::SaveCancel,
+        .frames = {
+            {"bxGeneral", "", {
+                {Text, "txtInputText",  "Input Text:*", 0, Required | NoReplacements},
+                {Text, "txtOutputText", "Output Text:*", 0, Required},
+            }},
+        },
+        .rules = rules,
+        .itemWord = "Replacement",
+        .add = []() -> clsXMLRecord * { return Preferences->AddReplacement().get(); },
+        .fileMenu = false,
+    };
+    // clang-format on
+    return screen;
+}

@@ -1,0 +1,108 @@
+#pragma once
+
+#include "editors/mdScreenControls.h"
+#include "editors/mdScreens.h"
+#include "formdata/clsZR3PreferencesDatabase.h"
+#include "shell/clsFileSystem.h"
+#include "shell/mdDatabasePath.h"
+#include "shell/mdGetResourceData.h"
+#include "shell/mdProgramFolder.h"
+#include "tests/editors/clsScreenTest.h"
+
+#include <QDir>
+#include <QTimer>
+
+/// A test of the preferences' screens: a program folder with a fresh preferences file, which has been loaded.
+class clsPreferencesTest : public clsScreenTest {
+protected:
+    void SetUp() override
+    {
+        clsScreenTest::SetUp();
+        for (const char *name : {"program/Databases", "program/Logs"})
+            ASSERT_TRUE(QDir(folder.path()).mkpath(QString::fromLatin1(name)));
+        SetProgramFolder(path("program"));
+        SetDatabasePath(path("program/Databases"));
+        put(File,
+            GetResourceData(QStringLiteral("xmlZR3PreferencesDatabase"), QStringLiteral("VELMORZR3XML")).toLatin1());
+        Preferences = std::make_unique<clsZR3PreferencesDatabase>();
+    }
+    void TearDown() override
+    {
+        FileSystem().faultPoint = nullptr;
+        Preferences.reset();
+        SetProgramFolder(QString());
+        clsScreenTest::TearDown();
+    }
+
+    static constexpr const char *File = "program/Databases/Preferences Database.vzp";
+    QByteArray file() const { return bytesOf(path(File)); }
+
+    static std::shared_ptr<clsZR3Replacement> addReplacement(const char *input, const char *output)
+    {
+        const auto item = Preferences->AddReplacement();
+        item->InputText = QString::fromUtf8(input);
+        item->OutputText = QString::fromUtf8(output);
+        return item;
+    }
+    static std::shared_ptr<clsZR3RateSet> addRateSet(const char *name, const char *hourly)
+    {
+        const auto item = Preferences->AddRateSet();
+        item->Name = QString::fromUtf8(name);
+        item->HourlyRate = QString::fromUtf8(hourly);
+        return item;
+    }
+    /// The abbreviations and their texts in the order of the file.
+    static QStringList replacements()
+    {
+        QStringList result;
+        for (const auto &item : Preferences->ReplacementsCollection())
+            result << item->InputText() + u'>' + item->OutputText();
+        return result;
+    }
+    static QStringList rateSets()
+    {
+        QStringList result;
+        for (const auto &item : Preferences->RateSetsCollection())
+            result << item->Name() + u'>' + item->HourlyRate();
+        return result;
+    }
+
+    /// An item's editor, filled and shown; without an item for a new one.
+    static std::unique_ptr<frmSection> editor(const clsScreen &table, clsXMLRecord *item = nullptr)
+    {
+        auto screen = std::make_unique<frmSection>(table);
+        screen->Initialise(item);
+        show(*screen);
+        return screen;
+    }
+
+    /// Does something on the window of that name as soon as it is open over the others, and leaves it closed.
+    static void onceOpened(const char *name, std::function<void(frmSection &)> use)
+    {
+        auto *watch = new QTimer(qApp);
+        QObject::connect(watch, &QTimer::timeout, watch, [watch, name, use, asked = 0]() mutable {
+            auto *modal = qobject_cast<frmSection *>(QApplication::activeModalWidget());
+            const bool open = modal && modal->objectName() == QLatin1String(name) && modal->isVisible();
+            if (!open && ++asked < 1000)
+                return;
+            watch->stop();
+            watch->deleteLater();
+            if (!open) {
+                ADD_FAILURE() << name << " isn't opened";
+                return;
+            }
+            // The first window below may still be about to be told that it is the active one.
+            QCoreApplication::processEvents();
+            modal->activateWindow();
+            EXPECT_TRUE(QTest::qWaitForWindowActive(modal));
+            use(*modal);
+            if (modal->isVisible()) {
+                ADD_FAILURE() << name << " stays open";
+                modal->close();
+            }
+        });
+        watch->start(5);
+    }
+
+    static QString text(const frmSection &screen, const char *box) { return mdTextOf(screen.Box(box)); }
+};

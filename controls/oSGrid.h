@@ -50,6 +50,8 @@ public:
         m_readItems = [&collection] { return clsGridItems(collection.begin(), collection.end()); };
     }
     template <class Item> void setItemCollection(const std::vector<std::shared_ptr<Item>> &&collection) = delete;
+    /// The same for a collection that is put together for each `Redraw`.
+    void setItemCollection(std::function<clsGridItems()> collect) { m_readItems = std::move(collect); }
     clsGridItems ItemCollection() const { return m_readItems ? m_readItems() : clsGridItems(); }
 
     /// Lays out the columns and fills the rows; for once after the columns and the collection are given.

@@ -160,7 +160,10 @@ void clsFrameRows::addToRowBefore(const clsScreenRow &row, QWidget *control)
     if (!m_cellEndsRight)
         m_cell->insertSpacing(place++, Theme::Space24);
     if (row.kind != clsRowKind::Button && !(row.flags & NoCaption)) {
-        m_cell->insertWidget(place++, label(row, oFieldLabel::Place::Beside, control));
+        oFieldLabel *caption = label(row, oFieldLabel::Place::Beside, control);
+        if (m_cellEndsRight)
+            caption->setOneLine();
+        m_cell->insertWidget(place++, caption);
         m_cell->insertSpacing(place++, Theme::Space8);
     }
     m_cell->insertWidget(place, control);

@@ -20,7 +20,7 @@ constexpr clsSection Sections[] = {
     {"Schedule of Time",           "frmScheduleOfTime",          ScreenScheduleOfTime},
     {"Disbursements",              "frmDisbursements",           ScreenDisbursements},
     {"Family Advocacy Scheme",     "frmFamilyAdvocacyScheme",    ScreenFamilyAdvocacyScheme},
-    {"Communications",             "frmCommunications",          nullptr},
+    {"Communications",             "frmCommunications",          ScreenCommunications},
     {"Client Details",             "frmClientDetails",           ScreenClientDetails},
     {"Solicitor Details",          "frmSolicitorDetails",        ScreenSolicitorDetails},
     {"Previous Advice",            "frmPreviousAdvice",          ScreenPreviousAdvice},

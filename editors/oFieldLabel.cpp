@@ -48,6 +48,12 @@ void oFieldLabel::setField(QWidget *field)
     setEnabled(field->isEnabled());
 }
 
+void oFieldLabel::setOneLine()
+{
+    setWordWrap(false);
+    setMaximumWidth(QWIDGETSIZE_MAX);
+}
+
 void oFieldLabel::setTopOfFirstLine(int top)
 {
     setAlignment(Qt::AlignRight | Qt::AlignTop);

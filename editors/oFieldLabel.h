@@ -26,6 +26,8 @@ public:
     void setField(QWidget *field);
     /// Whether a tick is ticked by this label's letter.
     void setTicks(bool ticks) { m_ticks = ticks; }
+    /// Keeps a long caption in one line, where it has the whole width of the frame and not only the column of labels.
+    void setOneLine();
     /// Keeps the label level with a tall box's first line.
     void setTopOfFirstLine(int top);
 

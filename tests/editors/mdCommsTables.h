@@ -6,7 +6,7 @@
 inline const std::vector<clsExpectedScreen> ExpectedCommsScreens {
     {"Communications", "frmCommunications", "Communications", "Assign letters and calls to fee earners",
      "communications", {
-        {"sgCommunications", "", nullptr, 'g'},
+        {"sgCommunications", "Communications", nullptr, 'g'},
         {"oCallsEnhancement", "Include in Enhancements:", nullptr, 'o', 0, false, false, "bxCalls"},
         {"oLettersInEnhancement", "Include in Enhancements:", nullptr, 'o', 0, false, false, "bxLettersIn"},
         {"oLettersOutEnhancement", "Include in Enhancements:", nullptr, 'o', 0, false, false, "bxLettersOut"},

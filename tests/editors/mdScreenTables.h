@@ -1,33 +1,11 @@
 #pragma once
 
-#include <vector>
-
-// What the screens hold, written down a second time and by hand, so that a slip in one of the tables shows.
-
-struct clsExpectedField {
-    const char *control;
-    const char *caption; ///< of the control; of its question where it is an answer
-    const char *answer; ///< the caption of an answer, else nothing
-    char kind; ///< 't' text, 'd' date, 'm' decimal, 'x' tick, 'l' list
-    int allowance = 0;
-    bool multiLine = false;
-    bool spellCheck = false;
-    const char *frame = "bxGeneral";
-};
-
-struct clsExpectedScreen {
-    const char *section;
-    const char *name;
-    const char *header;
-    const char *subCaption;
-    const char *element; ///< of the record in the claim; empty for the claim itself
-    std::vector<clsExpectedField> fields;
-};
+#include "tests/editors/clsExpectedScreen.h"
 
 // clang-format off
 inline const std::vector<clsExpectedScreen> ExpectedScreens {
     {"Form Setup", "frmFormSetup", "Form Setup", "Define the form type and preferences", "", {
-        {"cmbFormType", "Form Type:", nullptr, 'l'},
+        {.control = "cmbFormType", .caption = "Form Type:", .answer = nullptr, .kind = 'l', .second = "Claim1A"},
         {"chkVAT", "VAT:", nullptr, 'x'},
         {"txtVATRate", "%", nullptr, 'm'},
         {"chkIncludePanelMembershipContSheet", "Include Panel Membership Cont. Sheet:", nullptr, 'x'},

@@ -1,0 +1,173 @@
+#include "editors/mdScreens.h"
+
+#include "controls/oSGrid.h"
+#include "costing/clsZR3FeeEarner.h"
+#include "editors/frmSection.h"
+#include "editors/mdCountComms.h"
+#include "editors/mdEditItem.h"
+#include "editors/oEnhancementsBox.h"
+#include "formdata/clsZR3Form.h"
+#include "shell/mdGlobals.h"
+#include "shell/mdNumberText.h"
+#include "shell/mdPlayWav.h"
+#include "shell/mdProgramFolder.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int CallsColumn = 3;
+
+oSGrid &gridOf(const frmSection &screen)
+{
+    return screen.Box<oSGrid>("sgCommunications");
+}
+
+/// Counts for the selected fee earner; without one nothing happens. It sounds also where a count of 0 stays 0.
+void count(oSGrid &grid, const clsCommsCount &what, Qt::KeyboardModifiers shift)
+{
+    const int index = grid.SelectedItemData();
+    if (index == 0)
+        return;
+    const clsCommsStep &step = mdCommsStep(shift);
+    mdCountComms(*Form->FeeEarner(index), what, step.by);
+    grid.Redraw(false);
+    PlayWav(ProgramPath(QString::fromUtf8(step.sound)));
+}
+
+/// The letters that count are no typed text, so that a row's number can be typed right behind one.
+void keyDown(oSGrid &grid, int key, Qt::KeyboardModifiers shift, bool *doDefault)
+{
+    const clsCommsCount *what = mdCommsCountOfKey(key);
+    if (!what)
+        return;
+    *doDefault = false;
+    count(grid, *what, shift);
+}
+
+/// A right click counts in the column under the pointer. Held with Control, the press has taken the selection from the
+/// row, which gets it back.
+void mouseUp(oSGrid &grid, Qt::MouseButton button, Qt::KeyboardModifiers shift, const QPoint &position)
+{
+    const clsCommsCount *what = mdCommsCountAtColumn(grid.ColumnAt(position));
+    if (button != Qt::RightButton || !what)
+        return;
+    grid.SelectRow(grid.RowAt(position));
+    count(grid, *what, shift);
+}
+
+/// Opens the typed entry in the field of the column; the column of the names has none.
+void typeCounts(frmSection &screen, int feeEarner, int column)
+{
+    const clsCommsCount *what = mdCommsCountAtColumn(column);
+    if (!what)
+        return;
+    const auto item = Form->FeeEarner(feeEarner);
+    mdEditItem(&screen, ScreenCorrespondences(), item.get(),
+        [what](frmSection &editor) { editor.Box(what->field).setFocus(Qt::TabFocusReason); });
+    gridOf(screen).Redraw(false);
+    gridOf(screen).setFocus(Qt::OtherFocusReason);
+}
+
+void selectTypedRow(oSGrid &grid, const QString &text)
+{
+    const double number = TextValue(text);
+    if (!(number > 0 && number <= grid.Rows()))
+        return;
+    if (const int row = LongFromDouble(number))
+        grid.SelectRow(row);
+}
+
+void rules(frmSection &screen)
+{
+    oSGrid &grid = gridOf(screen);
+    QObject::connect(&grid, &oSGrid::KeyDown, &screen,
+        [&grid](int key, Qt::KeyboardModifiers shift, bool *doDefault) { keyDown(grid, key, shift, doDefault); });
+    QObject::connect(&grid, &oSGrid::MouseUp, &screen,
+        [&grid](Qt::MouseButton button, Qt::KeyboardModifiers shift, const QPoint &position) {
+            mouseUp(grid, button, shift, position);
+        });
+    QObject::connect(&grid, &oSGrid::RowActivated, &screen,
+        [&screen](int feeEarner, int, int column) { typeCounts(screen, feeEarner, column); });
+    QObject::connect(
+        &grid, &oSGrid::TimedKeyPress, &screen, [&grid](const QString &text) { selectTypedRow(grid, text); });
+    // Return opens something from the start, and the user sees what.
+    grid.setMarksCell(true);
+    QObject::connect(&screen, &frmSection::Loaded, &screen, [&grid] { grid.SelectColumn(CallsColumn); });
+}
+
+/// In the order that the user gave them. The grid's own sort would put the tenth before the second, since it compares
+/// texts.
+clsGridItems feeEarnersInOrder()
+{
+    std::vector<std::pair<int, std::shared_ptr<clsZR3FeeEarner>>> ordered;
+    for (const auto &feeEarner : Form->FeeEarnersCollection())
+        ordered.emplace_back(feeEarner->OrderID(), feeEarner);
+    std::stable_sort(
+        ordered.begin(), ordered.end(), [](const auto &left, const auto &right) { return left.first < right.first; });
+    clsGridItems items;
+    for (const auto &[order, feeEarner] : ordered)
+        items.push_back(feeEarner);
+    return items;
+}
+
+// clang-format off
+const clsItemList FeeEarners {
+    .orderable = false,
+    .columns = {
+        {"Fee Earner",  "Reference",  16},
+        {"OrderID",     "OrderID"},
+        {"Calls",       "Calls",      28, clsGridAlignment::Right},
+        {"Letters In",  "LettersIn",  28, clsGridAlignment::Right},
+        {"Letters Out", "LettersOut", 28, clsGridAlignment::Right},
+    },
+    .show = [](oSGrid &grid) { grid.setItemCollection(feeEarnersInOrder); },
+    .empty = "Add a fee earner under Fee Earners / Rates first.",
+};
+// clang-format on
+
+} // namespace
+
+/// The letters and calls of each fee earner, counted in the grid by the keys C, I and O or by a right click, down with
+/// Shift. The counts go straight to the claim; the boxes beside the grid are stored when the screen is left, but not by
+/// the menu "Save" or the close box.
+const clsScreen &ScreenCommunications()
+{
+    using enum clsRowKind;
+    // clang-format off
+    static const clsScreen screen {
+        .name = "frmCommunications",
+        .header = "Communications",
+        .subCaption = "Assign letters and calls to fee earners",
+        .iconGroup = 12,
+        .width = clsScreenWidth::TwoColumns,
+        .ending = clsScreenEnding::Close,
+        .section = "Communications",
+        .record = []() -> clsXMLRecord * { return &Form->Communications; },
+        .frames = {
+            {"bxGeneral", "Communications", {
+                {.kind = Items, .control = "sgCommunications", .caption = "Communications", .flags = NoCaption,
+                 .items = &FeeEarners},
+            }},
+            {.name = "bxCalls", .caption = "Calls", .rows = {
+                {.kind = Other, .control = "oCallsEnhancement", .caption = "Include in Enhancements:",
+                 .member = "EnhanceCalls CallsEnhancementUniqueID", .other = &EnhancementsOfItem},
+            }, .startsColumn = true},
+            {"bxLettersIn", "Letters In", {
+                {.kind = Other, .control = "oLettersInEnhancement", .caption = "Include in Enhancements:",
+                 .member = "EnhanceLettersIn LettersInEnhancementUniqueID", .other = &EnhancementsOfItem},
+            }},
+            {"bxLettersOut", "Letters Out", {
+                {.kind = Other, .control = "oLettersOutEnhancement", .caption = "Include in Enhancements:",
+                 .member = "EnhanceLettersOut LettersOutEnhancementUniqueID", .other = &EnhancementsOfItem},
+            }},
+        },
+        .rules = rules,
+        .jumps = {
+            {"cmdScheduleOfTime", "mnuScheduleOfTime", "Schedule of Time"},
+            {"cmdDisbursements",  "mnuDisbursements",  "Disbursements"},
+        },
+    };
+    // clang-format on
+    return screen;
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "editors/mdScreens.h"
+#include "tests/editors/mdCounselTables.h"
+#include "tests/editors/mdDisbursementTables.h"
+#include "tests/editors/mdFeeEarnerTables.h"
+#include "tests/editors/mdRecordTables.h"
+#include "tests/editors/mdScreenTables.h"
+
+#include <string_view>
+
+// Every screen that is written down a second time, and with it walked by the tests. A table of screens more is a line
+// here, and the editor of an item one more below.
+
+inline std::vector<clsExpectedScreen> AllExpectedScreens()
+{
+    std::vector<clsExpectedScreen> all;
+    for (const auto *table : {&ExpectedScreens, &ExpectedCounselScreens, &ExpectedDisbursementScreens,
+             &ExpectedFeeEarnerScreens, &ExpectedRecordScreens})
+        all.insert(all.end(), table->begin(), table->end());
+    return all;
+}
+
+using clsScreenFunction = const clsScreen &(*)();
+
+/// The editors of items, which no section leads to.
+inline std::vector<clsScreenFunction> AllItemEditors()
+{
+    return {
+        ScreenCounselEdit,
+        ScreenDisbursementEdit,
+        ScreenEnhancementEdit,
+        ScreenExpertInvoiceEdit,
+        ScreenFeeEarnerEdit,
+        ScreenFeeEarnerGroupEdit,
+        ScreenJointInstructionEdit,
+    };
+}
+
+/// The editor of that name, or nothing.
+inline const clsScreen *ItemEditorOf(std::string_view name)
+{
+    for (const clsScreenFunction editor : AllItemEditors())
+        if (editor().name == name)
+            return &editor();
+    return nullptr;
+}

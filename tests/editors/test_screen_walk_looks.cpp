@@ -1,0 +1,234 @@
+#include "controls/mdCaption.h"
+#include "controls/mdTheme.h"
+#include "controls/oCheckBox.h"
+#include "tests/editors/clsScreenWalk.h"
+
+#include <QScrollBar>
+
+#include <map>
+#include <set>
+
+// The look of every screen: nothing is cut, and everything stands where it belongs.
+
+namespace {
+
+/// Every widget of a screen that shows something of its own.
+std::vector<QWidget *> partsOf(const frmSection &screen, const std::vector<clsScreenField> &fields)
+{
+    std::vector<QWidget *> result;
+    for (const clsScreenField &field : fields) {
+        result.push_back(field.control);
+        if (field.label)
+            result.push_back(field.label);
+    }
+    for (QWidget *part : screen.findChildren<QWidget *>())
+        if (qobject_cast<oFieldLabel *>(part) && part->isVisible())
+            result.push_back(part);
+    for (oCustomButton *button : screen.findChildren<oCustomButton *>())
+        if (button->isVisible())
+            result.push_back(button);
+    return result;
+}
+
+std::string nameOf(const QWidget &part)
+{
+    const auto *label = qobject_cast<const QLabel *>(&part);
+    return part.objectName().toStdString() + (label ? " " + label->text().toStdString() : "");
+}
+
+void expectNotCut(const QWidget &part)
+{
+    const std::string name = nameOf(part);
+    EXPECT_TRUE(part.isVisible()) << name;
+    const QRect own(part.mapTo(part.parentWidget(), QPoint()), part.size());
+    EXPECT_TRUE(part.parentWidget()->rect().contains(own)) << name;
+    EXPECT_GE(part.width(), part.minimumSizeHint().width()) << name;
+    const auto *label = qobject_cast<const QLabel *>(&part);
+    const bool wraps = label && label->wordWrap();
+    EXPECT_GE(part.height(), wraps ? label->heightForWidth(label->width()) : part.minimumSizeHint().height()) << name;
+    if (label && !wraps) {
+        EXPECT_GE(label->width(), label->fontMetrics().horizontalAdvance(mdPlainCaption(label->text()))) << name;
+    }
+}
+
+void expectNoOverlap(const QWidget &one, const QWidget &other)
+{
+    // A tick has room for its ring around it, which may reach under its neighbour; and so has a button.
+    const bool ring = qobject_cast<const oCheckBox *>(&one) || qobject_cast<const oCheckBox *>(&other);
+    if (&one == &other || ring || one.parentWidget() != other.parentWidget() || qobject_cast<const QPushButton *>(&one))
+        return;
+    EXPECT_FALSE(one.geometry().intersects(other.geometry())) << nameOf(one) << " and " << nameOf(other);
+}
+
+/// Which of the parts side by side of its frame a field stands in, counted over all of them.
+std::map<const clsScreenRow *, int> columnsOf(const clsScreen &screen)
+{
+    std::map<const clsScreenRow *, int> columns;
+    int column = 0;
+    for (const clsScreenFrame &frame : screen.frames) {
+        for (const clsScreenRow &row : frame.rows) {
+            if (row.kind == clsRowKind::ColumnBreak)
+                ++column;
+            columns[&row] = column;
+        }
+        column = 0;
+    }
+    return columns;
+}
+
+class clsLook {
+public:
+    explicit clsLook(frmSection &screen)
+        : m_screen(screen)
+    { }
+    void resize(QSize size)
+    {
+        m_screen.resize(size);
+        QTest::qWait(20);
+        ASSERT_EQ(size, m_screen.size());
+    }
+    void expectNothingCut(const std::vector<clsScreenField> &fields) const
+    {
+        const QScrollArea &page = *m_screen.findChild<QScrollArea *>();
+        EXPECT_EQ(0, page.horizontalScrollBar()->maximum());
+        EXPECT_LE(page.widget()->width(), page.viewport()->width());
+        const auto all = partsOf(m_screen, fields);
+        for (const QWidget *one : all) {
+            expectNotCut(*one);
+            for (const QWidget *other : all)
+                expectNoOverlap(*one, *other);
+        }
+    }
+
+private:
+    frmSection &m_screen;
+};
+
+} // namespace
+
+TEST_P(EveryScreen, NothingIsCutOnASmallScreen)
+{
+    clsLook look(*screen);
+    look.resize({960, 540});
+    onEachPage([&] {
+        QTest::qWait(20);
+        look.expectNothingCut(openFields());
+    });
+}
+
+TEST_P(EveryScreen, NothingIsCutOnALaptop)
+{
+    clsLook look(*screen);
+    look.resize({1366, 768});
+    onEachPage([&] {
+        QTest::qWait(20);
+        look.expectNothingCut(openFields());
+    });
+}
+
+TEST_P(EveryScreen, NothingIsCutAtItsOwnSize)
+{
+    clsLook look(*screen);
+    look.resize(screen->sizeHint());
+    onEachPage([&] {
+        QTest::qWait(20);
+        look.expectNothingCut(openFields());
+        // And nothing needs scrolling.
+        EXPECT_EQ(0, page().verticalScrollBar()->maximum());
+    });
+}
+
+TEST_P(EveryScreen, NothingIsCutInALargeFont)
+{
+    screen.reset();
+    const QFont before = QApplication::font();
+    QFont large = before;
+    large.setPointSize(16);
+    QApplication::setFont(large);
+    openAgain();
+    clsLook look(*screen);
+    look.resize(QSize(1366, 768).expandedTo(screen->minimumSizeHint()));
+    onEachPage([&] {
+        QTest::qWait(20);
+        look.expectNothingCut(openFields());
+    });
+    EXPECT_LE(screen->width(), 1366);
+    screen.reset();
+    QApplication::setFont(before);
+}
+
+TEST_P(EveryScreen, TheBoxesOfAColumnBeginAtOneEdge)
+{
+    const auto columns = columnsOf(screen->Screen());
+    for (const QSize size : {screen->sizeHint(), QSize(1366, 768), QSize(960, 540)}) {
+        clsLook(*screen).resize(size);
+        onEachPage([&] {
+            std::map<std::pair<int, int>, std::set<int>> edges;
+            for (const clsScreenField &field : openFields()) {
+                if (!field.label || field.label->place() != oFieldLabel::Place::Beside || field.row->flags & SameRow
+                    || field.row->beside)
+                    continue;
+                const int frame = field.control->parentWidget()->mapTo(screen.get(), QPoint()).x();
+                const auto column = columns.find(field.row);
+                // A tick's visible edge lies inside the room for its ring.
+                const int ring = qobject_cast<oCheckBox *>(field.control) ? Theme::RingRoom : 0;
+                edges[{frame, column == columns.end() ? 0 : column->second}].insert(
+                    field.control->mapTo(screen.get(), QPoint()).x() + ring);
+            }
+            for (const auto &[column, ofColumn] : edges)
+                EXPECT_EQ(1u, ofColumn.size()) << column.first << " at " << size.width();
+        });
+    }
+}
+
+TEST_P(EveryScreen, ACaptionWiderThanTheColumnOfLabelsStandsOverItsFieldAtTheLeft)
+{
+    onEachPage([this] {
+        QTest::qWait(20);
+        for (const clsScreenField &field : openFields()) {
+            if (!field.label || field.label->place() == oFieldLabel::Place::Answer
+                || qobject_cast<oCheckBox *>(field.control))
+                continue;
+            const std::string name = nameOf(field);
+            const QRect label(field.label->mapTo(screen.get(), QPoint()), field.label->size());
+            const QRect box(field.control->mapTo(screen.get(), QPoint()), field.control->size());
+            const int caption = field.label->fontMetrics().horizontalAdvance(field.label->Caption());
+            if (caption > Theme::scaled(300)) {
+                EXPECT_LT(label.bottom(), box.top()) << name;
+                EXPECT_EQ(label.left(), box.left()) << name;
+                EXPECT_TRUE(field.label->alignment() & Qt::AlignLeft) << name;
+            } else if (caption < Theme::scaled(290)) {
+                EXPECT_LT(label.right(), box.left()) << name;
+                EXPECT_FALSE(field.label->wordWrap()) << name;
+            }
+        }
+    });
+}
+
+TEST_P(EveryScreen, HasACloseBoxAndNoOtherButtonsInItsTitle)
+{
+    const Qt::WindowFlags flags = screen->windowFlags();
+    EXPECT_TRUE(flags & Qt::WindowCloseButtonHint);
+    EXPECT_FALSE(flags & Qt::WindowMinMaxButtonsHint);
+}
+
+TEST_P(EveryScreen, WhateverHasTheFocusIsInViewWithSomeRoomAroundIt)
+{
+    screen->resize(960, 400);
+    QTest::qWait(20);
+    for (const clsScreenField &field : screen->Fields()) {
+        if (!onOpenPage(field)) {
+            openPageOf(field);
+            QTest::qWait(20);
+        }
+        if (!canEnter(field))
+            continue;
+        field.control->setFocus(Qt::TabFocusReason);
+        const QRect place(field.control->mapTo(page().viewport(), QPoint()), field.control->size());
+        const int first = field.control->mapTo(&content(), QPoint()).y();
+        EXPECT_GE(place.top(), qMin(24, first)) << nameOf(field);
+        if (place.height() + 48 <= page().viewport()->height()) {
+            EXPECT_LE(place.bottom(), page().viewport()->height() - 16) << nameOf(field);
+        }
+    }
+}

@@ -4,6 +4,7 @@
 #include "tests/editors/mdCounselTables.h"
 #include "tests/editors/mdDisbursementTables.h"
 #include "tests/editors/mdFeeEarnerTables.h"
+#include "tests/editors/mdPreferencesTables.h"
 #include "tests/editors/mdRecordTables.h"
 #include "tests/editors/mdScreenTables.h"
 
@@ -16,7 +17,7 @@ inline std::vector<clsExpectedScreen> AllExpectedScreens()
 {
     std::vector<clsExpectedScreen> all;
     for (const auto *table : {&ExpectedScreens, &ExpectedCounselScreens, &ExpectedDisbursementScreens,
-             &ExpectedFeeEarnerScreens, &ExpectedRecordScreens})
+             &ExpectedFeeEarnerScreens, &ExpectedPreferencesScreens, &ExpectedRecordScreens})
         all.insert(all.end(), table->begin(), table->end());
     return all;
 }
@@ -34,6 +35,8 @@ inline std::vector<clsScreenFunction> AllItemEditors()
         ScreenFeeEarnerEdit,
         ScreenFeeEarnerGroupEdit,
         ScreenJointInstructionEdit,
+        ScreenPreferencesRateSetEdit,
+        ScreenReplacementEdit,
     };
 }
 

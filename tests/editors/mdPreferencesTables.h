@@ -3,7 +3,7 @@
 #include "tests/editors/clsExpectedScreen.h"
 
 // clang-format off
-inline const std::vector<clsExpectedScreen> ExpectedPreferencesScreens {
+inline const std::vector<clsExpectedScreen> ExpectedPreferencesEditors {
     {"", "frmReplacementEdit", "Replacement", "Change input and output text", "", {
         {.control = "txtInputText", .caption = "Input Text:*", .answer = nullptr, .kind = 't', .replacements = false},
         {"txtOutputText", "Output Text:*", nullptr, 't'},

@@ -4,7 +4,6 @@
 #include "tests/editors/mdCounselTables.h"
 #include "tests/editors/mdDisbursementTables.h"
 #include "tests/editors/mdFeeEarnerTables.h"
-#include "tests/editors/mdPreferencesTables.h"
 #include "tests/editors/mdRecordTables.h"
 #include "tests/editors/mdScreenTables.h"
 
@@ -17,7 +16,7 @@ inline std::vector<clsExpectedScreen> AllExpectedScreens()
 {
     std::vector<clsExpectedScreen> all;
     for (const auto *table : {&ExpectedScreens, &ExpectedCounselScreens, &ExpectedDisbursementScreens,
-             &ExpectedFeeEarnerScreens, &ExpectedPreferencesScreens, &ExpectedRecordScreens})
+             &ExpectedFeeEarnerScreens, &ExpectedRecordScreens})
         all.insert(all.end(), table->begin(), table->end());
     return all;
 }
@@ -35,8 +34,6 @@ inline std::vector<clsScreenFunction> AllItemEditors()
         ScreenFeeEarnerEdit,
         ScreenFeeEarnerGroupEdit,
         ScreenJointInstructionEdit,
-        ScreenPreferencesRateSetEdit,
-        ScreenReplacementEdit,
     };
 }
 

@@ -21,7 +21,7 @@ const clsScreen &ScreenFASItemEdit()
                 {Text,    "txtLevelOfCourt",              "Type of Judge:", 0, SpellCheck},
                 {Text,    "txtFDR",                       "Interim / FAM or FDR:", 0, SpellCheck},
                 {Integer, "txtActualTimeSpent",           "Actual Time Spent (mins):"},
-                {Integer, "txtHearingUnits",              "Hearing Units:"},
+                {Integer, "txtHearingUnits",              "Hearing Units:", 0, SameRow},
                 {Decimal, "txtRateForUnits",              "Rate for Units:"},
                 {Decimal, "txtBoltOnClaimed",             "% Bolt-on Claimed:"},
                 {Text,    "txtBoltOnDescription",         "Bolt-on Description:", 35, SpellCheck},

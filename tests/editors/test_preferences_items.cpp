@@ -269,7 +269,7 @@ TEST_F(RateSetEdit, CalculateTakesWhatIsTypedAlsoFromItsKey)
     const qsizetype mark = button->text().indexOf(u'&');
     ASSERT_GE(mark, 0);
     QTest::keyClick(screen.get(), button->text()[mark + 1].toLower().toLatin1(), Qt::AltModifier);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !text(*screen, "txtCalls").isEmpty(); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return text(*screen, "txtCalls") != QLatin1String("0.00"); }));
     EXPECT_EQ(list({"200.00", "20.00", "10.00", "20.00", "200.00", "200.00", "200.00"}), rates(*screen));
     // And from the button behind the rate.
     type(screen->Box("txtHourly"), QStringLiteral("300"));
@@ -284,7 +284,7 @@ TEST_F(RateSetEdit, AnHourlyRateThatIsNoNumberHoldsTheUserAndCalculatesNothing)
     const auto screen = edit();
     type(screen->Box("txtHourly"), QStringLiteral("abc"));
     press(*screen, "cmdCalculate");
-    EXPECT_EQ(list({"abc", "", "", "", "", "", ""}), rates(*screen));
+    EXPECT_EQ(list({"abc", "0.00", "0.00", "0.00", "0.00", "0.00", "0.00"}), rates(*screen));
     EXPECT_EQ(QStringLiteral("txtHourly"), focusedName(*screen));
     press(*screen, "cmdSave");
     EXPECT_TRUE(screen->isVisible());
@@ -309,7 +309,7 @@ TEST_F(RateSetEdit, OnlyTheNameIsRequired)
     EXPECT_FALSE(screen->isVisible());
     EXPECT_EQ(1u, user.messages.size());
     ASSERT_EQ(1u, Preferences->RateSetsCollection().size());
-    // A rate that nobody has been in is nothing, and no empty text.
+    // A rate that nobody has been to is nothing, and no empty text.
     EXPECT_EQ(list({"100.00", "0.00", "0.00", "0.00", "0.00", "0.00", "0.00"}), stored(*Preferences->RateSet(1)));
 }
 

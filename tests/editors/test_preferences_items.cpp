@@ -1,10 +1,7 @@
 #include "controls/oAllPurposeBox.h"
 #include "controls/oCustomButton.h"
 #include "controls/oDecimalBox.h"
-#include "controls/oHeaderBar.h"
-#include "editors/oFieldLabel.h"
 #include "tests/editors/clsPreferencesTest.h"
-#include "tests/editors/mdPreferencesTables.h"
 
 #include <QMenuBar>
 
@@ -81,32 +78,17 @@ protected:
 
 // The two screens
 
-TEST_F(ReplacementEdit, BothEditorsHoldWhatTheyShould)
+TEST_F(ReplacementEdit, BothEditorsHaveTheirButtonsAndNoMenu)
 {
-    for (const clsExpectedScreen &expected : ExpectedPreferencesEditors) {
-        const bool rates = QByteArray(expected.name) == "frmPreferencesRateSetEdit";
+    for (const bool rates : {false, true}) {
         const auto screen = editor(rates ? ScreenPreferencesRateSetEdit() : ScreenReplacementEdit());
-        EXPECT_EQ(QString::fromUtf8(expected.name), screen->objectName());
-        const auto *header = screen->findChild<oHeaderBar *>();
-        EXPECT_EQ(QString::fromUtf8(expected.header), header->Caption());
-        EXPECT_EQ(QString::fromUtf8(expected.subCaption), header->SubCaption());
-        std::vector<const clsScreenField *> fields;
-        for (const clsScreenField &field : screen->Fields())
-            if (field.row->kind != clsRowKind::Button)
-                fields.push_back(&field);
-        ASSERT_EQ(expected.fields.size(), fields.size());
-        for (size_t i = 0; i < fields.size(); ++i) {
-            EXPECT_EQ(QString::fromUtf8(expected.fields[i].control), fields[i]->control->objectName());
-            EXPECT_EQ(QString::fromUtf8(expected.fields[i].caption), fields[i]->label->Caption());
-            EXPECT_EQ(expected.fields[i].kind == 'm', qobject_cast<oDecimalBox *>(fields[i]->control) != nullptr);
-        }
         QStringList buttons;
         for (const oCustomButton *button : screen->findChildren<oCustomButton *>())
             buttons << button->objectName() + u' ' + button->Caption();
-        QStringList all {QStringLiteral("cmdSave Save"), QStringLiteral("cmdCancel Cancel")};
+        QStringList expected {QStringLiteral("cmdSave Save"), QStringLiteral("cmdCancel Cancel")};
         if (rates)
-            all.prepend(QStringLiteral("cmdCalculate Calculate"));
-        EXPECT_EQ(all, buttons);
+            expected.prepend(QStringLiteral("cmdCalculate Calculate"));
+        EXPECT_EQ(expected, buttons);
         EXPECT_TRUE(screen->findChild<QMenuBar *>()->actions().isEmpty()) << "the claim is saved elsewhere";
     }
 }

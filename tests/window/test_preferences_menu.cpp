@@ -81,6 +81,8 @@ TEST_F(PreferencesMenu, TheEntryAndItsKeyOpenTheFirstPage)
             EXPECT_EQ(1, screen.Switcher().OpenPage());
             press(screen, "cmdClose");
         });
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
         if (byKey)
             QTest::keyClick(window.get(), Qt::Key_P, Qt::ControlModifier);
         else
@@ -92,7 +94,7 @@ TEST_F(PreferencesMenu, TheEntryAndItsKeyOpenTheFirstPage)
 
 TEST_F(PreferencesMenu, AnAutomaticRefreshBeginsWithTheClose)
 {
-    start();
+    start(sample("housing-typical.zr3"));
     auto &preview = control<oPreviewGrid>(*window, "sgPreview");
     const auto text = [&preview] {
         QString all;
@@ -101,18 +103,16 @@ TEST_F(PreferencesMenu, AnAutomaticRefreshBeginsWithTheClose)
                 all += preview.Text(i, j);
         return all;
     };
-    entry("mnuPreviewAdditionalInformation").trigger();
-    const QString before = text();
-    Form->ClientDetails.MoreThan1Certificate = QStringLiteral("Zarquon");
+    Form->ScheduleOfTimeItem(1)->TTime = QStringLiteral("07:37");
     window->Activate();
-    EXPECT_EQ(before, text()) << "the switch is still off";
+    EXPECT_FALSE(text().contains(QLatin1String("07:37"))) << "the switch is still off";
     onceOpened("frmPreferences", [](frmSection &screen) {
         click(screen, "chkAutoRefreshPreview");
         press(screen, "cmdClose");
     });
     entry("mnuPreferences").trigger();
     EXPECT_TRUE(Preferences->AutoRefreshPreview());
-    EXPECT_NE(before, text());
+    EXPECT_TRUE(text().contains(QLatin1String("07:37")));
     EXPECT_TRUE(file().contains("<autorefreshpreview>True</autorefreshpreview>"));
 }
 

@@ -82,6 +82,7 @@ void oFrame::setExpanded(bool expanded)
 void oFrame::setBare(bool bare)
 {
     m_bare = bare;
+    m_bar->setVisible(!bare);
     measure();
 }
 

@@ -130,6 +130,7 @@ void oTabBar::AddButton(const QString &caption, const QString &tag)
     if (m_tabs.empty())
         m_buttons->addStretch(1);
     m_buttons->insertWidget(m_buttons->count() - 1, button);
+    button->show(); // the layout would show it later, and a Tab key that is waiting already would pass it over
     setTabOrder(m_tabs.empty() ? m_tabOrder : m_tabs.back().button, button);
     m_tabs.push_back({button, tag});
     button->installEventFilter(this);

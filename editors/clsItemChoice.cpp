@@ -1,6 +1,7 @@
 #include "editors/clsItemChoice.h"
 
 #include "controls/mdTheme.h"
+#include "controls/mdToolTip.h"
 #include "controls/oCheckBox.h"
 #include "editors/clsScreenTable.h"
 #include "editors/mdComboboxSelectByItemData.h"
@@ -56,7 +57,10 @@ clsItemChoice::clsItemChoice(QFrame &box, const clsChoiceSource &source)
     box.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 
     connect(m_tick, &oCheckBox::Click, this, &clsItemChoice::ticked);
-    connect(m_list, &QComboBox::currentIndexChanged, this, &clsItemChoice::Change);
+    connect(m_list, &QComboBox::currentIndexChanged, this, [this] {
+        showWhole();
+        emit Change();
+    });
 }
 
 bool clsItemChoice::Ticked() const
@@ -76,6 +80,12 @@ void clsItemChoice::ticked(bool isTicked)
     if (m_list->currentIndex() < 0 && m_list->count() > 0)
         m_list->setCurrentIndex(0);
     emit Click(isTicked);
+}
+
+/// Beside its buttons a list may be too narrow for a name.
+void clsItemChoice::showWhole()
+{
+    m_list->setToolTip(mdPlainToolTip(m_list->currentText()));
 }
 
 QString clsItemChoice::UniqueID() const
@@ -111,6 +121,7 @@ void clsItemChoice::fill()
         mdComboboxSelectByItemData(*m_list, selected);
     }
     m_list->updateGeometry();
+    showWhole();
     m_tick->setEnabled(!items.empty());
     m_tick->setToolTip(items.empty() ? QString::fromUtf8(m_source.whyNoTick) : QString());
     if (SelectedIndex() != selected)

@@ -70,6 +70,7 @@ signals:
 
 private:
     void ticked(bool isTicked);
+    void showWhole();
 
     const clsChoiceSource &m_source;
     oCheckBox *m_tick;

@@ -18,6 +18,9 @@ namespace {
 
 constexpr int CallsColumn = 3;
 
+constexpr char HowToCount[] = "C, I and O count a call, a letter in and a letter out; with Shift, down.\n"
+                              "A right click in a column does the same. Return or a double click types the figures.";
+
 oSGrid &gridOf(const frmSection &screen)
 {
     return screen.Box<oSGrid>("sgCommunications");
@@ -93,6 +96,10 @@ void rules(frmSection &screen)
         &grid, &oSGrid::TimedKeyPress, &screen, [&grid](const QString &text) { selectTypedRow(grid, text); });
     // Return opens something from the start, and the user sees what.
     grid.setMarksCell(true);
+    grid.setEmptyGlyph(Glyph::People);
+    // Over the headings; a cell has a tooltip of its own.
+    grid.setToolTip(QString::fromUtf8(HowToCount));
+    grid.setAccessibleDescription(QString::fromUtf8(HowToCount));
     QObject::connect(&screen, &frmSection::Loaded, &screen, [&grid] { grid.SelectColumn(CallsColumn); });
 }
 

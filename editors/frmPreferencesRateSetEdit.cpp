@@ -34,22 +34,10 @@ void calculate(const frmSection &screen)
         screen.Box<oDecimalBox>(share.control).setText(MoneyToText(RoundMoney2(hourly * share.factor)));
 }
 
-/// A decimal box that nobody has been in is empty, and a rate is not: what prices the bill takes no empty text for one.
-void fillEmptyRates(const frmSection &screen)
-{
-    for (const clsScreenField &field : screen.Fields())
-        if (auto *box = qobject_cast<oDecimalBox *>(field.control); box && box->Text().isEmpty())
-            box->setText(QStringLiteral("0.00"));
-}
-
 void rules(frmSection &screen)
 {
     QObject::connect(
         &screen.Box<oCustomButton>("cmdCalculate"), &oCustomButton::Click, &screen, [&screen] { calculate(screen); });
-    screen.setMayStore([&screen] {
-        fillEmptyRates(screen);
-        return true;
-    });
 }
 
 } // namespace

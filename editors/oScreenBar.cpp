@@ -32,6 +32,8 @@ oScreenBar::oScreenBar(const clsScreen &screen, QWidget *parent)
     row->setSpacing(Theme::Space8);
     if (screen.section)
         addSwitcher(screen.section);
+    if (!screen.jumps.empty())
+        row->addSpacing(Theme::Space24 - Theme::Space8);
     for (const clsScreenJump &jump : screen.jumps) {
         const QString section = QString::fromUtf8(jump.section);
         m_jumps.push_back(addButton(jump.control, section));

@@ -223,6 +223,21 @@ TEST_F(TabBar, TheTabKeyStopsOnceAndLeaves)
     EXPECT_TRUE(before.hasFocus());
 }
 
+TEST_F(TabBar, TheTabKeyFindsARowThatWasMadeThisMoment)
+{
+    show();
+    before.setFocus();
+    // No event is handled in between: on a busy machine both keys are waiting already.
+    addFour();
+    QTest::keyClick(&before, Qt::Key_Tab);
+    EXPECT_EQ(tab(1), window.focusWidget());
+    bar.Clear();
+    addFour();
+    before.setFocus();
+    QTest::keyClick(&before, Qt::Key_Tab);
+    EXPECT_EQ(tab(1), window.focusWidget());
+}
+
 TEST_F(TabBar, ScrollsWhereItIsTooNarrowAndNeverShrinksItsTexts)
 {
     addFour();

@@ -23,22 +23,27 @@ protected:
             if (!screen)
                 return;
             opened = true;
-            // A window over the active one counts as active before it has the keys.
-            EXPECT_TRUE(QTest::qWaitFor([screen] { return screen->isActiveWindow(); }));
+            activate(*screen);
             act(*screen);
             EXPECT_FALSE(screen->isVisible()) << screen->objectName().toStdString() << " was left open";
             if (screen->isVisible())
-                screen->done(QDialog::Rejected);
+                screen->close();
         });
         waiting.start(2);
         QWidget *below = QApplication::activeWindow();
         opens();
         EXPECT_TRUE(opened);
-        // The platform of the tests has no window manager that would bring the window below back.
-        if (below) {
-            below->activateWindow();
-            EXPECT_TRUE(QTest::qWaitForWindowActive(below));
-        }
+        if (below)
+            activate(*below);
+    }
+    /// The platform of the tests has no window manager: a window that is uncovered isn't brought back, and what was
+    /// asked for earlier may still arrive late.
+    static void activate(QWidget &window)
+    {
+        QCoreApplication::processEvents();
+        window.activateWindow();
+        // A window over the active one counts as active there before it has the keys.
+        EXPECT_TRUE(QTest::qWaitFor([&window] { return window.isActiveWindow(); }));
     }
     static void click(QWidget &widget) { QTest::mouseClick(&widget, Qt::LeftButton, {}, widget.rect().center()); }
     /// A key for whatever has the focus in a window.

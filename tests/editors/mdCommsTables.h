@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/editors/mdScreenTables.h"
+#include "tests/editors/clsExpectedScreen.h"
 
 // clang-format off
 inline const std::vector<clsExpectedScreen> ExpectedCommsScreens {

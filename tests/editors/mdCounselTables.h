@@ -1,11 +1,11 @@
 #pragma once
 
-#include "tests/editors/mdScreenTables.h"
+#include "tests/editors/clsExpectedScreen.h"
 
 // clang-format off
 inline const std::vector<clsExpectedScreen> ExpectedCounselScreens {
     {"Counsel", "frmCounsel", "Counsel", "Create and edit barristers for your form", "", {
-        {"sgCounsel", "", nullptr, 'g'},
+        {"sgCounsel", "Counsel", nullptr, 'g'},
         {"cmdAddCounsel", "Add", nullptr, 'b'},
     }},
     {"", "frmCounselEdit", "Counsel", "Change settings for a barrister", "", {
@@ -14,7 +14,7 @@ inline const std::vector<clsExpectedScreen> ExpectedCounselScreens {
         {"chkVAT", "VAT:", nullptr, 'x'},
     }},
     {"Enhancements", "frmEnhancements", "Enhancements", "Enhancements for the form", "", {
-        {"sgEnhancements", "", nullptr, 'g'},
+        {"sgEnhancements", "Enhancements", nullptr, 'g'},
         {"cmdAddEnhancement", "Add", nullptr, 'b'},
     }},
     {"", "frmEnhancementEdit", "Enhancement", "Change enhancement settings", "", {

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "tests/editors/mdScreenTables.h"
+#include "tests/editors/clsExpectedScreen.h"
 
-// The screens of the disbursements and the editors of their items, as mdScreenTables.h has the others. Of an item,
-// `element` is its own. 'b' is a button, 'g' a grid, 'o' a
-// control made of several.
+// The screens of the disbursements and the editors of their items. Of an item, `element` is its own.
 
 // clang-format off
 inline const std::vector<clsExpectedScreen> ExpectedDisbursementScreens {
@@ -17,7 +15,7 @@ inline const std::vector<clsExpectedScreen> ExpectedDisbursementScreens {
         {"chkExpertsMeetMOJStandardNo", "If these are proceedings involving a dispute about children, are you "
          "satisfied that the experts used meet the Ministry of Justice standards for experts in England and Wales?",
          "No:", 'x'},
-        {"txtExpertsMeetMOJStandardReasons", "If no, give reasons:", nullptr, 't', 250, true, true},
+        {"txtExpertsMeetMOJStandardReasons", "If no, give reasons:", nullptr, 't', 250, true, true, "bxGeneral", true},
         {"sgJointInstructions", "Joint Instructions", nullptr, 'g'},
         {"cmdAddJointInstruction", "Add", nullptr, 'b'},
         {"sgOtherDisbursements", "Other Disbursements", nullptr, 'g'},

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/editors/mdScreenTables.h"
+#include "tests/editors/clsExpectedScreen.h"
 
 // What the screens of fee earners hold, written down a second time and by hand. An editor of an item has no section.
 
@@ -13,7 +13,7 @@ inline const std::vector<clsExpectedScreen> ExpectedFeeEarnerScreens {
         {"sgFeeEarners", "", nullptr, 'g', 0, false, false, "bxFeeEarners"},
         {"cmdAddFeeEarner", "Add", nullptr, 'b', 0, false, false, "bxFeeEarners"},
     }},
-    {"", "frmFeeEarnerGroupEdit", "Fee Earner Group", "Change settings for a fee earner group", "feeearnergroup", {
+    {"", "frmFeeEarnerGroupEdit", "Fee Earner Group", "Change settings for a fee earner group", "", {
         {"txtReference", "Reference:*", nullptr, 't'},
         {"txtName", "Name:*", nullptr, 'o'},
         {"chkEnhance", "Enhance:", nullptr, 'x'},
@@ -29,9 +29,9 @@ inline const std::vector<clsExpectedScreen> ExpectedFeeEarnerScreens {
         {"cmdLoad", "Load", nullptr, 'b', 0, false, false, "bxRates"},
         {"cmdEditRateSets", "Edit Rate Sets", nullptr, 'b', 0, false, false, "bxRates"},
     }},
-    {"", "frmFeeEarnerEdit", "Fee Earner", "Change settings for a fee earner", "feeearner", {
+    {"", "frmFeeEarnerEdit", "Fee Earner", "Change settings for a fee earner", "", {
         {"txtReference", "Reference:*", nullptr, 't'},
-        {"cmbGroup", "Group:", nullptr, 'o'},
+        {"cmbGroup", "Group:", nullptr, 'l'},
     }},
 };
 // clang-format on

@@ -1,18 +1,17 @@
 #pragma once
 
-#include "tests/editors/mdScreenTables.h"
-
-// The preferences' screens a second time, by hand.
+#include "tests/editors/clsExpectedScreen.h"
 
 // clang-format off
 inline const std::vector<clsExpectedScreen> ExpectedPreferencesEditors {
-    {"", "frmReplacementEdit", "Replacement", "Change input and output text", "replacement", {
-        {"txtInputText", "Input Text:*", nullptr, 't'},
+    {"", "frmReplacementEdit", "Replacement", "Change input and output text", "", {
+        {.control = "txtInputText", .caption = "Input Text:*", .answer = nullptr, .kind = 't', .replacements = false},
         {"txtOutputText", "Output Text:*", nullptr, 't'},
     }},
-    {"", "frmPreferencesRateSetEdit", "Rate Set", "Edit a standard rate set", "rateset", {
+    {"", "frmPreferencesRateSetEdit", "Rate Set", "Edit a standard rate set", "", {
         {"txtName", "Name:*", nullptr, 't'},
         {"txtHourly", "Hourly:*", nullptr, 'm'},
+        {"cmdCalculate", "Calculate", nullptr, 'b'},
         {"txtCalls", "Calls:*", nullptr, 'm'},
         {"txtLettersIn", "Letters In:*", nullptr, 'm'},
         {"txtLettersOut", "Letters Out:*", nullptr, 'm'},

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "editors/mdScreens.h"
+#include "tests/editors/mdCounselTables.h"
+#include "tests/editors/mdDisbursementTables.h"
+#include "tests/editors/mdFeeEarnerTables.h"
 #include "tests/editors/mdRecordTables.h"
 #include "tests/editors/mdScreenTables.h"
 
@@ -12,7 +15,8 @@
 inline std::vector<clsExpectedScreen> AllExpectedScreens()
 {
     std::vector<clsExpectedScreen> all;
-    for (const auto *table : {&ExpectedScreens, &ExpectedRecordScreens})
+    for (const auto *table : {&ExpectedScreens, &ExpectedCounselScreens, &ExpectedDisbursementScreens,
+             &ExpectedFeeEarnerScreens, &ExpectedRecordScreens})
         all.insert(all.end(), table->begin(), table->end());
     return all;
 }
@@ -22,7 +26,15 @@ using clsScreenFunction = const clsScreen &(*)();
 /// The editors of items, which no section leads to.
 inline std::vector<clsScreenFunction> AllItemEditors()
 {
-    return {};
+    return {
+        ScreenCounselEdit,
+        ScreenDisbursementEdit,
+        ScreenEnhancementEdit,
+        ScreenExpertInvoiceEdit,
+        ScreenFeeEarnerEdit,
+        ScreenFeeEarnerGroupEdit,
+        ScreenJointInstructionEdit,
+    };
 }
 
 /// The editor of that name, or nothing.

@@ -15,10 +15,12 @@
 #include "tests/support/mdExpectError.h"
 
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QMenuBar>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QToolTip>
 
 namespace {
 
@@ -180,6 +182,18 @@ TEST_F(Communications, TheGridShowsTheCountsOfEachFeeEarnerAndCannotBeOrdered)
             {model.index(1, i).data(Qt::TextAlignmentRole), model.headerData(i, Qt::Horizontal, Qt::TextAlignmentRole)})
             EXPECT_EQ(column.alignment, Qt::Alignment(alignment.toInt()) & Qt::AlignHorizontal_Mask) << column.caption;
     }
+}
+
+TEST_F(Communications, TheGridTellsHowToCount)
+{
+    openWith(1);
+    QWidget &headings = *view().horizontalHeader()->viewport();
+    const QPoint middle = headings.rect().center();
+    QHelpEvent hovered(QEvent::ToolTip, middle, headings.mapToGlobal(middle));
+    QApplication::sendEvent(&headings, &hovered);
+    EXPECT_TRUE(QToolTip::text().startsWith(QLatin1String("C, I and O count"))) << QToolTip::text().toStdString();
+    EXPECT_EQ(QToolTip::text(), view().accessibleDescription());
+    QToolTip::hideText();
 }
 
 TEST_F(Communications, FeeEarnersStandInTheUsersOrder)

@@ -361,6 +361,7 @@ TEST_F(CounselBox, EditOpensTheChosenCounselAndShowsTheNewName)
             press(screen, "cmdSave");
         });
     EXPECT_EQ(QStringLiteral("Mr Bee"), Form->Counsel(2)->Name());
+    EXPECT_EQ(QStringLiteral("Mr Bee"), counselList(*box).toolTip());
     EXPECT_EQ((QStringList {QStringLiteral("Ms A 1"), QStringLiteral("Mr Bee 2")}), entries(counselList(*box)));
     EXPECT_EQ(second, box->CounselUniqueID());
 }

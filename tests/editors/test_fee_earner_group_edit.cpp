@@ -1,5 +1,6 @@
 #include "controls/oAllPurposeBox.h"
 #include "controls/oCheckBox.h"
+#include "controls/oContentSwitcher.h"
 #include "controls/oDecimalBox.h"
 #include "controls/oTypeAheadBox.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
@@ -149,12 +150,16 @@ TEST_F(FeeEarnerGroupEdit, ANewGroupIsMadeAtSaveWithItsRatesAtZero)
     EXPECT_EQ(0, group->Calls());
 }
 
-TEST_F(FeeEarnerGroupEdit, ARateThatAnOlderClaimLeftEmptyIsZeroOnceItIsSaved)
+TEST_F(FeeEarnerGroupEdit, ARateThatAClaimLeftEmptyStaysSoUntilItsBoxHasHadTheFocus)
 {
     const auto group = addGroup("PTR", "Partner");
     group->CallsRate = QString();
-    const auto screen = edit(group.get());
+    auto screen = edit(group.get());
     EXPECT_EQ(QString(), amount(*screen, "txtCalls"));
+    press(*screen, "cmdSave");
+    EXPECT_EQ(QString(), group->CallsRate());
+    screen = edit(group.get());
+    screen->Box("txtCalls").setFocus(Qt::TabFocusReason);
     press(*screen, "cmdSave");
     EXPECT_EQ(QStringLiteral("0.00"), group->CallsRate());
 }
@@ -302,6 +307,27 @@ TEST_F(FeeEarnerGroupEdit, ARateSetFillsTheSevenRatesAndNothingElseUntilSave)
     EXPECT_EQ(QStringLiteral("1.00"), group->HourlyRate());
     EXPECT_EQ(QStringLiteral("7.00"), group->TravelAndWaitingRate());
     EXPECT_EQ(QStringLiteral("25.00"), group->EnhancementRate());
+}
+
+TEST_F(FeeEarnerGroupEdit, EditRateSetsOpensThatPageOfThePreferencesAndLoadHasWhatWasChangedThere)
+{
+    addRateSet("London", 1);
+    const auto screen = edit(nullptr);
+    type(screen->Box("txtReference"), QStringLiteral("PTR"));
+    inModal([&] { press(*screen, "cmdEditRateSets"); },
+        [](frmSection &preferences) {
+            EXPECT_EQ(QStringLiteral("frmPreferences"), preferences.objectName());
+            EXPECT_EQ(3, preferences.Switcher().OpenPage());
+            addRateSet("Leeds", 11);
+            press(preferences, "cmdClose");
+        });
+    EXPECT_TRUE(screen->isVisible());
+    EXPECT_EQ(QStringLiteral("PTR"), screen->Box<oAllPurposeBox>("txtReference").Text());
+    QMenu &menu = openMenu(*screen);
+    EXPECT_EQ(QStringList({QStringLiteral("London"), QStringLiteral("Leeds")}), shown(menu));
+    QTest::keyClick(&menu, Qt::Key_Up);
+    QTest::keyClick(&menu, Qt::Key_Return);
+    EXPECT_EQ(QStringLiteral("11.00"), amount(*screen, "txtHourly"));
 }
 
 TEST_F(FeeEarnerGroupEdit, ABadRateHoldsSaveAndLoad)

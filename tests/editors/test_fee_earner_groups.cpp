@@ -4,7 +4,6 @@
 
 #include <QAbstractItemView>
 #include <QAction>
-#include <QContextMenuEvent>
 #include <QMenu>
 
 namespace {
@@ -301,8 +300,7 @@ TEST_F(FeeEarnerGroups, TheMenuOfAGroupIsReachedByKeysToo)
 {
     addGroup("A");
     const auto screen = lists();
-    QContextMenuEvent asked(QContextMenuEvent::Keyboard, QPoint(), QPoint());
-    QApplication::sendEvent(groups(*screen).findChild<QAbstractItemView *>()->viewport(), &asked);
+    QTest::keyClick(screen->focusWidget(), Qt::Key_F10, Qt::ShiftModifier);
     auto *menu = screen->findChild<QMenu *>(QStringLiteral("mnuFeeEarnerGroups"));
     ASSERT_TRUE(QTest::qWaitFor([menu] { return menu->isVisible(); }));
     user.answers = {clsUserInterface::Yes};

@@ -23,7 +23,7 @@ std::vector<std::string> names()
 }
 
 INSTANTIATE_TEST_SUITE_P(Screens, EveryScreen, testing::ValuesIn(names()),
-    [](const testing::TestParamInfo<std::string> &info) { return info.param; });
+    [](const testing::TestParamInfo<std::string> &test) { return test.param; });
 
 QString frameOf(const QWidget *control)
 {
@@ -62,12 +62,13 @@ char kindOf(const QWidget *control)
 void expectCaption(const clsExpectedField &field, const clsScreenField &found)
 {
     const QString caption = QString::fromUtf8(field.answer ? field.answer : field.caption);
-    if (const auto *button = qobject_cast<const oCustomButton *>(found.control))
+    if (const auto *button = qobject_cast<const oCustomButton *>(found.control)) {
         EXPECT_EQ(caption, button->Caption()) << field.control;
-    else if (found.label)
+    } else if (found.label) {
         EXPECT_EQ(caption, mdPlainCaption(found.label->text())) << field.control;
-    else if (!caption.isEmpty())
+    } else if (!caption.isEmpty()) {
         EXPECT_EQ(mdSpokenCaption(caption), found.control->accessibleName()) << field.control;
+    }
 }
 
 void expectText(const clsExpectedField &field, const oAllPurposeBox &box)

@@ -4,13 +4,11 @@
     real_window.py PROGRAM CLAIM [FOLDER FOR PICTURES]
 
 Exit status 77, with the reason, where this machine has no display server, window manager or keyboard driver to try it
-with.
+with. A desktop that fails before the program has a window is started anew; a failure of the program never is.
 """
 
-import os
 import re
 import shutil
-import subprocess
 import sys
 import tempfile
 import time
@@ -18,66 +16,98 @@ import zipfile
 from pathlib import Path
 from urllib.parse import quote
 
-NEEDED = ("Xvfb", "openbox", "xdotool")
-PATIENCE = 30
+from real_desktop import NEEDED, PATIENCE, Desktop, DesktopFailure
+
+MAIN = "Velmor ZR3"
 TITLE = "Zarquon"
-
-
-class Desktop:
-    """A display of its own with a window manager, and a keyboard."""
-
-    def __init__(self, folder):
-        reader, writer = os.pipe()
-        self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(writer), "-screen", "0", "1366x768x24", "-nolisten", "tcp"],
-            pass_fds=[writer], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        os.close(writer)
-        with os.fdopen(reader) as told:
-            self.display = ":" + told.readline().strip()
-        self.surroundings = {name: value for name, value in os.environ.items() if not name.startswith(("QT_", "XDG_"))}
-        self.surroundings |= {"DISPLAY": self.display, "HOME": str(folder), "XDG_CONFIG_HOME": str(folder / "config"),
-                              "XDG_RUNTIME_DIR": str(folder)}
-        self.manager = subprocess.Popen(["openbox"], env=self.surroundings, stdout=subprocess.DEVNULL,
-                                        stderr=subprocess.DEVNULL)
-
-    def close(self):
-        for process in (self.manager, self.server):
-            process.terminate()
-            process.wait()
-
-    def tell(self, *words, check=True):
-        return subprocess.run(["xdotool", *words], env=self.surroundings, check=check, capture_output=True,
-                              text=True).stdout.strip()
-
-    def title(self):
-        return self.tell("getactivewindow", "getwindowname", check=False)
-
-    def key(self, *keys):
-        self.tell("key", "--delay", "40", *keys)
-
-    def type(self, text):
-        self.tell("type", "--delay", "20", text)
-
-    def picture(self, folder, name):
-        if folder and shutil.which("import"):
-            subprocess.run(["import", "-window", "root", Path(folder) / f"{name}.png"], env=self.surroundings, check=True)
-
-
-def wait(what, holds):
-    end = time.monotonic() + PATIENCE
-    while not holds():
-        if time.monotonic() > end:
-            sys.exit(f"Waited in vain for {what}.")
-        time.sleep(0.05)
+ATTEMPTS = 3
 
 
 def exports_into(claim, folder):
     """Gives the claim an export folder, in the encoding of the file."""
     text = claim.read_text("latin-1")
-    encoded = quote(str(folder), safe="").replace("-", "%2D").replace("_", "%5F").replace(".", "%2E").replace("~", "%7E")
+    encoded = quote(str(folder), safe="")
+    for character, code in (("-", "%2D"), ("_", "%5F"), (".", "%2E"), ("~", "%7E")):
+        encoded = encoded.replace(character, code)
     text, count = re.subn(r"<exportpath>[^<]*</exportpath>|<exportpath/>", f"<exportpath>{encoded}</exportpath>", text)
     assert count == 1
     claim.write_text(text, "latin-1")
+
+
+class Walk:
+    """The program on a desktop, and what the keys do in it."""
+
+    def __init__(self, desktop, program, claim, pictures):
+        self.desktop = desktop
+        self.claim = claim
+        self.pictures = pictures
+        self.program = desktop.start("program", [program, str(claim)])
+        self.up = False
+
+    def picture(self, name):
+        self.desktop.picture(self.pictures, name)
+
+    def runs(self):
+        """Ends the test when the program has ended by itself."""
+        if self.program.poll() is None:
+            return
+        if not self.up and "could not connect to display" in self.desktop.log("program").read_text("utf-8", "replace"):
+            raise DesktopFailure("The display server refused the program.")
+        sys.exit("The program has ended.")
+
+    def window(self, *titles):
+        """Waits for one of these windows to be the active one, and gives its title."""
+        def shown():
+            self.runs()
+            self.title = self.desktop.title()
+            # The splash bears the title of the main window, which fills the screen.
+            return self.title in titles and (self.title != MAIN or self.desktop.fills_the_screen())
+
+        try:
+            self.desktop.wait(" or ".join(titles), shown)
+        except SystemExit:
+            print(f'The active window is "{self.title}".')
+            raise
+        self.up = True
+        time.sleep(0.3)
+        return self.title
+
+    def edit(self):
+        desktop = self.desktop
+        self.window(MAIN)
+        self.picture("main")
+        desktop.key("Right", "Return", "Tab", "Return")
+        self.window("Client Details")
+        desktop.key("Tab", "ctrl+a")
+        desktop.type(TITLE)
+        self.picture("client")
+        desktop.key("alt+e")
+        self.window("Solicitor Details")
+        self.picture("solicitor")
+        desktop.key("alt+s")
+        self.window(MAIN)
+        desktop.key("ctrl+s")
+        desktop.wait("the claim to be saved", lambda: TITLE in self.claim.read_text("latin-1"))
+
+    def export(self):
+        desktop = self.desktop
+        desktop.key("ctrl+w")
+        self.window("Export to Word")
+        self.picture("export")
+        desktop.key("Return")
+        if self.window("Word Instances", "Export Complete") == "Word Instances":
+            desktop.key("Return")
+            self.window("Export Complete")
+        self.picture("exported")
+        desktop.key("Return")
+        self.window("Export to Word")
+        desktop.key("Escape")
+
+    def quit(self):
+        self.window(MAIN)
+        self.desktop.key("ctrl+q")
+        if self.program.wait(PATIENCE) != 0:
+            sys.exit("The program did not end well.")
 
 
 def walk(program, source, folder, pictures):
@@ -86,54 +116,16 @@ def walk(program, source, folder, pictures):
     finished = folder / "export"
     finished.mkdir()
     exports_into(claim, finished)
-    desktop = Desktop(folder)
-    running = None
-    try:
-        # The window manager is up when it answers.
-        wait("the window manager", lambda: desktop.tell("get_desktop", check=False) == "0")
-        running = subprocess.Popen([program, str(claim)], env=desktop.surroundings)
-
-        def title_is(title):
-            wait(f'the window "{title}"', lambda: desktop.title() == title)
-            time.sleep(0.3)
-
-        title_is("Velmor ZR3")
-        desktop.picture(pictures, "main")
-        desktop.key("Right", "Return", "Tab", "Return")
-        title_is("Client Details")
-        desktop.key("Tab", "ctrl+a")
-        desktop.type(TITLE)
-        desktop.picture(pictures, "client")
-        desktop.key("alt+e")
-        title_is("Solicitor Details")
-        desktop.picture(pictures, "solicitor")
-        desktop.key("alt+s")
-        title_is("Velmor ZR3")
-        desktop.key("ctrl+s")
-        wait("the claim to be saved", lambda: TITLE in claim.read_text("latin-1"))
-        desktop.key("ctrl+w")
-        title_is("Export to Word")
-        desktop.picture(pictures, "export")
-        desktop.key("Return")
-        title = lambda: desktop.title() in ("Word Instances", "Export Complete")
-        wait("the end of the export", title)
-        if desktop.title() == "Word Instances":
-            desktop.key("Return")
-        title_is("Export Complete")
-        desktop.picture(pictures, "exported")
-        desktop.key("Return")
-        title_is("Export to Word")
-        desktop.key("Escape")
-        title_is("Velmor ZR3")
-        desktop.key("ctrl+q")
-        if running.wait(PATIENCE) != 0:
-            sys.exit(f"The program ended with status {running.returncode}.")
-    finally:
-        if running and running.poll() is None:
-            print(f'The active window was "{desktop.title()}".')
-            running.kill()
-            running.wait()
-        desktop.close()
+    with Desktop(folder) as desktop:
+        whole = Walk(desktop, program, claim, pictures)
+        try:
+            whole.edit()
+            whole.export()
+            whole.quit()
+        except DesktopFailure as failure:
+            if whole.up:
+                sys.exit(f"{failure} The program had its window already.")
+            raise
 
     left = sorted(path.name for path in finished.iterdir())
     if left != ["Claim1.doc"]:
@@ -148,10 +140,16 @@ def main(program, claim, pictures=None):
     if missing:
         print(f"skipped: there is no {' and no '.join(missing)} on this machine")
         return 77
-    with tempfile.TemporaryDirectory() as folder:
-        walk(program, claim, Path(folder), pictures)
-    print("walked from the start to the document")
-    return 0
+    for attempt in range(1, ATTEMPTS + 1):
+        try:
+            with tempfile.TemporaryDirectory() as folder:
+                walk(program, claim, Path(folder), pictures)
+        except DesktopFailure as failure:
+            print(f"{failure} This was attempt {attempt} of {ATTEMPTS}.", flush=True)
+        else:
+            print("walked from the start to the document")
+            return 0
+    return 1
 
 
 if __name__ == "__main__":

@@ -124,7 +124,7 @@ TEST_F(Navigation, PrevStoresToo)
 TEST_F(Navigation, AClaim1APassesCaseInformationBy)
 {
     Form->FormType = QStringLiteral("Claim1A");
-    walk(QStringLiteral("Previous Advice"), {{"frmPreviousAdvice", goNext}});
+    walk(QStringLiteral("Previous Advice"), {{"frmPreviousAdvice", goNext}, {"frmOutcomeOfCase", cancel}});
     EXPECT_EQ(QStringList({QStringLiteral("Previous Advice"), QStringLiteral("Outcome of Case")}), openedTexts);
     openedTexts.clear();
     Form->FormType = QStringLiteral("Claim1");

@@ -51,7 +51,7 @@ void clsFieldMarks::clicked(const clsExpectedScreen &screen, const clsExpectedFi
 {
     bool ticked = true;
     if (const clsExclusiveTicks *group = exclusivesOf(screen, field)) {
-        ticked = same(field.control, m_firstTickWins ? group->controls.front() : group->controls.back());
+        ticked = same(field.control, tickedOf(*group));
     } else if (same(screen.name, "frmFormSetup")) {
         for (const char *control : TickedInANewClaim)
             ticked = ticked && !same(field.control, control);
@@ -65,6 +65,11 @@ void clsFieldMarks::chosen(const clsExpectedScreen &screen, const clsChosen &row
     put(screen, row.control, 'l', row.item, row.element, row.content, QString::fromUtf8(row.shown));
     if (row.flag)
         put(screen, row.control, 'x', row.item, row.flag, "True", Ticked);
+}
+
+const char *clsFieldMarks::tickedOf(const clsExclusiveTicks &group) const
+{
+    return group.controls[std::min(m_tickedPlace, group.controls.size() - 1)];
 }
 
 const clsChosen *clsFieldMarks::choiceOf(const clsExpectedScreen &screen, const clsExpectedField &field, int item) const

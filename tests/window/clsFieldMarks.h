@@ -22,9 +22,10 @@ struct clsMark {
 /// holds and what the control shows are put together here from the tables, without a look at the program.
 class clsFieldMarks {
 public:
-    /// On one of the form types the last tick of several that exclude each other wins, on the other one the first.
-    clsFieldMarks(bool firstTickWins, std::vector<clsChosen> chosen)
-        : m_firstTickWins(firstTickWins)
+    /// Of several ticks that exclude each other, the one at a place from 0 is clicked last; where there are fewer, the
+    /// last of them.
+    clsFieldMarks(size_t tickedPlace, std::vector<clsChosen> chosen)
+        : m_tickedPlace(tickedPlace)
         , m_chosen(std::move(chosen))
     { }
 
@@ -35,6 +36,8 @@ public:
     /// Marks what is chosen in a list, and the tick before it where there is one.
     void chosen(const clsExpectedScreen &screen, const clsChosen &row);
 
+    /// The one of several that exclude each other that stays ticked.
+    const char *tickedOf(const clsExclusiveTicks &group) const;
     /// What is to be chosen, where the field is a list or the like.
     const clsChosen *choiceOf(const clsExpectedScreen &screen, const clsExpectedField &field, int item) const;
     /// The ticks that exclude each other with this one; nothing for one that stands for itself.
@@ -57,7 +60,7 @@ private:
     void put(const clsExpectedScreen &screen, const char *control, char kind, int item, const std::string &element,
         const QByteArray &content, const QString &shown);
 
-    bool m_firstTickWins;
+    size_t m_tickedPlace;
     std::vector<clsChosen> m_chosen;
     std::map<std::string, std::vector<clsMark>> m_marks;
     int m_count = 0;

@@ -115,6 +115,7 @@ private:
 
     static void throughScreen(frmSection &screen, const clsExpectedScreen &expected, int item, const clsStop &stop)
     {
+        EXPECT_EQ(expected.fields.size(), screen.Fields().size()) << expected.name << ": its table lacks fields";
         for (const clsExpectedField &field : expected.fields) {
             if (field.kind == 'b')
                 continue;

@@ -47,14 +47,28 @@ QString clsFieldMarks::typed(const clsExpectedScreen &screen, const clsExpectedF
     return typed;
 }
 
+int clsFieldMarks::clicksOf(const clsExpectedScreen &screen, const clsExpectedField &field) const
+{
+    if (exclusivesOf(screen, field))
+        return 1;
+    for (const char *control : TicksOfOthers)
+        if (same(field.control, control))
+            return 1;
+    unsigned place = 0;
+    while (!same(screen.fields[place].control, field.control))
+        ++place;
+    return (place >> m_twiceBit & 1) != 0 ? 2 : 1;
+}
+
 void clsFieldMarks::clicked(const clsExpectedScreen &screen, const clsExpectedField &field, int item)
 {
-    bool ticked = true;
+    bool ticked = clicksOf(screen, field) == 1;
     if (const clsExclusiveTicks *group = exclusivesOf(screen, field)) {
         ticked = same(field.control, tickedOf(*group));
     } else if (same(screen.name, "frmFormSetup")) {
         for (const char *control : TickedInANewClaim)
-            ticked = ticked && !same(field.control, control);
+            if (same(field.control, control))
+                ticked = !ticked;
     }
     const QString shown = ticked ? Ticked : Unticked;
     put(screen, field.control, 'x', item, elementOf(screen, field), shown.toLatin1(), shown);

@@ -23,15 +23,19 @@ struct clsMark {
 class clsFieldMarks {
 public:
     /// Of several ticks that exclude each other, the one at a place from 0 is clicked last; where there are fewer, the
-    /// last of them.
-    clsFieldMarks(size_t tickedPlace, std::vector<clsChosen> chosen)
+    /// last of them. All others are told apart by the places of their fields in the table: those in which a bit is set
+    /// are clicked twice.
+    clsFieldMarks(size_t tickedPlace, unsigned twiceBit, std::vector<clsChosen> chosen)
         : m_tickedPlace(tickedPlace)
+        , m_twiceBit(twiceBit)
         , m_chosen(std::move(chosen))
     { }
 
     /// What the user types into a text, a date, an amount, a number or a time, which it marks.
     QString typed(const clsExpectedScreen &screen, const clsExpectedField &field, int item);
-    /// Marks a tick that is clicked once, or together with those that exclude it.
+    /// How often a tick is clicked.
+    int clicksOf(const clsExpectedScreen &screen, const clsExpectedField &field) const;
+    /// Marks a tick that is clicked so often, and together with those that exclude it.
     void clicked(const clsExpectedScreen &screen, const clsExpectedField &field, int item);
     /// Marks what is chosen in a list, and the tick before it where there is one.
     void chosen(const clsExpectedScreen &screen, const clsChosen &row);
@@ -61,6 +65,7 @@ private:
         const QByteArray &content, const QString &shown);
 
     size_t m_tickedPlace;
+    unsigned m_twiceBit;
     std::vector<clsChosen> m_chosen;
     std::map<std::string, std::vector<clsMark>> m_marks;
     int m_count = 0;

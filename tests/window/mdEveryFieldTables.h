@@ -145,4 +145,7 @@ inline const std::vector<const char *> TickedInANewClaim {
     "chkIncludePage7", "chkIncludePage8", "chkIncludePage9", "chkIncludePage10", "chkIncludePage11", "chkIncludePage12",
     "chkIncludePage13",
 };
+
+/// Ticks without which another field can't be filled, or can't any more: they are clicked once.
+inline const std::vector<const char *> TicksOfOthers {"chkVAT", "chkEnhance", "chkAdvocacy"};
 // clang-format on

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "editors/mdScreens.h"
+#include "tests/editors/mdCommsTables.h"
 #include "tests/editors/mdCounselTables.h"
 #include "tests/editors/mdDisbursementTables.h"
 #include "tests/editors/mdFeeEarnerTables.h"
+#include "tests/editors/mdPreferencesTables.h"
 #include "tests/editors/mdRecordTables.h"
 #include "tests/editors/mdScreenTables.h"
 
@@ -15,8 +17,9 @@
 inline std::vector<clsExpectedScreen> AllExpectedScreens()
 {
     std::vector<clsExpectedScreen> all;
-    for (const auto *table : {&ExpectedScreens, &ExpectedCounselScreens, &ExpectedDisbursementScreens,
-             &ExpectedFeeEarnerScreens, &ExpectedRecordScreens})
+    for (const auto *table :
+        {&ExpectedScreens, &ExpectedCommsScreens, &ExpectedCounselScreens, &ExpectedDisbursementScreens,
+            &ExpectedFeeEarnerScreens, &ExpectedPreferencesEditors, &ExpectedRecordScreens})
         all.insert(all.end(), table->begin(), table->end());
     return all;
 }
@@ -27,6 +30,7 @@ using clsScreenFunction = const clsScreen &(*)();
 inline std::vector<clsScreenFunction> AllItemEditors()
 {
     return {
+        ScreenCorrespondences,
         ScreenCounselEdit,
         ScreenDisbursementEdit,
         ScreenEnhancementEdit,
@@ -34,6 +38,8 @@ inline std::vector<clsScreenFunction> AllItemEditors()
         ScreenFeeEarnerEdit,
         ScreenFeeEarnerGroupEdit,
         ScreenJointInstructionEdit,
+        ScreenPreferencesRateSetEdit,
+        ScreenReplacementEdit,
     };
 }
 

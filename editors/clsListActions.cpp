@@ -16,6 +16,13 @@
 
 #include <QMenu>
 
+namespace {
+
+/// The icon group whose glyphs are those of the families of windows.
+constexpr int SectionIcons = 12;
+
+} // namespace
+
 clsListActions::clsListActions(frmSection &screen, const clsItemList &list, oSGrid &grid, oCustomButton *add)
     : QObject(&grid)
     , m_screen(screen)
@@ -23,6 +30,7 @@ clsListActions::clsListActions(frmSection &screen, const clsItemList &list, oSGr
     , m_grid(grid)
     , m_add(add)
 {
+    m_grid.setEmptyGlyph(mdTile(SectionIcons, m_screen.objectName()).glyph);
     if (m_list.menu)
         buildMenu();
     if (m_list.remove)

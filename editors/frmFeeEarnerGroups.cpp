@@ -87,8 +87,6 @@ const clsItemList FeeEarners {
 
 void rules(frmSection &screen)
 {
-    for (const char *grid : {"sgFeeEarnerGroups", "sgFeeEarners"})
-        screen.Box<oSGrid>(grid).setEmptyGlyph(Glyph::People);
     screen.findChild<QAction *>(QStringLiteral("mnuCreateFeeEarners"))
         ->setIcon(mdGlyphIcon(Glyph::AddPerson, Theme::Ink));
 }

@@ -67,6 +67,7 @@ bool oCodeCombo::leave()
     if (!isVisible() || !isEnabled() || m_telling)
         return true;
     setCode(Code().toUpper());
+    m_untold = false;
     m_telling = true;
     const bool fits = mdCheckScheduleOfTimeCode(Code());
     m_telling = false;
@@ -97,24 +98,42 @@ bool oCodeCombo::event(QEvent *event)
 
 void oCodeCombo::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
-        QComboBox::keyPressEvent(event);
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        // One press saves, also while what is completed is still marked.
+        lineEdit()->deselect();
+        event->ignore();
         return;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        // From what is typed, and not from what was chosen before.
+        if (const int typed = findText(Code().toUpper(), Qt::MatchExactly | Qt::MatchCaseSensitive); typed >= 0)
+            setCurrentIndex(typed);
+        break;
+    default: break;
     }
-    // One press saves, also while what is completed is still marked.
-    lineEdit()->deselect();
-    event->ignore();
+    QComboBox::keyPressEvent(event);
 }
 
 void oCodeCombo::focusOutEvent(QFocusEvent *event)
 {
     QComboBox::focusOutEvent(event);
-    if (isInterruption(event->reason()) || !isVisible() || m_telling)
+    if (isInterruption(event->reason()) || !isVisible() || !isEnabled() || m_telling)
         return;
     const QString code = Code().toUpper();
-    if (code != Code())
+    if (mdScheduleOfTimeCodesCollection().contains(code)) {
         setCode(code);
-    // Whatever took the focus away without asking: the message waits until that is done.
-    if (!mdScheduleOfTimeCodesCollection().contains(code))
-        QTimer::singleShot(0, this, [this] { leave(); });
+        return;
+    }
+    // The focus comes back at once, so that whatever took it finds the user held here. The message is left to that, or
+    // else comes when it is done: a message in the middle of a change of the focus would be in its way.
+    m_untold = true;
+    setFocus(Qt::OtherFocusReason);
+    QTimer::singleShot(0, this, [this] {
+        if (m_untold)
+            leave();
+    });
 }

@@ -30,4 +30,5 @@ private:
     void explain();
 
     bool m_telling = false;
+    bool m_untold = false;
 };

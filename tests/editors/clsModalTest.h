@@ -42,7 +42,8 @@ protected:
     {
         QCoreApplication::processEvents();
         window.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        // A window over the active one counts as active there before it has the keys.
+        EXPECT_TRUE(QTest::qWaitFor([&window] { return window.isActiveWindow(); }));
     }
     static void click(QWidget &widget) { QTest::mouseClick(&widget, Qt::LeftButton, {}, widget.rect().center()); }
     /// A key for whatever has the focus in a window.

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "controls/oCheckBox.h"
+#include "controls/oSGrid.h"
+#include "costing/clsZR3ScheduleOfTimeItem.h"
+#include "tests/editors/clsFeeEarnersTest.h"
+
+#include <QAbstractItemView>
+#include <QAction>
+
+/// A test of lists of dated items and of their editors.
+class clsScheduleTest : public clsFeeEarnersTest {
+protected:
+    using Item = std::shared_ptr<clsZR3ScheduleOfTimeItem>;
+
+    /// An item of the first fee earner, who is made where there is none.
+    static Item addItem(const char *date, const char *code = "DOT", const char *time = "01:00")
+    {
+        if (Form->FeeEarnersCollection().empty())
+            addFeeEarners(1);
+        const auto item = Form->AddScheduleOfTimeItem();
+        item->FeeEarnerUniqueID = Form->FeeEarner(1)->UniqueID();
+        item->dDate = QString::fromUtf8(date);
+        item->Code = QString::fromUtf8(code);
+        item->TTime = QString::fromUtf8(time);
+        return item;
+    }
+    static std::unique_ptr<frmSection> editItem(const Item &item = nullptr)
+    {
+        return edit(ScreenScheduleOfTimeItemEdit(), item.get());
+    }
+    /// The item that was made last.
+    static clsZR3ScheduleOfTimeItem &lastItem() { return *Form->ScheduleOfTimeItemsCollection().back(); }
+    static size_t countItems() { return Form->ScheduleOfTimeItemsCollection().size(); }
+
+    static oCheckBox &tick(const frmSection &screen, const char *name) { return screen.Box<oCheckBox>(name); }
+    static void focus(const frmSection &screen, const char *name)
+    {
+        focusPart(screen.Box(name))->setFocus(Qt::TabFocusReason);
+    }
+    /// The rows of a grid as it shows them, the cells of a row with a bar between.
+    static QStringList rows(const oSGrid &grid)
+    {
+        const auto &cells = *grid.findChild<QAbstractItemView *>()->model();
+        QStringList result;
+        for (int row = 0; row < cells.rowCount(); ++row) {
+            QStringList texts;
+            for (int column = 0; column < cells.columnCount(); ++column)
+                texts << cells.index(row, column).data(Qt::DisplayRole).toString();
+            result << texts.join(u'|');
+        }
+        return result;
+    }
+    static QAction &entry(const frmSection &screen, const char *name)
+    {
+        auto *found = screen.findChild<QAction *>(QString::fromUtf8(name));
+        if (!found)
+            throw std::runtime_error(name);
+        return *found;
+    }
+    /// The messages so far, which were one of that title and text, or none at all.
+    void expectMessage(
+        const char *title, const char *text, clsUserInterface::Buttons buttons = clsUserInterface::OKOnly)
+    {
+        ASSERT_EQ(1u, user.messages.size());
+        EXPECT_EQ(QString::fromUtf8(title), user.messages[0].title);
+        EXPECT_EQ(QString::fromUtf8(text), user.messages[0].text);
+        EXPECT_EQ(buttons, user.messages[0].buttons);
+        user.messages.clear();
+    }
+    void expectInvalidCode() { expectMessage("Invalid Code", "The code entered is invalid"); }
+};

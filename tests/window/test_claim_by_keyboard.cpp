@@ -323,6 +323,7 @@ void expectSchedule(const clsZR3Form &saved)
 
 TEST_F(ClaimByKeyboard, IsTheBillThatPenAndPaperGive)
 {
+    longestRun = 60000; // some 700 keys, on a machine that may have other work
     const QString claim = path("claims/Holloway.zr3");
     enterFormSetup();
     enterFeeEarners();

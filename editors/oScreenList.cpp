@@ -48,11 +48,14 @@ QSize oScreenList::sizeHint() const
 
 void oScreenList::showPopup()
 {
-    const int room = screen()->availableGeometry().right() - mapToGlobal(QPoint()).x();
+    const QRect room = screen()->availableGeometry();
     const QAbstractItemView &entries = *view();
     const int edges = 2 * entries.frameWidth() + entries.verticalScrollBar()->sizeHint().width();
-    view()->setMinimumWidth(qMax(width(), qMin(entries.sizeHintForColumn(0) + edges, room)));
+    view()->setMinimumWidth(qMax(width(), qMin(entries.sizeHintForColumn(0) + edges, room.width())));
     QComboBox::showPopup();
+    QWidget &popup = *view()->window();
+    if (const int beyond = popup.geometry().right() - room.right(); beyond > 0)
+        popup.move(qMax(room.left(), popup.x() - beyond), popup.y());
 }
 
 bool oScreenList::event(QEvent *event)

@@ -1,10 +1,13 @@
 #pragma once
 
 #include "editors/mdScreens.h"
+#include "tests/editors/mdCommsTables.h"
 #include "tests/editors/mdCounselTables.h"
 #include "tests/editors/mdDisbursementTables.h"
 #include "tests/editors/mdFeeEarnerTables.h"
+#include "tests/editors/mdPreferencesTables.h"
 #include "tests/editors/mdRecordTables.h"
+#include "tests/editors/mdScheduleTables.h"
 #include "tests/editors/mdScreenTables.h"
 
 #include <string_view>
@@ -15,8 +18,9 @@
 inline std::vector<clsExpectedScreen> AllExpectedScreens()
 {
     std::vector<clsExpectedScreen> all;
-    for (const auto *table : {&ExpectedScreens, &ExpectedCounselScreens, &ExpectedDisbursementScreens,
-             &ExpectedFeeEarnerScreens, &ExpectedRecordScreens})
+    for (const auto *table :
+        {&ExpectedScreens, &ExpectedCommsScreens, &ExpectedCounselScreens, &ExpectedDisbursementScreens,
+            &ExpectedFeeEarnerScreens, &ExpectedPreferencesEditors, &ExpectedRecordScreens, &ExpectedScheduleScreens})
         all.insert(all.end(), table->begin(), table->end());
     return all;
 }
@@ -27,13 +31,18 @@ using clsScreenFunction = const clsScreen &(*)();
 inline std::vector<clsScreenFunction> AllItemEditors()
 {
     return {
+        ScreenCorrespondences,
         ScreenCounselEdit,
         ScreenDisbursementEdit,
         ScreenEnhancementEdit,
         ScreenExpertInvoiceEdit,
+        ScreenFASItemEdit,
         ScreenFeeEarnerEdit,
         ScreenFeeEarnerGroupEdit,
         ScreenJointInstructionEdit,
+        ScreenPreferencesRateSetEdit,
+        ScreenReplacementEdit,
+        ScreenScheduleOfTimeItemEdit,
     };
 }
 

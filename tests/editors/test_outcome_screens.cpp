@@ -95,6 +95,7 @@ TEST_F(OutcomeScreens, AClosedListThatCutsItsTextHasItWholeInTheTooltipAndWhenOp
     ASSERT_TRUE(QTest::qWaitFor([&] { return stage.view()->isVisible(); }));
     EXPECT_GT(stage.view()->viewport()->width(), text);
     EXPECT_GE(stage.view()->viewport()->width(), stage.view()->sizeHintForColumn(0));
+    EXPECT_TRUE(screen->screen()->availableGeometry().contains(stage.view()->window()->geometry()));
     stage.hidePopup();
 }
 

@@ -8,8 +8,6 @@
 #include "editors/mdScreenControls.h"
 #include "tests/editors/clsModalTest.h"
 #include "tests/editors/clsPreferencesTest.h"
-#include "tests/editors/mdCommsTables.h"
-#include "tests/editors/mdScheduleTables.h"
 #include "tests/editors/mdWalkedScreens.h"
 #include "tests/window/clsMainWindowTest.h"
 #include "tests/window/mdEveryFieldTables.h"
@@ -88,10 +86,7 @@ private:
 
     static clsExpectedScreen screenOf(const char *section, const char *name)
     {
-        std::vector<clsExpectedScreen> all = AllExpectedScreens();
-        for (const auto *table : {&ExpectedScheduleScreens, &ExpectedCommsScreens})
-            all.insert(all.end(), table->begin(), table->end());
-        for (const clsExpectedScreen &screen : all)
+        for (const clsExpectedScreen &screen : AllExpectedScreens())
             if (name ? std::string_view(screen.name) == name : std::string_view(screen.section) == section)
                 return screen;
         throw std::runtime_error(std::string("no screen ") + (name ? name : section));

@@ -267,7 +267,7 @@ QHBoxLayout *clsFrameRows::cell(QWidget *control, bool wholeWidth)
 bool clsFrameRows::standsAbove(const clsScreenRow &row) const
 {
     const oFieldLabel beside(QString::fromUtf8(row.caption), oFieldLabel::Place::Beside, &m_frame);
-    return row.kind != clsRowKind::Tick && beside.wordWrap();
+    return row.flags & CaptionAbove || (row.kind != clsRowKind::Tick && beside.wordWrap());
 }
 
 bool clsFrameRows::isAnswer(const clsScreenRow &row) const

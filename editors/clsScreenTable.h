@@ -45,6 +45,7 @@ enum clsFieldFlag : unsigned {
     NoCaption = 512, ///< the frame's caption serves; the row's is read out only
     Independent = 1024, ///< no pair, although its name ends in Yes or No
     AtCloseOnly = 2048, ///< stored by the button that closes, and not on the way to another section
+    CaptionAbove = 4096, ///< the caption stands over the field, where there is more height than width
 };
 
 struct clsScreenRow;
@@ -120,6 +121,7 @@ struct clsScreenFrame {
     const char *caption;
     std::vector<clsScreenRow> rows {};
     bool startsColumn = false; ///< where there is room for two columns, the second begins here
+    bool sameLine = false; ///< stands in one line with the frame before, where there is room for all of the line
     int tickColumns = 0; ///< ticks stand in a grid of so many columns, row by row
     const char *switcher = nullptr; ///< object name of the switcher of its pages
     std::vector<clsScreenPage> pages {}; ///< instead of rows; a frame without a caption is only the stack of them

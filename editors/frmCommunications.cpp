@@ -136,7 +136,7 @@ const clsItemList FeeEarners {
 } // namespace
 
 /// The letters and calls of each fee earner, counted in the grid by the keys C, I and O or by a right click, down with
-/// Shift. The counts go straight to the claim; the boxes beside the grid are stored when the screen is left, but not by
+/// Shift. The counts go straight to the claim; the boxes below the grid are stored when the screen is left, but not by
 /// the menu "Save" or the close box.
 const clsScreen &ScreenCommunications()
 {
@@ -157,17 +157,17 @@ const clsScreen &ScreenCommunications()
                  .items = &FeeEarners},
             }},
             {.name = "bxCalls", .caption = "Calls", .rows = {
-                {.kind = Other, .control = "oCallsEnhancement", .caption = "Include in Enhancements:",
+                {.kind = Other, .control = "oCallsEnhancement", .caption = "Include in Enhancements:", .flags = CaptionAbove,
                  .member = "EnhanceCalls CallsEnhancementUniqueID", .other = &EnhancementsOfItem},
-            }, .startsColumn = true},
-            {"bxLettersIn", "Letters In", {
-                {.kind = Other, .control = "oLettersInEnhancement", .caption = "Include in Enhancements:",
+            }},
+            {.name = "bxLettersIn", .caption = "Letters In", .rows = {
+                {.kind = Other, .control = "oLettersInEnhancement", .caption = "Include in Enhancements:", .flags = CaptionAbove,
                  .member = "EnhanceLettersIn LettersInEnhancementUniqueID", .other = &EnhancementsOfItem},
-            }},
-            {"bxLettersOut", "Letters Out", {
-                {.kind = Other, .control = "oLettersOutEnhancement", .caption = "Include in Enhancements:",
+            }, .sameLine = true},
+            {.name = "bxLettersOut", .caption = "Letters Out", .rows = {
+                {.kind = Other, .control = "oLettersOutEnhancement", .caption = "Include in Enhancements:", .flags = CaptionAbove,
                  .member = "EnhanceLettersOut LettersOutEnhancementUniqueID", .other = &EnhancementsOfItem},
-            }},
+            }, .sameLine = true},
         },
         .rules = rules,
         .jumps = {

@@ -104,7 +104,7 @@ void frmSection::buildFrames()
 {
     for (const clsScreenFrame &table : m_screen.frames) {
         auto *frame = new oScreenFrame(table, m_page->content());
-        m_page->addFrame(frame, table.startsColumn);
+        m_page->addFrame(frame, table);
         m_fields.insert(m_fields.end(), frame->fields().begin(), frame->fields().end());
         m_labels.insert(m_labels.end(), frame->labels().begin(), frame->labels().end());
     }

@@ -20,6 +20,17 @@ constexpr int LowestPage = 104;
 constexpr int LeftShare = 4;
 constexpr int RightShare = 3;
 
+/// Whether a frame stands in a column, by itself or in a line of it.
+bool holds(const QLayout &column, const QWidget &frame)
+{
+    for (int place = 0; place < column.count(); ++place) {
+        QLayoutItem *item = column.itemAt(place);
+        if (item->widget() == &frame || (item->layout() && holds(*item->layout(), frame)))
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 oScreenPage::oScreenPage(QWidget *parent)
@@ -40,15 +51,34 @@ oScreenPage::oScreenPage(QWidget *parent)
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, const QWidget *now) { showFocus(now); });
 }
 
-void oScreenPage::addFrame(oScreenFrame *frame, bool startsColumn)
+void oScreenPage::addFrame(oScreenFrame *frame, const clsScreenFrame &table)
 {
-    if (m_columns->count() == 0 || startsColumn) {
+    if (m_columns->count() == 0 || table.startsColumn) {
         auto *column = new QVBoxLayout;
         column->setSpacing(Theme::Space16);
         m_columns->addLayout(column, m_columns->count() == 0 ? LeftShare : RightShare);
     }
-    m_columns->itemAt(m_columns->count() - 1)->layout()->addWidget(frame);
+    auto *column = static_cast<QVBoxLayout *>(m_columns->itemAt(m_columns->count() - 1)->layout());
+    if (table.sameLine)
+        lineAtEndOf(*column).addWidget(frame, 1);
+    else
+        column->addWidget(frame);
     m_frames.push_back(frame);
+}
+
+/// The line of the column's last frame, which is made where the frame stands alone as yet.
+QBoxLayout &oScreenPage::lineAtEndOf(QVBoxLayout &column)
+{
+    const int last = column.count() - 1;
+    if (column.itemAt(last)->layout())
+        return *m_lines.back();
+    const std::unique_ptr<QLayoutItem> frame(column.takeAt(last));
+    auto *line = new QBoxLayout(QBoxLayout::LeftToRight);
+    line->setSpacing(Theme::Space16);
+    line->addWidget(frame->widget(), 1);
+    column.addLayout(line);
+    m_lines.push_back(line);
+    return *line;
 }
 
 void oScreenPage::complete()
@@ -56,10 +86,11 @@ void oScreenPage::complete()
     for (int i = 0; i < m_columns->count(); ++i) {
         auto *column = static_cast<QVBoxLayout *>(m_columns->itemAt(i)->layout());
         bool grows = false;
-        for (int place = 0; place < column->count(); ++place) {
-            auto *frame = static_cast<oScreenFrame *>(column->itemAt(place)->widget());
+        for (oScreenFrame *frame : m_frames) {
+            if (!holds(*column, *frame))
+                continue;
             m_ownLabels[frame] = {frame->labelColumn(), i};
-            column->setStretch(place, frame->grows() ? 1 : 0);
+            column->setStretchFactor(frame, frame->grows() ? 1 : 0);
             grows = grows || frame->grows();
         }
         if (!grows)
@@ -85,6 +116,13 @@ void oScreenPage::arrange(int width) const
     const QMargins edges = m_columns->contentsMargins();
     const bool wide = width - edges.left() - edges.right() >= Theme::scaled(RoomForTwoColumns);
     m_columns->setDirection(wide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    for (QBoxLayout *line : m_lines) {
+        int together = -line->spacing();
+        for (int place = 0; place < line->count(); ++place)
+            together += static_cast<oScreenFrame *>(line->itemAt(place)->widget())->narrowestWidth() + line->spacing();
+        const bool fits = together <= width - edges.left() - edges.right();
+        line->setDirection(fits ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    }
     for (oScreenFrame *frame : m_frames)
         frame->setSideBySide(wide && m_columns->count() == 1);
     if (std::exchange(m_wide, wide) != wide)

@@ -50,7 +50,7 @@ const clsScreen &ScreenFamilyAdvocacyScheme()
         .section = "Family Advocacy Scheme",
         .frames = {
             {"bxGeneral", "Costs under Family Advocacy Scheme", {
-                {.kind = clsRowKind::Items, .control = "sgFamilyAdvocacyScheme", .caption = "Costs under Family Advocacy Scheme", .flags = NoCaption,
+                {.kind = clsRowKind::Items, .control = "sgFamilyAdvocacyScheme", .caption = "Costs under Family Advocacy Scheme",
                  .items = &Hearings},
             }},
         },

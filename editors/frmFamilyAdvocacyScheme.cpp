@@ -50,8 +50,8 @@ const clsScreen &ScreenFamilyAdvocacyScheme()
         .section = "Family Advocacy Scheme",
         .frames = {
             {"bxGeneral", "Costs under Family Advocacy Scheme", {
-                {.kind = clsRowKind::Items, .control = "sgFamilyAdvocacyScheme", .caption = "Costs under Family Advocacy Scheme",
-                 .items = &Hearings},
+                {.kind = clsRowKind::Items, .control = "sgFamilyAdvocacyScheme",
+                 .caption = "Costs under Family Advocacy Scheme", .items = &Hearings},
             }},
         },
     };

@@ -2,6 +2,7 @@
 
 #include "controls/mdLeaveFocusedBox.h"
 #include "controls/mdTheme.h"
+#include "controls/oCheckBox.h"
 #include "editors/clsMnemonics.h"
 
 #include <QAbstractButton>
@@ -12,6 +13,13 @@ namespace {
 /// A line longer than this is hard to read.
 constexpr int WidestQuestion = 640;
 constexpr int WidestLabels = 300;
+
+/// What the letter ticks: the field itself, or the tick that stands first in it.
+QAbstractButton *tickOf(QWidget &field)
+{
+    auto *button = qobject_cast<QAbstractButton *>(&field);
+    return button ? button : qobject_cast<oCheckBox *>(field.focusProxy());
+}
 
 } // namespace
 
@@ -75,8 +83,8 @@ bool oFieldLabel::event(QEvent *event)
         return true;
     buddy()->setFocus(Qt::ShortcutFocusReason);
     window()->setAttribute(Qt::WA_KeyboardFocusChange);
-    if (auto *button = qobject_cast<QAbstractButton *>(buddy()); button && m_ticks)
-        button->click();
+    if (QAbstractButton *tick = tickOf(*buddy()); tick && m_ticks)
+        tick->click();
     return true;
 }
 

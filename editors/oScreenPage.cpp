@@ -8,6 +8,8 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace {
 
 constexpr int RoomForTwoColumns = 1040;
@@ -53,19 +55,28 @@ void oScreenPage::complete()
 {
     for (int i = 0; i < m_columns->count(); ++i) {
         auto *column = static_cast<QVBoxLayout *>(m_columns->itemAt(i)->layout());
-        int labels = 0;
-        for (int place = 0; place < column->count(); ++place)
-            labels = qMax(labels, static_cast<oScreenFrame *>(column->itemAt(place)->widget())->labelColumn());
         bool grows = false;
         for (int place = 0; place < column->count(); ++place) {
             auto *frame = static_cast<oScreenFrame *>(column->itemAt(place)->widget());
-            frame->setLabelColumn(labels);
+            m_ownLabels[frame] = {frame->labelColumn(), i};
             column->setStretch(place, frame->grows() ? 1 : 0);
             grows = grows || frame->grows();
         }
         if (!grows)
             column->addStretch(1);
     }
+    alignLabels();
+}
+
+/// Frames below each other begin their boxes at one edge.
+void oScreenPage::alignLabels() const
+{
+    std::map<int, int> widest;
+    const auto columnOf = [this](const clsLabels &labels) { return m_wide ? labels.column : 0; };
+    for (const auto &[frame, labels] : m_ownLabels)
+        widest[columnOf(labels)] = qMax(widest[columnOf(labels)], labels.width);
+    for (const auto &[frame, labels] : m_ownLabels)
+        frame->setLabelColumn(widest[columnOf(labels)]);
 }
 
 /// One column or two is a question of the width alone, so that it can be asked for a width that is not there yet.
@@ -76,6 +87,8 @@ void oScreenPage::arrange(int width) const
     m_columns->setDirection(wide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     for (oScreenFrame *frame : m_frames)
         frame->setSideBySide(wide && m_columns->count() == 1);
+    if (std::exchange(m_wide, wide) != wide)
+        alignLabels();
 }
 
 int oScreenPage::heightFor(int width) const

@@ -2,6 +2,7 @@
 
 #include <QScrollArea>
 
+#include <map>
 #include <vector>
 
 class QBoxLayout;
@@ -35,9 +36,18 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    /// What the captions of a frame need, and the column that it stands in where there are two.
+    struct clsLabels {
+        int width = 0;
+        int column = 0;
+    };
+
     void arrange(int width) const;
+    void alignLabels() const;
     void showFocus(const QWidget *focused);
 
     QBoxLayout *m_columns;
     std::vector<oScreenFrame *> m_frames;
+    std::map<oScreenFrame *, clsLabels> m_ownLabels;
+    mutable bool m_wide = false; ///< how it was arranged last
 };

@@ -14,8 +14,10 @@ inline const std::vector<clsExpectedScreen> ExpectedScheduleScreens {
     }},
     {"", "frmScheduleOfTimeItemEdit", "Schedule of Time Item", "Change a schedule of time item's settings",
      "scheduleoftimeitem", {
-        {.control = "cmbFeeEarner", .caption = "Fee Earner:*", .answer = nullptr, .kind = 'l', .element = "feeearneruniqueid"},
-        {.control = "txtDate", .caption = "Date:*", .answer = nullptr, .kind = 'd', .element = "ddate", .dateTick = true},
+        {.control = "cmbFeeEarner", .caption = "Fee Earner:*", .answer = nullptr, .kind = 'l',
+         .element = "feeearneruniqueid"},
+        {.control = "txtDate", .caption = "Date:*", .answer = nullptr, .kind = 'd', .element = "ddate",
+         .dateTick = true},
         {"cmbCode", "Code:*", nullptr, 'l'},
         {"txtDescription", "Description:", nullptr, 't', 0, false, true},
         {.control = "txtTime", .caption = "Time:*", .answer = nullptr, .kind = 'h', .element = "ttime"},

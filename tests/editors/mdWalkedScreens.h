@@ -7,6 +7,7 @@
 #include "tests/editors/mdFeeEarnerTables.h"
 #include "tests/editors/mdPreferencesTables.h"
 #include "tests/editors/mdRecordTables.h"
+#include "tests/editors/mdScheduleTables.h"
 #include "tests/editors/mdScreenTables.h"
 
 #include <string_view>
@@ -19,7 +20,7 @@ inline std::vector<clsExpectedScreen> AllExpectedScreens()
     std::vector<clsExpectedScreen> all;
     for (const auto *table :
         {&ExpectedScreens, &ExpectedCommsScreens, &ExpectedCounselScreens, &ExpectedDisbursementScreens,
-            &ExpectedFeeEarnerScreens, &ExpectedPreferencesEditors, &ExpectedRecordScreens})
+            &ExpectedFeeEarnerScreens, &ExpectedPreferencesEditors, &ExpectedRecordScreens, &ExpectedScheduleScreens})
         all.insert(all.end(), table->begin(), table->end());
     return all;
 }
@@ -35,11 +36,13 @@ inline std::vector<clsScreenFunction> AllItemEditors()
         ScreenDisbursementEdit,
         ScreenEnhancementEdit,
         ScreenExpertInvoiceEdit,
+        ScreenFASItemEdit,
         ScreenFeeEarnerEdit,
         ScreenFeeEarnerGroupEdit,
         ScreenJointInstructionEdit,
         ScreenPreferencesRateSetEdit,
         ScreenReplacementEdit,
+        ScreenScheduleOfTimeItemEdit,
     };
 }
 

@@ -124,8 +124,11 @@ TEST_F(Navigation, PrevStoresToo)
 TEST_F(Navigation, AClaim1APassesCaseInformationBy)
 {
     Form->FormType = QStringLiteral("Claim1A");
-    walk(QStringLiteral("Previous Advice"), {{"frmPreviousAdvice", goNext}});
-    EXPECT_EQ(QStringList({QStringLiteral("Previous Advice"), QStringLiteral("Outcome of Case")}), openedTexts);
+    walk(QStringLiteral("Previous Advice"),
+        {{"frmPreviousAdvice", goNext}, {"frmOutcomeOfCase", goNext}, {"frmNatureOfProceedings", cancel}});
+    EXPECT_EQ(QStringList({QStringLiteral("Previous Advice"), QStringLiteral("Outcome of Case"),
+                  QStringLiteral("Nature of Proceedings")}),
+        openedTexts);
     openedTexts.clear();
     Form->FormType = QStringLiteral("Claim1");
     walk(QStringLiteral("Previous Advice"), {{"frmPreviousAdvice", goNext}, {"frmCaseInformation", cancel}});

@@ -83,6 +83,9 @@ void RecordScreens::expectStored(const clsExpectedScreen &expected, const clsExp
     Form = std::make_unique<clsZR3Form>();
     // The template holds its rate with a plain point, which the first write encodes.
     Form->VATRate = Form->VATRate();
+    // An amount that has the focus at first is a figure as soon as it is left.
+    if (expected.fields.front().kind == 'm' && &expected.fields.front() != &field)
+        elementOf(expected, expected.fields.front()).text().set("0%2E00");
     const auto screen = opened(QString::fromUtf8(expected.section));
     if (!screen->Box(field.control).isEnabled())
         return;

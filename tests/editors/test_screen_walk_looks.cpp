@@ -76,6 +76,15 @@ std::map<const clsScreenRow *, int> columnsOf(const clsScreen &screen)
     return columns;
 }
 
+/// The control itself, or what stands at its left edge where it has several parts.
+QWidget *firstPart(QWidget &control)
+{
+    if (!control.focusProxy())
+        return &control;
+    QWidget *part = control.childAt(Theme::RingRoom, control.height() / 2);
+    return part ? part : &control;
+}
+
 class clsLook {
 public:
     explicit clsLook(frmSection &screen)
@@ -170,8 +179,8 @@ TEST_P(EveryScreen, TheBoxesOfAColumnBeginAtOneEdge)
                     continue;
                 const int frame = field.control->parentWidget()->mapTo(screen.get(), QPoint()).x();
                 const auto column = columns.find(field.row);
-                // A tick's visible edge lies inside the room for its ring.
-                const int ring = qobject_cast<oCheckBox *>(field.control) ? Theme::RingRoom : 0;
+                // A tick's visible edge lies inside the room for its ring, also that of a tick with further parts.
+                const int ring = qobject_cast<oCheckBox *>(firstPart(*field.control)) ? Theme::RingRoom : 0;
                 edges[{frame, column == columns.end() ? 0 : column->second}].insert(
                     field.control->mapTo(screen.get(), QPoint()).x() + ring);
             }
@@ -223,9 +232,13 @@ TEST_P(EveryScreen, WhateverHasTheFocusIsInViewWithSomeRoomAroundIt)
         }
         if (!canEnter(field))
             continue;
+        // The first field had it before the window was made so low.
+        screen->focusWidget()->clearFocus();
         field.control->setFocus(Qt::TabFocusReason);
-        const QRect place(field.control->mapTo(page().viewport(), QPoint()), field.control->size());
-        const int first = field.control->mapTo(&content(), QPoint()).y();
+        // Of a control of several parts, the one that has the focus.
+        const QWidget &part = *screen->focusWidget();
+        const QRect place(part.mapTo(page().viewport(), QPoint()), part.size());
+        const int first = part.mapTo(&content(), QPoint()).y();
         EXPECT_GE(place.top(), qMin(24, first)) << nameOf(field);
         if (place.height() + 48 <= page().viewport()->height()) {
             EXPECT_LE(place.bottom(), page().viewport()->height() - 16) << nameOf(field);

@@ -73,7 +73,7 @@ protected:
         onTick = [&] {
             if (!done && step())
                 done = true;
-            else if (patience.elapsed() > 20000) {
+            else if (patience.elapsed() > longestRun) {
                 ADD_FAILURE() << "the program does not come to its end";
                 oApplication::instance()->end(99);
             }
@@ -107,4 +107,5 @@ protected:
     }
 
     QTemporaryDir folder;
+    int longestRun = 20000; ///< in milliseconds
 };

@@ -1,140 +1,16 @@
-#include "controls/oAllPurposeBox.h"
 #include "formdata/clsZR3Form.h"
 #include "preview/oPreviewGrid.h"
 #include "shell/mdGlobals.h"
 #include "tests/support/mdTestPaths.h"
-#include "tests/support/mdTestPrinting.h"
-#include "tests/window/clsProgramTest.h"
+#include "tests/window/clsWholeWayTest.h"
 #include "wordexport/clsZipPackage.h"
 
 #include <QClipboard>
 #include <QComboBox>
-#include <QDialog>
-#include <QTest>
-
-#include <source_location>
 
 namespace {
 
-/// A user who sits before the real windows of the program and has a keyboard: one step after the other, each as soon as
-/// the one before has had its effect.
-class WholeWay : public clsProgramTest {
-protected:
-    void SetUp() override
-    {
-        clsProgramTest::SetUp();
-        ASSERT_TRUE(QFile::link(QStringLiteral(ZR3_TEMPLATES), path("program/Templates")));
-        ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("export")));
-    }
-
-    /// A step: what the user does, and what he then waits for.
-    using Place = std::source_location;
-    void step(std::function<void()> does, std::function<bool()> waitsFor, Place place = Place::current())
-    {
-        m_steps.push_back({std::move(does), std::move(waitsFor), place.line()});
-    }
-    void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, std::function<bool()> waitsFor = always,
-        Place place = Place::current())
-    {
-        step([=] { QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key(key), modifiers); }, std::move(waitsFor),
-            place);
-    }
-    void type(const QString &text, Place place = Place::current())
-    {
-        step(
-            [=] {
-                for (const QChar c : text)
-                    QTest::keyClick(QGuiApplication::focusWindow(), c.toLatin1());
-            },
-            always, place);
-    }
-    /// A look at how things stand, with nothing done.
-    void look(std::function<void()> at, Place place = Place::current()) { step(std::move(at), always, place); }
-
-    static bool always() { return true; }
-    /// The offscreen platform has no window manager that would activate the window below one that closes.
-    static bool isActive(QWidget &window)
-    {
-        if (!window.isActiveWindow())
-            window.activateWindow();
-        return window.isActiveWindow();
-    }
-    static std::function<bool()> screenIs(const char *name)
-    {
-        return [name] { return modalName() == QLatin1String(name) && isActive(*QApplication::activeModalWidget()); };
-    }
-    static std::function<bool()> boxIs(const char *title)
-    {
-        return [title] { return screenIs("frmMessageBox")() && modalTitle() == QLatin1String(title); };
-    }
-    /// Back at the main window.
-    static bool noScreen()
-    {
-        return modalName().isEmpty() && topLevel<frmMain>()->isVisible() && isActive(*topLevel<frmMain>());
-    }
-
-    static QString modalName()
-    {
-        const QWidget *modal = QApplication::activeModalWidget();
-        return modal ? modal->objectName() : QString();
-    }
-    static QString modalTitle() { return QApplication::activeModalWidget()->windowTitle(); }
-    template <class Control> static Control *onScreen(const char *name)
-    {
-        QWidget *modal = QApplication::activeModalWidget();
-        return modal ? modal->findChild<Control *>(QString::fromLatin1(name)) : nullptr;
-    }
-    static QString textOf(const char *name)
-    {
-        const auto *box = onScreen<oAllPurposeBox>(name);
-        return box ? box->Text() : QStringLiteral("(no box)");
-    }
-
-    /// Takes all steps; the result is the status of the program.
-    int walk(const std::vector<QByteArray> &arguments)
-    {
-        size_t next = 0;
-        bool taken = false;
-        const int status = run(arguments, [&, this] {
-            if (next == m_steps.size())
-                return true;
-            const clsStep &now = m_steps[next];
-            m_shown = modalName();
-            if (!taken) {
-                taken = true;
-                // From a timer of its own: what it opens has an event loop of its own, too.
-                QTimer::singleShot(0, QCoreApplication::instance(), now.does);
-                // The last one ends the program, and nobody is there to see what it did.
-                if (next + 1 < m_steps.size())
-                    return false;
-                ++next;
-                return true;
-            }
-            // Another word processor on the tester's machine is asked about, and lets the export go on.
-            if (boxIs("Word Instances")())
-                QTimer::singleShot(0, QCoreApplication::instance(),
-                    [] { QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_Return); });
-            if (!now.waitsFor())
-                return false;
-            ++next;
-            taken = false;
-            return next == m_steps.size();
-        });
-        if (next < m_steps.size())
-            ADD_FAILURE() << "the step of line " << m_steps[next].line << " had no effect; on the screen was "
-                          << (m_shown.isEmpty() ? "the main window" : qPrintable(m_shown));
-        return status;
-    }
-
-private:
-    struct clsStep {
-        std::function<void()> does;
-        std::function<bool()> waitsFor;
-        unsigned line;
-    };
-    QString m_shown;
-    std::vector<clsStep> m_steps;
-};
+class WholeWay : public clsWholeWayTest { };
 
 QString documentText(const QString &path)
 {

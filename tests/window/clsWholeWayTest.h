@@ -1,0 +1,179 @@
+#pragma once
+
+#include "controls/oAllPurposeBox.h"
+#include "tests/support/mdTestPrinting.h"
+#include "tests/window/clsProgramTest.h"
+
+#include <QScopedValueRollback>
+#include <QTest>
+
+#include <optional>
+#include <source_location>
+
+/// A user who sits before the real windows of the program and has a keyboard: one step after the other, each as soon as
+/// the one before has had its effect.
+class clsWholeWayTest : public clsProgramTest {
+protected:
+    void SetUp() override
+    {
+        clsProgramTest::SetUp();
+        ASSERT_TRUE(QFile::link(QStringLiteral(ZR3_TEMPLATES), path("program/Templates")));
+        ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("export")));
+    }
+
+    /// A step: what the user does, and what he then waits for.
+    using Place = std::source_location;
+    void step(std::function<void()> does, std::function<bool()> waitsFor, Place place = Place::current())
+    {
+        m_steps.push_back({std::move(does), std::move(waitsFor), place.line()});
+    }
+    void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, std::function<bool()> waitsFor = always,
+        Place place = Place::current())
+    {
+        step([=] { press(key, modifiers); }, std::move(waitsFor), place);
+    }
+    /// A text, in which a tabulator and an arrow down are the keys of that name.
+    void type(const QString &text, Place place = Place::current())
+    {
+        step([=] { pressAll(text); }, always, place);
+    }
+    static void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key(key), modifiers);
+    }
+    static void pressAll(const QString &text)
+    {
+        for (const QChar c : text) {
+            if (c == u'\t')
+                press(Qt::Key_Tab);
+            else if (c == u'↓')
+                press(Qt::Key_Down);
+            else
+                QTest::keyClick(QGuiApplication::focusWindow(), c.toLatin1());
+        }
+    }
+    /// A look at how things stand, with nothing done.
+    void look(std::function<void()> at, Place place = Place::current()) { step(std::move(at), always, place); }
+
+    static bool always() { return true; }
+    /// The offscreen platform has no window manager that would activate the window below one that closes.
+    static bool isActive(QWidget &window)
+    {
+        const auto hasKeys
+            = [&window] { return window.isActiveWindow() && QGuiApplication::focusWindow() == window.windowHandle(); };
+        if (!hasKeys())
+            window.activateWindow();
+        return hasKeys();
+    }
+    /// While one window goes and another comes, there may be none for a moment. A user does not type then.
+    static bool somethingHasKeys()
+    {
+        QWidget *window = QApplication::activeModalWidget();
+        if (!window)
+            window = topLevel<frmMain>();
+        return QGuiApplication::focusWindow() || !window || !window->isVisible() || isActive(*window);
+    }
+    static std::function<bool()> screenIs(const char *name)
+    {
+        return [name] { return modalName() == QLatin1String(name) && isActive(*QApplication::activeModalWidget()); };
+    }
+    static std::function<bool()> boxIs(const char *title)
+    {
+        return [title] { return screenIs("frmMessageBox")() && modalTitle() == QLatin1String(title); };
+    }
+    /// Back at the main window.
+    static bool noScreen()
+    {
+        return modalName().isEmpty() && topLevel<frmMain>()->isVisible() && isActive(*topLevel<frmMain>());
+    }
+
+    static QString modalName()
+    {
+        const QWidget *modal = QApplication::activeModalWidget();
+        return modal ? modal->objectName() : QString();
+    }
+    static QString modalTitle() { return QApplication::activeModalWidget()->windowTitle(); }
+    template <class Control> static Control *onScreen(const char *name)
+    {
+        QWidget *modal = QApplication::activeModalWidget();
+        return modal ? modal->findChild<Control *>(QString::fromLatin1(name)) : nullptr;
+    }
+    /// Whether the focus is in that control, or in a part of it.
+    static bool focusIn(const char *name)
+    {
+        for (const QWidget *part = QApplication::focusWidget(); part; part = part->parentWidget())
+            if (part->objectName() == QLatin1String(name))
+                return true;
+        return false;
+    }
+    static QString textOf(const char *name)
+    {
+        const auto *box = onScreen<oAllPurposeBox>(name);
+        return box ? box->Text() : QStringLiteral("(no box)");
+    }
+
+    /// Takes all steps; the result is the status of the program.
+    int walk(const std::vector<QByteArray> &arguments)
+    {
+        size_t next = 0;
+        bool taken = false;
+        const int status = run(arguments, [&, this] {
+            if (next == m_steps.size())
+                return true;
+            const clsStep &now = m_steps[next];
+            if (!taken) {
+                if (!somethingHasKeys())
+                    return false;
+                taken = true;
+                take(now);
+                // The last one ends the program, and nobody is there to see what it did.
+                if (next + 1 < m_steps.size())
+                    return false;
+                ++next;
+                return true;
+            }
+            if (isBeingTaken())
+                return false;
+            // Another word processor on the tester's machine is asked about, and lets the export go on.
+            if (boxIs("Word Instances")())
+                QTimer::singleShot(0, QCoreApplication::instance(),
+                    [] { QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_Return); });
+            if (!now.waitsFor())
+                return false;
+            ++next;
+            taken = false;
+            return next == m_steps.size();
+        });
+        if (next < m_steps.size())
+            ADD_FAILURE() << "the step of line " << m_steps[next].line << " had no effect; on the screen was "
+                          << (m_shown.isEmpty() ? "the main window" : qPrintable(m_shown));
+        return status;
+    }
+
+private:
+    struct clsStep {
+        std::function<void()> does;
+        std::function<bool()> waitsFor;
+        unsigned line;
+    };
+
+    /// From a timer of its own: what it opens has an event loop of its own, too.
+    void take(const clsStep &now)
+    {
+        m_begun = false;
+        QTimer::singleShot(0, QCoreApplication::instance(), [this, &now] {
+            m_begun = true;
+            const QScopedValueRollback<std::optional<const QWidget *>> pressing(
+                m_pressing, QApplication::activeModalWidget());
+            now.does();
+        });
+    }
+    /// Events go on between two keys of a step, which may not be overtaken by the next one. A key that opens a window
+    /// returns when that has gone; what is done there is not in its way.
+    bool isBeingTaken() const { return !m_begun || m_pressing == QApplication::activeModalWidget(); }
+
+    QString m_shown;
+    std::vector<clsStep> m_steps;
+    bool m_begun = false;
+    std::optional<const QWidget *> m_pressing; ///< the screen on which the keys of a step are being pressed
+};

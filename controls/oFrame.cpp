@@ -1,14 +1,26 @@
 #include "controls/oFrame.h"
 
+#include "controls/mdAccessible.h"
 #include "controls/mdCaption.h"
 #include "controls/mdTheme.h"
 #include "controls/oFrameCaption.h"
 
-#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QVBoxLayout>
+
+namespace {
+
+/// A frame is a group under its caption, so that fields of one name in several frames are told apart.
+QAccessibleInterface *accessibleFrame(const QString &, QObject *object)
+{
+    auto *frame = qobject_cast<oFrame *>(object);
+    return frame ? new QAccessibleWidget(frame, QAccessible::Grouping) : nullptr;
+}
+
+} // namespace
 
 oFrame::oFrame(QWidget *parent)
     : QWidget(parent)
@@ -17,6 +29,7 @@ oFrame::oFrame(QWidget *parent)
     , m_bar(new oFrameCaption(*this))
     , m_body(new QVBoxLayout)
 {
+    mdInstallAccessible<accessibleFrame>();
     m_bar->setObjectName(QStringLiteral("caption"));
     auto *all = new QVBoxLayout(this);
     // The line around.

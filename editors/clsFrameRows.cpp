@@ -15,11 +15,10 @@ constexpr int TickRowGap = 6;
 constexpr int AnswerGap = 6;
 constexpr int SecondColumnGap = 80;
 
-/// The rows that take whatever height is left over.
+/// The rows that take whatever height is left over and, below their captions, the whole width.
 bool growsWithWindow(const clsScreenRow &row)
 {
-    return row.kind == clsRowKind::Other ? row.flags & MultiLine
-                                         : row.kind == clsRowKind::Text && (row.flags & MultiLine);
+    return row.kind == clsRowKind::Text && (row.flags & MultiLine);
 }
 
 } // namespace
@@ -158,7 +157,7 @@ void clsFrameRows::addToRowBefore(const clsScreenRow &row, QWidget *control)
     // Before the stretch at the end.
     int place = m_cellEndsRight ? m_cell->count() : m_cell->count() - 1;
     if (!m_cellEndsRight)
-        m_cell->insertSpacing(place++, Theme::Space24);
+        m_cell->insertSpacing(place++, followsButton(row) ? Theme::Space8 : Theme::Space24);
     if (row.kind != clsRowKind::Button && !(row.flags & NoCaption)) {
         oFieldLabel *caption = label(row, oFieldLabel::Place::Beside, control);
         if (m_cellEndsRight)
@@ -181,7 +180,7 @@ void clsFrameRows::addBelowCaption(const clsScreenRow &row, QWidget *control, bo
         addSpace(m_spaceBefore ? m_spaceBefore : int(Theme::Space8));
     }
     const bool grows = growsWithWindow(row);
-    m_grid->addLayout(cell(control, isTall(row)), m_line, 0, 1, 2);
+    m_grid->addLayout(cell(control, grows), m_line, 0, 1, 2);
     m_grid->setRowStretch(m_line++, grows ? 1 : 0);
     m_spaceBefore = captioned ? int(Theme::Space16) : 0;
     m_lastWasTick = false;
@@ -270,12 +269,14 @@ bool clsFrameRows::standsAbove(const clsScreenRow &row) const
     return row.flags & CaptionAbove || (row.kind != clsRowKind::Tick && beside.wordWrap());
 }
 
+/// Buttons of one line belong together.
+bool clsFrameRows::followsButton(const clsScreenRow &row) const
+{
+    const clsScreenField &before = *(m_frame.m_fields.end() - 2);
+    return row.kind == clsRowKind::Button && before.row->kind == clsRowKind::Button;
+}
+
 bool clsFrameRows::isAnswer(const clsScreenRow &row) const
 {
     return m_answers && row.kind == clsRowKind::Tick;
-}
-
-bool clsFrameRows::isTall(const clsScreenRow &row) const
-{
-    return row.kind == clsRowKind::Other ? row.other->tall : row.kind == clsRowKind::Text && (row.flags & MultiLine);
 }

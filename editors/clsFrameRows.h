@@ -37,8 +37,8 @@ private:
     oFieldLabel *label(const clsScreenRow &row, oFieldLabel::Place place, QWidget *control);
     QHBoxLayout *cell(QWidget *control, bool wholeWidth);
     bool standsAbove(const clsScreenRow &row) const;
+    bool followsButton(const clsScreenRow &row) const;
     bool isAnswer(const clsScreenRow &row) const;
-    bool isTall(const clsScreenRow &row) const;
 
     oScreenFrame &m_frame;
     QBoxLayout &m_parts;

@@ -33,7 +33,8 @@ struct clsChoiceSource {
 };
 
 /// A tick, and a list in which, while it is ticked, one of the claim's items is chosen. It makes both at the left of a
-/// box whose caption stands outside of it, and keeps them in step: whatever is ticked has an item, if there is one.
+/// box whose caption stands outside of it, and keeps them in step: a tick, or taking it away, chooses the first item
+/// where none is chosen. Filling chooses nothing: what is ticked while there is no item stays without one until then.
 class clsItemChoice : public QObject {
     Q_OBJECT
 

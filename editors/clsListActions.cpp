@@ -110,8 +110,16 @@ void clsListActions::editItem(int index)
     const std::shared_ptr<clsXMLRecord> item = m_list.item(index);
     mdEditItem(&m_screen, m_list.editor(), item.get());
     tellChanged();
-    m_grid.SelectItem(index);
+    select(item);
     m_grid.setFocus(Qt::OtherFocusReason);
+}
+
+/// Selects an item wherever it now is: from its editor the same list can have been opened once more, and changed.
+void clsListActions::select(const std::shared_ptr<clsXMLRecord> &item)
+{
+    for (int index = 1; index <= m_grid.Rows(); ++index)
+        if (m_list.item(index) == item)
+            return m_grid.SelectItem(index);
 }
 
 void clsListActions::deleteItem()

@@ -31,6 +31,7 @@ private:
     void takeInsert(int key, Qt::KeyboardModifiers shift, bool *doDefault);
     void addItem();
     void editItem(int index);
+    void select(const std::shared_ptr<clsXMLRecord> &item);
     void deleteItem();
     bool mayDelete(int index) const;
     void tellChanged();

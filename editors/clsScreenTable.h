@@ -85,12 +85,12 @@ struct clsItemList {
     void (*changed)() = nullptr; ///< brings up to date what the claim derives from the list, after each change of it
 };
 
-/// A control that a table brings with it. Loading and storing may be missing where it has no part in the record.
+/// A control that a table brings with it, as wide as it asks for. Loading and storing may be missing where it has no
+/// part in the record.
 struct clsOtherControl {
     QWidget *(*make)(const clsScreenRow &row, QWidget *parent);
     void (*load)(const clsScreenRow &row, QWidget &control, clsXMLRecord &record) = nullptr;
     void (*store)(const clsScreenRow &row, const QWidget &control, clsXMLRecord &record) = nullptr;
-    bool tall = true; ///< fills the width below its caption, as a grid does; a short one is as wide as it asks for
 };
 
 /// One row of a screen: a line for each control, in the order in which the user walks through them and in which they

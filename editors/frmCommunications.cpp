@@ -5,14 +5,13 @@
 #include "editors/frmSection.h"
 #include "editors/mdCountComms.h"
 #include "editors/mdEditItem.h"
+#include "editors/mdInOrder.h"
 #include "editors/oEnhancementsBox.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/mdGlobals.h"
 #include "shell/mdNumberText.h"
 #include "shell/mdPlayWav.h"
 #include "shell/mdProgramFolder.h"
-
-#include <algorithm>
 
 namespace {
 
@@ -107,13 +106,8 @@ void rules(frmSection &screen)
 /// texts.
 clsGridItems feeEarnersInOrder()
 {
-    std::vector<std::pair<int, std::shared_ptr<clsZR3FeeEarner>>> ordered;
-    for (const auto &feeEarner : Form->FeeEarnersCollection())
-        ordered.emplace_back(feeEarner->OrderID(), feeEarner);
-    std::stable_sort(
-        ordered.begin(), ordered.end(), [](const auto &left, const auto &right) { return left.first < right.first; });
     clsGridItems items;
-    for (const auto &[order, feeEarner] : ordered)
+    for (const auto &feeEarner : mdInOrder(Form->FeeEarnersCollection()))
         items.push_back(feeEarner);
     return items;
 }
@@ -153,7 +147,7 @@ const clsScreen &ScreenCommunications()
         .record = []() -> clsXMLRecord * { return &Form->Communications; },
         .frames = {
             {"bxGeneral", "Communications", {
-                {.kind = Items, .control = "sgCommunications", .caption = "Communications", .flags = NoCaption,
+                {.kind = Items, .control = "sgCommunications", .caption = "Communications",
                  .items = &FeeEarners},
             }},
             {.name = "bxCalls", .caption = "Calls", .rows = {

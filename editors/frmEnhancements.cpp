@@ -40,7 +40,7 @@ const clsScreen &ScreenEnhancements()
         .ending = clsScreenEnding::Close,
         .frames = {
             {"bxGeneral", "Enhancements", {
-                {.kind = Items, .control = "sgEnhancements", .caption = "Enhancements", .flags = NoCaption,
+                {.kind = Items, .control = "sgEnhancements", .caption = "Enhancements",
                  .items = &EnhancementList},
             }},
         },

@@ -51,7 +51,7 @@ const clsScreen &ScreenFamilyAdvocacyScheme()
         .frames = {
             {"bxGeneral", "Costs under Family Advocacy Scheme", {
                 {.kind = clsRowKind::Items, .control = "sgFamilyAdvocacyScheme",
-                 .caption = "Costs under Family Advocacy Scheme", .flags = NoCaption, .items = &Hearings},
+                 .caption = "Costs under Family Advocacy Scheme", .items = &Hearings},
             }},
         },
     };

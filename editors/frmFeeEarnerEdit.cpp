@@ -23,7 +23,7 @@ void storeGroup(const clsScreenRow &, const QWidget &control, clsXMLRecord &reco
         = static_cast<const oFeeEarnerGroupCombo &>(control).SelectedFeeEarnerGroupUniqueID();
 }
 
-constexpr clsOtherControl Group {makeGroup, loadGroup, storeGroup, false};
+constexpr clsOtherControl Group {makeGroup, loadGroup, storeGroup};
 
 } // namespace
 

@@ -42,7 +42,7 @@ void storeName(const clsScreenRow &, const QWidget &control, clsXMLRecord &recor
     static_cast<clsZR3FeeEarnerGroup &>(record).Name = static_cast<const oTypeAheadBox &>(control).Text();
 }
 
-constexpr clsOtherControl Name {makeName, loadName, storeName, false};
+constexpr clsOtherControl Name {makeName, loadName, storeName};
 
 /// Without an enhancement there is no rate of it, and none of the communications.
 void enhanceChanged(const frmSection &screen, bool enhance)

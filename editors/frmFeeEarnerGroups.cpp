@@ -107,11 +107,11 @@ const clsScreen &ScreenFeeEarnerGroups()
         .ending = clsScreenEnding::Close,
         .frames = {
             {"bxFeeEarnerGroups", "Fee Earner Groups", {
-                {.kind = Items, .control = "sgFeeEarnerGroups", .caption = "Fee Earner Groups", .flags = NoCaption,
+                {.kind = Items, .control = "sgFeeEarnerGroups", .caption = "Fee Earner Groups",
                  .items = &Groups},
             }},
             {.name = "bxFeeEarners", .caption = "Fee Earners", .rows = {
-                {.kind = Items, .control = "sgFeeEarners", .caption = "Fee Earners", .flags = NoCaption,
+                {.kind = Items, .control = "sgFeeEarners", .caption = "Fee Earners",
                  .items = &FeeEarners},
             }, .startsColumn = true},
         },

@@ -1,17 +1,15 @@
 #include "editors/mdScreens.h"
 
 #include "controls/clsSpellingChecker.h"
-#include "controls/mdTheme.h"
 #include "controls/oAllPurposeBox.h"
 #include "controls/oCheckBox.h"
 #include "controls/oCustomButton.h"
 #include "controls/oSGrid.h"
 #include "editors/frmSection.h"
+#include "editors/oSpellingNote.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
 #include "shell/mdGetFolder.h"
 #include "shell/mdGlobals.h"
-
-#include <QLabel>
 
 namespace {
 
@@ -33,19 +31,12 @@ void rules(frmSection &screen)
     QObject::connect(&screen, &frmSection::Stored, &screen, [] { Preferences->SaveXML(); });
 }
 
-/// A plain line where words are not checked, and nothing where they are.
 QWidget *makeSpellingNote(const clsScreenRow &, QWidget *parent)
 {
-    auto *note = new QLabel(parent);
-    QPalette palette = note->palette();
-    palette.setColor(QPalette::WindowText, Theme::Ink2);
-    note->setPalette(palette);
-    if (!SpellingChecker().IsAvailable())
-        note->setText(QStringLiteral("Spelling is not checked: no British dictionary is installed."));
-    return note;
+    return new oSpellingNote(SpellingChecker(), parent);
 }
 
-constexpr clsOtherControl SpellingNote {.make = makeSpellingNote, .tall = false};
+constexpr clsOtherControl SpellingNote {.make = makeSpellingNote};
 
 const clsItemList &replacements()
 {
@@ -127,11 +118,11 @@ const clsScreen &ScreenPreferences()
                     {.kind = Other, .control = "lblSpelling", .flags = NoCaption | Unbound, .other = &SpellingNote},
                 }},
                 {"Replacements", {
-                    {.kind = Items, .control = "sgReplacements", .caption = "Replacements", .flags = NoCaption,
+                    {.kind = Items, .control = "sgReplacements", .caption = "Replacements",
                      .items = &replacements()},
                 }},
                 {"Rate Sets", {
-                    {.kind = Items, .control = "sgRateSets", .caption = "Rate Sets", .flags = NoCaption,
+                    {.kind = Items, .control = "sgRateSets", .caption = "Rate Sets",
                      .items = &rateSets()},
                 }},
             }},

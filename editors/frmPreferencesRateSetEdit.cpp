@@ -1,9 +1,9 @@
 #include "editors/mdScreens.h"
 
-#include "controls/oCustomButton.h"
 #include "controls/oDecimalBox.h"
 #include "costing/Money.h"
 #include "editors/frmSection.h"
+#include "editors/mdConnectCalculate.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
 #include "shell/mdGlobals.h"
 #include "shell/mdNumberText.h"
@@ -36,8 +36,7 @@ void calculate(const frmSection &screen)
 
 void rules(frmSection &screen)
 {
-    QObject::connect(
-        &screen.Box<oCustomButton>("cmdCalculate"), &oCustomButton::Click, &screen, [&screen] { calculate(screen); });
+    mdConnectCalculate(screen, [&screen] { calculate(screen); });
 }
 
 } // namespace

@@ -72,7 +72,7 @@ const clsScreen &ScreenScheduleOfTime()
         .record = []() -> clsXMLRecord * { return Form.get(); },
         .frames = {
             {"bxGeneral", "Schedule of Time", {
-                {.kind = Items, .control = "sgScheduleOfTime", .caption = "Schedule of Time", .flags = NoCaption,
+                {.kind = Items, .control = "sgScheduleOfTime", .caption = "Schedule of Time",
                  .items = &ScheduleItems},
                 {Tick, "chkExcludeNonAdvocacy", "Exclude Non-Advocacy Items from Bill (Claim1A Only):", 0,
                  SameRow | AtCloseOnly},

@@ -39,7 +39,6 @@ const clsOtherControl FeeEarner {
     .make = [](const clsScreenRow &, QWidget *parent) -> QWidget * { return new oFeeEarnerCombo(parent); },
     .load = loadFeeEarner,
     .store = storeFeeEarner,
-    .tall = false,
 };
 
 void loadCode(const clsScreenRow &, QWidget &control, clsXMLRecord &record)
@@ -56,7 +55,6 @@ const clsOtherControl Code {
     .make = [](const clsScreenRow &, QWidget *parent) -> QWidget * { return new oCodeCombo(parent); },
     .load = loadCode,
     .store = storeCode,
-    .tall = false,
 };
 
 /// Function keys choose the fee earner from every field, before any of them takes the key for itself, as lists do with

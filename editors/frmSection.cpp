@@ -169,7 +169,9 @@ void frmSection::connectBar()
     connect(m_bar, &oScreenBar::Close, this, &frmSection::Close);
     connect(m_bar, &oScreenBar::Jump, this, [this](const QString &section) { JumpTo(section, true); });
     connect(m_bar, &oScreenBar::Cancel, this, [this] {
-        // A box with bad input holds the focus and so all buttons, this one too; Esc and the close box are free.
+        // A box with bad input holds the focus and so all buttons, this one too; Esc and the close box are free. Only
+        // on a screen without this button Esc is Close, which stores and which such a box keeps, so that nothing typed
+        // is lost.
         if (mdLeaveFocusedBox(this))
             Cancel();
     });
@@ -333,8 +335,13 @@ void frmSection::reject()
 
 void frmSection::closeEvent(QCloseEvent *event)
 {
-    done(Rejected);
-    event->accept();
+    if (m_screen.ending == clsScreenEnding::SaveCancel) {
+        Cancel();
+    } else {
+        // Where there is no Cancel, this alone drops what is typed.
+        done(Rejected);
+    }
+    event->setAccepted(!isVisible());
 }
 
 QSize frmSection::sizeHint() const

@@ -77,7 +77,7 @@ public slots:
     void reject() override;
 
 protected:
-    /// The close box leaves without storing, on every screen.
+    /// The close box leaves without storing, on every screen, and as Cancel does where there is one.
     void closeEvent(QCloseEvent *event) override;
 
 private:

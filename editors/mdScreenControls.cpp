@@ -124,6 +124,12 @@ void storeList(const QComboBox &list, clsXMLField &field)
         field.writeText(list.currentText());
 }
 
+/// What the box of a whole number has judged good, commas between the figures included; empty is none.
+int longOf(const QString &text)
+{
+    return text.isEmpty() ? 0 : LongFromStrictText(text);
+}
+
 bool hasMember(const clsScreenRow &row)
 {
     return mdIsControl(row) && row.kind != clsRowKind::Button && row.kind != clsRowKind::Items
@@ -196,7 +202,7 @@ void mdStoreControl(const clsScreenRow &row, const QWidget &control, clsXMLRecor
     else if (const auto *list = qobject_cast<const QComboBox *>(&control))
         storeList(*list, field);
     else if (field.property().kind == clsXMLKind::Long)
-        field.writeLong(LongFromText(mdTextOf(control)));
+        field.writeLong(longOf(mdTextOf(control)));
     else
         field.writeText(mdTextOf(control));
 }

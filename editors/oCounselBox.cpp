@@ -38,7 +38,6 @@ const clsOtherControl CounselOfItem {
                 clsXMLRecord &record) { static_cast<oCounselBox &>(control).choice().load(row, record); },
     .store = [](const clsScreenRow &row, const QWidget &control,
                  clsXMLRecord &record) { static_cast<const oCounselBox &>(control).choice().store(row, record); },
-    .tall = false,
 };
 
 oCounselBox::oCounselBox(QWidget *parent)

@@ -32,7 +32,6 @@ const clsOtherControl EnhancementsOfItem {
                 clsXMLRecord &record) { static_cast<oEnhancementsBox &>(control).choice().load(row, record); },
     .store = [](const clsScreenRow &row, const QWidget &control,
                  clsXMLRecord &record) { static_cast<const oEnhancementsBox &>(control).choice().store(row, record); },
-    .tall = false,
 };
 
 oEnhancementsBox::oEnhancementsBox(QWidget *parent)

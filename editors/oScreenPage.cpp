@@ -161,6 +161,9 @@ void oScreenPage::resizeEvent(QResizeEvent *event)
     // Not the width that the scroll bar leaves: its coming and going must not change the arrangement.
     arrange(width());
     QScrollArea::resizeEvent(event);
+    // Once the frames have found their new places.
+    QMetaObject::invokeMethod(
+        this, [this] { showFocus(window()->focusWidget()); }, Qt::QueuedConnection);
 }
 
 void oScreenPage::showFocus(const QWidget *focused)

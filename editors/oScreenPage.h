@@ -11,7 +11,8 @@ class oScreenFrame;
 struct clsScreenFrame;
 
 /// The middle of a screen: its frames in one column or, where there is room, in two. It alone scrolls, and only up and
-/// down; whatever gets the focus comes into view.
+/// down; whatever gets the focus comes into view, and stays there when the window
+/// shrinks.
 class oScreenPage : public QScrollArea {
     Q_OBJECT
 

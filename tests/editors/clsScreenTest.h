@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/oCheckBox.h"
 #include "editors/frmSection.h"
 #include "editors/mdSections.h"
 #include "editors/mdUnloadAndDummyTabClick.h"
@@ -7,11 +8,13 @@
 #include "shell/mdGlobals.h"
 #include "tests/support/clsFolderTest.h"
 #include "tests/support/clsScriptedUserInterface.h"
+#include "tests/support/mdExpectError.h"
 #include "tests/support/mdTestPrinting.h"
 
 #include <QApplication>
 #include <QTest>
 
+#include <functional>
 #include <memory>
 
 /// A test of screens: a new claim, a scripted user, and windows that are shown without waiting for them to close.
@@ -68,6 +71,49 @@ protected:
         ASSERT_TRUE(found) << button;
         QTest::mouseClick(found, Qt::LeftButton);
     }
+    /// Changes what stands in a field.
+    static void change(const clsScreenField &field)
+    {
+        if (auto *box = qobject_cast<oCheckBox *>(field.control))
+            box->setChecked(!box->Checked());
+        else if (field.row->kind == clsRowKind::Text)
+            type(*field.control, QStringLiteral("changed"));
+        else if (field.row->kind == clsRowKind::Decimal)
+            type(*field.control, QStringLiteral("9"));
+        else if (field.row->kind == clsRowKind::Date)
+            type(*field.control, QStringLiteral("1.2.24"));
+        else if (field.row->kind == clsRowKind::Other)
+            if (auto *tick = field.control->findChild<oCheckBox *>())
+                tick->setChecked(!tick->Checked());
+    }
+    /// The screen that `opens` makes, each time on a fresh record, stores its fields in the order of these elements. An
+    /// element that has gone stops the storing at its place: whatever is written before it has its new value, and
+    /// whatever comes behind it its old one.
+    static void expectStoredInOrder(
+        const std::vector<const char *> &elements, const std::function<std::unique_ptr<frmSection>()> &opens)
+    {
+        for (size_t gone = 0; gone < elements.size(); ++gone) {
+            const auto screen = opens();
+            pugi::xml_node record = screen->Record()->XMLNode();
+            for (const clsScreenField &field : screen->Fields())
+                change(field);
+            for (const char *button : {"cmdSave", "cmdClose"})
+                if (auto *found = screen->findChild<QWidget *>(QString::fromUtf8(button)))
+                    found->setFocus();
+            std::vector<QByteArray> before;
+            for (const char *element : elements)
+                before.push_back(record.child(element).child_value());
+            ASSERT_TRUE(record.remove_child(elements[gone])) << elements[gone];
+            EXPECT_EQ(int(clsRunTimeError::ObjectNotSet), errorOf([&] { screen->Store(clsStoring::Closing); }));
+            for (size_t i = 0; i < elements.size(); ++i) {
+                if (i != gone) {
+                    EXPECT_EQ(i < gone, before[i] != record.child(elements[i]).child_value())
+                        << elements[i] << " without " << elements[gone];
+                }
+            }
+        }
+    }
+
     /// The field of the screen that the focus is in, or nothing.
     static const clsScreenField *focusedField(const frmSection &screen)
     {

@@ -74,6 +74,16 @@ TEST_F(Correspondences, SaveWritesTheThreeCountsOfThatFeeEarnerAndCloses)
     EXPECT_EQ((std::vector<int> {0, 0, 0}), counts(1));
 }
 
+TEST_F(Correspondences, CommasGroupTheFiguresAndEndNoCount)
+{
+    type(screen->Box("txtCalls"), QStringLiteral("1,000"));
+    type(screen->Box("txtLettersIn"), QStringLiteral("2,147,483,647"));
+    type(screen->Box("txtLettersOut"), QStringLiteral(",5"));
+    press(*screen, "cmdSave");
+    EXPECT_FALSE(screen->isVisible());
+    EXPECT_EQ((std::vector<int> {1000, 2147483647, 5}), counts(2));
+}
+
 TEST_F(Correspondences, EnterSavesFromAnyBox)
 {
     type(screen->Box("txtLettersIn"), QStringLiteral("8"));

@@ -1,8 +1,10 @@
+#include "controls/clsSpellingChecker.h"
 #include "controls/oCustomButton.h"
 #include "controls/oDecimalBox.h"
 #include "controls/oFrame.h"
 #include "controls/oHeaderBar.h"
 #include "editors/oFieldLabel.h"
+#include "editors/oSpellingNote.h"
 #include "shell/mdClock.h"
 #include "tests/editors/clsPreferencesScreenTest.h"
 
@@ -112,6 +114,16 @@ TEST_F(PreferencesScreen, CloseStoresTheSevenAndWritesTheFile)
              "<autorefreshpreview>True</autorefreshpreview>", "<playsound>False</playsound>", "<log>False</log>"})
         EXPECT_TRUE(written.contains(element)) << element << " in " << written.constData();
     EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(PreferencesScreen, TheSevenAreStoredInTheirOrder)
+{
+    expectStoredInOrder({"defaultvatrate", "autobackup", "autobackuppath", "autodeletebackups", "autorefreshpreview",
+                            "playsound", "log"},
+        [] {
+            Preferences = std::make_unique<clsZR3PreferencesDatabase>();
+            return preferences();
+        });
 }
 
 TEST_F(PreferencesScreen, TheFileIsWrittenOnceAndGuarded)
@@ -283,4 +295,41 @@ TEST_F(PreferencesScreen, TheLogIsSwitchedByTheClose)
     press(*screen, "cmdClose");
     EXPECT_EQ(first + "15/11/2026 14:03:22 : frmPreferences Opened\r\n", bytesOf(path(log)));
     SetClock(nullptr);
+}
+
+// The note on the spelling
+
+TEST_F(PreferencesScreen, ANoteSaysWhyWordsAreNotChecked)
+{
+    clsSpellingChecker checker({{path("no dictionaries")}, path("words.txt")});
+    oSpellingNote note(checker, nullptr);
+    EXPECT_EQ(QStringLiteral("Spelling is not checked: no British dictionary is installed."), note.text());
+    note.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&note));
+    const int oneLine = note.sizeHint().height();
+    EXPECT_EQ(oneLine, note.heightForWidth(note.sizeHint().width()));
+    // Where there is no room for it, it wraps.
+    EXPECT_LT(note.minimumSizeHint().width(), note.sizeHint().width() / 2);
+    EXPECT_GE(note.heightForWidth(note.sizeHint().width() / 2), 2 * oneLine);
+}
+
+TEST_F(PreferencesScreen, WithADictionaryThereIsNoNote)
+{
+    put("en_GB.aff", "SET UTF-8\n");
+    put("en_GB.dic", "1\nword\n");
+    clsSpellingChecker checker({{folder.path()}, path("words.txt")});
+    ASSERT_TRUE(checker.IsAvailable());
+    QWidget page;
+    const oSpellingNote note(checker, &page);
+    page.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&page));
+    EXPECT_FALSE(note.isVisible());
+    EXPECT_EQ(QString(), note.text());
+}
+
+TEST_F(PreferencesScreen, TheNoteIsThatOfTheProgramsOwnDictionary)
+{
+    const auto screen = preferences();
+    EXPECT_EQ(!SpellingChecker().IsAvailable(), screen->Box("lblSpelling").isVisible());
+    EXPECT_TRUE(qobject_cast<oSpellingNote *>(&screen->Box("lblSpelling")));
 }

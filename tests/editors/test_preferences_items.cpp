@@ -316,6 +316,25 @@ TEST_F(RateSetEdit, EachBoxHasItsOwnRate)
     EXPECT_EQ(1u, Preferences->RateSetsCollection().size());
 }
 
+TEST_F(RateSetEdit, ItsFieldsAreStoredInTheirOrder)
+{
+    expectStoredInOrder({"name", "hourlyrate", "callsrate", "lettersinrate", "lettersoutrate", "advocacyrate",
+                            "counselrate", "travelandwaitingrate"},
+        [] { return edit(addRateSet("Inner", "1.00").get()); });
+}
+
+TEST_F(RateSetEdit, CalculateByItsLetterFormatsAlsoTheBoxThatHasTheFocus)
+{
+    const auto screen = edit();
+    type(screen->Box("txtHourly"), QStringLiteral("47"));
+    screen->Box("txtCalls").setFocus(Qt::TabFocusReason);
+    const QString marked = screen->Box<oCustomButton>("cmdCalculate").text();
+    ASSERT_TRUE(marked.contains(u'&'));
+    QTest::keyClick(screen->focusWidget(), marked[marked.indexOf(u'&') + 1].toLower().toLatin1(), Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return text(*screen, "txtLettersIn") == QLatin1String("2.35"); }));
+    EXPECT_EQ(list({"47.00", "4.70", "2.35", "4.70", "47.00", "47.00", "47.00"}), rates(*screen));
+}
+
 TEST_F(RateSetEdit, CancelMakesAndChangesNothing)
 {
     const auto item = addRateSet("Inner", "50.00");

@@ -243,3 +243,86 @@ TEST_F(PreferencesLists, AnItemThatGoesWhileItIsEditedIsNotWritten)
     EXPECT_EQ(QStringList("cd>below"), replacements());
     EXPECT_EQ(QStringList("cd|below"), rows(*screen, "sgReplacements"));
 }
+
+// Opened once more
+
+TEST_F(PreferencesLists, FromABoxOfTheirOwnThePreferencesOnlyTurnTheirPage)
+{
+    addReplacement("ab", "above");
+    addReplacement("cd", "below");
+    addReplacement("ef", "beside");
+    const auto screen = preferences();
+    type(screen->Box("txtDefaultVATRate"), QStringLiteral("20"));
+    type(screen->Box("txtAutoBackupPath"), QStringLiteral("/backups"));
+    QTimer second;
+    QObject::connect(&second, &QTimer::timeout, &second, [] {
+        if (QWidget *modal = QApplication::activeModalWidget()) {
+            ADD_FAILURE() << modal->objectName().toStdString() << " opens over the preferences";
+            modal->close();
+        }
+    });
+    second.start(20);
+    mdShowPreferences(screen.get(), Replacements);
+    second.stop();
+    EXPECT_TRUE(screen->isVisible());
+    EXPECT_EQ(Replacements, screen->Switcher().OpenPage());
+    EXPECT_EQ(QStringLiteral("sgReplacements"), focusedName(*screen));
+    // The rows are those of the list, and what was typed is still there.
+    user.answers = {clsUserInterface::Yes, clsUserInterface::Yes};
+    grid(*screen, "sgReplacements").SelectRow(1);
+    key(*screen, "sgReplacements", Qt::Key_Delete);
+    EXPECT_EQ(QStringList({QStringLiteral("cd>below"), QStringLiteral("ef>beside")}), replacements());
+    grid(*screen, "sgReplacements").SelectRow(1);
+    key(*screen, "sgReplacements", Qt::Key_Delete);
+    EXPECT_EQ(QStringList("ef>beside"), replacements());
+    press(*screen, "cmdClose");
+    EXPECT_EQ(QStringLiteral("20.00"), Preferences->DefaultVATRate());
+    EXPECT_EQ(QStringLiteral("/backups"), Preferences->AutoBackupPath());
+}
+
+TEST_F(PreferencesLists, OpenedOverAnEditorTheyLeaveNothingStaleBelow)
+{
+    addReplacement("ab", "above");
+    addReplacement("cd", "below");
+    addReplacement("ef", "beside");
+    const auto screen = preferences();
+    type(screen->Box("txtAutoBackupPath"), QStringLiteral("/typed"));
+    screen->Switcher().SwitchTo(Replacements);
+    onceOpened("frmReplacementEdit", [&](frmSection &edit) {
+        EXPECT_EQ(QStringLiteral("cd"), text(edit, "txtInputText"));
+        type(edit.Box("txtOutputText"), QStringLiteral("beneath"));
+        onceOpened("frmPreferences", [&](frmSection &second) {
+            EXPECT_NE(screen.get(), &second);
+            EXPECT_EQ(Replacements, second.Switcher().OpenPage());
+            EXPECT_EQ(QString(), text(second, "txtAutoBackupPath"));
+            user.answers = {clsUserInterface::Yes};
+            grid(second, "sgReplacements").SelectRow(1);
+            key(second, "sgReplacements", Qt::Key_Delete);
+            second.Switcher().SwitchTo(GeneralSettings);
+            type(second.Box("txtDefaultVATRate"), QStringLiteral("20"));
+            click(second, "chkAutoRefreshPreview");
+            press(second, "cmdClose");
+        });
+        mdShowPreferences(&edit, Replacements);
+        EXPECT_EQ(
+            QStringList({QStringLiteral("cd|below"), QStringLiteral("ef|beside")}), rows(*screen, "sgReplacements"));
+        EXPECT_EQ(QStringLiteral("beneath"), text(edit, "txtOutputText"));
+        edit.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&edit));
+        press(edit, "cmdSave");
+    });
+    grid(*screen, "sgReplacements").SelectRow(2);
+    key(*screen, "sgReplacements", Qt::Key_Return);
+    EXPECT_EQ(QStringList({QStringLiteral("cd>beneath"), QStringLiteral("ef>beside")}), replacements());
+    EXPECT_EQ(1, grid(*screen, "sgReplacements").SelectedRow()) << "the item that was edited";
+    EXPECT_EQ(QStringLiteral("20.00"), text(*screen, "txtDefaultVATRate"));
+    EXPECT_TRUE(tick(*screen, "chkAutoRefreshPreview").Checked());
+    EXPECT_EQ(QStringLiteral("/typed"), text(*screen, "txtAutoBackupPath"));
+    user.answers = {clsUserInterface::Yes};
+    key(*screen, "sgReplacements", Qt::Key_Delete);
+    EXPECT_EQ(QStringList("ef>beside"), replacements());
+    press(*screen, "cmdClose");
+    EXPECT_EQ(QStringLiteral("20.00"), Preferences->DefaultVATRate());
+    EXPECT_TRUE(Preferences->AutoRefreshPreview());
+    EXPECT_EQ(QStringLiteral("/typed"), Preferences->AutoBackupPath());
+}

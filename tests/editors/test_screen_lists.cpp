@@ -337,7 +337,7 @@ TEST_F(ScreenLists, PagesOpenOneAtATimeByTheirLettersAndCountTheirItems)
     // What is typed on a closed page is stored like the rest.
     type(screen->Box("txtNotes"), QStringLiteral("kept"));
     press(*screen, "cmdClose");
-    EXPECT_TRUE(Form->CounselCollection().size() == 3);
+    EXPECT_EQ(QStringLiteral("kept"), Form->Notes());
 }
 
 TEST_F(ScreenLists, TicksOfTheSecondColumnStandInTheLinesOfTheFirstAndUnderEachOther)

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "controls/oCheckBox.h"
+#include "controls/oCustomButton.h"
+#include "tests/editors/clsModalTest.h"
+
+#include <QComboBox>
+
+/// A test of a box in which an item of the claim is chosen, alone or on a screen.
+class clsItemBoxTest : public clsModalTest {
+protected:
+    /// A screen as those that the boxes stand on.
+    static clsScreen editorOf(const std::vector<clsScreenRow> &rows)
+    {
+        return {.name = "frmThingEdit",
+            .header = "Thing",
+            .subCaption = "",
+            .iconGroup = 12,
+            .width = clsScreenWidth::Edit,
+            .ending = clsScreenEnding::SaveCancel,
+            .frames = {{"bxGeneral", "Thing", rows}},
+            .itemWord = "Thing",
+            .fileMenu = false};
+    }
+    template <class Part> static Part &part(const QWidget &box, const char *name)
+    {
+        auto *found = box.findChild<Part *>(QString::fromUtf8(name));
+        if (!found)
+            throw std::runtime_error(name);
+        return *found;
+    }
+    static QStringList entries(const QComboBox &list)
+    {
+        QStringList result;
+        for (int entry = 0; entry < list.count(); ++entry)
+            result << list.itemText(entry) + u' ' + list.itemData(entry).toString();
+        return result;
+    }
+    static QString addCounsel(const char *name)
+    {
+        const auto counsel = Form->AddCounsel();
+        counsel->Name = QString::fromUtf8(name);
+        return counsel->UniqueID();
+    }
+    static QString addEnhancement(const char *name)
+    {
+        const auto enhancement = Form->AddEnhancement();
+        enhancement->Name = QString::fromUtf8(name);
+        return enhancement->UniqueID();
+    }
+    static std::unique_ptr<frmSection> edited(const clsScreen &table, clsXMLRecord &record)
+    {
+        auto screen = std::make_unique<frmSection>(table);
+        screen->Initialise(&record);
+        show(*screen);
+        return screen;
+    }
+    template <class Box> static std::unique_ptr<Box> shown()
+    {
+        auto box = std::make_unique<Box>();
+        box->show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(box.get()));
+        return box;
+    }
+};

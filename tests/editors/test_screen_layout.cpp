@@ -1,0 +1,70 @@
+#include "controls/mdTheme.h"
+#include "tests/editors/clsScreenTest.h"
+
+#include <QScrollArea>
+#include <QScrollBar>
+
+// Where the rows of a table stand, on tables made for the purpose.
+
+namespace {
+
+using enum clsRowKind;
+
+class ScreenLayout : public clsScreenTest {
+protected:
+    static clsScreen screenOf(const std::vector<clsScreenRow> &rows)
+    {
+        return {.name = "frmThingEdit",
+            .header = "Thing",
+            .subCaption = "",
+            .iconGroup = 12,
+            .width = clsScreenWidth::Edit,
+            .ending = clsScreenEnding::SaveCancel,
+            .frames = {{"bxGeneral", "Thing", rows}},
+            .fileMenu = false};
+    }
+};
+
+} // namespace
+
+TEST_F(ScreenLayout, ButtonsOfOneLineStandCloserThanAFieldAndItsButton)
+{
+    const clsScreen table = screenOf({
+        {Text, "txtReference", "Reference:"},
+        {Button, "cmdFirst", "First", 0, SameRow},
+        {Button, "cmdSecond", "Second", 0, SameRow},
+        {Button, "cmdThird", "Third", 0, SameRow},
+        {Tick, "chkLast", "Last:", 0, SameRow | Unbound | NoCaption},
+    });
+    frmSection screen(table);
+    show(screen);
+    const auto gap = [&screen](const char *left, const char *right) {
+        return screen.Box(right).geometry().left() - screen.Box(left).geometry().right() - 1;
+    };
+    EXPECT_EQ(gap("cmdFirst", "cmdSecond"), gap("cmdSecond", "cmdThird"));
+    EXPECT_GT(gap("txtReference", "cmdFirst"), gap("cmdFirst", "cmdSecond"));
+    EXPECT_EQ(Theme::Space24 - Theme::Space8, gap("cmdThird", "chkLast") - gap("cmdFirst", "cmdSecond"));
+}
+
+TEST_F(ScreenLayout, WhatHasTheFocusStaysInViewWhenTheWindowShrinks)
+{
+    std::vector<clsScreenRow> rows(30, {Text, "txtReference", "Reference:"});
+    rows.push_back({Text, "txtGroupUniqueID", "Last:"});
+    const clsScreen table = screenOf(rows);
+    frmSection screen(table);
+    show(screen);
+    screen.resize(640, 2000);
+    QTest::qWait(20);
+    QWidget &last = screen.Box("txtGroupUniqueID");
+    last.setFocus(Qt::TabFocusReason);
+    const QScrollArea &page = *screen.findChild<QScrollArea *>();
+    const auto inView = [&] {
+        const QRect place(last.mapTo(page.viewport(), QPoint()), last.size());
+        return place.top() >= Theme::Space24 && place.bottom() + 1 + Theme::Space24 <= page.viewport()->height();
+    };
+    ASSERT_EQ(0, page.verticalScrollBar()->maximum());
+    for (const int height : {700, 400}) {
+        screen.resize(640, height);
+        EXPECT_TRUE(QTest::qWaitFor(inView, 1000)) << height;
+    }
+}

@@ -103,7 +103,7 @@ inline const std::vector<clsExpectedScreen> ExpectedRecordScreens {
         {"chkExceptionalCaseYes", "Is this an Exceptional Case?", "Yes:", 'x'},
         {"chkExceptionalCaseNo", "Is this an Exceptional Case?", "No:", 'x'},
         {"txtFixedFee", "What fixed fee would apply?", nullptr, 'm'},
-    }},
+    }, 1},
     {"Details of Work", "frmDetailsOfWork", "Details of Work Being Claimed",
      "Enter details of the work being claimed", "detailsofwork", {
         {"txtDetailsOfCase", "", nullptr, 't', 770, true, true, "bxGeneral", true},

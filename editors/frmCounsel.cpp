@@ -41,7 +41,8 @@ const clsScreen &ScreenCounsel()
         .ending = clsScreenEnding::Close,
         .frames = {
             {"bxGeneral", "Counsel", {
-                {.kind = Items, .control = "sgCounsel", .caption = "Counsel", .flags = NoCaption, .items = &CounselList},
+                {.kind = Items, .control = "sgCounsel", .caption = "Counsel", .flags = NoCaption,
+                 .items = &CounselList},
             }},
         },
     };

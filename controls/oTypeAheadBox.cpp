@@ -1,8 +1,10 @@
 #include "controls/oTypeAheadBox.h"
 
+#include "controls/mdIcons.h"
 #include "controls/mdTheme.h"
 
 #include <QAbstractItemView>
+#include <QAction>
 #include <QCompleter>
 #include <QCoreApplication>
 #include <QFocusEvent>
@@ -24,12 +26,21 @@ oTypeAheadBox::oTypeAheadBox(QWidget *parent)
     auto *suggester = new QCompleter(m_suggestions, this);
     suggester->setCaseSensitivity(Qt::CaseInsensitive);
     setCompleter(suggester);
+    installEventFilter(this);
+    m_arrow = addAction(mdGlyphIcon(Glyph::ChevronDown, Theme::Ink2), QLineEdit::TrailingPosition);
+    m_arrow->setText(QStringLiteral("Suggestions"));
+    m_arrow->setVisible(false);
+    connect(m_arrow, &QAction::triggered, this, [this] {
+        setFocus(Qt::MouseFocusReason);
+        suggest(QString());
+    });
 }
 
 void oTypeAheadBox::setSuggestions(QStringList suggestions)
 {
     suggestions.removeDuplicates();
     m_suggestions->setStringList(suggestions);
+    m_arrow->setVisible(!suggestions.isEmpty());
 }
 
 QStringList oTypeAheadBox::Suggestions() const
@@ -64,11 +75,20 @@ void oTypeAheadBox::keyPressEvent(QKeyEvent *event)
         return;
     }
     if (event->key() == Qt::Key_Down && !suggesting()) {
-        suggest();
+        // A text that was loaded or chosen would suggest itself and no other.
+        suggest(isModified() ? text() : QString());
         event->accept();
         return;
     }
     QLineEdit::keyPressEvent(event);
+}
+
+bool oTypeAheadBox::eventFilter(QObject *watched, QEvent *event)
+{
+    // Left open they would take the keys that are meant for the field that has the focus now.
+    if (watched == this && event->type() == QEvent::FocusOut && !hasFocus() && suggesting())
+        completer()->popup()->hide();
+    return QLineEdit::eventFilter(watched, event);
 }
 
 bool oTypeAheadBox::suggesting() const
@@ -76,8 +96,8 @@ bool oTypeAheadBox::suggesting() const
     return completer()->popup()->isVisible();
 }
 
-void oTypeAheadBox::suggest()
+void oTypeAheadBox::suggest(const QString &beginning)
 {
-    completer()->setCompletionPrefix(text());
+    completer()->setCompletionPrefix(beginning);
     completer()->complete();
 }

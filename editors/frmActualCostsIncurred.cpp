@@ -56,7 +56,7 @@ const clsScreen &ScreenActualCostsIncurred()
         .name = "frmActualCostsIncurred",
         .header = "Actual Costs Incurred",
         .subCaption = "Enter details of the actual costs incurred",
-        .iconGroup = 12,
+        .iconGroup = 1,
         .width = clsScreenWidth::TwoColumns,
         .ending = clsScreenEnding::SaveCancel,
         .section = "Actual Costs",

@@ -36,7 +36,7 @@ const clsScreen &ScreenCounsel()
         .name = "frmCounsel",
         .header = "Counsel",
         .subCaption = "Create and edit barristers for your form",
-        .iconGroup = 12,
+        .iconGroup = 5,
         .width = clsScreenWidth::List,
         .ending = clsScreenEnding::Close,
         .frames = {

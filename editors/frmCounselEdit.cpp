@@ -12,7 +12,7 @@ const clsScreen &ScreenCounselEdit()
         .name = "frmCounselEdit",
         .header = "Counsel",
         .subCaption = "Change settings for a barrister",
-        .iconGroup = 12,
+        .iconGroup = 5,
         .width = clsScreenWidth::Edit,
         .ending = clsScreenEnding::SaveCancel,
         .frames = {

@@ -29,7 +29,7 @@ const clsScreen &ScreenDetailsOfCostsAwarded()
             {"bxClaim1A", "Claim1A Only", {
                 {Decimal, "txtTotalCostsAwarded",                 "Total costs awarded:"},
             }},
-            {"bxInterest", "", {
+            {"oFrame1", "Details of Costs Awarded", {
                 {Question, "", "Are legal advice and assistance, and/or Legal Help costs included in the "
                                "pre-certificate costs Awarded?"},
                 {Tick,    "chkLegalHelpInPreCertificateCostsYes",    "Yes:"},
@@ -41,7 +41,7 @@ const clsScreen &ScreenDetailsOfCostsAwarded()
                 {Text,    "txtInterestBreakdown",
                  "Please provide a breakdown where interest has been calculated:", 60, MultiLine | SpellCheck},
             }},
-            {.name = "bxEnforcement", .caption = "", .rows = {
+            {.name = "oFrame2", .caption = "Details of Costs Awarded", .rows = {
                 {Decimal, "txtAmountRecoveredToDate",  "Amount recovered to date:"},
                 {Date,    "txtDateOrderServed",        "Date order was served:"},
                 {Text,    "txtAddressOfService",       "Address of service:", 75, MultiLine},

@@ -7,6 +7,7 @@
 #include <QDialog>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <gtest/gtest.h>
@@ -72,6 +73,53 @@ TEST_F(TypeAhead, DownShowsAllInAnEmptyBoxAndThoseThatFitInAnother)
     QTest::keyClick(&box, Qt::Key_Down);
     EXPECT_EQ(QStringList {QStringLiteral("Trainee")}, suggested());
     EXPECT_EQ(QStringLiteral("t"), box.Text());
+}
+
+TEST_F(TypeAhead, DownOnATextThatNobodyTypedShowsAll)
+{
+    box.setText(QStringLiteral("Trainee"));
+    QTest::keyClick(&box, Qt::Key_Down);
+    EXPECT_EQ(3, suggested().size());
+    EXPECT_EQ(QStringLiteral("Trainee"), box.Text());
+    QTest::keyClick(&popup(), Qt::Key_Escape);
+    // Typed on, the text counts again.
+    QTest::keyClick(&box, Qt::Key_Backspace);
+    popup().hide();
+    QTest::keyClick(&box, Qt::Key_Down);
+    EXPECT_EQ(QStringList {QStringLiteral("Trainee")}, suggested());
+}
+
+TEST_F(TypeAhead, TheArrowShowsAllToTheMouseAndIsThereOnlyForSuggestions)
+{
+    auto *arrow = box.findChild<QToolButton *>();
+    ASSERT_TRUE(arrow);
+    EXPECT_TRUE(arrow->isVisible());
+    EXPECT_EQ(Qt::NoFocus, arrow->focusPolicy());
+    EXPECT_GT(arrow->x(), box.width() / 2);
+    QTest::keyClicks(&box, QStringLiteral("Tr"));
+    popup().hide();
+    save.setFocus(Qt::TabFocusReason);
+    QTest::mouseClick(arrow, Qt::LeftButton);
+    EXPECT_EQ(3, suggested().size());
+    EXPECT_TRUE(box.hasFocus());
+    EXPECT_EQ(QStringLiteral("Tr"), box.Text());
+    popup().hide();
+    box.setSuggestions({});
+    EXPECT_FALSE(arrow->isVisible());
+}
+
+TEST_F(TypeAhead, TheSuggestionsCloseWhenTheFocusGoesElsewhere)
+{
+    QLineEdit other;
+    window.layout()->addWidget(&other);
+    other.show();
+    QTest::keyClicks(&box, QStringLiteral("pa"));
+    ASSERT_TRUE(popup().isVisible());
+    other.setFocus(Qt::ShortcutFocusReason);
+    EXPECT_FALSE(popup().isVisible());
+    EXPECT_TRUE(other.hasFocus());
+    EXPECT_FALSE(box.hasFocus());
+    EXPECT_EQ(QStringLiteral("pa"), box.Text());
 }
 
 TEST_F(TypeAhead, ASuggestionIsChosenByDownAndReturnWhichPressesNothing)

@@ -207,3 +207,12 @@ void frmMessageBox::fit()
     const int rest = layout()->totalSizeHint().height() - m_paper->sizeHint().height();
     resize(width, qMin(rest + qMax(m_message->heightForWidth(width), least), room.height()));
 }
+
+void frmMessageBox::resizeEvent(QResizeEvent *event)
+{
+    QDialog::resizeEvent(event);
+    // A bar that comes by itself while the box takes its size would wrap the line that has just the room it needs, and
+    // then be needed.
+    const bool cut = m_message->heightForWidth(m_paper->width()) > m_paper->height();
+    m_paper->setVerticalScrollBarPolicy(cut ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+}

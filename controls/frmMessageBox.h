@@ -31,6 +31,9 @@ public:
     /// Esc and the close box: Cancel, else No, else OK.
     void reject() override;
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     void buildMessage();
     void addButton(QHBoxLayout &bar, const char *name, const QString &caption, clsUserInterface::Answer given);

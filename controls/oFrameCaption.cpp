@@ -118,9 +118,13 @@ void oFrameCaption::paintHeading(QPainter &painter) const
 {
     painter.setFont(Theme::font(0, true));
     painter.setPen(isEnabled() ? m_frame.m_captionColour : Theme::Ink3);
-    const QRect room = rect().adjusted(Theme::Space16, 0, -Theme::Space16, 0);
+    paintCaption(painter, rect().adjusted(Theme::Space16, 0, -Theme::Space16, 0), Qt::AlignLeft | Qt::AlignBottom);
+}
+
+void oFrameCaption::paintCaption(QPainter &painter, const QRect &room, Qt::Alignment alignment) const
+{
     const QString shown = painter.fontMetrics().elidedText(m_frame.m_caption, Qt::ElideRight, room.width());
-    const int flags = int(Qt::AlignLeft | Qt::AlignBottom) | Qt::TextSingleLine;
+    const int flags = int(alignment) | Qt::TextSingleLine;
     // One that is too long for its frame goes without the mark.
     if (shown == m_frame.m_caption && !m_frame.m_markedCaption.isEmpty())
         mdPaintCaption(painter, room, flags, m_frame.m_markedCaption, style()->styleHint(QStyle::SH_UnderlineShortcut));
@@ -155,8 +159,7 @@ void oFrameCaption::paintPage(QPainter &painter) const
     }
     painter.setFont(Theme::font(0, open));
     painter.setPen(ink);
-    const QString shown = painter.fontMetrics().elidedText(m_frame.m_caption, Qt::ElideRight, room.width());
-    painter.drawText(room, int(Qt::AlignLeft | Qt::AlignVCenter) | Qt::TextSingleLine, shown);
+    paintCaption(painter, room, Qt::AlignLeft | Qt::AlignVCenter);
     if (hasFocus())
         mdPaintRing(painter, rect().adjusted(1, 1, -1, -1), Theme::Purple);
 }

@@ -23,6 +23,7 @@ protected:
 
 private:
     void paintHeading(QPainter &painter) const;
+    void paintCaption(QPainter &painter, const QRect &room, Qt::Alignment alignment) const;
     void paintPage(QPainter &painter) const;
 
     oFrame &m_frame;

@@ -4,6 +4,7 @@
 #include "controls/mdTheme.h"
 #include "controls/oGridHeader.h"
 
+#include <QCursor>
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -115,9 +116,28 @@ bool oGridView::viewportEvent(QEvent *event)
 {
     if (event->type() == QEvent::MouseMove)
         hoverAt(static_cast<QMouseEvent *>(event)->position().toPoint());
+    else if (event->type() == QEvent::Enter) // a window that opens under a resting pointer sees no movement
+        hoverAt(static_cast<QEnterEvent *>(event)->position().toPoint());
     else if (event->type() == QEvent::Leave)
         hoverAt(QPoint(-1, -1));
     return QTableView::viewportEvent(event);
+}
+
+void oGridView::scrollContentsBy(int dx, int dy)
+{
+    QTableView::scrollContentsBy(dx, dy);
+    // Another row has come under a pointer that rests.
+    if (viewport()->underMouse())
+        hoverAt(viewport()->mapFromGlobal(QCursor::pos()));
+}
+
+/// A click beside the rows only brings the focus: without a selected row the keys would mean nothing here.
+QItemSelectionModel::SelectionFlags oGridView::selectionCommand(const QModelIndex &index, const QEvent *event) const
+{
+    const bool byMouse = event
+        && (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonRelease
+            || event->type() == QEvent::MouseMove);
+    return byMouse && !index.isValid() ? QItemSelectionModel::NoUpdate : QTableView::selectionCommand(index, event);
 }
 
 void oGridView::hoverAt(const QPoint &position)

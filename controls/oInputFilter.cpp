@@ -33,8 +33,10 @@ bool typesByAccident(const QObject *watched, const QKeyEvent &key)
     const Qt::KeyboardModifiers held = key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
     if (held != Qt::AltModifier || key.text().isEmpty() || !key.text()[0].isPrint())
         return false;
+    // A list would go to the next entry of that letter; one that is typed into passes its keys on to its text where no
+    // filter sees them.
     return qobject_cast<const QLineEdit *>(watched) || qobject_cast<const QPlainTextEdit *>(watched)
-        || qobject_cast<const QTextEdit *>(watched);
+        || qobject_cast<const QTextEdit *>(watched) || qobject_cast<const QComboBox *>(watched);
 }
 
 } // namespace
@@ -58,6 +60,12 @@ void oInputFilter::setUnderlineMnemonics(bool underline)
     for (QWidget *widget : QApplication::allWidgets())
         if (widget->isVisible())
             widget->update();
+}
+
+void oInputFilter::checkAlt()
+{
+    if (underlineMnemonics && !QGuiApplication::queryKeyboardModifiers().testFlag(Qt::AltModifier))
+        setUnderlineMnemonics(false);
 }
 
 void oInputFilter::showInvalid(QWidget &box)
@@ -87,6 +95,8 @@ bool oInputFilter::eventFilter(QObject *watched, QEvent *event)
     case QEvent::KeyPress:
         if (static_cast<QKeyEvent *>(event)->key() == Qt::Key_Alt)
             setUnderlineMnemonics(true);
+        else if (!static_cast<QKeyEvent *>(event)->modifiers().testFlag(Qt::AltModifier))
+            checkAlt();
         if (!typesByAccident(watched, *static_cast<QKeyEvent *>(event)))
             return false;
         event->accept();
@@ -94,6 +104,11 @@ bool oInputFilter::eventFilter(QObject *watched, QEvent *event)
     case QEvent::KeyRelease:
         if (static_cast<QKeyEvent *>(event)->key() == Qt::Key_Alt)
             setUnderlineMnemonics(false);
+        return false;
+    case QEvent::WindowActivate:
+    case QEvent::MouseButtonPress:
+        // A letter that opens a window leaves the release of Alt to one that is blocked by it and hears of no keys.
+        checkAlt();
         return false;
     case QEvent::ApplicationDeactivate:
         // The release of Alt+Tab goes to another program.

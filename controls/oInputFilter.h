@@ -8,7 +8,7 @@ class QWidget;
 /// What the whole application does with events before its controls see them: mnemonics are underlined while Alt is
 /// held, a wheel over a list that hasn't the focus scrolls the page, a box that is marked as invalid is painted anew,
 /// and every part of a window hears of a new font of the desktop. A letter under Alt that leads nowhere is not typed
-/// into a text box. It eats nothing else.
+/// into a text box and chooses nothing in a list. It eats nothing else.
 class oInputFilter final : public QObject {
     Q_OBJECT
 
@@ -26,6 +26,8 @@ private:
     using QObject::QObject;
 
     static void setUnderlineMnemonics(bool underline);
+    /// Ends the underlining where the release of Alt went unseen.
+    static void checkAlt();
     static void showInvalid(QWidget &box);
     static void passFontOn(const QWidget &window);
 };

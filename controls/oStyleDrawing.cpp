@@ -2,6 +2,7 @@
 
 #include "controls/mdPaintControls.h"
 #include "controls/mdTheme.h"
+#include "controls/oGridView.h"
 #include "controls/oInputFilter.h"
 
 #include <QAbstractItemView>
@@ -71,7 +72,11 @@ bool oStyle::drawOurPrimitive(
     case PE_PanelMenuBar: painter.fillRect(option.rect, Theme::Paper); return true;
     case PE_PanelItemViewRow:
         if (const auto *row = qstyleoption_cast<const QStyleOptionViewItem *>(&option)) {
-            mdPaintRow(painter, *row, widget);
+            QStyleOptionViewItem whole = *row;
+            // Qt knows of the cell under the pointer; a grid tints its whole row itself.
+            if (qobject_cast<const oGridView *>(widget))
+                whole.state.setFlag(State_MouseOver, false);
+            mdPaintRow(painter, whole, widget);
             return true;
         }
         return false;

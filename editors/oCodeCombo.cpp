@@ -40,6 +40,8 @@ oCodeCombo::oCodeCombo(QWidget *parent)
     setFocusPolicy(Qt::StrongFocus);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(LengthOfCode);
+    // Qt's completes with the first code that fits, and so makes a code of every letter.
+    setCompleter(nullptr);
     for (const QString &code : mdScheduleOfTimeCodesCollection()) {
         addItem(code);
         setItemData(count() - 1, columnOf(code), Qt::ToolTipRole);
@@ -116,6 +118,25 @@ void oCodeCombo::keyPressEvent(QKeyEvent *event)
     default: break;
     }
     QComboBox::keyPressEvent(event);
+    if (!event->text().isEmpty() && event->text()[0].isPrint())
+        complete();
+}
+
+/// Only where what is typed leaves no choice: anything else would be a code that nobody has meant.
+void oCodeCombo::complete()
+{
+    QLineEdit &text = *lineEdit();
+    const QString typed = text.text();
+    if (typed.isEmpty() || text.cursorPosition() < typed.size())
+        return;
+    QStringList fitting;
+    for (const QString &code : mdScheduleOfTimeCodesCollection())
+        if (code.startsWith(typed, Qt::CaseInsensitive))
+            fitting << code;
+    if (fitting.size() != 1 || fitting[0].size() == typed.size())
+        return;
+    text.insert(fitting[0].mid(typed.size()));
+    text.setSelection(int(typed.size()), int(fitting[0].size() - typed.size()));
 }
 
 void oCodeCombo::focusOutEvent(QFocusEvent *event)

@@ -4,9 +4,9 @@
 
 #include <QComboBox>
 
-/// The list of activity codes, in which a code can be typed as well: it completes what is typed, and on leaving turns
-/// it to upper case and checks it. What is no code is told once, and the user is held until it is one; Esc and the
-/// close box are free. A code that the program writes is shown as it is and not checked.
+/// The list of activity codes, in which a code can be typed as well: it completes what only one code begins with, and
+/// on leaving turns it to upper case and checks it. What is no code is told once, and the user is held until it is one;
+/// Esc and the close box are free. A code that the program writes is shown as it is and not checked.
 class oCodeCombo : public QComboBox, public clsHoldingBox {
     Q_OBJECT
 
@@ -28,6 +28,7 @@ protected:
 
 private:
     void explain();
+    void complete();
 
     bool m_telling = false;
     bool m_untold = false;

@@ -196,6 +196,34 @@ TEST(Frame, NumbersStandAtTheRightEndOfAPagesCaption)
     EXPECT_EQ(without, frame.captionBar()->grab().toImage());
 }
 
+TEST(Frame, TheLetterOfACaptionIsUnderlinedWhileAltIsHeldOfAPageToo)
+{
+    const Pages pages;
+    oFrame group;
+    group.setCaption(QStringLiteral("Rates"));
+    group.resize(300, 100);
+    group.show();
+    for (const bool page : {true, false}) {
+        oFrame &frame = page ? *pages.frame(2) : group;
+        frame.setMarkedCaption(page ? QStringLiteral("Re&placements") : QStringLiteral("R&ates"));
+        QWidget &caption = *frame.captionBar();
+        const QImage plain = caption.grab().toImage();
+        QTest::keyPress(&caption, Qt::Key_Alt);
+        const QImage held = caption.grab().toImage();
+        QTest::keyRelease(&caption, Qt::Key_Alt);
+        QRect changed;
+        for (int y = 0; y < plain.height(); ++y)
+            for (int x = 0; x < plain.width(); ++x)
+                if (plain.pixel(x, y) != held.pixel(x, y))
+                    changed |= QRect(x, y, 1, 1);
+        // A line as long as the letter is wide, and nothing else.
+        EXPECT_EQ(1, changed.height()) << page;
+        EXPECT_GE(changed.width(), 5) << page;
+        EXPECT_LE(changed.width(), 11) << page;
+        EXPECT_EQ(plain, caption.grab().toImage()) << page;
+    }
+}
+
 TEST(ContentSwitcher, OpensItsFirstPage)
 {
     const oContentSwitcher empty;

@@ -260,6 +260,26 @@ protected:
     void TearDown() override { menu->hide(); }
 };
 
+TEST_F(clsGridMenu, AClickBesideTheRowsLeavesTheSelectionAndBringsTheFocus)
+{
+    for (const bool many : {false, true}) {
+        grid.setMultiSelect(many);
+        grid.SelectRow(2);
+        const QSignalSpy changed(&grid, &oSGrid::SelectionChange);
+        view()->clearFocus();
+        for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton})
+            QTest::mouseClick(view()->viewport(), button, {}, QPoint(30, middleOf(4).y() + 100));
+        EXPECT_EQ(2, grid.SelectedRow()) << many;
+        EXPECT_EQ(0, changed.count()) << many;
+        EXPECT_TRUE(view()->hasFocus()) << many;
+        const QSignalSpy activated(&grid, &oSGrid::RowActivated);
+        press(Qt::Key_Return);
+        EXPECT_EQ(1, activated.count()) << many;
+        press(Qt::Key_Down);
+        EXPECT_EQ(3, grid.SelectedRow()) << many;
+    }
+}
+
 TEST_F(clsGridMenu, ARightClickSelectsTheRowAndPopsUpTheMenu)
 {
     QSignalSpy released(&grid, &oSGrid::MouseUp);

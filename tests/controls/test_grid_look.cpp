@@ -184,3 +184,67 @@ TEST_F(clsGridLook, TheFrameShowsTheFocusWithoutAShift)
     EXPECT_EQ(QColor(110, 15, 108), image.pixelColor(1, 60));
     EXPECT_EQ(viewport, view()->viewport()->geometry());
 }
+
+namespace {
+
+/// The rows of which the dot before the right end of that column is of that colour.
+std::vector<int> tintedRows(oGridView &view, int column, const QColor &colour)
+{
+    const QImage picture = view.viewport()->grab().toImage();
+    std::vector<int> rows;
+    for (int row = 0; row < view.model()->rowCount(); ++row) {
+        const QRect cell = view.visualRect(view.model()->index(row, column));
+        const QPoint dot(cell.right() - 2, cell.top() + 3);
+        if (picture.rect().contains(dot) && picture.pixelColor(dot) == colour)
+            rows.push_back(row);
+    }
+    return rows;
+}
+
+} // namespace
+
+TEST_F(clsGridLook, TheWholeRowUnderThePointerIsTintedAndNoOther)
+{
+    addGroups(100);
+    grid.AddColumn({.caption = "Ref", .width = 50, .property = "Reference"});
+    grid.AddColumn({.caption = "Name", .width = 50, .property = "Name"});
+    draw();
+    grid.SelectRow(0);
+    view()->scrollToTop();
+    const std::vector<int> second {1};
+    const std::vector<int> none;
+    const auto expect = [this](const std::vector<int> &rows, const char *when) {
+        for (const int column : {0, 1})
+            EXPECT_EQ(rows, tintedRows(*view(), column, Theme::Hover)) << when << column;
+    };
+    const QPoint place = middleOf(2);
+    QTest::mouseMove(view()->viewport(), place);
+    QCoreApplication::processEvents();
+    expect(second, "pointed at");
+    // Qt goes on to take the cell for the one under the pointer; the grid's own row counts.
+    QEvent left(QEvent::Leave);
+    QCoreApplication::sendEvent(view()->viewport(), &left);
+    expect(none, "left");
+    QEnterEvent entered(place, view()->viewport()->mapTo(&window, place), view()->viewport()->mapToGlobal(place));
+    QCoreApplication::sendEvent(view()->viewport(), &entered);
+    expect(second, "a window opened under the pointer");
+}
+
+TEST_F(clsGridLook, TheTintStaysUnderThePointerWhenTheListScrolls)
+{
+    addGroups(100);
+    addReferenceColumn();
+    draw();
+    grid.SelectRow(0);
+    view()->scrollToTop();
+    QTest::mouseMove(view()->viewport(), middleOf(2));
+    QCoreApplication::processEvents();
+    ASSERT_EQ(std::vector<int> {1}, tintedRows(*view(), 0, Theme::Hover));
+    const int top = view()->rowAt(0);
+    view()->verticalScrollBar()->setValue(
+        view()->verticalScrollBar()->value() + 5 * view()->verticalScrollBar()->singleStep());
+    const int scrolled = view()->rowAt(0) - top;
+    ASSERT_GT(scrolled, 0);
+    EXPECT_EQ(std::vector<int> {view()->rowAt(view()->viewport()->mapFromGlobal(QCursor::pos()).y())},
+        tintedRows(*view(), 0, Theme::Hover));
+}

@@ -6,7 +6,10 @@
 #include "shell/mdProgramFolder.h"
 #include "tests/support/clsScriptedUserInterface.h"
 
+#include <QApplication>
 #include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 
@@ -225,10 +228,43 @@ TEST(MessageBox, IsBetween440And560Wide)
     EXPECT_GE(wide.message()->height(), wide.message()->heightForWidth(wide.message()->width()));
 }
 
+TEST(MessageBox, AShortQuestionStandsInItsBoxWithoutAScrollBar)
+{
+    const QFont before = QApplication::font();
+    for (const int points : {10, 13, 15}) {
+        QFont font = before;
+        font.setPointSize(points);
+        QApplication::setFont(font);
+        for (const char *word : {"Correspondences", "Counsel", "Disbursement", "Enhancement", "Expert Invoice",
+                 "Family Advocacy Scheme Item", "Fee Earner Group", "Fee Earner", "Joint Instruction", "Rate Set",
+                 "Replacement", "Schedule of Time Item"}) {
+            const Box box(UI::YesNo, 0, QStringLiteral("Delete?"),
+                QStringLiteral("Are you sure you wish to delete this %1?").arg(QLatin1String(word)));
+            const QScrollBar &bar = *box.form.findChild<QScrollArea *>()->verticalScrollBar();
+            EXPECT_FALSE(bar.isVisible()) << word << points;
+            EXPECT_EQ(0, bar.maximum()) << word << points;
+        }
+    }
+    QApplication::setFont(before);
+}
+
+TEST(MessageBox, AMessageThatIsCutScrollsAndOneThatFitsAgainDoesNot)
+{
+    Box box(UI::OKOnly, 0, QStringLiteral("A"), QStringLiteral("line\n").repeated(12));
+    const QScrollBar &bar = *box.form.findChild<QScrollArea *>()->verticalScrollBar();
+    const QSize whole = box.form.size();
+    EXPECT_FALSE(bar.isVisible());
+    box.form.resize(whole - QSize(0, 80));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return bar.isVisible(); }));
+    box.form.resize(whole);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !bar.isVisible(); }));
+}
+
 TEST(MessageBox, AMessageTallerThanTheScreenScrolls)
 {
     const Box box(UI::OKOnly, 0, QStringLiteral("A"), QStringLiteral("line\r\n").repeated(500));
     EXPECT_LE(box.form.height(), box.form.screen()->availableGeometry().height());
+    EXPECT_TRUE(box.form.findChild<QScrollArea *>()->verticalScrollBar()->isVisible());
     EXPECT_TRUE(box.button("cmdOK")->isVisible());
     EXPECT_LE(box.button("cmdOK")->geometry().bottom(), box.form.height());
 }

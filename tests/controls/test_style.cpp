@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
@@ -276,6 +277,54 @@ TEST(Style, MnemonicsLoseTheirLineWhenTheProgramLosesTheKeyboard)
     QApplication::sendEvent(qApp, &gone);
     EXPECT_FALSE(oInputFilter::UnderlineMnemonics());
     QTest::keyRelease(window.other, Qt::Key_Alt);
+}
+
+TEST(Style, MnemonicsLoseTheirLineWhereTheReleaseOfAltWentUnseen)
+{
+    Window<QLineEdit> window;
+    const auto hold = [&window] {
+        QTest::keyPress(window.other, Qt::Key_Alt);
+        EXPECT_TRUE(oInputFilter::UnderlineMnemonics());
+    };
+    hold();
+    QTest::keyClick(window.other, Qt::Key_X);
+    EXPECT_FALSE(oInputFilter::UnderlineMnemonics()) << "a key without Alt";
+    hold();
+    QTest::mouseClick(window.other, Qt::LeftButton);
+    EXPECT_FALSE(oInputFilter::UnderlineMnemonics()) << "a click";
+    hold();
+    QDialog opened;
+    opened.setModal(true);
+    opened.show();
+    opened.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&opened));
+    EXPECT_FALSE(oInputFilter::UnderlineMnemonics()) << "a window that opens";
+    opened.close();
+    QTest::keyRelease(window.other, Qt::Key_Alt);
+}
+
+TEST(Style, MnemonicsKeepTheirLineUnderAKeyWithAlt)
+{
+    Window<QLineEdit> window;
+    QTest::keyPress(window.other, Qt::Key_Alt);
+    QTest::sendKeyEvent(QTest::Press, window.other, Qt::Key_X, QStringLiteral("x"), Qt::AltModifier);
+    EXPECT_TRUE(oInputFilter::UnderlineMnemonics());
+    QTest::keyRelease(window.other, Qt::Key_Alt);
+    EXPECT_FALSE(oInputFilter::UnderlineMnemonics());
+}
+
+TEST(Style, ALetterUnderAltChoosesNothingInAList)
+{
+    Window<QComboBox> window;
+    window.box->addItems({QStringLiteral("Adams"), QStringLiteral("Brown")});
+    window.box->setFocus();
+    QTest::keyClick(window.box, Qt::Key_B, Qt::AltModifier);
+    EXPECT_EQ(QStringLiteral("Adams"), window.box->currentText());
+    QTest::keyClick(window.box, Qt::Key_B);
+    EXPECT_EQ(QStringLiteral("Brown"), window.box->currentText());
+    window.box->setEditable(true);
+    QTest::keyClick(window.box, Qt::Key_A, Qt::AltModifier);
+    EXPECT_EQ(QStringLiteral("Brown"), window.box->currentText());
 }
 
 TEST(Style, SelectedRowsCarryAPurpleBarAtTheirLeftOnly)

@@ -76,7 +76,7 @@ TEST_F(CodeCombo, LowerCaseIsAcceptedAndStoredAsUpperCase)
     EXPECT_TRUE(user.messages.empty());
 }
 
-TEST_F(CodeCombo, WhatIsTypedIsCompleted)
+TEST_F(CodeCombo, WhatOnlyOneCodeBeginsWithIsCompleted)
 {
     auto screen = typed("rm");
     EXPECT_EQ(QStringLiteral("rmD"), code(*screen).Code());
@@ -85,11 +85,48 @@ TEST_F(CodeCombo, WhatIsTypedIsCompleted)
     key(*screen, Qt::Key_Return);
     EXPECT_FALSE(screen->isVisible());
     EXPECT_EQ(QStringLiteral("RMD"), item->Code());
-    // A completion that isn't wanted goes by the next letter.
-    screen = typed("da");
+    // A completion that isn't wanted goes by the next letter, and by Backspace.
+    screen = typed("rm");
+    QTest::keyClick(&code(*screen), Qt::Key_P);
+    EXPECT_EQ(QStringLiteral("rmp"), code(*screen).Code());
+    screen = typed("rm");
+    QTest::keyClick(&code(*screen), Qt::Key_Backspace);
+    EXPECT_EQ(QStringLiteral("rm"), code(*screen).Code());
+    // Nor does a letter in the middle of it bring more.
+    screen = typed("m");
+    QTest::keyClick(&code(*screen), Qt::Key_Home);
+    QTest::keyClick(&code(*screen), Qt::Key_R);
+    EXPECT_EQ(QStringLiteral("rm"), code(*screen).Code());
+    screen->close();
+}
+
+TEST_F(CodeCombo, WhatSeveralCodesBeginWithStaysAsItIsAndIsNoCode)
+{
+    for (const char *text : {"d", "h", "da", "a"}) {
+        const auto screen = typed(text);
+        EXPECT_EQ(QString::fromUtf8(text), code(*screen).Code());
+        key(*screen, Qt::Key_Tab);
+        expectHeld(*screen, QByteArray(text).toUpper().constData());
+    }
+    const auto screen = typed("da");
     QTest::keyClick(&code(*screen), Qt::Key_P);
     key(*screen, Qt::Key_Return);
     EXPECT_EQ(QStringLiteral("DAP"), item->Code());
+}
+
+TEST_F(CodeCombo, ALetterUnderAltThatBelongsToNothingIsNotTyped)
+{
+    item = addItem("01/02/26", "DOT");
+    const auto screen = editItem(item);
+    focus(*screen, "cmbCode");
+    for (const Qt::Key letter : {Qt::Key_A, Qt::Key_Z}) {
+        QTest::keyClick(&code(*screen), letter, Qt::AltModifier);
+        focus(*screen, "cmbCode");
+        EXPECT_EQ(QStringLiteral("DOT"), code(*screen).Code()) << char(letter);
+    }
+    key(*screen, Qt::Key_Return);
+    EXPECT_EQ(QStringLiteral("DOT"), item->Code());
+    EXPECT_TRUE(user.messages.empty());
 }
 
 TEST_F(CodeCombo, TheArrowsWalkThroughTheCodes)

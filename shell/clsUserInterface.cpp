@@ -1,28 +1,11 @@
 #include "shell/clsUserInterface.h"
 
+#include "shell/clsQuietUserInterface.h"
+
 namespace {
 
-class clsSilentUserInterface final : public clsUserInterface {
-public:
-    Answer customMessage(const QString &, const QString &, Buttons buttons, int, int) override
-    {
-        return answerThatChangesNothing(buttons);
-    }
-    Answer systemMessage(const QString &, const QString &, SystemIcon, Buttons buttons) override
-    {
-        return answerThatChangesNothing(buttons);
-    }
-    void showProgress(int, int, const QString &) override { }
-    void clearProgress() override { }
-    QString chooseFolder(const QString &) override { return {}; }
-    QString chooseFileToOpen(const QString &) override { return {}; }
-    QString chooseFileToSave(const QString &, const QString &) override { return {}; }
-    void playSound(const QString &) override { }
-    bool openTarget(const QString &) override { return false; }
-};
-
-clsSilentUserInterface silentUserInterface;
-clsUserInterface *current = &silentUserInterface;
+clsQuietUserInterface quietUserInterface;
+clsUserInterface *current = &quietUserInterface;
 
 } // namespace
 

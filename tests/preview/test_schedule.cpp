@@ -1,8 +1,8 @@
 // The preview of the schedule of time.
 
 #include "preview/mdExportPreviewScheduleOfTime.h"
+#include "shell/clsQuietUserInterface.h"
 #include "tests/preview/clsPreviewTest.h"
-#include "tests/support/clsQuietUserInterface.h"
 
 #include <QFile>
 #include <QJsonArray>

@@ -1,8 +1,8 @@
 // New, Open, Save, Save As and the question before a claim is dropped.
 
+#include "shell/clsQuietUserInterface.h"
 #include "shell/mdGetVersionInfo.h"
 #include "tests/shell/clsDocumentTest.h"
-#include "tests/support/clsQuietUserInterface.h"
 #include "tests/support/mdOrdinaryUser.h"
 
 #include <cerrno>

@@ -2,8 +2,7 @@
 
 #include <QString>
 
+/// The folder of the sample claims.
+QString mdSampleFolder();
 /// A file of the sample claims, each with the figures and the sheets that must come of it.
-inline QString mdSamplePath(const QString &file)
-{
-    return QStringLiteral(ZR3_SAMPLES "/") + file;
-}
+QString mdSamplePath(const QString &file);

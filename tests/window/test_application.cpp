@@ -1,10 +1,10 @@
 #include "shell/clsProgramEnd.h"
+#include "shell/clsQuietUserInterface.h"
 #include "shell/clsRunTimeError.h"
 #include "shell/clsWindowUserInterface.h"
 #include "shell/mdGlobals.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/oApplication.h"
-#include "tests/support/clsQuietUserInterface.h"
 #include "tests/support/clsScriptedUserInterface.h"
 #include "tests/support/mdTestPrinting.h"
 

@@ -1,8 +1,8 @@
 #include "shell/frmSplash.h"
 
+#include "shell/clsQuietUserInterface.h"
 #include "shell/mdDatabasePath.h"
 #include "shell/mdGetVersionInfo.h"
-#include "tests/support/clsQuietUserInterface.h"
 #include "tests/window/clsWindowTest.h"
 
 #include <QLabel>

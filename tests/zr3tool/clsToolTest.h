@@ -117,7 +117,7 @@ protected:
     static QStringList sampleNames()
     {
         QStringList names;
-        for (const QString &file : QDir(QStringLiteral(ZR3_SAMPLES)).entryList({"*.zr3"_q}, QDir::Files, QDir::Name))
+        for (const QString &file : QDir(mdSampleFolder()).entryList({"*.zr3"_q}, QDir::Files, QDir::Name))
             names << file.chopped(4);
         return names;
     }

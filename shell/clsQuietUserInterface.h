@@ -2,8 +2,8 @@
 
 #include "shell/clsUserInterface.h"
 
-/// An interface that shows nothing and answers so that nothing changes. Tests override the one function that they
-/// watch from.
+/// An interface that shows nothing and answers so that nothing changes: the one in force until a program sets its own.
+/// Whoever needs only a few of its functions, such as a test, overrides those.
 class clsQuietUserInterface : public clsUserInterface {
 public:
     Answer customMessage(const QString &, const QString &, Buttons buttons, int, int) override

@@ -22,12 +22,8 @@ void mdCalculateVAT(const oDecimalBox &netBox, oDecimalBox &vatBox)
 
 void mdCalculateVATByButton(frmSection &screen, const char *netBox, const char *vatBox)
 {
-    auto &button = screen.Box<oCustomButton>("cmdCalculate");
+    const auto &button = screen.Box<oCustomButton>("cmdCalculate");
     const auto &net = screen.Box<oDecimalBox>(netBox);
     auto &vat = screen.Box<oDecimalBox>(vatBox);
-    QObject::connect(&button, &oCustomButton::Click, &screen, [&button, &net, &vat] {
-        // Pressed by its letter the button hasn't the focus yet, and a box that has it doesn't format what is written.
-        button.setFocus(Qt::ShortcutFocusReason);
-        mdCalculateVAT(net, vat);
-    });
+    QObject::connect(&button, &oCustomButton::Click, &screen, [&net, &vat] { mdCalculateVAT(net, vat); });
 }

@@ -87,8 +87,11 @@ void oCustomButton::setGlyph(Glyph glyph)
 bool oCustomButton::event(QEvent *event)
 {
     // At once, and not after the moment that an animated click takes: whoever types on at speed would otherwise still
-    // type into the old window.
+    // type into the old window. The box that has the focus is left as by a click of the mouse, and so puts what is
+    // typed into its own form before the button acts on it.
     if (event->type() == QEvent::Shortcut && !static_cast<QShortcutEvent *>(event)->isAmbiguous()) {
+        if (focusPolicy() & Qt::ClickFocus)
+            setFocus(Qt::ShortcutFocusReason);
         click();
         return true;
     }

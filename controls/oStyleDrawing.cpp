@@ -110,6 +110,16 @@ void oStyle::drawControl(
             return;
         }
     }
+    if (element == CE_ComboBoxLabel) {
+        if (const auto *list = qstyleoption_cast<const QStyleOptionComboBox *>(option)) {
+            // A text that the closed list has no room for ends in an ellipsis, and not within a letter.
+            QStyleOptionComboBox ours = *list;
+            const QRect room = subControlRect(CC_ComboBox, list, SC_ComboBoxEditField, widget);
+            ours.currentText = list->fontMetrics.elidedText(list->currentText, Qt::ElideRight, room.width() - 2);
+            QProxyStyle::drawControl(element, &ours, painter, widget);
+            return;
+        }
+    }
     if (element == CE_MenuItem) {
         if (const auto *item = qstyleoption_cast<const QStyleOptionMenuItem *>(option)) {
             drawMenuItem(*item, painter, widget);

@@ -1,5 +1,6 @@
 #include "editors/clsFrameRows.h"
 
+#include "controls/mdCaption.h"
 #include "controls/mdTheme.h"
 #include "controls/oAllPurposeBox.h"
 #include "controls/oCustomButton.h"
@@ -64,6 +65,7 @@ void clsFrameRows::beginPart()
     m_cell = nullptr;
     m_answers = nullptr;
     m_question = nullptr;
+    m_asked.clear();
     m_lastWasTick = false;
 }
 
@@ -113,6 +115,7 @@ void clsFrameRows::addQuestion(const clsScreenRow &row)
 {
     addSpace(Theme::Space16);
     m_question = label(row, oFieldLabel::Place::Above, nullptr);
+    m_asked = mdSpokenCaption(m_question->Caption());
     m_grid->addWidget(m_question, m_line++, 0, 1, 2);
     addSpace(AnswerGap);
     m_answers = new oTickLayout;
@@ -144,6 +147,7 @@ void clsFrameRows::addAnswer(const clsScreenRow &row, QWidget *control)
 {
     oFieldLabel *caption = label(row, oFieldLabel::Place::Answer, control);
     m_answers->addTick(caption, control);
+    control->setAccessibleDescription(m_asked);
     if (!m_question)
         return;
     // The question's letter leads to its first answer and ticks nothing.

@@ -53,5 +53,6 @@ private:
     std::vector<oFieldLabel *> m_secondColumn; ///< the captions of those
     oTickLayout *m_answers = nullptr; ///< of the question that is open
     oFieldLabel *m_question = nullptr; ///< the open question, until its first answer is known
+    QString m_asked; ///< what the open question asks, which is read out with each of its answers
     bool m_lastWasTick = false;
 };

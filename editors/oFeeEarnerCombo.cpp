@@ -3,12 +3,10 @@
 #include "editors/mdComboboxSelectByItemData.h"
 #include "editors/mdInOrder.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdExisting.h"
 #include "shell/mdGlobals.h"
 
 #include <QAbstractItemView>
 #include <QKeyEvent>
-#include <QSignalBlocker>
 
 namespace {
 
@@ -68,16 +66,11 @@ oFeeEarnerCombo::oFeeEarnerCombo(QWidget *parent)
 
 void oFeeEarnerCombo::fill()
 {
-    {
-        const QSignalBlocker quiet(this);
-        clear();
+    refill([this] {
         for (const auto &feeEarner : mdInOrder(Form->FeeEarnersCollection()))
             addItem(labelOf(count()) + feeEarner->Reference(), feeEarner->Index);
-        const int chosenLast = Form->DefaultFeeEarnerListIndex();
-        const int first = count() > 0 ? 0 : -1;
-        setCurrentIndex(chosenLast >= 0 && chosenLast < count() ? chosenLast : first);
-    }
-    updateGeometry();
+        return Form->DefaultFeeEarnerListIndex();
+    });
     emit Change();
 }
 

@@ -6,7 +6,6 @@
 #include "shell/mdExisting.h"
 #include "shell/mdGlobals.h"
 
-#include <QEvent>
 #include <QSignalBlocker>
 
 oFeeEarnerGroupCombo::oFeeEarnerGroupCombo(QWidget *parent)
@@ -18,16 +17,13 @@ oFeeEarnerGroupCombo::oFeeEarnerGroupCombo(QWidget *parent)
 
 void oFeeEarnerGroupCombo::fill()
 {
-    {
-        const QSignalBlocker quiet(this);
-        clear();
+    refill([this] {
         if (m_showNoneOption)
             addItem(QStringLiteral("None"));
         for (const auto &group : mdInOrder(Form->FeeEarnerGroupsCollection()))
             addItem(group->Reference(), group->Index);
-        setCurrentIndex(count() > 0 ? 0 : -1);
-    }
-    updateGeometry();
+        return 0;
+    });
     emit Change();
 }
 
@@ -58,12 +54,8 @@ void oFeeEarnerGroupCombo::setSelectedFeeEarnerGroupUniqueID(const QString &uniq
     emit Change();
 }
 
-void oFeeEarnerGroupCombo::changeEvent(QEvent *event)
+void oFeeEarnerGroupCombo::setEnabled(bool enabled)
 {
-    oScreenList::changeEvent(event);
-    // Not when the whole window is disabled for a while: that is no choice of the screen's.
-    if (event->type() != QEvent::EnabledChange || Enabled() == m_wasEnabled)
-        return;
-    m_wasEnabled = Enabled();
-    setCurrentIndex(m_wasEnabled && count() > 0 ? 0 : -1);
+    oScreenList::setEnabled(enabled);
+    setCurrentIndex(enabled && count() > 0 ? 0 : -1);
 }

@@ -22,16 +22,15 @@ public:
     /// Chooses a group and tells of it. An empty identity changes nothing; one that no group has is the object error.
     void setSelectedFeeEarnerGroupUniqueID(const QString &uniqueID);
 
+    /// Enabling selects the first entry, also of a list that is enabled already; disabling clears the selection. A
+    /// window that is disabled for a while leaves it alone: that is no choice of the screen's.
+    void setEnabled(bool enabled);
+
 signals:
     void Change();
-
-protected:
-    /// Enabled, the list starts on its first entry; disabled, it has none selected.
-    void changeEvent(QEvent *event) override;
 
 private:
     bool Enabled() const { return !testAttribute(Qt::WA_ForceDisabled); }
 
     bool m_showNoneOption = false;
-    bool m_wasEnabled = true;
 };

@@ -7,6 +7,7 @@
 #include <QHelpEvent>
 #include <QScreen>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QToolTip>
 
 namespace {
@@ -44,6 +45,18 @@ QSize oScreenList::sizeHint() const
 {
     const int width = widestEntry() > Theme::scaled(ShortWidth) ? LongWidth : ShortWidth;
     return {Theme::scaled(width), QComboBox::sizeHint().height()};
+}
+
+void oScreenList::refill(const std::function<int()> &addEntries)
+{
+    {
+        const QSignalBlocker quiet(this);
+        clear();
+        const int wanted = addEntries();
+        const int first = count() > 0 ? 0 : -1;
+        setCurrentIndex(wanted >= 0 && wanted < count() ? wanted : first);
+    }
+    updateGeometry();
 }
 
 void oScreenList::showPopup()

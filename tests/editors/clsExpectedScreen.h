@@ -21,6 +21,11 @@ struct clsExpectedField {
     const char *second = "1"; ///< what the second entry of a list is stored as
 };
 
+struct clsExpectedFrame {
+    const char *name;
+    const char *caption; ///< empty for one that has none, being the only one of its screen
+};
+
 struct clsExpectedScreen {
     const char *section; ///< empty for the editor of an item
     const char *name;
@@ -28,5 +33,6 @@ struct clsExpectedScreen {
     const char *subCaption;
     const char *element; ///< of the record in the claim; empty for the claim itself
     std::vector<clsExpectedField> fields;
+    std::vector<clsExpectedFrame> frames; ///< in the order of the screen
     int iconGroup = 12;
 };

@@ -5,24 +5,25 @@
 #include "controls/oSGrid.h"
 #include "editors/oFieldLabel.h"
 #include "editors/oScreenFrame.h"
-#include "tests/editors/clsScreenTest.h"
+#include "tests/editors/clsPreferencesTest.h"
 #include "tests/editors/mdWalkedScreens.h"
 
 #include <QComboBox>
+#include <QLabel>
 #include <QScrollArea>
 
 #include <functional>
 #include <string>
 
 /// What is true of every screen: the test is run for each one that is written down, with that screen open, be it a
-/// section or the editor of a new item.
-class EveryScreen : public clsScreenTest, public testing::WithParamInterface<std::string> {
+/// section, the editor of a new item or the preferences.
+class EveryScreen : public clsPreferencesTest, public testing::WithParamInterface<std::string> {
 protected:
     void SetUp() override
     {
-        clsScreenTest::SetUp();
+        clsPreferencesTest::SetUp();
         addItems();
-        for (const clsExpectedScreen &row : AllExpectedScreens())
+        for (const clsExpectedScreen &row : AllWalkedScreens())
             if (row.name == GetParam())
                 expected = row;
         openAgain();
@@ -30,7 +31,7 @@ protected:
     void TearDown() override
     {
         screen.reset();
-        clsScreenTest::TearDown();
+        clsPreferencesTest::TearDown();
     }
 
     /// Something to show in the lists, and to choose from in the editors.
@@ -43,6 +44,8 @@ protected:
         feeEarner->GroupUniqueID = group->UniqueID();
         Form->AddCounsel()->Name = QStringLiteral("Oak");
         Form->AddEnhancement()->Name = QStringLiteral("Fifty");
+        addReplacement("pc", "Police constable");
+        addRateSet("London", "50.00");
     }
     void openAgain()
     {
@@ -50,10 +53,10 @@ protected:
             screen = opened(QString::fromUtf8(expected.section));
             return;
         }
-        const clsScreen *editor = ItemEditorOf(GetParam());
-        if (!editor)
-            throw std::runtime_error("no editor " + GetParam());
-        screen = std::make_unique<frmSection>(*editor);
+        const clsScreen *table = ScreenNamed(GetParam());
+        if (!table)
+            throw std::runtime_error("no screen " + GetParam());
+        screen = std::make_unique<frmSection>(*table);
         screen->Initialise(nullptr);
         show(*screen);
     }
@@ -85,7 +88,9 @@ protected:
     }
     bool canEnter(const clsScreenField &field) const
     {
-        return onOpenPage(field) && field.control->isEnabledTo(screen.get());
+        // A line that only tells something isn't entered.
+        return onOpenPage(field) && field.control->isEnabledTo(screen.get())
+            && !qobject_cast<const QLabel *>(field.control);
     }
     /// The fields of the open page, and of the frames that have none.
     std::vector<clsScreenField> openFields() const

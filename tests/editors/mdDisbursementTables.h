@@ -20,7 +20,7 @@ inline const std::vector<clsExpectedScreen> ExpectedDisbursementScreens {
         {"cmdAddJointInstruction", "Add", nullptr, 'b'},
         {"sgOtherDisbursements", "Other Disbursements", nullptr, 'g'},
         {"cmdAddDisbursement", "Add", nullptr, 'b'},
-    }},
+    }, {{"bxGeneral", "Disbursements"}}},
     {"", "frmDisbursementEdit", "Disbursement", "Change a disbursement's settings", "disbursement", {
         {"txtDescription", "Description:*", nullptr, 't', 35, false, true},
         {"txtAmount", "Amount:*", nullptr, 'm'},
@@ -28,7 +28,7 @@ inline const std::vector<clsExpectedScreen> ExpectedDisbursementScreens {
         {"cmdCalculate", "Calculate", nullptr, 'b'},
         {"oCounsel", "Counsel:", nullptr, 'o'},
         {"txtDateOfWork", "Date of Work:", nullptr, 'd'},
-    }},
+    }, {{"bxGeneral", "Disbursement"}}},
     {"", "frmExpertInvoiceEdit", "Expert Invoice", "Change an expert invoice's settings", "expertinvoice", {
         {"txtExpertGroup", "Expert Group:*", nullptr, 't', 0, false, true},
         {"txtExpertType", "Expert Type:*", nullptr, 't', 0, false, true},
@@ -42,7 +42,7 @@ inline const std::vector<clsExpectedScreen> ExpectedDisbursementScreens {
         {"txtNetAmount", "Net Amount:", nullptr, 'm'},
         {"txtVATAmount", "VAT Amount:", nullptr, 'm'},
         {"cmdCalculate", "Calculate", nullptr, 'b'},
-    }},
+    }, {{"bxGeneral", "Expert Invoice"}}},
     {"", "frmJointInstructionEdit", "Joint Instruction", "Change a joint instructiuon's settings",
      "jointinstruction", {
         {"txtExpertType", "Expert Type:*", nullptr, 't', 12, false, true},
@@ -50,6 +50,6 @@ inline const std::vector<clsExpectedScreen> ExpectedDisbursementScreens {
         {"txtSolicitor", "Solicitor:", nullptr, 't', 20, false, true},
         {"txtCertificateReference", "Certificate Reference:", nullptr, 't', 20, false, true},
         {"txtPercentApportioned", "Percent Apportioned:", nullptr, 'm'},
-    }},
+    }, {{"bxGeneral", "Joint Instruction"}}},
 };
 // clang-format on

@@ -8,11 +8,11 @@
 inline const std::vector<clsExpectedScreen> ExpectedFeeEarnerScreens {
     {"Fee Earners / Rates", "frmFeeEarnerGroups", "Fee Earners / Rates",
      "Set up fee earners and rates for the bill element of the form", "", {
-        {"sgFeeEarnerGroups", "", nullptr, 'g', 0, false, false, "bxFeeEarnerGroups"},
+        {"sgFeeEarnerGroups", "Fee Earner Groups", nullptr, 'g', 0, false, false, "bxFeeEarnerGroups"},
         {"cmdAddFeeEarnerGroup", "Add", nullptr, 'b', 0, false, false, "bxFeeEarnerGroups"},
-        {"sgFeeEarners", "", nullptr, 'g', 0, false, false, "bxFeeEarners"},
+        {"sgFeeEarners", "Fee Earners", nullptr, 'g', 0, false, false, "bxFeeEarners"},
         {"cmdAddFeeEarner", "Add", nullptr, 'b', 0, false, false, "bxFeeEarners"},
-    }},
+    }, {{"bxFeeEarnerGroups", "Fee Earner Groups"}, {"bxFeeEarners", "Fee Earners"}}},
     {"", "frmFeeEarnerGroupEdit", "Fee Earner Group", "Change settings for a fee earner group", "", {
         {"txtReference", "Reference:*", nullptr, 't'},
         {"txtName", "Name:*", nullptr, 'o'},
@@ -28,10 +28,10 @@ inline const std::vector<clsExpectedScreen> ExpectedFeeEarnerScreens {
         {"txtTravelAndWaiting", "Travel and Waiting:*", nullptr, 'm', 0, false, false, "bxRates"},
         {"cmdLoad", "Load", nullptr, 'b', 0, false, false, "bxRates"},
         {"cmdEditRateSets", "Edit Rate Sets", nullptr, 'b', 0, false, false, "bxRates"},
-    }},
+    }, {{"bxGeneral", "Group Setup"}, {"bxRates", "Rates"}}},
     {"", "frmFeeEarnerEdit", "Fee Earner", "Change settings for a fee earner", "", {
         {"txtReference", "Reference:*", nullptr, 't'},
         {"cmbGroup", "Group:", nullptr, 'l'},
-    }},
+    }, {{"bxGeneral", "Fee Earner Setup"}}},
 };
 // clang-format on

@@ -3,11 +3,31 @@
 #include "tests/editors/clsExpectedScreen.h"
 
 // clang-format off
+/// Opened by the menu, and so neither a section nor the editor of an item.
+inline const std::vector<clsExpectedScreen> ExpectedPreferences {
+    {"", "frmPreferences", "Preferences", "Default settings", "", {
+        {"txtDefaultVATRate", "Default VAT Rate:*", nullptr, 'm', 0, false, false, "bxPreferences"},
+        {"chkAutoBackup", "Auto Backup:", nullptr, 'x', 0, false, false, "bxPreferences"},
+        {.control = "txtAutoBackupPath", .caption = "Auto Backup Path:", .answer = nullptr, .kind = 't',
+         .frame = "bxPreferences", .replacements = false},
+        {"cmdAutoBackupPathBrowse", "Browse...", nullptr, 'b', 0, false, false, "bxPreferences"},
+        {"chkAutoDeleteBackups", "Auto-delete Backups:", nullptr, 'x', 0, false, false, "bxPreferences"},
+        {"chkAutoRefreshPreview", "Auto-refresh Preview:", nullptr, 'x', 0, false, false, "bxPreferences"},
+        {"chkPlaySound", "Play Sound:", nullptr, 'x', 0, false, false, "bxPreferences"},
+        {"chkLog", "Log Mode:", nullptr, 'x', 0, false, false, "bxPreferences"},
+        {"lblSpelling", "", nullptr, 'o', 0, false, false, "bxPreferences"},
+        {"sgReplacements", "Replacements", nullptr, 'g', 0, false, false, "bxPreferences"},
+        {"cmdAddReplacement", "Add", nullptr, 'b', 0, false, false, "bxPreferences"},
+        {"sgRateSets", "Rate Sets", nullptr, 'g', 0, false, false, "bxPreferences"},
+        {"cmdAddRateSet", "Add", nullptr, 'b', 0, false, false, "bxPreferences"},
+    }, {{"bxPreferences", ""}}},
+};
+
 inline const std::vector<clsExpectedScreen> ExpectedPreferencesEditors {
     {"", "frmReplacementEdit", "Replacement", "Change input and output text", "", {
         {.control = "txtInputText", .caption = "Input Text:*", .answer = nullptr, .kind = 't', .replacements = false},
         {"txtOutputText", "Output Text:*", nullptr, 't'},
-    }},
+    }, {{"bxGeneral", ""}}},
     {"", "frmPreferencesRateSetEdit", "Rate Set", "Edit a standard rate set", "", {
         {"txtName", "Name:*", nullptr, 't'},
         {"txtHourly", "Hourly:*", nullptr, 'm'},
@@ -18,6 +38,6 @@ inline const std::vector<clsExpectedScreen> ExpectedPreferencesEditors {
         {"txtAdvocacy", "Advocacy:*", nullptr, 'm'},
         {"txtCounsel", "Counsel:*", nullptr, 'm'},
         {"txtTravelAndWaiting", "Travel and Waiting:*", nullptr, 'm'},
-    }},
+    }, {{"bxGeneral", ""}}},
 };
 // clang-format on

@@ -24,11 +24,11 @@ inline const std::vector<clsExpectedScreen> ExpectedRecordScreens {
         {"txtSubstantiveCertificateDate", "Date of issue of substantive certificate:",
          nullptr, 'd', 0, false, false, "bxClaim1A"},
         {"txtDateOfFinalOrder", "Date of Final Order:", nullptr, 'd', 0, false, false, "oFrame1"},
-    }},
+    }, {{"bxGeneral", "Outcome of Case"}, {"bxClaim1A", "Claim1A Only"}, {"oFrame1", "Claim1A Only"}}},
     {"Late Submission", "frmLateSubmission", "Late Submission", "Enter details of late submission", "latesubmission", {
         {"txtDate", "Date:", nullptr, 'd', 0, false, false, "bxGeneral", false, "ddate"},
         {"txtExplanation", "Explanation:", nullptr, 't', 400, true, true, "bxGeneral", true},
-    }},
+    }, {{"bxGeneral", "Late Submission"}}},
     {"Nature of Proceedings", "frmNatureOfProceedings", "Nature of Proceedings",
      "Enter details of the nature of proceedings", "natureofproceedings", {
         {"txtDetailsOfCase", "Give details of the case, including any factors in support of time spent in attendance "
@@ -43,7 +43,7 @@ inline const std::vector<clsExpectedScreen> ExpectedRecordScreens {
         {"chkOtherProvidersNo", "Have any other providers acted in this matter?", "No:", 'x'},
         {"chkChangeOfSolicitorHalfFeeYes", "Is this a change of solicitor half fee?", "Yes:", 'x'},
         {"chkChangeOfSolicitorHalfFeeNo", "Is this a change of solicitor half fee?", "No:", 'x'},
-    }},
+    }, {{"bxGeneral", "Nature of Proceedings"}}},
     {"Actual Costs", "frmActualCostsIncurred", "Actual Costs Incurred", "Enter details of the actual costs incurred",
      "actualcostsincurred", {
         {"txtCareAndSupervisionProfitCosts", "Profit Costs (exc adv & enh):",
@@ -103,24 +103,25 @@ inline const std::vector<clsExpectedScreen> ExpectedRecordScreens {
         {"chkExceptionalCaseYes", "Is this an Exceptional Case?", "Yes:", 'x'},
         {"chkExceptionalCaseNo", "Is this an Exceptional Case?", "No:", 'x'},
         {"txtFixedFee", "What fixed fee would apply?", nullptr, 'm'},
-    }, 1},
+    }, {{"bxCareAndSupervision", "Care and Supervision Cases"}, {"bxPrivateLaw", "Private Law Cases"},
+        {"bxGeneral", "Actual Costs Incurred"}}, 1},
     {"Details of Work", "frmDetailsOfWork", "Details of Work Being Claimed",
      "Enter details of the work being claimed", "detailsofwork", {
-        {"txtDetailsOfCase", "", nullptr, 't', 770, true, true, "bxGeneral", true},
+        {"txtDetailsOfCase", "Details of Work Being Claimed", nullptr, 't', 770, true, true, "bxGeneral", true},
         {"txtDetailsOfEnhancement", "If you are seeking an enhanced rate or uplift, state percentage sought and give "
          "full reasons:", nullptr, 't', 710, true, true, "bxClaim1", true},
-    }},
+    }, {{"bxGeneral", "Details of Work Being Claimed"}, {"bxClaim1", "Claim1 Only"}}},
     {"Counsel Outstanding Claims", "frmCounselOutstandingClaims", "Counsel Outstanding Claims",
      "Enter details of counsel outstanding claims", "counseloutstandingclaims", {
         {"chkOutstandingClaimsYes", "Have all outstanding claims for payment by counsel been paid by LAA?",
          "Yes:", 'x'},
         {"chkOutstandingClaimsNo", "Have all outstanding claims for payment by counsel been paid by LAA?", "No:", 'x'},
-    }},
+    }, {{"bxGeneral", "Counsel Outstanding Claims"}}},
     {"Details of Monies Awarded", "frmDetailsOfMonies", "Details of Monies Awarded",
      "Enter details of monies or property awarded", "detailsofmonies", {
         {"txtValue", "Value of award:", nullptr, 'm'},
         {"txtAmountRecovered", "Amount recovered to date:", nullptr, 'm'},
-    }},
+    }, {{"bxGeneral", "Details of Monies / Property Awarded"}}},
     {"Details of Costs Awarded", "frmDetailsOfCostsAwarded", "Details of Costs Awarded",
      "Enter details of the costs awarded", "detailsofcostsawarded", {
         {"txtPreCertificateCosts", "Pre-certificate costs awarded:", nullptr, 'm'},
@@ -155,7 +156,8 @@ inline const std::vector<clsExpectedScreen> ExpectedRecordScreens {
          "Yes:", 'x', 0, false, false, "oFrame2"},
         {"chkOfferByDebtorNo", "Has any offer been made by the debtor?", "No:", 'x', 0, false, false, "oFrame2"},
         {"txtOfferByDebtorDetails", "If so, give details:", nullptr, 't', 85, true, true, "oFrame2"},
-    }},
+    }, {{"bxGeneral", "Details of Costs Awarded"}, {"bxClaim1A", "Claim1A Only"},
+        {"oFrame1", "Details of Costs Awarded"}, {"oFrame2", "Details of Costs Awarded"}}},
     {"Debtor's Details", "frmDebtorsDetails", "Debtor's Details", "Enter details of debtor", "debtorsdetails", {
         {"txtTitle", "Title:", nullptr, 't', 9},
         {"txtInitials", "Initials:", nullptr, 't', 9},
@@ -182,6 +184,6 @@ inline const std::vector<clsExpectedScreen> ExpectedRecordScreens {
         {"chkDebtorCLSFundedNo", "Was the debtor legally aided?", "No:", 'x'},
         {"txtCaseReference", "Case reference:", nullptr, 't', 45},
         {"txtInformation", "Information:", nullptr, 't', 820, true, true},
-    }},
+    }, {{"bxGeneral", "Debtor's Details"}}},
 };
 // clang-format on

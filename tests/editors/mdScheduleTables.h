@@ -11,7 +11,7 @@ inline const std::vector<clsExpectedScreen> ExpectedScheduleScreens {
         {"sgScheduleOfTime", "Schedule of Time", nullptr, 'g'},
         {"cmdAddScheduleOfTimeItem", "Add", nullptr, 'b'},
         {"chkExcludeNonAdvocacy", "Exclude Non-Advocacy Items from Bill (Claim1A Only):", nullptr, 'x'},
-    }},
+    }, {{"bxGeneral", "Schedule of Time"}}},
     {"", "frmScheduleOfTimeItemEdit", "Schedule of Time Item", "Change a schedule of time item's settings",
      "scheduleoftimeitem", {
         {.control = "cmbFeeEarner", .caption = "Fee Earner:*", .answer = nullptr, .kind = 'l',
@@ -27,12 +27,12 @@ inline const std::vector<clsExpectedScreen> ExpectedScheduleScreens {
         {"chkWaiting", "Waiting:", nullptr, 'x'},
         {"chkUseHourlyRate", "Use Hourly Rate:", nullptr, 'x'},
         {"oEnhancement", "Include in Enhancements:", nullptr, 'o'},
-    }},
+    }, {{"bxGeneral", "Schedule of Time Item"}}},
     {"Family Advocacy Scheme", "frmFamilyAdvocacyScheme", "Costs under Family Advocacy Scheme",
      "Edit the advocacy costs for your form", "", {
         {"sgFamilyAdvocacyScheme", "Costs under Family Advocacy Scheme", nullptr, 'g'},
         {"cmdAddFASItem", "Add", nullptr, 'b'},
-    }},
+    }, {{"bxGeneral", "Costs under Family Advocacy Scheme"}}},
     {"", "frmFASItemEdit", "FAS Item", "Change a family advocacy scheme item's settings", "fasitem", {
         {.control = "txtDate", .caption = "Date:*", .answer = nullptr, .kind = 'd', .element = "ddate"},
         {"txtLevelOfCourt", "Type of Judge:", nullptr, 't', 0, false, true},
@@ -48,6 +48,6 @@ inline const std::vector<clsExpectedScreen> ExpectedScheduleScreens {
         {"txtExceptionalTravelDistance", "Distance:", nullptr, 't', 0, false, true},
         {"txtExceptionalTravelReason", "Reason:", nullptr, 't', 35, false, true},
         {"txtVATForFAS", "VAT for FAS:", nullptr, 'm'},
-    }},
+    }, {{"bxGeneral", "Family Advocacy Scheme Item"}}},
 };
 // clang-format on

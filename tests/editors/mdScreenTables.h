@@ -9,9 +9,12 @@ inline const std::vector<clsExpectedScreen> ExpectedScreens {
         {"chkVAT", "VAT:", nullptr, 'x'},
         {"txtVATRate", "%", nullptr, 'm'},
         {"chkIncludePanelMembershipContSheet", "Include Panel Membership Cont. Sheet:", nullptr, 'x'},
-        {"chkCostsAssessedByLSC", "Claim for costs to be assessed by the LAA:", nullptr, 'x', 0, false, false, "bxHeaders"},
-        {"chkCostsAssessedByCourt", "Claim for costs assessed by the Court:", nullptr, 'x', 0, false, false, "bxHeaders"},
-        {"chkExceptionalCaseFunding", "Exceptional Case Funding determination:", nullptr, 'x', 0, false, false, "bxHeaders"},
+        {"chkCostsAssessedByLSC", "Claim for costs to be assessed by the LAA:",
+         nullptr, 'x', 0, false, false, "bxHeaders"},
+        {"chkCostsAssessedByCourt", "Claim for costs assessed by the Court:",
+         nullptr, 'x', 0, false, false, "bxHeaders"},
+        {"chkExceptionalCaseFunding", "Exceptional Case Funding determination:",
+         nullptr, 'x', 0, false, false, "bxHeaders"},
         {"chkMentalHealth", "Mental Health/Court of Protection:", nullptr, 'x', 0, false, false, "bxHeaders"},
         {"chkVHCC", "VHCC/HCC:", nullptr, 'x', 0, false, false, "bxHeaders"},
         {"txtStageNumber", "Stage Number:", nullptr, 't', 40, false, false, "bxHeaders"},
@@ -29,8 +32,8 @@ inline const std::vector<clsExpectedScreen> ExpectedScreens {
         {"chkIncludePage11", "11:", nullptr, 'x', 0, false, false, "bgPages"},
         {"chkIncludePage12", "12:", nullptr, 'x', 0, false, false, "bgPages"},
         {"chkIncludePage13", "13:", nullptr, 'x', 0, false, false, "bgPages"},
-        {"txtNotes", "", nullptr, 't', 0, true, true, "bxNotes"},
-    }},
+        {"txtNotes", "Notes", nullptr, 't', 0, true, true, "bxNotes"},
+    }, {{"bxGeneral", "General"}, {"bxHeaders", "Form Header"}, {"bgPages", "Pages"}, {"bxNotes", "Notes"}}},
     {"Client Details", "frmClientDetails", "Client Details", "Enter details of the client", "clientdetails", {
         {"txtCaseReferenceNumber", "Our Case Reference Number:", nullptr, 't', 30},
         {"txtTitle", "Title:", nullptr, 't', 7},
@@ -39,7 +42,7 @@ inline const std::vector<clsExpectedScreen> ExpectedScreens {
         {"txtDateOfBirth", "Date of Birth:", nullptr, 'd'},
         {"txtMoreThan1Certificate", "Does this claim cover more than one certificate? If so, give the other case "
          "reference numbers and the percentage apportionments between the cases:", nullptr, 't', 130, true, true},
-    }},
+    }, {{"bxGeneral", "Client Details"}}},
     {"Solicitor Details", "frmSolicitorDetails", "Solicitor Details", "Enter details of the solicitor",
      "solicitordetails", {
         {"txtAccountNumber", "Account Number:", nullptr, 't', 7},
@@ -49,7 +52,7 @@ inline const std::vector<clsExpectedScreen> ExpectedScreens {
         {"txtContactNameForEnquiries", "Contact Name for Enquiries:", nullptr, 't', 35},
         {"txtTelephoneForEnquiries", "Tel. No:", nullptr, 't', 17},
         {"txtEmailForEnquiries", "Email Address for Enquiries:", nullptr, 't', 35},
-    }},
+    }, {{"bxGeneral", "Solicitor Details"}}},
     {"Previous Advice", "frmPreviousAdvice", "Previous Advice",
      "Enter details of previous advice and related claims", "previousadvice", {
         {"chkLegalHelpYes", "Did your client receive advice under legal help, family help (lower) or help with family "
@@ -65,7 +68,7 @@ inline const std::vector<clsExpectedScreen> ExpectedScreens {
         {"chkInclusiveOfAllSolicitorsNo", "Does this claim include the costs of all other providers that have been "
          "instructed?", "No:", 'x', 0, false, false, "bxClaim1"},
         {"txtInclusiveOfAllSolicitorsReasons", "If no, give reasons:", nullptr, 't', 115, true, true, "bxClaim1"},
-    }},
+    }, {{"bxGeneral", "Previous Advice"}, {"bxClaim1", "Claim1 Only"}}},
     {"Case Information", "frmCaseInformation", "Case Information", "Enter a description of the case",
      "caseinformation", {
         {"txtIssueOfProceedingsDate", "Date of issue of proceedings:", nullptr, 'd'},
@@ -73,6 +76,6 @@ inline const std::vector<clsExpectedScreen> ExpectedScreens {
         {"txtNameOfCourt", "Name(s) of court(s) or proposed court:", nullptr, 't', 30},
         {"txtEmergencyCertificateDate", "Date of issue of emergency certificate:", nullptr, 'd'},
         {"txtSubstantiveCertificateDate", "Date of issue of substantive certificate:", nullptr, 'd'},
-    }},
+    }, {{"bxGeneral", "Case Information"}}},
 };
 // clang-format on

@@ -25,6 +25,14 @@ inline std::vector<clsExpectedScreen> AllExpectedScreens()
     return all;
 }
 
+/// Those, and the one screen that is neither a section nor the editor of an item.
+inline std::vector<clsExpectedScreen> AllWalkedScreens()
+{
+    std::vector<clsExpectedScreen> all = AllExpectedScreens();
+    all.insert(all.end(), ExpectedPreferences.begin(), ExpectedPreferences.end());
+    return all;
+}
+
 using clsScreenFunction = const clsScreen &(*)();
 
 /// The editors of items, which no section leads to.
@@ -46,9 +54,11 @@ inline std::vector<clsScreenFunction> AllItemEditors()
     };
 }
 
-/// The editor of that name, or nothing.
-inline const clsScreen *ItemEditorOf(std::string_view name)
+/// The screen of that name which no section leads to, or nothing.
+inline const clsScreen *ScreenNamed(std::string_view name)
 {
+    if (ScreenPreferences().name == name)
+        return &ScreenPreferences();
     for (const clsScreenFunction editor : AllItemEditors())
         if (editor().name == name)
             return &editor();

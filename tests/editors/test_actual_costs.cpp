@@ -1,3 +1,4 @@
+#include "controls/oCustomButton.h"
 #include "controls/oDecimalBox.h"
 #include "tests/editors/clsRecordTest.h"
 
@@ -251,6 +252,28 @@ TEST_F(ActualCostsScreen, ABoxWithBadInputHoldsItsButton)
     type(screen->Box(Care.profitCosts), QStringLiteral("7"));
     press(*screen, Care.button);
     EXPECT_EQ(QStringLiteral("33.33"), textOf(*screen, Care.profitCosts));
+}
+
+TEST_F(ActualCostsScreen, PressedByItsLetterFromABoxItFillsTheButtonLeavesTheBoxAsTheMouseDoes)
+{
+    addBill();
+    Form->VATRate = QStringLiteral("20");
+    for (const clsGroup &group : {Care, PrivateLaw}) {
+        const auto screen = opened(ActualCosts);
+        const auto &button = screen->Box<oCustomButton>(group.button);
+        const qsizetype mark = button.text().indexOf(u'&');
+        ASSERT_GE(mark, 0) << group.button;
+        const char letter = button.text()[mark + 1].toLower().toLatin1();
+        type(screen->Box(group.profitCosts), QStringLiteral("120"));
+        QTest::keyClick(screen->focusWidget(), letter, Qt::AltModifier);
+        EXPECT_EQ(pair("33.33", "6.67"), amounts(*screen, group));
+        EXPECT_EQ(QString::fromLatin1(group.button), focusedName(*screen));
+        // Bad input keeps the focus and is not written over.
+        type(screen->Box(group.profitCosts), QStringLiteral("abc"));
+        QTest::keyClick(screen->focusWidget(), letter, Qt::AltModifier);
+        EXPECT_EQ(pair("abc", "6.67"), amounts(*screen, group));
+        EXPECT_EQ(QString::fromLatin1(group.profitCosts), focusedName(*screen));
+    }
 }
 
 TEST_F(ActualCostsScreen, TheButtonsStandBesideTheAmountsThatTheyFill)

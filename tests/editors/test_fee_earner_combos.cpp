@@ -114,6 +114,15 @@ TEST_F(FeeEarnerGroupCombo, DisabledItHasNoneSelectedAndEnabledTheFirst)
     list.setEnabled(true);
     EXPECT_EQ(QStringLiteral("PTR"), list.currentText());
     EXPECT_EQ(3, changes.size());
+    // At each call, and not only where it changes something.
+    list.setSelectedFeeEarnerGroupUniqueID(solicitor->UniqueID());
+    list.setEnabled(true);
+    EXPECT_EQ(QStringLiteral("PTR"), list.currentText());
+    list.setEnabled(false);
+    list.setSelectedFeeEarnerGroupUniqueID(solicitor->UniqueID());
+    list.setEnabled(false);
+    EXPECT_EQ(-1, list.currentIndex());
+    list.setEnabled(true);
     // A window that is disabled for a while is no choice of anybody's.
     list.setSelectedFeeEarnerGroupUniqueID(solicitor->UniqueID());
     window.setEnabled(false);

@@ -1,6 +1,7 @@
 #include "controls/oAllPurposeBox.h"
 #include "controls/oCheckBox.h"
 #include "controls/oContentSwitcher.h"
+#include "controls/oCustomButton.h"
 #include "controls/oDecimalBox.h"
 #include "controls/oTypeAheadBox.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
@@ -343,6 +344,25 @@ TEST_F(FeeEarnerGroupEdit, ABadRateHoldsSaveAndLoad)
     EXPECT_FALSE(screen->findChild<QMenu *>(QStringLiteral("mnuRateSets"))->isVisible());
     EXPECT_EQ(QStringLiteral("txtCalls"), focusedName(*screen));
     EXPECT_TRUE(Form->FeeEarnerGroupsCollection().empty());
+}
+
+TEST_F(FeeEarnerGroupEdit, LoadPressedByItsLetterFromARateFillsThatRateToo)
+{
+    addRateSet("London", 1);
+    const auto screen = edit(nullptr);
+    const QString caption = screen->Box<oCustomButton>("cmdLoad").text();
+    const qsizetype mark = caption.indexOf(u'&');
+    ASSERT_GE(mark, 0);
+    type(screen->Box("txtHourly"), QStringLiteral("120"));
+    QTest::keyClick(screen->focusWidget(), caption[mark + 1].toLower().toLatin1(), Qt::AltModifier);
+    EXPECT_EQ(QStringLiteral("cmdLoad"), focusedName(*screen));
+    EXPECT_EQ(QStringLiteral("120.00"), amount(*screen, "txtHourly"));
+    QMenu &menu = *screen->findChild<QMenu *>(QStringLiteral("mnuRateSets"));
+    ASSERT_TRUE(menu.isVisible());
+    menu.actions().constLast()->trigger();
+    menu.close();
+    for (size_t i = 0; i < Rates.size(); ++i)
+        EXPECT_EQ(QString::number(1 + int(i)) + QStringLiteral(".00"), amount(*screen, Rates[i].control));
 }
 
 TEST_F(FeeEarnerGroupEdit, CancelAsksNothingAndMakesNothing)

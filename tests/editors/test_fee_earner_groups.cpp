@@ -1,6 +1,7 @@
 #include "controls/oCustomButton.h"
 #include "controls/oSGrid.h"
 #include "tests/editors/clsFeeEarnersTest.h"
+#include "tests/editors/mdListColumns.h"
 
 #include <QAbstractItemView>
 #include <QAction>
@@ -71,6 +72,11 @@ TEST_F(FeeEarnerGroups, ShowsTheTwoListsWithTheirColumnsInTheirOrder)
     };
     EXPECT_EQ(QStringLiteral("Ref|Name|Enh|Enh %"), headings(groups(*screen)));
     EXPECT_EQ(QStringLiteral("Ref|Group"), headings(feeEarners(*screen)));
+    EXPECT_EQ(QStringList({QStringLiteral("Ref Reference 25 left"), QStringLiteral("Name Name 50 left"),
+                  QStringLiteral("Enh Enhance 10 centre"), QStringLiteral("Enh % EnhancementRate 15 right")}),
+        captionsOf(groups(*screen)));
+    EXPECT_EQ(QStringList({QStringLiteral("Ref Reference 50 left"), QStringLiteral("Group GroupReference 50 left")}),
+        captionsOf(feeEarners(*screen)));
     EXPECT_EQ(QStringList({QStringLiteral("AB|TRN"), QStringLiteral("JH|PTR")}), rows(feeEarners(*screen)));
     ASSERT_EQ(2, groups(*screen).Rows());
     EXPECT_TRUE(rows(groups(*screen))[0].startsWith(QStringLiteral("PTR|Partner|")));
@@ -275,6 +281,7 @@ TEST_F(FeeEarnerGroups, FeeEarnersAreCreatedForEmptyGroupsOnce)
     const QString question = QStringLiteral("Fee Earners will be created for the following groups\r\n\r\nA, "
                                             "B\r\n\r\nContinue?");
     user.answers = {clsUserInterface::No};
+    EXPECT_FALSE(entry(*screen, "mnuCreateFeeEarners").icon().isNull());
     entry(*screen, "mnuCreateFeeEarners").trigger();
     expectMessage("Continue?", question, clsUserInterface::YesNo);
     EXPECT_EQ(QStringList {QStringLiteral("JH FULL")}, references());

@@ -6,6 +6,7 @@
 #include "controls/oTimeBox.h"
 #include "editors/mdExclusiveTicks.h"
 #include "editors/oFieldLabel.h"
+#include "editors/oScreenList.h"
 #include "shell/clsRunTimeError.h"
 #include "tests/editors/clsScreenTest.h"
 #include "tests/support/mdExpectError.h"
@@ -208,6 +209,29 @@ TEST_F(ScreenRows, AListIsStoredByItsPlaceAndStartsOnTheFirst)
     press(*screen, "cmdSave");
     EXPECT_EQ(2, Form->OutcomeOfCase.Result());
     EXPECT_EQ(2, outcome()->Box<QComboBox>("cmbResult").currentIndex());
+}
+
+TEST_F(ScreenRows, AClosedListEndsATextThatItHasNoRoomForInAnEllipsis)
+{
+    oScreenList cut;
+    const QString text = QStringLiteral("Judicial review of a decision of the local housing authority");
+    cut.addItem(text);
+    cut.resize(200, cut.sizeHint().height());
+    // The same list with a text that ends so by itself looks the same.
+    const auto looksLike = [&](const QString &shorter) {
+        oScreenList list;
+        list.addItem(shorter);
+        list.resize(cut.size());
+        return list.grab().toImage() == cut.grab().toImage();
+    };
+    bool ends = false;
+    for (qsizetype length = 1; length < text.size(); ++length)
+        ends = ends || looksLike(text.left(length) + QChar(0x2026));
+    EXPECT_TRUE(ends);
+    EXPECT_FALSE(looksLike(QString(QChar(0x2026))));
+    cut.resize(900, cut.height());
+    EXPECT_TRUE(looksLike(text));
+    EXPECT_FALSE(looksLike(text + QChar(0x2026)));
 }
 
 TEST_F(ScreenRows, APlaceThatTheListLacksIsLeftAlone)

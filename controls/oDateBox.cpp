@@ -49,6 +49,16 @@ QString oDateBox::Text() const
     return m_showTickBox && txtText->text().isEmpty() ? QString(NoDate) : txtText->text();
 }
 
+bool oDateBox::HasDate() const
+{
+    return chkShowDate->Checked();
+}
+
+QString oDateBox::TypedText() const
+{
+    return txtText->text();
+}
+
 void oDateBox::setText(const QString &text)
 {
     txtText->write(text);

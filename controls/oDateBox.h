@@ -21,6 +21,11 @@ public:
     /// The no-date value clears the tick, shown or not, and so disables and empties the box.
     void setText(const QString &text);
 
+    /// Whether the tick is set, shown or not.
+    bool HasDate() const;
+    /// What stands in the box, empty where nothing does.
+    QString TypedText() const;
+
     bool ShowTickBox() const { return m_showTickBox; }
     void setShowTickBox(bool show);
 

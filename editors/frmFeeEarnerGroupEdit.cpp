@@ -75,9 +75,13 @@ void makeRateSetMenu(frmSection &screen)
         [menu] { mdLoadMenuFromCollection(*menu, Preferences->RateSetsCollection(), u"Name"); });
     QObject::connect(menu, &QMenu::triggered, &screen,
         [&screen](const QAction *entry) { loadRateSet(screen, *Preferences->RateSet(entry->data().toInt())); });
-    const auto &load = screen.Box<oCustomButton>("cmdLoad");
-    QObject::connect(&load, &oCustomButton::Click, menu,
-        [menu, &load] { menu->popup(load.mapToGlobal(QPoint(Theme::RingRoom, load.height()))); });
+    auto &load = screen.Box<oCustomButton>("cmdLoad");
+    QObject::connect(&load, &oCustomButton::Click, menu, [menu, &load] {
+        // On a low screen its letter may be pressed while it is scrolled out of sight: the focus brings it into view.
+        load.clearFocus();
+        load.setFocus(Qt::ShortcutFocusReason);
+        menu->popup(load.mapToGlobal(QPoint(Theme::RingRoom, load.height())));
+    });
 }
 
 void rules(frmSection &screen)

@@ -13,7 +13,6 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QLineEdit>
 
 namespace {
 
@@ -85,15 +84,14 @@ private:
     frmSection &m_screen;
 };
 
-/// A box without a date is right as long as its tick says so: an item may have none.
+/// A box without a date is right as long as its tick says so: an item may have none. An empty one with its tick gives
+/// the no-date value as its text, so that asking for a text would not find it.
 bool dateIsGiven(const frmSection &screen)
 {
-    const auto &date = screen.Box<oDateBox>("txtDate");
-    auto *text = date.findChild<QLineEdit *>(QStringLiteral("txtText"));
-    if (!date.findChild<oCheckBox *>(QStringLiteral("chkShowDate"))->Checked()
-        || mdCheckForBlanks(QStringList {text->text()}))
+    auto &date = screen.Box<oDateBox>("txtDate");
+    if (!date.HasDate() || mdCheckForBlanks({date.TypedText()}))
         return true;
-    text->setFocus(Qt::TabFocusReason);
+    date.setFocus(Qt::TabFocusReason);
     return false;
 }
 
@@ -133,8 +131,7 @@ const clsScreen &ScreenScheduleOfTimeItemEdit()
         .frames = {
             {"bxGeneral", "Schedule of Time Item", {
                 {.kind = Other, .control = "cmbFeeEarner", .caption = "Fee Earner:*", .other = &FeeEarner},
-                {.kind = Date,  .control = "txtDate", .caption = "Date:*", .flags = DateTick | Required,
-                 .member = "dDate"},
+                {.kind = Date,  .control = "txtDate", .caption = "Date:*", .flags = DateTick, .member = "dDate"},
                 {.kind = Other, .control = "cmbCode", .caption = "Code:*", .other = &Code},
                 {.kind = Text,  .control = "txtDescription", .caption = "Description:", .flags = SpellCheck},
                 {.kind = Time,  .control = "txtTime", .caption = "Time:*", .member = "TTime"},

@@ -10,6 +10,9 @@
 #include "shell/mdGlobals.h"
 #include "shell/mdSetProgress.h"
 
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QMenuBar>
 #include <QPointer>
 
 namespace {
@@ -30,6 +33,23 @@ const clsPreviewRoutines Routines[] = {
 };
 // clang-format on
 
+/// What had the focus before the menu bar took it, or else the first control behind the bar. The bar itself would keep
+/// a focus that it is given back, and have nobody to hand it on to.
+QWidget *focusOf(const QWidget &window)
+{
+    auto *bar = qobject_cast<QMenuBar *>(window.focusWidget());
+    if (!bar)
+        return window.focusWidget();
+    QKeyEvent leave(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QCoreApplication::sendEvent(bar, &leave);
+    if (window.focusWidget() != bar)
+        return window.focusWidget();
+    QWidget *next = bar->nextInFocusChain();
+    while (next != bar && !((next->focusPolicy() & Qt::TabFocus) && next->isVisible() && next->isEnabled()))
+        next = next->nextInFocusChain();
+    return next;
+}
+
 /// The grid's window is disabled while this lives. An end before the drawing's own end, by an error, leaves no half of
 /// a bill behind, and painting switched on.
 class clsDrawing {
@@ -37,7 +57,7 @@ public:
     explicit clsDrawing(oPreviewGrid &grid)
         : m_grid(grid)
         , m_window(grid.window())
-        , m_focus(m_window->focusWidget())
+        , m_focus(focusOf(*m_window))
     {
         m_window->setEnabled(false);
         Running = true;

@@ -245,8 +245,12 @@ TEST_F(FamilyAdvocacyScheme, EnterSavesFromEveryField)
     const auto fields = editHearing(hearing);
     for (const clsScreenField &field : fields->Fields()) {
         const auto screen = editHearing(hearing);
+        // Each time another text, to tell a Save from a Cancel.
+        const QString typed = QStringLiteral("Leaving %1").arg(QLatin1String(field.row->control));
+        type(screen->Box("txtLevelOfCourt"), typed);
         focus(*screen, field.row->control);
         saved(*screen);
+        EXPECT_EQ(typed, hearing->LevelOfCourt()) << field.row->control;
     }
     EXPECT_EQ(1u, count());
 }

@@ -13,6 +13,8 @@
 #include <QCompleter>
 #include <QDir>
 #include <QMenu>
+#include <QScrollArea>
+#include <QScrollBar>
 
 namespace {
 
@@ -329,6 +331,29 @@ TEST_F(FeeEarnerGroupEdit, EditRateSetsOpensThatPageOfThePreferencesAndLoadHasWh
     QTest::keyClick(&menu, Qt::Key_Up);
     QTest::keyClick(&menu, Qt::Key_Return);
     EXPECT_EQ(QStringLiteral("11.00"), amount(*screen, "txtHourly"));
+}
+
+TEST_F(FeeEarnerGroupEdit, TheLetterOfLoadBringsItsButtonIntoViewBeforeTheMenu)
+{
+    addRateSet("London", 1);
+    const auto screen = edit(nullptr);
+    screen->resize(screen->width(), screen->height() / 2);
+    auto &load = screen->Box<oCustomButton>("cmdLoad");
+    const auto seen = [&load] { return load.visibleRegion().boundingRect() == load.rect(); };
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !seen(); }));
+    const qsizetype mark = load.text().indexOf(u'&');
+    ASSERT_GE(mark, 0);
+    // Also where it has the focus and has been scrolled away.
+    for (int time = 1; time <= 2; ++time) {
+        QTest::keyClick(screen->focusWidget(), load.text()[mark + 1].toUpper().toLatin1(), Qt::AltModifier);
+        auto *menu = screen->findChild<QMenu *>(QStringLiteral("mnuRateSets"));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return menu->isVisible(); })) << time;
+        EXPECT_TRUE(seen()) << time;
+        EXPECT_EQ(load.mapToGlobal(QPoint(0, load.height())).y(), menu->y()) << time;
+        menu->close();
+        screen->findChild<QScrollArea *>()->verticalScrollBar()->setValue(0);
+        ASSERT_FALSE(seen()) << time;
+    }
 }
 
 TEST_F(FeeEarnerGroupEdit, ABadRateHoldsSaveAndLoad)

@@ -1,5 +1,3 @@
-#include "controls/oAllPurposeBox.h"
-#include "controls/oDecimalBox.h"
 #include "editors/mdCheckForBlanks.h"
 #include "editors/mdComboboxSelectByItemData.h"
 #include "editors/mdConfirmCancelEdit.h"
@@ -51,17 +49,6 @@ TEST_F(Modules, BlanksAloneCountAsFilled)
     EXPECT_TRUE(mdCheckForBlanks(QStringList {QStringLiteral(" ")}));
     EXPECT_TRUE(mdCheckForBlanks(QStringList {}));
     EXPECT_TRUE(user.messages.empty());
-}
-
-TEST_F(Modules, BlanksAreAskedOfControlsThatHaveAText)
-{
-    oAllPurposeBox name;
-    oDecimalBox rate;
-    rate.setText(QStringLiteral("1"));
-    EXPECT_FALSE(mdCheckForBlanks(&rate, &name));
-    name.setText(QStringLiteral("Adams"));
-    EXPECT_TRUE(mdCheckForBlanks(&rate, &name));
-    EXPECT_EQ(1u, user.messages.size());
 }
 
 TEST_F(Modules, CancellingAnEditAsksNothing)

@@ -159,6 +159,11 @@ TEST_F(ScheduleOfTime, TheArrowsChangeTheOrderWithinADay)
     // The day comes first: an item doesn't pass one of another day.
     key(*screen, Qt::Key_Up, Qt::AltModifier);
     EXPECT_EQ(QStringLiteral("ACL ACO ACT"), codes());
+    // The selection goes on alone, and then that item is the one to be moved: this is meant.
+    EXPECT_EQ(1, grid(*screen).SelectedRow());
+    key(*screen, Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(QStringLiteral("ACL ACO ACT"), codes());
+    EXPECT_EQ(2, grid(*screen).SelectedRow());
 }
 
 TEST_F(ScheduleOfTime, ADoubleClickEditsTheRowsItemAndFollowsIt)

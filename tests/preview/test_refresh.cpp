@@ -7,6 +7,8 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLineEdit>
+#include <QMenuBar>
 #include <QScrollBar>
 #include <QTemporaryDir>
 
@@ -174,4 +176,29 @@ TEST_F(PreviewRefresh, WithoutAClaimItIsTheObjectError)
     EXPECT_TRUE(grid().updatesEnabled());
     Preferences.reset();
     EXPECT_EQ(clsRunTimeError::ObjectNotSet, errorOf([] { mdRefreshPreview(Schedule); }));
+}
+
+TEST_F(PreviewRefresh, TheFocusOfTheMenuBarGoesBackToWhatHadIt)
+{
+    auto *bar = new QMenuBar(&window);
+    bar->addMenu(QStringLiteral("&Preview"))->addAction(QStringLiteral("&Schedule of Time"));
+    auto *first = new QLineEdit(&window);
+    auto *box = new QLineEdit(&window);
+    window.layout()->setMenuBar(bar);
+    window.layout()->addWidget(first);
+    window.layout()->addWidget(box);
+    for (QWidget *added : {static_cast<QWidget *>(bar), static_cast<QWidget *>(first), static_cast<QWidget *>(box)})
+        added->show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    box->setFocus();
+    QTest::keyClick(box, Qt::Key_Alt);
+    ASSERT_TRUE(bar->hasFocus());
+    mdDrawPreview(Schedule);
+    EXPECT_TRUE(box->hasFocus());
+    EXPECT_FALSE(bar->activeAction()) << "no entry stays chosen";
+    // It may have come by it in another way, and then knows of nobody.
+    bar->setFocus();
+    mdDrawPreview(Schedule);
+    EXPECT_TRUE(first->hasFocus());
 }

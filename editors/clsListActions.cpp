@@ -51,6 +51,8 @@ void clsListActions::buildMenu()
     for (const clsItemAction &action : m_list.actions) {
         QAction *entry = menu->addAction(QString::fromUtf8(action.caption));
         entry->setObjectName(QString::fromUtf8(action.name));
+        if (action.glyph != Glyph::None)
+            entry->setIcon(mdGlyphIcon(action.glyph, Theme::Ink));
         connect(entry, &QAction::triggered, this, [this, &action] {
             action.run(m_screen);
             tellChanged();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/mdIcons.h"
 #include "shell/clsGridAlignment.h"
 
 #include <QStringList>
@@ -64,6 +65,7 @@ struct clsItemAction {
     const char *name; ///< object name
     const char *caption;
     void (*run)(frmSection &screen); ///< all lists of the screen are drawn anew after it
+    Glyph glyph = Glyph::None;
 };
 
 /// A list of items on a screen: what its grid shows, and how an item is added, edited and deleted. What a list leaves

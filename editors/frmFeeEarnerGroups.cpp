@@ -1,13 +1,10 @@
 #include "editors/mdScreens.h"
 
-#include "controls/mdTheme.h"
 #include "controls/oSGrid.h"
 #include "editors/frmSection.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/mdCustomMessages.h"
 #include "shell/mdGlobals.h"
-
-#include <QAction>
 
 namespace {
 
@@ -64,7 +61,8 @@ const clsItemList Groups {
     .add = "cmdAddFeeEarnerGroup",
     .menu = "mnuFeeEarnerGroups",
     .deleteEntry = "mnuDeleteFeeEarnerGroup",
-    .actions = {{"mnuCreateFeeEarners", "&Create Fee Earners for Empty Groups", createFeeEarners}},
+    .actions = {{"mnuCreateFeeEarners", "&Create Fee Earners for Empty Groups", createFeeEarners,
+                 Glyph::AddPerson}},
 };
 
 const clsItemList FeeEarners {
@@ -84,12 +82,6 @@ const clsItemList FeeEarners {
     .deleteEntry = "mnuDeleteFeeEarner",
 };
 // clang-format on
-
-void rules(frmSection &screen)
-{
-    screen.findChild<QAction *>(QStringLiteral("mnuCreateFeeEarners"))
-        ->setIcon(mdGlyphIcon(Glyph::AddPerson, Theme::Ink));
-}
 
 } // namespace
 
@@ -115,7 +107,6 @@ const clsScreen &ScreenFeeEarnerGroups()
                  .items = &FeeEarners},
             }, .startsColumn = true},
         },
-        .rules = rules,
     };
     // clang-format on
     return screen;

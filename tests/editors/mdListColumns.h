@@ -24,8 +24,8 @@ inline QStringList captionsOf(const oSGrid &grid)
     QStringList result;
     for (const clsItemColumn &column : itemsOf(grid).columns) {
         const char *place = column.alignment == clsGridAlignment::Left ? "left"
-            : column.alignment == clsGridAlignment::Right             ? "right"
-                                                                      : "centre";
+            : column.alignment == clsGridAlignment::Right              ? "right"
+                                                                       : "centre";
         result << QStringLiteral("%1 %2 %3 %4")
                       .arg(QString::fromUtf8(column.caption), QString::fromUtf8(column.property),
                           QString::number(column.width), QString::fromUtf8(place));

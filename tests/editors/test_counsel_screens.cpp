@@ -91,8 +91,8 @@ TEST_F(CounselScreens, HaveOneFrameAndTheirButtons)
 TEST_F(CounselScreens, TheListsShowTheirColumns)
 {
     const auto first = created(QStringLiteral("Counsel"));
-    EXPECT_EQ((QStringList {QStringLiteral("Name Name 40 left"),
-                  QStringLiteral("Account Number AccountNumber 40 left"), QStringLiteral("VAT VAT 20 centre")}),
+    EXPECT_EQ((QStringList {QStringLiteral("Name Name 40 left"), QStringLiteral("Account Number AccountNumber 40 left"),
+                  QStringLiteral("VAT VAT 20 centre")}),
         captionsOf(counsel(*first)));
     EXPECT_TRUE(counsel(*first).Orderable());
     const auto second = created(QStringLiteral("Enhancements"));

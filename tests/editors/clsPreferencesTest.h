@@ -8,9 +8,9 @@
 #include "shell/mdGetResourceData.h"
 #include "shell/mdProgramFolder.h"
 #include "tests/editors/clsScreenTest.h"
+#include "tests/editors/mdOnceOpened.h"
 
 #include <QDir>
-#include <QTimer>
 
 /// A test of the preferences' screens: a program folder with a fresh preferences file, which has been loaded.
 class clsPreferencesTest : public clsScreenTest {
@@ -74,34 +74,6 @@ protected:
         screen->Initialise(item);
         show(*screen);
         return screen;
-    }
-
-    /// Does something on the window of that name as soon as it is open over the others, and leaves it closed.
-    static void onceOpened(const char *name, std::function<void(frmSection &)> use)
-    {
-        auto *watch = new QTimer(qApp);
-        QObject::connect(watch, &QTimer::timeout, watch, [watch, name, use, asked = 0]() mutable {
-            auto *modal = qobject_cast<frmSection *>(QApplication::activeModalWidget());
-            const bool open = modal && modal->objectName() == QLatin1String(name) && modal->isVisible();
-            if (!open && ++asked < 1000)
-                return;
-            watch->stop();
-            watch->deleteLater();
-            if (!open) {
-                ADD_FAILURE() << name << " isn't opened";
-                return;
-            }
-            // The first window below may still be about to be told that it is the active one.
-            QCoreApplication::processEvents();
-            modal->activateWindow();
-            EXPECT_TRUE(QTest::qWaitForWindowActive(modal));
-            use(*modal);
-            if (modal->isVisible()) {
-                ADD_FAILURE() << name << " stays open";
-                modal->close();
-            }
-        });
-        watch->start(5);
     }
 
     static QString text(const frmSection &screen, const char *box) { return mdTextOf(screen.Box(box)); }

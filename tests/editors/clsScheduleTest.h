@@ -38,26 +38,6 @@ protected:
     {
         focusPart(screen.Box(name))->setFocus(Qt::TabFocusReason);
     }
-    /// The rows of a grid as it shows them, the cells of a row with a bar between.
-    static QStringList rows(const oSGrid &grid)
-    {
-        const auto &cells = *grid.findChild<QAbstractItemView *>()->model();
-        QStringList result;
-        for (int row = 0; row < cells.rowCount(); ++row) {
-            QStringList texts;
-            for (int column = 0; column < cells.columnCount(); ++column)
-                texts << cells.index(row, column).data(Qt::DisplayRole).toString();
-            result << texts.join(u'|');
-        }
-        return result;
-    }
-    static QAction &entry(const frmSection &screen, const char *name)
-    {
-        auto *found = screen.findChild<QAction *>(QString::fromUtf8(name));
-        if (!found)
-            throw std::runtime_error(name);
-        return *found;
-    }
     /// The messages so far, which were one of that title and text, or none at all.
     void expectMessage(
         const char *title, const char *text, clsUserInterface::Buttons buttons = clsUserInterface::OKOnly)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/oCheckBox.h"
+#include "controls/oSGrid.h"
 #include "editors/frmSection.h"
 #include "editors/mdSections.h"
 #include "editors/mdUnloadAndDummyTabClick.h"
@@ -11,11 +12,14 @@
 #include "tests/support/mdExpectError.h"
 #include "tests/support/mdTestPrinting.h"
 
+#include <QAbstractItemView>
+#include <QAction>
 #include <QApplication>
 #include <QTest>
 
 #include <functional>
 #include <memory>
+#include <stdexcept>
 
 /// A test of screens: a new claim, a scripted user, and windows that are shown without waiting for them to close.
 class clsScreenTest : public clsFolderTest {
@@ -55,6 +59,27 @@ protected:
         while (part->focusProxy())
             part = part->focusProxy();
         return part;
+    }
+    /// The rows of a grid as it shows them, the cells of a row with a bar between.
+    static QStringList rows(const oSGrid &grid)
+    {
+        const auto &cells = *grid.findChild<QAbstractItemView *>()->model();
+        QStringList result;
+        for (int row = 0; row < cells.rowCount(); ++row) {
+            QStringList texts;
+            for (int column = 0; column < cells.columnCount(); ++column)
+                texts << cells.index(row, column).data(Qt::DisplayRole).toString();
+            result << texts.join(u'|');
+        }
+        return result;
+    }
+    /// An entry of a menu of the screen.
+    static QAction &entry(const frmSection &screen, const char *name)
+    {
+        auto *found = screen.findChild<QAction *>(QString::fromUtf8(name));
+        if (!found)
+            throw std::runtime_error(name);
+        return *found;
     }
     /// Types a text over what stands in a box.
     static void type(QWidget &box, const QString &text)

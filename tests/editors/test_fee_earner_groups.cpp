@@ -15,26 +15,6 @@ protected:
     static oSGrid &groups(const frmSection &screen) { return screen.Box<oSGrid>("sgFeeEarnerGroups"); }
     static oSGrid &feeEarners(const frmSection &screen) { return screen.Box<oSGrid>("sgFeeEarners"); }
     static bool canAddFeeEarner(const frmSection &screen) { return screen.Box("cmdAddFeeEarner").isEnabled(); }
-    /// The rows of a grid as it shows them, the cells of a row with a bar between.
-    static QStringList rows(const oSGrid &grid)
-    {
-        const auto &cells = *grid.findChild<QAbstractItemView *>()->model();
-        QStringList result;
-        for (int row = 0; row < cells.rowCount(); ++row) {
-            QStringList texts;
-            for (int column = 0; column < cells.columnCount(); ++column)
-                texts << cells.index(row, column).data(Qt::DisplayRole).toString();
-            result << texts.join(u'|');
-        }
-        return result;
-    }
-    static QAction &entry(const frmSection &screen, const char *name)
-    {
-        auto *found = screen.findChild<QAction *>(QString::fromUtf8(name));
-        if (!found)
-            throw std::runtime_error(name);
-        return *found;
-    }
     void expectMessage(const char *title, const QString &text, clsUserInterface::Buttons buttons)
     {
         ASSERT_EQ(1u, user.messages.size());

@@ -7,7 +7,7 @@
 #include "editors/frmSection.h"
 #include "editors/mdScreenControls.h"
 #include "tests/editors/clsModalTest.h"
-#include "tests/editors/clsPreferencesTest.h"
+#include "tests/editors/mdOnceOpened.h"
 #include "tests/editors/mdWalkedScreens.h"
 #include "tests/window/clsMainWindowTest.h"
 #include "tests/window/mdEveryFieldTables.h"
@@ -80,9 +80,6 @@ private:
         using clsModalTest::press;
         using clsModalTest::type;
     };
-    struct Watch : clsPreferencesTest {
-        using clsPreferencesTest::onceOpened;
-    };
 
     static clsExpectedScreen screenOf(const char *section, const char *name)
     {
@@ -98,7 +95,7 @@ private:
     {
         QWidget *below = QApplication::activeWindow();
         const auto used = std::make_shared<bool>(false);
-        Watch::onceOpened(name, [used, use](frmSection &screen) {
+        onceOpened(name, [used, use](frmSection &screen) {
             *used = true;
             use(screen);
         });

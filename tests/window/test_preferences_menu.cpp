@@ -5,10 +5,10 @@
 #include "controls/oSpellText.h"
 #include "editors/frmSection.h"
 #include "preview/oPreviewGrid.h"
+#include "tests/editors/mdOnceOpened.h"
 #include "tests/window/clsMainWindowTest.h"
 
 #include <QMenu>
-#include <QTimer>
 
 #include <functional>
 
@@ -18,31 +18,13 @@ namespace {
 
 class PreferencesMenu : public clsMainWindowTest {
 protected:
-    /// Does something on the screen of that name as soon as it is open over the others.
+    /// The same, and notes that the screen was opened.
     void onceOpened(const char *name, std::function<void(frmSection &)> use)
     {
-        auto *watch = new QTimer(window.get());
-        QObject::connect(watch, &QTimer::timeout, watch, [this, watch, name, use, asked = 0]() mutable {
-            auto *modal = qobject_cast<frmSection *>(QApplication::activeModalWidget());
-            const bool open = modal && modal->objectName() == QLatin1String(name) && modal->isVisible();
-            if (!open && ++asked < 1000)
-                return;
-            watch->stop();
-            if (!open) {
-                ADD_FAILURE() << name << " isn't opened";
-                return;
-            }
+        ::onceOpened(name, [this, name, use = std::move(use)](frmSection &screen) {
             opened << QString::fromLatin1(name);
-            QCoreApplication::processEvents();
-            modal->activateWindow();
-            EXPECT_TRUE(QTest::qWaitForWindowActive(modal));
-            use(*modal);
-            if (modal->isVisible()) {
-                ADD_FAILURE() << name << " stays open";
-                modal->close();
-            }
+            use(screen);
         });
-        watch->start(5);
     }
     static void press(const frmSection &screen, const char *button)
     {

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "editors/frmSection.h"
+
+#include <QApplication>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+/// Does something on the window of that name as soon as it is open over the others, and leaves it closed.
+inline void onceOpened(const char *name, std::function<void(frmSection &)> use)
+{
+    auto *watch = new QTimer(qApp);
+    QObject::connect(watch, &QTimer::timeout, watch, [watch, name, use, asked = 0]() mutable {
+        auto *modal = qobject_cast<frmSection *>(QApplication::activeModalWidget());
+        const bool open = modal && modal->objectName() == QLatin1String(name) && modal->isVisible();
+        if (!open && ++asked < 1000)
+            return;
+        watch->stop();
+        watch->deleteLater();
+        if (!open) {
+            ADD_FAILURE() << name << " isn't opened";
+            return;
+        }
+        // The first window below may still be about to be told that it is the active one.
+        QCoreApplication::processEvents();
+        modal->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(modal));
+        use(*modal);
+        if (modal->isVisible()) {
+            ADD_FAILURE() << name << " stays open";
+            modal->close();
+        }
+    });
+    watch->start(5);
+}

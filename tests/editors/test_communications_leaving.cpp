@@ -138,21 +138,29 @@ TEST_F(CommunicationsLeaving, OnANarrowWindowTheJumpsAreInTheirMenuOnly)
     EXPECT_EQ(QStringLiteral("Disbursements"), target);
 }
 
-TEST_F(CommunicationsLeaving, TheBoxesStandBesideTheGridOrBelowItAndNothingIsCut)
+TEST_F(CommunicationsLeaving, TheBoxesStandBelowTheGridInOneLineWhereThereIsRoomAndNothingIsCut)
 {
     openWith(20);
     const auto place = [this](const char *name) {
         const QWidget &box = screen->Box(name);
         return QRect(box.mapTo(screen.get(), QPoint()), box.size());
     };
-    for (const QSize size : {QSize(1100, 680), QSize(1284, 722), QSize(902, 507), QSize(760, 640)}) {
+    for (const QSize size : {QSize(1100, 680), QSize(1284, 722), QSize(902, 507), QSize(620, 640)}) {
         screen->resize(size);
         QTest::qWait(20);
-        const bool wide = size.width() >= 1100;
-        EXPECT_EQ(wide, place("oCallsEnhancement").left() > place("sgCommunications").right()) << size.width();
-        EXPECT_EQ(!wide, place("oCallsEnhancement").top() > place("sgCommunications").bottom()) << size.width();
-        EXPECT_GT(place("oLettersInEnhancement").top(), place("oCallsEnhancement").bottom());
-        EXPECT_GT(place("oLettersOutEnhancement").top(), place("oLettersInEnhancement").bottom());
+        const QRect calls = place("oCallsEnhancement");
+        const QRect lettersIn = place("oLettersInEnhancement");
+        const QRect lettersOut = place("oLettersOutEnhancement");
+        EXPECT_GT(calls.top(), place("sgCommunications").bottom()) << size.width();
+        if (size.width() >= 902) {
+            EXPECT_EQ(calls.top(), lettersIn.top()) << size.width();
+            EXPECT_EQ(calls.top(), lettersOut.top()) << size.width();
+            EXPECT_GT(lettersIn.left(), calls.right()) << size.width();
+            EXPECT_GT(lettersOut.left(), lettersIn.right()) << size.width();
+        } else {
+            EXPECT_GT(lettersIn.top(), calls.bottom()) << size.width();
+            EXPECT_GT(lettersOut.top(), lettersIn.bottom()) << size.width();
+        }
         const QScrollArea &page = *screen->findChild<QScrollArea *>();
         EXPECT_EQ(0, page.horizontalScrollBar()->maximum());
         EXPECT_LE(page.widget()->width(), page.viewport()->width());
@@ -161,7 +169,7 @@ TEST_F(CommunicationsLeaving, TheBoxesStandBesideTheGridOrBelowItAndNothingIsCut
             EXPECT_GE(field.control->height(), field.control->minimumSizeHint().height()) << size.width();
         }
         // With everything in sight there is no need to scroll.
-        if (wide) {
+        if (size.height() >= 680) {
             EXPECT_EQ(0, page.verticalScrollBar()->maximum()) << size.height();
         }
     }

@@ -1,0 +1,229 @@
+// A document under the operations of the export. The input is a text in pieces, parted by form feeds, which no XML can
+// hold: the operations, a line for each; the body of the document; the body of one that is appended to it; and, where
+// wanted, the styles, the lists and the header of either.
+
+#include "tests/fuzz/mdFuzz.h"
+#include "tests/fuzz/mdFuzzXml.h"
+#include "tests/support/clsWordLint.h"
+#include "tests/wordexport/clsTestDocument.h"
+#include "wordexport/clsMSWord.h"
+
+#include <QRegularExpression>
+
+#include <optional>
+
+extern "C" size_t LLVMFuzzerMutate(uint8_t *data, size_t size, size_t longest);
+
+namespace {
+
+using Error = clsRunTimeError;
+
+constexpr char Parting = '\f';
+
+enum Piece { Operations, Body, SecondBody, Styles, Lists, Header, Pieces };
+
+clsFuzzUser &user()
+{
+    static clsFuzzUser user;
+    return user;
+}
+
+std::vector<std::string> piecesOf(const std::string &input)
+{
+    std::vector<std::string> pieces;
+    size_t from = 0;
+    while (pieces.size() + 1 < Pieces) {
+        const size_t end = input.find(Parting, from);
+        pieces.push_back(input.substr(from, end - from));
+        if (end == std::string::npos)
+            break;
+        from = end + 1;
+    }
+    if (pieces.size() + 1 == Pieces)
+        pieces.push_back(input.substr(from));
+    pieces.resize(Pieces);
+    return pieces;
+}
+
+clsTestDocument documentOf(const std::vector<std::string> &pieces, Piece body)
+{
+    clsTestDocument document(QString::fromStdString(pieces[body]));
+    document.styles = QString::fromStdString(pieces[Styles]);
+    document.numbering = QString::fromStdString(pieces[Lists]);
+    const QString type = QStringLiteral("application/vnd.openxmlformats-officedocument.wordprocessingml.header+xml");
+    if (!pieces[Header].empty())
+        document.parts.push_back(
+            {QStringLiteral("word/header1.xml"), clsTestDocument::root("w:hdr", QString::fromStdString(pieces[Header])),
+                type, QStringLiteral("header"), QStringLiteral("rId3")});
+    if (pieces[body].find("rId4") != std::string::npos)
+        document.parts.push_back({QStringLiteral("word/media/image1.png"), "picture", QStringLiteral("image/png"),
+            QStringLiteral("image"), QStringLiteral("rId4")});
+    document.externalLinks << QStringLiteral("https://example.org/");
+    return document;
+}
+
+/// Whether a document is sound by the rules that no schema sees.
+bool isSound(const QString &path, QStringList *problems = nullptr)
+{
+    try {
+        const QStringList found = clsWordLint::problemsOf(path);
+        if (problems)
+            *problems = found;
+        return found.isEmpty();
+    } catch (const clsRunTimeError &error) {
+        mdFuzzRequire(error.number() == Error::InvalidFileFormat, "a damaged document is told in one way");
+        if (problems)
+            *problems = QStringList(error.description());
+        return false;
+    }
+}
+
+/// One operation: a letter, and what it takes.
+void operate(clsMSWord &word, const QString &line, const QString &second)
+{
+    const QString rest = line.mid(2);
+    const int number = line.size() > 1 ? line[1].unicode() % 8 : 0;
+    const bool tick = number & 1;
+    const bool money = number & 2;
+    const bool blankZero = number & 4;
+    switch (line[0].unicode()) {
+    case 'r': word.DoReplace(rest.section(u'|', 0, 0), rest.section(u'|', 1), tick, money, blankZero); break;
+    case 't': word.SetText(QString(rest), tick, money, false, blankZero); break;
+    case 'd': word.MoveCursorDown(number); break;
+    case 'c': word.MoveCursorRight(number); break;
+    case 's': word.MoveCursorToStartOfRow(); break;
+    case 'n': word.MoveSursorToNextLine(); break;
+    case 'l': word.NextLine(); break;
+    case 'T': word.NextColumn(); break;
+    case 'm': word.MoveColumns(number); break;
+    case 'p': word.PageBreak(); break;
+    case 'b': word.TypeBackSpace(); break;
+    case 'i': word.InsertFileAtEnd(second); break;
+    default: break;
+    }
+}
+
+QString textOf(const QString &path)
+{
+    clsWordPackage package = clsWordPackage::fromFile(path);
+    QString text;
+    appendPlain(package.partXml(package.mainPart()).document_element().child("w:body"), text);
+    return text;
+}
+
+/// What was written must be readable, and written again as it is.
+void attackRoundTrip(const QString &path)
+{
+    const QByteArray saved = mdFuzzBytesOf(path);
+    clsWordPackage package = clsWordPackage::fromFile(path);
+    mdFuzzSame(saved, package.toBytes(clsZipPackage::Stored), "a document that was saved is saved again as it is");
+    const int main = package.mainPart();
+    const QByteArray text = package.partBytes(main);
+    std::ostringstream out;
+    package.partXml(main).save(out, "", pugi::format_raw, pugi::encoding_utf8);
+    mdFuzzSame(text, QByteArray::fromStdString(out.str()), "what was written is read as it was meant");
+}
+
+/// The number of the error that the user was told of, 0 for none.
+int errorTold()
+{
+    mdFuzzRequire(user().messages <= 1, "a failure is told once");
+    if (user().messages == 0)
+        return 0;
+    static const QRegularExpression number(QStringLiteral("Error Number: (\\d+)"));
+    return number.match(user().lastMessage).captured(1).toInt();
+}
+
+void attackDocument(const QString &path, const QString &second, const QString &operations, bool soundBefore)
+{
+    const QString mark = QStringLiteral("the mark of the attack");
+    clsMSWord word;
+    word.OpenDocument(path);
+    if (!word.isOpen()) {
+        mdFuzzRequire(errorTold() == Error::InvalidFileFormat, "a damaged document is told in one way");
+        return;
+    }
+    constexpr int Most = 24;
+    int count = 0;
+    for (const QString &line : operations.split(u'\n'))
+        if (!line.isEmpty() && ++count <= Most)
+            mdFuzzErrorOf({Error::InvalidProcedureCall}, "only a cursor without a cell to go to raises an error",
+                [&] { operate(word, line, second); });
+    const int told = errorTold();
+    mdFuzzRequire(told == 0 || told == Error::TypeMismatch || told == Error::InvalidFileFormat,
+        "an operation fails on a damaged document or an amount that is none");
+    word.DoReplace(QStringLiteral("{Mark}"), mark, false, false, false);
+    word.SaveAndClose();
+    mdFuzzRequire(!word.isOpen(), "a document can be saved");
+    mdFuzzRequire(errorTold() == told, "a plain text can always be typed");
+
+    attackRoundTrip(path);
+    mdFuzzRequire(textOf(path).contains(mark), "what was typed is in the document");
+    QStringList problems;
+    if (soundBefore && !isSound(path, &problems))
+        mdFuzzFail("a sound document stays sound", problems.join(u'\n'));
+}
+
+const clsFuzzWords &words()
+{
+    static const clsFuzzWords words {
+        {"w:p", "w:r", "w:t", "w:tbl", "w:tr", "w:tc", "w:pPr", "w:rPr", "w:tcPr", "w:trPr", "w:tblPr", "w:tblGrid",
+            "w:gridCol", "w:gridSpan", "w:vMerge", "w:b", "w:pStyle", "w:rStyle", "w:tblStyle", "w:numPr", "w:numId",
+            "w:ilvl", "w:sectPr", "w:headerReference", "w:footerReference", "w:pgSz", "w:pgMar", "w:type", "w:titlePg",
+            "w:br", "w:tab", "w:sym", "w:cr", "w:noBreakHyphen", "w:sdt", "w:sdtPr", "w:sdtContent", "w:id",
+            "w:hyperlink", "w:ins", "w:del", "w:delText", "w:fldSimple", "w:fldChar", "w:instrText", "w:bookmarkStart",
+            "w:bookmarkEnd", "w:smartTag", "w:customXml", "w:drawing", "w:pict", "w:proofErr", "w:style", "w:name",
+            "w:basedOn", "w:next", "w:link", "w:docDefaults", "w:rPrDefault", "w:num", "w:abstractNum",
+            "w:abstractNumId", "w:lvl", "w:lvlOverride", "w:rFonts", "w:moveFrom", "w:moveTo", "w:commentReference",
+            "w:footnoteReference", "wp:docPr", "w:gridBefore"},
+        {"w:val", "w:id", "w:name", "r:id", "r:embed", "w:styleId", "w:type", "w:default", "w:numId", "w:abstractNumId",
+            "w:fldCharType", "w:char", "w:font", "xml:space", "w:ilvl", "id", "mc:Ignorable", "xmlns:x", "w:anchor"},
+        {"", "0", "1", "2", "3", "-1", "true", "false", "on", "{Name}", "{Mark}", "{", "}", "Name}", "page", "nextPage",
+            "continuous", "even", "first", "default", "restart", "continue", "begin", "separate", "end", "rId1", "rId2",
+            "rId3", "rId4", "rIdX1", "paragraph", "character", "table", "numbering", "Normal", "Strong", "a b", " ",
+            "preserve", "F0FE", "Wingdings", "2147483647", "x", "\n", "\t"},
+    };
+    return words;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int *, char ***)
+{
+    static const clsUserInterfaceScope scope(user());
+    return 0;
+}
+
+void mdFuzzAttack(const uint8_t *data, size_t size)
+{
+    const auto pieces = piecesOf(std::string(reinterpret_cast<const char *>(data), size));
+    const QString path
+        = mdFuzzPut(QStringLiteral("Sheet.doc"), documentOf(pieces, Body).zip().toBytes(clsZipPackage::Stored));
+    const QString second
+        = mdFuzzPut(QStringLiteral("Second.doc"), documentOf(pieces, SecondBody).zip().toBytes(clsZipPackage::Stored));
+    user().messages = 0;
+    attackDocument(path, second, QString::fromStdString(pieces[Operations]), isSound(path) && isSound(second));
+}
+
+extern "C" size_t LLVMFuzzerCustomMutator(uint8_t *data, size_t size, size_t longest, unsigned seed)
+{
+    constexpr unsigned WholeOnceIn = 16;
+    if (seed % WholeOnceIn == 0)
+        return LLVMFuzzerMutate(data, size, longest);
+    auto pieces = piecesOf(std::string(reinterpret_cast<const char *>(data), size));
+    std::string &piece = pieces[seed / WholeOnceIn % Pieces];
+    const size_t room = longest - std::min(longest, size + Pieces) + piece.size();
+    if (&piece == &pieces[Operations]) {
+        const size_t old = piece.size();
+        piece.resize(std::max(room, old));
+        piece.resize(LLVMFuzzerMutate(reinterpret_cast<uint8_t *>(piece.data()), old, piece.size()));
+    } else {
+        piece = mdFuzzChangedXml(piece, room, seed / WholeOnceIn / Pieces, words());
+    }
+    std::string changed;
+    for (size_t i = 0; i < pieces.size(); ++i)
+        changed += (i ? std::string(1, Parting) : std::string()) + pieces[i];
+    const size_t newSize = std::min(changed.size(), longest);
+    std::memcpy(data, changed.data(), newSize);
+    return newSize;
+}

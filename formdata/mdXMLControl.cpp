@@ -2,7 +2,9 @@
 
 #include "formdata/mdURLEncode.h"
 #include "formdata/mdXMLReplaceProblemCharacters.h"
+#include "shell/mdCodePage.h"
 
+#include <algorithm>
 #include <cstring>
 #include <string>
 
@@ -41,6 +43,28 @@ public:
     std::string text;
     void write(const void *data, size_t size) override { text.append(static_cast<const char *>(data), size); }
 };
+
+/// True for a character that the file can't hold as itself: one outside its code page, and a carriage return, which
+/// every parser reads as a line feed. This program writes neither, but another hand may have, as a reference.
+bool needsReference(QChar c)
+{
+    const char16_t code = c.unicode();
+    return code == u'\r' || ((code > 0xFF || (code >= 0x80 && code < 0xA0)) && !mdInCodePage(c));
+}
+
+/// The text with those characters as references again.
+QString withReferences(const QString &text)
+{
+    if (std::none_of(text.begin(), text.end(), needsReference))
+        return text;
+    QString written;
+    for (const uint code : text.toUcs4())
+        if (QChar::requiresSurrogates(code) || needsReference(QChar(code)))
+            written += QStringLiteral("&#%1;").arg(code);
+        else
+            written += QChar(code);
+    return written;
+}
 
 /// True when the content reads as it stands: plain ASCII without an encoded character.
 bool readsAsItStands(const char *content)
@@ -92,5 +116,5 @@ QString XMLElementOutput(pugi::xml_node node)
 {
     TextWriter writer;
     node.print(writer, "", pugi::format_raw | pugi::format_no_declaration, pugi::encoding_utf8);
-    return QString::fromUtf8(writer.text.data(), qsizetype(writer.text.size()));
+    return withReferences(QString::fromUtf8(writer.text.data(), qsizetype(writer.text.size())));
 }

@@ -35,5 +35,5 @@ QString XMLDecodeText(const char *content);
 clsXMLElement XMLLoadElement(const QString &xml, const char *name);
 
 /// The serialisation of an element with its descendants, on one line: the same tree gives the same text, which is
-/// what tells a changed claim from an unchanged one.
+/// what tells a changed claim from an unchanged one. What the code page of a file lacks stands in it as a reference.
 QString XMLElementOutput(pugi::xml_node node);

@@ -3,6 +3,7 @@
 // wanted, the styles, the lists and the header of either.
 
 #include "tests/fuzz/mdFuzz.h"
+#include "tests/fuzz/mdFuzzSchema.h"
 #include "tests/fuzz/mdFuzzXml.h"
 #include "tests/support/clsWordLint.h"
 #include "tests/wordexport/clsTestDocument.h"
@@ -62,20 +63,19 @@ clsTestDocument documentOf(const std::vector<std::string> &pieces, Piece body)
     return document;
 }
 
-/// Whether a document is sound by the rules that no schema sees.
-bool isSound(const QString &path, QStringList *problems = nullptr)
+/// What is wrong with a document, by the little of the schema that counts here and by the rules that no schema sees.
+QStringList problemsOf(const QString &path)
 {
-    try {
-        const QStringList found = clsWordLint::problemsOf(path);
-        if (problems)
-            *problems = found;
-        return found.isEmpty();
-    } catch (const clsRunTimeError &error) {
-        mdFuzzRequire(error.number() == Error::InvalidFileFormat, "a damaged document is told in one way");
-        if (problems)
-            *problems = QStringList(error.description());
-        return false;
-    }
+    QStringList problems;
+    const int error = mdFuzzErrorOf({Error::InvalidFileFormat}, "a damaged document is told in one way", [&] {
+        clsWordPackage package = clsWordPackage::fromFile(path);
+        if (!mdFuzzFitsSchema(package.mainRoot().child("w:body")))
+            problems << QStringLiteral("an element out of its place");
+        problems << clsWordLint::problemsOf(std::move(package));
+    });
+    if (error)
+        problems << QStringLiteral("damaged");
+    return problems;
 }
 
 /// One operation: a letter, and what it takes.
@@ -159,8 +159,7 @@ void attackDocument(const QString &path, const QString &second, const QString &o
 
     attackRoundTrip(path);
     mdFuzzRequire(textOf(path).contains(mark), "what was typed is in the document");
-    QStringList problems;
-    if (soundBefore && !isSound(path, &problems))
+    if (const QStringList problems = problemsOf(path); soundBefore && !problems.isEmpty())
         mdFuzzFail("a sound document stays sound", problems.join(u'\n'));
 }
 
@@ -202,7 +201,8 @@ void mdFuzzAttack(const uint8_t *data, size_t size)
     const QString second
         = mdFuzzPut(QStringLiteral("Second.doc"), documentOf(pieces, SecondBody).zip().toBytes(clsZipPackage::Stored));
     user().messages = 0;
-    attackDocument(path, second, QString::fromStdString(pieces[Operations]), isSound(path) && isSound(second));
+    const bool sound = problemsOf(path).isEmpty() && problemsOf(second).isEmpty();
+    attackDocument(path, second, QString::fromStdString(pieces[Operations]), sound);
 }
 
 extern "C" size_t LLVMFuzzerCustomMutator(uint8_t *data, size_t size, size_t longest, unsigned seed)

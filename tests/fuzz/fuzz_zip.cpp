@@ -90,6 +90,8 @@ void mdFuzzAttack(const uint8_t *data, size_t size)
     if (mdFuzzErrorOf({Error::InvalidFileFormat}, "a damaged package is told in one way",
             [&] { package = clsZipPackage::fromBytes(bytes, ShownName); }))
         return;
+    if (package->entries().empty())
+        return; // one without parts is no document, and nobody writes it
     attackContainer(*package);
     attackDocument(*package);
 }

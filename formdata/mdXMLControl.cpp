@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstring>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -33,9 +34,16 @@ bool hasContentBesideRoot(const pugi::xml_document &document, pugi::xml_node roo
     return false;
 }
 
-class DepthCheck final : public pugi::xml_tree_walker {
+/// Walks a tree that is not too deep, and finds the texts of nothing but blanks.
+class TreeCheck final : public pugi::xml_tree_walker {
 public:
-    bool for_each(pugi::xml_node &) override { return depth() < DeepestNesting; }
+    std::vector<pugi::xml_node> blanks;
+    bool for_each(pugi::xml_node &node) override
+    {
+        if (node.type() == pugi::node_pcdata && node.value()[std::strspn(node.value(), " \t\r\n")] == '\0')
+            blanks.push_back(node);
+        return depth() < DeepestNesting;
+    }
 };
 
 class TextWriter final : public pugi::xml_writer {
@@ -106,9 +114,13 @@ clsXMLElement XMLLoadElement(const QString &xml, const char *name)
     if (!document->load_buffer(utf8.constData(), size_t(utf8.size()), ParseOptions, pugi::encoding_utf8))
         return {};
     const pugi::xml_node root = document->document_element();
-    DepthCheck depthCheck;
-    if (std::strcmp(root.name(), name) != 0 || hasContentBesideRoot(*document, root) || !document->traverse(depthCheck))
+    TreeCheck check;
+    if (std::strcmp(root.name(), name) != 0 || hasContentBesideRoot(*document, root) || !document->traverse(check))
         return {};
+    // The parser has dropped blanks between tags already, but not those written as references: a save writes them as
+    // blanks, and they would be gone only when that is read.
+    for (const pugi::xml_node &blank : check.blanks)
+        blank.parent().remove_child(blank);
     return {std::move(document), root};
 }
 

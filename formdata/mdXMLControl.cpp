@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstring>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -60,17 +61,41 @@ bool needsReference(QChar c)
     return code == u'\r' || ((code > 0xFF || (code >= 0x80 && code < 0xA0)) && !mdInCodePage(c));
 }
 
+/// Where the piece of a text ends in which no reference is one: a comment, an instruction or raw characters. 0 where no
+/// such piece begins.
+qsizetype sizeOfRawPiece(QStringView text)
+{
+    constexpr std::pair<QLatin1String, QLatin1String> Pieces[] = {
+        {QLatin1String("<!--"), QLatin1String("-->")},
+        {QLatin1String("<?"), QLatin1String("?>")},
+        {QLatin1String("<![CDATA["), QLatin1String("]]>")},
+    };
+    for (const auto &[begin, end] : Pieces)
+        if (text.startsWith(begin))
+            return text.indexOf(end, begin.size()) + end.size();
+    return 0;
+}
+
 /// The text with those characters as references again.
 QString withReferences(const QString &text)
 {
     if (std::none_of(text.begin(), text.end(), needsReference))
         return text;
     QString written;
-    for (const uint code : text.toUcs4())
-        if (QChar::requiresSurrogates(code) || needsReference(QChar(code)))
+    for (qsizetype at = 0; at < text.size();) {
+        if (const qsizetype raw = sizeOfRawPiece(QStringView(text).sliced(at)); raw > 0) {
+            written += QStringView(text).sliced(at, raw);
+            at += raw;
+            continue;
+        }
+        const bool pair = text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
+        const uint code = pair ? QChar::surrogateToUcs4(text[at], text[at + 1]) : text[at].unicode();
+        if (needsReference(text[at]))
             written += QStringLiteral("&#%1;").arg(code);
         else
-            written += QChar(code);
+            written += text[at];
+        at += pair ? 2 : 1;
+    }
     return written;
 }
 

@@ -113,9 +113,12 @@ TEST(XMLElementOutput, OfNothingIsEmpty)
 
 TEST(XMLElementOutput, WhatTheCodePageLacksStaysAReference)
 {
-    // No save of ours writes such characters, but a file by another hand may hold them: a save would make question marks
-    // of the first, and the next parser a line feed of the last.
+    // No save of ours writes such characters, but a file by another hand may hold them: a save would make question
+    // marks of the first, and the next parser a line feed of the last.
     EXPECT_EQ(QString::fromUtf8("<root>\u20ac&#20013;&#128512;&#128;&#13;\n</root>"),
         roundTrip("<root>&#8364;&#20013;&#x1F600;&#128;&#13;&#10;</root>"));
     EXPECT_EQ(QStringLiteral("<root a=\"&#20013;&#13;\"/>"), roundTrip("<root a=\"&#20013;&#13;\"/>"));
+    // In these a reference would be no reference.
+    const char *raw = "<root><?note a\r\nb?><!-- <? --><![CDATA[<!--]]><a>&#13;</a>x&#13;</root>";
+    EXPECT_EQ(QStringLiteral("<root><?note a\r\nb?><!-- <? --><![CDATA[<!--]]><a/>x&#13;</root>"), roundTrip(raw));
 }

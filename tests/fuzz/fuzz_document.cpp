@@ -111,6 +111,20 @@ QString textOf(const QString &path)
     return text;
 }
 
+/// The XML of a part, but for what two ways of writing the same may differ in: a text of nothing, which a reference to
+/// the character 0 leaves, and a carriage return that was a reference, which is a blank like the line feed.
+QByteArray withoutOddities(QByteArray xml)
+{
+    xml.replace('\r', '\n');
+    for (qsizetype at = xml.indexOf("></"); at >= 0; at = xml.indexOf("></", at + 1)) {
+        const qsizetype start = xml.lastIndexOf('<', at);
+        const qsizetype end = xml.indexOf('>', at + 1);
+        if (xml[start + 1] != '/' && xml[at - 1] != '/')
+            xml.replace(at, end - at + 1, "/>");
+    }
+    return xml;
+}
+
 /// What was written must be readable, and written again as it is.
 void attackRoundTrip(const QString &path)
 {
@@ -121,7 +135,8 @@ void attackRoundTrip(const QString &path)
     const QByteArray text = package.partBytes(main);
     std::ostringstream out;
     package.partXml(main).save(out, "", pugi::format_raw, pugi::encoding_utf8);
-    mdFuzzSame(text, QByteArray::fromStdString(out.str()), "what was written is read as it was meant");
+    mdFuzzSame(withoutOddities(text), withoutOddities(QByteArray::fromStdString(out.str())),
+        "what was written is read as it was meant");
 }
 
 /// The number of the error that the user was told of, 0 for none.

@@ -273,17 +273,16 @@ TEST(JoinedStyles, AChainOfStylesOfAnyLengthIsNoTrap)
 {
     // Each refers to the one after it. Followed one within the other they would take more room than the stack has.
     constexpr int Length = 20000;
-    for (const char *reference : {"basedOn", "next", "link"}) {
-        QString chain;
-        for (int i = 0; i < Length; ++i)
-            chain += QStringLiteral("<w:style w:type=\"paragraph\" w:styleId=\"S%1\"><w:name w:val=\"S%1\"/>"
-                                    "<w:%2 w:val=\"S%3\"/></w:style>")
-                         .arg(i)
-                         .arg(QLatin1String(reference))
-                         .arg((i + 1) % Length);
-        const clsJoin join({withStyles(p(), NormalStyle.arg(20)), withStyles(styled(QStringLiteral("S0"), {}), chain)});
-        EXPECT_EQ(join.part(QStringLiteral("word/styles.xml")).count(QStringLiteral("<w:style ")), Length + 1);
-    }
+    const char *const references[] = {"basedOn", "next", "link"};
+    QString chain;
+    for (int i = 0; i < Length; ++i)
+        chain += QStringLiteral("<w:style w:type=\"paragraph\" w:styleId=\"S%1\"><w:name w:val=\"S%1\"/>"
+                                "<w:%2 w:val=\"S%3\"/></w:style>")
+                     .arg(i)
+                     .arg(QLatin1String(references[i < Length / 2 ? 0 : i % 3]))
+                     .arg((i + 1) % Length);
+    const clsJoin join({withStyles(p(), NormalStyle.arg(20)), withStyles(styled(QStringLiteral("S0"), {}), chain)});
+    EXPECT_EQ(join.part(QStringLiteral("word/styles.xml")).count(QStringLiteral("<w:style ")), Length + 1);
 }
 
 const QString Numbering = QStringLiteral("<w:abstractNum w:abstractNumId=\"0\"><w:nsid w:val=\"00000001\"/><w:lvl "
@@ -561,6 +560,26 @@ TEST(InsertFileAtEnd, ATextThatLooksLikeTheLayersOwnMarksDoesNoHarm)
     const clsJoin join({made, made, made});
     EXPECT_EQ(join.body().count(QStringLiteral("<?settled-?>")), 1); // that of the first; an appended one is no text
     EXPECT_EQ(join.text(), QStringLiteral("a/a/a/"));
+}
+
+TEST(InsertFileAtEnd, ADocumentNestedBeyondAllMeasureIsRefused)
+{
+    // Taking it out of the tree again level by level within the level above would need more stack than there is.
+    constexpr int Depth = 300000;
+    const clsTestDocument deep(QStringLiteral("<w:p>").repeated(Depth) + QStringLiteral("</w:p>").repeated(Depth));
+    const clsTestFolder folder;
+    const QString path = folder.write(QStringLiteral("a.doc"), sheet(QStringLiteral("a")));
+    clsScriptedUserInterface user;
+    const clsUserInterfaceScope scope(user);
+    clsMSWord word(clsMSWord::Finished);
+    word.OpenDocument(path);
+    // Stored, since it packs so well that it would be refused for that.
+    word.InsertFileAtEnd(folder.write(QStringLiteral("b.doc"), deep.zip().toBytes(clsZipPackage::Stored)));
+    EXPECT_TRUE(word.sheetLost());
+    ASSERT_EQ(user.messages.size(), 1u);
+    EXPECT_TRUE(user.messages[0].text.contains(QStringLiteral("b.doc is damaged.")));
+    word.SaveAndClose();
+    EXPECT_EQ(bodyXml(path), sheet(QStringLiteral("a")).body);
 }
 
 TEST(InsertFileAtEnd, AFailedOneLeavesTheOnesBeforeAndAfter)

@@ -6,7 +6,7 @@ fuzz_timeout=10
 fuzz_memory=1500
 
 # An attack allocates and frees without end: without these most of its time would go into the bookkeeping of that.
-fuzz_asan=detect_stack_use_after_return=0:malloc_context_size=2:quarantine_size_mb=16
+fuzz_asan=detect_stack_use_after_return=0:malloc_context_size=2:quarantine_size_mb=16:max_malloc_fill_size=256
 
 all_targets() { awk '/^[a-z]/ { print $1 }' tests/fuzz/targets; }
 

@@ -67,12 +67,14 @@ clsTestDocument documentOf(const std::vector<std::string> &pieces, size_t which)
     return document;
 }
 
+const QString Shown = QStringLiteral("attacked");
+
 /// What is wrong with a document, by the little of the schema that counts here and by the rules that no schema sees.
-QStringList problemsOf(const QString &path)
+QStringList problemsOf(const clsZipPackage &zip)
 {
     QStringList problems;
     const int error = mdFuzzErrorOf({Error::InvalidFileFormat}, "a damaged document is told in one way", [&] {
-        clsWordPackage package = clsWordPackage::fromFile(path);
+        clsWordPackage package(zip, Shown);
         if (!mdFuzzFitsSchema(package.mainRoot().child("w:body")))
             problems << QStringLiteral("an element out of its place");
         problems << clsWordLint::problemsOf(std::move(package));
@@ -107,14 +109,6 @@ void operate(clsMSWord &word, const QString &line, const QString &second)
     }
 }
 
-QString textOf(const QString &path)
-{
-    clsWordPackage package = clsWordPackage::fromFile(path);
-    QString text;
-    appendPlain(package.partXml(package.mainPart()).document_element().child("w:body"), text);
-    return text;
-}
-
 /// The XML of a part, but for what two ways of writing the same may differ in: a text of nothing, which a reference to
 /// the character 0 leaves, and a carriage return that was a reference, which is a blank like the line feed.
 QByteArray withoutOddities(QByteArray xml)
@@ -129,20 +123,28 @@ QByteArray withoutOddities(QByteArray xml)
     return xml;
 }
 
-/// What was written must be readable, and written again as it is.
-void attackRoundTrip(const QString &path, const QByteArray &textBefore)
+const QByteArray &mainPartOf(const clsZipPackage &zip)
 {
-    const QByteArray saved = mdFuzzBytesOf(path);
-    clsWordPackage package = clsWordPackage::fromFile(path);
+    return zip.bytes(zip.indexOf(QStringLiteral("word/document.xml")));
+}
+
+/// What was written must be readable, and written again as it is. Returns the text of the document.
+QString attackRoundTrip(const QByteArray &saved, const QByteArray &mainPartBefore)
+{
+    const clsZipPackage zip = clsZipPackage::fromBytes(saved, Shown);
+    clsWordPackage package(zip, Shown);
     mdFuzzSame(saved, package.toBytes(clsZipPackage::Stored), "a document that was saved is saved again as it is");
-    const int main = package.mainPart();
-    const QByteArray text = package.partBytes(main);
-    if (text == textBefore)
-        return; // which this program has not written
-    std::ostringstream out;
-    package.partXml(main).save(out, "", pugi::format_raw, pugi::encoding_utf8);
-    mdFuzzSame(withoutOddities(text), withoutOddities(QByteArray::fromStdString(out.str())),
-        "what was written is read as it was meant");
+    const pugi::xml_document &tree = package.partXml(package.mainPart());
+    // What the program has not written may be written in any way.
+    if (const QByteArray &written = mainPartOf(zip); written != mainPartBefore) {
+        std::ostringstream out;
+        tree.save(out, "", pugi::format_raw, pugi::encoding_utf8);
+        mdFuzzSame(withoutOddities(written), withoutOddities(QByteArray::fromStdString(out.str())),
+            "what was written is read as it was meant");
+    }
+    QString text;
+    appendPlain(package.mainRoot().child("w:body"), text);
+    return text;
 }
 
 /// The number of the error that the user was told of, 0 for none.
@@ -155,17 +157,15 @@ int errorTold()
     return number.match(user().lastMessage).captured(1).toInt();
 }
 
-void attackDocument(const QString &path, const QString &second, const QString &operations, bool soundBefore)
+/// Opens the document, works on it and saves it; false where it can't be opened. `mark` is typed at the end.
+bool operateAll(const QString &path, const QString &second, const QString &operations, const QString &mark)
 {
-    const QString mark = QStringLiteral("the mark of the attack");
     clsMSWord word;
     word.OpenDocument(path);
     if (!word.isOpen()) {
         mdFuzzRequire(errorTold() == Error::InvalidFileFormat, "a damaged document is told in one way");
-        return;
+        return false;
     }
-    const clsWordPackage before = clsWordPackage::fromFile(path);
-    const QByteArray textBefore = before.partBytes(before.mainPart());
     constexpr int Most = 24;
     int count = 0;
     for (const QString &line : operations.split(u'\n'))
@@ -175,17 +175,32 @@ void attackDocument(const QString &path, const QString &second, const QString &o
     const int told = errorTold();
     mdFuzzRequire(told == 0 || told == Error::TypeMismatch || told == Error::InvalidFileFormat,
         "an operation fails on a damaged document or an amount that is none");
-    // Replacing makes one text again of what was appended; without it the pieces are written as they are.
-    const bool marked = !operations.endsWith(u'i');
-    if (marked)
+    if (!mark.isEmpty())
         word.DoReplace(QStringLiteral("{Mark}"), mark, false, false, false);
     word.SaveAndClose();
     mdFuzzRequire(!word.isOpen(), "a document can be saved");
     mdFuzzRequire(errorTold() == told, "a plain text can always be typed");
+    return true;
+}
 
-    attackRoundTrip(path, textBefore);
-    mdFuzzRequire(!marked || textOf(path).contains(mark), "what was typed is in the document");
-    if (const QStringList problems = problemsOf(path); soundBefore && !problems.isEmpty())
+void attackDocument(const clsZipPackage &first, const clsZipPackage &second, const QString &operations)
+{
+    const QString path = mdFuzzPut(QStringLiteral("Sheet.doc"), first.toBytes(clsZipPackage::Stored));
+    const QString secondPath = mdFuzzFolder() + QStringLiteral("/Second.doc");
+    const bool appends = operations.contains(u'i');
+    if (appends)
+        mdFuzzPut(QStringLiteral("Second.doc"), second.toBytes(clsZipPackage::Stored));
+    const bool sound = problemsOf(first).isEmpty() && (!appends || problemsOf(second).isEmpty());
+
+    // Replacing makes one text again of what was appended; without it the pieces are written as they are.
+    const QString mark = operations.endsWith(u'i') ? QString() : QStringLiteral("the mark of the attack");
+    if (!operateAll(path, secondPath, operations, mark))
+        return;
+    const QByteArray saved = mdFuzzBytesOf(path);
+    mdFuzzRequire(attackRoundTrip(saved, mainPartOf(first)).contains(mark), "what was typed is in the document");
+    if (!sound)
+        return;
+    if (const QStringList problems = problemsOf(clsZipPackage::fromBytes(saved, Shown)); !problems.isEmpty())
         mdFuzzFail("a sound document stays sound", problems.join(u'\n'));
 }
 
@@ -222,13 +237,9 @@ extern "C" int LLVMFuzzerInitialize(int *, char ***)
 void mdFuzzAttack(const uint8_t *data, size_t size)
 {
     const auto pieces = piecesOf(std::string(reinterpret_cast<const char *>(data), size));
-    const QString path
-        = mdFuzzPut(QStringLiteral("Sheet.doc"), documentOf(pieces, First).zip().toBytes(clsZipPackage::Stored));
-    const QString second
-        = mdFuzzPut(QStringLiteral("Second.doc"), documentOf(pieces, Second).zip().toBytes(clsZipPackage::Stored));
     user().messages = 0;
-    const bool sound = problemsOf(path).isEmpty() && problemsOf(second).isEmpty();
-    attackDocument(path, second, QString::fromStdString(pieces[Operations]), sound);
+    attackDocument(
+        documentOf(pieces, First).zip(), documentOf(pieces, Second).zip(), QString::fromStdString(pieces[Operations]));
 }
 
 extern "C" size_t LLVMFuzzerCustomMutator(uint8_t *data, size_t size, size_t longest, unsigned seed)

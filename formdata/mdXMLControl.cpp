@@ -19,6 +19,11 @@ constexpr int DeepestNesting = 1000;
 // Tags of a text. A bill of a hundred thousand items has fewer; rubbish that happens to parse would fill the memory.
 constexpr qsizetype MostTags = 4'000'000;
 
+// Items of all lists together, which lie two levels below the root. Each gets all the elements of its template and an
+// object: an empty one of four bytes becomes two thousand.
+constexpr int ItemLevel = 2;
+constexpr int MostItems = 250'000;
+
 // White space between elements carries no meaning and is dropped; comments and instructions are kept, since nothing
 // that the program does not know may be lost by a load and a save. As a fragment, so that text beside the root is seen.
 constexpr unsigned ParseOptions = pugi::parse_default | pugi::parse_comments | pugi::parse_pi | pugi::parse_fragment;
@@ -35,7 +40,7 @@ bool hasContentBesideRoot(const pugi::xml_document &document, pugi::xml_node roo
     return false;
 }
 
-/// Walks a tree that is not too deep, and finds the texts of nothing but blanks.
+/// Walks a tree that is neither too deep nor too large, and finds the texts of nothing but blanks.
 class TreeCheck final : public pugi::xml_tree_walker {
 public:
     std::vector<pugi::xml_node> blanks;
@@ -43,8 +48,12 @@ public:
     {
         if (node.type() == pugi::node_pcdata && node.value()[std::strspn(node.value(), " \t\r\n")] == '\0')
             blanks.push_back(node);
-        return depth() < DeepestNesting;
+        m_items += depth() == ItemLevel;
+        return depth() < DeepestNesting && m_items <= MostItems;
     }
+
+private:
+    int m_items = 0;
 };
 
 class TextWriter final : public pugi::xml_writer {

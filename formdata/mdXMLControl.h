@@ -31,7 +31,7 @@ QByteArray XMLEncodeText(const QString &text);
 QString XMLDecodeText(const char *content);
 
 /// Parses a text and returns its root element, or nothing when the text is not XML, its root has another name, or it
-/// is nested so deeply that no program of this house can have written it.
+/// is nested so deeply, or holds so many items, that no program of this house can have written it.
 clsXMLElement XMLLoadElement(const QString &xml, const char *name);
 
 /// The serialisation of an element with its descendants, on one line: the same tree gives the same text, which is

@@ -68,6 +68,14 @@ TEST(XMLLoadElement, RefusesNestingThatNoProgramCanHaveWritten)
     EXPECT_FALSE(loads(nested(100'000)));
 }
 
+TEST(XMLLoadElement, RefusesMoreItemsThanAnyBillHas)
+{
+    // Short in the file, each would come to some kilobytes once it is brought up to date.
+    const QString list = QStringLiteral("<root><list>%1</list></root>");
+    EXPECT_TRUE(loads(list.arg(QStringLiteral("<item/>").repeated(250'000))));
+    EXPECT_FALSE(loads(list.arg(QStringLiteral("<item/>").repeated(250'001))));
+}
+
 TEST(XMLLoadElement, RefusesRubbishOfEveryByte)
 {
     QString rubbish;

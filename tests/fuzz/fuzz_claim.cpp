@@ -87,6 +87,30 @@ void rewrite(clsZR3Form &form)
         mdFuzzRewrite(*section);
 }
 
+/// Adds an item to each list. A counter of identities that is no number is an error, and nothing is added then.
+void enlarge(clsZR3Form &form)
+{
+    mdFuzzErrorOf({Error::TypeMismatch, Error::Overflow}, "adding fails by the errors of the counter", [&] {
+        const QString first = form.GenerateUniqueID();
+        mdFuzzRequire(form.GenerateUniqueID() != first, "no identity is given twice");
+        const auto group = form.AddFeeEarnerGroup();
+        const auto feeEarner = form.AddFeeEarner();
+        feeEarner->GroupUniqueID = group->UniqueID();
+        const auto counsel = form.AddCounsel();
+        const auto enhancement = form.AddEnhancement();
+        mdFuzzRequire(counsel->UniqueID() != enhancement->UniqueID(), "no identity is given twice");
+        const auto item = form.AddScheduleOfTimeItem();
+        item->FeeEarnerUniqueID = feeEarner->UniqueID();
+        item->EnhancementUniqueID = enhancement->UniqueID();
+        mdFuzzRequire(form.ScheduleOfTimeItem(int(form.ScheduleOfTimeItemsCollection().size())) == item,
+            "what is added is the last in its list");
+        form.AddFASItem();
+        form.AddExpertInvoice();
+        form.AddJointInstruction();
+        form.AddDisbursement();
+    });
+}
+
 /// Saves the claim and reads it again: the same bytes and the same figures must come of it.
 void attackRoundTrip(clsZR3Form &form, const QByteArray &expectedFigures)
 {
@@ -113,9 +137,11 @@ void mdFuzzAttack(const uint8_t *data, size_t size)
     clsZR3Form form;
     if (!load(form, path))
         return;
-    // Every other input is written anew first, so that each is attacked in half the time.
+    // Not every input is changed in each way, so that more of them can be attacked.
     if (size % 2 == 0)
         rewrite(form);
+    if (size % 4 == 1)
+        enlarge(form);
     attackRoundTrip(form, figures(form));
 }
 

@@ -113,7 +113,10 @@ private:
     {
         xml_node parent = anyParentFor(node);
         const xml_node place = parent.first_child();
-        place &&below(2) ? parent.insert_copy_before(node, place) : parent.append_copy(node);
+        if (place && below(2) == 0)
+            parent.insert_copy_before(node, place);
+        else
+            parent.append_copy(node);
     }
     void moveElsewhere(xml_node node) { anyParentFor(node).append_move(node); } // refused where it would bear itself
     void rename(xml_node node) { node.set_name(from(m_words.elements).c_str()); }

@@ -48,9 +48,9 @@ def region(key, *choices):
 
 def finished_before(key, high, county, family):
     return choice(key, "In front of whom did case finish?",
-                  (23, high, "High Court Judge"),
-                  (31, county, "District or Circuit Judge"),
-                  (26, family, "Lay Justices or Clerks"))
+                  (23.4, high, "High Court Judge"),
+                  (28.4, county, "District or Circuit Judge"),
+                  (28.2, family, "Lay Justices or Clerks"))
 
 
 PAGE_3 = sheet(
@@ -122,15 +122,15 @@ PAGE_6 = sheet(
 # --- Family Advocacy Scheme ------------------------------------------------
 
 ADVOCACY = Grid(
-    row=17, heads=24, style=look.ADVOCACY_GRID, head_style=look.DENSE_HEAD,
+    row=17, heads=24, style=look.DENSEST_GRID, head_style=look.DENSE_HEAD,
     groups=(("Hearing", 4), ("Hearing units", 3), ("Bolt-on", 2), ("Fixed payments", 3),
             ("Claim", 2)),
     columns=(
-        Column("Date", 7.8),
-        Column("Judge", 10),
-        Column("FDR", 6.6),
-        Column("Time\n(mins)", 6.2, CENTRE),
-        Column("Units", 5.2, CENTRE, begins_group=True),
+        Column("Date", 7.8, CENTRE),
+        Column("Judge", 9.8, CENTRE),
+        Column("FDR", 6.4, CENTRE),
+        Column("Time\n(mins)", 6.4, CENTRE),
+        Column("Units", 5.4, CENTRE, begins_group=True),
         Column("Rate\n£", 9.6, RIGHT),
         Column("Payment\n£", 9.6, RIGHT),
         Column("%", 6.2, RIGHT, begins_group=True),

@@ -109,11 +109,10 @@ GRAND_TOTAL_LABEL = Style("Grand Total Label", 11, 13, bold=True, align=RIGHT,
 # Two lines of a grid's type fill a row of 20 points: a certificate reference of
 # twenty capitals needs both.
 GRID = Style("Grid", 9, 10, left=80, right=80)
-# An amount must never break: half a figure reads as another figure. Hence the narrow insets where columns are many, and
-# the small type of their totals, which hold six figures before the point in every column and seven in the last.
-DENSE_GRID = Style("Dense Grid", 8, 9, left=40, right=25)
-# Two lines of it fill a row of 17 points; six figures before the point stand in a column of 9.6 units.
-ADVOCACY_GRID = Style("Advocacy Grid", 7.5, 8, left=40, right=25)
+# An amount must never break: half a figure reads as another figure. Hence the small type and the narrow insets where
+# columns are many. The columns hold six figures before the point, those of hourly rates four, the last total seven.
+DENSE_GRID = Style("Dense Grid", 7.5, 8, left=40, right=25)
+DENSEST_GRID = Style("Densest Grid", 7.5, 8, left=20, right=25)
 SCHEDULE = Style("Schedule", 8.5, 10, left=40, right=40)
 DENSE_TOTAL = Style("Dense Total", 7.5, 10, bold=True, left=15, right=15)
 
@@ -124,7 +123,7 @@ STYLES = [
     QUESTION, KEY, TICK, LABEL, NOTE,
     HEAD, ANSWER_HEAD, DENSE_HEAD, SCHEDULE_HEAD, GROUP_HEAD,
     ANSWER, BOX, LONG_BOX, SHEET_BOX, PLACE, GRAND_TOTAL, GRAND_TOTAL_LABEL,
-    GRID, DENSE_GRID, ADVOCACY_GRID, SCHEDULE, DENSE_TOTAL,
+    GRID, DENSE_GRID, DENSEST_GRID, SCHEDULE, DENSE_TOTAL,
 ]
 
 # --- Heights of the pieces -------------------------------------------------

@@ -149,7 +149,7 @@ SCHEDULE = Grid(
     columns=(
         Column("Item", 6, CENTRE),
         Column("Fee\nearner", 9, CENTRE),
-        Column("Date", 11, CENTRE),
+        Column("Date", 10.6, CENTRE),
         Column("Code", 7, CENTRE),
         Column("Attend /\nconfer", 9.6, CENTRE, begins_group=True),
         Column("Docs", 9.6, CENTRE),
@@ -157,7 +157,7 @@ SCHEDULE = Grid(
         Column("Travel", 9.6, CENTRE),
         Column("Waiting", 9.6, CENTRE),
         Column("Rate\n£", 9, RIGHT, begins_group=True),
-        Column("Basic\nclaim £", 11, RIGHT),
+        Column("Basic\nclaim £", 11.4, RIGHT),
         Column("Enh.\n%", 7, RIGHT),
         Column("Claim\n£", 12, RIGHT)))
 
@@ -195,17 +195,17 @@ EXPERTS = Grid(
     groups=(("Expert", 3), ("Preparation", 2), ("Court attendance", 2), ("Costs", 2),
             ("Claim", 3)),
     columns=(
-        Column("Expert", 16),
-        Column("Type", 14),
-        Column("PA", 5, CENTRE),
+        Column("Expert", 15.2),
+        Column("Type", 15),
+        Column("PA", 4, CENTRE),
         Column("Rate\n£", 8, RIGHT, begins_group=True),
-        Column("Cost\n£", 10, RIGHT),
+        Column("Cost\n£", 9.8, RIGHT),
         Column("Rate\n£", 8, RIGHT, begins_group=True),
-        Column("Cost\n£", 10, RIGHT),
-        Column("Travel\n£", 9, RIGHT, begins_group=True),
-        Column("Other\n£", 9, RIGHT),
-        Column("Net\n£", 10, RIGHT, begins_group=True),
-        Column("VAT\n£", 10, RIGHT),
+        Column("Cost\n£", 9.8, RIGHT),
+        Column("Travel\n£", 9.8, RIGHT, begins_group=True),
+        Column("Other\n£", 9.8, RIGHT),
+        Column("Net\n£", 9.8, RIGHT, begins_group=True),
+        Column("VAT\n£", 9.8, RIGHT),
         Column("Total\n£", 11, RIGHT)))
 
 EXPERT_STANDARDS_PROMPT = "If no, give reasons"

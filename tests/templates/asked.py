@@ -190,3 +190,52 @@ PLACES = {
     "Claim1A P11": (2, 25),
     "Claim1A P11 Additional Info Cont": (2, 50),
 }
+
+# Characters that the screens let into each answer, and the export on to a sheet that continues one.
+FIRST_PAGE = {
+    "typeofcase": 40, "stagenumber": 40, "casereferencenumber": 30, "title": 7, "firstname": 7,
+    "surname": 17, "morethan1certificate": 130, "accountnumber": 7, "rollnumber": 7,
+    "nameoffirm": 42, "casereference": 40, "contactnameforenquiries": 35,
+    "telephoneforenquiries": 17, "emailforenquiries": 35,
+}
+COSTS_AWARDED = {"interestbreakdown": 60, "addressofservice": 75, "offerbydebtordetails": 85}
+DEBTOR = {
+    "title": 9, "initials": 9, "surnameororganisation": 25, "firstname": 25,
+    "nationalinsurancenumber": 50, "address": 60, "phonework": 27, "phonehome": 27, "mobile": 30,
+    "fax": 30, "email": 55, "solicitorsfirmname": 51, "job": 65, "employersname": 55,
+    "employersaddress": 55, "assets": 330, "casereference": 45, "information": 820,
+}
+ALLOWANCES = {
+    "Claim1 P1": {**FIRST_PAGE, "inclusiveofallsolicitorsreasons": 115},
+    "Claim1 P2": {"nameofcourt": 30, "explanation": 400},
+    "Claim1 P2 Late Submission Cont": {"explanation": 3000},
+    "Claim1 P3": {"detailsofcase": 770, "detailsofenhancement": 710},
+    "Claim1 P3 Case Details Cont": {"detailsofcase": 2750},
+    "Claim1 P3 Enhancement Cont": {"detailsofenhancement": 2620},
+    "Claim1 P6": {"expertsmeetmojstandardreasons": 100},
+    "Claim1 P6 Expert Dibs Standards Cont": {"expertsmeetmojstandardreasons": 2750},
+    "Claim1 P9": COSTS_AWARDED,
+    "Claim1 P10": DEBTOR,
+
+    "Claim1A P1": FIRST_PAGE,
+    "Claim1A P3": {"detailsofcase": 570},
+    "Claim1A P3 NoP Cont": {"detailsofcase": 2750},
+    "Claim1A P4": {"workatalllevelsreasons": 100},
+    "Claim1A P4 Reasons For Not Undertaking Work At All Levels Cont":
+        {"workatalllevelsreasons": 2750},
+    "Claim1A P6": {"expertsmeetmojstandardreasons": 250},
+    "Claim1A P6 Expert Dibs Standards Cont": {"expertsmeetmojstandardreasons": 2750},
+    "Claim1A P9": {"detailsofcase": 770},
+    "Claim1A P9 Case Details Cont": {"detailsofcase": 2750},
+    "Claim1A P12": COSTS_AWARDED,
+    "Claim1A P13": DEBTOR,
+}
+# The same for the cells of a grid, which is known by the number of its cells; 4 only where three hold money.
+CELL_ALLOWANCES = {
+    2: {1: 35},                             # bolt-ons
+    3: {2: 35},                             # exceptional travel
+    4: {0: 35},                             # other disbursements
+    5: {0: 12, 1: 20, 2: 20, 3: 20},        # joint instruction
+}
+# Hourly rates of experts and of the schedule: their columns are narrower than those of other amounts.
+HOURLY_RATES = {12: [3, 5], 13: [9]}

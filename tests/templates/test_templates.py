@@ -2,29 +2,22 @@
 """What the export relies on in the page templates.
 
     ZR3_TEMPLATES=FOLDER /usr/bin/python3 test_templates.py
-
-Without ZR3_TEMPLATES the templates are made into a folder of the test's own.
 """
 
 import functools
 import os
 import re
-import shutil
-import subprocess
-import sys
 import tempfile
 import unittest
-import zipfile
 from collections import Counter
 from pathlib import Path
 
 from lxml import etree
 
+import reading
 from asked import GRIDS, MONEY, PLACEHOLDERS, PLACES, TICKS, TOTALS, WITHOUT_MARK
+from reading import SCRIPT, Template, W, find, make, number, text, value, words
 
-SCRIPT = Path(__file__).resolve().parents[2] / "resources" / "templates" / "make_templates.py"
-
-W = "{http://schemas.openxmlformats.org/wordprocessingml/2006/main}"
 SPACE = "{http://www.w3.org/XML/1998/namespace}space"
 
 FULLEST = 15300                         # twips, of the 15590 between the margins
@@ -58,24 +51,15 @@ ORDERS = {
 FREE_ORDER = {"r": {"t", "tab", "br"}}  # these come as the text has them
 
 
-# --- Reading a template ----------------------------------------------------
-
-def find(node, *path):
-    for tag in path:
-        node = None if node is None else node.find(W + tag)
-    return node
+FOLDER = None
+TEMPLATES = {}
 
 
-def value(node, name="val"):
-    return None if node is None else node.get(W + name)
-
-
-def number(node, name="val"):
-    return int(value(node, name))
-
-
-def text(node):
-    return "".join(t.text or "" for t in node.iter(W + "t"))
+def setUpModule():
+    global FOLDER
+    FOLDER = reading.templates_folder()
+    for name in PLACEHOLDERS:
+        TEMPLATES[name] = Template(FOLDER / (name + ".doc"))
 
 
 def span(cell):
@@ -89,90 +73,6 @@ def without_borders(row):
     for borders in list(copy.iter(W + "tcBorders")):
         borders.getparent().remove(borders)
     return etree.tostring(copy)
-
-
-def words(table, name):
-    return table.get(name, "").split()
-
-
-class Template:
-    def __init__(self, path):
-        self.name = path.stem
-        self.form = "Claim 1A" if path.stem.lower().startswith("claim1a ") else "Claim 1"
-        with zipfile.ZipFile(path) as package:
-            self.entries = package.infolist()
-            self.parts = {entry.filename: package.read(entry) for entry in self.entries}
-        self.document = etree.fromstring(self.parts["word/document.xml"])
-        self.body = find(self.document, "body")
-        self.styles = {value(style, "styleId"): style for style in
-                       etree.fromstring(self.parts["word/styles.xml"]).iter(W + "style")}
-
-    def lines(self):
-        """As the cursor of the export counts on its way down: a paragraph of the
-        body, or a row with the paragraphs of its first cell."""
-        for block in self.body:
-            if block.tag == W + "p":
-                yield block, None
-            for row in block.iter(W + "tr"):
-                for paragraph in find(row, "tc").findall(W + "p"):
-                    yield paragraph, row
-
-    def property(self, paragraph, tag):
-        """Of a paragraph: its own, or its style's."""
-        found = find(paragraph, "pPr", tag)
-        if found is None:
-            found = find(self.styles[value(find(paragraph, "pPr", "pStyle"))], "pPr", tag)
-        return found
-
-    def height(self):
-        total = 0
-        for block in self.body:
-            if block.tag == W + "p":
-                spacing = self.property(block, "spacing")
-                total += sum(number(spacing, name) for name in ("before", "after", "line"))
-            for row in block.iter(W + "tr"):
-                total += number(find(row, "trPr", "trHeight"))
-        return total
-
-    def run_of(self, name):
-        return next(t.getparent() for t in self.document.iter(W + "t")
-                    if t.text == "{%s}" % name)
-
-    def is_right(self, run):
-        """At the right end of its cell, by its paragraph or by a right tab."""
-        paragraph = run.getparent()
-        if value(self.property(paragraph, "jc")) == "right":
-            return True
-        before = run.getprevious()
-        tab = find(paragraph, "pPr", "tabs", "tab")
-        if tab is None or find(before, "tab") is None or value(tab) != "right":
-            return False
-        cell = paragraph.getparent()
-        inset = number(self.property(paragraph, "ind"), "right")
-        return number(tab, "pos") == number(find(cell, "tcPr", "tcW"), "w") - inset
-
-
-FOLDER = None
-TEMPLATES = {}
-
-
-def make(folder, **environment):
-    subprocess.run(["/usr/bin/python3", str(SCRIPT), str(folder)], check=True,
-                   env={**os.environ, **environment})
-
-
-def setUpModule():
-    global FOLDER
-    given = os.environ.get("ZR3_TEMPLATES")
-    if given:
-        FOLDER = Path(given)
-    else:
-        made = tempfile.TemporaryDirectory()
-        unittest.addModuleCleanup(made.cleanup)
-        FOLDER = Path(made.name)
-        make(FOLDER)
-    for name in PLACEHOLDERS:
-        TEMPLATES[name] = Template(FOLDER / (name + ".doc"))
 
 
 def on_each(check):
@@ -473,61 +373,5 @@ class Packages(unittest.TestCase):
             self.assertIsNotNone(find(paragraph, "pPr", "rPr", "sz"))
 
 
-# --- Paper -----------------------------------------------------------------
-
-TOOLS = [tool for tool in ("soffice", "pdfinfo") if not shutil.which(tool)]
-
-
-@unittest.skipIf(TOOLS, "not installed here: " + ", ".join(TOOLS))
-class Paper(unittest.TestCase):
-    """Laid out by a word processor: one page, whatever is filled in."""
-
-    def pages(self, folder):
-        subprocess.run(
-            ["soffice", "--headless", "-env:UserInstallation=" + (folder / "profile").as_uri(),
-             "--convert-to", "pdf", "--outdir", str(folder),
-             *(str(path) for path in sorted(folder.glob("*.doc")))],
-            check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=300)
-        counts = {}
-        for path in folder.glob("*.pdf"):
-            told = subprocess.run(["pdfinfo", str(path)], check=True, capture_output=True,
-                                  text=True).stdout
-            counts[path.stem] = int(re.search(r"Pages:\s+(\d+)", told).group(1))
-        return counts
-
-    def test_empty_sheets_are_one_page_each(self):
-        with tempfile.TemporaryDirectory() as made:
-            for name in PLACEHOLDERS:
-                shutil.copy(FOLDER / (name + ".doc"), made)
-            self.assertEqual(self.pages(Path(made)), dict.fromkeys(PLACEHOLDERS, 1))
-
-    def test_sheets_with_far_too_much_in_every_box_are_one_page_each(self):
-        cell, box, sheet = "W" * 100, "W" * 1000, "W" * 4000
-        with tempfile.TemporaryDirectory() as made:
-            for name in PLACEHOLDERS:
-                template = Template(FOLDER / (name + ".doc"))
-                for paragraph in template.document.iter(W + "p"):
-                    if find(paragraph, "r") is None and paragraph.getparent().tag == W + "tc":
-                        self.type(paragraph, cell)
-                self.type(template.body[0], "(1)(2)")
-                for t in template.document.iter(W + "t"):
-                    if t.text.startswith("{"):
-                        t.text = ("(12)" if t.text == "{or}"
-                                  else sheet if name.endswith("Cont") else box)
-                template.parts["word/document.xml"] = etree.tostring(template.document)
-                with zipfile.ZipFile(Path(made) / (name + ".doc"), "w") as package:
-                    for part, content in template.parts.items():
-                        package.writestr(part, content)
-            self.assertEqual(self.pages(Path(made)), dict.fromkeys(PLACEHOLDERS, 1))
-
-    @staticmethod
-    def type(paragraph, typed):
-        run = etree.SubElement(paragraph, W + "r")
-        etree.SubElement(run, W + "t").text = typed
-
-
-SKIPPED = 77  # what ctest knows as skipped
-
 if __name__ == "__main__":
-    result = unittest.main(exit=False).result
-    sys.exit(1 if not result.wasSuccessful() else SKIPPED if result.skipped else 0)
+    reading.main()

@@ -104,7 +104,7 @@ class Filled:
 class Paper(unittest.TestCase):
     """One page, whatever is filled in; and whatever is allowed can be read on it."""
 
-    def print(self, folder):
+    def lay_out(self, folder):
         subprocess.run(
             ["soffice", "--headless", "-env:UserInstallation=" + (folder / "profile").as_uri(),
              "--convert-to", "pdf", "--outdir", str(folder),
@@ -115,7 +115,7 @@ class Paper(unittest.TestCase):
         return subprocess.run(command, check=True, capture_output=True, text=True).stdout
 
     def pages(self, folder):
-        self.print(folder)
+        self.lay_out(folder)
         return {path.stem: int(re.search(r"Pages:\s+(\d+)", self.told("pdfinfo", str(path))).group(1))
                 for path in folder.glob("*.pdf")}
 

@@ -4,7 +4,7 @@ The key of a sheet is the name of its file without ".doc": the export asks for
 it by that name.
 """
 
-from . import look, shared
+from . import look, recovery, shared
 from .look import RIGHT
 from .markup import Row, slot
 from .pieces import (
@@ -113,7 +113,7 @@ PAGE_8 = sheet(
            "fees stand apart from the total of this claim."))
 
 PAGE_9 = sheet(
-    shared.costs_awarded(FORM, 9, 19, 20),
+    recovery.costs_awarded(FORM, 9, 19, 20),
     section(21, "Money or property awarded"),
     fields(Field(60, "Value of award", "value", is_money=True),
            Field(60, "Amount recovered to date", "dmrcvrdtodate", is_money=True)))
@@ -141,5 +141,5 @@ SHEETS = {
     "Claim1 P7 Other Dibs Cont": shared.other_disbursements_continuation(FORM, 7, 15),
     "Claim1 P8": PAGE_8,
     "Claim1 P9": PAGE_9,
-    "Claim1 P10": shared.debtor(FORM, 10, person=22, employment=23, means=24),
+    "Claim1 P10": recovery.debtor(FORM, 10, person=22, employment=23, means=24),
 }

@@ -4,7 +4,7 @@ The key of a sheet is the name of its file without ".doc": the export asks for
 it by that name, to the letter.
 """
 
-from . import look, shared
+from . import look, recovery, shared
 from .look import CENTRE, RIGHT
 from .pieces import (
     Column, Field, Form, Grid, Total, choice, definitions, fields, grid_heads, grid_table, head,
@@ -48,9 +48,9 @@ def region(key, *choices):
 
 def finished_before(key, high, county, family):
     return choice(key, "In front of whom did case finish?",
-                  (23.4, high, "High Court Judge"),
-                  (28.4, county, "District or Circuit Judge"),
-                  (28.2, family, "Lay Justices or Clerks"))
+                  (23, high, "High Court Judge"),
+                  (29.2, county, "District or Circuit Judge"),
+                  (27.8, family, "Lay Justices or Clerks"))
 
 
 PAGE_3 = sheet(
@@ -166,7 +166,7 @@ PAGE_8 = sheet(
     spacer(5),
     subheading("B\u2003Bolt-on payments"),
     grid_table(BOLT_ONS, 6),
-    # The line below the last grid of six rows is counted, so nothing but this parts the tables.
+    # No line is left to count between these two tables: the sub-heading alone keeps them apart.
     subheading("C\u2003Exceptional travel", line=19),
     grid_table(TRAVEL, 10))
 
@@ -188,7 +188,7 @@ SHEETS = {
         FORM, 7, joint=13, other=14, totals_names=("dibsnet", "dibsvat", "dibstotal"),
         before_joint=(spacer(8), subheading("Share of each party"))),
     "Claim1A P7 Expert Dibs Joint Instruction Cont": shared.joint_continuation(FORM, 7, 13),
-    # With a small letter in its name, as the export asks for it.
+    # With a small letter: the export asks for it so.
     "Claim1a P7 Other Dibs Cont": shared.other_disbursements_continuation(FORM, 7, 14),
     "Claim1A P8": PAGE_8,
     "Claim1A P8 Advocacy Costs Cont": sheet(
@@ -230,6 +230,6 @@ SHEETS = {
     "Claim1A P11 Additional Info Cont": shared.additional_information_continuation(
         FORM, 11, 18, named_columns=False),
     "Claim1A P12": sheet(
-        shared.costs_awarded(FORM, 12, 21, 22, money_row("Total costs awarded", "totalcosts"))),
-    "Claim1A P13": shared.debtor(FORM, 13, person=23, employment=24, means=25),
+        recovery.costs_awarded(FORM, 12, 21, 22, money_row("Total costs awarded", "totalcosts"))),
+    "Claim1A P13": recovery.debtor(FORM, 13, person=23, employment=24, means=25),
 }

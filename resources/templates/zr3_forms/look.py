@@ -112,6 +112,8 @@ GRID = Style("Grid", 9, 10, left=80, right=80)
 # An amount must never break: half a figure reads as another figure. Hence the narrow insets where columns are many, and
 # the small type of their totals, which hold six figures before the point in every column and seven in the last.
 DENSE_GRID = Style("Dense Grid", 8, 9, left=40, right=25)
+# Two lines of it fill a row of 17 points; six figures before the point stand in a column of 9.6 units.
+ADVOCACY_GRID = Style("Advocacy Grid", 7.5, 8, left=40, right=25)
 SCHEDULE = Style("Schedule", 8.5, 10, left=40, right=40)
 DENSE_TOTAL = Style("Dense Total", 7.5, 10, bold=True, left=15, right=15)
 
@@ -122,7 +124,7 @@ STYLES = [
     QUESTION, KEY, TICK, LABEL, NOTE,
     HEAD, ANSWER_HEAD, DENSE_HEAD, SCHEDULE_HEAD, GROUP_HEAD,
     ANSWER, BOX, LONG_BOX, SHEET_BOX, PLACE, GRAND_TOTAL, GRAND_TOTAL_LABEL,
-    GRID, DENSE_GRID, SCHEDULE, DENSE_TOTAL,
+    GRID, DENSE_GRID, ADVOCACY_GRID, SCHEDULE, DENSE_TOTAL,
 ]
 
 # --- Heights of the pieces -------------------------------------------------

@@ -9,9 +9,9 @@ from .look import CENTRE, LEFT, RIGHT
 from .markup import Row, slot
 from .pieces import (
     Column, Field, Grid, Total, answer_row, answered, code_question, fields, follow_up,
-    footnote, grid_heads, grid_table, head, label_row, masthead, money_row, notes, place,
-    place_strip, printed, question, section, sheet, spacer, strip, subheading, text_box, tick,
-    ticks, totals,
+    grid_heads, grid_table, head, label_row, masthead, money_row, notes, place, place_strip,
+    printed, question, remark, section, sheet, spacer, strip, subheading, text_box, tick, ticks,
+    totals,
 )
 
 
@@ -62,8 +62,8 @@ def first_page(form, exceptional, final_bill, other_providers=None):
          strip("If no, give reasons"),
          text_box("inclusiveofallsolicitorsreasons", 44)] if other_providers else [],
         question(final_key, "Is this the final bill on this certificate?", *final_bill),
-        footnote("A number in brackets beside a page number marks a further sheet of that page: "
-                 "Page 3 (2) is the second sheet of page 3."))
+        remark("A number in brackets beside a page number marks a further sheet of that page: "
+               "Page 3 (2) is the second sheet of page 3."))
 
 
 def outcome(codes, awarded, wasted):
@@ -82,6 +82,11 @@ def outcome(codes, awarded, wasted):
 
 
 # --- Continuation of a text ------------------------------------------------
+
+WORK = ("Details of work being claimed",
+        "Describe the work done for which you claim, and anything that explains the time it took",
+        "detailsofcase")
+
 
 def text_continuation(form, page, number, title, prompt, name):
     """Fifty lines, which hold the longest piece that the export cuts."""
@@ -339,8 +344,9 @@ def sums(*rows, height=SUMS.row):
             for label, net, vat in rows]
 
 
-def sums_total(label, net, vat, height=SUMS.row):
-    return totals(SUMS, Total(1, label), Total(1, name=net), Total(1, name=vat), height=height)
+def sums_total(label, net, vat, height=SUMS.row, above=look.EDGE):
+    return totals(SUMS, Total(1, label), Total(1, name=net), Total(1, name=vat), height=height,
+                  above=above)
 
 
 # --- Costs awarded and their recovery --------------------------------------

@@ -16,6 +16,11 @@ extern const std::span<const clsGridCell> ExpertInvoiceCells;
 extern const std::span<const clsGridCell> JointInstructionCells;
 extern const std::span<const clsGridCell> OtherDisbursementCells;
 
+/// The first page from the stage number to the costs of the previous advice.
+extern const std::span<const clsPlaceholderRow> FirstPageRows;
+/// The costs awarded: the amounts before and during the certificate, and everything that follows the amounts.
+extern const std::span<const clsPlaceholderRow> CostsAwardedAmountsRows;
+extern const std::span<const clsPlaceholderRow> CostsAwardedRows;
 /// Letters out, letters in and calls, two lines each, and their total.
 extern const std::span<const clsPlaceholderRow> CommunicationsRows;
 /// The whole of the debtor's page.

@@ -9,8 +9,8 @@
 #include "tests/support/mdTestPaths.h"
 #include "tests/support/mdTestPrinting.h"
 #include "wordexport/clsExport.h"
+#include "wordexport/mdExportDriver.h"
 #include "wordexport/mdExportTempFolder.h"
-#include "wordexport/mdExportWordClaim1.h"
 #include "wordexport/mdExportWordCombineDocuments.h"
 
 #include <QTemporaryDir>
@@ -40,7 +40,7 @@ protected:
         SetProgramFolder(QString());
     }
 
-    /// Exports the claim; what mdExportWordClaim1 gives.
+    /// Exports the claim; what the driver of its form type gives.
     bool exportClaim()
     {
         run = std::make_unique<clsExport>(clsExport {.form = form, .templatesFolder = templates});
@@ -48,7 +48,7 @@ protected:
         run->keepsSheets = keepsSheets;
         recorder = std::make_unique<clsSheetRecorder>(*run, templates);
         const clsMSWordObserverScope scope(*recorder);
-        return mdExportWordClaim1(*run);
+        return mdExportDriver(form.FormType())(*run);
     }
 
     void includeOnly(std::initializer_list<int> pages)
@@ -144,6 +144,23 @@ protected:
             form.AddJointInstruction()->ExpertType = QStringLiteral("Joint %1").arg(i);
     }
 
+    // What went to a sheet, which is named as "7(1)".
+
+    QString mark(const QByteArray &sheet) const { return value(sheet, "{or}"); }
+    /// What replaced a placeholder, each time that it was replaced.
+    QString value(const QByteArray &sheet, const char *placeholder) const
+    {
+        return recorder->replacements(QString::fromLatin1(sheet), QString::fromLatin1(placeholder)).join(u'|');
+    }
+    QStringList row(const QByteArray &sheet, int number) const
+    {
+        return recorder->rows(QString::fromLatin1(sheet)).value(number - 1);
+    }
+    qsizetype rowCount(const QByteArray &sheet) const { return recorder->rows(QString::fromLatin1(sheet)).size(); }
+    QStringList lines(const QByteArray &sheet) const { return recorder->linesOf(QString::fromLatin1(sheet)); }
+    QString templateOf(const QByteArray &sheet) const { return recorder->templateOf(QString::fromLatin1(sheet)); }
+    static QStringList names(const char *all) { return QString::fromLatin1(all).split(u' '); }
+
     void switchLogOn()
     {
         QDir(folder.path()).mkpath(QStringLiteral("program/Logs"));
@@ -162,7 +179,7 @@ protected:
     }
 
     QString path(const QString &relative) const { return folder.filePath(relative); }
-    QString finished() const { return path(QStringLiteral("Claim1.doc")); }
+    QString finished() const { return path(form.FormType() + QStringLiteral(".doc")); }
     QString temporary() const { return path(QStringLiteral("~ZR3Temp")); }
     static QByteArray bytesOf(const QString &file)
     {

@@ -2,6 +2,7 @@
 
 #include "costing/mdGetCommsInfo.h"
 #include "costing/mdGetDisbursementsTotals.h"
+#include "costing/mdSumOf.h"
 #include "shell/mdExisting.h"
 #include "wordexport/mdExportSources.h"
 
@@ -28,19 +29,8 @@ const clsZR3Disbursement &other(const Form &form, int i)
     return *form.NonCounselDisbursement(i);
 }
 
-std::shared_ptr<clsZR3ExpertInvoice> expert(const Form &form, int i)
-{
-    auto invoice = form.ExpertInvoiceByOrderID(i);
-    mdExisting(invoice);
-    return invoice;
-}
-
-std::shared_ptr<clsZR3JointInstruction> joint(const Form &form, int i)
-{
-    auto instruction = form.JointInstructionByOrderID(i);
-    mdExisting(instruction);
-    return instruction;
-}
+constexpr auto expert = mdItemAt<&Form::ExpertInvoiceByOrderID>;
+constexpr auto joint = mdItemAt<&Form::JointInstructionByOrderID>;
 
 const clsGridCell CounselFees[] = {
     ZR3_CELL(QString::number(i), Text),
@@ -50,7 +40,7 @@ const clsGridCell CounselFees[] = {
 };
 
 const clsPlaceholderRow CounselFeesPlaceholders[] = {
-    ZR3_FIGURE("{ctotal}", CounselDisbursementsAmountTotal(form) + CounselDisbursementsVATTotal(form)),
+    ZR3_FIGURE("{ctotal}", mdSumOf({CounselDisbursementsAmountTotal(form), CounselDisbursementsVATTotal(form)})),
     ZR3_TICK("{1}", CounselOutstandingClaims.OutstandingClaimsYes),
     ZR3_TICK("{2}", CounselOutstandingClaims.OutstandingClaimsNo),
 };
@@ -202,27 +192,7 @@ const std::span<const clsPlaceholderRow> CostsAwardedRows = CostsAwarded;
 const std::span<const clsPlaceholderRow> CommunicationsRows = Communications;
 const std::span<const clsPlaceholderRow> DebtorsDetailsRows = Debtor;
 
-int mdCountCounselFees(const clsZR3Form &form)
-{
-    return int(form.CounselDisbursementsCollection().size());
-}
-
-int mdCountExpertInvoices(const clsZR3Form &form)
-{
-    return int(form.ExpertInvoicesCollection().size());
-}
-
-int mdCountJointInstructions(const clsZR3Form &form)
-{
-    return int(form.JointInstructionsCollection().size());
-}
-
-int mdCountOtherDisbursements(const clsZR3Form &form)
-{
-    return int(form.NonCounselDisbursementsCollection().size());
-}
-
 QString mdGrossText(const QString &amount, const QString &vat)
 {
-    return MoneyToText(MoneyFromText(amount) + MoneyFromText(vat));
+    return MoneyToText(mdSumOf({MoneyFromText(amount), MoneyFromText(vat)}));
 }

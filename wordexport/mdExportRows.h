@@ -26,12 +26,6 @@ extern const std::span<const clsPlaceholderRow> CommunicationsRows;
 /// The whole of the debtor's page.
 extern const std::span<const clsPlaceholderRow> DebtorsDetailsRows;
 
-// How many items the grids have.
-int mdCountCounselFees(const clsZR3Form &form);
-int mdCountExpertInvoices(const clsZR3Form &form);
-int mdCountJointInstructions(const clsZR3Form &form);
-int mdCountOtherDisbursements(const clsZR3Form &form);
-
 /// The text of an expert's invoice item's or disbursement's amount and VAT added; the type error where one is no
 /// number.
 QString mdGrossText(const QString &amount, const QString &vat);

@@ -81,7 +81,8 @@ const clsPlainPage Page3 = {3, "Claim1 P3", {Page3Rows}, "Claim1 P3 Panel Member
 // Page 4: counsel's fees. The sheet counter goes on from whatever page ran before it, and so do the further sheets'
 // names and marks: that carry-over belongs to this page and stays.
 
-const clsGrid CounselFeesGrid = {mdCountCounselFees, CounselFeesCells, 32, 38, 9, 3, "Claim1 P4 Counsels Fees Cont"};
+const clsGrid CounselFeesGrid = {mdCountOf<&clsZR3Form::CounselDisbursementsCollection>, CounselFeesCells, 32, 38, 9, 3,
+    "Claim1 P4 Counsels Fees Cont"};
 const clsGridPage::Grid Page4Grids[] = {{&CounselFeesGrid, clsGridPage::RunsOn}};
 const clsGridPage Page4 = {4, "Claim1 P4", Page4Grids, CounselFeesRows};
 
@@ -92,8 +93,8 @@ const clsAdditionalInformation Page6AdditionalInformation = {6, "Claim1 P6", "Cl
 /// The lines above the experts' grid while no note is typed; each typed line pushes it down by one.
 constexpr int LinesAboveExperts = 20;
 
-const clsGrid ExpertsGrid
-    = {mdCountExpertInvoices, ExpertInvoiceCells, 11, 32, LinesAboveExperts, 4, "Claim1 P6 Expert Dibs Cont"};
+const clsGrid ExpertsGrid = {mdCountOf<&clsZR3Form::ExpertInvoicesCollection>, ExpertInvoiceCells, 11, 32,
+    LinesAboveExperts, 4, "Claim1 P6 Expert Dibs Cont"};
 
 const clsOverRun ExpertStandardsOverRun = {100, 2750, "Claim1 P6 Expert Dibs Standards Cont"};
 
@@ -121,10 +122,10 @@ void mdExportWordClaim1Page6(clsExport &run)
 // Page 7: disbursements. The counter starts anew before the second grid, so that both grids' first further sheets are
 // 7(2): the second overwrites the first, and the finished document shows it twice. It is to stay so.
 
-const clsGrid JointInstructionsGrid
-    = {mdCountJointInstructions, JointInstructionCells, 14, 30, 6, 5, "Claim1 P7 Expert Dibs Joint Instruction Cont"};
-const clsGrid OtherDisbursementsGrid
-    = {mdCountOtherDisbursements, OtherDisbursementCells, 12, 32, 25, 3, "Claim1 P7 Other Dibs Cont"};
+const clsGrid JointInstructionsGrid = {mdCountOf<&clsZR3Form::JointInstructionsCollection>, JointInstructionCells, 14,
+    30, 6, 5, "Claim1 P7 Expert Dibs Joint Instruction Cont"};
+const clsGrid OtherDisbursementsGrid = {mdCountOf<&clsZR3Form::NonCounselDisbursementsCollection>,
+    OtherDisbursementCells, 12, 32, 25, 3, "Claim1 P7 Other Dibs Cont"};
 
 const clsGridPage::Grid Page7Grids[] = {
     {&JointInstructionsGrid, clsGridPage::StartsAnew},
@@ -134,7 +135,8 @@ const clsGridPage::Grid Page7Grids[] = {
 const clsPlaceholderRow Page7Rows[] = {
     ZR3_FIGURE("{nettotal}", NonCounselDisbursementsAmountTotal(form)),
     ZR3_FIGURE("{vattotal}", NonCounselDisbursementsVATTotal(form)),
-    ZR3_FIGURE("{dibstotal}", NonCounselDisbursementsAmountTotal(form) + NonCounselDisbursementsVATTotal(form)),
+    ZR3_FIGURE(
+        "{dibstotal}", mdSumOf({NonCounselDisbursementsAmountTotal(form), NonCounselDisbursementsVATTotal(form)})),
 };
 
 const clsGridPage Page7 = {7, "Claim1 P7", Page7Grids, Page7Rows};
@@ -150,7 +152,7 @@ const clsPlaceholderRow SummaryRows[] = {
     ZR3_FIGURE("{vex}", ExpertInvoicesVATTotal(form)),
     ZR3_FIGURE("{vdibs}", NonCounselDisbursementsVATTotal(form)),
     ZR3_FIGURE("{vtotal}", VATWithoutCounsel(form)),
-    ZR3_FIGURE("{grandtotal}", NetWithoutCounsel(form) + VATWithoutCounsel(form)),
+    ZR3_FIGURE("{grandtotal}", mdSumOf({NetWithoutCounsel(form), VATWithoutCounsel(form)})),
     ZR3_WORDS("{counsel}", QString::number(form.CounselCollection().size())),
     ZR3_FIGURE("{ncf}", CounselFeesAmountTotal(form)),
     ZR3_FIGURE("{vcf}", CounselFeesVATTotal(form)),

@@ -7,7 +7,6 @@
 #include "costing/mdGetDisbursementsTotals.h"
 #include "costing/mdGetFASTotals.h"
 #include "costing/mdSumOf.h"
-#include "shell/mdExisting.h"
 #include "wordexport/clsExport.h"
 #include "wordexport/mdExportRows.h"
 #include "wordexport/mdExportSheet.h"
@@ -135,13 +134,15 @@ const clsPlainPage Page4 = {4, "Claim1A P4", {Page4Rows}};
 // Page 5: counsel's fees. The sheet counter goes on from whatever page ran before it, and so do the further sheets'
 // names and marks: that carry-over belongs to this page, as on Claim 1, and stays.
 
-const clsGrid CounselFeesGrid = {mdCountCounselFees, CounselFeesCells, 32, 38, 9, 3, "Claim1A P5 Counsels Fees Cont"};
+const clsGrid CounselFeesGrid = {mdCountOf<&clsZR3Form::CounselDisbursementsCollection>, CounselFeesCells, 32, 38, 9, 3,
+    "Claim1A P5 Counsels Fees Cont"};
 const clsGridPage::Grid Page5Grids[] = {{&CounselFeesGrid, clsGridPage::RunsOn}};
 const clsGridPage Page5 = {5, "Claim1A P5", Page5Grids, CounselFeesRows};
 
 // Page 6: experts
 
-const clsGrid ExpertsGrid = {mdCountExpertInvoices, ExpertInvoiceCells, 11, 32, 22, 5, "Claim1A P6 Expert Dibs Cont"};
+const clsGrid ExpertsGrid = {
+    mdCountOf<&clsZR3Form::ExpertInvoicesCollection>, ExpertInvoiceCells, 11, 32, 22, 5, "Claim1A P6 Expert Dibs Cont"};
 const clsGridPage::Grid Page6Grids[] = {{&ExpertsGrid, clsGridPage::StartsAnew}};
 
 const clsOverRun ExpertStandardsOverRun = {250, 2750, "Claim1A P6 Expert Dibs Standards Cont"};
@@ -159,11 +160,11 @@ const clsGridPage Page6 = {6, "Claim1A P6", Page6Grids, Page6Rows};
 
 // Page 7: disbursements. The counter runs on from the first grid to the second, so that no sheet overwrites another.
 
-const clsGrid JointInstructionsGrid
-    = {mdCountJointInstructions, JointInstructionCells, 14, 30, 8, 5, "Claim1A P7 Expert Dibs Joint Instruction Cont"};
-const clsGrid OtherDisbursementsGrid
-    // The small a is the template's name as it stands.
-    = {mdCountOtherDisbursements, OtherDisbursementCells, 12, 32, 27, 3, "Claim1a P7 Other Dibs Cont"};
+const clsGrid JointInstructionsGrid = {mdCountOf<&clsZR3Form::JointInstructionsCollection>, JointInstructionCells, 14,
+    30, 8, 5, "Claim1A P7 Expert Dibs Joint Instruction Cont"};
+// The small a is the template's name as it stands.
+const clsGrid OtherDisbursementsGrid = {mdCountOf<&clsZR3Form::NonCounselDisbursementsCollection>,
+    OtherDisbursementCells, 12, 32, 27, 3, "Claim1a P7 Other Dibs Cont"};
 
 const clsGridPage::Grid Page7Grids[] = {
     {&JointInstructionsGrid, clsGridPage::StartsAnew},
@@ -181,12 +182,7 @@ const clsGridPage Page7 = {7, "Claim1A P7", Page7Grids, Page7Rows};
 
 // Page 8: Family Advocacy Scheme
 
-std::shared_ptr<clsZR3FASItem> hearing(const clsZR3Form &form, int i)
-{
-    auto item = form.FASItemByOrderID(i);
-    mdExisting(item);
-    return item;
-}
+constexpr auto hearing = mdItemAt<&clsZR3Form::FASItemByOrderID>;
 
 const clsZR3FASItem &boltOn(const clsZR3Form &form, int i)
 {
@@ -226,26 +222,12 @@ const clsGridCell ExceptionalTravelCells[] = {
     ZR3_CELL(travel(form, i).ExceptionalTravelReason(), Text),
 };
 
-int countHearings(const clsZR3Form &form)
-{
-    return int(form.FASItemsCollection().size());
-}
-
-int countBoltOns(const clsZR3Form &form)
-{
-    return int(form.FASBoltOnPaymentsCollection().size());
-}
-
-int countTravel(const clsZR3Form &form)
-{
-    return int(form.FASTravelBoltOnsCollection().size());
-}
-
-const clsGrid AdvocacyCostsGrid = {countHearings, AdvocacyCostsCells, 16, 36, 7, 5, "Claim1A P8 Advocacy Costs Cont"};
-const clsGrid BoltOnPaymentsGrid
-    = {countBoltOns, BoltOnPaymentsCells, 6, 46, 27, 5, "Claim1A P8 Bolt on Payments Cont"};
-const clsGrid ExceptionalTravelGrid
-    = {countTravel, ExceptionalTravelCells, 10, 46, 35, 4, "Claim1A P8 Exceptional travel bolt-on Cont"};
+const clsGrid AdvocacyCostsGrid
+    = {mdCountOf<&clsZR3Form::FASItemsCollection>, AdvocacyCostsCells, 16, 36, 7, 5, "Claim1A P8 Advocacy Costs Cont"};
+const clsGrid BoltOnPaymentsGrid = {mdCountOf<&clsZR3Form::FASBoltOnPaymentsCollection>, BoltOnPaymentsCells, 6, 46, 27,
+    5, "Claim1A P8 Bolt on Payments Cont"};
+const clsGrid ExceptionalTravelGrid = {mdCountOf<&clsZR3Form::FASTravelBoltOnsCollection>, ExceptionalTravelCells, 10,
+    46, 35, 4, "Claim1A P8 Exceptional travel bolt-on Cont"};
 
 const clsGridPage::Grid Page8Grids[] = {
     {&AdvocacyCostsGrid, clsGridPage::StartsAnew},

@@ -107,12 +107,6 @@ protected:
         form.SeparateCounselAndNonCounselDisbursements();
         return fee;
     }
-    void addFees(int count)
-    {
-        const QString counsel = addCounsel(QStringLiteral("7A"), QStringLiteral("A. Barrister"));
-        for (int i = 0; i < count; ++i)
-            addFee(counsel);
-    }
     std::shared_ptr<clsZR3Disbursement> addDisbursement(const QString &description,
         const QString &amount = QStringLiteral("10.00"), const QString &vat = QStringLiteral("2.00"))
     {
@@ -123,6 +117,16 @@ protected:
         disbursement->VAT = vat;
         form.SeparateCounselAndNonCounselDisbursements();
         return disbursement;
+    }
+
+public:
+    // What fills a grid with rows.
+
+    void addFees(int count)
+    {
+        const QString counsel = addCounsel(QStringLiteral("7A"), QStringLiteral("A. Barrister"));
+        for (int i = 0; i < count; ++i)
+            addFee(counsel);
     }
     void addDisbursements(int count)
     {
@@ -143,6 +147,24 @@ protected:
         for (int i = 1; i <= count; ++i)
             form.AddJointInstruction()->ExpertType = QStringLiteral("Joint %1").arg(i);
     }
+    void addHearings(int count)
+    {
+        for (int i = 1; i <= count; ++i)
+            addHearing()->LevelOfCourt = QStringLiteral("Judge %1").arg(i);
+    }
+
+protected:
+    /// A hearing of three units at 100.00 and nothing else.
+    std::shared_ptr<clsZR3FASItem> addHearing()
+    {
+        const auto item = form.AddFASItem();
+        item->dDate = QStringLiteral("05/02/26");
+        item->HearingUnits = 3;
+        item->RateForUnits = QStringLiteral("100.00");
+        for (const char *amount : {"CourtBundlePayment", "SettlementFee", "ExceptionalTravel", "VATForFAS"})
+            item->field(QString::fromLatin1(amount))->writeText(QStringLiteral("0.00"));
+        return item;
+    }
 
     // What went to a sheet, which is named as "7(1)".
 
@@ -160,6 +182,15 @@ protected:
     QStringList lines(const QByteArray &sheet) const { return recorder->linesOf(QString::fromLatin1(sheet)); }
     QString templateOf(const QByteArray &sheet) const { return recorder->templateOf(QString::fromLatin1(sheet)); }
     static QStringList names(const char *all) { return QString::fromLatin1(all).split(u' '); }
+
+    /// "Exporting Page 1 1/11": the steps told to the user.
+    QStringList steps() const
+    {
+        QStringList told;
+        for (const auto &step : user.progress)
+            told << QStringLiteral("%1 %2/%3").arg(step.text).arg(step.value).arg(step.maximum);
+        return told;
+    }
 
     void switchLogOn()
     {

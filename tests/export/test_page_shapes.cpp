@@ -63,7 +63,7 @@ struct GridRow {
     const char *name;
     const char *formType;
     int page;
-    void (*add)(clsZR3Form &form, int count);
+    void (clsExportTest::*add)(int count);
     int cells;
     int firstCapacity;
     int furtherCapacity;
@@ -72,56 +72,17 @@ struct GridRow {
     const char *continuationTemplate;
 };
 
-void addFees(clsZR3Form &form, int count)
-{
-    const auto counsel = form.AddCounsel();
-    for (int i = 0; i < count; ++i) {
-        const auto fee = form.AddDisbursement();
-        fee->Counsel = true;
-        fee->CounselUniqueID = counsel->UniqueID();
-    }
-    form.SeparateCounselAndNonCounselDisbursements();
-}
-
-void addExperts(clsZR3Form &form, int count)
-{
-    for (int i = 0; i < count; ++i)
-        form.AddExpertInvoice();
-}
-
-void addJointInstructions(clsZR3Form &form, int count)
-{
-    for (int i = 0; i < count; ++i)
-        form.AddJointInstruction();
-}
-
-void addDisbursements(clsZR3Form &form, int count)
-{
-    for (int i = 0; i < count; ++i)
-        form.AddDisbursement();
-    form.SeparateCounselAndNonCounselDisbursements();
-}
-
-void addHearings(clsZR3Form &form, int count)
-{
-    for (int i = 0; i < count; ++i) {
-        const auto item = form.AddFASItem();
-        for (const char *amount : {"RateForUnits", "CourtBundlePayment", "SettlementFee", "ExceptionalTravel"})
-            item->field(QString::fromLatin1(amount))->writeText(QStringLiteral("0.00"));
-    }
-}
-
 // clang-format off
 const GridRow GridRows[] = {
-    {"counsel",     "Claim1",  4, addFees,               4, 32, 38,  9, 3, "Claim1 P4 Counsels Fees Cont"},
-    {"experts",     "Claim1",  6, addExperts,           12, 11, 32, 20, 4, "Claim1 P6 Expert Dibs Cont"},
-    {"joint",       "Claim1",  7, addJointInstructions,  5, 14, 30,  6, 5, "Claim1 P7 Expert Dibs Joint Instruction Cont"},
-    {"other",       "Claim1",  7, addDisbursements,      4, 12, 32, 25, 3, "Claim1 P7 Other Dibs Cont"},
-    {"counsel_1a",  "Claim1A", 5, addFees,               4, 32, 38,  9, 3, "Claim1A P5 Counsels Fees Cont"},
-    {"experts_1a",  "Claim1A", 6, addExperts,           12, 11, 32, 22, 5, "Claim1A P6 Expert Dibs Cont"},
-    {"joint_1a",    "Claim1A", 7, addJointInstructions,  5, 14, 30,  8, 5, "Claim1A P7 Expert Dibs Joint Instruction Cont"},
-    {"other_1a",    "Claim1A", 7, addDisbursements,      4, 12, 32, 27, 3, "Claim1a P7 Other Dibs Cont"},
-    {"advocacy_1a", "Claim1A", 8, addHearings,          14, 16, 36,  7, 5, "Claim1A P8 Advocacy Costs Cont"},
+    {"counsel",     "Claim1",  4, &clsExportTest::addFees,              4, 32, 38,  9, 3, "Claim1 P4 Counsels Fees Cont"},
+    {"experts",     "Claim1",  6, &clsExportTest::addExperts,           12, 11, 32, 20, 4, "Claim1 P6 Expert Dibs Cont"},
+    {"joint",       "Claim1",  7, &clsExportTest::addJointInstructions, 5, 14, 30,  6, 5, "Claim1 P7 Expert Dibs Joint Instruction Cont"},
+    {"other",       "Claim1",  7, &clsExportTest::addDisbursements,     4, 12, 32, 25, 3, "Claim1 P7 Other Dibs Cont"},
+    {"counsel_1a",  "Claim1A", 5, &clsExportTest::addFees,              4, 32, 38,  9, 3, "Claim1A P5 Counsels Fees Cont"},
+    {"experts_1a",  "Claim1A", 6, &clsExportTest::addExperts,           12, 11, 32, 22, 5, "Claim1A P6 Expert Dibs Cont"},
+    {"joint_1a",    "Claim1A", 7, &clsExportTest::addJointInstructions, 5, 14, 30,  8, 5, "Claim1A P7 Expert Dibs Joint Instruction Cont"},
+    {"other_1a",    "Claim1A", 7, &clsExportTest::addDisbursements,     4, 12, 32, 27, 3, "Claim1a P7 Other Dibs Cont"},
+    {"advocacy_1a", "Claim1A", 8, &clsExportTest::addHearings,          14, 16, 36,  7, 5, "Claim1A P8 Advocacy Costs Cont"},
 };
 // clang-format on
 
@@ -131,7 +92,7 @@ protected:
     {
         form.FormType = QString::fromLatin1(GetParam().formType);
         includeOnly({1, GetParam().page});
-        GetParam().add(form, count);
+        (this->*GetParam().add)(count);
         ASSERT_TRUE(exportClaim());
     }
     QByteArray sheet(int number) const { return QStringLiteral("%1(%2)").arg(GetParam().page).arg(number).toLatin1(); }

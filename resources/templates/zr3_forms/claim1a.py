@@ -102,8 +102,8 @@ PAGE_6 = sheet(
     spacer(8),
     subheading("The columns below"),
     definitions(
-        ("Expert", "The expert or firm instructed"),
-        ("Type", "The field in which the evidence was given"),
+        ("Expert", "The group of experts, such as paediatricians"),
+        ("Type", "The type of expert within the group"),
         ("PA", "Y if prior authority was obtained for the expert’s fee, N if it was not"),
         ("Preparation rate", "Hourly rate for preparation"),
         ("Preparation cost", "Cost of all time spent on preparation"),

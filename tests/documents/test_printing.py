@@ -249,8 +249,14 @@ class Fullest(unittest.TestCase):
         experts = (("977,777.68", 1), ("1,075,555.36", 1))
         # Sixteen hearings at 174,411.2959 and 8,888.88.
         hearings = (("2,790,580.73", 1), ("142,222.08", 1))
-        for name, grids in (("full", (("5(1)", schedule), ("6(1)", experts))),
-                            ("full-1a", (("10(1)", schedule), ("6(1)", experts), ("8(1)", hearings)))):
+        # The same of 34 items, 44 experts and 89 hearings.
+        many_items = (("934,315.62", 4), ("800,841.96", 1), ("4,538,104.44", 1))
+        many_experts = (("3,911,110.72", 1), ("391,110.72", 1), ("4,302,221.44", 1))
+        many_hearings = (("15,522,605.34", 1), ("791,110.32", 1))
+        for name, grids in (
+                ("full", (("5(1)", schedule), ("6(1)", experts))),
+                ("full-1a", (("10(1)", schedule), ("6(1)", experts), ("8(1)", hearings))),
+                ("over-1a", (("10(2)", many_items), ("6(1)", many_experts), ("8(1)", many_hearings)))):
             found = dict(zip(sheets(name), pages(name), strict=True))
             for sheet, amounts in grids:
                 for amount, count in amounts:

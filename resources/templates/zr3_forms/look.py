@@ -110,7 +110,8 @@ GRAND_TOTAL_LABEL = Style("Grand Total Label", 11, 13, bold=True, align=RIGHT,
 # twenty capitals needs both.
 GRID = Style("Grid", 9, 10, left=80, right=80)
 # An amount must never break: half a figure reads as another figure. Hence the small type and the narrow insets where
-# columns are many. The columns hold six figures before the point, those of hourly rates four, the last total seven.
+# columns are many. The columns hold six figures before the point, those of hourly rates four, of hearings'
+# rates and fixed payments five, the sums seven.
 DENSE_GRID = Style("Dense Grid", 7.5, 8, left=30, right=35)
 DENSEST_GRID = Style("Densest Grid", 7.5, 8, left=15, right=35)
 SCHEDULE = Style("Schedule", 8.5, 10, left=40, right=40)

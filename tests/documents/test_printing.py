@@ -216,6 +216,17 @@ class Fullest(unittest.TestCase):
                         self.assertTrue(wanted)
                         self.assertEqual(dict(wanted - Counter(words(found[sheet]))), {})
 
+    def test_the_longest_judge_stands_on_two_lines(self):
+        # A third line would be hidden by the row's edge, though it is still among the words of the file.
+        page = str(sheets("full-1a").index("8(1)") + 1)
+        boxes = subprocess.run(["pdftotext", "-bbox", "-f", page, "-l", page, str(PDFS["full-1a"]), "-"], check=True,
+                               stdout=subprocess.PIPE).stdout.decode("utf-8")
+        first, last = ([float(top) for top in re.findall(rf'yMin="([\d.]+)"[^>]*>{word}<', boxes)]
+                       for word in ("Lay", "Clerks"))
+        self.assertEqual(len(first), 4)
+        for top, bottom in zip(sorted(first), sorted(last), strict=True):
+            self.assertLess(bottom - top, 9)
+
     def test_no_amount_is_cut(self):
         for name, form, amounts in (
                 ("full", claims.CLAIM1, (

@@ -173,14 +173,19 @@ class Claim:
             self.add("disbursements", "disbursement", counsel="False", counseluniqueid="", dateofwork="28/09/2026",
                      description=self.text(50), amount="888888.88", vat="88888.88")
 
+    # What a user may write at a hearing, the longest of each kind among them.
+    JUDGES = ("Lay Justices or Clerks", "Deputy District Judge", "Circuit judge", "High Court Judge")
+    HEARINGS = ("FDR", "FHDRA", "Interim", "Hearing")
+    DISTANCES = ("62 miles", "150 miles each way by train and car", "888 miles there and back")
+
     def add_hearings(self, count, bolt_ons, travels):
         """Hearings; the first ones with a bolt-on's description, and with an exceptional travel."""
         for n in range(count):
-            self.add("fasitems", "fasitem", ddate="28/09/26", levelofcourt="Circuit judge", fdr="FDR",
-                     actualtimespent=888, hearingunits=88, rateforunits="888.88", boltonclaimed="88.88",
+            self.add("fasitems", "fasitem", ddate="28/09/26", levelofcourt=self.JUDGES[n % 4], fdr=self.HEARINGS[n % 4],
+                     actualtimespent=1440, hearingunits=88, rateforunits="888.88", boltonclaimed="88.88",
                      boltondescription=self.text(35) if n < bolt_ons else "", courtbundlepayment="8888.88",
                      settlementfee="8888.88", exceptionaltravel="8888.88",
-                     exceptionaltraveldistance="888 miles there and back" if n < travels else "",
+                     exceptionaltraveldistance=self.DISTANCES[n % 3] if n < travels else "",
                      exceptionaltravelreason=self.text(35) if n < travels else "", vatforfas="8888.88")
 
     def write(self, path):

@@ -216,6 +216,17 @@ class Fullest(unittest.TestCase):
                         self.assertTrue(wanted)
                         self.assertEqual(dict(wanted - Counter(words(found[sheet]))), {})
 
+    def test_the_longest_judge_stands_on_two_lines(self):
+        # A third line would be hidden by the row's edge, though it is still among the words of the file.
+        page = str(sheets("full-1a").index("8(1)") + 1)
+        boxes = subprocess.run(["pdftotext", "-bbox", "-f", page, "-l", page, str(PDFS["full-1a"]), "-"], check=True,
+                               stdout=subprocess.PIPE).stdout.decode("utf-8")
+        first, last = ([float(top) for top in re.findall(rf'yMin="([\d.]+)"[^>]*>{word}<', boxes)]
+                       for word in ("Lay", "Clerks"))
+        self.assertEqual(len(first), 4)
+        for top, bottom in zip(sorted(first), sorted(last), strict=True):
+            self.assertLess(bottom - top, 9)
+
     def test_no_amount_is_cut(self):
         for name, form, amounts in (
                 ("full", claims.CLAIM1, (
@@ -249,8 +260,14 @@ class Fullest(unittest.TestCase):
         experts = (("977,777.68", 1), ("1,075,555.36", 1))
         # Sixteen hearings at 174,411.2959 and 8,888.88.
         hearings = (("2,790,580.73", 1), ("142,222.08", 1))
-        for name, grids in (("full", (("5(1)", schedule), ("6(1)", experts))),
-                            ("full-1a", (("10(1)", schedule), ("6(1)", experts), ("8(1)", hearings)))):
+        # The same of 34 items, 44 experts and 89 hearings.
+        many_items = (("934,315.62", 4), ("800,841.96", 1), ("4,538,104.44", 1))
+        many_experts = (("3,911,110.72", 1), ("391,110.72", 1), ("4,302,221.44", 1))
+        many_hearings = (("15,522,605.34", 1), ("791,110.32", 1))
+        for name, grids in (
+                ("full", (("5(1)", schedule), ("6(1)", experts))),
+                ("full-1a", (("10(1)", schedule), ("6(1)", experts), ("8(1)", hearings))),
+                ("over-1a", (("10(2)", many_items), ("6(1)", many_experts), ("8(1)", many_hearings)))):
             found = dict(zip(sheets(name), pages(name), strict=True))
             for sheet, amounts in grids:
                 for amount, count in amounts:

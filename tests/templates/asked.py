@@ -237,5 +237,7 @@ CELL_ALLOWANCES = {
     4: {0: 35},                             # other disbursements
     5: {0: 12, 1: 20, 2: 20, 3: 20},        # joint instruction
 }
-# Hourly rates of experts and of the schedule: their columns are narrower than those of other amounts.
-HOURLY_RATES = {12: [3, 5], 13: [9]}
+# Columns that are narrower than those of other amounts, and what they must hold: hourly rates of experts and of the
+# schedule, and the rate and the three fixed payments of a hearing, of which none comes near six figures.
+RATE, PAYMENT = "9,999.99", "99,999.99"
+NARROW = {12: {3: RATE, 5: RATE}, 13: {9: RATE}, 14: {5: PAYMENT, 9: PAYMENT, 10: PAYMENT, 11: PAYMENT}}

@@ -10,13 +10,14 @@ import subprocess
 import tempfile
 import unittest
 import zipfile
+from collections import Counter
 from pathlib import Path
 
 from lxml import etree
 
 import reading
 from asked import (
-    ALLOWANCES, CELL_ALLOWANCES, GRIDS, HOURLY_RATES, MONEY, PLACEHOLDERS, TICKS,
+    ALLOWANCES, CELL_ALLOWANCES, GRIDS, MONEY, NARROW, PLACEHOLDERS, TICKS,
 )
 from reading import Template, W, find, text, words
 
@@ -25,7 +26,7 @@ FOLDER = None
 # Capitals, the widest that an answer is in practice; each ends on a mark of its own.
 CAPITALS = ("THE CLIENT APPLIED FOR AN ORDER THAT THE CHILD LIVE WITH HER. THE RESPONDENT FATHER "
             "OPPOSED, AND A REPORT WAS DIRECTED. ")
-AMOUNT, RATE = "123,456.78", "9,999.99"
+AMOUNT = "123,456.78"
 
 TOOLS = [tool for tool in ("soffice", "pdfinfo", "pdftotext") if not shutil.which(tool)]
 
@@ -65,7 +66,7 @@ class Filled:
 
     def __init__(self, path):
         self.template = Template(path)
-        self.marks, self.amounts, self.rates, self.cells = [], 0, 0, 0
+        self.marks, self.amounts, self.cells = [], Counter(), 0
         self.tick_words = []
         name = self.template.name
         for tick_name in words(TICKS, name):
@@ -74,7 +75,7 @@ class Filled:
             tick(run)
         for money in words(MONEY, name):
             self.answer(money, AMOUNT)
-            self.amounts += 1
+            self.amounts[AMOUNT] += 1
         for number, (long, length) in enumerate(ALLOWANCES.get(name, {}).items()):
             self.marks.append("Q%02d" % number)
             self.answer(long, capitals(length, self.marks[-1]))
@@ -89,12 +90,10 @@ class Filled:
     def fill(self, row, count, money):
         lengths = CELL_ALLOWANCES.get(count, {}) if count != 4 or len(money) == 3 else {}
         for i, cell in enumerate(row.findall(W + "tc")):
-            if i in HOURLY_RATES.get(count, []):
-                type_into(find(cell, "p"), RATE)
-                self.rates += 1
-            elif i in money:
-                type_into(find(cell, "p"), AMOUNT)
-                self.amounts += 1
+            if i in money:
+                amount = NARROW.get(count, {}).get(i, AMOUNT)
+                type_into(find(cell, "p"), amount)
+                self.amounts[amount] += 1
             elif i in lengths:
                 type_into(find(cell, "p"), capitals(lengths[i], "QQ"))
                 self.cells += 1
@@ -155,8 +154,8 @@ class Paper(unittest.TestCase):
         shown = self.told("pdftotext", paper, "-").split()
         self.assertEqual([mark for mark in sheet.marks if mark not in shown], [], "cut answers")
         self.assertEqual(shown.count("QQ"), sheet.cells, "cells with whole texts")
-        self.assertEqual(shown.count(AMOUNT), sheet.amounts, "amounts on one line")
-        self.assertEqual(shown.count(RATE), sheet.rates, "hourly rates on one line")
+        for amount, count in sheet.amounts.items():
+            self.assertEqual(shown.count(amount), count, "amounts on one line: " + amount)
         lines = [" ".join(line.split())
                  for line in self.told("pdftotext", "-layout", paper, "-").splitlines()]
         self.assertEqual([word for word in sheet.tick_words

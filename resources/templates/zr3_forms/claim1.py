@@ -60,8 +60,8 @@ PAGE_6 = sheet(
     spacer(8),
     subheading("The columns below"),
     definitions(
-        ("Expert, type", "The expert or firm instructed, and the field in which the evidence was "
-                         "given"),
+        ("Expert, type", "The group of experts, such as paediatricians, and the type of expert "
+                         "within the group"),
         ("PA", "Y if prior authority was obtained for the expert’s fee, N if it was not"),
         ("Preparation", "Hourly rate, and the cost of all time spent on preparation"),
         ("Court attendance", "Hourly rate, and the cost of all time spent at court"),

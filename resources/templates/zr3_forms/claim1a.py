@@ -8,7 +8,7 @@ from . import look, recovery, shared
 from .look import CENTRE, RIGHT
 from .pieces import (
     Column, Field, Form, Grid, Total, choice, definitions, fields, grid_heads, grid_table, head,
-    money_row, notes, place, question, remark, section, sheet, spacer, strip, subheading,
+    money_row, notes, place, question, section, sheet, spacer, strip, subheading,
     text_box, ticks, totals,
 )
 
@@ -102,8 +102,8 @@ PAGE_6 = sheet(
     spacer(8),
     subheading("The columns below"),
     definitions(
-        ("Expert", "The expert or firm instructed"),
-        ("Type", "The field in which the evidence was given"),
+        ("Expert", "The group of experts, such as paediatricians"),
+        ("Type", "The type of expert within the group"),
         ("PA", "Y if prior authority was obtained for the expert’s fee, N if it was not"),
         ("Preparation rate", "Hourly rate for preparation"),
         ("Preparation cost", "Cost of all time spent on preparation"),
@@ -127,18 +127,18 @@ ADVOCACY = Grid(
             ("Claim", 2)),
     columns=(
         Column("Date", 7.8, CENTRE),
-        Column("Judge", 9.8, CENTRE),
-        Column("FDR", 6.4, CENTRE),
-        Column("Time\n(mins)", 6.4, CENTRE),
+        Column("Judge", 12.6, CENTRE),
+        Column("FDR", 8, CENTRE),
+        Column("Time\n(mins)", 6.2, CENTRE),
         Column("Units", 5.4, CENTRE, begins_group=True),
-        Column("Rate\n£", 9.6, RIGHT),
+        Column("Rate\n£", 8.6, RIGHT),
         Column("Payment\n£", 9.6, RIGHT),
         Column("%", 6.2, RIGHT, begins_group=True),
         Column("Amount\n£", 9.6, RIGHT),
-        Column("Bundle\n£", 9.6, RIGHT, begins_group=True),
-        Column("Settle-\nment £", 9.6, RIGHT),
-        Column("Travel\n£", 9.6, RIGHT),
-        Column("Total\n£", 10.8, RIGHT, begins_group=True),
+        Column("Bundle\n£", 8.8, RIGHT, begins_group=True),
+        Column("Settle-\nment £", 8.8, RIGHT),
+        Column("Travel\n£", 8.8, RIGHT),
+        Column("Total\n£", 10, RIGHT, begins_group=True),
         Column("VAT\n£", 9.6, RIGHT)))
 
 BOLT_ONS = Grid(row=17, heads=17, columns=(
@@ -147,21 +147,23 @@ BOLT_ONS = Grid(row=17, heads=17, columns=(
 
 TRAVEL = Grid(row=17, heads=17, columns=(
     Column("Date", 14),
-    Column("Distance", 34),
-    Column("Reason", 72)))
+    Column("Distance", 50),
+    Column("Reason", 56)))
 
 SCHEME = "Costs under Family Advocacy Scheme"
-EACH_HEARING = ("One line for each hearing, in order of date. Amounts are in pounds. The total of a "
-                "line does not include VAT.")
+EACH_HEARING = ("One line for each hearing. Amounts are in pounds. The total of a line does not include "
+                "VAT.")
 EACH_JOURNEY = "One line for each hearing to which travel was exceptional."
 CONTINUED_ROW = 14.5
 
 PAGE_8 = sheet(
     head(FORM, 8, 15, SCHEME),
-    remark(EACH_HEARING),
+    notes(EACH_HEARING),
+    spacer(5),
     subheading("A\u2003Advocacy costs"),
     grid_table(ADVOCACY, 16),
-    totals(ADVOCACY, Total(12, "Total for advocacy £"), Total(1, name="actot"),
+    # The sum of so many hearings needs more room than the column of their totals has.
+    totals(ADVOCACY, Total(11, "Total for advocacy £"), Total(2, name="actot"),
            Total(1, name="acvat"), style=look.DENSE_TOTAL, height=20),
     spacer(5),
     subheading("B\u2003Bolt-on payments"),

@@ -106,11 +106,13 @@ GRAND_TOTAL = Style("Grand Total", 14, 18, bold=True, left=100, right=100)
 GRAND_TOTAL_LABEL = Style("Grand Total Label", 11, 13, bold=True, align=RIGHT,
                           left=100, right=100)
 
-# Two lines of a grid's type fill a row of 20 points: a certificate reference of
-# twenty capitals needs both.
-GRID = Style("Grid", 9, 10, left=80, right=80)
+# Two lines of a grid's type stand clear of the rules in a row of 20 points: a
+# certificate reference of twenty capitals needs both.  Capitals stand high in so
+# low a line; the point before it centres them.
+GRID = Style("Grid", 9, 9.5, before=1, left=80, right=80)
 # An amount must never break: half a figure reads as another figure. Hence the small type and the narrow insets where
-# columns are many. The columns hold six figures before the point, those of hourly rates four, the last total seven.
+# columns are many. The columns hold six figures before the point, those of hourly rates four, of hearings'
+# rates and fixed payments five, the sums seven.
 DENSE_GRID = Style("Dense Grid", 7.5, 8, left=30, right=35)
 DENSEST_GRID = Style("Densest Grid", 7.5, 8, left=15, right=35)
 SCHEDULE = Style("Schedule", 8.5, 10, left=40, right=40)

@@ -26,7 +26,7 @@ ERRORS = {
 # What a signal may interrupt.
 INTERRUPTED = ["open", "open-write", "read", "write", "fsync", "truncate", "close"]
 # What lasts, once it has begun, until somebody does something about it.
-LASTING = [ENOSPC, EDQUOT, EROFS, EIO]
+LASTING = [ENOSPC, EROFS, EIO]
 
 
 def plans(step):

@@ -32,7 +32,11 @@ std::vector<fs::path> filesIn(const fs::path &folder)
 {
     std::vector<fs::path> files;
     std::error_code error;
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+    fs::directory_iterator entry;
+    do
+        entry = fs::directory_iterator(folder, error);
+    while (error == std::errc::interrupted);
+    for (const fs::directory_iterator end; !error && entry != end; entry.increment(error)) {
         const fs::file_status status = entry->symlink_status(error);
         mdCheckSystemError(error);
         if (status.type() == fs::file_type::directory)

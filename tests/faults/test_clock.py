@@ -7,7 +7,7 @@ from support import *
 
 YEAR = 366 * 24 * 3600
 NOW = int(time.time())
-CLOCKS = {
+JUMPS = {
     "1 January 1970": f"{-NOW}",
     "before 1970": f"{-NOW - YEAR}",
     "1980, before archives begin": f"{-NOW + 9 * YEAR}",
@@ -20,10 +20,7 @@ CLOCKS = {
 
 
 def with_clock(seconds, zone="Europe/London"):
-    return environment() | {"LD_PRELOAD": CLOCKS_LIBRARY, "ZR3_CLOCK": seconds, "TZ": zone}
-
-
-CLOCKS_LIBRARY = os.environ.get("ZR3_CLOCKS", "")
+    return environment() | {"LD_PRELOAD": CLOCKS, "ZR3_CLOCK": seconds, "TZ": zone}
 
 
 class Clock(SaveTest):
@@ -32,12 +29,12 @@ class Clock(SaveTest):
 
     def test_jumps_for_certain(self):
         """The clock that is put in force is the one that programs see."""
-        for name, seconds in CLOCKS.items():
+        for name, seconds in JUMPS.items():
             seen = subprocess.run(["date", "+%s"], env=with_clock(seconds), capture_output=True, text=True, check=True)
             self.assertLess(abs(int(seen.stdout) - time.time() - int(seconds.split(",")[0])), 60, name)
 
     def test_save(self):
-        for name, seconds in CLOCKS.items():
+        for name, seconds in JUMPS.items():
             with self.subTest(clock=name):
                 self.put_old()
                 done = self.run_at(seconds, "save", self.sources["new"], self.file)
@@ -50,7 +47,7 @@ class Clock(SaveTest):
         self.assertEqual(0, run("export", source, self.disk).status)
         document = self.disk / "Claim1.doc"
         before = document.read_bytes()
-        for name, seconds in CLOCKS.items():
+        for name, seconds in JUMPS.items():
             with self.subTest(clock=name):
                 document.unlink()
                 done = self.run_at(seconds, "export", source, self.disk)

@@ -10,7 +10,7 @@ from pathlib import Path
 from support import *
 
 sys.path.insert(0, str(Path(__file__).parent.parent / "window"))
-from real_desktop import NEEDED, Desktop  # pylint: disable=wrong-import-position
+from real_desktop import NEEDED, Desktop
 
 PROGRAM = os.environ.get("ZR3_PROGRAM", "")
 MAIN = "Velmor ZR3"

@@ -106,7 +106,7 @@ Status exportSheetsAndDocument(clsConsoleUserInterface &console, clsExport &run)
 void sweep(const clsExport &run)
 {
     try {
-        if (!run.keepsSheets && QFileInfo::exists(mdExportTempFolder(run.exportFolder)))
+        if (run.folderLock && !run.keepsSheets && QFileInfo::exists(mdExportTempFolder(run.exportFolder)))
             mdClearExportTempFolder(run.exportFolder, true);
     } catch (const std::exception &) { }
 }

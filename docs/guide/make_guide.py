@@ -69,6 +69,11 @@ def keys_of(text):
     return re.sub(r"\[\[(.+?)\]\]", caps, text)
 
 
+def captions_in(text):
+    """A field is named as on its screen, but for a colon in the middle of a sentence."""
+    return re.sub(r":\*\*(?=[.,;:)])", "**", text)
+
+
 def figure(match):
     alt, name, width = match["alt"], match["name"], match["width"]
     pixels = Image.open(picture(name)).width
@@ -90,7 +95,7 @@ def message_text(text):
 
 
 def inline(text):
-    made = markdown.markdown(keys_of(text), extensions=["smarty"])
+    made = markdown.markdown(keys_of(captions_in(text)), extensions=["smarty"])
     return made.removeprefix("<p>").removesuffix("</p>")
 
 
@@ -115,9 +120,11 @@ def message_tables(groups):
         if "note" in group:
             made.append(f'<p>{inline(group["note"])}</p>')
         for message in group["message"]:
+            # A window that asks for a folder has nothing but its title.
+            title = f'<p class="title">{escaped(message["title"])}</p>' if message["title"] != message["text"] else ""
             made.append(
                 f'<section class="message" id="{message_id(message)}">'
-                f'<div class="box"><p class="title">{escaped(message["title"])}</p>{message_text(message["text"])}</div>'
+                f'<div class="box">{title}{message_text(message["text"])}</div>'
                 f'<p><span class="lead">What it means.</span> {inline(message["means"])}</p>'
                 f'<p><span class="lead">What to do.</span> {inline(message["do"])}</p></section>')
     return "\n".join(made)
@@ -149,7 +156,10 @@ def message_index(messages):
     for group in messages["group"]:
         for message in group["message"]:
             entries.add((first_words(message["text"]), message_id(message), False))
-            entries.add((message["title"], message_id(message), True))
+        # Messages of one title that stand side by side need the title once.
+        titles = {message["title"]: message_id(message) for message in reversed(group["message"])
+                  if message["title"] != message["text"]}
+        entries |= {(title, target, True) for title, target in titles.items()}
     for name in WORDS:
         entries |= {(first_words(row["words"]), words_id(name, row), False) for row in messages[name]}
     rows = []
@@ -169,15 +179,21 @@ def with_starts(made):
     return re.sub(r'<ol start="(\d+)">', lambda match: f'<ol style="counter-reset: list-item {int(match[1]) - 1}">', made)
 
 
+def with_lead_ins(made):
+    """What says what a table holds stays with it, and a heading and its words with the picture of the screen."""
+    made = re.sub(r"<p>((?:(?!</p>).)*</p>\s*<table>)", r'<p class="lead-in">\1', made, flags=re.DOTALL)
+    return re.sub(r"(</h[23]>\s*)<p>((?:(?!</p>).)*</p>\s*<figure>)", r'\1<p class="lead-in">\2', made, flags=re.DOTALL)
+
+
 def chapters(tables):
     converter = markdown.Markdown(extensions=["tables", "attr_list", "def_list", "sane_lists", "smarty", "admonition"],
                                   output_format="html")
     for file in sorted(SOURCES.glob("[0-9]*.md")):
         text = file.read_text(encoding="utf-8")
-        made = converter.reset().convert(figures(keys_of(text)))
+        made = converter.reset().convert(figures(keys_of(captions_in(text))))
         for name, table in tables.items():
             made = made.replace(f"<p>{{{name}}}</p>", table)
-        yield f'<section class="chapter">{with_starts(with_pages(made))}</section>'
+        yield f'<section class="chapter">{with_lead_ins(with_starts(with_pages(made)))}</section>'
 
 
 def numbered(body):

@@ -187,9 +187,8 @@ class Keys(unittest.TestCase):
     """The keys of the program are those of the table."""
 
     NAMES = {"Return": "Enter", "Backtab": "Shift+Tab", "Escape": "Esc"}
-    # Looked at by the program to know what is held or sent by itself, and told with the keys that they go with.
-    # The last letter stands for the end of those that are typed.
-    PARTS = {"Alt", "F10", "S", "ydiaeresis"}
+    # Told with the keys that they go with; the last two only say which keys type a character.
+    PARTS = {"Alt", "F10", "S", "Backspace", "ydiaeresis"}
 
     def setUp(self):
         self.keys = {key for group in table("keys.toml")["group"] for row in group["key"]
@@ -277,6 +276,16 @@ class Messages(unittest.TestCase):
         for call in self.calls:
             if call.door != scan.ERROR:
                 self.assertTrue(call.pieces, f"{call.place} shows a text that the scan does not find")
+
+    def test_there_is_no_other_door(self):
+        for file, code in self.sources.files.items():
+            used = set(re.findall(r"\b(QMessageBox|QErrorMessage|QInputDialog)\b", code))
+            self.assertLessEqual(used, {"QMessageBox"} if file == "shell/clsWindowUserInterface.cpp" else set(), file)
+            if "frmMessageBox" in code:
+                self.assertIn(file, ("controls/frmMessageBox.h", "controls/frmMessageBox.cpp", "shell/clsWindowUserInterface.cpp"))
+            self.assertLessEqual(set(re.findall(r"UserInterface\(\)\.(\w+)", code)), {
+                "customMessage", "systemMessage", "showProgress", "clearProgress", "chooseFolder", "chooseFileToOpen",
+                "chooseFileToSave", "playSound", "openTarget"}, file)
 
     def test_every_text_has_its_entry(self):
         for call in self.calls:

@@ -68,7 +68,7 @@ def spoken(text):
 class Documents(unittest.TestCase):
     def setUp(self):
         if not (GUIDE.is_file() or SHORTCUTS.is_file()) and subprocess.run(
-                ["/usr/bin/python3", "-c", "import weasyprint, markdown"], capture_output=True).returncode:
+                [sys.executable, "-c", "import weasyprint, markdown"], capture_output=True).returncode:
             self.skipTest("the guide is not made without WeasyPrint and Python-Markdown")
         for program in ("pdfinfo", "pdftotext", "pdffonts"):
             if not shutil.which(program):
@@ -96,7 +96,7 @@ class Documents(unittest.TestCase):
 
     def test_the_same_sources_make_the_same_bytes(self):
         with tempfile.TemporaryDirectory() as folder:
-            subprocess.run(["/usr/bin/python3", "-B", SOURCES / "make_guide.py", folder, os.environ["ZR3_VERSION"]], check=True)
+            subprocess.run([sys.executable, "-B", SOURCES / "make_guide.py", folder, os.environ["ZR3_VERSION"]], check=True)
             for path in (GUIDE, SHORTCUTS):
                 self.assertEqual((Path(folder) / path.name).read_bytes(), path.read_bytes(), path.name)
 
@@ -304,6 +304,13 @@ class Messages(unittest.TestCase):
         told = {(row["number"], row["words"]) for row in self.table["error"]}
         for name, words in rows:
             self.assertIn((int(numbers[name]), words), told)
+
+    def test_the_tool_says_nothing_else(self):
+        written = [text for file, code in self.sources.files.items() for text in
+                   re.findall(r'f(?:puts|printf)\(\s*(?:\w+, )?"([^"]*[a-z]{2} [^"]*)"', code)]
+        self.assertEqual(len(written), 1)
+        for text in written:
+            self.assertTrue(self.told(scan.pieces(text.replace(r"\n", "\n")), self.rows["tool"]), text)
 
     def test_every_note_is_told(self):
         notes = re.findall(r'\.(?:empty|whyNoTick|whatFits)\s*=\s*(?:QLatin1String\()?"([^"]+)"', self.sources.all)

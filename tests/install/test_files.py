@@ -13,7 +13,7 @@ from pathlib import Path
 sys.path.insert(0, str(Path(__file__).parent.parent / "documents"))
 
 import installed
-from installed import BUILD, FRESH, SAMPLES, TYPE, User, run
+from installed import BUILD, FRESH, SAMPLES, SOURCES, TYPE, User, run
 from support import main, need
 
 SIZES = (16, 22, 24, 32, 48, 64, 128, 256, 512)
@@ -32,7 +32,8 @@ def built(folder):
 
 class Files(unittest.TestCase):
     def test_the_program_folder_is_whole(self):
-        expected = {Path(name) for name in ("velmor-zr3", "zr3tool", "Databases/Preferences Database.vzp")}
+        expected = {Path(name) for name in ("velmor-zr3", "zr3tool", "Installed files.txt",
+                                               "Databases/Preferences Database.vzp")}
         for folder in ("Documentation", "Sounds", "Templates"):
             expected |= built(folder)
         self.assertTrue(any(path.parts[0] == "Templates" for path in expected))
@@ -137,22 +138,24 @@ class WithoutAWindow(unittest.TestCase):
 
 
 class Uninstall(unittest.TestCase):
-    """In a copy of what the build folder knows of its installation, so that that of somebody else stays."""
+    def removed(self, prefix):
+        """Installs, puts a file of somebody else beside it, and removes."""
+        installed.install(prefix)
+        (prefix / "bin/another").write_text("")
+        run("cmake", f"-DPREFIX={prefix}", "-P", SOURCES / "packaging/uninstall.cmake")
 
     def test_it_takes_its_own_files_and_no_others(self):
-        prefix = FOLDER / "removed"
-        (prefix / "bin").mkdir(parents=True)
-        (prefix / "bin/another").write_text("")
-        build = FOLDER / "build"
-        (build / "packaging").mkdir(parents=True)
-        installed.install(prefix)
-        script = (BUILD / "packaging/uninstall.cmake").read_text("utf-8")
-        self.assertIn(str(BUILD), script)
-        (build / "uninstall.cmake").write_text(script.replace(str(BUILD), str(build)), "utf-8")
-        (build / "install_manifest.txt").write_bytes((BUILD / "install_manifest.txt").read_bytes())
-        run("cmake", "-P", build / "uninstall.cmake")
-        self.assertEqual(["another"], sorted(path.name for path in prefix.rglob("*") if not path.is_dir()))
-        self.assertFalse((prefix / "lib").exists())
+        prefix = FOLDER / "removed [it]"
+        self.removed(prefix)
+        self.assertEqual(["bin", "bin/another"], sorted(str(path.relative_to(prefix)) for path in prefix.rglob("*")))
+
+    def test_it_leaves_preferences_that_somebody_has_there(self):
+        prefix = FOLDER / "removed too"
+        preferences = prefix / "lib/velmor-zr3/Databases/Preferences Database.vzp"
+        preferences.parent.mkdir(parents=True)
+        preferences.write_text("mine")
+        self.removed(prefix)
+        self.assertEqual("mine", preferences.read_text())
 
 
 if __name__ == "__main__":

@@ -84,8 +84,8 @@ TEST_F(Log, AMissingFolderShowsBothBoxesForEachLine)
 
 TEST_F(Log, WhereOnlyAnAdministratorMayWriteItLiesWithThePreferences)
 {
-    for (const char *folder : {"program/Logs", "own", "config/Velmor"})
-        make(QString::fromUtf8(folder));
+    for (const char *name : {"program/Logs", "own", "config/Velmor"})
+        make(QString::fromUtf8(name));
     put(path("config/Velmor/ZR3.conf"), "[General]\nDatabase%20Path=" + QFile::encodeName(path("own")) + '\n');
     ASSERT_EQ(0, ::chmod(QFile::encodeName(folder.path()).constData(), 0755));
     ASSERT_EQ(0, ::chmod(QFile::encodeName(path("own")).constData(), 0777));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 #include <QString>
 
 #include <vector>
@@ -28,7 +29,7 @@ private:
     struct clsSaved {
         QString path;
         QString text;
-        QByteArray figures;
+        QList<QByteArray> figures;
     };
 
     /// The claim as it stands while it is being written: the action that saved it may go on to the next claim.

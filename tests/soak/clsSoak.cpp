@@ -240,11 +240,8 @@ void clsSoak::leaveBox(const QWidget &front)
 {
     // Nothing is saved on the way, and every editor is left.
     const bool asksToSave = front.windowTitle() == QLatin1String("Save?");
-    if (asksToSave)
-        Hands::click(*front.findChild<QWidget *>(QStringLiteral("cmdNo")));
-    else if (front.findChild<QWidget *>(QStringLiteral("cmdYes")))
-        Hands::click(*front.findChild<QWidget *>(QStringLiteral("cmdYes")));
-    else
+    auto *button = front.findChild<QWidget *>(QLatin1String(asksToSave ? "cmdNo" : "cmdYes"));
+    if (!button || !Hands::click(*button))
         Hands::key(Qt::Key_Return);
 }
 

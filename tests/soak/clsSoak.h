@@ -36,15 +36,6 @@ public:
     const clsTrail &trail() const { return m_trail; }
 
 private:
-    /// An action that has not returned. Events go on inside it, and what it opens has a loop of its own.
-    struct clsFrame {
-        QPointer<QWidget> modal;
-        QPointer<QWidget> popup;
-        bool hadModal;
-        bool hadPopup;
-        bool isInTheWay() const;
-    };
-
     void live();
     void turn();
     bool isFree() const;
@@ -67,7 +58,8 @@ private:
     clsMemoryWatch m_memory;
     clsDiskCheck m_disk;
     QStringList m_claims;
-    std::vector<clsFrame> m_frames;
+    std::vector<int>
+        m_loops; ///< of each action that has not returned: the depth of the loop of events that it began in
     std::map<QString, int> m_boxes;
     std::map<QString, int> m_allowed;
     QElapsedTimer m_waiting;

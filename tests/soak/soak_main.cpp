@@ -13,10 +13,6 @@
 
 #include <unistd.h>
 
-#if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/common_interface_defs.h>
-#endif
-
 namespace {
 
 clsSoak *running = nullptr;
@@ -79,10 +75,10 @@ int main(int argc, char **argv)
     clsSoak soak(options);
     running = &soak;
     std::signal(SIGALRM, onSignal);
-#if defined(__SANITIZE_ADDRESS__)
-    __sanitizer_set_death_callback(printTrail);
-#else
-    for (const int signal : {SIGSEGV, SIGBUS, SIGFPE, SIGABRT})
+    // The sanitizers look at the others themselves, and abort then.
+    std::signal(SIGABRT, onSignal);
+#if !defined(__SANITIZE_ADDRESS__)
+    for (const int signal : {SIGSEGV, SIGBUS, SIGFPE})
         std::signal(signal, onSignal);
 #endif
     qInstallMessageHandler(failOnWarning);

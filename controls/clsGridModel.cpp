@@ -148,7 +148,8 @@ int clsGridModel::columnCount(const QModelIndex &parent) const
 
 QVariant clsGridModel::data(const QModelIndex &index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    // The key that copies asks for the current cell also where there is none.
+    if (!index.isValid() || !checkIndex(index))
         return {};
     const clsGridCell &shown = cell(index.row(), index.column());
     switch (role) {

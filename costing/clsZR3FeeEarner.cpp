@@ -2,7 +2,6 @@
 
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdReadDerived.h"
-#include "shell/mdExisting.h"
 
 std::span<const clsXMLDerivedProperty> clsZR3FeeEarner::DerivedProperties()
 {
@@ -21,5 +20,6 @@ std::shared_ptr<clsZR3FeeEarnerGroup> clsZR3FeeEarner::Group() const
 
 QString clsZR3FeeEarner::GroupReference() const
 {
-    return mdExisting(Group()).Reference();
+    const auto group = Group();
+    return group ? group->Reference() : QString();
 }

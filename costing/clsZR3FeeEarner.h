@@ -28,7 +28,8 @@ public:
 
     /// The group that `GroupUniqueID` names, or nothing.
     std::shared_ptr<clsZR3FeeEarnerGroup> Group() const;
-    /// That group's reference; without a group it is the object error.
+    /// That group's reference. It is empty where a file written by hand names a group that it doesn't have: the list
+    /// shows the fee earner all the same, and its editor gives it another group. Without one its work has no price.
     QString GroupReference() const;
 
 private:

@@ -17,10 +17,12 @@ void loadGroup(const clsScreenRow &, QWidget &control, clsXMLRecord &record)
         static_cast<clsZR3FeeEarner &>(record).GroupUniqueID());
 }
 
+/// A fee earner of a file whose group is missing keeps what it says, until one is chosen.
 void storeGroup(const clsScreenRow &, const QWidget &control, clsXMLRecord &record)
 {
-    static_cast<clsZR3FeeEarner &>(record).GroupUniqueID
-        = static_cast<const oFeeEarnerGroupCombo &>(control).SelectedFeeEarnerGroupUniqueID();
+    const QString chosen = static_cast<const oFeeEarnerGroupCombo &>(control).SelectedFeeEarnerGroupUniqueID();
+    if (!chosen.isEmpty())
+        static_cast<clsZR3FeeEarner &>(record).GroupUniqueID = chosen;
 }
 
 constexpr clsOtherControl Group {makeGroup, loadGroup, storeGroup};

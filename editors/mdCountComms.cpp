@@ -2,9 +2,9 @@
 
 #include "costing/clsZR3FeeEarner.h"
 #include "shell/clsRunTimeError.h"
-#include "shell/mdNumberText.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -49,5 +49,7 @@ void mdCountComms(clsZR3FeeEarner &feeEarner, const clsCommsCount &count, int by
     clsXMLField *field = feeEarner.field(QString::fromUtf8(count.count));
     if (!field)
         throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
-    field->writeLong(std::max(0, LongFromDouble(double(field->readLong()) + by)));
+    // At its largest a count holds, as it does at 0: a key that is pressed once more must not end the program.
+    constexpr qint64 Largest = std::numeric_limits<int>::max();
+    field->writeLong(int(std::clamp<qint64>(qint64(field->readLong()) + by, 0, Largest)));
 }

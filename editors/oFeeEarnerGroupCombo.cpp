@@ -3,7 +3,6 @@
 #include "editors/mdComboboxSelectByItemData.h"
 #include "editors/mdInOrder.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdExisting.h"
 #include "shell/mdGlobals.h"
 
 #include <QSignalBlocker>
@@ -46,10 +45,13 @@ void oFeeEarnerGroupCombo::setSelectedFeeEarnerGroupUniqueID(const QString &uniq
 {
     if (uniqueID.isEmpty())
         return;
-    const int index = mdExisting(Form->FeeEarnerGroupByUniqueID(uniqueID)).Index;
+    const auto group = Form->FeeEarnerGroupByUniqueID(uniqueID);
     {
         const QSignalBlocker quiet(this);
-        mdComboboxSelectByItemData(*this, index);
+        if (group)
+            mdComboboxSelectByItemData(*this, group->Index);
+        else
+            setCurrentIndex(-1);
     }
     emit Change();
 }

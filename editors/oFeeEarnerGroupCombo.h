@@ -19,7 +19,7 @@ public:
 
     /// The identity of the chosen group; empty for "None", and while the list is disabled.
     QString SelectedFeeEarnerGroupUniqueID() const;
-    /// Chooses a group and tells of it. An empty identity changes nothing; one that no group has is the object error.
+    /// Chooses a group and tells of it. An empty identity changes nothing; with one that no group has none is chosen.
     void setSelectedFeeEarnerGroupUniqueID(const QString &uniqueID);
 
     /// Enabling selects the first entry, also of a list that is enabled already; disabling clears the selection. A

@@ -51,6 +51,12 @@ oScreenPage::oScreenPage(QWidget *parent)
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, const QWidget *now) { showFocus(now); });
 }
 
+/// The fields go after the page itself, one of them with the focus, and its loss is told to whoever listens.
+oScreenPage::~oScreenPage()
+{
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 void oScreenPage::addFrame(oScreenFrame *frame, const clsScreenFrame &table)
 {
     if (m_columns->count() == 0 || table.startsColumn) {

@@ -18,6 +18,7 @@ class oScreenPage : public QScrollArea {
 
 public:
     explicit oScreenPage(QWidget *parent);
+    ~oScreenPage() override;
 
     /// The parent of the frames.
     QWidget *content() const { return widget(); }

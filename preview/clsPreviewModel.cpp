@@ -16,7 +16,8 @@ int clsPreviewModel::columnCount(const QModelIndex &parent) const
 
 QVariant clsPreviewModel::data(const QModelIndex &index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    // The key that copies asks for the current cell also where there is none.
+    if (!index.isValid() || !checkIndex(index))
         return {};
     const clsPreviewCell &cell = cells.Cell(index.row() + 1, index.column() + 1);
     switch (role) {

@@ -47,14 +47,16 @@ TEST_F(clsGrid, AnUnknownPropertyIsAnErrorAndLeavesTheRowsAsTheyWere)
 
 TEST_F(clsGrid, AnItemThatCantBeReadLeavesTheRowsAsTheyWere)
 {
-    form.AddFeeEarner()->GroupUniqueID = addGroup("PTR")->UniqueID();
-    grid.AddColumn({.caption = "Group", .width = 50, .property = "GroupReference"});
-    grid.setItemCollection(form.FeeEarnersCollection());
+    const auto feeEarner = form.AddFeeEarner();
+    feeEarner->Reference = QStringLiteral("JH");
+    form.AddScheduleOfTimeItem()->FeeEarnerUniqueID = feeEarner->UniqueID();
+    grid.AddColumn({.caption = "Fee Earner", .width = 50, .property = "FeeEarnerReference"});
+    grid.setItemCollection(form.ScheduleOfTimeItemsCollection());
     grid.Draw();
-    form.AddFeeEarner();
+    form.AddScheduleOfTimeItem();
     EXPECT_EQ(clsRunTimeError::ObjectNotSet, errorOf([&] { grid.Redraw(true); }));
     EXPECT_EQ(1, grid.Rows());
-    EXPECT_EQ(QStringList({"PTR"}), rowTexts(1));
+    EXPECT_EQ(QStringList({"JH"}), rowTexts(1));
     EXPECT_TRUE(view()->updatesEnabled());
 }
 

@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QHelpEvent>
+#include <QClipboard>
 #include <QMenu>
 #include <QPointer>
 #include <QTimer>
@@ -70,6 +71,14 @@ TEST_F(clsGridInput, DeleteIsToldWhereThereIsARowToDelete)
     grid.SelectRow(0);
     press(Qt::Key_Delete);
     EXPECT_EQ(1, deleted.count());
+}
+
+TEST_F(clsGridInput, TheKeyThatCopiesCopiesNothingWhereNoRowIs)
+{
+    grid.ClearAll();
+    QGuiApplication::clipboard()->setText(QStringLiteral("before"));
+    press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QStringLiteral("before"), QGuiApplication::clipboard()->text());
 }
 
 TEST_F(clsGridInput, EveryKeyIsToldFirstAndCanBeTaken)

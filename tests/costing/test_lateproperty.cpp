@@ -100,9 +100,8 @@ TEST(LateProperty, AnUnknownNameIsItsOwnError)
 TEST(LateProperty, APropertysOwnErrorComesThrough)
 {
     clsTestClaim claim;
-    const auto feeEarner = claim.form.AddFeeEarner();
-    EXPECT_EQ(91, errorOf([&] { ReadProperty(*feeEarner, u"GroupReference"); }));
     const auto item = claim.form.AddScheduleOfTimeItem();
+    EXPECT_EQ(91, errorOf([&] { ReadProperty(*item, u"FeeEarnerReference"); }));
     item->XMLNode().child("travel").text().set("perhaps");
     EXPECT_EQ(13, errorOf([&] { ReadProperty(*item, u"Travel"); }));
 }

@@ -81,8 +81,10 @@ TEST_F(FeeEarnerGroupCombo, SettingAGroupTellsOfItOnceAndAnEmptyIdentityDoesNoth
     list.setSelectedFeeEarnerGroupUniqueID(QString());
     EXPECT_EQ(QStringLiteral("SOL"), list.currentText());
     EXPECT_EQ(2, changes.size());
-    EXPECT_EQ(clsRunTimeError::ObjectNotSet,
-        errorOf([&] { list.setSelectedFeeEarnerGroupUniqueID(QStringLiteral("ID99")); }));
+    list.setSelectedFeeEarnerGroupUniqueID(QStringLiteral("ID99"));
+    EXPECT_EQ(-1, list.currentIndex());
+    EXPECT_EQ(QString(), list.SelectedFeeEarnerGroupUniqueID());
+    EXPECT_EQ(3, changes.size());
 }
 
 TEST_F(FeeEarnerGroupCombo, TheUsersChoiceIsToldOfOnce)

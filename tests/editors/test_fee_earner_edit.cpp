@@ -50,6 +50,22 @@ TEST_F(FeeEarnerEdit, AnExistingOneIsShownAndMovesToAnotherGroup)
     EXPECT_EQ(1u, Form->FeeEarnersCollection().size());
 }
 
+TEST_F(FeeEarnerEdit, OneOfAGroupThatIsMissingKeepsWhatItSaysUntilAnotherIsChosen)
+{
+    const auto partner = addGroup("PTR");
+    const auto feeEarner = addFeeEarner(QStringLiteral("JH"), *partner);
+    feeEarner->GroupUniqueID = QStringLiteral("ID99");
+    const auto screen = edit(feeEarner.get());
+    EXPECT_EQ(QString(), screen->Box<QComboBox>("cmbGroup").currentText());
+    press(*screen, "cmdSave");
+    EXPECT_FALSE(screen->isVisible());
+    EXPECT_EQ(QStringLiteral("ID99"), feeEarner->GroupUniqueID());
+    const auto again = edit(feeEarner.get());
+    QTest::keyClick(&again->Box("cmbGroup"), Qt::Key_Down);
+    press(*again, "cmdSave");
+    EXPECT_EQ(partner->UniqueID(), feeEarner->GroupUniqueID());
+}
+
 TEST_F(FeeEarnerEdit, WithoutAReferenceItIsNotSaved)
 {
     addGroup("PTR");

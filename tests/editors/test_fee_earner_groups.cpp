@@ -34,6 +34,14 @@ protected:
 
 } // namespace
 
+TEST_F(FeeEarnerGroups, AFeeEarnerWhoseGroupIsMissingIsShownWithoutOne)
+{
+    const auto partner = addGroup("PTR");
+    addFeeEarner(QStringLiteral("JH"), *partner);
+    addFeeEarner(QStringLiteral("AB"), *partner)->GroupUniqueID = QStringLiteral("ID99");
+    EXPECT_EQ(QStringList({QStringLiteral("JH|PTR"), QStringLiteral("AB|")}), rows(feeEarners(*lists())));
+}
+
 TEST_F(FeeEarnerGroups, ShowsTheTwoListsWithTheirColumnsInTheirOrder)
 {
     const auto partner = addGroup("PTR", "Partner");

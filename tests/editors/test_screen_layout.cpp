@@ -23,6 +23,17 @@ protected:
             .frames = {{"bxGeneral", "Thing", rows}},
             .fileMenu = false};
     }
+    /// How many listen to the application's word of where the focus is.
+    static int focusListeners()
+    {
+        struct Listeners : QObject {
+            static int of(const QObject &sender, const char *signal)
+            {
+                return (sender.*(&Listeners::receivers))(signal);
+            }
+        };
+        return Listeners::of(*qApp, SIGNAL(focusChanged(QWidget *, QWidget *)));
+    }
 };
 
 } // namespace
@@ -44,6 +55,21 @@ TEST_F(ScreenLayout, ButtonsOfOneLineStandCloserThanAFieldAndItsButton)
     EXPECT_EQ(gap("cmdFirst", "cmdSecond"), gap("cmdSecond", "cmdThird"));
     EXPECT_GT(gap("txtReference", "cmdFirst"), gap("cmdFirst", "cmdSecond"));
     EXPECT_EQ(Theme::Space24 - Theme::Space8, gap("cmdThird", "chkLast") - gap("cmdFirst", "cmdSecond"));
+}
+
+TEST_F(ScreenLayout, APageThatGoesHearsNothingOfTheFocusOfItsFields)
+{
+    const clsScreen table = screenOf({{Text, "txtReference", "Reference:"}});
+    const int before = focusListeners();
+    int whileItGoes = -1;
+    {
+        frmSection screen(table);
+        show(screen);
+        EXPECT_EQ(before + 1, focusListeners());
+        QObject::connect(
+            &screen.Box("txtReference"), &QObject::destroyed, qApp, [&] { whileItGoes = focusListeners(); });
+    }
+    EXPECT_EQ(before, whileItGoes);
 }
 
 TEST_F(ScreenLayout, WhatHasTheFocusStaysInViewWhenTheWindowShrinks)

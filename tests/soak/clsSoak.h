@@ -1,0 +1,73 @@
+#pragma once
+
+#include "tests/soak/clsDice.h"
+#include "tests/soak/clsDiskCheck.h"
+#include "tests/soak/clsMemoryWatch.h"
+#include "tests/soak/clsTrail.h"
+
+#include <QElapsedTimer>
+#include <QPointer>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QWidget>
+
+#include <map>
+#include <vector>
+
+class clsSoakUser;
+class frmMain;
+
+struct clsSoakOptions {
+    quint64 seed = 1;
+    int actions = 1000;
+    bool tellsAll = false;
+};
+
+/// A user who does at random whatever can be done with the program's windows, one action after the other, while
+/// everything that must always hold is looked at after each of them. He starts the program again where he has ended it.
+class clsSoak {
+public:
+    explicit clsSoak(const clsSoakOptions &options);
+
+    /// Takes all actions; the status of the process.
+    int run();
+    /// Something that must not happen has happened: the first of it ends the soak.
+    void fail(const QString &what);
+    const clsTrail &trail() const { return m_trail; }
+
+private:
+    void live();
+    void turn();
+    bool isFree() const;
+    bool waitsForKeys();
+    void check();
+    void act(QWidget &front);
+    void takeAction(QWidget &front);
+    void comeToRest(QWidget &front);
+    void leaveBox(const QWidget &front);
+    void beginAnew();
+    void measure(QWidget &window);
+    void runTimeError(const QString &text);
+    QString path(const char *relative) const { return m_folder.filePath(QString::fromUtf8(relative)); }
+    int report();
+
+    const clsSoakOptions m_options;
+    QTemporaryDir m_folder;
+    clsDice m_dice;
+    clsTrail m_trail;
+    clsMemoryWatch m_memory;
+    clsDiskCheck m_disk;
+    QStringList m_claims;
+    std::vector<int>
+        m_loops; ///< of each action that has not returned: the depth of the loop of events that it began in
+    std::map<QString, int> m_boxes;
+    std::map<QString, int> m_allowed;
+    QElapsedTimer m_waiting;
+    QPointer<QWidget> m_box;
+    int m_answers = 0; ///< to the same box
+    int m_restAt;
+    int m_triesToRest = 0;
+    bool m_resting = false;
+    int m_lives = 0;
+    QString m_failure;
+};

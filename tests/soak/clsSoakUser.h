@@ -1,0 +1,51 @@
+#pragma once
+
+#include "shell/clsWindowUserInterface.h"
+
+#include <QStringList>
+
+#include <functional>
+#include <map>
+#include <optional>
+
+class clsDice;
+
+/// The user's eyes and ears: boxes come up as they do for everyone, and are answered by keys and clicks like any other
+/// window. Only the choice of files and folders is thrown by the dice, and nothing outside the soak's folder is
+/// touched.
+class clsSoakUser final : public clsUserInterface {
+public:
+    clsSoakUser(clsDice &dice, const QString &folder);
+
+    void setProgressDisplay(clsWindowUserInterface::clsProgressDisplay display)
+    {
+        m_windows.setProgressDisplay(std::move(display));
+    }
+
+    /// The claims that can be opened.
+    QStringList claims;
+    /// The boxes that were shown, by their titles.
+    std::map<QString, int> boxes;
+    /// Told of each message of the program's own kind before it is shown.
+    std::function<void(const QString &title)> onMessage;
+    /// Told of a run-time error that nothing has caught; its box is not shown.
+    std::function<void(const QString &text)> onRunTimeError;
+
+    Answer customMessage(const QString &message, const QString &title, Buttons buttons, int icon, int timeout) override;
+    Answer systemMessage(const QString &message, const QString &title, SystemIcon icon, Buttons buttons) override;
+    void showProgress(int value, int maximum, const QString &text) override
+    {
+        m_windows.showProgress(value, maximum, text);
+    }
+    void clearProgress() override { m_windows.clearProgress(); }
+    QString chooseFolder(const QString &prompt) override;
+    QString chooseFileToOpen(const QString &filter) override;
+    QString chooseFileToSave(const QString &filter, const QString &defaultExtension) override;
+    void playSound(const QString &) override { }
+    bool openTarget(const QString &target) override;
+
+private:
+    clsDice &m_dice;
+    QString m_folder;
+    clsWindowUserInterface m_windows;
+};

@@ -1,9 +1,9 @@
-// The export of a claim of many sheets, and the least that any program would have to do for it.
+// The export of a claim of many sheets, of each form, and the least that any program would have to do for it.
 
 #include "benchmarks/mdZipFloor.h"
 #include "formdata/clsZR3Form.h"
 #include "wordexport/clsExport.h"
-#include "wordexport/mdExportWordClaim1.h"
+#include "wordexport/mdExportDriver.h"
 #include "wordexport/mdExportWordCombineDocuments.h"
 
 #include <QFile>
@@ -17,7 +17,11 @@
 
 namespace {
 
-constexpr char Sample[] = ZR3_SAMPLES "/many-sheets";
+/// The samples of many sheets, without the endings of their files.
+QString sampleOf(const char *name)
+{
+    return QStringLiteral(ZR3_SAMPLES "/%1").arg(QLatin1String(name));
+}
 
 QByteArray bytesOf(const QString &path)
 {
@@ -27,10 +31,10 @@ QByteArray bytesOf(const QString &path)
     return file.readAll();
 }
 
-/// The templates of the sample's sheets, each as often as a sheet is made from it.
-QList<QByteArray> templatesInUse()
+/// The templates of a sample's sheets, each as often as a sheet is made from it.
+QList<QByteArray> templatesInUse(const QString &sample)
 {
-    const QJsonObject account = QJsonDocument::fromJson(bytesOf(QLatin1String(Sample) + ".sheets.json")).object();
+    const QJsonObject account = QJsonDocument::fromJson(bytesOf(sample + ".sheets.json")).object();
     QHash<QString, QString> templateOf;
     for (const QJsonValue sheet : account["Sheets"].toArray())
         templateOf[sheet["Name"].toString()] = sheet["Template"].toString();
@@ -40,21 +44,21 @@ QList<QByteArray> templatesInUse()
     return templates;
 }
 
-/// Exports the sample once; false when it did not come to its end.
+/// Exports a sample once; false when it did not come to its end.
 bool exportSample(clsZR3Form &form, int &sheets)
 {
     clsExport run {.form = form, .templatesFolder = QStringLiteral(ZR3_TEMPLATES)};
     run.stopsAtLostSheet = true;
-    const bool done = mdExportWordClaim1(run);
+    const bool done = mdExportDriver(form.FormType())(run);
     sheets = int(run.ExportFileCollection.size());
     return done;
 }
 
-void exportClaim(benchmark::State &state)
+void exportClaim(benchmark::State &state, const char *name)
 {
     const QTemporaryDir folder;
     clsZR3Form form;
-    form.LoadXML(QLatin1String(Sample) + ".zr3");
+    form.LoadXML(sampleOf(name) + ".zr3");
     form.ExportPath = folder.path();
     int sheets = 0;
     for (auto _ : state)
@@ -65,17 +69,17 @@ void exportClaim(benchmark::State &state)
     state.counters["sheets"] = sheets;
 }
 
-void exportFloor(benchmark::State &state)
+void exportFloor(benchmark::State &state, const char *name)
 {
     const QTemporaryDir folder;
     clsZR3Form form;
-    form.LoadXML(QLatin1String(Sample) + ".zr3");
+    form.LoadXML(sampleOf(name) + ".zr3");
     form.ExportPath = folder.path();
     int sheets = 0;
     if (!exportSample(form, sheets))
         return state.SkipWithError("The export failed.");
     const clsUnpackedFiles finished = mdUnpack(bytesOf(mdFinishedDocumentPath(form.ExportPath(), form.FormType())));
-    const QList<QByteArray> templates = templatesInUse();
+    const QList<QByteArray> templates = templatesInUse(sampleOf(name));
     for (auto _ : state) {
         for (const QByteArray &package : templates)
             benchmark::DoNotOptimize(mdUnpack(package));
@@ -84,7 +88,11 @@ void exportFloor(benchmark::State &state)
     state.counters["sheets"] = double(templates.size());
 }
 
-BENCHMARK(exportFloor)->Unit(benchmark::kMillisecond)->UseRealTime();
-BENCHMARK(exportClaim)->Unit(benchmark::kMillisecond)->UseRealTime();
+// clang-format off
+BENCHMARK_CAPTURE(exportFloor, Claim1,  "many-sheets")->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK_CAPTURE(exportClaim, Claim1,  "many-sheets")->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK_CAPTURE(exportFloor, Claim1A, "many-sheets-1a")->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK_CAPTURE(exportClaim, Claim1A, "many-sheets-1a")->Unit(benchmark::kMillisecond)->UseRealTime();
+// clang-format on
 
 } // namespace

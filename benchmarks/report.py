@@ -19,7 +19,8 @@ import time
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
-SAMPLE = ROOT / "tests" / "samples" / "many-sheets"
+# Claims of many sheets, by their form types.
+SAMPLES = {"Claim1": ROOT / "tests" / "samples" / "many-sheets", "Claim1A": ROOT / "tests" / "samples" / "many-sheets-1a"}
 ITEMS = 10000
 PREVIEW_ITEMS = 2000
 SCREEN_ITEMS = 2000
@@ -73,10 +74,10 @@ def claim_rows(medians):
         detail=f"{twice:.0f} ms against {once:.0f} ms")
 
 
-def export_row(medians):
-    ours = medians["exportClaim/real_time"]
-    floor = medians["exportFloor/real_time"]
-    row(f"Export of {ours['sheets']:.0f} sheets to the floor", ours["cpu_time"] / floor["cpu_time"], 4,
+def export_row(medians, form):
+    ours = medians[f"exportClaim/{form}/real_time"]
+    floor = medians[f"exportFloor/{form}/real_time"]
+    row(f"Export of {ours['sheets']:.0f} sheets of {form} to the floor", ours["cpu_time"] / floor["cpu_time"], 4,
         detail=f"{ours['cpu_time']:.0f} ms against {floor['cpu_time']:.0f} ms; with the waiting for disk and processor "
                f"{ours['real_time']:.0f} ms against {floor['real_time']:.0f} ms")
 
@@ -95,23 +96,23 @@ def preview_row(medians):
                f"{bare[0]:.1f} ms against {bare[1]:.1f} ms")
 
 
-def whole_export(tool):
-    """The median of the seconds that the headless tool takes for the sample, from its start to its end."""
+def whole_export(tool, sample):
+    """The median of the seconds that the headless tool takes for a sample, from its start to its end."""
     seconds = []
     with tempfile.TemporaryDirectory() as folder:
         for _ in range(PROCESS_RUNS):
             start = time.perf_counter()
-            subprocess.run([tool, "export", "--force", "--quiet", f"{SAMPLE}.zr3", folder], check=True)
+            subprocess.run([tool, "export", "--force", "--quiet", f"{sample}.zr3", folder], check=True)
             seconds.append(time.perf_counter() - start)
     return statistics.median(seconds)
 
 
-def writer_row(build):
-    title = "Export by a word processor to ours"
+def writer_row(build, form):
+    title = f"Export of {form} by a word processor to ours"
     try:
         answer = subprocess.run(
             ["/usr/bin/python3", ROOT / "benchmarks" / "drive_writer.py", build / "program" / "Templates",
-             f"{SAMPLE}.sheets.json", str(WRITER_RUNS)],
+             f"{SAMPLES[form]}.sheets.json", str(WRITER_RUNS)],
             check=True, capture_output=True, text=True, timeout=900)
     except (OSError, subprocess.SubprocessError) as error:
         last = (getattr(error, "stderr", None) or str(error)).strip().splitlines()
@@ -119,7 +120,7 @@ def writer_row(build):
         return
     writer = json.loads(answer.stdout)
     theirs = statistics.median(writer["seconds"])
-    ours = whole_export(build / "program" / "zr3tool")
+    ours = whole_export(build / "program" / "zr3tool", SAMPLES[form])
     row(title, theirs / ours, 100, at_most=False,
         detail=f"{theirs:.1f} s (warm, {writer['sheets']} sheets, median of {WRITER_RUNS}) "
                f"against {ours * 1000:.0f} ms (whole process)")
@@ -186,9 +187,11 @@ def main(build):
     print(f"Measured on {machine()}; medians of {REPETITIONS} interleaved repetitions.\n", flush=True)
     medians = pieces(build / "benchmarks" / "zr3-bench")
     claim_rows(medians)
-    export_row(medians)
+    for form in SAMPLES:
+        export_row(medians, form)
     preview_row(pieces(build / "benchmarks" / "zr3-bench-preview"))
-    writer_row(build)
+    for form in SAMPLES:
+        writer_row(build, form)
     memory_row(build)
     start_row(build)
     screen_rows(build)

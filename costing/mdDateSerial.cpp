@@ -17,5 +17,7 @@ QString mdDateSerial(const QString &date)
     if (!isNumber[0] || !isNumber[1] || !isNumber[2])
         return date;
     const QDate parsed(FullYear(year, pieces[2].size()), month, day);
-    return parsed.isValid() ? parsed.toString(QStringLiteral("yyyyMMdd")) : date;
+    // A year that isn't written with four digits would sort wrongly among the others; nobody means one.
+    const bool sorts = parsed.isValid() && parsed.year() > 0 && parsed.year() <= 9999;
+    return sorts ? parsed.toString(QStringLiteral("yyyyMMdd")) : date;
 }

@@ -1,7 +1,9 @@
 #include "costing/mdGetBillSummary.h"
 
 #include "costing/mdGetCommsInfo.h"
+#include "costing/mdGetCounselTotals.h"
 #include "costing/mdGetDisbursementsTotals.h"
+#include "costing/mdGetFASTotals.h"
 #include "costing/mdPercentageCalculate.h"
 #include "costing/mdSumOf.h"
 #include "formdata/clsZR3Form.h"
@@ -24,4 +26,30 @@ Money NetWithoutCounsel(const clsZR3Form &form)
 Money VATWithoutCounsel(const clsZR3Form &form)
 {
     return mdSumOf({ProfitCostsVAT(form), ExpertInvoicesVATTotal(form), NonCounselDisbursementsVATTotal(form)});
+}
+
+Money NetWithAdvocacyAndCounsel(const clsZR3Form &form)
+{
+    return mdSumOf({NetWithoutCounsel(form), FASItemsTotal(form), CounselFeesAmountTotal(form)});
+}
+
+Money VATWithAdvocacyAndCounsel(const clsZR3Form &form)
+{
+    return mdSumOf({VATWithoutCounsel(form), FASVATTotal(form), CounselFeesVATTotal(form)});
+}
+
+Money FixedFee(const clsZR3Form &form)
+{
+    const QString text = form.ActualCostsIncurred.FixedFee();
+    return text.isEmpty() ? Money() : MoneyFromText(text);
+}
+
+Money FixedFeeNetTotal(const clsZR3Form &form)
+{
+    return mdSumOf({FixedFee(form), NonCounselDisbursementsAmountTotal(form), ExpertInvoicesNetTotal(form)});
+}
+
+Money FixedFeeVATTotal(const clsZR3Form &form)
+{
+    return mdSumOf({VATOf(form, FixedFee(form)), NonCounselDisbursementsVATTotal(form), ExpertInvoicesVATTotal(form)});
 }

@@ -18,3 +18,15 @@ Money ProfitCostsVAT(const clsZR3Form &form);
 Money NetWithoutCounsel(const clsZR3Form &form);
 /// The VAT of the same.
 Money VATWithoutCounsel(const clsZR3Form &form);
+
+/// The whole of Claim 1A: the subtotal, the Family Advocacy Scheme and counsel, net.
+Money NetWithAdvocacyAndCounsel(const clsZR3Form &form);
+/// The VAT of the same.
+Money VATWithAdvocacyAndCounsel(const clsZR3Form &form);
+
+/// The fixed fee that would apply; nothing where none is entered.
+Money FixedFee(const clsZR3Form &form);
+/// The fixed fee, other disbursements and experts, net.
+Money FixedFeeNetTotal(const clsZR3Form &form);
+/// The VAT of the same.
+Money FixedFeeVATTotal(const clsZR3Form &form);

@@ -2,9 +2,13 @@
 
 #include "formdata/mdURLEncode.h"
 #include "formdata/mdXMLReplaceProblemCharacters.h"
+#include "shell/mdCodePage.h"
 
+#include <algorithm>
 #include <cstring>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -14,6 +18,11 @@ constexpr int DeepestNesting = 1000;
 
 // Tags of a text. A bill of a hundred thousand items has fewer; rubbish that happens to parse would fill the memory.
 constexpr qsizetype MostTags = 4'000'000;
+
+// Items of all lists together, which lie two levels below the root. Each gets all the elements of its template and an
+// object: an empty one of four bytes becomes two thousand.
+constexpr int ItemLevel = 2;
+constexpr int MostItems = 250'000;
 
 // White space between elements carries no meaning and is dropped; comments and instructions are kept, since nothing
 // that the program does not know may be lost by a load and a save. As a fragment, so that text beside the root is seen.
@@ -31,9 +40,20 @@ bool hasContentBesideRoot(const pugi::xml_document &document, pugi::xml_node roo
     return false;
 }
 
-class DepthCheck final : public pugi::xml_tree_walker {
+/// Walks a tree that is neither too deep nor too large, and finds the texts of nothing but blanks.
+class TreeCheck final : public pugi::xml_tree_walker {
 public:
-    bool for_each(pugi::xml_node &) override { return depth() < DeepestNesting; }
+    std::vector<pugi::xml_node> blanks;
+    bool for_each(pugi::xml_node &node) override
+    {
+        if (node.type() == pugi::node_pcdata && node.value()[std::strspn(node.value(), " \t\r\n")] == '\0')
+            blanks.push_back(node);
+        m_items += depth() == ItemLevel;
+        return depth() < DeepestNesting && m_items <= MostItems;
+    }
+
+private:
+    int m_items = 0;
 };
 
 class TextWriter final : public pugi::xml_writer {
@@ -41,6 +61,52 @@ public:
     std::string text;
     void write(const void *data, size_t size) override { text.append(static_cast<const char *>(data), size); }
 };
+
+/// True for a character that the file can't hold as itself: one outside its code page, and a carriage return, which
+/// every parser reads as a line feed. This program writes neither, but another hand may have, as a reference.
+bool needsReference(QChar c)
+{
+    const char16_t code = c.unicode();
+    return code == u'\r' || ((code > 0xFF || (code >= 0x80 && code < 0xA0)) && !mdInCodePage(c));
+}
+
+/// Where the piece of a text ends in which no reference is one: a comment, an instruction or raw characters. 0 where no
+/// such piece begins.
+qsizetype sizeOfRawPiece(QStringView text)
+{
+    constexpr std::pair<QLatin1String, QLatin1String> Pieces[] = {
+        {QLatin1String("<!--"), QLatin1String("-->")},
+        {QLatin1String("<?"), QLatin1String("?>")},
+        {QLatin1String("<![CDATA["), QLatin1String("]]>")},
+    };
+    for (const auto &[begin, end] : Pieces)
+        if (text.startsWith(begin))
+            return text.indexOf(end, begin.size()) + end.size();
+    return 0;
+}
+
+/// The text with those characters as references again.
+QString withReferences(const QString &text)
+{
+    if (std::none_of(text.begin(), text.end(), needsReference))
+        return text;
+    QString written;
+    for (qsizetype at = 0; at < text.size();) {
+        if (const qsizetype raw = sizeOfRawPiece(QStringView(text).sliced(at)); raw > 0) {
+            written += QStringView(text).sliced(at, raw);
+            at += raw;
+            continue;
+        }
+        const bool pair = text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
+        const uint code = pair ? QChar::surrogateToUcs4(text[at], text[at + 1]) : text[at].unicode();
+        if (needsReference(text[at]))
+            written += QStringLiteral("&#%1;").arg(code);
+        else
+            written += text[at];
+        at += pair ? 2 : 1;
+    }
+    return written;
+}
 
 /// True when the content reads as it stands: plain ASCII without an encoded character.
 bool readsAsItStands(const char *content)
@@ -82,9 +148,13 @@ clsXMLElement XMLLoadElement(const QString &xml, const char *name)
     if (!document->load_buffer(utf8.constData(), size_t(utf8.size()), ParseOptions, pugi::encoding_utf8))
         return {};
     const pugi::xml_node root = document->document_element();
-    DepthCheck depthCheck;
-    if (std::strcmp(root.name(), name) != 0 || hasContentBesideRoot(*document, root) || !document->traverse(depthCheck))
+    TreeCheck check;
+    if (std::strcmp(root.name(), name) != 0 || hasContentBesideRoot(*document, root) || !document->traverse(check))
         return {};
+    // The parser has dropped blanks between tags already, but not those written as references: a save writes them as
+    // blanks, and they would be gone only when that is read.
+    for (const pugi::xml_node &blank : check.blanks)
+        blank.parent().remove_child(blank);
     return {std::move(document), root};
 }
 
@@ -92,5 +162,5 @@ QString XMLElementOutput(pugi::xml_node node)
 {
     TextWriter writer;
     node.print(writer, "", pugi::format_raw | pugi::format_no_declaration, pugi::encoding_utf8);
-    return QString::fromUtf8(writer.text.data(), qsizetype(writer.text.size()));
+    return withReferences(QString::fromUtf8(writer.text.data(), qsizetype(writer.text.size())));
 }

@@ -31,9 +31,9 @@ QByteArray XMLEncodeText(const QString &text);
 QString XMLDecodeText(const char *content);
 
 /// Parses a text and returns its root element, or nothing when the text is not XML, its root has another name, or it
-/// is nested so deeply that no program of this house can have written it.
+/// is nested so deeply, or holds so many items, that no program of this house can have written it.
 clsXMLElement XMLLoadElement(const QString &xml, const char *name);
 
 /// The serialisation of an element with its descendants, on one line: the same tree gives the same text, which is
-/// what tells a changed claim from an unchanged one.
+/// what tells a changed claim from an unchanged one. What the code page of a file lacks stands in it as a reference.
 QString XMLElementOutput(pugi::xml_node node);

@@ -59,6 +59,13 @@ configure_and_build() {
 # A long build shows that it lives: every fiftieth step and the last. A short one says nothing.
 build_progress() { awk -F'[][/]' '/^\[[0-9]+\/[0-9]+\]/ && $3 >= 50 && ($2 % 50 == 0 || $2 == $3) { print "  " $2 " of " $3; fflush() }'; }
 
+# Whether there is a clang here that can build a program with its fuzzer.
+has_fuzzer() {
+    command -v clang++ >/dev/null || return 1
+    clang++ -fsanitize=fuzzer,address,undefined -x c++ -o /dev/null - 2>/dev/null \
+        <<< 'extern "C" int LLVMFuzzerTestOneInput(const unsigned char *, unsigned long) { return 0; }'
+}
+
 # Makes the document validator available under a build folder: sets ZR3_VALIDATOR to its program, or, where this
 # machine can't run it, ZR3_VALIDATOR_MISSING to the reason.
 provide_validator() {

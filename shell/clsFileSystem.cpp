@@ -8,11 +8,14 @@
 #include <QFileInfo>
 
 #include <cerrno>
+#include <chrono>
 #include <cstdlib>
 #include <memory>
+#include <thread>
 #include <utility>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -22,6 +25,10 @@ namespace {
 // to be no claim.
 constexpr qint64 LargestFile = 512 * 1024 * 1024;
 constexpr qsizetype CopyBlock = 256 * 1024;
+
+// Longer than any save takes, and not so long that a user would think the program dead.
+constexpr std::chrono::seconds LongestWait(5);
+constexpr std::chrono::milliseconds BetweenTries(5);
 
 constexpr mode_t OwnerOnly = S_IRUSR | S_IWUSR;
 constexpr mode_t Permissions = S_IRWXU | S_IRWXG | S_IRWXO;
@@ -41,14 +48,21 @@ clsFileFault asked(clsFileStep step, const QString &path)
     throw clsRunTimeError::fromSystem(systemError);
 }
 
-/// Runs one system call, again where a signal interrupted it; an error where it fails.
+/// Runs one system call, again where a signal interrupted it.
+template <class Call> auto uninterrupted(Call call)
+{
+    auto result = call();
+    while (result < 0 && errno == EINTR)
+        result = call();
+    return result;
+}
+
+/// The same, after the test's fault point has been asked; an error where it fails.
 template <class Call> auto step(clsFileStep which, const QString &path, Call call)
 {
     if (const int fault = asked(which, path).systemError)
         fail(fault, path);
-    auto result = call();
-    while (result < 0 && errno == EINTR)
-        result = call();
+    const auto result = uninterrupted(call);
     if (result < 0)
         fail(errno, path);
     return result;
@@ -137,9 +151,7 @@ private:
         if (fault.systemError && fault.atMost <= 0)
             fail(fault.systemError, m_path);
         const size_t part = size_t(fault.atMost >= 0 ? qMin(fault.atMost, size) : size);
-        auto done = call(part);
-        while (done < 0 && errno == EINTR)
-            done = call(part);
+        const auto done = uninterrupted([&] { return call(part); });
         if (done < 0 || fault.systemError)
             fail(done < 0 ? errno : fault.systemError, m_path);
         return done;
@@ -155,10 +167,11 @@ void syncFolder(const QString &folder)
 {
     if (const int fault = asked(clsFileStep::SyncFolder, folder).systemError)
         fail(fault, folder);
-    const int descriptor = ::open(systemPath(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const int descriptor
+        = uninterrupted([&] { return ::open(systemPath(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); });
     if (descriptor < 0)
         return;
-    const int failure = ::fsync(descriptor) < 0 ? errno : 0;
+    const int failure = uninterrupted([&] { return ::fsync(descriptor); }) < 0 ? errno : 0;
     ::close(descriptor);
     if (failure && failure != EINVAL && failure != ENOTSUP && failure != EROFS)
         fail(failure, folder);
@@ -192,6 +205,38 @@ void copyContent(const clsOpenFile &source, const QString &to, mode_t permission
 }
 
 } // namespace
+
+// The folder, not the file: that may not be there yet, and some network shares keep even this program's own second
+// descriptor out of a file that is locked.
+clsFileLock::clsFileLock(const QString &path, Kind kind)
+    : m_folder(folderOf(path))
+    , m_descriptor(uninterrupted(
+          [this] { return ::open(systemPath(m_folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); }))
+{
+    const int how = (kind == Writes ? LOCK_EX : LOCK_SH) | LOCK_NB;
+    const auto until = std::chrono::steady_clock::now() + LongestWait;
+    while (m_descriptor >= 0 && ::flock(m_descriptor, how) < 0 && (errno == EWOULDBLOCK || errno == EINTR)) {
+        if (std::chrono::steady_clock::now() >= until) {
+            ::close(m_descriptor);
+            fail(EACCES, path);
+        }
+        std::this_thread::sleep_for(BetweenTries);
+    }
+}
+
+clsFileLock::~clsFileLock()
+{
+    if (m_descriptor >= 0)
+        ::close(m_descriptor);
+}
+
+bool clsFileLock::isOfWhatIsThere() const
+{
+    struct stat locked = {}, there = {};
+    return m_descriptor < 0 || ::fstat(m_descriptor, &locked) < 0
+        || (::stat(systemPath(m_folder).constData(), &there) == 0 && locked.st_dev == there.st_dev
+            && locked.st_ino == there.st_ino);
+}
 
 bool clsFileSystem::FileExists(const QString &path) const
 {

@@ -14,6 +14,25 @@ struct clsFileFault {
     qint64 atMost = -1; ///< bytes that this one read or write lets pass, before it fails where `systemError` is set
 };
 
+/// Holds off the other programs of this machine that read or write in the folder of a file, for as long as it lives: a
+/// guarded overwrite in the midst of another would leave a mixture of both. Where a file system knows no such locks
+/// there is none, and the last to write wins. An error where another program doesn't let go in time.
+class clsFileLock {
+public:
+    enum Kind { Reads, Writes };
+    clsFileLock(const QString &path, Kind kind);
+    ~clsFileLock();
+    clsFileLock(const clsFileLock &) = delete;
+    clsFileLock &operator=(const clsFileLock &) = delete;
+
+    /// False where the folder was deleted while this program waited for it, so that the lock is of no use.
+    bool isOfWhatIsThere() const;
+
+private:
+    QString m_folder;
+    int m_descriptor;
+};
+
 /// The file operations of the core, and the one place that asks the operating system for them. An operation that fails
 /// raises a clsRunTimeError. Symbolic links are followed and kept.
 class clsFileSystem {

@@ -27,8 +27,6 @@
 #include "shell/mdLog.h"
 #include "shell/mdMainMenu.h"
 #include "shell/mdProgramFolder.h"
-#include "shell/mdRecoveredCopy.h"
-#include "shell/mdRunTimeErrorMessage.h"
 #include "shell/mdSectionTabs.h"
 #include "shell/mdShellExecute.h"
 #include "shell/oApplication.h"
@@ -391,7 +389,7 @@ void frmMain::dropEvent(QDropEvent *event)
 
 void frmMain::openDropped(const QString &path)
 {
-    if (m_modal || clsLongWork::isRunning() || !leaveForAnotherClaim() || !ConfirmClose())
+    if (m_modal || clsLongWork::isRunning() || !leaveForAnotherClaim() || !ConfirmDrop())
         return;
     {
         const QScopedValueRollback<bool> follows(m_drawingFollows, true);
@@ -407,17 +405,7 @@ bool frmMain::confirmExit()
 {
     // A text that doesn't fit holds nobody who leaves the program.
     mdLeaveFocusedBox(this);
-    const bool changed = FormIsDirty();
-    if (!ConfirmClose())
-        return false;
-    // After Yes and a write that failed the claim counts as saved, and is nowhere. After No it still counts as changed.
-    if (!changed || FormIsDirty() || !FormNeedsRecovery())
-        return true;
-    const QString copy = WriteRecoveredCopy();
-    UserInterface().systemMessage(mdRecoveredCopyMessage(copy), QStringLiteral("Velmor ZR3"),
-        clsUserInterface::Information, clsUserInterface::OKOnly);
-    // Without a copy either, the open window is the only place that the claim still has.
-    return !copy.isEmpty();
+    return ConfirmDrop();
 }
 
 void frmMain::closeEvent(QCloseEvent *event)

@@ -50,11 +50,14 @@ void mdAutoSave()
 void mdAutoBackupTick(QString &tag)
 {
     const QDateTime last = QDateTime::fromString(tag, Qt::ISODate);
-    if (!last.isValid()) {
+    const qint64 seconds = last.isValid() ? last.secsTo(Now()) : 0;
+    // A time that is yet to come was noted before the clock was set back. Waiting until it comes round again would
+    // leave the claim without a backup for hours, or years.
+    if (!last.isValid() || seconds < 0) {
         tag = noted(Now());
         return;
     }
-    if (last.secsTo(Now()) < SecondsBetweenBackups)
+    if (seconds < SecondsBetweenBackups)
         return;
     mdAutoSave();
     tag = noted(Now());

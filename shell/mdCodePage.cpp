@@ -52,3 +52,8 @@ QByteArray mdToCodePage(QStringView text)
         *out++ = byteOf(c.unicode());
     return bytes;
 }
+
+bool mdInCodePage(QChar c)
+{
+    return character(uchar(byteOf(c.unicode()))) == c.unicode();
+}

@@ -13,3 +13,5 @@ QString mdFromCodePage(QByteArrayView bytes);
 QByteArray mdToCodePage(QStringView text);
 /// The character of one byte.
 QChar mdFromCodePage(uchar byte);
+/// Whether a character is in the page: the one that its byte stands for.
+bool mdInCodePage(QChar character);

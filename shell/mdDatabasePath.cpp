@@ -44,6 +44,11 @@ QString StoredDatabasePath()
     return folderOf(ReadRegKeyQuietly(registryName()));
 }
 
+bool DatabasePathIsMissing()
+{
+    return RegKeyIsMissing(registryName());
+}
+
 void SetDatabasePath(const QString &path)
 {
     WriteRegKey(registryName(), path);

@@ -11,6 +11,9 @@ QString GetDatabasePath();
 /// the moments at which the program can't talk to anybody.
 QString StoredDatabasePath();
 
+/// Whether it is certain that no database folder is stored, neither by the user nor for all users of the machine.
+bool DatabasePathIsMissing();
+
 /// Stores the database folder.
 void SetDatabasePath(const QString &path);
 

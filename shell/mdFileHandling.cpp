@@ -8,6 +8,8 @@
 #include "shell/mdGetResourceData.h"
 #include "shell/mdGetVersionInfo.h"
 #include "shell/mdGlobals.h"
+#include "shell/mdRecoveredCopy.h"
+#include "shell/mdRunTimeErrorMessage.h"
 #include "shell/mdVersionComparison.h"
 
 #include <QFileInfo>
@@ -124,6 +126,19 @@ bool ConfirmClose()
     }
 }
 
+bool ConfirmDrop()
+{
+    if (!ConfirmClose())
+        return false;
+    // After No it still counts as changed: the user has given it up.
+    if (FormIsDirty() || !FormNeedsRecovery())
+        return true;
+    const QString copy = WriteRecoveredCopy();
+    UserInterface().systemMessage(mdRecoveredCopyMessage(copy), QStringLiteral("Velmor ZR3"),
+        clsUserInterface::Information, clsUserInterface::OKOnly);
+    return !copy.isEmpty();
+}
+
 bool SaveForm(bool saveAs)
 {
     clsZR3Form &form = existing(Form);
@@ -166,7 +181,7 @@ bool ConfirmOverwrite(const QString &path)
 
 void NewForm(bool skipConfirm)
 {
-    if (!skipConfirm && !ConfirmClose())
+    if (!skipConfirm && !ConfirmDrop())
         return;
     replaceForm();
     Form->Version = GetVersionInfo();
@@ -180,7 +195,7 @@ void NewForm(bool skipConfirm)
 void OpenFormDialog(bool clearPath)
 {
     // Before the dialog: whoever then cancels it has been asked already, and keeps his claim with its changes.
-    if (!ConfirmClose())
+    if (!ConfirmDrop())
         return;
     const QString path = UserInterface().chooseFileToOpen(Filter);
     if (!path.isEmpty()) {

@@ -18,8 +18,13 @@ void SetFormDisplay(clsFormDisplay display);
 /// True when there is a claim and its text differs from the clean one.
 bool FormIsDirty();
 
-/// Asks whether to save a changed claim. True when the caller may drop it.
+/// Asks whether to save a changed claim. True when the user has no objection to its being dropped.
 bool ConfirmClose();
+
+/// Asks as above before another claim takes its place, or the program ends. Work that counts as saved and is not on the
+/// disk, since its save failed or another program has written over it, is set aside first, and the user is told where.
+/// False where it could be set aside nowhere: then this program is the only place that it still has.
+bool ConfirmDrop();
 
 /// Writes the claim to its path, asking for one where it has none or with `saveAs`. False when the user gave none. A
 /// write that failed has shown its box and counts as saved.

@@ -10,7 +10,8 @@
 /// shows both boxes for each line. Both are meant: the folder is expected to be there.
 void WriteLog(const QString &message);
 
-/// The path of the day's file: 15-11-2026.txt in the folder "Logs" beside the program.
+/// The path of the day's file: 15-11-2026.txt in the folder "Logs" beside the program, or, where only an administrator
+/// may write there, in the folder "Logs" of the database folder.
 QString LogPath();
 
 /// Where the switch is read, asked at each line. The preferences set it when they are complete and take it back with

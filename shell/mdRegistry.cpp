@@ -144,6 +144,15 @@ QString ReadRegKeyQuietly(const QString &name)
     }
 }
 
+bool RegKeyIsMissing(const QString &name)
+{
+    try {
+        return firstValue(stores(), storeKey(name)).value_or(QString()).isEmpty();
+    } catch (const clsRunTimeError &) {
+        return false;
+    }
+}
+
 void WriteRegKey(const QString &name, const QString &value)
 {
     logged("Write", "There was a problem writing to the following registry key:", name,

@@ -13,6 +13,9 @@ QString ReadRegKey(const QString &name);
 /// The same without box and log: a failure reads as empty.
 QString ReadRegKeyQuietly(const QString &name);
 
+/// Whether it is certain that there is no text under a name: every store could be read, and none has one.
+bool RegKeyIsMissing(const QString &name);
+
 /// Stores a text for this user.
 void WriteRegKey(const QString &name, const QString &value);
 

@@ -1,6 +1,5 @@
 #include "shell/mdSubMain.h"
 
-#include "controls/mdIcons.h"
 #include "controls/mdTheme.h"
 #include "controls/oFooterBar.h"
 #include "formdata/clsZR3Form.h"
@@ -18,8 +17,14 @@
 #include "shell/oApplication.h"
 
 #include <QFile>
-#include <QPainter>
+#include <QIcon>
 #include <QScopeGuard>
+
+// Outside any namespace, as the macro asks; it also makes the linker keep the pictures.
+static void initialiseIcons()
+{
+    Q_INIT_RESOURCE(icons);
+}
 
 namespace {
 
@@ -33,14 +38,10 @@ QStringList argumentsOf(int argc, char **argv)
 
 QIcon programIcon()
 {
+    initialiseIcons();
     QIcon icon;
-    for (const int side : {16, 24, 32, 48, 64, 128}) {
-        QPixmap pixmap(side, side);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        mdPaintTile(painter, QRectF(0, 0, side, side), {Glyph::Document, Theme::Purple, false});
-        icon.addPixmap(pixmap);
-    }
+    for (const char *side : {"16", "22", "24", "32", "48", "64", "128", "256"})
+        icon.addFile(QStringLiteral(":/icons/velmor-zr3-") + QLatin1String(side) + QStringLiteral(".png"));
     return icon;
 }
 
@@ -85,6 +86,8 @@ int RunProgram(int argc, char **argv)
     oApplication application(nameOnly, argv);
     mdApplyTheme(application);
     QApplication::setWindowIcon(programIcon());
+    // By this name the desktop knows whose windows these are.
+    QGuiApplication::setDesktopFileName(QStringLiteral("velmor-zr3"));
     clsWindowUserInterface user;
     const clsUserInterfaceScope scope(user);
     application.writeRecoveredCopy = WriteRecoveredCopy;

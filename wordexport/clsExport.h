@@ -6,6 +6,10 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
+
+class clsFileLock;
+
 /// One running export: the claim that it prints and the whole of the state that its steps share.
 struct clsExport {
     clsZR3Form &form;
@@ -21,6 +25,9 @@ struct clsExport {
     bool stopsAtLostSheet = false;
     /// The sheets stay in the temporary folder when the export has ended.
     bool keepsSheets = false;
+
+    /// Held while the export works in the temporary folder; nothing there is this export's without it.
+    std::shared_ptr<clsFileLock> folderLock {};
 
     /// The full paths of the sheet files, in the order in which they were made.
     QStringList ExportFileCollection {};

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <array>
 #include <span>
 
 // What a page of a government form consists of, as tables. The shapes of pages (plain, grids, schedule, additional
@@ -48,17 +49,19 @@ struct clsGrid {
     const char *continuationTemplate;
 };
 
+/// The placeholders of a page, in the order in which they are filled in. Rows that both forms have are tables of their
+/// own, so that a page is a few tables behind each other.
+using clsPlaceholderTables = std::array<std::span<const clsPlaceholderRow>, 4>;
+
 /// A page on which text and boxes are filled in and nothing else.
 struct clsPlainPage {
     int number;
     const char *pageTemplate;
-    std::span<const clsPlaceholderRow> rows;
+    clsPlaceholderTables tables;
     /// The template of the panel membership sheet, on the page that has one.
     const char *panelTemplate = nullptr;
     /// The costs pages alone bear no mark of further sheets.
     bool hasMark = true;
-    /// Rows that follow the first ones, where those are a table that both forms share.
-    std::span<const clsPlaceholderRow> furtherRows = {};
 };
 
 /// A page with grids, and with placeholders that are filled in after them.
@@ -74,6 +77,8 @@ struct clsGridPage {
     const char *pageTemplate;
     std::span<const Grid> grids;
     std::span<const clsPlaceholderRow> rows;
+    /// The mark is replaced after the placeholders rather than before them. The printed page is the same.
+    bool markComesLast = false;
 };
 
 /// The place of the additional information on its page.

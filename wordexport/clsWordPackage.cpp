@@ -153,8 +153,10 @@ void clsWordPackage::parseInto(pugi::xml_node place, const QByteArray &bytes) co
         && place.append_buffer(bytes.constData(), size_t(bytes.size()), flags)
         && WordXml::depth(place, MaximumDepth) < MaximumDepth;
     // A fragment without a root, or with two, is no document, though a tree takes it without a word.
-    if (!sound || std::count_if(place.begin(), place.end(), WordXml::isElement) != 1)
+    if (!sound || std::count_if(place.begin(), place.end(), WordXml::isElement) != 1) {
+        WordXml::removeContent(place);
         throw mdDocumentDamaged(m_shownName);
+    }
 }
 
 pugi::xml_document &clsWordPackage::partXml(int part)

@@ -108,8 +108,11 @@ int clsWordPartImport::copyPart(int sourcePart)
     const auto done = m_parts.find(sourcePart);
     if (done != m_parts.end())
         return done->second;
-    // Parts that refer to one another in a circle do not come from a word processor.
-    if (sourcePart == m_source.mainPart() || !m_inProgress.insert(sourcePart).second)
+    // Parts that refer to one another in a circle do not come from a word processor, nor do chains that would take all
+    // of the stack.
+    constexpr size_t LongestChain = 100;
+    if (sourcePart == m_source.mainPart() || !m_inProgress.insert(sourcePart).second
+        || m_inProgress.size() > LongestChain)
         throw mdDocumentDamaged(m_source.shownName());
 
     const std::string contentType = m_source.contentType(sourcePart);

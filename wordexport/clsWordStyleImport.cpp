@@ -113,7 +113,13 @@ std::string clsWordStyleImport::take(const xml_node &style, int number)
     if (definitions().defaults() != m_target.get().own().defaults() && !style.child("w:basedOn")
         && std::strcmp(style.attribute("w:type").value(), "paragraph") == 0)
         addDefaults(copy);
-    mapReferences(copy);
+    // What the styles refer to is taken over after them and not within: a chain may be longer than the stack is deep.
+    m_taken.push_back(copy);
+    if (m_taken.size() > 1)
+        return id; // whoever took the first goes on
+    for (size_t i = 0; i < m_taken.size(); ++i)
+        mapReferences(m_taken[i]);
+    m_taken.clear();
     return id;
 }
 

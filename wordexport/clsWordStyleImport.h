@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 /// The styles of the document that others are appended to, read only when the first one comes whose styles are not
 /// the very same bytes.
@@ -54,5 +55,6 @@ private:
     bool m_same;
     std::unique_ptr<clsWordStyleDefinitions::Of> m_definitions;
     std::unordered_map<std::string, std::string> m_ids;
+    std::vector<pugi::xml_node> m_taken; // whose references are still to be mapped
     std::map<std::string, std::string> m_defaults;
 };

@@ -105,8 +105,10 @@ int clsWordStyleDefinitions::Of::number(const std::string &id)
     if (known != m_numbers.end())
         return known->second;
     const xml_node found = style(id);
-    // A style that is based on itself, however many steps round, has nothing below it at that step.
-    if (!found || !m_inProgress.insert(id).second)
+    // A style that is based on itself, however many steps round, has nothing below it at that step; nor has one at the
+    // end of a chain so long that no word processor follows it.
+    constexpr size_t LongestChain = 200;
+    if (!found || m_inProgress.size() >= LongestChain || !m_inProgress.insert(id).second)
         return -1;
     const int number = m_definitions.numberOf(describe(found));
     m_inProgress.erase(id);

@@ -16,7 +16,7 @@
 #include "shell/oButtonBar.h"
 #include "wordexport/clsExport.h"
 #include "wordexport/mdDesktopFolder.h"
-#include "wordexport/mdExportWordClaim1.h"
+#include "wordexport/mdExportDriver.h"
 #include "wordexport/mdExportWordCombineDocuments.h"
 #include "wordexport/mdWordAlreadyRunning.h"
 
@@ -27,29 +27,6 @@
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
-
-namespace {
-
-struct clsExportDriver {
-    const char *formType;
-    bool (*run)(clsExport &);
-};
-
-constexpr clsExportDriver ExportDrivers[] = {
-    {"Claim1", mdExportWordClaim1},
-};
-
-/// True for the form type whose pages have no driver yet, and the user is told. To be taken away with its one call when
-/// the driver comes into the table above.
-bool tellOfMissingPages(const QString &formType)
-{
-    if (formType != QLatin1String("Claim1A"))
-        return false;
-    mdCustomMessages(QStringLiteral("The pages of Claim1A can't be exported yet."), QStringLiteral("Export to Word"));
-    return true;
-}
-
-} // namespace
 
 frmExportToWord::frmExportToWord(QWidget *parent)
     : QDialog(parent)
@@ -176,19 +153,18 @@ bool frmExportToWord::exportForm()
 {
     const clsLongWork work;
     const QScopedValueRollback<bool> exporting(m_exporting, true);
-    for (const clsExportDriver &driver : ExportDrivers) {
-        if (Form->FormType() != QLatin1String(driver.formType))
-            continue;
-        clsExport run {*Form, TemplatesFolder()};
-        run.exportFolder = txtExportPath->text();
-        return driver.run(run);
-    }
-    return true;
+    const clsExportDriver driver = mdExportDriver(Form->FormType());
+    // A form type that no form has runs nothing, and the export is complete all the same.
+    if (!driver)
+        return true;
+    clsExport run {*Form, TemplatesFolder()};
+    run.exportFolder = txtExportPath->text();
+    return driver(run);
 }
 
 void frmExportToWord::cmdExport_Click()
 {
-    if (tellOfMissingPages(Form->FormType()) || !mayExport())
+    if (!mayExport())
         return;
     setEnabled(false);
     const bool finished = exportForm();

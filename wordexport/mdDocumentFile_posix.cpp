@@ -15,6 +15,21 @@
 
 namespace {
 
+/// Runs a system call, again where a signal interrupted it.
+template <class Call> auto uninterrupted(Call call)
+{
+    auto result = call();
+    while (result < 0 && errno == EINTR)
+        result = call();
+    return result;
+}
+
+/// Opens a new file.
+int createFile(const QByteArray &path)
+{
+    return uninterrupted([&] { return ::open(path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666); });
+}
+
 class clsDescriptor {
 public:
     explicit clsDescriptor(int descriptor)
@@ -34,7 +49,8 @@ public:
     {
         const int descriptor = m_descriptor;
         m_descriptor = -1;
-        return ::close(descriptor) == 0;
+        // After an interrupted close the descriptor is gone all the same, and must not be closed twice.
+        return ::close(descriptor) == 0 || errno == EINTR;
     }
 
 private:
@@ -53,7 +69,7 @@ int createSideFile(const QByteArray &document, QByteArray &sidePath)
     const qsizetype folderEnd = document.lastIndexOf('/') + 1;
     for (int i = 0; i < Attempts; ++i) {
         sidePath = document.left(folderEnd) + ".~" + document.mid(folderEnd) + '.' + QByteArray::number(i);
-        const int descriptor = ::open(sidePath.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        const int descriptor = createFile(sidePath);
         if (descriptor >= 0 || errno != EEXIST)
             return descriptor;
     }
@@ -64,9 +80,8 @@ bool writeAll(int descriptor, const QByteArray &bytes)
 {
     qsizetype done = 0;
     while (done < bytes.size()) {
-        const ssize_t written = ::write(descriptor, bytes.constData() + done, size_t(bytes.size() - done));
-        if (written < 0 && errno == EINTR)
-            continue;
+        const ssize_t written
+            = uninterrupted([&] { return ::write(descriptor, bytes.constData() + done, size_t(bytes.size() - done)); });
         if (written <= 0)
             return false;
         done += written;
@@ -126,8 +141,8 @@ void mdWriteDocumentFile(const QString &path, const QByteArray &bytes)
     if (exists)
         (void)::fchmod(side.get(), status.st_mode & 07777); // a file system without modes is no reason to fail
 
-    const bool written = writeAll(side.get(), bytes) && ::fsync(side.get()) == 0 && side.close()
-        && ::rename(sidePath.constData(), document.constData()) == 0;
+    const bool written = writeAll(side.get(), bytes) && uninterrupted([&] { return ::fsync(side.get()); }) == 0
+        && side.close() && ::rename(sidePath.constData(), document.constData()) == 0;
     if (!written) {
         const int systemError = errno;
         ::unlink(sidePath.constData());
@@ -141,7 +156,7 @@ void mdWriteWorkingFile(const QString &path, const QByteArray &bytes)
     const QByteArray file = QFile::encodeName(path);
     if (::unlink(file.constData()) != 0 && errno != ENOENT)
         fail(errno);
-    clsDescriptor descriptor(::open(file.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    clsDescriptor descriptor(createFile(file));
     if (descriptor.get() < 0)
         fail(errno == ENOENT ? ENOTDIR : errno); // it is the folder that was not found
     if (writeAll(descriptor.get(), bytes) && descriptor.close())

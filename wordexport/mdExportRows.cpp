@@ -2,6 +2,7 @@
 
 #include "costing/mdGetCommsInfo.h"
 #include "costing/mdGetDisbursementsTotals.h"
+#include "costing/mdSumOf.h"
 #include "shell/mdExisting.h"
 #include "wordexport/mdExportSources.h"
 
@@ -28,19 +29,8 @@ const clsZR3Disbursement &other(const Form &form, int i)
     return *form.NonCounselDisbursement(i);
 }
 
-std::shared_ptr<clsZR3ExpertInvoice> expert(const Form &form, int i)
-{
-    auto invoice = form.ExpertInvoiceByOrderID(i);
-    mdExisting(invoice);
-    return invoice;
-}
-
-std::shared_ptr<clsZR3JointInstruction> joint(const Form &form, int i)
-{
-    auto instruction = form.JointInstructionByOrderID(i);
-    mdExisting(instruction);
-    return instruction;
-}
+constexpr auto expert = mdItemAt<&Form::ExpertInvoiceByOrderID>;
+constexpr auto joint = mdItemAt<&Form::JointInstructionByOrderID>;
 
 const clsGridCell CounselFees[] = {
     ZR3_CELL(QString::number(i), Text),
@@ -50,7 +40,7 @@ const clsGridCell CounselFees[] = {
 };
 
 const clsPlaceholderRow CounselFeesPlaceholders[] = {
-    ZR3_FIGURE("{ctotal}", CounselDisbursementsAmountTotal(form) + CounselDisbursementsVATTotal(form)),
+    ZR3_FIGURE("{ctotal}", mdSumOf({CounselDisbursementsAmountTotal(form), CounselDisbursementsVATTotal(form)})),
     ZR3_TICK("{1}", CounselOutstandingClaims.OutstandingClaimsYes),
     ZR3_TICK("{2}", CounselOutstandingClaims.OutstandingClaimsNo),
 };
@@ -83,6 +73,54 @@ const clsGridCell OtherDisbursements[] = {
     ZR3_CELL(other(form, i).Amount(), Money),
     ZR3_CELL(other(form, i).VAT(), Money),
     ZR3_CELL(mdGrossText(other(form, i).Amount(), other(form, i).VAT()), Money),
+};
+
+const clsPlaceholderRow FirstPage[] = {
+    ZR3_TEXT("{stagenumber}", StageNumber),
+    ZR3_TEXT("{typeofcase}", TypeOfCase),
+    ZR3_TEXT("{casereferencenumber}", ClientDetails.CaseReferenceNumber),
+    ZR3_TEXT("{title}", ClientDetails.Title),
+    ZR3_TEXT("{firstname}", ClientDetails.FirstName),
+    ZR3_TEXT("{surname}", ClientDetails.Surname),
+    ZR3_TEXT("{dateofbirth}", ClientDetails.DateOfBirth),
+    ZR3_TEXT("{morethan1certificate}", ClientDetails.MoreThan1Certificate),
+    ZR3_TEXT("{accountnumber}", SolicitorDetails.AccountNumber),
+    ZR3_TEXT("{rollnumber}", SolicitorDetails.RollNumber),
+    ZR3_TEXT("{nameoffirm}", SolicitorDetails.NameOfFirm),
+    ZR3_TEXT("{casereference}", SolicitorDetails.CaseReference),
+    ZR3_TEXT("{contactnameforenquiries}", SolicitorDetails.ContactNameForEnquiries),
+    ZR3_TEXT("{telephoneforenquiries}", SolicitorDetails.TelephoneForEnquiries),
+    ZR3_TEXT("{emailforenquiries}", SolicitorDetails.EmailForEnquiries),
+    ZR3_TICK("{3}", PreviousAdvice.LegalHelpYes),
+    ZR3_TICK("{4}", PreviousAdvice.LegalHelpNo),
+    ZR3_TEXT("{datelegalhelpformsigned}", PreviousAdvice.DateLegalHelpFormSigned),
+    ZR3_MONEY("{totalcostsincurred}", PreviousAdvice.TotalCostsIncurred),
+};
+
+const clsPlaceholderRow CostsAwardedAmounts[] = {
+    ZR3_MONEY("{precertcosts}", DetailsOfCostsAwarded.PreCertificateCosts),
+    ZR3_MONEY("{duringcertlsc}", DetailsOfCostsAwarded.DuringCertificateCostsLSC),
+    ZR3_MONEY("{duringcertmr}", DetailsOfCostsAwarded.DuringCertificateCostsMarketRates),
+};
+
+const clsPlaceholderRow CostsAwarded[] = {
+    ZR3_TICK("{1}", DetailsOfCostsAwarded.LegalHelpInPreCertificateCostsYes),
+    ZR3_TICK("{2}", DetailsOfCostsAwarded.LegalHelpInPreCertificateCostsNo),
+    ZR3_MONEY("{lhipccamount}", DetailsOfCostsAwarded.LegalHelpInPreCertificateCostsAmount),
+    ZR3_MONEY("{interest}", DetailsOfCostsAwarded.InterestOnAllCosts),
+    ZR3_TEXT("{dateinterestcommenced}", DetailsOfCostsAwarded.DateInterestCommenced),
+    ZR3_TEXT("{interestbreakdown}", DetailsOfCostsAwarded.InterestBreakdown),
+    ZR3_MONEY("{rcvrdtodate}", DetailsOfCostsAwarded.AmountRecoveredToDate),
+    ZR3_TEXT("{dateorderserved}", DetailsOfCostsAwarded.DateOrderServed),
+    ZR3_TEXT("{addressofservice}", DetailsOfCostsAwarded.AddressOfService),
+    ZR3_TICK("{3}", DetailsOfCostsAwarded.LeaveYes),
+    ZR3_TICK("{4}", DetailsOfCostsAwarded.LeaveNo),
+    ZR3_TICK("{5}", DetailsOfCostsAwarded.DeterminationYes),
+    ZR3_TICK("{6}", DetailsOfCostsAwarded.DeterminationNo),
+    ZR3_MONEY("{detmamount}", DetailsOfCostsAwarded.DeterminationAmount),
+    ZR3_TICK("{7}", DetailsOfCostsAwarded.OfferByDebtorYes),
+    ZR3_TICK("{8}", DetailsOfCostsAwarded.OfferByDebtorNo),
+    ZR3_TEXT("{offerbydebtordetails}", DetailsOfCostsAwarded.OfferByDebtorDetails),
 };
 
 const clsPlaceholderRow Communications[] = {
@@ -148,30 +186,13 @@ const std::span<const clsPlaceholderRow> CounselFeesRows = CounselFeesPlaceholde
 const std::span<const clsGridCell> ExpertInvoiceCells = ExpertInvoices;
 const std::span<const clsGridCell> JointInstructionCells = JointInstructions;
 const std::span<const clsGridCell> OtherDisbursementCells = OtherDisbursements;
+const std::span<const clsPlaceholderRow> FirstPageRows = FirstPage;
+const std::span<const clsPlaceholderRow> CostsAwardedAmountsRows = CostsAwardedAmounts;
+const std::span<const clsPlaceholderRow> CostsAwardedRows = CostsAwarded;
 const std::span<const clsPlaceholderRow> CommunicationsRows = Communications;
 const std::span<const clsPlaceholderRow> DebtorsDetailsRows = Debtor;
 
-int mdCountCounselFees(const clsZR3Form &form)
-{
-    return int(form.CounselDisbursementsCollection().size());
-}
-
-int mdCountExpertInvoices(const clsZR3Form &form)
-{
-    return int(form.ExpertInvoicesCollection().size());
-}
-
-int mdCountJointInstructions(const clsZR3Form &form)
-{
-    return int(form.JointInstructionsCollection().size());
-}
-
-int mdCountOtherDisbursements(const clsZR3Form &form)
-{
-    return int(form.NonCounselDisbursementsCollection().size());
-}
-
 QString mdGrossText(const QString &amount, const QString &vat)
 {
-    return MoneyToText(MoneyFromText(amount) + MoneyFromText(vat));
+    return MoneyToText(mdSumOf({MoneyFromText(amount), MoneyFromText(vat)}));
 }

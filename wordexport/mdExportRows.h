@@ -16,16 +16,15 @@ extern const std::span<const clsGridCell> ExpertInvoiceCells;
 extern const std::span<const clsGridCell> JointInstructionCells;
 extern const std::span<const clsGridCell> OtherDisbursementCells;
 
+/// The first page from the stage number to the costs of the previous advice.
+extern const std::span<const clsPlaceholderRow> FirstPageRows;
+/// The costs awarded: the amounts before and during the certificate, and everything that follows the amounts.
+extern const std::span<const clsPlaceholderRow> CostsAwardedAmountsRows;
+extern const std::span<const clsPlaceholderRow> CostsAwardedRows;
 /// Letters out, letters in and calls, two lines each, and their total.
 extern const std::span<const clsPlaceholderRow> CommunicationsRows;
 /// The whole of the debtor's page.
 extern const std::span<const clsPlaceholderRow> DebtorsDetailsRows;
-
-// How many items the grids have.
-int mdCountCounselFees(const clsZR3Form &form);
-int mdCountExpertInvoices(const clsZR3Form &form);
-int mdCountJointInstructions(const clsZR3Form &form);
-int mdCountOtherDisbursements(const clsZR3Form &form);
 
 /// The text of an expert's invoice item's or disbursement's amount and VAT added; the type error where one is no
 /// number.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "costing/Money.h"
+#include "shell/mdExisting.h"
 #include "wordexport/clsExportPage.h"
 
 // Short ways of writing the rows of a page's table: a placeholder, the property that it shows, and by the word the
@@ -10,6 +11,21 @@
 inline QString mdTickText(bool ticked)
 {
     return ticked ? QStringLiteral("True") : QStringLiteral("False");
+}
+
+/// How many items a list of the claim has, such as `mdCountOf<&clsZR3Form::ExpertInvoicesCollection>`.
+template <auto Collection> int mdCountOf(const clsZR3Form &form)
+{
+    return int((form.*Collection)().size());
+}
+
+/// Item `i` of a list by its order, such as `mdItemAt<&clsZR3Form::ExpertInvoiceByOrderID>`; the object error where the
+/// list has none of that order.
+template <auto ByOrderID> auto mdItemAt(const clsZR3Form &form, int i)
+{
+    auto item = (form.*ByOrderID)(i);
+    mdExisting(item);
+    return item;
 }
 
 // clang-format off

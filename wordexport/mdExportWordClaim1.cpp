@@ -20,41 +20,17 @@
 
 namespace {
 
-/// The code of the entry chosen in a list of outcomes; a place outside the list is the subscript error.
-QString outcome(const QStringList &list, int place)
-{
-    if (place < 0 || place >= list.size())
-        throw clsRunTimeError(clsRunTimeError::SubscriptOutOfRange);
-    return OutcomeCode(list[place]);
-}
-
 // Page 1
 
-const clsPlaceholderRow Page1Rows[] = {
+const clsPlaceholderRow Page1ThisClaimRows[] = {
     ZR3_TICK("{1}", CostsAssessedByLSC),
     ZR3_TICK("{2}", CostsAssessedByCourt),
     ZR3_TICK("{9}", ExceptionalCaseFunding),
     ZR3_TICK("{10}", MentalHealth),
     ZR3_TICK("{11}", VHCC),
-    ZR3_TEXT("{stagenumber}", StageNumber),
-    ZR3_TEXT("{typeofcase}", TypeOfCase),
-    ZR3_TEXT("{casereferencenumber}", ClientDetails.CaseReferenceNumber),
-    ZR3_TEXT("{title}", ClientDetails.Title),
-    ZR3_TEXT("{firstname}", ClientDetails.FirstName),
-    ZR3_TEXT("{surname}", ClientDetails.Surname),
-    ZR3_TEXT("{dateofbirth}", ClientDetails.DateOfBirth),
-    ZR3_TEXT("{morethan1certificate}", ClientDetails.MoreThan1Certificate),
-    ZR3_TEXT("{accountnumber}", SolicitorDetails.AccountNumber),
-    ZR3_TEXT("{rollnumber}", SolicitorDetails.RollNumber),
-    ZR3_TEXT("{nameoffirm}", SolicitorDetails.NameOfFirm),
-    ZR3_TEXT("{casereference}", SolicitorDetails.CaseReference),
-    ZR3_TEXT("{contactnameforenquiries}", SolicitorDetails.ContactNameForEnquiries),
-    ZR3_TEXT("{telephoneforenquiries}", SolicitorDetails.TelephoneForEnquiries),
-    ZR3_TEXT("{emailforenquiries}", SolicitorDetails.EmailForEnquiries),
-    ZR3_TICK("{3}", PreviousAdvice.LegalHelpYes),
-    ZR3_TICK("{4}", PreviousAdvice.LegalHelpNo),
-    ZR3_TEXT("{datelegalhelpformsigned}", PreviousAdvice.DateLegalHelpFormSigned),
-    ZR3_MONEY("{totalcostsincurred}", PreviousAdvice.TotalCostsIncurred),
+};
+
+const clsPlaceholderRow Page1PreviousAdviceRows[] = {
     ZR3_TICK("{5}", PreviousAdvice.InclusiveOfAllSolicitorsYes),
     ZR3_TICK("{6}", PreviousAdvice.InclusiveOfAllSolicitorsNo),
     ZR3_TEXT("{inclusiveofallsolicitorsreasons}", PreviousAdvice.InclusiveOfAllSolicitorsReasons),
@@ -62,7 +38,7 @@ const clsPlaceholderRow Page1Rows[] = {
     ZR3_TICK("{8}", PreviousAdvice.FurtherClaimsNo),
 };
 
-const clsPlainPage Page1 = {1, "Claim1 P1", Page1Rows};
+const clsPlainPage Page1 = {1, "Claim1 P1", {Page1ThisClaimRows, FirstPageRows, Page1PreviousAdviceRows}};
 
 // Page 2
 
@@ -74,11 +50,11 @@ const clsPlaceholderRow Page2Rows[] = {
     ZR3_TEXT("{nameofcourt}", CaseInformation.NameOfCourt),
     ZR3_TEXT("{emergencycertificatedate}", CaseInformation.EmergencyCertificateDate),
     ZR3_TEXT("{substantivecertificatedate}", CaseInformation.SubstantiveCertificateDate),
-    ZR3_WORDS("{g}", outcome(StageOfCaseEndCollection(), form.OutcomeOfCase.StageOfCaseEnd())),
-    ZR3_WORDS("{h}", outcome(HowDidCaseEndCollection(), form.OutcomeOfCase.HowDidCaseEnd())),
-    ZR3_WORDS("{i}", outcome(ResultCollection(), form.OutcomeOfCase.Result())),
-    ZR3_WORDS("{j}", outcome(ADRProposedCollection(), form.OutcomeOfCase.ADRProposed())),
-    ZR3_WORDS("{k}", outcome(PublicBenefitsAchievedCollection(), form.OutcomeOfCase.PublicBenefitsAchieved())),
+    ZR3_WORDS("{g}", OutcomeCodeAt(StageOfCaseEndCollection(), form.OutcomeOfCase.StageOfCaseEnd())),
+    ZR3_WORDS("{h}", OutcomeCodeAt(HowDidCaseEndCollection(), form.OutcomeOfCase.HowDidCaseEnd())),
+    ZR3_WORDS("{i}", OutcomeCodeAt(ResultCollection(), form.OutcomeOfCase.Result())),
+    ZR3_WORDS("{j}", OutcomeCodeAt(ADRProposedCollection(), form.OutcomeOfCase.ADRProposed())),
+    ZR3_WORDS("{k}", OutcomeCodeAt(PublicBenefitsAchievedCollection(), form.OutcomeOfCase.PublicBenefitsAchieved())),
     ZR3_TICK("{l}", OutcomeOfCase.Costs),
     ZR3_TICK("{m}", OutcomeOfCase.Damages),
     ZR3_TICK("{n}", OutcomeOfCase.Property),
@@ -88,7 +64,7 @@ const clsPlaceholderRow Page2Rows[] = {
     ZR3_LONG("{explanation}", LateSubmission.Explanation, LateSubmissionOverRun),
 };
 
-const clsPlainPage Page2 = {2, "Claim1 P2", Page2Rows};
+const clsPlainPage Page2 = {2, "Claim1 P2", {Page2Rows}};
 
 // Page 3
 
@@ -100,12 +76,13 @@ const clsPlaceholderRow Page3Rows[] = {
     ZR3_LONG("{detailsofenhancement}", DetailsOfWork.DetailsOfEnhancement, EnhancementOverRun),
 };
 
-const clsPlainPage Page3 = {3, "Claim1 P3", Page3Rows, "Claim1 P3 Panel Membership Cont"};
+const clsPlainPage Page3 = {3, "Claim1 P3", {Page3Rows}, "Claim1 P3 Panel Membership Cont"};
 
 // Page 4: counsel's fees. The sheet counter goes on from whatever page ran before it, and so do the further sheets'
 // names and marks: that carry-over belongs to this page and stays.
 
-const clsGrid CounselFeesGrid = {mdCountCounselFees, CounselFeesCells, 32, 38, 9, 3, "Claim1 P4 Counsels Fees Cont"};
+const clsGrid CounselFeesGrid = {mdCountOf<&clsZR3Form::CounselDisbursementsCollection>, CounselFeesCells, 32, 38, 9, 3,
+    "Claim1 P4 Counsels Fees Cont"};
 const clsGridPage::Grid Page4Grids[] = {{&CounselFeesGrid, clsGridPage::RunsOn}};
 const clsGridPage Page4 = {4, "Claim1 P4", Page4Grids, CounselFeesRows};
 
@@ -116,8 +93,8 @@ const clsAdditionalInformation Page6AdditionalInformation = {6, "Claim1 P6", "Cl
 /// The lines above the experts' grid while no note is typed; each typed line pushes it down by one.
 constexpr int LinesAboveExperts = 20;
 
-const clsGrid ExpertsGrid
-    = {mdCountExpertInvoices, ExpertInvoiceCells, 11, 32, LinesAboveExperts, 4, "Claim1 P6 Expert Dibs Cont"};
+const clsGrid ExpertsGrid = {mdCountOf<&clsZR3Form::ExpertInvoicesCollection>, ExpertInvoiceCells, 11, 32,
+    LinesAboveExperts, 4, "Claim1 P6 Expert Dibs Cont"};
 
 const clsOverRun ExpertStandardsOverRun = {100, 2750, "Claim1 P6 Expert Dibs Standards Cont"};
 
@@ -145,10 +122,10 @@ void mdExportWordClaim1Page6(clsExport &run)
 // Page 7: disbursements. The counter starts anew before the second grid, so that both grids' first further sheets are
 // 7(2): the second overwrites the first, and the finished document shows it twice. It is to stay so.
 
-const clsGrid JointInstructionsGrid
-    = {mdCountJointInstructions, JointInstructionCells, 14, 30, 6, 5, "Claim1 P7 Expert Dibs Joint Instruction Cont"};
-const clsGrid OtherDisbursementsGrid
-    = {mdCountOtherDisbursements, OtherDisbursementCells, 12, 32, 25, 3, "Claim1 P7 Other Dibs Cont"};
+const clsGrid JointInstructionsGrid = {mdCountOf<&clsZR3Form::JointInstructionsCollection>, JointInstructionCells, 14,
+    30, 6, 5, "Claim1 P7 Expert Dibs Joint Instruction Cont"};
+const clsGrid OtherDisbursementsGrid = {mdCountOf<&clsZR3Form::NonCounselDisbursementsCollection>,
+    OtherDisbursementCells, 12, 32, 25, 3, "Claim1 P7 Other Dibs Cont"};
 
 const clsGridPage::Grid Page7Grids[] = {
     {&JointInstructionsGrid, clsGridPage::StartsAnew},
@@ -158,7 +135,8 @@ const clsGridPage::Grid Page7Grids[] = {
 const clsPlaceholderRow Page7Rows[] = {
     ZR3_FIGURE("{nettotal}", NonCounselDisbursementsAmountTotal(form)),
     ZR3_FIGURE("{vattotal}", NonCounselDisbursementsVATTotal(form)),
-    ZR3_FIGURE("{dibstotal}", NonCounselDisbursementsAmountTotal(form) + NonCounselDisbursementsVATTotal(form)),
+    ZR3_FIGURE(
+        "{dibstotal}", mdSumOf({NonCounselDisbursementsAmountTotal(form), NonCounselDisbursementsVATTotal(form)})),
 };
 
 const clsGridPage Page7 = {7, "Claim1 P7", Page7Grids, Page7Rows};
@@ -174,7 +152,7 @@ const clsPlaceholderRow SummaryRows[] = {
     ZR3_FIGURE("{vex}", ExpertInvoicesVATTotal(form)),
     ZR3_FIGURE("{vdibs}", NonCounselDisbursementsVATTotal(form)),
     ZR3_FIGURE("{vtotal}", VATWithoutCounsel(form)),
-    ZR3_FIGURE("{grandtotal}", NetWithoutCounsel(form) + VATWithoutCounsel(form)),
+    ZR3_FIGURE("{grandtotal}", mdSumOf({NetWithoutCounsel(form), VATWithoutCounsel(form)})),
     ZR3_WORDS("{counsel}", QString::number(form.CounselCollection().size())),
     ZR3_FIGURE("{ncf}", CounselFeesAmountTotal(form)),
     ZR3_FIGURE("{vcf}", CounselFeesVATTotal(form)),
@@ -193,40 +171,20 @@ const clsPlaceholderRow SummaryRows[] = {
     ZR3_FIGURE("{cslamt6}", CounselGrossAtLine(form, 6)),
 };
 
-const clsPlainPage Page8 = {8, "Claim1 P8", CommunicationsRows, nullptr, true, SummaryRows};
+const clsPlainPage Page8 = {8, "Claim1 P8", {CommunicationsRows, SummaryRows}};
 
 // Page 9: costs awarded
 
-const clsPlaceholderRow Page9Rows[] = {
-    ZR3_MONEY("{precertcosts}", DetailsOfCostsAwarded.PreCertificateCosts),
-    ZR3_MONEY("{duringcertlsc}", DetailsOfCostsAwarded.DuringCertificateCostsLSC),
-    ZR3_MONEY("{duringcertmr}", DetailsOfCostsAwarded.DuringCertificateCostsMarketRates),
-    ZR3_TICK("{1}", DetailsOfCostsAwarded.LegalHelpInPreCertificateCostsYes),
-    ZR3_TICK("{2}", DetailsOfCostsAwarded.LegalHelpInPreCertificateCostsNo),
-    ZR3_MONEY("{lhipccamount}", DetailsOfCostsAwarded.LegalHelpInPreCertificateCostsAmount),
-    ZR3_MONEY("{interest}", DetailsOfCostsAwarded.InterestOnAllCosts),
-    ZR3_TEXT("{dateinterestcommenced}", DetailsOfCostsAwarded.DateInterestCommenced),
-    ZR3_TEXT("{interestbreakdown}", DetailsOfCostsAwarded.InterestBreakdown),
-    ZR3_MONEY("{rcvrdtodate}", DetailsOfCostsAwarded.AmountRecoveredToDate),
-    ZR3_TEXT("{dateorderserved}", DetailsOfCostsAwarded.DateOrderServed),
-    ZR3_TEXT("{addressofservice}", DetailsOfCostsAwarded.AddressOfService),
-    ZR3_TICK("{3}", DetailsOfCostsAwarded.LeaveYes),
-    ZR3_TICK("{4}", DetailsOfCostsAwarded.LeaveNo),
-    ZR3_TICK("{5}", DetailsOfCostsAwarded.DeterminationYes),
-    ZR3_TICK("{6}", DetailsOfCostsAwarded.DeterminationNo),
-    ZR3_MONEY("{detmamount}", DetailsOfCostsAwarded.DeterminationAmount),
-    ZR3_TICK("{7}", DetailsOfCostsAwarded.OfferByDebtorYes),
-    ZR3_TICK("{8}", DetailsOfCostsAwarded.OfferByDebtorNo),
-    ZR3_TEXT("{offerbydebtordetails}", DetailsOfCostsAwarded.OfferByDebtorDetails),
+const clsPlaceholderRow MoniesRows[] = {
     ZR3_MONEY("{value}", DetailsOfMonies.Value),
     ZR3_MONEY("{dmrcvrdtodate}", DetailsOfMonies.AmountRecovered),
 };
 
-const clsPlainPage Page9 = {9, "Claim1 P9", Page9Rows, nullptr, false};
+const clsPlainPage Page9 = {9, "Claim1 P9", {CostsAwardedAmountsRows, CostsAwardedRows, MoniesRows}, nullptr, false};
 
 // Page 10: the debtor
 
-const clsPlainPage Page10 = {10, "Claim1 P10", DebtorsDetailsRows};
+const clsPlainPage Page10 = {10, "Claim1 P10", {DebtorsDetailsRows}};
 
 // The exporters by their names; page 6 alone has steps of its own.
 

@@ -22,7 +22,9 @@ void exportPage(clsExport &run, const clsExportPageRow &page)
 
 void exportSheets(clsExport &run, const clsExportForm &form)
 {
-    mdCreateExportTempFolder(run.exportFolder);
+    run.folderLock = mdCreateExportTempFolder(run.exportFolder);
+    if (!run.folderLock)
+        throw clsExportStopped();
     for (const clsExportPageRow &page : form.pages) {
         // The step is taken whether or not the page is included.
         mdSetProgress(page.number, form.progressMaximum, QStringLiteral("Exporting Page %1").arg(page.number));

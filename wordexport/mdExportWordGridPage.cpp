@@ -78,7 +78,10 @@ void mdExportWordGridPage(clsExport &run, const clsGridPage &page)
             run.ExportSheetCounter = 1;
         mdExportGrid(run, word, *part.grid, part.grid->firstOffset, firstSheet, page.number);
     }
-    mdReplaceFirstSheetMark(run, word);
+    if (!page.markComesLast)
+        mdReplaceFirstSheetMark(run, word);
     mdReplaceRows(run, word, page.rows, page.number);
+    if (page.markComesLast)
+        mdReplaceFirstSheetMark(run, word);
     mdFinishSheet(run, word);
 }

@@ -11,8 +11,8 @@ void mdExportWordPlainPage(clsExport &run, const clsPlainPage &page)
     const QString path = mdMakeSheet(run, QString::fromLatin1(page.pageTemplate), page.number, 1);
     clsMSWord word;
     mdOpenSheet(run, word, path);
-    mdReplaceRows(run, word, page.rows, page.number);
-    mdReplaceRows(run, word, page.furtherRows, page.number);
+    for (const auto &rows : page.tables)
+        mdReplaceRows(run, word, rows, page.number);
     if (page.panelTemplate && run.form.IncludePanelMembershipContSheet())
         mdExportWordPanelMembershipOverrun(run, QString::fromLatin1(page.panelTemplate), page.number);
     if (page.hasMark)

@@ -1,5 +1,7 @@
 #include "wordexport/mdOutcomesCollections.h"
 
+#include "shell/clsRunTimeError.h"
+
 QStringList StageOfCaseEndCollection()
 {
     return {
@@ -96,4 +98,11 @@ QString OutcomeCode(const QString &text)
 {
     const qsizetype bracket = text.indexOf(u')');
     return bracket < 0 ? QString() : text.left(bracket);
+}
+
+QString OutcomeCodeAt(const QStringList &list, int place)
+{
+    if (place < 0 || place >= list.size())
+        throw clsRunTimeError(clsRunTimeError::SubscriptOutOfRange);
+    return OutcomeCode(list[place]);
 }

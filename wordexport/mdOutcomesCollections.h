@@ -14,3 +14,5 @@ QStringList PublicBenefitsAchievedCollection();
 
 /// What stands before the first ")" of a text; empty where there is none.
 QString OutcomeCode(const QString &text);
+/// The code of the entry at a place in a list, as a claim stores it; a place outside the list is the subscript error.
+QString OutcomeCodeAt(const QStringList &list, int place);

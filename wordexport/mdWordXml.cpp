@@ -341,6 +341,18 @@ QString withoutForbiddenCharacters(const QString &text)
     return kept;
 }
 
+void removeContent(xml_node node)
+{
+    xml_node leaf = node;
+    while (node.first_child()) {
+        while (leaf.first_child())
+            leaf = leaf.first_child();
+        xml_node parent = leaf.parent();
+        parent.remove_child(leaf);
+        leaf = parent;
+    }
+}
+
 int depth(const xml_node &root, int limit)
 {
     // Not recursive: what is measured here is what would break a recursion.

@@ -85,6 +85,10 @@ pugi::xml_node insertTinyParagraph(pugi::xml_node container, const pugi::xml_nod
 /// surrogate pairs, and the two non-characters.
 QString withoutForbiddenCharacters(const QString &text);
 
+/// Takes all out of a node, one leaf at a time: the library's own removal descends a tree by recursion, and one from an
+/// unknown document may be deeper than the stack.
+void removeContent(pugi::xml_node node);
+
 /// How many levels deep a part is nested; deeper than the limit counts as the limit.
 int depth(const pugi::xml_node &root, int limit);
 

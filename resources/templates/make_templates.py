@@ -12,10 +12,10 @@ from pathlib import Path
 
 sys.dont_write_bytecode = True          # the sources stay as they are
 
-from zr3_forms import claim1            # noqa: E402
+from zr3_forms import claim1, claim1a           # noqa: E402
 from zr3_forms.package import package_bytes     # noqa: E402
 
-FORMS = [claim1]
+FORMS = [claim1, claim1a]
 
 
 def make_templates(folder):

@@ -8,8 +8,8 @@
 #include "shell/zr3tool/clsToolCommand.h"
 #include "shell/zr3tool/mdTotalsReport.h"
 #include "wordexport/clsExport.h"
+#include "wordexport/mdExportDriver.h"
 #include "wordexport/mdExportTempFolder.h"
-#include "wordexport/mdExportWordClaim1.h"
 #include "wordexport/mdExportWordCombineDocuments.h"
 
 #include <QCoreApplication>
@@ -95,8 +95,8 @@ Status save(const clsConsoleUserInterface &console, clsZR3Form &form, const QStr
 
 Status exportSheetsAndDocument(clsConsoleUserInterface &console, clsExport &run)
 {
-    if (run.form.FormType() == QLatin1String("Claim1"))
-        return mdExportWordClaim1(run) ? Status::Done : Status::Failed;
+    if (const clsExportDriver driver = mdExportDriver(run.form.FormType()))
+        return driver(run) ? Status::Done : Status::Failed;
     console.tell(QStringLiteral("Export"),
         QStringLiteral("There are no pages for the form type \"%1\" of this claim.").arg(run.form.FormType()));
     return Status::Failed;
@@ -106,7 +106,7 @@ Status exportSheetsAndDocument(clsConsoleUserInterface &console, clsExport &run)
 void sweep(const clsExport &run)
 {
     try {
-        if (!run.keepsSheets && QFileInfo::exists(mdExportTempFolder(run.exportFolder)))
+        if (run.folderLock && !run.keepsSheets && QFileInfo::exists(mdExportTempFolder(run.exportFolder)))
             mdClearExportTempFolder(run.exportFolder, true);
     } catch (const std::exception &) { }
 }

@@ -83,14 +83,8 @@ const FigureRow Claim1ASummary[] = {
     {"vfas", FASVATTotal},
     {"ncsl", CounselFeesAmountTotal},
     {"vcsl", CounselFeesVATTotal},
-    {"ntotal",
-        [](const Form &form) {
-            return mdSumOf({NetWithoutCounsel(form), FASItemsTotal(form), CounselFeesAmountTotal(form)});
-        }},
-    {"vtotal",
-        [](const Form &form) {
-            return mdSumOf({VATWithoutCounsel(form), FASVATTotal(form), CounselFeesVATTotal(form)});
-        }},
+    {"ntotal", NetWithAdvocacyAndCounsel},
+    {"vtotal", VATWithAdvocacyAndCounsel},
 };
 
 /// Writes the report; a figure that fails is written as its error's number.

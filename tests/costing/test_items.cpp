@@ -330,6 +330,9 @@ TEST_F(ScheduleItem, TheDateSorts)
         {"01/02/06", "20060201"},
         {"28/02/1999", "19990228"},
         {"", ""},
+        // A year of more digits, or before the first, is a slip of the keys and would sort wrongly.
+        {"01/02/20240", "01/02/20240"},
+        {"01/02/-50", "01/02/-50"},
     };
     for (const auto &[date, serial] : rows) {
         const auto item = form.AddScheduleOfTimeItem();

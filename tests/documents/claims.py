@@ -2,11 +2,14 @@
 
 import itertools
 import xml.etree.ElementTree as ElementTree
+from typing import NamedTuple
 from urllib.parse import quote_plus
 
 from support import SAMPLES
 
-# The allowances of the texts, by their elements.
+MILLIONS = "8888888.88"
+
+# The allowances of the texts, by their elements: those of both forms, and of each.
 ALLOWANCES = {
     "stagenumber": 40, "typeofcase": 40,
     "clientdetails/casereferencenumber": 30, "clientdetails/title": 7, "clientdetails/firstname": 7,
@@ -14,11 +17,7 @@ ALLOWANCES = {
     "solicitordetails/accountnumber": 7, "solicitordetails/rollnumber": 7, "solicitordetails/nameoffirm": 42,
     "solicitordetails/casereference": 40, "solicitordetails/contactnameforenquiries": 35,
     "solicitordetails/telephoneforenquiries": 17, "solicitordetails/emailforenquiries": 35,
-    "previousadvice/inclusiveofallsolicitorsreasons": 115,
-    "caseinformation/nameofcourt": 30,
-    "latesubmission/explanation": 400,
-    "detailsofwork/detailsofcase": 770, "detailsofwork/detailsofenhancement": 710,
-    "expertsmeetmojstandardreasons": 100,
+    "detailsofwork/detailsofcase": 770,
     "detailsofcostsawarded/interestbreakdown": 60, "detailsofcostsawarded/addressofservice": 75,
     "detailsofcostsawarded/offerbydebtordetails": 85,
     "debtorsdetails/title": 9, "debtorsdetails/initials": 9, "debtorsdetails/surnameororganisation": 25,
@@ -28,21 +27,50 @@ ALLOWANCES = {
     "debtorsdetails/job": 65, "debtorsdetails/employersname": 55, "debtorsdetails/employersaddress": 55,
     "debtorsdetails/assets": 330, "debtorsdetails/casereference": 45, "debtorsdetails/information": 820,
 }
-LONG_TEXTS = {
-    "latesubmission/explanation": 3000, "detailsofwork/detailsofcase": 2750, "detailsofwork/detailsofenhancement": 2620,
-    "expertsmeetmojstandardreasons": 2750,
-}
-DATES = ["clientdetails/dateofbirth", "previousadvice/datelegalhelpformsigned", "caseinformation/issueofproceedingsdate",
-         "caseinformation/dateoffinalworkdate", "caseinformation/emergencycertificatedate",
-         "caseinformation/substantivecertificatedate", "latesubmission/ddate",
+DATES = ["clientdetails/dateofbirth", "previousadvice/datelegalhelpformsigned",
          "detailsofcostsawarded/dateinterestcommenced", "detailsofcostsawarded/dateorderserved",
          "debtorsdetails/dateofbirth"]
 AMOUNTS = ["previousadvice/totalcostsincurred", "detailsofcostsawarded/precertificatecosts",
            "detailsofcostsawarded/duringcertificatecostslsc", "detailsofcostsawarded/duringcertificatecostsmarketrates",
            "detailsofcostsawarded/legalhelpinprecertificatecostsamount", "detailsofcostsawarded/interestonallcosts",
            "detailsofcostsawarded/amountrecoveredtodate", "detailsofcostsawarded/determinationamount",
-           "detailsofmonies/value", "detailsofmonies/amountrecovered", "debtorsdetails/debtorsincome"]
-MILLIONS = "8888888.88"
+           "debtorsdetails/debtorsincome"]
+TICKS = ["", "previousadvice", "outcomeofcase", "counseloutstandingclaims", "detailsofcostsawarded", "debtorsdetails"]
+
+
+class Form(NamedTuple):
+    """What a form prints."""
+    sample: str                 # a claim with nothing in it
+    allowances: dict
+    long_texts: dict            # texts that may go to a continuation sheet, and how much one such sheet takes
+    dates: list
+    amounts: list
+    ticks: list                 # sections
+
+
+CLAIM1 = Form(
+    "empty",
+    {**ALLOWANCES, "previousadvice/inclusiveofallsolicitorsreasons": 115, "caseinformation/nameofcourt": 30,
+     "latesubmission/explanation": 400, "detailsofwork/detailsofenhancement": 710, "expertsmeetmojstandardreasons": 100},
+    {"latesubmission/explanation": 3000, "detailsofwork/detailsofcase": 2750, "detailsofwork/detailsofenhancement": 2620,
+     "expertsmeetmojstandardreasons": 2750},
+    [*DATES, "caseinformation/issueofproceedingsdate", "caseinformation/dateoffinalworkdate",
+     "caseinformation/emergencycertificatedate", "caseinformation/substantivecertificatedate", "latesubmission/ddate"],
+    [*AMOUNTS, "detailsofmonies/value", "detailsofmonies/amountrecovered"],
+    TICKS)
+
+CLAIM1A = Form(
+    "empty-1a",
+    {**ALLOWANCES, "natureofproceedings/detailsofcase": 570, "actualcostsincurred/privatelawworkatalllevelsreasons": 100,
+     "expertsmeetmojstandardreasons": 250},
+    {"natureofproceedings/detailsofcase": 2750, "actualcostsincurred/privatelawworkatalllevelsreasons": 2750,
+     "detailsofwork/detailsofcase": 2750, "expertsmeetmojstandardreasons": 2750},
+    [*DATES, "outcomeofcase/issueofproceedingsdate", "outcomeofcase/emergencycertificatedate",
+     "outcomeofcase/substantivecertificatedate", "outcomeofcase/dateoffinalorder"],
+    [*AMOUNTS, "actualcostsincurred/careandsupervisionprofitcosts", "actualcostsincurred/careandsupervisionprofitcostsvat",
+     "actualcostsincurred/privatelawprofitcosts", "actualcostsincurred/privatelawprofitcostsvat",
+     "actualcostsincurred/fixedfee", "detailsofcostsawarded/totalcostsawarded"],
+    [*TICKS, "natureofproceedings", "actualcostsincurred"])
 
 LETTERS = "NRTUDHGAEBKMPSWO"  # as wide as capitals are in running text: 6.9 pt of 10
 
@@ -68,8 +96,9 @@ def wide(length):
 
 
 class Claim:
-    def __init__(self, text):
-        self.root = ElementTree.parse(SAMPLES / "empty.zr3").getroot()
+    def __init__(self, form, text):
+        self.root = ElementTree.parse(SAMPLES / f"{form.sample}.zr3").getroot()
+        self.form = form
         self.text = text
         self.typed = []  # what must be found on the printed pages
 
@@ -85,15 +114,14 @@ class Claim:
             ElementTree.SubElement(item, name).text = quote_plus(str(value), safe="")
 
     def fill_texts(self, overrunning=False):
-        for path, allowance in ALLOWANCES.items():
-            length = LONG_TEXTS[path] - 1 if overrunning and path in LONG_TEXTS else allowance
+        for path, allowance in self.form.allowances.items():
+            length = self.form.long_texts[path] - 1 if overrunning and path in self.form.long_texts else allowance
             self.set(path, self.text(length))
-        for path in DATES:
+        for path in self.form.dates:
             self.set(path, "28/09/2026")
-        for path in AMOUNTS:
+        for path in self.form.amounts:
             self.set(path, MILLIONS)
-        for section in ["", "previousadvice", "outcomeofcase", "counseloutstandingclaims", "detailsofcostsawarded",
-                        "debtorsdetails"]:
+        for section in self.form.ticks:
             for element in self.root.find(section) if section else self.root:
                 if element.text == "False" and element.tag != "excludenonadvocacy":
                     element.text = "True"
@@ -145,27 +173,44 @@ class Claim:
             self.add("disbursements", "disbursement", counsel="False", counseluniqueid="", dateofwork="28/09/2026",
                      description=self.text(50), amount="888888.88", vat="88888.88")
 
+    # What a user may write at a hearing, the longest of each kind among them.
+    JUDGES = ("Lay Justices or Clerks", "Deputy District Judge", "Circuit judge", "High Court Judge")
+    HEARINGS = ("FDR", "FHDRA", "Interim", "Hearing")
+    DISTANCES = ("62 miles", "150 miles each way by train and car", "888 miles there and back")
+
+    def add_hearings(self, count, bolt_ons, travels):
+        """Hearings; the first ones with a bolt-on's description, and with an exceptional travel."""
+        for n in range(count):
+            self.add("fasitems", "fasitem", ddate="28/09/26", levelofcourt=self.JUDGES[n % 4], fdr=self.HEARINGS[n % 4],
+                     actualtimespent=1440, hearingunits=88, rateforunits="888.88", boltonclaimed="88.88",
+                     boltondescription=self.text(35) if n < bolt_ons else "", courtbundlepayment="8888.88",
+                     settlementfee="8888.88", exceptionaltravel="8888.88",
+                     exceptionaltraveldistance=self.DISTANCES[n % 3] if n < travels else "",
+                     exceptionaltravelreason=self.text(35) if n < travels else "", vatforfas="8888.88")
+
     def write(self, path):
         path.write_bytes(ElementTree.tostring(self.root, encoding="us-ascii", xml_declaration=False))
         return path
 
 
-def full(text):
+def full(form, text):
     """Everything at its allowance and every grid full, so that but for the panel sheet each page is one sheet."""
-    claim = Claim(text)
+    claim = Claim(form, text)
     claim.fill_texts()
     claim.add_people(6)
-    claim.add_items(33, [8])
+    claim.add_items(33, [8] if form is CLAIM1 else [8, 7, 5])
     claim.add_fees(32, 6)
     claim.add_experts(11)
     claim.add_joint_instructions(14)
     claim.add_disbursements(12)
+    if form is CLAIM1A:
+        claim.add_hearings(16, 6, 10)
     return claim
 
 
-def over(text):
+def over(form, text):
     """One more than fits in every grid, and the long texts as long as one continuation sheet takes."""
-    claim = Claim(text)
+    claim = Claim(form, text)
     claim.fill_texts(overrunning=True)
     claim.add_people(6)
     claim.add_items(34, [9, 38, 24, 23])
@@ -173,4 +218,14 @@ def over(text):
     claim.add_experts(12 + 32)
     claim.add_joint_instructions(15)
     claim.add_disbursements(13 + 32)
+    if form is CLAIM1A:
+        claim.add_hearings(17 + 36 + 36, 7 + 46, 11 + 46)
     return claim
+
+
+def made(*texts):
+    """The claims that the tests make: by name "full", "over" and "wide" for Claim 1, and the same with "-1a"."""
+    for form, ending in ((CLAIM1, ""), (CLAIM1A, "-1a")):
+        for name, make, text in (("full", full, Words), ("over", over, Words), ("wide", full, lambda: wide)):
+            if name in texts:
+                yield name + ending, make(form, text())

@@ -21,8 +21,7 @@ TOOL = os.environ.get("ZR3_TOOL", "")
 TEMPLATES = Path(os.environ.get("ZR3_TEMPLATES", ""))
 SAMPLES = Path(os.environ.get("ZR3_SAMPLES", ""))
 
-CLAIM1_SAMPLES = ["at-the-limit", "carried-counter", "empty", "exactly-full", "housing-typical", "joint-only",
-                  "many-sheets", "odd-characters", "older-file", "second-grid-twice"]
+ALL_SAMPLES = sorted(path.stem for path in SAMPLES.glob("*.zr3"))
 
 
 def work_folder():
@@ -44,12 +43,14 @@ def export(claim, folder):
     folder.mkdir(parents=True)
     subprocess.run([TOOL, "export", str(claim), str(folder), "--templates", str(TEMPLATES), "--keep-sheets", "--quiet"],
                    check=True)
-    return folder / "Claim1.doc"
+    (document,) = folder.glob("*.doc")
+    assert document.name in ("Claim1.doc", "Claim1A.doc"), document.name
+    return document
 
 
 def templates():
-    found = sorted(TEMPLATES.glob("Claim1 *.doc"))
-    assert len(found) == 20, f"{len(found)} templates of Claim 1 in {TEMPLATES}"
+    found = sorted(TEMPLATES.glob("*.doc"))
+    assert len(found) == 46, f"{len(found)} templates in {TEMPLATES}"
     return found
 
 

@@ -40,9 +40,9 @@ ORDERS = {
 def setUpModule():
     global WORK
     WORK = support.work_folder()
-    for name in support.CLAIM1_SAMPLES:
+    for name in support.ALL_SAMPLES:
         DOCUMENTS[name] = support.export(support.SAMPLES / f"{name}.zr3", WORK / name)
-    for name, claim in (("full", claims.full(claims.Words())), ("over", claims.over(claims.Words()))):
+    for name, claim in claims.made("full", "over"):
         DOCUMENTS[name] = support.export(claim.write(WORK / f"{name}.zr3"), WORK / name)
 
 
@@ -70,7 +70,7 @@ class Document:
 
 def on_each(check):
     def test(self):
-        self.assertEqual(len(DOCUMENTS), 12)
+        self.assertEqual(len(DOCUMENTS), 15 + 4)
         for name, path in DOCUMENTS.items():
             with self.subTest(document=name):
                 check(self, Document(path))
@@ -199,14 +199,14 @@ class Stories(unittest.TestCase):
             self.assertEqual((size.get(W + "w"), size.get(W + "h")), ("11906", "16838"))
 
     def test_there_are_as_many_sections_as_sheets(self):
-        for name in support.CLAIM1_SAMPLES:
+        for name in support.ALL_SAMPLES:
             with self.subTest(document=name):
                 self.assertEqual(len(list(Document(DOCUMENTS[name]).body.iter(W + "sectPr"))),
                                  len(support.expectations(name)["CombinedOrder"]))
 
     def test_every_typed_text_stands_in_the_document(self):
         """Against what was worked out for the samples; line breaks within a text part it."""
-        for name in support.CLAIM1_SAMPLES:
+        for name in support.ALL_SAMPLES:
             expected = support.expectations(name)
             by_name = {sheet["Name"]: sheet for sheet in expected["Sheets"]}
             wanted = Counter()

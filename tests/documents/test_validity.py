@@ -22,7 +22,7 @@ import support
 SCRIPT = Path(__file__).with_name("validate_documents.mjs")
 VERSIONS = 7
 OLDEST_AND_NEWEST = ("Office2007", "Microsoft365")
-IN_FULL = {"many-sheets", "full", "over", "empty"}
+IN_FULL = {"many-sheets", "full", "over", "empty", "many-sheets-1a", "full-1a", "over-1a", "empty-1a"}
 WORK = None
 
 
@@ -64,7 +64,7 @@ class Validity(unittest.TestCase):
 
     def check(self, files, in_full=lambda file: True):
         for file, problems in findings(files, in_full).items():
-            with self.subTest(file=Path(file).stem if Path(file).stem != "Claim1" else Path(file).parent.name):
+            with self.subTest(file=Path(file).parent.name if Path(file).stem in ("Claim1", "Claim1A") else Path(file).stem):
                 self.assertEqual(problems[:10], [])
 
     def test_a_broken_document_is_found_out(self):
@@ -83,9 +83,9 @@ class Validity(unittest.TestCase):
         self.check(support.templates())
 
     def test_finished_documents(self):
-        documents = [support.export(support.SAMPLES / f"{name}.zr3", WORK / name) for name in support.CLAIM1_SAMPLES]
-        for name, made in (("full", claims.full(claims.Words())), ("over", claims.over(claims.Words()))):
-            documents.append(support.export(made.write(WORK / f"{name}.zr3"), WORK / name))
+        documents = [support.export(support.SAMPLES / f"{name}.zr3", WORK / name) for name in support.ALL_SAMPLES]
+        for name, claim in claims.made("full", "over"):
+            documents.append(support.export(claim.write(WORK / f"{name}.zr3"), WORK / name))
         self.check(documents, lambda file: file.parent.name in IN_FULL)
 
 

@@ -9,8 +9,8 @@
 #include "tests/support/mdTestPaths.h"
 #include "tests/support/mdTestPrinting.h"
 #include "wordexport/clsExport.h"
+#include "wordexport/mdExportDriver.h"
 #include "wordexport/mdExportTempFolder.h"
-#include "wordexport/mdExportWordClaim1.h"
 #include "wordexport/mdExportWordCombineDocuments.h"
 
 #include <QTemporaryDir>
@@ -40,7 +40,7 @@ protected:
         SetProgramFolder(QString());
     }
 
-    /// Exports the claim; what mdExportWordClaim1 gives.
+    /// Exports the claim; what the driver of its form type gives.
     bool exportClaim()
     {
         run = std::make_unique<clsExport>(clsExport {.form = form, .templatesFolder = templates});
@@ -48,7 +48,7 @@ protected:
         run->keepsSheets = keepsSheets;
         recorder = std::make_unique<clsSheetRecorder>(*run, templates);
         const clsMSWordObserverScope scope(*recorder);
-        return mdExportWordClaim1(*run);
+        return mdExportDriver(form.FormType())(*run);
     }
 
     void includeOnly(std::initializer_list<int> pages)
@@ -107,12 +107,6 @@ protected:
         form.SeparateCounselAndNonCounselDisbursements();
         return fee;
     }
-    void addFees(int count)
-    {
-        const QString counsel = addCounsel(QStringLiteral("7A"), QStringLiteral("A. Barrister"));
-        for (int i = 0; i < count; ++i)
-            addFee(counsel);
-    }
     std::shared_ptr<clsZR3Disbursement> addDisbursement(const QString &description,
         const QString &amount = QStringLiteral("10.00"), const QString &vat = QStringLiteral("2.00"))
     {
@@ -123,6 +117,16 @@ protected:
         disbursement->VAT = vat;
         form.SeparateCounselAndNonCounselDisbursements();
         return disbursement;
+    }
+
+public:
+    // What fills a grid with rows.
+
+    void addFees(int count)
+    {
+        const QString counsel = addCounsel(QStringLiteral("7A"), QStringLiteral("A. Barrister"));
+        for (int i = 0; i < count; ++i)
+            addFee(counsel);
     }
     void addDisbursements(int count)
     {
@@ -143,6 +147,50 @@ protected:
         for (int i = 1; i <= count; ++i)
             form.AddJointInstruction()->ExpertType = QStringLiteral("Joint %1").arg(i);
     }
+    void addHearings(int count)
+    {
+        for (int i = 1; i <= count; ++i)
+            addHearing()->LevelOfCourt = QStringLiteral("Judge %1").arg(i);
+    }
+
+protected:
+    /// A hearing of three units at 100.00 and nothing else.
+    std::shared_ptr<clsZR3FASItem> addHearing()
+    {
+        const auto item = form.AddFASItem();
+        item->dDate = QStringLiteral("05/02/26");
+        item->HearingUnits = 3;
+        item->RateForUnits = QStringLiteral("100.00");
+        for (const char *amount : {"CourtBundlePayment", "SettlementFee", "ExceptionalTravel", "VATForFAS"})
+            item->field(QString::fromLatin1(amount))->writeText(QStringLiteral("0.00"));
+        return item;
+    }
+
+    // What went to a sheet, which is named as "7(1)".
+
+    QString mark(const QByteArray &sheet) const { return value(sheet, "{or}"); }
+    /// What replaced a placeholder, each time that it was replaced.
+    QString value(const QByteArray &sheet, const char *placeholder) const
+    {
+        return recorder->replacements(QString::fromLatin1(sheet), QString::fromLatin1(placeholder)).join(u'|');
+    }
+    QStringList row(const QByteArray &sheet, int number) const
+    {
+        return recorder->rows(QString::fromLatin1(sheet)).value(number - 1);
+    }
+    qsizetype rowCount(const QByteArray &sheet) const { return recorder->rows(QString::fromLatin1(sheet)).size(); }
+    QStringList lines(const QByteArray &sheet) const { return recorder->linesOf(QString::fromLatin1(sheet)); }
+    QString templateOf(const QByteArray &sheet) const { return recorder->templateOf(QString::fromLatin1(sheet)); }
+    static QStringList names(const char *all) { return QString::fromLatin1(all).split(u' '); }
+
+    /// "Exporting Page 1 1/11": the steps told to the user.
+    QStringList steps() const
+    {
+        QStringList told;
+        for (const auto &step : user.progress)
+            told << QStringLiteral("%1 %2/%3").arg(step.text).arg(step.value).arg(step.maximum);
+        return told;
+    }
 
     void switchLogOn()
     {
@@ -162,7 +210,7 @@ protected:
     }
 
     QString path(const QString &relative) const { return folder.filePath(relative); }
-    QString finished() const { return path(QStringLiteral("Claim1.doc")); }
+    QString finished() const { return path(form.FormType() + QStringLiteral(".doc")); }
     QString temporary() const { return path(QStringLiteral("~ZR3Temp")); }
     static QByteArray bytesOf(const QString &file)
     {

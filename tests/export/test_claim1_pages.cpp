@@ -5,22 +5,7 @@
 
 namespace {
 
-const QString Mark = QStringLiteral("{or}");
-
-class Claim1Pages : public clsExportTest {
-protected:
-    QString mark(const char *name) const { return recorder->replacements(QString::fromLatin1(name), Mark).join(u'|'); }
-    QString value(const char *name, const char *placeholder) const
-    {
-        return recorder->replacements(QString::fromLatin1(name), QString::fromLatin1(placeholder)).join(u'|');
-    }
-    QStringList row(const char *name, int number) const
-    {
-        return recorder->rows(QString::fromLatin1(name)).value(number - 1);
-    }
-    QString templateOf(const char *name) const { return recorder->templateOf(QString::fromLatin1(name)); }
-    static QStringList names(const char *all) { return QString::fromLatin1(all).split(u' '); }
-};
+class Claim1Pages : public clsExportTest { };
 
 // Page 2
 

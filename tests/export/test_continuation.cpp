@@ -7,6 +7,7 @@ namespace {
 const QString Mark = QStringLiteral("{or}");
 
 struct LongField {
+    const char *formType;
     int page;
     const char *placeholder;
     void (*set)(clsZR3Form &form, const QString &text);
@@ -23,20 +24,28 @@ void PrintTo(const LongField &field, std::ostream *out)
     *out << field.placeholder;
 }
 
+// clang-format off
 const LongField LongFields[] = {
-    {2, "{explanation}", [](clsZR3Form &form, const QString &text) { form.LateSubmission.Explanation = text; }, 400,
-        3000, "Claim1 P2 Late Submission Cont"},
-    {3, "{detailsofcase}", [](clsZR3Form &form, const QString &text) { form.DetailsOfWork.DetailsOfCase = text; }, 770,
-        2750, "Claim1 P3 Case Details Cont"},
-    {3, "{detailsofenhancement}",
-        [](clsZR3Form &form, const QString &text) { form.DetailsOfWork.DetailsOfEnhancement = text; }, 710, 2620,
-        "Claim1 P3 Enhancement Cont"},
-    {6, "{expertsmeetmojstandardreasons}",
-        [](clsZR3Form &form, const QString &text) { form.ExpertsMeetMOJStandardReasons = text; }, 100, 2750,
-        "Claim1 P6 Expert Dibs Standards Cont",
-        // This page is marked by its notes and again after its grid, both of which come before the text.
-        " | ", " | "},
+    {"Claim1", 2, "{explanation}", [](clsZR3Form &form, const QString &text) { form.LateSubmission.Explanation = text; },
+        400, 3000, "Claim1 P2 Late Submission Cont"},
+    {"Claim1", 3, "{detailsofcase}", [](clsZR3Form &form, const QString &text) { form.DetailsOfWork.DetailsOfCase = text; },
+        770, 2750, "Claim1 P3 Case Details Cont"},
+    {"Claim1", 3, "{detailsofenhancement}", [](clsZR3Form &form, const QString &text) { form.DetailsOfWork.DetailsOfEnhancement = text; },
+        710, 2620, "Claim1 P3 Enhancement Cont"},
+    // This page is marked by its notes and again after its grid, both of which come before the text.
+    {"Claim1", 6, "{expertsmeetmojstandardreasons}", [](clsZR3Form &form, const QString &text) { form.ExpertsMeetMOJStandardReasons = text; },
+        100, 2750, "Claim1 P6 Expert Dibs Standards Cont", " | ", " | "},
+    {"Claim1A", 3, "{detailsofcase}", [](clsZR3Form &form, const QString &text) { form.NatureOfProceedings.DetailsOfCase = text; },
+        570, 2750, "Claim1A P3 NoP Cont"},
+    {"Claim1A", 4, "{workatalllevelsreasons}", [](clsZR3Form &form, const QString &text) { form.ActualCostsIncurred.PrivateLawWorkAtAllLevelsReasons = text; },
+        100, 2750, "Claim1A P4 Reasons For Not Undertaking Work At All Levels Cont"},
+    // Here too the mark comes after the grid and before the text.
+    {"Claim1A", 6, "{expertsmeetmojstandardreasons}", [](clsZR3Form &form, const QString &text) { form.ExpertsMeetMOJStandardReasons = text; },
+        250, 2750, "Claim1A P6 Expert Dibs Standards Cont", " ", " "},
+    {"Claim1A", 9, "{detailsofcase}", [](clsZR3Form &form, const QString &text) { form.DetailsOfWork.DetailsOfCase = text; },
+        770, 2750, "Claim1A P9 Case Details Cont"},
 };
+// clang-format on
 
 class Continuation : public clsExportTest {
 protected:
@@ -52,6 +61,7 @@ class EachLongField : public Continuation, public testing::WithParamInterface<Lo
 protected:
     void exportWith(const QString &text)
     {
+        form.FormType = QString::fromLatin1(GetParam().formType);
         includeOnly({1, GetParam().page});
         GetParam().set(form, text);
         ASSERT_TRUE(exportClaim());
@@ -147,7 +157,11 @@ TEST_P(EachLongField, KeepsItsLineEndsWhichAreNoPlaceToCut)
 }
 
 INSTANTIATE_TEST_SUITE_P(, EachLongField, testing::ValuesIn(LongFields), [](const auto &field) {
-    return QString::fromLatin1(field.param.placeholder).remove(u'{').remove(u'}').toStdString();
+    return QStringLiteral("%1_page_%2_%3")
+        .arg(QString::fromLatin1(field.param.formType))
+        .arg(field.param.page)
+        .arg(QString::fromLatin1(field.param.placeholder).remove(u'{').remove(u'}'))
+        .toStdString();
 });
 
 TEST_F(Continuation, TheSecondLongTextOfAPageRefersToItsOwnFirstSheet)
@@ -179,6 +193,23 @@ TEST_F(Continuation, ThePanelSheetHoldsFixedTextAndNothingRefersToIt)
     const QStringList page = {QStringLiteral("open"), QStringLiteral("replace {detailsofcase} Short"),
         QStringLiteral("replace {detailsofenhancement}  "), QStringLiteral("replace {or} (1)")};
     EXPECT_EQ(page, recorder->linesOf(sheet(3, 1)));
+}
+
+TEST_F(Continuation, ThePanelSheetOfTheOtherFormFollowsItsPage9)
+{
+    form.FormType = QStringLiteral("Claim1A");
+    includeOnly({1, 3, 9});
+    form.IncludePanelMembershipContSheet = true;
+    form.DetailsOfWork.DetailsOfCase = words(771);
+    ASSERT_TRUE(exportClaim());
+    EXPECT_EQ(names("1(1) 3(1) 9(1) 9(2) 9(3)"), recorder->order());
+    EXPECT_EQ(QStringLiteral("Claim1A P9 Case Details Cont"), recorder->templateOf(sheet(9, 2)));
+    EXPECT_EQ(QStringLiteral("Claim1A P9 Panel Membership Cont"), recorder->templateOf(sheet(9, 3)));
+    const QStringList panel = {QStringLiteral("open"), QStringLiteral("replace {or} (3)")};
+    EXPECT_EQ(panel, recorder->linesOf(sheet(9, 3)));
+    const QStringList page = {QStringLiteral("open"), QStringLiteral("replace {detailsofcase} See Page 9 (2)"),
+        QStringLiteral("replace {or} (1)")};
+    EXPECT_EQ(page, recorder->linesOf(sheet(9, 1)));
 }
 
 TEST_F(Continuation, NoPanelSheetWithoutPage3)

@@ -1,6 +1,7 @@
 #include "tests/export/clsExportTest.h"
 #include "tests/export/mdDocumentText.h"
 #include "tests/support/mdOrdinaryUser.h"
+#include "wordexport/mdExportWordClaim1.h"
 
 #include <QDate>
 
@@ -10,14 +11,6 @@ namespace {
 
 class Driver : public clsExportTest {
 protected:
-    /// "Exporting Page 1 1/11": the steps told to the user.
-    QStringList steps() const
-    {
-        QStringList lines;
-        for (const auto &step : user.progress)
-            lines << QStringLiteral("%1 %2/%3").arg(step.text).arg(step.value).arg(step.maximum);
-        return lines;
-    }
     /// A folder with all templates, to be spoilt.
     void copyTemplates()
     {

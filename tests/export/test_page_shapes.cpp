@@ -6,20 +6,7 @@ namespace {
 
 const QString Mark = QStringLiteral("{or}");
 
-class PageShapes : public clsExportTest {
-protected:
-    QString mark(const char *name) const { return recorder->replacements(QString::fromLatin1(name), Mark).join(u'|'); }
-    QStringList lines(const char *name) const { return recorder->linesOf(QString::fromLatin1(name)); }
-    QString value(const char *name, const char *placeholder) const
-    {
-        return recorder->replacements(QString::fromLatin1(name), QString::fromLatin1(placeholder)).join(u'|');
-    }
-    qsizetype rowCount(const char *name) const { return recorder->rows(QString::fromLatin1(name)).size(); }
-    QStringList row(const char *name, int number) const
-    {
-        return recorder->rows(QString::fromLatin1(name)).value(number - 1);
-    }
-};
+class PageShapes : public clsExportTest { };
 
 // Plain pages
 
@@ -74,8 +61,9 @@ TEST_F(PageShapes, DatesPrintAsTheyStandAlsoTheOneThatMeansNone)
 
 struct GridRow {
     const char *name;
+    const char *formType;
     int page;
-    void (*add)(clsZR3Form &form, int count);
+    void (clsExportTest::*add)(int count);
     int cells;
     int firstCapacity;
     int furtherCapacity;
@@ -84,45 +72,27 @@ struct GridRow {
     const char *continuationTemplate;
 };
 
+// clang-format off
 const GridRow GridRows[] = {
-    {"counsel", 4,
-        [](clsZR3Form &form, int count) {
-            const auto counsel = form.AddCounsel();
-            for (int i = 0; i < count; ++i) {
-                const auto fee = form.AddDisbursement();
-                fee->Counsel = true;
-                fee->CounselUniqueID = counsel->UniqueID();
-            }
-            form.SeparateCounselAndNonCounselDisbursements();
-        },
-        4, 32, 38, 9, 3, "Claim1 P4 Counsels Fees Cont"},
-    {"experts", 6,
-        [](clsZR3Form &form, int count) {
-            for (int i = 0; i < count; ++i)
-                form.AddExpertInvoice();
-        },
-        12, 11, 32, 20, 4, "Claim1 P6 Expert Dibs Cont"},
-    {"joint", 7,
-        [](clsZR3Form &form, int count) {
-            for (int i = 0; i < count; ++i)
-                form.AddJointInstruction();
-        },
-        5, 14, 30, 6, 5, "Claim1 P7 Expert Dibs Joint Instruction Cont"},
-    {"other", 7,
-        [](clsZR3Form &form, int count) {
-            for (int i = 0; i < count; ++i)
-                form.AddDisbursement();
-            form.SeparateCounselAndNonCounselDisbursements();
-        },
-        4, 12, 32, 25, 3, "Claim1 P7 Other Dibs Cont"},
+    {"counsel",     "Claim1",  4, &clsExportTest::addFees,              4, 32, 38,  9, 3, "Claim1 P4 Counsels Fees Cont"},
+    {"experts",     "Claim1",  6, &clsExportTest::addExperts,           12, 11, 32, 20, 4, "Claim1 P6 Expert Dibs Cont"},
+    {"joint",       "Claim1",  7, &clsExportTest::addJointInstructions, 5, 14, 30,  6, 5, "Claim1 P7 Expert Dibs Joint Instruction Cont"},
+    {"other",       "Claim1",  7, &clsExportTest::addDisbursements,     4, 12, 32, 25, 3, "Claim1 P7 Other Dibs Cont"},
+    {"counsel_1a",  "Claim1A", 5, &clsExportTest::addFees,              4, 32, 38,  9, 3, "Claim1A P5 Counsels Fees Cont"},
+    {"experts_1a",  "Claim1A", 6, &clsExportTest::addExperts,           12, 11, 32, 22, 5, "Claim1A P6 Expert Dibs Cont"},
+    {"joint_1a",    "Claim1A", 7, &clsExportTest::addJointInstructions, 5, 14, 30,  8, 5, "Claim1A P7 Expert Dibs Joint Instruction Cont"},
+    {"other_1a",    "Claim1A", 7, &clsExportTest::addDisbursements,     4, 12, 32, 27, 3, "Claim1a P7 Other Dibs Cont"},
+    {"advocacy_1a", "Claim1A", 8, &clsExportTest::addHearings,          14, 16, 36,  7, 5, "Claim1A P8 Advocacy Costs Cont"},
 };
+// clang-format on
 
 class EachGrid : public PageShapes, public testing::WithParamInterface<GridRow> {
 protected:
     void exportWith(int count)
     {
+        form.FormType = QString::fromLatin1(GetParam().formType);
         includeOnly({1, GetParam().page});
-        GetParam().add(form, count);
+        (this->*GetParam().add)(count);
         ASSERT_TRUE(exportClaim());
     }
     QByteArray sheet(int number) const { return QStringLiteral("%1(%2)").arg(GetParam().page).arg(number).toLatin1(); }

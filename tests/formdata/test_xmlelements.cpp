@@ -68,6 +68,14 @@ TEST(XMLLoadElement, RefusesNestingThatNoProgramCanHaveWritten)
     EXPECT_FALSE(loads(nested(100'000)));
 }
 
+TEST(XMLLoadElement, RefusesMoreItemsThanAnyBillHas)
+{
+    // Short in the file, each would come to some kilobytes once it is brought up to date.
+    const QString list = QStringLiteral("<root><list>%1</list></root>");
+    EXPECT_TRUE(loads(list.arg(QStringLiteral("<item/>").repeated(250'000))));
+    EXPECT_FALSE(loads(list.arg(QStringLiteral("<item/>").repeated(250'001))));
+}
+
 TEST(XMLLoadElement, RefusesRubbishOfEveryByte)
 {
     QString rubbish;
@@ -91,6 +99,12 @@ TEST(XMLElementOutput, DropsWhiteSpaceBetweenElements)
         QStringLiteral("<root><a>1</a><b/></root>"), roundTrip("<root>\r\n\t<a>1</a>\r\n  <b></b>\r\n</root>\r\n"));
 }
 
+TEST(XMLElementOutput, DropsBlanksHoweverTheyAreWritten)
+{
+    EXPECT_EQ(QStringLiteral("<root><a/><b/><c> 1 </c></root>"),
+        roundTrip("<root><a>&#32;&#9;</a>&#10;<b>&#13;</b><c>&#32;1&#32;</c></root>"));
+}
+
 TEST(XMLElementOutput, KeepsWhatNobodyKnowsToTheLastCharacter)
 {
     for (const char *xml :
@@ -103,4 +117,16 @@ TEST(XMLElementOutput, KeepsWhatNobodyKnowsToTheLastCharacter)
 TEST(XMLElementOutput, OfNothingIsEmpty)
 {
     EXPECT_EQ(QString(), XMLElementOutput({}));
+}
+
+TEST(XMLElementOutput, WhatTheCodePageLacksStaysAReference)
+{
+    // No save of ours writes such characters, but a file by another hand may hold them: a save would make question
+    // marks of the first, and the next parser a line feed of the last.
+    EXPECT_EQ(QString::fromUtf8("<root>\u20ac&#20013;&#128512;&#128;&#13;\n</root>"),
+        roundTrip("<root>&#8364;&#20013;&#x1F600;&#128;&#13;&#10;</root>"));
+    EXPECT_EQ(QStringLiteral("<root a=\"&#20013;&#13;\"/>"), roundTrip("<root a=\"&#20013;&#13;\"/>"));
+    // In these a reference would be no reference.
+    const char *raw = "<root><?note a\r\nb?><!-- <? --><![CDATA[<!--]]><a>&#13;</a>x&#13;</root>";
+    EXPECT_EQ(QStringLiteral("<root><?note a\r\nb?><!-- <? --><![CDATA[<!--]]><a/>x&#13;</root>"), roundTrip(raw));
 }

@@ -218,6 +218,41 @@ TEST_F(Backups, TenMinutesAreTenMinutesWhenTheClocksChange)
     EXPECT_EQ(1, backups().size());
 }
 
+TEST_F(Backups, AClockThatIsSetBackHoldsThemUpForTenMinutesAtMost)
+{
+    NewForm(true);
+    QString tag;
+    mdAutoBackupTick(tag);
+    now = now.addYears(-56);
+    mdAutoBackupTick(tag);
+    EXPECT_TRUE(backups().isEmpty());
+    now = now.addSecs(599);
+    put(path("program/Logs/15-11-1970.txt"), QByteArray());
+    mdAutoBackupTick(tag);
+    EXPECT_TRUE(backups().isEmpty());
+    now = now.addSecs(1);
+    mdAutoBackupTick(tag);
+    EXPECT_EQ(1, backups().size());
+}
+
+TEST_F(Backups, AClockThatIsSetForwardBringsOneAndNoneIsLost)
+{
+    NewForm(true);
+    QString tag;
+    mdAutoBackupTick(tag);
+    now = now.addYears(73);
+    put(path("program/Logs/15-11-2099.txt"), QByteArray());
+    mdAutoBackupTick(tag);
+    EXPECT_EQ(1, backups().size());
+    mdAutoBackupTick(tag);
+    now = now.addYears(-73);
+    mdAutoBackupTick(tag);
+    now = now.addSecs(600);
+    mdAutoBackupTick(tag);
+    EXPECT_EQ(1, backups().size());
+    EXPECT_EQ(Form->XMLOutput(), textOf(path("backups/") + backups().first()));
+}
+
 TEST_F(Backups, EachPeriodWithoutAFolderLogsTheCancelledLine)
 {
     NewForm(true);

@@ -52,3 +52,11 @@ TEST(CodePage, ACharacterOutsideThePageBecomesAQuestionMark)
     // One for each half of a character beyond 16 bits: one byte for each character of the text.
     EXPECT_EQ(QByteArray("??"), mdToCodePage(QString::fromUtf8("\U0001F600")));
 }
+
+TEST(CodePage, ACharacterIsInThePageWhereItSurvives)
+{
+    for (int code = 0; code <= 0xFFFF; ++code) {
+        const QString character = QChar(char16_t(code));
+        EXPECT_EQ(mdFromCodePage(mdToCodePage(character)) == character, mdInCodePage(character[0])) << code;
+    }
+}

@@ -1,6 +1,9 @@
 #include "shell/mdRegistry.h"
 #include "shell/mdTextDocumentHandling.h"
 #include "tests/shell/clsShellTest.h"
+#include "tests/support/mdOrdinaryUser.h"
+
+#include <sys/stat.h>
 
 class Log : public clsShellTest {
 protected:
@@ -77,6 +80,27 @@ TEST_F(Log, AMissingFolderShowsBothBoxesForEachLine)
         EXPECT_EQ(QStringLiteral("File Not Saved"), user.messages[2 * line - 1].title);
     }
     EXPECT_FALSE(exists(path("program/Logs")));
+}
+
+TEST_F(Log, WhereOnlyAnAdministratorMayWriteItLiesWithThePreferences)
+{
+    for (const char *name : {"program/Logs", "own", "config/Velmor"})
+        make(QString::fromUtf8(name));
+    put(path("config/Velmor/ZR3.conf"), "[General]\nDatabase%20Path=" + QFile::encodeName(path("own")) + '\n');
+    ASSERT_EQ(0, ::chmod(QFile::encodeName(folder.path()).constData(), 0755));
+    ASSERT_EQ(0, ::chmod(QFile::encodeName(path("own")).constData(), 0777));
+    ASSERT_EQ(0, ::chmod(QFile::encodeName(path("program/Logs")).constData(), 0555));
+    switchOn();
+    const auto boxes = [this] {
+        WriteLog(QStringLiteral("one")); // the first of the day
+        user.messages.clear();
+        WriteLog(QStringLiteral("two"));
+        return int(user.messages.size());
+    };
+    EXPECT_EQ(0, resultAsOrdinaryUser(boxes));
+    EXPECT_EQ(QByteArray("15/11/2026 14:03:22 : one\r\n15/11/2026 14:03:22 : two\r\n"),
+        bytesOf(path("own/Logs/15-11-2026.txt")));
+    EXPECT_FALSE(exists(day));
 }
 
 TEST_F(Log, EachDayHasItsFile)

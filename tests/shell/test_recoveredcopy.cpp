@@ -6,6 +6,8 @@
 #include "tests/shell/clsDocumentTest.h"
 #include "tests/support/mdOrdinaryUser.h"
 
+#include <QSet>
+
 #include <cerrno>
 
 #include <sys/stat.h>
@@ -111,6 +113,27 @@ TEST_F(RecoveredCopy, OfAnUnsavedClaimHasItsFixedName)
     NewForm(true);
     change();
     EXPECT_EQ(recovered("Unsaved Claim 2026-11-21 14.03.22.zr3"), WriteRecoveredCopy());
+}
+
+TEST_F(RecoveredCopy, AClockThatJumpsOverwritesNone)
+{
+    changedClaim();
+    QSet<QString> copies;
+    QSet<QByteArray> contents;
+    const QDateTime times[] = {QDateTime(QDate(1970, 1, 1), QTime(0, 0)), QDateTime(QDate(1901, 1, 1), QTime(0, 0)),
+        QDateTime(QDate(2099, 12, 31), QTime(23, 59, 59)), QDateTime(QDate(2026, 10, 25), QTime(1, 30))};
+    for (int turn = 0; turn < 3; ++turn)
+        for (const QDateTime &time : times) {
+            SetClock([time] { return time; });
+            change();
+            const QString copy = WriteRecoveredCopy();
+            copies += copy;
+            contents += bytesOf(copy);
+        }
+    EXPECT_EQ(12, copies.size());
+    EXPECT_EQ(12, contents.size());
+    for (const QString &copy : std::as_const(copies))
+        EXPECT_TRUE(contents.contains(bytesOf(copy))) << qPrintable(copy);
 }
 
 TEST_F(RecoveredCopy, TwoOfOneSecondAreBothKept)

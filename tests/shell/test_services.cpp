@@ -51,7 +51,7 @@ TEST(CompareVersions, FewerThanThreeFieldsAreASubscriptErrorInEitherText)
 {
     for (const auto &[file, program] : {std::pair("", "1.1.140"), std::pair("9", "1.1.140"),
              std::pair("9.9", "1.1.140"), std::pair("1.1.140", "9.9"), std::pair("0", "9.9.9")})
-        EXPECT_EQ(9, errorOf([&] { compared(file, program); })) << file;
+        EXPECT_EQ(9, errorOf([file = file, program = program] { compared(file, program); })) << file;
 }
 
 TEST(CompareVersions, IdenticalTextsAreTheSameWhateverTheyAre)

@@ -4,9 +4,11 @@
 #include "tests/support/mdExpectError.h"
 
 #include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <memory>
 #include <optional>
+#include <thread>
 #include <vector>
 
 #include <sys/resource.h>
@@ -280,6 +282,77 @@ TEST_F(TextDocuments, AKillAtAnyStepLeavesTheOldContentWhole)
         EXPECT_TRUE(WIFSIGNALED(status)) << "step " << last;
         EXPECT_TRUE(bytesOf(claim) == old || bytesOf(side) == old) << "step " << last;
     }
+}
+
+TEST_F(TextDocuments, ATornDocumentDoesNotTakeThePlaceOfItsWholeSideFile)
+{
+    const QByteArray whole = QByteArrayLiteral("<a><b>the last one</b></a>");
+    const QString text = QStringLiteral("<a><b>the new one</b></a>");
+    for (const char *torn : {"", "<a>", "<a><b>the ne", "<a><b>the new one</b></a"}) {
+        SCOPED_TRACE(torn);
+        startWith(torn);
+        put(side, whole);
+        FileSystem().faultPoint = [&](clsFileStep step, const QString &at) {
+            return step == clsFileStep::Write && at == claim ? clsFileFault {ENOSPC, 3} : clsFileFault();
+        };
+        WriteTextDocument(text, claim, false);
+        WriteTextDocument(text, claim, false);
+        FileSystem().faultPoint = nullptr;
+        EXPECT_EQ(2u, user.messages.size());
+        EXPECT_EQ(whole, bytesOf(side));
+        WriteTextDocument(text, claim, false);
+        EXPECT_EQ(text.toLatin1(), bytesOf(claim));
+        EXPECT_FALSE(exists(side));
+    }
+}
+
+TEST_F(TextDocuments, AWholeDocumentTakesThePlaceOfAnOlderSideFile)
+{
+    const QByteArray whole = QByteArrayLiteral("<a>the last one</a>\r\n");
+    // Left by a crash after the write was through, and by one in the midst of the copy.
+    for (const char *left : {"<a>the one before the last</a>", "<a>the last", ""}) {
+        startWith(whole);
+        put(side, left);
+        FileSystem().faultPoint = [&](clsFileStep step, const QString &at) {
+            return step == clsFileStep::Write && at == claim ? clsFileFault {ENOSPC, 3} : clsFileFault();
+        };
+        WriteTextDocument(QStringLiteral("<a>the new one</a>"), claim, false);
+        FileSystem().faultPoint = nullptr;
+        EXPECT_EQ(whole, bytesOf(side)) << left;
+    }
+}
+
+TEST_F(TextDocuments, AWriteWaitsForAnotherProgramsWrite)
+{
+    startWith(old);
+    auto other = std::make_unique<clsFileLock>(path("another.zr3"), clsFileLock::Writes);
+    std::thread release([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        EXPECT_EQ(old, bytesOf(claim));
+        other.reset();
+    });
+    WriteTextDocument(next, claim, false);
+    release.join();
+    EXPECT_EQ(QByteArray("the new claim"), bytesOf(claim));
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(TextDocuments, ManyMayReadAtOnce)
+{
+    startWith(old);
+    const clsFileLock other(claim, clsFileLock::Reads);
+    EXPECT_EQ(QString::fromLatin1(old), ReadTextDocument(claim, false));
+}
+
+TEST_F(TextDocuments, ALockTellsThatItsFolderIsGone)
+{
+    make(QStringLiteral("other"));
+    const clsFileLock lock(path("other/claim.zr3"), clsFileLock::Writes);
+    EXPECT_TRUE(lock.isOfWhatIsThere());
+    ASSERT_TRUE(QDir(folder.path()).rmdir(QStringLiteral("other")));
+    EXPECT_FALSE(lock.isOfWhatIsThere());
+    make(QStringLiteral("other"));
+    EXPECT_FALSE(lock.isOfWhatIsThere());
 }
 
 TEST_F(TextDocuments, AFailedFirstWriteLeavesNoSideFile)

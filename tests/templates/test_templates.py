@@ -2,119 +2,23 @@
 """What the export relies on in the page templates.
 
     ZR3_TEMPLATES=FOLDER /usr/bin/python3 test_templates.py
-
-Without ZR3_TEMPLATES the templates are made into a folder of the test's own.
-The tables below say what the export asks of each template.  They are kept by
-hand and know nothing of the sources that the templates are made from.
 """
 
 import functools
 import os
 import re
-import shutil
-import subprocess
-import sys
 import tempfile
 import unittest
-import zipfile
 from collections import Counter
 from pathlib import Path
 
 from lxml import etree
 
-SCRIPT = Path(__file__).resolve().parents[2] / "resources" / "templates" / "make_templates.py"
+import reading
+from asked import GRIDS, MONEY, PLACEHOLDERS, PLACES, TICKS, TOTALS, WITHOUT_MARK
+from reading import SCRIPT, Template, W, find, make, number, text, value, words
 
-W = "{http://schemas.openxmlformats.org/wordprocessingml/2006/main}"
 SPACE = "{http://www.w3.org/XML/1998/namespace}space"
-
-# --- What each template holds ----------------------------------------------
-
-# Every template but the last one named here has {or} beside these.
-PLACEHOLDERS = {
-    "Claim1 P1":
-        "1 2 9 10 11 stagenumber typeofcase casereferencenumber title firstname surname "
-        "dateofbirth morethan1certificate accountnumber rollnumber nameoffirm casereference "
-        "contactnameforenquiries telephoneforenquiries emailforenquiries 3 4 "
-        "datelegalhelpformsigned totalcostsincurred 5 6 inclusiveofallsolicitorsreasons 7 8",
-    "Claim1 P2":
-        "issueofproceedingsdate dateoffinalworkdate nameofcourt emergencycertificatedate "
-        "substantivecertificatedate g h i j k l m n q r date explanation",
-    "Claim1 P2 Late Submission Cont": "explanation",
-    "Claim1 P3": "detailsofcase detailsofenhancement",
-    "Claim1 P3 Case Details Cont": "detailsofcase",
-    "Claim1 P3 Enhancement Cont": "detailsofenhancement",
-    "Claim1 P3 Panel Membership Cont": "",
-    "Claim1 P4": "ctotal 1 2",
-    "Claim1 P4 Counsels Fees Cont": "",
-    "Claim1 P5": "actm dtm htm ttm wtm actl dtl htl ttl wtl total",
-    "Claim1 P6": "1 2 expertsmeetmojstandardreasons exnet exvat extot",
-    "Claim1 P6 Additional Info Cont": "",
-    "Claim1 P6 Expert Dibs Cont": "",
-    "Claim1 P6 Expert Dibs Standards Cont": "expertsmeetmojstandardreasons",
-    "Claim1 P7": "nettotal vattotal dibstotal",
-    "Claim1 P7 Expert Dibs Joint Instruction Cont": "",
-    "Claim1 P7 Other Dibs Cont": "",
-    "Claim1 P8":
-        "loir1 lo1 loenh1 lototal1 loir2 lo2 loenh2 lototal2 "
-        "liir1 li1 lienh1 litotal1 liir2 li2 lienh2 litotal2 "
-        "tcir1 tc1 tcenh1 tctotal1 tcir2 tc2 tcenh2 tctotal2 "
-        "cmtotal npc nex ndibs ntotal vpc vex vdibs vtotal grandtotal counsel ncf vcf cftotal "
-        "csl1 cslamt1 csl2 cslamt2 csl3 cslamt3 csl4 cslamt4 csl5 cslamt5 csl6 cslamt6",
-    "Claim1 P9":
-        "precertcosts duringcertlsc duringcertmr 1 2 lhipccamount interest dateinterestcommenced "
-        "interestbreakdown rcvrdtodate dateorderserved addressofservice 3 4 5 6 detmamount 7 8 "
-        "offerbydebtordetails value dmrcvrdtodate",
-    "Claim1 P10":
-        "title initials surnameororganisation firstname dateofbirth nationalinsurancenumber "
-        "address phonework phonehome mobile fax email solicitorsfirmname 1 2 3 job employersname "
-        "employersaddress assets debtorsincome 4 5 casereference information",
-}
-WITHOUT_MARK = {"Claim1 P9"}
-
-TICKS = {
-    "Claim1 P1": "1 2 9 10 11 3 4 5 6 7 8",
-    "Claim1 P2": "l m n q r",
-    "Claim1 P4": "1 2",
-    "Claim1 P6": "1 2",
-    "Claim1 P9": "1 2 3 4 5 6 7 8",
-    "Claim1 P10": "1 2 3 4 5",
-}
-MONEY = {
-    "Claim1 P1": "totalcostsincurred",
-    "Claim1 P4": "ctotal",
-    "Claim1 P5": "actl dtl htl ttl wtl total",
-    "Claim1 P6": "exnet exvat extot",
-    "Claim1 P7": "nettotal vattotal dibstotal",
-    "Claim1 P8":
-        "loir1 loenh1 lototal1 loir2 loenh2 lototal2 liir1 lienh1 litotal1 liir2 lienh2 litotal2 "
-        "tcir1 tcenh1 tctotal1 tcir2 tcenh2 tctotal2 cmtotal npc nex ndibs ntotal vpc vex vdibs "
-        "vtotal grandtotal ncf vcf cftotal cslamt1 cslamt2 cslamt3 cslamt4 cslamt5 cslamt6",
-    "Claim1 P9":
-        "precertcosts duringcertlsc duringcertmr lhipccamount interest rcvrdtodate detmamount "
-        "value dmrcvrdtodate",
-    "Claim1 P10": "debtorsincome",
-}
-TOTALS = {
-    "Claim1 P4": "ctotal",
-    "Claim1 P5": "actm dtm htm ttm wtm actl dtl htl ttl wtl total",
-    "Claim1 P6": "exnet exvat extot",
-    "Claim1 P7": "nettotal vattotal dibstotal",
-    "Claim1 P8": "cmtotal ntotal vtotal grandtotal",
-}
-
-# Lines above the first row, rows, cells of a row, and which cells hold money.
-GRIDS = {
-    "Claim1 P4": [(9, 32, 4, [3])],
-    "Claim1 P4 Counsels Fees Cont": [(3, 38, 4, [3])],
-    "Claim1 P5": [(5, 33, 13, [9, 10, 12])],
-    "Claim1 P6": [(20, 11, 12, range(3, 12))],
-    "Claim1 P6 Expert Dibs Cont": [(4, 32, 12, range(3, 12))],
-    "Claim1 P7": [(6, 14, 5, []), (25, 12, 4, [1, 2, 3])],
-    "Claim1 P7 Expert Dibs Joint Instruction Cont": [(5, 30, 5, [])],
-    "Claim1 P7 Other Dibs Cont": [(3, 32, 4, [1, 2, 3])],
-}
-# Places for additional information: lines above, lines that fit.
-PLACES = {"Claim1 P6": (3, 10), "Claim1 P6 Additional Info Cont": (3, 50)}
 
 FULLEST = 15300                         # twips, of the 15590 between the margins
 
@@ -147,24 +51,15 @@ ORDERS = {
 FREE_ORDER = {"r": {"t", "tab", "br"}}  # these come as the text has them
 
 
-# --- Reading a template ----------------------------------------------------
-
-def find(node, *path):
-    for tag in path:
-        node = None if node is None else node.find(W + tag)
-    return node
+FOLDER = None
+TEMPLATES = {}
 
 
-def value(node, name="val"):
-    return None if node is None else node.get(W + name)
-
-
-def number(node, name="val"):
-    return int(value(node, name))
-
-
-def text(node):
-    return "".join(t.text or "" for t in node.iter(W + "t"))
+def setUpModule():
+    global FOLDER
+    FOLDER = reading.templates_folder()
+    for name in PLACEHOLDERS:
+        TEMPLATES[name] = Template(FOLDER / (name + ".doc"))
 
 
 def span(cell):
@@ -180,94 +75,11 @@ def without_borders(row):
     return etree.tostring(copy)
 
 
-def words(table, name):
-    return table.get(name, "").split()
-
-
-class Template:
-    def __init__(self, path):
-        self.name = path.stem
-        with zipfile.ZipFile(path) as package:
-            self.entries = package.infolist()
-            self.parts = {entry.filename: package.read(entry) for entry in self.entries}
-        self.document = etree.fromstring(self.parts["word/document.xml"])
-        self.body = find(self.document, "body")
-        self.styles = {value(style, "styleId"): style for style in
-                       etree.fromstring(self.parts["word/styles.xml"]).iter(W + "style")}
-
-    def lines(self):
-        """As the cursor of the export counts on its way down: a paragraph of the
-        body, or a row with the paragraphs of its first cell."""
-        for block in self.body:
-            if block.tag == W + "p":
-                yield block, None
-            for row in block.iter(W + "tr"):
-                for paragraph in find(row, "tc").findall(W + "p"):
-                    yield paragraph, row
-
-    def property(self, paragraph, tag):
-        """Of a paragraph: its own, or its style's."""
-        found = find(paragraph, "pPr", tag)
-        if found is None:
-            found = find(self.styles[value(find(paragraph, "pPr", "pStyle"))], "pPr", tag)
-        return found
-
-    def height(self):
-        total = 0
-        for block in self.body:
-            if block.tag == W + "p":
-                spacing = self.property(block, "spacing")
-                total += sum(number(spacing, name) for name in ("before", "after", "line"))
-            for row in block.iter(W + "tr"):
-                total += number(find(row, "trPr", "trHeight"))
-        return total
-
-    def run_of(self, name):
-        return next(t.getparent() for t in self.document.iter(W + "t")
-                    if t.text == "{%s}" % name)
-
-    def is_right(self, run):
-        """At the right end of its cell, by its paragraph or by a right tab."""
-        paragraph = run.getparent()
-        if value(self.property(paragraph, "jc")) == "right":
-            return True
-        before = run.getprevious()
-        tab = find(paragraph, "pPr", "tabs", "tab")
-        if tab is None or find(before, "tab") is None or value(tab) != "right":
-            return False
-        cell = paragraph.getparent()
-        inset = number(self.property(paragraph, "ind"), "right")
-        return number(tab, "pos") == number(find(cell, "tcPr", "tcW"), "w") - inset
-
-
-FOLDER = None
-TEMPLATES = {}
-
-
-def make(folder, **environment):
-    subprocess.run(["/usr/bin/python3", str(SCRIPT), str(folder)], check=True,
-                   env={**os.environ, **environment})
-
-
-def setUpModule():
-    global FOLDER
-    given = os.environ.get("ZR3_TEMPLATES")
-    if given:
-        FOLDER = Path(given)
-    else:
-        made = tempfile.TemporaryDirectory()
-        unittest.addModuleCleanup(made.cleanup)
-        FOLDER = Path(made.name)
-        make(FOLDER)
-    for name in PLACEHOLDERS:
-        TEMPLATES[name] = Template(FOLDER / (name + ".doc"))
-
-
 def on_each(check):
     """Makes a check of one template a test of them all, which says where it fails."""
     @functools.wraps(check)
     def test(self):
-        self.assertEqual(len(TEMPLATES), 20)
+        self.assertEqual(len(TEMPLATES), 20 + 26)
         for name, template in TEMPLATES.items():
             with self.subTest(template=name):
                 check(self, template)
@@ -292,11 +104,16 @@ class Placeholders(unittest.TestCase):
 
     @on_each
     def test_mark_stands_beside_the_page_number(self, template):
-        page = re.match(r"Claim1 P(\d+)", template.name).group(1)
+        page = re.match(r"Claim1[Aa]? P(\d+)", template.name).group(1)
         numbers = [text(p) for p in template.document.iter(W + "p")
                    if re.search(r"^%s \{or\}$|Page %s( \{or\})?$" % (page, page), text(p))]
         self.assertEqual(len(numbers), 1)
         self.assertEqual("{or}" in numbers[0], template.name not in WITHOUT_MARK)
+
+    @on_each
+    def test_names_its_form_once(self, template):
+        texts = [t.text for t in template.document.iter(W + "t")]
+        self.assertEqual([text for text in texts if text.startswith("Claim 1")], [template.form])
 
     @on_each
     def test_tick_stands_in_a_large_run_of_its_own_before_its_word(self, template):
@@ -464,9 +281,9 @@ class Sheets(unittest.TestCase):
 # --- Packages --------------------------------------------------------------
 
 class Packages(unittest.TestCase):
-    def test_the_folder_holds_these_templates_of_claim_1_and_no_others(self):
-        self.assertEqual(sorted(path.stem for path in FOLDER.glob("Claim1 *.doc")),
-                         sorted(PLACEHOLDERS))
+    def test_the_folder_holds_these_templates_and_nothing_else(self):
+        self.assertEqual(sorted(path.name for path in FOLDER.iterdir()),
+                         sorted(name + ".doc" for name in PLACEHOLDERS))
 
     @on_each
     def test_parts_are_the_fewest_and_in_order(self, template):
@@ -475,9 +292,16 @@ class Packages(unittest.TestCase):
                          {(1980, 1, 1, 0, 0, 0)})
 
     def test_all_stand_on_one_base(self):
-        for part in set(PARTS) - {"word/document.xml"}:
+        for part in set(PARTS) - {"word/document.xml", "docProps/core.xml"}:
             with self.subTest(part=part):
                 self.assertEqual(len({template.parts[part] for template in TEMPLATES.values()}), 1)
+
+    @on_each
+    def test_properties_differ_in_nothing_but_the_name_of_the_form(self, template):
+        tagged = b"<dc:title>%s</dc:title>"
+        own, first = (each.parts["docProps/core.xml"] for each in (template, TEMPLATES["Claim1 P1"]))
+        self.assertEqual(own, first.replace(tagged % b"Claim 1", tagged % template.form.encode()))
+        self.assertEqual(own.count(tagged % template.form.encode()), 1)
 
     def test_base_is_a_current_document_in_british_english(self):
         template = TEMPLATES["Claim1 P1"]
@@ -549,61 +373,5 @@ class Packages(unittest.TestCase):
             self.assertIsNotNone(find(paragraph, "pPr", "rPr", "sz"))
 
 
-# --- Paper -----------------------------------------------------------------
-
-TOOLS = [tool for tool in ("soffice", "pdfinfo") if not shutil.which(tool)]
-
-
-@unittest.skipIf(TOOLS, "not installed here: " + ", ".join(TOOLS))
-class Paper(unittest.TestCase):
-    """Laid out by a word processor: one page, whatever is filled in."""
-
-    def pages(self, folder):
-        subprocess.run(
-            ["soffice", "--headless", "-env:UserInstallation=" + (folder / "profile").as_uri(),
-             "--convert-to", "pdf", "--outdir", str(folder),
-             *(str(path) for path in sorted(folder.glob("*.doc")))],
-            check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=300)
-        counts = {}
-        for path in folder.glob("*.pdf"):
-            told = subprocess.run(["pdfinfo", str(path)], check=True, capture_output=True,
-                                  text=True).stdout
-            counts[path.stem] = int(re.search(r"Pages:\s+(\d+)", told).group(1))
-        return counts
-
-    def test_empty_sheets_are_one_page_each(self):
-        with tempfile.TemporaryDirectory() as made:
-            for name in PLACEHOLDERS:
-                shutil.copy(FOLDER / (name + ".doc"), made)
-            self.assertEqual(self.pages(Path(made)), dict.fromkeys(PLACEHOLDERS, 1))
-
-    def test_sheets_with_far_too_much_in_every_box_are_one_page_each(self):
-        cell, box, sheet = "W" * 100, "W" * 1000, "W" * 4000
-        with tempfile.TemporaryDirectory() as made:
-            for name in PLACEHOLDERS:
-                template = Template(FOLDER / (name + ".doc"))
-                for paragraph in template.document.iter(W + "p"):
-                    if find(paragraph, "r") is None and paragraph.getparent().tag == W + "tc":
-                        self.type(paragraph, cell)
-                self.type(template.body[0], "(1)(2)")
-                for t in template.document.iter(W + "t"):
-                    if t.text.startswith("{"):
-                        t.text = ("(12)" if t.text == "{or}"
-                                  else sheet if name.endswith("Cont") else box)
-                template.parts["word/document.xml"] = etree.tostring(template.document)
-                with zipfile.ZipFile(Path(made) / (name + ".doc"), "w") as package:
-                    for part, content in template.parts.items():
-                        package.writestr(part, content)
-            self.assertEqual(self.pages(Path(made)), dict.fromkeys(PLACEHOLDERS, 1))
-
-    @staticmethod
-    def type(paragraph, typed):
-        run = etree.SubElement(paragraph, W + "r")
-        etree.SubElement(run, W + "t").text = typed
-
-
-SKIPPED = 77  # what ctest knows as skipped
-
 if __name__ == "__main__":
-    result = unittest.main(exit=False).result
-    sys.exit(1 if not result.wasSuccessful() else SKIPPED if result.skipped else 0)
+    reading.main()

@@ -251,19 +251,18 @@ TEST_F(ExportToWord, AnUnknownFormTypeRunsNothing)
     EXPECT_TRUE(user.progress.empty());
 }
 
-TEST_F(ExportToWord, TheFormTypeWhosePagesAreStillMissingIsToldSo)
+TEST_F(ExportToWord, TheFormTypeDecidesWhichDocumentComesOut)
 {
+    includeOnlyPage1();
     Form->FormType = QStringLiteral("Claim1A");
     open(path("out"));
-    put("out/Claim1A.doc", "old");
+    put("out/Claim1.doc", "of the other form");
     press("cmdExport");
     ASSERT_EQ(1u, user.messages.size());
-    EXPECT_EQ(QStringLiteral("Export to Word"), user.messages[0].title);
-    EXPECT_EQ(QStringLiteral("The pages of Claim1A can't be exported yet."), user.messages[0].text);
-    EXPECT_EQ(clsUserInterface::OKOnly, user.messages[0].buttons);
-    EXPECT_EQ("old", bytesOf("out/Claim1A.doc"));
-    EXPECT_TRUE(user.progress.empty());
-    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_EQ(QStringLiteral("Exporting is complete."), user.messages[0].text);
+    EXPECT_EQ("of the other form", bytesOf("out/Claim1.doc"));
+    EXPECT_TRUE(bytesOf("out/Claim1A.doc").startsWith("PK"));
+    EXPECT_FALSE(user.progress.empty());
 }
 
 TEST_F(ExportToWord, UsesAFolderWhoseNameTheClaimCanNotHold)

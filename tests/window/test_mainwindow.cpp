@@ -403,6 +403,23 @@ TEST_F(MainWindow, AClaimWhoseSaveFailsOnClosingIsSetAside)
     EXPECT_TRUE(copy.readAll().contains("Hartwell"));
 }
 
+TEST_F(MainWindow, AClaimWhoseSaveFailedBeforeIsSetAsideOnClosing)
+{
+    const QString claim = savedClaim();
+    Form->ClientDetails.Surname = QStringLiteral("Hartwell");
+    ASSERT_TRUE(QDir().rename(QFileInfo(claim).path(), QFileInfo(claim).path() + QStringLiteral(" pulled out")));
+    window->Save();
+    ASSERT_EQ(1u, user.messages.size());
+    EXPECT_EQ(QStringLiteral("File Not Saved"), user.messages[0].title);
+    EXPECT_TRUE(window->close());
+    ASSERT_EQ(2u, user.messages.size());
+    const QString told = QStringLiteral("A copy of your claim with its unsaved changes is in:\r\n\r\n");
+    ASSERT_TRUE(user.messages[1].text.startsWith(told)) << qPrintable(user.messages[1].text);
+    QFile copy(user.messages[1].text.mid(told.size()));
+    ASSERT_TRUE(copy.open(QIODevice::ReadOnly)) << qPrintable(copy.fileName());
+    EXPECT_TRUE(copy.readAll().contains("Hartwell"));
+}
+
 TEST_F(MainWindow, AClaimThatCanBeWrittenNowhereKeepsTheProgramOpen)
 {
     qputenv("XDG_STATE_HOME", QFile::encodeName(path("state")));

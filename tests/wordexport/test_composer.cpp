@@ -269,6 +269,22 @@ TEST(JoinedStyles, StylesThatAreBasedOnOneAnotherInACircleAreNoTrap)
     EXPECT_TRUE(join.body().contains(QStringLiteral("<w:pStyle w:val=\"B_2\"/>")));
 }
 
+TEST(JoinedStyles, AChainOfStylesOfAnyLengthIsNoTrap)
+{
+    // Each refers to the one after it. Followed one within the other they would take more room than the stack has.
+    constexpr int Length = 20000;
+    const char *const references[] = {"basedOn", "next", "link"};
+    QString chain;
+    for (int i = 0; i < Length; ++i)
+        chain += QStringLiteral("<w:style w:type=\"paragraph\" w:styleId=\"S%1\"><w:name w:val=\"S%1\"/>"
+                                "<w:%2 w:val=\"S%3\"/></w:style>")
+                     .arg(i)
+                     .arg(QLatin1String(references[i < Length / 2 ? 0 : i % 3]))
+                     .arg((i + 1) % Length);
+    const clsJoin join({withStyles(p(), NormalStyle.arg(20)), withStyles(styled(QStringLiteral("S0"), {}), chain)});
+    EXPECT_EQ(join.part(QStringLiteral("word/styles.xml")).count(QStringLiteral("<w:style ")), Length + 1);
+}
+
 const QString Numbering = QStringLiteral("<w:abstractNum w:abstractNumId=\"0\"><w:nsid w:val=\"00000001\"/><w:lvl "
                                          "w:ilvl=\"0\"><w:numFmt w:val=\"decimal\"/></w:lvl></w:abstractNum>"
                                          "<w:num w:numId=\"1\"><w:abstractNumId w:val=\"0\"/></w:num>");
@@ -386,6 +402,32 @@ TEST(JoinedParts, ADocumentWithAMissingPartIsRefusedAndTheTargetStaysAsItWas)
     EXPECT_TRUE(user.messages[0].text.contains(QStringLiteral("b.doc is damaged.\r\nSubroutine: InsertFileAtEnd")));
     word.SaveAndClose();
     EXPECT_EQ(bodyXml(path), sheet(QStringLiteral("a")).body);
+}
+
+TEST(JoinedParts, AChainOfPartsThatNoWordProcessorWritesIsRefused)
+{
+    constexpr int Length = 1900; // each with its relationships, a package may not hold many more
+    clsTestDocument chain(QStringLiteral("<w:p><w:r><w:object r:id=\"rId9\"/></w:r></w:p>") + section(page(100)));
+    for (int i = 0; i < Length; ++i) {
+        const QString name = QStringLiteral("word/charts/%1%2.xml%3");
+        chain.parts.push_back({name.arg(QString(), QString::number(i), QString()), "<c/>",
+            QStringLiteral("application/c"), i ? QString() : QStringLiteral("chart"), QStringLiteral("rId9")});
+        chain.parts.push_back({name.arg(QStringLiteral("_rels/"), QString::number(i), QStringLiteral(".rels")),
+            clsTestDocument::relationships(
+                QStringLiteral("<Relationship Id=\"rId1\" Type=\"t/c\" Target=\"%1.xml\"/>").arg(i + 1)),
+            QStringLiteral("application/vnd.openxmlformats-package.relationships+xml"), QString(), QString()});
+    }
+    chain.parts.push_back({QStringLiteral("word/charts/%1.xml").arg(Length), "<c/>", QStringLiteral("application/c"),
+        QString(), QString()});
+    const clsTestFolder folder;
+    clsScriptedUserInterface user;
+    const clsUserInterfaceScope scope(user);
+    clsMSWord word(clsMSWord::Finished);
+    word.OpenDocument(folder.write(QStringLiteral("a.doc"), sheet(QStringLiteral("a"))));
+    word.InsertFileAtEnd(folder.write(QStringLiteral("b.doc"), chain));
+    EXPECT_TRUE(word.sheetLost());
+    ASSERT_EQ(user.messages.size(), 1u);
+    EXPECT_TRUE(user.messages[0].text.contains(QStringLiteral("b.doc is damaged.")));
 }
 
 clsTestDocument withFooter(const QString &text, const char *type = "default")
@@ -518,6 +560,26 @@ TEST(InsertFileAtEnd, ATextThatLooksLikeTheLayersOwnMarksDoesNoHarm)
     const clsJoin join({made, made, made});
     EXPECT_EQ(join.body().count(QStringLiteral("<?settled-?>")), 1); // that of the first; an appended one is no text
     EXPECT_EQ(join.text(), QStringLiteral("a/a/a/"));
+}
+
+TEST(InsertFileAtEnd, ADocumentNestedBeyondAllMeasureIsRefused)
+{
+    // Taking it out of the tree again level by level within the level above would need more stack than there is.
+    constexpr int Depth = 300000;
+    const clsTestDocument deep(QStringLiteral("<w:p>").repeated(Depth) + QStringLiteral("</w:p>").repeated(Depth));
+    const clsTestFolder folder;
+    const QString path = folder.write(QStringLiteral("a.doc"), sheet(QStringLiteral("a")));
+    clsScriptedUserInterface user;
+    const clsUserInterfaceScope scope(user);
+    clsMSWord word(clsMSWord::Finished);
+    word.OpenDocument(path);
+    // Stored, since it packs so well that it would be refused for that.
+    word.InsertFileAtEnd(folder.write(QStringLiteral("b.doc"), deep.zip().toBytes(clsZipPackage::Stored)));
+    EXPECT_TRUE(word.sheetLost());
+    ASSERT_EQ(user.messages.size(), 1u);
+    EXPECT_TRUE(user.messages[0].text.contains(QStringLiteral("b.doc is damaged.")));
+    word.SaveAndClose();
+    EXPECT_EQ(bodyXml(path), sheet(QStringLiteral("a")).body);
 }
 
 TEST(InsertFileAtEnd, AFailedOneLeavesTheOnesBeforeAndAfter)

@@ -199,12 +199,21 @@ TEST_F(ToolExport, ANoteThatIsNotPrintedMayBeAsLongAsItLikes)
     EXPECT_EQ(QStringList {"Claim1.doc"_q}, filesOf(out()));
 }
 
-TEST_F(ToolExport, ClaimsOfTheOtherTypeHaveNoPagesYet)
+TEST_F(ToolExport, TheFormTypeDecidesWhichDocumentComesOut)
+{
+    const clsToolResult result = run({"export"_q, mdSamplePath("care-typical.zr3"_q), out()});
+    EXPECT_EQ(0, result.status);
+    EXPECT_EQ("", result.err);
+    EXPECT_EQ(QStringList {"Claim1A.doc"_q}, filesOf(out()));
+    EXPECT_TRUE(bytesOf(path("out/Claim1A.doc")).startsWith("PK"));
+}
+
+TEST_F(ToolExport, AFormTypeWithoutPagesIsAFailure)
 {
     clsZR3Form form;
-    form.FormType = "Claim1A"_q;
+    form.FormType = "Claim1a"_q; // the case counts
     expectFailure({"export"_q, putClaim(form), out()},
-        "Export: There are no pages for the form type \"Claim1A\" of this claim.\n");
+        "Export: There are no pages for the form type \"Claim1a\" of this claim.\n");
 }
 
 TEST_F(ToolExport, AFigureThatCanNotBeComputedIsAFailure)

@@ -4,22 +4,19 @@ The key of a sheet is the name of its file without ".doc": the export asks for
 it by that name.
 """
 
-from . import look, shared
+from . import look, recovery, shared
 from .look import RIGHT
 from .markup import Row, slot
 from .pieces import (
-    Column, Field, Form, Grid, answer_row, answered, definitions, fields, footnote, grid_heads,
-    head, label_row, money, place, place_strip, printed, section, sheet, strip, subheading,
-    spacer, text_box,
+    Column, Field, Form, Grid, answer_row, answered, definitions, fields, grid_heads, head,
+    label_row, money, place, place_strip, printed, remark, section, sheet, spacer, strip,
+    subheading, text_box,
 )
 
 FORM = Form("Claim 1")
 
 # A sheet that continues a text repeats its section's title and its prompt.
 LATE = ("Late submission", "Explanation", "explanation")
-WORK = ("Details of work being claimed",
-        "Describe the work done for which you claim, and anything that explains the time it took",
-        "detailsofcase")
 ENHANCEMENT = ("Enhancement",
                "If you are seeking an enhanced rate or uplift, state percentage sought and give "
                "full reasons",
@@ -47,9 +44,9 @@ PAGE_2 = sheet(
     text_box(LATE[2], 120))
 
 PAGE_3 = sheet(
-    head(FORM, 3, 8, WORK[0]),
-    strip(WORK[1], height=20),
-    text_box(WORK[2], 322, look.LONG_BOX),
+    head(FORM, 3, 8, shared.WORK[0]),
+    strip(shared.WORK[1], height=20),
+    text_box(shared.WORK[2], 322, look.LONG_BOX),
     section(9, ENHANCEMENT[0], 10),
     strip(ENHANCEMENT[1], height=20),
     text_box(ENHANCEMENT[2], 322, look.LONG_BOX))
@@ -63,8 +60,8 @@ PAGE_6 = sheet(
     spacer(8),
     subheading("The columns below"),
     definitions(
-        ("Expert, type", "The expert or firm instructed, and the field in which the evidence was "
-                         "given"),
+        ("Expert, type", "The group of experts, such as paediatricians, and the type of expert "
+                         "within the group"),
         ("PA", "Y if prior authority was obtained for the expert’s fee, N if it was not"),
         ("Preparation", "Hourly rate, and the cost of all time spent on preparation"),
         ("Court attendance", "Hourly rate, and the cost of all time spent at court"),
@@ -112,11 +109,11 @@ PAGE_8 = sheet(
            Field(32, "Fees with VAT", "cftotal", is_money=True)),
     grid_heads(COUNSEL_BY_ACCOUNT),
     counsel_by_account(),
-    footnote("The fees of each counsel are listed where there are two counsel or more. Counsel’s "
-             "fees stand apart from the total of this claim."))
+    remark("The fees of each counsel are listed where there are two counsel or more. Counsel’s "
+           "fees stand apart from the total of this claim."))
 
 PAGE_9 = sheet(
-    shared.costs_awarded(FORM, 9, 19, 20),
+    recovery.costs_awarded(FORM, 9, 19, 20),
     section(21, "Money or property awarded"),
     fields(Field(60, "Value of award", "value", is_money=True),
            Field(60, "Amount recovered to date", "dmrcvrdtodate", is_money=True)))
@@ -127,7 +124,7 @@ SHEETS = {
     "Claim1 P2": PAGE_2,
     "Claim1 P2 Late Submission Cont": shared.text_continuation(FORM, 2, 7, *LATE),
     "Claim1 P3": PAGE_3,
-    "Claim1 P3 Case Details Cont": shared.text_continuation(FORM, 3, 8, *WORK),
+    "Claim1 P3 Case Details Cont": shared.text_continuation(FORM, 3, 8, *shared.WORK),
     "Claim1 P3 Enhancement Cont": shared.text_continuation(FORM, 3, 9, *ENHANCEMENT),
     "Claim1 P3 Panel Membership Cont": shared.panel_membership(FORM, 3, 9),
     "Claim1 P4": shared.counsels_fees(FORM, 4, 10),
@@ -144,5 +141,5 @@ SHEETS = {
     "Claim1 P7 Other Dibs Cont": shared.other_disbursements_continuation(FORM, 7, 15),
     "Claim1 P8": PAGE_8,
     "Claim1 P9": PAGE_9,
-    "Claim1 P10": shared.debtor(FORM, 10, person=22, employment=23, means=24),
+    "Claim1 P10": recovery.debtor(FORM, 10, person=22, employment=23, means=24),
 }

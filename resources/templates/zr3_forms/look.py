@@ -92,7 +92,7 @@ LABEL = Style("Label", 8, 10, left=100, right=100)
 NOTE = Style("Note", 8, 10)
 
 HEAD = Style("Head", 8, 9.5, bold=True, after=3, left=80, right=80)
-DENSE_HEAD = Style("Dense Head", 7.5, 8.6, bold=True, after=2.5, left=40, right=25)
+DENSE_HEAD = Style("Dense Head", 7.5, 8.6, bold=True, after=2.5, left=30, right=35)
 ANSWER_HEAD = Style("Answer Head", 8, 9.5, bold=True, after=3, left=100, right=100)
 GROUP_HEAD = Style("Group Head", 7.5, 9, bold=True, align=CENTRE)
 SCHEDULE_HEAD = Style("Schedule Head", 7.5, 8.6, bold=True, after=2.5, left=40, right=40)
@@ -106,14 +106,17 @@ GRAND_TOTAL = Style("Grand Total", 14, 18, bold=True, left=100, right=100)
 GRAND_TOTAL_LABEL = Style("Grand Total Label", 11, 13, bold=True, align=RIGHT,
                           left=100, right=100)
 
-# Two lines of a grid's type fill a row of 20 points: a certificate reference of
-# twenty capitals needs both.
-GRID = Style("Grid", 9, 10, left=80, right=80)
-# An amount must never break: half a figure reads as another figure. Hence the narrow insets where columns are many, and
-# the small type of their totals, which hold six figures before the point in every column and seven in the last.
-DENSE_GRID = Style("Dense Grid", 8, 9, left=40, right=25)
+# Two lines of a grid's type stand clear of the rules in a row of 20 points: a
+# certificate reference of twenty capitals needs both.  Capitals stand high in so
+# low a line; the point before it centres them.
+GRID = Style("Grid", 9, 9.5, before=1, left=80, right=80)
+# An amount must never break: half a figure reads as another figure. Hence the small type and the narrow insets where
+# columns are many. The columns hold six figures before the point, those of hourly rates four, of hearings'
+# rates and fixed payments five, the sums seven.
+DENSE_GRID = Style("Dense Grid", 7.5, 8, left=30, right=35)
+DENSEST_GRID = Style("Densest Grid", 7.5, 8, left=15, right=35)
 SCHEDULE = Style("Schedule", 8.5, 10, left=40, right=40)
-DENSE_TOTAL = Style("Dense Total", 7.5, 10, bold=True, left=15, right=15)
+DENSE_TOTAL = Style("Dense Total", 7.5, 10, bold=True, left=0, right=30)
 
 STYLES = [
     MARK, SPACER, TAIL,
@@ -122,7 +125,7 @@ STYLES = [
     QUESTION, KEY, TICK, LABEL, NOTE,
     HEAD, ANSWER_HEAD, DENSE_HEAD, SCHEDULE_HEAD, GROUP_HEAD,
     ANSWER, BOX, LONG_BOX, SHEET_BOX, PLACE, GRAND_TOTAL, GRAND_TOTAL_LABEL,
-    GRID, DENSE_GRID, SCHEDULE, DENSE_TOTAL,
+    GRID, DENSE_GRID, DENSEST_GRID, SCHEDULE, DENSE_TOTAL,
 ]
 
 # --- Heights of the pieces -------------------------------------------------

@@ -91,11 +91,13 @@ def section(number, title, space=13):
     return [spacer(space), band(number, title)]
 
 
-def subheading(text):
-    return Paragraph(look.SUBHEADING, (text,))
+def subheading(text, line=None):
+    """`line` where the sub-heading alone has to keep two tables apart."""
+    return Paragraph(look.SUBHEADING, (text,), line=line)
 
 
-def footnote(text):
+def remark(text):
+    """One line on no fill, below a table."""
     return [spacer(8), Paragraph(look.NOTE, (text,))]
 
 
@@ -162,6 +164,14 @@ def question(key, text, yes, no, lines=1):
     return Row(look.QUESTION_ROW[lines], (printed(look.KEY_UNITS, key, look.KEY),
                                           printed(words, text, look.QUESTION),
                                           *two_ticks(yes, no)))
+
+
+def choice(key, text, *choices):
+    """A question whose answers, more than yes and no, are ticks beside it."""
+    words = look.ACROSS - look.KEY_UNITS - sum(width for width, _, _ in choices)
+    return Row(look.TICK_ROW, (printed(look.KEY_UNITS, key, look.KEY),
+                               printed(words, text, look.QUESTION),
+                               *(tick(*answer) for answer in choices)))
 
 
 def code_question(key, text, name, height):

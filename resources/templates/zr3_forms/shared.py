@@ -8,10 +8,9 @@ from . import look
 from .look import CENTRE, LEFT, RIGHT
 from .markup import Row, slot
 from .pieces import (
-    Column, Field, Grid, Total, answer_row, answered, code_question, fields, follow_up,
-    footnote, grid_heads, grid_table, head, label_row, masthead, money_row, notes, place,
-    place_strip, printed, question, section, sheet, spacer, strip, subheading, text_box, tick,
-    ticks, totals,
+    Column, Field, Grid, Total, answered, code_question, fields, grid_heads, grid_table, head,
+    masthead, notes, place, place_strip, printed, question, remark, section, sheet, spacer, strip,
+    subheading, text_box, ticks, totals,
 )
 
 
@@ -62,8 +61,8 @@ def first_page(form, exceptional, final_bill, other_providers=None):
          strip("If no, give reasons"),
          text_box("inclusiveofallsolicitorsreasons", 44)] if other_providers else [],
         question(final_key, "Is this the final bill on this certificate?", *final_bill),
-        footnote("A number in brackets beside a page number marks a further sheet of that page: "
-                 "Page 3 (2) is the second sheet of page 3."))
+        remark("A number in brackets beside a page number marks a further sheet of that page: "
+               "Page 3 (2) is the second sheet of page 3."))
 
 
 def outcome(codes, awarded, wasted):
@@ -82,6 +81,11 @@ def outcome(codes, awarded, wasted):
 
 
 # --- Continuation of a text ------------------------------------------------
+
+WORK = ("Details of work being claimed",
+        "Describe the work done for which you claim, and anything that explains the time it took",
+        "detailsofcase")
+
 
 def text_continuation(form, page, number, title, prompt, name):
     """Fifty lines, which hold the longest piece that the export cuts."""
@@ -144,7 +148,7 @@ SCHEDULE = Grid(
     columns=(
         Column("Item", 6, CENTRE),
         Column("Fee\nearner", 9, CENTRE),
-        Column("Date", 11, CENTRE),
+        Column("Date", 10.6, CENTRE),
         Column("Code", 7, CENTRE),
         Column("Attend /\nconfer", 9.6, CENTRE, begins_group=True),
         Column("Docs", 9.6, CENTRE),
@@ -152,7 +156,7 @@ SCHEDULE = Grid(
         Column("Travel", 9.6, CENTRE),
         Column("Waiting", 9.6, CENTRE),
         Column("Rate\n£", 9, RIGHT, begins_group=True),
-        Column("Basic\nclaim £", 11, RIGHT),
+        Column("Basic\nclaim £", 11.4, RIGHT),
         Column("Enh.\n%", 7, RIGHT),
         Column("Claim\n£", 12, RIGHT)))
 
@@ -190,17 +194,17 @@ EXPERTS = Grid(
     groups=(("Expert", 3), ("Preparation", 2), ("Court attendance", 2), ("Costs", 2),
             ("Claim", 3)),
     columns=(
-        Column("Expert", 16),
-        Column("Type", 14),
-        Column("PA", 5, CENTRE),
+        Column("Expert", 15.2),
+        Column("Type", 15),
+        Column("PA", 4, CENTRE),
         Column("Rate\n£", 8, RIGHT, begins_group=True),
-        Column("Cost\n£", 10, RIGHT),
+        Column("Cost\n£", 9.8, RIGHT),
         Column("Rate\n£", 8, RIGHT, begins_group=True),
-        Column("Cost\n£", 10, RIGHT),
-        Column("Travel\n£", 9, RIGHT, begins_group=True),
-        Column("Other\n£", 9, RIGHT),
-        Column("Net\n£", 10, RIGHT, begins_group=True),
-        Column("VAT\n£", 10, RIGHT),
+        Column("Cost\n£", 9.8, RIGHT),
+        Column("Travel\n£", 9.8, RIGHT, begins_group=True),
+        Column("Other\n£", 9.8, RIGHT),
+        Column("Net\n£", 9.8, RIGHT, begins_group=True),
+        Column("VAT\n£", 9.8, RIGHT),
         Column("Total\n£", 11, RIGHT)))
 
 EXPERT_STANDARDS_PROMPT = "If no, give reasons"
@@ -225,8 +229,9 @@ def expert_standards_continuation(form, page, number):
 def expert_grid():
     return [
         grid_table(EXPERTS, 11),
-        totals(EXPERTS, Total(9, "Total for experts £"),
-               Total(1, name="exnet"), Total(1, name="exvat"), Total(1, name="extot"),
+        # The net sum of many invoices needs more room than the column of one has.
+        totals(EXPERTS, Total(8, "Total for experts £"),
+               Total(2, name="exnet"), Total(1, name="exvat"), Total(1, name="extot"),
                style=look.DENSE_TOTAL)]
 
 
@@ -339,84 +344,6 @@ def sums(*rows, height=SUMS.row):
             for label, net, vat in rows]
 
 
-def sums_total(label, net, vat, height=SUMS.row):
-    return totals(SUMS, Total(1, label), Total(1, name=net), Total(1, name=vat), height=height)
-
-
-# --- Costs awarded and their recovery --------------------------------------
-
-def costs_awarded(form, page, costs, recovery, *more_money_rows):
-    """The lines of both sections; a form may have more sections on the sheet.
-    The page takes no mark: its exporter looks for none."""
-    return [
-        head(form, page, costs, "Costs awarded", marked=False),
-        money_row("Pre-certificate costs awarded", "precertcosts"),
-        money_row("During certificate costs awarded (legal aid prescribed rates)",
-                  "duringcertlsc"),
-        money_row("During certificate costs awarded (market rates)", "duringcertmr"),
-        more_money_rows,
-        question("a", "Are legal advice and assistance, and/or Legal Help costs included in the "
-                      "pre-certificate costs awarded?", "1", "2", lines=2),
-        follow_up("If yes, tell us the amount", "lhipccamount"),
-        fields(Field(60, "Interest on all costs", "interest", is_money=True),
-               Field(60, "Date interest commenced or commences", "dateinterestcommenced")),
-        strip("Please provide a breakdown where interest has been calculated"),
-        text_box("interestbreakdown", 31),
-
-        section(recovery, "Recovery"),
-        fields(Field(60, "Amount recovered to date", "rcvrdtodate", is_money=True),
-               Field(60, "Date order was served", "dateorderserved")),
-        strip("Address of service"),
-        text_box("addressofservice", 44),
-        question("a", "Does the court order say leave of the court is required before enforcement "
-                      "can take place?", "3", "4", lines=2),
-        question("b", "Has a determination of the debtor’s means been undertaken by the court?",
-                 "5", "6"),
-        follow_up("If yes, give the amount", "detmamount"),
-        question("c", "Has any offer been made by the debtor?", "7", "8"),
-        strip("If so, give details"),
-        text_box("offerbydebtordetails", 44)]
-
-
-# --- The debtor ------------------------------------------------------------
-
-def debtor(form, page, person, employment, means):
-    address, beside = 42, 78
-    return sheet(
-        head(form, page, person, "Debtor"),
-        fields(Field(16, "Title", "title"),
-               Field(16, "Initials", "initials"),
-               Field(40, "First name", "firstname"),
-               Field(48, "Surname or organisation", "surnameororganisation")),
-        fields(Field(16, "Date of birth", "dateofbirth"),
-               Field(62, "National Insurance no.", "nationalinsurancenumber"),
-               Field(42, "Fax", "fax")),
-        fields(Field(38, "Phone (work)", "phonework"),
-               Field(38, "Phone (home)", "phonehome"),
-               Field(44, "Mobile", "mobile")),
-        # The address has a corner of its own: five lines beside two fields.
-        label_row(printed(address, "Address"), printed(beside, "Email address")),
-        answer_row(answered(address, slot("address"), style=look.BOX, stands="top",
-                            merge="restart"),
-                   answered(beside, slot("email"))),
-        label_row(answered(address, style=look.BOX, merge="continue", above=look.NONE),
-                  printed(beside, "Solicitor’s firm name")),
-        answer_row(answered(address, style=look.BOX, merge="continue"),
-                   answered(beside, slot("solicitorsfirmname")), height=30),
-
-        section(employment, "Employment", 8),
-        ticks((40, "1", "Employed"), (40, "2", "Self-employed"), (40, "3", "Unemployed"),
-              height=22),
-        fields(Field(80, "Job", "job"),
-               Field(40, "Debtor’s income", "debtorsincome", is_money=True)),
-        fields(Field(60, "Employer’s name", "employersname"),
-               Field(60, "Employer’s address", "employersaddress"), height=40),
-
-        section(means, "Means and information", 8),
-        strip("Debtor’s assets"),
-        text_box("assets", 93),
-        label_row(printed(40, "Was the debtor legally aided?"), printed(80, "Case reference")),
-        answer_row(tick(20, "4", "Yes"), tick(20, "5", "No"),
-                   answered(80, slot("casereference"))),
-        strip("Information"),
-        text_box("information", 205))
+def sums_total(label, net, vat, height=SUMS.row, above=look.EDGE):
+    return totals(SUMS, Total(1, label), Total(1, name=net), Total(1, name=vat), height=height,
+                  above=above)

@@ -1,0 +1,70 @@
+#!/usr/bin/env python3
+"""The program in its window, on a display of its own, is killed at the steps of the save that Ctrl+S begins.
+
+    ZR3_PROGRAM   the program with the window, beside what support.py is told
+"""
+
+import sys
+from pathlib import Path
+
+from support import *
+
+sys.path.insert(0, str(Path(__file__).parent.parent / "window"))
+from real_desktop import NEEDED, Desktop
+
+PROGRAM = os.environ.get("ZR3_PROGRAM", "")
+MAIN = "Velmor ZR3"
+
+
+class WindowKilled(SaveTest):
+    def setUp(self):
+        for program in NEEDED:
+            if not shutil.which(program):
+                self.skipTest(f"there is no {program} on this machine")
+        super().setUp()
+        # A claim that was last saved elsewhere, so that its save changes it.
+        elsewhere = self.folder / "elsewhere.zr3"
+        self.assertEqual(0, run("save", self.sources["new"], elsewhere).status)
+        self.whole = {"old": elsewhere.read_bytes(), "new": self.whole["new"]}
+        home = self.folder / "home"
+        home.mkdir()
+        self.desktop = self.enterContext(Desktop(home))
+
+    def begin(self, at=0, do=""):
+        """Opens the claim in the window, and gives the process."""
+        self.log.unlink(missing_ok=True)
+        self.put_old()
+        plan = {name: value for name, value in environment(self.disk, at, do, self.log).items()
+                if name == "LD_PRELOAD" or name.startswith("ZR3_FAULTS")}
+        process = self.desktop.start("program", ["env", *(f"{name}={value}" for name, value in plan.items()), PROGRAM,
+                                                 str(self.file)])
+        # The splash bears the title of the main window, which fills the screen.
+        self.desktop.wait("the main window", lambda: self.desktop.title() == MAIN and self.desktop.fills_the_screen())
+        return process
+
+    def test_at_the_steps_of_a_save(self):
+        process = self.begin()
+        read = len(steps_of(self.log))
+        self.desktop.key("ctrl+s")
+        self.desktop.wait("the save", lambda: self.named(self.file) == "new" and not self.side.exists())
+        steps = steps_of(self.log)[read:]
+        process.kill()
+        process.wait()
+        self.put_old()
+        tool = self.save("new", under=self.disk, log=self.log)
+        self.assertEqual([step.operation for step in tool.steps], [step.operation for step in steps],
+                         "the window doesn't save as the tool does")
+        for step in steps if FULL else chance.sample(steps, 3):
+            with self.subTest(step=step.number, operation=step.operation, seed=SEED):
+                process = self.begin(step.number, "killmid" if step.operation == "write" else "kill")
+                self.desktop.key("ctrl+s")
+                self.assertEqual(-signal.SIGKILL, process.wait(30))
+                place, name = self.state()
+                row = "Window killed at each step of its save"
+                count(row, "kills")
+                count(row, f"whole in the {place}: {name}")
+                self.saves_again()
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,398 @@
+#!/usr/bin/env python3
+"""The user guide and the list of keys: sound as documents, and complete and to the letter beside the program.
+
+    ZR3_ROOT           the root of the repository
+    ZR3_DOCUMENTATION  the folder of the finished documents
+    ZR3_TOOL           the headless program
+    ZR3_VERSION        the program's version
+"""
+
+import json
+import os
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+import tomllib
+import unittest
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parent))
+import scan
+
+ROOT = Path(os.environ["ZR3_ROOT"])
+DOCUMENTATION = Path(os.environ["ZR3_DOCUMENTATION"])
+SOURCES = ROOT / "docs/guide"
+GUIDE, SHORTCUTS = DOCUMENTATION / "Velmor ZR3 User Guide.pdf", DOCUMENTATION / "Velmor ZR3 Keyboard Shortcuts.pdf"
+
+SKIPPED = 77  # what ctest knows as skipped
+
+# Texts that no user can meet, and why. Nothing else may be missing from the guide.
+NEVER_SHOWN = {
+    "Are you sure you wish to delete the selected": "no list lets more than one row be selected",
+}
+
+
+def same(text):
+    """A text as it is compared: the setter's quotation marks and its ends of lines make no difference."""
+    for mark, plain in {"‘": "'", "’": "'", "“": '"', "”": '"', "…": "...", "–": "-", "\u00a0": " "}.items():
+        text = text.replace(mark, plain)
+    return " ".join(text.split())
+
+
+def printed(path, first=None, last=None, layout=False):
+    options = ["-layout"] if layout else []
+    options += ["-f", str(first)] if first else []
+    options += ["-l", str(last)] if last else []
+    return subprocess.run(["pdftotext", *options, path, "-"], check=True, capture_output=True, text=True).stdout
+
+
+def information(path):
+    lines = subprocess.run(["pdfinfo", path], check=True, capture_output=True, text=True).stdout.splitlines()
+    return {name: value.strip() for name, _, value in (line.partition(":") for line in lines)}
+
+
+def table(name):
+    with open(SOURCES / name, "rb") as file:
+        return tomllib.load(file)
+
+
+def spoken(text):
+    """A message of the table as pieces: what stands in braces differs from case to case."""
+    return [same(piece) for piece in re.split(r"\{.+?\}|\n", text) if scan.WORD.search(piece)]
+
+
+class Documents(unittest.TestCase):
+    def setUp(self):
+        if not (GUIDE.is_file() or SHORTCUTS.is_file()) and subprocess.run(
+                [sys.executable, "-c", "import weasyprint, markdown"], capture_output=True).returncode:
+            self.skipTest("the guide is not made without WeasyPrint and Python-Markdown")
+        for program in ("pdfinfo", "pdftotext", "pdffonts"):
+            if not shutil.which(program):
+                self.skipTest(f"there is no {program} on this machine")
+
+    def test_titles_and_sizes(self):
+        for path, title, fewest, most in ((GUIDE, "Velmor ZR3 User Guide", 40, 100),
+                                          (SHORTCUTS, "Velmor ZR3 Keyboard Shortcuts", 1, 2)):
+            told = information(path)
+            self.assertEqual(told["Title"], title)
+            self.assertEqual(told["Tagged"], "yes")
+            self.assertIn("A4", told["Page size"])
+            self.assertTrue(fewest <= int(told["Pages"]) <= most, f"{told['Pages']} pages")
+            self.assertLess(path.stat().st_size, 6 << 20)
+            self.assertIn(b"/Lang (en-GB)", path.read_bytes())
+            self.assertIn(os.environ["ZR3_VERSION"], printed(path, 1, 1))
+
+    def test_fonts_are_embedded(self):
+        for path in (GUIDE, SHORTCUTS):
+            rows = subprocess.run(["pdffonts", path], check=True, capture_output=True, text=True).stdout.splitlines()[2:]
+            self.assertTrue(rows)
+            for row in rows:
+                self.assertIn("Liberation", row)
+                self.assertEqual(row.split()[-5], "yes", row)
+
+    def test_the_same_sources_make_the_same_bytes(self):
+        with tempfile.TemporaryDirectory() as folder:
+            subprocess.run([sys.executable, "-B", SOURCES / "make_guide.py", folder, os.environ["ZR3_VERSION"]], check=True)
+            for path in (GUIDE, SHORTCUTS):
+                self.assertEqual((Path(folder) / path.name).read_bytes(), path.read_bytes(), path.name)
+
+    def test_contents_lead_to_their_pages(self):
+        pages = printed(GUIDE).split("\f")
+        self.assertEqual(len(pages) - 1, int(information(GUIDE)["Pages"]))
+        contents = [page for page in pages[1:4] if same(page).startswith("Contents")]
+        self.assertTrue(contents)
+        rows = re.findall(r"^\s*(?:(\d+)\s+)?(\S.*?)[ .]{3,}(\d+)$", "\n".join(contents), flags=re.MULTILINE)
+        chapters = [row for row in rows if row[0]]
+        self.assertEqual([row[0] for row in chapters], [str(n + 1) for n in range(len(chapters))])
+        self.assertEqual(len(chapters), len(list(SOURCES.glob("[0-9]*.md"))) - 2)  # appendix and index have no number
+        for number, heading, page in rows:
+            lines = [same(line) for line in pages[int(page) - 1].splitlines()]
+            self.assertIn(same(f"{number} {heading}") if number else same(heading), lines, f"{heading} on page {page}")
+            self.assertEqual([line for line in lines if line][-1], page)
+        headings = re.findall(r"^##? (.+?)(?: \{#.*)?$", "\n".join(path.read_text(encoding="utf-8")
+                              for path in SOURCES.glob("[0-9]*.md")), flags=re.MULTILINE)
+        listed = [same(row[1]) for row in rows]
+        for heading in headings:
+            self.assertIn(same(heading), listed)
+
+    def test_references_lead_somewhere(self):
+        # A reference without its place would be printed without a number, or with a nought.
+        text = same(printed(GUIDE))
+        self.assertNotRegex(text, r"\(page \)|\(page 0\)")
+        for page in re.findall(r"\(page (\d+)\)", text):
+            self.assertLessEqual(int(page), int(information(GUIDE)["Pages"]))
+
+    def test_index_leads_to_the_messages(self):
+        pages = [same(page) for page in printed(GUIDE).split("\f")]
+        start = next(i for i, page in enumerate(pages) if "Index of messages" in page and "first words" in page)
+        rows = re.findall(r"(\S[^\n]*?)[ .]{3,}(\d+)$", "\n".join(printed(GUIDE, start + 1).split("\f")), flags=re.MULTILINE)
+        self.assertGreater(len(rows), 80)
+        for words, page in rows:
+            part = max(re.split(r"\.\.\.", same(words)), key=len).strip()
+            self.assertIn(part, pages[int(page) - 1], f"page {page}")
+
+
+class Sources(unittest.TestCase):
+    def setUp(self):
+        self.text = "\n".join(path.read_text(encoding="utf-8") for path in sorted(SOURCES.glob("[0-9]*.md")))
+
+    def test_pictures_are_there(self):
+        names = re.findall(r"^!\[.+?\]\(([\w.-]+)", self.text, flags=re.MULTILINE)
+        self.assertGreater(len(names), 40)
+        for name in names:
+            self.assertTrue((ROOT / "docs/screens" / name).is_file() or (ROOT / "docs/pictures" / name).is_file(), name)
+        # Every window that is photographed is shown.
+        for path in (ROOT / "docs/screens").glob("*.png"):
+            self.assertIn(path.name, names)
+
+    def test_every_tab_has_its_place(self):
+        headings = re.findall(r"^#+ (.+?)(?: \{#.*)?$", self.text, flags=re.MULTILINE)
+        tabs = (ROOT / "shell/mdSectionTabs.cpp").read_text(encoding="utf-8")
+        sections = (ROOT / "editors/mdSections.cpp").read_text(encoding="utf-8")
+        first_row = re.findall(r'^\s*\{"([^"]+)",$', tabs, flags=re.MULTILINE)
+        second_row = {name for row in re.findall(r"texts\(\{(.*?)\}\)", tabs, flags=re.DOTALL) for name in re.findall(r'"([^"]+)"', row)}
+        known = set(re.findall(r'^\s*\{"([^"]+)",', sections, flags=re.MULTILINE))
+        self.assertEqual(len(first_row), 4)
+        self.assertEqual(second_row, known)
+        for name in first_row:
+            self.assertIn(f"The screens under {name}", headings)
+        for name in sorted(known):
+            self.assertIn(name, headings)
+
+    def test_every_menu_entry_and_preference_is_told(self):
+        menus = (ROOT / "shell/mdMainMenu.cpp").read_text(encoding="utf-8")
+        entries = [entry.replace("&", "") for entry in re.findall(r'\{"&\w+",\s*"([^"]+)"', menus)]
+        self.assertEqual(len(entries), 14)
+        preferences = (ROOT / "editors/frmPreferences.cpp").read_text(encoding="utf-8")
+        captions = re.findall(r'\{(?:Decimal|Tick|Text),\s*"\w+",\s*"([^"*]+)\*?"', preferences)
+        self.assertEqual(len(captions), 7)
+        told = (SOURCES / "13-preferences.md").read_text(encoding="utf-8")
+        for entry in entries:
+            self.assertIn(f"**{entry}**", self.text)
+        for caption in captions:
+            self.assertIn(f"| **{caption}** |", told)
+
+    def test_every_code_is_told(self):
+        code = (ROOT / "costing/mdScheduleOfTimeCodesCollection.cpp").read_text(encoding="utf-8")
+        codes = set(re.findall(r"\b[A-Z]{3}\b", " ".join(scan.literals(code))))
+        self.assertEqual(len(codes), 32)
+        self.assertEqual(codes, codes & set(re.findall(r"\b[A-Z]{3}\b", self.text)))
+
+
+class Keys(unittest.TestCase):
+    """The keys of the program are those of the table."""
+
+    NAMES = {"Return": "Enter", "Backtab": "Shift+Tab", "Escape": "Esc"}
+    # Told with the keys that they go with; the last two only say which keys type a character.
+    PARTS = {"Alt", "F10", "S", "Backspace", "ydiaeresis"}
+
+    def setUp(self):
+        self.keys = {key for group in table("keys.toml")["group"] for row in group["key"]
+                     for key in re.findall(r"\[\[(.+?)\]\]", row["keys"])}
+        self.sources = scan.Sources(ROOT)
+
+    def test_menu_keys(self):
+        keys = re.findall(r'"(Ctrl\+\w)"', self.sources.files["shell/mdMainMenu.cpp"])
+        self.assertEqual(len(keys), 8)
+        self.assertLessEqual(set(keys), self.keys)
+
+    def test_no_other_file_sets_a_shortcut(self):
+        for file, code in self.sources.files.items():
+            for set_here in re.findall(r"(?:setShortcut|QShortcut)\(([^;]*)\);", code):
+                if file not in ("shell/mdMainMenu.cpp", "editors/oScreenFrame.cpp"):  # the menus; letters with Alt
+                    self.assertIn("Qt::CTRL | Qt::Key_S", set_here, file)
+            for standard in re.findall(r"QKeySequence::(\w+)", code):
+                self.assertIn(standard, ("mnemonic", "InsertLineSeparator"), file)
+        self.assertIn("Ctrl+S", self.keys)
+        self.assertIn("Shift+Enter", self.keys)
+
+    def test_every_key_that_the_code_names(self):
+        named = set(re.findall(r"Qt::Key_(\w+)", self.sources.all))
+        self.assertGreater(len(named), 20)
+        for key in named - self.PARTS:
+            self.assertIn(self.NAMES.get(key, key), self.keys)
+        self.assertIn("Shift+F10", self.keys)
+
+    def test_keys_of_the_start(self):
+        keys = re.findall(r"\{u'(\w)', \w+\}", self.sources.files["shell/frmSplash.cpp"])
+        self.assertEqual(keys, ["p", "r", "d"])
+        self.assertLessEqual(set(keys), self.keys)
+
+    def test_tiers_of_the_fee_earners(self):
+        tiers = re.findall(r'\{(Qt::\w+(?: \| Qt::\w+)*),\s*(\d+),', self.sources.files["editors/oFeeEarnerCombo.cpp"])
+        self.assertEqual(len(tiers), 8)
+        rows = {row["does"]: row["keys"] for group in table("keys.toml")["group"] for row in group["key"]}
+        for held, offset in tiers:
+            keys = rows[f"Fee earners {int(offset) + 1} to {int(offset) + 12}"]
+            told = set(re.findall(r"\[\[(.+?)\]\]", keys)[0].split("+")) - {"F1"}
+            self.assertEqual(told, {name for name, flag in (("Shift", "Shift"), ("Ctrl", "Control"), ("Alt", "Alt")) if flag in held})
+
+    def test_the_list_holds_the_table(self):
+        if not shutil.which("pdftotext") or not SHORTCUTS.is_file():
+            self.skipTest("the list can't be read here")
+        text = same(printed(SHORTCUTS))
+        for group in table("keys.toml")["group"]:
+            self.assertIn(same(group["title"]), text)
+            for row in group["key"]:
+                plain = same(re.sub(r"\*\*|\[\[|\]\]", "", row["does"]))
+                self.assertIn(plain.split()[0], text)
+
+
+class Messages(unittest.TestCase):
+    """Every text of the program has its entry, and every entry is a text of the program, to the letter."""
+
+    def setUp(self):
+        self.sources = scan.Sources(ROOT)
+        self.table = table("messages.toml")
+        self.entries = [same(message["title"] + " | " + re.sub(r"\{.+?\}", "{}", message["text"]))
+                        for group in self.table["group"] for message in group["message"]]
+        self.rows = {name: [same(re.sub(r"\{.+?\}", "{}", row["words"])) for row in self.table[name]]
+                     for name in ("error", "progress", "note", "tool")}
+        self.calls = list(self.sources.calls())
+
+    def told(self, pieces, entries):
+        return any(all(same(piece) in entry for piece in pieces) for entry in entries)
+
+    def places(self, call):
+        """Where a call's text has to stand."""
+        if "zr3tool" in call.place:
+            return self.rows["tool"] + self.rows["error"]
+        if call.door in ("mdDocumentError", scan.ERROR):
+            return self.rows["error"]
+        if call.door == "mdSetProgress":
+            return self.rows["progress"]
+        return self.entries
+
+    def test_the_scan_finds_what_there_is(self):
+        doors = {call.door for call in self.calls}
+        self.assertEqual(doors, {*scan.DOORS, scan.ERROR} - {"customMessage"})
+        self.assertGreater(len([call for call in self.calls if call.pieces]), 55)
+
+    def test_no_text_goes_round_the_scan(self):
+        for call in self.calls:
+            if call.door != scan.ERROR:
+                self.assertTrue(call.pieces, f"{call.place} shows a text that the scan does not find")
+
+    def test_there_is_no_other_door(self):
+        for file, code in self.sources.files.items():
+            used = set(re.findall(r"\b(QMessageBox|QErrorMessage|QInputDialog)\b", code))
+            self.assertLessEqual(used, {"QMessageBox"} if file == "shell/clsWindowUserInterface.cpp" else set(), file)
+            if "frmMessageBox" in code:
+                self.assertIn(file, ("controls/frmMessageBox.h", "controls/frmMessageBox.cpp", "shell/clsWindowUserInterface.cpp"))
+            self.assertLessEqual(set(re.findall(r"UserInterface\(\)\.(\w+)", code)), {
+                "customMessage", "systemMessage", "showProgress", "clearProgress", "chooseFolder", "chooseFileToOpen",
+                "chooseFileToSave", "playSound", "openTarget"}, file)
+
+    def test_every_text_has_its_entry(self):
+        for call in self.calls:
+            pieces = [piece for piece in call.pieces if piece not in NEVER_SHOWN]
+            # What one call can say in more than one way is told piece by piece; no piece may be missing.
+            whole = self.told(pieces, self.places(call))
+            for piece in pieces if not whole else []:
+                self.assertTrue(self.told([piece], self.places(call)),
+                                f'{call.place}: the guide does not tell the message "{piece}"')
+
+    def test_every_error_has_its_row(self):
+        code = self.sources.files["shell/clsRunTimeError.cpp"]
+        numbers = dict(re.findall(r"(\w+) = (\d+),", self.sources.files["shell/clsRunTimeError.h"]))
+        rows = re.findall(r'\{clsRunTimeError::(\w+), "([^"]+)"\}', code)
+        self.assertEqual(len(rows), len(numbers))
+        told = {(row["number"], row["words"]) for row in self.table["error"]}
+        for name, words in rows:
+            self.assertIn((int(numbers[name]), words), told)
+
+    def test_the_tool_says_nothing_else(self):
+        written = [text for file, code in self.sources.files.items() for text in
+                   re.findall(r'f(?:puts|printf)\(\s*(?:\w+, )?"([^"]*[a-z]{2} [^"]*)"', code)]
+        self.assertEqual(len(written), 1)
+        for text in written:
+            self.assertTrue(self.told(scan.pieces(text.replace(r"\n", "\n")), self.rows["tool"]), text)
+
+    def test_every_note_is_told(self):
+        notes = re.findall(r'\.(?:empty|whyNoTick|whatFits)\s*=\s*(?:QLatin1String\()?"([^"]+)"', self.sources.all)
+        for name in set(re.findall(r"\bwhyNo[A-Z]\w*", self.sources.all)) | {"wordsOf"}:
+            notes += scan.literals(self.sources.body(name))
+        notes += [text for text in scan.literals(self.sources.files["editors/oSpellingNote.cpp"]) if " " in text]
+        notes += [text for text in scan.literals(self.sources.files["editors/mdLoadMenuFromCollection.cpp"]) if " " in text]
+        self.assertGreater(len(notes), 18)
+        told = [same(re.sub(r"\{.+?\}", "{}", row["words"]) + " " + row["means"]) for row in self.table["note"]]
+        for note in notes:
+            for piece in scan.pieces(note):
+                self.assertTrue(self.told([piece], told), f'the guide does not tell the note "{note}"')
+
+    def test_every_entry_is_said(self):
+        said = [same(piece) for text in scan.literals(self.sources.all) for piece in scan.pieces(text)]
+        for group in self.table["group"]:
+            for message in group["message"]:
+                for piece in spoken(message["title"]) + spoken(message["text"]):
+                    self.assertTrue(any(piece.strip(" .?,:") in text for text in said), f'nothing says "{piece}"')
+        for name in self.rows:
+            for row in self.table[name]:
+                for piece in spoken(row["words"]):
+                    piece = piece.split(": ", 1)[-1] if name == "tool" else piece
+                    self.assertTrue(any(piece.strip(" .?,:") in text for text in said), f'nothing says "{piece}"')
+
+    def test_entries_are_complete(self):
+        for group in self.table["group"]:
+            for message in group["message"]:
+                self.assertTrue(message["means"].strip() and message["do"].strip(), message["text"])
+
+    def test_the_guide_prints_them(self):
+        if not shutil.which("pdftotext") or not GUIDE.is_file():
+            self.skipTest("the guide can't be read here")
+        text = same(printed(GUIDE))
+        for group in self.table["group"]:
+            for message in group["message"]:
+                for piece in spoken(message["title"]) + spoken(message["text"]):
+                    self.assertIn(piece, text)
+
+
+class Example(unittest.TestCase):
+    """The claim that the guide leads to has the figures that the guide tells."""
+
+    def totals(self, name):
+        claim = Path(__file__).resolve().parent / f"{name}.zr3"
+        return json.loads(subprocess.run([os.environ["ZR3_TOOL"], "totals", claim], check=True, capture_output=True).stdout)
+
+    def test_figures(self):
+        text = (SOURCES / "10-figures.md").read_text(encoding="utf-8").partition("## A worked example")[2]
+        figures = self.totals("okafor")
+        told = re.findall(r"^\| (\d) \|.*\| ([\d.]+) \| [\d.]+ \| ([\d.]+) \| (?:(\d+) %|none)[^|]*\| ([\d.]+) \|$", text, flags=re.MULTILINE)
+        self.assertEqual(len(told), 6)
+        for (number, rate, basic, percentage, claim), item in zip(told, figures["ScheduleItems"], strict=True):
+            self.assertEqual([int(number), float(rate), float(basic), float(percentage or 0), float(claim)],
+                             [item["SOTItemNumber"], *(float(item[name]) for name in
+                                                       ("Rate", "BasicClaim", "TotalEnhancementPercentage", "Claim"))])
+        for amount in [*figures["ColumnClaimTotal"], figures["ScheduleTotal"], figures["CommsTotal"], figures["ProfitCostsTotal"],
+                       figures["ProfitCostsVAT"], *(line["Claim"] for line in figures["Communications"] if line["Claim"] != "0"),
+                       *(value for value in figures["Summary"].values() if value != "0")]:
+            self.assertRegex(text.replace(",", ""), rf"(?<![\d.]){re.escape(amount)}0?0?(?![\d])", amount)
+
+    def test_the_first_claim_says_the_same(self):
+        text = (SOURCES / "03-first-claim.md").read_text(encoding="utf-8")
+        figures = self.totals("okafor")
+        for amount in [*figures["ColumnClaimTotal"], figures["ScheduleTotal"], figures["CommsTotal"], figures["ProfitCostsTotal"]]:
+            self.assertIn(f"*{float(amount):.2f}*", text)
+        self.assertIn(f'*{float(figures["Summary"]["grandtotal"]):,.2f}*', text)
+
+    def test_the_item_of_the_scheme(self):
+        text = (SOURCES / "10-figures.md").read_text(encoding="utf-8")
+        figures = self.totals("okafor-1a")
+        self.assertEqual(figures["FASItemsTotal"], "226.475")
+        self.assertIn("the item is 226.475, printed as 226.48", text)
+        self.assertEqual(figures["AdvocacyTotal"], "226.48")
+
+
+def main():
+    result = unittest.main(exit=False, verbosity=2).result
+    if not result.wasSuccessful() or not result.testsRun:
+        sys.exit(1)
+    for _, reason in result.skipped:
+        print(f"skipped: {reason}")
+    sys.exit(SKIPPED if result.skipped else 0)
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,133 @@
+// Work that counts as saved and is not on the disk, when another claim is to take its place.
+
+#include "tests/shell/clsDocumentTest.h"
+
+#include <cerrno>
+
+class ConfirmDropped : public clsDocumentTest {
+protected:
+    void SetUp() override
+    {
+        clsDocumentTest::SetUp();
+        SetClock([] { return QDateTime(QDate(2026, 11, 21), QTime(14, 3, 22)); });
+    }
+    /// A changed claim whose folder was on a drive that has been pulled out, and a save that failed for that.
+    QString saveOnRemovedDrive()
+    {
+        const QString file = savedClaim();
+        change();
+        EXPECT_TRUE(QDir(folder.path()).rename(QStringLiteral("claims"), QStringLiteral("pulled out")));
+        EXPECT_TRUE(SaveForm(false));
+        expectOneBox("File Not Saved", saveBox(file, "76 - Path not found"));
+        user.messages.clear();
+        EXPECT_FALSE(FormIsDirty()) << "it counts as saved";
+        return Form->XMLOutput();
+    }
+    void expectSetAside(const QString &work) const
+    {
+        const QString copy = path("program/Databases/Recovered/Smith 2026-11-21 14.03.22.zr3");
+        expectBoxes({{QStringLiteral("Velmor ZR3"),
+            QStringLiteral("A copy of your claim with its unsaved changes is in:\r\n\r\n") + copy}});
+        EXPECT_EQ(work, textOf(copy));
+    }
+};
+
+TEST_F(ConfirmDropped, NewSetsAsideWhatCouldNotBeSaved)
+{
+    const QString work = saveOnRemovedDrive();
+    NewForm(false);
+    expectSetAside(work);
+    EXPECT_NE(work, Form->XMLOutput());
+}
+
+TEST_F(ConfirmDropped, OpenSetsAsideWhatCouldNotBeSaved)
+{
+    const QString work = saveOnRemovedDrive();
+    user.files = {claimFrom("empty.zr3", "Other.zr3")};
+    OpenFormDialog(false);
+    expectSetAside(work);
+    EXPECT_EQ(path("Other.zr3"), Form->path());
+}
+
+TEST_F(ConfirmDropped, YesAndASaveThatFailsSetsAside)
+{
+    const QString file = savedClaim();
+    change();
+    QDir(path("claims")).removeRecursively();
+    user.answers = {clsUserInterface::Yes};
+    const QString work = Form->XMLOutput();
+    NewForm(false);
+    ASSERT_EQ(3u, user.messages.size());
+    EXPECT_EQ(saveBox(file, "76 - Path not found"), user.messages[1].text);
+    user.messages.erase(user.messages.begin(), user.messages.begin() + 2);
+    expectSetAside(work);
+}
+
+TEST_F(ConfirmDropped, WhatCanBeSetAsideNowhereStays)
+{
+    const QString work = saveOnRemovedDrive();
+    FileSystem().faultPoint
+        = [](clsFileStep step, const QString &) { return clsFileFault {step == clsFileStep::Write ? ENOSPC : 0}; };
+    NewForm(false);
+    user.files = {claimFrom("empty.zr3", "Other.zr3")};
+    OpenFormDialog(false);
+    FileSystem().faultPoint = nullptr;
+    EXPECT_EQ(work, Form->XMLOutput());
+    const Box nowhere = {QStringLiteral("Velmor ZR3"),
+        QStringLiteral("The unsaved changes to your claim could not be written to a copy.")};
+    expectBoxes({nowhere, nowhere});
+}
+
+TEST_F(ConfirmDropped, TheWorkCanBeSavedElsewhere)
+{
+    saveOnRemovedDrive();
+    user.files = {path("elsewhere.zr3")};
+    EXPECT_TRUE(SaveForm(true));
+    EXPECT_EQ(Form->XMLOutput(), textOf(path("elsewhere.zr3")));
+    EXPECT_TRUE(Form->Notes().endsWith(u'!'));
+    NewForm(false);
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(ConfirmDropped, TheWorkIsSavedWhenTheDriveIsBack)
+{
+    const QString work = saveOnRemovedDrive();
+    ASSERT_TRUE(QDir(folder.path()).rename(QStringLiteral("pulled out"), QStringLiteral("claims")));
+    EXPECT_TRUE(SaveForm(false));
+    EXPECT_EQ(work, textOf(path("claims/Smith.zr3")));
+    NewForm(false);
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(ConfirmDropped, WhatAnotherProgramHasWrittenOverIsSetAside)
+{
+    const QString file = savedClaim();
+    change();
+    EXPECT_TRUE(SaveForm(false));
+    const QString work = Form->XMLOutput();
+    put(file, "what another program saved after that");
+    NewForm(false);
+    expectSetAside(work);
+    EXPECT_EQ(QByteArray("what another program saved after that"), bytesOf(file));
+}
+
+TEST_F(ConfirmDropped, NoGivesTheWorkUp)
+{
+    savedClaim();
+    change();
+    QDir(path("claims")).removeRecursively();
+    user.answers = {clsUserInterface::No};
+    NewForm(false);
+    EXPECT_EQ(1u, user.messages.size());
+    EXPECT_FALSE(exists(path("program/Databases/Recovered")));
+}
+
+TEST_F(ConfirmDropped, ASavedClaimIsDroppedWithoutAWord)
+{
+    savedClaim();
+    change();
+    EXPECT_TRUE(SaveForm(false));
+    EXPECT_TRUE(ConfirmDrop());
+    EXPECT_TRUE(user.messages.empty());
+    EXPECT_FALSE(exists(path("program/Databases/Recovered")));
+}

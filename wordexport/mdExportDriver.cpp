@@ -1,0 +1,26 @@
+#include "wordexport/mdExportDriver.h"
+
+#include "wordexport/mdExportWordClaim1.h"
+#include "wordexport/mdExportWordClaim1a.h"
+
+namespace {
+
+struct Row {
+    QLatin1String formType;
+    clsExportDriver driver;
+};
+
+constexpr Row Drivers[] = {
+    {QLatin1String("Claim1"), mdExportWordClaim1},
+    {QLatin1String("Claim1A"), mdExportWordClaim1a},
+};
+
+} // namespace
+
+clsExportDriver mdExportDriver(QStringView formType)
+{
+    for (const Row &row : Drivers)
+        if (formType == row.formType)
+            return row.driver;
+    return nullptr;
+}

@@ -12,11 +12,16 @@ using pugi::xml_node;
 
 namespace {
 
+// A number beyond this is no one's counting, and counting on from it would leave the format's range. Nor will any count
+// from below ever meet it.
+constexpr int Countable = 1'000'000'000;
+
 long highest(const xml_node &root, const char *element, const char *attribute)
 {
-    long last = 0;
+    int last = 0;
     for (const xml_node &node : root.children(element))
-        last = std::max(last, long(node.attribute(attribute).as_int()));
+        if (const int number = node.attribute(attribute).as_int(); number <= Countable)
+            last = std::max(last, number);
     return last;
 }
 

@@ -18,9 +18,17 @@ seeds_of() {
     done
 }
 
-# Everything that a target must bear by now: what was found once, and what is kept: kept_inputs TARGET
+# The folders of a target's inputs: what was found once, what was written by hand, and what attacks have kept.
+input_folders() {
+    local folder
+    for folder in findings seeds corpus; do
+        [[ ! -d tests/fuzz/$folder/$1 ]] || say "tests/fuzz/$folder/$1"
+    done
+}
+
+# Everything that a target must bear by now: kept_inputs TARGET
 kept_inputs() {
-    find "tests/fuzz/findings/$1" "tests/fuzz/corpus/$1" -type f 2>/dev/null | sort
+    find $(input_folders "$1") -type f | sort
     seeds_of "$1"
 }
 

@@ -222,6 +222,7 @@ const clsFuzzWords &words()
             "continuous", "even", "first", "default", "restart", "continue", "begin", "separate", "end", "rId1", "rId2",
             "rId3", "rId4", "rIdX1", "paragraph", "character", "table", "numbering", "Normal", "Strong", "a b", " ",
             "preserve", "F0FE", "Wingdings", "2147483647", "x", "\n", "\t"},
+        mdFuzzInsertFitting,
     };
     return words;
 }

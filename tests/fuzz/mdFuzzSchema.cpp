@@ -42,6 +42,13 @@ template <class List> bool has(const List &list, std::string_view name)
     return std::find(std::begin(list), std::end(list), name) != std::end(list);
 }
 
+const Element *elementOf(std::string_view name)
+{
+    const auto *found = std::find_if(
+        std::begin(Elements), std::end(Elements), [name](const Element &element) { return element.name == name; });
+    return found == std::end(Elements) ? nullptr : found;
+}
+
 bool fits(const pugi::xml_node &node, Names contents, const Element &element);
 
 /// A wrapper holds what its parent may hold; a control has its content in an element of its own.
@@ -63,9 +70,8 @@ bool childFits(const pugi::xml_node &child, Names contents)
         return false;
     if (has(Wrappers, name))
         return wrapperFits(child, contents);
-    const auto *own = std::find_if(
-        std::begin(Elements), std::end(Elements), [name](const Element &element) { return element.name == name; });
-    return own == std::end(Elements) || fits(child, own->contents, *own);
+    const Element *own = elementOf(name);
+    return !own || fits(child, own->contents, *own);
 }
 
 bool fits(const pugi::xml_node &node, Names contents, const Element &element)
@@ -85,12 +91,43 @@ bool fits(const pugi::xml_node &node, Names contents, const Element &element)
     return true;
 }
 
+/// Gives a new element the least that it needs; `contents` are what its parent may hold.
+void fill(pugi::xml_node node, Names contents)
+{
+    const std::string_view name = node.name();
+    if (has(Wrappers, name)) {
+        pugi::xml_node holder = name == "w:sdt" ? node.append_child("w:sdtContent") : node;
+        fill(holder.append_child(contents.front().data()), contents);
+    } else if (name == "w:t") {
+        node.text().set("{Name} x");
+    } else if (const Element *own = elementOf(name); own && name != "w:p") {
+        fill(node.append_child(own->contents.front().data()), own->contents);
+    }
+}
+
 } // namespace
 
 bool mdFuzzFitsSchema(const pugi::xml_node &container)
 {
-    const std::string_view name = container.name();
-    const auto *own = std::find_if(
-        std::begin(Elements), std::end(Elements), [name](const Element &element) { return element.name == name; });
-    return own != std::end(Elements) && fits(container, own->contents, *own);
+    const Element *own = elementOf(container.name());
+    return own && fits(container, own->contents, *own);
+}
+
+bool mdFuzzInsertFitting(pugi::xml_node parent, size_t random)
+{
+    // What has no parent of its own is the content of a body.
+    const Element *own = parent.type() == pugi::node_document ? &Elements[0] : elementOf(parent.name());
+    if (!own)
+        return false;
+    pugi::xml_node before;
+    for (pugi::xml_node child = parent.first_child(); child; child = child.next_sibling())
+        if (has(own->contents, child.name()) && (random = random * 31 + 7) % 2)
+            before = child;
+    const char *name = own->contents[random / 2 % own->contents.size()].data();
+    const pugi::xml_node end = own->end.empty() ? pugi::xml_node() : parent.child(own->end.data());
+    fill(before   ? parent.insert_child_before(name, before)
+            : end ? parent.insert_child_before(name, end)
+                  : parent.append_child(name),
+        own->contents);
+    return true;
 }

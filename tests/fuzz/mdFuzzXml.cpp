@@ -91,13 +91,34 @@ private:
     }
     void insert(xml_node node)
     {
+        constexpr size_t AnywhereOnceIn = 8;
+        if (m_words.insertFitting && below(AnywhereOnceIn)
+            && m_words.insertFitting(below(4) ? node : m_root, m_random()))
+            return;
         xml_node child = below(2) ? node.append_child(from(m_words.elements).c_str())
                                   : node.parent().insert_child_before(from(m_words.elements).c_str(), node);
         if (below(2))
             child.text().set(from(m_words.values).c_str());
     }
-    void copyElsewhere(xml_node node) { any().append_copy(node); }
-    void moveElsewhere(xml_node node) { any().append_move(node); } // refused where it would bear itself
+    /// Mostly one that has the name of the node's own parent, where the node fits.
+    xml_node anyParentFor(xml_node node)
+    {
+        constexpr int Attempts = 8;
+        for (int i = 0; i < Attempts; ++i)
+            if (const xml_node parent = any(); std::strcmp(parent.name(), node.parent().name()) == 0)
+                return parent;
+        return any();
+    }
+    void copyElsewhere(xml_node node)
+    {
+        xml_node parent = anyParentFor(node);
+        const xml_node place = parent.first_child();
+        if (place && below(2) == 0)
+            parent.insert_copy_before(node, place);
+        else
+            parent.append_copy(node);
+    }
+    void moveElsewhere(xml_node node) { anyParentFor(node).append_move(node); } // refused where it would bear itself
     void rename(xml_node node) { node.set_name(from(m_words.elements).c_str()); }
     void setAttribute(xml_node node)
     {

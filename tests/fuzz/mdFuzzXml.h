@@ -1,5 +1,7 @@
 #pragma once
 
+#include <pugixml.hpp>
+
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -13,6 +15,8 @@ struct clsFuzzWords {
     std::vector<std::string> elements;
     std::vector<std::string> attributes;
     std::vector<std::string> values;
+    /// Adds an element where it fits, for inputs of which the readers expect more than that they are XML.
+    bool (*insertFitting)(pugi::xml_node parent, size_t random) = nullptr;
 };
 
 /// A text with one change, at most `longest` bytes long: to the tree where it is XML (one root or several), and to its

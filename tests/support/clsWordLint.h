@@ -109,7 +109,8 @@ private:
             const std::string type = style.attribute("w:type").value();
             if (!m_styles.insert(style.attribute("w:styleId").value()).second)
                 problem(QStringLiteral("style id twice: ") + style.attribute("w:styleId").value());
-            if (!names.insert(type + WordXml::val(style.child("w:name"))).second)
+            // A style need not have a name.
+            if (style.child("w:name") && !names.insert(type + WordXml::val(style.child("w:name"))).second)
                 problem(QStringLiteral("style name twice: ") + WordXml::val(style.child("w:name")));
             if (style.attribute("w:default").as_bool() && !m_defaultStyles.insert(type).second)
                 problem(QStringLiteral("two default styles of type ") + QString::fromStdString(type));

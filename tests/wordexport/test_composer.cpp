@@ -319,6 +319,17 @@ TEST(JoinedLists, ADocumentWithoutListsGetsThemWithThePart)
     EXPECT_TRUE(join.part(QStringLiteral("word/numbering.xml")).contains(QStringLiteral("<w:num w:numId=\"1\">")));
 }
 
+TEST(JoinedLists, NumbersStayInTheRangeOfTheFormatWhateverTheDocumentBeginsWith)
+{
+    clsTestDocument first = withList(2147483647);
+    first.numbering.replace(QStringLiteral("numId=\"1\""), QStringLiteral("numId=\"2147483647\""))
+        .replace(QStringLiteral("abstractNumId=\"0\""), QStringLiteral("abstractNumId=\"2147483647\""))
+        .replace(QStringLiteral("abstractNumId w:val=\"0\""), QStringLiteral("abstractNumId w:val=\"2147483647\""));
+    const clsJoin join({first, withList()});
+    EXPECT_EQ(join.body().count(listed(2147483647)), 1);
+    EXPECT_EQ(join.body().count(listed(1)), 1);
+}
+
 TEST(JoinedLists, NoListStaysNoListAndANumberOfNoListBecomesNone)
 {
     const clsJoin join({sheet(QStringLiteral("a")), withList(0), withList(77)});

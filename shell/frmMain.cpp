@@ -347,7 +347,7 @@ void frmMain::ShowPreferences()
 
 void frmMain::CheckForBlank()
 {
-    CheckForBlankItems(*Form);
+    CheckForBlankItems();
 }
 
 void frmMain::UserGuide()

@@ -8,9 +8,7 @@ ZR3_VALIDATE=all looks at everything for every version.
 
 import json
 import os
-import shutil
 import subprocess
-import sys
 import unittest
 import zipfile
 from concurrent.futures import ThreadPoolExecutor

@@ -5,7 +5,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <vector>
 
 // What stands in a document, for the tests to read.
 

@@ -7,7 +7,6 @@
 #include <chrono>
 #include <csignal>
 #include <memory>
-#include <optional>
 #include <thread>
 #include <vector>
 

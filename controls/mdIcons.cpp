@@ -4,6 +4,7 @@
 
 #include <QIconEngine>
 #include <QPainter>
+#include <QPixmap>
 #include <QPainterPath>
 #include <QStringList>
 

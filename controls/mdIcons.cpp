@@ -4,8 +4,8 @@
 
 #include <QIconEngine>
 #include <QPainter>
-#include <QPixmap>
 #include <QPainterPath>
+#include <QPixmap>
 #include <QStringList>
 
 #include <array>

@@ -8,9 +8,7 @@ oldest and the newest, since each look takes seconds.  ZR3_VALIDATE=all looks at
 
 import json
 import os
-import shutil
 import subprocess
-import sys
 import unittest
 import zipfile
 from concurrent.futures import ThreadPoolExecutor

@@ -54,7 +54,7 @@ class Start(unittest.TestCase):
         user.write(user.preferences, FRESH.read_text())
         user.write(user.store, f"[General]\nDatabase%20Path={PREFIX}/lib/velmor-zr3/Databases\n")
         SCREEN.start_and_save(user, user.claim())
-        self.assertIn(str(user.databases).encode(), user.store.read_bytes())
+        self.assertIn(f"{user.home.name}/.local/share/Velmor/ZR3/Databases", user.store.read_text("utf-8"))
 
     def test_a_folder_for_all_users_is_used(self):
         user = User(FOLDER / "the trainee", PREFIX)

@@ -142,7 +142,11 @@ void mdFuzzAttack(const uint8_t *data, size_t size)
         rewrite(form);
     if (size % 4 == 1)
         enlarge(form);
-    attackRoundTrip(form, figures(form));
+    const QByteArray priced = figures(form);
+    // A flag that is none is met only now where the claim had no item that asks for it: the user has been told, and no
+    // longer has a claim that can be read.
+    if (!priced.isEmpty())
+        attackRoundTrip(form, priced);
 }
 
 extern "C" size_t LLVMFuzzerCustomMutator(uint8_t *data, size_t size, size_t longest, unsigned seed)

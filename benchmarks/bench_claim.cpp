@@ -10,7 +10,6 @@
 #include <benchmark/benchmark.h>
 
 #include <map>
-#include <memory>
 #include <string>
 
 namespace {

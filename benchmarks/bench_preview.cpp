@@ -4,6 +4,7 @@
 #include "controls/mdTheme.h"
 #include "formdata/clsZR3Form.h"
 #include "preview/mdExportPreview.h"
+#include "preview/mdPreview.h"
 #include "preview/oPreviewGrid.h"
 #include "preview/oPreviewSheet.h"
 #include "shell/mdGlobals.h"

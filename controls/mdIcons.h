@@ -2,7 +2,6 @@
 
 #include <QColor>
 #include <QIcon>
-#include <QPixmap>
 #include <QRectF>
 
 class QPainter;

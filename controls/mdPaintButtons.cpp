@@ -5,7 +5,6 @@
 #include "controls/oCustomButton.h"
 
 #include <QPainter>
-#include <QPainterPath>
 #include <QStyleOptionButton>
 
 namespace {

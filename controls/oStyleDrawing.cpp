@@ -3,7 +3,6 @@
 #include "controls/mdPaintControls.h"
 #include "controls/mdTheme.h"
 #include "controls/oGridView.h"
-#include "controls/oInputFilter.h"
 
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>

@@ -5,7 +5,6 @@
 #include "controls/oTabBarButton.h"
 
 #include <QAccessibleWidget>
-#include <QApplication>
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QScrollArea>

@@ -7,33 +7,32 @@ namespace {
 
 struct clsSection {
     const char *text; ///< of the tab, and the section's identity
-    const char *screen; ///< the window's name
     const clsScreen &(*table)();
 };
 
 // clang-format off
 constexpr clsSection Sections[] = {
-    {"Form Setup",                 "frmFormSetup",               ScreenFormSetup},
-    {"Fee Earners / Rates",        "frmFeeEarnerGroups",         ScreenFeeEarnerGroups},
-    {"Counsel",                    "frmCounsel",                 ScreenCounsel},
-    {"Enhancements",               "frmEnhancements",            ScreenEnhancements},
-    {"Schedule of Time",           "frmScheduleOfTime",          ScreenScheduleOfTime},
-    {"Disbursements",              "frmDisbursements",           ScreenDisbursements},
-    {"Family Advocacy Scheme",     "frmFamilyAdvocacyScheme",    ScreenFamilyAdvocacyScheme},
-    {"Communications",             "frmCommunications",          ScreenCommunications},
-    {"Client Details",             "frmClientDetails",           ScreenClientDetails},
-    {"Solicitor Details",          "frmSolicitorDetails",        ScreenSolicitorDetails},
-    {"Previous Advice",            "frmPreviousAdvice",          ScreenPreviousAdvice},
-    {"Case Information",           "frmCaseInformation",         ScreenCaseInformation},
-    {"Outcome of Case",            "frmOutcomeOfCase",           ScreenOutcomeOfCase},
-    {"Late Submission",            "frmLateSubmission",          ScreenLateSubmission},
-    {"Nature of Proceedings",      "frmNatureOfProceedings",     ScreenNatureOfProceedings},
-    {"Actual Costs",               "frmActualCostsIncurred",     ScreenActualCostsIncurred},
-    {"Details of Work",            "frmDetailsOfWork",           ScreenDetailsOfWork},
-    {"Counsel Outstanding Claims", "frmCounselOutstandingClaims", ScreenCounselOutstandingClaims},
-    {"Details of Monies Awarded",  "frmDetailsOfMonies",         ScreenDetailsOfMonies},
-    {"Details of Costs Awarded",   "frmDetailsOfCostsAwarded",   ScreenDetailsOfCostsAwarded},
-    {"Debtor's Details",           "frmDebtorsDetails",          ScreenDebtorsDetails},
+    {"Form Setup",                 ScreenFormSetup},
+    {"Fee Earners / Rates",        ScreenFeeEarnerGroups},
+    {"Counsel",                    ScreenCounsel},
+    {"Enhancements",               ScreenEnhancements},
+    {"Schedule of Time",           ScreenScheduleOfTime},
+    {"Disbursements",              ScreenDisbursements},
+    {"Family Advocacy Scheme",     ScreenFamilyAdvocacyScheme},
+    {"Communications",             ScreenCommunications},
+    {"Client Details",             ScreenClientDetails},
+    {"Solicitor Details",          ScreenSolicitorDetails},
+    {"Previous Advice",            ScreenPreviousAdvice},
+    {"Case Information",           ScreenCaseInformation},
+    {"Outcome of Case",            ScreenOutcomeOfCase},
+    {"Late Submission",            ScreenLateSubmission},
+    {"Nature of Proceedings",      ScreenNatureOfProceedings},
+    {"Actual Costs",               ScreenActualCostsIncurred},
+    {"Details of Work",            ScreenDetailsOfWork},
+    {"Counsel Outstanding Claims", ScreenCounselOutstandingClaims},
+    {"Details of Monies Awarded",  ScreenDetailsOfMonies},
+    {"Details of Costs Awarded",   ScreenDetailsOfCostsAwarded},
+    {"Debtor's Details",           ScreenDebtorsDetails},
 };
 // clang-format on
 
@@ -50,7 +49,7 @@ const clsSection *sectionOf(const QString &text)
 QDialog *mdCreateScreen(const QString &section, QWidget *parent)
 {
     const clsSection *row = sectionOf(section);
-    if (!row || !row->table)
+    if (!row)
         return nullptr;
     auto *screen = new frmSection(row->table(), parent);
     screen->Initialise();
@@ -60,7 +59,7 @@ QDialog *mdCreateScreen(const QString &section, QWidget *parent)
 QString mdScreenName(const QString &section)
 {
     const clsSection *row = sectionOf(section);
-    return row ? QString::fromUtf8(row->screen) : QString();
+    return row ? QString::fromUtf8(row->table().name) : QString();
 }
 
 QStringList mdSectionTexts()

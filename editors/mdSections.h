@@ -5,7 +5,6 @@
 
 class QDialog;
 class QWidget;
-struct clsScreen;
 
 /// The screen behind a text of the section tabs, filled and ready to be shown; it belongs to the caller. Nothing for a
 /// text that opens no screen. Each opening makes it anew, a list screen too: the one instance that other screens may

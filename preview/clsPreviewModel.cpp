@@ -16,8 +16,7 @@ int clsPreviewModel::columnCount(const QModelIndex &parent) const
 
 QVariant clsPreviewModel::data(const QModelIndex &index, int role) const
 {
-    // The key that copies asks for the current cell also where there is none.
-    if (!index.isValid() || !checkIndex(index))
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
     const clsPreviewCell &cell = cells.Cell(index.row() + 1, index.column() + 1);
     switch (role) {

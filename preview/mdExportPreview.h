@@ -1,7 +1,6 @@
 #pragma once
 
 #include "preview/clsPreviewCells.h"
-#include "preview/mdPreview.h"
 
 #include <QString>
 

@@ -34,7 +34,6 @@
 
 #include <QCloseEvent>
 #include <QDragEnterEvent>
-#include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
@@ -42,6 +41,7 @@
 #include <QScreen>
 #include <QScopedValueRollback>
 #include <QTimer>
+#include <QUrl>
 #include <QVBoxLayout>
 
 namespace {
@@ -347,7 +347,7 @@ void frmMain::ShowPreferences()
 
 void frmMain::CheckForBlank()
 {
-    CheckForBlankItems(*Form);
+    CheckForBlankItems();
 }
 
 void frmMain::UserGuide()

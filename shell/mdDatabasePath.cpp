@@ -7,6 +7,8 @@
 #include "shell/mdProgramFolder.h"
 #include "shell/mdRegistry.h"
 
+#include <QDir>
+
 namespace {
 
 QString registryName()
@@ -47,6 +49,12 @@ QString StoredDatabasePath()
 bool DatabasePathIsMissing()
 {
     return RegKeyIsMissing(registryName());
+}
+
+bool DatabasePathIsDefault()
+{
+    const QString stored = ReadRegKeyQuietly(registryName());
+    return !stored.isEmpty() && QDir(stored) == QDir(DefaultDatabasePath());
 }
 
 void SetDatabasePath(const QString &path)

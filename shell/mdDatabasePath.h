@@ -14,6 +14,9 @@ QString StoredDatabasePath();
 /// Whether it is certain that no database folder is stored, neither by the user nor for all users of the machine.
 bool DatabasePathIsMissing();
 
+/// Whether the folder that is stored is the default one, whatever way of writing it.
+bool DatabasePathIsDefault();
+
 /// Stores the database folder.
 void SetDatabasePath(const QString &path);
 

@@ -36,6 +36,13 @@ bool putPreferences(const QString &path)
     return true;
 }
 
+/// Going back to the default folder stores the one beside the program, also for a user who may not write there and
+/// could never save a preference in it.
+bool storedFolderIsOutOfReach()
+{
+    return DatabasePathIsDefault() && !QFileInfo(DefaultDatabasePath()).isWritable();
+}
+
 } // namespace
 
 QString OwnDatabasePath()
@@ -46,7 +53,7 @@ QString OwnDatabasePath()
 
 void GiveOwnDatabasePath()
 {
-    if (!DatabasePathIsMissing())
+    if (!DatabasePathIsMissing() && !storedFolderIsOutOfReach())
         return;
     const QString folder = OwnDatabasePath();
     if (makeFolder(folder) && putPreferences(folder + QStringLiteral("/Preferences Database.vzp")))

@@ -11,7 +11,7 @@
 #include <QDir>
 #include <QFile>
 
-#include <stdexcept>
+#include <exception>
 
 namespace {
 

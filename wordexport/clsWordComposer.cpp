@@ -5,6 +5,8 @@
 #include "wordexport/mdWordNamespaces.h"
 #include "wordexport/mdWordXml.h"
 
+#include <string_view>
+
 using pugi::xml_node;
 
 namespace {

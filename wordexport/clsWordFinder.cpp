@@ -1,7 +1,6 @@
 #include "wordexport/clsWordFinder.h"
 
 #include <QChar>
-#include <QList>
 
 namespace {
 

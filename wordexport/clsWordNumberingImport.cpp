@@ -5,7 +5,6 @@
 #include "wordexport/mdWordXml.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <vector>
 
 using pugi::xml_node;

@@ -1,5 +1,6 @@
 #include "wordexport/clsWordParagraph.h"
 
+#include "wordexport/mdWordRun.h"
 #include "wordexport/mdWordXml.h"
 
 #include <algorithm>
@@ -29,135 +30,6 @@ bool isInvisible(const xml_node &node)
             return true;
     return false;
 }
-
-// A text in several pieces (a comment or a CDATA section between them) becomes one piece.
-const char *wholeText(xml_node text)
-{
-    const xml_node first = text.first_child();
-    if (!first)
-        return "";
-    if (first.type() == pugi::node_pcdata && !first.next_sibling())
-        return first.value();
-    std::string whole;
-    for (const xml_node &piece : text.children())
-        if (piece.type() == pugi::node_pcdata || piece.type() == pugi::node_cdata)
-            whole += piece.value();
-    text.remove_children();
-    text.append_child(pugi::node_pcdata).set_value(whole.c_str());
-    return text.first_child().value();
-}
-
-void setText(xml_node text, const std::string &value)
-{
-    text.remove_children();
-    text.append_child(pugi::node_pcdata).set_value(value.c_str());
-    WordXml::setAttribute(text, "xml:space", "preserve");
-}
-
-void removeRunIfEmpty(xml_node run)
-{
-    for (const xml_node &child : run.children())
-        if (WordXml::isElement(child) && !WordXml::is(child, "w:rPr"))
-            return;
-    run.parent().remove_child(run);
-}
-
-bool sameTree(const xml_node &a, const xml_node &b)
-{
-    if (a.type() != b.type() || std::strcmp(a.name(), b.name()) != 0 || std::strcmp(a.value(), b.value()) != 0)
-        return false;
-    pugi::xml_attribute attributeA = a.first_attribute();
-    pugi::xml_attribute attributeB = b.first_attribute();
-    for (; attributeA && attributeB; attributeA = attributeA.next_attribute(), attributeB = attributeB.next_attribute())
-        if (std::strcmp(attributeA.name(), attributeB.name()) != 0
-            || std::strcmp(attributeA.value(), attributeB.value()) != 0)
-            return false;
-    if (attributeA || attributeB)
-        return false;
-    xml_node childA = a.first_child();
-    xml_node childB = b.first_child();
-    for (; childA && childB; childA = childA.next_sibling(), childB = childB.next_sibling())
-        if (!sameTree(childA, childB))
-            return false;
-    return !childA && !childB;
-}
-
-bool sameFormat(const xml_node &a, const xml_node &b)
-{
-    if (!a.first_child() && !b.first_child())
-        return true;
-    return a && b && sameTree(a, b);
-}
-
-void giveFormat(xml_node run, const xml_node &format)
-{
-    run.remove_child("w:rPr");
-    if (format.first_child())
-        run.prepend_copy(format);
-}
-
-// Writes typed text into a run, element by element.
-class clsTyper {
-public:
-    clsTyper(const xml_node &run, bool symbols)
-        : m_run(run)
-        , m_symbols(symbols)
-    { }
-
-    /// Returns how many positions the text takes.
-    int type(const QString &typed)
-    {
-        qsizetype plainFrom = 0;
-        for (qsizetype i = 0; i <= typed.size(); ++i) {
-            if (i < typed.size() && isPlain(typed[i]))
-                continue;
-            addText(QStringView(typed).mid(plainFrom, i - plainFrom));
-            if (i < typed.size())
-                addElement(typed[i].unicode());
-            plainFrom = i + 1;
-        }
-        return m_count;
-    }
-
-private:
-    bool isTick(QChar c) const { return m_symbols && (c == QChar(0xFE) || c == QChar(0xA8)); }
-    bool isPlain(QChar c) const { return c.unicode() >= 0x20 && !isTick(c); }
-
-    void addText(QStringView text)
-    {
-        if (text.isEmpty())
-            return;
-        std::string utf8 = text.toUtf8().toStdString();
-        m_count += int(utf8.size());
-        xml_node last = m_run.last_child();
-        if (WordXml::is(last, "w:t"))
-            setText(last, wholeText(last) + utf8);
-        else
-            setText(m_run.append_child("w:t"), utf8);
-    }
-
-    void addElement(char16_t c)
-    {
-        // The character itself, a letter in any other font, would show where that font is missing; the symbol
-        // element draws as a box in every word processor.
-        if (c == 0xFE || c == 0xA8) {
-            xml_node symbol = m_run.append_child("w:sym");
-            symbol.append_attribute("w:font") = "Wingdings";
-            symbol.append_attribute("w:char") = c == 0xFE ? "F0FE" : "F0A8";
-        } else if (c == u'\t') {
-            m_run.append_child("w:tab");
-        } else if (c == u'\f') {
-            m_run.append_child("w:br").append_attribute("w:type") = "page";
-        } else {
-            m_run.append_child("w:br");
-        }
-        ++m_count;
-    }
-
-    xml_node m_run;
-    bool m_symbols;
-    int m_count = 0;
-};
 
 } // namespace
 
@@ -211,7 +83,7 @@ void clsWordParagraph::addLeaf(const xml_node &run, const xml_node &node)
 {
     const int start = length();
     if (WordXml::is(node, "w:t"))
-        m_text += wholeText(node);
+        m_text += WordRun::textOf(node);
     else if (WordXml::is(node, "w:tab"))
         m_text += Tab;
     else if (WordXml::is(node, "w:br") || WordXml::is(node, "w:cr"))
@@ -259,7 +131,7 @@ int clsWordParagraph::type(int from, int to, const QString &typed, const xml_nod
         return from;
     }
     const xml_node run = runForTyping(from, to, format);
-    const int count = clsTyper(run, symbols).type(typed);
+    const int count = WordRun::type(run, typed, symbols);
     read();
     return from + count;
 }
@@ -276,15 +148,15 @@ xml_node clsWordParagraph::runForTyping(int from, int to, const xml_node &format
                 xml_node owner = leaf.run;
                 owner.remove_child(leaf.node);
                 if (owner != run)
-                    removeRunIfEmpty(owner);
+                    WordRun::removeIfEmpty(owner);
             }
-        giveFormat(run, format);
+        WordRun::giveFormat(run, format);
         return run;
     }
     splitRunAt(from);
     xml_node run;
     if (const Leaf *leaf = from > 0 ? leafEndingAt(from) : nullptr) {
-        if (sameFormat(leaf->run.child("w:rPr"), format) && leaf->run.last_child() == leaf->node)
+        if (WordRun::sameFormat(leaf->run.child("w:rPr"), format) && leaf->run.last_child() == leaf->node)
             return leaf->run;
         run = leaf->run.parent().insert_child_after("w:r", leaf->run);
     } else if (m_leaves.empty()) {
@@ -294,7 +166,7 @@ xml_node clsWordParagraph::runForTyping(int from, int to, const xml_node &format
     } else {
         run = m_paragraph.prepend_child("w:r");
     }
-    giveFormat(run, format);
+    WordRun::giveFormat(run, format);
     return run;
 }
 
@@ -320,11 +192,11 @@ xml_node clsWordParagraph::splitRunAt(int at)
     if (const xml_node format = run.child("w:rPr"))
         tail.append_copy(format);
     if (within) {
-        const std::string text = wholeText(leaf.node);
+        const std::string text = WordRun::textOf(leaf.node);
         const size_t cut = size_t(at - leaf.start);
-        setText(tail.append_child("w:t"), text.substr(cut));
+        WordRun::setText(tail.append_child("w:t"), text.substr(cut));
         firstMoved = leaf.node.next_sibling();
-        setText(leaf.node, text.substr(0, cut));
+        WordRun::setText(leaf.node, text.substr(0, cut));
     }
     while (firstMoved) {
         const xml_node next = firstMoved.next_sibling();
@@ -345,7 +217,7 @@ void clsWordParagraph::erase(int from, int to)
         if (leaf.start >= from && leaf.start + leaf.length <= to) {
             xml_node run = leaf.run;
             run.remove_child(leaf.node);
-            removeRunIfEmpty(run);
+            WordRun::removeIfEmpty(run);
         }
     read();
 }

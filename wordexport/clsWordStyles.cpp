@@ -3,6 +3,7 @@
 #include "wordexport/mdWordXml.h"
 
 #include <algorithm>
+#include <string_view>
 #include <vector>
 
 using pugi::xml_node;

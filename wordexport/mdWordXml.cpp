@@ -1,7 +1,6 @@
 #include "wordexport/mdWordXml.h"
 
 #include <algorithm>
-#include <array>
 #include <span>
 #include <utility>
 

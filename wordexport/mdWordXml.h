@@ -6,7 +6,6 @@
 
 #include <cstring>
 #include <string>
-#include <string_view>
 
 /// What every room of this layer needs to know about the XML of a document: how it is read and written, which
 /// elements only wrap others, and in which order the children of a property element stand.

@@ -180,8 +180,8 @@ def with_starts(made):
 
 
 def with_lead_ins(made):
-    """What says what a table holds stays with it, and a heading and its words with the picture of the screen."""
-    made = re.sub(r"<p>((?:(?!</p>).)*</p>\s*<table>)", r'<p class="lead-in">\1', made, flags=re.DOTALL)
+    """What says what a table or a listing holds stays with it, and a heading and its words with the picture of the screen."""
+    made = re.sub(r"<p>((?:(?!</p>).)*</p>\s*<(?:table|pre)\b)", r'<p class="lead-in">\1', made, flags=re.DOTALL)
     return re.sub(r"(</h[23]>\s*)<p>((?:(?!</p>).)*</p>\s*<figure>)", r'\1<p class="lead-in">\2', made, flags=re.DOTALL)
 
 

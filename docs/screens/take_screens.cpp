@@ -19,7 +19,6 @@
 #include "wordexport/frmExportToWord.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QTest>
 
 #include <cstdio>

@@ -1,13 +1,13 @@
 // The check for items that bill nothing.
 
 #include "costing/mdCheckForBlankItems.h"
-#include "tests/costing/clsTestClaim.h"
+#include "tests/costing/clsClaimTest.h"
 
 namespace {
 
 using Error = clsRunTimeError;
 
-class BlankItems : public testing::Test {
+class BlankItems : public clsClaimTest {
 protected:
     QString report()
     {
@@ -20,9 +20,6 @@ protected:
         EXPECT_FALSE(told.system);
         return told.text;
     }
-
-    clsTestClaim claim;
-    clsZR3Form &form = claim.form;
 };
 
 } // namespace

@@ -1,7 +1,7 @@
 // Letters and calls: the lines of the bill and their prices.
 
 #include "costing/mdGetCommsInfo.h"
-#include "tests/costing/clsTestClaim.h"
+#include "tests/costing/clsClaimTest.h"
 
 namespace {
 
@@ -10,7 +10,7 @@ using Kind = clsCommsKind;
 
 constexpr Kind AllKinds[] = {Kind::Calls, Kind::LettersIn, Kind::LettersOut};
 
-class Communications : public testing::Test {
+class Communications : public clsClaimTest {
 protected:
     /// A group with one fee earner that has so many of each kind.
     clsTestClaim::Group addGroupWith(int calls, int lettersIn, int lettersOut)
@@ -22,9 +22,6 @@ protected:
         feeEarner->LettersOut = lettersOut;
         return group;
     }
-
-    clsTestClaim claim;
-    clsZR3Form &form = claim.form;
 };
 
 } // namespace

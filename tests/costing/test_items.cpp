@@ -1,24 +1,15 @@
 // The items of the bill and what they price themselves at.
 
 #include "costing/mdScheduleOfTimeCodesCollection.h"
-#include "costing/mdUniqueIDInUseInForm.h"
-#include "tests/costing/clsTestClaim.h"
+#include "tests/costing/clsClaimTest.h"
 
 namespace {
 
 using Error = clsRunTimeError;
 
-class BillItems : public testing::Test {
-protected:
-    clsTestClaim claim;
-    clsZR3Form &form = claim.form;
-};
-
-using ScheduleItem = BillItems;
-using FeeEarners = BillItems;
-using FASItem = BillItems;
-using UniqueIDInUse = BillItems;
-using Codes = BillItems;
+using ScheduleItem = clsClaimTest;
+using FeeEarners = clsClaimTest;
+using FASItem = clsClaimTest;
 
 } // namespace
 
@@ -399,134 +390,4 @@ TEST_F(FASItem, ItsErrorsComeInTheOrderOfItsParts)
     EXPECT_EQ(Error::TypeMismatch, errorOf([&] { item->Total(); }));
     item->RateForUnits = "99999999999999999999"_q;
     EXPECT_EQ(Error::Overflow, errorOf([&] { item->Total(); }));
-}
-
-// Identities in use
-
-TEST_F(UniqueIDInUse, OwnIdentityAloneIsNoUse)
-{
-    const auto group = claim.addGroup();
-    EXPECT_FALSE(UniqueIDInUseInForm(form, group->UniqueID()));
-    claim.addFeeEarner(group);
-    EXPECT_TRUE(UniqueIDInUseInForm(form, group->UniqueID()));
-}
-
-TEST_F(UniqueIDInUse, EveryReferenceCounts)
-{
-    const auto group = claim.addGroup();
-    const auto feeEarner = claim.addFeeEarner(group);
-    const auto counsel = form.AddCounsel();
-    const auto enhancement = claim.addEnhancement("10");
-    EXPECT_FALSE(UniqueIDInUseInForm(form, feeEarner->UniqueID()));
-    EXPECT_FALSE(UniqueIDInUseInForm(form, counsel->UniqueID()));
-    EXPECT_FALSE(UniqueIDInUseInForm(form, enhancement->UniqueID()));
-
-    const auto item = claim.addItem(feeEarner, "01:00");
-    EXPECT_TRUE(UniqueIDInUseInForm(form, feeEarner->UniqueID()));
-
-    const auto disbursement = claim.addDisbursement("1", "0");
-    disbursement->CounselUniqueID = counsel->UniqueID();
-    EXPECT_TRUE(UniqueIDInUseInForm(form, counsel->UniqueID()));
-    disbursement->CounselUniqueID = form.AddCounsel()->UniqueID();
-    EXPECT_FALSE(UniqueIDInUseInForm(form, counsel->UniqueID()));
-
-    item->EnhancementUniqueID = enhancement->UniqueID();
-    EXPECT_TRUE(UniqueIDInUseInForm(form, enhancement->UniqueID()));
-    item->EnhancementUniqueID = QString();
-    EXPECT_FALSE(UniqueIDInUseInForm(form, enhancement->UniqueID()));
-    for (const char16_t *name :
-        {u"LettersOutEnhancementUniqueID", u"LettersInEnhancementUniqueID", u"CallsEnhancementUniqueID"}) {
-        form.Communications.field(name)->writeText(enhancement->UniqueID());
-        EXPECT_TRUE(UniqueIDInUseInForm(form, enhancement->UniqueID()));
-        form.Communications.field(name)->writeText(QString());
-    }
-}
-
-TEST_F(UniqueIDInUse, AnIdentityLeftInAFieldThatIsNotInUseStillCounts)
-{
-    const auto enhancement = claim.addEnhancement("10");
-    form.Communications.EnhanceCalls = false;
-    form.Communications.CallsEnhancementUniqueID = enhancement->UniqueID();
-    EXPECT_TRUE(UniqueIDInUseInForm(form, enhancement->UniqueID()));
-}
-
-TEST_F(UniqueIDInUse, SoDoesAnUnrelatedFieldWithThatWholeText)
-{
-    const auto group = claim.addGroup();
-    form.ClientDetails.Surname = "ID1 "_q;
-    EXPECT_FALSE(UniqueIDInUseInForm(form, group->UniqueID()));
-    form.ClientDetails.Surname = "id1"_q;
-    EXPECT_FALSE(UniqueIDInUseInForm(form, group->UniqueID()));
-    form.ClientDetails.Surname = "ID1"_q;
-    EXPECT_TRUE(UniqueIDInUseInForm(form, group->UniqueID()));
-}
-
-TEST_F(UniqueIDInUse, OneIdentityIsNoPartOfAnother)
-{
-    for (int n = 1; n <= 12; ++n)
-        form.AddCounsel();
-    EXPECT_FALSE(UniqueIDInUseInForm(form, "ID1"_q)); // ID10, ID11 and ID12 stand there too
-    EXPECT_FALSE(UniqueIDInUseInForm(form, "ID2"_q));
-    EXPECT_FALSE(UniqueIDInUseInForm(form, "ID99"_q));
-}
-
-// The activity codes
-
-TEST_F(Codes, AreThese32InThisOrder)
-{
-    const QStringList expected = {
-        "ACL"_q,
-        "ACO"_q,
-        "ACT"_q,
-        "AEX"_q,
-        "AOS"_q,
-        "AOT"_q,
-        "ASI"_q,
-        "ASO"_q,
-        "AWI"_q,
-        "DAF"_q,
-        "DAG"_q,
-        "DAN"_q,
-        "DAP"_q,
-        "DBL"_q,
-        "DCN"_q,
-        "DFL"_q,
-        "DIC"_q,
-        "DNO"_q,
-        "DOT"_q,
-        "DPL"_q,
-        "DST"_q,
-        "HDI"_q,
-        "HFN"_q,
-        "HIN"_q,
-        "HOT"_q,
-        "OOT"_q,
-        "RES"_q,
-        "REX"_q,
-        "RMD"_q,
-        "ROP"_q,
-        "ROT"_q,
-        "RWE"_q,
-    };
-    ASSERT_EQ(32, expected.size());
-    EXPECT_EQ(expected, mdScheduleOfTimeCodesCollection());
-}
-
-TEST_F(Codes, ACodeIsAcceptedInSilence)
-{
-    for (const QString &code : mdScheduleOfTimeCodesCollection())
-        EXPECT_TRUE(mdCheckScheduleOfTimeCode(code));
-    EXPECT_TRUE(claim.user.messages.empty());
-}
-
-TEST_F(Codes, AnythingElseIsToldAndRefused)
-{
-    for (const char *code : {"", "dot", "DO", "DOTT", "DOT ", "QQQ"}) {
-        claim.user.messages.clear();
-        EXPECT_FALSE(mdCheckScheduleOfTimeCode(QString::fromLatin1(code))) << code;
-        ASSERT_EQ(1u, claim.user.messages.size());
-        EXPECT_EQ("Invalid Code"_q, claim.user.messages[0].title);
-        EXPECT_EQ("The code entered is invalid"_q, claim.user.messages[0].text);
-        EXPECT_EQ(clsUserInterface::OKOnly, claim.user.messages[0].buttons);
-    }
 }

@@ -6,20 +6,15 @@
 #include "costing/mdGetDisbursementsTotals.h"
 #include "costing/mdGetFASTotals.h"
 #include "costing/mdPercentageCalculate.h"
-#include "tests/costing/clsTestClaim.h"
+#include "tests/costing/clsClaimTest.h"
 
 namespace {
 
 using Error = clsRunTimeError;
 
-class Totals : public testing::Test {
-protected:
-    clsTestClaim claim;
-    clsZR3Form &form = claim.form;
-};
-
-using CounselTotals = Totals;
-using FASTotals = Totals;
+using Totals = clsClaimTest;
+using CounselTotals = clsClaimTest;
+using FASTotals = clsClaimTest;
 
 } // namespace
 

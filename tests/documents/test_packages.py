@@ -15,7 +15,6 @@ WORK = None
 DOCUMENTS = {}
 W = "{http://schemas.openxmlformats.org/wordprocessingml/2006/main}"
 R = "{http://schemas.openxmlformats.org/officeDocument/2006/relationships}"
-RELS = "{http://schemas.openxmlformats.org/package/2006/relationships}"
 TYPES = "{http://schemas.openxmlformats.org/package/2006/content-types}"
 SPACE = "{http://www.w3.org/XML/1998/namespace}space"
 OFFICE_DOCUMENT = "http://schemas.openxmlformats.org/officeDocument/2006/relationships/officeDocument"

@@ -5,7 +5,6 @@ import re
 import subprocess
 import unittest
 from collections import Counter
-from pathlib import Path
 from urllib.parse import unquote_plus
 
 import claims

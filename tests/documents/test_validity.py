@@ -1,16 +1,14 @@
 #!/usr/bin/env python3
 """Every template and every finished document is valid.
 
-The templates, the fullest documents and the empty one are looked at for every office version that the validator knows;
-the other samples, which are made of the same sheets, for the oldest and the newest, since each look takes seconds.
-ZR3_VALIDATE=all looks at everything for every version.
+The claims with everything over and the empty ones, which together hold every sheet of both forms, are looked at for every
+office version that the validator knows; the rest, which is made of the same sheets, and the templates themselves for the
+oldest and the newest, since each look takes seconds.  ZR3_VALIDATE=all looks at everything for every version.
 """
 
 import json
 import os
-import shutil
 import subprocess
-import sys
 import unittest
 import zipfile
 from concurrent.futures import ThreadPoolExecutor
@@ -22,7 +20,7 @@ import support
 SCRIPT = Path(__file__).with_name("validate_documents.mjs")
 VERSIONS = 7
 OLDEST_AND_NEWEST = ("Office2007", "Microsoft365")
-IN_FULL = {"many-sheets", "full", "over", "empty", "many-sheets-1a", "full-1a", "over-1a", "empty-1a"}
+IN_FULL = {"over", "empty", "over-1a", "empty-1a"}
 WORK = None
 
 
@@ -80,7 +78,7 @@ class Validity(unittest.TestCase):
         self.assertNotEqual(findings([broken])[str(broken)], [])
 
     def test_templates(self):
-        self.check(support.templates())
+        self.check(support.templates(), lambda file: False)
 
     def test_finished_documents(self):
         documents = [support.export(support.SAMPLES / f"{name}.zr3", WORK / name) for name in support.ALL_SAMPLES]

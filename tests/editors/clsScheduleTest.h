@@ -29,8 +29,6 @@ protected:
     {
         return edit(ScreenScheduleOfTimeItemEdit(), item.get());
     }
-    /// The item that was made last.
-    static clsZR3ScheduleOfTimeItem &lastItem() { return *Form->ScheduleOfTimeItemsCollection().back(); }
     static size_t countItems() { return Form->ScheduleOfTimeItemsCollection().size(); }
 
     static oCheckBox &tick(const frmSection &screen, const char *name) { return screen.Box<oCheckBox>(name); }

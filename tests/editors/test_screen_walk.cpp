@@ -12,7 +12,6 @@
 #include <QAccessible>
 #include <QMenuBar>
 
-#include <set>
 
 // The keyboard on every screen.
 

@@ -18,7 +18,6 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <optional>
 
 /// The page templates as the build made them.
 inline const QString TestTemplates = QStringLiteral(ZR3_TEMPLATES);

@@ -9,8 +9,6 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
-#include <map>
-
 /// Writes down what an export sends to the word processor, sheet by sheet, in the form of the samples' sheets.json.
 /// A sheet file that is made twice stands once, as it was last made.
 class clsSheetRecorder final : public clsMSWordObserver {

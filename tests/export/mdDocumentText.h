@@ -5,8 +5,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <vector>
-
 // What stands in a document, for the tests to read.
 
 /// The main part's tree of a document on the disk.

@@ -2,7 +2,6 @@
 
 import ctypes
 import os
-import subprocess
 import unittest
 
 CLONE_NEWNS, CLONE_NEWUSER = 0x00020000, 0x10000000

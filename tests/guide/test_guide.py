@@ -174,6 +174,20 @@ class Sources(unittest.TestCase):
         for caption in captions:
             self.assertIn(f"| **{caption}** |", told)
 
+    def test_every_caption_is_told(self):
+        """Every field and question of every screen, by its name; what stands at every question is told once."""
+        quoted = r'(?:"(?:[^"\\]|\\.)*"\s*)+'
+        row = re.compile(r'\{(?:\.kind = )?(?:Text|Tick|Decimal|Integer|Date|Time|List|Other|Button|Question),\s*'
+                         rf'(?:\.control = )?"\w*",\s*(?:\.caption = )?({quoted})')
+        screens = [path.read_text(encoding="utf-8") for path in sorted((ROOT / "editors").glob("frm*.cpp"))]
+        captions = {"".join(scan.literals(caption)).rstrip("*").rstrip(":") for code in screens for caption in row.findall(code)}
+        captions -= {"Yes", "No", "%", "", *map(str, range(1, 14))}
+        self.assertGreater(len(captions), 150)
+        told = set(re.findall(r"\*\*(.+?)\*\*|(?<!\*)\*([^*\n]+?)\*(?!\*)|^(.+)\n: ", self.text, flags=re.MULTILINE))
+        told = {name.strip().rstrip(":") for names in told for whole in names for name in (whole, *whole.split(", "))}
+        for caption in sorted(captions):
+            self.assertIn(caption, told)
+
     def test_every_code_is_told(self):
         code = (ROOT / "costing/mdScheduleOfTimeCodesCollection.cpp").read_text(encoding="utf-8")
         codes = set(re.findall(r"\b[A-Z]{3}\b", " ".join(scan.literals(code))))
@@ -317,7 +331,7 @@ class Messages(unittest.TestCase):
         notes += [text for text in scan.literals(self.sources.files["editors/oSpellingNote.cpp"]) if " " in text]
         notes += [text for text in scan.literals(self.sources.files["editors/mdLoadMenuFromCollection.cpp"]) if " " in text]
         self.assertGreater(len(notes), 18)
-        told = [same(re.sub(r"\{.+?\}", "{}", row["words"]) + " " + row["means"]) for row in self.table["note"]]
+        told = [same(re.sub(r"\{.+?\}", "{}", row["words"])) for row in self.table["note"]]
         for note in notes:
             for piece in scan.pieces(note):
                 self.assertTrue(self.told([piece], told), f'the guide does not tell the note "{note}"')
@@ -376,6 +390,16 @@ class Example(unittest.TestCase):
         for amount in [*figures["ColumnClaimTotal"], figures["ScheduleTotal"], figures["CommsTotal"], figures["ProfitCostsTotal"]]:
             self.assertIn(f"*{float(amount):.2f}*", text)
         self.assertIn(f'*{float(figures["Summary"]["grandtotal"]):,.2f}*', text)
+
+    def test_load_from_bill_gives_what_the_second_claim_says(self):
+        text = (SOURCES / "04-claim-1a.md").read_text(encoding="utf-8")
+        before, after = self.totals("okafor"), self.totals("okafor-1a")
+        loaded = float(before["ProfitCostsTotal"]) - float(before["AdvocacyTotal"])
+        self.assertIn(f"*{loaded:.2f}* and *{loaded * 0.2:.2f}*", text)
+        # The hearing goes from the schedule when the scheme bills it: what is left is what the button gave before.
+        self.assertEqual(f"{loaded:.2f}", after["ProfitCostsTotal"])
+        plain = sum(float(item["BasicClaim"]) for item in after["ScheduleItems"]) + 44.55 + 11.85 + 8.20 + 24.30
+        self.assertIn(f"*{plain:.2f}* and *{plain * 0.2:.2f}*", text)
 
     def test_the_item_of_the_scheme(self):
         text = (SOURCES / "10-figures.md").read_text(encoding="utf-8")

@@ -52,9 +52,9 @@ def lock(folder, locked=True):
 
 
 def install(prefix):
-    """Installs into a folder, under the strictest mask: what others may read is not to hang on it."""
-    run("sh", "-c", 'umask 077; mkdir -p "$2"; chmod 755 "$2"; exec cmake --install "$1" --prefix "$2"', "--", BUILD,
-        prefix)
+    """Installs into a folder, made for it if need be, under the strictest mask: what others may read is not to hang on
+    it."""
+    run("sh", "-c", 'umask 077; exec cmake --install "$1" --prefix "$2"', "--", BUILD, prefix)
     return prefix
 
 

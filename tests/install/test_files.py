@@ -22,7 +22,7 @@ SIZES = (16, 22, 24, 32, 48, 64, 128, 256, 512)
 def setUpModule():
     global FOLDER, PREFIX, PROGRAM
     FOLDER = installed.work_folder()
-    PREFIX = installed.install(FOLDER / "the programs")
+    PREFIX = installed.install(FOLDER / "for all/the programs")
     PROGRAM = PREFIX / "lib/velmor-zr3"
 
 
@@ -34,16 +34,17 @@ class Files(unittest.TestCase):
     def test_the_program_folder_is_whole(self):
         expected = {Path(name) for name in ("velmor-zr3", "zr3tool", "Installed files.txt",
                                                "Databases/Preferences Database.vzp")}
-        for folder in ("Documentation", "Sounds", "Templates"):
+        for paper in ("User Guide", "Keyboard Shortcuts"):
+            expected.add(Path(f"Documentation/Velmor ZR3 {paper}.pdf"))
+        for folder in ("Sounds", "Templates"):
             expected |= built(folder)
         self.assertTrue(any(path.parts[0] == "Templates" for path in expected))
         self.assertEqual(expected, {path.relative_to(PROGRAM) for path in PROGRAM.rglob("*") if path.is_file()})
         self.assertTrue((PROGRAM / "Logs").is_dir())
-        self.assertTrue((PROGRAM / "Documentation").is_dir())
         self.assertEqual(FRESH.read_bytes(), (PROGRAM / "Databases/Preferences Database.vzp").read_bytes())
 
     def test_everybody_may_read_it_and_only_its_owner_write(self):
-        for path in [PREFIX, *PREFIX.rglob("*")]:
+        for path in [PREFIX.parent, *PREFIX.parent.rglob("*")]:
             if not path.is_symlink():
                 programs = path.is_dir() or path.parent == PREFIX / "bin" or path.name in ("velmor-zr3", "zr3tool")
                 self.assertEqual("755" if programs else "644", f"{path.stat().st_mode & 0o7777:o}", path)

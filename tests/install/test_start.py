@@ -49,6 +49,13 @@ class Start(unittest.TestCase):
         SCREEN.start_and_save(user, user.claim())
         self.assertFalse(user.databases.exists())
 
+    def test_who_went_back_to_the_programs_folder_is_given_their_own_again(self):
+        user = User(FOLDER / "the costs clerk", PREFIX)
+        user.write(user.preferences, FRESH.read_text())
+        user.write(user.store, f"[General]\nDatabase%20Path={PREFIX}/lib/velmor-zr3/Databases\n")
+        SCREEN.start_and_save(user, user.claim())
+        self.assertIn(f"{user.home.name}/.local/share/Velmor/ZR3/Databases", user.store.read_text("utf-8"))
+
     def test_a_folder_for_all_users_is_used(self):
         user = User(FOLDER / "the trainee", PREFIX)
         user.write(FOLDER / "firm/Preferences Database.vzp", FRESH.read_text())

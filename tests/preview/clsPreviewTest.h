@@ -2,6 +2,7 @@
 
 #include "formdata/clsZR3Form.h"
 #include "preview/mdExportPreview.h"
+#include "preview/mdPreview.h"
 #include "preview/oPreviewGrid.h"
 #include "preview/oPreviewSheet.h"
 #include "shell/mdGlobals.h"

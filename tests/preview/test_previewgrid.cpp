@@ -4,7 +4,6 @@
 #include "tests/preview/clsPreviewTest.h"
 
 #include <QAccessible>
-#include <QClipboard>
 #include <QFontMetrics>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -38,13 +37,6 @@ TEST_F(PreviewGridControl, PlacesOutsideItAreTheSubscriptError)
     }
     EXPECT_TRUE(grid().updatesEnabled()); // an error leaves painting on
     EXPECT_EQ(QStringLiteral("x"), grid().Text(1, 1));
-}
-
-TEST_F(PreviewGridControl, TheKeyThatCopiesCopiesNothingWhereNothingIsDrawn)
-{
-    QGuiApplication::clipboard()->setText(QStringLiteral("before"));
-    QTest::keyClick(&grid(), Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(QStringLiteral("before"), QGuiApplication::clipboard()->text());
 }
 
 TEST_F(PreviewGridControl, AChangeWithPaintingOnIsSeenAtOnce)

@@ -2,6 +2,9 @@
 #include "shell/mdGetResourceData.h"
 #include "shell/mdOwnDatabasePath.h"
 #include "tests/shell/clsShellTest.h"
+#include "tests/support/mdOrdinaryUser.h"
+
+#include <QDirIterator>
 
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -30,6 +33,19 @@ protected:
     static QByteArray fresh()
     {
         return GetResourceData(QStringLiteral("xmlZR3PreferencesDatabase"), QStringLiteral("VELMORZR3XML")).toLatin1();
+    }
+    /// Gives the whole place of the test to the ordinary user, who may not write in this folder of it.
+    void everythingIsTheUsersBut(const QString &readOnly) const
+    {
+        ASSERT_EQ(0, ::chmod(QFile::encodeName(readOnly).constData(), 0555));
+        if (::geteuid() != 0)
+            return;
+        QStringList all {folder.path()};
+        for (QDirIterator each(folder.path(), QDir::AllEntries | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+             each.hasNext();)
+            all << each.next();
+        for (const QString &one : all)
+            ASSERT_EQ(0, ::chown(QFile::encodeName(one).constData(), OrdinaryUser, OrdinaryUser));
     }
     /// A user with a stored folder keeps it, and gets none.
     void expectNothingGiven(const QString &storeInForce, const QByteArray &content)
@@ -94,6 +110,40 @@ TEST_F(OwnDatabasePathTest, AFolderForAllUsersIsTheAdministratorsToChange)
     make(QStringLiteral("machine/Velmor"));
     expectNothingGiven(path("machine/Velmor/ZR3.conf"), "[General]\nDatabase%20Path=/srv/firm\n");
     EXPECT_FALSE(exists(store));
+}
+
+TEST_F(OwnDatabasePathTest, TheFolderBesideTheProgramIsKeptByWhoMayWriteIt)
+{
+    make(QStringLiteral("config/Velmor"));
+    make(QStringLiteral("program/Databases"));
+    expectNothingGiven(store, "[General]\nDatabase%20Path=" + path("program/Databases").toUtf8() + '\n');
+}
+
+TEST_F(OwnDatabasePathTest, AfterAResetWhoMayNotWriteTheProgramsFolderIsGivenTheirOwnAgain)
+{
+    make(QStringLiteral("config/Velmor"));
+    make(QStringLiteral("program/Databases"));
+    make(QStringLiteral("data/Velmor/ZR3/Databases"));
+    put(preferences, "mine");
+    for (const char *writing : {"program/Databases", "program/Databases/", "program/../program/Databases"}) {
+        put(store, "[General]\nDatabase%20Path=" + path(writing).toUtf8() + '\n');
+        everythingIsTheUsersBut(path("program/Databases"));
+        EXPECT_EQ(0, resultAsOrdinaryUser([this] {
+            GiveOwnDatabasePath();
+            return int(user.messages.size());
+        }));
+        EXPECT_EQ(own, GetDatabasePath()) << writing;
+        EXPECT_EQ(QByteArray("mine"), bytesOf(preferences));
+    }
+}
+
+TEST_F(OwnDatabasePathTest, AProgramsFolderThatHasGoneIsReplaced)
+{
+    make(QStringLiteral("config/Velmor"));
+    put(store, "[General]\nDatabase%20Path=" + path("program/Databases").toUtf8() + '\n');
+    GiveOwnDatabasePath();
+    EXPECT_EQ(own, GetDatabasePath());
+    EXPECT_EQ(fresh(), bytesOf(preferences));
 }
 
 TEST_F(OwnDatabasePathTest, AStoreThatCanNotBeReadIsNotTouched)

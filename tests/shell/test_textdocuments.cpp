@@ -1,18 +1,17 @@
+// A claim's file read and written, and what a failure or an end at any step leaves of it.
+
 #include "shell/mdCodePage.h"
 #include "shell/mdTextDocumentHandling.h"
-#include "tests/shell/clsShellTest.h"
-#include "tests/support/mdExpectError.h"
+#include "tests/shell/clsTextDocumentsTest.h"
 
 #include <cerrno>
 #include <chrono>
 #include <csignal>
 #include <memory>
-#include <optional>
 #include <thread>
 #include <vector>
 
 #include <sys/resource.h>
-#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -22,39 +21,6 @@ struct Step {
     clsFileStep step;
     QString path;
     bool operator==(const Step &) const = default;
-};
-
-QString readBox(const QString &path, const char *error)
-{
-    return QStringLiteral("There was a problem reading the following path:\r\n\r\n") + path
-        + QStringLiteral("\r\n\r\nThe error reported is:\r\n\r\n") + QString::fromUtf8(error);
-}
-
-QString writeBox(const QString &path, const char *error)
-{
-    return QStringLiteral("There was a problem writing to the following path:\r\n\r\n") + path
-        + QStringLiteral("\r\n\r\nThe error reported is:\r\n\r\n") + QString::fromUtf8(error);
-}
-
-/// As an ordinary user, where the tests run as the administrator, whom no permission stops.
-class clsOrdinaryUser {
-public:
-    clsOrdinaryUser()
-        : m_was(::geteuid())
-    {
-        if (m_was == 0)
-            m_is = ::seteuid(65534) == 0;
-    }
-    ~clsOrdinaryUser()
-    {
-        if (m_was == 0)
-            m_is = ::seteuid(0) == 0;
-    }
-    bool is() const { return m_is; }
-
-private:
-    uid_t m_was;
-    bool m_is = true;
 };
 
 /// The kernel itself refuses to let a file grow beyond so many bytes, first with a short write, then with an error.
@@ -78,23 +44,10 @@ private:
     rlimit m_before = {};
 };
 
-mode_t modeOf(const QString &path)
-{
-    struct stat status = {};
-    return ::lstat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 0777 : 0;
-}
-
 } // namespace
 
-class TextDocuments : public clsShellTest {
+class TextDocuments : public clsTextDocumentsTest {
 protected:
-    void SetUp() override
-    {
-        clsShellTest::SetUp();
-        claim = path("claim.zr3");
-        side = path("claim.zr3a");
-    }
-
     /// The steps of writing `next` over the file as it stands.
     std::vector<Step> stepsOfWriting(const QString &text)
     {
@@ -116,19 +69,6 @@ protected:
             fault.atMost = 4;
         return fault;
     }
-
-    void startWith(const QByteArray &content)
-    {
-        QFile::remove(side);
-        QFile::remove(claim);
-        put(claim, content);
-        user.messages.clear();
-    }
-
-    const QByteArray old = QByteArrayLiteral("the old claim\r\n");
-    const QString next = QStringLiteral("the new claim");
-    QString claim;
-    QString side;
 };
 
 TEST_F(TextDocuments, ComeBackByteForByte)
@@ -433,219 +373,4 @@ TEST_F(TextDocuments, AFailedReadShowsItsBoxAndReadsAsEmpty)
         EXPECT_EQ(QString(), ReadTextDocument(claim, false));
         expectOneBox("File Not Read", readBox(claim, "70 - Permission denied"));
     }
-}
-
-TEST_F(TextDocuments, AMissingFileIsNotFound)
-{
-    EXPECT_EQ(QString(), ReadTextDocument(claim, false));
-    expectOneBox("File Not Read", readBox(claim, "53 - File not found"));
-}
-
-TEST_F(TextDocuments, AMissingFolderIsAPathNotFound)
-{
-    const QString lost = path("nowhere/claim.zr3");
-    ReadTextDocument(lost, false);
-    expectOneBox("File Not Read", readBox(lost, "76 - Path not found"));
-    user.messages.clear();
-    WriteTextDocument(next, lost, false);
-    expectOneBox("File Not Saved", writeBox(lost, "76 - Path not found"));
-}
-
-TEST_F(TextDocuments, APathThatSystemsWordsCouldBeTakenForIsShownAsItStands)
-{
-    const QString odd = path("%1 %2 %n.zr3");
-    ReadTextDocument(odd, false);
-    expectOneBox("File Not Read", readBox(odd, "53 - File not found"));
-}
-
-TEST_F(TextDocuments, APathWithANullCharacterNamesNoFile)
-{
-    startWith(old);
-    const QString cut = claim + QChar(u'\0') + QStringLiteral("more");
-    EXPECT_EQ(QString(), ReadTextDocument(cut, false));
-    expectOneBox("File Not Read", readBox(cut, "52 - Bad file name or number"));
-    user.messages.clear();
-    WriteTextDocument(next, cut, false);
-    expectOneBox("File Not Saved", writeBox(cut, "52 - Bad file name or number"));
-    EXPECT_EQ(old, bytesOf(claim));
-}
-
-TEST_F(TextDocuments, OnlyARegularFileIsRead)
-{
-    const QString pipe = path("pipe");
-    ASSERT_EQ(0, ::mkfifo(QFile::encodeName(pipe).constData(), 0600));
-    for (const QString &odd : {pipe, folder.path(), QStringLiteral("/dev/zero")}) {
-        user.messages.clear();
-        EXPECT_EQ(QString(), ReadTextDocument(odd, false));
-        expectOneBox("File Not Read", readBox(odd, "75 - Path/File access error"));
-    }
-}
-
-TEST_F(TextDocuments, OnlyARegularFileIsWritten)
-{
-    const QString pipe = path("pipe");
-    ASSERT_EQ(0, ::mkfifo(QFile::encodeName(pipe).constData(), 0600));
-    for (const QString &odd : {pipe, folder.path(), QStringLiteral("/dev/full")}) {
-        user.messages.clear();
-        WriteTextDocument(next, odd, false);
-        expectOneBox("File Not Saved", writeBox(odd, "75 - Path/File access error"));
-        EXPECT_FALSE(exists(odd + u'a'));
-    }
-}
-
-TEST_F(TextDocuments, AFolderUnderTheSideNameStopsTheWriteBeforeTheFileIsTouched)
-{
-    startWith(old);
-    make(QStringLiteral("claim.zr3a"));
-    WriteTextDocument(next, claim, false);
-    expectOneBox("File Not Saved", writeBox(claim, "75 - Path/File access error"));
-    EXPECT_EQ(old, bytesOf(claim));
-}
-
-TEST_F(TextDocuments, ASideFileThatIsALinkToTheFileDoesNotDestroyIt)
-{
-    for (const bool hard : {false, true}) {
-        startWith(old);
-        const QByteArray from = QFile::encodeName(claim);
-        const QByteArray to = QFile::encodeName(side);
-        ASSERT_EQ(0, hard ? ::link(from.constData(), to.constData()) : ::symlink(from.constData(), to.constData()));
-        QByteArray during;
-        FileSystem().faultPoint = [&](clsFileStep step, const QString &) {
-            if (step == clsFileStep::Write)
-                during = bytesOf(side);
-            return clsFileFault();
-        };
-        WriteTextDocument(next, claim, false);
-        FileSystem().faultPoint = nullptr;
-        EXPECT_EQ(old, during);
-        EXPECT_EQ(QByteArray("the new claim"), bytesOf(claim));
-        EXPECT_FALSE(exists(side));
-        EXPECT_TRUE(user.messages.empty());
-    }
-}
-
-TEST_F(TextDocuments, ALinkIsFollowedAndKept)
-{
-    make(QStringLiteral("elsewhere"));
-    const QString real = path("elsewhere/real.zr3");
-    put(real, old);
-    ASSERT_EQ(0, ::symlink("elsewhere/real.zr3", QFile::encodeName(claim).constData()));
-    WriteTextDocument(next, claim, false);
-    EXPECT_TRUE(QFileInfo(claim).isSymLink());
-    EXPECT_EQ(QByteArray("the new claim"), bytesOf(real));
-    EXPECT_EQ(next, ReadTextDocument(claim, false));
-    EXPECT_FALSE(exists(side));
-    EXPECT_EQ(QStringList {QStringLiteral("real.zr3")}, QDir(path("elsewhere")).entryList(QDir::Files));
-}
-
-TEST_F(TextDocuments, TheFolderBehindALinkIsFlushed)
-{
-    make(QStringLiteral("elsewhere"));
-    put(path("elsewhere/real.zr3"), old);
-    ASSERT_EQ(0, ::symlink("elsewhere/real.zr3", QFile::encodeName(claim).constData()));
-    QStringList flushed;
-    FileSystem().faultPoint = [&](clsFileStep step, const QString &at) {
-        if (step == clsFileStep::SyncFolder)
-            flushed << QFileInfo(at).fileName();
-        return clsFileFault();
-    };
-    WriteTextDocument(next, claim, false);
-    EXPECT_EQ((QStringList {QFileInfo(folder.path()).fileName(), QStringLiteral("elsewhere")}), flushed);
-}
-
-TEST_F(TextDocuments, ANewFileIsReadableByItsOwnerOnly)
-{
-    const mode_t before = ::umask(0);
-    WriteTextDocument(next, claim, false);
-    ::umask(before);
-    EXPECT_EQ(mode_t(0600), modeOf(claim));
-}
-
-TEST_F(TextDocuments, PermissionsAreKeptAndTheSideFileHasThemToo)
-{
-    startWith(old);
-    ASSERT_EQ(0, ::chmod(QFile::encodeName(claim).constData(), 0640));
-    mode_t sideMode = 0;
-    FileSystem().faultPoint = [&](clsFileStep step, const QString &) {
-        if (step == clsFileStep::Truncate)
-            sideMode = modeOf(side);
-        return clsFileFault();
-    };
-    WriteTextDocument(next, claim, false);
-    EXPECT_EQ(mode_t(0640), modeOf(claim));
-    EXPECT_EQ(mode_t(0640), sideMode);
-}
-
-TEST_F(TextDocuments, AReadOnlyFileKeepsItsContent)
-{
-    startWith(old);
-    ASSERT_EQ(0, ::chmod(QFile::encodeName(claim).constData(), 0444));
-    ASSERT_EQ(0, ::chmod(QFile::encodeName(folder.path()).constData(), 0777));
-    {
-        const clsOrdinaryUser ordinary;
-        ASSERT_TRUE(ordinary.is());
-        WriteTextDocument(next, claim, false);
-    }
-    expectOneBox("File Not Saved", writeBox(claim, "70 - Permission denied"));
-    EXPECT_EQ(old, bytesOf(claim));
-}
-
-TEST_F(TextDocuments, AReadOnlyFolderKeepsItsFile)
-{
-    startWith(old);
-    ASSERT_EQ(0, ::chmod(QFile::encodeName(claim).constData(), 0666));
-    ASSERT_EQ(0, ::chmod(QFile::encodeName(folder.path()).constData(), 0555));
-    {
-        const clsOrdinaryUser ordinary;
-        ASSERT_TRUE(ordinary.is());
-        WriteTextDocument(next, claim, false);
-    }
-    ASSERT_EQ(0, ::chmod(QFile::encodeName(folder.path()).constData(), 0755));
-    expectOneBox("File Not Saved", writeBox(claim, "70 - Permission denied"));
-    EXPECT_EQ(old, bytesOf(claim));
-}
-
-TEST_F(TextDocuments, AnUnreadableFileIsPermissionDenied)
-{
-    startWith(old);
-    ASSERT_EQ(0, ::chmod(QFile::encodeName(claim).constData(), 0000));
-    ASSERT_EQ(0, ::chmod(QFile::encodeName(folder.path()).constData(), 0755));
-    {
-        const clsOrdinaryUser ordinary;
-        ASSERT_TRUE(ordinary.is());
-        EXPECT_EQ(QString(), ReadTextDocument(claim, false));
-    }
-    expectOneBox("File Not Read", readBox(claim, "70 - Permission denied"));
-}
-
-TEST_F(TextDocuments, AFileTooLargeForAnyClaimIsNotReadIntoMemory)
-{
-    startWith(old);
-    ASSERT_TRUE(QFile::resize(claim, 512 * 1024 * 1024 + 1)); // a hole, which takes no room on the disk
-    EXPECT_EQ(QString(), ReadTextDocument(claim, false));
-    expectOneBox("File Not Read", readBox(claim, "7 - Out of memory"));
-}
-
-TEST_F(TextDocuments, AFileSystemThatCanNotTellWhetherAFileExistsIsNotTakenForANo)
-{
-    startWith(old);
-    FileSystem().faultPoint = [](clsFileStep step, const QString &) {
-        return step == clsFileStep::Inspect ? clsFileFault {EIO} : clsFileFault();
-    };
-    EXPECT_EQ(clsRunTimeError::DeviceError, errorOf([&] { FileSystem().FileExists(claim); }));
-    WriteTextDocument(next, claim, false);
-    EXPECT_EQ(old, bytesOf(claim));
-}
-
-TEST_F(TextDocuments, FoldersAreNoFiles)
-{
-    startWith(old);
-    EXPECT_TRUE(FileSystem().FileExists(claim));
-    EXPECT_FALSE(FileSystem().FileExists(side));
-    EXPECT_FALSE(FileSystem().FileExists(folder.path()));
-    EXPECT_FALSE(FileSystem().FileExists(claim + QStringLiteral("/below")));
-    EXPECT_TRUE(FileSystem().FolderExists(folder.path()));
-    EXPECT_FALSE(FileSystem().FolderExists(claim));
-    EXPECT_FALSE(FileSystem().FolderExists(path("nowhere")));
-    EXPECT_FALSE(FileSystem().FolderExists(QString()));
 }

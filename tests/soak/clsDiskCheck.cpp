@@ -22,6 +22,20 @@ QList<QByteArray> figuresOf(const clsZR3Form &form)
     return lines;
 }
 
+/// The same of the claim that is being written. Totalling writes 0 into an empty VAT of an advocacy item, which is
+/// meant, but between a claim's text and its file it would be a change that nobody made.
+QList<QByteArray> figuresWhileWriting(const clsZR3Form &form)
+{
+    std::vector<std::shared_ptr<clsZR3FASItem>> empty;
+    for (const auto &item : form.FASItemsCollection())
+        if (item->VATForFAS.isEmpty())
+            empty.push_back(item);
+    const QList<QByteArray> figures = figuresOf(form);
+    for (const auto &item : empty)
+        item->VATForFAS = QString();
+    return figures;
+}
+
 } // namespace
 
 void clsDiskCheck::begin()
@@ -45,7 +59,7 @@ void clsDiskCheck::aboutToWrite(const QString &path)
     // A file is written in several steps.
     if (!m_saved.empty() && m_saved.back().path == path)
         m_saved.pop_back();
-    m_saved.push_back({path, Form->XMLOutput(), figuresOf(*Form)});
+    m_saved.push_back({path, Form->XMLOutput(), figuresWhileWriting(*Form)});
 }
 
 void clsDiskCheck::exported()

@@ -29,7 +29,10 @@ namespace {
 constexpr unsigned SecondsOfAnAction = 300;
 constexpr qint64 MillisecondsForTheKeys = 20000;
 constexpr int AnswersOfABox = 12;
-constexpr int ActionsBetweenRests = 200;
+/// Often enough for a trend, also in a short walk, and seldom enough for a claim to become something in between.
+constexpr int Rests = 15;
+constexpr int FewestBetweenRests = 50;
+constexpr int MostBetweenRests = 200;
 constexpr int TriesToRest = 60;
 
 bool isBox(const QWidget &window)
@@ -43,7 +46,8 @@ clsSoak::clsSoak(const clsSoakOptions &options)
     : m_options(options)
     , m_dice(options.seed)
     , m_trail(options.tellsAll)
-    , m_restAt(ActionsBetweenRests)
+    , m_betweenRests(qBound(FewestBetweenRests, options.actions / Rests, MostBetweenRests))
+    , m_restAt(m_betweenRests)
 { }
 
 int clsSoak::run()
@@ -267,7 +271,7 @@ void clsSoak::measure(QWidget &window)
                      .arg(point.windows));
     m_resting = false;
     m_triesToRest = 0;
-    m_restAt = m_trail.actions() + ActionsBetweenRests;
+    m_restAt = m_trail.actions() + m_betweenRests;
     if (m_trail.actions() >= m_options.actions)
         oApplication::instance()->end(0);
 }

@@ -65,6 +65,7 @@ private:
     QElapsedTimer m_waiting;
     QPointer<QWidget> m_box;
     int m_answers = 0; ///< to the same box
+    const int m_betweenRests; ///< actions
     int m_restAt;
     int m_triesToRest = 0;
     bool m_resting = false;

@@ -1,5 +1,6 @@
 #include "tests/soak/mdActions.h"
 
+#include "controls/oSGrid.h"
 #include "tests/soak/mdFieldActions.h"
 #include "tests/soak/mdWindowActions.h"
 
@@ -24,6 +25,21 @@ constexpr clsSoakAction OnSections[] = {
     {"save",           2, mdSaveFromScreen},
     {"leave",          5, mdLeaveScreen},
     {"click below",    1, mdClickBelow},
+};
+constexpr clsSoakAction OnLists[] = {
+    {"grid by keys",  34, mdUseGridByKeys},
+    {"grid by mouse", 20, mdUseGridByMouse},
+    {"click",         16, mdClickButton},
+    {"page",           8, mdOpenPage},
+    {"type",           4, mdTypeIntoField},
+    {"choose",         2, mdUseList},
+    {"grid heading",   2, mdSortGrid},
+    {"keys",           6, mdPressKeys},
+    {"wheel",          2, mdTurnWheel},
+    {"menu",           2, mdOpenMenu},
+    {"resize",         1, mdResize},
+    {"save",           3, mdSaveFromScreen},
+    {"leave",          4, mdLeaveScreen},
 };
 constexpr clsSoakAction OnMain[] = {
     {"tab",           42, mdClickTab},
@@ -54,7 +70,7 @@ std::span<const clsSoakAction> mdActionsFor(const QWidget &front)
     if (front.windowType() == Qt::Popup)
         return OnPopups;
     if (front.inherits("frmSection"))
-        return OnSections;
+        return front.findChild<oSGrid *>() ? std::span<const clsSoakAction>(OnLists) : OnSections;
     if (front.inherits("frmExportToWord"))
         return OnExport;
     if (front.inherits("frmMain"))

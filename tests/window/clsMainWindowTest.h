@@ -5,6 +5,7 @@
 #include "controls/oTabBar.h"
 #include "controls/oTabBarButton.h"
 #include "shell/frmMain.h"
+#include "shell/mdFileHandling.h"
 #include "tests/window/clsWindowTest.h"
 
 /// A test of the main window.
@@ -24,6 +25,16 @@ protected:
         window->setWindowState(Qt::WindowNoState);
         window->resize(1200, 760);
         show(*window);
+    }
+
+    /// A claim as this program saved it.
+    QString savedClaim()
+    {
+        const QString claim = sample("empty.zr3");
+        start(claim);
+        entry("mnuSave").trigger();
+        EXPECT_FALSE(FormIsDirty());
+        return claim;
     }
 
     QString header() const { return control<oHeaderBar>(*window, "oHeader").Caption(); }

@@ -32,6 +32,10 @@ TEST_F(Program, BeginsWithANewClaimAndEndsWhenItsWindowIsClosed)
             return false;
         EXPECT_EQ(QStringLiteral("New ZR3 File"), header());
         EXPECT_TRUE(topLevel<frmMain>()->windowState().testFlag(Qt::WindowMaximized));
+        QList<int> icons;
+        for (const QSize &size : topLevel<frmMain>()->windowIcon().availableSizes())
+            icons << size.width();
+        EXPECT_EQ((QList {16, 22, 24, 32, 48, 64, 128, 256}), icons);
         topLevel<frmMain>()->close();
         return true;
     }));

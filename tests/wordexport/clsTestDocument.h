@@ -151,9 +151,10 @@ inline QString bodyXml(const QString &path)
     return innerXml(package.partXml(package.mainPart()).document_element().child("w:body"));
 }
 
-/// Opens a document with that body, lets the test work on it, saves it and returns the body as it is then.
-/// Whatever was done to it, the result is a sound document.
-inline QString afterEditing(const clsTestDocument &document, const std::function<void(clsMSWord &)> &edit)
+/// Opens a document, lets the test work on it, saves it and returns what is read from it then. Whatever was done to it,
+/// the result is a sound document.
+inline QString afterEditing(const clsTestDocument &document, const std::function<void(clsMSWord &)> &edit,
+    QString (*read)(const QString &path) = bodyXml)
 {
     const clsTestFolder folder;
     const QString path = folder.write(QStringLiteral("Sheet.doc"), document);
@@ -162,7 +163,7 @@ inline QString afterEditing(const clsTestDocument &document, const std::function
     edit(word);
     word.SaveAndClose();
     EXPECT_EQ(clsWordLint::problemsOf(path), QStringList());
-    return bodyXml(path);
+    return read(path);
 }
 
 /// The text of a body: paragraphs end with "/", cells are parted by "|", rows by "||"; breaks within a paragraph
@@ -197,14 +198,7 @@ inline QString plain(const QString &path)
 
 inline QString plainAfterEditing(const clsTestDocument &document, const std::function<void(clsMSWord &)> &edit)
 {
-    const clsTestFolder folder;
-    const QString path = folder.write(QStringLiteral("Sheet.doc"), document);
-    clsMSWord word;
-    word.OpenDocument(path);
-    edit(word);
-    word.SaveAndClose();
-    EXPECT_EQ(clsWordLint::problemsOf(path), QStringList());
-    return plain(path);
+    return afterEditing(document, edit, plain);
 }
 
 // Shorthand of the bodies.

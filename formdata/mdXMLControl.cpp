@@ -4,7 +4,6 @@
 #include "formdata/mdXMLReplaceProblemCharacters.h"
 #include "shell/mdCodePage.h"
 
-#include <algorithm>
 #include <cstring>
 #include <string>
 #include <utility>
@@ -40,13 +39,19 @@ bool hasContentBesideRoot(const pugi::xml_document &document, pugi::xml_node roo
     return false;
 }
 
+bool isBlank(const char *text)
+{
+    // Hardly any text begins with a blank, and all of a claim's are asked.
+    return static_cast<unsigned char>(*text) <= ' ' && text[std::strspn(text, " \t\r\n")] == '\0';
+}
+
 /// Walks a tree that is neither too deep nor too large, and finds the texts of nothing but blanks.
 class TreeCheck final : public pugi::xml_tree_walker {
 public:
     std::vector<pugi::xml_node> blanks;
     bool for_each(pugi::xml_node &node) override
     {
-        if (node.type() == pugi::node_pcdata && node.value()[std::strspn(node.value(), " \t\r\n")] == '\0')
+        if (node.type() == pugi::node_pcdata && isBlank(node.value()))
             blanks.push_back(node);
         m_items += depth() == ItemLevel;
         return depth() < DeepestNesting && m_items <= MostItems;
@@ -88,8 +93,6 @@ qsizetype sizeOfRawPiece(QStringView text)
 /// The text with those characters as references again.
 QString withReferences(const QString &text)
 {
-    if (std::none_of(text.begin(), text.end(), needsReference))
-        return text;
     QString written;
     for (qsizetype at = 0; at < text.size();) {
         if (const qsizetype raw = sizeOfRawPiece(QStringView(text).sliced(at)); raw > 0) {
@@ -162,5 +165,9 @@ QString XMLElementOutput(pugi::xml_node node)
 {
     TextWriter writer;
     node.print(writer, "", pugi::format_raw | pugi::format_no_declaration, pugi::encoding_utf8);
-    return withReferences(QString::fromUtf8(writer.text.data(), qsizetype(writer.text.size())));
+    const auto size = qsizetype(writer.text.size());
+    const QString text = QString::fromUtf8(writer.text.data(), size);
+    // What this program writes is plain ASCII, which alone has as many characters as bytes.
+    const bool plain = text.size() == size && writer.text.find('\r') == std::string::npos;
+    return plain ? text : withReferences(text);
 }

@@ -37,6 +37,10 @@ QChar mdFromCodePage(uchar byte)
 
 QString mdFromCodePage(QByteArrayView bytes)
 {
+    // Nearly every file is plain ASCII, which is read many characters at a time: sound UTF-8 of as many characters as
+    // bytes is nothing else.
+    if (QString plain = QString::fromUtf8(bytes); plain.size() == bytes.size() && bytes.isValidUtf8())
+        return plain;
     QString text(bytes.size(), Qt::Uninitialized);
     QChar *out = text.data();
     for (const char byte : bytes)

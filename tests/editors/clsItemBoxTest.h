@@ -9,19 +9,6 @@
 /// A test of a box in which an item of the claim is chosen, alone or on a screen.
 class clsItemBoxTest : public clsModalTest {
 protected:
-    /// A screen as those that the boxes stand on.
-    static clsScreen editorOf(const std::vector<clsScreenRow> &rows)
-    {
-        return {.name = "frmThingEdit",
-            .header = "Thing",
-            .subCaption = "",
-            .iconGroup = 12,
-            .width = clsScreenWidth::Edit,
-            .ending = clsScreenEnding::SaveCancel,
-            .frames = {{"bxGeneral", "Thing", rows}},
-            .itemWord = "Thing",
-            .fileMenu = false};
-    }
     template <class Part> static Part &part(const QWidget &box, const char *name)
     {
         auto *found = box.findChild<Part *>(QString::fromUtf8(name));

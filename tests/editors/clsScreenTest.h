@@ -24,6 +24,19 @@
 /// A test of screens: a new claim, a scripted user, and windows that are shown without waiting for them to close.
 class clsScreenTest : public clsFolderTest {
 protected:
+    /// The editor of a made-up item with these rows.
+    static clsScreen editorOf(const std::vector<clsScreenRow> &rows)
+    {
+        return {.name = "frmThingEdit",
+            .header = "Thing",
+            .subCaption = "",
+            .iconGroup = 12,
+            .width = clsScreenWidth::Edit,
+            .ending = clsScreenEnding::SaveCancel,
+            .frames = {{"bxGeneral", "Thing", rows}},
+            .itemWord = "Thing",
+            .fileMenu = false};
+    }
     void SetUp() override { Form = std::make_unique<clsZR3Form>(); }
     void TearDown() override
     {

@@ -12,17 +12,6 @@ using enum clsRowKind;
 
 class ScreenLayout : public clsScreenTest {
 protected:
-    static clsScreen screenOf(const std::vector<clsScreenRow> &rows)
-    {
-        return {.name = "frmThingEdit",
-            .header = "Thing",
-            .subCaption = "",
-            .iconGroup = 12,
-            .width = clsScreenWidth::Edit,
-            .ending = clsScreenEnding::SaveCancel,
-            .frames = {{"bxGeneral", "Thing", rows}},
-            .fileMenu = false};
-    }
     /// How many listen to the application's word of where the focus is.
     static int focusListeners()
     {
@@ -40,7 +29,7 @@ protected:
 
 TEST_F(ScreenLayout, ButtonsOfOneLineStandCloserThanAFieldAndItsButton)
 {
-    const clsScreen table = screenOf({
+    const clsScreen table = editorOf({
         {Text, "txtReference", "Reference:"},
         {Button, "cmdFirst", "First", 0, SameRow},
         {Button, "cmdSecond", "Second", 0, SameRow},
@@ -59,7 +48,7 @@ TEST_F(ScreenLayout, ButtonsOfOneLineStandCloserThanAFieldAndItsButton)
 
 TEST_F(ScreenLayout, APageThatGoesHearsNothingOfTheFocusOfItsFields)
 {
-    const clsScreen table = screenOf({{Text, "txtReference", "Reference:"}});
+    const clsScreen table = editorOf({{Text, "txtReference", "Reference:"}});
     const int before = focusListeners();
     int whileItGoes = -1;
     {
@@ -76,7 +65,7 @@ TEST_F(ScreenLayout, WhatHasTheFocusStaysInViewWhenTheWindowShrinks)
 {
     std::vector<clsScreenRow> rows(30, {Text, "txtReference", "Reference:"});
     rows.push_back({Text, "txtGroupUniqueID", "Last:"});
-    const clsScreen table = screenOf(rows);
+    const clsScreen table = editorOf(rows);
     frmSection screen(table);
     show(screen);
     screen.resize(640, 2000);

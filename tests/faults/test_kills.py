@@ -10,6 +10,15 @@ def microseconds(steps):
     return steps[-1].microseconds - steps[0].microseconds
 
 
+def killed_at(seconds, row, *words):
+    """Runs zr3tool and kills it after a time, or counts that it had ended before."""
+    process = start(*words)
+    time.sleep(seconds)
+    process.kill()
+    process.communicate()
+    count(row, "kills" if process.returncode == -signal.SIGKILL else "ended before")
+
+
 class SaveKilled(SaveTest):
     def kill(self, row, name, **faults):
         """Kills a save, and tells whether it was killed; the claim is whole before and after."""
@@ -58,11 +67,7 @@ class SaveKilled(SaveTest):
             moment = chance.uniform(0, span)
             with self.subTest(number=number, seconds=moment, seed=SEED):
                 self.put_old()
-                process = start("save", self.sources["new"], self.file)
-                time.sleep(moment)
-                process.kill()
-                process.communicate()
-                count(row, "kills" if process.returncode == -signal.SIGKILL else "ended before")
+                killed_at(moment, row, "save", self.sources["new"], self.file)
                 self.checked(row, "file", "old", "new")
                 self.saves_again()
 
@@ -130,12 +135,8 @@ class ExportKilled(ExportTest):
             moment = chance.uniform(0, span)
             with self.subTest(number=number, seconds=moment, seed=SEED):
                 self.put_old()
-                process = start("export", "--force", self.claims["new"], self.disk)
-                time.sleep(moment)
-                process.kill()
-                process.communicate()
                 row = "Export killed at random"
-                count(row, "kills" if process.returncode == -signal.SIGKILL else "ended before")
+                killed_at(moment, row, "export", "--force", self.claims["new"], self.disk)
                 count(row, f"{self.state()} document")
                 self.exports_again()
 

@@ -33,6 +33,7 @@ public:
     virtual QString chooseFolder(const QString &prompt) = 0;
     /// Asks for a file to open or to save; empty when the user gave none.
     virtual QString chooseFileToOpen(const QString &filter) = 0;
+    /// The file's name ends in the extension, in capitals or not, whatever was typed.
     virtual QString chooseFileToSave(const QString &filter, const QString &defaultExtension) = 0;
 
     /// Plays a wave file in the background; a failure is silent.

@@ -187,6 +187,12 @@ QString asked(QFileDialog &dialog)
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
+/// The dialog itself adds an extension only to a name without any dot: "Smith v. Jones" has one.
+QString withExtension(const QString &path, const QString &extension)
+{
+    return path.isEmpty() || path.endsWith(extension, Qt::CaseInsensitive) ? path : path + extension;
+}
+
 } // namespace
 
 QString clsWindowUserInterface::chooseFolder(const QString &prompt)
@@ -214,7 +220,7 @@ QString clsWindowUserInterface::chooseFileToSave(const QString &filter, const QS
     dialog.setDefaultSuffix(defaultExtension);
     // The program asks before it overwrites; two questions would be one too many.
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
-    return chosen(asked(dialog));
+    return chosen(withExtension(asked(dialog), defaultExtension));
 }
 
 void clsWindowUserInterface::playSound(const QString &path)

@@ -48,6 +48,9 @@ std::optional<clsToolCommand> commandOf(const QCommandLineParser &parser)
         return {};
     if (row->verb != clsToolCommand::Export && hasExportOptions(parser))
         return {};
+    // As from a variable of a script that was never set: the program's own templates are not what was asked for.
+    if (parser.values(Templates).contains(QString()))
+        return {};
     clsToolCommand command;
     command.verb = row->verb;
     command.claim = words[1];

@@ -271,6 +271,53 @@ TEST_F(WindowUserInterface, SavingAddsTheExtensionAndAsksNoQuestionOfItsOwn)
     EXPECT_EQ(1, shown);
 }
 
+TEST_F(WindowUserInterface, SavingAddsTheExtensionWhateverNameIsTyped)
+{
+    const std::pair<const char *, const char *> rows[] = {
+        {"Smith v. Jones", "Smith v. Jones.zr3"},
+        {"12.11.2026", "12.11.2026.zr3"},
+        {"letter.doc", "letter.doc.zr3"},
+        {"Smith.", "Smith..zr3"},
+        {"zr3", "zr3.zr3"},
+        {"Smith.zr3", "Smith.zr3"},
+        {"Smith.ZR3", "Smith.ZR3"},
+        {"Smith v. Jones.Zr3", "Smith v. Jones.Zr3"},
+        {"Smith.zr3a", "Smith.zr3a.zr3"},
+    };
+    Form = std::make_unique<clsZR3Form>();
+    Form->path = sample("empty.zr3");
+    for (const auto &[typed, saved] : rows) {
+        whenShown<QFileDialog>([typed = typed](QFileDialog &dialog) {
+            control<QLineEdit>(dialog, "fileNameEdit").setText(QString::fromLatin1(typed));
+            QMetaObject::invokeMethod(&dialog, "accept");
+        });
+        EXPECT_EQ(path("claims/") + QString::fromLatin1(saved),
+            windows.chooseFileToSave(QStringLiteral("Velmor ZR3 Files (*.zr3)|*.zr3"), QStringLiteral(".zr3")));
+    }
+    whenShown<QFileDialog>([](QFileDialog &dialog) { dialog.reject(); });
+    EXPECT_EQ(QString(), windows.chooseFileToSave(QStringLiteral("Claims|*.zr3"), QStringLiteral(".zr3")));
+}
+
+TEST_F(WindowUserInterface, TheExtensionIsThereBeforeTheQuestionAboutOverwriting)
+{
+    Form = std::make_unique<clsZR3Form>();
+    Form->path = sample("empty.zr3");
+    ASSERT_TRUE(QFile::copy(path("claims/empty.zr3"), path("claims/Smith v. Jones.zr3")));
+    const clsUserInterfaceScope scope(windows);
+    whenShown<QFileDialog>([this](QFileDialog &dialog) {
+        control<QLineEdit>(dialog, "fileNameEdit").setText(QStringLiteral("Smith v. Jones"));
+        whenShown<frmMessageBox>([](frmMessageBox &box) {
+            EXPECT_EQ(QStringLiteral("Overwrite?"), box.windowTitle());
+            QTest::mouseClick(&control<QPushButton>(box, "cmdYes"), Qt::LeftButton);
+        });
+        QMetaObject::invokeMethod(&dialog, "accept");
+    });
+    EXPECT_TRUE(SaveForm(true));
+    EXPECT_EQ(2, shown);
+    EXPECT_EQ(path("claims/Smith v. Jones.zr3"), Form->path());
+    EXPECT_FALSE(QFile::exists(path("claims/Smith v. Jones")));
+}
+
 TEST_F(WindowUserInterface, ProgressGoesToItsDisplayAndLetsTheWindowsRepaint)
 {
     QStringList seen;

@@ -78,9 +78,9 @@ void clsZR3Form::takeRoot(const clsXMLElement &root)
     LoadElements();
 }
 
-void clsZR3Form::SaveXML(const QString &filePath) const
+bool clsZR3Form::SaveXML(const QString &filePath) const
 {
-    WriteTextDocument(XMLOutput(), filePath, true);
+    return WriteTextDocument(XMLOutput(), filePath, true);
 }
 
 void clsZR3Form::LoadElements()

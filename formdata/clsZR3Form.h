@@ -54,8 +54,8 @@ public:
     /// Reads the claim at a path and brings it up to date. False, after a message, when it is no claim: this object is
     /// then to be dropped, and whoever asked for the load goes on with a new claim.
     bool LoadXML(const QString &filePath);
-    /// Writes the claim as it stands. Failures show the box of the text document routines; there is no result.
-    void SaveXML(const QString &filePath) const;
+    /// Writes the claim as it stands. False where it failed, after the box of the text document routines.
+    bool SaveXML(const QString &filePath) const;
     /// Rebuilds every collection and hands every section its element.
     void LoadElements();
 

@@ -405,7 +405,7 @@ bool frmMain::confirmExit()
 {
     // A text that doesn't fit holds nobody who leaves the program.
     mdLeaveFocusedBox(this);
-    return ConfirmDrop();
+    return ConfirmExit();
 }
 
 void frmMain::closeEvent(QCloseEvent *event)

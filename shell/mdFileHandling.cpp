@@ -12,8 +12,11 @@
 #include "shell/mdRunTimeErrorMessage.h"
 #include "shell/mdVersionComparison.h"
 
-#include <QFileInfo>
+#include <QDir>
+#include <QRegularExpression>
 #include <QScopedValueRollback>
+
+#include <algorithm>
 
 namespace {
 
@@ -30,8 +33,8 @@ struct {
     QString real;
 } givenPath;
 
-/// Whether this program has written the current claim to its file.
-bool wasSaved = false;
+/// Whether this program has saved the current claim, and whether the last save got through.
+enum class clsSaved { Never, Failed, Written } lastSave = clsSaved::Never;
 
 /// Whether the current claim is being read from its file, so that nothing in it is the user's work yet.
 bool opening = false;
@@ -53,7 +56,7 @@ void replaceForm()
 {
     Form = std::make_unique<clsZR3Form>();
     givenPath = {};
-    wasSaved = false;
+    lastSave = clsSaved::Never;
 }
 
 void givePath(const QString &path)
@@ -93,13 +96,75 @@ bool loadForm(const QString &path)
     return true;
 }
 
-bool cleanTextIsOnDisk()
+bool holds(const QString &path, const QByteArray &bytes)
 {
     try {
-        return FileSystem().ReadFile(FormFilePath()) == mdToCodePage(CleanXML);
+        return FileSystem().ReadFile(path) == bytes;
     } catch (const clsRunTimeError &) {
         return false;
     }
+}
+
+/// Whether the claim's file has this content, or another one beside it, under a name that the file was given since.
+bool isOnDisk(const QByteArray &bytes)
+{
+    const QString path = FormFilePath();
+    if (path.isEmpty())
+        return false;
+    if (holds(path, bytes))
+        return true;
+    const QDir folder(QFileInfo(path).path(), u'*' + DefaultExtension, QDir::NoSort, QDir::Files | QDir::NoSymLinks);
+    const QFileInfoList files = folder.entryInfoList();
+    return std::any_of(files.begin(), files.end(),
+        [&](const QFileInfo &file) { return file.size() == bytes.size() && holds(file.filePath(), bytes); });
+}
+
+/// A claim's text without the path that it holds, which counts as a change where a claim lies elsewhere than it was
+/// saved, and is no work of the user's.
+QString withoutPath(QString text)
+{
+    static const QRegularExpression element(QStringLiteral("<path(/>|>[^<]*</path>)"));
+    const QRegularExpressionMatch found = element.match(text);
+    return text.remove(found.capturedStart(), found.capturedLength());
+}
+
+clsLossCause causeInFile()
+{
+    try {
+        const QString path = FormFilePath();
+        if (!FileSystem().FileExists(path))
+            return clsLossCause::FileMissing;
+        FileSystem().ReadFile(path);
+        return clsLossCause::FileChanged;
+    } catch (const clsRunTimeError &) {
+        return clsLossCause::FileUnreadable;
+    }
+}
+
+clsLossCause lossCause()
+{
+    const QString text = Form->XMLOutput();
+    const bool isClean = text == CleanXML;
+    if ((isClean && lastSave == clsSaved::Never) || isOnDisk(mdToCodePage(text)))
+        return clsLossCause::None;
+    if (isClean)
+        return lastSave == clsSaved::Failed ? clsLossCause::SaveFailed : causeInFile();
+    const bool isAsOpened = withoutPath(text) == withoutPath(CleanXML) && isOnDisk(mdToCodePage(CleanXML));
+    return isAsOpened ? clsLossCause::None : clsLossCause::UnsavedChanges;
+}
+
+/// Sets work aside that counts as saved and would be lost, and tells the user. False where no place took it.
+bool setAside()
+{
+    // A claim that still counts as changed has been given up by the user.
+    if (FormIsDirty())
+        return true;
+    const clsRecoveredCopy copy = WriteRecoveredCopy();
+    if (copy.cause == clsLossCause::None)
+        return true;
+    UserInterface().systemMessage(mdRecoveredCopyMessage(copy), QStringLiteral("Velmor ZR3"),
+        copy.path.isEmpty() ? clsUserInterface::Critical : clsUserInterface::Information, clsUserInterface::OKOnly);
+    return !copy.path.isEmpty();
 }
 
 } // namespace
@@ -128,15 +193,15 @@ bool ConfirmClose()
 
 bool ConfirmDrop()
 {
+    return ConfirmClose() && setAside();
+}
+
+bool ConfirmExit()
+{
     if (!ConfirmClose())
         return false;
-    // After No it still counts as changed: the user has given it up.
-    if (FormIsDirty() || !FormNeedsRecovery())
-        return true;
-    const QString copy = WriteRecoveredCopy();
-    UserInterface().systemMessage(mdRecoveredCopyMessage(copy), QStringLiteral("Velmor ZR3"),
-        clsUserInterface::Information, clsUserInterface::OKOnly);
-    return !copy.isEmpty();
+    setAside();
+    return true;
 }
 
 bool SaveForm(bool saveAs)
@@ -146,11 +211,10 @@ bool SaveForm(bool saveAs)
         return false;
     // Before the text is written, so that it is part of it.
     form.Version = GetVersionInfo();
-    form.SaveXML(FormFilePath());
+    lastSave = form.SaveXML(FormFilePath()) ? clsSaved::Written : clsSaved::Failed;
     // Also after a write that failed. That is meant: its box has told the user, and the old content lies beside the
     // file.
     CleanXML = form.XMLOutput();
-    wasSaved = true;
     run(formDisplay.activate);
     return true;
 }
@@ -241,12 +305,12 @@ QString FormCopyName()
     return real == Form->path() ? Form->FormFileName() : QFileInfo(real).fileName();
 }
 
-bool FormNeedsRecovery() noexcept
+clsLossCause FormLossCause() noexcept
 {
     try {
-        return !opening && (FormIsDirty() || (Form && wasSaved && !cleanTextIsOnDisk()));
+        return opening || !Form ? clsLossCause::None : lossCause();
     } catch (...) {
         // A claim that can't even be compared is not known to be safe.
-        return true;
+        return clsLossCause::UnsavedChanges;
     }
 }

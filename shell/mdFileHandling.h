@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include "shell/clsRecoveredCopy.h"
 
 #include <functional>
 
@@ -21,10 +21,14 @@ bool FormIsDirty();
 /// Asks whether to save a changed claim. True when the user has no objection to its being dropped.
 bool ConfirmClose();
 
-/// Asks as above before another claim takes its place, or the program ends. Work that counts as saved and is not on the
-/// disk, since its save failed or another program has written over it, is set aside first, and the user is told where.
-/// False where it could be set aside nowhere: then this program is the only place that it still has.
+/// Asks as above before another claim takes its place. Work that counts as saved and is not on the disk, since its save
+/// failed or another program has written over it, is set aside first, and the user is told where. False where it could
+/// be set aside nowhere: then this program is the only place that it still has.
 bool ConfirmDrop();
+
+/// The same before the program ends. Where the work could be set aside nowhere the user is told, and it ends all the
+/// same: a disk that takes nothing must not hold the user in the program.
+bool ConfirmExit();
 
 /// Writes the claim to its path, asking for one where it has none or with `saveAs`. False when the user gave none. A
 /// write that failed has shown its box and counts as saved.
@@ -54,6 +58,7 @@ QString FormFilePath();
 /// The name that a copy of the claim bears: its file's, or the fixed one of an unsaved claim.
 QString FormCopyName();
 
-/// True when the end of the program would lose work: the claim has changes, or it counts as saved though its last save
-/// did not get through. Never while a claim is still being opened. Shows nothing and never fails.
-bool FormNeedsRecovery() noexcept;
+/// Why the end of the program would lose work: the claim has changes, or it counts as saved and its last save did not
+/// get through, or its file is no longer what was saved. None where a file of its folder has the very same content, and
+/// while a claim is still being opened. Shows nothing and never fails.
+clsLossCause FormLossCause() noexcept;

@@ -2,10 +2,11 @@
 
 #include "shell/mdClock.h"
 #include "shell/mdDatabasePath.h"
+#include "shell/mdOwnFolder.h"
 #include "shell/mdProgramFolder.h"
+#include "shell/mdStateFolder.h"
 #include "shell/mdTextDocumentHandling.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 namespace {
@@ -13,21 +14,44 @@ namespace {
 // Never destroyed: the preferences take it back when they go, which can be at the very end of the program.
 std::function<bool()> &logSwitch = *new std::function<bool()>;
 
-/// The folder beside the program. Where that is there and this user may not write into it, as in a program that was
-/// installed for all users, the log lies with the user's preferences, or each line would show a box.
-QString folderOfLog()
+/// Whether this user can read and write a file in a folder, and the copy that guards it.
+bool canBeKept(const QString &folder, const QString &name)
 {
-    const QFileInfo beside(LogsFolder());
-    if (!beside.isDir() || beside.isWritable())
-        return beside.filePath();
-    const QString own = StoredDatabasePath() + QStringLiteral("/Logs");
-    QDir().mkpath(own);
+    const QFileInfo place(folder);
+    const QFileInfo file(folder + u'/' + name);
+    return place.isDir() && place.isWritable() && !LeadsOverForeignLink(file.filePath())
+        && (!file.exists() || (file.isFile() && file.isReadable() && file.isWritable()));
+}
+
+/// The folder for the day's file below "Logs", empty where neither can be written.
+QString folderBelow(const QString &logs, const QString &name)
+{
+    const QString own = logs + u'/' + OwnName();
+    return canBeKept(logs, name) ? logs : MakeOwnFolder(own) ? own : QString();
+}
+
+/// The folder beside the program, unless it is there and this user can't write the day's file in it: because it was
+/// installed for all users, or because the file is another user's. Each line would show a box.
+QString folderOfLog(const QString &name)
+{
+    if (!QFileInfo(LogsFolder()).isDir())
+        return LogsFolder();
+    if (const QString beside = folderBelow(LogsFolder(), name); !beside.isEmpty())
+        return beside;
+    const QString withPreferences = StoredDatabasePath() + QStringLiteral("/Logs");
+    MakeFolderLikeItsParent(withPreferences);
+    if (const QString shared = folderBelow(withPreferences, name); !shared.isEmpty())
+        return shared;
+    const QString own = StateFolder() + QStringLiteral("/Logs");
+    if (MakeStateFolder())
+        MakeOwnFolder(own);
     return own;
 }
 
 QString pathOfDay(const QDate &day)
 {
-    return folderOfLog() + u'/' + day.toString(QStringLiteral("dd-MM-yyyy")) + QStringLiteral(".txt");
+    const QString name = day.toString(QStringLiteral("dd-MM-yyyy")) + QStringLiteral(".txt");
+    return folderOfLog(name) + u'/' + name;
 }
 
 } // namespace

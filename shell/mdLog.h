@@ -10,8 +10,9 @@
 /// shows both boxes for each line. Both are meant: the folder is expected to be there.
 void WriteLog(const QString &message);
 
-/// The path of the day's file: 15-11-2026.txt in the folder "Logs" beside the program, or, where only an administrator
-/// may write there, in the folder "Logs" of the database folder.
+/// The path of the day's file: 15-11-2026.txt in the folder "Logs" beside the program; where this user can't write it
+/// there, in a folder below "Logs" that bears the user's name. Where that can't be made either, the same in the
+/// database folder, and at last in the user's own folder for the state of programs.
 QString LogPath();
 
 /// Where the switch is read, asked at each line. The preferences set it when they are complete and take it back with

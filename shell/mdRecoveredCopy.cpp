@@ -7,37 +7,20 @@
 #include "shell/mdDatabasePath.h"
 #include "shell/mdFileHandling.h"
 #include "shell/mdGlobals.h"
+#include "shell/mdOwnFolder.h"
+#include "shell/mdStateFolder.h"
 
-#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <exception>
 
 namespace {
 
 constexpr QFile::Permissions FileOwnerOnly = QFile::ReadOwner | QFile::WriteOwner;
-constexpr QFile::Permissions FolderOwnerOnly = FileOwnerOnly | QFile::ExeOwner;
 
 constexpr qsizetype LongestStem = 180; // bytes: file names end at 255, and the time and a number follow
 constexpr int MostCopiesInASecond = 100;
-
-QString stateFolder()
-{
-    const QString told = qEnvironmentVariable("XDG_STATE_HOME");
-    const QString state = QDir::isAbsolutePath(told) ? told : QDir::homePath() + QStringLiteral("/.local/state");
-    return state + QStringLiteral("/Velmor");
-}
-
-/// The folder "Recovered" below another, made where it is missing; empty where it can't be.
-QString recoveredFolder(const QString &parent)
-{
-    const QString folder = parent + QStringLiteral("/Recovered");
-    if (!QDir().mkdir(folder, FolderOwnerOnly) && !FileSystem().FolderExists(folder))
-        return {};
-    // One that was there before may be open to others; where it is not this user's, it stays as it is.
-    QFile::setPermissions(folder, FolderOwnerOnly);
-    return folder;
-}
 
 /// The claim's file name without its extension, as every file system takes it.
 QString stem()
@@ -63,12 +46,11 @@ bool createNew(QFile &file, const QString &withoutExtension)
     return false;
 }
 
-/// Writes the copy below the folder and returns its path; empty where it failed, and then nothing is left of it.
-QString writtenBelow(const QString &parent, const QString &name, const QByteArray &bytes)
+/// Writes the copy into the folder and returns its path; empty where it failed, and then nothing is left of it.
+QString writtenIn(const QString &folder, const QString &name, const QByteArray &bytes)
 {
-    const QString folder = recoveredFolder(parent);
     QFile file;
-    if (folder.isEmpty() || !createNew(file, folder + u'/' + name))
+    if (!MakeOwnFolder(folder) || !createNew(file, folder + u'/' + name))
         return {};
     file.close();
     try {
@@ -95,35 +77,45 @@ bool lastCopyHolds(const QByteArray &bytes)
     }
 }
 
-QString writtenNew(const QByteArray &bytes)
+/// Writes the copy to the first place that takes it.
+void writeNew(clsRecoveredCopy &copy, const QByteArray &bytes)
 {
     const QString name = stem() + Now().toString(QStringLiteral(" yyyy-MM-dd HH.mm.ss"));
-    // The database folder may have gone, or belong to an administrator: the user's last copy must not depend on it.
-    const QString written = writtenBelow(StoredDatabasePath(), name, bytes);
-    if (!written.isEmpty())
-        return written;
-    QDir().mkpath(stateFolder());
-    return writtenBelow(stateFolder(), name, bytes);
+    // The database folder may have gone, or belong to others: the user's last copy must not depend on it.
+    for (const QString &parent : {StoredDatabasePath(), StateFolder()}) {
+        const QString folder = parent + QStringLiteral("/Recovered");
+        if (parent != StateFolder() || MakeStateFolder())
+            copy.path = writtenIn(folder, name, bytes);
+        if (!copy.path.isEmpty())
+            return;
+        copy.tried << folder;
+    }
 }
 
-QString writeCopy()
+clsRecoveredCopy writeCopy()
 {
-    if (!FormNeedsRecovery())
-        return {};
+    clsRecoveredCopy copy;
+    copy.cause = FormLossCause();
+    if (copy.cause == clsLossCause::None)
+        return copy;
     const QByteArray bytes = mdToCodePage(Form->XMLOutput());
     // A desktop that ends its session asks more than once.
-    if (!lastCopyHolds(bytes))
-        lastCopy = {writtenNew(bytes), bytes};
-    return lastCopy.path;
+    if (lastCopyHolds(bytes)) {
+        copy.path = lastCopy.path;
+        return copy;
+    }
+    writeNew(copy, bytes);
+    lastCopy = {copy.path, bytes};
+    return copy;
 }
 
 } // namespace
 
-QString WriteRecoveredCopy() noexcept
+clsRecoveredCopy WriteRecoveredCopy() noexcept
 {
     try {
         return writeCopy();
     } catch (...) {
-        return {};
+        return {clsLossCause::UnsavedChanges, {}, {}};
     }
 }

@@ -7,6 +7,7 @@
 #include <QSettings>
 #include <QStandardPaths>
 #include <QStringList>
+#include <QUrl>
 
 #include <optional>
 
@@ -31,20 +32,43 @@ QString storeKey(QString name)
     return name.replace(u'\\', u'/');
 }
 
+/// The text of a key as it stands in a store's file; empty where it is not there. The last one counts, as for the
+/// library.
+QString textAsWritten(const QString &path, const QString &key)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QString text;
+    bool general = true; // the lines above the first section belong to it
+    for (const QByteArray &line : file.readAll().split('\n')) {
+        const QByteArray plain = line.trimmed();
+        const qsizetype equals = plain.indexOf('=');
+        if (plain.startsWith('['))
+            general = plain.toLower() == "[general]";
+        else if (general && equals > 0 && QUrl::fromPercentEncoding(plain.left(equals).trimmed()) == key)
+            text = QString::fromUtf8(plain.mid(equals + 1));
+    }
+    // A semicolon begins a remark.
+    return text.section(u';', 0, 0).trimmed();
+}
+
 /// One opened store.
 class clsStore {
 public:
     explicit clsStore(const QString &path)
-        : m_settings(regular(path), QSettings::IniFormat)
+        : m_path(regular(path))
+        , m_settings(path, QSettings::IniFormat)
     { }
 
     std::optional<QString> value(const QString &key)
     {
         if (m_settings.contains(key)) {
             const QVariant value = m_settings.value(key);
-            // A path with commas that somebody wrote into the file by hand reads as a list.
+            // A path with commas that somebody wrote into the file by hand reads as a list, without the blanks beside
+            // the commas.
             if (value.metaType().id() == QMetaType::QStringList)
-                return value.toStringList().join(u',');
+                return textAsWritten(m_path, key);
             return value.toString();
         }
         check();
@@ -81,6 +105,7 @@ private:
         }
     }
 
+    QString m_path;
     QSettings m_settings;
 };
 
@@ -92,11 +117,17 @@ std::optional<QString> firstValue(const QStringList &paths, const QString &key)
     return {};
 }
 
+/// Whether a stored text is the value, or the same folder with a slash at its end.
+bool means(const std::optional<QString> &stored, const QString &value)
+{
+    return stored && (*stored == value || *stored == value + u'/' || *stored == value + u'\\');
+}
+
 void store(const QString &key, const QString &value)
 {
     clsStore user(stores().first());
     // A machine-wide value is not copied to the user, or the administrator's next change of it would reach nobody.
-    if (!user.value(key) && firstValue(stores().mid(1), key) == value)
+    if (!user.value(key) && means(firstValue(stores().mid(1), key), value))
         return;
     user.set(key, value);
 }

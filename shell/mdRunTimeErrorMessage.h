@@ -1,11 +1,11 @@
 #pragma once
 
+#include "shell/clsRecoveredCopy.h"
 #include "shell/clsRunTimeError.h"
 
-/// What became of the work that was not saved, as the user is told. `recoveredCopy` is the path of the copy, empty
-/// where none was written; the text is empty where there was nothing to write.
-QString mdRecoveredCopyMessage(const QString &recoveredCopy);
+/// What became of the work that was not saved, as the user is told; empty where there was nothing to write.
+QString mdRecoveredCopyMessage(const clsRecoveredCopy &copy);
 
 /// The text of the box that an error shows when nothing has caught it: its number, its description, and what became of
 /// the work that was not saved.
-QString mdRunTimeErrorMessage(const clsRunTimeError &error, const QString &recoveredCopy);
+QString mdRunTimeErrorMessage(const clsRunTimeError &error, const clsRecoveredCopy &copy);

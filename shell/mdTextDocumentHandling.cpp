@@ -73,13 +73,14 @@ QString ReadTextDocument(const QString &path, bool logIt)
     return text;
 }
 
-void WriteTextDocument(const QString &text, const QString &path, bool logIt)
+bool WriteTextDocument(const QString &text, const QString &path, bool logIt)
 {
     if (logIt)
         WriteLog(QStringLiteral("Begin Write Text Document - ") + path);
     if (!trapped(QStringLiteral("File Not Saved"), QStringLiteral("There was a problem writing to the following path:"),
             path, [&] { overwrite(path, mdToCodePage(text)); }))
-        return;
+        return false;
     if (logIt)
         WriteLog(QStringLiteral("End Write Text Document - ") + path);
+    return true;
 }

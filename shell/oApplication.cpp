@@ -3,8 +3,23 @@
 #include "shell/clsLongWork.h"
 #include "shell/clsProgramEnd.h"
 #include "shell/clsUserInterface.h"
+#include "shell/mdLog.h"
+#include "shell/mdPrint.h"
 #include "shell/mdRunTimeErrorMessage.h"
 #include "shell/mdRunTimeErrorOf.h"
+
+namespace {
+
+void tellWithoutBox(QString text)
+{
+    if (text.isEmpty())
+        return;
+    text.replace(QStringLiteral("\r\n\r\n"), QStringLiteral(" ")).replace(QStringLiteral("\r\n"), QStringLiteral(", "));
+    mdPrint(stderr, QStringLiteral("Velmor ZR3: ") + text + QStringLiteral("\r\n"));
+    WriteLog(text);
+}
+
+} // namespace
 
 oApplication::oApplication(int &argc, char **argv)
     : QApplication(argc, argv)
@@ -32,9 +47,7 @@ void oApplication::guarded(const std::function<void()> &step)
     try {
         step();
     } catch (const clsProgramEnd &end) {
-        if (!m_ending)
-            recoveredCopy();
-        this->end(end.exitStatus);
+        endWithCopy(end.exitStatus);
     } catch (...) {
         fail(std::current_exception());
     }
@@ -63,8 +76,21 @@ void oApplication::endUnasked()
     // The user still reads about a failure: its copy is written, and the end is that failure's.
     if (m_failing)
         return end(1);
-    recoveredCopy();
-    end(0);
+    endWithCopy(0);
+}
+
+void oApplication::endWithCopy(int status)
+{
+    if (m_ending)
+        return;
+    const clsRecoveredCopy copy = recoveredCopy();
+    // First, so that the log shows no box any more.
+    end(status);
+    try {
+        tellWithoutBox(mdRecoveredCopyMessage(copy));
+    } catch (...) {
+        // The copy is what counts.
+    }
 }
 
 bool oApplication::notify(QObject *receiver, QEvent *event)
@@ -99,11 +125,11 @@ void oApplication::fail(const std::exception_ptr &failure)
     end(1);
 }
 
-QString oApplication::recoveredCopy() const
+clsRecoveredCopy oApplication::recoveredCopy() const
 {
     // Whatever becomes of the copy, the end goes on.
     try {
-        return writeRecoveredCopy ? writeRecoveredCopy() : QString();
+        return writeRecoveredCopy ? writeRecoveredCopy() : clsRecoveredCopy();
     } catch (...) {
         return {};
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/clsRecoveredCopy.h"
+
 #include <QApplication>
 
 #include <exception>
@@ -19,8 +21,8 @@ public:
     /// True once this process is about to end by itself.
     static bool ending();
 
-    /// Writes the copy of a claim with unsaved changes and gives its path, empty where there is none to write.
-    std::function<QString()> writeRecoveredCopy;
+    /// Writes the copy of a claim with unsaved changes.
+    std::function<clsRecoveredCopy()> writeRecoveredCopy;
 
     /// Runs a step that no event brings, over the same net.
     void guarded(const std::function<void()> &step);
@@ -28,7 +30,8 @@ public:
     int run();
     /// Ends the program: all loops end, and no further event is delivered.
     void end(int status);
-    /// Ends it where nobody can be asked any more; unsaved changes are set aside.
+    /// Ends it where nobody can be asked any more; unsaved changes are set aside, and the log and standard error say
+    /// where.
     void endUnasked();
 
     bool notify(QObject *receiver, QEvent *event) override;
@@ -38,7 +41,8 @@ protected:
 
 private:
     void fail(const std::exception_ptr &failure);
-    QString recoveredCopy() const;
+    clsRecoveredCopy recoveredCopy() const;
+    void endWithCopy(int status);
 
     bool m_failing = false;
     bool m_ending = false;

@@ -1,8 +1,6 @@
 #include "shell/zr3tool/clsConsoleUserInterface.h"
 
-#include <cstdio>
-
-#include <unistd.h>
+#include "shell/mdPrint.h"
 
 void clsConsoleUserInterface::tell(const QString &title, const QString &text)
 {
@@ -10,9 +8,7 @@ void clsConsoleUserInterface::tell(const QString &title, const QString &text)
     ++m_messageCount;
     if (showsOnlyFirstMessage && m_messageCount > 1)
         return;
-    QString block = title + QStringLiteral(": ") + text;
-    block.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    std::fprintf(stderr, "%s\n", block.toUtf8().constData());
+    mdPrint(stderr, title + QStringLiteral(": ") + text + QStringLiteral("\r\n"));
 }
 
 clsUserInterface::Answer clsConsoleUserInterface::customMessage(
@@ -31,9 +27,9 @@ clsUserInterface::Answer clsConsoleUserInterface::systemMessage(
 
 void clsConsoleUserInterface::showProgress(int value, int maximum, const QString &text)
 {
-    if (!showsProgress || !isatty(STDERR_FILENO))
+    if (!showsProgress || !mdIsTerminal(stderr))
         return;
-    std::fprintf(stderr, "\r\033[K%s (%d/%d)", text.toUtf8().constData(), value, maximum);
+    std::fprintf(stderr, "\r\033[K%s (%d/%d)", mdWithoutControls(text).toUtf8().constData(), value, maximum);
     std::fflush(stderr);
     m_progressStands = true;
 }

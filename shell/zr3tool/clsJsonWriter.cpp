@@ -3,10 +3,23 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+namespace {
+
+/// The library escapes the control characters below the blank; a terminal obeys those from 7F to 9F too.
+QByteArray withControlsEscaped(QByteArray json)
+{
+    for (char16_t control = 0x7f; control <= 0x9f; ++control)
+        json.replace(QString(QChar(control)).toUtf8(), "\\u00" + QByteArray::number(control, 16));
+    return json;
+}
+
+} // namespace
+
 QByteArray clsJsonWriter::quoted(const QString &text)
 {
     // The library's own quoting of an array with one text, without its brackets.
-    return QJsonDocument(QJsonArray {text}).toJson(QJsonDocument::Compact).mid(1).chopped(1);
+    const QByteArray text8 = QJsonDocument(QJsonArray {text}).toJson(QJsonDocument::Compact).mid(1).chopped(1);
+    return withControlsEscaped(text8);
 }
 
 void clsJsonWriter::raw(const char *key, const QByteArray &value)

@@ -3,6 +3,7 @@
 #include "shell/clsProgramEnd.h"
 #include "shell/clsRunTimeError.h"
 #include "shell/mdGetVersionInfo.h"
+#include "shell/mdPrint.h"
 #include "shell/mdProgramFolder.h"
 #include "shell/zr3tool/clsConsoleUserInterface.h"
 #include "shell/zr3tool/clsToolCommand.h"
@@ -27,11 +28,6 @@ using Status = clsExitStatus;
 void print(const QByteArray &text)
 {
     std::fwrite(text.constData(), 1, size_t(text.size()), stdout);
-}
-
-void print(QString text)
-{
-    print(text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).toUtf8());
 }
 
 /// Runs a step; a run-time error in it is told, and the status says what it stands for.
@@ -76,9 +72,10 @@ Status totals(clsConsoleUserInterface &console, const clsZR3Form &form)
 
 Status check(const clsZR3Form &form)
 {
-    QString message = mdBlankItemsMessage(form);
+    const QString message = mdBlankItemsMessage(form);
+    const QString lineEnd = QStringLiteral("\r\n");
     const bool blank = mdCountBlankScheduleItems(form) > 0 || mdCountBlankDisbursements(form) > 0;
-    print(message.endsWith(u'\n') ? message : message + u'\n');
+    mdPrint(stdout, message.endsWith(lineEnd) ? message : message + lineEnd);
     return blank ? Status::BlankItems : Status::Done;
 }
 
@@ -166,9 +163,9 @@ Status run(const QStringList &arguments)
         return Status::WrongUsage;
     }
     if (command->verb == clsToolCommand::Help) {
-        print(clsToolCommand::usage());
+        print(clsToolCommand::usage().toUtf8());
     } else if (command->verb == clsToolCommand::Version) {
-        print(QStringLiteral("Velmor ZR3 %1\n").arg(GetVersionInfo()));
+        mdPrint(stdout, QStringLiteral("Velmor ZR3 %1\r\n").arg(GetVersionInfo()));
     } else {
         console.showsProgress = !command->quiet;
         return runOnClaim(console, *command);

@@ -23,12 +23,19 @@ protected:
         EXPECT_FALSE(FormIsDirty()) << "it counts as saved";
         return Form->XMLOutput();
     }
-    void expectSetAside(const QString &work) const
+    void expectSetAside(const QString &work, const char *why = "whose last save failed") const
     {
         const QString copy = path("program/Databases/Recovered/Smith 2026-11-21 14.03.22.zr3");
         expectBoxes({{QStringLiteral("Velmor ZR3"),
-            QStringLiteral("A copy of your claim with its unsaved changes is in:\r\n\r\n") + copy}});
+            QStringLiteral("A copy of your claim, %1, is in:\r\n\r\n").arg(QString::fromLatin1(why)) + copy}});
         EXPECT_EQ(work, textOf(copy));
+    }
+    /// The box that says that no place took the copy.
+    Box nowhere() const
+    {
+        return {QStringLiteral("Velmor ZR3"),
+            QStringLiteral("No copy of your claim could be written. The program tried these folders:\r\n\r\n")
+                + path("program/Databases/Recovered") + QStringLiteral("\r\n") + path("state/Velmor/Recovered")};
     }
 };
 
@@ -73,9 +80,56 @@ TEST_F(ConfirmDropped, WhatCanBeSetAsideNowhereStays)
     OpenFormDialog(false);
     FileSystem().faultPoint = nullptr;
     EXPECT_EQ(work, Form->XMLOutput());
-    const Box nowhere = {QStringLiteral("Velmor ZR3"),
-        QStringLiteral("The unsaved changes to your claim could not be written to a copy.")};
-    expectBoxes({nowhere, nowhere});
+    expectBoxes({nowhere(), nowhere()});
+}
+
+TEST_F(ConfirmDropped, WhatCanBeSetAsideNowhereIsToldOnceAndDoesNotHoldTheProgramOpen)
+{
+    saveOnRemovedDrive();
+    FileSystem().faultPoint
+        = [](clsFileStep step, const QString &) { return clsFileFault {step == clsFileStep::Write ? ENOSPC : 0}; };
+    EXPECT_TRUE(ConfirmExit());
+    FileSystem().faultPoint = nullptr;
+    expectBoxes({nowhere()});
+    EXPECT_EQ(int(clsUserInterface::Critical), user.messages[0].icon);
+}
+
+TEST_F(ConfirmDropped, TheEndOfTheProgramSetsAsideToo)
+{
+    const QString work = saveOnRemovedDrive();
+    EXPECT_TRUE(ConfirmExit());
+    expectSetAside(work);
+}
+
+TEST_F(ConfirmDropped, CancelKeepsTheProgramOpen)
+{
+    savedClaim();
+    change();
+    user.answers = {clsUserInterface::Cancel};
+    EXPECT_FALSE(ConfirmExit());
+    EXPECT_EQ(1u, user.messages.size());
+}
+
+TEST_F(ConfirmDropped, AFileThatWasRenamedSinceItsSaveIsNotCopied)
+{
+    const QString file = savedClaim();
+    change();
+    EXPECT_TRUE(SaveForm(false));
+    ASSERT_TRUE(QFile::rename(file, path("claims/Smith v. Jones.zr3")));
+    EXPECT_TRUE(ConfirmExit());
+    EXPECT_TRUE(user.messages.empty());
+    EXPECT_FALSE(exists(path("program/Databases/Recovered")));
+}
+
+TEST_F(ConfirmDropped, AFileThatHasGoneSinceItsSaveIsCopied)
+{
+    const QString file = savedClaim();
+    change();
+    EXPECT_TRUE(SaveForm(false));
+    const QString work = Form->XMLOutput();
+    QFile::remove(file);
+    EXPECT_TRUE(ConfirmExit());
+    expectSetAside(work, "whose file is no longer in its place");
 }
 
 TEST_F(ConfirmDropped, TheWorkCanBeSavedElsewhere)
@@ -107,7 +161,7 @@ TEST_F(ConfirmDropped, WhatAnotherProgramHasWrittenOverIsSetAside)
     const QString work = Form->XMLOutput();
     put(file, "what another program saved after that");
     NewForm(false);
-    expectSetAside(work);
+    expectSetAside(work, "whose file another program has changed");
     EXPECT_EQ(QByteArray("what another program saved after that"), bytesOf(file));
 }
 

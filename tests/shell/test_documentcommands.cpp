@@ -282,12 +282,12 @@ TEST_F(DocumentCommands, AFullDiskLeavesTheOldContentInTheSideFileAndCountsAsSav
     EXPECT_FALSE(FormIsDirty());
     EXPECT_TRUE(ConfirmClose());
     EXPECT_EQ(QStringList {QStringLiteral("activate")}, shown);
-    EXPECT_TRUE(FormNeedsRecovery()) << "the work is not on the disk, whatever it counts as";
+    EXPECT_EQ(clsLossCause::SaveFailed, FormLossCause()) << "the work is not on the disk, whatever it counts as";
     user.messages.clear();
     EXPECT_TRUE(SaveForm(false));
     EXPECT_TRUE(user.messages.empty());
     EXPECT_FALSE(exists(file + u'a'));
-    EXPECT_FALSE(FormNeedsRecovery());
+    EXPECT_EQ(clsLossCause::None, FormLossCause());
 }
 
 TEST_F(DocumentCommands, AFolderThatCanNotBeWrittenShowsTheBoxAndCountsAsSaved)

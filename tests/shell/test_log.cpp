@@ -4,6 +4,7 @@
 #include "tests/support/mdOrdinaryUser.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 class Log : public clsShellTest {
 protected:
@@ -101,6 +102,143 @@ TEST_F(Log, WhereOnlyAnAdministratorMayWriteItLiesWithThePreferences)
     EXPECT_EQ(QByteArray("15/11/2026 14:03:22 : one\r\n15/11/2026 14:03:22 : two\r\n"),
         bytesOf(path("own/Logs/15-11-2026.txt")));
     EXPECT_FALSE(exists(day));
+}
+
+namespace {
+
+mode_t modeOf(const QString &at)
+{
+    struct stat status = {};
+    return ::stat(QFile::encodeName(at).constData(), &status) == 0 ? status.st_mode & 07777 : 0;
+}
+
+} // namespace
+
+/// A database folder that two users share, and the two users.
+class SharedLog : public Log {
+protected:
+    void SetUp() override
+    {
+        Log::SetUp();
+        if (::geteuid() != 0)
+            GTEST_SKIP() << "only the administrator can be two users";
+        qputenv("XDG_STATE_HOME", QFile::encodeName(path("state")));
+        for (const char *name : {"program/Logs", "shared", "state", "config/Velmor"})
+            make(QString::fromUtf8(name));
+        put(path("config/Velmor/ZR3.conf"), "[General]\nDatabase%20Path=" + QFile::encodeName(path("shared")) + '\n');
+        for (const char *name : {".", "program", "config", "config/Velmor"})
+            setMode(name, 0755);
+        setMode("state", 0777);
+        setMode("shared", 0777);
+        setMode("program/Logs", 0555);
+        switchOn();
+    }
+    void setMode(const char *name, mode_t mode) const
+    {
+        ASSERT_EQ(0, ::chmod(QFile::encodeName(path(name)).constData(), mode)) << name;
+    }
+    /// Writes two lines; how many boxes came beside that of a day that begins.
+    int boxesOfTwoLines(uid_t who)
+    {
+        return resultAsOrdinaryUser(
+            [this] {
+                WriteLog(QStringLiteral("one"));
+                WriteLog(QStringLiteral("two"));
+                const bool began
+                    = user.messages.size() == 1 && user.messages[0].title == QLatin1String("File Not Read");
+                return began ? 0 : int(user.messages.size()) + 100;
+            },
+            who);
+    }
+    void expectLog(const QString &below) const
+    {
+        EXPECT_EQ(QByteArray("15/11/2026 14:03:22 : one\r\n15/11/2026 14:03:22 : two\r\n"),
+            bytesOf(below + QStringLiteral("/15-11-2026.txt")))
+            << qPrintable(below);
+    }
+    /// The folder that a user without an account is given.
+    static QString second() { return u'/' + QString::number(SecondUser); }
+};
+
+TEST_F(SharedLog, TheSecondUserOfADatabaseFolderHasAFolderBelowIt)
+{
+    EXPECT_EQ(0, boxesOfTwoLines(OrdinaryUser));
+    EXPECT_EQ(mode_t(0777), modeOf(path("shared/Logs"))) << "as the folder in which it lies";
+    EXPECT_EQ(0, boxesOfTwoLines(SecondUser));
+    expectLog(path("shared/Logs"));
+    expectLog(path("shared/Logs") + second());
+    EXPECT_EQ(mode_t(0700), modeOf(path("shared/Logs") + second()));
+    EXPECT_FALSE(exists(path("state/Velmor")));
+}
+
+TEST_F(SharedLog, TheGroupOfADatabaseFolderHasItsLogs)
+{
+    ASSERT_EQ(0, ::chown(QFile::encodeName(path("shared")).constData(), OrdinaryUser, OrdinaryUser));
+    setMode("shared", 02770);
+    EXPECT_EQ(0, boxesOfTwoLines(OrdinaryUser));
+    EXPECT_EQ(mode_t(02770), modeOf(path("shared/Logs")));
+}
+
+TEST_F(SharedLog, TheSecondUserOfTheProgramsFolderHasAFolderBelowIt)
+{
+    setMode("program/Logs", 0777);
+    EXPECT_EQ(0, boxesOfTwoLines(OrdinaryUser));
+    EXPECT_EQ(0, boxesOfTwoLines(SecondUser));
+    expectLog(path("program/Logs"));
+    expectLog(path("program/Logs") + second());
+    EXPECT_FALSE(exists(path("shared/Logs")));
+}
+
+TEST_F(SharedLog, ADaysFileThatBothCanWriteIsTheOne)
+{
+    setMode("program/Logs", 0777);
+    put(day, "");
+    setMode("program/Logs/15-11-2026.txt", 0666);
+    EXPECT_EQ(100, boxesOfTwoLines(SecondUser)) << "the day has begun";
+    EXPECT_EQ(100, boxesOfTwoLines(OrdinaryUser));
+    EXPECT_EQ(4, bytesOf(day).count("\r\n"));
+}
+
+TEST_F(SharedLog, LogsThatAreClosedToTheSecondUserAreReplacedByTheirOwn)
+{
+    EXPECT_EQ(0, boxesOfTwoLines(OrdinaryUser));
+    setMode("shared/Logs", 0755); // as an earlier version made them
+    EXPECT_EQ(0, boxesOfTwoLines(SecondUser));
+    expectLog(path("state/Velmor/Logs"));
+    EXPECT_EQ(mode_t(0700), modeOf(path("state/Velmor")));
+}
+
+TEST_F(SharedLog, ALinkThatAnotherUserHasPutThereIsNotFollowed)
+{
+    put(path("letter"), "Dear Sirs");
+    setMode("letter", 0666);
+    make(QStringLiteral("shared/Logs"));
+    setMode("shared/Logs", 0777);
+    const QByteArray link = QFile::encodeName(path("shared/Logs/15-11-2026.txt"));
+    ASSERT_EQ(0, ::symlink(QFile::encodeName(path("letter")).constData(), link.constData()));
+    ASSERT_EQ(0, ::lchown(link.constData(), OrdinaryUser, OrdinaryUser));
+    EXPECT_EQ(0, boxesOfTwoLines(SecondUser));
+    EXPECT_EQ(QByteArray("Dear Sirs"), bytesOf(path("letter")));
+    expectLog(path("shared/Logs") + second());
+}
+
+TEST_F(SharedLog, AFolderOfTheUsersNameThatAnotherUserHasMadeIsNotUsed)
+{
+    EXPECT_EQ(0, boxesOfTwoLines(OrdinaryUser));
+    make(QStringLiteral("shared/Logs") + second());
+    ASSERT_EQ(0, ::chmod(QFile::encodeName(path("shared/Logs") + second()).constData(), 0777));
+    EXPECT_EQ(0, boxesOfTwoLines(SecondUser));
+    EXPECT_FALSE(exists(path("shared/Logs") + second() + QStringLiteral("/15-11-2026.txt")));
+    expectLog(path("state/Velmor/Logs"));
+}
+
+TEST_F(SharedLog, ADatabaseFolderThatHasGoneIsNotMadeAgain)
+{
+    setMode("program/Logs", 0555);
+    ASSERT_EQ(0, ::rmdir(QFile::encodeName(path("shared")).constData()));
+    EXPECT_EQ(0, boxesOfTwoLines(SecondUser));
+    EXPECT_FALSE(exists(path("shared")));
+    expectLog(path("state/Velmor/Logs"));
 }
 
 TEST_F(Log, EachDayHasItsFile)

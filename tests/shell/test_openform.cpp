@@ -101,7 +101,7 @@ private:
     void look()
     {
         ++looks;
-        needingRecovery += FormNeedsRecovery();
+        needingRecovery += FormLossCause() != clsLossCause::None;
     }
 };
 
@@ -119,7 +119,7 @@ TEST_F(OpenForm, NothingOfAClaimThatIsBeingOpenedNeedsRecovery)
     EXPECT_EQ(0, onlooker.changedInBox);
     EXPECT_EQ(0, onlooker.needingRecovery);
     change();
-    EXPECT_TRUE(FormNeedsRecovery());
+    EXPECT_EQ(clsLossCause::UnsavedChanges, FormLossCause());
 }
 
 TEST_F(OpenForm, OpenCanCutTheClaimOffFromItsFile)
@@ -190,7 +190,7 @@ TEST_F(OpenForm, AVersionOfFewerThanThreeFieldsIsTheSubscriptError)
         EXPECT_EQ(Error::SubscriptOutOfRange, errorOf([&] { OpenFormFile(file); })) << version;
         EXPECT_TRUE(user.messages.empty());
         ASSERT_TRUE(Form);
-        EXPECT_FALSE(FormNeedsRecovery()) << "there is nothing of the user's in it";
+        EXPECT_EQ(clsLossCause::None, FormLossCause()) << "there is nothing of the user's in it";
     }
 }
 

@@ -40,7 +40,7 @@ TEST_F(StartUp, ABrokenPreferencesFileIsTheObjectError)
         EXPECT_EQ(clsRunTimeError::ObjectNotSet,
             errorOf([] { Preferences = std::make_unique<clsZR3PreferencesDatabase>(); }));
         EXPECT_FALSE(Preferences);
-        EXPECT_EQ(QString(), WriteRecoveredCopy());
+        EXPECT_EQ(QString(), WriteRecoveredCopy().path);
     }
 }
 
@@ -238,7 +238,7 @@ TEST_F(EndSignals, AProgramThatIsToldToEndWritesTheCopyAndEnds)
     ASSERT_GE(child, 0);
     if (child == 0) {
         QEventLoop loop;
-        SetEndSignalHandler([&] { loop.exit(WriteRecoveredCopy().isEmpty() ? 1 : 42); });
+        SetEndSignalHandler([&] { loop.exit(WriteRecoveredCopy().path.isEmpty() ? 1 : 42); });
         QTimer::singleShot(0, &loop, [] { ::kill(::getpid(), SIGTERM); });
         QTimer::singleShot(10000, &loop, [&] { loop.exit(2); });
         ::_exit(loop.exec());

@@ -92,6 +92,25 @@ TEST_F(Registry, AMachineWideValueIsNotCopiedToTheUser)
     EXPECT_EQ(QStringLiteral("/srv/moved"), ReadRegKey(Name));
 }
 
+TEST_F(Registry, APathWithACommaAndABlankIsReadAsItStands)
+{
+    make(QStringLiteral("config/Velmor"));
+    const std::pair<const char *, const char *> rows[] = {
+        {"[General]\nDatabase%20Path=/srv/Smith, Jones & Co/Databases\n", "/srv/Smith, Jones & Co/Databases"},
+        {"[General]\nDatabase Path = /srv/a ,b,  c \r\n", "/srv/a ,b,  c"},
+        {"Database%20Path=/srv/M\xc3\xbcller, Sohn\n", "/srv/M\xc3\xbcller, Sohn"},
+        {"[general]\nDatabase%20Path=/srv/a, b ; the firm's\n", "/srv/a, b"},
+        {"[Other]\nDatabase%20Path=/srv/x, y\n[General]\nDatabase%20Path=/srv/a, b\n[More]\nDatabase%20Path=/z, z\n",
+            "/srv/a, b"},
+        {"[General]\nDatabase%20Path=\"/srv/a, b\"\n", "/srv/a, b"},
+    };
+    for (const auto &[file, value] : rows) {
+        put(store, file);
+        EXPECT_EQ(QString::fromUtf8(value), ReadRegKey(Name)) << file;
+    }
+    EXPECT_TRUE(user.messages.empty());
+}
+
 TEST_F(Registry, ADeletedValueReadsAsEmpty)
 {
     WriteRegKey(Name, QStringLiteral("/srv/own"));
@@ -193,6 +212,27 @@ TEST_F(DatabasePath, ATrailingSlashOrBackslashIsStrippedAndStoredSo)
         EXPECT_EQ(path("own"), GetDatabasePath());
         EXPECT_EQ(path("own"), ReadRegKey(Name));
     }
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(DatabasePath, AMachineWidePathWithASlashAtItsEndIsNotCopiedToTheUser)
+{
+    make(QStringLiteral("firm"));
+    for (const char end : {'/', '\\'}) {
+        // The mark itself is doubled where it begins an escape in the file.
+        putMachineWide(path("firm").toUtf8() + (end == '\\' ? QByteArray("\\\\") : QByteArray(1, end)));
+        EXPECT_EQ(path("firm"), GetDatabasePath());
+        EXPECT_FALSE(exists(store)) << end;
+    }
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(DatabasePath, AMachineWidePathWithACommaIsFoundAndNotCopiedToTheUser)
+{
+    make(QStringLiteral("Smith, Jones"));
+    putMachineWide(path("Smith, Jones").toUtf8());
+    EXPECT_EQ(path("Smith, Jones"), GetDatabasePath());
+    EXPECT_FALSE(exists(store));
     EXPECT_TRUE(user.messages.empty());
 }
 

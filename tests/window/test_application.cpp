@@ -28,7 +28,7 @@ protected:
         application = std::make_unique<oApplication>(m_count, m_arguments);
         application->writeRecoveredCopy = [this] {
             ++copies;
-            return copyPath;
+            return copy;
         };
         // A loop that nothing ends is a failure, and not a hanging test.
         QTimer::singleShot(5000, application.get(), [] { QCoreApplication::exit(99); });
@@ -53,7 +53,7 @@ protected:
 
     std::unique_ptr<oApplication> application;
     clsScriptedUserInterface user;
-    QString copyPath;
+    clsRecoveredCopy copy;
     int copies = 0;
 
 private:
@@ -81,17 +81,17 @@ TEST_F(Application, ARunTimeErrorIsToldAndEndsTheProgram)
 
 TEST_F(Application, TheBoxSaysWhereTheCopyOfTheClaimLies)
 {
-    copyPath = QStringLiteral("/somewhere/Recovered/claim.zr3");
+    copy = {clsLossCause::UnsavedChanges, QStringLiteral("/somewhere/Recovered/claim.zr3"), {}};
     EXPECT_EQ(1, statusOf([] { throw clsRunTimeError(9); }));
     ASSERT_EQ(1u, user.messages.size());
     EXPECT_TRUE(
         user.messages[0].text.startsWith(QStringLiteral("Run-time error '9':\r\n\r\nSubscript out of range\r\n\r\n")));
-    EXPECT_TRUE(user.messages[0].text.endsWith(copyPath));
+    EXPECT_TRUE(user.messages[0].text.endsWith(copy.path));
 }
 
 TEST_F(Application, ACopyThatFailsHoldsNothingUp)
 {
-    application->writeRecoveredCopy = []() -> QString { throw clsRunTimeError(clsRunTimeError::DiskFull); };
+    application->writeRecoveredCopy = []() -> clsRecoveredCopy { throw clsRunTimeError(clsRunTimeError::DiskFull); };
     EXPECT_EQ(1, statusOf([] { throw clsRunTimeError(9); }));
     expectBox(QStringLiteral("Run-time error '9':\r\n\r\nSubscript out of range"));
 }

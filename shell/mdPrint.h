@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+#include <cstdio>
+
+/// A text with "?" for each control character. A claim or the name of a file can hold some, and a terminal obeys them.
+QString mdWithoutControls(QString text);
+
+/// Writes a text, whose lines end in CR LF, to a stream. Where that is a terminal, control characters are shown as "?".
+void mdPrint(std::FILE *stream, const QString &text);
+
+/// Whether a stream ends in a terminal.
+bool mdIsTerminal(std::FILE *stream);

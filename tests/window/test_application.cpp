@@ -2,16 +2,22 @@
 #include "shell/clsQuietUserInterface.h"
 #include "shell/clsRunTimeError.h"
 #include "shell/clsWindowUserInterface.h"
+#include "shell/mdClock.h"
 #include "shell/mdGlobals.h"
+#include "shell/mdLog.h"
+#include "shell/mdProgramFolder.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/oApplication.h"
 #include "tests/support/clsScriptedUserInterface.h"
 #include "tests/support/mdTestPrinting.h"
 
 #include <QDialog>
+#include <QDir>
 #include <QEventLoop>
 #include <QMetaMethod>
+#include <QScopeGuard>
 #include <QSessionManager>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -118,6 +124,39 @@ TEST_F(Application, AProgramEndEndsItWithoutAWordAndWritesTheCopy)
 {
     EXPECT_EQ(3, statusOf([] { throw clsProgramEnd {3}; }));
     EXPECT_EQ(1, copies);
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(Application, AnEndWithoutABoxTellsStandardErrorAndTheLogOfTheCopy)
+{
+    QTemporaryDir program;
+    ASSERT_TRUE(QDir(program.path()).mkpath(QStringLiteral("Logs")));
+    SetProgramFolder(program.path());
+    SetLogSwitch([] { return true; });
+    SetClock([] { return QDateTime(QDate(2026, 11, 21), QTime(14, 3, 22)); });
+    const auto atTheEnd = qScopeGuard([] {
+        SetProgramFolder(QString());
+        SetLogSwitch(nullptr);
+        SetClock(nullptr);
+    });
+    copy = {clsLossCause::UnsavedChanges, QStringLiteral("/somewhere/Recovered/claim.zr3"), {}};
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(3, statusOf([] { throw clsProgramEnd {3}; }));
+    const std::string sentence = "A copy of your claim with its unsaved changes is in: /somewhere/Recovered/claim.zr3";
+    EXPECT_EQ("Velmor ZR3: " + sentence + "\n", testing::internal::GetCapturedStderr());
+    QFile log(LogPath());
+    ASSERT_TRUE(log.open(QIODevice::ReadOnly));
+    EXPECT_EQ("21/11/2026 14:03:22 : " + sentence + "\r\n", log.readAll().toStdString());
+}
+
+TEST_F(Application, ASignalTellsStandardErrorWhereNothingCouldBeWritten)
+{
+    copy = {clsLossCause::SaveFailed, {}, {QStringLiteral("/a/Recovered"), QStringLiteral("/b/Recovered")}};
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(0, statusOf([this] { application->endUnasked(); }));
+    EXPECT_EQ("Velmor ZR3: No copy of your claim could be written. The program tried these folders: /a/Recovered, "
+              "/b/Recovered\n",
+        testing::internal::GetCapturedStderr());
     EXPECT_TRUE(user.messages.empty());
 }
 

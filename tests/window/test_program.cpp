@@ -3,6 +3,7 @@
 #include "preview/oPreviewGrid.h"
 #include "shell/clsFileSystem.h"
 #include "shell/frmSplash.h"
+#include "shell/mdClock.h"
 #include "shell/mdGlobals.h"
 #include "tests/support/mdTestPaths.h"
 #include "tests/support/mdTestPrinting.h"
@@ -10,6 +11,7 @@
 #include "wordexport/mdWordAlreadyRunning.h"
 
 #include <QAction>
+#include <QScopeGuard>
 #include <QTest>
 
 #include <csignal>
@@ -110,6 +112,54 @@ TEST_F(Program, WithoutADatabaseFolderItEnds)
         return press(QStringLiteral("Folder Error"), QMessageBox::Ok);
     }));
     EXPECT_FALSE(windowSeen);
+}
+
+TEST_F(Program, ADatabaseFolderThatGoesMeanwhileEndsItAtTheCloseOfThePreferences)
+{
+    QFile preferences(path("program/Databases/Preferences Database.vzp"));
+    ASSERT_TRUE(preferences.open(QIODevice::ReadWrite));
+    const QByteArray logged = preferences.readAll().replace("<log>False</log>", "<log>True</log>");
+    ASSERT_TRUE(preferences.seek(0));
+    preferences.write(logged);
+    preferences.resize(logged.size());
+    preferences.close();
+    SetClock([] { return QDateTime(QDate(2026, 11, 21), QTime(14, 3, 22)); });
+    const auto theSystemsClock = qScopeGuard([] { SetClock(nullptr); });
+    ASSERT_TRUE(QDir(path("program")).mkpath(QStringLiteral("Logs")));
+    QFile log(path("program/Logs/21-11-2026.txt"));
+    ASSERT_TRUE(log.open(QIODevice::ReadWrite));
+
+    bool opened = false, pressed = false;
+    QStringList boxes;
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(1, run({}, [&] {
+        QWidget *modal = QApplication::activeModalWidget();
+        if (!modal && !header().isEmpty() && !opened) {
+            opened = true;
+            Form->ClientDetails.Surname = QStringLiteral("Hartwell");
+            QTimer::singleShot(0, topLevel<frmMain>()->findChild<QAction *>("mnuPreferences"), &QAction::trigger);
+        } else if (modal && modal->objectName() == QLatin1String("frmPreferences") && !pressed) {
+            pressed = true;
+            QDir(path("program/Databases")).removeRecursively();
+            auto *button = modal->findChild<QWidget *>("cmdClose");
+            QTimer::singleShot(0, button, [button] { QTest::mouseClick(button, Qt::LeftButton); });
+        } else if (const auto *box = qobject_cast<QMessageBox *>(modal)) {
+            boxes << box->text();
+            return press(QStringLiteral("Folder Error"), QMessageBox::Ok);
+        }
+        return false;
+    }));
+    const QString told = QString::fromStdString(testing::internal::GetCapturedStderr());
+    EXPECT_EQ(QStringList {QStringLiteral("The folder ") + path("program/Databases")
+                  + QStringLiteral(" does not exist. Please contact your system administrator")},
+        boxes);
+    const QDir state(path("state/Velmor/Recovered"));
+    ASSERT_EQ(1, state.entryList(QDir::Files).size());
+    const QString sentence = QStringLiteral("A copy of your claim with its unsaved changes is in: ")
+        + state.filePath(state.entryList(QDir::Files).first());
+    EXPECT_TRUE(told.contains(QStringLiteral("Velmor ZR3: ") + sentence + u'\n')) << qPrintable(told);
+    EXPECT_TRUE(QString::fromUtf8(log.readAll()).contains(QStringLiteral("21/11/2026 14:03:22 : ") + sentence));
+    EXPECT_FALSE(QFile::exists(path("program/Databases"))) << "the folder is the administrator's to make";
 }
 
 TEST_F(Program, WithoutPreferencesItEndsWithARunTimeError)

@@ -1,0 +1,95 @@
+// What a terminal is shown of a claim and of the names of files.
+
+#include "tests/zr3tool/clsToolTest.h"
+
+#include <fcntl.h>
+#include <pty.h>
+#include <termios.h>
+
+namespace {
+
+class Terminal : public clsToolTest {
+protected:
+    void SetUp() override
+    {
+        clsToolTest::SetUp();
+        ASSERT_EQ(0, openpty(&m_reader, &m_terminal, nullptr, nullptr, nullptr));
+        // The line ends as the tool wrote them.
+        termios asWritten = {};
+        ASSERT_EQ(0, tcgetattr(m_terminal, &asWritten));
+        cfmakeraw(&asWritten);
+        ASSERT_EQ(0, tcsetattr(m_terminal, TCSANOW, &asWritten));
+        ASSERT_EQ(0, fcntl(m_reader, F_SETFL, O_NONBLOCK));
+    }
+    void TearDown() override
+    {
+        close(m_reader);
+        close(m_terminal);
+        clsToolTest::TearDown();
+    }
+
+    /// Runs the tool with one of its streams at the terminal; what stands there after the progress has been cleared,
+    /// which must be without control characters but for line feeds.
+    QByteArray shownBy(const QStringList &arguments, int stream, int status)
+    {
+        const clsToolResult result = run(arguments, {}, [this, stream] {
+            if (dup2(m_terminal, stream) < 0)
+                _exit(127);
+        });
+        EXPECT_EQ(status, result.status);
+        QByteArray shown(65536, '\0');
+        shown.truncate(qMax(ssize_t(0), read(m_reader, shown.data(), size_t(shown.size()))));
+        const QByteArray progressCleared = "\r\033[K";
+        if (const qsizetype last = shown.lastIndexOf(progressCleared); last >= 0)
+            shown.remove(0, last + progressCleared.size());
+        for (const QChar c : QString::fromUtf8(shown))
+            EXPECT_TRUE(c == u'\n' || c.category() != QChar::Other_Control) << int(c.unicode());
+        return shown;
+    }
+
+    /// A text that would clear the screen and begin a line of its own.
+    const QString m_odd = QString::fromUtf8("a\x1b[2Jb\302\201c\nTotals: d\x7f.zr3");
+    const QByteArray m_shown = "a?[2Jb?c?Totals: d?.zr3";
+
+private:
+    int m_reader = -1;
+    int m_terminal = -1;
+};
+
+} // namespace
+
+TEST_F(Terminal, ShowsTheNameOfAFileWithoutItsControlCharacters)
+{
+    const QByteArray before = "File Not Read: There was a problem reading the following path:\n\n";
+    const QByteArray after = "\n\nThe error reported is:\n\n53 - File not found\n";
+    EXPECT_EQ(before + m_shown + after, shownBy({"totals"_q, m_odd}, STDERR_FILENO, 2));
+    // What goes to a file stays as it is.
+    EXPECT_EQ(before + m_odd.toUtf8() + after, run({"totals"_q, m_odd}).err);
+}
+
+TEST_F(Terminal, ShowsTheTextsOfAClaimWithoutTheirControlCharacters)
+{
+    clsZR3Form form;
+    form.FormType = m_odd;
+    EXPECT_EQ("Export: There are no pages for the form type \"" + m_shown + "\" of this claim.\n",
+        shownBy({"export"_q, putClaim(form), folder.path()}, STDERR_FILENO, 4));
+}
+
+TEST_F(Terminal, ShowsTheFiguresWithTheirControlCharactersEscaped)
+{
+    clsZR3Form form;
+    form.FormType = m_odd;
+    const QByteArray shown = shownBy({"totals"_q, putClaim(form)}, STDOUT_FILENO, 0);
+    EXPECT_TRUE(shown.contains(R"("FormType": "a\u001b[2Jb\u0081c\nTotals: d\u007f.zr3")")) << shown.constData();
+    EXPECT_EQ(m_odd, QJsonDocument::fromJson(shown)["FormType"_q].toString());
+    // Wherever the figures go.
+    EXPECT_EQ(shown, run({"totals"_q, path("claim.zr3")}).out);
+}
+
+TEST_F(Terminal, ShowsTheCheckLineByLine)
+{
+    clsZR3Form form;
+    fill(form);
+    form.AddDisbursement();
+    EXPECT_EQ("Blank items: \n\nDisbursements: 1\n", shownBy({"check"_q, putClaim(form)}, STDOUT_FILENO, 3));
+}

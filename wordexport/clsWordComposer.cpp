@@ -100,10 +100,10 @@ xml_node clsWordComposer::targetBody()
     return bodyOf(m_target);
 }
 
-void clsWordComposer::append(const QString &path)
+void clsWordComposer::append(const QString &path, const QString &shownName)
 {
     const clsStaging staging(m_target.partXml(m_target.mainPart()));
-    clsWordPackage source(clsZipPackage::fromFile(path), path, staging.place());
+    clsWordPackage source(clsZipPackage::fromFile(path, shownName), shownName, staging.place());
     append(source);
 }
 

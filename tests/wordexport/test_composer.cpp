@@ -385,7 +385,8 @@ TEST(InsertFileAtEnd, ADocumentNestedBeyondAllMeasureIsRefused)
     word.InsertFileAtEnd(folder.write(QStringLiteral("b.doc"), deep.zip().toBytes(clsZipPackage::Stored)));
     EXPECT_TRUE(word.sheetLost());
     ASSERT_EQ(user.messages.size(), 1u);
-    EXPECT_TRUE(user.messages[0].text.contains(QStringLiteral("b.doc is damaged.")));
+    EXPECT_TRUE(
+        user.messages[0].text.contains(QStringLiteral("b.doc is damaged: its part word/document.xml can't be read.")));
     word.SaveAndClose();
     EXPECT_EQ(bodyXml(path), sheet(QStringLiteral("a")).body);
 }

@@ -7,6 +7,7 @@
 #include "shell/mdStateFolder.h"
 #include "shell/mdTextDocumentHandling.h"
 
+#include <QFile>
 #include <QFileInfo>
 
 namespace {
@@ -23,11 +24,21 @@ bool canBeKept(const QString &folder, const QString &name)
         && (!file.exists() || (file.isFile() && file.isReadable() && file.isWritable()));
 }
 
-/// The folder for the day's file below "Logs", empty where neither can be written.
+/// A folder of the user's own with the day's file in it; empty where it can't be. The file is there at once, because
+/// the log can move in the midst of work, and the box of a day that begins would come from nowhere.
+QString ownFolder(const QString &folder, const QString &name)
+{
+    if (!MakeOwnFolder(folder))
+        return {};
+    QFile file(folder + u'/' + name);
+    const bool made = file.open(QIODevice::WriteOnly | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner);
+    return made || file.exists() ? folder : QString();
+}
+
+/// The folder for the day's file in or below "Logs", empty where it can't be written in either.
 QString folderBelow(const QString &logs, const QString &name)
 {
-    const QString own = logs + u'/' + OwnName();
-    return canBeKept(logs, name) ? logs : MakeOwnFolder(own) ? own : QString();
+    return canBeKept(logs, name) ? logs : ownFolder(logs + u'/' + OwnName(), name);
 }
 
 /// The folder beside the program, unless it is there and this user can't write the day's file in it: because it was
@@ -42,9 +53,10 @@ QString folderOfLog(const QString &name)
     MakeFolderLikeItsParent(withPreferences);
     if (const QString shared = folderBelow(withPreferences, name); !shared.isEmpty())
         return shared;
+    // Where this can't be written either, the boxes of each line tell.
     const QString own = StateFolder() + QStringLiteral("/Logs");
     if (MakeStateFolder())
-        MakeOwnFolder(own);
+        ownFolder(own, name);
     return own;
 }
 

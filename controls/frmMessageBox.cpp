@@ -17,8 +17,6 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include <vector>
-
 namespace {
 
 using UI = clsUserInterface;
@@ -29,6 +27,7 @@ constexpr int WidestBox = 560;
 struct clsButtonSet {
     std::vector<UI::Answer> shown;
     UI::Answer preset;
+    UI::Answer systemPreset; ///< of a system box: Enter never presses what loses something
 };
 
 /// By the number of the set.
@@ -36,13 +35,23 @@ const clsButtonSet &buttonSet(UI::Buttons buttons)
 {
     // clang-format off
     static const clsButtonSet sets[] = {
-        {{UI::OK},                      UI::OK},
-        {{UI::OK, UI::Cancel},          UI::OK},
-        {{UI::Yes, UI::No},             UI::Yes},
-        {{UI::Yes, UI::No, UI::Cancel}, UI::Yes},
+        {{UI::OK},                      UI::OK,  UI::OK},
+        {{UI::OK, UI::Cancel},          UI::OK,  UI::OK},
+        {{UI::Yes, UI::No},             UI::Yes, UI::No},
+        {{UI::Yes, UI::No, UI::Cancel}, UI::Yes, UI::Yes},
     };
     // clang-format on
     return sets[size_t(buttons)];
+}
+
+int iconOf(UI::SystemIcon icon)
+{
+    switch (icon) {
+    case UI::Critical: return 0;
+    case UI::Question: return 1;
+    case UI::Information: return 2;
+    }
+    return 0;
 }
 
 /// Icons 0, 1 and 2 are these groups of the header's icons.
@@ -128,15 +137,21 @@ void frmMessageBox::addButton(QHBoxLayout &bar, const char *name, const QString 
     m_buttons[given] = button;
 }
 
-void frmMessageBox::Initialise(const QString &message, const QString &title, UI::Buttons buttons, int icon, int timeout)
+void frmMessageBox::write(const QString &message, const QString &title, int icon)
 {
     QString lines = message;
     m_message->setText(lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     setAccessibleDescription(m_message->text());
     m_header->setCaption(title);
     setWindowTitle(title);
-    chooseButtons(buttons, losesSomething(title));
     m_header->setIconGroup(iconGroup(icon));
+}
+
+void frmMessageBox::Initialise(const QString &message, const QString &title, UI::Buttons buttons, int icon, int timeout)
+{
+    write(message, title, icon);
+    const clsButtonSet &set = buttonSet(buttons);
+    chooseButtons(set.shown, set.preset, losesSomething(title));
     m_remaining = timeout;
     if (timeout >= 1) {
         reserveCountdown();
@@ -146,16 +161,23 @@ void frmMessageBox::Initialise(const QString &message, const QString &title, UI:
     PlayWav(ProgramPath(QStringLiteral("Sounds/Alert.wav")));
 }
 
-void frmMessageBox::chooseButtons(UI::Buttons buttons, bool danger)
+void frmMessageBox::InitialiseSystem(
+    const QString &message, const QString &title, UI::Buttons buttons, UI::SystemIcon icon)
 {
+    write(message, title, iconOf(icon));
     const clsButtonSet &set = buttonSet(buttons);
+    chooseButtons(set.shown, set.systemPreset, false);
+    fit();
+}
+
+void frmMessageBox::chooseButtons(const std::vector<UI::Answer> &shown, UI::Answer preset, bool danger)
+{
     for (const auto &[which, button] : m_buttons)
         button->setVisible(false);
-    for (const UI::Answer which : set.shown)
+    for (const UI::Answer which : shown)
         m_buttons[which]->setVisible(true);
-    oCustomButton *preset = m_buttons[set.preset];
-    preset->setLook(danger ? oCustomButton::Look::Danger : oCustomButton::Look::Default);
-    preset->setFocus();
+    m_buttons[preset]->setLook(danger ? oCustomButton::Look::Danger : oCustomButton::Look::Default);
+    m_buttons[preset]->setFocus();
 }
 
 void frmMessageBox::reserveCountdown()

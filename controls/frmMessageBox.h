@@ -5,6 +5,7 @@
 #include <QDialog>
 
 #include <map>
+#include <vector>
 
 class QHBoxLayout;
 class QLabel;
@@ -25,6 +26,10 @@ public:
     void Initialise(
         const QString &message, const QString &title, clsUserInterface::Buttons buttons, int icon, int timeout);
 
+    /// The plain box of the system, in the look of the others. It is silent and doesn't count down.
+    void InitialiseSystem(const QString &message, const QString &title, clsUserInterface::Buttons buttons,
+        clsUserInterface::SystemIcon icon);
+
     /// What the user answered.
     clsUserInterface::Answer Result() const { return m_result; }
 
@@ -38,7 +43,9 @@ private:
     void buildMessage();
     void addButton(QHBoxLayout &bar, const char *name, const QString &caption, clsUserInterface::Answer given);
     void answer(clsUserInterface::Answer given);
-    void chooseButtons(clsUserInterface::Buttons buttons, bool danger);
+    void write(const QString &message, const QString &title, int icon);
+    void chooseButtons(
+        const std::vector<clsUserInterface::Answer> &shown, clsUserInterface::Answer preset, bool danger);
     void countDown();
     void reserveCountdown();
     void fit();

@@ -1,5 +1,6 @@
 #include "controls/mdPaintControls.h"
 
+#include "controls/mdLine.h"
 #include "controls/mdTheme.h"
 
 #include <QHeaderView>
@@ -23,7 +24,7 @@ bool beginsRow(const QStyleOptionViewItem &option, const QWidget *widget)
 void mdPaintHeading(QPainter &painter, const QStyleOption &option)
 {
     painter.fillRect(option.rect, Theme::Canvas);
-    painter.fillRect(QRect(option.rect.left(), option.rect.bottom(), option.rect.width(), 1), Theme::Line);
+    mdPaintLine(painter, option.rect, Qt::BottomEdge, Theme::Line);
 }
 
 void mdPaintRow(QPainter &painter, const QStyleOptionViewItem &option, const QWidget *widget)

@@ -1,20 +1,18 @@
 #include "controls/mdShowModal.h"
 
 #include "controls/mdLargestWindow.h"
+#include "controls/mdPointerScreen.h"
 #include "controls/oVeil.h"
 
 #include <QApplication>
 #include <QDialog>
-#include <QScreen>
 
 namespace {
 
-/// The window that the new one stands over: the active one, or the one it was made for.
+/// The window that the new one stands over: the one in front, or the one it was made for.
 QWidget *windowBelow(const QDialog &form)
 {
-    QWidget *below = QApplication::activeModalWidget();
-    if (!below)
-        below = QApplication::activeWindow();
+    QWidget *below = mdWindowInFront();
     if (!below && form.parentWidget())
         below = form.parentWidget()->window();
     return below == &form ? nullptr : below;
@@ -22,11 +20,14 @@ QWidget *windowBelow(const QDialog &form)
 
 void place(QDialog &form, const QWidget *below)
 {
-    const QScreen *screen = below ? below->screen() : form.screen();
+    const QScreen *screen = below ? below->screen() : mdPointerScreen();
     const QRect room = screen->availableGeometry();
+    // The desktop's frame, as the window below has it: how large that of the new one is shows only when it is up.
+    const QSize edges = below ? below->frameGeometry().size() - below->size() : QSize(0, 0);
+    const QSize largest = mdLargestWindow(*screen).boundedTo(room.size() - edges);
     const QSize wanted = form.testAttribute(Qt::WA_Resized) ? form.size() : form.sizeHint();
-    form.resize(wanted.boundedTo(mdLargestWindow(*screen)).expandedTo(form.minimumSizeHint()));
-    QRect frame = form.rect();
+    form.resize(wanted.boundedTo(largest).expandedTo(form.minimumSizeHint()));
+    QRect frame(QPoint(), form.size() + edges);
     frame.moveCenter(below ? below->frameGeometry().center() : room.center());
     frame.moveLeft(qBound(room.left(), frame.left(), qMax(room.left(), room.right() + 1 - frame.width())));
     frame.moveTop(qBound(room.top(), frame.top(), qMax(room.top(), room.bottom() + 1 - frame.height())));
@@ -35,10 +36,23 @@ void place(QDialog &form, const QWidget *below)
 
 } // namespace
 
-void mdShowModal(QDialog &form)
+QWidget *mdWindowInFront()
+{
+    if (QWidget *modal = QApplication::activeModalWidget())
+        return modal;
+    if (QWidget *active = QApplication::activeWindow())
+        return active;
+    // Another program is in front. A box without a window of its own would come up as one more window beside ours.
+    for (QWidget *window : QApplication::topLevelWidgets())
+        if (window->isVisible() && window->windowType() == Qt::Window)
+            return window;
+    return nullptr;
+}
+
+int mdShowModal(QDialog &form)
 {
     QWidget *below = windowBelow(form);
     place(form, below);
     const oVeil veil(below);
-    form.exec();
+    return form.exec();
 }

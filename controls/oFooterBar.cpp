@@ -22,14 +22,16 @@ namespace {
 
 constexpr int FooterRoomAboveAndBelow = 18;
 constexpr int BarWidth = 160;
+constexpr int NarrowestProgress = 40;
 
-/// The text and a thin bar behind it; nothing at 0. Its `format` holds the text as it is: nothing in it is replaced.
+/// The text and a thin bar behind it; nothing at 0. Its `format` holds the text as it is: nothing in it is replaced. In
+/// a narrow window it gives its room to what stands beside it.
 class clsFooterProgress final : public QProgressBar {
 public:
     using QProgressBar::QProgressBar;
 
     QSize sizeHint() const override { return {2 * Theme::scaled(BarWidth), fontMetrics().height()}; }
-    QSize minimumSizeHint() const override { return {Theme::scaled(BarWidth), fontMetrics().height()}; }
+    QSize minimumSizeHint() const override { return {Theme::scaled(NarrowestProgress), fontMetrics().height()}; }
 
 protected:
     void paintEvent(QPaintEvent *) override
@@ -37,7 +39,7 @@ protected:
         if (value() <= 0 || maximum() <= 0)
             return;
         QPainter painter(this);
-        const int barWidth = Theme::scaled(BarWidth);
+        const int barWidth = std::min(Theme::scaled(BarWidth), width() / 2);
         QStyleOptionProgressBar option;
         initStyleOption(&option);
         option.rect.setLeft(width() - barWidth);
@@ -168,5 +170,5 @@ void oFooterBar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.fillRect(rect(), Theme::Paper);
-    painter.fillRect(0, 0, width(), 1, Theme::Line);
+    mdPaintLine(painter, rect(), Qt::TopEdge, Theme::Line);
 }

@@ -2,6 +2,7 @@
 
 #include "controls/mdAccessible.h"
 #include "controls/mdCaption.h"
+#include "controls/mdLine.h"
 #include "controls/mdTheme.h"
 #include "controls/oFrameCaption.h"
 
@@ -149,7 +150,7 @@ void oFrame::paintEvent(QPaintEvent *)
     painter.setBrush(m_backColour);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), corner - 0.5, corner - 0.5);
     if (open)
-        painter.fillRect(QRect(1, m_bar->geometry().bottom() + 1, width() - 2, 1), Theme::Line);
+        mdPaintLine(painter, QRect(1, m_bar->geometry().bottom() + 1, width() - 2, 1), Qt::TopEdge, Theme::Line);
 }
 
 void oFrame::resizeEvent(QResizeEvent *event)

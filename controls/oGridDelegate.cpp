@@ -1,6 +1,7 @@
 #include "controls/oGridDelegate.h"
 
 #include "controls/mdGridMetrics.h"
+#include "controls/mdLine.h"
 #include "controls/mdPaintControls.h"
 #include "controls/mdTheme.h"
 #include "controls/mdToolTip.h"
@@ -68,7 +69,7 @@ void oGridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     QStyleOptionViewItem row = option;
     row.state.setFlag(QStyle::State_MouseOver, index.row() == m_hoveredRow);
     mdPaintRow(*painter, row, option.widget);
-    painter->fillRect(QRect(cell.left(), cell.bottom(), cell.width(), 1), Theme::Hairline);
+    mdPaintLine(*painter, cell, Qt::BottomEdge, Theme::Hairline);
 
     const clsGridCell &shown = modelOf(index).cell(index.row(), index.column());
     if (shown.kind == clsGridCell::Text)

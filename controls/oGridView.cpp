@@ -1,6 +1,7 @@
 #include "controls/oGridView.h"
 
 #include "controls/mdGridMetrics.h"
+#include "controls/mdLine.h"
 #include "controls/mdTheme.h"
 #include "controls/oGridHeader.h"
 
@@ -106,10 +107,9 @@ void oGridView::paintFrame()
         painter.fillRect(rect(), Theme::Purple);
         return;
     }
-    painter.fillRect(rect(), Theme::Grey);
-    const QRect inside = rect().adjusted(1, 1, -1, -1);
-    painter.fillRect(inside, Theme::Paper);
-    painter.fillRect(QRect(inside.topLeft(), QSize(inside.width(), horizontalHeader()->height() + 1)), Theme::Canvas);
+    painter.fillRect(rect(), Theme::Paper);
+    painter.fillRect(QRect(0, 0, width(), horizontalHeader()->height() + 2), Theme::Canvas);
+    mdPaintLine(painter, rect(), Qt::TopEdge | Qt::BottomEdge | Qt::LeftEdge | Qt::RightEdge, Theme::Grey);
 }
 
 bool oGridView::viewportEvent(QEvent *event)

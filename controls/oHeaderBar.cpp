@@ -1,6 +1,7 @@
 #include "controls/oHeaderBar.h"
 
 #include "controls/mdIcons.h"
+#include "controls/mdLine.h"
 #include "controls/mdLowScreen.h"
 #include "controls/mdTheme.h"
 #include "controls/mdToolTip.h"
@@ -123,7 +124,7 @@ void oHeaderBar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.fillRect(rect(), Theme::Paper);
-    painter.fillRect(QRect(0, height() - 1, width(), 1), Theme::Line);
+    mdPaintLine(painter, rect(), Qt::BottomEdge, Theme::Line);
 
     const int edge = m_low ? Theme::Space16 : Theme::Space24;
     const int side = tileSide();

@@ -1,6 +1,7 @@
 #include "controls/oTabBar.h"
 
 #include "controls/mdAccessible.h"
+#include "controls/mdLine.h"
 #include "controls/mdTheme.h"
 #include "controls/oTabBarButton.h"
 
@@ -230,5 +231,5 @@ void oTabBar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.fillRect(rect(), m_row == Row::Tabs ? Theme::Paper : Theme::Band);
-    painter.fillRect(0, height() - 1, width(), 1, Theme::Line);
+    mdPaintLine(painter, rect(), Qt::BottomEdge, Theme::Line);
 }

@@ -37,7 +37,8 @@ oTimeSpentBox::oTimeSpentBox(QWidget *parent)
     tmrTimer.setInterval(std::chrono::minutes(1));
 
     auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
+    // The button's ring goes beyond its visible edge, to which the layout keeps.
+    row->setContentsMargins(0, Theme::RingRoom, Theme::RingRoom, Theme::RingRoom);
     row->setSpacing(Theme::Space8);
     row->addWidget(txtTime);
     row->addWidget(cmdStartStop);

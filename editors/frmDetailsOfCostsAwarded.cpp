@@ -5,7 +5,7 @@
 
 /// Costs awarded to the client, and what became of them. The total is typed and not added up, and an amount that hangs
 /// on a question stays open whatever the answer. Only one of the forms prints the total: its frame says so, within the
-/// order of the others, and stays open too.
+/// order of the others, and stays open too. The frames behind it, which only keep that order, have no caption.
 const clsScreen &ScreenDetailsOfCostsAwarded()
 {
     using enum clsRowKind;
@@ -29,7 +29,7 @@ const clsScreen &ScreenDetailsOfCostsAwarded()
             {"bxClaim1A", "Claim1A Only", {
                 {Decimal, "txtTotalCostsAwarded",                 "Total costs awarded:"},
             }},
-            {"oFrame1", "Details of Costs Awarded", {
+            {"oFrame1", "", {
                 {Question, "", "Are legal advice and assistance, and/or Legal Help costs included in the "
                                "pre-certificate costs Awarded?"},
                 {Tick,    "chkLegalHelpInPreCertificateCostsYes",    "Yes:"},
@@ -41,7 +41,7 @@ const clsScreen &ScreenDetailsOfCostsAwarded()
                 {Text,    "txtInterestBreakdown",
                  "Please provide a breakdown where interest has been calculated:", 60, MultiLine | SpellCheck},
             }},
-            {.name = "oFrame2", .caption = "Details of Costs Awarded", .rows = {
+            {.name = "oFrame2", .caption = "", .rows = {
                 {Decimal, "txtAmountRecoveredToDate",  "Amount recovered to date:"},
                 {Date,    "txtDateOrderServed",        "Date order was served:"},
                 {Text,    "txtAddressOfService",       "Address of service:", 75, MultiLine},

@@ -15,9 +15,10 @@ namespace {
 
 void browse(const frmSection &screen)
 {
-    const QString folder = GetFolder(QStringLiteral("Please select a folder to backup to..."));
+    auto &box = screen.Box<oAllPurposeBox>("txtAutoBackupPath");
+    const QString folder = GetFolder(QStringLiteral("Please select a folder to backup to..."), box.Text());
     if (!folder.isEmpty())
-        screen.Box<oAllPurposeBox>("txtAutoBackupPath").setText(folder);
+        box.setText(folder);
 }
 
 void rules(frmSection &screen)

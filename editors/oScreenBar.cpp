@@ -1,5 +1,6 @@
 #include "editors/oScreenBar.h"
 
+#include "controls/mdLine.h"
 #include "controls/mdLowScreen.h"
 #include "controls/mdTheme.h"
 #include "controls/oCustomButton.h"
@@ -99,7 +100,7 @@ void oScreenBar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.fillRect(rect(), Theme::Paper);
-    painter.fillRect(QRect(0, 0, width(), 1), Theme::Line);
+    mdPaintLine(painter, rect(), Qt::TopEdge, Theme::Line);
 }
 
 void oScreenBar::resizeEvent(QResizeEvent *event)

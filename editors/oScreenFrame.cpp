@@ -1,6 +1,7 @@
 #include "editors/oScreenFrame.h"
 
 #include "controls/mdLeaveFocusedBox.h"
+#include "controls/mdLine.h"
 #include "controls/mdTheme.h"
 #include "controls/oContentSwitcher.h"
 #include "editors/clsFrameRows.h"
@@ -116,6 +117,6 @@ void oScreenFrame::paintEvent(QPaintEvent *event)
             line.setLeft(1);
             line.setRight(width() - 2);
         }
-        painter.fillRect(line, Theme::Hairline);
+        mdPaintLine(painter, line, Qt::TopEdge, Theme::Hairline);
     }
 }

@@ -1,5 +1,6 @@
 #include "preview/clsPreviewPainter.h"
 
+#include "controls/mdLine.h"
 #include "controls/mdTheme.h"
 
 #include <QApplication>
@@ -17,6 +18,11 @@ constexpr double OrdinaryPoints = 10;
 constexpr int Gap = 5;
 constexpr int Padding = 6;
 constexpr int NumbersColumn = 1;
+/// What is too wide for its column is written smaller before any of it is lost, down to this part of its size.
+constexpr double SmallestPart = 0.5;
+constexpr double FontStep = 0.5;
+/// What is left on either side of a text that fills its column, so that two of them don't run into each other.
+constexpr int LeastPadding = 2;
 
 /// The texts of a claim have the line ends of its file; the layout knows one sign for all of them.
 QString laidOut(QString text)
@@ -35,6 +41,18 @@ bool hasLineEnd(const QString &text)
 Qt::Alignment across(clsGridAlignment alignment)
 {
     return mdGridAlignment(alignment) & Qt::AlignHorizontal_Mask;
+}
+
+/// The width of what can't be broken: the text, or the longest word of one that wraps between words.
+int unbrokenWidth(const clsPreviewCell &cell, const QFont &font)
+{
+    const QFontMetrics metrics(font);
+    if (!cell.wraps())
+        return metrics.horizontalAdvance(cell.text);
+    int widest = 0;
+    for (const QString &word : cell.text.split(u' '))
+        widest = std::max(widest, metrics.horizontalAdvance(word));
+    return widest;
 }
 
 /// Breaks a text into lines of a width; measuring and drawing go through here, so that they agree.
@@ -90,34 +108,52 @@ int clsPreviewPainter::heightOf(int row) const
         const clsPreviewCell &cell = m_model.cells.Cell(row, column);
         const clsPlaced placed = place(row, column, QRect(0, 0, m_model.cells.ColumnWidth(column), 1));
         if (cell.wraps() && !placed.fits)
-            tallest = std::max(tallest, wrappedHeight(cell, placed.rect.width()) + m_gap);
+            tallest = std::max(tallest, wrappedHeight(cell, placed) + m_gap);
     }
     return tallest;
 }
 
-int clsPreviewPainter::wrappedHeight(const clsPreviewCell &cell, int width) const
+int clsPreviewPainter::wrappedHeight(const clsPreviewCell &cell, const clsPlaced &placed) const
 {
-    QTextLayout layout(laidOut(cell.text), font(cell.bold, cell.underline));
-    return int(std::ceil(layOut(layout, width, across(cell.alignment))));
+    QTextLayout layout(laidOut(cell.text), placed.font);
+    return int(std::ceil(layOut(layout, placed.rect.width(), across(cell.alignment))));
+}
+
+QFont clsPreviewPainter::fittingFont(const clsPreviewCell &cell, int room) const
+{
+    QFont result = font(cell.bold, cell.underline);
+    const double smallest = SmallestPart * result.pointSizeF();
+    while (unbrokenWidth(cell, result) > room && result.pointSizeF() - FontStep >= smallest)
+        result.setPointSizeF(result.pointSizeF() - FontStep);
+    return result;
 }
 
 clsPreviewPainter::clsPlaced clsPreviewPainter::place(int row, int column, const QRect &rect) const
 {
     const clsPreviewCell &cell = m_model.cells.Cell(row, column);
-    int padding = m_padding;
-    if (m_model.cells.RowLook(row) == clsPreviewRowLook::Joined)
-        padding = 0;
-    else if (cell.alignment == clsGridAlignment::CentreWrapped)
-        padding = 1;
+    const QFont &own = font(cell.bold, cell.underline);
+    const int advance = QFontMetrics(own).horizontalAdvance(cell.text);
+    if (m_model.cells.RowLook(row) == clsPreviewRowLook::Joined) {
+        // Beyond its column, whose neighbour on that side is empty, so that the word is never broken.
+        const int beyond = std::max(0, advance - rect.width());
+        const bool right = across(cell.alignment) & Qt::AlignRight;
+        return {rect.adjusted(right ? -beyond : 0, 0, right ? 0 : beyond, 0), true, own};
+    }
+    const int padding = cell.alignment == clsGridAlignment::CentreWrapped ? LeastPadding : m_padding;
     const QRect padded = rect.adjusted(padding, 0, -padding, 0);
     if (cell.text.isEmpty())
-        return {padded, true};
-    const int advance = QFontMetrics(font(cell.bold, cell.underline)).horizontalAdvance(cell.text);
+        return {padded, true, own};
     const bool oneLine = !hasLineEnd(cell.text);
-    // A figure that fails to fit takes the padding too, before any of it is lost.
-    if (!cell.wraps() && advance > padded.width())
-        return {rect, oneLine && advance <= rect.width()};
-    return {padded, oneLine && advance <= padded.width()};
+    if (advance <= padded.width())
+        return {padded, oneLine, own};
+    if (cell.alignment == clsGridAlignment::CentreWrapped)
+        return {padded, false, fittingFont(cell, padded.width())};
+    if (cell.wraps())
+        return {padded, false, own};
+    // A figure that fails to fit takes the padding too.
+    const QRect whole = rect.adjusted(LeastPadding, 0, -LeastPadding, 0);
+    const QFont smaller = fittingFont(cell, whole.width());
+    return {whole, oneLine && QFontMetrics(smaller).horizontalAdvance(cell.text) <= whole.width(), smaller};
 }
 
 void clsPreviewPainter::paintRow(QPainter &painter, int row, int top, const std::vector<int> &lefts) const
@@ -149,8 +185,8 @@ void clsPreviewPainter::paintSpacer(QPainter &painter, int row, int top, const s
         return;
     const bool strong = above == Look::Captions || below == Look::Totals;
     const int middle = top + m_model.cells.RowHeight(row) / 2;
-    painter.fillRect(
-        QRect(lefts.front(), middle, lefts.back() - lefts.front(), 1), strong ? Theme::Edge : Theme::Hairline);
+    mdPaintLine(painter, QRect(lefts.front(), middle, lefts.back() - lefts.front(), 1), Qt::TopEdge,
+        strong ? Theme::Edge : Theme::Hairline);
 }
 
 void clsPreviewPainter::paintCell(QPainter &painter, int row, int column, const QRect &rect) const
@@ -158,15 +194,14 @@ void clsPreviewPainter::paintCell(QPainter &painter, int row, int column, const 
     const clsPreviewCell &cell = m_model.cells.Cell(row, column);
     if (cell.text.isEmpty())
         return;
-    const QFont &own = font(cell.bold, cell.underline);
     const clsPlaced placed = place(row, column, rect);
     const Qt::Alignment alignment = across(cell.alignment);
-    painter.setFont(own);
+    painter.setFont(placed.font);
     painter.setPen(column == NumbersColumn && !cell.bold ? Theme::Ink2 : Theme::Ink);
     // Captions stand in the middle of their row; the number of a tall note stands beside its first line.
     const bool middle = alignment == Qt::AlignHCenter;
     if (!placed.fits && cell.wraps()) {
-        QTextLayout layout(laidOut(cell.text), own);
+        QTextLayout layout(laidOut(cell.text), placed.font);
         const double height = layOut(layout, placed.rect.width(), alignment);
         const double above = middle ? (placed.rect.height() - height) / 2 : m_gap / 2;
         layout.draw(&painter, QPointF(placed.rect.left(), placed.rect.top() + above));
@@ -176,7 +211,7 @@ void clsPreviewPainter::paintCell(QPainter &painter, int row, int column, const 
     if (!middle)
         line = QRect(line.left(), line.top() + m_gap / 2, line.width(), m_lineHeight);
     const QString shown
-        = placed.fits ? cell.text : QFontMetrics(own).elidedText(cell.text, Qt::ElideRight, line.width());
+        = placed.fits ? cell.text : QFontMetrics(placed.font).elidedText(cell.text, Qt::ElideRight, line.width());
     painter.drawText(line, int(alignment | Qt::AlignVCenter) | Qt::TextSingleLine, shown);
 }
 

@@ -29,15 +29,18 @@ public:
     bool isElided(int row, int column) const;
 
 private:
-    /// Where a cell's text goes, and whether it fits there in one line.
+    /// Where a cell's text goes, whether it fits there in one line, and the font that it is written in.
     struct clsPlaced {
         QRect rect;
         bool fits;
+        QFont font;
     };
     clsPlaced place(int row, int column, const QRect &rect) const;
     void paintSpacer(QPainter &painter, int row, int top, const std::vector<int> &lefts) const;
     void paintCell(QPainter &painter, int row, int column, const QRect &rect) const;
-    int wrappedHeight(const clsPreviewCell &cell, int width) const;
+    int wrappedHeight(const clsPreviewCell &cell, const clsPlaced &placed) const;
+    /// The cell's font, so much smaller that what can't be broken has room.
+    QFont fittingFont(const clsPreviewCell &cell, int room) const;
 
     const clsPreviewModel &m_model;
     std::array<QFont, 4> m_fonts;

@@ -1,5 +1,6 @@
 #include "preview/oPreviewSheet.h"
 
+#include "controls/mdLine.h"
 #include "controls/mdTheme.h"
 #include "preview/oPreviewGrid.h"
 
@@ -65,11 +66,14 @@ void oPreviewSheet::changeEvent(QEvent *event)
 void oPreviewSheet::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const bool focused = m_grid->hasFocus();
-    const int thickness = focused ? Frame : 1;
     const QRect outside = sheet();
-    painter.fillRect(outside, focused ? Theme::Purple : Theme::Grey);
-    painter.fillRect(outside.adjusted(thickness, thickness, -thickness, focused ? -thickness : 0), Theme::Paper);
+    if (m_grid->hasFocus()) {
+        painter.fillRect(outside, Theme::Purple);
+        painter.fillRect(outside.adjusted(Frame, Frame, -Frame, -Frame), Theme::Paper);
+        return;
+    }
+    painter.fillRect(outside, Theme::Paper);
+    mdPaintLine(painter, outside, Qt::TopEdge | Qt::LeftEdge | Qt::RightEdge, Theme::Grey);
 }
 
 bool oPreviewSheet::eventFilter(QObject *watched, QEvent *event)

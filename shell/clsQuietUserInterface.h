@@ -16,7 +16,7 @@ public:
     }
     void showProgress(int, int, const QString &) override { }
     void clearProgress() override { }
-    QString chooseFolder(const QString &) override { return {}; }
+    QString chooseFolder(const QString &, const QString &) override { return {}; }
     QString chooseFileToOpen(const QString &) override { return {}; }
     QString chooseFileToSave(const QString &, const QString &) override { return {}; }
     void playSound(const QString &) override { }

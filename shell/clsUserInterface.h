@@ -22,15 +22,15 @@ public:
     /// The system's own message box; `icon` is 0, 1 or 2, `timeout` is in seconds, 0 means no countdown.
     virtual Answer customMessage(const QString &message, const QString &title, Buttons buttons, int icon, int timeout)
         = 0;
-    /// The plain message box of the desktop, for failures that lie below the program's own windows.
+    /// The plain box of the system, for failures that lie below the program's own windows: silent, without a countdown.
     virtual Answer systemMessage(const QString &message, const QString &title, SystemIcon icon, Buttons buttons) = 0;
 
     /// Long work reports how far it is: `value` of `maximum`, with a text.
     virtual void showProgress(int value, int maximum, const QString &text) = 0;
     virtual void clearProgress() = 0;
 
-    /// Asks for a folder; empty when the user gave none.
-    virtual QString chooseFolder(const QString &prompt) = 0;
+    /// Asks for a folder, beginning at `start` where that is one; empty when the user gave none.
+    virtual QString chooseFolder(const QString &prompt, const QString &start) = 0;
     /// Asks for a file to open or to save; empty when the user gave none.
     virtual QString chooseFileToOpen(const QString &filter) = 0;
     /// The file's name ends in the extension, in capitals or not, whatever was typed.

@@ -1,22 +1,21 @@
 #include "shell/clsWindowUserInterface.h"
 
 #include "controls/frmMessageBox.h"
-#include "controls/oVeil.h"
+#include "controls/mdShowModal.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/clsFileSystem.h"
 #include "shell/clsLongWork.h"
 #include "shell/mdFileHandling.h"
 #include "shell/mdGlobals.h"
+#include "shell/mdOpenOnDesktop.h"
+#include "shell/mdShellExecute.h"
 #include "shell/oApplication.h"
+#include "shell/oFileDialog.h"
 
 #include <QAudioDevice>
-#include <QDesktopServices>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
-#include <QMainWindow>
 #include <QMediaDevices>
-#include <QMessageBox>
 #include <QSoundEffect>
 #include <QStandardPaths>
 #include <QTimer>
@@ -25,19 +24,6 @@
 namespace {
 
 constexpr int RepaintMilliseconds = 50;
-
-QWidget *activeParent()
-{
-    if (QWidget *modal = QApplication::activeModalWidget())
-        return modal;
-    if (QWidget *active = QApplication::activeWindow())
-        return active;
-    // Another program is in front. A box without a window of its own would come up as one more window beside ours.
-    for (QWidget *window : QApplication::topLevelWidgets())
-        if (qobject_cast<QMainWindow *>(window) && window->isVisible())
-            return window;
-    return nullptr;
-}
 
 /// A filter as the commands give it, "text|pattern", again and again for more than one, as the toolkit's dialog takes
 /// it: the patterns in brackets at the end of the text, where many texts have them already.
@@ -54,45 +40,29 @@ QStringList nameFilters(const QString &filter)
     return filters;
 }
 
-struct clsButtonsRow {
-    clsUserInterface::Buttons buttons;
-    QMessageBox::StandardButtons shown;
-    QMessageBox::StandardButton pressedByEnter;
-    QMessageBox::StandardButton pressedByEscape;
-};
-
-// Enter never presses what loses something: the question about the database folder is such a box.
-constexpr clsButtonsRow ButtonsRows[] = {
-    {clsUserInterface::OKOnly, QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok},
-    {clsUserInterface::OKCancel, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Ok, QMessageBox::Cancel},
-    {clsUserInterface::YesNo, QMessageBox::Yes | QMessageBox::No, QMessageBox::No, QMessageBox::No},
-    {clsUserInterface::YesNoCancel, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes,
-        QMessageBox::Cancel},
-};
-
-QMessageBox::Icon boxIcon(clsUserInterface::SystemIcon icon)
+/// Shows a box and gives the user's answer.
+clsUserInterface::Answer answered(
+    clsUserInterface::Buttons buttons, const std::function<void(frmMessageBox &box)> &initialise)
 {
-    switch (icon) {
-    case clsUserInterface::Critical: return QMessageBox::Critical;
-    case clsUserInterface::Question: return QMessageBox::Question;
-    case clsUserInterface::Information: return QMessageBox::Information;
-    }
-    return QMessageBox::NoIcon;
-}
-
-clsUserInterface::Answer answerOf(int button)
-{
-    switch (button) {
-    case QMessageBox::Ok: return clsUserInterface::OK;
-    case QMessageBox::Yes: return clsUserInterface::Yes;
-    case QMessageBox::No: return clsUserInterface::No;
-    default: return clsUserInterface::Cancel;
-    }
+    if (oApplication::ending())
+        return clsUserInterface::answerThatChangesNothing(buttons);
+    clsLongWork::hideWaiting();
+    frmMessageBox box(mdWindowInFront());
+    initialise(box);
+    mdShowModal(box);
+    // A box that the program's end has closed was not answered.
+    return oApplication::ending() ? clsUserInterface::answerThatChangesNothing(buttons) : box.Result();
 }
 
 bool isAddress(const QString &target)
 {
     return target.startsWith(QLatin1String("mailto:")) || target.contains(QLatin1String("://"));
+}
+
+/// The dialog itself adds an extension only to a name without any dot: "Smith v. Jones" has one.
+QString withExtension(const QString &path, const QString &extension)
+{
+    return path.isEmpty() || path.endsWith(extension, Qt::CaseInsensitive) ? path : path + extension;
 }
 
 } // namespace
@@ -103,34 +73,13 @@ clsWindowUserInterface::~clsWindowUserInterface() = default;
 clsUserInterface::Answer clsWindowUserInterface::customMessage(
     const QString &message, const QString &title, Buttons buttons, int icon, int timeout)
 {
-    if (oApplication::ending())
-        return answerThatChangesNothing(buttons);
-    clsLongWork::hideWaiting();
-    frmMessageBox box(activeParent());
-    box.Initialise(message, title, buttons, icon, timeout);
-    const oVeil veil(box.parentWidget());
-    box.exec();
-    // A box that the program's end has closed was not answered.
-    return oApplication::ending() ? answerThatChangesNothing(buttons) : Answer(box.Result());
+    return answered(buttons, [&](frmMessageBox &box) { box.Initialise(message, title, buttons, icon, timeout); });
 }
 
 clsUserInterface::Answer clsWindowUserInterface::systemMessage(
     const QString &message, const QString &title, SystemIcon icon, Buttons buttons)
 {
-    if (oApplication::ending())
-        return answerThatChangesNothing(buttons);
-    clsLongWork::hideWaiting();
-    const clsButtonsRow &row = ButtonsRows[buttons];
-    QMessageBox box(boxIcon(icon), title, QString(message).replace(QStringLiteral("\r\n"), QStringLiteral("\n")),
-        row.shown, activeParent());
-    // Paths and descriptions are shown as they are, whatever they look like, and can be copied.
-    box.setTextFormat(Qt::PlainText);
-    box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    box.setDefaultButton(row.pressedByEnter);
-    box.setEscapeButton(row.pressedByEscape);
-    const oVeil veil(box.parentWidget());
-    const int pressed = box.exec();
-    return oApplication::ending() ? answerThatChangesNothing(buttons) : answerOf(pressed);
+    return answered(buttons, [&](frmMessageBox &box) { box.InitialiseSystem(message, title, buttons, icon); });
 }
 
 void clsWindowUserInterface::showProgress(int value, int maximum, const QString &text)
@@ -160,12 +109,12 @@ void clsWindowUserInterface::letWindowsRepaint()
     m_repainted.start();
 }
 
-QString clsWindowUserInterface::startFolder() const
+QString clsWindowUserInterface::startFolder(const QString &wanted) const
 {
     const QString path = Form ? FormFilePath() : QString();
     const QString ofClaim = path.isEmpty() ? QString() : QFileInfo(path).absolutePath();
     for (const QString &folder :
-        {ofClaim, m_lastFolder, QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)})
+        {wanted, ofClaim, m_lastFolder, QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)})
         if (FileSystem().FolderExists(folder))
             return folder;
     return QDir::homePath();
@@ -178,49 +127,32 @@ QString clsWindowUserInterface::chosen(const QString &path)
     return path;
 }
 
-namespace {
-
-QString asked(QFileDialog &dialog)
+QString clsWindowUserInterface::chooseFolder(const QString &prompt, const QString &start)
 {
-    clsLongWork::hideWaiting();
-    const oVeil veil(dialog.parentWidget());
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
-}
-
-/// The dialog itself adds an extension only to a name without any dot: "Smith v. Jones" has one.
-QString withExtension(const QString &path, const QString &extension)
-{
-    return path.isEmpty() || path.endsWith(extension, Qt::CaseInsensitive) ? path : path + extension;
-}
-
-} // namespace
-
-QString clsWindowUserInterface::chooseFolder(const QString &prompt)
-{
-    QFileDialog dialog(activeParent(), prompt, startFolder());
+    oFileDialog dialog(mdWindowInFront(), prompt, startFolder(start));
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
-    return chosen(asked(dialog));
+    return chosen(dialog.Choose());
 }
 
 QString clsWindowUserInterface::chooseFileToOpen(const QString &filter)
 {
-    QFileDialog dialog(activeParent(), QStringLiteral("Open"), startFolder());
+    oFileDialog dialog(mdWindowInFront(), QStringLiteral("Open"), startFolder());
     dialog.setNameFilters(nameFilters(filter));
     dialog.setFileMode(QFileDialog::ExistingFile);
-    return chosen(asked(dialog));
+    return chosen(dialog.Choose());
 }
 
 QString clsWindowUserInterface::chooseFileToSave(const QString &filter, const QString &defaultExtension)
 {
-    QFileDialog dialog(activeParent(), QStringLiteral("Save As"), startFolder());
+    oFileDialog dialog(mdWindowInFront(), QStringLiteral("Save As"), startFolder());
     dialog.setNameFilters(nameFilters(filter));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setDefaultSuffix(defaultExtension);
     // The program asks before it overwrites; two questions would be one too many.
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
-    return chosen(withExtension(asked(dialog), defaultExtension));
+    return chosen(withExtension(dialog.Choose(), defaultExtension));
 }
 
 void clsWindowUserInterface::playSound(const QString &path)
@@ -238,7 +170,8 @@ void clsWindowUserInterface::playSound(const QString &path)
 
 bool clsWindowUserInterface::openTarget(const QString &target)
 {
-    if (isAddress(target))
-        return QDesktopServices::openUrl(QUrl(target));
-    return QFileInfo::exists(target) && QDesktopServices::openUrl(QUrl::fromLocalFile(target));
+    const bool address = isAddress(target);
+    if (!address && !QFileInfo::exists(target))
+        return false;
+    return mdOpenOnDesktop(address ? QUrl(target) : QUrl::fromLocalFile(target), [target] { TellNotOpened(target); });
 }

@@ -31,7 +31,7 @@ public:
     /// waits until the work has ended.
     void showProgress(int value, int maximum, const QString &text) override;
     void clearProgress() override;
-    QString chooseFolder(const QString &prompt) override;
+    QString chooseFolder(const QString &prompt, const QString &start) override;
     QString chooseFileToOpen(const QString &filter) override;
     QString chooseFileToSave(const QString &filter, const QString &defaultExtension) override;
     void playSound(const QString &path) override;
@@ -39,7 +39,8 @@ public:
 
 private:
     void letWindowsRepaint();
-    QString startFolder() const;
+    /// The folder in which a dialog begins: the wanted one, where it is there.
+    QString startFolder(const QString &wanted = {}) const;
     QString chosen(const QString &path);
 
     clsProgressDisplay m_display;

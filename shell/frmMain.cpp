@@ -1,5 +1,6 @@
 #include "shell/frmMain.h"
 
+#include "controls/mdLargestWindow.h"
 #include "controls/mdLeaveFocusedBox.h"
 #include "controls/mdShowModal.h"
 #include "controls/oAllPurposeBox.h"
@@ -48,6 +49,8 @@ namespace {
 
 constexpr int AutoBackupMilliseconds = 10000;
 constexpr int ReplacementsPage = 2;
+constexpr int FrameHeight = 40; ///< room for that of the desktop, which is known only once the window is up
+constexpr int LongestGrowth = 1000; ///< in milliseconds
 
 /// The claim among what is dragged on to the window, empty where there is none or more than one.
 QString draggedClaim(const QMimeData &data)
@@ -121,11 +124,11 @@ void frmMain::build()
 
 void frmMain::Load(const QString &claimPath)
 {
-    // The preview takes the widths of its columns from the sheet, and it is drawn before the window shows.
-    resize(screen()->availableSize());
+    placeRestored();
     setWindowState(Qt::WindowMaximized);
-    pctPreview->resize(size());
-    QResizeEvent placed(size(), QSize());
+    // The preview takes the widths of its columns from the sheet, and it is drawn before the window shows.
+    pctPreview->resize(screen()->availableSize());
+    QResizeEvent placed(pctPreview->size(), QSize());
     QCoreApplication::sendEvent(pctPreview, &placed);
     Preferences = std::make_unique<clsZR3PreferencesDatabase>();
     PreviewGrid = sgPreview;
@@ -141,6 +144,16 @@ void frmMain::Load(const QString &claimPath)
     buildTabs();
     tmrAutoBackup->start();
     m_loaded = true;
+}
+
+void frmMain::placeRestored()
+{
+    const QRect room = screen()->availableGeometry();
+    const QSize frame(0, FrameHeight);
+    QRect restored(QPoint(), mdLargestWindow(*screen()).boundedTo(room.size() - frame) + frame);
+    restored.moveCenter(room.center());
+    resize(restored.size() - frame);
+    move(restored.topLeft());
 }
 
 void frmMain::buildTabs()
@@ -228,12 +241,32 @@ void frmMain::showEvent(QShowEvent *event)
     QMainWindow::showEvent(event);
     if (std::exchange(m_wasShown, true))
         return;
-    // Where the desktop gave the window another size than it asked for, the first drawing has not the sheet's width.
     QTimer::singleShot(0, this, [this] {
-        // Not inside work that lets events through: the claim may be half loaded.
-        if (m_loaded && !m_drawingFollows && !clsLongWork::isRunning() && m_drawnWidth != sgPreview->width())
-            drawPreview(m_previewKind);
+        // Many a desktop makes it as large as the screen only after it is shown; some never do.
+        m_grows = isMaximized() && size() == normalGeometry().size();
+        if (!m_grows)
+            return drawForShownWidth();
+        QTimer::singleShot(LongestGrowth, this, [this] {
+            if (m_grows)
+                drawForShownWidth();
+        });
     });
+}
+
+void frmMain::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    if (std::exchange(m_grows, false))
+        QTimer::singleShot(0, this, &frmMain::drawForShownWidth);
+}
+
+void frmMain::drawForShownWidth()
+{
+    m_grows = false;
+    // Where the desktop gave the window another size than it asked for, the first drawing has not the sheet's width.
+    // Not inside work that lets events through: the claim may be half loaded.
+    if (m_loaded && !m_drawingFollows && !clsLongWork::isRunning() && m_drawnWidth != sgPreview->width())
+        drawPreview(m_previewKind);
 }
 
 bool frmMain::event(QEvent *event)

@@ -72,14 +72,18 @@ protected:
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     bool event(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:
     void build();
+    /// The size and place to which the window is restored, on the screen as a whole.
+    void placeRestored();
     void buildTabs();
     void tbSection_Click();
     void whileModal(const std::function<void()> &show);
     void drawPreview(clsPreviewKind kind);
+    void drawForShownWidth();
     void refreshPreview();
     void redraw(void (*routine)(clsPreviewKind));
     void openDropped(const QString &path);
@@ -104,6 +108,8 @@ private:
     bool m_sectionOpen = false;
     bool m_loaded = false;
     bool m_wasShown = false;
+    /// It is shown, and the desktop has not made it as large as the screen yet.
+    bool m_grows = false;
     bool m_redrawing = false;
     /// A command that ends with drawing the preview is at work: to refresh it before would be to draw it twice.
     bool m_drawingFollows = false;

@@ -1,5 +1,6 @@
 #include "shell/frmSplash.h"
 
+#include "controls/mdPointerScreen.h"
 #include "controls/mdTheme.h"
 #include "shell/mdClock.h"
 #include "shell/mdDatabaseCreation.h"
@@ -8,8 +9,6 @@
 #include "shell/mdLog.h"
 #include "shell/mdPaintSplash.h"
 
-#include <QCursor>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
@@ -96,11 +95,8 @@ void frmSplash::build()
 void frmSplash::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
-    const QScreen *screen = QGuiApplication::screenAt(QCursor::pos());
-    if (!screen)
-        screen = QGuiApplication::primaryScreen();
     QRect frame = rect();
-    frame.moveCenter(screen->availableGeometry().center());
+    frame.moveCenter(mdPointerScreen()->availableGeometry().center());
     move(frame.topLeft());
     // The keys are to work from the first moment.
     raise();

@@ -3,11 +3,11 @@
 #include "shell/clsUserInterface.h"
 #include "shell/mdLog.h"
 
-/// Asks the user for a folder; empty when none was given.
-inline QString GetFolder(const QString &title)
+/// Asks the user for a folder, beginning at one where it is named and there; empty when none was given.
+inline QString GetFolder(const QString &title, const QString &start = {})
 {
     WriteLog(QStringLiteral("Begin Get Folder"));
-    const QString folder = UserInterface().chooseFolder(title);
+    const QString folder = UserInterface().chooseFolder(title, start);
     WriteLog(QStringLiteral("End Get Folder"));
     return folder;
 }

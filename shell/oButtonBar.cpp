@@ -1,5 +1,6 @@
 #include "shell/oButtonBar.h"
 
+#include "controls/mdLine.h"
 #include "controls/mdTheme.h"
 
 #include <QDialog>
@@ -27,7 +28,7 @@ void oButtonBar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.fillRect(rect(), Theme::Paper);
-    painter.fillRect(QRect(0, 0, width(), 1), Theme::Line);
+    mdPaintLine(painter, rect(), Qt::TopEdge, Theme::Line);
 }
 
 void oButtonBar::layOut(QDialog &dialog, QWidget *header, QWidget *content, oButtonBar *bar)

@@ -112,7 +112,7 @@ void frmExportToWord::txtExportPath_Change()
 
 void frmExportToWord::cmdExportPathBrowse_Click()
 {
-    const QString folder = GetFolder(QStringLiteral("Please select a folder to export to..."));
+    const QString folder = GetFolder(QStringLiteral("Please select a folder to export to..."), txtExportPath->text());
     if (!folder.isEmpty())
         txtExportPath->setText(folder);
 }

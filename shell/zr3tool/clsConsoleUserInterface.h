@@ -20,7 +20,7 @@ public:
     Answer systemMessage(const QString &message, const QString &title, SystemIcon icon, Buttons buttons) override;
     void showProgress(int value, int maximum, const QString &text) override;
     void clearProgress() override;
-    QString chooseFolder(const QString &) override { return {}; }
+    QString chooseFolder(const QString &, const QString &) override { return {}; }
     QString chooseFileToOpen(const QString &) override { return {}; }
     QString chooseFileToSave(const QString &, const QString &) override { return {}; }
     void playSound(const QString &) override { }

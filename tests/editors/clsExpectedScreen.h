@@ -23,7 +23,7 @@ struct clsExpectedField {
 
 struct clsExpectedFrame {
     const char *name;
-    const char *caption; ///< empty for one that has none, being the only one of its screen
+    const char *caption; ///< empty for one that has none
 };
 
 struct clsExpectedScreen {

@@ -157,7 +157,7 @@ inline const std::vector<clsExpectedScreen> ExpectedRecordScreens {
         {"chkOfferByDebtorNo", "Has any offer been made by the debtor?", "No:", 'x', 0, false, false, "oFrame2"},
         {"txtOfferByDebtorDetails", "If so, give details:", nullptr, 't', 85, true, true, "oFrame2"},
     }, {{"bxGeneral", "Details of Costs Awarded"}, {"bxClaim1A", "Claim1A Only"},
-        {"oFrame1", "Details of Costs Awarded"}, {"oFrame2", "Details of Costs Awarded"}}},
+        {"oFrame1", ""}, {"oFrame2", ""}}},
     {"Debtor's Details", "frmDebtorsDetails", "Debtor's Details", "Enter details of debtor", "debtorsdetails", {
         {"txtTitle", "Title:", nullptr, 't', 9},
         {"txtInitials", "Initials:", nullptr, 't', 9},

@@ -244,6 +244,7 @@ TEST_F(PreferencesScreen, BrowsePutsTheFolderIntoTheBoxAndItsCancelLeavesIt)
     const auto screen = preferences();
     press(*screen, "cmdAutoBackupPathBrowse");
     EXPECT_EQ(QStringList(QStringLiteral("Please select a folder to backup to...")), user.prompts);
+    EXPECT_EQ(QStringList(QStringLiteral("/old")), user.starts) << "the folder in the box";
     EXPECT_EQ(QStringLiteral("/old"), text(*screen, "txtAutoBackupPath"));
     user.folders = {QStringLiteral("/new folder")};
     press(*screen, "cmdAutoBackupPathBrowse");

@@ -232,6 +232,91 @@ TEST_F(PreviewGridControl, LinesStandUnderTheCaptionsAndAboveTheTotals)
         picture.pixelColor(grid().viewport()->width() - 3, grid().rowViewportPosition(3) + 2).rgb());
 }
 
+TEST_F(PreviewGridControl, EachLineBetweenTheRowsIsOneDotThickAtAScaleOfOneAndAQuarter)
+{
+    const QColor hairline(0xEC, 0xE8, 0xEE);
+    fill(9);
+    QImage picture(grid().viewport()->size() * 1.25, QImage::Format_RGB32);
+    picture.setDevicePixelRatio(1.25);
+    grid().viewport()->render(&picture);
+    int lines = 0;
+    for (int y = 1; y < picture.height(); ++y) {
+        if (picture.pixelColor(4, y) != hairline)
+            continue;
+        ++lines;
+        EXPECT_NE(hairline, picture.pixelColor(4, y - 1)) << y;
+    }
+    EXPECT_EQ(9, lines) << "below each item but the last, and between the totals";
+}
+
+namespace {
+
+/// The preview in a large font of the desktop, on a small screen.
+class PreviewInALargeFont : public PreviewGridControl {
+protected:
+    void SetUp() override
+    {
+        QFont large(QStringLiteral("DejaVu Sans"), 16);
+        QApplication::setFont(large);
+        PreviewGridControl::SetUp();
+        window.resize(960, 400);
+        ASSERT_TRUE(QTest::qWaitFor([this] { return sheet->width() == 960; }));
+    }
+    void TearDown() override
+    {
+        PreviewGridControl::TearDown();
+        QApplication::setFont(m_before);
+    }
+    static QRect cell(int row, int column)
+    {
+        return {grid().columnViewportPosition(column - 1), grid().rowViewportPosition(row - 1),
+            grid().ColumnWidth(column), grid().RowHeight(row)};
+    }
+
+private:
+    QFont m_before = QApplication::font();
+};
+
+} // namespace
+
+TEST_F(PreviewInALargeFont, TheWordOverTheColumnsIsNotBroken)
+{
+    fill(1);
+    EXPECT_EQ(QStringLiteral("ration"), grid().Text(1, 6));
+    EXPECT_EQ(grid().RowHeight(5), grid().RowHeight(1)) << "a line, as an item has";
+    // It runs on over the next column, which is empty there.
+    const QFontMetrics metrics(grid().CellFont(true, false));
+    const int beyond = metrics.horizontalAdvance(QStringLiteral("ration")) - grid().ColumnWidth(6);
+    ASSERT_GT(beyond, 3) << "it has to be wider than its column for this test to tell anything";
+    const QImage picture = grid().viewport()->grab().toImage();
+    bool ink = false;
+    const QRect next = cell(1, 7);
+    for (int y = next.top(); y <= next.bottom(); ++y)
+        for (int x = next.left() + 1; x <= next.left() + beyond; ++x)
+            ink = ink || picture.pixelColor(x, y).lightness() < 100;
+    EXPECT_TRUE(ink);
+}
+
+TEST_F(PreviewInALargeFont, FiguresAndCaptionsAreWrittenSmallerBeforeAnythingIsCut)
+{
+    addItem("99:59", "ACT", "28/12/26");
+    Form->FeeEarnerGroup(1)->HourlyRate = QStringLiteral("123.45");
+    makeLists();
+    mdDrawPreview(clsPreviewKind::ScheduleOfTime);
+    ASSERT_EQ(QStringLiteral("12,342.94"), grid().Text(9, 5)) << "99 hours and 59 minutes at 123.45";
+    const QFontMetrics metrics(grid().CellFont(false, false));
+    ASSERT_GT(metrics.horizontalAdvance(grid().Text(9, 5)), grid().ColumnWidth(5));
+    for (int row = 1; row <= grid().Rows(); ++row)
+        for (int column = 1; column <= grid().Columns(); ++column)
+            EXPECT_EQ(QString(), grid().ToolTipAt(cell(row, column).center())) << row << ' ' << column;
+    // "Code" in bold letters of the desktop's size would run into the captions beside it.
+    const QImage picture = grid().viewport()->grab().toImage();
+    const QRect code = cell(3, 4);
+    for (int y = code.top(); y <= code.bottom(); ++y)
+        for (const int x : {code.left(), code.right()})
+            EXPECT_GT(picture.pixelColor(x, y).lightness(), 200) << y;
+}
+
 TEST_F(PreviewGridControl, ACellCutShortTellsItsTextInATooltip)
 {
     fill(1);

@@ -138,6 +138,16 @@ TEST_F(Services, ADocumentIsOpenedByTheDesktop)
 {
     EXPECT_TRUE(ShellOpen(QStringLiteral("mailto:someone@velmor.example")));
     EXPECT_EQ(QStringList {QStringLiteral("mailto:someone@velmor.example")}, user.opened);
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(Services, ADocumentThatNothingOpensIsToldOf)
+{
+    user.opens = false;
+    EXPECT_FALSE(ShellOpen(QStringLiteral("/none.pdf")));
+    ASSERT_EQ(1u, user.messages.size());
+    EXPECT_EQ(QStringLiteral("Open Error"), user.messages[0].title);
+    EXPECT_TRUE(user.messages[0].text.contains(QLatin1String("\r\n\r\n/none.pdf\r\n\r\n")));
 }
 
 TEST_F(Services, TheProgramFolderIsThatOfTheRunningProgram)

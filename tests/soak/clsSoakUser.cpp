@@ -35,7 +35,7 @@ clsUserInterface::Answer clsSoakUser::systemMessage(
     return m_windows.systemMessage(message, title, icon, buttons);
 }
 
-QString clsSoakUser::chooseFolder(const QString &)
+QString clsSoakUser::chooseFolder(const QString &, const QString &)
 {
     constexpr const char *Folders[] = {"/export", "/export", "/backups", "/no such folder", ""};
     const QString folder = QLatin1String(m_dice.oneOf(Folders));

@@ -38,7 +38,7 @@ public:
         m_windows.showProgress(value, maximum, text);
     }
     void clearProgress() override { m_windows.clearProgress(); }
-    QString chooseFolder(const QString &prompt) override;
+    QString chooseFolder(const QString &prompt, const QString &start) override;
     QString chooseFileToOpen(const QString &filter) override;
     QString chooseFileToSave(const QString &filter, const QString &defaultExtension) override;
     void playSound(const QString &) override { }

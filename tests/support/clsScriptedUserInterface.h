@@ -33,8 +33,10 @@ public:
     std::vector<Progress> progress;
     int progressCleared = 0;
     QStringList prompts;
+    QStringList starts; ///< where each choice of a folder was to begin
     QStringList sounds;
     QStringList opened;
+    bool opens = true; ///< whether there is a program for what is opened
 
     Answer customMessage(const QString &message, const QString &title, Buttons buttons, int icon, int timeout) override
     {
@@ -51,9 +53,10 @@ public:
         progress.push_back({value, maximum, text});
     }
     void clearProgress() override { ++progressCleared; }
-    QString chooseFolder(const QString &prompt) override
+    QString chooseFolder(const QString &prompt, const QString &start) override
     {
         prompts << prompt;
+        starts << start;
         return next(folders);
     }
     QString chooseFileToOpen(const QString &) override { return next(files); }
@@ -62,7 +65,7 @@ public:
     bool openTarget(const QString &target) override
     {
         opened << target;
-        return true;
+        return opens;
     }
 
 private:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/frmMessageBox.h"
 #include "controls/oHeaderBar.h"
 #include "shell/frmMain.h"
 #include "shell/mdGetResourceData.h"
@@ -10,7 +11,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QMessageBox>
+#include <QLabel>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -97,12 +98,19 @@ protected:
         const auto *window = topLevel<frmMain>();
         return window && window->isVisible() ? window->findChild<oHeaderBar *>()->Caption() : QString();
     }
-    static bool press(const QString &title, QMessageBox::StandardButton button)
+    /// The message box that is up, if any.
+    static frmMessageBox *messageBox() { return qobject_cast<frmMessageBox *>(QApplication::activeModalWidget()); }
+    static QString textOf(const frmMessageBox &box)
     {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        return box.findChild<QLabel *>(QStringLiteral("lblMessage"))->text();
+    }
+    /// Presses OK in the box of a title; false where it is not up.
+    static bool press(const QString &title)
+    {
+        frmMessageBox *box = messageBox();
         if (!box || box->windowTitle() != title)
             return false;
-        box->button(button)->click();
+        box->findChild<QPushButton *>(QStringLiteral("cmdOK"))->click();
         return true;
     }
 

@@ -138,6 +138,7 @@ TEST_F(ExportToWord, BrowseAsksForAFolder)
     user.folders = {path("claims"), QString()};
     press("cmdExportPathBrowse");
     EXPECT_EQ(QStringList("Please select a folder to export to..."), user.prompts);
+    EXPECT_EQ(QStringList(path("out")), user.starts) << "the folder in the box";
     EXPECT_EQ(path("claims"), box->text());
     EXPECT_EQ(path("claims"), Form->ExportPath());
     press("cmdExportPathBrowse");
@@ -149,6 +150,20 @@ TEST_F(ExportToWord, OpenOpensTheFolder)
     open(path("out"));
     press("cmdOpenExportFolder");
     EXPECT_EQ(QStringList(path("out")), user.opened);
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(ExportToWord, OpenThatFindsNoOpenerSaysSo)
+{
+    user.opens = false;
+    open(path("out"));
+    press("cmdOpenExportFolder");
+    EXPECT_EQ(QStringList(path("out")), user.opened);
+    ASSERT_EQ(1u, user.messages.size());
+    EXPECT_EQ(QStringLiteral("Open Error"), user.messages[0].title);
+    EXPECT_TRUE(user.messages[0].text.contains(path("out")));
+    EXPECT_EQ(clsUserInterface::OKOnly, user.messages[0].buttons);
+    EXPECT_EQ(0, user.messages[0].icon);
 }
 
 TEST_F(ExportToWord, WarnsOfAnOpenWordAndCancelEndsThere)

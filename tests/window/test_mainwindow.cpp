@@ -6,6 +6,7 @@
 #include "shell/mdGetVersionInfo.h"
 #include "tests/window/clsMainWindowTest.h"
 
+#include <QAbstractButton>
 #include <QDropEvent>
 #include <QMenu>
 #include <QMimeData>
@@ -406,4 +407,60 @@ TEST_F(MainWindow, TheFirstTabRowHasTheFirstFocus)
 {
     start();
     EXPECT_EQ(row("tbSection").findChildren<oTabBarButton *>().first(), QApplication::focusWidget());
+}
+
+TEST_F(MainWindow, RestoredItStandsOnTheScreenWithItsFrame)
+{
+    window = std::make_unique<frmMain>();
+    window->Load({});
+    show(*window);
+    EXPECT_TRUE(window->isMaximized());
+    window->showNormal();
+    // A desktop's frame is up to 40 pixels high, which the window doesn't know of before it is shown.
+    const QRect room = window->screen()->availableGeometry();
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return room.contains(QRect(window->pos(), window->size() + QSize(0, 40))); }, 1000))
+        << window->x() << ' ' << window->y() << ' ' << window->width() << ' ' << window->height();
+    EXPECT_GT(window->width(), room.width() / 2);
+    const auto &footer = control<oFooterBar>(*window, "oFooter");
+    EXPECT_EQ(window->height(), footer.mapTo(window.get(), footer.rect().bottomLeft()).y() + 1);
+}
+
+TEST_F(MainWindow, NothingOfItIsCutInALargeFontOnASmallScreen)
+{
+    const QFont before = QApplication::font();
+    for (const char *family : {"Liberation Sans", "DejaVu Sans"}) {
+        QApplication::setFont(QFont(QString::fromLatin1(family), 16));
+        start();
+        for (const QSize size : {QSize(1024, 700), QSize(960, 540)}) {
+            window->resize(size);
+            QTest::qWait(20);
+            EXPECT_EQ(size, window->size()) << family;
+            const auto &footer = control<oFooterBar>(*window, "oFooter");
+            for (const QWidget *part : footer.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
+                const std::string name = part->objectName().toStdString();
+                EXPECT_TRUE(footer.rect().contains(part->geometry())) << name;
+                EXPECT_GE(part->width(), part->minimumSizeHint().width()) << name;
+            }
+        }
+        window.reset();
+        Form.reset();
+        Preferences.reset();
+    }
+    QApplication::setFont(before);
+}
+
+TEST_F(MainWindow, TheRingOfNoButtonIsCut)
+{
+    start();
+    int buttons = 0;
+    for (const QAbstractButton *button : window->findChildren<QAbstractButton *>()) {
+        if (!button->isVisible() || button->focusPolicy() == Qt::NoFocus)
+            continue;
+        ++buttons;
+        for (const QWidget *around = button->parentWidget(); around; around = around->parentWidget())
+            EXPECT_TRUE(around->rect().contains(QRect(button->mapTo(around, QPoint()), button->size())))
+                << button->text().toStdString() << " in " << around->metaObject()->className();
+    }
+    EXPECT_GE(buttons, 5) << "the tabs of both rows and the button of the stopwatch";
 }

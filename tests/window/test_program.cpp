@@ -67,11 +67,9 @@ TEST_F(Program, NothingOnTheCommandLineIsASwitch)
 {
     bool told = false;
     EXPECT_EQ(0, run({"-style", "windows"}, [&] {
-        if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
-            told = told || box->text().contains(QDir::current().absoluteFilePath(QStringLiteral("-style windows")));
-            box->button(QMessageBox::Ok)->click();
-        } else if (QWidget *modal = QApplication::activeModalWidget()) {
-            modal->close();
+        if (const frmMessageBox *box = messageBox()) {
+            told = told || textOf(*box).contains(QDir::current().absoluteFilePath(QStringLiteral("-style windows")));
+            press(box->windowTitle());
         } else if (!header().isEmpty()) {
             oApplication::instance()->end(0);
             return true;
@@ -109,7 +107,7 @@ TEST_F(Program, WithoutADatabaseFolderItEnds)
     bool windowSeen = false;
     EXPECT_EQ(1, run({}, [&] {
         windowSeen = windowSeen || (topLevel<frmMain>() && topLevel<frmMain>()->isVisible());
-        return press(QStringLiteral("Folder Error"), QMessageBox::Ok);
+        return press(QStringLiteral("Folder Error"));
     }));
     EXPECT_FALSE(windowSeen);
 }
@@ -167,8 +165,8 @@ TEST_F(Program, WithoutPreferencesItEndsWithARunTimeError)
     QFile::remove(path("program/Databases/Preferences Database.vzp"));
     bool notRead = false;
     EXPECT_EQ(1, run({}, [&] {
-        notRead = press(QStringLiteral("File Not Read"), QMessageBox::Ok) || notRead;
-        return press(QStringLiteral("Velmor ZR3"), QMessageBox::Ok);
+        notRead = press(QStringLiteral("File Not Read")) || notRead;
+        return press(QStringLiteral("Velmor ZR3"));
     }));
     EXPECT_TRUE(notRead);
 }
@@ -283,12 +281,10 @@ TEST_F(Program, AnExportWithoutItsTemplatesEndsTheProgramAndKeepsTheClaim)
             pressed = true;
             auto *button = modal->findChild<QPushButton *>(QStringLiteral("cmdExport"));
             QTimer::singleShot(0, button, &QPushButton::click);
-        } else if (const auto *box = qobject_cast<QMessageBox *>(modal)) {
-            text = box->text();
-            return press(QStringLiteral("Velmor ZR3"), QMessageBox::Ok);
-        } else if (pressed && modal && modal->windowTitle() == QLatin1String("Word Instances")) {
+        } else if (const frmMessageBox *box = messageBox()) {
+            text = textOf(*box);
             // Another word processor may run where the tests do.
-            modal->findChild<QPushButton *>(QStringLiteral("cmdOK"))->click();
+            return !press(QStringLiteral("Word Instances")) && press(QStringLiteral("Velmor ZR3"));
         }
         return false;
     }));

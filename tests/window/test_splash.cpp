@@ -138,7 +138,7 @@ TEST_F(Splash, CapitalsAndOtherKeysOnlyRestartTheTimer)
 TEST_F(Splash, TheTimerStandsStillWhileACommandRuns)
 {
     struct clsWatching final : clsQuietUserInterface {
-        QString chooseFolder(const QString &) override
+        QString chooseFolder(const QString &, const QString &) override
         {
             ranDuring = timer->isActive();
             ++asked;

@@ -1,20 +1,25 @@
 #include "controls/frmMessageBox.h"
+#include "controls/oHeaderBar.h"
 #include "shell/clsLongWork.h"
 #include "shell/clsWindowUserInterface.h"
+#include "shell/frmSplash.h"
 #include "shell/mdFileHandling.h"
 #include "tests/window/clsWindowTest.h"
 
 #include <QDesktopServices>
 #include <QDialog>
 #include <QFileDialog>
+#include <QFileSystemModel>
 #include <QGuiApplication>
+#include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMainWindow>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QThread>
 #include <QTimer>
+#include <QTreeView>
 
 namespace {
 
@@ -53,25 +58,26 @@ TEST_F(WindowUserInterface, SystemBoxesHaveTitleTextIconAndAnswers)
 {
     struct clsCase {
         clsUserInterface::Buttons buttons;
-        QMessageBox::StandardButton pressed;
+        const char *pressed;
         clsUserInterface::Answer answer;
     };
     const clsCase cases[] = {
-        {clsUserInterface::OKOnly, QMessageBox::Ok, clsUserInterface::OK},
-        {clsUserInterface::OKCancel, QMessageBox::Cancel, clsUserInterface::Cancel},
-        {clsUserInterface::OKCancel, QMessageBox::Ok, clsUserInterface::OK},
-        {clsUserInterface::YesNo, QMessageBox::Yes, clsUserInterface::Yes},
-        {clsUserInterface::YesNo, QMessageBox::No, clsUserInterface::No},
-        {clsUserInterface::YesNoCancel, QMessageBox::No, clsUserInterface::No},
-        {clsUserInterface::YesNoCancel, QMessageBox::Cancel, clsUserInterface::Cancel},
+        {clsUserInterface::OKOnly, "cmdOK", clsUserInterface::OK},
+        {clsUserInterface::OKCancel, "cmdCancel", clsUserInterface::Cancel},
+        {clsUserInterface::OKCancel, "cmdOK", clsUserInterface::OK},
+        {clsUserInterface::YesNo, "cmdYes", clsUserInterface::Yes},
+        {clsUserInterface::YesNo, "cmdNo", clsUserInterface::No},
+        {clsUserInterface::YesNoCancel, "cmdNo", clsUserInterface::No},
+        {clsUserInterface::YesNoCancel, "cmdCancel", clsUserInterface::Cancel},
     };
     for (const clsCase &one : cases) {
-        whenShown<QMessageBox>([&](QMessageBox &box) {
+        whenShown<frmMessageBox>([&](frmMessageBox &box) {
             EXPECT_EQ(QStringLiteral("Title"), box.windowTitle());
-            EXPECT_EQ(QStringLiteral("First <b>line</b>\n\nsecond"), box.text());
-            EXPECT_EQ(Qt::PlainText, box.textFormat());
-            EXPECT_EQ(QMessageBox::Critical, box.icon());
-            QTest::mouseClick(box.button(one.pressed), Qt::LeftButton);
+            EXPECT_EQ(QStringLiteral("Title"), control<oHeaderBar>(box, "oHeader").Caption());
+            EXPECT_EQ(2, control<oHeaderBar>(box, "oHeader").IconGroup()) << "a problem";
+            EXPECT_EQ(QStringLiteral("First <b>line</b>\n\nsecond"), control<QLabel>(box, "lblMessage").text());
+            EXPECT_EQ(Qt::PlainText, control<QLabel>(box, "lblMessage").textFormat());
+            QTest::mouseClick(&control<QPushButton>(box, one.pressed), Qt::LeftButton);
         });
         EXPECT_EQ(one.answer,
             windows.systemMessage(QStringLiteral("First <b>line</b>\r\n\r\nsecond"), QStringLiteral("Title"),
@@ -83,7 +89,7 @@ TEST_F(WindowUserInterface, SystemBoxesHaveTitleTextIconAndAnswers)
 TEST_F(WindowUserInterface, EscapeAndEnterOfASystemQuestionChangeNothing)
 {
     for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
-        whenShown<QMessageBox>([key](QMessageBox &box) {
+        whenShown<frmMessageBox>([key](frmMessageBox &box) {
             ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
             QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : &box, key);
         });
@@ -121,7 +127,7 @@ TEST_F(WindowUserInterface, WhateverIsAskedVeilsTheWindowBelow)
     windows.customMessage(QStringLiteral("m"), QStringLiteral("t"), clsUserInterface::OKOnly, 0, 0);
     EXPECT_EQ(0, veils());
     show(below);
-    whenShown<QMessageBox>([&veils](QMessageBox &) { EXPECT_EQ(1, veils()); });
+    whenShown<frmMessageBox>([&veils](frmMessageBox &) { EXPECT_EQ(1, veils()); });
     windows.systemMessage(
         QStringLiteral("m"), QStringLiteral("t"), clsUserInterface::Critical, clsUserInterface::OKOnly);
     EXPECT_EQ(0, veils());
@@ -138,31 +144,22 @@ TEST_F(WindowUserInterface, ABoxOverADisabledWindowCanBeAnswered)
     below.setModal(true);
     show(below);
     below.setEnabled(false);
-    QMessageBox *seen = nullptr;
-    QTimer::singleShot(20, [&seen] {
-        seen = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (!seen)
-            return;
-        EXPECT_TRUE(seen->isEnabled());
-        EXPECT_TRUE(seen->button(QMessageBox::Ok)->isEnabled());
-        EXPECT_EQ(seen->parentWidget()->objectName(), QStringLiteral("below"));
-        QTest::mouseClick(seen->button(QMessageBox::Ok), Qt::LeftButton);
-        if (seen->isVisible())
-            seen->done(0);
-    });
     below.setObjectName(QStringLiteral("below"));
+    const auto answer = [this](const QString &parent) {
+        whenShown<frmMessageBox>([parent](frmMessageBox &box) {
+            EXPECT_TRUE(box.isEnabled());
+            EXPECT_EQ(parent, box.parentWidget()->objectName());
+            auto &ok = control<QPushButton>(box, "cmdOK");
+            EXPECT_TRUE(ok.isVisible() && ok.isEnabled());
+            QTest::mouseClick(&ok, Qt::LeftButton);
+            EXPECT_FALSE(box.isVisible());
+        });
+    };
+    answer(QStringLiteral("below"));
     windows.systemMessage({}, {}, clsUserInterface::Critical, clsUserInterface::OKOnly);
-    EXPECT_NE(nullptr, seen);
-
-    bool answerable = false;
-    QTimer::singleShot(20, [&answerable] {
-        QWidget *box = QApplication::activeModalWidget();
-        for (const QPushButton *button : box->findChildren<QPushButton *>())
-            answerable = answerable || (button->isVisible() && button->isEnabled());
-        box->close();
-    });
+    answer(QStringLiteral("below"));
     windows.customMessage(QStringLiteral("m"), QStringLiteral("t"), clsUserInterface::OKOnly, 0, 0);
-    EXPECT_TRUE(answerable);
+    EXPECT_EQ(2, shown);
 }
 
 TEST_F(WindowUserInterface, ChoosesAFolder)
@@ -174,10 +171,174 @@ TEST_F(WindowUserInterface, ChoosesAFolder)
         dialog.selectFile(path("claims"));
         QMetaObject::invokeMethod(&dialog, "accept");
     });
-    EXPECT_EQ(path("claims"), windows.chooseFolder(QStringLiteral("Please select a folder to export to...")));
+    EXPECT_EQ(path("claims"), windows.chooseFolder(QStringLiteral("Please select a folder to export to..."), {}));
     whenShown<QFileDialog>([](QFileDialog &dialog) { dialog.reject(); });
-    EXPECT_EQ(QString(), windows.chooseFolder(QStringLiteral("again")));
+    EXPECT_EQ(QString(), windows.chooseFolder(QStringLiteral("again"), {}));
     EXPECT_EQ(2, shown);
+}
+
+namespace {
+
+/// Types a folder, as the toolkit's dialog may have it when that is done at speed: a folder above is still selected.
+void typeOver(QFileDialog &dialog, const QString &selected, const QString &typed)
+{
+    auto &name = *dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+    auto &list = *dialog.findChild<QListView *>(QStringLiteral("listView"));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    name.setFocus();
+    name.setText(typed);
+    const QModelIndexList rows = list.selectionModel()->selectedRows();
+    const auto &files = *qobject_cast<QFileSystemModel *>(list.model());
+    list.selectionModel()->select(
+        files.index(selected), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    for (const QModelIndex &row : rows)
+        list.selectionModel()->select(row, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    ASSERT_EQ(selected, dialog.selectedFiles().value(0));
+    ASSERT_EQ(typed, name.text());
+}
+
+} // namespace
+
+TEST_F(WindowUserInterface, TheFolderThatIsTypedIsTakenAndNoneAboveIt)
+{
+    ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("claims/2026/smith")));
+    const QString wanted = path("claims/2026/smith");
+    for (const QString &typed : {wanted, wanted + u'/', QStringLiteral("2026/smith"), QStringLiteral("2026/smith/")}) {
+        whenShown<QFileDialog>([&](QFileDialog &dialog) {
+            typeOver(dialog, path("claims/2026"), typed);
+            QMetaObject::invokeMethod(&dialog, "accept");
+        });
+        EXPECT_EQ(wanted, windows.chooseFolder(QStringLiteral("?"), path("claims"))) << typed.toStdString();
+    }
+    EXPECT_EQ(4, shown);
+}
+
+TEST_F(WindowUserInterface, ATypedFolderThatIsNotThereIsRefused)
+{
+    bool refused = false;
+    whenShown<QFileDialog>([&](QFileDialog &dialog) {
+        typeOver(dialog, path("claims"), path("claims/none"));
+        QTimer::singleShot(0, &dialog, [&] {
+            QWidget *told = QApplication::activeModalWidget();
+            refused = told != &dialog;
+            if (refused)
+                told->close();
+        });
+        QMetaObject::invokeMethod(&dialog, "accept");
+        EXPECT_TRUE(dialog.isVisible());
+    });
+    EXPECT_EQ(QString(), windows.chooseFolder(QStringLiteral("?"), path("claims")));
+    EXPECT_TRUE(refused);
+}
+
+TEST_F(WindowUserInterface, ARowThatIsClickedIsTakenWhateverItsName)
+{
+    const QString odd = path("claims/a \"b\" c");
+    ASSERT_TRUE(QDir().mkpath(odd));
+    whenShown<QFileDialog>([&](QFileDialog &dialog) {
+        auto &list = control<QListView>(dialog, "listView");
+        ASSERT_TRUE(QTest::qWaitFor([&] { return list.model()->rowCount(list.rootIndex()) == 1; }));
+        list.setFocus();
+        list.setCurrentIndex(list.model()->index(0, 0, list.rootIndex()));
+        QMetaObject::invokeMethod(&dialog, "accept");
+    });
+    EXPECT_EQ(odd, windows.chooseFolder(QStringLiteral("?"), path("claims")));
+}
+
+TEST_F(WindowUserInterface, ChoosingAFolderBeginsAtTheOneThatIsNamed)
+{
+    Form = std::make_unique<clsZR3Form>();
+    Form->path = path("claims/claim.zr3");
+    ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("out")));
+    QString begun;
+    const auto begins = [&](const QString &start) {
+        whenShown<QFileDialog>([&](QFileDialog &dialog) { begun = dialog.directory().path(); });
+        windows.chooseFolder(QStringLiteral("?"), start);
+        return begun;
+    };
+    EXPECT_EQ(path("out"), begins(path("out")));
+    EXPECT_EQ(path("claims"), begins(path("gone")));
+    EXPECT_EQ(path("claims"), begins({}));
+}
+
+TEST_F(WindowUserInterface, TheColumnsOfTheFileDialogShowWhatIsInThem)
+{
+    Form = std::make_unique<clsZR3Form>();
+    Form->path = sample("housing-typical.zr3");
+    const QFont before = QApplication::font();
+    for (const int points : {9, 16}) {
+        QFont font = before;
+        font.setPointSize(points);
+        QApplication::setFont(font);
+        whenShown<QFileDialog>([](QFileDialog &dialog) {
+            const auto &details = control<QTreeView>(dialog, "treeView");
+            ASSERT_TRUE(QTest::qWaitFor([&] { return details.model()->rowCount(details.rootIndex()) == 1; }));
+            QTest::qWait(50);
+            const QHeaderView &columns = *details.header();
+            for (int column = 0; column < columns.count(); ++column) {
+                const QString text = details.model()->index(0, column, details.rootIndex()).data().toString();
+                const QString heading = details.model()->headerData(column, Qt::Horizontal).toString();
+                EXPECT_FALSE(text.isEmpty()) << column;
+                EXPECT_GE(columns.sectionSize(column), details.fontMetrics().horizontalAdvance(text) + 8)
+                    << text.toStdString();
+                EXPECT_GE(columns.sectionSize(column), columns.fontMetrics().horizontalAdvance(heading) + 14)
+                    << heading.toStdString();
+            }
+        });
+        windows.chooseFileToOpen(QStringLiteral("Velmor ZR3 Files (*.zr3)|*.zr3"));
+    }
+    QApplication::setFont(before);
+    EXPECT_EQ(2, shown);
+}
+
+namespace {
+
+/// In the middle of a screen, but for the window manager's frame.
+void expectInTheMiddle(const QWidget &box, const QScreen &screen)
+{
+    const QPoint off = box.geometry().center() - screen.availableGeometry().center();
+    EXPECT_LE(std::abs(off.x()), 4);
+    EXPECT_LE(std::abs(off.y()), 4);
+}
+
+} // namespace
+
+TEST_F(WindowUserInterface, ABoxBeforeTheMainWindowStandsOverTheSplash)
+{
+    frmSplash splash;
+    control<QTimer>(splash, "tmrInit").stop();
+    show(splash);
+    const auto stands = [&](const QWidget &box) {
+        EXPECT_EQ(&splash, box.parentWidget());
+        // A place that was not asked for is the window manager's to choose, and that is a corner.
+        EXPECT_TRUE(box.testAttribute(Qt::WA_Moved));
+        expectInTheMiddle(box, *splash.screen());
+    };
+    for (const bool inFront : {true, false}) {
+        if (!inFront)
+            QApplication::setActiveWindow(nullptr);
+        whenShown<frmMessageBox>([&](frmMessageBox &box) { stands(box); });
+        windows.systemMessage(
+            QStringLiteral("m"), QStringLiteral("Folder Error"), clsUserInterface::Critical, clsUserInterface::OKOnly);
+    }
+    QApplication::setActiveWindow(nullptr);
+    whenShown<frmMessageBox>([&](frmMessageBox &box) { stands(box); });
+    windows.customMessage(QStringLiteral("m"), QStringLiteral("Error"), clsUserInterface::OKOnly, 0, 0);
+    QApplication::setActiveWindow(nullptr);
+    whenShown<QFileDialog>([&](QFileDialog &dialog) { stands(dialog); });
+    windows.chooseFolder(QStringLiteral("Please select a valid database folder"), {});
+    EXPECT_EQ(4, shown);
+}
+
+TEST_F(WindowUserInterface, ABoxBeforeTheSplashStandsInTheMiddleOfTheScreen)
+{
+    QApplication::setActiveWindow(nullptr);
+    whenShown<frmMessageBox>([&](frmMessageBox &box) {
+        EXPECT_TRUE(box.testAttribute(Qt::WA_Moved));
+        expectInTheMiddle(box, *box.screen());
+    });
+    windows.customMessage(QStringLiteral("m"), QStringLiteral("Network Error"), clsUserInterface::OKOnly, 0, 0);
+    EXPECT_EQ(1, shown);
 }
 
 TEST_F(WindowUserInterface, BeginsInTheFolderOfTheClaimElseInTheOneLastUsed)
@@ -367,7 +528,7 @@ TEST_F(WindowUserInterface, TheBusyCursorComesWithTimeAndGoesWithTheWork)
         ASSERT_NE(nullptr, QGuiApplication::overrideCursor());
         EXPECT_EQ(Qt::WaitCursor, QGuiApplication::overrideCursor()->shape());
         // Not over a question.
-        whenShown<QMessageBox>([](QMessageBox &) { EXPECT_EQ(nullptr, QGuiApplication::overrideCursor()); });
+        whenShown<frmMessageBox>([](frmMessageBox &) { EXPECT_EQ(nullptr, QGuiApplication::overrideCursor()); });
         windows.systemMessage({}, {}, clsUserInterface::Critical, clsUserInterface::OKOnly);
         windows.showProgress(3, 3, {});
         EXPECT_NE(nullptr, QGuiApplication::overrideCursor());
@@ -386,10 +547,33 @@ public slots:
     void open(const QUrl &url) { opened << url; }
 };
 
+/// The desktop's opener, as a script in a folder that is the only one in the search path.
+class clsOpenerScope {
+public:
+    explicit clsOpenerScope(const QString &folder, const QByteArray &script = {})
+    {
+        if (!script.isEmpty()) {
+            QDir().mkpath(folder);
+            QFile file(folder + QStringLiteral("/xdg-open"));
+            EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+            file.write("#!/bin/sh\n" + script + '\n');
+            file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        }
+        qputenv("PATH", QFile::encodeName(folder));
+    }
+    ~clsOpenerScope() { qputenv("PATH", m_path); }
+    clsOpenerScope(const clsOpenerScope &) = delete;
+    clsOpenerScope &operator=(const clsOpenerScope &) = delete;
+
+private:
+    QByteArray m_path = qgetenv("PATH");
+};
+
 } // namespace
 
 TEST_F(WindowUserInterface, OpensFilesAndAddresses)
 {
+    const clsOpenerScope none(path("none")); // then it is the toolkit's to find one
     clsOpener opener;
     for (const char *scheme : {"file", "https", "mailto"})
         QDesktopServices::setUrlHandler(QString::fromLatin1(scheme), &opener, "open");
@@ -407,6 +591,37 @@ TEST_F(WindowUserInterface, OpensFilesAndAddresses)
         opener.opened);
     for (const char *scheme : {"file", "https", "mailto"})
         QDesktopServices::unsetUrlHandler(QString::fromLatin1(scheme));
+}
+
+TEST_F(WindowUserInterface, TheDesktopsOpenerIsGivenTheTarget)
+{
+    const clsOpenerScope opener(path("bin"), "printf '%s' \"$1\" > \"${0%/*}/told\"");
+    ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("claims/a b%#")));
+    EXPECT_TRUE(windows.openTarget(path("claims/a b%#")));
+    QFile told(path("bin/told"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return told.size() > 0; }));
+    ASSERT_TRUE(told.open(QIODevice::ReadOnly));
+    EXPECT_EQ(QUrl::fromLocalFile(path("claims/a b%#")), QUrl::fromEncoded(told.readAll()));
+    QTest::qWait(20);
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(WindowUserInterface, AnOpenerThatFindsNoProgramIsToldOf)
+{
+    const clsOpenerScope opener(path("bin"), "exit 3");
+    EXPECT_TRUE(windows.openTarget(path("claims")));
+    {
+        // Not in the middle of other work.
+        const clsLongWork work;
+        QTest::qWait(300);
+        EXPECT_TRUE(user.messages.empty());
+    }
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !user.messages.empty(); }));
+    EXPECT_EQ(QStringLiteral("Open Error"), user.messages[0].title);
+    EXPECT_EQ(QStringLiteral("Velmor ZR3 could not open the following:\r\n\r\n") + path("claims")
+            + QStringLiteral("\r\n\r\nPlease check that it exists and that this computer has a program to open it "
+                             "with."),
+        user.messages[0].text);
 }
 
 TEST_F(WindowUserInterface, ASoundThatIsNotThereIsSilent)

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
@@ -14,7 +15,6 @@
 #include <QStyle>
 #include <QStyleOptionSlider>
 #include <QTableWidget>
-#include <QHeaderView>
 #include <QTest>
 #include <QVBoxLayout>
 #include <QWheelEvent>

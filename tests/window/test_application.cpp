@@ -1,3 +1,4 @@
+#include "formdata/clsZR3Form.h"
 #include "shell/clsProgramEnd.h"
 #include "shell/clsQuietUserInterface.h"
 #include "shell/clsRunTimeError.h"
@@ -6,7 +7,6 @@
 #include "shell/mdGlobals.h"
 #include "shell/mdLog.h"
 #include "shell/mdProgramFolder.h"
-#include "formdata/clsZR3Form.h"
 #include "shell/oApplication.h"
 #include "tests/support/clsScriptedUserInterface.h"
 #include "tests/support/mdTestPrinting.h"

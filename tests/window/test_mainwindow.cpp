@@ -8,9 +8,9 @@
 
 #include <QAbstractButton>
 #include <QDropEvent>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
-#include <QLineEdit>
 
 namespace {
 

@@ -111,7 +111,7 @@ void clsWindowUserInterface::letWindowsRepaint()
 
 QString clsWindowUserInterface::startFolder(const QString &wanted) const
 {
-    const QString path = Form ? FormFilePath() : QString();
+    const QString path = Form ? Document().filePath() : QString();
     const QString ofClaim = path.isEmpty() ? QString() : QFileInfo(path).absolutePath();
     for (const QString &folder :
         {wanted, ofClaim, m_lastFolder, QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)})

@@ -211,7 +211,7 @@ void frmMain::UpdateInfo()
 {
     if (!Form)
         return;
-    const QString path = FormFilePath();
+    const QString path = Document().filePath();
     QString title = path.isEmpty() ? QStringLiteral("New ZR3 File") : path;
     if (FormIsDirty())
         title += u'*';

@@ -26,7 +26,7 @@ void autoSave()
         WriteLog(QStringLiteral("Autosave cancelled. Path not found"));
         return;
     }
-    Form->SaveXML(QDir(folder).absolutePath() + u'/' + FormCopyName());
+    Form->SaveXML(QDir(folder).absolutePath() + u'/' + Document().copyName());
     WriteLog(QStringLiteral("End Autosave"));
 }
 

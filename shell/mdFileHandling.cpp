@@ -3,7 +3,6 @@
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
 #include "shell/clsFileSystem.h"
-#include "shell/mdCodePage.h"
 #include "shell/mdCustomMessages.h"
 #include "shell/mdGetResourceData.h"
 #include "shell/mdGetVersionInfo.h"
@@ -12,11 +11,7 @@
 #include "shell/mdRunTimeErrorMessage.h"
 #include "shell/mdVersionComparison.h"
 
-#include <QDir>
-#include <QRegularExpression>
 #include <QScopedValueRollback>
-
-#include <algorithm>
 
 namespace {
 
@@ -26,18 +21,6 @@ const QString DefaultExtension = QStringLiteral(".zr3");
 constexpr int FileIsNewer = 2;
 
 clsFormDisplay formDisplay;
-
-/// The path as the claim holds it, and the one that it was given. They differ where the code page lacks a character.
-struct {
-    QString held;
-    QString real;
-} givenPath;
-
-/// Whether this program has saved the current claim, and whether the last save got through.
-enum class clsSaved { Never, Failed, Written } lastSave = clsSaved::Never;
-
-/// Whether the current claim is being read from its file, so that nothing in it is the user's work yet.
-bool opening = false;
 
 void run(const std::function<void()> &action)
 {
@@ -50,19 +33,6 @@ template <class T> T &existing(const std::unique_ptr<T> &pointer)
     if (!pointer)
         throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
     return *pointer;
-}
-
-void replaceForm()
-{
-    Form = std::make_unique<clsZR3Form>();
-    givenPath = {};
-    lastSave = clsSaved::Never;
-}
-
-void givePath(const QString &path)
-{
-    Form->path = path;
-    givenPath = {Form->path(), path};
 }
 
 void warnOfNewerVersion(const QString &fileVersion)
@@ -90,67 +60,10 @@ bool loadForm(const QString &path)
         return false;
     }
     // New elements that an older file got by being loaded count as clean.
-    CleanXML = Form->XMLOutput();
+    Document().takeAsClean();
     if (CompareVersions(Form->Version(), GetVersionInfo()) == FileIsNewer)
         warnOfNewerVersion(Form->Version());
     return true;
-}
-
-bool holds(const QString &path, const QByteArray &bytes)
-{
-    try {
-        return FileSystem().ReadFile(path) == bytes;
-    } catch (const clsRunTimeError &) {
-        return false;
-    }
-}
-
-/// Whether the claim's file has this content, or another one beside it, under a name that the file was given since.
-bool isOnDisk(const QByteArray &bytes)
-{
-    const QString path = FormFilePath();
-    if (path.isEmpty())
-        return false;
-    if (holds(path, bytes))
-        return true;
-    const QDir folder(QFileInfo(path).path(), u'*' + DefaultExtension, QDir::NoSort, QDir::Files | QDir::NoSymLinks);
-    const QFileInfoList files = folder.entryInfoList();
-    return std::any_of(files.begin(), files.end(),
-        [&](const QFileInfo &file) { return file.size() == bytes.size() && holds(file.filePath(), bytes); });
-}
-
-/// A claim's text without the path that it holds, which counts as a change where a claim lies elsewhere than it was
-/// saved, and is no work of the user's.
-QString withoutPath(QString text)
-{
-    static const QRegularExpression element(QStringLiteral("<path(/>|>[^<]*</path>)"));
-    const QRegularExpressionMatch found = element.match(text);
-    return text.remove(found.capturedStart(), found.capturedLength());
-}
-
-clsLossCause causeInFile()
-{
-    try {
-        const QString path = FormFilePath();
-        if (!FileSystem().FileExists(path))
-            return clsLossCause::FileMissing;
-        FileSystem().ReadFile(path);
-        return clsLossCause::FileChanged;
-    } catch (const clsRunTimeError &) {
-        return clsLossCause::FileUnreadable;
-    }
-}
-
-clsLossCause lossCause()
-{
-    const QString text = Form->XMLOutput();
-    const bool isClean = text == CleanXML;
-    if ((isClean && lastSave == clsSaved::Never) || isOnDisk(mdToCodePage(text)))
-        return clsLossCause::None;
-    if (isClean)
-        return lastSave == clsSaved::Failed ? clsLossCause::SaveFailed : causeInFile();
-    const bool isAsOpened = withoutPath(text) == withoutPath(CleanXML) && isOnDisk(mdToCodePage(CleanXML));
-    return isAsOpened ? clsLossCause::None : clsLossCause::UnsavedChanges;
 }
 
 /// Sets work aside that counts as saved and would be lost, and tells the user. False where no place took it.
@@ -176,7 +89,7 @@ void SetFormDisplay(clsFormDisplay display)
 
 bool FormIsDirty()
 {
-    return Form && Form->XMLOutput() != CleanXML;
+    return Document().isDirty();
 }
 
 bool ConfirmClose()
@@ -211,10 +124,11 @@ bool SaveForm(bool saveAs)
         return false;
     // Before the text is written, so that it is part of it.
     form.Version = GetVersionInfo();
-    lastSave = form.SaveXML(FormFilePath()) ? clsSaved::Written : clsSaved::Failed;
+    const bool written = form.SaveXML(Document().filePath());
+    Document().lastSave = written ? clsDocument::clsSaved::Written : clsDocument::clsSaved::Failed;
     // Also after a write that failed. That is meant: its box has told the user, and the old content lies beside the
     // file.
-    CleanXML = form.XMLOutput();
+    Document().takeAsClean();
     run(formDisplay.activate);
     return true;
 }
@@ -225,7 +139,7 @@ bool SaveFormDialog()
     const QString path = UserInterface().chooseFileToSave(Filter, DefaultExtension);
     if (path.isEmpty() || !ConfirmOverwrite(path))
         return false;
-    givePath(path);
+    Document().givePath(path);
     return true;
 }
 
@@ -247,11 +161,11 @@ void NewForm(bool skipConfirm)
 {
     if (!skipConfirm && !ConfirmDrop())
         return;
-    replaceForm();
+    Document().replaceForm();
     Form->Version = GetVersionInfo();
     Form->VAT = true;
     Form->VATRate = existing(Preferences).DefaultVATRate();
-    CleanXML = Form->XMLOutput();
+    Document().takeAsClean();
     run(formDisplay.stopTimer);
     run(formDisplay.activate);
 }
@@ -265,7 +179,7 @@ void OpenFormDialog(bool clearPath)
     if (!path.isEmpty()) {
         OpenFormFile(path);
         if (clearPath)
-            givePath(QString());
+            Document().givePath(QString());
         run(formDisplay.clearPreview);
         run(formDisplay.stopTimer);
     }
@@ -276,41 +190,19 @@ void OpenFormFile(const QString &path)
 {
     // A tick of the stopwatch would write the time of the claim before into this one.
     run(formDisplay.stopTimer);
-    const QScopedValueRollback<bool> reading(opening, true);
+    const QScopedValueRollback<bool> reading(Document().opening, true);
     // The claim before is gone from here on, also where the load fails, and its clean text with it.
-    replaceForm();
-    CleanXML = Form->XMLOutput();
+    Document().replaceForm();
+    Document().takeAsClean();
     try {
         if (!loadForm(path))
             return;
     } catch (...) {
         // The failure goes on to the top. Nothing of the user's is in a claim that was never opened.
-        CleanXML = Form->XMLOutput();
+        Document().takeAsClean();
         throw;
     }
     // After the clean text was taken: a path that differs from the one in the file counts as a change. A copy or a
     // backup thus asks to be saved where it lies now.
-    givePath(path);
-}
-
-QString FormFilePath()
-{
-    const QString held = existing(Form).path();
-    return held == givenPath.held ? givenPath.real : held;
-}
-
-QString FormCopyName()
-{
-    const QString real = FormFilePath();
-    return real == Form->path() ? Form->FormFileName() : QFileInfo(real).fileName();
-}
-
-clsLossCause FormLossCause() noexcept
-{
-    try {
-        return opening || !Form ? clsLossCause::None : lossCause();
-    } catch (...) {
-        // A claim that can't even be compared is not known to be safe.
-        return clsLossCause::UnsavedChanges;
-    }
+    Document().givePath(path);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/clsRecoveredCopy.h"
+#include <QString>
 
 #include <functional>
 
@@ -49,16 +49,3 @@ void OpenFormDialog(bool clearPath);
 /// Opens the claim at a path. Where that is no claim, the user is told and a new one begins. A claim whose version has
 /// fewer than three fields raises the subscript error, which is not caught.
 void OpenFormFile(const QString &path);
-
-/// The file in which the claim lies, empty where it has none. The claim itself holds its path in the code page, in
-/// which a foreign character is a question mark; whoever touches the file must ask here, or he would write to another
-/// one.
-QString FormFilePath();
-
-/// The name that a copy of the claim bears: its file's, or the fixed one of an unsaved claim.
-QString FormCopyName();
-
-/// Why the end of the program would lose work: the claim has changes, or it counts as saved and its last save did not
-/// get through, or its file is no longer what was saved. None where a file of its folder has the very same content, and
-/// while a claim is still being opened. Shows nothing and never fails.
-clsLossCause FormLossCause() noexcept;

@@ -3,6 +3,17 @@
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
 
-std::unique_ptr<clsZR3Form> Form;
+namespace {
+
+clsDocument document;
+
+}
+
+clsDocument &Document()
+{
+    return document;
+}
+
+std::unique_ptr<clsZR3Form> &Form = document.form;
 std::unique_ptr<clsZR3PreferencesDatabase> Preferences;
-QString CleanXML;
+QString &CleanXML = document.cleanXML;

@@ -5,8 +5,8 @@
 #include "shell/mdClock.h"
 #include "shell/mdCodePage.h"
 #include "shell/mdDatabasePath.h"
-#include "shell/mdFileHandling.h"
 #include "shell/mdGlobals.h"
+#include "shell/mdLossCause.h"
 #include "shell/mdOwnFolder.h"
 #include "shell/mdStateFolder.h"
 
@@ -25,7 +25,7 @@ constexpr int MostCopiesInASecond = 100;
 /// The claim's file name without its extension, as every file system takes it.
 QString stem()
 {
-    QString name = QFileInfo(FormCopyName()).completeBaseName();
+    QString name = QFileInfo(Document().copyName()).completeBaseName();
     for (QChar &c : name)
         if (c < u' ' || QStringLiteral("\\/:*?\"<>|").contains(c))
             c = u'_';
@@ -62,16 +62,11 @@ QString writtenIn(const QString &folder, const QString &name, const QByteArray &
     return file.fileName();
 }
 
-/// What was written last, and where.
-struct {
-    QString path;
-    QByteArray bytes;
-} lastCopy;
-
 bool lastCopyHolds(const QByteArray &bytes)
 {
+    const auto &last = Document().lastCopy;
     try {
-        return !lastCopy.path.isEmpty() && bytes == lastCopy.bytes && FileSystem().ReadFile(lastCopy.path) == bytes;
+        return !last.path.isEmpty() && bytes == last.bytes && FileSystem().ReadFile(last.path) == bytes;
     } catch (const clsRunTimeError &) {
         return false;
     }
@@ -101,11 +96,11 @@ clsRecoveredCopy writeCopy()
     const QByteArray bytes = mdToCodePage(Form->XMLOutput());
     // A desktop that ends its session asks more than once.
     if (lastCopyHolds(bytes)) {
-        copy.path = lastCopy.path;
+        copy.path = Document().lastCopy.path;
         return copy;
     }
     writeNew(copy, bytes);
-    lastCopy = {copy.path, bytes};
+    Document().lastCopy = {copy.path, bytes};
     return copy;
 }
 

@@ -2,6 +2,7 @@
 
 #include "shell/clsQuietUserInterface.h"
 #include "shell/mdGetVersionInfo.h"
+#include "shell/mdLossCause.h"
 #include "tests/shell/clsDocumentTest.h"
 #include "tests/support/mdOrdinaryUser.h"
 
@@ -230,7 +231,7 @@ TEST_F(DocumentCommands, WithoutAClaimASaveIsTheObjectError)
 {
     EXPECT_EQ(Error::ObjectNotSet, errorOf([] { SaveForm(false); }));
     EXPECT_EQ(Error::ObjectNotSet, errorOf([] { SaveForm(true); }));
-    EXPECT_EQ(Error::ObjectNotSet, errorOf([] { FormFilePath(); }));
+    EXPECT_EQ(Error::ObjectNotSet, errorOf([] { Document().filePath(); }));
 }
 
 TEST_F(DocumentCommands, TheDialogsAreAskedForClaims)
@@ -351,8 +352,8 @@ TEST_F(DocumentCommands, AClaimOutsideTheCodePageIsSavedToItsRealFile)
         const QString file = claimFrom("housing-typical.zr3", name);
         OpenFormFile(file);
         EXPECT_NE(file, Form->path()) << "the name is to be one that the claim can't hold";
-        EXPECT_EQ(file, FormFilePath());
-        EXPECT_EQ(QFileInfo(file).fileName(), FormCopyName());
+        EXPECT_EQ(file, Document().filePath());
+        EXPECT_EQ(QFileInfo(file).fileName(), Document().copyName());
         change();
         EXPECT_TRUE(SaveForm(false));
         EXPECT_EQ(Form->XMLOutput(), textOf(file));
@@ -384,10 +385,10 @@ TEST_F(DocumentCommands, TheRealPathGoesWithItsClaim)
 {
     OpenFormFile(claimFrom("housing-typical.zr3", "claims/中.zr3"));
     OpenFormFile(claimFrom("housing-typical.zr3", "claims/?.zr3"));
-    EXPECT_EQ(path("claims/?.zr3"), FormFilePath());
+    EXPECT_EQ(path("claims/?.zr3"), Document().filePath());
     OpenFormFile(path("claims/中.zr3"));
     NewForm(true);
-    EXPECT_EQ(QString(), FormFilePath());
+    EXPECT_EQ(QString(), Document().filePath());
 }
 
 TEST_F(DocumentCommands, WithoutAWindowTheCommandsRunAllTheSame)

@@ -2,6 +2,7 @@
 
 #include "shell/clsQuietUserInterface.h"
 #include "shell/mdGetVersionInfo.h"
+#include "shell/mdLossCause.h"
 #include "tests/shell/clsDocumentTest.h"
 
 #include <QRegularExpression>
@@ -129,7 +130,7 @@ TEST_F(OpenForm, OpenCanCutTheClaimOffFromItsFile)
     user.files = {file, path("claims/Elsewhere.zr3")};
     OpenFormDialog(true);
     EXPECT_EQ(QString(), Form->path());
-    EXPECT_EQ(QString(), FormFilePath());
+    EXPECT_EQ(QString(), Document().filePath());
     EXPECT_TRUE(FormIsDirty());
     EXPECT_TRUE(SaveForm(false));
     EXPECT_EQ(before, bytesOf(file));
@@ -204,7 +205,7 @@ TEST_F(OpenForm, AFileThatIsNoClaimIsToldAndANewClaimBegins)
     OpenFormDialog(false);
     expectBoxes({{QStringLiteral("Save?"), Question}, {QStringLiteral("Error"), NoClaim}});
     EXPECT_EQ(QString(), Form->path());
-    EXPECT_EQ(QString(), FormFilePath());
+    EXPECT_EQ(QString(), Document().filePath());
     EXPECT_EQ(GetVersionInfo(), Form->Version());
     EXPECT_TRUE(Form->VAT());
     EXPECT_FALSE(FormIsDirty());

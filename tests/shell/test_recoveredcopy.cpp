@@ -1,6 +1,7 @@
 // The copy of a claim that would be lost at the end of the program, and the box that tells of it.
 
 #include "shell/mdDatabasePath.h"
+#include "shell/mdLossCause.h"
 #include "shell/mdRecoveredCopy.h"
 #include "shell/mdRunTimeErrorMessage.h"
 #include "tests/shell/clsDocumentTest.h"

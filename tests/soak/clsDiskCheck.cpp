@@ -54,7 +54,7 @@ clsDiskCheck::~clsDiskCheck()
 
 void clsDiskCheck::aboutToWrite(const QString &path)
 {
-    if (!Form || path != FormFilePath())
+    if (!Form || path != Document().filePath())
         return;
     // A file is written in several steps.
     if (!m_saved.empty() && m_saved.back().path == path)

@@ -26,8 +26,8 @@ bool ConfirmClose();
 /// be set aside nowhere: then this program is the only place that it still has.
 bool ConfirmDrop();
 
-/// The same before the program ends. Where the work could be set aside nowhere the user is told, and it ends all the
-/// same: a disk that takes nothing must not hold the user in the program.
+/// The same before the program ends. Where no place took the work the user is told, and the program still ends: a disk
+/// that takes nothing must not keep it open.
 bool ConfirmExit();
 
 /// Writes the claim to its path, asking for one where it has none or with `saveAs`. False when the user gave none. A

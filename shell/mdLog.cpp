@@ -24,8 +24,8 @@ bool canBeKept(const QString &folder, const QString &name)
         && (!file.exists() || (file.isFile() && file.isReadable() && file.isWritable()));
 }
 
-/// A folder of the user's own with the day's file in it; empty where it can't be. The file is there at once, because
-/// the log can move in the midst of work, and the box of a day that begins would come from nowhere.
+/// A folder of the user's own with the day's file in it; empty where it can't be. The file is made at once, because the
+/// log can move while the user works, and the box of a new day would make no sense then.
 QString ownFolder(const QString &folder, const QString &name)
 {
     if (!MakeOwnFolder(folder))

@@ -69,8 +69,8 @@ bool MakeOwnFolder(const QString &path)
     struct stat status = {};
     const bool own = ::fstat(folder, &status) == 0 && isOwn(status.st_uid);
     // One that was there before may be open to others. A file system without permissions refuses this.
-    if (own && (status.st_mode & (S_IRWXG | S_IRWXO)) != 0) [[maybe_unused]]
-        const int result = ::fchmod(folder, OwnerOnly);
+    if (own && (status.st_mode & (S_IRWXG | S_IRWXO)) != 0)
+        ::fchmod(folder, OwnerOnly);
     ::close(folder);
     return own;
 }

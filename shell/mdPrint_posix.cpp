@@ -1,4 +1,4 @@
-// What asks POSIX whether somebody looks on. Another platform needs this one file anew.
+// Whether a stream is a terminal, on POSIX systems. Another platform needs this one file anew.
 
 #include "shell/mdPrint.h"
 

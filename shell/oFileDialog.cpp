@@ -48,8 +48,10 @@ void oFileDialog::showEvent(QShowEvent *event)
     QFileDialog::showEvent(event);
     // Here, since the dialog first restores the widths of its last use.
     auto *details = findChild<QTreeView *>(QStringLiteral("treeView"));
-    if (!details)
+    auto *places = findChild<QListView *>(QStringLiteral("sidebar"));
+    if (!details || !places)
         return;
+    places->setMinimumWidth(places->sizeHintForColumn(0) + 2 * places->frameWidth());
     details->header()->setMinimumSectionSize(Theme::scaled(NarrowestColumn));
     details->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     details->header()->setStretchLastSection(false); // it would take what is left, and no more

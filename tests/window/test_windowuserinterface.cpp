@@ -274,6 +274,8 @@ TEST_F(WindowUserInterface, TheColumnsOfTheFileDialogShowWhatIsInThem)
             const auto &details = control<QTreeView>(dialog, "treeView");
             ASSERT_TRUE(QTest::qWaitFor([&] { return details.model()->rowCount(details.rootIndex()) == 1; }));
             QTest::qWait(50);
+            const auto &places = control<QListView>(dialog, "sidebar");
+            EXPECT_GE(places.viewport()->width(), places.sizeHintForColumn(0));
             const QHeaderView &columns = *details.header();
             for (int column = 0; column < columns.count(); ++column) {
                 const QString text = details.model()->index(0, column, details.rootIndex()).data().toString();

@@ -33,7 +33,7 @@ clsFrameRows::clsFrameRows(oScreenFrame &frame, QBoxLayout &parts, const std::ve
 
 void clsFrameRows::layOut(int tickColumns)
 {
-    beginPart();
+    beginPart(m_parts);
     if (tickColumns > 0) {
         m_answers = new oTickLayout(tickColumns);
         m_grid->addLayout(m_answers, m_line++, 0, 1, 2);
@@ -42,7 +42,11 @@ void clsFrameRows::layOut(int tickColumns)
         switch (row.kind) {
         case clsRowKind::ColumnBreak:
             endPart();
-            beginPart();
+            beginPart(m_parts);
+            break;
+        case clsRowKind::ColumnsEnd:
+            endPart();
+            beginPart(m_frame.belowColumns());
             break;
         case clsRowKind::Separator: addSeparator(); break;
         case clsRowKind::Question: addQuestion(row); break;
@@ -52,13 +56,13 @@ void clsFrameRows::layOut(int tickColumns)
     endPart();
 }
 
-void clsFrameRows::beginPart()
+void clsFrameRows::beginPart(QBoxLayout &parts)
 {
     m_grid = new QGridLayout;
     m_grid->setSpacing(0);
     m_grid->setHorizontalSpacing(Theme::Space12);
     m_grid->setColumnStretch(1, 1);
-    m_parts.addLayout(m_grid, 1);
+    parts.addLayout(m_grid, 1);
     m_frame.m_grids.push_back(m_grid);
     m_line = 0;
     m_spaceBefore = 0;

@@ -29,6 +29,7 @@ enum class clsRowKind {
     Question, ///< a caption of full width; the ticks behind it are its answers and stand in one row
     Separator, ///< a hairline where the subject changes
     ColumnBreak, ///< where a single long frame parts into two columns, if there is room for two
+    ColumnsEnd, ///< the rows behind it stand below both columns, as wide as the frame
 };
 
 /// What is particular to a field. A row joins its flags with "|".

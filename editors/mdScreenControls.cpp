@@ -145,7 +145,8 @@ QString mdMemberOf(const clsScreenRow &row)
 
 bool mdIsControl(const clsScreenRow &row)
 {
-    return row.kind != clsRowKind::Question && row.kind != clsRowKind::Separator && row.kind != clsRowKind::ColumnBreak;
+    using enum clsRowKind;
+    return row.kind != Question && row.kind != Separator && row.kind != ColumnBreak && row.kind != ColumnsEnd;
 }
 
 QWidget *mdMakeControl(const clsScreenRow &row, QWidget *parent)

@@ -46,6 +46,16 @@ void oScreenFrame::addPages(const clsScreenFrame &frame)
     m_grows = true;
 }
 
+QBoxLayout &oScreenFrame::belowColumns()
+{
+    if (!m_below) {
+        m_below = new QVBoxLayout;
+        m_below->setContentsMargins(0, Theme::Space16, 0, 0);
+        bodyLayout()->addLayout(m_below, 1);
+    }
+    return *m_below;
+}
+
 void oScreenFrame::giveLetter(clsMnemonics &letters)
 {
     if (!m_switcher)
@@ -98,7 +108,7 @@ void oScreenFrame::setSideBySide(bool sideBySide)
 
 int oScreenFrame::narrowestWidth() const
 {
-    int width = 0;
+    int width = m_below ? m_below->minimumSize().width() : 0;
     for (int part = 0; part < m_parts->count(); ++part)
         width = qMax(width, m_parts->itemAt(part)->minimumSize().width());
     const QMargins edges = bodyLayout()->contentsMargins() + layout()->contentsMargins();

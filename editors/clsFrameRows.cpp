@@ -60,7 +60,7 @@ void clsFrameRows::beginPart(QBoxLayout &parts)
 {
     m_grid = new QGridLayout;
     m_grid->setSpacing(0);
-    m_grid->setHorizontalSpacing(Theme::Space12);
+    m_grid->setHorizontalSpacing(Theme::Space12 - oFieldLabel::Gap);
     m_grid->setColumnStretch(1, 1);
     parts.addLayout(m_grid, 1);
     m_frame.m_grids.push_back(m_grid);
@@ -171,7 +171,6 @@ void clsFrameRows::addToRowBefore(const clsScreenRow &row, QWidget *control)
         if (m_cellEndsRight)
             caption->setOneLine();
         m_cell->insertWidget(place++, caption);
-        m_cell->insertSpacing(place++, Theme::Space8);
     }
     m_cell->insertWidget(place, control);
     m_lastWasTick = false;
@@ -202,7 +201,8 @@ void clsFrameRows::addBesideCaption(const clsScreenRow &row, QWidget *control)
     oFieldLabel *caption = label(row, oFieldLabel::Place::Beside, control);
     if (const auto *box = qobject_cast<oAllPurposeBox *>(control); box && box->MultiLine())
         caption->setTopOfFirstLine(box->topOfFirstLine());
-    const int wanted = qBound(Theme::scaled(NarrowestLabels), caption->sizeHint().width(), oFieldLabel::WidestBeside());
+    const int narrowest = Theme::scaled(NarrowestLabels) + oFieldLabel::Gap;
+    const int wanted = qBound(narrowest, caption->sizeHint().width(), oFieldLabel::WidestBeside());
     m_frame.m_labelColumn = qMax(m_frame.m_labelColumn, wanted);
     m_grid->addWidget(caption, m_line, 0);
     m_grid->addLayout(cell(control, false), m_line, 1);
@@ -243,7 +243,6 @@ void clsFrameRows::addInSecondColumn(const clsScreenRow &row, QWidget *tick)
     int place = line->count() - 1;
     line->insertSpacing(place++, Theme::scaled(SecondColumnGap));
     line->insertWidget(place++, caption);
-    line->insertSpacing(place++, Theme::Space8);
     line->insertWidget(place, tick);
 }
 

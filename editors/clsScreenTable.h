@@ -110,6 +110,7 @@ struct clsScreenRow {
     const clsOtherControl *other = nullptr;
     const clsItemList *items = nullptr;
     const char *beside = nullptr; ///< a tick that stands in the line of this one, in a second column
+    const char *spoken = nullptr; ///< what a screen reader says where the caption alone says too little
 };
 
 /// A page of a frame whose pages are opened one at a time.

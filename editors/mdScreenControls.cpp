@@ -153,7 +153,7 @@ QWidget *mdMakeControl(const clsScreenRow &row, QWidget *parent)
 {
     QWidget *control = make(row, parent);
     control->setObjectName(QString::fromUtf8(row.control));
-    control->setAccessibleName(mdSpokenCaption(QString::fromUtf8(row.caption)));
+    control->setAccessibleName(mdSpokenCaption(QString::fromUtf8(row.spoken ? row.spoken : row.caption)));
     if (row.flags & StartsDisabled)
         control->setEnabled(false);
     return control;

@@ -5,6 +5,7 @@
 #include "controls/oContentSwitcher.h"
 #include "editors/clsFrameRows.h"
 #include "editors/clsMnemonics.h"
+#include "editors/mdEnterField.h"
 
 #include <QGridLayout>
 #include <QPainter>
@@ -85,10 +86,8 @@ void oScreenFrame::enter(int page)
     const auto first = std::find_if(m_fields.begin(), m_fields.end(), [this, page](const clsScreenField &field) {
         return field.page == page && field.control->isEnabledTo(window());
     });
-    if (first == m_fields.end())
-        return;
-    first->control->setFocus(Qt::ShortcutFocusReason);
-    window()->setAttribute(Qt::WA_KeyboardFocusChange);
+    if (first != m_fields.end())
+        mdEnterField(*first->control);
 }
 
 void oScreenFrame::setLabelColumn(int width)

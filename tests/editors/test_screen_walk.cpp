@@ -12,7 +12,6 @@
 #include <QAccessible>
 #include <QMenuBar>
 
-
 // The keyboard on every screen.
 
 namespace {
@@ -43,15 +42,54 @@ void noteLetters(const QString &caption, std::multiset<QChar> &letters)
     }
 }
 
-/// All letters that are in force on a window.
+/// The key that leads to the field of a label: a letter of the caption, or else a digit.
+QChar keyOf(const oFieldLabel &label)
+{
+    std::multiset<QChar> letters;
+    noteLetters(label.text(), letters);
+    return letters.empty() ? label.Digit() : *letters.begin();
+}
+
+bool saysSomething(const QString &text)
+{
+    return std::any_of(text.begin(), text.end(), [](QChar c) { return c.isLetter(); });
+}
+
+/// What a control is called. A list is called by its choice, and its caption is told by its label or description.
+QString spokenName(const QWidget &control)
+{
+    const QAccessibleInterface &spoken = *QAccessible::queryAccessibleInterface(const_cast<QWidget *>(&control));
+    if (!qobject_cast<const QComboBox *>(&control))
+        return spoken.text(QAccessible::Name);
+    const auto labels = spoken.relations(QAccessible::Label);
+    if (labels.isEmpty())
+        return spoken.text(QAccessible::Description);
+    QString caption = labels.first().first->text(QAccessible::Name);
+    return caption.remove(u':').remove(u'*');
+}
+
+/// A name that says something, be it with the question that is read out with an answer.
+bool hasSensibleName(const QWidget &control)
+{
+    const QString name = spokenName(control);
+    const QString more
+        = QAccessible::queryAccessibleInterface(const_cast<QWidget *>(&control))->text(QAccessible::Description);
+    return !name.isEmpty() && name == name.trimmed() && !name.endsWith(u':') && !name.contains(u'*')
+        && !name.contains(QLatin1String("&&")) && (saysSomething(name) || saysSomething(more));
+}
+
+/// All letters and digits that are in force on a window.
 std::multiset<QChar> lettersOf(const frmSection &screen)
 {
     std::multiset<QChar> letters;
     for (const QAction *menu : screen.findChild<QMenuBar *>()->actions())
         noteLetters(menu->text(), letters);
-    for (const QLabel *label : screen.findChildren<oFieldLabel *>())
-        if (label->isVisible())
+    for (const oFieldLabel *label : screen.findChildren<oFieldLabel *>())
+        if (label->isVisible()) {
             noteLetters(label->text(), letters);
+            if (!label->Digit().isNull())
+                letters.insert(label->Digit());
+        }
     for (const QAbstractButton *button : screen.findChildren<QAbstractButton *>())
         if (button->isVisible())
             noteLetters(button->text(), letters);
@@ -157,6 +195,39 @@ TEST_P(EveryScreen, EveryStopOfTabHasANameThatIsReadOut)
     });
 }
 
+TEST_P(EveryScreen, EverythingThatCanHaveTheFocusHasASensibleName)
+{
+    onEachPage([this] {
+        for (QWidget *part : screen->findChildren<QWidget *>()) {
+            // Of a field of several parts they have the names.
+            if (!part->isVisible() || part->focusPolicy() == Qt::NoFocus || part->focusProxy())
+                continue;
+            EXPECT_TRUE(hasSensibleName(*part))
+                << part->objectName().toStdString() << " is called \"" << spokenName(*part).toStdString() << '"';
+        }
+    });
+}
+
+TEST_P(EveryScreen, AFieldIsReadOutWithTheWordsOfItsCaption)
+{
+    ASSERT_EQ(expected.fields.size(), screen->Fields().size());
+    for (size_t i = 0; i < expected.fields.size(); ++i) {
+        const clsScreenField &field = screen->Fields()[i];
+        if (expected.fields[i].kind == 'b' || expected.fields[i].kind == 'o' || field.row->kind == clsRowKind::Items)
+            continue;
+        QString caption
+            = QString::fromUtf8(expected.fields[i].answer ? expected.fields[i].answer : expected.fields[i].caption);
+        while (caption.endsWith(u':') || caption.endsWith(u'*'))
+            caption.chop(1);
+        // A caption without words has others in its place.
+        if (!saysSomething(caption))
+            continue;
+        openPageOf(field);
+        QTest::qWait(1);
+        EXPECT_EQ(caption, spokenName(*focusPart(*field.control)));
+    }
+}
+
 TEST_P(EveryScreen, ALetterThatNothingHasIsNotTyped)
 {
     for (const clsScreenField &field : screen->Fields()) {
@@ -191,6 +262,7 @@ TEST_P(EveryScreen, NoLetterIsGivenTwice)
         EXPECT_EQ(has("cmdClose") ? 1u : 0u, letters.count(u'C'));
         EXPECT_EQ(hasAdd(openFields()) ? 1u : 0u, letters.count(u'A'));
         EXPECT_EQ(screen->Screen().jumps.empty() ? 0u : 1u, letters.count(u'J'));
+        EXPECT_EQ(0u, letters.count(u'E')) << "that of the menu Edit";
     });
     QStringList fixed;
     for (const char *name : {"cmdSave", "cmdCancel", "cmdClose"})
@@ -201,17 +273,19 @@ TEST_P(EveryScreen, NoLetterIsGivenTwice)
         fixed);
 }
 
-TEST_P(EveryScreen, ACaptionWithoutALetterFoundAllOfItsOwnTaken)
+TEST_P(EveryScreen, EveryCaptionHasALetterOrADigitWhereAllOfItsLettersAreTaken)
 {
     onEachPage([this] {
         const std::multiset<QChar> letters = lettersOf(*screen);
         for (const oFieldLabel *label : screen->findChildren<oFieldLabel *>()) {
-            std::multiset<QChar> own;
-            noteLetters(label->text(), own);
-            if (!label->isVisible() || label->place() == oFieldLabel::Place::Answer || !own.empty())
+            if (!label->isVisible() || label->place() == oFieldLabel::Place::Answer)
+                continue;
+            const QChar key = keyOf(*label);
+            EXPECT_FALSE(key.isNull()) << label->Caption().toStdString();
+            if (key != label->Digit())
                 continue;
             for (const QChar c : label->Caption())
-                if (c.isLetter() && !QStringLiteral("FJSACN").contains(c.toUpper())) {
+                if (c.isLetter() && !QStringLiteral("FEJSACN").contains(c.toUpper())) {
                     EXPECT_TRUE(letters.count(c.toUpper())) << label->Caption().toStdString();
                 }
         }
@@ -224,12 +298,11 @@ TEST_P(EveryScreen, TheLetterOfALabelLeadsToItsFieldAndTicksATick)
         openPageOf(field);
         if (!field.label || !canEnter(field))
             continue;
-        const qsizetype mark = field.label->text().indexOf(u'&');
-        if (mark < 0)
+        if (field.label->place() == oFieldLabel::Place::Answer)
             continue;
         const auto *tick = qobject_cast<oCheckBox *>(field.control);
         const bool before = tick && tick->Checked();
-        const char letter = field.label->text()[mark + 1].toLower().toLatin1();
+        const char letter = keyOf(*field.label).toLower().toLatin1();
         QTest::keyClick(screen.get(), letter, Qt::AltModifier);
         EXPECT_EQ(field.control->objectName(), focusedName(*screen)) << letter;
         if (tick) {

@@ -15,6 +15,10 @@ constexpr int NarrowestLabels = 120;
 constexpr int TickRowGap = 6;
 constexpr int AnswerGap = 6;
 constexpr int SecondColumnGap = 80;
+/// A list takes all the height that is left over. Boxes take nearly all until they are as high as they become, and then
+/// it goes below the rows.
+constexpr int ListStretch = 1;
+constexpr int BoxStretch = 1000;
 
 /// The rows that take whatever height is left over and, below their captions, the whole width.
 bool growsWithWindow(const clsScreenRow &row)
@@ -73,13 +77,12 @@ void clsFrameRows::beginPart(QBoxLayout &parts)
     m_lastWasTick = false;
 }
 
-/// What is left over of the height goes below the rows, unless one of them grows.
 void clsFrameRows::endPart()
 {
-    bool grows = false;
+    int stretch = 0;
     for (int line = 0; line < m_line; ++line)
-        grows = grows || m_grid->rowStretch(line) > 0;
-    if (!grows)
+        stretch = qMax(stretch, m_grid->rowStretch(line));
+    if (stretch != ListStretch)
         m_grid->setRowStretch(m_line, 1);
     int captions = 0;
     for (const oFieldLabel *caption : m_secondColumn)
@@ -87,7 +90,7 @@ void clsFrameRows::endPart()
     for (oFieldLabel *caption : m_secondColumn)
         caption->setMinimumWidth(captions);
     m_secondColumn.clear();
-    m_frame.m_grows = m_frame.m_grows || grows;
+    m_frame.m_grows = m_frame.m_grows || stretch > 0;
 }
 
 void clsFrameRows::addSpace(int height)
@@ -188,7 +191,7 @@ void clsFrameRows::addBelowCaption(const clsScreenRow &row, QWidget *control, bo
     }
     const bool grows = growsWithWindow(row);
     m_grid->addLayout(cell(control, grows), m_line, 0, 1, 2);
-    m_grid->setRowStretch(m_line++, grows ? 1 : 0);
+    m_grid->setRowStretch(m_line++, grows ? BoxStretch : 0);
     m_spaceBefore = captioned ? int(Theme::Space16) : 0;
     m_lastWasTick = false;
 }
@@ -210,7 +213,7 @@ void clsFrameRows::addBesideCaption(const clsScreenRow &row, QWidget *control)
         m_grid->setRowMinimumHeight(m_line, Theme::scaled(Theme::Space24));
         m_tickCells[control->objectName()] = m_cell;
     }
-    m_grid->setRowStretch(m_line++, growsWithWindow(row) ? 1 : 0);
+    m_grid->setRowStretch(m_line++, growsWithWindow(row) ? BoxStretch : 0);
     m_spaceBefore = 0;
     m_lastWasTick = tick;
 }
@@ -221,7 +224,7 @@ void clsFrameRows::addItems(const clsScreenRow &row, QWidget *grid)
     m_answers = nullptr;
     addSpace(m_spaceBefore ? m_spaceBefore : int(Theme::Space8));
     m_grid->addLayout(cell(grid, true), m_line, 0, 1, 2);
-    m_grid->setRowStretch(m_line++, 1);
+    m_grid->setRowStretch(m_line++, ListStretch);
     m_frame.m_grows = true;
     m_spaceBefore = 0;
     m_lastWasTick = false;

@@ -118,11 +118,12 @@ void oFieldLabel::paintEvent(QPaintEvent *event)
     QPainter painter(this);
     QFont underlined = font();
     underlined.setUnderline(true);
-    // A large digit has to fit the gap.
-    underlined.setPointSizeF(font().pointSizeF() * qMin(1.0, double(Gap) / fontMetrics().horizontalAdvance(m_digit)));
+    // It has to fit the gap, clear of the colon.
+    const double room = Gap - 2;
+    underlined.setPointSizeF(font().pointSizeF() * qMin(1.0, room / fontMetrics().horizontalAdvance(m_digit)));
     painter.setFont(underlined);
     painter.setPen(palette().color(foregroundRole()));
-    painter.drawText(placeOfDigit(), Qt::AlignCenter, m_digit);
+    painter.drawText(placeOfDigit(), Qt::AlignRight | Qt::AlignVCenter, m_digit);
 }
 
 bool oFieldLabel::eventFilter(QObject *watched, QEvent *event)

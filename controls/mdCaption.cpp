@@ -14,7 +14,7 @@ QString mdPlainCaption(const QString &caption)
 
 QString mdSpokenCaption(const QString &caption)
 {
-    QString result = mdPlainCaption(caption).trimmed();
+    QString result = caption.trimmed();
     while (result.endsWith(u':') || result.endsWith(u'*'))
         result.chop(1);
     return result.trimmed();

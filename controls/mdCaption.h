@@ -5,5 +5,5 @@
 /// A caption as it reads on the screen: without the ampersands that mark its mnemonic.
 QString mdPlainCaption(const QString &caption);
 
-/// A caption as a screen reader says it: without mnemonic, colon and asterisk, so "Surname" of "&Surname:*".
+/// A caption, without marks, as a screen reader says it: without colon and asterisk, so "Surname" of "Surname:*".
 QString mdSpokenCaption(const QString &caption);

@@ -55,6 +55,9 @@ int linesFor(int allowance)
     return allowance > 0 ? qBound(3, 3 + allowance / 130, 8) : 8;
 }
 
+/// A box that grows with the window ends here: a longer text scrolls.
+constexpr int MostLines = 12;
+
 } // namespace
 
 void SetEditReplacements(std::function<void()> edit)
@@ -185,6 +188,7 @@ void oAllPurposeBox::layOut()
     m_count->setContentsMargins(0, MultiLine() ? m_text->topOfFirstLine() + lower : 0, 0, 0);
     m_text->setRoom(Theme::scaled(widthFor(allowance, MultiLine())), linesFor(allowance));
     setSizePolicy(m_text->sizePolicy());
+    setMaximumHeight(MultiLine() ? m_text->heightOfLines(MostLines) : QWIDGETSIZE_MAX);
     refreshCount();
 }
 

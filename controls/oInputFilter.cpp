@@ -7,6 +7,7 @@
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -37,6 +38,22 @@ bool typesByAccident(const QObject *watched, const QKeyEvent &key)
     // filter sees them.
     return qobject_cast<const QLineEdit *>(watched) || qobject_cast<const QPlainTextEdit *>(watched)
         || qobject_cast<const QTextEdit *>(watched) || qobject_cast<const QComboBox *>(watched);
+}
+
+/// The desktop knows the Menu key alone as that of a text's menu. Lists and grids see to it themselves, and a screen on
+/// which the key means something else takes it first.
+bool asksForMenu(const QObject *watched, const QKeyEvent &key)
+{
+    return key.key() == Qt::Key_F10 && (key.modifiers() & ~Qt::KeypadModifier) == Qt::ShiftModifier
+        && (qobject_cast<const QLineEdit *>(watched) || qobject_cast<const QPlainTextEdit *>(watched)
+            || qobject_cast<const QTextEdit *>(watched));
+}
+
+void openMenuOf(QWidget &text)
+{
+    const QPoint place = text.inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
+    QContextMenuEvent asked(QContextMenuEvent::Keyboard, place, text.mapToGlobal(place));
+    QCoreApplication::sendEvent(&text, &asked);
 }
 
 } // namespace
@@ -97,6 +114,11 @@ bool oInputFilter::eventFilter(QObject *watched, QEvent *event)
             setUnderlineMnemonics(true);
         else if (!static_cast<QKeyEvent *>(event)->modifiers().testFlag(Qt::AltModifier))
             checkAlt();
+        if (asksForMenu(watched, *static_cast<QKeyEvent *>(event))) {
+            openMenuOf(*static_cast<QWidget *>(watched));
+            event->accept();
+            return true;
+        }
         if (!typesByAccident(watched, *static_cast<QKeyEvent *>(event)))
             return false;
         event->accept();

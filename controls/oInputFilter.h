@@ -8,7 +8,8 @@ class QWidget;
 /// What the whole application does with events before its controls see them: mnemonics are underlined while Alt is
 /// held, a wheel over a list that hasn't the focus scrolls the page, a box that is marked as invalid is painted anew,
 /// and every part of a window hears of a new font of the desktop. A letter under Alt that leads nowhere is not typed
-/// into a text box and chooses nothing in a list. It eats nothing else.
+/// into a text box and chooses nothing in a list. Shift+F10 opens the menu of a text as the Menu key does. It eats
+/// nothing else.
 class oInputFilter final : public QObject {
     Q_OBJECT
 

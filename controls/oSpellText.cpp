@@ -10,6 +10,7 @@
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QTextBlock>
 
 #include <algorithm>
 
@@ -35,6 +36,18 @@ int lengthOfCommonEnd(QStringView first, QStringView second)
         && first[first.size() - 1 - length] == second[second.size() - 1 - length])
         ++length;
     return length > 0 && first[first.size() - length].isLowSurrogate() ? length - 1 : length;
+}
+
+/// The height of a line as the editor lays it out, which is a pixel more than the metrics say in some sizes of a font.
+int laidOutLine(const QFont &font)
+{
+    QTextDocument document;
+    auto *layout = new QPlainTextDocumentLayout(&document);
+    document.setDocumentLayout(layout);
+    document.setDocumentMargin(0);
+    document.setDefaultFont(font);
+    document.setPlainText(QStringLiteral("x"));
+    return qCeil(layout->blockBoundingRect(document.firstBlock()).height());
 }
 
 } // namespace
@@ -79,6 +92,8 @@ void oSpellText::setText(const QString &text)
     {
         const QScopedValueRollback writing(m_writing, true);
         setPlainText(BoxText(text, m_multiLine));
+        // Before it is laid out, a box is too low for a line of a larger font, and the editor scrolls on by a line.
+        verticalScrollBar()->setValue(0);
         m_leftWithWindow = false;
     }
     tellChange();
@@ -91,9 +106,12 @@ void oSpellText::rewriteText(const QString &text)
         const QString before = BoxText(editorText(), true);
         const QString after = BoxText(text, m_multiLine);
         const int start = lengthOfCommonStart(before, after);
-        const int end = lengthOfCommonEnd(QStringView(before).mid(start), QStringView(after).mid(start));
+        // Not past the caret, which is to stand behind the new text after a redo.
+        const int end = qMin(int(before.size()) - textCursor().position(),
+            lengthOfCommonEnd(QStringView(before).mid(start), QStringView(after).mid(start)));
         if (before != after) {
-            QTextCursor cursor(document());
+            // From the caret, which is where undo puts it back.
+            QTextCursor cursor = textCursor();
             cursor.beginEditBlock();
             cursor.setPosition(start);
             cursor.setPosition(int(before.size()) - end, QTextCursor::KeepAnchor);
@@ -165,11 +183,13 @@ void oSpellText::layOut()
     setSizePolicy(QSizePolicy::Expanding, m_multiLine ? QSizePolicy::MinimumExpanding : QSizePolicy::Fixed);
     // The frame has a width and the document a margin; the rest of the padding lies between them.
     const int inner = frameWidth() + DocumentMargin;
-    const int padding = heightOfLines(1) - fontMetrics().height();
+    const int padding = Theme::boxHeight(fontMetrics()) - fontMetrics().height();
     // An odd pixel lies above the text, as in the boxes beside it.
     const int above = qMax(0, (padding + 1) / 2 - inner);
-    // None below a single line: if its room is the least bit too low, the toolkit lets it scroll.
-    const int below = m_multiLine ? qMax(0, padding - 2 * inner - above) : 0;
+    // None below a single line: if its room is the least bit too low, the toolkit lets it scroll. Of several lines it
+    // keeps a pixel back.
+    const int below = m_multiLine ? qMax(0, padding - 2 * inner - above - 1) : 0;
+    m_lineHeight = m_multiLine ? laidOutLine(font()) : fontMetrics().height();
     const int side = qMax(0, SidePadding - inner);
     setViewportMargins(qMax(0, side - 1), above, side, below);
     updateGeometry();
@@ -182,7 +202,7 @@ int oSpellText::topOfFirstLine() const
 
 int oSpellText::heightOfLines(int lines) const
 {
-    return Theme::boxHeight(fontMetrics()) + (lines - 1) * fontMetrics().height();
+    return Theme::boxHeight(fontMetrics()) - fontMetrics().height() + lines * m_lineHeight;
 }
 
 QSize oSpellText::sizeHint() const

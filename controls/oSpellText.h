@@ -34,6 +34,8 @@ public:
 
     /// How much room the box asks for: a width, and the lines of a box of several.
     void setRoom(int width, int lines);
+    /// The height of a box that shows so many lines without scrolling.
+    int heightOfLines(int lines) const;
     /// The distance from the top of the box to the top of its first line.
     int topOfFirstLine() const;
     /// The menu for a place of the text, with the box's own actions at its end.
@@ -59,13 +61,13 @@ protected:
 
 private:
     QString editorText() const;
-    int heightOfLines(int lines) const;
     void layOut();
     void tellChange();
 
     bool m_multiLine = false;
     int m_width;
     int m_lines = 3;
+    int m_lineHeight = 0;
     bool m_edited = false; ///< the document's text has changed since the last `Change`
     bool m_writing = false; ///< the program is writing and will tell of it itself
     bool m_leftWithWindow = false; ///< the focus went with the whole window, and not to another control

@@ -96,6 +96,7 @@ void oTabBar::setRow(Row row)
 {
     m_row = row;
     const bool isTabs = row == Row::Tabs;
+    setAccessibleName(isTabs ? QStringLiteral("Groups of sections") : QStringLiteral("Sections of the group"));
     // The text of the first tab, and the edge of the first button, stand where the sheet of a screen begins.
     const int side = isTabs ? Theme::Space8 : Theme::Space24 - Theme::RingRoom;
     m_buttons->setContentsMargins(side, 0, side, 0);

@@ -18,7 +18,7 @@ constexpr int BoxWidth = 560;
 } // namespace
 
 oTypeAheadBox::oTypeAheadBox(QWidget *parent)
-    : QLineEdit(parent)
+    : oLineBox(parent)
     , m_suggestions(new QStringListModel(this))
 {
     setTextMargins(Theme::Space4, 0, Theme::Space4, 0);
@@ -50,12 +50,12 @@ QStringList oTypeAheadBox::Suggestions() const
 
 QSize oTypeAheadBox::sizeHint() const
 {
-    return {Theme::scaled(BoxWidth), QLineEdit::sizeHint().height()};
+    return {Theme::scaled(BoxWidth), oLineBox::sizeHint().height()};
 }
 
 void oTypeAheadBox::focusInEvent(QFocusEvent *event)
 {
-    QLineEdit::focusInEvent(event);
+    oLineBox::focusInEvent(event);
     if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason
         || event->reason() == Qt::ShortcutFocusReason)
         end(false);
@@ -80,7 +80,7 @@ void oTypeAheadBox::keyPressEvent(QKeyEvent *event)
         event->accept();
         return;
     }
-    QLineEdit::keyPressEvent(event);
+    oLineBox::keyPressEvent(event);
 }
 
 bool oTypeAheadBox::eventFilter(QObject *watched, QEvent *event)
@@ -88,7 +88,7 @@ bool oTypeAheadBox::eventFilter(QObject *watched, QEvent *event)
     // Left open they would take the keys that are meant for the field that has the focus now.
     if (watched == this && event->type() == QEvent::FocusOut && !hasFocus() && suggesting())
         completer()->popup()->hide();
-    return QLineEdit::eventFilter(watched, event);
+    return oLineBox::eventFilter(watched, event);
 }
 
 bool oTypeAheadBox::suggesting() const

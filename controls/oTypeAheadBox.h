@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QLineEdit>
+#include "controls/oLineBox.h"
 
 class QStringListModel;
 
 /// A text box that suggests texts while the user types, and on Down: those that begin with what is typed, whatever the
 /// capitals, and all of them while nothing is typed. The arrow at its end shows all. Nothing typed is ever changed by
 /// itself; only a suggestion that is chosen takes its place.
-class oTypeAheadBox : public QLineEdit {
+class oTypeAheadBox : public oLineBox {
     Q_OBJECT
     Q_PROPERTY(QString Text READ Text WRITE setText)
 

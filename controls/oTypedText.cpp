@@ -39,7 +39,7 @@ oTypedText *oTypedText::inside(QWidget &box, const clsTypedKind &kind)
 }
 
 oTypedText::oTypedText(QWidget &box, const clsTypedKind &kind)
-    : QLineEdit(&box)
+    : oLineBox(&box)
     , m_kind(kind)
 {
     setObjectName(QStringLiteral("txtText"));
@@ -101,7 +101,7 @@ void oTypedText::setCompact()
 QSize oTypedText::sizeHint() const
 {
     if (!m_compact)
-        return {Theme::scaled(BoxWidth), QLineEdit::sizeHint().height()};
+        return {Theme::scaled(BoxWidth), oLineBox::sizeHint().height()};
     return {Theme::scaled(CompactWidth), fontMetrics().height() + CompactPadding};
 }
 
@@ -124,7 +124,7 @@ void oTypedText::setInvalid(bool invalid)
 
 bool oTypedText::event(QEvent *event)
 {
-    const bool done = QLineEdit::event(event);
+    const bool done = oLineBox::event(event);
     if (m_compact && event->type() == QEvent::ApplicationFontChange)
         setFont(Theme::font(-1));
     return done;
@@ -132,7 +132,7 @@ bool oTypedText::event(QEvent *event)
 
 void oTypedText::focusInEvent(QFocusEvent *event)
 {
-    QLineEdit::focusInEvent(event);
+    oLineBox::focusInEvent(event);
     if (m_inside && isInterruption(event->reason()))
         return;
     m_inside = true;
@@ -143,7 +143,7 @@ void oTypedText::focusInEvent(QFocusEvent *event)
 
 void oTypedText::focusOutEvent(QFocusEvent *event)
 {
-    QLineEdit::focusOutEvent(event);
+    oLineBox::focusOutEvent(event);
     if (!m_inside || isInterruption(event->reason()))
         return;
     m_inside = false;
@@ -154,7 +154,7 @@ void oTypedText::focusOutEvent(QFocusEvent *event)
 
 void oTypedText::showEvent(QShowEvent *event)
 {
-    QLineEdit::showEvent(event);
+    oLineBox::showEvent(event);
     // A screen names the box; a screen reader meets the text inside.
     if (const QString name = parentWidget()->accessibleName(); !name.isEmpty())
         setAccessibleName(name);
@@ -162,7 +162,7 @@ void oTypedText::showEvent(QShowEvent *event)
 
 void oTypedText::hideEvent(QHideEvent *event)
 {
-    QLineEdit::hideEvent(event);
+    oLineBox::hideEvent(event);
     m_inside = false;
 }
 
@@ -177,12 +177,12 @@ void oTypedText::keyPressEvent(QKeyEvent *event)
         event->accept();
         return;
     }
-    QLineEdit::keyPressEvent(event);
+    oLineBox::keyPressEvent(event);
 }
 
 void oTypedText::mouseReleaseEvent(QMouseEvent *event)
 {
-    QLineEdit::mouseReleaseEvent(event);
+    oLineBox::mouseReleaseEvent(event);
     if (m_selectsOnRelease && !hasSelectedText())
         selectAll();
     m_selectsOnRelease = false;

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "controls/clsHoldingBox.h"
-
-#include <QLineEdit>
+#include "controls/oLineBox.h"
 
 #include <optional>
 
@@ -23,7 +22,7 @@ struct clsTypedKind {
 /// window are no leaving, so that a held box lets Esc and the close box through and two programs don't fight over the
 /// focus. A second bad box can't fight either: it never got the focus that the first one took back. What else a held
 /// box stops is told in mdLeaveFocusedBox.h.
-class oTypedText final : public QLineEdit, public clsHoldingBox {
+class oTypedText final : public oLineBox, public clsHoldingBox {
     Q_OBJECT
 
 public:
@@ -51,6 +50,8 @@ signals:
     void Left();
 
 protected:
+    /// Without the blanks around it too: what is pasted from a table or a letter brings them along.
+    QString cleaned(const QString &text) const override { return oLineBox::cleaned(text).trimmed(); }
     bool event(QEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;

@@ -15,6 +15,10 @@ constexpr int NarrowestLabels = 120;
 constexpr int TickRowGap = 6;
 constexpr int AnswerGap = 6;
 constexpr int SecondColumnGap = 80;
+/// A list takes all the height that is left over. Boxes take nearly all until they are as high as they become, and then
+/// it goes below the rows.
+constexpr int ListStretch = 1;
+constexpr int BoxStretch = 1000;
 
 /// The rows that take whatever height is left over and, below their captions, the whole width.
 bool growsWithWindow(const clsScreenRow &row)
@@ -33,7 +37,7 @@ clsFrameRows::clsFrameRows(oScreenFrame &frame, QBoxLayout &parts, const std::ve
 
 void clsFrameRows::layOut(int tickColumns)
 {
-    beginPart();
+    beginPart(m_parts);
     if (tickColumns > 0) {
         m_answers = new oTickLayout(tickColumns);
         m_grid->addLayout(m_answers, m_line++, 0, 1, 2);
@@ -42,7 +46,11 @@ void clsFrameRows::layOut(int tickColumns)
         switch (row.kind) {
         case clsRowKind::ColumnBreak:
             endPart();
-            beginPart();
+            beginPart(m_parts);
+            break;
+        case clsRowKind::ColumnsEnd:
+            endPart();
+            beginPart(m_frame.belowColumns());
             break;
         case clsRowKind::Separator: addSeparator(); break;
         case clsRowKind::Question: addQuestion(row); break;
@@ -52,13 +60,13 @@ void clsFrameRows::layOut(int tickColumns)
     endPart();
 }
 
-void clsFrameRows::beginPart()
+void clsFrameRows::beginPart(QBoxLayout &parts)
 {
     m_grid = new QGridLayout;
     m_grid->setSpacing(0);
-    m_grid->setHorizontalSpacing(Theme::Space12);
+    m_grid->setHorizontalSpacing(Theme::Space12 - oFieldLabel::Gap);
     m_grid->setColumnStretch(1, 1);
-    m_parts.addLayout(m_grid, 1);
+    parts.addLayout(m_grid, 1);
     m_frame.m_grids.push_back(m_grid);
     m_line = 0;
     m_spaceBefore = 0;
@@ -69,13 +77,12 @@ void clsFrameRows::beginPart()
     m_lastWasTick = false;
 }
 
-/// What is left over of the height goes below the rows, unless one of them grows.
 void clsFrameRows::endPart()
 {
-    bool grows = false;
+    int stretch = 0;
     for (int line = 0; line < m_line; ++line)
-        grows = grows || m_grid->rowStretch(line) > 0;
-    if (!grows)
+        stretch = qMax(stretch, m_grid->rowStretch(line));
+    if (stretch != ListStretch)
         m_grid->setRowStretch(m_line, 1);
     int captions = 0;
     for (const oFieldLabel *caption : m_secondColumn)
@@ -83,7 +90,7 @@ void clsFrameRows::endPart()
     for (oFieldLabel *caption : m_secondColumn)
         caption->setMinimumWidth(captions);
     m_secondColumn.clear();
-    m_frame.m_grows = m_frame.m_grows || grows;
+    m_frame.m_grows = m_frame.m_grows || stretch > 0;
 }
 
 void clsFrameRows::addSpace(int height)
@@ -167,7 +174,6 @@ void clsFrameRows::addToRowBefore(const clsScreenRow &row, QWidget *control)
         if (m_cellEndsRight)
             caption->setOneLine();
         m_cell->insertWidget(place++, caption);
-        m_cell->insertSpacing(place++, Theme::Space8);
     }
     m_cell->insertWidget(place, control);
     m_lastWasTick = false;
@@ -185,7 +191,7 @@ void clsFrameRows::addBelowCaption(const clsScreenRow &row, QWidget *control, bo
     }
     const bool grows = growsWithWindow(row);
     m_grid->addLayout(cell(control, grows), m_line, 0, 1, 2);
-    m_grid->setRowStretch(m_line++, grows ? 1 : 0);
+    m_grid->setRowStretch(m_line++, grows ? BoxStretch : 0);
     m_spaceBefore = captioned ? int(Theme::Space16) : 0;
     m_lastWasTick = false;
 }
@@ -198,7 +204,8 @@ void clsFrameRows::addBesideCaption(const clsScreenRow &row, QWidget *control)
     oFieldLabel *caption = label(row, oFieldLabel::Place::Beside, control);
     if (const auto *box = qobject_cast<oAllPurposeBox *>(control); box && box->MultiLine())
         caption->setTopOfFirstLine(box->topOfFirstLine());
-    const int wanted = qBound(Theme::scaled(NarrowestLabels), caption->sizeHint().width(), oFieldLabel::WidestBeside());
+    const int narrowest = Theme::scaled(NarrowestLabels) + oFieldLabel::Gap;
+    const int wanted = qBound(narrowest, caption->sizeHint().width(), oFieldLabel::WidestBeside());
     m_frame.m_labelColumn = qMax(m_frame.m_labelColumn, wanted);
     m_grid->addWidget(caption, m_line, 0);
     m_grid->addLayout(cell(control, false), m_line, 1);
@@ -206,7 +213,7 @@ void clsFrameRows::addBesideCaption(const clsScreenRow &row, QWidget *control)
         m_grid->setRowMinimumHeight(m_line, Theme::scaled(Theme::Space24));
         m_tickCells[control->objectName()] = m_cell;
     }
-    m_grid->setRowStretch(m_line++, growsWithWindow(row) ? 1 : 0);
+    m_grid->setRowStretch(m_line++, growsWithWindow(row) ? BoxStretch : 0);
     m_spaceBefore = 0;
     m_lastWasTick = tick;
 }
@@ -217,7 +224,7 @@ void clsFrameRows::addItems(const clsScreenRow &row, QWidget *grid)
     m_answers = nullptr;
     addSpace(m_spaceBefore ? m_spaceBefore : int(Theme::Space8));
     m_grid->addLayout(cell(grid, true), m_line, 0, 1, 2);
-    m_grid->setRowStretch(m_line++, 1);
+    m_grid->setRowStretch(m_line++, ListStretch);
     m_frame.m_grows = true;
     m_spaceBefore = 0;
     m_lastWasTick = false;
@@ -239,7 +246,6 @@ void clsFrameRows::addInSecondColumn(const clsScreenRow &row, QWidget *tick)
     int place = line->count() - 1;
     line->insertSpacing(place++, Theme::scaled(SecondColumnGap));
     line->insertWidget(place++, caption);
-    line->insertSpacing(place++, Theme::Space8);
     line->insertWidget(place, tick);
 }
 

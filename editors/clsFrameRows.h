@@ -21,7 +21,7 @@ public:
     void layOut(int tickColumns = 0);
 
 private:
-    void beginPart();
+    void beginPart(QBoxLayout &parts);
     void endPart();
     void addSpace(int height);
     void addSeparator();

@@ -39,6 +39,8 @@ clsItemChoice::clsItemChoice(QFrame &box, const clsChoiceSource &source)
     m_tick->setCaption(QString::fromUtf8(source.tickCaption));
     m_list->setObjectName(QString::fromUtf8(source.list));
     m_list->setAccessibleName(QString::fromUtf8(source.listCaption));
+    // A screen reader calls a list by its choice and tells its caption by a label, which this one lacks.
+    m_list->setAccessibleDescription(m_list->accessibleName());
     m_list->setEnabled(false);
 
     // Room for the square of the focused tick, which layouts take for the outside of the box, so that its visible edge

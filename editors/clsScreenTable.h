@@ -29,6 +29,7 @@ enum class clsRowKind {
     Question, ///< a caption of full width; the ticks behind it are its answers and stand in one row
     Separator, ///< a hairline where the subject changes
     ColumnBreak, ///< where a single long frame parts into two columns, if there is room for two
+    ColumnsEnd, ///< the rows behind it stand below both columns, as wide as the frame
 };
 
 /// What is particular to a field. A row joins its flags with "|".
@@ -109,6 +110,7 @@ struct clsScreenRow {
     const clsOtherControl *other = nullptr;
     const clsItemList *items = nullptr;
     const char *beside = nullptr; ///< a tick that stands in the line of this one, in a second column
+    const char *spoken = nullptr; ///< what a screen reader says where the caption alone says too little
 };
 
 /// A page of a frame whose pages are opened one at a time.

@@ -113,7 +113,8 @@ const clsScreen &ScreenFeeEarnerGroupEdit()
                 {Text,    "txtReference",       "Reference:*", 0, Required},
                 {.kind = Other, .control = "txtName", .caption = "Name:*", .flags = Required, .other = &Name},
                 {Tick,    "chkEnhance",         "Enhance:"},
-                {Decimal, "txtEnhancementRate", "%", 0, StartsDisabled | SameRow},
+                {.kind = Decimal, .control = "txtEnhancementRate", .caption = "%", .flags = StartsDisabled | SameRow,
+                 .spoken = "Enhancement rate in per cent"},
                 {Tick,    "chkEnhanceComms",    "Enhance Communications:", 0, StartsDisabled},
             }},
             {"bxRates", "Rates", {

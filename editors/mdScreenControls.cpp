@@ -145,14 +145,15 @@ QString mdMemberOf(const clsScreenRow &row)
 
 bool mdIsControl(const clsScreenRow &row)
 {
-    return row.kind != clsRowKind::Question && row.kind != clsRowKind::Separator && row.kind != clsRowKind::ColumnBreak;
+    using enum clsRowKind;
+    return row.kind != Question && row.kind != Separator && row.kind != ColumnBreak && row.kind != ColumnsEnd;
 }
 
 QWidget *mdMakeControl(const clsScreenRow &row, QWidget *parent)
 {
     QWidget *control = make(row, parent);
     control->setObjectName(QString::fromUtf8(row.control));
-    control->setAccessibleName(mdSpokenCaption(QString::fromUtf8(row.caption)));
+    control->setAccessibleName(mdSpokenCaption(QString::fromUtf8(row.spoken ? row.spoken : row.caption)));
     if (row.flags & StartsDisabled)
         control->setEnabled(false);
     return control;

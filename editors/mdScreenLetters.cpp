@@ -10,9 +10,9 @@
 
 namespace {
 
-/// File, Jump To, Save, Add, Close and Cancel. They have their letters on every screen: where one of them is missing,
-/// its letter leads to nothing, and not to something else.
-constexpr QLatin1String FixedLetters("FJSACN");
+/// File, Edit, Jump To, Save, Add, Close and Cancel. They have their letters on every screen: where one of them is
+/// missing, its letter leads to nothing, and not to something else.
+constexpr QLatin1String FixedLetters("FEJSACN");
 
 /// The first "Add" of a screen, and that of each page, of which only one is open, has its letter on every screen; a
 /// second one takes what there is.
@@ -43,6 +43,22 @@ bool hasCaption(const oScreenFrame &frame)
     });
 }
 
+/// A caption whose letters are all taken gets a digit.
+void giveLabels(const std::vector<oFieldLabel *> &labels, clsMnemonics &letters)
+{
+    QStringList captions;
+    for (const oFieldLabel *label : labels)
+        captions << (label->place() == oFieldLabel::Place::Answer ? QString() : label->Caption());
+    const QStringList marked = letters.marked(captions);
+    for (size_t i = 0; i < labels.size(); ++i) {
+        if (labels[i]->place() == oFieldLabel::Place::Answer)
+            continue;
+        labels[i]->setText(marked[int(i)]);
+        if (marked[int(i)] == clsMnemonics::unmarked(captions[int(i)]))
+            labels[i]->setDigit(letters.digit());
+    }
+}
+
 } // namespace
 
 void mdGiveLetters(oScreenBar &bar, const std::vector<clsScreenField> &fields, const std::vector<oFieldLabel *> &labels,
@@ -57,7 +73,5 @@ void mdGiveLetters(oScreenBar &bar, const std::vector<clsScreenField> &fields, c
     for (oScreenFrame *frame : frames)
         if (!hasCaption(*frame))
             frame->giveLetter(letters);
-    for (oFieldLabel *label : labels)
-        if (label->place() != oFieldLabel::Place::Answer)
-            label->setText(letters.marked(label->Caption()));
+    giveLabels(labels, letters);
 }

@@ -1,12 +1,14 @@
 #include "editors/oFieldLabel.h"
 
 #include "controls/mdLeaveFocusedBox.h"
-#include "controls/mdTheme.h"
 #include "controls/oCheckBox.h"
+#include "controls/oInputFilter.h"
 #include "editors/clsMnemonics.h"
+#include "editors/mdEnterField.h"
 
 #include <QAbstractButton>
 #include <QEvent>
+#include <QPainter>
 
 namespace {
 
@@ -25,7 +27,7 @@ QAbstractButton *tickOf(QWidget &field)
 
 int oFieldLabel::WidestBeside()
 {
-    return Theme::scaled(WidestLabels);
+    return Theme::scaled(WidestLabels) + Gap;
 }
 
 oFieldLabel::oFieldLabel(const QString &caption, Place place, QWidget *parent)
@@ -34,6 +36,9 @@ oFieldLabel::oFieldLabel(const QString &caption, Place place, QWidget *parent)
     , m_place(place)
 {
     setTextFormat(Qt::PlainText);
+    setAccessibleName(caption); // without the marks of the letter
+    if (place == Place::Beside)
+        setContentsMargins(0, 0, Gap, 0);
     setWordWrap(place == Place::Above || (place == Place::Beside && sizeHint().width() > WidestBeside()));
     if (place == Place::Above) {
         setMaximumWidth(Theme::scaled(WidestQuestion));
@@ -56,6 +61,13 @@ void oFieldLabel::setField(QWidget *field)
     setEnabled(field->isEnabled());
 }
 
+void oFieldLabel::setDigit(QChar digit)
+{
+    m_digit = digit;
+    if (!digit.isNull())
+        grabShortcut(QKeySequence(Qt::ALT | Qt::Key(digit.unicode())));
+}
+
 void oFieldLabel::setOneLine()
 {
     setWordWrap(false);
@@ -65,7 +77,7 @@ void oFieldLabel::setOneLine()
 void oFieldLabel::setTopOfFirstLine(int top)
 {
     setAlignment(Qt::AlignRight | Qt::AlignTop);
-    setContentsMargins(0, top, 0, 0);
+    setContentsMargins(0, top, Gap, 0);
 }
 
 /// A layout asks for the width of the frame, also where the label takes less of it.
@@ -79,13 +91,39 @@ bool oFieldLabel::event(QEvent *event)
     if (event->type() != QEvent::Shortcut || !buddy())
         return QLabel::event(event);
     // A box with bad input lets nobody go, neither by a letter.
-    if (!mdLeaveFocusedBox(window()))
+    if (!mdLeaveFocusedBox(window()) || !mdEnterField(*buddy()))
         return true;
-    buddy()->setFocus(Qt::ShortcutFocusReason);
-    window()->setAttribute(Qt::WA_KeyboardFocusChange);
     if (QAbstractButton *tick = tickOf(*buddy()); tick && m_ticks)
         tick->click();
     return true;
+}
+
+/// Behind the caption, on its first line.
+QRect oFieldLabel::placeOfDigit() const
+{
+    if (m_place == Place::Beside) {
+        const bool atTop = alignment() & Qt::AlignTop;
+        return {width() - Gap, contentsRect().top(), Gap, atTop ? fontMetrics().height() : contentsRect().height()};
+    }
+    const int width = fontMetrics().horizontalAdvance(m_digit);
+    const int behind = fontMetrics().horizontalAdvance(m_caption) + Theme::Space4;
+    return {qMin(behind, this->width() - width), 0, width, fontMetrics().height()};
+}
+
+void oFieldLabel::paintEvent(QPaintEvent *event)
+{
+    QLabel::paintEvent(event);
+    if (m_digit.isNull() || !oInputFilter::UnderlineMnemonics())
+        return;
+    QPainter painter(this);
+    QFont underlined = font();
+    underlined.setUnderline(true);
+    // It has to fit the gap, clear of the colon.
+    const double room = Gap - 2;
+    underlined.setPointSizeF(font().pointSizeF() * qMin(1.0, room / fontMetrics().horizontalAdvance(m_digit)));
+    painter.setFont(underlined);
+    painter.setPen(palette().color(foregroundRole()));
+    painter.drawText(placeOfDigit(), Qt::AlignRight | Qt::AlignVCenter, m_digit);
 }
 
 bool oFieldLabel::eventFilter(QObject *watched, QEvent *event)

@@ -88,10 +88,11 @@ void oScreenBar::giveLetters(clsMnemonics &letters)
         for (const clsFixedLetter &row : FixedLetters)
             if (button->Caption() == QLatin1String(row.caption))
                 button->setCaption(letters.marked(button->Caption(), QLatin1Char(row.letter)));
-    if (m_switcher) {
+    // At an end of the way a letter would be wasted.
+    if (m_switcher && m_switcher->LeftEnabled())
         m_switcher->setLeftCaption(letters.marked(m_switcher->LeftCaption()));
+    if (m_switcher && m_switcher->RightEnabled())
         m_switcher->setRightCaption(letters.marked(m_switcher->RightCaption()));
-    }
     for (oCustomButton *button : m_jumps)
         button->setCaption(letters.marked(button->Caption()));
 }

@@ -6,6 +6,7 @@
 #include "controls/oContentSwitcher.h"
 #include "editors/clsFrameRows.h"
 #include "editors/clsMnemonics.h"
+#include "editors/mdEnterField.h"
 
 #include <QGridLayout>
 #include <QPainter>
@@ -47,6 +48,16 @@ void oScreenFrame::addPages(const clsScreenFrame &frame)
     m_grows = true;
 }
 
+QBoxLayout &oScreenFrame::belowColumns()
+{
+    if (!m_below) {
+        m_below = new QVBoxLayout;
+        m_below->setContentsMargins(0, Theme::Space16, 0, 0);
+        bodyLayout()->addLayout(m_below, 1);
+    }
+    return *m_below;
+}
+
 void oScreenFrame::giveLetter(clsMnemonics &letters)
 {
     if (!m_switcher)
@@ -76,10 +87,8 @@ void oScreenFrame::enter(int page)
     const auto first = std::find_if(m_fields.begin(), m_fields.end(), [this, page](const clsScreenField &field) {
         return field.page == page && field.control->isEnabledTo(window());
     });
-    if (first == m_fields.end())
-        return;
-    first->control->setFocus(Qt::ShortcutFocusReason);
-    window()->setAttribute(Qt::WA_KeyboardFocusChange);
+    if (first != m_fields.end())
+        mdEnterField(*first->control);
 }
 
 void oScreenFrame::setLabelColumn(int width)
@@ -99,7 +108,7 @@ void oScreenFrame::setSideBySide(bool sideBySide)
 
 int oScreenFrame::narrowestWidth() const
 {
-    int width = 0;
+    int width = m_below ? m_below->minimumSize().width() : 0;
     for (int part = 0; part < m_parts->count(); ++part)
         width = qMax(width, m_parts->itemAt(part)->minimumSize().width());
     const QMargins edges = bodyLayout()->contentsMargins() + layout()->contentsMargins();

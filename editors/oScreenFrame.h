@@ -57,6 +57,8 @@ private:
     friend class clsFrameRows;
 
     void addPages(const clsScreenFrame &frame);
+    /// What stands below the parts side by side.
+    QBoxLayout &belowColumns();
     void giveLetter(oFrame &caption, clsMnemonics &letters, int page);
     void enter(int page);
 
@@ -65,6 +67,7 @@ private:
     std::vector<QWidget *> m_hairlines;
     std::vector<QGridLayout *> m_grids; ///< of all parts and pages
     QBoxLayout *m_parts;
+    QBoxLayout *m_below = nullptr;
     oContentSwitcher *m_switcher = nullptr;
     bool m_grows = false;
     int m_labelColumn = 0;

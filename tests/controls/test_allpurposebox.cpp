@@ -8,6 +8,7 @@
 #include <QClipboard>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QPushButton>
 
 using AllPurposeBox = clsTextBoxTest;
 
@@ -285,6 +286,73 @@ TEST_F(AllPurposeBox, ALargerFontMakesEverythingLarger)
     EXPECT_EQ(19, qRound(count()->font().pointSizeF()));
     EXPECT_TRUE(QTest::qWaitFor([this] { return editor()->verticalScrollBar()->maximum() == 0; }))
         << editor()->height() << " high, " << editor()->viewport()->height() << " within";
+    QApplication::setFont(font);
+}
+
+TEST_F(AllPurposeBox, ABoxOfSomeLinesShowsSoManyWithoutScrolling)
+{
+    box->setMultiLine(true);
+    const QFont font = QApplication::font();
+    for (const char *family : {"Liberation Sans", "DejaVu Sans"}) {
+        for (const int points : {8, 9, 10, 11, 12, 14, 16, 20}) {
+            QApplication::setFont(QFont(QLatin1String(family), points));
+            for (const int allowance : {100, 300, 0}) { // boxes of 3, 5 and 8 lines
+                const int lines = allowance == 0 ? 8 : 3 + allowance / 130;
+                box->setCharacterAllowance(allowance);
+                box->setText(QStringList(lines, QStringLiteral("lg")).join(QStringLiteral("\r\n")));
+                window.resize(600, 10);
+                enter();
+                QCoreApplication::processEvents();
+                box->setFixedHeight(box->sizeHint().height());
+                QCoreApplication::processEvents();
+                other->setFocus();
+                box->setFocus();
+                EXPECT_EQ(0, editor()->verticalScrollBar()->maximum()) << family << ' ' << points << ' ' << lines;
+                EXPECT_EQ(0, editor()->verticalScrollBar()->value()) << family << ' ' << points << ' ' << lines;
+                box->setMinimumHeight(0);
+            }
+        }
+    }
+    QApplication::setFont(font);
+}
+
+TEST_F(AllPurposeBox, ALongerTextOpensAtItsBeginning)
+{
+    const QFont font = QApplication::font();
+    for (const int points : {9, 10, 11, 12, 16, 20}) {
+        QApplication::setFont(QFont(font.family(), points));
+        QWidget screen;
+        QVBoxLayout rows(&screen);
+        QPushButton first;
+        oAllPurposeBox longer;
+        longer.setMultiLine(true);
+        longer.setCharacterAllowance(60);
+        longer.setText(QStringLiteral("12 The Long Row\r\nEastmere\r\nNorthbridge\r\nNB8 3QX\r\nEngland"));
+        longer.setMaximumHeight(longer.sizeHint().height());
+        rows.addWidget(&first);
+        rows.addWidget(&longer);
+        screen.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&screen));
+        const auto *bar = longer.findChild<QPlainTextEdit *>()->verticalScrollBar();
+        EXPECT_LT(0, bar->maximum()) << points;
+        EXPECT_EQ(0, bar->value()) << points;
+    }
+    QApplication::setFont(font);
+}
+
+TEST_F(AllPurposeBox, SeveralLinesGrowToTwelveAndNoFurther)
+{
+    box->setMultiLine(true);
+    const QFont font = QApplication::font();
+    for (const int points : {10, 16}) {
+        QApplication::setFont(QFont(font.family(), points));
+        box->setText(QStringList(12, QStringLiteral("lg")).join(QStringLiteral("\r\n")));
+        window.resize(600, 1200);
+        show();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return editor()->verticalScrollBar()->maximum() == 0; })) << points;
+        box->setText(box->Text() + QStringLiteral("\r\nlg"));
+        EXPECT_TRUE(QTest::qWaitFor([this] { return editor()->verticalScrollBar()->maximum() == 1; })) << points;
+    }
     QApplication::setFont(font);
 }
 

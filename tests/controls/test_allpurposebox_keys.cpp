@@ -117,6 +117,40 @@ TEST_F(TextBoxKeys, AnExpansionCanBeUndone)
     EXPECT_EQ(QStringLiteral("first\r\nsee above"), box->Text());
 }
 
+TEST_F(TextBoxKeys, UndoAndRedoOfAnExpansionLeaveTheCaretBehindIt)
+{
+    replace("ab", "above");
+    replace("sol", "solicitor ");
+    box->setMultiLine(true);
+    for (const auto &[typed, expanded] : {std::pair("see ab", "see above"), {"the sol", "the solicitor "}}) {
+        box->setText(QStringLiteral("first\r\n") + QLatin1String(typed) + QStringLiteral("\r\nlast"));
+        enter();
+        const int end = 7 + int(qstrlen(typed));
+        box->setSelStart(end);
+        press(Qt::Key_Space);
+        ASSERT_EQ(7 + int(qstrlen(expanded)), box->SelStart());
+        press(Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(end + 1, box->SelStart());
+        press(Qt::Key_Y, Qt::ControlModifier);
+        EXPECT_EQ(7 + int(qstrlen(expanded)), box->SelStart());
+        press(Qt::Key_Z, Qt::ControlModifier);
+        type(QStringLiteral("x"));
+        EXPECT_EQ(QStringLiteral("first\r\n%1 x\r\nlast").arg(QLatin1String(typed)), box->Text());
+    }
+}
+
+TEST_F(TextBoxKeys, UndoOfAnExpansionElsewhereLeavesTheCaretWhereItWas)
+{
+    box->setText(QStringLiteral("ab one two"));
+    enter();
+    replace("ab", "above");
+    press(Qt::Key_Space);
+    ASSERT_EQ(QStringLiteral("aboveone two "), box->Text());
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(QStringLiteral("ab one two "), box->Text());
+    EXPECT_EQ(11, box->SelStart());
+}
+
 TEST_F(TextBoxKeys, ASpaceThatExpandsNothingLeavesUndoAlone)
 {
     box->setText(QStringLiteral("one"));

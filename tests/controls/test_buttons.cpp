@@ -59,9 +59,11 @@ TEST(Caption, ReadsWithoutTheMarksOfItsMnemonic)
 
 TEST(Caption, IsSpokenWithoutColonAndAsterisk)
 {
-    EXPECT_EQ(QStringLiteral("Name"), mdSpokenCaption(QStringLiteral("&Name:*")));
+    EXPECT_EQ(QStringLiteral("Name"), mdSpokenCaption(QStringLiteral("Name:*")));
     EXPECT_EQ(QStringLiteral("Level 4"), mdSpokenCaption(QStringLiteral("Level 4")));
     EXPECT_EQ(QStringLiteral("%"), mdSpokenCaption(QStringLiteral("%:")));
+    EXPECT_EQ(QStringLiteral("Profit Costs (exc adv & enh)"),
+        mdSpokenCaption(QStringLiteral("Profit Costs (exc adv & enh):")));
 }
 
 TEST(CustomButton, RaisesClickOnceOnTheReleaseInside)
@@ -294,7 +296,7 @@ TEST(CheckBox, ItsSquareIsBlueWhileItHasTheFocus)
 TEST(CheckBox, HasANameButShowsNoText)
 {
     oCheckBox tick;
-    tick.setCaption(QStringLiteral("Use &Hourly Rate:"));
+    tick.setCaption(QStringLiteral("Use Hourly Rate:"));
     EXPECT_EQ(QString(), tick.text());
     EXPECT_EQ(QStringLiteral("Use Hourly Rate"), QAccessible::queryAccessibleInterface(&tick)->text(QAccessible::Name));
     EXPECT_EQ(QSize(24, 24), tick.sizeHint());

@@ -349,6 +349,21 @@ TEST_F(Spelling, TheMenuKeyOpensTheMenuOfTheWordAtTheCaret)
     EXPECT_EQ(QStringLiteral("solicitor"), captions.value(0));
 }
 
+TEST_F(Spelling, ShiftAndF10OpensItToo)
+{
+    box->setText(QStringLiteral("the soliciter"));
+    enter();
+    QStringList captions;
+    QTimer::singleShot(0, [&] {
+        if (auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget())) {
+            captions = captionsOf(*menu);
+            menu->close();
+        }
+    });
+    press(Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_EQ(QStringLiteral("solicitor"), captions.value(0));
+}
+
 using ReplacementsEntry = clsTextBoxTest;
 
 TEST_F(ReplacementsEntry, RunsWhatThePreferencesHaveSetAndNothingBefore)

@@ -3,6 +3,8 @@
 #include "tests/support/mdTestPrinting.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
+#include <QClipboard>
 #include <QCompleter>
 #include <QDialog>
 #include <QSignalSpy>
@@ -55,6 +57,13 @@ TEST_F(TypeAhead, SuggestsWhatBeginsWithTheTypedTextWhateverTheCapitals)
     QTest::keyClicks(&box, QStringLiteral("y"));
     EXPECT_EQ(QStringList(), suggested());
     EXPECT_EQ(QStringLiteral("party"), box.Text());
+}
+
+TEST_F(TypeAhead, APasteIsOneLineWithPlainBlanks)
+{
+    QApplication::clipboard()->setText(QString::fromUtf8("Senior\u00a0\r\npartner"));
+    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(QStringLiteral("Senior  partner"), box.Text());
 }
 
 TEST_F(TypeAhead, ATextThatComesTwiceIsSuggestedOnceAtItsFirstPlace)

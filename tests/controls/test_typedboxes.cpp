@@ -7,7 +7,10 @@
 #include "tests/controls/clsBoxWindow.h"
 
 #include <QCheckBox>
+#include <QClipboard>
 #include <QLabel>
+#include <QMenu>
+#include <QMimeData>
 #include <QSignalSpy>
 
 namespace {
@@ -202,6 +205,110 @@ TEST_F(TypedBoxes, AnEmptyTimeDoesNotFit)
     leave();
     EXPECT_TRUE(has(box));
     EXPECT_TRUE(isPink(box));
+}
+
+// What is pasted
+
+TEST_F(TypedBoxes, APasteLosesTheBlanksTabsAndLineBreaksAroundIt)
+{
+    const struct {
+        QWidget *box;
+        const char *pasted;
+        const char *left;
+    } cases[] = {
+        {add<oDateBox>("txtDate"), "\r\n\t 1.2.24\u00a0\r\n", "01/02/24"},
+        {add<oDateBox>("txtLong"), "3\u00a0March\t2024\n", "03/03/24"},
+        {add<oDecimalBox>("txtAmount"), "\u00a0£12.5\t\r\n", "12.50"},
+        {add<oDecimalBox>("txtComma"), "1,250.00\n", "1.00"},
+        {add<oIntegerBox>("txtCalls"), "\t1\u00a0000\r\n", "1000"},
+        {add<oTimeBox>("txtTime"), "\u202f1:30\u200b\u2028", "01:30"},
+    };
+    show();
+    for (const auto &row : cases) {
+        QApplication::clipboard()->setText(QString::fromUtf8(row.pasted));
+        inner(row.box)->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(inner(row.box), Qt::Key_V, Qt::ControlModifier);
+        leave();
+        EXPECT_EQ(row.left, inner(row.box)->text().toStdString()) << row.pasted;
+        EXPECT_TRUE(txtOther.hasFocus()) << row.pasted;
+    }
+}
+
+TEST_F(TypedBoxes, AWordThatIsPastedIntoADateIsHeldAsItWasPasted)
+{
+    auto *box = add<oDateBox>("txtDate");
+    show();
+    QApplication::clipboard()->setText(QStringLiteral(" soon\n"));
+    inner(box)->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(inner(box), Qt::Key_Insert, Qt::ShiftModifier);
+    leave();
+    EXPECT_EQ(QStringLiteral("soon"), inner(box)->text());
+    EXPECT_TRUE(isPink(box));
+}
+
+TEST_F(TypedBoxes, TheMenuPastesInTheSameWay)
+{
+    auto *box = add<oDateBox>("txtDate");
+    show();
+    QApplication::clipboard()->setText(QStringLiteral("\t1.2.24\r\n"));
+    inner(box)->setFocus(Qt::TabFocusReason);
+    QContextMenuEvent asked(QContextMenuEvent::Keyboard, QPoint(5, 5), inner(box)->mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(inner(box), &asked);
+    auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    ASSERT_TRUE(menu);
+    QTest::keyClick(menu, Qt::Key_P);
+    EXPECT_EQ(QStringLiteral("1.2.24"), inner(box)->text());
+}
+
+TEST_F(TypedBoxes, ShiftAndF10OpensTheMenuToo)
+{
+    for (QWidget *box :
+        {static_cast<QWidget *>(add<oDateBox>("txtDate")), static_cast<QWidget *>(add<oTimeBox>("txtTime"))}) {
+        show();
+        inner(box)->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(inner(box), Qt::Key_F10);
+        EXPECT_FALSE(QApplication::activePopupWidget());
+        QTest::keyClick(inner(box), Qt::Key_F10, Qt::ShiftModifier);
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        ASSERT_TRUE(menu);
+        menu->close();
+    }
+}
+
+TEST_F(TypedBoxes, SoDoesADropAndTheMiddleButton)
+{
+    auto *box = add<oIntegerBox>("txtCalls");
+    show();
+    QMimeData dropped;
+    dropped.setText(QStringLiteral("\r\n12\t"));
+    const QPoint place(5, 5);
+    QDragEnterEvent enters(place, Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(inner(box), &enters);
+    QDropEvent drop(place, Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(inner(box), &drop);
+    EXPECT_TRUE(drop.isAccepted());
+    EXPECT_EQ(QStringLiteral("12"), inner(box)->text());
+    if (!QApplication::clipboard()->supportsSelection())
+        return; // the button pastes on some desktops only
+    inner(box)->clear();
+    QApplication::clipboard()->setText(QStringLiteral("\t34\n"), QClipboard::Selection);
+    QTest::mouseClick(inner(box), Qt::MiddleButton);
+    EXPECT_EQ(QStringLiteral("34"), inner(box)->text());
+}
+
+TEST_F(TypedBoxes, WhatIsCommittedByAnInputMethodHasPlainBlanks)
+{
+    auto *box = add<oIntegerBox>("txtCalls");
+    show();
+    inner(box)->setFocus(Qt::TabFocusReason);
+    for (const char *part : {"1", "\u00a0", "000\n"}) {
+        QInputMethodEvent event;
+        event.setCommitString(QString::fromUtf8(part));
+        QCoreApplication::sendEvent(inner(box), &event);
+    }
+    EXPECT_EQ(QStringLiteral("1 000 "), inner(box)->text());
+    QTest::sendKeyEvent(QTest::Press, inner(box), Qt::Key_nobreakspace, QString(QChar(0xa0)), Qt::NoModifier);
+    EXPECT_EQ(QStringLiteral("1 000  "), inner(box)->text());
 }
 
 // Values that the program writes

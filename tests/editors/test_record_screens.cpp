@@ -2,6 +2,7 @@
 #include "controls/oCheckBox.h"
 #include "controls/oContentSwitcher.h"
 #include "controls/oDateBox.h"
+#include "costing/mdDateText.h"
 #include "editors/mdScreenControls.h"
 #include "shell/mdFileHandling.h"
 #include "shell/mdLog.h"
@@ -250,6 +251,16 @@ TEST_F(RecordScreens, ABoxWithBadInputBlocksTheButtonsButNotEscAndTheCloseBox)
     screen->close();
     EXPECT_FALSE(screen->isVisible());
     EXPECT_EQ(QString(), Form->ClientDetails.DateOfBirth());
+}
+
+TEST_F(RecordScreens, TheLetterOfADateThatCanNotBeTypedLeavesTheFocusWhereItIs)
+{
+    Form->ClientDetails.DateOfBirth = QString(NoDate);
+    auto screen = opened(QStringLiteral("Client Details"));
+    QWidget *title = focusPart(screen->Box("txtTitle"));
+    title->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(screen.get(), Qt::Key_D, Qt::AltModifier);
+    EXPECT_EQ(title, screen->focusWidget());
 }
 
 TEST_F(RecordScreens, BadInputDoesNotStopTheLetterOfATickButHoldsTheFocus)

@@ -268,6 +268,7 @@ TEST_F(ScheduleItemEdit, AFunctionKeyChoosesTheFeeEarnerFromEveryField)
         EXPECT_EQ(QStringLiteral("13"), reference(*screen)) << field.row->control;
         key(*screen, Qt::Key_F2, Qt::ShiftModifier);
         EXPECT_EQ(QStringLiteral("13"), reference(*screen)) << "beyond the list";
+        key(*screen, Qt::Key_F10, Qt::ShiftModifier); // a text's menu elsewhere
         EXPECT_FALSE(QApplication::activePopupWidget()) << field.row->control;
         EXPECT_EQ(part, screen->focusWidget()) << field.row->control;
     }
@@ -285,6 +286,24 @@ TEST_F(ScheduleItemEdit, AFunctionKeyChoosesTheFeeEarnerFromEveryField)
     saved(*screen);
     EXPECT_EQ(Form->FeeEarner(3)->UniqueID(), item->FeeEarnerUniqueID());
     EXPECT_EQ(QStringLiteral("EF"), reference(*editItem())) << "the next item starts on the last one chosen";
+}
+
+TEST_F(ScheduleItemEdit, TheLetterOfADateThatIsSwitchedOffLeadsToItsTick)
+{
+    const auto screen = editItem(addItem("31/12/29"));
+    auto &date = screen->Box<oDateBox>("txtDate");
+    ASSERT_FALSE(date.HasDate());
+    focus(*screen, "txtDescription");
+    key(*screen, Qt::Key_D, Qt::AltModifier);
+    EXPECT_EQ(&dateTick(*screen), screen->focusWidget());
+    EXPECT_FALSE(date.HasDate()) << "it is entered, and not switched on";
+    key(*screen, Qt::Key_Space);
+    EXPECT_TRUE(date.HasDate());
+    focus(*screen, "txtDescription");
+    key(*screen, Qt::Key_D, Qt::AltModifier);
+    QTest::keyClicks(screen->focusWidget(), QStringLiteral("1.2.26"));
+    EXPECT_TRUE(date.HasDate());
+    EXPECT_EQ(QStringLiteral("1.2.26"), date.TypedText());
 }
 
 TEST_F(ScheduleItemEdit, FunctionKeysOfOtherWindowsAreLeftAlone)

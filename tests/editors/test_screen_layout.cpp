@@ -83,3 +83,32 @@ TEST_F(ScreenLayout, WhatHasTheFocusStaysInViewWhenTheWindowShrinks)
         EXPECT_TRUE(QTest::qWaitFor(inView, 1000)) << height;
     }
 }
+
+TEST_F(ScreenLayout, BoxesGrowToTwelveLinesAndWhatIsLeftOverLiesBelow)
+{
+    const clsScreen table = editorOf({
+        {Text, "txtReference", "Reference:"},
+        {Text, "txtFirst", "First:", 60, MultiLine | Unbound},
+        {Text, "txtSecond", "Second:", 60, MultiLine | Unbound | CaptionAbove},
+        {Text, "txtLast", "Last:", 0, Unbound},
+    });
+    frmSection screen(table);
+    show(screen);
+    const auto top = [&screen](const char *name) { return screen.Box(name).mapTo(&screen, QPoint()).y(); };
+    const auto bottom = [&](const char *name) { return top(name) + screen.Box(name).height(); };
+    const int gap = top("txtFirst") - bottom("txtReference");
+    const int captioned = top("txtSecond") - bottom("txtFirst");
+    const int below = top("txtLast") - bottom("txtSecond");
+    const int height = screen.Box("txtFirst").height();
+    const int line = screen.Box("txtFirst").fontMetrics().height();
+    for (const int more : {50, 2000}) {
+        screen.resize(screen.width(), screen.sizeHint().height() + more);
+        QTest::qWait(20);
+        const int grown = more == 50 ? height + 25 : height + 9 * line;
+        EXPECT_NEAR(grown, screen.Box("txtFirst").height(), 1);
+        EXPECT_NEAR(grown, screen.Box("txtSecond").height(), 1);
+        EXPECT_EQ(gap, top("txtFirst") - bottom("txtReference"));
+        EXPECT_EQ(captioned, top("txtSecond") - bottom("txtFirst"));
+        EXPECT_EQ(below, top("txtLast") - bottom("txtSecond"));
+    }
+}

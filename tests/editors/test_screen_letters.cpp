@@ -29,6 +29,29 @@ TEST(Mnemonics, AnAmpersandOfTheCaptionStaysOne)
     EXPECT_EQ(QStringLiteral("R&&D"), clsMnemonics::unmarked(QStringLiteral("R&D")));
 }
 
+TEST(Mnemonics, CaptionsTogetherHaveAsManyLettersAsThereAre)
+{
+    clsMnemonics letters;
+    letters.reserve(u'S');
+    // Each has its first letter where it can. "Date" gives its own up for "Dad", which has to leave the A to "AA".
+    EXPECT_EQ(
+        QStringList({QStringLiteral("Dat&e"), QStringLiteral("&Tad"), QStringLiteral("&Dad"), QStringLiteral("&AA")}),
+        letters.marked(
+            QStringList {QStringLiteral("Date"), QStringLiteral("Tad"), QStringLiteral("Dad"), QStringLiteral("AA")}));
+    EXPECT_EQ(QStringList({QStringLiteral("Seat"), QStringLiteral("&R&&D: R")}),
+        letters.marked(QStringList {QStringLiteral("Seat"), QStringLiteral("R&D: R")}));
+}
+
+TEST(Mnemonics, DigitsComeInTheirOrderUntilTheyAreGiven)
+{
+    clsMnemonics letters;
+    letters.reserve(u'2');
+    QString digits;
+    for (QChar digit = letters.digit(); !digit.isNull(); digit = letters.digit())
+        digits += digit;
+    EXPECT_EQ(QStringLiteral("134567890"), digits);
+}
+
 TEST(Mnemonics, AFixedLetterIsTakenInsideTheWord)
 {
     clsMnemonics letters;

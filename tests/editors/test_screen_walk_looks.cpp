@@ -1,8 +1,10 @@
 #include "controls/mdCaption.h"
 #include "controls/mdTheme.h"
+#include "controls/oAllPurposeBox.h"
 #include "controls/oCheckBox.h"
 #include "tests/editors/clsScreenWalk.h"
 
+#include <QPlainTextEdit>
 #include <QScrollBar>
 
 #include <map>
@@ -70,7 +72,7 @@ std::map<const clsScreenRow *, int> columnsOf(const clsScreen &screen)
     int column = 0;
     for (const clsScreenFrame &frame : screen.frames) {
         for (const clsScreenRow &row : frame.rows) {
-            if (row.kind == clsRowKind::ColumnBreak)
+            if (row.kind == clsRowKind::ColumnBreak || row.kind == clsRowKind::ColumnsEnd)
                 ++column;
             columns[&row] = column;
         }
@@ -167,6 +169,21 @@ TEST_P(EveryScreen, NothingIsCutInALargeFont)
     EXPECT_LE(screen->width(), 1366);
     screen.reset();
     QApplication::setFont(before);
+}
+
+TEST_P(EveryScreen, ABoxOfSeveralLinesShowsAllThatItsPrintedBoxHolds)
+{
+    for (const clsScreenField &field : screen->Fields()) {
+        auto *box = qobject_cast<oAllPurposeBox *>(field.control);
+        if (!box || !box->MultiLine() || box->CharacterAllowance() == 0)
+            continue;
+        openPageOf(field);
+        const QString words = QStringLiteral("Evidence was heard on the first day and again on the last. ");
+        box->setText(words.repeated(20).left(box->CharacterAllowance()));
+        QTest::qWait(20);
+        const auto *text = box->findChild<QPlainTextEdit *>();
+        EXPECT_EQ(0, text->verticalScrollBar()->maximum()) << nameOf(field);
+    }
 }
 
 TEST_P(EveryScreen, TheBoxesOfAColumnBeginAtOneEdge)

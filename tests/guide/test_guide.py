@@ -219,9 +219,10 @@ class Keys(unittest.TestCase):
                 if file not in ("shell/mdMainMenu.cpp", "editors/oScreenFrame.cpp"):  # the menus; letters with Alt
                     self.assertIn("Qt::CTRL | Qt::Key_S", set_here, file)
             for standard in re.findall(r"QKeySequence::(\w+)", code):
-                self.assertIn(standard, ("mnemonic", "InsertLineSeparator"), file)
+                self.assertIn(standard, ("mnemonic", "InsertLineSeparator", "Paste"), file)
         self.assertIn("Ctrl+S", self.keys)
         self.assertIn("Shift+Enter", self.keys)
+        self.assertIn("Ctrl+V", self.keys)
 
     def test_every_key_that_the_code_names(self):
         named = set(re.findall(r"Qt::Key_(\w+)", self.sources.all))

@@ -81,7 +81,7 @@ class Walk:
         desktop.key("Tab", "ctrl+a")
         desktop.type(TITLE)
         self.picture("client")
-        desktop.key("alt+e")
+        desktop.key("alt+x")
         self.window("Solicitor Details")
         self.picture("solicitor")
         desktop.key("alt+s")

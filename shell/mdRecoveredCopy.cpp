@@ -7,6 +7,7 @@
 #include "shell/mdDatabasePath.h"
 #include "shell/mdFileHandling.h"
 #include "shell/mdGlobals.h"
+#include "shell/mdShortenedName.h"
 
 #include <QDir>
 #include <QFile>
@@ -46,8 +47,7 @@ QString stem()
     for (QChar &c : name)
         if (c < u' ' || QStringLiteral("\\/:*?\"<>|").contains(c))
             c = u'_';
-    while (QFile::encodeName(name).size() > LongestStem)
-        name.chop(name.size() > 1 && name.back().isLowSurrogate() ? 2 : 1);
+    name = mdShortenedName(name, LongestStem);
     return name.isEmpty() ? QStringLiteral("Claim") : name;
 }
 

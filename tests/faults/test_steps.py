@@ -190,6 +190,25 @@ class ExportFails(ExportTest, Steps):
         near = [step for step in steps if place - 6 <= step.number <= place + 6]
         self.each("End of the export", self.export_new, self.put_old, self.is_safe_and_works_again, near)
 
+    def test_brings_the_document_to_the_disk(self):
+        """Its content before it takes its name, and then the folder that has the name."""
+        steps = [(step.operation, step.path.rstrip("/")) for step in
+                 self.export_new(under=self.disk, log=self.log).steps]
+        place = steps.index(("rename", str(self.document)))
+        self.assertIn("fsync", [operation for operation, _ in steps[:place]])
+        self.assertIn(("fsync", str(self.disk)), steps[place:])
+
+    def test_the_sheets_are_private_from_the_start(self):
+        """What could be opened by others once, for a moment, could be locked by them."""
+        steps = self.export_new(under=self.disk, log=self.log).steps
+        made = next(step.number for step in steps if step.operation == "mkdir")
+        one = start("export", "--force", self.claims["new"], self.disk, under=self.disk, at=made + 1, do="stop",
+                    log=self.log)
+        os.waitid(os.P_PID, one.pid, os.WSTOPPED | os.WNOWAIT)
+        self.assertEqual(0o700, (self.disk / "~ZR3Temp").stat().st_mode & 0o7777)
+        one.send_signal(signal.SIGCONT)
+        self.assertEqual((b"", b""), one.communicate(timeout=60))
+
     def test_while_the_templates_are_read(self):
         def check(result, do):
             self.is_safe(result, do)

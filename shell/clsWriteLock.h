@@ -6,9 +6,8 @@ class QString;
 struct stat;
 
 /// A program's turn at writing in a folder, for as long as it lives: a guarded overwrite in the midst of another would
-/// leave a mixture of both. It is a hidden file in that folder, which only those can open who may write there, and
-/// which goes with the turn. Nobody waits for it but writers, and those not for ever: where another program doesn't let
-/// go in time, its turn is taken away from it.
+/// leave a mixture of both. It is a hidden file in that folder that only those can open who may write there, and it is
+/// removed with the turn. Only writers wait for it. A program that doesn't let go in time loses its turn to the next.
 class clsWriteLock {
 public:
     /// Takes the turn at the folder in which the file at `path` lies.

@@ -107,7 +107,7 @@ void clsWriteLock::wait()
     while ((result = tryToTake()) == Result::Busy) {
         const clsHolder now(m_file);
         if (!(now == holder)) {
-            // One more turn has been taken: somebody is getting on.
+            // One more turn has been taken: the others are getting on.
             holder = now;
             until = clock::now() + LongestWaitForLock;
         }

@@ -74,6 +74,6 @@ QByteArray CurrentFolderName()
 
 QString RefusalOfName(const QByteArray &name)
 {
-    return QStringLiteral("This name is not text in UTF-8, so that the program can't use it:\r\n\r\n") + shown(name)
-        + QStringLiteral("\r\n\r\nPlease rename the file or the folder.");
+    return QStringLiteral("The name of this file or folder has characters that the program can't read:\r\n\r\n")
+        + shown(name) + QStringLiteral("\r\n\r\nPlease rename it and try again.");
 }

@@ -71,7 +71,7 @@ void overwrite(const QString &path, const QByteArray &bytes)
         UserInterface().systemMessage(
             QStringLiteral("This file was saved, but another program may have been writing to it at the same time:")
                 + QStringLiteral("\r\n\r\n") + path
-                + QStringLiteral("\r\n\r\nPlease make sure that nobody else has it open."),
+                + QStringLiteral("\r\n\r\nPlease check that no one else has it open."),
             QStringLiteral("File Saved"), clsUserInterface::Information, clsUserInterface::OKOnly);
 }
 
@@ -117,8 +117,8 @@ std::optional<QByteArray> readOnce(const QString &path)
     return {};
 }
 
-/// A reader waits for nobody: any lock that it could wait for, those could hold who may only read. It looks again
-/// instead where what it has read can't be a whole claim, and after a while takes the file as it is.
+/// Readers take no lock: anyone who may read the folder could hold a lock that they wait for. Where the content can't
+/// be a whole claim they read again, and after a while take the file as it is.
 QByteArray read(const QString &path)
 {
     const auto until = std::chrono::steady_clock::now() + LongestWrite;

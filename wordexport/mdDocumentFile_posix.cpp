@@ -155,7 +155,7 @@ void syncFolderOf(const QByteArray &document)
     (void)mdSyncFolder(slash < 0 ? QByteArray(".") : document.left(slash + 1));
 }
 
-/// The file that is meant: where the name is a link, the one that it leads to is replaced, not the link.
+/// The file to replace: where the name is a link, the one that it leads to, not the link.
 QByteArray fileItself(const QString &path)
 {
     const QByteArray document = QFile::encodeName(path);

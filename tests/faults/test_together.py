@@ -11,7 +11,7 @@ from support import *
 
 @contextlib.contextmanager
 def locked(folder):
-    """Somebody who may read a folder has a lock on it."""
+    """A lock on a folder, which anyone can hold who may read it."""
     descriptor = os.open(folder, os.O_RDONLY | os.O_DIRECTORY)
     try:
         fcntl.flock(descriptor, fcntl.LOCK_EX)
@@ -84,7 +84,7 @@ class TwoSaves(SaveTest):
                 self.ended([one])
                 count("A save that hangs", "rounds")
 
-    def test_readers_wait_for_nobody(self):
+    def test_readers_never_wait(self):
         """Neither for a lock on the folder, which those can hold who may only read it, nor for a save that hangs."""
         self.put_old()
         with locked(self.disk):
@@ -105,7 +105,7 @@ class TwoSaves(SaveTest):
                 began = time.monotonic()
                 look = run("totals", self.file)
                 self.assertLess(time.monotonic() - began, 4)
-                # A file that is torn for as long as anyone looks is shown as it is: the side file is the user's to open.
+                # A file that stays torn is shown as it is: opening the side file is left to the user.
                 self.assertEqual(0 if place == "file" else 2, look.status, look.err)
                 one.send_signal(signal.SIGCONT)
                 self.ended([one])
@@ -137,7 +137,7 @@ class TwoSaves(SaveTest):
         self.assertEqual([LOCK, "claim.zr3"], names(self.disk))
 
     def test_a_lock_that_was_left_behind(self):
-        """By a program that was killed: it holds nobody up, and goes with the next save."""
+        """By a program that was killed: it stops no save, and goes with the next save."""
         self.put_old()
         (self.disk / LOCK).touch(0o600)
         began = time.monotonic()
@@ -249,7 +249,6 @@ class TwoExports(ExportTest):
         self.assertEqual((4, ["Export"]), (other.status, other.messages))
         self.assertIn("Another export into this folder is still running.", other.err)
         self.assertEqual(("old", sheets), (self.state(), names(self.disk / "~ZR3Temp")))
-        # The lock is on the folder: it is private from the start, so that no reader of the folder around it can hold it.
         one.send_signal(signal.SIGCONT)
         self.assertEqual((b"", b""), one.communicate(timeout=60))
         self.assertEqual((0, "new", ["Claim1.doc"]), (one.returncode, self.state(), names(self.disk)))

@@ -123,8 +123,8 @@ TEST_F(CommandLine, ANameThatIsNotUtf8IsFoundOutAndShown)
             "file:///%C3%A9%EF%BF%BD.zr3", "file://localhost/a.zr3", "100%FF.zr3"}));
     for (const char *name : {"\xff.zr3", "My\xe9 Claims/a.zr3", "\xc3", "file:///a/%FF.zr3", "\xed\xa0\x80"})
         EXPECT_EQ(QByteArray(name), NameNotInUtf8({"claim.zr3", name, "\xfe"})) << name;
-    EXPECT_EQ(QStringLiteral("This name is not text in UTF-8, so that the program can't use it:\r\n\r\n"
-                             "a\\xff\\x0a.zr3\r\n\r\nPlease rename the file or the folder."),
+    EXPECT_EQ(QStringLiteral("The name of this file or folder has characters that the program can't read:\r\n\r\n"
+                             "a\\xff\\x0a.zr3\r\n\r\nPlease rename it and try again."),
         RefusalOfName("a\xff\n.zr3"));
     EXPECT_EQ(QFile::encodeName(QDir::currentPath()), CurrentFolderName());
 }

@@ -297,7 +297,7 @@ TEST_F(TextDocuments, AWriteThatTakesTheTurnFromAnotherProgramSaysSo)
     EXPECT_EQ(QStringLiteral("File Saved"), user.messages[0].title);
     EXPECT_EQ(
         QStringLiteral("This file was saved, but another program may have been writing to it at the same time:\r\n\r\n")
-            + claim + QStringLiteral("\r\n\r\nPlease make sure that nobody else has it open."),
+            + claim + QStringLiteral("\r\n\r\nPlease check that no one else has it open."),
         user.messages[0].text);
     EXPECT_EQ(int(clsUserInterface::Information), user.messages[0].icon);
 }
@@ -325,7 +325,7 @@ TEST_F(TextDocuments, AProgramThatHasLostItsTurnWritesAnewAndLeavesTheOthersSide
     }
 }
 
-TEST_F(TextDocuments, ALockOfSomebodyWhoMayOnlyReadTheFolderHoldsNobodyUp)
+TEST_F(TextDocuments, ALockOnTheFolderItselfStopsNeitherReadersNorWriters)
 {
     startWith(old);
     const int reader = ::open(QFile::encodeName(folder.path()).constData(), O_RDONLY | O_DIRECTORY);
@@ -352,7 +352,7 @@ TEST_F(TextDocuments, OnlyWhoMayWriteInTheFolderCanOpenTheLockFile)
     EXPECT_EQ(QStringList(), names());
 }
 
-TEST_F(TextDocuments, ALockFileThatWasLeftBehindHoldsNobodyUpAndGoes)
+TEST_F(TextDocuments, ALockFileThatWasLeftBehindStopsNoSaveAndGoes)
 {
     startWith(old);
     put(path(".velmor-zr3.lock"), QByteArray());
@@ -394,7 +394,7 @@ TEST_F(TextDocuments, AReaderLooksAgainWhileAClaimIsBeingWritten)
     EXPECT_TRUE(user.messages.empty());
 }
 
-TEST_F(TextDocuments, ATornClaimIsReadAsItStandsOnceNobodyWritesIt)
+TEST_F(TextDocuments, ATornClaimIsReadAsItStandsAfterAWhile)
 {
     startWith(QByteArrayLiteral("<a><b>ne"));
     put(side, QByteArrayLiteral("<a>old</a>"));

@@ -5,6 +5,7 @@
 #include "shell/clsQuietUserInterface.h"
 #include "shell/clsRunTimeError.h"
 #include "shell/mdFileHandling.h"
+#include "shell/mdGetVersionInfo.h"
 #include "tests/window/clsWindowTest.h"
 #include "wordexport/clsMSWord.h"
 #include "wordexport/frmExportToWord.h"
@@ -267,6 +268,7 @@ TEST_F(ExportToWord, TheDocumentHasTheRightsOfTheClaimsFile)
     const QString foreign = folder.filePath(QStringLiteral("\u6cd5.zr3"));
     for (const QString &claim : {QString(), path("claim.zr3"), foreign}) {
         if (!claim.isEmpty()) {
+            Form->Version = GetVersionInfo();
             Form->SaveXML(claim);
             ASSERT_TRUE(QFile::setPermissions(claim, owner | QFile::ReadGroup));
             OpenFormFile(claim);

@@ -171,8 +171,8 @@ TEST_F(BadInput, ANameThatIsNotUtf8IsRefused)
     const QString claim = putClaim(clsZR3Form());
     ASSERT_TRUE(QDir(folder.path()).mkpath("out"_q));
     const auto message = [](const char *name) {
-        return QByteArray("File Name: This name is not text in UTF-8, so that the program can't use it:\n\n") + name
-            + "\n\nPlease rename the file or the folder.\n";
+        return QByteArray("File Name: The name of this file or folder has characters that the program can't read:\n\n")
+            + name + "\n\nPlease rename it and try again.\n";
     };
     // The shell makes the name, which no text can hold.
     const auto runAs = [&](const char *words) {

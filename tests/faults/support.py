@@ -41,8 +41,8 @@ chance = random.Random(SEED)
 figures = Counter()
 
 # Each message is a block that begins with its title.
-MESSAGE = re.compile(r"^(File Not Saved|File Not Read|File Saved|Word Automation Error|Export|Export Path|Error|Standard output|"
-                     r"Run-time error(?: '\d+')?): ", re.MULTILINE)
+MESSAGE = re.compile(r"^(File Not Saved|File Not Read|File Saved|Word Automation Error|Export|Export Path|Error|"
+                     r"Standard output|Run-time error(?: '\d+')?): ", re.MULTILINE)
 
 
 def count(row, column, number=1):

@@ -41,9 +41,8 @@ bool sideFileIsTheWholeOne(const QString &path, const QString &side, const QByte
 /// The guarded overwrite. The order is the guard: at every moment the old content is whole in the file or in the side
 /// file, on the disk and not only in the system's memory, so that a loss of power is no worse than a crash of the
 /// program. False where it was given up, because another program has taken the turn away and may be writing.
-bool overwrittenInTurn(const QString &path, const QByteArray &bytes, const clsWriteLock &turn, bool isLastTry)
+template <class IsLost> bool overwriteUnlessLost(const QString &path, const QByteArray &bytes, IsLost isLost)
 {
-    const auto isLost = [&] { return !isLastTry && turn.isLost(); };
     const QString side = mdSideFile(path);
     if (FileSystem().FileExists(path) && !sideFileIsTheWholeOne(path, side, bytes))
         FileSystem().CopyFile(path, side);
@@ -57,6 +56,20 @@ bool overwrittenInTurn(const QString &path, const QByteArray &bytes, const clsWr
     if (FileSystem().FileExists(side))
         FileSystem().DeleteFile(side);
     return true;
+}
+
+/// The same in one turn; false where that was lost.
+bool overwrittenInTurn(const QString &path, const QByteArray &bytes, const clsWriteLock &turn, bool isLastTurn)
+{
+    const auto isLost = [&] { return !isLastTurn && turn.isLost(); };
+    try {
+        return overwriteUnlessLost(path, bytes, isLost);
+    } catch (const clsRunTimeError &) {
+        // The other program may have removed what was to be copied or deleted.
+        if (isLost())
+            return false;
+        throw;
+    }
 }
 
 void overwrite(const QString &path, const QByteArray &bytes)

@@ -302,15 +302,16 @@ TEST_F(TextDocuments, AWriteThatTakesTheTurnFromAnotherProgramSaysSo)
     EXPECT_EQ(int(clsUserInterface::Information), user.messages[0].icon);
 }
 
-TEST_F(TextDocuments, AProgramThatHasLostItsTurnWritesAnewAndLeavesTheOthersSideFile)
+TEST_F(TextDocuments, AProgramThatHasLostItsTurnWritesAnew)
 {
-    // The step before which another program comes, and what the file holds after it.
-    for (const clsFileStep before : {clsFileStep::Truncate, clsFileStep::SyncFile}) {
+    // The step before which another program takes the turn away; it ends by the time that this one goes on.
+    for (const clsFileStep before : {clsFileStep::Truncate, clsFileStep::SyncFile, clsFileStep::Delete}) {
         startWith(old);
         bool come = false;
         FileSystem().faultPoint = [&](clsFileStep step, const QString &at) {
-            if (step == before && at == claim && !come) {
+            if (step == before && at == (before == clsFileStep::Delete ? side : claim) && !come) {
                 come = true;
+                QFile::remove(side);
                 EXPECT_TRUE(QFile::remove(path(".velmor-zr3.lock")));
                 put(claim, QByteArrayLiteral("a mixture of both, and longer than either of them"));
             }

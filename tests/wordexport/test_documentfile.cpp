@@ -17,6 +17,7 @@
 
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace {
@@ -254,6 +255,31 @@ TEST_F(mdDocumentFile, AnotherGroupGetsNoRightsByTheDocument)
     ASSERT_EQ(stat(QFile::encodeName(path(QStringLiteral("a.doc"))).constData(), &status), 0);
     EXPECT_NE(status.st_gid, Firm);
     EXPECT_EQ(status.st_mode & 07777, 0644u);
+}
+
+TEST_F(mdDocumentFile, AnAccessListOfTheClaimOpensNothingToItsGroup)
+{
+    // For the owner and one more user; the mode shows the list's mask as the group's rights.
+    struct clsEntry {
+        quint16 tag, rights;
+        quint32 user;
+    };
+    constexpr quint32 NoUser = 0xFFFFFFFF;
+    const struct {
+        quint32 version = 2;
+        clsEntry entries[5]
+            = {{0x01, 6, NoUser}, {0x02, 6, OrdinaryUser}, {0x04, 0, NoUser}, {0x10, 6, NoUser}, {0x20, 0, NoUser}};
+    } list;
+    put(QStringLiteral("written"), "new");
+    put(QStringLiteral("claim.zr3"), "claim");
+    if (setxattr(QFile::encodeName(path(QStringLiteral("claim.zr3"))).constData(), "system.posix_acl_access", &list,
+            sizeof list, 0)
+        != 0)
+        GTEST_SKIP() << "this file system has no access lists";
+    ASSERT_EQ(modeOf(QStringLiteral("claim.zr3")), 0660u);
+    mdPutDocumentInPlace(
+        path(QStringLiteral("written")), path(QStringLiteral("a.doc")), path(QStringLiteral("claim.zr3")), 100);
+    EXPECT_EQ(modeOf(QStringLiteral("a.doc")), 0600u);
 }
 
 TEST_F(mdDocumentFile, AFileOfTheLongestNameCanBeReplaced)

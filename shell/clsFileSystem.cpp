@@ -3,19 +3,18 @@
 #include "shell/clsFileSystem.h"
 
 #include "shell/clsRunTimeError.h"
+#include "shell/mdRealPath.h"
+#include "shell/mdSyncFolder.h"
+#include "shell/mdUninterrupted.h"
 
 #include <QFile>
 #include <QFileInfo>
 
 #include <cerrno>
-#include <chrono>
-#include <cstdlib>
-#include <memory>
-#include <thread>
+#include <cstring>
 #include <utility>
 
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -25,10 +24,6 @@ namespace {
 // to be no claim.
 constexpr qint64 LargestFile = 512 * 1024 * 1024;
 constexpr qsizetype CopyBlock = 256 * 1024;
-
-// Longer than any save takes, and not so long that a user would think the program dead.
-constexpr std::chrono::seconds LongestWait(5);
-constexpr std::chrono::milliseconds BetweenTries(5);
 
 constexpr mode_t OwnerOnly = S_IRUSR | S_IWUSR;
 constexpr mode_t Permissions = S_IRWXU | S_IRWXG | S_IRWXO;
@@ -43,26 +38,17 @@ clsFileFault asked(clsFileStep step, const QString &path)
 
 [[noreturn]] void fail(int systemError, const QString &path)
 {
-    if (systemError == ENOENT && !QFileInfo(QFileInfo(path).path()).isDir())
+    if (systemError == ENOENT && !FileSystem().FolderExists(QFileInfo(path).path()))
         throw clsRunTimeError(clsRunTimeError::PathNotFound);
     throw clsRunTimeError::fromSystem(systemError);
 }
 
-/// Runs one system call, again where a signal interrupted it.
-template <class Call> auto uninterrupted(Call call)
-{
-    auto result = call();
-    while (result < 0 && errno == EINTR)
-        result = call();
-    return result;
-}
-
-/// The same, after the test's fault point has been asked; an error where it fails.
+/// Runs one system call, after the test's fault point has been asked; an error where it fails.
 template <class Call> auto step(clsFileStep which, const QString &path, Call call)
 {
     if (const int fault = asked(which, path).systemError)
         fail(fault, path);
-    const auto result = uninterrupted(call);
+    const auto result = mdUninterrupted(call);
     if (result < 0)
         fail(errno, path);
     return result;
@@ -131,7 +117,7 @@ public:
     void setPermissions(mode_t mode) const
     {
         // File systems without permissions refuse this; the file is then as private as they make it.
-        [[maybe_unused]] const int result = ::fchmod(m_descriptor, mode & Permissions);
+        [[maybe_unused]] const int result = mdUninterrupted([&] { return ::fchmod(m_descriptor, mode & Permissions); });
     }
     /// Closes it. A file system on a network may tell of a failed write only now.
     void close()
@@ -151,7 +137,7 @@ private:
         if (fault.systemError && fault.atMost <= 0)
             fail(fault.systemError, m_path);
         const size_t part = size_t(fault.atMost >= 0 ? qMin(fault.atMost, size) : size);
-        const auto done = uninterrupted([&] { return call(part); });
+        const auto done = mdUninterrupted([&] { return call(part); });
         if (done < 0 || fault.systemError)
             fail(done < 0 ? errno : fault.systemError, m_path);
         return done;
@@ -161,34 +147,21 @@ private:
     int m_descriptor;
 };
 
-/// Brings a folder's entries to the disk. Some file systems can't, and some folders may be written but not opened:
-/// then the system's own order of writing has to do.
-void syncFolder(const QString &folder)
+/// Brings the entries of a file's folder to the disk.
+void syncFolderOf(const QString &path)
 {
-    if (const int fault = asked(clsFileStep::SyncFolder, folder).systemError)
-        fail(fault, folder);
-    const int descriptor
-        = uninterrupted([&] { return ::open(systemPath(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); });
-    if (descriptor < 0)
-        return;
-    const int failure = uninterrupted([&] { return ::fsync(descriptor); }) < 0 ? errno : 0;
-    ::close(descriptor);
-    if (failure && failure != EINVAL && failure != ENOTSUP && failure != EROFS)
-        fail(failure, folder);
-}
-
-/// The folder in which the file itself lies, whatever links lead to it.
-QString folderOf(const QString &path)
-{
-    const std::unique_ptr<char, decltype(&std::free)> real(
-        ::realpath(systemPath(path).constData(), nullptr), &std::free);
-    return QFileInfo(real ? QFile::decodeName(real.get()) : path).path();
+    const QByteArray folder = mdRealFolder(path);
+    const QString name = QFile::decodeName(folder);
+    if (const int fault = asked(clsFileStep::SyncFolder, name).systemError)
+        fail(fault, name);
+    if (const int failure = mdSyncFolder(folder))
+        fail(failure, name);
 }
 
 bool anythingAt(const QString &path)
 {
     struct stat status = {};
-    return ::lstat(systemPath(path).constData(), &status) == 0;
+    return mdUninterrupted([native = systemPath(path), &status] { return ::lstat(native.constData(), &status); }) == 0;
 }
 
 void copyContent(const clsOpenFile &source, const QString &to, mode_t permissions)
@@ -201,49 +174,18 @@ void copyContent(const clsOpenFile &source, const QString &to, mode_t permission
         target.write(block.constData(), size);
     target.sync();
     target.close();
-    syncFolder(folderOf(to));
+    syncFolderOf(to);
 }
 
 } // namespace
-
-// The folder, not the file: that may not be there yet, and some network shares keep even this program's own second
-// descriptor out of a file that is locked.
-clsFileLock::clsFileLock(const QString &path, Kind kind)
-    : m_folder(folderOf(path))
-    , m_descriptor(uninterrupted(
-          [this] { return ::open(systemPath(m_folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); }))
-{
-    const int how = (kind == Writes ? LOCK_EX : LOCK_SH) | LOCK_NB;
-    const auto until = std::chrono::steady_clock::now() + LongestWait;
-    while (m_descriptor >= 0 && ::flock(m_descriptor, how) < 0 && (errno == EWOULDBLOCK || errno == EINTR)) {
-        if (std::chrono::steady_clock::now() >= until) {
-            ::close(m_descriptor);
-            fail(EACCES, path);
-        }
-        std::this_thread::sleep_for(BetweenTries);
-    }
-}
-
-clsFileLock::~clsFileLock()
-{
-    if (m_descriptor >= 0)
-        ::close(m_descriptor);
-}
-
-bool clsFileLock::isOfWhatIsThere() const
-{
-    struct stat locked = {}, there = {};
-    return m_descriptor < 0 || ::fstat(m_descriptor, &locked) < 0
-        || (::stat(systemPath(m_folder).constData(), &there) == 0 && locked.st_dev == there.st_dev
-            && locked.st_ino == there.st_ino);
-}
 
 bool clsFileSystem::FileExists(const QString &path) const
 {
     const QByteArray native = systemPath(path);
     const int fault = asked(clsFileStep::Inspect, path).systemError;
     struct stat status = {};
-    const int failure = fault ? fault : ::stat(native.constData(), &status) < 0 ? errno : 0;
+    const bool told = !fault && mdUninterrupted([&] { return ::stat(native.constData(), &status); }) == 0;
+    const int failure = fault ? fault : told ? 0 : errno;
     if (failure == ENOENT || failure == ENOTDIR)
         return false;
     if (failure)
@@ -253,7 +195,18 @@ bool clsFileSystem::FileExists(const QString &path) const
 
 bool clsFileSystem::FolderExists(const QString &path) const
 {
-    return !path.isEmpty() && QFileInfo(path).isDir();
+    struct stat status = {};
+    return !path.isEmpty() && !path.contains(QChar(u'\0'))
+        && mdUninterrupted([native = QFile::encodeName(path), &status] { return ::stat(native.constData(), &status); })
+        == 0
+        && S_ISDIR(status.st_mode);
+}
+
+bool clsFileSystem::NameIsTooLong(const QString &path) const
+{
+    struct stat status = {};
+    return mdUninterrupted([native = systemPath(path), &status] { return ::lstat(native.constData(), &status); }) < 0
+        && errno == ENAMETOOLONG;
 }
 
 QByteArray clsFileSystem::ReadFile(const QString &path) const
@@ -273,6 +226,23 @@ QByteArray clsFileSystem::ReadFile(const QString &path) const
     return bytes;
 }
 
+bool clsFileSystem::FileHolds(const QString &path, const QByteArray &bytes) const
+{
+    clsOpenFile file(clsFileStep::OpenToRead, path, O_RDONLY);
+    if (file.regularStatus().st_size != bytes.size())
+        return false;
+    QByteArray block(qMin(CopyBlock, bytes.size()), Qt::Uninitialized);
+    qint64 have = 0;
+    while (have < bytes.size()) {
+        const qint64 part = file.read(block.data(), qMin(block.size(), bytes.size() - have));
+        if (part == 0 || std::memcmp(block.constData(), bytes.constData() + have, size_t(part)) != 0)
+            return false;
+        have += part;
+    }
+    file.close();
+    return true;
+}
+
 void clsFileSystem::CopyFile(const QString &from, const QString &to) const
 {
     clsOpenFile source(clsFileStep::OpenToRead, from, O_RDONLY);
@@ -283,7 +253,7 @@ void clsFileSystem::CopyFile(const QString &from, const QString &to) const
         copyContent(source, to, permissions);
     } catch (...) {
         // Half a copy beside the whole original would only mislead whoever looks for the better of the two.
-        ::unlink(systemPath(to).constData());
+        mdUninterrupted([native = systemPath(to)] { return ::unlink(native.constData()); });
         throw;
     }
 }
@@ -303,7 +273,14 @@ void clsFileSystem::WriteFile(const QString &path, const QByteArray &bytes) cons
     file.write(bytes.constData(), bytes.size());
     file.sync();
     file.close();
-    syncFolder(folderOf(path));
+    syncFolderOf(path);
+}
+
+void clsFileSystem::CreateFolder(const QString &path) const
+{
+    const QByteArray native = systemPath(path);
+    if (mdUninterrupted([&] { return ::mkdir(native.constData(), S_IRWXU); }) < 0 && errno != EEXIST)
+        fail(errno, path);
 }
 
 void clsFileSystem::DeleteFile(const QString &path) const

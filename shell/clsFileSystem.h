@@ -14,25 +14,6 @@ struct clsFileFault {
     qint64 atMost = -1; ///< bytes that this one read or write lets pass, before it fails where `systemError` is set
 };
 
-/// Holds off the other programs of this machine that read or write in the folder of a file, for as long as it lives: a
-/// guarded overwrite in the midst of another would leave a mixture of both. Where a file system knows no such locks
-/// there is none, and the last to write wins. An error where another program doesn't let go in time.
-class clsFileLock {
-public:
-    enum Kind { Reads, Writes };
-    clsFileLock(const QString &path, Kind kind);
-    ~clsFileLock();
-    clsFileLock(const clsFileLock &) = delete;
-    clsFileLock &operator=(const clsFileLock &) = delete;
-
-    /// False where the folder was deleted while this program waited for it, so that the lock is of no use.
-    bool isOfWhatIsThere() const;
-
-private:
-    QString m_folder;
-    int m_descriptor;
-};
-
 /// The file operations of the core, and the one place that asks the operating system for them. An operation that fails
 /// raises a clsRunTimeError. Symbolic links are followed and kept.
 class clsFileSystem {
@@ -42,9 +23,13 @@ public:
     bool FileExists(const QString &path) const;
     /// True for a folder that can be reached; never an error.
     bool FolderExists(const QString &path) const;
+    /// True where no file can have the name, since it has more characters than a name may have here.
+    bool NameIsTooLong(const QString &path) const;
 
     /// The whole content. Only a regular file is read: a pipe or a device could block for ever or never end.
     QByteArray ReadFile(const QString &path) const;
+    /// Whether a file holds these bytes and no others, without a second copy of them in memory.
+    bool FileHolds(const QString &path, const QByteArray &bytes) const;
     /// Copies a file with its permissions. A file that is already at the target is taken away first and not written
     /// through, since it could be a link to the very file that is copied. The copy is on the disk, with its entry in
     /// the folder, when this returns; a copy that fails leaves nothing at the target.
@@ -54,6 +39,8 @@ public:
     /// Writes a file from its start; the bytes, and the file's entry in its folder, are on the disk when this returns.
     void WriteFile(const QString &path, const QByteArray &bytes) const;
     void DeleteFile(const QString &path) const;
+    /// Makes a folder that only its owner can look into. One that is there already stays as it is.
+    void CreateFolder(const QString &path) const;
 
     /// Asked before each step; for tests, which let steps fail here or end the process between two of them.
     std::function<clsFileFault(clsFileStep step, const QString &path)> faultPoint;

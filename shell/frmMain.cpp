@@ -25,6 +25,7 @@
 #include "shell/mdFileHandling.h"
 #include "shell/mdGetResourceData.h"
 #include "shell/mdGlobals.h"
+#include "shell/mdLocalFile.h"
 #include "shell/mdLog.h"
 #include "shell/mdMainMenu.h"
 #include "shell/mdProgramFolder.h"
@@ -56,7 +57,7 @@ constexpr int LongestGrowth = 1000; ///< in milliseconds
 QString draggedClaim(const QMimeData &data)
 {
     const QList<QUrl> urls = data.urls();
-    const QString path = urls.size() == 1 ? urls.first().toLocalFile() : QString();
+    const QString path = urls.size() == 1 ? mdLocalFile(urls.first()) : QString();
     return path.endsWith(QLatin1String(".zr3"), Qt::CaseInsensitive) ? path : QString();
 }
 

@@ -1,7 +1,11 @@
 #include "shell/mdCommandLine.h"
 
+#include "shell/mdLocalFile.h"
+
 #include <QDir>
-#include <QUrl>
+
+#include <algorithm>
+#include <filesystem>
 
 namespace {
 
@@ -24,6 +28,25 @@ QString fullPath(const QString &path)
     return QFileInfo(clean).canonicalFilePath() == QFileInfo(full).canonicalFilePath() ? clean : full;
 }
 
+bool isUtf8(const QByteArray &name)
+{
+    const QString text = QFile::decodeName(name);
+    if (QFile::encodeName(text) != name)
+        return false;
+    const QUrl address(text);
+    return address.toLocalFile().isEmpty() || !mdLocalFile(address).isEmpty();
+}
+
+/// A name with the bytes that can't be shown written out.
+QString shown(const QByteArray &name)
+{
+    QString text;
+    for (const char byte : name)
+        text += byte >= ' ' && byte <= '~' ? QString(QLatin1Char(byte))
+                                           : QStringLiteral("\\x%1").arg(uchar(byte), 2, 16, QLatin1Char('0'));
+    return text;
+}
+
 } // namespace
 
 QString CommandLinePath(const QStringList &arguments)
@@ -35,4 +58,22 @@ QString CommandLinePath(const QStringList &arguments)
         path = withoutAddress(path.remove(u'"'));
     // The claim keeps its path, which must be good wherever the program stands later.
     return path.isEmpty() ? path : fullPath(path);
+}
+
+QByteArray NameNotInUtf8(const QByteArrayList &names)
+{
+    const auto found = std::find_if_not(names.begin(), names.end(), isUtf8);
+    return found == names.end() ? QByteArray() : *found;
+}
+
+QByteArray CurrentFolderName()
+{
+    std::error_code gone;
+    return QByteArray::fromStdString(std::filesystem::current_path(gone).native());
+}
+
+QString RefusalOfName(const QByteArray &name)
+{
+    return QStringLiteral("The name of this file or folder has characters that the program can't read:\r\n\r\n")
+        + shown(name) + QStringLiteral("\r\n\r\nPlease rename it and try again.");
 }

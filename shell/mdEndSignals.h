@@ -7,3 +7,7 @@
 /// signals to the system again.
 /// Without a running event loop nothing is called. To be used on the one thread only.
 void SetEndSignalHandler(std::function<void()> handler);
+
+/// Has a write beyond the size that files may have here (on POSIX systems SIGXFSZ) fail with an error, which the user
+/// is told, as on a full disk. Otherwise the system ends the program on the spot.
+void MakeSizeLimitAnError();

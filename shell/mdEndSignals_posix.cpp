@@ -96,3 +96,8 @@ void SetEndSignalHandler(std::function<void()> handler)
     if (handler)
         inForce = std::make_unique<clsEndSignals>(std::move(handler));
 }
+
+void MakeSizeLimitAnError()
+{
+    std::signal(SIGXFSZ, SIG_IGN);
+}

@@ -8,6 +8,7 @@
 #include "shell/mdGlobals.h"
 #include "shell/mdLossCause.h"
 #include "shell/mdOwnFolder.h"
+#include "shell/mdShortenedName.h"
 #include "shell/mdStateFolder.h"
 
 #include <QFile>
@@ -29,8 +30,7 @@ QString stem()
     for (QChar &c : name)
         if (c < u' ' || QStringLiteral("\\/:*?\"<>|").contains(c))
             c = u'_';
-    while (QFile::encodeName(name).size() > LongestStem)
-        name.chop(name.size() > 1 && name.back().isLowSurrogate() ? 2 : 1);
+    name = mdShortenedName(name, LongestStem);
     return name.isEmpty() ? QStringLiteral("Claim") : name;
 }
 

@@ -16,7 +16,7 @@
 #include "shell/mdRecoveredCopy.h"
 #include "shell/oApplication.h"
 
-#include <QFile>
+#include <QDir>
 #include <QIcon>
 #include <QScopeGuard>
 
@@ -28,13 +28,24 @@ static void initialiseIcons()
 
 namespace {
 
-QStringList argumentsOf(int argc, char **argv)
-{
-    QStringList arguments;
-    for (int i = 1; i < argc; ++i)
-        arguments << QFile::decodeName(argv[i]);
-    return arguments;
-}
+/// The claim that the command line asks for, or the name in it that can't be used.
+struct clsAskedFor {
+    clsAskedFor(int argc, char **argv)
+    {
+        const QByteArrayList names(argv + 1, argv + argc);
+        QStringList arguments;
+        for (const QByteArray &name : names)
+            arguments << QFile::decodeName(name);
+        refused = NameNotInUtf8(names);
+        if (refused.isEmpty() && QDir::isRelativePath(arguments.join(u' ')) && !names.isEmpty())
+            refused = NameNotInUtf8({CurrentFolderName()});
+        if (refused.isEmpty())
+            path = CommandLinePath(arguments);
+    }
+
+    QString path;
+    QByteArray refused;
+};
 
 QIcon programIcon()
 {
@@ -58,7 +69,7 @@ struct clsProgram {
     }
 };
 
-void showMain(clsProgram &program, oApplication &application, clsWindowUserInterface &user, const QString &claimPath)
+void showMain(clsProgram &program, oApplication &application, clsWindowUserInterface &user, const clsAskedFor &claim)
 {
     program.main = std::make_unique<frmMain>();
     frmMain *window = program.main.get();
@@ -68,20 +79,23 @@ void showMain(clsProgram &program, oApplication &application, clsWindowUserInter
             int value, int maximum, const QString &text) { footer->showProgress(value, maximum, text); },
         [footer = window->footer()] { footer->clearProgress(); },
     });
-    window->Load(claimPath);
+    window->Load(claim.path);
     // The system may have asked for the end while the user was asked or told something.
     if (oApplication::ending())
         return;
     window->show();
     program.splash.StepAside();
+    if (!claim.refused.isEmpty())
+        mdCustomMessages(RefusalOfName(claim.refused), QStringLiteral("File Name"));
 }
 
 } // namespace
 
 int RunProgram(int argc, char **argv)
 {
+    MakeSizeLimitAnError();
     // The whole command line is a claim's path. None of it is a switch, not the toolkit's own either.
-    const QString claimPath = CommandLinePath(argumentsOf(argc, argv));
+    const clsAskedFor claim(argc, argv);
     int nameOnly = 1;
     oApplication application(nameOnly, argv);
     mdApplyTheme(application);
@@ -102,8 +116,8 @@ int RunProgram(int argc, char **argv)
         return 1;
     }
     clsProgram program;
-    QObject::connect(&program.splash, &frmSplash::Initialised, &application,
-        [&] { showMain(program, application, user, claimPath); });
+    QObject::connect(
+        &program.splash, &frmSplash::Initialised, &application, [&] { showMain(program, application, user, claim); });
     program.splash.show();
     const int status = application.run();
     user.setProgressDisplay({});

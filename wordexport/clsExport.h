@@ -8,7 +8,7 @@
 
 #include <memory>
 
-class clsFileLock;
+class clsFolderLock;
 
 /// One running export: the claim that it prints and the whole of the state that its steps share.
 struct clsExport {
@@ -23,11 +23,17 @@ struct clsExport {
     /// user has been told. With this set the export stops there instead, and no document comes out: for callers who
     /// can't ask anybody whether an incomplete one will do.
     bool stopsAtLostSheet = false;
+    /// The file in which the claim lies; empty for a claim that was never saved. Its rights are the document's.
+    QString claimFile {};
+    /// Without this, a document that is there by the time of the export stops it.
+    bool mayReplace = true;
+    /// True once it did.
+    bool stoppedAtDocument = false;
     /// The sheets stay in the temporary folder when the export has ended.
     bool keepsSheets = false;
 
     /// Held while the export works in the temporary folder; nothing there is this export's without it.
-    std::shared_ptr<clsFileLock> folderLock {};
+    std::shared_ptr<clsFolderLock> folderLock {};
 
     /// The full paths of the sheet files, in the order in which they were made.
     QStringList ExportFileCollection {};

@@ -8,6 +8,7 @@
 #include "shell/clsFileSystem.h"
 #include "shell/clsLongWork.h"
 #include "shell/mdCustomMessages.h"
+#include "shell/mdFileHandling.h"
 #include "shell/mdGetFolder.h"
 #include "shell/mdGlobals.h"
 #include "shell/mdLog.h"
@@ -122,7 +123,7 @@ void frmExportToWord::cmdOpenExportFolder_Click()
     ShellOpen(txtExportPath->text());
 }
 
-bool frmExportToWord::mayExport() const
+bool frmExportToWord::mayExport()
 {
     const QString paragraph = QStringLiteral("\r\n\r\n");
     if (mdWordAlreadyRunning()
@@ -142,7 +143,8 @@ bool frmExportToWord::mayExport() const
         return false;
     }
     const QString document = mdFinishedDocumentPath(txtExportPath->text(), Form->FormType());
-    return !FileSystem().FileExists(document)
+    m_mayReplace = FileSystem().FileExists(document);
+    return !m_mayReplace
         || mdCustomMessages(QStringLiteral("The following file will be overwritten:") + paragraph
                    + QFileInfo(document).fileName() + QStringLiteral("\r\n"),
                QStringLiteral("Overwrite?"), clsUserInterface::OKCancel, 1)
@@ -159,7 +161,14 @@ bool frmExportToWord::exportForm()
         return true;
     clsExport run {*Form, TemplatesFolder()};
     run.exportFolder = txtExportPath->text();
-    return driver(run);
+    run.claimFile = FormFilePath();
+    run.mayReplace = m_mayReplace;
+    const bool finished = driver(run);
+    if (run.stoppedAtDocument)
+        mdCustomMessages(QStringLiteral("Another program has just made this document in the folder. It was not "
+                                        "replaced. To replace it, export again."),
+            QStringLiteral("Export"));
+    return finished;
 }
 
 void frmExportToWord::cmdExport_Click()

@@ -24,7 +24,7 @@ private:
     void cmdExportPathBrowse_Click();
     void cmdOpenExportFolder_Click();
     void cmdExport_Click();
-    bool mayExport() const;
+    bool mayExport();
     bool exportForm();
 
     oFrame *bxGeneral;
@@ -34,4 +34,5 @@ private:
     oCustomButton *cmdExport;
     oCustomButton *cmdClose;
     bool m_exporting = false;
+    bool m_mayReplace = false; ///< the user has been asked about the document that is there
 };

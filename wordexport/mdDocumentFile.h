@@ -8,9 +8,17 @@
 QByteArray mdReadDocumentFile(const QString &path, qint64 limit);
 
 /// Writes a document's file so that the name holds either the old bytes or the new ones, whole, and the disk has them:
-/// they go to a side file in the same folder, which then takes the name. Any failure (a full disk, a folder that may
-/// not be written to) is a clsRunTimeError; the old file stays.
+/// they go to a side file in the same folder, which then takes the name. A new file is its owner's alone, and one that
+/// is replaced keeps its rights. Any failure (a full disk, a folder that may not be written to) is a clsRunTimeError;
+/// the old file stays.
 void mdWriteDocumentFile(const QString &path, const QByteArray &bytes);
+
+/// Gives the finished name to a document that is written, in one step. Those may read it who may read the claim's file;
+/// its owner alone where the claim has none. One that is there already is replaced as if it were written over: one that
+/// is write-protected stays; where the name is a link, the document that it leads to is the one; and the new one is
+/// open to no more users than the old. A failure is a clsRunTimeError, also where the document must be copied and has
+/// more bytes than the limit.
+void mdPutDocumentInPlace(const QString &written, const QString &finished, const QString &claimFile, qint64 limit);
 
 /// Writes a file that lives for one export only, in the quickest way: always a new file, since replacing one, by its
 /// name or by its content, makes some file systems write it to the disk at once, and the deletion at the end then waits

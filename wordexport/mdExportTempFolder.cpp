@@ -1,6 +1,7 @@
 #include "wordexport/mdExportTempFolder.h"
 
 #include "shell/clsFileSystem.h"
+#include "shell/clsFolderLock.h"
 #include "shell/mdCustomMessages.h"
 #include "shell/mdLog.h"
 #include "shell/mdSystemErrorCode.h"
@@ -17,42 +18,50 @@ fs::path folderOf(const QString &exportFolder)
     return mdExportTempFolder(exportFolder).toStdString();
 }
 
+fs::file_type typeOf(const fs::path &path)
+{
+    return mdSystemOperation([&](std::error_code &error) {
+        const fs::file_type type = fs::symlink_status(path, error).type();
+        if (type == fs::file_type::not_found)
+            error.clear();
+        return type;
+    });
+}
+
 /// Nobody's files but the export's own may be swept away: what stands under the name must be a folder, and not a link
 /// to one.
 void refuseForeignFolder(const fs::path &folder)
 {
-    std::error_code error;
-    const fs::file_status status = fs::symlink_status(folder, error);
-    if (status.type() != fs::file_type::not_found && status.type() != fs::file_type::directory)
+    const fs::file_type type = typeOf(folder);
+    if (type != fs::file_type::not_found && type != fs::file_type::directory)
         throw clsRunTimeError(clsRunTimeError::PathFileAccess);
 }
 
 /// The files in the folder. A folder in there is none of the export's, so that nothing at all may be swept away.
 std::vector<fs::path> filesIn(const fs::path &folder)
 {
-    std::vector<fs::path> files;
-    std::error_code error;
-    fs::directory_iterator entry;
-    do
-        entry = fs::directory_iterator(folder, error);
-    while (error == std::errc::interrupted);
-    for (const fs::directory_iterator end; !error && entry != end; entry.increment(error)) {
-        const fs::file_status status = entry->symlink_status(error);
-        mdCheckSystemError(error);
-        if (status.type() == fs::file_type::directory)
+    auto entries = mdSystemOperation([&](std::error_code &error) {
+        std::vector<fs::path> found;
+        for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error))
+            found.push_back(entry->path());
+        return found;
+    });
+    for (const fs::path &entry : entries)
+        if (typeOf(entry) == fs::file_type::directory)
             throw clsRunTimeError(clsRunTimeError::PathFileAccess);
-        files.push_back(entry->path());
-    }
-    mdCheckSystemError(error);
-    return files;
+    return entries;
+}
+
+void removeOne(const fs::path &path)
+{
+    mdSystemOperation([&](std::error_code &error) { return fs::remove(path, error); });
 }
 
 /// The lock on the folder, which it waits for; nothing where another export has it too long.
-std::shared_ptr<clsFileLock> locked(const QString &exportFolder)
+std::shared_ptr<clsFolderLock> locked(const QString &folder)
 {
     try {
-        return std::make_shared<clsFileLock>(
-            mdExportTempFolder(exportFolder) + QStringLiteral("/1(1).doc"), clsFileLock::Writes);
+        return std::make_shared<clsFolderLock>(folder);
     } catch (const clsRunTimeError &) {
         mdCustomMessages(QStringLiteral("Another export into this folder is still running. Please wait until it has "
                                         "ended and try again."),
@@ -68,23 +77,26 @@ QString mdExportTempFolder(const QString &exportFolder)
     return exportFolder + QStringLiteral("/~ZR3Temp");
 }
 
-std::shared_ptr<clsFileLock> mdCreateExportTempFolder(const QString &exportFolder)
+std::shared_ptr<clsFolderLock> mdCreateExportTempFolder(const QString &exportFolder)
 {
     WriteLog(QStringLiteral("Begin Create Export Temp Folder"));
+    const QString path = mdExportTempFolder(exportFolder);
     const fs::path folder = folderOf(exportFolder);
     refuseForeignFolder(folder);
-    std::error_code error;
-    std::shared_ptr<clsFileLock> lock;
+    std::shared_ptr<clsFolderLock> lock;
     // The export that was waited for takes its folder with it.
     do {
-        fs::create_directory(folder, error);
-        mdCheckSystemError(error);
-        lock = locked(exportFolder);
+        FileSystem().CreateFolder(path);
+        lock = locked(path);
         if (!lock)
             return lock;
     } while (!lock->isOfWhatIsThere());
     mdClearExportTempFolder(exportFolder, false);
-    fs::permissions(folder, fs::perms::owner_all, error); // a file system without permissions is no reason to stop
+    // One that was left behind may be open to others. A file system without permissions is no reason to stop.
+    std::error_code error;
+    do
+        fs::permissions(folder, fs::perms::owner_all, error);
+    while (error == std::errc::interrupted);
     WriteLog(QStringLiteral("End Create Export Temp Folder"));
     return lock;
 }
@@ -94,14 +106,9 @@ void mdClearExportTempFolder(const QString &exportFolder, bool deleteFolder)
     WriteLog(QStringLiteral("Begin Clear Export Temp Folder"));
     const fs::path folder = folderOf(exportFolder);
     refuseForeignFolder(folder);
-    std::error_code error;
-    for (const fs::path &file : filesIn(folder)) {
-        fs::remove(file, error);
-        mdCheckSystemError(error);
-    }
-    if (deleteFolder) {
-        fs::remove(folder, error);
-        mdCheckSystemError(error);
-    }
+    for (const fs::path &file : filesIn(folder))
+        removeOne(file);
+    if (deleteFolder)
+        removeOne(folder);
     WriteLog(QStringLiteral("End Clear Export Temp Folder"));
 }

@@ -4,7 +4,7 @@
 
 #include <memory>
 
-class clsFileLock;
+class clsFolderLock;
 
 /// The folder of the sheets while an export runs: "~ZR3Temp" under the export folder.
 QString mdExportTempFolder(const QString &exportFolder);
@@ -13,7 +13,7 @@ QString mdExportTempFolder(const QString &exportFolder);
 /// an export that died are swept away. A folder that can't be made, or that holds what no export put there, is a
 /// run-time error. While the result lives, no other program's export works in the folder, which would mix the sheets of
 /// two claims in one document; nothing, after a message, where another doesn't end in time.
-std::shared_ptr<clsFileLock> mdCreateExportTempFolder(const QString &exportFolder);
+std::shared_ptr<clsFolderLock> mdCreateExportTempFolder(const QString &exportFolder);
 
 /// Deletes every file in the folder, and then the folder itself if so asked.
 void mdClearExportTempFolder(const QString &exportFolder, bool deleteFolder);

@@ -1,8 +1,8 @@
 #include "wordexport/mdExportWordCombineDocuments.h"
 
+#include "shell/clsFileSystem.h"
 #include "shell/mdLog.h"
 #include "shell/mdSetProgress.h"
-#include "shell/mdSystemErrorCode.h"
 #include "wordexport/clsExport.h"
 #include "wordexport/clsMSWord.h"
 #include "wordexport/clsZipPackage.h"
@@ -10,40 +10,17 @@
 #include "wordexport/mdExportSheet.h"
 #include "wordexport/mdExportTempFolder.h"
 
-#include <QFileInfo>
-
-#include <filesystem>
-
-namespace {
-
-/// Gives the finished name to the joined document, in one step. A document that is there already is replaced as if it
-/// were written over: one that is write-protected stays, which taking over its name would not ask; where the name is a
-/// link, the document that it leads to is the one; and who may read it stays as it was.
-void putInPlace(const QString &joined, const QString &finished)
-{
-    namespace fs = std::filesystem;
-    std::error_code error;
-    const QFileInfo older(finished);
-    if (older.exists()) {
-        if (!older.isWritable())
-            throw clsRunTimeError(clsRunTimeError::PermissionDenied);
-        fs::permissions(joined.toStdString(), fs::status(finished.toStdString(), error).permissions(), error);
-        mdCheckSystemError(error);
-    }
-    const QString target = older.exists() ? older.canonicalFilePath() : finished;
-    fs::rename(joined.toStdString(), target.toStdString(), error);
-    // A link may lead to another file system, where a name can't be taken over.
-    if (error == std::errc::cross_device_link)
-        mdWriteDocumentFile(target, mdReadDocumentFile(joined, ZipLimits::PackageBytes));
-    else
-        mdCheckSystemError(error);
-}
-
-} // namespace
-
 QString mdFinishedDocumentPath(const QString &exportFolder, const QString &formType)
 {
     return QStringLiteral("%1/%2.doc").arg(exportFolder, formType);
+}
+
+void mdStopAtExistingDocument(clsExport &run)
+{
+    if (run.mayReplace || !FileSystem().FileExists(mdFinishedDocumentPath(run.exportFolder, run.form.FormType())))
+        return;
+    run.stoppedAtDocument = true;
+    throw clsExportStopped();
 }
 
 void mdExportWordCombineDocuments(clsExport &run)
@@ -73,6 +50,8 @@ void mdExportWordCombineDocuments(clsExport &run)
     if (word.isOpen())
         throw clsExportStopped();
     word.Quit();
-    putInPlace(joined, mdFinishedDocumentPath(run.exportFolder, run.form.FormType()));
+    mdStopAtExistingDocument(run);
+    mdPutDocumentInPlace(
+        joined, mdFinishedDocumentPath(run.exportFolder, run.form.FormType()), run.claimFile, ZipLimits::PackageBytes);
     WriteLog(QStringLiteral("End Export Word Combine Documents"));
 }

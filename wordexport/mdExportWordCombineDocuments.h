@@ -7,6 +7,9 @@ struct clsExport;
 /// The path of the finished document: the export folder, and the form type's name with ".doc".
 QString mdFinishedDocumentPath(const QString &exportFolder, const QString &formType);
 
+/// Ends an export that may not replace a document where there is one.
+void mdStopAtExistingDocument(clsExport &run);
+
 /// Joins the sheets in the order in which they were made and puts the result under the finished document's name. The
 /// joining is done in the temporary folder: the finished name holds the old document or the whole new one at all times.
 void mdExportWordCombineDocuments(clsExport &run);

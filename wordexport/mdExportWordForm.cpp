@@ -25,6 +25,8 @@ void exportSheets(clsExport &run, const clsExportForm &form)
     run.folderLock = mdCreateExportTempFolder(run.exportFolder);
     if (!run.folderLock)
         throw clsExportStopped();
+    // Another export may have ended while this one waited for the lock.
+    mdStopAtExistingDocument(run);
     for (const clsExportPageRow &page : form.pages) {
         // The step is taken whether or not the page is included.
         mdSetProgress(page.number, form.progressMaximum, QStringLiteral("Exporting Page %1").arg(page.number));

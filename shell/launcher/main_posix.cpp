@@ -1,3 +1,4 @@
+#include "shell/mdEndSignals.h"
 #include "shell/mdOwnDatabasePath.h"
 #include "shell/mdProgramFolder.h"
 
@@ -10,6 +11,7 @@
 /// Gives a user who starts the program for the first time a database folder, and becomes the program.
 int main(int, char **argv)
 {
+    MakeSizeLimitAnError();
     // The folder of what runs now is that of the commands.
     SetProgramFolder(QDir::cleanPath(ProgramPath(QStringLiteral(ZR3_FROM_COMMANDS_TO_PROGRAM))));
     GiveOwnDatabasePath();

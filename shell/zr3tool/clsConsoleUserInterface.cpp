@@ -19,8 +19,9 @@ clsUserInterface::Answer clsConsoleUserInterface::customMessage(
 }
 
 clsUserInterface::Answer clsConsoleUserInterface::systemMessage(
-    const QString &message, const QString &title, SystemIcon, Buttons buttons)
+    const QString &message, const QString &title, SystemIcon icon, Buttons buttons)
 {
+    m_failureCount += icon == Critical;
     tell(title, message);
     return answerThatChangesNothing(buttons);
 }

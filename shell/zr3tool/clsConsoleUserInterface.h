@@ -11,8 +11,8 @@ public:
     /// Where one failure draws several messages after it, only the first tells anything.
     bool showsOnlyFirstMessage = false;
 
-    /// How many messages there have been, shown or not.
-    int messageCount() const { return m_messageCount; }
+    /// How many of the messages told of a failure.
+    int failureCount() const { return m_failureCount; }
     /// Writes a block: the title, a colon, the text.
     void tell(const QString &title, const QString &text);
 
@@ -27,6 +27,7 @@ public:
     bool openTarget(const QString &) override { return false; }
 
 private:
-    int m_messageCount = 0;
+    int m_messageCount = 0; ///< shown or not
+    int m_failureCount = 0;
     bool m_progressStands = false;
 };

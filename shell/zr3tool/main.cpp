@@ -1,7 +1,10 @@
 #include "costing/mdCheckForBlankItems.h"
 #include "formdata/clsZR3Form.h"
+#include "shell/clsFileSystem.h"
 #include "shell/clsProgramEnd.h"
 #include "shell/clsRunTimeError.h"
+#include "shell/mdCommandLine.h"
+#include "shell/mdEndSignals.h"
 #include "shell/mdGetVersionInfo.h"
 #include "shell/mdPrint.h"
 #include "shell/mdProgramFolder.h"
@@ -15,11 +18,13 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include <cstdio>
 #include <functional>
 #include <new>
+#include <optional>
 
 namespace {
 
@@ -81,19 +86,34 @@ Status check(const clsZR3Form &form)
 
 Status save(const clsConsoleUserInterface &console, clsZR3Form &form, const QString &newFile)
 {
-    const int messagesBefore = console.messageCount();
+    const int failuresBefore = console.failureCount();
     // Not read back from the claim, which keeps its texts in the code page: a file's name may have other characters.
     const QString path = QFileInfo(newFile).absoluteFilePath();
     form.path = path;
     form.Version = GetVersionInfo();
     form.SaveXML(path);
-    return console.messageCount() > messagesBefore ? Status::Failed : Status::Done;
+    return console.failureCount() > failuresBefore ? Status::Failed : Status::Done;
+}
+
+/// What the user is told of a document that is there and may not be replaced.
+Status documentExists(clsConsoleUserInterface &console, const QString &document)
+{
+    console.tell(QStringLiteral("Export"),
+        QStringLiteral("The document %1 exists already. Give --force to replace it.")
+            .arg(QDir::toNativeSeparators(document)));
+    return Status::DocumentExists;
 }
 
 Status exportSheetsAndDocument(clsConsoleUserInterface &console, clsExport &run)
 {
-    if (const clsExportDriver driver = mdExportDriver(run.form.FormType()))
-        return driver(run) ? Status::Done : Status::Failed;
+    if (const clsExportDriver driver = mdExportDriver(run.form.FormType())) {
+        if (driver(run))
+            return Status::Done;
+        // Made by another program since this one has looked.
+        return run.stoppedAtDocument
+            ? documentExists(console, mdFinishedDocumentPath(run.exportFolder, run.form.FormType()))
+            : Status::Failed;
+    }
     console.tell(QStringLiteral("Export"),
         QStringLiteral("There are no pages for the form type \"%1\" of this claim.").arg(run.form.FormType()));
     return Status::Failed;
@@ -103,30 +123,27 @@ Status exportSheetsAndDocument(clsConsoleUserInterface &console, clsExport &run)
 void sweep(const clsExport &run)
 {
     try {
-        if (run.folderLock && !run.keepsSheets && QFileInfo::exists(mdExportTempFolder(run.exportFolder)))
+        if (run.folderLock && !run.keepsSheets && FileSystem().FolderExists(mdExportTempFolder(run.exportFolder)))
             mdClearExportTempFolder(run.exportFolder, true);
     } catch (const std::exception &) { }
 }
 
 Status exportDocument(clsConsoleUserInterface &console, clsZR3Form &form, const clsToolCommand &command)
 {
-    const QFileInfo folder(command.target);
-    if (!folder.isDir()) {
+    if (!FileSystem().FolderExists(command.target)) {
         console.tell(QStringLiteral("Export Path"),
             QStringLiteral("The selected Export Path does not exist. Please select a valid folder and try again."));
         return Status::Failed;
     }
     const QString exportFolder = QDir(command.target).absolutePath();
     const QString document = mdFinishedDocumentPath(exportFolder, form.FormType());
-    if (!command.force && QFileInfo::exists(document)) {
-        console.tell(QStringLiteral("Export"),
-            QStringLiteral("The document %1 exists already. Give --force to replace it.")
-                .arg(QDir::toNativeSeparators(document)));
-        return Status::DocumentExists;
-    }
+    if (!command.force && (FileSystem().FileExists(document) || FileSystem().FolderExists(document)))
+        return documentExists(console, document);
     clsExport run {
         .form = form, .templatesFolder = command.templates.isEmpty() ? TemplatesFolder() : command.templates};
     run.exportFolder = exportFolder;
+    run.claimFile = command.claim;
+    run.mayReplace = command.force;
     run.stopsAtLostSheet = true;
     run.keepsSheets = command.keepSheets;
     const Status status = guarded(console, Status::Failed, [&] { return exportSheetsAndDocument(console, run); });
@@ -153,8 +170,25 @@ Status runOnClaim(clsConsoleUserInterface &console, const clsToolCommand &comman
     });
 }
 
-Status run(const QStringList &arguments)
+/// Refuses names that the command's texts can't hold; nothing where all is well.
+std::optional<Status> refusal(
+    clsConsoleUserInterface &console, const clsToolCommand &command, const QByteArrayList &arguments)
 {
+    QByteArray name = NameNotInUtf8(arguments);
+    // What is written is named by its whole path.
+    if (name.isEmpty() && !command.target.isEmpty() && QDir::isRelativePath(command.target))
+        name = NameNotInUtf8({CurrentFolderName()});
+    if (name.isEmpty())
+        return {};
+    console.tell(QStringLiteral("File Name"), RefusalOfName(name));
+    return QFile::decodeName(name) == command.claim ? Status::NoClaim : Status::Failed;
+}
+
+Status run(const QByteArrayList &names)
+{
+    QStringList arguments;
+    for (const QByteArray &name : names)
+        arguments << QFile::decodeName(name);
     clsConsoleUserInterface console;
     const clsUserInterfaceScope scope(console);
     const auto command = clsToolCommand::read(arguments);
@@ -167,6 +201,8 @@ Status run(const QStringList &arguments)
     } else if (command->verb == clsToolCommand::Version) {
         mdPrint(stdout, QStringLiteral("Velmor ZR3 %1\r\n").arg(GetVersionInfo()));
     } else {
+        if (const auto refused = refusal(console, *command, names))
+            return *refused;
         console.showsProgress = !command->quiet;
         return runOnClaim(console, *command);
     }
@@ -177,8 +213,9 @@ Status run(const QStringList &arguments)
 
 int main(int argc, char **argv)
 {
+    MakeSizeLimitAnError();
     QCoreApplication application(argc, argv);
-    const Status status = run(application.arguments().mid(1));
+    const Status status = run(QByteArrayList(argv + 1, argv + argc));
     // A result that did not reach its reader, say on a full disk, is a failure like any other.
     if (std::fflush(stdout) != 0 || std::ferror(stdout)) {
         std::fputs("Standard output: The result could not be written.\n", stderr);

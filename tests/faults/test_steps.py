@@ -23,8 +23,6 @@ ERRORS = {
     "readdir": [EIO],
     "flock": [EIO],
 }
-# What a signal may interrupt.
-INTERRUPTED = ["open", "open-write", "read", "write", "fsync", "truncate", "close"]
 # What lasts, once it has begun, until somebody does something about it.
 LASTING = [ENOSPC, EROFS, EIO]
 
@@ -37,8 +35,8 @@ def plans(step):
         yield "short", "short"
     if step.operation == "write":
         yield f"shortfail={ENOSPC}", "short, then ENOSPC"
-    if step.operation in INTERRUPTED:
-        yield "eintr", "EINTR"
+    # On a mount of the network a signal may interrupt anything.
+    yield "eintr", "EINTR"
 
 
 def lasting_plans(step):
@@ -54,6 +52,19 @@ def some(ways):
 
 # Interrupted or cut short, but not failed: the program must carry on as if nothing had been.
 HARMLESS = ("short", "eintr")
+
+
+def interrupted(step):
+    yield "eintr", "EINTR"
+
+
+def some_of_each(steps):
+    """All in the long run; in the short one some steps of each operation."""
+    if FULL:
+        return steps
+    kinds = {operation: [step for step in steps if step.operation == operation]
+             for operation in {step.operation for step in steps}}
+    return [step for same in kinds.values() for step in chance.sample(same, min(4, len(same)))]
 
 
 class Steps(FaultTest):
@@ -87,8 +98,12 @@ class SaveFails(SaveTest, Steps):
         """True where the save is done: then what failed was nothing that the file's safety hangs on."""
         if do not in HARMLESS and result.status != 0:
             return False
-        self.assertEqual((0, "", "new"), (result.status, result.err, self.named(self.file)))
-        self.assertEqual(["claim.zr3"], names(self.disk))
+        self.assertEqual((0, "new"), (result.status, self.named(self.file)))
+        # The turn at the folder stops no save: where it could not be had the user is told, and where its file could not
+        # be removed it stays.
+        turn = do not in HARMLESS and any(step.fired and step.path == str(self.disk / LOCK) for step in result.steps)
+        self.assertIn(result.messages, [[], ["File Saved"]] if turn else [[]], result.err)
+        self.assertIn(names(self.disk), [["claim.zr3"], [LOCK, "claim.zr3"]] if turn else [["claim.zr3"]])
         return True
 
     def is_safe(self, result, do):
@@ -104,14 +119,18 @@ class SaveFails(SaveTest, Steps):
         for kinds in (plans, lasting_plans):
             self.each("Save", self.save_new, self.put_old, self.is_safe, steps, kinds)
 
+    def test_interrupted(self):
+        self.each("Save", self.save_new, self.put_old, self.is_whole, self.steps(self.put_old), interrupted)
+
     def test_of_the_first_save(self):
         def remove():
-            self.file.unlink(missing_ok=True)
+            self.put_old()
+            self.file.unlink()
 
         def check(result, do):
             if not self.is_whole(result, do):
                 self.assertEqual((4, ["File Not Saved"]), (result.status, result.messages), result.err)
-                self.assertLessEqual(set(names(self.disk)), {"claim.zr3"})
+                self.assertLessEqual(set(names(self.disk)), {"claim.zr3", LOCK})
             self.saves_again()
 
         self.each("First save", self.save_new, remove, check, self.steps(remove))
@@ -159,12 +178,36 @@ class ExportFails(ExportTest, Steps):
         for kinds in (plans, lasting_plans):
             self.each("Export", self.export_new, self.put_old, self.is_safe_and_works_again, a_part(steps), kinds)
 
+    def test_interrupted(self):
+        self.put_old()
+        steps = self.export_new(under=self.disk, log=self.log).steps
+        self.each("Export", self.export_new, self.put_old, self.is_safe, some_of_each(steps), interrupted)
+
     def test_of_the_last_steps(self):
         """Where the document takes its name, and where the sheets go: in the short run too."""
         steps = self.export_new(under=self.disk, log=self.log).steps
         place = next(step.number for step in steps if step.operation == "rename" and step.path == str(self.document))
         near = [step for step in steps if place - 6 <= step.number <= place + 6]
         self.each("End of the export", self.export_new, self.put_old, self.is_safe_and_works_again, near)
+
+    def test_brings_the_document_to_the_disk(self):
+        """Its content before it takes its name, and then the folder that has the name."""
+        steps = [(step.operation, step.path.rstrip("/")) for step in
+                 self.export_new(under=self.disk, log=self.log).steps]
+        place = steps.index(("rename", str(self.document)))
+        self.assertIn("fsync", [operation for operation, _ in steps[:place]])
+        self.assertIn(("fsync", str(self.disk)), steps[place:])
+
+    def test_the_sheets_are_private_from_the_start(self):
+        """What could be opened by others once, for a moment, could be locked by them."""
+        steps = self.export_new(under=self.disk, log=self.log).steps
+        made = next(step.number for step in steps if step.operation == "mkdir")
+        one = start("export", "--force", self.claims["new"], self.disk, under=self.disk, at=made + 1, do="stop",
+                    log=self.log)
+        os.waitid(os.P_PID, one.pid, os.WSTOPPED | os.WNOWAIT)
+        self.assertEqual(0o700, (self.disk / "~ZR3Temp").stat().st_mode & 0o7777)
+        one.send_signal(signal.SIGCONT)
+        self.assertEqual((b"", b""), one.communicate(timeout=60))
 
     def test_while_the_templates_are_read(self):
         def check(result, do):

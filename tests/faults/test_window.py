@@ -46,7 +46,7 @@ class WindowKilled(SaveTest):
         process = self.begin()
         read = len(steps_of(self.log))
         self.desktop.key("ctrl+s")
-        self.desktop.wait("the save", lambda: self.named(self.file) == "new" and not self.side.exists())
+        self.desktop.wait("the save", lambda: self.named(self.file) == "new" and names(self.disk) == ["claim.zr3"])
         steps = steps_of(self.log)[read:]
         process.kill()
         process.wait()

@@ -21,6 +21,9 @@ protected:
         user.messages.clear();
     }
 
+    /// All that lies in the folder of the claim, without the folders of the program.
+    QStringList names() const { return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
+
     static QString readBox(const QString &path, const char *error)
     {
         return QStringLiteral("There was a problem reading the following path:\r\n\r\n") + path

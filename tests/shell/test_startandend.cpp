@@ -115,6 +115,20 @@ TEST_F(CommandLine, AFilesAddressIsItsPath)
     EXPECT_EQ(QStringLiteral("/srv/50%25#.zr3"), pathOf({"/srv/50%25#.zr3"})) << "a path is no address";
 }
 
+TEST_F(CommandLine, ANameThatIsNotUtf8IsFoundOutAndShown)
+{
+    EXPECT_EQ(QByteArray(), NameNotInUtf8({}));
+    EXPECT_EQ(QByteArray(),
+        NameNotInUtf8({"", "claim.zr3", "\xc3\xa9 \xef\xbf\xbd.zr3", "file:", "file:///\xc3\xa9.zr3",
+            "file:///%C3%A9%EF%BF%BD.zr3", "file://localhost/a.zr3", "100%FF.zr3"}));
+    for (const char *name : {"\xff.zr3", "My\xe9 Claims/a.zr3", "\xc3", "file:///a/%FF.zr3", "\xed\xa0\x80"})
+        EXPECT_EQ(QByteArray(name), NameNotInUtf8({"claim.zr3", name, "\xfe"})) << name;
+    EXPECT_EQ(QStringLiteral("The name of this file or folder has characters that the program can't read:\r\n\r\n"
+                             "a\\xff\\x0a.zr3\r\n\r\nPlease rename it and try again."),
+        RefusalOfName("a\xff\n.zr3"));
+    EXPECT_EQ(QFile::encodeName(QDir::currentPath()), CurrentFolderName());
+}
+
 TEST_F(CommandLine, AFileWithQuotesInItsNameIsFound)
 {
     put(path("R v \"X\".zr3"), "x");

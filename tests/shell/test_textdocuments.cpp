@@ -1,6 +1,9 @@
 // A claim's file read and written, and what a failure or an end at any step leaves of it.
 
+#include "shell/clsFolderLock.h"
+#include "shell/clsWriteLock.h"
 #include "shell/mdCodePage.h"
+#include "shell/mdSideFile.h"
 #include "shell/mdTextDocumentHandling.h"
 #include "tests/shell/clsTextDocumentsTest.h"
 
@@ -11,7 +14,10 @@
 #include <thread>
 #include <vector>
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -265,7 +271,7 @@ TEST_F(TextDocuments, AWholeDocumentTakesThePlaceOfAnOlderSideFile)
 TEST_F(TextDocuments, AWriteWaitsForAnotherProgramsWrite)
 {
     startWith(old);
-    auto other = std::make_unique<clsFileLock>(path("another.zr3"), clsFileLock::Writes);
+    auto other = std::make_unique<clsWriteLock>(path("another.zr3"));
     std::thread release([&] {
         std::this_thread::sleep_for(std::chrono::milliseconds(50));
         EXPECT_EQ(old, bytesOf(claim));
@@ -275,19 +281,186 @@ TEST_F(TextDocuments, AWriteWaitsForAnotherProgramsWrite)
     release.join();
     EXPECT_EQ(QByteArray("the new claim"), bytesOf(claim));
     EXPECT_TRUE(user.messages.empty());
+    EXPECT_EQ(QStringList {QStringLiteral("claim.zr3")}, names());
 }
 
-TEST_F(TextDocuments, ManyMayReadAtOnce)
+TEST_F(TextDocuments, AWriteThatTakesTheTurnFromAnotherProgramSaysSo)
 {
     startWith(old);
-    const clsFileLock other(claim, clsFileLock::Reads);
+    const clsWriteLock other(claim);
+    EXPECT_FALSE(other.isDoubtful());
+    EXPECT_FALSE(other.isLost());
+    WriteTextDocument(next, claim, false);
+    EXPECT_TRUE(other.isLost());
+    EXPECT_EQ(QByteArray("the new claim"), bytesOf(claim));
+    ASSERT_EQ(1u, user.messages.size());
+    EXPECT_EQ(QStringLiteral("File Saved"), user.messages[0].title);
+    EXPECT_EQ(
+        QStringLiteral("This file was saved, but another program may have been writing to it at the same time:\r\n\r\n")
+            + claim + QStringLiteral("\r\n\r\nPlease check that no one else has it open."),
+        user.messages[0].text);
+    EXPECT_EQ(int(clsUserInterface::Information), user.messages[0].icon);
+}
+
+TEST_F(TextDocuments, AProgramThatHasLostItsTurnWritesAnew)
+{
+    // The step before which another program takes the turn away; it ends by the time that this one goes on.
+    for (const clsFileStep before : {clsFileStep::Truncate, clsFileStep::SyncFile, clsFileStep::Delete}) {
+        startWith(old);
+        bool come = false;
+        FileSystem().faultPoint = [&](clsFileStep step, const QString &at) {
+            if (step == before && at == (before == clsFileStep::Delete ? side : claim) && !come) {
+                come = true;
+                QFile::remove(side);
+                EXPECT_TRUE(QFile::remove(path(".velmor-zr3.lock")));
+                put(claim, QByteArrayLiteral("a mixture of both, and longer than either of them"));
+            }
+            return clsFileFault();
+        };
+        WriteTextDocument(next, claim, false);
+        FileSystem().faultPoint = nullptr;
+        EXPECT_TRUE(come);
+        EXPECT_EQ(QByteArray("the new claim"), bytesOf(claim));
+        EXPECT_EQ(QStringList {QStringLiteral("claim.zr3")}, names());
+        EXPECT_TRUE(user.messages.empty());
+    }
+}
+
+TEST_F(TextDocuments, ALockOnTheFolderItselfStopsNeitherReadersNorWriters)
+{
+    startWith(old);
+    const int reader = ::open(QFile::encodeName(folder.path()).constData(), O_RDONLY | O_DIRECTORY);
+    ASSERT_EQ(0, ::flock(reader, LOCK_EX | LOCK_NB));
+    const auto began = std::chrono::steady_clock::now();
     EXPECT_EQ(QString::fromLatin1(old), ReadTextDocument(claim, false));
+    WriteTextDocument(next, claim, false);
+    EXPECT_LT(std::chrono::steady_clock::now() - began, std::chrono::seconds(4));
+    ::close(reader);
+    EXPECT_EQ(QByteArray("the new claim"), bytesOf(claim));
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(TextDocuments, OnlyWhoMayWriteInTheFolderCanOpenTheLockFile)
+{
+    for (const auto &[of, mode] : {std::pair(0700, 0600), std::pair(0755, 0600), std::pair(0775, 0660),
+             std::pair(0757, 0606), std::pair(0777, 0666)}) {
+        ASSERT_EQ(0, ::chmod(QFile::encodeName(folder.path()).constData(), mode_t(of)));
+        const clsWriteLock lock(claim);
+        struct stat status = {};
+        ASSERT_EQ(0, ::stat(QFile::encodeName(path(".velmor-zr3.lock")).constData(), &status));
+        EXPECT_EQ(mode_t(mode), status.st_mode & 07777) << std::oct << of;
+    }
+    EXPECT_EQ(QStringList(), names());
+}
+
+TEST_F(TextDocuments, ALockFileThatWasLeftBehindStopsNoSaveAndGoes)
+{
+    startWith(old);
+    put(path(".velmor-zr3.lock"), QByteArray());
+    WriteTextDocument(next, claim, false);
+    EXPECT_EQ(QByteArray("the new claim"), bytesOf(claim));
+    EXPECT_EQ(QStringList {QStringLiteral("claim.zr3")}, names());
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(TextDocuments, ManyMayReadWhileOneHasItsTurn)
+{
+    startWith(QByteArrayLiteral("<a>old</a>"));
+    const clsWriteLock other(claim);
+    EXPECT_EQ(QStringLiteral("<a>old</a>"), ReadTextDocument(claim, false));
+}
+
+TEST_F(TextDocuments, AReaderLooksAgainWhileAClaimIsBeingWritten)
+{
+    const QByteArray whole = QByteArrayLiteral("<a><b>new</b></a>");
+    for (const char *torn : {"", "<a", "<a>", "<a><b>new</b>", "<a><b>new</b></a"})
+        for (const bool first : {false, true}) {
+            SCOPED_TRACE(torn);
+            startWith(torn);
+            // The first write of a claim has no side file.
+            std::unique_ptr<clsWriteLock> other;
+            if (first)
+                other = std::make_unique<clsWriteLock>(claim);
+            else
+                put(side, QByteArrayLiteral("<a>old</a>"));
+            std::thread writer([&] {
+                std::this_thread::sleep_for(std::chrono::milliseconds(50));
+                put(claim, whole);
+                QFile::remove(side);
+                other.reset();
+            });
+            EXPECT_EQ(QString::fromLatin1(whole), ReadTextDocument(claim, false));
+            writer.join();
+        }
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(TextDocuments, ATornClaimIsReadAsItStandsAfterAWhile)
+{
+    startWith(QByteArrayLiteral("<a><b>ne"));
+    put(side, QByteArrayLiteral("<a>old</a>"));
+    EXPECT_EQ(QStringLiteral("<a><b>ne"), ReadTextDocument(claim, false));
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(TextDocuments, AFileThatChangesWhileItIsReadIsReadAgain)
+{
+    const QByteArray before = QByteArrayLiteral("<a>1</a><!--") + QByteArray(1000, 'x') + "--></a>";
+    const QByteArray after = QByteArray(before).replace('1', '2').replace('x', 'y');
+    // Between two parts of the first look, and between that and the second.
+    for (const int change : {2, 5}) {
+        startWith(before);
+        int reads = 0;
+        FileSystem().faultPoint = [&](clsFileStep step, const QString &) {
+            clsFileFault fault;
+            if (step == clsFileStep::Read) {
+                fault.atMost = 300;
+                if (++reads == change)
+                    put(claim, after);
+            }
+            return fault;
+        };
+        EXPECT_EQ(QString::fromLatin1(after), ReadTextDocument(claim, false));
+    }
+}
+
+TEST_F(TextDocuments, ANameWithNoRoomForOneLetterMoreIsGuardedToo)
+{
+    const QString stem = QString(120, QChar(0xE9)); // two bytes each
+    const QString one = folder.filePath(stem + QStringLiteral("12345678901.zr3"));
+    const QString another = folder.filePath(stem + QStringLiteral("12345678902.zr3"));
+    ASSERT_EQ(255, QFile::encodeName(QFileInfo(one).fileName()).size());
+    EXPECT_NE(mdSideFile(one), mdSideFile(another));
+    for (const QString &text : {QStringLiteral("<a>old</a>"), QStringLiteral("<a>new</a>")}) {
+        WriteTextDocument(text, one, false);
+        EXPECT_TRUE(user.messages.empty());
+        EXPECT_EQ(text, ReadTextDocument(one, false));
+        EXPECT_EQ(QStringList {QFileInfo(one).fileName()}, names());
+    }
+    QByteArray during;
+    FileSystem().faultPoint = [&](clsFileStep step, const QString &) {
+        if (step != clsFileStep::Truncate)
+            return clsFileFault();
+        during = bytesOf(mdSideFile(one));
+        return clsFileFault {ENOSPC};
+    };
+    WriteTextDocument(QStringLiteral("<a>newest</a>"), one, false);
+    expectOneBox("File Not Saved", writeBox(one, "61 - Disk full"));
+    EXPECT_EQ(QByteArray("<a>new</a>"), during);
+}
+
+TEST_F(TextDocuments, ANameThatIsTooLongItselfIsABadFileName)
+{
+    const QString longer = folder.filePath(QString(252, u'x') + QStringLiteral(".zr3"));
+    WriteTextDocument(next, longer, false);
+    expectOneBox("File Not Saved", writeBox(longer, "52 - Bad file name or number"));
+    EXPECT_EQ(QStringList(), names());
 }
 
 TEST_F(TextDocuments, ALockTellsThatItsFolderIsGone)
 {
     make(QStringLiteral("other"));
-    const clsFileLock lock(path("other/claim.zr3"), clsFileLock::Writes);
+    const clsFolderLock lock(path("other"));
     EXPECT_TRUE(lock.isOfWhatIsThere());
     ASSERT_TRUE(QDir(folder.path()).rmdir(QStringLiteral("other")));
     EXPECT_FALSE(lock.isOfWhatIsThere());
@@ -349,12 +522,12 @@ TEST_F(TextDocuments, ShortReadsAreCarriedOn)
     EXPECT_EQ(QString::fromLatin1(old), ReadTextDocument(claim, false));
 }
 
-TEST_F(TextDocuments, AFileThatShrinksWhileItIsReadIsInputPastEnd)
+TEST_F(TextDocuments, AFileThatShrinksEachTimeItIsReadIsInputPastEnd)
 {
-    startWith(old);
+    startWith(QByteArray(100'000, 'x'));
     FileSystem().faultPoint = [&](clsFileStep step, const QString &) {
         if (step == clsFileStep::Read)
-            QFile::resize(claim, 4);
+            QFile::resize(claim, QFileInfo(claim).size() - 1);
         return clsFileFault();
     };
     EXPECT_EQ(QString(), ReadTextDocument(claim, false));

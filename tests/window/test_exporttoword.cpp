@@ -4,6 +4,8 @@
 #include "shell/clsLongWork.h"
 #include "shell/clsQuietUserInterface.h"
 #include "shell/clsRunTimeError.h"
+#include "shell/mdFileHandling.h"
+#include "shell/mdGetVersionInfo.h"
 #include "tests/window/clsWindowTest.h"
 #include "wordexport/clsMSWord.h"
 #include "wordexport/frmExportToWord.h"
@@ -241,6 +243,57 @@ TEST_F(ExportToWord, CancelAtOverwriteLeavesTheOldFile)
     user.answers = {clsUserInterface::OK};
     press("cmdExport");
     EXPECT_NE("old", bytesOf("out/Claim1.doc"));
+}
+
+TEST_F(ExportToWord, ADocumentThatComesWhileItRunsIsNotReplacedUnasked)
+{
+    struct clsOtherExport final : clsQuietUserInterface {
+        void showProgress(int, int, const QString &) override
+        {
+            QFile file(document);
+            EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+            file.write("theirs");
+        }
+        Answer customMessage(const QString &message, const QString &, Buttons, int, int) override
+        {
+            told << message;
+            return OK;
+        }
+        QString document;
+        QStringList told;
+    } other;
+    includeOnlyPage1();
+    open(path("out"));
+    other.document = path("out/Claim1.doc");
+    const clsUserInterfaceScope scope(other);
+    press("cmdExport");
+    EXPECT_EQ(QStringList {QStringLiteral("Another program has just made this document in the folder. It was not "
+                                          "replaced. To replace it, export again.")},
+        other.told);
+    EXPECT_EQ("theirs", bytesOf("out/Claim1.doc"));
+    EXPECT_TRUE(dialog->isEnabled());
+}
+
+TEST_F(ExportToWord, TheDocumentHasTheRightsOfTheClaimsFile)
+{
+    includeOnlyPage1();
+    open(path("out"));
+    const auto owner = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+    // Never saved; saved; saved under a name that the claim itself can't hold.
+    const QString foreign = folder.filePath(QStringLiteral("\u6cd5.zr3"));
+    for (const QString &claim : {QString(), path("claim.zr3"), foreign}) {
+        if (!claim.isEmpty()) {
+            Form->Version = GetVersionInfo();
+            Form->SaveXML(claim);
+            ASSERT_TRUE(QFile::setPermissions(claim, owner | QFile::ReadGroup));
+            OpenFormFile(claim);
+            Form->ExportPath = path("out");
+        }
+        press("cmdExport");
+        EXPECT_EQ(claim.isEmpty() ? owner : owner | QFile::ReadGroup, QFile::permissions(path("out/Claim1.doc")))
+            << claim.toStdString();
+        ASSERT_TRUE(QFile::remove(path("out/Claim1.doc")));
+    }
 }
 
 TEST_F(ExportToWord, LeftoversOfACrashAreSweptAway)

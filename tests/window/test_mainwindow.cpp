@@ -388,6 +388,8 @@ TEST_F(MainWindow, WhatIsNoClaimIsNotTakenFromADrag)
     start();
     drop({QUrl::fromLocalFile(path("claims/letter.doc"))});
     drop({QUrl(QStringLiteral("https://www.velmor.example/claim.zr3"))});
+    // Its name is no text: as one it would be that of another file.
+    drop({QUrl(QStringLiteral("file:///%FF.zr3"))});
     drop({QUrl::fromLocalFile(path("a.zr3")), QUrl::fromLocalFile(path("b.zr3"))});
     EXPECT_EQ(QStringLiteral("New ZR3 File"), header());
     EXPECT_TRUE(user.messages.empty());

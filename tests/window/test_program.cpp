@@ -63,6 +63,32 @@ TEST_F(Program, TheWholeCommandLineIsOnePath)
         }));
 }
 
+TEST_F(Program, AClaimWhoseNameIsNoTextIsRefused)
+{
+    // As a text it would be the name of another file.
+    ASSERT_TRUE(QFile::copy(mdSamplePath(QStringLiteral("empty.zr3")), path("claims/\xef\xbf\xbd.zr3")));
+    for (const QByteArray &name : {QFile::encodeName(path("claims/")) + "\xff.zr3",
+             "file://" + QFile::encodeName(path("claims/")).toPercentEncoding("/") + "%FF.zr3"}) {
+        bool told = false;
+        EXPECT_EQ(0, run({name}, [&] {
+            QWidget *box = QApplication::activeModalWidget();
+            if (box && box->windowTitle() == QStringLiteral("File Name")) {
+                told = true;
+                box->close();
+            } else if (told && !header().isEmpty()) {
+                EXPECT_EQ(QStringLiteral("New ZR3 File"), header());
+                oApplication::instance()->end(0);
+                return true;
+            }
+            return false;
+        }));
+        EXPECT_TRUE(told) << name.constData();
+    }
+    struct sigaction action = {};
+    ASSERT_EQ(0, ::sigaction(SIGXFSZ, nullptr, &action));
+    EXPECT_EQ(SIG_IGN, action.sa_handler) << "a limit on the size of files is met as a full disk";
+}
+
 TEST_F(Program, NothingOnTheCommandLineIsASwitch)
 {
     bool told = false;

@@ -12,9 +12,12 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <cstdio>
+#include <tuple>
 
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace {
@@ -31,6 +34,27 @@ protected:
         QFile file(path(name));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         ASSERT_EQ(file.write(bytes), bytes.size());
+    }
+
+    mode_t modeOf(const QString &name) const
+    {
+        struct stat status = {};
+        return stat(QFile::encodeName(path(name)).constData(), &status) == 0 ? status.st_mode & 07777 : 0;
+    }
+    void setMode(const QString &name, mode_t mode) const
+    {
+        ASSERT_EQ(chmod(QFile::encodeName(path(name)).constData(), mode), 0);
+    }
+    /// Puts a document in place, for a claim of that mode; for one that was never saved where it is 0.
+    void putInPlace(mode_t claim) const
+    {
+        put(QStringLiteral("written"), "new");
+        put(QStringLiteral("claim.zr3"), "claim");
+        setMode(QStringLiteral("claim.zr3"), claim);
+        mdPutDocumentInPlace(path(QStringLiteral("written")), path(QStringLiteral("a.doc")),
+            claim ? path(QStringLiteral("claim.zr3")) : QString(), 100);
+        EXPECT_EQ(names(), (QStringList {QStringLiteral("a.doc"), QStringLiteral("claim.zr3")}));
+        EXPECT_EQ(mdReadDocumentFile(path(QStringLiteral("a.doc")), 100), QByteArray("new"));
     }
 
     QTemporaryDir folder;
@@ -157,6 +181,130 @@ TEST_F(mdDocumentFile, KeepsThePermissionsOfTheFileThatItReplaces)
     struct stat status;
     ASSERT_EQ(stat(name.constData(), &status), 0);
     EXPECT_EQ(status.st_mode & 07777, 0640u);
+}
+
+TEST_F(mdDocumentFile, ANewFileIsItsOwnersAlone)
+{
+    for (const auto write : {mdWriteDocumentFile, mdWriteWorkingFile}) {
+        write(path(QStringLiteral("a.doc")), "new");
+        EXPECT_EQ(modeOf(QStringLiteral("a.doc")), 0600u);
+        ASSERT_TRUE(QFile::remove(path(QStringLiteral("a.doc"))));
+    }
+}
+
+TEST_F(mdDocumentFile, AFinishedDocumentHasTheRightsOfItsClaim)
+{
+    // One that is write-protected doesn't make a document that can't be replaced, and none can be run.
+    for (const auto &[claim, document] : {std::pair(0600, 0600), std::pair(0640, 0640), std::pair(0664, 0664),
+             std::pair(0644, 0644), std::pair(0444, 0644), std::pair(0755, 0644), std::pair(0, 0600)}) {
+        putInPlace(mode_t(claim));
+        EXPECT_EQ(modeOf(QStringLiteral("a.doc")), mode_t(document)) << std::oct << claim;
+        ASSERT_TRUE(QFile::remove(path(QStringLiteral("a.doc"))));
+    }
+}
+
+TEST_F(mdDocumentFile, AFinishedDocumentIsOpenToNoMoreUsersThanTheOneThatItReplaces)
+{
+    for (const auto &[older, claim, document] : {std::tuple(0644, 0600, 0600), std::tuple(0600, 0644, 0600),
+             std::tuple(0640, 0644, 0640), std::tuple(0666, 0, 0600)}) {
+        put(QStringLiteral("a.doc"), "old");
+        setMode(QStringLiteral("a.doc"), mode_t(older));
+        putInPlace(mode_t(claim));
+        EXPECT_EQ(modeOf(QStringLiteral("a.doc")), mode_t(document)) << std::oct << older;
+    }
+}
+
+TEST_F(mdDocumentFile, AClaimThatIsGoneLeavesTheDocumentToItsOwner)
+{
+    put(QStringLiteral("written"), "new");
+    setMode(QStringLiteral("written"), 0644);
+    mdPutDocumentInPlace(
+        path(QStringLiteral("written")), path(QStringLiteral("a.doc")), path(QStringLiteral("none.zr3")), 100);
+    EXPECT_EQ(modeOf(QStringLiteral("a.doc")), 0600u);
+}
+
+TEST_F(mdDocumentFile, AnotherGroupGetsNoRightsByTheDocument)
+{
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only the administrator can give a file to another group";
+    constexpr gid_t Firm = 4242;
+    put(QStringLiteral("written"), "new");
+    put(QStringLiteral("claim.zr3"), "claim");
+    const QByteArray claim = QFile::encodeName(path(QStringLiteral("claim.zr3")));
+    ASSERT_EQ(chown(claim.constData(), uid_t(-1), Firm), 0);
+    ASSERT_EQ(chmod(claim.constData(), 0640), 0);
+    const auto inPlace = [&] {
+        mdPutDocumentInPlace(
+            path(QStringLiteral("written")), path(QStringLiteral("a.doc")), path(QStringLiteral("claim.zr3")), 100);
+        return 0;
+    };
+    inPlace();
+    struct stat status = {};
+    ASSERT_EQ(stat(QFile::encodeName(path(QStringLiteral("a.doc"))).constData(), &status), 0);
+    EXPECT_EQ(status.st_gid, Firm);
+    EXPECT_EQ(status.st_mode & 07777, 0640u);
+    // A user who is not in that group can't give it the document, and must not give it to their own.
+    ASSERT_TRUE(QFile::remove(path(QStringLiteral("a.doc"))));
+    setMode(QString(), 0777);
+    ASSERT_EQ(chmod(claim.constData(), 0664), 0);
+    EXPECT_EQ(resultAsOrdinaryUser([&] {
+        mdWriteWorkingFile(path(QStringLiteral("written")), "new");
+        return inPlace();
+    }),
+        0);
+    ASSERT_EQ(stat(QFile::encodeName(path(QStringLiteral("a.doc"))).constData(), &status), 0);
+    EXPECT_NE(status.st_gid, Firm);
+    EXPECT_EQ(status.st_mode & 07777, 0644u);
+}
+
+TEST_F(mdDocumentFile, AnAccessListOfTheClaimOpensNothingToItsGroup)
+{
+    // For the owner and one more user; the mode shows the list's mask as the group's rights.
+    struct clsEntry {
+        quint16 tag, rights;
+        quint32 user;
+    };
+    constexpr quint32 NoUser = 0xFFFFFFFF;
+    const struct {
+        quint32 version = 2;
+        clsEntry entries[5]
+            = {{0x01, 6, NoUser}, {0x02, 6, OrdinaryUser}, {0x04, 0, NoUser}, {0x10, 6, NoUser}, {0x20, 0, NoUser}};
+    } list;
+    put(QStringLiteral("written"), "new");
+    put(QStringLiteral("claim.zr3"), "claim");
+    if (setxattr(QFile::encodeName(path(QStringLiteral("claim.zr3"))).constData(), "system.posix_acl_access", &list,
+            sizeof list, 0)
+        != 0)
+        GTEST_SKIP() << "this file system has no access lists";
+    ASSERT_EQ(modeOf(QStringLiteral("claim.zr3")), 0660u);
+    mdPutDocumentInPlace(
+        path(QStringLiteral("written")), path(QStringLiteral("a.doc")), path(QStringLiteral("claim.zr3")), 100);
+    EXPECT_EQ(modeOf(QStringLiteral("a.doc")), 0600u);
+}
+
+TEST_F(mdDocumentFile, AFileOfTheLongestNameCanBeReplaced)
+{
+    const QString name = QString(125, QChar(0xE9)) + QStringLiteral("x.doc"); // two bytes each
+    ASSERT_EQ(QFile::encodeName(name).size(), 255);
+    for (const char *bytes : {"old", "new"})
+        mdWriteDocumentFile(path(name), bytes);
+    EXPECT_EQ(names(), QStringList {name});
+    EXPECT_EQ(mdReadDocumentFile(path(name), 100), QByteArray("new"));
+}
+
+TEST_F(mdDocumentFile, ALinkMayLeadThroughAFolderWhoseNameIsNoText)
+{
+    const QByteArray odd = QFile::encodeName(folder.path()) + "/\xff";
+    ASSERT_EQ(mkdir(odd.constData(), 0700), 0);
+    put(QStringLiteral("real.doc"), "old");
+    ASSERT_EQ(
+        rename(QFile::encodeName(path(QStringLiteral("real.doc"))).constData(), (odd + "/real.doc").constData()), 0);
+    ASSERT_EQ(symlink("\xff/real.doc", QFile::encodeName(path(QStringLiteral("a.doc"))).constData()), 0);
+    mdWriteDocumentFile(path(QStringLiteral("a.doc")), "new");
+    EXPECT_EQ(mdReadDocumentFile(path(QStringLiteral("a.doc")), 100), QByteArray("new"));
+    EXPECT_TRUE(QFileInfo(path(QStringLiteral("a.doc"))).isSymLink());
+    unlink((odd + "/real.doc").constData());
+    rmdir(odd.constData());
 }
 
 TEST_F(mdDocumentFile, AWriteProtectedFileIsNotReplaced)

@@ -2,6 +2,8 @@
 
 #include "tests/zr3tool/clsToolTest.h"
 
+#include <tuple>
+
 namespace {
 
 const QByteArray NoClaim
@@ -162,4 +164,60 @@ TEST_F(BadInput, ANumberBeyondItsRangeEndsALoadThatReadsIt)
         "<vzrform><fasitems><fasitem><orderid>99999999999</orderid></fasitem></fasitems>"
         "</vzrform>");
     expectRefused(file, "Run-time error '6': Overflow\n");
+}
+
+TEST_F(BadInput, ANameThatIsNotUtf8IsRefused)
+{
+    const QString claim = putClaim(clsZR3Form());
+    ASSERT_TRUE(QDir(folder.path()).mkpath("out"_q));
+    const auto message = [](const char *name) {
+        return QByteArray("File Name: The name of this file or folder has characters that the program can't read:\n\n")
+            + name + "\n\nPlease rename it and try again.\n";
+    };
+    // The shell makes the name, which no text can hold.
+    const auto runAs = [&](const char *words) {
+        return runProgram("sh"_q,
+            {"-c"_q, "odd=$(printf '\\377'); exec \"$0\" "_q + QString::fromLatin1(words), QStringLiteral(ZR3_TOOL),
+                claim});
+    };
+    const std::tuple<const char *, const char *, int> rows[] = {
+        {"save \"$1\" \"$odd.zr3\"", "\\xff.zr3", 4},
+        {"save \"$odd.zr3\" new.zr3", "\\xff.zr3", 2},
+        {"totals \"$odd.zr3\"", "\\xff.zr3", 2},
+        {"check \"$odd.zr3\"", "\\xff.zr3", 2},
+        {"export \"$odd.zr3\" out", "\\xff.zr3", 2},
+        {"export \"$1\" \"$odd\"", "\\xff", 4},
+        {"export \"$1\" out --templates \"$odd\"", "\\xff", 4},
+        {"export \"$1\" out --templates=\"$odd\"", "--templates=\\xff", 4},
+    };
+    for (const auto &[words, name, status] : rows) {
+        const clsToolResult result = runAs(words);
+        EXPECT_EQ(status, result.status) << words;
+        EXPECT_EQ("", result.out);
+        EXPECT_EQ(message(name), result.err);
+    }
+    EXPECT_EQ(QStringList({"claim.zr3"_q, "out"_q}), filesOf(folder.path()));
+    EXPECT_EQ(QStringList(), filesOf(path("out")));
+}
+
+TEST_F(BadInput, ACurrentFolderWhoseNameIsNotUtf8TakesNoFileByARelativeName)
+{
+    const QString claim = putClaim(clsZR3Form());
+    const auto runThere = [&](const char *words) {
+        return runProgram("sh"_q,
+            {"-c"_q,
+                "odd=$(printf '\\377'); mkdir -p \"$odd\" && cd \"$odd\" && exec \"$0\" "_q
+                    + QString::fromLatin1(words),
+                QStringLiteral(ZR3_TOOL), claim});
+    };
+    // The folder that the text of the name would be.
+    ASSERT_TRUE(QDir(folder.path()).mkpath(QString(QChar::ReplacementCharacter)));
+    const clsToolResult refused = runThere("save \"$1\" new.zr3");
+    EXPECT_EQ(4, refused.status);
+    EXPECT_TRUE(refused.err.startsWith("File Name: ")) << refused.err.constData();
+    EXPECT_TRUE(refused.err.contains("\\xff")) << refused.err.constData();
+    EXPECT_EQ(QStringList(), filesOf(path("\xef\xbf\xbd")));
+    EXPECT_EQ(0, runThere(("save \"$1\" '" + path("new.zr3").toUtf8() + "'").constData()).status);
+    EXPECT_EQ(0, runThere("check ../claim.zr3").status);
+    EXPECT_EQ(0, rmdir((QFile::encodeName(folder.path()) + "/\xff").constData()));
 }

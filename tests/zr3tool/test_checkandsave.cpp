@@ -222,3 +222,15 @@ TEST_F(ToolSave, NamesOutsideTheCodePageAreThoseThatAreWritten)
         EXPECT_TRUE(QFile::remove(file));
     }
 }
+
+TEST_F(ToolSave, ANameOfTheMostBytesIsSavedTwice)
+{
+    const QString name = QString(251, u'x') + ".zr3"_q;
+    for (int i = 0; i < 2; ++i) {
+        const clsToolResult result = run({"save"_q, mdSamplePath("empty.zr3"_q), name});
+        EXPECT_EQ(0, result.status);
+        EXPECT_EQ("", result.err);
+        EXPECT_EQ(QStringList {name}, filesOf(folder.path()));
+    }
+    EXPECT_EQ(0, run({"totals"_q, name}).status);
+}

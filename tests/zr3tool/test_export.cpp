@@ -407,3 +407,16 @@ TEST_F(ToolExport, TheSheetsAreTheirOwnersAlone)
         EXPECT_EQ(mode_t(S_IRWXU), status.st_mode & 07777);
     }
 }
+
+TEST_F(ToolExport, TheDocumentHasTheRightsOfTheClaim)
+{
+    const QString claim = smallClaim();
+    for (const mode_t mode : {0600, 0640, 0644}) {
+        ASSERT_EQ(0, chmod(QFile::encodeName(claim).constData(), mode));
+        ASSERT_EQ(0, run({"export"_q, claim, out()}).status);
+        struct stat status = {};
+        ASSERT_EQ(0, stat(QFile::encodeName(path("out/Claim1.doc")).constData(), &status));
+        EXPECT_EQ(mode, status.st_mode & 07777) << std::oct << mode;
+        ASSERT_TRUE(QFile::remove(path("out/Claim1.doc")));
+    }
+}

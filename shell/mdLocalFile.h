@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QFile>
+#include <QUrl>
+
+/// The path of a file's address; empty where it is no file's, and where the file's name is not UTF-8, since the text
+/// would name another file.
+inline QString mdLocalFile(const QUrl &address)
+{
+    const QString path = address.toLocalFile();
+    const QByteArray named = QByteArray::fromPercentEncoding(address.path(QUrl::FullyEncoded).toLatin1());
+    return QFile::encodeName(path).endsWith(named) ? path : QString();
+}

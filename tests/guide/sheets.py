@@ -1,5 +1,6 @@
 """Claims that are made for what one page prints, and what stands on their sheets."""
 
+import json
 import re
 import subprocess
 import tempfile
@@ -54,12 +55,21 @@ class Claim:
         counsel = self.root.find("counsel")[0].find("uniqueid").text
         return self.add("disbursements", count, counsel="True", counseluniqueid=counsel)
 
-    def export(self, tool, *options):
-        """A folder with the finished document, for as long as it is held."""
+    def written(self):
+        """A folder with the claim's file, for as long as it is held."""
         folder = tempfile.TemporaryDirectory()
-        claim = Path(folder.name) / "claim.zr3"
-        claim.write_bytes(ElementTree.tostring(self.root, encoding="us-ascii"))
-        subprocess.run([tool, "export", "--quiet", *options, claim, folder.name], check=True)
+        (Path(folder.name) / "claim.zr3").write_bytes(ElementTree.tostring(self.root, encoding="us-ascii"))
+        return folder
+
+    def figures(self, tool):
+        with self.written() as folder:
+            return json.loads(subprocess.run([tool, "totals", Path(folder) / "claim.zr3"], check=True,
+                                             capture_output=True).stdout)
+
+    def export(self, tool, *options):
+        """A folder with the finished document."""
+        folder = self.written()
+        subprocess.run([tool, "export", "--quiet", *options, Path(folder.name) / "claim.zr3", folder.name], check=True)
         return folder
 
     def sheets(self, tool):

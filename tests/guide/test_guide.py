@@ -409,6 +409,11 @@ class Example(unittest.TestCase):
         self.assertEqual(figures["FASItemsTotal"], "226.475")
         self.assertIn("the item is 226.475, printed as 226.48", text)
         self.assertEqual(figures["AdvocacyTotal"], "226.48")
+        two = sheets.Claim(ROOT / "tests/samples/housing-typical.zr3", "Claim1A").add(
+            "fasitems", 2, hearingunits="2", rateforunits="90.59", boltonclaimed="25", courtbundlepayment="0.00",
+            settlementfee="0.00", exceptionaltravel="0.00", vatforfas="0.00")
+        self.assertEqual(two.figures(os.environ["ZR3_TOOL"])["FASItemsTotal"], "452.95")
+        self.assertIn("two of these, each printed as 226.48, are 452.95 together", text)
 
 
 class Sheets(unittest.TestCase):

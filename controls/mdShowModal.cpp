@@ -42,7 +42,7 @@ QWidget *mdWindowInFront()
         return modal;
     if (QWidget *active = QApplication::activeWindow())
         return active;
-    // Another program is in front. A box without a window of its own would come up as one more window beside ours.
+    // Another program is in front. A box without a parent would come up as one more window beside ours.
     for (QWidget *window : QApplication::topLevelWidgets())
         if (window->isVisible() && window->windowType() == Qt::Window)
             return window;

@@ -231,11 +231,12 @@ const clsFuzzWords &words()
             "w:abstractNumId", "w:lvl", "w:lvlOverride", "w:rFonts", "w:moveFrom", "w:moveTo", "w:commentReference",
             "w:footnoteReference", "wp:docPr", "w:gridBefore"},
         {"w:val", "w:id", "w:name", "r:id", "r:embed", "w:styleId", "w:type", "w:default", "w:numId", "w:abstractNumId",
-            "w:fldCharType", "w:char", "w:font", "xml:space", "w:ilvl", "id", "mc:Ignorable", "xmlns:x", "w:anchor"},
+            "w:fldCharType", "w:char", "w:font", "xml:space", "w:ilvl", "id", "mc:Ignorable", "xmlns:x", "w:anchor",
+            "xmlns:q", "q:id"},
         {"", "0", "1", "2", "3", "-1", "true", "false", "on", "{Name}", "{Mark}", "{", "}", "Name}", "page", "nextPage",
             "continuous", "even", "first", "default", "restart", "continue", "begin", "separate", "end", "rId1", "rId2",
             "rId3", "rId4", "rIdX1", "paragraph", "character", "table", "numbering", "Normal", "Strong", "a b", " ",
-            "preserve", "F0FE", "Wingdings", "2147483647", "x", "\n", "\t"},
+            "preserve", "F0FE", "Wingdings", "2147483647", "x", "\n", "\t", WordXml::RelationshipNamespace},
         mdFuzzInsertFitting,
     };
     return words;

@@ -161,7 +161,7 @@ bool frmExportToWord::exportForm()
         return true;
     clsExport run {*Form, TemplatesFolder()};
     run.exportFolder = txtExportPath->text();
-    run.claimFile = FormFilePath();
+    run.claimFile = Document().filePath();
     run.mayReplace = m_mayReplace;
     const bool finished = driver(run);
     if (run.stoppedAtDocument)

@@ -72,7 +72,8 @@ const clsScreen &ScreenFormSetup()
                 {Text,    "txtTypeOfCase",                    "Type of Case:", 40},
             }},
             {.name = "bgPages", .caption = "Pages", .rows = {
-                {.kind = Tick, .control = "chkIncludePage1",  .caption = "1:", .flags = StartsDisabled, .spoken = "Page 1"},
+                {.kind = Tick, .control = "chkIncludePage1",  .caption = "1:",  .flags = StartsDisabled,
+                 .spoken = "Page 1"},
                 {.kind = Tick, .control = "chkIncludePage2",  .caption = "2:",  .spoken = "Page 2"},
                 {.kind = Tick, .control = "chkIncludePage3",  .caption = "3:",  .spoken = "Page 3"},
                 {.kind = Tick, .control = "chkIncludePage4",  .caption = "4:",  .spoken = "Page 4"},

@@ -8,6 +8,7 @@
 
 #include <QAbstractButton>
 #include <QEvent>
+#include <QFontInfo>
 #include <QPainter>
 
 namespace {
@@ -119,8 +120,8 @@ void oFieldLabel::paintEvent(QPaintEvent *event)
     QFont underlined = font();
     underlined.setUnderline(true);
     // It has to fit the gap, clear of the colon.
-    const double room = Gap - 2;
-    underlined.setPointSizeF(font().pointSizeF() * qMin(1.0, room / fontMetrics().horizontalAdvance(m_digit)));
+    const double part = double(Gap - 2) / fontMetrics().horizontalAdvance(m_digit);
+    underlined.setPointSizeF(QFontInfo(font()).pointSizeF() * qMin(1.0, part));
     painter.setFont(underlined);
     painter.setPen(palette().color(foregroundRole()));
     painter.drawText(placeOfDigit(), Qt::AlignRight | Qt::AlignVCenter, m_digit);

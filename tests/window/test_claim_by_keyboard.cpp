@@ -38,7 +38,7 @@ constexpr clsScheduleItem ScheduleItems[] = {
     {3, "5/6",  "",    "",                 "50",  "L",  11}, // travel
     {2, "6/6",  "",    "",                 "35",  "W",  11}, // waiting
     {1, "9/6",  "HOT", "",                 "120", "VL", 17}, // advocacy and travel
-    {0, "9/6",  "ACL", "",                 "10",  "I",  14}, // include in enhancements
+    {0, "9/6",  "ACL", "",                 "10",  "M",  14}, // include in enhancements
     {2, "10/6", "RES", "Law of disrepair", "20",  "",   32},
     {3, "",     "OOT", "",                 "6",   "",   12},
 };
@@ -71,7 +71,7 @@ protected:
         enter(std::move(entries), place);
         alt('S', screenIs(screen), place);
     }
-    void next(const char *screen, Place place = Place::current()) { alt('E', screenIs(screen), place); }
+    void next(const char *screen, Place place = Place::current()) { alt('X', screenIs(screen), place); }
 
     void enterFormSetup();
     void enterFeeEarners();

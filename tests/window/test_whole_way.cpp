@@ -44,7 +44,7 @@ TEST_F(WholeWay, FromTheClaimToTheDocument)
     look([] { EXPECT_EQ(QStringLiteral("Zarquon"), textOf("txtTitle")); });
 
     // On to the next screen and back: both ways store.
-    key(Qt::Key_E, Qt::AltModifier, screenIs("frmSolicitorDetails"));
+    key(Qt::Key_X, Qt::AltModifier, screenIs("frmSolicitorDetails"));
     look([] { EXPECT_EQ(QStringLiteral("Zarquon"), Form->ClientDetails.Title()); });
     key(Qt::Key_P, Qt::AltModifier, screenIs("frmClientDetails"));
     look([] { EXPECT_EQ(QStringLiteral("Zarquon"), textOf("txtTitle")); });

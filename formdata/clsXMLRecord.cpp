@@ -41,15 +41,12 @@ const char *clsXMLField::content() const
 
 void clsXMLField::setContent(const char *content)
 {
-    const pugi::xml_node element = clsXMLReading::find(m_record->m_node, *m_property);
+    pugi::xml_node element = clsXMLReading::find(m_record->m_node, *m_property);
     if (!element)
         throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
     if (std::strcmp(element.child_value(), content) == 0)
         return;
-    if (*content)
-        element.text().set(content);
-    else
-        const_cast<pugi::xml_node &>(element).remove_children();
+    XMLSetContent(element, content);
     if (m_property->key && m_record->m_keysChanged)
         *m_record->m_keysChanged = true;
 }

@@ -53,7 +53,7 @@ clsZR3Form::clsZR3Form()
 
 bool clsZR3Form::LoadXML(const QString &filePath)
 {
-    const clsXMLElement root = XMLLoadElement(ReadTextDocument(filePath, true), RootElement);
+    const clsXMLElement root = XMLLoadElement(ReadTextDocumentAsUtf8(filePath, true), RootElement);
     if (!root) {
         mdCustomMessages(QStringLiteral("There was a problem opening the selected file. Please ensure that the file is "
                                         "a valid ZR3 file and try again"),

@@ -35,8 +35,10 @@ struct clsExport {
     /// page before it, as it stands.
     int ExportSheetCounter = 0;
 
-    /// The templates read so far, each found to be a document.
+    /// The templates read so far, each found to be a sound document.
     QHash<QString, QByteArray> templates {};
+    /// The file names of the templates that the sheets were made from, by the sheets' paths.
+    QHash<QString, QString> templateNames {};
 };
 
 /// Ends an export after the user has been told why; no document comes out.

@@ -92,9 +92,10 @@ clsWordDocument &clsMSWord::document() const
     return *m_document;
 }
 
-void clsMSWord::OpenDocument(const QString &path)
+void clsMSWord::OpenDocument(const QString &path, const QString &shownName)
 {
-    if (guarded("OpenDocument", [&] { m_document = std::make_unique<clsWordDocument>(path); })) {
+    const QString &name = shownName.isEmpty() ? path : shownName;
+    if (guarded("OpenDocument", [&] { m_document = std::make_unique<clsWordDocument>(path, name); })) {
         MSWordObserver().opened(path);
         return;
     }
@@ -242,9 +243,9 @@ void clsMSWord::DoReplace(const QString &find, const QString &replacement, bool 
         MSWordObserver().failed(find, replacement);
 }
 
-void clsMSWord::InsertFileAtEnd(const QString &path)
+void clsMSWord::InsertFileAtEnd(const QString &path, const QString &shownName)
 {
-    if (guarded("InsertFileAtEnd", [&] { document().append(path); })) {
+    if (guarded("InsertFileAtEnd", [&] { document().append(path, shownName.isEmpty() ? path : shownName); })) {
         MSWordObserver().inserted(path);
         return;
     }

@@ -29,8 +29,9 @@ public:
     /// The guarded operation that runs now or ran last, for the error message.
     QString CurrentSubroutine;
 
-    /// Loads the file for editing; the cursor is at its start.
-    void OpenDocument(const QString &path);
+    /// Loads the file for editing; the cursor is at its start. An error names the file by the shown name, where one is
+    /// given: a working copy by what it was copied from.
+    void OpenDocument(const QString &path, const QString &shownName = {});
     /// Writes the document back to the file it came from, and closes it.
     void SaveAndClose();
     /// Ends the application; what was not saved is lost.
@@ -58,7 +59,7 @@ public:
     /// text is then typed before the very first character of the document.
     void DoReplace(const QString &find, const QString &replacement, bool IsTick, bool IsMoney, bool BlankZero);
     /// Appends the whole of that document to the end of this one, as sections of its own.
-    void InsertFileAtEnd(const QString &path);
+    void InsertFileAtEnd(const QString &path, const QString &shownName = {});
     /// Deletes the character before the cursor.
     void TypeBackSpace();
 

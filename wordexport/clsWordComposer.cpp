@@ -73,18 +73,6 @@ xml_node lastBlock(const xml_node &body)
     return {};
 }
 
-// The prefix, colon included, that a tree writes relationship ids with.
-std::string relationshipPrefix(const xml_node &root)
-{
-    constexpr std::string_view Declaration = "xmlns:";
-    for (const pugi::xml_attribute &attribute : root.attributes()) {
-        const std::string_view name = attribute.name();
-        if (name.starts_with(Declaration) && std::strcmp(attribute.value(), WordXml::RelationshipNamespace) == 0)
-            return std::string(name.substr(Declaration.size())) + ':';
-    }
-    return "r:";
-}
-
 } // namespace
 
 clsWordComposer::clsWordComposer(clsWordPackage &target)
@@ -100,10 +88,10 @@ xml_node clsWordComposer::targetBody()
     return bodyOf(m_target);
 }
 
-void clsWordComposer::append(const QString &path)
+void clsWordComposer::append(const QString &path, const QString &shownName)
 {
     const clsStaging staging(m_target.partXml(m_target.mainPart()));
-    clsWordPackage source(clsZipPackage::fromFile(path), path, staging.place());
+    clsWordPackage source(clsZipPackage::fromFile(path, shownName), shownName, staging.place());
     append(source);
 }
 
@@ -149,8 +137,7 @@ void clsWordComposer::mapContent(clsWordPackage &source, xml_node body)
     xml_node sourceRoot = body.parent();
     xml_node targetRoot = targetBody().parent();
     mdMergeNamespaces(sourceRoot, targetRoot);
-    content.mapMain(body, relationshipPrefix(targetRoot),
-        [&parts](const std::string &id) { return parts.relationshipFor(id.c_str()); });
+    content.mapMain(body, targetRoot, [&parts](const std::string &id) { return parts.relationshipFor(id.c_str()); });
     if (content.hadNotes())
         throw mdDocumentError(QStringLiteral("The document %1 holds footnotes or endnotes, so that it can't be "
                                              "appended to another.")
@@ -176,8 +163,8 @@ void clsWordComposer::fillMissingHeaders(xml_node firstSection)
     for (const auto &[reference, type] : missing) {
         xml_node added = WordXml::addChild(firstSection, reference.c_str());
         added.append_attribute("w:type") = type.c_str();
-        added.append_attribute((relationshipPrefix(targetBody().parent()) + "id").c_str())
-            = emptyHeader(reference).c_str();
+        const std::string prefix = mdPrefixFor("r", WordXml::RelationshipNamespace, targetBody().parent());
+        added.append_attribute((prefix + ":id").c_str()) = emptyHeader(reference).c_str();
     }
 }
 

@@ -17,7 +17,7 @@ public:
     explicit clsWordComposer(clsWordPackage &target);
 
     /// Appends a document's file. One that can't be appended is an error, and the target's text is then as it was.
-    void append(const QString &path);
+    void append(const QString &path, const QString &shownName);
 
 private:
     /// Which header or footer: its element's name and its type.

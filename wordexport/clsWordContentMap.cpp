@@ -125,9 +125,10 @@ clsWordContentMap::clsWordContentMap(clsWordStyleImport &styles, Map lists, clsW
     , m_identities(identities)
 { }
 
-void clsWordContentMap::mapMain(xml_node root, const std::string &prefix, Map relationships)
+void clsWordContentMap::mapMain(xml_node root, const xml_node &targetRoot, Map relationships)
 {
-    m_prefix = prefix;
+    m_root = root;
+    m_targetRoot = targetRoot;
     m_relationships = std::move(relationships);
     map(root);
 }
@@ -168,11 +169,29 @@ void clsWordContentMap::mapAttributes(xml_node node)
         const char *name = attribute.name();
         if (isHistory(name))
             node.remove_attribute(attribute);
-        else if (m_relationships && std::strncmp(name, m_prefix.c_str(), m_prefix.size()) == 0
-            && *attribute.value() != '\0')
+        else if (m_relationships && isRelationshipId(node, attribute))
             attribute.set_value(m_relationships(attribute.value()).c_str());
         attribute = next;
     }
+}
+
+// Whatever its prefix is, and wherever it is declared.
+bool clsWordContentMap::isRelationshipId(const xml_node &node, const pugi::xml_attribute &attribute) const
+{
+    const std::string_view name = attribute.name();
+    const size_t colon = name.find(':');
+    // Nearly all attributes are of the format's own namespace.
+    if (colon == std::string_view::npos || name.starts_with("w:") || name.starts_with("xml") || !*attribute.value())
+        return false;
+    const std::string declaration = "xmlns:" + std::string(name.substr(0, colon));
+    pugi::xml_attribute declared;
+    for (xml_node scope = node; !declared && scope && scope != m_root; scope = scope.parent())
+        declared = scope.attribute(declaration.c_str());
+    if (!declared)
+        declared = m_root.attribute(declaration.c_str());
+    if (!declared)
+        declared = m_targetRoot.attribute(declaration.c_str());
+    return std::strcmp(declared.value(), WordXml::RelationshipNamespace) == 0;
 }
 
 void clsWordContentMap::mapElement(xml_node node)

@@ -19,8 +19,9 @@ public:
 
     clsWordContentMap(clsWordStyleImport &styles, Map lists, clsWordIdentities &identities);
 
-    /// The main part's tree, whose relationships get new ids; `prefix` is that of relationship ids in it.
-    void mapMain(pugi::xml_node root, const std::string &prefix, Map relationships);
+    /// The main part's tree, whose relationships get new ids; it is going below the target's root, whose prefixes it
+    /// has.
+    void mapMain(pugi::xml_node root, const pugi::xml_node &targetRoot, Map relationships);
     /// The tree of a header or footer, which brings its own relationships along.
     void mapOther(pugi::xml_node root);
 
@@ -31,6 +32,7 @@ private:
     void map(pugi::xml_node root);
     void mapNode(pugi::xml_node node);
     void mapAttributes(pugi::xml_node node);
+    bool isRelationshipId(const pugi::xml_node &node, const pugi::xml_attribute &attribute) const;
     void mapElement(pugi::xml_node node);
     void mapStyle(pugi::xml_node reference);
     void nameDefaultStyle(pugi::xml_node owner, const char *propertiesName, const char *styleName, const char *type);
@@ -42,7 +44,8 @@ private:
     clsWordStyleImport &m_styles;
     Map m_lists;
     clsWordIdentities &m_identities;
-    std::string m_prefix;
+    pugi::xml_node m_root;
+    pugi::xml_node m_targetRoot;
     Map m_relationships;
     bool m_hadNotes = false;
     std::unordered_map<std::string, std::string> m_bookmarkIds; // open bookmarks: old number, new number

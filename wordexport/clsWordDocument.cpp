@@ -54,9 +54,9 @@ void setFont(xml_node format, const char *font)
 
 } // namespace
 
-clsWordDocument::clsWordDocument(const QString &path)
+clsWordDocument::clsWordDocument(const QString &path, const QString &shownName)
     : m_path(path)
-    , m_package(clsWordPackage::fromFile(path))
+    , m_package(clsWordPackage::fromFile(path, shownName))
     , m_cursor(body())
 { }
 
@@ -285,13 +285,13 @@ void clsWordDocument::backSpace()
     changed();
 }
 
-void clsWordDocument::append(const QString &path)
+void clsWordDocument::append(const QString &path, const QString &shownName)
 {
     m_cursor.goToEnd();
     moved();
     if (!m_composer)
         m_composer = std::make_unique<clsWordComposer>(m_package);
-    m_composer->append(path);
+    m_composer->append(path, shownName);
     m_placeholders.clear();
     m_cursor.goToEnd();
 }

@@ -14,8 +14,9 @@ class clsWordComposer;
 /// One open document: its main story and the cursor in it, on which all editing is done.
 class clsWordDocument {
 public:
-    /// Opens a document's file. One that can't be worked with is a clsRunTimeError that says why.
-    explicit clsWordDocument(const QString &path);
+    /// Opens a document's file. One that can't be worked with is a clsRunTimeError that says why, and names the
+    /// document by the name that is shown.
+    clsWordDocument(const QString &path, const QString &shownName);
     ~clsWordDocument();
 
     /// Writes the document back to its file.
@@ -41,7 +42,7 @@ public:
     void backSpace();
 
     /// Appends another document's file as sections of its own; the cursor is then at the end.
-    void append(const QString &path);
+    void append(const QString &path, const QString &shownName);
 
 private:
     pugi::xml_node body();

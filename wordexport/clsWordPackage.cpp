@@ -76,9 +76,9 @@ QString resolve(const QString &source, const QString &target)
 
 } // namespace
 
-clsWordPackage clsWordPackage::fromFile(const QString &path)
+clsWordPackage clsWordPackage::fromFile(const QString &path, const QString &shownName)
 {
-    return clsWordPackage(clsZipPackage::fromFile(path), path);
+    return clsWordPackage(clsZipPackage::fromFile(path, shownName), shownName);
 }
 
 clsWordPackage::clsWordPackage(clsZipPackage zip, const QString &shownName)
@@ -93,7 +93,7 @@ clsWordPackage::clsWordPackage(clsZipPackage zip, const QString &shownName, cons
     const int types = m_zip.indexOf(QLatin1String(ContentTypesName));
     if (types < 0)
         throw mdDocumentError(QStringLiteral("The document %1 is not a Word document.").arg(shownName));
-    m_contentTypes = parse(m_zip.bytes(types));
+    m_contentTypes = parse(types);
     for (const pugi::xml_node &type : m_contentTypes->child("Types").children()) {
         const char *contentType = type.attribute("ContentType").value();
         if (WordXml::is(type, "Default"))
@@ -119,7 +119,7 @@ void clsWordPackage::findMainPart()
         throw mdDocumentError(QStringLiteral("The document %1 is not a Word document.").arg(m_shownName));
 
     if (m_mainPlace)
-        parseInto(m_mainPlace, m_zip.bytes(m_mainPart));
+        parseInto(m_mainPlace, m_mainPart);
     const pugi::xml_node root = mainRoot();
     if (QByteArrayView(root.attribute("xmlns:w").value()) == WordXml::StrictNamespace)
         throw mdDocumentError(strictMessage(m_shownName));
@@ -136,15 +136,16 @@ pugi::xml_node clsWordPackage::mainRoot()
     return m_mainPlace.find_child([](const pugi::xml_node &node) { return WordXml::isElement(node); });
 }
 
-std::unique_ptr<pugi::xml_document> clsWordPackage::parse(const QByteArray &bytes) const
+std::unique_ptr<pugi::xml_document> clsWordPackage::parse(int part) const
 {
     auto tree = std::make_unique<pugi::xml_document>();
-    parseInto(*tree, bytes);
+    parseInto(*tree, part);
     return tree;
 }
 
-void clsWordPackage::parseInto(pugi::xml_node place, const QByteArray &bytes) const
+void clsWordPackage::parseInto(pugi::xml_node place, int part) const
 {
+    const QByteArray &bytes = m_zip.bytes(part);
     const bool utf16 = bytes.startsWith("\xFE\xFF") || bytes.startsWith("\xFF\xFE") || bytes.left(2).contains('\0');
     // Within another tree there is no place for a part's declaration; it would be taken for damage.
     const unsigned flags
@@ -155,7 +156,7 @@ void clsWordPackage::parseInto(pugi::xml_node place, const QByteArray &bytes) co
     // A fragment without a root, or with two, is no document, though a tree takes it without a word.
     if (!sound || std::count_if(place.begin(), place.end(), WordXml::isElement) != 1) {
         WordXml::removeContent(place);
-        throw mdDocumentDamaged(m_shownName);
+        throw mdPartDamaged(m_shownName, partName(part));
     }
 }
 
@@ -163,7 +164,7 @@ pugi::xml_document &clsWordPackage::partXml(int part)
 {
     Parsed &parsed = m_parsed[part];
     if (!parsed.tree)
-        parsed.tree = parse(m_zip.bytes(part));
+        parsed.tree = parse(part);
     return *parsed.tree;
 }
 
@@ -324,7 +325,7 @@ clsWordPackage::Relations &clsWordPackage::relations(int part)
 
     Relations read;
     if (const int index = m_zip.indexOf(relationshipsName(part)); index >= 0) {
-        const auto tree = parse(m_zip.bytes(index));
+        const auto tree = parse(index);
         for (const pugi::xml_node &node : tree->document_element().children("Relationship")) {
             read.list.push_back({node.attribute("Id").value(), node.attribute("Type").value(),
                 node.attribute("Target").value(), std::strcmp(node.attribute("TargetMode").value(), "External") == 0});
@@ -350,11 +351,16 @@ const clsWordPackage::Relationship *clsWordPackage::relationship(int part, const
     return nullptr;
 }
 
-int clsWordPackage::targetOf(int part, const Relationship &relationship) const
+int clsWordPackage::findTarget(int part, const Relationship &relationship) const
 {
     const QString source = part == Package ? QString() : partName(part);
     const QString name = resolve(source, QString::fromStdString(relationship.target));
-    const int target = name.isEmpty() ? -1 : m_zip.indexOf(name);
+    return name.isEmpty() ? -1 : m_zip.indexOf(name);
+}
+
+int clsWordPackage::targetOf(int part, const Relationship &relationship) const
+{
+    const int target = findTarget(part, relationship);
     if (target < 0)
         throw mdDocumentDamaged(m_shownName);
     return target;

@@ -20,7 +20,11 @@ public:
         bool external = false;
     };
 
-    static clsWordPackage fromFile(const QString &path);
+    /// The package itself, where the source of relationships is asked for.
+    static constexpr int Package = -1;
+
+    static clsWordPackage fromFile(const QString &path) { return fromFile(path, path); }
+    static clsWordPackage fromFile(const QString &path, const QString &shownName);
     clsWordPackage(clsZipPackage zip, const QString &shownName);
     /// With the main part's tree below a node of another tree: what is in it can then be moved there instead of
     /// copied. That node must outlive the package's use.
@@ -60,7 +64,9 @@ public:
 
     const std::vector<Relationship> &relationships(int part);
     const Relationship *relationship(int part, const char *id);
-    /// The part that an internal relationship leads to; one that leads nowhere is an error.
+    /// The part that an internal relationship leads to, or -1.
+    int findTarget(int part, const Relationship &relationship) const;
+    /// The same, where one that leads nowhere is an error.
     int targetOf(int part, const Relationship &relationship) const;
     /// Adds a relationship and returns its new id.
     std::string addRelationship(int part, const std::string &type, int targetPart);
@@ -81,12 +87,10 @@ private:
         bool changed = false;
     };
 
-    static constexpr int Package = -1;
-
     QString relationshipsName(int part) const;
     Relations &relations(int part);
-    std::unique_ptr<pugi::xml_document> parse(const QByteArray &bytes) const;
-    void parseInto(pugi::xml_node place, const QByteArray &bytes) const;
+    std::unique_ptr<pugi::xml_document> parse(int part) const;
+    void parseInto(pugi::xml_node place, int part) const;
     void findMainPart();
     void writeMainPart();
     void writeRelationships();

@@ -148,9 +148,9 @@ QByteArray readBack(zip_source_t *source)
 
 } // namespace
 
-clsZipPackage clsZipPackage::fromFile(const QString &path)
+clsZipPackage clsZipPackage::fromFile(const QString &path, const QString &shownName)
 {
-    return fromBytes(mdReadDocumentFile(path, ZipLimits::PackageBytes), path);
+    return fromBytes(mdReadDocumentFile(path, ZipLimits::PackageBytes), shownName);
 }
 
 clsZipPackage clsZipPackage::fromBytes(const QByteArray &bytes, const QString &shownName)

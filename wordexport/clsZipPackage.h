@@ -22,7 +22,8 @@ public:
 
     /// Reads a package; `shownName` stands for it in error messages.
     static clsZipPackage fromBytes(const QByteArray &bytes, const QString &shownName);
-    static clsZipPackage fromFile(const QString &path);
+    static clsZipPackage fromFile(const QString &path) { return fromFile(path, path); }
+    static clsZipPackage fromFile(const QString &path, const QString &shownName);
 
     /// The whole package as bytes: the same entries give the same bytes, whatever the clock says.
     QByteArray toBytes(Packing packing) const;

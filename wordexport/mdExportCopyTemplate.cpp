@@ -4,32 +4,37 @@
 #include "shell/mdLog.h"
 #include "wordexport/clsExport.h"
 #include "wordexport/clsWordPackage.h"
+#include "wordexport/mdCheckDocument.h"
 #include "wordexport/mdDocumentFile.h"
 #include "wordexport/mdExportTempFolder.h"
+#include "wordexport/mdShippedTemplates.h"
 
 namespace {
 
-/// Reads a template's file; a failure says which one it was, since nobody else knows the name.
+/// Reads a template's file; a failure of the system says which file it was, since it doesn't know the name.
 QByteArray readTemplate(const QString &path)
 {
     try {
         return mdReadDocumentFile(path, ZipLimits::PackageBytes);
     } catch (const clsRunTimeError &error) {
+        if (error.number() == clsRunTimeError::InvalidFileFormat)
+            throw;
         throw clsRunTimeError(error.number(), QStringLiteral("%1: %2").arg(error.description(), path));
     }
 }
 
-/// The bytes of a template. Each is looked at once, for a damaged one would otherwise be found out only when sheets
-/// made from it lie about.
-const QByteArray &templateBytes(clsExport &run, const QString &templateName)
+/// The bytes of a template. Each is looked at once, and as a whole: what is wrong with it would otherwise show on a
+/// sheet that was made from it, or in the finished document. The build's own were looked at when they were made.
+const QByteArray &templateBytes(clsExport &run, const QString &fileName)
 {
-    auto known = run.templates.find(templateName);
+    auto known = run.templates.find(fileName);
     if (known == run.templates.end()) {
-        const QString path = QStringLiteral("%1/%2.doc").arg(run.templatesFolder, templateName);
-        const QByteArray bytes = readTemplate(path);
-        clsWordPackage package(clsZipPackage::fromBytes(bytes, templateName), templateName);
-        package.partXml(package.mainPart());
-        known = run.templates.insert(templateName, bytes);
+        const QByteArray bytes = readTemplate(run.templatesFolder + u'/' + fileName);
+        if (!mdIsShippedTemplate(bytes)) {
+            clsWordPackage package(clsZipPackage::fromBytes(bytes, fileName), fileName);
+            mdCheckDocument(package);
+        }
+        known = run.templates.insert(fileName, bytes);
     }
     return known.value();
 }
@@ -39,8 +44,10 @@ const QByteArray &templateBytes(clsExport &run, const QString &templateName)
 QString mdExportCopyTemplate(clsExport &run, const QString &templateName, const QString &sheetName)
 {
     WriteLog(QStringLiteral("Begin Export Copy Template"));
+    const QString fileName = templateName + QStringLiteral(".doc");
     const QString path = QStringLiteral("%1/%2.doc").arg(mdExportTempFolder(run.exportFolder), sheetName);
-    mdWriteWorkingFile(path, templateBytes(run, templateName));
+    mdWriteWorkingFile(path, templateBytes(run, fileName));
+    run.templateNames.insert(path, fileName);
     WriteLog(QStringLiteral("End Export Copy Template"));
     return path;
 }

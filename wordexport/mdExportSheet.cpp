@@ -23,7 +23,7 @@ QString mdMakeSheet(clsExport &run, const QString &templateName, int pageNumber,
 
 void mdOpenSheet(const clsExport &run, clsMSWord &word, const QString &path)
 {
-    word.OpenDocument(path);
+    word.OpenDocument(path, run.templateNames.value(path));
     stopIfLost(run, word);
 }
 

@@ -52,7 +52,9 @@ void mdExportWordCombineDocuments(clsExport &run)
     const QString folder = mdExportTempFolder(run.exportFolder);
     const QString joined = folder + QStringLiteral("/Joined.doc");
     // The first sheet is always page 1's, and its name is taken for granted.
-    mdWriteWorkingFile(joined, mdReadDocumentFile(folder + QStringLiteral("/1(1).doc"), ZipLimits::PackageBytes));
+    const QString first = folder + QStringLiteral("/1(1).doc");
+    mdWriteWorkingFile(joined, mdReadDocumentFile(first, ZipLimits::PackageBytes));
+    run.templateNames.insert(joined, run.templateNames.value(first));
 
     clsMSWord word(clsMSWord::Finished);
     mdOpenSheet(run, word, joined);
@@ -61,7 +63,8 @@ void mdExportWordCombineDocuments(clsExport &run)
     const int count = int(run.ExportFileCollection.size());
     for (int i = 2; i <= count; ++i) {
         mdSetProgress(i, count, QStringLiteral("Combining Documents"));
-        word.InsertFileAtEnd(run.ExportFileCollection[i - 1]);
+        const QString &sheet = run.ExportFileCollection[i - 1];
+        word.InsertFileAtEnd(sheet, run.templateNames.value(sheet));
     }
     word.TypeBackSpace();
     mdSaveSheet(run, word);

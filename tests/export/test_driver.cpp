@@ -1,9 +1,14 @@
 #include "tests/export/clsExportTest.h"
 #include "tests/export/mdDocumentText.h"
 #include "tests/support/mdOrdinaryUser.h"
+#include "wordexport/mdCheckDocument.h"
 #include "wordexport/mdExportWordClaim1.h"
+#include "wordexport/mdShippedTemplates.h"
+#include "wordexport/mdWordXml.h"
 
 #include <QDate>
+
+#include <functional>
 
 // The driver of an export: which pages are printed, what is told on the way, and what a failure leaves behind.
 
@@ -18,6 +23,29 @@ protected:
         ASSERT_TRUE(QDir().mkpath(templates));
         for (const QString &file : QDir(TestTemplates).entryList({QStringLiteral("*.doc")}))
             ASSERT_TRUE(QFile::copy(TestTemplates + u'/' + file, templates + u'/' + file));
+    }
+    /// Spoils one part of a template.
+    void spoil(const char *name, const char *part, const std::function<QByteArray(const QByteArray &)> &spoilt)
+    {
+        const QString file = templates + u'/' + QLatin1String(name);
+        clsZipPackage zip = clsZipPackage::fromFile(file);
+        const int index = zip.indexOf(QLatin1String(part));
+        ASSERT_GE(index, 0) << part;
+        const QByteArray before = zip.bytes(index);
+        zip.setBytes(index, spoilt(before));
+        ASSERT_NE(before, zip.bytes(index)) << part;
+        put(file, zip.toBytes(clsZipPackage::Deflated));
+    }
+    /// The words of the error that ends an export; empty where none does.
+    QString wordsOfError()
+    {
+        try {
+            exportClaim();
+        } catch (const clsRunTimeError &error) {
+            EXPECT_EQ(clsRunTimeError::InvalidFileFormat, error.number());
+            return error.description();
+        }
+        return {};
     }
     static QByteArray mainPartOf(const QString &file)
     {
@@ -268,6 +296,96 @@ TEST_F(Driver, ADamagedTemplateEndsTheExportAndLeavesTheDocumentAsItWas)
     put(templates + QStringLiteral("/Claim1 P4.doc"), "no document");
     EXPECT_NE(0, errorOf([&] { exportClaim(); }));
     EXPECT_EQ(QByteArray("as it was"), bytesOf(finished()));
+}
+
+TEST_F(Driver, TheTemplatesOfTheBuildAreSoundAndKnown)
+{
+    const QFileInfoList files = QDir(TestTemplates).entryInfoList({QStringLiteral("*.doc")});
+    ASSERT_EQ(46, files.size());
+    for (const QFileInfo &file : files) {
+        EXPECT_TRUE(mdIsShippedTemplate(bytesOf(file.filePath()))) << qPrintable(file.fileName());
+        clsWordPackage package = clsWordPackage::fromFile(file.filePath());
+        EXPECT_EQ(0, errorOf([&] { mdCheckDocument(package); })) << qPrintable(file.fileName());
+    }
+}
+
+TEST_F(Driver, ATemplateThatIsNotWellFormedEndsTheExportAndIsNamed)
+{
+    struct Row {
+        const char *part;
+        QByteArray (*spoilt)(const QByteArray &);
+    };
+    const Row rows[] = {
+        {"word/settings.xml", [](const QByteArray &) { return QByteArray(); }},
+        {"word/settings.xml", [](const QByteArray &xml) { return xml.left(xml.size() / 2); }},
+        {"docProps/core.xml", [](const QByteArray &) { return QByteArray(); }},
+        {"docProps/core.xml", [](const QByteArray &xml) { return xml.left(xml.size() / 2); }},
+        {"word/styles.xml", [](const QByteArray &xml) { return xml + "more"; }},
+        {"word/document.xml",
+            [](const QByteArray &xml) { return QByteArray(xml).replace("<w:body", "<w:body w:a=\"\" w:a=\"\""); }},
+        {"word/document.xml",
+            [](const QByteArray &xml) { return QByteArray(xml).replace("{ctotal}", "\x01{ctotal}"); }},
+        {"word/document.xml",
+            [](const QByteArray &xml) { return QByteArray(xml).replace("{ctotal}", "\xFF{ctotal}"); }},
+        {"word/document.xml", [](const QByteArray &xml) { return QByteArray(xml).replace("{ctotal}", "&b;{ctotal}"); }},
+        {"word/document.xml",
+            [](const QByteArray &xml) { return QByteArray(xml).replace("<w:body>", "<w:body><x:y/>"); }},
+        {"_rels/.rels", [](const QByteArray &xml) { return xml + "<!-- -- -->"; }},
+        {"[Content_Types].xml", [](const QByteArray &xml) { return xml + '\0'; }},
+    };
+    put(finished(), "as it was");
+    for (const Row &row : rows) {
+        copyTemplates();
+        spoil("Claim1 P4.doc", row.part, row.spoilt);
+        EXPECT_EQ(QStringLiteral("The document Claim1 P4.doc is damaged: its part %1 can't be read.").arg(row.part),
+            wordsOfError());
+        EXPECT_EQ(QByteArray("as it was"), bytesOf(finished()));
+        EXPECT_TRUE(user.messages.empty());
+        QDir(templates).removeRecursively();
+    }
+}
+
+TEST_F(Driver, ATemplateThatRefersToNothingEndsTheExportAndIsNamed)
+{
+    const QString words = QStringLiteral(
+        "The document Claim1 P4.doc is damaged: its part word/document.xml refers to a part that is missing.");
+    copyTemplates();
+    spoil("Claim1 P4.doc", "word/_rels/document.xml.rels",
+        [](const QByteArray &xml) { return QByteArray(xml).replace("settings.xml", "fittings.xml"); });
+    EXPECT_EQ(words, wordsOfError());
+    QDir(templates).removeRecursively();
+
+    copyTemplates();
+    spoil("Claim1 P4.doc", "word/document.xml", [](const QByteArray &xml) {
+        return QByteArray(xml).replace("<w:body>",
+            QByteArray("<w:body><w:p><w:r><w:object xmlns:q=\"") + WordXml::RelationshipNamespace
+                + "\" q:id=\"rId99\"/></w:r></w:p>");
+    });
+    EXPECT_EQ(words, wordsOfError());
+    EXPECT_FALSE(QFileInfo::exists(finished()));
+}
+
+TEST_F(Driver, ATemplateThatAFirmHasChangedIsTaken)
+{
+    copyTemplates();
+    spoil("Claim1 P1.doc", "word/document.xml",
+        [](const QByteArray &xml) { return QByteArray(xml).replace("<w:body>", "<w:body><w:p/><!-- ours -->"); });
+    includeOnly({1});
+    EXPECT_TRUE(exportClaim());
+    EXPECT_TRUE(mainPartOf(finished()).contains("<!-- ours -->"));
+}
+
+TEST_F(Driver, ATemplateThatCannotBeJoinedIsNamedAndNotItsCopy)
+{
+    copyTemplates();
+    spoil("Claim1 P8.doc", "word/document.xml", [](const QByteArray &xml) {
+        return QByteArray(xml).replace("<w:body>", "<w:body><w:p><w:r><w:footnoteReference w:id=\"2\"/></w:r></w:p>");
+    });
+    includeOnly({1, 8});
+    EXPECT_TRUE(exportClaim());
+    ASSERT_EQ(1u, user.messages.size());
+    EXPECT_TRUE(user.messages[0].text.contains(QLatin1String("The document Claim1 P8.doc holds footnotes")))
+        << qPrintable(user.messages[0].text);
 }
 
 TEST_F(Driver, ATemporaryFolderThatCannotBeMadeEndsTheExport)

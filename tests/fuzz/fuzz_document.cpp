@@ -8,6 +8,7 @@
 #include "tests/support/clsWordLint.h"
 #include "tests/wordexport/clsTestDocument.h"
 #include "wordexport/clsMSWord.h"
+#include "wordexport/mdCheckDocument.h"
 
 #include <QRegularExpression>
 
@@ -82,6 +83,16 @@ QStringList problemsOf(const clsZipPackage &zip)
     if (error)
         problems << QStringLiteral("damaged");
     return problems;
+}
+
+/// Whether a document passes the look that a page template is given: each part well-formed to the letter, and each
+/// relationship leading somewhere.
+bool passesTheCheck(const clsZipPackage &zip)
+{
+    return mdFuzzErrorOf({Error::InvalidFileFormat}, "a damaged document is told in one way", [&] {
+        clsWordPackage package(zip, Shown);
+        mdCheckDocument(package);
+    }) == 0;
 }
 
 /// One operation: a letter, and what it takes.
@@ -191,6 +202,7 @@ void attackDocument(const clsZipPackage &first, const clsZipPackage &second, con
     if (appends)
         mdFuzzPut(QStringLiteral("Second.doc"), second.toBytes(clsZipPackage::Stored));
     const bool sound = problemsOf(first).isEmpty() && (!appends || problemsOf(second).isEmpty());
+    const bool checked = passesTheCheck(first) && (!appends || passesTheCheck(second));
 
     // Replacing makes one text again of what was appended; without it the pieces are written as they are.
     const QString mark = operations.endsWith(u'i') ? QString() : QStringLiteral("the mark of the attack");
@@ -198,9 +210,11 @@ void attackDocument(const clsZipPackage &first, const clsZipPackage &second, con
         return;
     const QByteArray saved = mdFuzzBytesOf(path);
     mdFuzzRequire(attackRoundTrip(saved, mainPartOf(first)).contains(mark), "what was typed is in the document");
+    const clsZipPackage finished = clsZipPackage::fromBytes(saved, Shown);
+    mdFuzzRequire(!checked || passesTheCheck(finished), "a document that passes the check passes it when it is saved");
     if (!sound)
         return;
-    if (const QStringList problems = problemsOf(clsZipPackage::fromBytes(saved, Shown)); !problems.isEmpty())
+    if (const QStringList problems = problemsOf(finished); !problems.isEmpty())
         mdFuzzFail("a sound document stays sound", problems.join(u'\n'));
 }
 

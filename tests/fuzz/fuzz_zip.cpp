@@ -5,6 +5,7 @@
 #include "tests/fuzz/mdFuzzZip.h"
 #include "wordexport/clsWordPackage.h"
 #include "wordexport/clsZipPackage.h"
+#include "wordexport/mdCheckDocument.h"
 
 #include <map>
 #include <optional>
@@ -62,6 +63,8 @@ void attackDocument(const clsZipPackage &zip)
     if (mdFuzzErrorOf({Error::InvalidFileFormat}, "a damaged document is told in one way",
             [&] { package.emplace(zip, ShownName); }))
         return;
+    mdFuzzErrorOf(
+        {Error::InvalidFileFormat}, "a damaged part is a damaged document", [&] { mdCheckDocument(*package); });
     attackRelationships(*package);
     for (const char *type : {"styles", "numbering", "settings"})
         mdFuzzErrorOf({Error::InvalidFileFormat}, "a damaged part is a damaged document", [&] {

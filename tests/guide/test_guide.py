@@ -20,6 +20,7 @@ from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 import scan
+import sheets
 
 ROOT = Path(os.environ["ZR3_ROOT"])
 DOCUMENTATION = Path(os.environ["ZR3_DOCUMENTATION"])
@@ -407,6 +408,148 @@ class Example(unittest.TestCase):
         self.assertEqual(figures["FASItemsTotal"], "226.475")
         self.assertIn("the item is 226.475, printed as 226.48", text)
         self.assertEqual(figures["AdvocacyTotal"], "226.48")
+
+
+class Sheets(unittest.TestCase):
+    """What the guide says of the sheets is what the program prints."""
+
+    LONG = "word " * 180
+
+    def claim(self, form, *pages):
+        return sheets.Claim(ROOT / "tests/samples/housing-typical.zr3", form, *pages)
+
+    def hearings(self, hearings, bolt_ons=0, travel=0):
+        return self.claim("Claim1A", 8).add(
+            "fasitems", hearings, ddate="03/02/26", hearingunits="1", rateforunits="10.00", boltonclaimed="0",
+            courtbundlepayment="0.00", settlementfee="0.00", exceptionaltravel="0.00", vatforfas="0.00",
+            boltondescription=lambda number: "at risk" if number <= bolt_ons else "",
+            exceptionaltraveldistance="", exceptionaltravelreason=lambda number: "far" if number <= travel else "")
+
+    def rows(self):
+        """The rows of the table of odd marks: the page, when, beside the page number, at the top."""
+        text = (SOURCES / "12-export.md").read_text(encoding="utf-8")
+        table = text.split("{#odd-marks}")[1].split("\n\n", 2)[2].split("\n\n")[0]
+        rows, page = [], ""
+        for line in table.splitlines()[2:]:
+            cells = [cell.strip() for cell in line.strip("|").split("|")]
+            page = cells[0] or page
+            rows.append((page, *cells[1:]))
+        return rows
+
+    def test_marks_that_look_odd(self):
+        reasons, case = "expertsmeetmojstandardreasons", "detailsofwork/detailsofcase"
+        levels = "actualcostsincurred/privatelawworkatalllevelsreasons"
+        counsel, page_6, page_8 = "Claim 1, page 4; Claim 1A, page 5", "Claim 1, page 6", "Claim 1A, page 8"
+        six, joint_7 = self.claim, "Only the joint instructions have one."
+        made = [
+            (counsel, "fees have none.", "4(1)", self.claim("Claim1", 3, 4).write(case, self.LONG)),
+            (counsel, "fees have none.", "5(1)", self.claim("Claim1A", 4, 5).write(levels, self.LONG)),
+            (counsel, "Both", "4(1)", self.claim("Claim1", 3, 4).write(case, self.LONG).add_fees(33)),
+            (counsel, "Both", "5(1)", self.claim("Claim1A", 4, 5).write(levels, self.LONG).add_fees(33)),
+            (page_6, "Only the experts", "6(1)", six("Claim1", 6).add("expertinvoices", 12)),
+            (page_6, "Only the reasons", "6(1)", six("Claim1", 6).write(reasons, self.LONG)),
+            (page_6, "Only the additional", "6(1)", six("Claim1", 6).add_descriptions(8, 8, 8)),
+            (page_6, "very last", "6(1)", six("Claim1", 6).add_descriptions(8, 8)),
+            (page_6, "and the experts", "6(1)", six("Claim1", 6).add_descriptions(8, 8, 8).add("expertinvoices", 12)),
+            ("Claim 1, page 7", joint_7, "7(1)", self.claim("Claim1", 7).add("jointinstructions", 15)),
+            ("Claim 1A, page 6", "Only the reasons", "6(1)", six("Claim1A", 6).write(reasons, self.LONG)),
+            ("Claim 1A, page 7", joint_7, "7(1)", self.claim("Claim1A", 7).add("jointinstructions", 15)),
+            (page_8, "Only the hearings", "8(1)", self.hearings(17)),
+            (page_8, "Only the bolt-on", "8(1)", self.hearings(7, bolt_ons=7)),
+            (page_8, "hearings and the bolt-on", "8(1)", self.hearings(17, bolt_ons=7)),
+            (page_8, "hearings and the exceptional", "8(1)", self.hearings(17, travel=11)),
+            ("Claim 1A, page 11", "very last", "11(1)", self.claim("Claim1A", 11).add_descriptions(10, 15)),
+        ]
+        rows = self.rows()
+        used = set()
+        for page, when, name, claim in made:
+            with self.subTest(page=page, when=when, sheet=name):
+                fitting = [row for row in rows if row[0] == page and when in row[1]]
+                self.assertEqual(len(fitting), 1)
+                used.add(fitting[0])
+                told = tuple("" if cell == "nothing" else re.match(r"(\(\d\))+", cell)[0] for cell in fitting[0][2:])
+                printed_marks = sheets.marks(claim.sheets(os.environ["ZR3_TOOL"])[name])
+                self.assertEqual(printed_marks, told)
+        self.assertEqual(used, set(rows))
+
+    def test_further_sheets_of_counsel_count_on(self):
+        made = self.claim("Claim1", 3, 4).write("detailsofwork/detailsofcase", self.LONG).add_fees(33)
+        self.assertIn("4(3)", made.sheets(os.environ["ZR3_TOOL"]))
+        self.assertIn("the first is (3)", self.rows()[1][1])
+
+    def test_page_7_loses_each_sheet_that_both_lists_have(self):
+        text = (SOURCES / "12-export.md").read_text(encoding="utf-8")
+        for joint, other, lost in ((15, 13, [15]), (75, 13, range(15, 45)), (45, 45, range(15, 46)), (15, 77, [15])):
+            made = self.claim("Claim1", 7)
+            made.add("jointinstructions", joint, experttype=lambda number: f"Joint {number}")
+            made.add("disbursements", other, counsel="False", description=lambda number: f"Other {number}")
+            printed_lines = made.joined(os.environ["ZR3_TOOL"])
+            missing = [number for number in range(1, joint + 1) if f"Joint {number}" not in printed_lines]
+            self.assertEqual(missing, list(lost), (joint, other))
+            self.assertEqual([number for number in range(1, other + 1) if f"Other {number}" not in printed_lines], [])
+        for words in ("each further sheet of the other disbursements takes the place",
+                      "With two further sheets of each, both sheets of the joint instructions are lost",
+                      "with three of the joint instructions and one of the others, the first"):
+            self.assertIn(words, text)
+
+    def test_the_room_for_descriptions(self):
+        text = (SOURCES / "12-export.md").read_text(encoding="utf-8")
+        told = re.search(r"first sheet holds (\d+) lines on Claim 1 and (\d+) on Claim 1A, a further one (\d+)", text)
+        first, first_1a, further = (int(number) for number in told.groups())
+        for form, page, room in (("Claim1", 6, first), ("Claim1A", 11, first_1a)):
+            # Each description has one line more, for the rule below it.
+            rest = further - (room + 1) - 1
+            for lines, count in (([room - 1], 1), ([room], 2), ([room, rest], 2), ([room, rest + 1], 3)):
+                made = self.claim(form, page).add_descriptions(*lines).sheets(os.environ["ZR3_TOOL"])
+                self.assertEqual(len([name for name in made if name.startswith(f"{page}(")]), count, (form, lines))
+        self.assertIn(f"One of more than {further - 1} lines", text)
+
+
+class Ways(unittest.TestCase):
+    """Where the guide says that the keys of a screen lead is where they lead."""
+
+    def setUp(self):
+        self.sources = scan.Sources(ROOT)
+        self.text = (SOURCES / "05-entering.md").read_text(encoding="utf-8")
+
+    def routes(self):
+        code = re.sub(r"\bSame\b", '"same"', re.sub(r"\bNowhere\b", '""', self.sources.files["editors/mdSectionRoutes.cpp"]))
+        return {row[0]: row[1:] for row in re.findall(r'\{' + ",\\s*".join(['"([^"]*)"'] * 5) + r"\}", code)}
+
+    def way(self, start, key, form):
+        """The screens that a key leads to, until it leads nowhere or where it has been."""
+        routes, passed = self.routes(), [start]
+        while True:
+            ways = routes[passed[-1]][2 * (key == "Next >>"):][:2]
+            target = ways[0] if form == "Claim 1" or ways[1] == "same" else ways[1]
+            if not target:
+                return passed, ""
+            if target in passed:
+                return passed, target
+            passed.append(target)
+
+    def test_prev_and_next(self):
+        tabs = (ROOT / "docs/guide/02-first-start.md").read_text(encoding="utf-8")
+        columns = {"Claim 1": 1, "Claim 1A": 2}
+        rows = re.findall(r"^\|(.*?)\| \*\*(<< Prev|Next >>)\*\* \| (.*?) \| (.*?) \|$", self.text, re.MULTILINE)
+        self.assertEqual(len(rows), 4)
+        form = ""
+        for named, key, screens, left_out in rows:
+            form = named.strip() or form
+            passed, again = self.way("Client Details" if key == "Next >>" else "Debtor's Details", key, form)
+            self.assertEqual(screens, ", ".join(passed) + (f", and again {again}" if again else ""))
+            sections = [name for tab in ("Pre-Bill", "Bill", "Post-Bill Sections") for name in
+                        re.search(rf"^\| \*\*{tab}.*", tabs, re.MULTILINE)[0].split("|")[columns[form] + 1].strip().split(", ")]
+            missing = [name for name in sections if name not in passed]
+            self.assertEqual(left_out, ", ".join(missing) or "none")
+
+    def test_the_screens_on_which_esc_stores(self):
+        closing = [code for code in self.sources.files.values() if ".ending = clsScreenEnding::Close" in code]
+        screens = {(re.search(r'\.section = "([^"]+)"', code) or re.search(r'\.header = "([^"]+)"', code))[1]
+                   for code in closing}
+        told = re.search(r"^: (\*\*Form Setup\*\*.*?)\. \*\*Close\*\*", self.text, re.MULTILINE)[1]
+        self.assertEqual(set(re.findall(r"\*\*(.+?)\*\*", told)), screens)
+        self.assertIn("On a screen with **Close**, [[Esc]] does the same as **Close**: it stores.", self.text)
 
 
 def main():

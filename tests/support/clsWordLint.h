@@ -2,6 +2,7 @@
 
 #include "shell/clsRunTimeError.h"
 #include "wordexport/clsWordPackage.h"
+#include "wordexport/mdStrictXml.h"
 #include "wordexport/mdWordXml.h"
 
 #include <QRegularExpression>
@@ -25,6 +26,7 @@ public:
     static QStringList problemsOf(clsWordPackage package, Placeholders placeholders = MayBeLeft)
     {
         clsWordLint lint(package);
+        lint.checkParts();
         lint.checkPackage();
         lint.learnStyles();
         lint.learnLists();
@@ -46,6 +48,17 @@ private:
     void problem(const QString &text) { m_problems << text; }
 
     static bool isRelationships(const QString &name) { return name.endsWith(QLatin1String(".rels")); }
+
+    // A part that is well-formed but for the letter is read, changed and written without a word.
+    void checkParts()
+    {
+        for (int part = 0; part < m_package.partCount(); ++part) {
+            const QString &name = m_package.partName(part);
+            const bool isXml = name.endsWith(QLatin1String(".xml")) || isRelationships(name);
+            if (isXml && !mdReadStrictly(m_package.currentBytes(part)).isSound)
+                problem(QStringLiteral("part that is not well-formed: ") + name);
+        }
+    }
 
     void checkPackage()
     {

@@ -1,5 +1,6 @@
 #include "tests/support/clsScriptedUserInterface.h"
 #include "tests/wordexport/clsJoin.h"
+#include "wordexport/mdCheckDocument.h"
 
 // Documents that are joined: their sections, lists, parts, footers and identities.
 
@@ -324,6 +325,77 @@ TEST(JoinedNamespaces, PrefixesAreDeclaredAndOnesThatClashAreRenamed)
     EXPECT_STREQ(root.attribute("mc:Ignorable").value(), "x x2");
 }
 
+TEST(JoinedNamespaces, APrefixKeepsItsMeaningWhereAnElementDeclaresItAnew)
+{
+    clsTestDocument first(p(QStringLiteral("a")) + section(page(100)));
+    first.rootAttributes = QStringLiteral("xmlns:x=\"urn:one\" xmlns:y=\"urn:two\"");
+    clsTestDocument second(
+        QStringLiteral("<w:p><x:note x:kind=\"k\"/><x:note xmlns:x=\"urn:three\" x:kind=\"k\"><x:in/></x:note>"
+                       "<x:note xmlns:y=\"urn:four\" x:kind=\"k\" y:kind=\"k\"/></w:p>")
+        + section(page(100)));
+    second.rootAttributes = QStringLiteral("xmlns:x=\"urn:two\"");
+    const clsJoin join({first, second});
+    // The document has a prefix for "two", which an element of the second one uses for something else.
+    EXPECT_TRUE(join.body().contains(
+        QStringLiteral("<x2:note x2:kind=\"k\"/><x:note xmlns:x=\"urn:three\" x:kind=\"k\"><x:in/></x:note>"
+                       "<x2:note xmlns:y=\"urn:four\" x2:kind=\"k\" y:kind=\"k\"/>")))
+        << join.body().toStdString();
+}
+
+/// A document whose text uses another prefix for relationships than its root, or has one of its own.
+clsZipPackage withPrefix(const clsTestDocument &document, const char *rootPrefix, const QByteArray &ownDeclaration)
+{
+    clsZipPackage zip = document.zip();
+    const int main = zip.indexOf(QStringLiteral("word/document.xml"));
+    QByteArray xml = zip.bytes(main);
+    xml.replace("xmlns:r=", QByteArray("xmlns:") + rootPrefix + '=');
+    xml.replace("<a:blip r:embed", "<a:blip " + ownDeclaration + " q:embed");
+    zip.setBytes(main, xml);
+    return zip;
+}
+
+TEST(JoinedNamespaces, RelationshipsAreFoundWhateverTheirPrefix)
+{
+    const QByteArray own = QByteArray("xmlns:q=\"") + WordXml::RelationshipNamespace + '"';
+    const clsZipPackage documents[] = {withPrefix(withImage("two"), "q", {}), withPrefix(withImage("two"), "r", own),
+        withPrefix(withImage("two"), "s", own)};
+    for (const clsZipPackage &document : documents) {
+        const clsTestFolder folder;
+        const QString path = folder.write(QStringLiteral("Joined.doc"), withImage("one"));
+        clsMSWord word(clsMSWord::Finished);
+        word.OpenDocument(path);
+        word.InsertFileAtEnd(folder.write(QStringLiteral("b.doc"), document.toBytes(clsZipPackage::Deflated)));
+        word.SaveAndClose();
+        EXPECT_TRUE(bodyXml(path).contains(QStringLiteral("q:embed=\"rId8\""))) << bodyXml(path).toStdString();
+        clsWordPackage package = clsWordPackage::fromFile(path);
+        mdCheckDocument(package);
+    }
+}
+
+TEST(JoinedNamespaces, AHeaderThatIsAddedDeclaresItsPrefix)
+{
+    const auto unprefixed = [](clsTestDocument document, const QString &declaration) {
+        document.body.replace(QStringLiteral("r:id"),
+            QStringLiteral("xmlns:q=\"%1\" q:id").arg(QLatin1String(WordXml::RelationshipNamespace)));
+        clsZipPackage zip = document.zip();
+        QByteArray xml = zip.bytes(2);
+        zip.setBytes(2, xml.replace(declaration.toUtf8(), {}));
+        return zip;
+    };
+    const QString declared = QStringLiteral(" xmlns:r=\"%1\"").arg(QLatin1String(WordXml::RelationshipNamespace));
+    const clsTestFolder folder;
+    const QString path = folder.write(QStringLiteral("Joined.doc"),
+        unprefixed(withFooter(QStringLiteral("a")), declared).toBytes(clsZipPackage::Deflated));
+    clsMSWord word(clsMSWord::Finished);
+    word.OpenDocument(path);
+    word.InsertFileAtEnd(folder.write(
+        QStringLiteral("b.doc"), unprefixed(sheet(QStringLiteral("b")), declared).toBytes(clsZipPackage::Deflated)));
+    word.SaveAndClose();
+    EXPECT_EQ(clsWordLint::problemsOf(path), QStringList());
+    clsWordPackage package = clsWordPackage::fromFile(path);
+    mdCheckDocument(package);
+}
+
 TEST(InsertFileAtEnd, ADocumentWithFootnotesIsRefusedRatherThanAppendedWithoutThem)
 {
     const clsTestFolder folder;
@@ -385,7 +457,8 @@ TEST(InsertFileAtEnd, ADocumentNestedBeyondAllMeasureIsRefused)
     word.InsertFileAtEnd(folder.write(QStringLiteral("b.doc"), deep.zip().toBytes(clsZipPackage::Stored)));
     EXPECT_TRUE(word.sheetLost());
     ASSERT_EQ(user.messages.size(), 1u);
-    EXPECT_TRUE(user.messages[0].text.contains(QStringLiteral("b.doc is damaged.")));
+    EXPECT_TRUE(
+        user.messages[0].text.contains(QStringLiteral("b.doc is damaged: its part word/document.xml can't be read.")));
     word.SaveAndClose();
     EXPECT_EQ(bodyXml(path), sheet(QStringLiteral("a")).body);
 }

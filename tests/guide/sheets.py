@@ -1,0 +1,85 @@
+"""Claims that are made for what one page prints, and what stands on their sheets."""
+
+import re
+import subprocess
+import tempfile
+import xml.etree.ElementTree as ElementTree
+import zipfile
+from pathlib import Path
+from urllib.parse import quote_plus
+
+WORDS = "{http://schemas.openxmlformats.org/wordprocessingml/2006/main}"
+LISTS = ["scheduleoftimeitems", "expertinvoices", "jointinstructions", "disbursements", "fasitems"]
+
+
+class Claim:
+    """The people of a sample claim, with nothing else on its bill; only page 1 and those named are exported."""
+
+    def __init__(self, sample, form, *pages):
+        self.root = ElementTree.fromstring(sample.read_bytes())
+        self.root.find("formtype").text = form
+        for number in range(1, 14):
+            self.root.find(f"includepage{number}").text = str(number in (1, *pages))
+        self.models = {name: self.root.find(name)[0] for name in LISTS if len(self.root.find(name))}
+        for name in LISTS:
+            self.root.find(name)[:] = []
+        for path in ("expertsmeetmojstandardreasons", "detailsofwork/detailsofcase", "detailsofwork/detailsofenhancement",
+                     "actualcostsincurred/privatelawworkatalllevelsreasons"):
+            self.write(path, "")
+
+    def write(self, path, text):
+        self.root.find(path).text = quote_plus(text)
+        return self
+
+    def add(self, name, count, **fields):
+        """That many items of a list; a function of a field is called with the item's number."""
+        element = {"fasitems": "fasitem"}.get(name, name.removesuffix("s"))
+        for number in range(1, count + 1):
+            item = ElementTree.SubElement(self.root.find(name), element)
+            model = self.models.get(name)
+            for child in model if model is not None else []:
+                ElementTree.SubElement(item, child.tag).text = child.text
+            for field, value in {"orderid": str, **fields}.items():
+                child = item.find(field)
+                child = child if child is not None else ElementTree.SubElement(item, field)
+                child.text = quote_plus(value(number) if callable(value) else value)
+        return self
+
+    def add_descriptions(self, *lines):
+        """Items of the schedule, each with a description of so many lines."""
+        return self.add("scheduleoftimeitems", len(lines),
+                        description=lambda number: " ".join(["n" * 59] * lines[number - 1]))
+
+    def add_fees(self, count):
+        counsel = self.root.find("counsel")[0].find("uniqueid").text
+        return self.add("disbursements", count, counsel="True", counseluniqueid=counsel)
+
+    def export(self, tool, *options):
+        """A folder with the finished document, for as long as it is held."""
+        folder = tempfile.TemporaryDirectory()
+        claim = Path(folder.name) / "claim.zr3"
+        claim.write_bytes(ElementTree.tostring(self.root, encoding="us-ascii"))
+        subprocess.run([tool, "export", "--quiet", *options, claim, folder.name], check=True)
+        return folder
+
+    def sheets(self, tool):
+        """The sheets that an export makes, by their names, as lists of their paragraphs' texts."""
+        with self.export(tool, "--keep-sheets") as folder:
+            return {path.stem: paragraphs(path) for path in Path(folder).glob("~ZR3Temp/*(*).doc")}
+
+    def joined(self, tool):
+        """The paragraphs of the finished document."""
+        with self.export(tool) as folder:
+            return paragraphs(next(Path(folder).glob("*.doc")))
+
+
+def paragraphs(path):
+    with zipfile.ZipFile(path) as package:
+        body = ElementTree.fromstring(package.read("word/document.xml")).find(WORDS + "body")
+    return ["".join(text.text or "" for text in paragraph.iter(WORDS + "t")) for paragraph in body.iter(WORDS + "p")]
+
+
+def marks(sheet):
+    """What stands in brackets beside the page number of a sheet, and what stands above its first line."""
+    beside = next(re.sub(r"^.*Page \d+", "", text).strip() for text in sheet if re.search(r"Page \d+( |$)", text))
+    return beside, sheet[0].strip()

@@ -1,0 +1,20 @@
+#include "wordexport/mdShippedTemplates.h"
+
+#include <QCryptographicHash>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+constexpr const char *Sums[] = {
+#include "ShippedTemplates.inc" // made together with the templates
+};
+
+} // namespace
+
+bool mdIsShippedTemplate(const QByteArray &bytes)
+{
+    const QByteArray sum = QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex();
+    return std::any_of(std::begin(Sums), std::end(Sums), [&sum](const char *shipped) { return sum == shipped; });
+}

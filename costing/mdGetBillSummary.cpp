@@ -1,5 +1,6 @@
 #include "costing/mdGetBillSummary.h"
 
+#include "costing/mdFigureFaults.h"
 #include "costing/mdGetCommsInfo.h"
 #include "costing/mdGetCounselTotals.h"
 #include "costing/mdGetDisbursementsTotals.h"
@@ -41,7 +42,11 @@ Money VATWithAdvocacyAndCounsel(const clsZR3Form &form)
 Money FixedFee(const clsZR3Form &form)
 {
     const QString text = form.ActualCostsIncurred.FixedFee();
-    return text.isEmpty() ? Money() : MoneyFromText(text);
+    try {
+        return text.isEmpty() ? Money() : MoneyFromText(text);
+    } catch (const clsRunTimeError &error) {
+        throw error.because(mdSentenceFor(error, mdFixedFeeFaults(form)));
+    }
 }
 
 Money FixedFeeNetTotal(const clsZR3Form &form)

@@ -6,13 +6,25 @@
 #include "shell/mdCustomMessages.h"
 #include "shell/mdGlobals.h"
 
+#include <QSet>
+
 namespace {
+
+/// The groups that some fee earner names.
+QSet<QString> groupsInUse()
+{
+    QSet<QString> named;
+    for (const auto &feeEarner : Form->FeeEarnersCollection())
+        named << feeEarner->GroupUniqueID();
+    return named;
+}
 
 QStringList emptyGroups()
 {
+    const QSet<QString> inUse = groupsInUse();
     QStringList references;
     for (const auto &group : Form->FeeEarnerGroupsCollection())
-        if (group->FeeEarnersCollection().empty())
+        if (!inUse.contains(group->UniqueID()))
             references << group->Reference();
     return references;
 }
@@ -30,9 +42,11 @@ void createFeeEarners(frmSection &)
         + references.join(QStringLiteral(", ")) + paragraph + QStringLiteral("Continue?");
     if (mdCustomMessages(question, QStringLiteral("Continue?"), clsUserInterface::YesNo, 1) != clsUserInterface::Yes)
         return;
+    QSet<QString> inUse = groupsInUse();
     for (const auto &group : Form->FeeEarnerGroupsCollection()) {
-        if (!group->FeeEarnersCollection().empty())
+        if (inUse.contains(group->UniqueID()))
             continue;
+        inUse << group->UniqueID();
         const auto feeEarner = Form->AddFeeEarner();
         feeEarner->Reference = group->Reference();
         feeEarner->GroupUniqueID = group->UniqueID();

@@ -66,6 +66,7 @@ public:
     explicit clsSchedulePrices(const clsZR3Form &form);
 
     const clsSchedulePrice &of(const clsZR3ScheduleOfTimeItem &item);
+    const clsZR3Form &form() const { return m_form; }
 
 private:
     struct clsEarner {

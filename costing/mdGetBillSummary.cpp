@@ -8,10 +8,17 @@
 #include "costing/mdPercentageCalculate.h"
 #include "costing/mdSumOf.h"
 #include "formdata/clsZR3Form.h"
+#include "formdata/mdRecordInWords.h"
 
 Money VATOf(const clsZR3Form &form, Money amount)
 {
-    return PercentageCalculate(amount, form.VATRate());
+    const QString rate = form.VATRate();
+    try {
+        return PercentageCalculate(amount, rate);
+    } catch (const clsRunTimeError &error) {
+        throw error.because(QStringLiteral("Form Setup: the VAT rate of %1 makes the VAT larger than an amount can be")
+                                .arg(mdQuoted(rate)));
+    }
 }
 
 Money ProfitCostsVAT(const clsZR3Form &form)

@@ -2,6 +2,7 @@
 
 #include "controls/oSGrid.h"
 #include "editors/frmSection.h"
+#include "editors/mdItemFaults.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/mdCustomMessages.h"
 #include "shell/mdGlobals.h"
@@ -67,6 +68,7 @@ const clsItemList Groups {
         {"Enh %", "EnhancementRate", 15, clsGridAlignment::Right},
     },
     .show = [](oSGrid &grid) { grid.setItemCollection(Form->FeeEarnerGroupsCollection()); },
+    .faults = mdItemFaults<clsZR3FeeEarnerGroup>,
     .empty = "No groups yet. Add one to begin.",
     .editor = ScreenFeeEarnerGroupEdit,
     .item = [](int index) -> std::shared_ptr<clsXMLRecord> { return Form->FeeEarnerGroup(index); },
@@ -82,9 +84,10 @@ const clsItemList Groups {
 const clsItemList FeeEarners {
     .columns = {
         {"Ref",   "Reference",      50},
-        {"Group", "GroupReference", 50},
+        {.caption = "Group", .property = "GroupReference", .width = 50, .faultOf = "GroupUniqueID"},
     },
     .show = [](oSGrid &grid) { grid.setItemCollection(Form->FeeEarnersCollection()); },
+    .faults = mdItemFaults<clsZR3FeeEarner>,
     .empty = "No fee earners yet. Add one to begin.",
     .editor = ScreenFeeEarnerEdit,
     .item = [](int index) -> std::shared_ptr<clsXMLRecord> { return Form->FeeEarner(index); },

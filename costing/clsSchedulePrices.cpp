@@ -89,7 +89,8 @@ void clsSchedulePrices::price(const clsZR3ScheduleOfTimeItem &item, clsScheduleP
 {
     using Price = clsSchedulePrice;
     using enum Price::Figure;
-    const auto note = [&result](Price::Figure figure, int error) { result.errors[size_t(figure)] = std::int16_t(error); };
+    const auto note
+        = [&result](Price::Figure figure, int error) { result.errors[size_t(figure)] = std::int16_t(error); };
     // A figure that is computed of others has the error of the first of them that has one.
     const auto attempt = [&](Price::Figure figure, std::initializer_list<Price::Figure> parts, auto compute) {
         for (const Price::Figure part : parts)

@@ -43,7 +43,15 @@ private:
 /// All that is worked out for one item of the schedule. A figure that fails in the item's own member fails here with
 /// the same error, which is noted: its place then holds nothing that counts.
 struct clsSchedulePrice {
-    enum Figure { InitialsFigure, TimeFigure, ColumnFigure, RateFigure, BasicClaimFigure, PercentageFigure, ClaimFigure };
+    enum Figure {
+        InitialsFigure,
+        TimeFigure,
+        ColumnFigure,
+        RateFigure,
+        BasicClaimFigure,
+        PercentageFigure,
+        ClaimFigure
+    };
     static constexpr int Figures = ClaimFigure + 1;
 
     QString FeeEarnerInitials;

@@ -23,7 +23,8 @@ int SumOfCounts(const clsZR3FeeEarnerGroup &group, const std::vector<const clsZR
     for (const clsZR3FeeEarner *feeEarner : feeEarners)
         if (__builtin_add_overflow(total, count(*feeEarner), &total))
             throw clsRunTimeError(clsRunTimeError::Overflow)
-                .because(mdSentenceOf(group, QStringLiteral("the counts of its fee earners add up to too large a number")));
+                .because(
+                    mdSentenceOf(group, QStringLiteral("the counts of its fee earners add up to too large a number")));
     return total;
 }
 

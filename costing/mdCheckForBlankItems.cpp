@@ -21,7 +21,9 @@ int mdCountBlankScheduleItems(const clsZR3Form &form)
 {
     int count = 0;
     for (const auto &item : form.ScheduleOfTimeItemsCollection())
-        if (mdExplained(form, [&] { return TimeToMinutes(item->TTime()); }, *item) == 0)
+        if (mdExplained(
+                form, [&] { return TimeToMinutes(item->TTime()); }, *item)
+            == 0)
             ++count;
     return count;
 }

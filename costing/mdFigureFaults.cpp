@@ -149,8 +149,7 @@ std::shared_ptr<Group> groupOf(clsFaultList &list, const Item &item)
     const auto feeEarner = item.FeeEarner();
     if (!feeEarner) {
         list.does(Property,
-            wrongIdentity(
-                item.FeeEarnerUniqueID, "names no fee earner", "names a fee earner that no longer exists"));
+            wrongIdentity(item.FeeEarnerUniqueID, "names no fee earner", "names a fee earner that no longer exists"));
         return {};
     }
     const auto group = feeEarner->Group();
@@ -180,9 +179,9 @@ void checkEnhancement(clsFaultList &list, const clsZR3Form &form, const Item &it
         return;
     const auto enhancement = form.EnhancementByUniqueID(item.EnhancementUniqueID());
     if (enhancement)
-        list.has("",
-            wrongRate(
-                enhancement->Rate(), [&] { return QStringLiteral("the rate of enhancement ") + enhancement->Name(); }));
+        list.has("", wrongRate(enhancement->Rate(), [&] {
+            return QStringLiteral("the rate of enhancement ") + enhancement->Name();
+        }));
     else
         list.does("EnhancementUniqueID",
             wrongIdentity(
@@ -306,9 +305,9 @@ clsFigureFaults mdFigureFaults(const clsZR3Form &, const clsZR3FeeEarnerGroup &g
     clsFaultList list(group);
     if (isTrue(group.Enhance))
         list.hasAmount(group.EnhancementRate);
-    for (const clsXMLField *rate : std::initializer_list<const clsXMLField *> {&group.HourlyRate, &group.CallsRate,
-             &group.LettersInRate, &group.LettersOutRate, &group.AdvocacyRate, &group.CounselRate,
-             &group.TravelAndWaitingRate})
+    for (const clsXMLField *rate :
+        std::initializer_list<const clsXMLField *> {&group.HourlyRate, &group.CallsRate, &group.LettersInRate,
+            &group.LettersOutRate, &group.AdvocacyRate, &group.CounselRate, &group.TravelAndWaitingRate})
         list.hasAmount(*rate);
     return list.faults();
 }

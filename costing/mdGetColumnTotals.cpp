@@ -40,16 +40,19 @@ public:
     {
         using Price = clsSchedulePrice;
         if (price.errorOf(Price::ColumnFigure))
-            mdExplained(form, [&] { item.TimeColumn(); }, item);
+            mdExplained(
+                form, [&] { item.TimeColumn(); }, item);
         const auto column = size_t(price.TimeColumn);
         attempt(m_totals.times[column], [&] {
             if (price.errorOf(Price::TimeFigure))
-                mdExplained(form, [&] { TimeToMinutes(price.TTime); }, item);
+                mdExplained(
+                    form, [&] { TimeToMinutes(price.TTime); }, item);
             addMinutes(m_minutes[column], price.Minutes);
         });
         attempt(m_totals.claims[column], [&] {
             if (price.errorOf(Price::ClaimFigure))
-                mdExplained(form, [&] { item.Claim(); }, item);
+                mdExplained(
+                    form, [&] { item.Claim(); }, item);
             m_totals.claims[column].value += price.Claim;
         });
     }
@@ -70,7 +73,8 @@ public:
             attempt(claim, [&] { claim.value = RoundMoney2(claim.value); });
         }
         attempt(m_totals.schedule, [this] {
-            m_totals.schedule.value = sumOfColumns([this](int column) { return m_totals.claims[size_t(column)].get(); });
+            m_totals.schedule.value
+                = sumOfColumns([this](int column) { return m_totals.claims[size_t(column)].get(); });
         });
         return m_totals;
     }
@@ -116,7 +120,9 @@ QString ColumnTimeTotal(const clsZR3Form &form, int column)
 {
     int minutes = 0;
     forBilledItems(form, column, [&](const clsZR3ScheduleOfTimeItem &item) {
-        addMinutes(minutes, mdExplained(form, [&] { return TimeToMinutes(item.TTime()); }, item));
+        addMinutes(minutes,
+            mdExplained(
+                form, [&] { return TimeToMinutes(item.TTime()); }, item));
     });
     return MinutesToTime(minutes);
 }
@@ -125,7 +131,9 @@ Money ColumnClaimTotal(const clsZR3Form &form, int column)
 {
     Money total;
     forBilledItems(form, column, [&](const clsZR3ScheduleOfTimeItem &item) {
-        total = total + mdExplained(form, [&] { return item.Claim(); }, item);
+        total = total
+            + mdExplained(
+                form, [&] { return item.Claim(); }, item);
     });
     return RoundMoney2(total);
 }
@@ -134,8 +142,9 @@ Money ScheduleTotal(const clsZR3Form &form)
 {
     clsSchedulePrices prices(form);
     // The error of a sum is that of its first part, so that nothing behind a failure in the first column matters.
-    return totalsOf(form, prices, [](const clsTotalling &totalling) { return totalling.firstColumnFailed(); })
-        .schedule.get();
+    return totalsOf(form, prices, [](const clsTotalling &totalling) {
+        return totalling.firstColumnFailed();
+    }).schedule.get();
 }
 
 clsColumnTotals AllColumnTotals(const clsZR3Form &form, clsSchedulePrices &prices)
@@ -150,6 +159,8 @@ Money AdvocacyTotal(const clsZR3Form &form)
     Money total;
     for (const auto &item : form.ScheduleOfTimeItemsCollection())
         if (item->Advocacy())
-            total = total + mdExplained(form, [&] { return item->Claim(); }, *item);
+            total = total
+                + mdExplained(
+                    form, [&] { return item->Claim(); }, *item);
     return RoundMoney2(total);
 }

@@ -60,9 +60,10 @@ clsLine lineAt(const Form &form, int number, clsCommsKind kind)
     int found = 0;
     for (int n = 1; n <= int(form.FeeEarnerGroupsCollection().size()); ++n) {
         const auto group = form.FeeEarnerGroupByOrderID(n);
+        const Group &candidate = mdExisting(group);
         // Counted without a rate too: a sum beyond 32 bits is an error in any case.
-        const int count = SumOfCounts(mdExisting(group), feeEarners.value(group->UniqueID()), line.kind.count);
-        if (count >= 1 && TextValue(line.kind.rate(*group)) > 0)
+        const int count = SumOfCounts(candidate, feeEarners.value(candidate.UniqueID()), line.kind.count);
+        if (count >= 1 && TextValue(line.kind.rate(candidate)) > 0)
             ++found;
         if (found == number) {
             line.group = group;

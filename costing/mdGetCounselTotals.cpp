@@ -12,7 +12,9 @@ template <class Field> Money sumOfFees(const clsZR3Form &form, Field field)
     Money total;
     for (const auto &disbursement : form.DisbursementsCollection())
         if (disbursement->Counsel())
-            total = total + mdExplained(form, [&] { return MoneyFromText(((*disbursement).*field)()); }, *disbursement);
+            total = total
+                + mdExplained(
+                    form, [&] { return MoneyFromText(((*disbursement).*field)()); }, *disbursement);
     return total;
 }
 
@@ -59,8 +61,11 @@ Money CounselGrossAtLine(const clsZR3Form &form, int position)
     Money total;
     for (const auto &disbursement : form.DisbursementsCollection())
         if (disbursement->Counsel() && disbursement->CounselUniqueID() == uniqueID)
-            mdExplained(form, [&] {
-                total = mdSumOf({total, MoneyFromText(disbursement->Amount()), MoneyFromText(disbursement->VAT())});
-            }, *disbursement);
+            mdExplained(
+                form,
+                [&] {
+                    total = mdSumOf({total, MoneyFromText(disbursement->Amount()), MoneyFromText(disbursement->VAT())});
+                },
+                *disbursement);
     return total;
 }

@@ -7,7 +7,9 @@ Money FASItemsTotal(const clsZR3Form &form)
 {
     Money total;
     for (const auto &item : form.FASItemsCollection())
-        total = total + mdExplained(form, [&] { return item->Total(); }, *item);
+        total = total
+            + mdExplained(
+                form, [&] { return item->Total(); }, *item);
     return total;
 }
 
@@ -17,7 +19,9 @@ Money FASVATTotal(const clsZR3Form &form)
     for (const auto &item : form.FASItemsCollection()) {
         if (item->VATForFAS().isEmpty())
             item->VATForFAS = QStringLiteral("0");
-        total = total + mdExplained(form, [&] { return MoneyFromText(item->VATForFAS()); }, *item);
+        total = total
+            + mdExplained(
+                form, [&] { return MoneyFromText(item->VATForFAS()); }, *item);
     }
     return total;
 }

@@ -16,10 +16,13 @@ inline Money mdSumOf(std::initializer_list<Money> parts)
 }
 
 /// The exact sum of one money field over items of a claim; a text that is no number is the type error.
-template <class Collection, class Field> Money mdSumOf(const clsZR3Form &form, const Collection &collection, Field field)
+template <class Collection, class Field>
+Money mdSumOf(const clsZR3Form &form, const Collection &collection, Field field)
 {
     Money total;
     for (const auto &item : collection)
-        total = total + mdExplained(form, [&] { return MoneyFromText(((*item).*field)()); }, *item);
+        total = total
+            + mdExplained(
+                form, [&] { return MoneyFromText(((*item).*field)()); }, *item);
     return total;
 }

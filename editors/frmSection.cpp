@@ -263,8 +263,8 @@ bool frmSection::checkRequired()
     return false;
 }
 
-/// What a file has brought into a box that the user has not been to may be what nothing can be computed with. The editor
-/// of an item stores none of it: an empty amount becomes 0.00, and a box with anything else is gone to.
+/// What a file has brought into a box that the user has not been to may be what nothing can be computed with. The
+/// editor of an item stores none of it: an empty amount becomes 0.00, and a box with anything else is gone to.
 bool frmSection::checkTyped()
 {
     if (!m_screen.itemWord)

@@ -25,8 +25,8 @@ bool booleanFromText(QLatin1String text)
 QString causeOf(const clsXMLRecord &record, const clsXMLField &field, const char *words)
 {
     return mdSentenceOf(record,
-        QString::fromLatin1(words).arg(
-            mdPropertyInWords(QString::fromLatin1(field.property().name)), mdQuoted(QString::fromUtf8(field.content()))));
+        QString::fromLatin1(words).arg(mdPropertyInWords(QString::fromLatin1(field.property().name)),
+            mdQuoted(QString::fromUtf8(field.content()))));
 }
 
 } // namespace

@@ -69,8 +69,7 @@ bool beginsWord(const QString &property, qsizetype at)
     const QChar before = property[at - 1];
     if (property[at].isDigit())
         return !before.isDigit();
-    return property[at].isUpper()
-        && (!before.isUpper() || (at + 1 < property.size() && property[at + 1].isLower()));
+    return property[at].isUpper() && (!before.isUpper() || (at + 1 < property.size() && property[at + 1].isLower()));
 }
 
 } // namespace

@@ -111,8 +111,7 @@ void setLookOfLastRow(clsPreviewRowLook look)
     grid.setRowLook(grid.Rows(), look);
 }
 
-template <class Value, class Draw>
-void drawTotal(int column, const clsFigure<Value> &figure, Draw draw)
+template <class Value, class Draw> void drawTotal(int column, const clsFigure<Value> &figure, Draw draw)
 {
     if (figure.error)
         mdExportPreviewSetFailure(column, figure.error->cause(), Alignment::Centre);
@@ -122,9 +121,8 @@ void drawTotal(int column, const clsFigure<Value> &figure, Draw draw)
 
 void drawTotals(const clsColumnTotals &totals)
 {
-    const auto drawTime = [](int column, const QString &time) {
-        mdExportPreviewSetText(column, time, Alignment::Centre, true, false);
-    };
+    const auto drawTime
+        = [](int column, const QString &time) { mdExportPreviewSetText(column, time, Alignment::Centre, true, false); };
     const auto drawMoney = [](int column, Money amount) {
         mdExportPreviewSetText(column, MoneyToText(amount), Alignment::Centre, false, false, true);
     };

@@ -56,7 +56,8 @@ QString grossText(const Form &form, const clsZR3ExpertInvoice &invoice)
 /// A figure of a line of the letters and calls, such as `atLine<CommsRateAtLine>`.
 template <auto Figure> auto atLine(const Form &form, int line, clsCommsKind kind)
 {
-    return mdExplained(form, [&] { return Figure(form, line, kind); }, line, kind);
+    return mdExplained(
+        form, [&] { return Figure(form, line, kind); }, line, kind);
 }
 
 constexpr auto rateAt = atLine<CommsRateAtLine>;

@@ -54,7 +54,9 @@ const clsPlaceholderRow Page2Rows[] = {
     ZR3_WORDS("{h}", OutcomeCodeOf(HowDidCaseEndCollection(), form.OutcomeOfCase, form.OutcomeOfCase.HowDidCaseEnd)),
     ZR3_WORDS("{i}", OutcomeCodeOf(ResultCollection(), form.OutcomeOfCase, form.OutcomeOfCase.Result)),
     ZR3_WORDS("{j}", OutcomeCodeOf(ADRProposedCollection(), form.OutcomeOfCase, form.OutcomeOfCase.ADRProposed)),
-    ZR3_WORDS("{k}", OutcomeCodeOf(PublicBenefitsAchievedCollection(), form.OutcomeOfCase, form.OutcomeOfCase.PublicBenefitsAchieved)),
+    ZR3_WORDS("{k}",
+        OutcomeCodeOf(
+            PublicBenefitsAchievedCollection(), form.OutcomeOfCase, form.OutcomeOfCase.PublicBenefitsAchieved)),
     ZR3_TICK("{l}", OutcomeOfCase.Costs),
     ZR3_TICK("{m}", OutcomeOfCase.Damages),
     ZR3_TICK("{n}", OutcomeOfCase.Property),

@@ -50,7 +50,9 @@ const clsPlaceholderRow Page2Rows[] = {
     ZR3_WORDS("{2}", OutcomeCodeOf(HowDidCaseEndCollection(), form.OutcomeOfCase, form.OutcomeOfCase.HowDidCaseEnd)),
     ZR3_WORDS("{3}", OutcomeCodeOf(ResultCollection(), form.OutcomeOfCase, form.OutcomeOfCase.Result)),
     ZR3_WORDS("{4}", OutcomeCodeOf(ADRProposedCollection(), form.OutcomeOfCase, form.OutcomeOfCase.ADRProposed)),
-    ZR3_WORDS("{5}", OutcomeCodeOf(PublicBenefitsAchievedCollection(), form.OutcomeOfCase, form.OutcomeOfCase.PublicBenefitsAchieved)),
+    ZR3_WORDS("{5}",
+        OutcomeCodeOf(
+            PublicBenefitsAchievedCollection(), form.OutcomeOfCase, form.OutcomeOfCase.PublicBenefitsAchieved)),
     ZR3_TEXT("{dateoffinalorder}", OutcomeOfCase.DateOfFinalOrder),
     ZR3_TICK("{6}", OutcomeOfCase.Costs),
     ZR3_TICK("{7}", OutcomeOfCase.Damages),
@@ -189,7 +191,8 @@ constexpr auto hearing = mdItemAt<&clsZR3Form::FASItemByOrderID>;
 template <auto Figure> QString figureOf(const clsZR3Form &form, int i)
 {
     const clsZR3FASItem &item = *hearing(form, i);
-    return mdExplained(form, [&] { return MoneyToText((item.*Figure)()); }, item);
+    return mdExplained(
+        form, [&] { return MoneyToText((item.*Figure)()); }, item);
 }
 
 const clsZR3FASItem &boltOn(const clsZR3Form &form, int i)

@@ -82,7 +82,8 @@ void exportSheet(clsExport &run, const QString &pageTemplate, int pageNumber, in
     for (int row = start; row <= last; ++row) {
         mdSetProgress(row, count, QStringLiteral("Exporting Page %1").arg(pageNumber));
         const clsZR3ScheduleOfTimeItem &item = *run.form.ScheduleOfTimeItemsForExportCollection()[size_t(row - 1)];
-        mdExplained(run.form, [&] { typeRow(word, item); }, item);
+        mdExplained(
+            run.form, [&] { typeRow(word, item); }, item);
         if (row < last)
             word.MoveSursorToNextLine();
     }

@@ -56,14 +56,13 @@ Status load(clsConsoleUserInterface &console, clsZR3Form &form, const QString &p
 {
     // That a file which can't be read is no claim either goes without saying.
     console.showsOnlyFirstMessage = true;
-    const Status status
-        = guarded(console, Status::NoClaim, [&] {
-              if (!form.LoadXML(path))
-                  return Status::NoClaim;
-              // Nobody can mend the claim here.
-              form.CheckDerivedCollections();
-              return Status::Done;
-          });
+    const Status status = guarded(console, Status::NoClaim, [&] {
+        if (!form.LoadXML(path))
+            return Status::NoClaim;
+        // Nobody can mend the claim here.
+        form.CheckDerivedCollections();
+        return Status::Done;
+    });
     console.showsOnlyFirstMessage = false;
     return status;
 }

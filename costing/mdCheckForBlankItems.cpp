@@ -21,9 +21,7 @@ int mdCountBlankScheduleItems(const clsZR3Form &form)
 {
     int count = 0;
     for (const auto &item : form.ScheduleOfTimeItemsCollection())
-        if (mdExplained(
-                form, [&] { return TimeToMinutes(item->TTime()); }, *item)
-            == 0)
+        if (mdExplained(form, *item, [&] { return TimeToMinutes(item->TTime()); }) == 0)
             ++count;
     return count;
 }

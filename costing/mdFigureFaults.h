@@ -51,12 +51,22 @@ clsFigureFaults mdFixedFeeFaults(const clsZR3Form &form);
 /// where there is none.
 QString mdSentenceFor(const clsRunTimeError &error, const clsFigureFaults &faults);
 
-/// Runs what computes with an item, or with a line of the letters and calls. An error goes on with its cause in words.
-template <class Compute, class... Of> auto mdExplained(const clsZR3Form &form, Compute compute, const Of &...of)
+/// Runs what computes with an item. An error goes on with its cause in words.
+template <class Item, class Compute> auto mdExplained(const clsZR3Form &form, const Item &item, Compute compute)
 {
     try {
         return compute();
     } catch (const clsRunTimeError &error) {
-        throw error.because(mdSentenceFor(error, mdFigureFaults(form, of...)));
+        throw error.because(mdSentenceFor(error, mdFigureFaults(form, item)));
+    }
+}
+
+/// The same of what computes with a line of the letters and calls.
+template <class Compute> auto mdExplained(const clsZR3Form &form, int line, clsCommsKind kind, Compute compute)
+{
+    try {
+        return compute();
+    } catch (const clsRunTimeError &error) {
+        throw error.because(mdSentenceFor(error, mdFigureFaults(form, line, kind)));
     }
 }

@@ -40,19 +40,16 @@ public:
     {
         using Price = clsSchedulePrice;
         if (price.errorOf(Price::ColumnFigure))
-            mdExplained(
-                form, [&] { item.TimeColumn(); }, item);
+            mdExplained(form, item, [&] { item.TimeColumn(); });
         const auto column = size_t(price.TimeColumn);
         attempt(m_totals.times[column], [&] {
             if (price.errorOf(Price::TimeFigure))
-                mdExplained(
-                    form, [&] { TimeToMinutes(price.TTime); }, item);
+                mdExplained(form, item, [&] { TimeToMinutes(price.TTime); });
             addMinutes(m_minutes[column], price.Minutes);
         });
         attempt(m_totals.claims[column], [&] {
             if (price.errorOf(Price::ClaimFigure))
-                mdExplained(
-                    form, [&] { item.Claim(); }, item);
+                mdExplained(form, item, [&] { item.Claim(); });
             m_totals.claims[column].value += price.Claim;
         });
     }
@@ -120,9 +117,7 @@ QString ColumnTimeTotal(const clsZR3Form &form, int column)
 {
     int minutes = 0;
     forBilledItems(form, column, [&](const clsZR3ScheduleOfTimeItem &item) {
-        addMinutes(minutes,
-            mdExplained(
-                form, [&] { return TimeToMinutes(item.TTime()); }, item));
+        addMinutes(minutes, mdExplained(form, item, [&] { return TimeToMinutes(item.TTime()); }));
     });
     return MinutesToTime(minutes);
 }
@@ -131,9 +126,7 @@ Money ColumnClaimTotal(const clsZR3Form &form, int column)
 {
     Money total;
     forBilledItems(form, column, [&](const clsZR3ScheduleOfTimeItem &item) {
-        total = total
-            + mdExplained(
-                form, [&] { return item.Claim(); }, item);
+        total = total + mdExplained(form, item, [&] { return item.Claim(); });
     });
     return RoundMoney2(total);
 }
@@ -159,8 +152,6 @@ Money AdvocacyTotal(const clsZR3Form &form)
     Money total;
     for (const auto &item : form.ScheduleOfTimeItemsCollection())
         if (item->Advocacy())
-            total = total
-                + mdExplained(
-                    form, [&] { return item->Claim(); }, *item);
+            total = total + mdExplained(form, *item, [&] { return item->Claim(); });
     return RoundMoney2(total);
 }

@@ -162,9 +162,8 @@ Money CommsTotal(const clsZR3Form &form)
     Money total;
     for (int line = 1; line <= CommsLines; ++line)
         for (const clsCommsKind kind : {clsCommsKind::Calls, clsCommsKind::LettersIn, clsCommsKind::LettersOut})
-            mdExplained(
-                form, [&] { total = total + MoneyFromDouble(asPrinted(CommsClaimAtLine(form, line, kind))); }, line,
-                kind);
+            mdExplained(form, line, kind,
+                [&] { total = total + MoneyFromDouble(asPrinted(CommsClaimAtLine(form, line, kind))); });
     return RoundMoney2(total);
 }
 

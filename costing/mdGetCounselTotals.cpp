@@ -12,9 +12,7 @@ template <class Field> Money sumOfFees(const clsZR3Form &form, Field field)
     Money total;
     for (const auto &disbursement : form.DisbursementsCollection())
         if (disbursement->Counsel())
-            total = total
-                + mdExplained(
-                    form, [&] { return MoneyFromText(((*disbursement).*field)()); }, *disbursement);
+            total = total + mdExplained(form, *disbursement, [&] { return MoneyFromText(((*disbursement).*field)()); });
     return total;
 }
 
@@ -61,11 +59,8 @@ Money CounselGrossAtLine(const clsZR3Form &form, int position)
     Money total;
     for (const auto &disbursement : form.DisbursementsCollection())
         if (disbursement->Counsel() && disbursement->CounselUniqueID() == uniqueID)
-            mdExplained(
-                form,
-                [&] {
-                    total = mdSumOf({total, MoneyFromText(disbursement->Amount()), MoneyFromText(disbursement->VAT())});
-                },
-                *disbursement);
+            mdExplained(form, *disbursement, [&] {
+                total = mdSumOf({total, MoneyFromText(disbursement->Amount()), MoneyFromText(disbursement->VAT())});
+            });
     return total;
 }

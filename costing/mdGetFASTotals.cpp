@@ -7,9 +7,7 @@ Money FASItemsTotal(const clsZR3Form &form)
 {
     Money total;
     for (const auto &item : form.FASItemsCollection())
-        total = total
-            + mdExplained(
-                form, [&] { return item->Total(); }, *item);
+        total = total + mdExplained(form, *item, [&] { return item->Total(); });
     return total;
 }
 
@@ -19,9 +17,7 @@ Money FASVATTotal(const clsZR3Form &form)
     for (const auto &item : form.FASItemsCollection()) {
         if (item->VATForFAS().isEmpty())
             item->VATForFAS = QStringLiteral("0");
-        total = total
-            + mdExplained(
-                form, [&] { return MoneyFromText(item->VATForFAS()); }, *item);
+        total = total + mdExplained(form, *item, [&] { return MoneyFromText(item->VATForFAS()); });
     }
     return total;
 }

@@ -21,8 +21,6 @@ Money mdSumOf(const clsZR3Form &form, const Collection &collection, Field field)
 {
     Money total;
     for (const auto &item : collection)
-        total = total
-            + mdExplained(
-                form, [&] { return MoneyFromText(((*item).*field)()); }, *item);
+        total = total + mdExplained(form, *item, [&] { return MoneyFromText(((*item).*field)()); });
     return total;
 }

@@ -21,26 +21,20 @@ const clsZR3Disbursement &counselFee(const Form &form, int i)
 QString counselText(const Form &form, int i)
 {
     const clsZR3Disbursement &fee = counselFee(form, i);
-    return mdExplained(
-        form,
-        [&] {
-            const auto named = form.CounselByUniqueID(fee.CounselUniqueID());
-            const clsZR3Counsel &counsel = mdExisting(named);
-            return counsel.AccountNumber() + QStringLiteral(" - ") + counsel.Name();
-        },
-        fee);
+    return mdExplained(form, fee, [&] {
+        const auto named = form.CounselByUniqueID(fee.CounselUniqueID());
+        const clsZR3Counsel &counsel = mdExisting(named);
+        return counsel.AccountNumber() + QStringLiteral(" - ") + counsel.Name();
+    });
 }
 
 /// Amount and VAT of an item added; the type error where one is no number.
 template <class Item, class Amount, class VAT>
 QString grossText(const Form &form, const Item &item, Amount amount, VAT vat)
 {
-    return mdExplained(
-        form,
-        [&] {
-            return MoneyToText(mdSumOf({MoneyFromText((item.*amount)()), MoneyFromText((item.*vat)())}));
-        },
-        item);
+    return mdExplained(form, item, [&] {
+        return MoneyToText(mdSumOf({MoneyFromText((item.*amount)()), MoneyFromText((item.*vat)())}));
+    });
 }
 
 QString grossText(const Form &form, const clsZR3Disbursement &disbursement)
@@ -56,8 +50,7 @@ QString grossText(const Form &form, const clsZR3ExpertInvoice &invoice)
 /// A figure of a line of the letters and calls, such as `atLine<CommsRateAtLine>`.
 template <auto Figure> auto atLine(const Form &form, int line, clsCommsKind kind)
 {
-    return mdExplained(
-        form, [&] { return Figure(form, line, kind); }, line, kind);
+    return mdExplained(form, line, kind, [&] { return Figure(form, line, kind); });
 }
 
 constexpr auto rateAt = atLine<CommsRateAtLine>;

@@ -191,8 +191,7 @@ constexpr auto hearing = mdItemAt<&clsZR3Form::FASItemByOrderID>;
 template <auto Figure> QString figureOf(const clsZR3Form &form, int i)
 {
     const clsZR3FASItem &item = *hearing(form, i);
-    return mdExplained(
-        form, [&] { return MoneyToText((item.*Figure)()); }, item);
+    return mdExplained(form, item, [&] { return MoneyToText((item.*Figure)()); });
 }
 
 const clsZR3FASItem &boltOn(const clsZR3Form &form, int i)

@@ -82,8 +82,7 @@ void exportSheet(clsExport &run, const QString &pageTemplate, int pageNumber, in
     for (int row = start; row <= last; ++row) {
         mdSetProgress(row, count, QStringLiteral("Exporting Page %1").arg(pageNumber));
         const clsZR3ScheduleOfTimeItem &item = *run.form.ScheduleOfTimeItemsForExportCollection()[size_t(row - 1)];
-        mdExplained(
-            run.form, [&] { typeRow(word, item); }, item);
+        mdExplained(run.form, item, [&] { typeRow(word, item); });
         if (row < last)
             word.MoveSursorToNextLine();
     }

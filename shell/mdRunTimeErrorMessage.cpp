@@ -19,7 +19,9 @@ QString mdRecoveredCopyMessage(const QString &recoveredCopy)
 
 QString mdRunTimeErrorMessage(const clsRunTimeError &error, const QString &recoveredCopy)
 {
-    const QString text = QStringLiteral("Run-time error '%1':").arg(error.number()) + Paragraph + error.description();
+    QString text = QStringLiteral("Run-time error '%1':").arg(error.number()) + Paragraph + error.description();
+    if (!error.cause().isEmpty())
+        text += Paragraph + error.cause();
     const QString copy = mdRecoveredCopyMessage(recoveredCopy);
     return copy.isEmpty() ? text : text + Paragraph + copy;
 }

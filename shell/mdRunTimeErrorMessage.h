@@ -6,6 +6,6 @@
 /// where none was written; the text is empty where there was nothing to write.
 QString mdRecoveredCopyMessage(const QString &recoveredCopy);
 
-/// The text of the box that an error shows when nothing has caught it: its number, its description, and what became of
-/// the work that was not saved.
+/// The text of the box that an error shows when nothing has caught it: its number, its description, its cause where
+/// that is known, and what became of the work that was not saved.
 QString mdRunTimeErrorMessage(const clsRunTimeError &error, const QString &recoveredCopy);

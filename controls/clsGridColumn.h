@@ -25,6 +25,7 @@ struct clsGridColumn {
     const clsXMLRecord *helper = nullptr; ///< gives the argument of a property that takes one; outlives the column
     QString helperProperty {}; ///< the helper's property that gives it; empty for a plain property
     bool forceUnderline = false;
+    QString faultOf {}; ///< the property whose fault the column shows, where it isn't its own
 
     /// Columns without a width carry values too, but are not seen.
     bool isShown() const { return visible && width > 0; }

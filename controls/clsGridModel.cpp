@@ -12,6 +12,7 @@ constexpr int RowsWithoutProgress = 250;
 
 constexpr char16_t TickMark = u'\u2713';
 constexpr char16_t CrossMark = u'\u2717';
+const QString WrongMark = QStringLiteral("!");
 
 /// Takes the bar away again, also when an item can't be read.
 class clsFillProgress {
@@ -42,6 +43,28 @@ QString propertyText(const clsZR3Item &item, const clsGridColumn &column)
     if (!column.helper)
         throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
     return ReadProperty(item, column.property, ReadProperty(*column.helper, column.helperProperty));
+}
+
+/// Whether an error is one of the column, which asks for what no item has, and not of the item.
+bool isOfColumn(const clsRunTimeError &error)
+{
+    return error.number() == clsRunTimeError::NoSuchProperty || error.number() == clsRunTimeError::ArgumentNotOptional
+        || error.number() == clsRunTimeError::WrongNumberOfArguments;
+}
+
+bool shows(const clsGridColumn &column, const QString &property)
+{
+    const QString &own = column.faultOf.isEmpty() ? column.property : column.faultOf;
+    return column.isShown() && own.compare(property, Qt::CaseInsensitive) == 0;
+}
+
+/// Why what a column shows is wrong; empty where it isn't.
+QString faultIn(const clsGridColumn &column, const clsGridFaults &faults)
+{
+    for (const auto &[property, why] : faults)
+        if (shows(column, property))
+            return why;
+    return {};
 }
 
 } // namespace
@@ -93,12 +116,54 @@ std::vector<clsGridModel::Row> clsGridModel::readRows(const clsGridItems &items)
         progress.reached(int(rows.size()) + 1);
         Row &row = rows.emplace_back(Row {item, item->Index, 0, {}});
         row.cells.reserve(m_columns.size());
+        const clsGridFaults faults = m_faultsOf ? m_faultsOf(*item) : clsGridFaults();
         for (const clsGridColumn &column : m_columns)
-            row.cells.push_back(clsGridCell::of(propertyText(*item, column)));
+            readCell(row, column, faults);
+        markRow(row, faults);
         if (m_orderable)
             row.orderID = LongFromText(ReadProperty(*item, u"OrderID"));
     }
     return rows;
+}
+
+void clsGridModel::readCell(Row &row, const clsGridColumn &column, const clsGridFaults &faults) const
+{
+    QString why = faultIn(column, faults);
+    try {
+        row.cells.push_back(clsGridCell::of(propertyText(*row.item, column)));
+    } catch (const clsRunTimeError &error) {
+        if (isOfColumn(error) || (!column.helperProperty.isEmpty() && !column.helper))
+            throw;
+        row.cells.push_back({});
+        if (why.isEmpty())
+            why = error.cause().isEmpty() ? error.description() : error.cause();
+    }
+    if (why.isEmpty() || !column.isShown())
+        return;
+    row.wrong.emplace_back(int(row.cells.size()) - 1, why);
+    row.cells.back() = {WrongMark, clsGridCell::Wrong};
+}
+
+/// What no column shows is told in the first, before what stands there: that may be the item's name.
+void clsGridModel::markRow(Row &row, const clsGridFaults &faults) const
+{
+    const size_t first = size_t(firstShownColumn());
+    for (const auto &[property, why] : faults) {
+        const bool shown = std::any_of(m_columns.begin(), m_columns.end(),
+            [&property = property](const clsGridColumn &column) { return shows(column, property); });
+        if (shown || row.cells[first].kind == clsGridCell::Wrong)
+            continue;
+        row.wrong.emplace_back(int(first), why);
+        row.cells[first] = {WrongMark + u' ' + row.cells[first].text, clsGridCell::Wrong};
+    }
+}
+
+QString clsGridModel::whyWrong(int row, int column) const
+{
+    for (const auto &[wrong, why] : m_rows[size_t(row)].wrong)
+        if (wrong == column)
+            return why;
+    return {};
 }
 
 /// Key columns as text, ascending; an orderable list by its order after them. Letters compare without regard to their
@@ -154,13 +219,15 @@ QVariant clsGridModel::data(const QModelIndex &index, int role) const
     const clsGridCell &shown = cell(index.row(), index.column());
     switch (role) {
     case Qt::DisplayRole:
-        if (shown.kind == clsGridCell::Text)
+        if (shown.kind == clsGridCell::Text || shown.kind == clsGridCell::Wrong)
             return shown.text;
         return QString(QChar(shown.kind == clsGridCell::Tick ? TickMark : CrossMark));
     case Qt::TextAlignmentRole: return int(mdGridAlignment(m_columns[size_t(index.column())].alignment));
     case Qt::AccessibleTextRole:
         if (shown.kind == clsGridCell::Text)
             return shown.text;
+        if (shown.kind == clsGridCell::Wrong)
+            return whyWrong(index.row(), index.column());
         return shown.kind == clsGridCell::Tick ? QStringLiteral("yes") : QStringLiteral("no");
     default: return {};
     }

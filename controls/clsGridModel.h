@@ -5,14 +5,19 @@
 
 #include <QAbstractTableModel>
 
+#include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 using clsGridItems = std::vector<std::shared_ptr<clsZR3Item>>;
 
-/// What a cell shows: a text, or the mark that stands for a boolean.
+/// Which properties of an item are wrong, and why: what a figure can't be computed from.
+using clsGridFaults = std::vector<std::pair<QString, QString>>;
+
+/// What a cell shows: a text, the mark that stands for a boolean, or the one for something that is wrong.
 struct clsGridCell {
-    enum Kind { Text, Tick, Cross };
+    enum Kind { Text, Tick, Cross, Wrong };
 
     QString text; ///< of a mark, the word that it stands for
     Kind kind = Text;
@@ -34,13 +39,19 @@ public:
     const std::vector<clsGridColumn> &columns() const { return m_columns; }
     int firstShownColumn() const;
 
-    /// Reads the items anew and sorts them. When an item can't be read, the rows stay as they were.
+    /// Finds what is wrong with an item; asked at each fill for each of them.
+    void setFaultReader(std::function<clsGridFaults(const clsZR3Item &)> faultsOf) { m_faultsOf = std::move(faultsOf); }
+
+    /// Reads the items anew and sorts them. A property that can't be read is wrong, and shown so; one that the items
+    /// don't have is an error, and the rows stay as they were.
     void fill(const clsGridItems &items);
     void clearRows();
     /// Writes each item's place, from 1, into its `OrderID`.
     void renumber();
     void writeOrder(int row, int orderID);
 
+    /// Why a cell is wrong; empty for all others.
+    QString whyWrong(int row, int column) const;
     const clsGridCell &cell(int row, int column) const { return m_rows[size_t(row)].cells[size_t(column)]; }
     /// The `Index` that the item had when it was read.
     int itemData(int row) const { return m_rows[size_t(row)].itemData; }
@@ -57,12 +68,16 @@ private:
         int itemData;
         int orderID;
         std::vector<clsGridCell> cells;
+        std::vector<std::pair<int, QString>> wrong {}; ///< the columns that are, and why
     };
 
+    void readCell(Row &row, const clsGridColumn &column, const clsGridFaults &faults) const;
+    void markRow(Row &row, const clsGridFaults &faults) const;
     std::vector<Row> readRows(const clsGridItems &items) const;
     void sort(std::vector<Row> &rows) const;
 
     std::vector<clsGridColumn> m_columns;
     std::vector<Row> m_rows;
+    std::function<clsGridFaults(const clsZR3Item &)> m_faultsOf;
     bool m_orderable = false;
 };

@@ -72,7 +72,9 @@ void oGridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     mdPaintLine(*painter, cell, Qt::BottomEdge, Theme::Hairline);
 
     const clsGridCell &shown = modelOf(index).cell(index.row(), index.column());
-    if (shown.kind == clsGridCell::Text)
+    if (shown.kind == clsGridCell::Wrong)
+        paintWrong(*painter, option, index);
+    else if (shown.kind == clsGridCell::Text)
         paintText(*painter, option, modelOf(index).columns()[size_t(index.column())], index.column(), shown.text);
     else
         paintMark(*painter, option, index);
@@ -91,6 +93,17 @@ void oGridDelegate::paintMark(QPainter &painter, const QStyleOptionViewItem &opt
     painter.setFont(m_mark.font);
     painter.setPen(colour);
     painter.drawText(insideOf(option.rect), index.data(Qt::TextAlignmentRole).toInt(), index.data().toString());
+}
+
+void oGridDelegate::paintWrong(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    QFont font = m_columns[size_t(index.column())].font;
+    font.setBold(true);
+    painter.setFont(font);
+    painter.setPen(option.state & QStyle::State_Enabled ? Theme::Red : Theme::Ink3);
+    const QRect inside = insideOf(option.rect);
+    painter.drawText(inside, index.data(Qt::TextAlignmentRole).toInt(),
+        QFontMetrics(font).elidedText(index.data().toString(), Qt::ElideRight, inside.width()));
 }
 
 bool oGridDelegate::isCut(
@@ -124,8 +137,11 @@ bool oGridDelegate::helpEvent(
         return QStyledItemDelegate::helpEvent(event, view, option, index);
     const clsGridCell &shown = modelOf(index).cell(index.row(), index.column());
     const clsGridColumn &column = modelOf(index).columns()[size_t(index.column())];
+    QString text = modelOf(index).whyWrong(index.row(), index.column());
     if (shown.kind == clsGridCell::Text && isCut(option, column, index.column(), shown.text))
-        QToolTip::showText(event->globalPos(), mdPlainToolTip(shown.text), view->viewport(), option.rect);
+        text = shown.text;
+    if (!text.isEmpty())
+        QToolTip::showText(event->globalPos(), mdPlainToolTip(text), view->viewport(), option.rect);
     else
         QToolTip::hideText();
     return true;

@@ -36,6 +36,7 @@ private:
         QFontMetrics metrics;
     };
 
+    void paintWrong(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
     void paintMark(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
     void paintText(QPainter &painter, const QStyleOptionViewItem &option, const clsGridColumn &column, int number,
         const QString &text) const;

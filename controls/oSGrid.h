@@ -54,6 +54,12 @@ public:
     void setItemCollection(std::function<clsGridItems()> collect) { m_readItems = std::move(collect); }
     clsGridItems ItemCollection() const { return m_readItems ? m_readItems() : clsGridItems(); }
 
+    /// Finds what is wrong with an item, so that its cells can show it.
+    void setFaultReader(std::function<clsGridFaults(const clsZR3Item &)> faultsOf)
+    {
+        m_model->setFaultReader(std::move(faultsOf));
+    }
+
     /// Lays out the columns and fills the rows; for once after the columns and the collection are given.
     void Draw();
     /// Reads the items anew. With `keepInView` the selected row stands as far down in the window as it can.

@@ -1,8 +1,9 @@
 #include "costing/clsSchedulePrices.h"
 
+#include "costing/mdTimeFormatting.h"
 #include "costing/mdTimeToMoney.h"
+#include "formdata/clsXMLReading.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdExisting.h"
 
 namespace {
 
@@ -68,24 +69,62 @@ const clsSchedulePrice &clsSchedulePrices::of(const clsZR3ScheduleOfTimeItem &it
 clsSchedulePrices::clsEarner &clsSchedulePrices::earnerOf(const QString &uniqueID)
 {
     clsEarner &earner = m_earners[uniqueID];
-    if (!earner.rates) {
-        const auto feeEarner = m_form.FeeEarnerByUniqueID(uniqueID);
-        earner.initials = mdExisting(feeEarner).Reference();
-        m_groups.push_back(feeEarner->Group());
-        m_rates.push_back(std::make_unique<clsGroupRates>(mdExisting(m_groups.back())));
-        earner.rates = m_rates.back().get();
-    }
+    if (earner.known)
+        return earner;
+    earner.known = true;
+    const auto feeEarner = m_form.FeeEarnerByUniqueID(uniqueID);
+    if (!feeEarner)
+        return earner;
+    earner.initials = feeEarner->Reference();
+    const auto group = feeEarner->Group();
+    if (!group)
+        return earner;
+    m_groups.push_back(group);
+    m_rates.push_back(std::make_unique<clsGroupRates>(*group));
+    earner.rates = m_rates.back().get();
     return earner;
 }
 
 void clsSchedulePrices::price(const clsZR3ScheduleOfTimeItem &item, clsSchedulePrice &result)
 {
+    using Price = clsSchedulePrice;
+    using enum Price::Figure;
+    const auto note
+        = [&result](Price::Figure figure, int error) { result.errors[size_t(figure)] = std::int16_t(error); };
+    // A figure that is computed of others has the error of the first of them that has one.
+    const auto attempt = [&](Price::Figure figure, std::initializer_list<Price::Figure> parts, auto compute) {
+        for (const Price::Figure part : parts)
+            if (const int error = result.errorOf(part))
+                return note(figure, error);
+        try {
+            compute();
+        } catch (const clsRunTimeError &error) {
+            note(figure, error.number());
+        }
+    };
+
+    const clsXMLReading reading(item);
     const clsEarner &earner = earnerOf(item.FeeEarnerUniqueID());
-    result.FeeEarnerInitials = earner.initials;
+    if (earner.initials)
+        result.FeeEarnerInitials = *earner.initials;
+    else
+        note(InitialsFigure, clsRunTimeError::ObjectNotSet);
     result.TTime = item.TTime();
-    result.TimeColumn = item.TimeColumn();
-    result.Rate = item.RateBy(*earner.rates, result.TimeColumn);
-    result.BasicClaim = TimeToMoney(result.TTime, result.Rate);
-    result.TotalEnhancementPercentage = item.TotalEnhancementPercentageBy(*earner.rates);
-    result.Claim = item.ClaimBy(result.BasicClaim, result.TotalEnhancementPercentage);
+    if (result.TTime.isEmpty()) // known without trying: a claim may have thousands of blank items
+        note(TimeFigure, clsRunTimeError::SubscriptOutOfRange);
+    else
+        attempt(TimeFigure, {}, [&] { result.Minutes = TimeToMinutes(result.TTime); });
+    attempt(ColumnFigure, {}, [&] { result.TimeColumn = item.TimeColumn(); });
+    if (earner.rates) {
+        attempt(RateFigure, {ColumnFigure}, [&] { result.Rate = item.RateBy(*earner.rates, result.TimeColumn); });
+        attempt(PercentageFigure, {},
+            [&] { result.TotalEnhancementPercentage = item.TotalEnhancementPercentageBy(*earner.rates); });
+    } else {
+        note(RateFigure, clsRunTimeError::ObjectNotSet);
+        note(PercentageFigure, clsRunTimeError::ObjectNotSet);
+    }
+    attempt(BasicClaimFigure, {RateFigure, TimeFigure},
+        [&] { result.BasicClaim = MinutesToMoney(result.Minutes, result.Rate); });
+    attempt(ClaimFigure, {PercentageFigure, BasicClaimFigure},
+        [&] { result.Claim = item.ClaimBy(result.BasicClaim, result.TotalEnhancementPercentage); });
 }

@@ -5,6 +5,8 @@
 #include <QHash>
 #include <QString>
 
+#include <array>
+#include <cstdint>
 #include <deque>
 #include <memory>
 #include <optional>
@@ -38,15 +40,31 @@ private:
     std::optional<Money> m_enhancement;
 };
 
-/// All that is worked out for one item of the schedule.
+/// All that is worked out for one item of the schedule. A figure that fails in the item's own member fails here with
+/// the same error, which is noted: its place then holds nothing that counts.
 struct clsSchedulePrice {
+    enum Figure {
+        InitialsFigure,
+        TimeFigure,
+        ColumnFigure,
+        RateFigure,
+        BasicClaimFigure,
+        PercentageFigure,
+        ClaimFigure
+    };
+    static constexpr int Figures = ClaimFigure + 1;
+
     QString FeeEarnerInitials;
     QString TTime;
+    int Minutes = 0; ///< of the time
     int TimeColumn = 0;
     Money Rate;
     Money BasicClaim;
     Money TotalEnhancementPercentage;
     Money Claim;
+    std::array<std::int16_t, Figures> errors {}; ///< by figure: the number of its error, 0 for none
+
+    int errorOf(Figure figure) const { return errors[size_t(figure)]; }
 };
 
 /// Prices each item of a schedule once, for whoever shows all of them and their totals: the figures are those of the
@@ -56,11 +74,13 @@ public:
     explicit clsSchedulePrices(const clsZR3Form &form);
 
     const clsSchedulePrice &of(const clsZR3ScheduleOfTimeItem &item);
+    const clsZR3Form &form() const { return m_form; }
 
 private:
     struct clsEarner {
-        QString initials;
-        clsGroupRates *rates = nullptr;
+        bool known = false;
+        std::optional<QString> initials; ///< none where no fee earner has the identity
+        clsGroupRates *rates = nullptr; ///< none without a group
     };
     clsEarner &earnerOf(const QString &uniqueID);
     void price(const clsZR3ScheduleOfTimeItem &item, clsSchedulePrice &result);

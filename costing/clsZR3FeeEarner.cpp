@@ -2,6 +2,7 @@
 
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdReadDerived.h"
+#include "shell/mdExisting.h"
 
 std::span<const clsXMLDerivedProperty> clsZR3FeeEarner::DerivedProperties()
 {
@@ -20,6 +21,5 @@ std::shared_ptr<clsZR3FeeEarnerGroup> clsZR3FeeEarner::Group() const
 
 QString clsZR3FeeEarner::GroupReference() const
 {
-    const auto group = Group();
-    return group ? group->Reference() : QString();
+    return mdExisting(Group()).Reference();
 }

@@ -28,8 +28,7 @@ public:
 
     /// The group that `GroupUniqueID` names, or nothing.
     std::shared_ptr<clsZR3FeeEarnerGroup> Group() const;
-    /// That group's reference. It is empty where a file written by hand names a group that it doesn't have: the list
-    /// shows the fee earner all the same, and its editor gives it another group. Without one its work has no price.
+    /// That group's reference. Where a file written by hand names a group that it doesn't have, it is the object error.
     QString GroupReference() const;
 
 private:

@@ -2,20 +2,31 @@
 
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdReadDerived.h"
+#include "formdata/mdRecordInWords.h"
 
 namespace {
 
-/// The sum of a count over some fee earners; beyond 32 bits it is the overflow error.
-template <class FeeEarners, class Count> int sum(const FeeEarners &feeEarners, Count count)
+int sumOf(const clsZR3FeeEarnerGroup &group, int (*count)(const clsZR3FeeEarner &feeEarner))
 {
-    int total = 0;
-    for (const auto &feeEarner : feeEarners)
-        if (__builtin_add_overflow(total, count(*feeEarner), &total))
-            throw clsRunTimeError(clsRunTimeError::Overflow);
-    return total;
+    std::vector<const clsZR3FeeEarner *> feeEarners;
+    for (const auto &feeEarner : group.FeeEarnersCollection())
+        feeEarners.push_back(feeEarner.get());
+    return SumOfCounts(group, feeEarners, count);
 }
 
 } // namespace
+
+int SumOfCounts(const clsZR3FeeEarnerGroup &group, const std::vector<const clsZR3FeeEarner *> &feeEarners,
+    int (*count)(const clsZR3FeeEarner &feeEarner))
+{
+    int total = 0;
+    for (const clsZR3FeeEarner *feeEarner : feeEarners)
+        if (__builtin_add_overflow(total, count(*feeEarner), &total))
+            throw clsRunTimeError(clsRunTimeError::Overflow)
+                .because(
+                    mdSentenceOf(group, QStringLiteral("the counts of its fee earners add up to too large a number")));
+    return total;
+}
 
 std::span<const clsXMLDerivedProperty> clsZR3FeeEarnerGroup::DerivedProperties()
 {
@@ -41,15 +52,15 @@ std::vector<std::shared_ptr<clsZR3FeeEarner>> clsZR3FeeEarnerGroup::FeeEarnersCo
 
 int clsZR3FeeEarnerGroup::Calls() const
 {
-    return sum(FeeEarnersCollection(), [](const clsZR3FeeEarner &feeEarner) { return feeEarner.Calls(); });
+    return sumOf(*this, [](const clsZR3FeeEarner &feeEarner) { return feeEarner.Calls(); });
 }
 
 int clsZR3FeeEarnerGroup::LettersIn() const
 {
-    return sum(FeeEarnersCollection(), [](const clsZR3FeeEarner &feeEarner) { return feeEarner.LettersIn(); });
+    return sumOf(*this, [](const clsZR3FeeEarner &feeEarner) { return feeEarner.LettersIn(); });
 }
 
 int clsZR3FeeEarnerGroup::LettersOut() const
 {
-    return sum(FeeEarnersCollection(), [](const clsZR3FeeEarner &feeEarner) { return feeEarner.LettersOut(); });
+    return sumOf(*this, [](const clsZR3FeeEarner &feeEarner) { return feeEarner.LettersOut(); });
 }

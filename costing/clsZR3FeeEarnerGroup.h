@@ -50,3 +50,7 @@ public:
 private:
     clsZR3Form *m_form;
 };
+
+/// The sum of a count over the fee earners of a group; beyond 32 bits it is the overflow error.
+int SumOfCounts(const clsZR3FeeEarnerGroup &group, const std::vector<const clsZR3FeeEarner *> &feeEarners,
+    int (*count)(const clsZR3FeeEarner &feeEarner));

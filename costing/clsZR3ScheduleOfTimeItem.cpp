@@ -110,7 +110,8 @@ Money clsZR3ScheduleOfTimeItem::TotalEnhancementPercentageBy(clsGroupRates &rate
 
 Money clsZR3ScheduleOfTimeItem::Claim() const
 {
-    return ClaimBy(BasicClaim(), TotalEnhancementPercentage());
+    const Money percentage = TotalEnhancementPercentage();
+    return ClaimBy(BasicClaim(), percentage);
 }
 
 Money clsZR3ScheduleOfTimeItem::ClaimBy(Money basicClaim, Money percentage)

@@ -1,5 +1,6 @@
 #include "costing/mdCheckForBlankItems.h"
 
+#include "costing/mdFigureFaults.h"
 #include "costing/mdTimeFormatting.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/mdCustomMessages.h"
@@ -20,7 +21,7 @@ int mdCountBlankScheduleItems(const clsZR3Form &form)
 {
     int count = 0;
     for (const auto &item : form.ScheduleOfTimeItemsCollection())
-        if (TimeToMinutes(item->TTime()) == 0)
+        if (mdExplained(form, *item, [&] { return TimeToMinutes(item->TTime()); }) == 0)
             ++count;
     return count;
 }

@@ -1,5 +1,6 @@
 #include "costing/mdGetBillSummary.h"
 
+#include "costing/mdFigureFaults.h"
 #include "costing/mdGetCommsInfo.h"
 #include "costing/mdGetCounselTotals.h"
 #include "costing/mdGetDisbursementsTotals.h"
@@ -7,10 +8,17 @@
 #include "costing/mdPercentageCalculate.h"
 #include "costing/mdSumOf.h"
 #include "formdata/clsZR3Form.h"
+#include "formdata/mdRecordInWords.h"
 
 Money VATOf(const clsZR3Form &form, Money amount)
 {
-    return PercentageCalculate(amount, form.VATRate());
+    const QString rate = form.VATRate();
+    try {
+        return PercentageCalculate(amount, rate);
+    } catch (const clsRunTimeError &error) {
+        throw error.because(QStringLiteral("Form Setup: the VAT rate of %1 makes the VAT larger than an amount can be")
+                                .arg(mdQuoted(rate)));
+    }
 }
 
 Money ProfitCostsVAT(const clsZR3Form &form)
@@ -41,7 +49,11 @@ Money VATWithAdvocacyAndCounsel(const clsZR3Form &form)
 Money FixedFee(const clsZR3Form &form)
 {
     const QString text = form.ActualCostsIncurred.FixedFee();
-    return text.isEmpty() ? Money() : MoneyFromText(text);
+    try {
+        return text.isEmpty() ? Money() : MoneyFromText(text);
+    } catch (const clsRunTimeError &error) {
+        throw error.because(mdSentenceFor(error, mdFixedFeeFaults(form)));
+    }
 }
 
 Money FixedFeeNetTotal(const clsZR3Form &form)

@@ -1,6 +1,7 @@
 #include "costing/mdGetColumnTotals.h"
 
 #include "costing/clsSchedulePrices.h"
+#include "costing/mdFigureFaults.h"
 #include "costing/mdGetFASTotals.h"
 #include "costing/mdTimeFormatting.h"
 #include "formdata/clsOnBill.h"
@@ -17,9 +18,9 @@ template <class Visit> void forBilledItems(const clsZR3Form &form, int column, V
             visit(*item);
 }
 
-void addTime(int &minutes, const QString &time)
+void addMinutes(int &total, int minutes)
 {
-    if (__builtin_add_overflow(minutes, TimeToMinutes(time), &minutes))
+    if (__builtin_add_overflow(total, minutes, &total))
         throw clsRunTimeError(clsRunTimeError::Overflow);
 }
 
@@ -32,46 +33,116 @@ template <class OfColumn> Money sumOfColumns(OfColumn ofColumn)
     return RoundMoney2(total);
 }
 
+/// Adds up the figures of all columns in one walk. A column keeps the first error that it meets.
+class clsTotalling {
+public:
+    void add(const clsZR3Form &form, const clsZR3ScheduleOfTimeItem &item, const clsSchedulePrice &price)
+    {
+        using Price = clsSchedulePrice;
+        if (price.errorOf(Price::ColumnFigure))
+            mdExplained(form, item, [&] { item.TimeColumn(); });
+        const auto column = size_t(price.TimeColumn);
+        attempt(m_totals.times[column], [&] {
+            if (price.errorOf(Price::TimeFigure))
+                mdExplained(form, item, [&] { TimeToMinutes(price.TTime); });
+            addMinutes(m_minutes[column], price.Minutes);
+        });
+        attempt(m_totals.claims[column], [&] {
+            if (price.errorOf(Price::ClaimFigure))
+                mdExplained(form, item, [&] { item.Claim(); });
+            m_totals.claims[column].value += price.Claim;
+        });
+    }
+    /// Where it isn't known whether an item counts, or in which column, no total can go on.
+    void failAll(const clsRunTimeError &error)
+    {
+        for (auto &time : m_totals.times)
+            attempt(time, [&] { throw error; });
+        for (auto &claim : m_totals.claims)
+            attempt(claim, [&] { throw error; });
+    }
+    bool firstColumnFailed() const { return m_totals.claims.front().error.has_value(); }
+    const clsColumnTotals &totals()
+    {
+        for (size_t column = 0; column < m_minutes.size(); ++column) {
+            m_totals.times[column].value = MinutesToTime(m_minutes[column]);
+            clsFigure<Money> &claim = m_totals.claims[column];
+            attempt(claim, [&] { claim.value = RoundMoney2(claim.value); });
+        }
+        attempt(m_totals.schedule, [this] {
+            m_totals.schedule.value
+                = sumOfColumns([this](int column) { return m_totals.claims[size_t(column)].get(); });
+        });
+        return m_totals;
+    }
+
+private:
+    /// Goes on with a figure unless it has failed before.
+    template <class Value, class Compute> static void attempt(clsFigure<Value> &figure, Compute compute)
+    {
+        if (figure.error)
+            return;
+        try {
+            compute();
+        } catch (const clsRunTimeError &error) {
+            figure.error = error.because(QStringLiteral("The sum is too large"));
+        }
+    }
+
+    std::array<int, clsZR3ScheduleOfTimeItem::Columns> m_minutes {};
+    clsColumnTotals m_totals;
+};
+
+/// The totals of all items, or of those up to where it is enough.
+template <class Enough> clsColumnTotals totalsOf(const clsZR3Form &form, clsSchedulePrices &prices, Enough enough)
+{
+    clsTotalling totalling;
+    clsOnBill isOnBill(form);
+    try {
+        for (const auto &item : form.ScheduleOfTimeItemsCollection()) {
+            if (isOnBill(*item))
+                totalling.add(form, *item, prices.of(*item));
+            if (enough(totalling))
+                break;
+        }
+    } catch (const clsRunTimeError &error) {
+        totalling.failAll(error);
+    }
+    return totalling.totals();
+}
+
 } // namespace
 
 QString ColumnTimeTotal(const clsZR3Form &form, int column)
 {
     int minutes = 0;
-    forBilledItems(form, column, [&](const clsZR3ScheduleOfTimeItem &item) { addTime(minutes, item.TTime()); });
+    forBilledItems(form, column, [&](const clsZR3ScheduleOfTimeItem &item) {
+        addMinutes(minutes, mdExplained(form, item, [&] { return TimeToMinutes(item.TTime()); }));
+    });
     return MinutesToTime(minutes);
 }
 
 Money ColumnClaimTotal(const clsZR3Form &form, int column)
 {
     Money total;
-    forBilledItems(form, column, [&](const clsZR3ScheduleOfTimeItem &item) { total = total + item.Claim(); });
+    forBilledItems(form, column, [&](const clsZR3ScheduleOfTimeItem &item) {
+        total = total + mdExplained(form, item, [&] { return item.Claim(); });
+    });
     return RoundMoney2(total);
 }
 
 Money ScheduleTotal(const clsZR3Form &form)
 {
-    return sumOfColumns([&](int column) { return ColumnClaimTotal(form, column); });
+    clsSchedulePrices prices(form);
+    // The error of a sum is that of its first part, so that nothing behind a failure in the first column matters.
+    return totalsOf(form, prices, [](const clsTotalling &totalling) {
+        return totalling.firstColumnFailed();
+    }).schedule.get();
 }
 
 clsColumnTotals AllColumnTotals(const clsZR3Form &form, clsSchedulePrices &prices)
 {
-    std::array<int, clsZR3ScheduleOfTimeItem::Columns> minutes {};
-    clsColumnTotals totals;
-    clsOnBill isOnBill(form);
-    for (const auto &item : form.ScheduleOfTimeItemsCollection()) {
-        if (!isOnBill(*item))
-            continue;
-        const clsSchedulePrice &price = prices.of(*item);
-        const auto column = size_t(price.TimeColumn);
-        addTime(minutes[column], price.TTime);
-        totals.claims[column] += price.Claim;
-    }
-    for (size_t column = 0; column < minutes.size(); ++column) {
-        totals.times[column] = MinutesToTime(minutes[column]);
-        totals.claims[column] = RoundMoney2(totals.claims[column]);
-    }
-    totals.schedule = sumOfColumns([&](int column) { return totals.claims[size_t(column)]; });
-    return totals;
+    return totalsOf(form, prices, [](const clsTotalling &) { return false; });
 }
 
 Money AdvocacyTotal(const clsZR3Form &form)
@@ -81,6 +152,6 @@ Money AdvocacyTotal(const clsZR3Form &form)
     Money total;
     for (const auto &item : form.ScheduleOfTimeItemsCollection())
         if (item->Advocacy())
-            total = total + item->Claim();
+            total = total + mdExplained(form, *item, [&] { return item->Claim(); });
     return RoundMoney2(total);
 }

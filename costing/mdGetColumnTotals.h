@@ -3,10 +3,12 @@
 #include "costing/Money.h"
 
 #include "costing/clsZR3ScheduleOfTimeItem.h"
+#include "shell/clsRunTimeError.h"
 
 #include <QString>
 
 #include <array>
+#include <optional>
 
 class clsSchedulePrices;
 class clsZR3Form;
@@ -21,11 +23,25 @@ Money ColumnClaimTotal(const clsZR3Form &form, int column);
 /// The claims of all columns.
 Money ScheduleTotal(const clsZR3Form &form);
 
-/// The three figures above for all columns at once.
+/// A figure, or the error that it ends in.
+template <class Value> struct clsFigure {
+    Value value {};
+    std::optional<clsRunTimeError> error {};
+
+    /// The value; raises the error.
+    const Value &get() const
+    {
+        if (error)
+            throw *error;
+        return value;
+    }
+};
+
+/// The three figures above for all columns at once. One that fails leaves the others alone.
 struct clsColumnTotals {
-    std::array<QString, clsZR3ScheduleOfTimeItem::Columns> times;
-    std::array<Money, clsZR3ScheduleOfTimeItem::Columns> claims;
-    Money schedule;
+    std::array<clsFigure<QString>, clsZR3ScheduleOfTimeItem::Columns> times;
+    std::array<clsFigure<Money>, clsZR3ScheduleOfTimeItem::Columns> claims;
+    clsFigure<Money> schedule;
 };
 /// They are worked out in one walk, for whoever has the prices of the items at hand.
 clsColumnTotals AllColumnTotals(const clsZR3Form &form, clsSchedulePrices &prices);

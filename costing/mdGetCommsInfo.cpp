@@ -1,5 +1,6 @@
 #include "costing/mdGetCommsInfo.h"
 
+#include "costing/mdFigureFaults.h"
 #include "costing/mdGetColumnTotals.h"
 #include "costing/mdPercentageCalculate.h"
 #include "costing/mdSumOf.h"
@@ -9,31 +10,68 @@
 
 namespace {
 
-/// What a kind means for a group, a fee earner and the claim's settings.
-struct KindRow {
-    QString (*rate)(const clsZR3FeeEarnerGroup &);
-    int (*count)(const clsZR3FeeEarnerGroup &);
-    bool (*enhanced)(const clsZR3Communications &);
-    QString (*enhancementUniqueID)(const clsZR3Communications &);
-};
-
+using Form = clsZR3Form;
+using FeeEarner = clsZR3FeeEarner;
 using Group = clsZR3FeeEarnerGroup;
 using Comms = clsZR3Communications;
 
+/// What a kind means for a group, a fee earner and the claim's settings.
+struct KindRow {
+    QString (*rate)(const Group &);
+    int (*count)(const FeeEarner &);
+    bool (*enhanced)(const Comms &);
+    QString (*enhancementUniqueID)(const Comms &);
+};
+
 const KindRow Kinds[] = {
-    {[](const Group &g) { return g.CallsRate(); }, [](const Group &g) { return g.Calls(); },
+    {[](const Group &g) { return g.CallsRate(); }, [](const FeeEarner &f) { return f.Calls(); },
         [](const Comms &c) { return c.EnhanceCalls(); }, [](const Comms &c) { return c.CallsEnhancementUniqueID(); }},
-    {[](const Group &g) { return g.LettersInRate(); }, [](const Group &g) { return g.LettersIn(); },
+    {[](const Group &g) { return g.LettersInRate(); }, [](const FeeEarner &f) { return f.LettersIn(); },
         [](const Comms &c) { return c.EnhanceLettersIn(); },
         [](const Comms &c) { return c.LettersInEnhancementUniqueID(); }},
-    {[](const Group &g) { return g.LettersOutRate(); }, [](const Group &g) { return g.LettersOut(); },
+    {[](const Group &g) { return g.LettersOutRate(); }, [](const FeeEarner &f) { return f.LettersOut(); },
         [](const Comms &c) { return c.EnhanceLettersOut(); },
         [](const Comms &c) { return c.LettersOutEnhancementUniqueID(); }},
 };
 
-const KindRow &rowOf(clsCommsKind kind)
+/// What stands on a line: a group, and how often its fee earners wrote or called. Without a group it is empty.
+struct clsLine {
+    const Form &form;
+    const KindRow &kind;
+    std::shared_ptr<Group> group {};
+    int count = 0;
+};
+
+/// The fee earners by the group that they name, in the claim's order: each group would else look through all of them.
+using clsByGroup = QHash<QString, std::vector<const FeeEarner *>>;
+
+clsByGroup feeEarnersByGroup(const Form &form)
 {
-    return Kinds[int(kind)];
+    clsByGroup byGroup;
+    for (const auto &feeEarner : form.FeeEarnersCollection())
+        byGroup[feeEarner->GroupUniqueID()].push_back(feeEarner.get());
+    return byGroup;
+}
+
+clsLine lineAt(const Form &form, int number, clsCommsKind kind)
+{
+    clsLine line {form, Kinds[int(kind)]};
+    const clsByGroup feeEarners = feeEarnersByGroup(form);
+    int found = 0;
+    for (int n = 1; n <= int(form.FeeEarnerGroupsCollection().size()); ++n) {
+        const auto group = form.FeeEarnerGroupByOrderID(n);
+        const Group &candidate = mdExisting(group);
+        // Counted without a rate too: a sum beyond 32 bits is an error in any case.
+        const int count = SumOfCounts(candidate, feeEarners.value(candidate.UniqueID()), line.kind.count);
+        if (count >= 1 && TextValue(line.kind.rate(candidate)) > 0)
+            ++found;
+        if (found == number) {
+            line.group = group;
+            line.count = count;
+            break;
+        }
+    }
+    return line;
 }
 
 /// An amount as it comes out of its text: the totals add figures as they are printed.
@@ -42,79 +80,81 @@ double asPrinted(Money amount)
     return TextValue(MoneyToText(amount));
 }
 
-Money listedEnhancement(const clsZR3Form &form, int line, clsCommsKind kind)
+Money basicOf(const clsLine &line)
 {
-    const KindRow &row = rowOf(kind);
-    if (!row.enhanced(form.Communications))
+    if (!line.group)
         return {};
-    const auto enhancement = form.EnhancementByUniqueID(row.enhancementUniqueID(form.Communications));
-    if (!enhancement)
+    return RoundMoney2(DoubleFromStrictText(line.kind.rate(*line.group)) * double(line.count));
+}
+
+Money groupEnhancementOf(const clsLine &line)
+{
+    if (!line.group || !line.group->EnhanceComms())
         return {};
-    return PercentageCalculate(CommsBasicAtLine(form, line, kind), enhancement->Rate());
+    return RoundMoney2(PercentageCalculate(basicOf(line), line.group->EnhancementRate()));
+}
+
+Money listedEnhancementOf(const clsLine &line)
+{
+    const Comms &settings = line.form.Communications;
+    if (!line.kind.enhanced(settings))
+        return {};
+    const auto enhancement = line.form.EnhancementByUniqueID(line.kind.enhancementUniqueID(settings));
+    return enhancement ? PercentageCalculate(basicOf(line), enhancement->Rate()) : Money();
+}
+
+Money enhancementOf(const clsLine &line)
+{
+    if (!line.group)
+        return {};
+    return mdSumOf({listedEnhancementOf(line), groupEnhancementOf(line)});
+}
+
+Money claimOf(const clsLine &line)
+{
+    if (!line.group)
+        return {};
+    const double enhancement = asPrinted(enhancementOf(line));
+    return MoneyFromDouble(enhancement + asPrinted(basicOf(line)));
 }
 
 } // namespace
 
 std::shared_ptr<clsZR3FeeEarnerGroup> CommsGroupAtLine(const clsZR3Form &form, int line, clsCommsKind kind)
 {
-    const KindRow &row = rowOf(kind);
-    int found = 0;
-    for (int n = 1; n <= int(form.FeeEarnerGroupsCollection().size()); ++n) {
-        const auto group = form.FeeEarnerGroupByOrderID(n);
-        const Group &candidate = mdExisting(group);
-        const double rate = TextValue(row.rate(candidate));
-        const int count
-            = row.count(candidate); // read without a rate too: a sum beyond 32 bits is an error all the same
-        if (count >= 1 && rate > 0)
-            ++found;
-        if (found == line)
-            return group;
-    }
-    return {};
+    return lineAt(form, line, kind).group;
 }
 
 Money CommsRateAtLine(const clsZR3Form &form, int line, clsCommsKind kind)
 {
-    const auto group = CommsGroupAtLine(form, line, kind);
-    return group ? RoundMoney2(MoneyFromText(rowOf(kind).rate(*group))) : Money();
+    const clsLine found = lineAt(form, line, kind);
+    return found.group ? RoundMoney2(MoneyFromText(found.kind.rate(*found.group))) : Money();
 }
 
 QString CommsCountAtLine(const clsZR3Form &form, int line, clsCommsKind kind)
 {
-    const auto group = CommsGroupAtLine(form, line, kind);
-    return group ? QString::number(rowOf(kind).count(*group)) : QString();
+    const clsLine found = lineAt(form, line, kind);
+    return found.group ? QString::number(found.count) : QString();
 }
 
 Money CommsBasicAtLine(const clsZR3Form &form, int line, clsCommsKind kind)
 {
-    const auto group = CommsGroupAtLine(form, line, kind);
-    if (!group)
-        return {};
-    const KindRow &row = rowOf(kind);
-    return RoundMoney2(DoubleFromStrictText(row.rate(*group)) * double(row.count(*group)));
+    return basicOf(lineAt(form, line, kind));
 }
 
 Money CommsGroupEnhancement(const clsZR3Form &form, int line, clsCommsKind kind)
 {
-    const auto group = CommsGroupAtLine(form, line, kind);
-    if (!group || !group->EnhanceComms())
-        return {};
-    return RoundMoney2(PercentageCalculate(CommsBasicAtLine(form, line, kind), group->EnhancementRate()));
+    return groupEnhancementOf(lineAt(form, line, kind));
 }
 
 Money CommsEnhancementAtLine(const clsZR3Form &form, int line, clsCommsKind kind)
 {
-    if (!CommsGroupAtLine(form, line, kind))
-        return {};
-    return mdSumOf({listedEnhancement(form, line, kind), CommsGroupEnhancement(form, line, kind)});
+    return enhancementOf(lineAt(form, line, kind));
 }
 
 Money CommsClaimAtLine(const clsZR3Form &form, int line, clsCommsKind kind)
 {
-    if (!CommsGroupAtLine(form, line, kind))
-        return {};
-    const double enhancement = asPrinted(CommsEnhancementAtLine(form, line, kind));
-    return MoneyFromDouble(enhancement + asPrinted(CommsBasicAtLine(form, line, kind)));
+    return claimOf(lineAt(form, line, kind));
 }
 
 Money CommsTotal(const clsZR3Form &form)
@@ -122,7 +162,8 @@ Money CommsTotal(const clsZR3Form &form)
     Money total;
     for (int line = 1; line <= CommsLines; ++line)
         for (const clsCommsKind kind : {clsCommsKind::Calls, clsCommsKind::LettersIn, clsCommsKind::LettersOut})
-            total = total + MoneyFromDouble(asPrinted(CommsClaimAtLine(form, line, kind)));
+            mdExplained(form, line, kind,
+                [&] { total = total + MoneyFromDouble(asPrinted(CommsClaimAtLine(form, line, kind))); });
     return RoundMoney2(total);
 }
 

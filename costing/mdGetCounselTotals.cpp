@@ -12,7 +12,7 @@ template <class Field> Money sumOfFees(const clsZR3Form &form, Field field)
     Money total;
     for (const auto &disbursement : form.DisbursementsCollection())
         if (disbursement->Counsel())
-            total = total + MoneyFromText(((*disbursement).*field)());
+            total = total + mdExplained(form, *disbursement, [&] { return MoneyFromText(((*disbursement).*field)()); });
     return total;
 }
 
@@ -59,6 +59,8 @@ Money CounselGrossAtLine(const clsZR3Form &form, int position)
     Money total;
     for (const auto &disbursement : form.DisbursementsCollection())
         if (disbursement->Counsel() && disbursement->CounselUniqueID() == uniqueID)
-            total = mdSumOf({total, MoneyFromText(disbursement->Amount()), MoneyFromText(disbursement->VAT())});
+            mdExplained(form, *disbursement, [&] {
+                total = mdSumOf({total, MoneyFromText(disbursement->Amount()), MoneyFromText(disbursement->VAT())});
+            });
     return total;
 }

@@ -5,30 +5,30 @@
 
 Money CounselDisbursementsAmountTotal(const clsZR3Form &form)
 {
-    return mdSumOf(form.CounselDisbursementsCollection(), &clsZR3Disbursement::Amount);
+    return mdSumOf(form, form.CounselDisbursementsCollection(), &clsZR3Disbursement::Amount);
 }
 
 Money CounselDisbursementsVATTotal(const clsZR3Form &form)
 {
-    return mdSumOf(form.CounselDisbursementsCollection(), &clsZR3Disbursement::VAT);
+    return mdSumOf(form, form.CounselDisbursementsCollection(), &clsZR3Disbursement::VAT);
 }
 
 Money NonCounselDisbursementsAmountTotal(const clsZR3Form &form)
 {
-    return mdSumOf(form.NonCounselDisbursementsCollection(), &clsZR3Disbursement::Amount);
+    return mdSumOf(form, form.NonCounselDisbursementsCollection(), &clsZR3Disbursement::Amount);
 }
 
 Money NonCounselDisbursementsVATTotal(const clsZR3Form &form)
 {
-    return mdSumOf(form.NonCounselDisbursementsCollection(), &clsZR3Disbursement::VAT);
+    return mdSumOf(form, form.NonCounselDisbursementsCollection(), &clsZR3Disbursement::VAT);
 }
 
 Money ExpertInvoicesNetTotal(const clsZR3Form &form)
 {
-    return mdSumOf(form.ExpertInvoicesCollection(), &clsZR3ExpertInvoice::NetAmount);
+    return mdSumOf(form, form.ExpertInvoicesCollection(), &clsZR3ExpertInvoice::NetAmount);
 }
 
 Money ExpertInvoicesVATTotal(const clsZR3Form &form)
 {
-    return mdSumOf(form.ExpertInvoicesCollection(), &clsZR3ExpertInvoice::VATAmount);
+    return mdSumOf(form, form.ExpertInvoicesCollection(), &clsZR3ExpertInvoice::VATAmount);
 }

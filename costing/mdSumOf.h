@@ -1,6 +1,7 @@
 #pragma once
 
 #include "costing/Money.h"
+#include "costing/mdFigureFaults.h"
 
 #include <initializer_list>
 
@@ -14,11 +15,12 @@ inline Money mdSumOf(std::initializer_list<Money> parts)
     return total;
 }
 
-/// The exact sum of one money field over a collection; a text that is no number is the type error.
-template <class Collection, class Field> Money mdSumOf(const Collection &collection, Field field)
+/// The exact sum of one money field over items of a claim; a text that is no number is the type error.
+template <class Collection, class Field>
+Money mdSumOf(const clsZR3Form &form, const Collection &collection, Field field)
 {
     Money total;
     for (const auto &item : collection)
-        total = total + MoneyFromText(((*item).*field)());
+        total = total + mdExplained(form, *item, [&] { return MoneyFromText(((*item).*field)()); });
     return total;
 }

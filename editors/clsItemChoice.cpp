@@ -132,7 +132,17 @@ void clsItemChoice::fill()
 
 void clsItemChoice::load(const clsScreenRow &row, clsXMLRecord &record)
 {
-    setTicked(fieldOf(row, m_source, record, clsMember::Flag).readBoolean());
+    const clsXMLField &flag = fieldOf(row, m_source, record, clsMember::Flag);
+    try {
+        setTicked(flag.readBoolean());
+    } catch (const clsRunTimeError &error) {
+        if (error.number() == clsRunTimeError::ObjectNotSet)
+            throw;
+        m_tick->setToolTip(error.cause());
+    }
+    // What a file ticks although the claim has no such item can be taken back.
+    if (Ticked())
+        m_tick->setEnabled(true);
     setUniqueID(fieldOf(row, m_source, record, clsMember::Identity).readText());
 }
 

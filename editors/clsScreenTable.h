@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/mdIcons.h"
+#include "costing/mdFigureFaults.h"
 #include "shell/clsGridAlignment.h"
 
 #include <QStringList>
@@ -10,6 +11,7 @@
 
 class QWidget;
 class clsXMLRecord;
+class clsZR3Item;
 class frmSection;
 class oSGrid;
 struct clsScreen;
@@ -59,6 +61,7 @@ struct clsItemColumn {
     int width = 0; ///< per cent of the grid; without one the column is hidden
     clsGridAlignment alignment = clsGridAlignment::Left; ///< of the heading and the cells
     bool sortKey = false; ///< the grid sorts its rows by the text of this column
+    const char *faultOf = ""; ///< the property whose fault the column shows, where it isn't its own
 };
 
 /// An entry of a list's pop-up menu beside "Delete".
@@ -75,6 +78,7 @@ struct clsItemList {
     bool orderable = true;
     std::vector<clsItemColumn> columns {};
     void (*show)(oSGrid &grid) = nullptr; ///< hands the grid its collection
+    clsFigureFaults (*faults)(const clsZR3Item &item) = nullptr; ///< what is wrong with an item
     const char *empty = ""; ///< what an empty grid says
     const clsScreen &(*editor)() = nullptr; ///< opened by "Add", and on an item by a double click or Return
     std::shared_ptr<clsXMLRecord> (*item)(int index) = nullptr; ///< the item of that `Index`

@@ -2,6 +2,7 @@
 
 #include "controls/oSGrid.h"
 #include "editors/frmSection.h"
+#include "editors/mdItemFaults.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/mdGlobals.h"
 
@@ -25,6 +26,7 @@ const clsItemList ExpertInvoices {
         {"Net Amount",   "NetAmount",    20, clsGridAlignment::Right},
     },
     .show = [](oSGrid &grid) { grid.setItemCollection(Form->ExpertInvoicesCollection()); },
+    .faults = mdItemFaults<clsZR3ExpertInvoice>,
     .empty = NoItems,
     .editor = ScreenExpertInvoiceEdit,
     .item = [](int index) -> std::shared_ptr<clsXMLRecord> { return Form->ExpertInvoice(index); },
@@ -57,10 +59,11 @@ const clsItemList OtherDisbursements {
         {"Description", "Description", 52},
         {"Amount",      "Amount",      12, clsGridAlignment::Right},
         {"VAT",         "VAT",         12, clsGridAlignment::Right},
-        {"Counsel",     "Counsel",     12, clsGridAlignment::Centre},
+        {"Counsel",     "Counsel",     12, clsGridAlignment::Centre, false, "CounselUniqueID"},
         {"Date",        "DateOfWork",  12},
     },
     .show = [](oSGrid &grid) { grid.setItemCollection(Form->DisbursementsCollection()); },
+    .faults = mdItemFaults<clsZR3Disbursement>,
     .empty = NoItems,
     .editor = ScreenDisbursementEdit,
     .item = [](int index) -> std::shared_ptr<clsXMLRecord> { return Form->Disbursement(index); },

@@ -1,6 +1,7 @@
 #include "editors/mdScreens.h"
 
 #include "controls/oSGrid.h"
+#include "editors/mdItemFaults.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/mdGlobals.h"
 
@@ -13,6 +14,7 @@ const clsItemList EnhancementList {
         {"Rate", "Rate", 20, clsGridAlignment::Right},
     },
     .show = [](oSGrid &grid) { grid.setItemCollection(Form->EnhancementsCollection()); },
+    .faults = mdItemFaults<clsZR3Enhancement>,
     .empty = "No enhancements yet. Add one to begin.",
     .editor = ScreenEnhancementEdit,
     .item = [](int index) -> std::shared_ptr<clsXMLRecord> { return Form->Enhancement(index); },

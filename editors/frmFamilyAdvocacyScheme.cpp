@@ -1,6 +1,7 @@
 #include "editors/mdScreens.h"
 
 #include "controls/oSGrid.h"
+#include "editors/mdItemFaults.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/mdGlobals.h"
 
@@ -22,6 +23,7 @@ const clsItemList Hearings {
         {"E Trv",      "ExceptionalTravel",  10, clsGridAlignment::Right},
     },
     .show = [](oSGrid &grid) { grid.setItemCollection(Form->FASItemsCollection()); },
+    .faults = mdItemFaults<clsZR3FASItem>,
     .empty = "No items yet. Add one to begin.",
     .editor = ScreenFASItemEdit,
     .item = [](int index) -> std::shared_ptr<clsXMLRecord> { return Form->FASItem(index); },

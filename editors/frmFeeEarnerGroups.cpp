@@ -2,17 +2,30 @@
 
 #include "controls/oSGrid.h"
 #include "editors/frmSection.h"
+#include "editors/mdItemFaults.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/mdCustomMessages.h"
 #include "shell/mdGlobals.h"
 
+#include <QSet>
+
 namespace {
+
+/// The groups that some fee earner names.
+QSet<QString> groupsInUse()
+{
+    QSet<QString> named;
+    for (const auto &feeEarner : Form->FeeEarnersCollection())
+        named << feeEarner->GroupUniqueID();
+    return named;
+}
 
 QStringList emptyGroups()
 {
+    const QSet<QString> inUse = groupsInUse();
     QStringList references;
     for (const auto &group : Form->FeeEarnerGroupsCollection())
-        if (group->FeeEarnersCollection().empty())
+        if (!inUse.contains(group->UniqueID()))
             references << group->Reference();
     return references;
 }
@@ -30,9 +43,11 @@ void createFeeEarners(frmSection &)
         + references.join(QStringLiteral(", ")) + paragraph + QStringLiteral("Continue?");
     if (mdCustomMessages(question, QStringLiteral("Continue?"), clsUserInterface::YesNo, 1) != clsUserInterface::Yes)
         return;
+    QSet<QString> inUse = groupsInUse();
     for (const auto &group : Form->FeeEarnerGroupsCollection()) {
-        if (!group->FeeEarnersCollection().empty())
+        if (inUse.contains(group->UniqueID()))
             continue;
+        inUse << group->UniqueID();
         const auto feeEarner = Form->AddFeeEarner();
         feeEarner->Reference = group->Reference();
         feeEarner->GroupUniqueID = group->UniqueID();
@@ -53,6 +68,7 @@ const clsItemList Groups {
         {"Enh %", "EnhancementRate", 15, clsGridAlignment::Right},
     },
     .show = [](oSGrid &grid) { grid.setItemCollection(Form->FeeEarnerGroupsCollection()); },
+    .faults = mdItemFaults<clsZR3FeeEarnerGroup>,
     .empty = "No groups yet. Add one to begin.",
     .editor = ScreenFeeEarnerGroupEdit,
     .item = [](int index) -> std::shared_ptr<clsXMLRecord> { return Form->FeeEarnerGroup(index); },
@@ -68,9 +84,10 @@ const clsItemList Groups {
 const clsItemList FeeEarners {
     .columns = {
         {"Ref",   "Reference",      50},
-        {"Group", "GroupReference", 50},
+        {.caption = "Group", .property = "GroupReference", .width = 50, .faultOf = "GroupUniqueID"},
     },
     .show = [](oSGrid &grid) { grid.setItemCollection(Form->FeeEarnersCollection()); },
+    .faults = mdItemFaults<clsZR3FeeEarner>,
     .empty = "No fee earners yet. Add one to begin.",
     .editor = ScreenFeeEarnerEdit,
     .item = [](int index) -> std::shared_ptr<clsXMLRecord> { return Form->FeeEarner(index); },

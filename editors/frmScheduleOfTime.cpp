@@ -2,6 +2,7 @@
 
 #include "controls/oSGrid.h"
 #include "editors/frmSection.h"
+#include "editors/mdItemFaults.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/mdGlobals.h"
 
@@ -23,7 +24,7 @@ QString whyNoAdd()
 // clang-format off
 const clsItemList ScheduleItems {
     .columns = {
-        {"Fee Earner", "FeeEarnerReference",    15},
+        {.caption = "Fee Earner", .property = "FeeEarnerReference", .width = 15, .faultOf = "FeeEarnerUniqueID"},
         {"Date",       "DDate",                 15},
         {.caption = "DateSerial", .property = "DDateSerial", .sortKey = true},
         {"Code",       "Code",                  10},
@@ -32,9 +33,10 @@ const clsItemList ScheduleItems {
         {"Csl",        "Counsel",               9, clsGridAlignment::Centre},
         {"Trv",        "Travel",                9, clsGridAlignment::Centre},
         {"Wtg",        "Waiting",               9, clsGridAlignment::Centre},
-        {"Enh",        "IncludeInEnhancements", 9, clsGridAlignment::Centre},
+        {"Enh",        "IncludeInEnhancements", 9, clsGridAlignment::Centre, false, "EnhancementUniqueID"},
     },
     .show = [](oSGrid &grid) { grid.setItemCollection(Form->ScheduleOfTimeItemsCollection()); },
+    .faults = mdItemFaults<clsZR3ScheduleOfTimeItem>,
     .empty = "No items yet. Add one to begin.",
     .editor = ScreenScheduleOfTimeItemEdit,
     .item = [](int index) -> std::shared_ptr<clsXMLRecord> { return Form->ScheduleOfTimeItem(index); },

@@ -9,6 +9,7 @@
 #include "controls/oHeaderBar.h"
 #include "controls/oIntegerBox.h"
 #include "controls/oSGrid.h"
+#include "controls/oTypedText.h"
 #include "editors/clsListActions.h"
 #include "editors/clsMnemonics.h"
 #include "editors/mdCheckForBlanks.h"
@@ -262,9 +263,21 @@ bool frmSection::checkRequired()
     return false;
 }
 
+/// What a file has brought into a box that the user has not been to may be what nothing can be computed with. The
+/// editor of an item stores none of it: an empty amount becomes 0.00, and a box with anything else is gone to.
+bool frmSection::checkTyped()
+{
+    if (!m_screen.itemWord)
+        return true;
+    for (const clsScreenField &field : m_fields)
+        if (auto *typed = field.control->findChild<oTypedText *>(); typed && typed->isEnabled() && !typed->validate())
+            return false;
+    return true;
+}
+
 void frmSection::Save()
 {
-    if (!mdLeaveFocusedBox(this) || !checkRequired() || (m_mayStore && !m_mayStore()))
+    if (!mdLeaveFocusedBox(this) || !checkRequired() || !checkTyped() || (m_mayStore && !m_mayStore()))
         return;
     Store(clsStoring::Closing);
     done(Accepted);

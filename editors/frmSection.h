@@ -90,6 +90,7 @@ private:
     void connectBar();
     void makeTicksExclusive();
     bool checkRequired();
+    bool checkTyped();
     void leaveFor(const QString &section);
 
     const clsScreen &m_screen;

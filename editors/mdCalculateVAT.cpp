@@ -10,12 +10,25 @@
 
 #include <QLocale>
 
+namespace {
+
+double rate()
+{
+    try {
+        return DoubleFromStrictText(Form->VATRate());
+    } catch (const clsRunTimeError &error) {
+        throw error.because(QStringLiteral("Form Setup: the VAT rate is not a number"));
+    }
+}
+
+} // namespace
+
 void mdCalculateVAT(const oDecimalBox &netBox, oDecimalBox &vatBox)
 {
     const Money amount = MoneyFromDouble(TextValue(netBox.Text()));
     // The amount is divided before it is multiplied: the order decides the last digit of some figures.
     const double base = amount.toDouble() / 100.0;
-    const double product = DoubleFromStrictText(Form->VATRate()) * base;
+    const double product = rate() * base;
     // The whole figure goes to the box, whose own format is the one rounding of it.
     vatBox.setText(QString::number(product, 'f', QLocale::FloatingPointShortest));
 }

@@ -51,5 +51,14 @@ void mdCountComms(clsZR3FeeEarner &feeEarner, const clsCommsCount &count, int by
         throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
     // At its largest a count holds, as it does at 0: a key that is pressed once more must not end the program.
     constexpr qint64 Largest = std::numeric_limits<int>::max();
-    field->writeLong(int(std::clamp<qint64>(qint64(field->readLong()) + by, 0, Largest)));
+    qint64 counted = 0;
+    try {
+        counted = field->readLong();
+    } catch (const clsRunTimeError &error) {
+        // A number of a file that is too large is shown as wrong, and typed anew.
+        if (error.number() != clsRunTimeError::Overflow)
+            throw;
+        return;
+    }
+    field->writeLong(int(std::clamp<qint64>(counted + by, 0, Largest)));
 }

@@ -68,7 +68,15 @@ QWidget *makeGrid(const clsScreenRow &row, QWidget *parent)
             .width = column.width,
             .property = QString::fromUtf8(column.property),
             .sortKey = column.sortKey,
-            .visible = column.width > 0});
+            .visible = column.width > 0,
+            .faultOf = QString::fromUtf8(column.faultOf)});
+    if (row.items->faults)
+        grid->setFaultReader([faultsOf = row.items->faults](const clsZR3Item &item) {
+            clsGridFaults faults;
+            for (const clsFigureFault &fault : faultsOf(item))
+                faults.emplace_back(fault.property, fault.sentence);
+            return faults;
+        });
     return grid;
 }
 
@@ -106,11 +114,48 @@ void setTextOf(QWidget &control, const QString &text)
         control.setProperty("Text", text);
 }
 
+/// Runs what reads a property. A file may hold what is none of its values: the screen must open all the same, so that
+/// it can be mended there, and the control says what is wrong.
+template <class Read> bool reads(QWidget &control, Read read)
+{
+    try {
+        read();
+        return true;
+    } catch (const clsRunTimeError &error) {
+        if (error.number() == clsRunTimeError::ObjectNotSet) // the property itself is missing
+            throw;
+        control.setToolTip(error.cause());
+        control.setAccessibleDescription(error.cause());
+        return false;
+    }
+}
+
 /// Selects by place or by text. Of what it doesn't have, the list shows nothing.
 void loadList(QComboBox &list, const clsXMLField &field)
 {
-    const int entry = field.property().kind == clsXMLKind::Long ? field.readLong() : list.findText(field.readText());
+    int entry = -1;
+    if (field.property().kind == clsXMLKind::Long)
+        reads(list, [&] { entry = field.readLong(); });
+    else
+        entry = list.findText(field.readText());
     list.setCurrentIndex(entry < list.count() ? entry : -1);
+}
+
+void loadTick(oCheckBox &tick, const clsXMLField &field)
+{
+    bool ticked = false;
+    reads(tick, [&] { ticked = field.readBoolean(); });
+    tick.setChecked(ticked);
+}
+
+/// A number that is too large stands in its box as it is, and the box asks for another.
+void loadNumber(QWidget &control, const clsXMLField &field)
+{
+    int number = 0;
+    if (reads(control, [&] { number = field.readLong(); }))
+        setTextOf(control, QString::number(number));
+    else
+        setTextOf(control, field.readText());
 }
 
 /// A list in which nothing is selected, since it lacks what the record says, leaves the record alone.
@@ -179,11 +224,11 @@ void mdLoadControl(const clsScreenRow &row, QWidget &control, clsXMLRecord &reco
     }
     const clsXMLField &field = fieldOf(row, record);
     if (auto *tick = qobject_cast<oCheckBox *>(&control))
-        tick->setChecked(field.readBoolean());
+        loadTick(*tick, field);
     else if (auto *list = qobject_cast<QComboBox *>(&control))
         loadList(*list, field);
     else if (field.property().kind == clsXMLKind::Long)
-        setTextOf(control, QString::number(field.readLong()));
+        loadNumber(control, field);
     else
         setTextOf(control, field.readText());
 }

@@ -3,6 +3,7 @@
 #include "editors/mdComboboxSelectByItemData.h"
 #include "editors/mdInOrder.h"
 #include "formdata/clsZR3Form.h"
+#include "shell/clsRunTimeError.h"
 #include "shell/mdGlobals.h"
 
 #include <QAbstractItemView>
@@ -52,6 +53,16 @@ QString labelOf(int place)
     return {};
 }
 
+/// The place of the fee earner that was chosen last; a file may hold a number that is none.
+int lastChosen()
+{
+    try {
+        return Form->DefaultFeeEarnerListIndex();
+    } catch (const clsRunTimeError &) {
+        return 0;
+    }
+}
+
 } // namespace
 
 oFeeEarnerCombo::oFeeEarnerCombo(QWidget *parent)
@@ -69,7 +80,7 @@ void oFeeEarnerCombo::fill()
     refill([this] {
         for (const auto &feeEarner : mdInOrder(Form->FeeEarnersCollection()))
             addItem(labelOf(count()) + feeEarner->Reference(), feeEarner->Index);
-        return Form->DefaultFeeEarnerListIndex();
+        return lastChosen();
     });
     emit Change();
 }

@@ -8,7 +8,8 @@ clsXMLReading::clsXMLReading(const clsXMLRecord &record)
     , m_fields(record.properties())
 {
     // A record with more fields is a claim or a section; there is one of each, and they are found as ever.
-    if (m_fields.size() > MostFields)
+    // And one inside a reading of the same record has nothing to read.
+    if (m_fields.size() > MostFields || (m_outer && m_outer->m_node == m_node))
         return;
     readElements();
     Innermost = this;

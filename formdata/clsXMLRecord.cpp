@@ -1,6 +1,7 @@
 #include "formdata/clsXMLRecord.h"
 
 #include "formdata/clsXMLReading.h"
+#include "formdata/mdRecordInWords.h"
 #include "shell/clsRunTimeError.h"
 #include "shell/mdNumberText.h"
 
@@ -18,6 +19,14 @@ bool booleanFromText(QLatin1String text)
     if (text.compare(QLatin1String("True"), Qt::CaseInsensitive) == 0)
         return true;
     return DoubleFromStrictText(QString(text)) != 0.0;
+}
+
+/// What is wrong with a property, in words.
+QString causeOf(const clsXMLRecord &record, const clsXMLField &field, const char *words)
+{
+    return mdSentenceOf(record,
+        QString::fromLatin1(words).arg(mdPropertyInWords(QString::fromLatin1(field.property().name)),
+            mdQuoted(QString::fromUtf8(field.content()))));
 }
 
 } // namespace
@@ -41,15 +50,12 @@ const char *clsXMLField::content() const
 
 void clsXMLField::setContent(const char *content)
 {
-    const pugi::xml_node element = clsXMLReading::find(m_record->m_node, *m_property);
+    pugi::xml_node element = clsXMLReading::find(m_record->m_node, *m_property);
     if (!element)
         throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
     if (std::strcmp(element.child_value(), content) == 0)
         return;
-    if (*content)
-        element.text().set(content);
-    else
-        const_cast<pugi::xml_node &>(element).remove_children();
+    XMLSetContent(element, content);
     if (m_property->key && m_record->m_keysChanged)
         *m_record->m_keysChanged = true;
 }
@@ -61,12 +67,22 @@ QString clsXMLField::readText() const
 
 bool clsXMLField::readBoolean() const
 {
-    return booleanFromText(QLatin1String(content()));
+    const QLatin1String text(content());
+    try {
+        return booleanFromText(text);
+    } catch (const clsRunTimeError &error) {
+        throw error.because(causeOf(*m_record, *this, "the tick %1 holds %2, which is neither True nor False"));
+    }
 }
 
 int clsXMLField::readLong() const
 {
-    return LongFromText(QString::fromUtf8(content()));
+    const QString text = QString::fromUtf8(content());
+    try {
+        return LongFromText(text);
+    } catch (const clsRunTimeError &error) {
+        throw error.because(causeOf(*m_record, *this, "%1 holds %2, which is too large a number"));
+    }
 }
 
 void clsXMLField::writeText(const QString &value)

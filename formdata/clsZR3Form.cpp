@@ -35,6 +35,13 @@ clsXMLElement emptyClaim()
     return XMLLoadElement(GetResourceData(QStringLiteral("xmlZR3Form"), QStringLiteral("VELMORZR3XML")), RootElement);
 }
 
+/// Raises an error that was met earlier.
+void raise(const std::optional<clsRunTimeError> &error)
+{
+    if (error)
+        throw *error;
+}
+
 /// The item at a 1-based place of a derived collection; the subscript error outside it.
 template <class Collection> auto itemAt(const Collection &collection, int index)
 {
@@ -53,7 +60,7 @@ clsZR3Form::clsZR3Form()
 
 bool clsZR3Form::LoadXML(const QString &filePath)
 {
-    const clsXMLElement root = XMLLoadElement(ReadTextDocument(filePath, true), RootElement);
+    const clsXMLElement root = XMLLoadElement(ReadTextDocumentAsUtf8(filePath, true), RootElement);
     if (!root) {
         mdCustomMessages(QStringLiteral("There was a problem opening the selected file. Please ensure that the file is "
                                         "a valid ZR3 file and try again"),
@@ -149,15 +156,28 @@ bool clsZR3Form::IsOnBill(const clsZR3ScheduleOfTimeItem &item) const
     return clsOnBill(*this)(item);
 }
 
+void clsZR3Form::CheckDerivedCollections() const
+{
+    raise(m_scheduleError);
+    raise(m_disbursementsError);
+}
+
 void clsZR3Form::RenderScheduleOfTimeItemsForExport()
 {
     m_forExport.clear();
+    m_scheduleError.reset();
     int number = 0;
     clsOnBill isOnBill(*this);
     inOrder(m_ScheduleOfTimeItems, [&](const ScheduleOfTimeItemsList::Pointer &item) {
-        if (!isOnBill(*item))
-            return;
-        item->SOTItemNumber = ++number;
+        try {
+            if (!isOnBill(*item))
+                return;
+            item->SOTItemNumber = ++number;
+        } catch (const clsRunTimeError &error) {
+            item->SOTItemNumber = 0;
+            if (!m_scheduleError)
+                m_scheduleError = error;
+        }
         m_forExport.push_back(item);
     });
 }
@@ -191,9 +211,27 @@ void clsZR3Form::SeparateCounselAndNonCounselDisbursements()
 {
     m_counselFees.clear();
     m_nonCounsel.clear();
+    m_disbursementsError.reset();
     inOrder(m_Disbursements, [&](const DisbursementsList::Pointer &item) {
-        (item->Counsel() ? m_counselFees : m_nonCounsel).push_back(item);
+        try {
+            (item->Counsel() ? m_counselFees : m_nonCounsel).push_back(item);
+        } catch (const clsRunTimeError &error) {
+            if (!m_disbursementsError)
+                m_disbursementsError = error;
+        }
     });
+}
+
+const clsZR3Form::DisbursementsList::Collection &clsZR3Form::CounselDisbursementsCollection() const
+{
+    raise(m_disbursementsError);
+    return m_counselFees;
+}
+
+const clsZR3Form::DisbursementsList::Collection &clsZR3Form::NonCounselDisbursementsCollection() const
+{
+    raise(m_disbursementsError);
+    return m_nonCounsel;
 }
 
 clsZR3Form::DisbursementsList::Pointer clsZR3Form::CounselDisbursement(int index) const

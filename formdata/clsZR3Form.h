@@ -13,6 +13,9 @@
 #include "formdata/clsXMLRecord.h"
 #include "formdata/clsZR3List.h"
 #include "formdata/clsZR3Sections.h"
+#include "shell/clsRunTimeError.h"
+
+#include <optional>
 
 // clang-format off
 /// One list of the claim and its family of members. `Plural` names the element, the collection and the render routine,
@@ -137,8 +140,16 @@ public:
 
     // The derived collections hold the objects of the lists, in `OrderID` order. Each is rebuilt whole by its routine
     // and is not kept up to date by changes of properties. A gap in the order is the object error.
+    //
+    // An item of which the claim doesn't say in which collection it belongs, since a tick of a file holds neither True
+    // nor False, must not keep the user from the claim: the routines go on, and the error waits until a figure or a
+    // document is asked for.
 
-    /// Numbers the items that the export prints into their `SOTItemNumber` and collects them.
+    /// Raises the error that a routine below has met when it last ran.
+    void CheckDerivedCollections() const;
+
+    /// Numbers the items that the export prints into their `SOTItemNumber` and collects them. An undecided item is
+    /// collected too and gets no number.
     void RenderScheduleOfTimeItemsForExport();
     const ScheduleOfTimeItemsList::Collection &ScheduleOfTimeItemsForExportCollection() const { return m_forExport; }
 
@@ -152,10 +163,10 @@ public:
     const FASItemsList::Collection &FASBoltOnPaymentsCollection() const { return m_boltOns; }
     const FASItemsList::Collection &FASTravelBoltOnsCollection() const { return m_travel; }
 
-    /// Parts the disbursements into counsel's fees and the others.
+    /// Parts the disbursements into counsel's fees and the others; where one is undecided, neither can be had.
     void SeparateCounselAndNonCounselDisbursements();
-    const DisbursementsList::Collection &CounselDisbursementsCollection() const { return m_counselFees; }
-    const DisbursementsList::Collection &NonCounselDisbursementsCollection() const { return m_nonCounsel; }
+    const DisbursementsList::Collection &CounselDisbursementsCollection() const;
+    const DisbursementsList::Collection &NonCounselDisbursementsCollection() const;
     DisbursementsList::Pointer CounselDisbursement(int index) const;
     DisbursementsList::Pointer NonCounselDisbursement(int index) const;
 
@@ -183,6 +194,8 @@ private:
     FASItemsList::Collection m_travel;
     DisbursementsList::Collection m_counselFees;
     DisbursementsList::Collection m_nonCounsel;
+    std::optional<clsRunTimeError> m_scheduleError;
+    std::optional<clsRunTimeError> m_disbursementsError;
 };
 
 #undef ZR3_LIST

@@ -4,8 +4,9 @@
 #include "formdata/mdXMLReplaceProblemCharacters.h"
 #include "shell/mdCodePage.h"
 
+#include <QStringDecoder>
+
 #include <cstring>
-#include <string>
 #include <utility>
 #include <vector>
 
@@ -25,7 +26,10 @@ constexpr int MostItems = 250'000;
 
 // White space between elements carries no meaning and is dropped; comments and instructions are kept, since nothing
 // that the program does not know may be lost by a load and a save. As a fragment, so that text beside the root is seen.
-constexpr unsigned ParseOptions = pugi::parse_default | pugi::parse_comments | pugi::parse_pi | pugi::parse_fragment;
+// The text that an element begins with is the element's own value and no node beside it: half of all nodes would be
+// such.
+constexpr unsigned ParseOptions
+    = pugi::parse_default | pugi::parse_comments | pugi::parse_pi | pugi::parse_fragment | pugi::parse_embed_pcdata;
 
 /// True when something but comments and instructions stands beside the root: the text is then no XML document, and a
 /// save, which writes the root only, would lose the rest.
@@ -45,13 +49,29 @@ bool isBlank(const char *text)
     return static_cast<unsigned char>(*text) <= ' ' && text[std::strspn(text, " \t\r\n")] == '\0';
 }
 
+/// True for a text of nothing but blanks, be it a node or the value of an element.
+bool isBlankText(const pugi::xml_node &node)
+{
+    if (!isBlank(node.value()))
+        return false;
+    return node.type() == pugi::node_pcdata || (node.type() == pugi::node_element && node.text().data() == node);
+}
+
+void removeText(const pugi::xml_node &node)
+{
+    if (node.type() == pugi::node_pcdata)
+        node.parent().remove_child(node);
+    else
+        node.text().set("");
+}
+
 /// Walks a tree that is neither too deep nor too large, and finds the texts of nothing but blanks.
 class TreeCheck final : public pugi::xml_tree_walker {
 public:
     std::vector<pugi::xml_node> blanks;
     bool for_each(pugi::xml_node &node) override
     {
-        if (node.type() == pugi::node_pcdata && isBlank(node.value()))
+        if (isBlankText(node))
             blanks.push_back(node);
         m_items += depth() == ItemLevel;
         return depth() < DeepestNesting && m_items <= MostItems;
@@ -61,10 +81,26 @@ private:
     int m_items = 0;
 };
 
+/// Takes the serialisation piece by piece, so that it never stands in the memory twice.
 class TextWriter final : public pugi::xml_writer {
 public:
-    std::string text;
-    void write(const void *data, size_t size) override { text.append(static_cast<const char *>(data), size); }
+    QString text;
+    void write(const void *data, size_t size) override
+    {
+        const QByteArrayView piece(static_cast<const char *>(data), qsizetype(size));
+        const qsizetype before = text.size();
+        text.resize(before + m_decoder.requiredSpace(piece.size()));
+        const QChar *end = m_decoder.appendToBuffer(text.data() + before, piece);
+        text.resize(end - text.constData());
+        m_bytes += piece.size();
+    }
+    /// True when the text needs no reference: what this program writes is plain ASCII, which alone has as many
+    /// characters as bytes.
+    bool isPlain() const { return text.size() == m_bytes && !text.contains(u'\r'); }
+
+private:
+    QStringDecoder m_decoder {QStringDecoder::Utf8};
+    qsizetype m_bytes = 0;
 };
 
 /// True for a character that the file can't hold as itself: one outside its code page, and a carriage return, which
@@ -141,23 +177,41 @@ QString XMLDecodeText(const char *content)
     return URLDecode(QString::fromUtf8(content));
 }
 
+void XMLSetContent(pugi::xml_node element, const char *content)
+{
+    if (*content) {
+        element.text().set(content);
+        return;
+    }
+    element.remove_children();
+    if (*element.child_value()) // the text that it began with is no child
+        element.text().set("");
+}
+
 clsXMLElement XMLLoadElement(const QString &xml, const char *name)
 {
-    const QByteArray utf8 = xml.toUtf8();
+    return XMLLoadElement(xml.toUtf8(), name);
+}
+
+clsXMLElement XMLLoadElement(QByteArray utf8, const char *name)
+{
     // The parser would take a zero for the end.
     if (utf8.contains('\0') || hasTooManyTags(utf8))
         return {};
-    auto document = std::make_shared<pugi::xml_document>();
-    if (!document->load_buffer(utf8.constData(), size_t(utf8.size()), ParseOptions, pugi::encoding_utf8))
+    auto document = std::make_shared<clsXMLDocument>();
+    document->text = std::move(utf8);
+    pugi::xml_document &tree = document->tree;
+    if (!tree.load_buffer_inplace(
+            document->text.data(), size_t(document->text.size()), ParseOptions, pugi::encoding_utf8))
         return {};
-    const pugi::xml_node root = document->document_element();
+    const pugi::xml_node root = tree.document_element();
     TreeCheck check;
-    if (std::strcmp(root.name(), name) != 0 || hasContentBesideRoot(*document, root) || !document->traverse(check))
+    if (std::strcmp(root.name(), name) != 0 || hasContentBesideRoot(tree, root) || !tree.traverse(check))
         return {};
     // The parser has dropped blanks between tags already, but not those written as references: a save writes them as
     // blanks, and they would be gone only when that is read.
     for (const pugi::xml_node &blank : check.blanks)
-        blank.parent().remove_child(blank);
+        removeText(blank);
     return {std::move(document), root};
 }
 
@@ -165,9 +219,5 @@ QString XMLElementOutput(pugi::xml_node node)
 {
     TextWriter writer;
     node.print(writer, "", pugi::format_raw | pugi::format_no_declaration, pugi::encoding_utf8);
-    const auto size = qsizetype(writer.text.size());
-    const QString text = QString::fromUtf8(writer.text.data(), size);
-    // What this program writes is plain ASCII, which alone has as many characters as bytes.
-    const bool plain = text.size() == size && writer.text.find('\r') == std::string::npos;
-    return plain ? text : withReferences(text);
+    return writer.isPlain() ? writer.text : withReferences(writer.text);
 }

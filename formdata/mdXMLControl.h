@@ -7,11 +7,17 @@
 
 #include <memory>
 
+/// A tree and the text that it was made of: the names and values that are as they were read still stand there.
+struct clsXMLDocument {
+    QByteArray text;
+    pugi::xml_document tree;
+};
+
 /// An element and the document in which it lives; the element is good for as long as this is.
 class clsXMLElement {
 public:
     clsXMLElement() = default;
-    clsXMLElement(std::shared_ptr<pugi::xml_document> document, pugi::xml_node node)
+    clsXMLElement(std::shared_ptr<clsXMLDocument> document, pugi::xml_node node)
         : m_document(std::move(document))
         , m_node(node)
     { }
@@ -20,7 +26,7 @@ public:
     pugi::xml_node node() const { return m_node; }
 
 private:
-    std::shared_ptr<pugi::xml_document> m_document;
+    std::shared_ptr<clsXMLDocument> m_document;
     pugi::xml_node m_node;
 };
 
@@ -30,9 +36,14 @@ QByteArray XMLEncodeText(const QString &text);
 /// The text of an element's content (UTF-8). Every read goes through here.
 QString XMLDecodeText(const char *content);
 
+/// Gives an element a content; an empty one leaves nothing in it.
+void XMLSetContent(pugi::xml_node element, const char *content);
+
 /// Parses a text and returns its root element, or nothing when the text is not XML, its root has another name, or it
 /// is nested so deeply, or holds so many items, that no program of this house can have written it.
 clsXMLElement XMLLoadElement(const QString &xml, const char *name);
+/// The same from UTF-8, which the element keeps.
+clsXMLElement XMLLoadElement(QByteArray utf8, const char *name);
 
 /// The serialisation of an element with its descendants, on one line: the same tree gives the same text, which is
 /// what tells a changed claim from an unchanged one. What the code page of a file lacks stands in it as a reference.

@@ -7,6 +7,7 @@ void clsPreviewCells::RemoveAll()
     m_columns.clear();
     m_rows.clear();
     m_cells.clear();
+    m_whyNot.clear();
 }
 
 void clsPreviewCells::AddColumn(const QString &key, int width)
@@ -42,6 +43,11 @@ const clsPreviewCell &clsPreviewCells::Cell(int row, int column) const
     const clsRow &place = rowAt(row);
     static_cast<void>(columnAt(column));
     return place.firstCell == Nothing ? empty : m_cells[size_t(place.firstCell + column - 1)];
+}
+
+QString clsPreviewCells::WhyNot(int row, int column) const
+{
+    return m_whyNot.isEmpty() ? QString() : m_whyNot.value({row, column});
 }
 
 const clsPreviewCells::clsRow &clsPreviewCells::rowAt(int row) const

@@ -2,8 +2,10 @@
 
 #include "shell/clsGridAlignment.h"
 
+#include <QHash>
 #include <QString>
 
+#include <utility>
 #include <vector>
 
 /// What a row is among the others: it decides which lines are drawn around it, and nothing else.
@@ -34,6 +36,8 @@ public:
     void AddColumn(const QString &key, int width);
     void AddRow(int height);
     void SetCell(int row, int column, clsPreviewCell cell);
+    /// Says of a cell with a figure that can't be computed why it can't.
+    void SetWhyNot(int row, int column, const QString &whyNot) { m_whyNot[{row, column}] = whyNot; }
     void setRowHeight(int row, int height) { rowAt(row).height = height; }
     void setRowLook(int row, clsPreviewRowLook look) { rowAt(row).look = look; }
 
@@ -47,6 +51,8 @@ public:
     bool Wraps(int row) const { return rowAt(row).wraps; }
     /// The cell, an empty one where nothing was written.
     const clsPreviewCell &Cell(int row, int column) const;
+    /// Why the cell's figure can't be computed; empty for all other cells.
+    QString WhyNot(int row, int column) const;
 
 private:
     static constexpr int Nothing = -1;
@@ -68,4 +74,5 @@ private:
     std::vector<clsColumn> m_columns;
     std::vector<clsRow> m_rows;
     std::vector<clsPreviewCell> m_cells;
+    QHash<std::pair<int, int>, QString> m_whyNot; ///< by row and column
 };

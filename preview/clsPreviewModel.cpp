@@ -22,6 +22,7 @@ QVariant clsPreviewModel::data(const QModelIndex &index, int role) const
     switch (role) {
     case Qt::DisplayRole: return cell.text;
     case Qt::TextAlignmentRole: return QVariant::fromValue(mdGridAlignment(cell.alignment));
+    case Qt::AccessibleDescriptionRole: return cells.WhyNot(index.row() + 1, index.column() + 1);
     case Qt::BackgroundRole: return QBrush(columnBacks.value(index.column() + 1, Theme::Paper));
     default: return {};
     }

@@ -197,7 +197,10 @@ void clsPreviewPainter::paintCell(QPainter &painter, int row, int column, const 
     const clsPlaced placed = place(row, column, rect);
     const Qt::Alignment alignment = across(cell.alignment);
     painter.setFont(placed.font);
-    painter.setPen(column == NumbersColumn && !cell.bold ? Theme::Ink2 : Theme::Ink);
+    if (!m_model.cells.WhyNot(row, column).isEmpty())
+        painter.setPen(Theme::Red);
+    else
+        painter.setPen(column == NumbersColumn && !cell.bold ? Theme::Ink2 : Theme::Ink);
     // Captions stand in the middle of their row; the number of a tall note stands beside its first line.
     const bool middle = alignment == Qt::AlignHCenter;
     if (!placed.fits && cell.wraps()) {

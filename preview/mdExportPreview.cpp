@@ -52,6 +52,12 @@ void mdExportPreviewSetText(
     grid.SetCell(grid.Rows(), column, shown, alignment, bold, underline);
 }
 
+void mdExportPreviewSetFailure(int column, const QString &whyNot, clsGridAlignment alignment)
+{
+    oPreviewGrid &grid = mdExportPreviewGrid();
+    grid.SetFailedCell(grid.Rows(), column, whyNot, alignment);
+}
+
 void mdExportPreviewDeInit()
 {
     oPreviewGrid &grid = mdExportPreviewGrid();

@@ -2,6 +2,7 @@
 
 #include "costing/clsSchedulePrices.h"
 #include "costing/mdDateText.h"
+#include "costing/mdFigureFaults.h"
 #include "costing/mdGetColumnTotals.h"
 #include "formdata/clsXMLReading.h"
 #include "formdata/clsZR3Form.h"
@@ -23,6 +24,7 @@ struct clsScheduleColumn {
     const char *caption;
     QString (*cell)(const Item &item, const Price &price);
     Alignment alignment;
+    int (*error)(const Item &item, const Price &price) = nullptr; ///< the number of the error of the cell's figure
     bool money = false;
 };
 
@@ -39,28 +41,69 @@ QString percentageOf(const Price &price)
     return percentage == QLatin1String("0") ? QString() : percentage;
 }
 
+/// An item of which it isn't known whether it stands on the bill has no number.
+int errorOfNumber(const Item &item, const Price &)
+{
+    return item.SOTItemNumber == 0 ? clsRunTimeError::TypeMismatch : 0;
+}
+
+template <Price::Figure Figure> int errorOf(const Item &, const Price &price)
+{
+    return price.errorOf(Figure);
+}
+
 template <int Column> QString timeIn(const Item &, const Price &price)
 {
     return price.TimeColumn == Column ? price.TTime : QString();
 }
 
+/// A time of which it isn't known in which column it stands is marked in the first.
+template <int Column> int errorOfTime(const Item &, const Price &price)
+{
+    if (const int error = price.errorOf(Price::ColumnFigure))
+        return Column == Item::AttendanceAndConferences ? error : 0;
+    return price.TimeColumn == Column ? price.errorOf(Price::TimeFigure) : 0;
+}
+
 // clang-format off
 const clsScheduleColumn Columns[] = {
-    { 4, "",           [](const Item &item, const Price &) { return QString::number(item.SOTItemNumber); }, Alignment::Right},
-    { 9, "FE",         [](const Item &, const Price &price) { return price.FeeEarnerInitials; },       Alignment::Centre},
+    { 4, "",           [](const Item &item, const Price &) { return QString::number(item.SOTItemNumber); }, Alignment::Right,
+        errorOfNumber},
+    { 9, "FE",         [](const Item &, const Price &price) { return price.FeeEarnerInitials; },       Alignment::Centre,
+        errorOf<Price::InitialsFigure>},
     {10, "Date",       [](const Item &item, const Price &) { return dateOf(item); },                   Alignment::Centre},
     { 6, "Code",       [](const Item &item, const Price &) { return item.Code(); },                    Alignment::Centre},
-    { 7, "Att / Conf", timeIn<Item::AttendanceAndConferences>,                                         Alignment::Centre},
-    { 7, "Docs",       timeIn<Item::Documents>,                                                        Alignment::Centre},
-    { 7, "Hrng",       timeIn<Item::Hearings>,                                                         Alignment::Centre},
-    { 7, "Trvl",       timeIn<Item::TravelTime>,                                                       Alignment::Centre},
-    { 7, "Wtng",       timeIn<Item::WaitingTime>,                                                      Alignment::Centre},
-    {10, "Rate",       [](const Item &, const Price &price) { return MoneyToText(price.Rate); },       Alignment::Centre, true},
-    {10, "Bsc Clm",    [](const Item &, const Price &price) { return MoneyToText(price.BasicClaim); }, Alignment::Centre, true},
-    { 6, "Enh",        [](const Item &, const Price &price) { return percentageOf(price); },           Alignment::Centre},
-    {10, "Clm",        [](const Item &, const Price &price) { return MoneyToText(price.Claim); },      Alignment::Centre, true},
+    { 7, "Att / Conf", timeIn<Item::AttendanceAndConferences>, Alignment::Centre, errorOfTime<Item::AttendanceAndConferences>},
+    { 7, "Docs",       timeIn<Item::Documents>,                Alignment::Centre, errorOfTime<Item::Documents>},
+    { 7, "Hrng",       timeIn<Item::Hearings>,                 Alignment::Centre, errorOfTime<Item::Hearings>},
+    { 7, "Trvl",       timeIn<Item::TravelTime>,               Alignment::Centre, errorOfTime<Item::TravelTime>},
+    { 7, "Wtng",       timeIn<Item::WaitingTime>,              Alignment::Centre, errorOfTime<Item::WaitingTime>},
+    {10, "Rate",       [](const Item &, const Price &price) { return MoneyToText(price.Rate); },       Alignment::Centre,
+        errorOf<Price::RateFigure>, true},
+    {10, "Bsc Clm",    [](const Item &, const Price &price) { return MoneyToText(price.BasicClaim); }, Alignment::Centre,
+        errorOf<Price::BasicClaimFigure>, true},
+    { 6, "Enh",        [](const Item &, const Price &price) { return percentageOf(price); },           Alignment::Centre,
+        errorOf<Price::PercentageFigure>},
+    {10, "Clm",        [](const Item &, const Price &price) { return MoneyToText(price.Claim); },      Alignment::Centre,
+        errorOf<Price::ClaimFigure>, true},
 };
 // clang-format on
+
+/// Draws the figures of an item that fail, each with its own reason.
+void drawFailures(const Item &item, const Price &price, const clsZR3Form &form)
+{
+    clsFigureFaults faults;
+    int number = 0;
+    for (const clsScheduleColumn &column : Columns) {
+        ++number;
+        const int error = column.error ? column.error(item, price) : 0;
+        if (!error)
+            continue;
+        if (faults.empty())
+            faults = mdFigureFaults(form, item);
+        mdExportPreviewSetFailure(number, mdSentenceFor(clsRunTimeError(error), faults), column.alignment);
+    }
+}
 
 void setLookOfLastRow(clsPreviewRowLook look)
 {
@@ -68,17 +111,29 @@ void setLookOfLastRow(clsPreviewRowLook look)
     grid.setRowLook(grid.Rows(), look);
 }
 
+template <class Value, class Draw> void drawTotal(int column, const clsFigure<Value> &figure, Draw draw)
+{
+    if (figure.error)
+        mdExportPreviewSetFailure(column, figure.error->cause(), Alignment::Centre);
+    else
+        draw(column, figure.value);
+}
+
 void drawTotals(const clsColumnTotals &totals)
 {
+    const auto drawTime
+        = [](int column, const QString &time) { mdExportPreviewSetText(column, time, Alignment::Centre, true, false); };
+    const auto drawMoney = [](int column, Money amount) {
+        mdExportPreviewSetText(column, MoneyToText(amount), Alignment::Centre, false, false, true);
+    };
     mdExportPreviewAddRow(true);
     setLookOfLastRow(clsPreviewRowLook::Totals);
     for (int column = 0; column < Item::Columns; ++column)
-        mdExportPreviewSetText(FirstTimeColumn + column, totals.times[size_t(column)], Alignment::Centre, true, false);
+        drawTotal(FirstTimeColumn + column, totals.times[size_t(column)], drawTime);
     mdExportPreviewAddRow(true);
     for (int column = 0; column < Item::Columns; ++column)
-        mdExportPreviewSetText(FirstTimeColumn + column, MoneyToText(totals.claims[size_t(column)]), Alignment::Centre,
-            false, false, true);
-    mdExportPreviewSetText(ClaimColumn, MoneyToText(totals.schedule), Alignment::Centre, false, false, true);
+        drawTotal(FirstTimeColumn + column, totals.claims[size_t(column)], drawMoney);
+    drawTotal(ClaimColumn, totals.schedule, drawMoney);
 }
 
 } // namespace
@@ -122,12 +177,17 @@ void mdExportPreviewScheduleOfTimeItemDraw(const clsZR3ScheduleOfTimeItem &item,
     const clsXMLReading reading(item);
     const Price &price = prices.of(item);
     mdExportPreviewAddRow(true);
+    bool failed = false;
     int number = 0;
     for (const clsScheduleColumn &column : Columns) {
         ++number;
-        if (const QString text = column.cell(item, price); !text.isEmpty())
+        if (column.error && column.error(item, price))
+            failed = true;
+        else if (const QString text = column.cell(item, price); !text.isEmpty())
             mdExportPreviewSetText(number, text, column.alignment, false, false, column.money);
     }
+    if (failed)
+        drawFailures(item, price, prices.form());
 }
 
 void mdExportPreviewScheduleOfTimeDeInit()

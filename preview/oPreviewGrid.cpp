@@ -139,6 +139,14 @@ void oPreviewGrid::SetCell(
     change([&] { m_model->cells.SetCell(row, column, {text, alignment, bold, underline}); });
 }
 
+void oPreviewGrid::SetFailedCell(int row, int column, const QString &whyNot, clsGridAlignment alignment)
+{
+    change([&] {
+        m_model->cells.SetCell(row, column, {QStringLiteral("!"), alignment, true, false});
+        m_model->cells.SetWhyNot(row, column, whyNot);
+    });
+}
+
 void oPreviewGrid::setColumnBackColour(int column, const QColor &colour)
 {
     change([&] { m_model->columnBacks[column] = colour; });
@@ -352,8 +360,9 @@ QString oPreviewGrid::ToolTipAt(const QPoint &place) const
 {
     const int row = rowAt(place.y()) + 1;
     const int column = columnAt(place.x()) + 1;
-    if (row < 1 || column < 1 || m_captions->geometry().contains(viewport()->mapTo(this, place))
-        || !m_painter.isElided(row, column))
+    if (row < 1 || column < 1 || m_captions->geometry().contains(viewport()->mapTo(this, place)))
         return {};
-    return mdPlainToolTip(Text(row, column));
+    if (const QString whyNot = WhyNot(row, column); !whyNot.isEmpty())
+        return mdPlainToolTip(whyNot);
+    return m_painter.isElided(row, column) ? mdPlainToolTip(Text(row, column)) : QString();
 }

@@ -26,6 +26,8 @@ public:
     void AddRow();
     void SetCell(int row, int column, const QString &text, clsGridAlignment alignment, bool bold = false,
         bool underline = false);
+    /// Marks a figure that can't be computed: "!", and why as its tooltip.
+    void SetFailedCell(int row, int column, const QString &whyNot, clsGridAlignment alignment);
     /// Colours a column's cells in all rows.
     void setColumnBackColour(int column, const QColor &colour);
     void setRowLook(int row, clsPreviewRowLook look);
@@ -39,6 +41,7 @@ public:
     int RowHeight(int row) const { return m_model->cells.RowHeight(row); }
     QString Text(int row, int column) const { return m_model->cells.Cell(row, column).text; }
     const clsPreviewCell &Cell(int row, int column) const { return m_model->cells.Cell(row, column); }
+    QString WhyNot(int row, int column) const { return m_model->cells.WhyNot(row, column); }
     QColor CellBackColour(int row, int column) const;
     QFont CellFont(bool bold, bool underline) const { return m_painter.font(bold, underline); }
 
@@ -50,7 +53,7 @@ public:
     /// How many pixels of a row are hidden above the top; negative for one that begins below it.
     int HiddenAbove(int row) const;
     void SetHiddenAbove(int row, int pixels);
-    /// The whole text of a cell that is cut short there; empty elsewhere.
+    /// Why a figure can't be computed, or the whole text of a cell that is cut short there; empty elsewhere.
     QString ToolTipAt(const QPoint &place) const;
 
 signals:

@@ -64,11 +64,6 @@ constexpr SystemError SystemErrors[] = {
     {ENOMEM, clsRunTimeError::OutOfMemory},
 };
 
-QString whatText(int number, const QString &description)
-{
-    return QStringLiteral("Run-time error '%1': %2").arg(number).arg(description);
-}
-
 } // namespace
 
 clsRunTimeError::clsRunTimeError(int number)
@@ -76,10 +71,25 @@ clsRunTimeError::clsRunTimeError(int number)
 { }
 
 clsRunTimeError::clsRunTimeError(int number, const QString &description)
-    : std::runtime_error(whatText(number, description).toStdString())
-    , m_number(number)
+    : m_number(number)
     , m_description(description)
 { }
+
+const char *clsRunTimeError::what() const noexcept
+{
+    try {
+        m_what = QStringLiteral("Run-time error '%1': %2").arg(m_number).arg(m_description).toStdString();
+    } catch (const std::bad_alloc &) { }
+    return m_what.c_str();
+}
+
+clsRunTimeError clsRunTimeError::because(const QString &cause) const
+{
+    clsRunTimeError explained = *this;
+    if (m_cause.isEmpty())
+        explained.m_cause = cause;
+    return explained;
+}
 
 clsRunTimeError clsRunTimeError::fromSystem(int systemError)
 {

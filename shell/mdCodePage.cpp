@@ -1,6 +1,9 @@
 #include "shell/mdCodePage.h"
 
+#include <algorithm>
 #include <array>
+#include <cstdint>
+#include <cstring>
 
 namespace {
 
@@ -28,6 +31,20 @@ char byteOf(char16_t c)
     return '?';
 }
 
+/// Looks at eight bytes at a time, since nearly every file is plain ASCII and is looked at to its end.
+bool isPlainAscii(QByteArrayView bytes)
+{
+    constexpr std::uint64_t HighBits = 0x8080808080808080;
+    const char *at = bytes.data();
+    const char *const end = at + bytes.size();
+    for (std::uint64_t eight = 0; end - at >= qsizetype(sizeof eight); at += sizeof eight) {
+        std::memcpy(&eight, at, sizeof eight);
+        if (eight & HighBits)
+            return false;
+    }
+    return std::none_of(at, end, [](char byte) { return uchar(byte) >= 0x80; });
+}
+
 } // namespace
 
 QChar mdFromCodePage(uchar byte)
@@ -37,15 +54,18 @@ QChar mdFromCodePage(uchar byte)
 
 QString mdFromCodePage(QByteArrayView bytes)
 {
-    // Nearly every file is plain ASCII, which is read many characters at a time: sound UTF-8 of as many characters as
-    // bytes is nothing else.
-    if (QString plain = QString::fromUtf8(bytes); plain.size() == bytes.size() && bytes.isValidUtf8())
-        return plain;
+    if (isPlainAscii(bytes))
+        return QString::fromLatin1(bytes);
     QString text(bytes.size(), Qt::Uninitialized);
     QChar *out = text.data();
     for (const char byte : bytes)
         *out++ = QChar(character(uchar(byte)));
     return text;
+}
+
+QByteArray mdUtf8FromCodePage(QByteArray bytes)
+{
+    return isPlainAscii(bytes) ? std::move(bytes) : mdFromCodePage(bytes).toUtf8();
 }
 
 QByteArray mdToCodePage(QStringView text)

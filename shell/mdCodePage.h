@@ -9,6 +9,8 @@
 
 /// One character for each byte.
 QString mdFromCodePage(QByteArrayView bytes);
+/// The same text in UTF-8. Plain ASCII is that already and is handed back as it is.
+QByteArray mdUtf8FromCodePage(QByteArray bytes);
 /// One byte for each character; a character outside the page becomes "?".
 QByteArray mdToCodePage(QStringView text);
 /// The character of one byte.

@@ -37,7 +37,9 @@ QString mdRecoveredCopyMessage(const clsRecoveredCopy &copy)
 
 QString mdRunTimeErrorMessage(const clsRunTimeError &error, const clsRecoveredCopy &copy)
 {
-    const QString text = QStringLiteral("Run-time error '%1':").arg(error.number()) + Paragraph + error.description();
+    QString text = QStringLiteral("Run-time error '%1':").arg(error.number()) + Paragraph + error.description();
+    if (!error.cause().isEmpty())
+        text += Paragraph + error.cause();
     const QString aboutCopy = mdRecoveredCopyMessage(copy);
     return aboutCopy.isEmpty() ? text : text + Paragraph + aboutCopy;
 }

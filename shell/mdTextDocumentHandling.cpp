@@ -164,19 +164,30 @@ bool trapped(const QString &title, const QString &whatWasTried, const QString &p
     return false;
 }
 
+/// The content of a file as `convert` makes a text of its bytes, an empty text where that failed.
+template <class Convert> auto readDocument(const QString &path, bool logIt, Convert convert)
+{
+    if (logIt)
+        WriteLog(QStringLiteral("Begin Read Text Document - ") + path);
+    decltype(convert(QByteArray())) text;
+    if (!trapped(QStringLiteral("File Not Read"), QStringLiteral("There was a problem reading the following path:"),
+            path, [&] { text = convert(read(path)); }))
+        return decltype(text)();
+    if (logIt)
+        WriteLog(QStringLiteral("End Read Text Document - ") + path);
+    return text;
+}
+
 } // namespace
 
 QString ReadTextDocument(const QString &path, bool logIt)
 {
-    if (logIt)
-        WriteLog(QStringLiteral("Begin Read Text Document - ") + path);
-    QString text;
-    if (!trapped(QStringLiteral("File Not Read"), QStringLiteral("There was a problem reading the following path:"),
-            path, [&] { text = mdFromCodePage(read(path)); }))
-        return {};
-    if (logIt)
-        WriteLog(QStringLiteral("End Read Text Document - ") + path);
-    return text;
+    return readDocument(path, logIt, [](const QByteArray &bytes) { return mdFromCodePage(bytes); });
+}
+
+QByteArray ReadTextDocumentAsUtf8(const QString &path, bool logIt)
+{
+    return readDocument(path, logIt, [](QByteArray bytes) { return mdUtf8FromCodePage(std::move(bytes)); });
 }
 
 bool WriteTextDocument(const QString &text, const QString &path, bool logIt)

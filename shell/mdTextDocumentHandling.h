@@ -1,10 +1,14 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 /// The whole content of a file, one character of the code page for each byte. A failure shows the box "File Not Read"
 /// and returns an empty text, which the caller can't tell from an empty file. `logIt` logs the beginning and the end.
 QString ReadTextDocument(const QString &path, bool logIt);
+
+/// The same text in UTF-8, which costs no conversion where the file is plain ASCII, as a claim mostly is.
+QByteArray ReadTextDocumentAsUtf8(const QString &path, bool logIt);
 
 /// Replaces the whole content of a file, one byte for each character. The old content lies beside the file, under its
 /// path followed by "a", until the new one is on the disk: a crash or a failure leaves it there for the user to find.

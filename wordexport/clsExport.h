@@ -1,14 +1,35 @@
 #pragma once
 
 #include "formdata/clsZR3Form.h"
+#include "wordexport/clsPlainText.h"
+#include "wordexport/clsZipPackage.h"
 
 #include <QHash>
 #include <QString>
 #include <QStringList>
 
 #include <memory>
+#include <optional>
 
 class clsFolderLock;
+
+/// A template that was read and found to be a sound document, with what its sheets need of it at hand.
+struct clsTemplate {
+    QByteArray bytes;
+    clsZipPackage content;
+    bool isPlain; ///< of its text, as `mdIsPlainText` has it
+    /// The bytes of its styles; not known before a first sheet was opened.
+    std::optional<QByteArray> styles {};
+};
+
+/// A sheet's file, as the export that wrote it knows it.
+struct clsSheetFile {
+    QString templateName; ///< the file name of the template that it was made from
+    /// Nothing but copied yet: what stands in it is what stands in the template.
+    bool isCopy = true;
+    /// Where the text stands in it; nothing where it was not saved since it was opened.
+    std::optional<clsTextPlace> text {};
+};
 
 /// One running export: the claim that it prints and the whole of the state that its steps share.
 struct clsExport {
@@ -41,10 +62,9 @@ struct clsExport {
     /// page before it, as it stands.
     int ExportSheetCounter = 0;
 
-    /// The templates read so far, each found to be a sound document.
-    QHash<QString, QByteArray> templates {};
-    /// The file names of the templates that the sheets were made from, by the sheets' paths.
-    QHash<QString, QString> templateNames {};
+    /// The templates read so far, by their file names, and the files written so far, by their paths.
+    QHash<QString, clsTemplate> templates {};
+    QHash<QString, clsSheetFile> sheets {};
 };
 
 /// Ends an export after the user has been told why; no document comes out.

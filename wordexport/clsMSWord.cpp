@@ -95,7 +95,17 @@ clsWordDocument &clsMSWord::document() const
 void clsMSWord::OpenDocument(const QString &path, const QString &shownName)
 {
     const QString &name = shownName.isEmpty() ? path : shownName;
-    if (guarded("OpenDocument", [&] { m_document = std::make_unique<clsWordDocument>(path, name); })) {
+    openWith(path, [&] { return std::make_unique<clsWordDocument>(path, name); });
+}
+
+void clsMSWord::OpenDocument(const QString &path, const QString &shownName, const clsZipPackage &content)
+{
+    openWith(path, [&] { return std::make_unique<clsWordDocument>(path, shownName, content); });
+}
+
+template <class Open> void clsMSWord::openWith(const QString &path, Open open)
+{
+    if (guarded("OpenDocument", [&] { m_document = open(); })) {
         MSWordObserver().opened(path);
         return;
     }
@@ -105,11 +115,14 @@ void clsMSWord::OpenDocument(const QString &path, const QString &shownName)
 
 void clsMSWord::SaveAndClose()
 {
+    m_savedPath.clear();
     const bool saved = guarded("SaveAndClose", [&] {
         const bool finished = m_lasting == Finished;
         document().save(finished ? clsZipPackage::Deflated : clsZipPackage::Stored, finished);
     });
     if (saved) {
+        m_savedPath = document().path();
+        m_savedText = document().savedText();
         m_document.reset();
         MSWordObserver().savedAndClosed();
         return;
@@ -243,9 +256,10 @@ void clsMSWord::DoReplace(const QString &find, const QString &replacement, bool 
         MSWordObserver().failed(find, replacement);
 }
 
-void clsMSWord::InsertFileAtEnd(const QString &path, const QString &shownName)
+void clsMSWord::InsertFileAtEnd(const QString &path, const QString &shownName, const clsPlainText *plain)
 {
-    if (guarded("InsertFileAtEnd", [&] { document().append(path, shownName.isEmpty() ? path : shownName); })) {
+    const QString &name = shownName.isEmpty() ? path : shownName;
+    if (guarded("InsertFileAtEnd", [&] { document().append(path, name, plain); })) {
         MSWordObserver().inserted(path);
         return;
     }

@@ -1,11 +1,14 @@
 #pragma once
 
+#include "wordexport/clsPlainText.h"
+
 #include <QString>
 
 #include <memory>
 
 class clsRunTimeError;
 class clsWordDocument;
+class clsZipPackage;
 
 /// The one class through which the system touches a word processor: one hidden application, at most one open
 /// document, one cursor in it. Everything that the export does to a document is one of the operations below.
@@ -32,6 +35,8 @@ public:
     /// Loads the file for editing; the cursor is at its start. An error names the file by the shown name, where one is
     /// given: a working copy by what it was copied from.
     void OpenDocument(const QString &path, const QString &shownName = {});
+    /// The same of a file whose content is at hand.
+    void OpenDocument(const QString &path, const QString &shownName, const clsZipPackage &content);
     /// Writes the document back to the file it came from, and closes it.
     void SaveAndClose();
     /// Ends the application; what was not saved is lost.
@@ -59,7 +64,8 @@ public:
     /// text is then typed before the very first character of the document.
     void DoReplace(const QString &find, const QString &replacement, bool IsTick, bool IsMoney, bool BlankZero);
     /// Appends the whole of that document to the end of this one, as sections of its own.
-    void InsertFileAtEnd(const QString &path, const QString &shownName = {});
+    /// `plain` is what is known of the file, where it is known: such a one is appended in a fraction of the time.
+    void InsertFileAtEnd(const QString &path, const QString &shownName = {}, const clsPlainText *plain = nullptr);
     /// Deletes the character before the cursor.
     void TypeBackSpace();
 
@@ -74,6 +80,11 @@ public:
 
     /// True while a document is open; one that could not be saved stays so.
     bool isOpen() const { return m_document != nullptr; }
+    /// The open document, nothing where there is none.
+    clsWordDocument *openDocument() const { return m_document.get(); }
+    /// The file that the last SaveAndClose wrote, empty where it failed, and where the text stands in it.
+    const QString &savedPath() const { return m_savedPath; }
+    const clsTextPlace &savedText() const { return m_savedText; }
     /// True once a failure has lost a whole sheet: a document that could not be opened, saved or appended.
     bool sheetLost() const { return m_sheetLost; }
 
@@ -88,10 +99,13 @@ private:
     template <class Operation> bool guarded(const char *name, Operation operation);
     /// MoveCursorDown without its report to the observer.
     void moveDown(int n);
+    template <class Open> void openWith(const QString &path, Open open);
     /// SetText without its report to the observer; true when the text was typed.
     bool setTextUnobserved(QString &text, bool IsTick, bool IsMoney, bool BlankZero, bool Bold);
 
     Lasting m_lasting;
     std::unique_ptr<clsWordDocument> m_document;
     bool m_sheetLost = false;
+    QString m_savedPath;
+    clsTextPlace m_savedText;
 };

@@ -2,6 +2,7 @@
 
 #include "wordexport/clsWordContentMap.h"
 #include "wordexport/mdDocumentError.h"
+#include "wordexport/mdDocumentFile.h"
 #include "wordexport/mdWordNamespaces.h"
 #include "wordexport/mdWordXml.h"
 
@@ -88,8 +89,10 @@ xml_node clsWordComposer::targetBody()
     return bodyOf(m_target);
 }
 
-void clsWordComposer::append(const QString &path, const QString &shownName)
+void clsWordComposer::append(const QString &path, const QString &shownName, const clsPlainText *plain)
 {
+    if (plain && appendAsItStands(path, *plain))
+        return;
     const clsStaging staging(m_target.partXml(m_target.mainPart()));
     clsWordPackage source(clsZipPackage::fromFile(path, shownName), shownName, staging.place());
     append(source);
@@ -103,13 +106,52 @@ void clsWordComposer::append(clsWordPackage &source)
 
     xml_node firstSection;
     visitSections(sourceBody, [&](const xml_node &section) { firstSection = firstSection ? firstSection : section; });
+    beginSection(sourceBody, firstSection);
+    settleTarget();
+    moveBlocks(sourceBody, finalSection);
+}
+
+// Only the last paragraphs and the section become part of the tree, since what comes next may change them. The rest
+// goes straight to the finished text: reading it would take most of the time that the joining takes.
+bool clsWordComposer::appendAsItStands(const QString &path, const clsPlainText &plain)
+{
+    if (plain.styles != m_styles.originalBytes())
+        return false;
+    const QByteArray file = mdReadDocumentFile(path, ZipLimits::PackageBytes);
+    if (file.size() != plain.place.fileSize || plain.place.at + plain.place.size > file.size())
+        return false;
+    const auto body = mdPlainBody(QByteArrayView(file).sliced(plain.place.at, plain.place.size));
+    if (!body)
+        return false;
+    const clsStaging staging(m_target.partXml(m_target.mainPart()));
+    xml_node end = staging.place();
+    for (const QByteArrayView piece : {body->end, body->section})
+        if (!end.append_buffer(piece.data(), size_t(piece.size()), WordXml::ParseFlags & ~pugi::parse_declaration))
+            return false;
+    const xml_node section = end.last_child();
+    beginSection(end, section);
+    settleTarget();
+    m_target.settleText(body->blocks);
+    moveBlocks(end, section);
+    return true;
+}
+
+void clsWordComposer::beginSection(const xml_node &sourceBody, xml_node firstSection)
+{
     beginOnNewPage(firstSection);
     fillMissingHeaders(firstSection);
     noteHeaders(sourceBody);
+}
 
-    xml_node body = targetBody();
-    sealLastSection(body);
+void clsWordComposer::settleTarget()
+{
+    sealLastSection(targetBody());
     m_target.settleBody();
+}
+
+void clsWordComposer::moveBlocks(const xml_node &sourceBody, const xml_node &finalSection)
+{
+    xml_node body = targetBody();
     for (xml_node block = sourceBody.first_child(); block;) {
         const xml_node next = block.next_sibling();
         if (WordXml::isElement(block) && block != finalSection)

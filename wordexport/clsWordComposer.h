@@ -1,5 +1,6 @@
 #pragma once
 
+#include "wordexport/clsPlainText.h"
 #include "wordexport/clsWordIdentities.h"
 #include "wordexport/clsWordNumberingImport.h"
 #include "wordexport/clsWordPackage.h"
@@ -17,7 +18,8 @@ public:
     explicit clsWordComposer(clsWordPackage &target);
 
     /// Appends a document's file. One that can't be appended is an error, and the target's text is then as it was.
-    void append(const QString &path, const QString &shownName);
+    /// `plain` is what is known of the file, where it is known.
+    void append(const QString &path, const QString &shownName, const clsPlainText *plain);
 
 private:
     /// Which header or footer: its element's name and its type.
@@ -25,7 +27,11 @@ private:
 
     pugi::xml_node targetBody();
     void append(clsWordPackage &source);
+    bool appendAsItStands(const QString &path, const clsPlainText &plain);
     void mapContent(clsWordPackage &source, pugi::xml_node body);
+    void beginSection(const pugi::xml_node &sourceBody, pugi::xml_node firstSection);
+    void settleTarget();
+    void moveBlocks(const pugi::xml_node &sourceBody, const pugi::xml_node &finalSection);
     void beginOnNewPage(pugi::xml_node firstSection);
     void fillMissingHeaders(pugi::xml_node firstSection);
     void noteHeaders(const pugi::xml_node &body);

@@ -119,6 +119,19 @@ std::string withNames(std::string_view text, const std::unordered_map<std::strin
 
 } // namespace
 
+bool mdStandsAsItIs(const xml_node &element)
+{
+    const auto attributes = element.attributes();
+    if (std::any_of(attributes.begin(), attributes.end(),
+            [](const pugi::xml_attribute &attribute) { return isHistory(attribute.name()); }))
+        return false;
+    if (isShortName(element.name()))
+        return true;
+    const auto kind = Kinds.find(element.name());
+    return kind == Kinds.end() || kind->second == Kind::Paragraph || kind->second == Kind::Table
+        || (kind->second == Kind::Style && !element.first_child());
+}
+
 clsWordContentMap::clsWordContentMap(clsWordStyleImport &styles, Map lists, clsWordIdentities &identities)
     : m_styles(styles)
     , m_lists(std::move(lists))

@@ -11,6 +11,9 @@
 class clsWordIdentities;
 class clsWordStyleImport;
 
+/// True for an element that is the same in every document with the same styles; what is in it is another question.
+bool mdStandsAsItIs(const pugi::xml_node &element);
+
 /// Makes the content of one document ready to stand in another, in one walk over each of its trees: styles, lists,
 /// relationships and identities become the target's, and what belongs to one document's own history is dropped.
 class clsWordContentMap {

@@ -55,8 +55,12 @@ void setFont(xml_node format, const char *font)
 } // namespace
 
 clsWordDocument::clsWordDocument(const QString &path, const QString &shownName)
+    : clsWordDocument(path, shownName, clsZipPackage::fromFile(path, shownName))
+{ }
+
+clsWordDocument::clsWordDocument(const QString &path, const QString &shownName, clsZipPackage content)
     : m_path(path)
-    , m_package(clsWordPackage::fromFile(path, shownName))
+    , m_package(std::move(content), shownName)
     , m_cursor(body())
 { }
 
@@ -74,6 +78,14 @@ void clsWordDocument::save(clsZipPackage::Packing packing, bool toDisk)
         mdWriteDocumentFile(m_path, bytes);
     else
         mdWriteWorkingFile(m_path, bytes);
+    const QByteArray &text = m_package.partBytes(m_package.mainPart());
+    m_savedText = {bytes.size(), bytes.indexOf(text), text.size()};
+}
+
+QByteArray clsWordDocument::styles()
+{
+    const int styles = m_package.relatedPart("styles");
+    return styles < 0 ? QByteArray() : m_package.partBytes(styles);
 }
 
 void clsWordDocument::moved()
@@ -150,10 +162,8 @@ const std::vector<xml_node> &clsWordDocument::paragraphsThatMayHold(char c)
 
 const clsWordBoldness &clsWordDocument::boldness()
 {
-    if (!m_boldness) {
-        const int styles = m_package.relatedPart("styles");
-        m_boldness = clsWordBoldness::ofStyles(styles < 0 ? QByteArray() : m_package.partBytes(styles));
-    }
+    if (!m_boldness)
+        m_boldness = clsWordBoldness::ofStyles(styles());
     return *m_boldness;
 }
 
@@ -285,13 +295,13 @@ void clsWordDocument::backSpace()
     changed();
 }
 
-void clsWordDocument::append(const QString &path, const QString &shownName)
+void clsWordDocument::append(const QString &path, const QString &shownName, const clsPlainText *plain)
 {
     m_cursor.goToEnd();
     moved();
     if (!m_composer)
         m_composer = std::make_unique<clsWordComposer>(m_package);
-    m_composer->append(path, shownName);
+    m_composer->append(path, shownName, plain);
     m_placeholders.clear();
     m_cursor.goToEnd();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "wordexport/clsPlainText.h"
 #include "wordexport/clsWordBoldness.h"
 #include "wordexport/clsWordCursor.h"
 #include "wordexport/clsWordPackage.h"
@@ -17,10 +18,18 @@ public:
     /// Opens a document's file. One that can't be worked with is a clsRunTimeError that says why, and names the
     /// document by the name that is shown.
     clsWordDocument(const QString &path, const QString &shownName);
+    /// The same of a file whose content is at hand.
+    clsWordDocument(const QString &path, const QString &shownName, clsZipPackage content);
     ~clsWordDocument();
+
+    const QString &path() const { return m_path; }
+    /// The document's styles, as bytes.
+    QByteArray styles();
 
     /// Writes the document back to its file.
     void save(clsZipPackage::Packing packing, bool toDisk);
+    /// Where the text stands in the file that was saved last; meaningless where that was packed.
+    const clsTextPlace &savedText() const { return m_savedText; }
 
     void goToStart();
     void lineDown();
@@ -42,7 +51,7 @@ public:
     void backSpace();
 
     /// Appends another document's file as sections of its own; the cursor is then at the end.
-    void append(const QString &path, const QString &shownName);
+    void append(const QString &path, const QString &shownName, const clsPlainText *plain);
 
 private:
     pugi::xml_node body();
@@ -62,5 +71,6 @@ private:
     pugi::xml_document m_format; // holds the formatting of the text that is being typed
     std::map<char, std::vector<pugi::xml_node>> m_placeholders; // paragraphs in order, by a character in them
     std::shared_ptr<const clsWordBoldness> m_boldness;
+    clsTextPlace m_savedText;
     std::unique_ptr<clsWordComposer> m_composer;
 };

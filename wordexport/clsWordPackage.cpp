@@ -185,27 +185,36 @@ void clsWordPackage::settleBody()
         body.first_child().print(writer, "", pugi::format_raw, pugi::encoding_utf8);
         body.remove_child(body.first_child());
     }
-    writer.bytes.squeeze();
-    m_settled.push_back(writer.bytes);
+    settleText(writer.bytes);
+}
+
+void clsWordPackage::settleText(QByteArrayView blocks)
+{
+    if (!m_settled) {
+        m_settled = std::make_unique<clsDeflatedText>();
+        m_settledHead = aroundSettledText().first;
+        m_settled->append(m_settledHead);
+    }
+    m_settled->append(blocks);
 }
 
 void clsWordPackage::restoreBody()
 {
-    if (m_settled.empty())
+    if (!m_settled)
         return;
+    const QByteArray text = m_settled->packedWith({}).text().sliced(m_settledHead.size());
+    m_settled.reset();
     pugi::xml_node body = mainRoot().child("w:body");
     pugi::xml_node staging = body.prepend_child("staging");
-    for (const QByteArray &bytes : m_settled)
-        staging.append_buffer(bytes.constData(), size_t(bytes.size()),
-            (WordXml::ParseFlags & ~pugi::parse_declaration) | pugi::parse_fragment);
+    staging.append_buffer(
+        text.constData(), size_t(text.size()), (WordXml::ParseFlags & ~pugi::parse_declaration) | pugi::parse_fragment);
     while (const pugi::xml_node block = staging.first_child())
         body.insert_move_before(block, staging);
     body.remove_child(staging);
-    m_settled.clear();
 }
 
-// The settled text goes between the pieces of the tree's own text, where a mark stands for it meanwhile.
-void clsWordPackage::writeMainPart()
+// What the tree has before the settled text and behind it; a mark stands for that meanwhile.
+std::pair<QByteArray, QByteArray> clsWordPackage::aroundSettledText()
 {
     pugi::xml_document &tree = partXml(m_mainPart);
     pugi::xml_node body = mainRoot().child("w:body");
@@ -221,10 +230,18 @@ void clsWordPackage::writeMainPart()
         mark = "<?" + QByteArray::fromStdString(name) + "?>";
     } while (bytes.count(mark) != 1);
     const qsizetype at = bytes.indexOf(mark);
-    std::vector<QByteArray> pieces {bytes.left(at)};
-    pieces.insert(pieces.end(), m_settled.begin(), m_settled.end());
-    pieces.push_back(bytes.mid(at + mark.size()));
-    m_zip.setPieces(m_mainPart, pieces);
+    return {bytes.left(at), bytes.mid(at + mark.size())};
+}
+
+void clsWordPackage::writeMainPart()
+{
+    const auto [head, tail] = aroundSettledText();
+    if (head != m_settledHead) { // a document that was appended since has declared prefixes there
+        const QByteArray text = m_settled->packedWith({}).text().sliced(m_settledHead.size());
+        m_settled.reset();
+        settleText(text);
+    }
+    m_zip.setPacked(m_mainPart, m_settled->packedWith(tail));
     m_parsed[m_mainPart].changed = false;
 }
 

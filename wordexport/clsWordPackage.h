@@ -41,12 +41,14 @@ public:
     /// The part that the main part is related to by a type (its last word: "styles", "numbering"), or -1.
     int relatedPart(const char *typeName);
 
-    /// Text at the front of the main part's body that is finished, as bytes: a joined document would take ten times
-    /// the room as a tree. Moves all that the body holds there.
+    /// Text at the front of the main part's body that is finished, packed: a joined document would take a thousand
+    /// times the room as a tree. Moves all that the body holds there.
     void settleBody();
+    /// Adds text to it that was never in the tree, whole blocks as they are written.
+    void settleText(QByteArrayView blocks);
     /// Makes the finished text part of the tree again.
     void restoreBody();
-    bool hasSettledText() const { return !m_settled.empty(); }
+    bool hasSettledText() const { return m_settled != nullptr; }
 
     int partCount() const { return int(m_zip.entries().size()); }
     const QString &partName(int part) const { return m_zip.entries()[size_t(part)].name; }
@@ -92,6 +94,7 @@ private:
     std::unique_ptr<pugi::xml_document> parse(int part) const;
     void parseInto(pugi::xml_node place, int part) const;
     void findMainPart();
+    std::pair<QByteArray, QByteArray> aroundSettledText();
     void writeMainPart();
     void writeRelationships();
 
@@ -99,7 +102,8 @@ private:
     QString m_shownName;
     int m_mainPart = -1;
     pugi::xml_node m_mainPlace; // of the main part's tree; a null node where it is a tree of its own
-    std::vector<QByteArray> m_settled;
+    std::unique_ptr<clsDeflatedText> m_settled; // behind what the main part begins with
+    QByteArray m_settledHead;
     std::map<int, Parsed> m_parsed;
     std::map<int, Relations> m_relations;
     std::unique_ptr<pugi::xml_document> m_contentTypes;

@@ -108,27 +108,77 @@ QByteArray inflate(zip_t *archive, zip_uint64_t index, qint64 size, const QStrin
     return bytes;
 }
 
-void addTo(zip_t *archive, const clsZipPackage::Entry &entry, clsZipPackage::Packing packing)
+/// Hands the library an entry that is packed already, which it writes as it is.
+class clsPackedSource {
+public:
+    static zip_source_t *create(zip_t *archive, const clsDeflatedText::Packed &packed)
+    {
+        auto state = std::make_unique<clsPackedSource>(packed);
+        zip_source_t *source = zip_source_function(archive, &clsPackedSource::answer, state.get());
+        if (source)
+            static_cast<void>(state.release()); // the source owns it now
+        return source;
+    }
+    explicit clsPackedSource(const clsDeflatedText::Packed &packed)
+        : m_packed(packed)
+    {
+        zip_error_init(&m_error);
+    }
+
+private:
+    static zip_int64_t answer(void *state, void *data, zip_uint64_t size, zip_source_cmd_t command)
+    {
+        auto *source = static_cast<clsPackedSource *>(state);
+        switch (command) {
+        case ZIP_SOURCE_OPEN: source->m_done = 0; return 0;
+        case ZIP_SOURCE_READ: return source->read(data, qint64(size));
+        case ZIP_SOURCE_CLOSE: return 0;
+        case ZIP_SOURCE_STAT: return source->tell(static_cast<zip_stat_t *>(data));
+        case ZIP_SOURCE_ERROR: return zip_error_to_data(&source->m_error, data, size);
+        case ZIP_SOURCE_FREE: delete source; return 0;
+        case ZIP_SOURCE_SUPPORTS:
+            return zip_source_make_command_bitmap(ZIP_SOURCE_OPEN, ZIP_SOURCE_READ, ZIP_SOURCE_CLOSE, ZIP_SOURCE_STAT,
+                ZIP_SOURCE_ERROR, ZIP_SOURCE_FREE, -1);
+        default: zip_error_set(&source->m_error, ZIP_ER_OPNOTSUPP, 0); return -1;
+        }
+    }
+    zip_int64_t read(void *data, qint64 size)
+    {
+        const qint64 part = std::min(size, m_packed.bytes.size() - m_done);
+        std::copy_n(m_packed.bytes.constData() + m_done, part, static_cast<char *>(data));
+        m_done += part;
+        return part;
+    }
+    zip_int64_t tell(zip_stat_t *stat) const
+    {
+        zip_stat_init(stat);
+        stat->valid = ZIP_STAT_SIZE | ZIP_STAT_COMP_SIZE | ZIP_STAT_COMP_METHOD | ZIP_STAT_CRC;
+        stat->size = zip_uint64_t(m_packed.size);
+        stat->comp_size = zip_uint64_t(m_packed.bytes.size());
+        stat->comp_method = ZIP_CM_DEFLATE;
+        stat->crc = m_packed.crc;
+        return sizeof *stat;
+    }
+
+    const clsDeflatedText::Packed &m_packed;
+    qint64 m_done = 0;
+    zip_error_t m_error;
+};
+
+void addTo(zip_t *archive, const clsZipPackage::Entry &entry, bool stored)
 {
-    // libzip reads the bytes when the archive is closed; the package outlives that, and so do the fragments' bytes.
-    std::vector<zip_buffer_fragment_t> fragments;
-    const auto addFragment = [&fragments](const QByteArray &bytes) {
-        zip_uint8_t *data = reinterpret_cast<zip_uint8_t *>(const_cast<char *>(bytes.constData())); // only read
-        fragments.push_back({data, zip_uint64_t(bytes.size())});
-    };
-    addFragment(entry.bytes);
-    for (const QByteArray &piece : entry.more)
-        addFragment(piece);
-    zip_source_t *source = zip_source_buffer_fragment(archive, fragments.data(), fragments.size(), 0);
+    // libzip reads the bytes when the archive is closed, and the package outlives that.
+    zip_source_t *source = entry.packed
+        ? clsPackedSource::create(archive, *entry.packed)
+        : zip_source_buffer(archive, entry.bytes.constData(), zip_uint64_t(entry.bytes.size()), 0);
     const zip_int64_t index
         = source ? zip_file_add(archive, entry.name.toUtf8().constData(), source, ZIP_FL_ENC_UTF_8) : -1;
     if (index < 0) {
         zip_source_free(source);
         throw clsRunTimeError(clsRunTimeError::OutOfMemory);
     }
-    constexpr zip_uint32_t Level = 6;
-    const bool stored = packing == clsZipPackage::Stored;
-    zip_set_file_compression(archive, zip_uint64_t(index), stored ? ZIP_CM_STORE : ZIP_CM_DEFLATE, stored ? 0 : Level);
+    zip_set_file_compression(archive, zip_uint64_t(index), stored ? ZIP_CM_STORE : ZIP_CM_DEFLATE,
+        stored ? 0 : zip_uint32_t(clsDeflatedText::Level));
     zip_file_set_dostime(archive, zip_uint64_t(index), FixedDosTime, FixedDosDate, 0);
 }
 
@@ -209,18 +259,23 @@ QByteArray clsZipPackage::toBytes(Packing packing) const
         throw clsRunTimeError(clsRunTimeError::OutOfMemory);
     zip_source_keep(source.get()); // closing the archive lets go of it, and the result is read from it afterwards
     for (const Entry *entry : ordered)
-        addTo(archive.get(), *entry, packing);
+        addTo(archive.get(), *entry, packing == Stored);
     if (zip_close(archive.get()) != 0)
         throw clsRunTimeError(clsRunTimeError::OutOfMemory);
     archive.release();
     return readBack(source.get());
 }
 
-void clsZipPackage::setPieces(int index, const std::vector<QByteArray> &pieces)
+void clsZipPackage::setBytes(int index, const QByteArray &bytes)
 {
-    Entry &entry = m_entries[size_t(index)];
-    entry.bytes = pieces.empty() ? QByteArray() : pieces.front();
-    entry.more.assign(pieces.empty() ? pieces.end() : pieces.begin() + 1, pieces.end());
+    m_entries[size_t(index)].bytes = bytes;
+    m_entries[size_t(index)].packed.reset();
+}
+
+void clsZipPackage::setPacked(int index, clsDeflatedText::Packed packed)
+{
+    m_entries[size_t(index)].bytes.clear();
+    m_entries[size_t(index)].packed = std::make_shared<const clsDeflatedText::Packed>(std::move(packed));
 }
 
 int clsZipPackage::indexOf(const QString &name) const

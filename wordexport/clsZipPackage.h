@@ -1,9 +1,12 @@
 #pragma once
 
+#include "wordexport/clsDeflatedText.h"
+
 #include <QByteArray>
 #include <QHash>
 #include <QString>
 
+#include <memory>
 #include <vector>
 
 /// A zip package in memory: names and bytes, in the order of the file. Nothing is ever unpacked to the disk.
@@ -14,8 +17,8 @@ public:
     struct Entry {
         QString name;
         QByteArray bytes;
-        /// What follows the bytes, for an entry too long to be wanted in one piece.
-        std::vector<QByteArray> more = {};
+        /// Instead of the bytes, for an entry too long to be wanted unpacked.
+        std::shared_ptr<const clsDeflatedText::Packed> packed = {};
     };
     /// How hard to pack. Stored is for files that live for moments; the format is the same.
     enum Packing { Stored, Deflated };
@@ -33,8 +36,8 @@ public:
     /// The index of an entry, or -1. Names compare without case, as the parts of a document do.
     int indexOf(const QString &name) const;
     const QByteArray &bytes(int index) const { return m_entries[size_t(index)].bytes; }
-    void setBytes(int index, const QByteArray &bytes) { m_entries[size_t(index)].bytes = bytes; }
-    void setPieces(int index, const std::vector<QByteArray> &pieces);
+    void setBytes(int index, const QByteArray &bytes);
+    void setPacked(int index, clsDeflatedText::Packed packed);
     /// Adds an entry under a name that is not taken.
     int add(const QString &name, const QByteArray &bytes);
 

@@ -23,18 +23,24 @@ QByteArray readTemplate(const QString &path)
     }
 }
 
-/// The bytes of a template. Each is looked at once, and as a whole: what is wrong with it would otherwise show on a
-/// sheet that was made from it, or in the finished document. The build's own were looked at when they were made.
-const QByteArray &templateBytes(clsExport &run, const QString &fileName)
+/// Looks at a template that is not the build's own.
+bool isPlainDocument(const clsZipPackage &content, const QString &fileName)
+{
+    clsWordPackage package(content, fileName);
+    mdCheckDocument(package);
+    return mdIsPlainText(package.partXml(package.mainPart()));
+}
+
+/// A template is looked at once, and as a whole: what is wrong with it would otherwise show on a sheet that was made
+/// from it, or in the finished document. The build's own were looked at when they were made, and are plain.
+const clsTemplate &templateOf(clsExport &run, const QString &fileName)
 {
     auto known = run.templates.find(fileName);
     if (known == run.templates.end()) {
         const QByteArray bytes = readTemplate(run.templatesFolder + u'/' + fileName);
-        if (!mdIsShippedTemplate(bytes)) {
-            clsWordPackage package(clsZipPackage::fromBytes(bytes, fileName), fileName);
-            mdCheckDocument(package);
-        }
-        known = run.templates.insert(fileName, bytes);
+        const clsZipPackage content = clsZipPackage::fromBytes(bytes, fileName);
+        known = run.templates.insert(
+            fileName, {bytes, content, mdIsShippedTemplate(bytes) || isPlainDocument(content, fileName)});
     }
     return known.value();
 }
@@ -46,8 +52,8 @@ QString mdExportCopyTemplate(clsExport &run, const QString &templateName, const 
     WriteLog(QStringLiteral("Begin Export Copy Template"));
     const QString fileName = templateName + QStringLiteral(".doc");
     const QString path = QStringLiteral("%1/%2.doc").arg(mdExportTempFolder(run.exportFolder), sheetName);
-    mdWriteWorkingFile(path, templateBytes(run, fileName));
-    run.templateNames.insert(path, fileName);
+    mdWriteWorkingFile(path, templateOf(run, fileName).bytes);
+    run.sheets.insert(path, {fileName});
     WriteLog(QStringLiteral("End Export Copy Template"));
     return path;
 }

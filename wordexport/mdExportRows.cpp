@@ -1,5 +1,6 @@
 #include "wordexport/mdExportRows.h"
 
+#include "costing/mdFigureFaults.h"
 #include "costing/mdGetCommsInfo.h"
 #include "costing/mdGetDisbursementsTotals.h"
 #include "costing/mdSumOf.h"
@@ -11,18 +12,51 @@ namespace {
 using Form = clsZR3Form;
 using enum clsCommsKind;
 
-/// Account number and name of the counsel whose fee item `i` is; the object error where it names none.
-QString counselText(const Form &form, int i)
-{
-    const auto named = form.CounselByUniqueID(form.CounselDisbursement(i)->CounselUniqueID());
-    const clsZR3Counsel &counsel = mdExisting(named);
-    return counsel.AccountNumber() + QStringLiteral(" - ") + counsel.Name();
-}
-
 const clsZR3Disbursement &counselFee(const Form &form, int i)
 {
     return *form.CounselDisbursement(i);
 }
+
+/// Account number and name of the counsel whose fee item `i` is; the object error where it names none.
+QString counselText(const Form &form, int i)
+{
+    const clsZR3Disbursement &fee = counselFee(form, i);
+    return mdExplained(form, fee, [&] {
+        const auto named = form.CounselByUniqueID(fee.CounselUniqueID());
+        const clsZR3Counsel &counsel = mdExisting(named);
+        return counsel.AccountNumber() + QStringLiteral(" - ") + counsel.Name();
+    });
+}
+
+/// Amount and VAT of an item added; the type error where one is no number.
+template <class Item, class Amount, class VAT>
+QString grossText(const Form &form, const Item &item, Amount amount, VAT vat)
+{
+    return mdExplained(form, item, [&] {
+        return MoneyToText(mdSumOf({MoneyFromText((item.*amount)()), MoneyFromText((item.*vat)())}));
+    });
+}
+
+QString grossText(const Form &form, const clsZR3Disbursement &disbursement)
+{
+    return grossText(form, disbursement, &clsZR3Disbursement::Amount, &clsZR3Disbursement::VAT);
+}
+
+QString grossText(const Form &form, const clsZR3ExpertInvoice &invoice)
+{
+    return grossText(form, invoice, &clsZR3ExpertInvoice::NetAmount, &clsZR3ExpertInvoice::VATAmount);
+}
+
+/// A figure of a line of the letters and calls, such as `atLine<CommsRateAtLine>`.
+template <auto Figure> auto atLine(const Form &form, int line, clsCommsKind kind)
+{
+    return mdExplained(form, line, kind, [&] { return Figure(form, line, kind); });
+}
+
+constexpr auto rateAt = atLine<CommsRateAtLine>;
+constexpr auto countAt = atLine<CommsCountAtLine>;
+constexpr auto enhancementAt = atLine<CommsEnhancementAtLine>;
+constexpr auto claimAt = atLine<CommsClaimAtLine>;
 
 const clsZR3Disbursement &other(const Form &form, int i)
 {
@@ -36,7 +70,7 @@ const clsGridCell CounselFees[] = {
     ZR3_CELL(QString::number(i), Text),
     ZR3_CELL(counselText(form, i), Text),
     ZR3_CELL(counselFee(form, i).DateOfWork(), Text),
-    ZR3_CELL(mdGrossText(counselFee(form, i).Amount(), counselFee(form, i).VAT()), Money),
+    ZR3_CELL(grossText(form, counselFee(form, i)), Money),
 };
 
 const clsPlaceholderRow CounselFeesPlaceholders[] = {
@@ -57,7 +91,7 @@ const clsGridCell ExpertInvoices[] = {
     ZR3_CELL(expert(form, i)->OtherCosts(), Text),
     ZR3_CELL(expert(form, i)->NetAmount(), Text),
     ZR3_CELL(expert(form, i)->VATAmount(), Text),
-    ZR3_CELL(mdGrossText(expert(form, i)->NetAmount(), expert(form, i)->VATAmount()), Money),
+    ZR3_CELL(grossText(form, *expert(form, i)), Money),
 };
 
 const clsGridCell JointInstructions[] = {
@@ -72,7 +106,7 @@ const clsGridCell OtherDisbursements[] = {
     ZR3_CELL(other(form, i).Description(), Text),
     ZR3_CELL(other(form, i).Amount(), Money),
     ZR3_CELL(other(form, i).VAT(), Money),
-    ZR3_CELL(mdGrossText(other(form, i).Amount(), other(form, i).VAT()), Money),
+    ZR3_CELL(grossText(form, other(form, i)), Money),
 };
 
 const clsPlaceholderRow FirstPage[] = {
@@ -124,30 +158,30 @@ const clsPlaceholderRow CostsAwarded[] = {
 };
 
 const clsPlaceholderRow Communications[] = {
-    ZR3_FIGURE("{loir1}", CommsRateAtLine(form, 1, LettersOut)),
-    ZR3_WORDS("{lo1}", CommsCountAtLine(form, 1, LettersOut)),
-    ZR3_FIGURE("{loenh1}", CommsEnhancementAtLine(form, 1, LettersOut)),
-    ZR3_FIGURE("{lototal1}", CommsClaimAtLine(form, 1, LettersOut)),
-    ZR3_FIGURE("{loir2}", CommsRateAtLine(form, 2, LettersOut)),
-    ZR3_WORDS("{lo2}", CommsCountAtLine(form, 2, LettersOut)),
-    ZR3_FIGURE("{loenh2}", CommsEnhancementAtLine(form, 2, LettersOut)),
-    ZR3_FIGURE("{lototal2}", CommsClaimAtLine(form, 2, LettersOut)),
-    ZR3_FIGURE("{liir1}", CommsRateAtLine(form, 1, LettersIn)),
-    ZR3_WORDS("{li1}", CommsCountAtLine(form, 1, LettersIn)),
-    ZR3_FIGURE("{lienh1}", CommsEnhancementAtLine(form, 1, LettersIn)),
-    ZR3_FIGURE("{litotal1}", CommsClaimAtLine(form, 1, LettersIn)),
-    ZR3_FIGURE("{liir2}", CommsRateAtLine(form, 2, LettersIn)),
-    ZR3_WORDS("{li2}", CommsCountAtLine(form, 2, LettersIn)),
-    ZR3_FIGURE("{lienh2}", CommsEnhancementAtLine(form, 2, LettersIn)),
-    ZR3_FIGURE("{litotal2}", CommsClaimAtLine(form, 2, LettersIn)),
-    ZR3_FIGURE("{tcir1}", CommsRateAtLine(form, 1, Calls)),
-    ZR3_WORDS("{tc1}", CommsCountAtLine(form, 1, Calls)),
-    ZR3_FIGURE("{tcenh1}", CommsEnhancementAtLine(form, 1, Calls)),
-    ZR3_FIGURE("{tctotal1}", CommsClaimAtLine(form, 1, Calls)),
-    ZR3_FIGURE("{tcir2}", CommsRateAtLine(form, 2, Calls)),
-    ZR3_WORDS("{tc2}", CommsCountAtLine(form, 2, Calls)),
-    ZR3_FIGURE("{tcenh2}", CommsEnhancementAtLine(form, 2, Calls)),
-    ZR3_FIGURE("{tctotal2}", CommsClaimAtLine(form, 2, Calls)),
+    ZR3_FIGURE("{loir1}", rateAt(form, 1, LettersOut)),
+    ZR3_WORDS("{lo1}", countAt(form, 1, LettersOut)),
+    ZR3_FIGURE("{loenh1}", enhancementAt(form, 1, LettersOut)),
+    ZR3_FIGURE("{lototal1}", claimAt(form, 1, LettersOut)),
+    ZR3_FIGURE("{loir2}", rateAt(form, 2, LettersOut)),
+    ZR3_WORDS("{lo2}", countAt(form, 2, LettersOut)),
+    ZR3_FIGURE("{loenh2}", enhancementAt(form, 2, LettersOut)),
+    ZR3_FIGURE("{lototal2}", claimAt(form, 2, LettersOut)),
+    ZR3_FIGURE("{liir1}", rateAt(form, 1, LettersIn)),
+    ZR3_WORDS("{li1}", countAt(form, 1, LettersIn)),
+    ZR3_FIGURE("{lienh1}", enhancementAt(form, 1, LettersIn)),
+    ZR3_FIGURE("{litotal1}", claimAt(form, 1, LettersIn)),
+    ZR3_FIGURE("{liir2}", rateAt(form, 2, LettersIn)),
+    ZR3_WORDS("{li2}", countAt(form, 2, LettersIn)),
+    ZR3_FIGURE("{lienh2}", enhancementAt(form, 2, LettersIn)),
+    ZR3_FIGURE("{litotal2}", claimAt(form, 2, LettersIn)),
+    ZR3_FIGURE("{tcir1}", rateAt(form, 1, Calls)),
+    ZR3_WORDS("{tc1}", countAt(form, 1, Calls)),
+    ZR3_FIGURE("{tcenh1}", enhancementAt(form, 1, Calls)),
+    ZR3_FIGURE("{tctotal1}", claimAt(form, 1, Calls)),
+    ZR3_FIGURE("{tcir2}", rateAt(form, 2, Calls)),
+    ZR3_WORDS("{tc2}", countAt(form, 2, Calls)),
+    ZR3_FIGURE("{tcenh2}", enhancementAt(form, 2, Calls)),
+    ZR3_FIGURE("{tctotal2}", claimAt(form, 2, Calls)),
     ZR3_FIGURE("{cmtotal}", CommsTotal(form)),
 };
 
@@ -191,8 +225,3 @@ const std::span<const clsPlaceholderRow> CostsAwardedAmountsRows = CostsAwardedA
 const std::span<const clsPlaceholderRow> CostsAwardedRows = CostsAwarded;
 const std::span<const clsPlaceholderRow> CommunicationsRows = Communications;
 const std::span<const clsPlaceholderRow> DebtorsDetailsRows = Debtor;
-
-QString mdGrossText(const QString &amount, const QString &vat)
-{
-    return MoneyToText(mdSumOf({MoneyFromText(amount), MoneyFromText(vat)}));
-}

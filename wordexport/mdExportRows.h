@@ -25,7 +25,3 @@ extern const std::span<const clsPlaceholderRow> CostsAwardedRows;
 extern const std::span<const clsPlaceholderRow> CommunicationsRows;
 /// The whole of the debtor's page.
 extern const std::span<const clsPlaceholderRow> DebtorsDetailsRows;
-
-/// The text of an expert's invoice item's or disbursement's amount and VAT added; the type error where one is no
-/// number.
-QString mdGrossText(const QString &amount, const QString &vat);

@@ -1,6 +1,7 @@
 #include "wordexport/mdExportSheet.h"
 
 #include "wordexport/clsExport.h"
+#include "wordexport/clsWordDocument.h"
 #include "wordexport/mdExportCopyTemplate.h"
 #include "wordexport/mdExportWordGenerateOverRuns.h"
 
@@ -21,19 +22,42 @@ QString mdMakeSheet(clsExport &run, const QString &templateName, int pageNumber,
     return path;
 }
 
-void mdOpenSheet(const clsExport &run, clsMSWord &word, const QString &path)
+void mdOpenSheet(clsExport &run, clsMSWord &word, const QString &path)
 {
-    word.OpenDocument(path, run.templateNames.value(path));
+    clsSheetFile &sheet = run.sheets[path];
+    if (const auto original = run.templates.find(sheet.templateName); sheet.isCopy && original != run.templates.end()) {
+        word.OpenDocument(path, sheet.templateName, original->content);
+        if (word.isOpen() && !original->styles)
+            original->styles = word.openDocument()->styles();
+    } else {
+        word.OpenDocument(path, sheet.templateName);
+    }
+    sheet.isCopy = false;
+    sheet.text.reset();
     stopIfLost(run, word);
 }
 
-void mdSaveSheet(const clsExport &run, clsMSWord &word)
+void mdSaveSheet(clsExport &run, clsMSWord &word)
 {
     word.SaveAndClose();
+    if (!word.savedPath().isEmpty())
+        run.sheets[word.savedPath()].text = word.savedText();
     stopIfLost(run, word);
 }
 
-void mdFinishSheet(const clsExport &run, clsMSWord &word)
+void mdInsertSheet(const clsExport &run, clsMSWord &word, const QString &path)
+{
+    const clsSheetFile sheet = run.sheets.value(path);
+    const auto original = run.templates.find(sheet.templateName);
+    if (original != run.templates.end() && original->isPlain && original->styles && sheet.text) {
+        const clsPlainText plain {*original->styles, *sheet.text};
+        word.InsertFileAtEnd(path, sheet.templateName, &plain);
+    } else {
+        word.InsertFileAtEnd(path, sheet.templateName);
+    }
+}
+
+void mdFinishSheet(clsExport &run, clsMSWord &word)
 {
     mdSaveSheet(run, word);
     word.Quit();

@@ -15,10 +15,12 @@ QString mdMakeSheet(clsExport &run, const QString &templateName, int pageNumber,
 
 // Opening and saving stop the export where it asks for that and the sheet is lost.
 
-void mdOpenSheet(const clsExport &run, clsMSWord &word, const QString &path);
-void mdSaveSheet(const clsExport &run, clsMSWord &word);
+void mdOpenSheet(clsExport &run, clsMSWord &word, const QString &path);
+void mdSaveSheet(clsExport &run, clsMSWord &word);
+/// Appends a sheet that was saved to the document that is open. One that is lost stops nothing yet.
+void mdInsertSheet(const clsExport &run, clsMSWord &word, const QString &path);
 /// Saves, closes and ends a sheet's word processor.
-void mdFinishSheet(const clsExport &run, clsMSWord &word);
+void mdFinishSheet(clsExport &run, clsMSWord &word);
 
 void mdReplace(clsMSWord &word, const QString &placeholder, const QString &text, clsFillClass fill);
 void mdReplaceMark(clsMSWord &word, const QString &mark);

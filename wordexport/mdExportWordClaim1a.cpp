@@ -1,5 +1,6 @@
 #include "wordexport/mdExportWordClaim1a.h"
 
+#include "costing/mdFigureFaults.h"
 #include "costing/mdGetBillSummary.h"
 #include "costing/mdGetColumnTotals.h"
 #include "costing/mdGetCommsInfo.h"
@@ -45,11 +46,13 @@ const clsPlaceholderRow Page2Rows[] = {
     ZR3_TEXT("{issueofproceedingsdate}", OutcomeOfCase.IssueOfProceedingsDate),
     ZR3_TEXT("{emergencycertificatedate}", OutcomeOfCase.EmergencyCertificateDate),
     ZR3_TEXT("{substantivecertificatedate}", OutcomeOfCase.SubstantiveCertificateDate),
-    ZR3_WORDS("{1}", OutcomeCodeAt(StageOfCaseEndCollection(), form.OutcomeOfCase.StageOfCaseEnd())),
-    ZR3_WORDS("{2}", OutcomeCodeAt(HowDidCaseEndCollection(), form.OutcomeOfCase.HowDidCaseEnd())),
-    ZR3_WORDS("{3}", OutcomeCodeAt(ResultCollection(), form.OutcomeOfCase.Result())),
-    ZR3_WORDS("{4}", OutcomeCodeAt(ADRProposedCollection(), form.OutcomeOfCase.ADRProposed())),
-    ZR3_WORDS("{5}", OutcomeCodeAt(PublicBenefitsAchievedCollection(), form.OutcomeOfCase.PublicBenefitsAchieved())),
+    ZR3_WORDS("{1}", OutcomeCodeOf(StageOfCaseEndCollection(), form.OutcomeOfCase, form.OutcomeOfCase.StageOfCaseEnd)),
+    ZR3_WORDS("{2}", OutcomeCodeOf(HowDidCaseEndCollection(), form.OutcomeOfCase, form.OutcomeOfCase.HowDidCaseEnd)),
+    ZR3_WORDS("{3}", OutcomeCodeOf(ResultCollection(), form.OutcomeOfCase, form.OutcomeOfCase.Result)),
+    ZR3_WORDS("{4}", OutcomeCodeOf(ADRProposedCollection(), form.OutcomeOfCase, form.OutcomeOfCase.ADRProposed)),
+    ZR3_WORDS("{5}",
+        OutcomeCodeOf(
+            PublicBenefitsAchievedCollection(), form.OutcomeOfCase, form.OutcomeOfCase.PublicBenefitsAchieved)),
     ZR3_TEXT("{dateoffinalorder}", OutcomeOfCase.DateOfFinalOrder),
     ZR3_TICK("{6}", OutcomeOfCase.Costs),
     ZR3_TICK("{7}", OutcomeOfCase.Damages),
@@ -184,6 +187,13 @@ const clsGridPage Page7 = {7, "Claim1A P7", Page7Grids, Page7Rows};
 
 constexpr auto hearing = mdItemAt<&clsZR3Form::FASItemByOrderID>;
 
+/// A figure of a hearing, such as `figureOf<&clsZR3FASItem::Total>`.
+template <auto Figure> QString figureOf(const clsZR3Form &form, int i)
+{
+    const clsZR3FASItem &item = *hearing(form, i);
+    return mdExplained(form, item, [&] { return MoneyToText((item.*Figure)()); });
+}
+
 const clsZR3FASItem &boltOn(const clsZR3Form &form, int i)
 {
     return *form.FASBoltOnPaymentsCollection()[size_t(i - 1)];
@@ -201,13 +211,13 @@ const clsGridCell AdvocacyCostsCells[] = {
     ZR3_CELL(QString::number(hearing(form, i)->ActualTimeSpent()), Text),
     ZR3_CELL(QString::number(hearing(form, i)->HearingUnits()), Text),
     ZR3_CELL(hearing(form, i)->RateForUnits(), Money),
-    ZR3_CELL(MoneyToText(hearing(form, i)->UnitPayment()), Money),
+    ZR3_CELL(figureOf<&clsZR3FASItem::UnitPayment>(form, i), Money),
     ZR3_CELL(hearing(form, i)->BoltOnClaimed(), Text),
-    ZR3_CELL(MoneyToText(hearing(form, i)->BoltOn()), Money),
+    ZR3_CELL(figureOf<&clsZR3FASItem::BoltOn>(form, i), Money),
     ZR3_CELL(hearing(form, i)->CourtBundlePayment(), Money),
     ZR3_CELL(hearing(form, i)->SettlementFee(), Money),
     ZR3_CELL(hearing(form, i)->ExceptionalTravel(), Money),
-    ZR3_CELL(MoneyToText(hearing(form, i)->Total()), Money),
+    ZR3_CELL(figureOf<&clsZR3FASItem::Total>(form, i), Money),
     ZR3_CELL(hearing(form, i)->VATForFAS(), Money),
 };
 

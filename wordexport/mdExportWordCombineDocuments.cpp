@@ -31,7 +31,7 @@ void mdExportWordCombineDocuments(clsExport &run)
     // The first sheet is always page 1's, and its name is taken for granted.
     const QString first = folder + QStringLiteral("/1(1).doc");
     mdWriteWorkingFile(joined, mdReadDocumentFile(first, ZipLimits::PackageBytes));
-    run.templateNames.insert(joined, run.templateNames.value(first));
+    run.sheets.insert(joined, {.templateName = run.sheets.value(first).templateName, .isCopy = false});
 
     clsMSWord word(clsMSWord::Finished);
     mdOpenSheet(run, word, joined);
@@ -40,8 +40,7 @@ void mdExportWordCombineDocuments(clsExport &run)
     const int count = int(run.ExportFileCollection.size());
     for (int i = 2; i <= count; ++i) {
         mdSetProgress(i, count, QStringLiteral("Combining Documents"));
-        const QString &sheet = run.ExportFileCollection[i - 1];
-        word.InsertFileAtEnd(sheet, run.templateNames.value(sheet));
+        mdInsertSheet(run, word, run.ExportFileCollection[i - 1]);
     }
     word.TypeBackSpace();
     mdSaveSheet(run, word);

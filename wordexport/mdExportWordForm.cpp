@@ -50,6 +50,7 @@ bool mdExportWordForm(clsExport &run, const clsExportForm &form)
     WriteLog(QStringLiteral("Begin Export Word ") + name);
     run.form.RenderScheduleOfTimeItemsForExport();
     run.form.RenderAdditionalInformationItems();
+    run.form.CheckDerivedCollections();
     if (run.form.IncludePage(form.additionalInformationPage) && mdNoteCanNeverFit(run))
         return false;
     run.ExportFileCollection.clear();

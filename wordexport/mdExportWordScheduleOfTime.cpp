@@ -1,6 +1,7 @@
 #include "wordexport/mdExportWordScheduleOfTime.h"
 
 #include "costing/mdDateText.h"
+#include "costing/mdFigureFaults.h"
 #include "costing/mdGetColumnTotals.h"
 #include "shell/mdSetProgress.h"
 #include "wordexport/clsExport.h"
@@ -80,7 +81,8 @@ void exportSheet(clsExport &run, const QString &pageTemplate, int pageNumber, in
     word.MoveCursorDown(LinesAboveGrid);
     for (int row = start; row <= last; ++row) {
         mdSetProgress(row, count, QStringLiteral("Exporting Page %1").arg(pageNumber));
-        typeRow(word, *run.form.ScheduleOfTimeItemsForExportCollection()[size_t(row - 1)]);
+        const clsZR3ScheduleOfTimeItem &item = *run.form.ScheduleOfTimeItemsForExportCollection()[size_t(row - 1)];
+        mdExplained(run.form, item, [&] { typeRow(word, item); });
         if (row < last)
             word.MoveSursorToNextLine();
     }

@@ -1,5 +1,7 @@
 #include "wordexport/mdOutcomesCollections.h"
 
+#include "formdata/clsXMLRecord.h"
+#include "formdata/mdRecordInWords.h"
 #include "shell/clsRunTimeError.h"
 
 QStringList StageOfCaseEndCollection()
@@ -100,9 +102,14 @@ QString OutcomeCode(const QString &text)
     return bracket < 0 ? QString() : text.left(bracket);
 }
 
-QString OutcomeCodeAt(const QStringList &list, int place)
+QString OutcomeCodeOf(const QStringList &list, const clsXMLRecord &outcome, const clsXMLField &field)
 {
+    const int place = field.readLong();
     if (place < 0 || place >= list.size())
-        throw clsRunTimeError(clsRunTimeError::SubscriptOutOfRange);
+        throw clsRunTimeError(clsRunTimeError::SubscriptOutOfRange)
+            .because(mdSentenceOf(outcome,
+                QStringLiteral("%1 has no entry %2")
+                    .arg(mdPropertyInWords(QString::fromLatin1(field.property().name)))
+                    .arg(place)));
     return OutcomeCode(list[place]);
 }

@@ -6,12 +6,13 @@ QStringList mdSplitLineIntoCollection(const QString &text, int width)
 {
     QStringList lines;
     QString line;
-    for (const QString &word : text.split(u' ')) {
+    for (const QStringView word : QStringView(text).split(u' ')) {
         if (word.size() + line.size() + 1 > width) {
             lines << mdTrimmedOfBlanks(line);
             line.clear();
         }
-        line += u' ' + word;
+        line += u' ';
+        line += word;
     }
     return lines << mdTrimmedOfBlanks(line);
 }
@@ -20,8 +21,9 @@ QStringList mdCutIntoPieces(const QString &text, int cutLength)
 {
     QStringList pieces;
     QString piece;
-    for (const QString &word : text.split(u' ')) {
-        piece += word + u' ';
+    for (const QStringView word : QStringView(text).split(u' ')) {
+        piece += word;
+        piece += u' ';
         if (piece.size() > cutLength) {
             pieces << mdTrimmedOfBlanks(piece);
             piece.clear();

@@ -41,7 +41,8 @@ Status guarded(clsConsoleUserInterface &console, Status onError, const std::func
     try {
         return step();
     } catch (const clsRunTimeError &error) {
-        console.tell(QStringLiteral("Run-time error '%1'").arg(error.number()), error.description());
+        const QString cause = error.cause().isEmpty() ? QString() : u'\n' + error.cause();
+        console.tell(QStringLiteral("Run-time error '%1'").arg(error.number()), error.description() + cause);
     } catch (const clsProgramEnd &) {
         // The user has been told why.
     } catch (const std::bad_alloc &) {
@@ -56,8 +57,13 @@ Status load(clsConsoleUserInterface &console, clsZR3Form &form, const QString &p
 {
     // That a file which can't be read is no claim either goes without saying.
     console.showsOnlyFirstMessage = true;
-    const Status status
-        = guarded(console, Status::NoClaim, [&] { return form.LoadXML(path) ? Status::Done : Status::NoClaim; });
+    const Status status = guarded(console, Status::NoClaim, [&] {
+        if (!form.LoadXML(path))
+            return Status::NoClaim;
+        // Nobody can mend the claim here.
+        form.CheckDerivedCollections();
+        return Status::Done;
+    });
     console.showsOnlyFirstMessage = false;
     return status;
 }
@@ -71,7 +77,8 @@ Status totals(clsConsoleUserInterface &console, const clsZR3Form &form)
     console.tell(QStringLiteral("Totals"),
         QStringLiteral(
             "Some figures of this claim can't be computed. Each of them stands as \"!\" and the number of its "
-            "run-time error."));
+            "run-time error.")
+            + (report.causes.isEmpty() ? QString() : u'\n' + report.causes.join(u'\n')));
     return Status::Failed;
 }
 

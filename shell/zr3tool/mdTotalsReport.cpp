@@ -1,6 +1,8 @@
 #include "shell/zr3tool/mdTotalsReport.h"
 
+#include "costing/clsSchedulePrices.h"
 #include "costing/mdCheckForBlankItems.h"
+#include "costing/mdFigureFaults.h"
 #include "costing/mdGetBillSummary.h"
 #include "costing/mdGetColumnTotals.h"
 #include "costing/mdGetCommsInfo.h"
@@ -114,14 +116,36 @@ private:
         try {
             writeValue();
         } catch (const clsRunTimeError &error) {
-            m_hasFailures = true;
-            m_json.text(key, QStringLiteral("!%1").arg(error.number()));
+            tell(error.cause());
+            failure(key, error.number());
         }
+    }
+    void failure(const char *key, int error)
+    {
+        ++m_failures;
+        m_json.text(key, QStringLiteral("!%1").arg(error));
+    }
+    void tell(const QString &cause)
+    {
+        if (mayTell() && !cause.isEmpty() && !m_causes.contains(cause))
+            m_causes << cause;
+    }
+    bool mayTell() const { return m_causes.size() < MostCauses; }
+    /// Writes an item, or a line of the letters and calls, and tells what is wrong with it where a figure fails.
+    template <class Write, class... Of> void object(Write write, const Of &...of)
+    {
+        const qsizetype before = m_failures;
+        m_json.beginObject();
+        write();
+        m_json.endObject();
+        if (m_failures > before && mayTell())
+            for (const clsFigureFault &fault : mdFigureFaults(m_form, of...))
+                tell(fault.sentence);
     }
 
     void figures(std::span<const FigureRow> rows);
     void scheduleItems();
-    void scheduleItem(const clsZR3ScheduleOfTimeItem &item);
+    void scheduleItem(const clsZR3ScheduleOfTimeItem &item, const clsSchedulePrice &price);
     void fasItems();
     void communications();
     void communicationLine(int line, clsCommsKind kind);
@@ -129,9 +153,12 @@ private:
     void counselAtLine();
     void blankItems();
 
+    static constexpr qsizetype MostCauses = 20;
+
     const Form &m_form;
     clsJsonWriter m_json;
-    bool m_hasFailures = false;
+    qsizetype m_failures = 0;
+    QStringList m_causes;
 };
 
 clsTotalsReport Report::write()
@@ -153,7 +180,7 @@ clsTotalsReport Report::write()
     m_json.endObject();
     blankItems();
     m_json.endObject();
-    return {m_json.bytes(), m_hasFailures};
+    return {m_json.bytes(), m_failures > 0, m_causes};
 }
 
 void Report::figures(std::span<const FigureRow> rows)
@@ -164,24 +191,38 @@ void Report::figures(std::span<const FigureRow> rows)
 
 void Report::scheduleItems()
 {
+    clsSchedulePrices prices(m_form);
     m_json.beginArray("ScheduleItems");
-    for (int n = 1; n <= int(m_form.ScheduleOfTimeItemsCollection().size()); ++n)
-        scheduleItem(mdExisting(m_form.ScheduleOfTimeItemByOrderID(n)));
+    for (int n = 1; n <= int(m_form.ScheduleOfTimeItemsCollection().size()); ++n) {
+        const clsZR3ScheduleOfTimeItem &item = mdExisting(m_form.ScheduleOfTimeItemByOrderID(n));
+        scheduleItem(item, prices.of(item));
+    }
     m_json.endArray();
 }
 
-void Report::scheduleItem(const clsZR3ScheduleOfTimeItem &item)
+void Report::scheduleItem(const clsZR3ScheduleOfTimeItem &item, const clsSchedulePrice &price)
 {
-    m_json.beginObject();
-    m_json.number("OrderID", item.OrderID());
-    guarded("InExport", [&] { m_json.boolean("InExport", m_form.IsOnBill(item)); });
-    m_json.number("SOTItemNumber", item.SOTItemNumber);
-    number("TimeColumn", [&] { return item.TimeColumn(); });
-    figure("Rate", [&] { return item.Rate(); });
-    figure("BasicClaim", [&] { return item.BasicClaim(); });
-    figure("TotalEnhancementPercentage", [&] { return item.TotalEnhancementPercentage(); });
-    figure("Claim", [&] { return item.Claim(); });
-    m_json.endObject();
+    using Price = clsSchedulePrice;
+    const auto amount = [&](const char *key, Price::Figure figure, Money value) {
+        if (const int error = price.errorOf(figure))
+            failure(key, error);
+        else
+            m_json.text(key, MoneyToText(value));
+    };
+    const auto write = [&] {
+        m_json.number("OrderID", item.OrderID());
+        guarded("InExport", [&] { m_json.boolean("InExport", m_form.IsOnBill(item)); });
+        m_json.number("SOTItemNumber", item.SOTItemNumber);
+        if (const int error = price.errorOf(Price::ColumnFigure))
+            failure("TimeColumn", error);
+        else
+            m_json.number("TimeColumn", price.TimeColumn);
+        amount("Rate", Price::RateFigure, price.Rate);
+        amount("BasicClaim", Price::BasicClaimFigure, price.BasicClaim);
+        amount("TotalEnhancementPercentage", Price::PercentageFigure, price.TotalEnhancementPercentage);
+        amount("Claim", Price::ClaimFigure, price.Claim);
+    };
+    object(write, item);
 }
 
 void Report::fasItems()
@@ -189,10 +230,11 @@ void Report::fasItems()
     m_json.beginArray("FASItems");
     for (int n = 1; n <= int(m_form.FASItemsCollection().size()); ++n) {
         const auto item = m_form.FASItemByOrderID(n);
-        m_json.beginObject();
-        m_json.number("OrderID", item->OrderID());
-        figure("Total", [&] { return item->Total(); });
-        m_json.endObject();
+        const auto write = [&] {
+            m_json.number("OrderID", item->OrderID());
+            figure("Total", [&] { return item->Total(); });
+        };
+        object(write, *item);
     }
     m_json.endArray();
 }
@@ -208,15 +250,16 @@ void Report::communications()
 
 void Report::communicationLine(int line, clsCommsKind kind)
 {
-    m_json.beginObject();
-    m_json.number("Kind", int(kind));
-    m_json.number("Line", line);
-    figure("Rate", [&] { return CommsRateAtLine(m_form, line, kind); });
-    text("Count", [&] { return CommsCountAtLine(m_form, line, kind); });
-    figure("Basic", [&] { return CommsBasicAtLine(m_form, line, kind); });
-    figure("Enhancement", [&] { return CommsEnhancementAtLine(m_form, line, kind); });
-    figure("Claim", [&] { return CommsClaimAtLine(m_form, line, kind); });
-    m_json.endObject();
+    const auto write = [&] {
+        m_json.number("Kind", int(kind));
+        m_json.number("Line", line);
+        figure("Rate", [&] { return CommsRateAtLine(m_form, line, kind); });
+        text("Count", [&] { return CommsCountAtLine(m_form, line, kind); });
+        figure("Basic", [&] { return CommsBasicAtLine(m_form, line, kind); });
+        figure("Enhancement", [&] { return CommsEnhancementAtLine(m_form, line, kind); });
+        figure("Claim", [&] { return CommsClaimAtLine(m_form, line, kind); });
+    };
+    object(write, line, kind);
 }
 
 void Report::columns()

@@ -3,6 +3,8 @@
 #include "costing/mdGetCommsInfo.h"
 #include "tests/costing/clsClaimTest.h"
 
+#include <QTemporaryFile>
+
 namespace {
 
 using Error = clsRunTimeError;
@@ -223,4 +225,28 @@ TEST_F(Communications, ANegativeCountTakesNoLine)
     addGroupWith(-3, 0, 0);
     EXPECT_FALSE(CommsGroupAtLine(form, 1, Kind::Calls));
     EXPECT_EQ(Money(), CommsTotal(form));
+}
+
+TEST_F(Communications, AClaimOfManyGroupsAndFeeEarnersComesToItsTotal)
+{
+    // Each group looking through all fee earners would take the better part of an hour.
+    constexpr int Count = 60'000;
+    QByteArray groups;
+    QByteArray feeEarners;
+    for (int n = 1; n <= Count; ++n) {
+        const QByteArray number = QByteArray::number(n);
+        const QByteArray rate = n == Count ? "4.05" : "0.00";
+        groups += "<feeearnergroup><uniqueid>G" + number + "</uniqueid><orderid>" + number + "</orderid><callsrate>"
+            + rate + "</callsrate></feeearnergroup>";
+        feeEarners += "<feeearner><orderid>" + number + "</orderid><groupuniqueid>G" + number
+            + "</groupuniqueid><calls>3</calls></feeearner>";
+    }
+    QTemporaryFile file;
+    ASSERT_TRUE(file.open());
+    file.write("<vzrform><feeearnergroups>" + groups + "</feeearnergroups><feeearners>" + feeEarners
+        + "</feeearners></vzrform>");
+    file.close();
+    ASSERT_TRUE(form.LoadXML(file.fileName()));
+    EXPECT_EQ("12.15"_q, textOf(CommsTotal(form)));
+    EXPECT_EQ(form.FeeEarnerGroup(Count), CommsGroupAtLine(form, 1, Kind::Calls));
 }

@@ -73,7 +73,7 @@ TEST_F(FeeEarners, AFeeEarnerFindsItsGroup)
     EXPECT_EQ("P"_q, feeEarner->GroupReference());
     feeEarner->GroupUniqueID = "ID99"_q;
     EXPECT_FALSE(feeEarner->Group());
-    EXPECT_EQ(QString(), feeEarner->GroupReference());
+    EXPECT_EQ(Error::ObjectNotSet, errorOf([&] { feeEarner->GroupReference(); }));
 }
 
 // The schedule of time

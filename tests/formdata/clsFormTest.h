@@ -40,8 +40,7 @@ inline QByteArray contentOf(pugi::xml_node node, const char *child)
 inline void setContentOf(pugi::xml_node node, const char *child, const char *content)
 {
     ASSERT_TRUE(node.child(child));
-    node.child(child).remove_children();
-    node.child(child).append_child(pugi::node_pcdata).set_value(content);
+    XMLSetContent(node.child(child), content);
 }
 
 /// Calls the visitor with the name of each section's element and the section.

@@ -86,6 +86,50 @@ TEST(XMLLoadElement, RefusesRubbishOfEveryByte)
     EXPECT_FALSE(loads(QString(100, QChar(0))));
 }
 
+TEST(XMLLoadElement, ReadsUtf8AsItReadsText)
+{
+    const QString xml = QString::fromUtf8("<root a=\"\xc2\xa3\">caf\xc3\xa9</root>");
+    EXPECT_EQ(xml, XMLElementOutput(XMLLoadElement(xml.toUtf8(), "root").node()));
+    EXPECT_FALSE(XMLLoadElement(QByteArray("<root/>\0", 8), "root"));
+    EXPECT_FALSE(XMLLoadElement(QByteArray(), "root"));
+    // What the element is read from stays as it is where somebody else holds it too.
+    const QByteArray shared("<root>&lt;</root>");
+    const clsXMLElement element = XMLLoadElement(shared, "root");
+    EXPECT_STREQ("<", element.node().child_value());
+    EXPECT_EQ(QByteArray("<root>&lt;</root>"), shared);
+}
+
+TEST(XMLSetContent, TakesThePlaceOfTheTextAndLeavesNothingWhereItIsEmpty)
+{
+    struct {
+        const char *before, *content, *after;
+    } const rows[] = {
+        {"<a/>", "new", "<a>new</a>"},
+        {"<a>old</a>", "new", "<a>new</a>"},
+        {"<a>old</a>", "", "<a/>"},
+        {"<a/>", "", "<a/>"},
+        {"<a>old<b/>more</a>", "new", "<a>new<b/>more</a>"},
+        {"<a>old<b/>more</a>", "", "<a/>"},
+        {"<a><!-- note -->old</a>", "new", "<a><!-- note -->new</a>"},
+        {"<a><!-- note -->old</a>", "", "<a/>"},
+        {"<a><!-- note --></a>", "new", "<a><!-- note -->new</a>"},
+        {"<a><![CDATA[old]]></a>", "", "<a/>"},
+    };
+    for (const auto &row : rows) {
+        const clsXMLElement element
+            = XMLLoadElement(QStringLiteral("<root>%1</root>").arg(QLatin1String(row.before)), "root");
+        const pugi::xml_node node = element.node().first_child();
+        XMLSetContent(node, row.content);
+        EXPECT_EQ(QString::fromUtf8(row.after), XMLElementOutput(node)) << row.before;
+        EXPECT_STREQ(row.content, node.child_value()) << row.before;
+        // And again, whatever the first write left.
+        XMLSetContent(node, "last");
+        EXPECT_STREQ("last", node.child_value()) << row.before;
+        XMLSetContent(node, "");
+        EXPECT_EQ(QStringLiteral("<a/>"), XMLElementOutput(node)) << row.before;
+    }
+}
+
 TEST(XMLElementOutput, TheSameTreeGivesTheSameText)
 {
     const clsXMLElement element = XMLLoadElement(QStringLiteral("<root><a>1</a><b/></root>"), "root");
@@ -103,6 +147,9 @@ TEST(XMLElementOutput, DropsBlanksHoweverTheyAreWritten)
 {
     EXPECT_EQ(QStringLiteral("<root><a/><b/><c> 1 </c></root>"),
         roundTrip("<root><a>&#32;&#9;</a>&#10;<b>&#13;</b><c>&#32;1&#32;</c></root>"));
+    // Beside what stays as well as alone, and a text that ends before it begins.
+    EXPECT_EQ(QStringLiteral("<root><a><!-- note --><b/></a><c><b/></c><d/></root>"),
+        roundTrip("<root><a>&#32;<!-- note -->&#9;<b/></a><c><b/>&#32;</c><d>&#0;</d></root>"));
 }
 
 TEST(XMLElementOutput, KeepsWhatNobodyKnowsToTheLastCharacter)
@@ -112,6 +159,22 @@ TEST(XMLElementOutput, KeepsWhatNobodyKnowsToTheLastCharacter)
             "<root><new><deep><deeper>&lt;&amp;&gt;</deeper></deep><deep/></new></root>",
             "<root><?target data?></root>", "<root><new>caf\xc3\xa9 \xe2\x82\xac</new></root>"})
         EXPECT_EQ(QString::fromUtf8(xml), roundTrip(xml));
+}
+
+TEST(XMLElementOutput, KeepsTextAmongElementsInItsPlace)
+{
+    for (const char *xml : {"<root><a>one<b/>two<c>three</c>four</a></root>", "<root><a><!-- note -->one</a></root>",
+             "<root><a>one<![CDATA[two]]></a></root>", "<root>one<a/></root>"})
+        EXPECT_EQ(QString::fromUtf8(xml), roundTrip(xml));
+}
+
+TEST(XMLElementOutput, PutsCharactersOfManyBytesTogetherWhereverTheWriterCutsThem)
+{
+    for (const char *content : {"\xe2\x82\xac", "a\xe2\x82\xac", "\xc3\xa9", "a\xc3\xa9"}) {
+        const QString xml = QStringLiteral("<root>%1</root>")
+                                .arg(QStringLiteral("<a>%1</a>").arg(QString::fromUtf8(content)).repeated(10'000));
+        EXPECT_EQ(xml, XMLElementOutput(XMLLoadElement(xml, "root").node()));
+    }
 }
 
 TEST(XMLElementOutput, OfNothingIsEmpty)

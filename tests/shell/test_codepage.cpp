@@ -22,6 +22,24 @@ TEST(CodePage, EveryByteSurvivesAReadAndAWrite)
     EXPECT_EQ(everyByte(), mdToCodePage(text));
 }
 
+TEST(CodePage, GivesTheSameTextInUtf8WhereverItStopsBeingPlain)
+{
+    for (int size = 0; size < 40; ++size) {
+        const QByteArray plain(size, 'a');
+        EXPECT_EQ(plain, mdUtf8FromCodePage(plain));
+        EXPECT_EQ(QString::fromLatin1(plain), mdFromCodePage(plain));
+        for (int at = 0; at < size; ++at)
+            for (const char upper : {'\x80', '\xa3', '\xff'}) {
+                QByteArray bytes = plain;
+                bytes[at] = upper;
+                QString text = QString::fromLatin1(plain);
+                text[at] = mdFromCodePage(uchar(upper));
+                EXPECT_EQ(text, mdFromCodePage(bytes));
+                EXPECT_EQ(text.toUtf8(), mdUtf8FromCodePage(bytes));
+            }
+    }
+}
+
 TEST(CodePage, EveryByteIsACharacterOfItsOwn)
 {
     const QString text = mdFromCodePage(everyByte());

@@ -4,6 +4,8 @@
 
 #include <cerrno>
 
+namespace {
+
 class ConfirmDropped : public clsDocumentTest {
 protected:
     void SetUp() override
@@ -31,6 +33,8 @@ protected:
         EXPECT_EQ(work, textOf(copy));
     }
 };
+
+} // namespace
 
 TEST_F(ConfirmDropped, NewSetsAsideWhatCouldNotBeSaved)
 {

@@ -5,6 +5,8 @@
 
 #include <sys/stat.h>
 
+namespace {
+
 class Log : public clsShellTest {
 protected:
     void SetUp() override
@@ -22,6 +24,8 @@ protected:
     bool on = false;
     QString day;
 };
+
+} // namespace
 
 TEST_F(Log, BeforeThePreferencesExistNothingIsDoneAndNoFolderTouched)
 {

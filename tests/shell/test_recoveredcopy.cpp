@@ -12,6 +12,8 @@
 
 #include <sys/stat.h>
 
+namespace {
+
 class RecoveredCopy : public clsDocumentTest {
 protected:
     void SetUp() override
@@ -32,6 +34,8 @@ protected:
         change();
     }
 };
+
+} // namespace
 
 TEST_F(RecoveredCopy, IsTheClaimUnderItsNameAndTheTime)
 {

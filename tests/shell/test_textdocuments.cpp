@@ -44,8 +44,6 @@ private:
     rlimit m_before = {};
 };
 
-} // namespace
-
 class TextDocuments : public clsTextDocumentsTest {
 protected:
     /// The steps of writing `next` over the file as it stands.
@@ -70,6 +68,8 @@ protected:
         return fault;
     }
 };
+
+} // namespace
 
 TEST_F(TextDocuments, ComeBackByteForByte)
 {

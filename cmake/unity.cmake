@@ -29,5 +29,7 @@ function(zr3_unite target)
             set_source_files_properties(${group} TARGET_DIRECTORY ${target} PROPERTIES UNITY_GROUP ${number})
         endif()
     endforeach()
+    # Not the file that is compiled, but one that it reads, has the class that no other file can see.
+    target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
     set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
 endfunction()

@@ -1,7 +1,7 @@
 #include "costing/Money.h"
 
-#include "shell/mdNumberText.h"
 #include "shell/clsRunTimeError.h"
+#include "shell/mdNumberText.h"
 
 #include <array>
 #include <charconv>

@@ -2,9 +2,9 @@
 
 #include "costing/mdDateSerial.h"
 #include "costing/mdPercentageCalculate.h"
+#include "costing/mdSumOf.h"
 #include "formdata/mdReadDerived.h"
 #include "shell/mdNumberText.h"
-#include "costing/mdSumOf.h"
 
 std::span<const clsXMLDerivedProperty> clsZR3FASItem::DerivedProperties()
 {

@@ -1,11 +1,11 @@
 #include "costing/mdCheckForBlankItems.h"
 
-#include "shell/mdNumberText.h"
 #include "costing/mdTimeFormatting.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/mdCustomMessages.h"
 #include "shell/mdGlobals.h"
 #include "shell/mdLog.h"
+#include "shell/mdNumberText.h"
 
 namespace {
 

@@ -2,9 +2,9 @@
 
 #include "costing/clsSchedulePrices.h"
 #include "costing/mdGetFASTotals.h"
-#include "shell/mdNumberText.h"
 #include "costing/mdTimeFormatting.h"
 #include "formdata/clsOnBill.h"
+#include "shell/mdNumberText.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
 #include "costing/mdGetCommsInfo.h"
 
 #include "costing/mdGetColumnTotals.h"
-#include "shell/mdNumberText.h"
 #include "costing/mdPercentageCalculate.h"
 #include "costing/mdSumOf.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/mdExisting.h"
+#include "shell/mdNumberText.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "costing/mdTimeFormatting.h"
 
-#include "shell/mdNumberText.h"
 #include "shell/clsRunTimeError.h"
+#include "shell/mdNumberText.h"
 
 #include <cmath>
 #include <cstdlib>

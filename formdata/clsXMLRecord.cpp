@@ -1,8 +1,8 @@
 #include "formdata/clsXMLRecord.h"
 
 #include "formdata/clsXMLReading.h"
-#include "shell/mdNumberText.h"
 #include "shell/clsRunTimeError.h"
+#include "shell/mdNumberText.h"
 
 #include <cstring>
 

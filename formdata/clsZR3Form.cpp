@@ -1,12 +1,12 @@
 #include "formdata/clsZR3Form.h"
 
 #include "formdata/clsOnBill.h"
-#include "shell/mdNumberText.h"
 #include "formdata/mdXMLGenerateNodes.h"
 #include "formdata/mdXMLTemplate.h"
 #include "shell/clsRunTimeError.h"
 #include "shell/mdCustomMessages.h"
 #include "shell/mdGetResourceData.h"
+#include "shell/mdNumberText.h"
 #include "shell/mdSetProgress.h"
 #include "shell/mdTextDocumentHandling.h"
 

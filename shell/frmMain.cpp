@@ -38,8 +38,8 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QResizeEvent>
-#include <QScreen>
 #include <QScopedValueRollback>
+#include <QScreen>
 #include <QTimer>
 #include <QUrl>
 #include <QVBoxLayout>

@@ -1,7 +1,7 @@
 #include "shell/mdVersionComparison.h"
 
-#include "shell/mdNumberText.h"
 #include "shell/clsRunTimeError.h"
+#include "shell/mdNumberText.h"
 
 #include <QList>
 

@@ -6,8 +6,8 @@
 #include "shell/mdGetVersionInfo.h"
 
 #include <QImage>
-#include <QLayout>
 #include <QLabel>
+#include <QLayout>
 #include <QLocale>
 #include <QProgressBar>
 #include <QScopeGuard>

@@ -3,8 +3,8 @@
 #include "tests/controls/clsGridTest.h"
 
 #include <QAbstractButton>
-#include <QHelpEvent>
 #include <QClipboard>
+#include <QHelpEvent>
 #include <QMenu>
 #include <QPointer>
 #include <QTimer>

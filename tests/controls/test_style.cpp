@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
@@ -14,11 +15,9 @@
 #include <QStyle>
 #include <QStyleOptionSlider>
 #include <QTableWidget>
-#include <QHeaderView>
 #include <QTest>
 #include <QVBoxLayout>
 #include <QWheelEvent>
-
 #include <QtTest/qtestspontaneevent.h>
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 #include "costing/Money.h"
-#include "shell/mdNumberText.h"
 #include "costing/mdPercentageCalculate.h"
 #include "costing/mdTimeFormatting.h"
 #include "costing/mdTimeToMoney.h"
+#include "shell/mdNumberText.h"
 #include "tests/support/mdExpectError.h"
 #include "tests/support/mdTestPrinting.h"
 

@@ -12,7 +12,6 @@
 #include <QAccessible>
 #include <QMenuBar>
 
-
 // The keyboard on every screen.
 
 namespace {

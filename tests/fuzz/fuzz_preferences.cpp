@@ -9,10 +9,10 @@
 #include "shell/mdLog.h"
 #include "shell/mdPlayWav.h"
 #include "shell/mdProgramFolder.h"
-#include "tests/fuzz/mdFuzzRecord.h"
 #include "tests/fuzz/mdFuzz.h"
-#include "tests/fuzz/mdFuzzXml.h"
+#include "tests/fuzz/mdFuzzRecord.h"
 #include "tests/fuzz/mdFuzzWords.h"
+#include "tests/fuzz/mdFuzzXml.h"
 
 #include <QFile>
 

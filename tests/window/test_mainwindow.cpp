@@ -7,9 +7,9 @@
 #include "tests/window/clsMainWindowTest.h"
 
 #include <QDropEvent>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
-#include <QLineEdit>
 
 namespace {
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "costing/Money.h"
-
 #include "costing/clsZR3ScheduleOfTimeItem.h"
 #include "shell/clsRunTimeError.h"
 

@@ -58,6 +58,8 @@ clsZR3Form::clsZR3Form()
     takeRoot(emptyClaim());
 }
 
+clsZR3Form::~clsZR3Form() = default;
+
 bool clsZR3Form::LoadXML(const QString &filePath)
 {
     const clsXMLElement root = XMLLoadElement(ReadTextDocumentAsUtf8(filePath, true), RootElement);
@@ -254,3 +256,28 @@ pugi::xml_node clsZR3Form::listElement(QLatin1String plural) const
 {
     return XMLNode().child(QString(plural).toLower().toLatin1().constData());
 }
+
+// clang-format off
+#define ZR3_LIST(Plural, Single)                                                                                       \
+    void clsZR3Form::Render##Plural()                                                                                  \
+    {                                                                                                                  \
+        m_##Plural.render(listElement(QLatin1String(#Plural)), *this);                                                 \
+        rendered(m_##Plural);                                                                                          \
+    }                                                                                                                  \
+    clsZR3Form::Plural##List::Pointer clsZR3Form::Add##Single() { return identified(m_##Plural.add(*this)); }          \
+    void clsZR3Form::Delete##Single(int index) { m_##Plural.remove(index); }                                           \
+    clsZR3Form::Plural##List::Pointer clsZR3Form::Single##ByOrderID(int orderID) const                                 \
+    {                                                                                                                  \
+        return m_##Plural.byOrder(orderID);                                                                            \
+    }
+
+#define ZR3_IDENTIFIED_LIST(Plural, Single)                                                                            \
+    ZR3_LIST(Plural, Single)                                                                                           \
+    clsZR3Form::Plural##List::Pointer clsZR3Form::Single##ByUniqueID(const QString &uniqueID) const                    \
+    {                                                                                                                  \
+        return m_##Plural.byIdentity(uniqueID);                                                                        \
+    }
+// clang-format on
+ZR3_LISTS(ZR3_IDENTIFIED_LIST, ZR3_LIST)
+#undef ZR3_LIST
+#undef ZR3_IDENTIFIED_LIST

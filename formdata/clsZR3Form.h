@@ -18,33 +18,39 @@
 #include <optional>
 
 // clang-format off
-/// One list of the claim and its family of members. `Plural` names the element, the collection and the render routine,
-/// `Single` the item class and the members that deal with one item.
+/// The lists of the claim. `Plural` names the element, the collection and the render routine, `Single` the item class and
+/// the members that deal with one item. An `Identified` list is one whose items other elements point at.
+#define ZR3_LISTS(Identified, Plain)                                                                                   \
+    Identified(FeeEarnerGroups, FeeEarnerGroup)                                                                        \
+    Identified(FeeEarners, FeeEarner)                                                                                  \
+    Identified(Counsel, Counsel)                                                                                       \
+    Identified(Enhancements, Enhancement)                                                                              \
+    Plain(FASItems, FASItem)                                                                                           \
+    Plain(ScheduleOfTimeItems, ScheduleOfTimeItem)                                                                     \
+    Plain(ExpertInvoices, ExpertInvoice)                                                                               \
+    Plain(JointInstructions, JointInstruction)                                                                         \
+    Plain(Disbursements, Disbursement)
+
+/// A list and its family of members. What needs the item class is compiled once, in the .cpp file.
 #define ZR3_LIST(Plural, Single)                                                                                       \
 public:                                                                                                                \
     using Plural##List = clsZR3List<clsZR3##Single>;                                                                   \
     pugi::xml_node XML##Plural##Node() const { return m_##Plural.XMLNode(); }                                          \
     const Plural##List::Collection &Plural##Collection() const { return m_##Plural.collection(); }                     \
-    void Render##Plural()                                                                                              \
-    {                                                                                                                  \
-        m_##Plural.render(listElement(QLatin1String(#Plural)), *this);                                                 \
-        rendered(m_##Plural);                                                                                          \
-    }                                                                                                                  \
-    Plural##List::Pointer Add##Single() { return identified(m_##Plural.add(*this)); }                                  \
-    void Delete##Single(int index) { m_##Plural.remove(index); }                                                       \
+    void Render##Plural();                                                                                             \
+    Plural##List::Pointer Add##Single();                                                                               \
+    void Delete##Single(int index);                                                                                    \
     Plural##List::Pointer Single(int index) const { return m_##Plural.at(index); }                                     \
-    Plural##List::Pointer Single##ByOrderID(int orderID) const { return m_##Plural.byOrder(orderID); }                 \
+    Plural##List::Pointer Single##ByOrderID(int orderID) const;                                                        \
                                                                                                                        \
 private:                                                                                                               \
     Plural##List m_##Plural;
 
-/// The look-up by identity, for the lists whose items other elements point at.
-#define ZR3_IDENTITY(Plural, Single)                                                                                   \
+/// With the look-up by identity.
+#define ZR3_IDENTIFIED_LIST(Plural, Single)                                                                            \
+    ZR3_LIST(Plural, Single)                                                                                           \
 public:                                                                                                                \
-    Plural##List::Pointer Single##ByUniqueID(const QString &uniqueID) const                                            \
-    {                                                                                                                  \
-        return m_##Plural.byIdentity(uniqueID);                                                                        \
-    }
+    Plural##List::Pointer Single##ByUniqueID(const QString &uniqueID) const;
 
 // clang-format on
 /// A claim: the one object that owns the live tree, hands out its sections and lists, gives out identities, and loads
@@ -53,6 +59,7 @@ class clsZR3Form : public clsXMLRecord {
 public:
     /// A valid, empty claim with the template's defaults.
     clsZR3Form();
+    ~clsZR3Form();
 
     /// Reads the claim at a path and brings it up to date. False, after a message, when it is no claim: this object is
     /// then to be dropped, and whoever asked for the load goes on with a new claim.
@@ -120,19 +127,7 @@ public:
     clsZR3DetailsOfCostsAwarded DetailsOfCostsAwarded;
     clsZR3DebtorsDetails DebtorsDetails;
 
-    ZR3_LIST(FeeEarnerGroups, FeeEarnerGroup)
-    ZR3_IDENTITY(FeeEarnerGroups, FeeEarnerGroup)
-    ZR3_LIST(FeeEarners, FeeEarner)
-    ZR3_IDENTITY(FeeEarners, FeeEarner)
-    ZR3_LIST(Counsel, Counsel)
-    ZR3_IDENTITY(Counsel, Counsel)
-    ZR3_LIST(Enhancements, Enhancement)
-    ZR3_IDENTITY(Enhancements, Enhancement)
-    ZR3_LIST(FASItems, FASItem)
-    ZR3_LIST(ScheduleOfTimeItems, ScheduleOfTimeItem)
-    ZR3_LIST(ExpertInvoices, ExpertInvoice)
-    ZR3_LIST(JointInstructions, JointInstruction)
-    ZR3_LIST(Disbursements, Disbursement)
+    ZR3_LISTS(ZR3_IDENTIFIED_LIST, ZR3_LIST)
 
 public:
     /// True when the item stands on the bill: all but the non-advocacy items of a `Claim1A` that leaves them out.
@@ -199,4 +194,4 @@ private:
 };
 
 #undef ZR3_LIST
-#undef ZR3_IDENTITY
+#undef ZR3_IDENTIFIED_LIST

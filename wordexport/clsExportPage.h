@@ -33,7 +33,7 @@ struct clsPlaceholderRow {
 };
 
 /// A cell of a grid's row: what is typed for item `i` of the list, from 1.
-struct clsGridCell {
+struct clsPrintedCell {
     QString (*source)(const clsZR3Form &form, int i);
     clsFillClass fill = clsFillClass::Text;
 };
@@ -41,7 +41,7 @@ struct clsGridCell {
 /// A table of a page with one row for each item of a list. Offsets are lines from the start of the sheet.
 struct clsGrid {
     int (*count)(const clsZR3Form &form);
-    std::span<const clsGridCell> cells;
+    std::span<const clsPrintedCell> cells;
     int firstCapacity;
     int furtherCapacity;
     int firstOffset;

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <pugixml.hpp>
-
 #include <QByteArray>
+
+#include <pugixml.hpp>
 
 #include <memory>
 #include <optional>

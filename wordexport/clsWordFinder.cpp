@@ -1,6 +1,7 @@
 #include "wordexport/clsWordFinder.h"
 
 #include <QChar>
+#include <QList>
 
 namespace {
 

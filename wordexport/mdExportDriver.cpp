@@ -3,6 +3,8 @@
 #include "wordexport/mdExportWordClaim1.h"
 #include "wordexport/mdExportWordClaim1a.h"
 
+#include <QLatin1String>
+
 namespace {
 
 struct Row {

@@ -66,7 +66,7 @@ const clsZR3Disbursement &other(const Form &form, int i)
 constexpr auto expert = mdItemAt<&Form::ExpertInvoiceByOrderID>;
 constexpr auto joint = mdItemAt<&Form::JointInstructionByOrderID>;
 
-const clsGridCell CounselFees[] = {
+const clsPrintedCell CounselFees[] = {
     ZR3_CELL(QString::number(i), Text),
     ZR3_CELL(counselText(form, i), Text),
     ZR3_CELL(counselFee(form, i).DateOfWork(), Text),
@@ -79,7 +79,7 @@ const clsPlaceholderRow CounselFeesPlaceholders[] = {
     ZR3_TICK("{2}", CounselOutstandingClaims.OutstandingClaimsNo),
 };
 
-const clsGridCell ExpertInvoices[] = {
+const clsPrintedCell ExpertInvoices[] = {
     ZR3_CELL(expert(form, i)->ExpertGroup(), Text),
     ZR3_CELL(expert(form, i)->ExpertType(), Text),
     ZR3_CELL(expert(form, i)->PriorAuthorityObtained() ? QStringLiteral("Y") : QStringLiteral("N"), Text),
@@ -94,7 +94,7 @@ const clsGridCell ExpertInvoices[] = {
     ZR3_CELL(grossText(form, *expert(form, i)), Money),
 };
 
-const clsGridCell JointInstructions[] = {
+const clsPrintedCell JointInstructions[] = {
     ZR3_CELL(joint(form, i)->ExpertType(), Text),
     ZR3_CELL(joint(form, i)->PartyName(), Text),
     ZR3_CELL(joint(form, i)->Solicitor(), Text),
@@ -102,7 +102,7 @@ const clsGridCell JointInstructions[] = {
     ZR3_CELL(joint(form, i)->PercentApportioned(), Text),
 };
 
-const clsGridCell OtherDisbursements[] = {
+const clsPrintedCell OtherDisbursements[] = {
     ZR3_CELL(other(form, i).Description(), Text),
     ZR3_CELL(other(form, i).Amount(), Money),
     ZR3_CELL(other(form, i).VAT(), Money),
@@ -215,11 +215,11 @@ const clsPlaceholderRow Debtor[] = {
 
 } // namespace
 
-const std::span<const clsGridCell> CounselFeesCells = CounselFees;
+const std::span<const clsPrintedCell> CounselFeesCells = CounselFees;
 const std::span<const clsPlaceholderRow> CounselFeesRows = CounselFeesPlaceholders;
-const std::span<const clsGridCell> ExpertInvoiceCells = ExpertInvoices;
-const std::span<const clsGridCell> JointInstructionCells = JointInstructions;
-const std::span<const clsGridCell> OtherDisbursementCells = OtherDisbursements;
+const std::span<const clsPrintedCell> ExpertInvoiceCells = ExpertInvoices;
+const std::span<const clsPrintedCell> JointInstructionCells = JointInstructions;
+const std::span<const clsPrintedCell> OtherDisbursementCells = OtherDisbursements;
 const std::span<const clsPlaceholderRow> FirstPageRows = FirstPage;
 const std::span<const clsPlaceholderRow> CostsAwardedAmountsRows = CostsAwardedAmounts;
 const std::span<const clsPlaceholderRow> CostsAwardedRows = CostsAwarded;

@@ -5,16 +5,16 @@
 // The tables that both government forms print, each in its own place.
 
 /// The cells of counsel's fees: number, counsel, date, amount with VAT.
-extern const std::span<const clsGridCell> CounselFeesCells;
+extern const std::span<const clsPrintedCell> CounselFeesCells;
 /// What counsel's page shows after its grid.
 extern const std::span<const clsPlaceholderRow> CounselFeesRows;
 
 /// The twelve cells of an expert's invoice. Its amounts are typed as text on purpose: they print as they are stored,
 /// and only the total is formatted.
-extern const std::span<const clsGridCell> ExpertInvoiceCells;
+extern const std::span<const clsPrintedCell> ExpertInvoiceCells;
 /// The cells of a joint instruction and of a disbursement that is not counsel's.
-extern const std::span<const clsGridCell> JointInstructionCells;
-extern const std::span<const clsGridCell> OtherDisbursementCells;
+extern const std::span<const clsPrintedCell> JointInstructionCells;
+extern const std::span<const clsPrintedCell> OtherDisbursementCells;
 
 /// The first page from the stage number to the costs of the previous advice.
 extern const std::span<const clsPlaceholderRow> FirstPageRows;

@@ -47,6 +47,6 @@ template <auto ByOrderID> auto mdItemAt(const clsZR3Form &form, int i)
     clsPlaceholderRow { placeholder, [](const clsZR3Form &form) { return MoneyToText(expression); }, clsFillClass::Money }
 /// A cell of a grid: what item `i` of the list shows.
 #define ZR3_CELL(expression, fill)                                                                                     \
-    clsGridCell { []([[maybe_unused]] const clsZR3Form &form, [[maybe_unused]] int i) { return QString(expression); }, \
+    clsPrintedCell { []([[maybe_unused]] const clsZR3Form &form, [[maybe_unused]] int i) { return QString(expression); }, \
         clsFillClass::fill }
 // clang-format on

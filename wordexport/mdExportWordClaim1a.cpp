@@ -204,7 +204,7 @@ const clsZR3FASItem &travel(const clsZR3Form &form, int i)
     return *form.FASTravelBoltOnsCollection()[size_t(i - 1)];
 }
 
-const clsGridCell AdvocacyCostsCells[] = {
+const clsPrintedCell AdvocacyCostsCells[] = {
     ZR3_CELL(hearing(form, i)->dDate(), Text),
     ZR3_CELL(hearing(form, i)->LevelOfCourt(), Text),
     ZR3_CELL(hearing(form, i)->FDR(), Text),
@@ -221,12 +221,12 @@ const clsGridCell AdvocacyCostsCells[] = {
     ZR3_CELL(hearing(form, i)->VATForFAS(), Money),
 };
 
-const clsGridCell BoltOnPaymentsCells[] = {
+const clsPrintedCell BoltOnPaymentsCells[] = {
     ZR3_CELL(boltOn(form, i).dDate(), Text),
     ZR3_CELL(boltOn(form, i).BoltOnDescription(), Text),
 };
 
-const clsGridCell ExceptionalTravelCells[] = {
+const clsPrintedCell ExceptionalTravelCells[] = {
     ZR3_CELL(travel(form, i).dDate(), Text),
     ZR3_CELL(travel(form, i).ExceptionalTravelDistance(), Text),
     ZR3_CELL(travel(form, i).ExceptionalTravelReason(), Text),

@@ -28,7 +28,7 @@ void beginFurtherSheet(clsExport &run, clsMSWord &word, const clsGrid &grid, int
 
 void typeRow(const clsExport &run, clsMSWord &word, const clsGrid &grid, int i)
 {
-    for (const clsGridCell &cell : grid.cells) {
+    for (const clsPrintedCell &cell : grid.cells) {
         mdTypeCell(word, cell.source(run.form, i), cell.fill);
         if (&cell != &grid.cells.back())
             word.MoveCursorRight(1);

@@ -142,7 +142,7 @@ void mergePrefixLists(const xml_node &sourceRoot, xml_node targetRoot)
             bool known = false;
             visitWords(std::string(merged), [&](std::string_view present) { known = known || present == word; });
             if (!known)
-                merged += (merged.empty() ? "" : " ") + std::string(word);
+                merged.append(merged.empty() ? "" : " ").append(word);
         });
         WordXml::setAttribute(targetRoot, name, merged);
     }

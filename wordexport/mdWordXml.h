@@ -1,8 +1,8 @@
 #pragma once
 
-#include <pugixml.hpp>
-
 #include <QString>
+
+#include <pugixml.hpp>
 
 #include <cstring>
 #include <string>

@@ -10,6 +10,8 @@
 #include <QTimer>
 #include <QToolTip>
 
+namespace {
+
 class clsGridInput : public clsGridTest {
 protected:
     void SetUp() override
@@ -34,6 +36,8 @@ protected:
         return all;
     }
 };
+
+} // namespace
 
 TEST_F(clsGridInput, ADoubleClickActivatesTheRow)
 {
@@ -254,6 +258,8 @@ TEST_F(clsGridInput, KeysWithoutACharacterAreNotTyped)
     EXPECT_TRUE(timer.isActive());
 }
 
+namespace {
+
 class clsGridMenu : public clsGridInput {
 protected:
     QMenu *menu = nullptr;
@@ -268,6 +274,8 @@ protected:
     }
     void TearDown() override { menu->hide(); }
 };
+
+} // namespace
 
 TEST_F(clsGridMenu, AClickBesideTheRowsLeavesTheSelectionAndBringsTheFocus)
 {

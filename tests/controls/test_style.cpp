@@ -18,7 +18,6 @@
 #include <QTest>
 #include <QVBoxLayout>
 #include <QWheelEvent>
-
 #include <QtTest/qtestspontaneevent.h>
 
 #include <gtest/gtest.h>

@@ -7,6 +7,8 @@
 #include <cerrno>
 #include <ctime>
 
+namespace {
+
 class Backups : public clsDocumentTest {
 protected:
     void SetUp() override
@@ -33,6 +35,8 @@ protected:
 
     QDateTime now {QDate(2026, 11, 15), QTime(14, 3, 22)};
 };
+
+} // namespace
 
 TEST_F(Backups, AreTheTreeAsItStandsAndTheClaimIsNotTouched)
 {
@@ -265,6 +269,8 @@ TEST_F(Backups, EachPeriodWithoutAFolderLogsTheCancelledLine)
 
 // Deletion
 
+namespace {
+
 class OldBackups : public Backups {
 protected:
     void SetUp() override
@@ -281,6 +287,8 @@ protected:
         ASSERT_TRUE(opened.setFileTime(QDateTime(now.date().addDays(-days), time), QFileDevice::FileModificationTime));
     }
 };
+
+} // namespace
 
 TEST_F(OldBackups, AreDeletedFromSixtyOneDaysOn)
 {

@@ -4,6 +4,8 @@
 
 #include <cerrno>
 
+namespace {
+
 class ConfirmDropped : public clsDocumentTest {
 protected:
     void SetUp() override
@@ -38,6 +40,8 @@ protected:
                 + path("program/Databases/Recovered") + QStringLiteral("\r\n") + path("state/Velmor/Recovered")};
     }
 };
+
+} // namespace
 
 TEST_F(ConfirmDropped, NewSetsAsideWhatCouldNotBeSaved)
 {

@@ -6,6 +6,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+namespace {
+
 class Log : public clsShellTest {
 protected:
     void SetUp() override
@@ -23,6 +25,8 @@ protected:
     bool on = false;
     QString day;
 };
+
+} // namespace
 
 TEST_F(Log, BeforeThePreferencesExistNothingIsDoneAndNoFolderTouched)
 {

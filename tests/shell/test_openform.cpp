@@ -14,8 +14,6 @@ const QString Question = QStringLiteral("Save changes to this form before closin
 const QString NoClaim = QStringLiteral(
     "There was a problem opening the selected file. Please ensure that the file is a valid ZR3 file and try again");
 
-} // namespace
-
 class OpenForm : public clsDocumentTest {
 protected:
     /// A file whose version is replaced.
@@ -30,6 +28,8 @@ protected:
         return file;
     }
 };
+
+} // namespace
 
 TEST_F(OpenForm, OpenAsksBeforeTheDialogAndACancelledDialogKeepsTheClaim)
 {

@@ -10,6 +10,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+namespace {
+
 class OwnDatabasePathTest : public clsShellTest {
 protected:
     void SetUp() override
@@ -61,6 +63,8 @@ protected:
     QString preferences;
     QString store;
 };
+
+} // namespace
 
 TEST_F(OwnDatabasePathTest, AUserWithoutOneIsGivenAFolderThatNobodyElseReads)
 {

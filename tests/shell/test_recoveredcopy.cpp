@@ -14,6 +14,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+namespace {
+
 class RecoveredCopy : public clsDocumentTest {
 protected:
     void SetUp() override
@@ -34,6 +36,8 @@ protected:
         change();
     }
 };
+
+} // namespace
 
 TEST_F(RecoveredCopy, IsTheClaimUnderItsNameAndTheTime)
 {

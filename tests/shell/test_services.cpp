@@ -117,7 +117,11 @@ TEST(GetResourceData, IsReadOnceAndKept)
 
 // Sounds and documents
 
+namespace {
+
 class Services : public clsShellTest { };
+
+} // namespace
 
 TEST_F(Services, ASoundIsPlayedOnlyWhenSoundIsOn)
 {

@@ -30,7 +30,11 @@ TEST(NetworkPath, BeginsWithTwoSeparators)
 
 // The preferences
 
+namespace {
+
 class StartUp : public clsDocumentTest { };
+
+} // namespace
 
 TEST_F(StartUp, ABrokenPreferencesFileIsTheObjectError)
 {
@@ -45,6 +49,8 @@ TEST_F(StartUp, ABrokenPreferencesFileIsTheObjectError)
 }
 
 // The command line
+
+namespace {
 
 class CommandLine : public clsShellTest {
 protected:
@@ -70,6 +76,8 @@ protected:
 private:
     QString before;
 };
+
+} // namespace
 
 TEST_F(CommandLine, WithoutArgumentsThereIsNoPath)
 {
@@ -138,6 +146,8 @@ TEST_F(CommandLine, AFileWithQuotesInItsNameIsFound)
 
 // The requests to end
 
+namespace {
+
 class EndSignals : public clsDocumentTest {
 protected:
     void SetUp() override
@@ -174,6 +184,8 @@ protected:
 private:
     std::unique_ptr<QCoreApplication> m_application;
 };
+
+} // namespace
 
 TEST_F(EndSignals, CallTheHandlerFromTheEventLoop)
 {
@@ -266,7 +278,11 @@ TEST_F(EndSignals, AProgramThatIsToldToEndWritesTheCopyAndEnds)
 
 // The user's check for items that bill nothing
 
+namespace {
+
 class BlankItemsCommand : public clsDocumentTest { };
+
+} // namespace
 
 TEST_F(BlankItemsCommand, ExaminesTheCurrentClaimAndLogsItsBeginningAndEnd)
 {

@@ -18,8 +18,6 @@ QString box(const char *what, const char *error)
         + QStringLiteral("\r\n\r\nThe error reported is:\r\n\r\n") + QString::fromUtf8(error);
 }
 
-} // namespace
-
 class Registry : public clsShellTest {
 protected:
     void SetUp() override
@@ -37,6 +35,8 @@ protected:
     QString store;
     QString machineStore;
 };
+
+} // namespace
 
 TEST_F(Registry, AMissingValueReadsAsEmptyWithoutABox)
 {
@@ -168,7 +168,11 @@ TEST_F(Registry, ADamagedStoreIsReported)
 
 // The database folder
 
+namespace {
+
 class DatabasePath : public Registry { };
+
+} // namespace
 
 TEST_F(DatabasePath, WithoutAStoredPathTheDefaultIsTakenAndStored)
 {

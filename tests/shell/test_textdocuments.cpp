@@ -50,8 +50,6 @@ private:
     rlimit m_before = {};
 };
 
-} // namespace
-
 class TextDocuments : public clsTextDocumentsTest {
 protected:
     /// The steps of writing `next` over the file as it stands.
@@ -76,6 +74,8 @@ protected:
         return fault;
     }
 };
+
+} // namespace
 
 TEST_F(TextDocuments, ComeBackByteForByte)
 {

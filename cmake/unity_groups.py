@@ -1,0 +1,87 @@
+#!/usr/bin/env python3
+"""Says which source files of a target can be compiled together: unity_groups.py SIZE FILE...
+
+Prints one line for each group, its files parted by semicolons. Files share a group, of at most SIZE files, only where no
+name that one of them keeps to itself occurs in another: then neither can tell that it isn't alone. The code is skimmed,
+not parsed; a name that is missed ends in an error of the compiler, not in another program.
+"""
+
+import re
+import sys
+
+NOT_CODE = re.compile(
+    r'R"(?P<mark>\w*)\(.*?\)(?P=mark)"' r"|//[^\n]*|/\*.*?\*/" r'|"(?:\\.|[^"\\\n])*"' r"|(?<!\w)'(?:\\.|[^'\\\n])+'", re.DOTALL)
+DIRECTIVE = re.compile(r"^[ \t]*#[ \t]*(?P<kind>\w+)(?:[ \t]+(?P<word>\w+))?(?:[^\n]*\\\n)*[^\n]*$", re.MULTILINE)
+# A member of something else is no use of a name of the file.
+MEMBER = re.compile(r"(?:\.|->|::)\s*[A-Za-z_]\w*")
+NAME = re.compile(r"[A-Za-z_]\w*")
+
+
+def declared(declaration):
+    """The name that a declaration at the level of the file introduces, if any."""
+    previous = None
+    while previous != declaration:
+        previous, declaration = declaration, re.sub(r"<[^<>]*>", "", declaration)
+    declaration = re.sub(r"\[\[.*?\]\]|^\s*(template|static|inline|constexpr)\b", "", declaration).strip()
+    found = re.match(r"(?:class|struct|union|enum(?: class)?|using|namespace)\s+(\w+)", declaration) \
+        or re.search(r"(\w+)\s*(?:[(\[=]|$)", declaration)
+    return found[1] if found else None
+
+
+def kept_names(code):
+    """The names that a file declares for itself alone: in unnamed namespaces, and as static."""
+    names, blocks, begin, parentheses = set(), [], 0, 0
+    for match in re.finditer(r"[{};()]", code):
+        mark = match[0]
+        if mark in "()":
+            parentheses += 1 if mark == "(" else -1
+            continue
+        if parentheses == 0:
+            declaration = code[begin:match.start()]
+            if all(block is None for block in blocks) and (blocks or declaration.lstrip().startswith("static ")):
+                names.add(declared(declaration))
+            begin = match.end()
+        if mark == "{":
+            unnamed = parentheses == 0 and re.search(r"\bnamespace\s*$", code[:match.start()][-40:])
+            blocks.append(None if unnamed else parentheses)
+            parentheses = 0
+        elif mark == "}" and blocks:
+            parentheses = blocks.pop() or 0
+            if parentheses == 0:
+                begin = match.end()
+    return names - {None}
+
+
+class File:
+    def __init__(self, path):
+        self.path = path
+        with open(path, encoding="utf-8") as source:
+            code = NOT_CODE.sub(" ", source.read())
+        directives = list(DIRECTIVE.finditer(code))
+        macros = {match["word"] for match in directives if match["kind"] == "define"}
+        code = DIRECTIVE.sub("", code)
+        self.kept = kept_names(code) | macros
+        self.used = set(NAME.findall(MEMBER.sub(" ", code))) | self.kept
+        # These bring names along that are not to be seen here.
+        self.alone = bool(re.search(r"^\s*using (?:enum|namespace)\b", "".join(
+            line + "\n" for line in code.split("\n") if not line.startswith("  ")), re.MULTILINE))
+
+    def agrees_with(self, other):
+        return not self.alone and not other.alone and not self.kept & other.used and not other.kept & self.used
+
+
+def groups(files, size):
+    made = []
+    for file in files:
+        for group in made:
+            if len(group) < size and all(file.agrees_with(other) for other in group):
+                group.append(file)
+                break
+        else:
+            made.append([file])
+    return made
+
+
+if __name__ == "__main__":
+    for together in groups([File(path) for path in sys.argv[2:]], int(sys.argv[1])):
+        print(";".join(file.path for file in together))

@@ -24,8 +24,8 @@ ROOT = Path(__file__).resolve().parents[2]
 LONGEST = 240  # seconds
 TOGETHER = 6  # files; more would let one of two processors wait for the other
 
-# What only the compiler of the build understands.
-NOT_FOR_TIDY = re.compile(r"-(Winvalid-pch|fpch-preprocess|flto.*|fno-fat-lto-objects|Wno-subobject-linkage)$")
+# What is for the compiler of the build alone, its warnings among it.
+NOT_FOR_TIDY = re.compile(r"-(W.*|fpch-preprocess|flto.*|fno-fat-lto-objects)$")
 
 
 def options_of(command):
@@ -84,7 +84,7 @@ def tidy(files, options, changed, folder, deadline):
     looked_at = "|".join(re.escape(str(ROOT / file)) for file in changed)
     try:
         made = subprocess.run(["clang-tidy-14", "--quiet", f"--header-filter=^({looked_at})$", str(together), "--",
-                               *options, "-Wno-unknown-warning-option", "-Wno-ignored-optimization-argument"],
+                               *options],
                               cwd=ROOT, capture_output=True, text=True, timeout=left)
     except subprocess.TimeoutExpired:
         return None

@@ -52,19 +52,22 @@ def kept_names(code):
     return names - {None}
 
 
+def code_of(path):
+    """A source without its comments, texts and directives; and the macros that it defines."""
+    with open(path, encoding="utf-8") as source:
+        code = NOT_CODE.sub(" ", source.read())
+    macros = {match["word"] for match in DIRECTIVE.finditer(code) if match["kind"] == "define"}
+    return DIRECTIVE.sub("", code), macros
+
+
 class File:
     def __init__(self, path):
         self.path = path
-        with open(path, encoding="utf-8") as source:
-            code = NOT_CODE.sub(" ", source.read())
-        directives = list(DIRECTIVE.finditer(code))
-        macros = {match["word"] for match in directives if match["kind"] == "define"}
-        code = DIRECTIVE.sub("", code)
+        code, macros = code_of(path)
         self.kept = kept_names(code) | macros
         self.used = set(NAME.findall(MEMBER.sub(" ", code))) | self.kept
-        # These bring names along that are not to be seen here.
-        self.alone = bool(re.search(r"^\s*using (?:enum|namespace)\b", "".join(
-            line + "\n" for line in code.split("\n") if not line.startswith("  ")), re.MULTILINE))
+        # These bring names along that are not to be seen elsewhere.
+        self.alone = bool(re.search(r"^using (?:enum|namespace)\b", code, re.MULTILINE))
 
     def agrees_with(self, other):
         return not self.alone and not other.alone and not self.kept & other.used and not other.kept & self.used

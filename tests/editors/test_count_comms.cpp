@@ -2,6 +2,8 @@
 #include "editors/mdCountComms.h"
 #include "formdata/clsZR3Form.h"
 
+#include <gtest/gtest.h>
+
 #include <limits>
 
 namespace {

@@ -201,7 +201,7 @@ TEST_F(BrokenRecords, AnAmountThatIsNoneHoldsTheEditorUntilItIsOne)
     group->HourlyRate = QStringLiteral("much");
     group->CounselRate = QStringLiteral("more");
     const auto screen = edit(ScreenFeeEarnerGroupEdit(), group.get());
-    for (const char *box : {"txtHourly", "txtCounsel"}) {
+    for (const char *box : {"txtCounsel", "txtHourly"}) {
         press(*screen, "cmdSave");
         EXPECT_TRUE(screen->isVisible());
         EXPECT_EQ(QString::fromLatin1(box), focusedName(*screen));

@@ -167,9 +167,9 @@ TEST_F(Program, ADatabaseFolderThatGoesMeanwhileEndsItAtTheCloseOfThePreferences
             QDir(path("program/Databases")).removeRecursively();
             auto *button = modal->findChild<QWidget *>("cmdClose");
             QTimer::singleShot(0, button, [button] { QTest::mouseClick(button, Qt::LeftButton); });
-        } else if (const auto *box = qobject_cast<QMessageBox *>(modal)) {
-            boxes << box->text();
-            return press(QStringLiteral("Folder Error"), QMessageBox::Ok);
+        } else if (const frmMessageBox *box = messageBox()) {
+            boxes << textOf(*box);
+            return press(QStringLiteral("Folder Error"));
         }
         return false;
     }));

@@ -139,6 +139,19 @@ TEST_F(BrokenRecords, TheScheduleShowsWhatIsWrongAndFollowsEveryChange)
     EXPECT_EQ(QStringLiteral("Schedule item 1: the hourly rate of group PTR is not an amount"), described(grid, 0));
 }
 
+TEST_F(BrokenRecords, TheReasonNamesTheItemByTheNumberThatItHasNow)
+{
+    addItem("02/02/26")->TTime = QString();
+    addItem("01/02/26");
+    const auto screen = opened(QStringLiteral("Schedule of Time"));
+    auto &grid = screen->Box<oSGrid>("sgScheduleOfTime");
+    EXPECT_EQ(2, Form->ScheduleOfTimeItem(1)->OrderID()) << "opened, the list is numbered by its dates";
+    grid.SelectRow(2);
+    const auto *cells = grid.findChild<QAbstractItemView *>()->model();
+    EXPECT_EQ(
+        QStringLiteral("Schedule item 2 has no time"), cells->index(1, 4).data(Qt::AccessibleTextRole).toString());
+}
+
 TEST_F(BrokenRecords, AnItemIsMendedInItsEditor)
 {
     Form->AddEnhancement()->Name = QStringLiteral("Fifty");

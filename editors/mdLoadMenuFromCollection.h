@@ -31,6 +31,7 @@ void mdLoadMenuFromCollection(QMenu &menu, const Collection &collection, QString
 }
 {
     std::vector<clsMenuItem> items;
+    items.reserve(size_t(collection.size()));
     for (const auto &item : collection)
         items.push_back({item.get(), item->Index});
     mdLoadMenuFromCollection(menu, std::move(items), captionProperty, sortProperty, order);

@@ -44,7 +44,7 @@ QString strictMessage(const QString &shownName)
         .arg(shownName);
 }
 
-std::string lower(QString text)
+std::string lower(const QString &text)
 {
     return text.toLower().toStdString();
 }

@@ -51,7 +51,7 @@ void describeTree(const xml_node &node, std::string &out)
             attributes.emplace_back(attribute.name(), attribute.value());
     std::sort(attributes.begin(), attributes.end());
     for (const auto &[name, value] : attributes)
-        out += ' ' + name + '=' + value + ';';
+        out.append(" ").append(name).append("=").append(value).append(";");
     for (const xml_node &child : node.children())
         if (!saysNothing(child))
             describeTree(child, out);

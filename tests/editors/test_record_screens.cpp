@@ -38,7 +38,7 @@ protected:
     {
         pugi::xml_node element = elementOf(screen, field);
         const QByteArray content = element.child_value();
-        element.remove_children();
+        element.text().set("left out");
         const QByteArray all = Form->XMLOutput().toUtf8();
         element.text().set(content.constData());
         return all;

@@ -25,6 +25,7 @@ HANDS_ON = {
     "shell/zr3tool/clsConsoleUserInterface.cpp": "*", "shell/mdRegistry.cpp": "mdSystemFailure",
     "shell/mdTextDocumentHandling.cpp": "mdSystemFailure", "wordexport/mdDocumentError.h": ERROR,
     "shell/clsRunTimeError.h": ERROR, "controls/mdSpellingMenu.cpp": "tell",
+    "shell/zr3tool/mdTotalsReport.cpp": "tell",
 }
 
 LITERAL = re.compile(r'"((?:[^"\\\n]|\\.)*)"')

@@ -3,21 +3,41 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
-QByteArray clsJsonWriter::quoted(const QString &text)
+#include <algorithm>
+
+namespace {
+
+bool standsAsItIs(QChar c)
 {
-    // The library's own quoting of an array with one text, without its brackets.
-    return QJsonDocument(QJsonArray {text}).toJson(QJsonDocument::Compact).mid(1).chopped(1);
+    return c >= u' ' && c < u'\x7f' && c != u'"' && c != u'\\';
 }
 
-void clsJsonWriter::raw(const char *key, const QByteArray &value)
+} // namespace
+
+void clsJsonWriter::text(const char *key, const QString &value)
+{
+    begin(key);
+    if (std::all_of(value.begin(), value.end(), standsAsItIs)) {
+        m_bytes += '"';
+        m_bytes += value.toLatin1();
+        m_bytes += '"';
+    } else {
+        // The library's own quoting of an array with one text, without its brackets.
+        m_bytes += QJsonDocument(QJsonArray {value}).toJson(QJsonDocument::Compact).mid(1).chopped(1);
+    }
+}
+
+void clsJsonWriter::begin(const char *key)
 {
     if (!m_first)
         m_bytes += ',';
     m_first = false;
     newLine();
-    if (key)
-        m_bytes += quoted(QString::fromLatin1(key)) + ": ";
-    m_bytes += value;
+    if (!key)
+        return;
+    m_bytes += '"';
+    m_bytes += key;
+    m_bytes += "\": ";
 }
 
 void clsJsonWriter::open(const char *key, char bracket)
@@ -25,7 +45,7 @@ void clsJsonWriter::open(const char *key, char bracket)
     if (m_bytes.isEmpty())
         m_bytes += bracket;
     else
-        raw(key, QByteArray(1, bracket));
+        raw(key, QByteArrayView(&bracket, 1));
     ++m_depth;
     m_first = true;
 }

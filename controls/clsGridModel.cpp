@@ -46,9 +46,11 @@ QString propertyText(const clsZR3Item &item, const clsGridColumn &column)
 }
 
 /// Whether an error is one of the column, which asks for what no item has, and not of the item.
-bool isOfColumn(const clsRunTimeError &error)
+bool isOfColumn(const clsRunTimeError &error, const clsGridColumn &column)
 {
-    return error.number() == clsRunTimeError::NoSuchProperty || error.number() == clsRunTimeError::ArgumentNotOptional
+    const bool lacksHelper = !column.helperProperty.isEmpty() && !column.helper;
+    return lacksHelper || error.number() == clsRunTimeError::NoSuchProperty
+        || error.number() == clsRunTimeError::ArgumentNotOptional
         || error.number() == clsRunTimeError::WrongNumberOfArguments;
 }
 
@@ -116,54 +118,65 @@ std::vector<clsGridModel::Row> clsGridModel::readRows(const clsGridItems &items)
         progress.reached(int(rows.size()) + 1);
         Row &row = rows.emplace_back(Row {item, item->Index, 0, {}});
         row.cells.reserve(m_columns.size());
-        const clsGridFaults faults = m_faultsOf ? m_faultsOf(*item) : clsGridFaults();
+        const clsGridFaults faults = faultsOf(*item);
         for (const clsGridColumn &column : m_columns)
-            readCell(row, column, faults);
-        markRow(row, faults);
+            row.cells.push_back(readCell(*item, column, faults));
+        // What no column shows is told in the first, before what stands there: that may be the item's name.
+        if (clsGridCell &first = row.cells[size_t(firstShownColumn())];
+            first.kind != clsGridCell::Wrong && !whyRow(faults).isEmpty())
+            first = {WrongMark + u' ' + first.text, clsGridCell::Wrong};
         if (m_orderable)
             row.orderID = LongFromText(ReadProperty(*item, u"OrderID"));
     }
     return rows;
 }
 
-void clsGridModel::readCell(Row &row, const clsGridColumn &column, const clsGridFaults &faults) const
+clsGridCell clsGridModel::readCell(
+    const clsZR3Item &item, const clsGridColumn &column, const clsGridFaults &faults) const
 {
-    QString why = faultIn(column, faults);
+    const clsGridCell wrong {WrongMark, clsGridCell::Wrong};
+    if (!faultIn(column, faults).isEmpty())
+        return wrong;
     try {
-        row.cells.push_back(clsGridCell::of(propertyText(*row.item, column)));
+        return clsGridCell::of(propertyText(item, column));
     } catch (const clsRunTimeError &error) {
-        if (isOfColumn(error) || (!column.helperProperty.isEmpty() && !column.helper))
+        if (isOfColumn(error, column))
             throw;
-        row.cells.push_back({});
-        if (why.isEmpty())
-            why = error.cause().isEmpty() ? error.description() : error.cause();
+        return column.isShown() ? wrong : clsGridCell();
     }
-    if (why.isEmpty() || !column.isShown())
-        return;
-    row.wrong.emplace_back(int(row.cells.size()) - 1, why);
-    row.cells.back() = {WrongMark, clsGridCell::Wrong};
 }
 
-/// What no column shows is told in the first, before what stands there: that may be the item's name.
-void clsGridModel::markRow(Row &row, const clsGridFaults &faults) const
+/// Why a property is wrong: by its fault, or since it can't be read.
+QString clsGridModel::whyCell(const clsZR3Item &item, const clsGridColumn &column, const clsGridFaults &faults) const
 {
-    const size_t first = size_t(firstShownColumn());
-    for (const auto &[property, why] : faults) {
-        const bool shown = std::any_of(m_columns.begin(), m_columns.end(),
-            [&property = property](const clsGridColumn &column) { return shows(column, property); });
-        if (shown || row.cells[first].kind == clsGridCell::Wrong)
-            continue;
-        row.wrong.emplace_back(int(first), why);
-        row.cells[first] = {WrongMark + u' ' + row.cells[first].text, clsGridCell::Wrong};
+    QString fault = faultIn(column, faults);
+    if (!fault.isEmpty())
+        return fault;
+    try {
+        propertyText(item, column);
+    } catch (const clsRunTimeError &error) {
+        fault = error.cause().isEmpty() ? error.description() : error.cause();
     }
+    return fault;
+}
+
+QString clsGridModel::whyRow(const clsGridFaults &faults) const
+{
+    for (const auto &[property, why] : faults)
+        if (std::none_of(m_columns.begin(), m_columns.end(),
+                [&property = property](const clsGridColumn &column) { return shows(column, property); }))
+            return why;
+    return {};
 }
 
 QString clsGridModel::whyWrong(int row, int column) const
 {
-    for (const auto &[wrong, why] : m_rows[size_t(row)].wrong)
-        if (wrong == column)
-            return why;
-    return {};
+    if (cell(row, column).kind != clsGridCell::Wrong)
+        return {};
+    const clsZR3Item &shown = *item(row);
+    const clsGridFaults faults = faultsOf(shown);
+    const QString own = whyCell(shown, m_columns[size_t(column)], faults);
+    return own.isEmpty() ? whyRow(faults) : own;
 }
 
 /// Key columns as text, ascending; an orderable list by its order after them. Letters compare without regard to their

@@ -50,7 +50,8 @@ public:
     void renumber();
     void writeOrder(int row, int orderID);
 
-    /// Why a cell is wrong; empty for all others.
+    /// Why a cell is wrong; empty for all others. It is found out when it is asked for: the item may have another
+    /// number in the order since the rows were read.
     QString whyWrong(int row, int column) const;
     const clsGridCell &cell(int row, int column) const { return m_rows[size_t(row)].cells[size_t(column)]; }
     /// The `Index` that the item had when it was read.
@@ -68,11 +69,12 @@ private:
         int itemData;
         int orderID;
         std::vector<clsGridCell> cells;
-        std::vector<std::pair<int, QString>> wrong {}; ///< the columns that are, and why
     };
 
-    void readCell(Row &row, const clsGridColumn &column, const clsGridFaults &faults) const;
-    void markRow(Row &row, const clsGridFaults &faults) const;
+    clsGridFaults faultsOf(const clsZR3Item &item) const { return m_faultsOf ? m_faultsOf(item) : clsGridFaults(); }
+    clsGridCell readCell(const clsZR3Item &item, const clsGridColumn &column, const clsGridFaults &faults) const;
+    QString whyCell(const clsZR3Item &item, const clsGridColumn &column, const clsGridFaults &faults) const;
+    QString whyRow(const clsGridFaults &faults) const;
     std::vector<Row> readRows(const clsGridItems &items) const;
     void sort(std::vector<Row> &rows) const;
 

@@ -69,6 +69,11 @@ protected:
             texts << model()->index(row - 1, number).data().toString();
         return texts;
     }
+    /// What a cell says to a reader of the screen.
+    QString describes(int row, int number) const
+    {
+        return model()->index(row - 1, number - 1).data(Qt::AccessibleTextRole).toString();
+    }
     QStringList column(int number) const
     {
         QStringList texts;

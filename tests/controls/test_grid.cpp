@@ -3,6 +3,9 @@
 #include "tests/controls/clsGridTest.h"
 #include "tests/support/mdTestPaths.h"
 
+#include <QHelpEvent>
+#include <QToolTip>
+
 using clsGrid = clsGridTest;
 
 TEST_F(clsGrid, ShowsEachPropertyByTheCellRule)
@@ -45,19 +48,45 @@ TEST_F(clsGrid, AnUnknownPropertyIsAnErrorAndLeavesTheRowsAsTheyWere)
     EXPECT_EQ(QStringList({"MO"}), rowTexts(1));
 }
 
-TEST_F(clsGrid, AnItemThatCantBeReadLeavesTheRowsAsTheyWere)
+TEST_F(clsGrid, APropertyThatCantBeReadIsMarkedAndSaysWhy)
 {
     const auto feeEarner = form.AddFeeEarner();
     feeEarner->Reference = QStringLiteral("JH");
     form.AddScheduleOfTimeItem()->FeeEarnerUniqueID = feeEarner->UniqueID();
+    form.AddScheduleOfTimeItem()->XMLNode().child("advocacy").text().set("perhaps");
     grid.AddColumn({.caption = "Fee Earner", .width = 50, .property = "FeeEarnerReference"});
+    grid.AddColumn({.caption = "Adv", .width = 50, .property = "Advocacy"});
     grid.setItemCollection(form.ScheduleOfTimeItemsCollection());
     grid.Draw();
-    form.AddScheduleOfTimeItem();
-    EXPECT_EQ(clsRunTimeError::ObjectNotSet, errorOf([&] { grid.Redraw(true); }));
-    EXPECT_EQ(1, grid.Rows());
-    EXPECT_EQ(QStringList({"JH"}), rowTexts(1));
-    EXPECT_TRUE(view()->updatesEnabled());
+    EXPECT_EQ("JH", rowTexts(1)[0]);
+    EXPECT_EQ(QStringList({"!", "!"}), rowTexts(2));
+    EXPECT_EQ("Object variable or With block variable not set", describes(2, 1));
+    EXPECT_EQ("Schedule item 2: the tick Advocacy holds \"perhaps\", which is neither True nor False", describes(2, 2));
+    EXPECT_EQ("no", describes(1, 2));
+}
+
+TEST_F(clsGrid, WhatIsWrongWithAnItemStandsInTheColumnThatShowsItOrElseInTheFirst)
+{
+    addGroup("A", "Partner");
+    addGroup("B", "Trainee");
+    grid.AddColumn({.caption = "Odd", .property = "HourlyRate", .visible = false});
+    addReferenceColumn();
+    grid.AddColumn({.caption = "Name", .width = 40, .property = "Name", .faultOf = "enhancementrate"});
+    grid.setFaultReader([this](const clsZR3Item &item) {
+        return &item == form.FeeEarnerGroup(1).get() ? clsGridFaults {{"EnhancementRate", "no rate"},
+                   {"HourlyRate", "no hourly rate"}, {"CallsRate", "nor this"}}
+                                                     : clsGridFaults();
+    });
+    draw();
+    EXPECT_EQ(QStringList({"0.00", "! A", "!"}), rowTexts(1));
+    EXPECT_EQ(QStringList({"0.00", "B", "Trainee"}), rowTexts(2));
+    EXPECT_EQ("no rate", describes(1, 3));
+    EXPECT_EQ("no hourly rate", describes(1, 2)) << "the column that it stands in can't be seen";
+    const QPoint place = middleOf(1, 3);
+    QHelpEvent event(QEvent::ToolTip, place, view()->viewport()->mapToGlobal(place));
+    QApplication::sendEvent(view()->viewport(), &event);
+    EXPECT_EQ("no rate", QToolTip::text());
+    EXPECT_FALSE(grid.grab().isNull());
 }
 
 TEST_F(clsGrid, GapsInTheOrderCloseAtTheFirstDraw)
@@ -293,13 +322,14 @@ TEST_F(clsGrid, ALongListReportsEachSixHundredthRow)
     EXPECT_EQ(1, user.progressCleared);
 }
 
-TEST_F(clsGrid, TheProgressGoesAlsoWhenAnItemCantBeRead)
+TEST_F(clsGrid, TheProgressGoesAlsoWhenTheRowsCantBeRead)
 {
     addGroups(251);
     grid.AddColumn({.caption = "Enh", .width = 10, .property = "Enhance"});
     grid.setItemCollection(form.FeeEarnerGroupsCollection());
-    form.FeeEarnerGroup(251)->XMLNode().child("enhance").text().set("perhaps");
-    EXPECT_EQ(clsRunTimeError::TypeMismatch, errorOf([&] { grid.Draw(); }));
+    form.FeeEarnerGroup(251)->XMLNode().child("orderid").text().set("99999999999");
+    grid.setOrderable(true);
+    EXPECT_EQ(clsRunTimeError::Overflow, errorOf([&] { grid.Draw(); }));
     EXPECT_EQ(1u, user.progress.size());
     EXPECT_EQ(1, user.progressCleared);
 }

@@ -34,12 +34,12 @@ protected:
 
 } // namespace
 
-TEST_F(FeeEarnerGroups, AFeeEarnerWhoseGroupIsMissingIsShownWithoutOne)
+TEST_F(FeeEarnerGroups, AFeeEarnerWhoseGroupIsMissingIsMarked)
 {
     const auto partner = addGroup("PTR");
     addFeeEarner(QStringLiteral("JH"), *partner);
     addFeeEarner(QStringLiteral("AB"), *partner)->GroupUniqueID = QStringLiteral("ID99");
-    EXPECT_EQ(QStringList({QStringLiteral("JH|PTR"), QStringLiteral("AB|")}), rows(feeEarners(*lists())));
+    EXPECT_EQ(QStringList({QStringLiteral("JH|PTR"), QStringLiteral("AB|!")}), rows(feeEarners(*lists())));
 }
 
 TEST_F(FeeEarnerGroups, ShowsTheTwoListsWithTheirColumnsInTheirOrder)

@@ -50,6 +50,7 @@ TEST_F(ScheduleOfTime, ShowsItsColumns)
     const Item item = addItem("04/03/26", "DST", "01:50");
     item->Advocacy = true;
     item->IncludeInEnhancements = true;
+    item->EnhancementUniqueID = Form->AddEnhancement()->UniqueID();
     const auto screen = schedule();
     const struct {
         const char *caption;

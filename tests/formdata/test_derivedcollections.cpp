@@ -207,3 +207,58 @@ TEST(DerivedCollections, AGapInTheOrderIsTheObjectError)
     EXPECT_EQ(2u, form.ScheduleOfTimeItemsForExportCollection().size());
     EXPECT_EQ(2u, form.NonCounselDisbursementsCollection().size());
 }
+
+// Items of which a file doesn't say where they belong
+
+TEST(DerivedCollections, AClaimThatDoesNotSayWhatIsOnTheBillShowsAllItemsAndNumbersNone)
+{
+    clsZR3Form form;
+    addFourItemsBackwards(form);
+    form.FormType = QStringLiteral("Claim1A");
+    setContentOf(form.XMLNode(), "excludenonadvocacy", "perhaps");
+    render(form);
+    EXPECT_EQ((Numbers {4, 3, 2, 1}), placesOf(form.ScheduleOfTimeItemsForExportCollection()));
+    EXPECT_EQ(4u, form.AdditionalInformationItemsCollection().size());
+    for (const auto &item : form.ScheduleOfTimeItemsCollection())
+        EXPECT_EQ(0, item->SOTItemNumber);
+    EXPECT_EQ(Error::TypeMismatch, errorOf([&] { form.CheckDerivedCollections(); }));
+    EXPECT_EQ(Error::TypeMismatch, errorOf([&] { form.IsOnBill(*form.ScheduleOfTimeItem(1)); }));
+
+    form.ExcludeNonAdvocacy = true;
+    EXPECT_EQ(Error::TypeMismatch, errorOf([&] { form.CheckDerivedCollections(); })) << "as they were last made";
+    render(form);
+    form.CheckDerivedCollections();
+    EXPECT_EQ((Numbers {4, 2}), placesOf(form.ScheduleOfTimeItemsForExportCollection()));
+}
+
+TEST(DerivedCollections, AnItemThatDoesNotSayWhetherItIsAdvocacyTakesNoNumber)
+{
+    clsZR3Form form;
+    addFourItemsBackwards(form);
+    form.FormType = QStringLiteral("Claim1A");
+    form.ExcludeNonAdvocacy = true;
+    setContentOf(form.ScheduleOfTimeItem(3)->XMLNode(), "advocacy", "perhaps");
+    render(form);
+    EXPECT_EQ((Numbers {4, 3, 2}), placesOf(form.ScheduleOfTimeItemsForExportCollection()));
+    EXPECT_EQ(1, form.ScheduleOfTimeItem(4)->SOTItemNumber);
+    EXPECT_EQ(0, form.ScheduleOfTimeItem(3)->SOTItemNumber);
+    EXPECT_EQ(2, form.ScheduleOfTimeItem(2)->SOTItemNumber);
+    EXPECT_EQ(Error::TypeMismatch, errorOf([&] { form.CheckDerivedCollections(); }));
+}
+
+TEST(DerivedCollections, ADisbursementThatDoesNotSayWhetherItIsCounselsKeepsBothFromBeingTold)
+{
+    clsZR3Form form;
+    addToEachList(form);
+    addToEachList(form);
+    setContentOf(form.Disbursement(1)->XMLNode(), "counsel", "perhaps");
+    form.SeparateCounselAndNonCounselDisbursements();
+    EXPECT_EQ(Error::TypeMismatch, errorOf([&] { form.CheckDerivedCollections(); }));
+    EXPECT_EQ(Error::TypeMismatch, errorOf([&] { form.CounselDisbursementsCollection(); }));
+    EXPECT_EQ(Error::TypeMismatch, errorOf([&] { form.NonCounselDisbursementsCollection(); }));
+    form.Disbursement(1)->Counsel = true;
+    form.SeparateCounselAndNonCounselDisbursements();
+    form.CheckDerivedCollections();
+    EXPECT_EQ(1u, form.CounselDisbursementsCollection().size());
+    EXPECT_EQ(1u, form.NonCounselDisbursementsCollection().size());
+}

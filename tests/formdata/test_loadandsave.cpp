@@ -417,6 +417,20 @@ TEST_F(LoadAndSave, ABadValueIsFoundWhenItIsReadAndNotBefore)
     EXPECT_EQ(text, bytesOf(path("saved.zr3")));
 }
 
+TEST_F(LoadAndSave, ATickThatIsNoneKeepsNoClaimFromBeingLoaded)
+{
+    clsZR3Form form;
+    ASSERT_TRUE(form.LoadXML(put("odd.zr3",
+        "<vzrform><formtype>Claim1A</formtype><excludenonadvocacy>perhaps</excludenonadvocacy><disbursements>"
+        "<disbursement><orderid>1</orderid><counsel>perhaps</counsel></disbursement></disbursements>"
+        "<scheduleoftimeitems><scheduleoftimeitem><orderid>1</orderid></scheduleoftimeitem></scheduleoftimeitems>"
+        "</vzrform>")));
+    EXPECT_EQ(1u, form.ScheduleOfTimeItemsForExportCollection().size());
+    EXPECT_EQ(Error::TypeMismatch, errorOf([&] { form.CheckDerivedCollections(); }));
+    ASSERT_TRUE(form.LoadXML(put("good.zr3", "<vzrform/>")));
+    form.CheckDerivedCollections();
+}
+
 TEST_F(LoadAndSave, LoadingShowsItsProgress)
 {
     clsZR3Form form;

@@ -1,6 +1,7 @@
 // How values stand in their elements, and how they read.
 
 #include "shell/mdCodePage.h"
+#include "formdata/mdRecordInWords.h"
 #include "tests/formdata/clsFormTest.h"
 
 #include <limits>
@@ -216,4 +217,60 @@ TEST(Property, MoreThanOneCertificateIsAText)
     clsZR3Form form;
     form.ClientDetails.MoreThan1Certificate = QStringLiteral("Yes, and ABC/123");
     EXPECT_EQ(QStringLiteral("Yes, and ABC/123"), form.ClientDetails.MoreThan1Certificate());
+}
+
+// What an error says of the record and the property
+
+TEST(Values, AnErrorNamesTheRecordAndTheProperty)
+{
+    clsZR3Form form;
+    addToEachList(form);
+    const auto causeOf = [](auto read) {
+        try {
+            read();
+        } catch (const Error &error) {
+            return error.cause();
+        }
+        return QString();
+    };
+    setContentOf(form.XMLNode(), "includepage3", "maybe");
+    EXPECT_EQ(QStringLiteral("The claim: the tick Include Page 3 holds \"maybe\", which is neither True nor False"),
+        causeOf([&] { form.IncludePage3(); }));
+    setContentOf(form.OutcomeOfCase.XMLNode(), "wastedcostsorderyes", "");
+    EXPECT_EQ(
+        QStringLiteral("Outcome of Case: the tick Wasted Costs Order Yes holds \"\", which is neither True nor False"),
+        causeOf([&] { form.OutcomeOfCase.WastedCostsOrderYes(); }));
+    setContentOf(form.FeeEarner(1)->XMLNode(), "lettersin", "99999999999");
+    EXPECT_EQ(QStringLiteral("Fee earner 1: Letters In holds \"99999999999\", which is too large a number"),
+        causeOf([&] { form.FeeEarner(1)->LettersIn(); }));
+    form.FeeEarner(1)->Reference = QStringLiteral("OQ");
+    EXPECT_EQ(QStringLiteral("Fee earner OQ: Letters In holds \"99999999999\", which is too large a number"),
+        causeOf([&] { form.FeeEarner(1)->LettersIn(); }));
+    setContentOf(form.Counsel(1)->XMLNode(), "vat", "x");
+    form.Counsel(1)->Name = QStringLiteral("Oak & Ash");
+    EXPECT_EQ(QStringLiteral("Counsel Oak & Ash: the tick VAT holds \"x\", which is neither True nor False"),
+        causeOf([&] { form.Counsel(1)->VAT(); }));
+    EXPECT_EQ(QString(), causeOf([&] { throw Error(Error::ObjectNotSet); }));
+}
+
+TEST(Values, APropertyIsToldInWords)
+{
+    const std::pair<const char *, const char *> rows[] = {{"NetAmount", "Net Amount"}, {"VAT", "VAT"},
+        {"VATAmount", "VAT Amount"}, {"VATForFAS", "VAT For FAS"}, {"dDate", "Date"}, {"TTime", "Time"},
+        {"IncludePage13", "Include Page 13"}, {"PrivateLawcourtFamilyProceeding", "Private Lawcourt Family Proceeding"},
+        {"MoreThan1Certificate", "More Than 1 Certificate"}, {"FDR", "FDR"}};
+    for (const auto &[name, words] : rows)
+        EXPECT_EQ(QString::fromLatin1(words), mdPropertyInWords(QString::fromLatin1(name)));
+}
+
+TEST(Values, ACauseStaysWithItsError)
+{
+    const Error plain(Error::TypeMismatch);
+    EXPECT_EQ(QString(), plain.cause());
+    const Error told = plain.because(QStringLiteral("here"));
+    EXPECT_EQ(QStringLiteral("here"), told.cause());
+    EXPECT_EQ(QStringLiteral("here"), told.because(QStringLiteral("there")).cause()) << "the nearer one stays";
+    EXPECT_EQ(plain.number(), told.number());
+    EXPECT_EQ(plain.description(), told.description());
+    EXPECT_STREQ("Run-time error '13': Type mismatch", told.what());
 }

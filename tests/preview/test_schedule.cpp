@@ -26,6 +26,23 @@ protected:
         mdDrawPreview(clsPreviewKind::ScheduleOfTime);
     }
     static QStringList emptyRow() { return QStringList(QList<QString>(13)); }
+    /// Two groups at 60 with a fee earner each, and items of 1, 2 and 3 hours, of which the second is documents and the
+    /// second fee earner's.
+    static void SetUpClaim()
+    {
+        Form = std::make_unique<clsZR3Form>();
+        for (const char *reference : {"A", "B"}) {
+            const auto group = Form->AddFeeEarnerGroup();
+            group->Reference = QString::fromLatin1(reference);
+            group->HourlyRate = QStringLiteral("60.00");
+            const auto feeEarner = Form->AddFeeEarner();
+            feeEarner->Reference = *reference == 'A' ? QStringLiteral("AB") : QStringLiteral("CD");
+            feeEarner->GroupUniqueID = group->UniqueID();
+        }
+        addItem("01:00");
+        addItem("02:00", "DOT")->FeeEarnerUniqueID = Form->FeeEarner(2)->UniqueID();
+        addItem("03:00");
+    }
 };
 
 /// The rows of the schedule that a sample must show, from what its export was worked out to type: there every figure is
@@ -335,26 +352,178 @@ TEST_F(SchedulePreview, AnErrorLeavesTheWindowUsable)
 {
     addItems(2);
     draw();
+    Form.reset();
+    EXPECT_EQ(Error::ObjectNotSet, errorOf([] { mdDrawPreview(clsPreviewKind::ScheduleOfTime); }));
+    EXPECT_TRUE(grid().updatesEnabled());
+    EXPECT_TRUE(window.isEnabled());
+    Form = std::make_unique<clsZR3Form>();
+    draw(); // and the next drawing is whole
+    EXPECT_EQ(7, grid().Rows());
+}
+
+// Figures that can't be computed
+
+namespace {
+
+/// The columns of a row whose figures can't be computed, with the reason that they share.
+struct clsFailedRow {
+    QList<int> columns;
+    QString why;
+};
+
+} // namespace
+
+class FailedFigures : public SchedulePreview {
+protected:
+    static clsFailedRow failedIn(int row)
+    {
+        clsFailedRow result;
+        for (int column = 1; column <= grid().Columns(); ++column) {
+            const QString why = grid().WhyNot(row, column);
+            EXPECT_EQ(!why.isEmpty(), grid().Text(row, column) == QLatin1String("!")) << row << "/" << column;
+            if (why.isEmpty())
+                continue;
+            result.columns << column;
+            if (!result.why.contains(why))
+                result.why += (result.why.isEmpty() ? QString() : QStringLiteral("; ")) + why;
+        }
+        return result;
+    }
+    static void expectFailed(int row, const QList<int> &columns, const char *why)
+    {
+        const clsFailedRow failed = failedIn(row);
+        EXPECT_EQ(columns, failed.columns) << "row " << row;
+        EXPECT_EQ(QString::fromUtf8(why), failed.why) << "row " << row;
+    }
+    static int timesRow() { return grid().Rows() - 2; }
+    static int moneyRow() { return grid().Rows(); }
+    static QString toolTip(int row, int column)
+    {
+        grid().BringIntoView(row, 1);
+        return grid().ToolTipAt(
+            QPoint(grid().columnViewportPosition(column - 1) + 5, grid().rowViewportPosition(row - 1) + 2));
+    }
+};
+
+TEST_F(FailedFigures, OfAnItemAreMarkedAndAllOthersAreThere)
+{
     const struct {
-        void (*spoil)();
-        int error;
+        const char *what;
+        void (*spoil)(const Item &item);
+        QList<int> columns;
+        const char *why;
     } rows[] = {
-        {[] { Form->ScheduleOfTimeItem(2)->TTime = QString(); }, Error::SubscriptOutOfRange},
-        {[] { Form->ScheduleOfTimeItem(2)->FeeEarnerUniqueID = QStringLiteral("ID0"); }, Error::ObjectNotSet},
-        {[] { Form->FeeEarnerGroup(1)->HourlyRate = QStringLiteral("much"); }, Error::TypeMismatch},
+        {"fee earner", [](const Item &item) { item->FeeEarnerUniqueID = QStringLiteral("ID99"); }, {2, 10, 11, 12, 13},
+            "Schedule item 2 names a fee earner that no longer exists"},
+        {"group", [](const Item &) { Form->FeeEarner(2)->GroupUniqueID = QStringLiteral("ID99"); }, {10, 11, 12, 13},
+            "Schedule item 2 names the fee earner CD, whose group no longer exists"},
+        {"enhancement", [](const Item &item) { item->IncludeInEnhancements = true; }, {12, 13},
+            "Schedule item 2 names no enhancement"},
+        {"rate", [](const Item &) { Form->FeeEarnerGroup(2)->HourlyRate = QString(); }, {10, 11, 13},
+            "Schedule item 2: the hourly rate of group B is not an amount"},
+        {"large rate", [](const Item &) { Form->FeeEarnerGroup(2)->HourlyRate = QString(30, u'9'); }, {10, 11, 13},
+            "Schedule item 2: the hourly rate of group B is larger than an amount can be"},
+        {"time", [](const Item &item) { item->TTime = QString(); }, {6, 11, 13}, "Schedule item 2 has no time"},
+        {"tick", [](const Item &item) { item->XMLNode().child("travel").text().set("perhaps"); }, {5, 10, 11, 13},
+            "Schedule item 2: the tick Travel holds \"perhaps\", which is neither True nor False"},
     };
     for (const auto &row : rows) {
-        row.spoil();
-        EXPECT_EQ(row.error, errorOf([] { mdDrawPreview(clsPreviewKind::ScheduleOfTime); }));
-        EXPECT_TRUE(grid().updatesEnabled());
-        EXPECT_TRUE(window.isEnabled());
-        Form = std::make_unique<clsZR3Form>();
-        draw(); // and the next drawing is whole
-        EXPECT_EQ(7, grid().Rows());
-        Form->AddFeeEarnerGroup()->HourlyRate = QStringLiteral("60.00");
-        Form->AddFeeEarner()->GroupUniqueID = Form->FeeEarnerGroup(1)->UniqueID();
-        addItems(2);
+        SCOPED_TRACE(row.what);
+        SetUpClaim();
+        row.spoil(Form->ScheduleOfTimeItem(2));
+        draw();
+        ASSERT_EQ(13, grid().Rows());
+        EXPECT_EQ(QStringLiteral("60.00"), grid().Text(FirstItemRow, 13));
+        expectFailed(FirstItemRow, {}, "");
+        expectFailed(FirstItemRow + 2, row.columns, row.why);
+        EXPECT_EQ(QStringLiteral("2"), grid().Text(FirstItemRow + 2, 1));
+        EXPECT_EQ(QString::fromUtf8(row.why), toolTip(FirstItemRow + 2, 13));
+        EXPECT_EQ(QStringLiteral("180.00"), grid().Text(FirstItemRow + 4, 13)) << "the item behind it";
+        EXPECT_FALSE(sheet->grab().isNull());
+        SetUpClaim();
+        draw(); // once it is mended nothing is left of it
+        for (int line = 1; line <= grid().Rows(); ++line)
+            expectFailed(line, {}, "");
     }
+}
+
+TEST_F(FailedFigures, OfTheTotalsAreThoseWithAPartThatFails)
+{
+    SetUpClaim(); // items of 1, 2 and 3 hours in the columns 5, 6 and 5
+    Form->ScheduleOfTimeItem(2)->FeeEarnerUniqueID = QStringLiteral("ID99");
+    draw();
+    const char *gone = "Schedule item 2 names a fee earner that no longer exists";
+    expectFailed(timesRow(), {}, "");
+    EXPECT_EQ(QStringLiteral("04:00"), grid().Text(timesRow(), 5));
+    EXPECT_EQ(QStringLiteral("02:00"), grid().Text(timesRow(), 6));
+    expectFailed(moneyRow(), {6, 13}, gone);
+    EXPECT_EQ(QStringLiteral("240.00"), grid().Text(moneyRow(), 5));
+    EXPECT_EQ(QString::fromUtf8(gone), toolTip(moneyRow(), 13));
+
+    Form->ScheduleOfTimeItem(3)->TTime = QStringLiteral("90");
+    draw();
+    expectFailed(timesRow(), {5}, "Schedule item 3 has the time \"90\", which is not one");
+    expectFailed(moneyRow(), {5, 6, 13},
+        "Schedule item 3 has the time \"90\", which is not one; "
+        "Schedule item 2 names a fee earner that no longer exists");
+
+    // Of which column an item is decides on all of them.
+    Form->ScheduleOfTimeItem(1)->XMLNode().child("waiting").text().set("perhaps");
+    draw();
+    const char *tick = "Schedule item 1: the tick Waiting holds \"perhaps\", which is neither True nor False";
+    expectFailed(timesRow(), {5, 6, 7, 8, 9}, tick);
+    expectFailed(moneyRow(), {5, 6, 7, 8, 9, 13}, tick);
+}
+
+TEST_F(FailedFigures, OfSumsThatAreTooLarge)
+{
+    SetUpClaim();
+    Form->FeeEarnerGroup(1)->HourlyRate = QStringLiteral("900000000000000");
+    Form->ScheduleOfTimeItem(3)->TTime = QStringLiteral("01:00");
+    draw();
+    expectFailed(FirstItemRow, {}, "");
+    expectFailed(moneyRow(), {5, 13}, "The sum is too large");
+}
+
+TEST_F(FailedFigures, OfAClaimThatDoesNotSayWhatIsOnTheBill)
+{
+    SetUpClaim();
+    Form->FormType = QStringLiteral("Claim1A");
+    Form->XMLNode().child("excludenonadvocacy").text().set("perhaps");
+    Form->ScheduleOfTimeItem(2)->Description = QStringLiteral("a note");
+    draw();
+    const char *why = "The claim: the tick Exclude Non Advocacy holds \"perhaps\", which is neither True nor False";
+    ASSERT_EQ(13, grid().Rows());
+    for (int n = 0; n < 3; ++n) {
+        expectFailed(FirstItemRow + 2 * n, {1}, why);
+        EXPECT_FALSE(grid().Text(FirstItemRow + 2 * n, 13).isEmpty());
+    }
+    expectFailed(timesRow(), {5, 6, 7, 8, 9}, why);
+    expectFailed(moneyRow(), {5, 6, 7, 8, 9, 13}, why);
+    mdDrawPreview(clsPreviewKind::AdditionalInformation);
+    EXPECT_EQ(2, grid().Rows());
+
+    Form->ExcludeNonAdvocacy = false;
+    draw();
+    expectFailed(FirstItemRow, {}, "");
+    expectFailed(moneyRow(), {}, "");
+}
+
+TEST_F(FailedFigures, AreRedAndReadOut)
+{
+    SetUpClaim();
+    Form->ScheduleOfTimeItem(1)->TTime = QString();
+    draw();
+    const QRect cell(grid().columnViewportPosition(12), grid().rowViewportPosition(FirstItemRow - 1),
+        grid().ColumnWidth(13), grid().RowHeight(FirstItemRow));
+    const QImage picture = grid().viewport()->grab(cell).toImage();
+    bool red = false;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            red = red || (picture.pixelColor(x, y).red() > 150 && picture.pixelColor(x, y).green() < 60);
+    EXPECT_TRUE(red);
+    EXPECT_EQ(QStringLiteral("Schedule item 1 has no time"),
+        grid().model()->index(FirstItemRow - 1, 12).data(Qt::AccessibleDescriptionRole).toString());
 }
 
 TEST_F(SchedulePreview, TheFocusStaysWhereItWas)

@@ -274,3 +274,16 @@ TEST_F(RecoveredCopy, TheBoxHasTheErrorsOwnDescription)
     EXPECT_EQ(QStringLiteral("Run-time error '321':\r\n\r\nNo main part"),
         mdRunTimeErrorMessage(clsRunTimeError(clsRunTimeError::InvalidFileFormat, QStringLiteral("No main part")), {}));
 }
+
+TEST_F(RecoveredCopy, TheBoxNamesWhatTheErrorComesFromBeforeTheCopy)
+{
+    const clsRunTimeError error
+        = clsRunTimeError(clsRunTimeError::ObjectNotSet)
+              .because(QStringLiteral("Schedule item 12 names a fee earner that no longer exists"));
+    const QString start = QStringLiteral("Run-time error '91':\r\n\r\nObject variable or With block variable not set"
+                                         "\r\n\r\nSchedule item 12 names a fee earner that no longer exists");
+    EXPECT_EQ(start, mdRunTimeErrorMessage(error, {}));
+    changedClaim();
+    EXPECT_EQ(start + QStringLiteral("\r\n\r\nA copy of your claim with its unsaved changes is in:\r\n\r\n/x/y.zr3"),
+        mdRunTimeErrorMessage(error, QStringLiteral("/x/y.zr3")));
+}

@@ -153,7 +153,9 @@ TEST_F(BadInput, ABooleanThatIsNoneEndsALoadThatReadsIt)
     const QString file = put("boolean.zr3",
         "<vzrform><disbursements><disbursement><orderid>1</orderid><counsel>perhaps</counsel>"
         "</disbursement></disbursements></vzrform>");
-    expectRefused(file, "Run-time error '13': Type mismatch\n");
+    expectRefused(file,
+        "Run-time error '13': Type mismatch\n"
+        "Disbursement 1: the tick Counsel holds \"perhaps\", which is neither True nor False\n");
 }
 
 TEST_F(BadInput, ANumberBeyondItsRangeEndsALoadThatReadsIt)
@@ -161,5 +163,7 @@ TEST_F(BadInput, ANumberBeyondItsRangeEndsALoadThatReadsIt)
     const QString file = put("number.zr3",
         "<vzrform><fasitems><fasitem><orderid>99999999999</orderid></fasitem></fasitems>"
         "</vzrform>");
-    expectRefused(file, "Run-time error '6': Overflow\n");
+    expectRefused(file,
+        "Run-time error '6': Overflow\n"
+        "FAS item 99999999999: Order ID holds \"99999999999\", which is too large a number\n");
 }

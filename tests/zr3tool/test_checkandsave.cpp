@@ -77,7 +77,7 @@ TEST_F(ToolCheck, ATimeThatWasNeverEnteredIsAFailure)
     const clsToolResult result = run({"check"_q, putClaim(form)});
     EXPECT_EQ(4, result.status);
     EXPECT_EQ("", result.out);
-    EXPECT_EQ("Run-time error '9': Subscript out of range\n", result.err);
+    EXPECT_EQ("Run-time error '9': Subscript out of range\nSchedule item 1 has no time\n", result.err);
 }
 
 TEST_F(ToolSave, EverySampleStaysAsItWasButForItsStamps)

@@ -223,8 +223,66 @@ TEST_F(ToolExport, AFigureThatCanNotBeComputedIsAFailure)
     form.FeeEarnerGroup(1)->HourlyRate = QString();
     const clsToolResult result = run({"export"_q, putClaim(form), out()});
     EXPECT_EQ(4, result.status);
-    EXPECT_EQ("Run-time error '13': Type mismatch\n", result.err);
+    EXPECT_EQ("Run-time error '13': Type mismatch\nSchedule item 1: the hourly rate of group 1 is not an amount\n",
+        result.err);
     EXPECT_EQ(QStringList(), filesOf(out()));
+}
+
+TEST_F(ToolExport, WhatAnErrorComesFromIsNamed)
+{
+    const struct {
+        void (*spoil)(clsZR3Form &form);
+        const char *error;
+    } rows[] = {
+        {[](clsZR3Form &form) { form.ScheduleOfTimeItem(2)->FeeEarnerUniqueID = "ID99"_q; },
+            "Run-time error '91': Object variable or With block variable not set\n"
+            "Schedule item 2 names a fee earner that no longer exists\n"},
+        {[](clsZR3Form &form) { form.FeeEarner(1)->GroupUniqueID = QString(); },
+            "Run-time error '91': Object variable or With block variable not set\n"
+            "Schedule item 1 names the fee earner AB, who has no group\n"},
+        {[](clsZR3Form &form) { form.ScheduleOfTimeItem(2)->TTime = "90"_q; },
+            "Run-time error '9': Subscript out of range\n"
+            "Schedule item 2 has the time \"90\", which is not one\n"},
+        {[](clsZR3Form &form) { form.AddDisbursement()->Counsel = true; },
+            "Run-time error '91': Object variable or With block variable not set\n"
+            "Disbursement 1 is counsel's fee and names no counsel\n"},
+        {[](clsZR3Form &form) { form.AddExpertInvoice()->VATAmount = QString(); },
+            "Run-time error '13': Type mismatch\nExpert invoice 1: VAT Amount is empty\n"},
+        {[](clsZR3Form &form) {
+             form.FeeEarner(1)->Calls = 1;
+             form.FeeEarnerGroup(1)->CallsRate = "4.00 each"_q;
+         },
+            "Run-time error '13': Type mismatch\n"
+            "Communications, line 1 of the calls: the calls rate of group 1 is not an amount\n"},
+        {[](clsZR3Form &form) { form.OutcomeOfCase.Result = 99; },
+            "Run-time error '9': Subscript out of range\nOutcome of Case: Result has no entry 99\n"},
+        {[](clsZR3Form &form) { form.OutcomeOfCase.XMLNode().child("costs").text().set("perhaps"); },
+            "Run-time error '13': Type mismatch\n"
+            "Outcome of Case: the tick Costs holds \"perhaps\", which is neither True nor False\n"},
+        {[](clsZR3Form &form) { form.XMLNode().child("includepage3").text().set("perhaps"); },
+            "Run-time error '13': Type mismatch\n"
+            "The claim: the tick Include Page 3 holds \"perhaps\", which is neither True nor False\n"},
+        {[](clsZR3Form &form) {
+             form.FormType = "Claim1A"_q;
+             form.ActualCostsIncurred.FixedFee = "x"_q;
+         },
+            "Run-time error '13': Type mismatch\nActual Costs: Fixed Fee holds \"x\", which is not an amount\n"},
+        {[](clsZR3Form &form) {
+             form.FormType = "Claim1A"_q;
+             form.AddFASItem()->RateForUnits = QString();
+         },
+            "Run-time error '13': Type mismatch\nFAS item 1: Rate For Units is empty\n"},
+    };
+    for (const auto &row : rows) {
+        clsZR3Form form;
+        fill(form);
+        addItem(form, "01:00");
+        row.spoil(form);
+        const clsToolResult result = run({"export"_q, putClaim(form), out(), "--quiet"_q});
+        EXPECT_EQ(4, result.status);
+        EXPECT_EQ(row.error, result.err);
+        EXPECT_EQ(QStringList(), filesOf(out()));
+    }
 }
 
 TEST_F(ToolExport, AMissingFirstPageIsAFailure)

@@ -13,16 +13,18 @@ protected:
     {
         const clsToolResult result = run({"totals"_q, putClaim(form)});
         EXPECT_EQ(status, result.status);
-        EXPECT_EQ(status == 0
-                ? QByteArray()
-                : QByteArray("Totals: Some figures of this claim can't be computed. Each of them stands as "
-                             "\"!\" and the number of its run-time error.\n"),
-            result.err);
+        const QByteArray failed = "Totals: Some figures of this claim can't be computed. Each of them stands as "
+                                  "\"!\" and the number of its run-time error.\n";
+        EXPECT_EQ(status == 0 ? QByteArray() : failed, result.err.left(failed.size()));
+        words = result.err.mid(failed.size());
         QJsonParseError error;
         const QJsonObject json = QJsonDocument::fromJson(result.out, &error).object();
         EXPECT_EQ(QJsonParseError::NoError, error.error);
         return json;
     }
+
+    /// What the last report told of what its failures come from, a line each.
+    QByteArray words;
 
     static QStringList keysInOrder(const QByteArray &json)
     {
@@ -138,6 +140,23 @@ TEST_F(ToolTotals, AFigureThatFailsIsItsErrorAndAllOthersAreThere)
     EXPECT_EQ("35"_q, at(summary, "vex"));
     EXPECT_EQ("0"_q, at(summary, "cftotal"));
     EXPECT_EQ("No blank items found"_q, at(json["BlankItems"_q].toObject(), "Message"));
+}
+
+TEST_F(ToolTotals, WhatAFailureComesFromIsToldOnceAndUpToTwentyTimes)
+{
+    clsZR3Form form;
+    fill(form);
+    addItem(form, "")->FeeEarnerUniqueID = "ID99"_q;
+    form.AddDisbursement()->VAT = "x"_q;
+    report(form, 4);
+    EXPECT_EQ("Schedule item 2 names a fee earner that no longer exists\nSchedule item 2 has no time\n"
+              "Disbursement 1: VAT holds \"x\", which is not an amount\n",
+        words);
+    for (int i = 0; i < 30; ++i)
+        addItem(form, "");
+    report(form, 4);
+    EXPECT_EQ(20, words.count('\n'));
+    EXPECT_TRUE(words.endsWith("Schedule item 20 has no time\n")) << words.constData();
 }
 
 TEST_F(ToolTotals, EachErrorHasItsNumber)

@@ -1,5 +1,6 @@
 // The export of a claim of many sheets, of each form, and the least that any program would have to do for it.
 
+#include "benchmarks/mdMakeClaim.h"
 #include "benchmarks/mdZipFloor.h"
 #include "formdata/clsZR3Form.h"
 #include "wordexport/clsExport.h"
@@ -44,8 +45,8 @@ QList<QByteArray> templatesInUse(const QString &sample)
     return templates;
 }
 
-/// Exports a sample once; false when it did not come to its end.
-bool exportSample(clsZR3Form &form, int &sheets)
+/// Exports a claim once; false when it did not come to its end.
+bool exportOnce(clsZR3Form &form, int &sheets)
 {
     clsExport run {.form = form, .templatesFolder = QStringLiteral(ZR3_TEMPLATES)};
     run.stopsAtLostSheet = true;
@@ -62,7 +63,7 @@ void exportClaim(benchmark::State &state, const char *name)
     form.ExportPath = folder.path();
     int sheets = 0;
     for (auto _ : state)
-        if (!exportSample(form, sheets)) {
+        if (!exportOnce(form, sheets)) {
             state.SkipWithError("The export failed.");
             break;
         }
@@ -76,7 +77,7 @@ void exportFloor(benchmark::State &state, const char *name)
     form.LoadXML(sampleOf(name) + ".zr3");
     form.ExportPath = folder.path();
     int sheets = 0;
-    if (!exportSample(form, sheets))
+    if (!exportOnce(form, sheets))
         return state.SkipWithError("The export failed.");
     const clsUnpackedFiles finished = mdUnpack(bytesOf(mdFinishedDocumentPath(form.ExportPath(), form.FormType())));
     const QList<QByteArray> templates = templatesInUse(sampleOf(name));
@@ -88,11 +89,31 @@ void exportFloor(benchmark::State &state, const char *name)
     state.counters["sheets"] = double(templates.size());
 }
 
+/// A made-up claim of so many items, of which the sheets that grow with it are printed: the schedule and the notes. A
+/// sheet of the one claim is then like a sheet of the other.
+void exportSchedule(benchmark::State &state)
+{
+    const QTemporaryDir folder;
+    clsZR3Form form;
+    mdMakeClaim(form, int(state.range(0)));
+    for (int page = 1; page <= 13; ++page)
+        form.field(QStringLiteral("IncludePage%1").arg(page))->writeBoolean(page == 1 || page == 5 || page == 6);
+    form.ExportPath = folder.path();
+    int sheets = 0;
+    for (auto _ : state)
+        if (!exportOnce(form, sheets)) {
+            state.SkipWithError("The export failed.");
+            break;
+        }
+    state.counters["sheets"] = sheets;
+}
+
 // clang-format off
 BENCHMARK_CAPTURE(exportFloor, Claim1,  "many-sheets")->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK_CAPTURE(exportClaim, Claim1,  "many-sheets")->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK_CAPTURE(exportFloor, Claim1A, "many-sheets-1a")->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK_CAPTURE(exportClaim, Claim1A, "many-sheets-1a")->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(exportSchedule)->Arg(500)->Arg(17000)->Unit(benchmark::kMillisecond)->UseRealTime();
 // clang-format on
 
 } // namespace

@@ -1,17 +1,25 @@
-// Opens a claim as any headless program of the house does and prints what the process holds then and what it held at
-// most, in kilobytes: zr3-claim-memory CLAIM
+// Opens a claim as any headless program does and prints what the process holds then and what it held at most, in
+// kilobytes: zr3-claim-memory CLAIM [FOLDER]. With a folder the claim is exported into it, and "exported" is what the
+// process held at most by then.
 
 #include "formdata/clsZR3Form.h"
+#include "wordexport/clsExport.h"
+#include "wordexport/mdExportDriver.h"
 
 #include <QFile>
 
 #include <cstdio>
+#include <cstdlib>
 
 namespace {
 
 /// One value of the system's own account of this process.
-QByteArray statusValue(const QByteArray &account, const char *name)
+QByteArray statusValue(const char *name)
 {
+    QFile file(QStringLiteral("/proc/self/status"));
+    if (!file.open(QIODevice::ReadOnly))
+        std::exit(3);
+    const QByteArray account = file.readAll();
     const qsizetype start = account.indexOf(name) + qsizetype(qstrlen(name));
     return account.mid(start, account.indexOf("kB", start) - start).trimmed();
 }
@@ -20,18 +28,22 @@ QByteArray statusValue(const QByteArray &account, const char *name)
 
 int main(int argc, char **argv)
 {
-    if (argc != 2) {
-        std::fputs("usage: zr3-claim-memory CLAIM\n", stderr);
+    if (argc != 2 && argc != 3) {
+        std::fputs("usage: zr3-claim-memory CLAIM [FOLDER]\n", stderr);
         return 1;
     }
     clsZR3Form form;
     if (!form.LoadXML(QFile::decodeName(argv[1])))
         return 2;
-    QFile file(QStringLiteral("/proc/self/status"));
-    if (!file.open(QIODevice::ReadOnly))
-        return 3;
-    const QByteArray account = file.readAll();
-    std::printf("{\"held\": %s, \"peak\": %s}\n", statusValue(account, "VmRSS:").constData(),
-        statusValue(account, "VmHWM:").constData());
+    std::printf("{\"held\": %s, \"peak\": %s", statusValue("VmRSS:").constData(), statusValue("VmHWM:").constData());
+    if (argc == 3) {
+        form.ExportPath = QFile::decodeName(argv[2]);
+        clsExport run {.form = form, .templatesFolder = QStringLiteral(ZR3_TEMPLATES)};
+        if (!mdExportDriver(form.FormType())(run))
+            return 4;
+        std::printf(", \"exported\": %s, \"sheets\": %d", statusValue("VmHWM:").constData(),
+            int(run.ExportFileCollection.size()));
+    }
+    std::puts("}");
     return 0;
 }

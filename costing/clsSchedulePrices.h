@@ -65,6 +65,7 @@ struct clsSchedulePrice {
     std::array<std::int16_t, Figures> errors {}; ///< by figure: the number of its error, 0 for none
 
     int errorOf(Figure figure) const { return errors[size_t(figure)]; }
+    bool fails() const { return errors != decltype(errors) {}; }
 };
 
 /// Prices each item of a schedule once, for whoever shows all of them and their totals: the figures are those of the

@@ -17,12 +17,15 @@ QString reportLine(const QString &kind, int count)
 
 } // namespace
 
-int mdCountBlankScheduleItems(const clsZR3Form &form)
+int mdCountBlankScheduleItems(const clsBill &bill)
 {
     int count = 0;
-    for (const auto &item : form.ScheduleOfTimeItemsCollection())
-        if (mdExplained(form, *item, [&] { return TimeToMinutes(item->TTime()); }) == 0)
-            ++count;
+    for (const auto &item : bill.form().ScheduleOfTimeItemsCollection()) {
+        const clsSchedulePrice &price = bill.prices().of(*item);
+        if (price.errorOf(clsSchedulePrice::TimeFigure))
+            mdExplained(bill.form(), *item, [&] { TimeToMinutes(price.TTime); });
+        count += price.Minutes == 0;
+    }
     return count;
 }
 
@@ -35,10 +38,10 @@ int mdCountBlankDisbursements(const clsZR3Form &form)
     return count;
 }
 
-QString mdBlankItemsMessage(const clsZR3Form &form)
+QString mdBlankItemsMessage(const clsBill &bill)
 {
-    const QString report = reportLine(QStringLiteral("Schedule of Time Items"), mdCountBlankScheduleItems(form))
-        + reportLine(QStringLiteral("Disbursements"), mdCountBlankDisbursements(form));
+    const QString report = reportLine(QStringLiteral("Schedule of Time Items"), mdCountBlankScheduleItems(bill))
+        + reportLine(QStringLiteral("Disbursements"), mdCountBlankDisbursements(bill.form()));
     return report.isEmpty() ? QStringLiteral("No blank items found") : QStringLiteral("Blank items: \r\n\r\n") + report;
 }
 

@@ -21,29 +21,31 @@ Money VATOf(const clsZR3Form &form, Money amount)
     }
 }
 
-Money ProfitCostsVAT(const clsZR3Form &form)
+Money ProfitCostsVAT(const clsBill &bill)
 {
-    return VATOf(form, ProfitCostsTotal(form));
+    return VATOf(bill.form(), ProfitCostsTotal(bill));
 }
 
-Money NetWithoutCounsel(const clsZR3Form &form)
+Money NetWithoutCounsel(const clsBill &bill)
 {
-    return mdSumOf({ProfitCostsTotal(form), ExpertInvoicesNetTotal(form), NonCounselDisbursementsAmountTotal(form)});
+    const clsZR3Form &form = bill.form();
+    return mdSumOf({ProfitCostsTotal(bill), ExpertInvoicesNetTotal(form), NonCounselDisbursementsAmountTotal(form)});
 }
 
-Money VATWithoutCounsel(const clsZR3Form &form)
+Money VATWithoutCounsel(const clsBill &bill)
 {
-    return mdSumOf({ProfitCostsVAT(form), ExpertInvoicesVATTotal(form), NonCounselDisbursementsVATTotal(form)});
+    const clsZR3Form &form = bill.form();
+    return mdSumOf({ProfitCostsVAT(bill), ExpertInvoicesVATTotal(form), NonCounselDisbursementsVATTotal(form)});
 }
 
-Money NetWithAdvocacyAndCounsel(const clsZR3Form &form)
+Money NetWithAdvocacyAndCounsel(const clsBill &bill)
 {
-    return mdSumOf({NetWithoutCounsel(form), FASItemsTotal(form), CounselFeesAmountTotal(form)});
+    return mdSumOf({NetWithoutCounsel(bill), FASItemsTotal(bill.form()), CounselFeesAmountTotal(bill.form())});
 }
 
-Money VATWithAdvocacyAndCounsel(const clsZR3Form &form)
+Money VATWithAdvocacyAndCounsel(const clsBill &bill)
 {
-    return mdSumOf({VATWithoutCounsel(form), FASVATTotal(form), CounselFeesVATTotal(form)});
+    return mdSumOf({VATWithoutCounsel(bill), FASVATTotal(bill.form()), CounselFeesVATTotal(bill.form())});
 }
 
 Money FixedFee(const clsZR3Form &form)

@@ -1,8 +1,6 @@
 #pragma once
 
-#include "costing/Money.h"
-
-class clsZR3Form;
+#include "costing/clsBill.h"
 
 // The sums of the bill's summary. They are exact additions, with no rounding.
 
@@ -11,18 +9,18 @@ class clsZR3Form;
 Money VATOf(const clsZR3Form &form, Money amount);
 
 /// The VAT of the profit costs.
-Money ProfitCostsVAT(const clsZR3Form &form);
+Money ProfitCostsVAT(const clsBill &bill);
 
 /// Profit costs, experts and other disbursements, net: the whole of Claim 1, where counsel stands apart, and the
 /// subtotal of Claim 1A.
-Money NetWithoutCounsel(const clsZR3Form &form);
+Money NetWithoutCounsel(const clsBill &bill);
 /// The VAT of the same.
-Money VATWithoutCounsel(const clsZR3Form &form);
+Money VATWithoutCounsel(const clsBill &bill);
 
 /// The whole of Claim 1A: the subtotal, the Family Advocacy Scheme and counsel, net.
-Money NetWithAdvocacyAndCounsel(const clsZR3Form &form);
+Money NetWithAdvocacyAndCounsel(const clsBill &bill);
 /// The VAT of the same.
-Money VATWithAdvocacyAndCounsel(const clsZR3Form &form);
+Money VATWithAdvocacyAndCounsel(const clsBill &bill);
 
 /// The fixed fee that would apply; nothing where none is entered.
 Money FixedFee(const clsZR3Form &form);

@@ -9,15 +9,6 @@
 
 namespace {
 
-/// Visits the items of a column that stand on the bill.
-template <class Visit> void forBilledItems(const clsZR3Form &form, int column, Visit visit)
-{
-    clsOnBill isOnBill(form);
-    for (const auto &item : form.ScheduleOfTimeItemsCollection())
-        if (isOnBill(*item) && item->TimeColumn() == column)
-            visit(*item);
-}
-
 void addMinutes(int &total, int minutes)
 {
     if (__builtin_add_overflow(total, minutes, &total))
@@ -31,6 +22,14 @@ template <class OfColumn> Money sumOfColumns(OfColumn ofColumn)
     for (int column = 0; column < clsZR3ScheduleOfTimeItem::Columns; ++column)
         total = total + MoneyFromDouble(TextValue(MoneyToText(ofColumn(column))));
     return RoundMoney2(total);
+}
+
+/// The claim of an item that is priced; where it fails, the item's own error.
+Money claimOf(const clsZR3Form &form, const clsZR3ScheduleOfTimeItem &item, const clsSchedulePrice &price)
+{
+    if (price.errorOf(clsSchedulePrice::ClaimFigure))
+        mdExplained(form, item, [&] { item.Claim(); });
+    return price.Claim;
 }
 
 /// Adds up the figures of all columns in one walk. A column keeps the first error that it meets.
@@ -47,11 +46,7 @@ public:
                 mdExplained(form, item, [&] { TimeToMinutes(price.TTime); });
             addMinutes(m_minutes[column], price.Minutes);
         });
-        attempt(m_totals.claims[column], [&] {
-            if (price.errorOf(Price::ClaimFigure))
-                mdExplained(form, item, [&] { item.Claim(); });
-            m_totals.claims[column].value += price.Claim;
-        });
+        attempt(m_totals.claims[column], [&] { m_totals.claims[column].value += claimOf(form, item, price); });
     }
     /// Where it isn't known whether an item counts, or in which column, no total can go on.
     void failAll(const clsRunTimeError &error)
@@ -61,7 +56,6 @@ public:
         for (auto &claim : m_totals.claims)
             attempt(claim, [&] { throw error; });
     }
-    bool firstColumnFailed() const { return m_totals.claims.front().error.has_value(); }
     const clsColumnTotals &totals()
     {
         for (size_t column = 0; column < m_minutes.size(); ++column) {
@@ -93,65 +87,54 @@ private:
     clsColumnTotals m_totals;
 };
 
-/// The totals of all items, or of those up to where it is enough.
-template <class Enough> clsColumnTotals totalsOf(const clsZR3Form &form, clsSchedulePrices &prices, Enough enough)
+} // namespace
+
+QString ColumnTimeTotal(const clsBill &bill, int column)
+{
+    return bill.columns().times[size_t(column)].get();
+}
+
+Money ColumnClaimTotal(const clsBill &bill, int column)
+{
+    return bill.columns().claims[size_t(column)].get();
+}
+
+Money ScheduleTotal(const clsBill &bill)
+{
+    return bill.columns().schedule.get();
+}
+
+clsColumnTotals AllColumnTotals(const clsZR3Form &form, clsSchedulePrices &prices)
 {
     clsTotalling totalling;
     clsOnBill isOnBill(form);
     try {
-        for (const auto &item : form.ScheduleOfTimeItemsCollection()) {
+        for (const auto &item : form.ScheduleOfTimeItemsCollection())
             if (isOnBill(*item))
                 totalling.add(form, *item, prices.of(*item));
-            if (enough(totalling))
-                break;
-        }
     } catch (const clsRunTimeError &error) {
         totalling.failAll(error);
     }
     return totalling.totals();
 }
 
-} // namespace
-
-QString ColumnTimeTotal(const clsZR3Form &form, int column)
+Money AdvocacyTotal(const clsBill &bill)
 {
-    int minutes = 0;
-    forBilledItems(form, column, [&](const clsZR3ScheduleOfTimeItem &item) {
-        addMinutes(minutes, mdExplained(form, item, [&] { return TimeToMinutes(item.TTime()); }));
-    });
-    return MinutesToTime(minutes);
-}
-
-Money ColumnClaimTotal(const clsZR3Form &form, int column)
-{
-    Money total;
-    forBilledItems(form, column, [&](const clsZR3ScheduleOfTimeItem &item) {
-        total = total + mdExplained(form, item, [&] { return item.Claim(); });
-    });
-    return RoundMoney2(total);
-}
-
-Money ScheduleTotal(const clsZR3Form &form)
-{
-    clsSchedulePrices prices(form);
-    // The error of a sum is that of its first part, so that nothing behind a failure in the first column matters.
-    return totalsOf(form, prices, [](const clsTotalling &totalling) {
-        return totalling.firstColumnFailed();
-    }).schedule.get();
-}
-
-clsColumnTotals AllColumnTotals(const clsZR3Form &form, clsSchedulePrices &prices)
-{
-    return totalsOf(form, prices, [](const clsTotalling &) { return false; });
-}
-
-Money AdvocacyTotal(const clsZR3Form &form)
-{
+    const clsZR3Form &form = bill.form();
     if (form.FormType() != QLatin1String("Claim1") && !form.FASItemsCollection().empty())
         return RoundMoney2(FASItemsTotal(form));
-    Money total;
-    for (const auto &item : form.ScheduleOfTimeItemsCollection())
-        if (item->Advocacy())
-            total = total + mdExplained(form, *item, [&] { return item->Claim(); });
-    return RoundMoney2(total);
+    return RoundMoney2(bill.advocacy().get());
+}
+
+clsFigure<Money> ScheduleAdvocacy(const clsZR3Form &form, clsSchedulePrices &prices)
+{
+    clsFigure<Money> total;
+    try {
+        for (const auto &item : form.ScheduleOfTimeItemsCollection())
+            if (item->Advocacy())
+                total.value += claimOf(form, *item, prices.of(*item));
+    } catch (const clsRunTimeError &error) {
+        total.error = error;
+    }
+    return total;
 }

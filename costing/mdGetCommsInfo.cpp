@@ -167,8 +167,8 @@ Money CommsTotal(const clsZR3Form &form)
     return RoundMoney2(total);
 }
 
-Money ProfitCostsTotal(const clsZR3Form &form)
+Money ProfitCostsTotal(const clsBill &bill)
 {
-    const double schedule = asPrinted(ScheduleTotal(form));
-    return RoundMoney2(MoneyFromDouble(schedule + asPrinted(CommsTotal(form))));
+    const double schedule = asPrinted(ScheduleTotal(bill));
+    return RoundMoney2(MoneyFromDouble(schedule + asPrinted(CommsTotal(bill.form()))));
 }

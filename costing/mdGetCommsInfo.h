@@ -1,6 +1,6 @@
 #pragma once
 
-#include "costing/Money.h"
+#include "costing/clsBill.h"
 
 #include <QString>
 
@@ -36,4 +36,4 @@ Money CommsClaimAtLine(const clsZR3Form &form, int line, clsCommsKind kind);
 /// The claims of all lines, to the penny.
 Money CommsTotal(const clsZR3Form &form);
 /// Schedule of time plus communications, to the penny.
-Money ProfitCostsTotal(const clsZR3Form &form);
+Money ProfitCostsTotal(const clsBill &bill);

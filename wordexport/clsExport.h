@@ -1,5 +1,6 @@
 #pragma once
 
+#include "costing/clsBill.h"
 #include "formdata/clsZR3Form.h"
 #include "wordexport/clsPlainText.h"
 #include "wordexport/clsZipPackage.h"
@@ -61,6 +62,9 @@ struct clsExport {
     /// The number of the latest sheet of the page in hand. Each page sets it but counsel's fees, which goes on from the
     /// page before it, as it stands.
     int ExportSheetCounter = 0;
+
+    /// The claim's figures, as they stand while it is exported.
+    clsBill bill {form};
 
     /// The templates read so far, by their file names, and the files written so far, by their paths.
     QHash<QString, clsTemplate> templates {};

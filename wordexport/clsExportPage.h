@@ -1,5 +1,6 @@
 #pragma once
 
+#include "costing/clsBill.h"
 #include "formdata/clsZR3Form.h"
 
 #include <QString>
@@ -27,7 +28,7 @@ struct clsOverRun {
 /// A placeholder of a page and what replaces it.
 struct clsPlaceholderRow {
     const char *placeholder;
-    QString (*source)(const clsZR3Form &form);
+    QString (*source)(const clsBill &bill);
     clsFillClass fill = clsFillClass::Text;
     const clsOverRun *overRun = nullptr;
 };

@@ -82,7 +82,7 @@ void mdReplaceRows(clsExport &run, clsMSWord &word, std::span<const clsPlacehold
 {
     for (const clsPlaceholderRow &row : rows) {
         const QString placeholder = QString::fromLatin1(row.placeholder);
-        const QString text = row.source(run.form);
+        const QString text = row.source(run.bill);
         if (row.overRun)
             mdExportWordGenerateOverRuns(run, text, *row.overRun, word, placeholder, pageNumber);
         else

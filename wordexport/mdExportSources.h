@@ -5,7 +5,7 @@
 #include "wordexport/clsExportPage.h"
 
 // Short ways of writing the rows of a page's table: a placeholder, the property that it shows, and by the word the
-// class in which it is typed. `form` is the claim.
+// class in which it is typed. `form` is the claim, and `bill` its bill, for whatever adds up the schedule.
 
 /// A boolean as the text that a tick box is typed from.
 inline QString mdTickText(bool ticked)
@@ -30,21 +30,28 @@ template <auto ByOrderID> auto mdItemAt(const clsZR3Form &form, int i)
 
 // clang-format off
 #define ZR3_TEXT(placeholder, member)                                                                                  \
-    clsPlaceholderRow { placeholder, [](const clsZR3Form &form) { return form.member(); }, clsFillClass::Text }
+    clsPlaceholderRow { placeholder, [](const clsBill &bill) { return bill.form().member(); }, clsFillClass::Text }
 #define ZR3_TICK(placeholder, member)                                                                                  \
-    clsPlaceholderRow { placeholder, [](const clsZR3Form &form) { return mdTickText(form.member()); },                 \
+    clsPlaceholderRow { placeholder, [](const clsBill &bill) { return mdTickText(bill.form().member()); },             \
         clsFillClass::TickBox }
 #define ZR3_MONEY(placeholder, member)                                                                                 \
-    clsPlaceholderRow { placeholder, [](const clsZR3Form &form) { return form.member(); }, clsFillClass::Money }
+    clsPlaceholderRow { placeholder, [](const clsBill &bill) { return bill.form().member(); }, clsFillClass::Money }
 /// A text that goes to continuation sheets when its box can't hold it.
 #define ZR3_LONG(placeholder, member, overRun)                                                                         \
-    clsPlaceholderRow { placeholder, [](const clsZR3Form &form) { return form.member(); }, clsFillClass::Text, &overRun }
+    clsPlaceholderRow { placeholder, [](const clsBill &bill) { return bill.form().member(); }, clsFillClass::Text, &overRun }
+#define ZR3_WORKED_OUT(placeholder, expression, fill)                                                                  \
+    clsPlaceholderRow { placeholder,                                                                                   \
+        [](const clsBill &bill) {                                                                                      \
+            [[maybe_unused]] const clsZR3Form &form = bill.form();                                                     \
+            return expression;                                                                                         \
+        },                                                                                                             \
+        fill }
 /// A text that is worked out.
 #define ZR3_WORDS(placeholder, expression)                                                                             \
-    clsPlaceholderRow { placeholder, [](const clsZR3Form &form) { return QString(expression); }, clsFillClass::Text }
+    ZR3_WORKED_OUT(placeholder, QString(expression), clsFillClass::Text)
 /// An amount that is worked out.
 #define ZR3_FIGURE(placeholder, expression)                                                                            \
-    clsPlaceholderRow { placeholder, [](const clsZR3Form &form) { return MoneyToText(expression); }, clsFillClass::Money }
+    ZR3_WORKED_OUT(placeholder, MoneyToText(expression), clsFillClass::Money)
 /// A cell of a grid: what item `i` of the list shows.
 #define ZR3_CELL(expression, fill)                                                                                     \
     clsPrintedCell { []([[maybe_unused]] const clsZR3Form &form, [[maybe_unused]] int i) { return QString(expression); }, \

@@ -146,15 +146,15 @@ const clsGridPage Page7 = {7, "Claim1 P7", Page7Grids, Page7Rows};
 // Page 8: letters and calls, and the summary
 
 const clsPlaceholderRow SummaryRows[] = {
-    ZR3_FIGURE("{npc}", ProfitCostsTotal(form)),
+    ZR3_FIGURE("{npc}", ProfitCostsTotal(bill)),
     ZR3_FIGURE("{nex}", ExpertInvoicesNetTotal(form)),
     ZR3_FIGURE("{ndibs}", NonCounselDisbursementsAmountTotal(form)),
-    ZR3_FIGURE("{ntotal}", NetWithoutCounsel(form)),
-    ZR3_FIGURE("{vpc}", ProfitCostsVAT(form)),
+    ZR3_FIGURE("{ntotal}", NetWithoutCounsel(bill)),
+    ZR3_FIGURE("{vpc}", ProfitCostsVAT(bill)),
     ZR3_FIGURE("{vex}", ExpertInvoicesVATTotal(form)),
     ZR3_FIGURE("{vdibs}", NonCounselDisbursementsVATTotal(form)),
-    ZR3_FIGURE("{vtotal}", VATWithoutCounsel(form)),
-    ZR3_FIGURE("{grandtotal}", mdSumOf({NetWithoutCounsel(form), VATWithoutCounsel(form)})),
+    ZR3_FIGURE("{vtotal}", VATWithoutCounsel(bill)),
+    ZR3_FIGURE("{grandtotal}", mdSumOf({NetWithoutCounsel(bill), VATWithoutCounsel(bill)})),
     ZR3_WORDS("{counsel}", QString::number(form.CounselCollection().size())),
     ZR3_FIGURE("{ncf}", CounselFeesAmountTotal(form)),
     ZR3_FIGURE("{vcf}", CounselFeesVATTotal(form)),

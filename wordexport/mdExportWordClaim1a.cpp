@@ -126,8 +126,8 @@ const clsPlaceholderRow Page4Rows[] = {
     ZR3_FIGURE("{dibsvat}", NonCounselDisbursementsVATTotal(form)),
     ZR3_FIGURE("{total}", FixedFeeNetTotal(form)),
     ZR3_FIGURE("{totalvat}", FixedFeeVATTotal(form)),
-    ZR3_FIGURE("{adv}", AdvocacyTotal(form)),
-    ZR3_FIGURE("{advvat}", VATOf(form, AdvocacyTotal(form))),
+    ZR3_FIGURE("{adv}", AdvocacyTotal(bill)),
+    ZR3_FIGURE("{advvat}", VATOf(form, AdvocacyTotal(bill))),
     ZR3_FIGURE("{csl}", CounselDisbursementsAmountTotal(form)),
     ZR3_FIGURE("{cslvat}", CounselDisbursementsVATTotal(form)),
 };
@@ -268,20 +268,20 @@ const clsAdditionalInformation Page11AdditionalInformation
     = {11, "Claim1A P11", "Claim1A P11 Additional Info Cont", 25, 2};
 
 const clsPlaceholderRow SummaryRows[] = {
-    ZR3_FIGURE("{npc}", ProfitCostsTotal(form)),
+    ZR3_FIGURE("{npc}", ProfitCostsTotal(bill)),
     ZR3_FIGURE("{nex}", ExpertInvoicesNetTotal(form)),
     ZR3_FIGURE("{ndibs}", NonCounselDisbursementsAmountTotal(form)),
-    ZR3_FIGURE("{nsubtotal}", NetWithoutCounsel(form)),
+    ZR3_FIGURE("{nsubtotal}", NetWithoutCounsel(bill)),
     ZR3_FIGURE("{nfas}", FASItemsTotal(form)),
     ZR3_FIGURE("{ncsl}", CounselFeesAmountTotal(form)),
-    ZR3_FIGURE("{ntotal}", NetWithAdvocacyAndCounsel(form)),
-    ZR3_FIGURE("{vpc}", ProfitCostsVAT(form)),
+    ZR3_FIGURE("{ntotal}", NetWithAdvocacyAndCounsel(bill)),
+    ZR3_FIGURE("{vpc}", ProfitCostsVAT(bill)),
     ZR3_FIGURE("{vex}", ExpertInvoicesVATTotal(form)),
     ZR3_FIGURE("{vdibs}", NonCounselDisbursementsVATTotal(form)),
-    ZR3_FIGURE("{vsubtotal}", VATWithoutCounsel(form)),
+    ZR3_FIGURE("{vsubtotal}", VATWithoutCounsel(bill)),
     ZR3_FIGURE("{vfas}", FASVATTotal(form)),
     ZR3_FIGURE("{vcsl}", CounselFeesVATTotal(form)),
-    ZR3_FIGURE("{vtotal}", VATWithAdvocacyAndCounsel(form)),
+    ZR3_FIGURE("{vtotal}", VATWithAdvocacyAndCounsel(bill)),
 };
 
 void mdExportWordClaim1aPage11(clsExport &run)

@@ -55,6 +55,7 @@ bool mdExportWordForm(clsExport &run, const clsExportForm &form)
         return false;
     run.ExportFileCollection.clear();
     run.ExportSheetCounter = 0;
+    run.bill.forget();
     try {
         exportSheets(run, form);
         mdExportWordCombineDocuments(run);

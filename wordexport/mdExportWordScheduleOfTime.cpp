@@ -3,6 +3,7 @@
 #include "costing/mdDateText.h"
 #include "costing/mdFigureFaults.h"
 #include "costing/mdGetColumnTotals.h"
+#include "formdata/clsXMLReading.h"
 #include "shell/mdSetProgress.h"
 #include "wordexport/clsExport.h"
 #include "wordexport/mdExportCopyTemplate.h"
@@ -15,21 +16,21 @@ namespace {
 constexpr int RowsOnSheet = 33;
 constexpr int LinesAboveGrid = 5;
 
-using Form = clsZR3Form;
+using Item = clsZR3ScheduleOfTimeItem;
 using Fill = clsFillClass;
 
 const clsPlaceholderRow Totals[] = {
-    {"{actm}", [](const Form &form) { return ColumnTimeTotal(form, 0); }, Fill::Text},
-    {"{dtm}", [](const Form &form) { return ColumnTimeTotal(form, 1); }, Fill::Text},
-    {"{htm}", [](const Form &form) { return ColumnTimeTotal(form, 2); }, Fill::Text},
-    {"{ttm}", [](const Form &form) { return ColumnTimeTotal(form, 3); }, Fill::Text},
-    {"{wtm}", [](const Form &form) { return ColumnTimeTotal(form, 4); }, Fill::Text},
-    {"{actl}", [](const Form &form) { return MoneyToText(ColumnClaimTotal(form, 0)); }, Fill::Money},
-    {"{dtl}", [](const Form &form) { return MoneyToText(ColumnClaimTotal(form, 1)); }, Fill::Money},
-    {"{htl}", [](const Form &form) { return MoneyToText(ColumnClaimTotal(form, 2)); }, Fill::Money},
-    {"{ttl}", [](const Form &form) { return MoneyToText(ColumnClaimTotal(form, 3)); }, Fill::Money},
-    {"{wtl}", [](const Form &form) { return MoneyToText(ColumnClaimTotal(form, 4)); }, Fill::Money},
-    {"{total}", [](const Form &form) { return MoneyToText(ScheduleTotal(form)); }, Fill::Money},
+    {"{actm}", [](const clsBill &bill) { return ColumnTimeTotal(bill, 0); }, Fill::Text},
+    {"{dtm}", [](const clsBill &bill) { return ColumnTimeTotal(bill, 1); }, Fill::Text},
+    {"{htm}", [](const clsBill &bill) { return ColumnTimeTotal(bill, 2); }, Fill::Text},
+    {"{ttm}", [](const clsBill &bill) { return ColumnTimeTotal(bill, 3); }, Fill::Text},
+    {"{wtm}", [](const clsBill &bill) { return ColumnTimeTotal(bill, 4); }, Fill::Text},
+    {"{actl}", [](const clsBill &bill) { return MoneyToText(ColumnClaimTotal(bill, 0)); }, Fill::Money},
+    {"{dtl}", [](const clsBill &bill) { return MoneyToText(ColumnClaimTotal(bill, 1)); }, Fill::Money},
+    {"{htl}", [](const clsBill &bill) { return MoneyToText(ColumnClaimTotal(bill, 2)); }, Fill::Money},
+    {"{ttl}", [](const clsBill &bill) { return MoneyToText(ColumnClaimTotal(bill, 3)); }, Fill::Money},
+    {"{wtl}", [](const clsBill &bill) { return MoneyToText(ColumnClaimTotal(bill, 4)); }, Fill::Money},
+    {"{total}", [](const clsBill &bill) { return MoneyToText(ScheduleTotal(bill)); }, Fill::Money},
 };
 
 /// Types a cell and moves to the cell `cellsOn` to the right.
@@ -39,19 +40,32 @@ void typeAndMove(clsMSWord &word, const QString &text, Fill fill, int cellsOn)
     word.MoveCursorRight(cellsOn);
 }
 
-void typeRow(clsMSWord &word, const clsZR3ScheduleOfTimeItem &item)
+/// Raises what keeps an item from being printed, in the order of its cells.
+void raiseErrorOf(const Item &item)
 {
-    const int column = item.TimeColumn();
+    item.TimeColumn();
+    item.FeeEarnerInitials();
+    item.Rate();
+    item.BasicClaim();
+    item.TotalEnhancementPercentage();
+    item.Claim();
+}
+
+void typeRow(clsMSWord &word, const Item &item, const clsSchedulePrice &price)
+{
+    if (price.fails())
+        raiseErrorOf(item);
+    const clsXMLReading reading(item);
     typeAndMove(word, QString::number(item.SOTItemNumber), Fill::Text, 1);
-    typeAndMove(word, item.FeeEarnerInitials(), Fill::Text, 1);
+    typeAndMove(word, price.FeeEarnerInitials, Fill::Text, 1);
     // In this column only; elsewhere no date prints as it stands.
     typeAndMove(word, item.dDate() == NoDate ? QString() : item.dDate(), Fill::Text, 1);
-    typeAndMove(word, item.Code(), Fill::Text, column + 1);
-    typeAndMove(word, item.TTime(), Fill::Text, clsZR3ScheduleOfTimeItem::Columns - column);
-    typeAndMove(word, MoneyToText(item.Rate()), Fill::Money, 1);
-    typeAndMove(word, MoneyToText(item.BasicClaim()), Fill::Money, 1);
-    typeAndMove(word, MoneyToText(item.TotalEnhancementPercentage()), Fill::Text, 1);
-    mdTypeCell(word, MoneyToText(item.Claim()), Fill::Money);
+    typeAndMove(word, item.Code(), Fill::Text, price.TimeColumn + 1);
+    typeAndMove(word, price.TTime, Fill::Text, Item::Columns - price.TimeColumn);
+    typeAndMove(word, MoneyToText(price.Rate), Fill::Money, 1);
+    typeAndMove(word, MoneyToText(price.BasicClaim), Fill::Money, 1);
+    typeAndMove(word, MoneyToText(price.TotalEnhancementPercentage), Fill::Text, 1);
+    mdTypeCell(word, MoneyToText(price.Claim), Fill::Money);
 }
 
 void replaceTotals(clsExport &run, clsMSWord &word, bool lastSheet, int pageNumber)
@@ -81,8 +95,8 @@ void exportSheet(clsExport &run, const QString &pageTemplate, int pageNumber, in
     word.MoveCursorDown(LinesAboveGrid);
     for (int row = start; row <= last; ++row) {
         mdSetProgress(row, count, QStringLiteral("Exporting Page %1").arg(pageNumber));
-        const clsZR3ScheduleOfTimeItem &item = *run.form.ScheduleOfTimeItemsForExportCollection()[size_t(row - 1)];
-        mdExplained(run.form, item, [&] { typeRow(word, item); });
+        const Item &item = *run.form.ScheduleOfTimeItemsForExportCollection()[size_t(row - 1)];
+        mdExplained(run.form, item, [&] { typeRow(word, item, run.bill.prices().of(item)); });
         if (row < last)
             word.MoveSursorToNextLine();
     }

@@ -3,6 +3,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <algorithm>
+
 namespace {
 
 /// The library escapes the control characters below the blank; a terminal obeys those from 7F to 9F too.
@@ -13,24 +15,42 @@ QByteArray withControlsEscaped(QByteArray json)
     return json;
 }
 
-} // namespace
-
-QByteArray clsJsonWriter::quoted(const QString &text)
+/// The library's own quoting of an array with one text, without its brackets.
+QByteArray quoted(const QString &text)
 {
-    // The library's own quoting of an array with one text, without its brackets.
-    const QByteArray text8 = QJsonDocument(QJsonArray {text}).toJson(QJsonDocument::Compact).mid(1).chopped(1);
-    return withControlsEscaped(text8);
+    return withControlsEscaped(QJsonDocument(QJsonArray {text}).toJson(QJsonDocument::Compact).mid(1).chopped(1));
 }
 
-void clsJsonWriter::raw(const char *key, const QByteArray &value)
+bool standsAsItIs(QChar c)
+{
+    return c >= u' ' && c < u'\x7f' && c != u'"' && c != u'\\';
+}
+
+} // namespace
+
+void clsJsonWriter::text(const char *key, const QString &value)
+{
+    begin(key);
+    if (std::all_of(value.begin(), value.end(), standsAsItIs)) {
+        m_bytes += '"';
+        m_bytes += value.toLatin1();
+        m_bytes += '"';
+    } else {
+        m_bytes += quoted(value);
+    }
+}
+
+void clsJsonWriter::begin(const char *key)
 {
     if (!m_first)
         m_bytes += ',';
     m_first = false;
     newLine();
-    if (key)
-        m_bytes += quoted(QString::fromLatin1(key)) + ": ";
-    m_bytes += value;
+    if (!key)
+        return;
+    m_bytes += '"';
+    m_bytes += key;
+    m_bytes += "\": ";
 }
 
 void clsJsonWriter::open(const char *key, char bracket)
@@ -38,7 +58,7 @@ void clsJsonWriter::open(const char *key, char bracket)
     if (m_bytes.isEmpty())
         m_bytes += bracket;
     else
-        raw(key, QByteArray(1, bracket));
+        raw(key, QByteArrayView(&bracket, 1));
     ++m_depth;
     m_first = true;
 }

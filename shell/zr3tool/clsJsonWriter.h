@@ -3,7 +3,8 @@
 #include <QByteArray>
 #include <QString>
 
-/// Writes JSON in the order in which it is told, which the library's own objects, sorted by key, can't keep.
+/// Writes JSON in the order in which it is told, which the library's own objects, sorted by key, can't keep. Keys are
+/// plain words.
 class clsJsonWriter {
 public:
     void beginObject(const char *key = nullptr) { open(key, '{'); }
@@ -11,15 +12,19 @@ public:
     void beginArray(const char *key = nullptr) { open(key, '['); }
     void endArray() { close(']'); }
 
-    void text(const char *key, const QString &value) { raw(key, quoted(value)); }
+    void text(const char *key, const QString &value);
     void number(const char *key, int value) { raw(key, QByteArray::number(value)); }
     void boolean(const char *key, bool value) { raw(key, value ? "true" : "false"); }
 
     const QByteArray &bytes() const { return m_bytes; }
 
 private:
-    static QByteArray quoted(const QString &text);
-    void raw(const char *key, const QByteArray &value);
+    void begin(const char *key);
+    void raw(const char *key, QByteArrayView value)
+    {
+        begin(key);
+        m_bytes += value;
+    }
     void open(const char *key, char bracket);
     void close(char bracket);
     void newLine();

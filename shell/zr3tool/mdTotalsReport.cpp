@@ -1,6 +1,6 @@
 #include "shell/zr3tool/mdTotalsReport.h"
 
-#include "costing/clsSchedulePrices.h"
+#include "costing/clsBill.h"
 #include "costing/mdCheckForBlankItems.h"
 #include "costing/mdFigureFaults.h"
 #include "costing/mdGetBillSummary.h"
@@ -10,7 +10,7 @@
 #include "costing/mdGetDisbursementsTotals.h"
 #include "costing/mdGetFASTotals.h"
 #include "costing/mdSumOf.h"
-#include "formdata/clsZR3Form.h"
+#include "formdata/clsOnBill.h"
 #include "shell/clsRunTimeError.h"
 #include "shell/mdExisting.h"
 #include "shell/zr3tool/clsJsonWriter.h"
@@ -23,68 +23,74 @@ using Form = clsZR3Form;
 
 struct FigureRow {
     const char *key;
-    Money (*figure)(const Form &form);
+    Money (*figure)(const clsBill &bill);
 };
 
-Money loadFromBillNet(const Form &form)
+/// A figure that needs nothing of the schedule's, such as `of<CommsTotal>`.
+template <Money (*Figure)(const Form &)> Money of(const clsBill &bill)
 {
-    const Money profitCosts = ProfitCostsTotal(form);
-    return profitCosts - AdvocacyTotal(form);
+    return Figure(bill.form());
+}
+
+Money loadFromBillNet(const clsBill &bill)
+{
+    const Money profitCosts = ProfitCostsTotal(bill);
+    return profitCosts - AdvocacyTotal(bill);
 }
 
 const FigureRow Totals[] = {
     {"ScheduleTotal", ScheduleTotal},
     {"AdvocacyTotal", AdvocacyTotal},
-    {"CounselDisbursementsAmountTotal", CounselDisbursementsAmountTotal},
-    {"CounselDisbursementsVATTotal", CounselDisbursementsVATTotal},
-    {"NonCounselDisbursementsAmountTotal", NonCounselDisbursementsAmountTotal},
-    {"NonCounselDisbursementsVATTotal", NonCounselDisbursementsVATTotal},
-    {"ExpertInvoicesNetTotal", ExpertInvoicesNetTotal},
-    {"ExpertInvoicesVATTotal", ExpertInvoicesVATTotal},
-    {"CounselFeesAmountTotal", CounselFeesAmountTotal},
-    {"CounselFeesVATTotal", CounselFeesVATTotal},
-    {"CounselFeesTotal", CounselFeesTotal},
-    {"FASItemsTotal", FASItemsTotal},
-    {"FASVATTotal", FASVATTotal},
-    {"CommsTotal", CommsTotal},
+    {"CounselDisbursementsAmountTotal", of<CounselDisbursementsAmountTotal>},
+    {"CounselDisbursementsVATTotal", of<CounselDisbursementsVATTotal>},
+    {"NonCounselDisbursementsAmountTotal", of<NonCounselDisbursementsAmountTotal>},
+    {"NonCounselDisbursementsVATTotal", of<NonCounselDisbursementsVATTotal>},
+    {"ExpertInvoicesNetTotal", of<ExpertInvoicesNetTotal>},
+    {"ExpertInvoicesVATTotal", of<ExpertInvoicesVATTotal>},
+    {"CounselFeesAmountTotal", of<CounselFeesAmountTotal>},
+    {"CounselFeesVATTotal", of<CounselFeesVATTotal>},
+    {"CounselFeesTotal", of<CounselFeesTotal>},
+    {"FASItemsTotal", of<FASItemsTotal>},
+    {"FASVATTotal", of<FASVATTotal>},
+    {"CommsTotal", of<CommsTotal>},
     {"ProfitCostsTotal", ProfitCostsTotal},
     {"ProfitCostsVAT", ProfitCostsVAT},
-    {"AdvocacyVAT", [](const Form &form) { return VATOf(form, AdvocacyTotal(form)); }},
+    {"AdvocacyVAT", [](const clsBill &bill) { return VATOf(bill.form(), AdvocacyTotal(bill)); }},
     {"LoadFromBillNet", loadFromBillNet},
-    {"LoadFromBillVAT", [](const Form &form) { return VATOf(form, loadFromBillNet(form)); }},
+    {"LoadFromBillVAT", [](const clsBill &bill) { return VATOf(bill.form(), loadFromBillNet(bill)); }},
 };
 
 const FigureRow Claim1Summary[] = {
     {"npc", ProfitCostsTotal},
-    {"nex", ExpertInvoicesNetTotal},
-    {"ndibs", NonCounselDisbursementsAmountTotal},
+    {"nex", of<ExpertInvoicesNetTotal>},
+    {"ndibs", of<NonCounselDisbursementsAmountTotal>},
     {"vpc", ProfitCostsVAT},
-    {"vex", ExpertInvoicesVATTotal},
-    {"vdibs", NonCounselDisbursementsVATTotal},
+    {"vex", of<ExpertInvoicesVATTotal>},
+    {"vdibs", of<NonCounselDisbursementsVATTotal>},
     {"ntotal", NetWithoutCounsel},
     {"vtotal", VATWithoutCounsel},
     {"grandtotal",
-        [](const Form &form) {
-            return mdSumOf({NetWithoutCounsel(form), VATWithoutCounsel(form)});
+        [](const clsBill &bill) {
+            return mdSumOf({NetWithoutCounsel(bill), VATWithoutCounsel(bill)});
         }},
-    {"ncf", CounselFeesAmountTotal},
-    {"vcf", CounselFeesVATTotal},
-    {"cftotal", CounselFeesTotal},
+    {"ncf", of<CounselFeesAmountTotal>},
+    {"vcf", of<CounselFeesVATTotal>},
+    {"cftotal", of<CounselFeesTotal>},
 };
 
 const FigureRow Claim1ASummary[] = {
     {"npc", ProfitCostsTotal},
-    {"nex", ExpertInvoicesNetTotal},
-    {"ndibs", NonCounselDisbursementsAmountTotal},
+    {"nex", of<ExpertInvoicesNetTotal>},
+    {"ndibs", of<NonCounselDisbursementsAmountTotal>},
     {"vpc", ProfitCostsVAT},
-    {"vex", ExpertInvoicesVATTotal},
-    {"vdibs", NonCounselDisbursementsVATTotal},
+    {"vex", of<ExpertInvoicesVATTotal>},
+    {"vdibs", of<NonCounselDisbursementsVATTotal>},
     {"nsubtotal", NetWithoutCounsel},
     {"vsubtotal", VATWithoutCounsel},
-    {"nfas", FASItemsTotal},
-    {"vfas", FASVATTotal},
-    {"ncsl", CounselFeesAmountTotal},
-    {"vcsl", CounselFeesVATTotal},
+    {"nfas", of<FASItemsTotal>},
+    {"vfas", of<FASVATTotal>},
+    {"ncsl", of<CounselFeesAmountTotal>},
+    {"vcsl", of<CounselFeesVATTotal>},
     {"ntotal", NetWithAdvocacyAndCounsel},
     {"vtotal", VATWithAdvocacyAndCounsel},
 };
@@ -94,6 +100,7 @@ class Report {
 public:
     explicit Report(const Form &form)
         : m_form(form)
+        , m_bill(form)
     { }
 
     clsTotalsReport write();
@@ -145,7 +152,7 @@ private:
 
     void figures(std::span<const FigureRow> rows);
     void scheduleItems();
-    void scheduleItem(const clsZR3ScheduleOfTimeItem &item, const clsSchedulePrice &price);
+    void scheduleItem(const clsZR3ScheduleOfTimeItem &item, const clsSchedulePrice &price, clsOnBill &isOnBill);
     void fasItems();
     void communications();
     void communicationLine(int line, clsCommsKind kind);
@@ -156,6 +163,7 @@ private:
     static constexpr qsizetype MostCauses = 20;
 
     const Form &m_form;
+    const clsBill m_bill;
     clsJsonWriter m_json;
     qsizetype m_failures = 0;
     QStringList m_causes;
@@ -186,21 +194,21 @@ clsTotalsReport Report::write()
 void Report::figures(std::span<const FigureRow> rows)
 {
     for (const FigureRow &row : rows)
-        figure(row.key, [&] { return row.figure(m_form); });
+        figure(row.key, [&] { return row.figure(m_bill); });
 }
 
 void Report::scheduleItems()
 {
-    clsSchedulePrices prices(m_form);
+    clsOnBill isOnBill(m_form);
     m_json.beginArray("ScheduleItems");
     for (int n = 1; n <= int(m_form.ScheduleOfTimeItemsCollection().size()); ++n) {
         const clsZR3ScheduleOfTimeItem &item = mdExisting(m_form.ScheduleOfTimeItemByOrderID(n));
-        scheduleItem(item, prices.of(item));
+        scheduleItem(item, m_bill.prices().of(item), isOnBill);
     }
     m_json.endArray();
 }
 
-void Report::scheduleItem(const clsZR3ScheduleOfTimeItem &item, const clsSchedulePrice &price)
+void Report::scheduleItem(const clsZR3ScheduleOfTimeItem &item, const clsSchedulePrice &price, clsOnBill &isOnBill)
 {
     using Price = clsSchedulePrice;
     const auto amount = [&](const char *key, Price::Figure figure, Money value) {
@@ -211,7 +219,7 @@ void Report::scheduleItem(const clsZR3ScheduleOfTimeItem &item, const clsSchedul
     };
     const auto write = [&] {
         m_json.number("OrderID", item.OrderID());
-        guarded("InExport", [&] { m_json.boolean("InExport", m_form.IsOnBill(item)); });
+        guarded("InExport", [&] { m_json.boolean("InExport", isOnBill(item)); });
         m_json.number("SOTItemNumber", item.SOTItemNumber);
         if (const int error = price.errorOf(Price::ColumnFigure))
             failure("TimeColumn", error);
@@ -266,11 +274,11 @@ void Report::columns()
 {
     m_json.beginArray("ColumnTimeTotal");
     for (int column = 0; column < clsZR3ScheduleOfTimeItem::Columns; ++column)
-        text(nullptr, [&] { return ColumnTimeTotal(m_form, column); });
+        text(nullptr, [&] { return ColumnTimeTotal(m_bill, column); });
     m_json.endArray();
     m_json.beginArray("ColumnClaimTotal");
     for (int column = 0; column < clsZR3ScheduleOfTimeItem::Columns; ++column)
-        figure(nullptr, [&] { return ColumnClaimTotal(m_form, column); });
+        figure(nullptr, [&] { return ColumnClaimTotal(m_bill, column); });
     m_json.endArray();
 }
 
@@ -290,9 +298,9 @@ void Report::counselAtLine()
 void Report::blankItems()
 {
     m_json.beginObject("BlankItems");
-    number("ScheduleItems", [&] { return mdCountBlankScheduleItems(m_form); });
+    number("ScheduleItems", [&] { return mdCountBlankScheduleItems(m_bill); });
     number("Disbursements", [&] { return mdCountBlankDisbursements(m_form); });
-    text("Message", [&] { return mdBlankItemsMessage(m_form); });
+    text("Message", [&] { return mdBlankItemsMessage(m_bill); });
     m_json.endObject();
 }
 

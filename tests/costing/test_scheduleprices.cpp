@@ -10,6 +10,76 @@ namespace {
 
 using Error = clsRunTimeError;
 
+/// The totals as they are worked out from the items one by one.
+struct clsSlowTotals {
+    explicit clsSlowTotals(const clsZR3Form &claim)
+        : form(claim)
+    { }
+
+    template <class Visit> void forItemsOf(int column, Visit visit) const
+    {
+        for (const auto &item : form.ScheduleOfTimeItemsCollection())
+            if (form.IsOnBill(*item) && item->TimeColumn() == column)
+                visit(*item);
+    }
+    QString time(int column) const
+    {
+        int minutes = 0;
+        forItemsOf(column, [&](const clsZR3ScheduleOfTimeItem &item) { minutes += TimeToMinutes(item.TTime()); });
+        return MinutesToTime(minutes);
+    }
+    Money claims(int column) const
+    {
+        Money total;
+        forItemsOf(column, [&](const clsZR3ScheduleOfTimeItem &item) { total += item.Claim(); });
+        return RoundMoney2(total);
+    }
+    Money schedule() const
+    {
+        Money total;
+        for (int column = 0; column < clsZR3ScheduleOfTimeItem::Columns; ++column)
+            total += claims(column);
+        return total;
+    }
+    Money advocacy() const
+    {
+        Money total;
+        for (const auto &item : form.ScheduleOfTimeItemsCollection())
+            if (item->Advocacy())
+                total += item->Claim();
+        return RoundMoney2(total);
+    }
+
+    const clsZR3Form &form;
+};
+
+/// Each total, asked of the claim and of a bill that is asked for all of them, is or fails as that of the items.
+void expectSameTotals(const clsZR3Form &form)
+{
+    const clsSlowTotals slow(form);
+    const clsBill bill(form);
+    const auto expectSame = [](auto expected, auto ofClaim, auto ofBill) {
+        const int error = errorOf([&] { expected(); });
+        EXPECT_EQ(error, errorOf([&] { ofClaim(); }));
+        EXPECT_EQ(error, errorOf([&] { ofBill(); }));
+        EXPECT_EQ(error, errorOf([&] { ofBill(); })); // again
+        if (error == 0) {
+            EXPECT_EQ(expected(), ofClaim());
+            EXPECT_EQ(expected(), ofBill());
+        }
+    };
+    for (int column = 0; column < clsZR3ScheduleOfTimeItem::Columns; ++column) {
+        expectSame([&] { return slow.time(column); }, [&] { return ColumnTimeTotal(form, column); },
+            [&] { return ColumnTimeTotal(bill, column); });
+        expectSame([&] { return slow.claims(column); }, [&] { return ColumnClaimTotal(form, column); },
+            [&] { return ColumnClaimTotal(bill, column); });
+    }
+    expectSame(
+        [&] { return slow.schedule(); }, [&] { return ScheduleTotal(form); }, [&] { return ScheduleTotal(bill); });
+    expectSame([&] { return slow.advocacy(); }, [&] { return bill.advocacy().get(); },
+        [&] { return RoundMoney2(bill.advocacy().get()); });
+}
+
 void expectSame(const clsZR3Form &form)
 {
     clsSchedulePrices prices(form);
@@ -24,12 +94,7 @@ void expectSame(const clsZR3Form &form)
             EXPECT_EQ(item->TotalEnhancementPercentage(), price.TotalEnhancementPercentage);
             EXPECT_EQ(item->Claim(), price.Claim);
         }
-    const clsColumnTotals totals = AllColumnTotals(form, prices);
-    for (int column = 0; column < clsZR3ScheduleOfTimeItem::Columns; ++column) {
-        EXPECT_EQ(ColumnTimeTotal(form, column), totals.times[size_t(column)].get());
-        EXPECT_EQ(ColumnClaimTotal(form, column), totals.claims[size_t(column)].get());
-    }
-    EXPECT_EQ(ScheduleTotal(form), totals.schedule.get());
+    expectSameTotals(form);
 }
 
 /// The errors of an item's claim, of its price, and of the totals.
@@ -203,4 +268,54 @@ TEST(SchedulePrices, OfAnItemThatIsNoLongerInTheClaim)
     EXPECT_EQ("40"_q, textOf(prices.of(*gone).Claim));
     EXPECT_EQ("120"_q, textOf(prices.of(*claim.form.ScheduleOfTimeItem(1)).Claim));
     EXPECT_EQ("120"_q, textOf(AllColumnTotals(claim.form, prices).schedule.get()));
+}
+
+TEST(Bill, FailsWhereTheItemsFailAndNowhereElse)
+{
+    // Each of three items, of three columns, fails in every way, in each order of the items.
+    clsTestClaim claim;
+    const auto group = claim.addGroup();
+    const auto broken = claim.addGroup("none");
+    const auto feeEarner = claim.addFeeEarner(group);
+    const auto unpriced = claim.addFeeEarner(broken);
+    const auto item = [&](int n) { return claim.form.ScheduleOfTimeItem(n); };
+    claim.addItem(feeEarner, "01:00", "ACT");
+    claim.addItem(feeEarner, "02:00", "DPL")->Advocacy = true;
+    claim.addItem(feeEarner, "03:00", "HIN");
+    constexpr int Ways = 7;
+    const auto spoil = [&](int n, int way) {
+        item(n)->FeeEarnerUniqueID = way == 1 ? "ID0"_q : way == 2 ? unpriced->UniqueID() : feeEarner->UniqueID();
+        item(n)->TTime = way == 3 ? QString() : way == 4 ? "2000000000:00"_q : "01:00"_q;
+        item(n)->IncludeInEnhancements = way == 5;
+        item(n)->field(u"Travel")->setContent(way == 6 ? "perhaps" : "False");
+        item(n)->field(u"Advocacy")->setContent(way == 7 ? "perhaps" : n == 2 ? "True" : "False");
+    };
+    for (const char16_t *type : {u"Claim1", u"Claim1A"})
+        for (const char *excluded : {"False", "True", "perhaps"}) {
+            claim.form.FormType = QString::fromUtf16(type);
+            claim.form.field(u"ExcludeNonAdvocacy")->setContent(excluded);
+            for (int ways = 0; ways < (Ways + 1) * (Ways + 1) * (Ways + 1); ++ways) {
+                SCOPED_TRACE(testing::Message() << qPrintable(QString::fromUtf16(type)) << ' ' << excluded << ' ' << ways);
+                spoil(1, ways % (Ways + 1));
+                spoil(2, ways / (Ways + 1) % (Ways + 1));
+                spoil(3, ways / (Ways + 1) / (Ways + 1));
+                expectSameTotals(claim.form);
+                if (testing::Test::HasFailure())
+                    return;
+            }
+        }
+}
+
+TEST(Bill, StaysAsItWasUntilItIsToldToForget)
+{
+    clsTestClaim claim;
+    const auto group = claim.addGroup();
+    claim.addItem(claim.addFeeEarner(group), "01:00");
+    clsBill bill(claim.form);
+    EXPECT_EQ("40"_q, textOf(ScheduleTotal(bill)));
+    group->HourlyRate = "50.00"_q;
+    EXPECT_EQ("50"_q, textOf(ScheduleTotal(claim.form)));
+    EXPECT_EQ("40"_q, textOf(ScheduleTotal(bill)));
+    bill.forget();
+    EXPECT_EQ("50"_q, textOf(ScheduleTotal(bill)));
 }

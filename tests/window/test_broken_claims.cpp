@@ -118,10 +118,9 @@ TEST_F(BrokenClaims, AnExportNamesWhatItsErrorComesFrom)
     bool begun = false;
     QString told;
     EXPECT_EQ(1, run({QFile::encodeName(claim)}, [&] {
-        if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
-            told = box->text();
-            box->button(QMessageBox::Ok)->click();
-            return true;
+        if (const frmMessageBox *box = messageBox()) {
+            told = textOf(*box);
+            return press(box->windowTitle());
         }
         if (auto *dialog = QApplication::activeModalWidget(); dialog && asked && !begun) {
             begun = true;

@@ -1,9 +1,13 @@
 #include "costing/mdFigureFaults.h"
 
 #include "costing/Money.h"
+#include "costing/clsSchedulePrices.h"
 #include "costing/mdTimeFormatting.h"
+#include "costing/mdTimeToMoney.h"
+#include "formdata/clsXMLReading.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdRecordInWords.h"
+#include "shell/mdExisting.h"
 #include "shell/mdNumberText.h"
 #include "shell/mdTrimmedOfBlanks.h"
 
@@ -218,6 +222,21 @@ void checkRates(clsFaultList &list, const Item &item, const Group &group)
             }));
 }
 
+/// Whether all figures of an item can be had, as those of nearly all items can: the lists ask for each of theirs.
+bool canBePriced(const clsZR3Form &form, const Item &item)
+{
+    try {
+        const auto group = item.FeeEarnerGroup();
+        clsGroupRates rates(mdExisting(group));
+        const Money basic = TimeToMoney(item.TTime(), item.RateBy(rates, item.TimeColumn()));
+        item.ClaimBy(basic, item.TotalEnhancementPercentageBy(rates));
+        form.IsOnBill(item);
+        return true;
+    } catch (const clsRunTimeError &) {
+        return false;
+    }
+}
+
 // Letters and calls
 
 struct clsKindRow {
@@ -246,6 +265,9 @@ QString mdSentenceFor(const clsRunTimeError &error, const clsFigureFaults &fault
 
 clsFigureFaults mdFigureFaults(const clsZR3Form &form, const clsZR3ScheduleOfTimeItem &item)
 {
+    const clsXMLReading reading(item);
+    if (canBePriced(form, item))
+        return {};
     clsFaultList list(item);
     const auto group = groupOf(list, item);
     list.does("TTime", wrongTime(item.TTime()));

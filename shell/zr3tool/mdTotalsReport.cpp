@@ -123,7 +123,7 @@ private:
         try {
             writeValue();
         } catch (const clsRunTimeError &error) {
-            tell(error.cause());
+            note(error.cause());
             failure(key, error.number());
         }
     }
@@ -132,12 +132,12 @@ private:
         ++m_failures;
         m_json.text(key, QStringLiteral("!%1").arg(error));
     }
-    void tell(const QString &cause)
+    void note(const QString &cause)
     {
-        if (mayTell() && !cause.isEmpty() && !m_causes.contains(cause))
+        if (mayNote() && !cause.isEmpty() && !m_causes.contains(cause))
             m_causes << cause;
     }
-    bool mayTell() const { return m_causes.size() < MostCauses; }
+    bool mayNote() const { return m_causes.size() < MostCauses; }
     /// Writes an item, or a line of the letters and calls, and tells what is wrong with it where a figure fails.
     template <class Write, class... Of> void object(Write write, const Of &...of)
     {
@@ -145,9 +145,9 @@ private:
         m_json.beginObject();
         write();
         m_json.endObject();
-        if (m_failures > before && mayTell())
+        if (m_failures > before && mayNote())
             for (const clsFigureFault &fault : mdFigureFaults(m_form, of...))
-                tell(fault.sentence);
+                note(fault.sentence);
     }
 
     void figures(std::span<const FigureRow> rows);

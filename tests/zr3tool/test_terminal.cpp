@@ -3,6 +3,7 @@
 #include "tests/zr3tool/clsToolTest.h"
 
 #include <fcntl.h>
+#include <poll.h>
 #include <pty.h>
 #include <termios.h>
 
@@ -37,14 +38,29 @@ protected:
                 _exit(127);
         });
         EXPECT_EQ(status, result.status);
-        QByteArray shown(65536, '\0');
-        shown.truncate(qMax(ssize_t(0), read(m_reader, shown.data(), size_t(shown.size()))));
+        QByteArray shown = whatArrives();
         const QByteArray progressCleared = "\r\033[K";
         if (const qsizetype last = shown.lastIndexOf(progressCleared); last >= 0)
             shown.remove(0, last + progressCleared.size());
         for (const QChar c : QString::fromUtf8(shown))
             EXPECT_TRUE(c == u'\n' || c.category() != QChar::Other_Control) << int(c.unicode());
         return shown;
+    }
+
+    /// What is written to a terminal reaches its other side a little later, and in pieces.
+    QByteArray whatArrives() const
+    {
+        constexpr int LongestWait = 500; // milliseconds
+        QByteArray all;
+        char piece[4096];
+        pollfd reader {m_reader, POLLIN, 0};
+        while (poll(&reader, 1, LongestWait) > 0) {
+            const ssize_t count = read(m_reader, piece, sizeof piece);
+            if (count <= 0)
+                break;
+            all.append(piece, count);
+        }
+        return all;
     }
 
     /// A text that would clear the screen and begin a line of its own.

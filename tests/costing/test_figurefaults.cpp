@@ -1,7 +1,7 @@
 // What is wrong where a figure can't be computed: the property, and the words that the user is told.
 
-#include "costing/mdFigureFaults.h"
 #include "costing/mdCheckForBlankItems.h"
+#include "costing/mdFigureFaults.h"
 #include "costing/mdGetBillSummary.h"
 #include "costing/mdGetColumnTotals.h"
 #include "costing/mdGetCounselTotals.h"

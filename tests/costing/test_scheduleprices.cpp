@@ -295,7 +295,8 @@ TEST(Bill, FailsWhereTheItemsFailAndNowhereElse)
             claim.form.FormType = QString::fromUtf16(type);
             claim.form.field(u"ExcludeNonAdvocacy")->setContent(excluded);
             for (int ways = 0; ways < (Ways + 1) * (Ways + 1) * (Ways + 1); ++ways) {
-                SCOPED_TRACE(testing::Message() << qPrintable(QString::fromUtf16(type)) << ' ' << excluded << ' ' << ways);
+                SCOPED_TRACE(
+                    testing::Message() << qPrintable(QString::fromUtf16(type)) << ' ' << excluded << ' ' << ways);
                 spoil(1, ways % (Ways + 1));
                 spoil(2, ways / (Ways + 1) % (Ways + 1));
                 spoil(3, ways / (Ways + 1) / (Ways + 1));

@@ -14,7 +14,8 @@ struct clsAllowed {
 
 constexpr clsAllowed Allowed[] = {
     // A figure that can't be computed is never passed over: an export ends with the error, and the claim is set aside;
-    // previews and lists mark it. It takes amounts beyond nine hundred million million pounds, which the soak types now and then.
+    // previews and lists mark it. It takes amounts beyond nine hundred million million pounds, which the soak types now
+    // and then.
     {"Run-time error '6'", "\"!6\"", "a figure of the claim is larger than money can be"},
 };
 

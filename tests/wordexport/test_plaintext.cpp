@@ -1,8 +1,8 @@
 // Documents whose text another one takes over as it stands.
 
-#include "wordexport/clsPlainText.h"
 #include "tests/support/clsScriptedUserInterface.h"
 #include "tests/wordexport/clsTestDocument.h"
+#include "wordexport/clsPlainText.h"
 
 namespace {
 
@@ -166,7 +166,8 @@ TEST_F(PlainJoin, GivesTheSameBytesAsReadingTheDocument)
     const QByteArray bytes = joined(nullptr);
     const clsPlainText known {styles, place};
     EXPECT_TRUE(bytes == joined(&known));
-    EXPECT_EQ(QStringLiteral("typed a///typed b///typed b///typed b//"), plain(folder.path(QStringLiteral("Joined.doc"))));
+    EXPECT_EQ(
+        QStringLiteral("typed a///typed b///typed b///typed b//"), plain(folder.path(QStringLiteral("Joined.doc"))));
 }
 
 TEST_F(PlainJoin, ReadsTheDocumentAllTheSameWhereWhatIsKnownOfItDoesNotHold)

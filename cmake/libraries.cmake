@@ -17,6 +17,7 @@ endfunction()
 # In the build of ./lint each file of the core stands by itself, so that it shows whether it includes what it uses.
 function(zr3_library name kind)
     add_library(${name} STATIC)
+    set_target_properties(${name} PROPERTIES AUTOMOC ON)
     target_link_libraries(${name} PUBLIC zr3_options)
     zr3_harden(${name})
     if(ZR3_LINT AND kind STREQUAL CORE)

@@ -25,7 +25,8 @@ def declared(declaration):
     declaration = re.sub(r"\[\[.*?\]\]|^\s*(template|static|inline|constexpr)\b", "", declaration).strip()
     found = re.match(r"(?:class|struct|union|enum(?: class)?|using|namespace)\s+(\w+)", declaration) \
         or re.search(r"(\w+)\s*(?:[(\[=]|$)", declaration)
-    return found[1] if found else None
+    # What is in capitals is no name but a macro, such as that of a test.
+    return found[1] if found and not found[1].isupper() else None
 
 
 def kept_names(code):
@@ -66,11 +67,14 @@ class File:
         code, macros = code_of(path)
         self.kept = kept_names(code) | macros
         self.used = set(NAME.findall(MEMBER.sub(" ", code))) | self.kept
+        # Another name for a type can be given twice.
+        self.aliases = dict(re.findall(r"^using (\w+) = ([^;]+);", code, re.MULTILINE))
         # These bring names along that are not to be seen elsewhere.
-        self.alone = bool(re.search(r"^using (?:enum|namespace)\b", code, re.MULTILINE))
+        self.brings = set(re.findall(r"^using (?:enum|namespace) [^;]+;", code, re.MULTILINE))
 
     def agrees_with(self, other):
-        return not self.alone and not other.alone and not self.kept & other.used and not other.kept & self.used
+        same = {name for name, meaning in self.aliases.items() if other.aliases.get(name) == meaning}
+        return self.brings == other.brings and not (self.kept & other.used | other.kept & self.used) - same
 
 
 def groups(files, size):

@@ -67,9 +67,18 @@ class Groups(unittest.TestCase):
         keeper = "namespace {\nvoid rules() { }\n}\n"
         self.assertTrue(self.together(keeper, 'const char *a = "rules"; // rules\n/* rules */ auto b = R"x(rules)x";\n'))
 
-    def test_what_brings_names_along_stays_alone(self):
+    def test_two_that_give_one_type_the_same_other_name_stay_together(self):
+        self.assertTrue(self.together("namespace {\nusing Error = clsError;\n}\n", "namespace {\nusing Error = clsError;\n}\n"))
+        self.assertFalse(self.together("namespace {\nusing Error = clsError;\n}\n", "namespace {\nusing Error = int;\n}\n"))
+        self.assertFalse(self.together("namespace {\nusing Error = clsError;\n}\n", "void f(Error);\n"))
+
+    def test_a_test_is_no_name(self):
+        self.assertEqual({"Fixture"}, self.kept("namespace {\nclass Fixture { };\nTEST_F(Fixture, Does) { EXPECT_EQ(1, 1); }\n}\n"))
+
+    def test_what_brings_names_along_stays_with_its_like(self):
         self.assertFalse(self.together("using enum Kind;\nint a;\n", "int b;\n"))
         self.assertFalse(self.together("int b;\n", "using namespace other;\n"))
+        self.assertTrue(self.together("using enum Kind;\nint a;\n", "using enum Kind;\nint b;\n"))
 
     def test_a_group_has_its_size_and_nothing_is_lost(self):
         files = [self.file(f"int number{n};\n") for n in range(23)]

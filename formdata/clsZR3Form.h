@@ -33,7 +33,7 @@ public:                                                                         
     Plural##List::Pointer Add##Single() { return identified(m_##Plural.add(*this)); }                                  \
     void Delete##Single(int index) { m_##Plural.remove(index); }                                                       \
     Plural##List::Pointer Single(int index) const { return m_##Plural.at(index); }                                     \
-    Plural##List::Pointer Single##ByOrderID(int orderID) const { return m_##Plural.byOrder(orderID); }                 \
+    const Plural##List::Pointer &Single##ByOrderID(int orderID) const { return m_##Plural.byOrder(orderID); }          \
                                                                                                                        \
 private:                                                                                                               \
     Plural##List m_##Plural;
@@ -41,7 +41,7 @@ private:                                                                        
 /// The look-up by identity, for the lists whose items other elements point at.
 #define ZR3_IDENTITY(Plural, Single)                                                                                   \
 public:                                                                                                                \
-    Plural##List::Pointer Single##ByUniqueID(const QString &uniqueID) const                                            \
+    const Plural##List::Pointer &Single##ByUniqueID(const QString &uniqueID) const                                     \
     {                                                                                                                  \
         return m_##Plural.byIdentity(uniqueID);                                                                        \
     }
@@ -51,6 +51,9 @@ public:                                                                         
 /// and saves itself. It holds no value of its own: every property goes to the tree each time.
 class clsZR3Form : public clsXMLRecord {
 public:
+    /// The root of the tree. Whoever has it can change what is in the items' elements too.
+    pugi::xml_node XMLNode() const;
+
     /// A valid, empty claim with the template's defaults.
     clsZR3Form();
 
@@ -185,6 +188,7 @@ private:
     void rendered(const DisbursementsList &) { SeparateCounselAndNonCounselDisbursements(); }
 
     void takeRoot(const clsXMLElement &root);
+    std::vector<bool> emptyDescriptions() const;
 
     clsXMLLong<"IDCounter"> m_idCounter {*this};
     clsXMLElement m_root;

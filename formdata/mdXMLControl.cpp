@@ -52,7 +52,9 @@ bool isBlank(const char *text)
 /// True for a text of nothing but blanks, be it a node or the value of an element.
 bool isBlankText(const pugi::xml_node &node)
 {
-    if (!isBlank(node.value()))
+    static const char *const None = pugi::xml_node().value(); // what the library gives for no value at all
+    const char *text = node.value();
+    if (text == None || !isBlank(text))
         return false;
     return node.type() == pugi::node_pcdata || (node.type() == pugi::node_element && node.text().data() == node);
 }
@@ -93,14 +95,16 @@ public:
         const QChar *end = m_decoder.appendToBuffer(text.data() + before, piece);
         text.resize(end - text.constData());
         m_bytes += piece.size();
+        m_hasReturn = m_hasReturn || piece.contains('\r');
     }
     /// True when the text needs no reference: what this program writes is plain ASCII, which alone has as many
     /// characters as bytes.
-    bool isPlain() const { return text.size() == m_bytes && !text.contains(u'\r'); }
+    bool isPlain() const { return text.size() == m_bytes && !m_hasReturn; }
 
 private:
     QStringDecoder m_decoder {QStringDecoder::Utf8};
     qsizetype m_bytes = 0;
+    bool m_hasReturn = false;
 };
 
 /// True for a character that the file can't hold as itself: one outside its code page, and a carriage return, which

@@ -4,7 +4,6 @@
 #include "costing/mdDateText.h"
 #include "costing/mdFigureFaults.h"
 #include "costing/mdGetColumnTotals.h"
-#include "formdata/clsXMLReading.h"
 #include "formdata/clsZR3Form.h"
 #include "preview/mdExportPreview.h"
 #include "preview/oPreviewGrid.h"
@@ -174,7 +173,6 @@ void mdExportPreviewScheduleOfTimeDraw(const clsZR3Form &form)
 
 void mdExportPreviewScheduleOfTimeItemDraw(const clsZR3ScheduleOfTimeItem &item, clsSchedulePrices &prices)
 {
-    const clsXMLReading reading(item);
     const Price &price = prices.of(item);
     mdExportPreviewAddRow(true);
     bool failed = false;

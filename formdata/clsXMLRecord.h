@@ -142,6 +142,7 @@ public:
         return m_node;
     }
     QString XMLOutput() const { return XMLElementOutput(m_node); }
+    bool XMLOutputIs(const QString &text) const { return XMLElementOutputIs(m_node, text); }
 
     /// The record's properties, in the order of their declaration.
     const std::vector<clsXMLPropertyPlace> &properties() const { return m_table->rows(); }

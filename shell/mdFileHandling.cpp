@@ -111,7 +111,7 @@ void SetFormDisplay(clsFormDisplay display)
 
 bool FormIsDirty()
 {
-    return Form && Form->XMLOutput() != CleanXML;
+    return Form && !Form->XMLOutputIs(CleanXML);
 }
 
 bool ConfirmClose()

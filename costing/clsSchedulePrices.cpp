@@ -2,7 +2,6 @@
 
 #include "costing/mdTimeFormatting.h"
 #include "costing/mdTimeToMoney.h"
-#include "formdata/clsXMLReading.h"
 #include "formdata/clsZR3Form.h"
 
 namespace {
@@ -46,7 +45,11 @@ Money clsGroupRates::Enhancement()
 clsSchedulePrices::clsSchedulePrices(const clsZR3Form &form)
     : m_form(form)
     , m_prices(form.ScheduleOfTimeItemsCollection().size())
-{ }
+{
+    // All at once, in the order in which they lie in the memory: the user's order goes to and fro in it.
+    for (size_t place = 0; place < m_prices.size(); ++place)
+        price(*form.ScheduleOfTimeItemsCollection()[place], m_prices[place]);
+}
 
 const clsSchedulePrice &clsSchedulePrices::of(const clsZR3ScheduleOfTimeItem &item)
 {
@@ -57,22 +60,17 @@ const clsSchedulePrice &clsSchedulePrices::of(const clsZR3ScheduleOfTimeItem &it
         price(item, m_strangers.emplace_back());
         return m_strangers.back();
     }
-    std::optional<clsSchedulePrice> &own = m_prices[place];
-    if (!own) {
-        clsSchedulePrice priced;
-        price(item, priced);
-        own = std::move(priced);
-    }
-    return *own;
+    return m_prices[place];
 }
 
-clsSchedulePrices::clsEarner &clsSchedulePrices::earnerOf(const QString &uniqueID)
+clsSchedulePrices::clsEarner &clsSchedulePrices::earnerOf(const clsZR3ScheduleOfTimeItem &item)
 {
-    clsEarner &earner = m_earners[uniqueID];
-    if (earner.known)
-        return earner;
-    earner.known = true;
-    const auto feeEarner = m_form.FeeEarnerByUniqueID(uniqueID);
+    // By the identity as it stands in the tree, which need not be made a text for each item.
+    const std::string_view identity = item.FeeEarnerUniqueID.content();
+    if (const auto known = m_earners.find(identity); known != m_earners.end())
+        return known->second;
+    clsEarner &earner = m_earners[std::string(identity)];
+    const auto feeEarner = m_form.FeeEarnerByUniqueID(item.FeeEarnerUniqueID());
     if (!feeEarner)
         return earner;
     earner.initials = feeEarner->Reference();
@@ -103,8 +101,7 @@ void clsSchedulePrices::price(const clsZR3ScheduleOfTimeItem &item, clsScheduleP
         }
     };
 
-    const clsXMLReading reading(item);
-    const clsEarner &earner = earnerOf(item.FeeEarnerUniqueID());
+    const clsEarner &earner = earnerOf(item);
     if (earner.initials)
         result.FeeEarnerInitials = *earner.initials;
     else

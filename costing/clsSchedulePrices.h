@@ -2,14 +2,15 @@
 
 #include "costing/Money.h"
 
-#include <QHash>
 #include <QString>
 
 #include <array>
 #include <cstdint>
 #include <deque>
+#include <map>
 #include <memory>
 #include <optional>
+#include <string>
 #include <vector>
 
 class clsZR3FeeEarnerGroup;
@@ -54,15 +55,16 @@ struct clsSchedulePrice {
     };
     static constexpr int Figures = ClaimFigure + 1;
 
-    QString FeeEarnerInitials;
-    QString TTime;
-    int Minutes = 0; ///< of the time
-    int TimeColumn = 0;
+    // What is asked for most stands together.
     Money Rate;
     Money BasicClaim;
     Money TotalEnhancementPercentage;
     Money Claim;
     std::array<std::int16_t, Figures> errors {}; ///< by figure: the number of its error, 0 for none
+    int TimeColumn = 0;
+    int Minutes = 0; ///< of the time
+    QString TTime;
+    QString FeeEarnerInitials;
 
     int errorOf(Figure figure) const { return errors[size_t(figure)]; }
     bool fails() const { return errors != decltype(errors) {}; }
@@ -79,17 +81,16 @@ public:
 
 private:
     struct clsEarner {
-        bool known = false;
         std::optional<QString> initials; ///< none where no fee earner has the identity
         clsGroupRates *rates = nullptr; ///< none without a group
     };
-    clsEarner &earnerOf(const QString &uniqueID);
+    clsEarner &earnerOf(const clsZR3ScheduleOfTimeItem &item);
     void price(const clsZR3ScheduleOfTimeItem &item, clsSchedulePrice &result);
 
     const clsZR3Form &m_form;
-    std::vector<std::optional<clsSchedulePrice>> m_prices; ///< by the item's place in the claim
+    std::vector<clsSchedulePrice> m_prices; ///< by the item's place in the claim
     std::deque<clsSchedulePrice> m_strangers;
-    QHash<QString, clsEarner> m_earners;
+    std::map<std::string, clsEarner, std::less<>> m_earners; ///< by their identities as they stand in the tree
     std::vector<std::shared_ptr<clsZR3FeeEarnerGroup>> m_groups;
     std::vector<std::unique_ptr<clsGroupRates>> m_rates;
 };

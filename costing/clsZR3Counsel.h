@@ -8,8 +8,8 @@ class clsZR3Form;
 /// counsel's fee is what the disbursement says.
 class clsZR3Counsel : public clsZR3Item {
 public:
-    explicit clsZR3Counsel(clsZR3Form &, pugi::xml_node node = {})
-        : clsZR3Item(clsXMLPropertyTable::of<clsZR3Counsel>(), "xmlZR3Counsel", node)
+    explicit clsZR3Counsel(clsZR3Form &)
+        : clsZR3Item(clsXMLPropertyTable::of<clsZR3Counsel>(), "xmlZR3Counsel")
     { }
 
     clsXMLLong<"OrderID", true> OrderID {*this};

@@ -7,8 +7,8 @@ class clsZR3Form;
 /// Something that the firm paid out; with `Counsel` set it is a counsel's fee. Amounts are pounds, as text.
 class clsZR3Disbursement : public clsZR3Item {
 public:
-    explicit clsZR3Disbursement(clsZR3Form &, pugi::xml_node node = {})
-        : clsZR3Item(clsXMLPropertyTable::of<clsZR3Disbursement>(), "xmlZR3Disbursement", node)
+    explicit clsZR3Disbursement(clsZR3Form &)
+        : clsZR3Item(clsXMLPropertyTable::of<clsZR3Disbursement>(), "xmlZR3Disbursement")
     { }
 
     clsXMLLong<"OrderID", true> OrderID {*this};

@@ -7,8 +7,8 @@ class clsZR3Form;
 /// A named percentage that time items and letters and calls can be enhanced by; 50.00 means fifty per cent.
 class clsZR3Enhancement : public clsZR3Item {
 public:
-    explicit clsZR3Enhancement(clsZR3Form &, pugi::xml_node node = {})
-        : clsZR3Item(clsXMLPropertyTable::of<clsZR3Enhancement>(), "xmlZR3Enhancement", node)
+    explicit clsZR3Enhancement(clsZR3Form &)
+        : clsZR3Item(clsXMLPropertyTable::of<clsZR3Enhancement>(), "xmlZR3Enhancement")
     { }
 
     clsXMLLong<"OrderID", true> OrderID {*this};

@@ -8,8 +8,8 @@ class clsZR3Form;
 /// only `NetAmount` and `VATAmount` enter the totals. Amounts are pounds, as text.
 class clsZR3ExpertInvoice : public clsZR3Item {
 public:
-    explicit clsZR3ExpertInvoice(clsZR3Form &, pugi::xml_node node = {})
-        : clsZR3Item(clsXMLPropertyTable::of<clsZR3ExpertInvoice>(), "xmlZR3ExpertInvoice", node)
+    explicit clsZR3ExpertInvoice(clsZR3Form &)
+        : clsZR3Item(clsXMLPropertyTable::of<clsZR3ExpertInvoice>(), "xmlZR3ExpertInvoice")
     { }
 
     clsXMLLong<"OrderID", true> OrderID {*this};

@@ -11,8 +11,8 @@ public:
     /// What is read by name beside the fields: one row for each derived member that a list shows.
     static std::span<const clsXMLDerivedProperty> DerivedProperties();
 
-    explicit clsZR3FASItem(clsZR3Form &, pugi::xml_node node = {})
-        : clsZR3Item(clsXMLPropertyTable::of<clsZR3FASItem>(), "xmlZR3FASItem", node)
+    explicit clsZR3FASItem(clsZR3Form &)
+        : clsZR3Item(clsXMLPropertyTable::of<clsZR3FASItem>(), "xmlZR3FASItem")
     { }
 
     clsXMLLong<"OrderID", true> OrderID {*this};

@@ -13,8 +13,8 @@ public:
     /// What is read by name beside the fields: one row for each derived member that a list shows.
     static std::span<const clsXMLDerivedProperty> DerivedProperties();
 
-    explicit clsZR3FeeEarner(clsZR3Form &form, pugi::xml_node node = {})
-        : clsZR3Item(clsXMLPropertyTable::of<clsZR3FeeEarner>(), "xmlZR3FeeEarner", node)
+    explicit clsZR3FeeEarner(clsZR3Form &form)
+        : clsZR3Item(clsXMLPropertyTable::of<clsZR3FeeEarner>(), "xmlZR3FeeEarner")
         , m_form(&form)
     { }
 

@@ -15,8 +15,8 @@ public:
     /// What is read by name beside the fields: one row for each derived member that a list shows.
     static std::span<const clsXMLDerivedProperty> DerivedProperties();
 
-    explicit clsZR3FeeEarnerGroup(clsZR3Form &form, pugi::xml_node node = {})
-        : clsZR3Item(clsXMLPropertyTable::of<clsZR3FeeEarnerGroup>(), "xmlZR3FeeEarnerGroup", node)
+    explicit clsZR3FeeEarnerGroup(clsZR3Form &form)
+        : clsZR3Item(clsXMLPropertyTable::of<clsZR3FeeEarnerGroup>(), "xmlZR3FeeEarnerGroup")
         , m_form(&form)
     { }
 

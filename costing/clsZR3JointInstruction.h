@@ -7,8 +7,8 @@ class clsZR3Form;
 /// A party's share in an expert who was instructed jointly. The share is a percentage, as text.
 class clsZR3JointInstruction : public clsZR3Item {
 public:
-    explicit clsZR3JointInstruction(clsZR3Form &, pugi::xml_node node = {})
-        : clsZR3Item(clsXMLPropertyTable::of<clsZR3JointInstruction>(), "xmlZR3JointInstruction", node)
+    explicit clsZR3JointInstruction(clsZR3Form &)
+        : clsZR3Item(clsXMLPropertyTable::of<clsZR3JointInstruction>(), "xmlZR3JointInstruction")
     { }
 
     clsXMLLong<"OrderID", true> OrderID {*this};

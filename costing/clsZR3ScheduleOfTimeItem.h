@@ -21,14 +21,14 @@ public:
     /// What is read by name beside the fields: one row for each derived member that a list shows.
     static std::span<const clsXMLDerivedProperty> DerivedProperties();
 
-    explicit clsZR3ScheduleOfTimeItem(clsZR3Form &form, pugi::xml_node node = {})
-        : clsZR3Item(clsXMLPropertyTable::of<clsZR3ScheduleOfTimeItem>(), "xmlZR3ScheduleOfTimeItem", node)
+    explicit clsZR3ScheduleOfTimeItem(clsZR3Form &form)
+        : clsZR3Item(clsXMLPropertyTable::of<clsZR3ScheduleOfTimeItem>(), "xmlZR3ScheduleOfTimeItem")
         , m_form(&form)
     { }
 
-    clsXMLLong<"OrderID", true> OrderID {*this};
     /// The number on the exported schedule, given by the export list; held here and not in the file.
     int SOTItemNumber = 0;
+    clsXMLLong<"OrderID", true> OrderID {*this};
     clsXMLText<"FeeEarnerUniqueID"> FeeEarnerUniqueID {*this};
     clsXMLText<"dDate"> dDate {*this};
     clsXMLText<"Code"> Code {*this};

@@ -22,7 +22,7 @@ void clsDocument::takeAsClean()
 
 bool clsDocument::isDirty() const
 {
-    return form && form->XMLOutput() != cleanXML;
+    return form && !form->XMLOutputIs(cleanXML);
 }
 
 void clsDocument::givePath(const QString &path)

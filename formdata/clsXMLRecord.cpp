@@ -1,24 +1,47 @@
 #include "formdata/clsXMLRecord.h"
 
-#include "formdata/clsXMLReading.h"
 #include "formdata/mdRecordInWords.h"
+<<<<<<< HEAD
+=======
+#include "formdata/mdXMLTemplate.h"
+#include "shell/mdNumberText.h"
+>>>>>>> 2abfaa397129f8e9ed2918563407aea72f015c5f
 #include "shell/clsRunTimeError.h"
 #include "shell/mdNumberText.h"
 
 #include <cstring>
+#include <optional>
 
 namespace {
 
 /// "True" and "False" in any case, or a number, where zero is False; the type error for anything else.
-bool booleanFromText(QLatin1String text)
+bool booleanFromText(const char *content)
 {
-    if (text == QLatin1String("True"))
+    if (std::strcmp(content, "True") == 0)
         return true;
-    if (text == QLatin1String("False") || text.compare(QLatin1String("False"), Qt::CaseInsensitive) == 0)
+    if (std::strcmp(content, "False") == 0)
+        return false;
+    const QLatin1String text(content);
+    if (text.compare(QLatin1String("False"), Qt::CaseInsensitive) == 0)
         return false;
     if (text.compare(QLatin1String("True"), Qt::CaseInsensitive) == 0)
         return true;
     return DoubleFromStrictText(QString(text)) != 0.0;
+}
+
+/// A number of a few digits and nothing else, as nearly all are.
+std::optional<int> plainNumber(const char *content)
+{
+    constexpr int MostDigits = 9;
+    int number = 0;
+    for (int digits = 0; digits < MostDigits; ++digits) {
+        if (*content == '\0' && digits > 0)
+            return number;
+        if (*content < '0' || *content > '9')
+            return {};
+        number = number * 10 + (*content++ - '0');
+    }
+    return *content == '\0' ? std::optional<int>(number) : std::nullopt;
 }
 
 /// What is wrong with a property, in words.
@@ -31,33 +54,62 @@ QString causeOf(const clsXMLRecord &record, const clsXMLField &field, const char
 
 } // namespace
 
+size_t clsXMLPropertyTable::find(const char *element, size_t expected) const
+{
+    const size_t count = m_rows.size();
+    for (size_t tried = 0; tried < count; ++tried) {
+        const size_t place = expected + tried < count ? expected + tried : expected + tried - count;
+        if (std::strcmp(element, m_rows[place].property->element) == 0)
+            return place;
+    }
+    return count;
+}
+
+const std::vector<clsXMLTemplateChild> &clsXMLPropertyTable::templateChildren(const char *templateName)
+{
+    if (m_templateChildren.empty())
+        for (const pugi::xml_node child : mdXMLTemplate(templateName).children())
+            if (child.type() == pugi::node_element)
+                m_templateChildren.push_back({child, find(child.name(), 0)});
+    return m_templateChildren;
+}
+
 clsXMLField::clsXMLField(clsXMLRecord &record, const clsXMLProperty &property)
-    : m_record(&record)
-    , m_property(&property)
+    : m_offset(std::uint32_t(reinterpret_cast<char *>(this) - reinterpret_cast<char *>(&record)))
+    , m_place(record.m_fieldsMade++)
 {
     clsXMLPropertyTable &table = *record.m_table;
     if (!table.m_complete)
-        table.m_rows.push_back({&property, reinterpret_cast<char *>(this) - reinterpret_cast<char *>(&record)});
+        table.m_rows.push_back({&property, std::ptrdiff_t(m_offset)});
+}
+
+/// Of doubled elements it is the first; none where it is missing.
+pugi::xml_node clsXMLField::element() const
+{
+    const clsXMLRecord &own = record();
+    if (own.m_knowsElements && m_element)
+        return m_element;
+    return own.m_node.child(property().element);
 }
 
 const char *clsXMLField::content() const
 {
-    const pugi::xml_node element = clsXMLReading::find(m_record->m_node, *m_property);
-    if (!element)
+    const pugi::xml_node found = element();
+    if (!found)
         throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
-    return element.child_value();
+    return found.child_value();
 }
 
 void clsXMLField::setContent(const char *content)
 {
-    pugi::xml_node element = clsXMLReading::find(m_record->m_node, *m_property);
-    if (!element)
+    const pugi::xml_node found = element();
+    if (!found)
         throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
-    if (std::strcmp(element.child_value(), content) == 0)
+    if (std::strcmp(found.child_value(), content) == 0)
         return;
-    XMLSetContent(element, content);
-    if (m_property->key && m_record->m_keysChanged)
-        *m_record->m_keysChanged = true;
+    XMLSetContent(found, content);
+    if (record().m_keysChanged && property().key)
+        *record().m_keysChanged = true;
 }
 
 QString clsXMLField::readText() const
@@ -67,21 +119,24 @@ QString clsXMLField::readText() const
 
 bool clsXMLField::readBoolean() const
 {
-    const QLatin1String text(content());
+    const char *text = content();
     try {
         return booleanFromText(text);
     } catch (const clsRunTimeError &error) {
-        throw error.because(causeOf(*m_record, *this, "the tick %1 holds %2, which is neither True nor False"));
+        throw error.because(causeOf(record(), *this, "the tick %1 holds %2, which is neither True nor False"));
     }
 }
 
 int clsXMLField::readLong() const
 {
-    const QString text = QString::fromUtf8(content());
+    const char *digits = content();
+    if (const std::optional<int> number = plainNumber(digits))
+        return *number;
+    const QString text = QString::fromUtf8(digits);
     try {
         return LongFromText(text);
     } catch (const clsRunTimeError &error) {
-        throw error.because(causeOf(*m_record, *this, "%1 holds %2, which is too large a number"));
+        throw error.because(causeOf(record(), *this, "%1 holds %2, which is too large a number"));
     }
 }
 
@@ -100,10 +155,45 @@ void clsXMLField::writeLong(int value)
     setContent(QByteArray::number(value).constData());
 }
 
+clsXMLField &clsXMLRecord::fieldAt(size_t place)
+{
+    return *reinterpret_cast<clsXMLField *>(reinterpret_cast<char *>(this) + m_table->rows()[place].offset);
+}
+
+void clsXMLRecord::bindAndLearn(pugi::xml_node node)
+{
+    m_node = node;
+    m_knowsElements = true;
+    const size_t count = m_table->rows().size();
+    for (size_t place = 0; place < count; ++place)
+        fieldAt(place).m_element = {};
+    size_t expected = 0;
+    for (pugi::xml_node child = node.first_child(); child; child = child.next_sibling()) {
+        const size_t place = m_table->find(child.name(), expected);
+        if (place == count)
+            continue;
+        if (pugi::xml_node &known = fieldAt(place).m_element; !known)
+            known = child;
+        expected = place + 1;
+    }
+}
+
+void clsXMLRecord::complete(const char *templateName)
+{
+    for (const clsXMLTemplateChild &wanted : m_table->templateChildren(templateName)) {
+        const bool isField = wanted.property < m_table->rows().size();
+        if (isField ? bool(fieldAt(wanted.property).m_element) : bool(m_node.child(wanted.element.name())))
+            continue;
+        const pugi::xml_node added = m_node.append_copy(wanted.element);
+        if (isField)
+            fieldAt(wanted.property).m_element = added;
+    }
+}
+
 clsXMLField *clsXMLRecord::field(QStringView name, Qt::CaseSensitivity letters)
 {
     for (const clsXMLPropertyPlace &row : m_table->rows())
         if (const QLatin1String own(row.property->name); own.size() == name.size() && name.compare(own, letters) == 0)
-            return reinterpret_cast<clsXMLField *>(reinterpret_cast<char *>(this) + row.offset);
+            return &fieldAt(size_t(&row - m_table->rows().data()));
     return nullptr;
 }

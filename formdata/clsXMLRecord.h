@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <span>
 #include <vector>
 
@@ -36,6 +37,12 @@ struct clsXMLDerivedProperty {
     QString (*read)(const clsXMLRecord &record, const QString *argument);
 };
 
+/// A child of a template, and the place of the property whose element it is.
+struct clsXMLTemplateChild {
+    pugi::xml_node element;
+    size_t property;
+};
+
 /// The properties of one class of records in the order of their declaration. It fills itself while the first record
 /// of the class is made, from the same lines that declare the properties. What a class derives stands in a table of its
 /// own, `DerivedProperties()`, if it has one.
@@ -54,6 +61,11 @@ public:
 
     const std::vector<clsXMLPropertyPlace> &rows() const { return m_rows; }
     std::span<const clsXMLDerivedProperty> derived() const { return m_derived; }
+    /// The place of the property with that element, the number of properties where there is none. The one that is
+    /// expected is looked at first: elements mostly stand in the order of the properties.
+    size_t find(const char *element, size_t expected) const;
+    /// The children of the class's template, with the places of their properties.
+    const std::vector<clsXMLTemplateChild> &templateChildren(const char *templateName);
 
 private:
     explicit clsXMLPropertyTable(std::span<const clsXMLDerivedProperty> derived)
@@ -66,6 +78,7 @@ private:
 
     std::vector<clsXMLPropertyPlace> m_rows;
     std::span<const clsXMLDerivedProperty> m_derived;
+    std::vector<clsXMLTemplateChild> m_templateChildren;
     bool m_complete = false;
 };
 
@@ -75,13 +88,19 @@ public:
     clsXMLField(clsXMLRecord &record, const clsXMLProperty &property);
     clsXMLField(const clsXMLField &) = delete;
 
-    const clsXMLProperty &property() const { return *m_property; }
+    inline const clsXMLProperty &property() const;
 
     /// The element's content as it stands; a missing element is the object error.
     const char *content() const;
     /// True when the value is the empty text. Every encoded character stands for one of the text, so that nothing needs
     /// decoding to know it.
     bool isEmpty() const { return *content() == '\0'; }
+    /// The same where a missing element is no error.
+    bool isThereAndEmpty() const
+    {
+        const pugi::xml_node found = element();
+        return found && *found.child_value() == '\0';
+    }
     /// Writes the content, and nothing when it stands there already.
     void setContent(const char *content);
 
@@ -96,19 +115,34 @@ public:
     void writeLong(int value);
 
 private:
-    clsXMLRecord *m_record;
-    const clsXMLProperty *m_property;
+    friend class clsXMLRecord;
+    inline clsXMLRecord &record() const;
+    pugi::xml_node element() const;
+
+    // A claim has some hundred thousand fields: they find their record and their property by two short numbers.
+    pugi::xml_node m_element; ///< good only while the record knows its elements
+    std::uint32_t m_offset; ///< from the record
+    std::uint32_t m_place; ///< among the properties of its class
 };
 
 /// A live view of one element: its fields go to the tree on every read and write. Not copyable, since an element
 /// has one record.
+///
+/// A record can know its elements: then its fields have found them once, and nobody but the record adds to the children
+/// of its element or takes one away. Whoever is given the element could, so that the record looks for its elements at
+/// each read from then on.
 class clsXMLRecord {
 public:
     clsXMLRecord(const clsXMLRecord &) = delete;
     clsXMLRecord &operator=(const clsXMLRecord &) = delete;
 
-    pugi::xml_node XMLNode() const { return m_node; }
+    pugi::xml_node XMLNode() const
+    {
+        forgetElements();
+        return m_node;
+    }
     QString XMLOutput() const { return XMLElementOutput(m_node); }
+    bool XMLOutputIs(const QString &text) const { return XMLElementOutputIs(m_node, text); }
 
     /// The record's properties, in the order of their declaration.
     const std::vector<clsXMLPropertyPlace> &properties() const { return m_table->rows(); }
@@ -129,17 +163,42 @@ protected:
     }
     ~clsXMLRecord() = default;
 
-    void bind(pugi::xml_node node) { m_node = node; }
+    pugi::xml_node node() const { return m_node; }
+    void bind(pugi::xml_node node)
+    {
+        m_node = node;
+        forgetElements();
+    }
+    /// Makes this the record of an element that nobody else has, and finds the elements of the fields.
+    void bindAndLearn(pugi::xml_node node);
+    /// Appends copies of the template's children that the element lacks, as GenerateNodes does.
+    void complete(const char *templateName);
+    void forgetElements() const { m_knowsElements = false; }
     /// Sets the flag that a write to a key property raises.
     void reportKeyWritesTo(bool *keysChanged) { m_keysChanged = keysChanged; }
 
 private:
     friend class clsXMLField;
 
+    clsXMLField &fieldAt(size_t place);
+
     pugi::xml_node m_node;
     clsXMLPropertyTable *m_table;
     bool *m_keysChanged = nullptr;
+    mutable bool m_knowsElements = false;
+    std::uint16_t m_fieldsMade = 0;
 };
+
+inline clsXMLRecord &clsXMLField::record() const
+{
+    auto *own = reinterpret_cast<char *>(const_cast<clsXMLField *>(this));
+    return *reinterpret_cast<clsXMLRecord *>(own - m_offset);
+}
+
+inline const clsXMLProperty &clsXMLField::property() const
+{
+    return *record().m_table->rows()[m_place].property;
+}
 
 /// A name that is part of a type, so that its lower-case twin is made by the compiler.
 template <std::size_t Size> struct clsXMLName {

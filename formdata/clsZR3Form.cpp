@@ -19,11 +19,36 @@ constexpr char RootElement[] = "vzrform";
 // It must not end in the letters of a claim's extension: a backup under this name is then never deleted by age.
 const QString UnsavedFileName = QStringLiteral("Unsaved Claim.zr3-new");
 
+/// Fills a collection anew from its front. What stands in its place already is left there: a derived collection is made
+/// anew after each change, and mostly stays as it was.
+template <class Collection> class clsRefill {
+public:
+    explicit clsRefill(Collection &collection)
+        : m_collection(collection)
+    { }
+    ~clsRefill() { m_collection.resize(m_count); }
+    clsRefill(const clsRefill &) = delete;
+    clsRefill &operator=(const clsRefill &) = delete;
+
+    void add(const typename Collection::value_type &item)
+    {
+        if (m_count == m_collection.size())
+            m_collection.push_back(item);
+        else if (m_collection[m_count] != item)
+            m_collection[m_count] = item;
+        ++m_count;
+    }
+
+private:
+    Collection &m_collection;
+    size_t m_count = 0;
+};
+
 /// Walks a list by `OrderID` from 1 to its count; a gap is the object error.
 template <class List, class Visit> void inOrder(const List &list, Visit visit)
 {
     for (int n = 1; n <= list.count(); ++n) {
-        const auto item = list.byOrder(n);
+        const auto &item = list.byOrder(n);
         if (!item)
             throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
         visit(item);
@@ -58,7 +83,19 @@ clsZR3Form::clsZR3Form()
     takeRoot(emptyClaim());
 }
 
+<<<<<<< HEAD
 clsZR3Form::~clsZR3Form() = default;
+=======
+pugi::xml_node clsZR3Form::XMLNode() const
+{
+    for (const auto handOut : {&clsZR3Form::XMLFeeEarnerGroupsNode, &clsZR3Form::XMLFeeEarnersNode,
+             &clsZR3Form::XMLCounselNode, &clsZR3Form::XMLEnhancementsNode, &clsZR3Form::XMLFASItemsNode,
+             &clsZR3Form::XMLScheduleOfTimeItemsNode, &clsZR3Form::XMLExpertInvoicesNode,
+             &clsZR3Form::XMLJointInstructionsNode, &clsZR3Form::XMLDisbursementsNode})
+        (this->*handOut)();
+    return node();
+}
+>>>>>>> 2abfaa397129f8e9ed2918563407aea72f015c5f
 
 bool clsZR3Form::LoadXML(const QString &filePath)
 {
@@ -122,7 +159,7 @@ void clsZR3Form::LoadElements()
         &DebtorsDetails,
     };
     for (clsZR3Section *section : sections)
-        section->XMLNode(XMLNode().child(section->elementName()));
+        section->XMLNode(node().child(section->elementName()));
     mdClearProgress();
 }
 
@@ -166,7 +203,7 @@ void clsZR3Form::CheckDerivedCollections() const
 
 void clsZR3Form::RenderScheduleOfTimeItemsForExport()
 {
-    m_forExport.clear();
+    clsRefill forExport(m_forExport);
     m_scheduleError.reset();
     int number = 0;
     clsOnBill isOnBill(*this);
@@ -180,16 +217,32 @@ void clsZR3Form::RenderScheduleOfTimeItemsForExport()
             if (!m_scheduleError)
                 m_scheduleError = error;
         }
-        m_forExport.push_back(item);
+        forExport.add(item);
     });
 }
 
 void clsZR3Form::RenderAdditionalInformationItems()
 {
-    m_additional.clear();
-    for (const auto &item : m_forExport)
-        if (!item->Description.isEmpty())
-            m_additional.push_back(item);
+    clsRefill additional(m_additional);
+    const std::vector<bool> empty = emptyDescriptions();
+    const auto &items = m_ScheduleOfTimeItems.collection();
+    for (const auto &item : m_forExport) {
+        const auto place = size_t(item->Index - 1);
+        const bool isKnown = place < items.size() && items[place] == item;
+        if (!(isKnown && empty[place]) && !item->Description.isEmpty())
+            additional.add(item);
+    }
+}
+
+/// Which items are known to have no description. They are looked through in the order in which they lie in the memory:
+/// on the way by their numbers, each would have to be fetched from far off.
+std::vector<bool> clsZR3Form::emptyDescriptions() const
+{
+    std::vector<bool> empty;
+    empty.reserve(m_ScheduleOfTimeItems.collection().size());
+    for (const auto &item : m_ScheduleOfTimeItems.collection())
+        empty.push_back(item->Description.isThereAndEmpty());
+    return empty;
 }
 
 clsZR3Form::ScheduleOfTimeItemsList::Pointer clsZR3Form::AdditionalInformationItem(int index) const
@@ -199,24 +252,24 @@ clsZR3Form::ScheduleOfTimeItemsList::Pointer clsZR3Form::AdditionalInformationIt
 
 void clsZR3Form::CreateFASCollections()
 {
-    m_boltOns.clear();
-    m_travel.clear();
+    clsRefill boltOns(m_boltOns);
+    clsRefill travel(m_travel);
     inOrder(m_FASItems, [&](const FASItemsList::Pointer &item) {
         if (!item->BoltOnDescription.isEmpty())
-            m_boltOns.push_back(item);
+            boltOns.add(item);
         if (!item->ExceptionalTravelDistance.isEmpty() || !item->ExceptionalTravelReason.isEmpty())
-            m_travel.push_back(item);
+            travel.add(item);
     });
 }
 
 void clsZR3Form::SeparateCounselAndNonCounselDisbursements()
 {
-    m_counselFees.clear();
-    m_nonCounsel.clear();
+    clsRefill counselFees(m_counselFees);
+    clsRefill nonCounsel(m_nonCounsel);
     m_disbursementsError.reset();
     inOrder(m_Disbursements, [&](const DisbursementsList::Pointer &item) {
         try {
-            (item->Counsel() ? m_counselFees : m_nonCounsel).push_back(item);
+            (item->Counsel() ? counselFees : nonCounsel).add(item);
         } catch (const clsRunTimeError &error) {
             if (!m_disbursementsError)
                 m_disbursementsError = error;
@@ -254,7 +307,7 @@ void clsZR3Form::rendered(const ScheduleOfTimeItemsList &)
 
 pugi::xml_node clsZR3Form::listElement(QLatin1String plural) const
 {
-    return XMLNode().child(QString(plural).toLower().toLatin1().constData());
+    return node().child(QString(plural).toLower().toLatin1().constData());
 }
 
 // clang-format off

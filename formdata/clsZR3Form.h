@@ -41,7 +41,11 @@ public:                                                                         
     Plural##List::Pointer Add##Single();                                                                               \
     void Delete##Single(int index);                                                                                    \
     Plural##List::Pointer Single(int index) const { return m_##Plural.at(index); }                                     \
+<<<<<<< HEAD
     Plural##List::Pointer Single##ByOrderID(int orderID) const;                                                        \
+=======
+    const Plural##List::Pointer &Single##ByOrderID(int orderID) const { return m_##Plural.byOrder(orderID); }          \
+>>>>>>> 2abfaa397129f8e9ed2918563407aea72f015c5f
                                                                                                                        \
 private:                                                                                                               \
     Plural##List m_##Plural;
@@ -50,13 +54,23 @@ private:                                                                        
 #define ZR3_IDENTIFIED_LIST(Plural, Single)                                                                            \
     ZR3_LIST(Plural, Single)                                                                                           \
 public:                                                                                                                \
+<<<<<<< HEAD
     Plural##List::Pointer Single##ByUniqueID(const QString &uniqueID) const;
+=======
+    const Plural##List::Pointer &Single##ByUniqueID(const QString &uniqueID) const                                     \
+    {                                                                                                                  \
+        return m_##Plural.byIdentity(uniqueID);                                                                        \
+    }
+>>>>>>> 2abfaa397129f8e9ed2918563407aea72f015c5f
 
 // clang-format on
 /// A claim: the one object that owns the live tree, hands out its sections and lists, gives out identities, and loads
 /// and saves itself. It holds no value of its own: every property goes to the tree each time.
 class clsZR3Form : public clsXMLRecord {
 public:
+    /// The root of the tree. Whoever has it can change what is in the items' elements too.
+    pugi::xml_node XMLNode() const;
+
     /// A valid, empty claim with the template's defaults.
     clsZR3Form();
     ~clsZR3Form();
@@ -180,6 +194,7 @@ private:
     void rendered(const DisbursementsList &) { SeparateCounselAndNonCounselDisbursements(); }
 
     void takeRoot(const clsXMLElement &root);
+    std::vector<bool> emptyDescriptions() const;
 
     clsXMLLong<"IDCounter"> m_idCounter {*this};
     clsXMLElement m_root;

@@ -25,7 +25,14 @@ public:
     clsZR3List(const clsZR3List &) = delete;
     clsZR3List &operator=(const clsZR3List &) = delete;
 
-    pugi::xml_node XMLNode() const { return m_node; }
+    /// The list's element. Whoever has it can change what is in the items' elements too.
+    pugi::xml_node XMLNode() const
+    {
+        m_handedOut = true;
+        for (const Pointer &item : m_items)
+            item->forgetElements();
+        return m_node;
+    }
     const Collection &collection() const { return m_items; }
     int count() const { return int(m_items.size()); }
 
@@ -34,11 +41,15 @@ public:
     template <class... Arguments> void render(pugi::xml_node listNode, Arguments &...arguments)
     {
         releaseItems();
+        m_handedOut = m_handedOut && m_node == listNode;
         m_node = listNode;
         m_items.clear();
         for (const pugi::xml_node child : listNode.children())
-            if (child.type() == pugi::node_element)
-                take(std::make_shared<Item>(arguments..., child));
+            if (child.type() == pugi::node_element) {
+                const auto item = std::make_shared<Item>(arguments...);
+                item->takeOver(child);
+                take(item);
+            }
         reindex();
     }
 
@@ -46,7 +57,7 @@ public:
     template <class... Arguments> const Pointer &add(Arguments &...arguments)
     {
         const Pointer item = std::make_shared<Item>(arguments...);
-        item->attachTo(m_node);
+        item->appendTo(m_node);
         take(item);
         if constexpr (requires { item->OrderID; })
             item->OrderID = count();
@@ -72,18 +83,19 @@ public:
         return m_items[size_t(index - 1)];
     }
 
-    /// The first item with that order, or nothing.
-    Pointer byOrder(int orderID) const
+    /// The first item with that order, or nothing. The pointer is the list's own, good until the list changes.
+    const Pointer &byOrder(int orderID) const
     {
         bringIndexUpToDate();
-        return m_byOrder.value(orderID);
+        const bool isOrdinary = orderID >= 1 && orderID <= count();
+        return itemAt(isOrdinary ? m_byOrder[size_t(orderID - 1)] : m_byOtherOrder.value(orderID));
     }
 
     /// The first item with that identity, compared exactly, or nothing.
-    Pointer byIdentity(const QString &uniqueID) const
+    const Pointer &byIdentity(const QString &uniqueID) const
     {
         bringIndexUpToDate();
-        return m_byIdentity.value(uniqueID);
+        return itemAt(m_byIdentity.value(uniqueID));
     }
 
 private:
@@ -96,6 +108,8 @@ private:
 
     void take(const Pointer &item)
     {
+        if (m_handedOut)
+            item->forgetElements();
         item->reportKeyWritesTo(&m_keysChanged);
         m_items.push_back(item);
     }
@@ -110,22 +124,40 @@ private:
     {
         if (!m_keysChanged)
             return;
-        m_byOrder.clear();
+        m_byOrder.assign(m_items.size(), 0);
+        m_byOtherOrder.clear();
         m_byIdentity.clear();
-        m_byOrder.reserve(qsizetype(m_items.size()));
+        int place = 0;
         for (const Pointer &item : m_items) {
-            if (Pointer &first = m_byOrder[item->OrderID()]; !first)
-                first = item;
+            ++place;
+            const int orderID = item->OrderID();
+            const bool isOrdinary = orderID >= 1 && orderID <= count();
+            keepFirst(isOrdinary ? m_byOrder[size_t(orderID - 1)] : m_byOtherOrder[orderID], place);
             if constexpr (requires { item->UniqueID; })
-                if (Pointer &first = m_byIdentity[item->UniqueID()]; !first)
-                    first = item;
+                keepFirst(m_byIdentity[item->UniqueID()], place);
         }
         m_keysChanged = false;
     }
 
+    static void keepFirst(int &first, int place)
+    {
+        if (first == 0)
+            first = place;
+    }
+
+    /// The item at a place, nothing for 0.
+    const Pointer &itemAt(int place) const
+    {
+        static const Pointer none;
+        return place > 0 ? m_items[size_t(place - 1)] : none;
+    }
+
     pugi::xml_node m_node;
     Collection m_items;
-    mutable QHash<int, Pointer> m_byOrder;
-    mutable QHash<QString, Pointer> m_byIdentity;
+    // The index: 1-based places, 0 for none.
+    mutable std::vector<int> m_byOrder; ///< by the orders from 1 to the number of items
+    mutable QHash<int, int> m_byOtherOrder;
+    mutable QHash<QString, int> m_byIdentity;
     mutable bool m_keysChanged = true;
+    mutable bool m_handedOut = false;
 };

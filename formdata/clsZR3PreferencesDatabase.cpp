@@ -32,6 +32,13 @@ clsZR3PreferencesDatabase::~clsZR3PreferencesDatabase()
     SetSoundSwitch({});
 }
 
+pugi::xml_node clsZR3PreferencesDatabase::XMLNode() const
+{
+    m_replacements.XMLNode();
+    m_rateSets.XMLNode();
+    return clsXMLRecord::XMLNode();
+}
+
 void clsZR3PreferencesDatabase::LoadXML(const QString &path)
 {
     m_root = XMLLoadElement(ReadTextDocument(path, true), "preferencesdatabase");
@@ -56,10 +63,10 @@ void clsZR3PreferencesDatabase::LoadElements()
 
 void clsZR3PreferencesDatabase::RenderReplacements()
 {
-    m_replacements.render(XMLNode().child("replacements"));
+    m_replacements.render(node().child("replacements"));
 }
 
 void clsZR3PreferencesDatabase::RenderRateSets()
 {
-    m_rateSets.render(XMLNode().child("ratesets"));
+    m_rateSets.render(node().child("ratesets"));
 }

@@ -6,8 +6,8 @@
 /// An abbreviation and the text that the boxes expand it to.
 class clsZR3Replacement : public clsZR3Item {
 public:
-    explicit clsZR3Replacement(pugi::xml_node node = {})
-        : clsZR3Item(clsXMLPropertyTable::of<clsZR3Replacement>(), "xmlZR3Replacement", node)
+    clsZR3Replacement()
+        : clsZR3Item(clsXMLPropertyTable::of<clsZR3Replacement>(), "xmlZR3Replacement")
     { }
 
     clsXMLText<"InputText"> InputText {*this};
@@ -17,8 +17,8 @@ public:
 /// A named set of the seven rates of a fee earner group, pounds as text.
 class clsZR3RateSet : public clsZR3Item {
 public:
-    explicit clsZR3RateSet(pugi::xml_node node = {})
-        : clsZR3Item(clsXMLPropertyTable::of<clsZR3RateSet>(), "xmlZR3RateSet", node)
+    clsZR3RateSet()
+        : clsZR3Item(clsXMLPropertyTable::of<clsZR3RateSet>(), "xmlZR3RateSet")
     { }
 
     clsXMLText<"Name"> Name {*this};
@@ -43,6 +43,9 @@ public:
     /// Once they stand, the log and the sounds ask them whether they are on.
     clsZR3PreferencesDatabase();
     ~clsZR3PreferencesDatabase();
+
+    /// The root of the tree. Whoever has it can change what is in the items' elements too.
+    pugi::xml_node XMLNode() const;
 
     void LoadXML(const QString &path);
     void SaveXML() const;

@@ -12,9 +12,8 @@ bool staysAsItIs(char byte)
 }
 
 /// The value of a hexadecimal digit, or -1.
-int digitValue(QChar c)
+int digitValue(char16_t u)
 {
-    const char16_t u = c.unicode();
     if (u >= u'0' && u <= u'9')
         return u - u'0';
     if (u >= u'A' && u <= u'F')
@@ -24,17 +23,48 @@ int digitValue(QChar c)
     return -1;
 }
 
+char16_t unitOf(QChar c)
+{
+    return c.unicode();
+}
+
+char16_t unitOf(char c)
+{
+    return uchar(c);
+}
+
 /// The byte that one or two hexadecimal digits stand for; 0 when they are not wholly hexadecimal, or missing.
-uchar byteOf(QStringView digits)
+template <class Character> uchar byteOf(const Character *digits, const Character *end)
 {
     int value = 0;
-    for (const QChar digit : digits) {
-        const int d = digitValue(digit);
+    for (; digits != end; ++digits) {
+        const int d = digitValue(unitOf(*digits));
         if (d < 0)
             return 0;
         value = value * 16 + d;
     }
     return uchar(value);
+}
+
+/// The text is never longer than its encoded form.
+template <class Character> QString decoded(const Character *at, const Character *end)
+{
+    QString text(end - at, Qt::Uninitialized);
+    QChar *out = text.data();
+    while (at < end) {
+        const char16_t unit = unitOf(*at++);
+        if (unit == u'+') {
+            *out++ = u' ';
+        } else if (unit == u'%') {
+            const Character *behind = at + std::min<std::ptrdiff_t>(2, end - at);
+            *out++ = mdFromCodePage(byteOf(at, behind));
+            at = behind;
+        } else {
+            *out++ = QChar(unit);
+        }
+    }
+    text.truncate(out - text.constData());
+    return text;
 }
 
 } // namespace
@@ -64,18 +94,10 @@ QByteArray URLEncode(QStringView text)
 
 QString URLDecode(QStringView encoded)
 {
-    QString text;
-    text.reserve(encoded.size());
-    for (qsizetype i = 0; i < encoded.size(); ++i) {
-        const QChar c = encoded[i];
-        if (c == u'+') {
-            text += u' ';
-        } else if (c == u'%') {
-            text += mdFromCodePage(byteOf(encoded.mid(i + 1, 2)));
-            i += 2;
-        } else {
-            text += c;
-        }
-    }
-    return text;
+    return decoded(encoded.begin(), encoded.end());
+}
+
+QString URLDecode(QLatin1String encoded)
+{
+    return decoded(encoded.begin(), encoded.end());
 }

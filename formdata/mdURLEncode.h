@@ -11,3 +11,4 @@ QByteArray URLEncode(QStringView text);
 /// The text of an encoded value. What is neither "+" nor "%" is copied, so that a plain default such as 0.00 reads
 /// like its encoded form. Two digits behind "%" are taken for granted: what is no number gives the character 0.
 QString URLDecode(QStringView encoded);
+QString URLDecode(QLatin1String encoded);

@@ -31,6 +31,8 @@ constexpr int MostItems = 250'000;
 constexpr unsigned ParseOptions
     = pugi::parse_default | pugi::parse_comments | pugi::parse_pi | pugi::parse_fragment | pugi::parse_embed_pcdata;
 
+constexpr unsigned OutputFormat = pugi::format_raw | pugi::format_no_declaration;
+
 /// True when something but comments and instructions stands beside the root: the text is then no XML document, and a
 /// save, which writes the root only, would lose the rest.
 bool hasContentBesideRoot(const pugi::xml_document &document, pugi::xml_node root)
@@ -52,7 +54,9 @@ bool isBlank(const char *text)
 /// True for a text of nothing but blanks, be it a node or the value of an element.
 bool isBlankText(const pugi::xml_node &node)
 {
-    if (!isBlank(node.value()))
+    static const char *const None = pugi::xml_node().value(); // what the library gives for no value at all
+    const char *text = node.value();
+    if (text == None || !isBlank(text))
         return false;
     return node.type() == pugi::node_pcdata || (node.type() == pugi::node_element && node.text().data() == node);
 }
@@ -93,14 +97,41 @@ public:
         const QChar *end = m_decoder.appendToBuffer(text.data() + before, piece);
         text.resize(end - text.constData());
         m_bytes += piece.size();
+        m_hasReturn = m_hasReturn || piece.contains('\r');
     }
     /// True when the text needs no reference: what this program writes is plain ASCII, which alone has as many
     /// characters as bytes.
-    bool isPlain() const { return text.size() == m_bytes && !text.contains(u'\r'); }
+    bool isPlain() const { return text.size() == m_bytes && !m_hasReturn; }
 
 private:
     QStringDecoder m_decoder {QStringDecoder::Utf8};
     qsizetype m_bytes = 0;
+    bool m_hasReturn = false;
+};
+
+/// Compares the serialisation with a text, piece by piece, for as long as it is plain.
+class TextComparison final : public pugi::xml_writer {
+public:
+    explicit TextComparison(QStringView text)
+        : m_left(text)
+    { }
+    void write(const void *data, size_t size) override
+    {
+        const QByteArrayView piece(static_cast<const char *>(data), qsizetype(size));
+        m_plain = m_plain && mdIsPlainAscii(piece) && !piece.contains('\r');
+        if (!m_same || !m_plain)
+            return;
+        m_same = m_left.startsWith(QLatin1String(piece));
+        m_left = m_same ? m_left.sliced(piece.size()) : QStringView();
+    }
+    bool isSame() const { return m_same && m_left.isEmpty(); }
+    /// False when the serialisation holds what is written otherwise than it stands in the tree.
+    bool isPlain() const { return m_plain; }
+
+private:
+    QStringView m_left;
+    bool m_same = true;
+    bool m_plain = true;
 };
 
 /// True for a character that the file can't hold as itself: one outside its code page, and a carriage return, which
@@ -147,15 +178,6 @@ QString withReferences(const QString &text)
     return written;
 }
 
-/// True when the content reads as it stands: plain ASCII without an encoded character.
-bool readsAsItStands(const char *content)
-{
-    for (; *content; ++content)
-        if (*content == '%' || *content == '+' || uchar(*content) >= 0x80)
-            return false;
-    return true;
-}
-
 /// A text too short for so many of the shortest tags need not be counted through.
 bool hasTooManyTags(const QByteArray &text)
 {
@@ -172,9 +194,15 @@ QByteArray XMLEncodeText(const QString &text)
 
 QString XMLDecodeText(const char *content)
 {
-    if (readsAsItStands(content))
-        return QString::fromLatin1(content);
-    return URLDecode(QString::fromUtf8(content));
+    bool isEncoded = false;
+    const char *end = content;
+    for (; *end; ++end) {
+        if (uchar(*end) >= 0x80) // as only another hand can have written it
+            return URLDecode(QString::fromUtf8(content));
+        isEncoded = isEncoded || *end == '%' || *end == '+';
+    }
+    const QLatin1String text(content, end - content);
+    return isEncoded ? URLDecode(text) : QString(text);
 }
 
 void XMLSetContent(pugi::xml_node element, const char *content)
@@ -218,6 +246,13 @@ clsXMLElement XMLLoadElement(QByteArray utf8, const char *name)
 QString XMLElementOutput(pugi::xml_node node)
 {
     TextWriter writer;
-    node.print(writer, "", pugi::format_raw | pugi::format_no_declaration, pugi::encoding_utf8);
+    node.print(writer, "", OutputFormat, pugi::encoding_utf8);
     return writer.isPlain() ? writer.text : withReferences(writer.text);
+}
+
+bool XMLElementOutputIs(pugi::xml_node node, const QString &text)
+{
+    TextComparison comparison(text);
+    node.print(comparison, "", OutputFormat, pugi::encoding_utf8);
+    return comparison.isPlain() ? comparison.isSame() : XMLElementOutput(node) == text;
 }

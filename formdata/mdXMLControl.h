@@ -48,3 +48,5 @@ clsXMLElement XMLLoadElement(QByteArray utf8, const char *name);
 /// The serialisation of an element with its descendants, on one line: the same tree gives the same text, which is
 /// what tells a changed claim from an unchanged one. What the code page of a file lacks stands in it as a reference.
 QString XMLElementOutput(pugi::xml_node node);
+/// True when the serialisation is that text; nothing is kept of it.
+bool XMLElementOutputIs(pugi::xml_node node, const QString &text);

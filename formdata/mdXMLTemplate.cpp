@@ -15,7 +15,8 @@ pugi::xml_node mdXMLTemplate(const char *resourceName)
 
     const QByteArray text = GetResourceData(QString::fromLatin1(resourceName), QStringLiteral("VELMORZR3XML")).toUtf8();
     pugi::xml_document document;
-    if (!document.load_buffer(text.constData(), size_t(text.size())))
+    // Its copies are to be as the rest of a claim, where a text is the value of its element.
+    if (!document.load_buffer(text.constData(), size_t(text.size()), pugi::parse_default | pugi::parse_embed_pcdata))
         throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
     return templates.emplace(resourceName, std::move(document)).first->second.document_element();
 }

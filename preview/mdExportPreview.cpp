@@ -52,6 +52,13 @@ void mdExportPreviewSetText(
     grid.SetCell(grid.Rows(), column, shown, alignment, bold, underline);
 }
 
+void mdExportPreviewSetMoney(int column, Money amount, clsGridAlignment alignment)
+{
+    oPreviewGrid &grid = mdExportPreviewGrid();
+    const QString text = mdFormatMoney(amount);
+    grid.SetCell(grid.Rows(), column, text == QLatin1String("0.00") ? QString() : text, alignment);
+}
+
 void mdExportPreviewSetFailure(int column, const QString &whyNot, clsGridAlignment alignment)
 {
     oPreviewGrid &grid = mdExportPreviewGrid();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "costing/Money.h"
 #include "preview/clsPreviewCells.h"
 
 #include <QString>
@@ -20,6 +21,8 @@ void mdExportPreviewAddRow(bool spacer);
 /// Writes a cell of the last row. Money is printed with two decimals; what is zero is not shown at all.
 void mdExportPreviewSetText(int column, const QString &text, clsGridAlignment alignment, bool bold = false,
     bool underline = false, bool money = false);
+/// The same of an amount.
+void mdExportPreviewSetMoney(int column, Money amount, clsGridAlignment alignment);
 /// Writes "!" into a cell of the last row, for a figure that can't be computed, with the reason as its tooltip.
 void mdExportPreviewSetFailure(int column, const QString &whyNot, clsGridAlignment alignment);
 /// Stripes the columns, fits the heights of the rows, and switches painting on.

@@ -4,7 +4,6 @@
 #include "costing/mdDateText.h"
 #include "costing/mdFigureFaults.h"
 #include "costing/mdGetColumnTotals.h"
-#include "formdata/clsXMLReading.h"
 #include "formdata/clsZR3Form.h"
 #include "preview/mdExportPreview.h"
 #include "preview/oPreviewGrid.h"
@@ -22,10 +21,10 @@ constexpr int ClaimColumn = 13;
 struct clsScheduleColumn {
     int share;
     const char *caption;
-    QString (*cell)(const Item &item, const Price &price);
+    QString (*cell)(const Item &item, const Price &price); ///< none where the column shows an amount
     Alignment alignment;
     int (*error)(const Item &item, const Price &price) = nullptr; ///< the number of the error of the cell's figure
-    bool money = false;
+    Money Price::*amount = nullptr;
 };
 
 QString dateOf(const Item &item)
@@ -37,8 +36,8 @@ QString dateOf(const Item &item)
 
 QString percentageOf(const Price &price)
 {
-    const QString percentage = MoneyToText(price.TotalEnhancementPercentage);
-    return percentage == QLatin1String("0") ? QString() : percentage;
+    const Money percentage = price.TotalEnhancementPercentage;
+    return percentage == Money() ? QString() : MoneyToText(percentage);
 }
 
 /// An item of which it isn't known whether it stands on the bill has no number.
@@ -78,14 +77,11 @@ const clsScheduleColumn Columns[] = {
     { 7, "Hrng",       timeIn<Item::Hearings>,                 Alignment::Centre, errorOfTime<Item::Hearings>},
     { 7, "Trvl",       timeIn<Item::TravelTime>,               Alignment::Centre, errorOfTime<Item::TravelTime>},
     { 7, "Wtng",       timeIn<Item::WaitingTime>,              Alignment::Centre, errorOfTime<Item::WaitingTime>},
-    {10, "Rate",       [](const Item &, const Price &price) { return MoneyToText(price.Rate); },       Alignment::Centre,
-        errorOf<Price::RateFigure>, true},
-    {10, "Bsc Clm",    [](const Item &, const Price &price) { return MoneyToText(price.BasicClaim); }, Alignment::Centre,
-        errorOf<Price::BasicClaimFigure>, true},
+    {10, "Rate",       nullptr, Alignment::Centre, errorOf<Price::RateFigure>, &Price::Rate},
+    {10, "Bsc Clm",    nullptr, Alignment::Centre, errorOf<Price::BasicClaimFigure>, &Price::BasicClaim},
     { 6, "Enh",        [](const Item &, const Price &price) { return percentageOf(price); },           Alignment::Centre,
         errorOf<Price::PercentageFigure>},
-    {10, "Clm",        [](const Item &, const Price &price) { return MoneyToText(price.Claim); },      Alignment::Centre,
-        errorOf<Price::ClaimFigure>, true},
+    {10, "Clm",        nullptr, Alignment::Centre, errorOf<Price::ClaimFigure>, &Price::Claim},
 };
 // clang-format on
 
@@ -123,9 +119,7 @@ void drawTotals(const clsColumnTotals &totals)
 {
     const auto drawTime
         = [](int column, const QString &time) { mdExportPreviewSetText(column, time, Alignment::Centre, true, false); };
-    const auto drawMoney = [](int column, Money amount) {
-        mdExportPreviewSetText(column, MoneyToText(amount), Alignment::Centre, false, false, true);
-    };
+    const auto drawMoney = [](int column, Money amount) { mdExportPreviewSetMoney(column, amount, Alignment::Centre); };
     mdExportPreviewAddRow(true);
     setLookOfLastRow(clsPreviewRowLook::Totals);
     for (int column = 0; column < Item::Columns; ++column)
@@ -174,7 +168,6 @@ void mdExportPreviewScheduleOfTimeDraw(const clsZR3Form &form)
 
 void mdExportPreviewScheduleOfTimeItemDraw(const clsZR3ScheduleOfTimeItem &item, clsSchedulePrices &prices)
 {
-    const clsXMLReading reading(item);
     const Price &price = prices.of(item);
     mdExportPreviewAddRow(true);
     bool failed = false;
@@ -183,8 +176,10 @@ void mdExportPreviewScheduleOfTimeItemDraw(const clsZR3ScheduleOfTimeItem &item,
         ++number;
         if (column.error && column.error(item, price))
             failed = true;
+        else if (column.amount)
+            mdExportPreviewSetMoney(number, price.*column.amount, column.alignment);
         else if (const QString text = column.cell(item, price); !text.isEmpty())
-            mdExportPreviewSetText(number, text, column.alignment, false, false, column.money);
+            mdExportPreviewSetText(number, text, column.alignment);
     }
     if (failed)
         drawFailures(item, price, prices.form());

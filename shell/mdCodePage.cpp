@@ -31,9 +31,11 @@ char byteOf(char16_t c)
     return '?';
 }
 
-/// Looks at eight bytes at a time, since nearly every file is plain ASCII and is looked at to its end.
-bool isPlainAscii(QByteArrayView bytes)
+} // namespace
+
+bool mdIsPlainAscii(QByteArrayView bytes)
 {
+    // Eight bytes at a time, since nearly every file is plain and is looked at to its end.
     constexpr std::uint64_t HighBits = 0x8080808080808080;
     const char *at = bytes.data();
     const char *const end = at + bytes.size();
@@ -45,8 +47,6 @@ bool isPlainAscii(QByteArrayView bytes)
     return std::none_of(at, end, [](char byte) { return uchar(byte) >= 0x80; });
 }
 
-} // namespace
-
 QChar mdFromCodePage(uchar byte)
 {
     return QChar(character(byte));
@@ -54,7 +54,7 @@ QChar mdFromCodePage(uchar byte)
 
 QString mdFromCodePage(QByteArrayView bytes)
 {
-    if (isPlainAscii(bytes))
+    if (mdIsPlainAscii(bytes))
         return QString::fromLatin1(bytes);
     QString text(bytes.size(), Qt::Uninitialized);
     QChar *out = text.data();
@@ -65,7 +65,7 @@ QString mdFromCodePage(QByteArrayView bytes)
 
 QByteArray mdUtf8FromCodePage(QByteArray bytes)
 {
-    return isPlainAscii(bytes) ? std::move(bytes) : mdFromCodePage(bytes).toUtf8();
+    return mdIsPlainAscii(bytes) ? std::move(bytes) : mdFromCodePage(bytes).toUtf8();
 }
 
 QByteArray mdToCodePage(QStringView text)

@@ -7,6 +7,9 @@
 /// Its five undefined bytes are the control characters of the same number, so that every byte survives a read
 /// and a write.
 
+/// Whether there is nothing but ASCII, which is the same in this page, in Latin-1 and in UTF-8.
+bool mdIsPlainAscii(QByteArrayView bytes);
+
 /// One character for each byte.
 QString mdFromCodePage(QByteArrayView bytes);
 /// The same text in UTF-8. Plain ASCII is that already and is handed back as it is.

@@ -6,6 +6,7 @@
 #include <zip.h>
 
 #include <algorithm>
+#include <deque>
 #include <memory>
 
 namespace {
@@ -165,9 +166,9 @@ private:
     zip_error_t m_error;
 };
 
+/// libzip reads the bytes when the archive is closed; the entry must outlive that.
 void addTo(zip_t *archive, const clsZipPackage::Entry &entry, bool stored)
 {
-    // libzip reads the bytes when the archive is closed, and the package outlives that.
     zip_source_t *source = entry.packed
         ? clsPackedSource::create(archive, *entry.packed)
         : zip_source_buffer(archive, entry.bytes.constData(), zip_uint64_t(entry.bytes.size()), 0);
@@ -258,8 +259,13 @@ QByteArray clsZipPackage::toBytes(Packing packing) const
     if (!archive)
         throw clsRunTimeError(clsRunTimeError::OutOfMemory);
     zip_source_keep(source.get()); // closing the archive lets go of it, and the result is read from it afterwards
-    for (const Entry *entry : ordered)
+    // What is not to be packed is unpacked here: libzip would do it, but mark the entry as one that must be unpacked.
+    std::deque<Entry> unpacked;
+    for (const Entry *entry : ordered) {
+        if (packing == Stored && entry->packed)
+            entry = &unpacked.emplace_back(Entry {entry->name, entry->packed->text(), {}});
         addTo(archive.get(), *entry, packing == Stored);
+    }
     if (zip_close(archive.get()) != 0)
         throw clsRunTimeError(clsRunTimeError::OutOfMemory);
     archive.release();

@@ -3,7 +3,6 @@
 #include "costing/mdDateText.h"
 #include "costing/mdFigureFaults.h"
 #include "costing/mdGetColumnTotals.h"
-#include "formdata/clsXMLReading.h"
 #include "shell/mdSetProgress.h"
 #include "wordexport/clsExport.h"
 #include "wordexport/mdExportCopyTemplate.h"
@@ -55,7 +54,6 @@ void typeRow(clsMSWord &word, const Item &item, const clsSchedulePrice &price)
 {
     if (price.fails())
         raiseErrorOf(item);
-    const clsXMLReading reading(item);
     typeAndMove(word, QString::number(item.SOTItemNumber), Fill::Text, 1);
     typeAndMove(word, price.FeeEarnerInitials, Fill::Text, 1);
     // In this column only; elsewhere no date prints as it stands.

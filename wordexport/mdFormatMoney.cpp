@@ -4,6 +4,8 @@
 #include "shell/mdTrimmedOfBlanks.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 
 namespace {
 
@@ -81,4 +83,32 @@ QString mdFormatMoney(const QString &text)
         digits.insert(comma, u',');
     // An amount that rounds to nothing has no sign, so that it can be told as nothing.
     return amount.negative && !nothing ? u'-' + digits : digits;
+}
+
+QString mdFormatMoney(Money amount)
+{
+    constexpr std::uint64_t PencePerPound = 100;
+    const std::int64_t pence = RoundMoney2(amount).tenThousandths() / Money::PerPenny;
+    const std::uint64_t magnitude = pence < 0 ? 0 - std::uint64_t(pence) : std::uint64_t(pence);
+
+    // From its end to its front.
+    std::array<char, 32> text;
+    char *const end = text.data() + text.size();
+    char *at = end;
+    const auto put = [&at](std::uint64_t figure) { *--at = char('0' + figure % 10); };
+    put(magnitude);
+    put(magnitude / 10);
+    *--at = '.';
+    int digits = 0;
+    std::uint64_t pounds = magnitude / PencePerPound;
+    do {
+        if (digits > 0 && digits % 3 == 0)
+            *--at = ',';
+        put(pounds);
+        pounds /= 10;
+        ++digits;
+    } while (pounds > 0);
+    if (pence < 0)
+        *--at = '-';
+    return QString::fromLatin1(at, end - at);
 }

@@ -31,32 +31,33 @@ bool standsAsItIs(QChar c)
 void clsJsonWriter::text(const char *key, const QString &value)
 {
     begin(key);
-    if (std::all_of(value.begin(), value.end(), standsAsItIs)) {
-        m_bytes += '"';
-        m_bytes += value.toLatin1();
-        m_bytes += '"';
-    } else {
-        m_bytes += quoted(value);
+    if (!std::all_of(value.begin(), value.end(), standsAsItIs)) {
+        m_text += quoted(value).toStdString();
+        return;
     }
+    m_text += '"';
+    for (const QChar c : value)
+        m_text += char(c.unicode());
+    m_text += '"';
 }
 
 void clsJsonWriter::begin(const char *key)
 {
     if (!m_first)
-        m_bytes += ',';
+        m_text += ',';
     m_first = false;
     newLine();
     if (!key)
         return;
-    m_bytes += '"';
-    m_bytes += key;
-    m_bytes += "\": ";
+    m_text += '"';
+    m_text += key;
+    m_text += "\": ";
 }
 
 void clsJsonWriter::open(const char *key, char bracket)
 {
-    if (m_bytes.isEmpty())
-        m_bytes += bracket;
+    if (m_depth == 0)
+        m_text += bracket;
     else
         raw(key, QByteArrayView(&bracket, 1));
     ++m_depth;
@@ -68,14 +69,23 @@ void clsJsonWriter::close(char bracket)
     --m_depth;
     if (!m_first)
         newLine();
-    m_bytes += bracket;
+    m_text += bracket;
     m_first = false;
     if (m_depth == 0)
-        m_bytes += '\n';
+        m_text += '\n';
 }
 
 void clsJsonWriter::newLine()
 {
-    m_bytes += '\n';
-    m_bytes.append(m_depth, ' ');
+    constexpr size_t Piece = 8192;
+    if (m_text.size() > Piece)
+        flush();
+    m_text += '\n';
+    m_text.append(size_t(m_depth), ' ');
+}
+
+void clsJsonWriter::flush()
+{
+    m_bytes.append(m_text.data(), qsizetype(m_text.size()));
+    m_text.clear();
 }

@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <string>
+
 /// Writes JSON in the order in which it is told, which the library's own objects, sorted by key, can't keep. Keys are
 /// plain words.
 class clsJsonWriter {
@@ -16,20 +18,27 @@ public:
     void number(const char *key, int value) { raw(key, QByteArray::number(value)); }
     void boolean(const char *key, bool value) { raw(key, value ? "true" : "false"); }
 
-    const QByteArray &bytes() const { return m_bytes; }
+    /// All that was written.
+    const QByteArray &bytes()
+    {
+        flush();
+        return m_bytes;
+    }
 
 private:
     void begin(const char *key);
     void raw(const char *key, QByteArrayView value)
     {
         begin(key);
-        m_bytes += value;
+        m_text.append(value.data(), size_t(value.size()));
     }
     void open(const char *key, char bracket);
     void close(char bracket);
     void newLine();
+    void flush();
 
     QByteArray m_bytes;
+    std::string m_text; ///< what comes behind it: text grows quickly here, and without being copied there
     int m_depth = 0;
     bool m_first = true;
 };

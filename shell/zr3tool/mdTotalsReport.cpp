@@ -152,7 +152,7 @@ private:
 
     void figures(std::span<const FigureRow> rows);
     void scheduleItems();
-    void scheduleItem(const clsZR3ScheduleOfTimeItem &item, const clsSchedulePrice &price, clsOnBill &isOnBill);
+    void scheduleItem(int orderID, const clsZR3ScheduleOfTimeItem &item, clsOnBill &isOnBill);
     void fasItems();
     void communications();
     void communicationLine(int line, clsCommsKind kind);
@@ -201,15 +201,14 @@ void Report::scheduleItems()
 {
     clsOnBill isOnBill(m_form);
     m_json.beginArray("ScheduleItems");
-    for (int n = 1; n <= int(m_form.ScheduleOfTimeItemsCollection().size()); ++n) {
-        const clsZR3ScheduleOfTimeItem &item = mdExisting(m_form.ScheduleOfTimeItemByOrderID(n));
-        scheduleItem(item, m_bill.prices().of(item), isOnBill);
-    }
+    for (int n = 1; n <= int(m_form.ScheduleOfTimeItemsCollection().size()); ++n)
+        scheduleItem(n, mdExisting(m_form.ScheduleOfTimeItemByOrderID(n)), isOnBill);
     m_json.endArray();
 }
 
-void Report::scheduleItem(const clsZR3ScheduleOfTimeItem &item, const clsSchedulePrice &price, clsOnBill &isOnBill)
+void Report::scheduleItem(int orderID, const clsZR3ScheduleOfTimeItem &item, clsOnBill &isOnBill)
 {
+    const clsSchedulePrice &price = m_bill.prices().of(item);
     using Price = clsSchedulePrice;
     const auto amount = [&](const char *key, Price::Figure figure, Money value) {
         if (const int error = price.errorOf(figure))
@@ -218,7 +217,7 @@ void Report::scheduleItem(const clsZR3ScheduleOfTimeItem &item, const clsSchedul
             m_json.text(key, MoneyToText(value));
     };
     const auto write = [&] {
-        m_json.number("OrderID", item.OrderID());
+        m_json.number("OrderID", orderID);
         guarded("InExport", [&] { m_json.boolean("InExport", isOnBill(item)); });
         m_json.number("SOTItemNumber", item.SOTItemNumber);
         if (const int error = price.errorOf(Price::ColumnFigure))

@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+#include <vector>
+
 namespace {
 
 struct Row {
@@ -73,6 +76,24 @@ TEST(mdFormatMoney, WhatIsNoNumberIsATypeMismatch)
 {
     for (const char *text : NoNumbers)
         EXPECT_EQ(errorOf([&] { mdFormatMoney(QString::fromUtf8(text)); }), clsRunTimeError::TypeMismatch) << text;
+}
+
+TEST(mdFormatMoney, PrintsAnAmountAsItPrintsItsText)
+{
+    std::vector<std::int64_t> counts = {0, 1, 49, 50, 51, 99, 100, 4999, 5000, 9949, 9950, 9999, 10'000, 99'949,
+        9'999'949, 9'999'950, 12'345'678, 1'000'000'000'000, std::numeric_limits<std::int64_t>::max()};
+    for (std::int64_t count = 7; count < std::numeric_limits<std::int64_t>::max() / 13; count = count * 11 + 49)
+        counts.push_back(count);
+    for (const std::int64_t count : counts)
+        for (const std::int64_t signedCount : {count, -count}) {
+            const Money amount = Money::fromTenThousandths(signedCount);
+            EXPECT_EQ(mdFormatMoney(MoneyToText(amount)), mdFormatMoney(amount)) << signedCount;
+        }
+    const Money least = Money::fromTenThousandths(std::numeric_limits<std::int64_t>::min());
+    EXPECT_EQ(QStringLiteral("-922,337,203,685,477.58"), mdFormatMoney(least));
+    EXPECT_EQ(QStringLiteral("1,234,567.90"), mdFormatMoney(MoneyFromText(QStringLiteral("1234567.895"))));
+    EXPECT_EQ(QStringLiteral("-0.01"), mdFormatMoney(MoneyFromText(QStringLiteral("-0.005"))));
+    EXPECT_EQ(QStringLiteral("0.00"), mdFormatMoney(MoneyFromText(QStringLiteral("-0.0049"))));
 }
 
 } // namespace

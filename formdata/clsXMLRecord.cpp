@@ -1,11 +1,7 @@
 #include "formdata/clsXMLRecord.h"
 
 #include "formdata/mdRecordInWords.h"
-<<<<<<< HEAD
-=======
 #include "formdata/mdXMLTemplate.h"
-#include "shell/mdNumberText.h"
->>>>>>> 2abfaa397129f8e9ed2918563407aea72f015c5f
 #include "shell/clsRunTimeError.h"
 #include "shell/mdNumberText.h"
 

@@ -83,9 +83,8 @@ clsZR3Form::clsZR3Form()
     takeRoot(emptyClaim());
 }
 
-<<<<<<< HEAD
 clsZR3Form::~clsZR3Form() = default;
-=======
+
 pugi::xml_node clsZR3Form::XMLNode() const
 {
     for (const auto handOut : {&clsZR3Form::XMLFeeEarnerGroupsNode, &clsZR3Form::XMLFeeEarnersNode,
@@ -95,7 +94,6 @@ pugi::xml_node clsZR3Form::XMLNode() const
         (this->*handOut)();
     return node();
 }
->>>>>>> 2abfaa397129f8e9ed2918563407aea72f015c5f
 
 bool clsZR3Form::LoadXML(const QString &filePath)
 {
@@ -319,14 +317,14 @@ pugi::xml_node clsZR3Form::listElement(QLatin1String plural) const
     }                                                                                                                  \
     clsZR3Form::Plural##List::Pointer clsZR3Form::Add##Single() { return identified(m_##Plural.add(*this)); }          \
     void clsZR3Form::Delete##Single(int index) { m_##Plural.remove(index); }                                           \
-    clsZR3Form::Plural##List::Pointer clsZR3Form::Single##ByOrderID(int orderID) const                                 \
+    const clsZR3Form::Plural##List::Pointer &clsZR3Form::Single##ByOrderID(int orderID) const                          \
     {                                                                                                                  \
         return m_##Plural.byOrder(orderID);                                                                            \
     }
 
 #define ZR3_IDENTIFIED_LIST(Plural, Single)                                                                            \
     ZR3_LIST(Plural, Single)                                                                                           \
-    clsZR3Form::Plural##List::Pointer clsZR3Form::Single##ByUniqueID(const QString &uniqueID) const                    \
+    const clsZR3Form::Plural##List::Pointer &clsZR3Form::Single##ByUniqueID(const QString &uniqueID) const             \
     {                                                                                                                  \
         return m_##Plural.byIdentity(uniqueID);                                                                        \
     }

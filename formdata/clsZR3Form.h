@@ -41,11 +41,7 @@ public:                                                                         
     Plural##List::Pointer Add##Single();                                                                               \
     void Delete##Single(int index);                                                                                    \
     Plural##List::Pointer Single(int index) const { return m_##Plural.at(index); }                                     \
-<<<<<<< HEAD
-    Plural##List::Pointer Single##ByOrderID(int orderID) const;                                                        \
-=======
-    const Plural##List::Pointer &Single##ByOrderID(int orderID) const { return m_##Plural.byOrder(orderID); }          \
->>>>>>> 2abfaa397129f8e9ed2918563407aea72f015c5f
+    const Plural##List::Pointer &Single##ByOrderID(int orderID) const;                                                 \
                                                                                                                        \
 private:                                                                                                               \
     Plural##List m_##Plural;
@@ -54,14 +50,7 @@ private:                                                                        
 #define ZR3_IDENTIFIED_LIST(Plural, Single)                                                                            \
     ZR3_LIST(Plural, Single)                                                                                           \
 public:                                                                                                                \
-<<<<<<< HEAD
-    Plural##List::Pointer Single##ByUniqueID(const QString &uniqueID) const;
-=======
-    const Plural##List::Pointer &Single##ByUniqueID(const QString &uniqueID) const                                     \
-    {                                                                                                                  \
-        return m_##Plural.byIdentity(uniqueID);                                                                        \
-    }
->>>>>>> 2abfaa397129f8e9ed2918563407aea72f015c5f
+    const Plural##List::Pointer &Single##ByUniqueID(const QString &uniqueID) const;
 
 // clang-format on
 /// A claim: the one object that owns the live tree, hands out its sections and lists, gives out identities, and loads

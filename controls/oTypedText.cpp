@@ -74,6 +74,11 @@ bool oTypedText::validate()
     return false;
 }
 
+bool oTypedText::refuses()
+{
+    return !m_kind.normalised(text()) && !validate();
+}
+
 bool oTypedText::leave()
 {
     if (!isVisible() || !isEnabled())

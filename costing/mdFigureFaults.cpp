@@ -4,7 +4,6 @@
 #include "costing/clsSchedulePrices.h"
 #include "costing/mdTimeFormatting.h"
 #include "costing/mdTimeToMoney.h"
-#include "formdata/clsXMLReading.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdRecordInWords.h"
 #include "shell/mdExisting.h"
@@ -265,7 +264,6 @@ QString mdSentenceFor(const clsRunTimeError &error, const clsFigureFaults &fault
 
 clsFigureFaults mdFigureFaults(const clsZR3Form &form, const clsZR3ScheduleOfTimeItem &item)
 {
-    const clsXMLReading reading(item);
     if (canBePriced(form, item))
         return {};
     clsFaultList list(item);

@@ -283,6 +283,15 @@ void clsFileSystem::CreateFolder(const QString &path) const
         fail(errno, path);
 }
 
+void clsFileSystem::CreateFolders(const QString &path) const
+{
+    if (FolderExists(path))
+        return;
+    if (const QString parent = QFileInfo(path).path(); parent != path)
+        CreateFolders(parent);
+    CreateFolder(path);
+}
+
 void clsFileSystem::DeleteFile(const QString &path) const
 {
     step(clsFileStep::Delete, path, [native = systemPath(path)] { return ::unlink(native.constData()); });

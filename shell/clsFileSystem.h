@@ -41,6 +41,8 @@ public:
     void DeleteFile(const QString &path) const;
     /// Makes a folder that only its owner can look into. One that is there already stays as it is.
     void CreateFolder(const QString &path) const;
+    /// The same, with those that are missing on the way to it.
+    void CreateFolders(const QString &path) const;
 
     /// Asked before each step; for tests, which let steps fail here or end the process between two of them.
     std::function<clsFileFault(clsFileStep step, const QString &path)> faultPoint;

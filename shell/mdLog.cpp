@@ -28,7 +28,7 @@ bool canBeKept(const QString &folder, const QString &name)
 /// log can move while the user works, and the box of a new day would make no sense then.
 QString ownFolder(const QString &folder, const QString &name)
 {
-    if (!MakeOwnFolder(folder))
+    if (LeadsOverForeignLink(folder) || !MakeOwnFolder(folder))
         return {};
     QFile file(folder + u'/' + name);
     const bool made = file.open(QIODevice::WriteOnly | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner);

@@ -102,6 +102,23 @@ TEST_F(Terminal, ShowsTheFiguresWithTheirControlCharactersEscaped)
     EXPECT_EQ(shown, run({"totals"_q, path("claim.zr3")}).out);
 }
 
+TEST_F(Terminal, ShowsWhatAnErrorComesFromOnLinesOfItsOwn)
+{
+    clsZR3Form form;
+    fill(form);
+    form.ScheduleOfTimeItem(1)->FeeEarnerUniqueID = "ID99"_q;
+    form.AddExpertInvoice()->VATAmount = QString();
+    const QByteArray item = "Schedule item 1 names a fee earner that no longer exists\n";
+    const QString claim = putClaim(form);
+    EXPECT_EQ(
+        "Totals: Some figures of this claim can't be computed. Each of them stands as \"!\" and the number of its "
+        "run-time error.\n"
+            + item + "Expert invoice 1: VAT Amount is empty\n",
+        shownBy({"totals"_q, claim}, STDERR_FILENO, 4));
+    EXPECT_EQ("Run-time error '91': Object variable or With block variable not set\n" + item,
+        shownBy({"export"_q, claim, folder.path()}, STDERR_FILENO, 4));
+}
+
 TEST_F(Terminal, ShowsTheCheckLineByLine)
 {
     clsZR3Form form;

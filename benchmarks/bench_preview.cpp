@@ -3,11 +3,11 @@
 #include "benchmarks/mdMakeClaim.h"
 #include "controls/mdTheme.h"
 #include "formdata/clsZR3Form.h"
+#include "formdata/mdGlobals.h"
 #include "preview/mdExportPreview.h"
 #include "preview/mdPreview.h"
 #include "preview/oPreviewGrid.h"
 #include "preview/oPreviewSheet.h"
-#include "shell/mdGlobals.h"
 
 #include <QApplication>
 

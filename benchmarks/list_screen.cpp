@@ -8,7 +8,7 @@
 #include "editors/frmSection.h"
 #include "editors/mdSections.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -1,6 +1,6 @@
 #include "controls/mdUserWords.h"
 
-#include "shell/mdSystemFailure.h"
+#include "base/mdSystemFailure.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,8 +1,8 @@
-#include "costing/Money.h"
-#include "costing/mdPercentageCalculate.h"
-#include "costing/mdTimeFormatting.h"
-#include "costing/mdTimeToMoney.h"
-#include "shell/mdNumberText.h"
+#include "base/Money.h"
+#include "base/mdNumberText.h"
+#include "base/mdPercentageCalculate.h"
+#include "base/mdTimeFormatting.h"
+#include "base/mdTimeToMoney.h"
 #include "tests/support/mdExpectError.h"
 #include "tests/support/mdTestPrinting.h"
 

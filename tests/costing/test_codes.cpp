@@ -1,6 +1,6 @@
 // The activity codes of the schedule of time.
 
-#include "costing/mdScheduleOfTimeCodesCollection.h"
+#include "formdata/mdScheduleOfTimeCodesCollection.h"
 #include "tests/costing/clsClaimTest.h"
 
 using Codes = clsClaimTest;

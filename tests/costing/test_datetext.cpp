@@ -1,4 +1,4 @@
-#include "costing/mdDateText.h"
+#include "base/mdDateText.h"
 
 #include <gtest/gtest.h>
 

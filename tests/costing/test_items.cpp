@@ -1,6 +1,6 @@
 // The items of the bill and what they price themselves at.
 
-#include "costing/mdScheduleOfTimeCodesCollection.h"
+#include "formdata/mdScheduleOfTimeCodesCollection.h"
 #include "tests/costing/clsClaimTest.h"
 
 namespace {

@@ -1,8 +1,8 @@
 // Prices that are worked out once for a whole schedule are those of the items, and fail as theirs do.
 
-#include "costing/clsSchedulePrices.h"
+#include "base/mdTimeFormatting.h"
 #include "costing/mdGetColumnTotals.h"
-#include "costing/mdTimeFormatting.h"
+#include "formdata/clsSchedulePrices.h"
 #include "tests/costing/clsTestClaim.h"
 #include "tests/support/mdTestPaths.h"
 

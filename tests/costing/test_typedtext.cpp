@@ -1,7 +1,7 @@
-#include "costing/mdTypedText.h"
+#include "base/mdTypedText.h"
 
-#include "shell/mdClock.h"
-#include "shell/mdNumberText.h"
+#include "base/mdClock.h"
+#include "base/mdNumberText.h"
 #include "tests/support/mdExpectError.h"
 
 #include <random>

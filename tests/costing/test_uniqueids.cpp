@@ -1,6 +1,6 @@
 // Which identities of a claim are in use.
 
-#include "costing/mdUniqueIDInUseInForm.h"
+#include "formdata/mdUniqueIDInUseInForm.h"
 #include "tests/costing/clsClaimTest.h"
 
 using UniqueIDInUse = clsClaimTest;

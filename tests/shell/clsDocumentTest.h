@@ -1,10 +1,10 @@
 #pragma once
 
+#include "base/mdGetResourceData.h"
+#include "commands/mdFileHandling.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
-#include "shell/mdFileHandling.h"
-#include "shell/mdGetResourceData.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 #include "tests/shell/clsShellTest.h"
 #include "tests/support/mdExpectError.h"
 #include "tests/support/mdTestPaths.h"

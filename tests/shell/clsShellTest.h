@@ -1,10 +1,10 @@
 #pragma once
 
-#include "shell/clsFileSystem.h"
-#include "shell/mdClock.h"
-#include "shell/mdLog.h"
-#include "shell/mdPlayWav.h"
-#include "shell/mdProgramFolder.h"
+#include "base/clsFileSystem.h"
+#include "base/mdClock.h"
+#include "base/mdLog.h"
+#include "base/mdPlayWav.h"
+#include "base/mdProgramFolder.h"
 #include "tests/support/clsScriptedUserInterface.h"
 #include "tests/support/mdTestPrinting.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/mdTextDocumentHandling.h"
+#include "base/mdTextDocumentHandling.h"
 #include "tests/shell/clsShellTest.h"
 
 /// A test of reading and writing a claim's file, which has a side file while it is written.

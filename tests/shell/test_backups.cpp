@@ -1,7 +1,7 @@
 // The ten-minute backup and the deletion of old ones.
 
-#include "shell/mdAutoDeleteBackups.h"
-#include "shell/mdAutoSave.h"
+#include "commands/mdAutoDeleteBackups.h"
+#include "commands/mdAutoSave.h"
 #include "tests/shell/clsDocumentTest.h"
 
 #include <cerrno>

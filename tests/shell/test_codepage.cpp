@@ -1,4 +1,4 @@
-#include "shell/mdCodePage.h"
+#include "base/mdCodePage.h"
 #include "tests/support/mdTestPrinting.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 // New, Open, Save, Save As and the question before a claim is dropped.
 
-#include "shell/clsQuietUserInterface.h"
-#include "shell/mdGetVersionInfo.h"
-#include "shell/mdLossCause.h"
+#include "base/clsQuietUserInterface.h"
+#include "base/mdGetVersionInfo.h"
+#include "commands/mdLossCause.h"
 #include "tests/shell/clsDocumentTest.h"
 #include "tests/support/mdOrdinaryUser.h"
 

@@ -1,5 +1,5 @@
-#include "shell/mdRegistry.h"
-#include "shell/mdTextDocumentHandling.h"
+#include "base/mdRegistry.h"
+#include "base/mdTextDocumentHandling.h"
 #include "tests/shell/clsShellTest.h"
 #include "tests/support/mdOrdinaryUser.h"
 

@@ -1,8 +1,8 @@
 // Opening a claim: the question before, the dialog, older and newer claims, and files that are none.
 
-#include "shell/clsQuietUserInterface.h"
-#include "shell/mdGetVersionInfo.h"
-#include "shell/mdLossCause.h"
+#include "base/clsQuietUserInterface.h"
+#include "base/mdGetVersionInfo.h"
+#include "commands/mdLossCause.h"
 #include "tests/shell/clsDocumentTest.h"
 
 #include <QRegularExpression>

@@ -1,6 +1,6 @@
-#include "shell/mdDatabasePath.h"
-#include "shell/mdGetResourceData.h"
-#include "shell/mdOwnDatabasePath.h"
+#include "base/mdDatabasePath.h"
+#include "base/mdGetResourceData.h"
+#include "base/mdOwnDatabasePath.h"
 #include "tests/shell/clsShellTest.h"
 #include "tests/support/mdOrdinaryUser.h"
 

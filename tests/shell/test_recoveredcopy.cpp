@@ -1,9 +1,9 @@
 // The copy of a claim that would be lost at the end of the program, and the box that tells of it.
 
-#include "shell/mdDatabasePath.h"
-#include "shell/mdLossCause.h"
-#include "shell/mdRecoveredCopy.h"
-#include "shell/mdRunTimeErrorMessage.h"
+#include "base/mdDatabasePath.h"
+#include "commands/mdLossCause.h"
+#include "commands/mdRecoveredCopy.h"
+#include "commands/mdRunTimeErrorMessage.h"
 #include "tests/shell/clsDocumentTest.h"
 #include "tests/support/mdOrdinaryUser.h"
 

@@ -1,7 +1,7 @@
-#include "shell/mdGetResourceData.h"
-#include "shell/mdGetVersionInfo.h"
-#include "shell/mdShellExecute.h"
-#include "shell/mdVersionComparison.h"
+#include "base/mdGetResourceData.h"
+#include "base/mdGetVersionInfo.h"
+#include "base/mdShellExecute.h"
+#include "base/mdVersionComparison.h"
 #include "tests/shell/clsShellTest.h"
 #include "tests/support/mdExpectError.h"
 

@@ -1,4 +1,4 @@
-#include "shell/mdSetProgress.h"
+#include "base/mdSetProgress.h"
 #include "tests/support/clsScriptedUserInterface.h"
 
 #include <gtest/gtest.h>

@@ -1,10 +1,10 @@
 // What needs no window of how the program starts and ends.
 
+#include "base/mdCommandLine.h"
+#include "base/mdEndSignals.h"
+#include "base/mdNetworkPath.h"
+#include "commands/mdRecoveredCopy.h"
 #include "costing/mdCheckForBlankItems.h"
-#include "shell/mdCommandLine.h"
-#include "shell/mdEndSignals.h"
-#include "shell/mdNetworkPath.h"
-#include "shell/mdRecoveredCopy.h"
 #include "tests/shell/clsDocumentTest.h"
 
 #include <QCoreApplication>

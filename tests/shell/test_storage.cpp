@@ -1,8 +1,8 @@
-#include "shell/clsProgramEnd.h"
-#include "shell/mdDatabaseCreation.h"
-#include "shell/mdDatabasePath.h"
-#include "shell/mdGetResourceData.h"
-#include "shell/mdRegistry.h"
+#include "base/clsProgramEnd.h"
+#include "base/mdDatabasePath.h"
+#include "base/mdGetResourceData.h"
+#include "base/mdRegistry.h"
+#include "commands/mdDatabaseCreation.h"
 #include "tests/shell/clsShellTest.h"
 
 #include <sys/stat.h>

@@ -1,10 +1,10 @@
 // A claim's file read and written, and what a failure or an end at any step leaves of it.
 
-#include "shell/clsFolderLock.h"
-#include "shell/clsWriteLock.h"
-#include "shell/mdCodePage.h"
-#include "shell/mdSideFile.h"
-#include "shell/mdTextDocumentHandling.h"
+#include "base/clsFolderLock.h"
+#include "base/clsWriteLock.h"
+#include "base/mdCodePage.h"
+#include "base/mdSideFile.h"
+#include "base/mdTextDocumentHandling.h"
 #include "tests/shell/clsTextDocumentsTest.h"
 
 #include <cerrno>

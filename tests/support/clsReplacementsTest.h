@@ -1,9 +1,9 @@
 #pragma once
 
+#include "base/mdDatabasePath.h"
+#include "base/mdGetResourceData.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
-#include "shell/mdDatabasePath.h"
-#include "shell/mdGetResourceData.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 #include "tests/shell/clsShellTest.h"
 
 /// A test in which the user has preferences, at first without abbreviations.

@@ -1,6 +1,6 @@
+#include "base/mdFormatMoney.h"
 #include "tests/support/mdExpectError.h"
 #include "tests/support/mdTestPrinting.h"
-#include "wordexport/mdFormatMoney.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 // key, or the call that opens the screen, until what comes of it is painted and nothing is left to do.
 
 #include "benchmarks/mdMakeClaim.h"
-#include "controls/mdTheme.h"
+#include "controls/mdApplyTheme.h"
 #include "controls/oSGrid.h"
 #include "editors/frmSection.h"
 #include "editors/mdSections.h"

@@ -6,7 +6,7 @@
 #include "base/mdNetworkPath.h"
 #include "base/mdProgramFolder.h"
 #include "commands/mdRecoveredCopy.h"
-#include "controls/mdTheme.h"
+#include "controls/mdApplyTheme.h"
 #include "controls/oFooterBar.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3PreferencesDatabase.h"

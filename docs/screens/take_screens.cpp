@@ -4,7 +4,7 @@
 #include "base/mdClock.h"
 #include "base/mdProgramFolder.h"
 #include "controls/frmMessageBox.h"
-#include "controls/mdTheme.h"
+#include "controls/mdApplyTheme.h"
 #include "controls/oContentSwitcher.h"
 #include "editors/frmSection.h"
 #include "editors/mdScreens.h"

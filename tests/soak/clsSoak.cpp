@@ -2,7 +2,7 @@
 
 #include "commands/mdRecoveredCopy.h"
 #include "controls/clsSpellingChecker.h"
-#include "controls/mdTheme.h"
+#include "controls/mdApplyTheme.h"
 #include "controls/oFooterBar.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3PreferencesDatabase.h"

@@ -4,8 +4,8 @@
 #include "base/mdDatabasePath.h"
 #include "base/mdGetResourceData.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
+#include "tests/base/clsShellTest.h"
 #include "tests/formdata/mdFormatTables.h"
-#include "tests/shell/clsShellTest.h"
 #include "tests/support/mdExpectError.h"
 
 namespace {

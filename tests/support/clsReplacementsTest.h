@@ -4,7 +4,7 @@
 #include "base/mdGetResourceData.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
 #include "formdata/mdGlobals.h"
-#include "tests/shell/clsShellTest.h"
+#include "tests/base/clsShellTest.h"
 
 /// A test in which the user has preferences, at first without abbreviations.
 class clsReplacementsTest : public clsShellTest {

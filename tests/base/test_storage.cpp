@@ -3,7 +3,7 @@
 #include "base/mdGetResourceData.h"
 #include "base/mdRegistry.h"
 #include "commands/mdDatabaseCreation.h"
-#include "tests/shell/clsShellTest.h"
+#include "tests/base/clsShellTest.h"
 
 #include <sys/stat.h>
 

@@ -1,6 +1,6 @@
 // Work that counts as saved and is not on the disk, when another claim is to take its place.
 
-#include "tests/shell/clsDocumentTest.h"
+#include "tests/commands/clsDocumentTest.h"
 
 #include <cerrno>
 

@@ -5,7 +5,7 @@
 #include "base/mdNetworkPath.h"
 #include "commands/mdRecoveredCopy.h"
 #include "costing/mdCheckForBlankItems.h"
-#include "tests/shell/clsDocumentTest.h"
+#include "tests/commands/clsDocumentTest.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/costing/clsTestClaim.h"
+#include "tests/formdata/clsTestClaim.h"
 
 /// A test on a claim of its own.
 class clsClaimTest : public testing::Test {

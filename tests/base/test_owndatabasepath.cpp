@@ -1,7 +1,7 @@
 #include "base/mdDatabasePath.h"
 #include "base/mdGetResourceData.h"
 #include "base/mdOwnDatabasePath.h"
-#include "tests/shell/clsShellTest.h"
+#include "tests/base/clsShellTest.h"
 #include "tests/support/mdOrdinaryUser.h"
 
 #include <QDirIterator>

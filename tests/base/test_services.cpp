@@ -2,7 +2,7 @@
 #include "base/mdGetVersionInfo.h"
 #include "base/mdShellExecute.h"
 #include "base/mdVersionComparison.h"
-#include "tests/shell/clsShellTest.h"
+#include "tests/base/clsShellTest.h"
 #include "tests/support/mdExpectError.h"
 
 #include <QRegularExpression>
@@ -157,7 +157,7 @@ TEST_F(Services, ADocumentThatNothingOpensIsToldOf)
 TEST_F(Services, TheProgramFolderIsThatOfTheRunningProgram)
 {
     SetProgramFolder(QString());
-    EXPECT_TRUE(QFileInfo(ProgramFolder() + QStringLiteral("/shell_test")).isExecutable())
+    EXPECT_TRUE(QFileInfo(ProgramFolder() + QStringLiteral("/base_test")).isExecutable())
         << qPrintable(ProgramFolder());
     EXPECT_EQ(ProgramFolder() + QStringLiteral("/Templates"), TemplatesFolder());
     EXPECT_EQ(ProgramFolder() + QStringLiteral("/Logs"), LogsFolder());

@@ -3,7 +3,7 @@
 #include "base/clsQuietUserInterface.h"
 #include "base/mdGetVersionInfo.h"
 #include "commands/mdLossCause.h"
-#include "tests/shell/clsDocumentTest.h"
+#include "tests/commands/clsDocumentTest.h"
 #include "tests/support/mdOrdinaryUser.h"
 
 #include <cerrno>

@@ -1,7 +1,7 @@
 // Which identities of a claim are in use.
 
 #include "formdata/mdUniqueIDInUseInForm.h"
-#include "tests/costing/clsClaimTest.h"
+#include "tests/formdata/clsClaimTest.h"
 
 using UniqueIDInUse = clsClaimTest;
 

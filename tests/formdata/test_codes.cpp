@@ -1,7 +1,7 @@
 // The activity codes of the schedule of time.
 
 #include "formdata/mdScheduleOfTimeCodesCollection.h"
-#include "tests/costing/clsClaimTest.h"
+#include "tests/formdata/clsClaimTest.h"
 
 using Codes = clsClaimTest;
 

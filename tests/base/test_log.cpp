@@ -1,6 +1,6 @@
 #include "base/mdRegistry.h"
 #include "base/mdTextDocumentHandling.h"
-#include "tests/shell/clsShellTest.h"
+#include "tests/base/clsShellTest.h"
 #include "tests/support/mdOrdinaryUser.h"
 
 #include <sys/stat.h>

@@ -1,6 +1,6 @@
 // Files that a claim is read from and written to, and that are no plain files of the user's own.
 
-#include "tests/shell/clsTextDocumentsTest.h"
+#include "tests/base/clsTextDocumentsTest.h"
 #include "tests/support/mdExpectError.h"
 
 #include <cerrno>

@@ -5,7 +5,7 @@
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
 #include "formdata/mdGlobals.h"
-#include "tests/shell/clsShellTest.h"
+#include "tests/base/clsShellTest.h"
 #include "tests/support/mdExpectError.h"
 #include "tests/support/mdTestPaths.h"
 

@@ -5,7 +5,7 @@
 #include "base/mdCodePage.h"
 #include "base/mdSideFile.h"
 #include "base/mdTextDocumentHandling.h"
-#include "tests/shell/clsTextDocumentsTest.h"
+#include "tests/base/clsTextDocumentsTest.h"
 
 #include <cerrno>
 #include <chrono>

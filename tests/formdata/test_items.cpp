@@ -1,7 +1,7 @@
 // The items of the bill and what they price themselves at.
 
 #include "formdata/mdScheduleOfTimeCodesCollection.h"
-#include "tests/costing/clsClaimTest.h"
+#include "tests/formdata/clsClaimTest.h"
 
 namespace {
 

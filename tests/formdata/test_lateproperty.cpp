@@ -2,7 +2,7 @@
 
 #include "formdata/mdLateProperty.h"
 #include "formdata/mdReadDerived.h"
-#include "tests/costing/clsTestClaim.h"
+#include "tests/formdata/clsTestClaim.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include "base/mdTimeFormatting.h"
 #include "costing/mdGetColumnTotals.h"
 #include "formdata/clsSchedulePrices.h"
-#include "tests/costing/clsTestClaim.h"
+#include "tests/formdata/clsTestClaim.h"
 #include "tests/support/mdTestPaths.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/mdTextDocumentHandling.h"
-#include "tests/shell/clsShellTest.h"
+#include "tests/base/clsShellTest.h"
 
 /// A test of reading and writing a claim's file, which has a side file while it is written.
 class clsTextDocumentsTest : public clsShellTest {

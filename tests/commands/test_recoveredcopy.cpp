@@ -4,7 +4,7 @@
 #include "commands/mdLossCause.h"
 #include "commands/mdRecoveredCopy.h"
 #include "commands/mdRunTimeErrorMessage.h"
-#include "tests/shell/clsDocumentTest.h"
+#include "tests/commands/clsDocumentTest.h"
 #include "tests/support/mdOrdinaryUser.h"
 
 #include <QSet>

@@ -2,7 +2,7 @@
 
 #include "commands/mdAutoDeleteBackups.h"
 #include "commands/mdAutoSave.h"
-#include "tests/shell/clsDocumentTest.h"
+#include "tests/commands/clsDocumentTest.h"
 
 #include <cerrno>
 #include <ctime>

@@ -1,8 +1,8 @@
 // The claim itself: opening, writing and pricing it.
 
 #include "benchmarks/mdMakeClaim.h"
+#include "costing/mdTotalsReport.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/zr3tool/mdTotalsReport.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,13 +1,13 @@
 // The preview: drawing it anew against filling the grid with the same texts, worked out before.
 
 #include "benchmarks/mdMakeClaim.h"
-#include "controls/mdTheme.h"
+#include "controls/mdApplyTheme.h"
 #include "formdata/clsZR3Form.h"
+#include "formdata/mdGlobals.h"
 #include "preview/mdExportPreview.h"
 #include "preview/mdPreview.h"
 #include "preview/oPreviewGrid.h"
 #include "preview/oPreviewSheet.h"
-#include "shell/mdGlobals.h"
 
 #include <QApplication>
 

@@ -3,12 +3,12 @@
 // key, or the call that opens the screen, until what comes of it is painted and nothing is left to do.
 
 #include "benchmarks/mdMakeClaim.h"
-#include "controls/mdTheme.h"
+#include "controls/mdApplyTheme.h"
 #include "controls/oSGrid.h"
 #include "editors/frmSection.h"
 #include "editors/mdSections.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -1,8 +1,8 @@
 // Writes an invented claim: zr3-make-claim ITEMS FILE
 
+#include "base/mdGetVersionInfo.h"
 #include "benchmarks/mdMakeClaim.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGetVersionInfo.h"
 
 #include <QFile>
 

@@ -1,7 +1,7 @@
 // Starts the desktop program as a user does, says on standard output when its main window can be used, and ends.
 // Usable is the moment in which the window has been painted and waits for its user with nothing left to do.
 
-#include "shell/mdProgramFolder.h"
+#include "base/mdProgramFolder.h"
 #include "shell/mdSubMain.h"
 
 #include <QApplication>

@@ -14,16 +14,39 @@ function(zr3_precompile_headers target)
     endif()
 endfunction()
 
+# The first library of a kind reads the headers in advance for all others.
+set(ZR3_CORE_FIRST zr3base)
+set(ZR3_DESKTOP_FIRST zr3controls)
+function(zr3_share_headers target kind)
+    set(first ${ZR3_${kind}_FIRST})
+    if(target STREQUAL first)
+        zr3_precompile_headers(${target} ${ZR3_${kind}_HEADERS})
+    elseif(ZR3_PRECOMPILED_HEADERS)
+        target_precompile_headers(${target} REUSE_FROM ${first})
+        target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+    endif()
+endfunction()
+
+# One library for each floor, named after its folder and linked with nothing but floors below it:
+# zr3_library(FOLDER CORE|DESKTOP LINKS LIBRARY... SOURCES FILE...).
 # In the build of ./lint each file of the core stands by itself, so that it shows whether it includes what it uses.
-function(zr3_library name kind)
-    add_library(${name} STATIC)
-    set_target_properties(${name} PROPERTIES AUTOMOC ON)
-    target_link_libraries(${name} PUBLIC zr3_options)
+function(zr3_library folder kind)
+    cmake_parse_arguments(floor "" "" "LINKS;SOURCES" ${ARGN})
+    set(name zr3${folder})
+    add_library(${name} STATIC ${floor_SOURCES})
+    if(kind STREQUAL DESKTOP)
+        set_target_properties(${name} PROPERTIES AUTOMOC ON)
+    endif()
+    target_link_libraries(${name} PUBLIC zr3_options ${floor_LINKS})
     zr3_harden(${name})
+    if(ZR3_FUZZ AND kind STREQUAL CORE)
+        # Attacked some million times a run, it is worth a little optimisation; of the debugger's data the lines suffice.
+        target_compile_options(${name} PRIVATE -fsanitize=fuzzer-no-link -O1 -gline-tables-only)
+    endif()
     if(ZR3_LINT AND kind STREQUAL CORE)
         return()
     endif()
-    zr3_precompile_headers(${name} ${ZR3_${kind}_HEADERS})
-    # When all folders have named their sources.
+    zr3_share_headers(${name} ${kind})
+    # When the whole build is described.
     cmake_language(EVAL CODE "cmake_language(DEFER DIRECTORY [[${CMAKE_SOURCE_DIR}]] CALL zr3_unite [[${name}]])")
 endfunction()

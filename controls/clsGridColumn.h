@@ -1,7 +1,7 @@
 #pragma once
 
+#include "controls/clsGridAlignment.h"
 #include "controls/mdTheme.h"
-#include "shell/clsGridAlignment.h"
 
 #include <QString>
 

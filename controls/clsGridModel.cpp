@@ -1,9 +1,9 @@
 #include "controls/clsGridModel.h"
 
+#include "base/clsRunTimeError.h"
+#include "base/mdNumberText.h"
+#include "base/mdSetProgress.h"
 #include "formdata/mdLateProperty.h"
-#include "shell/clsRunTimeError.h"
-#include "shell/mdNumberText.h"
-#include "shell/mdSetProgress.h"
 
 namespace {
 

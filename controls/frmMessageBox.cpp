@@ -1,12 +1,12 @@
 #include "controls/frmMessageBox.h"
 
+#include "base/mdPlayWav.h"
+#include "base/mdProgramFolder.h"
 #include "controls/mdLargestWindow.h"
 #include "controls/mdLine.h"
 #include "controls/mdTheme.h"
 #include "controls/oCustomButton.h"
 #include "controls/oHeaderBar.h"
-#include "shell/mdPlayWav.h"
-#include "shell/mdProgramFolder.h"
 
 #include <QGuiApplication>
 #include <QHBoxLayout>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/clsUserInterface.h"
+#include "base/clsUserInterface.h"
 
 #include <QDialog>
 

@@ -4,8 +4,6 @@
 #include <QFont>
 #include <QFontMetrics>
 
-class QApplication;
-
 /// What the program looks like, in one place: every colour, space and size that a window uses.
 /// There is one light theme. The colours are picked for white surfaces, and a dark desktop does not change them.
 namespace Theme {
@@ -62,6 +60,3 @@ int boxHeight(const QFontMetrics &metrics);
 inline constexpr int RingRoom = 4;
 
 } // namespace Theme
-
-/// Gives the program its style and palette. To be called once, before any window is made.
-void mdApplyTheme(QApplication &application);

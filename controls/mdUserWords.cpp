@@ -1,8 +1,8 @@
 #include "controls/mdUserWords.h"
 
-#include "shell/clsFileSystem.h"
-#include "shell/clsRunTimeError.h"
-#include "shell/mdSystemFailure.h"
+#include "base/clsFileSystem.h"
+#include "base/clsRunTimeError.h"
+#include "base/mdSystemFailure.h"
 
 #include <QFileInfo>
 #include <QSaveFile>

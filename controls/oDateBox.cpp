@@ -1,11 +1,11 @@
 #include "controls/oDateBox.h"
 
+#include "base/mdClock.h"
+#include "base/mdDateText.h"
+#include "base/mdTypedText.h"
 #include "controls/mdTheme.h"
 #include "controls/oCheckBox.h"
 #include "controls/oTypedText.h"
-#include "costing/mdDateText.h"
-#include "costing/mdTypedText.h"
-#include "shell/mdClock.h"
 
 #include <QBoxLayout>
 

@@ -1,7 +1,7 @@
 #include "controls/oDecimalBox.h"
 
+#include "base/mdTypedText.h"
 #include "controls/oTypedText.h"
-#include "costing/mdTypedText.h"
 
 namespace {
 

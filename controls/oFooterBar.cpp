@@ -1,11 +1,11 @@
 #include "controls/oFooterBar.h"
 
+#include "base/mdClock.h"
+#include "base/mdGetVersionInfo.h"
 #include "controls/mdLine.h"
 #include "controls/mdPaintControls.h"
 #include "controls/mdTheme.h"
 #include "controls/oTimeSpentBox.h"
-#include "shell/mdClock.h"
-#include "shell/mdGetVersionInfo.h"
 
 #include <QEvent>
 #include <QHBoxLayout>

@@ -1,7 +1,7 @@
 #include "controls/oIntegerBox.h"
 
+#include "base/mdTypedText.h"
 #include "controls/oTypedText.h"
-#include "costing/mdTypedText.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "controls/oTimeBox.h"
 
+#include "base/mdTypedText.h"
 #include "controls/oTypedText.h"
-#include "costing/mdTypedText.h"
 
 namespace {
 

@@ -1,12 +1,12 @@
 #include "controls/oTimeSpentBox.h"
 
+#include "base/clsRunTimeError.h"
+#include "base/mdTypedText.h"
 #include "controls/mdTheme.h"
 #include "controls/oCustomButton.h"
 #include "controls/oTimeBox.h"
-#include "costing/mdTypedText.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/clsRunTimeError.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 #include <QEvent>
 #include <QHBoxLayout>

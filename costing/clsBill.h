@@ -1,7 +1,7 @@
 #pragma once
 
 #include "costing/clsColumnTotals.h"
-#include "costing/clsSchedulePrices.h"
+#include "formdata/clsSchedulePrices.h"
 
 /// A claim for whoever asks for several figures of its bill: each item is priced once, and what is added up of all
 /// items is added up once, when it is first asked for. It is for one piece of work on a claim that stays as it is

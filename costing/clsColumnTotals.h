@@ -1,8 +1,8 @@
 #pragma once
 
-#include "costing/Money.h"
-#include "costing/clsZR3ScheduleOfTimeItem.h"
-#include "shell/clsRunTimeError.h"
+#include "base/Money.h"
+#include "base/clsRunTimeError.h"
+#include "formdata/clsZR3ScheduleOfTimeItem.h"
 
 #include <QString>
 

@@ -1,12 +1,12 @@
 #include "costing/mdCheckForBlankItems.h"
 
+#include "base/mdCustomMessages.h"
+#include "base/mdLog.h"
+#include "base/mdNumberText.h"
+#include "base/mdTimeFormatting.h"
 #include "costing/mdFigureFaults.h"
-#include "costing/mdTimeFormatting.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdCustomMessages.h"
-#include "shell/mdGlobals.h"
-#include "shell/mdLog.h"
-#include "shell/mdNumberText.h"
+#include "formdata/mdGlobals.h"
 
 namespace {
 

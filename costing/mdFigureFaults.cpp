@@ -1,14 +1,14 @@
 #include "costing/mdFigureFaults.h"
 
-#include "costing/Money.h"
-#include "costing/clsSchedulePrices.h"
-#include "costing/mdTimeFormatting.h"
-#include "costing/mdTimeToMoney.h"
+#include "base/Money.h"
+#include "base/mdExisting.h"
+#include "base/mdNumberText.h"
+#include "base/mdTimeFormatting.h"
+#include "base/mdTimeToMoney.h"
+#include "base/mdTrimmedOfBlanks.h"
+#include "formdata/clsSchedulePrices.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdRecordInWords.h"
-#include "shell/mdExisting.h"
-#include "shell/mdNumberText.h"
-#include "shell/mdTrimmedOfBlanks.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/clsRunTimeError.h"
 #include "costing/mdGetCommsInfo.h"
-#include "shell/clsRunTimeError.h"
 
 #include <QString>
 

@@ -1,12 +1,12 @@
 #include "costing/mdGetBillSummary.h"
 
+#include "base/mdPercentageCalculate.h"
+#include "base/mdSumOf.h"
 #include "costing/mdFigureFaults.h"
 #include "costing/mdGetCommsInfo.h"
 #include "costing/mdGetCounselTotals.h"
 #include "costing/mdGetDisbursementsTotals.h"
 #include "costing/mdGetFASTotals.h"
-#include "costing/mdPercentageCalculate.h"
-#include "costing/mdSumOf.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdRecordInWords.h"
 

@@ -1,11 +1,11 @@
 #include "costing/mdGetColumnTotals.h"
 
-#include "costing/clsSchedulePrices.h"
+#include "base/mdNumberText.h"
+#include "base/mdTimeFormatting.h"
 #include "costing/mdFigureFaults.h"
 #include "costing/mdGetFASTotals.h"
-#include "costing/mdTimeFormatting.h"
 #include "formdata/clsOnBill.h"
-#include "shell/mdNumberText.h"
+#include "formdata/clsSchedulePrices.h"
 
 namespace {
 

@@ -1,12 +1,12 @@
 #include "costing/mdGetCommsInfo.h"
 
+#include "base/mdExisting.h"
+#include "base/mdNumberText.h"
+#include "base/mdPercentageCalculate.h"
+#include "base/mdSumOf.h"
 #include "costing/mdFigureFaults.h"
 #include "costing/mdGetColumnTotals.h"
-#include "costing/mdPercentageCalculate.h"
-#include "costing/mdSumOf.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdExisting.h"
-#include "shell/mdNumberText.h"
 
 namespace {
 

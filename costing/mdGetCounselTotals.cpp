@@ -1,8 +1,8 @@
 #include "costing/mdGetCounselTotals.h"
 
-#include "costing/mdSumOf.h"
+#include "base/mdExisting.h"
+#include "base/mdSumOf.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdExisting.h"
 
 namespace {
 

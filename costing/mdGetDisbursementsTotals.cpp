@@ -1,34 +1,34 @@
 #include "costing/mdGetDisbursementsTotals.h"
 
-#include "costing/mdSumOf.h"
+#include "costing/mdSumOfField.h"
 #include "formdata/clsZR3Form.h"
 
 Money CounselDisbursementsAmountTotal(const clsZR3Form &form)
 {
-    return mdSumOf(form, form.CounselDisbursementsCollection(), &clsZR3Disbursement::Amount);
+    return mdSumOfField(form, form.CounselDisbursementsCollection(), &clsZR3Disbursement::Amount);
 }
 
 Money CounselDisbursementsVATTotal(const clsZR3Form &form)
 {
-    return mdSumOf(form, form.CounselDisbursementsCollection(), &clsZR3Disbursement::VAT);
+    return mdSumOfField(form, form.CounselDisbursementsCollection(), &clsZR3Disbursement::VAT);
 }
 
 Money NonCounselDisbursementsAmountTotal(const clsZR3Form &form)
 {
-    return mdSumOf(form, form.NonCounselDisbursementsCollection(), &clsZR3Disbursement::Amount);
+    return mdSumOfField(form, form.NonCounselDisbursementsCollection(), &clsZR3Disbursement::Amount);
 }
 
 Money NonCounselDisbursementsVATTotal(const clsZR3Form &form)
 {
-    return mdSumOf(form, form.NonCounselDisbursementsCollection(), &clsZR3Disbursement::VAT);
+    return mdSumOfField(form, form.NonCounselDisbursementsCollection(), &clsZR3Disbursement::VAT);
 }
 
 Money ExpertInvoicesNetTotal(const clsZR3Form &form)
 {
-    return mdSumOf(form, form.ExpertInvoicesCollection(), &clsZR3ExpertInvoice::NetAmount);
+    return mdSumOfField(form, form.ExpertInvoicesCollection(), &clsZR3ExpertInvoice::NetAmount);
 }
 
 Money ExpertInvoicesVATTotal(const clsZR3Form &form)
 {
-    return mdSumOf(form, form.ExpertInvoicesCollection(), &clsZR3ExpertInvoice::VATAmount);
+    return mdSumOfField(form, form.ExpertInvoicesCollection(), &clsZR3ExpertInvoice::VATAmount);
 }

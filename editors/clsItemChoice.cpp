@@ -1,5 +1,6 @@
 #include "editors/clsItemChoice.h"
 
+#include "base/clsRunTimeError.h"
 #include "controls/mdTheme.h"
 #include "controls/mdToolTip.h"
 #include "controls/oCheckBox.h"
@@ -7,7 +8,6 @@
 #include "editors/mdComboboxSelectByItemData.h"
 #include "editors/oScreenList.h"
 #include "formdata/clsXMLRecord.h"
-#include "shell/clsRunTimeError.h"
 
 #include <QHBoxLayout>
 #include <QSignalBlocker>

@@ -1,18 +1,18 @@
 #include "editors/clsListActions.h"
 
+#include "base/mdCustomMessages.h"
 #include "controls/mdIcons.h"
 #include "controls/mdLeaveFocusedBox.h"
 #include "controls/mdTheme.h"
 #include "controls/oCustomButton.h"
 #include "controls/oSGrid.h"
-#include "costing/mdUniqueIDInUseInForm.h"
 #include "editors/frmSection.h"
 #include "editors/mdConfirmDelete.h"
 #include "editors/mdEditItem.h"
 #include "formdata/clsXMLRecord.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdCustomMessages.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
+#include "formdata/mdUniqueIDInUseInForm.h"
 
 #include <QMenu>
 

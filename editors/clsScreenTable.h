@@ -1,8 +1,8 @@
 #pragma once
 
+#include "controls/clsGridAlignment.h"
 #include "controls/mdIcons.h"
 #include "costing/mdFigureFaults.h"
-#include "shell/clsGridAlignment.h"
 
 #include <QStringList>
 

@@ -1,13 +1,13 @@
 #include "editors/mdScreens.h"
 
+#include "base/mdPercentageCalculate.h"
 #include "controls/oCustomButton.h"
 #include "controls/oDecimalBox.h"
 #include "costing/mdGetColumnTotals.h"
 #include "costing/mdGetCommsInfo.h"
-#include "costing/mdPercentageCalculate.h"
 #include "editors/frmSection.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "editors/mdScreens.h"
 
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 /// The dates and the court of the case.
 const clsScreen &ScreenCaseInformation()

@@ -1,7 +1,7 @@
 #include "editors/mdScreens.h"
 
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 /// The client. Seven characters for a first name are what the printed box holds.
 const clsScreen &ScreenClientDetails()

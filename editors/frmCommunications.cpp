@@ -1,17 +1,17 @@
 #include "editors/mdScreens.h"
 
+#include "base/mdNumberText.h"
+#include "base/mdPlayWav.h"
+#include "base/mdProgramFolder.h"
 #include "controls/oSGrid.h"
-#include "costing/clsZR3FeeEarner.h"
 #include "editors/frmSection.h"
 #include "editors/mdCountComms.h"
 #include "editors/mdEditItem.h"
 #include "editors/mdInOrder.h"
 #include "editors/oEnhancementsBox.h"
+#include "formdata/clsZR3FeeEarner.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
-#include "shell/mdNumberText.h"
-#include "shell/mdPlayWav.h"
-#include "shell/mdProgramFolder.h"
+#include "formdata/mdGlobals.h"
 
 namespace {
 

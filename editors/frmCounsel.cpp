@@ -2,7 +2,7 @@
 
 #include "controls/oSGrid.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 namespace {
 

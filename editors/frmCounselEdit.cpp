@@ -1,7 +1,7 @@
 #include "editors/mdScreens.h"
 
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 /// A barrister: the name, the account that the claim names beside the fee, and whether VAT is charged.
 const clsScreen &ScreenCounselEdit()

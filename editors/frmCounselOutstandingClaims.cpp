@@ -1,7 +1,7 @@
 #include "editors/mdScreens.h"
 
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 /// Whether counsel's claims for payment have been paid.
 const clsScreen &ScreenCounselOutstandingClaims()

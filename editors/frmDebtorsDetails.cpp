@@ -1,7 +1,7 @@
 #include "editors/mdScreens.h"
 
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 /// Who owes the costs. Unlike on every other screen no tick clears another one here, neither those of the debtor's
 /// work nor those of the question: that is meant, and the export prints what it is given.

@@ -1,7 +1,7 @@
 #include "editors/mdScreens.h"
 
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 /// Costs awarded to the client, and what became of them. The total is typed and not added up, and an amount that hangs
 /// on a question stays open whatever the answer. Only one of the forms prints the total: its frame says so, within the

@@ -1,7 +1,7 @@
 #include "editors/mdScreens.h"
 
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 /// The work that is claimed, and why an enhancement is asked for. Both texts run on to continuation sheets.
 const clsScreen &ScreenDetailsOfWork()

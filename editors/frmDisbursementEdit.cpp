@@ -3,7 +3,7 @@
 #include "editors/mdCalculateVAT.h"
 #include "editors/oCounselBox.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "editors/mdScreens.h"
 
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 /// A named percentage. Any rate is taken, one of nothing too, which has no effect.
 const clsScreen &ScreenEnhancementEdit()

@@ -2,7 +2,7 @@
 
 #include "editors/mdCalculateVAT.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "editors/mdScreens.h"
 
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 /// A hearing that is paid by units, with its bolt-ons and fixed payments. Its VAT is typed and not worked out.
 const clsScreen &ScreenFASItemEdit()

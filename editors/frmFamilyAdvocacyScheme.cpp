@@ -3,7 +3,7 @@
 #include "controls/oSGrid.h"
 #include "editors/mdItemFaults.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 namespace {
 

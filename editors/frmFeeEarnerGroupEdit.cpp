@@ -12,7 +12,7 @@
 #include "editors/mdShowPreferences.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 #include <QAction>
 #include <QMenu>

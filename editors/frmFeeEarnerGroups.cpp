@@ -1,11 +1,11 @@
 #include "editors/mdScreens.h"
 
+#include "base/mdCustomMessages.h"
 #include "controls/oSGrid.h"
 #include "editors/frmSection.h"
 #include "editors/mdItemFaults.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdCustomMessages.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 #include <QSet>
 

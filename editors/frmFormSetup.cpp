@@ -4,7 +4,7 @@
 #include "controls/oDecimalBox.h"
 #include "editors/frmSection.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 #include <QComboBox>
 

@@ -1,7 +1,7 @@
 #include "editors/mdScreens.h"
 
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 /// A party's share in an expert who was instructed jointly.
 const clsScreen &ScreenJointInstructionEdit()

@@ -1,7 +1,7 @@
 #include "editors/mdScreens.h"
 
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 /// Why the claim is late. A longer explanation runs on to a continuation sheet.
 const clsScreen &ScreenLateSubmission()

@@ -1,7 +1,7 @@
 #include "editors/mdScreens.h"
 
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 /// What kind of family proceedings. A case can be of several kinds, whose ticks are independent; only the two
 /// questions are pairs.

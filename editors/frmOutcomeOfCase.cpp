@@ -1,8 +1,8 @@
 #include "editors/mdScreens.h"
 
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
-#include "wordexport/mdOutcomesCollections.h"
+#include "formdata/mdGlobals.h"
+#include "formdata/mdOutcomesCollections.h"
 
 /// How the case ended. A list is stored by the place of its entry, so that the order of the lists is part of the file
 /// format. What was awarded can be several things at once. The last two frames only say that their dates belong to one

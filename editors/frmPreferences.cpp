@@ -1,5 +1,6 @@
 #include "editors/mdScreens.h"
 
+#include "base/mdGetFolder.h"
 #include "controls/clsSpellingChecker.h"
 #include "controls/oAllPurposeBox.h"
 #include "controls/oCheckBox.h"
@@ -8,8 +9,7 @@
 #include "editors/frmSection.h"
 #include "editors/oSpellingNote.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
-#include "shell/mdGetFolder.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 namespace {
 

@@ -1,12 +1,12 @@
 #include "editors/mdScreens.h"
 
+#include "base/Money.h"
+#include "base/mdNumberText.h"
 #include "controls/oDecimalBox.h"
-#include "costing/Money.h"
 #include "editors/frmSection.h"
 #include "editors/mdConnectCalculate.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
-#include "shell/mdGlobals.h"
-#include "shell/mdNumberText.h"
+#include "formdata/mdGlobals.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "editors/mdScreens.h"
 
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 /// Advice under legal help before the certificate. The second frame only says that its question belongs to one form
 /// type: its fields stay open on both, and so does the box for the reasons, whatever is ticked above it.

@@ -1,11 +1,11 @@
 #include "editors/mdScreens.h"
 
+#include "base/mdCustomMessages.h"
 #include "controls/oAllPurposeBox.h"
 #include "editors/frmSection.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
+#include "formdata/mdGlobals.h"
 #include "formdata/mdReplacements.h"
-#include "shell/mdCustomMessages.h"
-#include "shell/mdGlobals.h"
 
 namespace {
 

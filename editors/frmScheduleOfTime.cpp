@@ -4,7 +4,7 @@
 #include "editors/frmSection.h"
 #include "editors/mdItemFaults.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 namespace {
 

@@ -9,7 +9,7 @@
 #include "editors/oEnhancementsBox.h"
 #include "editors/oFeeEarnerCombo.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -1,5 +1,8 @@
 #include "editors/frmSection.h"
 
+#include "base/clsRunTimeError.h"
+#include "base/mdLog.h"
+#include "commands/mdFileHandling.h"
 #include "controls/mdLeaveFocusedBox.h"
 #include "controls/mdTheme.h"
 #include "controls/oCheckBox.h"
@@ -24,10 +27,7 @@
 #include "editors/oScreenFrame.h"
 #include "editors/oScreenPage.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/clsRunTimeError.h"
-#include "shell/mdFileHandling.h"
-#include "shell/mdGlobals.h"
-#include "shell/mdLog.h"
+#include "formdata/mdGlobals.h"
 
 #include <QCloseEvent>
 #include <QMenuBar>

@@ -1,6 +1,6 @@
 #include "editors/mdCheckForBlanks.h"
 
-#include "shell/mdCustomMessages.h"
+#include "base/mdCustomMessages.h"
 
 bool mdCheckForBlanks(const QStringList &texts)
 {

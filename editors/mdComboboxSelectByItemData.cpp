@@ -1,6 +1,6 @@
 #include "editors/mdComboboxSelectByItemData.h"
 
-#include "shell/mdLog.h"
+#include "base/mdLog.h"
 
 #include <QComboBox>
 #include <QVariant>

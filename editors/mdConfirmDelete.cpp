@@ -1,6 +1,6 @@
 #include "editors/mdConfirmDelete.h"
 
-#include "shell/mdCustomMessages.h"
+#include "base/mdCustomMessages.h"
 
 bool mdConfirmDelete(const QString &what, bool many)
 {

@@ -1,7 +1,7 @@
 #include "editors/mdCountComms.h"
 
-#include "costing/clsZR3FeeEarner.h"
-#include "shell/clsRunTimeError.h"
+#include "base/clsRunTimeError.h"
+#include "formdata/clsZR3FeeEarner.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,7 +1,7 @@
 #include "editors/mdLoadMenuFromCollection.h"
 
+#include "base/clsRunTimeError.h"
 #include "editors/mdFormatTextForMenu.h"
-#include "shell/clsRunTimeError.h"
 
 #include <QAction>
 #include <QMenu>

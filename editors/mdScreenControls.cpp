@@ -1,5 +1,7 @@
 #include "editors/mdScreenControls.h"
 
+#include "base/clsRunTimeError.h"
+#include "base/mdNumberText.h"
 #include "controls/mdCaption.h"
 #include "controls/mdTheme.h"
 #include "controls/oAllPurposeBox.h"
@@ -12,8 +14,6 @@
 #include "controls/oTimeBox.h"
 #include "editors/oScreenList.h"
 #include "formdata/clsXMLRecord.h"
-#include "shell/clsRunTimeError.h"
-#include "shell/mdNumberText.h"
 
 namespace {
 

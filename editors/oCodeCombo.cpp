@@ -2,8 +2,8 @@
 
 #include "controls/mdLeaveFocusedBox.h"
 #include "controls/mdTheme.h"
-#include "costing/clsZR3ScheduleOfTimeItem.h"
-#include "costing/mdScheduleOfTimeCodesCollection.h"
+#include "formdata/clsZR3ScheduleOfTimeItem.h"
+#include "formdata/mdScheduleOfTimeCodesCollection.h"
 
 #include <QFocusEvent>
 #include <QLineEdit>

@@ -7,7 +7,7 @@
 #include "editors/mdEditItem.h"
 #include "editors/mdScreens.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 #include <QHBoxLayout>
 

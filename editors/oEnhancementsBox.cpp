@@ -3,7 +3,7 @@
 #include "editors/clsItemChoice.h"
 #include "editors/clsScreenTable.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
 #include "editors/oFeeEarnerCombo.h"
 
+#include "base/clsRunTimeError.h"
 #include "editors/mdComboboxSelectByItemData.h"
 #include "editors/mdInOrder.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/clsRunTimeError.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 #include <QAbstractItemView>
 #include <QKeyEvent>

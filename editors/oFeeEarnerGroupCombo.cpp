@@ -3,7 +3,7 @@
 #include "editors/mdComboboxSelectByItemData.h"
 #include "editors/mdInOrder.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 #include <QSignalBlocker>
 

@@ -1,7 +1,7 @@
 #include "formdata/clsDocument.h"
 
+#include "base/clsRunTimeError.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/clsRunTimeError.h"
 
 #include <QFileInfo>
 

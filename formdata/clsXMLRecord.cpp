@@ -1,9 +1,9 @@
 #include "formdata/clsXMLRecord.h"
 
+#include "base/clsRunTimeError.h"
+#include "base/mdNumberText.h"
 #include "formdata/mdRecordInWords.h"
 #include "formdata/mdXMLTemplate.h"
-#include "shell/clsRunTimeError.h"
-#include "shell/mdNumberText.h"
 
 #include <cstring>
 #include <optional>

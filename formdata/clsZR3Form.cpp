@@ -1,14 +1,14 @@
 #include "formdata/clsZR3Form.h"
 
+#include "base/clsRunTimeError.h"
+#include "base/mdCustomMessages.h"
+#include "base/mdGetResourceData.h"
+#include "base/mdNumberText.h"
+#include "base/mdSetProgress.h"
+#include "base/mdTextDocumentHandling.h"
 #include "formdata/clsOnBill.h"
 #include "formdata/mdXMLGenerateNodes.h"
 #include "formdata/mdXMLTemplate.h"
-#include "shell/clsRunTimeError.h"
-#include "shell/mdCustomMessages.h"
-#include "shell/mdGetResourceData.h"
-#include "shell/mdNumberText.h"
-#include "shell/mdSetProgress.h"
-#include "shell/mdTextDocumentHandling.h"
 
 #include <limits>
 

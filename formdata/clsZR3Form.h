@@ -1,19 +1,19 @@
 #pragma once
 
-#include "costing/clsZR3Communications.h"
-#include "costing/clsZR3Counsel.h"
-#include "costing/clsZR3Disbursement.h"
-#include "costing/clsZR3Enhancement.h"
-#include "costing/clsZR3ExpertInvoice.h"
-#include "costing/clsZR3FASItem.h"
-#include "costing/clsZR3FeeEarner.h"
-#include "costing/clsZR3FeeEarnerGroup.h"
-#include "costing/clsZR3JointInstruction.h"
-#include "costing/clsZR3ScheduleOfTimeItem.h"
+#include "base/clsRunTimeError.h"
 #include "formdata/clsXMLRecord.h"
+#include "formdata/clsZR3Communications.h"
+#include "formdata/clsZR3Counsel.h"
+#include "formdata/clsZR3Disbursement.h"
+#include "formdata/clsZR3Enhancement.h"
+#include "formdata/clsZR3ExpertInvoice.h"
+#include "formdata/clsZR3FASItem.h"
+#include "formdata/clsZR3FeeEarner.h"
+#include "formdata/clsZR3FeeEarnerGroup.h"
+#include "formdata/clsZR3JointInstruction.h"
 #include "formdata/clsZR3List.h"
+#include "formdata/clsZR3ScheduleOfTimeItem.h"
 #include "formdata/clsZR3Sections.h"
-#include "shell/clsRunTimeError.h"
 
 #include <optional>
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/clsRunTimeError.h"
 #include "formdata/mdReIndexCollection.h"
 #include "formdata/mdXMLControl.h"
-#include "shell/clsRunTimeError.h"
 
 #include <QHash>
 

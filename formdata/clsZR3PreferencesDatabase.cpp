@@ -1,12 +1,12 @@
 #include "formdata/clsZR3PreferencesDatabase.h"
 
+#include "base/clsRunTimeError.h"
+#include "base/mdDatabasePath.h"
+#include "base/mdLog.h"
+#include "base/mdPlayWav.h"
+#include "base/mdTextDocumentHandling.h"
 #include "formdata/mdXMLGenerateNodes.h"
 #include "formdata/mdXMLTemplate.h"
-#include "shell/clsRunTimeError.h"
-#include "shell/mdDatabasePath.h"
-#include "shell/mdLog.h"
-#include "shell/mdPlayWav.h"
-#include "shell/mdTextDocumentHandling.h"
 
 namespace {
 

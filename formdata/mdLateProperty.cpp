@@ -1,7 +1,7 @@
 #include "formdata/mdLateProperty.h"
 
+#include "base/mdNumberText.h"
 #include "formdata/mdReadDerived.h"
-#include "shell/mdNumberText.h"
 
 namespace {
 

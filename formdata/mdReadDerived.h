@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/clsRunTimeError.h"
 #include "formdata/clsXMLRecord.h"
-#include "shell/clsRunTimeError.h"
 
 /// The text of a derived value, as a cell or a menu shows it.
 inline QString mdLateText(const QString &value)

@@ -1,7 +1,7 @@
 #include "formdata/mdReplacements.h"
 
 #include "formdata/clsZR3PreferencesDatabase.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 
 #include <algorithm>
 

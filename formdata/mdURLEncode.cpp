@@ -1,6 +1,6 @@
 #include "formdata/mdURLEncode.h"
 
-#include "shell/mdCodePage.h"
+#include "base/mdCodePage.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #include "formdata/mdXMLControl.h"
 
+#include "base/mdCodePage.h"
 #include "formdata/mdURLEncode.h"
 #include "formdata/mdXMLReplaceProblemCharacters.h"
-#include "shell/mdCodePage.h"
 
 #include <QStringDecoder>
 

@@ -1,7 +1,7 @@
 #include "formdata/mdXMLTemplate.h"
 
-#include "shell/clsRunTimeError.h"
-#include "shell/mdGetResourceData.h"
+#include "base/clsRunTimeError.h"
+#include "base/mdGetResourceData.h"
 
 #include <map>
 #include <string_view>

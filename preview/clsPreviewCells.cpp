@@ -1,6 +1,6 @@
 #include "preview/clsPreviewCells.h"
 
-#include "shell/clsRunTimeError.h"
+#include "base/clsRunTimeError.h"
 
 void clsPreviewCells::RemoveAll()
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/clsGridAlignment.h"
+#include "controls/clsGridAlignment.h"
 
 #include <QHash>
 #include <QString>

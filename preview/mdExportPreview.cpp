@@ -1,11 +1,11 @@
 #include "preview/mdExportPreview.h"
 
+#include "base/clsRunTimeError.h"
+#include "base/mdDateText.h"
+#include "base/mdFormatMoney.h"
+#include "base/mdNumberText.h"
 #include "controls/mdTheme.h"
-#include "costing/mdDateText.h"
 #include "preview/oPreviewGrid.h"
-#include "shell/clsRunTimeError.h"
-#include "shell/mdNumberText.h"
-#include "wordexport/mdFormatMoney.h"
 
 oPreviewGrid &mdExportPreviewGrid()
 {

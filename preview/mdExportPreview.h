@@ -1,6 +1,6 @@
 #pragma once
 
-#include "costing/Money.h"
+#include "base/Money.h"
 #include "preview/clsPreviewCells.h"
 
 #include <QString>

@@ -1,8 +1,8 @@
 #include "preview/mdExportPreviewAdditionalInformation.h"
 
+#include "base/mdSetProgress.h"
 #include "formdata/clsZR3Form.h"
 #include "preview/mdExportPreview.h"
-#include "shell/mdSetProgress.h"
 
 namespace {
 

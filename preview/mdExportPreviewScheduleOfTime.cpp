@@ -1,13 +1,13 @@
 #include "preview/mdExportPreviewScheduleOfTime.h"
 
-#include "costing/clsSchedulePrices.h"
-#include "costing/mdDateText.h"
+#include "base/mdDateText.h"
+#include "base/mdSetProgress.h"
 #include "costing/mdFigureFaults.h"
 #include "costing/mdGetColumnTotals.h"
+#include "formdata/clsSchedulePrices.h"
 #include "formdata/clsZR3Form.h"
 #include "preview/mdExportPreview.h"
 #include "preview/oPreviewGrid.h"
-#include "shell/mdSetProgress.h"
 
 namespace {
 

@@ -1,14 +1,14 @@
 #include "preview/mdPreview.h"
 
+#include "base/clsRunTimeError.h"
+#include "base/mdSetProgress.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
+#include "formdata/mdGlobals.h"
 #include "preview/mdExportPreview.h"
 #include "preview/mdExportPreviewAdditionalInformation.h"
 #include "preview/mdExportPreviewScheduleOfTime.h"
 #include "preview/oPreviewGrid.h"
-#include "shell/clsRunTimeError.h"
-#include "shell/mdGlobals.h"
-#include "shell/mdSetProgress.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>

@@ -1,14 +1,14 @@
 #include "shell/clsWindowUserInterface.h"
 
+#include "base/clsFileSystem.h"
+#include "base/mdShellExecute.h"
+#include "commands/mdFileHandling.h"
 #include "controls/frmMessageBox.h"
 #include "controls/mdShowModal.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/clsFileSystem.h"
+#include "formdata/mdGlobals.h"
 #include "shell/clsLongWork.h"
-#include "shell/mdFileHandling.h"
-#include "shell/mdGlobals.h"
 #include "shell/mdOpenOnDesktop.h"
-#include "shell/mdShellExecute.h"
 #include "shell/oApplication.h"
 #include "shell/oFileDialog.h"
 

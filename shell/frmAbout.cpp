@@ -1,16 +1,16 @@
 #include "shell/frmAbout.h"
 
+#include "base/mdGetResourceData.h"
+#include "base/mdGetVersionInfo.h"
+#include "base/mdLog.h"
+#include "base/mdShellExecute.h"
 #include "controls/mdCaption.h"
 #include "controls/mdTheme.h"
+#include "controls/oButtonBar.h"
 #include "controls/oCustomButton.h"
 #include "controls/oFrame.h"
 #include "controls/oHeaderBar.h"
-#include "shell/mdGetResourceData.h"
-#include "shell/mdGetVersionInfo.h"
-#include "shell/mdLog.h"
-#include "shell/mdShellExecute.h"
-#include "shell/oButtonBar.h"
-#include "wordexport/clsMSWord.h"
+#include "wordexport/document/clsMSWord.h"
 
 #include <QFocusEvent>
 #include <QFormLayout>

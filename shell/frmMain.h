@@ -1,7 +1,7 @@
 #pragma once
 
 #include "preview/mdPreviewTypes.h"
-#include "wordexport/mdWordInstalled.h"
+#include "wordexport/document/mdWordInstalled.h"
 
 #include <QMainWindow>
 

@@ -1,12 +1,12 @@
 #include "shell/frmSplash.h"
 
+#include "base/mdClock.h"
+#include "base/mdDatabasePath.h"
+#include "base/mdGetVersionInfo.h"
+#include "base/mdLog.h"
+#include "commands/mdDatabaseCreation.h"
 #include "controls/mdPointerScreen.h"
 #include "controls/mdTheme.h"
-#include "shell/mdClock.h"
-#include "shell/mdDatabaseCreation.h"
-#include "shell/mdDatabasePath.h"
-#include "shell/mdGetVersionInfo.h"
-#include "shell/mdLog.h"
 #include "shell/mdPaintSplash.h"
 
 #include <QKeyEvent>

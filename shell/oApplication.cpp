@@ -1,12 +1,12 @@
 #include "shell/oApplication.h"
 
+#include "base/clsProgramEnd.h"
+#include "base/clsUserInterface.h"
+#include "base/mdLog.h"
+#include "base/mdPrint.h"
+#include "base/mdRunTimeErrorOf.h"
+#include "commands/mdRunTimeErrorMessage.h"
 #include "shell/clsLongWork.h"
-#include "shell/clsProgramEnd.h"
-#include "shell/clsUserInterface.h"
-#include "shell/mdLog.h"
-#include "shell/mdPrint.h"
-#include "shell/mdRunTimeErrorMessage.h"
-#include "shell/mdRunTimeErrorOf.h"
 
 namespace {
 

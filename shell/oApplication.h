@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/clsRecoveredCopy.h"
+#include "commands/clsRecoveredCopy.h"
 
 #include <QApplication>
 

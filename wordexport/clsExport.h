@@ -2,8 +2,8 @@
 
 #include "costing/clsBill.h"
 #include "formdata/clsZR3Form.h"
-#include "wordexport/clsPlainText.h"
-#include "wordexport/clsZipPackage.h"
+#include "wordexport/document/clsPlainText.h"
+#include "wordexport/document/clsZipPackage.h"
 
 #include <QHash>
 #include <QString>

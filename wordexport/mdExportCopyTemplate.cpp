@@ -1,11 +1,11 @@
 #include "wordexport/mdExportCopyTemplate.h"
 
-#include "shell/clsRunTimeError.h"
-#include "shell/mdLog.h"
+#include "base/clsRunTimeError.h"
+#include "base/mdLog.h"
 #include "wordexport/clsExport.h"
-#include "wordexport/clsWordPackage.h"
-#include "wordexport/mdCheckDocument.h"
-#include "wordexport/mdDocumentFile.h"
+#include "wordexport/document/clsWordPackage.h"
+#include "wordexport/document/mdCheckDocument.h"
+#include "wordexport/document/mdDocumentFile.h"
 #include "wordexport/mdExportTempFolder.h"
 #include "wordexport/mdShippedTemplates.h"
 

@@ -1,10 +1,10 @@
 #include "wordexport/mdExportRows.h"
 
+#include "base/mdExisting.h"
+#include "base/mdSumOf.h"
 #include "costing/mdFigureFaults.h"
 #include "costing/mdGetCommsInfo.h"
 #include "costing/mdGetDisbursementsTotals.h"
-#include "costing/mdSumOf.h"
-#include "shell/mdExisting.h"
 #include "wordexport/mdExportSources.h"
 
 namespace {

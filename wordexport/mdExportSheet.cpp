@@ -1,7 +1,7 @@
 #include "wordexport/mdExportSheet.h"
 
 #include "wordexport/clsExport.h"
-#include "wordexport/clsWordDocument.h"
+#include "wordexport/document/clsWordDocument.h"
 #include "wordexport/mdExportCopyTemplate.h"
 #include "wordexport/mdExportWordGenerateOverRuns.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "wordexport/clsExportPage.h"
-#include "wordexport/clsMSWord.h"
+#include "wordexport/document/clsMSWord.h"
 
 struct clsExport;
 

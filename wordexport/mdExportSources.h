@@ -1,7 +1,7 @@
 #pragma once
 
-#include "costing/Money.h"
-#include "shell/mdExisting.h"
+#include "base/Money.h"
+#include "base/mdExisting.h"
 #include "wordexport/clsExportPage.h"
 
 // Short ways of writing the rows of a page's table: a placeholder, the property that it shows, and by the word the

@@ -1,10 +1,10 @@
 #include "wordexport/mdExportTempFolder.h"
 
-#include "shell/clsFileSystem.h"
-#include "shell/clsFolderLock.h"
-#include "shell/mdCustomMessages.h"
-#include "shell/mdLog.h"
-#include "shell/mdSystemErrorCode.h"
+#include "base/clsFileSystem.h"
+#include "base/clsFolderLock.h"
+#include "base/mdCustomMessages.h"
+#include "base/mdLog.h"
+#include "base/mdSystemErrorCode.h"
 
 #include <filesystem>
 #include <vector>

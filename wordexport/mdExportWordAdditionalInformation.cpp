@@ -1,6 +1,6 @@
 #include "wordexport/mdExportWordAdditionalInformation.h"
 
-#include "shell/mdCustomMessages.h"
+#include "base/mdCustomMessages.h"
 #include "wordexport/clsExport.h"
 #include "wordexport/mdExportCopyTemplate.h"
 #include "wordexport/mdExportSheet.h"

@@ -1,10 +1,11 @@
 #include "wordexport/mdExportWordClaim1.h"
 
+#include "base/mdSumOf.h"
 #include "costing/mdGetBillSummary.h"
 #include "costing/mdGetCommsInfo.h"
 #include "costing/mdGetCounselTotals.h"
 #include "costing/mdGetDisbursementsTotals.h"
-#include "costing/mdSumOf.h"
+#include "formdata/mdOutcomesCollections.h"
 #include "wordexport/clsExport.h"
 #include "wordexport/mdExportRows.h"
 #include "wordexport/mdExportSheet.h"
@@ -14,7 +15,6 @@
 #include "wordexport/mdExportWordGridPage.h"
 #include "wordexport/mdExportWordPlainPage.h"
 #include "wordexport/mdExportWordScheduleOfTime.h"
-#include "wordexport/mdOutcomesCollections.h"
 
 // The ten pages of Claim 1. The rows stand in the order in which they are filled in.
 

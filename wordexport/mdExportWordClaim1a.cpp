@@ -1,5 +1,6 @@
 #include "wordexport/mdExportWordClaim1a.h"
 
+#include "base/mdSumOf.h"
 #include "costing/mdFigureFaults.h"
 #include "costing/mdGetBillSummary.h"
 #include "costing/mdGetColumnTotals.h"
@@ -7,7 +8,7 @@
 #include "costing/mdGetCounselTotals.h"
 #include "costing/mdGetDisbursementsTotals.h"
 #include "costing/mdGetFASTotals.h"
-#include "costing/mdSumOf.h"
+#include "formdata/mdOutcomesCollections.h"
 #include "wordexport/clsExport.h"
 #include "wordexport/mdExportRows.h"
 #include "wordexport/mdExportSheet.h"
@@ -17,7 +18,6 @@
 #include "wordexport/mdExportWordGridPage.h"
 #include "wordexport/mdExportWordPlainPage.h"
 #include "wordexport/mdExportWordScheduleOfTime.h"
-#include "wordexport/mdOutcomesCollections.h"
 
 // The thirteen pages of Claim 1A. The rows stand in the order in which they are filled in.
 

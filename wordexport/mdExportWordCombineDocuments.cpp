@@ -1,12 +1,12 @@
 #include "wordexport/mdExportWordCombineDocuments.h"
 
-#include "shell/clsFileSystem.h"
-#include "shell/mdLog.h"
-#include "shell/mdSetProgress.h"
+#include "base/clsFileSystem.h"
+#include "base/mdLog.h"
+#include "base/mdSetProgress.h"
 #include "wordexport/clsExport.h"
-#include "wordexport/clsMSWord.h"
-#include "wordexport/clsZipPackage.h"
-#include "wordexport/mdDocumentFile.h"
+#include "wordexport/document/clsMSWord.h"
+#include "wordexport/document/clsZipPackage.h"
+#include "wordexport/document/mdDocumentFile.h"
 #include "wordexport/mdExportSheet.h"
 #include "wordexport/mdExportTempFolder.h"
 

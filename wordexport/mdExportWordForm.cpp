@@ -1,8 +1,8 @@
 #include "wordexport/mdExportWordForm.h"
 
-#include "shell/clsRunTimeError.h"
-#include "shell/mdLog.h"
-#include "shell/mdSetProgress.h"
+#include "base/clsRunTimeError.h"
+#include "base/mdLog.h"
+#include "base/mdSetProgress.h"
 #include "wordexport/clsExport.h"
 #include "wordexport/mdExportTempFolder.h"
 #include "wordexport/mdExportWordAdditionalInformation.h"

@@ -1,7 +1,7 @@
 #include "wordexport/mdExportWordGenerateOverRuns.h"
 
-#include "shell/mdLog.h"
-#include "shell/mdSetProgress.h"
+#include "base/mdLog.h"
+#include "base/mdSetProgress.h"
 #include "wordexport/clsExport.h"
 #include "wordexport/mdExportCopyTemplate.h"
 #include "wordexport/mdExportSheet.h"

@@ -1,6 +1,6 @@
 #include "wordexport/mdExportWordGridPage.h"
 
-#include "shell/mdSetProgress.h"
+#include "base/mdSetProgress.h"
 #include "wordexport/clsExport.h"
 #include "wordexport/mdExportCopyTemplate.h"
 #include "wordexport/mdExportSheet.h"

@@ -1,9 +1,9 @@
 #include "wordexport/mdExportWordScheduleOfTime.h"
 
-#include "costing/mdDateText.h"
+#include "base/mdDateText.h"
+#include "base/mdSetProgress.h"
 #include "costing/mdFigureFaults.h"
 #include "costing/mdGetColumnTotals.h"
-#include "shell/mdSetProgress.h"
 #include "wordexport/clsExport.h"
 #include "wordexport/mdExportCopyTemplate.h"
 #include "wordexport/mdExportSheet.h"

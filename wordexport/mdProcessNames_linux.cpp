@@ -1,6 +1,6 @@
 #include "wordexport/mdWordAlreadyRunning.h"
 
-#include "shell/clsRunTimeError.h"
+#include "base/clsRunTimeError.h"
 
 #include <QDir>
 #include <QFile>

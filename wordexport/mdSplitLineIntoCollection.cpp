@@ -1,6 +1,6 @@
 #include "wordexport/mdSplitLineIntoCollection.h"
 
-#include "shell/mdTrimmedOfBlanks.h"
+#include "base/mdTrimmedOfBlanks.h"
 
 QStringList mdSplitLineIntoCollection(const QString &text, int width)
 {

@@ -1,22 +1,22 @@
 // Takes a picture of every window of the program on a claim, one file for each: take_screens CLAIM FOLDER.
 // The windows are the program's own, drawn without a display; only the claim and the time are made up.
 
+#include "base/mdClock.h"
+#include "base/mdProgramFolder.h"
 #include "controls/frmMessageBox.h"
-#include "controls/mdTheme.h"
+#include "controls/mdApplyTheme.h"
 #include "controls/oContentSwitcher.h"
 #include "editors/frmSection.h"
 #include "editors/mdScreens.h"
 #include "editors/mdSections.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
+#include "formdata/mdGlobals.h"
 #include "shell/clsWindowUserInterface.h"
 #include "shell/frmAbout.h"
+#include "shell/frmExportToWord.h"
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
-#include "shell/mdClock.h"
-#include "shell/mdGlobals.h"
-#include "shell/mdProgramFolder.h"
-#include "wordexport/frmExportToWord.h"
 
 #include <QApplication>
 #include <QTest>

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "base/clsRunTimeError.h"
 #include "controls/oGridView.h"
 #include "controls/oSGrid.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/clsRunTimeError.h"
 #include "tests/support/clsScriptedUserInterface.h"
 #include "tests/support/mdExpectError.h"
 #include "tests/support/mdTestPrinting.h"

@@ -1,9 +1,9 @@
 #include "controls/oFooterBar.h"
 
+#include "base/mdClock.h"
+#include "base/mdGetVersionInfo.h"
 #include "controls/mdTheme.h"
 #include "controls/oTimeSpentBox.h"
-#include "shell/mdClock.h"
-#include "shell/mdGetVersionInfo.h"
 
 #include <QImage>
 #include <QLabel>

@@ -1,9 +1,9 @@
+#include "base/mdPlayWav.h"
+#include "base/mdProgramFolder.h"
 #include "controls/frmMessageBox.h"
 #include "controls/mdTheme.h"
 #include "controls/oCustomButton.h"
 #include "controls/oHeaderBar.h"
-#include "shell/mdPlayWav.h"
-#include "shell/mdProgramFolder.h"
 #include "tests/support/clsScriptedUserInterface.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 #include "controls/oTimeBox.h"
 #include "controls/oTimeSpentBox.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 #include "tests/controls/clsBoxWindow.h"
 
 #include <QTimer>

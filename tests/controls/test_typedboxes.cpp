@@ -1,9 +1,9 @@
+#include "base/mdClock.h"
 #include "controls/mdTheme.h"
 #include "controls/oDateBox.h"
 #include "controls/oDecimalBox.h"
 #include "controls/oIntegerBox.h"
 #include "controls/oTimeBox.h"
-#include "shell/mdClock.h"
 #include "tests/controls/clsBoxWindow.h"
 
 #include <QCheckBox>

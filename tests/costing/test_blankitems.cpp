@@ -1,7 +1,7 @@
 // The check for items that bill nothing.
 
 #include "costing/mdCheckForBlankItems.h"
-#include "tests/costing/clsClaimTest.h"
+#include "tests/formdata/clsClaimTest.h"
 
 namespace {
 

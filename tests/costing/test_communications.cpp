@@ -1,7 +1,7 @@
 // Letters and calls: the lines of the bill and their prices.
 
 #include "costing/mdGetCommsInfo.h"
-#include "tests/costing/clsClaimTest.h"
+#include "tests/formdata/clsClaimTest.h"
 
 #include <QTemporaryFile>
 

@@ -7,7 +7,7 @@
 #include "costing/mdGetCounselTotals.h"
 #include "costing/mdGetDisbursementsTotals.h"
 #include "costing/mdGetFASTotals.h"
-#include "tests/costing/clsClaimTest.h"
+#include "tests/formdata/clsClaimTest.h"
 
 namespace {
 

@@ -1,12 +1,12 @@
 // The totals of the bill.
 
+#include "base/mdPercentageCalculate.h"
 #include "costing/mdGetColumnTotals.h"
 #include "costing/mdGetCommsInfo.h"
 #include "costing/mdGetCounselTotals.h"
 #include "costing/mdGetDisbursementsTotals.h"
 #include "costing/mdGetFASTotals.h"
-#include "costing/mdPercentageCalculate.h"
-#include "tests/costing/clsClaimTest.h"
+#include "tests/formdata/clsClaimTest.h"
 
 namespace {
 

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "base/mdPlayWav.h"
+#include "base/mdProgramFolder.h"
 #include "controls/oCheckBox.h"
 #include "controls/oGridView.h"
 #include "controls/oSGrid.h"
-#include "costing/clsZR3Enhancement.h"
-#include "costing/clsZR3FeeEarner.h"
 #include "editors/oEnhancementsBox.h"
-#include "shell/mdPlayWav.h"
-#include "shell/mdProgramFolder.h"
+#include "formdata/clsZR3Enhancement.h"
+#include "formdata/clsZR3FeeEarner.h"
 #include "tests/editors/clsModalTest.h"
 
 #include <QSignalSpy>

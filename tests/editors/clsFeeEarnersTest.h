@@ -1,8 +1,8 @@
 #pragma once
 
-#include "costing/clsZR3FeeEarner.h"
-#include "costing/clsZR3FeeEarnerGroup.h"
 #include "editors/mdScreens.h"
+#include "formdata/clsZR3FeeEarner.h"
+#include "formdata/clsZR3FeeEarnerGroup.h"
 #include "tests/editors/clsModalTest.h"
 
 /// A test of the screens of fee earners: makes groups and fee earners, and opens the editor of one.

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "base/clsFileSystem.h"
+#include "base/mdDatabasePath.h"
+#include "base/mdGetResourceData.h"
+#include "base/mdProgramFolder.h"
 #include "editors/mdScreenControls.h"
 #include "editors/mdScreens.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
-#include "shell/clsFileSystem.h"
-#include "shell/mdDatabasePath.h"
-#include "shell/mdGetResourceData.h"
-#include "shell/mdProgramFolder.h"
 #include "tests/editors/clsScreenTest.h"
 #include "tests/editors/mdOnceOpened.h"
 

@@ -2,7 +2,7 @@
 
 #include "controls/oCheckBox.h"
 #include "controls/oSGrid.h"
-#include "costing/clsZR3ScheduleOfTimeItem.h"
+#include "formdata/clsZR3ScheduleOfTimeItem.h"
 #include "tests/editors/clsFeeEarnersTest.h"
 
 #include <QAbstractItemView>

@@ -6,7 +6,7 @@
 #include "editors/mdSections.h"
 #include "editors/mdUnloadAndDummyTabClick.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 #include "tests/support/clsFolderTest.h"
 #include "tests/support/clsScriptedUserInterface.h"
 #include "tests/support/mdExpectError.h"

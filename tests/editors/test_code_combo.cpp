@@ -1,7 +1,7 @@
 #include "controls/oAllPurposeBox.h"
-#include "costing/mdScheduleOfTimeCodesCollection.h"
 #include "editors/oCodeCombo.h"
 #include "editors/oFieldLabel.h"
+#include "formdata/mdScheduleOfTimeCodesCollection.h"
 #include "tests/editors/clsScheduleTest.h"
 
 #include <QLineEdit>

@@ -1,7 +1,7 @@
+#include "base/clsRunTimeError.h"
 #include "controls/oHeaderBar.h"
 #include "controls/oIntegerBox.h"
 #include "editors/oFieldLabel.h"
-#include "shell/clsRunTimeError.h"
 #include "tests/editors/clsCommunicationsTest.h"
 #include "tests/editors/mdCommsTables.h"
 #include "tests/support/mdExpectError.h"

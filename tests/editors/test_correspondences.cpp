@@ -1,8 +1,8 @@
 #include "controls/oHeaderBar.h"
 #include "controls/oIntegerBox.h"
-#include "costing/clsZR3FeeEarner.h"
 #include "editors/mdScreens.h"
 #include "editors/oFieldLabel.h"
+#include "formdata/clsZR3FeeEarner.h"
 #include "tests/editors/clsScreenTest.h"
 #include "tests/editors/mdCommsTables.h"
 

@@ -1,5 +1,5 @@
-#include "costing/clsZR3FeeEarner.h"
 #include "editors/mdCountComms.h"
+#include "formdata/clsZR3FeeEarner.h"
 #include "formdata/clsZR3Form.h"
 
 #include <gtest/gtest.h>

@@ -2,9 +2,9 @@
 #include "controls/oDateBox.h"
 #include "controls/oDecimalBox.h"
 #include "controls/oIntegerBox.h"
-#include "costing/clsZR3FASItem.h"
 #include "costing/mdGetColumnTotals.h"
 #include "editors/mdScreenControls.h"
+#include "formdata/clsZR3FASItem.h"
 #include "tests/editors/clsScheduleTest.h"
 
 #include <QMenu>

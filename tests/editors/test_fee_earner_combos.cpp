@@ -1,6 +1,6 @@
+#include "base/clsRunTimeError.h"
 #include "editors/oFeeEarnerCombo.h"
 #include "editors/oFeeEarnerGroupCombo.h"
-#include "shell/clsRunTimeError.h"
 #include "tests/editors/clsFeeEarnersTest.h"
 #include "tests/support/mdExpectError.h"
 

@@ -1,3 +1,5 @@
+#include "base/mdDatabasePath.h"
+#include "base/mdGetResourceData.h"
 #include "controls/oAllPurposeBox.h"
 #include "controls/oCheckBox.h"
 #include "controls/oContentSwitcher.h"
@@ -5,8 +7,6 @@
 #include "controls/oDecimalBox.h"
 #include "controls/oTypeAheadBox.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
-#include "shell/mdDatabasePath.h"
-#include "shell/mdGetResourceData.h"
 #include "tests/editors/clsFeeEarnersTest.h"
 
 #include <QAbstractItemView>

@@ -1,12 +1,12 @@
+#include "base/mdClock.h"
+#include "base/mdLog.h"
+#include "base/mdProgramFolder.h"
 #include "editors/mdCheckForBlanks.h"
 #include "editors/mdComboboxSelectByItemData.h"
 #include "editors/mdConfirmCancelEdit.h"
 #include "editors/mdConfirmDelete.h"
 #include "editors/mdFormatTextForMenu.h"
 #include "editors/mdLoadMenuFromCollection.h"
-#include "shell/mdClock.h"
-#include "shell/mdLog.h"
-#include "shell/mdProgramFolder.h"
 #include "tests/editors/clsScreenTest.h"
 
 #include <QComboBox>

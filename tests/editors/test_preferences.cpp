@@ -1,3 +1,4 @@
+#include "base/mdClock.h"
 #include "controls/clsSpellingChecker.h"
 #include "controls/oCustomButton.h"
 #include "controls/oDecimalBox.h"
@@ -5,7 +6,6 @@
 #include "controls/oHeaderBar.h"
 #include "editors/oFieldLabel.h"
 #include "editors/oSpellingNote.h"
-#include "shell/mdClock.h"
 #include "tests/editors/clsPreferencesScreenTest.h"
 
 #include <cerrno>

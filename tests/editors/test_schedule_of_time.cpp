@@ -1,9 +1,9 @@
+#include "commands/mdFileHandling.h"
 #include "controls/oAllPurposeBox.h"
 #include "controls/oCustomButton.h"
 #include "controls/oHeaderBar.h"
 #include "controls/oOrderArrows.h"
 #include "editors/oFieldLabel.h"
-#include "shell/mdFileHandling.h"
 #include "tests/editors/clsScheduleTest.h"
 
 #include <QHeaderView>

@@ -1,3 +1,4 @@
+#include "base/clsRunTimeError.h"
 #include "controls/oAllPurposeBox.h"
 #include "controls/oCheckBox.h"
 #include "controls/oCustomButton.h"
@@ -7,7 +8,6 @@
 #include "editors/mdExclusiveTicks.h"
 #include "editors/oFieldLabel.h"
 #include "editors/oScreenList.h"
-#include "shell/clsRunTimeError.h"
 #include "tests/editors/clsScreenTest.h"
 #include "tests/support/mdExpectError.h"
 

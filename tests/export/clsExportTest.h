@@ -1,8 +1,8 @@
 #pragma once
 
-#include "shell/clsRunTimeError.h"
-#include "shell/mdLog.h"
-#include "shell/mdProgramFolder.h"
+#include "base/clsRunTimeError.h"
+#include "base/mdLog.h"
+#include "base/mdProgramFolder.h"
 #include "tests/export/clsSheetRecorder.h"
 #include "tests/support/clsScriptedUserInterface.h"
 #include "tests/support/mdExpectError.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "wordexport/clsExport.h"
-#include "wordexport/clsMSWordObserver.h"
+#include "wordexport/document/clsMSWordObserver.h"
 
 #include <QDir>
 #include <QFile>

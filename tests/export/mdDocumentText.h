@@ -1,6 +1,6 @@
 #pragma once
 
-#include "wordexport/clsWordPackage.h"
+#include "wordexport/document/clsWordPackage.h"
 
 #include <QString>
 #include <QStringList>

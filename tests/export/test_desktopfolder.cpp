@@ -1,5 +1,5 @@
+#include "base/mdDesktopFolder.h"
 #include "tests/export/clsExportTest.h"
-#include "wordexport/mdDesktopFolder.h"
 
 // Where an export goes that was given no folder.
 

@@ -1,10 +1,10 @@
 #include "tests/export/clsExportTest.h"
 #include "tests/export/mdDocumentText.h"
 #include "tests/support/mdOrdinaryUser.h"
-#include "wordexport/mdCheckDocument.h"
+#include "wordexport/document/mdCheckDocument.h"
+#include "wordexport/document/mdWordXml.h"
 #include "wordexport/mdExportWordClaim1.h"
 #include "wordexport/mdShippedTemplates.h"
-#include "wordexport/mdWordXml.h"
 
 #include <QDate>
 

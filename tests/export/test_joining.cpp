@@ -1,7 +1,7 @@
 #include "tests/export/clsExportTest.h"
-#include "wordexport/clsMSWord.h"
-#include "wordexport/clsPlainText.h"
-#include "wordexport/clsWordPackage.h"
+#include "wordexport/document/clsMSWord.h"
+#include "wordexport/document/clsPlainText.h"
+#include "wordexport/document/clsWordPackage.h"
 
 // The joining takes the sheets' texts as they stand: nobody could tell it from reading each of them.
 

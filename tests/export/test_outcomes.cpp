@@ -1,5 +1,5 @@
+#include "formdata/mdOutcomesCollections.h"
 #include "tests/support/mdTestPrinting.h"
-#include "wordexport/mdOutcomesCollections.h"
 #include "wordexport/mdSplitLineIntoCollection.h"
 #include "wordexport/mdTextRequiresOverRun.h"
 

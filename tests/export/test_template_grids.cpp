@@ -1,6 +1,6 @@
 #include "tests/export/clsExportTest.h"
 #include "tests/export/mdDocumentText.h"
-#include "wordexport/clsMSWord.h"
+#include "wordexport/document/clsMSWord.h"
 
 #include <QRegularExpression>
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/clsFileSystem.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/clsFileSystem.h"
 #include "tests/support/clsFolderTest.h"
 #include "tests/support/clsScriptedUserInterface.h"
 #include "tests/support/mdExpectError.h"

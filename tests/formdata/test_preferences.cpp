@@ -1,11 +1,11 @@
 // The settings that outlive a claim.
 
+#include "base/clsProgramEnd.h"
+#include "base/mdDatabasePath.h"
+#include "base/mdGetResourceData.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
-#include "shell/clsProgramEnd.h"
-#include "shell/mdDatabasePath.h"
-#include "shell/mdGetResourceData.h"
+#include "tests/base/clsShellTest.h"
 #include "tests/formdata/mdFormatTables.h"
-#include "tests/shell/clsShellTest.h"
 #include "tests/support/mdExpectError.h"
 
 namespace {

@@ -1,7 +1,7 @@
+#include "base/mdCodePage.h"
 #include "formdata/mdURLEncode.h"
 #include "formdata/mdXMLControl.h"
 #include "formdata/mdXMLReplaceProblemCharacters.h"
-#include "shell/mdCodePage.h"
 #include "tests/support/mdTestPrinting.h"
 
 #include <gtest/gtest.h>

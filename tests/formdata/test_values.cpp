@@ -1,7 +1,7 @@
 // How values stand in their elements, and how they read.
 
+#include "base/mdCodePage.h"
 #include "formdata/mdRecordInWords.h"
-#include "shell/mdCodePage.h"
 #include "tests/formdata/clsFormTest.h"
 
 #include <limits>

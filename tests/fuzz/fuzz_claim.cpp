@@ -1,8 +1,8 @@
 // The file of a claim: read, brought up to date, priced, rewritten, saved and read again.
 
+#include "base/mdCodePage.h"
+#include "costing/mdTotalsReport.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdCodePage.h"
-#include "shell/zr3tool/mdTotalsReport.h"
 #include "tests/fuzz/mdFuzz.h"
 #include "tests/fuzz/mdFuzzRecord.h"
 #include "tests/fuzz/mdFuzzWords.h"

@@ -1,9 +1,9 @@
 // The readers of dates and durations. The input is a date and a duration, parted by a line feed.
 
-#include "costing/mdDateSerial.h"
-#include "costing/mdDateText.h"
-#include "costing/mdTimeFormatting.h"
-#include "costing/mdTypedText.h"
+#include "base/mdDateSerial.h"
+#include "base/mdDateText.h"
+#include "base/mdTimeFormatting.h"
+#include "base/mdTypedText.h"
 #include "tests/fuzz/mdFuzz.h"
 
 #include <algorithm>

@@ -7,8 +7,8 @@
 #include "tests/fuzz/mdFuzzXml.h"
 #include "tests/support/clsWordLint.h"
 #include "tests/wordexport/clsTestDocument.h"
-#include "wordexport/clsMSWord.h"
-#include "wordexport/mdCheckDocument.h"
+#include "wordexport/document/clsMSWord.h"
+#include "wordexport/document/mdCheckDocument.h"
 
 #include <QRegularExpression>
 

@@ -1,13 +1,13 @@
 // The readers of numbers and amounts, and the arithmetic on what they read. The input is one text, or two parted by a
 // line feed.
 
-#include "costing/Money.h"
-#include "costing/mdPercentageCalculate.h"
-#include "costing/mdTimeToMoney.h"
-#include "costing/mdTypedText.h"
-#include "shell/mdNumberText.h"
+#include "base/Money.h"
+#include "base/mdFormatMoney.h"
+#include "base/mdNumberText.h"
+#include "base/mdPercentageCalculate.h"
+#include "base/mdTimeToMoney.h"
+#include "base/mdTypedText.h"
 #include "tests/fuzz/mdFuzz.h"
-#include "wordexport/mdFormatMoney.h"
 
 #include <cmath>
 #include <cstdlib>

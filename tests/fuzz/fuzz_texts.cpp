@@ -1,13 +1,13 @@
 // Texts on their way into a claim, out of it and on to the sheets: the code page, the encoding, versions, and the
 // cutting into lines. The first byte is the width of a line; what follows is one text, or two parted by a line feed.
 
+#include "base/mdCodePage.h"
+#include "base/mdTrimmedOfBlanks.h"
+#include "base/mdVersionComparison.h"
 #include "formdata/mdReplacements.h"
 #include "formdata/mdURLEncode.h"
 #include "formdata/mdXMLControl.h"
 #include "formdata/mdXMLReplaceProblemCharacters.h"
-#include "shell/mdCodePage.h"
-#include "shell/mdTrimmedOfBlanks.h"
-#include "shell/mdVersionComparison.h"
 #include "tests/fuzz/mdFuzz.h"
 #include "wordexport/mdSplitLineIntoCollection.h"
 

@@ -3,9 +3,9 @@
 
 #include "tests/fuzz/mdFuzz.h"
 #include "tests/fuzz/mdFuzzZip.h"
-#include "wordexport/clsWordPackage.h"
-#include "wordexport/clsZipPackage.h"
-#include "wordexport/mdCheckDocument.h"
+#include "wordexport/document/clsWordPackage.h"
+#include "wordexport/document/clsZipPackage.h"
+#include "wordexport/document/mdCheckDocument.h"
 
 #include <map>
 #include <optional>

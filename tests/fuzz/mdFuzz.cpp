@@ -1,6 +1,6 @@
 #include "tests/fuzz/mdFuzz.h"
 
-#include "shell/mdCodePage.h"
+#include "base/mdCodePage.h"
 #include "tests/fuzz/mdFuzzGuard.h"
 
 #include <QFile>

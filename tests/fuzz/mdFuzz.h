@@ -1,7 +1,7 @@
 #pragma once
 
-#include "shell/clsQuietUserInterface.h"
-#include "shell/clsRunTimeError.h"
+#include "base/clsQuietUserInterface.h"
+#include "base/clsRunTimeError.h"
 
 #include <QByteArray>
 #include <QString>

@@ -7,7 +7,7 @@ found in one of these ways is a finding of its own, so that there is no way roun
 import re
 from dataclasses import dataclass, field
 
-FOLDERS = ["shell", "formdata", "costing", "wordexport", "controls", "preview", "editors"]
+FOLDERS = ["base", "formdata", "costing", "commands", "wordexport", "controls", "preview", "editors", "shell", "programs"]
 
 # What shows a text to the user or hands it to what does, and which of its arguments are texts.
 DOORS = {
@@ -19,13 +19,13 @@ ERROR = "clsRunTimeError"
 
 # Calls that hand on what somebody else has written, each of which is scanned where it is made.
 HANDS_ON = {
-    "shell/clsUserInterface.h": "*", "shell/clsQuietUserInterface.h": "*", "shell/clsWindowUserInterface.h": "*",
-    "shell/clsWindowUserInterface.cpp": "*", "shell/mdCustomMessages.h": "*", "shell/mdGetFolder.h": "*",
-    "shell/mdSetProgress.h": "*", "shell/mdSetProgress.cpp": "*", "shell/zr3tool/clsConsoleUserInterface.h": "*",
-    "shell/zr3tool/clsConsoleUserInterface.cpp": "*", "shell/mdRegistry.cpp": "mdSystemFailure",
-    "shell/mdTextDocumentHandling.cpp": "mdSystemFailure", "wordexport/mdDocumentError.h": ERROR,
-    "shell/clsRunTimeError.h": ERROR, "controls/mdSpellingMenu.cpp": "tell",
-    "shell/zr3tool/mdTotalsReport.cpp": "tell",
+    "base/clsUserInterface.h": "*", "base/clsQuietUserInterface.h": "*", "shell/clsWindowUserInterface.h": "*",
+    "shell/clsWindowUserInterface.cpp": "*", "base/mdCustomMessages.h": "*", "base/mdGetFolder.h": "*",
+    "base/mdSetProgress.h": "*", "base/mdSetProgress.cpp": "*", "base/clsConsoleUserInterface.h": "*",
+    "base/clsConsoleUserInterface.cpp": "*", "base/mdRegistry.cpp": "mdSystemFailure",
+    "base/mdTextDocumentHandling.cpp": "mdSystemFailure", "wordexport/document/mdDocumentError.h": ERROR,
+    "base/clsRunTimeError.h": ERROR, "controls/mdSpellingMenu.cpp": "tell",
+    "costing/mdTotalsReport.cpp": "tell",
 }
 
 LITERAL = re.compile(r'"((?:[^"\\\n]|\\.)*)"')

@@ -150,7 +150,7 @@ class Sources(unittest.TestCase):
 
     def test_every_tab_has_its_place(self):
         headings = re.findall(r"^#+ (.+?)(?: \{#.*)?$", self.text, flags=re.MULTILINE)
-        tabs = (ROOT / "shell/mdSectionTabs.cpp").read_text(encoding="utf-8")
+        tabs = (ROOT / "formdata/mdSectionTabs.cpp").read_text(encoding="utf-8")
         sections = (ROOT / "editors/mdSections.cpp").read_text(encoding="utf-8")
         first_row = re.findall(r'^\s*\{"([^"]+)",$', tabs, flags=re.MULTILINE)
         second_row = {name for row in re.findall(r"texts\(\{(.*?)\}\)", tabs, flags=re.DOTALL) for name in re.findall(r'"([^"]+)"', row)}
@@ -190,7 +190,7 @@ class Sources(unittest.TestCase):
             self.assertIn(caption, told)
 
     def test_every_code_is_told(self):
-        code = (ROOT / "costing/mdScheduleOfTimeCodesCollection.cpp").read_text(encoding="utf-8")
+        code = (ROOT / "formdata/mdScheduleOfTimeCodesCollection.cpp").read_text(encoding="utf-8")
         codes = set(re.findall(r"\b[A-Z]{3}\b", " ".join(scan.literals(code))))
         self.assertEqual(len(codes), 32)
         self.assertEqual(codes, codes & set(re.findall(r"\b[A-Z]{3}\b", self.text)))
@@ -311,8 +311,8 @@ class Messages(unittest.TestCase):
                                 f'{call.place}: the guide does not tell the message "{piece}"')
 
     def test_every_error_has_its_row(self):
-        code = self.sources.files["shell/clsRunTimeError.cpp"]
-        numbers = dict(re.findall(r"(\w+) = (\d+),", self.sources.files["shell/clsRunTimeError.h"]))
+        code = self.sources.files["base/clsRunTimeError.cpp"]
+        numbers = dict(re.findall(r"(\w+) = (\d+),", self.sources.files["base/clsRunTimeError.h"]))
         rows = re.findall(r'\{clsRunTimeError::(\w+), "([^"]+)"\}', code)
         self.assertEqual(len(rows), len(numbers))
         told = {(row["number"], row["words"]) for row in self.table["error"]}

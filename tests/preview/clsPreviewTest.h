@@ -1,11 +1,11 @@
 #pragma once
 
 #include "formdata/clsZR3Form.h"
+#include "formdata/mdGlobals.h"
 #include "preview/mdExportPreview.h"
 #include "preview/mdPreview.h"
 #include "preview/oPreviewGrid.h"
 #include "preview/oPreviewSheet.h"
-#include "shell/mdGlobals.h"
 #include "tests/support/clsScriptedUserInterface.h"
 #include "tests/support/mdExpectError.h"
 #include "tests/support/mdTestPaths.h"

@@ -1,8 +1,8 @@
 // When the preview is redrawn, and from where.
 
+#include "base/mdGetResourceData.h"
+#include "base/mdProgramFolder.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
-#include "shell/mdGetResourceData.h"
-#include "shell/mdProgramFolder.h"
 #include "tests/preview/clsPreviewTest.h"
 
 #include <QDir>

@@ -1,7 +1,7 @@
 // The preview of the schedule of time.
 
+#include "base/clsQuietUserInterface.h"
 #include "preview/mdExportPreviewScheduleOfTime.h"
-#include "shell/clsQuietUserInterface.h"
 #include "tests/preview/clsPreviewTest.h"
 
 #include <QFile>

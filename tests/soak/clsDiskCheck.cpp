@@ -1,11 +1,11 @@
 #include "tests/soak/clsDiskCheck.h"
 
+#include "base/clsFileSystem.h"
+#include "base/mdCodePage.h"
+#include "commands/mdFileHandling.h"
+#include "costing/mdTotalsReport.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/clsFileSystem.h"
-#include "shell/mdCodePage.h"
-#include "shell/mdFileHandling.h"
-#include "shell/mdGlobals.h"
-#include "shell/zr3tool/mdTotalsReport.h"
+#include "formdata/mdGlobals.h"
 #include "tests/support/clsWordLint.h"
 #include "wordexport/mdExportWordCombineDocuments.h"
 

@@ -1,8 +1,8 @@
 #include "tests/soak/mdAllowedErrors.h"
 
+#include "costing/mdTotalsReport.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
-#include "shell/zr3tool/mdTotalsReport.h"
+#include "formdata/mdGlobals.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
 #include "tests/soak/mdRandomClaim.h"
 
-#include "costing/mdScheduleOfTimeCodesCollection.h"
+#include "base/mdGetVersionInfo.h"
 #include "editors/mdScreenControls.h"
 #include "editors/mdScreens.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGetVersionInfo.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
+#include "formdata/mdScheduleOfTimeCodesCollection.h"
 #include "tests/soak/clsDice.h"
 #include "tests/soak/mdOddInput.h"
 

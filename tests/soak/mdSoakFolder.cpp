@@ -1,7 +1,7 @@
 #include "tests/soak/mdSoakFolder.h"
 
-#include "shell/mdGetResourceData.h"
-#include "shell/mdProgramFolder.h"
+#include "base/mdGetResourceData.h"
+#include "base/mdProgramFolder.h"
 #include "tests/soak/clsDice.h"
 #include "tests/soak/mdRandomClaim.h"
 #include "tests/support/mdTestPaths.h"

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "base/mdDatabasePath.h"
+#include "base/mdGetResourceData.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
-#include "shell/mdDatabasePath.h"
-#include "shell/mdGetResourceData.h"
-#include "shell/mdGlobals.h"
-#include "tests/shell/clsShellTest.h"
+#include "formdata/mdGlobals.h"
+#include "tests/base/clsShellTest.h"
 
 /// A test in which the user has preferences, at first without abbreviations.
 class clsReplacementsTest : public clsShellTest {

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "shell/clsRunTimeError.h"
-#include "wordexport/clsWordPackage.h"
-#include "wordexport/mdStrictXml.h"
-#include "wordexport/mdWordXml.h"
+#include "base/clsRunTimeError.h"
+#include "wordexport/document/clsWordPackage.h"
+#include "wordexport/document/mdStrictXml.h"
+#include "wordexport/document/mdWordXml.h"
 
 #include <QRegularExpression>
 #include <QStringList>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/clsRunTimeError.h"
+#include "base/clsRunTimeError.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "controls/mdTheme.h"
+#include "controls/mdApplyTheme.h"
 
 #include <QApplication>
 #include <QStandardPaths>

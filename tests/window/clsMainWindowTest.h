@@ -1,11 +1,11 @@
 #pragma once
 
+#include "commands/mdFileHandling.h"
 #include "controls/oFooterBar.h"
 #include "controls/oHeaderBar.h"
 #include "controls/oTabBar.h"
 #include "controls/oTabBarButton.h"
 #include "shell/frmMain.h"
-#include "shell/mdFileHandling.h"
 #include "tests/window/clsWindowTest.h"
 
 /// A test of the main window.

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "base/mdGetResourceData.h"
+#include "base/mdProgramFolder.h"
 #include "controls/frmMessageBox.h"
 #include "controls/oHeaderBar.h"
 #include "shell/frmMain.h"
-#include "shell/mdGetResourceData.h"
-#include "shell/mdProgramFolder.h"
 #include "shell/mdSubMain.h"
 #include "shell/oApplication.h"
 

@@ -1,9 +1,9 @@
+#include "base/mdGetVersionInfo.h"
 #include "controls/mdTheme.h"
 #include "controls/oCustomButton.h"
 #include "shell/frmAbout.h"
-#include "shell/mdGetVersionInfo.h"
 #include "tests/window/clsWindowTest.h"
-#include "wordexport/clsMSWord.h"
+#include "wordexport/document/clsMSWord.h"
 
 #include <QFormLayout>
 #include <QLabel>

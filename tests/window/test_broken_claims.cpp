@@ -1,8 +1,8 @@
 // The program opens a claim of which some figures can't be computed, and names what an error comes from.
 
 #include "formdata/clsZR3Form.h"
+#include "formdata/mdGlobals.h"
 #include "preview/oPreviewGrid.h"
-#include "shell/mdGlobals.h"
 #include "tests/support/mdTestPaths.h"
 #include "tests/support/mdTestPrinting.h"
 #include "tests/window/clsProgramTest.h"

@@ -2,7 +2,7 @@
 
 #include "controls/oSGrid.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/mdGlobals.h"
+#include "formdata/mdGlobals.h"
 #include "tests/window/clsWholeWayTest.h"
 #include "tests/window/mdKeyboardClaimFigures.h"
 

@@ -1,4 +1,4 @@
-#include "shell/mdFileHandling.h"
+#include "commands/mdFileHandling.h"
 #include "tests/window/clsFieldMarks.h"
 #include "tests/window/clsFieldWalk.h"
 

@@ -1,9 +1,9 @@
+#include "base/mdGetVersionInfo.h"
+#include "commands/mdFileHandling.h"
 #include "controls/mdTheme.h"
 #include "controls/oTimeSpentBox.h"
 #include "preview/oPreviewGrid.h"
 #include "shell/clsLongWork.h"
-#include "shell/mdFileHandling.h"
-#include "shell/mdGetVersionInfo.h"
 #include "tests/window/clsMainWindowTest.h"
 
 #include <QAbstractButton>

@@ -1,4 +1,4 @@
-#include "shell/mdSectionTabs.h"
+#include "formdata/mdSectionTabs.h"
 
 #include "tests/support/mdTestPrinting.h"
 

@@ -1,8 +1,8 @@
 #include "shell/frmSplash.h"
 
-#include "shell/clsQuietUserInterface.h"
-#include "shell/mdDatabasePath.h"
-#include "shell/mdGetVersionInfo.h"
+#include "base/clsQuietUserInterface.h"
+#include "base/mdDatabasePath.h"
+#include "base/mdGetVersionInfo.h"
 #include "tests/window/clsWindowTest.h"
 
 #include <QLabel>

@@ -1,8 +1,8 @@
 #include "formdata/clsZR3PreferencesDatabase.h"
 #include "shell/frmAbout.h"
+#include "shell/frmExportToWord.h"
 #include "tests/support/mdSpokenNames.h"
 #include "tests/window/clsMainWindowTest.h"
-#include "wordexport/frmExportToWord.h"
 
 // What screen readers call everything that can have the focus, on the windows of the program itself.
 

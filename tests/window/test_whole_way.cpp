@@ -1,9 +1,9 @@
 #include "formdata/clsZR3Form.h"
+#include "formdata/mdGlobals.h"
 #include "preview/oPreviewGrid.h"
-#include "shell/mdGlobals.h"
 #include "tests/support/mdTestPaths.h"
 #include "tests/window/clsWholeWayTest.h"
-#include "wordexport/clsZipPackage.h"
+#include "wordexport/document/clsZipPackage.h"
 
 #include <QClipboard>
 #include <QComboBox>

@@ -1,9 +1,9 @@
+#include "commands/mdFileHandling.h"
 #include "controls/frmMessageBox.h"
 #include "controls/oHeaderBar.h"
 #include "shell/clsLongWork.h"
 #include "shell/clsWindowUserInterface.h"
 #include "shell/frmSplash.h"
-#include "shell/mdFileHandling.h"
 #include "tests/window/clsWindowTest.h"
 
 #include <QDesktopServices>

@@ -2,9 +2,9 @@
 
 #include "tests/support/clsWordLint.h"
 #include "tests/support/mdTestPrinting.h"
-#include "wordexport/clsMSWord.h"
-#include "wordexport/clsWordPackage.h"
-#include "wordexport/mdWordXml.h"
+#include "wordexport/document/clsMSWord.h"
+#include "wordexport/document/clsWordPackage.h"
+#include "wordexport/document/mdWordXml.h"
 
 #include <QFile>
 #include <QTemporaryDir>

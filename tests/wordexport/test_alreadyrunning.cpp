@@ -1,7 +1,7 @@
 #include "tests/support/mdExpectError.h"
 #include "tests/support/mdTestPrinting.h"
+#include "wordexport/document/mdWordInstalled.h"
 #include "wordexport/mdWordAlreadyRunning.h"
-#include "wordexport/mdWordInstalled.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

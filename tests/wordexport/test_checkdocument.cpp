@@ -1,6 +1,6 @@
 #include "tests/support/mdExpectError.h"
 #include "tests/wordexport/clsTestDocument.h"
-#include "wordexport/mdCheckDocument.h"
+#include "wordexport/document/mdCheckDocument.h"
 
 // The look at a document from outside, part by part.
 

@@ -1,6 +1,6 @@
 #include "tests/support/clsScriptedUserInterface.h"
 #include "tests/wordexport/clsJoin.h"
-#include "wordexport/mdCheckDocument.h"
+#include "wordexport/document/mdCheckDocument.h"
 
 // Documents that are joined: their sections, lists, parts, footers and identities.
 

@@ -1,7 +1,7 @@
 // A text that is packed while it grows.
 
 #include "tests/support/mdTestPrinting.h"
-#include "wordexport/clsDeflatedText.h"
+#include "wordexport/document/clsDeflatedText.h"
 
 #include <gtest/gtest.h>
 

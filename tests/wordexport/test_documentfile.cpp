@@ -1,8 +1,8 @@
-#include "shell/clsFileSystem.h"
+#include "base/clsFileSystem.h"
 #include "tests/support/mdExpectError.h"
 #include "tests/support/mdOrdinaryUser.h"
 #include "tests/support/mdTestPrinting.h"
-#include "wordexport/mdDocumentFile.h"
+#include "wordexport/document/mdDocumentFile.h"
 
 #include <QDir>
 #include <QFile>

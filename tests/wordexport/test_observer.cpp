@@ -1,4 +1,4 @@
-#include "wordexport/clsMSWordObserver.h"
+#include "wordexport/document/clsMSWordObserver.h"
 
 #include "tests/wordexport/clsTestDocument.h"
 

@@ -2,7 +2,7 @@
 
 #include "tests/support/clsScriptedUserInterface.h"
 #include "tests/wordexport/clsTestDocument.h"
-#include "wordexport/clsPlainText.h"
+#include "wordexport/document/clsPlainText.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
-#include "wordexport/mdStrictXml.h"
+#include "wordexport/document/mdStrictXml.h"
 
-#include "wordexport/mdWordXml.h"
+#include "wordexport/document/mdWordXml.h"
 
 #include <QStringEncoder>
 

@@ -1,7 +1,7 @@
 // The blank items check, and claims brought up to date.
 
+#include "base/mdGetVersionInfo.h"
 #include "formdata/mdXMLControl.h"
-#include "shell/mdGetVersionInfo.h"
 #include "tests/zr3tool/clsToolTest.h"
 
 namespace {

@@ -1,6 +1,6 @@
 // What the tool writes is JSON, whatever a claim holds.
 
-#include "shell/zr3tool/clsJsonWriter.h"
+#include "base/clsJsonWriter.h"
 #include "tests/support/mdTestPrinting.h"
 
 #include <QJsonArray>

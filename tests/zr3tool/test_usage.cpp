@@ -1,6 +1,6 @@
 // The command line.
 
-#include "shell/mdGetVersionInfo.h"
+#include "base/mdGetVersionInfo.h"
 #include "tests/zr3tool/clsToolTest.h"
 
 namespace {

@@ -1,8 +1,8 @@
 // A claim that was changed in every way has the figures of the same claim read anew: nothing that is kept goes stale.
 
+#include "base/clsRunTimeError.h"
+#include "costing/mdTotalsReport.h"
 #include "formdata/clsZR3Form.h"
-#include "shell/clsRunTimeError.h"
-#include "shell/zr3tool/mdTotalsReport.h"
 #include "tests/support/clsScriptedUserInterface.h"
 #include "tests/support/mdTestPaths.h"
 #include "tests/support/mdTestPrinting.h"

@@ -1,0 +1,79 @@
+#include "base/mdCommandLine.h"
+
+#include "base/mdLocalFile.h"
+
+#include <QDir>
+
+#include <algorithm>
+#include <filesystem>
+
+namespace {
+
+/// The path of a file's address, or the text itself where it is none.
+QString withoutAddress(const QString &text)
+{
+    QUrl address(text);
+    if (!address.isLocalFile())
+        return text;
+    if (address.host() == QLatin1String("localhost"))
+        address.setHost(QString());
+    return address.toLocalFile();
+}
+
+/// The full path, without "." and ".." where the file is the same without them: behind a link to a folder it is not.
+QString fullPath(const QString &path)
+{
+    const QString full = QDir::current().absoluteFilePath(path);
+    const QString clean = QDir::cleanPath(full);
+    return QFileInfo(clean).canonicalFilePath() == QFileInfo(full).canonicalFilePath() ? clean : full;
+}
+
+bool isUtf8(const QByteArray &name)
+{
+    const QString text = QFile::decodeName(name);
+    if (QFile::encodeName(text) != name)
+        return false;
+    const QUrl address(text);
+    return address.toLocalFile().isEmpty() || !mdLocalFile(address).isEmpty();
+}
+
+/// A name with the bytes that can't be shown written out.
+QString shown(const QByteArray &name)
+{
+    QString text;
+    for (const char byte : name)
+        text += byte >= ' ' && byte <= '~' ? QString(QLatin1Char(byte))
+                                           : QStringLiteral("\\x%1").arg(uchar(byte), 2, 16, QLatin1Char('0'));
+    return text;
+}
+
+} // namespace
+
+QString CommandLinePath(const QStringList &arguments)
+{
+    QString path = arguments.join(u' ');
+    // Quotes are the shell's, and go. Only where they are part of a file's name, which they can be on this system, that
+    // file is meant.
+    if (!QFileInfo::exists(path))
+        path = withoutAddress(path.remove(u'"'));
+    // The claim keeps its path, which must be good wherever the program stands later.
+    return path.isEmpty() ? path : fullPath(path);
+}
+
+QByteArray NameNotInUtf8(const QByteArrayList &names)
+{
+    const auto found = std::find_if_not(names.begin(), names.end(), isUtf8);
+    return found == names.end() ? QByteArray() : *found;
+}
+
+QByteArray CurrentFolderName()
+{
+    std::error_code gone;
+    return QByteArray::fromStdString(std::filesystem::current_path(gone).native());
+}
+
+QString RefusalOfName(const QByteArray &name)
+{
+    return QStringLiteral("The name of this file or folder has characters that the program can't read:\r\n\r\n")
+        + shown(name) + QStringLiteral("\r\n\r\nPlease rename it and try again.");
+}

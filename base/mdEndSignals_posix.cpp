@@ -1,0 +1,103 @@
+// The requests to end on POSIX systems. Another platform needs this one file anew.
+
+#include "base/mdEndSignals.h"
+
+#include "base/clsRunTimeError.h"
+
+#include <QSocketNotifier>
+
+#include <atomic>
+#include <cerrno>
+#include <csignal>
+#include <memory>
+#include <utility>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int EndSignals[] = {SIGTERM, SIGHUP};
+
+// All that a signal's handler may touch.
+std::atomic<int> pipeEnd = -1;
+static_assert(std::atomic<int>::is_always_lock_free);
+
+extern "C" void passOn(int)
+{
+    const int before = errno;
+    // A full pipe has a request in it already.
+    [[maybe_unused]] const auto written = ::write(pipeEnd, "", 1);
+    errno = before;
+}
+
+/// A pipe that carries a signal into the event loop: nothing but a write is safe where the signal arrives.
+class clsEndSignals {
+public:
+    explicit clsEndSignals(std::function<void()> handler)
+        : m_handler(std::move(handler))
+    {
+        if (::pipe2(m_pipe, O_NONBLOCK | O_CLOEXEC) != 0)
+            throw clsRunTimeError::fromSystem(errno);
+        pipeEnd = m_pipe[1];
+        m_notifier = std::make_unique<QSocketNotifier>(m_pipe[0], QSocketNotifier::Read);
+        QObject::connect(m_notifier.get(), &QSocketNotifier::activated, [this] { arrived(); });
+        for (size_t i = 0; i < std::size(EndSignals); ++i)
+            listen(EndSignals[i], m_before[i]);
+    }
+    ~clsEndSignals()
+    {
+        for (size_t i = 0; i < std::size(EndSignals); ++i)
+            ::sigaction(EndSignals[i], &m_before[i], nullptr);
+        m_notifier.reset();
+        pipeEnd = -1;
+        ::close(m_pipe[0]);
+        ::close(m_pipe[1]);
+    }
+    clsEndSignals(const clsEndSignals &) = delete;
+    clsEndSignals &operator=(const clsEndSignals &) = delete;
+
+private:
+    static void listen(int signal, struct sigaction &before)
+    {
+        ::sigaction(signal, nullptr, &before);
+        // Started so that it survives the end of its terminal, it goes on doing so.
+        if (before.sa_handler == SIG_IGN)
+            return;
+        struct sigaction action = {};
+        action.sa_handler = passOn;
+        action.sa_flags = SA_RESTART;
+        sigemptyset(&action.sa_mask);
+        ::sigaction(signal, &action, nullptr);
+    }
+    void arrived()
+    {
+        char rest[64];
+        while (::read(m_pipe[0], rest, sizeof rest) > 0) { }
+        // Taken away before it runs: it may run an event loop of its own, and may take this object away.
+        const std::function<void()> handler = std::exchange(m_handler, nullptr);
+        if (handler)
+            handler();
+    }
+
+    std::function<void()> m_handler;
+    int m_pipe[2] = {-1, -1};
+    std::unique_ptr<QSocketNotifier> m_notifier;
+    struct sigaction m_before[std::size(EndSignals)] = {};
+};
+
+std::unique_ptr<clsEndSignals> inForce;
+
+} // namespace
+
+void SetEndSignalHandler(std::function<void()> handler)
+{
+    inForce.reset();
+    if (handler)
+        inForce = std::make_unique<clsEndSignals>(std::move(handler));
+}
+
+void MakeSizeLimitAnError()
+{
+    std::signal(SIGXFSZ, SIG_IGN);
+}

@@ -1,0 +1,105 @@
+// Owners and links on POSIX systems. Another platform needs this one file anew.
+
+#include "base/mdOwnFolder.h"
+
+#include "shell/mdUninterrupted.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <fcntl.h>
+#include <pwd.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr mode_t OwnerOnly = S_IRWXU;
+constexpr mode_t MadeWith = S_IRWXU | S_IRWXG | S_IRWXO | S_ISVTX; // the group's bit comes with the parent
+constexpr int MostLinks = 40; // as many as the system follows
+
+bool isOwn(uid_t owner)
+{
+    return owner == ::geteuid();
+}
+
+QString joined(const QString &folder, const QString &name)
+{
+    return folder.endsWith(u'/') ? folder + name : folder + u'/' + name;
+}
+
+/// Goes the way that the system would go, one name at a time. `links` is how many it may still follow.
+bool onlyOverTrustedLinks(const QString &path, int links)
+{
+    QString here = QStringLiteral("/");
+    const QStringList names = path.split(u'/', Qt::SkipEmptyParts);
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        if (names[i] == QLatin1String(".."))
+            here = here.left(qMax(qsizetype(1), here.lastIndexOf(u'/')));
+        if (names[i] == QLatin1String(".") || names[i] == QLatin1String(".."))
+            continue;
+        const QString next = joined(here, names[i]);
+        const QByteArray native = QFile::encodeName(next);
+        struct stat status = {};
+        if (mdUninterrupted([&] { return ::lstat(native.constData(), &status); }) != 0 || !S_ISLNK(status.st_mode)) {
+            here = next;
+            continue;
+        }
+        const bool isLast = i + 1 == names.size();
+        if (!isOwn(status.st_uid) && (isLast || status.st_uid != 0))
+            return false;
+        char target[4096];
+        const ssize_t size = mdUninterrupted([&] { return ::readlink(native.constData(), target, sizeof target); });
+        if (size <= 0 || links == 0)
+            return false;
+        const QString to = QFile::decodeName(QByteArray(target, size));
+        const QStringList rest = names.mid(i + 1);
+        const QString further = to.startsWith(u'/') ? to : joined(here, to);
+        return onlyOverTrustedLinks(joined(further, rest.join(u'/')), links - 1);
+    }
+    return true;
+}
+
+} // namespace
+
+bool MakeOwnFolder(const QString &path)
+{
+    const QByteArray native = QFile::encodeName(path);
+    (void)mdUninterrupted([&] { return ::mkdir(native.constData(), OwnerOnly); });
+    const int folder
+        = mdUninterrupted([&] { return ::open(native.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC); });
+    if (folder < 0)
+        return false;
+    struct stat status = {};
+    const bool own = mdUninterrupted([&] { return ::fstat(folder, &status); }) == 0 && isOwn(status.st_uid);
+    // One that was there before may be open to others. A file system without permissions refuses this.
+    if (own && (status.st_mode & (S_IRWXG | S_IRWXO)) != 0)
+        (void)mdUninterrupted([&] { return ::fchmod(folder, OwnerOnly); });
+    ::close(folder);
+    return own;
+}
+
+void MakeFolderLikeItsParent(const QString &path)
+{
+    const QByteArray native = QFile::encodeName(path);
+    const QByteArray around = QFile::encodeName(QFileInfo(path).path());
+    struct stat parent = {};
+    if (mdUninterrupted([&] { return ::stat(around.constData(), &parent); }) != 0)
+        return;
+    // Not changed afterwards: by then, somebody else could have put another folder in its place.
+    const mode_t before = ::umask(0);
+    (void)mdUninterrupted([&] { return ::mkdir(native.constData(), parent.st_mode & MadeWith); });
+    ::umask(before);
+}
+
+bool LeadsOverForeignLink(const QString &path)
+{
+    return !onlyOverTrustedLinks(QDir::current().absoluteFilePath(path), MostLinks);
+}
+
+QString OwnName()
+{
+    const passwd *entry = ::getpwuid(::geteuid());
+    const QString known = entry ? QFile::decodeName(entry->pw_name) : QString();
+    return known.isEmpty() || known.contains(u'/') || known.startsWith(u'.') ? QString::number(::geteuid()) : known;
+}

@@ -1,0 +1,31 @@
+// Whether a stream is a terminal, on POSIX systems. Another platform needs this one file anew.
+
+#include "base/mdPrint.h"
+
+#include <QStringList>
+
+#include <unistd.h>
+
+QString mdWithoutControls(QString text)
+{
+    for (QChar &c : text)
+        if (c.category() == QChar::Other_Control)
+            c = u'?';
+    return text;
+}
+
+void mdPrint(std::FILE *stream, const QString &text)
+{
+    // A line feed by itself is no end of a line: it comes from a file's name.
+    QStringList lines = text.split(QStringLiteral("\r\n"));
+    if (mdIsTerminal(stream))
+        for (QString &line : lines)
+            line = mdWithoutControls(line);
+    const QByteArray bytes = lines.join(u'\n').toUtf8();
+    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stream);
+}
+
+bool mdIsTerminal(std::FILE *stream)
+{
+    return ::isatty(::fileno(stream)) == 1;
+}

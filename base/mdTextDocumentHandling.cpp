@@ -1,0 +1,203 @@
+#include "base/mdTextDocumentHandling.h"
+
+#include "base/clsFileSystem.h"
+#include "base/clsUserInterface.h"
+#include "base/clsWriteLock.h"
+#include "base/mdCodePage.h"
+#include "base/mdLog.h"
+#include "base/mdSideFile.h"
+#include "base/mdSystemFailure.h"
+
+#include <chrono>
+#include <cstring>
+#include <new>
+#include <optional>
+#include <thread>
+
+namespace {
+
+/// How long a reader takes a claim that is no whole one for one that is being written: far longer than a program leaves
+/// it so, and not so long that opening a damaged one would be a nuisance.
+constexpr std::chrono::seconds LongestWrite(1);
+constexpr std::chrono::milliseconds BetweenLooks(5);
+
+/// A turn can be lost only by a program that stood still in it, each time for seconds.
+constexpr int MostTurns = 3;
+
+bool endsWith(const QString &path, const QByteArray &end)
+{
+    return FileSystem().ReadFile(path).trimmed().endsWith(end);
+}
+
+/// True where a write that broke off has left the file torn and its side file whole. Copying the one over the other, as
+/// the guard of the next write, would lose the last whole content, and a second break-off with it everything. Whether a
+/// document is whole shows at its end, which is the end tag of its root.
+bool sideFileIsTheWholeOne(const QString &path, const QString &side, const QByteArray &bytes)
+{
+    const QByteArray end = bytes.mid(bytes.lastIndexOf("</"));
+    return end.startsWith("</") && FileSystem().FileExists(side) && !endsWith(path, end) && endsWith(side, end);
+}
+
+/// The guarded overwrite. The order is the guard: at every moment the old content is whole in the file or in the side
+/// file, on the disk and not only in the system's memory, so that a loss of power is no worse than a crash of the
+/// program. False where it was given up, because another program has taken the turn away and may be writing.
+template <class IsLost> bool overwriteUnlessLost(const QString &path, const QByteArray &bytes, IsLost isLost)
+{
+    const QString side = mdSideFile(path);
+    if (FileSystem().FileExists(path) && !sideFileIsTheWholeOne(path, side, bytes))
+        FileSystem().CopyFile(path, side);
+    if (isLost())
+        return false;
+    FileSystem().EmptyFile(path);
+    FileSystem().WriteFile(path, bytes);
+    // The side file may be the other program's by now, and what stands in the file a mixture of both.
+    if (isLost())
+        return false;
+    if (FileSystem().FileExists(side))
+        FileSystem().DeleteFile(side);
+    return true;
+}
+
+/// The same in one turn; false where that was lost.
+bool overwrittenInTurn(const QString &path, const QByteArray &bytes, const clsWriteLock &turn, bool isLastTurn)
+{
+    const auto isLost = [&] { return !isLastTurn && turn.isLost(); };
+    try {
+        return overwriteUnlessLost(path, bytes, isLost);
+    } catch (const clsRunTimeError &) {
+        // The other program may have removed what was to be copied or deleted.
+        if (isLost())
+            return false;
+        throw;
+    }
+}
+
+void overwrite(const QString &path, const QByteArray &bytes)
+{
+    bool isDoubtful = false;
+    for (int turns = 1, isDone = false; !isDone; ++turns) {
+        const clsWriteLock turn(path);
+        isDoubtful = isDoubtful || turn.isDoubtful();
+        isDone = overwrittenInTurn(path, bytes, turn, turns == MostTurns);
+    }
+    if (isDoubtful)
+        UserInterface().systemMessage(
+            QStringLiteral("This file was saved, but another program may have been writing to it at the same time:")
+                + QStringLiteral("\r\n\r\n") + path
+                + QStringLiteral("\r\n\r\nPlease check that no one else has it open."),
+            QStringLiteral("File Saved"), clsUserInterface::Information, clsUserInterface::OKOnly);
+}
+
+/// Whether a file's content may be the part of a document that was written so far. Documents end with the end tag of
+/// their root, which stands nowhere else in them; no other text shows whether it is whole.
+bool mayBeHalfWritten(const QByteArray &bytes)
+{
+    const QByteArray text = bytes.trimmed();
+    if (text.isEmpty())
+        return true;
+    if (!text.startsWith('<'))
+        return false;
+    const qsizetype last = text.lastIndexOf('<');
+    if (last == 0)
+        return !text.endsWith("/>");
+    qsizetype nameEnd = 1;
+    while (nameEnd < text.size() && !std::strchr(" \t\r\n/>", text[nameEnd]))
+        ++nameEnd;
+    return text.mid(last) != "</" + text.mid(1, nameEnd - 1) + '>';
+}
+
+/// Whether a program is writing to the file, or died while it did.
+bool isBeingWritten(const QString &path)
+{
+    try {
+        return clsWriteLock::isTaken(path) || FileSystem().FileExists(mdSideFile(path));
+    } catch (const clsRunTimeError &) {
+        return false;
+    }
+}
+
+/// The content of the file as it stands for a moment; nothing where it changed under the reader's hands.
+std::optional<QByteArray> readOnce(const QString &path)
+{
+    try {
+        QByteArray bytes = FileSystem().ReadFile(path);
+        if (FileSystem().FileHolds(path, bytes))
+            return bytes;
+    } catch (const clsRunTimeError &error) {
+        if (error.number() != clsRunTimeError::InputPastEnd)
+            throw;
+    }
+    return {};
+}
+
+/// Readers take no lock: anyone who may read the folder could hold a lock that they wait for. Where the content can't
+/// be a whole claim they read again, and after a while take the file as it is.
+QByteArray read(const QString &path)
+{
+    const auto until = std::chrono::steady_clock::now() + LongestWrite;
+    for (;;) {
+        const bool isLate = std::chrono::steady_clock::now() >= until;
+        const std::optional<QByteArray> bytes = readOnce(path);
+        if (bytes && (isLate || !mayBeHalfWritten(*bytes)))
+            return *bytes;
+        // Once more after that: the write may just have ended.
+        if (bytes && !isBeingWritten(path) && FileSystem().FileHolds(path, *bytes))
+            return *bytes;
+        if (isLate)
+            throw clsRunTimeError(clsRunTimeError::InputPastEnd);
+        std::this_thread::sleep_for(BetweenLooks);
+    }
+}
+
+/// Runs a file operation; false where it failed, with its box shown.
+template <class Operation>
+bool trapped(const QString &title, const QString &whatWasTried, const QString &path, Operation operation)
+{
+    try {
+        operation();
+        return true;
+    } catch (const clsRunTimeError &error) {
+        mdSystemFailure(title, whatWasTried, path, error);
+    } catch (const std::bad_alloc &) {
+        mdSystemFailure(title, whatWasTried, path, clsRunTimeError(clsRunTimeError::OutOfMemory));
+    }
+    return false;
+}
+
+/// The content of a file as `convert` makes a text of its bytes, an empty text where that failed.
+template <class Convert> auto readDocument(const QString &path, bool logIt, Convert convert)
+{
+    if (logIt)
+        WriteLog(QStringLiteral("Begin Read Text Document - ") + path);
+    decltype(convert(QByteArray())) text;
+    if (!trapped(QStringLiteral("File Not Read"), QStringLiteral("There was a problem reading the following path:"),
+            path, [&] { text = convert(read(path)); }))
+        return decltype(text)();
+    if (logIt)
+        WriteLog(QStringLiteral("End Read Text Document - ") + path);
+    return text;
+}
+
+} // namespace
+
+QString ReadTextDocument(const QString &path, bool logIt)
+{
+    return readDocument(path, logIt, [](const QByteArray &bytes) { return mdFromCodePage(bytes); });
+}
+
+QByteArray ReadTextDocumentAsUtf8(const QString &path, bool logIt)
+{
+    return readDocument(path, logIt, [](QByteArray bytes) { return mdUtf8FromCodePage(std::move(bytes)); });
+}
+
+bool WriteTextDocument(const QString &text, const QString &path, bool logIt)
+{
+    if (logIt)
+        WriteLog(QStringLiteral("Begin Write Text Document - ") + path);
+    if (!trapped(QStringLiteral("File Not Saved"), QStringLiteral("There was a problem writing to the following path:"),
+            path, [&] { overwrite(path, mdToCodePage(text)); }))
+        return false;
+    if (logIt)
+        WriteLog(QStringLiteral("End Write Text Document - ") + path);
+    return true;
+}

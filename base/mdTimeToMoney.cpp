@@ -1,0 +1,16 @@
+#include "base/mdTimeToMoney.h"
+
+#include "base/mdTimeFormatting.h"
+
+Money TimeToMoney(QStringView timeText, Money ratePerHour)
+{
+    return MinutesToMoney(TimeToMinutes(timeText), ratePerHour);
+}
+
+Money MinutesToMoney(int minutes, Money ratePerHour)
+{
+    // Dividing first, multiplying once, on the whole time: another order gives another last digit, and the claim must
+    // agree to the penny with those already lodged.
+    const double hours = double(minutes) / 60.0;
+    return RoundMoney2(ratePerHour.toDouble() * hours);
+}

@@ -1,0 +1,36 @@
+#include "base/mdVersionComparison.h"
+
+#include "base/clsRunTimeError.h"
+#include "base/mdNumberText.h"
+
+#include <QList>
+
+#include <array>
+
+namespace {
+
+using Fields = std::array<double, 3>; // major, minor, revision
+
+Fields fieldsOf(const QString &version)
+{
+    const QList<QStringView> parts = QStringView(version).split(u'.');
+    Fields fields = {};
+    if (parts.size() < qsizetype(fields.size()))
+        throw clsRunTimeError(clsRunTimeError::SubscriptOutOfRange);
+    for (size_t i = 0; i < fields.size(); ++i)
+        fields[i] = TextValue(parts[qsizetype(i)]);
+    return fields;
+}
+
+} // namespace
+
+int CompareVersions(const QString &fileVersion, const QString &programVersion)
+{
+    enum Result { Older = 0, Same = 1, Newer = 2 };
+    if (fileVersion == programVersion)
+        return Same;
+    // Both are read before they are compared, so that a damaged version is found whatever its first field says.
+    const Fields file = fieldsOf(fileVersion);
+    const Fields program = fieldsOf(programVersion);
+    return file > program ? Newer : Older;
+}

@@ -1,0 +1,208 @@
+#include "commands/mdFileHandling.h"
+
+#include "base/clsFileSystem.h"
+#include "base/mdCustomMessages.h"
+#include "base/mdGetResourceData.h"
+#include "base/mdGetVersionInfo.h"
+#include "base/mdVersionComparison.h"
+#include "commands/mdRecoveredCopy.h"
+#include "commands/mdRunTimeErrorMessage.h"
+#include "formdata/clsZR3Form.h"
+#include "formdata/clsZR3PreferencesDatabase.h"
+#include "formdata/mdGlobals.h"
+
+#include <QScopedValueRollback>
+
+namespace {
+
+const QString Filter = QStringLiteral("Velmor ZR3 Files (*.zr3)|*.zr3");
+const QString DefaultExtension = QStringLiteral(".zr3");
+
+constexpr int FileIsNewer = 2;
+
+clsFormDisplay formDisplay;
+
+void run(const std::function<void()> &action)
+{
+    if (action)
+        action();
+}
+
+template <class T> T &existing(const std::unique_ptr<T> &pointer)
+{
+    if (!pointer)
+        throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
+    return *pointer;
+}
+
+void warnOfNewerVersion(const QString &fileVersion)
+{
+    const QString paragraph = QStringLiteral("\r\n\r\n");
+    mdCustomMessages(
+        QStringLiteral("The file you have opened was created on a newer version of the program than you are currently "
+                       "running.")
+            + paragraph + QStringLiteral("This file was created in version ") + fileVersion
+            + QStringLiteral(", you are currently running version ") + GetVersionInfo() + paragraph
+            + QStringLiteral(
+                "This file may contain functionality that is not recognised by this version and saving may "
+                "lose information that is vital to the file.")
+            + paragraph + QStringLiteral("Please visit ")
+            + GetResourceData(QStringLiteral("ciWebsite"), QStringLiteral("COMPANYINFO"))
+            + QStringLiteral(" and download the latest version of the program."),
+        QStringLiteral("Version Error"));
+}
+
+/// Loads the file into the current claim, and begins a new one where it is none; true when it was loaded.
+bool loadForm(const QString &path)
+{
+    if (!Form->LoadXML(path)) {
+        NewForm(true);
+        return false;
+    }
+    // New elements that an older file got by being loaded count as clean.
+    Document().takeAsClean();
+    if (CompareVersions(Form->Version(), GetVersionInfo()) == FileIsNewer)
+        warnOfNewerVersion(Form->Version());
+    return true;
+}
+
+/// Sets work aside that counts as saved and would be lost, and tells the user. False where no place took it.
+bool setAside()
+{
+    // A claim that still counts as changed has been given up by the user.
+    if (FormIsDirty())
+        return true;
+    const clsRecoveredCopy copy = WriteRecoveredCopy();
+    if (copy.cause == clsLossCause::None)
+        return true;
+    UserInterface().systemMessage(mdRecoveredCopyMessage(copy), QStringLiteral("Velmor ZR3"),
+        copy.path.isEmpty() ? clsUserInterface::Critical : clsUserInterface::Information, clsUserInterface::OKOnly);
+    return !copy.path.isEmpty();
+}
+
+} // namespace
+
+void SetFormDisplay(clsFormDisplay display)
+{
+    formDisplay = std::move(display);
+}
+
+bool FormIsDirty()
+{
+    return Document().isDirty();
+}
+
+bool ConfirmClose()
+{
+    if (!FormIsDirty())
+        return true;
+    switch (mdCustomMessages(QStringLiteral("Save changes to this form before closing?"), QStringLiteral("Save?"),
+        clsUserInterface::YesNoCancel, clsUserInterface::Question)) {
+    case clsUserInterface::Yes: return SaveForm(false);
+    case clsUserInterface::No: return true;
+    default: return false;
+    }
+}
+
+bool ConfirmDrop()
+{
+    return ConfirmClose() && setAside();
+}
+
+bool ConfirmExit()
+{
+    if (!ConfirmClose())
+        return false;
+    setAside();
+    return true;
+}
+
+bool SaveForm(bool saveAs)
+{
+    clsZR3Form &form = existing(Form);
+    if ((form.path.isEmpty() || saveAs) && !SaveFormDialog())
+        return false;
+    // Before the text is written, so that it is part of it.
+    form.Version = GetVersionInfo();
+    const bool written = form.SaveXML(Document().filePath());
+    Document().lastSave = written ? clsDocument::clsSaved::Written : clsDocument::clsSaved::Failed;
+    // Also after a write that failed. That is meant: its box has told the user, and the old content lies beside the
+    // file.
+    Document().takeAsClean();
+    run(formDisplay.activate);
+    return true;
+}
+
+bool SaveFormDialog()
+{
+    existing(Form);
+    const QString path = UserInterface().chooseFileToSave(Filter, DefaultExtension);
+    if (path.isEmpty() || !ConfirmOverwrite(path))
+        return false;
+    Document().givePath(path);
+    return true;
+}
+
+bool ConfirmOverwrite(const QString &path)
+{
+    try {
+        if (!FileSystem().FileExists(path))
+            return true;
+    } catch (const clsRunTimeError &) {
+        // What keeps the program from looking keeps it from writing too, and the write tells the user why.
+        return true;
+    }
+    return mdCustomMessages(QStringLiteral("The chosen file path already exists. Would you like to overwrite it?"),
+               QStringLiteral("Overwrite?"), clsUserInterface::YesNo, clsUserInterface::Question)
+        == clsUserInterface::Yes;
+}
+
+void NewForm(bool skipConfirm)
+{
+    if (!skipConfirm && !ConfirmDrop())
+        return;
+    Document().replaceForm();
+    Form->Version = GetVersionInfo();
+    Form->VAT = true;
+    Form->VATRate = existing(Preferences).DefaultVATRate();
+    Document().takeAsClean();
+    run(formDisplay.stopTimer);
+    run(formDisplay.activate);
+}
+
+void OpenFormDialog(bool clearPath)
+{
+    // Before the dialog: whoever then cancels it has been asked already, and keeps his claim with its changes.
+    if (!ConfirmDrop())
+        return;
+    const QString path = UserInterface().chooseFileToOpen(Filter);
+    if (!path.isEmpty()) {
+        OpenFormFile(path);
+        if (clearPath)
+            Document().givePath(QString());
+        run(formDisplay.clearPreview);
+        run(formDisplay.stopTimer);
+    }
+    run(formDisplay.activate);
+}
+
+void OpenFormFile(const QString &path)
+{
+    // A tick of the stopwatch would write the time of the claim before into this one.
+    run(formDisplay.stopTimer);
+    const QScopedValueRollback<bool> reading(Document().opening, true);
+    // The claim before is gone from here on, also where the load fails, and its clean text with it.
+    Document().replaceForm();
+    Document().takeAsClean();
+    try {
+        if (!loadForm(path))
+            return;
+    } catch (...) {
+        // The failure goes on to the top. Nothing of the user's is in a claim that was never opened.
+        Document().takeAsClean();
+        throw;
+    }
+    // After the clean text was taken: a path that differs from the one in the file counts as a change. A copy or a
+    // backup thus asks to be saved where it lies now.
+    Document().givePath(path);
+}

@@ -1,0 +1,84 @@
+#include "commands/mdLossCause.h"
+
+#include "base/clsFileSystem.h"
+#include "base/mdCodePage.h"
+#include "formdata/clsZR3Form.h"
+#include "formdata/mdGlobals.h"
+
+#include <QDir>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace {
+
+const QString ClaimExtension = QStringLiteral(".zr3");
+
+bool holds(const QString &path, const QByteArray &bytes)
+{
+    try {
+        return FileSystem().ReadFile(path) == bytes;
+    } catch (const clsRunTimeError &) {
+        return false;
+    }
+}
+
+/// Whether the claim's file has this content, or another one beside it, under a name that the file was given since.
+bool isOnDisk(const QByteArray &bytes)
+{
+    const QString path = Document().filePath();
+    if (path.isEmpty())
+        return false;
+    if (holds(path, bytes))
+        return true;
+    const QDir folder(QFileInfo(path).path(), u'*' + ClaimExtension, QDir::NoSort, QDir::Files | QDir::NoSymLinks);
+    const QFileInfoList files = folder.entryInfoList();
+    return std::any_of(files.begin(), files.end(),
+        [&](const QFileInfo &file) { return file.size() == bytes.size() && holds(file.filePath(), bytes); });
+}
+
+/// A claim's text without the path that it holds, which counts as a change where a claim lies elsewhere than it was
+/// saved, and is no work of the user's.
+QString withoutPath(QString text)
+{
+    static const QRegularExpression element(QStringLiteral("<path(/>|>[^<]*</path>)"));
+    const QRegularExpressionMatch found = element.match(text);
+    return text.remove(found.capturedStart(), found.capturedLength());
+}
+
+clsLossCause causeInFile()
+{
+    try {
+        const QString path = Document().filePath();
+        if (!FileSystem().FileExists(path))
+            return clsLossCause::FileMissing;
+        FileSystem().ReadFile(path);
+        return clsLossCause::FileChanged;
+    } catch (const clsRunTimeError &) {
+        return clsLossCause::FileUnreadable;
+    }
+}
+
+clsLossCause lossCause()
+{
+    const QString text = Form->XMLOutput();
+    const bool isClean = text == CleanXML;
+    if ((isClean && Document().lastSave == clsDocument::clsSaved::Never) || isOnDisk(mdToCodePage(text)))
+        return clsLossCause::None;
+    if (isClean)
+        return Document().lastSave == clsDocument::clsSaved::Failed ? clsLossCause::SaveFailed : causeInFile();
+    const bool isAsOpened = withoutPath(text) == withoutPath(CleanXML) && isOnDisk(mdToCodePage(CleanXML));
+    return isAsOpened ? clsLossCause::None : clsLossCause::UnsavedChanges;
+}
+
+} // namespace
+
+clsLossCause FormLossCause() noexcept
+{
+    try {
+        return Document().opening || !Form ? clsLossCause::None : lossCause();
+    } catch (...) {
+        // A claim that can't even be compared is not known to be safe.
+        return clsLossCause::UnsavedChanges;
+    }
+}

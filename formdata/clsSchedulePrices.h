@@ -1,0 +1,96 @@
+#pragma once
+
+#include "base/Money.h"
+
+#include <QString>
+
+#include <array>
+#include <cstdint>
+#include <deque>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+class clsZR3FeeEarnerGroup;
+class clsZR3Form;
+class clsZR3ScheduleOfTimeItem;
+
+/// The rates of a fee earner group, each read from the tree when it is first asked for and then kept: a rate that no
+/// item uses may be anything.
+class clsGroupRates {
+public:
+    explicit clsGroupRates(const clsZR3FeeEarnerGroup &group)
+        : m_group(&group)
+    { }
+
+    Money HourlyRate();
+    Money AdvocacyRate();
+    Money CounselRate();
+    Money TravelAndWaitingRate();
+    /// What the group adds to every item: its rate where it enhances at all.
+    Money Enhancement();
+
+private:
+    const clsZR3FeeEarnerGroup *m_group;
+    std::optional<Money> m_hourly;
+    std::optional<Money> m_advocacy;
+    std::optional<Money> m_counsel;
+    std::optional<Money> m_travelAndWaiting;
+    std::optional<Money> m_enhancement;
+};
+
+/// All that is worked out for one item of the schedule. A figure that fails in the item's own member fails here with
+/// the same error, which is noted: its place then holds nothing that counts.
+struct clsSchedulePrice {
+    enum Figure {
+        InitialsFigure,
+        TimeFigure,
+        ColumnFigure,
+        RateFigure,
+        BasicClaimFigure,
+        PercentageFigure,
+        ClaimFigure
+    };
+    static constexpr int Figures = ClaimFigure + 1;
+
+    // What is asked for most stands together.
+    Money Rate;
+    Money BasicClaim;
+    Money TotalEnhancementPercentage;
+    Money Claim;
+    std::array<std::int16_t, Figures> errors {}; ///< by figure: the number of its error, 0 for none
+    int TimeColumn = 0;
+    int Minutes = 0; ///< of the time
+    QString TTime;
+    QString FeeEarnerInitials;
+
+    int errorOf(Figure figure) const { return errors[size_t(figure)]; }
+    bool fails() const { return errors != decltype(errors) {}; }
+};
+
+/// Prices each item of a schedule once, for whoever shows all of them and their totals: the figures are those of the
+/// items. It must not outlive the drawing that it is made for, since the claim may change after it.
+class clsSchedulePrices {
+public:
+    explicit clsSchedulePrices(const clsZR3Form &form);
+
+    const clsSchedulePrice &of(const clsZR3ScheduleOfTimeItem &item);
+    const clsZR3Form &form() const { return m_form; }
+
+private:
+    struct clsEarner {
+        std::optional<QString> initials; ///< none where no fee earner has the identity
+        clsGroupRates *rates = nullptr; ///< none without a group
+    };
+    clsEarner &earnerOf(const clsZR3ScheduleOfTimeItem &item);
+    void price(const clsZR3ScheduleOfTimeItem &item, clsSchedulePrice &result);
+
+    const clsZR3Form &m_form;
+    std::vector<clsSchedulePrice> m_prices; ///< by the item's place in the claim
+    std::deque<clsSchedulePrice> m_strangers;
+    std::map<std::string, clsEarner, std::less<>> m_earners; ///< by their identities as they stand in the tree
+    std::vector<std::shared_ptr<clsZR3FeeEarnerGroup>> m_groups;
+    std::vector<std::unique_ptr<clsGroupRates>> m_rates;
+};

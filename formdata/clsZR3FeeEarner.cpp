@@ -1,0 +1,25 @@
+#include "formdata/clsZR3FeeEarner.h"
+
+#include "base/mdExisting.h"
+#include "formdata/clsZR3Form.h"
+#include "formdata/mdReadDerived.h"
+
+std::span<const clsXMLDerivedProperty> clsZR3FeeEarner::DerivedProperties()
+{
+    // clang-format off
+    static constexpr clsXMLDerivedProperty table[] = {
+        {"GroupReference", &mdReadDerived<&clsZR3FeeEarner::GroupReference>},
+    };
+    // clang-format on
+    return table;
+}
+
+std::shared_ptr<clsZR3FeeEarnerGroup> clsZR3FeeEarner::Group() const
+{
+    return m_form->FeeEarnerGroupByUniqueID(GroupUniqueID());
+}
+
+QString clsZR3FeeEarner::GroupReference() const
+{
+    return mdExisting(Group()).Reference();
+}

@@ -1,0 +1,120 @@
+#include "formdata/clsZR3ScheduleOfTimeItem.h"
+
+#include "base/mdDateSerial.h"
+#include "base/mdExisting.h"
+#include "base/mdPercentageCalculate.h"
+#include "base/mdTimeToMoney.h"
+#include "formdata/clsSchedulePrices.h"
+#include "formdata/clsZR3Form.h"
+#include "formdata/mdReadDerived.h"
+
+std::span<const clsXMLDerivedProperty> clsZR3ScheduleOfTimeItem::DerivedProperties()
+{
+    // clang-format off
+    static constexpr clsXMLDerivedProperty table[] = {
+        {"SOTItemNumber",      &mdReadDerived<&clsZR3ScheduleOfTimeItem::SOTItemNumber>},
+        {"FeeEarnerReference", &mdReadDerived<&clsZR3ScheduleOfTimeItem::FeeEarnerReference>},
+        {"FeeEarnerInitials",  &mdReadDerived<&clsZR3ScheduleOfTimeItem::FeeEarnerInitials>},
+        {"DDateSerial",        &mdReadDerived<&clsZR3ScheduleOfTimeItem::DDateSerial>},
+        {"TimeColumn",         &mdReadDerived<&clsZR3ScheduleOfTimeItem::TimeColumn>},
+    };
+    // clang-format on
+    return table;
+}
+
+std::shared_ptr<clsZR3FeeEarner> clsZR3ScheduleOfTimeItem::FeeEarner() const
+{
+    return m_form->FeeEarnerByUniqueID(FeeEarnerUniqueID());
+}
+
+QString clsZR3ScheduleOfTimeItem::FeeEarnerReference() const
+{
+    return mdExisting(FeeEarner()).Reference();
+}
+
+QString clsZR3ScheduleOfTimeItem::FeeEarnerInitials() const
+{
+    return FeeEarnerReference();
+}
+
+std::shared_ptr<clsZR3FeeEarnerGroup> clsZR3ScheduleOfTimeItem::FeeEarnerGroup() const
+{
+    return mdExisting(FeeEarner()).Group();
+}
+
+QString clsZR3ScheduleOfTimeItem::DDateSerial() const
+{
+    return mdDateSerial(dDate());
+}
+
+int clsZR3ScheduleOfTimeItem::TimeColumn() const
+{
+    if (Travel())
+        return TravelTime;
+    if (Waiting())
+        return WaitingTime;
+    return ColumnOfCode(Code());
+}
+
+clsZR3ScheduleOfTimeItem::Column clsZR3ScheduleOfTimeItem::ColumnOfCode(QStringView code)
+{
+    if (code.startsWith(u'D') || code.startsWith(u'R') || code.startsWith(u'O'))
+        return Documents;
+    if (code.startsWith(u'H'))
+        return Hearings;
+    return AttendanceAndConferences;
+}
+
+Money clsZR3ScheduleOfTimeItem::Rate() const
+{
+    const auto group = FeeEarnerGroup();
+    clsGroupRates rates(mdExisting(group));
+    return RateBy(rates, TimeColumn());
+}
+
+Money clsZR3ScheduleOfTimeItem::RateBy(clsGroupRates &rates, int timeColumn) const
+{
+    Money rate = rates.HourlyRate();
+    if (Advocacy())
+        rate = rates.AdvocacyRate();
+    if (Counsel())
+        rate = rates.CounselRate();
+    if (timeColumn == TravelTime || timeColumn == WaitingTime)
+        rate = rates.TravelAndWaitingRate();
+    if (UseHourlyRate())
+        rate = rates.HourlyRate();
+    return rate;
+}
+
+Money clsZR3ScheduleOfTimeItem::BasicClaim() const
+{
+    return TimeToMoney(TTime(), Rate());
+}
+
+Money clsZR3ScheduleOfTimeItem::TotalEnhancementPercentage() const
+{
+    const auto group = FeeEarnerGroup();
+    clsGroupRates rates(mdExisting(group));
+    return TotalEnhancementPercentageBy(rates);
+}
+
+Money clsZR3ScheduleOfTimeItem::TotalEnhancementPercentageBy(clsGroupRates &rates) const
+{
+    Money percentage = rates.Enhancement();
+    if (IncludeInEnhancements()) {
+        const auto listed = m_form->EnhancementByUniqueID(EnhancementUniqueID());
+        percentage = percentage + MoneyFromText(mdExisting(listed).Rate());
+    }
+    return percentage;
+}
+
+Money clsZR3ScheduleOfTimeItem::Claim() const
+{
+    const Money percentage = TotalEnhancementPercentage();
+    return ClaimBy(BasicClaim(), percentage);
+}
+
+Money clsZR3ScheduleOfTimeItem::ClaimBy(Money basicClaim, Money percentage)
+{
+    return RoundMoney2(basicClaim + PercentageCalculate(basicClaim, MoneyToText(percentage)));
+}

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "base/Money.h"
+#include "formdata/clsZR3Item.h"
+
+#include <memory>
+
+class clsGroupRates;
+class clsZR3FeeEarner;
+class clsZR3FeeEarnerGroup;
+class clsZR3Form;
+
+/// A dated piece of work. It prices itself on every read from its fee earner's group, with no stored result, so that a
+/// change of a rate or an enhancement reprices the whole bill at once.
+class clsZR3ScheduleOfTimeItem : public clsZR3Item {
+public:
+    /// The columns of the bill in which a time can stand.
+    enum Column { AttendanceAndConferences = 0, Documents = 1, Hearings = 2, TravelTime = 3, WaitingTime = 4 };
+    static constexpr int Columns = 5;
+
+    /// What is read by name beside the fields: one row for each derived member that a list shows.
+    static std::span<const clsXMLDerivedProperty> DerivedProperties();
+
+    explicit clsZR3ScheduleOfTimeItem(clsZR3Form &form)
+        : clsZR3Item(clsXMLPropertyTable::of<clsZR3ScheduleOfTimeItem>(), "xmlZR3ScheduleOfTimeItem")
+        , m_form(&form)
+    { }
+
+    /// The number on the exported schedule, given by the export list; held here and not in the file.
+    int SOTItemNumber = 0;
+    clsXMLLong<"OrderID", true> OrderID {*this};
+    clsXMLText<"FeeEarnerUniqueID"> FeeEarnerUniqueID {*this};
+    clsXMLText<"dDate"> dDate {*this};
+    clsXMLText<"Code"> Code {*this};
+    clsXMLText<"Description"> Description {*this};
+    clsXMLText<"TTime"> TTime {*this};
+    /// Declared without a use: no template has its element and nothing reads it.
+    clsXMLLong<"TypeOfCase"> TypeOfCase {*this};
+    clsXMLBoolean<"Advocacy"> Advocacy {*this};
+    clsXMLBoolean<"Counsel"> Counsel {*this};
+    clsXMLBoolean<"Travel"> Travel {*this};
+    clsXMLBoolean<"Waiting"> Waiting {*this};
+    clsXMLBoolean<"UseHourlyRate"> UseHourlyRate {*this};
+    clsXMLBoolean<"IncludeInEnhancements"> IncludeInEnhancements {*this};
+    clsXMLText<"EnhancementUniqueID"> EnhancementUniqueID {*this};
+
+    /// The fee earner that `FeeEarnerUniqueID` names, or nothing.
+    std::shared_ptr<clsZR3FeeEarner> FeeEarner() const;
+    /// That fee earner's reference; without a fee earner it is the object error, as in all the figures below.
+    QString FeeEarnerReference() const;
+    QString FeeEarnerInitials() const;
+    std::shared_ptr<clsZR3FeeEarnerGroup> FeeEarnerGroup() const;
+    /// The date as "yyyymmdd", by which the grids sort.
+    QString DDateSerial() const;
+
+    /// The column of the bill, 0 to 4.
+    int TimeColumn() const;
+    /// The column of a code by itself, as of a piece of work that is neither travel nor waiting.
+    static Column ColumnOfCode(QStringView code);
+    /// Pounds per hour: a later rule overrides an earlier one, so that travel prices an advocate's journey.
+    Money Rate() const;
+    /// The time at the rate, to the penny.
+    Money BasicClaim() const;
+    /// The group's and the listed enhancement added, as a percentage figure: they do not compound.
+    Money TotalEnhancementPercentage() const;
+    /// Basic claim plus its uplift, rounded to the penny once, on the sum.
+    Money Claim() const;
+
+    // The rules of the four figures, for whoever has the figures before them at hand already.
+    Money RateBy(clsGroupRates &rates, int timeColumn) const;
+    Money TotalEnhancementPercentageBy(clsGroupRates &rates) const;
+    static Money ClaimBy(Money basicClaim, Money percentage);
+
+private:
+    clsZR3Form *m_form;
+};

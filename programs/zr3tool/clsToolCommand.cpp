@@ -1,0 +1,104 @@
+#include "programs/zr3tool/clsToolCommand.h"
+
+#include <QCommandLineParser>
+
+#include <algorithm>
+
+namespace {
+
+struct VerbRow {
+    const char *word;
+    clsToolCommand::Verb verb;
+    int paths; ///< how many paths follow the word
+};
+
+constexpr VerbRow Verbs[] = {
+    {"totals", clsToolCommand::Totals, 1},
+    {"export", clsToolCommand::Export, 2},
+    {"check", clsToolCommand::Check, 1},
+    {"save", clsToolCommand::Save, 2},
+};
+
+const QString Force = QStringLiteral("force");
+const QString Templates = QStringLiteral("templates");
+const QString KeepSheets = QStringLiteral("keep-sheets");
+const QString Quiet = QStringLiteral("quiet");
+const QString HelpOption = QStringLiteral("help");
+const QString VersionOption = QStringLiteral("version");
+
+void addOptions(QCommandLineParser &parser)
+{
+    parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsOptions);
+    for (const QString &flag : {Force, KeepSheets, Quiet, HelpOption, VersionOption})
+        parser.addOption(QCommandLineOption(flag));
+    parser.addOption(QCommandLineOption(Templates, QString(), QStringLiteral("DIR")));
+}
+
+bool hasExportOptions(const QCommandLineParser &parser)
+{
+    return parser.isSet(Force) || parser.isSet(Templates) || parser.isSet(KeepSheets) || parser.isSet(Quiet);
+}
+
+std::optional<clsToolCommand> commandOf(const QCommandLineParser &parser)
+{
+    const QStringList words = parser.positionalArguments();
+    const auto *row = std::find_if(std::begin(Verbs), std::end(Verbs),
+        [&](const VerbRow &candidate) { return !words.isEmpty() && words.first() == QLatin1String(candidate.word); });
+    if (row == std::end(Verbs) || words.size() != row->paths + 1)
+        return {};
+    if (row->verb != clsToolCommand::Export && hasExportOptions(parser))
+        return {};
+    // As from a variable of a script that was never set: the program's own templates are not what was asked for.
+    if (parser.values(Templates).contains(QString()))
+        return {};
+    clsToolCommand command;
+    command.verb = row->verb;
+    command.claim = words[1];
+    command.target = words.value(2);
+    command.force = parser.isSet(Force);
+    command.keepSheets = parser.isSet(KeepSheets);
+    command.quiet = parser.isSet(Quiet);
+    command.templates = parser.value(Templates);
+    return command;
+}
+
+} // namespace
+
+std::optional<clsToolCommand> clsToolCommand::read(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    addOptions(parser);
+    if (!parser.parse(QStringList(QStringLiteral("zr3tool")) + arguments))
+        return {};
+    for (const auto &[option, verb] : {std::pair(HelpOption, Help), std::pair(VersionOption, Version)}) {
+        if (parser.isSet(option) && arguments.size() == 1) {
+            clsToolCommand command;
+            command.verb = verb;
+            return command;
+        }
+        if (parser.isSet(option))
+            return {};
+    }
+    return commandOf(parser);
+}
+
+QString clsToolCommand::usage()
+{
+    return QStringLiteral(
+        "Usage:\n"
+        "  zr3tool totals CLAIM           every figure of the bill, as JSON\n"
+        "  zr3tool export CLAIM FOLDER    the finished document into FOLDER\n"
+        "  zr3tool check  CLAIM           the blank items check\n"
+        "  zr3tool save   CLAIM NEWFILE   brings the claim up to date and writes it to NEWFILE\n"
+        "  zr3tool --help | --version\n"
+        "\n"
+        "Options of export:\n"
+        "  --force            replace an existing document\n"
+        "  --templates DIR    the folder of the page templates\n"
+        "  --keep-sheets      leave the folder ~ZR3Temp with its sheets\n"
+        "  --quiet            show no progress\n"
+        "\n"
+        "Exit status: 0 done; 1 wrong usage; 2 the claim can't be read; 3 blank items found;\n"
+        "4 a figure can't be computed, or the export failed; 5 the document exists already.\n"
+        "A box whose text is no amount is told of and left as it is; the document is made all the same.\n");
+}

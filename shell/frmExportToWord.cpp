@@ -1,0 +1,192 @@
+#include "shell/frmExportToWord.h"
+
+#include "base/clsFileSystem.h"
+#include "base/mdCustomMessages.h"
+#include "base/mdDesktopFolder.h"
+#include "base/mdGetFolder.h"
+#include "base/mdLog.h"
+#include "base/mdProgramFolder.h"
+#include "base/mdShellExecute.h"
+#include "commands/mdFileHandling.h"
+#include "controls/mdTheme.h"
+#include "controls/oButtonBar.h"
+#include "controls/oCustomButton.h"
+#include "controls/oFrame.h"
+#include "controls/oHeaderBar.h"
+#include "formdata/clsZR3Form.h"
+#include "formdata/mdGlobals.h"
+#include "shell/clsLongWork.h"
+#include "wordexport/clsExport.h"
+#include "wordexport/mdExportDriver.h"
+#include "wordexport/mdExportWordCombineDocuments.h"
+#include "wordexport/mdWordAlreadyRunning.h"
+
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScopedValueRollback>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+frmExportToWord::frmExportToWord(QWidget *parent)
+    : QDialog(parent)
+    , bxGeneral(new oFrame(this))
+    , txtExportPath(new QLineEdit(bxGeneral))
+    , cmdExportPathBrowse(button("cmdExportPathBrowse", QStringLiteral("&Browse...")))
+    , cmdOpenExportFolder(button("cmdOpenExportFolder", QStringLiteral("&Open")))
+    , cmdExport(button("cmdExport", QStringLiteral("&Export")))
+    , cmdClose(button("cmdClose", QStringLiteral("&Close")))
+{
+    setObjectName(QStringLiteral("frmExportToWord"));
+    setWindowTitle(QStringLiteral("Export to Word"));
+    WriteLog(objectName() + QStringLiteral(" Opened"));
+    build();
+    connect(txtExportPath, &QLineEdit::textChanged, this, &frmExportToWord::txtExportPath_Change);
+    connect(cmdExportPathBrowse, &oCustomButton::Click, this, &frmExportToWord::cmdExportPathBrowse_Click);
+    connect(cmdOpenExportFolder, &oCustomButton::Click, this, &frmExportToWord::cmdOpenExportFolder_Click);
+    connect(cmdExport, &oCustomButton::Click, this, &frmExportToWord::cmdExport_Click);
+    connect(cmdClose, &oCustomButton::Click, this, &QDialog::reject);
+
+    const QString path = Form->ExportPath();
+    txtExportPath->setText(path.isEmpty() ? mdDesktopFolder() : path);
+    txtExportPath->setFocus();
+}
+
+oCustomButton *frmExportToWord::button(const char *name, const QString &caption)
+{
+    auto *result = new oCustomButton(this);
+    result->setObjectName(QString::fromLatin1(name));
+    result->setCaption(caption);
+    return result;
+}
+
+void frmExportToWord::build()
+{
+    auto *header = new oHeaderBar(this);
+    header->setObjectName(QStringLiteral("oHeader"));
+    header->setCaption(QStringLiteral("Export to Word"));
+    header->setSubCaption(QStringLiteral("Export the form to a Word Document"));
+
+    bxGeneral->setObjectName(QStringLiteral("bxGeneral"));
+    bxGeneral->setCaption(QStringLiteral("Export Settings"));
+    txtExportPath->setObjectName(QStringLiteral("txtExportPath"));
+    txtExportPath->setAccessibleName(QStringLiteral("Export to"));
+    txtExportPath->setTextMargins(Theme::Space4, 0, Theme::Space4, 0);
+    auto *label = new QLabel(QStringLiteral("Export &to:"), bxGeneral);
+    label->setBuddy(txtExportPath);
+    auto *row = new QHBoxLayout;
+    row->setSpacing(Theme::Space8);
+    row->addWidget(label);
+    row->addSpacing(Theme::Space4);
+    row->addWidget(txtExportPath, 1);
+    row->addWidget(cmdExportPathBrowse);
+    row->addWidget(cmdOpenExportFolder);
+    bxGeneral->bodyLayout()->addLayout(row);
+
+    cmdExport->setLook(oCustomButton::Look::Default);
+    auto *bar = new oButtonBar(this);
+    bar->AddButton(cmdExport);
+    bar->AddButton(cmdClose);
+    oButtonBar::layOut(*this, header, bxGeneral, bar);
+    setMinimumWidth(Theme::scaled(640));
+    QWidget *const order[] = {txtExportPath, cmdExportPathBrowse, cmdOpenExportFolder, cmdExport, cmdClose};
+    for (size_t i = 1; i < std::size(order); ++i)
+        setTabOrder(order[i - 1], order[i]);
+}
+
+void frmExportToWord::txtExportPath_Change()
+{
+    // A folder that is being typed is none until its last letter, so that typing throws the box back to the desktop at
+    // once. That is meant: the box never holds what is no folder.
+    QString text = txtExportPath->text();
+    while (text.size() > 1 && (text.endsWith(u'\\') || text.endsWith(u'/')))
+        text.chop(1);
+    if (!FileSystem().FolderExists(text))
+        text = mdDesktopFolder();
+    if (text != txtExportPath->text()) {
+        const QSignalBlocker quiet(txtExportPath);
+        txtExportPath->setText(text);
+    }
+    Form->ExportPath = text;
+}
+
+void frmExportToWord::cmdExportPathBrowse_Click()
+{
+    const QString folder = GetFolder(QStringLiteral("Please select a folder to export to..."), txtExportPath->text());
+    if (!folder.isEmpty())
+        txtExportPath->setText(folder);
+}
+
+void frmExportToWord::cmdOpenExportFolder_Click()
+{
+    ShellOpen(txtExportPath->text());
+}
+
+bool frmExportToWord::mayExport()
+{
+    const QString paragraph = QStringLiteral("\r\n\r\n");
+    if (mdWordAlreadyRunning()
+        && mdCustomMessages(
+               QStringLiteral("It is recommended that you close all instances of Microsoft Word before exporting.")
+                   + paragraph
+                   + QStringLiteral("Leaving Microsoft Word open during exporting may lead to Velmor ZR3 closing "
+                                    "unexpectedly and any unsaved work will be lost.")
+                   + paragraph + QStringLiteral("Click OK to continue."),
+               QStringLiteral("Word Instances"), clsUserInterface::OKCancel, 2)
+            != clsUserInterface::OK)
+        return false;
+    if (!FileSystem().FolderExists(txtExportPath->text())) {
+        mdCustomMessages(
+            QStringLiteral("The selected Export Path does not exist. Please select a valid folder and try again."),
+            QStringLiteral("Export Path"), clsUserInterface::OKOnly, 0);
+        return false;
+    }
+    const QString document = mdFinishedDocumentPath(txtExportPath->text(), Form->FormType());
+    m_mayReplace = FileSystem().FileExists(document);
+    return !m_mayReplace
+        || mdCustomMessages(QStringLiteral("The following file will be overwritten:") + paragraph
+                   + QFileInfo(document).fileName() + QStringLiteral("\r\n"),
+               QStringLiteral("Overwrite?"), clsUserInterface::OKCancel, 1)
+        == clsUserInterface::OK;
+}
+
+bool frmExportToWord::exportForm()
+{
+    const clsLongWork work;
+    const QScopedValueRollback<bool> exporting(m_exporting, true);
+    const clsExportDriver driver = mdExportDriver(Form->FormType());
+    // A form type that no form has runs nothing, and the export is complete all the same.
+    if (!driver)
+        return true;
+    clsExport run {*Form, TemplatesFolder()};
+    run.exportFolder = txtExportPath->text();
+    run.claimFile = Document().filePath();
+    run.mayReplace = m_mayReplace;
+    const bool finished = driver(run);
+    if (run.stoppedAtDocument)
+        mdCustomMessages(QStringLiteral("Another program has just made this document in the folder. It was not "
+                                        "replaced. To replace it, export again."),
+            QStringLiteral("Export"));
+    return finished;
+}
+
+void frmExportToWord::cmdExport_Click()
+{
+    if (!mayExport())
+        return;
+    setEnabled(false);
+    const bool finished = exportForm();
+    setEnabled(true);
+    cmdExport->setFocus();
+    // Without a document the user has been told why.
+    if (finished)
+        mdCustomMessages(
+            QStringLiteral("Exporting is complete."), QStringLiteral("Export Complete"), clsUserInterface::OKOnly, 2);
+}
+
+void frmExportToWord::done(int result)
+{
+    if (!m_exporting)
+        QDialog::done(result);
+}

@@ -1,8 +1,0 @@
-#pragma once
-
-#include "shell/clsRecoveredCopy.h"
-
-/// Why the end of the program would lose work: the claim has changes, or it counts as saved and its last save did not
-/// get through, or its file is no longer what was saved. None where a file of its folder has the very same content, and
-/// while a claim is still being opened. Shows nothing and never fails.
-clsLossCause FormLossCause() noexcept;

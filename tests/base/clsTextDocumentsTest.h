@@ -1,0 +1,42 @@
+#pragma once
+
+#include "base/mdTextDocumentHandling.h"
+#include "tests/base/clsShellTest.h"
+
+/// A test of reading and writing a claim's file, which has a side file while it is written.
+class clsTextDocumentsTest : public clsShellTest {
+protected:
+    void SetUp() override
+    {
+        clsShellTest::SetUp();
+        claim = path("claim.zr3");
+        side = path("claim.zr3a");
+    }
+
+    void startWith(const QByteArray &content)
+    {
+        QFile::remove(side);
+        QFile::remove(claim);
+        put(claim, content);
+        user.messages.clear();
+    }
+
+    /// All that lies in the folder of the claim, without the folders of the program.
+    QStringList names() const { return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
+
+    static QString readBox(const QString &path, const char *error)
+    {
+        return QStringLiteral("There was a problem reading the following path:\r\n\r\n") + path
+            + QStringLiteral("\r\n\r\nThe error reported is:\r\n\r\n") + QString::fromUtf8(error);
+    }
+    static QString writeBox(const QString &path, const char *error)
+    {
+        return QStringLiteral("There was a problem writing to the following path:\r\n\r\n") + path
+            + QStringLiteral("\r\n\r\nThe error reported is:\r\n\r\n") + QString::fromUtf8(error);
+    }
+
+    const QByteArray old = QByteArrayLiteral("the old claim\r\n");
+    const QString next = QStringLiteral("the new claim");
+    QString claim;
+    QString side;
+};

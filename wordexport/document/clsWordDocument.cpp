@@ -1,0 +1,307 @@
+#include "wordexport/document/clsWordDocument.h"
+
+#include "wordexport/document/clsWordComposer.h"
+#include "wordexport/document/clsWordFinder.h"
+#include "wordexport/document/clsWordParagraph.h"
+#include "wordexport/document/mdDocumentFile.h"
+#include "wordexport/document/mdWordXml.h"
+
+#include <algorithm>
+
+using pugi::xml_node;
+
+namespace {
+
+constexpr QChar LineBreak(11);
+
+// The paragraphs of the story in document order, until the visitor has seen enough.
+template <class Visitor> bool visitParagraphs(const xml_node &container, const Visitor &visitor)
+{
+    for (xml_node block = WordXml::firstItem(container, WordXml::isBlock); block;
+         block = WordXml::nextItem(block, WordXml::isBlock)) {
+        if (WordXml::is(block, "w:p")) {
+            if (visitor(block))
+                return true;
+            continue;
+        }
+        for (xml_node row = WordXml::firstItem(block, WordXml::isRow); row;
+             row = WordXml::nextItem(row, WordXml::isRow))
+            for (xml_node cell = WordXml::firstItem(row, WordXml::isCell); cell;
+                 cell = WordXml::nextItem(cell, WordXml::isCell))
+                if (visitParagraphs(cell, visitor))
+                    return true;
+    }
+    return false;
+}
+
+bool holdsTextOf(const QString &text, bool (*test)(QChar))
+{
+    return std::any_of(text.begin(), text.end(), test);
+}
+
+bool isTick(QChar c)
+{
+    return c == QChar(0xFE) || c == QChar(0xA8);
+}
+
+void setFont(xml_node format, const char *font)
+{
+    format.remove_child("w:rFonts");
+    xml_node fonts = WordXml::addChild(format, "w:rFonts");
+    for (const char *script : {"w:ascii", "w:hAnsi", "w:cs"})
+        fonts.append_attribute(script) = font;
+}
+
+} // namespace
+
+clsWordDocument::clsWordDocument(const QString &path, const QString &shownName)
+    : clsWordDocument(path, shownName, clsZipPackage::fromFile(path, shownName))
+{ }
+
+clsWordDocument::clsWordDocument(const QString &path, const QString &shownName, clsZipPackage content)
+    : m_path(path)
+    , m_package(std::move(content), shownName)
+    , m_cursor(body())
+{ }
+
+clsWordDocument::~clsWordDocument() = default;
+
+xml_node clsWordDocument::body()
+{
+    return m_package.mainRoot().child("w:body");
+}
+
+void clsWordDocument::save(clsZipPackage::Packing packing, bool toDisk)
+{
+    const QByteArray bytes = m_package.toBytes(packing);
+    if (toDisk)
+        mdWriteDocumentFile(m_path, bytes);
+    else
+        mdWriteWorkingFile(m_path, bytes);
+    const QByteArray &text = m_package.partBytes(m_package.mainPart());
+    m_savedText = {bytes.size(), bytes.indexOf(text), text.size()};
+}
+
+QByteArray clsWordDocument::styles()
+{
+    const int styles = m_package.relatedPart("styles");
+    return styles < 0 ? QByteArray() : m_package.partBytes(styles);
+}
+
+void clsWordDocument::moved()
+{
+    m_bold.reset();
+    m_symbolFont = false;
+}
+
+void clsWordDocument::goToStart()
+{
+    m_package.restoreBody(); // a document that others were appended to begins there
+    m_cursor.goToStart();
+    moved();
+}
+
+void clsWordDocument::lineDown()
+{
+    m_cursor.lineDown();
+    moved();
+}
+
+void clsWordDocument::cellRight()
+{
+    m_cursor.cellRight();
+    moved();
+}
+
+void clsWordDocument::rowStart()
+{
+    m_cursor.rowStart();
+    moved();
+}
+
+void clsWordDocument::findFirst(const QString &find)
+{
+    goToStart();
+    const clsWordFinder finder(find);
+    if (finder.isEmpty())
+        return;
+    const char sure = finder.sureCharacter();
+    const auto selectIn = [&](const xml_node &paragraph) {
+        if (sure != 0 && !clsWordParagraph::mayHold(paragraph, sure))
+            return false;
+        const clsWordFinder::Hit hit = finder.firstIn(clsWordParagraph(paragraph).text());
+        if (hit.from < 0)
+            return false;
+        m_cursor.select(paragraph, hit.from, hit.to);
+        return true;
+    };
+    if (sure == 0) {
+        visitParagraphs(body(), selectIn);
+        return;
+    }
+    const std::vector<xml_node> &candidates = paragraphsThatMayHold(sure);
+    (void)std::any_of(candidates.begin(), candidates.end(), selectIn);
+}
+
+// A sheet is searched for one placeholder after another, and all of them have a brace: the paragraphs that have one
+// are looked for once. The list may hold too many, but never too few.
+const std::vector<xml_node> &clsWordDocument::paragraphsThatMayHold(char c)
+{
+    const auto known = m_placeholders.find(c);
+    if (known != m_placeholders.end())
+        return known->second;
+    std::vector<xml_node> &found = m_placeholders[c];
+    const auto collect = [&](const xml_node &paragraph) {
+        if (clsWordParagraph::mayHold(paragraph, c))
+            found.push_back(paragraph);
+        return false;
+    };
+    visitParagraphs(body(), collect);
+    return found;
+}
+
+const clsWordBoldness &clsWordDocument::boldness()
+{
+    if (!m_boldness)
+        m_boldness = clsWordBoldness::ofStyles(styles());
+    return *m_boldness;
+}
+
+bool clsWordDocument::selectionIsBold()
+{
+    const clsWordParagraph paragraph(m_cursor.paragraph());
+    std::vector<xml_node> formats = paragraph.formatsIn(m_cursor.from(), m_cursor.to());
+    if (formats.empty())
+        formats.push_back(paragraph.formatAt(m_cursor.from(), m_cursor.to()));
+    return std::any_of(formats.begin(), formats.end(),
+        [this](const xml_node &format) { return boldness().isBold(format, m_cursor.paragraph()); });
+}
+
+void clsWordDocument::typeText(const QString &text)
+{
+    if (text.isEmpty())
+        return;
+    QString typed = text;
+    typed.replace(LineBreak, u'\n'); // which passes the cleaning
+    typed = WordXml::withoutForbiddenCharacters(typed);
+    typed.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    typed.replace(u'\r', LineBreak);
+    typed.replace(u'\n', LineBreak);
+    type(typed);
+}
+
+void clsWordDocument::typePageBreak()
+{
+    type(QString(QChar(clsWordParagraph::PageBreak)));
+}
+
+void clsWordDocument::type(const QString &typed)
+{
+    clearSelectedCell();
+    clsWordParagraph paragraph(m_cursor.paragraph());
+    const bool symbols = m_symbolFont;
+    // Ticks are symbols of their own; only other text needs the font.
+    const bool symbolFont = symbols && !holdsTextOf(typed, isTick);
+    const xml_node format = formatForTyping(paragraph.formatAt(m_cursor.from(), m_cursor.to()), symbolFont);
+    const int end = paragraph.type(m_cursor.from(), m_cursor.to(), typed, format, symbols);
+    m_cursor.place(m_cursor.paragraph(), end);
+    // Typed text can bring the character into a paragraph that had none.
+    std::erase_if(m_placeholders, [&typed](const auto &known) { return typed.contains(QLatin1Char(known.first)); });
+    changed();
+}
+
+// Typing over a selected cell leaves one paragraph in it, with nothing but what is typed.
+void clsWordDocument::clearSelectedCell()
+{
+    xml_node cell = m_cursor.selectedCell();
+    if (!cell)
+        return;
+    xml_node kept;
+    std::vector<xml_node> others;
+    for (xml_node block = WordXml::firstItem(cell, WordXml::isBlock); block;
+         block = WordXml::nextItem(block, WordXml::isBlock)) {
+        if (!kept && WordXml::is(block, "w:p"))
+            kept = block;
+        else
+            others.push_back(block);
+    }
+    for (const xml_node &block : others)
+        block.parent().remove_child(block);
+    if (!others.empty())
+        m_placeholders.clear();
+    if (!kept)
+        kept = cell.append_child("w:p");
+    m_cursor.select(kept, 0, clsWordParagraph(kept).length());
+}
+
+xml_node clsWordDocument::formatForTyping(const xml_node &like, bool symbolFont)
+{
+    m_format.remove_children();
+    xml_node format = like ? m_format.append_copy(like) : m_format.append_child("w:rPr");
+    // What a paragraph mark says of its own insertion or deletion is not a look to take over.
+    for (const char *markOnly : {"w:ins", "w:del", "w:moveFrom", "w:moveTo", "w:rPrChange"})
+        format.remove_child(markOnly);
+    if (m_bold && *m_bold != boldness().isBold(format, m_cursor.paragraph())) {
+        xml_node bold = WordXml::ensureChild(format, "w:b");
+        bold.remove_attributes();
+        if (!*m_bold)
+            bold.append_attribute("w:val") = "0";
+    }
+    if (symbolFont)
+        setFont(format, "Wingdings");
+    return format;
+}
+
+void clsWordDocument::startParagraph()
+{
+    clearSelectedCell();
+    clsWordParagraph paragraph(m_cursor.paragraph());
+    paragraph.erase(m_cursor.from(), m_cursor.to());
+    m_cursor.place(paragraph.split(m_cursor.from()), 0);
+    m_placeholders.clear();
+    changed();
+}
+
+void clsWordDocument::backSpace()
+{
+    clearSelectedCell();
+    clsWordParagraph paragraph(m_cursor.paragraph());
+    const int at = m_cursor.from();
+    if (m_cursor.to() > at) {
+        paragraph.erase(at, m_cursor.to());
+        m_cursor.place(m_cursor.paragraph(), at);
+        changed();
+        return;
+    }
+    if (at > 0) {
+        const int start = paragraph.before(at);
+        paragraph.erase(start, at);
+        m_cursor.place(m_cursor.paragraph(), start);
+        changed();
+        return;
+    }
+    // At a paragraph's start it is the mark of the one before that goes. It stays where it holds more than a mark:
+    // the end of a section, or a table's end; and a cell or a document has nothing before its first paragraph.
+    const xml_node before = WordXml::previousItem(m_cursor.paragraph(), WordXml::isBlock);
+    if (!WordXml::is(before, "w:p") || before.child("w:pPr").child("w:sectPr")
+        || before.parent() != m_cursor.paragraph().parent())
+        return;
+    clsWordParagraph joined(before);
+    const int end = joined.length();
+    joined.join(m_cursor.paragraph());
+    m_cursor.place(before, end);
+    m_placeholders.clear();
+    moved();
+    changed();
+}
+
+void clsWordDocument::append(const QString &path, const QString &shownName, const clsPlainText *plain)
+{
+    m_cursor.goToEnd();
+    moved();
+    if (!m_composer)
+        m_composer = std::make_unique<clsWordComposer>(m_package);
+    m_composer->append(path, shownName, plain);
+    m_placeholders.clear();
+    m_cursor.goToEnd();
+}

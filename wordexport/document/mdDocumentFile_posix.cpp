@@ -1,0 +1,233 @@
+#include "wordexport/document/mdDocumentFile.h"
+
+#include "base/clsFileSystem.h"
+#include "base/mdFileRights.h"
+#include "base/mdRealPath.h"
+#include "base/mdShortenedName.h"
+#include "base/mdSyncFolder.h"
+#include "base/mdUninterrupted.h"
+#include "wordexport/document/mdDocumentError.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <cstdio>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr mode_t OwnerOnly = S_IRUSR | S_IWUSR;
+constexpr mode_t ReadAndWrite = 0666;
+
+/// Opens a new file. What a claim says is confidential: no file of it is open to others from the start.
+int createFile(const QByteArray &path)
+{
+    return mdUninterrupted(
+        [&] { return ::open(path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, OwnerOnly); });
+}
+
+int removeFile(const QByteArray &path)
+{
+    return mdUninterrupted([&] { return ::unlink(path.constData()); });
+}
+
+int renameFile(const QByteArray &from, const QByteArray &to)
+{
+    return mdUninterrupted([&] { return ::rename(from.constData(), to.constData()); });
+}
+
+int statusOf(const QByteArray &path, struct stat &status)
+{
+    return mdUninterrupted([&] { return ::stat(path.constData(), &status); });
+}
+
+class clsDescriptor {
+public:
+    explicit clsDescriptor(int descriptor)
+        : m_descriptor(descriptor)
+    { }
+    ~clsDescriptor()
+    {
+        if (m_descriptor >= 0)
+            ::close(m_descriptor);
+    }
+    clsDescriptor(const clsDescriptor &) = delete;
+    clsDescriptor &operator=(const clsDescriptor &) = delete;
+
+    int get() const { return m_descriptor; }
+    /// A full disk may show only here, so that closing can fail like writing.
+    bool close()
+    {
+        const int descriptor = m_descriptor;
+        m_descriptor = -1;
+        // After an interrupted close the descriptor is gone all the same, and must not be closed twice.
+        return ::close(descriptor) == 0 || errno == EINTR;
+    }
+
+private:
+    int m_descriptor;
+};
+
+[[noreturn]] void fail(int systemError)
+{
+    throw clsRunTimeError::fromSystem(systemError);
+}
+
+/// The rights of a claim's file, for its document.
+clsFileRights rightsOfClaim(const QString &claimFile)
+{
+    const QByteArray path = QFile::encodeName(claimFile);
+    struct stat status;
+    if (path.isEmpty() || statusOf(path, status) != 0)
+        return {};
+    clsFileRights rights = clsFileRights::of(path, status);
+    // A claim that is write-protected doesn't make a document that can't be replaced.
+    rights.mode = (rights.mode & ReadAndWrite) | OwnerOnly;
+    return rights;
+}
+
+// A name that is free, beside the document and hidden. A leftover of an earlier crash is passed over.
+int createSideFile(const QByteArray &document, QByteArray &sidePath)
+{
+    constexpr int Attempts = 100;
+    constexpr qsizetype LongestName = 200; // bytes: names end at 255, and some signs come to it
+    const qsizetype folderEnd = document.lastIndexOf('/') + 1;
+    const QByteArray name = QFile::encodeName(mdShortenedName(QFile::decodeName(document.mid(folderEnd)), LongestName));
+    for (int i = 0; i < Attempts; ++i) {
+        sidePath = document.left(folderEnd) + ".~" + name + '.' + QByteArray::number(i);
+        const int descriptor = createFile(sidePath);
+        if (descriptor >= 0 || errno != EEXIST)
+            return descriptor;
+    }
+    return -1;
+}
+
+bool writeAll(int descriptor, const QByteArray &bytes)
+{
+    qsizetype done = 0;
+    while (done < bytes.size()) {
+        const ssize_t written = mdUninterrupted(
+            [&] { return ::write(descriptor, bytes.constData() + done, size_t(bytes.size() - done)); });
+        if (written <= 0)
+            return false;
+        done += written;
+    }
+    return true;
+}
+
+/// Brings the document's entry in its folder to the disk. The document has its name by then, which can't be taken back:
+/// a failure would be told of an export that has come out.
+void syncFolderOf(const QByteArray &document)
+{
+    const qsizetype slash = document.lastIndexOf('/');
+    (void)mdSyncFolder(slash < 0 ? QByteArray(".") : document.left(slash + 1));
+}
+
+/// The file to replace: where the name is a link, the one that it leads to, not the link.
+QByteArray fileItself(const QString &path)
+{
+    const QByteArray document = QFile::encodeName(path);
+    struct stat status;
+    if (document.isEmpty()) // its side file would come to lie in the current folder
+        throw clsRunTimeError(clsRunTimeError::PathNotFound);
+    if (mdUninterrupted([&] { return ::lstat(document.constData(), &status); }) != 0 || !S_ISLNK(status.st_mode))
+        return document;
+    if (statusOf(document, status) != 0) // it leads nowhere
+        fail(errno);
+    return mdRealPath(document);
+}
+
+/// Whether there is a document to be replaced, and its status; an error where it may not be. Taking over the name of a
+/// write-protected one would succeed, since that asks the folder only.
+bool mayBeReplaced(const QByteArray &document, struct stat &status)
+{
+    if (statusOf(document, status) != 0)
+        return false;
+    if (!S_ISREG(status.st_mode))
+        throw clsRunTimeError(clsRunTimeError::PathFileAccess);
+    if (mdUninterrupted([&] { return ::access(document.constData(), W_OK); }) != 0)
+        fail(errno);
+    return true;
+}
+
+void writeBesideAndRename(const QByteArray &document, const QByteArray &bytes, const clsFileRights &rights)
+{
+    QByteArray sidePath;
+    clsDescriptor side(createSideFile(document, sidePath));
+    if (side.get() < 0)
+        fail(errno == ENOENT ? ENOTDIR : errno); // it is the folder that was not found
+    rights.giveTo(side.get());
+    const bool written = writeAll(side.get(), bytes) && mdUninterrupted([&] { return ::fsync(side.get()); }) == 0
+        && side.close() && renameFile(sidePath, document) == 0;
+    if (!written) {
+        const int systemError = errno;
+        removeFile(sidePath);
+        fail(systemError);
+    }
+    syncFolderOf(document);
+}
+
+/// Gives the rights to a file by its name.
+void giveTo(const QByteArray &path, const clsFileRights &rights)
+{
+    const clsDescriptor file(
+        mdUninterrupted([&] { return ::open(path.constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC); }));
+    if (file.get() < 0)
+        fail(errno);
+    rights.giveTo(file.get());
+}
+
+} // namespace
+
+QByteArray mdReadDocumentFile(const QString &path, qint64 limit)
+{
+    const QFileInfo file(path);
+    if (file.isFile() && file.size() > limit)
+        throw mdDocumentTooLarge(path);
+    return FileSystem().ReadFile(path);
+}
+
+void mdWriteDocumentFile(const QString &path, const QByteArray &bytes)
+{
+    const QByteArray document = fileItself(path);
+    struct stat older;
+    writeBesideAndRename(
+        document, bytes, mayBeReplaced(document, older) ? clsFileRights::of(document, older) : clsFileRights());
+}
+
+void mdPutDocumentInPlace(const QString &written, const QString &finished, const QString &claimFile, qint64 limit)
+{
+    const QByteArray from = QFile::encodeName(written);
+    const QByteArray named = QFile::encodeName(finished);
+    clsFileRights rights = rightsOfClaim(claimFile);
+    struct stat older;
+    const bool exists = mayBeReplaced(named, older);
+    if (exists)
+        rights.mode &= older.st_mode | OwnerOnly;
+    const QByteArray document = exists ? fileItself(finished) : named;
+    giveTo(from, rights);
+    if (renameFile(from, document) == 0)
+        syncFolderOf(document);
+    else if (errno == EXDEV) // a link may lead to another file system, where a name can't be taken over
+        writeBesideAndRename(document, mdReadDocumentFile(written, limit), rights);
+    else
+        fail(errno);
+}
+
+void mdWriteWorkingFile(const QString &path, const QByteArray &bytes)
+{
+    const QByteArray file = QFile::encodeName(path);
+    if (removeFile(file) != 0 && errno != ENOENT)
+        fail(errno);
+    clsDescriptor descriptor(createFile(file));
+    if (descriptor.get() < 0)
+        fail(errno == ENOENT ? ENOTDIR : errno); // it is the folder that was not found
+    if (writeAll(descriptor.get(), bytes) && descriptor.close())
+        return;
+    const int systemError = errno;
+    removeFile(file);
+    fail(systemError);
+}

@@ -2,7 +2,7 @@
 
 #include "base/mdOwnFolder.h"
 
-#include "shell/mdUninterrupted.h"
+#include "base/mdUninterrupted.h"
 
 #include <QDir>
 #include <QFile>

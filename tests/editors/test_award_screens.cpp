@@ -1,4 +1,5 @@
 #include "controls/oAllPurposeBox.h"
+#include "controls/oFrame.h"
 #include "controls/oLeftRightButton.h"
 #include "tests/editors/clsRecordTest.h"
 
@@ -39,6 +40,15 @@ TEST_F(AwardScreens, NoAmountIsAddedUpFromTheOthersNorChangesThem)
     press(*screen, "cmdSave");
     EXPECT_EQ(QStringLiteral("103.00"), Form->DetailsOfCostsAwarded.TotalCostsAwarded());
     EXPECT_EQ(QStringLiteral("100.00"), Form->DetailsOfCostsAwarded.PreCertificateCosts());
+}
+
+TEST_F(AwardScreens, TheFramesThatOnlyKeepTheOrderHaveNoCaption)
+{
+    const auto screen = opened(CostsAwarded);
+    QStringList captions;
+    for (const char *frame : {"bxGeneral", "bxClaim1A", "oFrame1", "oFrame2"})
+        captions << screen->Box<oFrame>(frame).Caption();
+    EXPECT_EQ(QStringList({CostsAwarded, QStringLiteral("Claim1A Only"), QString(), QString()}), captions);
 }
 
 TEST_F(AwardScreens, WhatHangsOnAnAnswerStaysOpenWhateverItIs)

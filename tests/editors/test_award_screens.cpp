@@ -46,8 +46,11 @@ TEST_F(AwardScreens, TheFramesThatOnlyKeepTheOrderHaveNoCaption)
 {
     const auto screen = opened(CostsAwarded);
     QStringList captions;
-    for (const char *frame : {"bxGeneral", "bxClaim1A", "oFrame1", "oFrame2"})
-        captions << screen->Box<oFrame>(frame).Caption();
+    for (const char *name : {"bxGeneral", "bxClaim1A", "oFrame1", "oFrame2"}) {
+        const auto *frame = screen->findChild<oFrame *>(QString::fromUtf8(name));
+        ASSERT_TRUE(frame) << name;
+        captions << frame->Caption();
+    }
     EXPECT_EQ(QStringList({CostsAwarded, QStringLiteral("Claim1A Only"), QString(), QString()}), captions);
 }
 

@@ -107,10 +107,12 @@ void clsMSWord::SaveAndClose()
 {
     const bool saved = guarded("SaveAndClose", [&] {
         const bool finished = m_lasting == Finished;
+        m_fitted = document().fit();
         document().save(finished ? clsZipPackage::Deflated : clsZipPackage::Stored, finished);
     });
     if (saved) {
         m_document.reset();
+        MSWordObserver().fitted(m_fitted);
         MSWordObserver().savedAndClosed();
         return;
     }

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "wordexport/mdWordFit.h"
+
 #include <QString>
 
 #include <memory>
+#include <vector>
 
 class clsRunTimeError;
 class clsWordDocument;
@@ -32,7 +35,7 @@ public:
     /// Loads the file for editing; the cursor is at its start. An error names the file by the shown name, where one is
     /// given: a working copy by what it was copied from.
     void OpenDocument(const QString &path, const QString &shownName = {});
-    /// Writes the document back to the file it came from, and closes it.
+    /// Makes room for what was typed, writes the document back to the file it came from, and closes it.
     void SaveAndClose();
     /// Ends the application; what was not saved is lost.
     void Quit();
@@ -72,6 +75,9 @@ public:
     /// To the first cell of the next table row. The misspelling is the name. Unguarded.
     void MoveSursorToNextLine();
 
+    /// What the last document that was saved prints smaller, in rows that grow, or cut.
+    const std::vector<clsFittedText> &fitted() const { return m_fitted; }
+
     /// True while a document is open; one that could not be saved stays so.
     bool isOpen() const { return m_document != nullptr; }
     /// True once a failure has lost a whole sheet: a document that could not be opened, saved or appended.
@@ -94,4 +100,5 @@ private:
     Lasting m_lasting;
     std::unique_ptr<clsWordDocument> m_document;
     bool m_sheetLost = false;
+    std::vector<clsFittedText> m_fitted;
 };

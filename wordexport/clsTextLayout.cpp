@@ -16,7 +16,7 @@ constexpr int EmPerHalfPoint = 10 * PerTwip;
 
 // A line counts as this much shorter than it is: places are rounded when they are printed, and a line too many is
 // better than one too few.
-constexpr int Reserve = 9;
+constexpr int Reserve = 2;
 
 constexpr char32_t SoftHyphen = 0xAD;
 
@@ -153,18 +153,21 @@ private:
         const int limit = room();
         int x = 0;
         size_t place = 0; // the last one for a break; none yet where it is 0
+        size_t fallback = 0; // for a line that has no better one
         for (size_t i = start; i < m_text.size(); ++i) {
             if (kind(i) == Kind::LineBreak)
                 return i + 1;
             if (i > start && mayBreak(i) && hyphenFits(i, x, limit))
                 place = i;
+            else if (i > start && mayBreakIfNeeded(i))
+                fallback = i;
             if (kind(i) == Kind::Blank) { // blanks at a line's end hang over it
                 x += m_widths[i];
                 continue;
             }
-            const int end = kind(i) == Kind::Tab ? endOfTab(i, x) : x + m_widths[i];
+            const int end = kind(i) == Kind::Tab ? endOfTab(i, x, limit) : x + m_widths[i];
             if (end > limit)
-                return place > 0 ? place : brokenAt(start, i);
+                return breakAt(start, i, place > 0 ? place : fallback);
             x = end;
         }
         return m_text.size();
@@ -174,6 +177,15 @@ private:
     {
         const Character &before = m_text[i - 1];
         return before.code != SoftHyphen || x + widthOf({U'-', before.halfPoints, before.bold}) <= limit;
+    }
+
+    // The end of a line that has no room for the character at `i`.
+    size_t breakAt(size_t start, size_t i, size_t place)
+    {
+        if (place == 0)
+            return brokenAt(start, i);
+        // What ends at a stop takes its tab along to the next line.
+        return place - 1 > start && endsAtStop(place - 1) ? place - 1 : place;
     }
 
     size_t brokenAt(size_t start, size_t i)
@@ -207,7 +219,7 @@ private:
         return digit;
     }
 
-    int endOfTab(size_t i, int x) const
+    int endOfTab(size_t i, int x, int limit) const
     {
         const int edge = indent() * PerTwip;
         for (const Tab &tab : m_paragraph.tabs) {
@@ -216,11 +228,17 @@ private:
                 continue;
             if (tab.align == Tab::Left)
                 return stop;
+            // What stands before its stop ends at the end of the line where the stop is beyond it.
             const int behind = widthUpToTab(i + 1);
-            return std::max(x, stop - (tab.align == Tab::Right ? behind : behind / 2));
+            return std::max(x, std::min(stop, limit) - (tab.align == Tab::Right ? behind : behind / 2));
         }
         const int step = std::max(1, m_paragraph.defaultTab) * PerTwip;
         return ((x + edge) / step + 1) * step - edge;
+    }
+
+    bool endsAtStop(size_t i) const
+    {
+        return kind(i) == Kind::Tab && !m_paragraph.tabs.empty() && m_paragraph.tabs.back().align != Tab::Left;
     }
 
     int widthUpToTab(size_t from) const
@@ -248,18 +266,32 @@ private:
         if (before == Kind::ZeroWidthBlank)
             return true;
         // Not even where a blank stands between.
-        if (isOneOf(behind, {Kind::Exclamation, Kind::ClosingBrace, Kind::Closing, Kind::Infix})
+        if (isOneOf(behind, {Kind::Exclamation, Kind::ClosingBrace, Kind::Closing, Kind::Infix, Kind::Slash})
             || kindBeforeBlanks(i) == Kind::Opening)
             return false;
         if (before == Kind::Blank)
             return true;
-        if (behind == Kind::Slash || before == Kind::Glue)
+        if (before == Kind::Glue)
             return false;
         if (behind == Kind::Glue)
             return isOneOf(before, {Kind::Hyphen, Kind::Dash});
         if (before == Kind::Quote || behind == Kind::Quote || behind == Kind::Hyphen || behind == Kind::Dash)
             return false;
         return mayBreakBetween(before, behind, i);
+    }
+
+    // A word is broken at its slash only where it is wider than the line.
+    bool mayBreakIfNeeded(size_t i) const
+    {
+        if (kind(i) == Kind::Slash)
+            return kind(i - 1) == Kind::Blank;
+        return kind(i - 1) == Kind::Slash && isOneOf(kind(i), {Kind::Letter, Kind::Digit, Kind::Prefix})
+            && kindBefore(i - 1) != Kind::Blank && !isBetweenDigits(i - 1);
+    }
+
+    bool isBetweenDigits(size_t i) const
+    {
+        return kindBefore(i) == Kind::Digit && i + 1 < m_text.size() && kind(i + 1) == Kind::Digit;
     }
 
     Kind kindBeforeBlanks(size_t i) const
@@ -277,11 +309,8 @@ private:
             return true;
         if (before == Kind::Hyphen) // a minus stays with its number
             return behind != Kind::Digit || isOneOf(kindBefore(i - 1), {Kind::Letter, Kind::Digit});
-        if (before == Kind::Slash) {
-            if (kindBefore(i - 1) == Kind::Blank)
-                return false;
-            return behind != Kind::Digit || kindBefore(i - 1) != Kind::Digit;
-        }
+        if (before == Kind::Slash)
+            return m_text[i - 1].code != U'/' && !isBetweenDigits(i - 1);
         if (behind == Kind::Ellipsis)
             return false;
         if (isOneOf(before, {Kind::Ellipsis, Kind::Exclamation}))

@@ -3,6 +3,8 @@
 #include "wordexport/clsWordBoldness.h"
 #include "wordexport/clsWordCursor.h"
 #include "wordexport/clsWordPackage.h"
+#include "wordexport/clsWordTyped.h"
+#include "wordexport/mdWordFit.h"
 
 #include <map>
 #include <memory>
@@ -19,6 +21,8 @@ public:
     clsWordDocument(const QString &path, const QString &shownName);
     ~clsWordDocument();
 
+    /// Makes room for what was typed, and returns what is then printed otherwise than the template has it.
+    std::vector<clsFittedText> fit();
     /// Writes the document back to its file.
     void save(clsZipPackage::Packing packing, bool toDisk);
 
@@ -59,6 +63,8 @@ private:
     clsWordCursor m_cursor;
     std::optional<bool> m_bold;
     bool m_symbolFont = false;
+    QString m_found; // the placeholder that is selected
+    clsWordTyped m_typed;
     pugi::xml_document m_format; // holds the formatting of the text that is being typed
     std::map<char, std::vector<pugi::xml_node>> m_placeholders; // paragraphs in order, by a character in them
     std::shared_ptr<const clsWordBoldness> m_boldness;

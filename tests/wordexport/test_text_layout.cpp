@@ -11,9 +11,9 @@ using TextLayout::Paragraph;
 using TextLayout::Tab;
 
 // At 10 points a digit is 1139 units wide, which is 667 sixths of a twip (1139 * 1200 / 2048 = 667.4), an "i" 267, a
-// blank 333, a hyphen 400 (682 units). A line loses 9 sixths as reserve: ten digits need (6670 + 9) / 6, which is 1114
+// blank 333, a hyphen 400 (682 units). A line loses 2 sixths as reserve: ten digits need (6670 + 2) / 6, which is 1112
 // twips.
-constexpr int TenDigits = 1114;
+constexpr int TenDigits = 1112;
 
 Paragraph paragraph(const QString &text, int halfPoints = 20, bool bold = false)
 {
@@ -41,9 +41,9 @@ TEST(TextLayout, ALineHoldsWhatItsWidthHoldsAndNotATwipLess)
 {
     EXPECT_EQ(linesOf(QStringLiteral("0000000000"), TenDigits), 1);
     EXPECT_EQ(linesOf(QStringLiteral("0000000000"), TenDigits - 1), 2);
-    // Two words: 10 digits, a blank and 5 "i": 6670 + 333 + 1335 + 9 = 8347, 1392 twips.
-    EXPECT_EQ(linesOf(QStringLiteral("0000000000 iiiii"), 1392), 1);
-    EXPECT_EQ(linesOf(QStringLiteral("0000000000 iiiii"), 1391), 2);
+    // Two words: 10 digits, a blank and 5 "i": 6670 + 333 + 1335 + 2 = 8340, 1390 twips.
+    EXPECT_EQ(linesOf(QStringLiteral("0000000000 iiiii"), 1390), 1);
+    EXPECT_EQ(linesOf(QStringLiteral("0000000000 iiiii"), 1389), 2);
 }
 
 TEST(TextLayout, AnEmptyTextIsALineAndSoIsWhatFollowsALineBreak)
@@ -71,7 +71,9 @@ constexpr Row Breaks[] = {
     {u"00000000-nnnnnnnnn", 2}, // behind the hyphen
     {u"nnnnnnnnn\u00A0nnnnnnnnn", 2}, // by letters, since a no-break blank is no place
     {u"nnnnnn nnnnn\u00A0nn nn", 2},
-    {u"nnnnn nnnn/nnnn nnn", 2}, // behind the slash
+    {u"nnnnn nnnn/nnnn nnn", 3}, // a slash is no place where the word has a line to itself
+    {u"nnnnnnn/nnnnnnnn nn", 3}, // but one in a word that is wider: 7, 8 and 2 letters
+    {u"nnnn nnnnn / nnnnn", 3}, // and it stays with the word before it
     {u"00000 0000/0000 000", 3}, // no date is broken there
     {u"nnnnn nnnn,nnnn nnn", 3},
     {u"nnnnn nnn\u2013nnnn nnn", 2},
@@ -98,9 +100,9 @@ TEST(TextLayout, AWordWiderThanALineIsBrokenByLetters)
 
 TEST(TextLayout, ABrokenAmountIsTold)
 {
-    // A comma is as wide as a blank: 1,234,567.00 needs 9 * 667 + 3 * 333 + 9 = 7011 sixths, 1169 twips.
-    EXPECT_EQ(TextLayout::layOut(paragraph(QStringLiteral("1,234,567.00")), 1169).brokenAmounts, 0);
-    EXPECT_EQ(TextLayout::layOut(paragraph(QStringLiteral("1,234,567.00")), 1168).brokenAmounts, 1);
+    // A comma is as wide as a blank: 1,234,567.00 needs 9 * 667 + 3 * 333 + 2 = 7004 sixths, 1168 twips.
+    EXPECT_EQ(TextLayout::layOut(paragraph(QStringLiteral("1,234,567.00")), 1168).brokenAmounts, 0);
+    EXPECT_EQ(TextLayout::layOut(paragraph(QStringLiteral("1,234,567.00")), 1167).brokenAmounts, 1);
     EXPECT_EQ(TextLayout::layOut(paragraph(QStringLiteral("1,234,567.0x")), 1160).brokenAmounts, 0);
 }
 
@@ -129,23 +131,25 @@ TEST(TextLayout, EachSizeCountsWhereItStands)
     Paragraph mixed = paragraph(QStringLiteral("00000 00000"));
     for (size_t i = 6; i < mixed.text.size(); ++i)
         mixed.text[i].halfPoints = 12;
-    // 5 * 667 + 333 + 5 * 400 (1139 * 720 / 2048 = 400.4) + 9 = 5677, 947 twips.
-    EXPECT_EQ(TextLayout::layOut(mixed, 947).sizes, std::vector<int>({20}));
-    EXPECT_EQ(TextLayout::layOut(mixed, 946).sizes, std::vector<int>({20, 12}));
+    // 5 * 667 + 333 + 5 * 400 (1139 * 720 / 2048 = 400.4) + 2 = 5670, 945 twips.
+    EXPECT_EQ(TextLayout::layOut(mixed, 945).sizes, std::vector<int>({20}));
+    EXPECT_EQ(TextLayout::layOut(mixed, 944).sizes, std::vector<int>({20, 12}));
 }
 
 TEST(TextLayout, TabsLeadToTheirStops)
 {
     Paragraph tabbed = paragraph(QStringLiteral("0\t0"));
     tabbed.tabs = {{500, Tab::Left}};
-    EXPECT_EQ(TextLayout::layOut(tabbed, 613).count(), 1); // 500 + (667 + 9) / 6 = 612.7
-    EXPECT_EQ(TextLayout::layOut(tabbed, 612).count(), 2);
+    EXPECT_EQ(TextLayout::layOut(tabbed, 612).count(), 1); // 500 + (667 + 2) / 6 = 611.5
+    EXPECT_EQ(TextLayout::layOut(tabbed, 611).count(), 2);
     tabbed.tabs = {{500, Tab::Right}};
-    EXPECT_EQ(TextLayout::layOut(tabbed, 502).count(), 1);
-    EXPECT_EQ(TextLayout::layOut(tabbed, 501).count(), 2);
+    // A stop beyond the end of the line counts as its end: 2 * 667 + 2 = 1336, 223 twips.
+    EXPECT_EQ(TextLayout::layOut(tabbed, 500).count(), 1);
+    EXPECT_EQ(TextLayout::layOut(tabbed, 223).count(), 1);
+    EXPECT_EQ(TextLayout::layOut(tabbed, 222).count(), 2);
     tabbed.tabs.clear(); // every 720 twips
-    EXPECT_EQ(TextLayout::layOut(tabbed, 833).count(), 1);
-    EXPECT_EQ(TextLayout::layOut(tabbed, 832).count(), 2);
+    EXPECT_EQ(TextLayout::layOut(tabbed, 832).count(), 1);
+    EXPECT_EQ(TextLayout::layOut(tabbed, 831).count(), 2);
 }
 
 } // namespace

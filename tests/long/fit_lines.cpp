@@ -1,4 +1,4 @@
-// How many lines the layout counts for the first cell of each table row of a document:
+// How many lines the layout counts for the first cell with text in each table row of a document:
 //
 //     fit_lines DOCUMENT
 //
@@ -23,9 +23,11 @@ void prepare(const xml_node &table, clsWordTyped &typed)
         WordXml::setAttribute(height, "w:hRule", "exact");
         WordXml::setAttribute(height, "w:val", "1");
         const QString name = QString::number(number++);
-        for (const xml_node &paragraph : row.child("w:tc").children("w:p"))
-            for (const xml_node &run : paragraph.children("w:r"))
-                typed.typed(run, 0, name);
+        xml_node cell = row.child("w:tc");
+        while (cell && !cell.child("w:p").child("w:r"))
+            cell = cell.next_sibling("w:tc");
+        for (const xml_node &run : cell.child("w:p").children("w:r"))
+            typed.typed(run, 0, name);
     }
 }
 

@@ -10,7 +10,6 @@ ZR3_FIT_LINES is the program that counts.
 """
 
 import argparse
-import html
 import io
 import os
 import random
@@ -21,6 +20,7 @@ import sys
 import tempfile
 import zipfile
 from pathlib import Path
+from typing import NamedTuple
 
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "resources" / "templates"))
@@ -91,17 +91,28 @@ def content(random):
                  for _ in range(random.randint(2, 3)))
 
 
+class Made(NamedTuple):
+    row: Row
+    paragraph: Paragraph
+    width: int
+    style: look.Style
+
+
 def row(random, number):
     style = random.choice(STYLES)
-    width = min(int(random.triangular(700, 7500, 1800)) + style.left + style.right, 7500)
+    width = min(int(random.triangular(700, 6600, 1800)) + style.left + style.right, 6600)
     if random.random() < 0.06:              # an amount behind its sign
         paragraph = Paragraph(style, ("\u00a3\t", amount(random)), tabs=(Tab(look.RIGHT, width - style.right),))
     else:
         paragraph = Paragraph(style, content(random), align=random.choice([look.LEFT, look.LEFT, look.RIGHT, look.CENTRE]))
     mark = Paragraph(style, (Run("#%d" % number, size=6),), align=look.LEFT)
-    rest = look.units(look.ACROSS) - width - 2 * ANCHOR
-    return Row(12, (Cell(width, (paragraph,), stands="top"), Cell(ANCHOR, (mark,), stands="top"),
-                    Cell(ANCHOR, (mark,), stands="bottom"), Cell(rest, (Paragraph(look.NOTE),)))), width, style
+    before = random.choice([0, random.randint(20, 90)]) * 10
+    rest = look.units(look.ACROSS) - width - 2 * ANCHOR - before
+    cells = (Cell(width, (paragraph,), stands="top"), Cell(ANCHOR, (mark,), stands="top"),
+             Cell(ANCHOR, (mark,), stands="bottom"), Cell(rest, (Paragraph(look.NOTE),)))
+    if before:
+        cells = (Cell(before, (Paragraph(look.NOTE),)), *cells)
+    return Made(Row(12, cells), paragraph, width, style)
 
 
 def document(rows):
@@ -143,17 +154,17 @@ def compare(texts, seed, folder):
     source = random.Random(seed)
     made = [row(source, number) for number in range(texts)]
     path = folder / "lines.docx"
-    path.write_bytes(document([one for one, _, _ in made]))
+    path.write_bytes(document([one.row for one in made]))
     ours = counted(path)
-    theirs = printed(path, folder, [style.line for _, _, style in made])
+    theirs = printed(path, folder, [one.style.line for one in made])
     judged = [number for number in range(texts) if number in theirs and ours[number] <= MOST_LINES]
-    higher = [number for number in judged if ours[number] > theirs[number] and not made[number][0].cells[0].paragraphs[0].tabs]
+    higher = [number for number in judged if ours[number] > theirs[number] and not made[number].paragraph.tabs]
     lower = [number for number in judged if ours[number] < theirs[number]]
     for number in higher + lower:
-        one, width, style = made[number]
-        content = "".join(part if isinstance(part, str) else part.text for part in one.cells[0].paragraphs[0].content)
-        print(f"text {number}: {theirs[number]} lines printed, {ours[number]} counted; {style.name} {style.size}, "
-              f"{width} twips: {html.escape(repr(content))}")
+        one = made[number]
+        words = "".join(part if isinstance(part, str) else part.text for part in one.paragraph.content)
+        print(f"text {number}: {theirs[number]} lines printed, {ours[number]} counted; {one.style.name} "
+              f"{one.style.size}, {one.width} twips: {words!r}")
     print(f"seed {seed}: {len(judged)} texts of {texts}, {len(higher)} counted higher than printed, {len(lower)} lower")
     assert len(judged) > texts * 0.9, "too few texts could be found on the pages"
     return len(higher) <= max(1, len(judged) // ONE_IN) and not lower

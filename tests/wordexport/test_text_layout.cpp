@@ -11,7 +11,7 @@ using TextLayout::Paragraph;
 using TextLayout::Tab;
 
 // At 10 points a digit is 1139 units wide, which is 667 sixths of a twip (1139 * 1200 / 2048 = 667.4), an "i" 267, a
-// blank 333, a hyphen 400 (682 units). A line loses 2 sixths as reserve: ten digits need (6670 + 2) / 6, which is 1112
+// blank 333, a hyphen 400 (682 units). A line loses a sixth as reserve: ten digits need (6670 + 1) / 6, which is 1112
 // twips.
 constexpr int TenDigits = 1112;
 
@@ -41,7 +41,7 @@ TEST(TextLayout, ALineHoldsWhatItsWidthHoldsAndNotATwipLess)
 {
     EXPECT_EQ(linesOf(QStringLiteral("0000000000"), TenDigits), 1);
     EXPECT_EQ(linesOf(QStringLiteral("0000000000"), TenDigits - 1), 2);
-    // Two words: 10 digits, a blank and 5 "i": 6670 + 333 + 1335 + 2 = 8340, 1390 twips.
+    // Two words: 10 digits, a blank and 5 "i": 6670 + 333 + 1335 + 1 = 8339, 1390 twips.
     EXPECT_EQ(linesOf(QStringLiteral("0000000000 iiiii"), 1390), 1);
     EXPECT_EQ(linesOf(QStringLiteral("0000000000 iiiii"), 1389), 2);
 }
@@ -100,7 +100,7 @@ TEST(TextLayout, AWordWiderThanALineIsBrokenByLetters)
 
 TEST(TextLayout, ABrokenAmountIsTold)
 {
-    // A comma is as wide as a blank: 1,234,567.00 needs 9 * 667 + 3 * 333 + 2 = 7004 sixths, 1168 twips.
+    // A comma is as wide as a blank: 1,234,567.00 needs 9 * 667 + 3 * 333 + 1 = 7003 sixths, 1168 twips.
     EXPECT_EQ(TextLayout::layOut(paragraph(QStringLiteral("1,234,567.00")), 1168).brokenAmounts, 0);
     EXPECT_EQ(TextLayout::layOut(paragraph(QStringLiteral("1,234,567.00")), 1167).brokenAmounts, 1);
     EXPECT_EQ(TextLayout::layOut(paragraph(QStringLiteral("1,234,567.0x")), 1160).brokenAmounts, 0);
@@ -131,7 +131,7 @@ TEST(TextLayout, EachSizeCountsWhereItStands)
     Paragraph mixed = paragraph(QStringLiteral("00000 00000"));
     for (size_t i = 6; i < mixed.text.size(); ++i)
         mixed.text[i].halfPoints = 12;
-    // 5 * 667 + 333 + 5 * 400 (1139 * 720 / 2048 = 400.4) + 2 = 5670, 945 twips.
+    // 5 * 667 + 333 + 5 * 400 (1139 * 720 / 2048 = 400.4) + 1 = 5669, 945 twips.
     EXPECT_EQ(TextLayout::layOut(mixed, 945).sizes, std::vector<int>({20}));
     EXPECT_EQ(TextLayout::layOut(mixed, 944).sizes, std::vector<int>({20, 12}));
 }
@@ -140,10 +140,10 @@ TEST(TextLayout, TabsLeadToTheirStops)
 {
     Paragraph tabbed = paragraph(QStringLiteral("0\t0"));
     tabbed.tabs = {{500, Tab::Left}};
-    EXPECT_EQ(TextLayout::layOut(tabbed, 612).count(), 1); // 500 + (667 + 2) / 6 = 611.5
+    EXPECT_EQ(TextLayout::layOut(tabbed, 612).count(), 1); // 500 + (667 + 1) / 6 = 611.3
     EXPECT_EQ(TextLayout::layOut(tabbed, 611).count(), 2);
     tabbed.tabs = {{500, Tab::Right}};
-    // A stop beyond the end of the line counts as its end: 2 * 667 + 2 = 1336, 223 twips.
+    // A stop beyond the end of the line counts as its end: 2 * 667 + 1 = 1335, 223 twips.
     EXPECT_EQ(TextLayout::layOut(tabbed, 500).count(), 1);
     EXPECT_EQ(TextLayout::layOut(tabbed, 223).count(), 1);
     EXPECT_EQ(TextLayout::layOut(tabbed, 222).count(), 2);

@@ -4,9 +4,9 @@
 #include "wordexport/document/clsWordLooks.h"
 #include "wordexport/document/clsWordTyped.h"
 
-#include <pugixml.hpp>
-
 #include <QString>
+
+#include <pugixml.hpp>
 
 #include <string>
 #include <vector>

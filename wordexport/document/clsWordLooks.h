@@ -2,9 +2,9 @@
 
 #include "wordexport/document/clsTextLayout.h"
 
-#include <pugixml.hpp>
-
 #include <QByteArray>
+
+#include <pugixml.hpp>
 
 #include <map>
 #include <memory>

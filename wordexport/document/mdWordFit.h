@@ -3,9 +3,9 @@
 #include "wordexport/document/clsWordLooks.h"
 #include "wordexport/document/clsWordTyped.h"
 
-#include <pugixml.hpp>
-
 #include <QString>
+
+#include <pugixml.hpp>
 
 #include <vector>
 

@@ -118,12 +118,14 @@ void clsMSWord::SaveAndClose()
     m_savedPath.clear();
     const bool saved = guarded("SaveAndClose", [&] {
         const bool finished = m_lasting == Finished;
+        m_fitted = document().fit();
         document().save(finished ? clsZipPackage::Deflated : clsZipPackage::Stored, finished);
     });
     if (saved) {
         m_savedPath = document().path();
         m_savedText = document().savedText();
         m_document.reset();
+        MSWordObserver().fitted(m_fitted);
         MSWordObserver().savedAndClosed();
         return;
     }

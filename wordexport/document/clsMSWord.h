@@ -1,10 +1,12 @@
 #pragma once
 
 #include "wordexport/document/clsPlainText.h"
+#include "wordexport/document/mdWordFit.h"
 
 #include <QString>
 
 #include <memory>
+#include <vector>
 
 class clsRunTimeError;
 class clsWordDocument;
@@ -37,7 +39,7 @@ public:
     void OpenDocument(const QString &path, const QString &shownName = {});
     /// The same of a file whose content is at hand.
     void OpenDocument(const QString &path, const QString &shownName, const clsZipPackage &content);
-    /// Writes the document back to the file it came from, and closes it.
+    /// Makes room for what was typed, writes the document back to the file it came from, and closes it.
     void SaveAndClose();
     /// Ends the application; what was not saved is lost.
     void Quit();
@@ -78,6 +80,9 @@ public:
     /// To the first cell of the next table row. The misspelling is the name. Unguarded.
     void MoveSursorToNextLine();
 
+    /// What the last document that was saved prints smaller, in rows that grow, or cut.
+    const std::vector<clsFittedText> &fitted() const { return m_fitted; }
+
     /// True while a document is open; one that could not be saved stays so.
     bool isOpen() const { return m_document != nullptr; }
     /// The open document, nothing where there is none.
@@ -108,4 +113,5 @@ private:
     bool m_sheetLost = false;
     QString m_savedPath;
     clsTextPlace m_savedText;
+    std::vector<clsFittedText> m_fitted;
 };

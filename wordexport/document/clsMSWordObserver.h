@@ -1,6 +1,10 @@
 #pragma once
 
+#include "wordexport/document/mdWordFit.h"
+
 #include <QString>
+
+#include <vector>
 
 /// Sees every operation of every clsMSWord, in order, with the texts as they are typed in the end: U+00FE and
 /// U+00A8 for ticks, U+000B for a line break inside the paragraph, one blank for an empty replacement.
@@ -26,6 +30,8 @@ public:
     virtual void pageBreak() { }
     virtual void inserted(const QString & /*path*/) { }
     virtual void backSpace() { }
+    /// Told before the saving of the document whose texts these are; also where there are none.
+    virtual void fitted(const std::vector<clsFittedText> &) { }
     virtual void savedAndClosed() { }
 };
 

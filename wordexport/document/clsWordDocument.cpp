@@ -88,8 +88,18 @@ QByteArray clsWordDocument::styles()
     return styles < 0 ? QByteArray() : m_package.partBytes(styles);
 }
 
+std::vector<clsFittedText> clsWordDocument::fit()
+{
+    if (m_typed.isEmpty())
+        return {};
+    const int styles = m_package.relatedPart("styles");
+    const auto looks = clsWordLooks::ofStyles(styles < 0 ? QByteArray() : m_package.partBytes(styles));
+    return mdFitTypedText(body(), *looks, m_typed);
+}
+
 void clsWordDocument::moved()
 {
+    m_found.clear();
     m_bold.reset();
     m_symbolFont = false;
 }
@@ -133,6 +143,7 @@ void clsWordDocument::findFirst(const QString &find)
         if (hit.from < 0)
             return false;
         m_cursor.select(paragraph, hit.from, hit.to);
+        m_found = find;
         return true;
     };
     if (sure == 0) {
@@ -198,12 +209,13 @@ void clsWordDocument::typePageBreak()
 void clsWordDocument::type(const QString &typed)
 {
     clearSelectedCell();
-    clsWordParagraph paragraph(m_cursor.paragraph());
+    clsWordParagraph paragraph(m_cursor.paragraph(), &m_typed);
     const bool symbols = m_symbolFont;
     // Ticks are symbols of their own; only other text needs the font.
     const bool symbolFont = symbols && !holdsTextOf(typed, isTick);
     const xml_node format = formatForTyping(paragraph.formatAt(m_cursor.from(), m_cursor.to()), symbolFont);
-    const int end = paragraph.type(m_cursor.from(), m_cursor.to(), typed, format, symbols);
+    const int end = paragraph.type(m_cursor.from(), m_cursor.to(), typed, format, symbols, m_found);
+    m_found.clear();
     m_cursor.place(m_cursor.paragraph(), end);
     // Typed text can bring the character into a paragraph that had none.
     std::erase_if(m_placeholders, [&typed](const auto &known) { return typed.contains(QLatin1Char(known.first)); });
@@ -225,8 +237,10 @@ void clsWordDocument::clearSelectedCell()
         else
             others.push_back(block);
     }
-    for (const xml_node &block : others)
+    for (const xml_node &block : others) {
+        m_typed.forgetBelow(block);
         block.parent().remove_child(block);
+    }
     if (!others.empty())
         m_placeholders.clear();
     if (!kept)
@@ -255,7 +269,7 @@ xml_node clsWordDocument::formatForTyping(const xml_node &like, bool symbolFont)
 void clsWordDocument::startParagraph()
 {
     clearSelectedCell();
-    clsWordParagraph paragraph(m_cursor.paragraph());
+    clsWordParagraph paragraph(m_cursor.paragraph(), &m_typed);
     paragraph.erase(m_cursor.from(), m_cursor.to());
     m_cursor.place(paragraph.split(m_cursor.from()), 0);
     m_placeholders.clear();
@@ -265,7 +279,7 @@ void clsWordDocument::startParagraph()
 void clsWordDocument::backSpace()
 {
     clearSelectedCell();
-    clsWordParagraph paragraph(m_cursor.paragraph());
+    clsWordParagraph paragraph(m_cursor.paragraph(), &m_typed);
     const int at = m_cursor.from();
     if (m_cursor.to() > at) {
         paragraph.erase(at, m_cursor.to());

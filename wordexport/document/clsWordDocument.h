@@ -4,6 +4,8 @@
 #include "wordexport/document/clsWordBoldness.h"
 #include "wordexport/document/clsWordCursor.h"
 #include "wordexport/document/clsWordPackage.h"
+#include "wordexport/document/clsWordTyped.h"
+#include "wordexport/document/mdWordFit.h"
 
 #include <map>
 #include <memory>
@@ -26,6 +28,8 @@ public:
     /// The document's styles, as bytes.
     QByteArray styles();
 
+    /// Makes room for what was typed, and returns what is then printed otherwise than the template has it.
+    std::vector<clsFittedText> fit();
     /// Writes the document back to its file.
     void save(clsZipPackage::Packing packing, bool toDisk);
     /// Where the text stands in the file that was saved last; meaningless where that was packed.
@@ -68,6 +72,8 @@ private:
     clsWordCursor m_cursor;
     std::optional<bool> m_bold;
     bool m_symbolFont = false;
+    QString m_found; // the placeholder that is selected
+    clsWordTyped m_typed;
     pugi::xml_document m_format; // holds the formatting of the text that is being typed
     std::map<char, std::vector<pugi::xml_node>> m_placeholders; // paragraphs in order, by a character in them
     std::shared_ptr<const clsWordBoldness> m_boldness;

@@ -33,8 +33,9 @@ bool isInvisible(const xml_node &node)
 
 } // namespace
 
-clsWordParagraph::clsWordParagraph(const xml_node &paragraph)
+clsWordParagraph::clsWordParagraph(const xml_node &paragraph, clsWordTyped *marks)
     : m_paragraph(paragraph)
+    , m_marks(marks)
 {
     read();
 }
@@ -124,13 +125,16 @@ xml_node clsWordParagraph::formatAt(int from, int to) const
     return leaf ? leaf->run.child("w:rPr") : m_paragraph.child("w:pPr").child("w:rPr");
 }
 
-int clsWordParagraph::type(int from, int to, const QString &typed, const xml_node &format, bool symbols)
+int clsWordParagraph::type(
+    int from, int to, const QString &typed, const xml_node &format, bool symbols, const QString &placeholder)
 {
     if (typed.isEmpty()) {
         erase(from, to);
         return from;
     }
     const xml_node run = runForTyping(from, to, format);
+    if (m_marks)
+        m_marks->typed(run, std::max(0, from - startOf(run)), placeholder);
     const int count = WordRun::type(run, typed, symbols);
     read();
     return from + count;
@@ -148,7 +152,7 @@ xml_node clsWordParagraph::runForTyping(int from, int to, const xml_node &format
                 xml_node owner = leaf.run;
                 owner.remove_child(leaf.node);
                 if (owner != run)
-                    WordRun::removeIfEmpty(owner);
+                    removeIfEmpty(owner);
             }
         WordRun::giveFormat(run, format);
         return run;
@@ -170,7 +174,21 @@ xml_node clsWordParagraph::runForTyping(int from, int to, const xml_node &format
     return run;
 }
 
-// Makes the position a border between two runs and returns the one that begins there; a null node at the end.
+void clsWordParagraph::removeIfEmpty(xml_node run)
+{
+    if (WordRun::removeIfEmpty(run) && m_marks)
+        m_marks->forget(run);
+}
+
+// Where the text of a run begins that was read; for a new one where it is typed, which counts as its start.
+int clsWordParagraph::startOf(const xml_node &run) const
+{
+    for (const Leaf &leaf : m_leaves)
+        if (leaf.run == run)
+            return leaf.start;
+    return length();
+}
+
 xml_node clsWordParagraph::splitRunAt(int at)
 {
     const Leaf *found = leafStartingAt(at);
@@ -203,6 +221,8 @@ xml_node clsWordParagraph::splitRunAt(int at)
         tail.append_move(firstMoved);
         firstMoved = next;
     }
+    if (m_marks)
+        m_marks->split(run, tail, at - startOf(run));
     read();
     return tail;
 }
@@ -217,7 +237,7 @@ void clsWordParagraph::erase(int from, int to)
         if (leaf.start >= from && leaf.start + leaf.length <= to) {
             xml_node run = leaf.run;
             run.remove_child(leaf.node);
-            WordRun::removeIfEmpty(run);
+            removeIfEmpty(run);
         }
     read();
 }

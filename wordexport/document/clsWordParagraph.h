@@ -1,5 +1,7 @@
 #pragma once
 
+#include "wordexport/document/clsWordTyped.h"
+
 #include <QString>
 
 #include <pugixml.hpp>
@@ -19,10 +21,20 @@ public:
     static constexpr char PageBreak = '\f';
     static constexpr char Other = '\x01';
 
-    explicit clsWordParagraph(const pugi::xml_node &paragraph);
+    /// What of the text is typed is kept in the marks, where there are any.
+    explicit clsWordParagraph(const pugi::xml_node &paragraph, clsWordTyped *marks = nullptr);
 
     /// True when a text of the paragraph may hold this character: a quick look without reading the paragraph.
     static bool mayHold(const pugi::xml_node &paragraph, char c);
+
+    /// An element of a run, with the positions that it takes.
+    struct Leaf {
+        pugi::xml_node run;
+        pugi::xml_node node;
+        int start;
+        int length;
+    };
+    const std::vector<Leaf> &leaves() const { return m_leaves; }
 
     const std::string &text() const { return m_text; }
     int length() const { return int(m_text.size()); }
@@ -36,33 +48,33 @@ public:
 
     /// Types over a range, in a run of that formatting (an owned copy of a w:rPr). Returns the position after it.
     /// `typed` holds the characters above for breaks and tabs; with `symbols` ticks become Wingdings symbols.
-    int type(int from, int to, const QString &typed, const pugi::xml_node &format, bool symbols);
+    /// `placeholder` is what the text replaces, if anything, for its mark.
+    int type(int from, int to, const QString &typed, const pugi::xml_node &format, bool symbols,
+        const QString &placeholder = {});
     void erase(int from, int to);
     /// Splits the paragraph: what stands after the position moves to a new paragraph behind it, which is returned.
     pugi::xml_node split(int at);
     /// Takes over the content of the paragraph behind this one, which is removed.
     void join(pugi::xml_node next);
 
+    /// Makes the position a border between two runs and returns the one that begins there; a null node at the end.
+    pugi::xml_node splitRunAt(int at);
+
     /// The start of the character before a position.
     int before(int at) const;
 
 private:
-    struct Leaf {
-        pugi::xml_node run;
-        pugi::xml_node node;
-        int start;
-        int length;
-    };
-
     void read();
     void readRun(const pugi::xml_node &run, std::vector<bool> &fieldCodes);
     void addLeaf(const pugi::xml_node &run, const pugi::xml_node &node);
-    pugi::xml_node splitRunAt(int at);
+    void removeIfEmpty(pugi::xml_node run);
+    int startOf(const pugi::xml_node &run) const;
     const Leaf *leafEndingAt(int at) const;
     const Leaf *leafStartingAt(int at) const;
     pugi::xml_node runForTyping(int from, int to, const pugi::xml_node &format);
 
     pugi::xml_node m_paragraph;
+    clsWordTyped *m_marks;
     std::vector<Leaf> m_leaves;
     std::string m_text;
 };

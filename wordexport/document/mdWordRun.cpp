@@ -135,10 +135,11 @@ void WordRun::giveFormat(xml_node run, const xml_node &format)
         run.prepend_copy(format);
 }
 
-void WordRun::removeIfEmpty(xml_node run)
+bool WordRun::removeIfEmpty(xml_node run)
 {
     for (const xml_node &child : run.children())
         if (WordXml::isElement(child) && !WordXml::is(child, "w:rPr"))
-            return;
+            return false;
     run.parent().remove_child(run);
+    return true;
 }

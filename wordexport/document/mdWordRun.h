@@ -24,7 +24,7 @@ bool sameFormat(const pugi::xml_node &a, const pugi::xml_node &b);
 /// Gives a run a copy of that formatting in place of its own.
 void giveFormat(pugi::xml_node run, const pugi::xml_node &format);
 
-/// Removes a run that holds nothing but its formatting.
-void removeIfEmpty(pugi::xml_node run);
+/// Removes a run that holds nothing but its formatting; true when it did.
+bool removeIfEmpty(pugi::xml_node run);
 
 } // namespace WordRun

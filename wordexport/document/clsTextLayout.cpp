@@ -1,0 +1,376 @@
+#include "wordexport/document/clsTextLayout.h"
+
+#include "wordexport/document/mdFontWidths.h"
+
+#include <QChar>
+
+#include <algorithm>
+#include <cstdint>
+
+namespace {
+
+using namespace TextLayout;
+
+constexpr int PerTwip = 6;
+constexpr int EmPerHalfPoint = 10 * PerTwip;
+
+// A line counts as this much shorter than it is: places are rounded when they are printed, and a line too many is
+// better than one too few.
+constexpr int Reserve = 1;
+
+constexpr char32_t SoftHyphen = 0xAD;
+
+// Where lines may be broken depends on the classes of the two characters beside the place.
+enum class Kind : std::uint8_t {
+    Letter,
+    Digit,
+    Blank,
+    Tab,
+    LineBreak,
+    Glue, ///< joins its neighbours
+    ZeroWidthBlank,
+    Hyphen,
+    Dash, ///< a break behind it and none before
+    LongDash, ///< a break on both sides
+    Opening,
+    ClosingBrace,
+    Closing,
+    Quote,
+    Exclamation,
+    Ellipsis,
+    Slash,
+    Infix, ///< within numbers: a comma, a point
+    Prefix, ///< before numbers
+    Postfix, ///< behind numbers
+    Ideograph,
+};
+
+Kind kindOf(char32_t c)
+{
+    switch (c) {
+    case U' ': return Kind::Blank;
+    case U'\t': return Kind::Tab;
+    case LineBreak: return Kind::LineBreak;
+    case 0xA0:
+    case 0x2011:
+    case 0x202F:
+    case 0x2060:
+    case 0xFEFF: return Kind::Glue;
+    case 0x200B: return Kind::ZeroWidthBlank;
+    case U'-': return Kind::Hyphen;
+    case U'|':
+    case SoftHyphen:
+    case 0x2010:
+    case 0x2012:
+    case 0x2013: return Kind::Dash;
+    case 0x2014: return Kind::LongDash;
+    case U'(':
+    case U'[':
+    case U'{': return Kind::Opening;
+    case U'}': return Kind::ClosingBrace;
+    case U')':
+    case U']': return Kind::Closing;
+    case U'\'':
+    case U'"':
+    case 0xAB:
+    case 0xBB:
+    case 0x2018:
+    case 0x2019:
+    case 0x201C:
+    case 0x201D: return Kind::Quote;
+    case U'!':
+    case U'?': return Kind::Exclamation;
+    case 0x2026: return Kind::Ellipsis;
+    case U'/':
+    case U'\\': return Kind::Slash;
+    case U',':
+    case U'.':
+    case U':':
+    case U';': return Kind::Infix;
+    case U'$':
+    case U'+':
+    case 0xA3:
+    case 0x20AC: return Kind::Prefix;
+    case U'%': return Kind::Postfix;
+    default: break;
+    }
+    if (c >= U'0' && c <= U'9')
+        return Kind::Digit;
+    if ((c >= 0x2E80 && c <= 0xA4CF) || (c >= 0xAC00 && c <= 0xD7A3) || (c >= 0xF900 && c <= 0xFAFF))
+        return Kind::Ideograph;
+    return Kind::Letter;
+}
+
+bool isOneOf(Kind kind, std::initializer_list<Kind> kinds)
+{
+    return std::find(kinds.begin(), kinds.end(), kind) != kinds.end();
+}
+
+bool partsWords(Kind kind)
+{
+    return isOneOf(kind, {Kind::Blank, Kind::Tab, Kind::LineBreak});
+}
+
+// Lays out one paragraph.
+class clsLiner {
+public:
+    clsLiner(const Paragraph &paragraph, int width)
+        : m_paragraph(paragraph)
+        , m_text(paragraph.text)
+        , m_width(width)
+    {
+        m_kinds.reserve(m_text.size());
+        m_widths.reserve(m_text.size());
+        for (const Character &character : m_text) {
+            m_kinds.push_back(kindOf(character.code));
+            m_widths.push_back(widthOf(character));
+        }
+    }
+
+    Lines lines()
+    {
+        size_t start = 0;
+        do {
+            const size_t end = endOfLine(start);
+            addLine(start, end);
+            start = end;
+        } while (start < m_text.size());
+        if (!m_text.empty() && m_kinds.back() == Kind::LineBreak)
+            addLine(start, start); // the empty line behind it
+        return m_lines;
+    }
+
+private:
+    int indent() const { return m_paragraph.left + (m_lines.sizes.empty() ? m_paragraph.firstLine : 0); }
+    int room() const { return (m_width - indent() - m_paragraph.right) * PerTwip - Reserve; }
+
+    Kind kind(size_t i) const { return m_kinds[i]; }
+    // The kind of the character before a place; at the start of the paragraph as after a blank.
+    Kind kindBefore(size_t i) const { return i == 0 ? Kind::Blank : m_kinds[i - 1]; }
+
+    size_t endOfLine(size_t start)
+    {
+        const int limit = room();
+        int x = 0;
+        size_t place = 0; // the last one for a break; none yet where it is 0
+        size_t fallback = 0; // for a line that has no better one
+        for (size_t i = start; i < m_text.size(); ++i) {
+            if (kind(i) == Kind::LineBreak)
+                return i + 1;
+            if (i > start && mayBreak(i) && hyphenFits(i, x, limit))
+                place = i;
+            else if (i > start && mayBreakIfNeeded(i))
+                fallback = i;
+            if (kind(i) == Kind::Blank) { // blanks at a line's end hang over it
+                x += m_widths[i];
+                continue;
+            }
+            const int end = kind(i) == Kind::Tab ? endOfTab(i, x, limit) : x + m_widths[i];
+            if (end > limit)
+                return breakAt(start, i, place > 0 ? place : fallback);
+            x = end;
+        }
+        return m_text.size();
+    }
+
+    bool hyphenFits(size_t i, int x, int limit) const
+    {
+        const Character &before = m_text[i - 1];
+        return before.code != SoftHyphen || x + widthOf({U'-', before.halfPoints, before.bold}) <= limit;
+    }
+
+    // The end of a line that has no room for the character at `i`.
+    size_t breakAt(size_t start, size_t i, size_t place)
+    {
+        if (place == 0)
+            return brokenAt(start, i);
+        // What ends at a stop takes its tab along to the next line.
+        return place - 1 > start && endsAtStop(place - 1) ? place - 1 : place;
+    }
+
+    size_t brokenAt(size_t start, size_t i)
+    {
+        if (i == start) {
+            m_lines.tooNarrow = true;
+            ++i;
+        }
+        if (i >= m_text.size() || partsWords(kind(i)) || partsWords(kind(i - 1)))
+            return i;
+        ++m_lines.brokenWords;
+        if (isAmount(i))
+            ++m_lines.brokenAmounts;
+        return i;
+    }
+
+    // The word around a place consists of what amounts consist of, and holds a digit.
+    bool isAmount(size_t place) const
+    {
+        size_t from = place;
+        while (from > 0 && !partsWords(kind(from - 1)))
+            --from;
+        bool digit = false;
+        for (size_t i = from; i < m_text.size() && !partsWords(kind(i)); ++i) {
+            digit = digit || kind(i) == Kind::Digit;
+            if (!isOneOf(kind(i),
+                    {Kind::Digit, Kind::Infix, Kind::Prefix, Kind::Postfix, Kind::Hyphen, Kind::Opening,
+                        Kind::Closing}))
+                return false;
+        }
+        return digit;
+    }
+
+    int endOfTab(size_t i, int x, int limit) const
+    {
+        const int edge = indent() * PerTwip;
+        for (const Tab &tab : m_paragraph.tabs) {
+            const int stop = tab.twips * PerTwip - edge;
+            if (stop <= x)
+                continue;
+            if (tab.align == Tab::Left)
+                return stop;
+            // What stands before its stop ends at the end of the line where the stop is beyond it.
+            const int behind = widthUpToTab(i + 1);
+            return std::max(x, std::min(stop, limit) - (tab.align == Tab::Right ? behind : behind / 2));
+        }
+        const int step = std::max(1, m_paragraph.defaultTab) * PerTwip;
+        return ((x + edge) / step + 1) * step - edge;
+    }
+
+    bool endsAtStop(size_t i) const
+    {
+        return kind(i) == Kind::Tab && !m_paragraph.tabs.empty() && m_paragraph.tabs.back().align != Tab::Left;
+    }
+
+    int widthUpToTab(size_t from) const
+    {
+        int width = 0;
+        int withoutBlanks = 0;
+        for (size_t i = from; i < m_text.size() && !isOneOf(kind(i), {Kind::Tab, Kind::LineBreak}); ++i) {
+            width += m_widths[i];
+            if (kind(i) != Kind::Blank)
+                withoutBlanks = width;
+        }
+        return withoutBlanks;
+    }
+
+    // May a line be broken before the character at `i`? As the rules of Unicode have it, with the changes that the word
+    // processors made to them.
+    bool mayBreak(size_t i) const
+    {
+        const Kind before = kindBefore(i);
+        const Kind behind = kind(i);
+        if (behind == Kind::Tab || before == Kind::Tab)
+            return true;
+        if (isOneOf(behind, {Kind::Blank, Kind::ZeroWidthBlank, Kind::LineBreak}))
+            return false;
+        if (before == Kind::ZeroWidthBlank)
+            return true;
+        // Not even where a blank stands between.
+        if (isOneOf(behind, {Kind::Exclamation, Kind::ClosingBrace, Kind::Closing, Kind::Infix, Kind::Slash})
+            || kindBeforeBlanks(i) == Kind::Opening)
+            return false;
+        if (before == Kind::Blank)
+            return true;
+        if (before == Kind::Glue)
+            return false;
+        if (behind == Kind::Glue)
+            return isOneOf(before, {Kind::Hyphen, Kind::Dash});
+        if (before == Kind::Quote || behind == Kind::Quote || behind == Kind::Hyphen || behind == Kind::Dash)
+            return false;
+        return mayBreakBetween(before, behind, i);
+    }
+
+    // A word is broken at its slash only where it is wider than the line.
+    bool mayBreakIfNeeded(size_t i) const
+    {
+        if (kind(i) == Kind::Slash)
+            return kind(i - 1) == Kind::Blank;
+        return kind(i - 1) == Kind::Slash && isOneOf(kind(i), {Kind::Letter, Kind::Digit, Kind::Prefix})
+            && kindBefore(i - 1) != Kind::Blank && !isBetweenDigits(i - 1);
+    }
+
+    bool isBetweenDigits(size_t i) const
+    {
+        return kindBefore(i) == Kind::Digit && i + 1 < m_text.size() && kind(i + 1) == Kind::Digit;
+    }
+
+    Kind kindBeforeBlanks(size_t i) const
+    {
+        while (i > 0 && kind(i - 1) == Kind::Blank)
+            --i;
+        return kindBefore(i);
+    }
+
+    bool mayBreakBetween(Kind before, Kind behind, size_t i) const
+    {
+        if (before == Kind::LongDash || behind == Kind::LongDash)
+            return before != behind;
+        if (before == Kind::Dash)
+            return true;
+        if (before == Kind::Hyphen) // a minus stays with its number
+            return behind != Kind::Digit || isOneOf(kindBefore(i - 1), {Kind::Letter, Kind::Digit});
+        if (before == Kind::Slash)
+            return m_text[i - 1].code != U'/' && !isBetweenDigits(i - 1);
+        if (behind == Kind::Ellipsis)
+            return false;
+        if (isOneOf(before, {Kind::Ellipsis, Kind::Exclamation}))
+            return true;
+        const bool afterMark
+            = isOneOf(before, {Kind::Infix, Kind::ClosingBrace, Kind::Closing, Kind::Prefix, Kind::Postfix});
+        if (behind == Kind::Opening)
+            return afterMark && !(i + 1 < m_text.size() && kind(i + 1) == Kind::Digit);
+        if (behind == Kind::Prefix)
+            return afterMark;
+        if (behind == Kind::Postfix)
+            return afterMark || before == Kind::Letter;
+        return before == Kind::Ideograph || behind == Kind::Ideograph;
+    }
+
+    void addLine(size_t start, size_t end)
+    {
+        int size = 0;
+        for (size_t i = start; i < end; ++i)
+            size = std::max(size, m_text[i].halfPoints);
+        if (size == 0)
+            size = m_text.empty() ? m_paragraph.markHalfPoints : m_text.back().halfPoints;
+        m_lines.sizes.push_back(size);
+    }
+
+    const Paragraph &m_paragraph;
+    const std::vector<Character> &m_text;
+    int m_width;
+    std::vector<Kind> m_kinds;
+    std::vector<int> m_widths;
+    Lines m_lines;
+};
+
+int unitsOf(const Character &character)
+{
+    switch (character.code) {
+    case SoftHyphen: // shows only where a line is broken behind it
+    case U'\t':
+    case LineBreak:
+    case 0x200B:
+    case 0x200C:
+    case 0x200D:
+    case 0x2060:
+    case 0xFEFF: return 0;
+    case 0x202F: return FontWidths::of(U' ', character.bold);
+    default: break;
+    }
+    if (QChar::category(character.code) == QChar::Mark_NonSpacing)
+        return 0;
+    return FontWidths::of(character.code, character.bold);
+}
+
+} // namespace
+
+int TextLayout::widthOf(const Character &character)
+{
+    return (unitsOf(character) * character.halfPoints * EmPerHalfPoint + FontWidths::Units / 2) / FontWidths::Units;
+}
+
+TextLayout::Lines TextLayout::layOut(const Paragraph &paragraph, int width)
+{
+    return clsLiner(paragraph, width).lines();
+}

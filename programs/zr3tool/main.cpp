@@ -123,7 +123,8 @@ Status exportSheetsAndDocument(clsConsoleUserInterface &console, clsExport &run)
             : Status::Failed;
     }
     console.tell(QStringLiteral("Export"),
-        QStringLiteral("There are no pages for the form type \"%1\" of this claim.").arg(run.form.FormType()));
+        QStringLiteral("There are no pages for the form type \"%1\" of this claim.")
+            .arg(mdWithoutControls(run.form.FormType())));
     return Status::Failed;
 }
 

@@ -91,6 +91,18 @@ TEST_F(Terminal, ShowsTheTextsOfAClaimWithoutTheirControlCharacters)
         shownBy({"export"_q, putClaim(form), folder.path()}, STDERR_FILENO, 4));
 }
 
+TEST_F(Terminal, ALineBreakInAClaimBeginsNoLine)
+{
+    clsZR3Form form;
+    form.FormType = "a\r\nTotals: b"_q;
+    EXPECT_EQ("Export: There are no pages for the form type \"a??Totals: b\" of this claim.\n",
+        shownBy({"export"_q, putClaim(form), folder.path()}, STDERR_FILENO, 4));
+    form.FormType = "Claim1"_q;
+    fill(form);
+    form.ScheduleOfTimeItem(1)->TTime = "a\r\nTotals: b"_q;
+    EXPECT_TRUE(shownBy({"totals"_q, putClaim(form)}, STDERR_FILENO, 4).contains("the time \"a??Totals: b\", which"));
+}
+
 TEST_F(Terminal, ShowsTheFiguresWithTheirControlCharactersEscaped)
 {
     clsZR3Form form;

@@ -202,12 +202,9 @@ void mdPutDocumentInPlace(const QString &written, const QString &finished, const
 {
     const QByteArray from = QFile::encodeName(written);
     const QByteArray named = QFile::encodeName(finished);
-    clsFileRights rights = rightsOfClaim(claimFile);
+    const clsFileRights rights = rightsOfClaim(claimFile);
     struct stat older;
-    const bool exists = mayBeReplaced(named, older);
-    if (exists)
-        rights.mode &= older.st_mode | OwnerOnly;
-    const QByteArray document = exists ? fileItself(finished) : named;
+    const QByteArray document = mayBeReplaced(named, older) ? fileItself(finished) : named;
     giveTo(from, rights);
     if (renameFile(from, document) == 0)
         syncFolderOf(document);

@@ -290,6 +290,7 @@ void clsFileSystem::DeleteFile(const QString &path) const
 
 clsFileSystem &FileSystem()
 {
+    // One for the program, since a test lets operations fail at its fault point, whoever calls them.
     static clsFileSystem fileSystem;
     return fileSystem;
 }

@@ -19,7 +19,7 @@ namespace {
 
 constexpr int EndSignals[] = {SIGTERM, SIGHUP};
 
-// All that a signal's handler may touch.
+// All that a signal's handler may touch; the system hands it nothing but the signal.
 std::atomic<int> pipeEnd = -1;
 static_assert(std::atomic<int>::is_always_lock_free);
 
@@ -86,6 +86,7 @@ private:
     struct sigaction m_before[std::size(EndSignals)] = {};
 };
 
+// The system has one handler of a signal for the whole program.
 std::unique_ptr<clsEndSignals> inForce;
 
 } // namespace

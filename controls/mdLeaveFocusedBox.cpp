@@ -58,6 +58,11 @@ bool mdLeaveFocusedBox(const QWidget *window)
     return !box || box->leave();
 }
 
+bool mdIsInterruption(Qt::FocusReason reason)
+{
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason;
+}
+
 void mdGuardFocusedBoxes()
 {
     const QString name = QStringLiteral("focusGuard");

@@ -7,7 +7,7 @@ found in one of these ways is a finding of its own, so that there is no way roun
 import re
 from dataclasses import dataclass, field
 
-FOLDERS = ["shell", "formdata", "costing", "wordexport", "controls", "preview", "editors"]
+FOLDERS = ["base", "formdata", "costing", "wordexport", "commands", "controls", "preview", "editors", "shell", "programs"]
 
 # What shows a text to the user or hands it to what does, and which of its arguments are texts.
 DOORS = {

@@ -1,6 +1,5 @@
 #include "wordexport/mdExportWordClaim1.h"
 
-#include "base/mdSumOf.h"
 #include "costing/mdBillSummary.h"
 #include "costing/mdGetCounselTotals.h"
 #include "costing/mdGetDisbursementsTotals.h"
@@ -105,7 +104,7 @@ const clsPlaceholderRow Page6Rows[] = {
     ZR3_LONG("{expertsmeetmojstandardreasons}", ExpertsMeetMOJStandardReasons, ExpertStandardsOverRun),
     ZR3_FIGURE("{exnet}", ExpertInvoicesNetTotal(form)),
     ZR3_FIGURE("{exvat}", ExpertInvoicesVATTotal(form)),
-    ZR3_FIGURE("{extot}", mdSumOf({ExpertInvoicesNetTotal(form), ExpertInvoicesVATTotal(form)})),
+    ZR3_FIGURE("{extot}", ExpertInvoicesGrossTotal(form)),
 };
 
 void mdExportWordClaim1Page6(clsExport &run)
@@ -136,8 +135,7 @@ const clsGridPage::Grid Page7Grids[] = {
 const clsPlaceholderRow Page7Rows[] = {
     ZR3_FIGURE("{nettotal}", NonCounselDisbursementsAmountTotal(form)),
     ZR3_FIGURE("{vattotal}", NonCounselDisbursementsVATTotal(form)),
-    ZR3_FIGURE(
-        "{dibstotal}", mdSumOf({NonCounselDisbursementsAmountTotal(form), NonCounselDisbursementsVATTotal(form)})),
+    ZR3_FIGURE("{dibstotal}", NonCounselDisbursementsGrossTotal(form)),
 };
 
 const clsGridPage Page7 = {7, "Claim1 P7", Page7Grids, Page7Rows};

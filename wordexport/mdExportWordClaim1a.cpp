@@ -1,6 +1,5 @@
 #include "wordexport/mdExportWordClaim1a.h"
 
-#include "base/mdSumOf.h"
 #include "costing/mdBillSummary.h"
 #include "costing/mdFigureFaults.h"
 #include "costing/mdGetBillSummary.h"
@@ -152,7 +151,7 @@ const clsOverRun ExpertStandardsOverRun = {250, 2750, "Claim1A P6 Expert Dibs St
 const clsPlaceholderRow Page6Rows[] = {
     ZR3_FIGURE("{exnet}", ExpertInvoicesNetTotal(form)),
     ZR3_FIGURE("{exvat}", ExpertInvoicesVATTotal(form)),
-    ZR3_FIGURE("{extot}", mdSumOf({ExpertInvoicesNetTotal(form), ExpertInvoicesVATTotal(form)})),
+    ZR3_FIGURE("{extot}", ExpertInvoicesGrossTotal(form)),
     ZR3_TICK("{1}", ExpertsMeetMOJStandardYes),
     ZR3_TICK("{2}", ExpertsMeetMOJStandardNo),
     ZR3_LONG("{expertsmeetmojstandardreasons}", ExpertsMeetMOJStandardReasons, ExpertStandardsOverRun),
@@ -176,8 +175,7 @@ const clsGridPage::Grid Page7Grids[] = {
 const clsPlaceholderRow Page7Rows[] = {
     ZR3_FIGURE("{dibsnet}", NonCounselDisbursementsAmountTotal(form)),
     ZR3_FIGURE("{dibsvat}", NonCounselDisbursementsVATTotal(form)),
-    ZR3_FIGURE(
-        "{dibstotal}", mdSumOf({NonCounselDisbursementsAmountTotal(form), NonCounselDisbursementsVATTotal(form)})),
+    ZR3_FIGURE("{dibstotal}", NonCounselDisbursementsGrossTotal(form)),
 };
 
 const clsGridPage Page7 = {7, "Claim1A P7", Page7Grids, Page7Rows};

@@ -296,6 +296,7 @@ void clsFileSystem::DeleteFile(const QString &path) const
 
 clsFileSystem &FileSystem()
 {
+    // One for the program, since a test lets operations fail at its fault point, wherever they are called.
     static clsFileSystem fileSystem;
     return fileSystem;
 }

@@ -12,7 +12,8 @@
 
 namespace {
 
-// Never destroyed: the preferences take it back when they go, which can be at the very end of the program.
+// All floors write the log, and the preferences that switch it on stand above this one. Never destroyed: they take it
+// back when they go, which can be at the very end of the program.
 std::function<bool()> &logSwitch = *new std::function<bool()>;
 
 /// Whether this user can read and write a file in a folder, and the copy that guards it.

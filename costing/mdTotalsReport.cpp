@@ -3,97 +3,18 @@
 #include "base/clsJsonWriter.h"
 #include "base/clsRunTimeError.h"
 #include "base/mdExisting.h"
-#include "base/mdSumOf.h"
 #include "costing/clsBill.h"
+#include "costing/mdBillFigures.h"
 #include "costing/mdCheckForBlankItems.h"
 #include "costing/mdFigureFaults.h"
-#include "costing/mdGetBillSummary.h"
 #include "costing/mdGetColumnTotals.h"
 #include "costing/mdGetCommsInfo.h"
 #include "costing/mdGetCounselTotals.h"
-#include "costing/mdGetDisbursementsTotals.h"
-#include "costing/mdGetFASTotals.h"
 #include "formdata/clsOnBill.h"
-
-#include <span>
 
 namespace {
 
 using Form = clsZR3Form;
-
-struct FigureRow {
-    const char *key;
-    Money (*figure)(const clsBill &bill);
-};
-
-/// A figure that needs nothing of the schedule's, such as `of<CommsTotal>`.
-template <Money (*Figure)(const Form &)> Money of(const clsBill &bill)
-{
-    return Figure(bill.form());
-}
-
-Money loadFromBillNet(const clsBill &bill)
-{
-    const Money profitCosts = ProfitCostsTotal(bill);
-    return profitCosts - AdvocacyTotal(bill);
-}
-
-const FigureRow Totals[] = {
-    {"ScheduleTotal", ScheduleTotal},
-    {"AdvocacyTotal", AdvocacyTotal},
-    {"CounselDisbursementsAmountTotal", of<CounselDisbursementsAmountTotal>},
-    {"CounselDisbursementsVATTotal", of<CounselDisbursementsVATTotal>},
-    {"NonCounselDisbursementsAmountTotal", of<NonCounselDisbursementsAmountTotal>},
-    {"NonCounselDisbursementsVATTotal", of<NonCounselDisbursementsVATTotal>},
-    {"ExpertInvoicesNetTotal", of<ExpertInvoicesNetTotal>},
-    {"ExpertInvoicesVATTotal", of<ExpertInvoicesVATTotal>},
-    {"CounselFeesAmountTotal", of<CounselFeesAmountTotal>},
-    {"CounselFeesVATTotal", of<CounselFeesVATTotal>},
-    {"CounselFeesTotal", of<CounselFeesTotal>},
-    {"FASItemsTotal", of<FASItemsTotal>},
-    {"FASVATTotal", of<FASVATTotal>},
-    {"CommsTotal", of<CommsTotal>},
-    {"ProfitCostsTotal", ProfitCostsTotal},
-    {"ProfitCostsVAT", ProfitCostsVAT},
-    {"AdvocacyVAT", [](const clsBill &bill) { return VATOf(bill.form(), AdvocacyTotal(bill)); }},
-    {"LoadFromBillNet", loadFromBillNet},
-    {"LoadFromBillVAT", [](const clsBill &bill) { return VATOf(bill.form(), loadFromBillNet(bill)); }},
-};
-
-const FigureRow Claim1Summary[] = {
-    {"npc", ProfitCostsTotal},
-    {"nex", of<ExpertInvoicesNetTotal>},
-    {"ndibs", of<NonCounselDisbursementsAmountTotal>},
-    {"vpc", ProfitCostsVAT},
-    {"vex", of<ExpertInvoicesVATTotal>},
-    {"vdibs", of<NonCounselDisbursementsVATTotal>},
-    {"ntotal", NetWithoutCounsel},
-    {"vtotal", VATWithoutCounsel},
-    {"grandtotal",
-        [](const clsBill &bill) {
-            return mdSumOf({NetWithoutCounsel(bill), VATWithoutCounsel(bill)});
-        }},
-    {"ncf", of<CounselFeesAmountTotal>},
-    {"vcf", of<CounselFeesVATTotal>},
-    {"cftotal", of<CounselFeesTotal>},
-};
-
-const FigureRow Claim1ASummary[] = {
-    {"npc", ProfitCostsTotal},
-    {"nex", of<ExpertInvoicesNetTotal>},
-    {"ndibs", of<NonCounselDisbursementsAmountTotal>},
-    {"vpc", ProfitCostsVAT},
-    {"vex", of<ExpertInvoicesVATTotal>},
-    {"vdibs", of<NonCounselDisbursementsVATTotal>},
-    {"nsubtotal", NetWithoutCounsel},
-    {"vsubtotal", VATWithoutCounsel},
-    {"nfas", of<FASItemsTotal>},
-    {"vfas", of<FASVATTotal>},
-    {"ncsl", of<CounselFeesAmountTotal>},
-    {"vcsl", of<CounselFeesVATTotal>},
-    {"ntotal", NetWithAdvocacyAndCounsel},
-    {"vtotal", VATWithAdvocacyAndCounsel},
-};
 
 /// Writes the report; a figure that fails is written as its error's number.
 class Report {
@@ -150,7 +71,7 @@ private:
                 note(fault.sentence);
     }
 
-    void figures(std::span<const FigureRow> rows);
+    void figures(std::span<const clsBillFigure> rows);
     void scheduleItems();
     void scheduleItem(int orderID, const clsZR3ScheduleOfTimeItem &item, clsOnBill &isOnBill);
     void fasItems();
@@ -178,22 +99,19 @@ clsTotalsReport Report::write()
     fasItems();
     communications();
     columns();
-    figures(Totals);
+    figures(mdTotalFigures());
     counselAtLine();
     m_json.beginObject("Summary");
-    if (m_form.FormType() == QLatin1String("Claim1A"))
-        figures(Claim1ASummary);
-    else
-        figures(Claim1Summary);
+    figures(mdSummaryFigures(m_form));
     m_json.endObject();
     blankItems();
     m_json.endObject();
     return {m_json.bytes(), m_failures > 0, m_causes};
 }
 
-void Report::figures(std::span<const FigureRow> rows)
+void Report::figures(std::span<const clsBillFigure> rows)
 {
-    for (const FigureRow &row : rows)
+    for (const clsBillFigure &row : rows)
         figure(row.key, [&] { return row.figure(m_bill); });
 }
 

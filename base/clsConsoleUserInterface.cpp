@@ -6,9 +6,19 @@ void clsConsoleUserInterface::tell(const QString &title, const QString &text)
 {
     clearProgress();
     ++m_messageCount;
-    if (showsOnlyFirstMessage && m_messageCount > 1)
+    const QString message = title + QStringLiteral(": ") + text;
+    if (m_messageCount == 1)
+        m_firstMessage = message;
+    else if (showsOnlyFirstMessage)
         return;
-    mdPrint(stderr, title + QStringLiteral(": ") + text + QStringLiteral("\r\n"));
+    mdPrint(stderr, m_before + message + QStringLiteral("\r\n"));
+}
+
+void clsConsoleUserInterface::beginSubject(const QString &before)
+{
+    m_before = before;
+    m_firstMessage.clear();
+    m_messageCount = 0;
 }
 
 clsUserInterface::Answer clsConsoleUserInterface::customMessage(

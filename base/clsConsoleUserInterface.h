@@ -11,6 +11,10 @@ public:
     /// Where one failure draws several messages after it, only the first tells anything.
     bool showsOnlyFirstMessage = false;
 
+    /// From here on messages are about something else, with which they begin.
+    void beginSubject(const QString &before);
+    /// The first message about it, as it was told; empty where there was none.
+    const QString &firstMessage() const { return m_firstMessage; }
     /// How many of the messages told of a failure.
     int failureCount() const { return m_failureCount; }
     /// Writes a block: the title, a colon, the text.
@@ -27,6 +31,8 @@ public:
     bool openTarget(const QString &) override { return false; }
 
 private:
+    QString m_before;
+    QString m_firstMessage;
     int m_messageCount = 0; ///< shown or not
     int m_failureCount = 0;
     bool m_progressStands = false;

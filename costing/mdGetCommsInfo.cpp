@@ -53,24 +53,32 @@ clsByGroup feeEarnersByGroup(const Form &form)
     return byGroup;
 }
 
-clsLine lineAt(const Form &form, int number, clsCommsKind kind)
+/// Walks the groups by their order until the visitor says that it is enough.
+template <class Visit> void walkGroups(const Form &form, const KindRow &kind, Visit isEnough)
 {
-    clsLine line {form, Kinds[int(kind)]};
     const clsByGroup feeEarners = feeEarnersByGroup(form);
-    int found = 0;
     for (int n = 1; n <= int(form.FeeEarnerGroupsCollection().size()); ++n) {
         const auto group = form.FeeEarnerGroupByOrderID(n);
         const Group &candidate = mdExisting(group);
         // Counted without a rate too: a sum beyond 32 bits is an error in any case.
-        const int count = SumOfCounts(candidate, feeEarners.value(candidate.UniqueID()), line.kind.count);
-        if (count >= 1 && TextValue(line.kind.rate(candidate)) > 0)
-            ++found;
-        if (found == number) {
-            line.group = group;
-            line.count = count;
-            break;
-        }
+        const int count = SumOfCounts(candidate, feeEarners.value(candidate.UniqueID()), kind.count);
+        if (isEnough(clsCommsGroup {group, count, TextValue(kind.rate(candidate)) > 0}))
+            return;
     }
+}
+
+clsLine lineAt(const Form &form, int number, clsCommsKind kind)
+{
+    clsLine line {form, Kinds[int(kind)]};
+    int found = 0;
+    walkGroups(form, line.kind, [&](const clsCommsGroup &candidate) {
+        found += candidate.takesLine();
+        if (found != number)
+            return false;
+        line.group = candidate.group;
+        line.count = candidate.count;
+        return true;
+    });
     return line;
 }
 
@@ -94,12 +102,18 @@ Money groupEnhancementOf(const clsLine &line)
     return RoundMoney2(PercentageCalculate(basicOf(line), line.group->EnhancementRate()));
 }
 
+/// The enhancement that is set for the kind, or nothing.
+std::shared_ptr<clsZR3Enhancement> listedEnhancement(const Form &form, const KindRow &kind)
+{
+    const Comms &settings = form.Communications;
+    if (!kind.enhanced(settings))
+        return {};
+    return form.EnhancementByUniqueID(kind.enhancementUniqueID(settings));
+}
+
 Money listedEnhancementOf(const clsLine &line)
 {
-    const Comms &settings = line.form.Communications;
-    if (!line.kind.enhanced(settings))
-        return {};
-    const auto enhancement = line.form.EnhancementByUniqueID(line.kind.enhancementUniqueID(settings));
+    const auto enhancement = listedEnhancement(line.form, line.kind);
     return enhancement ? PercentageCalculate(basicOf(line), enhancement->Rate()) : Money();
 }
 
@@ -119,6 +133,21 @@ Money claimOf(const clsLine &line)
 }
 
 } // namespace
+
+std::vector<clsCommsGroup> CommsGroups(const clsZR3Form &form, clsCommsKind kind)
+{
+    std::vector<clsCommsGroup> groups;
+    walkGroups(form, Kinds[int(kind)], [&](const clsCommsGroup &group) {
+        groups.push_back(group);
+        return false;
+    });
+    return groups;
+}
+
+std::shared_ptr<clsZR3Enhancement> CommsEnhancement(const clsZR3Form &form, clsCommsKind kind)
+{
+    return listedEnhancement(form, Kinds[int(kind)]);
+}
 
 std::shared_ptr<clsZR3FeeEarnerGroup> CommsGroupAtLine(const clsZR3Form &form, int line, clsCommsKind kind)
 {
@@ -145,6 +174,12 @@ Money CommsBasicAtLine(const clsZR3Form &form, int line, clsCommsKind kind)
 Money CommsGroupEnhancement(const clsZR3Form &form, int line, clsCommsKind kind)
 {
     return groupEnhancementOf(lineAt(form, line, kind));
+}
+
+Money CommsListedEnhancement(const clsZR3Form &form, int line, clsCommsKind kind)
+{
+    const clsLine found = lineAt(form, line, kind);
+    return found.group ? listedEnhancementOf(found) : Money();
 }
 
 Money CommsEnhancementAtLine(const clsZR3Form &form, int line, clsCommsKind kind)

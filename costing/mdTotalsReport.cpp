@@ -4,50 +4,17 @@
 #include "base/clsRunTimeError.h"
 #include "base/mdExisting.h"
 #include "costing/clsBill.h"
-#include "costing/mdBillSummary.h"
+#include "costing/mdBillFigures.h"
 #include "costing/mdCheckForBlankItems.h"
 #include "costing/mdFigureFaults.h"
-#include "costing/mdGetBillSummary.h"
 #include "costing/mdGetColumnTotals.h"
 #include "costing/mdGetCommsInfo.h"
 #include "costing/mdGetCounselTotals.h"
-#include "costing/mdGetDisbursementsTotals.h"
-#include "costing/mdGetFASTotals.h"
 #include "formdata/clsOnBill.h"
-
-#include <span>
 
 namespace {
 
 using Form = clsZR3Form;
-
-Money loadFromBillNet(const clsBill &bill)
-{
-    const Money profitCosts = ProfitCostsTotal(bill);
-    return profitCosts - AdvocacyTotal(bill);
-}
-
-const clsBillFigure Totals[] = {
-    {"ScheduleTotal", ScheduleTotal},
-    {"AdvocacyTotal", AdvocacyTotal},
-    {"CounselDisbursementsAmountTotal", mdOfForm<CounselDisbursementsAmountTotal>},
-    {"CounselDisbursementsVATTotal", mdOfForm<CounselDisbursementsVATTotal>},
-    {"NonCounselDisbursementsAmountTotal", mdOfForm<NonCounselDisbursementsAmountTotal>},
-    {"NonCounselDisbursementsVATTotal", mdOfForm<NonCounselDisbursementsVATTotal>},
-    {"ExpertInvoicesNetTotal", mdOfForm<ExpertInvoicesNetTotal>},
-    {"ExpertInvoicesVATTotal", mdOfForm<ExpertInvoicesVATTotal>},
-    {"CounselFeesAmountTotal", mdOfForm<CounselFeesAmountTotal>},
-    {"CounselFeesVATTotal", mdOfForm<CounselFeesVATTotal>},
-    {"CounselFeesTotal", mdOfForm<CounselFeesTotal>},
-    {"FASItemsTotal", mdOfForm<FASItemsTotal>},
-    {"FASVATTotal", mdOfForm<FASVATTotal>},
-    {"CommsTotal", mdOfForm<CommsTotal>},
-    {"ProfitCostsTotal", ProfitCostsTotal},
-    {"ProfitCostsVAT", ProfitCostsVAT},
-    {"AdvocacyVAT", [](const clsBill &bill) { return VATOf(bill.form(), AdvocacyTotal(bill)); }},
-    {"LoadFromBillNet", loadFromBillNet},
-    {"LoadFromBillVAT", [](const clsBill &bill) { return VATOf(bill.form(), loadFromBillNet(bill)); }},
-};
 
 /// Writes the report; a figure that fails is written as its error's number.
 class Report {
@@ -132,14 +99,10 @@ clsTotalsReport Report::write()
     fasItems();
     communications();
     columns();
-    figures(Totals);
+    figures(mdTotalFigures());
     counselAtLine();
     m_json.beginObject("Summary");
-    figures(SharedSummary);
-    if (m_form.FormType() == QLatin1String("Claim1A"))
-        figures(Claim1ASummary);
-    else
-        figures(Claim1Summary);
+    figures(mdSummaryFigures(m_form));
     m_json.endObject();
     blankItems();
     m_json.endObject();

@@ -8,6 +8,22 @@
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdReadDerived.h"
 
+namespace {
+
+Money rateOf(clsGroupRates &rates, clsZR3ScheduleOfTimeItem::RateRule rule)
+{
+    switch (rule) {
+    case clsZR3ScheduleOfTimeItem::AdvocacyRule: return rates.AdvocacyRate();
+    case clsZR3ScheduleOfTimeItem::CounselRule: return rates.CounselRate();
+    case clsZR3ScheduleOfTimeItem::TravelAndWaitingRule: return rates.TravelAndWaitingRate();
+    case clsZR3ScheduleOfTimeItem::HourlyRule:
+    case clsZR3ScheduleOfTimeItem::UseHourlyRule: break;
+    }
+    return rates.HourlyRate();
+}
+
+} // namespace
+
 std::span<const clsXMLDerivedProperty> clsZR3ScheduleOfTimeItem::DerivedProperties()
 {
     // clang-format off
@@ -74,16 +90,30 @@ Money clsZR3ScheduleOfTimeItem::Rate() const
 
 Money clsZR3ScheduleOfTimeItem::RateBy(clsGroupRates &rates, int timeColumn) const
 {
-    Money rate = rates.HourlyRate();
-    if (Advocacy())
-        rate = rates.AdvocacyRate();
-    if (Counsel())
-        rate = rates.CounselRate();
-    if (timeColumn == TravelTime || timeColumn == WaitingTime)
-        rate = rates.TravelAndWaitingRate();
-    if (UseHourlyRate())
-        rate = rates.HourlyRate();
+    Money rate;
+    forEachRateRule(timeColumn, [&](RateRule rule) { rate = rateOf(rates, rule); });
     return rate;
+}
+
+clsZR3ScheduleOfTimeItem::RateRule clsZR3ScheduleOfTimeItem::RateRuleBy(int timeColumn) const
+{
+    RateRule last = HourlyRule;
+    forEachRateRule(timeColumn, [&](RateRule rule) { last = rule; });
+    return last;
+}
+
+/// The rules that apply, each overriding the one before it.
+template <class Visit> void clsZR3ScheduleOfTimeItem::forEachRateRule(int timeColumn, Visit visit) const
+{
+    visit(HourlyRule);
+    if (Advocacy())
+        visit(AdvocacyRule);
+    if (Counsel())
+        visit(CounselRule);
+    if (timeColumn == TravelTime || timeColumn == WaitingTime)
+        visit(TravelAndWaitingRule);
+    if (UseHourlyRate())
+        visit(UseHourlyRule);
 }
 
 Money clsZR3ScheduleOfTimeItem::BasicClaim() const
@@ -116,5 +146,10 @@ Money clsZR3ScheduleOfTimeItem::Claim() const
 
 Money clsZR3ScheduleOfTimeItem::ClaimBy(Money basicClaim, Money percentage)
 {
-    return RoundMoney2(basicClaim + PercentageCalculate(basicClaim, MoneyToText(percentage)));
+    return RoundMoney2(basicClaim + EnhancementBy(basicClaim, percentage));
+}
+
+Money clsZR3ScheduleOfTimeItem::EnhancementBy(Money basicClaim, Money percentage)
+{
+    return PercentageCalculate(basicClaim, MoneyToText(percentage));
 }

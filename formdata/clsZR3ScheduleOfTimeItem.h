@@ -70,7 +70,16 @@ public:
     Money RateBy(clsGroupRates &rates, int timeColumn) const;
     Money TotalEnhancementPercentageBy(clsGroupRates &rates) const;
     static Money ClaimBy(Money basicClaim, Money percentage);
+    /// The uplift that is in the claim, at four decimals.
+    static Money EnhancementBy(Money basicClaim, Money percentage);
+
+    /// What decides on the rate.
+    enum RateRule { HourlyRule, AdvocacyRule, CounselRule, TravelAndWaitingRule, UseHourlyRule };
+    /// The rule whose rate `RateBy` gives.
+    RateRule RateRuleBy(int timeColumn) const;
 
 private:
+    template <class Visit> void forEachRateRule(int timeColumn, Visit visit) const;
+
     clsZR3Form *m_form;
 };

@@ -17,21 +17,26 @@ constexpr VerbRow Verbs[] = {
     {"export", clsToolCommand::Export, 2},
     {"check", clsToolCommand::Check, 1},
     {"save", clsToolCommand::Save, 2},
+    {"why", clsToolCommand::Why, 3},
 };
 
 const QString Force = QStringLiteral("force");
 const QString Templates = QStringLiteral("templates");
 const QString KeepSheets = QStringLiteral("keep-sheets");
 const QString Quiet = QStringLiteral("quiet");
+const QString Full = QStringLiteral("full");
+const QString Json = QStringLiteral("json");
+const QString Today = QStringLiteral("today");
 const QString HelpOption = QStringLiteral("help");
 const QString VersionOption = QStringLiteral("version");
 
 void addOptions(QCommandLineParser &parser)
 {
     parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsOptions);
-    for (const QString &flag : {Force, KeepSheets, Quiet, HelpOption, VersionOption})
+    for (const QString &flag : {Force, KeepSheets, Quiet, Full, Json, HelpOption, VersionOption})
         parser.addOption(QCommandLineOption(flag));
     parser.addOption(QCommandLineOption(Templates, QString(), QStringLiteral("DIR")));
+    parser.addOption(QCommandLineOption(Today, QString(), QStringLiteral("DAY")));
 }
 
 bool hasExportOptions(const QCommandLineParser &parser)
@@ -39,9 +44,30 @@ bool hasExportOptions(const QCommandLineParser &parser)
     return parser.isSet(Force) || parser.isSet(Templates) || parser.isSet(KeepSheets) || parser.isSet(Quiet);
 }
 
+/// `check --full`, which takes as many claims as there are and has options of its own.
+std::optional<clsToolCommand> fullCheckOf(const QCommandLineParser &parser, const QStringList &words)
+{
+    clsToolCommand command;
+    command.verb = clsToolCommand::CheckFull;
+    command.claims = words.mid(1);
+    command.json = parser.isSet(Json);
+    if (words.value(0) != QLatin1String("check") || command.claims.isEmpty() || hasExportOptions(parser))
+        return {};
+    for (const QString &day : parser.values(Today)) {
+        command.today = QDate::fromString(day, QStringLiteral("yyyy-MM-dd"));
+        if (!command.today.isValid())
+            return {};
+    }
+    return command;
+}
+
 std::optional<clsToolCommand> commandOf(const QCommandLineParser &parser)
 {
     const QStringList words = parser.positionalArguments();
+    if (parser.isSet(Full))
+        return fullCheckOf(parser, words);
+    if (parser.isSet(Json) || parser.isSet(Today))
+        return {};
     const auto *row = std::find_if(std::begin(Verbs), std::end(Verbs),
         [&](const VerbRow &candidate) { return !words.isEmpty() && words.first() == QLatin1String(candidate.word); });
     if (row == std::end(Verbs) || words.size() != row->paths + 1)
@@ -54,6 +80,11 @@ std::optional<clsToolCommand> commandOf(const QCommandLineParser &parser)
     clsToolCommand command;
     command.verb = row->verb;
     command.claim = words[1];
+    if (row->verb == clsToolCommand::Why) {
+        command.kind = words[2];
+        command.which = words[3];
+        return command;
+    }
     command.target = words.value(2);
     command.force = parser.isSet(Force);
     command.keepSheets = parser.isSet(KeepSheets);
@@ -89,8 +120,16 @@ QString clsToolCommand::usage()
         "  zr3tool totals CLAIM           every figure of the bill, as JSON\n"
         "  zr3tool export CLAIM FOLDER    the finished document into FOLDER\n"
         "  zr3tool check  CLAIM           the blank items check\n"
+        "  zr3tool check  --full CLAIM... what is to be put right before a claim is sent\n"
         "  zr3tool save   CLAIM NEWFILE   brings the claim up to date and writes it to NEWFILE\n"
+        "  zr3tool why    CLAIM KIND N    how one figure comes about, as JSON; KIND and N are\n"
+        "                                 schedule and an item's order, communications and KIND/LINE,\n"
+        "                                 fas and an order, total and a key of totals, list and a column\n"
         "  zr3tool --help | --version\n"
+        "\n"
+        "Options of check --full, which takes folders too:\n"
+        "  --json             the findings as JSON\n"
+        "  --today DAY        another day than today's, as YYYY-MM-DD\n"
         "\n"
         "Options of export:\n"
         "  --force            replace an existing document\n"
@@ -98,7 +137,8 @@ QString clsToolCommand::usage()
         "  --keep-sheets      leave the folder ~ZR3Temp with its sheets\n"
         "  --quiet            show no progress\n"
         "\n"
-        "Exit status: 0 done; 1 wrong usage; 2 the claim can't be read; 3 blank items found;\n"
-        "4 a figure can't be computed, or the export failed; 5 the document exists already.\n"
+        "Exit status: 0 done; 1 wrong usage; 2 the claim can't be read; 3 blank items found, or an error or\n"
+        "a warning by check --full; 4 a figure can't be computed, or the export failed; 5 the document exists\n"
+        "already.\n"
         "A box whose text is no amount is told of and left as it is; the document is made all the same.\n");
 }

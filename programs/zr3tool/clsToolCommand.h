@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDate>
 #include <QString>
 #include <QStringList>
 
@@ -10,17 +11,22 @@ enum class clsExitStatus {
     Done = 0,
     WrongUsage = 1,
     NoClaim = 2,
-    BlankItems = 3,
+    BlankItems = 3, ///< or something else that a check has found
     Failed = 4,
     DocumentExists = 5,
 };
 
 /// A command line, read.
 struct clsToolCommand {
-    enum Verb { Totals, Export, Check, Save, Help, Version };
+    enum Verb { Totals, Export, Check, CheckFull, Save, Why, Help, Version };
 
     Verb verb = Help;
     QString claim;
+    QStringList claims; ///< of a full check: claims and folders
+    QString kind; ///< of the figure that is asked for
+    QString which; ///< and which of its kind
+    QDate today; ///< stands in for the machine's day, where it is given
+    bool json = false;
     QString target; ///< the folder of an export, the new file of a save
     bool force = false;
     bool keepSheets = false;

@@ -11,6 +11,7 @@
 #include "costing/mdTotalsReport.h"
 #include "formdata/clsZR3Form.h"
 #include "programs/zr3tool/clsToolCommand.h"
+#include "programs/zr3tool/mdCheckFull.h"
 #include "wordexport/clsExport.h"
 #include "wordexport/mdExportDriver.h"
 #include "wordexport/mdExportTempFolder.h"
@@ -55,7 +56,11 @@ Status guarded(clsConsoleUserInterface &console, Status onError, const std::func
     return onError;
 }
 
-Status load(clsConsoleUserInterface &console, clsZR3Form &form, const QString &path)
+/// Whether a claim has to be sound in all its parts to be of use.
+enum class Soundness { InAllParts, InSome };
+
+Status load(clsConsoleUserInterface &console, clsZR3Form &form, const QString &path,
+    Soundness soundness = Soundness::InAllParts)
 {
     // That a file which can't be read is no claim either goes without saying.
     console.showsOnlyFirstMessage = true;
@@ -63,7 +68,8 @@ Status load(clsConsoleUserInterface &console, clsZR3Form &form, const QString &p
         if (!form.LoadXML(path))
             return Status::NoClaim;
         // Nobody can mend the claim here.
-        form.CheckDerivedCollections();
+        if (soundness == Soundness::InAllParts)
+            form.CheckDerivedCollections();
         return Status::Done;
     });
     console.showsOnlyFirstMessage = false;
@@ -165,17 +171,29 @@ Status runOnClaim(clsConsoleUserInterface &console, const clsToolCommand &comman
 {
     return guarded(console, Status::Failed, [&] {
         clsZR3Form form;
-        if (const Status status = load(console, form, command.claim); status != Status::Done)
+        const auto soundness = command.verb == clsToolCommand::Why ? Soundness::InSome : Soundness::InAllParts;
+        if (const Status status = load(console, form, command.claim, soundness); status != Status::Done)
             return status;
         switch (command.verb) {
         case clsToolCommand::Totals: return totals(console, form);
         case clsToolCommand::Check: return check(form);
         case clsToolCommand::Save: return save(console, form, command.target);
         case clsToolCommand::Export: return exportDocument(console, form, command);
+        case clsToolCommand::Why: return mdWhyFigure(form, command);
+        case clsToolCommand::CheckFull:
         case clsToolCommand::Help:
         case clsToolCommand::Version: break;
         }
         return Status::WrongUsage;
+    });
+}
+
+Status checkFull(clsConsoleUserInterface &console, const clsToolCommand &command)
+{
+    return guarded(console, Status::Failed, [&] {
+        return mdCheckFull(console, command, [&](clsZR3Form &form, const QString &path) {
+            return load(console, form, path, Soundness::InSome);
+        });
     });
 }
 
@@ -190,7 +208,8 @@ std::optional<Status> refusal(
     if (name.isEmpty())
         return {};
     console.tell(QStringLiteral("File Name"), RefusalOfName(name));
-    return QFile::decodeName(name) == command.claim ? Status::NoClaim : Status::Failed;
+    const QString refused = QFile::decodeName(name);
+    return refused == command.claim || command.claims.contains(refused) ? Status::NoClaim : Status::Failed;
 }
 
 Status run(const QByteArrayList &names)
@@ -213,6 +232,8 @@ Status run(const QByteArrayList &names)
         if (const auto refused = refusal(console, *command, names))
             return *refused;
         console.showsProgress = !command->quiet;
+        if (command->verb == clsToolCommand::CheckFull)
+            return checkFull(console, *command);
         return runOnClaim(console, *command);
     }
     return Status::Done;

@@ -1,0 +1,121 @@
+#pragma once
+
+#include "costing/checking/clsCheckFacts.h"
+#include "costing/checking/clsFinding.h"
+#include "costing/clsBill.h"
+#include "formdata/clsZR3Form.h"
+
+#include <QSet>
+
+#include <algorithm>
+#include <optional>
+
+class clsClaimCheck;
+
+/// A rule: one row of the one table of rules. The level is that of most of its findings.
+struct clsCheckRule {
+    const char *id;
+    clsFindingLevel level;
+    void (*find)(clsClaimCheck &check);
+};
+
+/// An item of the schedule that is on the bill.
+struct clsBilledItem {
+    const clsZR3ScheduleOfTimeItem *item;
+    const clsSchedulePrice *price;
+    int order;
+    std::optional<QDate> date;
+
+    bool hasTime() const { return !price->errorOf(clsSchedulePrice::TimeFigure); }
+    /// The beginning of a sentence: "Item 14, 03/06/25,", or "Item 14" without a date.
+    QString words() const;
+};
+
+/// Where a finding is put right.
+struct clsFindingPlace {
+    QString screen;
+    QString list {};
+    int item = 0;
+    QString property {};
+};
+
+/// One look through a claim: what its rules share, and what they have found. It reads the claim and writes nothing.
+class clsClaimCheck {
+public:
+    clsClaimCheck(const clsZR3Form &form, const clsCheckFacts &facts);
+
+    clsFindings run(const clsCheckRule *begin, const clsCheckRule *end);
+
+    const clsZR3Form &form() const { return m_form; }
+    const clsCheckFacts &facts() const { return m_facts; }
+    const clsBill &bill() const { return m_bill; }
+    bool isClaim1() const { return m_isClaim1; }
+    bool isClaim1A() const { return m_isClaim1A; }
+    /// Whether a page of the claim's form is printed; each form has its own number for it, 0 for none.
+    bool isPrinted(int claim1Page, int claim1APage) const;
+
+    /// The items on the bill, by their order. One of which nobody can tell is none.
+    const std::vector<clsBilledItem> &billed();
+
+    void add(const clsFindingPlace &place, const QString &text) { add(place, text, m_rule->level); }
+    void add(const clsFindingPlace &place, const QString &text, clsFindingLevel level);
+
+    /// Looks at each item of a list by its order. One of which something can't be read is passed over.
+    template <class Items, class Look> static void each(const Items &items, Look look)
+    {
+        for (const auto *item : inOrder(items))
+            unlessItFails([&] { look(*item, item->OrderID()); });
+    }
+    template <class Look> void eachBilled(Look look)
+    {
+        for (const clsBilledItem &item : billed())
+            unlessItFails([&] { look(item); });
+    }
+    /// Runs what may meet something in the claim that can't be read.
+    template <class Run> static bool unlessItFails(Run run)
+    {
+        try {
+            run();
+            return true;
+        } catch (const clsRunTimeError &) {
+            return false;
+        }
+    }
+
+    // What can't be computed is told once: the rules of amounts pass over an item that has been found so.
+    void noteFault(const clsXMLRecord &item) { m_withFault.insert(&item); }
+    bool hasFault(const clsXMLRecord &item) const { return m_withFault.contains(&item); }
+
+private:
+    template <class Items> static auto inOrder(const Items &items)
+    {
+        std::vector<const typename Items::value_type::element_type *> result;
+        result.reserve(items.size());
+        for (const auto &item : items)
+            result.push_back(item.get());
+        const auto before = [](const auto *left, const auto *right) { return left->OrderID() < right->OrderID(); };
+        if (!std::is_sorted(result.begin(), result.end(), before))
+            std::stable_sort(result.begin(), result.end(), before);
+        return result;
+    }
+
+    const clsZR3Form &m_form;
+    const clsCheckFacts &m_facts;
+    clsBill m_bill;
+    bool m_isClaim1;
+    bool m_isClaim1A;
+    std::optional<std::vector<clsBilledItem>> m_billed;
+    QSet<const clsXMLRecord *> m_withFault;
+    const clsCheckRule *m_rule = nullptr;
+    clsFindings m_findings;
+};
+
+// The screens, by their tabs, and their lists.
+inline constexpr char ScheduleScreen[] = "Schedule of Time";
+inline constexpr char DisbursementsScreen[] = "Disbursements";
+inline constexpr char CommunicationsScreen[] = "Communications";
+inline constexpr char AdvocacyScreen[] = "Family Advocacy Scheme";
+inline constexpr char RatesScreen[] = "Fee Earners / Rates";
+inline constexpr char ActualCostsScreen[] = "Actual Costs";
+inline constexpr char OutcomeScreen[] = "Outcome of Case";
+inline constexpr char WorkScreen[] = "Details of Work";

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "base/clsRunTimeError.h"
+
+#include <QString>
+
+#include <vector>
+
+/// Where something that a figure comes from can be changed. Empty where there is no such place.
+struct clsWhySource {
+    QString Screen {}; ///< the text of its tab
+    QString List {}; ///< of the screen, such as "groups"
+    int Item = 0; ///< the order in the list
+    QString Property {};
+};
+
+/// A step on the way to a figure.
+struct clsWhyStep {
+    QString Text; ///< what it is
+    QString Reason; ///< why it is so; may be empty
+    QString Value;
+    clsWhySource Source;
+
+    /// Text and reason as one sentence.
+    QString sentence() const;
+};
+
+/// How a figure comes about. The last value is the figure. One that can't be computed is "!" and the number of its
+/// error, and no steps follow it.
+class clsWhy {
+public:
+    explicit clsWhy(const clsWhySource &source = {})
+        : m_source(source)
+    { }
+
+    const std::vector<clsWhyStep> &steps() const { return m_steps; }
+    QString figure() const { return m_steps.empty() ? QString() : m_steps.back().Value; }
+    bool hasFailed() const { return m_hasFailed; }
+    /// The item whose figure it is.
+    const clsWhySource &source() const { return m_source; }
+
+    /// Adds a step whose value is computed, as a text; nothing after one that failed.
+    template <class Compute>
+    void add(const QString &text, const QString &reason, const clsWhySource &source, Compute compute)
+    {
+        if (m_hasFailed)
+            return;
+        try {
+            m_steps.push_back({text, reason, compute(), source});
+        } catch (const clsRunTimeError &error) {
+            m_hasFailed = true;
+            m_steps.push_back({text, error.cause(), QStringLiteral("!%1").arg(error.number()), source});
+        }
+    }
+    /// Runs what adds steps; where something that they are made of can't be read, that is the last of them.
+    template <class Run> void addAll(const QString &text, Run run)
+    {
+        try {
+            if (!m_hasFailed)
+                run();
+        } catch (const clsRunTimeError &error) {
+            add(text, {}, {}, [&]() -> QString { throw error; });
+        }
+    }
+
+private:
+    clsWhySource m_source;
+    std::vector<clsWhyStep> m_steps;
+    bool m_hasFailed = false;
+};

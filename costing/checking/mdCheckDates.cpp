@@ -1,0 +1,109 @@
+#include "costing/checking/mdCheckRules.h"
+
+#include "base/mdDateText.h"
+#include "costing/checking/mdCheckWords.h"
+
+namespace {
+
+/// Something that is billed and has a date, or should have.
+struct clsDated {
+    clsFindingPlace place;
+    QString name;
+    std::optional<QDate> date;
+};
+
+/// The items on the bill, counsel's fees and the hearings of the advocacy scheme.
+template <class Look> void eachDated(clsClaimCheck &check, Look look)
+{
+    check.eachBilled([&](const clsBilledItem &billed) {
+        look(clsDated {{ScheduleScreen, "schedule", billed.order, QStringLiteral("dDate")},
+            QStringLiteral("Item %1").arg(billed.order), billed.date});
+    });
+    check.each(check.form().DisbursementsCollection(), [&](const clsZR3Disbursement &fee, int order) {
+        if (fee.Counsel())
+            look(clsDated {{DisbursementsScreen, "disbursements", order, QStringLiteral("DateOfWork")}, mdInWords(fee),
+                mdStoredDate(fee.DateOfWork())});
+    });
+    if (!check.isClaim1A())
+        return;
+    check.each(check.form().FASItemsCollection(), [&](const clsZR3FASItem &item, int order) {
+        look(clsDated {{AdvocacyScreen, "fas", order, QStringLiteral("dDate")}, QStringLiteral("FAS item %1").arg(order),
+            mdStoredDate(item.dDate())});
+    });
+}
+
+/// A finding for each billed item whose date is wrong.
+template <class IsWrong, class Text> void addWrongDates(clsClaimCheck &check, IsWrong isWrong, Text text)
+{
+    check.eachBilled([&](const clsBilledItem &billed) {
+        if (billed.date && isWrong(*billed.date))
+            check.add({ScheduleScreen, "schedule", billed.order, QStringLiteral("dDate")}, text(billed));
+    });
+}
+
+/// The earlier of the two certificates' dates; nothing where neither is one.
+template <class Section> std::optional<QDate> certificateOf(const Section &section)
+{
+    const auto emergency = mdStoredDate(section.EmergencyCertificateDate());
+    const auto substantive = mdStoredDate(section.SubstantiveCertificateDate());
+    if (emergency && substantive)
+        return std::min(*emergency, *substantive);
+    return emergency ? emergency : substantive;
+}
+
+std::optional<QDate> certificateOf(const clsClaimCheck &check)
+{
+    if (check.isClaim1())
+        return certificateOf(check.form().CaseInformation);
+    if (check.isClaim1A())
+        return certificateOf(check.form().OutcomeOfCase);
+    return {};
+}
+
+} // namespace
+
+void mdCheckDateMissing(clsClaimCheck &check)
+{
+    eachDated(check, [&](const clsDated &dated) {
+        if (!dated.date)
+            check.add(dated.place, dated.name + QStringLiteral(" has no date: enter the day of the work."));
+    });
+}
+
+void mdCheckDateFuture(clsClaimCheck &check)
+{
+    eachDated(check, [&](const clsDated &dated) {
+        if (dated.date && *dated.date > check.facts().Today)
+            check.add(dated.place,
+                QStringLiteral("%1 is dated after today, %2: correct the date.")
+                    .arg(mdWithApposition(dated.name, DateText(*dated.date)), DateText(check.facts().Today)));
+    });
+}
+
+void mdCheckDateBeforeCertificate(clsClaimCheck &check)
+{
+    const auto certificate = certificateOf(check);
+    if (!certificate)
+        return;
+    addWrongDates(
+        check, [&](QDate date) { return date < *certificate; },
+        [&](const clsBilledItem &billed) {
+            return QStringLiteral("%1 is dated before the certificate of %2.")
+                .arg(billed.words(), DateText(*certificate));
+        });
+}
+
+void mdCheckDateAfterFinalWork(clsClaimCheck &check)
+{
+    if (!check.isClaim1())
+        return;
+    const auto finalWork = mdStoredDate(check.form().CaseInformation.DateOfFinalWorkDate());
+    if (!finalWork)
+        return;
+    addWrongDates(
+        check, [&](QDate date) { return date > *finalWork; },
+        [&](const clsBilledItem &billed) {
+            return QStringLiteral("%1 is dated after the final work of %2: correct one of the two dates.")
+                .arg(billed.words(), DateText(*finalWork));
+        });
+}

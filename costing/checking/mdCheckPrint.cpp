@@ -1,0 +1,80 @@
+#include "costing/checking/mdCheckRules.h"
+
+#include "costing/checking/mdCheckWords.h"
+#include "formdata/mdRecordInWords.h"
+
+// What is wrong on the printed sheets.
+
+namespace {
+
+struct clsBoxStateRow {
+    clsPrintedBox::State state;
+    clsFindingLevel level;
+    const char *words;
+};
+
+constexpr clsBoxStateRow BoxStates[] = {
+    {clsPrintedBox::Smaller, clsFindingLevel::Note, "is printed smaller to fit its box: see that it can be read."},
+    {clsPrintedBox::RunsOn, clsFindingLevel::Warning, "makes its sheet run on to another page: shorten it."},
+    {clsPrintedBox::Cut, clsFindingLevel::Error, "is cut off at the end of its box: shorten it."},
+};
+
+/// What is printed in a box, and on which sheet.
+QString boxInWords(const clsPrintedBox &box)
+{
+    const QString what = box.Property.isEmpty() ? QStringLiteral("A text") : mdPropertyInWords(box.Property);
+    return box.Sheet.isEmpty() ? what : QStringLiteral("%1 on page %2").arg(what, box.Sheet);
+}
+
+} // namespace
+
+void mdCheckEnhancementReasons(clsClaimCheck &check)
+{
+    if (!check.isClaim1() || !check.isPrinted(3, 0)
+        || !mdIsEmptyText(check.form().DetailsOfWork.DetailsOfEnhancement()))
+        return;
+    for (const clsBilledItem &billed : check.billed()) {
+        const clsSchedulePrice &price = *billed.price;
+        if (price.errorOf(clsSchedulePrice::PercentageFigure) || price.TotalEnhancementPercentage <= Money())
+            continue;
+        check.add({WorkScreen, "", 0, QStringLiteral("DetailsOfEnhancement")},
+            QStringLiteral("Items are enhanced, the first of them item %1, but no reasons are given: say why.")
+                .arg(billed.order));
+        return;
+    }
+}
+
+void mdCheckPaper(clsClaimCheck &check)
+{
+    for (const clsPrintedBox &box : check.facts().Boxes)
+        for (const clsBoxStateRow &row : BoxStates)
+            if (row.state == box.state)
+                check.add({box.Screen, box.List, box.Item, box.Property},
+                    boxInWords(box) + u' ' + QString::fromLatin1(row.words), row.level);
+}
+
+void mdCheckLostSheets(clsClaimCheck &check)
+{
+    // The rows that page 7 and its further sheets hold.
+    constexpr int JointFirst = 14;
+    constexpr int JointFurther = 30;
+    constexpr int OtherFirst = 12;
+    constexpr int OtherFurther = 32;
+    if (!check.isClaim1() || !check.isPrinted(7, 0))
+        return;
+    const int joint = int(check.form().JointInstructionsCollection().size());
+    const int other = int(check.form().NonCounselDisbursementsCollection().size());
+    if (joint <= JointFirst || other <= OtherFirst)
+        return;
+    // Each further sheet of the disbursements takes the place of the joint instructions' of its number.
+    const int lostSheets = (other - OtherFirst + OtherFurther - 1) / OtherFurther;
+    const int last = std::min(joint, JointFirst + lostSheets * JointFurther);
+    const QString rows = last == JointFirst + 1
+        ? QStringLiteral("Joint instruction %1 is").arg(last)
+        : QStringLiteral("Joint instructions %1 to %2 are").arg(JointFirst + 1).arg(last);
+    check.add({DisbursementsScreen},
+        rows
+            + QStringLiteral(" not printed, because both lists of page 7 run on to the same further sheets: keep to %1 "
+                             "joint instructions, or list the rest in a letter.")
+                  .arg(JointFirst));
+}

@@ -1,0 +1,181 @@
+#include "costing/checking/mdCheckRules.h"
+
+#include "base/mdDateText.h"
+#include "base/mdTimeFormatting.h"
+#include "costing/checking/mdCheckWords.h"
+
+#include <QHash>
+
+#include <array>
+#include <climits>
+#include <map>
+
+namespace {
+
+clsFindingPlace placeOf(const clsBilledItem &billed, const char *property)
+{
+    return {ScheduleScreen, "schedule", billed.order, QString::fromLatin1(property)};
+}
+
+/// The property and the words of the rate that a rule takes.
+struct clsRateRow {
+    const char *property;
+    const char *words;
+};
+
+constexpr clsRateRow Rates[] = {
+    {"HourlyRate", "an hourly rate"},
+    {"AdvocacyRate", "an advocacy rate"},
+    {"CounselRate", "a counsel rate"},
+    {"TravelAndWaitingRate", "a travel and waiting rate"},
+};
+using clsFirstItems = std::array<int, std::size(Rates)>; ///< by rate: the first item that takes it, 0 for none
+
+size_t rateOf(clsZR3ScheduleOfTimeItem::RateRule rule)
+{
+    using Item = clsZR3ScheduleOfTimeItem;
+    switch (rule) {
+    case Item::AdvocacyRule: return 1;
+    case Item::CounselRule: return 2;
+    case Item::TravelAndWaitingRule: return 3;
+    case Item::HourlyRule:
+    case Item::UseHourlyRule: break;
+    }
+    return 0;
+}
+
+/// The fee earners and groups of the items, each looked up once.
+class clsEarners {
+public:
+    explicit clsEarners(const clsZR3Form &form)
+        : m_form(form)
+    { }
+
+    const clsZR3FeeEarner *of(const clsZR3ScheduleOfTimeItem &item)
+    {
+        const QString identity = item.FeeEarnerUniqueID();
+        const auto known = m_earners.constFind(identity);
+        if (known != m_earners.constEnd())
+            return *known;
+        return *m_earners.insert(identity, m_form.FeeEarnerByUniqueID(identity).get());
+    }
+
+private:
+    const clsZR3Form &m_form;
+    QHash<QString, const clsZR3FeeEarner *> m_earners;
+};
+
+/// What two entries of one piece of work have in common.
+QStringList likenessOf(const clsBilledItem &billed)
+{
+    const clsZR3ScheduleOfTimeItem &item = *billed.item;
+    QString ticks;
+    for (const clsXMLField *tick : std::initializer_list<const clsXMLField *> {
+             &item.Advocacy, &item.Counsel, &item.Travel, &item.Waiting, &item.UseHourlyRate})
+        ticks += tick->readBoolean() ? u'1' : u'0';
+    return {item.FeeEarnerUniqueID(), QString::number(billed.date->toJulianDay()), item.Code(),
+        QString::number(billed.price->Minutes), item.Description(), ticks};
+}
+
+} // namespace
+
+void mdCheckTimeZero(clsClaimCheck &check)
+{
+    check.eachBilled([&](const clsBilledItem &billed) {
+        if (billed.hasTime() && billed.price->Minutes == 0)
+            check.add(placeOf(billed, "TTime"),
+                billed.words() + QStringLiteral(" has a time of 00:00: enter the time, or delete the item."));
+    });
+}
+
+void mdCheckRateZero(clsClaimCheck &check)
+{
+    clsEarners earners(check.form());
+    QHash<const clsZR3FeeEarnerGroup *, clsFirstItems> taken;
+    QHash<const clsZR3FeeEarner *, const clsZR3FeeEarnerGroup *> groups;
+    check.eachBilled([&](const clsBilledItem &billed) {
+        const clsSchedulePrice &price = *billed.price;
+        if (!billed.hasTime() || price.Minutes <= 0 || price.errorOf(clsSchedulePrice::RateFigure)
+            || price.Rate != Money())
+            return;
+        const clsZR3FeeEarner *earner = earners.of(*billed.item);
+        if (!groups.contains(earner))
+            groups[earner] = earner->Group().get();
+        const size_t rate = rateOf(billed.item->RateRuleBy(price.TimeColumn));
+        int &first = taken[groups[earner]][rate];
+        if (first == 0)
+            first = billed.order;
+    });
+    check.each(check.form().FeeEarnerGroupsCollection(), [&](const clsZR3FeeEarnerGroup &group, int order) {
+        const clsFirstItems items = taken.value(&group);
+        for (size_t rate = 0; rate < items.size(); ++rate)
+            if (items[rate] != 0)
+                check.add({RatesScreen, "groups", order, QString::fromLatin1(Rates[rate].property)},
+                    QStringLiteral("%1 has %2 of 0.00, which item %3 takes: enter the rate.")
+                        .arg(mdInWords(group), QString::fromLatin1(Rates[rate].words))
+                        .arg(items[rate]));
+    });
+}
+
+void mdCheckDayHours(clsClaimCheck &check)
+{
+    constexpr qint64 Hour = 60;
+    constexpr qint64 WholeDay = 24 * Hour;
+    constexpr qint64 LongDay = 12 * Hour;
+    struct clsDay {
+        qint64 minutes = 0;
+        const clsBilledItem *last = nullptr;
+        const clsZR3FeeEarner *earner = nullptr;
+    };
+    clsEarners earners(check.form());
+    QHash<std::pair<const clsZR3FeeEarner *, qint64>, clsDay> days;
+    check.eachBilled([&](const clsBilledItem &billed) {
+        if (!billed.date || !billed.hasTime())
+            return;
+        const clsZR3FeeEarner *earner = earners.of(*billed.item);
+        if (!earner)
+            return;
+        clsDay &day = days[{earner, billed.date->toJulianDay()}];
+        day.minutes += billed.price->Minutes;
+        day.last = &billed;
+        day.earner = earner;
+    });
+    std::map<const clsBilledItem *, const clsDay *> longDays; // by place: the items lie in their order
+    for (const clsDay &day : std::as_const(days))
+        if (day.minutes > LongDay)
+            longDays[day.last] = &day;
+    for (const auto &[last, day] : longDays)
+        check.add(placeOf(*last, "TTime"),
+            QStringLiteral("%1 has %2 hours on %3, item %4 the last: correct the times or the dates.")
+                .arg(mdInWords(*day->earner), MinutesToTime(int(std::min<qint64>(day->minutes, INT_MAX))),
+                    DateText(*last->date))
+                .arg(last->order),
+            day->minutes > WholeDay ? clsFindingLevel::Error : clsFindingLevel::Warning);
+}
+
+void mdCheckDoubleEntry(clsClaimCheck &check)
+{
+    QHash<QStringList, int> earlier;
+    check.eachBilled([&](const clsBilledItem &billed) {
+        if (!billed.date || !billed.hasTime())
+            return;
+        const QStringList likeness = likenessOf(billed);
+        const auto known = earlier.constFind(likeness);
+        if (known == earlier.constEnd())
+            earlier.insert(likeness, billed.order);
+        else
+            check.add(placeOf(billed, ""),
+                QStringLiteral("%1 equals item %2: delete one, or say what differs.").arg(billed.words()).arg(*known));
+    });
+}
+
+void mdCheckLongItem(clsClaimCheck &check)
+{
+    constexpr int Long = 3 * 60;
+    check.eachBilled([&](const clsBilledItem &billed) {
+        if (billed.hasTime() && billed.price->Minutes >= Long && mdIsEmptyText(billed.item->Description()))
+            check.add(placeOf(billed, "Description"),
+                QStringLiteral("%1 takes %2 and has no description: say what was done.")
+                    .arg(billed.words(), MinutesToTime(billed.price->Minutes)));
+    });
+}

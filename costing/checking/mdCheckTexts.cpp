@@ -1,0 +1,180 @@
+#include "costing/checking/mdCheckRules.h"
+
+#include "formdata/mdRecordInWords.h"
+#include "formdata/mdSectionTabs.h"
+
+#include <cstring>
+
+// Question marks that stand for lost characters: a file holds the characters of one code page alone, and writes "?" for
+// any other.
+
+namespace {
+
+using Form = clsZR3Form;
+
+/// Texts that are no prose: amounts, rates and times. Dates and identities are known by their names.
+constexpr const char *Figures[] = {
+    "TTime", "VATRate", "TotalCostsIncurred", "CareAndSupervisionProfitCosts", "CareAndSupervisionProfitCostsVAT",
+    "PrivateLawProfitCosts", "PrivateLawProfitCostsVAT", "FixedFee", "Value", "AmountRecovered", "PreCertificateCosts",
+    "DuringCertificateCostsLSC", "DuringCertificateCostsMarketRates", "TotalCostsAwarded",
+    "LegalHelpInPreCertificateCostsAmount", "InterestOnAllCosts", "DeterminationAmount", "DebtorsIncome",
+    "EnhancementRate", "HourlyRate", "CallsRate", "LettersInRate", "LettersOutRate", "AdvocacyRate", "CounselRate",
+    "TravelAndWaitingRate", "Rate", "Amount", "VAT", "PreparationHourlyRate", "TotalPrepCost",
+    "CourtAttendanceHourlyRate", "TotalCourtCost", "TravelTimeCosts", "OtherCosts", "NetAmount", "VATAmount",
+    "PercentApportioned", "RateForUnits", "BoltOnClaimed", "CourtBundlePayment", "SettlementFee", "ExceptionalTravel",
+    "VATForFAS",
+};
+
+bool isProse(const clsXMLProperty &property)
+{
+    return property.kind == clsXMLKind::Text && !std::strstr(property.name, "Date")
+        && !std::strstr(property.name, "UniqueID")
+        && std::none_of(std::begin(Figures), std::end(Figures),
+            [&](const char *figure) { return std::strcmp(figure, property.name) == 0; });
+}
+
+QStringList proseOf(const clsXMLRecord &record)
+{
+    QStringList names;
+    for (const clsXMLPropertyPlace &row : record.properties())
+        if (isProse(*row.property))
+            names << QString::fromLatin1(row.property->name);
+    return names;
+}
+
+/// The place of the first "?" that looks like a lost character, or -1. One that ends a question follows a letter and is
+/// followed by none.
+qsizetype lostCharacter(const QString &text)
+{
+    for (qsizetype at = text.indexOf(u'?'); at >= 0; at = text.indexOf(u'?', at + 1)) {
+        if (QStringView(text).mid(at, 3) == QLatin1String("???"))
+            return at;
+        const bool goesOn = at + 1 < text.size() && text[at + 1].isLetter();
+        const QChar before = at > 0 ? text[at - 1] : QChar(u' ');
+        if (goesOn && (before.isLetter() || before == u' ' || before == u'\r' || before == u'\n'))
+            return at;
+    }
+    return -1;
+}
+
+/// Whether a content can hold a question mark, encoded or not: hardly any does, and none of the others is decoded.
+bool mayHoldMark(const char *content)
+{
+    return std::strchr(content, '?') || std::strstr(content, "%3F") || std::strstr(content, "%3f");
+}
+
+/// The words around a place of a text.
+QString excerptOf(const QString &text, qsizetype at)
+{
+    constexpr qsizetype Around = 15;
+    return text.mid(std::max<qsizetype>(0, at - Around), 2 * Around).simplified();
+}
+
+/// A screen, while its texts are looked through.
+class clsTexts {
+public:
+    clsTexts(clsClaimCheck &check, const char *screen)
+        : m_check(check)
+        , m_screen(screen)
+    { }
+
+    const Form &form() const { return m_check.form(); }
+    void section(const clsXMLRecord &record) { texts(record, proseOf(record), "", 0); }
+    void field(const clsXMLField &field, const clsXMLRecord &record) { text(field, record, "", 0); }
+    template <class Items> void items(const char *list, const Items &items)
+    {
+        QStringList prose;
+        m_check.each(items, [&](const auto &item, int order) {
+            if (prose.isEmpty())
+                prose = proseOf(item);
+            texts(item, prose, list, order);
+        });
+    }
+
+private:
+    void texts(const clsXMLRecord &record, const QStringList &prose, const char *list, int order)
+    {
+        for (const QString &name : prose)
+            text(*record.field(name), record, list, order);
+    }
+    void text(const clsXMLField &field, const clsXMLRecord &record, const char *list, int order)
+    {
+        if (!mayHoldMark(field.content()))
+            return;
+        const QString text = field.readText();
+        const qsizetype at = lostCharacter(text);
+        if (at < 0)
+            return;
+        const QString property = QString::fromLatin1(field.property().name);
+        m_check.add({m_screen, list, order, property},
+            QStringLiteral("%1: %2 holds %3, where a question mark may stand for a lost character; type it again.")
+                .arg(mdRecordInWords(record).simplified(), mdPropertyInWords(property), mdQuoted(excerptOf(text, at))));
+    }
+
+    clsClaimCheck &m_check;
+    const char *m_screen;
+};
+
+struct clsTextsRow {
+    const char *screen;
+    void (*look)(clsTexts &texts);
+};
+
+void lookAtFormSetup(clsTexts &texts)
+{
+    const Form &form = texts.form();
+    for (const clsXMLField *field : std::initializer_list<const clsXMLField *> {
+             &form.StageNumber, &form.TypeOfCase, &form.Notes})
+        texts.field(*field, form);
+}
+
+void lookAtRates(clsTexts &texts)
+{
+    texts.items("groups", texts.form().FeeEarnerGroupsCollection());
+    texts.items("feeearners", texts.form().FeeEarnersCollection());
+}
+
+void lookAtDisbursements(clsTexts &texts)
+{
+    const Form &form = texts.form();
+    texts.items("experts", form.ExpertInvoicesCollection());
+    texts.field(form.ExpertsMeetMOJStandardReasons, form);
+    texts.items("joint", form.JointInstructionsCollection());
+    texts.items("disbursements", form.DisbursementsCollection());
+}
+
+// clang-format off
+constexpr clsTextsRow Screens[] = {
+    {"Form Setup",               lookAtFormSetup},
+    {RatesScreen,                lookAtRates},
+    {"Counsel",                  [](clsTexts &texts) { texts.items("counsel", texts.form().CounselCollection()); }},
+    {"Enhancements",             [](clsTexts &texts) { texts.items("enhancements", texts.form().EnhancementsCollection()); }},
+    {"Client Details",           [](clsTexts &texts) { texts.section(texts.form().ClientDetails); }},
+    {"Solicitor Details",        [](clsTexts &texts) { texts.section(texts.form().SolicitorDetails); }},
+    {"Previous Advice",          [](clsTexts &texts) { texts.section(texts.form().PreviousAdvice); }},
+    {"Case Information",         [](clsTexts &texts) { texts.section(texts.form().CaseInformation); }},
+    {"Late Submission",          [](clsTexts &texts) { texts.section(texts.form().LateSubmission); }},
+    {"Nature of Proceedings",    [](clsTexts &texts) { texts.section(texts.form().NatureOfProceedings); }},
+    {ActualCostsScreen,          [](clsTexts &texts) { texts.section(texts.form().ActualCostsIncurred); }},
+    {WorkScreen,                 [](clsTexts &texts) { texts.section(texts.form().DetailsOfWork); }},
+    {ScheduleScreen,             [](clsTexts &texts) { texts.items("schedule", texts.form().ScheduleOfTimeItemsCollection()); }},
+    {DisbursementsScreen,        lookAtDisbursements},
+    {AdvocacyScreen,             [](clsTexts &texts) { texts.items("fas", texts.form().FASItemsCollection()); }},
+    {"Details of Costs Awarded", [](clsTexts &texts) { texts.section(texts.form().DetailsOfCostsAwarded); }},
+    {"Debtor's Details",         [](clsTexts &texts) { texts.section(texts.form().DebtorsDetails); }},
+};
+// clang-format on
+
+} // namespace
+
+void mdCheckCharacters(clsClaimCheck &check)
+{
+    const QString formType = check.form().FormType();
+    for (int tab = 1; tab <= int(mdSectionTabs().size()); ++tab)
+        for (const QString &screen : mdSubSectionTabs(tab, formType))
+            for (const clsTextsRow &row : Screens)
+                if (screen == QLatin1String(row.screen)) {
+                    clsTexts texts(check, row.screen);
+                    check.unlessItFails([&] { row.look(texts); });
+                }
+}

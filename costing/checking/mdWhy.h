@@ -1,0 +1,25 @@
+#pragma once
+
+#include "costing/checking/clsWhy.h"
+#include "costing/clsBill.h"
+#include "costing/mdGetCommsInfo.h"
+
+#include <optional>
+
+// How the figures of the bill come about. Each step's value is the program's own figure. The claim is the same
+// afterwards. Nothing is returned for a figure that there isn't.
+
+/// An item of the schedule, by its order.
+std::optional<clsWhy> mdWhyScheduleItem(const clsBill &bill, int orderID);
+/// A line of the letters and calls.
+std::optional<clsWhy> mdWhyCommunications(const clsBill &bill, clsCommsKind kind, int line);
+/// A hearing of the advocacy scheme, by its order.
+std::optional<clsWhy> mdWhyFASItem(const clsBill &bill, int orderID);
+/// A total, or a figure of the bill's summary, by the key under which it is printed.
+std::optional<clsWhy> mdWhyTotal(const clsBill &bill, const QString &key);
+/// A column of a list of claims that holds a figure of the bill.
+std::optional<clsWhy> mdWhyListColumn(const clsBill &bill, const QString &column);
+
+/// One of these: "schedule" and an order, "communications" and kind and line as in "2/1", "fas" and an order, "total"
+/// and a key, "list" and a column.
+std::optional<clsWhy> mdWhy(const clsBill &bill, const QString &kind, const QString &which);

@@ -1,0 +1,217 @@
+#include "costing/checking/mdWhy.h"
+
+#include "base/mdDateText.h"
+#include "costing/checking/mdCheckWords.h"
+#include "costing/checking/mdWhySums.h"
+#include "costing/mdBillFigures.h"
+#include "formdata/clsOnBill.h"
+
+#include <array>
+
+namespace {
+
+using Form = clsZR3Form;
+
+/// How a figure is made of others: their keys, and what is done with them; or of items.
+struct clsTotalRow {
+    enum Shape { Sum, Difference, VAT };
+
+    const char *key;
+    const char *words;
+    const char *screen; ///< where it can be changed; none for a sum of several screens
+    std::array<const char *, 4> parts {};
+    void (*addItems)(clsWhy &why, const clsBill &bill) = nullptr;
+    Shape shape = Sum;
+};
+
+constexpr char Costs[] = "Profit costs";
+constexpr char Experts[] = "Experts";
+constexpr char Others[] = "Other disbursements";
+constexpr char Scheme[] = "Family Advocacy Scheme";
+constexpr char Fees[] = "Counsel's fees";
+constexpr char OnCosts[] = "VAT on profit costs";
+constexpr char OnExperts[] = "VAT on experts";
+constexpr char OnOthers[] = "VAT on other disbursements";
+constexpr char OnScheme[] = "VAT on the Family Advocacy Scheme";
+constexpr char OnFees[] = "VAT on counsel's fees";
+constexpr char Spent[] = "Disbursements";
+
+// clang-format off
+constexpr clsTotalRow Totals[] = {
+    {"ScheduleTotal",                     "Schedule of time", "Schedule of Time", {}, mdAddColumns},
+    {"AdvocacyTotal",                     "Advocacy", "", {}, mdAddAdvocacy},
+    {"CounselDisbursementsAmountTotal",   Fees, Spent, {}, mdAddCounselAmounts},
+    {"CounselDisbursementsVATTotal",      OnFees, Spent, {}, mdAddCounselVAT},
+    {"NonCounselDisbursementsAmountTotal", Others, Spent, {}, mdAddOtherAmounts},
+    {"NonCounselDisbursementsVATTotal",   OnOthers, Spent, {}, mdAddOtherVAT},
+    {"ExpertInvoicesNetTotal",            Experts, Spent, {}, mdAddExpertAmounts},
+    {"ExpertInvoicesVATTotal",            OnExperts, Spent, {}, mdAddExpertVAT},
+    {"CounselFeesAmountTotal",            Fees, Spent, {}, mdAddFeeAmounts},
+    {"CounselFeesVATTotal",               OnFees, Spent, {}, mdAddFeeVAT},
+    {"CounselFeesTotal",                  "Counsel's fees with VAT", "", {"CounselFeesAmountTotal", "CounselFeesVATTotal"}},
+    {"FASItemsTotal",                     Scheme, Scheme, {}, mdAddHearings},
+    {"FASVATTotal",                       OnScheme, Scheme, {}, mdAddHearingsVAT},
+    {"CommsTotal",                        "Letters and calls", "Communications", {}, mdAddCommunications},
+    {"ProfitCostsTotal",                  Costs, "", {"ScheduleTotal", "CommsTotal"}},
+    {"ProfitCostsVAT",                    OnCosts, "", {"ProfitCostsTotal"}, nullptr, clsTotalRow::VAT},
+    {"AdvocacyVAT",                       "VAT on advocacy", "", {"AdvocacyTotal"}, nullptr, clsTotalRow::VAT},
+    {"LoadFromBillNet",                   "Profit costs without advocacy", "", {"ProfitCostsTotal", "AdvocacyTotal"}, nullptr, clsTotalRow::Difference},
+    {"LoadFromBillVAT",                   "VAT on profit costs without advocacy", "", {"LoadFromBillNet"}, nullptr, clsTotalRow::VAT},
+};
+
+// What both forms' summaries begin with.
+constexpr clsTotalRow Summary[] = {
+    {"npc",        Costs, "", {"ScheduleTotal", "CommsTotal"}},
+    {"nex",        Experts, Spent, {}, mdAddExpertAmounts},
+    {"ndibs",      Others, Spent, {}, mdAddOtherAmounts},
+    {"vpc",        OnCosts, "", {"npc"}, nullptr, clsTotalRow::VAT},
+    {"vex",        OnExperts, Spent, {}, mdAddExpertVAT},
+    {"vdibs",      OnOthers, Spent, {}, mdAddOtherVAT},
+};
+
+constexpr clsTotalRow Claim1Rows[] = {
+    {"ntotal",     "Net total", "", {"npc", "nex", "ndibs"}},
+    {"vtotal",     "VAT", "", {"vpc", "vex", "vdibs"}},
+    {"grandtotal", "Total with VAT", "", {"ntotal", "vtotal"}},
+    {"ncf",        Fees, Spent, {}, mdAddFeeAmounts},
+    {"vcf",        OnFees, Spent, {}, mdAddFeeVAT},
+    {"cftotal",    "Counsel's fees with VAT", "", {"ncf", "vcf"}},
+};
+
+constexpr clsTotalRow Claim1ARows[] = {
+    {"nsubtotal",  "Net subtotal", "", {"npc", "nex", "ndibs"}},
+    {"vsubtotal",  "VAT of the subtotal", "", {"vpc", "vex", "vdibs"}},
+    {"nfas",       Scheme, Scheme, {}, mdAddHearings},
+    {"vfas",       OnScheme, Scheme, {}, mdAddHearingsVAT},
+    {"ncsl",       Fees, Spent, {}, mdAddFeeAmounts},
+    {"vcsl",       OnFees, Spent, {}, mdAddFeeVAT},
+    {"ntotal",     "Net total", "", {"nsubtotal", "nfas", "ncsl"}},
+    {"vtotal",     "VAT", "", {"vsubtotal", "vfas", "vcsl"}},
+};
+
+constexpr clsTotalRow Claim1List[] = {
+    {"profitcosts",   Costs, "", {"ScheduleTotal", "CommsTotal"}},
+    {"disbursements", "Disbursements", "", {"nex", "ndibs"}},
+    {"vat",           "VAT", "", {"vpc", "vex", "vdibs"}},
+    {"total",         "Total with VAT", "", {"ntotal", "vtotal"}},
+    {"counsel",       "Counsel's fees with VAT", "", {"ncf", "vcf"}},
+    {"all",           "Total and counsel", "", {"total", "counsel"}},
+};
+
+constexpr clsTotalRow Claim1AList[] = {
+    {"profitcosts",   Costs, "", {"ScheduleTotal", "CommsTotal"}},
+    {"disbursements", "Disbursements", "", {"nex", "ndibs"}},
+    {"fas",           Scheme, Scheme, {}, mdAddHearings},
+    {"vat",           "VAT", "", {"vsubtotal", "vfas"}},
+    {"total",         "Total with VAT", "", {"nsubtotal", "nfas", "vsubtotal", "vfas"}},
+    {"counsel",       "Counsel's fees with VAT", "", {"ncsl", "vcsl"}},
+    {"all",           "Total and counsel", "", {"total", "counsel"}},
+};
+// clang-format on
+
+using clsRows = std::span<const clsTotalRow>;
+using clsFigures = std::span<const clsBillFigure>;
+
+/// What a key of a claim is: how it is made, and the program's own figure.
+struct clsTotal {
+    const clsTotalRow *row = nullptr;
+    const clsBillFigure *figure = nullptr;
+
+    explicit operator bool() const { return row && figure; }
+};
+
+const clsTotalRow *rowOf(std::initializer_list<clsRows> tables, QLatin1String key)
+{
+    for (const clsRows rows : tables)
+        for (const clsTotalRow &row : rows)
+            if (key == QLatin1String(row.key))
+                return &row;
+    return nullptr;
+}
+
+bool isClaim1A(const Form &form)
+{
+    return form.FormType() == QLatin1String("Claim1A");
+}
+
+clsTotal totalOf(const Form &form, QLatin1String key)
+{
+    const clsBillFigure *figure = mdFigureOf(mdTotalFigures(), key);
+    if (!figure)
+        figure = mdFigureOf(mdSummaryFigures(form), key);
+    return {rowOf({Totals, Summary, isClaim1A(form) ? clsRows(Claim1ARows) : clsRows(Claim1Rows)}, key), figure};
+}
+
+clsTotal columnOf(const Form &form, QLatin1String key)
+{
+    return {rowOf({isClaim1A(form) ? clsRows(Claim1AList) : clsRows(Claim1List)}, key),
+        mdFigureOf(mdListFigures(form), key)};
+}
+
+void addFigure(clsWhy &why, const QString &words, const clsTotal &total, const clsBill &bill)
+{
+    clsWhySource source;
+    source.Screen = QString::fromLatin1(total.row->screen);
+    why.add(words, {}, source, [&] { return MoneyToText(total.figure->figure(bill)); });
+}
+
+void addParts(clsWhy &why, const clsTotalRow &row, const clsBill &bill)
+{
+    for (const char *key : row.parts) {
+        if (!key)
+            continue;
+        clsTotal part = totalOf(bill.form(), QLatin1String(key));
+        if (!part)
+            part = columnOf(bill.form(), QLatin1String(key));
+        const QString words = QString::fromLatin1(part.row->words);
+        const bool isTakenOff = row.shape == clsTotalRow::Difference && key != row.parts.front();
+        addFigure(why, isTakenOff ? QStringLiteral("Less: ") + words : words, part, bill);
+    }
+    if (row.shape == clsTotalRow::VAT)
+        why.add(QStringLiteral("Rate of VAT, per cent"), {},
+            {QStringLiteral("Form Setup"), {}, 0, QStringLiteral("VATRate")}, [&] { return bill.form().VATRate(); });
+}
+
+std::optional<clsWhy> whyTotal(const clsBill &bill, const clsTotal &total)
+{
+    if (!total)
+        return {};
+    const clsKeptHearingsVAT kept(bill.form());
+    clsWhy why;
+    const QString words = QString::fromLatin1(total.row->words);
+    why.addAll(words, [&] {
+        addParts(why, *total.row, bill);
+        if (total.row->addItems)
+            total.row->addItems(why, bill);
+    });
+    addFigure(why, words, total, bill);
+    return why;
+}
+
+clsWhy whyItems(const clsBill &bill)
+{
+    const auto &items = bill.form().ScheduleOfTimeItemsCollection();
+    const clsWhySource source = {QStringLiteral("Schedule of Time"), QStringLiteral("schedule")};
+    clsWhy why(source);
+    why.add(QStringLiteral("Items of the schedule"), {}, source, [&] { return QString::number(items.size()); });
+    why.add(QStringLiteral("Items on the bill"), {}, source, [&] {
+        clsOnBill isOnBill(bill.form());
+        return QString::number(
+            std::count_if(items.begin(), items.end(), [&](const auto &item) { return isOnBill(*item); }));
+    });
+    return why;
+}
+
+} // namespace
+
+std::optional<clsWhy> mdWhyTotal(const clsBill &bill, const QString &key)
+{
+    return whyTotal(bill, totalOf(bill.form(), QLatin1String(key.toLatin1())));
+}
+
+std::optional<clsWhy> mdWhyListColumn(const clsBill &bill, const QString &column)
+{
+    if (column == QLatin1String("items"))
+        return whyItems(bill);
+    return whyTotal(bill, columnOf(bill.form(), QLatin1String(column.toLatin1())));
+}

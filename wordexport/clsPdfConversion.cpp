@@ -112,6 +112,7 @@ private:
     {
         // What it may have left running has nothing to do any more.
         mdKillGroup(m_group);
+        mdWaitForGroup(m_group);
         if (m_process.exitStatus() != QProcess::NormalExit)
             end(Failed, QStringLiteral("LibreOffice broke down while it made the PDF."));
         else if (m_process.exitCode() != 0)
@@ -138,9 +139,11 @@ private:
     {
         if (m_process.state() == QProcess::NotRunning)
             return;
-        mdKillGroup(m_process.processId());
+        const qint64 group = m_process.processId();
+        mdKillGroup(group);
         m_process.kill(); // where it has not come to have a group yet
         m_process.waitForFinished();
+        mdWaitForGroup(group);
     }
 
     void fail(const QString &why)

@@ -10,6 +10,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <utility>
+
 namespace {
 
 // All floors write the log, and the preferences that switch it on stand above this one. Never destroyed: they take it
@@ -78,6 +80,15 @@ void WriteLog(const QString &message)
     const QString line = now.toString(QStringLiteral("dd/MM/yyyy HH:mm:ss")) + QStringLiteral(" : ") + message
         + QStringLiteral("\r\n");
     WriteTextDocument(ReadTextDocument(path, false) + line, path, false);
+}
+
+clsNoLogScope::clsNoLogScope()
+    : m_previous(std::exchange(logSwitch, {}))
+{ }
+
+clsNoLogScope::~clsNoLogScope()
+{
+    logSwitch = std::move(m_previous);
 }
 
 QString LogPath()

@@ -1,5 +1,6 @@
 #include "wordexport/mdExportDriver.h"
 
+#include "base/mdPrint.h"
 #include "wordexport/mdExportWordClaim1.h"
 #include "wordexport/mdExportWordClaim1a.h"
 
@@ -18,6 +19,12 @@ constexpr Row Drivers[] = {
 };
 
 } // namespace
+
+QString mdNoPagesMessage(const QString &formType)
+{
+    return QStringLiteral("There are no pages for the form type \"%1\" of this claim.")
+        .arg(mdWithoutControls(formType));
+}
 
 clsExportDriver mdExportDriver(QStringView formType)
 {

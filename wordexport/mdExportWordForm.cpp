@@ -30,13 +30,19 @@ std::shared_ptr<clsFolderLock> folderOfSheets(const clsExport &run)
     }
 }
 
-void exportSheets(clsExport &run, const clsExportForm &form)
+void takeFolder(clsExport &run)
 {
     run.folderLock = folderOfSheets(run);
     if (!run.folderLock)
         throw clsExportStopped();
     // Another export may have ended while this one waited for the lock.
     mdStopAtExistingDocument(run);
+}
+
+void exportSheets(clsExport &run, const clsExportForm &form)
+{
+    if (!run.inMemory)
+        takeFolder(run);
     for (const clsExportPageRow &page : form.pages) {
         // The step is taken whether or not the page is included.
         mdSetProgress(page.number, form.progressMaximum, QStringLiteral("Exporting Page %1").arg(page.number));
@@ -68,12 +74,13 @@ bool mdExportWordForm(clsExport &run, const clsExportForm &form)
     run.bill.forget();
     try {
         exportSheets(run, form);
-        mdExportWordCombineDocuments(run);
+        if (!run.inMemory)
+            mdExportWordCombineDocuments(run);
     } catch (const clsExportStopped &) {
         mdClearProgress();
         return false;
     }
-    if (!run.keepsSheets)
+    if (!run.keepsSheets && !run.inMemory)
         sweep(run);
     mdClearProgress();
     WriteLog(QStringLiteral("End Export Word ") + name);

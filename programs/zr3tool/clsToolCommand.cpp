@@ -18,6 +18,7 @@ constexpr VerbRow Verbs[] = {
     {"check", clsToolCommand::Check, 1},
     {"save", clsToolCommand::Save, 2},
     {"why", clsToolCommand::Why, 3},
+    {"forecast", clsToolCommand::Forecast, 1},
 };
 
 const QString Force = QStringLiteral("force");
@@ -27,13 +28,15 @@ const QString Quiet = QStringLiteral("quiet");
 const QString Full = QStringLiteral("full");
 const QString Json = QStringLiteral("json");
 const QString Today = QStringLiteral("today");
+const QString Pdf = QStringLiteral("pdf");
+const QString NameByFile = QStringLiteral("name-by-file");
 const QString HelpOption = QStringLiteral("help");
 const QString VersionOption = QStringLiteral("version");
 
 void addOptions(QCommandLineParser &parser)
 {
     parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsOptions);
-    for (const QString &flag : {Force, KeepSheets, Quiet, Full, Json, HelpOption, VersionOption})
+    for (const QString &flag : {Force, KeepSheets, Quiet, Pdf, NameByFile, Full, Json, HelpOption, VersionOption})
         parser.addOption(QCommandLineOption(flag));
     parser.addOption(QCommandLineOption(Templates, QString(), QStringLiteral("DIR")));
     parser.addOption(QCommandLineOption(Today, QString(), QStringLiteral("DAY")));
@@ -41,7 +44,8 @@ void addOptions(QCommandLineParser &parser)
 
 bool hasExportOptions(const QCommandLineParser &parser)
 {
-    return parser.isSet(Force) || parser.isSet(Templates) || parser.isSet(KeepSheets) || parser.isSet(Quiet);
+    return parser.isSet(Force) || parser.isSet(Templates) || parser.isSet(KeepSheets) || parser.isSet(Quiet)
+        || parser.isSet(Pdf) || parser.isSet(NameByFile);
 }
 
 /// `check --full`, which takes as many claims as there are and has options of its own.
@@ -74,6 +78,8 @@ std::optional<clsToolCommand> commandOf(const QCommandLineParser &parser)
         return {};
     if (row->verb != clsToolCommand::Export && hasExportOptions(parser))
         return {};
+    if (row->verb != clsToolCommand::Forecast && parser.isSet(Json))
+        return {};
     // As from a variable of a script that was never set: the program's own templates are not what was asked for.
     if (parser.values(Templates).contains(QString()))
         return {};
@@ -89,6 +95,9 @@ std::optional<clsToolCommand> commandOf(const QCommandLineParser &parser)
     command.force = parser.isSet(Force);
     command.keepSheets = parser.isSet(KeepSheets);
     command.quiet = parser.isSet(Quiet);
+    command.pdf = parser.isSet(Pdf);
+    command.nameByFile = parser.isSet(NameByFile);
+    command.json = parser.isSet(Json);
     command.templates = parser.value(Templates);
     return command;
 }
@@ -122,6 +131,7 @@ QString clsToolCommand::usage()
         "  zr3tool check  CLAIM           the blank items check\n"
         "  zr3tool check  --full CLAIM... what is to be put right before a claim is sent\n"
         "  zr3tool save   CLAIM NEWFILE   brings the claim up to date and writes it to NEWFILE\n"
+        "  zr3tool forecast CLAIM         the sheets and what doesn't fit its box, before any export\n"
         "  zr3tool why    CLAIM KIND N    how one figure comes about, as JSON; KIND and N are\n"
         "                                 schedule and an item's order, communications and KIND/LINE,\n"
         "                                 fas and an order, total and a key of totals, list and a column\n"
@@ -136,9 +146,14 @@ QString clsToolCommand::usage()
         "  --templates DIR    the folder of the page templates\n"
         "  --keep-sheets      leave the folder ~ZR3Temp with its sheets\n"
         "  --quiet            show no progress\n"
+        "  --pdf              make the same as PDF beside the document\n"
+        "  --name-by-file     name the document after the claim's file\n"
+        "\n"
+        "Option of forecast:\n"
+        "  --json             print it as JSON\n"
         "\n"
         "Exit status: 0 done; 1 wrong usage; 2 the claim can't be read; 3 blank items found, or an error or\n"
-        "a warning by check --full; 4 a figure can't be computed, or the export failed; 5 the document exists\n"
-        "already.\n"
+        "a warning by check --full; 4 a figure can't be computed, the export failed or would fail, or the PDF\n"
+        "could not be made; 5 the document or the PDF exists already.\n"
         "A box whose text is no amount is told of and left as it is; the document is made all the same.\n");
 }

@@ -18,7 +18,7 @@ enum class clsExitStatus {
 
 /// A command line, read.
 struct clsToolCommand {
-    enum Verb { Totals, Export, Check, CheckFull, Save, Why, Help, Version };
+    enum Verb { Totals, Export, Check, CheckFull, Save, Forecast, Why, Help, Version };
 
     Verb verb = Help;
     QString claim;
@@ -31,6 +31,9 @@ struct clsToolCommand {
     bool force = false;
     bool keepSheets = false;
     bool quiet = false;
+    bool json = false;
+    bool pdf = false;
+    bool nameByFile = false;
     QString templates;
 
     /// The command that the arguments (without the program's name) ask for; nothing where they are wrong.

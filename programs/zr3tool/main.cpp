@@ -7,15 +7,19 @@
 #include "base/mdGetVersionInfo.h"
 #include "base/mdPrint.h"
 #include "base/mdProgramFolder.h"
+#include "base/mdSetProgress.h"
 #include "costing/mdCheckForBlankItems.h"
 #include "costing/mdTotalsReport.h"
 #include "formdata/clsZR3Form.h"
 #include "programs/zr3tool/clsToolCommand.h"
 #include "programs/zr3tool/mdCheckFull.h"
 #include "wordexport/clsExport.h"
+#include "wordexport/clsPdfConversion.h"
 #include "wordexport/mdExportDriver.h"
 #include "wordexport/mdExportTempFolder.h"
 #include "wordexport/mdExportWordCombineDocuments.h"
+#include "wordexport/mdForecast.h"
+#include "wordexport/mdForecastReport.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -124,14 +128,23 @@ Status exportSheetsAndDocument(clsConsoleUserInterface &console, clsExport &run)
         if (driver(run))
             return Status::Done;
         // Made by another program since this one has looked.
-        return run.stoppedAtDocument
-            ? documentExists(console, mdFinishedDocumentPath(run.exportFolder, run.form.FormType()))
-            : Status::Failed;
+        return run.stoppedAtDocument ? documentExists(console, mdFinishedDocumentPath(run)) : Status::Failed;
     }
-    console.tell(QStringLiteral("Export"),
-        QStringLiteral("There are no pages for the form type \"%1\" of this claim.")
-            .arg(mdWithoutControls(run.form.FormType())));
+    console.tell(QStringLiteral("Export"), mdNoPagesMessage(run.form.FormType()));
     return Status::Failed;
+}
+
+Status forecast(const clsZR3Form &form, const clsToolCommand &command)
+{
+    const clsForecast forecast = mdForecast(form, TemplatesFolder());
+    mdTellAsTheExport(forecast);
+    if (forecast.Fails)
+        return Status::Failed;
+    if (command.json)
+        print(mdForecastAsJson(forecast));
+    else
+        mdPrint(stdout, mdForecastAsTable(forecast));
+    return Status::Done;
 }
 
 /// Sweeps away what a failed export left in its folder. The failure itself has been told, so that this is silent.
@@ -143,6 +156,40 @@ void sweep(const clsExport &run)
     } catch (const std::exception &) { }
 }
 
+QString pdfBeside(const QString &document)
+{
+    return document.chopped(QStringLiteral(".doc").size()) + QStringLiteral(".pdf");
+}
+
+/// What lies where an export would put its files, unless it may replace that; empty where nothing does.
+QString whatMayNotBeReplaced(const clsToolCommand &command, const QString &document)
+{
+    QStringList files = {document};
+    if (command.pdf)
+        files << pdfBeside(document);
+    for (const QString &file : files)
+        if (!command.force && (FileSystem().FileExists(file) || FileSystem().FolderExists(file)))
+            return file;
+    return {};
+}
+
+Status makePdf(clsConsoleUserInterface &console, const clsToolCommand &command, const QString &document)
+{
+    const QString pdf = pdfBeside(document);
+    clsPdfConversion conversion(document);
+    mdSetProgress(1, 1, QStringLiteral("Making the PDF"));
+    conversion.wait();
+    mdClearProgress();
+    // Made by another program since this one has looked.
+    if (!command.force && FileSystem().FileExists(pdf))
+        return documentExists(console, pdf);
+    const QString pdfFailure = mdPutPdfInPlace(conversion, document, pdf);
+    if (pdfFailure.isEmpty())
+        return Status::Done;
+    console.tell(QStringLiteral("PDF"), pdfFailure);
+    return Status::Failed;
+}
+
 Status exportDocument(clsConsoleUserInterface &console, clsZR3Form &form, const clsToolCommand &command)
 {
     if (!FileSystem().FolderExists(command.target)) {
@@ -151,20 +198,24 @@ Status exportDocument(clsConsoleUserInterface &console, clsZR3Form &form, const 
         return Status::Failed;
     }
     const QString exportFolder = QDir(command.target).absolutePath();
-    const QString document = mdFinishedDocumentPath(exportFolder, form.FormType());
-    if (!command.force && (FileSystem().FileExists(document) || FileSystem().FolderExists(document)))
-        return documentExists(console, document);
+    const QString name = command.nameByFile ? mdDocumentNameByFile(command.claim, form.FormType()) : form.FormType();
+    const QString document = mdFinishedDocumentPath(exportFolder, name);
+    if (const QString there = whatMayNotBeReplaced(command, document); !there.isEmpty())
+        return documentExists(console, there);
     clsExport run {
         .form = form, .templatesFolder = command.templates.isEmpty() ? TemplatesFolder() : command.templates};
     run.exportFolder = exportFolder;
+    run.documentName = name;
     run.claimFile = command.claim;
     run.mayReplace = command.force;
     run.stopsAtLostSheet = true;
     run.keepsSheets = command.keepSheets;
     const Status status = guarded(console, Status::Failed, [&] { return exportSheetsAndDocument(console, run); });
-    if (status != Status::Done)
+    if (status != Status::Done) {
         sweep(run);
-    return status;
+        return status;
+    }
+    return command.pdf ? makePdf(console, command, document) : status;
 }
 
 Status runOnClaim(clsConsoleUserInterface &console, const clsToolCommand &command)
@@ -178,6 +229,7 @@ Status runOnClaim(clsConsoleUserInterface &console, const clsToolCommand &comman
         case clsToolCommand::Totals: return totals(console, form);
         case clsToolCommand::Check: return check(form);
         case clsToolCommand::Save: return save(console, form, command.target);
+        case clsToolCommand::Forecast: return forecast(form, command);
         case clsToolCommand::Export: return exportDocument(console, form, command);
         case clsToolCommand::Why: return mdWhyFigure(form, command);
         case clsToolCommand::CheckFull:
@@ -191,9 +243,8 @@ Status runOnClaim(clsConsoleUserInterface &console, const clsToolCommand &comman
 Status checkFull(clsConsoleUserInterface &console, const clsToolCommand &command)
 {
     return guarded(console, Status::Failed, [&] {
-        return mdCheckFull(console, command, [&](clsZR3Form &form, const QString &path) {
-            return load(console, form, path, Soundness::InSome);
-        });
+        return mdCheckFull(console, command,
+            [&](clsZR3Form &form, const QString &path) { return load(console, form, path, Soundness::InSome); });
     });
 }
 

@@ -3,6 +3,7 @@
 #include "base/clsFileSystem.h"
 
 #include "base/clsRunTimeError.h"
+#include "base/mdFileRights.h"
 #include "base/mdRealPath.h"
 #include "base/mdSyncFolder.h"
 #include "base/mdUninterrupted.h"
@@ -26,7 +27,6 @@ constexpr qint64 LargestFile = 512 * 1024 * 1024;
 constexpr qsizetype CopyBlock = 256 * 1024;
 
 constexpr mode_t OwnerOnly = S_IRUSR | S_IWUSR;
-constexpr mode_t Permissions = S_IRWXU | S_IRWXG | S_IRWXO;
 // A pipe must not hold the program up while it is found out that it is one.
 constexpr int NeverBlock = O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
 
@@ -114,11 +114,7 @@ public:
     {
         step(clsFileStep::SyncFile, m_path, [&] { return ::fsync(m_descriptor); });
     }
-    void setPermissions(mode_t mode) const
-    {
-        // File systems without permissions refuse this; the file is then as private as they make it.
-        [[maybe_unused]] const int result = mdUninterrupted([&] { return ::fchmod(m_descriptor, mode & Permissions); });
-    }
+    void setRights(const clsFileRights &rights) const { rights.giveTo(m_descriptor); }
     /// Closes it. A file system on a network may tell of a failed write only now.
     void close()
     {
@@ -164,11 +160,11 @@ bool anythingAt(const QString &path)
     return mdUninterrupted([native = systemPath(path), &status] { return ::lstat(native.constData(), &status); }) == 0;
 }
 
-void copyContent(const clsOpenFile &source, const QString &to, mode_t permissions)
+void copyContent(const clsOpenFile &source, const QString &to, const clsFileRights &rights)
 {
-    // Born empty and private; it gets the original's permissions before its content.
+    // Born empty and private; it gets the original's rights before its content.
     clsOpenFile target(clsFileStep::OpenToWrite, to, O_WRONLY | O_CREAT | O_EXCL, OwnerOnly);
-    target.setPermissions(permissions);
+    target.setRights(rights);
     QByteArray block(CopyBlock, Qt::Uninitialized);
     while (const qint64 size = source.read(block.data(), block.size()))
         target.write(block.constData(), size);
@@ -246,11 +242,12 @@ bool clsFileSystem::FileHolds(const QString &path, const QByteArray &bytes) cons
 void clsFileSystem::CopyFile(const QString &from, const QString &to) const
 {
     clsOpenFile source(clsFileStep::OpenToRead, from, O_RDONLY);
-    const mode_t permissions = source.regularStatus().st_mode;
+    clsFileRights rights = clsFileRights::of(systemPath(from), source.regularStatus());
+    rights.mode &= S_IRWXU | S_IRWXG | S_IRWXO;
     if (anythingAt(to))
         DeleteFile(to);
     try {
-        copyContent(source, to, permissions);
+        copyContent(source, to, rights);
     } catch (...) {
         // Half a copy beside the whole original would only mislead whoever looks for the better of the two.
         mdUninterrupted([native = systemPath(to)] { return ::unlink(native.constData()); });
@@ -283,6 +280,15 @@ void clsFileSystem::CreateFolder(const QString &path) const
         fail(errno, path);
 }
 
+void clsFileSystem::CreateFolders(const QString &path) const
+{
+    if (FolderExists(path))
+        return;
+    if (const QString parent = QFileInfo(path).path(); parent != path)
+        CreateFolders(parent);
+    CreateFolder(path);
+}
+
 void clsFileSystem::DeleteFile(const QString &path) const
 {
     step(clsFileStep::Delete, path, [native = systemPath(path)] { return ::unlink(native.constData()); });
@@ -290,6 +296,7 @@ void clsFileSystem::DeleteFile(const QString &path) const
 
 clsFileSystem &FileSystem()
 {
+    // One for the program, since a test lets operations fail at its fault point, wherever they are called.
     static clsFileSystem fileSystem;
     return fileSystem;
 }

@@ -30,9 +30,10 @@ public:
     QByteArray ReadFile(const QString &path) const;
     /// Whether a file holds these bytes and no others, without a second copy of them in memory.
     bool FileHolds(const QString &path, const QByteArray &bytes) const;
-    /// Copies a file with its permissions. A file that is already at the target is taken away first and not written
-    /// through, since it could be a link to the very file that is copied. The copy is on the disk, with its entry in
-    /// the folder, when this returns; a copy that fails leaves nothing at the target.
+    /// Copies a file with its permissions, of which another group than the file's gets nothing. A file that is already
+    /// at the target is taken away first and not written through, since it could be a link to the very file that is
+    /// copied. The copy is on the disk, with its entry in the folder, when this returns; a copy that fails leaves
+    /// nothing at the target.
     void CopyFile(const QString &from, const QString &to) const;
     /// Empties a file or creates it, readable by its owner only. An existing file keeps its permissions.
     void EmptyFile(const QString &path) const;
@@ -41,6 +42,8 @@ public:
     void DeleteFile(const QString &path) const;
     /// Makes a folder that only its owner can look into. One that is there already stays as it is.
     void CreateFolder(const QString &path) const;
+    /// The same, with those that are missing on the way to it.
+    void CreateFolders(const QString &path) const;
 
     /// Asked before each step; for tests, which let steps fail here or end the process between two of them.
     std::function<clsFileFault(clsFileStep step, const QString &path)> faultPoint;

@@ -4,6 +4,7 @@
 
 namespace {
 
+// One for the program: routines of all floors ask the user, and are not handed who answers.
 clsQuietUserInterface quietUserInterface;
 clsUserInterface *current = &quietUserInterface;
 

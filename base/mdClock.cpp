@@ -2,6 +2,7 @@
 
 namespace {
 
+// A test sets the time for all that asks for it.
 std::function<QDateTime()> clockInForce;
 
 } // namespace

@@ -9,7 +9,6 @@
 #include <atomic>
 #include <cerrno>
 #include <csignal>
-#include <memory>
 #include <utility>
 
 #include <fcntl.h>
@@ -19,7 +18,7 @@ namespace {
 
 constexpr int EndSignals[] = {SIGTERM, SIGHUP};
 
-// All that a signal's handler may touch.
+// All that a signal's handler may touch; the system hands it nothing but the signal.
 std::atomic<int> pipeEnd = -1;
 static_assert(std::atomic<int>::is_always_lock_free);
 
@@ -31,10 +30,12 @@ extern "C" void passOn(int)
     errno = before;
 }
 
+} // namespace
+
 /// A pipe that carries a signal into the event loop: nothing but a write is safe where the signal arrives.
-class clsEndSignals {
+class clsEndSignalScope::clsPipe {
 public:
-    explicit clsEndSignals(std::function<void()> handler)
+    explicit clsPipe(std::function<void()> handler)
         : m_handler(std::move(handler))
     {
         if (::pipe2(m_pipe, O_NONBLOCK | O_CLOEXEC) != 0)
@@ -45,7 +46,7 @@ public:
         for (size_t i = 0; i < std::size(EndSignals); ++i)
             listen(EndSignals[i], m_before[i]);
     }
-    ~clsEndSignals()
+    ~clsPipe()
     {
         for (size_t i = 0; i < std::size(EndSignals); ++i)
             ::sigaction(EndSignals[i], &m_before[i], nullptr);
@@ -54,8 +55,8 @@ public:
         ::close(m_pipe[0]);
         ::close(m_pipe[1]);
     }
-    clsEndSignals(const clsEndSignals &) = delete;
-    clsEndSignals &operator=(const clsEndSignals &) = delete;
+    clsPipe(const clsPipe &) = delete;
+    clsPipe &operator=(const clsPipe &) = delete;
 
 private:
     static void listen(int signal, struct sigaction &before)
@@ -86,16 +87,11 @@ private:
     struct sigaction m_before[std::size(EndSignals)] = {};
 };
 
-std::unique_ptr<clsEndSignals> inForce;
+clsEndSignalScope::clsEndSignalScope(std::function<void()> handler)
+    : m_pipe(std::make_unique<clsPipe>(std::move(handler)))
+{ }
 
-} // namespace
-
-void SetEndSignalHandler(std::function<void()> handler)
-{
-    inForce.reset();
-    if (handler)
-        inForce = std::make_unique<clsEndSignals>(std::move(handler));
-}
+clsEndSignalScope::~clsEndSignalScope() = default;
 
 void MakeSizeLimitAnError()
 {

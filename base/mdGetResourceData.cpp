@@ -31,6 +31,7 @@ QString readResource(const QString &name, const QString &group)
 
 QString GetResourceData(const QString &name, const QString &group)
 {
+    // Resources never change, so that each is read once in the life of the program.
     static QHash<QString, QString> dictionary;
     const QString key = name + QStringLiteral(" - ") + group;
     if (const auto known = dictionary.constFind(key); known != dictionary.constEnd())

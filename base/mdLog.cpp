@@ -12,7 +12,8 @@
 
 namespace {
 
-// Never destroyed: the preferences take it back when they go, which can be at the very end of the program.
+// All floors write the log, and the preferences that switch it on stand above this one. Never destroyed: they take it
+// back when they go, which can be at the very end of the program.
 std::function<bool()> &logSwitch = *new std::function<bool()>;
 
 /// Whether this user can read and write a file in a folder, and the copy that guards it.
@@ -28,7 +29,7 @@ bool canBeKept(const QString &folder, const QString &name)
 /// log can move while the user works, and the box of a new day would make no sense then.
 QString ownFolder(const QString &folder, const QString &name)
 {
-    if (!MakeOwnFolder(folder))
+    if (LeadsOverForeignLink(folder) || !MakeOwnFolder(folder))
         return {};
     QFile file(folder + u'/' + name);
     const bool made = file.open(QIODevice::WriteOnly | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner);

@@ -198,6 +198,15 @@ double DoubleFromStrictText(QStringView text)
     return TextValue(text.toString().remove(u','));
 }
 
+bool BooleanFromText(QStringView text)
+{
+    if (text.compare(QLatin1String("True"), Qt::CaseInsensitive) == 0)
+        return true;
+    if (text.compare(QLatin1String("False"), Qt::CaseInsensitive) == 0)
+        return false;
+    return DoubleFromStrictText(text) != 0.0;
+}
+
 bool IsNumeric(QStringView text)
 {
     try {

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-// Numbers as texts, whatever the locale of the machine: the point is the decimal sign, the comma groups.
+// Numbers and booleans as texts, whatever the locale of the machine: the point is the decimal sign, the comma groups.
 
 /// Lenient: the longest number at the start of the text, in pounds, hours or whatever it counts. A sign in front and
 /// one point belong to it; blanks, tabs and line ends before and within are skipped; an exponent, a comma or anything
@@ -29,6 +29,10 @@ std::int64_t FixedFromText(QStringView text, int places, std::int64_t largest);
 /// Strict, with all the decimals that there are: the nearest double to a number as `FixedFromText` takes it; error 13
 /// for a text that is none. Steps that multiply before they round take their factors so.
 double DoubleFromStrictText(QStringView text);
+
+/// "True" and "False" in any case, or a number as `FixedFromText` takes it, where zero is False; error 13 for any other
+/// text, error 6 for a number that is too large.
+bool BooleanFromText(QStringView text);
 
 /// Whether the text is a number as `FixedFromText` takes it, of whatever size.
 bool IsNumeric(QStringView text);

@@ -1,5 +1,7 @@
 #include "base/mdOwnDatabasePath.h"
 
+#include "base/clsFileSystem.h"
+#include "base/clsRunTimeError.h"
 #include "base/mdCodePage.h"
 #include "base/mdDatabasePath.h"
 #include "base/mdGetResourceData.h"
@@ -10,13 +12,15 @@
 
 namespace {
 
-constexpr QFile::Permissions OwnerOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
-
 /// Makes the folder, which nobody else is to read; one that is there keeps its permissions.
 bool makeFolder(const QString &folder)
 {
-    QDir().mkpath(QFileInfo(folder).path());
-    return QDir().mkdir(folder, OwnerOnly) || QFileInfo(folder).isDir();
+    try {
+        FileSystem().CreateFolders(folder);
+        return true;
+    } catch (const clsRunTimeError &) {
+        return false;
+    }
 }
 
 /// Puts fresh preferences where there are none. They come under their name whole and only where nothing bears it, so

@@ -2,6 +2,8 @@
 
 #include "base/mdOwnFolder.h"
 
+#include "base/mdUninterrupted.h"
+
 #include <QDir>
 #include <QFile>
 
@@ -37,8 +39,9 @@ bool onlyOverTrustedLinks(const QString &path, int links)
         if (names[i] == QLatin1String(".") || names[i] == QLatin1String(".."))
             continue;
         const QString next = joined(here, names[i]);
+        const QByteArray native = QFile::encodeName(next);
         struct stat status = {};
-        if (::lstat(QFile::encodeName(next).constData(), &status) != 0 || !S_ISLNK(status.st_mode)) {
+        if (mdUninterrupted([&] { return ::lstat(native.constData(), &status); }) != 0 || !S_ISLNK(status.st_mode)) {
             here = next;
             continue;
         }
@@ -46,7 +49,7 @@ bool onlyOverTrustedLinks(const QString &path, int links)
         if (!isOwn(status.st_uid) && (isLast || status.st_uid != 0))
             return false;
         char target[4096];
-        const ssize_t size = ::readlink(QFile::encodeName(next).constData(), target, sizeof target);
+        const ssize_t size = mdUninterrupted([&] { return ::readlink(native.constData(), target, sizeof target); });
         if (size <= 0 || links == 0)
             return false;
         const QString to = QFile::decodeName(QByteArray(target, size));
@@ -62,27 +65,30 @@ bool onlyOverTrustedLinks(const QString &path, int links)
 bool MakeOwnFolder(const QString &path)
 {
     const QByteArray native = QFile::encodeName(path);
-    ::mkdir(native.constData(), OwnerOnly);
-    const int folder = ::open(native.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+    (void)mdUninterrupted([&] { return ::mkdir(native.constData(), OwnerOnly); });
+    const int folder
+        = mdUninterrupted([&] { return ::open(native.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC); });
     if (folder < 0)
         return false;
     struct stat status = {};
-    const bool own = ::fstat(folder, &status) == 0 && isOwn(status.st_uid);
+    const bool own = mdUninterrupted([&] { return ::fstat(folder, &status); }) == 0 && isOwn(status.st_uid);
     // One that was there before may be open to others. A file system without permissions refuses this.
     if (own && (status.st_mode & (S_IRWXG | S_IRWXO)) != 0)
-        ::fchmod(folder, OwnerOnly);
+        (void)mdUninterrupted([&] { return ::fchmod(folder, OwnerOnly); });
     ::close(folder);
     return own;
 }
 
 void MakeFolderLikeItsParent(const QString &path)
 {
+    const QByteArray native = QFile::encodeName(path);
+    const QByteArray around = QFile::encodeName(QFileInfo(path).path());
     struct stat parent = {};
-    if (::stat(QFile::encodeName(QFileInfo(path).path()).constData(), &parent) != 0)
+    if (mdUninterrupted([&] { return ::stat(around.constData(), &parent); }) != 0)
         return;
     // Not changed afterwards: by then, somebody else could have put another folder in its place.
     const mode_t before = ::umask(0);
-    ::mkdir(QFile::encodeName(path).constData(), parent.st_mode & MadeWith);
+    (void)mdUninterrupted([&] { return ::mkdir(native.constData(), parent.st_mode & MadeWith); });
     ::umask(before);
 }
 

@@ -4,7 +4,8 @@
 
 namespace {
 
-// Never destroyed: the preferences take it back when they go, which can be at the very end of the program.
+// All floors play sounds, and the preferences that switch it on stand above this one. Never destroyed: they take it
+// back when they go, which can be at the very end of the program.
 std::function<bool()> &soundSwitch = *new std::function<bool()>;
 
 } // namespace

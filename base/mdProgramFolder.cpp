@@ -5,6 +5,7 @@
 
 namespace {
 
+// A test puts the program folder elsewhere, for all that asks for it.
 QString folderInstead;
 
 QString runningProgramFolder()

@@ -1,5 +1,7 @@
 #include "base/mdStateFolder.h"
 
+#include "base/clsFileSystem.h"
+#include "base/clsRunTimeError.h"
 #include "base/mdOwnFolder.h"
 
 #include <QDir>
@@ -16,7 +18,11 @@ bool MakeStateFolder()
 {
     if (LeadsOverForeignLink(StateFolder()))
         return false;
-    QDir().mkpath(QFileInfo(StateFolder()).path());
+    try {
+        FileSystem().CreateFolders(QFileInfo(StateFolder()).path());
+    } catch (const clsRunTimeError &) {
+        return false;
+    }
     // Where the user has made a link of it, the folder behind it must be the user's own.
     const QString real = QFileInfo(StateFolder()).canonicalFilePath();
     return MakeOwnFolder(real.isEmpty() ? StateFolder() : real);

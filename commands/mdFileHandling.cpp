@@ -20,6 +20,7 @@ const QString DefaultExtension = QStringLiteral(".zr3");
 
 constexpr int FileIsNewer = 2;
 
+// The window shows what the commands do, and stands above them.
 clsFormDisplay formDisplay;
 
 void run(const std::function<void()> &action)

@@ -5,7 +5,6 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <QPointer>
 #include <QStandardPaths>
 
 #include <hunspell.hxx>
@@ -157,8 +156,7 @@ std::string clsSpellingChecker::encoded(const QString &word)
 
 clsSpellingChecker &SpellingChecker()
 {
-    static QPointer<clsSpellingChecker> checker;
-    if (!checker)
-        checker = new clsSpellingChecker(clsSpellingChecker::systemPlaces(), QCoreApplication::instance());
-    return *checker;
+    QCoreApplication *application = QCoreApplication::instance();
+    auto *checker = application->findChild<clsSpellingChecker *>(QString(), Qt::FindDirectChildrenOnly);
+    return checker ? *checker : *new clsSpellingChecker(clsSpellingChecker::systemPlaces(), application);
 }

@@ -5,7 +5,6 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QEvent>
-#include <QPointer>
 #include <QScrollBar>
 
 namespace {
@@ -59,11 +58,17 @@ bool mdLeaveFocusedBox(const QWidget *window)
     return !box || box->leave();
 }
 
+bool mdIsInterruption(Qt::FocusReason reason)
+{
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason;
+}
+
 void mdGuardFocusedBoxes()
 {
-    static QPointer<clsFocusGuard> guard;
-    if (guard)
+    const QString name = QStringLiteral("focusGuard");
+    if (qApp->findChild<QObject *>(name, Qt::FindDirectChildrenOnly))
         return;
-    guard = new clsFocusGuard(qApp);
+    auto *guard = new clsFocusGuard(qApp);
+    guard->setObjectName(name);
     qApp->installEventFilter(guard);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <Qt>
+
 class QWidget;
 
 // A typed box whose text doesn't fit holds the user, as does any other clsHoldingBox. Taking the focus back isn't
@@ -19,6 +21,10 @@ class QWidget;
 /// start of Save, Close, Prev, Next and whatever else reads the boxes of a screen; a second call does no harm where the
 /// box lets go.
 bool mdLeaveFocusedBox(const QWidget *window);
+
+/// Whether a focus that goes or comes for that reason is only interrupted, by a menu or another window: it comes back
+/// to where it was, and no box was left.
+bool mdIsInterruption(Qt::FocusReason reason);
 
 /// Lets the application be watched; called by every box that can hold, and once is enough.
 void mdGuardFocusedBoxes();

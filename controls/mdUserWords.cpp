@@ -1,8 +1,9 @@
 #include "controls/mdUserWords.h"
 
+#include "base/clsFileSystem.h"
+#include "base/clsRunTimeError.h"
 #include "base/mdSystemFailure.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QSaveFile>
 
@@ -32,8 +33,11 @@ std::optional<QStringList> read(const QString &path)
 
 bool write(const QString &path, const QStringList &words)
 {
-    if (!QDir().mkpath(QFileInfo(path).path()))
+    try {
+        FileSystem().CreateFolders(QFileInfo(path).path());
+    } catch (const clsRunTimeError &) {
         return false;
+    }
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return false;

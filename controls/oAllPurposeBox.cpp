@@ -10,25 +10,18 @@
 #include <QBoxLayout>
 #include <QEvent>
 #include <QLabel>
-#include <QPointer>
 
 namespace {
-
-std::function<void()> &editReplacements()
-{
-    static std::function<void()> edit;
-    return edit;
-}
 
 /// The one entry that stands in the menus of all boxes; it can be chosen once there is something for it to do.
 QAction &editReplacementsEntry()
 {
-    static QPointer<QAction> entry;
-    if (!entry) {
-        entry = new QAction(QStringLiteral("Edit Replacements..."), qApp);
-        entry->setEnabled(bool(editReplacements()));
-        QObject::connect(entry, &QAction::triggered, entry, [] { editReplacements()(); });
-    }
+    const QString name = QStringLiteral("mnuEditReplacements");
+    if (auto *known = qApp->findChild<QAction *>(name, Qt::FindDirectChildrenOnly))
+        return *known;
+    auto *entry = new QAction(QStringLiteral("Edit Replacements..."), qApp);
+    entry->setObjectName(name);
+    entry->setEnabled(false);
     return *entry;
 }
 
@@ -62,8 +55,11 @@ constexpr int MostLines = 12;
 
 void SetEditReplacements(std::function<void()> edit)
 {
-    editReplacements() = std::move(edit);
-    editReplacementsEntry().setEnabled(bool(editReplacements()));
+    QAction &entry = editReplacementsEntry();
+    QObject::disconnect(&entry, &QAction::triggered, &entry, nullptr);
+    entry.setEnabled(bool(edit));
+    if (edit)
+        QObject::connect(&entry, &QAction::triggered, &entry, [edit = std::move(edit)] { edit(); });
 }
 
 oAllPurposeBox::oAllPurposeBox(QWidget *parent)

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// One memory of the last year for all date boxes.
+/// A date without its year falls into the year that was typed last, into whichever date box of the program.
 std::optional<QString> typedDate(const QString &text)
 {
     static int lastYear = 0;

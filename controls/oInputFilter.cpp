@@ -16,8 +16,6 @@
 
 namespace {
 
-bool underlineMnemonics = false;
-
 /// Lists, spin boxes and sliders turn their value with the wheel. One that only lies on the wheel's way must not.
 bool turnsByAccident(const QObject *watched)
 {
@@ -58,22 +56,28 @@ void openMenuOf(QWidget &text)
 
 } // namespace
 
+oInputFilter *oInputFilter::ofApplication()
+{
+    return qApp->findChild<oInputFilter *>(QString(), Qt::FindDirectChildrenOnly);
+}
+
 void oInputFilter::install(QApplication &application)
 {
-    if (!application.findChild<oInputFilter *>())
+    if (!ofApplication())
         application.installEventFilter(new oInputFilter(&application));
 }
 
 bool oInputFilter::UnderlineMnemonics()
 {
-    return underlineMnemonics;
+    const oInputFilter *filter = ofApplication();
+    return filter && filter->m_underlineMnemonics;
 }
 
 void oInputFilter::setUnderlineMnemonics(bool underline)
 {
-    if (underlineMnemonics == underline)
+    if (m_underlineMnemonics == underline)
         return;
-    underlineMnemonics = underline;
+    m_underlineMnemonics = underline;
     for (QWidget *widget : QApplication::allWidgets())
         if (widget->isVisible())
             widget->update();
@@ -81,7 +85,7 @@ void oInputFilter::setUnderlineMnemonics(bool underline)
 
 void oInputFilter::checkAlt()
 {
-    if (underlineMnemonics && !QGuiApplication::queryKeyboardModifiers().testFlag(Qt::AltModifier))
+    if (m_underlineMnemonics && !QGuiApplication::queryKeyboardModifiers().testFlag(Qt::AltModifier))
         setUnderlineMnemonics(false);
 }
 

@@ -26,9 +26,13 @@ protected:
 private:
     using QObject::QObject;
 
-    static void setUnderlineMnemonics(bool underline);
+    /// The one that watches the application, if any.
+    static oInputFilter *ofApplication();
+    void setUnderlineMnemonics(bool underline);
     /// Ends the underlining where the release of Alt went unseen.
-    static void checkAlt();
+    void checkAlt();
     static void showInvalid(QWidget &box);
     static void passFontOn(const QWidget &window);
+
+    bool m_underlineMnemonics = false;
 };

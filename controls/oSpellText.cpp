@@ -1,6 +1,7 @@
 #include "controls/oSpellText.h"
 
 #include "controls/mdBoxText.h"
+#include "controls/mdLeaveFocusedBox.h"
 #include "controls/mdSpellingMenu.h"
 #include "controls/mdTheme.h"
 #include "controls/oSpellHighlighter.h"
@@ -250,9 +251,7 @@ void oSpellText::focusInEvent(QFocusEvent *event)
     QPlainTextEdit::focusInEvent(event);
     // The focus that comes back from a menu or from another window finds the caret where it was left.
     const Qt::FocusReason reason = event->reason();
-    const bool comesBack = reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason
-        || (reason == Qt::ActiveWindowFocusReason && m_leftWithWindow);
-    if (comesBack)
+    if (mdIsInterruption(reason) && (reason != Qt::ActiveWindowFocusReason || m_leftWithWindow))
         return;
     const int across = horizontalScrollBar()->value();
     const int down = verticalScrollBar()->value();

@@ -13,6 +13,7 @@
 
 #include <chrono>
 
+// The one clock of the main window's footer, under the name by which every routine reaches it.
 oTimeSpentBox *TimeSpentBox = nullptr;
 
 namespace {

@@ -15,12 +15,6 @@ constexpr int BoxWidth = 112;
 constexpr int CompactWidth = 64;
 constexpr int CompactPadding = 8;
 
-/// The focus comes back to where it was: nobody has left.
-bool isInterruption(Qt::FocusReason reason)
-{
-    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason;
-}
-
 } // namespace
 
 oTypedText *oTypedText::inside(QWidget &box, const clsTypedKind &kind)
@@ -72,6 +66,11 @@ bool oTypedText::validate()
     setFocus(Qt::OtherFocusReason);
     selectAll();
     return false;
+}
+
+bool oTypedText::refuses()
+{
+    return !m_kind.normalised(text()) && !validate();
 }
 
 bool oTypedText::leave()
@@ -133,7 +132,7 @@ bool oTypedText::event(QEvent *event)
 void oTypedText::focusInEvent(QFocusEvent *event)
 {
     oLineBox::focusInEvent(event);
-    if (m_inside && isInterruption(event->reason()))
+    if (m_inside && mdIsInterruption(event->reason()))
         return;
     m_inside = true;
     selectAll();
@@ -144,7 +143,7 @@ void oTypedText::focusInEvent(QFocusEvent *event)
 void oTypedText::focusOutEvent(QFocusEvent *event)
 {
     oLineBox::focusOutEvent(event);
-    if (!m_inside || isInterruption(event->reason()))
+    if (!m_inside || mdIsInterruption(event->reason()))
         return;
     m_inside = false;
     // A box that is being disabled or hidden can't hold anybody.

@@ -33,6 +33,8 @@ public:
     void write(const QString &text);
     /// Normalises the text, or refuses it and takes the focus; whether it fits.
     bool validate();
+    /// Refuses a text that doesn't fit as above, and leaves one that does as it stands.
+    bool refuses();
     bool leave() override;
     const QWidget &whole() const override { return *parentWidget(); }
     /// Whether the user is in this box: it has the focus of its window, which may itself lie behind another.

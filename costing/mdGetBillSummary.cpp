@@ -38,6 +38,11 @@ Money VATWithoutCounsel(const clsBill &bill)
     return mdSumOf({ProfitCostsVAT(bill), ExpertInvoicesVATTotal(form), NonCounselDisbursementsVATTotal(form)});
 }
 
+Money GrossWithoutCounsel(const clsBill &bill)
+{
+    return mdSumOf({NetWithoutCounsel(bill), VATWithoutCounsel(bill)});
+}
+
 Money NetWithAdvocacyAndCounsel(const clsBill &bill)
 {
     return mdSumOf({NetWithoutCounsel(bill), FASItemsTotal(bill.form()), CounselFeesAmountTotal(bill.form())});

@@ -16,6 +16,8 @@ Money ProfitCostsVAT(const clsBill &bill);
 Money NetWithoutCounsel(const clsBill &bill);
 /// The VAT of the same.
 Money VATWithoutCounsel(const clsBill &bill);
+/// Both together: the grand total of Claim 1.
+Money GrossWithoutCounsel(const clsBill &bill);
 
 /// The whole of Claim 1A: the subtotal, the Family Advocacy Scheme and counsel, net.
 Money NetWithAdvocacyAndCounsel(const clsBill &bill);

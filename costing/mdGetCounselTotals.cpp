@@ -2,6 +2,7 @@
 
 #include "base/mdExisting.h"
 #include "base/mdSumOf.h"
+#include "costing/mdFigureFaults.h"
 #include "formdata/clsZR3Form.h"
 
 namespace {

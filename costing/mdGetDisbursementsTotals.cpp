@@ -1,5 +1,6 @@
 #include "costing/mdGetDisbursementsTotals.h"
 
+#include "base/mdSumOf.h"
 #include "costing/mdSumOfField.h"
 #include "formdata/clsZR3Form.h"
 
@@ -23,6 +24,11 @@ Money NonCounselDisbursementsVATTotal(const clsZR3Form &form)
     return mdSumOfField(form, form.NonCounselDisbursementsCollection(), &clsZR3Disbursement::VAT);
 }
 
+Money NonCounselDisbursementsGrossTotal(const clsZR3Form &form)
+{
+    return mdSumOf({NonCounselDisbursementsAmountTotal(form), NonCounselDisbursementsVATTotal(form)});
+}
+
 Money ExpertInvoicesNetTotal(const clsZR3Form &form)
 {
     return mdSumOfField(form, form.ExpertInvoicesCollection(), &clsZR3ExpertInvoice::NetAmount);
@@ -31,4 +37,9 @@ Money ExpertInvoicesNetTotal(const clsZR3Form &form)
 Money ExpertInvoicesVATTotal(const clsZR3Form &form)
 {
     return mdSumOfField(form, form.ExpertInvoicesCollection(), &clsZR3ExpertInvoice::VATAmount);
+}
+
+Money ExpertInvoicesGrossTotal(const clsZR3Form &form)
+{
+    return mdSumOf({ExpertInvoicesNetTotal(form), ExpertInvoicesVATTotal(form)});
 }

@@ -10,5 +10,7 @@ Money CounselDisbursementsAmountTotal(const clsZR3Form &form);
 Money CounselDisbursementsVATTotal(const clsZR3Form &form);
 Money NonCounselDisbursementsAmountTotal(const clsZR3Form &form);
 Money NonCounselDisbursementsVATTotal(const clsZR3Form &form);
+Money NonCounselDisbursementsGrossTotal(const clsZR3Form &form);
 Money ExpertInvoicesNetTotal(const clsZR3Form &form);
 Money ExpertInvoicesVATTotal(const clsZR3Form &form);
+Money ExpertInvoicesGrossTotal(const clsZR3Form &form);

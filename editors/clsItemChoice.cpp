@@ -4,10 +4,8 @@
 #include "controls/mdTheme.h"
 #include "controls/mdToolTip.h"
 #include "controls/oCheckBox.h"
-#include "editors/clsScreenTable.h"
 #include "editors/mdComboboxSelectByItemData.h"
 #include "editors/oScreenList.h"
-#include "formdata/clsXMLRecord.h"
 
 #include <QHBoxLayout>
 #include <QSignalBlocker>
@@ -93,14 +91,14 @@ void clsItemChoice::showWhole()
 QString clsItemChoice::UniqueID() const
 {
     const int index = SelectedIndex();
-    return Ticked() && index ? m_source.uniqueIDOf(index) : QString();
+    return Ticked() && index ? m_source.from.uniqueIDOf(index) : QString();
 }
 
 void clsItemChoice::setUniqueID(const QString &uniqueID)
 {
     if (uniqueID.isEmpty())
         return;
-    if (const int index = m_source.indexOf(uniqueID))
+    if (const int index = m_source.from.indexOf(uniqueID))
         mdComboboxSelectByItemData(*m_list, index);
 }
 
@@ -112,7 +110,7 @@ int clsItemChoice::SelectedIndex() const
 void clsItemChoice::fill()
 {
     const int selected = SelectedIndex();
-    const std::vector<clsChoiceItem> items = m_source.items();
+    const std::vector<clsChoiceItem> items = m_source.from.items();
     {
         const QSignalBlocker quiet(m_list);
         m_list->clear();

@@ -1,22 +1,30 @@
 #pragma once
 
+#include "editors/clsScreenTable.h"
 #include "editors/mdInOrder.h"
+#include "formdata/clsZR3Form.h"
+#include "formdata/mdGlobals.h"
 
 #include <QFrame>
 #include <QString>
 
 #include <vector>
 
-class clsXMLRecord;
 class oCheckBox;
 class oScreenList;
 class QHBoxLayout;
-struct clsScreenRow;
 
 /// An item of the claim as a list offers it.
 struct clsChoiceItem {
     QString name;
     int index; ///< the item's `Index`, by which the list remembers it
+};
+
+/// One of the claim's lists, as a choice asks for its items.
+struct clsChoiceList {
+    std::vector<clsChoiceItem> (*items)(); ///< in the user's order
+    QString (*uniqueIDOf)(int index);
+    int (*indexOf)(const QString &uniqueID); ///< 0 for an identity that no item has
 };
 
 /// Of which of the claim's lists one item is chosen, and how the parts of the box are called.
@@ -27,9 +35,7 @@ struct clsChoiceSource {
     const char *listCaption; ///< what is read out for the list
     const char *members; ///< the properties of tick and identity, where the row names none
     const char *whyNoTick; ///< what the tick says while the claim has no such item
-    std::vector<clsChoiceItem> (*items)(); ///< in the user's order
-    QString (*uniqueIDOf)(int index);
-    int (*indexOf)(const QString &uniqueID); ///< 0 for an identity that no item has
+    clsChoiceList from;
 };
 
 /// A tick, and a list in which, while it is ticked, one of the claim's items is chosen. It makes both at the left of a
@@ -79,11 +85,32 @@ private:
     QHBoxLayout *m_row;
 };
 
-/// The items of a collection by their order, each under its name.
-template <class Collection> std::vector<clsChoiceItem> mdChoiceItems(const Collection &items)
+/// A list of the claim by three members of the form: its collection, an item by its `Index`, one by its identity.
+template <auto Collection, auto ByIndex, auto ByUniqueID> constexpr clsChoiceList mdChoiceList()
 {
-    std::vector<clsChoiceItem> result;
-    for (const auto &item : mdInOrder(items))
-        result.push_back({item->Name(), item->Index});
-    return result;
+    return {
+        [] {
+            std::vector<clsChoiceItem> result;
+            for (const auto &item : mdInOrder((*Form.*Collection)()))
+                result.push_back({item->Name(), item->Index});
+            return result;
+        },
+        [](int index) { return (*Form.*ByIndex)(index)->UniqueID(); },
+        [](const QString &uniqueID) {
+            const auto item = (*Form.*ByUniqueID)(uniqueID);
+            return item ? item->Index : 0;
+        },
+    };
+}
+
+/// A box with a choice, its `choice()`, as a control that a table brings with it.
+template <class Box> constexpr clsOtherControl mdChoiceControl()
+{
+    return {
+        .make = mdMakeOther<Box>,
+        .load = [](const clsScreenRow &row, QWidget &control,
+                    clsXMLRecord &record) { static_cast<Box &>(control).choice().load(row, record); },
+        .store = [](const clsScreenRow &row, const QWidget &control,
+                     clsXMLRecord &record) { static_cast<const Box &>(control).choice().store(row, record); },
+    };
 }

@@ -100,6 +100,12 @@ struct clsOtherControl {
     void (*store)(const clsScreenRow &row, const QWidget &control, clsXMLRecord &record) = nullptr;
 };
 
+/// Makes a control of its class, which asks nothing of its row.
+template <class Control> QWidget *mdMakeOther(const clsScreenRow &, QWidget *parent)
+{
+    return new Control(parent);
+}
+
 /// One row of a screen: a line for each control, in the order in which the user walks through them and in which they
 /// are loaded and stored.
 struct clsScreenRow {

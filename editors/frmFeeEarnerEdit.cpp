@@ -6,11 +6,6 @@
 
 namespace {
 
-QWidget *makeGroup(const clsScreenRow &, QWidget *parent)
-{
-    return new oFeeEarnerGroupCombo(parent);
-}
-
 void loadGroup(const clsScreenRow &, QWidget &control, clsXMLRecord &record)
 {
     static_cast<oFeeEarnerGroupCombo &>(control).setSelectedFeeEarnerGroupUniqueID(
@@ -25,7 +20,7 @@ void storeGroup(const clsScreenRow &, const QWidget &control, clsXMLRecord &reco
         static_cast<clsZR3FeeEarner &>(record).GroupUniqueID = chosen;
 }
 
-constexpr clsOtherControl Group {makeGroup, loadGroup, storeGroup};
+constexpr clsOtherControl Group {mdMakeOther<oFeeEarnerGroupCombo>, loadGroup, storeGroup};
 
 } // namespace
 

@@ -8,6 +8,7 @@
 #include "editors/frmSection.h"
 #include "editors/mdInOrder.h"
 #include "editors/mdLoadMenuFromCollection.h"
+#include "editors/mdRateRows.h"
 #include "editors/mdScreenControls.h"
 #include "editors/mdShowPreferences.h"
 #include "formdata/clsZR3Form.h"
@@ -117,18 +118,10 @@ const clsScreen &ScreenFeeEarnerGroupEdit()
                  .spoken = "Enhancement rate in per cent"},
                 {Tick,    "chkEnhanceComms",    "Enhance Communications:", 0, StartsDisabled},
             }},
-            {"bxRates", "Rates", {
-                {.kind = Decimal, .control = "txtHourly",     .caption = "Hourly:*",      .member = "HourlyRate"},
-                {.kind = Decimal, .control = "txtCalls",      .caption = "Calls:*",       .member = "CallsRate"},
-                {.kind = Decimal, .control = "txtLettersIn",  .caption = "Letters In:*",  .member = "LettersInRate"},
-                {.kind = Decimal, .control = "txtLettersOut", .caption = "Letters Out:*", .member = "LettersOutRate"},
-                {.kind = Decimal, .control = "txtAdvocacy",   .caption = "Advocacy:*",    .member = "AdvocacyRate"},
-                {.kind = Decimal, .control = "txtCounsel",    .caption = "Counsel:*",     .member = "CounselRate"},
-                {.kind = Decimal, .control = "txtTravelAndWaiting", .caption = "Travel and Waiting:*",
-                 .member = "TravelAndWaitingRate"},
+            {"bxRates", "Rates", mdJoinedRows({mdRateRows(), {
                 {Button,  "cmdLoad",            "Load"},
                 {Button,  "cmdEditRateSets",    "Edit Rate Sets", 0, SameRow},
-            }},
+            }})},
         },
         .rules = rules,
         .itemWord = "Fee Earner Group",

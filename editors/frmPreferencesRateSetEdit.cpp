@@ -5,6 +5,7 @@
 #include "controls/oDecimalBox.h"
 #include "editors/frmSection.h"
 #include "editors/mdConnectCalculate.h"
+#include "editors/mdRateRows.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
 #include "formdata/mdGlobals.h"
 
@@ -54,18 +55,10 @@ const clsScreen &ScreenPreferencesRateSetEdit()
         .width = clsScreenWidth::Edit,
         .ending = clsScreenEnding::SaveCancel,
         .frames = {
-            {"bxGeneral", "", {
-                {Text,    "txtName",       "Name:*", 0, Required},
-                {.kind = Decimal, .control = "txtHourly",     .caption = "Hourly:*",      .member = "HourlyRate"},
-                {Button,  "cmdCalculate",  "Calculate", 0, SameRow},
-                {.kind = Decimal, .control = "txtCalls",      .caption = "Calls:*",       .member = "CallsRate"},
-                {.kind = Decimal, .control = "txtLettersIn",  .caption = "Letters In:*",  .member = "LettersInRate"},
-                {.kind = Decimal, .control = "txtLettersOut", .caption = "Letters Out:*", .member = "LettersOutRate"},
-                {.kind = Decimal, .control = "txtAdvocacy",   .caption = "Advocacy:*",    .member = "AdvocacyRate"},
-                {.kind = Decimal, .control = "txtCounsel",    .caption = "Counsel:*",     .member = "CounselRate"},
-                {.kind = Decimal, .control = "txtTravelAndWaiting", .caption = "Travel and Waiting:*",
-                 .member = "TravelAndWaitingRate"},
-            }},
+            {"bxGeneral", "", mdJoinedRows({
+                {{Text, "txtName", "Name:*", 0, Required}},
+                mdRateRows({{Button, "cmdCalculate", "Calculate", 0, SameRow}}),
+            })},
         },
         .rules = rules,
         .itemWord = "Rate Set",

@@ -35,7 +35,7 @@ void storeFeeEarner(const clsScreenRow &, const QWidget &control, clsXMLRecord &
 }
 
 const clsOtherControl FeeEarner {
-    .make = [](const clsScreenRow &, QWidget *parent) -> QWidget * { return new oFeeEarnerCombo(parent); },
+    .make = mdMakeOther<oFeeEarnerCombo>,
     .load = loadFeeEarner,
     .store = storeFeeEarner,
 };
@@ -51,7 +51,7 @@ void storeCode(const clsScreenRow &, const QWidget &control, clsXMLRecord &recor
 }
 
 const clsOtherControl Code {
-    .make = [](const clsScreenRow &, QWidget *parent) -> QWidget * { return new oCodeCombo(parent); },
+    .make = mdMakeOther<oCodeCombo>,
     .load = loadCode,
     .store = storeCode,
 };

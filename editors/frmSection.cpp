@@ -12,6 +12,7 @@
 #include "controls/oHeaderBar.h"
 #include "controls/oIntegerBox.h"
 #include "controls/oSGrid.h"
+#include "controls/oTimeBox.h"
 #include "controls/oTypedText.h"
 #include "editors/clsListActions.h"
 #include "editors/clsMnemonics.h"
@@ -32,6 +33,7 @@
 #include <QMenuBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <map>
 
 namespace {
@@ -263,16 +265,20 @@ bool frmSection::checkRequired()
     return false;
 }
 
-/// What a file has brought into a box that the user has not been to may be what nothing can be computed with. The
-/// editor of an item stores none of it: an empty amount becomes 0.00, and a box with anything else is gone to.
+/// What a file has brought into a box that the user has not been to may be no value at all. The editor of an item
+/// stores none of it and goes to its box. What fits is stored as it stands, and so is an amount that is empty until its
+/// box has had the focus; only a time takes its form.
 bool frmSection::checkTyped()
 {
     if (!m_screen.itemWord)
         return true;
-    for (const clsScreenField &field : m_fields)
-        if (auto *typed = field.control->findChild<oTypedText *>(); typed && typed->isEnabled() && !typed->validate())
+    const auto holds = [](const clsScreenField &field) {
+        auto *typed = field.control->findChild<oTypedText *>();
+        if (!typed || !typed->isEnabled())
             return false;
-    return true;
+        return qobject_cast<oTimeBox *>(field.control) ? !typed->validate() : typed->refuses();
+    };
+    return std::none_of(m_fields.begin(), m_fields.end(), holds);
 }
 
 void frmSection::Save()

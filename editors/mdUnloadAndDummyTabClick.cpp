@@ -8,6 +8,7 @@ namespace {
 
 std::function<void(const QString &)> &openSectionInForce()
 {
+    // A screen leads to another by way of the main window, which stands above it.
     static std::function<void(const QString &)> openSection;
     return openSection;
 }

@@ -24,12 +24,6 @@ QString columnOf(const QString &code)
     }
 }
 
-/// The focus comes back to where it was: nobody has left.
-bool isInterruption(Qt::FocusReason reason)
-{
-    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason;
-}
-
 } // namespace
 
 oCodeCombo::oCodeCombo(QWidget *parent)
@@ -142,7 +136,7 @@ void oCodeCombo::complete()
 void oCodeCombo::focusOutEvent(QFocusEvent *event)
 {
     QComboBox::focusOutEvent(event);
-    if (isInterruption(event->reason()) || !isVisible() || !isEnabled() || m_telling)
+    if (mdIsInterruption(event->reason()) || !isVisible() || !isEnabled() || m_telling)
         return;
     const QString code = Code().toUpper();
     if (mdScheduleOfTimeCodesCollection().contains(code)) {

@@ -3,7 +3,6 @@
 #include "controls/oCheckBox.h"
 #include "controls/oCustomButton.h"
 #include "editors/clsItemChoice.h"
-#include "editors/clsScreenTable.h"
 #include "editors/mdEditItem.h"
 #include "editors/mdScreens.h"
 #include "formdata/clsZR3Form.h"
@@ -21,24 +20,13 @@ constexpr clsChoiceSource CounselSource {
     .listCaption = "Name of counsel",
     .members = "Counsel CounselUniqueID",
     .whyNoTick = "Add a counsel first",
-    .items = [] { return mdChoiceItems(Form->CounselCollection()); },
-    .uniqueIDOf = [](int index) { return Form->Counsel(index)->UniqueID(); },
-    .indexOf = [](const QString &uniqueID) {
-        const auto counsel = Form->CounselByUniqueID(uniqueID);
-        return counsel ? counsel->Index : 0;
-    },
+    .from = mdChoiceList<&clsZR3Form::CounselCollection, &clsZR3Form::Counsel, &clsZR3Form::CounselByUniqueID>(),
 };
 // clang-format on
 
 } // namespace
 
-const clsOtherControl CounselOfItem {
-    .make = [](const clsScreenRow &, QWidget *parent) -> QWidget * { return new oCounselBox(parent); },
-    .load = [](const clsScreenRow &row, QWidget &control,
-                clsXMLRecord &record) { static_cast<oCounselBox &>(control).choice().load(row, record); },
-    .store = [](const clsScreenRow &row, const QWidget &control,
-                 clsXMLRecord &record) { static_cast<const oCounselBox &>(control).choice().store(row, record); },
-};
+const clsOtherControl CounselOfItem = mdChoiceControl<oCounselBox>();
 
 oCounselBox::oCounselBox(QWidget *parent)
     : QFrame(parent)

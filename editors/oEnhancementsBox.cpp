@@ -1,9 +1,6 @@
 #include "editors/oEnhancementsBox.h"
 
 #include "editors/clsItemChoice.h"
-#include "editors/clsScreenTable.h"
-#include "formdata/clsZR3Form.h"
-#include "formdata/mdGlobals.h"
 
 namespace {
 
@@ -15,24 +12,13 @@ constexpr clsChoiceSource EnhancementSource {
     .listCaption = "Enhancement",
     .members = "IncludeInEnhancements EnhancementUniqueID",
     .whyNoTick = "Add an enhancement first",
-    .items = [] { return mdChoiceItems(Form->EnhancementsCollection()); },
-    .uniqueIDOf = [](int index) { return Form->Enhancement(index)->UniqueID(); },
-    .indexOf = [](const QString &uniqueID) {
-        const auto enhancement = Form->EnhancementByUniqueID(uniqueID);
-        return enhancement ? enhancement->Index : 0;
-    },
+    .from = mdChoiceList<&clsZR3Form::EnhancementsCollection, &clsZR3Form::Enhancement, &clsZR3Form::EnhancementByUniqueID>(),
 };
 // clang-format on
 
 } // namespace
 
-const clsOtherControl EnhancementsOfItem {
-    .make = [](const clsScreenRow &, QWidget *parent) -> QWidget * { return new oEnhancementsBox(parent); },
-    .load = [](const clsScreenRow &row, QWidget &control,
-                clsXMLRecord &record) { static_cast<oEnhancementsBox &>(control).choice().load(row, record); },
-    .store = [](const clsScreenRow &row, const QWidget &control,
-                 clsXMLRecord &record) { static_cast<const oEnhancementsBox &>(control).choice().store(row, record); },
-};
+const clsOtherControl EnhancementsOfItem = mdChoiceControl<oEnhancementsBox>();
 
 oEnhancementsBox::oEnhancementsBox(QWidget *parent)
     : QFrame(parent)

@@ -10,21 +10,6 @@
 
 namespace {
 
-/// "True" and "False" in any case, or a number, where zero is False; the type error for anything else.
-bool booleanFromText(const char *content)
-{
-    if (std::strcmp(content, "True") == 0)
-        return true;
-    if (std::strcmp(content, "False") == 0)
-        return false;
-    const QLatin1String text(content);
-    if (text.compare(QLatin1String("False"), Qt::CaseInsensitive) == 0)
-        return false;
-    if (text.compare(QLatin1String("True"), Qt::CaseInsensitive) == 0)
-        return true;
-    return DoubleFromStrictText(QString(text)) != 0.0;
-}
-
 /// A number of a few digits and nothing else, as nearly all are.
 std::optional<int> plainNumber(const char *content)
 {
@@ -116,8 +101,13 @@ QString clsXMLField::readText() const
 bool clsXMLField::readBoolean() const
 {
     const char *text = content();
+    // As the program itself writes it, which nearly all are.
+    if (std::strcmp(text, "True") == 0)
+        return true;
+    if (std::strcmp(text, "False") == 0)
+        return false;
     try {
-        return booleanFromText(text);
+        return BooleanFromText(QString::fromLatin1(text));
     } catch (const clsRunTimeError &error) {
         throw error.because(causeOf(record(), *this, "the tick %1 holds %2, which is neither True nor False"));
     }

@@ -50,6 +50,7 @@ class clsXMLPropertyTable {
 public:
     template <class Record> static clsXMLPropertyTable &of()
     {
+        // One for all records of the class, filled by the first of them.
         if constexpr (requires { Record::DerivedProperties(); }) {
             static clsXMLPropertyTable table(Record::DerivedProperties());
             return table;

@@ -44,13 +44,15 @@ private:
     size_t m_count = 0;
 };
 
-/// Walks a list by `OrderID` from 1 to its count; a gap is the object error.
-template <class List, class Visit> void inOrder(const List &list, Visit visit)
+/// Walks a list by `OrderID` from 1 to its count; a gap is the object error. `word` is what an item of it is called.
+template <class List, class Visit> void inOrder(const List &list, const char *word, Visit visit)
 {
     for (int n = 1; n <= list.count(); ++n) {
         const auto &item = list.byOrder(n);
         if (!item)
-            throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
+            throw clsRunTimeError(clsRunTimeError::ObjectNotSet)
+                .because(QStringLiteral("No %1 has place %2 in the order of its list")
+                             .arg(QString::fromLatin1(word), QString::number(n)));
         visit(item);
     }
 }
@@ -205,7 +207,7 @@ void clsZR3Form::RenderScheduleOfTimeItemsForExport()
     m_scheduleError.reset();
     int number = 0;
     clsOnBill isOnBill(*this);
-    inOrder(m_ScheduleOfTimeItems, [&](const ScheduleOfTimeItemsList::Pointer &item) {
+    inOrder(m_ScheduleOfTimeItems, "schedule item", [&](const ScheduleOfTimeItemsList::Pointer &item) {
         try {
             if (!isOnBill(*item))
                 return;
@@ -252,7 +254,7 @@ void clsZR3Form::CreateFASCollections()
 {
     clsRefill boltOns(m_boltOns);
     clsRefill travel(m_travel);
-    inOrder(m_FASItems, [&](const FASItemsList::Pointer &item) {
+    inOrder(m_FASItems, "FAS item", [&](const FASItemsList::Pointer &item) {
         if (!item->BoltOnDescription.isEmpty())
             boltOns.add(item);
         if (!item->ExceptionalTravelDistance.isEmpty() || !item->ExceptionalTravelReason.isEmpty())
@@ -265,7 +267,7 @@ void clsZR3Form::SeparateCounselAndNonCounselDisbursements()
     clsRefill counselFees(m_counselFees);
     clsRefill nonCounsel(m_nonCounsel);
     m_disbursementsError.reset();
-    inOrder(m_Disbursements, [&](const DisbursementsList::Pointer &item) {
+    inOrder(m_Disbursements, "disbursement", [&](const DisbursementsList::Pointer &item) {
         try {
             (item->Counsel() ? counselFees : nonCounsel).add(item);
         } catch (const clsRunTimeError &error) {

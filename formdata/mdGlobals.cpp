@@ -5,9 +5,10 @@
 
 namespace {
 
+// The one document of the program.
 clsDocument document;
 
-}
+} // namespace
 
 clsDocument &Document()
 {
@@ -15,5 +16,6 @@ clsDocument &Document()
 }
 
 std::unique_ptr<clsZR3Form> &Form = document.form;
+// One file, which the whole program reads.
 std::unique_ptr<clsZR3PreferencesDatabase> Preferences;
 QString &CleanXML = document.cleanXML;

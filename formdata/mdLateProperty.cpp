@@ -28,16 +28,6 @@ QString read(const clsXMLRecord &record, QStringView name, const QString *argume
     throw clsRunTimeError(clsRunTimeError::NoSuchProperty);
 }
 
-/// The words in any case, or a number, as an element's content is read.
-bool booleanOf(const QString &value)
-{
-    if (value.compare(QLatin1String("True"), Qt::CaseInsensitive) == 0)
-        return true;
-    if (value.compare(QLatin1String("False"), Qt::CaseInsensitive) == 0)
-        return false;
-    return DoubleFromStrictText(value) != 0.0;
-}
-
 } // namespace
 
 QString ReadProperty(const clsXMLRecord &record, QStringView name)
@@ -57,7 +47,7 @@ void WriteProperty(clsXMLRecord &record, QStringView name, const QString &value)
         throw clsRunTimeError(clsRunTimeError::NoSuchProperty);
     switch (field->property().kind) {
     case clsXMLKind::Text: field->writeText(value); break;
-    case clsXMLKind::Boolean: field->writeBoolean(booleanOf(value)); break;
+    case clsXMLKind::Boolean: field->writeBoolean(BooleanFromText(value)); break;
     case clsXMLKind::Long: field->writeLong(LongFromStrictText(value)); break;
     }
 }

@@ -1,5 +1,6 @@
 #include "formdata/mdRecordInWords.h"
 
+#include "base/mdPrint.h"
 #include "formdata/clsXMLRecord.h"
 
 #include <cstring>
@@ -60,7 +61,7 @@ QString itemInWords(const clsRecordRow &row, pugi::xml_node item)
     const QString name = XMLDecodeText(item.child(row.calledBy).child_value());
     // One without a reference or a name is known by its place.
     return QString::fromLatin1(row.words) + u' '
-        + (name.isEmpty() ? XMLDecodeText(item.child(ByOrder).child_value()) : name);
+        + mdWithoutControls(name.isEmpty() ? XMLDecodeText(item.child(ByOrder).child_value()) : name);
 }
 
 /// A capital begins a word unless it stands inside a row of them, and a digit unless it stands inside a number.
@@ -100,7 +101,8 @@ QString mdPropertyInWords(const QString &property)
 QString mdQuoted(const QString &text)
 {
     constexpr qsizetype Longest = 40;
-    return u'"' + (text.size() > Longest ? text.left(Longest) + u'\u2026' : text) + u'"';
+    // A line break would make the rest of the text look like a line of the program's own.
+    return u'"' + mdWithoutControls(text.size() > Longest ? text.left(Longest) + u'\u2026' : text) + u'"';
 }
 
 QString mdSentenceOf(const clsXMLRecord &record, const QString &clause)

@@ -19,10 +19,11 @@ constexpr int DeepestNesting = 1000;
 // Tags of a text. A bill of a hundred thousand items has fewer; rubbish that happens to parse would fill the memory.
 constexpr qsizetype MostTags = 4'000'000;
 
-// Items of all lists together, which lie two levels below the root. Each gets all the elements of its template and an
-// object: an empty one of four bytes becomes two thousand.
+// Items of all lists together, which lie two levels below the root; the few hundred fields of the sections lie there
+// too. Each item gets all the elements of its template and an object: an empty one of four bytes becomes two thousand.
+// So many of the longest kind have fewer tags than a text may have: what was opened can be opened again after a save.
 constexpr int ItemLevel = 2;
-constexpr int MostItems = 250'000;
+constexpr int MostItems = 100'000;
 
 // White space between elements carries no meaning and is dropped; comments and instructions are kept, since nothing
 // that the program does not know may be lost by a load and a save. As a fragment, so that text beside the root is seen.

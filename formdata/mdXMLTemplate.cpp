@@ -8,6 +8,7 @@
 
 pugi::xml_node mdXMLTemplate(const char *resourceName)
 {
+    // Templates never change: each is parsed once in the life of the program, and not for every record.
     static std::map<std::string_view, pugi::xml_document, std::less<>> templates;
     const auto known = templates.find(std::string_view(resourceName));
     if (known != templates.end())

@@ -60,7 +60,7 @@ public:
         , m_focus(focusOf(*m_window))
     {
         m_window->setEnabled(false);
-        Running = true;
+        m_grid.setDrawing(true);
     }
     ~clsDrawing()
     {
@@ -72,18 +72,22 @@ public:
         m_window->setEnabled(true);
         if (m_focus) // disabling took it away
             m_focus->setFocus();
-        Running = false;
+        m_grid.setDrawing(false);
     }
     clsDrawing(const clsDrawing &) = delete;
     clsDrawing &operator=(const clsDrawing &) = delete;
-
-    static inline bool Running = false;
 
 private:
     oPreviewGrid &m_grid;
     QWidget *m_window;
     QPointer<QWidget> m_focus;
 };
+
+/// The progress bar may let events through.
+bool isDrawing()
+{
+    return PreviewGrid && PreviewGrid->IsDrawing();
+}
 
 clsZR3Form &form()
 {
@@ -109,7 +113,7 @@ void redraw(clsPreviewKind kind)
 
 void mdDrawPreview(clsPreviewKind kind)
 {
-    if (!clsDrawing::Running) // the progress bar may let events through
+    if (!isDrawing())
         redraw(kind);
 }
 
@@ -117,7 +121,7 @@ void mdRefreshPreview(clsPreviewKind kind)
 {
     if (!Preferences)
         throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
-    if (clsDrawing::Running || !Preferences->AutoRefreshPreview())
+    if (isDrawing() || !Preferences->AutoRefreshPreview())
         return;
     oPreviewGrid &grid = mdExportPreviewGrid();
     const int first = grid.FirstRowInView();
@@ -138,6 +142,6 @@ void mdRefreshPreview(clsPreviewKind kind)
 
 void mdClearPreview()
 {
-    if (!clsDrawing::Running)
+    if (!isDrawing())
         mdExportPreviewGrid().RemoveAll();
 }

@@ -14,6 +14,7 @@
 
 #include <algorithm>
 
+// The main window's, which stands above: the previews are drawn into it.
 oPreviewGrid *PreviewGrid = nullptr;
 
 /// The captions of the columns over the top edge of the grid, for as long as their own row is scrolled away.

@@ -19,6 +19,9 @@ public:
     /// Switches painting off and on. While it is off the old picture stands, and the cells may be anything.
     void setRedraw(bool redraw);
     bool Redraw() const { return m_redraw; }
+    /// A preview is being drawn into the grid.
+    void setDrawing(bool drawing) { m_drawing = drawing; }
+    bool IsDrawing() const { return m_drawing; }
 
     void RemoveAll();
     /// Adds a column of a width in pixels. All columns come before the first cell.
@@ -88,6 +91,7 @@ private:
     clsPreviewPainter m_painter;
     oPreviewCaptions *m_captions;
     bool m_redraw = true;
+    bool m_drawing = false;
     bool m_toTop = false;
     int m_captionsRow = 0;
 };

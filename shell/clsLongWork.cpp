@@ -1,47 +1,50 @@
 #include "shell/clsLongWork.h"
 
 #include <QCursor>
-#include <QElapsedTimer>
 #include <QGuiApplication>
 
 namespace {
 
 constexpr int PatienceMilliseconds = 200;
 
-int depth = 0;
-bool waitingShows = false;
-QElapsedTimer started;
+// The work that runs: asked from below it, by timers and boxes that no object of the work reaches.
+clsLongWork *outermost = nullptr;
 
 } // namespace
 
 clsLongWork::clsLongWork()
 {
-    if (++depth == 1)
-        started.start();
+    if (outermost)
+        return;
+    outermost = this;
+    m_started.start();
 }
 
 clsLongWork::~clsLongWork()
 {
-    if (--depth == 0)
-        hideWaiting();
+    if (outermost != this)
+        return;
+    hideWaiting();
+    outermost = nullptr;
 }
 
 bool clsLongWork::isRunning()
 {
-    return depth > 0;
+    return outermost;
 }
 
 void clsLongWork::showWaiting()
 {
-    if (depth == 0 || waitingShows || started.elapsed() < PatienceMilliseconds)
+    if (!outermost || outermost->m_waitingShows || outermost->m_started.elapsed() < PatienceMilliseconds)
         return;
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    waitingShows = true;
+    outermost->m_waitingShows = true;
 }
 
 void clsLongWork::hideWaiting()
 {
-    if (waitingShows)
-        QGuiApplication::restoreOverrideCursor();
-    waitingShows = false;
+    if (!outermost || !outermost->m_waitingShows)
+        return;
+    QGuiApplication::restoreOverrideCursor();
+    outermost->m_waitingShows = false;
 }

@@ -18,7 +18,6 @@
 
 #include <QDir>
 #include <QIcon>
-#include <QScopeGuard>
 
 // Outside any namespace, as the macro asks; it also makes the linker keep the pictures.
 static void initialiseIcons()
@@ -105,8 +104,7 @@ int RunProgram(int argc, char **argv)
     clsWindowUserInterface user;
     const clsUserInterfaceScope scope(user);
     application.writeRecoveredCopy = WriteRecoveredCopy;
-    SetEndSignalHandler([&application] { application.endUnasked(); });
-    const auto signalsToTheSystem = qScopeGuard([] { SetEndSignalHandler({}); });
+    const clsEndSignalScope endSignals([&application] { application.endUnasked(); });
 
     if (IsNetworkPath(ProgramFolder())) {
         mdCustomMessages(

@@ -52,6 +52,10 @@ template <auto ByOrderID> auto mdItemAt(const clsZR3Form &form, int i)
 /// An amount that is worked out.
 #define ZR3_FIGURE(placeholder, expression)                                                                            \
     ZR3_WORKED_OUT(placeholder, MoneyToText(expression), clsFillClass::Money)
+/// A figure of a form's summary, whose placeholder is its key in braces.
+#define ZR3_SUMMARY(key, ofForm)                                                                                       \
+    clsPlaceholderRow { "{" key "}",                                                                                   \
+        [](const clsBill &bill) { return MoneyToText(mdSummaryFigure(ofForm, key)(bill)); }, clsFillClass::Money }
 /// A cell of a grid: what item `i` of the list shows.
 #define ZR3_CELL(expression, fill)                                                                                     \
     clsPrintedCell { []([[maybe_unused]] const clsZR3Form &form, [[maybe_unused]] int i) { return QString(expression); }, \

@@ -1,8 +1,6 @@
 #include "wordexport/mdExportWordClaim1.h"
 
-#include "base/mdSumOf.h"
-#include "costing/mdGetBillSummary.h"
-#include "costing/mdGetCommsInfo.h"
+#include "costing/mdBillSummary.h"
 #include "costing/mdGetCounselTotals.h"
 #include "costing/mdGetDisbursementsTotals.h"
 #include "formdata/mdOutcomesCollections.h"
@@ -106,7 +104,7 @@ const clsPlaceholderRow Page6Rows[] = {
     ZR3_LONG("{expertsmeetmojstandardreasons}", ExpertsMeetMOJStandardReasons, ExpertStandardsOverRun),
     ZR3_FIGURE("{exnet}", ExpertInvoicesNetTotal(form)),
     ZR3_FIGURE("{exvat}", ExpertInvoicesVATTotal(form)),
-    ZR3_FIGURE("{extot}", mdSumOf({ExpertInvoicesNetTotal(form), ExpertInvoicesVATTotal(form)})),
+    ZR3_FIGURE("{extot}", ExpertInvoicesGrossTotal(form)),
 };
 
 void mdExportWordClaim1Page6(clsExport &run)
@@ -137,8 +135,7 @@ const clsGridPage::Grid Page7Grids[] = {
 const clsPlaceholderRow Page7Rows[] = {
     ZR3_FIGURE("{nettotal}", NonCounselDisbursementsAmountTotal(form)),
     ZR3_FIGURE("{vattotal}", NonCounselDisbursementsVATTotal(form)),
-    ZR3_FIGURE(
-        "{dibstotal}", mdSumOf({NonCounselDisbursementsAmountTotal(form), NonCounselDisbursementsVATTotal(form)})),
+    ZR3_FIGURE("{dibstotal}", NonCounselDisbursementsGrossTotal(form)),
 };
 
 const clsGridPage Page7 = {7, "Claim1 P7", Page7Grids, Page7Rows};
@@ -146,19 +143,19 @@ const clsGridPage Page7 = {7, "Claim1 P7", Page7Grids, Page7Rows};
 // Page 8: letters and calls, and the summary
 
 const clsPlaceholderRow SummaryRows[] = {
-    ZR3_FIGURE("{npc}", ProfitCostsTotal(bill)),
-    ZR3_FIGURE("{nex}", ExpertInvoicesNetTotal(form)),
-    ZR3_FIGURE("{ndibs}", NonCounselDisbursementsAmountTotal(form)),
-    ZR3_FIGURE("{ntotal}", NetWithoutCounsel(bill)),
-    ZR3_FIGURE("{vpc}", ProfitCostsVAT(bill)),
-    ZR3_FIGURE("{vex}", ExpertInvoicesVATTotal(form)),
-    ZR3_FIGURE("{vdibs}", NonCounselDisbursementsVATTotal(form)),
-    ZR3_FIGURE("{vtotal}", VATWithoutCounsel(bill)),
-    ZR3_FIGURE("{grandtotal}", mdSumOf({NetWithoutCounsel(bill), VATWithoutCounsel(bill)})),
+    ZR3_SUMMARY("npc", Claim1Summary),
+    ZR3_SUMMARY("nex", Claim1Summary),
+    ZR3_SUMMARY("ndibs", Claim1Summary),
+    ZR3_SUMMARY("ntotal", Claim1Summary),
+    ZR3_SUMMARY("vpc", Claim1Summary),
+    ZR3_SUMMARY("vex", Claim1Summary),
+    ZR3_SUMMARY("vdibs", Claim1Summary),
+    ZR3_SUMMARY("vtotal", Claim1Summary),
+    ZR3_SUMMARY("grandtotal", Claim1Summary),
     ZR3_WORDS("{counsel}", QString::number(form.CounselCollection().size())),
-    ZR3_FIGURE("{ncf}", CounselFeesAmountTotal(form)),
-    ZR3_FIGURE("{vcf}", CounselFeesVATTotal(form)),
-    ZR3_FIGURE("{cftotal}", CounselFeesTotal(form)),
+    ZR3_SUMMARY("ncf", Claim1Summary),
+    ZR3_SUMMARY("vcf", Claim1Summary),
+    ZR3_SUMMARY("cftotal", Claim1Summary),
     ZR3_WORDS("{csl1}", CounselAccountNumberAtLine(form, 1)),
     ZR3_FIGURE("{cslamt1}", CounselGrossAtLine(form, 1)),
     ZR3_WORDS("{csl2}", CounselAccountNumberAtLine(form, 2)),

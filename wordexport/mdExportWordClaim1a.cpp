@@ -1,11 +1,9 @@
 #include "wordexport/mdExportWordClaim1a.h"
 
-#include "base/mdSumOf.h"
+#include "costing/mdBillSummary.h"
 #include "costing/mdFigureFaults.h"
 #include "costing/mdGetBillSummary.h"
 #include "costing/mdGetColumnTotals.h"
-#include "costing/mdGetCommsInfo.h"
-#include "costing/mdGetCounselTotals.h"
 #include "costing/mdGetDisbursementsTotals.h"
 #include "costing/mdGetFASTotals.h"
 #include "formdata/mdOutcomesCollections.h"
@@ -153,7 +151,7 @@ const clsOverRun ExpertStandardsOverRun = {250, 2750, "Claim1A P6 Expert Dibs St
 const clsPlaceholderRow Page6Rows[] = {
     ZR3_FIGURE("{exnet}", ExpertInvoicesNetTotal(form)),
     ZR3_FIGURE("{exvat}", ExpertInvoicesVATTotal(form)),
-    ZR3_FIGURE("{extot}", mdSumOf({ExpertInvoicesNetTotal(form), ExpertInvoicesVATTotal(form)})),
+    ZR3_FIGURE("{extot}", ExpertInvoicesGrossTotal(form)),
     ZR3_TICK("{1}", ExpertsMeetMOJStandardYes),
     ZR3_TICK("{2}", ExpertsMeetMOJStandardNo),
     ZR3_LONG("{expertsmeetmojstandardreasons}", ExpertsMeetMOJStandardReasons, ExpertStandardsOverRun),
@@ -177,8 +175,7 @@ const clsGridPage::Grid Page7Grids[] = {
 const clsPlaceholderRow Page7Rows[] = {
     ZR3_FIGURE("{dibsnet}", NonCounselDisbursementsAmountTotal(form)),
     ZR3_FIGURE("{dibsvat}", NonCounselDisbursementsVATTotal(form)),
-    ZR3_FIGURE(
-        "{dibstotal}", mdSumOf({NonCounselDisbursementsAmountTotal(form), NonCounselDisbursementsVATTotal(form)})),
+    ZR3_FIGURE("{dibstotal}", NonCounselDisbursementsGrossTotal(form)),
 };
 
 const clsGridPage Page7 = {7, "Claim1A P7", Page7Grids, Page7Rows};
@@ -268,20 +265,20 @@ const clsAdditionalInformation Page11AdditionalInformation
     = {11, "Claim1A P11", "Claim1A P11 Additional Info Cont", 25, 2};
 
 const clsPlaceholderRow SummaryRows[] = {
-    ZR3_FIGURE("{npc}", ProfitCostsTotal(bill)),
-    ZR3_FIGURE("{nex}", ExpertInvoicesNetTotal(form)),
-    ZR3_FIGURE("{ndibs}", NonCounselDisbursementsAmountTotal(form)),
-    ZR3_FIGURE("{nsubtotal}", NetWithoutCounsel(bill)),
-    ZR3_FIGURE("{nfas}", FASItemsTotal(form)),
-    ZR3_FIGURE("{ncsl}", CounselFeesAmountTotal(form)),
-    ZR3_FIGURE("{ntotal}", NetWithAdvocacyAndCounsel(bill)),
-    ZR3_FIGURE("{vpc}", ProfitCostsVAT(bill)),
-    ZR3_FIGURE("{vex}", ExpertInvoicesVATTotal(form)),
-    ZR3_FIGURE("{vdibs}", NonCounselDisbursementsVATTotal(form)),
-    ZR3_FIGURE("{vsubtotal}", VATWithoutCounsel(bill)),
-    ZR3_FIGURE("{vfas}", FASVATTotal(form)),
-    ZR3_FIGURE("{vcsl}", CounselFeesVATTotal(form)),
-    ZR3_FIGURE("{vtotal}", VATWithAdvocacyAndCounsel(bill)),
+    ZR3_SUMMARY("npc", Claim1ASummary),
+    ZR3_SUMMARY("nex", Claim1ASummary),
+    ZR3_SUMMARY("ndibs", Claim1ASummary),
+    ZR3_SUMMARY("nsubtotal", Claim1ASummary),
+    ZR3_SUMMARY("nfas", Claim1ASummary),
+    ZR3_SUMMARY("ncsl", Claim1ASummary),
+    ZR3_SUMMARY("ntotal", Claim1ASummary),
+    ZR3_SUMMARY("vpc", Claim1ASummary),
+    ZR3_SUMMARY("vex", Claim1ASummary),
+    ZR3_SUMMARY("vdibs", Claim1ASummary),
+    ZR3_SUMMARY("vsubtotal", Claim1ASummary),
+    ZR3_SUMMARY("vfas", Claim1ASummary),
+    ZR3_SUMMARY("vcsl", Claim1ASummary),
+    ZR3_SUMMARY("vtotal", Claim1ASummary),
 };
 
 void mdExportWordClaim1aPage11(clsExport &run)

@@ -5,6 +5,7 @@
 
 namespace {
 
+// A test says which other programs run.
 clsProcessList current = mdProcessNames;
 
 } // namespace

@@ -51,6 +51,6 @@ const std::vector<clsBilledItem> &clsClaimCheck::billed()
 
 void clsClaimCheck::add(const clsFindingPlace &place, const QString &text, clsFindingLevel level)
 {
-    m_findings.push_back({QString::fromLatin1(m_rule->id), level, place.screen,
-        place.list, place.item, place.property, text});
+    m_findings.push_back(
+        {QString::fromLatin1(m_rule->id), level, place.screen, place.list, place.item, place.property, text});
 }

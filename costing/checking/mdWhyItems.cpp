@@ -127,8 +127,8 @@ private:
     {
         const Money percentage = m_price.TotalEnhancementPercentage;
         m_why.add(
-            QStringLiteral("Enhancement of %1 % of %2").arg(MoneyToText(percentage), MoneyToText(m_price.BasicClaim)), {},
-            m_own, [&] {
+            QStringLiteral("Enhancement of %1 % of %2").arg(MoneyToText(percentage), MoneyToText(m_price.BasicClaim)),
+            {}, m_own, [&] {
                 return mdExplained(
                     m_form, m_item, [&] { return MoneyToText(Item::EnhancementBy(m_price.BasicClaim, percentage)); });
             });
@@ -150,9 +150,8 @@ void addLine(clsWhy &why, const clsZR3Form &form, const clsZR3FeeEarnerGroup &gr
     const clsWhySource own = why.source();
     const QString words = QString::fromLatin1(KindsInWords[int(kind)]);
     const auto figure = [&](const QString &text, const clsWhySource &source, auto compute) {
-        why.add(text, {}, source, [&] {
-            return mdExplained(form, line, kind, [&] { return MoneyToText(compute(form, line, kind)); });
-        });
+        why.add(text, {}, source,
+            [&] { return mdExplained(form, line, kind, [&] { return MoneyToText(compute(form, line, kind)); }); });
     };
     why.add(QStringLiteral("Line %1 of the %2").arg(line).arg(words), group.Name(), groupSource(group),
         [&] { return inSentence(group); });
@@ -205,11 +204,12 @@ std::optional<clsWhy> mdWhyFASItem(const clsBill &bill, int orderID)
         return {};
     clsWhy why({QStringLiteral("Family Advocacy Scheme"), QStringLiteral("fas"), orderID});
     const auto step = [&](const QString &text, auto compute) {
-        why.add(text, {}, why.source(),
-            [&] { return mdExplained(form, *item, [&] { return MoneyToText(compute()); }); });
+        why.add(
+            text, {}, why.source(), [&] { return mdExplained(form, *item, [&] { return MoneyToText(compute()); }); });
     };
     why.addAll(QStringLiteral("Total"), [&] {
-        step(QStringLiteral("Hearing units at their rate, %1 at %2").arg(item->HearingUnits()).arg(item->RateForUnits()),
+        step(
+            QStringLiteral("Hearing units at their rate, %1 at %2").arg(item->HearingUnits()).arg(item->RateForUnits()),
             [&] { return item->UnitPayment(); });
         if (TextValue(item->BoltOnClaimed()) != 0)
             step(QStringLiteral("Bolt-on of %1 %").arg(item->BoltOnClaimed()), [&] { return item->BoltOn(); });

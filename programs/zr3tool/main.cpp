@@ -31,6 +31,8 @@ namespace {
 
 using Status = clsExitStatus;
 
+const QString LineEnd = QStringLiteral("\r\n");
+
 void print(const QByteArray &text)
 {
     std::fwrite(text.constData(), 1, size_t(text.size()), stdout);
@@ -42,7 +44,7 @@ Status guarded(clsConsoleUserInterface &console, Status onError, const std::func
     try {
         return step();
     } catch (const clsRunTimeError &error) {
-        const QString cause = error.cause().isEmpty() ? QString() : u'\n' + error.cause();
+        const QString cause = error.cause().isEmpty() ? QString() : LineEnd + error.cause();
         console.tell(QStringLiteral("Run-time error '%1'").arg(error.number()), error.description() + cause);
     } catch (const clsProgramEnd &) {
         // The user has been told why.
@@ -84,16 +86,15 @@ Status totals(clsConsoleUserInterface &console, const clsZR3Form &form)
         QStringLiteral(
             "Some figures of this claim can't be computed. Each of them stands as \"!\" and the number of its "
             "run-time error.")
-            + (report.causes.isEmpty() ? QString() : u'\n' + report.causes.join(u'\n')));
+            + (report.causes.isEmpty() ? QString() : LineEnd + report.causes.join(LineEnd)));
     return Status::Failed;
 }
 
 Status check(const clsZR3Form &form)
 {
     const QString message = mdBlankItemsMessage(form);
-    const QString lineEnd = QStringLiteral("\r\n");
     const bool blank = mdCountBlankScheduleItems(form) > 0 || mdCountBlankDisbursements(form) > 0;
-    mdPrint(stdout, message.endsWith(lineEnd) ? message : message + lineEnd);
+    mdPrint(stdout, message.endsWith(LineEnd) ? message : message + LineEnd);
     return blank ? Status::BlankItems : Status::Done;
 }
 
@@ -128,7 +129,8 @@ Status exportSheetsAndDocument(clsConsoleUserInterface &console, clsExport &run)
             : Status::Failed;
     }
     console.tell(QStringLiteral("Export"),
-        QStringLiteral("There are no pages for the form type \"%1\" of this claim.").arg(run.form.FormType()));
+        QStringLiteral("There are no pages for the form type \"%1\" of this claim.")
+            .arg(mdWithoutControls(run.form.FormType())));
     return Status::Failed;
 }
 
@@ -189,9 +191,8 @@ Status runOnClaim(clsConsoleUserInterface &console, const clsToolCommand &comman
 Status checkFull(clsConsoleUserInterface &console, const clsToolCommand &command)
 {
     return guarded(console, Status::Failed, [&] {
-        return mdCheckFull(console, command, [&](clsZR3Form &form, const QString &path) {
-            return load(console, form, path, Soundness::InSome);
-        });
+        return mdCheckFull(console, command,
+            [&](clsZR3Form &form, const QString &path) { return load(console, form, path, Soundness::InSome); });
     });
 }
 

@@ -368,6 +368,17 @@ TEST(LongFromStrictText, TakesNumbersOnly)
     EXPECT_EQ(Error::TypeMismatch, errorOf([] { LongFromStrictText(u"12abc"); }));
 }
 
+TEST(BooleanFromText, TakesTheWordsAndNumbersOnly)
+{
+    for (const auto text : {"True", "true", "TRUE", "1", "-1", " 0.5 ", "1,000"})
+        EXPECT_TRUE(BooleanFromText(QString::fromLatin1(text))) << text;
+    for (const auto text : {"False", "false", "FALSE", "0", " 0.00 ", "-0"})
+        EXPECT_FALSE(BooleanFromText(QString::fromLatin1(text))) << text;
+    for (const auto text : {"", " ", "Yes", " True", "TrueTrue", "1abc"})
+        EXPECT_EQ(Error::TypeMismatch, errorOf([text] { BooleanFromText(QString::fromLatin1(text)); })) << text;
+    EXPECT_EQ(Error::Overflow, errorOf([] { BooleanFromText(u"9999999999999999999999"); }));
+}
+
 // Durations
 
 TEST(TimeToMinutes, ReadsHoursAndMinutes)

@@ -226,6 +226,18 @@ TEST_F(SharedLog, ALinkThatAnotherUserHasPutThereIsNotFollowed)
     expectLog(path("shared/Logs") + second());
 }
 
+TEST_F(SharedLog, NeitherIsOneInPlaceOfTheLogs)
+{
+    make(QStringLiteral("trap"));
+    setMode("trap", 0777);
+    const QByteArray link = QFile::encodeName(path("shared/Logs"));
+    ASSERT_EQ(0, ::symlink(QFile::encodeName(path("trap")).constData(), link.constData()));
+    ASSERT_EQ(0, ::lchown(link.constData(), OrdinaryUser, OrdinaryUser));
+    EXPECT_EQ(0, boxesOfTwoLines(SecondUser));
+    EXPECT_TRUE(QDir(path("trap")).isEmpty());
+    expectLog(path("state/Velmor/Logs"));
+}
+
 TEST_F(SharedLog, AFolderOfTheUsersNameThatAnotherUserHasMadeIsNotUsed)
 {
     firstUserWrites();

@@ -182,6 +182,35 @@ TEST_F(OddFiles, PermissionsAreKeptAndTheSideFileHasThemToo)
     EXPECT_EQ(mode_t(0640), sideMode);
 }
 
+TEST_F(OddFiles, ASideFileIsOpenToNoOtherGroupThanItsFile)
+{
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "only the administrator can give a file to another group";
+    constexpr gid_t Firm = 4242;
+    ASSERT_EQ(0, ::chmod(QFile::encodeName(folder.path()).constData(), 0777));
+    struct stat status = {};
+    FileSystem().faultPoint = [&](clsFileStep step, const QString &) {
+        if (step == clsFileStep::Truncate)
+            ::stat(QFile::encodeName(side).constData(), &status);
+        return clsFileFault();
+    };
+    startWith(old);
+    ASSERT_EQ(0, ::chown(QFile::encodeName(claim).constData(), 65534, Firm));
+    ASSERT_EQ(0, ::chmod(QFile::encodeName(claim).constData(), 0660));
+    WriteTextDocument(next, claim, false);
+    EXPECT_EQ(Firm, status.st_gid);
+    EXPECT_EQ(mode_t(0660), status.st_mode & 0777);
+    // A user who is not in that group can't give it the side file, and must not give it to their own.
+    {
+        const clsOrdinaryUser ordinary;
+        ASSERT_TRUE(ordinary.is());
+        WriteTextDocument(next, claim, false);
+    }
+    EXPECT_NE(Firm, status.st_gid);
+    EXPECT_EQ(mode_t(0600), status.st_mode & 0777);
+    EXPECT_TRUE(user.messages.empty());
+}
+
 TEST_F(OddFiles, AReadOnlyFileKeepsItsContent)
 {
     startWith(old);

@@ -13,6 +13,7 @@
 
 #include <csignal>
 #include <memory>
+#include <optional>
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -162,7 +163,7 @@ protected:
     }
     void TearDown() override
     {
-        SetEndSignalHandler(nullptr);
+        m_signals.reset();
         m_application.reset();
         clsDocumentTest::TearDown();
     }
@@ -181,6 +182,8 @@ protected:
         waitFor([turns = 0]() mutable { return ++turns > 5; });
     }
 
+    std::optional<clsEndSignalScope> m_signals;
+
 private:
     std::unique_ptr<QCoreApplication> m_application;
 };
@@ -191,7 +194,7 @@ TEST_F(EndSignals, CallTheHandlerFromTheEventLoop)
 {
     for (const int signal : {SIGTERM, SIGHUP}) {
         int calls = 0;
-        SetEndSignalHandler([&] { ++calls; });
+        m_signals.emplace([&] { ++calls; });
         ::raise(signal);
         EXPECT_EQ(0, calls) << "not from the signal itself";
         EXPECT_TRUE(waitFor([&] { return calls == 1; }));
@@ -201,7 +204,7 @@ TEST_F(EndSignals, CallTheHandlerFromTheEventLoop)
 TEST_F(EndSignals, CallItOnceHoweverOftenTheyCome)
 {
     int calls = 0;
-    SetEndSignalHandler([&] {
+    m_signals.emplace([&] {
         ++calls;
         ::raise(SIGHUP);
         letTheLoopRun(); // as a box would
@@ -217,7 +220,7 @@ TEST_F(EndSignals, CallItOnceHoweverOftenTheyCome)
 TEST_F(EndSignals, ReachAProgramThatShowsABox)
 {
     QEventLoop box;
-    SetEndSignalHandler([&] { box.exit(7); });
+    m_signals.emplace([&] { box.exit(7); });
     QTimer::singleShot(0, &box, [] { ::raise(SIGTERM); });
     QTimer::singleShot(5000, &box, &QEventLoop::quit);
     EXPECT_EQ(7, box.exec());
@@ -226,8 +229,8 @@ TEST_F(EndSignals, ReachAProgramThatShowsABox)
 TEST_F(EndSignals, TheHandlerMayTakeItselfAway)
 {
     bool called = false;
-    SetEndSignalHandler([&] {
-        SetEndSignalHandler(nullptr);
+    m_signals.emplace([&] {
+        m_signals.reset();
         called = true;
     });
     ::raise(SIGTERM);
@@ -236,8 +239,8 @@ TEST_F(EndSignals, TheHandlerMayTakeItselfAway)
 
 TEST_F(EndSignals, AreTheSystemsAgainWithoutAHandler)
 {
-    SetEndSignalHandler([] {});
-    SetEndSignalHandler(nullptr);
+    m_signals.emplace([] {});
+    m_signals.reset();
     struct sigaction action = {};
     ASSERT_EQ(0, ::sigaction(SIGTERM, nullptr, &action));
     EXPECT_EQ(SIG_DFL, action.sa_handler);
@@ -247,11 +250,11 @@ TEST_F(EndSignals, OneThatWasIgnoredFromTheStartStaysIgnored)
 {
     std::signal(SIGHUP, SIG_IGN);
     int calls = 0;
-    SetEndSignalHandler([&] { ++calls; });
+    m_signals.emplace([&] { ++calls; });
     ::raise(SIGHUP);
     letTheLoopRun();
     EXPECT_EQ(0, calls);
-    SetEndSignalHandler(nullptr);
+    m_signals.reset();
     std::signal(SIGHUP, SIG_DFL);
 }
 
@@ -264,7 +267,7 @@ TEST_F(EndSignals, AProgramThatIsToldToEndWritesTheCopyAndEnds)
     ASSERT_GE(child, 0);
     if (child == 0) {
         QEventLoop loop;
-        SetEndSignalHandler([&] { loop.exit(WriteRecoveredCopy().path.isEmpty() ? 1 : 42); });
+        m_signals.emplace([&] { loop.exit(WriteRecoveredCopy().path.isEmpty() ? 1 : 42); });
         QTimer::singleShot(0, &loop, [] { ::kill(::getpid(), SIGTERM); });
         QTimer::singleShot(10000, &loop, [&] { loop.exit(2); });
         ::_exit(loop.exec());

@@ -1,4 +1,5 @@
 #include "controls/oAllPurposeBox.h"
+#include "controls/oFrame.h"
 #include "controls/oLeftRightButton.h"
 #include "tests/editors/clsRecordTest.h"
 
@@ -39,6 +40,18 @@ TEST_F(AwardScreens, NoAmountIsAddedUpFromTheOthersNorChangesThem)
     press(*screen, "cmdSave");
     EXPECT_EQ(QStringLiteral("103.00"), Form->DetailsOfCostsAwarded.TotalCostsAwarded());
     EXPECT_EQ(QStringLiteral("100.00"), Form->DetailsOfCostsAwarded.PreCertificateCosts());
+}
+
+TEST_F(AwardScreens, TheFramesThatOnlyKeepTheOrderHaveNoCaption)
+{
+    const auto screen = opened(CostsAwarded);
+    QStringList captions;
+    for (const char *name : {"bxGeneral", "bxClaim1A", "oFrame1", "oFrame2"}) {
+        const auto *frame = screen->findChild<oFrame *>(QString::fromUtf8(name));
+        ASSERT_TRUE(frame) << name;
+        captions << frame->Caption();
+    }
+    EXPECT_EQ(QStringList({CostsAwarded, QStringLiteral("Claim1A Only"), QString(), QString()}), captions);
 }
 
 TEST_F(AwardScreens, WhatHangsOnAnAnswerStaysOpenWhateverItIs)

@@ -191,21 +191,21 @@ TEST_F(BrokenRecords, AnEnhancementThatNoClaimHasCanBeTakenBack)
     EXPECT_FALSE(wrongWith(*item).contains(QStringLiteral("Schedule item 1 names no enhancement")));
 }
 
-TEST_F(BrokenRecords, AnAmountThatWasNeverEnteredIsNothingOnceItsItemIsSaved)
+TEST_F(BrokenRecords, AnAmountThatWasNeverEnteredIsMendedInItsBox)
 {
     const auto group = addGroup("PTR", "Partner");
     group->HourlyRate = QString();
     group->CallsRate = QString();
     EXPECT_EQ(2, wrongWith(*group).size());
     save(*edit(ScreenFeeEarnerGroupEdit(), group.get()));
+    EXPECT_EQ(2, wrongWith(*group).size()) << "what was not touched is stored as it was";
+    const auto screen = edit(ScreenFeeEarnerGroupEdit(), group.get());
+    type(screen->Box("txtHourly"), QStringLiteral("60"));
+    screen->Box("txtCalls").setFocus(Qt::TabFocusReason);
+    save(*screen);
     EXPECT_EQ(QStringList(), wrongWith(*group));
-    EXPECT_EQ(QStringLiteral("0.00"), group->HourlyRate());
-
-    const auto hearing = Form->AddFASItem(); // of a template's elements, all empty
-    hearing->dDate = QStringLiteral("01/02/26");
-    EXPECT_EQ(4, wrongWith(*hearing).size());
-    save(*edit(ScreenFASItemEdit(), hearing.get()));
-    EXPECT_EQ(QStringList(), wrongWith(*hearing));
+    EXPECT_EQ(QStringLiteral("60.00"), group->HourlyRate());
+    EXPECT_EQ(QStringLiteral("0.00"), group->CallsRate());
 }
 
 TEST_F(BrokenRecords, AnAmountThatIsNoneHoldsTheEditorUntilItIsOne)

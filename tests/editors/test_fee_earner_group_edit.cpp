@@ -153,15 +153,17 @@ TEST_F(FeeEarnerGroupEdit, ANewGroupIsMadeAtSaveWithItsRatesAtZero)
     EXPECT_EQ(0, group->Calls());
 }
 
-TEST_F(FeeEarnerGroupEdit, ARateThatAClaimLeftEmptyStaysSoInItsBoxAndIsSavedAsNothing)
+TEST_F(FeeEarnerGroupEdit, ARateThatAClaimLeftEmptyStaysSoUntilItsBoxHasHadTheFocus)
 {
     const auto group = addGroup("PTR", "Partner");
     group->CallsRate = QString();
     auto screen = edit(group.get());
     EXPECT_EQ(QString(), amount(*screen, "txtCalls"));
-    screen->reject();
+    press(*screen, "cmdSave");
+    EXPECT_FALSE(screen->isVisible());
     EXPECT_EQ(QString(), group->CallsRate());
     screen = edit(group.get());
+    screen->Box("txtCalls").setFocus(Qt::TabFocusReason);
     press(*screen, "cmdSave");
     EXPECT_EQ(QStringLiteral("0.00"), group->CallsRate());
 }

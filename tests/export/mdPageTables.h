@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <vector>
 
 // The pages of a government form as tables, written down a second time to test those of the export: which placeholder
@@ -33,3 +34,13 @@ struct FormTables {
 
 extern const FormTables Claim1Tables;
 extern const FormTables Claim1ATables;
+
+// What both forms have, written once.
+std::vector<PageRow> FirstPageOfBoth(); ///< from the stage number to the costs of the previous advice
+std::vector<PageRow> CommunicationsOfBoth(); ///< letters out, letters in and calls, and their total
+std::vector<PageRow> CostsAwardedAmountsOfBoth();
+std::vector<PageRow> CostsAwardedOfBoth(); ///< what follows the amounts
+PageTable DebtorsPageOfBoth(int number);
+
+/// The rows of several tables, one table behind the other.
+std::vector<PageRow> Joined(std::initializer_list<std::vector<PageRow>> tables);

@@ -186,7 +186,7 @@ TEST(DerivedCollections, AreRebuiltByRenderingTheirLists)
     EXPECT_EQ(form.Disbursement(1), form.NonCounselDisbursement(1));
 }
 
-TEST(DerivedCollections, AGapInTheOrderIsTheObjectError)
+TEST(DerivedCollections, AGapInTheOrderIsTheObjectErrorAndIsTold)
 {
     clsZR3Form form;
     for (int i = 0; i < 3; ++i)
@@ -194,9 +194,20 @@ TEST(DerivedCollections, AGapInTheOrderIsTheObjectError)
     form.DeleteScheduleOfTimeItem(2);
     form.DeleteFASItem(2);
     form.DeleteDisbursement(2);
-    EXPECT_EQ(Error::ObjectNotSet, errorOf([&] { form.RenderScheduleOfTimeItemsForExport(); }));
-    EXPECT_EQ(Error::ObjectNotSet, errorOf([&] { form.CreateFASCollections(); }));
-    EXPECT_EQ(Error::ObjectNotSet, errorOf([&] { form.SeparateCounselAndNonCounselDisbursements(); }));
+    const auto told = [](auto render) {
+        try {
+            render();
+        } catch (const Error &error) {
+            return QString::number(error.number()) + u' ' + error.cause();
+        }
+        return QString();
+    };
+    EXPECT_EQ(QStringLiteral("91 No schedule item has place 2 in the order of its list"),
+        told([&] { form.RenderScheduleOfTimeItemsForExport(); }));
+    EXPECT_EQ(QStringLiteral("91 No FAS item has place 2 in the order of its list"),
+        told([&] { form.CreateFASCollections(); }));
+    EXPECT_EQ(QStringLiteral("91 No disbursement has place 2 in the order of its list"),
+        told([&] { form.SeparateCounselAndNonCounselDisbursements(); }));
     // As a grid draws them: numbered 1 to n.
     form.ScheduleOfTimeItem(2)->OrderID = 2;
     form.FASItem(2)->OrderID = 2;

@@ -1,7 +1,11 @@
 #include "formdata/mdXMLControl.h"
+#include "formdata/mdXMLTemplate.h"
 #include "tests/support/mdTestPrinting.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -72,8 +76,23 @@ TEST(XMLLoadElement, RefusesMoreItemsThanAnyBillHas)
 {
     // Short in the file, each would come to some kilobytes once it is brought up to date.
     const QString list = QStringLiteral("<root><list>%1</list></root>");
-    EXPECT_TRUE(loads(list.arg(QStringLiteral("<item/>").repeated(250'000))));
-    EXPECT_FALSE(loads(list.arg(QStringLiteral("<item/>").repeated(250'001))));
+    EXPECT_TRUE(loads(list.arg(QStringLiteral("<item/>").repeated(100'000))));
+    EXPECT_FALSE(loads(list.arg(QStringLiteral("<item/>").repeated(100'001))));
+}
+
+TEST(XMLLoadElement, TakesAsManyItemsWithAllTheirElementsAsASaveWritesThem)
+{
+    // As many elements as those of the longest kind, under short names.
+    std::ptrdiff_t count = 0;
+    for (const char *name :
+        {"xmlZR3Counsel", "xmlZR3Disbursement", "xmlZR3Enhancement", "xmlZR3ExpertInvoice", "xmlZR3FASItem",
+            "xmlZR3FeeEarner", "xmlZR3FeeEarnerGroup", "xmlZR3JointInstruction", "xmlZR3ScheduleOfTimeItem"}) {
+        const auto elements = mdXMLTemplate(name).children();
+        count = std::max(count, std::distance(elements.begin(), elements.end()));
+    }
+    ASSERT_EQ(15, count);
+    const QString item = QStringLiteral("<i>%1</i>").arg(QStringLiteral("<e>1</e>").repeated(count));
+    EXPECT_TRUE(loads(QStringLiteral("<root><list>%1</list></root>").arg(item.repeated(100'000))));
 }
 
 TEST(XMLLoadElement, RefusesRubbishOfEveryByte)

@@ -180,7 +180,8 @@ class Sources(unittest.TestCase):
         quoted = r'(?:"(?:[^"\\]|\\.)*"\s*)+'
         row = re.compile(r'\{(?:\.kind = )?(?:Text|Tick|Decimal|Integer|Date|Time|List|Other|Button|Question),\s*'
                          rf'(?:\.control = )?"\w*",\s*(?:\.caption = )?({quoted})')
-        screens = [path.read_text(encoding="utf-8") for path in sorted((ROOT / "editors").glob("frm*.cpp"))]
+        screens = [path.read_text(encoding="utf-8") for name in ("frm*.cpp", "mdRateRows.cpp")
+                   for path in sorted((ROOT / "editors").glob(name))]
         captions = {"".join(scan.literals(caption)).rstrip("*").rstrip(":") for code in screens for caption in row.findall(code)}
         captions -= {"Yes", "No", "%", "", *map(str, range(1, 14))}
         self.assertGreater(len(captions), 150)

@@ -58,7 +58,7 @@ int clsSoak::run()
     }
     // Another word processor on the tester's machine is no business of the soak.
     const clsProcessListScope noProcesses([] { return QStringList(); });
-    m_claims = mdMakeSoakFolder(m_folder.path(), m_dice);
+    m_claims = mdMakeSoakFolder(m_folder.path(), m_dice, m_options.samplesOnly);
     m_disk.begin();
     while (m_trail.actions() < m_options.actions && m_failure.isEmpty())
         live();
@@ -306,7 +306,8 @@ int clsSoak::report()
     if (m_failure.isEmpty() && grows.isEmpty())
         return 0;
     m_trail.printLast();
-    std::fprintf(stderr, "FAILED: %s\nAgain by: soak --seed %llu --actions %d\n",
-        qPrintable(m_failure.isEmpty() ? grows : m_failure), m_options.seed, m_options.actions);
+    std::fprintf(stderr, "FAILED: %s\nAgain by: soak --seed %llu --actions %d%s\n",
+        qPrintable(m_failure.isEmpty() ? grows : m_failure), m_options.seed, m_options.actions,
+        m_options.samplesOnly ? " --samples" : "");
     return 1;
 }

@@ -20,6 +20,7 @@ class frmMain;
 struct clsSoakOptions {
     quint64 seed = 1;
     int actions = 1000;
+    bool samplesOnly = false; ///< no random claims, and no broken one
     bool tellsAll = false;
 };
 

@@ -23,7 +23,7 @@ void write(const QString &path, const QByteArray &bytes)
 
 } // namespace
 
-QStringList mdMakeSoakFolder(const QString &folder, clsDice &dice)
+QStringList mdMakeSoakFolder(const QString &folder, clsDice &dice, bool samplesOnly)
 {
     for (const char *name :
         {"program/Databases", "program/Logs", "claims", "export", "backups", "config", "state", "profile/Desktop"})
@@ -47,6 +47,8 @@ QStringList mdMakeSoakFolder(const QString &folder, clsDice &dice)
         QFile::copy(mdSamplePath(sample), claims.last());
         QFile::setPermissions(claims.last(), QFile::ReadOwner | QFile::WriteOwner);
     }
+    if (samplesOnly)
+        return claims;
     for (const int items : ItemsOfClaims) {
         claims << in("claims/") + QStringLiteral("random of %1.zr3").arg(items);
         mdWriteRandomClaim(dice, items, claims.last());

@@ -1,6 +1,6 @@
 // Lets a user who knows nothing do everything: see CONTRIBUTING.md, "Proofs".
 //
-//     soak [--seed S] [--actions N] [--trail]
+//     soak [--seed S] [--actions N] [--samples] [--trail]
 
 #include "tests/soak/clsSoak.h"
 
@@ -49,6 +49,8 @@ bool read(int argc, char **argv, clsSoakOptions &options)
         const bool hasValue = i + 1 < argc;
         if (std::strcmp(argv[i], "--trail") == 0)
             options.tellsAll = true;
+        else if (std::strcmp(argv[i], "--samples") == 0)
+            options.samplesOnly = true;
         else if (hasValue && std::strcmp(argv[i], "--seed") == 0)
             options.seed = std::strtoull(argv[++i], nullptr, 10);
         else if (hasValue && std::strcmp(argv[i], "--actions") == 0)
@@ -65,7 +67,7 @@ int main(int argc, char **argv)
 {
     clsSoakOptions options;
     if (!read(argc, argv, options)) {
-        std::fprintf(stderr, "usage: soak [--seed S] [--actions N] [--trail]\n");
+        std::fprintf(stderr, "usage: soak [--seed S] [--actions N] [--samples] [--trail]\n");
         return 2;
     }
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))

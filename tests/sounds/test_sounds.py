@@ -18,7 +18,7 @@ NAMES = {"Alert.wav", "Blip.wav", "Blip Low.wav"}
 class Sounds(unittest.TestCase):
     def test_the_program_names_these_and_no_others(self):
         named = set()
-        for folder in ("controls", "editors", "shell", "wordexport"):
+        for folder in ("base", "commands", "controls", "editors", "shell", "wordexport"):
             for source in (SOURCES / folder).rglob("*.cpp"):
                 named |= set(re.findall(r'"Sounds/([^"]+)"', source.read_text("utf-8")))
         self.assertEqual(NAMES, named)

@@ -147,7 +147,9 @@ TEST_F(BadInput, AClaimWhoseOrderHasAGapEndsItsLoad)
     const QString file = put("gap.zr3",
         "<vzrform><disbursements><disbursement><orderid>2</orderid></disbursement>"
         "</disbursements></vzrform>");
-    expectRefused(file, "Run-time error '91': Object variable or With block variable not set\n");
+    expectRefused(file,
+        "Run-time error '91': Object variable or With block variable not set\n"
+        "No disbursement has place 1 in the order of its list\n");
 }
 
 TEST_F(BadInput, ABooleanThatIsNoneEndsALoadThatReadsIt)

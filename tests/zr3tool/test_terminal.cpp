@@ -91,6 +91,18 @@ TEST_F(Terminal, ShowsTheTextsOfAClaimWithoutTheirControlCharacters)
         shownBy({"export"_q, putClaim(form), folder.path()}, STDERR_FILENO, 4));
 }
 
+TEST_F(Terminal, ALineBreakInAClaimBeginsNoLine)
+{
+    clsZR3Form form;
+    form.FormType = "a\r\nTotals: b"_q;
+    EXPECT_EQ("Export: There are no pages for the form type \"a??Totals: b\" of this claim.\n",
+        shownBy({"export"_q, putClaim(form), folder.path()}, STDERR_FILENO, 4));
+    form.FormType = "Claim1"_q;
+    fill(form);
+    form.ScheduleOfTimeItem(1)->TTime = "a\r\nTotals"_q;
+    EXPECT_TRUE(shownBy({"totals"_q, putClaim(form)}, STDERR_FILENO, 4).contains("the time \"a??Totals\", which"));
+}
+
 TEST_F(Terminal, ShowsTheFiguresWithTheirControlCharactersEscaped)
 {
     clsZR3Form form;
@@ -100,6 +112,23 @@ TEST_F(Terminal, ShowsTheFiguresWithTheirControlCharactersEscaped)
     EXPECT_EQ(m_odd, QJsonDocument::fromJson(shown)["FormType"_q].toString());
     // Wherever the figures go.
     EXPECT_EQ(shown, run({"totals"_q, path("claim.zr3")}).out);
+}
+
+TEST_F(Terminal, ShowsWhatAnErrorComesFromOnLinesOfItsOwn)
+{
+    clsZR3Form form;
+    fill(form);
+    form.ScheduleOfTimeItem(1)->FeeEarnerUniqueID = "ID99"_q;
+    form.AddExpertInvoice()->VATAmount = QString();
+    const QByteArray item = "Schedule item 1 names a fee earner that no longer exists\n";
+    const QString claim = putClaim(form);
+    EXPECT_EQ(
+        "Totals: Some figures of this claim can't be computed. Each of them stands as \"!\" and the number of its "
+        "run-time error.\n"
+            + item + "Expert invoice 1: VAT Amount is empty\n",
+        shownBy({"totals"_q, claim}, STDERR_FILENO, 4));
+    EXPECT_EQ("Run-time error '91': Object variable or With block variable not set\n" + item,
+        shownBy({"export"_q, claim, folder.path()}, STDERR_FILENO, 4));
 }
 
 TEST_F(Terminal, ShowsTheCheckLineByLine)

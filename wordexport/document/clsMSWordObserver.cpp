@@ -2,6 +2,7 @@
 
 namespace {
 
+// One for the program: a test watches all word processors that an export makes, however deep inside.
 clsMSWordObserver nobody;
 clsMSWordObserver *current = &nobody;
 

@@ -26,15 +26,17 @@ clsWordBoldness::clsWordBoldness(const pugi::xml_node &styles)
 
 std::shared_ptr<const clsWordBoldness> clsWordBoldness::ofStyles(const QByteArray &styles)
 {
-    static QByteArray lastStyles;
-    static std::shared_ptr<const clsWordBoldness> last;
-    if (!last || lastStyles != styles) {
+    // All sheets of an export have the same styles, and each is a document that knows nothing of the others.
+    static struct {
+        QByteArray styles;
+        std::shared_ptr<const clsWordBoldness> boldness;
+    } last;
+    if (!last.boldness || last.styles != styles) {
         pugi::xml_document tree;
         tree.load_buffer(styles.constData(), size_t(styles.size()), WordXml::ParseFlags);
-        last = std::make_shared<clsWordBoldness>(tree.document_element());
-        lastStyles = styles;
+        last = {styles, std::make_shared<clsWordBoldness>(tree.document_element())};
     }
-    return last;
+    return last.boldness;
 }
 
 std::optional<bool> clsWordBoldness::ofStyle(const std::string &id) const

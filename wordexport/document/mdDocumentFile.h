@@ -13,11 +13,10 @@ QByteArray mdReadDocumentFile(const QString &path, qint64 limit);
 /// the old file stays.
 void mdWriteDocumentFile(const QString &path, const QByteArray &bytes);
 
-/// Gives the finished name to a document that is written, in one step. Those may read it who may read the claim's file;
-/// its owner alone where the claim has none. One that is there already is replaced as if it were written over: one that
-/// is write-protected stays; where the name is a link, the document that it leads to is the one; and the new one is
-/// open to no more users than the old. A failure is a clsRunTimeError, also where the document must be copied and has
-/// more bytes than the limit.
+/// Gives the finished name to a document that is written, in one step. It gets the rights of the claim's file, whatever a
+/// document that it replaces had; where the claim has no file it is its owner's alone. A document that is write-protected
+/// stays; where the name is a link, the document that it leads to is replaced. A failure is a clsRunTimeError, also where
+/// the document must be copied and has more bytes than the limit.
 void mdPutDocumentInPlace(const QString &written, const QString &finished, const QString &claimFile, qint64 limit);
 
 /// Writes a file that lives for one export only, in the quickest way: always a new file, since replacing one, by its

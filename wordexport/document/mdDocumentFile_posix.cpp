@@ -1,7 +1,7 @@
 #include "wordexport/document/mdDocumentFile.h"
 
 #include "base/clsFileSystem.h"
-#include "base/mdAccessList.h"
+#include "base/mdFileRights.h"
 #include "base/mdRealPath.h"
 #include "base/mdShortenedName.h"
 #include "base/mdSyncFolder.h"
@@ -76,46 +76,17 @@ private:
     throw clsRunTimeError::fromSystem(systemError);
 }
 
-/// Who may read and write a file.
-struct clsRights {
-    mode_t mode = OwnerOnly;
-    gid_t group = gid_t(-1);
-
-    /// The group loses what not everybody has.
-    void withoutGroup() { mode = (mode & ~mode_t(S_IRWXG)) | (mode & S_IRWXO) << 3; }
-};
-
-clsRights rightsIn(const struct stat &status)
-{
-    return {status.st_mode & 07777, status.st_gid};
-}
-
 /// The rights of a claim's file, for its document.
-clsRights rightsOfClaim(const QString &claimFile)
+clsFileRights rightsOfClaim(const QString &claimFile)
 {
     const QByteArray path = QFile::encodeName(claimFile);
     struct stat status;
     if (path.isEmpty() || statusOf(path, status) != 0)
         return {};
-    clsRights rights = rightsIn(status);
+    clsFileRights rights = clsFileRights::of(path, status);
     // A claim that is write-protected doesn't make a document that can't be replaced.
     rights.mode = (rights.mode & ReadAndWrite) | OwnerOnly;
-    if (mdHasAccessList(path))
-        rights.withoutGroup();
     return rights;
-}
-
-/// Gives a new file its rights. A file system without modes is no reason to fail: the file was born private.
-void give(int descriptor, clsRights rights)
-{
-    struct stat own;
-    if (mdUninterrupted([&] { return ::fstat(descriptor, &own); }) != 0)
-        return;
-    if (own.st_gid != rights.group && (rights.group == gid_t(-1) || mdUninterrupted([&] {
-            return ::fchown(descriptor, uid_t(-1), rights.group);
-        }) != 0))
-        rights.withoutGroup();
-    (void)mdUninterrupted([&] { return ::fchmod(descriptor, rights.mode); });
 }
 
 // A name that is free, beside the document and hidden. A leftover of an earlier crash is passed over.
@@ -182,13 +153,13 @@ bool mayBeReplaced(const QByteArray &document, struct stat &status)
     return true;
 }
 
-void writeBesideAndRename(const QByteArray &document, const QByteArray &bytes, const clsRights &rights)
+void writeBesideAndRename(const QByteArray &document, const QByteArray &bytes, const clsFileRights &rights)
 {
     QByteArray sidePath;
     clsDescriptor side(createSideFile(document, sidePath));
     if (side.get() < 0)
         fail(errno == ENOENT ? ENOTDIR : errno); // it is the folder that was not found
-    give(side.get(), rights);
+    rights.giveTo(side.get());
     const bool written = writeAll(side.get(), bytes) && mdUninterrupted([&] { return ::fsync(side.get()); }) == 0
         && side.close() && renameFile(sidePath, document) == 0;
     if (!written) {
@@ -200,13 +171,13 @@ void writeBesideAndRename(const QByteArray &document, const QByteArray &bytes, c
 }
 
 /// Gives the rights to a file by its name.
-void giveTo(const QByteArray &path, const clsRights &rights)
+void giveTo(const QByteArray &path, const clsFileRights &rights)
 {
     const clsDescriptor file(
         mdUninterrupted([&] { return ::open(path.constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC); }));
     if (file.get() < 0)
         fail(errno);
-    give(file.get(), rights);
+    rights.giveTo(file.get());
 }
 
 } // namespace
@@ -223,19 +194,17 @@ void mdWriteDocumentFile(const QString &path, const QByteArray &bytes)
 {
     const QByteArray document = fileItself(path);
     struct stat older;
-    writeBesideAndRename(document, bytes, mayBeReplaced(document, older) ? rightsIn(older) : clsRights());
+    writeBesideAndRename(
+        document, bytes, mayBeReplaced(document, older) ? clsFileRights::of(document, older) : clsFileRights());
 }
 
 void mdPutDocumentInPlace(const QString &written, const QString &finished, const QString &claimFile, qint64 limit)
 {
     const QByteArray from = QFile::encodeName(written);
     const QByteArray named = QFile::encodeName(finished);
-    clsRights rights = rightsOfClaim(claimFile);
+    const clsFileRights rights = rightsOfClaim(claimFile);
     struct stat older;
-    const bool exists = mayBeReplaced(named, older);
-    if (exists)
-        rights.mode &= older.st_mode | OwnerOnly;
-    const QByteArray document = exists ? fileItself(finished) : named;
+    const QByteArray document = mayBeReplaced(named, older) ? fileItself(finished) : named;
     giveTo(from, rights);
     if (renameFile(from, document) == 0)
         syncFolderOf(document);

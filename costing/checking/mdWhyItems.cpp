@@ -6,6 +6,8 @@
 #include "costing/mdFigureFaults.h"
 #include "formdata/clsZR3Form.h"
 
+#include <algorithm>
+
 // Items of the schedule, lines of letters and calls, hearings.
 
 namespace {

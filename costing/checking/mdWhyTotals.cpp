@@ -6,6 +6,7 @@
 #include "costing/mdBillFigures.h"
 #include "formdata/clsOnBill.h"
 
+#include <algorithm>
 #include <array>
 #include <span>
 

@@ -50,6 +50,11 @@ Money listCounsel(const clsBill &bill)
     return RoundMoney2(CounselFeesTotal(bill.form()));
 }
 
+Money claim1Total(const clsBill &bill)
+{
+    return RoundMoney2(GrossWithoutCounsel(bill));
+}
+
 Money claim1AVAT(const clsBill &bill)
 {
     return mdSumOf({VATWithoutCounsel(bill), FASVATTotal(bill.form())});
@@ -64,11 +69,12 @@ const clsBillFigure Claim1List[] = {
     {"profitcosts", ProfitCostsTotal},
     {"disbursements", listDisbursements},
     {"vat", [](const clsBill &bill) { return RoundMoney2(VATWithoutCounsel(bill)); }},
-    {"total", [](const clsBill &bill) { return RoundMoney2(GrossWithoutCounsel(bill)); }},
+    {"total", claim1Total},
     {"counsel", listCounsel},
     {"all",
         [](const clsBill &bill) {
-            return RoundMoney2(mdSumOf({GrossWithoutCounsel(bill), CounselFeesTotal(bill.form())}));
+            return RoundMoney2(
+                mdSumOf({NetWithoutCounsel(bill), VATWithoutCounsel(bill), CounselFeesTotal(bill.form())}));
         }},
 };
 
@@ -91,18 +97,18 @@ bool isClaim1A(const Form &form)
     return form.FormType() == QLatin1String("Claim1A");
 }
 
-const clsBillFigure *rowOf(std::span<const clsBillFigure> figures, QLatin1String key)
-{
-    const auto row = std::find_if(figures.begin(), figures.end(),
-        [key](const clsBillFigure &figure) { return key == QLatin1String(figure.key); });
-    return row == figures.end() ? nullptr : &*row;
-}
-
 } // namespace
 
 std::span<const clsBillFigure> mdTotalFigures()
 {
     return Totals;
+}
+
+std::span<const clsBillFigure> mdSummaryFigures(const clsZR3Form &form)
+{
+    if (isClaim1A(form))
+        return Claim1ASummary;
+    return Claim1Summary;
 }
 
 std::span<const clsBillFigure> mdListFigures(const clsZR3Form &form)
@@ -112,16 +118,9 @@ std::span<const clsBillFigure> mdListFigures(const clsZR3Form &form)
     return Claim1List;
 }
 
-const clsBillFigure *mdFigureOf(const clsZR3Form &form, QLatin1String key)
+const clsBillFigure *mdFigureOf(std::span<const clsBillFigure> figures, QLatin1String key)
 {
-    const auto summary = isClaim1A(form) ? std::span<const clsBillFigure>(Claim1ASummary) : Claim1Summary;
-    for (const auto &figures : {mdTotalFigures(), std::span<const clsBillFigure>(SharedSummary), summary})
-        if (const clsBillFigure *found = rowOf(figures, key))
-            return found;
-    return nullptr;
-}
-
-const clsBillFigure *mdListFigureOf(const clsZR3Form &form, QLatin1String column)
-{
-    return rowOf(mdListFigures(form), column);
+    const auto row = std::find_if(figures.begin(), figures.end(),
+        [key](const clsBillFigure &figure) { return key == QLatin1String(figure.key); });
+    return row == figures.end() ? nullptr : &*row;
 }

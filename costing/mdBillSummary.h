@@ -6,13 +6,15 @@
 #include "costing/mdGetDisbursementsTotals.h"
 #include "costing/mdGetFASTotals.h"
 
-#include <initializer_list>
+#include <algorithm>
+#include <array>
 #include <span>
 #include <string_view>
 
 // The summary of each form: its figures, each under the key that names it in the report of the totals and, in braces,
 // on the printed page.
 
+/// A single figure of the bill, by the key under which it is printed.
 struct clsBillFigure {
     const char *key;
     Money (*figure)(const clsBill &bill);
@@ -25,25 +27,33 @@ template <Money (*Figure)(const clsZR3Form &form)> Money mdOfForm(const clsBill 
 }
 
 /// What both forms begin with.
-inline constexpr clsBillFigure SharedSummary[] = {
+inline constexpr std::array SharedSummary = std::to_array<clsBillFigure>({
     {"npc", ProfitCostsTotal},
     {"nex", mdOfForm<ExpertInvoicesNetTotal>},
     {"ndibs", mdOfForm<NonCounselDisbursementsAmountTotal>},
     {"vpc", ProfitCostsVAT},
     {"vex", mdOfForm<ExpertInvoicesVATTotal>},
     {"vdibs", mdOfForm<NonCounselDisbursementsVATTotal>},
-};
+});
 
-inline constexpr clsBillFigure Claim1Summary[] = {
+/// The summary of a form: what both begin with, and its own.
+template <size_t Count> consteval auto mdSummaryWith(const clsBillFigure (&own)[Count])
+{
+    std::array<clsBillFigure, SharedSummary.size() + Count> all {};
+    std::copy(std::begin(own), std::end(own), std::copy(SharedSummary.begin(), SharedSummary.end(), all.begin()));
+    return all;
+}
+
+inline constexpr std::array Claim1Summary = mdSummaryWith({
     {"ntotal", NetWithoutCounsel},
     {"vtotal", VATWithoutCounsel},
     {"grandtotal", GrossWithoutCounsel},
     {"ncf", mdOfForm<CounselFeesAmountTotal>},
     {"vcf", mdOfForm<CounselFeesVATTotal>},
     {"cftotal", mdOfForm<CounselFeesTotal>},
-};
+});
 
-inline constexpr clsBillFigure Claim1ASummary[] = {
+inline constexpr std::array Claim1ASummary = mdSummaryWith({
     {"nsubtotal", NetWithoutCounsel},
     {"vsubtotal", VATWithoutCounsel},
     {"nfas", mdOfForm<FASItemsTotal>},
@@ -52,14 +62,13 @@ inline constexpr clsBillFigure Claim1ASummary[] = {
     {"vcsl", mdOfForm<CounselFeesVATTotal>},
     {"ntotal", NetWithAdvocacyAndCounsel},
     {"vtotal", VATWithAdvocacyAndCounsel},
-};
+});
 
 /// The figure of that key in a form's summary; one that the form does not have does not compile.
-consteval auto mdSummaryFigure(std::span<const clsBillFigure> ofForm, std::string_view key)
+consteval auto mdSummaryFigure(std::span<const clsBillFigure> summary, std::string_view key)
 {
-    for (const std::span<const clsBillFigure> rows : {std::span<const clsBillFigure>(SharedSummary), ofForm})
-        for (const clsBillFigure &row : rows)
-            if (std::string_view(row.key) == key)
-                return row.figure;
+    for (const clsBillFigure &row : summary)
+        if (std::string_view(row.key) == key)
+            return row.figure;
     throw "no figure of that key";
 }

@@ -7,15 +7,10 @@
 #include "costing/mdBillFigures.h"
 #include "costing/mdCheckForBlankItems.h"
 #include "costing/mdFigureFaults.h"
-#include "costing/mdGetBillSummary.h"
 #include "costing/mdGetColumnTotals.h"
 #include "costing/mdGetCommsInfo.h"
 #include "costing/mdGetCounselTotals.h"
-#include "costing/mdGetDisbursementsTotals.h"
-#include "costing/mdGetFASTotals.h"
 #include "formdata/clsOnBill.h"
-
-#include <span>
 
 namespace {
 
@@ -107,11 +102,7 @@ clsTotalsReport Report::write()
     figures(mdTotalFigures());
     counselAtLine();
     m_json.beginObject("Summary");
-    figures(SharedSummary);
-    if (m_form.FormType() == QLatin1String("Claim1A"))
-        figures(Claim1ASummary);
-    else
-        figures(Claim1Summary);
+    figures(mdSummaryFigures(m_form));
     m_json.endObject();
     blankItems();
     m_json.endObject();

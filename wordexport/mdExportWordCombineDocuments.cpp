@@ -1,6 +1,7 @@
 #include "wordexport/mdExportWordCombineDocuments.h"
 
 #include "base/clsFileSystem.h"
+#include "base/clsRunTimeError.h"
 #include "base/mdLog.h"
 #include "base/mdSetProgress.h"
 #include "wordexport/clsExport.h"
@@ -50,7 +51,11 @@ void mdExportWordCombineDocuments(clsExport &run)
         throw clsExportStopped();
     word.Quit();
     mdStopAtExistingDocument(run);
-    mdPutDocumentInPlace(
-        joined, mdFinishedDocumentPath(run.exportFolder, run.form.FormType()), run.claimFile, ZipLimits::PackageBytes);
+    const QString finished = mdFinishedDocumentPath(run.exportFolder, run.form.FormType());
+    try {
+        mdPutDocumentInPlace(joined, finished, run.claimFile, ZipLimits::PackageBytes);
+    } catch (const clsRunTimeError &error) {
+        throw error.because(QStringLiteral("The document can't be written: ") + finished);
+    }
     WriteLog(QStringLiteral("End Export Word Combine Documents"));
 }

@@ -20,9 +20,19 @@ void exportPage(clsExport &run, const clsExportPageRow &page)
     WriteLog(QStringLiteral("End Export Word ") + name);
 }
 
+/// The lock on the folder of the sheets. An error there ends the export, and the user has chosen the folder.
+std::shared_ptr<clsFolderLock> folderOfSheets(const clsExport &run)
+{
+    try {
+        return mdCreateExportTempFolder(run.exportFolder);
+    } catch (const clsRunTimeError &error) {
+        throw error.because(QStringLiteral("The sheets can't be written to the folder ") + run.exportFolder);
+    }
+}
+
 void exportSheets(clsExport &run, const clsExportForm &form)
 {
-    run.folderLock = mdCreateExportTempFolder(run.exportFolder);
+    run.folderLock = folderOfSheets(run);
     if (!run.folderLock)
         throw clsExportStopped();
     // Another export may have ended while this one waited for the lock.

@@ -140,14 +140,15 @@ bool isClaim1A(const Form &form)
 
 clsTotal totalOf(const Form &form, QLatin1String key)
 {
+    const clsBillFigure *figure = mdFigureOf(mdTotalFigures(), key);
     return {rowOf({TotalRows, SharedRows, isClaim1A(form) ? clsRows(Claim1ARows) : clsRows(Claim1Rows)}, key),
-        mdFigureOf(form, key)};
+        figure ? figure : mdFigureOf(mdSummaryFigures(form), key)};
 }
 
 clsTotal columnOf(const Form &form, QLatin1String key)
 {
-    return {
-        rowOf({isClaim1A(form) ? clsRows(Claim1AColumns) : clsRows(Claim1Columns)}, key), mdListFigureOf(form, key)};
+    return {rowOf({isClaim1A(form) ? clsRows(Claim1AColumns) : clsRows(Claim1Columns)}, key),
+        mdFigureOf(mdListFigures(form), key)};
 }
 
 void addFigure(clsWhy &why, const QString &words, const clsTotal &total, const clsBill &bill)

@@ -47,6 +47,16 @@ protected:
         }
         return {};
     }
+    /// What the error that ends an export comes from; empty where none does.
+    QString causeOfExport()
+    {
+        try {
+            exportClaim();
+        } catch (const clsRunTimeError &error) {
+            return error.cause();
+        }
+        return {};
+    }
     static QByteArray mainPartOf(const QString &file)
     {
         clsWordPackage package = clsWordPackage::fromFile(file);
@@ -392,6 +402,7 @@ TEST_F(Driver, ATemporaryFolderThatCannotBeMadeEndsTheExport)
 {
     put(temporary(), "a file in the way");
     EXPECT_EQ(clsRunTimeError::PathFileAccess, errorOf([&] { exportClaim(); }));
+    EXPECT_EQ(QStringLiteral("The sheets can't be written to the folder ") + folder.path(), causeOfExport());
     EXPECT_EQ(QByteArray("a file in the way"), bytesOf(temporary()));
     EXPECT_FALSE(QFileInfo::exists(finished()));
 
@@ -414,6 +425,7 @@ TEST_F(Driver, AFolderUnderTheFinishedNameIsAnErrorAndStays)
     includeOnly({1});
     EXPECT_NE(0, errorOf([&] { exportClaim(); }));
     EXPECT_TRUE(QFileInfo(finished()).isDir());
+    EXPECT_EQ(QStringLiteral("The document can't be written: ") + finished(), causeOfExport());
 }
 
 TEST_F(Driver, AWriteProtectedDocumentStays)

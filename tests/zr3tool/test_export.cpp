@@ -171,7 +171,9 @@ TEST_F(ToolExport, AFolderThatCanNotBeWrittenIsAFailure)
     ASSERT_EQ(0, chmod(QFile::encodeName(out()).constData(), 0555));
     const clsToolResult result = run({"export"_q, claim, out()}, {}, *asSomebodyElse);
     EXPECT_EQ(4, result.status);
-    EXPECT_EQ("Run-time error '70': Permission denied\n", result.err);
+    EXPECT_EQ(
+        "Run-time error '70': Permission denied\nThe sheets can't be written to the folder " + out().toUtf8() + "\n",
+        result.err);
     EXPECT_EQ(QStringList(), filesOf(out()));
     ASSERT_EQ(0, chmod(QFile::encodeName(out()).constData(), 0755));
 }
@@ -403,7 +405,9 @@ TEST_F(ToolExport, AFolderAmongTheSheetsIsLeftAlone)
         const clsToolResult result = run(arguments);
         EXPECT_EQ(4, result.status);
         EXPECT_EQ("", result.out);
-        EXPECT_EQ("Run-time error '75': Path/File access error\n", result.err);
+        EXPECT_EQ("Run-time error '75': Path/File access error\nThe sheets can't be written to the folder "
+                + out().toUtf8() + "\n",
+            result.err);
         EXPECT_EQ(QStringList({"a.txt"_q, "letters"_q, "z.txt"_q}), filesOf(path("out/~ZR3Temp")));
         for (const QString &name : names)
             EXPECT_EQ(name.toUtf8(), bytesOf(path("out/~ZR3Temp") + u'/' + name));

@@ -53,15 +53,15 @@ const clsRateRow &rateRow(Item::RateRule rule)
 /// The steps of one item of the schedule.
 class clsItemSteps {
 public:
-    clsItemSteps(const clsBill &bill, const Item &item)
+    clsItemSteps(clsWhy &why, const clsBill &bill, const Item &item)
         : m_form(bill.form())
         , m_item(item)
         , m_price(bill.prices().of(item))
-        , m_own {QStringLiteral("Schedule of Time"), QStringLiteral("schedule"), item.OrderID()}
-        , m_why(m_own)
+        , m_own(why.source())
+        , m_why(why)
     { }
 
-    clsWhy why()
+    void add()
     {
         feeEarner();
         rate();
@@ -69,7 +69,6 @@ public:
         m_why.addAll(QStringLiteral("Enhancements"), [this] { percentages(); });
         enhancement();
         m_why.add(QStringLiteral("Claim"), {}, m_own, [this] { return figure(Price::ClaimFigure, m_price.Claim); });
-        return std::move(m_why);
     }
 
 private:
@@ -140,7 +139,7 @@ private:
     const Item &m_item;
     const Price &m_price;
     const clsWhySource m_own;
-    clsWhy m_why;
+    clsWhy &m_why;
     std::shared_ptr<clsZR3FeeEarnerGroup> m_group;
 };
 
@@ -178,7 +177,9 @@ std::optional<clsWhy> mdWhyScheduleItem(const clsBill &bill, int orderID)
     const auto item = bill.form().ScheduleOfTimeItemByOrderID(orderID);
     if (!item)
         return {};
-    return clsItemSteps(bill, *item).why();
+    clsWhy why({QStringLiteral("Schedule of Time"), QStringLiteral("schedule"), orderID});
+    why.addAll(QStringLiteral("Claim"), [&] { clsItemSteps(why, bill, *item).add(); });
+    return why;
 }
 
 std::optional<clsWhy> mdWhyCommunications(const clsBill &bill, clsCommsKind kind, int line)

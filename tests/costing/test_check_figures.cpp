@@ -158,3 +158,16 @@ TEST_F(CheckFigures, OfTheFixedFeeOnItsPage)
     form.ActualCostsIncurred.FixedFee = QString();
     EXPECT_EQ(QStringList(), figures());
 }
+
+TEST_F(CheckFigures, OfAClaimInWhichNothingCanBeLookedUp)
+{
+    addDated("01:00", "03/06/25");
+    setContent(*group, "orderid", "99999999999");
+    const QString item1 = "error|Schedule of Time|schedule|1|"_q;
+    EXPECT_EQ(item1, figures().value(0));
+    EXPECT_EQ("error|Schedule of Time|schedule|2|"_q, figures().value(1));
+    EXPECT_EQ("Fee earner group A: Order ID holds \"99999999999\", which is too large a number; put it right there."_q,
+        said("figure").front());
+    form.ClientDetails.Surname = QString(); // the rest is looked through
+    EXPECT_EQ(1, found("missing").size());
+}

@@ -116,6 +116,14 @@ TEST_F(Why, EndsAtTheStepThatFails)
         steps("schedule", "1"));
 }
 
+TEST_F(Why, OfAClaimInWhichNothingCanBeLookedUp)
+{
+    group->XMLNode().child("orderid").text().set("99999999999");
+    EXPECT_EQ(
+        QStringList {"Claim: Fee earner group A: Order ID holds \"99999999999\", which is too large a number.|!6"_q},
+        steps("schedule", "1"));
+}
+
 TEST_F(Why, OfALineOfLettersAndCalls)
 {
     // 3 at 5.00 are 15; 12.5 per cent of that 1.875, 10 per cent 1.5; together 18.375.
@@ -219,6 +227,28 @@ TEST_F(Why, KnowsNothingOfFiguresThatThereAreNot)
             std::pair("communications", "-1/1"), std::pair("fas", "1"), std::pair("total", "nsubtotal"),
             std::pair("total", "FormType"), std::pair("total", ""), std::pair("bill", "1"), std::pair("", "")})
         EXPECT_EQ(nothing, steps(kind, which)) << kind << ' ' << which;
+}
+
+TEST_F(Why, EndsInTheErrorsOfTheTotals)
+{
+    for (const char *formType : {"Claim1", "Claim1A"}) {
+        form.FormType = QString::fromLatin1(formType);
+        feeEarner->LettersIn = 1;
+        group->LettersInRate = "2 each"_q; // 13
+        claim.addItem(feeEarner, "")->Advocacy = true; // 9
+        claim.addDisbursement("99999999999999999", "x"); // 6 and 13
+        claim.addDisbursement("x", "1", true);
+        claim.addFASItem(1, "x", "0")->VATForFAS = "999999999999999999"_q; // 13 and 6
+        form.SeparateCounselAndNonCounselDisbursements();
+        const QJsonObject totals = QJsonDocument::fromJson(mdTotalsReport(form).json).object();
+        for (const clsBillFigure &total : mdTotalFigures())
+            EXPECT_EQ(totals[QString::fromLatin1(total.key)].toString(),
+                mdWhyTotal(form, QString::fromLatin1(total.key))->figure())
+                << total.key;
+        const QJsonObject summary = totals["Summary"_q].toObject();
+        for (const QString &key : summary.keys())
+            EXPECT_EQ(summary[key].toString(), mdWhyTotal(form, key)->figure()) << key.toStdString();
+    }
 }
 
 // Each figure that the totals print has its reasons, which end in it.

@@ -3,6 +3,7 @@
 #include "costing/mdBillSummary.h"
 #include "costing/mdGetCounselTotals.h"
 #include "costing/mdGetDisbursementsTotals.h"
+#include "costing/mdPageRoom.h"
 #include "formdata/mdOutcomesCollections.h"
 #include "wordexport/clsExport.h"
 #include "wordexport/mdExportRows.h"
@@ -122,10 +123,11 @@ void mdExportWordClaim1Page6(clsExport &run)
 // Page 7: disbursements. The counter starts anew before the second grid, so that both grids' first further sheets are
 // 7(2): the second overwrites the first, and the finished document shows it twice. It is to stay so.
 
-const clsGrid JointInstructionsGrid = {mdCountOf<&clsZR3Form::JointInstructionsCollection>, JointInstructionCells, 14,
-    30, 6, 5, "Claim1 P7 Expert Dibs Joint Instruction Cont"};
-const clsGrid OtherDisbursementsGrid = {mdCountOf<&clsZR3Form::NonCounselDisbursementsCollection>,
-    OtherDisbursementCells, 12, 32, 25, 3, "Claim1 P7 Other Dibs Cont"};
+const clsGrid JointInstructionsGrid = {mdCountOf<&clsZR3Form::JointInstructionsCollection>, JointInstructionCells,
+    JointInstructionsRoom.first, JointInstructionsRoom.further, 6, 5, "Claim1 P7 Expert Dibs Joint Instruction Cont"};
+const clsGrid OtherDisbursementsGrid
+    = {mdCountOf<&clsZR3Form::NonCounselDisbursementsCollection>, OtherDisbursementCells, OtherDisbursementsRoom.first,
+        OtherDisbursementsRoom.further, 25, 3, "Claim1 P7 Other Dibs Cont"};
 
 const clsGridPage::Grid Page7Grids[] = {
     {&JointInstructionsGrid, clsGridPage::StartsAnew},

@@ -6,6 +6,7 @@
 #include "costing/mdGetColumnTotals.h"
 #include "costing/mdGetDisbursementsTotals.h"
 #include "costing/mdGetFASTotals.h"
+#include "costing/mdPageRoom.h"
 #include "formdata/mdOutcomesCollections.h"
 #include "wordexport/clsExport.h"
 #include "wordexport/mdExportRows.h"
@@ -161,11 +162,12 @@ const clsGridPage Page6 = {6, "Claim1A P6", Page6Grids, Page6Rows};
 
 // Page 7: disbursements. The counter runs on from the first grid to the second, so that no sheet overwrites another.
 
-const clsGrid JointInstructionsGrid = {mdCountOf<&clsZR3Form::JointInstructionsCollection>, JointInstructionCells, 14,
-    30, 8, 5, "Claim1A P7 Expert Dibs Joint Instruction Cont"};
+const clsGrid JointInstructionsGrid = {mdCountOf<&clsZR3Form::JointInstructionsCollection>, JointInstructionCells,
+    JointInstructionsRoom.first, JointInstructionsRoom.further, 8, 5, "Claim1A P7 Expert Dibs Joint Instruction Cont"};
 // The small a is the template's name as it stands.
-const clsGrid OtherDisbursementsGrid = {mdCountOf<&clsZR3Form::NonCounselDisbursementsCollection>,
-    OtherDisbursementCells, 12, 32, 27, 3, "Claim1a P7 Other Dibs Cont"};
+const clsGrid OtherDisbursementsGrid
+    = {mdCountOf<&clsZR3Form::NonCounselDisbursementsCollection>, OtherDisbursementCells, OtherDisbursementsRoom.first,
+        OtherDisbursementsRoom.further, 27, 3, "Claim1a P7 Other Dibs Cont"};
 
 const clsGridPage::Grid Page7Grids[] = {
     {&JointInstructionsGrid, clsGridPage::StartsAnew},

@@ -42,15 +42,16 @@ const std::vector<clsBilledItem> &clsClaimCheck::billed()
         return *m_billed;
     m_billed.emplace();
     clsOnBill isOnBill(m_form);
+    clsSchedulePrices &prices = m_bill.prices();
     each(m_form.ScheduleOfTimeItemsCollection(), [&](const clsZR3ScheduleOfTimeItem &item, int order) {
         if (isOnBill(item))
-            m_billed->push_back({&item, &m_bill.prices().of(item), order, mdStoredDate(item.dDate())});
+            m_billed->push_back({&item, &prices.of(item), order, mdStoredDate(item.dDate())});
     });
     return *m_billed;
 }
 
 void clsClaimCheck::add(const clsFindingPlace &place, const QString &text, clsFindingLevel level)
 {
-    m_findings.push_back({QString::fromLatin1(m_rule->id), level, place.screen,
-        place.list, place.item, place.property, text});
+    m_findings.push_back(
+        {QString::fromLatin1(m_rule->id), level, place.screen, place.list, place.item, place.property, text});
 }

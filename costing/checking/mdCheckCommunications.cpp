@@ -45,9 +45,9 @@ QSet<const clsZR3FeeEarnerGroup *> withoutLine(const std::vector<clsCommsGroup> 
 
 QString joined(const QStringList &words)
 {
-    return words.size() < 2 ? words.join(QString())
-                            : words.mid(0, words.size() - 1).join(QStringLiteral(", ")) + QStringLiteral(" and ")
-                                  + words.back();
+    return words.size() < 2
+        ? words.join(QString())
+        : words.mid(0, words.size() - 1).join(QStringLiteral(", ")) + QStringLiteral(" and ") + words.back();
 }
 
 } // namespace

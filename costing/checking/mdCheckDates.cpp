@@ -27,8 +27,8 @@ template <class Look> void eachDated(clsClaimCheck &check, Look look)
     if (!check.isClaim1A())
         return;
     check.each(check.form().FASItemsCollection(), [&](const clsZR3FASItem &item, int order) {
-        look(clsDated {{AdvocacyScreen, "fas", order, QStringLiteral("dDate")}, QStringLiteral("FAS item %1").arg(order),
-            mdStoredDate(item.dDate())});
+        look(clsDated {{AdvocacyScreen, "fas", order, QStringLiteral("dDate")},
+            QStringLiteral("FAS item %1").arg(order), mdStoredDate(item.dDate())});
     });
 }
 

@@ -31,6 +31,18 @@ QString sentenceOf(const clsFigureFault &fault)
     return fault.sentence.simplified() + QStringLiteral("; ") + QString::fromLatin1(advice) + u'.';
 }
 
+/// What keeps a figure from being computed. In a claim in which not even that can be told, such as one with an order
+/// that is too large a number, it is that.
+template <class... Of> clsFigureFaults faultsOf(const clsClaimCheck &check, const Of &...of)
+{
+    try {
+        return mdFigureFaults(check.form(), of...);
+    } catch (const clsRunTimeError &error) {
+        const QString words = error.cause().isEmpty() ? error.description() : error.cause();
+        return {{QString(), words, words, error.number()}};
+    }
+}
+
 /// One finding for an item, of the first of its faults.
 template <class Item>
 void addFirst(clsClaimCheck &check, const Item &item, const clsFindingPlace &place, const clsFigureFaults &faults)
@@ -46,10 +58,12 @@ void addFirst(clsClaimCheck &check, const Item &item, const clsFindingPlace &pla
 void checkSchedule(clsClaimCheck &check)
 {
     const clsZR3Form &form = check.form();
+    clsSchedulePrices *prices = nullptr;
+    check.unlessItFails([&] { prices = &check.bill().prices(); });
     check.each(form.ScheduleOfTimeItemsCollection(), [&](const clsZR3ScheduleOfTimeItem &item, int order) {
         const bool isDecided = check.unlessItFails([&] { form.IsOnBill(item); });
-        if (!isDecided || check.bill().prices().of(item).fails())
-            addFirst(check, item, {ScheduleScreen, "schedule", order}, mdFigureFaults(form, item));
+        if (!isDecided || !prices || prices->of(item).fails())
+            addFirst(check, item, {ScheduleScreen, "schedule", order}, faultsOf(check, item));
     });
 }
 
@@ -57,14 +71,14 @@ void checkDisbursements(clsClaimCheck &check)
 {
     const bool printsCounsel = check.isPrinted(4, 5);
     check.each(check.form().DisbursementsCollection(), [&](const clsZR3Disbursement &item, int order) {
-        clsFigureFaults faults = mdFigureFaults(check.form(), item);
+        clsFigureFaults faults = faultsOf(check, item);
         std::erase_if(faults, [printsCounsel](const clsFigureFault &fault) {
             return !printsCounsel && fault.property == QLatin1String("CounselUniqueID");
         });
         addFirst(check, item, {DisbursementsScreen, "disbursements", order}, faults);
     });
     check.each(check.form().ExpertInvoicesCollection(), [&](const clsZR3ExpertInvoice &item, int order) {
-        addFirst(check, item, {DisbursementsScreen, "experts", order}, mdFigureFaults(check.form(), item));
+        addFirst(check, item, {DisbursementsScreen, "experts", order}, faultsOf(check, item));
     });
 }
 
@@ -73,7 +87,7 @@ void checkCommunications(clsClaimCheck &check)
     for (const clsCommsKind kind : {clsCommsKind::Calls, clsCommsKind::LettersIn, clsCommsKind::LettersOut})
         for (int line = 1; line <= CommsLines; ++line)
             addFirst(check, check.form().Communications, {CommunicationsScreen, "communications"},
-                mdFigureFaults(check.form(), line, kind));
+                faultsOf(check, line, kind));
 }
 
 void checkAdvocacy(clsClaimCheck &check)
@@ -81,7 +95,7 @@ void checkAdvocacy(clsClaimCheck &check)
     if (!check.isClaim1A())
         return;
     check.each(check.form().FASItemsCollection(), [&](const clsZR3FASItem &item, int order) {
-        addFirst(check, item, {AdvocacyScreen, "fas", order}, mdFigureFaults(check.form(), item));
+        addFirst(check, item, {AdvocacyScreen, "fas", order}, faultsOf(check, item));
     });
 }
 

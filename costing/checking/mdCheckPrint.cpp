@@ -1,6 +1,7 @@
 #include "costing/checking/mdCheckRules.h"
 
 #include "costing/checking/mdCheckWords.h"
+#include "costing/mdPageRoom.h"
 #include "formdata/mdRecordInWords.h"
 
 // What is wrong on the printed sheets.
@@ -55,26 +56,23 @@ void mdCheckPaper(clsClaimCheck &check)
 
 void mdCheckLostSheets(clsClaimCheck &check)
 {
-    // The rows that page 7 and its further sheets hold.
-    constexpr int JointFirst = 14;
-    constexpr int JointFurther = 30;
-    constexpr int OtherFirst = 12;
-    constexpr int OtherFurther = 32;
+    constexpr clsPageRoom Joint = JointInstructionsRoom;
+    constexpr clsPageRoom Other = OtherDisbursementsRoom;
     if (!check.isClaim1() || !check.isPrinted(7, 0))
         return;
     const int joint = int(check.form().JointInstructionsCollection().size());
     const int other = int(check.form().NonCounselDisbursementsCollection().size());
-    if (joint <= JointFirst || other <= OtherFirst)
+    if (joint <= Joint.first || other <= Other.first)
         return;
     // Each further sheet of the disbursements takes the place of the joint instructions' of its number.
-    const int lostSheets = (other - OtherFirst + OtherFurther - 1) / OtherFurther;
-    const int last = std::min(joint, JointFirst + lostSheets * JointFurther);
-    const QString rows = last == JointFirst + 1
+    const int lostSheets = (other - Other.first + Other.further - 1) / Other.further;
+    const int last = std::min(joint, Joint.first + lostSheets * Joint.further);
+    const QString rows = last == Joint.first + 1
         ? QStringLiteral("Joint instruction %1 is").arg(last)
-        : QStringLiteral("Joint instructions %1 to %2 are").arg(JointFirst + 1).arg(last);
+        : QStringLiteral("Joint instructions %1 to %2 are").arg(Joint.first + 1).arg(last);
     check.add({DisbursementsScreen},
         rows
             + QStringLiteral(" not printed, because both lists of page 7 run on to the same further sheets: keep to %1 "
                              "joint instructions, or list the rest in a letter.")
-                  .arg(JointFirst));
+                  .arg(Joint.first));
 }

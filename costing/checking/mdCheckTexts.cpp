@@ -14,14 +14,49 @@ using Form = clsZR3Form;
 
 /// Texts that are no prose: amounts, rates and times. Dates and identities are known by their names.
 constexpr const char *Figures[] = {
-    "TTime", "VATRate", "TotalCostsIncurred", "CareAndSupervisionProfitCosts", "CareAndSupervisionProfitCostsVAT",
-    "PrivateLawProfitCosts", "PrivateLawProfitCostsVAT", "FixedFee", "Value", "AmountRecovered", "PreCertificateCosts",
-    "DuringCertificateCostsLSC", "DuringCertificateCostsMarketRates", "TotalCostsAwarded",
-    "LegalHelpInPreCertificateCostsAmount", "InterestOnAllCosts", "DeterminationAmount", "DebtorsIncome",
-    "EnhancementRate", "HourlyRate", "CallsRate", "LettersInRate", "LettersOutRate", "AdvocacyRate", "CounselRate",
-    "TravelAndWaitingRate", "Rate", "Amount", "VAT", "PreparationHourlyRate", "TotalPrepCost",
-    "CourtAttendanceHourlyRate", "TotalCourtCost", "TravelTimeCosts", "OtherCosts", "NetAmount", "VATAmount",
-    "PercentApportioned", "RateForUnits", "BoltOnClaimed", "CourtBundlePayment", "SettlementFee", "ExceptionalTravel",
+    "TTime",
+    "VATRate",
+    "TotalCostsIncurred",
+    "CareAndSupervisionProfitCosts",
+    "CareAndSupervisionProfitCostsVAT",
+    "PrivateLawProfitCosts",
+    "PrivateLawProfitCostsVAT",
+    "FixedFee",
+    "Value",
+    "AmountRecovered",
+    "PreCertificateCosts",
+    "DuringCertificateCostsLSC",
+    "DuringCertificateCostsMarketRates",
+    "TotalCostsAwarded",
+    "LegalHelpInPreCertificateCostsAmount",
+    "InterestOnAllCosts",
+    "DeterminationAmount",
+    "DebtorsIncome",
+    "EnhancementRate",
+    "HourlyRate",
+    "CallsRate",
+    "LettersInRate",
+    "LettersOutRate",
+    "AdvocacyRate",
+    "CounselRate",
+    "TravelAndWaitingRate",
+    "Rate",
+    "Amount",
+    "VAT",
+    "PreparationHourlyRate",
+    "TotalPrepCost",
+    "CourtAttendanceHourlyRate",
+    "TotalCourtCost",
+    "TravelTimeCosts",
+    "OtherCosts",
+    "NetAmount",
+    "VATAmount",
+    "PercentApportioned",
+    "RateForUnits",
+    "BoltOnClaimed",
+    "CourtBundlePayment",
+    "SettlementFee",
+    "ExceptionalTravel",
     "VATForFAS",
 };
 
@@ -123,8 +158,8 @@ struct clsTextsRow {
 void lookAtFormSetup(clsTexts &texts)
 {
     const Form &form = texts.form();
-    for (const clsXMLField *field : std::initializer_list<const clsXMLField *> {
-             &form.StageNumber, &form.TypeOfCase, &form.Notes})
+    for (const clsXMLField *field :
+        std::initializer_list<const clsXMLField *> {&form.StageNumber, &form.TypeOfCase, &form.Notes})
         texts.field(*field, form);
 }
 
@@ -148,7 +183,8 @@ constexpr clsTextsRow Screens[] = {
     {"Form Setup",               lookAtFormSetup},
     {RatesScreen,                lookAtRates},
     {"Counsel",                  [](clsTexts &texts) { texts.items("counsel", texts.form().CounselCollection()); }},
-    {"Enhancements",             [](clsTexts &texts) { texts.items("enhancements", texts.form().EnhancementsCollection()); }},
+    {"Enhancements",
+        [](clsTexts &texts) { texts.items("enhancements", texts.form().EnhancementsCollection()); }},
     {"Client Details",           [](clsTexts &texts) { texts.section(texts.form().ClientDetails); }},
     {"Solicitor Details",        [](clsTexts &texts) { texts.section(texts.form().SolicitorDetails); }},
     {"Previous Advice",          [](clsTexts &texts) { texts.section(texts.form().PreviousAdvice); }},
@@ -157,7 +193,8 @@ constexpr clsTextsRow Screens[] = {
     {"Nature of Proceedings",    [](clsTexts &texts) { texts.section(texts.form().NatureOfProceedings); }},
     {ActualCostsScreen,          [](clsTexts &texts) { texts.section(texts.form().ActualCostsIncurred); }},
     {WorkScreen,                 [](clsTexts &texts) { texts.section(texts.form().DetailsOfWork); }},
-    {ScheduleScreen,             [](clsTexts &texts) { texts.items("schedule", texts.form().ScheduleOfTimeItemsCollection()); }},
+    {ScheduleScreen,
+        [](clsTexts &texts) { texts.items("schedule", texts.form().ScheduleOfTimeItemsCollection()); }},
     {DisbursementsScreen,        lookAtDisbursements},
     {AdvocacyScreen,             [](clsTexts &texts) { texts.items("fas", texts.form().FASItemsCollection()); }},
     {"Details of Costs Awarded", [](clsTexts &texts) { texts.section(texts.form().DetailsOfCostsAwarded); }},

@@ -1,6 +1,8 @@
 #include "costing/checking/mdWhy.h"
 
-#include <utility>
+#include <QStringList>
+
+#include <algorithm>
 
 namespace {
 

@@ -6,6 +6,8 @@
 #include "costing/mdFigureFaults.h"
 #include "formdata/clsZR3Form.h"
 
+#include <algorithm>
+
 // Items of the schedule, lines of letters and calls, hearings.
 
 namespace {
@@ -51,15 +53,15 @@ const clsRateRow &rateRow(Item::RateRule rule)
 /// The steps of one item of the schedule.
 class clsItemSteps {
 public:
-    clsItemSteps(const clsBill &bill, const Item &item)
+    clsItemSteps(clsWhy &why, const clsBill &bill, const Item &item)
         : m_form(bill.form())
         , m_item(item)
         , m_price(bill.prices().of(item))
-        , m_own {QStringLiteral("Schedule of Time"), QStringLiteral("schedule"), item.OrderID()}
-        , m_why(m_own)
+        , m_own(why.source())
+        , m_why(why)
     { }
 
-    clsWhy why()
+    void add()
     {
         feeEarner();
         rate();
@@ -67,7 +69,6 @@ public:
         m_why.addAll(QStringLiteral("Enhancements"), [this] { percentages(); });
         enhancement();
         m_why.add(QStringLiteral("Claim"), {}, m_own, [this] { return figure(Price::ClaimFigure, m_price.Claim); });
-        return std::move(m_why);
     }
 
 private:
@@ -127,8 +128,8 @@ private:
     {
         const Money percentage = m_price.TotalEnhancementPercentage;
         m_why.add(
-            QStringLiteral("Enhancement of %1 % of %2").arg(MoneyToText(percentage), MoneyToText(m_price.BasicClaim)), {},
-            m_own, [&] {
+            QStringLiteral("Enhancement of %1 % of %2").arg(MoneyToText(percentage), MoneyToText(m_price.BasicClaim)),
+            {}, m_own, [&] {
                 return mdExplained(
                     m_form, m_item, [&] { return MoneyToText(Item::EnhancementBy(m_price.BasicClaim, percentage)); });
             });
@@ -138,7 +139,7 @@ private:
     const Item &m_item;
     const Price &m_price;
     const clsWhySource m_own;
-    clsWhy m_why;
+    clsWhy &m_why;
     std::shared_ptr<clsZR3FeeEarnerGroup> m_group;
 };
 
@@ -150,9 +151,8 @@ void addLine(clsWhy &why, const clsZR3Form &form, const clsZR3FeeEarnerGroup &gr
     const clsWhySource own = why.source();
     const QString words = QString::fromLatin1(KindsInWords[int(kind)]);
     const auto figure = [&](const QString &text, const clsWhySource &source, auto compute) {
-        why.add(text, {}, source, [&] {
-            return mdExplained(form, line, kind, [&] { return MoneyToText(compute(form, line, kind)); });
-        });
+        why.add(text, {}, source,
+            [&] { return mdExplained(form, line, kind, [&] { return MoneyToText(compute(form, line, kind)); }); });
     };
     why.add(QStringLiteral("Line %1 of the %2").arg(line).arg(words), group.Name(), groupSource(group),
         [&] { return inSentence(group); });
@@ -177,7 +177,9 @@ std::optional<clsWhy> mdWhyScheduleItem(const clsBill &bill, int orderID)
     const auto item = bill.form().ScheduleOfTimeItemByOrderID(orderID);
     if (!item)
         return {};
-    return clsItemSteps(bill, *item).why();
+    clsWhy why({QStringLiteral("Schedule of Time"), QStringLiteral("schedule"), orderID});
+    why.addAll(QStringLiteral("Claim"), [&] { clsItemSteps(why, bill, *item).add(); });
+    return why;
 }
 
 std::optional<clsWhy> mdWhyCommunications(const clsBill &bill, clsCommsKind kind, int line)
@@ -205,11 +207,12 @@ std::optional<clsWhy> mdWhyFASItem(const clsBill &bill, int orderID)
         return {};
     clsWhy why({QStringLiteral("Family Advocacy Scheme"), QStringLiteral("fas"), orderID});
     const auto step = [&](const QString &text, auto compute) {
-        why.add(text, {}, why.source(),
-            [&] { return mdExplained(form, *item, [&] { return MoneyToText(compute()); }); });
+        why.add(
+            text, {}, why.source(), [&] { return mdExplained(form, *item, [&] { return MoneyToText(compute()); }); });
     };
     why.addAll(QStringLiteral("Total"), [&] {
-        step(QStringLiteral("Hearing units at their rate, %1 at %2").arg(item->HearingUnits()).arg(item->RateForUnits()),
+        step(
+            QStringLiteral("Hearing units at their rate, %1 at %2").arg(item->HearingUnits()).arg(item->RateForUnits()),
             [&] { return item->UnitPayment(); });
         if (TextValue(item->BoltOnClaimed()) != 0)
             step(QStringLiteral("Bolt-on of %1 %").arg(item->BoltOnClaimed()), [&] { return item->BoltOn(); });

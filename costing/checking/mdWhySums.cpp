@@ -35,9 +35,8 @@ template <class Items, class Field>
 void addAmounts(clsWhy &why, const Form &form, const Items &items, const char *list, Field field)
 {
     for (const auto &item : items)
-        why.add(nameOf(*item), {}, disbursementsSource(list, item->OrderID()), [&] {
-            return mdExplained(form, *item, [&] { return MoneyToText(MoneyFromText(((*item).*field)())); });
-        });
+        why.add(nameOf(*item), {}, disbursementsSource(list, item->OrderID()),
+            [&] { return mdExplained(form, *item, [&] { return MoneyToText(MoneyFromText(((*item).*field)())); }); });
 }
 
 /// The same of the disbursements that are counsel's fees.
@@ -52,8 +51,8 @@ struct clsColumnRow {
     const char *words;
 };
 
-constexpr clsColumnRow Columns[clsZR3ScheduleOfTimeItem::Columns] = {
-    {"Attendance and conferences"}, {"Documents"}, {"Hearings"}, {"Travel"}, {"Waiting"}};
+constexpr clsColumnRow Columns[clsZR3ScheduleOfTimeItem::Columns]
+    = {{"Attendance and conferences"}, {"Documents"}, {"Hearings"}, {"Travel"}, {"Waiting"}};
 
 constexpr const char *Kinds[] = {"calls", "letters in", "letters out"};
 
@@ -115,14 +114,12 @@ void mdAddOtherVAT(clsWhy &why, const clsBill &bill)
 
 void mdAddExpertAmounts(clsWhy &why, const clsBill &bill)
 {
-    addAmounts(
-        why, bill.form(), bill.form().ExpertInvoicesCollection(), "experts", &clsZR3ExpertInvoice::NetAmount);
+    addAmounts(why, bill.form(), bill.form().ExpertInvoicesCollection(), "experts", &clsZR3ExpertInvoice::NetAmount);
 }
 
 void mdAddExpertVAT(clsWhy &why, const clsBill &bill)
 {
-    addAmounts(
-        why, bill.form(), bill.form().ExpertInvoicesCollection(), "experts", &clsZR3ExpertInvoice::VATAmount);
+    addAmounts(why, bill.form(), bill.form().ExpertInvoicesCollection(), "experts", &clsZR3ExpertInvoice::VATAmount);
 }
 
 void mdAddFeeAmounts(clsWhy &why, const clsBill &bill)
@@ -146,10 +143,10 @@ void mdAddHearingsVAT(clsWhy &why, const clsBill &bill)
 {
     for (const auto &item : bill.form().FASItemsCollection()) {
         const QString text = item->VATForFAS();
-        why.add(nameOf(*item), {}, {QStringLiteral("Family Advocacy Scheme"), QStringLiteral("fas"), item->OrderID()},
-            [&] {
-                return mdExplained(bill.form(), *item,
-                    [&] { return MoneyToText(text.isEmpty() ? Money() : MoneyFromText(text)); });
+        why.add(
+            nameOf(*item), {}, {QStringLiteral("Family Advocacy Scheme"), QStringLiteral("fas"), item->OrderID()}, [&] {
+                return mdExplained(
+                    bill.form(), *item, [&] { return MoneyToText(text.isEmpty() ? Money() : MoneyFromText(text)); });
             });
     }
 }

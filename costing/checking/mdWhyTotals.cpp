@@ -6,7 +6,9 @@
 #include "costing/mdBillFigures.h"
 #include "formdata/clsOnBill.h"
 
+#include <algorithm>
 #include <array>
+#include <span>
 
 namespace {
 
@@ -37,7 +39,7 @@ constexpr char OnFees[] = "VAT on counsel's fees";
 constexpr char Spent[] = "Disbursements";
 
 // clang-format off
-constexpr clsTotalRow Totals[] = {
+constexpr clsTotalRow TotalRows[] = {
     {"ScheduleTotal",                     "Schedule of time", "Schedule of Time", {}, mdAddColumns},
     {"AdvocacyTotal",                     "Advocacy", "", {}, mdAddAdvocacy},
     {"CounselDisbursementsAmountTotal",   Fees, Spent, {}, mdAddCounselAmounts},
@@ -48,19 +50,22 @@ constexpr clsTotalRow Totals[] = {
     {"ExpertInvoicesVATTotal",            OnExperts, Spent, {}, mdAddExpertVAT},
     {"CounselFeesAmountTotal",            Fees, Spent, {}, mdAddFeeAmounts},
     {"CounselFeesVATTotal",               OnFees, Spent, {}, mdAddFeeVAT},
-    {"CounselFeesTotal",                  "Counsel's fees with VAT", "", {"CounselFeesAmountTotal", "CounselFeesVATTotal"}},
+    {"CounselFeesTotal",                  "Counsel's fees with VAT", "",
+        {"CounselFeesAmountTotal", "CounselFeesVATTotal"}},
     {"FASItemsTotal",                     Scheme, Scheme, {}, mdAddHearings},
     {"FASVATTotal",                       OnScheme, Scheme, {}, mdAddHearingsVAT},
     {"CommsTotal",                        "Letters and calls", "Communications", {}, mdAddCommunications},
     {"ProfitCostsTotal",                  Costs, "", {"ScheduleTotal", "CommsTotal"}},
     {"ProfitCostsVAT",                    OnCosts, "", {"ProfitCostsTotal"}, nullptr, clsTotalRow::VAT},
     {"AdvocacyVAT",                       "VAT on advocacy", "", {"AdvocacyTotal"}, nullptr, clsTotalRow::VAT},
-    {"LoadFromBillNet",                   "Profit costs without advocacy", "", {"ProfitCostsTotal", "AdvocacyTotal"}, nullptr, clsTotalRow::Difference},
-    {"LoadFromBillVAT",                   "VAT on profit costs without advocacy", "", {"LoadFromBillNet"}, nullptr, clsTotalRow::VAT},
+    {"LoadFromBillNet",                   "Profit costs without advocacy", "",
+        {"ProfitCostsTotal", "AdvocacyTotal"}, nullptr, clsTotalRow::Difference},
+    {"LoadFromBillVAT",                   "VAT on profit costs without advocacy", "",
+        {"LoadFromBillNet"}, nullptr, clsTotalRow::VAT},
 };
 
 // What both forms' summaries begin with.
-constexpr clsTotalRow Summary[] = {
+constexpr clsTotalRow SharedRows[] = {
     {"npc",        Costs, "", {"ScheduleTotal", "CommsTotal"}},
     {"nex",        Experts, Spent, {}, mdAddExpertAmounts},
     {"ndibs",      Others, Spent, {}, mdAddOtherAmounts},
@@ -89,7 +94,7 @@ constexpr clsTotalRow Claim1ARows[] = {
     {"vtotal",     "VAT", "", {"vsubtotal", "vfas", "vcsl"}},
 };
 
-constexpr clsTotalRow Claim1List[] = {
+constexpr clsTotalRow Claim1Columns[] = {
     {"profitcosts",   Costs, "", {"ScheduleTotal", "CommsTotal"}},
     {"disbursements", "Disbursements", "", {"nex", "ndibs"}},
     {"vat",           "VAT", "", {"vpc", "vex", "vdibs"}},
@@ -98,7 +103,7 @@ constexpr clsTotalRow Claim1List[] = {
     {"all",           "Total and counsel", "", {"total", "counsel"}},
 };
 
-constexpr clsTotalRow Claim1AList[] = {
+constexpr clsTotalRow Claim1AColumns[] = {
     {"profitcosts",   Costs, "", {"ScheduleTotal", "CommsTotal"}},
     {"disbursements", "Disbursements", "", {"nex", "ndibs"}},
     {"fas",           Scheme, Scheme, {}, mdAddHearings},
@@ -110,7 +115,6 @@ constexpr clsTotalRow Claim1AList[] = {
 // clang-format on
 
 using clsRows = std::span<const clsTotalRow>;
-using clsFigures = std::span<const clsBillFigure>;
 
 /// What a key of a claim is: how it is made, and the program's own figure.
 struct clsTotal {
@@ -137,14 +141,13 @@ bool isClaim1A(const Form &form)
 clsTotal totalOf(const Form &form, QLatin1String key)
 {
     const clsBillFigure *figure = mdFigureOf(mdTotalFigures(), key);
-    if (!figure)
-        figure = mdFigureOf(mdSummaryFigures(form), key);
-    return {rowOf({Totals, Summary, isClaim1A(form) ? clsRows(Claim1ARows) : clsRows(Claim1Rows)}, key), figure};
+    return {rowOf({TotalRows, SharedRows, isClaim1A(form) ? clsRows(Claim1ARows) : clsRows(Claim1Rows)}, key),
+        figure ? figure : mdFigureOf(mdSummaryFigures(form), key)};
 }
 
 clsTotal columnOf(const Form &form, QLatin1String key)
 {
-    return {rowOf({isClaim1A(form) ? clsRows(Claim1AList) : clsRows(Claim1List)}, key),
+    return {rowOf({isClaim1A(form) ? clsRows(Claim1AColumns) : clsRows(Claim1Columns)}, key),
         mdFigureOf(mdListFigures(form), key)};
 }
 

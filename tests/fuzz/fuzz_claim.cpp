@@ -1,6 +1,8 @@
 // The file of a claim: read, brought up to date, priced, rewritten, saved and read again.
 
 #include "base/mdCodePage.h"
+#include "costing/checking/mdCheckClaim.h"
+#include "costing/checking/mdWhy.h"
 #include "costing/mdTotalsReport.h"
 #include "formdata/clsZR3Form.h"
 #include "tests/fuzz/mdFuzz.h"
@@ -53,6 +55,23 @@ QByteArray figures(clsZR3Form &form)
     mdFuzzRequire(form.ScheduleOfTimeItemsForExportCollection().size() <= form.ScheduleOfTimeItemsCollection().size(),
         "the export has no items of its own");
     return json;
+}
+
+/// The check of the claim, and the reasons of some figures. Neither changes the claim, and the check never fails.
+void lookThrough(const clsZR3Form &form)
+{
+    const QString before = form.XMLOutput();
+    clsCheckFacts facts {.Today = QDate(2026, 11, 22)};
+    facts.CostsLimit = mdStoredCostsLimit(form);
+    for (const clsFinding &finding : mdCheckClaim(form, facts))
+        mdFuzzRequire(!finding.Text.isEmpty() && !finding.Screen.isEmpty(), "a finding says where and what");
+    mdFuzzErrorOf({Error::TypeMismatch, Error::Overflow, Error::ObjectNotSet}, "reasons fail by their errors", [&] {
+        const clsBill bill(form);
+        for (const auto &[kind, which] : {std::pair("schedule", "1"), std::pair("communications", "0/1"),
+                 std::pair("fas", "1"), std::pair("total", "vtotal"), std::pair("list", "all")})
+            mdWhy(bill, QString::fromLatin1(kind), QString::fromLatin1(which));
+    });
+    mdFuzzRequire(form.XMLOutput() == before, "a claim that is looked through stays as it is");
 }
 
 QByteArray savedBytes(const clsZR3Form &form, const char *name)
@@ -142,6 +161,7 @@ void mdFuzzAttack(const uint8_t *data, size_t size)
         rewrite(form);
     if (size % 4 == 1)
         enlarge(form);
+    lookThrough(form);
     const QByteArray priced = figures(form);
     // A flag that is none is met only now where the claim had no item that asks for it: the user has been told, and no
     // longer has a claim that can be read.

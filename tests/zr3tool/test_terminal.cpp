@@ -138,3 +138,18 @@ TEST_F(Terminal, ShowsTheCheckLineByLine)
     form.AddDisbursement();
     EXPECT_EQ("Blank items: \n\nDisbursements: 1\n", shownBy({"check"_q, putClaim(form)}, STDOUT_FILENO, 3));
 }
+
+TEST_F(Terminal, ShowsTheFullCheckWithoutControlCharacters)
+{
+    clsZR3Form form;
+    fill(form);
+    for (int page = 1; page <= 13; ++page)
+        form.field("IncludePage%1"_q.arg(page))->writeBoolean(false);
+    form.ScheduleOfTimeItem(1)->dDate = "03/06/25"_q;
+    form.AddDisbursement()->Description = QString::fromUtf8("a\x1b[2Jb\r\nTotals: c");
+    const QByteArray shown
+        = "error, Disbursements, 1, Disbursement 1, a?[2Jb Totals: c, has an amount of 0.00: enter the "
+          "amount, or delete it.\n";
+    EXPECT_EQ(shown, shownBy({"check"_q, "--full"_q, putClaim(form)}, STDOUT_FILENO, 3));
+    EXPECT_EQ(QByteArray(shown).replace("a?[", "a\x1b["), run({"check"_q, "--full"_q, path("claim.zr3")}).out);
+}

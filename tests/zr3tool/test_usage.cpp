@@ -23,6 +23,20 @@ TEST_F(Usage, WrongCommandLinesGetTheUsageAndStatusOne)
         {claim, "totals"_q},
         {"check"_q},
         {"check"_q, claim, claim},
+        {"check"_q, "--full"_q},
+        {"totals"_q, "--full"_q, claim},
+        {"check"_q, "--full"_q, claim, "--force"_q},
+        {"check"_q, "--full"_q, claim, "--today"_q},
+        {"check"_q, "--full"_q, claim, "--today"_q, "03/06/25"_q},
+        {"check"_q, "--full"_q, claim, "--today"_q, "2025-02-30"_q},
+        {"check"_q, "--full"_q, claim, "--today"_q, "2025-6-3"_q},
+        {"check"_q, "--full"_q, claim, "--today="_q},
+        {"check"_q, claim, "--json"_q},
+        {"check"_q, claim, "--today"_q, "2025-06-03"_q},
+        {"why"_q, claim},
+        {"why"_q, claim, "schedule"_q},
+        {"why"_q, claim, "schedule"_q, "1"_q, "2"_q},
+        {"why"_q, claim, "schedule"_q, "1"_q, "--json"_q},
         {"save"_q},
         {"save"_q, claim},
         {"save"_q, claim, "a"_q, "b"_q},
@@ -69,8 +83,8 @@ TEST_F(Usage, HelpIsTheSameUsageAsAResult)
     EXPECT_EQ(0, help.status);
     EXPECT_EQ("", help.err);
     EXPECT_EQ(run({}).err, help.out);
-    for (const char *word : {"totals", "export", "check", "save", "--force", "--templates", "--keep-sheets", "--quiet",
-             "forecast", "--json", "--pdf", "--name-by-file", "--help", "--version"})
+    for (const char *word : {"totals", "export", "check", "save", "why", "forecast", "--full", "--json", "--today",
+             "--force", "--templates", "--keep-sheets", "--quiet", "--pdf", "--name-by-file", "--help", "--version"})
         EXPECT_TRUE(help.out.contains(word)) << word;
 }
 

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <set>
 
 using pugi::xml_node;
 
@@ -31,15 +32,6 @@ bool mayGrow(const xml_node &row)
     return true;
 }
 
-bool grow(const xml_node &row)
-{
-    if (!mayGrow(row))
-        return false;
-    if (isExact(row))
-        heightOf(row).attribute("w:hRule").set_value("atLeast");
-    return true;
-}
-
 int spanOf(const xml_node &cell)
 {
     return std::max(1, cell.child("w:tcPr").child("w:gridSpan").attribute("w:val").as_int(1));
@@ -63,13 +55,18 @@ xml_node cellAt(const xml_node &row, int column)
     return {};
 }
 
-// The widest line at a side of a cell, in twips.
-int widestSideLine(const xml_node &borders)
+// The widest of some lines around a cell, in twips.
+int widestLine(const xml_node &borders, std::initializer_list<const char *> sides)
 {
     int eighths = 0;
-    for (const char *side : {"w:left", "w:right", "w:start", "w:end", "w:insideV"})
+    for (const char *side : sides)
         eighths = std::max(eighths, borders.child(side).attribute("w:sz").as_int());
     return eighths * 20 / 8;
+}
+
+int widestSideLine(const xml_node &borders)
+{
+    return widestLine(borders, {"w:left", "w:right", "w:start", "w:end", "w:insideV"});
 }
 
 // Fits the rows of one table.
@@ -106,6 +103,7 @@ private:
     bool fitRow(const xml_node &row, int gridRow, bool &inGrid)
     {
         bool grew = false;
+        m_lineAbove = -1;
         int gridColumn = row.child("w:trPr").child("w:gridBefore").attribute("w:val").as_int();
         int column = 1;
         for (xml_node cell = WordXml::firstItem(row, WordXml::isCell); cell;
@@ -125,6 +123,17 @@ private:
             gridColumn += spanOf(cell);
         }
         return grew;
+    }
+
+    bool grow(const xml_node &row)
+    {
+        if (!mayGrow(row))
+            return false;
+        if (isExact(row)) {
+            heightOf(row).attribute("w:hRule").set_value("atLeast");
+            m_grown.insert(row);
+        }
+        return true;
     }
 
     bool fitTablesIn(const xml_node &cell)
@@ -221,6 +230,30 @@ private:
         return row;
     }
 
+    // The widest line along one side of a row. A table's own lines are those of cells that say nothing of theirs.
+    int lineAlong(const xml_node &row, const char *side, const char *sideOfTable) const
+    {
+        int widest = 0;
+        for (xml_node cell = WordXml::firstItem(row, WordXml::isCell); cell;
+             cell = WordXml::nextItem(cell, WordXml::isCell)) {
+            const xml_node borders = cell.child("w:tcPr").child("w:tcBorders");
+            widest = std::max(widest,
+                borders.child(side) ? widestLine(borders, {side})
+                                    : widestLine(m_table.child("w:tblPr").child("w:tblBorders"), {sideOfTable}));
+        }
+        return widest;
+    }
+
+    // The line above a row takes its room from it, and so does the one below a table's last row.
+    int heightOfLines(const xml_node &first, const xml_node &last)
+    {
+        if (m_lineAbove < 0)
+            m_lineAbove
+                = lineAlong(first, "w:top", WordXml::previousItem(first, WordXml::isRow) ? "w:insideH" : "w:top");
+        const bool endsTable = !WordXml::nextItem(last, WordXml::isRow);
+        return m_lineAbove + (endsTable ? lineAlong(last, "w:bottom", "w:bottom") : 0);
+    }
+
     std::optional<int> roomOf(xml_node row, const xml_node &cell, int gridColumn)
     {
         const xml_node direction = cell.child("w:tcPr").child("w:textDirection");
@@ -228,10 +261,10 @@ private:
             return {};
         clsWordLooks::Margins margins = m_margins;
         margins.takeOver(clsWordLooks::Margins::saidBy(cell.child("w:tcPr").child("w:tcMar")));
-        int room = -margins.top.value_or(0) - margins.bottom.value_or(0);
         const xml_node last = lastRowOf(row, cell, gridColumn);
+        int room = -margins.top.value_or(0) - margins.bottom.value_or(0) - heightOfLines(row, last);
         for (;; row = WordXml::nextItem(row, WordXml::isRow)) {
-            if (!isExact(row))
+            if (!isExact(row) && !m_grown.contains(row))
                 return {};
             room += heightOf(row).attribute("w:val").as_int();
             if (row == last)
@@ -246,6 +279,10 @@ private:
     clsWordLooks::Margins m_margins;
     std::vector<int> m_columns;
     int m_lineLoss = -1;
+    int m_lineAbove = -1; ///< of the row in hand; not looked up yet where negative
+    /// Rows that a cell has made to grow. What fits their old height is still laid out in it, whatever the order of the
+    /// cells.
+    std::set<xml_node> m_grown;
 };
 
 } // namespace

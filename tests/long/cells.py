@@ -52,6 +52,12 @@ def with_low_row(document):
     return etree.tostring(root)
 
 
+def stands_in_parts(parts, shown):
+    """Whether the parts of a word, or some of them joined, are words that are shown."""
+    return not parts or any(shown["".join(parts[:end])] and stands_in_parts(parts[end:], shown)
+                            for end in range(1, len(parts) + 1))
+
+
 class Document:
     def __init__(self, path):
         with zipfile.ZipFile(path) as package:
@@ -91,6 +97,6 @@ class Document:
                 continue
             if AMOUNT.fullmatch(word):
                 found.append(f"amount {word} is broken")
-            elif not all(shown[part] for part in PARTS.findall(word)):
+            elif not stands_in_parts(PARTS.findall(word), shown):
                 found.append(f"word {word!r} is broken")
         return found

@@ -153,21 +153,20 @@ private:
         const int limit = room();
         int x = 0;
         size_t place = 0; // the last one for a break; none yet where it is 0
-        size_t fallback = 0; // for a line that has no better one
         for (size_t i = start; i < m_text.size(); ++i) {
             if (kind(i) == Kind::LineBreak)
                 return i + 1;
             if (i > start && mayBreak(i) && hyphenFits(i, x, limit))
                 place = i;
-            else if (i > start && mayBreakIfNeeded(i))
-                fallback = i;
             if (kind(i) == Kind::Blank) { // blanks at a line's end hang over it
                 x += m_widths[i];
                 continue;
             }
             const int end = kind(i) == Kind::Tab ? endOfTab(i, x, limit) : x + m_widths[i];
             if (end > limit)
-                return breakAt(start, i, place > 0 ? place : fallback);
+                return breakAt(start, i, wholePath(start, place));
+            if (i > start && mayBreakBehindSlash(i)) // a line that ends with the slash has no room for it
+                place = i;
             x = end;
         }
         return m_text.size();
@@ -280,13 +279,23 @@ private:
         return mayBreakBetween(before, behind, i);
     }
 
-    // A word is broken at its slash only where it is wider than the line.
-    bool mayBreakIfNeeded(size_t i) const
+    bool mayBreakBehindSlash(size_t i) const
     {
-        if (kind(i) == Kind::Slash)
-            return kind(i - 1) == Kind::Blank;
-        return kind(i - 1) == Kind::Slash && isOneOf(kind(i), {Kind::Letter, Kind::Digit, Kind::Prefix})
-            && kindBefore(i - 1) != Kind::Blank && !isBetweenDigits(i - 1);
+        return m_text[i - 1].code == U'/' && isOneOf(kind(i), {Kind::Letter, Kind::Digit, Kind::Prefix})
+            && !isBetweenDigits(i - 1);
+    }
+
+    // What slashes join stays on one line from the blank before it on, unless that is too far away. Where it begins on
+    // a line before, no break is left to it but one between letters.
+    size_t wholePath(size_t start, size_t place) const
+    {
+        if (place == 0 || !mayBreakBehindSlash(place))
+            return place;
+        constexpr size_t TooFar = 66;
+        for (size_t i = place; i > 0 && place - i < TooFar; --i)
+            if (partsWords(kind(i - 1)))
+                return i > start ? i : 0;
+        return place;
     }
 
     bool isBetweenDigits(size_t i) const

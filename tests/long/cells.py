@@ -53,8 +53,8 @@ def with_low_row(document):
 
 
 def stands_in_parts(parts, shown):
-    """Whether the parts of a word, or some of them joined, are words that are shown."""
-    return not parts or any(shown["".join(parts[:end])] and stands_in_parts(parts[end:], shown)
+    """Whether the parts of a word, or some of them joined, are words that `shown` knows."""
+    return not parts or any(shown("".join(parts[:end])) and stands_in_parts(parts[end:], shown)
                             for end in range(1, len(parts) + 1))
 
 
@@ -97,6 +97,6 @@ class Document:
                 continue
             if AMOUNT.fullmatch(word):
                 found.append(f"amount {word} is broken")
-            elif not stands_in_parts(PARTS.findall(word), shown):
+            elif not stands_in_parts(PARTS.findall(word), shown.__getitem__):
                 found.append(f"word {word!r} is broken")
         return found

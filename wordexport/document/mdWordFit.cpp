@@ -55,18 +55,18 @@ xml_node cellAt(const xml_node &row, int column)
     return {};
 }
 
-// The widest of some lines around a cell, in twips.
-int widestLine(const xml_node &borders, std::initializer_list<const char *> sides)
+// In twips; the file has eighths of a point.
+int widthOfLine(const xml_node &line)
 {
-    int eighths = 0;
-    for (const char *side : sides)
-        eighths = std::max(eighths, borders.child(side).attribute("w:sz").as_int());
-    return eighths * 20 / 8;
+    return line.attribute("w:sz").as_int() * 20 / 8;
 }
 
 int widestSideLine(const xml_node &borders)
 {
-    return widestLine(borders, {"w:left", "w:right", "w:start", "w:end", "w:insideV"});
+    int widest = 0;
+    for (const char *side : {"w:left", "w:right", "w:start", "w:end", "w:insideV"})
+        widest = std::max(widest, widthOfLine(borders.child(side)));
+    return widest;
 }
 
 // Fits the rows of one table.
@@ -111,13 +111,9 @@ private:
             const bool innerGrew = fitTablesIn(cell);
             if (innerGrew && grow(row))
                 grew = true;
-            if (clsWordCellText::holdsTyped(cell, m_typed)) {
-                clsWordCellText text(cell, placeOf(cell, gridColumn), m_looks, m_typed);
-                const auto texts = text.typedTexts();
-                inGrid = inGrid || std::any_of(texts.begin(), texts.end(), [](const clsWordCellText::Typed &typed) {
-                    return typed.placeholder.isEmpty();
-                });
-                if (fitCell(text, lastRowOf(row, cell, gridColumn), roomOf(row, cell, gridColumn), gridRow, column))
+            if (const clsWordTyped::Mark *mark = clsWordCellText::firstTyped(cell, m_typed)) {
+                inGrid = inGrid || mark->placeholder.isEmpty();
+                if (fitCell(row, cell, gridColumn, gridRow, column))
                     grew = true;
             }
             gridColumn += spanOf(cell);
@@ -146,11 +142,20 @@ private:
         return grew;
     }
 
-    // True when the row had to grow. `room` is the height that the cell has, none where it may be of any.
-    bool fitCell(clsWordCellText &text, const xml_node &lastRow, std::optional<int> room, int gridRow, int column)
+    // True when the row had to grow.
+    bool fitCell(const xml_node &row, const xml_node &cell, int gridColumn, int gridRow, int column)
     {
+        clsWordLooks::Margins margins = m_margins;
+        if (const xml_node own = cell.child("w:tcPr").child("w:tcMar"))
+            margins.takeOver(clsWordLooks::Margins::saidBy(own));
+        const xml_node lastRow = lastRowOf(row, cell, gridColumn);
+        const std::optional<int> room = roomOf(row, lastRow, cell, margins); // none where any height will do
         if (!room)
             return false;
+        const clsWordCellText::Place place = placeOf(cell, gridColumn, margins);
+        if (clsWordCellText::fitsAtAGlance(cell, place, *room, m_looks, m_typed))
+            return false;
+        clsWordCellText text(cell, place, m_looks, m_typed);
         const clsWordCellText::Measure own = text.measure(0);
         const bool fits = own.height <= *room && !own.tooNarrow;
         if (fits && own.brokenWords == 0)
@@ -183,15 +188,13 @@ private:
             && now.brokenAmounts <= smallest.brokenAmounts && !now.tooNarrow;
     }
 
-    clsWordCellText::Place placeOf(const xml_node &cell, int gridColumn)
+    clsWordCellText::Place placeOf(const xml_node &cell, int gridColumn, const clsWordLooks::Margins &margins)
     {
         const xml_node properties = cell.child("w:tcPr");
         const xml_node said = properties.child("w:tcW");
         int width = std::strcmp(said.attribute("w:type").value(), "dxa") == 0 ? said.attribute("w:w").as_int() : 0;
         if (width <= 0)
             width = widthOfColumns(gridColumn, gridColumn + spanOf(cell));
-        clsWordLooks::Margins margins = m_margins;
-        margins.takeOver(clsWordLooks::Margins::saidBy(properties.child("w:tcMar")));
         return {width - margins.left.value_or(0) - margins.right.value_or(0) - lineLoss(),
             WordXml::val(m_table.child("w:tblPr").child("w:tblStyle"))};
     }
@@ -211,10 +214,10 @@ private:
             int widest = widestSideLine(m_table.child("w:tblPr").child("w:tblBorders"));
             for (xml_node row = WordXml::firstItem(m_table, WordXml::isRow); row;
                  row = WordXml::nextItem(row, WordXml::isRow))
-                for (xml_node cell = WordXml::firstItem(row, WordXml::isCell); cell;
-                     cell = WordXml::nextItem(cell, WordXml::isCell))
+                for (const xml_node &cell :
+                    {WordXml::firstItem(row, WordXml::isCell), WordXml::lastItem(row, WordXml::isCell)})
                     widest = std::max(widest, widestSideLine(cell.child("w:tcPr").child("w:tcBorders")));
-            m_lineLoss = (widest + 1) / 2;
+            m_lineLoss = widest / 2;
         }
         return m_lineLoss;
     }
@@ -236,10 +239,10 @@ private:
         int widest = 0;
         for (xml_node cell = WordXml::firstItem(row, WordXml::isCell); cell;
              cell = WordXml::nextItem(cell, WordXml::isCell)) {
-            const xml_node borders = cell.child("w:tcPr").child("w:tcBorders");
-            widest = std::max(widest,
-                borders.child(side) ? widestLine(borders, {side})
-                                    : widestLine(m_table.child("w:tblPr").child("w:tblBorders"), {sideOfTable}));
+            xml_node line = cell.child("w:tcPr").child("w:tcBorders").child(side);
+            if (!line)
+                line = m_table.child("w:tblPr").child("w:tblBorders").child(sideOfTable);
+            widest = std::max(widest, widthOfLine(line));
         }
         return widest;
     }
@@ -254,14 +257,12 @@ private:
         return m_lineAbove + (endsTable ? lineAlong(last, "w:bottom", "w:bottom") : 0);
     }
 
-    std::optional<int> roomOf(xml_node row, const xml_node &cell, int gridColumn)
+    std::optional<int> roomOf(
+        xml_node row, const xml_node &last, const xml_node &cell, const clsWordLooks::Margins &margins)
     {
         const xml_node direction = cell.child("w:tcPr").child("w:textDirection");
         if (direction && std::strcmp(WordXml::val(direction), "lrTb") != 0)
             return {};
-        clsWordLooks::Margins margins = m_margins;
-        margins.takeOver(clsWordLooks::Margins::saidBy(cell.child("w:tcPr").child("w:tcMar")));
-        const xml_node last = lastRowOf(row, cell, gridColumn);
         int room = -margins.top.value_or(0) - margins.bottom.value_or(0) - heightOfLines(row, last);
         for (;; row = WordXml::nextItem(row, WordXml::isRow)) {
             if (!isExact(row) && !m_grown.contains(row))

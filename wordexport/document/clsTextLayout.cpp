@@ -16,7 +16,7 @@ constexpr int EmPerHalfPoint = 10 * PerTwip;
 
 // A line counts as this much shorter than it is: places are rounded when they are printed, and a line too many is
 // better than one too few.
-constexpr int Reserve = 5;
+constexpr int Reserve = 1;
 
 constexpr char32_t SoftHyphen = 0xAD;
 

@@ -217,7 +217,7 @@ private:
                 for (const xml_node &cell :
                     {WordXml::firstItem(row, WordXml::isCell), WordXml::lastItem(row, WordXml::isCell)})
                     widest = std::max(widest, widestSideLine(cell.child("w:tcPr").child("w:tcBorders")));
-            m_lineLoss = widest / 2;
+            m_lineLoss = (widest + 1) / 2;
         }
         return m_lineLoss;
     }

@@ -113,6 +113,11 @@ void mdReplaceMark(clsMSWord &word, const QString &mark)
     mdReplace(word, SheetMarkPlaceholder, mark, clsFillClass::Text);
 }
 
+void mdRemoveSpareMarks(clsMSWord &word)
+{
+    word.RemoveHidden(SheetMarkPlaceholder);
+}
+
 void mdTypeCell(clsMSWord &word, const QString &text, clsFillClass fill)
 {
     word.SetText(QString(text), fill == clsFillClass::TickBox, fill == clsFillClass::Money, true, false);

@@ -24,6 +24,8 @@ void mdFinishSheet(clsExport &run, clsMSWord &word);
 
 void mdReplace(clsMSWord &word, const QString &placeholder, const QString &text, clsFillClass fill);
 void mdReplaceMark(clsMSWord &word, const QString &mark);
+/// Removes the hidden places for marks that no mark has taken, when all marks of a sheet are made.
+void mdRemoveSpareMarks(clsMSWord &word);
 /// Types a grid's cell, or a piece of the additional information.
 void mdTypeCell(clsMSWord &word, const QString &text, clsFillClass fill);
 

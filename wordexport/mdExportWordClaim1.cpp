@@ -117,6 +117,7 @@ void mdExportWordClaim1Page6(clsExport &run)
     mdExportGrid(run, word, ExpertsGrid, notes.linesUsed + ExpertsGrid.firstOffset, notes.firstSheet, 6);
     mdReplaceFirstSheetMark(run, word);
     mdReplaceRows(run, word, Page6Rows, 6);
+    mdRemoveSpareMarks(word);
     mdFinishSheet(run, word);
 }
 

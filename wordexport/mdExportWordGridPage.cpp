@@ -8,8 +8,8 @@
 namespace {
 
 /// Gives the open sheet the number of the last sheet made. After a grid that did not overflow this is the first sheet,
-/// which then takes the number of an earlier grid's last sheet: the order of the steps is meant, and the templates have
-/// a place where the "(1)" that finds no mark left reads naturally.
+/// which then takes the number of an earlier grid's last sheet: the order of the steps is required. The templates have
+/// a hidden place for each mark but the first, and only the first shows.
 void markOpenSheet(const clsExport &run, clsMSWord &word)
 {
     if (run.ExportSheetCounter > 1)
@@ -85,5 +85,6 @@ void mdExportWordGridPage(clsExport &run, const clsGridPage &page)
     mdReplaceRows(run, word, page.rows, page.number);
     if (page.markComesLast)
         mdReplaceFirstSheetMark(run, word);
+    mdRemoveSpareMarks(word);
     mdFinishSheet(run, word);
 }

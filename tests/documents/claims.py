@@ -117,10 +117,13 @@ class Claim:
         for path, allowance in self.form.allowances.items():
             length = self.form.long_texts[path] - 1 if overrunning and path in self.form.long_texts else allowance
             self.set(path, self.text(length))
+        self.fill_dates_and_ticks(lambda: MILLIONS)
+
+    def fill_dates_and_ticks(self, amount):
         for path in self.form.dates:
             self.set(path, "28/09/2026")
         for path in self.form.amounts:
-            self.set(path, MILLIONS)
+            self.set(path, amount())
         for section in self.form.ticks:
             for element in self.root.find(section) if section else self.root:
                 if element.text == "False" and element.tag != "excludenonadvocacy":

@@ -63,7 +63,12 @@ def words(text):
 def typed_texts(sheet):
     """Every text that was typed on a sheet, and how many boxes it has of each kind."""
     texts, ticked, empty = [], 0, 0
+    marked = False
     for op in sheet["Ops"]:
+        if op[:2] == ["replace", "{or}"]:
+            if marked:
+                continue  # only the first mark of a sheet shows
+            marked = True
         if op[0] in ("cell", "settext") or op[0] == "replace":
             text = op[2] if op[0] == "replace" else op[1]
             if isinstance(op[-1], dict) and op[-1]["tick"]:

@@ -95,14 +95,28 @@ TEST_F(Claim1Pages, CounselsPageGoesOnFromTheLastPageThatRan)
     EXPECT_EQ(QStringLiteral("(1)"), mark("4(1)"));
 }
 
-TEST_F(Claim1Pages, AMarkThatFindsNoPlaceholderIsTypedBeforeTheFirstCharacter)
+TEST_F(Claim1Pages, TheSecondMarkOfCounselsPageTakesTheHiddenPlace)
 {
     includeOnly({1, 3, 4});
     form.DetailsOfWork.DetailsOfCase = words(4000);
     addFees(1);
     keepsSheets = true;
     ASSERT_TRUE(exportClaim());
-    EXPECT_TRUE(mdDocumentText(temporary() + QStringLiteral("/4(1).doc")).startsWith(QLatin1String("(1)")));
+    const QString text = mdDocumentText(temporary() + QStringLiteral("/4(1).doc"));
+    EXPECT_FALSE(text.startsWith(QLatin1String("(1)"))) << qPrintable(text);
+    EXPECT_TRUE(text.contains(QLatin1String("Page 4 (2)(1)"))) << qPrintable(text);
+}
+
+TEST_F(Claim1Pages, HiddenPlacesThatNoMarkTookAreRemoved)
+{
+    includeOnly({1, 4, 6});
+    addFees(1);
+    keepsSheets = true;
+    ASSERT_TRUE(exportClaim());
+    for (const char *sheet : {"4(1)", "6(1)"}) {
+        const QString text = mdDocumentText(temporary() + QStringLiteral("/%1.doc").arg(QLatin1String(sheet)));
+        EXPECT_FALSE(text.contains(QLatin1String("{or}"))) << sheet;
+    }
 }
 
 TEST_F(Claim1Pages, AFeeThatNamesNoCounselIsTheObjectError)

@@ -57,6 +57,14 @@ def postcode(random):
             + str(random.randrange(10)) + random.choice("ABDEFG") + random.choice("HJLNP"))
 
 
+def slashed(random):
+    """An address of the web, or words and numbers with slashes and hyphens."""
+    parts = [random.choice(WORDS) for _ in range(random.randint(2, 5))] + [str(random.randrange(3000))]
+    random.shuffle(parts)
+    start = random.choice(["", "", "www.", "https://"])
+    return start + "".join(part + random.choice("/-/.") for part in parts[:-1]) + parts[-1]
+
+
 def word(random):
     return random.choices([
         lambda: random.choice(WORDS),
@@ -71,8 +79,9 @@ def word(random):
         lambda: random.choice(STREETS),
         lambda: postcode(random),
         lambda: f"{random.choice(NAMES).lower()}.{random.choice(WORDS)}@{random.choice(WORDS)}-law.co.uk",
+        lambda: slashed(random),
         lambda: "".join(random.choice("abcdefghijklmnopqrstuvwxyzWM") for _ in range(random.randint(12, 60))),
-    ], [50, 8, 6, 6, 6, 4, 2, 3, 2, 4, 2, 1, 1])[0]()
+    ], [50, 8, 6, 6, 6, 4, 2, 3, 2, 4, 2, 1, 2, 1])[0]()
 
 
 def text(random):

@@ -90,6 +90,9 @@ PLACEHOLDERS = {
 }
 WITHOUT_MARK = {"Claim1 P9", "Claim1A P12"}
 
+# Sheets that are marked more than once have hidden spares of {or}, so many.
+SPARES = {"Claim1 P4": 1, "Claim1 P6": 2, "Claim1A P5": 1, "Claim1A P7": 1, "Claim1A P8": 2}
+
 TICKS = {
     "Claim1 P1": "1 2 9 10 11 3 4 5 6 7 8",
     "Claim1 P2": "l m n q r",

@@ -15,7 +15,7 @@ from pathlib import Path
 from lxml import etree
 
 import reading
-from asked import GRIDS, MONEY, PLACEHOLDERS, PLACES, TICKS, TOTALS, WITHOUT_MARK
+from asked import GRIDS, MONEY, PLACEHOLDERS, PLACES, SPARES, TICKS, TOTALS, WITHOUT_MARK
 from reading import SCRIPT, Template, W, find, make, number, text, value, words
 
 SPACE = "{http://www.w3.org/XML/1998/namespace}space"
@@ -93,20 +93,27 @@ class Placeholders(unittest.TestCase):
     def test_exactly_those_of_the_table_each_once_and_whole(self, template):
         expected = words(PLACEHOLDERS, template.name)
         if template.name not in WITHOUT_MARK:
-            expected.append("or")
+            expected += ["or"] * (1 + SPARES.get(template.name, 0))
         found = Counter(t.text for t in template.document.iter(W + "t")
                         if "{" in t.text or "}" in t.text)
         self.assertEqual(found, Counter("{%s}" % name for name in expected))
         # The search ignores case and may meet the text of several runs.
         whole = "".join(text(p) for p in template.document.iter(W + "p")).lower()
         for name in expected:
-            self.assertEqual(whole.count("{%s}" % name), 1, name)
+            self.assertEqual(whole.count("{%s}" % name), expected.count(name), name)
+
+    @on_each
+    def test_only_the_spare_marks_are_hidden(self, template):
+        hidden = [text(run) for run in template.document.iter(W + "r") if find(run, "rPr", "vanish") is not None]
+        self.assertEqual(hidden, ["{or}"] * SPARES.get(template.name, 0))
+        if template.name not in WITHOUT_MARK:
+            self.assertIsNone(find(template.run_of("or"), "rPr", "vanish"), "the first is the one that shows")
 
     @on_each
     def test_mark_stands_beside_the_page_number(self, template):
         page = re.match(r"Claim1[Aa]? P(\d+)", template.name).group(1)
         numbers = [text(p) for p in template.document.iter(W + "p")
-                   if re.search(r"^%s \{or\}$|Page %s( \{or\})?$" % (page, page), text(p))]
+                   if re.search(r"^%s \{or\}$|Page %s( (\{or\})+)?$" % (page, page), text(p))]
         self.assertEqual(len(numbers), 1)
         self.assertEqual("{or}" in numbers[0], template.name not in WITHOUT_MARK)
 

@@ -240,4 +240,47 @@ TEST_F(clsFit, RowsOfAGridAreCountedFromItsFirst)
     EXPECT_EQ(word.fitted()[0].row, 2);
 }
 
+// Two lines of 250 twips fill a row of 500 but for the line above it, of half a point.
+TEST_F(clsFit, TheLineAboveARowTakesItsRoom)
+{
+    const QString lined = QStringLiteral("<w:tcBorders><w:top w:val=\"single\" w:sz=\"4\"/></w:tcBorders></w:tcPr>");
+    for (const bool hasLine : {false, true}) {
+        Box box = Answer;
+        box.content = r(Placeholder, format(20));
+        QString table = tableOf(rowOf(box), box.width);
+        if (hasLine)
+            table.replace(QLatin1String("</w:tcPr>"), lined);
+        const clsTestFolder folder;
+        const QString path = folder.write(QStringLiteral("Sheet.doc"), clsTestDocument(table));
+        clsMSWord word;
+        word.OpenDocument(path);
+        word.DoReplace(Placeholder, QStringLiteral("14 Mill Lane\r\nLeeds"), false, false, true);
+        word.SaveAndClose();
+        EXPECT_EQ(word.fitted().size(), hasLine ? 1u : 0u);
+    }
+}
+
+// The first cell makes its row grow; the amount in the second is kept whole all the same, as if it stood before it.
+TEST_F(clsFit, ARowThatGrewForOneCellKeepsTheAmountsOfTheOthersWhole)
+{
+    const Box first {1000, 400, 160, 15, {}};
+    const Box second {800, 400, 160, 15, {}};
+    QString row = rowOf(first);
+    const QString cell = rowOf(second).section(QLatin1String("</w:trPr>"), 1).section(QLatin1String("</w:tr>"), 0, 0);
+    row.replace(QLatin1String("</w:tr>"), cell + QLatin1String("</w:tr>"));
+    const clsTestFolder folder;
+    const QString path = folder.write(QStringLiteral("Sheet.doc"), clsTestDocument(tableOf(row, 1800)));
+    clsMSWord word;
+    word.OpenDocument(path);
+    word.MoveCursorToStartOfRow();
+    word.SetText(QStringLiteral("1\r\n2\r\n3\r\n4\r\n5\r\n6"), false, false, true, false);
+    word.MoveCursorRight(1);
+    word.SetText(QStringLiteral("1,234,567.00"), false, false, true, false);
+    word.SaveAndClose();
+    ASSERT_EQ(word.fitted().size(), 2u);
+    EXPECT_EQ(word.fitted()[0].state, clsFittedText::RunsOn);
+    EXPECT_EQ(word.fitted()[1].state, clsFittedText::Smaller);
+    EXPECT_EQ(word.fitted()[1].printedHalfPoints, 13);
+}
+
 } // namespace

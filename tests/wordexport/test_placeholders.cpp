@@ -272,4 +272,31 @@ TEST(DoReplace, ALongTextHasNoLimit)
     EXPECT_EQ(replaced(p(QStringLiteral("{x}")), QStringLiteral("{x}"), text), p(text));
 }
 
+QString withoutHidden(const QString &body)
+{
+    return afterEditing(
+        clsTestDocument(body), [](clsMSWord &word) { word.RemoveHidden(QStringLiteral("{x}")); });
+}
+
+const QString Hidden = QStringLiteral("<w:vanish/>");
+
+TEST(RemoveHidden, RemovesEachPlaceThatIsHiddenAndNoOther)
+{
+    EXPECT_EQ(withoutHidden(paragraph(r(QStringLiteral("{x}")) + r(QStringLiteral("{x}"), Hidden)
+                  + r(QStringLiteral("{x}"), Hidden) + r(QStringLiteral("(1)"), Hidden))),
+        paragraph(r(QStringLiteral("{x}")) + r(QStringLiteral("(1)"), Hidden)));
+}
+
+TEST(RemoveHidden, LeavesWhatIsSaidNotToBeHidden)
+{
+    const QString shown = paragraph(r(QStringLiteral("{x}"), QStringLiteral("<w:vanish w:val=\"0\"/>")));
+    EXPECT_EQ(withoutHidden(shown), shown);
+}
+
+TEST(DoReplace, TypesOverAHiddenPlaceInHiddenText)
+{
+    const QString body = paragraph(r(QStringLiteral("(1)")) + r(QStringLiteral("{x}"), Hidden));
+    EXPECT_EQ(replaced(body), paragraph(r(QStringLiteral("(1)")) + r(QStringLiteral("new"), Hidden)));
+}
+
 } // namespace

@@ -74,6 +74,8 @@ constexpr Row Breaks[] = {
     {u"nnnnn nnnn/nnnn nnn", 3}, // a slash is no place where the word has a line to itself
     {u"nnnnnnn/nnnnnnnn nn", 3}, // but one in a word that is wider: 7, 8 and 2 letters
     {u"nnnn nnnnn / nnnnn", 3}, // and it stays with the word before it
+    {u"nn nnn-nn/nnnnnnn", 3}, // a word with a slash leaves the line whole, and then has no break but between letters
+    {u"nnn-nnnnn/nnnnnn", 3}, // a line that would end with the slash ends with the hyphen
     {u"00000 0000/0000 000", 3}, // no date is broken there
     {u"nnnnn nnnn,nnnn nnn", 3},
     {u"nnnnn nnn\u2013nnnn nnn", 2},

@@ -270,6 +270,11 @@ void clsMSWord::DoReplace(const QString &find, const QString &replacement, bool 
         MSWordObserver().failed(find, replacement);
 }
 
+void clsMSWord::RemoveHidden(const QString &text)
+{
+    guarded("RemoveHidden", [&] { document().removeHidden(text); });
+}
+
 void clsMSWord::InsertFileAtEnd(const QString &path, const QString &shownName, const clsPlainText *plain)
 {
     const QString &name = shownName.isEmpty() ? path : shownName;

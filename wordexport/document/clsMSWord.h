@@ -67,6 +67,8 @@ public:
     /// Replaces the first occurrence of the placeholder. One that the document does not hold is no failure: the
     /// text is then typed before the very first character of the document.
     void DoReplace(const QString &find, const QString &replacement, bool IsTick, bool IsMoney, bool BlankZero);
+    /// Removes this text wherever it is hidden, and goes to the start of the document.
+    void RemoveHidden(const QString &text);
     /// Appends the whole of that document to the end of this one, as sections of its own.
     /// `plain` is what is known of the file, where it is known: such a one is appended in a fraction of the time.
     void InsertFileAtEnd(const QString &path, const QString &shownName = {}, const clsPlainText *plain = nullptr);

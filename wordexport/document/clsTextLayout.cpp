@@ -101,9 +101,12 @@ Kind kindOf(char32_t c)
     return Kind::Letter;
 }
 
-bool isOneOf(Kind kind, std::initializer_list<Kind> kinds)
+constexpr bool isOneOf(Kind kind, std::initializer_list<Kind> kinds)
 {
-    return std::find(kinds.begin(), kinds.end(), kind) != kinds.end();
+    unsigned set = 0;
+    for (const Kind one : kinds)
+        set |= 1U << unsigned(one);
+    return (set >> unsigned(kind) & 1U) != 0;
 }
 
 bool partsWords(Kind kind)
@@ -121,6 +124,7 @@ public:
     {
         m_kinds.reserve(m_text.size());
         m_widths.reserve(m_text.size());
+        m_ends.resize(m_text.size());
         for (const Character &character : m_text) {
             m_kinds.push_back(kindOf(character.code));
             m_widths.push_back(widthOf(character));
@@ -142,7 +146,7 @@ public:
 
 private:
     int indent() const { return m_paragraph.left + (m_lines.sizes.empty() ? m_paragraph.firstLine : 0); }
-    int room() const { return (m_width - indent() - m_paragraph.right) * PerTwip - Reserve; }
+    int room() const { return roomOnLine(m_width - indent() - m_paragraph.right); }
 
     Kind kind(size_t i) const { return m_kinds[i]; }
     // The kind of the character before a place; at the start of the paragraph as after a blank.
@@ -151,24 +155,45 @@ private:
     size_t endOfLine(size_t start)
     {
         const int limit = room();
+        if (const size_t end = endWhereAllFits(start, limit))
+            return end;
         int x = 0;
-        size_t place = 0; // the last one for a break; none yet where it is 0
-        size_t fallback = 0; // for a line that has no better one
         for (size_t i = start; i < m_text.size(); ++i) {
+            m_ends[i] = x;
             if (kind(i) == Kind::LineBreak)
                 return i + 1;
-            if (i > start && mayBreak(i) && hyphenFits(i, x, limit))
-                place = i;
-            else if (i > start && mayBreakIfNeeded(i))
-                fallback = i;
             if (kind(i) == Kind::Blank) { // blanks at a line's end hang over it
                 x += m_widths[i];
                 continue;
             }
             const int end = kind(i) == Kind::Tab ? endOfTab(i, x, limit) : x + m_widths[i];
             if (end > limit)
-                return breakAt(start, i, place > 0 ? place : fallback);
+                return breakAt(start, i, wholePath(start, placeUpTo(start, i, limit)));
             x = end;
+        }
+        return m_text.size();
+    }
+
+    // The last place for a break before a character that the line has no room for; 0 where there is none. A line that
+    // ends with a slash has no room for it.
+    size_t placeUpTo(size_t start, size_t last, int limit) const
+    {
+        for (size_t i = last; i > start; --i)
+            if ((mayBreak(i) && hyphenFits(i, m_ends[i], limit)) || (i < last && mayBreakBehindSlash(i)))
+                return i;
+        return 0;
+    }
+
+    // Most lines need no look at their breaks: they end with the text, or where the text says. Else 0.
+    size_t endWhereAllFits(size_t start, int limit) const
+    {
+        int x = 0;
+        for (size_t i = start; i < m_text.size(); ++i) {
+            if (kind(i) == Kind::LineBreak)
+                return i + 1;
+            x += m_widths[i];
+            if (x > limit || kind(i) == Kind::Tab)
+                return 0;
         }
         return m_text.size();
     }
@@ -280,13 +305,23 @@ private:
         return mayBreakBetween(before, behind, i);
     }
 
-    // A word is broken at its slash only where it is wider than the line.
-    bool mayBreakIfNeeded(size_t i) const
+    bool mayBreakBehindSlash(size_t i) const
     {
-        if (kind(i) == Kind::Slash)
-            return kind(i - 1) == Kind::Blank;
-        return kind(i - 1) == Kind::Slash && isOneOf(kind(i), {Kind::Letter, Kind::Digit, Kind::Prefix})
-            && kindBefore(i - 1) != Kind::Blank && !isBetweenDigits(i - 1);
+        return m_text[i - 1].code == U'/' && isOneOf(kind(i), {Kind::Letter, Kind::Digit, Kind::Prefix})
+            && !isBetweenDigits(i - 1);
+    }
+
+    // What slashes join stays on one line from the blank before it on, unless that is too far away. Where it begins on
+    // a line before, no break is left to it but one between letters.
+    size_t wholePath(size_t start, size_t place) const
+    {
+        if (place == 0 || !mayBreakBehindSlash(place))
+            return place;
+        constexpr size_t TooFar = 66;
+        for (size_t i = place; i > 0 && place - i < TooFar; --i)
+            if (partsWords(kind(i - 1)))
+                return i > start ? i : 0;
+        return place;
     }
 
     bool isBetweenDigits(size_t i) const
@@ -341,6 +376,7 @@ private:
     int m_width;
     std::vector<Kind> m_kinds;
     std::vector<int> m_widths;
+    std::vector<int> m_ends; ///< of what stands before each character on its line
     Lines m_lines;
 };
 
@@ -358,12 +394,18 @@ int unitsOf(const Character &character)
     case 0x202F: return FontWidths::of(U' ', character.bold);
     default: break;
     }
-    if (QChar::category(character.code) == QChar::Mark_NonSpacing)
+    constexpr char32_t FirstMark = 0x300;
+    if (character.code >= FirstMark && QChar::category(character.code) == QChar::Mark_NonSpacing)
         return 0;
     return FontWidths::of(character.code, character.bold);
 }
 
 } // namespace
+
+int TextLayout::roomOnLine(int width)
+{
+    return width * PerTwip - Reserve;
+}
 
 int TextLayout::widthOf(const Character &character)
 {

@@ -50,6 +50,9 @@ struct Lines {
 /// The lines of a paragraph in a place of that width in twips.
 Lines layOut(const Paragraph &paragraph, int width);
 
+/// The room on a line that is so many twips wide, in sixths of a twip.
+int roomOnLine(int width);
+
 /// The width of a character, in sixths of a twip.
 int widthOf(const Character &character);
 

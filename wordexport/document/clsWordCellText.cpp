@@ -4,7 +4,7 @@
 #include "wordexport/document/mdWordXml.h"
 
 #include <algorithm>
-#include <array>
+#include <string_view>
 
 using pugi::xml_node;
 
@@ -18,13 +18,6 @@ constexpr char32_t Picture = 0xFFFC; // as wide as its size
 int naturalLine(int halfPoints)
 {
     return (halfPoints * 23 + 1) / 2;
-}
-
-template <class Visitor> void visitRuns(const xml_node &paragraph, const Visitor &visitor)
-{
-    for (xml_node run = WordXml::firstItem(paragraph, WordXml::isRun); run;
-         run = WordXml::nextItem(run, WordXml::isRun))
-        visitor(run);
 }
 
 // The characters that an element within a run stands for where it is no text.
@@ -43,6 +36,13 @@ char32_t characterOf(const xml_node &node)
     return Picture;
 }
 
+std::u32string charactersOf(std::string_view text)
+{
+    if (std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; }))
+        return std::u32string(text.begin(), text.end());
+    return QString::fromUtf8(text.data(), qsizetype(text.size())).toStdU32String();
+}
+
 int widthOfPicture(const xml_node &node)
 {
     constexpr int UnitsPerTwip = 635; // of the drawing's own measure
@@ -57,16 +57,66 @@ int heightOfTable(const xml_node &table)
     return height;
 }
 
+// The child of an element that has no other but its properties, and these are of that name.
+xml_node onlyChild(const xml_node &node, const char *properties, const char *name)
+{
+    xml_node child = node.first_child();
+    if (WordXml::is(child, properties))
+        child = child.next_sibling();
+    return WordXml::is(child, name) && !child.next_sibling() ? child : xml_node();
+}
+
+bool hasOnly(const xml_node &properties, std::initializer_list<const char *> names)
+{
+    for (const xml_node &property : properties.children())
+        if (std::none_of(names.begin(), names.end(), [&](const char *name) { return WordXml::is(property, name); }))
+            return false;
+    return true;
+}
+
 } // namespace
 
-bool clsWordCellText::holdsTyped(const xml_node &cell, const clsWordTyped &typed)
+bool clsWordCellText::fitsAtAGlance(
+    const xml_node &cell, const Place &place, int room, const clsWordLooks &looks, const clsWordTyped &typed)
 {
-    bool found = false;
-    for (xml_node block = WordXml::firstItem(cell, WordXml::isBlock); block && !found;
-         block = WordXml::nextItem(block, WordXml::isBlock))
-        if (WordXml::is(block, "w:p"))
-            visitRuns(block, [&](const xml_node &run) { found = found || typed.of(run) != nullptr; });
-    return found;
+    const xml_node paragraph = onlyChild(cell, "w:tcPr", "w:p");
+    const xml_node run = onlyChild(paragraph, "w:pPr", "w:r");
+    const xml_node text = onlyChild(run, "w:rPr", "w:t");
+    const clsWordTyped::Mark *mark = typed.of(run);
+    const xml_node properties = paragraph.child("w:pPr");
+    const xml_node format = run.child("w:rPr");
+    if (!text || !mark || mark->before > 0 || !hasOnly(properties, {"w:pStyle", "w:jc", "w:rPr"})
+        || !hasOnly(format, {"w:b", "w:bCs", "w:sz", "w:szCs", "w:color"}))
+        return false;
+    const clsWordLooks::Paragraph &look = looks.ofStyles(WordXml::val(properties.child("w:pStyle")), place.tableStyle);
+    if (look.lineRule != "exact" || look.before.value_or(0) + look.line.value_or(room + 1) > room
+        || look.run.capitals.value_or(false) || look.run.hidden.value_or(false))
+        return false;
+    const clsWordLooks::Run runLook = looks.ofRun(format, look.run);
+    TextLayout::Character character {0, runLook.halfPoints.value_or(HalfPointsOfNoStyle), runLook.bold.value_or(false)};
+    int left = TextLayout::roomOnLine(
+        place.width - look.left.value_or(0) - look.right.value_or(0) - std::max(0, look.firstLine.value_or(0)));
+    for (const char *c = text.text().get(); *c != 0 && left >= 0; ++c) {
+        if (static_cast<signed char>(*c) < ' ') // what is no plain character, or begins one of several bytes
+            return false;
+        character.code = char32_t(*c);
+        left -= TextLayout::widthOf(character);
+    }
+    return left >= 0;
+}
+
+const clsWordTyped::Mark *clsWordCellText::firstTyped(const xml_node &cell, const clsWordTyped &typed)
+{
+    for (const xml_node &child : cell.children()) {
+        const clsWordTyped::Mark *mark = nullptr;
+        if (WordXml::isRun(child))
+            mark = typed.of(child);
+        else if (WordXml::is(child, "w:p") || WordXml::isWrapper(child))
+            mark = firstTyped(child, typed);
+        if (mark)
+            return mark;
+    }
+    return nullptr;
 }
 
 clsWordCellText::clsWordCellText(const Place &place, clsWordTyped &typed)
@@ -130,8 +180,9 @@ void clsWordCellText::readParagraph(const xml_node &paragraph, const std::string
         const int inTemplate = std::min(typedFrom, leaf.start + leaf.length) - leaf.start;
         const auto textAt = [&](int from, int to) {
             if (WordXml::is(leaf.node, "w:t"))
-                return words.text().substr(size_t(leaf.start + from), size_t(to - from));
-            return QString::fromUcs4(std::array {characterOf(leaf.node)}.data(), 1).toStdString();
+                return charactersOf(
+                    std::string_view(words.text()).substr(size_t(leaf.start + from), size_t(to - from)));
+            return std::u32string(1, characterOf(leaf.node));
         };
         if (inTemplate > 0)
             addPiece(read, {run, 0, 0, leaf.start, false, false}, textAt(0, inTemplate), runLook);
@@ -146,13 +197,16 @@ void clsWordCellText::readParagraph(const xml_node &paragraph, const std::string
 }
 
 void clsWordCellText::addPiece(
-    Paragraph &paragraph, const Piece &piece, const std::string &text, const clsWordLooks::Run &look)
+    Paragraph &paragraph, const Piece &piece, const std::u32string &text, const clsWordLooks::Run &look)
 {
     std::vector<TextLayout::Character> &all = paragraph.layout.text;
     const size_t from = all.size();
-    for (const uint code : QString::fromStdString(text).toUcs4())
-        all.push_back({look.capitals.value_or(false) ? QChar::toUpper(code) : code,
-            look.halfPoints.value_or(HalfPointsOfNoStyle), look.bold.value_or(false)});
+    const bool capitals = look.capitals.value_or(false);
+    const int halfPoints = look.halfPoints.value_or(HalfPointsOfNoStyle);
+    const bool bold = look.bold.value_or(false);
+    all.reserve(from + text.size());
+    for (const char32_t code : text)
+        all.push_back({capitals ? QChar::toUpper(code) : code, halfPoints, bold});
     paragraph.pieces.push_back(piece);
     paragraph.pieces.back().from = from;
     paragraph.pieces.back().to = all.size();

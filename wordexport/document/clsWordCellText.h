@@ -35,8 +35,13 @@ public:
     /// No text is made smaller than this.
     static constexpr int SmallestHalfPoints = 12;
 
-    /// A quick look: was anything typed into the cell?
-    static bool holdsTyped(const pugi::xml_node &cell, const clsWordTyped &typed);
+    /// A quick look: the mark of the first text that was typed into the cell; null where there is none.
+    static const clsWordTyped::Mark *firstTyped(const pugi::xml_node &cell, const clsWordTyped &typed);
+
+    /// A quick look at a cell that holds nothing but a short typed text, as most cells of a grid do: does it fit on one
+    /// line, in a room of that height in twips? False also where only a closer look can tell.
+    static bool fitsAtAGlance(
+        const pugi::xml_node &cell, const Place &place, int room, const clsWordLooks &looks, const clsWordTyped &typed);
 
     clsWordCellText(const pugi::xml_node &cell, const Place &place, const clsWordLooks &looks, clsWordTyped &typed);
 
@@ -83,7 +88,7 @@ private:
     };
 
     void readParagraph(const pugi::xml_node &paragraph, const std::string &tableStyle, const clsWordLooks &looks);
-    void addPiece(Paragraph &paragraph, const Piece &piece, const std::string &text, const clsWordLooks::Run &look);
+    void addPiece(Paragraph &paragraph, const Piece &piece, const std::u32string &text, const clsWordLooks::Run &look);
     void note(const QString &placeholder, int halfPoints);
 
     int m_width;

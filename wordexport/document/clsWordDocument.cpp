@@ -45,6 +45,12 @@ bool isTick(QChar c)
     return c == QChar(0xFE) || c == QChar(0xA8);
 }
 
+bool isHidden(const xml_node &format)
+{
+    const xml_node hidden = format.child("w:vanish");
+    return hidden && WordXml::isOn(hidden);
+}
+
 void setFont(xml_node format, const char *font)
 {
     format.remove_child("w:rFonts");
@@ -161,6 +167,24 @@ void clsWordDocument::findFirst(const QString &find)
     }
     const std::vector<xml_node> &candidates = paragraphsThatMayHold(sure);
     (void)std::any_of(candidates.begin(), candidates.end(), selectIn);
+}
+
+void clsWordDocument::removeHidden(const QString &text)
+{
+    goToStart();
+    const std::string sought = text.toStdString();
+    for (const xml_node &found : paragraphsThatMayHold(sought.front())) {
+        clsWordParagraph paragraph(found, &m_typed);
+        size_t at = 0;
+        while ((at = paragraph.text().find(sought, at)) != std::string::npos) {
+            const int end = int(at + sought.size());
+            const std::vector<xml_node> formats = paragraph.formatsIn(int(at), end);
+            if (std::all_of(formats.begin(), formats.end(), isHidden))
+                paragraph.erase(int(at), end);
+            else
+                ++at;
+        }
+    }
 }
 
 // A sheet is searched for one placeholder after another, and all of them have a brace: the paragraphs that have one

@@ -46,6 +46,8 @@ public:
 
     /// Selects the first occurrence of a text in the story; where there is none, the cursor is at the start.
     void findFirst(const QString &find);
+    /// Removes this text wherever it is hidden.
+    void removeHidden(const QString &text);
     /// True when any of the selected text is bold; with nothing selected, when typed text would be.
     bool selectionIsBold();
 

@@ -158,14 +158,23 @@ std::vector<const clsWordLooks::Style *> clsWordLooks::chainOf(const std::string
     return chain;
 }
 
+const clsWordLooks::Paragraph &clsWordLooks::ofStyles(const char *paragraphStyle, const std::string &tableStyle) const
+{
+    const auto [known, isNew] = m_byStyles.try_emplace({paragraphStyle, tableStyle}, m_documentDefault);
+    Paragraph &look = known->second;
+    if (isNew) {
+        for (const Style *style : chainOf(tableStyle, "table"))
+            look.takeOver(style->look);
+        for (const Style *style : chainOf(paragraphStyle, "paragraph"))
+            look.takeOver(style->look);
+    }
+    return look;
+}
+
 clsWordLooks::Paragraph clsWordLooks::ofParagraph(const xml_node &paragraph, const std::string &tableStyle) const
 {
     const xml_node properties = paragraph.child("w:pPr");
-    Paragraph look = m_documentDefault;
-    for (const Style *style : chainOf(tableStyle, "table"))
-        look.takeOver(style->look);
-    for (const Style *style : chainOf(WordXml::val(properties.child("w:pStyle")), "paragraph"))
-        look.takeOver(style->look);
+    Paragraph look = ofStyles(WordXml::val(properties.child("w:pStyle")), tableStyle);
     look.takeOver(paragraphSaidBy(properties));
     return look;
 }

@@ -55,6 +55,8 @@ public:
     /// is kept.
     static std::shared_ptr<const clsWordLooks> ofStyles(const QByteArray &styles);
 
+    /// The look of a paragraph that says nothing of it but its style.
+    const Paragraph &ofStyles(const char *paragraphStyle, const std::string &tableStyle) const;
     /// The look of a paragraph, in a table of that style where it stands in one; its run is that of plain text in it.
     Paragraph ofParagraph(const pugi::xml_node &paragraph, const std::string &tableStyle) const;
     /// The look of a run in a paragraph with that look.
@@ -76,4 +78,6 @@ private:
     std::map<std::string, Style> m_styles;
     std::map<std::string, std::string> m_defaults; ///< the default style of each type
     Paragraph m_documentDefault;
+    /// What paragraphs look like by their style and their table's, as far as it was asked for.
+    mutable std::map<std::pair<std::string, std::string>, Paragraph> m_byStyles;
 };

@@ -24,13 +24,20 @@ xml_node cellAt(const xml_node &row, int column)
     return {};
 }
 
-// The widest line at a side of a cell, in twips.
+// In twips; the file has eighths of a point.
+int widthOfLine(const xml_node &line)
+{
+    return line.attribute("w:sz").as_int() * 20 / 8;
+}
+
 int widestSideLine(const xml_node &borders)
 {
-    int eighths = 0;
+    int widest = 0;
+    if (!borders)
+        return widest;
     for (const char *side : {"w:left", "w:right", "w:start", "w:end", "w:insideV"})
-        eighths = std::max(eighths, borders.child(side).attribute("w:sz").as_int());
-    return eighths * 20 / 8;
+        widest = std::max(widest, widthOfLine(borders.child(side)));
+    return widest;
 }
 
 } // namespace
@@ -84,44 +91,47 @@ xml_node clsWordTableShape::lastRowOf(xml_node row, const xml_node &cell, int gr
     return row;
 }
 
-clsWordLooks::Margins clsWordTableShape::allMarginsOf(const xml_node &cell) const
+clsWordLooks::Margins clsWordTableShape::marginsOf(const xml_node &cell) const
 {
     clsWordLooks::Margins margins = m_margins;
-    margins.takeOver(clsWordLooks::Margins::saidBy(cell.child("w:tcPr").child("w:tcMar")));
+    if (const xml_node own = cell.child("w:tcPr").child("w:tcMar"))
+        margins.takeOver(clsWordLooks::Margins::saidBy(own));
     return margins;
 }
 
-clsWordCellText::Place clsWordTableShape::placeOf(const xml_node &cell, int gridColumn)
+clsWordCellText::Place clsWordTableShape::placeOf(
+    const xml_node &cell, int gridColumn, const clsWordLooks::Margins &margins)
 {
     const xml_node said = cell.child("w:tcPr").child("w:tcW");
     int width = std::strcmp(said.attribute("w:type").value(), "dxa") == 0 ? said.attribute("w:w").as_int() : 0;
     if (width <= 0)
         width = widthOfColumns(gridColumn, gridColumn + spanOf(cell));
-    const clsWordLooks::Margins margins = allMarginsOf(cell);
     return {width - margins.left.value_or(0) - margins.right.value_or(0) - lineLoss(),
         WordXml::val(m_table.child("w:tblPr").child("w:tblStyle"))};
 }
 
-int clsWordTableShape::marginsOf(const xml_node &cell) const
-{
-    const clsWordLooks::Margins margins = allMarginsOf(cell);
-    return margins.top.value_or(0) + margins.bottom.value_or(0);
-}
-
-std::optional<int> clsWordTableShape::roomOf(xml_node row, const xml_node &cell, int gridColumn) const
+std::optional<int> clsWordTableShape::roomOf(
+    xml_node row, const xml_node &last, const xml_node &cell, const clsWordLooks::Margins &margins)
 {
     const xml_node direction = cell.child("w:tcPr").child("w:textDirection");
     if (direction && std::strcmp(WordXml::val(direction), "lrTb") != 0)
         return {};
-    int room = -marginsOf(cell);
-    const xml_node last = lastRowOf(row, cell, gridColumn);
+    int room = -margins.top.value_or(0) - margins.bottom.value_or(0) - heightOfLines(row, last);
     for (;; row = WordXml::nextItem(row, WordXml::isRow)) {
-        if (!isExact(row))
+        if (!isExact(row) && !m_grown.contains(row))
             return {};
         room += heightSaidBy(row);
         if (row == last)
             return room;
     }
+}
+
+void clsWordTableShape::letGrow(const xml_node &row)
+{
+    if (!isExact(row))
+        return;
+    heightOf(row).attribute("w:hRule").set_value("atLeast");
+    m_grown.insert(row);
 }
 
 int clsWordTableShape::widthOfColumns(int from, int to) const
@@ -139,10 +149,35 @@ int clsWordTableShape::lineLoss()
         int widest = widestSideLine(m_table.child("w:tblPr").child("w:tblBorders"));
         for (xml_node row = WordXml::firstItem(m_table, WordXml::isRow); row;
              row = WordXml::nextItem(row, WordXml::isRow))
-            for (xml_node cell = WordXml::firstItem(row, WordXml::isCell); cell;
-                 cell = WordXml::nextItem(cell, WordXml::isCell))
+            for (const xml_node &cell :
+                {WordXml::firstItem(row, WordXml::isCell), WordXml::lastItem(row, WordXml::isCell)})
                 widest = std::max(widest, widestSideLine(cell.child("w:tcPr").child("w:tcBorders")));
         m_lineLoss = (widest + 1) / 2;
     }
     return m_lineLoss;
+}
+
+// The widest line along one side of a row. A table's own lines are those of cells that say nothing of theirs.
+int clsWordTableShape::lineAlong(const xml_node &row, const char *side, const char *sideOfTable) const
+{
+    int widest = 0;
+    for (xml_node cell = WordXml::firstItem(row, WordXml::isCell); cell;
+         cell = WordXml::nextItem(cell, WordXml::isCell)) {
+        xml_node line = cell.child("w:tcPr").child("w:tcBorders").child(side);
+        if (!line)
+            line = m_table.child("w:tblPr").child("w:tblBorders").child(sideOfTable);
+        widest = std::max(widest, widthOfLine(line));
+    }
+    return widest;
+}
+
+// The line above a row takes its room from it, and so does the one below a table's last row.
+int clsWordTableShape::heightOfLines(const xml_node &first, const xml_node &last)
+{
+    if (m_rowOfLineAbove != first) {
+        m_rowOfLineAbove = first;
+        m_lineAbove = lineAlong(first, "w:top", WordXml::previousItem(first, WordXml::isRow) ? "w:insideH" : "w:top");
+    }
+    const bool endsTable = !WordXml::nextItem(last, WordXml::isRow);
+    return m_lineAbove + (endsTable ? lineAlong(last, "w:bottom", "w:bottom") : 0);
 }

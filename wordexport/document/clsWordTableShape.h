@@ -6,6 +6,7 @@
 #include <pugixml.hpp>
 
 #include <optional>
+#include <set>
 #include <vector>
 
 /// The measures of a table: how wide its cells are and how high its rows may be.
@@ -24,19 +25,26 @@ public:
     /// The last row that a cell reaches down into.
     static pugi::xml_node lastRowOf(pugi::xml_node row, const pugi::xml_node &cell, int gridColumn);
 
-    clsWordCellText::Place placeOf(const pugi::xml_node &cell, int gridColumn);
-    /// What its margins above and below take of a cell's height.
-    int marginsOf(const pugi::xml_node &cell) const;
-    /// The height that a cell has for its text; none where it may be of any.
-    std::optional<int> roomOf(pugi::xml_node row, const pugi::xml_node &cell, int gridColumn) const;
+    clsWordLooks::Margins marginsOf(const pugi::xml_node &cell) const;
+    clsWordCellText::Place placeOf(const pugi::xml_node &cell, int gridColumn, const clsWordLooks::Margins &margins);
+    /// The height that a cell has for its text, from its row to the last one that it reaches into; none where it may be
+    /// of any. A row that has been made to grow counts with its old height, whatever the order of its cells.
+    std::optional<int> roomOf(pugi::xml_node row, const pugi::xml_node &last, const pugi::xml_node &cell,
+        const clsWordLooks::Margins &margins);
+    /// Lets a row of exact height become higher.
+    void letGrow(const pugi::xml_node &row);
 
 private:
-    clsWordLooks::Margins allMarginsOf(const pugi::xml_node &cell) const;
     int widthOfColumns(int from, int to) const;
     int lineLoss();
+    int lineAlong(const pugi::xml_node &row, const char *side, const char *sideOfTable) const;
+    int heightOfLines(const pugi::xml_node &first, const pugi::xml_node &last);
 
     pugi::xml_node m_table;
     clsWordLooks::Margins m_margins;
     std::vector<int> m_columns;
     int m_lineLoss = -1;
+    pugi::xml_node m_rowOfLineAbove; ///< the row whose line above was looked up last
+    int m_lineAbove = 0;
+    std::set<pugi::xml_node> m_grown;
 };

@@ -17,6 +17,8 @@ struct Range {
 
 int lookUp(char32_t character, std::span<const Range> ranges, std::span<const std::uint16_t> widths)
 {
+    if (character >= ranges.front().first && character <= ranges.front().last) // most text by far
+        return widths[character - ranges.front().first];
     const auto range = std::lower_bound(ranges.begin(), ranges.end(), character,
         [](const Range &candidate, char32_t sought) { return candidate.last < sought; });
     if (range == ranges.end() || character < range->first)

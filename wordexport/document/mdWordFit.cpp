@@ -22,15 +22,6 @@ bool mayGrow(const xml_node &row)
     return true;
 }
 
-bool grow(const xml_node &row)
-{
-    if (!mayGrow(row))
-        return false;
-    if (clsWordTableShape::isExact(row))
-        clsWordTableShape::heightOf(row).attribute("w:hRule").set_value("atLeast");
-    return true;
-}
-
 // Fits the rows of one table.
 class clsTableFitter {
 public:
@@ -69,19 +60,22 @@ private:
             const bool innerGrew = fitTablesIn(cell);
             if (innerGrew && grow(row))
                 grew = true;
-            if (clsWordCellText::holdsTyped(cell, m_typed)) {
-                clsWordCellText text(cell, m_shape.placeOf(cell, gridColumn), m_looks, m_typed);
-                const auto texts = text.typedTexts();
-                inGrid = inGrid || std::any_of(texts.begin(), texts.end(), [](const clsWordCellText::Typed &typed) {
-                    return typed.placeholder.isEmpty();
-                });
-                if (fitCell(text, clsWordTableShape::lastRowOf(row, cell, gridColumn),
-                        m_shape.roomOf(row, cell, gridColumn), gridRow, column))
+            if (const clsWordTyped::Mark *mark = clsWordCellText::firstTyped(cell, m_typed)) {
+                inGrid = inGrid || mark->placeholder.isEmpty();
+                if (fitCell(row, cell, gridColumn, gridRow, column))
                     grew = true;
             }
             gridColumn += clsWordTableShape::spanOf(cell);
         }
         return grew;
+    }
+
+    bool grow(const xml_node &row)
+    {
+        if (!mayGrow(row))
+            return false;
+        m_shape.letGrow(row);
+        return true;
     }
 
     bool fitTablesIn(const xml_node &cell)
@@ -94,11 +88,18 @@ private:
         return grew;
     }
 
-    // True when the row had to grow. `room` is the height that the cell has, none where it may be of any.
-    bool fitCell(clsWordCellText &text, const xml_node &lastRow, std::optional<int> room, int gridRow, int column)
+    // True when the row had to grow.
+    bool fitCell(const xml_node &row, const xml_node &cell, int gridColumn, int gridRow, int column)
     {
+        const clsWordLooks::Margins margins = m_shape.marginsOf(cell);
+        const xml_node lastRow = clsWordTableShape::lastRowOf(row, cell, gridColumn);
+        const std::optional<int> room = m_shape.roomOf(row, lastRow, cell, margins); // none where any height will do
         if (!room)
             return false;
+        const clsWordCellText::Place place = m_shape.placeOf(cell, gridColumn, margins);
+        if (clsWordCellText::fitsAtAGlance(cell, place, *room, m_looks, m_typed))
+            return false;
+        clsWordCellText text(cell, place, m_looks, m_typed);
         const clsWordCellText::Measure own = text.measure(0);
         const bool fits = own.height <= *room && !own.tooNarrow;
         if (fits && own.brokenWords == 0)

@@ -158,9 +158,11 @@ private:
 
     Heights linesOf(const xml_node &cell, int gridColumn)
     {
-        Heights lines = clsWordCellText(cell, m_shape.placeOf(cell, gridColumn), m_looks, m_typed).lineHeights();
+        const clsWordLooks::Margins margins = m_shape.marginsOf(cell);
+        Heights lines
+            = clsWordCellText(cell, m_shape.placeOf(cell, gridColumn, margins), m_looks, m_typed).lineHeights();
         if (!lines.empty())
-            lines.back() += m_shape.marginsOf(cell);
+            lines.back() += margins.top.value_or(0) + margins.bottom.value_or(0);
         return lines;
     }
 

@@ -41,7 +41,7 @@ PAGE_2 = sheet(
     answer_row(answered(30, slot("date")),
                printed(90, "", look.QUESTION, merge="continue")),
     strip(LATE[1]),
-    text_box(LATE[2], 120))
+    text_box(LATE[2], 245))
 
 PAGE_3 = sheet(
     head(FORM, 3, 8, shared.WORK[0]),
@@ -52,7 +52,8 @@ PAGE_3 = sheet(
     text_box(ENHANCEMENT[2], 322, look.LONG_BOX))
 
 PAGE_6 = sheet(
-    head(FORM, 6, 12, "Additional information"),
+    # Marked for the additional information, the experts and the whole page.
+    head(FORM, 6, 12, "Additional information", spares=2),
     place_strip(),
     place(10),
     section(13, "Experts", 10),

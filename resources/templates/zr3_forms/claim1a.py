@@ -157,7 +157,8 @@ EACH_JOURNEY = "One line for each hearing to which travel was exceptional."
 CONTINUED_ROW = 14.5
 
 PAGE_8 = sheet(
-    head(FORM, 8, 15, SCHEME),
+    # Marked for the bolt-on payments, the travel and the whole page.
+    head(FORM, 8, 15, SCHEME, spares=2),
     notes(EACH_HEARING),
     spacer(5),
     subheading("A\u2003Advocacy costs"),
@@ -188,7 +189,7 @@ SHEETS = {
     "Claim1A P6 Expert Dibs Standards Cont": shared.expert_standards_continuation(FORM, 6, 12),
     "Claim1A P7": shared.disbursements(
         FORM, 7, joint=13, other=14, totals_names=("dibsnet", "dibsvat", "dibstotal"),
-        before_joint=(spacer(8), subheading("Share of each party"))),
+        before_joint=(spacer(8), subheading("Share of each party")), spares=1),
     "Claim1A P7 Expert Dibs Joint Instruction Cont": shared.joint_continuation(FORM, 7, 13),
     # With a small letter: the export asks for it so.
     "Claim1a P7 Other Dibs Cont": shared.other_disbursements_continuation(FORM, 7, 14),

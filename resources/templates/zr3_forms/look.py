@@ -97,7 +97,8 @@ ANSWER_HEAD = Style("Answer Head", 8, 9.5, bold=True, after=3, left=100, right=1
 GROUP_HEAD = Style("Group Head", 7.5, 9, bold=True, align=CENTRE)
 SCHEDULE_HEAD = Style("Schedule Head", 7.5, 8.6, bold=True, after=2.5, left=40, right=40)
 
-ANSWER = Style("Answer", 10, 12.5, left=100, right=100)
+# Two lines of it leave room in a row of 25 points for the line below a table.
+ANSWER = Style("Answer", 10, 12, left=100, right=100)
 BOX = Style("Text Box", 10, 12.5, before=5, left=100, right=100)
 LONG_BOX = Style("Long Text Box", 10, 14, before=5, left=280, right=280)
 SHEET_BOX = Style("Sheet Text Box", 10, 13, before=5, left=280, right=280)
@@ -106,10 +107,11 @@ GRAND_TOTAL = Style("Grand Total", 14, 18, bold=True, left=100, right=100)
 GRAND_TOTAL_LABEL = Style("Grand Total Label", 11, 13, bold=True, align=RIGHT,
                           left=100, right=100)
 
-# Two lines of a grid's type stand clear of the rules in a row of 20 points: a
-# certificate reference of twenty capitals needs both.  Capitals stand high in so
-# low a line; the point before it centres them.
-GRID = Style("Grid", 9, 9.5, before=1, left=80, right=80)
+# Two lines of a grid's type stand clear of the rules in a row of 20 points, from
+# which the line above it takes half a point: a certificate reference of twenty
+# capitals needs both.  Capitals stand high in so low a line; the point before it
+# centres them.
+GRID = Style("Grid", 9, 9.25, before=1, left=80, right=80)
 # An amount must never break: half a figure reads as another figure. Hence the small type and the narrow insets where
 # columns are many. The columns hold six figures before the point, those of hourly rates four, of hearings'
 # rates and fixed payments five, the sums seven.

@@ -20,6 +20,7 @@ class Run(NamedTuple):
     text: str
     size: Optional[float] = None        # None: as its paragraph
     bold: Optional[bool] = None
+    hidden: bool = False
 
 
 class Tab(NamedTuple):
@@ -54,9 +55,9 @@ class Row(NamedTuple):
     ruled_below: bool = True            # False: whatever the row below would draw
 
 
-def slot(name, size=None, bold=None):
+def slot(name, size=None, bold=None, hidden=False):
     """A placeholder.  Always one run: the export looks for it within one text."""
-    return Run("{%s}" % name, size, bold)
+    return Run("{%s}" % name, size, bold, hidden)
 
 
 # --- Elements --------------------------------------------------------------
@@ -75,14 +76,14 @@ def style_id(style):
     return "ZR3" + style.name.replace(" ", "")
 
 
-def run_look(style, size=None, bold=None):
+def run_look(style, size=None, bold=None, hidden=False):
     """Size and weight stand at every run and paragraph mark, not in the style
     alone: text that is typed later copies them from there."""
     bold = style.bold if bold is None else bold
     half_points = round(2 * (size or style.size))
     weight = element("b") if bold else element("b", val="0") if style.bold else None
     colour = element("color", val=style.colour) if style.colour != look.BLACK else None
-    return element("rPr", weight, colour,
+    return element("rPr", weight, element("vanish") if hidden else None, colour,
                    element("sz", val=half_points), element("szCs", val=half_points))
 
 
@@ -93,7 +94,7 @@ def spacing(style, line=None):
 
 def run_element(run, paragraph):
     bold = paragraph.bold if run.bold is None else run.bold
-    made = element("r", run_look(paragraph.style, run.size, bold))
+    made = element("r", run_look(paragraph.style, run.size, bold, run.hidden))
     for i, line in enumerate(run.text.split("\n")):
         if i:
             made.append(element("br"))

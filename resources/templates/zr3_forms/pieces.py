@@ -29,16 +29,17 @@ def flat(pieces):
 
 def sheet(*pieces):
     """The quiet line comes first and stays empty: a sheet number for which no
-    mark is left is typed there, right above the page box.  The export takes one
+    mark is left would be typed there, right above the page box.  The export takes one
     character off the very end of the document; the second tail makes up for it."""
     tail = Paragraph(look.TAIL)
     return [Paragraph(look.MARK), *flat(pieces), tail, tail]
 
 
-def page_mark(marked):
-    """Room for the number of a further sheet.  Only one per sheet: a second one
-    would stay visible on every claim that has no further sheets."""
-    return (slot("or"),) if marked else ()
+def page_mark(marked, spares=0):
+    """Room for the number of a further sheet.  Only the first is seen.  A sheet that the
+    export marks more often has a hidden spare for each further time; those that are left
+    over it removes."""
+    return (slot("or"), *[slot("or", hidden=True)] * spares) if marked else ()
 
 
 def masthead(form, page):
@@ -60,14 +61,14 @@ def banded(number, title, width):
                  left=look.GAP))
 
 
-def head(form, page, number, title, continued=False, marked=True):
+def head(form, page, number, title, continued=False, marked=True, spares=0):
     """Masthead and first section band in one, so that grids begin high up."""
     going_on = (Run(", continued", size=look.CONTINUED, bold=False),) if continued else ()
     width = look.units(look.PAGE_BOX_UNITS)
     box = Paragraph(
         look.PAGE_BOX,
         (Run(form.name, size=look.PAGE_BOX_FORM, bold=False), "\tPage %d" % page,
-         *((" ", *page_mark(True)) if marked else ())),
+         *((" ", *page_mark(True, spares)) if marked else ())),
         tabs=(Tab(RIGHT, width - look.PAGE_BOX.right),))
     number_and_title = banded(number, (title, *going_on),
                               look.ACROSS - look.KEY_UNITS - look.PAGE_BOX_UNITS)

@@ -24,13 +24,13 @@ def costs_awarded(form, page, costs, recovery, *more_money_rows):
         fields(Field(60, "Interest on all costs", "interest", is_money=True),
                Field(60, "Date interest commenced or commences", "dateinterestcommenced")),
         strip("Please provide a breakdown where interest has been calculated"),
-        text_box("interestbreakdown", 31),
+        text_box("interestbreakdown", 44),
 
         section(recovery, "Recovery"),
         fields(Field(60, "Amount recovered to date", "rcvrdtodate", is_money=True),
                Field(60, "Date order was served", "dateorderserved")),
         strip("Address of service"),
-        text_box("addressofservice", 44),
+        text_box("addressofservice", 69),
         question("a", "Does the court order say leave of the court is required before enforcement "
                       "can take place?", "3", "4", lines=2),
         question("b", "Has a determination of the debtor’s means been undertaken by the court?",
@@ -38,7 +38,7 @@ def costs_awarded(form, page, costs, recovery, *more_money_rows):
         follow_up("If yes, give the amount", "detmamount"),
         question("c", "Has any offer been made by the debtor?", "7", "8"),
         strip("If so, give details"),
-        text_box("offerbydebtordetails", 44)]
+        text_box("offerbydebtordetails", 57)]
 
 
 def debtor(form, page, person, employment, means):
@@ -63,7 +63,7 @@ def debtor(form, page, person, employment, means):
         label_row(answered(address, style=look.BOX, merge="continue", above=look.NONE),
                   printed(beside, "Solicitor’s firm name")),
         answer_row(answered(address, style=look.BOX, merge="continue"),
-                   answered(beside, slot("solicitorsfirmname")), height=30),
+                   answered(beside, slot("solicitorsfirmname")), height=31),
 
         section(employment, "Employment", 8),
         ticks((40, "1", "Employed"), (40, "2", "Self-employed"), (40, "3", "Unemployed"),
@@ -71,7 +71,7 @@ def debtor(form, page, person, employment, means):
         fields(Field(80, "Job", "job"),
                Field(40, "Debtor’s income", "debtorsincome", is_money=True)),
         fields(Field(60, "Employer’s name", "employersname"),
-               Field(60, "Employer’s address", "employersaddress"), height=40),
+               Field(60, "Employer’s address", "employersaddress"), height=62),
 
         section(means, "Means and information", 8),
         strip("Debtor’s assets"),
@@ -80,4 +80,4 @@ def debtor(form, page, person, employment, means):
         answer_row(tick(20, "4", "Yes"), tick(20, "5", "No"),
                    answered(80, slot("casereference"))),
         strip("Information"),
-        text_box("information", 205))
+        text_box("information", 183))

@@ -40,7 +40,7 @@ def first_page(form, exceptional, final_bill, other_providers=None):
         strip("Does this claim cover more than one certificate?\n"
               "If so, give the other case reference numbers and the percentage apportionments "
               "between the cases", lines=2),
-        text_box("morethan1certificate", 44),
+        text_box("morethan1certificate", 57),
 
         section(3, "Solicitor"),
         fields(Field(25, "Account number", "accountnumber"),
@@ -120,7 +120,8 @@ COUNSEL = Grid(row=17.5, heads=18, columns=(
 
 def counsels_fees(form, page, number):
     return sheet(
-        head(form, page, number, "Counsel’s fees"),
+        # Marked once for the sheets of the page before it, and once for its own.
+        head(form, page, number, "Counsel’s fees", spares=1),
         question("a", "Have all outstanding claims for payment by counsel been paid by LAA?",
                  "1", "2"),
         spacer(10),
@@ -263,11 +264,11 @@ SHARES = ("One line for each party to the instruction. The share is a percentage
           "expert’s fee.")
 
 
-def disbursements(form, page, joint, other, totals_names, before_joint=()):
+def disbursements(form, page, joint, other, totals_names, before_joint=(), spares=0):
     """`joint` and `other` are the numbers of the sections; `before_joint` are
     lines that a form has between the notes and the first grid."""
     return sheet(
-        head(form, page, joint, JOINT_TITLE),
+        head(form, page, joint, JOINT_TITLE, spares=spares),
         notes(LIST_EACH, SHARES,
               "Give the reference of the certificate of a party who is legally aided."),
         before_joint,

@@ -43,7 +43,7 @@ public:
         const auto column = size_t(price.TimeColumn);
         attempt(m_totals.times[column], [&] {
             if (price.errorOf(Price::TimeFigure))
-                mdExplained(form, item, [&] { TimeToMinutes(price.TTime); });
+                mdExplained(form, item, [&] { TimeToMinutes(item.TTime()); });
             addMinutes(m_minutes[column], price.Minutes);
         });
         attempt(m_totals.claims[column], [&] { m_totals.claims[column].value += claimOf(form, item, price); });

@@ -42,8 +42,9 @@ private:
 };
 
 /// All that is worked out for one item of the schedule. A figure that fails in the item's own member fails here with
-/// the same error, which is noted: its place then holds nothing that counts.
-struct clsSchedulePrice {
+/// the same error, which is noted: its place then holds nothing that counts. It takes one line of the processor's cache:
+/// whoever walks the bill in the user's order goes to and fro among them.
+struct alignas(64) clsSchedulePrice {
     enum Figure {
         InitialsFigure,
         TimeFigure,
@@ -55,20 +56,20 @@ struct clsSchedulePrice {
     };
     static constexpr int Figures = ClaimFigure + 1;
 
-    // What is asked for most stands together.
     Money Rate;
     Money BasicClaim;
     Money TotalEnhancementPercentage;
     Money Claim;
-    std::array<std::int16_t, Figures> errors {}; ///< by figure: the number of its error, 0 for none
-    int TimeColumn = 0;
+    const QString *FeeEarnerInitials = nullptr; ///< lives as long as the prices; nothing where they fail
     int Minutes = 0; ///< of the time
-    QString TTime;
-    QString FeeEarnerInitials;
+    std::int16_t TimeColumn = 0;
+    std::array<std::int16_t, Figures> errors {}; ///< by figure: the number of its error, 0 for none
 
     int errorOf(Figure figure) const { return errors[size_t(figure)]; }
     bool fails() const { return errors != decltype(errors) {}; }
 };
+
+static_assert(sizeof(clsSchedulePrice) == 64);
 
 /// Prices each item of a schedule once, for whoever shows all of them and their totals: the figures are those of the
 /// items. It must not outlive the drawing that it is made for, since the claim may change after it.

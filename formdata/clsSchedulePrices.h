@@ -1,6 +1,8 @@
 #pragma once
 
 #include "base/Money.h"
+#include "formdata/clsZR3ScheduleOfTimeItem.h"
+#include "formdata/mdFetch.h"
 
 #include <QString>
 
@@ -15,7 +17,6 @@
 
 class clsZR3FeeEarnerGroup;
 class clsZR3Form;
-class clsZR3ScheduleOfTimeItem;
 
 /// The rates of a fee earner group, each read from the tree when it is first asked for and then kept: a rate that no
 /// item uses may be anything.
@@ -78,6 +79,12 @@ public:
     explicit clsSchedulePrices(const clsZR3Form &form);
 
     const clsSchedulePrice &of(const clsZR3ScheduleOfTimeItem &item);
+    /// Sends for the price of an item that will be asked for soon; nothing where there is no item.
+    [[gnu::always_inline]] void fetch(const clsZR3ScheduleOfTimeItem *item) const
+    {
+        if (item && item->Index >= 1 && size_t(item->Index) <= m_prices.size())
+            mdFetch(&m_prices[size_t(item->Index - 1)]);
+    }
     const clsZR3Form &form() const { return m_form; }
 
 private:

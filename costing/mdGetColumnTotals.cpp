@@ -130,9 +130,11 @@ clsFigure<Money> ScheduleAdvocacy(const clsZR3Form &form, clsSchedulePrices &pri
 {
     clsFigure<Money> total;
     try {
-        for (const auto &item : form.ScheduleOfTimeItemsCollection())
-            if (item->Advocacy())
-                total.value += claimOf(form, *item, prices.of(*item));
+        for (const auto &item : form.ScheduleOfTimeItemsCollection()) {
+            const clsSchedulePrice &price = prices.of(*item);
+            if (price.Advocacy ? *price.Advocacy : item->Advocacy())
+                total.value += claimOf(form, *item, price);
+        }
     } catch (const clsRunTimeError &error) {
         total.error = error;
     }

@@ -106,6 +106,9 @@ void clsSchedulePrices::price(const clsZR3ScheduleOfTimeItem &item, clsScheduleP
         result.FeeEarnerInitials = &*earner.initials;
     else
         note(InitialsFigure, clsRunTimeError::ObjectNotSet);
+    try {
+        result.Advocacy = item.Advocacy();
+    } catch (const clsRunTimeError &) { }
     if (item.TTime.isEmpty()) // known without trying: a claim may have thousands of blank items
         note(TimeFigure, clsRunTimeError::SubscriptOutOfRange);
     else

@@ -64,6 +64,7 @@ struct alignas(64) clsSchedulePrice {
     const QString *FeeEarnerInitials = nullptr; ///< lives as long as the prices; nothing where they fail
     int Minutes = 0; ///< of the time
     std::int16_t TimeColumn = 0;
+    std::optional<bool> Advocacy; ///< nothing where the item's own tick is neither
     std::array<std::int16_t, Figures> errors {}; ///< by figure: the number of its error, 0 for none
 
     int errorOf(Figure figure) const { return errors[size_t(figure)]; }

@@ -129,6 +129,10 @@ public:
 
     Lines lines()
     {
+        if (isOneLine()) {
+            addLine(0, m_text.size());
+            return m_lines;
+        }
         size_t start = 0;
         do {
             const size_t end = endOfLine(start);
@@ -141,6 +145,18 @@ public:
     }
 
 private:
+    // A glance that most texts need only: shorter than the line, and nothing in it but characters.
+    bool isOneLine() const
+    {
+        int width = 0;
+        for (size_t i = 0; i < m_text.size(); ++i) {
+            if (kind(i) == Kind::Tab || kind(i) == Kind::LineBreak)
+                return false;
+            width += m_widths[i];
+        }
+        return width <= room();
+    }
+
     int indent() const { return m_paragraph.left + (m_lines.sizes.empty() ? m_paragraph.firstLine : 0); }
     int room() const { return (m_width - indent() - m_paragraph.right) * PerTwip - Reserve; }
 

@@ -77,6 +77,8 @@ void clsWordLooks::Margins::takeOver(const Margins &stronger)
 
 clsWordLooks::Margins clsWordLooks::Margins::saidBy(const xml_node &margins)
 {
+    if (!margins)
+        return {};
     const auto side = [&margins](const char *name, const char *newerName) {
         const std::optional<int> newer = number(margins.child(newerName), "w:w");
         return newer ? newer : number(margins.child(name), "w:w");
@@ -161,18 +163,31 @@ std::vector<const clsWordLooks::Style *> clsWordLooks::chainOf(const std::string
 clsWordLooks::Paragraph clsWordLooks::ofParagraph(const xml_node &paragraph, const std::string &tableStyle) const
 {
     const xml_node properties = paragraph.child("w:pPr");
-    Paragraph look = m_documentDefault;
+    Paragraph look = lookOfStyles(WordXml::val(properties.child("w:pStyle")), tableStyle);
+    look.takeOver(paragraphSaidBy(properties));
+    return look;
+}
+
+// What the styles say, which is the same for all cells of a grid.
+const clsWordLooks::Paragraph &clsWordLooks::lookOfStyles(
+    const char *paragraphStyle, const std::string &tableStyle) const
+{
+    const auto [place, isNew] = m_ofStyles.try_emplace({paragraphStyle, tableStyle}, m_documentDefault);
+    Paragraph &look = place->second;
+    if (!isNew)
+        return look;
     for (const Style *style : chainOf(tableStyle, "table"))
         look.takeOver(style->look);
-    for (const Style *style : chainOf(WordXml::val(properties.child("w:pStyle")), "paragraph"))
+    for (const Style *style : chainOf(paragraphStyle, "paragraph"))
         look.takeOver(style->look);
-    look.takeOver(paragraphSaidBy(properties));
     return look;
 }
 
 clsWordLooks::Run clsWordLooks::ofRun(const xml_node &format, const Run &paragraph) const
 {
     Run look = paragraph;
+    if (!format)
+        return look;
     const std::string style = WordXml::val(format.child("w:rStyle"));
     if (!style.empty())
         for (const Style *part : chainOf(style, "character"))

@@ -10,6 +10,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 /// What of the look of a text decides how much room it takes: sizes, weights, indents, spaces, tabs. By its own
@@ -72,8 +73,11 @@ private:
     static Run runSaidBy(const pugi::xml_node &format);
     static Paragraph paragraphSaidBy(const pugi::xml_node &properties);
     std::vector<const Style *> chainOf(const std::string &id, const char *type) const;
+    const Paragraph &lookOfStyles(const char *paragraphStyle, const std::string &tableStyle) const;
 
     std::map<std::string, Style> m_styles;
     std::map<std::string, std::string> m_defaults; ///< the default style of each type
     Paragraph m_documentDefault;
+    /// By the styles of paragraph and table: those that were asked for.
+    mutable std::map<std::pair<std::string, std::string>, Paragraph> m_ofStyles;
 };

@@ -67,6 +67,8 @@ xml_node cellAt(const xml_node &row, int column)
 int widestSideLine(const xml_node &borders)
 {
     int eighths = 0;
+    if (!borders)
+        return eighths;
     for (const char *side : {"w:left", "w:right", "w:start", "w:end", "w:insideV"})
         eighths = std::max(eighths, borders.child(side).attribute("w:sz").as_int());
     return eighths * 20 / 8;
@@ -114,12 +116,14 @@ private:
             if (innerGrew && grow(row))
                 grew = true;
             if (clsWordCellText::holdsTyped(cell, m_typed)) {
-                clsWordCellText text(cell, placeOf(cell, gridColumn), m_looks, m_typed);
+                const clsWordLooks::Margins margins = marginsOf(cell);
+                clsWordCellText text(cell, placeOf(cell, gridColumn, margins), m_looks, m_typed);
                 const auto texts = text.typedTexts();
                 inGrid = inGrid || std::any_of(texts.begin(), texts.end(), [](const clsWordCellText::Typed &typed) {
                     return typed.placeholder.isEmpty();
                 });
-                if (fitCell(text, lastRowOf(row, cell, gridColumn), roomOf(row, cell, gridColumn), gridRow, column))
+                const xml_node lastRow = lastRowOf(row, cell, gridColumn);
+                if (fitCell(text, lastRow, roomOf(row, cell, lastRow, margins), gridRow, column))
                     grew = true;
             }
             gridColumn += spanOf(cell);
@@ -174,15 +178,20 @@ private:
             && now.brokenAmounts <= smallest.brokenAmounts && !now.tooNarrow;
     }
 
-    clsWordCellText::Place placeOf(const xml_node &cell, int gridColumn)
+    clsWordLooks::Margins marginsOf(const xml_node &cell) const
+    {
+        clsWordLooks::Margins margins = m_margins;
+        margins.takeOver(clsWordLooks::Margins::saidBy(cell.child("w:tcPr").child("w:tcMar")));
+        return margins;
+    }
+
+    clsWordCellText::Place placeOf(const xml_node &cell, int gridColumn, const clsWordLooks::Margins &margins)
     {
         const xml_node properties = cell.child("w:tcPr");
         const xml_node said = properties.child("w:tcW");
         int width = std::strcmp(said.attribute("w:type").value(), "dxa") == 0 ? said.attribute("w:w").as_int() : 0;
         if (width <= 0)
             width = widthOfColumns(gridColumn, gridColumn + spanOf(cell));
-        clsWordLooks::Margins margins = m_margins;
-        margins.takeOver(clsWordLooks::Margins::saidBy(properties.child("w:tcMar")));
         return {width - margins.left.value_or(0) - margins.right.value_or(0) - lineLoss(),
             WordXml::val(m_table.child("w:tblPr").child("w:tblStyle"))};
     }
@@ -221,15 +230,13 @@ private:
         return row;
     }
 
-    std::optional<int> roomOf(xml_node row, const xml_node &cell, int gridColumn)
+    static std::optional<int> roomOf(
+        xml_node row, const xml_node &cell, const xml_node &last, const clsWordLooks::Margins &margins)
     {
         const xml_node direction = cell.child("w:tcPr").child("w:textDirection");
         if (direction && std::strcmp(WordXml::val(direction), "lrTb") != 0)
             return {};
-        clsWordLooks::Margins margins = m_margins;
-        margins.takeOver(clsWordLooks::Margins::saidBy(cell.child("w:tcPr").child("w:tcMar")));
         int room = -margins.top.value_or(0) - margins.bottom.value_or(0);
-        const xml_node last = lastRowOf(row, cell, gridColumn);
         for (;; row = WordXml::nextItem(row, WordXml::isRow)) {
             if (!isExact(row))
                 return {};

@@ -111,6 +111,34 @@ bool partsWords(Kind kind)
     return isOneOf(kind, {Kind::Blank, Kind::Tab, Kind::LineBreak});
 }
 
+int roomOf(const Paragraph &paragraph, int width, int indent)
+{
+    return (width - indent - paragraph.right) * PerTwip - Reserve;
+}
+
+// A glance, which is all that most texts need: shorter than the line, and nothing in it but characters.
+bool isOneLine(const Paragraph &paragraph, int width)
+{
+    const int room = roomOf(paragraph, width, paragraph.left + paragraph.firstLine);
+    int x = 0;
+    for (const Character &character : paragraph.text) {
+        if (character.code == U'\t' || character.code == LineBreak)
+            return false;
+        x += widthOf(character);
+    }
+    return x <= room;
+}
+
+int sizeOfLine(const Paragraph &paragraph, size_t start, size_t end)
+{
+    int size = 0;
+    for (size_t i = start; i < end; ++i)
+        size = std::max(size, paragraph.text[i].halfPoints);
+    if (size > 0)
+        return size;
+    return paragraph.text.empty() ? paragraph.markHalfPoints : paragraph.text.back().halfPoints;
+}
+
 // Lays out one paragraph.
 class clsLiner {
 public:
@@ -129,10 +157,6 @@ public:
 
     Lines lines()
     {
-        if (isOneLine()) {
-            addLine(0, m_text.size());
-            return m_lines;
-        }
         size_t start = 0;
         do {
             const size_t end = endOfLine(start);
@@ -145,20 +169,8 @@ public:
     }
 
 private:
-    // A glance that most texts need only: shorter than the line, and nothing in it but characters.
-    bool isOneLine() const
-    {
-        int width = 0;
-        for (size_t i = 0; i < m_text.size(); ++i) {
-            if (kind(i) == Kind::Tab || kind(i) == Kind::LineBreak)
-                return false;
-            width += m_widths[i];
-        }
-        return width <= room();
-    }
-
     int indent() const { return m_paragraph.left + (m_lines.sizes.empty() ? m_paragraph.firstLine : 0); }
-    int room() const { return (m_width - indent() - m_paragraph.right) * PerTwip - Reserve; }
+    int room() const { return roomOf(m_paragraph, m_width, indent()); }
 
     Kind kind(size_t i) const { return m_kinds[i]; }
     // The kind of the character before a place; at the start of the paragraph as after a blank.
@@ -342,15 +354,7 @@ private:
         return before == Kind::Ideograph || behind == Kind::Ideograph;
     }
 
-    void addLine(size_t start, size_t end)
-    {
-        int size = 0;
-        for (size_t i = start; i < end; ++i)
-            size = std::max(size, m_text[i].halfPoints);
-        if (size == 0)
-            size = m_text.empty() ? m_paragraph.markHalfPoints : m_text.back().halfPoints;
-        m_lines.sizes.push_back(size);
-    }
+    void addLine(size_t start, size_t end) { m_lines.sizes.push_back(sizeOfLine(m_paragraph, start, end)); }
 
     const Paragraph &m_paragraph;
     const std::vector<Character> &m_text;
@@ -374,7 +378,8 @@ int unitsOf(const Character &character)
     case 0x202F: return FontWidths::of(U' ', character.bold);
     default: break;
     }
-    if (QChar::category(character.code) == QChar::Mark_NonSpacing)
+    constexpr char32_t FirstMark = 0x300;
+    if (character.code >= FirstMark && QChar::category(character.code) == QChar::Mark_NonSpacing)
         return 0;
     return FontWidths::of(character.code, character.bold);
 }
@@ -388,5 +393,7 @@ int TextLayout::widthOf(const Character &character)
 
 TextLayout::Lines TextLayout::layOut(const Paragraph &paragraph, int width)
 {
+    if (isOneLine(paragraph, width))
+        return {.sizes = {sizeOfLine(paragraph, 0, paragraph.text.size())}};
     return clsLiner(paragraph, width).lines();
 }

@@ -4,7 +4,6 @@
 #include "wordexport/document/mdWordXml.h"
 
 #include <algorithm>
-#include <array>
 
 using pugi::xml_node;
 
@@ -116,16 +115,19 @@ void clsWordCellText::readParagraph(const xml_node &paragraph, const std::string
         const clsWordTyped::Mark *mark = m_typed.of(run);
         const int typedFrom = mark ? std::max(leaf.start, runStart + mark->before) : leaf.start + leaf.length;
         const int inTemplate = std::min(typedFrom, leaf.start + leaf.length) - leaf.start;
-        const auto textAt = [&](int from, int to) {
+        const auto add = [&](const Piece &piece, int from, int to) {
             if (WordXml::is(leaf.node, "w:t"))
-                return words.text().substr(size_t(leaf.start + from), size_t(to - from));
-            return QString::fromUcs4(std::array {characterOf(leaf.node)}.data(), 1).toStdString();
+                addText(
+                    read, std::string_view(words.text()).substr(size_t(leaf.start + from), size_t(to - from)), runLook);
+            else
+                addCharacter(read, characterOf(leaf.node), runLook);
+            addPiece(read, piece);
         };
         if (inTemplate > 0)
-            addPiece(read, {run, 0, 0, leaf.start, false, false}, textAt(0, inTemplate), runLook);
+            add({run, read.layout.text.size(), 0, leaf.start, false, false}, 0, inTemplate);
         if (inTemplate < leaf.length) {
-            addPiece(read, {run, 0, 0, leaf.start + inTemplate, true, mark->before > 0},
-                textAt(inTemplate, leaf.length), runLook);
+            add({run, read.layout.text.size(), 0, leaf.start + inTemplate, true, mark->before > 0}, inTemplate,
+                leaf.length);
             note(mark->placeholder, runLook.halfPoints.value_or(HalfPointsOfNoStyle));
         }
         if (read.layout.text.back().code == Picture)
@@ -133,17 +135,28 @@ void clsWordCellText::readParagraph(const xml_node &paragraph, const std::string
     }
 }
 
-void clsWordCellText::addPiece(
-    Paragraph &paragraph, const Piece &piece, const std::string &text, const clsWordLooks::Run &look)
+void clsWordCellText::addCharacter(Paragraph &paragraph, char32_t code, const clsWordLooks::Run &look)
 {
-    std::vector<TextLayout::Character> &all = paragraph.layout.text;
-    const size_t from = all.size();
-    for (const uint code : QString::fromStdString(text).toUcs4())
-        all.push_back({look.capitals.value_or(false) ? QChar::toUpper(code) : code,
-            look.halfPoints.value_or(HalfPointsOfNoStyle), look.bold.value_or(false)});
+    paragraph.layout.text.push_back({look.capitals.value_or(false) ? QChar::toUpper(code) : code,
+        look.halfPoints.value_or(HalfPointsOfNoStyle), look.bold.value_or(false)});
+}
+
+void clsWordCellText::addText(Paragraph &paragraph, std::string_view text, const clsWordLooks::Run &look)
+{
+    paragraph.layout.text.reserve(paragraph.layout.text.size() + text.size());
+    if (std::all_of(text.begin(), text.end(), [](char c) { return uchar(c) < 0x80; }))
+        for (const char c : text)
+            addCharacter(paragraph, char32_t(c), look);
+    else
+        for (const uint code : QString::fromUtf8(text.data(), qsizetype(text.size())).toUcs4())
+            addCharacter(paragraph, code, look);
+}
+
+/// The piece begins where it says, and ends with the text.
+void clsWordCellText::addPiece(Paragraph &paragraph, const Piece &piece)
+{
     paragraph.pieces.push_back(piece);
-    paragraph.pieces.back().from = from;
-    paragraph.pieces.back().to = all.size();
+    paragraph.pieces.back().to = paragraph.layout.text.size();
 }
 
 void clsWordCellText::note(const QString &placeholder, int halfPoints)

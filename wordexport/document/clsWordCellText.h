@@ -9,6 +9,7 @@
 #include <pugixml.hpp>
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// The text of a table cell with all that decides how much room it takes: how high it stands at which size of the typed
@@ -75,7 +76,9 @@ private:
     };
 
     void readParagraph(const pugi::xml_node &paragraph, const std::string &tableStyle, const clsWordLooks &looks);
-    void addPiece(Paragraph &paragraph, const Piece &piece, const std::string &text, const clsWordLooks::Run &look);
+    static void addText(Paragraph &paragraph, std::string_view text, const clsWordLooks::Run &look);
+    static void addCharacter(Paragraph &paragraph, char32_t code, const clsWordLooks::Run &look);
+    static void addPiece(Paragraph &paragraph, const Piece &piece);
     void note(const QString &placeholder, int halfPoints);
 
     int m_width;

@@ -3,6 +3,7 @@
 #include "wordexport/document/mdWordXml.h"
 
 #include <algorithm>
+#include <array>
 
 using pugi::xml_node;
 
@@ -17,9 +18,23 @@ template <class Value> void take(std::optional<Value> &own, const std::optional<
         own = stronger;
 }
 
-std::optional<bool> onOff(const xml_node &format, const char *name)
+// The first children of some names, in one walk: a look-up for each would begin at the front each time.
+template <size_t Count>
+std::array<xml_node, Count> firstChildren(const xml_node &node, const std::array<const char *, Count> &names)
 {
-    const xml_node property = format.child(name);
+    std::array<xml_node, Count> found;
+    for (xml_node child = node.first_child(); child; child = child.next_sibling())
+        for (size_t i = 0; i < Count; ++i)
+            if (WordXml::is(child, names[i])) {
+                if (!found[i])
+                    found[i] = child;
+                break;
+            }
+    return found;
+}
+
+std::optional<bool> onOff(const xml_node &property)
+{
     return property ? std::optional<bool>(WordXml::isOn(property)) : std::nullopt;
 }
 
@@ -118,26 +133,29 @@ std::shared_ptr<const clsWordLooks> clsWordLooks::ofStyles(const QByteArray &sty
 
 clsWordLooks::Run clsWordLooks::runSaidBy(const xml_node &format)
 {
-    return {number(format.child("w:sz"), "w:val"), onOff(format, "w:b"), onOff(format, "w:caps"),
-        onOff(format, "w:vanish")};
+    const auto [size, bold, capitals, hidden] = firstChildren<4>(format, {"w:sz", "w:b", "w:caps", "w:vanish"});
+    return {number(size, "w:val"), onOff(bold), onOff(capitals), onOff(hidden)};
 }
 
 clsWordLooks::Paragraph clsWordLooks::paragraphSaidBy(const xml_node &properties)
 {
     Paragraph look;
-    const xml_node indent = properties.child("w:ind");
-    look.left = number(indent, "w:left", "w:start");
-    look.right = number(indent, "w:right", "w:end");
-    look.firstLine = number(indent, "w:firstLine");
-    if (const std::optional<int> hanging = number(indent, "w:hanging"))
-        look.firstLine = -*hanging;
-    const xml_node spacing = properties.child("w:spacing");
-    look.before = number(spacing, "w:before");
-    look.after = number(spacing, "w:after");
-    look.line = number(spacing, "w:line");
-    if (const pugi::xml_attribute rule = spacing.attribute("w:lineRule"))
-        look.lineRule = rule.value();
-    for (const xml_node &tab : properties.child("w:tabs").children("w:tab")) {
+    const auto [indent, spacing, tabs] = firstChildren<3>(properties, {"w:ind", "w:spacing", "w:tabs"});
+    if (indent) {
+        look.left = number(indent, "w:left", "w:start");
+        look.right = number(indent, "w:right", "w:end");
+        look.firstLine = number(indent, "w:firstLine");
+        if (const std::optional<int> hanging = number(indent, "w:hanging"))
+            look.firstLine = -*hanging;
+    }
+    if (spacing) {
+        look.before = number(spacing, "w:before");
+        look.after = number(spacing, "w:after");
+        look.line = number(spacing, "w:line");
+        if (const pugi::xml_attribute rule = spacing.attribute("w:lineRule"))
+            look.lineRule = rule.value();
+    }
+    for (const xml_node &tab : tabs.children("w:tab")) {
         const int place = tab.attribute("w:pos").as_int();
         if (std::strcmp(WordXml::val(tab), "clear") == 0)
             look.tabs[place] = std::nullopt;

@@ -17,6 +17,9 @@ struct Range {
 
 int lookUp(char32_t character, std::span<const Range> ranges, std::span<const std::uint16_t> widths)
 {
+    // Nearly all of what is asked for stands in the first range.
+    if (character >= ranges.front().first && character <= ranges.front().last)
+        return widths[ranges.front().index + (character - ranges.front().first)];
     const auto range = std::lower_bound(ranges.begin(), ranges.end(), character,
         [](const Range &candidate, char32_t sought) { return candidate.last < sought; });
     if (range == ranges.end() || character < range->first)

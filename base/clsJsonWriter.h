@@ -19,6 +19,9 @@ public:
     void decimal(const char *key, double value) { raw(key, QByteArray::number(value)); }
     void boolean(const char *key, bool value) { raw(key, value ? "true" : "false"); }
 
+    /// Makes room for so many bytes more: what is written in pieces would else be copied as it grows.
+    void expect(qsizetype bytes) { m_bytes.reserve(m_bytes.size() + bytes); }
+
     /// All that was written.
     const QByteArray &bytes()
     {

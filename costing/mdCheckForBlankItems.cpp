@@ -23,7 +23,7 @@ int mdCountBlankScheduleItems(const clsBill &bill)
     for (const auto &item : bill.form().ScheduleOfTimeItemsCollection()) {
         const clsSchedulePrice &price = bill.prices().of(*item);
         if (price.errorOf(clsSchedulePrice::TimeFigure))
-            mdExplained(bill.form(), *item, [&] { TimeToMinutes(price.TTime); });
+            mdExplained(bill.form(), *item, [&] { TimeToMinutes(item->TTime()); });
         count += price.Minutes == 0;
     }
     return count;

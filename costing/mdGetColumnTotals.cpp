@@ -43,7 +43,7 @@ public:
         const auto column = size_t(price.TimeColumn);
         attempt(m_totals.times[column], [&] {
             if (price.errorOf(Price::TimeFigure))
-                mdExplained(form, item, [&] { TimeToMinutes(price.TTime); });
+                mdExplained(form, item, [&] { TimeToMinutes(item.TTime()); });
             addMinutes(m_minutes[column], price.Minutes);
         });
         attempt(m_totals.claims[column], [&] { m_totals.claims[column].value += claimOf(form, item, price); });
@@ -130,9 +130,11 @@ clsFigure<Money> ScheduleAdvocacy(const clsZR3Form &form, clsSchedulePrices &pri
 {
     clsFigure<Money> total;
     try {
-        for (const auto &item : form.ScheduleOfTimeItemsCollection())
-            if (item->Advocacy())
-                total.value += claimOf(form, *item, prices.of(*item));
+        for (const auto &item : form.ScheduleOfTimeItemsCollection()) {
+            const clsSchedulePrice &price = prices.of(*item);
+            if (price.Advocacy ? *price.Advocacy : item->Advocacy())
+                total.value += claimOf(form, *item, price);
+        }
     } catch (const clsRunTimeError &error) {
         total.error = error;
     }

@@ -117,10 +117,15 @@ void Report::figures(std::span<const clsBillFigure> rows)
 
 void Report::scheduleItems()
 {
+    constexpr qsizetype BytesOfItem = 240;
     clsOnBill isOnBill(m_form);
+    const int count = int(m_form.ScheduleOfTimeItemsCollection().size());
+    m_json.expect(count * BytesOfItem);
     m_json.beginArray("ScheduleItems");
-    for (int n = 1; n <= int(m_form.ScheduleOfTimeItemsCollection().size()); ++n)
+    for (int n = 1; n <= count; ++n) {
+        m_bill.prices().fetch(m_form.ScheduleOfTimeItemByOrderID(n + 2).get());
         scheduleItem(n, mdExisting(m_form.ScheduleOfTimeItemByOrderID(n)), isOnBill);
+    }
     m_json.endArray();
 }
 

@@ -103,15 +103,17 @@ void clsSchedulePrices::price(const clsZR3ScheduleOfTimeItem &item, clsScheduleP
 
     const clsEarner &earner = earnerOf(item);
     if (earner.initials)
-        result.FeeEarnerInitials = *earner.initials;
+        result.FeeEarnerInitials = &*earner.initials;
     else
         note(InitialsFigure, clsRunTimeError::ObjectNotSet);
-    result.TTime = item.TTime();
-    if (result.TTime.isEmpty()) // known without trying: a claim may have thousands of blank items
+    try {
+        result.Advocacy = item.Advocacy();
+    } catch (const clsRunTimeError &) { }
+    if (item.TTime.isEmpty()) // known without trying: a claim may have thousands of blank items
         note(TimeFigure, clsRunTimeError::SubscriptOutOfRange);
     else
-        attempt(TimeFigure, {}, [&] { result.Minutes = TimeToMinutes(result.TTime); });
-    attempt(ColumnFigure, {}, [&] { result.TimeColumn = item.TimeColumn(); });
+        attempt(TimeFigure, {}, [&] { result.Minutes = TimeToMinutes(item.TTime()); });
+    attempt(ColumnFigure, {}, [&] { result.TimeColumn = std::int16_t(item.TimeColumn()); });
     if (earner.rates) {
         attempt(RateFigure, {ColumnFigure}, [&] { result.Rate = item.RateBy(*earner.rates, result.TimeColumn); });
         attempt(PercentageFigure, {},

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "base/Money.h"
+#include "formdata/clsZR3ScheduleOfTimeItem.h"
+#include "formdata/mdFetch.h"
 
 #include <QString>
 
@@ -15,7 +17,6 @@
 
 class clsZR3FeeEarnerGroup;
 class clsZR3Form;
-class clsZR3ScheduleOfTimeItem;
 
 /// The rates of a fee earner group, each read from the tree when it is first asked for and then kept: a rate that no
 /// item uses may be anything.
@@ -42,8 +43,9 @@ private:
 };
 
 /// All that is worked out for one item of the schedule. A figure that fails in the item's own member fails here with
-/// the same error, which is noted: its place then holds nothing that counts.
-struct clsSchedulePrice {
+/// the same error, which is noted: its place then holds nothing that counts. It takes one line of the processor's cache:
+/// whoever walks the bill in the user's order goes to and fro among them.
+struct alignas(64) clsSchedulePrice {
     enum Figure {
         InitialsFigure,
         TimeFigure,
@@ -55,20 +57,21 @@ struct clsSchedulePrice {
     };
     static constexpr int Figures = ClaimFigure + 1;
 
-    // What is asked for most stands together.
     Money Rate;
     Money BasicClaim;
     Money TotalEnhancementPercentage;
     Money Claim;
-    std::array<std::int16_t, Figures> errors {}; ///< by figure: the number of its error, 0 for none
-    int TimeColumn = 0;
+    const QString *FeeEarnerInitials = nullptr; ///< lives as long as the prices; nothing where they fail
     int Minutes = 0; ///< of the time
-    QString TTime;
-    QString FeeEarnerInitials;
+    std::int16_t TimeColumn = 0;
+    std::optional<bool> Advocacy; ///< nothing where the item's own tick is neither
+    std::array<std::int16_t, Figures> errors {}; ///< by figure: the number of its error, 0 for none
 
     int errorOf(Figure figure) const { return errors[size_t(figure)]; }
     bool fails() const { return errors != decltype(errors) {}; }
 };
+
+static_assert(sizeof(clsSchedulePrice) == 64);
 
 /// Prices each item of a schedule once, for whoever shows all of them and their totals: the figures are those of the
 /// items. It must not outlive the drawing that it is made for, since the claim may change after it.
@@ -77,6 +80,12 @@ public:
     explicit clsSchedulePrices(const clsZR3Form &form);
 
     const clsSchedulePrice &of(const clsZR3ScheduleOfTimeItem &item);
+    /// Sends for the price of an item that will be asked for soon; nothing where there is no item.
+    [[gnu::always_inline]] void fetch(const clsZR3ScheduleOfTimeItem *item) const
+    {
+        if (item && item->Index >= 1 && size_t(item->Index) <= m_prices.size())
+            mdFetch(&m_prices[size_t(item->Index - 1)]);
+    }
     const clsZR3Form &form() const { return m_form; }
 
 private:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/clsRunTimeError.h"
+#include "formdata/mdFetch.h"
 #include "formdata/mdReIndexCollection.h"
 #include "formdata/mdXMLControl.h"
 
@@ -87,8 +88,14 @@ public:
     const Pointer &byOrder(int orderID) const
     {
         bringIndexUpToDate();
-        const bool isOrdinary = orderID >= 1 && orderID <= count();
-        return itemAt(isOrdinary ? m_byOrder[size_t(orderID - 1)] : m_byOtherOrder.value(orderID));
+        if (orderID < 1 || orderID > count())
+            return itemAt(m_byOtherOrder.value(orderID));
+        // Who asks for an item by its order walks along it, as a rule: the one a few steps on, which may lie anywhere
+        // in the memory, is sent for meanwhile.
+        constexpr int StepsAhead = 8;
+        if (orderID <= count() - StepsAhead)
+            mdFetch(itemAt(m_byOrder[size_t(orderID + StepsAhead - 1)]).get());
+        return itemAt(m_byOrder[size_t(orderID - 1)]);
     }
 
     /// The first item with that identity, compared exactly, or nothing.

@@ -51,9 +51,9 @@ template <Price::Figure Figure> int errorOf(const Item &, const Price &price)
     return price.errorOf(Figure);
 }
 
-template <int Column> QString timeIn(const Item &, const Price &price)
+template <int Column> QString timeIn(const Item &item, const Price &price)
 {
-    return price.TimeColumn == Column ? price.TTime : QString();
+    return price.TimeColumn == Column ? item.TTime() : QString();
 }
 
 /// A time of which it isn't known in which column it stands is marked in the first.
@@ -68,7 +68,7 @@ template <int Column> int errorOfTime(const Item &, const Price &price)
 const clsScheduleColumn Columns[] = {
     { 4, "",           [](const Item &item, const Price &) { return QString::number(item.SOTItemNumber); }, Alignment::Right,
         errorOfNumber},
-    { 9, "FE",         [](const Item &, const Price &price) { return price.FeeEarnerInitials; },       Alignment::Centre,
+    { 9, "FE",         [](const Item &, const Price &price) { return *price.FeeEarnerInitials; },       Alignment::Centre,
         errorOf<Price::InitialsFigure>},
     {10, "Date",       [](const Item &item, const Price &) { return dateOf(item); },                   Alignment::Centre},
     { 6, "Code",       [](const Item &item, const Price &) { return item.Code(); },                    Alignment::Centre},

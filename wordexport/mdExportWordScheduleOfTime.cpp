@@ -55,11 +55,11 @@ void typeRow(clsMSWord &word, const Item &item, const clsSchedulePrice &price)
     if (price.fails())
         raiseErrorOf(item);
     typeAndMove(word, QString::number(item.SOTItemNumber), Fill::Text, 1);
-    typeAndMove(word, price.FeeEarnerInitials, Fill::Text, 1);
+    typeAndMove(word, *price.FeeEarnerInitials, Fill::Text, 1);
     // In this column only; elsewhere no date prints as it stands.
     typeAndMove(word, item.dDate() == NoDate ? QString() : item.dDate(), Fill::Text, 1);
     typeAndMove(word, item.Code(), Fill::Text, price.TimeColumn + 1);
-    typeAndMove(word, price.TTime, Fill::Text, Item::Columns - price.TimeColumn);
+    typeAndMove(word, item.TTime(), Fill::Text, Item::Columns - price.TimeColumn);
     typeAndMove(word, MoneyToText(price.Rate), Fill::Money, 1);
     typeAndMove(word, MoneyToText(price.BasicClaim), Fill::Money, 1);
     typeAndMove(word, MoneyToText(price.TotalEnhancementPercentage), Fill::Text, 1);

@@ -86,8 +86,8 @@ void expectSame(const clsZR3Form &form)
     for (const auto &item : form.ScheduleOfTimeItemsCollection())
         for (int times = 0; times < 2; ++times) {
             const clsSchedulePrice &price = prices.of(*item);
-            EXPECT_EQ(item->FeeEarnerInitials(), price.FeeEarnerInitials);
-            EXPECT_EQ(item->TTime(), price.TTime);
+            EXPECT_EQ(item->FeeEarnerInitials(), *price.FeeEarnerInitials);
+            EXPECT_EQ(TimeToMinutes(item->TTime()), price.Minutes);
             EXPECT_EQ(item->TimeColumn(), price.TimeColumn);
             EXPECT_EQ(item->Rate(), price.Rate);
             EXPECT_EQ(item->BasicClaim(), price.BasicClaim);

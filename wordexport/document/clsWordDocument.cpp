@@ -152,8 +152,6 @@ void clsWordDocument::findFirst(const QString &find)
         return;
     const char sure = finder.sureCharacter();
     const auto selectIn = [&](const xml_node &paragraph) {
-        if (sure != 0 && !clsWordParagraph::mayHold(paragraph, sure))
-            return false;
         const clsWordFinder::Hit hit = finder.firstIn(clsWordParagraph(paragraph).text());
         if (hit.from < 0)
             return false;
@@ -165,7 +163,9 @@ void clsWordDocument::findFirst(const QString &find)
         visitParagraphs(body(), selectIn);
         return;
     }
-    const std::vector<xml_node> &candidates = paragraphsThatMayHold(sure);
+    std::vector<xml_node> &candidates = paragraphsThatMayHold(sure);
+    std::erase_if(
+        candidates, [sure](const xml_node &paragraph) { return !clsWordParagraph::mayHold(paragraph, sure); });
     (void)std::any_of(candidates.begin(), candidates.end(), selectIn);
 }
 
@@ -189,7 +189,7 @@ void clsWordDocument::removeHidden(const QString &text)
 
 // A sheet is searched for one placeholder after another, and all of them have a brace: the paragraphs that have one
 // are looked for once. The list may hold too many, but never too few.
-const std::vector<xml_node> &clsWordDocument::paragraphsThatMayHold(char c)
+std::vector<xml_node> &clsWordDocument::paragraphsThatMayHold(char c)
 {
     const auto known = m_placeholders.find(c);
     if (known != m_placeholders.end())

@@ -69,7 +69,7 @@ private:
     void moved();
     void type(const QString &typed);
     void clearSelectedCell();
-    const std::vector<pugi::xml_node> &paragraphsThatMayHold(char c);
+    std::vector<pugi::xml_node> &paragraphsThatMayHold(char c);
     pugi::xml_node formatForTyping(const pugi::xml_node &like, bool symbolFont);
     const clsWordBoldness &boldness();
     std::shared_ptr<const clsWordLooks> looks();

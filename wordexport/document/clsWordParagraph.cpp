@@ -36,9 +36,7 @@ bool isInvisible(const xml_node &node)
 clsWordParagraph::clsWordParagraph(const xml_node &paragraph, clsWordTyped *marks)
     : m_paragraph(paragraph)
     , m_marks(marks)
-{
-    read();
-}
+{ }
 
 bool clsWordParagraph::mayHold(const xml_node &paragraph, char c)
 {
@@ -52,8 +50,9 @@ bool clsWordParagraph::mayHold(const xml_node &paragraph, char c)
     return false;
 }
 
-void clsWordParagraph::read()
+void clsWordParagraph::read() const
 {
+    m_isRead = true;
     m_leaves.clear();
     m_text.clear();
     std::vector<bool> fieldCodes; // of the fields that are open here: is it their code, not yet their result?
@@ -62,7 +61,7 @@ void clsWordParagraph::read()
         readRun(run, fieldCodes);
 }
 
-void clsWordParagraph::readRun(const xml_node &run, std::vector<bool> &fieldCodes)
+void clsWordParagraph::readRun(const xml_node &run, std::vector<bool> &fieldCodes) const
 {
     for (const xml_node &node : run.children()) {
         if (WordXml::is(node, "w:fldChar")) {
@@ -80,9 +79,9 @@ void clsWordParagraph::readRun(const xml_node &run, std::vector<bool> &fieldCode
     }
 }
 
-void clsWordParagraph::addLeaf(const xml_node &run, const xml_node &node)
+void clsWordParagraph::addLeaf(const xml_node &run, const xml_node &node) const
 {
-    const int start = length();
+    const auto start = int(m_text.size());
     if (WordXml::is(node, "w:t"))
         m_text += WordRun::textOf(node);
     else if (WordXml::is(node, "w:tab"))
@@ -91,12 +90,12 @@ void clsWordParagraph::addLeaf(const xml_node &run, const xml_node &node)
         m_text += LineBreak;
     else
         m_text += Other;
-    m_leaves.push_back({run, node, start, length() - start});
+    m_leaves.push_back({run, node, start, int(m_text.size()) - start});
 }
 
 const clsWordParagraph::Leaf *clsWordParagraph::leafEndingAt(int at) const
 {
-    for (const Leaf &leaf : m_leaves)
+    for (const Leaf &leaf : leaves())
         if (leaf.length > 0 && leaf.start < at && leaf.start + leaf.length >= at)
             return &leaf;
     return nullptr;
@@ -104,7 +103,7 @@ const clsWordParagraph::Leaf *clsWordParagraph::leafEndingAt(int at) const
 
 const clsWordParagraph::Leaf *clsWordParagraph::leafStartingAt(int at) const
 {
-    for (const Leaf &leaf : m_leaves)
+    for (const Leaf &leaf : leaves())
         if (leaf.length > 0 && leaf.start <= at && leaf.start + leaf.length > at)
             return &leaf;
     return nullptr;
@@ -113,7 +112,7 @@ const clsWordParagraph::Leaf *clsWordParagraph::leafStartingAt(int at) const
 std::vector<xml_node> clsWordParagraph::formatsIn(int from, int to) const
 {
     std::vector<xml_node> formats;
-    for (const Leaf &leaf : m_leaves)
+    for (const Leaf &leaf : leaves())
         if (leaf.length > 0 && leaf.start < to && leaf.start + leaf.length > from)
             formats.push_back(leaf.run.child("w:rPr"));
     return formats;
@@ -136,7 +135,7 @@ int clsWordParagraph::type(
     if (m_marks)
         m_marks->typed(run, std::max(0, from - startOf(run)), placeholder);
     const int count = WordRun::type(run, typed, symbols);
-    read();
+    m_isRead = false; // only when somebody asks: mostly, what was typed is the last that happens to a paragraph
     return from + count;
 }
 
@@ -147,7 +146,7 @@ xml_node clsWordParagraph::runForTyping(int from, int to, const xml_node &format
         // between bookmarks, and so does what is typed over it.
         splitRunAt(to);
         const xml_node run = splitRunAt(from);
-        for (const Leaf &leaf : m_leaves)
+        for (const Leaf &leaf : leaves())
             if (leaf.start >= from && leaf.start + leaf.length <= to) {
                 xml_node owner = leaf.run;
                 owner.remove_child(leaf.node);
@@ -163,7 +162,7 @@ xml_node clsWordParagraph::runForTyping(int from, int to, const xml_node &format
         if (WordRun::sameFormat(leaf->run.child("w:rPr"), format) && leaf->run.last_child() == leaf->node)
             return leaf->run;
         run = leaf->run.parent().insert_child_after("w:r", leaf->run);
-    } else if (m_leaves.empty()) {
+    } else if (leaves().empty()) {
         run = m_paragraph.append_child("w:r");
     } else if (const xml_node properties = m_paragraph.child("w:pPr")) {
         run = m_paragraph.insert_child_after("w:r", properties);
@@ -183,7 +182,7 @@ void clsWordParagraph::removeIfEmpty(xml_node run)
 // Where the text of a run begins that was read; for a new one where it is typed, which counts as its start.
 int clsWordParagraph::startOf(const xml_node &run) const
 {
-    for (const Leaf &leaf : m_leaves)
+    for (const Leaf &leaf : leaves())
         if (leaf.run == run)
             return leaf.start;
     return length();
@@ -223,7 +222,7 @@ xml_node clsWordParagraph::splitRunAt(int at)
     }
     if (m_marks)
         m_marks->split(run, tail, at - startOf(run));
-    read();
+    m_isRead = false;
     return tail;
 }
 
@@ -233,13 +232,13 @@ void clsWordParagraph::erase(int from, int to)
         return;
     splitRunAt(to);
     splitRunAt(from);
-    for (const Leaf &leaf : m_leaves)
+    for (const Leaf &leaf : leaves())
         if (leaf.start >= from && leaf.start + leaf.length <= to) {
             xml_node run = leaf.run;
             run.remove_child(leaf.node);
             removeIfEmpty(run);
         }
-    read();
+    m_isRead = false;
 }
 
 xml_node clsWordParagraph::split(int at)
@@ -261,7 +260,7 @@ xml_node clsWordParagraph::split(int at)
         next.append_move(following);
         following = after;
     }
-    read();
+    m_isRead = false;
     return next;
 }
 
@@ -282,13 +281,13 @@ void clsWordParagraph::join(xml_node next)
         child = after;
     }
     next.parent().remove_child(next);
-    read();
+    m_isRead = false;
 }
 
 int clsWordParagraph::before(int at) const
 {
     int start = at - 1;
-    while (start > 0 && (uchar(m_text[size_t(start)]) & 0xC0) == 0x80)
+    while (start > 0 && (uchar(text()[size_t(start)]) & 0xC0) == 0x80)
         --start;
     return start;
 }

@@ -34,10 +34,20 @@ public:
         int start;
         int length;
     };
-    const std::vector<Leaf> &leaves() const { return m_leaves; }
+    const std::vector<Leaf> &leaves() const
+    {
+        if (!m_isRead)
+            read();
+        return m_leaves;
+    }
 
-    const std::string &text() const { return m_text; }
-    int length() const { return int(m_text.size()); }
+    const std::string &text() const
+    {
+        if (!m_isRead)
+            read();
+        return m_text;
+    }
+    int length() const { return int(text().size()); }
 
     /// The formatting (w:rPr, or a null node) of the characters in a range, run by run.
     std::vector<pugi::xml_node> formatsIn(int from, int to) const;
@@ -64,9 +74,9 @@ public:
     int before(int at) const;
 
 private:
-    void read();
-    void readRun(const pugi::xml_node &run, std::vector<bool> &fieldCodes);
-    void addLeaf(const pugi::xml_node &run, const pugi::xml_node &node);
+    void read() const;
+    void readRun(const pugi::xml_node &run, std::vector<bool> &fieldCodes) const;
+    void addLeaf(const pugi::xml_node &run, const pugi::xml_node &node) const;
     void removeIfEmpty(pugi::xml_node run);
     int startOf(const pugi::xml_node &run) const;
     const Leaf *leafEndingAt(int at) const;
@@ -75,6 +85,8 @@ private:
 
     pugi::xml_node m_paragraph;
     clsWordTyped *m_marks;
-    std::vector<Leaf> m_leaves;
-    std::string m_text;
+    // As the paragraph was when it was last read.
+    mutable bool m_isRead = false;
+    mutable std::vector<Leaf> m_leaves;
+    mutable std::string m_text;
 };

@@ -13,13 +13,13 @@ QByteArray mdReadDocumentFile(const QString &path, qint64 limit);
 /// the old file stays.
 void mdWriteDocumentFile(const QString &path, const QByteArray &bytes);
 
-/// Gives the finished name to a document that is written, in one step. It gets the rights of the claim's file, whatever a
-/// document that it replaces had; where the claim has no file it is its owner's alone. A document that is write-protected
-/// stays; where the name is a link, the document that it leads to is replaced. A failure is a clsRunTimeError, also where
-/// the document must be copied and has more bytes than the limit.
+/// Gives the finished name to a document that is written, in one step. It gets the rights of the claim's file, whatever
+/// a document that it replaces had; where the claim has no file it is its owner's alone. A document that is
+/// write-protected stays; where the name is a link, the document that it leads to is replaced. A failure is a
+/// clsRunTimeError, also where the document must be copied and has more bytes than the limit.
 void mdPutDocumentInPlace(const QString &written, const QString &finished, const QString &claimFile, qint64 limit);
 
-/// Writes a file that lives for one export only, in the quickest way: always a new file, since replacing one, by its
-/// name or by its content, makes some file systems write it to the disk at once, and the deletion at the end then waits
-/// for that. A failure is a clsRunTimeError and leaves no file.
+/// Writes a file that lives for one export only, in the quickest way: over the content of its own shorter one, else as
+/// a new file. Taking over a name, or emptying a file, would make some file systems write it to the disk at once, and
+/// the deletion at the end would wait for that. A failure is a clsRunTimeError and leaves no file.
 void mdWriteWorkingFile(const QString &path, const QByteArray &bytes);

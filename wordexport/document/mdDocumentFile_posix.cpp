@@ -12,6 +12,7 @@
 #include <QFileInfo>
 
 #include <cstdio>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -27,6 +28,21 @@ int createFile(const QByteArray &path)
 {
     return mdUninterrupted(
         [&] { return ::open(path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, OwnerOnly); });
+}
+
+/// Opens a file to be written over from its start. Only one that is ours alone, under no second name, and no longer
+/// than what is to be written: it is not cut short, which would make some file systems write it to the disk at once.
+int openForOverwriting(const QByteArray &path, qsizetype size)
+{
+    const int descriptor
+        = mdUninterrupted([&] { return ::open(path.constData(), O_WRONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC); });
+    struct stat status;
+    if (descriptor < 0
+        || (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) && status.st_nlink == 1
+            && status.st_uid == ::geteuid() && (status.st_mode & 07777) == OwnerOnly && status.st_size <= size))
+        return descriptor;
+    ::close(descriptor);
+    return -1;
 }
 
 int removeFile(const QByteArray &path)
@@ -55,7 +71,11 @@ public:
             ::close(m_descriptor);
     }
     clsDescriptor(const clsDescriptor &) = delete;
-    clsDescriptor &operator=(const clsDescriptor &) = delete;
+    clsDescriptor &operator=(clsDescriptor &&other) noexcept
+    {
+        std::swap(m_descriptor, other.m_descriptor);
+        return *this;
+    }
 
     int get() const { return m_descriptor; }
     /// A full disk may show only here, so that closing can fail like writing.
@@ -217,9 +237,12 @@ void mdPutDocumentInPlace(const QString &written, const QString &finished, const
 void mdWriteWorkingFile(const QString &path, const QByteArray &bytes)
 {
     const QByteArray file = QFile::encodeName(path);
-    if (removeFile(file) != 0 && errno != ENOENT)
-        fail(errno);
-    clsDescriptor descriptor(createFile(file));
+    clsDescriptor descriptor(openForOverwriting(file, bytes.size()));
+    if (descriptor.get() < 0) {
+        if (removeFile(file) != 0 && errno != ENOENT)
+            fail(errno);
+        descriptor = clsDescriptor(createFile(file));
+    }
     if (descriptor.get() < 0)
         fail(errno == ENOENT ? ENOTDIR : errno); // it is the folder that was not found
     if (writeAll(descriptor.get(), bytes) && descriptor.close())

@@ -354,28 +354,25 @@ void removeContent(xml_node node)
 
 int depth(const xml_node &root, int limit)
 {
-    // Not recursive: what is measured here is what would break a recursion.
-    int deepest = 0;
-    int level = 0;
-    xml_node node = root;
-    for (;;) {
-        if (const xml_node child = node.first_child()) {
-            node = child;
-            deepest = std::max(deepest, ++level);
-            if (level >= limit)
-                return limit;
-            continue;
+    // Not recursive, as the library's own walk isn't: what is measured here is what would break a recursion.
+    class clsDepth final : public pugi::xml_tree_walker {
+    public:
+        explicit clsDepth(int most)
+            : m_limit(most)
+        { }
+        bool for_each(xml_node &) override
+        {
+            deepest = std::max(deepest, depth() + 1);
+            return deepest < m_limit;
         }
-        for (; level > 0; --level) {
-            if (const xml_node next = node.next_sibling()) {
-                node = next;
-                break;
-            }
-            node = node.parent();
-        }
-        if (level == 0)
-            return deepest;
-    }
+        int deepest = 0;
+
+    private:
+        int m_limit;
+    };
+    clsDepth walk(limit);
+    xml_node(root).traverse(walk);
+    return walk.deepest;
 }
 
 } // namespace WordXml

@@ -102,7 +102,7 @@ private:
     }
     void basicClaim()
     {
-        m_why.add(QStringLiteral("%1 at %2").arg(m_price.TTime, MoneyToText(m_price.Rate)),
+        m_why.add(QStringLiteral("%1 at %2").arg(m_item.TTime(), MoneyToText(m_price.Rate)),
             QStringLiteral("%1 minutes, rounded to the penny").arg(m_price.Minutes), m_own,
             [this] { return figure(Price::BasicClaimFigure, m_price.BasicClaim); });
     }

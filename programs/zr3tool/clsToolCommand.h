@@ -31,7 +31,6 @@ struct clsToolCommand {
     bool force = false;
     bool keepSheets = false;
     bool quiet = false;
-    bool json = false;
     bool pdf = false;
     bool nameByFile = false;
     QString templates;

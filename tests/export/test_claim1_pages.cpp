@@ -104,7 +104,7 @@ TEST_F(Claim1Pages, TheSecondMarkOfCounselsPageTakesTheHiddenPlace)
     ASSERT_TRUE(exportClaim());
     const QString text = mdDocumentText(temporary() + QStringLiteral("/4(1).doc"));
     EXPECT_FALSE(text.startsWith(QLatin1String("(1)"))) << qPrintable(text);
-    EXPECT_TRUE(text.contains(QLatin1String("Page 4 (2)(1)"))) << qPrintable(text);
+    EXPECT_TRUE(text.contains(QLatin1String("Page 4 (3)(1)"))) << qPrintable(text);
 }
 
 TEST_F(Claim1Pages, HiddenPlacesThatNoMarkTookAreRemoved)

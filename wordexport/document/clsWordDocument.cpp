@@ -179,10 +179,12 @@ void clsWordDocument::removeHidden(const QString &text)
         while ((at = paragraph.text().find(sought, at)) != std::string::npos) {
             const int end = int(at + sought.size());
             const std::vector<xml_node> formats = paragraph.formatsIn(int(at), end);
-            if (std::all_of(formats.begin(), formats.end(), isHidden))
-                paragraph.erase(int(at), end);
-            else
+            if (!std::all_of(formats.begin(), formats.end(), isHidden)) {
                 ++at;
+                continue;
+            }
+            paragraph.erase(int(at), end);
+            changed();
         }
     }
 }

@@ -71,7 +71,7 @@ def debtor(form, page, person, employment, means):
         fields(Field(80, "Job", "job"),
                Field(40, "Debtor’s income", "debtorsincome", is_money=True)),
         fields(Field(60, "Employer’s name", "employersname"),
-               Field(60, "Employer’s address", "employersaddress"), height=62),
+               Field(60, "Employer’s address", "employersaddress"), height=46),
 
         section(means, "Means and information", 8),
         strip("Debtor’s assets"),
@@ -80,4 +80,4 @@ def debtor(form, page, person, employment, means):
         answer_row(tick(20, "4", "Yes"), tick(20, "5", "No"),
                    answered(80, slot("casereference"))),
         strip("Information"),
-        text_box("information", 183))
+        text_box("information", 199))

@@ -70,7 +70,7 @@ std::optional<clsToolCommand> commandOf(const QCommandLineParser &parser)
     const QStringList words = parser.positionalArguments();
     if (parser.isSet(Full))
         return fullCheckOf(parser, words);
-    if (parser.isSet(Json) || parser.isSet(Today))
+    if (parser.isSet(Today))
         return {};
     const auto *row = std::find_if(std::begin(Verbs), std::end(Verbs),
         [&](const VerbRow &candidate) { return !words.isEmpty() && words.first() == QLatin1String(candidate.word); });
@@ -78,7 +78,7 @@ std::optional<clsToolCommand> commandOf(const QCommandLineParser &parser)
         return {};
     if (row->verb != clsToolCommand::Export && hasExportOptions(parser))
         return {};
-    if (row->verb != clsToolCommand::Forecast && parser.isSet(Json))
+    if (parser.isSet(Json) && row->verb != clsToolCommand::Forecast && row->verb != clsToolCommand::Why)
         return {};
     // As from a variable of a script that was never set: the program's own templates are not what was asked for.
     if (parser.values(Templates).contains(QString()))

@@ -19,13 +19,6 @@ int naturalLine(int halfPoints)
     return (halfPoints * 23 + 1) / 2;
 }
 
-template <class Visitor> void visitRuns(const xml_node &paragraph, const Visitor &visitor)
-{
-    for (xml_node run = WordXml::firstItem(paragraph, WordXml::isRun); run;
-         run = WordXml::nextItem(run, WordXml::isRun))
-        visitor(run);
-}
-
 // The characters that an element within a run stands for where it is no text.
 char32_t characterOf(const xml_node &node)
 {
@@ -60,12 +53,16 @@ int heightOfTable(const xml_node &table)
 
 bool clsWordCellText::holdsTyped(const xml_node &cell, const clsWordTyped &typed)
 {
-    bool found = false;
-    for (xml_node block = WordXml::firstItem(cell, WordXml::isBlock); block && !found;
-         block = WordXml::nextItem(block, WordXml::isBlock))
-        if (WordXml::is(block, "w:p"))
-            visitRuns(block, [&](const xml_node &run) { found = found || typed.of(run) != nullptr; });
-    return found;
+    for (xml_node block = WordXml::firstItem(cell, WordXml::isBlock); block;
+         block = WordXml::nextItem(block, WordXml::isBlock)) {
+        if (!WordXml::is(block, "w:p"))
+            continue;
+        for (xml_node run = WordXml::firstItem(block, WordXml::isRun); run;
+             run = WordXml::nextItem(run, WordXml::isRun))
+            if (typed.of(run))
+                return true;
+    }
+    return false;
 }
 
 clsWordCellText::clsWordCellText(

@@ -42,7 +42,8 @@ bool grow(const xml_node &row)
 
 int spanOf(const xml_node &cell)
 {
-    return std::max(1, cell.child("w:tcPr").child("w:gridSpan").attribute("w:val").as_int(1));
+    const xml_node span = cell.child("w:tcPr").child("w:gridSpan");
+    return span ? std::max(1, span.attribute("w:val").as_int(1)) : 1;
 }
 
 bool isMergedIntoAbove(const xml_node &cell)

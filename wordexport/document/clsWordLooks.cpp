@@ -3,7 +3,6 @@
 #include "wordexport/document/mdWordXml.h"
 
 #include <algorithm>
-#include <array>
 
 using pugi::xml_node;
 
@@ -16,21 +15,6 @@ template <class Value> void take(std::optional<Value> &own, const std::optional<
 {
     if (stronger)
         own = stronger;
-}
-
-// The first children of some names, in one walk: a look-up for each would begin at the front each time.
-template <size_t Count>
-std::array<xml_node, Count> firstChildren(const xml_node &node, const std::array<const char *, Count> &names)
-{
-    std::array<xml_node, Count> found;
-    for (xml_node child = node.first_child(); child; child = child.next_sibling())
-        for (size_t i = 0; i < Count; ++i)
-            if (WordXml::is(child, names[i])) {
-                if (!found[i])
-                    found[i] = child;
-                break;
-            }
-    return found;
 }
 
 std::optional<bool> onOff(const xml_node &property)
@@ -133,14 +117,15 @@ std::shared_ptr<const clsWordLooks> clsWordLooks::ofStyles(const QByteArray &sty
 
 clsWordLooks::Run clsWordLooks::runSaidBy(const xml_node &format)
 {
-    const auto [size, bold, capitals, hidden] = firstChildren<4>(format, {"w:sz", "w:b", "w:caps", "w:vanish"});
+    const auto [size, bold, capitals, hidden]
+        = WordXml::firstChildren<4>(format, {"w:sz", "w:b", "w:caps", "w:vanish"});
     return {number(size, "w:val"), onOff(bold), onOff(capitals), onOff(hidden)};
 }
 
 clsWordLooks::Paragraph clsWordLooks::paragraphSaidBy(const xml_node &properties)
 {
     Paragraph look;
-    const auto [indent, spacing, tabs] = firstChildren<3>(properties, {"w:ind", "w:spacing", "w:tabs"});
+    const auto [indent, spacing, tabs] = WordXml::firstChildren<3>(properties, {"w:ind", "w:spacing", "w:tabs"});
     if (indent) {
         look.left = number(indent, "w:left", "w:start");
         look.right = number(indent, "w:right", "w:end");

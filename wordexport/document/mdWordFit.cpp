@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <tuple>
 
 using pugi::xml_node;
 
@@ -40,11 +41,22 @@ bool grow(const xml_node &row)
     return true;
 }
 
-int spanOf(const xml_node &cell)
-{
-    const xml_node span = cell.child("w:tcPr").child("w:gridSpan");
-    return span ? std::max(1, span.attribute("w:val").as_int(1)) : 1;
-}
+// What a cell says of itself, as far as it matters here.
+struct clsCellProperties {
+    explicit clsCellProperties(const xml_node &cell)
+    {
+        const auto found = WordXml::firstChildren<5>(
+            cell.child("w:tcPr"), {"w:tcW", "w:gridSpan", "w:vMerge", "w:tcMar", "w:textDirection"});
+        std::tie(width, span, merge, margins, direction) = std::tuple_cat(found);
+    }
+    int columns() const { return span ? std::max(1, span.attribute("w:val").as_int(1)) : 1; }
+
+    xml_node width;
+    xml_node span;
+    xml_node merge;
+    xml_node margins;
+    xml_node direction;
+};
 
 bool isMergedIntoAbove(const xml_node &cell)
 {
@@ -59,7 +71,7 @@ xml_node cellAt(const xml_node &row, int column)
          cell = WordXml::nextItem(cell, WordXml::isCell)) {
         if (at == column)
             return cell;
-        at += spanOf(cell);
+        at += clsCellProperties(cell).columns();
     }
     return {};
 }
@@ -85,6 +97,7 @@ public:
         , m_typed(typed)
         , m_fitted(fitted)
         , m_margins(looks.ofCells(table))
+        , m_style(WordXml::val(table.child("w:tblPr").child("w:tblStyle")))
     {
         for (const xml_node &column : table.child("w:tblGrid").children("w:gridCol"))
             m_columns.push_back(column.attribute("w:w").as_int());
@@ -116,18 +129,20 @@ private:
             const bool innerGrew = fitTablesIn(cell);
             if (innerGrew && grow(row))
                 grew = true;
+            const clsCellProperties properties(cell);
             if (clsWordCellText::holdsTyped(cell, m_typed)) {
-                const clsWordLooks::Margins margins = marginsOf(cell);
-                clsWordCellText text(cell, placeOf(cell, gridColumn, margins), m_looks, m_typed);
+                clsWordLooks::Margins margins = m_margins;
+                margins.takeOver(clsWordLooks::Margins::saidBy(properties.margins));
+                clsWordCellText text(cell, placeOf(properties, gridColumn, margins), m_looks, m_typed);
                 const auto texts = text.typedTexts();
                 inGrid = inGrid || std::any_of(texts.begin(), texts.end(), [](const clsWordCellText::Typed &typed) {
                     return typed.placeholder.isEmpty();
                 });
-                const xml_node lastRow = lastRowOf(row, cell, gridColumn);
-                if (fitCell(text, lastRow, roomOf(row, cell, lastRow, margins), gridRow, column))
+                const xml_node lastRow = lastRowOf(row, properties, gridColumn);
+                if (fitCell(text, lastRow, roomOf(row, properties, lastRow, margins), gridRow, column))
                     grew = true;
             }
-            gridColumn += spanOf(cell);
+            gridColumn += properties.columns();
         }
         return grew;
     }
@@ -179,22 +194,14 @@ private:
             && now.brokenAmounts <= smallest.brokenAmounts && !now.tooNarrow;
     }
 
-    clsWordLooks::Margins marginsOf(const xml_node &cell) const
+    clsWordCellText::Place placeOf(
+        const clsCellProperties &properties, int gridColumn, const clsWordLooks::Margins &margins)
     {
-        clsWordLooks::Margins margins = m_margins;
-        margins.takeOver(clsWordLooks::Margins::saidBy(cell.child("w:tcPr").child("w:tcMar")));
-        return margins;
-    }
-
-    clsWordCellText::Place placeOf(const xml_node &cell, int gridColumn, const clsWordLooks::Margins &margins)
-    {
-        const xml_node properties = cell.child("w:tcPr");
-        const xml_node said = properties.child("w:tcW");
+        const xml_node said = properties.width;
         int width = std::strcmp(said.attribute("w:type").value(), "dxa") == 0 ? said.attribute("w:w").as_int() : 0;
         if (width <= 0)
-            width = widthOfColumns(gridColumn, gridColumn + spanOf(cell));
-        return {width - margins.left.value_or(0) - margins.right.value_or(0) - lineLoss(),
-            WordXml::val(m_table.child("w:tblPr").child("w:tblStyle"))};
+            width = widthOfColumns(gridColumn, gridColumn + properties.columns());
+        return {width - margins.left.value_or(0) - margins.right.value_or(0) - lineLoss(), m_style};
     }
 
     int widthOfColumns(int from, int to) const
@@ -221,9 +228,9 @@ private:
     }
 
     // The last row that a cell reaches down into.
-    static xml_node lastRowOf(xml_node row, const xml_node &cell, int gridColumn)
+    static xml_node lastRowOf(xml_node row, const clsCellProperties &properties, int gridColumn)
     {
-        if (!cell.child("w:tcPr").child("w:vMerge"))
+        if (!properties.merge)
             return row;
         for (xml_node next = WordXml::nextItem(row, WordXml::isRow);
              next && isMergedIntoAbove(cellAt(next, gridColumn)); next = WordXml::nextItem(row, WordXml::isRow))
@@ -232,10 +239,9 @@ private:
     }
 
     static std::optional<int> roomOf(
-        xml_node row, const xml_node &cell, const xml_node &last, const clsWordLooks::Margins &margins)
+        xml_node row, const clsCellProperties &properties, const xml_node &last, const clsWordLooks::Margins &margins)
     {
-        const xml_node direction = cell.child("w:tcPr").child("w:textDirection");
-        if (direction && std::strcmp(WordXml::val(direction), "lrTb") != 0)
+        if (properties.direction && std::strcmp(WordXml::val(properties.direction), "lrTb") != 0)
             return {};
         int room = -margins.top.value_or(0) - margins.bottom.value_or(0);
         for (;; row = WordXml::nextItem(row, WordXml::isRow)) {
@@ -252,6 +258,7 @@ private:
     clsWordTyped &m_typed;
     std::vector<clsFittedText> &m_fitted;
     clsWordLooks::Margins m_margins;
+    std::string m_style;
     std::vector<int> m_columns;
     int m_lineLoss = -1;
 };

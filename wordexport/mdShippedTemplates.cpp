@@ -15,6 +15,7 @@ constexpr const char *Sums[] = {
 
 bool mdIsShippedTemplate(const QByteArray &bytes)
 {
-    const QByteArray sum = QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex();
+    // The quickest of those that can't be met on purpose.
+    const QByteArray sum = QCryptographicHash::hash(bytes, QCryptographicHash::Blake2b_256).toHex();
     return std::any_of(std::begin(Sums), std::end(Sums), [&sum](const char *shipped) { return sum == shipped; });
 }

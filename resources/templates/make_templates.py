@@ -27,7 +27,7 @@ def make_templates(folder):
         for name, lines in form.SHEETS.items():
             made = package_bytes(form.FORM.name, lines)
             (folder / (name + ".doc")).write_bytes(made)
-            sums.append(hashlib.sha256(made).hexdigest())
+            sums.append(hashlib.blake2b(made, digest_size=32).hexdigest())
     return sums
 
 

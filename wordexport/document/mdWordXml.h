@@ -4,6 +4,7 @@
 
 #include <pugixml.hpp>
 
+#include <array>
 #include <cstring>
 #include <string>
 
@@ -20,15 +21,37 @@ inline constexpr const char *StrictNamespace = "http://purl.oclc.org/ooxml/wordp
 inline constexpr const char *RelationshipNamespace
     = "http://schemas.openxmlformats.org/officeDocument/2006/relationships";
 
-inline bool is(const pugi::xml_node &node, const char *name)
+inline bool isName(const char *own, const char *name)
 {
     // Most of what is asked differs in its third character: a call would take longer than the comparison.
-    const char *own = node.name();
     while (*own == *name && *own) {
         ++own;
         ++name;
     }
     return *own == *name;
+}
+
+inline bool is(const pugi::xml_node &node, const char *name)
+{
+    return isName(node.name(), name);
+}
+
+/// The first children of some names, in one walk: a look-up for each would begin at the front each time.
+template <size_t Count>
+std::array<pugi::xml_node, Count> firstChildren(
+    const pugi::xml_node &node, const std::array<const char *, Count> &names)
+{
+    std::array<pugi::xml_node, Count> found;
+    for (pugi::xml_node child = node.first_child(); child; child = child.next_sibling()) {
+        const char *own = child.name();
+        for (size_t i = 0; i < Count; ++i)
+            if (isName(own, names[i])) {
+                if (!found[i])
+                    found[i] = child;
+                break;
+            }
+    }
+    return found;
 }
 
 inline bool isElement(const pugi::xml_node &node)

@@ -6,6 +6,8 @@
 #include "wordexport/mdExportSheet.h"
 #include "wordexport/mdSplitLineIntoCollection.h"
 
+#include <numeric>
+
 namespace {
 
 constexpr int LineWidth = 60;
@@ -45,9 +47,21 @@ QString markOf(const clsExport &run, int position, int count)
     return mdSheetMark(run.ExportSheetCounter);
 }
 
-/// Fills one sheet from the item at `start` and returns the first that it could not take. `linesLeft` is its budget,
-/// and then what is left of it.
-int fillSheet(clsExport &run, const QString &path, const clsAdditionalInformation &place, int start, int &linesLeft)
+/// What is left of a sheet's lines, and the breaks within those that were typed. The budget doesn't count the breaks.
+struct clsSheetLines {
+    int left;
+    int breaks = 0;
+};
+
+int breaksIn(const QStringList &lines)
+{
+    return std::accumulate(lines.begin(), lines.end(), 0,
+        [](int sum, const QString &line) { return sum + int(line.count(QLatin1String("\r\n"))); });
+}
+
+/// Fills one sheet from the item at `start` and returns the first that it could not take.
+int fillSheet(
+    clsExport &run, const QString &path, const clsAdditionalInformation &place, int start, clsSheetLines &sheetLines)
 {
     const int count = int(run.form.AdditionalInformationItemsCollection().size());
     clsMSWord word;
@@ -59,10 +73,11 @@ int fillSheet(clsExport &run, const QString &path, const clsAdditionalInformatio
         const auto item = run.form.AdditionalInformationItem(position);
         const QStringList lines = linesOf(*item);
         const int need = int(lines.size()) + 1;
-        if (linesLeft - need < 1)
+        if (sheetLines.left - need < 1)
             break;
         typeNote(word, *item, lines);
-        linesLeft -= need;
+        sheetLines.left -= need;
+        sheetLines.breaks += breaksIn(lines);
     }
     mdReplaceMark(word, markOf(run, position, count));
     mdFinishSheet(run, word);
@@ -77,18 +92,17 @@ clsAdditionalInformationResult mdExportWordAdditionalInformation(clsExport &run,
     ++run.ExportSheetCounter;
     const QString firstSheet
         = mdMakeSheet(run, QString::fromLatin1(place.pageTemplate), place.pageNumber, run.ExportSheetCounter);
-    int linesLeft = place.firstBudget;
-    int position = fillSheet(run, firstSheet, place, 1, linesLeft);
-    const int linesUsed = place.firstBudget - linesLeft;
+    clsSheetLines first {place.firstBudget};
+    int position = fillSheet(run, firstSheet, place, 1, first);
 
     while (position <= count) {
         ++run.ExportSheetCounter;
         const QString sheet = mdMakeSheet(
             run, QString::fromLatin1(place.continuationTemplate), place.pageNumber, run.ExportSheetCounter);
-        linesLeft = FurtherBudget;
-        position = fillSheet(run, sheet, place, position, linesLeft);
+        clsSheetLines further {FurtherBudget};
+        position = fillSheet(run, sheet, place, position, further);
     }
-    return {firstSheet, linesUsed};
+    return {firstSheet, place.firstBudget - first.left, first.breaks};
 }
 
 bool mdNoteCanNeverFit(const clsExport &run)

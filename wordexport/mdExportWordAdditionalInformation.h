@@ -9,6 +9,7 @@ struct clsExport;
 struct clsAdditionalInformationResult {
     QString firstSheet;
     int linesUsed; ///< how many lines were typed there, each of which pushed what follows down by one
+    int breaks; ///< within these lines, each of which pushed it down by one more
 };
 
 /// Exports the notes of the items that have a description: a small budget of lines on the page's own sheet, 50 on each

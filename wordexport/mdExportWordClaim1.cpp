@@ -114,6 +114,7 @@ void mdExportWordClaim1Page6(clsExport &run)
     const auto notes = mdExportWordAdditionalInformation(run, Page6AdditionalInformation);
     clsMSWord word;
     mdOpenSheet(run, word, notes.firstSheet);
+    word.PassTypedBreaks(notes.breaks);
     mdExportGrid(run, word, ExpertsGrid, notes.linesUsed + ExpertsGrid.firstOffset, notes.firstSheet, 6);
     mdReplaceFirstSheetMark(run, word);
     mdReplaceRows(run, word, Page6Rows, 6);

@@ -157,6 +157,35 @@ TEST_F(Claim1Pages, Page6WithoutNotesGoesDownTwentyLines)
     EXPECT_EQ(QStringLiteral(" | "), mark("6(1)")) << "the sheet is opened twice, and marked each time";
 }
 
+TEST_F(Claim1Pages, ANoteWithLineBreaksLeavesTheExpertsInTheirRows)
+{
+    // Where the first expert stands among the rows of its table, and what its row says.
+    const auto expertsRow = [this](const QString &description) {
+        includeOnly({1, 6});
+        form.ScheduleOfTimeItemByOrderID(1)->Description = description;
+        form.RenderScheduleOfTimeItems();
+        EXPECT_TRUE(exportClaim());
+        EXPECT_EQ(QStringLiteral("down 3|down 22"),
+            recorder->linesOf(QStringLiteral("6(1)")).filter(QStringLiteral("down")).join(u'|'))
+            << "the steps are those of a note of one line";
+        const clsDocumentTree document(finished());
+        int place = 0;
+        for (const pugi::xpath_node &found : document.body.select_nodes(".//w:tr[.//w:t='Expert 1']")) {
+            const pugi::xml_node row = found.node();
+            for (pugi::xml_node above = row.previous_sibling("w:tr"); above; above = above.previous_sibling("w:tr"))
+                ++place;
+            return QStringLiteral("%1: %2").arg(place).arg(mdTextBelow(row));
+        }
+        return QString();
+    };
+    addItem(QStringLiteral("a"));
+    addExperts(2);
+    const QString alone = expertsRow(QStringLiteral("a"));
+    EXPECT_TRUE(alone.endsWith(QStringLiteral("Expert 1N      50.0010.0060.00"))) << qPrintable(alone);
+    EXPECT_EQ(alone, expertsRow(QStringLiteral("a\r\nb")));
+    EXPECT_EQ(alone, expertsRow(QStringLiteral("a\r\nb\r\nc\r\nd\r\ne")));
+}
+
 TEST_F(Claim1Pages, Page6CountsOnFromTheNotesToTheExpertsToTheReasons)
 {
     includeOnly({1, 6});

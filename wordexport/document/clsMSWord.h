@@ -77,6 +77,9 @@ public:
 
     /// n lines down. Unguarded.
     void MoveCursorDown(int n);
+    /// Over n lines that the next MoveCursorDown does not count: breaks within what was typed. Unguarded, and no
+    /// operation of its own.
+    void PassTypedBreaks(int n) { moveDown(n); }
     /// n table cells to the right. Unguarded.
     void MoveCursorRight(int n);
     /// To the first cell of the table row; outside a table nothing happens. Unguarded.

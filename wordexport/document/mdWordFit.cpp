@@ -82,6 +82,7 @@ public:
     {
         for (const xml_node &column : table.child("w:tblGrid").children("w:gridCol"))
             m_columns.push_back(column.attribute("w:w").as_int());
+        m_across = widthOfColumns(0, int(m_columns.size()));
     }
 
     /// True when a row had to grow, so that one around the table has to as well.
@@ -195,8 +196,22 @@ private:
         int width = std::strcmp(said.attribute("w:type").value(), "dxa") == 0 ? said.attribute("w:w").as_int() : 0;
         if (width <= 0)
             width = widthOfColumns(gridColumn, gridColumn + spanOf(cell));
+        width = asPrinted(gridColumn, width);
         return {width - margins.left.value_or(0) - margins.right.value_or(0) - lineLoss(),
             WordXml::val(m_table.child("w:tblPr").child("w:tblStyle"))};
+    }
+
+    // The word processor that prints the forms keeps where cells begin and end in ten-thousandths of their table's
+    // width.
+    int asPrinted(int gridColumn, int width) const
+    {
+        constexpr int Parts = 10000;
+        const int all = m_across;
+        if (all <= 0)
+            return width;
+        const auto part = [all](int twips) { return (qint64(twips) * Parts + all / 2) / all; };
+        const int left = widthOfColumns(0, gridColumn);
+        return int(((part(left + width) - part(left)) * all + Parts - 1) / Parts);
     }
 
     int widthOfColumns(int from, int to) const
@@ -279,6 +294,7 @@ private:
     std::vector<clsFittedText> &m_fitted;
     clsWordLooks::Margins m_margins;
     std::vector<int> m_columns;
+    int m_across = 0; ///< the width of all columns
     int m_lineLoss = -1;
     int m_lineAbove = -1; ///< of the row in hand; not looked up yet where negative
     /// Rows that a cell has made to grow. What fits their old height is still laid out in it, whatever the order of the

@@ -274,8 +274,7 @@ TEST(DoReplace, ALongTextHasNoLimit)
 
 QString withoutHidden(const QString &body)
 {
-    return afterEditing(
-        clsTestDocument(body), [](clsMSWord &word) { word.RemoveHidden(QStringLiteral("{x}")); });
+    return afterEditing(clsTestDocument(body), [](clsMSWord &word) { word.RemoveHidden(QStringLiteral("{x}")); });
 }
 
 const QString Hidden = QStringLiteral("<w:vanish/>");

@@ -143,7 +143,7 @@ TEST(TextLayout, TabsLeadToTheirStops)
     Paragraph tabbed = paragraph(QStringLiteral("0\t0"));
     tabbed.tabs = {{500, Tab::Left}};
     EXPECT_EQ(TextLayout::layOut(tabbed, 612).count(), 1); // 500 + (667 + 1) / 6 = 611.3
-    EXPECT_EQ(TextLayout::layOut(tabbed, 611).count(), 2);
+    EXPECT_EQ(TextLayout::layOut(tabbed, 611).count(), 3); // the tab goes along, and leaves no room again
     tabbed.tabs = {{500, Tab::Right}};
     // A stop beyond the end of the line counts as its end: 2 * 667 + 1 = 1335, 223 twips.
     EXPECT_EQ(TextLayout::layOut(tabbed, 500).count(), 1);
@@ -152,6 +152,15 @@ TEST(TextLayout, TabsLeadToTheirStops)
     tabbed.tabs.clear(); // every 720 twips
     EXPECT_EQ(TextLayout::layOut(tabbed, 832).count(), 1);
     EXPECT_EQ(TextLayout::layOut(tabbed, 831).count(), 2);
+}
+
+// Twelve digits are more than a line. They go to the next one together with the tab before them, from there alone to
+// the third, and on to the fourth.
+TEST(TextLayout, AWordThatIsWiderThanItsLineLeavesItsTabBehind)
+{
+    Paragraph note = paragraph(QStringLiteral("\t0\t000000000000"));
+    note.tabs = {{200, Tab::Right}, {300, Tab::Left}};
+    EXPECT_EQ(TextLayout::layOut(note, TenDigits).count(), 4);
 }
 
 } // namespace

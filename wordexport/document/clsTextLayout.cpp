@@ -209,8 +209,8 @@ private:
     {
         if (place == 0)
             return brokenAt(start, i);
-        // What ends at a stop takes its tab along to the next line.
-        return place - 1 > start && endsAtStop(place - 1) ? place - 1 : place;
+        // What stands at a stop takes its tab along to the next line.
+        return place - 1 > start && leadsToStop(place - 1) ? place - 1 : place;
     }
 
     size_t brokenAt(size_t start, size_t i)
@@ -261,10 +261,7 @@ private:
         return ((x + edge) / step + 1) * step - edge;
     }
 
-    bool endsAtStop(size_t i) const
-    {
-        return kind(i) == Kind::Tab && !m_paragraph.tabs.empty() && m_paragraph.tabs.back().align != Tab::Left;
-    }
+    bool leadsToStop(size_t i) const { return kind(i) == Kind::Tab && !m_paragraph.tabs.empty(); }
 
     int widthUpToTab(size_t from) const
     {

@@ -49,6 +49,7 @@ clsWordTableShape::clsWordTableShape(const xml_node &table, const clsWordLooks &
 {
     for (const xml_node &column : table.child("w:tblGrid").children("w:gridCol"))
         m_columns.push_back(column.attribute("w:w").as_int());
+    m_across = widthOfColumns(0, int(m_columns.size()));
 }
 
 xml_node clsWordTableShape::heightOf(const xml_node &row)
@@ -107,6 +108,7 @@ clsWordCellText::Place clsWordTableShape::placeOf(
     int width = std::strcmp(said.attribute("w:type").value(), "dxa") == 0 ? said.attribute("w:w").as_int() : 0;
     if (width <= 0)
         width = widthOfColumns(gridColumn, gridColumn + spanOf(cell));
+    width = asPrinted(gridColumn, width);
     return {width - margins.left.value_or(0) - margins.right.value_or(0) - lineLoss(),
         WordXml::val(m_table.child("w:tblPr").child("w:tblStyle"))};
 }
@@ -133,6 +135,18 @@ void clsWordTableShape::letGrow(const xml_node &row)
         return;
     heightOf(row).attribute("w:hRule").set_value("atLeast");
     m_grown.insert(row);
+}
+
+// The word processor that prints the forms keeps where cells begin and end in ten-thousandths of their table's width.
+int clsWordTableShape::asPrinted(int gridColumn, int width) const
+{
+    constexpr int Parts = 10000;
+    const int all = m_across;
+    if (all <= 0)
+        return width;
+    const auto part = [all](int twips) { return (qint64(twips) * Parts + all / 2) / all; };
+    const int left = widthOfColumns(0, gridColumn);
+    return int(((part(left + width) - part(left)) * all + Parts - 1) / Parts);
 }
 
 int clsWordTableShape::widthOfColumns(int from, int to) const

@@ -35,6 +35,7 @@ public:
     void letGrow(const pugi::xml_node &row);
 
 private:
+    int asPrinted(int gridColumn, int width) const;
     int widthOfColumns(int from, int to) const;
     int lineLoss();
     int lineAlong(const pugi::xml_node &row, const char *side, const char *sideOfTable) const;
@@ -43,6 +44,7 @@ private:
     pugi::xml_node m_table;
     clsWordLooks::Margins m_margins;
     std::vector<int> m_columns;
+    int m_across = 0; ///< the width of all columns
     int m_lineLoss = -1;
     pugi::xml_node m_rowOfLineAbove; ///< the row whose line above was looked up last
     int m_lineAbove = 0;

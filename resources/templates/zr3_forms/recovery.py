@@ -24,7 +24,7 @@ def costs_awarded(form, page, costs, recovery, *more_money_rows):
         fields(Field(60, "Interest on all costs", "interest", is_money=True),
                Field(60, "Date interest commenced or commences", "dateinterestcommenced")),
         strip("Please provide a breakdown where interest has been calculated"),
-        text_box("interestbreakdown", 44),
+        text_box("interestbreakdown", 57),
 
         section(recovery, "Recovery"),
         fields(Field(60, "Amount recovered to date", "rcvrdtodate", is_money=True),
@@ -38,7 +38,7 @@ def costs_awarded(form, page, costs, recovery, *more_money_rows):
         follow_up("If yes, give the amount", "detmamount"),
         question("c", "Has any offer been made by the debtor?", "7", "8"),
         strip("If so, give details"),
-        text_box("offerbydebtordetails", 57)]
+        text_box("offerbydebtordetails", 69)]
 
 
 def debtor(form, page, person, employment, means):

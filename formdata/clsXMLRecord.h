@@ -1,5 +1,6 @@
 #pragma once
 
+#include "formdata/mdFetch.h"
 #include "formdata/mdXMLControl.h"
 
 #include <QString>
@@ -101,6 +102,13 @@ public:
     {
         const pugi::xml_node found = element();
         return found && *found.child_value() == '\0';
+    }
+    /// Send for the element, and for its content once the element has come: for who will read many of them soon.
+    [[gnu::always_inline]] void fetchElement() const { mdFetch(m_element.internal_object()); }
+    [[gnu::always_inline]] void fetchContent() const
+    {
+        if (const pugi::xml_node found = element())
+            mdFetch(found.child_value());
     }
     /// Writes the content, and nothing when it stands there already.
     void setContent(const char *content);

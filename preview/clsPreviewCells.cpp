@@ -25,6 +25,12 @@ void clsPreviewCells::AddRow(int height)
     m_rows.push_back(row);
 }
 
+void clsPreviewCells::ExpectRows(int count)
+{
+    m_rows.reserve(m_rows.size() + 2 * size_t(count));
+    m_cells.reserve(m_cells.size() + size_t(count) * m_columns.size());
+}
+
 void clsPreviewCells::SetCell(int row, int column, clsPreviewCell cell)
 {
     clsRow &place = rowAt(row);

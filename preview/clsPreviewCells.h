@@ -35,6 +35,8 @@ public:
     void RemoveAll();
     void AddColumn(const QString &key, int width);
     void AddRow(int height);
+    /// Makes room for so many rows more, each with a spacer.
+    void ExpectRows(int count);
     void SetCell(int row, int column, clsPreviewCell cell);
     /// Says of a cell with a figure that can't be computed why it can't.
     void SetWhyNot(int row, int column, const QString &whyNot) { m_whyNot[{row, column}] = whyNot; }

@@ -115,6 +115,21 @@ template <class Value, class Draw> void drawTotal(int column, const clsFigure<Va
         draw(column, figure.value);
 }
 
+/// The items of a bill lie anywhere in the memory: those that follow are sent for, step by step, while one is drawn.
+void fetchAhead(const clsZR3Form &form, size_t place, const clsSchedulePrices &prices)
+{
+    constexpr size_t OfItem = 6;
+    constexpr size_t OfElement = 4;
+    constexpr size_t OfContent = 2;
+    const auto &items = form.ScheduleOfTimeItemsForExportCollection();
+    if (place + OfItem >= items.size())
+        return;
+    mdFetch(items[place + OfItem].get());
+    items[place + OfElement]->dDate.fetchElement();
+    items[place + OfContent]->dDate.fetchContent();
+    prices.fetch(items[place + OfContent].get());
+}
+
 void drawTotals(const clsColumnTotals &totals)
 {
     const auto drawTime
@@ -157,8 +172,10 @@ void mdExportPreviewScheduleOfTimeDraw(const clsZR3Form &form)
     clsSchedulePrices prices(form);
     const auto &items = form.ScheduleOfTimeItemsForExportCollection();
     const int count = int(items.size());
+    mdExportPreviewGrid().ExpectRows(count);
     int position = 0;
     for (const auto &item : items) {
+        fetchAhead(form, size_t(position), prices);
         mdSetProgress(++position, count, QStringLiteral("Drawing"));
         mdExportPreviewScheduleOfTimeItemDraw(*item, prices);
     }

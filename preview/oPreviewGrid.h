@@ -27,6 +27,8 @@ public:
     /// Adds a column of a width in pixels. All columns come before the first cell.
     void AddColumn(const QString &key, int width);
     void AddRow();
+    /// Makes room for so many rows more, each with a spacer.
+    void ExpectRows(int count) { m_model->cells.ExpectRows(count); }
     void SetCell(int row, int column, const QString &text, clsGridAlignment alignment, bool bold = false,
         bool underline = false);
     /// Marks a figure that can't be computed: "!", and why as its tooltip.

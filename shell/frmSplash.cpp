@@ -64,6 +64,7 @@ frmSplash::frmSplash(QWidget *parent)
     build();
 
     tmrInit->setObjectName(QStringLiteral("tmrInit"));
+    tmrInit->setTimerType(Qt::PreciseTimer); // any other may take a twentieth longer
     tmrInit->setInterval(750);
     connect(tmrInit, &QTimer::timeout, this, &frmSplash::tmrInit_Timer);
     tmrInit->start();

@@ -100,6 +100,27 @@ TEST_F(mdDocumentFile, AWorkingFileIsNewAndNeverWrittenThroughALink)
     EXPECT_FALSE(QFileInfo(path(QStringLiteral("sheet.doc"))).isSymLink());
 }
 
+TEST_F(mdDocumentFile, AWorkingFileIsWrittenOverItsOwnShorterOneOnly)
+{
+    const auto fileOf = [this](const char *name) {
+        struct stat status { };
+        EXPECT_EQ(::stat(qPrintable(path(QString::fromLatin1(name))), &status), 0);
+        return status.st_ino;
+    };
+    const QString sheet = path(QStringLiteral("sheet.doc"));
+    mdWriteWorkingFile(sheet, "copy");
+    const auto own = fileOf("sheet.doc");
+    mdWriteWorkingFile(sheet, "filled in");
+    EXPECT_EQ(fileOf("sheet.doc"), own);
+    EXPECT_EQ(mdReadDocumentFile(sheet, 100), QByteArray("filled in"));
+
+    // A second name of it keeps what it has.
+    ASSERT_EQ(::link(qPrintable(sheet), qPrintable(path(QStringLiteral("theirs")))), 0);
+    mdWriteWorkingFile(sheet, "filled in anew");
+    EXPECT_EQ(mdReadDocumentFile(path(QStringLiteral("theirs")), 100), QByteArray("filled in"));
+    EXPECT_EQ(mdReadDocumentFile(sheet, 100), QByteArray("filled in anew"));
+}
+
 TEST_F(mdDocumentFile, AWorkingFileOnAFullDiskLeavesNothing)
 {
     int error = 0;

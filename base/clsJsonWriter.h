@@ -16,6 +16,7 @@ public:
 
     void text(const char *key, const QString &value);
     void number(const char *key, int value) { raw(key, QByteArray::number(value)); }
+    void decimal(const char *key, double value) { raw(key, QByteArray::number(value)); }
     void boolean(const char *key, bool value) { raw(key, value ? "true" : "false"); }
 
     /// All that was written.

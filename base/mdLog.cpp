@@ -10,6 +10,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <utility>
+
 namespace {
 
 // Never destroyed: the preferences take it back when they go, which can be at the very end of the program.
@@ -77,6 +79,15 @@ void WriteLog(const QString &message)
     const QString line = now.toString(QStringLiteral("dd/MM/yyyy HH:mm:ss")) + QStringLiteral(" : ") + message
         + QStringLiteral("\r\n");
     WriteTextDocument(ReadTextDocument(path, false) + line, path, false);
+}
+
+clsNoLogScope::clsNoLogScope()
+    : m_previous(std::exchange(logSwitch, {}))
+{ }
+
+clsNoLogScope::~clsNoLogScope()
+{
+    logSwitch = std::move(m_previous);
 }
 
 QString LogPath()

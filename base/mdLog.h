@@ -10,6 +10,18 @@
 /// shows both boxes for each line. Both are meant: the folder is expected to be there.
 void WriteLog(const QString &message);
 
+/// Nothing is logged while this object lives.
+class clsNoLogScope {
+public:
+    clsNoLogScope();
+    ~clsNoLogScope();
+    clsNoLogScope(const clsNoLogScope &) = delete;
+    clsNoLogScope &operator=(const clsNoLogScope &) = delete;
+
+private:
+    std::function<bool()> m_previous;
+};
+
 /// The path of the day's file: 15-11-2026.txt in the folder "Logs" beside the program; where this user can't write it
 /// there, in a folder below "Logs" that bears the user's name. Where that can't be made either, the same in the
 /// database folder, and at last in the user's own folder for the state of programs.

@@ -124,6 +124,13 @@ void clsZR3Form::takeRoot(const clsXMLElement &root)
     LoadElements();
 }
 
+void clsZR3Form::takeCopyOf(const clsZR3Form &other)
+{
+    auto document = std::make_shared<clsXMLDocument>();
+    const pugi::xml_node root = document->tree.append_copy(other.node());
+    takeRoot(clsXMLElement(std::move(document), root));
+}
+
 bool clsZR3Form::SaveXML(const QString &filePath) const
 {
     return WriteTextDocument(XMLOutput(), filePath, true);

@@ -69,6 +69,8 @@ public:
     bool LoadXML(const QString &filePath);
     /// Writes the claim as it stands. False where it failed, after the box of the text document routines.
     bool SaveXML(const QString &filePath) const;
+    /// Becomes a copy of another claim, which stays as it is whatever is done to this one.
+    void takeCopyOf(const clsZR3Form &other);
     /// Rebuilds every collection and hands every section its element.
     void LoadElements();
 

@@ -2,6 +2,7 @@
 
 #include "costing/clsBill.h"
 #include "formdata/clsZR3Form.h"
+#include "wordexport/clsForecast.h"
 #include "wordexport/document/clsPlainText.h"
 #include "wordexport/document/clsZipPackage.h"
 
@@ -11,8 +12,10 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 class clsFolderLock;
+struct clsGrid;
 
 /// A template that was read and found to be a sound document, with what its sheets need of it at hand.
 struct clsTemplate {
@@ -26,10 +29,17 @@ struct clsTemplate {
 /// A sheet's file, as the export that wrote it knows it.
 struct clsSheetFile {
     QString templateName; ///< the file name of the template that it was made from
+    QString name {}; ///< such as 3(1)
+    int page = 0;
     /// Nothing but copied yet: what stands in it is what stands in the template.
     bool isCopy = true;
     /// Where the text stands in it; nothing where it was not saved since it was opened.
     std::optional<clsTextPlace> text {};
+    /// What would stand in it, where the sheets stay in memory.
+    std::optional<clsZipPackage> kept {};
+    /// What was typed into it and is not printed at its own size, and the paper pages that it takes.
+    std::vector<clsForecast::Box> boxes {};
+    int paperPages = 1;
 };
 
 /// One running export: the claim that it prints and the whole of the state that its steps share.
@@ -54,6 +64,9 @@ struct clsExport {
     /// The sheets stay in the temporary folder when the export has ended.
     bool keepsSheets = false;
 
+    /// The sheets stay in memory: no folder is touched, and no document comes out.
+    bool inMemory = false;
+
     /// Held while the export works in the temporary folder; nothing there is this export's without it.
     std::shared_ptr<clsFolderLock> folderLock {};
 
@@ -65,6 +78,11 @@ struct clsExport {
 
     /// The claim's figures, as they stand while it is exported.
     clsBill bill {form};
+
+    /// The properties behind the placeholders of the pages.
+    QHash<std::pair<int, QString>, QString> fields {};
+    /// The grid that is being typed.
+    const clsGrid *grid = nullptr;
 
     /// The templates read so far, by their file names, and the files written so far, by their paths.
     QHash<QString, clsTemplate> templates {};

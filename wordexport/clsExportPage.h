@@ -31,12 +31,14 @@ struct clsPlaceholderRow {
     QString (*source)(const clsBill &bill);
     clsFillClass fill = clsFillClass::Text;
     const clsOverRun *overRun = nullptr;
+    const char *property = nullptr; ///< where the text is that of one field
 };
 
 /// A cell of a grid's row: what is typed for item `i` of the list, from 1.
 struct clsPrintedCell {
     QString (*source)(const clsZR3Form &form, int i);
     clsFillClass fill = clsFillClass::Text;
+    const char *property = nullptr; ///< of the item, where the text is that of one
 };
 
 /// A table of a page with one row for each item of a list. Offsets are lines from the start of the sheet.

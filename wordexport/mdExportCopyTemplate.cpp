@@ -52,8 +52,10 @@ QString mdExportCopyTemplate(clsExport &run, const QString &templateName, const 
     WriteLog(QStringLiteral("Begin Export Copy Template"));
     const QString fileName = templateName + QStringLiteral(".doc");
     const QString path = QStringLiteral("%1/%2.doc").arg(mdExportTempFolder(run.exportFolder), sheetName);
-    mdWriteWorkingFile(path, templateOf(run, fileName).bytes);
-    run.sheets.insert(path, {fileName});
+    const clsTemplate &original = templateOf(run, fileName);
+    if (!run.inMemory)
+        mdWriteWorkingFile(path, original.bytes);
+    run.sheets.insert(path, {fileName, sheetName});
     WriteLog(QStringLiteral("End Export Copy Template"));
     return path;
 }

@@ -19,6 +19,11 @@ constexpr Row Drivers[] = {
 
 } // namespace
 
+QString mdNoPagesMessage(const QString &formType)
+{
+    return QStringLiteral("There are no pages for the form type \"%1\" of this claim.").arg(formType);
+}
+
 clsExportDriver mdExportDriver(QStringView formType)
 {
     for (const Row &row : Drivers)

@@ -69,7 +69,7 @@ constexpr auto joint = mdItemAt<&Form::JointInstructionByOrderID>;
 const clsPrintedCell CounselFees[] = {
     ZR3_CELL(QString::number(i), Text),
     ZR3_CELL(counselText(form, i), Text),
-    ZR3_CELL(counselFee(form, i).DateOfWork(), Text),
+    ZR3_ITEM(counselFee(form, i), DateOfWork, Text),
     ZR3_CELL(grossText(form, counselFee(form, i)), Money),
 };
 
@@ -80,32 +80,32 @@ const clsPlaceholderRow CounselFeesPlaceholders[] = {
 };
 
 const clsPrintedCell ExpertInvoices[] = {
-    ZR3_CELL(expert(form, i)->ExpertGroup(), Text),
-    ZR3_CELL(expert(form, i)->ExpertType(), Text),
+    ZR3_ITEM(*expert(form, i), ExpertGroup, Text),
+    ZR3_ITEM(*expert(form, i), ExpertType, Text),
     ZR3_CELL(expert(form, i)->PriorAuthorityObtained() ? QStringLiteral("Y") : QStringLiteral("N"), Text),
-    ZR3_CELL(expert(form, i)->PreparationHourlyRate(), Text),
-    ZR3_CELL(expert(form, i)->TotalPrepCost(), Text),
-    ZR3_CELL(expert(form, i)->CourtAttendanceHourlyRate(), Text),
-    ZR3_CELL(expert(form, i)->TotalCourtCost(), Text),
-    ZR3_CELL(expert(form, i)->TravelTimeCosts(), Text),
-    ZR3_CELL(expert(form, i)->OtherCosts(), Text),
-    ZR3_CELL(expert(form, i)->NetAmount(), Text),
-    ZR3_CELL(expert(form, i)->VATAmount(), Text),
+    ZR3_ITEM(*expert(form, i), PreparationHourlyRate, Text),
+    ZR3_ITEM(*expert(form, i), TotalPrepCost, Text),
+    ZR3_ITEM(*expert(form, i), CourtAttendanceHourlyRate, Text),
+    ZR3_ITEM(*expert(form, i), TotalCourtCost, Text),
+    ZR3_ITEM(*expert(form, i), TravelTimeCosts, Text),
+    ZR3_ITEM(*expert(form, i), OtherCosts, Text),
+    ZR3_ITEM(*expert(form, i), NetAmount, Text),
+    ZR3_ITEM(*expert(form, i), VATAmount, Text),
     ZR3_CELL(grossText(form, *expert(form, i)), Money),
 };
 
 const clsPrintedCell JointInstructions[] = {
-    ZR3_CELL(joint(form, i)->ExpertType(), Text),
-    ZR3_CELL(joint(form, i)->PartyName(), Text),
-    ZR3_CELL(joint(form, i)->Solicitor(), Text),
-    ZR3_CELL(joint(form, i)->CertificateReference(), Text),
-    ZR3_CELL(joint(form, i)->PercentApportioned(), Text),
+    ZR3_ITEM(*joint(form, i), ExpertType, Text),
+    ZR3_ITEM(*joint(form, i), PartyName, Text),
+    ZR3_ITEM(*joint(form, i), Solicitor, Text),
+    ZR3_ITEM(*joint(form, i), CertificateReference, Text),
+    ZR3_ITEM(*joint(form, i), PercentApportioned, Text),
 };
 
 const clsPrintedCell OtherDisbursements[] = {
-    ZR3_CELL(other(form, i).Description(), Text),
-    ZR3_CELL(other(form, i).Amount(), Money),
-    ZR3_CELL(other(form, i).VAT(), Money),
+    ZR3_ITEM(other(form, i), Description, Text),
+    ZR3_ITEM(other(form, i), Amount, Money),
+    ZR3_ITEM(other(form, i), VAT, Money),
     ZR3_CELL(grossText(form, other(form, i)), Money),
 };
 

@@ -5,6 +5,9 @@
 #include "wordexport/mdExportCopyTemplate.h"
 #include "wordexport/mdExportWordGenerateOverRuns.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 void stopIfLost(const clsExport &run, const clsMSWord &word)
@@ -13,11 +16,43 @@ void stopIfLost(const clsExport &run, const clsMSWord &word)
         throw clsExportStopped();
 }
 
+QString propertyOf(const clsExport &run, const clsSheetFile &sheet, const clsFittedText &text)
+{
+    if (!text.placeholder.isEmpty())
+        return run.fields.value({sheet.page, text.placeholder});
+    const bool inGrid = run.grid && text.column >= 1 && text.column <= int(run.grid->cells.size());
+    return inGrid ? QString::fromLatin1(run.grid->cells[size_t(text.column - 1)].property) : QString();
+}
+
+clsForecast::Box boxOf(const clsExport &run, const clsSheetFile &sheet, const clsFittedText &text)
+{
+    return {sheet.name, text.placeholder, propertyOf(run, sheet, text), text.row, text.column, text.halfPoints / 2.0,
+        text.printedHalfPoints / 2.0, text.lines, clsForecast::Box::clsState(text.state)};
+}
+
+static_assert(int(clsForecast::Box::Smaller) == int(clsFittedText::Smaller)
+    && int(clsForecast::Box::RunsOn) == int(clsFittedText::RunsOn)
+    && int(clsForecast::Box::Cut) == int(clsFittedText::Cut));
+
+void note(clsExport &run, const clsMSWord &word)
+{
+    clsSheetFile &sheet = run.sheets[word.savedPath()];
+    if (run.inMemory)
+        sheet.kept = word.kept();
+    else
+        sheet.text = word.savedText();
+    // Each time that a sheet is open, what is typed then is fitted; what was typed before stays as it is.
+    std::transform(word.fitted().begin(), word.fitted().end(), std::back_inserter(sheet.boxes),
+        [&](const clsFittedText &text) { return boxOf(run, sheet, text); });
+    sheet.paperPages = word.paperPages();
+}
+
 } // namespace
 
 QString mdMakeSheet(clsExport &run, const QString &templateName, int pageNumber, int sheetNumber)
 {
     const QString path = mdExportCopyTemplate(run, templateName, mdSheetName(pageNumber, sheetNumber));
+    run.sheets[path].page = pageNumber;
     run.ExportFileCollection << path;
     return path;
 }
@@ -29,6 +64,8 @@ void mdOpenSheet(clsExport &run, clsMSWord &word, const QString &path)
         word.OpenDocument(path, sheet.templateName, original->content);
         if (word.isOpen() && !original->styles)
             original->styles = word.openDocument()->styles();
+    } else if (sheet.kept) {
+        word.OpenDocument(path, sheet.templateName, *sheet.kept);
     } else {
         word.OpenDocument(path, sheet.templateName);
     }
@@ -39,9 +76,12 @@ void mdOpenSheet(clsExport &run, clsMSWord &word, const QString &path)
 
 void mdSaveSheet(clsExport &run, clsMSWord &word)
 {
-    word.SaveAndClose();
+    if (run.inMemory)
+        word.KeepAndClose();
+    else
+        word.SaveAndClose();
     if (!word.savedPath().isEmpty())
-        run.sheets[word.savedPath()].text = word.savedText();
+        note(run, word);
     stopIfLost(run, word);
 }
 
@@ -83,6 +123,8 @@ void mdReplaceRows(clsExport &run, clsMSWord &word, std::span<const clsPlacehold
     for (const clsPlaceholderRow &row : rows) {
         const QString placeholder = QString::fromLatin1(row.placeholder);
         const QString text = row.source(run.bill);
+        if (row.property)
+            run.fields.insert({pageNumber, placeholder}, QString::fromLatin1(row.property));
         if (row.overRun)
             mdExportWordGenerateOverRuns(run, text, *row.overRun, word, placeholder, pageNumber);
         else

@@ -29,16 +29,17 @@ template <auto ByOrderID> auto mdItemAt(const clsZR3Form &form, int i)
 }
 
 // clang-format off
+#define ZR3_FIELD(placeholder, member, text, ...)                                                                      \
+    clsPlaceholderRow { placeholder, [](const clsBill &bill) { return text; }, __VA_ARGS__, #member }
 #define ZR3_TEXT(placeholder, member)                                                                                  \
-    clsPlaceholderRow { placeholder, [](const clsBill &bill) { return bill.form().member(); }, clsFillClass::Text }
+    ZR3_FIELD(placeholder, member, bill.form().member(), clsFillClass::Text, nullptr)
 #define ZR3_TICK(placeholder, member)                                                                                  \
-    clsPlaceholderRow { placeholder, [](const clsBill &bill) { return mdTickText(bill.form().member()); },             \
-        clsFillClass::TickBox }
+    ZR3_FIELD(placeholder, member, mdTickText(bill.form().member()), clsFillClass::TickBox, nullptr)
 #define ZR3_MONEY(placeholder, member)                                                                                 \
-    clsPlaceholderRow { placeholder, [](const clsBill &bill) { return bill.form().member(); }, clsFillClass::Money }
+    ZR3_FIELD(placeholder, member, bill.form().member(), clsFillClass::Money, nullptr)
 /// A text that goes to continuation sheets when its box can't hold it.
 #define ZR3_LONG(placeholder, member, overRun)                                                                         \
-    clsPlaceholderRow { placeholder, [](const clsBill &bill) { return bill.form().member(); }, clsFillClass::Text, &overRun }
+    ZR3_FIELD(placeholder, member, bill.form().member(), clsFillClass::Text, &overRun)
 #define ZR3_WORKED_OUT(placeholder, expression, fill)                                                                  \
     clsPlaceholderRow { placeholder,                                                                                   \
         [](const clsBill &bill) {                                                                                      \
@@ -56,4 +57,7 @@ template <auto ByOrderID> auto mdItemAt(const clsZR3Form &form, int i)
 #define ZR3_CELL(expression, fill)                                                                                     \
     clsPrintedCell { []([[maybe_unused]] const clsZR3Form &form, [[maybe_unused]] int i) { return QString(expression); }, \
         clsFillClass::fill }
+/// The same where it is a field of the item.
+#define ZR3_ITEM(item, member, fill)                                                                                   \
+    clsPrintedCell { [](const clsZR3Form &form, int i) { return QString((item).member()); }, clsFillClass::fill, #member }
 // clang-format on

@@ -205,31 +205,31 @@ const clsZR3FASItem &travel(const clsZR3Form &form, int i)
 }
 
 const clsPrintedCell AdvocacyCostsCells[] = {
-    ZR3_CELL(hearing(form, i)->dDate(), Text),
-    ZR3_CELL(hearing(form, i)->LevelOfCourt(), Text),
-    ZR3_CELL(hearing(form, i)->FDR(), Text),
+    ZR3_ITEM(*hearing(form, i), dDate, Text),
+    ZR3_ITEM(*hearing(form, i), LevelOfCourt, Text),
+    ZR3_ITEM(*hearing(form, i), FDR, Text),
     ZR3_CELL(QString::number(hearing(form, i)->ActualTimeSpent()), Text),
     ZR3_CELL(QString::number(hearing(form, i)->HearingUnits()), Text),
-    ZR3_CELL(hearing(form, i)->RateForUnits(), Money),
+    ZR3_ITEM(*hearing(form, i), RateForUnits, Money),
     ZR3_CELL(figureOf<&clsZR3FASItem::UnitPayment>(form, i), Money),
-    ZR3_CELL(hearing(form, i)->BoltOnClaimed(), Text),
+    ZR3_ITEM(*hearing(form, i), BoltOnClaimed, Text),
     ZR3_CELL(figureOf<&clsZR3FASItem::BoltOn>(form, i), Money),
-    ZR3_CELL(hearing(form, i)->CourtBundlePayment(), Money),
-    ZR3_CELL(hearing(form, i)->SettlementFee(), Money),
-    ZR3_CELL(hearing(form, i)->ExceptionalTravel(), Money),
+    ZR3_ITEM(*hearing(form, i), CourtBundlePayment, Money),
+    ZR3_ITEM(*hearing(form, i), SettlementFee, Money),
+    ZR3_ITEM(*hearing(form, i), ExceptionalTravel, Money),
     ZR3_CELL(figureOf<&clsZR3FASItem::Total>(form, i), Money),
-    ZR3_CELL(hearing(form, i)->VATForFAS(), Money),
+    ZR3_ITEM(*hearing(form, i), VATForFAS, Money),
 };
 
 const clsPrintedCell BoltOnPaymentsCells[] = {
-    ZR3_CELL(boltOn(form, i).dDate(), Text),
-    ZR3_CELL(boltOn(form, i).BoltOnDescription(), Text),
+    ZR3_ITEM(boltOn(form, i), dDate, Text),
+    ZR3_ITEM(boltOn(form, i), BoltOnDescription, Text),
 };
 
 const clsPrintedCell ExceptionalTravelCells[] = {
-    ZR3_CELL(travel(form, i).dDate(), Text),
-    ZR3_CELL(travel(form, i).ExceptionalTravelDistance(), Text),
-    ZR3_CELL(travel(form, i).ExceptionalTravelReason(), Text),
+    ZR3_ITEM(travel(form, i), dDate, Text),
+    ZR3_ITEM(travel(form, i), ExceptionalTravelDistance, Text),
+    ZR3_ITEM(travel(form, i), ExceptionalTravelReason, Text),
 };
 
 const clsGrid AdvocacyCostsGrid

@@ -20,13 +20,19 @@ void exportPage(clsExport &run, const clsExportPageRow &page)
     WriteLog(QStringLiteral("End Export Word ") + name);
 }
 
-void exportSheets(clsExport &run, const clsExportForm &form)
+void takeFolder(clsExport &run)
 {
     run.folderLock = mdCreateExportTempFolder(run.exportFolder);
     if (!run.folderLock)
         throw clsExportStopped();
     // Another export may have ended while this one waited for the lock.
     mdStopAtExistingDocument(run);
+}
+
+void exportSheets(clsExport &run, const clsExportForm &form)
+{
+    if (!run.inMemory)
+        takeFolder(run);
     for (const clsExportPageRow &page : form.pages) {
         // The step is taken whether or not the page is included.
         mdSetProgress(page.number, form.progressMaximum, QStringLiteral("Exporting Page %1").arg(page.number));
@@ -58,12 +64,13 @@ bool mdExportWordForm(clsExport &run, const clsExportForm &form)
     run.bill.forget();
     try {
         exportSheets(run, form);
-        mdExportWordCombineDocuments(run);
+        if (!run.inMemory)
+            mdExportWordCombineDocuments(run);
     } catch (const clsExportStopped &) {
         mdClearProgress();
         return false;
     }
-    if (!run.keepsSheets)
+    if (!run.keepsSheets && !run.inMemory)
         sweep(run);
     mdClearProgress();
     WriteLog(QStringLiteral("End Export Word ") + name);

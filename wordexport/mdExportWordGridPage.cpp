@@ -41,6 +41,7 @@ void typeRow(const clsExport &run, clsMSWord &word, const clsGrid &grid, int i)
 void mdExportGrid(
     clsExport &run, clsMSWord &word, const clsGrid &grid, int firstOffset, const QString &firstSheet, int pageNumber)
 {
+    run.grid = &grid;
     word.MoveCursorDown(firstOffset);
     const int count = grid.count(run.form);
     bool onFirstSheet = true;
@@ -59,6 +60,7 @@ void mdExportGrid(
     }
     markOpenSheet(run, word);
     mdSaveSheet(run, word);
+    run.grid = nullptr;
     mdOpenSheet(run, word, firstSheet);
 }
 

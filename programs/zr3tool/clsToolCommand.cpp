@@ -17,19 +17,21 @@ constexpr VerbRow Verbs[] = {
     {"export", clsToolCommand::Export, 2},
     {"check", clsToolCommand::Check, 1},
     {"save", clsToolCommand::Save, 2},
+    {"forecast", clsToolCommand::Forecast, 1},
 };
 
 const QString Force = QStringLiteral("force");
 const QString Templates = QStringLiteral("templates");
 const QString KeepSheets = QStringLiteral("keep-sheets");
 const QString Quiet = QStringLiteral("quiet");
+const QString Json = QStringLiteral("json");
 const QString HelpOption = QStringLiteral("help");
 const QString VersionOption = QStringLiteral("version");
 
 void addOptions(QCommandLineParser &parser)
 {
     parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsOptions);
-    for (const QString &flag : {Force, KeepSheets, Quiet, HelpOption, VersionOption})
+    for (const QString &flag : {Force, KeepSheets, Quiet, Json, HelpOption, VersionOption})
         parser.addOption(QCommandLineOption(flag));
     parser.addOption(QCommandLineOption(Templates, QString(), QStringLiteral("DIR")));
 }
@@ -48,6 +50,8 @@ std::optional<clsToolCommand> commandOf(const QCommandLineParser &parser)
         return {};
     if (row->verb != clsToolCommand::Export && hasExportOptions(parser))
         return {};
+    if (row->verb != clsToolCommand::Forecast && parser.isSet(Json))
+        return {};
     // As from a variable of a script that was never set: the program's own templates are not what was asked for.
     if (parser.values(Templates).contains(QString()))
         return {};
@@ -58,6 +62,7 @@ std::optional<clsToolCommand> commandOf(const QCommandLineParser &parser)
     command.force = parser.isSet(Force);
     command.keepSheets = parser.isSet(KeepSheets);
     command.quiet = parser.isSet(Quiet);
+    command.json = parser.isSet(Json);
     command.templates = parser.value(Templates);
     return command;
 }
@@ -90,6 +95,7 @@ QString clsToolCommand::usage()
         "  zr3tool export CLAIM FOLDER    the finished document into FOLDER\n"
         "  zr3tool check  CLAIM           the blank items check\n"
         "  zr3tool save   CLAIM NEWFILE   brings the claim up to date and writes it to NEWFILE\n"
+        "  zr3tool forecast CLAIM         the sheets and what doesn't fit its box, before any export\n"
         "  zr3tool --help | --version\n"
         "\n"
         "Options of export:\n"
@@ -97,6 +103,9 @@ QString clsToolCommand::usage()
         "  --templates DIR    the folder of the page templates\n"
         "  --keep-sheets      leave the folder ~ZR3Temp with its sheets\n"
         "  --quiet            show no progress\n"
+        "\n"
+        "Option of forecast:\n"
+        "  --json             print it as JSON\n"
         "\n"
         "Exit status: 0 done; 1 wrong usage; 2 the claim can't be read; 3 blank items found;\n"
         "4 a figure can't be computed, or the export failed; 5 the document exists already.\n"

@@ -17,7 +17,7 @@ enum class clsExitStatus {
 
 /// A command line, read.
 struct clsToolCommand {
-    enum Verb { Totals, Export, Check, Save, Help, Version };
+    enum Verb { Totals, Export, Check, Save, Forecast, Help, Version };
 
     Verb verb = Help;
     QString claim;
@@ -25,6 +25,7 @@ struct clsToolCommand {
     bool force = false;
     bool keepSheets = false;
     bool quiet = false;
+    bool json = false;
     QString templates;
 
     /// The command that the arguments (without the program's name) ask for; nothing where they are wrong.

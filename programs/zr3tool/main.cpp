@@ -15,6 +15,8 @@
 #include "wordexport/mdExportDriver.h"
 #include "wordexport/mdExportTempFolder.h"
 #include "wordexport/mdExportWordCombineDocuments.h"
+#include "wordexport/mdForecast.h"
+#include "wordexport/mdForecastReport.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -122,10 +124,24 @@ Status exportSheetsAndDocument(clsConsoleUserInterface &console, clsExport &run)
             ? documentExists(console, mdFinishedDocumentPath(run.exportFolder, run.form.FormType()))
             : Status::Failed;
     }
-    console.tell(QStringLiteral("Export"),
-        QStringLiteral("There are no pages for the form type \"%1\" of this claim.")
-            .arg(mdWithoutControls(run.form.FormType())));
+    console.tell(QStringLiteral("Export"), mdNoPagesMessage(mdWithoutControls(run.form.FormType())));
     return Status::Failed;
+}
+
+Status forecast(clsConsoleUserInterface &console, const clsZR3Form &form, const clsToolCommand &command)
+{
+    const clsForecast forecast = mdForecast(form, TemplatesFolder());
+    for (const clsForecast::Message &message : forecast.Messages)
+        console.tell(message.Title, message.Text);
+    if (forecast.Error)
+        throw clsRunTimeError(*forecast.Error);
+    if (forecast.Fails)
+        return Status::Failed;
+    if (command.json)
+        print(mdForecastAsJson(forecast));
+    else
+        mdPrint(stdout, mdForecastAsTable(forecast));
+    return Status::Done;
 }
 
 /// Sweeps away what a failed export left in its folder. The failure itself has been told, so that this is silent.
@@ -171,6 +187,7 @@ Status runOnClaim(clsConsoleUserInterface &console, const clsToolCommand &comman
         case clsToolCommand::Totals: return totals(console, form);
         case clsToolCommand::Check: return check(form);
         case clsToolCommand::Save: return save(console, form, command.target);
+        case clsToolCommand::Forecast: return forecast(console, form, command);
         case clsToolCommand::Export: return exportDocument(console, form, command);
         case clsToolCommand::Help:
         case clsToolCommand::Version: break;

@@ -115,11 +115,23 @@ template <class Open> void clsMSWord::openWith(const QString &path, Open open)
 
 void clsMSWord::SaveAndClose()
 {
+    const bool finished = m_lasting == Finished;
+    closeWith([&] { document().save(finished ? clsZipPackage::Deflated : clsZipPackage::Stored, finished); });
+}
+
+void clsMSWord::KeepAndClose()
+{
+    closeWith([&] { m_kept = document().content(); });
+}
+
+template <class Store> void clsMSWord::closeWith(Store store)
+{
     m_savedPath.clear();
     const bool saved = guarded("SaveAndClose", [&] {
-        const bool finished = m_lasting == Finished;
         m_fitted = document().fit();
-        document().save(finished ? clsZipPackage::Deflated : clsZipPackage::Stored, finished);
+        if (m_lasting != Finished)
+            m_paperPages = document().paperPages();
+        store();
     });
     if (saved) {
         m_savedPath = document().path();

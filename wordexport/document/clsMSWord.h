@@ -1,6 +1,7 @@
 #pragma once
 
 #include "wordexport/document/clsPlainText.h"
+#include "wordexport/document/clsZipPackage.h"
 #include "wordexport/document/mdWordFit.h"
 
 #include <QString>
@@ -10,7 +11,6 @@
 
 class clsRunTimeError;
 class clsWordDocument;
-class clsZipPackage;
 
 /// The one class through which the system touches a word processor: one hidden application, at most one open
 /// document, one cursor in it. Everything that the export does to a document is one of the operations below.
@@ -41,6 +41,8 @@ public:
     void OpenDocument(const QString &path, const QString &shownName, const clsZipPackage &content);
     /// Makes room for what was typed, writes the document back to the file it came from, and closes it.
     void SaveAndClose();
+    /// The same without a file: what would be in it stays in memory.
+    void KeepAndClose();
     /// Ends the application; what was not saved is lost.
     void Quit();
 
@@ -82,6 +84,8 @@ public:
 
     /// What the last document that was saved prints smaller, in rows that grow, or cut.
     const std::vector<clsFittedText> &fitted() const { return m_fitted; }
+    /// How many paper pages it takes; of a finished document that is not counted.
+    int paperPages() const { return m_paperPages; }
 
     /// True while a document is open; one that could not be saved stays so.
     bool isOpen() const { return m_document != nullptr; }
@@ -90,6 +94,8 @@ public:
     /// The file that the last SaveAndClose wrote, empty where it failed, and where the text stands in it.
     const QString &savedPath() const { return m_savedPath; }
     const clsTextPlace &savedText() const { return m_savedText; }
+    /// What the last KeepAndClose kept.
+    const clsZipPackage &kept() const { return m_kept; }
     /// True once a failure has lost a whole sheet: a document that could not be opened, saved or appended.
     bool sheetLost() const { return m_sheetLost; }
 
@@ -102,6 +108,7 @@ private:
     clsWordDocument &document() const;
     /// Runs one guarded operation under its name; true when it came to its end.
     template <class Operation> bool guarded(const char *name, Operation operation);
+    template <class Store> void closeWith(Store store);
     /// MoveCursorDown without its report to the observer.
     void moveDown(int n);
     template <class Open> void openWith(const QString &path, Open open);
@@ -113,5 +120,7 @@ private:
     bool m_sheetLost = false;
     QString m_savedPath;
     clsTextPlace m_savedText;
+    clsZipPackage m_kept;
     std::vector<clsFittedText> m_fitted;
+    int m_paperPages = 1;
 };

@@ -69,10 +69,22 @@ bool clsWordCellText::holdsTyped(const xml_node &cell, const clsWordTyped &typed
     return found;
 }
 
-clsWordCellText::clsWordCellText(
-    const xml_node &cell, const Place &place, const clsWordLooks &looks, clsWordTyped &typed)
+clsWordCellText::clsWordCellText(const Place &place, clsWordTyped &typed)
     : m_width(place.width)
     , m_typed(typed)
+{ }
+
+clsWordCellText clsWordCellText::ofParagraph(
+    const xml_node &paragraph, const Place &place, const clsWordLooks &looks, clsWordTyped &typed)
+{
+    clsWordCellText text(place, typed);
+    text.readParagraph(paragraph, place.tableStyle, looks);
+    return text;
+}
+
+clsWordCellText::clsWordCellText(
+    const xml_node &cell, const Place &place, const clsWordLooks &looks, clsWordTyped &typed)
+    : clsWordCellText(place, typed)
 {
     for (xml_node block = WordXml::firstItem(cell, WordXml::isBlock); block;
          block = WordXml::nextItem(block, WordXml::isBlock)) {
@@ -229,6 +241,22 @@ clsWordCellText::Measure clsWordCellText::measure(int less) const
         measure.tooNarrow = measure.tooNarrow || lines.tooNarrow;
     }
     return measure;
+}
+
+std::vector<int> clsWordCellText::lineHeights() const
+{
+    std::vector<int> heights;
+    if (m_tables > 0)
+        heights.push_back(m_tables);
+    for (const Paragraph &paragraph : m_paragraphs) {
+        const size_t first = heights.size();
+        for (const int halfPoints : TextLayout::layOut(paragraph.layout, m_width).sizes)
+            heights.push_back(paragraph.lineHeight(halfPoints, 0));
+        heights[first] += paragraph.before;
+        if (&paragraph != &m_paragraphs.back())
+            heights.back() += paragraph.after;
+    }
+    return heights;
 }
 
 void clsWordCellText::shrink(int less)

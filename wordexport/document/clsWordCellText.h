@@ -40,17 +40,25 @@ public:
 
     clsWordCellText(const pugi::xml_node &cell, const Place &place, const clsWordLooks &looks, clsWordTyped &typed);
 
+    /// The same of a paragraph that stands in no table.
+    static clsWordCellText ofParagraph(
+        const pugi::xml_node &paragraph, const Place &place, const clsWordLooks &looks, clsWordTyped &typed);
+
     const std::vector<Typed> &typedTexts() const { return m_texts; }
     /// By how many half points the typed text can become smaller before all of it is at its smallest.
     int mostLess() const;
     /// The room that the text takes with the typed text so many half points smaller.
     Measure measure(int less) const;
+    /// The heights of its lines as it stands, with the spaces between the paragraphs, and of its tables.
+    std::vector<int> lineHeights() const;
     /// Makes the typed text so much smaller in the document, and the exact lines of its paragraphs with it.
     void shrink(int less);
 
     static int shrunk(int halfPoints, int less);
 
 private:
+    clsWordCellText(const Place &place, clsWordTyped &typed);
+
     struct Piece {
         pugi::xml_node run;
         size_t from; ///< of the characters of the paragraph

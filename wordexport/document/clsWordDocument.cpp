@@ -4,6 +4,7 @@
 #include "wordexport/document/clsWordFinder.h"
 #include "wordexport/document/clsWordParagraph.h"
 #include "wordexport/document/mdDocumentFile.h"
+#include "wordexport/document/mdWordPages.h"
 #include "wordexport/document/mdWordXml.h"
 
 #include <algorithm>
@@ -92,9 +93,17 @@ std::vector<clsFittedText> clsWordDocument::fit()
 {
     if (m_typed.isEmpty())
         return {};
-    const int styles = m_package.relatedPart("styles");
-    const auto looks = clsWordLooks::ofStyles(styles < 0 ? QByteArray() : m_package.partBytes(styles));
-    return mdFitTypedText(body(), *looks, m_typed);
+    return mdFitTypedText(body(), *looks(), m_typed);
+}
+
+int clsWordDocument::paperPages()
+{
+    return mdPaperPages(body(), *looks());
+}
+
+std::shared_ptr<const clsWordLooks> clsWordDocument::looks()
+{
+    return clsWordLooks::ofStyles(styles());
 }
 
 void clsWordDocument::moved()

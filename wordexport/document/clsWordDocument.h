@@ -30,6 +30,10 @@ public:
 
     /// Makes room for what was typed, and returns what is then printed otherwise than the template has it.
     std::vector<clsFittedText> fit();
+    /// How many paper pages it takes when it is printed.
+    int paperPages();
+    /// What the document's file would hold.
+    const clsZipPackage &content() { return m_package.content(); }
     /// Writes the document back to its file.
     void save(clsZipPackage::Packing packing, bool toDisk);
     /// Where the text stands in the file that was saved last; meaningless where that was packed.
@@ -66,6 +70,7 @@ private:
     const std::vector<pugi::xml_node> &paragraphsThatMayHold(char c);
     pugi::xml_node formatForTyping(const pugi::xml_node &like, bool symbolFont);
     const clsWordBoldness &boldness();
+    std::shared_ptr<const clsWordLooks> looks();
 
     QString m_path;
     clsWordPackage m_package;

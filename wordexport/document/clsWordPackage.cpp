@@ -245,7 +245,7 @@ void clsWordPackage::writeMainPart()
     m_parsed[m_mainPart].changed = false;
 }
 
-QByteArray clsWordPackage::toBytes(clsZipPackage::Packing packing)
+const clsZipPackage &clsWordPackage::content()
 {
     if (hasSettledText())
         writeMainPart();
@@ -260,7 +260,7 @@ QByteArray clsWordPackage::toBytes(clsZipPackage::Packing packing)
         m_zip.setBytes(types, serialise(*m_contentTypes, m_zip.bytes(types).size()));
         m_contentTypesChanged = false;
     }
-    return m_zip.toBytes(packing);
+    return m_zip;
 }
 
 void clsWordPackage::writeRelationships()

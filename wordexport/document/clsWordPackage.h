@@ -30,7 +30,9 @@ public:
     /// copied. That node must outlive the package's use.
     clsWordPackage(clsZipPackage zip, const QString &shownName, const pugi::xml_node &mainPlace);
 
-    QByteArray toBytes(clsZipPackage::Packing packing);
+    QByteArray toBytes(clsZipPackage::Packing packing) { return content().toBytes(packing); }
+    /// The parts as they are now, changes included.
+    const clsZipPackage &content();
 
     /// The name that stands for the document in error messages.
     const QString &shownName() const { return m_shownName; }

@@ -1,6 +1,7 @@
 #include "wordexport/document/mdWordFit.h"
 
 #include "wordexport/document/clsWordCellText.h"
+#include "wordexport/document/clsWordTableShape.h"
 #include "wordexport/document/mdWordXml.h"
 
 #include <algorithm>
@@ -9,16 +10,6 @@
 using pugi::xml_node;
 
 namespace {
-
-xml_node heightOf(const xml_node &row)
-{
-    return row.child("w:trPr").child("w:trHeight");
-}
-
-bool isExact(const xml_node &row)
-{
-    return std::strcmp(heightOf(row).attribute("w:hRule").value(), "exact") == 0;
-}
 
 // A row in a content control whose content is locked is told not to change.
 bool mayGrow(const xml_node &row)
@@ -35,41 +26,9 @@ bool grow(const xml_node &row)
 {
     if (!mayGrow(row))
         return false;
-    if (isExact(row))
-        heightOf(row).attribute("w:hRule").set_value("atLeast");
+    if (clsWordTableShape::isExact(row))
+        clsWordTableShape::heightOf(row).attribute("w:hRule").set_value("atLeast");
     return true;
-}
-
-int spanOf(const xml_node &cell)
-{
-    return std::max(1, cell.child("w:tcPr").child("w:gridSpan").attribute("w:val").as_int(1));
-}
-
-bool isMergedIntoAbove(const xml_node &cell)
-{
-    const xml_node merge = cell.child("w:tcPr").child("w:vMerge");
-    return merge && std::strcmp(WordXml::val(merge), "restart") != 0;
-}
-
-xml_node cellAt(const xml_node &row, int column)
-{
-    int at = row.child("w:trPr").child("w:gridBefore").attribute("w:val").as_int();
-    for (xml_node cell = WordXml::firstItem(row, WordXml::isCell); cell;
-         cell = WordXml::nextItem(cell, WordXml::isCell)) {
-        if (at == column)
-            return cell;
-        at += spanOf(cell);
-    }
-    return {};
-}
-
-// The widest line at a side of a cell, in twips.
-int widestSideLine(const xml_node &borders)
-{
-    int eighths = 0;
-    for (const char *side : {"w:left", "w:right", "w:start", "w:end", "w:insideV"})
-        eighths = std::max(eighths, borders.child(side).attribute("w:sz").as_int());
-    return eighths * 20 / 8;
 }
 
 // Fits the rows of one table.
@@ -81,11 +40,8 @@ public:
         , m_looks(looks)
         , m_typed(typed)
         , m_fitted(fitted)
-        , m_margins(looks.ofCells(table))
-    {
-        for (const xml_node &column : table.child("w:tblGrid").children("w:gridCol"))
-            m_columns.push_back(column.attribute("w:w").as_int());
-    }
+        , m_shape(table, looks)
+    { }
 
     /// True when a row had to grow, so that one around the table has to as well.
     bool fit()
@@ -106,7 +62,7 @@ private:
     bool fitRow(const xml_node &row, int gridRow, bool &inGrid)
     {
         bool grew = false;
-        int gridColumn = row.child("w:trPr").child("w:gridBefore").attribute("w:val").as_int();
+        int gridColumn = clsWordTableShape::firstColumnOf(row);
         int column = 1;
         for (xml_node cell = WordXml::firstItem(row, WordXml::isCell); cell;
              cell = WordXml::nextItem(cell, WordXml::isCell), ++column) {
@@ -114,15 +70,16 @@ private:
             if (innerGrew && grow(row))
                 grew = true;
             if (clsWordCellText::holdsTyped(cell, m_typed)) {
-                clsWordCellText text(cell, placeOf(cell, gridColumn), m_looks, m_typed);
+                clsWordCellText text(cell, m_shape.placeOf(cell, gridColumn), m_looks, m_typed);
                 const auto texts = text.typedTexts();
                 inGrid = inGrid || std::any_of(texts.begin(), texts.end(), [](const clsWordCellText::Typed &typed) {
                     return typed.placeholder.isEmpty();
                 });
-                if (fitCell(text, lastRowOf(row, cell, gridColumn), roomOf(row, cell, gridColumn), gridRow, column))
+                if (fitCell(text, clsWordTableShape::lastRowOf(row, cell, gridColumn),
+                        m_shape.roomOf(row, cell, gridColumn), gridRow, column))
                     grew = true;
             }
-            gridColumn += spanOf(cell);
+            gridColumn += clsWordTableShape::spanOf(cell);
         }
         return grew;
     }
@@ -174,78 +131,11 @@ private:
             && now.brokenAmounts <= smallest.brokenAmounts && !now.tooNarrow;
     }
 
-    clsWordCellText::Place placeOf(const xml_node &cell, int gridColumn)
-    {
-        const xml_node properties = cell.child("w:tcPr");
-        const xml_node said = properties.child("w:tcW");
-        int width = std::strcmp(said.attribute("w:type").value(), "dxa") == 0 ? said.attribute("w:w").as_int() : 0;
-        if (width <= 0)
-            width = widthOfColumns(gridColumn, gridColumn + spanOf(cell));
-        clsWordLooks::Margins margins = m_margins;
-        margins.takeOver(clsWordLooks::Margins::saidBy(properties.child("w:tcMar")));
-        return {width - margins.left.value_or(0) - margins.right.value_or(0) - lineLoss(),
-            WordXml::val(m_table.child("w:tblPr").child("w:tblStyle"))};
-    }
-
-    int widthOfColumns(int from, int to) const
-    {
-        int width = 0;
-        for (int i = from; i < std::min(to, int(m_columns.size())); ++i)
-            width += m_columns[size_t(i)];
-        return width;
-    }
-
-    // Half of its outer lines' width is lost to each cell of a table.
-    int lineLoss()
-    {
-        if (m_lineLoss < 0) {
-            int widest = widestSideLine(m_table.child("w:tblPr").child("w:tblBorders"));
-            for (xml_node row = WordXml::firstItem(m_table, WordXml::isRow); row;
-                 row = WordXml::nextItem(row, WordXml::isRow))
-                for (xml_node cell = WordXml::firstItem(row, WordXml::isCell); cell;
-                     cell = WordXml::nextItem(cell, WordXml::isCell))
-                    widest = std::max(widest, widestSideLine(cell.child("w:tcPr").child("w:tcBorders")));
-            m_lineLoss = (widest + 1) / 2;
-        }
-        return m_lineLoss;
-    }
-
-    // The last row that a cell reaches down into.
-    static xml_node lastRowOf(xml_node row, const xml_node &cell, int gridColumn)
-    {
-        if (!cell.child("w:tcPr").child("w:vMerge"))
-            return row;
-        for (xml_node next = WordXml::nextItem(row, WordXml::isRow);
-             next && isMergedIntoAbove(cellAt(next, gridColumn)); next = WordXml::nextItem(row, WordXml::isRow))
-            row = next;
-        return row;
-    }
-
-    std::optional<int> roomOf(xml_node row, const xml_node &cell, int gridColumn)
-    {
-        const xml_node direction = cell.child("w:tcPr").child("w:textDirection");
-        if (direction && std::strcmp(WordXml::val(direction), "lrTb") != 0)
-            return {};
-        clsWordLooks::Margins margins = m_margins;
-        margins.takeOver(clsWordLooks::Margins::saidBy(cell.child("w:tcPr").child("w:tcMar")));
-        int room = -margins.top.value_or(0) - margins.bottom.value_or(0);
-        const xml_node last = lastRowOf(row, cell, gridColumn);
-        for (;; row = WordXml::nextItem(row, WordXml::isRow)) {
-            if (!isExact(row))
-                return {};
-            room += heightOf(row).attribute("w:val").as_int();
-            if (row == last)
-                return room;
-        }
-    }
-
     xml_node m_table;
     const clsWordLooks &m_looks;
     clsWordTyped &m_typed;
     std::vector<clsFittedText> &m_fitted;
-    clsWordLooks::Margins m_margins;
-    std::vector<int> m_columns;
-    int m_lineLoss = -1;
+    clsWordTableShape m_shape;
 };
 
 } // namespace

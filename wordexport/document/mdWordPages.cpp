@@ -1,0 +1,223 @@
+#include "wordexport/document/mdWordPages.h"
+
+#include "wordexport/document/clsWordCellText.h"
+#include "wordexport/document/clsWordTableShape.h"
+#include "wordexport/document/mdWordXml.h"
+
+#include <algorithm>
+#include <map>
+#include <numeric>
+
+using pugi::xml_node;
+
+namespace {
+
+using Heights = std::vector<int>; // of lines, from above
+
+struct PageSize {
+    int width;
+    int height;
+
+    static PageSize of(const xml_node &section)
+    {
+        constexpr int A4Width = 11906;
+        constexpr int A4Height = 16838;
+        const xml_node size = section.child("w:pgSz");
+        const xml_node margins = section.child("w:pgMar");
+        return {size.attribute("w:w").as_int(A4Width) - margins.attribute("w:left").as_int()
+                - margins.attribute("w:right").as_int(),
+            size.attribute("w:h").as_int(A4Height) - std::abs(margins.attribute("w:top").as_int())
+                - std::abs(margins.attribute("w:bottom").as_int())};
+    }
+};
+
+class clsPages {
+public:
+    explicit clsPages(int height)
+        : m_height(height)
+    { }
+
+    int count() const { return m_count; }
+    int height() const { return m_height; }
+
+    void begin()
+    {
+        ++m_count;
+        m_used = 0;
+    }
+
+    void place(int height)
+    {
+        if (m_used > 0 && m_used + height > m_height)
+            begin();
+        m_used += height;
+    }
+
+    // Columns side by side, each of which takes as many of its lines on to a page as that holds.
+    void placeSplit(const std::vector<Heights> &columns)
+    {
+        std::vector<size_t> next(columns.size(), 0);
+        for (bool all = false; !all;) {
+            all = true;
+            int taken = 0;
+            for (size_t i = 0; i < columns.size(); ++i) {
+                int column = 0;
+                const bool isEmptyPage = m_used == 0;
+                while (next[i] < columns[i].size()
+                    && (m_used + column + columns[i][next[i]] <= m_height || (isEmptyPage && column == 0)))
+                    column += columns[i][next[i]++];
+                taken = std::max(taken, column);
+                all = all && next[i] == columns[i].size();
+            }
+            m_used += taken;
+            if (!all)
+                begin();
+        }
+    }
+
+private:
+    int m_height;
+    int m_used = 0;
+    int m_count = 1;
+};
+
+// Places the rows of one table.
+class clsTablePlacer {
+public:
+    clsTablePlacer(const xml_node &table, const clsWordLooks &looks, clsPages &pages)
+        : m_table(table)
+        , m_looks(looks)
+        , m_pages(pages)
+        , m_shape(table, looks)
+    { }
+
+    void place()
+    {
+        for (xml_node row = WordXml::firstItem(m_table, WordXml::isRow); row;
+             row = WordXml::nextItem(row, WordXml::isRow))
+            placeRow(row);
+    }
+
+private:
+    void placeRow(const xml_node &row)
+    {
+        const int said = clsWordTableShape::heightOf(row).attribute("w:val").as_int();
+        if (clsWordTableShape::isExact(row)) {
+            noteReaching(row);
+            m_pages.place(said);
+            m_above += said;
+            return;
+        }
+        const std::vector<Heights> columns = columnsOf(row);
+        int height = said;
+        for (const Heights &column : columns)
+            height = std::max(height, std::accumulate(column.begin(), column.end(), 0));
+        const bool splits = !row.child("w:trPr").child("w:cantSplit") || height > m_pages.height();
+        if (splits)
+            m_pages.placeSplit(height > said ? columns : std::vector<Heights> {{height}});
+        else
+            m_pages.place(height);
+        m_above += height;
+    }
+
+    template <class Visitor> static void visitCells(const xml_node &row, const Visitor &visitor)
+    {
+        int gridColumn = clsWordTableShape::firstColumnOf(row);
+        for (xml_node cell = WordXml::firstItem(row, WordXml::isCell); cell;
+             cell = WordXml::nextItem(cell, WordXml::isCell)) {
+            visitor(cell, gridColumn, clsWordTableShape::lastRowOf(row, cell, gridColumn) == row);
+            gridColumn += clsWordTableShape::spanOf(cell);
+        }
+    }
+
+    // Cells that reach down over several rows, of which the last one may grow.
+    void noteReaching(const xml_node &row)
+    {
+        visitCells(row, [&](const xml_node &cell, int gridColumn, bool endsHere) {
+            if (!endsHere && !clsWordTableShape::isMergedIntoAbove(cell))
+                m_reaching[gridColumn] = {linesOf(cell, gridColumn), m_above};
+        });
+    }
+
+    // The lines of a row's cells. A cell that reaches down over several rows makes the last of them grow.
+    std::vector<Heights> columnsOf(const xml_node &row)
+    {
+        noteReaching(row);
+        std::vector<Heights> columns;
+        visitCells(row, [&](const xml_node &cell, int gridColumn, bool endsHere) {
+            if (endsHere)
+                columns.push_back(
+                    clsWordTableShape::isMergedIntoAbove(cell) ? restOf(gridColumn) : linesOf(cell, gridColumn));
+        });
+        return columns;
+    }
+
+    Heights linesOf(const xml_node &cell, int gridColumn)
+    {
+        Heights lines = clsWordCellText(cell, m_shape.placeOf(cell, gridColumn), m_looks, m_typed).lineHeights();
+        if (!lines.empty())
+            lines.back() += m_shape.marginsOf(cell);
+        return lines;
+    }
+
+    // The lines of a cell from above that the rows above the last one leave over.
+    Heights restOf(int gridColumn)
+    {
+        const auto reaching = m_reaching.find(gridColumn);
+        if (reaching == m_reaching.end())
+            return {};
+        Heights lines = std::move(reaching->second.lines);
+        int room = m_above - reaching->second.from;
+        m_reaching.erase(reaching);
+        auto left = lines.begin();
+        while (left != lines.end() && *left <= room)
+            room -= *left++;
+        return {left, lines.end()};
+    }
+
+    struct Reaching {
+        Heights lines;
+        int from; ///< the height of the rows above its first one
+    };
+
+    xml_node m_table;
+    const clsWordLooks &m_looks;
+    clsPages &m_pages;
+    clsWordTableShape m_shape;
+    clsWordTyped m_typed; // of what is printed it makes no difference
+    std::map<int, Reaching> m_reaching; // by their columns
+    int m_above = 0;
+};
+
+bool hasPageBreak(const xml_node &paragraph)
+{
+    return paragraph.find_node([](const xml_node &node) {
+        return WordXml::is(node, "w:br") && std::strcmp(node.attribute("w:type").value(), "page") == 0;
+    });
+}
+
+void placeParagraph(const xml_node &paragraph, const clsWordLooks &looks, int width, clsPages &pages)
+{
+    if (paragraph.child("w:pPr").child("w:pageBreakBefore"))
+        pages.begin();
+    clsWordTyped none;
+    pages.placeSplit({clsWordCellText::ofParagraph(paragraph, {width, {}}, looks, none).lineHeights()});
+    if (hasPageBreak(paragraph) || paragraph.child("w:pPr").child("w:sectPr"))
+        pages.begin();
+}
+
+} // namespace
+
+int mdPaperPages(const xml_node &body, const clsWordLooks &looks)
+{
+    const PageSize size = PageSize::of(body.child("w:sectPr"));
+    clsPages pages(size.height);
+    for (xml_node block = WordXml::firstItem(body, WordXml::isBlock); block;
+         block = WordXml::nextItem(block, WordXml::isBlock)) {
+        if (WordXml::is(block, "w:tbl"))
+            clsTablePlacer(block, looks, pages).place();
+        else
+            placeParagraph(block, looks, size.width, pages);
+    }
+    return pages.count();
+}

@@ -1,0 +1,106 @@
+#include "wordexport/mdForecast.h"
+
+#include "base/clsProgramEnd.h"
+#include "base/clsQuietUserInterface.h"
+#include "base/mdLog.h"
+#include "base/mdRunTimeErrorOf.h"
+#include "formdata/clsZR3Form.h"
+#include "wordexport/clsExport.h"
+#include "wordexport/document/clsMSWordObserver.h"
+#include "wordexport/mdExportDriver.h"
+
+#include <QSet>
+
+#include <numeric>
+
+namespace {
+
+/// Collects what an export would tell.
+class clsListener final : public clsQuietUserInterface {
+public:
+    explicit clsListener(std::vector<clsForecast::Message> &messages)
+        : m_messages(messages)
+    { }
+
+    Answer customMessage(const QString &message, const QString &title, Buttons buttons, int, int) override
+    {
+        m_messages.push_back({title, message});
+        return answerThatChangesNothing(buttons);
+    }
+    Answer systemMessage(const QString &message, const QString &title, SystemIcon icon, Buttons buttons) override
+    {
+        return customMessage(message, title, buttons, icon, 0);
+    }
+
+private:
+    std::vector<clsForecast::Message> &m_messages;
+};
+
+/// Nothing that goes on while this object lives is seen from outside.
+struct clsSilence {
+    explicit clsSilence(std::vector<clsForecast::Message> &messages)
+        : listener(messages)
+    { }
+
+    clsListener listener;
+    clsUserInterfaceScope userInterface {listener};
+    clsMSWordObserver observer {};
+    clsMSWordObserverScope observed {observer};
+    clsNoLogScope noLog {};
+};
+
+bool runInMemory(clsExport &run)
+{
+    const QString formType = run.form.FormType();
+    if (const clsExportDriver driver = mdExportDriver(formType))
+        return driver(run);
+    UserInterface().customMessage(mdNoPagesMessage(formType), QStringLiteral("Export"), clsUserInterface::OKOnly, 0, 0);
+    return false;
+}
+
+} // namespace
+
+int clsForecast::PaperPages() const
+{
+    return std::accumulate(
+        Sheets.begin(), Sheets.end(), 0, [](int sum, const Sheet &sheet) { return sum + sheet.PaperPages; });
+}
+
+clsForecast mdForecastOf(const clsExport &run)
+{
+    clsForecast forecast;
+    QSet<QString> seen;
+    for (const QString &path : run.ExportFileCollection) {
+        const clsSheetFile sheet = run.sheets.value(path);
+        forecast.Sheets.push_back({sheet.page, sheet.name, QString(sheet.templateName).chopped(4), sheet.paperPages});
+        if (seen.contains(path))
+            continue;
+        seen.insert(path);
+        forecast.Boxes.insert(forecast.Boxes.end(), sheet.boxes.begin(), sheet.boxes.end());
+    }
+    return forecast;
+}
+
+clsForecast mdForecast(const clsZR3Form &form, const QString &templatesFolder)
+{
+    std::vector<clsForecast::Message> messages;
+    const clsSilence silence(messages);
+    clsForecast forecast;
+    try {
+        clsZR3Form copy;
+        copy.takeCopyOf(form);
+        clsExport run {.form = copy, .templatesFolder = templatesFolder};
+        run.stopsAtLostSheet = true;
+        run.inMemory = true;
+        forecast.Fails = !runInMemory(run);
+        if (!forecast.Fails)
+            forecast = mdForecastOf(run);
+    } catch (const clsProgramEnd &) {
+        forecast.Fails = true;
+    } catch (const std::exception &) {
+        forecast.Fails = true;
+        forecast.Error = mdRunTimeErrorOf(std::current_exception());
+    }
+    forecast.Messages = std::move(messages);
+    return forecast;
+}

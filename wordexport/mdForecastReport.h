@@ -1,0 +1,14 @@
+#pragma once
+
+#include "wordexport/clsForecast.h"
+
+#include <QByteArray>
+#include <QString>
+
+/// "smaller", "runs on" or "cut".
+QString mdStateInWords(clsForecast::Box::clsState state);
+
+/// A forecast as JSON.
+QByteArray mdForecastAsJson(const clsForecast &forecast);
+/// The same as a short table for people. Its lines end as those of all messages do.
+QString mdForecastAsTable(const clsForecast &forecast);

@@ -51,6 +51,9 @@ struct clsExport {
     /// keeps its texts in the code page, which not every folder's name is in.
     QString exportFolder = form.ExportPath();
 
+    /// The name of the finished document, without its ending.
+    QString documentName = form.FormType();
+
     /// A sheet that could not be opened, saved or joined is passed over, as every failure of the word processor: the
     /// user has been told. With this set the export stops there instead, and no document comes out: for callers who
     /// can't ask anybody whether an incomplete one will do.

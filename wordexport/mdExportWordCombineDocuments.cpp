@@ -3,6 +3,7 @@
 #include "base/clsFileSystem.h"
 #include "base/mdLog.h"
 #include "base/mdSetProgress.h"
+#include "base/mdShortenedName.h"
 #include "wordexport/clsExport.h"
 #include "wordexport/document/clsMSWord.h"
 #include "wordexport/document/clsZipPackage.h"
@@ -10,14 +11,28 @@
 #include "wordexport/mdExportSheet.h"
 #include "wordexport/mdExportTempFolder.h"
 
-QString mdFinishedDocumentPath(const QString &exportFolder, const QString &formType)
+#include <QFileInfo>
+
+QString mdFinishedDocumentPath(const QString &exportFolder, const QString &name)
 {
-    return QStringLiteral("%1/%2.doc").arg(exportFolder, formType);
+    return QStringLiteral("%1/%2.doc").arg(exportFolder, name);
+}
+
+QString mdFinishedDocumentPath(const clsExport &run)
+{
+    return mdFinishedDocumentPath(run.exportFolder, run.documentName);
+}
+
+QString mdDocumentNameByFile(const QString &claimFile, const QString &formType)
+{
+    constexpr qsizetype LongestName = 230; // bytes: the form type and the ending come to it, and names end at 255
+    const QString name = QFileInfo(claimFile).completeBaseName();
+    return mdShortenedName(name, LongestName) + u' ' + formType;
 }
 
 void mdStopAtExistingDocument(clsExport &run)
 {
-    if (run.mayReplace || !FileSystem().FileExists(mdFinishedDocumentPath(run.exportFolder, run.form.FormType())))
+    if (run.mayReplace || !FileSystem().FileExists(mdFinishedDocumentPath(run)))
         return;
     run.stoppedAtDocument = true;
     throw clsExportStopped();
@@ -50,7 +65,6 @@ void mdExportWordCombineDocuments(clsExport &run)
         throw clsExportStopped();
     word.Quit();
     mdStopAtExistingDocument(run);
-    mdPutDocumentInPlace(
-        joined, mdFinishedDocumentPath(run.exportFolder, run.form.FormType()), run.claimFile, ZipLimits::PackageBytes);
+    mdPutDocumentInPlace(joined, mdFinishedDocumentPath(run), run.claimFile, ZipLimits::PackageBytes);
     WriteLog(QStringLiteral("End Export Word Combine Documents"));
 }

@@ -4,8 +4,12 @@
 
 struct clsExport;
 
-/// The path of the finished document: the export folder, and the form type's name with ".doc".
-QString mdFinishedDocumentPath(const QString &exportFolder, const QString &formType);
+/// The path of the finished document: the export folder, and its name, by default the form type's, with ".doc".
+QString mdFinishedDocumentPath(const QString &exportFolder, const QString &name);
+QString mdFinishedDocumentPath(const clsExport &run);
+
+/// The name of a document of that form type that is named after its claim's file.
+QString mdDocumentNameByFile(const QString &claimFile, const QString &formType);
 
 /// Ends an export that may not replace a document where there is one.
 void mdStopAtExistingDocument(clsExport &run);

@@ -2,6 +2,7 @@
 
 #include "base/clsRunTimeError.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -27,6 +28,30 @@ QStringList namesOf(const QString &process)
     return names;
 }
 
+/// The process that has started one; 0 where that can't be told.
+qint64 parentOf(const QString &process)
+{
+    QFile stat(process + QLatin1String("/stat"));
+    if (!stat.open(QIODevice::ReadOnly))
+        return 0;
+    // "PID (NAME) STATE PARENT ...", and the name may hold anything.
+    const QByteArray line = stat.readAll();
+    return line.mid(line.lastIndexOf(')') + 1).simplified().split(' ').value(1).toLongLong();
+}
+
+/// True for a process that this program has started, be it by others.
+bool isOwn(const QDir &folder, const QString &process)
+{
+    constexpr int Generations = 100; // more than there can be, should they change while this looks
+    qint64 parent = parentOf(folder.filePath(process));
+    for (int i = 0; i < Generations && parent > 1; ++i) {
+        if (parent == QCoreApplication::applicationPid())
+            return true;
+        parent = parentOf(folder.filePath(QString::number(parent)));
+    }
+    return false;
+}
+
 } // namespace
 
 QStringList mdProcessNames()
@@ -35,7 +60,7 @@ QStringList mdProcessNames()
     const QStringList entries = folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     QStringList names;
     for (const QString &entry : entries)
-        if (!entry.isEmpty() && entry[0].isDigit())
+        if (!entry.isEmpty() && entry[0].isDigit() && !isOwn(folder, entry))
             names += namesOf(folder.filePath(entry));
     // This program runs itself, so that an empty list is a list that could not be read.
     if (names.isEmpty())

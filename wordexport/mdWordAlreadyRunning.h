@@ -11,7 +11,8 @@ bool mdWordAlreadyRunning();
 /// Where the names of the running processes come from; the platform's own list unless a scope sets another.
 using clsProcessList = std::function<QStringList()>;
 
-/// The names of the processes running on this machine, as the platform gives them.
+/// The names of the processes running on this machine, as the platform gives them, without those that this program has
+/// started.
 QStringList mdProcessNames();
 
 /// Puts another process list in force for as long as this object lives.

@@ -24,6 +24,8 @@ const QString Force = QStringLiteral("force");
 const QString Templates = QStringLiteral("templates");
 const QString KeepSheets = QStringLiteral("keep-sheets");
 const QString Quiet = QStringLiteral("quiet");
+const QString Pdf = QStringLiteral("pdf");
+const QString NameByFile = QStringLiteral("name-by-file");
 const QString Json = QStringLiteral("json");
 const QString HelpOption = QStringLiteral("help");
 const QString VersionOption = QStringLiteral("version");
@@ -31,14 +33,15 @@ const QString VersionOption = QStringLiteral("version");
 void addOptions(QCommandLineParser &parser)
 {
     parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsOptions);
-    for (const QString &flag : {Force, KeepSheets, Quiet, Json, HelpOption, VersionOption})
+    for (const QString &flag : {Force, KeepSheets, Quiet, Pdf, NameByFile, Json, HelpOption, VersionOption})
         parser.addOption(QCommandLineOption(flag));
     parser.addOption(QCommandLineOption(Templates, QString(), QStringLiteral("DIR")));
 }
 
 bool hasExportOptions(const QCommandLineParser &parser)
 {
-    return parser.isSet(Force) || parser.isSet(Templates) || parser.isSet(KeepSheets) || parser.isSet(Quiet);
+    return parser.isSet(Force) || parser.isSet(Templates) || parser.isSet(KeepSheets) || parser.isSet(Quiet)
+        || parser.isSet(Pdf) || parser.isSet(NameByFile);
 }
 
 std::optional<clsToolCommand> commandOf(const QCommandLineParser &parser)
@@ -62,6 +65,8 @@ std::optional<clsToolCommand> commandOf(const QCommandLineParser &parser)
     command.force = parser.isSet(Force);
     command.keepSheets = parser.isSet(KeepSheets);
     command.quiet = parser.isSet(Quiet);
+    command.pdf = parser.isSet(Pdf);
+    command.nameByFile = parser.isSet(NameByFile);
     command.json = parser.isSet(Json);
     command.templates = parser.value(Templates);
     return command;
@@ -103,6 +108,8 @@ QString clsToolCommand::usage()
         "  --templates DIR    the folder of the page templates\n"
         "  --keep-sheets      leave the folder ~ZR3Temp with its sheets\n"
         "  --quiet            show no progress\n"
+        "  --pdf              make the same as PDF beside the document\n"
+        "  --name-by-file     name the document after the claim's file\n"
         "\n"
         "Option of forecast:\n"
         "  --json             print it as JSON\n"

@@ -26,6 +26,8 @@ struct clsToolCommand {
     bool keepSheets = false;
     bool quiet = false;
     bool json = false;
+    bool pdf = false;
+    bool nameByFile = false;
     QString templates;
 
     /// The command that the arguments (without the program's name) ask for; nothing where they are wrong.

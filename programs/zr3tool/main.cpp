@@ -7,11 +7,13 @@
 #include "base/mdGetVersionInfo.h"
 #include "base/mdPrint.h"
 #include "base/mdProgramFolder.h"
+#include "base/mdSetProgress.h"
 #include "costing/mdCheckForBlankItems.h"
 #include "costing/mdTotalsReport.h"
 #include "formdata/clsZR3Form.h"
 #include "programs/zr3tool/clsToolCommand.h"
 #include "wordexport/clsExport.h"
+#include "wordexport/clsPdfConversion.h"
 #include "wordexport/mdExportDriver.h"
 #include "wordexport/mdExportTempFolder.h"
 #include "wordexport/mdExportWordCombineDocuments.h"
@@ -120,9 +122,7 @@ Status exportSheetsAndDocument(clsConsoleUserInterface &console, clsExport &run)
         if (driver(run))
             return Status::Done;
         // Made by another program since this one has looked.
-        return run.stoppedAtDocument
-            ? documentExists(console, mdFinishedDocumentPath(run.exportFolder, run.form.FormType()))
-            : Status::Failed;
+        return run.stoppedAtDocument ? documentExists(console, mdFinishedDocumentPath(run)) : Status::Failed;
     }
     console.tell(QStringLiteral("Export"), mdNoPagesMessage(mdWithoutControls(run.form.FormType())));
     return Status::Failed;
@@ -153,6 +153,40 @@ void sweep(const clsExport &run)
     } catch (const std::exception &) { }
 }
 
+QString pdfBeside(const QString &document)
+{
+    return document.chopped(QStringLiteral(".doc").size()) + QStringLiteral(".pdf");
+}
+
+/// What lies where an export would put its files, unless it may replace that; empty where nothing does.
+QString whatMayNotBeReplaced(const clsToolCommand &command, const QString &document)
+{
+    QStringList files = {document};
+    if (command.pdf)
+        files << pdfBeside(document);
+    for (const QString &file : files)
+        if (!command.force && (FileSystem().FileExists(file) || FileSystem().FolderExists(file)))
+            return file;
+    return {};
+}
+
+Status makePdf(clsConsoleUserInterface &console, const clsToolCommand &command, const QString &document)
+{
+    const QString pdf = pdfBeside(document);
+    clsPdfConversion conversion(document);
+    mdSetProgress(1, 1, QStringLiteral("Making the PDF"));
+    conversion.wait();
+    mdClearProgress();
+    // Made by another program since this one has looked.
+    if (!command.force && FileSystem().FileExists(pdf))
+        return documentExists(console, pdf);
+    const QString failure = mdPutPdfInPlace(conversion, document, pdf);
+    if (failure.isEmpty())
+        return Status::Done;
+    console.tell(QStringLiteral("PDF"), failure);
+    return Status::Failed;
+}
+
 Status exportDocument(clsConsoleUserInterface &console, clsZR3Form &form, const clsToolCommand &command)
 {
     if (!FileSystem().FolderExists(command.target)) {
@@ -161,20 +195,24 @@ Status exportDocument(clsConsoleUserInterface &console, clsZR3Form &form, const 
         return Status::Failed;
     }
     const QString exportFolder = QDir(command.target).absolutePath();
-    const QString document = mdFinishedDocumentPath(exportFolder, form.FormType());
-    if (!command.force && (FileSystem().FileExists(document) || FileSystem().FolderExists(document)))
-        return documentExists(console, document);
+    const QString name = command.nameByFile ? mdDocumentNameByFile(command.claim, form.FormType()) : form.FormType();
+    const QString document = mdFinishedDocumentPath(exportFolder, name);
+    if (const QString there = whatMayNotBeReplaced(command, document); !there.isEmpty())
+        return documentExists(console, there);
     clsExport run {
         .form = form, .templatesFolder = command.templates.isEmpty() ? TemplatesFolder() : command.templates};
     run.exportFolder = exportFolder;
+    run.documentName = name;
     run.claimFile = command.claim;
     run.mayReplace = command.force;
     run.stopsAtLostSheet = true;
     run.keepsSheets = command.keepSheets;
     const Status status = guarded(console, Status::Failed, [&] { return exportSheetsAndDocument(console, run); });
-    if (status != Status::Done)
+    if (status != Status::Done) {
         sweep(run);
-    return status;
+        return status;
+    }
+    return command.pdf ? makePdf(console, command, document) : status;
 }
 
 Status runOnClaim(clsConsoleUserInterface &console, const clsToolCommand &command)

@@ -247,8 +247,8 @@ protected:
     bool keepsSheets = false;
     std::unique_ptr<clsExport> run;
     std::unique_ptr<clsSheetRecorder> recorder;
+    QString m_feeEarner;
 
 private:
     clsUserInterfaceScope m_scope {user};
-    QString m_feeEarner;
 };

@@ -1,0 +1,20 @@
+#include "wordexport/mdProcessGroup.h"
+
+#include <QProcess>
+
+#include <csignal>
+
+#include <unistd.h>
+
+void mdGiveOwnGroup(QProcess &process)
+{
+    process.setChildProcessModifier([] { (void)::setsid(); });
+}
+
+void mdKillGroup(qint64 process)
+{
+    constexpr int Patience = 200;
+    constexpr useconds_t Moment = 5'000;
+    for (int i = 0; process > 1 && i < Patience && ::kill(pid_t(-process), SIGKILL) == 0; ++i)
+        ::usleep(Moment);
+}

@@ -9,8 +9,11 @@
 
 class QDialog;
 class QMenu;
+class QStackedLayout;
 class QTimer;
+class clsFormPages;
 class oFooterBar;
+class oFormPages;
 class oHeaderBar;
 class oPreviewGrid;
 class oPreviewSheet;
@@ -48,11 +51,13 @@ public:
     void Save();
     void SaveAs();
     void ExportToWord();
+    void ExportAsPdf();
     void Exit() { close(); }
     void ShowPreferences();
     void CheckForBlank();
     void PreviewScheduleOfTime() { drawPreview(clsPreviewKind::ScheduleOfTime); }
     void PreviewAdditionalInformation() { drawPreview(clsPreviewKind::AdditionalInformation); }
+    void FormPages();
     void UserGuide();
     void KeyboardShortcutsList();
     void MakeASuggestion();
@@ -83,6 +88,9 @@ private:
     void tbSection_Click();
     void whileModal(const std::function<void()> &show);
     void drawPreview(clsPreviewKind kind);
+    /// The grid of the preview takes the place of the form pages.
+    void returnToGrid();
+    bool showsFormPages() const;
     void drawForShownWidth();
     void refreshPreview();
     void redraw(void (*routine)(clsPreviewKind));
@@ -97,6 +105,9 @@ private:
     oTabBar *tbSubSection;
     oPreviewSheet *pctPreview;
     oPreviewGrid *sgPreview;
+    oFormPages *m_formPages;
+    QStackedLayout *m_previews;
+    clsFormPages *m_pages;
     oFooterBar *oFooter;
     QTimer *tmrAutoBackup;
 

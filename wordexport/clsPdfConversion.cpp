@@ -16,10 +16,7 @@
 
 namespace {
 
-QString secondsInWords(int milliseconds)
-{
-    return QStringLiteral("%1 seconds").arg(milliseconds / 1000.0);
-}
+enum Reason { None, NoProgram, NotCopied, NotStarted, BrokeDown, ExitStatus, NoPdf, TooLong };
 
 bool isPdf(const QString &path)
 {
@@ -37,7 +34,7 @@ public:
     {
         const QString program = mdOfficeProgram();
         if (program.isEmpty()) {
-            fail(mdNoOfficeProgramMessage());
+            fail(NoProgram);
             return;
         }
         try {
@@ -45,7 +42,7 @@ public:
                 throw clsRunTimeError(clsRunTimeError::PathFileAccess);
             mdWriteWorkingFile(copyPath(), mdReadDocumentFile(document, ZipLimits::PackageBytes));
         } catch (const clsRunTimeError &error) {
-            fail(QStringLiteral("The document could not be copied for the PDF: %1.").arg(error.description()));
+            fail(NotCopied, error.description());
             return;
         }
         start(program);
@@ -63,7 +60,7 @@ public:
             return;
         m_process.disconnect(this);
         kill();
-        end(Cancelled, {});
+        end(Cancelled);
     }
 
     void wait()
@@ -76,7 +73,8 @@ public:
     QString pdf() const { return m_folder.filePath(QStringLiteral("document.pdf")); }
 
     clsState state = Running;
-    QString failure;
+    Reason reason = None;
+    QString detail;
 
 private:
     QString copyPath() const { return m_folder.filePath(QStringLiteral("document.doc")); }
@@ -96,7 +94,7 @@ private:
         QObject::connect(&m_process, &QProcess::finished, this, [this] { finished(); });
         QObject::connect(&m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
             if (error == QProcess::FailedToStart)
-                end(Failed, QStringLiteral("LibreOffice could not be started: %1.").arg(m_process.errorString()));
+                end(Failed, NotStarted, m_process.errorString());
         });
         m_process.start(program,
             {QStringLiteral("-env:UserInstallation=")
@@ -112,15 +110,15 @@ private:
     {
         // What it may have left running has nothing to do any more.
         mdKillGroup(m_group);
+        mdWaitForGroup(m_group);
         if (m_process.exitStatus() != QProcess::NormalExit)
-            end(Failed, QStringLiteral("LibreOffice broke down while it made the PDF."));
+            end(Failed, BrokeDown);
         else if (m_process.exitCode() != 0)
-            end(Failed,
-                QStringLiteral("LibreOffice failed to make the PDF (exit status %1).").arg(m_process.exitCode()));
+            end(Failed, ExitStatus, QString::number(m_process.exitCode()));
         else if (!isPdf(pdf()))
-            end(Failed, QStringLiteral("LibreOffice ended without making the PDF."));
+            end(Failed, NoPdf);
         else
-            end(Done, {});
+            end(Done);
     }
 
     void giveUp()
@@ -129,30 +127,31 @@ private:
             return;
         m_process.disconnect(this);
         kill();
-        end(Failed,
-            QStringLiteral("LibreOffice did not make the PDF within %1 and was stopped.")
-                .arg(secondsInWords(mdOfficeProgramLongestMilliseconds())));
+        end(Failed, TooLong, QString::number(mdOfficeProgramLongestMilliseconds() / 1000.0));
     }
 
     void kill()
     {
         if (m_process.state() == QProcess::NotRunning)
             return;
-        mdKillGroup(m_process.processId());
+        const qint64 group = m_process.processId();
+        mdKillGroup(group);
         m_process.kill(); // where it has not come to have a group yet
         m_process.waitForFinished();
+        mdWaitForGroup(group);
     }
 
-    void fail(const QString &why)
+    void fail(Reason why, const QString &more = {})
     {
         state = Failed;
-        failure = why;
+        reason = why;
+        detail = more;
     }
 
-    void end(clsState how, const QString &why)
+    void end(clsState how, Reason why = None, const QString &more = {})
     {
+        fail(why, more);
         state = how;
-        failure = why;
         // Later, so that whoever is told may drop this object.
         if (m_begun && m_ended)
             QMetaObject::invokeMethod(this, m_ended, Qt::QueuedConnection);
@@ -179,7 +178,18 @@ clsPdfConversion::clsState clsPdfConversion::state() const
 
 QString clsPdfConversion::failure() const
 {
-    return m_run->failure;
+    switch (m_run->reason) {
+    case NoProgram: return mdNoOfficeProgramMessage();
+    case NotCopied: return QStringLiteral("The document could not be copied for the PDF: %1.").arg(m_run->detail);
+    case NotStarted: return QStringLiteral("LibreOffice could not be started: %1.").arg(m_run->detail);
+    case BrokeDown: return QStringLiteral("LibreOffice broke down while it made the PDF.");
+    case ExitStatus: return QStringLiteral("LibreOffice failed to make the PDF (exit status %1).").arg(m_run->detail);
+    case NoPdf: return QStringLiteral("LibreOffice ended without making the PDF.");
+    case TooLong:
+        return QStringLiteral("LibreOffice did not make the PDF within %1 seconds and was stopped.").arg(m_run->detail);
+    case None: break;
+    }
+    return {};
 }
 
 QString clsPdfConversion::pdf() const

@@ -2,6 +2,7 @@
 
 #include "base/clsProgramEnd.h"
 #include "base/clsQuietUserInterface.h"
+#include "base/mdCustomMessages.h"
 #include "base/mdLog.h"
 #include "base/mdRunTimeErrorOf.h"
 #include "formdata/clsZR3Form.h"
@@ -24,15 +25,20 @@ public:
 
     Answer customMessage(const QString &message, const QString &title, Buttons buttons, int, int) override
     {
-        m_messages.push_back({title, message});
-        return answerThatChangesNothing(buttons);
+        return note(message, title, buttons);
     }
-    Answer systemMessage(const QString &message, const QString &title, SystemIcon icon, Buttons buttons) override
+    Answer systemMessage(const QString &message, const QString &title, SystemIcon, Buttons buttons) override
     {
-        return customMessage(message, title, buttons, icon, 0);
+        return note(message, title, buttons);
     }
 
 private:
+    Answer note(const QString &message, const QString &title, Buttons buttons)
+    {
+        m_messages.push_back({title, message});
+        return answerThatChangesNothing(buttons);
+    }
+
     std::vector<clsForecast::Message> &m_messages;
 };
 
@@ -48,15 +54,6 @@ struct clsSilence {
     clsMSWordObserverScope observed {observer};
     clsNoLogScope noLog {};
 };
-
-bool runInMemory(clsExport &run)
-{
-    const QString formType = run.form.FormType();
-    if (const clsExportDriver driver = mdExportDriver(formType))
-        return driver(run);
-    UserInterface().customMessage(mdNoPagesMessage(formType), QStringLiteral("Export"), clsUserInterface::OKOnly, 0, 0);
-    return false;
-}
 
 } // namespace
 
@@ -92,9 +89,13 @@ clsForecast mdForecast(const clsZR3Form &form, const QString &templatesFolder)
         clsExport run {.form = copy, .templatesFolder = templatesFolder};
         run.stopsAtLostSheet = true;
         run.inMemory = true;
-        forecast.Fails = !runInMemory(run);
-        if (!forecast.Fails)
+        const clsExportDriver driver = mdExportDriver(copy.FormType());
+        if (!driver)
+            messages.push_back({QStringLiteral("Export"), mdNoPagesMessage(copy.FormType())});
+        if (driver && driver(run))
             forecast = mdForecastOf(run);
+        else
+            forecast.Fails = true;
     } catch (const clsProgramEnd &) {
         forecast.Fails = true;
     } catch (const std::exception &) {
@@ -103,4 +104,12 @@ clsForecast mdForecast(const clsZR3Form &form, const QString &templatesFolder)
     }
     forecast.Messages = std::move(messages);
     return forecast;
+}
+
+void mdTellAsTheExport(const clsForecast &forecast)
+{
+    for (const clsForecast::Message &message : forecast.Messages)
+        mdCustomMessages(message.Text, message.Title);
+    if (forecast.Error)
+        throw clsRunTimeError(*forecast.Error);
 }

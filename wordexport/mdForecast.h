@@ -11,3 +11,6 @@ clsForecast mdForecast(const clsZR3Form &form, const QString &templatesFolder);
 
 /// What an export has given that came to its end.
 clsForecast mdForecastOf(const clsExport &run);
+
+/// Tells the user what the export would, and raises the error in which it would end.
+void mdTellAsTheExport(const clsForecast &forecast);

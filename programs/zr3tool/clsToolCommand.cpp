@@ -115,6 +115,7 @@ QString clsToolCommand::usage()
         "  --json             print it as JSON\n"
         "\n"
         "Exit status: 0 done; 1 wrong usage; 2 the claim can't be read; 3 blank items found;\n"
-        "4 a figure can't be computed, or the export failed; 5 the document exists already.\n"
+        "4 a figure can't be computed, the export failed or would fail, or the PDF could not be made;\n"
+        "5 the document or the PDF exists already.\n"
         "A box whose text is no amount is told of and left as it is; the document is made all the same.\n");
 }

@@ -128,13 +128,10 @@ Status exportSheetsAndDocument(clsConsoleUserInterface &console, clsExport &run)
     return Status::Failed;
 }
 
-Status forecast(clsConsoleUserInterface &console, const clsZR3Form &form, const clsToolCommand &command)
+Status forecast(const clsZR3Form &form, const clsToolCommand &command)
 {
     const clsForecast forecast = mdForecast(form, TemplatesFolder());
-    for (const clsForecast::Message &message : forecast.Messages)
-        console.tell(message.Title, message.Text);
-    if (forecast.Error)
-        throw clsRunTimeError(*forecast.Error);
+    mdTellAsTheExport(forecast);
     if (forecast.Fails)
         return Status::Failed;
     if (command.json)
@@ -180,10 +177,10 @@ Status makePdf(clsConsoleUserInterface &console, const clsToolCommand &command, 
     // Made by another program since this one has looked.
     if (!command.force && FileSystem().FileExists(pdf))
         return documentExists(console, pdf);
-    const QString failure = mdPutPdfInPlace(conversion, document, pdf);
-    if (failure.isEmpty())
+    const QString pdfFailure = mdPutPdfInPlace(conversion, document, pdf);
+    if (pdfFailure.isEmpty())
         return Status::Done;
-    console.tell(QStringLiteral("PDF"), failure);
+    console.tell(QStringLiteral("PDF"), pdfFailure);
     return Status::Failed;
 }
 
@@ -225,7 +222,7 @@ Status runOnClaim(clsConsoleUserInterface &console, const clsToolCommand &comman
         case clsToolCommand::Totals: return totals(console, form);
         case clsToolCommand::Check: return check(form);
         case clsToolCommand::Save: return save(console, form, command.target);
-        case clsToolCommand::Forecast: return forecast(console, form, command);
+        case clsToolCommand::Forecast: return forecast(form, command);
         case clsToolCommand::Export: return exportDocument(console, form, command);
         case clsToolCommand::Help:
         case clsToolCommand::Version: break;

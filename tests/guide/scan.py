@@ -25,7 +25,7 @@ HANDS_ON = {
     "base/clsConsoleUserInterface.cpp": "*", "base/mdRegistry.cpp": "mdSystemFailure",
     "base/mdTextDocumentHandling.cpp": "mdSystemFailure", "wordexport/document/mdDocumentError.h": ERROR,
     "base/clsRunTimeError.h": ERROR, "controls/mdSpellingMenu.cpp": "tell",
-    "costing/mdTotalsReport.cpp": "tell",
+    "costing/mdTotalsReport.cpp": "tell", "wordexport/mdForecast.cpp": "mdCustomMessages",
 }
 
 LITERAL = re.compile(r'"((?:[^"\\\n]|\\.)*)"')

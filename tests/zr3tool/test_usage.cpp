@@ -40,6 +40,13 @@ TEST_F(Usage, WrongCommandLinesGetTheUsageAndStatusOne)
         {"totals"_q, claim, "--quiet"_q},
         {"check"_q, claim, "--keep-sheets"_q},
         {"save"_q, claim, "a"_q, "--templates"_q, "x"_q},
+        {"forecast"_q},
+        {"forecast"_q, claim, claim},
+        {"forecast"_q, claim, "--quiet"_q},
+        {"forecast"_q, claim, "--pdf"_q},
+        {"totals"_q, claim, "--json"_q},
+        {"export"_q, claim, "a"_q, "--json"_q},
+        {"check"_q, claim, "--name-by-file"_q},
         {"--help"_q, "totals"_q},
         {"--help"_q, "--version"_q},
         {"totals"_q, claim, "--version"_q},
@@ -63,7 +70,7 @@ TEST_F(Usage, HelpIsTheSameUsageAsAResult)
     EXPECT_EQ("", help.err);
     EXPECT_EQ(run({}).err, help.out);
     for (const char *word : {"totals", "export", "check", "save", "--force", "--templates", "--keep-sheets", "--quiet",
-             "--help", "--version"})
+             "forecast", "--json", "--pdf", "--name-by-file", "--help", "--version"})
         EXPECT_TRUE(help.out.contains(word)) << word;
 }
 

@@ -8,6 +8,10 @@ using pugi::xml_node;
 
 namespace {
 
+// Beyond what any table has, so that nobody's file makes the sums overflow.
+constexpr int MostColumns = 1'000;
+constexpr int HighestRow = 100'000;
+
 xml_node cellAt(const xml_node &row, int column)
 {
     int at = clsWordTableShape::firstColumnOf(row);
@@ -49,14 +53,19 @@ bool clsWordTableShape::isExact(const xml_node &row)
     return std::strcmp(heightOf(row).attribute("w:hRule").value(), "exact") == 0;
 }
 
+int clsWordTableShape::heightSaidBy(const xml_node &row)
+{
+    return std::clamp(heightOf(row).attribute("w:val").as_int(), 0, HighestRow);
+}
+
 int clsWordTableShape::firstColumnOf(const xml_node &row)
 {
-    return row.child("w:trPr").child("w:gridBefore").attribute("w:val").as_int();
+    return std::clamp(row.child("w:trPr").child("w:gridBefore").attribute("w:val").as_int(), 0, MostColumns);
 }
 
 int clsWordTableShape::spanOf(const xml_node &cell)
 {
-    return std::max(1, cell.child("w:tcPr").child("w:gridSpan").attribute("w:val").as_int(1));
+    return std::clamp(cell.child("w:tcPr").child("w:gridSpan").attribute("w:val").as_int(1), 1, MostColumns);
 }
 
 bool clsWordTableShape::isMergedIntoAbove(const xml_node &cell)
@@ -109,7 +118,7 @@ std::optional<int> clsWordTableShape::roomOf(xml_node row, const xml_node &cell,
     for (;; row = WordXml::nextItem(row, WordXml::isRow)) {
         if (!isExact(row))
             return {};
-        room += heightOf(row).attribute("w:val").as_int();
+        room += heightSaidBy(row);
         if (row == last)
             return room;
     }

@@ -15,6 +15,8 @@ public:
 
     static pugi::xml_node heightOf(const pugi::xml_node &row);
     static bool isExact(const pugi::xml_node &row);
+    /// The height that a row says, in twips.
+    static int heightSaidBy(const pugi::xml_node &row);
     /// The column of the grid in which a row's first cell stands, and how many of them a cell takes.
     static int firstColumnOf(const pugi::xml_node &row);
     static int spanOf(const pugi::xml_node &cell);

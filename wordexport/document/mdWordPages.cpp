@@ -20,14 +20,18 @@ struct PageSize {
 
     static PageSize of(const xml_node &section)
     {
+        const auto twips = [](const pugi::xml_attribute &said, int otherwise) {
+            constexpr int Longest = 100'000; // beyond what any page has
+            return std::clamp(said.as_int(otherwise), -Longest, Longest);
+        };
         constexpr int A4Width = 11906;
         constexpr int A4Height = 16838;
         const xml_node size = section.child("w:pgSz");
         const xml_node margins = section.child("w:pgMar");
-        return {size.attribute("w:w").as_int(A4Width) - margins.attribute("w:left").as_int()
-                - margins.attribute("w:right").as_int(),
-            size.attribute("w:h").as_int(A4Height) - std::abs(margins.attribute("w:top").as_int())
-                - std::abs(margins.attribute("w:bottom").as_int())};
+        return {twips(size.attribute("w:w"), A4Width) - twips(margins.attribute("w:left"), 0)
+                - twips(margins.attribute("w:right"), 0),
+            twips(size.attribute("w:h"), A4Height) - std::abs(twips(margins.attribute("w:top"), 0))
+                - std::abs(twips(margins.attribute("w:bottom"), 0))};
     }
 };
 
@@ -77,7 +81,7 @@ public:
 
 private:
     int m_height;
-    int m_used = 0;
+    qint64 m_used = 0;
     int m_count = 1;
 };
 
@@ -101,7 +105,7 @@ public:
 private:
     void placeRow(const xml_node &row)
     {
-        const int said = clsWordTableShape::heightOf(row).attribute("w:val").as_int();
+        const int said = clsWordTableShape::heightSaidBy(row);
         if (clsWordTableShape::isExact(row)) {
             noteReaching(row);
             m_pages.place(said);
@@ -167,7 +171,7 @@ private:
         if (reaching == m_reaching.end())
             return {};
         Heights lines = std::move(reaching->second.lines);
-        int room = m_above - reaching->second.from;
+        qint64 room = m_above - reaching->second.from;
         m_reaching.erase(reaching);
         auto left = lines.begin();
         while (left != lines.end() && *left <= room)
@@ -177,7 +181,7 @@ private:
 
     struct Reaching {
         Heights lines;
-        int from; ///< the height of the rows above its first one
+        qint64 from; ///< the height of the rows above its first one
     };
 
     xml_node m_table;
@@ -186,7 +190,7 @@ private:
     clsWordTableShape m_shape;
     clsWordTyped m_typed; // of what is printed it makes no difference
     std::map<int, Reaching> m_reaching; // by their columns
-    int m_above = 0;
+    qint64 m_above = 0;
 };
 
 bool hasPageBreak(const xml_node &paragraph)

@@ -1,0 +1,123 @@
+// The PDF beside the document, and the name after the claim's file.
+
+#include "tests/zr3tool/clsToolTest.h"
+
+#include <QStandardPaths>
+
+#include <sys/stat.h>
+
+namespace {
+
+class ToolPdf : public clsToolTest {
+protected:
+    void SetUp() override
+    {
+        clsToolTest::SetUp();
+        ASSERT_TRUE(QDir(folder.path()).mkpath("out"_q));
+        clsZR3Form form;
+        for (int page = 3; page <= 13; ++page)
+            form.field("IncludePage%1"_q.arg(page))->writeBoolean(false);
+        claim = putClaim(form, "Hartwell v. Lee.zr3");
+    }
+    void TearDown() override { qputenv("PATH", m_path); }
+
+    /// Puts a script before the office program that is installed.
+    void useOfficeProgram(const QByteArray &steps)
+    {
+        ASSERT_TRUE(QDir(folder.path()).mkpath("bin"_q));
+        const QString program = put("bin/soffice", "#!/bin/sh\n" + steps + '\n');
+        QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        qputenv("PATH", QFile::encodeName(path("bin")) + ':' + m_path);
+    }
+    void useOneThatWorks()
+    {
+        useOfficeProgram("while [ $# -gt 1 ]; do [ \"$1\" = --outdir ] && out=$2; shift; done\n"
+                         "echo '%PDF-1.6 new' >\"$out/document.pdf\"");
+    }
+    QStringList found() const { return filesOf(path("out")); }
+
+    QString claim;
+
+private:
+    QByteArray m_path = qgetenv("PATH");
+};
+
+} // namespace
+
+TEST_F(ToolPdf, StandsBesideTheDocumentAndIsAsOpen)
+{
+    useOneThatWorks();
+    ASSERT_EQ(0, chmod(QFile::encodeName(claim).constData(), 0640));
+    const clsToolResult result = run({"export"_q, "--pdf"_q, claim, "out"_q});
+    EXPECT_EQ(0, result.status);
+    EXPECT_EQ("", result.err);
+    EXPECT_EQ(QStringList({"Claim1.doc"_q, "Claim1.pdf"_q}), found());
+    EXPECT_EQ("%PDF-1.6 new\n", bytesOf(path("out/Claim1.pdf")));
+    for (const char *file : {"out/Claim1.doc", "out/Claim1.pdf"}) {
+        struct stat status;
+        ASSERT_EQ(0, stat(QFile::encodeName(path(file)).constData(), &status));
+        EXPECT_EQ(0640U, status.st_mode & 07777) << file;
+    }
+}
+
+TEST_F(ToolPdf, IsReplacedOnlyByForce)
+{
+    useOneThatWorks();
+    put("out/Claim1.pdf", "older");
+    const clsToolResult refused = run({"export"_q, "--pdf"_q, claim, "out"_q});
+    EXPECT_EQ(5, refused.status);
+    EXPECT_EQ("Export: The document " + QFile::encodeName(path("out/Claim1.pdf"))
+            + " exists already. Give --force to replace it.\n",
+        refused.err);
+    EXPECT_EQ(QStringList({"Claim1.pdf"_q}), found());
+    EXPECT_EQ("older", bytesOf(path("out/Claim1.pdf")));
+    EXPECT_EQ(0, run({"export"_q, "--pdf"_q, "--force"_q, claim, "out"_q}).status);
+    EXPECT_EQ("%PDF-1.6 new\n", bytesOf(path("out/Claim1.pdf")));
+    // Without --pdf the one that is there is nobody's business.
+    EXPECT_TRUE(QFile::remove(path("out/Claim1.doc")));
+    EXPECT_EQ(0, run({"export"_q, claim, "out"_q}).status);
+}
+
+TEST_F(ToolPdf, OneThatCanNotBeMadeLeavesTheDocumentAndSaysWhy)
+{
+    useOfficeProgram("exit 3");
+    const clsToolResult failed = run({"export"_q, "--pdf"_q, claim, "out"_q});
+    EXPECT_EQ(4, failed.status);
+    EXPECT_EQ("PDF: LibreOffice failed to make the PDF (exit status 3).\n", failed.err);
+    EXPECT_EQ(QStringList({"Claim1.doc"_q}), found());
+    EXPECT_TRUE(bytesOf(path("out/Claim1.doc")).startsWith("PK"));
+    // Nor is there one of an export that failed.
+    useOneThatWorks();
+    EXPECT_EQ(4, run({"export"_q, "--pdf"_q, "--force"_q, claim, "missing"_q}).status);
+    EXPECT_EQ(QStringList({"Claim1.doc"_q}), found());
+}
+
+TEST_F(ToolPdf, TheDocumentIsNamedAfterTheClaimsFile)
+{
+    useOneThatWorks();
+    EXPECT_EQ(0, run({"export"_q, "--name-by-file"_q, "--pdf"_q, claim, "out"_q}).status);
+    EXPECT_EQ(QStringList({"Hartwell v. Lee Claim1.doc"_q, "Hartwell v. Lee Claim1.pdf"_q}), found());
+    const clsToolResult again = run({"export"_q, "--name-by-file"_q, claim, "out"_q});
+    EXPECT_EQ(5, again.status);
+    EXPECT_TRUE(again.err.contains("Hartwell v. Lee Claim1.doc exists already"));
+    EXPECT_EQ(0, run({"export"_q, "--name-by-file"_q, "--force"_q, claim, "out"_q}).status);
+    EXPECT_EQ(2, found().size());
+}
+
+TEST_F(ToolPdf, ALongNameOfAClaimIsShortened)
+{
+    const QString name = QString(250, u'n');
+    ASSERT_TRUE(QFile::copy(claim, path("out") + u'/' + name + ".zr3"_q));
+    const clsToolResult result = run({"export"_q, "--name-by-file"_q, path("out") + u'/' + name + ".zr3"_q, "out"_q});
+    EXPECT_EQ(0, result.status) << result.err.constData();
+    EXPECT_EQ(QStringList({QString(230, u'n') + " Claim1.doc"_q, name + ".zr3"_q}), found());
+}
+
+TEST_F(ToolPdf, TheOfficeProgramThatIsInstalledMakesOne)
+{
+    if (QStandardPaths::findExecutable("soffice"_q).isEmpty())
+        GTEST_SKIP() << "there is no soffice on this machine";
+    const clsToolResult result = run({"export"_q, "--pdf"_q, claim, "out"_q});
+    EXPECT_EQ(0, result.status) << result.err.constData();
+    EXPECT_TRUE(bytesOf(path("out/Claim1.pdf")).startsWith("%PDF-"));
+}

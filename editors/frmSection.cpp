@@ -100,7 +100,7 @@ frmSection::frmSection(const clsScreen &screen, QWidget *parent)
 
     makeTicksExclusive();
     buildLists();
-    mdShowPrintNotes(*this);
+    mdShowPrintNotes(screen, m_fields);
     if (screen.rules)
         screen.rules(*this);
 }

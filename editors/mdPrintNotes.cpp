@@ -2,8 +2,9 @@
 
 #include "base/mdProgramFolder.h"
 #include "controls/oAllPurposeBox.h"
-#include "editors/frmSection.h"
+#include "editors/clsScreenTable.h"
 #include "editors/mdScreenControls.h"
+#include "editors/oScreenFrame.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
 #include "wordexport/clsPrintedBoxes.h"
@@ -68,14 +69,13 @@ clsPrintNote noteFor(const clsScreenRow &row, const QString &property, const QSt
 
 } // namespace
 
-void mdShowPrintNotes(const frmSection &screen)
+void mdShowPrintNotes(const clsScreen &screen, const std::vector<clsScreenField> &fields)
 {
-    if (!Form || !screen.Screen().record || !(screen.Screen().section || screen.Screen().record() == Form.get()))
+    if (!Form || !screen.record || !(screen.section || screen.record() == Form.get()))
         return;
     // A section of the claim bears its screen's name; the claim's own properties have no other.
-    const QString prefix
-        = screen.Screen().record() == Form.get() ? QString() : QString::fromUtf8(screen.Screen().name).mid(3) + u'.';
-    for (const clsScreenField &field : screen.Fields())
+    const QString prefix = screen.record() == Form.get() ? QString() : QString::fromUtf8(screen.name).mid(3) + u'.';
+    for (const clsScreenField &field : fields)
         if (auto *box = qobject_cast<oAllPurposeBox *>(field.control); box && field.row->allowance > 0)
             box->setPrintNote([row = field.row, property = prefix + mdMemberOf(*field.row)](
                                   const QString &text) { return noteFor(*row, property, text); });

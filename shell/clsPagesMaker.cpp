@@ -37,19 +37,24 @@ public:
 
     Answer customMessage(const QString &message, const QString &, Buttons buttons, int, int) override
     {
-        if (told.isEmpty())
-            told = message;
-        return answerThatChangesNothing(buttons);
+        return listen(message, buttons);
     }
-    Answer systemMessage(const QString &message, const QString &title, SystemIcon icon, Buttons buttons) override
+    Answer systemMessage(const QString &message, const QString &, SystemIcon, Buttons buttons) override
     {
-        return customMessage(message, title, buttons, icon, 0);
+        return listen(message, buttons);
     }
     void showProgress(int value, int maximum, const QString &text) override { m_progress(value, maximum, text); }
 
     QString told;
 
 private:
+    Answer listen(const QString &message, Buttons buttons)
+    {
+        if (told.isEmpty())
+            told = message;
+        return answerThatChangesNothing(buttons);
+    }
+
     std::function<void(int, int, const QString &)> m_progress;
 };
 

@@ -45,6 +45,11 @@ QString proposedPath()
     return QDir(folder.isEmpty() ? mdDesktopFolder() : folder).filePath(Form->FormType() + QStringLiteral(".pdf"));
 }
 
+void tellNotMade(const QString &why)
+{
+    mdCustomMessages(QStringLiteral("The PDF was not made.\r\n\r\n") + why, QStringLiteral("Export as PDF"));
+}
+
 bool write(const QByteArray &pdf, const QString &path)
 {
     try {
@@ -54,7 +59,7 @@ bool write(const QByteArray &pdf, const QString &path)
         mdPutDocumentInPlace(written, path, Document().filePath(), ZipLimits::PackageBytes);
         return true;
     } catch (const clsRunTimeError &error) {
-        mdCustomMessages(QStringLiteral("The PDF could not be written: %1.").arg(error.description()), title());
+        tellNotMade(QStringLiteral("The PDF could not be written: %1.").arg(error.description()));
         return false;
     }
 }
@@ -128,7 +133,7 @@ void frmExportAsPdf::done(int result)
 void mdExportAsPdf(const QByteArray &atHand, QWidget *parent)
 {
     if (mdOfficeProgram().isEmpty()) {
-        mdCustomMessages(mdNoOfficeProgramMessage(), title());
+        tellNotMade(mdNoOfficeProgramMessage());
         return;
     }
     const QString path = UserInterface().chooseFileToExport(
@@ -140,7 +145,7 @@ void mdExportAsPdf(const QByteArray &atHand, QWidget *parent)
         frmExportAsPdf dialog(parent);
         const clsPagesMaker::clsResult result = dialog.Make();
         if (result == clsPagesMaker::Failed)
-            mdCustomMessages(dialog.Maker().Failure(), title());
+            tellNotMade(dialog.Maker().Failure());
         if (result != clsPagesMaker::Made)
             return;
         pdf = dialog.Maker().Pdf();

@@ -492,7 +492,7 @@ TEST_F(PdfExport, AFailureIsOneMessage)
         exportTo(row.file);
         ASSERT_EQ(1u, user.messages.size());
         EXPECT_EQ(QStringLiteral("Export as PDF"), user.messages[0].title);
-        EXPECT_EQ(row.told, user.messages[0].text);
+        EXPECT_EQ(QStringLiteral("The PDF was not made.\r\n\r\n") + row.told, user.messages[0].text);
         EXPECT_FALSE(QFile::exists(path("claims/mine.pdf")));
     }
 }

@@ -6,6 +6,7 @@
 #include "wordexport/clsExport.h"
 #include "wordexport/mdExportDriver.h"
 #include "wordexport/mdExportWordCombineDocuments.h"
+#include "wordexport/mdForecast.h"
 
 #include <QFile>
 #include <QHash>
@@ -108,11 +109,29 @@ void exportSchedule(benchmark::State &state)
     state.counters["sheets"] = sheets;
 }
 
+/// What an export of a made-up claim of so many items would give; all pages are printed.
+void forecastClaim(benchmark::State &state)
+{
+    clsZR3Form form;
+    mdMakeClaim(form, int(state.range(0)));
+    int sheets = 0;
+    for (auto _ : state) {
+        const clsForecast forecast = mdForecast(form, QStringLiteral(ZR3_TEMPLATES));
+        if (forecast.Fails) {
+            state.SkipWithError("The forecast failed.");
+            break;
+        }
+        sheets = forecast.SheetCount();
+    }
+    state.counters["sheets"] = sheets;
+}
+
 // clang-format off
 BENCHMARK_CAPTURE(exportFloor, Claim1,  "many-sheets")->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK_CAPTURE(exportClaim, Claim1,  "many-sheets")->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK_CAPTURE(exportFloor, Claim1A, "many-sheets-1a")->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK_CAPTURE(exportClaim, Claim1A, "many-sheets-1a")->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(forecastClaim)->Arg(2000)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(exportSchedule)->Arg(500)->Arg(17000)->Unit(benchmark::kMillisecond)->UseRealTime();
 // clang-format on
 

@@ -24,6 +24,8 @@ SAMPLES = {"Claim1": ROOT / "tests" / "samples" / "many-sheets", "Claim1A": ROOT
 ITEMS = 10000
 PREVIEW_ITEMS = 2000
 SCREEN_ITEMS = 2000
+FORECAST_ITEMS = 2000
+FORECAST_TIME = 500
 # What comes within a tenth of a second of a key seems to come at once; beyond it the user notices that there is a wait.
 AT_ONCE = 100
 REPETITIONS = 9
@@ -80,6 +82,12 @@ def export_row(medians, form):
     row(f"Export of {ours['sheets']:.0f} sheets of {form} to the floor", ours["cpu_time"] / floor["cpu_time"], 4,
         detail=f"{ours['cpu_time']:.0f} ms against {floor['cpu_time']:.0f} ms; with the waiting for disk and processor "
                f"{ours['real_time']:.0f} ms against {floor['real_time']:.0f} ms")
+
+
+def forecast_row(medians):
+    ours = medians[f"forecastClaim/{FORECAST_ITEMS}/real_time"]
+    row(f"Forecast of {FORECAST_ITEMS:,} items, ms", ours["real_time"], FORECAST_TIME,
+        detail=f"{ours['sheets']:.0f} sheets; {ours['cpu_time']:.0f} ms of the processor")
 
 
 def preview_row(medians):
@@ -189,6 +197,7 @@ def main(build):
     claim_rows(medians)
     for form in SAMPLES:
         export_row(medians, form)
+    forecast_row(medians)
     preview_row(pieces(build / "benchmarks" / "zr3-bench-preview"))
     for form in SAMPLES:
         writer_row(build, form)

@@ -85,6 +85,18 @@ TEST(mdPaperPages, ARowThatMayNotBeSplitBeginsAPageUnlessItIsHigherThanOne)
     EXPECT_EQ(4, pagesOf(table(before + row(100, "atLeast", cell(28)))));
 }
 
+TEST(mdPaperPages, EachPageOfASplitRowHasTheSpaceAboveItsText)
+{
+    const auto spaced = [](int lines) {
+        return "<w:tc><w:tcPr><w:tcW w:w=\"1000\" w:type=\"dxa\"/></w:tcPr>" + paragraph(lines, {}, "w:before=\"50\"")
+            + "</w:tc>";
+    };
+    // 9 lines to a page instead of 10, and below the last of them 50 are left.
+    EXPECT_EQ(2, pagesOf(table(row(100, "atLeast", spaced(18)) + row(50, "exact", cell(1)))));
+    EXPECT_EQ(3, pagesOf(table(row(100, "atLeast", spaced(18)) + row(51, "exact", cell(1)))));
+    EXPECT_EQ(3, pagesOf(table(row(100, "atLeast", spaced(19)))));
+}
+
 TEST(mdPaperPages, ACellOverSeveralRowsMakesTheLastOneGrow)
 {
     const auto reaching = [](int lines) {
@@ -94,6 +106,34 @@ TEST(mdPaperPages, ACellOverSeveralRowsMakesTheLastOneGrow)
     EXPECT_EQ(1, pagesOf(reaching(4)));
     EXPECT_EQ(1, pagesOf(reaching(6)));
     EXPECT_EQ(2, pagesOf(reaching(7)));
+    // Of the last row's height only what the rows above leave over: 60 of the third line stand in the first row.
+    const auto uneven = [](int room) {
+        return table(row(260, "exact", cell(6, "<w:vMerge w:val=\"restart\"/>") + cell(1))
+            + row(100, "atLeast", cell(1, "<w:vMerge/>") + cell(1)) + row(room, "exact", cell(1) + cell(1)));
+    };
+    EXPECT_EQ(1, pagesOf(uneven(400)));
+    EXPECT_EQ(2, pagesOf(uneven(401)));
+}
+
+TEST(mdPaperPages, LinesTakeRoomWhereARowGrowsAndBelowATable)
+{
+    const auto lined = [](const char *side, int eighths) {
+        return "<w:tcBorders><w:" + std::string(side) + " w:val=\"single\" w:sz=\"" + std::to_string(eighths)
+            + "\"/></w:tcBorders>";
+    };
+    // Six eighths of a point are 15 twips.
+    const std::string below = table(row(300, "exact", cell(1, lined("bottom", 6))));
+    EXPECT_EQ(1, pagesOf(below + table(row(685, "exact", cell(1)))));
+    EXPECT_EQ(2, pagesOf(below + table(row(686, "exact", cell(1)))));
+    const auto grown = [&](const std::string &lines, int rest) {
+        return pagesOf(
+            table(row(300, "exact", cell(1)) + row(100, "atLeast", cell(4, lines)) + row(rest, "exact", cell(1))));
+    };
+    EXPECT_EQ(1, grown(lined("top", 4), 290));
+    EXPECT_EQ(2, grown(lined("top", 4), 291));
+    EXPECT_EQ(1, grown("<w:tcBorders><w:top w:val=\"nil\" w:sz=\"4\"/></w:tcBorders>", 300));
+    // The lines of rows of exact height are part of it.
+    EXPECT_EQ(1, pagesOf(table(row(1000, "exact", cell(1, lined("top", 6))))));
 }
 
 TEST(mdPaperPages, BreaksBeginPages)

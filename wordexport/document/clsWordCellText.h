@@ -51,6 +51,8 @@ public:
     Measure measure(int less) const;
     /// The heights of its lines as it stands, with the spaces between the paragraphs, and of its tables.
     std::vector<int> lineHeights() const;
+    /// The space above its first paragraph, which the heights have too.
+    int spaceAbove() const { return m_paragraphs.empty() ? 0 : m_paragraphs.front().before; }
     /// Makes the typed text so much smaller in the document, and the exact lines of its paragraphs with it.
     void shrink(int less);
 

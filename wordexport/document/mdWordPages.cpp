@@ -14,6 +14,14 @@ namespace {
 
 using Heights = std::vector<int>; // of lines, from above
 
+/// Text that stands beside others.
+struct Column {
+    Heights lines;
+    int again = 0; ///< the space above that each further page of it has too
+
+    int height() const { return std::accumulate(lines.begin(), lines.end(), 0); }
+};
+
 struct PageSize {
     int width;
     int height;
@@ -57,21 +65,26 @@ public:
         m_used += height;
     }
 
+    // What sticks out below and takes no line with it.
+    void add(int height) { m_used += height; }
+
     // Columns side by side, each of which takes as many of its lines on to a page as that holds.
-    void placeSplit(const std::vector<Heights> &columns)
+    void placeSplit(const std::vector<Column> &columns)
     {
         std::vector<size_t> next(columns.size(), 0);
         for (bool all = false; !all;) {
             all = true;
             int taken = 0;
             for (size_t i = 0; i < columns.size(); ++i) {
-                int column = 0;
-                const bool isEmptyPage = m_used == 0;
-                while (next[i] < columns[i].size()
-                    && (m_used + column + columns[i][next[i]] <= m_height || (isEmptyPage && column == 0)))
-                    column += columns[i][next[i]++];
+                const Heights &lines = columns[i].lines;
+                int column = next[i] == 0 || next[i] == lines.size() ? 0 : columns[i].again;
+                const size_t first = next[i];
+                // An empty page takes a line in any case.
+                while (next[i] < lines.size()
+                    && (m_used + column + lines[next[i]] <= m_height || (m_used == 0 && next[i] == first)))
+                    column += lines[next[i]++];
                 taken = std::max(taken, column);
-                all = all && next[i] == columns[i].size();
+                all = all && next[i] == lines.size();
             }
             m_used += taken;
             if (!all)
@@ -97,13 +110,17 @@ public:
 
     void place()
     {
+        xml_node above;
         for (xml_node row = WordXml::firstItem(m_table, WordXml::isRow); row;
-             row = WordXml::nextItem(row, WordXml::isRow))
-            placeRow(row);
+             row = WordXml::nextItem(row, WordXml::isRow)) {
+            placeRow(row, above);
+            above = row;
+        }
+        m_pages.add(widestLine(above, "w:bottom", "w:bottom"));
     }
 
 private:
-    void placeRow(const xml_node &row)
+    void placeRow(const xml_node &row, const xml_node &above)
     {
         const int said = clsWordTableShape::heightSaidBy(row);
         if (clsWordTableShape::isExact(row)) {
@@ -112,16 +129,43 @@ private:
             m_above += said;
             return;
         }
-        const std::vector<Heights> columns = columnsOf(row);
+        std::vector<Column> columns = columnsOf(row);
+        // The line above a row of exact height is part of that; another one comes to the text.
+        const int line = above
+            ? std::max(widestLine(above, "w:bottom", "w:insideH"), widestLine(row, "w:top", "w:insideH"))
+            : widestLine(row, "w:top", "w:top");
         int height = said;
-        for (const Heights &column : columns)
-            height = std::max(height, std::accumulate(column.begin(), column.end(), 0));
+        for (Column &column : columns) {
+            if (!column.lines.empty())
+                column.lines.front() += line;
+            column.again += line;
+            height = std::max(height, column.height());
+        }
         const bool splits = !row.child("w:trPr").child("w:cantSplit") || height > m_pages.height();
         if (splits)
-            m_pages.placeSplit(height > said ? columns : std::vector<Heights> {{height}});
+            m_pages.placeSplit(height > said ? columns : std::vector<Column> {{{height}}});
         else
             m_pages.place(height);
         m_above += height;
+    }
+
+    // The widest line at a side of a row's cells, in twips.
+    int widestLine(const xml_node &row, const char *side, const char *sideOfTable) const
+    {
+        static constexpr int Widest = 96; // eighths of a point
+        const auto widthOf = [](const xml_node &line) {
+            const char *kind = WordXml::val(line);
+            const bool none = std::strcmp(kind, "nil") == 0 || std::strcmp(kind, "none") == 0;
+            return none ? 0 : std::clamp(line.attribute("w:sz").as_int(), 0, Widest);
+        };
+        int eighths = 0;
+        for (xml_node cell = WordXml::firstItem(row, WordXml::isCell); cell;
+             cell = WordXml::nextItem(cell, WordXml::isCell)) {
+            const xml_node said = cell.child("w:tcPr").child("w:tcBorders").child(side);
+            const xml_node line = said ? said : m_table.child("w:tblPr").child("w:tblBorders").child(sideOfTable);
+            eighths = std::max(eighths, widthOf(line));
+        }
+        return eighths * 20 / 8;
     }
 
     template <class Visitor> static void visitCells(const xml_node &row, const Visitor &visitor)
@@ -144,10 +188,10 @@ private:
     }
 
     // The lines of a row's cells. A cell that reaches down over several rows makes the last of them grow.
-    std::vector<Heights> columnsOf(const xml_node &row)
+    std::vector<Column> columnsOf(const xml_node &row)
     {
         noteReaching(row);
-        std::vector<Heights> columns;
+        std::vector<Column> columns;
         visitCells(row, [&](const xml_node &cell, int gridColumn, bool endsHere) {
             if (endsHere)
                 columns.push_back(
@@ -156,31 +200,36 @@ private:
         return columns;
     }
 
-    Heights linesOf(const xml_node &cell, int gridColumn)
+    Column linesOf(const xml_node &cell, int gridColumn)
     {
-        Heights lines = clsWordCellText(cell, m_shape.placeOf(cell, gridColumn), m_looks, m_typed).lineHeights();
-        if (!lines.empty())
-            lines.back() += m_shape.marginsOf(cell);
-        return lines;
+        const clsWordCellText text(cell, m_shape.placeOf(cell, gridColumn), m_looks, m_typed);
+        Column column {text.lineHeights(), text.spaceAbove()};
+        if (!column.lines.empty())
+            column.lines.back() += m_shape.marginsOf(cell);
+        return column;
     }
 
     // The lines of a cell from above that the rows above the last one leave over.
-    Heights restOf(int gridColumn)
+    Column restOf(int gridColumn)
     {
         const auto reaching = m_reaching.find(gridColumn);
         if (reaching == m_reaching.end())
             return {};
-        Heights lines = std::move(reaching->second.lines);
+        const Column column = std::move(reaching->second.text);
+        const Heights &lines = column.lines;
         qint64 room = m_above - reaching->second.from;
         m_reaching.erase(reaching);
         auto left = lines.begin();
         while (left != lines.end() && *left <= room)
             room -= *left++;
-        return {left, lines.end()};
+        Heights rest {left, lines.end()};
+        if (!rest.empty())
+            rest.front() -= int(room);
+        return {std::move(rest), column.again};
     }
 
     struct Reaching {
-        Heights lines;
+        Column text;
         qint64 from; ///< the height of the rows above its first one
     };
 
@@ -205,7 +254,7 @@ void placeParagraph(const xml_node &paragraph, const clsWordLooks &looks, int wi
     if (paragraph.child("w:pPr").child("w:pageBreakBefore"))
         pages.begin();
     clsWordTyped none;
-    pages.placeSplit({clsWordCellText::ofParagraph(paragraph, {width, {}}, looks, none).lineHeights()});
+    pages.placeSplit({{clsWordCellText::ofParagraph(paragraph, {width, {}}, looks, none).lineHeights()}});
     if (hasPageBreak(paragraph) || paragraph.child("w:pPr").child("w:sectPr"))
         pages.begin();
 }

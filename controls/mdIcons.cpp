@@ -91,6 +91,7 @@ constexpr struct {
     {"frmDetailsOfCostsAwarded",   Glyph::Coins},
     {"frmDetailsOfMonies",         Glyph::Coins},
     {"frmLateSubmission",          Glyph::Calendar},
+    {"frmExportAsPdf",             Glyph::Export},
     {"frmExportToWord",            Glyph::Export},
 };
 // clang-format on

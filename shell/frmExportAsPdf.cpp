@@ -100,12 +100,12 @@ void frmExportAsPdf::build()
     pbProgress->setAccessibleName(QStringLiteral("Progress"));
     pbProgress->setTextVisible(false);
     pbProgress->setFixedHeight(Theme::Space8);
+    frame->bodyLayout()->setSpacing(Theme::Space8);
     frame->bodyLayout()->addWidget(lblProgress);
     frame->bodyLayout()->addWidget(pbProgress);
     auto *cancel = new oCustomButton(this);
     cancel->setObjectName(QStringLiteral("cmdCancel"));
     cancel->setCaption(QStringLiteral("&Cancel"));
-    cancel->setLook(oCustomButton::Look::Default);
     connect(cancel, &oCustomButton::Click, this, &QDialog::reject);
     auto *bar = new oButtonBar(this);
     bar->AddButton(cancel);

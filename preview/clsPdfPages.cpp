@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr double DotsPerPoint = 96.0 / 72;
 constexpr int MostKilobytes = 96 * 1024;
 
 } // namespace

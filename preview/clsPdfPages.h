@@ -9,6 +9,9 @@
 /// The pages of a PDF document, held in memory and drawn as they are asked for: only those that are looked at.
 class clsPdfPages {
 public:
+    /// Of a screen on which a page is as large as on paper.
+    static constexpr double DotsPerPoint = 96.0 / 72;
+
     /// The bytes of the document; without pages where they are none.
     explicit clsPdfPages(const QByteArray &pdf);
 

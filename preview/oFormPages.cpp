@@ -115,6 +115,8 @@ oFormPages::oFormPages(QWidget *parent)
         m_thumbnails->MarkPage(m_view->CurrentPage());
         showState();
     });
+    connect(m_view, &oPageView::BoxMarked, this,
+        [this](const QString &words) { m_view->setAccessibleDescription(words.isEmpty() ? lblState->text() : words); });
     connect(m_view, &oPageView::ZoomChanged, this, &oFormPages::showState);
     connect(m_thumbnails, &oPageThumbnails::Chosen, m_view, &oPageView::GoTo);
     connect(m_escape, &QShortcut::activated, this, &oFormPages::Cancel);
@@ -250,6 +252,11 @@ void oFormPages::zoomBy(int direction)
     for (auto step = std::rbegin(ZoomSteps); step != std::rend(ZoomSteps); ++step)
         if (*step < now)
             return m_view->setZoom(*step);
+}
+
+int oFormPages::Pages() const
+{
+    return m_pages ? m_pages->Count() : 0;
 }
 
 QByteArray oFormPages::Pdf() const

@@ -28,6 +28,7 @@ public:
     /// There are no pages of this claim.
     void Clear();
     bool HasPages() const { return m_pages != nullptr; }
+    int Pages() const;
     /// The document that is shown; empty without one.
     QByteArray Pdf() const;
 

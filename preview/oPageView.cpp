@@ -4,9 +4,12 @@
 #include "controls/mdTheme.h"
 #include "preview/clsPdfPages.h"
 
+#include <QHelpEvent>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -30,6 +33,7 @@ oPageView::oPageView(QWidget *parent)
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::StrongFocus);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    viewport()->setMouseTracking(true);
 }
 
 void oPageView::setPages(clsPdfPages *pages)
@@ -41,6 +45,7 @@ void oPageView::setPages(clsPdfPages *pages)
         : double(verticalScrollBar()->value() - m_tops[size_t(page)]) / std::max(1, placeOf(page).height());
     const bool had = m_pages != nullptr;
     m_pages = pages && pages->Count() > 0 ? pages : nullptr;
+    setBoxes({});
     m_current = -1;
     layOut();
     if (m_pages && had) {
@@ -51,6 +56,84 @@ void oPageView::setPages(clsPdfPages *pages)
     }
     noteCurrentPage();
     viewport()->update();
+}
+
+void oPageView::setBoxes(std::vector<clsPageBox> boxes)
+{
+    m_boxes = std::move(boxes);
+    markBox(-1);
+}
+
+QRect oPageView::PlaceOfBox(int box) const
+{
+    const clsPageBox &shown = m_boxes[size_t(box)];
+    const double scale = m_scale * clsPdfPages::DotsPerPoint;
+    return QRectF(shown.points.topLeft() * scale, shown.points.size() * scale)
+        .translated(placeOf(shown.page).topLeft())
+        .toRect();
+}
+
+int oPageView::boxAt(const QPoint &place) const
+{
+    for (int i = 0; m_pages && i < int(m_boxes.size()); ++i)
+        if (m_boxes[size_t(i)].page < m_pages->Count() && PlaceOfBox(i).contains(place))
+            return i;
+    return -1;
+}
+
+void oPageView::markBox(int box)
+{
+    if (box == m_marked)
+        return;
+    m_marked = box;
+    viewport()->setCursor(box < 0 ? Qt::ArrowCursor : Qt::PointingHandCursor);
+    viewport()->update();
+    emit BoxMarked(box < 0 ? QString() : m_boxes[size_t(box)].words);
+}
+
+void oPageView::mouseMoveEvent(QMouseEvent *event)
+{
+    markBox(boxAt(event->pos()));
+}
+
+void oPageView::mouseReleaseEvent(QMouseEvent *event)
+{
+    const int box = event->button() == Qt::LeftButton ? boxAt(event->pos()) : -1;
+    if (box >= 0)
+        emit BoxChosen(QString(m_boxes[size_t(box)].target));
+}
+
+bool oPageView::viewportEvent(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const auto &asked = static_cast<QHelpEvent &>(*event);
+        const int box = boxAt(asked.pos());
+        QToolTip::showText(asked.globalPos(), box < 0 ? QString() : m_boxes[size_t(box)].words, viewport());
+        return true;
+    }
+    if (event->type() == QEvent::Leave)
+        markBox(-1);
+    return QAbstractScrollArea::viewportEvent(event);
+}
+
+bool oPageView::focusNextPrevChild(bool next)
+{
+    // From box to box, beginning with the page in view; beyond the last one to the next control.
+    int box = m_marked + (next ? 1 : -1);
+    if (m_marked < 0) {
+        box = next ? 0 : -1;
+        while (next && box < int(m_boxes.size()) && m_boxes[size_t(box)].page < m_current)
+            ++box;
+    }
+    if (!m_pages || box < 0 || box >= int(m_boxes.size()) || m_boxes[size_t(box)].page >= m_pages->Count()) {
+        markBox(-1);
+        return QAbstractScrollArea::focusNextPrevChild(next);
+    }
+    const QRect place = PlaceOfBox(box);
+    if (place.top() < 0 || place.bottom() >= viewport()->height())
+        verticalScrollBar()->setValue(verticalScrollBar()->value() + place.center().y() - viewport()->height() / 2);
+    markBox(box);
+    return true;
 }
 
 int oPageView::Zoom() const
@@ -198,6 +281,10 @@ void oPageView::paintEvent(QPaintEvent *)
                 Qt::TopEdge | Qt::LeftEdge | Qt::RightEdge | Qt::BottomEdge, Theme::Grey);
         }
     }
+    if (m_pages && m_marked >= 0) {
+        painter.setPen(QPen(Theme::Purple, FocusFrame, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.drawRect(PlaceOfBox(m_marked));
+    }
     if (hasFocus()) {
         painter.setPen(QPen(Theme::Purple, FocusFrame, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
         painter.drawRect(QRectF(viewport()->rect()).adjusted(1, 1, -1, -1));
@@ -223,6 +310,13 @@ void oPageView::keyPressEvent(QKeyEvent *event)
         return;
     }
     switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (m_marked >= 0)
+            emit BoxChosen(QString(m_boxes[size_t(m_marked)].target));
+        else
+            event->ignore();
+        break;
     case Qt::Key_PageDown: down.triggerAction(QScrollBar::SliderPageStepAdd); break;
     case Qt::Key_PageUp: down.triggerAction(QScrollBar::SliderPageStepSub); break;
     case Qt::Key_Home: down.setValue(0); break;
@@ -261,5 +355,6 @@ void oPageView::focusInEvent(QFocusEvent *event)
 void oPageView::focusOutEvent(QFocusEvent *event)
 {
     QAbstractScrollArea::focusOutEvent(event);
+    markBox(-1);
     viewport()->update();
 }

@@ -5,6 +5,8 @@
 #include "formdata/clsZR3PreferencesDatabase.h"
 #include "formdata/mdGlobals.h"
 #include "preview/oFormPages.h"
+#include "preview/oPageView.h"
+#include "shell/mdPageBoxes.h"
 #include "wordexport/mdOfficeProgram.h"
 
 clsFormPages::clsFormPages(oFormPages &page, QObject *parent)
@@ -75,6 +77,7 @@ void clsFormPages::ended(clsPagesMaker::clsResult result)
             return;
         }
         m_document = m_maker.Document();
+        m_page.View()->setBoxes(mdPageBoxes(m_maker.Sheets(), Form->FormType(), m_page.Pages()));
         break;
     case clsPagesMaker::Unchanged: m_page.setAsOf(m_begun); break;
     case clsPagesMaker::Cancelled:

@@ -125,7 +125,7 @@ bool clsPagesMaker::exportCopy(const clsZR3Form &form)
             finished = driver(run);
         else
             listener.told = mdNoPagesMessage(copy.FormType());
-        m_paperPages = finished ? mdForecastOf(run).PaperPages() : 0;
+        m_sheets = finished ? mdForecastOf(run) : clsForecast();
     } catch (const clsRunTimeError &error) {
         listener.told = error.description();
     }
@@ -149,7 +149,8 @@ void clsPagesMaker::showConverting()
     // The office program doesn't say how far it is: the bar nears its end by the time that it took before.
     const double part = 1 - std::exp(-1.5 * double(m_converting.elapsed()) / double(m_expected));
     emit Progress(ExportsShare + int((ProgressMaximum - ExportsShare) * part), ProgressMaximum,
-        m_paperPages == 1 ? QStringLiteral("Drawing 1 page") : QStringLiteral("Drawing %1 pages").arg(m_paperPages));
+        m_sheets.PaperPages() == 1 ? QStringLiteral("Drawing 1 page")
+                                   : QStringLiteral("Drawing %1 pages").arg(m_sheets.PaperPages()));
 }
 
 void clsPagesMaker::converted()

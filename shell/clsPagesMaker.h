@@ -1,5 +1,7 @@
 #pragma once
 
+#include "wordexport/clsForecast.h"
+
 #include <QByteArray>
 #include <QElapsedTimer>
 #include <QObject>
@@ -38,6 +40,8 @@ public:
     const QByteArray &Pdf() const { return m_pdf; }
     /// What names the document that they were made of: the same document, the same name.
     const QByteArray &Document() const { return m_document; }
+    /// Its sheets.
+    const clsForecast &Sheets() const { return m_sheets; }
     /// Why there are none, in a sentence.
     const QString &Failure() const { return m_failure; }
 
@@ -55,7 +59,7 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<clsPdfConversion> m_conversion;
     QString m_file;
-    int m_paperPages = 0;
+    clsForecast m_sheets;
     QTimer m_ticks;
     QElapsedTimer m_converting;
     qint64 m_expected;

@@ -18,6 +18,8 @@
 #include "controls/oTabBar.h"
 #include "controls/oTimeSpentBox.h"
 #include "costing/mdCheckForBlankItems.h"
+#include "editors/mdEnterField.h"
+#include "editors/mdFieldPlace.h"
 #include "editors/mdSections.h"
 #include "editors/mdShowPreferences.h"
 #include "editors/mdUnloadAndDummyTabClick.h"
@@ -94,6 +96,7 @@ frmMain::frmMain(QWidget *parent)
     SetOpenSection([this](const QString &text) { tbSubSection_Click(-1, text); });
     // From a box of whatever screen is open, over that screen.
     SetEditReplacements([] { mdShowPreferences(QApplication::activeWindow(), ReplacementsPage); });
+    connect(m_formPages->View(), &oPageView::BoxChosen, this, &frmMain::OpenField);
     connect(m_formPages, &oFormPages::ExportAsPdf, this, &frmMain::ExportAsPdf);
     // The stopwatch stops wherever another claim takes the place of this one.
     const auto stopTimer = [this] {
@@ -208,11 +211,25 @@ void frmMain::tbSubSection_Click(int index, const QString &tag)
         if (!screen)
             continue;
         shown = true;
+        if (const QString field = std::exchange(m_nextField, QString()); !field.isEmpty())
+            QTimer::singleShot(0, screen.get(), [&window = *screen, field] {
+                if (auto *control = window.findChild<QWidget *>(field))
+                    mdEnterField(*control);
+            });
         const QScopedValueRollback<bool> modal(m_modal, true);
         mdShowModal(*screen);
     }
     if (shown)
         Activate();
+}
+
+void frmMain::OpenField(const QString &property)
+{
+    const auto place = mdFieldPlace(property);
+    if (!place || m_sectionOpen)
+        return;
+    m_nextField = place->control;
+    tbSubSection_Click(-1, place->section);
 }
 
 void frmMain::whileModal(const std::function<void()> &show)

@@ -40,6 +40,8 @@ public:
     /// Opens the screen of a text, as a click on its tab does. While a screen is open the text is remembered, and its
     /// screen follows when that one is gone. An unknown or empty text does nothing.
     void tbSubSection_Click(int index, const QString &tag);
+    /// Opens the screen on which a property is entered, with the focus on its field.
+    void OpenField(const QString &property);
     /// One tick of the timer for backups.
     void tmrAutoBackup_Timer();
 
@@ -116,6 +118,7 @@ private:
     int m_drawnWidth = 0;
     QString m_backupTag;
     QString m_nextSection;
+    QString m_nextField;
     bool m_sectionOpen = false;
     bool m_loaded = false;
     bool m_wasShown = false;

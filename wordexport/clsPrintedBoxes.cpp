@@ -55,7 +55,7 @@ clsPrintedBoxes::clsPrintedBoxes(const QString &formType, const QString &templat
             const auto &[page, placeholder] = field.key();
             for (const clsSheetFile &sheet : std::as_const(run.sheets))
                 if (sheet.name == mdSheetName(page, 1))
-                    m_boxes[field.value()].push_back({sheet.templateName, placeholder});
+                    m_boxes[field.value()].push_back({sheet.templateName, placeholder, page});
         }
         for (auto original = run.templates.constBegin(); original != run.templates.constEnd(); ++original)
             m_templates.insert(original.key(), original->content);
@@ -94,6 +94,32 @@ std::optional<clsPrintedFit> clsPrintedBoxes::fitInto(const clsBox &box, const Q
         if (fitted.placeholder == box.placeholder)
             return clsPrintedFit {stateOf(fitted.state), fitted.lines, 0};
     return {};
+}
+
+std::vector<clsPrintedBoxes::clsPlace> clsPrintedBoxes::places(int page) const
+{
+    constexpr double TwipsPerPoint = 20;
+    std::vector<clsPlace> found;
+    QHash<QString, QString> properties;
+    QString templateName;
+    for (auto boxes = m_boxes.constBegin(); boxes != m_boxes.constEnd(); ++boxes)
+        for (const clsBox &box : boxes.value())
+            if (box.page == page) {
+                properties.insert(box.placeholder, boxes.key());
+                templateName = box.templateName;
+            }
+    if (templateName.isEmpty())
+        return found;
+    const clsSilentTrial silent;
+    clsMSWord word;
+    word.OpenDocument(templateName, templateName, m_templates.value(templateName));
+    if (!word.isOpen())
+        return found;
+    for (const clsPlaceholderPlace &place : word.openDocument()->placeholderPlaces())
+        if (const QString property = properties.value(place.placeholder); !property.isEmpty())
+            found.push_back({property,
+                QRectF(QPointF(place.cell.topLeft()) / TwipsPerPoint, QSizeF(place.cell.size()) / TwipsPerPoint)});
+    return found;
 }
 
 int clsPrintedBoxes::roomOf(clsBox &box) const

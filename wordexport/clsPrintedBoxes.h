@@ -3,6 +3,7 @@
 #include "wordexport/document/clsZipPackage.h"
 
 #include <QHash>
+#include <QRectF>
 #include <QString>
 
 #include <optional>
@@ -31,10 +32,18 @@ public:
     /// fits.
     std::optional<clsPrintedFit> fit(const QString &property, const QString &text);
 
+    struct clsPlace {
+        QString property;
+        QRectF cell; ///< points, from the corner of the paper
+    };
+    /// Where the fields of a page stand on its own sheet, as long as that takes one paper page.
+    std::vector<clsPlace> places(int page) const;
+
 private:
     struct clsBox {
         QString templateName;
         QString placeholder;
+        int page;
         int room = 0; ///< once it is known
     };
 

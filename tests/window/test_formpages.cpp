@@ -4,6 +4,7 @@
 #include "preview/oPageView.h"
 #include "preview/oPreviewGrid.h"
 #include "shell/clsFormPages.h"
+#include "shell/mdPageBoxes.h"
 #include "tests/window/clsMainWindowTest.h"
 #include "wordexport/mdOfficeProgram.h"
 
@@ -12,9 +13,12 @@
 #include <QLabel>
 #include <QPageSize>
 #include <QPainter>
+#include <QPdfDocument>
+#include <QPdfSelection>
 #include <QPdfWriter>
 #include <QProgressBar>
 #include <QScrollBar>
+#include <QSet>
 #include <QSignalSpy>
 #include <QTimer>
 
@@ -97,6 +101,33 @@ protected:
     {
         entry("mnuFormPages").trigger();
         ASSERT_TRUE(wait());
+    }
+    /// As many as the script gives.
+    static void includeThreePages()
+    {
+        for (int number = 4; number <= 13; ++number)
+            Form->field(QStringLiteral("IncludePage%1").arg(number))->writeBoolean(false);
+    }
+    int boxOf(const char *property) const
+    {
+        const auto boxes = mdPageBoxes(maker().Sheets(), Form->FormType(), page().Pages());
+        for (size_t i = 0; i < boxes.size(); ++i)
+            if (boxes[i].target == QLatin1String(property))
+                return int(i);
+        return -1;
+    }
+    /// Closes the screen that opens next; its name, and the field that has the focus.
+    static void closeScreen(QString &focus)
+    {
+        QTimer::singleShot(300, [&focus] {
+            QWidget *screen = QApplication::activeModalWidget();
+            ASSERT_NE(nullptr, screen);
+            QWidget *field = screen->focusWidget();
+            while (field && field != screen && !field->objectName().startsWith(QLatin1String("txtSurname")))
+                field = field->parentWidget();
+            focus = screen->objectName() + u' ' + (field ? field->objectName() : QString());
+            screen->close();
+        });
     }
     void change() { Form->ClientDetails.Surname = Form->ClientDetails.Surname() + u'x'; }
 
@@ -364,6 +395,133 @@ TEST_F(FormPages, ThreeHundredPagesAreQuick)
     EXPECT_EQ(299, pages.View()->CurrentPage());
     // All of them drawn would take many times as long.
     EXPECT_LT(timer.elapsed(), 2000);
+}
+
+TEST_F(FormPages, ABoxOpensItsScreenOnItsField)
+{
+    workingOfficeProgram();
+    start(sample("housing-typical.zr3"));
+    includeThreePages();
+    showPages();
+    oPageView &view = *page().View();
+    view.setZoom(50);
+    const int box = boxOf("ClientDetails.Surname");
+    ASSERT_GE(box, 0);
+    const QPoint place = view.PlaceOfBox(box).center();
+    QTest::mouseMove(view.viewport(), place);
+    EXPECT_EQ(box, view.MarkedBox());
+    EXPECT_EQ(QStringLiteral("Open Client Details: Surname"), view.accessibleDescription());
+    QString focus;
+    closeScreen(focus);
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, place);
+    EXPECT_EQ(QStringLiteral("frmClientDetails txtSurname"), focus);
+    EXPECT_TRUE(page().isVisible());
+    // Beside all boxes there is nothing to open.
+    QTest::mouseMove(view.viewport(), {2, 2});
+    EXPECT_EQ(-1, view.MarkedBox());
+    EXPECT_EQ(state(), view.accessibleDescription());
+}
+
+TEST_F(FormPages, TheTabKeyWalksTheBoxesAndEnterOpens)
+{
+    workingOfficeProgram();
+    start(sample("housing-typical.zr3"));
+    includeThreePages();
+    showPages();
+    oPageView &view = *page().View();
+    QTest::keyClick(&view, Qt::Key_Tab);
+    EXPECT_EQ(0, view.MarkedBox());
+    const int box = boxOf("ClientDetails.Surname");
+    for (int i = 0; i < box; ++i)
+        QTest::keyClick(&view, Qt::Key_Tab);
+    EXPECT_EQ(box, view.MarkedBox());
+    EXPECT_TRUE(view.viewport()->rect().contains(view.PlaceOfBox(box)));
+    QString focus;
+    closeScreen(focus);
+    QTest::keyClick(&view, Qt::Key_Return);
+    EXPECT_EQ(QStringLiteral("frmClientDetails txtSurname"), focus);
+    view.setFocus();
+    QTest::keyClick(&view, Qt::Key_Tab);
+    QTest::keyClick(&view, Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(-1, view.MarkedBox());
+    EXPECT_FALSE(view.hasFocus()) << "before the first box comes the control before";
+}
+
+TEST_F(FormPages, ASheetThatRunsOnHasNoBoxes)
+{
+    start();
+    const auto boxes = [](std::vector<clsForecast::Sheet> sheets, int pages) {
+        clsForecast given;
+        given.Sheets = std::move(sheets);
+        QSet<int> found;
+        for (const clsPageBox &box : mdPageBoxes(given, QStringLiteral("Claim1"), pages))
+            found << box.page;
+        return found;
+    };
+    const QString none;
+    EXPECT_EQ((QSet<int> {0, 1, 2}),
+        boxes({{1, QStringLiteral("1(1)"), none, 1}, {2, QStringLiteral("2(1)"), none, 1},
+                  {3, QStringLiteral("3(1)"), none, 1}},
+            3));
+    EXPECT_EQ((QSet<int> {0, 3}),
+        boxes({{1, QStringLiteral("1(1)"), none, 1}, {2, QStringLiteral("2(1)"), none, 2},
+                  {3, QStringLiteral("3(1)"), none, 1}},
+            4));
+    EXPECT_EQ((QSet<int> {0, 2}),
+        boxes({{1, QStringLiteral("1(1)"), none, 1}, {2, QStringLiteral("2(2)"), none, 1},
+                  {3, QStringLiteral("3(1)"), none, 1}},
+            3));
+    EXPECT_TRUE(boxes({{1, QStringLiteral("1(1)"), none, 1}}, 2).isEmpty()) << "pages that nobody reckoned with";
+}
+
+TEST_F(FormPages, TheBoxesLieWhereTheOfficeProgramPrintsTheirTexts)
+{
+    if (mdOfficeProgram().isEmpty())
+        GTEST_SKIP() << "no office program is installed";
+    start(sample("housing-typical.zr3"));
+    const std::pair<const char *, QString> words[] = {
+        {"ClientDetails.Surname", QStringLiteral("Qsurname")},
+        {"CaseInformation.NameOfCourt", QStringLiteral("Qcourt")},
+        {"LateSubmission.Explanation", QStringLiteral("Qlate")},
+        {"DetailsOfWork.DetailsOfCase", QStringLiteral("Qwork")},
+        {"DebtorsDetails.Address", QStringLiteral("Qaddress")},
+        {"DebtorsDetails.Information", QStringLiteral("Qinformation")},
+        {"DetailsOfCostsAwarded.AddressOfService", QStringLiteral("Qservice")},
+    };
+    for (const char *formType : {"Claim1", "Claim1A"}) {
+        Form->FormType = QString::fromLatin1(formType);
+        Form->ClientDetails.Surname = QStringLiteral("Qsurname");
+        Form->CaseInformation.NameOfCourt = QStringLiteral("Qcourt");
+        Form->LateSubmission.Explanation = QStringLiteral("Qlate");
+        Form->DetailsOfWork.DetailsOfCase = QStringLiteral("Qwork");
+        Form->DebtorsDetails.Address = QStringLiteral("Qaddress");
+        Form->DebtorsDetails.Information = QStringLiteral("Qinformation");
+        Form->DetailsOfCostsAwarded.AddressOfService = QStringLiteral("Qservice");
+        showPages();
+        ASSERT_TRUE(page().HasPages()) << nothing().toStdString();
+        QBuffer buffer;
+        buffer.setData(page().Pdf());
+        buffer.open(QIODevice::ReadOnly);
+        QPdfDocument pdf;
+        pdf.load(&buffer);
+        int found = 0;
+        for (const clsPageBox &box : mdPageBoxes(maker().Sheets(), Form->FormType(), page().Pages())) {
+            const QString text = pdf.getAllText(box.page).text();
+            for (const auto &[property, word] : words) {
+                const bool itsOwn = QLatin1String(property) == box.target;
+                const qsizetype at = itsOwn ? text.indexOf(word) : -1;
+                if (at < 0)
+                    continue;
+                ++found;
+                const QRectF printed = pdf.getSelectionAtIndex(box.page, int(at), int(word.size())).boundingRectangle();
+                EXPECT_TRUE(box.points.adjusted(-3, -3, 3, 3).contains(printed))
+                    << formType << ' ' << qPrintable(word) << " at " << printed.x() << ' ' << printed.y() << ", box "
+                    << box.points.x() << ' ' << box.points.y() << ' ' << box.points.width() << ' '
+                    << box.points.height();
+            }
+        }
+        EXPECT_GE(found, 5) << formType;
+    }
 }
 
 TEST_F(FormPages, ARealOfficeProgramDrawsThem)

@@ -324,10 +324,7 @@ void oFormPages::ShowProgress(int value, int maximum, const QString &text)
 void oFormPages::EndProgress()
 {
     m_making = false;
-    const bool onCancel = cmdCancel->hasFocus();
     showState();
-    if (onCancel)
-        TakeFocus();
 }
 
 void oFormPages::TakeFocus()
@@ -362,6 +359,10 @@ void oFormPages::showState()
     m_view->setAccessibleDescription(state);
     lblNothing->setText(m_making ? m_progress : m_failure);
     lblNothing->setAccessibleName(lblNothing->text());
+    // A button that goes would hand the focus to the next one.
+    const bool focusGoes = cmdCancel->hasFocus() ? !m_making : cmdRefresh->hasFocus() && m_making;
+    if (focusGoes)
+        TakeFocus();
     m_progressBar->setVisible(m_making);
     cmdCancel->setVisible(m_making);
     m_escape->setEnabled(m_making);

@@ -211,7 +211,9 @@ TEST_F(FormPages, MarkThemselvesOldAndAreMadeAnewOnRequest)
     EXPECT_EQ(QStringLiteral("Shown as of 14:11; the claim has changed"), state());
     EXPECT_EQ(1, runs());
     ASSERT_TRUE(refresh.isVisible());
-    QTest::mouseClick(&refresh, Qt::LeftButton);
+    refresh.setFocus();
+    QTest::keyClick(&refresh, Qt::Key_Space);
+    EXPECT_TRUE(page().View()->hasFocus()) << "not the next button";
     EXPECT_TRUE(page().HasPages()) << "the old pages stay";
     EXPECT_TRUE(window->isEnabled());
     ASSERT_TRUE(wait());
@@ -329,8 +331,10 @@ TEST_F(FormPages, EscapeAndCancelStopIt)
     EXPECT_FALSE(cancel.isVisible());
     entry("mnuFormPages").trigger();
     EXPECT_TRUE(maker().isRunning());
-    QTest::mouseClick(&cancel, Qt::LeftButton);
+    cancel.setFocus();
+    QTest::keyClick(&cancel, Qt::Key_Space);
     EXPECT_FALSE(maker().isRunning());
+    EXPECT_TRUE(control<QLabel>(*window, "lblNothing").hasFocus());
 }
 
 TEST_F(FormPages, ZoomByKeysAndFitTheWidth)

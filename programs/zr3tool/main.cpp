@@ -169,15 +169,15 @@ QString whatMayNotBeReplaced(const clsToolCommand &command, const QString &docum
 
 Status makePdf(clsConsoleUserInterface &console, const clsToolCommand &command, const QString &document)
 {
-    const QString pdf = pdfBeside(document);
+    const QString pdfPath = pdfBeside(document);
     clsPdfConversion conversion(document);
     mdSetProgress(1, 1, QStringLiteral("Making the PDF"));
     conversion.wait();
     mdClearProgress();
     // Made by another program since this one has looked.
-    if (!command.force && FileSystem().FileExists(pdf))
-        return documentExists(console, pdf);
-    const QString pdfFailure = mdPutPdfInPlace(conversion, document, pdf);
+    if (!command.force && FileSystem().FileExists(pdfPath))
+        return documentExists(console, pdfPath);
+    const QString pdfFailure = mdPutPdfInPlace(conversion, document, pdfPath);
     if (pdfFailure.isEmpty())
         return Status::Done;
     console.tell(QStringLiteral("PDF"), pdfFailure);

@@ -136,6 +136,16 @@ TEST(mdPaperPages, LinesTakeRoomWhereARowGrowsAndBelowATable)
     EXPECT_EQ(1, pagesOf(table(row(1000, "exact", cell(1, lined("top", 6))))));
 }
 
+TEST(mdPaperPages, TheParagraphThatGoesInJoiningTakesNoRoom)
+{
+    const std::string empty = "<w:p><w:pPr><w:spacing w:line=\"100\" w:lineRule=\"exact\"/></w:pPr></w:p>";
+    EXPECT_EQ(1, pagesOf(paragraph(9) + empty + empty));
+    EXPECT_EQ(2, pagesOf(paragraph(9) + empty + empty + empty));
+    EXPECT_EQ(2, pagesOf(paragraph(9) + empty + paragraph(1)));
+    // The one behind a table has to stay.
+    EXPECT_EQ(2, pagesOf(table(row(1000, "exact", cell(1))) + empty));
+}
+
 TEST(mdPaperPages, BreaksBeginPages)
 {
     EXPECT_EQ(2, pagesOf(paragraph(1) + paragraph(1, "<w:pageBreakBefore/>")));
@@ -149,6 +159,6 @@ TEST(mdPaperPages, AnythingIsCounted)
     EXPECT_EQ(2, pagesOf(table(row(2147483647, "exact", cell(1)) + row(2147483647, "atLeast", cell(1)))));
     pugi::xml_document document;
     ASSERT_TRUE(document.load_string(
-        "<w:body><w:p/><w:p/><w:sectPr><w:pgSz w:w=\"0\" w:h=\"-2147483648\"/></w:sectPr></w:body>"));
+        "<w:body><w:p/><w:p/><w:p/><w:sectPr><w:pgSz w:w=\"0\" w:h=\"-2147483648\"/></w:sectPr></w:body>"));
     EXPECT_EQ(2, mdPaperPages(document.first_child(), clsWordLooks(pugi::xml_node())));
 }

@@ -31,7 +31,7 @@ public:
 
     /// Makes room for what was typed, and returns what is then printed otherwise than the template has it.
     std::vector<clsFittedText> fit();
-    /// How many paper pages it takes when it is printed.
+    /// How many paper pages it takes when it is printed as a sheet of a joined document.
     int paperPages();
     /// Where the placeholders of its table cells are printed.
     std::vector<clsPlaceholderPlace> placeholderPlaces();

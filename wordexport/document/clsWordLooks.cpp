@@ -26,7 +26,8 @@ std::optional<bool> onOff(const xml_node &format, const char *name)
 std::optional<int> number(const xml_node &node, const char *name)
 {
     const pugi::xml_attribute attribute = node.attribute(name);
-    return attribute ? std::optional<int>(attribute.as_int()) : std::nullopt;
+    constexpr int Most = 100'000; // beyond what any page has, so that no file makes the sums overflow
+    return attribute ? std::optional<int>(std::clamp(attribute.as_int(), -Most, Most)) : std::nullopt;
 }
 
 // Left and right are called start and end by newer programs.

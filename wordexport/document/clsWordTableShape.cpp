@@ -3,6 +3,7 @@
 #include "wordexport/document/mdWordXml.h"
 
 #include <algorithm>
+#include <cstring>
 
 using pugi::xml_node;
 

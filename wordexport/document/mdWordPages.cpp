@@ -5,8 +5,11 @@
 #include "wordexport/document/mdWordXml.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <cstring>
 #include <map>
 #include <numeric>
+#include <vector>
 
 using pugi::xml_node;
 
@@ -259,6 +262,14 @@ void placeParagraph(const xml_node &paragraph, const clsWordLooks &looks, int wi
         pages.begin();
 }
 
+// An empty paragraph behind another one at the end of a sheet goes where the sheets are joined: the end of the section
+// takes its place, or it is deleted.
+bool goesInJoining(const xml_node &block)
+{
+    return WordXml::is(block, "w:p") && WordXml::is(WordXml::previousItem(block, WordXml::isBlock), "w:p")
+        && !WordXml::nextItem(block, WordXml::isBlock) && !WordXml::firstItem(block, WordXml::isRun);
+}
+
 } // namespace
 
 int mdPaperPages(const xml_node &body, const clsWordLooks &looks)
@@ -269,7 +280,7 @@ int mdPaperPages(const xml_node &body, const clsWordLooks &looks)
          block = WordXml::nextItem(block, WordXml::isBlock)) {
         if (WordXml::is(block, "w:tbl"))
             clsTablePlacer(block, looks, pages).place();
-        else
+        else if (!goesInJoining(block))
             placeParagraph(block, looks, size.width, pages);
     }
     return pages.count();

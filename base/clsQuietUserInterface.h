@@ -19,6 +19,7 @@ public:
     QString chooseFolder(const QString &, const QString &) override { return {}; }
     QString chooseFileToOpen(const QString &) override { return {}; }
     QString chooseFileToSave(const QString &, const QString &) override { return {}; }
+    QString chooseFileToExport(const QString &, const QString &, const QString &) override { return {}; }
     void playSound(const QString &) override { }
     bool openTarget(const QString &) override { return false; }
 };

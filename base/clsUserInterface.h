@@ -35,6 +35,9 @@ public:
     virtual QString chooseFileToOpen(const QString &filter) = 0;
     /// The file's name ends in the extension, in capitals or not, whatever was typed.
     virtual QString chooseFileToSave(const QString &filter, const QString &defaultExtension) = 0;
+    /// Asks for a file to export to, and proposes one; the user has agreed to replace one that is there. Empty when the
+    /// user gave none.
+    virtual QString chooseFileToExport(const QString &filter, const QString &extension, const QString &proposed) = 0;
 
     /// Plays a wave file in the background; a failure is silent.
     virtual void playSound(const QString &path) = 0;

@@ -53,6 +53,7 @@ constexpr clsGlyphRow Glyphs[] = {
     {Glyph::Bin,          "M 3 5 L 17 5 M 7.2 5 L 7.2 2.6 L 12.8 2.6 L 12.8 5 M 4.8 5 L 5.6 17.5 L 14.4 17.5 L 15.2 5 M 8.3 8.2 L 8.3 14.2 M 11.7 8.2 L 11.7 14.2", ""},
     {Glyph::Warning,      "M 10 2.6 L 18.4 17 L 1.6 17 Z M 10 7.6 L 10 11.8", "O 10 14.3 1"},
     {Glyph::List,         "R 2.5 1.25 15 17.5 1.9 M 6.25 6.25 L 13.75 6.25 M 6.25 10 L 13.75 10 M 6.25 13.75 L 13.75 13.75", ""},
+    {Glyph::RunsOn,       "M 3.5 8 L 3.5 2.5 L 16.5 2.5 L 16.5 8 M 10 7 L 10 17.5 M 6.2 13.7 L 10 17.5 L 13.8 13.7", ""},
 };
 
 /// One glyph for each family of screens.
@@ -90,6 +91,7 @@ constexpr struct {
     {"frmDetailsOfCostsAwarded",   Glyph::Coins},
     {"frmDetailsOfMonies",         Glyph::Coins},
     {"frmLateSubmission",          Glyph::Calendar},
+    {"frmExportAsPdf",             Glyph::Export},
     {"frmExportToWord",            Glyph::Export},
 };
 // clang-format on

@@ -37,6 +37,7 @@ enum class Glyph {
     Bin,
     Warning,
     List,
+    RunsOn,
 };
 
 /// Draws the glyph into the middle of the rectangle, as large as its shorter side.

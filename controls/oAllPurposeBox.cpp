@@ -51,6 +51,9 @@ int linesFor(int allowance)
 /// A box that grows with the window ends here: a longer text scrolls.
 constexpr int MostLines = 12;
 
+constexpr int CountWidth = 44;
+constexpr int PrintNoteMilliseconds = 40;
+
 } // namespace
 
 void SetEditReplacements(std::function<void()> edit)
@@ -66,6 +69,7 @@ oAllPurposeBox::oAllPurposeBox(QWidget *parent)
     : QWidget(parent)
     , m_text(new oSpellText(this))
     , m_count(new QLabel(this))
+    , m_sign(new oPrintSign(m_count))
 {
     m_text->setObjectName(QStringLiteral("txtText"));
     m_count->setObjectName(QStringLiteral("lblCharacterAllowance"));
@@ -80,7 +84,13 @@ oAllPurposeBox::oAllPurposeBox(QWidget *parent)
     connect(m_text, &oSpellText::Change, this, [this] {
         emit Change();
         refreshCount();
+        // Not begun anew by each key: who types on without a pause is told too.
+        if (m_printNote && !m_printNoteIsDue.isActive())
+            m_printNoteIsDue.start();
     });
+    m_printNoteIsDue.setSingleShot(true);
+    m_printNoteIsDue.setInterval(PrintNoteMilliseconds);
+    connect(&m_printNoteIsDue, &QTimer::timeout, this, &oAllPurposeBox::refreshPrintNote);
     connect(m_text, &oSpellText::KeyRelease, this, &oAllPurposeBox::keyReleased);
     m_text->installEventFilter(this);
     layOut();
@@ -156,7 +166,8 @@ void oAllPurposeBox::keyReleased(int KeyCode)
 void oAllPurposeBox::refreshCount()
 {
     if (m_characterAllowance == 0) {
-        m_text->setAccessibleDescription({});
+        m_countInWords.clear();
+        describe();
         return;
     }
     const clsCharacterCount count(m_characterAllowance, Text().size(), m_overRun);
@@ -169,9 +180,43 @@ void oAllPurposeBox::refreshCount()
     m_count->setText(count.text);
     m_count->setToolTip(count.words);
     m_count->setAccessibleDescription(count.words);
-    m_text->setAccessibleDescription(count.words);
+    m_countInWords = count.words;
+    describe();
     // Only a number of five figures needs more than the usual width.
-    m_count->setFixedWidth(qMax(Theme::scaled(44), m_count->sizeHint().width()));
+    m_count->setFixedWidth(qMax(Theme::scaled(CountWidth), m_count->sizeHint().width()));
+    placeSign();
+}
+
+void oAllPurposeBox::describe()
+{
+    const QString &print = m_sign->Note().words;
+    m_text->setAccessibleDescription(
+        print.isEmpty() ? m_countInWords : QStringLiteral("%1. %2").arg(m_countInWords, print));
+}
+
+void oAllPurposeBox::setPrintNote(std::function<clsPrintNote(const QString &text)> note)
+{
+    m_printNote = std::move(note);
+    m_printNoteIsDue.start();
+}
+
+void oAllPurposeBox::refreshPrintNote()
+{
+    if (!m_printNote)
+        return;
+    m_sign->setNote(m_printNote(Text()));
+    describe();
+}
+
+void oAllPurposeBox::placeSign()
+{
+    const QSize size = m_sign->sizeHint();
+    // Under the number; beside it in a box of one line.
+    const int number = m_count->fontMetrics().horizontalAdvance(m_count->text());
+    const QPoint place = MultiLine()
+        ? QPoint(0, m_count->contentsMargins().top() + m_count->fontMetrics().height() + Theme::Space4)
+        : QPoint(qMin(number + Theme::Space4, m_count->width() - size.width()), (m_text->height() - size.height()) / 2);
+    m_sign->setGeometry(QRect(place, size));
 }
 
 void oAllPurposeBox::layOut()
@@ -197,6 +242,8 @@ void oAllPurposeBox::changeEvent(QEvent *event)
 
 bool oAllPurposeBox::eventFilter(QObject *watched, QEvent *event)
 {
+    if (event->type() == QEvent::Resize)
+        placeSign();
     if (event->type() == QEvent::Show || event->type() == QEvent::FocusIn)
         passNameOn();
     return QWidget::eventFilter(watched, event);

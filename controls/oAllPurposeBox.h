@@ -1,5 +1,8 @@
 #pragma once
 
+#include "controls/oPrintSign.h"
+
+#include <QTimer>
 #include <QWidget>
 
 #include <functional>
@@ -37,6 +40,9 @@ public:
     int CharacterAllowance() const { return m_characterAllowance; }
     void setCharacterAllowance(int characterAllowance);
 
+    /// What tells how a text is printed that doesn't fit its box on the form. It is asked a moment after each change.
+    void setPrintNote(std::function<clsPrintNote(const QString &text)> note);
+
     /// The caret in characters of the text, a line break as two.
     int SelStart() const;
     void setSelStart(int position);
@@ -55,11 +61,18 @@ protected:
 private:
     void keyReleased(int KeyCode);
     void refreshCount();
+    void refreshPrintNote();
+    void describe();
+    void placeSign();
     void layOut();
     void passNameOn();
 
     oSpellText *m_text;
     QLabel *m_count;
+    oPrintSign *m_sign;
+    std::function<clsPrintNote(const QString &text)> m_printNote;
+    QTimer m_printNoteIsDue;
+    QString m_countInWords;
     bool m_allowReplacements = true;
     bool m_overRun = false;
     int m_characterAllowance = 0;

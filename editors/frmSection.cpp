@@ -19,6 +19,7 @@
 #include "editors/mdCheckForBlanks.h"
 #include "editors/mdConfirmCancelEdit.h"
 #include "editors/mdExclusiveTicks.h"
+#include "editors/mdPrintNotes.h"
 #include "editors/mdScreenControls.h"
 #include "editors/mdScreenLetters.h"
 #include "editors/mdSectionRoutes.h"
@@ -99,6 +100,7 @@ frmSection::frmSection(const clsScreen &screen, QWidget *parent)
 
     makeTicksExclusive();
     buildLists();
+    mdShowPrintNotes(screen, m_fields);
     if (screen.rules)
         screen.rules(*this);
 }

@@ -62,6 +62,12 @@ QString mdScreenName(const QString &section)
     return row ? QString::fromUtf8(row->table().name) : QString();
 }
 
+const clsScreen *mdScreenOf(const QString &section)
+{
+    const clsSection *row = sectionOf(section);
+    return row ? &row->table() : nullptr;
+}
+
 QStringList mdSectionTexts()
 {
     QStringList texts;

@@ -155,6 +155,23 @@ QString clsWindowUserInterface::chooseFileToSave(const QString &filter, const QS
     return chosen(withExtension(dialog.Choose(), defaultExtension));
 }
 
+QString clsWindowUserInterface::chooseFileToExport(
+    const QString &filter, const QString &extension, const QString &proposed)
+{
+    oFileDialog dialog(mdWindowInFront(), QStringLiteral("Export"), startFolder(QFileInfo(proposed).path()));
+    dialog.setNameFilters(nameFilters(filter));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setDefaultSuffix(extension);
+    dialog.selectFile(QFileInfo(proposed).fileName());
+    const QString given = dialog.Choose();
+    const QString path = withExtension(given, extension);
+    // The dialog has asked about the name that was typed, and not about the one that it has become.
+    if (path.isEmpty() || (path != given && !ConfirmOverwrite(path)))
+        return {};
+    return chosen(path);
+}
+
 void clsWindowUserInterface::playSound(const QString &path)
 {
     // Later, since the first sound wakes the desktop's audio, which can take longer than the box that it announces.

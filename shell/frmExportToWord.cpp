@@ -16,9 +16,11 @@
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
 #include "shell/clsLongWork.h"
+#include "shell/mdExportOutcome.h"
 #include "wordexport/clsExport.h"
 #include "wordexport/mdExportDriver.h"
 #include "wordexport/mdExportWordCombineDocuments.h"
+#include "wordexport/mdForecast.h"
 #include "wordexport/mdWordAlreadyRunning.h"
 
 #include <QFileInfo>
@@ -29,12 +31,17 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 frmExportToWord::frmExportToWord(QWidget *parent)
     : QDialog(parent)
     , bxGeneral(new oFrame(this))
     , txtExportPath(new QLineEdit(bxGeneral))
     , cmdExportPathBrowse(button("cmdExportPathBrowse", QStringLiteral("&Browse...")))
+    , cmdBesideTheClaim(button("cmdBesideTheClaim", QStringLiteral("Beside the C&laim")))
     , cmdOpenExportFolder(button("cmdOpenExportFolder", QStringLiteral("&Open")))
+    , cmdOpenDocument(button("cmdOpenDocument", QStringLiteral("Open &Document")))
+    , lblOutcome(new QLabel(bxGeneral))
     , cmdExport(button("cmdExport", QStringLiteral("&Export")))
     , cmdClose(button("cmdClose", QStringLiteral("&Close")))
 {
@@ -44,6 +51,8 @@ frmExportToWord::frmExportToWord(QWidget *parent)
     build();
     connect(txtExportPath, &QLineEdit::textChanged, this, &frmExportToWord::txtExportPath_Change);
     connect(cmdExportPathBrowse, &oCustomButton::Click, this, &frmExportToWord::cmdExportPathBrowse_Click);
+    connect(cmdBesideTheClaim, &oCustomButton::Click, this, &frmExportToWord::cmdBesideTheClaim_Click);
+    connect(cmdOpenDocument, &oCustomButton::Click, this, &frmExportToWord::cmdOpenDocument_Click);
     connect(cmdOpenExportFolder, &oCustomButton::Click, this, &frmExportToWord::cmdOpenExportFolder_Click);
     connect(cmdExport, &oCustomButton::Click, this, &frmExportToWord::cmdExport_Click);
     connect(cmdClose, &oCustomButton::Click, this, &QDialog::reject);
@@ -80,9 +89,28 @@ void frmExportToWord::build()
     row->addWidget(label);
     row->addSpacing(Theme::Space4);
     row->addWidget(txtExportPath, 1);
-    row->addWidget(cmdExportPathBrowse);
-    row->addWidget(cmdOpenExportFolder);
+    auto *buttons = new QHBoxLayout;
+    buttons->setSpacing(Theme::Space8);
+    buttons->addWidget(cmdExportPathBrowse);
+    buttons->addWidget(cmdBesideTheClaim);
+    buttons->addStretch(1);
+    buttons->addWidget(cmdOpenExportFolder);
+    buttons->addWidget(cmdOpenDocument);
+    bxGeneral->bodyLayout()->setSpacing(Theme::Space12);
     bxGeneral->bodyLayout()->addLayout(row);
+    bxGeneral->bodyLayout()->addLayout(buttons);
+
+    cmdBesideTheClaim->setEnabled(!Document().filePath().isEmpty());
+    if (!cmdBesideTheClaim->isEnabled())
+        cmdBesideTheClaim->setToolTip(QStringLiteral("The claim has not been saved yet."));
+    cmdOpenDocument->setEnabled(false);
+    lblOutcome->setObjectName(QStringLiteral("lblOutcome"));
+    lblOutcome->setTextFormat(Qt::PlainText);
+    lblOutcome->setWordWrap(true);
+    // Room for two lines from the beginning, so that nothing moves when there is something to say.
+    lblOutcome->setMinimumHeight(2 * lblOutcome->fontMetrics().lineSpacing());
+    lblOutcome->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    bxGeneral->bodyLayout()->addWidget(lblOutcome);
 
     cmdExport->setLook(oCustomButton::Look::Default);
     auto *bar = new oButtonBar(this);
@@ -90,7 +118,8 @@ void frmExportToWord::build()
     bar->AddButton(cmdClose);
     oButtonBar::layOut(*this, header, bxGeneral, bar);
     setMinimumWidth(Theme::scaled(640));
-    QWidget *const order[] = {txtExportPath, cmdExportPathBrowse, cmdOpenExportFolder, cmdExport, cmdClose};
+    QWidget *const order[] = {txtExportPath, cmdExportPathBrowse, cmdBesideTheClaim, cmdOpenExportFolder,
+        cmdOpenDocument, cmdExport, cmdClose};
     for (size_t i = 1; i < std::size(order); ++i)
         setTabOrder(order[i - 1], order[i]);
 }
@@ -116,6 +145,26 @@ void frmExportToWord::cmdExportPathBrowse_Click()
     const QString folder = GetFolder(QStringLiteral("Please select a folder to export to..."), txtExportPath->text());
     if (!folder.isEmpty())
         txtExportPath->setText(folder);
+}
+
+void frmExportToWord::cmdBesideTheClaim_Click()
+{
+    txtExportPath->setText(QFileInfo(Document().filePath()).absolutePath());
+}
+
+void frmExportToWord::cmdOpenDocument_Click()
+{
+    ShellOpen(m_document);
+}
+
+void frmExportToWord::showOutcome(const QString &document, const QString &text)
+{
+    m_document = document;
+    cmdOpenDocument->setEnabled(!document.isEmpty());
+    lblOutcome->setText(text);
+    // More than the two lines that have their room.
+    lblOutcome->setMinimumHeight(
+        std::max(lblOutcome->minimumHeight(), lblOutcome->heightForWidth(lblOutcome->width())));
 }
 
 void frmExportToWord::cmdOpenExportFolder_Click()
@@ -164,6 +213,10 @@ bool frmExportToWord::exportForm()
     run.claimFile = Document().filePath();
     run.mayReplace = m_mayReplace;
     const bool finished = driver(run);
+    if (finished) {
+        const QString document = mdFinishedDocumentPath(run.exportFolder, run.form.FormType());
+        showOutcome(document, mdExportOutcome(document, mdForecastOf(run)));
+    }
     if (run.stoppedAtDocument)
         mdCustomMessages(QStringLiteral("Another program has just made this document in the folder. It was not "
                                         "replaced. To replace it, export again."),
@@ -175,6 +228,7 @@ void frmExportToWord::cmdExport_Click()
 {
     if (!mayExport())
         return;
+    showOutcome({}, {});
     setEnabled(false);
     const bool finished = exportForm();
     setEnabled(true);

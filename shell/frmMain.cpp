@@ -18,6 +18,8 @@
 #include "controls/oTabBar.h"
 #include "controls/oTimeSpentBox.h"
 #include "costing/mdCheckForBlankItems.h"
+#include "editors/mdEnterField.h"
+#include "editors/mdFieldPlace.h"
 #include "editors/mdSections.h"
 #include "editors/mdShowPreferences.h"
 #include "editors/mdUnloadAndDummyTabClick.h"
@@ -26,10 +28,14 @@
 #include "formdata/mdGlobals.h"
 #include "formdata/mdSectionTabs.h"
 #include "preview/mdPreview.h"
+#include "preview/oFormPages.h"
+#include "preview/oPageView.h"
 #include "preview/oPreviewGrid.h"
 #include "preview/oPreviewSheet.h"
+#include "shell/clsFormPages.h"
 #include "shell/clsLongWork.h"
 #include "shell/frmAbout.h"
+#include "shell/frmExportAsPdf.h"
 #include "shell/frmExportToWord.h"
 #include "shell/mdMainMenu.h"
 #include "shell/oApplication.h"
@@ -42,6 +48,7 @@
 #include <QResizeEvent>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QStackedLayout>
 #include <QTimer>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -71,6 +78,9 @@ frmMain::frmMain(QWidget *parent)
     , tbSubSection(new oTabBar)
     , pctPreview(new oPreviewSheet)
     , sgPreview(pctPreview->Grid())
+    , m_formPages(new oFormPages)
+    , m_previews(new QStackedLayout)
+    , m_pages(new clsFormPages(*m_formPages, this))
     , oFooter(new oFooterBar)
     , tmrAutoBackup(new QTimer(this))
 {
@@ -86,7 +96,14 @@ frmMain::frmMain(QWidget *parent)
     SetOpenSection([this](const QString &text) { tbSubSection_Click(-1, text); });
     // From a box of whatever screen is open, over that screen.
     SetEditReplacements([] { mdShowPreferences(QApplication::activeWindow(), ReplacementsPage); });
-    SetFormDisplay({[this] { Activate(); }, mdClearPreview, [this] { oFooter->TimeSpentTimer()->StopTimer(); }});
+    connect(m_formPages->View(), &oPageView::BoxChosen, this, &frmMain::OpenField);
+    connect(m_formPages, &oFormPages::ExportAsPdf, this, &frmMain::ExportAsPdf);
+    // The stopwatch stops wherever another claim takes the place of this one.
+    const auto stopTimer = [this] {
+        oFooter->TimeSpentTimer()->StopTimer();
+        m_pages->Forget();
+    };
+    SetFormDisplay({[this] { Activate(); }, mdClearPreview, stopTimer});
 }
 
 frmMain::~frmMain()
@@ -117,7 +134,9 @@ void frmMain::build()
     layout->addWidget(oHeader);
     layout->addWidget(tbSection);
     layout->addWidget(tbSubSection);
-    layout->addWidget(pctPreview, 1);
+    m_previews->addWidget(pctPreview);
+    m_previews->addWidget(m_formPages);
+    layout->addLayout(m_previews, 1);
     layout->addWidget(oFooter);
     setCentralWidget(centre);
     mdBuildMainMenu(*this);
@@ -192,11 +211,25 @@ void frmMain::tbSubSection_Click(int index, const QString &tag)
         if (!screen)
             continue;
         shown = true;
+        if (const QString field = std::exchange(m_nextField, QString()); !field.isEmpty())
+            QTimer::singleShot(0, screen.get(), [&window = *screen, field] {
+                if (auto *control = window.findChild<QWidget *>(field))
+                    mdEnterField(*control);
+            });
         const QScopedValueRollback<bool> modal(m_modal, true);
         mdShowModal(*screen);
     }
     if (shown)
         Activate();
+}
+
+void frmMain::OpenField(const QString &property)
+{
+    const auto place = mdFieldPlace(property);
+    if (!place || m_sectionOpen)
+        return;
+    m_nextField = place->control;
+    tbSubSection_Click(-1, place->section);
 }
 
 void frmMain::whileModal(const std::function<void()> &show)
@@ -266,7 +299,8 @@ void frmMain::drawForShownWidth()
     m_grows = false;
     // Where the desktop gave the window another size than it asked for, the first drawing has not the sheet's width.
     // Not inside work that lets events through: the claim may be half loaded.
-    if (m_loaded && !m_drawingFollows && !clsLongWork::isRunning() && m_drawnWidth != sgPreview->width())
+    if (m_loaded && !showsFormPages() && !m_drawingFollows && !clsLongWork::isRunning()
+        && m_drawnWidth != sgPreview->width())
         drawPreview(m_previewKind);
 }
 
@@ -293,14 +327,43 @@ void frmMain::redraw(void (*routine)(clsPreviewKind))
     routine(m_previewKind);
 }
 
+bool frmMain::showsFormPages() const
+{
+    return m_previews->currentWidget() == m_formPages;
+}
+
+void frmMain::returnToGrid()
+{
+    if (!showsFormPages())
+        return;
+    const bool focus = m_formPages->isAncestorOf(focusWidget());
+    m_previews->setCurrentWidget(pctPreview);
+    if (focus)
+        sgPreview->setFocus();
+}
+
+void frmMain::FormPages()
+{
+    m_previews->setCurrentWidget(m_formPages);
+    m_formPages->TakeFocus();
+    m_pages->Show();
+}
+
 void frmMain::drawPreview(clsPreviewKind kind)
 {
+    returnToGrid();
     m_previewKind = kind;
     redraw(mdDrawPreview);
 }
 
 void frmMain::refreshPreview()
 {
+    // The grid is drawn when it is returned to.
+    if (showsFormPages()) {
+        if (!m_drawingFollows && Form && Preferences)
+            m_pages->Activate(Preferences->AutoRefreshPreview());
+        return;
+    }
     if (!m_drawingFollows && Form && Preferences && Preferences->AutoRefreshPreview())
         redraw(mdRefreshPreview);
 }
@@ -372,6 +435,11 @@ void frmMain::ExportToWord()
     }
     frmExportToWord dialog(this);
     whileModal([&dialog] { mdShowModal(dialog); });
+}
+
+void frmMain::ExportAsPdf()
+{
+    whileModal([this] { mdExportAsPdf(m_pages->CurrentPdf(), this); });
 }
 
 void frmMain::ShowPreferences()

@@ -9,8 +9,11 @@
 
 class QDialog;
 class QMenu;
+class QStackedLayout;
 class QTimer;
+class clsFormPages;
 class oFooterBar;
+class oFormPages;
 class oHeaderBar;
 class oPreviewGrid;
 class oPreviewSheet;
@@ -37,6 +40,8 @@ public:
     /// Opens the screen of a text, as a click on its tab does. While a screen is open the text is remembered, and its
     /// screen follows when that one is gone. An unknown or empty text does nothing.
     void tbSubSection_Click(int index, const QString &tag);
+    /// Opens the screen on which a property is entered, with the focus on its field.
+    void OpenField(const QString &property);
     /// One tick of the timer for backups.
     void tmrAutoBackup_Timer();
 
@@ -48,11 +53,13 @@ public:
     void Save();
     void SaveAs();
     void ExportToWord();
+    void ExportAsPdf();
     void Exit() { close(); }
     void ShowPreferences();
     void CheckForBlank();
     void PreviewScheduleOfTime() { drawPreview(clsPreviewKind::ScheduleOfTime); }
     void PreviewAdditionalInformation() { drawPreview(clsPreviewKind::AdditionalInformation); }
+    void FormPages();
     void UserGuide();
     void KeyboardShortcutsList();
     void MakeASuggestion();
@@ -83,6 +90,9 @@ private:
     void tbSection_Click();
     void whileModal(const std::function<void()> &show);
     void drawPreview(clsPreviewKind kind);
+    /// The grid of the preview takes the place of the form pages.
+    void returnToGrid();
+    bool showsFormPages() const;
     void drawForShownWidth();
     void refreshPreview();
     void redraw(void (*routine)(clsPreviewKind));
@@ -97,6 +107,9 @@ private:
     oTabBar *tbSubSection;
     oPreviewSheet *pctPreview;
     oPreviewGrid *sgPreview;
+    oFormPages *m_formPages;
+    QStackedLayout *m_previews;
+    clsFormPages *m_pages;
     oFooterBar *oFooter;
     QTimer *tmrAutoBackup;
 
@@ -105,6 +118,7 @@ private:
     int m_drawnWidth = 0;
     QString m_backupTag;
     QString m_nextSection;
+    QString m_nextField;
     bool m_sectionOpen = false;
     bool m_loaded = false;
     bool m_wasShown = false;

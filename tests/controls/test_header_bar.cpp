@@ -167,7 +167,7 @@ TEST(Icons, SectionsAreToldByTheirWindow)
 TEST(Icons, EveryGlyphDrawsSomethingOfItsOwn)
 {
     std::vector<QImage> seen;
-    for (int number = int(Glyph::None) + 1; number <= int(Glyph::List); ++number) {
+    for (int number = int(Glyph::None) + 1; number <= int(Glyph::RunsOn); ++number) {
         const QImage picture = mdGlyphIcon(Glyph(number), Theme::Ink).pixmap(QSize(20, 20), 1).toImage();
         bool inked = false;
         for (int y = 0; y < 20; ++y)

@@ -12,7 +12,7 @@ FLOORS = {
     "commands": ("base", "formdata"),
     "controls": ("base", "formdata"),
     "preview": ("base", "formdata", "costing", "controls"),
-    "editors": ("base", "formdata", "costing", "commands", "controls"),
+    "editors": ("base", "formdata", "costing", "wordexport/document", "wordexport", "commands", "controls"),
     "shell": ("base", "formdata", "costing", "wordexport/document", "wordexport", "commands", "controls", "preview",
               "editors"),
     "programs/zr3tool": ("base", "formdata", "costing", "wordexport/document", "wordexport"),

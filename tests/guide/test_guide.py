@@ -165,7 +165,7 @@ class Sources(unittest.TestCase):
     def test_every_menu_entry_and_preference_is_told(self):
         menus = (ROOT / "shell/mdMainMenu.cpp").read_text(encoding="utf-8")
         entries = [entry.replace("&", "") for entry in re.findall(r'\{"&\w+",\s*"([^"]+)"', menus)]
-        self.assertEqual(len(entries), 14)
+        self.assertEqual(len(entries), 16)
         preferences = (ROOT / "editors/frmPreferences.cpp").read_text(encoding="utf-8")
         captions = re.findall(r'\{(?:Decimal|Tick|Text),\s*"\w+",\s*"([^"*]+)\*?"', preferences)
         self.assertEqual(len(captions), 7)
@@ -200,7 +200,8 @@ class Sources(unittest.TestCase):
 class Keys(unittest.TestCase):
     """The keys of the program are those of the table."""
 
-    NAMES = {"Return": "Enter", "Backtab": "Shift+Tab", "Escape": "Esc"}
+    NAMES = {"Return": "Enter", "Backtab": "Shift+Tab", "Escape": "Esc", "Plus": "Ctrl+Plus", "Equal": "Ctrl+Plus",
+             "Minus": "Ctrl+Minus", "0": "Ctrl+0"}
     # Told with the keys that they go with; the last two only say which keys type a character.
     PARTS = {"Alt", "F10", "S", "Backspace", "ydiaeresis"}
 
@@ -211,13 +212,14 @@ class Keys(unittest.TestCase):
 
     def test_menu_keys(self):
         keys = re.findall(r'"(Ctrl\+\w)"', self.sources.files["shell/mdMainMenu.cpp"])
-        self.assertEqual(len(keys), 8)
+        self.assertEqual(len(keys), 9)
         self.assertLessEqual(set(keys), self.keys)
 
     def test_no_other_file_sets_a_shortcut(self):
         for file, code in self.sources.files.items():
             for set_here in re.findall(r"(?:setShortcut|QShortcut)\(([^;]*)\);", code):
-                if file not in ("shell/mdMainMenu.cpp", "editors/oScreenFrame.cpp"):  # the menus; letters with Alt
+                # The menus; letters with Alt; what enlarges pages.
+                if file not in ("shell/mdMainMenu.cpp", "editors/oScreenFrame.cpp", "preview/oFormPages.cpp"):
                     self.assertIn("Qt::CTRL | Qt::Key_S", set_here, file)
             for standard in re.findall(r"QKeySequence::(\w+)", code):
                 self.assertIn(standard, ("mnemonic", "InsertLineSeparator", "Paste"), file)
@@ -300,7 +302,7 @@ class Messages(unittest.TestCase):
                 self.assertIn(file, ("controls/frmMessageBox.h", "controls/frmMessageBox.cpp", "shell/clsWindowUserInterface.cpp"))
             self.assertLessEqual(set(re.findall(r"UserInterface\(\)\.(\w+)", code)), {
                 "customMessage", "systemMessage", "showProgress", "clearProgress", "chooseFolder", "chooseFileToOpen",
-                "chooseFileToSave", "playSound", "openTarget"}, file)
+                "chooseFileToSave", "chooseFileToExport", "playSound", "openTarget"}, file)
 
     def test_every_text_has_its_entry(self):
         for call in self.calls:

@@ -52,7 +52,7 @@ class Contents(unittest.TestCase):
 
     def test_it_depends_on_what_it_runs_with(self):
         depends = {word.split()[0] for word in field("Depends").split(",")}
-        for package in ("hunspell-en-gb", "libc6", "libqt6widgets6", "libqt6gui6", "libqt6core6", "libqt6multimedia6",
+        for package in ("hunspell-en-gb", "libc6", "libqt6widgets6", "libqt6gui6", "libqt6core6", "libqt6multimedia6", "libqt6pdf6",
                         "libhunspell-1.7-0", "libpugixml1v5", "libzip4"):
             self.assertIn(package, depends)
 

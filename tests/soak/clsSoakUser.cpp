@@ -57,6 +57,11 @@ QString clsSoakUser::chooseFileToSave(const QString &, const QString &)
     return path;
 }
 
+QString clsSoakUser::chooseFileToExport(const QString &, const QString &extension, const QString &)
+{
+    return m_dice.chance(10) ? QString() : m_folder + QStringLiteral("/export/pages") + extension;
+}
+
 bool clsSoakUser::openTarget(const QString &)
 {
     return m_dice.chance(80);

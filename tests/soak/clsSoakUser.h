@@ -41,6 +41,7 @@ public:
     QString chooseFolder(const QString &prompt, const QString &start) override;
     QString chooseFileToOpen(const QString &filter) override;
     QString chooseFileToSave(const QString &filter, const QString &defaultExtension) override;
+    QString chooseFileToExport(const QString &filter, const QString &extension, const QString &proposed) override;
     void playSound(const QString &) override { }
     bool openTarget(const QString &target) override;
 

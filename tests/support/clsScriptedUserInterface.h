@@ -34,6 +34,7 @@ public:
     int progressCleared = 0;
     QStringList prompts;
     QStringList starts; ///< where each choice of a folder was to begin
+    QStringList proposed; ///< for each file to export to
     QStringList sounds;
     QStringList opened;
     bool opens = true; ///< whether there is a program for what is opened
@@ -61,6 +62,11 @@ public:
     }
     QString chooseFileToOpen(const QString &) override { return next(files); }
     QString chooseFileToSave(const QString &, const QString &) override { return next(files); }
+    QString chooseFileToExport(const QString &, const QString &, const QString &path) override
+    {
+        proposed << path;
+        return next(files);
+    }
     void playSound(const QString &path) override { sounds << path; }
     bool openTarget(const QString &target) override
     {

@@ -8,10 +8,13 @@
 #include "controls/oHeaderBar.h"
 #include "shell/clsLongWork.h"
 #include "shell/frmExportToWord.h"
+#include "shell/mdExportOutcome.h"
 #include "tests/window/clsWindowTest.h"
+#include "wordexport/clsForecast.h"
 #include "wordexport/document/clsMSWord.h"
 #include "wordexport/mdWordAlreadyRunning.h"
 
+#include <QLabel>
 #include <QLineEdit>
 
 namespace {
@@ -145,6 +148,87 @@ TEST_F(ExportToWord, BrowseAsksForAFolder)
     EXPECT_EQ(path("claims"), Form->ExportPath());
     press("cmdExportPathBrowse");
     EXPECT_EQ(path("claims"), box->text());
+}
+
+TEST_F(ExportToWord, BesideTheClaimPutsTheClaimsFolderIntoTheBox)
+{
+    const QString claim = path("claims/mine.zr3");
+    Form->Version = GetVersionInfo();
+    Form->SaveXML(claim);
+    OpenFormFile(claim);
+    open(path("out"));
+    EXPECT_TRUE(control<oCustomButton>(*dialog, "cmdBesideTheClaim").isEnabled());
+    press("cmdBesideTheClaim");
+    EXPECT_EQ(path("claims"), box->text());
+    EXPECT_EQ(path("claims"), Form->ExportPath());
+}
+
+TEST_F(ExportToWord, BesideTheClaimIsOffForAClaimNeverSaved)
+{
+    open(path("out"));
+    const auto &button = control<oCustomButton>(*dialog, "cmdBesideTheClaim");
+    EXPECT_EQ(QStringLiteral("Beside the Claim"), button.Caption());
+    EXPECT_FALSE(button.isEnabled());
+    EXPECT_EQ(QStringLiteral("The claim has not been saved yet."), button.toolTip());
+}
+
+TEST_F(ExportToWord, SaysWhatItGaveAndOpensIt)
+{
+    includeOnlyPage1();
+    Form->ClientDetails.FirstName = QString(30, u'W');
+    open(path("out"));
+    const auto &line = control<QLabel>(*dialog, "lblOutcome");
+    const auto &opener = control<oCustomButton>(*dialog, "cmdOpenDocument");
+    EXPECT_EQ(QStringLiteral("Open Document"), opener.Caption());
+    EXPECT_EQ(QString(), line.text());
+    EXPECT_FALSE(opener.isEnabled());
+
+    press("cmdExport");
+    EXPECT_EQ(QStringLiteral("Claim1.doc is in %1: 1 sheet on 1 page of paper. Printed smaller: First Name (Client "
+                             "Details).")
+                  .arg(path("out")),
+        line.text());
+    ASSERT_TRUE(opener.isEnabled());
+    press("cmdOpenDocument");
+    EXPECT_EQ(QStringList(path("out/Claim1.doc")), user.opened);
+
+    // An export that gives nothing takes the line back.
+    Form->FormType = QStringLiteral("Claim9");
+    press("cmdExport");
+    EXPECT_EQ(QString(), line.text());
+    EXPECT_FALSE(opener.isEnabled());
+}
+
+TEST_F(ExportToWord, NamesAFewOfManyTextsPrintedSmaller)
+{
+    clsForecast given;
+    given.Sheets
+        = {{7, QStringLiteral("7(1)"), QStringLiteral("a"), 1}, {7, QStringLiteral("7(2)"), QStringLiteral("b"), 2}};
+    for (int row = 1; row <= 6; ++row)
+        given.Boxes.push_back({.Sheet = QStringLiteral("7(2)"),
+            .Placeholder = {},
+            .Property = {},
+            .Row = row,
+            .Column = 2,
+            .Size = 9,
+            .PrintedSize = 8,
+            .Lines = 2,
+            .State = row == 6 ? clsForecast::Box::Cut : clsForecast::Box::Smaller});
+    given.Boxes.push_back(given.Boxes.front()); // another column of the same row
+    given.Boxes.push_back({.Sheet = QStringLiteral("7(1)"),
+        .Placeholder = QStringLiteral("{address}"),
+        .Property = QStringLiteral("DebtorsDetails.Address"),
+        .Row = 0,
+        .Column = 0,
+        .Size = 10,
+        .PrintedSize = 6,
+        .Lines = 20,
+        .State = clsForecast::Box::RunsOn});
+    EXPECT_EQ(
+        QStringLiteral("Claim1.doc is in /claims: 2 sheets on 3 pages of paper. Printed smaller: sheet 7(2), row 1; "
+                       "sheet 7(2), row 2; sheet 7(2), row 3; sheet 7(2), row 4; 1 more. Running on to another "
+                       "page: Address (Debtor's Details). Cut: sheet 7(2), row 6."),
+        mdExportOutcome(QStringLiteral("/claims/Claim1.doc"), given));
 }
 
 TEST_F(ExportToWord, OpenOpensTheFolder)

@@ -481,6 +481,38 @@ TEST_F(WindowUserInterface, TheExtensionIsThereBeforeTheQuestionAboutOverwriting
     EXPECT_FALSE(QFile::exists(path("claims/Smith v. Jones")));
 }
 
+TEST_F(WindowUserInterface, ExportingProposesANameAndReplacesNothingUnasked)
+{
+    const QString filter = QStringLiteral("PDF Documents (*.pdf)|*.pdf");
+    const QString proposed = path("claims/Smith.pdf");
+    const clsUserInterfaceScope scope(windows);
+    whenShown<QFileDialog>([this](QFileDialog &dialog) {
+        EXPECT_EQ(QFileDialog::AcceptSave, dialog.acceptMode());
+        EXPECT_FALSE(dialog.testOption(QFileDialog::DontConfirmOverwrite)) << "the dialog asks";
+        EXPECT_EQ(path("claims"), dialog.directory().absolutePath());
+        EXPECT_EQ(QStringLiteral("Smith.pdf"), control<QLineEdit>(dialog, "fileNameEdit").text());
+        QMetaObject::invokeMethod(&dialog, "accept");
+    });
+    EXPECT_EQ(proposed, windows.chooseFileToExport(filter, QStringLiteral(".pdf"), proposed));
+
+    // The name that the dialog has asked about is not yet the whole.
+    QFile other(path("claims/Smith v. Jones.pdf"));
+    ASSERT_TRUE(other.open(QIODevice::WriteOnly));
+    for (const char *answer : {"cmdNo", "cmdYes"}) {
+        whenShown<QFileDialog>([this, answer](QFileDialog &dialog) {
+            control<QLineEdit>(dialog, "fileNameEdit").setText(QStringLiteral("Smith v. Jones"));
+            whenShown<frmMessageBox>([answer](frmMessageBox &box) {
+                EXPECT_EQ(QStringLiteral("Overwrite?"), box.windowTitle());
+                QTest::mouseClick(&control<QPushButton>(box, answer), Qt::LeftButton);
+            });
+            QMetaObject::invokeMethod(&dialog, "accept");
+        });
+        EXPECT_EQ(QLatin1String(answer) == QLatin1String("cmdYes") ? other.fileName() : QString(),
+            windows.chooseFileToExport(filter, QStringLiteral(".pdf"), proposed));
+    }
+    EXPECT_EQ(5, shown);
+}
+
 TEST_F(WindowUserInterface, ProgressGoesToItsDisplayAndLetsTheWindowsRepaint)
 {
     QStringList seen;

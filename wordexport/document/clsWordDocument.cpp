@@ -107,6 +107,11 @@ int clsWordDocument::paperPages()
     return mdPaperPages(body(), *looks());
 }
 
+std::vector<clsPlaceholderPlace> clsWordDocument::placeholderPlaces()
+{
+    return mdPlaceholderPlaces(body(), *looks());
+}
+
 std::shared_ptr<const clsWordLooks> clsWordDocument::looks()
 {
     return clsWordLooks::ofStyles(styles());

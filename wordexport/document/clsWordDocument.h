@@ -6,6 +6,7 @@
 #include "wordexport/document/clsWordPackage.h"
 #include "wordexport/document/clsWordTyped.h"
 #include "wordexport/document/mdWordFit.h"
+#include "wordexport/document/mdWordPlaces.h"
 
 #include <map>
 #include <memory>
@@ -32,6 +33,8 @@ public:
     std::vector<clsFittedText> fit();
     /// How many paper pages it takes when it is printed as a sheet of a joined document.
     int paperPages();
+    /// Where the placeholders of its table cells are printed.
+    std::vector<clsPlaceholderPlace> placeholderPlaces();
     /// What the document's file would hold.
     const clsZipPackage &content() { return m_package.content(); }
     /// Writes the document back to its file.

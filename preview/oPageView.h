@@ -1,0 +1,87 @@
+#pragma once
+
+#include <QAbstractScrollArea>
+#include <QRectF>
+#include <QString>
+
+#include <vector>
+
+class clsPdfPages;
+
+/// A box of a page that leads to where it is filled in.
+struct clsPageBox {
+    int page; ///< from 0
+    QRectF points; ///< from the corner of the paper
+    QString words; ///< what it does, for the tooltip and the screen reader
+    QString target; ///< for whoever opens it
+};
+
+/// The pages of a document one below the other, as a sheet of paper each. It draws those in view and no others, so that
+/// three hundred pages scroll as one. Pages are counted from 0.
+class oPageView : public QAbstractScrollArea {
+    Q_OBJECT
+
+public:
+    explicit oPageView(QWidget *parent = nullptr);
+
+    /// Shows other pages, at the place of the old ones. They must live as long as they are shown; null for none.
+    void setPages(clsPdfPages *pages);
+
+    /// What can be clicked on them, in the order of the pages.
+    void setBoxes(std::vector<clsPageBox> boxes);
+    /// The box that is marked; -1 for none.
+    int MarkedBox() const { return m_marked; }
+    /// Where a box stands in the view.
+    QRect PlaceOfBox(int box) const;
+
+    /// How large the pages are, in per cent of their size on paper.
+    int Zoom() const;
+    void setZoom(int percent);
+    /// Makes the widest page as wide as the view, at most a quarter larger than on paper; also when the view's width
+    /// changes, until the zoom is set.
+    void FitWidth();
+    bool FitsWidth() const { return m_fitsWidth; }
+
+    /// The page in the middle of the view, or the one last gone to; -1 without pages.
+    int CurrentPage() const { return m_current; }
+    void GoTo(int page);
+
+signals:
+    void CurrentPageChanged();
+    void ZoomChanged();
+    void BoxMarked(const QString &words);
+    void BoxChosen(const QString &target);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    void layOut();
+    void takeZoom(double scale);
+    double scaleThatFits() const;
+    int pageAt(int y) const;
+    int pageInView() const;
+    int boxAt(const QPoint &place) const;
+    void markBox(int box);
+    QRect placeOf(int page) const;
+    void noteCurrentPage();
+
+    clsPdfPages *m_pages = nullptr;
+    double m_scale = 1;
+    bool m_fitsWidth = true;
+    std::vector<int> m_tops; ///< of the pages; one more, for the end
+    int m_width = 0;
+    int m_current = -1;
+    std::vector<clsPageBox> m_boxes;
+    int m_marked = -1;
+};

@@ -43,8 +43,8 @@ private:
 };
 
 /// All that is worked out for one item of the schedule. A figure that fails in the item's own member fails here with
-/// the same error, which is noted: its place then holds nothing that counts. It takes one line of the processor's cache:
-/// whoever walks the bill in the user's order goes to and fro among them.
+/// the same error, which is noted: its place then holds nothing that counts. It takes one line of the processor's
+/// cache: whoever walks the bill in the user's order goes to and fro among them.
 struct alignas(64) clsSchedulePrice {
     enum Figure {
         InitialsFigure,

@@ -86,7 +86,12 @@ class Claim:
 def paragraphs(path):
     with zipfile.ZipFile(path) as package:
         body = ElementTree.fromstring(package.read("word/document.xml")).find(WORDS + "body")
-    return ["".join(text.text or "" for text in paragraph.iter(WORDS + "t")) for paragraph in body.iter(WORDS + "p")]
+    return ["".join(text.text or "" for run in paragraph.iter(WORDS + "r") if not is_hidden(run)
+                    for text in run.iter(WORDS + "t")) for paragraph in body.iter(WORDS + "p")]
+
+
+def is_hidden(run):
+    return run.find(f"{WORDS}rPr/{WORDS}vanish") is not None
 
 
 def marks(sheet):

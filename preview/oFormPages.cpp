@@ -319,6 +319,8 @@ void oFormPages::ShowProgress(int value, int maximum, const QString &text)
     m_progressBar->setRange(0, maximum);
     m_progressBar->setValue(value);
     showState();
+    // At once: while the claim is exported, the window handles no events.
+    m_bar->repaint();
 }
 
 void oFormPages::EndProgress()

@@ -12,11 +12,13 @@
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
 #include "formdata/mdGlobals.h"
+#include "preview/oFormPages.h"
 #include "shell/clsWindowUserInterface.h"
 #include "shell/frmAbout.h"
 #include "shell/frmExportToWord.h"
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
+#include "wordexport/mdOfficeProgram.h"
 
 #include <QApplication>
 #include <QTest>
@@ -149,6 +151,18 @@ void takeBoxes(clsPictures &pictures, frmMain &main)
     exportToWord.close();
 }
 
+/// The office program draws the pages; without one the picture stays as it is.
+void takeFormPages(clsPictures &pictures, frmMain &main)
+{
+    constexpr int LongestWait = 60'000;
+    if (mdOfficeProgram().isEmpty())
+        return;
+    main.FormPages();
+    const auto *pages = main.findChild<oFormPages *>();
+    if (QTest::qWaitFor([pages] { return pages->HasPages(); }, LongestWait))
+        pictures.take(main, QStringLiteral("frmMain-pages"));
+}
+
 bool takeAll(const QString &claim, const QString &folder)
 {
     clsPictures pictures(folder);
@@ -172,6 +186,7 @@ bool takeAll(const QString &claim, const QString &folder)
     takeBoxes(pictures, main);
     main.PreviewAdditionalInformation();
     pictures.take(main, QStringLiteral("frmMain-notes"));
+    takeFormPages(pictures, main);
     return pictures.complete();
 }
 

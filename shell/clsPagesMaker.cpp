@@ -68,7 +68,7 @@ QByteArray bytesOf(const QString &path)
 
 QString mdPrintedText(const clsZR3Form &form)
 {
-    static const QRegularExpression unprinted(
+    const QRegularExpression unprinted(
         QStringLiteral("<(path|version|timespent|idcounter|exportpath|defaultfeeearnerlistindex)>[^<]*</\\1>"));
     return form.XMLOutput().remove(unprinted);
 }

@@ -104,15 +104,17 @@ clsWordLooks::clsWordLooks(const xml_node &styles)
 
 std::shared_ptr<const clsWordLooks> clsWordLooks::ofStyles(const QByteArray &styles)
 {
-    static QByteArray lastStyles;
-    static std::shared_ptr<const clsWordLooks> last;
-    if (!last || lastStyles != styles) {
+    // All sheets of an export have the same styles, and each is a document that knows nothing of the others.
+    static struct {
+        QByteArray styles;
+        std::shared_ptr<const clsWordLooks> looks;
+    } last;
+    if (!last.looks || last.styles != styles) {
         pugi::xml_document tree;
         tree.load_buffer(styles.constData(), size_t(styles.size()), WordXml::ParseFlags);
-        last = std::make_shared<clsWordLooks>(tree.document_element());
-        lastStyles = styles;
+        last = {styles, std::make_shared<clsWordLooks>(tree.document_element())};
     }
-    return last;
+    return last.looks;
 }
 
 clsWordLooks::Run clsWordLooks::runSaidBy(const xml_node &format)

@@ -38,6 +38,31 @@ constexpr clsScreenRow Lists[] = {
     {"fas", "Family Advocacy Scheme"},
 };
 
+/// The screens that the figures of the pages come from.
+constexpr clsScreenRow Pages[] = {
+    {"Claim1 P4", "Disbursements"},
+    {"Claim1 P5", "Schedule of Time"},
+    {"Claim1 P6", "Disbursements"},
+    {"Claim1 P7", "Disbursements"},
+    {"Claim1 P8", "Communications"},
+    {"Claim1A P4", "Actual Costs"},
+    {"Claim1A P5", "Disbursements"},
+    {"Claim1A P6", "Disbursements"},
+    {"Claim1A P7", "Disbursements"},
+    {"Claim1A P8", "Family Advocacy Scheme"},
+    {"Claim1A P10", "Schedule of Time"},
+    {"Claim1A P11", "Communications"},
+};
+
+/// The page of a sheet as its template names it: "Claim1A P8".
+QString pageOf(const clsForecast &forecast, const QString &sheetName)
+{
+    for (const clsForecast::Sheet &sheet : forecast.Sheets)
+        if (sheet.Name == sheetName)
+            return QStringLiteral("%1 P%2").arg(sheet.Template.section(u' ', 0, 0)).arg(sheet.Page);
+    return {};
+}
+
 template <class Rows> QString screenIn(const Rows &rows, const QString &part)
 {
     const auto *row = std::find_if(std::begin(rows), std::end(rows),
@@ -45,7 +70,7 @@ template <class Rows> QString screenIn(const Rows &rows, const QString &part)
     return row == std::end(rows) ? QString() : QString::fromLatin1(row->screen);
 }
 
-void place(clsPrintedBox &box, const Box &given)
+void place(clsPrintedBox &box, const Box &given, const clsForecast &forecast)
 {
     const qsizetype dot = given.Property.indexOf(u'.');
     box.Property = given.Property.mid(dot + 1);
@@ -63,6 +88,8 @@ void place(clsPrintedBox &box, const Box &given)
         box.Screen = screenIn(Lists, QStringLiteral("experts"));
     } else if (!given.Property.isEmpty()) {
         box.Screen = QStringLiteral("Form Setup");
+    } else {
+        box.Screen = screenIn(Pages, pageOf(forecast, given.Sheet));
     }
 }
 
@@ -87,7 +114,7 @@ std::vector<clsPrintedBox> mdBoxesToCheck(const clsForecast &forecast)
         box.Sheet = given.Sheet;
         box.Placeholder = given.Placeholder;
         box.state = stateOf(given.State);
-        place(box, given);
+        place(box, given, forecast);
         boxes.push_back(box);
     }
     return boxes;

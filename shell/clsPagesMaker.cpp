@@ -1,9 +1,9 @@
 #include "shell/clsPagesMaker.h"
 
 #include "base/clsQuietUserInterface.h"
-#include "base/clsRunTimeError.h"
 #include "base/mdLog.h"
 #include "base/mdProgramFolder.h"
+#include "base/mdRunTimeErrorOf.h"
 #include "formdata/clsZR3Form.h"
 #include "shell/clsLongWork.h"
 #include "wordexport/clsExport.h"
@@ -126,8 +126,10 @@ bool clsPagesMaker::exportCopy(const clsZR3Form &form)
         else
             listener.told = mdNoPagesMessage(copy.FormType());
         m_sheets = finished ? mdForecastOf(run) : clsForecast();
-    } catch (const clsRunTimeError &error) {
-        listener.told = error.description();
+    } catch (const std::exception &) {
+        // Whatever it is, it must not leave this object running without end.
+        const clsRunTimeError error = mdRunTimeErrorOf(std::current_exception());
+        listener.told = error.cause().isEmpty() ? error.description() : error.cause();
     }
     if (!finished)
         m_failure = listener.told;

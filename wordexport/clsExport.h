@@ -16,6 +16,7 @@
 
 class clsFolderLock;
 struct clsGrid;
+struct clsPrintedList;
 
 /// A template that was read and found to be a sound document, with what its sheets need of it at hand.
 struct clsTemplate {
@@ -86,6 +87,9 @@ struct clsExport {
     QHash<std::pair<int, QString>, QString> fields {};
     /// The grid that is being typed.
     const clsGrid *grid = nullptr;
+    /// The list whose items are typed into the open sheet, and which of them its first row shows.
+    const clsPrintedList *list = nullptr;
+    int firstItem = 1;
 
     /// The templates read so far, by their file names, and the files written so far, by their paths.
     QHash<QString, clsTemplate> templates {};

@@ -41,6 +41,13 @@ struct clsPrintedCell {
     const char *property = nullptr; ///< of the item, where the text is that of one
 };
 
+/// The list of the claim whose items a grid prints.
+struct clsPrintedList {
+    const char *name; ///< such as "experts"
+    /// The order in that list of what is printed as the i-th, from 1; 0 where there is no such item.
+    int (*order)(const clsZR3Form &form, int i);
+};
+
 /// A table of a page with one row for each item of a list. Offsets are lines from the start of the sheet.
 struct clsGrid {
     int (*count)(const clsZR3Form &form);
@@ -50,6 +57,7 @@ struct clsGrid {
     int firstOffset;
     int furtherOffset;
     const char *continuationTemplate;
+    clsPrintedList list;
 };
 
 /// The placeholders of a page, in the order in which they are filled in. Rows that both forms have are tables of their

@@ -27,6 +27,8 @@ struct clsForecast {
         double PrintedSize;
         int Lines; ///< that it takes at its own size
         clsState State;
+        QString List {}; ///< in a grid: the list of the claim whose item it is, such as "experts"
+        int Item = 0; ///< its order in that list
     };
     struct Message {
         QString Title;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "wordexport/clsExportPage.h"
+#include "wordexport/mdExportSources.h"
 
 // The tables that both government forms print, each in its own place.
 
@@ -15,6 +15,14 @@ extern const std::span<const clsPrintedCell> ExpertInvoiceCells;
 /// The cells of a joint instruction and of a disbursement that is not counsel's.
 extern const std::span<const clsPrintedCell> JointInstructionCells;
 extern const std::span<const clsPrintedCell> OtherDisbursementCells;
+
+// Their lists. Experts and joint instructions are printed by their order, the others as they lie.
+inline constexpr clsPrintedList CounselFeesList
+    = {"disbursements", mdOrderIn<&clsZR3Form::CounselDisbursementsCollection>};
+inline constexpr clsPrintedList ExpertInvoicesList = {"experts", [](const clsZR3Form &, int i) { return i; }};
+inline constexpr clsPrintedList JointInstructionsList = {"joint", [](const clsZR3Form &, int i) { return i; }};
+inline constexpr clsPrintedList OtherDisbursementsList
+    = {"disbursements", mdOrderIn<&clsZR3Form::NonCounselDisbursementsCollection>};
 
 /// The first page from the stage number to the costs of the previous advice.
 extern const std::span<const clsPlaceholderRow> FirstPageRows;

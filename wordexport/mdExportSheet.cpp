@@ -26,8 +26,13 @@ QString propertyOf(const clsExport &run, const clsSheetFile &sheet, const clsFit
 
 clsForecast::Box boxOf(const clsExport &run, const clsSheetFile &sheet, const clsFittedText &text)
 {
-    return {sheet.name, text.placeholder, propertyOf(run, sheet, text), text.row, text.column, text.halfPoints / 2.0,
-        text.printedHalfPoints / 2.0, text.lines, clsForecast::Box::clsState(text.state)};
+    clsForecast::Box box {sheet.name, text.placeholder, propertyOf(run, sheet, text), text.row, text.column,
+        text.halfPoints / 2.0, text.printedHalfPoints / 2.0, text.lines, clsForecast::Box::clsState(text.state)};
+    if (text.row > 0 && run.list) {
+        box.List = QString::fromLatin1(run.list->name);
+        box.Item = run.list->order(run.form, run.firstItem + text.row - 1);
+    }
+    return box;
 }
 
 static_assert(int(clsForecast::Box::Smaller) == int(clsFittedText::Smaller)

@@ -19,6 +19,13 @@ template <auto Collection> int mdCountOf(const clsZR3Form &form)
     return int((form.*Collection)().size());
 }
 
+/// The order of item `i` of such a collection; 0 where it has none.
+template <auto Collection> int mdOrderIn(const clsZR3Form &form, int i)
+{
+    const auto &items = (form.*Collection)();
+    return i >= 1 && i <= int(items.size()) ? items[size_t(i - 1)]->OrderID() : 0;
+}
+
 /// Item `i` of a list by its order, such as `mdItemAt<&clsZR3Form::ExpertInvoiceByOrderID>`; the object error where the
 /// list has none of that order.
 template <auto ByOrderID> auto mdItemAt(const clsZR3Form &form, int i)

@@ -83,7 +83,7 @@ const clsPlainPage Page3 = {3, "Claim1 P3", {Page3Rows}, "Claim1 P3 Panel Member
 // names and marks: that carry-over belongs to this page and stays.
 
 const clsGrid CounselFeesGrid = {mdCountOf<&clsZR3Form::CounselDisbursementsCollection>, CounselFeesCells, 32, 38, 9, 3,
-    "Claim1 P4 Counsels Fees Cont"};
+    "Claim1 P4 Counsels Fees Cont", CounselFeesList};
 const clsGridPage::Grid Page4Grids[] = {{&CounselFeesGrid, clsGridPage::RunsOn}};
 const clsGridPage Page4 = {4, "Claim1 P4", Page4Grids, CounselFeesRows};
 
@@ -95,7 +95,7 @@ const clsAdditionalInformation Page6AdditionalInformation = {6, "Claim1 P6", "Cl
 constexpr int LinesAboveExperts = 20;
 
 const clsGrid ExpertsGrid = {mdCountOf<&clsZR3Form::ExpertInvoicesCollection>, ExpertInvoiceCells, 11, 32,
-    LinesAboveExperts, 4, "Claim1 P6 Expert Dibs Cont"};
+    LinesAboveExperts, 4, "Claim1 P6 Expert Dibs Cont", ExpertInvoicesList};
 
 const clsOverRun ExpertStandardsOverRun = {100, 2750, "Claim1 P6 Expert Dibs Standards Cont"};
 
@@ -125,11 +125,12 @@ void mdExportWordClaim1Page6(clsExport &run)
 // Page 7: disbursements. The counter starts anew before the second grid, so that both grids' first further sheets are
 // 7(2): the second overwrites the first, and the finished document shows it twice. It is to stay so.
 
-const clsGrid JointInstructionsGrid = {mdCountOf<&clsZR3Form::JointInstructionsCollection>, JointInstructionCells,
-    JointInstructionsRoom.first, JointInstructionsRoom.further, 6, 5, "Claim1 P7 Expert Dibs Joint Instruction Cont"};
+const clsGrid JointInstructionsGrid
+    = {mdCountOf<&clsZR3Form::JointInstructionsCollection>, JointInstructionCells, JointInstructionsRoom.first,
+        JointInstructionsRoom.further, 6, 5, "Claim1 P7 Expert Dibs Joint Instruction Cont", JointInstructionsList};
 const clsGrid OtherDisbursementsGrid
     = {mdCountOf<&clsZR3Form::NonCounselDisbursementsCollection>, OtherDisbursementCells, OtherDisbursementsRoom.first,
-        OtherDisbursementsRoom.further, 25, 3, "Claim1 P7 Other Dibs Cont"};
+        OtherDisbursementsRoom.further, 25, 3, "Claim1 P7 Other Dibs Cont", OtherDisbursementsList};
 
 const clsGridPage::Grid Page7Grids[] = {
     {&JointInstructionsGrid, clsGridPage::StartsAnew},

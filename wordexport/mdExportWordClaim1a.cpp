@@ -137,14 +137,14 @@ const clsPlainPage Page4 = {4, "Claim1A P4", {Page4Rows}};
 // names and marks: that carry-over belongs to this page, as on Claim 1, and stays.
 
 const clsGrid CounselFeesGrid = {mdCountOf<&clsZR3Form::CounselDisbursementsCollection>, CounselFeesCells, 32, 38, 9, 3,
-    "Claim1A P5 Counsels Fees Cont"};
+    "Claim1A P5 Counsels Fees Cont", CounselFeesList};
 const clsGridPage::Grid Page5Grids[] = {{&CounselFeesGrid, clsGridPage::RunsOn}};
 const clsGridPage Page5 = {5, "Claim1A P5", Page5Grids, CounselFeesRows};
 
 // Page 6: experts
 
-const clsGrid ExpertsGrid = {
-    mdCountOf<&clsZR3Form::ExpertInvoicesCollection>, ExpertInvoiceCells, 11, 32, 22, 5, "Claim1A P6 Expert Dibs Cont"};
+const clsGrid ExpertsGrid = {mdCountOf<&clsZR3Form::ExpertInvoicesCollection>, ExpertInvoiceCells, 11, 32, 22, 5,
+    "Claim1A P6 Expert Dibs Cont", ExpertInvoicesList};
 const clsGridPage::Grid Page6Grids[] = {{&ExpertsGrid, clsGridPage::StartsAnew}};
 
 const clsOverRun ExpertStandardsOverRun = {250, 2750, "Claim1A P6 Expert Dibs Standards Cont"};
@@ -162,12 +162,13 @@ const clsGridPage Page6 = {6, "Claim1A P6", Page6Grids, Page6Rows};
 
 // Page 7: disbursements. The counter runs on from the first grid to the second, so that no sheet overwrites another.
 
-const clsGrid JointInstructionsGrid = {mdCountOf<&clsZR3Form::JointInstructionsCollection>, JointInstructionCells,
-    JointInstructionsRoom.first, JointInstructionsRoom.further, 8, 5, "Claim1A P7 Expert Dibs Joint Instruction Cont"};
+const clsGrid JointInstructionsGrid
+    = {mdCountOf<&clsZR3Form::JointInstructionsCollection>, JointInstructionCells, JointInstructionsRoom.first,
+        JointInstructionsRoom.further, 8, 5, "Claim1A P7 Expert Dibs Joint Instruction Cont", JointInstructionsList};
 // The small a is the template's name as it stands.
 const clsGrid OtherDisbursementsGrid
     = {mdCountOf<&clsZR3Form::NonCounselDisbursementsCollection>, OtherDisbursementCells, OtherDisbursementsRoom.first,
-        OtherDisbursementsRoom.further, 27, 3, "Claim1a P7 Other Dibs Cont"};
+        OtherDisbursementsRoom.further, 27, 3, "Claim1a P7 Other Dibs Cont", OtherDisbursementsList};
 
 const clsGridPage::Grid Page7Grids[] = {
     {&JointInstructionsGrid, clsGridPage::StartsAnew},
@@ -231,12 +232,16 @@ const clsPrintedCell ExceptionalTravelCells[] = {
     ZR3_ITEM(travel(form, i), ExceptionalTravelReason, Text),
 };
 
-const clsGrid AdvocacyCostsGrid
-    = {mdCountOf<&clsZR3Form::FASItemsCollection>, AdvocacyCostsCells, 16, 36, 7, 5, "Claim1A P8 Advocacy Costs Cont"};
+constexpr clsPrintedList AdvocacyList = {"fas", [](const clsZR3Form &, int i) { return i; }};
+constexpr clsPrintedList BoltOnList = {"fas", mdOrderIn<&clsZR3Form::FASBoltOnPaymentsCollection>};
+constexpr clsPrintedList TravelList = {"fas", mdOrderIn<&clsZR3Form::FASTravelBoltOnsCollection>};
+
+const clsGrid AdvocacyCostsGrid = {mdCountOf<&clsZR3Form::FASItemsCollection>, AdvocacyCostsCells, 16, 36, 7, 5,
+    "Claim1A P8 Advocacy Costs Cont", AdvocacyList};
 const clsGrid BoltOnPaymentsGrid = {mdCountOf<&clsZR3Form::FASBoltOnPaymentsCollection>, BoltOnPaymentsCells, 6, 46, 27,
-    5, "Claim1A P8 Bolt on Payments Cont"};
+    5, "Claim1A P8 Bolt on Payments Cont", BoltOnList};
 const clsGrid ExceptionalTravelGrid = {mdCountOf<&clsZR3Form::FASTravelBoltOnsCollection>, ExceptionalTravelCells, 10,
-    46, 35, 4, "Claim1A P8 Exceptional travel bolt-on Cont"};
+    46, 35, 4, "Claim1A P8 Exceptional travel bolt-on Cont", TravelList};
 
 const clsGridPage::Grid Page8Grids[] = {
     {&AdvocacyCostsGrid, clsGridPage::StartsAnew},

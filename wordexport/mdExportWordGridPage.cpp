@@ -42,6 +42,8 @@ void mdExportGrid(
     clsExport &run, clsMSWord &word, const clsGrid &grid, int firstOffset, const QString &firstSheet, int pageNumber)
 {
     run.grid = &grid;
+    run.list = &grid.list;
+    run.firstItem = 1;
     word.MoveCursorDown(firstOffset);
     const int count = grid.count(run.form);
     bool onFirstSheet = true;
@@ -52,6 +54,7 @@ void mdExportGrid(
                 markOpenSheet(run, word);
             onFirstSheet = false;
             beginFurtherSheet(run, word, grid, pageNumber);
+            run.firstItem = i;
             rowsWritten = 0;
         }
         mdSetProgress(i, count, QStringLiteral("Exporting Page %1").arg(pageNumber));
@@ -61,6 +64,7 @@ void mdExportGrid(
     markOpenSheet(run, word);
     mdSaveSheet(run, word);
     run.grid = nullptr;
+    run.list = nullptr;
     mdOpenSheet(run, word, firstSheet);
 }
 

@@ -7,6 +7,7 @@
 #include "wordexport/clsExport.h"
 #include "wordexport/mdExportCopyTemplate.h"
 #include "wordexport/mdExportSheet.h"
+#include "wordexport/mdExportSources.h"
 
 #include <algorithm>
 
@@ -31,6 +32,8 @@ const clsPlaceholderRow Totals[] = {
     {"{wtl}", [](const clsBill &bill) { return MoneyToText(ColumnClaimTotal(bill, 4)); }, Fill::Money},
     {"{total}", [](const clsBill &bill) { return MoneyToText(ScheduleTotal(bill)); }, Fill::Money},
 };
+
+constexpr clsPrintedList Schedule = {"schedule", mdOrderIn<&clsZR3Form::ScheduleOfTimeItemsForExportCollection>};
 
 /// Types a cell and moves to the cell `cellsOn` to the right.
 void typeAndMove(clsMSWord &word, const QString &text, Fill fill, int cellsOn)
@@ -90,6 +93,8 @@ void exportSheet(clsExport &run, const QString &pageTemplate, int pageNumber, in
     const QString path = mdMakeSheet(run, pageTemplate, pageNumber, run.ExportSheetCounter);
     clsMSWord word;
     mdOpenSheet(run, word, path);
+    run.list = &Schedule;
+    run.firstItem = start;
     word.MoveCursorDown(LinesAboveGrid);
     for (int row = start; row <= last; ++row) {
         mdSetProgress(row, count, QStringLiteral("Exporting Page %1").arg(pageNumber));
@@ -101,6 +106,7 @@ void exportSheet(clsExport &run, const QString &pageTemplate, int pageNumber, in
     replaceTotals(run, word, last == count, pageNumber);
     mdReplaceMark(word, markOf(run, count));
     mdFinishSheet(run, word);
+    run.list = nullptr;
 }
 
 } // namespace

@@ -23,7 +23,13 @@ constexpr clsBoxStateRow BoxStates[] = {
 /// What is printed in a box, and on which sheet.
 QString boxInWords(const clsPrintedBox &box)
 {
-    const QString what = box.Property.isEmpty() ? QStringLiteral("A text") : mdPropertyInWords(box.Property);
+    QString what = QStringLiteral("A figure");
+    if (!box.Property.isEmpty())
+        what = mdPropertyInWords(box.Property);
+    else if (box.Item > 0)
+        what = QStringLiteral("A cell");
+    if (box.Item > 0)
+        what += QStringLiteral(" of item %1").arg(box.Item);
     return box.Sheet.isEmpty() ? what : QStringLiteral("%1 on page %2").arg(what, box.Sheet);
 }
 

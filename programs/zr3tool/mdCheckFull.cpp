@@ -4,10 +4,14 @@
 #include "base/clsJsonWriter.h"
 #include "base/mdClock.h"
 #include "base/mdPrint.h"
+#include "base/mdProgramFolder.h"
 #include "costing/checking/mdCheckClaim.h"
 #include "costing/checking/mdWhy.h"
 #include "formdata/clsZR3Form.h"
 #include "programs/zr3tool/mdClaimPaths.h"
+#include "wordexport/clsForecast.h"
+#include "wordexport/mdBoxesToCheck.h"
+#include "wordexport/mdForecast.h"
 
 #include <QFileInfo>
 
@@ -37,6 +41,7 @@ clsCheckedClaim checked(const QString &path, const clsToolCommand &command, cons
     }
     clsCheckFacts facts {.Today = command.today.isValid() ? command.today : Now().date()};
     facts.CostsLimit = mdStoredCostsLimit(form);
+    facts.Boxes = mdBoxesToCheck(mdForecast(form, TemplatesFolder()));
     claim.findings = mdCheckClaim(form, facts);
     if (std::any_of(claim.findings.begin(), claim.findings.end(),
             [](const clsFinding &finding) { return finding.Level != clsFindingLevel::Note; }))

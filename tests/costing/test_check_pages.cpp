@@ -214,17 +214,22 @@ TEST_F(CheckPages, TextsThatDoNotPrintAtTheirOwnSize)
         {"1(1)"_q, "{surname}"_q, "Client Details"_q, {}, 0, "Surname"_q, clsPrintedBox::Smaller},
         {"9(1)"_q, "{address}"_q, "Details of Costs Awarded"_q, {}, 0, "AddressOfService"_q, clsPrintedBox::RunsOn},
         {"7(1)"_q, {}, "Disbursements"_q, "disbursements"_q, 3, "Description"_q, clsPrintedBox::Cut},
+        {"6(1)"_q, "{extot}"_q, "Disbursements"_q, {}, 0, {}, clsPrintedBox::Smaller},
+        {"5(1)"_q, {}, "Schedule of Time"_q, "schedule"_q, 2, {}, clsPrintedBox::Smaller},
     };
     EXPECT_EQ(QStringList({"note|Client Details||0|Surname"_q, "warning|Details of Costs Awarded||0|AddressOfService"_q,
-                  "error|Disbursements|disbursements|3|Description"_q}),
+                  "error|Disbursements|disbursements|3|Description"_q, "note|Disbursements||0|"_q,
+                  "note|Schedule of Time|schedule|2|"_q}),
         found("paper"));
     EXPECT_EQ(QStringList({"Surname on page 1(1) is printed smaller to fit its box: see that it can be read."_q,
                   "Address Of Service on page 9(1) makes its sheet run on to another page: shorten it."_q,
-                  "Description on page 7(1) is cut off at the end of its box: shorten it."_q}),
+                  "Description of item 3 on page 7(1) is cut off at the end of its box: shorten it."_q,
+                  "A figure on page 6(1) is printed smaller to fit its box: see that it can be read."_q,
+                  "A cell of item 2 on page 5(1) is printed smaller to fit its box: see that it can be read."_q}),
         said("paper"));
     form.ClientDetails.FirstName = QString();
     const clsFindings alone = mdCheckPrint(form, facts);
-    ASSERT_EQ(3u, alone.size());
+    ASSERT_EQ(5u, alone.size());
     EXPECT_EQ("paper"_q, alone.front().Rule);
 }
 

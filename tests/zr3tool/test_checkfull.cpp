@@ -96,6 +96,35 @@ TEST_F(ToolCheckFull, TakesTheCostsLimitOfTheClaim)
     EXPECT_TRUE(run({"check"_q, "--full"_q, claim}).out.startsWith("error, Costs Limit, 0, The costs are 40.00 of"));
 }
 
+TEST_F(ToolCheckFull, TellsOfWhatIsNotPrintedAtItsOwnSize)
+{
+    clsZR3Form form;
+    form.DebtorsDetails.Address = "1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n7\r\n8"_q;
+    // Counsel's fee is the first of the list and not among the others, of which the second one is too long.
+    const QString descriptions[] = {"Brief fee"_q, "Court fee"_q, "Interpreter "_q.repeated(40)};
+    for (const QString &description : descriptions) {
+        const auto item = form.AddDisbursement();
+        item->Counsel = description == descriptions[0];
+        item->Description = description;
+        item->Amount = "10.00"_q;
+        item->VAT = "2.00"_q;
+    }
+    for (int page : {1, 2, 3, 4, 5, 6, 8, 9})
+        form.field("IncludePage%1"_q.arg(page))->writeBoolean(false);
+    const QString claim = putClaim(form);
+    const QJsonObject told = objectOf(run({"check"_q, "--full"_q, "--json"_q, claim}));
+    QStringList found;
+    for (const QJsonValue &value : told["Findings"_q].toArray()) {
+        const QJsonObject finding = value.toObject();
+        if (finding["Rule"_q] == "paper"_q)
+            found << "%1|%2|%3|%4"_q.arg(finding["Screen"_q].toString(), finding["List"_q].toString())
+                         .arg(finding["Item"_q].toInt())
+                         .arg(finding["Property"_q].toString());
+    }
+    EXPECT_EQ(QStringList({"Disbursements|disbursements|3|Description"_q, "Debtor's Details||0|Address"_q}), found);
+    EXPECT_EQ(QStringList {"claim.zr3"_q}, filesOf(folder.path()));
+}
+
 TEST_F(ToolCheckFull, SeveralClaimsAreAList)
 {
     const QString found = claimWithFinding("a.zr3");

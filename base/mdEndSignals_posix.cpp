@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr int EndSignals[] = {SIGTERM, SIGHUP};
+constexpr int EndSignals[] = {SIGTERM, SIGHUP, SIGINT};
 
 // All that a signal's handler may touch; the system hands it nothing but the signal.
 std::atomic<int> pipeEnd = -1;

@@ -23,6 +23,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
 
@@ -176,10 +177,19 @@ QString whatMayNotBeReplaced(const clsToolCommand &command, const QString &docum
 Status makePdf(clsConsoleUserInterface &console, const clsToolCommand &command, const QString &document)
 {
     const QString pdfPath = pdfBeside(document);
-    clsPdfConversion conversion(document);
+    QEventLoop waiting;
+    clsPdfConversion conversion(document, [&waiting] { waiting.quit(); });
     mdSetProgress(1, 1, QStringLiteral("Making the PDF"));
-    conversion.wait();
+    // Where this program is told to end, the office program and its copy of the document must not stay behind.
+    const clsEndSignalScope endSignals([&] {
+        conversion.cancel();
+        waiting.quit();
+    });
+    if (conversion.state() == clsPdfConversion::Running)
+        waiting.exec();
     mdClearProgress();
+    if (conversion.state() == clsPdfConversion::Cancelled)
+        return Status::Failed;
     // Made by another program since this one has looked.
     if (!command.force && FileSystem().FileExists(pdfPath))
         return documentExists(console, pdfPath);

@@ -192,7 +192,7 @@ private:
 
 TEST_F(EndSignals, CallTheHandlerFromTheEventLoop)
 {
-    for (const int signal : {SIGTERM, SIGHUP}) {
+    for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {
         int calls = 0;
         m_signals.emplace([&] { ++calls; });
         ::raise(signal);

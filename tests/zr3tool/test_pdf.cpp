@@ -2,7 +2,10 @@
 
 #include "tests/zr3tool/clsToolTest.h"
 
+#include <QProcess>
 #include <QStandardPaths>
+
+#include <csignal>
 
 #include <sys/stat.h>
 
@@ -43,6 +46,34 @@ private:
 };
 
 } // namespace
+
+TEST_F(ToolPdf, TakesTheOfficeProgramAndItsFilesAlongWhereItIsToldToEnd)
+{
+    useOfficeProgram("echo $$ >'" + QFile::encodeName(path("began")) + "'; exec sleep 60");
+    ASSERT_TRUE(QDir(folder.path()).mkpath("temporary"_q));
+    for (const int signal : {SIGTERM, SIGINT}) {
+        QFile::remove(path("began"));
+        QProcess tool;
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("TMPDIR"_q, path("temporary"));
+        tool.setProcessEnvironment(environment);
+        tool.setWorkingDirectory(folder.path());
+        tool.start(QStringLiteral(ZR3_TOOL), {"export"_q, "--force"_q, "--pdf"_q, "--quiet"_q, claim, "out"_q});
+        QByteArray office;
+        for (int tries = 0; tries < 600 && !office.endsWith('\n'); ++tries) {
+            tool.waitForFinished(50);
+            if (QFile::exists(path("began")))
+                office = bytesOf(path("began"));
+        }
+        ASSERT_TRUE(office.endsWith('\n')) << "the office program was not started";
+        ASSERT_EQ(0, ::kill(pid_t(tool.processId()), signal));
+        ASSERT_TRUE(tool.waitForFinished(30'000));
+        EXPECT_EQ(4, tool.exitCode()) << signal;
+        EXPECT_NE(0, ::kill(pid_t(office.trimmed().toInt()), 0)) << "the office program still runs";
+        EXPECT_EQ(QStringList(), filesOf(path("temporary"))) << signal;
+        EXPECT_EQ(QStringList("Claim1.doc"_q), found()) << "the document is whole";
+    }
+}
 
 TEST_F(ToolPdf, StandsBesideTheDocumentAndIsAsOpen)
 {

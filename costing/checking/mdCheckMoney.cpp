@@ -85,16 +85,20 @@ template <class Look> void eachLoaded(const clsClaimCheck &check, Look look)
     if (!check.isClaim1A())
         return;
     const clsZR3ActualCostsIncurred &costs = check.form().ActualCostsIncurred;
-    const std::pair<const clsXMLField *, const char *> rows[] = {
+    struct clsLoadedRow {
+        const clsXMLField *field;
+        const char *words;
+    };
+    const clsLoadedRow rows[] = {
         {&costs.CareAndSupervisionProfitCosts, "care and supervision cases"},
         {&costs.PrivateLawProfitCosts, "private law cases"},
     };
-    for (const auto &[field, words] : rows)
+    for (const clsLoadedRow &row : rows)
         clsClaimCheck::unlessItFails([&] {
-            look(clsFindingPlace {ActualCostsScreen, "", 0, QString::fromLatin1(field->property().name)},
-                mdStoredAmount(*field),
+            look(clsFindingPlace {ActualCostsScreen, "", 0, QString::fromLatin1(row.field->property().name)},
+                mdStoredAmount(*row.field),
                 QStringLiteral("The profit costs of the %1 are %2")
-                    .arg(QString::fromLatin1(words), mdFormatMoney(mdStoredAmount(*field))));
+                    .arg(QString::fromLatin1(row.words), mdFormatMoney(mdStoredAmount(*row.field))));
         });
 }
 

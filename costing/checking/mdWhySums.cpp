@@ -7,6 +7,8 @@
 #include "costing/mdGetFASTotals.h"
 #include "formdata/clsZR3Form.h"
 
+#include <array>
+
 namespace {
 
 using Form = clsZR3Form;
@@ -44,7 +46,7 @@ template <class Field> void addFees(clsWhy &why, const Form &form, Field field)
 {
     for (const auto &item : form.DisbursementsCollection())
         if (item->Counsel())
-            addAmounts(why, form, std::initializer_list {item}, "disbursements", field);
+            addAmounts(why, form, std::array {item}, "disbursements", field);
 }
 
 struct clsColumnRow {

@@ -137,7 +137,7 @@ QString clsToolCommand::usage()
         "                                 fas and an order, total and a key of totals, list and a column\n"
         "  zr3tool --help | --version\n"
         "\n"
-        "Options of check --full, which takes folders too:\n"
+        "Options of check --full (it takes folders too):\n"
         "  --json             the findings as JSON\n"
         "  --today DAY        another day than today's, as YYYY-MM-DD\n"
         "\n"

@@ -4,9 +4,9 @@
 #include <memory>
 
 /// Has the handler called, from the event loop, when the system asks the program to end (on POSIX systems SIGTERM,
-/// SIGHUP and SIGINT), for as long as this object lives; then the signals are the system's again. It is called once: whatever asks
-/// again while the program is ending is ignored. It may take this object away.
-/// Without a running event loop nothing is called. To be used on the one thread only, one at a time.
+/// SIGHUP and SIGINT), for as long as this object lives; then the signals are the system's again. It is called once:
+/// whatever asks again while the program is ending is ignored. It may take this object away. Without a running event
+/// loop nothing is called. To be used on the one thread only, one at a time.
 class clsEndSignalScope {
 public:
     explicit clsEndSignalScope(std::function<void()> handler);

@@ -52,8 +52,8 @@ QString shown(const QByteArray &name)
 QString CommandLinePath(const QStringList &arguments)
 {
     QString path = arguments.join(u' ');
-    // Quotes are the shell's, and go. Only where they are part of a file's name, which they can be on this system, that
-    // file is meant.
+    // Quotes come from the shell and are removed, unless a file of exactly this name exists: names may hold quotes
+    // here.
     if (!QFileInfo::exists(path))
         path = withoutAddress(path.remove(u'"'));
     // The claim keeps its path, which must be good wherever the program stands later.

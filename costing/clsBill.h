@@ -3,9 +3,9 @@
 #include "costing/clsColumnTotals.h"
 #include "formdata/clsSchedulePrices.h"
 
-/// A claim for whoever asks for several figures of its bill: each item is priced once, and what is added up of all
-/// items is added up once, when it is first asked for. It is for one piece of work on a claim that stays as it is
-/// meanwhile, since nothing in it follows a change. A single figure can be asked of the claim itself.
+/// The figures of a claim's bill. Each item is priced once and each sum over the items is computed once, on first use.
+/// The figures do not follow changes: the claim must not change while this object is in use. For a single figure, ask
+/// the claim itself.
 class clsBill {
 public:
     clsBill(const clsZR3Form &form)

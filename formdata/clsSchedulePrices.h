@@ -42,9 +42,9 @@ private:
     std::optional<Money> m_enhancement;
 };
 
-/// All that is worked out for one item of the schedule. A figure that fails in the item's own member fails here with
-/// the same error, which is noted: its place then holds nothing that counts. It takes one line of the processor's
-/// cache: whoever walks the bill in the user's order goes to and fro among them.
+/// The figures of one schedule item. Where the item's own member raises an error, its number is kept in `errors` and
+/// the figure must not be used. It fills exactly one cache line, because a bill read in the user's order accesses these
+/// at random.
 struct alignas(64) clsSchedulePrice {
     enum Figure {
         InitialsFigure,

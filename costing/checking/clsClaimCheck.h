@@ -54,7 +54,7 @@ public:
     /// Whether a page of the claim's form is printed; each form has its own number for it, 0 for none.
     bool isPrinted(int claim1Page, int claim1APage) const;
 
-    /// The items on the bill, by their order. One of which nobody can tell is none.
+    /// The items on the bill, in their order. An item is left out where it can't be told whether it is on the bill.
     const std::vector<clsBilledItem> &billed();
 
     void add(const clsFindingPlace &place, const QString &text) { add(place, text, m_rule->level); }

@@ -5,11 +5,11 @@
 
 class clsZR3Form;
 
-/// Looks through a claim before it is sent: all findings of all rules, in the order of the rules. The claim stays as it
-/// is, to the byte. What can't be computed is a finding, and the rest is looked through all the same.
+/// Checks a claim before it is sent. Returns the findings of all rules, in the order of the rules. The claim is not
+/// changed. A figure that can't be computed is a finding and does not stop the check.
 clsFindings mdCheckClaim(const clsZR3Form &form, const clsCheckFacts &facts);
 
-/// The rule of the print alone, for whoever has its forecast later than the rest.
+/// The findings about printing alone, for a caller that gets the forecast later.
 clsFindings mdCheckPrint(const clsZR3Form &form, const clsCheckFacts &facts);
 
 /// The costs limit as the claim stores it; empty where it has none.

@@ -19,7 +19,7 @@ class clsZR3FeeEarnerGroup;
 /// and for the one that stands for no date.
 std::optional<QDate> mdStoredDate(const QString &text);
 
-/// A stored amount; a text that is none counts as nothing.
+/// A stored amount; zero where the text is not an amount.
 Money mdStoredAmount(const clsXMLField &field);
 
 /// Whether there are only blanks and line breaks.

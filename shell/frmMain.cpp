@@ -1,23 +1,16 @@
 #include "shell/frmMain.h"
 
-#include "base/mdCustomMessages.h"
-#include "base/mdGetResourceData.h"
-#include "base/mdLocalFile.h"
 #include "base/mdLog.h"
-#include "base/mdProgramFolder.h"
-#include "base/mdShellExecute.h"
 #include "commands/mdAutoDeleteBackups.h"
 #include "commands/mdAutoSave.h"
 #include "commands/mdFileHandling.h"
 #include "controls/mdLargestWindow.h"
-#include "controls/mdLeaveFocusedBox.h"
 #include "controls/mdShowModal.h"
 #include "controls/oAllPurposeBox.h"
 #include "controls/oFooterBar.h"
 #include "controls/oHeaderBar.h"
 #include "controls/oTabBar.h"
 #include "controls/oTimeSpentBox.h"
-#include "costing/mdCheckForBlankItems.h"
 #include "editors/mdEnterField.h"
 #include "editors/mdFieldPlace.h"
 #include "editors/mdSections.h"
@@ -34,23 +27,16 @@
 #include "preview/oPreviewSheet.h"
 #include "shell/clsFormPages.h"
 #include "shell/clsLongWork.h"
-#include "shell/frmAbout.h"
-#include "shell/frmExportAsPdf.h"
-#include "shell/frmExportToWord.h"
 #include "shell/mdMainMenu.h"
 #include "shell/oApplication.h"
 
-#include <QCloseEvent>
-#include <QDragEnterEvent>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QResizeEvent>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QStackedLayout>
 #include <QTimer>
-#include <QUrl>
 #include <QVBoxLayout>
 
 namespace {
@@ -59,14 +45,6 @@ constexpr int AutoBackupMilliseconds = 10000;
 constexpr int ReplacementsPage = 2;
 constexpr int FrameHeight = 40; ///< room for that of the desktop, which is known only once the window is up
 constexpr int LongestGrowth = 1000; ///< in milliseconds
-
-/// The claim among what is dragged on to the window, empty where there is none or more than one.
-QString draggedClaim(const QMimeData &data)
-{
-    const QList<QUrl> urls = data.urls();
-    const QString path = urls.size() == 1 ? mdLocalFile(urls.first()) : QString();
-    return path.endsWith(QLatin1String(".zr3"), Qt::CaseInsensitive) ? path : QString();
-}
 
 } // namespace
 
@@ -373,151 +351,4 @@ void frmMain::tmrAutoBackup_Timer()
     // A backup inside long work could hold a claim that is half changed, and its box would interrupt.
     if (!clsLongWork::isRunning())
         mdAutoBackupTick(m_backupTag);
-}
-
-bool frmMain::leaveForAnotherClaim()
-{
-    if (!mdLeaveFocusedBox(this))
-        return false;
-    // A box with the focus keeps its text, and would write it into the next claim.
-    if (QWidget *box = focusWidget(); box && oFooter->TimeSpentTimer()->isAncestorOf(box))
-        box->clearFocus();
-    return true;
-}
-
-void frmMain::New()
-{
-    if (!leaveForAnotherClaim())
-        return;
-    {
-        const QScopedValueRollback<bool> follows(m_drawingFollows, true);
-        NewForm(false);
-    }
-    UpdateInfo();
-    PreviewScheduleOfTime();
-}
-
-void frmMain::Open()
-{
-    if (!leaveForAnotherClaim())
-        return;
-    {
-        const QScopedValueRollback<bool> follows(m_drawingFollows, true);
-        OpenFormDialog(false);
-    }
-    UpdateInfo();
-    PreviewScheduleOfTime();
-}
-
-void frmMain::Save()
-{
-    // Whether or not the box lets go: a text that doesn't fit is not in the claim, and must not hold its save up.
-    mdLeaveFocusedBox(this);
-    SaveForm(false);
-    UpdateInfo();
-}
-
-void frmMain::SaveAs()
-{
-    mdLeaveFocusedBox(this);
-    SaveForm(true);
-    UpdateInfo();
-}
-
-void frmMain::ExportToWord()
-{
-    if (!wordInstalled()) {
-        mdCustomMessages(
-            QStringLiteral("Velmor ZR3 could not detect Microsoft Word. Please install Microsoft Word onto "
-                           "your computer and try again."),
-            QStringLiteral("Word Error"));
-        return;
-    }
-    frmExportToWord dialog(this);
-    whileModal([&dialog] { mdShowModal(dialog); });
-}
-
-void frmMain::ExportAsPdf()
-{
-    whileModal([this] { mdExportAsPdf(m_pages->CurrentPdf(), this); });
-}
-
-void frmMain::ShowPreferences()
-{
-    whileModal([this] { mdShowPreferences(this); });
-}
-
-void frmMain::CheckForBlank()
-{
-    CheckForBlankItems();
-}
-
-void frmMain::UserGuide()
-{
-    ShellOpen(ProgramPath(QStringLiteral("Documentation/Velmor ZR3 User Guide.pdf")));
-}
-
-void frmMain::KeyboardShortcutsList()
-{
-    ShellOpen(ProgramPath(QStringLiteral("Documentation/Velmor ZR3 Keyboard Shortcuts.pdf")));
-}
-
-void frmMain::MakeASuggestion()
-{
-    ShellOpen(GetResourceData(QStringLiteral("ciSuggestionURL"), QStringLiteral("COMPANYINFO")));
-}
-
-void frmMain::About()
-{
-    frmAbout dialog(wordInstalled(), this);
-    whileModal([&dialog] { mdShowModal(dialog); });
-}
-
-void frmMain::dragEnterEvent(QDragEnterEvent *event)
-{
-    if (!draggedClaim(*event->mimeData()).isEmpty())
-        event->acceptProposedAction();
-}
-
-void frmMain::dropEvent(QDropEvent *event)
-{
-    const QString path = draggedClaim(*event->mimeData());
-    if (path.isEmpty())
-        return;
-    event->acceptProposedAction();
-    // Later: the program that the file came from waits until this event is handled.
-    QTimer::singleShot(0, this, [this, path] { openDropped(path); });
-}
-
-void frmMain::openDropped(const QString &path)
-{
-    if (m_modal || clsLongWork::isRunning() || !leaveForAnotherClaim() || !ConfirmDrop())
-        return;
-    {
-        const QScopedValueRollback<bool> follows(m_drawingFollows, true);
-        OpenFormFile(path);
-        mdClearPreview();
-        oFooter->TimeSpentTimer()->StopTimer();
-        Activate();
-    }
-    PreviewScheduleOfTime();
-}
-
-bool frmMain::confirmExit()
-{
-    // A text that doesn't fit holds nobody who leaves the program.
-    mdLeaveFocusedBox(this);
-    return ConfirmExit();
-}
-
-void frmMain::closeEvent(QCloseEvent *event)
-{
-    event->ignore();
-    if (clsLongWork::isRunning() || !confirmExit())
-        return;
-    event->accept();
-    tmrAutoBackup->stop();
-    WriteLog(QStringLiteral("Program Ended\r\n") + QString(110, u'#'));
-    m_loaded = false;
-    emit Closed();
 }

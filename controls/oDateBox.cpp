@@ -2,6 +2,7 @@
 
 #include "base/mdClock.h"
 #include "base/mdDateText.h"
+#include "base/mdReadAs.h"
 #include "base/mdTypedText.h"
 #include "controls/mdTheme.h"
 #include "controls/oCheckBox.h"
@@ -25,6 +26,7 @@ const clsTypedKind Kind {
     .alignment = Qt::AlignLeft,
     .normalisesWrites = true,
     .refusesWhenDisabled = false,
+    .readAs = DateReadAs,
 };
 // clang-format on
 

@@ -1,5 +1,6 @@
 #include "controls/oDecimalBox.h"
 
+#include "base/mdReadAs.h"
 #include "base/mdTypedText.h"
 #include "controls/oTypedText.h"
 
@@ -12,6 +13,7 @@ const clsTypedKind Kind {
     .alignment = Qt::AlignRight,
     .normalisesWrites = true,
     .refusesWhenDisabled = true,
+    .readAs = DecimalReadAs,
 };
 // clang-format on
 

@@ -2,6 +2,7 @@
 
 #include "controls/mdLeaveFocusedBox.h"
 #include "controls/mdTheme.h"
+#include "controls/oBoxNote.h"
 
 #include <QAccessible>
 #include <QDialog>
@@ -40,6 +41,7 @@ oTypedText::oTypedText(QWidget &box, const clsTypedKind &kind)
     setAlignment(kind.alignment | Qt::AlignVCenter);
     setTextMargins(Theme::Space4, 0, Theme::Space4, 0);
     mdGuardFocusedBoxes();
+    connect(this, &QLineEdit::textChanged, this, [this] { oBoxNote::Clear(*parentWidget()); });
 }
 
 void oTypedText::write(const QString &newText)
@@ -56,8 +58,13 @@ bool oTypedText::validate()
     setInvalid(false);
     const std::optional<QString> normalised = m_kind.normalised(text());
     if (normalised) {
-        if (*normalised != text())
+        const QString before = text();
+        const bool typed = isModified();
+        if (*normalised != before)
             setText(*normalised);
+        setModified(false);
+        if (typed)
+            tellReading(before, *normalised);
         return true;
     }
     if (!isEnabled() && !m_kind.refusesWhenDisabled)
@@ -66,6 +73,21 @@ bool oTypedText::validate()
     setFocus(Qt::OtherFocusReason);
     selectAll();
     return false;
+}
+
+void oTypedText::tellReading(const QString &typed, const QString &read)
+{
+    if (!m_kind.readAs)
+        return;
+    const std::optional<clsReadAs> told = m_kind.readAs(typed, read);
+    if (!told)
+        return;
+    const auto use = [this](const QString &better) {
+        setFocus(Qt::OtherFocusReason);
+        selectAll();
+        insert(better);
+    };
+    oBoxNote::Show(*parentWidget(), {told->words, oBoxNote::Sign::Information, told->better, told->shortWords}, use);
 }
 
 bool oTypedText::refuses()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/mdReadAs.h"
 #include "controls/clsHoldingBox.h"
 #include "controls/oLineBox.h"
 
@@ -12,6 +13,8 @@ struct clsTypedKind {
     Qt::AlignmentFlag alignment;
     bool normalisesWrites; ///< a value that the program writes is normalised at once
     bool refusesWhenDisabled; ///< a disabled box turns pale pink too
+    /// What is told of a text that was read as something else; nothing for a kind that never tells.
+    std::optional<clsReadAs> (*readAs)(const QString &typed, const QString &read) = nullptr;
 };
 
 /// The text box inside every typed box, and all that they have in common: the whole text is selected on entering, the
@@ -66,6 +69,8 @@ private:
     oTypedText(QWidget &box, const clsTypedKind &kind);
 
     void setInvalid(bool invalid);
+    /// Tells beside the box how a text was read that the user typed.
+    void tellReading(const QString &typed, const QString &read);
 
     const clsTypedKind &m_kind;
     bool m_inside = false;

@@ -3,6 +3,7 @@
 #include "controls/mdCaption.h"
 #include "controls/mdTheme.h"
 #include "controls/oAllPurposeBox.h"
+#include "controls/oBoxNote.h"
 #include "controls/oCustomButton.h"
 #include "editors/mdScreenControls.h"
 #include "editors/oTickLayout.h"
@@ -148,6 +149,10 @@ void clsFrameRows::addControl(const clsScreenRow &row)
         addBelowCaption(row, control, true);
     else
         addBesideCaption(row, control);
+    if (row.flags & NoteBeneath) {
+        oBoxNote::PutBeneath(*control);
+        addSpace(oBoxNote::lineBeneath());
+    }
 }
 
 void clsFrameRows::addAnswer(const clsScreenRow &row, QWidget *control)

@@ -50,6 +50,7 @@ enum clsFieldFlag : unsigned {
     Independent = 1024, ///< no pair, although its name ends in Yes or No
     AtCloseOnly = 2048, ///< stored by the button that closes, and not on the way to another section
     CaptionAbove = 4096, ///< the caption stands over the field, where there is more height than width
+    NoteBeneath = 8192, ///< notes stand in a line under the box, since there is no room for them beside it
 };
 
 struct clsScreenRow;

@@ -1,6 +1,8 @@
 #include "editors/mdScreens.h"
 
+#include "base/mdFormatMoney.h"
 #include "base/mdPercentageCalculate.h"
+#include "controls/oBoxNote.h"
 #include "controls/oCustomButton.h"
 #include "controls/oDecimalBox.h"
 #include "costing/mdGetColumnTotals.h"
@@ -30,9 +32,18 @@ constexpr clsLoadFromBill LoadFromBill[] = {
 void loadFromBill(const frmSection &screen, const clsLoadFromBill &row)
 {
     auto &profitCosts = screen.Box<oDecimalBox>(row.profitCosts);
-    profitCosts.setText(MoneyToText(ProfitCostsTotal(*Form) - AdvocacyTotal(*Form)));
+    const Money all = ProfitCostsTotal(*Form);
+    const Money advocacy = AdvocacyTotal(*Form);
+    profitCosts.setText(MoneyToText(all - advocacy));
     const Money shown = MoneyFromText(profitCosts.Text());
     screen.Box<oDecimalBox>(row.VAT).setText(MoneyToText(PercentageCalculate(shown, Form->VATRate())));
+    if (all < advocacy)
+        oBoxNote::Show(profitCosts,
+            {QStringLiteral("Below zero: profit costs %1 less advocacy %2")
+                    .arg(mdFormatMoney(all), mdFormatMoney(advocacy)),
+                oBoxNote::Sign::Warning});
+    else
+        oBoxNote::Clear(profitCosts);
 }
 
 void rules(frmSection &screen)
@@ -63,8 +74,8 @@ const clsScreen &ScreenActualCostsIncurred()
         .record = []() -> clsXMLRecord * { return &Form->ActualCostsIncurred; },
         .frames = {
             {"bxCareAndSupervision", "Care and Supervision Cases", {
-                {Decimal, "txtCareAndSupervisionProfitCosts",     "Profit Costs (exc adv & enh):"},
-                {Decimal, "txtCareAndSupervisionProfitCostsVAT",  "Profit Costs VAT:"},
+                {Decimal, "txtCareAndSupervisionProfitCosts",     "Profit Costs (exc adv & enh):", 0, NoteBeneath},
+                {Decimal, "txtCareAndSupervisionProfitCostsVAT",  "Profit Costs VAT:", 0, NoteBeneath},
                 {Button,  "cmdCASLoadFromScheduleOfTime", "Load From Bill", 0, SameRow},
                 {Separator},
                 {Question, "", "In which region are you based?"},
@@ -86,8 +97,8 @@ const clsScreen &ScreenActualCostsIncurred()
                 {Tick, "chkCareAndSupervisionCourtFamilyProceeding", "Lay Justices or Clerks:", 0, None, 'J'},
             }},
             {"bxPrivateLaw", "Private Law Cases", {
-                {Decimal, "txtPrivateLawProfitCosts",    "Profit Costs (exc adv & enh):"},
-                {Decimal, "txtPrivateLawProfitCostsVAT", "Profit Costs VAT:"},
+                {Decimal, "txtPrivateLawProfitCosts",    "Profit Costs (exc adv & enh):", 0, NoteBeneath},
+                {Decimal, "txtPrivateLawProfitCostsVAT", "Profit Costs VAT:", 0, NoteBeneath},
                 {Button,  "cmdPLCLoadFromScheduleOfTime", "Load From Bill", 0, SameRow},
                 {Separator},
                 {Question, "", "In which region are you based?"},
@@ -118,7 +129,7 @@ const clsScreen &ScreenActualCostsIncurred()
                 {Tick,    "chkExceptionalCaseYes", "Yes:"},
                 {Tick,    "chkExceptionalCaseNo",  "No:"},
                 {ColumnBreak},
-                {Decimal, "txtFixedFee",           "What fixed fee would apply?"},
+                {Decimal, "txtFixedFee",           "What fixed fee would apply?", 0, NoteBeneath},
             }},
         },
         .rules = rules,

@@ -44,7 +44,7 @@ const clsScreen &ScreenDebtorsDetails()
                 {Separator},
                 {Text, "txtAssets",                  "Debtor's Assets:",        330,
                  MultiLine | SpellCheck | CaptionAbove},
-                {Decimal, "txtDebtorsIncome",        "Debtor's income:"},
+                {Decimal, "txtDebtorsIncome",        "Debtor's income:", 0, NoteBeneath},
                 {Separator},
                 {Question, "", "Was the debtor legally aided?"},
                 {Tick, "chkDebtorCLSFundedYes",      "Yes:",  0, Independent},

@@ -21,29 +21,29 @@ const clsScreen &ScreenDetailsOfCostsAwarded()
         .record = []() -> clsXMLRecord * { return &Form->DetailsOfCostsAwarded; },
         .frames = {
             {"bxGeneral", "Details of Costs Awarded", {
-                {Decimal, "txtPreCertificateCosts",               "Pre-certificate costs awarded:"},
+                {Decimal, "txtPreCertificateCosts",               "Pre-certificate costs awarded:", 0, NoteBeneath},
                 {Decimal, "txtDuringCertificateCostsLSC",
-                 "During certificate costs awarded (legal aid prescribed rates):"},
-                {Decimal, "txtDuringCertificateCostsMarketRates", "During certificate costs awarded (Market Rates):"},
+                 "During certificate costs awarded (legal aid prescribed rates):", 0, NoteBeneath},
+                {Decimal, "txtDuringCertificateCostsMarketRates", "During certificate costs awarded (Market Rates):", 0, NoteBeneath},
             }},
             {"bxClaim1A", "Claim1A Only", {
-                {Decimal, "txtTotalCostsAwarded",                 "Total costs awarded:"},
+                {Decimal, "txtTotalCostsAwarded",                 "Total costs awarded:", 0, NoteBeneath},
             }},
             {"oFrame1", "", {
                 {Question, "", "Are legal advice and assistance, and/or Legal Help costs included in the "
                                "pre-certificate costs Awarded?"},
                 {Tick,    "chkLegalHelpInPreCertificateCostsYes",    "Yes:"},
                 {Tick,    "chkLegalHelpInPreCertificateCostsNo",     "No:"},
-                {Decimal, "txtLegalHelpInPreCertificateCostsAmount", "If yes, tell us the amount:"},
+                {Decimal, "txtLegalHelpInPreCertificateCostsAmount", "If yes, tell us the amount:", 0, NoteBeneath},
                 {Separator},
-                {Decimal, "txtInterestOnAllCosts",                   "Interest on all costs:"},
-                {Date,    "txtDateInterestCommenced",                "Date interest commenced or commences:"},
+                {Decimal, "txtInterestOnAllCosts",                   "Interest on all costs:", 0, NoteBeneath},
+                {Date,    "txtDateInterestCommenced",                "Date interest commenced or commences:", 0, NoteBeneath},
                 {Text,    "txtInterestBreakdown",
                  "Please provide a breakdown where interest has been calculated:", 60, MultiLine | SpellCheck},
             }},
             {.name = "oFrame2", .caption = "", .rows = {
-                {Decimal, "txtAmountRecoveredToDate",  "Amount recovered to date:"},
-                {Date,    "txtDateOrderServed",        "Date order was served:"},
+                {Decimal, "txtAmountRecoveredToDate",  "Amount recovered to date:", 0, NoteBeneath},
+                {Date,    "txtDateOrderServed",        "Date order was served:", 0, NoteBeneath},
                 {Text,    "txtAddressOfService",       "Address of service:", 75, MultiLine},
                 {Separator},
                 {Question, "", "Does the court order say leave of the court is required before enforcement can take "
@@ -53,7 +53,7 @@ const clsScreen &ScreenDetailsOfCostsAwarded()
                 {Question, "", "Has a determination of the debtor's means been undertaken by the court?"},
                 {Tick,    "chkDeterminationYes",       "Yes:"},
                 {Tick,    "chkDeterminationNo",        "No:"},
-                {Decimal, "txtDeterminationAmount",    "If yes, give the amount:"},
+                {Decimal, "txtDeterminationAmount",    "If yes, give the amount:", 0, NoteBeneath},
                 {Question, "", "Has any offer been made by the debtor?"},
                 {Tick,    "chkOfferByDebtorYes",       "Yes:"},
                 {Tick,    "chkOfferByDebtorNo",        "No:"},

@@ -31,7 +31,7 @@ const clsScreen &ScreenDisbursementEdit()
             {"bxGeneral", "Disbursement", {
                 {Text,    "txtDescription", "Description:*", 35, Required | SpellCheck},
                 {Decimal, "txtAmount",      "Amount:*"},
-                {Decimal, "txtVAT",         "VAT:*"},
+                {Decimal, "txtVAT",         "VAT:*", 0, NoteBeneath},
                 {Button,  "cmdCalculate",   "Calculate", 0, SameRow},
                 {.kind = Other, .control = "oCounsel", .caption = "Counsel:", .other = &CounselOfItem},
                 {Date,    "txtDateOfWork",  "Date of Work:"},

@@ -37,7 +37,7 @@ const clsScreen &ScreenExpertInvoiceEdit()
                 {Decimal, "txtTravelTimeCosts",           "Travel Time Costs:"},
                 {Decimal, "txtOtherCosts",                "Other Costs:"},
                 {Decimal, "txtNetAmount",                 "Net Amount:"},
-                {Decimal, "txtVATAmount",                 "VAT Amount:"},
+                {Decimal, "txtVATAmount",                 "VAT Amount:", 0, NoteBeneath},
                 {Button,  "cmdCalculate",                 "Calculate", 0, SameRow},
             }},
         },

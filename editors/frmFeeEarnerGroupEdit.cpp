@@ -114,7 +114,7 @@ const clsScreen &ScreenFeeEarnerGroupEdit()
                 {Text,    "txtReference",       "Reference:*", 0, Required},
                 {.kind = Other, .control = "txtName", .caption = "Name:*", .flags = Required, .other = &Name},
                 {Tick,    "chkEnhance",         "Enhance:"},
-                {.kind = Decimal, .control = "txtEnhancementRate", .caption = "%", .flags = StartsDisabled | SameRow,
+                {.kind = Decimal, .control = "txtEnhancementRate", .caption = "%", .flags = StartsDisabled | SameRow | NoteBeneath,
                  .spoken = "Enhancement rate in per cent"},
                 {Tick,    "chkEnhanceComms",    "Enhance Communications:", 0, StartsDisabled},
             }},

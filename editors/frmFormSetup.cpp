@@ -58,7 +58,7 @@ const clsScreen &ScreenFormSetup()
             {"bxGeneral", "General", {
                 {.kind = List, .control = "cmbFormType", .caption = "Form Type:", .entries = formTypes},
                 {Tick,    "chkVAT",                           "VAT:"},
-                {.kind = Decimal, .control = "txtVATRate", .caption = "%", .flags = StartsDisabled | SameRow,
+                {.kind = Decimal, .control = "txtVATRate", .caption = "%", .flags = StartsDisabled | SameRow | NoteBeneath,
                  .spoken = "VAT rate in per cent"},
                 {Tick,    "chkIncludePanelMembershipContSheet", "Include Panel Membership Cont. Sheet:"},
             }},

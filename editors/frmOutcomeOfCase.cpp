@@ -43,12 +43,12 @@ const clsScreen &ScreenOutcomeOfCase()
                 {Tick, "chkWastedCostsOrderNo",  "No:"},
             }},
             {.name = "bxClaim1A", .caption = "Claim1A Only", .rows = {
-                {Date, "txtIssueOfProceedingsDate",     "Issue of Proceedings:"},
-                {Date, "txtEmergencyCertificateDate",   "Date of issue of emergency certificate:"},
-                {Date, "txtSubstantiveCertificateDate", "Date of issue of substantive certificate:"},
+                {Date, "txtIssueOfProceedingsDate",     "Issue of Proceedings:", 0, NoteBeneath},
+                {Date, "txtEmergencyCertificateDate",   "Date of issue of emergency certificate:", 0, NoteBeneath},
+                {Date, "txtSubstantiveCertificateDate", "Date of issue of substantive certificate:", 0, NoteBeneath},
             }, .startsColumn = true},
             {"oFrame1", "Claim1A Only", {
-                {Date, "txtDateOfFinalOrder",           "Date of Final Order:"},
+                {Date, "txtDateOfFinalOrder",           "Date of Final Order:", 0, NoteBeneath},
             }},
         },
     };

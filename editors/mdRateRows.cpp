@@ -6,7 +6,8 @@ std::vector<clsScreenRow> mdRateRows(const std::vector<clsScreenRow> &besideHour
     // clang-format off
     return mdJoinedRows({
         {
-            {.kind = Decimal, .control = "txtHourly",     .caption = "Hourly:*",      .member = "HourlyRate"},
+            {.kind = Decimal, .control = "txtHourly",     .caption = "Hourly:*",      .flags = NoteBeneath,
+             .member = "HourlyRate"},
         },
         besideHourly,
         {

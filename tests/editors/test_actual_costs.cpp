@@ -1,3 +1,4 @@
+#include "controls/oBoxNote.h"
 #include "controls/oCustomButton.h"
 #include "controls/oDecimalBox.h"
 #include "tests/editors/clsRecordTest.h"
@@ -175,6 +176,7 @@ TEST_F(ActualCostsScreen, TheBillIsLoadedWithoutItsAdvocacyAndWithTheVATOfThat)
     const auto screen = opened(ActualCosts);
     press(*screen, Care.button);
     EXPECT_EQ(pair("33.33", "6.67"), amounts(*screen, Care));
+    EXPECT_FALSE(oBoxNote::of(screen->Box(Care.profitCosts)));
     EXPECT_EQ(pair("", ""), amounts(*screen, PrivateLaw));
     EXPECT_EQ(QString(), textOf(*screen, "txtFixedFee"));
     press(*screen, PrivateLaw.button);
@@ -212,6 +214,10 @@ TEST_F(ActualCostsScreen, OnTheSecondFormTheAdvocacySchemeIsWhatIsTakenOff)
     press(*screen, PrivateLaw.button);
     // 58.33 less 60.00: less than nothing is shown as it is.
     EXPECT_EQ(pair("-1.67", "-0.33"), amounts(*screen, PrivateLaw));
+    const oBoxNote *note = oBoxNote::of(screen->Box(PrivateLaw.profitCosts));
+    ASSERT_TRUE(note);
+    EXPECT_EQ(QStringLiteral("Below zero: profit costs 58.33 less advocacy 60.00"), note->Words());
+    EXPECT_EQ(oBoxNote::Sign::Warning, note->sign());
     screen.reset();
     Form->FormType = QStringLiteral("Claim1");
     screen = opened(ActualCosts);

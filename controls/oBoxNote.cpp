@@ -210,7 +210,7 @@ int oBoxNote::heightOf(const QString &words, int width) const
 QRect oBoxNote::roomOfWords() const
 {
     if (m_buttonBelow)
-        return {textLeft(), 0, width() - textLeft(), m_use->y()};
+        return {textLeft(), 0, width() - textLeft(), fontMetrics().height()};
     const int end = m_use ? m_use->x() - Theme::Space8 : width();
     return {textLeft(), 0, end - textLeft(), height()};
 }

@@ -8,6 +8,7 @@
 #include "wordexport/document/mdWordXml.h"
 
 #include <algorithm>
+#include <string_view>
 
 using pugi::xml_node;
 
@@ -86,7 +87,10 @@ void clsWordDocument::save(clsZipPackage::Packing packing, bool toDisk)
     else
         mdWriteWorkingFile(m_path, bytes);
     const QByteArray &text = m_package.partBytes(m_package.mainPart());
-    m_savedText = {bytes.size(), bytes.indexOf(text), text.size()};
+    // It is near the front: QByteArray's own search would take long to learn what it looks for.
+    const size_t place
+        = std::string_view(bytes.data(), size_t(bytes.size())).find(std::string_view(text.data(), size_t(text.size())));
+    m_savedText = {bytes.size(), qint64(place), text.size()};
 }
 
 QByteArray clsWordDocument::styles()

@@ -392,6 +392,26 @@ TEST(clsZipPackage, StoredAndDeflatedHoldTheSame)
         EXPECT_EQ(read.bytes(read.indexOf(entry.name)), entry.bytes);
 }
 
+TEST(clsZipPackage, StoredSaysTheSumAndTheSizesOfEachEntry)
+{
+    clsZipPackage zip;
+    zip.add(QStringLiteral("empty"), {});
+    zip.add(QString(QChar(0xE9)), "123456789"); // its sum is the one that the algorithm is checked by
+    const QByteArray stored = zip.toBytes(clsZipPackage::Stored);
+    EXPECT_EQ(stored.size(), (30 + 46) * 2 + 2 * (5 + 2) + 9 + 22);
+    EXPECT_EQ(stored.mid(30 + 5, 4), "PK\3\4");
+    EXPECT_EQ(stored.mid(30 + 5 + 6, 24),
+        QByteArray("\0\x08\0\0\0\0\x21\0\x26\x39\xF4\xCB\x09\0\0\0\x09\0\0\0\x02\0\0\0", 24));
+    EXPECT_EQ(stored.mid(30 + 5 + 30, 2 + 9),
+        "\xC3\xA9"
+        "123456789");
+    const clsZipPackage read = clsZipPackage::fromBytes(stored, QString());
+    ASSERT_EQ(read.entries().size(), 2U);
+    EXPECT_EQ(read.entries()[0].bytes, QByteArray());
+    EXPECT_EQ(read.entries()[1].name, QString(QChar(0xE9)));
+    EXPECT_EQ(read.entries()[1].bytes, "123456789");
+}
+
 TEST(clsWordPackage, FindsTheMainPartByItsRelationshipWhateverItIsCalled)
 {
     clsTestDocument document(p(QStringLiteral("{x}")));

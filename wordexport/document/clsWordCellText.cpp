@@ -68,7 +68,7 @@ xml_node onlyChild(const xml_node &node, const char *properties, const char *nam
 
 bool hasOnly(const xml_node &properties, std::initializer_list<const char *> names)
 {
-    for (const xml_node &property : properties.children())
+    for (xml_node property = properties.first_child(); property; property = property.next_sibling())
         if (std::none_of(names.begin(), names.end(), [&](const char *name) { return WordXml::is(property, name); }))
             return false;
     return true;
@@ -107,7 +107,7 @@ bool clsWordCellText::fitsAtAGlance(
 
 const clsWordTyped::Mark *clsWordCellText::firstTyped(const xml_node &cell, const clsWordTyped &typed)
 {
-    for (const xml_node &child : cell.children()) {
+    for (xml_node child = cell.first_child(); child; child = child.next_sibling()) {
         const clsWordTyped::Mark *mark = nullptr;
         if (WordXml::isRun(child))
             mark = typed.of(child);

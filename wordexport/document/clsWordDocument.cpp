@@ -8,6 +8,7 @@
 #include "wordexport/document/mdWordXml.h"
 
 #include <algorithm>
+#include <string_view>
 
 using pugi::xml_node;
 
@@ -51,6 +52,18 @@ bool isHidden(const xml_node &format)
     return hidden && WordXml::isOn(hidden);
 }
 
+// What a paragraph mark says of its own insertion or deletion is not a look to take over.
+constexpr const char *OfMark[] = {"w:ins", "w:del", "w:moveFrom", "w:moveTo", "w:rPrChange"};
+
+bool saysOfMark(const xml_node &format)
+{
+    for (xml_node child = format.first_child(); child; child = child.next_sibling())
+        if (std::any_of(
+                std::begin(OfMark), std::end(OfMark), [&](const char *name) { return WordXml::is(child, name); }))
+            return true;
+    return false;
+}
+
 void setFont(xml_node format, const char *font)
 {
     format.remove_child("w:rFonts");
@@ -86,7 +99,10 @@ void clsWordDocument::save(clsZipPackage::Packing packing, bool toDisk)
     else
         mdWriteWorkingFile(m_path, bytes);
     const QByteArray &text = m_package.partBytes(m_package.mainPart());
-    m_savedText = {bytes.size(), bytes.indexOf(text), text.size()};
+    // It is near the front: QByteArray's own search would take long to learn what it looks for.
+    const size_t place
+        = std::string_view(bytes.data(), size_t(bytes.size())).find(std::string_view(text.data(), size_t(text.size())));
+    m_savedText = {bytes.size(), qint64(place), text.size()};
 }
 
 QByteArray clsWordDocument::styles()
@@ -290,12 +306,14 @@ void clsWordDocument::clearSelectedCell()
 
 xml_node clsWordDocument::formatForTyping(const xml_node &like, bool symbolFont)
 {
+    const bool otherBoldness = m_bold && *m_bold != boldness().isBold(like, m_cursor.paragraph());
+    if (!otherBoldness && !symbolFont && !saysOfMark(like))
+        return like;
     m_format.remove_children();
     xml_node format = like ? m_format.append_copy(like) : m_format.append_child("w:rPr");
-    // What a paragraph mark says of its own insertion or deletion is not a look to take over.
-    for (const char *markOnly : {"w:ins", "w:del", "w:moveFrom", "w:moveTo", "w:rPrChange"})
-        format.remove_child(markOnly);
-    if (m_bold && *m_bold != boldness().isBold(format, m_cursor.paragraph())) {
+    for (const char *name : OfMark)
+        format.remove_child(name);
+    if (otherBoldness) {
         xml_node bold = WordXml::ensureChild(format, "w:b");
         bold.remove_attributes();
         if (!*m_bold)

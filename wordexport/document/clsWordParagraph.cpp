@@ -42,9 +42,9 @@ bool clsWordParagraph::mayHold(const xml_node &paragraph, char c)
 {
     for (xml_node run = WordXml::firstItem(paragraph, WordXml::isRun); run;
          run = WordXml::nextItem(run, WordXml::isRun))
-        for (const xml_node &child : run.children())
+        for (xml_node child = run.first_child(); child; child = child.next_sibling())
             if (WordXml::is(child, "w:t"))
-                for (const xml_node &piece : child.children())
+                for (xml_node piece = child.first_child(); piece; piece = piece.next_sibling())
                     if (std::strchr(piece.value(), c) != nullptr)
                         return true;
     return false;
@@ -63,7 +63,7 @@ void clsWordParagraph::read() const
 
 void clsWordParagraph::readRun(const xml_node &run, std::vector<bool> &fieldCodes) const
 {
-    for (const xml_node &node : run.children()) {
+    for (xml_node node = run.first_child(); node; node = node.next_sibling()) {
         if (WordXml::is(node, "w:fldChar")) {
             const QByteArrayView kind(node.attribute("w:fldCharType").value());
             if (kind == "begin")

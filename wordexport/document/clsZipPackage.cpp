@@ -2,18 +2,14 @@
 
 #include "wordexport/document/mdDocumentError.h"
 #include "wordexport/document/mdDocumentFile.h"
+#include "wordexport/document/mdStoredZip.h"
 
 #include <zip.h>
 
 #include <algorithm>
-#include <deque>
 #include <memory>
 
 namespace {
-
-// A fixed moment, the first that a zip can name: documents hold no clock.
-constexpr zip_uint16_t FixedDosTime = 0;
-constexpr zip_uint16_t FixedDosDate = (0 << 9) | (1 << 5) | 1;
 
 struct CloseArchive {
     void operator()(zip_t *archive) const { zip_discard(archive); }
@@ -167,7 +163,7 @@ private:
 };
 
 /// libzip reads the bytes when the archive is closed; the entry must outlive that.
-void addTo(zip_t *archive, const clsZipPackage::Entry &entry, bool stored)
+void addTo(zip_t *archive, const clsZipPackage::Entry &entry)
 {
     zip_source_t *source = entry.packed
         ? clsPackedSource::create(archive, *entry.packed)
@@ -178,9 +174,8 @@ void addTo(zip_t *archive, const clsZipPackage::Entry &entry, bool stored)
         zip_source_free(source);
         throw clsRunTimeError(clsRunTimeError::OutOfMemory);
     }
-    zip_set_file_compression(archive, zip_uint64_t(index), stored ? ZIP_CM_STORE : ZIP_CM_DEFLATE,
-        stored ? 0 : zip_uint32_t(clsDeflatedText::Level));
-    zip_file_set_dostime(archive, zip_uint64_t(index), FixedDosTime, FixedDosDate, 0);
+    zip_set_file_compression(archive, zip_uint64_t(index), ZIP_CM_DEFLATE, zip_uint32_t(clsDeflatedText::Level));
+    zip_file_set_dostime(archive, zip_uint64_t(index), ZipMoment::Time, ZipMoment::Date, 0);
 }
 
 QByteArray readBack(zip_source_t *source)
@@ -235,7 +230,12 @@ clsZipPackage clsZipPackage::fromBytes(const QByteArray &bytes, const QString &s
 
 QByteArray clsZipPackage::toBytes(Packing packing) const
 {
-    // The order that readers expect: what describes the package, where to begin, the beginning, then the rest.
+    return packing == Stored ? stored(inOrder()) : deflated(inOrder());
+}
+
+// The order that readers expect: what describes the package, where to begin, the beginning, then the rest.
+std::vector<const clsZipPackage::Entry *> clsZipPackage::inOrder() const
+{
     const auto rank = [this](const Entry &entry) {
         return entry.name == QLatin1String("[Content_Types].xml") ? 0
             : entry.name == QLatin1String("_rels/.rels")          ? 1
@@ -250,7 +250,20 @@ QByteArray clsZipPackage::toBytes(Packing packing) const
         const int rankB = rank(*b);
         return rankA != rankB ? rankA < rankB : a->name < b->name;
     });
+    return ordered;
+}
 
+QByteArray clsZipPackage::stored(const std::vector<const Entry *> &ordered)
+{
+    std::vector<clsStoredEntry> entries;
+    entries.reserve(ordered.size());
+    for (const Entry *entry : ordered)
+        entries.push_back({entry->name.toUtf8(), entry->packed ? entry->packed->text() : entry->bytes});
+    return mdStoredZip(entries);
+}
+
+QByteArray clsZipPackage::deflated(const std::vector<const Entry *> &ordered)
+{
     zip_error_t error;
     zip_error_init(&error);
     const Source source(zip_source_buffer_create(nullptr, 0, 0, &error));
@@ -259,13 +272,8 @@ QByteArray clsZipPackage::toBytes(Packing packing) const
     if (!archive)
         throw clsRunTimeError(clsRunTimeError::OutOfMemory);
     zip_source_keep(source.get()); // closing the archive lets go of it, and the result is read from it afterwards
-    // What is not to be packed is unpacked here: libzip would do it, but mark the entry as one that must be unpacked.
-    std::deque<Entry> unpacked;
-    for (const Entry *entry : ordered) {
-        if (packing == Stored && entry->packed)
-            entry = &unpacked.emplace_back(Entry {entry->name, entry->packed->text(), {}});
-        addTo(archive.get(), *entry, packing == Stored);
-    }
+    for (const Entry *entry : ordered)
+        addTo(archive.get(), *entry);
     if (zip_close(archive.get()) != 0)
         throw clsRunTimeError(clsRunTimeError::OutOfMemory);
     archive.release();

@@ -45,6 +45,10 @@ public:
     void setMainEntry(const QString &name) { m_mainEntry = name; }
 
 private:
+    std::vector<const Entry *> inOrder() const;
+    static QByteArray stored(const std::vector<const Entry *> &ordered);
+    static QByteArray deflated(const std::vector<const Entry *> &ordered);
+
     std::vector<Entry> m_entries;
     QHash<QString, int> m_index;
     QString m_mainEntry;

@@ -109,6 +109,7 @@ public:
         , m_looks(looks)
         , m_pages(pages)
         , m_shape(table, looks)
+        , m_mayGrow(hasGrowingRow(table))
     { }
 
     void place()
@@ -123,11 +124,20 @@ public:
     }
 
 private:
+    static bool hasGrowingRow(const xml_node &table)
+    {
+        xml_node row = WordXml::firstItem(table, WordXml::isRow);
+        while (row && clsWordTableShape::isExact(row))
+            row = WordXml::nextItem(row, WordXml::isRow);
+        return bool(row);
+    }
+
     void placeRow(const xml_node &row, const xml_node &above)
     {
         const int said = clsWordTableShape::heightSaidBy(row);
         if (clsWordTableShape::isExact(row)) {
-            noteReaching(row);
+            if (m_mayGrow)
+                noteReaching(row);
             m_pages.place(said);
             m_above += said;
             return;
@@ -241,6 +251,7 @@ private:
     const clsWordLooks &m_looks;
     clsPages &m_pages;
     clsWordTableShape m_shape;
+    bool m_mayGrow; ///< without a row that may, the text of the cells makes no difference
     clsWordTyped m_typed; // of what is printed it makes no difference
     std::map<int, Reaching> m_reaching; // by their columns
     qint64 m_above = 0;

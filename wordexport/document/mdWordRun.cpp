@@ -130,8 +130,12 @@ bool WordRun::sameFormat(const xml_node &a, const xml_node &b)
 
 void WordRun::giveFormat(xml_node run, const xml_node &format)
 {
-    run.remove_child("w:rPr");
-    if (format.first_child())
+    const xml_node own = run.child("w:rPr");
+    const bool any = bool(format.first_child());
+    if (any && own == format)
+        return;
+    run.remove_child(own);
+    if (any)
         run.prepend_copy(format);
 }
 

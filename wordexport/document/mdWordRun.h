@@ -21,7 +21,7 @@ int type(const pugi::xml_node &run, const QString &typed, bool symbols);
 
 /// Two formattings are the same, also where one is empty and the other missing.
 bool sameFormat(const pugi::xml_node &a, const pugi::xml_node &b);
-/// Gives a run a copy of that formatting in place of its own.
+/// Gives a run a copy of that formatting, which may be its own, in place of its own.
 void giveFormat(pugi::xml_node run, const pugi::xml_node &format);
 
 /// Removes a run that holds nothing but its formatting; true when it did.

@@ -248,7 +248,8 @@ bool isRun(const xml_node &node)
 
 xml_node firstItem(const xml_node &container, ItemTest isItem)
 {
-    for (const xml_node &child : container.children())
+    // Without the library's iterators, of which each step takes three calls.
+    for (xml_node child = container.first_child(); child; child = child.next_sibling())
         if (const xml_node found = itemIn(child, isItem, false))
             return found;
     return {};

@@ -21,7 +21,7 @@ struct clsTotalRow {
     const char *key;
     const char *words;
     const char *screen; ///< where it can be changed; none for a sum of several screens
-    std::array<const char *, 4> parts {};
+    std::array<const char *, 5> parts {};
     void (*addItems)(clsWhy &why, const clsBill &bill) = nullptr;
     Shape shape = Sum;
 };
@@ -112,6 +112,17 @@ constexpr clsTotalRow Claim1AColumns[] = {
     {"counsel",       "Counsel's fees with VAT", "", {"ncsl", "vcsl"}},
     {"all",           "Total and counsel", "", {"total", "counsel"}},
 };
+// The strip's own
+constexpr clsTotalRow StripRows[] = {
+    {"other",         "Other", "", {"CommsTotal", "ExpertInvoicesNetTotal", "NonCounselDisbursementsAmountTotal"}},
+    {"fixedfee",      "Fixed fee", "Actual Costs"},
+};
+constexpr clsTotalRow Claim1LimitRows[] = {
+    {"limit",         "Costs, net with counsel", "", {"npc", "nex", "ndibs", "ncf"}},
+};
+constexpr clsTotalRow Claim1ALimitRows[] = {
+    {"limit",         "Costs, net with counsel", "", {"npc", "nex", "ndibs", "nfas", "ncsl"}},
+};
 // clang-format on
 
 using clsRows = std::span<const clsTotalRow>;
@@ -151,11 +162,17 @@ clsTotal columnOf(const Form &form, QLatin1String key)
         mdFigureOf(mdListFigures(form), key)};
 }
 
+clsTotal ofStrip(const Form &form, QLatin1String key)
+{
+    return {rowOf({StripRows, isClaim1A(form) ? clsRows(Claim1ALimitRows) : clsRows(Claim1LimitRows)}, key),
+        mdFigureOf(mdStripFigures(), key)};
+}
+
 void addFigure(clsWhy &why, const QString &words, const clsTotal &total, const clsBill &bill)
 {
     clsWhySource source;
     source.Screen = QString::fromLatin1(total.row->screen);
-    why.add(words, {}, source, [&] { return MoneyToText(total.figure->figure(bill)); });
+    why.add(words, {}, source, [&] { return total.figure->figure(bill); });
 }
 
 void addParts(clsWhy &why, const clsTotalRow &row, const clsBill &bill)
@@ -217,4 +234,13 @@ std::optional<clsWhy> mdWhyListColumn(const clsBill &bill, const QString &column
     if (column == QLatin1String("items"))
         return whyItems(bill);
     return whyTotal(bill, columnOf(bill.form(), QLatin1String(column.toLatin1())));
+}
+
+std::optional<clsWhy> mdWhyClaimTotal(const clsBill &bill, const QString &key)
+{
+    const QByteArray word = key.toLatin1();
+    for (const auto find : {totalOf, columnOf, ofStrip})
+        if (const clsTotal total = find(bill.form(), QLatin1String(word)))
+            return whyTotal(bill, total);
+    return {};
 }

@@ -38,6 +38,7 @@ enum class Glyph {
     Warning,
     List,
     RunsOn,
+    Cross,
 };
 
 /// Draws the glyph into the middle of the rectangle, as large as its shorter side.

@@ -35,6 +35,7 @@ inline constexpr QColor TooltipBack   {0x2F, 0x2A, 0x33};
 inline constexpr QColor RedHover      {0x8B, 0x0D, 0x11}; ///< danger button under the pointer
 inline constexpr QColor RedPressed    {0x69, 0x0A, 0x0D};
 inline constexpr QColor PageEdge      {0xC9, 0xB0, 0xC9}; ///< border of the open page of a content switcher
+inline constexpr QColor AmberInk      {0x8F, 0x53, 0x00}; ///< text where orange is too pale: nearly at a limit
 
 /// Distances in logical pixels.
 inline constexpr int Space4  =  4;

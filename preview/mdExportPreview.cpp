@@ -38,6 +38,12 @@ void mdExportPreviewAddRow(bool spacer)
     grid.AddRow();
 }
 
+void mdExportPreviewSetOrigin(clsPreviewOrigin origin)
+{
+    oPreviewGrid &grid = mdExportPreviewGrid();
+    grid.setOrigin(grid.Rows(), origin);
+}
+
 void mdExportPreviewSetText(
     int column, const QString &text, clsGridAlignment alignment, bool bold, bool underline, bool money)
 {

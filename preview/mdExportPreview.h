@@ -18,6 +18,8 @@ void mdExportPreviewInit();
 void mdExportPreviewAddColumn(int percent);
 /// Appends a row; a spacer is a further, empty row above it.
 void mdExportPreviewAddRow(bool spacer);
+/// Says of what the figures of the last row are.
+void mdExportPreviewSetOrigin(clsPreviewOrigin origin);
 /// Writes a cell of the last row. Money is printed with two decimals; what is zero is not shown at all.
 void mdExportPreviewSetText(int column, const QString &text, clsGridAlignment alignment, bool bold = false,
     bool underline = false, bool money = false);

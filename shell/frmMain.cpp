@@ -6,11 +6,13 @@
 #include "commands/mdFileHandling.h"
 #include "controls/mdLargestWindow.h"
 #include "controls/mdShowModal.h"
+#include "controls/mdTheme.h"
 #include "controls/oAllPurposeBox.h"
 #include "controls/oFooterBar.h"
 #include "controls/oHeaderBar.h"
 #include "controls/oTabBar.h"
 #include "controls/oTimeSpentBox.h"
+#include "controls/oTotalsStrip.h"
 #include "editors/mdEnterField.h"
 #include "editors/mdFieldPlace.h"
 #include "editors/mdSections.h"
@@ -27,6 +29,8 @@
 #include "preview/oPreviewSheet.h"
 #include "shell/clsFormPages.h"
 #include "shell/clsLongWork.h"
+#include "shell/clsStripFiller.h"
+#include "shell/clsWhyOpener.h"
 #include "shell/mdMainMenu.h"
 #include "shell/oApplication.h"
 
@@ -44,6 +48,7 @@ namespace {
 constexpr int AutoBackupMilliseconds = 10000;
 constexpr int ReplacementsPage = 2;
 constexpr int FrameHeight = 40; ///< room for that of the desktop, which is known only once the window is up
+constexpr int LowWindow = 620;
 constexpr int LongestGrowth = 1000; ///< in milliseconds
 
 } // namespace
@@ -59,6 +64,9 @@ frmMain::frmMain(QWidget *parent)
     , m_formPages(new oFormPages)
     , m_previews(new QStackedLayout)
     , m_pages(new clsFormPages(*m_formPages, this))
+    , m_strip(new oTotalsStrip)
+    , m_stripFiller(new clsStripFiller(*m_strip, this))
+    , m_why(nullptr)
     , oFooter(new oFooterBar)
     , tmrAutoBackup(new QTimer(this))
 {
@@ -69,8 +77,13 @@ frmMain::frmMain(QWidget *parent)
     connect(tbSection, &oTabBar::Click, this, &frmMain::tbSection_Click);
     connect(tbSubSection, &oTabBar::Click, this, &frmMain::tbSubSection_Click);
     connect(tmrAutoBackup, &QTimer::timeout, this, &frmMain::tmrAutoBackup_Timer);
-    connect(sgPreview, &oPreviewGrid::RightClick, this,
-        [this](const QPoint &place) { menuBar()->findChild<QMenu *>(QStringLiteral("mnuPreview"))->popup(place); });
+    auto *previewMenu = menuBar()->findChild<QMenu *>(QStringLiteral("mnuPreview"));
+    connect(sgPreview, &oPreviewGrid::RightClick, previewMenu,
+        [previewMenu](const QPoint &place) { previewMenu->popup(place); });
+    // Once the entry that was chosen has run.
+    connect(previewMenu, &QMenu::aboutToHide, sgPreview, &oPreviewGrid::ForgetPointedRow, Qt::QueuedConnection);
+    connect(m_why, &clsWhyOpener::PlaceChosen, this, &frmMain::OpenSource);
+    connect(m_stripFiller, &clsStripFiller::Renewed, m_why, &clsWhyOpener::TakeDrawnState);
     SetOpenSection([this](const QString &text) { tbSubSection_Click(-1, text); });
     // From a box of whatever screen is open, over that screen.
     SetEditReplacements([] { mdShowPreferences(QApplication::activeWindow(), ReplacementsPage); });
@@ -80,6 +93,7 @@ frmMain::frmMain(QWidget *parent)
     const auto stopTimer = [this] {
         oFooter->TimeSpentTimer()->StopTimer();
         m_pages->Forget();
+        m_stripFiller->Forget();
     };
     SetFormDisplay({[this] { Activate(); }, mdClearPreview, stopTimer});
 }
@@ -115,8 +129,10 @@ void frmMain::build()
     m_previews->addWidget(pctPreview);
     m_previews->addWidget(m_formPages);
     layout->addLayout(m_previews, 1);
+    layout->addWidget(m_strip);
     layout->addWidget(oFooter);
     setCentralWidget(centre);
+    m_why = new clsWhyOpener(*m_strip, *sgPreview, *centre, this);
     mdBuildMainMenu(*this);
 }
 
@@ -245,6 +261,7 @@ void frmMain::Activate()
     // Without the mark on the tab that was clicked, the same one can be clicked again.
     tbSubSection->SwitchTo(0);
     refreshPreview();
+    m_stripFiller->Renew();
     m_activationDone = !isActiveWindow();
 }
 
@@ -268,6 +285,8 @@ void frmMain::showEvent(QShowEvent *event)
 void frmMain::resizeEvent(QResizeEvent *event)
 {
     QMainWindow::resizeEvent(event);
+    m_strip->setLow(height() < Theme::scaled(LowWindow));
+    m_why->Close();
     if (std::exchange(m_grows, false))
         QTimer::singleShot(0, this, &frmMain::drawForShownWidth);
 }
@@ -302,7 +321,10 @@ void frmMain::redraw(void (*routine)(clsPreviewKind))
     const QScopedValueRollback<bool> redrawing(m_redrawing, true);
     const clsLongWork work;
     m_drawnWidth = sgPreview->width();
+    m_why->Close();
     routine(m_previewKind);
+    m_why->TellDrawn();
+    m_stripFiller->Renew();
 }
 
 bool frmMain::showsFormPages() const

@@ -11,13 +11,17 @@ class QDialog;
 class QMenu;
 class QStackedLayout;
 class QTimer;
+struct clsWhySource;
 class clsFormPages;
+class clsStripFiller;
+class clsWhyOpener;
 class oFooterBar;
 class oFormPages;
 class oHeaderBar;
 class oPreviewGrid;
 class oPreviewSheet;
 class oTabBar;
+class oTotalsStrip;
 
 /// The one top-level window: a launcher and a display. Everything that is edited is edited on modal screens that it
 /// opens; its own area shows which claim this is, two rows of tabs, the preview and the status line. Its caption is
@@ -42,6 +46,8 @@ public:
     void tbSubSection_Click(int index, const QString &tag);
     /// Opens the screen on which a property is entered, with the focus on its field.
     void OpenField(const QString &property);
+    /// Opens the place where something that a figure comes from can be changed.
+    void OpenSource(const clsWhySource &place);
     /// One tick of the timer for backups.
     void tmrAutoBackup_Timer();
 
@@ -60,6 +66,8 @@ public:
     void PreviewScheduleOfTime() { drawPreview(clsPreviewKind::ScheduleOfTime); }
     void PreviewAdditionalInformation() { drawPreview(clsPreviewKind::AdditionalInformation); }
     void FormPages();
+    void WhyThisFigure();
+    void CostsLimit();
     void UserGuide();
     void KeyboardShortcutsList();
     void MakeASuggestion();
@@ -110,6 +118,9 @@ private:
     oFormPages *m_formPages;
     QStackedLayout *m_previews;
     clsFormPages *m_pages;
+    oTotalsStrip *m_strip;
+    clsStripFiller *m_stripFiller;
+    clsWhyOpener *m_why;
     oFooterBar *oFooter;
     QTimer *tmrAutoBackup;
 

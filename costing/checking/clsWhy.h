@@ -15,6 +15,14 @@ struct clsWhySource {
     QString Property {};
 };
 
+/// A figure that can be asked about, in the words of `mdWhy`. Empty for none.
+struct clsWhyAsked {
+    QString Kind {};
+    QString Which {};
+
+    bool isEmpty() const { return Kind.isEmpty(); }
+};
+
 /// A value that is so many per cent.
 struct clsPercentage {
     Money PerCent;
@@ -29,6 +37,7 @@ struct clsWhyStep {
     QString Value;
     clsWhySource Source {};
     clsUnit Unit = Words;
+    clsWhyAsked Asked {}; ///< where the value is a figure that has steps too
 
     /// Text and reason as one sentence.
     QString sentence() const;
@@ -76,6 +85,12 @@ public:
             m_hasFailed = true;
             m_steps.push_back({text, error.cause(), QStringLiteral("!%1").arg(error.number()), source});
         }
+    }
+    /// Says that the last step's value is a figure that can be asked about. No other follows one that failed.
+    void lastCanBeAsked(const QString &kind, const QString &which)
+    {
+        if (m_steps.back().Asked.isEmpty())
+            m_steps.back().Asked = {kind, which};
     }
     /// Runs what adds steps; where something that they are made of can't be read, that is the last of them.
     template <class Run> void addAll(const QString &text, Run run)

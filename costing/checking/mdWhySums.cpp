@@ -86,6 +86,7 @@ void mdAddAdvocacy(clsWhy &why, const clsBill &bill)
                     mdExplained(form, *item, [&] { item->Claim(); });
                 return price.Claim;
             });
+        why.lastCanBeAsked(QStringLiteral("schedule"), QString::number(item->OrderID()));
     }
 }
 
@@ -135,9 +136,11 @@ void mdAddFeeVAT(clsWhy &why, const clsBill &bill)
 
 void mdAddHearings(clsWhy &why, const clsBill &bill)
 {
-    for (const auto &item : bill.form().FASItemsCollection())
+    for (const auto &item : bill.form().FASItemsCollection()) {
         why.add(nameOf(*item), {}, {QStringLiteral("Family Advocacy Scheme"), QStringLiteral("fas"), item->OrderID()},
             [&] { return mdExplained(bill.form(), *item, [&] { return item->Total(); }); });
+        why.lastCanBeAsked(QStringLiteral("fas"), QString::number(item->OrderID()));
+    }
 }
 
 void mdAddHearingsVAT(clsWhy &why, const clsBill &bill)
@@ -155,10 +158,12 @@ void mdAddCommunications(clsWhy &why, const clsBill &bill)
 {
     const Form &form = bill.form();
     for (int line = 1; line <= CommsLines; ++line)
-        for (const clsCommsKind kind : {clsCommsKind::Calls, clsCommsKind::LettersIn, clsCommsKind::LettersOut})
+        for (const clsCommsKind kind : {clsCommsKind::Calls, clsCommsKind::LettersIn, clsCommsKind::LettersOut}) {
             why.add(QStringLiteral("Line %1 of the %2").arg(line).arg(QString::fromLatin1(Kinds[int(kind)])), {},
                 {QStringLiteral("Communications"), QStringLiteral("communications")},
                 [&] { return mdExplained(form, line, kind, [&] { return CommsClaimAtLine(form, line, kind); }); });
+            why.lastCanBeAsked(QStringLiteral("communications"), QStringLiteral("%1/%2").arg(int(kind)).arg(line));
+        }
 }
 
 clsKeptHearingsVAT::clsKeptHearingsVAT(const clsZR3Form &form)

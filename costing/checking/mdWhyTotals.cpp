@@ -168,10 +168,17 @@ clsTotal ofStrip(const Form &form, QLatin1String key)
         mdFigureOf(mdStripFigures(), key)};
 }
 
+clsWhySource vatRate()
+{
+    return {QStringLiteral("Form Setup"), {}, 0, QStringLiteral("VATRate")};
+}
+
 void addFigure(clsWhy &why, const QString &words, const clsTotal &total, const clsBill &bill)
 {
     clsWhySource source;
     source.Screen = QString::fromLatin1(total.row->screen);
+    if (total.row->shape == clsTotalRow::VAT)
+        source = vatRate();
     why.add(words, {}, source, [&] { return total.figure->figure(bill); });
 }
 
@@ -180,16 +187,15 @@ void addParts(clsWhy &why, const clsTotalRow &row, const clsBill &bill)
     for (const char *key : row.parts) {
         if (!key)
             continue;
-        clsTotal part = totalOf(bill.form(), QLatin1String(key));
-        if (!part)
-            part = columnOf(bill.form(), QLatin1String(key));
+        const clsTotal total = totalOf(bill.form(), QLatin1String(key));
+        const clsTotal part = total ? total : columnOf(bill.form(), QLatin1String(key));
         const QString words = QString::fromLatin1(part.row->words);
         const bool isTakenOff = row.shape == clsTotalRow::Difference && key != row.parts.front();
         addFigure(why, isTakenOff ? QStringLiteral("Less: ") + words : words, part, bill);
+        why.lastCanBeAsked(total ? QStringLiteral("total") : QStringLiteral("list"), QString::fromLatin1(key));
     }
     if (row.shape == clsTotalRow::VAT)
-        why.add(QStringLiteral("Rate of VAT, per cent"), {},
-            {QStringLiteral("Form Setup"), {}, 0, QStringLiteral("VATRate")}, [&] { return bill.form().VATRate(); });
+        why.add(QStringLiteral("Rate of VAT, per cent"), {}, vatRate(), [&] { return bill.form().VATRate(); });
 }
 
 std::optional<clsWhy> whyTotal(const clsBill &bill, const clsTotal &total)

@@ -49,6 +49,7 @@ constexpr clsGlyphRow Glyphs[] = {
     {Glyph::ChevronUp,    "M 4.5 12.6 L 10 7.2 L 15.5 12.6", ""},
     {Glyph::ChevronDown,  "M 4.5 7.4 L 10 12.8 L 15.5 7.4", ""},
     {Glyph::ChevronRight, "M 7.4 4.5 L 12.8 10 L 7.4 15.5", ""},
+    {Glyph::Cross,        "M 5 5 L 15 15 M 15 5 L 5 15", ""},
     {Glyph::Plus,         "M 10 3.5 L 10 16.5 M 3.5 10 L 16.5 10", ""},
     {Glyph::Bin,          "M 3 5 L 17 5 M 7.2 5 L 7.2 2.6 L 12.8 2.6 L 12.8 5 M 4.8 5 L 5.6 17.5 L 14.4 17.5 L 15.2 5 M 8.3 8.2 L 8.3 14.2 M 11.7 8.2 L 11.7 14.2", ""},
     {Glyph::Warning,      "M 10 2.6 L 18.4 17 L 1.6 17 Z M 10 7.6 L 10 11.8", "O 10 14.3 1"},

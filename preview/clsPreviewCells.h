@@ -33,7 +33,9 @@ public:
     int Columns() const { return int(m_columns.size()); }
 
     void RemoveAll();
-    void AddColumn(const QString &key, int width);
+    /// The share, in hundredths, is that of the sheet; 0 for a column whose width is fixed.
+    void AddColumn(const QString &key, int width, int share = 0);
+    void setColumnWidth(int column, int width) { const_cast<clsColumn &>(columnAt(column)).width = width; }
     void AddRow(int height);
     /// Makes room for so many rows more, each with a spacer.
     void ExpectRows(int count);
@@ -45,6 +47,7 @@ public:
 
     const QString &ColumnKey(int column) const { return columnAt(column).key; }
     int ColumnWidth(int column) const { return columnAt(column).width; }
+    int ColumnShare(int column) const { return columnAt(column).share; }
     int RowHeight(int row) const { return rowAt(row).height; }
     clsPreviewRowLook RowLook(int row) const { return rowAt(row).look; }
     /// True for a row to which nothing was written, not even an empty text.
@@ -61,6 +64,7 @@ private:
     struct clsColumn {
         QString key;
         int width;
+        int share;
     };
     struct clsRow {
         int firstCell = Nothing;

@@ -11,11 +11,13 @@
 #include "controls/oHeaderBar.h"
 #include "controls/oTabBar.h"
 #include "controls/oTimeSpentBox.h"
-#include "editors/mdEnterField.h"
+#include "editors/frmSection.h"
 #include "editors/mdFieldPlace.h"
 #include "editors/mdSections.h"
 #include "editors/mdShowPreferences.h"
 #include "editors/mdUnloadAndDummyTabClick.h"
+#include "editors/mdWayTo.h"
+#include "formdata/clsClaimPlace.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
 #include "formdata/mdGlobals.h"
@@ -25,10 +27,14 @@
 #include "preview/oPageView.h"
 #include "preview/oPreviewGrid.h"
 #include "preview/oPreviewSheet.h"
+#include "shell/clsCheckState.h"
 #include "shell/clsFormPages.h"
 #include "shell/clsLongWork.h"
 #include "shell/mdMainMenu.h"
+#include "shell/mdOpenPanels.h"
 #include "shell/oApplication.h"
+#include "shell/oCheckPanel.h"
+#include "shell/oPreviewArea.h"
 
 #include <QMenu>
 #include <QMenuBar>
@@ -59,6 +65,7 @@ frmMain::frmMain(QWidget *parent)
     , m_formPages(new oFormPages)
     , m_previews(new QStackedLayout)
     , m_pages(new clsFormPages(*m_formPages, this))
+    , m_check(new clsCheckState(this))
     , oFooter(new oFooterBar)
     , tmrAutoBackup(new QTimer(this))
 {
@@ -80,6 +87,7 @@ frmMain::frmMain(QWidget *parent)
     const auto stopTimer = [this] {
         oFooter->TimeSpentTimer()->StopTimer();
         m_pages->Forget();
+        m_check->Forget();
     };
     SetFormDisplay({[this] { Activate(); }, mdClearPreview, stopTimer});
 }
@@ -114,7 +122,8 @@ void frmMain::build()
     layout->addWidget(tbSubSection);
     m_previews->addWidget(pctPreview);
     m_previews->addWidget(m_formPages);
-    layout->addLayout(m_previews, 1);
+    buildCheck();
+    layout->addWidget(m_area, 1);
     layout->addWidget(oFooter);
     setCentralWidget(centre);
     mdBuildMainMenu(*this);
@@ -125,7 +134,9 @@ void frmMain::Load(const QString &claimPath)
     placeRestored();
     setWindowState(Qt::WindowMaximized);
     // The preview takes the widths of its columns from the sheet, and it is drawn before the window shows.
-    pctPreview->resize(screen()->availableSize());
+    openCheck(mdIsPanelLeftOpen(m_checkPanel->objectName()));
+    m_area->resize(screen()->availableSize());
+    pctPreview->resize(m_area->previewWidth(m_area->width()), m_area->height());
     QResizeEvent placed(pctPreview->size(), QSize());
     QCoreApplication::sendEvent(pctPreview, &placed);
     Preferences = std::make_unique<clsZR3PreferencesDatabase>();
@@ -189,11 +200,9 @@ void frmMain::tbSubSection_Click(int index, const QString &tag)
         if (!screen)
             continue;
         shown = true;
-        if (const QString field = std::exchange(m_nextField, QString()); !field.isEmpty())
-            QTimer::singleShot(0, screen.get(), [&window = *screen, field] {
-                if (auto *control = window.findChild<QWidget *>(field))
-                    mdEnterField(*control);
-            });
+        auto *section = qobject_cast<frmSection *>(screen.get());
+        if (const auto way = std::exchange(m_nextWay, nullptr); section && way)
+            QTimer::singleShot(0, section, [section, way] { way(*section); });
         const QScopedValueRollback<bool> modal(m_modal, true);
         mdShowModal(*screen);
     }
@@ -203,11 +212,17 @@ void frmMain::tbSubSection_Click(int index, const QString &tag)
 
 void frmMain::OpenField(const QString &property)
 {
-    const auto place = mdFieldPlace(property);
-    if (!place || m_sectionOpen)
+    if (const auto place = mdFieldPlace(property))
+        OpenPlace({place->section, {}, 0, property.mid(property.indexOf(u'.') + 1)});
+}
+
+void frmMain::OpenPlace(const clsClaimPlace &place)
+{
+    if (m_sectionOpen)
         return;
-    m_nextField = place->control;
-    tbSubSection_Click(-1, place->section);
+    m_nextWay = mdWayTo(place);
+    tbSubSection_Click(-1, place.Screen);
+    m_nextWay = nullptr;
 }
 
 void frmMain::whileModal(const std::function<void()> &show)
@@ -245,6 +260,7 @@ void frmMain::Activate()
     // Without the mark on the tab that was clicked, the same one can be clicked again.
     tbSubSection->SwitchTo(0);
     refreshPreview();
+    renewCheck();
     m_activationDone = !isActiveWindow();
 }
 
@@ -303,6 +319,7 @@ void frmMain::redraw(void (*routine)(clsPreviewKind))
     const clsLongWork work;
     m_drawnWidth = sgPreview->width();
     routine(m_previewKind);
+    tintChosen();
 }
 
 bool frmMain::showsFormPages() const

@@ -33,12 +33,12 @@ enum class Glyph {
     ChevronUp,
     ChevronDown,
     ChevronRight,
+    Cross,
     Plus,
     Bin,
     Warning,
     List,
     RunsOn,
-    Cross,
 };
 
 /// Draws the glyph into the middle of the rectangle, as large as its shorter side.

@@ -15,6 +15,7 @@ inline constexpr QColor PurplePressed {0x43, 0x09, 0x3F};
 inline constexpr QColor Blue          {  0, 114, 188}; ///< the focused tick; a count that runs over to another sheet
 inline constexpr QColor Green         {  0, 127,  62}; ///< plenty left
 inline constexpr QColor Orange        {224, 134,  26}; ///< nearly full; too pale for text that is not semibold
+inline constexpr QColor Amber         {0x8F, 0x53, 0x00}; ///< the same where it is text, and the edge of its signs
 inline constexpr QColor Red           {177,  17,  22}; ///< over the allowance, invalid, danger
 inline constexpr QColor Pink          {255, 246, 241}; ///< back of an invalid box, never without its red edge and sign
 inline constexpr QColor Grey          {204, 204, 204}; ///< frame of a grid without the focus
@@ -35,7 +36,6 @@ inline constexpr QColor TooltipBack   {0x2F, 0x2A, 0x33};
 inline constexpr QColor RedHover      {0x8B, 0x0D, 0x11}; ///< danger button under the pointer
 inline constexpr QColor RedPressed    {0x69, 0x0A, 0x0D};
 inline constexpr QColor PageEdge      {0xC9, 0xB0, 0xC9}; ///< border of the open page of a content switcher
-inline constexpr QColor AmberInk      {0x8F, 0x53, 0x00}; ///< text where orange is too pale: nearly at a limit
 
 /// Distances in logical pixels.
 inline constexpr int Space4  =  4;

@@ -1,7 +1,7 @@
 #include "controls/oPrintSign.h"
 
 #include "controls/mdIcons.h"
-#include "controls/mdPaintSigns.h"
+#include "controls/mdSigns.h"
 #include "controls/mdTheme.h"
 
 #include <QPainter>
@@ -58,6 +58,6 @@ void oPrintSign::paintEvent(QPaintEvent *)
     case clsPrintNote::Fits: break;
     case clsPrintNote::Smaller: paintLetters(painter, rect()); break;
     case clsPrintNote::RunsOn: mdPaintGlyph(painter, square, Glyph::RunsOn, Theme::Blue); break;
-    case clsPrintNote::Cut: mdPaintErrorSign(painter, square); break;
+    case clsPrintNote::Cut: mdPaintSign(painter, square, Sign::Error); break;
     }
 }

@@ -1,6 +1,6 @@
 #include "controls/oStripFigure.h"
 
-#include "controls/mdPaintSigns.h"
+#include "controls/mdSigns.h"
 #include "controls/mdTheme.h"
 #include "controls/mdToolTip.h"
 
@@ -84,5 +84,5 @@ void oStripFigure::paintEvent(QPaintEvent *)
     if (m_whyNot.isEmpty())
         return;
     const double side = signSide();
-    mdPaintErrorSign(painter, QRectF(place.right() + 1 - side, (height() - side) / 2, side, side));
+    mdPaintSign(painter, QRectF(place.right() + 1 - side, (height() - side) / 2, side, side), Sign::Error);
 }

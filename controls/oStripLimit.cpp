@@ -1,12 +1,13 @@
 #include "controls/oStripLimit.h"
 
-#include "controls/mdPaintSigns.h"
+#include "controls/mdSigns.h"
 #include "controls/mdTheme.h"
 #include "controls/mdToolTip.h"
 
 #include <QPainter>
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -21,14 +22,14 @@ struct clsStateRow {
     clsStripLimit::clsState state;
     QColor bar;
     QColor ink;
-    void (*sign)(QPainter &painter, const QRectF &square);
+    std::optional<Sign> sign;
 };
 
 const clsStateRow States[] = {
-    {clsStripLimit::Plenty, Theme::Green, Theme::Ink, nullptr},
-    {clsStripLimit::Near, Theme::Orange, Theme::AmberInk, mdPaintWarningSign},
-    {clsStripLimit::Over, Theme::Red, Theme::Red, mdPaintErrorSign},
-    {clsStripLimit::Failed, Theme::Band, Theme::Red, mdPaintErrorSign},
+    {clsStripLimit::Plenty, Theme::Green, Theme::Ink, {}},
+    {clsStripLimit::Near, Theme::Orange, Theme::Amber, Sign::Warning},
+    {clsStripLimit::Over, Theme::Red, Theme::Red, Sign::Error},
+    {clsStripLimit::Failed, Theme::Band, Theme::Red, Sign::Error},
 };
 
 const clsStateRow &look(clsStripLimit::clsState state)
@@ -115,7 +116,8 @@ void oStripLimit::paintFigures(QPainter &painter, const QRect &line) const
     QRect place = line;
     if (row.sign) {
         const double side = std::min(signSide(), line.height());
-        row.sign(painter, QRectF(line.right() + 1 - side, line.center().y() + 0.5 - side / 2, side, side));
+        mdPaintSign(
+            painter, QRectF(line.right() + 1 - side, line.center().y() + 0.5 - side / 2, side, side), *row.sign);
         place.setRight(int(line.right() - side) - Theme::scaled(Gap));
     }
     QFont font = Theme::font(-1, m_limit.state != clsStripLimit::Plenty);

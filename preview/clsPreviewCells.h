@@ -43,7 +43,9 @@ public:
     int Columns() const { return int(m_columns.size()); }
 
     void RemoveAll();
-    void AddColumn(const QString &key, int width);
+    /// The share, in hundredths, is that of the sheet; 0 for a column whose width is fixed.
+    void AddColumn(const QString &key, int width, int share = 0);
+    void setColumnWidth(int column, int width) { const_cast<clsColumn &>(columnAt(column)).width = width; }
     void AddRow(int height);
     /// Makes room for so many rows more, each with a spacer.
     void ExpectRows(int count);
@@ -56,6 +58,7 @@ public:
 
     const QString &ColumnKey(int column) const { return columnAt(column).key; }
     int ColumnWidth(int column) const { return columnAt(column).width; }
+    int ColumnShare(int column) const { return columnAt(column).share; }
     int RowHeight(int row) const { return rowAt(row).height; }
     clsPreviewRowLook RowLook(int row) const { return rowAt(row).look; }
     clsPreviewOrigin Origin(int row) const { return rowAt(row).origin; }
@@ -73,6 +76,7 @@ private:
     struct clsColumn {
         QString key;
         int width;
+        int share;
     };
     struct clsRow {
         int firstCell = Nothing;

@@ -166,6 +166,8 @@ void clsPreviewPainter::paintRow(QPainter &painter, int row, int top, const std:
                                  lefts[size_t(back.key())] - lefts[size_t(back.key() - 1)], height),
                 back.value());
     paintMark(painter, row, QRect(lefts.front(), top, lefts.back() - lefts.front(), height));
+    if (row == m_tintedRow)
+        painter.fillRect(QRect(lefts.front(), top, lefts.back() - lefts.front(), height), Theme::Hover);
     if (m_model.cells.IsSpacer(row)) {
         paintSpacer(painter, row, top, lefts);
         return;

@@ -20,6 +20,9 @@ public:
     const QFont &font(bool bold, bool underline) const { return m_fonts[size_t(bold) + 2 * size_t(underline)]; }
     int itemHeight() const { return m_lineHeight + m_gap; }
     int spacerHeight() const { return m_gap; }
+    /// The row under a tint, 0 for none.
+    int tintedRow() const { return m_tintedRow; }
+    void setTintedRow(int row) { m_tintedRow = row; }
 
     /// The height that a row needs: little for one without cells, else that of its tallest text.
     int heightOf(int row) const;
@@ -51,4 +54,5 @@ private:
     int m_gap = 0;
     int m_padding = 0;
     int m_marked = 0;
+    int m_tintedRow = 0;
 };

@@ -16,6 +16,8 @@ oPreviewGrid &mdExportPreviewGrid();
 void mdExportPreviewInit();
 /// Appends a column that takes a share, in hundredths, of the grid's present width.
 void mdExportPreviewAddColumn(int percent);
+/// Gives the columns their shares of the width that the grid now has, and the rows the heights that follow from them.
+void mdExportPreviewFitColumns();
 /// Appends a row; a spacer is a further, empty row above it.
 void mdExportPreviewAddRow(bool spacer);
 /// Says of what the figures of the last row are.

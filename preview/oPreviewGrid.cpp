@@ -122,13 +122,27 @@ void oPreviewGrid::RemoveAll()
         m_model->cells.RemoveAll();
         m_model->columnBacks.clear();
         m_captionsRow = 0;
+        m_painter.setTintedRow(0);
         m_toTop = true;
     });
 }
 
-void oPreviewGrid::AddColumn(const QString &key, int width)
+void oPreviewGrid::AddColumn(const QString &key, int width, int share)
 {
-    change([&] { m_model->cells.AddColumn(key, width); });
+    change([&] { m_model->cells.AddColumn(key, width, share); });
+}
+
+void oPreviewGrid::setColumnWidth(int column, int width)
+{
+    change([&] { m_model->cells.setColumnWidth(column, width); });
+}
+
+void oPreviewGrid::setTintedRow(int row)
+{
+    if (row == m_painter.tintedRow())
+        return;
+    m_painter.setTintedRow(row);
+    viewport()->update();
 }
 
 void oPreviewGrid::AddRow()

@@ -25,7 +25,8 @@ public:
 
     void RemoveAll();
     /// Adds a column of a width in pixels. All columns come before the first cell.
-    void AddColumn(const QString &key, int width);
+    void AddColumn(const QString &key, int width, int share = 0);
+    void setColumnWidth(int column, int width);
     void AddRow();
     /// Makes room for so many rows more, each with a spacer.
     void ExpectRows(int count) { m_model->cells.ExpectRows(count); }
@@ -45,6 +46,7 @@ public:
     int Columns() const { return m_model->cells.Columns(); }
     QString ColumnKey(int column) const { return m_model->cells.ColumnKey(column); }
     int ColumnWidth(int column) const { return m_model->cells.ColumnWidth(column); }
+    int ColumnShare(int column) const { return m_model->cells.ColumnShare(column); }
     int RowHeight(int row) const { return m_model->cells.RowHeight(row); }
     QString Text(int row, int column) const { return m_model->cells.Cell(row, column).text; }
     const clsPreviewCell &Cell(int row, int column) const { return m_model->cells.Cell(row, column); }
@@ -71,6 +73,10 @@ public:
     QRect PlaceOf(int row) const;
     /// The left edge of a column in the grid.
     int LeftOf(int column) const { return viewport()->x() + columnEdges()[size_t(column - 1)]; }
+
+    /// Tints a row until the rows are others, 0 for none.
+    void setTintedRow(int row);
+    int TintedRow() const { return m_painter.tintedRow(); }
 
     /// The first and last row of which something is to be seen; 0 in an empty grid.
     int FirstRowInView() const;

@@ -57,6 +57,7 @@ oWhySheet::oWhySheet(QWidget *parent)
     , m_view(new QScrollArea)
     , m_steps(new oWhySteps)
     , m_sum(new oWhySteps)
+    , m_placesLine(mdHorizontalLine(this))
     , m_placesRoom(new QWidget)
 {
     setObjectName(QStringLiteral("oWhySheet"));
@@ -94,6 +95,7 @@ oWhySheet::oWhySheet(QWidget *parent)
     layout->addWidget(mdHorizontalLine(this));
     layout->addWidget(m_view);
     layout->addWidget(m_sum);
+    layout->addWidget(m_placesLine);
     layout->addWidget(m_placesRoom);
     hide();
 }
@@ -155,18 +157,19 @@ void oWhySheet::fillPlaces()
         const int wide = std::min(made->sizeHint().width(), room);
         if (used + wide > room) {
             line = new QHBoxLayout;
-            line->setSpacing(0);
+            line->setSpacing(Theme::Space4);
             line->addStretch(1);
             lines->addLayout(line);
             used = 0;
         }
         made->setMaximumWidth(room);
         line->insertWidget(line->count() - 1, made);
-        used += wide;
+        used += wide + Theme::Space4;
         connect(made, &oCustomButton::Click, this, [this, source = place.source] { choose(source); });
         m_places.push_back(made);
     }
     m_placesRoom->setVisible(!m_places.empty());
+    m_placesLine->setVisible(!m_places.empty());
 }
 
 void oWhySheet::placeAt(const QPoint &at, Point point)
@@ -178,7 +181,7 @@ void oWhySheet::placeAt(const QPoint &at, Point point)
     m_sum->setFixedHeight(sum);
     m_placesRoom->setFixedWidth(wide);
     const int places = m_placesRoom->isHidden() ? 0 : m_placesRoom->layout()->totalMinimumSize().height();
-    const int fixed = Theme::scaled(HeadHeight) + 1 + sum + places;
+    const int fixed = Theme::scaled(HeadHeight) + 1 + sum + places + (places > 0 ? 1 : 0);
     const int room = int(parentWidget()->height() * LargestShare) - fixed;
     const int steps = std::clamp(m_steps->height(), 0, std::max(Theme::scaled(HeadHeight), room));
     if (m_steps->height() > steps) {

@@ -81,6 +81,7 @@ private:
     QScrollArea *m_view;
     oWhySteps *m_steps;
     oWhySteps *m_sum;
+    QWidget *m_placesLine;
     QWidget *m_placesRoom;
     std::vector<oCustomButton *> m_places;
 };

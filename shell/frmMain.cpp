@@ -13,11 +13,13 @@
 #include "controls/oTabBar.h"
 #include "controls/oTimeSpentBox.h"
 #include "controls/oTotalsStrip.h"
-#include "editors/mdEnterField.h"
+#include "editors/frmSection.h"
 #include "editors/mdFieldPlace.h"
 #include "editors/mdSections.h"
 #include "editors/mdShowPreferences.h"
 #include "editors/mdUnloadAndDummyTabClick.h"
+#include "editors/mdWayTo.h"
+#include "formdata/clsClaimPlace.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
 #include "formdata/mdGlobals.h"
@@ -27,12 +29,16 @@
 #include "preview/oPageView.h"
 #include "preview/oPreviewGrid.h"
 #include "preview/oPreviewSheet.h"
+#include "shell/clsCheckState.h"
 #include "shell/clsFormPages.h"
 #include "shell/clsLongWork.h"
 #include "shell/clsStripFiller.h"
 #include "shell/clsWhyOpener.h"
 #include "shell/mdMainMenu.h"
+#include "shell/mdOpenPanels.h"
 #include "shell/oApplication.h"
+#include "shell/oCheckPanel.h"
+#include "shell/oPreviewArea.h"
 
 #include <QMenu>
 #include <QMenuBar>
@@ -67,6 +73,7 @@ frmMain::frmMain(QWidget *parent)
     , m_strip(new oTotalsStrip)
     , m_stripFiller(new clsStripFiller(*m_strip, this))
     , m_why(nullptr)
+    , m_check(new clsCheckState(this))
     , oFooter(new oFooterBar)
     , tmrAutoBackup(new QTimer(this))
 {
@@ -82,7 +89,7 @@ frmMain::frmMain(QWidget *parent)
         [previewMenu](const QPoint &place) { previewMenu->popup(place); });
     // Once the entry that was chosen has run.
     connect(previewMenu, &QMenu::aboutToHide, sgPreview, &oPreviewGrid::ForgetPointedRow, Qt::QueuedConnection);
-    connect(m_why, &clsWhyOpener::PlaceChosen, this, &frmMain::OpenSource);
+    connect(m_why, &clsWhyOpener::PlaceChosen, this, &frmMain::OpenPlace);
     connect(m_stripFiller, &clsStripFiller::Renewed, m_why, &clsWhyOpener::TakeDrawnState);
     SetOpenSection([this](const QString &text) { tbSubSection_Click(-1, text); });
     // From a box of whatever screen is open, over that screen.
@@ -94,6 +101,7 @@ frmMain::frmMain(QWidget *parent)
         oFooter->TimeSpentTimer()->StopTimer();
         m_pages->Forget();
         m_stripFiller->Forget();
+        m_check->Forget();
     };
     SetFormDisplay({[this] { Activate(); }, mdClearPreview, stopTimer});
 }
@@ -128,7 +136,8 @@ void frmMain::build()
     layout->addWidget(tbSubSection);
     m_previews->addWidget(pctPreview);
     m_previews->addWidget(m_formPages);
-    layout->addLayout(m_previews, 1);
+    buildCheck();
+    layout->addWidget(m_area, 1);
     layout->addWidget(m_strip);
     layout->addWidget(oFooter);
     setCentralWidget(centre);
@@ -141,7 +150,9 @@ void frmMain::Load(const QString &claimPath)
     placeRestored();
     setWindowState(Qt::WindowMaximized);
     // The preview takes the widths of its columns from the sheet, and it is drawn before the window shows.
-    pctPreview->resize(screen()->availableSize());
+    openCheck(mdIsPanelLeftOpen(m_checkPanel->objectName()));
+    m_area->resize(screen()->availableSize());
+    pctPreview->resize(m_area->previewWidth(m_area->width()), m_area->height());
     QResizeEvent placed(pctPreview->size(), QSize());
     QCoreApplication::sendEvent(pctPreview, &placed);
     Preferences = std::make_unique<clsZR3PreferencesDatabase>();
@@ -205,11 +216,9 @@ void frmMain::tbSubSection_Click(int index, const QString &tag)
         if (!screen)
             continue;
         shown = true;
-        if (const QString field = std::exchange(m_nextField, QString()); !field.isEmpty())
-            QTimer::singleShot(0, screen.get(), [&window = *screen, field] {
-                if (auto *control = window.findChild<QWidget *>(field))
-                    mdEnterField(*control);
-            });
+        auto *section = qobject_cast<frmSection *>(screen.get());
+        if (const auto way = std::exchange(m_nextWay, nullptr); section && way)
+            QTimer::singleShot(0, section, [section, way] { way(*section); });
         const QScopedValueRollback<bool> modal(m_modal, true);
         mdShowModal(*screen);
     }
@@ -219,11 +228,17 @@ void frmMain::tbSubSection_Click(int index, const QString &tag)
 
 void frmMain::OpenField(const QString &property)
 {
-    const auto place = mdFieldPlace(property);
-    if (!place || m_sectionOpen)
+    if (const auto place = mdFieldPlace(property))
+        OpenPlace({place->section, {}, 0, property.mid(property.indexOf(u'.') + 1)});
+}
+
+void frmMain::OpenPlace(const clsClaimPlace &place)
+{
+    if (m_sectionOpen)
         return;
-    m_nextField = place->control;
-    tbSubSection_Click(-1, place->section);
+    m_nextWay = mdWayTo(place);
+    tbSubSection_Click(-1, place.Screen);
+    m_nextWay = nullptr;
 }
 
 void frmMain::whileModal(const std::function<void()> &show)
@@ -262,6 +277,7 @@ void frmMain::Activate()
     tbSubSection->SwitchTo(0);
     refreshPreview();
     m_stripFiller->Renew();
+    renewCheck();
     m_activationDone = !isActiveWindow();
 }
 
@@ -325,6 +341,7 @@ void frmMain::redraw(void (*routine)(clsPreviewKind))
     routine(m_previewKind);
     m_why->TellDrawn();
     m_stripFiller->Renew();
+    tintChosen();
 }
 
 bool frmMain::showsFormPages() const

@@ -1,6 +1,5 @@
 #include "shell/frmMain.h"
 
-#include "costing/checking/clsWhy.h"
 #include "editors/mdEditCostsLimit.h"
 #include "formdata/mdGlobals.h"
 #include "shell/clsWhyOpener.h"
@@ -17,9 +16,4 @@ void frmMain::CostsLimit()
 {
     if (Form)
         whileModal([this] { mdEditCostsLimit(this); });
-}
-
-void frmMain::OpenSource(const clsWhySource &place)
-{
-    tbSubSection_Click(-1, place.Screen);
 }

@@ -2,18 +2,14 @@
 
 #include "base/Money.h"
 #include "base/clsRunTimeError.h"
+#include "formdata/clsClaimPlace.h"
 
 #include <QString>
 
 #include <vector>
 
-/// Where something that a figure comes from can be changed. Empty where there is no such place.
-struct clsWhySource {
-    QString Screen {}; ///< the text of its tab
-    QString List {}; ///< of the screen, such as "groups"
-    int Item = 0; ///< the order in the list
-    QString Property {};
-};
+/// Where something that a figure comes from can be changed.
+using clsWhySource = clsClaimPlace;
 
 /// A figure that can be asked about, in the words of `mdWhy`. Empty for none.
 struct clsWhyAsked {

@@ -1,6 +1,7 @@
 #include "costing/checking/mdWhy.h"
 
 #include "base/mdExisting.h"
+#include "base/mdFormatMoney.h"
 #include "base/mdNumberText.h"
 #include "costing/checking/mdCheckWords.h"
 #include "costing/mdFigureFaults.h"
@@ -102,7 +103,7 @@ private:
     }
     void basicClaim()
     {
-        m_why.add(QStringLiteral("%1 at %2").arg(m_item.TTime(), MoneyToText(m_price.Rate)),
+        m_why.add(QStringLiteral("%1 at %2").arg(m_item.TTime(), mdFormatMoney(m_price.Rate)),
             QStringLiteral("%1 minutes, rounded to the penny").arg(m_price.Minutes), m_own,
             [this] { return figure(Price::BasicClaimFigure, m_price.BasicClaim); });
     }
@@ -128,7 +129,7 @@ private:
     {
         const Money percentage = m_price.TotalEnhancementPercentage;
         m_why.add(
-            QStringLiteral("Enhancement of %1 % of %2").arg(MoneyToText(percentage), MoneyToText(m_price.BasicClaim)),
+            QStringLiteral("Enhancement of %1 % of %2").arg(MoneyToText(percentage), mdFormatMoney(m_price.BasicClaim)),
             {}, m_own, [&] {
                 return mdExplained(m_form, m_item, [&] { return Item::EnhancementBy(m_price.BasicClaim, percentage); });
             });

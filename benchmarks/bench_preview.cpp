@@ -1,5 +1,6 @@
 // The preview: drawing it anew against filling the grid with the same texts, worked out before.
 
+#include "base/mdProgramFolder.h"
 #include "benchmarks/mdMakeClaim.h"
 #include "controls/mdApplyTheme.h"
 #include "formdata/clsZR3Form.h"
@@ -120,6 +121,7 @@ int main(int argc, char **argv)
     benchmark::Initialize(&argc, argv);
     QApplication application(argc, argv);
     mdApplyTheme(application);
+    SetProgramFolder(QStringLiteral(ZR3_PROGRAM_FOLDER));
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

@@ -27,6 +27,9 @@ PREVIEW_ITEMS = 2000
 SCREEN_ITEMS = 2000
 FORECAST_ITEMS = 2000
 FORECAST_TIME = 500
+CHECK_ITEMS = 2000
+CHECK_TIME = 50
+CHECK_PRINT_TIME = 500
 # Of which the schedule and its notes alone come to about thirty and to about a thousand sheets.
 SHEET_ITEMS = {"few": 500, "many": 17000}
 PLACEHOLDERS = 40
@@ -151,6 +154,16 @@ def preview_row(medians):
                f"{bare[0]:.1f} ms against {bare[1]:.1f} ms")
 
 
+def check_rows(medians):
+    for name, title, bound in (("renew", "Check right again after a change", CHECK_TIME),
+                               ("print", "The same of what is printed", CHECK_PRINT_TIME)):
+        ours = medians[f"check/{name}/{CHECK_ITEMS}/real_time"]
+        others = ", ".join(f"{items:,}: {medians[f'check/{name}/{items}/real_time']['real_time']:.0f} ms"
+                           for items in (200, 10000))
+        row(f"{title}, {CHECK_ITEMS:,} items, ms", ours["real_time"], bound,
+            detail=f"{ours['findings']:.0f} findings, to the painted panel; {others}")
+
+
 def whole_export(tool, sample):
     """The median of the seconds that the headless tool takes for a sample, from its start to its end."""
     seconds = []
@@ -255,7 +268,9 @@ def main(build):
     forecast_row(medians)
     template_row(build, medians)
     many_sheets_rows(build, medians)
-    preview_row(pieces(build / "benchmarks" / "zr3-bench-preview"))
+    window_medians = pieces(build / "benchmarks" / "zr3-bench-preview")
+    preview_row(window_medians)
+    check_rows(window_medians)
     for form in SAMPLES:
         writer_row(build, form)
     memory_row(build)

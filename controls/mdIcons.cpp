@@ -54,6 +54,7 @@ constexpr clsGlyphRow Glyphs[] = {
     {Glyph::Warning,      "M 10 2.6 L 18.4 17 L 1.6 17 Z M 10 7.6 L 10 11.8", "O 10 14.3 1"},
     {Glyph::List,         "R 2.5 1.25 15 17.5 1.9 M 6.25 6.25 L 13.75 6.25 M 6.25 10 L 13.75 10 M 6.25 13.75 L 13.75 13.75", ""},
     {Glyph::RunsOn,       "M 3.5 8 L 3.5 2.5 L 16.5 2.5 L 16.5 8 M 10 7 L 10 17.5 M 6.2 13.7 L 10 17.5 L 13.8 13.7", ""},
+    {Glyph::Cross,        "M 5 5 L 15 15 M 15 5 L 5 15", ""},
 };
 
 /// One glyph for each family of screens.
@@ -85,6 +86,7 @@ constexpr struct {
     {"frmJointInstructionEdit",    Glyph::Receipt},
     {"frmCommunications",          Glyph::Envelope},
     {"frmCorrespondences",         Glyph::Envelope},
+    {"frmCostsLimit",              Glyph::Coins},
     {"frmFamilyAdvocacyScheme",    Glyph::Scales},
     {"frmFASItemEdit",             Glyph::Scales},
     {"frmActualCostsIncurred",     Glyph::Coins},

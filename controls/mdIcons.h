@@ -33,6 +33,7 @@ enum class Glyph {
     ChevronUp,
     ChevronDown,
     ChevronRight,
+    Cross,
     Plus,
     Bin,
     Warning,

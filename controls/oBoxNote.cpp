@@ -1,6 +1,5 @@
 #include "controls/oBoxNote.h"
 
-#include "controls/mdIcons.h"
 #include "controls/mdTheme.h"
 #include "controls/oCustomButton.h"
 
@@ -19,20 +18,6 @@ constexpr int GapBeneath = 6;
 constexpr int LineBeneath = 24;
 constexpr int MostLines = 2;
 constexpr char Beneath[] = "noteBeneath";
-
-void paintSign(QPainter &painter, const QRectF &square, oBoxNote::Sign sign)
-{
-    painter.setRenderHint(QPainter::Antialiasing);
-    if (sign == oBoxNote::Sign::Warning) {
-        mdPaintGlyph(painter, square, Glyph::Warning, Theme::AmberInk);
-        return;
-    }
-    painter.setPen(QPen(Theme::Blue, 1.25));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawEllipse(square.adjusted(1, 1, -1, -1));
-    const double inset = square.width() / 5;
-    mdPaintGlyph(painter, square.adjusted(inset, inset, -inset, -inset), Glyph::Information, Theme::Blue);
-}
 
 /// What of a box can be described to a screen reader: the part that has the focus.
 QWidget &describedPart(QWidget &box)
@@ -234,7 +219,7 @@ void oBoxNote::paintEvent(QPaintEvent *)
     const double side = Theme::scaled(SignSide);
     const QRect room = roomOfWords();
     const int top = qMax(0, (room.height() - heightOf(m_shown, room.width())) / 2);
-    paintSign(painter, QRectF(0, top + (fontMetrics().height() - side) / 2, side, side), m_note.sign);
+    mdPaintSign(painter, QRectF(0, top + (fontMetrics().height() - side) / 2, side, side), m_note.sign);
     painter.setPen(Theme::Ink);
     painter.drawText(room, Qt::TextWordWrap | Qt::AlignVCenter, m_shown);
 }

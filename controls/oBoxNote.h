@@ -1,5 +1,7 @@
 #pragma once
 
+#include "controls/mdSigns.h"
+
 #include <QWidget>
 
 #include <functional>
@@ -13,11 +15,9 @@ class oBoxNote : public QWidget {
     Q_OBJECT
 
 public:
-    enum class Sign { Information, Warning };
-
     struct clsNote {
         QString words;
-        Sign sign = Sign::Information;
+        Sign sign = Sign::Note;
         QString better = {}; ///< what the button "Use ..." offers; empty for no button
         QString shortWords = {}; ///< what is shown where there is no room for the words; empty for the same
     };
@@ -30,7 +30,7 @@ public:
     static oBoxNote *of(const QWidget &box);
 
     QString Words() const { return m_note.words; }
-    Sign sign() const { return m_note.sign; }
+    Sign gravity() const { return m_note.sign; }
     /// Whether all of its words can be seen.
     bool isWhole() const;
 

@@ -1,6 +1,7 @@
 #include "controls/oPrintSign.h"
 
 #include "controls/mdIcons.h"
+#include "controls/mdSigns.h"
 #include "controls/mdTheme.h"
 
 #include <QPainter>
@@ -22,15 +23,6 @@ void paintLetters(QPainter &painter, const QRect &rectangle)
     painter.drawText(rectangle.left(), line, letter);
     painter.setFont(Theme::font(-3, true));
     painter.drawText(rectangle.left() + large + 1, line, letter);
-}
-
-void paintDisc(QPainter &painter, const QRectF &square)
-{
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(Theme::Red);
-    painter.drawEllipse(square);
-    const double inset = square.width() / 5;
-    mdPaintGlyph(painter, square.adjusted(inset, inset, -inset, -inset), Glyph::Exclamation, Theme::Paper);
 }
 
 } // namespace
@@ -66,6 +58,6 @@ void oPrintSign::paintEvent(QPaintEvent *)
     case clsPrintNote::Fits: break;
     case clsPrintNote::Smaller: paintLetters(painter, rect()); break;
     case clsPrintNote::RunsOn: mdPaintGlyph(painter, square, Glyph::RunsOn, Theme::Blue); break;
-    case clsPrintNote::Cut: paintDisc(painter, square); break;
+    case clsPrintNote::Cut: mdPaintSign(painter, square, Sign::Error); break;
     }
 }

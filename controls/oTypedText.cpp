@@ -87,7 +87,7 @@ void oTypedText::tellReading(const QString &typed, const QString &read)
         selectAll();
         insert(better);
     };
-    oBoxNote::Show(*parentWidget(), {told->words, oBoxNote::Sign::Information, told->better, told->shortWords}, use);
+    oBoxNote::Show(*parentWidget(), {told->words, Sign::Note, told->better, told->shortWords}, use);
 }
 
 bool oTypedText::refuses()

@@ -92,6 +92,16 @@ const clsBillFigure Claim1AList[] = {
         }},
 };
 
+const clsBillFigure Strip[] = {
+    {"other",
+        [](const clsBill &bill) {
+            const Form &form = bill.form();
+            return mdSumOf({CommsTotal(form), ExpertInvoicesNetTotal(form), NonCounselDisbursementsAmountTotal(form)});
+        }},
+    {"fixedfee", mdOfForm<FixedFee>},
+    {"limit", NetCostsWithCounsel},
+};
+
 bool isClaim1A(const Form &form)
 {
     return form.FormType() == QLatin1String("Claim1A");
@@ -116,6 +126,11 @@ std::span<const clsBillFigure> mdListFigures(const clsZR3Form &form)
     if (isClaim1A(form))
         return Claim1AList;
     return Claim1List;
+}
+
+std::span<const clsBillFigure> mdStripFigures()
+{
+    return Strip;
 }
 
 const clsBillFigure *mdFigureOf(std::span<const clsBillFigure> figures, QLatin1String key)

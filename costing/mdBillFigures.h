@@ -14,5 +14,9 @@ std::span<const clsBillFigure> mdSummaryFigures(const clsZR3Form &form);
 /// `total`, `counsel`, `all`.
 std::span<const clsBillFigure> mdListFigures(const clsZR3Form &form);
 
+/// What the strip of totals shows beside these: `other` (letters and calls, experts and other disbursements, net),
+/// `fixedfee`, and `limit`, which a limit of costs is held against.
+std::span<const clsBillFigure> mdStripFigures();
+
 /// The row with that key, or nothing.
 const clsBillFigure *mdFigureOf(std::span<const clsBillFigure> figures, QLatin1String key);

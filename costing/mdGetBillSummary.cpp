@@ -53,6 +53,13 @@ Money VATWithAdvocacyAndCounsel(const clsBill &bill)
     return mdSumOf({VATWithoutCounsel(bill), FASVATTotal(bill.form()), CounselFeesVATTotal(bill.form())});
 }
 
+Money NetCostsWithCounsel(const clsBill &bill)
+{
+    if (bill.form().FormType() != QLatin1String("Claim1"))
+        return NetWithAdvocacyAndCounsel(bill);
+    return mdSumOf({NetWithoutCounsel(bill), CounselFeesAmountTotal(bill.form())});
+}
+
 Money FixedFee(const clsZR3Form &form)
 {
     const QString text = form.ActualCostsIncurred.FixedFee();

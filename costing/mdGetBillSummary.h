@@ -24,6 +24,9 @@ Money NetWithAdvocacyAndCounsel(const clsBill &bill);
 /// The VAT of the same.
 Money VATWithAdvocacyAndCounsel(const clsBill &bill);
 
+/// What a limit of all costs is held against, net: the bill and counsel's fees, whatever the form.
+Money NetCostsWithCounsel(const clsBill &bill);
+
 /// The fixed fee that would apply; nothing where none is entered.
 Money FixedFee(const clsZR3Form &form);
 /// The fixed fee, other disbursements and experts, net.

@@ -41,7 +41,7 @@ void loadFromBill(const frmSection &screen, const clsLoadFromBill &row)
         oBoxNote::Show(profitCosts,
             {QStringLiteral("Below zero: profit costs %1 less advocacy %2")
                     .arg(mdFormatMoney(all), mdFormatMoney(advocacy)),
-                oBoxNote::Sign::Warning});
+                Sign::Warning});
     else
         oBoxNote::Clear(profitCosts);
 }

@@ -4,16 +4,17 @@
 #include "editors/mdScreenControls.h"
 #include "editors/mdSections.h"
 #include "formdata/clsZR3Form.h"
+#include "formdata/mdClaimLists.h"
 #include "formdata/mdGlobals.h"
 
 namespace {
 
-/// Whether a screen keeps the properties of that record: a section of the claim bears the record's name, and the
-/// claim's own properties stand on screens of several names.
-bool isScreenOf(const clsScreen &screen, const QString &record)
+/// Whether a tab's screen keeps the properties of that record: the claim's own stand on several.
+bool isScreenOf(const QString &tab, const QString &record)
 {
     if (!record.isEmpty())
-        return QLatin1String(screen.name) == QStringLiteral("frm") + record;
+        return tab == mdTabOfSection(record);
+    const clsScreen &screen = *mdScreenOf(tab);
     return screen.record && Form && screen.record() == Form.get();
 }
 
@@ -44,10 +45,9 @@ std::optional<clsFieldPlace> mdFieldPlace(const QString &property)
     const qsizetype dot = property.indexOf(u'.');
     const QString member = property.mid(dot + 1);
     for (const QString &section : mdSectionTexts()) {
-        const clsScreen &screen = *mdScreenOf(section);
-        if (!isScreenOf(screen, property.left(qMax<qsizetype>(dot, 0))))
+        if (!isScreenOf(section, property.left(qMax<qsizetype>(dot, 0))))
             continue;
-        if (const clsScreenRow *row = rowOf(screen, member))
+        if (const clsScreenRow *row = rowOf(*mdScreenOf(section), member))
             return clsFieldPlace {section, QString::fromUtf8(row->control),
                 mdSpokenCaption(QString::fromUtf8(row->spoken ? row->spoken : row->caption))};
     }

@@ -38,6 +38,7 @@ const clsScreen &ScreenExpertInvoiceEdit();
 const clsScreen &ScreenJointInstructionEdit();
 const clsScreen &ScreenFASItemEdit();
 const clsScreen &ScreenCorrespondences();
+const clsScreen &ScreenCostsLimit();
 const clsScreen &ScreenReplacementEdit();
 const clsScreen &ScreenPreferencesRateSetEdit();
 

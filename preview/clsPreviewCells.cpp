@@ -10,12 +10,12 @@ void clsPreviewCells::RemoveAll()
     m_whyNot.clear();
 }
 
-void clsPreviewCells::AddColumn(const QString &key, int width)
+void clsPreviewCells::AddColumn(const QString &key, int width, int share)
 {
     // The cells of a row stand side by side: a column more would part them.
     if (!m_cells.empty())
         throw clsRunTimeError(clsRunTimeError::InvalidProcedureCall);
-    m_columns.push_back({key, width});
+    m_columns.push_back({key, width, share});
 }
 
 void clsPreviewCells::AddRow(int height)

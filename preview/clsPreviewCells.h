@@ -16,6 +16,16 @@ enum class clsPreviewRowLook : unsigned char {
     Totals, ///< a line stands above it
 };
 
+/// What a row's figures are of.
+struct clsPreviewOrigin {
+    enum clsKind : unsigned char { Nothing, ScheduleItem, ScheduleTotal };
+
+    clsKind kind = Nothing;
+    int order = 0; ///< of the item
+
+    friend bool operator==(const clsPreviewOrigin &, const clsPreviewOrigin &) = default;
+};
+
 struct clsPreviewCell {
     QString text;
     clsGridAlignment alignment = clsGridAlignment::Left;
@@ -33,7 +43,9 @@ public:
     int Columns() const { return int(m_columns.size()); }
 
     void RemoveAll();
-    void AddColumn(const QString &key, int width);
+    /// The share, in hundredths, is that of the sheet; 0 for a column whose width is fixed.
+    void AddColumn(const QString &key, int width, int share = 0);
+    void setColumnWidth(int column, int width) { const_cast<clsColumn &>(columnAt(column)).width = width; }
     void AddRow(int height);
     /// Makes room for so many rows more, each with a spacer.
     void ExpectRows(int count);
@@ -42,11 +54,14 @@ public:
     void SetWhyNot(int row, int column, const QString &whyNot) { m_whyNot[{row, column}] = whyNot; }
     void setRowHeight(int row, int height) { rowAt(row).height = height; }
     void setRowLook(int row, clsPreviewRowLook look) { rowAt(row).look = look; }
+    void setOrigin(int row, clsPreviewOrigin origin) { rowAt(row).origin = origin; }
 
     const QString &ColumnKey(int column) const { return columnAt(column).key; }
     int ColumnWidth(int column) const { return columnAt(column).width; }
+    int ColumnShare(int column) const { return columnAt(column).share; }
     int RowHeight(int row) const { return rowAt(row).height; }
     clsPreviewRowLook RowLook(int row) const { return rowAt(row).look; }
+    clsPreviewOrigin Origin(int row) const { return rowAt(row).origin; }
     /// True for a row to which nothing was written, not even an empty text.
     bool IsSpacer(int row) const { return rowAt(row).firstCell == Nothing; }
     /// True for a row with a cell that may take more than one line.
@@ -61,12 +76,14 @@ private:
     struct clsColumn {
         QString key;
         int width;
+        int share;
     };
     struct clsRow {
         int firstCell = Nothing;
         int height = 0;
         clsPreviewRowLook look = clsPreviewRowLook::Ordinary;
         bool wraps = false;
+        clsPreviewOrigin origin {};
     };
 
     const clsRow &rowAt(int row) const;

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
 namespace {
 
@@ -164,6 +165,9 @@ void clsPreviewPainter::paintRow(QPainter &painter, int row, int top, const std:
             painter.fillRect(QRect(lefts[size_t(back.key() - 1)], top,
                                  lefts[size_t(back.key())] - lefts[size_t(back.key() - 1)], height),
                 back.value());
+    paintMark(painter, row, QRect(lefts.front(), top, lefts.back() - lefts.front(), height));
+    if (row == m_tintedRow)
+        painter.fillRect(QRect(lefts.front(), top, lefts.back() - lefts.front(), height), Theme::Hover);
     if (m_model.cells.IsSpacer(row)) {
         paintSpacer(painter, row, top, lefts);
         return;
@@ -172,6 +176,22 @@ void clsPreviewPainter::paintRow(QPainter &painter, int row, int top, const std:
         const int left = lefts[size_t(column - 1)];
         paintCell(painter, row, column, QRect(left, top, lefts[size_t(column)] - left, height));
     }
+}
+
+/// The mark reaches from line to line: over the row, and over half of the spacers around it.
+void clsPreviewPainter::paintMark(QPainter &painter, int row, const QRect &rect) const
+{
+    constexpr int BarWidth = 3;
+    if (m_marked == 0 || std::abs(row - m_marked) > 1)
+        return;
+    QRect part = rect;
+    if (row < m_marked)
+        part.setTop(rect.top() + rect.height() / 2);
+    else if (row > m_marked)
+        part.setHeight(rect.height() / 2);
+    painter.fillRect(part, Theme::Selected);
+    part.setWidth(BarWidth);
+    painter.fillRect(part, Theme::Purple);
 }
 
 void clsPreviewPainter::paintSpacer(QPainter &painter, int row, int top, const std::vector<int> &lefts) const

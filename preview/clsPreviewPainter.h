@@ -20,11 +20,16 @@ public:
     const QFont &font(bool bold, bool underline) const { return m_fonts[size_t(bold) + 2 * size_t(underline)]; }
     int itemHeight() const { return m_lineHeight + m_gap; }
     int spacerHeight() const { return m_gap; }
+    /// The row under a tint, 0 for none.
+    int tintedRow() const { return m_tintedRow; }
+    void setTintedRow(int row) { m_tintedRow = row; }
 
     /// The height that a row needs: little for one without cells, else that of its tallest text.
     int heightOf(int row) const;
     /// Draws a row; `lefts` are the left edges of its columns and the right edge of the last.
     void paintRow(QPainter &painter, int row, int top, const std::vector<int> &lefts) const;
+    /// Marks a row from here on; 0 for none.
+    void setMarkedRow(int row) { m_marked = row; }
     /// True when a cell's text is cut short for want of room.
     bool isElided(int row, int column) const;
 
@@ -36,6 +41,7 @@ private:
         QFont font;
     };
     clsPlaced place(int row, int column, const QRect &rect) const;
+    void paintMark(QPainter &painter, int row, const QRect &rect) const;
     void paintSpacer(QPainter &painter, int row, int top, const std::vector<int> &lefts) const;
     void paintCell(QPainter &painter, int row, int column, const QRect &rect) const;
     int wrappedHeight(const clsPreviewCell &cell, const clsPlaced &placed) const;
@@ -47,4 +53,6 @@ private:
     int m_lineHeight = 0;
     int m_gap = 0;
     int m_padding = 0;
+    int m_marked = 0;
+    int m_tintedRow = 0;
 };

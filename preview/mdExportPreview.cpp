@@ -21,13 +21,31 @@ void mdExportPreviewInit()
     grid.RemoveAll();
 }
 
-void mdExportPreviewAddColumn(int percent)
+namespace {
+
+int widthOf(const oPreviewGrid &grid, int percent)
 {
     // The shares of a preview add up to 100; three parts more are left free for the scroll bar.
     constexpr double Parts = 103;
+    return LongFromDouble(grid.width() / Parts * percent);
+}
+
+} // namespace
+
+void mdExportPreviewAddColumn(int percent)
+{
     oPreviewGrid &grid = mdExportPreviewGrid();
-    const int width = LongFromDouble(grid.width() / Parts * percent);
-    grid.AddColumn(QStringLiteral("Column %1").arg(grid.Columns()), width);
+    grid.AddColumn(QStringLiteral("Column %1").arg(grid.Columns()), widthOf(grid, percent), percent);
+}
+
+void mdExportPreviewFitColumns()
+{
+    oPreviewGrid &grid = mdExportPreviewGrid();
+    for (int column = 1; column <= grid.Columns(); ++column)
+        if (const int share = grid.ColumnShare(column))
+            grid.setColumnWidth(column, widthOf(grid, share));
+    for (int row = 1; row <= grid.Rows(); ++row)
+        grid.FitRowHeight(row);
 }
 
 void mdExportPreviewAddRow(bool spacer)
@@ -36,6 +54,12 @@ void mdExportPreviewAddRow(bool spacer)
     if (spacer)
         grid.AddRow();
     grid.AddRow();
+}
+
+void mdExportPreviewSetOrigin(clsPreviewOrigin origin)
+{
+    oPreviewGrid &grid = mdExportPreviewGrid();
+    grid.setOrigin(grid.Rows(), origin);
 }
 
 void mdExportPreviewSetText(

@@ -16,8 +16,12 @@ oPreviewGrid &mdExportPreviewGrid();
 void mdExportPreviewInit();
 /// Appends a column that takes a share, in hundredths, of the grid's present width.
 void mdExportPreviewAddColumn(int percent);
+/// Gives the columns their shares of the width that the grid now has, and the rows the heights that follow from them.
+void mdExportPreviewFitColumns();
 /// Appends a row; a spacer is a further, empty row above it.
 void mdExportPreviewAddRow(bool spacer);
+/// Says of what the figures of the last row are.
+void mdExportPreviewSetOrigin(clsPreviewOrigin origin);
 /// Writes a cell of the last row. Money is printed with two decimals; what is zero is not shown at all.
 void mdExportPreviewSetText(int column, const QString &text, clsGridAlignment alignment, bool bold = false,
     bool underline = false, bool money = false);

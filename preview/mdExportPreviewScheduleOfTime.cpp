@@ -101,6 +101,15 @@ void drawFailures(const Item &item, const Price &price, const clsZR3Form &form)
     }
 }
 
+clsPreviewOrigin originOf(const Item &item)
+{
+    try {
+        return {clsPreviewOrigin::ScheduleItem, item.OrderID()};
+    } catch (const clsRunTimeError &) {
+        return {}; // an order that can't be read must not keep its row from being drawn
+    }
+}
+
 void setLookOfLastRow(clsPreviewRowLook look)
 {
     oPreviewGrid &grid = mdExportPreviewGrid();
@@ -140,6 +149,7 @@ void drawTotals(const clsColumnTotals &totals)
     for (int column = 0; column < Item::Columns; ++column)
         drawTotal(FirstTimeColumn + column, totals.times[size_t(column)], drawTime);
     mdExportPreviewAddRow(true);
+    mdExportPreviewSetOrigin({clsPreviewOrigin::ScheduleTotal, 0});
     for (int column = 0; column < Item::Columns; ++column)
         drawTotal(FirstTimeColumn + column, totals.claims[size_t(column)], drawMoney);
     drawTotal(ClaimColumn, totals.schedule, drawMoney);
@@ -187,6 +197,7 @@ void mdExportPreviewScheduleOfTimeItemDraw(const clsZR3ScheduleOfTimeItem &item,
 {
     const Price &price = prices.of(item);
     mdExportPreviewAddRow(true);
+    mdExportPreviewSetOrigin(originOf(item));
     bool failed = false;
     int number = 0;
     for (const clsScheduleColumn &column : Columns) {

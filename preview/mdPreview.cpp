@@ -140,6 +140,20 @@ void mdRefreshPreview(clsPreviewKind kind)
         grid.BringIntoView(last, 1);
 }
 
+void mdFitPreview()
+{
+    if (isDrawing())
+        return;
+    oPreviewGrid &grid = mdExportPreviewGrid();
+    const int first = grid.FirstRowInView();
+    const int hidden = first >= 1 ? grid.HiddenAbove(first) : 0;
+    grid.setRedraw(false);
+    mdExportPreviewFitColumns();
+    grid.setRedraw(true);
+    if (first >= 1)
+        grid.SetHiddenAbove(first, hidden);
+}
+
 void mdClearPreview()
 {
     if (!isDrawing())

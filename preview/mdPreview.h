@@ -9,5 +9,8 @@ void mdDrawPreview(clsPreviewKind kind);
 /// The automatic refresh: where the preferences ask for it, the same at the place to which the user had scrolled.
 void mdRefreshPreview(clsPreviewKind kind);
 
+/// Fits what is drawn to another width of the grid, without drawing it anew. The row at the top stays.
+void mdFitPreview();
+
 /// Empties the grid, for a claim that is no more.
 void mdClearPreview();

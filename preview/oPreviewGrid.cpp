@@ -56,6 +56,7 @@ oPreviewGrid::oPreviewGrid(QWidget *parent)
     setSelectionMode(NoSelection);
     setTabKeyNavigation(false);
     setFocusPolicy(Qt::TabFocus); // a left click does nothing, and so takes no focus
+    setAutoScroll(false); // to the marked row it scrolls by itself
     setShowGrid(false);
     setWordWrap(false);
     setVerticalScrollMode(ScrollPerPixel);
@@ -92,6 +93,7 @@ void oPreviewGrid::setRedraw(bool redraw)
     }
     m_model->endChange();
     takeSizes();
+    keepMark();
     setUpdatesEnabled(true);
     if (m_toTop) {
         verticalScrollBar()->setValue(0);
@@ -120,13 +122,27 @@ void oPreviewGrid::RemoveAll()
         m_model->cells.RemoveAll();
         m_model->columnBacks.clear();
         m_captionsRow = 0;
+        m_painter.setTintedRow(0);
         m_toTop = true;
     });
 }
 
-void oPreviewGrid::AddColumn(const QString &key, int width)
+void oPreviewGrid::AddColumn(const QString &key, int width, int share)
 {
-    change([&] { m_model->cells.AddColumn(key, width); });
+    change([&] { m_model->cells.AddColumn(key, width, share); });
+}
+
+void oPreviewGrid::setColumnWidth(int column, int width)
+{
+    change([&] { m_model->cells.setColumnWidth(column, width); });
+}
+
+void oPreviewGrid::setTintedRow(int row)
+{
+    if (row == m_painter.tintedRow())
+        return;
+    m_painter.setTintedRow(row);
+    viewport()->update();
 }
 
 void oPreviewGrid::AddRow()
@@ -160,6 +176,11 @@ void oPreviewGrid::setRowLook(int row, clsPreviewRowLook look)
         if (look == clsPreviewRowLook::Captions)
             m_captionsRow = row;
     });
+}
+
+void oPreviewGrid::setOrigin(int row, clsPreviewOrigin origin)
+{
+    change([&] { m_model->cells.setOrigin(row, origin); });
 }
 
 void oPreviewGrid::FitRowHeight(int row)
@@ -266,6 +287,10 @@ void oPreviewGrid::SetHiddenAbove(int row, int pixels)
 
 void oPreviewGrid::keyPressEvent(QKeyEvent *event)
 {
+    if (markByKey(event->key())) {
+        event->accept();
+        return;
+    }
     struct clsKey {
         int key;
         QScrollBar *bar;
@@ -310,15 +335,21 @@ void oPreviewGrid::mouseDoubleClickEvent(QMouseEvent *event)
 void oPreviewGrid::mouseReleaseEvent(QMouseEvent *event)
 {
     event->accept();
-    if (event->button() == Qt::RightButton)
-        emit RightClick(event->globalPosition().toPoint());
+    if (event->button() != Qt::RightButton)
+        return;
+    const int row = rowAt(event->position().toPoint().y()) + 1;
+    m_pointed = row > 0 && Origin(row).kind != clsPreviewOrigin::Nothing ? row : 0;
+    emit RightClick(event->globalPosition().toPoint());
 }
 
 void oPreviewGrid::contextMenuEvent(QContextMenuEvent *event)
 {
     event->accept();
-    if (event->reason() != QContextMenuEvent::Mouse) // the mouse asks when its button is released
-        emit RightClick(viewport()->mapToGlobal(QPoint(Theme::Space16, Theme::Space16)));
+    if (event->reason() == QContextMenuEvent::Mouse) // the mouse asks when its button is released
+        return;
+    m_pointed = 0;
+    const QPoint place = m_marked ? PlaceOf(m_marked).bottomLeft() : QPoint(Theme::Space16, Theme::Space16);
+    emit RightClick(viewport()->mapToGlobal(place));
 }
 
 void oPreviewGrid::changeEvent(QEvent *event)

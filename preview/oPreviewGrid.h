@@ -25,7 +25,8 @@ public:
 
     void RemoveAll();
     /// Adds a column of a width in pixels. All columns come before the first cell.
-    void AddColumn(const QString &key, int width);
+    void AddColumn(const QString &key, int width, int share = 0);
+    void setColumnWidth(int column, int width);
     void AddRow();
     /// Makes room for so many rows more, each with a spacer.
     void ExpectRows(int count) { m_model->cells.ExpectRows(count); }
@@ -36,6 +37,8 @@ public:
     /// Colours a column's cells in all rows.
     void setColumnBackColour(int column, const QColor &colour);
     void setRowLook(int row, clsPreviewRowLook look);
+    /// Says of what a row's figures are, so that it can be marked and asked about.
+    void setOrigin(int row, clsPreviewOrigin origin);
     /// Makes a row as high as its tallest text.
     void FitRowHeight(int row);
 
@@ -43,12 +46,37 @@ public:
     int Columns() const { return m_model->cells.Columns(); }
     QString ColumnKey(int column) const { return m_model->cells.ColumnKey(column); }
     int ColumnWidth(int column) const { return m_model->cells.ColumnWidth(column); }
+    int ColumnShare(int column) const { return m_model->cells.ColumnShare(column); }
     int RowHeight(int row) const { return m_model->cells.RowHeight(row); }
     QString Text(int row, int column) const { return m_model->cells.Cell(row, column).text; }
     const clsPreviewCell &Cell(int row, int column) const { return m_model->cells.Cell(row, column); }
     QString WhyNot(int row, int column) const { return m_model->cells.WhyNot(row, column); }
     QColor CellBackColour(int row, int column) const;
     QFont CellFont(bool bold, bool underline) const { return m_painter.font(bold, underline); }
+
+    clsPreviewOrigin Origin(int row) const { return m_model->cells.Origin(row); }
+    /// The row that shows figures of this; 0 for none.
+    int RowOf(clsPreviewOrigin origin) const;
+
+    /// The row that the user has marked; 0 while the arrows scroll.
+    int MarkedRow() const { return m_marked; }
+    /// Marks a row and scrolls to it; 0 takes the mark away. A row without figures can't be marked.
+    void MarkRow(int row);
+    /// Marks the next row with figures in a direction, or stays where there is none.
+    void MoveMark(int rows);
+    /// The row that is meant by who asks for a figure of the preview: the one under the pointer where its menu was
+    /// opened by the mouse, else the marked one, else the first in view. 0 where there is none.
+    int AskedRow() const;
+    /// The menu that was opened by the mouse is gone.
+    void ForgetPointedRow() { m_pointed = 0; }
+    /// Where a row stands in the grid, as wide as its columns.
+    QRect PlaceOf(int row) const;
+    /// The left edge of a column in the grid.
+    int LeftOf(int column) const { return viewport()->x() + columnEdges()[size_t(column - 1)]; }
+
+    /// Tints a row until the rows are others, 0 for none.
+    void setTintedRow(int row);
+    int TintedRow() const { return m_painter.tintedRow(); }
 
     /// The first and last row of which something is to be seen; 0 in an empty grid.
     int FirstRowInView() const;
@@ -64,6 +92,8 @@ public:
 signals:
     /// The right mouse button was released, or the menu key pressed, at this place of the screen.
     void RightClick(const QPoint &place);
+    /// Enter was pressed on the marked row.
+    void WhyAsked();
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -79,6 +109,9 @@ protected:
     bool viewportEvent(QEvent *event) override;
 
 private:
+    bool markByKey(int key);
+    int figuresFrom(int row, int direction) const;
+    void keepMark();
     friend class oPreviewCaptions;
     template <class Change> void change(Change what);
     void takeSizes();
@@ -96,6 +129,9 @@ private:
     bool m_drawing = false;
     bool m_toTop = false;
     int m_captionsRow = 0;
+    int m_marked = 0;
+    int m_pointed = 0; ///< under the pointer when the menu was opened; 0 for none
+    clsPreviewOrigin m_markedOrigin {}; ///< by which the mark finds its row when the preview is drawn anew
 };
 
 /// The grid of the main window; nothing until that window is loaded. The drawing of the previews goes there.

@@ -8,6 +8,7 @@
 #include "base/mdProgramFolder.h"
 #include "base/mdShellExecute.h"
 #include "commands/mdFileHandling.h"
+#include "controls/mdSigns.h"
 #include "controls/mdTheme.h"
 #include "controls/oButtonBar.h"
 #include "controls/oCustomButton.h"
@@ -15,6 +16,7 @@
 #include "controls/oHeaderBar.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
+#include "shell/clsCheckState.h"
 #include "shell/clsLongWork.h"
 #include "shell/mdExportOutcome.h"
 #include "wordexport/clsExport.h"
@@ -33,7 +35,13 @@
 
 #include <algorithm>
 
-frmExportToWord::frmExportToWord(QWidget *parent)
+namespace {
+
+constexpr int SignSide = 14;
+
+} // namespace
+
+frmExportToWord::frmExportToWord(QWidget *parent, clsCheckState *check)
     : QDialog(parent)
     , bxGeneral(new oFrame(this))
     , txtExportPath(new QLineEdit(bxGeneral))
@@ -41,6 +49,11 @@ frmExportToWord::frmExportToWord(QWidget *parent)
     , cmdBesideTheClaim(button("cmdBesideTheClaim", QStringLiteral("Beside the C&laim")))
     , cmdOpenExportFolder(button("cmdOpenExportFolder", QStringLiteral("&Open")))
     , cmdOpenDocument(button("cmdOpenDocument", QStringLiteral("Open &Document")))
+    , m_check(check)
+    , m_checkLine(new QWidget(bxGeneral))
+    , lblCheckSign(new QLabel(m_checkLine))
+    , lblCheckCounts(new QLabel(m_checkLine))
+    , cmdShowCheck(button("cmdShowCheck", QStringLiteral("&Show")))
     , lblOutcome(new QLabel(bxGeneral))
     , cmdExport(button("cmdExport", QStringLiteral("&Export")))
     , cmdClose(button("cmdClose", QStringLiteral("&Close")))
@@ -60,6 +73,8 @@ frmExportToWord::frmExportToWord(QWidget *parent)
     const QString path = Form->ExportPath();
     txtExportPath->setText(path.isEmpty() ? mdDesktopFolder() : path);
     txtExportPath->setFocus();
+    if (m_check)
+        watchCheck();
 }
 
 oCustomButton *frmExportToWord::button(const char *name, const QString &caption)
@@ -100,6 +115,8 @@ void frmExportToWord::build()
     bxGeneral->bodyLayout()->addLayout(row);
     bxGeneral->bodyLayout()->addLayout(buttons);
 
+    bxGeneral->bodyLayout()->addWidget(makeCheckLine());
+
     cmdBesideTheClaim->setEnabled(!Document().filePath().isEmpty());
     if (!cmdBesideTheClaim->isEnabled())
         cmdBesideTheClaim->setToolTip(QStringLiteral("The claim has not been saved yet."));
@@ -119,9 +136,52 @@ void frmExportToWord::build()
     oButtonBar::layOut(*this, header, bxGeneral, bar);
     setMinimumWidth(Theme::scaled(640));
     QWidget *const order[] = {txtExportPath, cmdExportPathBrowse, cmdBesideTheClaim, cmdOpenExportFolder,
-        cmdOpenDocument, cmdExport, cmdClose};
+        cmdOpenDocument, cmdShowCheck, cmdExport, cmdClose};
     for (size_t i = 1; i < std::size(order); ++i)
         setTabOrder(order[i - 1], order[i]);
+}
+
+QWidget *frmExportToWord::makeCheckLine()
+{
+    lblCheckCounts->setObjectName(QStringLiteral("lblCheckCounts"));
+    lblCheckCounts->setTextFormat(Qt::PlainText);
+    cmdShowCheck->setLook(oCustomButton::Look::Small);
+    cmdShowCheck->setToolTip(QStringLiteral("Close this window and show what the check has found"));
+    auto *line = new QHBoxLayout(m_checkLine);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->setSpacing(Theme::Space8);
+    line->addWidget(lblCheckSign);
+    line->addWidget(lblCheckCounts);
+    line->addWidget(cmdShowCheck);
+    line->addStretch(1);
+    // What the printed texts add comes a moment later, and must not move anything.
+    QSizePolicy keepsRoom = m_checkLine->sizePolicy();
+    keepsRoom.setRetainSizeWhenHidden(m_check != nullptr);
+    m_checkLine->setSizePolicy(keepsRoom);
+    m_checkLine->hide();
+    return m_checkLine;
+}
+
+void frmExportToWord::watchCheck()
+{
+    connect(m_check, &clsCheckState::Changed, this, &frmExportToWord::showCounts);
+    connect(cmdShowCheck, &oCustomButton::Click, this, [this] {
+        m_leadsToCheck = true;
+        reject();
+    });
+    m_check->RenewPrint(true);
+    showCounts();
+}
+
+void frmExportToWord::showCounts()
+{
+    const QString counts = mdCountsInWords(m_check->Groups(), false);
+    const bool errors = mdCountOf(m_check->Groups(), clsFindingGroup::Errors) > 0;
+    lblCheckCounts->setText(counts);
+    lblCheckSign->setPixmap(
+        mdSignPixmap(errors ? Sign::Error : Sign::Warning, Theme::scaled(SignSide), lblCheckSign->devicePixelRatioF()));
+    m_checkLine->setVisible(!counts.isEmpty());
+    cmdShowCheck->setAccessibleDescription(counts);
 }
 
 void frmExportToWord::txtExportPath_Change()

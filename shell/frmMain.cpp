@@ -6,16 +6,20 @@
 #include "commands/mdFileHandling.h"
 #include "controls/mdLargestWindow.h"
 #include "controls/mdShowModal.h"
+#include "controls/mdTheme.h"
 #include "controls/oAllPurposeBox.h"
 #include "controls/oFooterBar.h"
 #include "controls/oHeaderBar.h"
 #include "controls/oTabBar.h"
 #include "controls/oTimeSpentBox.h"
-#include "editors/mdEnterField.h"
+#include "controls/oTotalsStrip.h"
+#include "editors/frmSection.h"
 #include "editors/mdFieldPlace.h"
 #include "editors/mdSections.h"
 #include "editors/mdShowPreferences.h"
 #include "editors/mdUnloadAndDummyTabClick.h"
+#include "editors/mdWayTo.h"
+#include "formdata/clsClaimPlace.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
 #include "formdata/mdGlobals.h"
@@ -25,10 +29,16 @@
 #include "preview/oPageView.h"
 #include "preview/oPreviewGrid.h"
 #include "preview/oPreviewSheet.h"
+#include "shell/clsCheckState.h"
 #include "shell/clsFormPages.h"
 #include "shell/clsLongWork.h"
+#include "shell/clsStripFiller.h"
+#include "shell/clsWhyOpener.h"
 #include "shell/mdMainMenu.h"
+#include "shell/mdOpenPanels.h"
 #include "shell/oApplication.h"
+#include "shell/oCheckPanel.h"
+#include "shell/oPreviewArea.h"
 
 #include <QMenu>
 #include <QMenuBar>
@@ -44,6 +54,7 @@ namespace {
 constexpr int AutoBackupMilliseconds = 10000;
 constexpr int ReplacementsPage = 2;
 constexpr int FrameHeight = 40; ///< room for that of the desktop, which is known only once the window is up
+constexpr int LowWindow = 620;
 constexpr int LongestGrowth = 1000; ///< in milliseconds
 
 } // namespace
@@ -59,6 +70,10 @@ frmMain::frmMain(QWidget *parent)
     , m_formPages(new oFormPages)
     , m_previews(new QStackedLayout)
     , m_pages(new clsFormPages(*m_formPages, this))
+    , m_strip(new oTotalsStrip)
+    , m_stripFiller(new clsStripFiller(*m_strip, this))
+    , m_why(nullptr)
+    , m_check(new clsCheckState(this))
     , oFooter(new oFooterBar)
     , tmrAutoBackup(new QTimer(this))
 {
@@ -69,8 +84,13 @@ frmMain::frmMain(QWidget *parent)
     connect(tbSection, &oTabBar::Click, this, &frmMain::tbSection_Click);
     connect(tbSubSection, &oTabBar::Click, this, &frmMain::tbSubSection_Click);
     connect(tmrAutoBackup, &QTimer::timeout, this, &frmMain::tmrAutoBackup_Timer);
-    connect(sgPreview, &oPreviewGrid::RightClick, this,
-        [this](const QPoint &place) { menuBar()->findChild<QMenu *>(QStringLiteral("mnuPreview"))->popup(place); });
+    auto *previewMenu = menuBar()->findChild<QMenu *>(QStringLiteral("mnuPreview"));
+    connect(sgPreview, &oPreviewGrid::RightClick, previewMenu,
+        [previewMenu](const QPoint &place) { previewMenu->popup(place); });
+    // Once the entry that was chosen has run.
+    connect(previewMenu, &QMenu::aboutToHide, sgPreview, &oPreviewGrid::ForgetPointedRow, Qt::QueuedConnection);
+    connect(m_why, &clsWhyOpener::PlaceChosen, this, &frmMain::OpenPlace);
+    connect(m_stripFiller, &clsStripFiller::Renewed, m_why, &clsWhyOpener::TakeDrawnState);
     SetOpenSection([this](const QString &text) { tbSubSection_Click(-1, text); });
     // From a box of whatever screen is open, over that screen.
     SetEditReplacements([] { mdShowPreferences(QApplication::activeWindow(), ReplacementsPage); });
@@ -80,6 +100,8 @@ frmMain::frmMain(QWidget *parent)
     const auto stopTimer = [this] {
         oFooter->TimeSpentTimer()->StopTimer();
         m_pages->Forget();
+        m_stripFiller->Forget();
+        m_check->Forget();
     };
     SetFormDisplay({[this] { Activate(); }, mdClearPreview, stopTimer});
 }
@@ -114,9 +136,12 @@ void frmMain::build()
     layout->addWidget(tbSubSection);
     m_previews->addWidget(pctPreview);
     m_previews->addWidget(m_formPages);
-    layout->addLayout(m_previews, 1);
+    buildCheck();
+    layout->addWidget(m_area, 1);
+    layout->addWidget(m_strip);
     layout->addWidget(oFooter);
     setCentralWidget(centre);
+    m_why = new clsWhyOpener(*m_strip, *sgPreview, *centre, this);
     mdBuildMainMenu(*this);
 }
 
@@ -125,7 +150,9 @@ void frmMain::Load(const QString &claimPath)
     placeRestored();
     setWindowState(Qt::WindowMaximized);
     // The preview takes the widths of its columns from the sheet, and it is drawn before the window shows.
-    pctPreview->resize(screen()->availableSize());
+    openCheck(mdIsPanelLeftOpen(m_checkPanel->objectName()));
+    m_area->resize(screen()->availableSize());
+    pctPreview->resize(m_area->previewWidth(m_area->width()), m_area->height());
     QResizeEvent placed(pctPreview->size(), QSize());
     QCoreApplication::sendEvent(pctPreview, &placed);
     Preferences = std::make_unique<clsZR3PreferencesDatabase>();
@@ -189,11 +216,9 @@ void frmMain::tbSubSection_Click(int index, const QString &tag)
         if (!screen)
             continue;
         shown = true;
-        if (const QString field = std::exchange(m_nextField, QString()); !field.isEmpty())
-            QTimer::singleShot(0, screen.get(), [&window = *screen, field] {
-                if (auto *control = window.findChild<QWidget *>(field))
-                    mdEnterField(*control);
-            });
+        auto *section = qobject_cast<frmSection *>(screen.get());
+        if (const auto way = std::exchange(m_nextWay, nullptr); section && way)
+            QTimer::singleShot(0, section, [section, way] { way(*section); });
         const QScopedValueRollback<bool> modal(m_modal, true);
         mdShowModal(*screen);
     }
@@ -203,11 +228,17 @@ void frmMain::tbSubSection_Click(int index, const QString &tag)
 
 void frmMain::OpenField(const QString &property)
 {
-    const auto place = mdFieldPlace(property);
-    if (!place || m_sectionOpen)
+    if (const auto place = mdFieldPlace(property))
+        OpenPlace({place->section, {}, 0, property.mid(property.indexOf(u'.') + 1)});
+}
+
+void frmMain::OpenPlace(const clsClaimPlace &place)
+{
+    if (m_sectionOpen)
         return;
-    m_nextField = place->control;
-    tbSubSection_Click(-1, place->section);
+    m_nextWay = mdWayTo(place);
+    tbSubSection_Click(-1, place.Screen);
+    m_nextWay = nullptr;
 }
 
 void frmMain::whileModal(const std::function<void()> &show)
@@ -245,6 +276,8 @@ void frmMain::Activate()
     // Without the mark on the tab that was clicked, the same one can be clicked again.
     tbSubSection->SwitchTo(0);
     refreshPreview();
+    m_stripFiller->Renew();
+    renewCheck();
     m_activationDone = !isActiveWindow();
 }
 
@@ -268,6 +301,8 @@ void frmMain::showEvent(QShowEvent *event)
 void frmMain::resizeEvent(QResizeEvent *event)
 {
     QMainWindow::resizeEvent(event);
+    m_strip->setLow(height() < Theme::scaled(LowWindow));
+    m_why->Close();
     if (std::exchange(m_grows, false))
         QTimer::singleShot(0, this, &frmMain::drawForShownWidth);
 }
@@ -302,7 +337,11 @@ void frmMain::redraw(void (*routine)(clsPreviewKind))
     const QScopedValueRollback<bool> redrawing(m_redrawing, true);
     const clsLongWork work;
     m_drawnWidth = sgPreview->width();
+    m_why->Close();
     routine(m_previewKind);
+    m_why->TellDrawn();
+    m_stripFiller->Renew();
+    tintChosen();
 }
 
 bool frmMain::showsFormPages() const

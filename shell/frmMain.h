@@ -11,13 +11,21 @@ class QDialog;
 class QMenu;
 class QStackedLayout;
 class QTimer;
+class clsCheckState;
 class clsFormPages;
+class clsStripFiller;
+class clsWhyOpener;
+class frmSection;
+class oCheckPanel;
 class oFooterBar;
 class oFormPages;
 class oHeaderBar;
+class oPreviewArea;
 class oPreviewGrid;
 class oPreviewSheet;
 class oTabBar;
+class oTotalsStrip;
+struct clsClaimPlace;
 
 /// The one top-level window: a launcher and a display. Everything that is edited is edited on modal screens that it
 /// opens; its own area shows which claim this is, two rows of tabs, the preview and the status line. Its caption is
@@ -42,6 +50,8 @@ public:
     void tbSubSection_Click(int index, const QString &tag);
     /// Opens the screen on which a property is entered, with the focus on its field.
     void OpenField(const QString &property);
+    /// Opens the screen of a place of the claim, and over it the editor of its item, with the focus on its field.
+    void OpenPlace(const clsClaimPlace &place);
     /// One tick of the timer for backups.
     void tmrAutoBackup_Timer();
 
@@ -57,9 +67,16 @@ public:
     void Exit() { close(); }
     void ShowPreferences();
     void CheckForBlank();
+    /// Opens the panel with what the check finds, and goes there.
+    void CheckClaim();
+    void CloseCheck();
+    /// Goes to the next finding of the check or the one before.
+    void StepThroughCheck(bool forward);
     void PreviewScheduleOfTime() { drawPreview(clsPreviewKind::ScheduleOfTime); }
     void PreviewAdditionalInformation() { drawPreview(clsPreviewKind::AdditionalInformation); }
     void FormPages();
+    void WhyThisFigure();
+    void CostsLimit();
     void UserGuide();
     void KeyboardShortcutsList();
     void MakeASuggestion();
@@ -79,6 +96,7 @@ protected:
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     bool event(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
@@ -96,6 +114,12 @@ private:
     void drawForShownWidth();
     void refreshPreview();
     void redraw(void (*routine)(clsPreviewKind));
+    void buildCheck();
+    void openCheck(bool open);
+    void showCheck();
+    void renewCheck();
+    void openFinding(int finding);
+    void tintChosen();
     void openDropped(const QString &path);
     /// Takes the user's typed text into the claim and the user out of the box; false where its text doesn't fit.
     bool leaveForAnotherClaim();
@@ -110,6 +134,12 @@ private:
     oFormPages *m_formPages;
     QStackedLayout *m_previews;
     clsFormPages *m_pages;
+    oTotalsStrip *m_strip;
+    clsStripFiller *m_stripFiller;
+    clsWhyOpener *m_why;
+    clsCheckState *m_check;
+    oCheckPanel *m_checkPanel;
+    oPreviewArea *m_area;
     oFooterBar *oFooter;
     QTimer *tmrAutoBackup;
 
@@ -118,7 +148,7 @@ private:
     int m_drawnWidth = 0;
     QString m_backupTag;
     QString m_nextSection;
-    QString m_nextField;
+    std::function<void(frmSection &screen)> m_nextWay; ///< on the screen that opens next
     bool m_sectionOpen = false;
     bool m_loaded = false;
     bool m_wasShown = false;

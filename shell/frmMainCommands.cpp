@@ -99,8 +99,10 @@ void frmMain::ExportToWord()
             QStringLiteral("Word Error"));
         return;
     }
-    frmExportToWord dialog(this);
+    frmExportToWord dialog(this, m_check);
     whileModal([&dialog] { mdShowModal(dialog); });
+    if (dialog.leadsToCheck())
+        CheckClaim();
 }
 
 void frmMain::ExportAsPdf()

@@ -1,5 +1,6 @@
 #include "wordexport/mdBoxesToCheck.h"
 
+#include "formdata/mdClaimLists.h"
 #include "wordexport/clsForecast.h"
 
 #include <algorithm>
@@ -9,37 +10,13 @@ namespace {
 
 using Box = clsForecast::Box;
 
-struct clsScreenRow {
-    const char *part; ///< of the claim
+struct clsPageRow {
+    const char *page;
     const char *screen; ///< the text of its tab
 };
 
-constexpr clsScreenRow Sections[] = {
-    {"ClientDetails", "Client Details"},
-    {"SolicitorDetails", "Solicitor Details"},
-    {"PreviousAdvice", "Previous Advice"},
-    {"CaseInformation", "Case Information"},
-    {"OutcomeOfCase", "Outcome of Case"},
-    {"LateSubmission", "Late Submission"},
-    {"NatureOfProceedings", "Nature of Proceedings"},
-    {"ActualCostsIncurred", "Actual Costs"},
-    {"DetailsOfWork", "Details of Work"},
-    {"CounselOutstandingClaims", "Counsel Outstanding Claims"},
-    {"DetailsOfCostsAwarded", "Details of Costs Awarded"},
-    {"DetailsOfMonies", "Details of Monies Awarded"},
-    {"DebtorsDetails", "Debtor's Details"},
-};
-
-constexpr clsScreenRow Lists[] = {
-    {"schedule", "Schedule of Time"},
-    {"disbursements", "Disbursements"},
-    {"experts", "Disbursements"},
-    {"joint", "Disbursements"},
-    {"fas", "Family Advocacy Scheme"},
-};
-
 /// The screens that the figures of the pages come from.
-constexpr clsScreenRow Pages[] = {
+constexpr clsPageRow Pages[] = {
     {"Claim1 P4", "Disbursements"},
     {"Claim1 P5", "Schedule of Time"},
     {"Claim1 P6", "Disbursements"},
@@ -63,11 +40,11 @@ QString pageOf(const clsForecast &forecast, const QString &sheetName)
     return {};
 }
 
-template <class Rows> QString screenIn(const Rows &rows, const QString &part)
+QString screenOfFigures(const QString &page)
 {
-    const auto *row = std::find_if(std::begin(rows), std::end(rows),
-        [&](const clsScreenRow &candidate) { return part == QLatin1String(candidate.part); });
-    return row == std::end(rows) ? QString() : QString::fromLatin1(row->screen);
+    const auto *row = std::find_if(std::begin(Pages), std::end(Pages),
+        [&](const clsPageRow &candidate) { return page == QLatin1String(candidate.page); });
+    return row == std::end(Pages) ? QString() : QString::fromLatin1(row->screen);
 }
 
 void place(clsPrintedBox &box, const Box &given, const clsForecast &forecast)
@@ -75,21 +52,21 @@ void place(clsPrintedBox &box, const Box &given, const clsForecast &forecast)
     const qsizetype dot = given.Property.indexOf(u'.');
     box.Property = given.Property.mid(dot + 1);
     if (given.Item > 0) {
-        box.Screen = screenIn(Lists, given.List);
+        box.Screen = mdTabOfList(given.List);
         box.List = given.List;
         box.Item = given.Item;
     } else if (given.Row > 0) { // the additional information
-        box.Screen = screenIn(Lists, QStringLiteral("schedule"));
+        box.Screen = mdTabOfList(QStringLiteral("schedule"));
         box.List = QStringLiteral("schedule");
         box.Property = QStringLiteral("Description");
     } else if (dot >= 0) {
-        box.Screen = screenIn(Sections, given.Property.left(dot));
+        box.Screen = mdTabOfSection(given.Property.left(dot));
     } else if (given.Property.startsWith(QLatin1String("ExpertsMeetMOJStandard"))) {
-        box.Screen = screenIn(Lists, QStringLiteral("experts"));
+        box.Screen = mdTabOfList(QStringLiteral("experts"));
     } else if (!given.Property.isEmpty()) {
         box.Screen = QStringLiteral("Form Setup");
     } else {
-        box.Screen = screenIn(Pages, pageOf(forecast, given.Sheet));
+        box.Screen = screenOfFigures(pageOf(forecast, given.Sheet));
     }
 }
 

@@ -60,10 +60,3 @@ clsFindings mdCheckPrint(const clsZR3Form &form, const clsCheckFacts &facts)
         std::begin(Rules), std::end(Rules), [](const clsCheckRule &rule) { return rule.find == mdCheckPaper; });
     return clsClaimCheck(form, facts).run(paper, paper + 1);
 }
-
-QString mdStoredCostsLimit(const clsZR3Form &form)
-{
-    // As a plain record: the lists need not forget what they know of their elements.
-    const clsXMLRecord &claim = form;
-    return XMLDecodeText(claim.XMLNode().child("costslimit").child_value());
-}

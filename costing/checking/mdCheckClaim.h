@@ -2,6 +2,7 @@
 
 #include "costing/checking/clsCheckFacts.h"
 #include "costing/checking/clsFinding.h"
+#include "formdata/mdCostsLimit.h"
 
 class clsZR3Form;
 
@@ -11,6 +12,3 @@ clsFindings mdCheckClaim(const clsZR3Form &form, const clsCheckFacts &facts);
 
 /// The findings about printing alone, for a caller that gets the forecast later.
 clsFindings mdCheckPrint(const clsZR3Form &form, const clsCheckFacts &facts);
-
-/// The costs limit as the claim stores it; empty where it has none.
-QString mdStoredCostsLimit(const clsZR3Form &form);

@@ -8,7 +8,6 @@
 #include "costing/mdGetBillSummary.h"
 #include "costing/mdGetColumnTotals.h"
 #include "costing/mdGetCommsInfo.h"
-#include "costing/mdGetCounselTotals.h"
 
 #include <QHash>
 
@@ -210,9 +209,7 @@ void mdCheckCostsLimit(clsClaimCheck &check)
     Money limit;
     if (!check.unlessItFails([&] { limit = MoneyFromText(check.facts().CostsLimit); }) || limit <= Money())
         return;
-    const clsBill &bill = check.bill();
-    const Money costs = check.isClaim1() ? mdSumOf({NetWithoutCounsel(bill), CounselFeesAmountTotal(bill.form())})
-                                         : NetWithAdvocacyAndCounsel(bill);
+    const Money costs = NetCostsWithCounsel(check.bill());
     const Money nineTenths = limit - Money::fromTenThousandths(limit.tenThousandths() / 10);
     const QString words = QStringLiteral("The costs are %1 of the limit of %2, net with counsel: ")
                               .arg(mdFormatMoney(costs), mdFormatMoney(limit));

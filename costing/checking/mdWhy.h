@@ -20,6 +20,9 @@ std::optional<clsWhy> mdWhyTotal(const clsBill &bill, const QString &key);
 /// A column of a list of claims that holds a figure of the bill.
 std::optional<clsWhy> mdWhyListColumn(const clsBill &bill, const QString &column);
 
+/// A figure of the strip of totals, by its key in `mdClaimTotals`.
+std::optional<clsWhy> mdWhyClaimTotal(const clsBill &bill, const QString &key);
+
 /// One of these: "schedule" and an order, "communications" and kind and line as in "2/1", "fas" and an order, "total"
 /// and a key, "list" and a column.
 std::optional<clsWhy> mdWhy(const clsBill &bill, const QString &kind, const QString &which);

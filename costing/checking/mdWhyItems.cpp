@@ -1,6 +1,7 @@
 #include "costing/checking/mdWhy.h"
 
 #include "base/mdExisting.h"
+#include "base/mdFormatMoney.h"
 #include "base/mdNumberText.h"
 #include "costing/checking/mdCheckWords.h"
 #include "costing/mdFigureFaults.h"
@@ -75,11 +76,11 @@ private:
     using Price = clsSchedulePrice;
 
     /// A figure that is worked out already, or its error.
-    QString figure(Price::Figure which, Money value) const
+    Money figure(Price::Figure which, Money value) const
     {
         if (const int error = m_price.errorOf(which))
             mdExplained(m_form, m_item, [error] { throw clsRunTimeError(error); });
-        return MoneyToText(value);
+        return value;
     }
 
     void feeEarner()
@@ -102,7 +103,7 @@ private:
     }
     void basicClaim()
     {
-        m_why.add(QStringLiteral("%1 at %2").arg(m_item.TTime(), MoneyToText(m_price.Rate)),
+        m_why.add(QStringLiteral("%1 at %2").arg(m_item.TTime(), mdFormatMoney(m_price.Rate)),
             QStringLiteral("%1 minutes, rounded to the penny").arg(m_price.Minutes), m_own,
             [this] { return figure(Price::BasicClaimFigure, m_price.BasicClaim); });
     }
@@ -111,27 +112,26 @@ private:
         if (m_group && m_group->Enhance())
             m_why.add(QStringLiteral("Enhancement of %1").arg(inSentence(*m_group)), {}, groupSource(*m_group), [this] {
                 return mdExplained(
-                    m_form, m_item, [this] { return MoneyToText(clsGroupRates(*m_group).Enhancement()); });
+                    m_form, m_item, [this] { return clsPercentage {clsGroupRates(*m_group).Enhancement()}; });
             });
         if (m_item.IncludeInEnhancements()) {
             const auto listed = m_form.EnhancementByUniqueID(m_item.EnhancementUniqueID());
             m_why.add(listed ? listed->Name() : QStringLiteral("Enhancement"), {},
                 listed ? enhancementSource(*listed) : m_own, [&] {
                     return mdExplained(
-                        m_form, m_item, [&] { return MoneyToText(MoneyFromText(mdExisting(listed).Rate())); });
+                        m_form, m_item, [&] { return clsPercentage {MoneyFromText(mdExisting(listed).Rate())}; });
                 });
         }
         m_why.add(QStringLiteral("Percentages together"), {}, m_own,
-            [this] { return figure(Price::PercentageFigure, m_price.TotalEnhancementPercentage); });
+            [this] { return clsPercentage {figure(Price::PercentageFigure, m_price.TotalEnhancementPercentage)}; });
     }
     void enhancement()
     {
         const Money percentage = m_price.TotalEnhancementPercentage;
         m_why.add(
-            QStringLiteral("Enhancement of %1 % of %2").arg(MoneyToText(percentage), MoneyToText(m_price.BasicClaim)),
+            QStringLiteral("Enhancement of %1 % of %2").arg(MoneyToText(percentage), mdFormatMoney(m_price.BasicClaim)),
             {}, m_own, [&] {
-                return mdExplained(
-                    m_form, m_item, [&] { return MoneyToText(Item::EnhancementBy(m_price.BasicClaim, percentage)); });
+                return mdExplained(m_form, m_item, [&] { return Item::EnhancementBy(m_price.BasicClaim, percentage); });
             });
     }
 
@@ -151,8 +151,8 @@ void addLine(clsWhy &why, const clsZR3Form &form, const clsZR3FeeEarnerGroup &gr
     const clsWhySource own = why.source();
     const QString words = QString::fromLatin1(KindsInWords[int(kind)]);
     const auto figure = [&](const QString &text, const clsWhySource &source, auto compute) {
-        why.add(text, {}, source,
-            [&] { return mdExplained(form, line, kind, [&] { return MoneyToText(compute(form, line, kind)); }); });
+        why.add(
+            text, {}, source, [&] { return mdExplained(form, line, kind, [&] { return compute(form, line, kind); }); });
     };
     why.add(QStringLiteral("Line %1 of the %2").arg(line).arg(words), group.Name(), groupSource(group),
         [&] { return inSentence(group); });
@@ -194,7 +194,7 @@ std::optional<clsWhy> mdWhyCommunications(const clsBill &bill, clsCommsKind kind
             addLine(why, form, *group, kind, line);
         else
             why.add(QStringLiteral("No group takes this line"), {}, why.source(),
-                [&] { return MoneyToText(CommsClaimAtLine(form, line, kind)); });
+                [&] { return CommsClaimAtLine(form, line, kind); });
     });
     return why;
 }
@@ -207,8 +207,7 @@ std::optional<clsWhy> mdWhyFASItem(const clsBill &bill, int orderID)
         return {};
     clsWhy why({QStringLiteral("Family Advocacy Scheme"), QStringLiteral("fas"), orderID});
     const auto step = [&](const QString &text, auto compute) {
-        why.add(
-            text, {}, why.source(), [&] { return mdExplained(form, *item, [&] { return MoneyToText(compute()); }); });
+        why.add(text, {}, why.source(), [&] { return mdExplained(form, *item, [&] { return compute(); }); });
     };
     why.addAll(QStringLiteral("Total"), [&] {
         step(

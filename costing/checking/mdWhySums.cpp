@@ -38,7 +38,7 @@ void addAmounts(clsWhy &why, const Form &form, const Items &items, const char *l
 {
     for (const auto &item : items)
         why.add(nameOf(*item), {}, disbursementsSource(list, item->OrderID()),
-            [&] { return mdExplained(form, *item, [&] { return MoneyToText(MoneyFromText(((*item).*field)())); }); });
+            [&] { return mdExplained(form, *item, [&] { return MoneyFromText(((*item).*field)()); }); });
 }
 
 /// The same of the disbursements that are counsel's fees.
@@ -65,7 +65,7 @@ void mdAddColumns(clsWhy &why, const clsBill &bill)
     for (int column = 0; column < clsZR3ScheduleOfTimeItem::Columns; ++column)
         why.add(QString::fromLatin1(Columns[column].words), {},
             {QStringLiteral("Schedule of Time"), QStringLiteral("schedule")},
-            [&] { return MoneyToText(ColumnClaimTotal(bill, column)); });
+            [&] { return ColumnClaimTotal(bill, column); });
 }
 
 void mdAddAdvocacy(clsWhy &why, const clsBill &bill)
@@ -73,8 +73,7 @@ void mdAddAdvocacy(clsWhy &why, const clsBill &bill)
     const Form &form = bill.form();
     if (form.FormType() != QLatin1String("Claim1") && !form.FASItemsCollection().empty()) {
         why.add(QStringLiteral("Family Advocacy Scheme"), {},
-            {QStringLiteral("Family Advocacy Scheme"), QStringLiteral("fas")},
-            [&] { return MoneyToText(FASItemsTotal(form)); });
+            {QStringLiteral("Family Advocacy Scheme"), QStringLiteral("fas")}, [&] { return FASItemsTotal(form); });
         return;
     }
     for (const auto &item : form.ScheduleOfTimeItemsCollection()) {
@@ -85,8 +84,9 @@ void mdAddAdvocacy(clsWhy &why, const clsBill &bill)
             {QStringLiteral("Schedule of Time"), QStringLiteral("schedule"), item->OrderID()}, [&] {
                 if (price.errorOf(clsSchedulePrice::ClaimFigure))
                     mdExplained(form, *item, [&] { item->Claim(); });
-                return MoneyToText(price.Claim);
+                return price.Claim;
             });
+        why.lastCanBeAsked(QStringLiteral("schedule"), QString::number(item->OrderID()));
     }
 }
 
@@ -136,9 +136,11 @@ void mdAddFeeVAT(clsWhy &why, const clsBill &bill)
 
 void mdAddHearings(clsWhy &why, const clsBill &bill)
 {
-    for (const auto &item : bill.form().FASItemsCollection())
+    for (const auto &item : bill.form().FASItemsCollection()) {
         why.add(nameOf(*item), {}, {QStringLiteral("Family Advocacy Scheme"), QStringLiteral("fas"), item->OrderID()},
-            [&] { return mdExplained(bill.form(), *item, [&] { return MoneyToText(item->Total()); }); });
+            [&] { return mdExplained(bill.form(), *item, [&] { return item->Total(); }); });
+        why.lastCanBeAsked(QStringLiteral("fas"), QString::number(item->OrderID()));
+    }
 }
 
 void mdAddHearingsVAT(clsWhy &why, const clsBill &bill)
@@ -147,8 +149,7 @@ void mdAddHearingsVAT(clsWhy &why, const clsBill &bill)
         const QString text = item->VATForFAS();
         why.add(
             nameOf(*item), {}, {QStringLiteral("Family Advocacy Scheme"), QStringLiteral("fas"), item->OrderID()}, [&] {
-                return mdExplained(
-                    bill.form(), *item, [&] { return MoneyToText(text.isEmpty() ? Money() : MoneyFromText(text)); });
+                return mdExplained(bill.form(), *item, [&] { return text.isEmpty() ? Money() : MoneyFromText(text); });
             });
     }
 }
@@ -157,12 +158,12 @@ void mdAddCommunications(clsWhy &why, const clsBill &bill)
 {
     const Form &form = bill.form();
     for (int line = 1; line <= CommsLines; ++line)
-        for (const clsCommsKind kind : {clsCommsKind::Calls, clsCommsKind::LettersIn, clsCommsKind::LettersOut})
+        for (const clsCommsKind kind : {clsCommsKind::Calls, clsCommsKind::LettersIn, clsCommsKind::LettersOut}) {
             why.add(QStringLiteral("Line %1 of the %2").arg(line).arg(QString::fromLatin1(Kinds[int(kind)])), {},
-                {QStringLiteral("Communications"), QStringLiteral("communications")}, [&] {
-                    return mdExplained(
-                        form, line, kind, [&] { return MoneyToText(CommsClaimAtLine(form, line, kind)); });
-                });
+                {QStringLiteral("Communications"), QStringLiteral("communications")},
+                [&] { return mdExplained(form, line, kind, [&] { return CommsClaimAtLine(form, line, kind); }); });
+            why.lastCanBeAsked(QStringLiteral("communications"), QStringLiteral("%1/%2").arg(int(kind)).arg(line));
+        }
 }
 
 clsKeptHearingsVAT::clsKeptHearingsVAT(const clsZR3Form &form)

@@ -21,7 +21,7 @@ struct clsTotalRow {
     const char *key;
     const char *words;
     const char *screen; ///< where it can be changed; none for a sum of several screens
-    std::array<const char *, 4> parts {};
+    std::array<const char *, 5> parts {};
     void (*addItems)(clsWhy &why, const clsBill &bill) = nullptr;
     Shape shape = Sum;
 };
@@ -112,6 +112,17 @@ constexpr clsTotalRow Claim1AColumns[] = {
     {"counsel",       "Counsel's fees with VAT", "", {"ncsl", "vcsl"}},
     {"all",           "Total and counsel", "", {"total", "counsel"}},
 };
+// The strip's own
+constexpr clsTotalRow StripRows[] = {
+    {"other",         "Other", "", {"CommsTotal", "ExpertInvoicesNetTotal", "NonCounselDisbursementsAmountTotal"}},
+    {"fixedfee",      "Fixed fee", "Actual Costs"},
+};
+constexpr clsTotalRow Claim1LimitRows[] = {
+    {"limit",         "Costs, net with counsel", "", {"npc", "nex", "ndibs", "ncf"}},
+};
+constexpr clsTotalRow Claim1ALimitRows[] = {
+    {"limit",         "Costs, net with counsel", "", {"npc", "nex", "ndibs", "nfas", "ncsl"}},
+};
 // clang-format on
 
 using clsRows = std::span<const clsTotalRow>;
@@ -151,11 +162,24 @@ clsTotal columnOf(const Form &form, QLatin1String key)
         mdFigureOf(mdListFigures(form), key)};
 }
 
+clsTotal ofStrip(const Form &form, QLatin1String key)
+{
+    return {rowOf({StripRows, isClaim1A(form) ? clsRows(Claim1ALimitRows) : clsRows(Claim1LimitRows)}, key),
+        mdFigureOf(mdStripFigures(), key)};
+}
+
+clsWhySource vatRate()
+{
+    return {QStringLiteral("Form Setup"), {}, 0, QStringLiteral("VATRate")};
+}
+
 void addFigure(clsWhy &why, const QString &words, const clsTotal &total, const clsBill &bill)
 {
     clsWhySource source;
     source.Screen = QString::fromLatin1(total.row->screen);
-    why.add(words, {}, source, [&] { return MoneyToText(total.figure->figure(bill)); });
+    if (total.row->shape == clsTotalRow::VAT)
+        source = vatRate();
+    why.add(words, {}, source, [&] { return total.figure->figure(bill); });
 }
 
 void addParts(clsWhy &why, const clsTotalRow &row, const clsBill &bill)
@@ -163,16 +187,15 @@ void addParts(clsWhy &why, const clsTotalRow &row, const clsBill &bill)
     for (const char *key : row.parts) {
         if (!key)
             continue;
-        clsTotal part = totalOf(bill.form(), QLatin1String(key));
-        if (!part)
-            part = columnOf(bill.form(), QLatin1String(key));
+        const clsTotal total = totalOf(bill.form(), QLatin1String(key));
+        const clsTotal part = total ? total : columnOf(bill.form(), QLatin1String(key));
         const QString words = QString::fromLatin1(part.row->words);
         const bool isTakenOff = row.shape == clsTotalRow::Difference && key != row.parts.front();
         addFigure(why, isTakenOff ? QStringLiteral("Less: ") + words : words, part, bill);
+        why.lastCanBeAsked(total ? QStringLiteral("total") : QStringLiteral("list"), QString::fromLatin1(key));
     }
     if (row.shape == clsTotalRow::VAT)
-        why.add(QStringLiteral("Rate of VAT, per cent"), {},
-            {QStringLiteral("Form Setup"), {}, 0, QStringLiteral("VATRate")}, [&] { return bill.form().VATRate(); });
+        why.add(QStringLiteral("Rate of VAT, per cent"), {}, vatRate(), [&] { return bill.form().VATRate(); });
 }
 
 std::optional<clsWhy> whyTotal(const clsBill &bill, const clsTotal &total)
@@ -217,4 +240,13 @@ std::optional<clsWhy> mdWhyListColumn(const clsBill &bill, const QString &column
     if (column == QLatin1String("items"))
         return whyItems(bill);
     return whyTotal(bill, columnOf(bill.form(), QLatin1String(column.toLatin1())));
+}
+
+std::optional<clsWhy> mdWhyClaimTotal(const clsBill &bill, const QString &key)
+{
+    const QByteArray word = key.toLatin1();
+    for (const auto find : {totalOf, columnOf, ofStrip})
+        if (const clsTotal total = find(bill.form(), QLatin1String(word)))
+            return whyTotal(bill, total);
+    return {};
 }

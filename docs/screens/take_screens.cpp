@@ -163,6 +163,19 @@ void takeFormPages(clsPictures &pictures, frmMain &main)
         pictures.take(main, QStringLiteral("frmMain-pages"));
 }
 
+/// The claim has slips then, which nothing after this shows.
+void takeCheck(clsPictures &pictures, frmMain &main)
+{
+    Form->ScheduleOfTimeItemByOrderID(2)->dDate = QStringLiteral("25/08/27");
+    Form->ScheduleOfTimeItemByOrderID(4)->TTime = QStringLiteral("00:00");
+    Form->OutcomeOfCase.WastedCostsOrderYes = false;
+    Form->OutcomeOfCase.WastedCostsOrderNo = false;
+    main.PreviewScheduleOfTime();
+    main.CheckClaim();
+    pictures.take(main, QStringLiteral("frmMain-check"));
+    main.CloseCheck();
+}
+
 bool takeAll(const QString &claim, const QString &folder)
 {
     clsPictures pictures(folder);
@@ -187,6 +200,7 @@ bool takeAll(const QString &claim, const QString &folder)
     main.PreviewAdditionalInformation();
     pictures.take(main, QStringLiteral("frmMain-notes"));
     takeFormPages(pictures, main);
+    takeCheck(pictures, main);
     return pictures.complete();
 }
 

@@ -59,7 +59,7 @@ TEST_F(Why, OfAnItem)
     item->IncludeInEnhancements = true;
     item->EnhancementUniqueID = listed->UniqueID();
     EXPECT_EQ(QStringList({"Fee earner MO: Partner.|group A"_q, "Advocacy rate of the group: Advocacy is ticked.|50"_q,
-                  "03:20 at 50: 200 minutes, rounded to the penny.|166.67"_q, "Enhancement of group A.|50"_q,
+                  "03:20 at 50.00: 200 minutes, rounded to the penny.|166.67"_q, "Enhancement of group A.|50"_q,
                   "Exceptional speed.|10"_q, "Percentages together.|60"_q, "Enhancement of 60 % of 166.67.|100.002"_q,
                   "Claim.|266.67"_q}),
         steps("schedule", "1"));
@@ -69,7 +69,7 @@ TEST_F(Why, OfAnItemWithoutEnhancements)
 {
     EXPECT_EQ(QStringList({"Fee earner MO: Partner.|group A"_q,
                   "Hourly rate of the group: nothing that is ticked takes another.|40"_q,
-                  "03:20 at 40: 200 minutes, rounded to the penny.|133.33"_q, "Percentages together.|0"_q,
+                  "03:20 at 40.00: 200 minutes, rounded to the penny.|133.33"_q, "Percentages together.|0"_q,
                   "Enhancement of 0 % of 133.33.|0"_q, "Claim.|133.33"_q}),
         steps("schedule", "1"));
 }

@@ -217,7 +217,7 @@ TEST_F(ActualCostsScreen, OnTheSecondFormTheAdvocacySchemeIsWhatIsTakenOff)
     const oBoxNote *note = oBoxNote::of(screen->Box(PrivateLaw.profitCosts));
     ASSERT_TRUE(note);
     EXPECT_EQ(QStringLiteral("Below zero: profit costs 58.33 less advocacy 60.00"), note->Words());
-    EXPECT_EQ(oBoxNote::Sign::Warning, note->sign());
+    EXPECT_EQ(Sign::Warning, note->gravity());
     screen.reset();
     Form->FormType = QStringLiteral("Claim1");
     screen = opened(ActualCosts);

@@ -12,13 +12,13 @@ namespace {
 
 const oBoxNote::clsNote NoteOfDate {
     QStringLiteral("Typed 1/2/1850, read as 01/02/50: a year keeps its last two figures"),
-    oBoxNote::Sign::Information,
+    Sign::Note,
     {},
     QStringLiteral("Read as 01/02/50: a year keeps its last two figures"),
 };
 const oBoxNote::clsNote NoteOfAmount {
     QStringLiteral("Typed 1,234,567.89, read as 1.00: amounts take no comma"),
-    oBoxNote::Sign::Information,
+    Sign::Note,
     QStringLiteral("1234567.89"),
     QStringLiteral("Read as 1.00: amounts take no comma"),
 };

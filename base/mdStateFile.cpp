@@ -1,0 +1,42 @@
+#include "base/mdStateFile.h"
+
+#include "base/mdOwnFolder.h"
+#include "base/mdStateFolder.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace {
+
+QString pathOf(const QString &name)
+{
+    return StateFolder() + u'/' + name;
+}
+
+} // namespace
+
+QByteArray mdReadStateFile(const QString &name)
+{
+    QFile file(pathOf(name));
+    // A pipe would never end.
+    if (!QFileInfo(file).isFile() || LeadsOverForeignLink(file.fileName()) || !file.open(QIODevice::ReadOnly))
+        return {};
+    return file.readAll();
+}
+
+bool mdWriteStateFile(const QString &name, const QByteArray &content)
+{
+    if (!MakeStateFolder() || LeadsOverForeignLink(pathOf(name)))
+        return false;
+    QSaveFile file(pathOf(name));
+    return file.open(QIODevice::WriteOnly) && file.setPermissions(QFile::ReadOwner | QFile::WriteOwner)
+        && file.write(content) == content.size() && file.commit();
+}
+
+void mdSetStateFileAside(const QString &name)
+{
+    const QString aside = pathOf(name) + QStringLiteral(".broken");
+    QFile::remove(aside);
+    QFile::rename(pathOf(name), aside);
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QPixmap>
+#include <QRectF>
+
+class QPainter;
+
+/// How grave something is, as a sign.
+enum class Sign { Error, Warning, Note };
+
+/// Draws the sign into the middle of the rectangle, as large as its shorter side.
+void mdPaintSign(QPainter &painter, const QRectF &rectangle, Sign sign);
+
+/// The sign as a picture for a label on a screen of that scale.
+QPixmap mdSignPixmap(Sign sign, int side, double scale);

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "controls/oStripItem.h"
+
+/// How much of a limit is taken, as the strip of totals shows it.
+struct clsStripLimit {
+    enum clsState { Plenty, Near, Over, Failed };
+
+    clsState state = Plenty;
+    double share = 0; ///< of the limit; 1 is all of it
+    QString figures; ///< "9,457.12 of 12,000.00"
+    QString words; ///< the same in a sentence, or why the costs can't be computed
+};
+
+/// A thin bar that shows how much of the costs limit is taken, with its figures above it.
+class oStripLimit final : public oStripItem {
+    Q_OBJECT
+
+public:
+    /// How much of its words there is room for.
+    enum class clsForm {
+        WholeCaption, ///< the caption stands before the bar
+        ShortCaption, ///< it stands over the bar, where there is room beside the figures
+        BarOnly,
+    };
+
+    using oStripItem::oStripItem;
+
+    void setLimit(const clsStripLimit &limit);
+    const clsStripLimit &Limit() const { return m_limit; }
+    void setForm(clsForm form);
+    clsForm Form() const { return m_form; }
+    QString Words() const override;
+
+    QSize sizeHint() const override;
+    /// The width in a form that it doesn't have now.
+    int widthIn(clsForm form) const;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void paintFigures(QPainter &painter, const QRect &line) const;
+    void paintBar(QPainter &painter, const QRectF &bar) const;
+
+    clsStripLimit m_limit;
+    clsForm m_form = clsForm::ShortCaption;
+};

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "controls/oStripLimit.h"
+
+#include <optional>
+#include <vector>
+
+class oStripFigure;
+
+/// A figure that the strip is to show.
+struct clsStripTotal {
+    QString key; ///< by which it is known when it is chosen
+    QString words;
+    QString figure; ///< as it is printed
+    QString failure {}; ///< why it can't be computed; empty where it can
+    /// What gives way first where the strip is too narrow.
+    enum clsPlace { Stays, GoesIntoOther, GoesLast } place = Stays;
+    bool strong = false;
+    bool standsApart = false; ///< behind the line
+};
+
+/// The totals of the claim, in one line above the footer: words, figures, and how much of the costs limit is taken. It
+/// computes nothing and opens nothing: it says which figure was chosen. It is one stop of the Tab key, and Left and
+/// Right go from figure to figure.
+class oTotalsStrip : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit oTotalsStrip(QWidget *parent = nullptr);
+
+    /// Shows these, in their order; `other` stands for those that go into it while there is no room for them.
+    void setTotals(const std::vector<clsStripTotal> &totals, const clsStripTotal &other);
+    /// Shows no totals, for a claim that is no more.
+    void Clear();
+    void setLimit(const std::optional<clsStripLimit> &limit);
+    /// Saves on the height of a low window.
+    void setLow(bool low);
+
+    /// The figures that show, in their order, as words and figure.
+    QStringList Shown() const;
+    /// The item of a key; nothing where it does not show.
+    oStripItem *Item(const QString &key) const;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+    static constexpr char LimitKey[] = "limit";
+
+signals:
+    void Chosen(const QString &key);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    struct clsForm;
+    struct clsFigure {
+        oStripFigure *figure;
+        clsStripTotal::clsPlace place;
+        bool apart;
+        bool isOther;
+    };
+
+    oStripItem *prepared(oStripItem *item);
+    void show(const clsStripTotal &total, size_t place, bool isOther);
+    void layOut();
+    int widthIn(const clsForm &form) const;
+    bool shows(const clsFigure &figure, const clsForm &form) const;
+    void placeItems(const clsForm &form);
+    std::vector<oStripItem *> shownItems() const;
+    void move(const oStripItem *from, int steps);
+    void setTabStop(const QWidget *stop);
+
+    std::vector<clsFigure> m_figures;
+    oStripLimit *m_limit;
+    bool m_hasLimit = false;
+    bool m_low = false;
+    int m_line = -1; ///< where the line before the figures apart stands
+};

@@ -1,0 +1,115 @@
+#include "editors/mdWayTo.h"
+
+#include "controls/oContentSwitcher.h"
+#include "controls/oSGrid.h"
+#include "editors/frmSection.h"
+#include "editors/mdEnterField.h"
+#include "editors/mdScreenControls.h"
+#include "formdata/clsClaimPlace.h"
+#include "formdata/clsZR3Form.h"
+#include "formdata/mdClaimLists.h"
+#include "formdata/mdGlobals.h"
+
+#include <QApplication>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace {
+
+/// A field that is made of several parts names all their properties; one that chooses an item of the claim stands for
+/// the property that holds its identity.
+bool isFieldOf(const clsScreenField &field, const QString &property)
+{
+    QStringList members = mdMemberOf(*field.row).split(u' ');
+    const QString control = QString::fromUtf8(field.row->control);
+    if (control.startsWith(u'o')) // one of our own, which has a shorter prefix
+        members << control.mid(1);
+    return std::any_of(members.begin(), members.end(),
+        [&](const QString &member) { return member == property || member + QStringLiteral("UniqueID") == property; });
+}
+
+void openPageOf(const frmSection &screen, const clsScreenField &field)
+{
+    if (field.page > 0)
+        screen.Switcher().SwitchTo(field.page);
+}
+
+void enterProperty(const frmSection &screen, const QString &property)
+{
+    for (const clsScreenField &field : screen.Fields())
+        if (!property.isEmpty() && mdIsControl(*field.row) && isFieldOf(field, property)) {
+            openPageOf(screen, field);
+            mdEnterField(*field.control);
+            return;
+        }
+}
+
+/// The column of a list that shows a property, or its first.
+int columnOf(const clsItemList &list, const QString &property)
+{
+    for (size_t i = 0; i < list.columns.size(); ++i)
+        if (property == QLatin1String(list.columns[i].property))
+            return int(i) + 1;
+    return 1;
+}
+
+/// The element of an item of the claim; nothing where there is none of that order.
+pugi::xml_node elementOf(const clsClaimList &list, int order)
+{
+    const clsXMLRecord &claim = *Form;
+    for (const pugi::xml_node item : claim.XMLNode().child(list.element).children())
+        if (XMLDecodeText(item.child("orderid").child_value()).toInt() == order)
+            return item;
+    return {};
+}
+
+/// The number of an item in a grid, 0 for one that isn't there.
+int indexOf(const oSGrid &grid, pugi::xml_node element)
+{
+    for (const auto &item : grid.ItemCollection())
+        if (std::as_const(*item).XMLNode() == element)
+            return item->Index;
+    return 0;
+}
+
+/// As a double click on the item's row does. The editor runs in an event loop of its own, in which its field is
+/// entered.
+void activate(frmSection &screen, oSGrid &grid, const clsItemList &list, int index, const QString &property)
+{
+    const int column = columnOf(list, property);
+    grid.setFocus(Qt::OtherFocusReason);
+    grid.SelectItem(index);
+    grid.SelectColumn(column);
+    QTimer::singleShot(0, &screen, [below = &screen, property] {
+        const auto *editor = qobject_cast<frmSection *>(QApplication::activeModalWidget());
+        if (editor && editor != below)
+            enterProperty(*editor, property);
+    });
+    emit grid.RowActivated(index, grid.SelectedRow(), column);
+}
+
+void enterItem(frmSection &screen, pugi::xml_node element, const QString &property)
+{
+    for (const clsScreenField &field : screen.Fields()) {
+        auto *grid = qobject_cast<oSGrid *>(field.control);
+        const int index = grid ? indexOf(*grid, element) : 0;
+        if (index == 0)
+            continue;
+        openPageOf(screen, field);
+        return activate(screen, *grid, *field.row->items, index, property);
+    }
+}
+
+} // namespace
+
+std::function<void(frmSection &screen)> mdWayTo(const clsClaimPlace &place)
+{
+    const clsClaimList *list = place.Item > 0 && Form ? mdClaimList(place.List) : nullptr;
+    if (!list)
+        return [property = place.Property](frmSection &screen) { enterProperty(screen, property); };
+    return [element = elementOf(*list, place.Item), property = place.Property](frmSection &screen) {
+        if (element)
+            enterItem(screen, element, property);
+    };
+}

@@ -1,0 +1,51 @@
+#include "formdata/mdCostsLimit.h"
+
+#include "base/clsRunTimeError.h"
+#include "formdata/clsZR3Form.h"
+#include "formdata/mdXMLTemplate.h"
+
+namespace {
+
+constexpr char Element[] = "costslimit";
+
+/// As a plain record: the lists need not forget what they know of their elements.
+pugi::xml_node claimOf(const clsZR3Form &form)
+{
+    const clsXMLRecord &claim = form;
+    return claim.XMLNode();
+}
+
+std::optional<Money> amountOf(const QString &text)
+{
+    try {
+        return text.isEmpty() ? Money() : MoneyFromText(text);
+    } catch (const clsRunTimeError &) {
+        return {};
+    }
+}
+
+} // namespace
+
+QString mdStoredCostsLimit(const clsZR3Form &form)
+{
+    return XMLDecodeText(claimOf(form).child(Element).child_value());
+}
+
+std::optional<Money> mdCostsLimit(const clsZR3Form &form)
+{
+    const std::optional<Money> limit = amountOf(mdStoredCostsLimit(form));
+    return limit && *limit > Money() ? limit : std::nullopt;
+}
+
+void mdSetCostsLimit(clsZR3Form &form, const QString &limit)
+{
+    pugi::xml_node claim = claimOf(form);
+    if (amountOf(limit) == Money()) {
+        while (claim.remove_child(Element)) { }
+        return;
+    }
+    pugi::xml_node element = claim.child(Element);
+    if (!element)
+        element = claim.append_copy(mdXMLTemplate("xmlZR3CostsLimit"));
+    XMLSetContent(element, XMLEncodeText(limit).constData());
+}

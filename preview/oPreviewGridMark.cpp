@@ -1,0 +1,108 @@
+#include "preview/oPreviewGrid.h"
+
+#include <QHeaderView>
+#include <QItemSelectionModel>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <cstdlib>
+
+// The row of the preview that the user marks to ask about its figures.
+
+int oPreviewGrid::RowOf(clsPreviewOrigin origin) const
+{
+    for (int row = 1; row <= Rows() && origin.kind != clsPreviewOrigin::Nothing; ++row)
+        if (Origin(row) == origin)
+            return row;
+    return 0;
+}
+
+/// The first row with figures at or behind a row, in a direction; 0 for none.
+int oPreviewGrid::figuresFrom(int row, int direction) const
+{
+    for (; row >= 1 && row <= Rows(); row += direction)
+        if (Origin(row).kind != clsPreviewOrigin::Nothing)
+            return row;
+    return 0;
+}
+
+void oPreviewGrid::MarkRow(int row)
+{
+    m_marked = row >= 1 && row <= Rows() && Origin(row).kind != clsPreviewOrigin::Nothing ? row : 0;
+    m_markedOrigin = m_marked ? Origin(m_marked) : clsPreviewOrigin();
+    m_painter.setMarkedRow(m_marked);
+    // What is current is what a screen reader reads.
+    selectionModel()->setCurrentIndex(
+        m_marked ? m_model->index(m_marked - 1, 0) : QModelIndex(), QItemSelectionModel::NoUpdate);
+    if (m_marked)
+        BringIntoView(m_marked, 1);
+    viewport()->update();
+}
+
+void oPreviewGrid::MoveMark(int rows)
+{
+    int to = m_marked;
+    for (int step = 0; step < std::abs(rows); ++step) {
+        const int next = figuresFrom(to + (rows < 0 ? -1 : 1), rows < 0 ? -1 : 1);
+        if (!next)
+            break;
+        to = next;
+    }
+    if (to)
+        MarkRow(to);
+}
+
+/// After a drawing: the mark stays with what it was on, wherever that stands now.
+void oPreviewGrid::keepMark()
+{
+    m_pointed = 0;
+    m_marked = RowOf(m_markedOrigin);
+    m_markedOrigin = m_marked ? m_markedOrigin : clsPreviewOrigin();
+    m_painter.setMarkedRow(m_marked);
+}
+
+bool oPreviewGrid::markByKey(int key)
+{
+    const int page = std::max(1, verticalScrollBar()->pageStep() / verticalScrollBar()->singleStep());
+    switch (key) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        m_pointed = 0;
+        if (m_marked)
+            emit WhyAsked();
+        else
+            MarkRow(figuresFrom(std::max(1, FirstRowInView()), 1));
+        return m_marked;
+    case Qt::Key_Escape:
+        if (!m_marked)
+            return false;
+        MarkRow(0);
+        return true;
+    default: break;
+    }
+    if (!m_marked)
+        return false;
+    switch (key) {
+    case Qt::Key_Up: MoveMark(-1); return true;
+    case Qt::Key_Down: MoveMark(1); return true;
+    case Qt::Key_PageUp: MoveMark(-page); return true;
+    case Qt::Key_PageDown: MoveMark(page); return true;
+    case Qt::Key_Home: MarkRow(figuresFrom(1, 1)); return true;
+    case Qt::Key_End: MarkRow(figuresFrom(Rows(), -1)); return true;
+    default: return false;
+    }
+}
+
+int oPreviewGrid::AskedRow() const
+{
+    if (m_pointed)
+        return m_pointed;
+    return m_marked ? m_marked : figuresFrom(std::max(1, FirstRowInView()), 1);
+}
+
+QRect oPreviewGrid::PlaceOf(int row) const
+{
+    const std::vector<int> edges = columnEdges();
+    const int top = verticalHeader()->sectionViewportPosition(row - 1);
+    return QRect(edges.front(), top, edges.back() - edges.front(), RowHeight(row)).translated(viewport()->pos());
+}

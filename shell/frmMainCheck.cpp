@@ -1,0 +1,148 @@
+#include "shell/frmMain.h"
+
+#include "formdata/clsClaimPlace.h"
+#include "formdata/clsZR3Form.h"
+#include "formdata/mdGlobals.h"
+#include "preview/mdPreview.h"
+#include "preview/oFormPages.h"
+#include "preview/oPreviewGrid.h"
+#include "shell/clsCheckState.h"
+#include "shell/mdOpenPanels.h"
+#include "shell/oCheckList.h"
+#include "shell/oCheckPanel.h"
+#include "shell/oPreviewArea.h"
+
+#include <QAction>
+#include <QKeyEvent>
+#include <QShortcut>
+#include <QStackedLayout>
+
+// What the main window does with the findings of the check.
+
+namespace {
+
+constexpr int NumberColumn = 1;
+
+/// The row of the preview that bears the number; 0 where there is none. The captions have none.
+int rowOfNumber(const oPreviewGrid &grid, int number)
+{
+    const QString text = QString::number(number);
+    for (int row = 1; row <= grid.Rows(); ++row)
+        if (grid.Text(row, NumberColumn) == text)
+            return row;
+    return 0;
+}
+
+/// The number of a schedule item in a preview; 0 where it has none.
+int numberOf(int orderID, clsPreviewKind kind)
+{
+    if (kind == clsPreviewKind::AdditionalInformation)
+        return orderID;
+    for (const auto &item : Form->ScheduleOfTimeItemsForExportCollection())
+        if (item->OrderID() == orderID)
+            return item->SOTItemNumber;
+    return 0;
+}
+
+} // namespace
+
+void frmMain::buildCheck()
+{
+    auto *previews = new QWidget;
+    previews->setLayout(m_previews);
+    m_checkPanel = new oCheckPanel(*m_check);
+    m_area = new oPreviewArea(previews, m_checkPanel);
+    connect(m_checkPanel, &oCheckPanel::CloseAsked, this, &frmMain::CloseCheck);
+    connect(m_checkPanel->List(), &oCheckList::Opened, this, &frmMain::openFinding);
+    connect(m_checkPanel->List(), &oCheckList::ChosenChanged, this, &frmMain::tintChosen);
+    connect(m_checkPanel->List(), &oCheckList::AsideChanged, m_check, &clsCheckState::PutAside);
+    // The keys of the main window alone: on screens the function keys choose fee earners.
+    for (const auto &[key, forward] :
+        {std::pair(QKeySequence(Qt::Key_F8), true), std::pair(QKeySequence(Qt::SHIFT | Qt::Key_F8), false)})
+        connect(new QShortcut(key, this), &QShortcut::activated, this,
+            [this, toNext = forward] { StepThroughCheck(toNext); });
+}
+
+void frmMain::openCheck(bool open)
+{
+    if (open == m_area->isPanelOpen())
+        return;
+    m_area->setPanelOpen(open);
+    if (m_loaded && !showsFormPages() && !m_area->panelLiesOver()) {
+        mdFitPreview();
+        m_drawnWidth = sgPreview->width();
+    }
+    tintChosen();
+}
+
+void frmMain::showCheck()
+{
+    if (!m_area->isPanelOpen()) {
+        openCheck(true);
+        mdKeepPanelOpen(m_checkPanel->objectName(), true);
+    }
+    renewCheck();
+}
+
+void frmMain::CheckClaim()
+{
+    showCheck();
+    m_checkPanel->TakeFocus();
+}
+
+void frmMain::CloseCheck()
+{
+    const bool hadFocus = m_checkPanel->isAncestorOf(focusWidget());
+    openCheck(false);
+    mdKeepPanelOpen(m_checkPanel->objectName(), false);
+    m_check->Postpone();
+    if (hadFocus && showsFormPages())
+        m_formPages->TakeFocus();
+    else if (hadFocus)
+        sgPreview->setFocus(Qt::OtherFocusReason);
+}
+
+void frmMain::renewCheck()
+{
+    if (m_area->isPanelOpen() && Form)
+        m_check->RenewPrint(false);
+}
+
+void frmMain::StepThroughCheck(bool forward)
+{
+    showCheck();
+    m_checkPanel->List()->Step(forward);
+    m_checkPanel->TakeFocus();
+}
+
+void frmMain::openFinding(int finding)
+{
+    const clsFinding found = m_check->Findings()[size_t(finding)].Finding;
+    // What is set by an entry of the menu has no tab.
+    if (found.Rule == QLatin1String("costs-limit")) {
+        if (auto *entry = findChild<QAction *>(QStringLiteral("mnuCostsLimit")))
+            entry->trigger();
+        return;
+    }
+    OpenPlace({found.Screen, found.List, found.Item, found.Property});
+}
+
+void frmMain::tintChosen()
+{
+    const int chosen = m_area->isPanelOpen() ? m_checkPanel->List()->Chosen() : -1;
+    int number = 0;
+    if (chosen >= 0 && Form) {
+        const clsFinding &finding = m_check->Findings()[size_t(chosen)].Finding;
+        if (finding.List == QLatin1String("schedule"))
+            number = numberOf(finding.Item, m_previewKind);
+    }
+    sgPreview->setTintedRow(number > 0 ? rowOfNumber(*sgPreview, number) : 0);
+}
+
+void frmMain::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape && m_area->panelLiesOver())
+        CloseCheck();
+    else
+        QMainWindow::keyPressEvent(event);
+}

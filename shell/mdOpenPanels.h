@@ -1,0 +1,8 @@
+#pragma once
+
+#include <QString>
+
+// Which panels of the main window the user has left open.
+
+bool mdIsPanelLeftOpen(const QString &panel);
+void mdKeepPanelOpen(const QString &panel, bool open);

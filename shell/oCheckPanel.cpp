@@ -1,0 +1,151 @@
+#include "shell/oCheckPanel.h"
+
+#include "controls/mdIcons.h"
+#include "controls/mdLine.h"
+#include "controls/mdTheme.h"
+#include "controls/oCustomButton.h"
+#include "shell/clsCheckState.h"
+#include "shell/oCheckList.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QStackedLayout>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int Width = 360;
+constexpr int HeadingHeight = 44;
+constexpr int TickSide = 24;
+
+QLabel *label(const char *name, const QColor &colour, QWidget *parent)
+{
+    auto *result = new QLabel(parent);
+    result->setObjectName(QString::fromLatin1(name));
+    result->setTextFormat(Qt::PlainText);
+    QPalette palette;
+    palette.setColor(QPalette::WindowText, colour);
+    result->setPalette(palette);
+    return result;
+}
+
+} // namespace
+
+oCheckPanel::oCheckPanel(clsCheckState &state, QWidget *parent)
+    : QWidget(parent)
+    , m_state(state)
+    , lblCaption(label("lblCheckCaption", Theme::Ink, this))
+    , lblCounts(label("lblCheckCounts", Theme::Ink2, this))
+    , lblTrouble(label("lblCheckTrouble", Theme::Ink2, this))
+    , m_nothing(new QWidget(this))
+    , lblNothing(label("lblCheckNothing", Theme::Ink2, m_nothing))
+    , cmdClose(new oCustomButton(this))
+    , m_list(new oCheckList(this))
+    , m_pages(new QStackedLayout)
+{
+    setObjectName(QStringLiteral("oCheckPanel"));
+    setAccessibleName(QStringLiteral("Check Claim"));
+    build();
+    takeFonts();
+    connect(&m_state, &clsCheckState::Changed, this, &oCheckPanel::show);
+    connect(cmdClose, &oCustomButton::Click, this, &oCheckPanel::CloseAsked);
+    show();
+}
+
+void oCheckPanel::build()
+{
+    lblCaption->setText(QStringLiteral("Check Claim"));
+    lblTrouble->setWordWrap(true);
+    lblTrouble->setContentsMargins(Theme::Space16, Theme::Space4, Theme::Space16, Theme::Space8);
+    cmdClose->setObjectName(QStringLiteral("cmdCloseCheck"));
+    cmdClose->setLook(oCustomButton::Look::Arrow);
+    cmdClose->setGlyph(Glyph::Cross);
+    cmdClose->setAccessibleName(QStringLiteral("Close the check"));
+    cmdClose->setToolTip(QStringLiteral("Close"));
+
+    auto *heading = new QHBoxLayout;
+    heading->setContentsMargins(Theme::Space16, 0, Theme::Space8, 0);
+    heading->setSpacing(Theme::Space12);
+    heading->addWidget(lblCaption);
+    heading->addWidget(lblCounts, 1);
+    heading->addWidget(cmdClose);
+    auto *headingArea = new QWidget(this);
+    headingArea->setLayout(heading);
+    headingArea->setFixedHeight(Theme::scaled(HeadingHeight));
+
+    lblNothing->setAlignment(Qt::AlignHCenter);
+    lblNothing->setWordWrap(true);
+    auto *tick = new QLabel(m_nothing);
+    const int side = Theme::scaled(TickSide);
+    tick->setPixmap(mdGlyphIcon(Glyph::Tick, Theme::Ink2).pixmap(QSize(side, side), devicePixelRatio()));
+    tick->setAlignment(Qt::AlignHCenter);
+    tick->setObjectName(QStringLiteral("lblCheckTick"));
+    auto *nothing = new QVBoxLayout(m_nothing);
+    nothing->addStretch(1);
+    nothing->addWidget(tick);
+    nothing->addWidget(lblNothing);
+    nothing->addStretch(1);
+
+    m_pages->addWidget(m_list);
+    m_pages->addWidget(m_nothing);
+    auto *all = new QVBoxLayout(this);
+    all->setContentsMargins(1, 0, 0, 0);
+    all->setSpacing(0);
+    all->addWidget(headingArea);
+    all->addWidget(mdHorizontalLine(this));
+    all->addWidget(lblTrouble);
+    all->addLayout(m_pages, 1);
+    // A reader goes from the list to what closes it, and not the other way.
+    setTabOrder(m_list, cmdClose);
+}
+
+void oCheckPanel::takeFonts()
+{
+    lblCaption->setFont(Theme::font(0, true));
+    for (QLabel *small : {lblCounts, lblTrouble, lblNothing})
+        small->setFont(Theme::font(-1));
+}
+
+void oCheckPanel::show()
+{
+    m_list->ShowFindings(m_state.Findings(), m_state.Groups());
+    const QString counts = mdCountsInWords(m_state.Groups(), true);
+    lblCounts->setText(counts);
+    lblTrouble->setText(m_state.Trouble());
+    lblTrouble->setVisible(!m_state.Trouble().isEmpty());
+    const bool failed = !m_state.Failure().isEmpty();
+    lblNothing->setText(failed ? m_state.Failure() : QStringLiteral("Nothing found."));
+    findChild<QLabel *>(QStringLiteral("lblCheckTick"))->setVisible(!failed);
+    const bool hadFocus = isAncestorOf(focusWidget()) || m_list->hasFocus();
+    m_pages->setCurrentWidget(m_state.Groups().empty() ? m_nothing : static_cast<QWidget *>(m_list));
+    if (hadFocus)
+        TakeFocus();
+    m_list->setAccessibleDescription(counts.isEmpty() ? lblNothing->text() : counts);
+}
+
+void oCheckPanel::TakeFocus()
+{
+    QWidget *first = m_state.Groups().empty() ? static_cast<QWidget *>(cmdClose) : m_list;
+    first->setFocus(Qt::OtherFocusReason);
+}
+
+QSize oCheckPanel::sizeHint() const
+{
+    return {Theme::scaled(Width), Theme::scaled(Width)};
+}
+
+void oCheckPanel::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        takeFonts();
+}
+
+void oCheckPanel::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), Theme::Paper);
+    mdPaintLine(painter, rect(), Qt::LeftEdge | Qt::TopEdge, Theme::Line);
+}

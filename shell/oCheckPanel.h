@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+class QStackedLayout;
+class clsCheckState;
+class oCheckList;
+class oCustomButton;
+
+/// What the check has found, beside the preview: a heading with the counts, and the list or, where there is nothing,
+/// the word for it.
+class oCheckPanel : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit oCheckPanel(clsCheckState &state, QWidget *parent = nullptr);
+
+    oCheckList *List() const { return m_list; }
+    /// Gives the focus to the list, or to the closing button while there is no list.
+    void TakeFocus();
+
+    QSize sizeHint() const override;
+
+signals:
+    void CloseAsked();
+
+protected:
+    void changeEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void build();
+    void takeFonts();
+    void show();
+
+    clsCheckState &m_state;
+    QLabel *lblCaption;
+    QLabel *lblCounts;
+    QLabel *lblTrouble;
+    QWidget *m_nothing;
+    QLabel *lblNothing;
+    oCustomButton *cmdClose;
+    oCheckList *m_list;
+    QStackedLayout *m_pages;
+};

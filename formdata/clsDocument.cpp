@@ -2,6 +2,7 @@
 
 #include "base/clsRunTimeError.h"
 #include "formdata/clsZR3Form.h"
+#include "formdata/mdXMLChanges.h"
 
 #include <QFileInfo>
 
@@ -18,11 +19,22 @@ void clsDocument::replaceForm()
 void clsDocument::takeAsClean()
 {
     cleanXML = form->XMLOutput();
+    m_compared = {form.get(), XMLChanges::count(), cleanXML, false};
 }
 
 bool clsDocument::isDirty() const
 {
-    return form && !form->XMLOutputIs(cleanXML);
+    if (!form)
+        return false;
+    if (!isCompared())
+        m_compared = {form.get(), XMLChanges::count(), cleanXML, !form->XMLOutputIs(cleanXML)};
+    return m_compared.isDirty;
+}
+
+bool clsDocument::isCompared() const
+{
+    return m_compared.form == form.get() && form->CountsChanges() && m_compared.changes == XMLChanges::count()
+        && m_compared.clean.constData() == cleanXML.constData(); // the same text, not one like it
 }
 
 void clsDocument::givePath(const QString &path)

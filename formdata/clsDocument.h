@@ -48,6 +48,16 @@ public:
     } lastCopy;
 
 private:
+    /// True when nothing has changed since the claim was last compared with its clean text.
+    bool isCompared() const;
+
+    /// What was compared last, which takes long with a long claim, and the answer.
+    mutable struct {
+        const clsZR3Form *form = nullptr;
+        quint64 changes = 0;
+        QString clean;
+        bool isDirty = false;
+    } m_compared;
     /// The path as the claim holds it, and as it was given. They differ where the code page lacks a character.
     struct {
         QString held;

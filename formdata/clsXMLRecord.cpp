@@ -89,6 +89,7 @@ void clsXMLField::setContent(const char *content)
     if (std::strcmp(found.child_value(), content) == 0)
         return;
     XMLSetContent(found, content);
+    XMLChanges::note();
     if (record().m_keysChanged && property().key)
         *record().m_keysChanged = true;
 }
@@ -141,7 +142,7 @@ void clsXMLField::writeLong(int value)
     setContent(QByteArray::number(value).constData());
 }
 
-clsXMLField &clsXMLRecord::fieldAt(size_t place)
+inline clsXMLField &clsXMLRecord::fieldAt(size_t place) // which a walk over a claim asks for by the hundred thousand
 {
     return *reinterpret_cast<clsXMLField *>(reinterpret_cast<char *>(this) + m_table->rows()[place].offset);
 }
@@ -171,6 +172,7 @@ void clsXMLRecord::complete(const char *templateName)
         if (isField ? bool(fieldAt(wanted.property).m_element) : bool(m_node.child(wanted.element.name())))
             continue;
         const pugi::xml_node added = m_node.append_copy(wanted.element);
+        XMLChanges::note();
         if (isField)
             fieldAt(wanted.property).m_element = added;
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "formdata/mdFetch.h"
+#include "formdata/mdXMLChanges.h"
 #include "formdata/mdXMLControl.h"
 
 #include <QString>
@@ -148,6 +149,7 @@ public:
     pugi::xml_node XMLNode() const
     {
         forgetElements();
+        XMLChanges::noteHandOut();
         return m_node;
     }
     QString XMLOutput() const { return XMLElementOutput(m_node); }

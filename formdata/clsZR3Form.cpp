@@ -7,6 +7,7 @@
 #include "base/mdSetProgress.h"
 #include "base/mdTextDocumentHandling.h"
 #include "formdata/clsOnBill.h"
+#include "formdata/mdXMLChanges.h"
 #include "formdata/mdXMLGenerateNodes.h"
 #include "formdata/mdXMLTemplate.h"
 
@@ -120,6 +121,7 @@ bool clsZR3Form::LoadXML(const QString &filePath)
 void clsZR3Form::takeRoot(const clsXMLElement &root)
 {
     m_root = root;
+    m_taken = XMLChanges::note();
     bind(root.node());
     LoadElements();
 }

@@ -71,6 +71,8 @@ public:
     bool SaveXML(const QString &filePath) const;
     /// Becomes a copy of another claim, which stays as it is whatever is done to this one.
     void takeCopyOf(const clsZR3Form &other);
+    /// True when no element of the claim was handed out, so that each change to it is counted.
+    bool CountsChanges() const { return XMLChanges::lastHandOut() < m_taken; }
     /// Rebuilds every collection and hands every section its element.
     void LoadElements();
 
@@ -189,6 +191,7 @@ private:
 
     clsXMLLong<"IDCounter"> m_idCounter {*this};
     clsXMLElement m_root;
+    quint64 m_taken = 0; ///< the count of changes when the root was taken
     ScheduleOfTimeItemsList::Collection m_forExport;
     ScheduleOfTimeItemsList::Collection m_additional;
     FASItemsList::Collection m_boltOns;

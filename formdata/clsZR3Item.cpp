@@ -11,6 +11,7 @@ void clsZR3Item::takeOver(pugi::xml_node element)
 void clsZR3Item::appendTo(pugi::xml_node listNode)
 {
     bindAndLearn(listNode.append_copy(mdXMLTemplate(m_templateName)));
+    XMLChanges::note();
 }
 
 void clsZR3Item::detach()
@@ -19,6 +20,7 @@ void clsZR3Item::detach()
     m_own = std::make_unique<pugi::xml_document>();
     bindAndLearn(m_own->append_copy(listed));
     listed.parent().remove_child(listed);
+    XMLChanges::note();
     reportKeyWritesTo(nullptr);
 }
 

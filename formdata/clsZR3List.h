@@ -3,6 +3,7 @@
 #include "base/clsRunTimeError.h"
 #include "formdata/mdFetch.h"
 #include "formdata/mdReIndexCollection.h"
+#include "formdata/mdXMLChanges.h"
 #include "formdata/mdXMLControl.h"
 
 #include <QHash>
@@ -30,6 +31,7 @@ public:
     pugi::xml_node XMLNode() const
     {
         m_handedOut = true;
+        XMLChanges::noteHandOut();
         for (const Pointer &item : m_items)
             item->forgetElements();
         return m_node;

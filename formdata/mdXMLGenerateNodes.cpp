@@ -1,5 +1,7 @@
 #include "formdata/mdXMLGenerateNodes.h"
 
+#include "formdata/mdXMLChanges.h"
+
 #include <cstring>
 
 void GenerateNodes(pugi::xml_node node, const QString &templateXML)
@@ -26,6 +28,7 @@ void GenerateNodes(pugi::xml_node node, pugi::xml_node templateRoot)
             expected = found.next_sibling();
         } else {
             node.append_copy(wanted);
+            XMLChanges::note();
         }
     }
 }

@@ -124,6 +124,32 @@ TEST_F(DocumentCommands, AnyWriteToTheTreeIsAChange)
     EXPECT_TRUE(FormIsDirty()) << "capitals count";
 }
 
+TEST_F(DocumentCommands, EachKindOfChangeIsSeenThoughTheClaimWasComparedJustBefore)
+{
+    pugi::xml_node handedOut;
+    std::unique_ptr<clsZR3Form> other;
+    const std::pair<const char *, std::function<void()>> changes[] = {
+        {"a field of the claim", [] { Form->Notes = QStringLiteral("other"); }},
+        {"a field of a section", [] { Form->ClientDetails.Surname = QStringLiteral("Other"); }},
+        {"a field of an item", [] { Form->ScheduleOfTimeItemsCollection()[0]->Code = QStringLiteral("ZZ"); }},
+        {"a new item", [] { Form->AddDisbursement(); }},
+        {"an item that is deleted", [] { Form->DeleteScheduleOfTimeItem(1); }},
+        {"an element that was handed out", [&] { handedOut.child("notes").text().set("other"); }},
+        {"another clean text", [] { CleanXML += u' '; }},
+        {"another claim", [&] { Form.swap(other); }},
+    };
+    for (const auto &[words, change] : changes) {
+        savedClaim();
+        if (QLatin1String(words) == QLatin1String("an element that was handed out"))
+            handedOut = Form->XMLNode();
+        other = std::make_unique<clsZR3Form>();
+        EXPECT_FALSE(FormIsDirty());
+        change();
+        EXPECT_TRUE(FormIsDirty()) << words;
+        other.reset();
+    }
+}
+
 TEST_F(DocumentCommands, TheQuestionIsAnsweredWithNo)
 {
     NewForm(true);

@@ -49,9 +49,9 @@ oCheckPanel::oCheckPanel(clsCheckState &state, QWidget *parent)
     setAccessibleName(QStringLiteral("Check Claim"));
     build();
     takeFonts();
-    connect(&m_state, &clsCheckState::Changed, this, &oCheckPanel::show);
+    connect(&m_state, &clsCheckState::Changed, this, &oCheckPanel::showFindings);
     connect(cmdClose, &QAbstractButton::clicked, this, &oCheckPanel::CloseAsked);
-    show();
+    showFindings();
 }
 
 void oCheckPanel::build()
@@ -105,7 +105,7 @@ void oCheckPanel::takeFonts()
         small->setFont(Theme::font(-1));
 }
 
-void oCheckPanel::show()
+void oCheckPanel::showFindings()
 {
     m_list->ShowFindings(m_state.Findings(), m_state.Groups());
     const QString counts = mdCountsInWords(m_state.Groups(), true);

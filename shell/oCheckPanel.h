@@ -33,7 +33,7 @@ protected:
 private:
     void build();
     void takeFonts();
-    void show();
+    void showFindings();
     void showCounts();
 
     clsCheckState &m_state;

@@ -70,6 +70,7 @@ void clsCheckState::Forget()
     m_findings.clear();
     m_groups.clear();
     m_failure.clear();
+    m_trouble.clear();
     m_aside.clear();
     m_hasAside = false;
     emit Changed();

@@ -318,8 +318,9 @@ TEST_F(MainWindow, TheSheetStandsInTheMiddleDownToTheFooter)
     window->resize(1600, 900);
     QTest::qWait(10);
     const auto &area = control<QWidget>(*window, "pctPreview");
-    EXPECT_EQ(area.geometry().bottom() + 1, window->footer()->geometry().top());
-    EXPECT_EQ(row("tbSubSection").geometry().bottom() + 1, area.geometry().top());
+    const int top = area.mapTo(window->centralWidget(), QPoint()).y();
+    EXPECT_EQ(top + area.height(), window->footer()->geometry().top());
+    EXPECT_EQ(row("tbSubSection").geometry().bottom() + 1, top);
     EXPECT_NEAR(area.width() / 2.0, preview().geometry().center().x(), 1.0);
     EXPECT_EQ(area.height() - 1, preview().geometry().bottom());
     EXPECT_LE(preview().width(), Theme::scaled(1120));

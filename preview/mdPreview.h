@@ -9,5 +9,8 @@ void mdDrawPreview(clsPreviewKind kind);
 /// The automatic refresh: where the preferences ask for it, the same at the place to which the user had scrolled.
 void mdRefreshPreview(clsPreviewKind kind);
 
+/// The same whatever the preferences say, for a command that goes back or forth in the claim.
+void mdRedrawPreview(clsPreviewKind kind);
+
 /// Empties the grid, for a claim that is no more.
 void mdClearPreview();

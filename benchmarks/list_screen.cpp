@@ -1,6 +1,6 @@
 // What a user waits for on a screen with a long list: list_screen ITEMS. Opens the Schedule of Time of a claim of that
-// many items, adds one to it by the keyboard, and prints the milliseconds of each wait as JSON. A wait lasts from the
-// key, or the call that opens the screen, until what comes of it is painted and nothing is left to do.
+// many items, adds one to it by the keyboard, takes that back, and prints the milliseconds of each wait as JSON. A wait
+// lasts from the key, or the call that opens the screen, until what comes of it is painted and nothing is left to do.
 
 #include "benchmarks/mdMakeClaim.h"
 #include "controls/mdApplyTheme.h"
@@ -99,6 +99,7 @@ struct clsTimes {
     std::vector<double> open;
     std::vector<double> editor;
     std::vector<double> save;
+    std::vector<double> undo;
 };
 
 /// Opens the editor on a new item, fills it in and saves it.
@@ -156,6 +157,13 @@ void round(int items, clsTimes &times)
         addItem(*screen, times);
         if (grid.Rows() != items + 1 || grid.SelectedItemData() != items + 1)
             fail("The new item is not the one that is chosen in the list.");
+        clsPaintWatch undone("frmScheduleOfTime");
+        timer.start();
+        key(*screen, Qt::Key_Z, Qt::ControlModifier);
+        undone.wait();
+        times.undo.push_back(milliseconds(timer));
+        if (grid.Rows() != items)
+            fail("The new item was not taken back.");
     }
     Form.reset();
 }
@@ -181,7 +189,7 @@ int main(int argc, char **argv)
     clsTimes times;
     for (int i = 0; i < Repetitions; ++i)
         round(items, times);
-    std::printf("{\"open\": %.2f, \"editor\": %.2f, \"save\": %.2f}\n", median(times.open), median(times.editor),
-        median(times.save));
+    std::printf("{\"open\": %.2f, \"editor\": %.2f, \"save\": %.2f, \"undo\": %.2f}\n", median(times.open),
+        median(times.editor), median(times.save), median(times.undo));
     return 0;
 }

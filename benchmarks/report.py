@@ -239,15 +239,23 @@ def start_row(build):
         detail=f"without the splash's {SPLASH} ms; without a claim {empty:,.0f} ms")
 
 
-def screen_rows(build):
+def screen_rows(build, medians):
     """What a user waits for on a screen with a long list, as the clock has it."""
-    told = subprocess.run([build / "benchmarks" / "zr3-list-screen", str(SCREEN_ITEMS)], check=True, capture_output=True,
-                          text=True).stdout
-    times = json.loads(told)
+    def waits(items):
+        return json.loads(subprocess.run([build / "benchmarks" / "zr3-list-screen", str(items)], check=True,
+                                         capture_output=True, text=True).stdout)
+
+    times = waits(SCREEN_ITEMS)
     row(f"Open a list of {SCREEN_ITEMS:,} items, ms", times["open"], AT_ONCE, detail="to the painted screen")
     row("Add an item to it, ms", max(times["editor"], times["save"]), AT_ONCE,
         detail=f"the longer wait: {times['editor']:.0f} ms from Insert to the painted editor, {times['save']:.0f} ms from "
                f"Save to the painted list")
+    undo = medians[f"undoDelete/{ITEMS}"]
+    steps = medians[f"steps/{SCREEN_ITEMS}"]
+    row(f"Undo of one step, {ITEMS:,} items, ms", waits(ITEMS)["undo"], AT_ONCE,
+        detail=f"to the painted list; in the claim {undo['cpu_time']:.1f} ms for a delete that had renumbered all items, "
+               f"and {medians[f'takeStep/{ITEMS}']['cpu_time']:.1f} ms to take a step. 200 steps on "
+               f"{SCREEN_ITEMS:,} items: {steps['cpu_time'] / 200:.1f} ms each, {steps['bytes'] / 1e6:.1f} MB together")
 
 
 def machine():
@@ -275,7 +283,7 @@ def main(build):
         writer_row(build, form)
     memory_row(build)
     start_row(build)
-    screen_rows(build)
+    screen_rows(build, medians)
     widths = [max(len(line[i]) for line in rows) for i in range(3)]
     for line in rows:
         print("  ".join([line[0].ljust(widths[0]), line[1].rjust(widths[1]), line[2].ljust(widths[2]), line[3]]))

@@ -90,8 +90,7 @@ void clsItemChoice::showWhole()
 
 QString clsItemChoice::UniqueID() const
 {
-    const int index = SelectedIndex();
-    return Ticked() && index ? m_source.from.uniqueIDOf(index) : QString();
+    return Ticked() ? ChosenID() : QString();
 }
 
 void clsItemChoice::setUniqueID(const QString &uniqueID)
@@ -126,6 +125,19 @@ void clsItemChoice::fill()
     m_tick->setToolTip(items.empty() ? QString::fromUtf8(m_source.whyNoTick) : QString());
     if (SelectedIndex() != selected)
         emit Change();
+}
+
+QString clsItemChoice::ChosenID() const
+{
+    const int index = SelectedIndex();
+    return index ? m_source.from.uniqueIDOf(index) : QString();
+}
+
+void clsItemChoice::fillFor(const QString &uniqueID)
+{
+    m_list->setCurrentIndex(-1);
+    fill();
+    setUniqueID(uniqueID);
 }
 
 void clsItemChoice::load(const clsScreenRow &row, clsXMLRecord &record)

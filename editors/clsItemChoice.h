@@ -59,6 +59,10 @@ public:
 
     /// Reads the claim's items anew and keeps the choice.
     void fill();
+    /// The identity of the chosen item, ticked or not.
+    QString ChosenID() const;
+    /// Reads the claim's items anew and chooses the one of that identity, or none where there is no such item.
+    void fillFor(const QString &uniqueID);
 
     /// Copies the two properties of a record in and out: first the flag, then the identity. A row names them as its
     /// member, with a blank between; without a member they are those of the source.

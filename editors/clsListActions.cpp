@@ -9,9 +9,11 @@
 #include "editors/frmSection.h"
 #include "editors/mdConfirmDelete.h"
 #include "editors/mdEditItem.h"
+#include "editors/mdItemInShort.h"
 #include "formdata/clsXMLRecord.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
+#include "formdata/mdRunStep.h"
 #include "formdata/mdUniqueIDInUseInForm.h"
 
 #include <QMenu>
@@ -37,7 +39,7 @@ clsListActions::clsListActions(frmSection &screen, const clsItemList &list, oSGr
         connect(&m_grid, &oSGrid::DeletePressed, this, &clsListActions::deleteItem);
     if (m_list.editor)
         connect(&m_grid, &oSGrid::RowActivated, this, &clsListActions::editItem);
-    connect(&m_grid, &oSGrid::OrderChange, this, &clsListActions::tellChanged);
+    connect(&m_grid, &oSGrid::OrderChange, this, &clsListActions::tellMoved);
     if (!m_add)
         return;
     connect(m_add, &oCustomButton::Click, this, &clsListActions::addItem);
@@ -54,8 +56,10 @@ void clsListActions::buildMenu()
         if (action.glyph != Glyph::None)
             entry->setIcon(mdGlyphIcon(action.glyph, Theme::Ink));
         connect(entry, &QAction::triggered, this, [this, &action] {
-            action.run(m_screen);
-            tellChanged();
+            RunStep(QString::fromUtf8(action.caption).remove(u'&'), [&] {
+                action.run(m_screen);
+                tellChanged();
+            });
         });
     }
     if (!m_list.actions.empty())
@@ -98,9 +102,13 @@ void clsListActions::addItem()
 {
     if (!mdLeaveFocusedBox(&m_screen))
         return;
-    const bool added = mdEditItem(&m_screen, m_list.editor(), nullptr);
-    // What the editor opened in its turn is kept even where the editor itself was cancelled.
-    tellChanged();
+    bool added = false;
+    RunStep([&] {
+        added = mdEditItem(&m_screen, m_list.editor(), nullptr);
+        // What the editor opened in its turn is kept even where the editor itself was cancelled.
+        tellChanged();
+        return stepOf("Add", added ? m_list.item(m_grid.Rows()) : nullptr);
+    });
     // The next key goes on from the new item. It is the last of the claim's list, wherever the grid sorts it.
     if (added)
         m_grid.SelectItem(m_grid.Rows());
@@ -110,8 +118,11 @@ void clsListActions::addItem()
 void clsListActions::editItem(int index)
 {
     const std::shared_ptr<clsXMLRecord> item = m_list.item(index);
-    mdEditItem(&m_screen, m_list.editor(), item.get());
-    tellChanged();
+    RunStep([&] {
+        mdEditItem(&m_screen, m_list.editor(), item.get());
+        tellChanged();
+        return stepOf("Edit", item);
+    });
     select(item);
     m_grid.setFocus(Qt::OtherFocusReason);
 }
@@ -129,8 +140,35 @@ void clsListActions::deleteItem()
     const int index = m_grid.SelectedItemData();
     if (index == 0 || !mayDelete(index))
         return;
-    m_list.remove(index);
+    const std::shared_ptr<clsXMLRecord> item = m_list.item(index);
+    RunStep([&] {
+        m_list.remove(index);
+        tellChanged();
+        return stepOf("Delete", item);
+    });
+    emit Deleted(mdItemInShort(m_list, *item));
+}
+
+/// The item has its new place already, and what its list looked like before is known from the last step.
+void clsListActions::tellMoved()
+{
     tellChanged();
+    Document().history.take(stepOf("Move", m_list.item ? m_list.item(m_grid.SelectedItemData()) : nullptr));
+}
+
+QString clsListActions::stepOf(const char *action, const std::shared_ptr<clsXMLRecord> &item) const
+{
+    return (QString::fromLatin1(action) + u' ' + (item ? mdItemInShort(m_list, *item) : QString())).trimmed();
+}
+
+bool clsListActions::Show(const clsZR3Item *item)
+{
+    for (const auto &shown : m_grid.ItemCollection())
+        if (shown.get() == item) {
+            m_grid.SelectItem(shown->Index);
+            return true;
+        }
+    return false;
 }
 
 /// Whether nothing else of the claim points at the item, where that matters, and the user agrees.

@@ -21,10 +21,14 @@ public:
     /// Shows the items as they now are, the same row selected.
     void redraw();
     int Rows() const;
+    /// Selects the row of an item; false where it is of another list.
+    bool Show(const clsZR3Item *item);
 
 signals:
     /// An item was added, edited, deleted or moved by the user: all lists of the screen are to be shown anew.
     void Changed();
+    /// What is called so has just been deleted by the user.
+    void Deleted(const QString &item);
 
 private:
     void buildMenu();
@@ -35,6 +39,9 @@ private:
     void deleteItem();
     bool mayDelete(int index) const;
     void tellChanged();
+    void tellMoved();
+    /// The name of what is done to an item.
+    QString stepOf(const char *action, const std::shared_ptr<clsXMLRecord> &item) const;
     void tellWhatCanBeAdded();
 
     frmSection &m_screen;

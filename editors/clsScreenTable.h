@@ -78,6 +78,7 @@ struct clsItemAction {
 struct clsItemList {
     bool orderable = true;
     std::vector<clsItemColumn> columns {};
+    std::vector<const char *> called {}; ///< the properties that an item is called by where a step is named
     void (*show)(oSGrid &grid) = nullptr; ///< hands the grid its collection
     clsFigureFaults (*faults)(const clsZR3Item &item) = nullptr; ///< what is wrong with an item
     const char *empty = ""; ///< what an empty grid says

@@ -12,6 +12,8 @@
 #include "formdata/clsZR3FeeEarner.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
+#include "formdata/mdRecordInWords.h"
+#include "formdata/mdRunStep.h"
 
 namespace {
 
@@ -32,8 +34,11 @@ void count(oSGrid &grid, const clsCommsCount &what, Qt::KeyboardModifiers shift)
     if (index == 0)
         return;
     const clsCommsStep &step = mdCommsStep(shift);
-    mdCountComms(*Form->FeeEarner(index), what, step.by);
-    grid.Redraw(false);
+    const auto feeEarner = Form->FeeEarner(index);
+    RunStep(mdPropertyInWords(QString::fromUtf8(what.count)) + u' ' + feeEarner->Reference(), [&] {
+        mdCountComms(*feeEarner, what, step.by);
+        grid.Redraw(false);
+    });
     PlayWav(ProgramPath(QString::fromUtf8(step.sound)));
 }
 
@@ -65,9 +70,11 @@ void typeCounts(frmSection &screen, int feeEarner, int column)
     if (!what)
         return;
     const auto item = Form->FeeEarner(feeEarner);
-    mdEditItem(&screen, ScreenCorrespondences(), item.get(),
-        [what](frmSection &editor) { editor.Box(what->field).setFocus(Qt::TabFocusReason); });
-    gridOf(screen).Redraw(false);
+    RunStep(QStringLiteral("Correspondences ") + item->Reference(), [&] {
+        mdEditItem(&screen, ScreenCorrespondences(), item.get(),
+            [what](frmSection &editor) { editor.Box(what->field).setFocus(Qt::TabFocusReason); });
+        gridOf(screen).Redraw(false);
+    });
     gridOf(screen).setFocus(Qt::OtherFocusReason);
 }
 

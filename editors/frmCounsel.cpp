@@ -13,6 +13,7 @@ const clsItemList CounselList {
         {"Account Number", "AccountNumber", 40},
         {"VAT",            "VAT",           20, clsGridAlignment::Centre},
     },
+    .called = {"Name"},
     .show = [](oSGrid &grid) { grid.setItemCollection(Form->CounselCollection()); },
     .empty = "No counsel yet. Add one to begin.",
     .editor = ScreenCounselEdit,

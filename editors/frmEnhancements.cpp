@@ -13,6 +13,7 @@ const clsItemList EnhancementList {
         {"Name", "Name", 80},
         {"Rate", "Rate", 20, clsGridAlignment::Right},
     },
+    .called = {"Name"},
     .show = [](oSGrid &grid) { grid.setItemCollection(Form->EnhancementsCollection()); },
     .faults = mdItemFaults<clsZR3Enhancement>,
     .empty = "No enhancements yet. Add one to begin.",

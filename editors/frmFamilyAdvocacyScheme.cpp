@@ -22,6 +22,7 @@ const clsItemList Hearings {
         {"S Fee",      "SettlementFee",      10, clsGridAlignment::Right},
         {"E Trv",      "ExceptionalTravel",  10, clsGridAlignment::Right},
     },
+    .called = {"DDate", "LevelOfCourt"},
     .show = [](oSGrid &grid) { grid.setItemCollection(Form->FASItemsCollection()); },
     .faults = mdItemFaults<clsZR3FASItem>,
     .empty = "No items yet. Add one to begin.",

@@ -35,6 +35,7 @@ const clsItemList ScheduleItems {
         {"Wtg",        "Waiting",               9, clsGridAlignment::Centre},
         {"Enh",        "IncludeInEnhancements", 9, clsGridAlignment::Centre, false, "EnhancementUniqueID"},
     },
+    .called = {"DDate", "Code", "TTime"},
     .show = [](oSGrid &grid) { grid.setItemCollection(Form->ScheduleOfTimeItemsCollection()); },
     .faults = mdItemFaults<clsZR3ScheduleOfTimeItem>,
     .empty = "No items yet. Add one to begin.",

@@ -6,12 +6,9 @@
 #include "controls/mdLeaveFocusedBox.h"
 #include "controls/mdTheme.h"
 #include "controls/oCheckBox.h"
-#include "controls/oContentSwitcher.h"
-#include "controls/oCustomButton.h"
 #include "controls/oDecimalBox.h"
 #include "controls/oHeaderBar.h"
 #include "controls/oIntegerBox.h"
-#include "controls/oSGrid.h"
 #include "controls/oTimeBox.h"
 #include "controls/oTypedText.h"
 #include "editors/clsListActions.h"
@@ -24,11 +21,13 @@
 #include "editors/mdScreenLetters.h"
 #include "editors/mdSectionRoutes.h"
 #include "editors/mdUnloadAndDummyTabClick.h"
+#include "editors/oListLine.h"
 #include "editors/oScreenBar.h"
 #include "editors/oScreenFrame.h"
 #include "editors/oScreenPage.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
+#include "formdata/mdRunStep.h"
 
 #include <QCloseEvent>
 #include <QMenuBar>
@@ -81,6 +80,7 @@ frmSection::frmSection(const clsScreen &screen, QWidget *parent)
     m_header->setSubCaption(QString::fromUtf8(screen.subCaption));
     m_header->setIconGroup(screen.iconGroup);
     buildFrames();
+    buildLine();
     m_bar = new oScreenBar(screen, this);
     connectBar();
     if (screen.fileMenu)
@@ -96,10 +96,13 @@ frmSection::frmSection(const clsScreen &screen, QWidget *parent)
     all->setMenuBar(m_menus);
     all->addWidget(m_header);
     all->addWidget(m_page, 1);
+    if (m_line)
+        all->addWidget(m_line);
     all->addWidget(m_bar);
 
     makeTicksExclusive();
     buildLists();
+    buildUndo();
     mdShowPrintNotes(screen, m_fields);
     if (screen.rules)
         screen.rules(*this);
@@ -114,33 +117,6 @@ void frmSection::buildFrames()
         m_labels.insert(m_labels.end(), frame->labels().begin(), frame->labels().end());
     }
     m_page->complete();
-}
-
-void frmSection::buildLists()
-{
-    for (size_t i = 0; i < m_fields.size(); ++i) {
-        auto *grid = qobject_cast<oSGrid *>(m_fields[i].control);
-        if (!grid)
-            continue;
-        const clsItemList &list = *m_fields[i].row->items;
-        auto *add = list.add ? static_cast<oCustomButton *>(m_fields[i + 1].control) : nullptr;
-        m_lists.push_back({new clsListActions(*this, list, *grid, add), m_fields[i].page});
-        connect(m_lists.back().actions, &clsListActions::Changed, this, &frmSection::RedrawLists);
-    }
-}
-
-void frmSection::RedrawLists()
-{
-    for (const clsList &list : m_lists)
-        list.actions->redraw();
-    showCounts();
-}
-
-void frmSection::showCounts()
-{
-    for (const clsList &list : m_lists)
-        if (list.page > 0)
-            Switcher().setCount(list.page, list.actions->Rows());
 }
 
 void frmSection::buildFileMenu()
@@ -217,6 +193,9 @@ void frmSection::Initialise(clsXMLRecord *item)
     for (const clsList &list : m_lists)
         list.actions->draw();
     showCounts();
+    // A list numbers its items when it is drawn.
+    if (m_undo)
+        Document().history.join();
     emit Loaded();
     // The first field that can take it has the focus, unless the rules have put it elsewhere.
     for (const clsScreenField &field : m_fields) {
@@ -248,6 +227,15 @@ void frmSection::Store(clsStoring storing)
             if (storing == clsStoring::Closing || !(field.row->flags & AtCloseOnly))
                 mdStoreControl(*field.row, *field.control, *m_record);
     emit Stored();
+}
+
+/// What an item's editor stores is part of what its list does, and the preferences are no claim.
+void frmSection::storeAsStep(clsStoring storing)
+{
+    if (m_screen.fileMenu)
+        RunStep(QString::fromUtf8(m_screen.section ? m_screen.section : m_screen.header), [&] { Store(storing); });
+    else
+        Store(storing);
 }
 
 bool frmSection::checkRequired()
@@ -287,7 +275,7 @@ void frmSection::Save()
 {
     if (!mdLeaveFocusedBox(this) || !checkRequired() || !checkTyped() || (m_mayStore && !m_mayStore()))
         return;
-    Store(clsStoring::Closing);
+    storeAsStep(clsStoring::Closing);
     done(Accepted);
 }
 
@@ -326,7 +314,7 @@ void frmSection::JumpTo(const QString &section, bool store)
     if (!mdLeaveFocusedBox(this))
         return;
     if (store)
-        Store(clsStoring::MovingOn);
+        storeAsStep(clsStoring::MovingOn);
     mdUnloadAndDummyTabClick(*this, section);
 }
 
@@ -336,14 +324,6 @@ QWidget &frmSection::Box(const char *name) const
         if (field.control->objectName() == QLatin1String(name))
             return *field.control;
     throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
-}
-
-oContentSwitcher &frmSection::Switcher() const
-{
-    auto *switcher = findChild<oContentSwitcher *>();
-    if (!switcher)
-        throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
-    return *switcher;
 }
 
 void frmSection::reject()

@@ -10,8 +10,11 @@
 #include <vector>
 
 class clsListActions;
+class clsScreenUndo;
+class clsZR3Item;
 class oContentSwitcher;
 class oHeaderBar;
+class oListLine;
 class oScreenBar;
 class oScreenPage;
 class QMenuBar;
@@ -62,6 +65,8 @@ public:
     oContentSwitcher &Switcher() const;
     /// Shows all lists as they now are, and what can be added to them.
     void RedrawLists();
+    /// Selects the row of an item in the list that it is of, and opens that list's page; nothing where no list has it.
+    void ShowItem(const clsZR3Item *item);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -83,6 +88,9 @@ protected:
 private:
     void buildFrames();
     void buildLists();
+    void buildLine();
+    void buildUndo();
+    void storeAsStep(clsStoring storing);
     void showCounts();
     void startFiguresAtZero();
     void buildFileMenu();
@@ -106,5 +114,8 @@ private:
         int page;
     };
     std::vector<clsList> m_lists;
+    // Of a screen with a list of the claim.
+    oListLine *m_line = nullptr;
+    clsScreenUndo *m_undo = nullptr;
     std::function<bool()> m_mayStore;
 };

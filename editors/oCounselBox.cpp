@@ -7,6 +7,7 @@
 #include "editors/mdScreens.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
+#include "formdata/mdRunStep.h"
 
 #include <QHBoxLayout>
 
@@ -97,6 +98,9 @@ void oCounselBox::enableEdit()
 /// Opens the editor of a counsel, or of a new one. A name that was changed in it shows at once.
 void oCounselBox::edit(const std::shared_ptr<clsZR3Counsel> &counsel)
 {
-    mdEditItem(window(), ScreenCounselEdit(), counsel.get());
-    fill();
+    // A step, also where the item is cancelled then over whose editor this stands.
+    RunStep(counsel ? QStringLiteral("Edit Counsel") : QStringLiteral("Add Counsel"), [&] {
+        mdEditItem(window(), ScreenCounselEdit(), counsel.get());
+        fill();
+    });
 }

@@ -12,6 +12,7 @@ clsDocument::~clsDocument() = default;
 void clsDocument::replaceForm()
 {
     form = std::make_unique<clsZR3Form>();
+    history.clear();
     m_path = {};
     lastSave = clsSaved::Never;
 }

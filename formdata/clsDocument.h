@@ -1,5 +1,7 @@
 #pragma once
 
+#include "formdata/clsHistory.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -37,6 +39,8 @@ public:
     QString copyName() const;
 
     std::unique_ptr<clsZR3Form> form;
+    /// What was done to the claim since it was begun or opened.
+    clsHistory history {form};
     QString cleanXML;
     clsSaved lastSave = clsSaved::Never;
     /// True while the claim is read from its file, so that nothing in it is the user's work yet.

@@ -308,6 +308,13 @@ clsZR3Form::DisbursementsList::Pointer clsZR3Form::NonCounselDisbursement(int in
     return itemAt(m_nonCounsel, index);
 }
 
+void clsZR3Form::renderDerived()
+{
+    rendered(m_ScheduleOfTimeItems);
+    rendered(m_FASItems);
+    rendered(m_Disbursements);
+}
+
 void clsZR3Form::rendered(const ScheduleOfTimeItemsList &)
 {
     RenderScheduleOfTimeItemsForExport();
@@ -343,3 +350,29 @@ pugi::xml_node clsZR3Form::listElement(QLatin1String plural) const
 ZR3_LISTS(ZR3_IDENTIFIED_LIST, ZR3_LIST)
 #undef ZR3_LIST
 #undef ZR3_IDENTIFIED_LIST
+
+#define ZR3_ANY_LIST(Plural, Single)                                                                                   \
+    if (m_##Plural.isOf(list))                                                                                         \
+        return visit(m_##Plural);
+
+std::vector<pugi::xml_node> clsZR3Form::dropItems(pugi::xml_node list, const std::vector<pugi::xml_node> &elements)
+{
+    const auto visit = [&](auto &items) { return items.drop(elements); };
+    ZR3_LISTS(ZR3_ANY_LIST, ZR3_ANY_LIST)
+    return elements;
+}
+
+void clsZR3Form::takeUpItems(pugi::xml_node list)
+{
+    const auto visit = [&](auto &items) { items.takeUp(*this); };
+    ZR3_LISTS(ZR3_ANY_LIST, ZR3_ANY_LIST)
+}
+
+const clsZR3Item *clsZR3Form::itemOf(pugi::xml_node element) const
+{
+    const pugi::xml_node list = element.parent();
+    const auto visit = [&](auto &items) -> const clsZR3Item * { return items.itemOf(element); };
+    ZR3_LISTS(ZR3_ANY_LIST, ZR3_ANY_LIST)
+    return nullptr;
+}
+#undef ZR3_ANY_LIST

@@ -173,6 +173,19 @@ public:
     DisbursementsList::Pointer NonCounselDisbursement(int index) const;
 
 private:
+    friend class clsHistory;
+
+    // For the history, which takes elements of lists away and brings them back.
+
+    /// Takes the items of these elements out of the list of the claim that has this element. Returns the elements that
+    /// are of no item.
+    std::vector<pugi::xml_node> dropItems(pugi::xml_node list, const std::vector<pugi::xml_node> &elements);
+    /// Makes items of the elements of that list that have none.
+    void takeUpItems(pugi::xml_node list);
+    /// The item of an element, or nothing.
+    const clsZR3Item *itemOf(pugi::xml_node element) const;
+    void renderDerived();
+
     pugi::xml_node listElement(QLatin1String plural) const;
     template <class Pointer> Pointer identified(const Pointer &item)
     {

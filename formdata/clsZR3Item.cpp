@@ -14,10 +14,10 @@ void clsZR3Item::appendTo(pugi::xml_node listNode)
     XMLChanges::note();
 }
 
-void clsZR3Item::detach()
+void clsZR3Item::detach(std::shared_ptr<pugi::xml_document> own)
 {
     const pugi::xml_node listed = node();
-    m_own = std::make_unique<pugi::xml_document>();
+    m_own = std::move(own);
     bindAndLearn(m_own->append_copy(listed));
     listed.parent().remove_child(listed);
     XMLChanges::note();

@@ -24,9 +24,10 @@ private:
     void takeOver(pugi::xml_node element);
     /// Makes this the record of a new element at the list's end.
     void appendTo(pugi::xml_node listNode);
-    void detach();
+    /// Moves the element into a document of its own, or into one that it shares with others that go with it.
+    void detach(std::shared_ptr<pugi::xml_document> own = std::make_shared<pugi::xml_document>());
     void release();
 
     const char *m_templateName;
-    std::unique_ptr<pugi::xml_document> m_own; ///< holds the element once it is taken out of the list
+    std::shared_ptr<pugi::xml_document> m_own; ///< holds the element once it is taken out of the list
 };

@@ -78,6 +78,63 @@ public:
         reindex();
     }
 
+    /// Takes the items of these elements, which are in the order of the file, out of the list as `remove` does. Returns
+    /// the elements that are of no item; they still stand.
+    std::vector<pugi::xml_node> drop(const std::vector<pugi::xml_node> &elements)
+    {
+        std::vector<pugi::xml_node> others;
+        Collection staying;
+        const auto together = std::make_shared<pugi::xml_document>();
+        auto going = elements.begin();
+        const auto end = elements.end();
+        for (Pointer &item : m_items) {
+            // What stands between the items is no item.
+            while (going != end && going->type() != pugi::node_element)
+                others.push_back(*going++);
+            if (going == end || item->node() != *going) {
+                staying.push_back(std::move(item));
+                continue;
+            }
+            item->detach(together);
+            ++going;
+        }
+        others.insert(others.end(), going, end);
+        m_items = std::move(staying);
+        reindex();
+        return others;
+    }
+
+    /// Makes items of the elements that have none, each at the place that its element has. The values of the others may
+    /// have changed as well.
+    template <class... Arguments> void takeUp(Arguments &...arguments)
+    {
+        Collection known = std::move(m_items);
+        m_items.clear();
+        auto next = known.begin();
+        for (const pugi::xml_node child : m_node.children()) {
+            if (child.type() != pugi::node_element)
+                continue;
+            if (next != known.end() && (*next)->node() == child) {
+                m_items.push_back(std::move(*next++));
+                continue;
+            }
+            const auto item = std::make_shared<Item>(arguments...);
+            item->takeOver(child);
+            take(item);
+        }
+        reindex();
+    }
+
+    /// The item of an element, or nothing.
+    const Item *itemOf(pugi::xml_node element) const
+    {
+        for (const Pointer &item : m_items)
+            if (item->node() == element)
+                return item.get();
+        return nullptr;
+    }
+    bool isOf(pugi::xml_node listNode) const { return m_node == listNode; }
+
     /// The item at a 1-based place; the subscript error outside the list.
     const Pointer &at(int index) const
     {

@@ -24,6 +24,7 @@ public:
 
     explicit operator bool() const { return !m_node.empty(); }
     pugi::xml_node node() const { return m_node; }
+    const std::shared_ptr<clsXMLDocument> &document() const { return m_document; }
 
 private:
     std::shared_ptr<clsXMLDocument> m_document;

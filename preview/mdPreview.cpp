@@ -121,7 +121,13 @@ void mdRefreshPreview(clsPreviewKind kind)
 {
     if (!Preferences)
         throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
-    if (isDrawing() || !Preferences->AutoRefreshPreview())
+    if (Preferences->AutoRefreshPreview())
+        mdRedrawPreview(kind);
+}
+
+void mdRedrawPreview(clsPreviewKind kind)
+{
+    if (isDrawing())
         return;
     oPreviewGrid &grid = mdExportPreviewGrid();
     const int first = grid.FirstRowInView();

@@ -12,5 +12,8 @@ void mdRefreshPreview(clsPreviewKind kind);
 /// Fits what is drawn to another width of the grid, without drawing it anew. The row at the top stays.
 void mdFitPreview();
 
+/// The same whatever the preferences say, for a command that goes back or forth in the claim.
+void mdRedrawPreview(clsPreviewKind kind);
+
 /// Empties the grid, for a claim that is no more.
 void mdClearPreview();

@@ -385,6 +385,15 @@ void frmMain::refreshPreview()
         redraw(mdRefreshPreview);
 }
 
+void frmMain::ShowTurned()
+{
+    UpdateInfo();
+    if (showsFormPages())
+        refreshPreview();
+    else if (Form)
+        redraw(mdRedrawPreview);
+}
+
 void frmMain::tmrAutoBackup_Timer()
 {
     // A backup inside long work could hold a claim that is half changed, and its box would interrupt.

@@ -45,6 +45,9 @@ public:
     void UpdateInfo();
     /// The activation routine: on the return from every modal screen and after each document command.
     void Activate();
+    /// Shows the claim as it is after a step was undone or done again, at the place to which the user had scrolled: the
+    /// preview too, whether or not it is refreshed by itself elsewhere. Nothing else would tell that anything happened.
+    void ShowTurned();
     /// Opens the screen of a text, as a click on its tab does. While a screen is open the text is remembered, and its
     /// screen follows when that one is gone. An unknown or empty text does nothing.
     void tbSubSection_Click(int index, const QString &tag);

@@ -3,6 +3,7 @@
 #include "controls/mdIcons.h"
 #include "controls/mdTheme.h"
 #include "shell/frmMain.h"
+#include "shell/mdMainEdit.h"
 
 #include <QMenu>
 #include <QMenuBar>
@@ -68,4 +69,5 @@ void mdBuildMainMenu(frmMain &window)
         if (row.separatorAfter)
             menu->addSeparator();
     }
+    mdAddEditMenu(window, [&window] { window.ShowTurned(); });
 }

@@ -126,7 +126,7 @@ TEST_F(CommunicationsLeaving, OnANarrowWindowTheJumpsAreInTheirMenuOnly)
     screen->resize(800, 600);
     QTest::qWait(10);
     EXPECT_FALSE(button->isVisible());
-    QAction *menu = screen->findChild<QMenuBar *>()->actions().at(1);
+    QAction *menu = screen->findChild<QMenuBar *>()->actions().at(2);
     EXPECT_EQ(QStringLiteral("&Jump To"), menu->text());
     QTest::keyClick(screen->focusWidget(), Qt::Key_J, Qt::AltModifier);
     ASSERT_TRUE(menu->menu()->isVisible());

@@ -11,6 +11,7 @@
 #include "tests/support/mdSpokenNames.h"
 
 #include <QAccessible>
+#include <QMenu>
 #include <QMenuBar>
 
 // The keyboard on every screen.
@@ -227,7 +228,7 @@ TEST_P(EveryScreen, NoLetterIsGivenTwice)
         EXPECT_EQ(has("cmdClose") ? 1u : 0u, letters.count(u'C'));
         EXPECT_EQ(hasAdd(openFields()) ? 1u : 0u, letters.count(u'A'));
         EXPECT_EQ(screen->Screen().jumps.empty() ? 0u : 1u, letters.count(u'J'));
-        EXPECT_EQ(0u, letters.count(u'E')) << "that of the menu Edit";
+        EXPECT_EQ(screen->findChild<QMenu *>(QStringLiteral("mnuEdit")) ? 1u : 0u, letters.count(u'E'));
     });
     QStringList fixed;
     for (const char *name : {"cmdSave", "cmdCancel", "cmdClose"})

@@ -26,6 +26,8 @@ const clsEntry Entries[] = {
     {"File",    "Export to Word",                "mnuExportToWord",                 "Ctrl+W", true},
     {"File",    "Exit",                          "mnuExit",                         "Ctrl+Q", true},
     {"File",    "Export as PDF...",              "mnuExportAsPdf",                  "",       false},
+    {"Edit",    "Undo",                          "mnuUndo",                         "Ctrl+Z", false},
+    {"Edit",    "Redo",                          "mnuRedo",                         "Ctrl+Shift+Z", false},
     {"Tools",   "Preferences",                   "mnuPreferences",                  "Ctrl+P", true},
     {"Tools",   "Check For Blank Time / Values", "mnuCheckForBlankItems",           "",       true},
     {"Tools",   "Check Claim",                   "mnuCheckClaim",                   "Ctrl+K", false},
@@ -70,7 +72,7 @@ TEST_F(MainMenu, HasTheEntriesAndKeysInTheirOrder)
                                                  .arg(plain(menu->text()), plain(entry->text()), entry->objectName(),
                                                      entry->shortcut().toString(QKeySequence::PortableText)));
     EXPECT_EQ(expected, found);
-    EXPECT_EQ(QStringLiteral("mnuPreview"), window->menuBar()->actions()[2]->menu()->objectName());
+    EXPECT_EQ(QStringLiteral("mnuPreview"), window->menuBar()->actions()[3]->menu()->objectName());
 }
 
 TEST_F(MainMenu, EachMenuHasLettersOfItsOwn)

@@ -1,0 +1,93 @@
+#include "editors/clsEditMenu.h"
+
+#include "formdata/mdGlobals.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPlainTextEdit>
+
+namespace {
+
+struct clsEditRow {
+    const char *text; ///< an ampersand marks the mnemonic
+    const char *name; ///< object name
+    const char *keys; ///< with a semicolon and a blank between
+    std::function<void()> clsEditCommands::*run;
+    /// What stands behind the text: what the entry would act on. Where that is empty the entry is off.
+    QString (*object)();
+    bool separatorAfter = false;
+};
+
+// clang-format off
+constexpr clsEditRow Rows[] = {
+    {"&Undo", "mnuUndo", "Ctrl+Z",              &clsEditCommands::undo, [] { return Document().history.undoName(); }},
+    {"&Redo", "mnuRedo", "Ctrl+Shift+Z; Ctrl+Y", &clsEditCommands::redo, [] { return Document().history.redoName(); }},
+};
+// clang-format on
+
+/// A key stays one of the window's while its entry is off: what it acts on can come while the menu is closed.
+void connectEntry(QMenu &menu, QAction &entry, const clsEditRow &row)
+{
+    if (!row.object)
+        return;
+    QObject::connect(&menu, &QMenu::aboutToShow, &entry, [&entry, &row] {
+        QString object = row.object();
+        entry.setEnabled(!object.isEmpty());
+        entry.setText((QString::fromLatin1(row.text) + u' ' + object.replace(u'&', QLatin1String("&&"))).trimmed());
+    });
+    QObject::connect(
+        &menu, &QMenu::aboutToHide, &entry, [&entry] { entry.setEnabled(true); }, Qt::QueuedConnection);
+}
+
+/// Keeps Ctrl+Y from the menu while a text box has the focus, and lets the box redo. Of the other keys the boxes see to
+/// that themselves; this one is theirs on some desktops only.
+class clsRedoOfBoxes final : public QObject {
+public:
+    explicit clsRedoOfBoxes(QWidget &window)
+        : QObject(&window)
+        , m_window(window)
+    {
+        window.installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
+            return false;
+        const auto &key = *static_cast<QKeyEvent *>(event);
+        QWidget *box = m_window.focusWidget();
+        const bool isBox = qobject_cast<QLineEdit *>(box) || qobject_cast<QPlainTextEdit *>(box);
+        if (!isBox || key.keyCombination() != (Qt::CTRL | Qt::Key_Y))
+            return false;
+        event->accept();
+        if (event->type() == QEvent::KeyPress)
+            QMetaObject::invokeMethod(box, "redo");
+        return true;
+    }
+
+private:
+    QWidget &m_window;
+};
+
+} // namespace
+
+QMenu *mdMakeEditMenu(QWidget &window, const clsEditCommands &commands)
+{
+    auto *menu = new QMenu(QStringLiteral("&Edit"), &window);
+    menu->setObjectName(QStringLiteral("mnuEdit"));
+    for (const clsEditRow &row : Rows) {
+        if (!(commands.*row.run))
+            continue;
+        QAction *entry = menu->addAction(QString::fromLatin1(row.text));
+        entry->setObjectName(QString::fromLatin1(row.name));
+        entry->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(row.keys), QKeySequence::PortableText));
+        QObject::connect(entry, &QAction::triggered, &window, commands.*row.run);
+        connectEntry(*menu, *entry, row);
+        if (row.separatorAfter)
+            menu->addSeparator();
+    }
+    new clsRedoOfBoxes(window);
+    return menu;
+}

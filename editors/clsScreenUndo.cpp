@@ -1,0 +1,86 @@
+#include "editors/clsScreenUndo.h"
+
+#include "editors/clsEditMenu.h"
+#include "editors/clsItemChoice.h"
+#include "editors/frmSection.h"
+#include "editors/mdFieldDiffers.h"
+#include "editors/mdScreenControls.h"
+#include "editors/oListLine.h"
+#include "formdata/mdGlobals.h"
+
+#include <QMenu>
+#include <QMenuBar>
+
+namespace {
+
+/// What the user has chosen on a screen, and the fields in which nothing was changed since they were filled.
+class clsUntouched {
+public:
+    clsUntouched(frmSection &screen, std::set<const QWidget *> &changed)
+        : m_screen(screen)
+    {
+        for (const clsScreenField &field : screen.Fields()) {
+            if (!screen.Record())
+                break;
+            if (mdFieldDiffers(*field.row, *field.control, *screen.Record()))
+                changed.insert(field.control);
+            if (!changed.contains(field.control))
+                m_fields.push_back(field);
+        }
+        for (clsItemChoice *choice : screen.findChildren<clsItemChoice *>())
+            m_choices.push_back({choice, choice->ChosenID()});
+    }
+    /// Reads them anew from the claim.
+    void reload() const
+    {
+        // Their items may have gone, or have other places now, whether or not the choice was changed.
+        for (const auto &[choice, chosen] : m_choices)
+            choice->fillFor(chosen);
+        for (const clsScreenField &field : m_fields)
+            mdLoadControl(*field.row, *field.control, *m_screen.Record());
+    }
+
+private:
+    frmSection &m_screen;
+    std::vector<clsScreenField> m_fields;
+    std::vector<std::pair<clsItemChoice *, QString>> m_choices;
+};
+
+} // namespace
+
+clsScreenUndo::clsScreenUndo(frmSection &screen, QMenuBar &menus, oListLine &line)
+    : QObject(&screen)
+    , m_screen(screen)
+    , m_line(line)
+{
+    QMenu *edit = mdMakeEditMenu(screen,
+        {.undo = [this] { run(&clsHistory::undo, &clsHistory::undoItem); },
+            .redo = [this] { run(&clsHistory::redo, &clsHistory::redoItem); }});
+    // Behind "File".
+    menus.insertMenu(menus.actions().value(1), edit);
+}
+
+void clsScreenUndo::TellDeleted(const QString &what)
+{
+    m_line.Tell(QStringLiteral("Deleted %1. Ctrl+Z brings it back").arg(what));
+}
+
+void clsScreenUndo::ClearLine()
+{
+    m_line.Clear();
+}
+
+void clsScreenUndo::run(Turn turn, About about)
+{
+    clsHistory &history = Document().history;
+    if (turn == &clsHistory::undo ? !history.canUndo() : !history.canRedo())
+        return;
+    ClearLine();
+    const clsUntouched untouched(m_screen, m_changed);
+    // Of an item that goes the row is shown, of one that comes or changes the item itself.
+    m_screen.ShowItem((history.*about)());
+    const clsZR3Item *item = (history.*turn)();
+    untouched.reload();
+    m_screen.RedrawLists();
+    m_screen.ShowItem(item);
+}

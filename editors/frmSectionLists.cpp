@@ -1,0 +1,77 @@
+#include "editors/frmSection.h"
+
+#include "base/clsRunTimeError.h"
+#include "controls/oContentSwitcher.h"
+#include "controls/oCustomButton.h"
+#include "controls/oSGrid.h"
+#include "editors/clsListActions.h"
+#include "editors/clsScreenUndo.h"
+#include "editors/oListLine.h"
+
+#include <algorithm>
+
+// The lists of a screen, with what is undone on it.
+
+void frmSection::buildLists()
+{
+    for (size_t i = 0; i < m_fields.size(); ++i) {
+        auto *grid = qobject_cast<oSGrid *>(m_fields[i].control);
+        if (!grid)
+            continue;
+        const clsItemList &list = *m_fields[i].row->items;
+        auto *add = list.add ? static_cast<oCustomButton *>(m_fields[i + 1].control) : nullptr;
+        m_lists.push_back({new clsListActions(*this, list, *grid, add), m_fields[i].page});
+        connect(m_lists.back().actions, &clsListActions::Changed, this, &frmSection::RedrawLists);
+    }
+}
+
+/// Before the bar, which the Tab key comes to after it. The preferences, whose lists are none of the claim's, have no
+/// menu of the claim's file either.
+void frmSection::buildLine()
+{
+    const auto isList = [](const clsScreenField &field) { return field.row->kind == clsRowKind::Items; };
+    if (m_screen.fileMenu && std::any_of(m_fields.begin(), m_fields.end(), isList))
+        m_line = new oListLine(this);
+}
+
+void frmSection::buildUndo()
+{
+    if (!m_line)
+        return;
+    m_undo = new clsScreenUndo(*this, *m_menus, *m_line);
+    for (const clsList &list : m_lists) {
+        connect(list.actions, &clsListActions::Changed, m_undo, &clsScreenUndo::ClearLine);
+        connect(list.actions, &clsListActions::Deleted, m_undo, &clsScreenUndo::TellDeleted);
+    }
+}
+
+void frmSection::ShowItem(const clsZR3Item *item)
+{
+    if (!item)
+        return;
+    for (const clsList &list : m_lists)
+        if (list.actions->Show(item) && list.page > 0)
+            Switcher().SwitchTo(list.page);
+}
+
+void frmSection::RedrawLists()
+{
+    for (const clsList &list : m_lists)
+        list.actions->redraw();
+    showCounts();
+}
+
+void frmSection::showCounts()
+{
+    for (const clsList &list : m_lists)
+        if (list.page > 0)
+            Switcher().setCount(list.page, list.actions->Rows());
+}
+
+oContentSwitcher &frmSection::Switcher() const
+{
+    auto *switcher = findChild<oContentSwitcher *>();
+    if (!switcher)
+        throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
+    return *switcher;
+}

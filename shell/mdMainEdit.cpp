@@ -1,0 +1,35 @@
+#include "shell/mdMainEdit.h"
+
+#include "editors/clsEditMenu.h"
+#include "formdata/mdGlobals.h"
+#include "shell/clsLongWork.h"
+
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace {
+
+/// A command that takes a step back, or does one again, where there is one.
+std::function<void()> turning(
+    bool (clsHistory::*can)() const, const clsZR3Item *(clsHistory::*turn)(), const std::function<void()> &showTurned)
+{
+    return [=] {
+        clsHistory &history = Document().history;
+        // What draws the claim lets events through.
+        if (clsLongWork::isRunning() || !(history.*can)())
+            return;
+        (history.*turn)();
+        showTurned();
+    };
+}
+
+} // namespace
+
+void mdAddEditMenu(QMainWindow &window, const std::function<void()> &showTurned)
+{
+    QMenu *edit = mdMakeEditMenu(window,
+        {.undo = turning(&clsHistory::canUndo, &clsHistory::undo, showTurned),
+            .redo = turning(&clsHistory::canRedo, &clsHistory::redo, showTurned)});
+    window.menuBar()->insertMenu(window.menuBar()->actions().value(1), edit);
+}

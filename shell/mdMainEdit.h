@@ -1,0 +1,9 @@
+#pragma once
+
+#include <functional>
+
+class QMainWindow;
+
+/// Puts the menu "Edit" behind the first menu of the main window. `showTurned` shows the claim after a step was undone
+/// or done again.
+void mdAddEditMenu(QMainWindow &window, const std::function<void()> &showTurned);

@@ -2,6 +2,7 @@
 
 #include "base/clsRunTimeError.h"
 #include "base/mdLog.h"
+#include "commands/clsJournal.h"
 #include "commands/mdFileHandling.h"
 #include "controls/mdLeaveFocusedBox.h"
 #include "controls/mdTheme.h"
@@ -23,6 +24,7 @@
 #include "editors/mdScreenControls.h"
 #include "editors/mdScreenLetters.h"
 #include "editors/mdSectionRoutes.h"
+#include "editors/mdTypedTexts.h"
 #include "editors/mdUnloadAndDummyTabClick.h"
 #include "editors/oScreenBar.h"
 #include "editors/oScreenFrame.h"
@@ -218,6 +220,7 @@ void frmSection::Initialise(clsXMLRecord *item)
         list.actions->draw();
     showCounts();
     emit Loaded();
+    m_loadedTexts = mdFieldTexts(m_fields);
     // The first field that can take it has the focus, unless the rules have put it elsewhere.
     for (const clsScreenField &field : m_fields) {
         if (focusWidget())
@@ -248,6 +251,7 @@ void frmSection::Store(clsStoring storing)
             if (storing == clsStoring::Closing || !(field.row->flags & AtCloseOnly))
                 mdStoreControl(*field.row, *field.control, *m_record);
     emit Stored();
+    Journal().stepTaken();
 }
 
 bool frmSection::checkRequired()

@@ -12,6 +12,7 @@ void clsDocument::replaceForm()
 {
     form = std::make_unique<clsZR3Form>();
     m_path = {};
+    onDisk.forget();
     lastSave = clsSaved::Never;
 }
 

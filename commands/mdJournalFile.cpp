@@ -53,7 +53,7 @@ QByteArray bytesOf(const clsJournalHead &head)
         typed.append(objectOf(texts));
     const QJsonObject object {{QStringLiteral("claim"), head.claim},
         {QStringLiteral("known"), QString::fromLatin1(head.known)},
-        {QStringLiteral("changed"), head.changed.toString(Qt::ISODateWithMs)},
+        {QStringLiteral("changed"), head.changed.toUTC().toString(Qt::ISODateWithMs)},
         {QStringLiteral("process"), double(head.process)}, {QStringLiteral("machine"), head.machine},
         {QStringLiteral("typed"), typed}};
     return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';

@@ -83,11 +83,10 @@ oNoticeBar::oNoticeBar(QWidget *parent)
     connect(cmdNext, &oCustomButton::Click, this, &oNoticeBar::showNext);
 
     const int left = Theme::Space24 + Theme::scaled(SignSide) + Theme::Space12;
-    m_row->setContentsMargins(left, 0, Theme::Space24 - Theme::RingRoom, 1);
-    m_row->setSpacing(Theme::Space12 - 2 * Theme::RingRoom);
+    m_row->setContentsMargins(left, 0, Theme::Space24, 1);
+    m_row->setSpacing(Theme::Space12);
     m_row->addWidget(lblSentence, 1);
     m_row->addWidget(lblCount);
-    m_row->addSpacing(Theme::Space8);
     m_row->addWidget(cmdNext);
     hide();
 }
@@ -118,7 +117,8 @@ void oNoticeBar::setNotices(std::vector<clsNotice> notices)
     const QString before = Sentence();
     const clsLevel levelBefore = m_notices.empty() ? clsLevel::Note : shown().level;
     m_notices = std::move(notices);
-    const size_t same = placeOf(before);
+    const bool sameStays = m_shown < m_notices.size() && m_notices[m_shown].sentence == before;
+    const size_t same = sameStays ? m_shown : placeOf(before);
     const bool isGraver = !m_notices.empty() && m_notices.front().level > levelBefore;
     m_shown = same < m_notices.size() && !isGraver ? same : 0;
     present();
@@ -146,6 +146,7 @@ void oNoticeBar::present()
     buildAnswers();
     followWindow();
     setAccessibleName(QString::fromLatin1(lookOf(shown().level).word) + QStringLiteral(": ") + shown().sentence);
+    leaveFocusBehind();
     show();
     elide();
     update();
@@ -154,6 +155,19 @@ void oNoticeBar::present()
     m_announced = shown().sentence;
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
+    emit Announced(m_announced);
+}
+
+/// A window that has not been active yet would give its first tab stop the focus.
+void oNoticeBar::leaveFocusBehind()
+{
+    if (window() == this || window()->focusWidget())
+        return;
+    for (QWidget *next = nextInFocusChain(); next != this; next = next->nextInFocusChain()) {
+        const bool takesFocus = next->focusPolicy() & Qt::TabFocus && !next->focusProxy();
+        if (takesFocus && !isAncestorOf(next) && next->isEnabled() && next->isVisibleTo(window()))
+            return next->setFocus();
+    }
 }
 
 /// The buttons stay where their captions do, so that one with the focus keeps it.

@@ -42,6 +42,10 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+signals:
+    /// Screen readers are told of the notice that shows.
+    void Announced(const QString &sentence);
+
 protected:
     bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -51,6 +55,7 @@ private:
     const clsNotice &shown() const { return m_notices[m_shown]; }
     size_t placeOf(const QString &sentence) const;
     void present();
+    void leaveFocusBehind();
     void buildAnswers();
     oCustomButton *addButton(const QString &name);
     void followWindow();

@@ -32,7 +32,9 @@ int orderOf(const frmSection &screen)
 
 clsTypedTexts typedIn(const frmSection &screen)
 {
-    clsTypedTexts texts {screen.objectName(), QString::fromUtf8(screen.Screen().header), 0, {}};
+    const clsScreen &table = screen.Screen();
+    clsTypedTexts texts {
+        screen.objectName(), QString::fromUtf8(table.section ? table.section : table.header), 0, {}};
     const QStringList now = mdFieldTexts(screen.Fields());
     const QStringList &before = screen.LoadedTexts();
     for (qsizetype i = 0; i < qMin(now.size(), before.size()); ++i)

@@ -1,6 +1,7 @@
 #include "shell/frmMain.h"
 
 #include "base/mdLog.h"
+#include "commands/clsJournal.h"
 #include "commands/mdAutoDeleteBackups.h"
 #include "commands/mdAutoSave.h"
 #include "commands/mdFileHandling.h"
@@ -9,6 +10,7 @@
 #include "controls/oAllPurposeBox.h"
 #include "controls/oFooterBar.h"
 #include "controls/oHeaderBar.h"
+#include "controls/oNoticeBar.h"
 #include "controls/oTabBar.h"
 #include "controls/oTimeSpentBox.h"
 #include "editors/mdEnterField.h"
@@ -26,6 +28,7 @@
 #include "preview/oPreviewGrid.h"
 #include "preview/oPreviewSheet.h"
 #include "shell/clsFormPages.h"
+#include "shell/clsJournalKeeper.h"
 #include "shell/clsLongWork.h"
 #include "shell/mdMainMenu.h"
 #include "shell/oApplication.h"
@@ -52,6 +55,7 @@ frmMain::frmMain(QWidget *parent)
     : QMainWindow(parent)
     , createScreen(mdCreateScreen)
     , oHeader(new oHeaderBar)
+    , m_noticeBar(new oNoticeBar)
     , tbSection(new oTabBar)
     , tbSubSection(new oTabBar)
     , pctPreview(new oPreviewSheet)
@@ -61,6 +65,8 @@ frmMain::frmMain(QWidget *parent)
     , m_pages(new clsFormPages(*m_formPages, this))
     , oFooter(new oFooterBar)
     , tmrAutoBackup(new QTimer(this))
+    , m_journal(new clsJournalKeeper(*m_noticeBar,
+          {[this] { SaveAs(); }, [this](const std::function<void()> &open) { openInstead(open); }}, this))
 {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Velmor ZR3"));
@@ -101,6 +107,7 @@ void frmMain::build()
     tbSection->setRow(oTabBar::Row::Tabs);
     tbSubSection->setObjectName(QStringLiteral("tbSubSection"));
     tbSubSection->setRow(oTabBar::Row::Buttons);
+    m_noticeBar->setObjectName(QStringLiteral("oNoticeBar"));
     oFooter->setObjectName(QStringLiteral("oFooter"));
     tmrAutoBackup->setObjectName(QStringLiteral("tmrAutoBackup"));
     tmrAutoBackup->setInterval(AutoBackupMilliseconds);
@@ -110,6 +117,7 @@ void frmMain::build()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(oHeader);
+    layout->addWidget(m_noticeBar);
     layout->addWidget(tbSection);
     layout->addWidget(tbSubSection);
     m_previews->addWidget(pctPreview);
@@ -141,6 +149,7 @@ void frmMain::Load(const QString &claimPath)
     }
     buildTabs();
     tmrAutoBackup->start();
+    m_journal->begin();
     m_loaded = true;
 }
 
@@ -242,6 +251,8 @@ void frmMain::Activate()
         return;
     WriteLog(objectName() + QStringLiteral(" Opened"));
     UpdateInfo();
+    Journal().stepTaken();
+    m_journal->refresh();
     // Without the mark on the tab that was clicked, the same one can be clicked again.
     tbSubSection->SwitchTo(0);
     refreshPreview();
@@ -288,10 +299,12 @@ bool frmMain::event(QEvent *event)
     if (event->type() != QEvent::WindowActivate || !m_loaded || m_modal)
         return handled;
     // Another program may have been in front since the routine ran, and the claim may count as changed by now.
-    if (std::exchange(m_activationDone, false))
-        UpdateInfo();
-    else
+    if (!std::exchange(m_activationDone, false)) {
         Activate();
+        return handled;
+    }
+    UpdateInfo();
+    m_journal->refresh();
     return handled;
 }
 

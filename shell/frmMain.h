@@ -12,9 +12,11 @@ class QMenu;
 class QStackedLayout;
 class QTimer;
 class clsFormPages;
+class clsJournalKeeper;
 class oFooterBar;
 class oFormPages;
 class oHeaderBar;
+class oNoticeBar;
 class oPreviewGrid;
 class oPreviewSheet;
 class oTabBar;
@@ -46,6 +48,7 @@ public:
     void tmrAutoBackup_Timer();
 
     oFooterBar *footer() const { return oFooter; }
+    clsJournalKeeper &journal() const { return *m_journal; }
 
     // The commands of the menu.
     void New();
@@ -97,12 +100,15 @@ private:
     void refreshPreview();
     void redraw(void (*routine)(clsPreviewKind));
     void openDropped(const QString &path);
+    /// Asks about changes, and has another claim take the place of the open one.
+    void openInstead(const std::function<void()> &open);
     /// Takes the user's typed text into the claim and the user out of the box; false where its text doesn't fit.
     bool leaveForAnotherClaim();
     /// Asks about changes, and sees to it that a claim whose save failed is kept; false when the program is to stay.
     bool confirmExit();
 
     oHeaderBar *oHeader;
+    oNoticeBar *m_noticeBar;
     oTabBar *tbSection;
     oTabBar *tbSubSection;
     oPreviewSheet *pctPreview;
@@ -112,6 +118,7 @@ private:
     clsFormPages *m_pages;
     oFooterBar *oFooter;
     QTimer *tmrAutoBackup;
+    clsJournalKeeper *m_journal;
 
     /// The kind of preview last shown.
     clsPreviewKind m_previewKind = clsPreviewKind::ScheduleOfTime;

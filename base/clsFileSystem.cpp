@@ -294,9 +294,17 @@ void clsFileSystem::DeleteFile(const QString &path) const
     step(clsFileStep::Delete, path, [native = systemPath(path)] { return ::unlink(native.constData()); });
 }
 
+void clsFileSystem::RenameFile(const QString &from, const QString &to) const
+{
+    step(clsFileStep::Rename, to,
+        [before = systemPath(from), after = systemPath(to)] { return ::rename(before.constData(), after.constData()); });
+    syncFolderOf(to);
+}
+
 clsFileSystem &FileSystem()
 {
-    // One for the program, since a test lets operations fail at its fault point, wherever they are called.
-    static clsFileSystem fileSystem;
+    // A test lets operations fail at its fault point, wherever they are called. One for each thread: what goes on in the
+    // background must not meet a fault point that is just being set.
+    static thread_local clsFileSystem fileSystem;
     return fileSystem;
 }

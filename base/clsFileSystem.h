@@ -6,7 +6,7 @@
 #include <functional>
 
 /// The single steps of the file operations, in the order in which a guarded overwrite meets them.
-enum class clsFileStep { Inspect, OpenToRead, Read, OpenToWrite, Truncate, Write, SyncFile, SyncFolder, Close, Delete };
+enum class clsFileStep { Inspect, OpenToRead, Read, OpenToWrite, Truncate, Write, SyncFile, SyncFolder, Close, Delete, Rename };
 
 /// What becomes of a step: nothing out of the ordinary as long as neither field is set.
 struct clsFileFault {
@@ -40,6 +40,9 @@ public:
     /// Writes a file from its start; the bytes, and the file's entry in its folder, are on the disk when this returns.
     void WriteFile(const QString &path, const QByteArray &bytes) const;
     void DeleteFile(const QString &path) const;
+    /// Gives a file another name in its folder, and takes away what bore it before: at every moment one of the two is
+    /// there, whole. The name is on the disk when this returns.
+    void RenameFile(const QString &from, const QString &to) const;
     /// Makes a folder that only its owner can look into. One that is there already stays as it is.
     void CreateFolder(const QString &path) const;
     /// The same, with those that are missing on the way to it.
@@ -49,5 +52,5 @@ public:
     std::function<clsFileFault(clsFileStep step, const QString &path)> faultPoint;
 };
 
-/// The file system of this process.
+/// The file system, with the fault point of this thread.
 clsFileSystem &FileSystem();

@@ -25,6 +25,9 @@ public:
     /// The plain box of the system, for failures that lie below the program's own windows: silent, without a countdown.
     virtual Answer systemMessage(const QString &message, const QString &title, SystemIcon icon, Buttons buttons) = 0;
 
+    /// A line that tells what was done beside what was asked for, and goes by itself.
+    virtual void tellLine(const QString &) { }
+
     /// Long work reports how far it is: `value` of `maximum`, with a text.
     virtual void showProgress(int value, int maximum, const QString &text) = 0;
     virtual void clearProgress() = 0;

@@ -8,6 +8,9 @@
 /// link, lies at the path then; it is closed to others.
 bool MakeOwnFolder(const QString &path);
 
+/// Whether a real folder of this user's, and no link, lies at the path.
+bool IsOwnFolder(const QString &path);
+
 /// Makes a folder that is as open to others as the one in which it lies; one that is there stays as it is.
 void MakeFolderLikeItsParent(const QString &path);
 

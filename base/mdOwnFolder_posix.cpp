@@ -79,6 +79,14 @@ bool MakeOwnFolder(const QString &path)
     return own;
 }
 
+bool IsOwnFolder(const QString &path)
+{
+    struct stat status = {};
+    return mdUninterrupted([native = QFile::encodeName(path), &status] { return ::lstat(native.constData(), &status); })
+        == 0
+        && S_ISDIR(status.st_mode) && isOwn(status.st_uid);
+}
+
 void MakeFolderLikeItsParent(const QString &path)
 {
     const QByteArray native = QFile::encodeName(path);

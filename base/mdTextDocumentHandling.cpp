@@ -151,17 +151,23 @@ QByteArray read(const QString &path)
 
 /// Runs a file operation; false where it failed, with its box shown.
 template <class Operation>
-bool trapped(const QString &title, const QString &whatWasTried, const QString &path, Operation operation)
+bool trapped(const QString &title, const QString &whatWasTried, const QString &path, Operation operation,
+    int *failure = nullptr)
 {
+    const auto failed = [&](const clsRunTimeError &error) {
+        if (failure)
+            *failure = error.number();
+        mdSystemFailure(title, whatWasTried, path, error);
+        return false;
+    };
     try {
         operation();
         return true;
     } catch (const clsRunTimeError &error) {
-        mdSystemFailure(title, whatWasTried, path, error);
+        return failed(error);
     } catch (const std::bad_alloc &) {
-        mdSystemFailure(title, whatWasTried, path, clsRunTimeError(clsRunTimeError::OutOfMemory));
+        return failed(clsRunTimeError(clsRunTimeError::OutOfMemory));
     }
-    return false;
 }
 
 /// The content of a file as `convert` makes a text of its bytes, an empty text where that failed.
@@ -190,12 +196,12 @@ QByteArray ReadTextDocumentAsUtf8(const QString &path, bool logIt)
     return readDocument(path, logIt, [](QByteArray bytes) { return mdUtf8FromCodePage(std::move(bytes)); });
 }
 
-bool WriteTextDocument(const QString &text, const QString &path, bool logIt)
+bool WriteTextDocument(const QString &text, const QString &path, bool logIt, int *failure)
 {
     if (logIt)
         WriteLog(QStringLiteral("Begin Write Text Document - ") + path);
     if (!trapped(QStringLiteral("File Not Saved"), QStringLiteral("There was a problem writing to the following path:"),
-            path, [&] { overwrite(path, mdToCodePage(text)); }))
+            path, [&] { overwrite(path, mdToCodePage(text)); }, failure))
         return false;
     if (logIt)
         WriteLog(QStringLiteral("End Write Text Document - ") + path);

@@ -12,5 +12,6 @@ QByteArray ReadTextDocumentAsUtf8(const QString &path, bool logIt);
 
 /// Replaces the whole content of a file, one byte for each character. The old content lies beside the file, under its
 /// path followed by "a", until the new one is on the disk: a crash or a failure leaves it there for the user to find.
-/// A failure shows the box "File Not Saved" and gives false; the caller goes on as if the file were saved.
-bool WriteTextDocument(const QString &text, const QString &path, bool logIt);
+/// A failure shows the box "File Not Saved" and gives false, and its number where that is asked for; the caller goes on
+/// as if the file were saved.
+bool WriteTextDocument(const QString &text, const QString &path, bool logIt, int *failure = nullptr);

@@ -1,10 +1,14 @@
 #include "commands/mdFileHandling.h"
 
 #include "base/clsFileSystem.h"
+#include "base/mdCodePage.h"
 #include "base/mdCustomMessages.h"
 #include "base/mdGetResourceData.h"
 #include "base/mdGetVersionInfo.h"
+#include "base/mdStateFolder.h"
 #include "base/mdVersionComparison.h"
+#include "commands/clsJournal.h"
+#include "commands/mdDatedCopy.h"
 #include "commands/mdRecoveredCopy.h"
 #include "commands/mdRunTimeErrorMessage.h"
 #include "formdata/clsZR3Form.h"
@@ -67,6 +71,20 @@ bool loadForm(const QString &path)
     return true;
 }
 
+/// Keeps what another program has put into the claim's file since this one read or saved it: the save that follows
+/// writes over it. What the user is told of it after the save; empty where there was nothing to keep.
+QString setOtherContentAside()
+{
+    if (Document().filePath() != Document().onDisk.path() || !Document().onDisk.changedByOthers())
+        return {};
+    try {
+        const QByteArray bytes = FileSystem().ReadFile(Document().filePath());
+        if (MakeStateFolder() && !WriteDatedCopy(StateFolder() + QStringLiteral("/Set Aside"), bytes).isEmpty())
+            return QStringLiteral("The other program's version was set aside");
+    } catch (const clsRunTimeError &) { }
+    return QStringLiteral("The other program's version could not be set aside");
+}
+
 /// Sets work aside that counts as saved and would be lost, and tells the user. False where no place took it.
 bool setAside()
 {
@@ -125,11 +143,18 @@ bool SaveForm(bool saveAs)
         return false;
     // Before the text is written, so that it is part of it.
     form.Version = GetVersionInfo();
-    const bool written = form.SaveXML(Document().filePath());
+    const QString otherContent = setOtherContentAside();
+    int failure = 0;
+    const bool written = form.SaveXML(Document().filePath(), &failure);
     Document().lastSave = written ? clsDocument::clsSaved::Written : clsDocument::clsSaved::Failed;
     // Also after a write that failed. That is meant: its box has told the user, and the old content lies beside the
     // file.
     Document().takeAsClean();
+    if (written)
+        Document().onDisk.wasWritten(Document().filePath(), mdToCodePage(CleanXML));
+    Journal().saved(written, failure);
+    if (!otherContent.isEmpty())
+        UserInterface().tellLine((written ? QStringLiteral("Saved. ") : QString()) + otherContent);
     run(formDisplay.activate);
     return true;
 }
@@ -162,6 +187,7 @@ void NewForm(bool skipConfirm)
 {
     if (!skipConfirm && !ConfirmDrop())
         return;
+    Journal().leaveClaim();
     Document().replaceForm();
     Form->Version = GetVersionInfo();
     Form->VAT = true;
@@ -192,9 +218,11 @@ void OpenFormFile(const QString &path)
     // A tick of the stopwatch would write the time of the claim before into this one.
     run(formDisplay.stopTimer);
     const QScopedValueRollback<bool> reading(Document().opening, true);
+    Journal().leaveClaim();
     // The claim before is gone from here on, also where the load fails, and its clean text with it.
     Document().replaceForm();
     Document().takeAsClean();
+    const std::optional<clsFileStamp> before = FileStamp(path);
     try {
         if (!loadForm(path))
             return;
@@ -206,4 +234,23 @@ void OpenFormFile(const QString &path)
     // After the clean text was taken: a path that differs from the one in the file counts as a change. A copy or a
     // backup thus asks to be saved where it lies now.
     Document().givePath(path);
+    Document().onDisk.wasRead(path, before);
+}
+
+bool OpenFormText(const QByteArray &bytes, const QString &path, const QByteArray &known)
+{
+    run(formDisplay.stopTimer);
+    const QScopedValueRollback<bool> reading(Document().opening, true);
+    // The open claim stays until this one is whole.
+    auto form = std::make_unique<clsZR3Form>();
+    if (!form->LoadText(mdUtf8FromCodePage(bytes)))
+        return false;
+    Journal().leaveClaim();
+    Document().replaceForm();
+    Form = std::move(form);
+    Document().givePath(path);
+    // Nothing of it counts as saved.
+    CleanXML.clear();
+    Document().onDisk.wasKnown(path, known);
+    return true;
 }

@@ -46,6 +46,10 @@ void NewForm(bool skipConfirm);
 /// Asks for a claim and opens it, after the save question. With `clearPath` the claim is cut off from its file.
 void OpenFormDialog(bool clearPath);
 
+/// Opens a claim from the bytes of its file, as a journal holds them. It has that path, whose file was last known by
+/// that mark, and counts as changed. False where the bytes are no claim: the open one then stays.
+bool OpenFormText(const QByteArray &bytes, const QString &path, const QByteArray &known);
+
 /// Opens the claim at a path. Where that is no claim, the user is told and a new one begins. A claim whose version has
 /// fewer than three fields raises the subscript error, which is not caught.
 void OpenFormFile(const QString &path);

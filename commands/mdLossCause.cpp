@@ -39,12 +39,19 @@ bool isOnDisk(const QByteArray &bytes)
 
 /// A claim's text without the path that it holds, which counts as a change where a claim lies elsewhere than it was
 /// saved, and is no work of the user's.
-QString withoutPath(QString text)
-{
-    static const QRegularExpression element(QStringLiteral("<path(/>|>[^<]*</path>)"));
-    const QRegularExpressionMatch found = element.match(text);
-    return text.remove(found.capturedStart(), found.capturedLength());
-}
+struct clsAroundPath {
+    explicit clsAroundPath(const QString &text)
+    {
+        static const QRegularExpression element(QStringLiteral("<path(/>|>[^<]*</path>)"));
+        const QRegularExpressionMatch found = element.match(text);
+        before = QStringView(text).left(qMax(qsizetype(0), found.capturedStart()));
+        after = QStringView(text).mid(before.size() + found.capturedLength());
+    }
+    bool operator==(const clsAroundPath &) const = default;
+
+    QStringView before;
+    QStringView after;
+};
 
 clsLossCause causeInFile()
 {
@@ -67,7 +74,7 @@ clsLossCause lossCause()
         return clsLossCause::None;
     if (isClean)
         return Document().lastSave == clsDocument::clsSaved::Failed ? clsLossCause::SaveFailed : causeInFile();
-    const bool isAsOpened = withoutPath(text) == withoutPath(CleanXML) && isOnDisk(mdToCodePage(CleanXML));
+    const bool isAsOpened = clsAroundPath(text) == clsAroundPath(CleanXML) && isOnDisk(mdToCodePage(CleanXML));
     return isAsOpened ? clsLossCause::None : clsLossCause::UnsavedChanges;
 }
 
@@ -81,4 +88,9 @@ clsLossCause FormLossCause() noexcept
         // A claim that can't even be compared is not known to be safe.
         return clsLossCause::UnsavedChanges;
     }
+}
+
+bool HoldsUnsavedWork(const QString &text)
+{
+    return text != CleanXML && clsAroundPath(text) != clsAroundPath(CleanXML);
 }

@@ -18,6 +18,8 @@ inline constexpr QColor Orange        {224, 134,  26}; ///< nearly full; too pal
 inline constexpr QColor Amber         {0x8F, 0x53, 0x00}; ///< the same where it is text, and the edge of its signs
 inline constexpr QColor Red           {177,  17,  22}; ///< over the allowance, invalid, danger
 inline constexpr QColor Pink          {255, 246, 241}; ///< back of an invalid box, never without its red edge and sign
+inline constexpr QColor InformationTint {0xEE, 0xF5, 0xFA}; ///< back of a notice that waits, and of a line in the footer
+inline constexpr QColor CautionTint   {0xFD, 0xF4, 0xE7}; ///< back of a notice that warns
 inline constexpr QColor Grey          {204, 204, 204}; ///< frame of a grid without the focus
 inline constexpr QColor Stripe        {250, 250, 250}; ///< every second column of the preview
 inline constexpr QColor Ink           {0x23, 0x1F, 0x26}; ///< text

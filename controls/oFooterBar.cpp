@@ -5,6 +5,7 @@
 #include "controls/mdLine.h"
 #include "controls/mdPaintControls.h"
 #include "controls/mdTheme.h"
+#include "controls/oFooterLine.h"
 #include "controls/oTimeSpentBox.h"
 
 #include <QEvent>
@@ -80,6 +81,7 @@ oFooterBar::oFooterBar(QWidget *parent)
     , m_timeSpentTimer(new oTimeSpentBox(this))
     , m_line(mdVerticalLine(this))
     , lblDateTime(addLabel(this, QStringLiteral("lblDateTime")))
+    , m_footerLine(new oFooterLine(this))
     , tmrUpdate(this)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -151,6 +153,23 @@ void oFooterBar::showProgress(int value, int maximum, const QString &text)
 void oFooterBar::clearProgress()
 {
     showProgress(0, m_progressBar->maximum(), QString());
+}
+
+void oFooterBar::tellLine(const QString &line)
+{
+    m_footerLine->tell(line);
+    placeLine();
+}
+
+void oFooterBar::placeLine()
+{
+    m_footerLine->setGeometry(0, 0, m_timeSpentTimer->geometry().left() - Theme::Space16, height());
+}
+
+void oFooterBar::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    placeLine();
 }
 
 void oFooterBar::UpdateInfo()

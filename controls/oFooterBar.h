@@ -5,6 +5,7 @@
 
 class QLabel;
 class QProgressBar;
+class oFooterLine;
 class oTimeSpentBox;
 
 /// The status line of the main window: the program's name and version, how far long work has come, the claim's clock,
@@ -22,14 +23,18 @@ public:
     /// written.
     void showProgress(int value, int maximum, const QString &text);
     void clearProgress();
+    /// Tells what was done beside what was asked for; the line goes by itself.
+    void tellLine(const QString &line);
     /// Writes the program's name and the present time.
     void UpdateInfo();
 
 protected:
     bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void placeLine();
     void updateDateTime();
     /// Gives all parts the small form of the desktop's font, and the room that it needs.
     void followFont();
@@ -39,5 +44,6 @@ private:
     oTimeSpentBox *m_timeSpentTimer;
     QWidget *m_line;
     QLabel *lblDateTime;
+    oFooterLine *m_footerLine;
     QTimer tmrUpdate;
 };

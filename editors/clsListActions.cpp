@@ -1,6 +1,7 @@
 #include "editors/clsListActions.h"
 
 #include "base/mdCustomMessages.h"
+#include "commands/clsJournal.h"
 #include "controls/mdIcons.h"
 #include "controls/mdLeaveFocusedBox.h"
 #include "controls/mdTheme.h"
@@ -189,6 +190,7 @@ void clsListActions::tellChanged()
     emit Changed();
     if (m_list.changed)
         m_list.changed();
+    Journal().stepTaken();
 }
 
 void clsListActions::tellWhatCanBeAdded()

@@ -2,6 +2,7 @@
 
 #include "base/clsRunTimeError.h"
 #include "base/mdLog.h"
+#include "commands/clsJournal.h"
 #include "commands/mdFileHandling.h"
 #include "controls/mdLeaveFocusedBox.h"
 #include "controls/mdTheme.h"
@@ -20,6 +21,7 @@
 #include "editors/mdScreenControls.h"
 #include "editors/mdScreenLetters.h"
 #include "editors/mdSectionRoutes.h"
+#include "editors/mdTypedTexts.h"
 #include "editors/mdUnloadAndDummyTabClick.h"
 #include "editors/oListLine.h"
 #include "editors/oScreenBar.h"
@@ -197,6 +199,7 @@ void frmSection::Initialise(clsXMLRecord *item)
     if (m_undo)
         Document().history.join();
     emit Loaded();
+    m_loadedTexts = mdFieldTexts(m_fields);
     // The first field that can take it has the focus, unless the rules have put it elsewhere.
     for (const clsScreenField &field : m_fields) {
         if (focusWidget())
@@ -227,6 +230,7 @@ void frmSection::Store(clsStoring storing)
             if (storing == clsStoring::Closing || !(field.row->flags & AtCloseOnly))
                 mdStoreControl(*field.row, *field.control, *m_record);
     emit Stored();
+    Journal().stepTaken();
 }
 
 /// What an item's editor stores is part of what its list does, and the preferences are no claim.

@@ -61,6 +61,8 @@ public:
     template <class Control> Control &Box(const char *name) const { return static_cast<Control &>(Box(name)); }
     /// All fields, in the order of the table; behind a list stands its button "Add".
     const std::vector<clsScreenField> &Fields() const { return m_fields; }
+    /// What was in the fields when they were filled.
+    const QStringList &LoadedTexts() const { return m_loadedTexts; }
     /// The switcher of a screen with pages; the object error where there is none.
     oContentSwitcher &Switcher() const;
     /// Shows all lists as they now are, and what can be added to them.
@@ -109,6 +111,7 @@ private:
     oScreenBar *m_bar;
     std::vector<clsScreenField> m_fields;
     std::vector<oFieldLabel *> m_labels;
+    QStringList m_loadedTexts;
     struct clsList {
         clsListActions *actions;
         int page;

@@ -14,6 +14,7 @@ void clsDocument::replaceForm()
     form = std::make_unique<clsZR3Form>();
     history.clear();
     m_path = {};
+    onDisk.forget();
     lastSave = clsSaved::Never;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/clsFileWatch.h"
 #include "formdata/clsHistory.h"
 
 #include <QByteArray>
@@ -45,6 +46,8 @@ public:
     clsSaved lastSave = clsSaved::Never;
     /// True while the claim is read from its file, so that nothing in it is the user's work yet.
     bool opening = false;
+    /// The claim's file as it was last read or saved.
+    clsFileWatch onDisk;
     /// The recovered copy that was written last, whichever claim it is of.
     struct {
         QString path;

@@ -100,13 +100,19 @@ pugi::xml_node clsZR3Form::XMLNode() const
 
 bool clsZR3Form::LoadXML(const QString &filePath)
 {
-    const clsXMLElement root = XMLLoadElement(ReadTextDocumentAsUtf8(filePath, true), RootElement);
-    if (!root) {
-        mdCustomMessages(QStringLiteral("There was a problem opening the selected file. Please ensure that the file is "
-                                        "a valid ZR3 file and try again"),
-            QStringLiteral("Error"));
+    if (LoadText(ReadTextDocumentAsUtf8(filePath, true)))
+        return true;
+    mdCustomMessages(QStringLiteral("There was a problem opening the selected file. Please ensure that the file is "
+                                    "a valid ZR3 file and try again"),
+        QStringLiteral("Error"));
+    return false;
+}
+
+bool clsZR3Form::LoadText(const QByteArray &text)
+{
+    const clsXMLElement root = XMLLoadElement(text, RootElement);
+    if (!root)
         return false;
-    }
     GenerateNodes(root.node(), mdXMLTemplate("xmlZR3Form"));
     try {
         takeRoot(root);
@@ -133,9 +139,9 @@ void clsZR3Form::takeCopyOf(const clsZR3Form &other)
     takeRoot(clsXMLElement(std::move(document), root));
 }
 
-bool clsZR3Form::SaveXML(const QString &filePath) const
+bool clsZR3Form::SaveXML(const QString &filePath, int *failure) const
 {
-    return WriteTextDocument(XMLOutput(), filePath, true);
+    return WriteTextDocument(XMLOutput(), filePath, true, failure);
 }
 
 void clsZR3Form::LoadElements()

@@ -67,8 +67,11 @@ public:
     /// Reads the claim at a path and brings it up to date. False, after a message, when it is no claim: this object is
     /// then to be dropped, and whoever asked for the load goes on with a new claim.
     bool LoadXML(const QString &filePath);
-    /// Writes the claim as it stands. False where it failed, after the box of the text document routines.
-    bool SaveXML(const QString &filePath) const;
+    /// The same from the text of a claim in UTF-8, without a message.
+    bool LoadText(const QByteArray &text);
+    /// Writes the claim as it stands. False where it failed, after the box of the text document routines; `failure` is
+    /// then given the error's number.
+    bool SaveXML(const QString &filePath, int *failure = nullptr) const;
     /// Becomes a copy of another claim, which stays as it is whatever is done to this one.
     void takeCopyOf(const clsZR3Form &other);
     /// True when no element of the claim was handed out, so that each change to it is counted.

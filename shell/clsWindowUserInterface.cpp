@@ -82,6 +82,12 @@ clsUserInterface::Answer clsWindowUserInterface::systemMessage(
     return answered(buttons, [&](frmMessageBox &box) { box.InitialiseSystem(message, title, buttons, icon); });
 }
 
+void clsWindowUserInterface::tellLine(const QString &line)
+{
+    if (m_display.line)
+        m_display.line(line);
+}
+
 void clsWindowUserInterface::showProgress(int value, int maximum, const QString &text)
 {
     if (m_display.show)

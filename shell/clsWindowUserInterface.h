@@ -14,10 +14,11 @@ class QWidget;
 /// sounds and opener. Boxes belong to the window that is active when they come.
 class clsWindowUserInterface final : public clsUserInterface {
 public:
-    /// Where progress shows; both may be empty, as before there is a main window.
+    /// Where progress shows, and lines that go by themselves; all may be empty, as before there is a main window.
     struct clsProgressDisplay {
         std::function<void(int value, int maximum, const QString &text)> show;
         std::function<void()> clear;
+        std::function<void(const QString &line)> line {};
     };
 
     clsWindowUserInterface();
@@ -27,6 +28,7 @@ public:
 
     Answer customMessage(const QString &message, const QString &title, Buttons buttons, int icon, int timeout) override;
     Answer systemMessage(const QString &message, const QString &title, SystemIcon icon, Buttons buttons) override;
+    void tellLine(const QString &line) override;
     /// Long work hands the thread to the windows here now and then, so that they can repaint. The user's own input
     /// waits until the work has ended.
     void showProgress(int value, int maximum, const QString &text) override;

@@ -1,6 +1,7 @@
 #include "shell/frmMain.h"
 
 #include "base/mdLog.h"
+#include "commands/clsJournal.h"
 #include "commands/mdAutoDeleteBackups.h"
 #include "commands/mdAutoSave.h"
 #include "commands/mdFileHandling.h"
@@ -10,6 +11,7 @@
 #include "controls/oAllPurposeBox.h"
 #include "controls/oFooterBar.h"
 #include "controls/oHeaderBar.h"
+#include "controls/oNoticeBar.h"
 #include "controls/oTabBar.h"
 #include "controls/oTimeSpentBox.h"
 #include "controls/oTotalsStrip.h"
@@ -31,6 +33,7 @@
 #include "preview/oPreviewSheet.h"
 #include "shell/clsCheckState.h"
 #include "shell/clsFormPages.h"
+#include "shell/clsJournalKeeper.h"
 #include "shell/clsLongWork.h"
 #include "shell/clsStripFiller.h"
 #include "shell/clsWhyOpener.h"
@@ -63,6 +66,7 @@ frmMain::frmMain(QWidget *parent)
     : QMainWindow(parent)
     , createScreen(mdCreateScreen)
     , oHeader(new oHeaderBar)
+    , m_noticeBar(new oNoticeBar)
     , tbSection(new oTabBar)
     , tbSubSection(new oTabBar)
     , pctPreview(new oPreviewSheet)
@@ -76,6 +80,8 @@ frmMain::frmMain(QWidget *parent)
     , m_check(new clsCheckState(this))
     , oFooter(new oFooterBar)
     , tmrAutoBackup(new QTimer(this))
+    , m_journal(new clsJournalKeeper(*m_noticeBar,
+          {[this] { SaveAs(); }, [this](const std::function<void()> &open) { openInstead(open); }}, this))
 {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Velmor ZR3"));
@@ -123,6 +129,7 @@ void frmMain::build()
     tbSection->setRow(oTabBar::Row::Tabs);
     tbSubSection->setObjectName(QStringLiteral("tbSubSection"));
     tbSubSection->setRow(oTabBar::Row::Buttons);
+    m_noticeBar->setObjectName(QStringLiteral("oNoticeBar"));
     oFooter->setObjectName(QStringLiteral("oFooter"));
     tmrAutoBackup->setObjectName(QStringLiteral("tmrAutoBackup"));
     tmrAutoBackup->setInterval(AutoBackupMilliseconds);
@@ -132,6 +139,7 @@ void frmMain::build()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(oHeader);
+    layout->addWidget(m_noticeBar);
     layout->addWidget(tbSection);
     layout->addWidget(tbSubSection);
     m_previews->addWidget(pctPreview);
@@ -168,6 +176,7 @@ void frmMain::Load(const QString &claimPath)
     }
     buildTabs();
     tmrAutoBackup->start();
+    m_journal->begin();
     m_loaded = true;
 }
 
@@ -273,6 +282,8 @@ void frmMain::Activate()
         return;
     WriteLog(objectName() + QStringLiteral(" Opened"));
     UpdateInfo();
+    Journal().stepTaken();
+    m_journal->refresh();
     // Without the mark on the tab that was clicked, the same one can be clicked again.
     tbSubSection->SwitchTo(0);
     refreshPreview();
@@ -323,10 +334,12 @@ bool frmMain::event(QEvent *event)
     if (event->type() != QEvent::WindowActivate || !m_loaded || m_modal)
         return handled;
     // Another program may have been in front since the routine ran, and the claim may count as changed by now.
-    if (std::exchange(m_activationDone, false))
-        UpdateInfo();
-    else
+    if (!std::exchange(m_activationDone, false)) {
         Activate();
+        return handled;
+    }
+    UpdateInfo();
+    m_journal->refresh();
     return handled;
 }
 

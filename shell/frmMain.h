@@ -13,6 +13,7 @@ class QStackedLayout;
 class QTimer;
 class clsCheckState;
 class clsFormPages;
+class clsJournalKeeper;
 class clsStripFiller;
 class clsWhyOpener;
 class frmSection;
@@ -20,6 +21,7 @@ class oCheckPanel;
 class oFooterBar;
 class oFormPages;
 class oHeaderBar;
+class oNoticeBar;
 class oPreviewArea;
 class oPreviewGrid;
 class oPreviewSheet;
@@ -59,6 +61,7 @@ public:
     void tmrAutoBackup_Timer();
 
     oFooterBar *footer() const { return oFooter; }
+    clsJournalKeeper &journal() const { return *m_journal; }
 
     // The commands of the menu.
     void New();
@@ -124,12 +127,15 @@ private:
     void openFinding(int finding);
     void tintChosen();
     void openDropped(const QString &path);
+    /// Asks about changes, and has another claim take the place of the open one.
+    void openInstead(const std::function<void()> &open);
     /// Takes the user's typed text into the claim and the user out of the box; false where its text doesn't fit.
     bool leaveForAnotherClaim();
     /// Asks about changes, and sees to it that a claim whose save failed is kept; false when the program is to stay.
     bool confirmExit();
 
     oHeaderBar *oHeader;
+    oNoticeBar *m_noticeBar;
     oTabBar *tbSection;
     oTabBar *tbSubSection;
     oPreviewSheet *pctPreview;
@@ -145,6 +151,7 @@ private:
     oPreviewArea *m_area;
     oFooterBar *oFooter;
     QTimer *tmrAutoBackup;
+    clsJournalKeeper *m_journal;
 
     /// The kind of preview last shown.
     clsPreviewKind m_previewKind = clsPreviewKind::ScheduleOfTime;

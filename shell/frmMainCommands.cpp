@@ -15,6 +15,7 @@
 #include "editors/mdShowPreferences.h"
 #include "preview/mdPreview.h"
 #include "shell/clsFormPages.h"
+#include "shell/clsJournalKeeper.h"
 #include "shell/clsLongWork.h"
 #include "shell/frmAbout.h"
 #include "shell/frmExportAsPdf.h"
@@ -159,11 +160,16 @@ void frmMain::dropEvent(QDropEvent *event)
 
 void frmMain::openDropped(const QString &path)
 {
+    openInstead([&path] { OpenFormFile(path); });
+}
+
+void frmMain::openInstead(const std::function<void()> &open)
+{
     if (m_modal || clsLongWork::isRunning() || !leaveForAnotherClaim() || !ConfirmDrop())
         return;
     {
         const QScopedValueRollback<bool> follows(m_drawingFollows, true);
-        OpenFormFile(path);
+        open();
         mdClearPreview();
         oFooter->TimeSpentTimer()->StopTimer();
         Activate();
@@ -185,6 +191,7 @@ void frmMain::closeEvent(QCloseEvent *event)
         return;
     event->accept();
     tmrAutoBackup->stop();
+    m_journal->leave();
     WriteLog(QStringLiteral("Program Ended\r\n") + QString(110, u'#'));
     m_loaded = false;
     emit Closed();

@@ -5,6 +5,7 @@
 #include "base/mdEndSignals.h"
 #include "base/mdNetworkPath.h"
 #include "base/mdProgramFolder.h"
+#include "commands/clsJournal.h"
 #include "commands/mdRecoveredCopy.h"
 #include "controls/mdApplyTheme.h"
 #include "controls/oFooterBar.h"
@@ -77,6 +78,7 @@ void showMain(clsProgram &program, oApplication &application, clsWindowUserInter
         [footer = window->footer()](
             int value, int maximum, const QString &text) { footer->showProgress(value, maximum, text); },
         [footer = window->footer()] { footer->clearProgress(); },
+        [footer = window->footer()](const QString &line) { footer->tellLine(line); },
     });
     window->Load(claim.path);
     // The system may have asked for the end while the user was asked or told something.
@@ -103,7 +105,11 @@ int RunProgram(int argc, char **argv)
     QGuiApplication::setDesktopFileName(QStringLiteral("velmor-zr3"));
     clsWindowUserInterface user;
     const clsUserInterfaceScope scope(user);
-    application.writeRecoveredCopy = WriteRecoveredCopy;
+    application.writeRecoveredCopy = [] {
+        // With what is typed in the open screens, which the copy of the claim lacks.
+        Journal().flush();
+        return WriteRecoveredCopy();
+    };
     const clsEndSignalScope endSignals([&application] { application.endUnasked(); });
 
     if (IsNetworkPath(ProgramFolder())) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/mdGetResourceData.h"
+#include "commands/clsJournal.h"
 #include "commands/mdFileHandling.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
@@ -31,6 +32,7 @@ protected:
     void TearDown() override
     {
         SetFormDisplay({});
+        Journal().end();
         Form.reset();
         Preferences.reset();
         CleanXML.clear();

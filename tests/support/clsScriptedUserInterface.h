@@ -32,6 +32,7 @@ public:
     std::vector<Message> messages;
     std::vector<Progress> progress;
     int progressCleared = 0;
+    QStringList lines; ///< what was told without a box
     QStringList prompts;
     QStringList starts; ///< where each choice of a folder was to begin
     QStringList proposed; ///< for each file to export to
@@ -49,6 +50,7 @@ public:
         messages.push_back({title, message, buttons, int(icon), 0, true});
         return answer(buttons);
     }
+    void tellLine(const QString &line) override { lines << line; }
     void showProgress(int value, int maximum, const QString &text) override
     {
         progress.push_back({value, maximum, text});

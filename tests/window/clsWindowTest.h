@@ -30,6 +30,7 @@ protected:
         for (const char *name : {"program/Databases", "program/Logs", "claims"})
             ASSERT_TRUE(QDir(folder.path()).mkpath(QString::fromLatin1(name)));
         SetProgramFolder(path("program"));
+        qputenv("XDG_STATE_HOME", QFile::encodeName(path("state")));
         SetDatabasePath(QString());
         writePreferences({});
     }

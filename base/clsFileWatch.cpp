@@ -1,0 +1,61 @@
+#include "base/clsFileWatch.h"
+
+#include "base/clsFileSystem.h"
+#include "base/clsRunTimeError.h"
+
+#include <QCryptographicHash>
+
+namespace {
+
+QByteArray markOf(const QByteArray &bytes)
+{
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1).toHex();
+}
+
+} // namespace
+
+void clsFileWatch::wasRead(const QString &path, const std::optional<clsFileStamp> &before)
+{
+    wasKnown(path, {});
+    try {
+        const QByteArray mark = markOf(FileSystem().ReadFile(path));
+        // Where it changed meanwhile, which of the two contents was read is not known.
+        if (before && FileStamp(path) == before) {
+            m_mark = mark;
+            m_stamp = before;
+        }
+    } catch (const clsRunTimeError &) {
+        m_path.clear();
+    }
+}
+
+void clsFileWatch::wasWritten(const QString &path, const QByteArray &bytes)
+{
+    wasKnown(path, markOf(bytes));
+    m_stamp = FileStamp(path);
+}
+
+void clsFileWatch::wasKnown(const QString &path, const QByteArray &mark)
+{
+    m_path = path;
+    m_mark = mark;
+    m_stamp.reset();
+    m_changed.reset();
+}
+
+std::optional<QDateTime> clsFileWatch::changedByOthers()
+{
+    const std::optional<clsFileStamp> stamp = FileStamp(m_path);
+    if (!stamp)
+        return {};
+    if (stamp == m_stamp)
+        return m_changed;
+    try {
+        const bool isKnown = markOf(FileSystem().ReadFile(m_path)) == m_mark;
+        m_changed = isKnown ? std::nullopt : std::optional(stamp->when());
+        m_stamp = stamp;
+        return m_changed;
+    } catch (const clsRunTimeError &) {
+        return {};
+    }
+}

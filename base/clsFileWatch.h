@@ -1,0 +1,31 @@
+#pragma once
+
+#include "base/mdFileStamp.h"
+
+#include <QByteArray>
+#include <QString>
+
+/// A file as this program last read or wrote it, and whether another program has put other content in its place since.
+/// A file that is gone, or can't be read, doesn't count as changed.
+class clsFileWatch {
+public:
+    void forget() { *this = {}; }
+    /// The file was read between the stamp and now.
+    void wasRead(const QString &path, const std::optional<clsFileStamp> &before);
+    /// These bytes were written to it just now.
+    void wasWritten(const QString &path, const QByteArray &bytes);
+    /// Its content was this when it was last read or written, by an earlier run of the program.
+    void wasKnown(const QString &path, const QByteArray &mark);
+
+    const QString &path() const { return m_path; }
+    /// What stands for the content that this program knows.
+    const QByteArray &mark() const { return m_mark; }
+    /// When another program changed it; nothing where none has. The file is read only where its stamp is a new one.
+    std::optional<QDateTime> changedByOthers();
+
+private:
+    QString m_path;
+    QByteArray m_mark;
+    std::optional<clsFileStamp> m_stamp;
+    std::optional<QDateTime> m_changed;
+};

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+
+/// A file by which a program shows the others of this user that it runs: the system lets go of it however the program
+/// ends. It holds nothing. Where a file system knows no locks, nobody can tell.
+class clsHeldFile {
+public:
+    enum class clsState { Free, Held, Unknown };
+
+    /// Makes the file where it is missing, and holds it unless another program does.
+    explicit clsHeldFile(const QString &path);
+    /// Lets go of it; the file stays.
+    ~clsHeldFile();
+    clsHeldFile(const clsHeldFile &) = delete;
+    clsHeldFile &operator=(const clsHeldFile &) = delete;
+
+    /// Whether it is this object's. Also true where the file system knows no locks.
+    bool isHeld() const { return m_descriptor >= 0; }
+
+    /// Whether a program holds the file. A missing one is free.
+    static clsState of(const QString &path);
+    /// Whether a process of this machine runs, where a file can't tell.
+    static bool processRuns(qint64 process);
+
+private:
+    int m_descriptor = -1;
+};

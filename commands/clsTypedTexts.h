@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+#include <utility>
+#include <vector>
+
+/// What is typed in an open screen and differs from what the claim holds.
+struct clsTypedTexts {
+    QString screen; ///< its name, such as "frmDetailsOfWork"
+    QString caption; ///< what the user knows it by, such as "Details of Work"
+    int orderID = 0; ///< of the item whose editor it is, in the list of its class; 0 for a section and for a new item
+    std::vector<std::pair<QString, QString>> fields; ///< property and text
+
+    bool operator==(const clsTypedTexts &) const = default;
+};

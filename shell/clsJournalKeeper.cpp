@@ -1,0 +1,218 @@
+#include "shell/clsJournalKeeper.h"
+
+#include "base/mdClock.h"
+#include "commands/clsJournal.h"
+#include "commands/mdFileHandling.h"
+#include "controls/oNoticeBar.h"
+#include "editors/mdTypedTexts.h"
+#include "formdata/mdGlobals.h"
+
+#include <QFileInfo>
+#include <QLocale>
+
+namespace {
+
+constexpr std::chrono::milliseconds BetweenLooks(50); ///< while a write goes on
+
+/// What is told, the gravest first.
+enum clsKind { NotSaved, ChangedOnDisk, NotClosed, NotKept, Broken };
+
+struct clsKindRow {
+    clsKind kind;
+    clsLevel level;
+};
+
+struct clsAnswerRow {
+    clsKind kind;
+    const char *caption;
+    void (clsJournalKeeper::*act)(const QString &journal);
+};
+
+// clang-format off
+constexpr clsKindRow Kinds[] = {
+    {NotSaved,      clsLevel::Error},
+    {ChangedOnDisk, clsLevel::Warning},
+    {NotClosed,     clsLevel::Note},
+    {NotKept,       clsLevel::Warning},
+    {Broken,        clsLevel::Note},
+};
+
+constexpr clsAnswerRow Answers[] = {
+    {NotSaved,      "Save &As...",  &clsJournalKeeper::SaveAs},
+    {ChangedOnDisk, "&Open theirs", &clsJournalKeeper::OpenTheirs},
+    {NotClosed,     "&Open",        &clsJournalKeeper::OpenLeft},
+    {NotClosed,     "&Discard",     &clsJournalKeeper::DiscardLeft},
+    {Broken,        "O&K",          &clsJournalKeeper::BrokenRead},
+};
+// clang-format on
+
+bool isToday(const QDateTime &time)
+{
+    return time.toLocalTime().date() == Now().date();
+}
+
+QString dayOf(const QDateTime &time)
+{
+    static const QLocale british(QLocale::English, QLocale::UnitedKingdom);
+    return british.toString(time.toLocalTime().date(), QStringLiteral("d MMMM"));
+}
+
+QString minuteOf(const QDateTime &time)
+{
+    return time.toLocalTime().toString(QStringLiteral("HH:mm"));
+}
+
+QString changedSentence(const QDateTime &time)
+{
+    const QString day = isToday(time) ? QString() : QStringLiteral("on ") + dayOf(time) + u' ';
+    return QStringLiteral("Changed on disk ") + day + QStringLiteral("at ") + minuteOf(time)
+        + QStringLiteral(" by another program");
+}
+
+QString leftSentence(const clsJournalHead &head)
+{
+    const QString name
+        = head.claim.isEmpty() ? QStringLiteral("A new claim") : QFileInfo(head.claim).completeBaseName();
+    const QString day = isToday(head.changed) ? QString() : dayOf(head.changed) + QStringLiteral(", ");
+    return name + QStringLiteral(" was not closed properly: changes until ") + day + minuteOf(head.changed) + u'.';
+}
+
+QString brokenSentence(int count)
+{
+    return count == 1 ? QStringLiteral("A recovery copy was broken and has been set aside.")
+                      : QStringLiteral("%1 recovery copies were broken and have been set aside.").arg(count);
+}
+
+} // namespace
+
+clsJournalKeeper::clsJournalKeeper(oNoticeBar &bar, clsKeeperCommands commands, QObject *parent)
+    : QObject(parent)
+    , m_bar(bar)
+    , m_commands(std::move(commands))
+{
+    m_soon.setSingleShot(true);
+    m_soon.setTimerType(Qt::PreciseTimer);
+    connect(&m_soon, &QTimer::timeout, this, &clsJournalKeeper::tick);
+    connect(&m_regular, &QTimer::timeout, this, &clsJournalKeeper::tick);
+}
+
+clsJournalKeeper::~clsJournalKeeper()
+{
+    if (m_on)
+        Journal().end();
+}
+
+void clsJournalKeeper::begin()
+{
+    m_on = true;
+    Journal().begin({[this] { step(); }, mdTypedTexts});
+    m_regular.start(between);
+    refresh();
+}
+
+void clsJournalKeeper::leave()
+{
+    m_soon.stop();
+    m_regular.stop();
+    if (m_on)
+        Journal().leaveClaim();
+    m_on = false;
+    Journal().end();
+}
+
+void clsJournalKeeper::step()
+{
+    if (!m_soon.isActive())
+        m_soon.start(afterStep);
+}
+
+void clsJournalKeeper::tick()
+{
+    const QString before = Journal().notKept();
+    Journal().update();
+    if (Journal().isWriting())
+        m_soon.start(BetweenLooks);
+    if (before != Journal().notKept())
+        show();
+}
+
+void clsJournalKeeper::refresh()
+{
+    if (!m_on)
+        return;
+    m_left.look();
+    show();
+}
+
+void clsJournalKeeper::show()
+{
+    std::vector<clsNotice> notices;
+    const auto add = [&](clsKind kind, const QString &sentence, const QString &journal = {}) {
+        notices.push_back(notice(kind, sentence, journal));
+    };
+    if (const QString why = Journal().notSaved(); !why.isEmpty())
+        add(NotSaved, QStringLiteral("Not saved: ") + why);
+    if (const auto changed = Document().onDisk.changedByOthers())
+        add(ChangedOnDisk, changedSentence(*changed));
+    for (const clsLeftJournal &one : m_left.all())
+        add(NotClosed, leftSentence(one.head), one.file);
+    if (const QString why = Journal().notKept(); !why.isEmpty())
+        add(NotKept, QStringLiteral("No recovery copy is kept: ") + why);
+    if (m_left.broken() > 0)
+        add(Broken, brokenSentence(m_left.broken()));
+    m_bar.setNotices(std::move(notices));
+}
+
+clsNotice clsJournalKeeper::notice(int kind, const QString &sentence, const QString &journal)
+{
+    clsNotice result {Kinds[kind].level, sentence, {}};
+    for (const clsAnswerRow &row : Answers)
+        if (row.kind == kind)
+            result.answers.push_back(
+                {QString::fromLatin1(row.caption), [this, act = row.act, journal] { (this->*act)(journal); }});
+    return result;
+}
+
+const clsLeftJournal *clsJournalKeeper::left(const QString &journal) const
+{
+    for (const clsLeftJournal &one : m_left.all())
+        if (one.file == journal)
+            return &one;
+    return nullptr;
+}
+
+void clsJournalKeeper::SaveAs(const QString &)
+{
+    m_commands.saveAs();
+    refresh();
+}
+
+void clsJournalKeeper::OpenTheirs(const QString &)
+{
+    m_commands.openInstead([path = Document().filePath()] { OpenFormFile(path); });
+    refresh();
+}
+
+void clsJournalKeeper::OpenLeft(const QString &journal)
+{
+    // Looked for again after the question: another window may have opened it meanwhile.
+    m_commands.openInstead([this, journal] {
+        m_left.look();
+        if (const clsLeftJournal *one = left(journal))
+            m_left.open(*one);
+    });
+    refresh();
+}
+
+void clsJournalKeeper::DiscardLeft(const QString &journal)
+{
+    if (const clsLeftJournal *one = left(journal))
+        m_left.discard(*one);
+    refresh();
+}
+
+void clsJournalKeeper::BrokenRead(const QString &)
+{
+    m_left.brokenWereTold();
+    refresh();
+}

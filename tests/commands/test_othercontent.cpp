@@ -1,0 +1,103 @@
+// A claim's file that another program changes while the claim is open.
+
+#include "tests/commands/clsJournalTest.h"
+
+namespace {
+
+class OtherContent : public clsJournalTest {
+protected:
+    QStringList aside() const { return QDir(path("state/Velmor/Set Aside")).entryList(QDir::Files); }
+};
+
+} // namespace
+
+TEST_F(OtherContent, IsNoneAsLongAsOnlyThisProgramWrites)
+{
+    savedClaim();
+    EXPECT_FALSE(Document().onDisk.changedByOthers());
+    change();
+    EXPECT_TRUE(SaveForm(false));
+    EXPECT_FALSE(Document().onDisk.changedByOthers());
+    EXPECT_TRUE(aside().isEmpty());
+    EXPECT_TRUE(user.lines.isEmpty());
+}
+
+TEST_F(OtherContent, IsNoneWhereTheSameBytesAreWrittenAnew)
+{
+    const QString claim = savedClaim();
+    const QByteArray bytes = bytesOf(claim);
+    QFile::remove(claim);
+    put(claim, bytes);
+    EXPECT_FALSE(Document().onDisk.changedByOthers());
+}
+
+TEST_F(OtherContent, IsFoundAfterALoadAndAfterASave)
+{
+    const QString claim = savedClaim();
+    const QByteArray mine = bytesOf(claim);
+    put(claim, mine + "\n");
+    EXPECT_TRUE(Document().onDisk.changedByOthers());
+    SaveForm(false);
+    EXPECT_FALSE(Document().onDisk.changedByOthers());
+    put(claim, mine + "\n");
+    EXPECT_TRUE(Document().onDisk.changedByOthers());
+    put(claim, mine);
+    EXPECT_FALSE(Document().onDisk.changedByOthers()) << "put back as it was";
+}
+
+TEST_F(OtherContent, IsSetAsideBeforeASaveWritesOverIt)
+{
+    const QString claim = savedClaim();
+    const QByteArray theirs = bytesOf(claim) + "<!-- theirs -->";
+    put(claim, theirs);
+    change();
+    EXPECT_TRUE(SaveForm(false));
+    EXPECT_EQ(QStringList {QStringLiteral("Smith 2026-11-22 14.03.22.zr3")}, aside());
+    EXPECT_EQ(theirs, bytesOf(path("state/Velmor/Set Aside/Smith 2026-11-22 14.03.22.zr3")));
+    EXPECT_EQ(mode_t(0600), modeOf(path("state/Velmor/Set Aside/Smith 2026-11-22 14.03.22.zr3")));
+    EXPECT_EQ(Form->XMLOutput(), textOf(claim));
+    EXPECT_EQ(QStringList {QStringLiteral("Saved. The other program's version was set aside")}, user.lines);
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(OtherContent, ThatCannotBeSetAsideKeepsNoSaveUp)
+{
+    const QString claim = savedClaim();
+    put(path("state"), "no folder");
+    put(claim, bytesOf(claim) + "<!-- theirs -->");
+    change();
+    EXPECT_TRUE(SaveForm(false));
+    EXPECT_EQ(Form->XMLOutput(), textOf(claim));
+    EXPECT_EQ(QStringList {QStringLiteral("Saved. The other program's version could not be set aside")}, user.lines);
+}
+
+TEST_F(OtherContent, OfAnotherFileIsTheUsersToOverwrite)
+{
+    savedClaim();
+    put(path("claims/Other.zr3"), "theirs");
+    user.files = {path("claims/Other.zr3")};
+    user.answers = {clsUserInterface::Yes};
+    EXPECT_TRUE(SaveForm(true));
+    EXPECT_TRUE(aside().isEmpty()) << "the question was asked";
+    EXPECT_FALSE(Document().onDisk.changedByOthers());
+}
+
+TEST_F(OtherContent, IsNoneWhereTheFileIsGone)
+{
+    const QString claim = savedClaim();
+    QFile::remove(claim);
+    EXPECT_FALSE(Document().onDisk.changedByOthers());
+}
+
+TEST_F(OtherContent, IsFoundThatCameWhileTheProgramLayKilled)
+{
+    const QString claim = changedClaim();
+    kill();
+    put(claim, bytesOf(claim) + "<!-- theirs -->");
+    clsLeftJournals left;
+    left.look();
+    ASSERT_TRUE(left.open(left.all().at(0)));
+    EXPECT_TRUE(Document().onDisk.changedByOthers());
+    SaveForm(false);
+    EXPECT_EQ(1, aside().size());
+}

@@ -5,7 +5,7 @@
 
 class QPainter;
 
-/// How grave something is, as a sign.
+/// How grave something is, as a sign; the gravest first.
 enum class Sign { Error, Warning, Note };
 
 /// Draws the sign into the middle of the rectangle, as large as its shorter side.

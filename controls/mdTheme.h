@@ -37,7 +37,6 @@ inline constexpr QColor Selected      {0xEF, 0xDF, 0xEF}; ///< selected row, pre
 inline constexpr QColor TooltipBack   {0x2F, 0x2A, 0x33};
 inline constexpr QColor RedHover      {0x8B, 0x0D, 0x11}; ///< danger button under the pointer
 inline constexpr QColor RedPressed    {0x69, 0x0A, 0x0D};
-inline constexpr QColor InformationTint {0xEE, 0xF5, 0xFA}; ///< back of a line or a bar that tells something
 inline constexpr QColor PageEdge      {0xC9, 0xB0, 0xC9}; ///< border of the open page of a content switcher
 
 /// Distances in logical pixels.

@@ -1,6 +1,6 @@
 #include "controls/oFooterLine.h"
 
-#include "controls/mdLevelSign.h"
+#include "controls/mdSigns.h"
 #include "controls/mdLine.h"
 #include "controls/mdTheme.h"
 
@@ -51,7 +51,7 @@ void oFooterLine::paintEvent(QPaintEvent *)
     painter.fillRect(rect(), Theme::InformationTint);
     mdPaintLine(painter, rect(), Qt::TopEdge | Qt::RightEdge, Theme::Line);
     const double side = Theme::scaled(SignSide);
-    mdPaintLevelSign(painter, QRectF(Theme::Space16, (height() - side) / 2, side, side), clsLevel::Note);
+    mdPaintSign(painter, QRectF(Theme::Space16, (height() - side) / 2, side, side), Sign::Note);
     const QRect room = rect().adjusted(Theme::Space16 + int(side) + Theme::Space12, 0, -Theme::Space12, 0);
     painter.setFont(Theme::font(-1));
     painter.setPen(Theme::Ink);

@@ -24,25 +24,25 @@ constexpr int EdgeWidth = 3;
 constexpr int SignSide = 14;
 constexpr int NarrowestSentence = 120;
 
-struct clsLevelLook {
-    clsLevel level;
+struct clsSignLook {
+    Sign sign;
     QColor edge;
     QColor tint;
     const char *word; ///< for a screen reader, in the place of the sign
 };
 
 // clang-format off
-constexpr clsLevelLook Looks[] = {
-    {clsLevel::Note,    Theme::Blue,     Theme::InformationTint, "Note"},
-    {clsLevel::Warning, Theme::Amber, Theme::CautionTint,     "Warning"},
-    {clsLevel::Error,   Theme::Red,      Theme::Pink,            "Error"},
+constexpr clsSignLook Looks[] = {
+    {Sign::Note,    Theme::Blue,     Theme::InformationTint, "Note"},
+    {Sign::Warning, Theme::Amber, Theme::CautionTint,     "Warning"},
+    {Sign::Error,   Theme::Red,      Theme::Pink,            "Error"},
 };
 // clang-format on
 
-const clsLevelLook &lookOf(clsLevel level)
+const clsSignLook &lookOf(Sign sign)
 {
     return *std::find_if(
-        std::begin(Looks), std::end(Looks), [level](const clsLevelLook &look) { return look.level == level; });
+        std::begin(Looks), std::end(Looks), [sign](const clsSignLook &look) { return look.sign == sign; });
 }
 
 QAccessibleInterface *accessibleBar(const QString &, QObject *object)
@@ -115,11 +115,11 @@ size_t oNoticeBar::placeOf(const QString &sentence) const
 void oNoticeBar::setNotices(std::vector<clsNotice> notices)
 {
     const QString before = Sentence();
-    const clsLevel levelBefore = m_notices.empty() ? clsLevel::Note : shown().level;
+    const Sign signBefore = m_notices.empty() ? Sign::Note : shown().sign;
     m_notices = std::move(notices);
     const bool sameStays = m_shown < m_notices.size() && m_notices[m_shown].sentence == before;
     const size_t same = sameStays ? m_shown : placeOf(before);
-    const bool isGraver = !m_notices.empty() && m_notices.front().level > levelBefore;
+    const bool isGraver = !m_notices.empty() && m_notices.front().sign < signBefore;
     m_shown = same < m_notices.size() && !isGraver ? same : 0;
     present();
 }
@@ -145,7 +145,7 @@ void oNoticeBar::present()
     cmdNext->setVisible(several);
     buildAnswers();
     followWindow();
-    setAccessibleName(QString::fromLatin1(lookOf(shown().level).word) + QStringLiteral(": ") + shown().sentence);
+    setAccessibleName(QString::fromLatin1(lookOf(shown().sign).word) + QStringLiteral(": ") + shown().sentence);
     leaveFocusBehind();
     show();
     elide();
@@ -249,10 +249,10 @@ void oNoticeBar::paintEvent(QPaintEvent *)
     if (m_notices.empty())
         return;
     QPainter painter(this);
-    const clsLevelLook &look = lookOf(shown().level);
+    const clsSignLook &look = lookOf(shown().sign);
     painter.fillRect(rect(), look.tint);
     mdPaintLine(painter, rect(), Qt::BottomEdge, Theme::Line);
     painter.fillRect(QRect(0, 0, EdgeWidth, height()), look.edge);
     const double side = Theme::scaled(SignSide);
-    mdPaintLevelSign(painter, QRectF(Theme::Space24, (height() - 1 - side) / 2, side, side), look.level);
+    mdPaintSign(painter, QRectF(Theme::Space24, (height() - 1 - side) / 2, side, side), look.sign);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/mdLevelSign.h"
+#include "controls/mdSigns.h"
 
 #include <QWidget>
 
@@ -18,7 +18,7 @@ struct clsNotice {
         std::function<void()> act;
     };
 
-    clsLevel level = clsLevel::Note;
+    Sign sign = Sign::Note;
     QString sentence {};
     std::vector<clsAnswer> answers {};
 };

@@ -19,7 +19,7 @@ enum clsKind { NotSaved, ChangedOnDisk, NotClosed, NotKept, Broken };
 
 struct clsKindRow {
     clsKind kind;
-    clsLevel level;
+    Sign sign;
 };
 
 struct clsAnswerRow {
@@ -30,11 +30,11 @@ struct clsAnswerRow {
 
 // clang-format off
 constexpr clsKindRow Kinds[] = {
-    {NotSaved,      clsLevel::Error},
-    {ChangedOnDisk, clsLevel::Warning},
-    {NotClosed,     clsLevel::Note},
-    {NotKept,       clsLevel::Warning},
-    {Broken,        clsLevel::Note},
+    {NotSaved,      Sign::Error},
+    {ChangedOnDisk, Sign::Warning},
+    {NotClosed,     Sign::Note},
+    {NotKept,       Sign::Warning},
+    {Broken,        Sign::Note},
 };
 
 constexpr clsAnswerRow Answers[] = {
@@ -165,7 +165,7 @@ void clsJournalKeeper::show()
 
 clsNotice clsJournalKeeper::notice(int kind, const QString &sentence, const QString &journal)
 {
-    clsNotice result {Kinds[kind].level, sentence, {}};
+    clsNotice result {Kinds[kind].sign, sentence, {}};
     for (const clsAnswerRow &row : Answers)
         if (row.kind == kind)
             result.answers.push_back(

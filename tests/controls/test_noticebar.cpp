@@ -29,9 +29,9 @@ protected:
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     }
 
-    clsNotice notice(clsLevel level, const char *sentence, const char *answer = "&Open")
+    clsNotice notice(Sign sign, const char *sentence, const char *answer = "&Open")
     {
-        return {level, QString::fromLatin1(sentence),
+        return {sign, QString::fromLatin1(sentence),
             {{QString::fromLatin1(answer), [this, sentence] { pressed << QString::fromLatin1(sentence); }}}};
     }
     oCustomButton &button(const char *name) const { return *bar->findChild<oCustomButton *>(QLatin1String(name)); }
@@ -49,7 +49,7 @@ protected:
 TEST_F(NoticeBar, IsNotThereWithoutANotice)
 {
     EXPECT_FALSE(bar->isVisible());
-    bar->setNotices({notice(clsLevel::Note, "One")});
+    bar->setNotices({notice(Sign::Note, "One")});
     EXPECT_TRUE(bar->isVisible());
     EXPECT_EQ(Theme::scaled(40), bar->height());
     bar->setNotices({});
@@ -60,14 +60,14 @@ TEST_F(NoticeBar, IsNotThereWithoutANotice)
 TEST_F(NoticeBar, HasTheEdgeAndTheTintOfItsLevel)
 {
     const struct {
-        clsLevel level;
+        Sign sign;
         QColor edge;
         QColor tint;
-    } looks[] = {{clsLevel::Note, QColor(0, 114, 188), QColor(0xEE, 0xF5, 0xFA)},
-        {clsLevel::Warning, QColor(0x8F, 0x53, 0x00), QColor(0xFD, 0xF4, 0xE7)},
-        {clsLevel::Error, QColor(177, 17, 22), QColor(255, 246, 241)}};
+    } looks[] = {{Sign::Note, QColor(0, 114, 188), QColor(0xEE, 0xF5, 0xFA)},
+        {Sign::Warning, QColor(0x8F, 0x53, 0x00), QColor(0xFD, 0xF4, 0xE7)},
+        {Sign::Error, QColor(177, 17, 22), QColor(255, 246, 241)}};
     for (const auto &look : looks) {
-        bar->setNotices({notice(look.level, "One")});
+        bar->setNotices({notice(look.sign, "One")});
         for (const int x : {0, 2})
             EXPECT_EQ(look.edge, dot(x, 20));
         EXPECT_EQ(look.tint, dot(3, 20));
@@ -77,7 +77,7 @@ TEST_F(NoticeBar, HasTheEdgeAndTheTintOfItsLevel)
 
 TEST_F(NoticeBar, ShowsOneOfSeveralAndGoesOn)
 {
-    bar->setNotices({notice(clsLevel::Error, "Not saved"), notice(clsLevel::Note, "Left", "&Discard")});
+    bar->setNotices({notice(Sign::Error, "Not saved"), notice(Sign::Note, "Left", "&Discard")});
     EXPECT_EQ(QStringLiteral("Not saved"), bar->Sentence());
     EXPECT_EQ(QStringLiteral("1 of 2"), count());
     EXPECT_TRUE(button("cmdNextNotice").isVisible());
@@ -87,26 +87,26 @@ TEST_F(NoticeBar, ShowsOneOfSeveralAndGoesOn)
     EXPECT_EQ(QStringLiteral("Discard"), button("cmdAnswer1").Caption());
     bar->showNext();
     EXPECT_EQ(QStringLiteral("Not saved"), bar->Sentence());
-    bar->setNotices({notice(clsLevel::Error, "Not saved")});
+    bar->setNotices({notice(Sign::Error, "Not saved")});
     EXPECT_FALSE(button("cmdNextNotice").isVisible());
 }
 
 TEST_F(NoticeBar, KeepsWhatIsReadUnlessAGraverOneComes)
 {
-    bar->setNotices({notice(clsLevel::Note, "Left"), notice(clsLevel::Note, "Other")});
+    bar->setNotices({notice(Sign::Note, "Left"), notice(Sign::Note, "Other")});
     bar->showNext();
-    bar->setNotices({notice(clsLevel::Note, "Left"), notice(clsLevel::Note, "Other")});
+    bar->setNotices({notice(Sign::Note, "Left"), notice(Sign::Note, "Other")});
     EXPECT_EQ(QStringLiteral("Other"), bar->Sentence());
-    bar->setNotices({notice(clsLevel::Error, "Not saved"), notice(clsLevel::Note, "Left"), notice(clsLevel::Note, "Other")});
+    bar->setNotices({notice(Sign::Error, "Not saved"), notice(Sign::Note, "Left"), notice(Sign::Note, "Other")});
     EXPECT_EQ(QStringLiteral("Not saved"), bar->Sentence());
-    bar->setNotices({notice(clsLevel::Note, "Left"), notice(clsLevel::Note, "Other")});
+    bar->setNotices({notice(Sign::Note, "Left"), notice(Sign::Note, "Other")});
     EXPECT_EQ(QStringLiteral("Left"), bar->Sentence());
 }
 
 TEST_F(NoticeBar, TakesNoFocusAndIsFirstInTheOrder)
 {
     box->setFocus();
-    bar->setNotices({notice(clsLevel::Note, "One")});
+    bar->setNotices({notice(Sign::Note, "One")});
     EXPECT_TRUE(box->hasFocus());
     QTest::keyClick(&window, Qt::Key_Tab);
     EXPECT_TRUE(button("cmdAnswer1").hasFocus());
@@ -122,7 +122,7 @@ TEST_F(NoticeBar, LeavesTheFocusOfAWindowThatHasNoneYetToWhatStandsBelow)
     auto *below = new QPushButton;
     layout->addWidget(first);
     layout->addWidget(below);
-    first->setNotices({notice(clsLevel::Note, "One")});
+    first->setNotices({notice(Sign::Note, "One")});
     fresh.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&fresh));
     EXPECT_TRUE(below->hasFocus());
@@ -130,7 +130,7 @@ TEST_F(NoticeBar, LeavesTheFocusOfAWindowThatHasNoneYetToWhatStandsBelow)
 
 TEST_F(NoticeBar, ItsButtonsAnswerKeysAndMouse)
 {
-    bar->setNotices({notice(clsLevel::Note, "One")});
+    bar->setNotices({notice(Sign::Note, "One")});
     QTest::mouseClick(&button("cmdAnswer1"), Qt::LeftButton);
     QTest::keyClick(&window, Qt::Key_O, Qt::AltModifier);
     button("cmdAnswer1").setFocus();
@@ -142,7 +142,7 @@ TEST_F(NoticeBar, IsAnnouncedOnce)
 {
     // The offscreen platform has no screen reader that could be asked.
     const QSignalSpy announced(bar, &oNoticeBar::Announced);
-    const std::vector<clsNotice> one {notice(clsLevel::Warning, "Changed on disk")};
+    const std::vector<clsNotice> one {notice(Sign::Warning, "Changed on disk")};
     bar->setNotices(one);
     bar->setNotices(one);
     EXPECT_EQ(1, announced.count());
@@ -158,7 +158,7 @@ TEST_F(NoticeBar, IsAnnouncedOnce)
 TEST_F(NoticeBar, CutsALongSentenceAndShowsTheWholeInTheTooltip)
 {
     const QByteArray longName = QByteArray(300, 'x') + " was not closed properly";
-    bar->setNotices({notice(clsLevel::Note, longName.constData())});
+    bar->setNotices({notice(Sign::Note, longName.constData())});
     QCoreApplication::processEvents();
     auto *sentence = bar->findChild<QLabel *>(QStringLiteral("lblSentence"));
     EXPECT_TRUE(sentence->text().contains(QChar(0x2026)));
@@ -169,7 +169,7 @@ TEST_F(NoticeBar, CutsALongSentenceAndShowsTheWholeInTheTooltip)
 
 TEST_F(NoticeBar, HasLowerButtonsInALowWindow)
 {
-    bar->setNotices({notice(clsLevel::Note, "One")});
+    bar->setNotices({notice(Sign::Note, "One")});
     EXPECT_EQ(Theme::scaled(28) + 2 * Theme::RingRoom, button("cmdAnswer1").height());
     window.resize(900, Theme::scaled(600));
     QTRY_COMPARE(button("cmdAnswer1").height(), Theme::scaled(24) + 2 * Theme::RingRoom);

@@ -144,6 +144,8 @@ bool SaveForm(bool saveAs)
     // Before the text is written, so that it is part of it.
     form.Version = GetVersionInfo();
     const QString otherContent = setOtherContentAside();
+    // Where the end comes in the midst of the save, the journal must not be the older of the two.
+    Journal().flush();
     int failure = 0;
     const bool written = form.SaveXML(Document().filePath(), &failure);
     Document().lastSave = written ? clsDocument::clsSaved::Written : clsDocument::clsSaved::Failed;

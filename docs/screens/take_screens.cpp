@@ -3,6 +3,7 @@
 
 #include "base/mdClock.h"
 #include "base/mdProgramFolder.h"
+#include "commands/mdJournalFile.h"
 #include "controls/frmMessageBox.h"
 #include "controls/mdApplyTheme.h"
 #include "controls/oContentSwitcher.h"
@@ -180,6 +181,24 @@ void takeCheck(clsPictures &pictures, frmMain &main)
     main.CloseCheck();
 }
 
+/// The bar under the header, with a claim that an earlier run has left.
+void takeNotice(clsPictures &pictures, frmMain &main)
+{
+    clsJournalHead head = NewJournalHead();
+    head.claim = QStringLiteral("/home/costs/Claims/2026/Okafor possession.zr3");
+    if (!MakeJournalFolder())
+        return;
+    WriteJournal(JournalFolder() + QStringLiteral("/left") + QLatin1String(JournalEnd), JournalBytes(head, "<vzrform/>"));
+    const QSize before = main.size();
+    main.resize(before.width(), 320);
+    main.PreviewScheduleOfTime();
+    main.Activate();
+    pictures.take(main, QStringLiteral("frmMain-notice"));
+    RemoveJournal(JournalFolder() + QStringLiteral("/left") + QLatin1String(JournalEnd));
+    main.Activate();
+    main.resize(before);
+}
+
 bool takeAll(const QString &claim, const QString &folder)
 {
     clsPictures pictures(folder);
@@ -201,6 +220,7 @@ bool takeAll(const QString &claim, const QString &folder)
     takeEditors(pictures, main);
     takePreferences(pictures, main);
     takeBoxes(pictures, main);
+    takeNotice(pictures, main);
     main.PreviewAdditionalInformation();
     pictures.take(main, QStringLiteral("frmMain-notes"));
     takeFormPages(pictures, main);

@@ -113,6 +113,22 @@ TEST_F(JournalKept, GoesWithASave)
     EXPECT_TRUE(Journal().notSaved().isEmpty());
 }
 
+TEST_F(JournalKept, IsNotOlderThanTheFileWhenASaveIsBrokenOff)
+{
+    const QString claim = savedClaim();
+    change();
+    const QByteArray saved = mdToCodePage(Form->XMLOutput());
+    QByteArray atTheSave;
+    FileSystem().faultPoint = [&](clsFileStep step, const QString &at) {
+        if (step == clsFileStep::Truncate && at == claim)
+            atTheSave = bytesOf(journal());
+        return clsFileFault();
+    };
+    EXPECT_TRUE(SaveForm(false));
+    ASSERT_TRUE(ReadJournal(atTheSave));
+    EXPECT_EQ(saved, ReadJournal(atTheSave)->claim);
+}
+
 TEST_F(JournalKept, StaysAtASaveWhileSomethingIsTyped)
 {
     typed = {TypedWork};

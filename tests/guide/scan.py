@@ -13,6 +13,7 @@ FOLDERS = ["base", "formdata", "costing", "commands", "wordexport", "controls", 
 DOORS = {
     "mdCustomMessages": [0, 1], "customMessage": [0, 1], "systemMessage": [0, 1], "mdSystemFailure": [0, 1],
     "trapped": [0, 1], "logged": [1], "mdDocumentError": [0], "GetFolder": [0], "mdSetProgress": [2], "tell": [0, 1],
+    "tellLine": [0],
 }
 # An error's words are the program's own only where it is given some.
 ERROR = "clsRunTimeError"

@@ -100,6 +100,12 @@ class Life:
                 raise AssertionError("The program doesn't type: " + process.communicate()[0].decode())
             time.sleep(0.01)
 
+    def wait_for(self, what):
+        """Waits for the typist to begin something, and not for ever: it is random what it does."""
+        end = time.monotonic() + 4 * PROMISED
+        while what and time.monotonic() < end and self.rows()[-1][0] != what:
+            time.sleep(0.002)
+
     def journals(self):
         return sorted((self.state / "Velmor" / "Journal").glob("*.journal"))
 
@@ -161,13 +167,19 @@ def look_after(life, ended, bound=PROMISED):
     return seconds, characters, doing
 
 
+# In the midst of what a kill is to come, how often of a hundred, and how many seconds that lasts at most.
+MOMENTS = ((None, 50, PROMISED), ("save", 30, 0.06), ("export", 20, 0.6))
+
+
 def killed(seed):
     """A SIGKILL at a random moment."""
     chance = random.Random(seed)
+    (awaited, _, longest), = chance.choices(MOMENTS, [share for _, share, _ in MOMENTS])
     with Life() as life:
         process = life.start()
         life.wait_for_words(process, 1)
-        time.sleep(chance.uniform(0, 4 * PROMISED if chance.random() < 0.1 else PROMISED))
+        life.wait_for(awaited)
+        time.sleep(chance.uniform(0, longest))
         ended = time.clock_gettime(time.CLOCK_MONOTONIC)
         process.kill()
         process.communicate()

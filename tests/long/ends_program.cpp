@@ -113,7 +113,7 @@ private:
             note("save");
             m_window.Save();
             note("saved");
-        } else if (chance(8)) {
+        } else if (chance(20)) {
             note("export");
             m_window.ExportToWord();
             note("exported");

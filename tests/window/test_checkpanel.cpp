@@ -367,7 +367,7 @@ TEST_F(CheckPanel, LiesOverThePreviewOfANarrowWindow)
     window->resize(1280, 760);
     EXPECT_EQ(1280 - 360, sheet.width());
     press(Qt::Key_Escape);
-    EXPECT_TRUE(panel().isVisible()) << "beside the preview it is in nobody's way";
+    EXPECT_TRUE(panel().isVisible()) << "beside the preview it hides nothing";
 }
 
 TEST_F(CheckPanel, FitsTheColumnsOfThePreviewToWhatIsLeft)

@@ -73,8 +73,8 @@ int indexOf(const oSGrid &grid, pugi::xml_node element)
     return 0;
 }
 
-/// As a double click on the item's row does. The editor runs in an event loop of its own, in which its field is
-/// entered.
+/// As a double click on the item's row does. It returns only when the editor is closed, so that the field is entered
+/// from the editor's event loop.
 void activate(frmSection &screen, oSGrid &grid, const clsItemList &list, int index, const QString &property)
 {
     const int column = columnOf(list, property);

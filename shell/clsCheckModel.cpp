@@ -58,7 +58,7 @@ QModelIndex clsCheckModel::index(int row, int column, const QModelIndex &parent)
     const clsPath above = pathOf(parent);
     if (above.group < 0)
         return createIndex(row, column, quintptr(0));
-    return createIndex(row, column, quintptr(above.group + 1) | quintptr(above.line + 1) << GroupBits);
+    return createIndex(row, column, (quintptr(above.group) + 1) | (quintptr(above.line) + 1) << GroupBits);
 }
 
 QModelIndex clsCheckModel::parent(const QModelIndex &index) const
@@ -68,7 +68,7 @@ QModelIndex clsCheckModel::parent(const QModelIndex &index) const
         return {};
     if (path.note < 0)
         return createIndex(path.group, 0, quintptr(0));
-    return createIndex(path.line, 0, quintptr(path.group + 1));
+    return createIndex(path.line, 0, quintptr(path.group) + 1);
 }
 
 int clsCheckModel::rowCount(const QModelIndex &parent) const

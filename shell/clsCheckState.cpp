@@ -143,6 +143,9 @@ void clsCheckState::LookAtPrint()
     const bool isFree = m_overScreen || !QApplication::activeModalWidget();
     if (!m_copy || !m_failure.isEmpty() || !isFree || clsLongWork::isRunning())
         return;
+    // The menu of a finding names it by its number.
+    if (QApplication::activePopupWidget())
+        return m_idle.start();
     const QString text = mdPrintedText(*m_copy);
     if (text == m_printedText)
         return;

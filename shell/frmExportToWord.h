@@ -9,8 +9,8 @@ class oCustomButton;
 class oFrame;
 
 /// The dialog of the export: where the document goes, and the button that makes it. Its box holds an existing folder
-/// at all times. What the check of the claim has found stands below it, and keeps nobody from exporting; then what an
-/// export gave. While an export runs the dialog is disabled; there is no way of cancelling.
+/// at all times. Below stand how much the check of the claim has found, which hinders no export, and what an export
+/// gave. While an export runs the dialog is disabled; there is no way of cancelling.
 class frmExportToWord : public QDialog {
     Q_OBJECT
 

@@ -55,7 +55,8 @@ void frmMain::buildCheck()
     connect(m_checkPanel, &oCheckPanel::CloseAsked, this, &frmMain::CloseCheck);
     connect(m_checkPanel->List(), &oCheckList::Opened, this, &frmMain::openFinding);
     connect(m_checkPanel->List(), &oCheckList::ChosenChanged, this, &frmMain::tintChosen);
-    connect(m_checkPanel->List(), &oCheckList::AsideChanged, m_check, &clsCheckState::PutAside);
+    connect(m_checkPanel->List(), &oCheckList::AsideChanged, this,
+        [this](bool aside) { m_check->PutAside(m_checkPanel->List()->ChosenFindings(), aside); });
     // The keys of the main window alone: on screens the function keys choose fee earners.
     for (const auto &[key, forward] :
         {std::pair(QKeySequence(Qt::Key_F8), true), std::pair(QKeySequence(Qt::SHIFT | Qt::Key_F8), false)})

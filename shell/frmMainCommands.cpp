@@ -14,6 +14,7 @@
 #include "costing/mdCheckForBlankItems.h"
 #include "editors/mdShowPreferences.h"
 #include "preview/mdPreview.h"
+#include "shell/clsCheckState.h"
 #include "shell/clsFormPages.h"
 #include "shell/clsJournalKeeper.h"
 #include "shell/clsLongWork.h"
@@ -101,7 +102,10 @@ void frmMain::ExportToWord()
         return;
     }
     frmExportToWord dialog(this, m_check);
-    whileModal([&dialog] { mdShowModal(dialog); });
+    whileModal([&] {
+        mdShowModal(dialog);
+        m_check->Postpone();
+    });
     if (dialog.leadsToCheck())
         CheckClaim();
 }

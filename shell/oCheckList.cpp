@@ -147,9 +147,14 @@ int oCheckList::placeInWalk(const std::vector<int> &walk) const
     return at == walk.end() ? -1 : int(at - walk.begin());
 }
 
+std::vector<int> oCheckList::ChosenFindings() const
+{
+    return m_model->findingsOf(currentIndex());
+}
+
 int oCheckList::Chosen() const
 {
-    const std::vector<int> findings = m_model->findingsOf(currentIndex());
+    const std::vector<int> findings = ChosenFindings();
     return findings.size() == 1 ? findings.front() : -1;
 }
 
@@ -197,8 +202,7 @@ void oCheckList::toggle(const QModelIndex &index)
 void oCheckList::PopUpMenu(const QPoint &place)
 {
     const QModelIndex index = currentIndex();
-    const std::vector<int> findings = m_model->findingsOf(index);
-    if (findings.empty())
+    if (ChosenFindings().empty())
         return;
     const bool aside = index.data(clsCheckModel::GroupRole).toInt() == clsFindingGroup::PutAside;
     auto *menu = new QMenu(this);
@@ -207,7 +211,7 @@ void oCheckList::PopUpMenu(const QPoint &place)
     QAction *open = menu->addAction(QStringLiteral("&Open"), this, [this, index] { activate(index); });
     open->setObjectName(QStringLiteral("mnuOpenFinding"));
     QAction *put = menu->addAction(aside ? QStringLiteral("&Take back") : QStringLiteral("&Not a mistake"), this,
-        [this, findings, aside] { emit AsideChanged(findings, !aside); });
+        [this, aside] { emit AsideChanged(!aside); });
     put->setObjectName(QStringLiteral("mnuPutAside"));
     QAction *copy = menu->addAction(QStringLiteral("&Copy"), this, [index] {
         QApplication::clipboard()->setText(

@@ -18,6 +18,8 @@ public:
     void ShowFindings(const std::vector<clsShownFinding> &findings, const std::vector<clsFindingGroup> &groups);
     /// The chosen finding, by its number; -1 where none or more than one is.
     int Chosen() const;
+    /// All those of the chosen line.
+    std::vector<int> ChosenFindings() const;
     /// Chooses the finding behind or before the chosen one, and unfolds where it stands. At the ends nothing happens.
     void Step(bool forward);
     /// The menu of the chosen line, beside it.
@@ -28,8 +30,8 @@ signals:
     void ChosenChanged(int finding);
     /// The user wants to go to where the finding is put right.
     void Opened(int finding);
-    /// The user calls findings no mistakes, or takes that back.
-    void AsideChanged(const std::vector<int> &findings, bool aside);
+    /// The user calls the findings of the chosen line no mistakes, or takes that back.
+    void AsideChanged(bool aside);
 
 protected:
     bool viewportEvent(QEvent *event) override;

@@ -11,6 +11,7 @@
 #include "tests/window/clsMainWindowTest.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QMenu>
@@ -271,6 +272,61 @@ TEST_F(CheckPanel, WhatWasPutAsideIsKeptForTheClaimUntilItsItemChanges)
     EXPECT_EQ(after, counts()) << "read anew";
 }
 
+TEST_F(CheckPanel, TheMenuOpensByKeysAndByItsSign)
+{
+    startWithFindings();
+    openPanel();
+    const auto menu = [this] { return list().findChild<QMenu *>(QStringLiteral("mnuFinding")); };
+    const auto closed = [&] {
+        const bool shown = menu() && menu()->isVisible();
+        delete menu();
+        return shown;
+    };
+    press(Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_TRUE(closed());
+    QContextMenuEvent key(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QCoreApplication::sendEvent(list().viewport(), &key);
+    EXPECT_TRUE(closed());
+    const QRect row = list().visualRect(list().currentIndex());
+    QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, QPoint(row.right() - 20, row.center().y()));
+    EXPECT_TRUE(closed());
+    press(Qt::Key_Home); // a group has none
+    press(Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_FALSE(closed());
+}
+
+TEST_F(CheckPanel, ManyNotesAreFoldedTogetherAndPutAsideTogether)
+{
+    startWithFindings();
+    openPanel();
+    press(Qt::Key_End);
+    chooseFromMenu("mnuPutAside");
+    EXPECT_EQ(QStringLiteral("2 errors, 1 warning"), counts());
+    EXPECT_EQ(QStringLiteral("Put aside 5 folded"), groups().last());
+}
+
+TEST_F(CheckPanel, TheChosenFindingIsReadWhole)
+{
+    startWithFindings();
+    Form->Disbursement(1)->Description = QStringLiteral("A very long description of what was paid for ").repeated(3);
+    Form->Disbursement(1)->Amount = QStringLiteral("0.00");
+    openPanel();
+    const auto rowOf = [this](const QString &beginning) {
+        const QModelIndex errors = model().index(0, 0);
+        for (int row = 0; row < model().rowCount(errors); ++row)
+            if (const QModelIndex at = model().index(row, 0, errors); at.data().toString().startsWith(beginning))
+                return at;
+        return QModelIndex();
+    };
+    const QModelIndex longOne = rowOf(QStringLiteral("Disbursement 1"));
+    ASSERT_TRUE(longOne.isValid());
+    const int cut = list().visualRect(longOne).height();
+    list().selectionModel()->setCurrentIndex(longOne, QItemSelectionModel::ClearAndSelect);
+    EXPECT_GT(list().visualRect(longOne).height(), cut);
+    press(Qt::Key_Home);
+    EXPECT_EQ(cut, list().visualRect(longOne).height());
+}
+
 TEST_F(CheckPanel, AnItemThatHasChangedSinceIsFoundAgain)
 {
     startWithFindings();
@@ -311,7 +367,7 @@ TEST_F(CheckPanel, LiesOverThePreviewOfANarrowWindow)
     window->resize(1280, 760);
     EXPECT_EQ(1280 - 360, sheet.width());
     press(Qt::Key_Escape);
-    EXPECT_TRUE(panel().isVisible()) << "beside the preview it is in nobody's way";
+    EXPECT_TRUE(panel().isVisible()) << "beside the preview it hides nothing";
 }
 
 TEST_F(CheckPanel, FitsTheColumnsOfThePreviewToWhatIsLeft)

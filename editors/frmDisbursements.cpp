@@ -34,6 +34,7 @@ const clsItemList ExpertInvoices {
     .add = "cmdAddExpertInvoice",
     .menu = "mnuExpertInvoices",
     .deleteEntry = "mnuDeleteExpertInvoice",
+    .total = mdExpertsListTotal,
 };
 
 const clsItemList JointInstructions {
@@ -72,6 +73,7 @@ const clsItemList OtherDisbursements {
     .menu = "mnuOtherDisbursements",
     .deleteEntry = "mnuDeleteDisbursement",
     .changed = separate,
+    .total = mdDisbursementsListTotal,
 };
 // clang-format on
 

@@ -46,6 +46,7 @@ const clsItemList ScheduleItems {
     .menu = "mnuScheduleOfTime",
     .deleteEntry = "mnuDeleteScheduleOfTimeItem",
     .changed = renderForBill,
+    .total = mdScheduleListTotal,
 };
 // clang-format on
 

@@ -123,6 +123,7 @@ void frmMain::build()
     tbSection->setRow(oTabBar::Row::Tabs);
     tbSubSection->setObjectName(QStringLiteral("tbSubSection"));
     tbSubSection->setRow(oTabBar::Row::Buttons);
+    m_strip->setObjectName(QStringLiteral("oTotalsStrip"));
     oFooter->setObjectName(QStringLiteral("oFooter"));
     tmrAutoBackup->setObjectName(QStringLiteral("tmrAutoBackup"));
     tmrAutoBackup->setInterval(AutoBackupMilliseconds);

@@ -242,8 +242,10 @@ void clsFrameRows::addItems(const clsScreenRow &row, QWidget *grid)
     }
     m_cell->addStretch(1);
     if (row.items->total) {
-        auto *total = new oListTotal(row.items->total, static_cast<oSGrid &>(*grid), &m_frame);
+        auto &list = static_cast<oSGrid &>(*grid);
+        auto *total = new oListTotal(row.items->total, list, &m_frame);
         total->setObjectName(grid->objectName() + QStringLiteral("Total"));
+        total->setContentsMargins(0, 0, list.roomForArrows(), 0); // it ends where the rows do
         m_cell->addWidget(total);
     }
     m_grid->addLayout(m_cell, m_line++, 0, 1, 2);

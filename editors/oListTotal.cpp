@@ -71,13 +71,13 @@ QSize oListTotal::sizeHint() const
     const int sign = m_whyNot.isEmpty() ? 0 : Theme::scaled(SignGap + SignSide);
     const int width = widthOf(Theme::font(-1), m_counted) + widthOf(Theme::font(), word())
         + widthOf(Theme::font(0, true), m_figure) + 2 * Theme::scaled(Gap) + sign;
-    return {width, QFontMetrics(Theme::font(0, true)).height() + 2};
+    return {width + contentsMargins().right(), QFontMetrics(Theme::font(0, true)).height() + 2};
 }
 
 void oListTotal::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    QRect place = rect();
+    QRect place = contentsRect();
     const auto write = [&](const QString &text, const QFont &font, const QColor &ink) {
         painter.setFont(font);
         painter.setPen(ink);

@@ -141,9 +141,12 @@ void oWhySheet::fill()
 /// The buttons in as many lines as they need.
 void oWhySheet::fillPlaces()
 {
+    for (oCustomButton *old : m_places) {
+        old->setObjectName(QString());
+        old->hide(); // it may be the one that was pressed
+        old->deleteLater();
+    }
     m_places.clear();
-    for (QObject *old : m_placesRoom->findChildren<oCustomButton *>())
-        static_cast<QWidget *>(old)->setParent(nullptr), old->deleteLater();
     delete m_placesRoom->layout();
     auto *lines = new QVBoxLayout(m_placesRoom);
     const int side = Theme::scaled(Theme::Space16) - Theme::RingRoom;

@@ -3,6 +3,8 @@
 #include "editors/oListTotal.h"
 #include "tests/editors/clsScheduleTest.h"
 
+#include <QTableView>
+
 namespace {
 
 class ListTotals : public clsScheduleTest {
@@ -119,10 +121,11 @@ TEST_F(ListTotals, StandAtTheRightUnderTheGridAndTheTickBesideAdd)
 {
     const auto screen = opened(QStringLiteral("Schedule of Time"));
     const auto place = [&](const QWidget &part) { return QRect(part.mapTo(screen.get(), QPoint()), part.size()); };
-    const QRect grid = place(screen->Box("sgScheduleOfTime"));
+    const QRect grid = place(*screen->Box("sgScheduleOfTime").findChild<QTableView *>());
     const QRect add = place(*screen->findChild<QWidget *>(QStringLiteral("cmdAddScheduleOfTimeItem")));
     const QRect tick = place(screen->Box("chkExcludeNonAdvocacy"));
-    const QRect sum = place(total(*screen, "sgScheduleOfTime"));
+    const oListTotal &found = total(*screen, "sgScheduleOfTime");
+    const QRect sum = found.contentsRect().translated(place(found).topLeft());
     EXPECT_GT(sum.top(), grid.bottom());
     EXPECT_NEAR(sum.right(), grid.right(), 2);
     EXPECT_LT(add.right(), tick.left());

@@ -197,6 +197,8 @@ TEST_F(WhySheet, LeadsToTheItemAndItsGroup)
     press(Qt::Key_Return);
     EXPECT_EQ(QStringList({"frmScheduleOfTime", "frmScheduleOfTimeItemEdit"}),
         opened([this] { button("cmdPlace1").click(); }));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    EXPECT_TRUE(grid().hasFocus());
     press(Qt::Key_Return);
     EXPECT_EQ(
         QStringList({"frmFeeEarnerGroups", "frmFeeEarnerGroupEdit"}), opened([this] { button("cmdPlace2").click(); }));

@@ -197,6 +197,7 @@ TEST_F(WhySheet, LeadsToTheItemAndItsGroup)
     press(Qt::Key_Return);
     EXPECT_EQ(QStringList({"frmScheduleOfTime", "frmScheduleOfTimeItemEdit"}),
         opened([this] { button("cmdPlace1").click(); }));
+    window->activateWindow(); // no desktop does it here
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     EXPECT_TRUE(grid().hasFocus());
     press(Qt::Key_Return);

@@ -91,6 +91,11 @@ void oSGrid::setOrderable(bool orderable)
     m_arrows->setVisible(orderable);
 }
 
+int oSGrid::roomForArrows() const
+{
+    return m_orderable ? layout()->spacing() + m_arrows->sizeHint().width() : 0;
+}
+
 bool oSGrid::MultiSelect() const
 {
     return m_view->selectionMode() == QAbstractItemView::ExtendedSelection;

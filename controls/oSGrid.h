@@ -25,6 +25,8 @@ public:
     /// Shows the arrows, sorts by `OrderID` after the key columns, and numbers the items at every draw.
     bool Orderable() const { return m_orderable; }
     void setOrderable(bool orderable);
+    /// The room at the right of the rows, which the arrows take.
+    int roomForArrows() const;
     /// The menu of the window that a right click on a row pops up, by its object name.
     const QString &PopupMenuName() const { return m_popupMenuName; }
     void setPopupMenuName(const QString &name) { m_popupMenuName = name; }

@@ -5,7 +5,9 @@
 #include "controls/oAllPurposeBox.h"
 #include "controls/oBoxNote.h"
 #include "controls/oCustomButton.h"
+#include "controls/oSGrid.h"
 #include "editors/mdScreenControls.h"
+#include "editors/oListTotal.h"
 #include "editors/oTickLayout.h"
 
 #include <QGridLayout>
@@ -170,13 +172,12 @@ void clsFrameRows::addAnswer(const clsScreenRow &row, QWidget *control)
 
 void clsFrameRows::addToRowBefore(const clsScreenRow &row, QWidget *control)
 {
-    // Before the stretch at the end.
-    int place = m_cellEndsRight ? m_cell->count() : m_cell->count() - 1;
-    if (!m_cellEndsRight)
-        m_cell->insertSpacing(place++, followsButton(row) ? Theme::Space8 : Theme::Space24);
+    // Before the stretch at the end, and what stands behind that.
+    int place = m_cell->count() - (m_cellHasTotal ? 2 : 1);
+    m_cell->insertSpacing(place++, followsButton(row) ? Theme::Space8 : Theme::Space24);
     if (row.kind != clsRowKind::Button && !(row.flags & NoCaption)) {
         oFieldLabel *caption = label(row, oFieldLabel::Place::Beside, control);
-        if (m_cellEndsRight)
+        if (m_cellHasTotal)
             caption->setOneLine();
         m_cell->insertWidget(place++, caption);
     }
@@ -233,13 +234,26 @@ void clsFrameRows::addItems(const clsScreenRow &row, QWidget *grid)
     m_frame.m_grows = true;
     m_spaceBefore = 0;
     m_lastWasTick = false;
-    if (!row.items->add)
+    if (!row.items->add && !row.items->total)
         return;
-    auto *add = mdMakeAddButton(row, &m_frame);
-    m_frame.m_fields.push_back({&row, add, nullptr, m_page});
-    addSpace(Theme::Space12);
-    m_grid->addLayout(cell(add, false), m_line++, 0, 1, 2);
-    m_cellEndsRight = true;
+    addSpace(row.items->add ? Theme::Space12 : Theme::Space8);
+    m_cell = new QHBoxLayout;
+    m_cell->setSpacing(0);
+    m_cellHasTotal = row.items->total;
+    if (row.items->add) {
+        auto *add = mdMakeAddButton(row, &m_frame);
+        m_frame.m_fields.push_back({&row, add, nullptr, m_page});
+        m_cell->addWidget(add);
+    }
+    m_cell->addStretch(1);
+    if (row.items->total) {
+        auto &list = static_cast<oSGrid &>(*grid);
+        auto *total = new oListTotal(row.items->total, list, &m_frame);
+        total->setObjectName(grid->objectName() + QStringLiteral("Total"));
+        total->setContentsMargins(0, 0, list.roomForArrows(), 0); // it ends where the rows do
+        m_cell->addWidget(total);
+    }
+    m_grid->addLayout(m_cell, m_line++, 0, 1, 2);
 }
 
 /// The captions of the second column end at one edge, and so the ticks behind them begin at one.
@@ -269,7 +283,7 @@ oFieldLabel *clsFrameRows::label(const clsScreenRow &row, oFieldLabel::Place pla
 QHBoxLayout *clsFrameRows::cell(QWidget *control, bool wholeWidth)
 {
     m_cell = new QHBoxLayout;
-    m_cellEndsRight = false;
+    m_cellHasTotal = false;
     m_cell->setSpacing(0);
     m_cell->addWidget(control, wholeWidth ? 1 : 0);
     m_cell->addStretch(wholeWidth ? 0 : 1);

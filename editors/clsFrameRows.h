@@ -48,7 +48,7 @@ private:
     int m_line = 0;
     int m_spaceBefore = 0; ///< what the next row asks for above it, once there is one
     QHBoxLayout *m_cell = nullptr; ///< of the last field, for one that stands behind it
-    bool m_cellEndsRight = false; ///< what stands behind the last field stands at the right end of its line
+    bool m_cellHasTotal = false; ///< a total stands at the right end of the last field's line
     std::map<QString, QHBoxLayout *> m_tickCells; ///< by the ticks' names, for those that stand beside them
     std::vector<oFieldLabel *> m_secondColumn; ///< the captions of those
     oTickLayout *m_answers = nullptr; ///< of the question that is open

@@ -3,6 +3,7 @@
 #include "controls/clsGridAlignment.h"
 #include "controls/mdIcons.h"
 #include "costing/mdFigureFaults.h"
+#include "editors/mdListTotals.h"
 
 #include <QStringList>
 
@@ -42,7 +43,7 @@ enum clsFieldFlag : unsigned {
     OverRun = 4, ///< the text may run on to a continuation sheet
     NoReplacements = 8, ///< abbreviations are not expanded
     StartsDisabled = 16,
-    SameRow = 32, ///< stands behind the field before it; behind a list, at the right end of the line with its "Add"
+    SameRow = 32, ///< stands behind the field before it; behind a list, beside its "Add"
     Required = 64, ///< Save refuses while it is empty
     DateTick = 128, ///< a date that can be switched off
     Unbound = 256, ///< has no member in the record
@@ -92,6 +93,7 @@ struct clsItemList {
     const char *deleteEntry = nullptr; ///< object name of the menu's entry "Delete"
     std::vector<clsItemAction> actions {}; ///< further entries, above "Delete"
     void (*changed)() = nullptr; ///< brings up to date what the claim derives from the list, after each change of it
+    clsListTotal (*total)() = nullptr; ///< what stands at the right under the grid
 };
 
 /// A control that a table brings with it, as wide as it asks for. Loading and storing may be missing where it has no

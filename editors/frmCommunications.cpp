@@ -131,6 +131,7 @@ const clsItemList FeeEarners {
     },
     .show = [](oSGrid &grid) { grid.setItemCollection(feeEarnersInOrder); },
     .empty = "Add a fee earner under Fee Earners / Rates first.",
+    .total = mdCommunicationsListTotal,
 };
 // clang-format on
 

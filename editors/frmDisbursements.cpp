@@ -35,6 +35,7 @@ const clsItemList ExpertInvoices {
     .add = "cmdAddExpertInvoice",
     .menu = "mnuExpertInvoices",
     .deleteEntry = "mnuDeleteExpertInvoice",
+    .total = mdExpertsListTotal,
 };
 
 const clsItemList JointInstructions {
@@ -75,6 +76,7 @@ const clsItemList OtherDisbursements {
     .menu = "mnuOtherDisbursements",
     .deleteEntry = "mnuDeleteDisbursement",
     .changed = separate,
+    .total = mdDisbursementsListTotal,
 };
 // clang-format on
 

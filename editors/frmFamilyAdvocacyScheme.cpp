@@ -33,6 +33,7 @@ const clsItemList Hearings {
     .menu = "mnuFamilyAdvocacyScheme",
     .deleteEntry = "mnuDeleteFASItem",
     .changed = [] { Form->CreateFASCollections(); },
+    .total = mdHearingsListTotal,
 };
 // clang-format on
 

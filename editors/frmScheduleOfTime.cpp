@@ -47,6 +47,7 @@ const clsItemList ScheduleItems {
     .menu = "mnuScheduleOfTime",
     .deleteEntry = "mnuDeleteScheduleOfTimeItem",
     .changed = renderForBill,
+    .total = mdScheduleListTotal,
 };
 // clang-format on
 

@@ -2,6 +2,7 @@
 
 #include "controls/mdLine.h"
 #include "controls/mdTheme.h"
+#include "controls/oCloseButton.h"
 #include "controls/oCustomButton.h"
 
 #include <QApplication>
@@ -53,7 +54,7 @@ oWhySheet::oWhySheet(QWidget *parent)
     : QWidget(parent)
     , lblTitle(label("lblWhy", Theme::font(0, true), Theme::Ink))
     , lblAbout(label("lblAbout", Theme::font(-1), Theme::Ink2))
-    , cmdClose(new oCustomButton)
+    , cmdClose(new oCloseButton(QStringLiteral("Close")))
     , m_view(new QScrollArea)
     , m_steps(new oWhySteps)
     , m_sum(new oWhySteps)
@@ -63,10 +64,7 @@ oWhySheet::oWhySheet(QWidget *parent)
     setObjectName(QStringLiteral("oWhySheet"));
     setFocusPolicy(Qt::NoFocus);
     cmdClose->setObjectName(QStringLiteral("cmdCloseWhy"));
-    cmdClose->setLook(oCustomButton::Look::Arrow);
-    cmdClose->setGlyph(Glyph::Cross);
-    cmdClose->setAccessibleName(QStringLiteral("Close"));
-    connect(cmdClose, &oCustomButton::Click, this, &oWhySheet::Close);
+    connect(cmdClose, &oCloseButton::clicked, this, &oWhySheet::Close);
     m_steps->setObjectName(QStringLiteral("oWhySteps"));
     m_sum->setObjectName(QStringLiteral("oWhySum"));
     m_sum->setSum(true);
@@ -141,14 +139,17 @@ void oWhySheet::fill()
 /// The buttons in as many lines as they need.
 void oWhySheet::fillPlaces()
 {
+    for (oCustomButton *old : m_places) {
+        old->setObjectName(QString());
+        old->hide(); // it may be the one that was pressed
+        old->deleteLater();
+    }
     m_places.clear();
-    for (QObject *old : m_placesRoom->findChildren<oCustomButton *>())
-        static_cast<QWidget *>(old)->setParent(nullptr), old->deleteLater();
     delete m_placesRoom->layout();
     auto *lines = new QVBoxLayout(m_placesRoom);
     const int side = Theme::scaled(Theme::Space16) - Theme::RingRoom;
     lines->setContentsMargins(side, Theme::Space8, side, Theme::Space8);
-    lines->setSpacing(0);
+    lines->setSpacing(Theme::Space4);
     const int room = Theme::scaled(Width) - 2 * side;
     QHBoxLayout *line = nullptr;
     int used = room;

@@ -16,7 +16,7 @@ constexpr int SumAbove = 12;
 constexpr int BetweenLines = 2;
 constexpr int BeforeValue = 12;
 /// What a long text leaves to its value, so that neither is lost.
-constexpr int WidestText = 210;
+constexpr int WidestText = 236;
 
 QRect textRoom(const QRect &inside, int value)
 {

@@ -130,6 +130,7 @@ void frmMain::build()
     tbSubSection->setObjectName(QStringLiteral("tbSubSection"));
     tbSubSection->setRow(oTabBar::Row::Buttons);
     m_noticeBar->setObjectName(QStringLiteral("oNoticeBar"));
+    m_strip->setObjectName(QStringLiteral("oTotalsStrip"));
     oFooter->setObjectName(QStringLiteral("oFooter"));
     tmrAutoBackup->setObjectName(QStringLiteral("tmrAutoBackup"));
     tmrAutoBackup->setInterval(AutoBackupMilliseconds);

@@ -1,0 +1,83 @@
+#include "editors/mdListTotals.h"
+
+#include "costing/mdBillSummary.h"
+#include "costing/mdGetColumnTotals.h"
+#include "formdata/clsOnBill.h"
+#include "formdata/mdGlobals.h"
+
+#include <algorithm>
+
+namespace {
+
+QString counted(qsizetype count, const char *one, const char *many)
+{
+    return count == 1 ? QString::fromLatin1(one) : QString::fromLatin1(many).arg(count);
+}
+
+QString items(qsizetype count)
+{
+    return counted(count, "1 item", "%1 items");
+}
+
+/// Letters and calls of a kind, and those of them that no line of the form bills.
+struct clsCounted {
+    qint64 all = 0;
+    qint64 leftOut = 0;
+};
+
+clsCounted countedOf(const clsZR3Form &form, clsCommsKind kind)
+{
+    clsCounted result;
+    int lines = 0;
+    for (const clsCommsGroup &group : CommsGroups(form, kind)) {
+        if (group.count < 1)
+            continue;
+        result.all += group.count;
+        if (!group.takesLine() || ++lines > CommsLines)
+            result.leftOut += group.count;
+    }
+    return result;
+}
+
+} // namespace
+
+clsListTotal mdScheduleListTotal()
+{
+    const auto &all = Form->ScheduleOfTimeItemsCollection();
+    clsOnBill isOnBill(*Form);
+    const auto leftOut = std::count_if(all.begin(), all.end(), [&](const auto &item) { return !isOnBill(*item); });
+    return {leftOut ? counted(leftOut, "1 item not on the bill", "%1 items not on the bill") : items(std::ssize(all)),
+        ScheduleTotal(*Form)};
+}
+
+clsListTotal mdExpertsListTotal()
+{
+    return {items(std::ssize(Form->ExpertInvoicesCollection())), ExpertInvoicesNetTotal(*Form)};
+}
+
+clsListTotal mdDisbursementsListTotal()
+{
+    const auto fees = std::ssize(Form->CounselDisbursementsCollection());
+    return {fees ? counted(fees, "without 1 counsel's fee", "without %1 counsel's fees")
+                 : items(std::ssize(Form->DisbursementsCollection())),
+        NonCounselDisbursementsAmountTotal(*Form)};
+}
+
+clsListTotal mdHearingsListTotal()
+{
+    return {items(std::ssize(Form->FASItemsCollection())), FASItemsTotal(*Form)};
+}
+
+clsListTotal mdCommunicationsListTotal()
+{
+    clsCounted sum;
+    for (const clsCommsKind kind : {clsCommsKind::Calls, clsCommsKind::LettersIn, clsCommsKind::LettersOut}) {
+        const clsCounted part = countedOf(*Form, kind);
+        sum.all += part.all;
+        sum.leftOut += part.leftOut;
+    }
+    return {sum.leftOut
+            ? counted(sum.leftOut, "1 letter or call not on the bill", "%1 letters and calls not on the bill")
+            : counted(sum.all, "1 letter or call", "%1 letters and calls"),
+        CommsTotal(*Form)};
+}

@@ -157,6 +157,11 @@ void round(int items, clsTimes &times)
         addItem(*screen, times);
         if (grid.Rows() != items + 1 || grid.SelectedItemData() != items + 1)
             fail("The new item is not the one that is chosen in the list.");
+        // Nothing brings a window back that was uncovered, and only the active one has keys of its menu.
+        screen->activateWindow();
+        if (!QTest::qWaitForWindowActive(screen.get()))
+            fail("The screen did not become active again.");
+        QCoreApplication::processEvents();
         clsPaintWatch undone("frmScheduleOfTime");
         timer.start();
         key(*screen, Qt::Key_Z, Qt::ControlModifier);

@@ -75,7 +75,7 @@ void clsHistory::join()
     if (!m_form)
         return;
     if (!knowsTree()) {
-        // The claim is another, or is looked at for the first time: only whoever changes it needs a history.
+        // The claim is another, or this is its first step: a claim that nothing changes needs no history.
         clear();
         m_tree = m_form->m_root.document();
         m_shadow.take(root());

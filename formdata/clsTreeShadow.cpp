@@ -14,7 +14,7 @@ namespace {
 constexpr int PartDepth = 1; ///< of what stands in the root
 constexpr int UnitDepth = 2; ///< of the items of a list and the fields of a section
 
-// What no step changes: what is counted or remembered for the claim, whoever goes back in it.
+// What no step changes: it is counted or remembered for the claim as a whole.
 constexpr std::array<std::string_view, 6> Kept {
     "idcounter", "timespent", "defaultfeeearnerlistindex", "exportpath", "path", "version"};
 

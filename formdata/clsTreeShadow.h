@@ -9,7 +9,7 @@
 #include <vector>
 
 /// What a claim's tree was when it was last looked at, child by child of the root and of its lists and sections. From
-/// it and the tree comes the change since, whoever made it; and it brings a change back into the tree.
+/// it and the tree comes the change since, by whatever it was made; and it brings a change back into the tree.
 class clsTreeShadow {
 public:
     /// Told of the children of the root that hold records, while a change is brought back.

@@ -65,8 +65,8 @@ frmMain::frmMain(QWidget *parent)
     , m_pages(new clsFormPages(*m_formPages, this))
     , oFooter(new oFooterBar)
     , tmrAutoBackup(new QTimer(this))
-    , m_journal(new clsJournalKeeper(*m_noticeBar,
-          {[this] { SaveAs(); }, [this](const std::function<void()> &open) { openInstead(open); }}, this))
+    , m_journal(new clsJournalKeeper(
+          *m_noticeBar, {[this] { SaveAs(); }, [this](const std::function<void()> &open) { openInstead(open); }}, this))
 {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Velmor ZR3"));

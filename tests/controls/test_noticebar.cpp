@@ -97,7 +97,8 @@ TEST_F(NoticeBar, KeepsWhatIsReadUnlessAGraverOneComes)
     bar->showNext();
     bar->setNotices({notice(clsLevel::Note, "Left"), notice(clsLevel::Note, "Other")});
     EXPECT_EQ(QStringLiteral("Other"), bar->Sentence());
-    bar->setNotices({notice(clsLevel::Error, "Not saved"), notice(clsLevel::Note, "Left"), notice(clsLevel::Note, "Other")});
+    bar->setNotices(
+        {notice(clsLevel::Error, "Not saved"), notice(clsLevel::Note, "Left"), notice(clsLevel::Note, "Other")});
     EXPECT_EQ(QStringLiteral("Not saved"), bar->Sentence());
     bar->setNotices({notice(clsLevel::Note, "Left"), notice(clsLevel::Note, "Other")});
     EXPECT_EQ(QStringLiteral("Left"), bar->Sentence());
@@ -183,7 +184,7 @@ TEST(FooterLine, ComesForTenSecondsAndGoes)
     auto *line = footer.findChild<oFooterLine *>();
     ASSERT_TRUE(line);
     EXPECT_FALSE(line->isVisible());
-    footer.tellLine(QStringLiteral("Saved."));
+    footer.showLine(QStringLiteral("Saved."));
     EXPECT_TRUE(line->isVisible());
     EXPECT_EQ(QStringLiteral("Saved."), line->accessibleName());
     EXPECT_LT(400, line->width());

@@ -296,15 +296,16 @@ void clsFileSystem::DeleteFile(const QString &path) const
 
 void clsFileSystem::RenameFile(const QString &from, const QString &to) const
 {
-    step(clsFileStep::Rename, to,
-        [before = systemPath(from), after = systemPath(to)] { return ::rename(before.constData(), after.constData()); });
+    step(clsFileStep::Rename, to, [before = systemPath(from), after = systemPath(to)] {
+        return ::rename(before.constData(), after.constData());
+    });
     syncFolderOf(to);
 }
 
 clsFileSystem &FileSystem()
 {
-    // A test lets operations fail at its fault point, wherever they are called. One for each thread: what goes on in the
-    // background must not meet a fault point that is just being set.
+    // A test lets operations fail at its fault point, wherever they are called. One for each thread: what goes on in
+    // the background must not meet a fault point that is just being set.
     static thread_local clsFileSystem fileSystem;
     return fileSystem;
 }

@@ -6,7 +6,19 @@
 #include <functional>
 
 /// The single steps of the file operations, in the order in which a guarded overwrite meets them.
-enum class clsFileStep { Inspect, OpenToRead, Read, OpenToWrite, Truncate, Write, SyncFile, SyncFolder, Close, Delete, Rename };
+enum class clsFileStep {
+    Inspect,
+    OpenToRead,
+    Read,
+    OpenToWrite,
+    Truncate,
+    Write,
+    SyncFile,
+    SyncFolder,
+    Close,
+    Delete,
+    Rename
+};
 
 /// What becomes of a step: nothing out of the ordinary as long as neither field is set.
 struct clsFileFault {

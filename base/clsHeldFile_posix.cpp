@@ -34,7 +34,7 @@ bool isBusy(int error)
 
 clsHeldFile::clsHeldFile(const QString &path)
     : m_descriptor(mdUninterrupted(
-          [native = QFile::encodeName(path)] { return ::open(native.constData(), Flags | O_CREAT, OwnerOnly); }))
+        [native = QFile::encodeName(path)] { return ::open(native.constData(), Flags | O_CREAT, OwnerOnly); }))
 {
     for (int left = Tries; m_descriptor >= 0 && ::flock(m_descriptor, LOCK_EX | LOCK_NB) < 0; --left) {
         if (!isBusy(errno) && errno != EINTR)

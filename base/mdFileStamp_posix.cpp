@@ -20,9 +20,9 @@ qint64 nanoseconds(const timespec &time)
 std::optional<clsFileStamp> FileStamp(const QString &path)
 {
     struct stat status = {};
-    if (path.isEmpty() || path.contains(QChar(u'\0'))
-        || mdUninterrupted([native = QFile::encodeName(path), &status] { return ::stat(native.constData(), &status); })
-            < 0
+    if (path.isEmpty() || path.contains(QChar(u'\0')) || mdUninterrupted([native = QFile::encodeName(path), &status] {
+            return ::stat(native.constData(), &status);
+        }) < 0
         || !S_ISREG(status.st_mode))
         return {};
     return clsFileStamp {

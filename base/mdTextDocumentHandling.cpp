@@ -151,8 +151,8 @@ QByteArray read(const QString &path)
 
 /// Runs a file operation; false where it failed, with its box shown.
 template <class Operation>
-bool trapped(const QString &title, const QString &whatWasTried, const QString &path, Operation operation,
-    int *failure = nullptr)
+bool trapped(
+    const QString &title, const QString &whatWasTried, const QString &path, Operation operation, int *failure = nullptr)
 {
     const auto failed = [&](const clsRunTimeError &error) {
         if (failure)
@@ -200,7 +200,8 @@ bool WriteTextDocument(const QString &text, const QString &path, bool logIt, int
 {
     if (logIt)
         WriteLog(QStringLiteral("Begin Write Text Document - ") + path);
-    if (!trapped(QStringLiteral("File Not Saved"), QStringLiteral("There was a problem writing to the following path:"),
+    if (!trapped(
+            QStringLiteral("File Not Saved"), QStringLiteral("There was a problem writing to the following path:"),
             path, [&] { overwrite(path, mdToCodePage(text)); }, failure))
         return false;
     if (logIt)

@@ -72,17 +72,17 @@ bool loadForm(const QString &path)
 }
 
 /// Keeps what another program has put into the claim's file since this one read or saved it: the save that follows
-/// writes over it. What the user is told of it after the save; empty where there was nothing to keep.
-QString setOtherContentAside()
+/// writes over it. Whether that could be done; nothing where there was nothing to keep.
+std::optional<bool> setOtherContentAside()
 {
     if (Document().filePath() != Document().onDisk.path() || !Document().onDisk.changedByOthers())
         return {};
     try {
         const QByteArray bytes = FileSystem().ReadFile(Document().filePath());
-        if (MakeStateFolder() && !WriteDatedCopy(StateFolder() + QStringLiteral("/Set Aside"), bytes).isEmpty())
-            return QStringLiteral("The other program's version was set aside");
-    } catch (const clsRunTimeError &) { }
-    return QStringLiteral("The other program's version could not be set aside");
+        return MakeStateFolder() && !WriteDatedCopy(StateFolder() + QStringLiteral("/Set Aside"), bytes).isEmpty();
+    } catch (const clsRunTimeError &) {
+        return false;
+    }
 }
 
 /// Sets work aside that counts as saved and would be lost, and tells the user. False where no place took it.
@@ -143,7 +143,7 @@ bool SaveForm(bool saveAs)
         return false;
     // Before the text is written, so that it is part of it.
     form.Version = GetVersionInfo();
-    const QString otherContent = setOtherContentAside();
+    const std::optional<bool> keptOther = setOtherContentAside();
     // Where the end comes in the midst of the save, the journal must not be the older of the two.
     Journal().flush();
     int failure = 0;
@@ -155,8 +155,10 @@ bool SaveForm(bool saveAs)
     if (written)
         Document().onDisk.wasWritten(Document().filePath(), mdToCodePage(CleanXML));
     Journal().saved(written, failure);
-    if (!otherContent.isEmpty())
-        UserInterface().tellLine((written ? QStringLiteral("Saved. ") : QString()) + otherContent);
+    if (written && keptOther)
+        UserInterface().tellLine(*keptOther
+                ? QStringLiteral("Saved. The other program's version was set aside")
+                : QStringLiteral("Saved. The other program's version could not be set aside"));
     run(formDisplay.activate);
     return true;
 }

@@ -155,7 +155,7 @@ void oFooterBar::clearProgress()
     showProgress(0, m_progressBar->maximum(), QString());
 }
 
-void oFooterBar::tellLine(const QString &line)
+void oFooterBar::showLine(const QString &line)
 {
     m_footerLine->tell(line);
     placeLine();

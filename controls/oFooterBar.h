@@ -24,7 +24,7 @@ public:
     void showProgress(int value, int maximum, const QString &text);
     void clearProgress();
     /// Tells what was done beside what was asked for; the line goes by itself.
-    void tellLine(const QString &line);
+    void showLine(const QString &line);
     /// Writes the program's name and the present time.
     void UpdateInfo();
 

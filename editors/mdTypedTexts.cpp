@@ -1,8 +1,8 @@
 #include "editors/mdTypedTexts.h"
 
 #include "base/mdNumberText.h"
-#include "controls/oCheckBox.h"
 #include "editors/frmSection.h"
+#include "editors/mdFieldTexts.h"
 #include "editors/mdScreenControls.h"
 
 #include <QApplication>
@@ -10,19 +10,6 @@
 #include <algorithm>
 
 namespace {
-
-/// Only what the record has a property for can be put back.
-bool isTyped(const clsScreenRow &row)
-{
-    return row.kind != clsRowKind::Button && row.kind != clsRowKind::Items && !(row.flags & Unbound);
-}
-
-QString textOf(const clsScreenField &field)
-{
-    if (const auto *tick = qobject_cast<const oCheckBox *>(field.control))
-        return tick->Checked() ? QStringLiteral("True") : QStringLiteral("False");
-    return mdTextOf(*field.control);
-}
 
 int orderOf(const frmSection &screen)
 {
@@ -33,8 +20,7 @@ int orderOf(const frmSection &screen)
 clsTypedTexts typedIn(const frmSection &screen)
 {
     const clsScreen &table = screen.Screen();
-    clsTypedTexts texts {
-        screen.objectName(), QString::fromUtf8(table.section ? table.section : table.header), 0, {}};
+    clsTypedTexts texts {screen.objectName(), QString::fromUtf8(table.section ? table.section : table.header), 0, {}};
     const QStringList now = mdFieldTexts(screen.Fields());
     const QStringList &before = screen.LoadedTexts();
     for (qsizetype i = 0; i < qMin(now.size(), before.size()); ++i)
@@ -54,14 +40,6 @@ int depthOf(const QWidget &window)
 }
 
 } // namespace
-
-QStringList mdFieldTexts(const std::vector<clsScreenField> &fields)
-{
-    QStringList texts;
-    for (const clsScreenField &field : fields)
-        texts << (isTyped(*field.row) ? textOf(field) : QString());
-    return texts;
-}
 
 std::vector<clsTypedTexts> mdTypedTexts()
 {

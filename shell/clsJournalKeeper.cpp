@@ -64,9 +64,9 @@ QString minuteOf(const QDateTime &time)
 
 QString changedSentence(const QDateTime &time)
 {
-    const QString day = isToday(time) ? QString() : QStringLiteral("on ") + dayOf(time) + u' ';
-    return QStringLiteral("Changed on disk ") + day + QStringLiteral("at ") + minuteOf(time)
-        + QStringLiteral(" by another program");
+    if (isToday(time))
+        return QStringLiteral("Changed on disk at %1 by another program").arg(minuteOf(time));
+    return QStringLiteral("Changed on disk on %1 at %2 by another program").arg(dayOf(time), minuteOf(time));
 }
 
 QString leftSentence(const clsJournalHead &head)
@@ -74,7 +74,7 @@ QString leftSentence(const clsJournalHead &head)
     const QString name
         = head.claim.isEmpty() ? QStringLiteral("A new claim") : QFileInfo(head.claim).completeBaseName();
     const QString day = isToday(head.changed) ? QString() : dayOf(head.changed) + QStringLiteral(", ");
-    return name + QStringLiteral(" was not closed properly: changes until ") + day + minuteOf(head.changed) + u'.';
+    return QStringLiteral("%1 was not closed properly: changes until %2.").arg(name, day + minuteOf(head.changed));
 }
 
 QString brokenSentence(int count)

@@ -28,8 +28,8 @@ public:
     clsJournalKeeper(oNoticeBar &bar, clsKeeperCommands commands, QObject *parent);
     ~clsJournalKeeper() override;
 
-    /// How long after a step it is written, and how often the rest is looked at: far oftener than the thirty seconds that
-    /// are promised. By the monotonic clock.
+    /// How long after a step it is written, and how often the rest is looked at: far oftener than the thirty seconds
+    /// that are promised. By the monotonic clock.
     std::chrono::milliseconds afterStep {300};
     std::chrono::milliseconds between {10000};
 

@@ -78,7 +78,7 @@ void showMain(clsProgram &program, oApplication &application, clsWindowUserInter
         [footer = window->footer()](
             int value, int maximum, const QString &text) { footer->showProgress(value, maximum, text); },
         [footer = window->footer()] { footer->clearProgress(); },
-        [footer = window->footer()](const QString &line) { footer->tellLine(line); },
+        [footer = window->footer()](const QString &line) { footer->showLine(line); },
     });
     window->Load(claim.path);
     // The system may have asked for the end while the user was asked or told something.

@@ -222,7 +222,8 @@ void takeNotice(clsPictures &pictures, frmMain &main)
     head.claim = QStringLiteral("/home/costs/Claims/2026/Okafor possession.zr3");
     if (!MakeJournalFolder())
         return;
-    WriteJournal(JournalFolder() + QStringLiteral("/left") + QLatin1String(JournalEnd), JournalBytes(head, "<vzrform/>"));
+    WriteJournal(
+        JournalFolder() + QStringLiteral("/left") + QLatin1String(JournalEnd), JournalBytes(head, "<vzrform/>"));
     const QSize before = main.size();
     main.resize(before.width(), 320);
     main.PreviewScheduleOfTime();

@@ -211,7 +211,7 @@ TEST_F(JournalKept, AFullDiskLeavesTheJournalBeforeAndSaysSo)
     change();
     FileSystem().faultPoint = [](clsFileStep step, const QString &at) {
         return step == clsFileStep::Write && at.contains(QLatin1String("/Journal/")) ? clsFileFault {ENOSPC, 10}
-                                                                                      : clsFileFault();
+                                                                                     : clsFileFault();
     };
     Journal().flush();
     EXPECT_EQ(QStringLiteral("the disk is full"), Journal().notKept());

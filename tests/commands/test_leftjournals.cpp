@@ -74,7 +74,8 @@ TEST_F(LeftJournals, OpenedAndKilledAgainAreOfferedAgain)
 
 TEST_F(LeftJournals, KeepWhatWasTypedInOpenScreens)
 {
-    typed = {{QStringLiteral("frmCounselEdit"), QStringLiteral("Counsel"), 2, {{QStringLiteral("Name"), QStringLiteral("A")}}}};
+    typed = {{QStringLiteral("frmCounselEdit"), QStringLiteral("Counsel"), 2,
+        {{QStringLiteral("Name"), QStringLiteral("A")}}}};
     changedClaim();
     const auto before = typed;
     typed.clear();

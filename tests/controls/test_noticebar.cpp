@@ -183,7 +183,7 @@ TEST(FooterLine, ComesForTenSecondsAndGoes)
     auto *line = footer.findChild<oFooterLine *>();
     ASSERT_TRUE(line);
     EXPECT_FALSE(line->isVisible());
-    footer.tellLine(QStringLiteral("Saved."));
+    footer.showLine(QStringLiteral("Saved."));
     EXPECT_TRUE(line->isVisible());
     EXPECT_EQ(QStringLiteral("Saved."), line->accessibleName());
     EXPECT_LT(400, line->width());

@@ -16,7 +16,8 @@ using Fields = std::vector<std::pair<QString, QString>>;
 TEST_F(TypedTexts, AreNoneWhereNothingIsTyped)
 {
     EXPECT_TRUE(mdTypedTexts().empty());
-    for (const char *section : {"Details of Work", "Client Details", "Outcome of Case", "Communications", "Form Setup"}) {
+    for (const char *section :
+        {"Details of Work", "Client Details", "Outcome of Case", "Communications", "Form Setup"}) {
         const auto screen = opened(QString::fromLatin1(section));
         const auto typed = mdTypedTexts();
         EXPECT_TRUE(typed.empty()) << section << ": "

@@ -102,7 +102,8 @@ class Documents(unittest.TestCase):
     def test_contents_lead_to_their_pages(self):
         pages = printed(GUIDE).split("\f")
         self.assertEqual(len(pages) - 1, int(information(GUIDE)["Pages"]))
-        contents = [page for page in pages[1:4] if same(page).startswith("Contents")]
+        # As laid out: else the number of a chapter that begins a page comes before the page's head.
+        contents = [page for page in printed(GUIDE, 2, 4, layout=True).split("\f") if same(page).startswith("Contents")]
         self.assertTrue(contents)
         rows = re.findall(r"^\s*(?:(\d+)\s+)?(\S.*?)[ .]{3,}(\d+)$", "\n".join(contents), flags=re.MULTILINE)
         chapters = [row for row in rows if row[0]]

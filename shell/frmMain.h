@@ -123,6 +123,7 @@ private:
     void buildCheck();
     void openCheck(bool open);
     void showCheck();
+    void fitPreview();
     void renewCheck();
     void openFinding(int finding);
     void tintChosen();

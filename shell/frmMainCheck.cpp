@@ -52,6 +52,7 @@ void frmMain::buildCheck()
     previews->setLayout(m_previews);
     m_checkPanel = new oCheckPanel(*m_check);
     m_area = new oPreviewArea(previews, m_checkPanel);
+    connect(m_area, &oPreviewArea::BesideChanged, this, &frmMain::fitPreview);
     connect(m_checkPanel, &oCheckPanel::CloseAsked, this, &frmMain::CloseCheck);
     connect(m_checkPanel->List(), &oCheckList::Opened, this, &frmMain::openFinding);
     connect(m_checkPanel->List(), &oCheckList::ChosenChanged, this, &frmMain::tintChosen);
@@ -69,11 +70,16 @@ void frmMain::openCheck(bool open)
     if (open == m_area->isPanelOpen())
         return;
     m_area->setPanelOpen(open);
-    if (m_loaded && !showsFormPages() && !m_area->panelLiesOver()) {
-        mdFitPreview();
-        m_drawnWidth = sgPreview->width();
-    }
     tintChosen();
+}
+
+void frmMain::fitPreview()
+{
+    // The grid is drawn anew when the form pages give way to it.
+    if (!m_loaded || showsFormPages())
+        return;
+    mdFitPreview();
+    m_drawnWidth = sgPreview->width();
 }
 
 void frmMain::showCheck()

@@ -51,6 +51,11 @@ void oPreviewArea::place()
     const int panel = std::min(m_panel->sizeHint().width(), width());
     m_panel->setGeometry(width() - panel, 0, panel, height());
     m_panel->raise();
+    const bool beside = m_open && !panelLiesOver();
+    if (beside != m_beside) {
+        m_beside = beside;
+        emit BesideChanged();
+    }
 }
 
 void oPreviewArea::resizeEvent(QResizeEvent *)

@@ -19,6 +19,10 @@ public:
     QSize sizeHint() const override { return m_preview->sizeHint(); }
     QSize minimumSizeHint() const override { return {0, 0}; }
 
+signals:
+    /// The panel has come to stand beside the preview, or no longer does: what is left to the preview is other.
+    void BesideChanged();
+
 protected:
     void resizeEvent(QResizeEvent *event) override;
 
@@ -29,4 +33,5 @@ private:
     QWidget *m_preview;
     QWidget *m_panel;
     bool m_open = false;
+    bool m_beside = false;
 };

@@ -18,6 +18,8 @@
 #include <QScrollBar>
 #include <QTimer>
 
+#include <cmath>
+
 // The panel with what the check has found, by keyboard.
 
 namespace {
@@ -366,6 +368,8 @@ TEST_F(CheckPanel, LiesOverThePreviewOfANarrowWindow)
     openPanel();
     window->resize(1280, 760);
     EXPECT_EQ(1280 - 360, sheet.width());
+    const auto &grid = control<oPreviewGrid>(*window, "sgPreview");
+    EXPECT_EQ(std::lround(grid.width() / 103.0 * 10), grid.ColumnWidth(13)) << "fitted to what is left";
     press(Qt::Key_Escape);
     EXPECT_TRUE(panel().isVisible()) << "beside the preview it hides nothing";
 }

@@ -22,6 +22,7 @@ constexpr int RightRoom = 44; ///< for the menu sign, so that no line breaks ane
 constexpr int MenuWidth = 28;
 constexpr int MenuHeight = 24;
 constexpr int MostLines = 2;
+constexpr int AllLines = 0;
 
 bool isGroup(const QModelIndex &index)
 {
@@ -38,6 +39,13 @@ bool isOpen(const QStyleOptionViewItem &option, const QModelIndex &index)
 {
     const auto *tree = qobject_cast<const QTreeView *>(option.widget);
     return tree && tree->isExpanded(index);
+}
+
+/// The chosen line shows its sentence whole: no pointer is needed to read it.
+bool isChosen(const QStyleOptionViewItem &option, const QModelIndex &index)
+{
+    const auto *view = qobject_cast<const QAbstractItemView *>(option.widget);
+    return view && view->currentIndex() == index;
 }
 
 std::optional<Sign> signOf(const QModelIndex &index)
@@ -89,20 +97,16 @@ int clsCheckDelegate::textWidth(const QModelIndex &index, int width) const
     return qMax(1, width - indentOf(index) - Theme::scaled(RightRoom));
 }
 
-QStringList clsCheckDelegate::sentence(const QModelIndex &index, int width, bool *isCut) const
+QStringList clsCheckDelegate::sentence(const QString &text, int room, int mostLines) const
 {
-    const QString text = index.data().toString();
-    const int room = textWidth(index, width);
     QTextLayout layout(text, m_sentence);
     layout.beginLayout();
     QStringList lines;
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLineWidth(room);
         const QString rest = text.mid(line.textStart());
-        if (lines.size() + 1 == MostLines && line.textStart() + line.textLength() < text.size()) {
+        if (lines.size() + 1 == mostLines) {
             lines << QFontMetrics(m_sentence).elidedText(rest, Qt::ElideRight, room);
-            if (isCut)
-                *isCut = true;
             break;
         }
         lines << rest.left(line.textLength()).trimmed();
@@ -113,10 +117,7 @@ QStringList clsCheckDelegate::sentence(const QModelIndex &index, int width, bool
 
 bool clsCheckDelegate::isCut(const QModelIndex &index, int width) const
 {
-    bool result = false;
-    if (!isGroup(index))
-        sentence(index, width, &result);
-    return result;
+    return !isGroup(index) && sentence(index.data().toString(), textWidth(index, width), AllLines).size() > MostLines;
 }
 
 QSize clsCheckDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
@@ -133,13 +134,15 @@ QSize clsCheckDelegate::sizeHint(const QStyleOptionViewItem &option, const QMode
     int &lines = m_lines[text];
     if (lines == 0)
         lines = QFontMetrics(m_sentence).horizontalAdvance(text) <= room ? 1 : MostLines;
-    const int height = lines * QFontMetrics(m_sentence).height() + QFontMetrics(m_place).height();
+    const int shown = isChosen(option, index) ? int(sentence(text, room, AllLines).size()) : lines;
+    const int height = shown * QFontMetrics(m_sentence).height() + QFontMetrics(m_place).height();
     return {0, height + 2 * Theme::Space8 - 2};
 }
 
 void clsCheckDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     painter->save();
+    mdPaintRow(*painter, option, option.widget);
     if (isGroup(index))
         paintGroup(*painter, option, index);
     else
@@ -182,7 +185,8 @@ void clsCheckDelegate::paintLine(QPainter &painter, const QStyleOptionViewItem &
     int top = row.top() + Theme::Space8 - 1;
     painter.setFont(m_sentence);
     painter.setPen(isAside ? Theme::Ink2 : Theme::Ink);
-    for (const QString &line : sentence(index, row.width())) {
+    const int most = isChosen(option, index) ? AllLines : MostLines;
+    for (const QString &line : sentence(index.data().toString(), room, most)) {
         painter.drawText(QRect(left, top, room, height), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, line);
         top += height;
     }

@@ -4,7 +4,8 @@
 #include <QHash>
 #include <QStyledItemDelegate>
 
-/// Draws the groups and the lines of the check. A line has its sentence, of two lines at most, and its place.
+/// Draws the groups and the lines of the check. A line has its sentence, of two lines at most until it is chosen, and
+/// its place.
 class clsCheckDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
@@ -27,7 +28,8 @@ private:
     void paintMenuSign(QPainter &painter, const QRect &line) const;
     int textWidth(const QModelIndex &index, int width) const;
     int indentOf(const QModelIndex &index) const;
-    QStringList sentence(const QModelIndex &index, int width, bool *isCut = nullptr) const;
+    /// Broken into lines of that width; of more than `mostLines`, where that isn't 0, the last is cut short.
+    QStringList sentence(const QString &text, int room, int mostLines) const;
 
     QFont m_caption;
     QFont m_count;

@@ -52,7 +52,6 @@ oCheckList::oCheckList(QWidget *parent)
     setEditTriggers(NoEditTriggers);
     setSelectionMode(SingleSelection);
     setMouseTracking(true);
-    setAllColumnsShowFocus(true);
     setVerticalScrollMode(ScrollPerPixel);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -183,7 +182,16 @@ void oCheckList::activate(const QModelIndex &index)
     if (findings.size() == 1)
         emit Opened(findings.front());
     else if (index.isValid())
-        setExpanded(index, !isExpanded(index));
+        toggle(index);
+}
+
+/// What comes to be seen is brought into view, as much of it as there is room for.
+void oCheckList::toggle(const QModelIndex &index)
+{
+    setExpanded(index, !isExpanded(index));
+    if (isExpanded(index))
+        scrollTo(m_model->index(m_model->rowCount(index) - 1, 0, index));
+    scrollTo(index);
 }
 
 void oCheckList::PopUpMenu(const QPoint &place)
@@ -198,7 +206,7 @@ void oCheckList::PopUpMenu(const QPoint &place)
     menu->setAttribute(Qt::WA_DeleteOnClose);
     QAction *open = menu->addAction(QStringLiteral("&Open"), this, [this, index] { activate(index); });
     open->setObjectName(QStringLiteral("mnuOpenFinding"));
-    QAction *put = menu->addAction(aside ? QStringLiteral("&Take Back") : QStringLiteral("&Not a mistake"), this,
+    QAction *put = menu->addAction(aside ? QStringLiteral("&Take back") : QStringLiteral("&Not a mistake"), this,
         [this, findings, aside] { emit AsideChanged(findings, !aside); });
     put->setObjectName(QStringLiteral("mnuPutAside"));
     QAction *copy = menu->addAction(QStringLiteral("&Copy"), this, [index] {
@@ -219,7 +227,12 @@ void oCheckList::contextMenuEvent(QContextMenuEvent *event)
         choose(index);
         return PopUpMenu(event->globalPos());
     }
-    PopUpMenu(viewport()->mapToGlobal(m_delegate->menuSign(visualRect(currentIndex())).bottomLeft()));
+    popUpMenuOf(currentIndex());
+}
+
+void oCheckList::popUpMenuOf(const QModelIndex &index)
+{
+    PopUpMenu(viewport()->mapToGlobal(m_delegate->menuSign(visualRect(index)).bottomLeft()));
 }
 
 void oCheckList::keyPressEvent(QKeyEvent *event)
@@ -227,6 +240,8 @@ void oCheckList::keyPressEvent(QKeyEvent *event)
     const bool enters = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (enters && !(event->modifiers() & ~Qt::KeypadModifier) && currentIndex().isValid())
         return activate(currentIndex());
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)
+        return popUpMenuOf(currentIndex());
     QTreeView::keyPressEvent(event);
     // Those that the list has no use for are the window's.
     if (event->key() == Qt::Key_Escape)
@@ -241,9 +256,9 @@ void oCheckList::mousePressEvent(QMouseEvent *event)
     if (event->button() != Qt::LeftButton || !index.isValid())
         return;
     if (!isGroup(index) && m_delegate->menuSign(visualRect(index)).contains(place))
-        PopUpMenu(viewport()->mapToGlobal(m_delegate->menuSign(visualRect(index)).bottomLeft()));
+        popUpMenuOf(index);
     else if (m_model->rowCount(index) > 0)
-        setExpanded(index, !isExpanded(index));
+        toggle(index);
 }
 
 void oCheckList::mouseDoubleClickEvent(QMouseEvent *event)
@@ -259,8 +274,13 @@ void oCheckList::mouseDoubleClickEvent(QMouseEvent *event)
 void oCheckList::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {
     QTreeView::currentChanged(current, previous);
-    if (!m_renewing)
-        emit ChosenChanged(Chosen());
+    if (m_renewing)
+        return;
+    // The chosen line is as high as its sentence.
+    scheduleDelayedItemsLayout();
+    executeDelayedItemsLayout();
+    scrollTo(current);
+    emit ChosenChanged(Chosen());
 }
 
 void oCheckList::focusInEvent(QFocusEvent *event)

@@ -51,6 +51,8 @@ private:
     void fold();
     void choose(const QModelIndex &index);
     void activate(const QModelIndex &index);
+    void toggle(const QModelIndex &index);
+    void popUpMenuOf(const QModelIndex &index);
     QString ruleOf(const QModelIndex &index) const;
     int placeInWalk(const std::vector<int> &walk) const;
 

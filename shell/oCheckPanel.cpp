@@ -3,7 +3,7 @@
 #include "controls/mdIcons.h"
 #include "controls/mdLine.h"
 #include "controls/mdTheme.h"
-#include "controls/oCustomButton.h"
+#include "controls/oCloseButton.h"
 #include "shell/clsCheckState.h"
 #include "shell/oCheckList.h"
 
@@ -41,7 +41,7 @@ oCheckPanel::oCheckPanel(clsCheckState &state, QWidget *parent)
     , lblTrouble(label("lblCheckTrouble", Theme::Ink2, this))
     , m_nothing(new QWidget(this))
     , lblNothing(label("lblCheckNothing", Theme::Ink2, m_nothing))
-    , cmdClose(new oCustomButton(this))
+    , cmdClose(new oCloseButton(QStringLiteral("Close the check"), this))
     , m_list(new oCheckList(this))
     , m_pages(new QStackedLayout)
 {
@@ -49,9 +49,9 @@ oCheckPanel::oCheckPanel(clsCheckState &state, QWidget *parent)
     setAccessibleName(QStringLiteral("Check Claim"));
     build();
     takeFonts();
-    connect(&m_state, &clsCheckState::Changed, this, &oCheckPanel::show);
-    connect(cmdClose, &oCustomButton::Click, this, &oCheckPanel::CloseAsked);
-    show();
+    connect(&m_state, &clsCheckState::Changed, this, &oCheckPanel::showFindings);
+    connect(cmdClose, &QAbstractButton::clicked, this, &oCheckPanel::CloseAsked);
+    showFindings();
 }
 
 void oCheckPanel::build()
@@ -60,15 +60,12 @@ void oCheckPanel::build()
     lblTrouble->setWordWrap(true);
     lblTrouble->setContentsMargins(Theme::Space16, Theme::Space4, Theme::Space16, Theme::Space8);
     cmdClose->setObjectName(QStringLiteral("cmdCloseCheck"));
-    cmdClose->setLook(oCustomButton::Look::Arrow);
-    cmdClose->setGlyph(Glyph::Cross);
-    cmdClose->setAccessibleName(QStringLiteral("Close the check"));
-    cmdClose->setToolTip(QStringLiteral("Close"));
 
     auto *heading = new QHBoxLayout;
     heading->setContentsMargins(Theme::Space16, 0, Theme::Space8, 0);
-    heading->setSpacing(Theme::Space12);
+    heading->setSpacing(Theme::Space8);
     heading->addWidget(lblCaption);
+    lblCounts->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     heading->addWidget(lblCounts, 1);
     heading->addWidget(cmdClose);
     auto *headingArea = new QWidget(this);
@@ -108,11 +105,11 @@ void oCheckPanel::takeFonts()
         small->setFont(Theme::font(-1));
 }
 
-void oCheckPanel::show()
+void oCheckPanel::showFindings()
 {
     m_list->ShowFindings(m_state.Findings(), m_state.Groups());
     const QString counts = mdCountsInWords(m_state.Groups(), true);
-    lblCounts->setText(counts);
+    showCounts();
     lblTrouble->setText(m_state.Trouble());
     lblTrouble->setVisible(!m_state.Trouble().isEmpty());
     const bool failed = !m_state.Failure().isEmpty();
@@ -123,6 +120,22 @@ void oCheckPanel::show()
     if (hadFocus)
         TakeFocus();
     m_list->setAccessibleDescription(counts.isEmpty() ? lblNothing->text() : counts);
+}
+
+/// Where there is no room for all, the notes are left out.
+void oCheckPanel::showCounts()
+{
+    const QString all = mdCountsInWords(m_state.Groups(), true);
+    const bool fits = lblCounts->fontMetrics().horizontalAdvance(all) <= lblCounts->width();
+    lblCounts->setText(fits ? all : mdCountsInWords(m_state.Groups(), false));
+    lblCounts->setToolTip(fits ? QString() : all);
+}
+
+void oCheckPanel::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    layout()->activate();
+    showCounts();
 }
 
 void oCheckPanel::TakeFocus()

@@ -6,7 +6,7 @@ class QLabel;
 class QStackedLayout;
 class clsCheckState;
 class oCheckList;
-class oCustomButton;
+class oCloseButton;
 
 /// What the check has found, beside the preview: a heading with the counts, and the list or, where there is nothing,
 /// the word for it.
@@ -28,11 +28,13 @@ signals:
 protected:
     void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void build();
     void takeFonts();
-    void show();
+    void showFindings();
+    void showCounts();
 
     clsCheckState &m_state;
     QLabel *lblCaption;
@@ -40,7 +42,7 @@ private:
     QLabel *lblTrouble;
     QWidget *m_nothing;
     QLabel *lblNothing;
-    oCustomButton *cmdClose;
+    oCloseButton *cmdClose;
     oCheckList *m_list;
     QStackedLayout *m_pages;
 };

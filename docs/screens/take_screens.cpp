@@ -163,11 +163,15 @@ void takeFormPages(clsPictures &pictures, frmMain &main)
         pictures.take(main, QStringLiteral("frmMain-pages"));
 }
 
-/// The claim has slips then, which nothing after this shows.
+/// With a few slips, which nothing after this shows.
 void takeCheck(clsPictures &pictures, frmMain &main)
 {
     Form->ScheduleOfTimeItemByOrderID(2)->dDate = QStringLiteral("25/08/27");
     Form->ScheduleOfTimeItemByOrderID(4)->TTime = QStringLiteral("00:00");
+    Form->CaseInformation.EmergencyCertificateDate = QString();
+    Form->CaseInformation.SubstantiveCertificateDate = QStringLiteral("20/02/22");
+    Form->CaseInformation.DateOfFinalWorkDate = QStringLiteral("20/11/24");
+    Form->RenderScheduleOfTimeItemsForExport();
     Form->OutcomeOfCase.WastedCostsOrderYes = false;
     Form->OutcomeOfCase.WastedCostsOrderNo = false;
     main.PreviewScheduleOfTime();

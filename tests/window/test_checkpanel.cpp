@@ -1,4 +1,5 @@
 #include "base/mdStateFolder.h"
+#include "controls/oCloseButton.h"
 #include "controls/oCustomButton.h"
 #include "preview/oPreviewGrid.h"
 #include "shell/clsCheckModel.h"
@@ -146,7 +147,7 @@ TEST_F(CheckPanel, IsLeftOpenFromOneStartToTheNext)
     window.reset();
     start();
     EXPECT_TRUE(panel().isVisible());
-    QTest::mouseClick(&control<oCustomButton>(panel(), "cmdCloseCheck"), Qt::LeftButton);
+    QTest::mouseClick(&control<oCloseButton>(panel(), "cmdCloseCheck"), Qt::LeftButton);
     EXPECT_FALSE(panel().isVisible());
     window.reset();
     start();
@@ -417,7 +418,7 @@ TEST_F(CheckPanel, SaysThatNothingIsFound)
     EXPECT_EQ(QStringLiteral("Nothing found."), nothing.text());
     EXPECT_FALSE(list().isVisible());
     EXPECT_EQ(QString(), counts());
-    EXPECT_TRUE(control<oCustomButton>(panel(), "cmdCloseCheck").hasFocus());
+    EXPECT_TRUE(control<oCloseButton>(panel(), "cmdCloseCheck").hasFocus());
     fill(*Form);
     window->Activate();
     EXPECT_TRUE(list().isVisible());

@@ -53,8 +53,8 @@ void oTotalsStrip::setTotals(const std::vector<clsStripTotal> &totals, const cls
     bool otherShown = false;
     for (const clsStripTotal &total : totals) {
         if (total.place == clsStripTotal::GoesIntoOther && !std::exchange(otherShown, true))
-            show(other, place++, true);
-        show(total, place++, false);
+            showTotal(other, place++, true);
+        showTotal(total, place++, false);
     }
     while (m_figures.size() > place) {
         delete m_figures.back().figure;
@@ -69,7 +69,7 @@ void oTotalsStrip::Clear()
     setLimit({});
 }
 
-void oTotalsStrip::show(const clsStripTotal &total, size_t place, bool isOther)
+void oTotalsStrip::showTotal(const clsStripTotal &total, size_t place, bool isOther)
 {
     if (place == m_figures.size()) {
         auto *figure = new oStripFigure(this);

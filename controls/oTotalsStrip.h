@@ -65,7 +65,7 @@ private:
     };
 
     oStripItem *prepared(oStripItem *item);
-    void show(const clsStripTotal &total, size_t place, bool isOther);
+    void showTotal(const clsStripTotal &total, size_t place, bool isOther);
     void layOut();
     int widthIn(const clsForm &form) const;
     bool shows(const clsFigure &figure, const clsForm &form) const;

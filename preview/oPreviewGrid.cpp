@@ -5,7 +5,7 @@
 
 #include <QHeaderView>
 #include <QHelpEvent>
-#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScopeGuard>
@@ -283,38 +283,6 @@ int oPreviewGrid::HiddenAbove(int row) const
 void oPreviewGrid::SetHiddenAbove(int row, int pixels)
 {
     verticalScrollBar()->setValue(topOf(row) + pixels);
-}
-
-void oPreviewGrid::keyPressEvent(QKeyEvent *event)
-{
-    if (markByKey(event->key())) {
-        event->accept();
-        return;
-    }
-    struct clsKey {
-        int key;
-        QScrollBar *bar;
-        QScrollBar::SliderAction action;
-    };
-    // clang-format off
-    const clsKey keys[] = {
-        {Qt::Key_Up,       verticalScrollBar(),   QScrollBar::SliderSingleStepSub},
-        {Qt::Key_Down,     verticalScrollBar(),   QScrollBar::SliderSingleStepAdd},
-        {Qt::Key_Left,     horizontalScrollBar(), QScrollBar::SliderSingleStepSub},
-        {Qt::Key_Right,    horizontalScrollBar(), QScrollBar::SliderSingleStepAdd},
-        {Qt::Key_PageUp,   verticalScrollBar(),   QScrollBar::SliderPageStepSub},
-        {Qt::Key_PageDown, verticalScrollBar(),   QScrollBar::SliderPageStepAdd},
-        {Qt::Key_Home,     verticalScrollBar(),   QScrollBar::SliderToMinimum},
-        {Qt::Key_End,      verticalScrollBar(),   QScrollBar::SliderToMaximum},
-    };
-    // clang-format on
-    for (const clsKey &key : keys)
-        if (key.key == event->key()) {
-            key.bar->triggerAction(key.action);
-            event->accept();
-            return;
-        }
-    event->ignore();
 }
 
 void oPreviewGrid::mousePressEvent(QMouseEvent *event)

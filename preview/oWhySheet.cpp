@@ -2,6 +2,7 @@
 
 #include "controls/mdLine.h"
 #include "controls/mdTheme.h"
+#include "controls/oCloseButton.h"
 #include "controls/oCustomButton.h"
 
 #include <QApplication>
@@ -53,7 +54,7 @@ oWhySheet::oWhySheet(QWidget *parent)
     : QWidget(parent)
     , lblTitle(label("lblWhy", Theme::font(0, true), Theme::Ink))
     , lblAbout(label("lblAbout", Theme::font(-1), Theme::Ink2))
-    , cmdClose(new oCustomButton)
+    , cmdClose(new oCloseButton(QStringLiteral("Close")))
     , m_view(new QScrollArea)
     , m_steps(new oWhySteps)
     , m_sum(new oWhySteps)
@@ -63,10 +64,7 @@ oWhySheet::oWhySheet(QWidget *parent)
     setObjectName(QStringLiteral("oWhySheet"));
     setFocusPolicy(Qt::NoFocus);
     cmdClose->setObjectName(QStringLiteral("cmdCloseWhy"));
-    cmdClose->setLook(oCustomButton::Look::Arrow);
-    cmdClose->setGlyph(Glyph::Cross);
-    cmdClose->setAccessibleName(QStringLiteral("Close"));
-    connect(cmdClose, &oCustomButton::Click, this, &oWhySheet::Close);
+    connect(cmdClose, &oCloseButton::clicked, this, &oWhySheet::Close);
     m_steps->setObjectName(QStringLiteral("oWhySteps"));
     m_sum->setObjectName(QStringLiteral("oWhySum"));
     m_sum->setSum(true);

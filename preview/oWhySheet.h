@@ -7,6 +7,7 @@
 
 class QLabel;
 class QScrollArea;
+class oCloseButton;
 class oCustomButton;
 
 /// A place where something that a figure comes from can be changed.
@@ -77,7 +78,7 @@ private:
     QPointer<QWidget> m_focusBefore;
     QLabel *lblTitle;
     QLabel *lblAbout;
-    oCustomButton *cmdClose;
+    oCloseButton *cmdClose;
     QScrollArea *m_view;
     oWhySteps *m_steps;
     oWhySteps *m_sum;

@@ -7,12 +7,16 @@
 #include "controls/mdApplyTheme.h"
 #include "controls/oContentSwitcher.h"
 #include "editors/frmSection.h"
+#include "editors/mdEditCostsLimit.h"
 #include "editors/mdScreens.h"
 #include "editors/mdSections.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
+#include "formdata/mdCostsLimit.h"
 #include "formdata/mdGlobals.h"
 #include "preview/oFormPages.h"
+#include "preview/oPreviewGrid.h"
+#include "preview/oWhySheet.h"
 #include "shell/clsWindowUserInterface.h"
 #include "shell/frmAbout.h"
 #include "shell/frmExportToWord.h"
@@ -21,11 +25,15 @@
 #include "wordexport/mdOfficeProgram.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QTest>
+#include <QTimer>
 
 #include <cstdio>
 
 namespace {
+
+constexpr int EnhancedItem = 7;
 
 class clsPictures {
 public:
@@ -151,6 +159,32 @@ void takeBoxes(clsPictures &pictures, frmMain &main)
     exportToWord.close();
 }
 
+/// The sheet over the preview: item 7 is enhanced.
+void takeWhy(clsPictures &pictures, frmMain &main)
+{
+    auto *grid = main.findChild<oPreviewGrid *>();
+    const int row = grid->RowOf(
+        {clsPreviewOrigin::ScheduleItem, Form->ScheduleOfTimeItemsForExportCollection()[EnhancedItem - 1]->OrderID()});
+    grid->setFocus();
+    grid->MarkRow(row);
+    main.WhyThisFigure();
+    pictures.take(main, QStringLiteral("frmMain-why"));
+    main.findChild<oWhySheet *>()->Close();
+    grid->MarkRow(0);
+}
+
+/// Over a limit that is nearly reached.
+void takeCostsLimit(clsPictures &pictures, frmMain &main)
+{
+    QTimer::singleShot(300, &main, [&] {
+        QWidget *screen = QApplication::activeModalWidget();
+        screen->findChild<QLineEdit *>()->setText(QStringLiteral("12000.00"));
+        pictures.take(*screen, screen->objectName());
+        static_cast<QDialog *>(screen)->done(QDialog::Rejected);
+    });
+    mdEditCostsLimit(&main);
+}
+
 /// The office program draws the pages; without one the picture stays as it is.
 void takeFormPages(clsPictures &pictures, frmMain &main)
 {
@@ -195,12 +229,17 @@ bool takeAll(const QString &claim, const QString &folder)
     main.resize(1366, 740);
     main.show();
     main.PreviewScheduleOfTime();
+    mdSetCostsLimit(*Form, QStringLiteral("12000.00"));
+    main.Activate();
+    QTest::qWait(200); // for the totals
     pictures.take(main, QStringLiteral("frmMain"));
+    takeWhy(pictures, main);
     takeSections(pictures, main);
     fillPreferences();
     takeEditors(pictures, main);
     takePreferences(pictures, main);
     takeBoxes(pictures, main);
+    takeCostsLimit(pictures, main);
     main.PreviewAdditionalInformation();
     pictures.take(main, QStringLiteral("frmMain-notes"));
     takeFormPages(pictures, main);

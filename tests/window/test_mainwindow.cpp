@@ -312,14 +312,17 @@ TEST_F(MainWindow, ARightClickOnTheSheetOpensThePreviewMenuAndALeftClickNothing)
     control<QMenu>(*window, "mnuPreview").close();
 }
 
-TEST_F(MainWindow, TheSheetStandsInTheMiddleDownToTheFooter)
+TEST_F(MainWindow, TheSheetStandsInTheMiddleDownToTheTotals)
 {
     start();
     window->resize(1600, 900);
     QTest::qWait(10);
     const auto &area = control<QWidget>(*window, "pctPreview");
-    EXPECT_EQ(area.geometry().bottom() + 1, window->footer()->geometry().top());
-    EXPECT_EQ(row("tbSubSection").geometry().bottom() + 1, area.geometry().top());
+    const auto topOf = [this](const QWidget &part) { return part.mapTo(window.get(), QPoint()).y(); };
+    const auto &totals = control<QWidget>(*window, "oTotalsStrip");
+    EXPECT_EQ(topOf(area) + area.height(), topOf(totals));
+    EXPECT_EQ(topOf(totals) + totals.height(), topOf(*window->footer()));
+    EXPECT_EQ(topOf(row("tbSubSection")) + row("tbSubSection").height(), topOf(area));
     EXPECT_NEAR(area.width() / 2.0, preview().geometry().center().x(), 1.0);
     EXPECT_EQ(area.height() - 1, preview().geometry().bottom());
     EXPECT_LE(preview().width(), Theme::scaled(1120));

@@ -92,7 +92,7 @@ TEST_F(WhySheet, ClosesAtAClickOutside)
     QTest::mouseClick(&figure("total"), Qt::LeftButton);
     EXPECT_TRUE(sheet().isOpen());
     EXPECT_EQ(QStringLiteral("Total"), sheet().Text().about);
-    QTest::mouseClick(&button("cmdCloseWhy"), Qt::LeftButton);
+    QTest::mouseClick(&control<QAbstractButton>(sheet(), "cmdCloseWhy"), Qt::LeftButton);
     EXPECT_FALSE(sheet().isOpen());
 }
 
@@ -200,6 +200,8 @@ TEST_F(WhySheet, LeadsToTheItemAndItsGroup)
     window->activateWindow(); // no desktop does it here
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     EXPECT_TRUE(grid().hasFocus());
+    // The list has numbered its items anew.
+    entry("mnuPreviewScheduleOfTime").trigger();
     press(Qt::Key_Return);
     EXPECT_EQ(
         QStringList({"frmFeeEarnerGroups", "frmFeeEarnerGroupEdit"}), opened([this] { button("cmdPlace2").click(); }));

@@ -2,12 +2,13 @@
 
 #include <QHeaderView>
 #include <QItemSelectionModel>
+#include <QKeyEvent>
 #include <QScrollBar>
 
 #include <algorithm>
 #include <cstdlib>
 
-// The row of the preview that the user marks to ask about its figures.
+// The keys of the preview, and the row that the user marks to ask about its figures.
 
 int oPreviewGrid::RowOf(clsPreviewOrigin origin) const
 {
@@ -91,6 +92,38 @@ bool oPreviewGrid::markByKey(int key)
     case Qt::Key_End: MarkRow(figuresFrom(Rows(), -1)); return true;
     default: return false;
     }
+}
+
+void oPreviewGrid::keyPressEvent(QKeyEvent *event)
+{
+    if (markByKey(event->key())) {
+        event->accept();
+        return;
+    }
+    struct clsKey {
+        int key;
+        QScrollBar *bar;
+        QScrollBar::SliderAction action;
+    };
+    // clang-format off
+    const clsKey keys[] = {
+        {Qt::Key_Up,       verticalScrollBar(),   QScrollBar::SliderSingleStepSub},
+        {Qt::Key_Down,     verticalScrollBar(),   QScrollBar::SliderSingleStepAdd},
+        {Qt::Key_Left,     horizontalScrollBar(), QScrollBar::SliderSingleStepSub},
+        {Qt::Key_Right,    horizontalScrollBar(), QScrollBar::SliderSingleStepAdd},
+        {Qt::Key_PageUp,   verticalScrollBar(),   QScrollBar::SliderPageStepSub},
+        {Qt::Key_PageDown, verticalScrollBar(),   QScrollBar::SliderPageStepAdd},
+        {Qt::Key_Home,     verticalScrollBar(),   QScrollBar::SliderToMinimum},
+        {Qt::Key_End,      verticalScrollBar(),   QScrollBar::SliderToMaximum},
+    };
+    // clang-format on
+    for (const clsKey &key : keys)
+        if (key.key == event->key()) {
+            key.bar->triggerAction(key.action);
+            event->accept();
+            return;
+        }
+    event->ignore();
 }
 
 int oPreviewGrid::AskedRow() const

@@ -107,19 +107,26 @@ void oStripLimit::paintEvent(QPaintEvent *)
     place.setTop((height() - all) / 2);
     if (hasWords)
         paintFigures(painter, QRect(place.left(), place.top(), place.width(), line));
+    else if (look(m_limit.state).sign) // never a colour alone
+        place.setRight(paintSign(painter, place.right(), rect()));
     paintBar(painter, QRectF(place.left(), place.top() + all - barHeight, place.width(), barHeight));
+}
+
+/// The sign of the state at the right end of a line; where what stands before it ends.
+int oStripLimit::paintSign(QPainter &painter, int right, const QRect &line) const
+{
+    const double side = std::min(signSide(), line.height());
+    mdPaintSign(
+        painter, QRectF(right + 1 - side, line.center().y() + 0.5 - side / 2, side, side), *look(m_limit.state).sign);
+    return int(right - side) - Theme::scaled(Gap);
 }
 
 void oStripLimit::paintFigures(QPainter &painter, const QRect &line) const
 {
     const clsStateRow &row = look(m_limit.state);
     QRect place = line;
-    if (row.sign) {
-        const double side = std::min(signSide(), line.height());
-        mdPaintSign(
-            painter, QRectF(line.right() + 1 - side, line.center().y() + 0.5 - side / 2, side, side), *row.sign);
-        place.setRight(int(line.right() - side) - Theme::scaled(Gap));
-    }
+    if (row.sign)
+        place.setRight(paintSign(painter, line.right(), line));
     QFont font = Theme::font(-1, m_limit.state != clsStripLimit::Plenty);
     font.setUnderline(underMouse() && isEnabled());
     const int figures = QFontMetrics(font).horizontalAdvance(m_limit.figures);

@@ -41,6 +41,7 @@ protected:
 
 private:
     void paintFigures(QPainter &painter, const QRect &line) const;
+    int paintSign(QPainter &painter, int right, const QRect &line) const;
     void paintBar(QPainter &painter, const QRectF &bar) const;
 
     clsStripLimit m_limit;

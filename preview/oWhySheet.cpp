@@ -149,7 +149,7 @@ void oWhySheet::fillPlaces()
     auto *lines = new QVBoxLayout(m_placesRoom);
     const int side = Theme::scaled(Theme::Space16) - Theme::RingRoom;
     lines->setContentsMargins(side, Theme::Space8, side, Theme::Space8);
-    lines->setSpacing(0);
+    lines->setSpacing(Theme::Space4);
     const int room = Theme::scaled(Width) - 2 * side;
     QHBoxLayout *line = nullptr;
     int used = room;

@@ -195,9 +195,9 @@ TEST_F(ToolWhy, PrintsTheStepsOfAFigure)
               "  {\n   \"Text\": \"Fee earner AB.\",\n   \"Value\": \"group A\"\n  },\n"
               "  {\n   \"Text\": \"Hourly rate of the group: nothing that is ticked takes another.\",\n"
               "   \"Value\": \"40\"\n  },\n"
-              "  {\n   \"Text\": \"01:00 at 40: 60 minutes, rounded to the penny.\",\n   \"Value\": \"40\"\n  },\n"
+              "  {\n   \"Text\": \"01:00 at 40.00: 60 minutes, rounded to the penny.\",\n   \"Value\": \"40\"\n  },\n"
               "  {\n   \"Text\": \"Percentages together.\",\n   \"Value\": \"0\"\n  },\n"
-              "  {\n   \"Text\": \"Enhancement of 0 % of 40.\",\n   \"Value\": \"0\"\n  },\n"
+              "  {\n   \"Text\": \"Enhancement of 0 % of 40.00.\",\n   \"Value\": \"0\"\n  },\n"
               "  {\n   \"Text\": \"Claim.\",\n   \"Value\": \"40\"\n  }\n ]\n}\n",
         result.out);
     const clsToolResult total = run({"why"_q, claim, "total"_q, "grandtotal"_q});

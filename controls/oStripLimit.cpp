@@ -25,7 +25,7 @@ struct clsStateRow {
     std::optional<Sign> sign;
 };
 
-const clsStateRow States[] = {
+constexpr clsStateRow States[] = {
     {clsStripLimit::Plenty, Theme::Green, Theme::Ink, {}},
     {clsStripLimit::Near, Theme::Orange, Theme::Amber, Sign::Warning},
     {clsStripLimit::Over, Theme::Red, Theme::Red, Sign::Error},

@@ -165,7 +165,7 @@ class Sources(unittest.TestCase):
     def test_every_menu_entry_and_preference_is_told(self):
         menus = (ROOT / "shell/mdMainMenu.cpp").read_text(encoding="utf-8")
         entries = [entry.replace("&", "") for entry in re.findall(r'\{"&\w+",\s*"([^"]+)"', menus)]
-        self.assertEqual(len(entries), 17)
+        self.assertEqual(len(entries), 19)
         preferences = (ROOT / "editors/frmPreferences.cpp").read_text(encoding="utf-8")
         captions = re.findall(r'\{(?:Decimal|Tick|Text),\s*"\w+",\s*"([^"*]+)\*?"', preferences)
         self.assertEqual(len(captions), 7)

@@ -32,7 +32,7 @@ oListTotal::oListTotal(clsListTotal (*total)(), oSGrid &grid, QWidget *parent)
     : QWidget(parent)
     , m_total(total)
 {
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_renewal.setSingleShot(true);
     connect(&m_renewal, &QTimer::timeout, this, &oListTotal::renew);
     if (const auto *model = grid.findChild<clsGridModel *>())
@@ -53,7 +53,7 @@ void oListTotal::renew()
         m_figure = QStringLiteral("!");
         m_whyNot = error.cause().isEmpty() ? error.description() : error.cause();
     }
-    setToolTip(mdPlainToolTip(m_whyNot));
+    setToolTip(mdPlainToolTip(m_whyNot.isEmpty() ? m_counted : m_whyNot));
     setAccessibleName(m_whyNot.isEmpty() ? word() + u' ' + m_figure : word() + QStringLiteral(" can't be computed"));
     setAccessibleDescription(m_whyNot.isEmpty() ? m_counted : m_whyNot);
     updateGeometry();
@@ -68,9 +68,14 @@ void oListTotal::showEvent(QShowEvent *event)
 
 QSize oListTotal::sizeHint() const
 {
+    return minimumSizeHint() + QSize(widthOf(Theme::font(-1), m_counted) + Theme::scaled(Gap), 0);
+}
+
+QSize oListTotal::minimumSizeHint() const
+{
     const int sign = m_whyNot.isEmpty() ? 0 : Theme::scaled(SignGap + SignSide);
-    const int width = widthOf(Theme::font(-1), m_counted) + widthOf(Theme::font(), word())
-        + widthOf(Theme::font(0, true), m_figure) + 2 * Theme::scaled(Gap) + sign;
+    const int width
+        = widthOf(Theme::font(), word()) + widthOf(Theme::font(0, true), m_figure) + Theme::scaled(Gap) + sign;
     return {width + contentsMargins().right(), QFontMetrics(Theme::font(0, true)).height() + 2};
 }
 
@@ -92,5 +97,6 @@ void oListTotal::paintEvent(QPaintEvent *)
     }
     write(m_figure, Theme::font(0, true), m_whyNot.isEmpty() ? Theme::Ink : Theme::Red);
     write(word(), Theme::font(), Theme::Ink);
-    write(m_counted, Theme::font(-1), Theme::Ink2);
+    if (widthOf(Theme::font(-1), m_counted) <= place.width())
+        write(m_counted, Theme::font(-1), Theme::Ink2);
 }

@@ -21,7 +21,8 @@ public:
     QString Failure() const { return m_whyNot; }
 
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
+    /// Where there is little room the count gives way, and is in the tooltip.
+    QSize minimumSizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -71,10 +71,10 @@ TEST(GetVersionInfo, IsThreeNumbersWithoutLeadingZeros)
 
 TEST(GetResourceData, HoldsEveryTemplate)
 {
-    for (const char *name :
-        {"xmlZR3Form", "xmlZR3FeeEarnerGroup", "xmlZR3FeeEarner", "xmlZR3Counsel", "xmlZR3Enhancement",
-            "xmlZR3CostsLimit", "xmlZR3Disbursement", "xmlZR3ScheduleOfTimeItem", "xmlZR3ExpertInvoice", "xmlZR3FASItem",
-            "xmlZR3JointInstruction", "xmlZR3PreferencesDatabase", "xmlZR3Replacement", "xmlZR3RateSet"}) {
+    for (const char *name : {"xmlZR3Form", "xmlZR3FeeEarnerGroup", "xmlZR3FeeEarner", "xmlZR3Counsel",
+             "xmlZR3Enhancement", "xmlZR3CostsLimit", "xmlZR3Disbursement", "xmlZR3ScheduleOfTimeItem",
+             "xmlZR3ExpertInvoice", "xmlZR3FASItem", "xmlZR3JointInstruction", "xmlZR3PreferencesDatabase",
+             "xmlZR3Replacement", "xmlZR3RateSet"}) {
         const QString text = GetResourceData(QString::fromUtf8(name), QStringLiteral("VELMORZR3XML"));
         EXPECT_TRUE(text.startsWith(u'<')) << name;
         EXPECT_TRUE(text.trimmed().endsWith(u'>')) << name;

@@ -11,8 +11,7 @@
 #include "controls/oHeaderBar.h"
 #include "controls/oTabBar.h"
 #include "controls/oTimeSpentBox.h"
-#include "editors/mdEnterField.h"
-#include "editors/mdFieldPlace.h"
+#include "editors/mdListPlace.h"
 #include "editors/mdSections.h"
 #include "editors/mdShowPreferences.h"
 #include "editors/mdUnloadAndDummyTabClick.h"
@@ -28,6 +27,7 @@
 #include "shell/clsFormPages.h"
 #include "shell/clsLongWork.h"
 #include "shell/mdMainMenu.h"
+#include "shell/mdPageBoxes.h"
 #include "shell/oApplication.h"
 
 #include <QMenu>
@@ -190,10 +190,8 @@ void frmMain::tbSubSection_Click(int index, const QString &tag)
             continue;
         shown = true;
         if (const QString field = std::exchange(m_nextField, QString()); !field.isEmpty())
-            QTimer::singleShot(0, screen.get(), [&window = *screen, field] {
-                if (auto *control = window.findChild<QWidget *>(field))
-                    mdEnterField(*control);
-            });
+            QTimer::singleShot(
+                0, screen.get(), [&window = *screen, field, item = m_nextItem] { mdEnterPlace(window, field, item); });
         const QScopedValueRollback<bool> modal(m_modal, true);
         mdShowModal(*screen);
     }
@@ -201,13 +199,14 @@ void frmMain::tbSubSection_Click(int index, const QString &tag)
         Activate();
 }
 
-void frmMain::OpenField(const QString &property)
+void frmMain::OpenField(const QString &target)
 {
-    const auto place = mdFieldPlace(property);
-    if (!place || m_sectionOpen)
+    clsTargetPlace place;
+    if (m_sectionOpen || !mdFindTarget(target, place))
         return;
-    m_nextField = place->control;
-    tbSubSection_Click(-1, place->section);
+    m_nextField = place.control;
+    m_nextItem = place.item;
+    tbSubSection_Click(-1, place.section);
 }
 
 void frmMain::whileModal(const std::function<void()> &show)

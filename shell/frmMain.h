@@ -119,6 +119,7 @@ private:
     QString m_backupTag;
     QString m_nextSection;
     QString m_nextField;
+    int m_nextItem = 0; ///< of its list
     bool m_sectionOpen = false;
     bool m_loaded = false;
     bool m_wasShown = false;

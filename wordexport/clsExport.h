@@ -38,6 +38,8 @@ struct clsSheetFile {
     std::optional<clsTextPlace> text {};
     /// What would stand in it, where the sheets stay in memory.
     std::optional<clsZipPackage> kept {};
+    /// The grids that were typed into it.
+    std::vector<clsForecast::Grid> grids {};
     /// What was typed into it and is not printed at its own size, and the paper pages that it takes.
     std::vector<clsForecast::Box> boxes {};
     int paperPages = 1;

@@ -66,6 +66,7 @@ int fillSheet(
     const int count = int(run.form.AdditionalInformationItemsCollection().size());
     clsMSWord word;
     mdOpenSheet(run, word, path);
+    run.sheets[path].grids.push_back({QStringLiteral("schedule"), place.offset, {0}});
     word.MoveCursorDown(place.offset);
     word.MoveCursorToStartOfRow();
     int position = start;

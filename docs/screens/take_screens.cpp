@@ -24,6 +24,7 @@
 #include <QTest>
 
 #include <cstdio>
+#include <functional>
 
 namespace {
 
@@ -33,15 +34,16 @@ public:
         : m_folder(folder)
     { }
 
-    /// Shows the window until it is drawn, and takes its picture.
-    void take(QWidget &window, const QString &name)
+    /// Shows the window until it is drawn, and takes its picture, or that of a part of it.
+    void take(QWidget &window, const QString &name, const std::function<QRect()> &part = {})
     {
         window.show();
         window.activateWindow();
         if (!QTest::qWaitForWindowActive(&window))
             fail(name, "does not come up");
         QTest::qWait(50);
-        if (!window.grab().save(QStringLiteral("%1/%2.png").arg(m_folder, name)))
+        const QRect shown = part ? part() : window.rect();
+        if (!window.grab(shown).save(QStringLiteral("%1/%2.png").arg(m_folder, name)))
             fail(name, "can't be written");
     }
     bool complete() const { return m_complete; }
@@ -151,6 +153,25 @@ void takeBoxes(clsPictures &pictures, frmMain &main)
     exportToWord.close();
 }
 
+/// The sign at a box whose text is printed smaller.
+void takePrintSign(clsPictures &pictures, frmMain &main)
+{
+    const QString address = Form->DebtorsDetails.Address();
+    Form->DebtorsDetails.Address = QStringLiteral("Flat 3B\r\nThe Laurels\r\nMill Lane\r\nBow\r\nLondon\r\nE3 4AA");
+    const std::unique_ptr<QDialog> screen {mdCreateScreen(QStringLiteral("Debtor's Details"), &main)};
+    pictures.take(*screen, QStringLiteral("print-sign"), [&screen] {
+        constexpr int Around = 6;
+        constexpr int ForCaption = 150;
+        constexpr int ForCount = 48;
+        const auto *box = screen->findChild<QWidget *>(QStringLiteral("txtAddress"));
+        return QRect(box->mapTo(screen.get(), QPoint()), box->size())
+            .adjusted(-ForCaption, -Around, ForCount, Around)
+            .intersected(screen->rect());
+    });
+    screen->close();
+    Form->DebtorsDetails.Address = address;
+}
+
 /// The office program draws the pages; without one the picture stays as it is.
 void takeFormPages(clsPictures &pictures, frmMain &main)
 {
@@ -180,6 +201,7 @@ bool takeAll(const QString &claim, const QString &folder)
     main.PreviewScheduleOfTime();
     pictures.take(main, QStringLiteral("frmMain"));
     takeSections(pictures, main);
+    takePrintSign(pictures, main);
     fillPreferences();
     takeEditors(pictures, main);
     takePreferences(pictures, main);

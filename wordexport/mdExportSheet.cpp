@@ -130,6 +130,13 @@ void mdTypeCell(clsMSWord &word, const QString &text, clsFillClass fill)
     word.SetText(QString(text), fill == clsFillClass::TickBox, fill == clsFillClass::Money, true, false);
 }
 
+int mdLineBreaksIn(QString text)
+{
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    return int(std::count_if(text.begin(), text.end(),
+        [](QChar character) { return character == u'\n' || character == u'\r' || character == u'\v'; }));
+}
+
 void mdReplaceRows(clsExport &run, clsMSWord &word, std::span<const clsPlaceholderRow> rows, int pageNumber)
 {
     for (const clsPlaceholderRow &row : rows) {

@@ -55,8 +55,8 @@ struct clsSheetLines {
 
 int breaksIn(const QStringList &lines)
 {
-    return std::accumulate(lines.begin(), lines.end(), 0,
-        [](int sum, const QString &line) { return sum + int(line.count(QLatin1String("\r\n"))); });
+    return std::accumulate(
+        lines.begin(), lines.end(), 0, [](int sum, const QString &line) { return sum + mdLineBreaksIn(line); });
 }
 
 /// Fills one sheet from the item at `start` and returns the first that it could not take.

@@ -51,6 +51,7 @@ void mdExportGrid(
         run.sheets[sheet].grids.push_back({QString::fromLatin1(grid.list.name), linesAbove});
     };
     noteGrid(grid.firstOffset); // in the template: what was typed above stands in a cell of exact height
+    word.PassTypedBreaks(run.sheets[firstSheet].breaks);
     word.MoveCursorDown(firstOffset);
     const int count = grid.count(run.form);
     bool onFirstSheet = true;
@@ -67,7 +68,9 @@ void mdExportGrid(
         }
         mdSetProgress(i, count, QStringLiteral("Exporting Page %1").arg(pageNumber));
         typeRow(run, word, grid, i);
-        run.sheets[sheet].grids.back().Items.push_back(grid.list.order(run.form, i));
+        clsSheetFile &open = run.sheets[sheet];
+        open.grids.back().Items.push_back(grid.list.order(run.form, i));
+        open.breaks += mdLineBreaksIn(grid.cells.front().source(run.form, i));
         ++rowsWritten;
     }
     markOpenSheet(run, word);

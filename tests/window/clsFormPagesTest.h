@@ -28,6 +28,7 @@ inline QByteArray mdPdfOf(int pages)
         if (i > 1)
             writer.newPage();
         painter.drawText(200, 400, QStringLiteral("See Page 99 (9)"));
+        painter.drawText(200, 800, QStringLiteral("Page 88 (8) is the eighth sheet of page 88."));
         painter.drawText(200, 1200, QStringLiteral("Page %1 (2)").arg(i));
     }
     painter.end();

@@ -50,7 +50,7 @@ QString clsPdfPages::Caption(int page)
     if (caption.isEmpty()) {
         // A text of the form may send the reader to another page, or tell of one.
         static const QRegularExpression name(
-            QStringLiteral("(?<!See )\\bPage\\s+(\\d++)(?:\\s*(\\(\\d+\\)))?+(?!\\s*[a-z])"));
+            QStringLiteral("(?<!See )\\bPage\\s+(\\d++)(?:\\s*(\\(\\d+\\)))?+(?! is )"));
         const auto found = name.match(m_document.getAllText(page).text());
         caption = found.hasMatch() ? QStringLiteral("Page %1 %2").arg(found.captured(1), found.captured(2)).trimmed()
                                    : QStringLiteral("Paper page %1").arg(page + 1);

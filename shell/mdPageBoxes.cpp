@@ -67,7 +67,11 @@ public:
         m_paperPage = paperPage;
         m_first = m_marks.boxes.size();
         m_rows.clear();
-        if (sheet.PaperPages == 1) {
+        // A row that has grown moves what is below it.
+        m_isAsTemplate = sheet.PaperPages == 1
+            && std::none_of(m_forecast.Boxes.begin(), m_forecast.Boxes.end(),
+                [&](const Box &box) { return box.Sheet == sheet.Name && box.State == Box::RunsOn; });
+        if (m_isAsTemplate) {
             addRows();
             // A further sheet repeats what its page's own has a box for.
             if (sheet.Name == QStringLiteral("%1(1)").arg(sheet.Page))
@@ -161,7 +165,7 @@ private:
     /// Empty where it isn't known.
     QRectF placeOf(const Box &box)
     {
-        if (m_sheet->PaperPages > 1)
+        if (!m_isAsTemplate)
             return {};
         if (!gridOf(box))
             return m_places.placeholders(m_sheet->Template).value(box.Placeholder).row;
@@ -175,6 +179,7 @@ private:
     clsPageMarks m_marks;
     const Sheet *m_sheet = nullptr;
     int m_paperPage = 0;
+    bool m_isAsTemplate = false; ///< the places of the sheet are those of its template
     size_t m_first = 0; ///< of the sheet's boxes
     std::vector<std::vector<QRectF>> m_rows; ///< of the sheet's grids
 };

@@ -8,11 +8,11 @@ struct clsForecast;
 
 /// What stands beside and on the pages of a finished form.
 struct clsPageMarks {
-    /// The boxes that lead to their fields, and the rows of lists that lead to their items. A sheet that runs on has
-    /// none.
+    /// The boxes that lead to their fields, and the rows of lists that lead to their items. A sheet on which a
+    /// row has grown has none.
     std::vector<clsPageBox> boxes;
-    /// The signs of texts that are not printed at their own size. Where the place isn't known, as on a sheet that runs
-    /// on, the sign stands at the head of the sheet.
+    /// The signs of texts that are not printed at their own size. Where the place isn't known, as on such a sheet,
+    /// the sign stands at the head of the sheet.
     std::vector<clsPageSign> signs;
 };
 

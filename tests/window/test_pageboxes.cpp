@@ -191,6 +191,12 @@ TEST_F(PageBoxes, ASheetThatRunsOnHasItsSignAtItsHead)
                              "Explanation: runs on to another page"),
         signs[1].note.words);
     EXPECT_TRUE(mdPageMarks(given, QStringLiteral("Claim1"), 4).signs.empty());
+    // Where the grown row leaves the sheet on its page, what stands below it has moved.
+    given.Sheets[1].PaperPages = 1;
+    const auto moved = mdPageMarks(given, QStringLiteral("Claim1"), 2);
+    EXPECT_EQ(0, moved.signs.back().left);
+    EXPECT_TRUE(
+        std::none_of(moved.boxes.begin(), moved.boxes.end(), [](const clsPageBox &one) { return one.page == 1; }));
 }
 
 TEST_F(PageBoxes, TheBoxesLieWhereTheOfficeProgramPrintsTheirTexts)

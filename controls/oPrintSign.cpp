@@ -45,19 +45,31 @@ void oPrintSign::setNote(const clsPrintNote &note)
 
 QSize oPrintSign::sizeHint() const
 {
-    return {Theme::scaled(Width), Theme::scaled(Height)};
+    return mdPrintSignSize();
 }
 
 void oPrintSign::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
+    mdPaintPrintSign(painter, rect(), m_note.sign);
+}
+
+QSize mdPrintSignSize()
+{
+    return {Theme::scaled(Width), Theme::scaled(Height)};
+}
+
+void mdPaintPrintSign(QPainter &painter, const QRect &place, clsPrintNote::clsSign sign)
+{
+    painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     const double side = Theme::scaled(Side);
-    const QRectF square(0, (height() - side) / 2, side, side);
-    switch (m_note.sign) {
+    const QRectF square(place.left(), place.top() + (place.height() - side) / 2, side, side);
+    switch (sign) {
     case clsPrintNote::Fits: break;
-    case clsPrintNote::Smaller: paintLetters(painter, rect()); break;
+    case clsPrintNote::Smaller: paintLetters(painter, place); break;
     case clsPrintNote::RunsOn: mdPaintGlyph(painter, square, Glyph::RunsOn, Theme::Blue); break;
     case clsPrintNote::Cut: mdPaintSign(painter, square, Sign::Error); break;
     }
+    painter.restore();
 }

@@ -11,6 +11,10 @@ struct clsPrintNote {
     QString words {};
 };
 
+/// Draws such a sign; it takes that size.
+void mdPaintPrintSign(QPainter &painter, const QRect &place, clsPrintNote::clsSign sign);
+QSize mdPrintSignSize();
+
 /// The small sign of such a note. It shows nothing for a text that fits, and its words are its tooltip.
 class oPrintSign : public QWidget {
     Q_OBJECT

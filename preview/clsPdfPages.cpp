@@ -9,6 +9,8 @@
 namespace {
 
 constexpr int MostKilobytes = 96 * 1024;
+// A text of the form may send the reader to another page, or tell of one.
+constexpr char PageName[] = R"((?<!See )\bPage\s+(\d++)(?:\s*(\(\d+\)))?+(?! is ))";
 
 } // namespace
 
@@ -48,8 +50,7 @@ QString clsPdfPages::Caption(int page)
 {
     QString &caption = m_captions[page];
     if (caption.isEmpty()) {
-        // A text of the form may send the reader to another page.
-        static const QRegularExpression name(QStringLiteral("(?<!See )\\bPage\\s+(\\d+)(?:\\s*(\\(\\d+\\)))?"));
+        static const QRegularExpression name(QString::fromLatin1(PageName));
         const auto found = name.match(m_document.getAllText(page).text());
         caption = found.hasMatch() ? QStringLiteral("Page %1 %2").arg(found.captured(1), found.captured(2)).trimmed()
                                    : QStringLiteral("Paper page %1").arg(page + 1);

@@ -308,6 +308,8 @@ void oFormPages::setOld(bool old)
     if (m_old == old)
         return;
     m_old = old;
+    if (!old)
+        m_failure.clear();
     showState();
 }
 

@@ -46,6 +46,7 @@ void oPageView::setPages(clsPdfPages *pages)
     const bool had = m_pages != nullptr;
     m_pages = pages && pages->Count() > 0 ? pages : nullptr;
     setBoxes({});
+    setSigns({});
     m_current = -1;
     layOut();
     if (m_pages && had) {
@@ -64,6 +65,24 @@ void oPageView::setBoxes(std::vector<clsPageBox> boxes)
     markBox(-1);
 }
 
+void oPageView::setSigns(std::vector<clsPageSign> signs)
+{
+    m_signs = std::move(signs);
+    viewport()->update();
+}
+
+QRect oPageView::PlaceOfSign(int sign) const
+{
+    const clsPageSign &shown = m_signs[size_t(sign)];
+    const double scale = m_scale * clsPdfPages::DotsPerPoint;
+    const QRect page = placeOf(shown.page);
+    const QSize size = mdPrintSignSize();
+    // Left of what it tells of, where the margin has room for it, else at the margin's middle.
+    const int right = int(shown.left * scale) - Theme::Space4;
+    const int left = shown.left > 0 ? std::max(0, right - size.width()) : Theme::Space8;
+    return {QPoint(page.left() + left, page.top() + int(shown.middle * scale) - size.height() / 2), size};
+}
+
 QRect oPageView::PlaceOfBox(int box) const
 {
     const clsPageBox &shown = m_boxes[size_t(box)];
@@ -79,6 +98,15 @@ int oPageView::boxAt(const QPoint &place) const
         if (m_boxes[size_t(i)].page < m_pages->Count() && PlaceOfBox(i).contains(place))
             return i;
     return -1;
+}
+
+QString oPageView::wordsAt(const QPoint &place) const
+{
+    for (int i = 0; m_pages && i < int(m_signs.size()); ++i)
+        if (m_signs[size_t(i)].page < m_pages->Count() && PlaceOfSign(i).contains(place))
+            return m_signs[size_t(i)].note.words;
+    const int box = boxAt(place);
+    return box < 0 ? QString() : m_boxes[size_t(box)].words;
 }
 
 void oPageView::markBox(int box)
@@ -107,8 +135,7 @@ bool oPageView::viewportEvent(QEvent *event)
 {
     if (event->type() == QEvent::ToolTip) {
         const auto &asked = static_cast<QHelpEvent &>(*event);
-        const int box = boxAt(asked.pos());
-        QToolTip::showText(asked.globalPos(), box < 0 ? QString() : m_boxes[size_t(box)].words, viewport());
+        QToolTip::showText(asked.globalPos(), wordsAt(asked.pos()), viewport());
         return true;
     }
     if (event->type() == QEvent::Leave)
@@ -281,6 +308,8 @@ void oPageView::paintEvent(QPaintEvent *)
                 Qt::TopEdge | Qt::LeftEdge | Qt::RightEdge | Qt::BottomEdge, Theme::Grey);
         }
     }
+    if (m_pages)
+        paintSigns(painter);
     if (m_pages && m_marked >= 0) {
         painter.setPen(QPen(Theme::Purple, FocusFrame, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
         painter.drawRect(PlaceOfBox(m_marked));
@@ -288,6 +317,17 @@ void oPageView::paintEvent(QPaintEvent *)
     if (hasFocus()) {
         painter.setPen(QPen(Theme::Purple, FocusFrame, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
         painter.drawRect(QRectF(viewport()->rect()).adjusted(1, 1, -1, -1));
+    }
+}
+
+void oPageView::paintSigns(QPainter &painter) const
+{
+    for (int i = 0; i < int(m_signs.size()); ++i) {
+        if (m_signs[size_t(i)].page >= m_pages->Count())
+            continue;
+        const QRect place = PlaceOfSign(i);
+        if (place.bottom() >= 0 && place.top() < viewport()->height())
+            mdPaintPrintSign(painter, place, m_signs[size_t(i)].note.sign);
     }
 }
 

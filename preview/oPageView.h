@@ -1,5 +1,7 @@
 #pragma once
 
+#include "controls/oPrintSign.h"
+
 #include <QAbstractScrollArea>
 #include <QRectF>
 #include <QString>
@@ -16,6 +18,14 @@ struct clsPageBox {
     QString target; ///< for whoever opens it
 };
 
+/// A sign in a page's margin.
+struct clsPageSign {
+    int page; ///< from 0
+    double left; ///< points, of what it stands beside; 0 where nothing is known of that
+    double middle; ///< points, from the top of the paper
+    clsPrintNote note;
+};
+
 /// The pages of a document one below the other, as a sheet of paper each. It draws those in view and no others, so that
 /// three hundred pages scroll as one. Pages are counted from 0.
 class oPageView : public QAbstractScrollArea {
@@ -29,6 +39,11 @@ public:
 
     /// What can be clicked on them, in the order of the pages.
     void setBoxes(std::vector<clsPageBox> boxes);
+    /// What their margins say of the texts beside them.
+    void setSigns(std::vector<clsPageSign> signs);
+    const std::vector<clsPageSign> &Signs() const { return m_signs; }
+    /// Where a sign stands in the view.
+    QRect PlaceOfSign(int sign) const;
     /// The box that is marked; -1 for none.
     int MarkedBox() const { return m_marked; }
     /// Where a box stands in the view.
@@ -72,6 +87,8 @@ private:
     int pageAt(int y) const;
     int pageInView() const;
     int boxAt(const QPoint &place) const;
+    QString wordsAt(const QPoint &place) const;
+    void paintSigns(QPainter &painter) const;
     void markBox(int box);
     QRect placeOf(int page) const;
     void noteCurrentPage();
@@ -84,4 +101,5 @@ private:
     int m_current = -1;
     std::vector<clsPageBox> m_boxes;
     int m_marked = -1;
+    std::vector<clsPageSign> m_signs;
 };

@@ -48,7 +48,7 @@ void clsFormPages::Activate(bool makesAnew)
         return;
     const QString text = mdPrintedText(*Form);
     const bool old = m_page.HasPages() && text != m_shown;
-    if (makesAnew && (old || (m_maker.isRunning() && text != m_making)))
+    if (makesAnew && text != m_notMade && (old || (m_maker.isRunning() && text != m_making)))
         make(text);
     else
         m_page.setOld(old);
@@ -60,6 +60,7 @@ void clsFormPages::Forget()
     m_page.Clear();
     m_shown.clear();
     m_document.clear();
+    m_notMade.clear();
 }
 
 QByteArray clsFormPages::CurrentPdf() const
@@ -67,9 +68,17 @@ QByteArray clsFormPages::CurrentPdf() const
     return m_page.HasPages() && Form && mdPrintedText(*Form) == m_shown ? m_page.Pdf() : QByteArray();
 }
 
+void clsFormPages::showMarks()
+{
+    clsPageMarks marks = mdPageMarks(m_maker.Sheets(), Form->FormType(), m_page.Pages());
+    m_page.View()->setBoxes(std::move(marks.boxes));
+    m_page.View()->setSigns(std::move(marks.signs));
+}
+
 void clsFormPages::ended(clsPagesMaker::clsResult result)
 {
     m_page.EndProgress();
+    m_notMade = m_making;
     switch (result) {
     case clsPagesMaker::Made:
         if (!m_page.ShowPages(m_maker.Pdf(), m_begun)) {
@@ -77,7 +86,7 @@ void clsFormPages::ended(clsPagesMaker::clsResult result)
             return;
         }
         m_document = m_maker.Document();
-        m_page.View()->setBoxes(mdPageBoxes(m_maker.Sheets(), Form->FormType(), m_page.Pages()));
+        showMarks();
         break;
     case clsPagesMaker::Unchanged: m_page.setAsOf(m_begun); break;
     case clsPagesMaker::Cancelled:
@@ -92,6 +101,7 @@ void clsFormPages::ended(clsPagesMaker::clsResult result)
         return;
     }
     m_shown = m_making;
+    m_notMade.clear();
     // It may have changed while its pages were drawn.
     if (Form)
         Activate(Preferences && Preferences->AutoRefreshPreview());

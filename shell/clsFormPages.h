@@ -17,7 +17,8 @@ public:
 
     /// Shows the claim's pages; they are made where those at hand are not the claim's as it stands.
     void Show();
-    /// The claim may have changed: the pages are made anew, or marked as old.
+    /// The claim may have changed: the pages are made anew, or marked as old. What could not be made is not tried again
+    /// before the claim has changed.
     void Activate(bool makesAnew);
     /// The claim is no more, and its pages go with it.
     void Forget();
@@ -28,6 +29,7 @@ public:
 
 private:
     void make(const QString &text);
+    void showMarks();
     void ended(clsPagesMaker::clsResult result);
 
     oFormPages &m_page;
@@ -35,5 +37,6 @@ private:
     QString m_shown; ///< the claim's text that the pages show
     QByteArray m_document; ///< that they were made of
     QString m_making; ///< the same of those that are being made
+    QString m_notMade; ///< the same of those that could not be made, or were cancelled
     QDateTime m_begun;
 };

@@ -16,7 +16,7 @@
 #include "controls/oTimeSpentBox.h"
 #include "controls/oTotalsStrip.h"
 #include "editors/frmSection.h"
-#include "editors/mdFieldPlace.h"
+#include "editors/mdListPlace.h"
 #include "editors/mdSections.h"
 #include "editors/mdShowPreferences.h"
 #include "editors/mdUnloadAndDummyTabClick.h"
@@ -39,6 +39,7 @@
 #include "shell/clsWhyOpener.h"
 #include "shell/mdMainMenu.h"
 #include "shell/mdOpenPanels.h"
+#include "shell/mdPageBoxes.h"
 #include "shell/oApplication.h"
 #include "shell/oCheckPanel.h"
 #include "shell/oPreviewArea.h"
@@ -236,10 +237,14 @@ void frmMain::tbSubSection_Click(int index, const QString &tag)
         Activate();
 }
 
-void frmMain::OpenField(const QString &property)
+void frmMain::OpenField(const QString &target)
 {
-    if (const auto place = mdFieldPlace(property))
-        OpenPlace({place->section, {}, 0, property.mid(property.indexOf(u'.') + 1)});
+    clsTargetPlace place;
+    if (m_sectionOpen || !mdFindTarget(target, place))
+        return;
+    m_nextWay = [place](frmSection &screen) { mdEnterPlace(screen, place.control, place.item); };
+    tbSubSection_Click(-1, place.section);
+    m_nextWay = nullptr;
 }
 
 void frmMain::OpenPlace(const clsClaimPlace &place)

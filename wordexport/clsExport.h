@@ -38,6 +38,10 @@ struct clsSheetFile {
     std::optional<clsTextPlace> text {};
     /// What would stand in it, where the sheets stay in memory.
     std::optional<clsZipPackage> kept {};
+    /// The grids that were typed into it.
+    std::vector<clsForecast::Grid> grids {};
+    /// The line breaks in the first cells of these, each of which pushes what stands below down by a line.
+    int breaks = 0;
     /// What was typed into it and is not printed at its own size, and the paper pages that it takes.
     std::vector<clsForecast::Box> boxes {};
     int paperPages = 1;

@@ -9,11 +9,18 @@
 
 /// What an export gives, as plain data: its sheets and the texts that are not printed at their own size.
 struct clsForecast {
+    /// The rows of a list that stand on a sheet.
+    struct Grid {
+        QString List; ///< such as "experts"
+        int LinesAbove; ///< from the start of the sheet
+        std::vector<int> Items {}; ///< of each row its order in that list; 0 where it is no single item's
+    };
     struct Sheet {
         int Page;
         QString Name; ///< such as 3(1)
         QString Template;
         int PaperPages;
+        std::vector<Grid> Grids {};
     };
     struct Box {
         enum clsState { Smaller, RunsOn, Cut };
@@ -29,6 +36,7 @@ struct clsForecast {
         clsState State;
         QString List {}; ///< in a grid: the list of the claim whose item it is, such as "experts"
         int Item = 0; ///< its order in that list
+        int Grid = -1; ///< in a grid: its place among those of the sheet, from 0
     };
     struct Message {
         QString Title;

@@ -1,12 +1,10 @@
 #include "wordexport/clsPrintedBoxes.h"
 
 #include "base/clsProgramEnd.h"
-#include "base/clsQuietUserInterface.h"
-#include "base/mdLog.h"
 #include "formdata/clsZR3Form.h"
 #include "wordexport/clsExport.h"
+#include "wordexport/clsSilentTrial.h"
 #include "wordexport/document/clsMSWord.h"
-#include "wordexport/document/clsMSWordObserver.h"
 #include "wordexport/document/clsWordDocument.h"
 #include "wordexport/mdExportCopyTemplate.h"
 #include "wordexport/mdExportDriver.h"
@@ -15,15 +13,6 @@ namespace {
 
 /// More lines than any box has.
 constexpr int MostLines = 100;
-
-/// Nothing of the trials is told, logged or seen.
-struct clsSilentTrial {
-    clsQuietUserInterface quiet {};
-    clsUserInterfaceScope userInterface {quiet};
-    clsMSWordObserver observer {};
-    clsMSWordObserverScope observed {observer};
-    clsNoLogScope noLog {};
-};
 
 clsPrintedFit::clsState stateOf(clsFittedText::State state)
 {
@@ -96,29 +85,13 @@ std::optional<clsPrintedFit> clsPrintedBoxes::fitInto(const clsBox &box, const Q
     return {};
 }
 
-std::vector<clsPrintedBoxes::clsPlace> clsPrintedBoxes::places(int page) const
+QHash<QString, QString> clsPrintedBoxes::properties(int page) const
 {
-    constexpr double TwipsPerPoint = 20;
-    std::vector<clsPlace> found;
-    QHash<QString, QString> properties;
-    QString templateName;
+    QHash<QString, QString> found;
     for (auto boxes = m_boxes.constBegin(); boxes != m_boxes.constEnd(); ++boxes)
         for (const clsBox &box : boxes.value())
-            if (box.page == page) {
-                properties.insert(box.placeholder, boxes.key());
-                templateName = box.templateName;
-            }
-    if (templateName.isEmpty())
-        return found;
-    const clsSilentTrial silent;
-    clsMSWord word;
-    word.OpenDocument(templateName, templateName, m_templates.value(templateName));
-    if (!word.isOpen())
-        return found;
-    for (const clsPlaceholderPlace &place : word.openDocument()->placeholderPlaces())
-        if (const QString property = properties.value(place.placeholder); !property.isEmpty())
-            found.push_back({property,
-                QRectF(QPointF(place.cell.topLeft()) / TwipsPerPoint, QSizeF(place.cell.size()) / TwipsPerPoint)});
+            if (box.page == page)
+                found.insert(box.placeholder, boxes.key());
     return found;
 }
 

@@ -3,7 +3,6 @@
 #include "wordexport/document/clsZipPackage.h"
 
 #include <QHash>
-#include <QRectF>
 #include <QString>
 
 #include <optional>
@@ -32,12 +31,8 @@ public:
     /// fits.
     std::optional<clsPrintedFit> fit(const QString &property, const QString &text);
 
-    struct clsPlace {
-        QString property;
-        QRectF cell; ///< points, from the corner of the paper
-    };
-    /// Where the fields of a page stand on its own sheet, as long as that takes one paper page.
-    std::vector<clsPlace> places(int page) const;
+    /// The properties that are printed on a page's own sheet, by their placeholders.
+    QHash<QString, QString> properties(int page) const;
 
 private:
     struct clsBox {

@@ -28,6 +28,8 @@ clsForecast::Box boxOf(const clsExport &run, const clsSheetFile &sheet, const cl
 {
     clsForecast::Box box {sheet.name, text.placeholder, propertyOf(run, sheet, text), text.row, text.column,
         text.halfPoints / 2.0, text.printedHalfPoints / 2.0, text.lines, clsForecast::Box::clsState(text.state)};
+    if (text.row > 0)
+        box.Grid = int(sheet.grids.size()) - 1;
     if (text.row > 0 && run.list) {
         box.List = QString::fromLatin1(run.list->name);
         box.Item = run.list->order(run.form, run.firstItem + text.row - 1);
@@ -126,6 +128,13 @@ void mdRemoveSpareMarks(clsMSWord &word)
 void mdTypeCell(clsMSWord &word, const QString &text, clsFillClass fill)
 {
     word.SetText(QString(text), fill == clsFillClass::TickBox, fill == clsFillClass::Money, true, false);
+}
+
+int mdLineBreaksIn(QString text)
+{
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    return int(std::count_if(text.begin(), text.end(),
+        [](QChar character) { return character == u'\n' || character == u'\r' || character == u'\v'; }));
 }
 
 void mdReplaceRows(clsExport &run, clsMSWord &word, std::span<const clsPlaceholderRow> rows, int pageNumber)

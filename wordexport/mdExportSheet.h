@@ -29,6 +29,9 @@ void mdRemoveSpareMarks(clsMSWord &word);
 /// Types a grid's cell, or a piece of the additional information.
 void mdTypeCell(clsMSWord &word, const QString &text, clsFillClass fill);
 
+/// The line breaks of a text that is typed, each of which is a line more to go down.
+int mdLineBreaksIn(QString text);
+
 /// Replaces the placeholders of a page in the order of their table. A text too long for its box goes to continuation
 /// sheets in its place in that order.
 void mdReplaceRows(clsExport &run, clsMSWord &word, std::span<const clsPlaceholderRow> rows, int pageNumber);

@@ -55,8 +55,8 @@ struct clsSheetLines {
 
 int breaksIn(const QStringList &lines)
 {
-    return std::accumulate(lines.begin(), lines.end(), 0,
-        [](int sum, const QString &line) { return sum + int(line.count(QLatin1String("\r\n"))); });
+    return std::accumulate(
+        lines.begin(), lines.end(), 0, [](int sum, const QString &line) { return sum + mdLineBreaksIn(line); });
 }
 
 /// Fills one sheet from the item at `start` and returns the first that it could not take.
@@ -66,6 +66,7 @@ int fillSheet(
     const int count = int(run.form.AdditionalInformationItemsCollection().size());
     clsMSWord word;
     mdOpenSheet(run, word, path);
+    run.sheets[path].grids.push_back({QStringLiteral("schedule"), place.offset, {0}});
     word.MoveCursorDown(place.offset);
     word.MoveCursorToStartOfRow();
     int position = start;

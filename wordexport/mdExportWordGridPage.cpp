@@ -16,7 +16,8 @@ void markOpenSheet(const clsExport &run, clsMSWord &word)
         mdReplaceMark(word, mdSheetMark(run.ExportSheetCounter));
 }
 
-void beginFurtherSheet(clsExport &run, clsMSWord &word, const clsGrid &grid, int pageNumber)
+/// Returns its path.
+QString beginFurtherSheet(clsExport &run, clsMSWord &word, const clsGrid &grid, int pageNumber)
 {
     ++run.ExportSheetCounter;
     mdSaveSheet(run, word);
@@ -24,6 +25,7 @@ void beginFurtherSheet(clsExport &run, clsMSWord &word, const clsGrid &grid, int
         = mdMakeSheet(run, QString::fromLatin1(grid.continuationTemplate), pageNumber, run.ExportSheetCounter);
     mdOpenSheet(run, word, path);
     word.MoveCursorDown(grid.furtherOffset);
+    return path;
 }
 
 void typeRow(const clsExport &run, clsMSWord &word, const clsGrid &grid, int i)
@@ -44,6 +46,12 @@ void mdExportGrid(
     run.grid = &grid;
     run.list = &grid.list;
     run.firstItem = 1;
+    QString sheet = firstSheet;
+    const auto noteGrid = [&](int linesAbove) {
+        run.sheets[sheet].grids.push_back({QString::fromLatin1(grid.list.name), linesAbove});
+    };
+    noteGrid(grid.firstOffset); // in the template: what was typed above stands in a cell of exact height
+    word.PassTypedBreaks(run.sheets[firstSheet].breaks);
     word.MoveCursorDown(firstOffset);
     const int count = grid.count(run.form);
     bool onFirstSheet = true;
@@ -53,12 +61,16 @@ void mdExportGrid(
             if (!onFirstSheet)
                 markOpenSheet(run, word);
             onFirstSheet = false;
-            beginFurtherSheet(run, word, grid, pageNumber);
+            sheet = beginFurtherSheet(run, word, grid, pageNumber);
+            noteGrid(grid.furtherOffset);
             run.firstItem = i;
             rowsWritten = 0;
         }
         mdSetProgress(i, count, QStringLiteral("Exporting Page %1").arg(pageNumber));
         typeRow(run, word, grid, i);
+        clsSheetFile &open = run.sheets[sheet];
+        open.grids.back().Items.push_back(grid.list.order(run.form, i));
+        open.breaks += mdLineBreaksIn(grid.cells.front().source(run.form, i));
         ++rowsWritten;
     }
     markOpenSheet(run, word);

@@ -95,10 +95,12 @@ void exportSheet(clsExport &run, const QString &pageTemplate, int pageNumber, in
     mdOpenSheet(run, word, path);
     run.list = &Schedule;
     run.firstItem = start;
+    run.sheets[path].grids.push_back({QString::fromLatin1(Schedule.name), LinesAboveGrid});
     word.MoveCursorDown(LinesAboveGrid);
     for (int row = start; row <= last; ++row) {
         mdSetProgress(row, count, QStringLiteral("Exporting Page %1").arg(pageNumber));
         const Item &item = *run.form.ScheduleOfTimeItemsForExportCollection()[size_t(row - 1)];
+        run.sheets[path].grids.back().Items.push_back(item.OrderID());
         mdExplained(run.form, item, [&] { typeRow(word, item, run.bill.prices().of(item)); });
         if (row < last)
             word.MoveSursorToNextLine();

@@ -69,7 +69,8 @@ clsForecast mdForecastOf(const clsExport &run)
     QSet<QString> seen;
     for (const QString &path : run.ExportFileCollection) {
         const clsSheetFile sheet = run.sheets.value(path);
-        forecast.Sheets.push_back({sheet.page, sheet.name, QString(sheet.templateName).chopped(4), sheet.paperPages});
+        forecast.Sheets.push_back(
+            {sheet.page, sheet.name, QString(sheet.templateName).chopped(4), sheet.paperPages, sheet.grids});
         if (seen.contains(path))
             continue;
         seen.insert(path);

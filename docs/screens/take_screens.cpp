@@ -31,6 +31,7 @@
 #include <QTimer>
 
 #include <cstdio>
+#include <functional>
 
 namespace {
 
@@ -42,15 +43,16 @@ public:
         : m_folder(folder)
     { }
 
-    /// Shows the window until it is drawn, and takes its picture.
-    void take(QWidget &window, const QString &name)
+    /// Shows the window until it is drawn, and takes its picture, or that of a part of it.
+    void take(QWidget &window, const QString &name, const std::function<QRect()> &part = {})
     {
         window.show();
         window.activateWindow();
         if (!QTest::qWaitForWindowActive(&window))
             fail(name, "does not come up");
         QTest::qWait(50);
-        if (!window.grab().save(QStringLiteral("%1/%2.png").arg(m_folder, name)))
+        const QRect shown = part ? part() : window.rect();
+        if (!window.grab(shown).save(QStringLiteral("%1/%2.png").arg(m_folder, name)))
             fail(name, "can't be written");
     }
     bool complete() const { return m_complete; }
@@ -186,6 +188,25 @@ void takeCostsLimit(clsPictures &pictures, frmMain &main)
     mdEditCostsLimit(&main);
 }
 
+/// The sign at a box whose text is printed smaller.
+void takePrintSign(clsPictures &pictures, frmMain &main)
+{
+    const QString address = Form->DebtorsDetails.Address();
+    Form->DebtorsDetails.Address = QStringLiteral("Flat 3B\r\nThe Laurels\r\nMill Lane\r\nBow\r\nLondon\r\nE3 4AA");
+    const std::unique_ptr<QDialog> screen {mdCreateScreen(QStringLiteral("Debtor's Details"), &main)};
+    pictures.take(*screen, QStringLiteral("print-sign"), [&screen] {
+        constexpr int Around = 6;
+        constexpr int ForCaption = 150;
+        constexpr int ForCount = 48;
+        const auto *box = screen->findChild<QWidget *>(QStringLiteral("txtAddress"));
+        return QRect(box->mapTo(screen.get(), QPoint()), box->size())
+            .adjusted(-ForCaption, -Around, ForCount, Around)
+            .intersected(screen->rect());
+    });
+    screen->close();
+    Form->DebtorsDetails.Address = address;
+}
+
 /// The office program draws the pages; without one the picture stays as it is.
 void takeFormPages(clsPictures &pictures, frmMain &main)
 {
@@ -255,6 +276,7 @@ bool takeAll(const QString &claim, const QString &folder)
     pictures.take(main, QStringLiteral("frmMain"));
     takeWhy(pictures, main);
     takeSections(pictures, main);
+    takePrintSign(pictures, main);
     fillPreferences();
     takeEditors(pictures, main);
     takePreferences(pictures, main);

@@ -2,8 +2,8 @@
 //
 //     fit_lines DOCUMENT
 //
-// One number a row. Each row is given no height at all, so that the fit of the typed text has to tell the lines of
-// every cell; the document itself is not written.
+// One number for each row with text. Each row is given no height at all, so that the fit of the typed text has to tell
+// the lines of every cell; the document itself is not written.
 
 #include "wordexport/document/clsWordPackage.h"
 #include "wordexport/document/mdWordFit.h"
@@ -22,10 +22,12 @@ void prepare(const xml_node &table, clsWordTyped &typed)
         xml_node height = row.child("w:trPr").child("w:trHeight");
         WordXml::setAttribute(height, "w:hRule", "exact");
         WordXml::setAttribute(height, "w:val", "1");
-        const QString name = QString::number(number++);
         xml_node cell = row.child("w:tc");
         while (cell && !cell.child("w:p").child("w:r"))
             cell = cell.next_sibling("w:tc");
+        if (!cell)
+            continue;
+        const QString name = QString::number(number++);
         for (const xml_node &run : cell.child("w:p").children("w:r"))
             typed.typed(run, 0, name);
     }

@@ -124,8 +124,10 @@ def row(random, number):
     return Made(Row(12, cells), paragraph, width, style)
 
 
-def document(rows):
-    """Rows that grow with their text."""
+def document(rows, spanned):
+    """Rows that grow with their text. Below a first row that spans them, their cells are printed narrower."""
+    if spanned:
+        rows = [Row(12, (Cell(look.units(look.ACROSS), (Paragraph(look.NOTE),)),)), *rows]
     fullest, look.FULLEST = look.FULLEST, 10 ** 9
     made = package_bytes("Lines", [*rows, Paragraph(look.TAIL)])
     look.FULLEST = fullest
@@ -163,7 +165,7 @@ def compare(texts, seed, folder):
     source = random.Random(seed)
     made = [row(source, number) for number in range(texts)]
     path = folder / "lines.docx"
-    path.write_bytes(document([one.row for one in made]))
+    path.write_bytes(document([one.row for one in made], seed % 2 == 0))
     ours = counted(path)
     theirs = printed(path, folder, [one.style.line for one in made])
     judged = [number for number in range(texts) if number in theirs and ours[number] <= MOST_LINES]

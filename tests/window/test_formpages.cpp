@@ -1,139 +1,14 @@
 #include "controls/oCustomButton.h"
-#include "preview/oFormPages.h"
 #include "preview/oPageThumbnails.h"
-#include "preview/oPageView.h"
 #include "preview/oPreviewGrid.h"
-#include "shell/clsFormPages.h"
-#include "shell/mdPageBoxes.h"
-#include "tests/window/clsMainWindowTest.h"
-#include "wordexport/mdOfficeProgram.h"
+#include "tests/window/clsFormPagesTest.h"
 
-#include <QBuffer>
 #include <QElapsedTimer>
-#include <QLabel>
-#include <QPageSize>
-#include <QPainter>
-#include <QPdfDocument>
-#include <QPdfSelection>
-#include <QPdfWriter>
-#include <QProgressBar>
 #include <QScrollBar>
-#include <QSet>
-#include <QSignalSpy>
-#include <QTimer>
-
-#include <optional>
 
 namespace {
 
-/// A PDF of some pages, each with its name at the head.
-QByteArray pdfOf(int pages)
-{
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    QPdfWriter writer(&buffer);
-    writer.setPageSize(QPageSize(QPageSize::A4));
-    QPainter painter(&writer);
-    for (int i = 1; i <= pages; ++i) {
-        if (i > 1)
-            writer.newPage();
-        painter.drawText(200, 400, QStringLiteral("See Page 99 (9)"));
-        painter.drawText(200, 1200, QStringLiteral("Page %1 (2)").arg(i));
-    }
-    painter.end();
-    return buffer.data();
-}
-
-class FormPages : public clsMainWindowTest {
-protected:
-    void SetUp() override
-    {
-        clsMainWindowTest::SetUp();
-        ASSERT_TRUE(QFile::link(QStringLiteral(ZR3_TEMPLATES), path("program/Templates")));
-        SetClock([] { return QDateTime(QDate(2026, 11, 22), QTime(14, 11)); });
-    }
-    void TearDown() override
-    {
-        clsMainWindowTest::TearDown();
-        m_office.reset();
-    }
-
-    /// A script that stands for the office program. It counts its runs, and $3 is the folder for its PDF.
-    void officeProgram(const QByteArray &steps, int longestMilliseconds = 60000)
-    {
-        QFile pdf(path("ready.pdf"));
-        ASSERT_TRUE(pdf.open(QIODevice::WriteOnly));
-        pdf.write(pdfOf(3));
-        pdf.close();
-        QFile script(path("office"));
-        ASSERT_TRUE(script.open(QIODevice::WriteOnly));
-        script.write("#!/bin/sh\nhere=" + QFile::encodeName(folder.path())
-            + "\necho run >> $here/runs\n"
-              "while [ $# -gt 1 ]; do [ \"$1\" = --outdir ] && out=$2; shift; done\n"
-              "made=$out/$(basename \"$1\" .doc).pdf\n"
-            + steps);
-        script.close();
-        script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        m_office.reset();
-        m_office.emplace(path("office"), longestMilliseconds);
-    }
-    void workingOfficeProgram() { officeProgram("cp $here/ready.pdf $made\n"); }
-    void noOfficeProgram()
-    {
-        m_office.reset();
-        m_office.emplace(QString(), 60000);
-    }
-    int runs() const
-    {
-        QFile file(path("runs"));
-        return file.open(QIODevice::ReadOnly) ? int(file.readAll().count('\n')) : 0;
-    }
-
-    oFormPages &page() const { return control<oFormPages>(*window, "oFormPages"); }
-    QString state() const { return control<QLabel>(*window, "lblState").text(); }
-    QString nothing() const { return control<QLabel>(*window, "lblNothing").text(); }
-    clsPagesMaker &maker() const { return window->findChild<clsFormPages *>()->Maker(); }
-    bool wait() const
-    {
-        return QTest::qWaitFor([this] { return !maker().isRunning(); }, 60000);
-    }
-    void showPages()
-    {
-        entry("mnuFormPages").trigger();
-        ASSERT_TRUE(wait());
-    }
-    /// As many as the script gives.
-    static void includeThreePages()
-    {
-        for (int number = 4; number <= 13; ++number)
-            Form->field(QStringLiteral("IncludePage%1").arg(number))->writeBoolean(false);
-    }
-    int boxOf(const char *property) const
-    {
-        const auto boxes = mdPageBoxes(maker().Sheets(), Form->FormType(), page().Pages());
-        for (size_t i = 0; i < boxes.size(); ++i)
-            if (boxes[i].target == QLatin1String(property))
-                return int(i);
-        return -1;
-    }
-    /// Closes the screen that opens next; its name, and the field that has the focus.
-    static void closeScreen(QString &focus)
-    {
-        QTimer::singleShot(300, [&focus] {
-            QWidget *screen = QApplication::activeModalWidget();
-            ASSERT_NE(nullptr, screen);
-            QWidget *field = screen->focusWidget();
-            while (field && field != screen && !field->objectName().startsWith(QLatin1String("txtSurname")))
-                field = field->parentWidget();
-            focus = screen->objectName() + u' ' + (field ? field->objectName() : QString());
-            screen->close();
-        });
-    }
-    void change() { Form->ClientDetails.Surname = Form->ClientDetails.Surname() + u'x'; }
-
-private:
-    std::optional<clsOfficeProgramScope> m_office;
-};
+using FormPages = clsFormPagesTest;
 
 } // namespace
 
@@ -236,6 +111,81 @@ TEST_F(FormPages, AreMadeAnewAtActivationWhereThePreviewIsRefreshed)
     EXPECT_EQ(2, runs());
     window->Activate();
     EXPECT_FALSE(maker().isRunning());
+}
+
+TEST_F(FormPages, WhatFailedIsNotTriedAgainAtEachActivation)
+{
+    workingOfficeProgram();
+    start(sample("housing-typical.zr3"));
+    Preferences->AutoRefreshPreview = true;
+    showPages();
+    officeProgram("exit 7\n");
+    const auto activate = [this] {
+        window->Activate();
+        ASSERT_TRUE(wait());
+    };
+    change();
+    activate();
+    activate();
+    activate();
+    EXPECT_EQ(2, runs());
+    EXPECT_EQ(QStringLiteral("LibreOffice failed to make the PDF (exit status 7)."), state());
+    // Until the claim changes,
+    const QString failed = Form->ClientDetails.Surname();
+    change();
+    activate();
+    activate();
+    EXPECT_EQ(3, runs());
+    // or until the user asks for it.
+    control<oCustomButton>(*window, "cmdRefreshPages").Click();
+    ASSERT_TRUE(wait());
+    EXPECT_EQ(4, runs());
+    showPages();
+    EXPECT_EQ(5, runs());
+    // Once there have been new pages, the old failure is forgotten.
+    workingOfficeProgram();
+    showPages();
+    EXPECT_EQ(6, runs());
+    Form->ClientDetails.Surname = failed;
+    activate();
+    EXPECT_EQ(7, runs());
+    EXPECT_EQ(QStringLiteral("Page 1 (2), paper page 1 of 3. As the claim stands at 14:11."), state());
+}
+
+TEST_F(FormPages, WhatWasCancelledIsNotTriedAgainAtEachActivation)
+{
+    workingOfficeProgram();
+    start(sample("housing-typical.zr3"));
+    Preferences->AutoRefreshPreview = true;
+    showPages();
+    officeProgram("exec sleep 1000\n");
+    const QString name = Form->ClientDetails.Surname();
+    change();
+    window->Activate();
+    ASSERT_TRUE(maker().isRunning());
+    QTest::keyClick(window.get(), Qt::Key_Escape);
+    window->Activate();
+    EXPECT_FALSE(maker().isRunning());
+    EXPECT_EQ(QStringLiteral("Shown as of 14:11; the claim has changed"), state());
+    Form->ClientDetails.Surname = name;
+    window->Activate();
+    EXPECT_EQ(QStringLiteral("Page 1 (2), paper page 1 of 3. As the claim stands at 14:11."), state());
+}
+
+TEST_F(FormPages, AFailureIsNoLongerToldOnceTheClaimIsThatOfThePages)
+{
+    workingOfficeProgram();
+    start(sample("housing-typical.zr3"));
+    showPages();
+    const QString name = Form->ClientDetails.Surname();
+    officeProgram("exit 7\n");
+    change();
+    window->Activate();
+    showPages();
+    EXPECT_EQ(QStringLiteral("LibreOffice failed to make the PDF (exit status 7)."), state());
+    Form->ClientDetails.Surname = name;
+    window->Activate();
+    EXPECT_EQ(QStringLiteral("Page 1 (2), paper page 1 of 3. As the claim stands at 14:11."), state());
 }
 
 TEST_F(FormPages, AClaimThatChangesMeanwhileIsShownAsChanged)
@@ -390,7 +340,7 @@ TEST_F(FormPages, ThreeHundredPagesAreQuick)
     oFormPages pages;
     pages.resize(1200, 700);
     show(pages);
-    const QByteArray pdf = pdfOf(300);
+    const QByteArray pdf = mdPdfOf(300);
     QElapsedTimer timer;
     timer.start();
     ASSERT_TRUE(pages.ShowPages(pdf, Now()));
@@ -401,133 +351,6 @@ TEST_F(FormPages, ThreeHundredPagesAreQuick)
     EXPECT_LT(timer.elapsed(), 2000);
 }
 
-TEST_F(FormPages, ABoxOpensItsScreenOnItsField)
-{
-    workingOfficeProgram();
-    start(sample("housing-typical.zr3"));
-    includeThreePages();
-    showPages();
-    oPageView &view = *page().View();
-    view.setZoom(50);
-    const int box = boxOf("ClientDetails.Surname");
-    ASSERT_GE(box, 0);
-    const QPoint place = view.PlaceOfBox(box).center();
-    QTest::mouseMove(view.viewport(), place);
-    EXPECT_EQ(box, view.MarkedBox());
-    EXPECT_EQ(QStringLiteral("Open Client Details: Surname"), view.accessibleDescription());
-    QString focus;
-    closeScreen(focus);
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, place);
-    EXPECT_EQ(QStringLiteral("frmClientDetails txtSurname"), focus);
-    EXPECT_TRUE(page().isVisible());
-    // Beside all boxes there is nothing to open.
-    QTest::mouseMove(view.viewport(), {2, 2});
-    EXPECT_EQ(-1, view.MarkedBox());
-    EXPECT_EQ(state(), view.accessibleDescription());
-}
-
-TEST_F(FormPages, TheTabKeyWalksTheBoxesAndEnterOpens)
-{
-    workingOfficeProgram();
-    start(sample("housing-typical.zr3"));
-    includeThreePages();
-    showPages();
-    oPageView &view = *page().View();
-    QTest::keyClick(&view, Qt::Key_Tab);
-    EXPECT_EQ(0, view.MarkedBox());
-    const int box = boxOf("ClientDetails.Surname");
-    for (int i = 0; i < box; ++i)
-        QTest::keyClick(&view, Qt::Key_Tab);
-    EXPECT_EQ(box, view.MarkedBox());
-    EXPECT_TRUE(view.viewport()->rect().contains(view.PlaceOfBox(box)));
-    QString focus;
-    closeScreen(focus);
-    QTest::keyClick(&view, Qt::Key_Return);
-    EXPECT_EQ(QStringLiteral("frmClientDetails txtSurname"), focus);
-    view.setFocus();
-    QTest::keyClick(&view, Qt::Key_Tab);
-    QTest::keyClick(&view, Qt::Key_Backtab, Qt::ShiftModifier);
-    EXPECT_EQ(-1, view.MarkedBox());
-    EXPECT_FALSE(view.hasFocus()) << "before the first box comes the control before";
-}
-
-TEST_F(FormPages, ASheetThatRunsOnHasNoBoxes)
-{
-    start();
-    const auto boxes = [](std::vector<clsForecast::Sheet> sheets, int pages) {
-        clsForecast given;
-        given.Sheets = std::move(sheets);
-        QSet<int> found;
-        for (const clsPageBox &box : mdPageBoxes(given, QStringLiteral("Claim1"), pages))
-            found << box.page;
-        return found;
-    };
-    const QString none;
-    EXPECT_EQ((QSet<int> {0, 1, 2}),
-        boxes({{1, QStringLiteral("1(1)"), none, 1}, {2, QStringLiteral("2(1)"), none, 1},
-                  {3, QStringLiteral("3(1)"), none, 1}},
-            3));
-    EXPECT_EQ((QSet<int> {0, 3}),
-        boxes({{1, QStringLiteral("1(1)"), none, 1}, {2, QStringLiteral("2(1)"), none, 2},
-                  {3, QStringLiteral("3(1)"), none, 1}},
-            4));
-    EXPECT_EQ((QSet<int> {0, 2}),
-        boxes({{1, QStringLiteral("1(1)"), none, 1}, {2, QStringLiteral("2(2)"), none, 1},
-                  {3, QStringLiteral("3(1)"), none, 1}},
-            3));
-    EXPECT_TRUE(boxes({{1, QStringLiteral("1(1)"), none, 1}}, 2).isEmpty()) << "pages that nobody reckoned with";
-}
-
-TEST_F(FormPages, TheBoxesLieWhereTheOfficeProgramPrintsTheirTexts)
-{
-    if (mdOfficeProgram().isEmpty())
-        GTEST_SKIP() << "no office program is installed";
-    start(sample("housing-typical.zr3"));
-    const std::pair<const char *, QString> words[] = {
-        {"ClientDetails.Surname", QStringLiteral("Qsurname")},
-        {"CaseInformation.NameOfCourt", QStringLiteral("Qcourt")},
-        {"LateSubmission.Explanation", QStringLiteral("Qlate")},
-        {"DetailsOfWork.DetailsOfCase", QStringLiteral("Qwork")},
-        {"DebtorsDetails.Address", QStringLiteral("Qaddress")},
-        {"DebtorsDetails.Information", QStringLiteral("Qinformation")},
-        {"DetailsOfCostsAwarded.AddressOfService", QStringLiteral("Qservice")},
-    };
-    for (const char *formType : {"Claim1", "Claim1A"}) {
-        Form->FormType = QString::fromLatin1(formType);
-        Form->ClientDetails.Surname = QStringLiteral("Qsurname");
-        Form->CaseInformation.NameOfCourt = QStringLiteral("Qcourt");
-        Form->LateSubmission.Explanation = QStringLiteral("Qlate");
-        Form->DetailsOfWork.DetailsOfCase = QStringLiteral("Qwork");
-        Form->DebtorsDetails.Address = QStringLiteral("Qaddress");
-        Form->DebtorsDetails.Information = QStringLiteral("Qinformation");
-        Form->DetailsOfCostsAwarded.AddressOfService = QStringLiteral("Qservice");
-        showPages();
-        ASSERT_TRUE(page().HasPages()) << nothing().toStdString();
-        QBuffer buffer;
-        buffer.setData(page().Pdf());
-        buffer.open(QIODevice::ReadOnly);
-        QPdfDocument pdf;
-        pdf.load(&buffer);
-        int found = 0;
-        for (const clsPageBox &box : mdPageBoxes(maker().Sheets(), Form->FormType(), page().Pages())) {
-            const QString text = pdf.getAllText(box.page).text();
-            for (const auto &[property, word] : words) {
-                const bool itsOwn = QLatin1String(property) == box.target;
-                const qsizetype at = itsOwn ? text.indexOf(word) : -1;
-                if (at < 0)
-                    continue;
-                ++found;
-                const QRectF printed = pdf.getSelectionAtIndex(box.page, int(at), int(word.size())).boundingRectangle();
-                EXPECT_TRUE(box.points.adjusted(-3, -3, 3, 3).contains(printed))
-                    << formType << ' ' << qPrintable(word) << " at " << printed.x() << ' ' << printed.y() << ", box "
-                    << box.points.x() << ' ' << box.points.y() << ' ' << box.points.width() << ' '
-                    << box.points.height();
-            }
-        }
-        EXPECT_GE(found, 5) << formType;
-    }
-}
-
 TEST_F(FormPages, ARealOfficeProgramDrawsThem)
 {
     if (mdOfficeProgram().isEmpty())
@@ -536,125 +359,4 @@ TEST_F(FormPages, ARealOfficeProgramDrawsThem)
     showPages();
     ASSERT_TRUE(page().HasPages()) << nothing().toStdString();
     EXPECT_EQ(QStringLiteral("Page 1, paper page 1 of 14. As the claim stands at 14:11."), state());
-}
-
-namespace {
-
-class PdfExport : public FormPages {
-protected:
-    QByteArray bytesOf(const QString &file) const
-    {
-        QFile opened(file);
-        return opened.open(QIODevice::ReadOnly) ? opened.readAll() : QByteArrayLiteral("(no file)");
-    }
-    QByteArray ready() const { return bytesOf(path("ready.pdf")); }
-    void exportTo(const QString &file)
-    {
-        user.files = {file};
-        entry("mnuExportAsPdf").trigger();
-    }
-};
-
-} // namespace
-
-TEST_F(PdfExport, WritesThePagesUnderTheProposedName)
-{
-    workingOfficeProgram();
-    start(sample("housing-typical.zr3"));
-    exportTo(path("claims/mine.pdf"));
-    EXPECT_EQ(QStringList(path("claims/housing-typical.pdf")), user.proposed);
-    EXPECT_EQ(ready(), bytesOf(path("claims/mine.pdf")));
-    ASSERT_EQ(1u, user.messages.size());
-    EXPECT_EQ(QStringLiteral("Export Complete"), user.messages[0].title);
-    EXPECT_EQ(QStringLiteral("Exporting is complete."), user.messages[0].text);
-    EXPECT_EQ(QFile::permissions(path("claims/housing-typical.zr3")), QFile::permissions(path("claims/mine.pdf")));
-}
-
-TEST_F(PdfExport, AClaimNeverSavedIsNamedAfterItsForm)
-{
-    workingOfficeProgram();
-    start();
-    Form->ExportPath = path("claims");
-    exportTo(QString());
-    EXPECT_EQ(QStringList(path("claims/Claim1.pdf")), user.proposed);
-    EXPECT_EQ(0, runs());
-    EXPECT_TRUE(user.messages.empty());
-}
-
-TEST_F(PdfExport, TakesThePagesThatAreShown)
-{
-    workingOfficeProgram();
-    start(sample("housing-typical.zr3"));
-    showPages();
-    for (int i = 0; i < 10; ++i)
-        exportTo(path("claims/mine.pdf"));
-    EXPECT_EQ(1, runs());
-    EXPECT_EQ(ready(), bytesOf(path("claims/mine.pdf")));
-    change();
-    exportTo(path("claims/mine.pdf"));
-    EXPECT_EQ(2, runs());
-}
-
-TEST_F(PdfExport, TenOneAfterTheOtherLeaveNothingBehind)
-{
-    workingOfficeProgram();
-    start(sample("housing-typical.zr3"));
-    const QStringList before = QDir(QDir::tempPath()).entryList({QStringLiteral("window_test-*")});
-    for (int i = 0; i < 10; ++i) {
-        exportTo(path("claims/mine.pdf"));
-        EXPECT_EQ(ready(), bytesOf(path("claims/mine.pdf")));
-        QFile::remove(path("claims/mine.pdf"));
-    }
-    EXPECT_EQ(10, runs());
-    EXPECT_EQ(10u, user.messages.size());
-    EXPECT_EQ(before, QDir(QDir::tempPath()).entryList({QStringLiteral("window_test-*")}));
-}
-
-TEST_F(PdfExport, EscapeStopsItAndLeavesTheOldFile)
-{
-    officeProgram("exec sleep 1000\n");
-    start(sample("housing-typical.zr3"));
-    QFile old(path("claims/mine.pdf"));
-    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
-    old.write("old");
-    old.close();
-    QTimer::singleShot(500, [] {
-        QWidget *dialog = QApplication::activeModalWidget();
-        ASSERT_NE(nullptr, dialog);
-        EXPECT_EQ(QStringLiteral("frmExportAsPdf"), dialog->objectName());
-        EXPECT_EQ(QStringLiteral("Drawing 14 pages"), control<QLabel>(*dialog, "lblProgress").text());
-        QTest::keyClick(dialog, Qt::Key_Escape);
-    });
-    exportTo(path("claims/mine.pdf"));
-    EXPECT_EQ("old", bytesOf(path("claims/mine.pdf")));
-    EXPECT_TRUE(user.messages.empty());
-}
-
-TEST_F(PdfExport, AFailureIsOneMessage)
-{
-    start(sample("housing-typical.zr3"));
-    struct {
-        std::function<void()> prepare;
-        QString file;
-        QString told;
-    } const rows[] = {
-        {[this] { noOfficeProgram(); }, path("claims/mine.pdf"),
-            QStringLiteral(
-                "No office program was found that can make the PDF. Install LibreOffice Writer and try again.")},
-        {[this] { officeProgram("exit 7\n"); }, path("claims/mine.pdf"),
-            QStringLiteral("LibreOffice failed to make the PDF (exit status 7).")},
-        {[this] { officeProgram("exec sleep 1000\n", 300); }, path("claims/mine.pdf"),
-            QStringLiteral("LibreOffice did not make the PDF within 0.3 seconds and was stopped.")},
-        {[this] { workingOfficeProgram(); }, path("gone/mine.pdf"),
-            QStringLiteral("The PDF could not be written: File not found.")},
-    };
-    for (const auto &row : rows) {
-        row.prepare();
-        user.messages.clear();
-        exportTo(row.file);
-        ASSERT_EQ(1u, user.messages.size());
-        EXPECT_EQ(QStringLiteral("Export as PDF"), user.messages[0].title);
-        EXPECT_EQ(QStringLiteral("The PDF was not made.\r\n\r\n") + row.told, user.messages[0].text);
-        EXPECT_FALSE(QFile::exists(path("claims/mine.pdf")));
-    }
 }

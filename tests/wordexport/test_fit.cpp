@@ -240,6 +240,33 @@ TEST_F(clsFit, RowsOfAGridAreCountedFromItsFirst)
     EXPECT_EQ(word.fitted()[0].row, 2);
 }
 
+// Of lines of 15 twips the word processor that prints the forms takes the halves of both from every cell of the table
+// where its first cell has both, and else half of one. Four M of ten points are not quite 667 twips wide.
+TEST_F(clsFit, TheLinesBesideATablesFirstCellTakeRoomFromAllItsCells)
+{
+    const auto isSmaller = [](const char *sides, int width) {
+        QString lines;
+        for (const QString &side : QString::fromLatin1(sides).split(u' '))
+            lines += QStringLiteral("<w:%1 w:val=\"single\" w:sz=\"6\"/>").arg(side);
+        Box head {width, 400, 190, 18, r(QStringLiteral("a"))};
+        Box cell {width, 400, 250, 20, r(Placeholder, format(20))};
+        const QString first = rowOf(head).replace(
+            QLatin1String("</w:tcPr>"), QStringLiteral("<w:tcBorders>%1</w:tcBorders></w:tcPr>").arg(lines));
+        const clsTestFolder folder;
+        const QString path
+            = folder.write(QStringLiteral("Sheet.doc"), clsTestDocument(tableOf(first + rowOf(cell), width)));
+        clsMSWord word;
+        word.OpenDocument(path);
+        word.DoReplace(Placeholder, QStringLiteral("MMMM"), false, false, true);
+        word.SaveAndClose();
+        return !word.fitted().empty();
+    };
+    EXPECT_FALSE(isSmaller("left", 667 + 8));
+    EXPECT_TRUE(isSmaller("left", 667 + 7));
+    EXPECT_FALSE(isSmaller("left right", 667 + 15));
+    EXPECT_TRUE(isSmaller("left right", 667 + 14));
+}
+
 // Two lines of 250 twips fill a row of 500 but for the line above it, of half a point.
 TEST_F(clsFit, TheLineAboveARowTakesItsRoom)
 {

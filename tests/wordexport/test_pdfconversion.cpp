@@ -235,42 +235,122 @@ TEST_F(PdfConversion, WhatTheProgramHasStartedIsNotAmongTheProcesses)
     ::kill(pid_t(-::getpgid(pid_t(numberIn("self")))), SIGKILL);
 }
 
-TEST_F(PdfConversion, TheRealProgramMakesAPdf)
+TEST_F(PdfConversion, OneThatHangsIsGivenUpAfterAMinute)
 {
-    if (mdOfficeProgram().isEmpty())
-        GTEST_SKIP() << "there is no LibreOffice on this machine";
-    ASSERT_TRUE(QFile::remove(document));
-    ASSERT_TRUE(QFile::copy(QStringLiteral(ZR3_TEMPLATES "/Claim1 P1.doc"), document));
-    clsPdfConversion conversion(document);
-    ASSERT_EQ(clsPdfConversion::Done, conversion.wait()) << qPrintable(conversion.failure());
-    EXPECT_TRUE(bytesOf(conversion.pdf()).startsWith("%PDF-"));
-    EXPECT_GT(QFileInfo(conversion.pdf()).size(), 5'000);
+    EXPECT_EQ(60'000, mdOfficeProgramLongestMilliseconds());
 }
 
-TEST_F(PdfConversion, TheRealProgramIsStoppedWhole)
-{
-    if (mdOfficeProgram().isEmpty())
-        GTEST_SKIP() << "there is no LibreOffice on this machine";
-    const clsOfficeProgramScope scope(QString(mdOfficeProgram()), Long);
-    qputenv("TMPDIR", QFile::encodeName(folder.path()));
-    clsPdfConversion conversion(document);
-    qunsetenv("TMPDIR");
-    // Those of the processes that work in its private folder, which they name in their arguments.
-    const auto processes = [&] {
+namespace {
+
+/// The office program that is installed.
+class RealPdfConversion : public PdfConversion {
+protected:
+    void SetUp() override
+    {
+        if (mdOfficeProgram().isEmpty())
+            GTEST_SKIP() << "there is no LibreOffice on this machine";
+        PdfConversion::SetUp();
+        ASSERT_TRUE(QFile::remove(document));
+        ASSERT_TRUE(QFile::copy(QStringLiteral(ZR3_TEMPLATES "/Claim1 P1.doc"), document));
+        // What is converted lies below this folder then.
+        qputenv("TMPDIR", QFile::encodeName(folder.path()));
+    }
+    void TearDown() override { qunsetenv("TMPDIR"); }
+
+    /// The names, or the numbers, of the processes that name a folder in their arguments.
+    static QStringList processesIn(const QString &place, bool numbers = false)
+    {
         QStringList found;
         for (const QString &entry : QDir(QStringLiteral("/proc")).entryList({QStringLiteral("[1-9]*")}, QDir::Dirs)) {
-            const qint64 process = entry.toLongLong();
-            QFile arguments(QStringLiteral("/proc/%1/cmdline").arg(process));
-            if (arguments.open(QIODevice::ReadOnly) && arguments.readAll().contains(QFile::encodeName(folder.path()))
-                && isAlive(process))
-                found << QFileInfo(QStringLiteral("/proc/%1/exe").arg(process)).symLinkTarget().section(u'/', -1);
+            QFile arguments(QStringLiteral("/proc/%1/cmdline").arg(entry));
+            if (arguments.open(QIODevice::ReadOnly) && arguments.readAll().contains(QFile::encodeName(place))
+                && isAlive(entry.toLongLong()))
+                found << (numbers
+                        ? entry
+                        : QFileInfo(QStringLiteral("/proc/%1/exe").arg(entry)).symLinkTarget().section(u'/', -1));
         }
         return found;
-    };
-    for (int i = 0; i < 500 && !processes().contains(QStringLiteral("soffice.bin")); ++i)
-        QThread::msleep(10);
-    ASSERT_TRUE(processes().contains(QStringLiteral("soffice.bin")));
+    }
+    static bool comesUpIn(const QString &place)
+    {
+        for (int i = 0; i < 3000 && !processesIn(place).contains(QStringLiteral("soffice.bin")); ++i)
+            QThread::msleep(10);
+        return processesIn(place).contains(QStringLiteral("soffice.bin"));
+    }
+    static void killAllIn(const QString &place)
+    {
+        for (const QString &process : processesIn(place, true))
+            ::kill(pid_t(process.toLongLong()), SIGKILL);
+    }
+    QStringList leftBehind() const
+    {
+        return QDir(folder.path()).entryList({QStringLiteral("wordexport_test-*")}, QDir::AllEntries | QDir::Hidden);
+    }
+};
+
+} // namespace
+
+TEST_F(RealPdfConversion, MakesTenOneAfterTheOtherAndLeavesNothingBehind)
+{
+    for (int i = 0; i < 10; ++i) {
+        clsPdfConversion conversion(document);
+        ASSERT_EQ(clsPdfConversion::Done, conversion.wait()) << i << qPrintable(conversion.failure());
+        EXPECT_TRUE(bytesOf(conversion.pdf()).startsWith("%PDF-"));
+        EXPECT_GT(QFileInfo(conversion.pdf()).size(), 5'000);
+        EXPECT_EQ(1, leftBehind().size()) << "its own folder, which shows that this looks in the right place";
+    }
+    EXPECT_EQ(QStringList(), leftBehind());
+    EXPECT_EQ(QStringList(), processesIn(folder.path()));
+}
+
+TEST_F(RealPdfConversion, LeavesOneThatRunsAlreadyInPeace)
+{
+    const QString profile = path("theirs");
+    const QStringList arguments = {QStringLiteral("-env:UserInstallation=file://") + profile,
+        QStringLiteral("--headless"), QStringLiteral("--norestore"), QStringLiteral("--nologo")};
+    // With a new profile it starts itself a second time.
+    ASSERT_EQ(
+        0, QProcess::execute(mdOfficeProgram(), arguments + QStringList(QStringLiteral("--terminate_after_init"))));
+    QProcess theirs;
+    theirs.start(
+        mdOfficeProgram(), arguments + QStringList(QStringLiteral("--accept=pipe,name=zr3%1;urp").arg(::getpid())));
+    ASSERT_TRUE(comesUpIn(profile));
+    const QStringList running = processesIn(profile, true);
+    {
+        clsPdfConversion conversion(document);
+        EXPECT_EQ(clsPdfConversion::Done, conversion.wait()) << qPrintable(conversion.failure());
+        EXPECT_TRUE(bytesOf(conversion.pdf()).startsWith("%PDF-"));
+    }
+    EXPECT_EQ(running, processesIn(profile, true)) << "ours has ended, and no other";
+    {
+        // Nor does it go with one that is stopped.
+        clsPdfConversion conversion(document);
+        EXPECT_TRUE(comesUpIn(folder.filePath(QStringLiteral("wordexport_test-"))));
+        conversion.cancel();
+    }
+    EXPECT_EQ(running, processesIn(profile, true));
+    killAllIn(profile);
+    theirs.waitForFinished();
+}
+
+TEST_F(RealPdfConversion, IsStoppedWhole)
+{
+    clsPdfConversion conversion(document);
+    ASSERT_TRUE(comesUpIn(folder.path()));
     conversion.cancel();
     EXPECT_EQ(clsPdfConversion::Cancelled, conversion.state());
-    EXPECT_EQ(QStringList(), processes());
+    EXPECT_EQ(QStringList(), processesIn(folder.path()));
+}
+
+TEST_F(RealPdfConversion, OneThatIsKilledIsAFailure)
+{
+    {
+        clsPdfConversion conversion(document);
+        ASSERT_TRUE(comesUpIn(folder.path()));
+        killAllIn(folder.path());
+        EXPECT_EQ(clsPdfConversion::Failed, conversion.wait());
+        EXPECT_EQ(QStringLiteral("LibreOffice broke down while it made the PDF."), conversion.failure());
+    }
+    EXPECT_EQ(QStringList(), processesIn(folder.path()));
+    EXPECT_EQ(QStringList(), leftBehind());
 }

@@ -41,6 +41,14 @@ int widestSideLine(const xml_node &borders)
     return widest;
 }
 
+int sideLines(const xml_node &borders)
+{
+    int sum = 0;
+    for (const char *side : {"w:left", "w:right", "w:start", "w:end"})
+        sum += widthOfLine(borders.child(side));
+    return sum;
+}
+
 } // namespace
 
 clsWordTableShape::clsWordTableShape(const xml_node &table, const clsWordLooks &looks)
@@ -157,7 +165,8 @@ int clsWordTableShape::widthOfColumns(int from, int to) const
     return width;
 }
 
-// Half of its outer lines' width is lost to each cell of a table.
+// Half of its outer lines' width is lost to each cell of a table. Where the very first cell has a line on its right too,
+// as one that spans the table has, the halves of both its lines are.
 int clsWordTableShape::lineLoss()
 {
     if (m_lineLoss < 0) {
@@ -167,7 +176,8 @@ int clsWordTableShape::lineLoss()
             for (const xml_node &cell :
                 {WordXml::firstItem(row, WordXml::isCell), WordXml::lastItem(row, WordXml::isCell)})
                 widest = std::max(widest, widestSideLine(cell.child("w:tcPr").child("w:tcBorders")));
-        m_lineLoss = (widest + 1) / 2;
+        const xml_node first = WordXml::firstItem(WordXml::firstItem(m_table, WordXml::isRow), WordXml::isCell);
+        m_lineLoss = (std::max(widest, sideLines(first.child("w:tcPr").child("w:tcBorders"))) + 1) / 2;
     }
     return m_lineLoss;
 }

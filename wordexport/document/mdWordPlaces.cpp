@@ -61,6 +61,7 @@ private:
     {
         static const QRegularExpression placeholder(QStringLiteral("\\{[^{}]+\\}"));
         const int last = int(edges.size()) - 1;
+        const QRect whole(edges.front(), m_top, edges.back() - edges.front(), clsWordTableShape::heightSaidBy(row));
         int column = clsWordTableShape::firstColumnOf(row);
         for (xml_node cell = WordXml::firstItem(row, WordXml::isCell); cell;
              cell = WordXml::nextItem(cell, WordXml::isCell)) {
@@ -69,7 +70,7 @@ private:
                 const QRect place(edges[size_t(column)], m_top, edges[size_t(next)] - edges[size_t(column)],
                     heightOf(row, cell, column));
                 for (auto found = placeholder.globalMatch(textOf(cell)); found.hasNext();)
-                    places.push_back({found.next().captured(), place});
+                    places.push_back({found.next().captured(), place, whole});
             }
             column = next;
         }

@@ -13,6 +13,7 @@
 struct clsPlaceholderPlace {
     QString placeholder;
     QRect cell; ///< twips, from the corner of the paper
+    QRect row; ///< of the table that the cell stands in
 };
 
 /// The places of the placeholders in the table cells of a body that takes one page. They are known as far down as the

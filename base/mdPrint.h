@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <cstdio>
@@ -9,6 +10,9 @@ QString mdWithoutControls(QString text);
 
 /// Writes a text, whose lines end in CR LF, to a stream. Where that is a terminal, control characters are shown as "?".
 void mdPrint(std::FILE *stream, const QString &text);
+
+/// Writes a result to standard output, byte for byte.
+void mdPrintBytes(const QByteArray &bytes);
 
 /// Whether a stream ends in a terminal.
 bool mdIsTerminal(std::FILE *stream);

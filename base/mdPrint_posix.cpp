@@ -25,6 +25,11 @@ void mdPrint(std::FILE *stream, const QString &text)
     std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stream);
 }
 
+void mdPrintBytes(const QByteArray &bytes)
+{
+    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout);
+}
+
 bool mdIsTerminal(std::FILE *stream)
 {
     return ::isatty(::fileno(stream)) == 1;

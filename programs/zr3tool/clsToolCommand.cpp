@@ -6,19 +6,25 @@
 
 namespace {
 
+/// The groups of options that a command may have.
+enum OptionGroup : unsigned { NoOptions = 0, ExportOptions = 1, JsonOption = 2 };
+
 struct VerbRow {
     const char *word;
     clsToolCommand::Verb verb;
     int paths; ///< how many paths follow the word
+    unsigned options = NoOptions;
 };
 
 constexpr VerbRow Verbs[] = {
     {"totals", clsToolCommand::Totals, 1},
-    {"export", clsToolCommand::Export, 2},
+    {"export", clsToolCommand::Export, 2, ExportOptions},
     {"check", clsToolCommand::Check, 1},
     {"save", clsToolCommand::Save, 2},
-    {"why", clsToolCommand::Why, 3},
-    {"forecast", clsToolCommand::Forecast, 1},
+    // Its result is JSON with the option or without it.
+    {"why", clsToolCommand::Why, 3, JsonOption},
+    {"forecast", clsToolCommand::Forecast, 1, JsonOption},
+    {"diff", clsToolCommand::Diff, 2, JsonOption},
 };
 
 const QString Force = QStringLiteral("force");
@@ -46,6 +52,11 @@ bool hasExportOptions(const QCommandLineParser &parser)
 {
     return parser.isSet(Force) || parser.isSet(Templates) || parser.isSet(KeepSheets) || parser.isSet(Quiet)
         || parser.isSet(Pdf) || parser.isSet(NameByFile);
+}
+
+unsigned optionsOf(const QCommandLineParser &parser)
+{
+    return (hasExportOptions(parser) ? ExportOptions : NoOptions) | (parser.isSet(Json) ? JsonOption : NoOptions);
 }
 
 /// `check --full`, which takes as many claims as there are and has options of its own.
@@ -76,9 +87,7 @@ std::optional<clsToolCommand> commandOf(const QCommandLineParser &parser)
         [&](const VerbRow &candidate) { return !words.isEmpty() && words.first() == QLatin1String(candidate.word); });
     if (row == std::end(Verbs) || words.size() != row->paths + 1)
         return {};
-    if (row->verb != clsToolCommand::Export && hasExportOptions(parser))
-        return {};
-    if (parser.isSet(Json) && row->verb != clsToolCommand::Forecast && row->verb != clsToolCommand::Why)
+    if (optionsOf(parser) & ~row->options)
         return {};
     // As from a variable of a script that was never set: the program's own templates are not what was asked for.
     if (parser.values(Templates).contains(QString()))
@@ -91,13 +100,17 @@ std::optional<clsToolCommand> commandOf(const QCommandLineParser &parser)
         command.which = words[3];
         return command;
     }
+    command.json = parser.isSet(Json);
+    if (row->verb == clsToolCommand::Diff) {
+        command.claims = words.mid(1);
+        return command;
+    }
     command.target = words.value(2);
     command.force = parser.isSet(Force);
     command.keepSheets = parser.isSet(KeepSheets);
     command.quiet = parser.isSet(Quiet);
     command.pdf = parser.isSet(Pdf);
     command.nameByFile = parser.isSet(NameByFile);
-    command.json = parser.isSet(Json);
     command.templates = parser.value(Templates);
     return command;
 }
@@ -135,6 +148,7 @@ QString clsToolCommand::usage()
         "  zr3tool why    CLAIM KIND N    how one figure comes about, as JSON; KIND and N are\n"
         "                                 schedule and an item's order, communications and KIND/LINE,\n"
         "                                 fas and an order, total and a key of totals, list and a column\n"
+        "  zr3tool diff   OLD NEW         what changed between two claims, or two folders of claims\n"
         "  zr3tool --help | --version\n"
         "\n"
         "Options of check --full (it takes folders too):\n"
@@ -149,11 +163,11 @@ QString clsToolCommand::usage()
         "  --pdf              make the same as PDF beside the document\n"
         "  --name-by-file     name the document after the claim's file\n"
         "\n"
-        "Option of forecast:\n"
+        "Option of forecast and diff:\n"
         "  --json             print it as JSON\n"
         "\n"
-        "Exit status: 0 done; 1 wrong usage; 2 the claim can't be read; 3 blank items found, or an error or\n"
-        "a warning by check --full; 4 a figure can't be computed, the export failed or would fail, or the PDF\n"
-        "could not be made; 5 the document or the PDF exists already.\n"
+        "Exit status: 0 done; 1 wrong usage; 2 a claim can't be read; 3 blank items found, an error or a warning\n"
+        "by check --full, or two claims differ; 4 a figure can't be computed, the export failed or would fail, or\n"
+        "the PDF could not be made; 5 the document or the PDF exists already.\n"
         "A box whose text is no amount is told of and left as it is; the document is made all the same.\n");
 }

@@ -12,17 +12,19 @@ enum class clsExitStatus {
     WrongUsage = 1,
     NoClaim = 2,
     BlankItems = 3, ///< or something else that a check has found
+    Differs = 3,
+    WrongRows = 3,
     Failed = 4,
     DocumentExists = 5,
 };
 
 /// A command line, read.
 struct clsToolCommand {
-    enum Verb { Totals, Export, Check, CheckFull, Save, Forecast, Why, Help, Version };
+    enum Verb { Totals, Export, Check, CheckFull, Save, Forecast, Why, Diff, Help, Version };
 
     Verb verb = Help;
     QString claim;
-    QStringList claims; ///< of a full check: claims and folders
+    QStringList claims; ///< of a full check or a comparison: claims and folders
     QString kind; ///< of the figure that is asked for
     QString which; ///< and which of its kind
     QDate today; ///< stands in for the machine's day, where it is given

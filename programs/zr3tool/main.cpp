@@ -13,6 +13,7 @@
 #include "formdata/clsZR3Form.h"
 #include "programs/zr3tool/clsToolCommand.h"
 #include "programs/zr3tool/mdCheckFull.h"
+#include "programs/zr3tool/mdDiff.h"
 #include "wordexport/clsExport.h"
 #include "wordexport/clsPdfConversion.h"
 #include "wordexport/mdExportDriver.h"
@@ -37,11 +38,6 @@ namespace {
 using Status = clsExitStatus;
 
 const QString LineEnd = QStringLiteral("\r\n");
-
-void print(const QByteArray &text)
-{
-    std::fwrite(text.constData(), 1, size_t(text.size()), stdout);
-}
 
 /// Runs a step; a run-time error in it is told, and the status says what it stands for.
 Status guarded(clsConsoleUserInterface &console, Status onError, const std::function<Status()> &step)
@@ -84,7 +80,7 @@ Status load(clsConsoleUserInterface &console, clsZR3Form &form, const QString &p
 Status totals(clsConsoleUserInterface &console, const clsZR3Form &form)
 {
     const clsTotalsReport report = mdTotalsReport(form);
-    print(report.json);
+    mdPrintBytes(report.json);
     if (!report.hasFailures)
         return Status::Done;
     console.tell(QStringLiteral("Totals"),
@@ -142,7 +138,7 @@ Status forecast(const clsZR3Form &form, const clsToolCommand &command)
     if (forecast.Fails)
         return Status::Failed;
     if (command.json)
-        print(mdForecastAsJson(forecast));
+        mdPrintBytes(mdForecastAsJson(forecast));
     else
         mdPrint(stdout, mdForecastAsTable(forecast));
     return Status::Done;
@@ -243,6 +239,7 @@ Status runOnClaim(clsConsoleUserInterface &console, const clsToolCommand &comman
         case clsToolCommand::Export: return exportDocument(console, form, command);
         case clsToolCommand::Why: return mdWhyFigure(form, command);
         case clsToolCommand::CheckFull:
+        case clsToolCommand::Diff:
         case clsToolCommand::Help:
         case clsToolCommand::Version: break;
         }
@@ -250,11 +247,13 @@ Status runOnClaim(clsConsoleUserInterface &console, const clsToolCommand &comman
     });
 }
 
-Status checkFull(clsConsoleUserInterface &console, const clsToolCommand &command)
+Status runOnClaims(clsConsoleUserInterface &console, const clsToolCommand &command)
 {
+    const clsClaimReader read
+        = [&](clsZR3Form &form, const QString &path) { return load(console, form, path, Soundness::InSome); };
     return guarded(console, Status::Failed, [&] {
-        return mdCheckFull(console, command,
-            [&](clsZR3Form &form, const QString &path) { return load(console, form, path, Soundness::InSome); });
+        return command.verb == clsToolCommand::Diff ? mdDiff(console, command, read)
+                                                    : mdCheckFull(console, command, read);
     });
 }
 
@@ -286,15 +285,15 @@ Status run(const QByteArrayList &names)
         return Status::WrongUsage;
     }
     if (command->verb == clsToolCommand::Help) {
-        print(clsToolCommand::usage().toUtf8());
+        mdPrintBytes(clsToolCommand::usage().toUtf8());
     } else if (command->verb == clsToolCommand::Version) {
         mdPrint(stdout, QStringLiteral("Velmor ZR3 %1\r\n").arg(GetVersionInfo()));
     } else {
         if (const auto refused = refusal(console, *command, names))
             return *refused;
         console.showsProgress = !command->quiet;
-        if (command->verb == clsToolCommand::CheckFull)
-            return checkFull(console, *command);
+        if (!command->claims.isEmpty())
+            return runOnClaims(console, *command);
         return runOnClaim(console, *command);
     }
     return Status::Done;

@@ -73,11 +73,6 @@ void writeClaim(clsJsonWriter &json, const clsCheckedClaim &claim)
     json.endObject();
 }
 
-void printBytes(const QByteArray &bytes)
-{
-    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout);
-}
-
 /// One line for each finding; a line feed of a name is none here.
 void printLines(const clsCheckedClaim &claim, const QString &before)
 {
@@ -116,7 +111,7 @@ Status mdCheckFull(clsConsoleUserInterface &console, const clsToolCommand &comma
         json.endObject();
     }
     if (command.json)
-        printBytes(json.bytes());
+        mdPrintBytes(json.bytes());
     return status;
 }
 
@@ -140,6 +135,6 @@ Status mdWhyFigure(const clsZR3Form &form, const clsToolCommand &command)
     }
     json.endArray();
     json.endObject();
-    printBytes(json.bytes());
+    mdPrintBytes(json.bytes());
     return why->hasFailed() ? Status::Failed : Status::Done;
 }

@@ -37,6 +37,10 @@ TEST_F(Usage, WrongCommandLinesGetTheUsageAndStatusOne)
         {"why"_q, claim, "schedule"_q},
         {"why"_q, claim, "schedule"_q, "1"_q, "2"_q},
         {"why"_q, claim, "schedule"_q, "1"_q, "--json"_q},
+        {"diff"_q},
+        {"diff"_q, claim},
+        {"diff"_q, claim, claim, claim},
+        {"diff"_q, claim, claim, "--quiet"_q},
         {"save"_q},
         {"save"_q, claim},
         {"save"_q, claim, "a"_q, "b"_q},
@@ -83,8 +87,9 @@ TEST_F(Usage, HelpIsTheSameUsageAsAResult)
     EXPECT_EQ(0, help.status);
     EXPECT_EQ("", help.err);
     EXPECT_EQ(run({}).err, help.out);
-    for (const char *word : {"totals", "export", "check", "save", "why", "forecast", "--full", "--json", "--today",
-             "--force", "--templates", "--keep-sheets", "--quiet", "--pdf", "--name-by-file", "--help", "--version"})
+    for (const char *word :
+        {"totals", "export", "check", "save", "why", "forecast", "diff", "--full", "--json", "--today", "--force",
+            "--templates", "--keep-sheets", "--quiet", "--pdf", "--name-by-file", "--help", "--version"})
         EXPECT_TRUE(help.out.contains(word)) << word;
 }
 

@@ -20,22 +20,28 @@ enum class clsExitStatus {
 
 /// A command line, read.
 struct clsToolCommand {
-    enum Verb { Totals, Export, Check, CheckFull, Save, Forecast, Why, Diff, Help, Version };
+    enum Verb { Totals, Export, Check, CheckFull, List, Save, Forecast, Why, Diff, Help, Version };
 
     Verb verb = Help;
     QString claim;
-    QStringList claims; ///< of a full check or a comparison: claims and folders
+    QStringList claims; ///< of a command that takes several: claims and folders
     QString kind; ///< of the figure that is asked for
     QString which; ///< and which of its kind
     QDate today; ///< stands in for the machine's day, where it is given
     bool json = false;
+    bool csv = false;
+    bool jsonLines = false;
+    std::optional<int> jobs {}; ///< how many claims are worked on at a time, where it is given
     QString target; ///< the folder of an export, the new file of a save
     bool force = false;
     bool keepSheets = false;
     bool quiet = false;
     bool pdf = false;
     bool nameByFile = false;
+    bool newer = false;
     QString templates;
+
+    QDate dayOfCheck() const;
 
     /// The command that the arguments (without the program's name) ask for; nothing where they are wrong.
     static std::optional<clsToolCommand> read(const QStringList &arguments);

@@ -3,11 +3,12 @@
 #include "base/clsConsoleUserInterface.h"
 #include "base/clsJsonWriter.h"
 #include "base/mdPrint.h"
+#include "base/mdClaimPaths.h"
 #include "costing/comparing/mdChangesReport.h"
 #include "costing/comparing/mdCompareClaims.h"
 #include "costing/comparing/mdPairFiles.h"
 #include "formdata/clsZR3Form.h"
-#include "programs/zr3tool/mdClaimPaths.h"
+#include "programs/zr3tool/mdClaimSteps.h"
 
 #include <QFileInfo>
 
@@ -27,10 +28,9 @@ struct clsComparedClaims {
 
 class clsDiff {
 public:
-    clsDiff(clsConsoleUserInterface &console, const clsToolCommand &command, const clsClaimReader &read)
+    clsDiff(clsConsoleUserInterface &console, const clsToolCommand &command)
         : m_console(console)
         , m_command(command)
-        , m_read(read)
     { }
 
     Status ofClaims(const QString &old, const QString &now);
@@ -39,21 +39,21 @@ public:
 private:
     clsComparedClaims compared(const QString &old, const QString &now) const;
     bool canRead(clsZR3Form &form, const QString &path, clsComparedClaims &result) const;
+    QStringList claimsOf(const QString &folder, Status &status) const;
     Status writePair(clsJsonWriter &json, const clsFilePair &pair) const;
 
     clsConsoleUserInterface &m_console;
     const clsToolCommand &m_command;
-    const clsClaimReader &m_read;
 };
 
 bool clsDiff::canRead(clsZR3Form &form, const QString &path, clsComparedClaims &result) const
 {
     m_console.beginSubject(path + QStringLiteral(": "));
-    result.status = m_read(form, path);
+    result.status = mdLoadClaim(m_console, form, path, clsSoundness::InSome);
     if (result.status == Status::Done)
         return true;
     if (result.error.isEmpty())
-        result.error = m_console.firstMessage();
+        result.error = m_console.lastText();
     return false;
 }
 
@@ -113,13 +113,31 @@ Status clsDiff::writePair(clsJsonWriter &json, const clsFilePair &pair) const
     return result.status;
 }
 
+/// The claims of a folder; what can't be looked into is told.
+QStringList clsDiff::claimsOf(const QString &folder, Status &status) const
+{
+    QStringList claims;
+    for (const clsClaimPath &claim : mdClaimPaths(folder)) {
+        if (claim.error.isEmpty()) {
+            claims << claim.path;
+            continue;
+        }
+        m_console.beginSubject(claim.path + QStringLiteral(": "));
+        m_console.tell(claim.errorTitle, claim.error);
+        status = Status::NoClaim;
+    }
+    return claims;
+}
+
 Status clsDiff::ofFolders(const QString &old, const QString &now)
 {
     clsJsonWriter json;
     json.beginObject();
     json.beginArray("Claims");
     Status status = Status::Done;
-    for (const clsFilePair &pair : mdPairFiles(old, mdClaimPaths(old), now, mdClaimPaths(now)))
+    const QStringList oldClaims = claimsOf(old, status);
+    const QStringList newClaims = claimsOf(now, status);
+    for (const clsFilePair &pair : mdPairFiles(old, oldClaims, now, newClaims))
         status = std::max(status, writePair(json, pair));
     json.endArray();
     json.endObject();
@@ -130,11 +148,11 @@ Status clsDiff::ofFolders(const QString &old, const QString &now)
 
 } // namespace
 
-Status mdDiff(clsConsoleUserInterface &console, const clsToolCommand &command, const clsClaimReader &read)
+Status mdDiff(clsConsoleUserInterface &console, const clsToolCommand &command)
 {
     const QString &old = command.claims.front();
     const QString &now = command.claims.back();
     const bool areFolders = QFileInfo(old).isDir() && QFileInfo(now).isDir();
-    clsDiff diff(console, command, read);
+    clsDiff diff(console, command);
     return areFolders ? diff.ofFolders(old, now) : diff.ofClaims(old, now);
 }

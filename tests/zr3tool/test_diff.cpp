@@ -133,6 +133,6 @@ TEST_F(ToolDiff, ABrokenClaimOfAFolderStopsNoOther)
     EXPECT_EQ(2, result.status);
     const QJsonArray claims = objectOf(result)["Claims"_q].toArray();
     ASSERT_EQ(2, claims.size());
-    EXPECT_TRUE(claims[0].toObject()["Error"_q].toString().startsWith("Error: There was a problem"_q));
+    EXPECT_TRUE(claims[0].toObject()["Error"_q].toString().startsWith("There was a problem opening"_q));
     EXPECT_TRUE(claims[1].toObject()["Items"_q].isArray());
 }

@@ -18,11 +18,9 @@ TEST_F(Usage, WrongCommandLinesGetTheUsageAndStatusOne)
         {"bill"_q},
         {"Totals"_q, claim},
         {"totals"_q},
-        {"totals"_q, claim, "extra"_q},
         {claim},
         {claim, "totals"_q},
         {"check"_q},
-        {"check"_q, claim, claim},
         {"check"_q, "--full"_q},
         {"totals"_q, "--full"_q, claim},
         {"check"_q, "--full"_q, claim, "--force"_q},
@@ -46,7 +44,6 @@ TEST_F(Usage, WrongCommandLinesGetTheUsageAndStatusOne)
         {"save"_q, claim, "a"_q, "b"_q},
         {"export"_q},
         {"export"_q, claim},
-        {"export"_q, claim, "a"_q, "b"_q},
         {"export"_q, claim, "a"_q, "--templates"_q},
         {"export"_q, claim, "a"_q, "--templates"_q, ""_q},
         {"export"_q, claim, "a"_q, "--templates="_q},
@@ -65,6 +62,23 @@ TEST_F(Usage, WrongCommandLinesGetTheUsageAndStatusOne)
         {"totals"_q, claim, "--json"_q},
         {"export"_q, claim, "a"_q, "--json"_q},
         {"check"_q, claim, "--name-by-file"_q},
+        {"list"_q},
+        {"list"_q, claim, "--csv"_q, "--json"_q},
+        {"list"_q, claim, "--csv"_q, "--jsonl"_q},
+        {"list"_q, claim, "--jobs"_q},
+        {"list"_q, claim, "--jobs"_q, "0"_q},
+        {"list"_q, claim, "--jobs=two"_q},
+        {"list"_q, claim, "--jobs="_q},
+        {"list"_q, claim, "--newer"_q},
+        {"list"_q, claim, "--full"_q},
+        {"list"_q, claim, "--today"_q, "2025-02-30"_q},
+        {"totals"_q, claim, claim, "--csv"_q},
+        {"totals"_q, claim, "--newer"_q},
+        {"check"_q, "--full"_q, claim, "--csv"_q},
+        {"check"_q, "--full"_q, claim, "--json"_q, "--jsonl"_q},
+        {"save"_q, claim, "a"_q, "--jobs"_q, "2"_q},
+        {"why"_q, claim, "schedule"_q, "1"_q, "--jsonl"_q},
+        {"export"_q, claim, "a"_q, "--csv"_q},
         {"--help"_q, "totals"_q},
         {"--help"_q, "--version"_q},
         {"totals"_q, claim, "--version"_q},
@@ -87,9 +101,9 @@ TEST_F(Usage, HelpIsTheSameUsageAsAResult)
     EXPECT_EQ(0, help.status);
     EXPECT_EQ("", help.err);
     EXPECT_EQ(run({}).err, help.out);
-    for (const char *word :
-        {"totals", "export", "check", "save", "why", "forecast", "diff", "--full", "--json", "--today", "--force",
-            "--templates", "--keep-sheets", "--quiet", "--pdf", "--name-by-file", "--help", "--version"})
+    for (const char *word : {"list", "totals", "export", "check", "save", "--jsonl", "--csv", "--newer", "--jobs",
+             "why", "forecast", "diff", "--full", "--json", "--today", "--force", "--templates", "--keep-sheets",
+             "--quiet", "--pdf", "--name-by-file", "--help", "--version"})
         EXPECT_TRUE(help.out.contains(word)) << word;
 }
 

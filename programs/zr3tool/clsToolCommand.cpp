@@ -1,6 +1,7 @@
 #include "programs/zr3tool/clsToolCommand.h"
 
 #include "base/mdClock.h"
+#include "costing/tables/clsImportedRows.h"
 
 #include <QCommandLineParser>
 
@@ -13,6 +14,7 @@ enum OptionGroup : unsigned {
     NoOptions = 0,
     ExportOptions = 1,
     JsonOption = 2,
+    ImportOptions = 4,
     TodayOption = 8,
     CsvOption = 16,
     ManyOptions = 32, ///< of commands that take several claims
@@ -31,6 +33,8 @@ constexpr VerbRow Verbs[] = {
     {"why", clsToolCommand::Why, 3, JsonOption},
     {"forecast", clsToolCommand::Forecast, 1, JsonOption},
     {"diff", clsToolCommand::Diff, 2, JsonOption},
+    {"table", clsToolCommand::Table, 2},
+    {"import", clsToolCommand::Import, 2, ImportOptions},
 };
 
 /// The commands that take as many claims and folders as there are.
@@ -62,6 +66,9 @@ const QString Csv = QStringLiteral("csv");
 const QString JsonLines = QStringLiteral("jsonl");
 const QString Newer = QStringLiteral("newer");
 const QString Jobs = QStringLiteral("jobs");
+const QString Items = QStringLiteral("items");
+const QString Map = QStringLiteral("map");
+const QString Doubles = QStringLiteral("doubles");
 const QString HelpOption = QStringLiteral("help");
 const QString VersionOption = QStringLiteral("version");
 
@@ -69,9 +76,11 @@ void addOptions(QCommandLineParser &parser)
 {
     parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsOptions);
     for (const QString &flag :
-        {Force, KeepSheets, Quiet, Pdf, NameByFile, Newer, Full, Json, Csv, JsonLines, HelpOption, VersionOption})
+        {Force, KeepSheets, Quiet, Pdf, NameByFile, Newer, Full, Json, Csv, JsonLines, Doubles, HelpOption, VersionOption})
         parser.addOption(QCommandLineOption(flag));
     parser.addOption(QCommandLineOption(Templates, QString(), QStringLiteral("DIR")));
+    parser.addOption(QCommandLineOption(Items, QString(), QStringLiteral("ROWS")));
+    parser.addOption(QCommandLineOption(Map, QString(), QStringLiteral("NAME=COLUMN")));
     parser.addOption(QCommandLineOption(Jobs, QString(), QStringLiteral("N")));
     parser.addOption(QCommandLineOption(Today, QString(), QStringLiteral("DAY")));
 }
@@ -85,7 +94,23 @@ unsigned optionsOf(const QCommandLineParser &parser)
     };
     return group(ExportOptions, {Force, Templates, KeepSheets, Quiet, Pdf, NameByFile, Newer})
         | group(JsonOption, {Json}) | group(CsvOption, {Csv}) | group(TodayOption, {Today})
-        | group(ManyOptions, {JsonLines, Jobs});
+        | group(ManyOptions, {JsonLines, Jobs})
+        | group(ImportOptions, {Items, Map, Doubles});
+}
+
+/// Adds the options of an import; false where they are wrong.
+bool addImport(clsToolCommand &command, const QCommandLineParser &parser)
+{
+    command.items = parser.value(Items);
+    command.doubles = parser.isSet(Doubles);
+    for (const QString &map : parser.values(Map)) {
+        // The name in the table may hold the sign too.
+        const qsizetype sign = map.lastIndexOf(u'=');
+        if (sign < 1 || mdScheduleColumn(map.mid(sign + 1)) < 0)
+            return false;
+        command.columns.emplace_back(map.left(sign), map.mid(sign + 1));
+    }
+    return !command.items.isEmpty();
 }
 
 /// Reads the values that an option of several claims has; false where one is wrong.
@@ -159,6 +184,12 @@ std::optional<clsToolCommand> commandOf(const QCommandLineParser &parser)
         return command;
     }
     command.json = parser.isSet(Json);
+    if (row->verb == clsToolCommand::Table) {
+        command.which = words[2];
+        return command;
+    }
+    if (row->verb == clsToolCommand::Import && !addImport(command, parser))
+        return {};
     if (row->verb == clsToolCommand::Diff) {
         command.claims = words.mid(1);
         return command;
@@ -207,6 +238,10 @@ QString clsToolCommand::usage()
         "                                 schedule and an item's order, communications and KIND/LINE,\n"
         "                                 fas and an order, total and a key of totals, list and a column\n"
         "  zr3tool diff   OLD NEW         what changed between two claims, or two folders of claims\n"
+        "  zr3tool table  CLAIM LIST      a list of the claim as CSV; LIST is schedule, disbursements, experts, "
+        "joint,\n"
+        "                                 fas, communications, counsel, feeearners, groups, enhancements or totals\n"
+        "  zr3tool import CLAIM NEWFILE   adds the schedule items of a table and writes the claim to NEWFILE\n"
         "  zr3tool --help | --version\n"
         "\n"
         "PATH is a claim, or a folder, which stands for all claims below it. One claim prints its own\n"
@@ -233,8 +268,14 @@ QString clsToolCommand::usage()
         "Option of forecast and diff:\n"
         "  --json             print it as JSON\n"
         "\n"
-        "Exit status, of several claims the greatest: 0 done; 1 wrong usage; 2 a claim can't be read; 3 blank\n"
-        "items found, an error or a warning by check --full, or two claims differ; 4 a figure can't be computed,\n"
-        "the export failed or would fail, or the PDF could not be made; 5 the document or the PDF exists already.\n"
+        "Options of import:\n"
+        "  --items TABLE      the table: CSV or separated by semicolons or tabs, with a header\n"
+        "  --map NAME=COLUMN  what a column is called in the table, such as \"Activity=code\"\n"
+        "  --doubles          add rows too that the claim has already\n"
+        "\n"
+        "Exit status, of several claims the greatest: 0 done; 1 wrong usage; 2 a claim or a table can't be read;\n"
+        "3 blank items found, an error or a warning by check --full, two claims differ, or a row of a table is\n"
+        "wrong; 4 a figure can't be computed, the export failed or would fail, or the PDF could not be made;\n"
+        "5 the document or the PDF exists already.\n"
         "A box whose text is no amount is told of and left as it is; the document is made all the same.\n");
 }

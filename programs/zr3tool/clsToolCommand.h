@@ -5,6 +5,8 @@
 #include <QStringList>
 
 #include <optional>
+#include <utility>
+#include <vector>
 
 /// The exit statuses of the tool.
 enum class clsExitStatus {
@@ -20,13 +22,16 @@ enum class clsExitStatus {
 
 /// A command line, read.
 struct clsToolCommand {
-    enum Verb { Totals, Export, Check, CheckFull, List, Save, Forecast, Why, Diff, Help, Version };
+    enum Verb { Totals, Export, Check, CheckFull, List, Save, Forecast, Why, Diff, Table, Import, Help, Version };
 
     Verb verb = Help;
     QString claim;
     QStringList claims; ///< of a command that takes several: claims and folders
     QString kind; ///< of the figure that is asked for
-    QString which; ///< and which of its kind
+    QString which; ///< and which of its kind; the list of a table
+    QString items; ///< the table of an import
+    std::vector<std::pair<QString, QString>> columns; ///< what its columns are called and mean
+    bool doubles = false;
     QDate today; ///< stands in for the machine's day, where it is given
     bool json = false;
     bool csv = false;

@@ -13,6 +13,7 @@
 #include "programs/zr3tool/mdExportClaim.h"
 #include "programs/zr3tool/mdManyClaims.h"
 #include "programs/zr3tool/mdPlainReports.h"
+#include "programs/zr3tool/mdTables.h"
 #include "wordexport/mdForecast.h"
 #include "wordexport/mdForecastReport.h"
 
@@ -75,7 +76,8 @@ Status runOnClaim(clsConsoleUserInterface &console, const clsToolCommand &comman
 {
     return mdGuarded(console, Status::Failed, [&] {
         clsZR3Form form;
-        const auto soundness = command.verb == clsToolCommand::Why ? clsSoundness::InSome : clsSoundness::InAllParts;
+        const bool showsFailures = command.verb == clsToolCommand::Why || command.verb == clsToolCommand::Table;
+        const auto soundness = showsFailures ? clsSoundness::InSome : clsSoundness::InAllParts;
         if (const Status status = mdLoadClaim(console, form, command.claim, soundness); status != Status::Done)
             return status;
         switch (command.verb) {
@@ -85,6 +87,10 @@ Status runOnClaim(clsConsoleUserInterface &console, const clsToolCommand &comman
         case clsToolCommand::Forecast: return forecast(form, command);
         case clsToolCommand::Export: return exportDocument(console, form, command);
         case clsToolCommand::Why: return mdWhyFigure(form, command);
+        case clsToolCommand::Table: return mdPrintTable(console, form, command);
+        case clsToolCommand::Import:
+            return mdImport(
+                console, form, command, [&](clsZR3Form &changed) { return save(console, changed, command.target); });
         case clsToolCommand::CheckFull:
         case clsToolCommand::List:
         case clsToolCommand::Diff:

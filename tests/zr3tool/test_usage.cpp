@@ -39,6 +39,21 @@ TEST_F(Usage, WrongCommandLinesGetTheUsageAndStatusOne)
         {"diff"_q, claim},
         {"diff"_q, claim, claim, claim},
         {"diff"_q, claim, claim, "--quiet"_q},
+        {"table"_q},
+        {"table"_q, claim},
+        {"table"_q, claim, "Schedule"_q},
+        {"table"_q, claim, "list"_q},
+        {"table"_q, claim, "schedule"_q, "--json"_q},
+        {"table"_q, claim, "schedule"_q, "totals"_q},
+        {"import"_q, claim, "new.zr3"_q},
+        {"import"_q, claim, "--items"_q, "rows.csv"_q},
+        {"import"_q, claim, "new.zr3"_q, "--items="_q},
+        {"import"_q, claim, "new.zr3"_q, "--doubles"_q},
+        {"import"_q, claim, "new.zr3"_q, "--items"_q, "rows.csv"_q, "--map"_q, "Activity"_q},
+        {"import"_q, claim, "new.zr3"_q, "--items"_q, "rows.csv"_q, "--map"_q, "=code"_q},
+        {"import"_q, claim, "new.zr3"_q, "--items"_q, "rows.csv"_q, "--map"_q, "Activity=work"_q},
+        {"import"_q, claim, "new.zr3"_q, "--items"_q, "rows.csv"_q, "--force"_q},
+        {"save"_q, claim, "new.zr3"_q, "--items"_q, "rows.csv"_q},
         {"save"_q},
         {"save"_q, claim},
         {"save"_q, claim, "a"_q, "b"_q},
@@ -101,8 +116,8 @@ TEST_F(Usage, HelpIsTheSameUsageAsAResult)
     EXPECT_EQ(0, help.status);
     EXPECT_EQ("", help.err);
     EXPECT_EQ(run({}).err, help.out);
-    for (const char *word : {"list", "totals", "export", "check", "save", "--jsonl", "--csv", "--newer", "--jobs",
-             "why", "forecast", "diff", "--full", "--json", "--today", "--force", "--templates", "--keep-sheets",
+    for (const char *word : {"list", "totals", "export", "check", "save", "--jsonl", "--csv", "--newer", "--jobs", "why", "forecast", "diff", "table", "import",
+             "--items", "--map", "--doubles", "--full", "--json", "--today", "--force", "--templates", "--keep-sheets",
              "--quiet", "--pdf", "--name-by-file", "--help", "--version"})
         EXPECT_TRUE(help.out.contains(word)) << word;
 }

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "costing/tables/clsTextTable.h"
+#include "costing/tables/mdTableColumns.h"
+
+#include <QHash>
+
+/// A cell of a column that is known.
+struct clsImportedCell {
+    QString Text; ///< as it stands in the table
+    QString Value; ///< as the item will have it
+    QString Reason; ///< why it can't be read; empty where it can
+};
+
+/// A row as it will be stored.
+struct clsImportedRow {
+    int Number = 0; ///< from 1, below the header
+    int Line = 0; ///< of the text
+    std::vector<clsImportedCell> Cells {}; ///< one for each column of the list
+    QString Reason {}; ///< why the row as a whole can't be read
+    int DoubleOf = 0; ///< the order of the item of the claim that it equals; 0 where there is none
+    bool IsChosen = true; ///< whether it is to be stored; doubles are not, until someone says so
+
+    bool isWrong() const;
+    /// All reasons.
+    QStringList reasons() const;
+};
+
+/// The items of a table, before they are stored: what each column means, what each cell is read as, what is wrong, and
+/// which rows the claim has already. Everything can be looked at and changed first; the claim changes by `appendTo`
+/// alone, and then by all chosen rows.
+class clsImportedRows {
+public:
+    /// Columns that are called otherwise: the name in the table, and the name or property of the column.
+    using Names = std::vector<std::pair<QString, QString>>;
+
+    /// Finds the separator, the header and what its columns mean, and reads the rows.
+    clsImportedRows(const clsZR3Form &form, QStringView text, const Names &names = {});
+
+    /// Why there are no rows at all; empty where there are, or might be.
+    const QString &error() const { return m_error; }
+    /// The header, as it stands in the table.
+    const QStringList &header() const { return m_header; }
+    /// What a column of the table means, as a place in `mdScheduleColumns`; -1 where it means nothing.
+    int meaningOf(int place) const { return m_meanings[size_t(place)]; }
+    /// Gives a column of the table another meaning, takes it from the column that had it, and reads the rows anew.
+    void setMeaning(const clsZR3Form &form, int place, int column);
+    /// The columns that mean nothing and have a text. Those that the tables of this program have beside are no news.
+    QStringList unknownColumns() const;
+    /// Those of the names in a table that this one doesn't have.
+    QStringList missingNames(const Names &names) const;
+
+    const std::vector<clsImportedRow> &rows() const { return m_rows; }
+    void choose(int row, bool isChosen) { m_rows[size_t(row)].IsChosen = isChosen; }
+    void chooseDoubles(bool areChosen);
+    /// How many rows are chosen.
+    int chosen() const;
+    /// Whether one of them is wrong.
+    bool hasWrongChosen() const;
+
+    /// Adds the chosen rows to the claim, in their order, and gives how many. One that is wrong can't be stored: then
+    /// nothing is.
+    int appendTo(clsZR3Form &form) const;
+
+private:
+    void findHeader(QStringView text, const Names &names);
+    void giveMeanings(const Names &names);
+    void give(qsizetype place, int column);
+    void readRows(const clsZR3Form &form);
+    QString missingColumns() const;
+
+    QString m_error;
+    QStringList m_header;
+    std::vector<clsTextRow> m_texts; ///< the rows below the header
+    std::vector<int> m_meanings; ///< for each column of the header
+    std::vector<clsImportedRow> m_rows;
+};
+
+/// The place of a column in `mdScheduleColumns`, by its name or its property, in which case, blanks and underscores
+/// don't matter. -1 for another name.
+int mdScheduleColumn(const QString &name);

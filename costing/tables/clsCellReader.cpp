@@ -2,7 +2,7 @@
 
 #include "base/mdDateText.h"
 #include "base/mdTypedText.h"
-#include "costing/tables/clsImportedRows.h"
+#include "costing/tables/clsImportedRow.h"
 #include "costing/tables/mdCsv.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdRecordInWords.h"
@@ -56,11 +56,11 @@ QString reasonOfDate(const QString &text)
     return QStringLiteral("%1 is no date").arg(mdQuoted(text));
 }
 
-clsImportedCell readDate(const QString &text)
+clsImportedCell readDate(const QString &text, const QString &noDate)
 {
     const QString date = text.trimmed();
     if (date.isEmpty())
-        return fitting(text, NoDate);
+        return fitting(text, noDate);
     int unusedYear = 0;
     const auto typed = slashed(date).count(u'/') == 2 ? TypedDate(date, unusedYear) : std::nullopt;
     return typed ? fitting(text, *typed) : wrong(text, reasonOfDate(date));
@@ -95,6 +95,58 @@ clsImportedCell readTick(const QString &text)
         if (tick == QLatin1String(word))
             return fitting(text, No);
     return wrong(text, QStringLiteral("%1 is neither yes nor no").arg(mdQuoted(text.trimmed())));
+}
+
+/// An amount as its box takes it, but for its comma: there 1,250 becomes 1.00, which shows at once.
+clsImportedCell readAmount(const QString &text, bool mayBeMissing)
+{
+    const QString amount = text.trimmed();
+    if (amount.isEmpty() && !mayBeMissing)
+        return wrong(text, QStringLiteral("There is no amount"));
+    if (amount.contains(u','))
+        return wrong(text, QStringLiteral("%1 has a comma, which amounts don't take").arg(mdQuoted(amount)));
+    const auto typed = TypedDecimal(amount);
+    return typed ? fitting(text, *typed) : wrong(text, QStringLiteral("%1 is no amount").arg(mdQuoted(amount)));
+}
+
+clsImportedCell readCount(const QString &text)
+{
+    constexpr int Most = 99'999;
+    const QString count = text.trimmed();
+    if (count.isEmpty())
+        return fitting(text, {});
+    bool isNumber = false;
+    const int number = count.toInt(&isNumber);
+    return isNumber && number >= 0 && number <= Most
+        ? fitting(text, QString::number(number))
+        : wrong(text, QStringLiteral("%1 is no count").arg(mdQuoted(count)));
+}
+
+/// The property that counts letters or calls of a kind.
+clsImportedCell readCommsKind(const QString &text)
+{
+    struct clsKindRow {
+        const char *word;
+        const char *property;
+    };
+    static constexpr clsKindRow Rows[] = {
+        {"call", "Calls"},
+        {"calls", "Calls"},
+        {"phone", "Calls"},
+        {"telephone", "Calls"},
+        {"in", "LettersIn"},
+        {"letterin", "LettersIn"},
+        {"lettersin", "LettersIn"},
+        {"out", "LettersOut"},
+        {"letterout", "LettersOut"},
+        {"lettersout", "LettersOut"},
+    };
+    if (text.trimmed().isEmpty())
+        return fitting(text, {});
+    for (const clsKindRow &row : Rows)
+        if (mdIsSameName(text, QString::fromLatin1(row.word)))
+            return fitting(text, QString::fromLatin1(row.property));
+    return wrong(text, QStringLiteral("%1 is no call, letter in or letter out").arg(mdQuoted(text.trimmed())));
 }
 
 /// Line breaks as a claim has them.
@@ -137,26 +189,37 @@ QHash<QString, QString> identitiesOf(const clsZR3Form &form, QStringView list, N
 clsCellReader::clsCellReader(const clsZR3Form &form)
     : m_feeEarners(identitiesOf<clsZR3FeeEarner>(form, u"feeearners", &clsZR3FeeEarner::Reference))
     , m_enhancements(identitiesOf<clsZR3Enhancement>(form, u"enhancements", &clsZR3Enhancement::Name))
+    , m_counsel(identitiesOf<clsZR3Counsel>(form, u"counsel", &clsZR3Counsel::Name))
 { }
 
 clsImportedCell clsCellReader::read(clsCellKind kind, const QString &guarded) const
 {
     const QString text = mdWithoutFormulaGuard(guarded);
     switch (kind) {
-    case clsCellKind::FeeEarner: return readName(m_feeEarners, text, "fee earner");
-    case clsCellKind::Enhancement: return text.trimmed().isEmpty() ? fitting(text, {}) : readEnhancement(text);
-    case clsCellKind::Date: return readDate(text);
+    case clsCellKind::FeeEarner: return readNamed(kind, text);
+    case clsCellKind::Enhancement:
+    case clsCellKind::Counsel: return text.trimmed().isEmpty() ? fitting(text, {}) : readNamed(kind, text);
+    case clsCellKind::Date: return readDate(text, NoDate);
+    case clsCellKind::DateIfAny: return readDate(text, {});
     case clsCellKind::Time: return readTime(text);
     case clsCellKind::Code: return readCode(text);
     case clsCellKind::Tick: return readTick(text);
+    case clsCellKind::Amount: return readAmount(text, false);
+    case clsCellKind::AmountIfAny: return readAmount(text, true);
+    case clsCellKind::Count: return readCount(text);
+    case clsCellKind::CommsKind: return readCommsKind(text);
     case clsCellKind::Text: return fitting(text, withLineBreaks(text));
     case clsCellKind::Passed: break;
     }
     return fitting(text, {});
 }
 
-clsImportedCell clsCellReader::readEnhancement(const QString &text) const
+clsImportedCell clsCellReader::readNamed(clsCellKind kind, const QString &text) const
 {
+    if (kind == clsCellKind::FeeEarner)
+        return readName(m_feeEarners, text, "fee earner");
+    if (kind == clsCellKind::Counsel)
+        return readName(m_counsel, text, "counsel");
     return readName(m_enhancements, text, "enhancement");
 }
 
@@ -165,6 +228,9 @@ QString clsCellReader::normalised(clsCellKind kind, const QString &stored)
     int unusedYear = 0;
     switch (kind) {
     case clsCellKind::Date: return stored.isEmpty() ? QString(NoDate) : TypedDate(stored, unusedYear).value_or(stored);
+    case clsCellKind::DateIfAny: return stored == NoDate ? QString() : TypedDate(stored, unusedYear).value_or(stored);
+    case clsCellKind::Amount:
+    case clsCellKind::AmountIfAny: return stored.contains(u',') ? stored : TypedDecimal(stored).value_or(stored);
     case clsCellKind::Time: return TypedTime(stored).value_or(stored);
     case clsCellKind::Text: return withLineBreaks(stored);
     default: return stored;

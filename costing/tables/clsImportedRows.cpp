@@ -3,49 +3,12 @@
 #include "costing/tables/clsCellReader.h"
 #include "formdata/clsZR3Form.h"
 
+#include <QHash>
+
 #include <algorithm>
 #include <iterator>
 
 namespace {
-
-/// What a column is known by: its name without what doesn't matter.
-QString known(const QString &name)
-{
-    QString result;
-    for (const QChar c : name)
-        if (!c.isSpace() && c != u'_')
-            result += c.toLower();
-    return result;
-}
-
-bool isFigure(const QString &name)
-{
-    const auto figures = mdScheduleFigures();
-    return std::any_of(
-        figures.begin(), figures.end(), [&](const char *figure) { return known(name) == QLatin1String(figure); });
-}
-
-/// What a name stands for beside the names that all tables know; -1 where nothing was said of it.
-int namedColumn(const clsImportedRows::Names &names, const QString &name)
-{
-    for (const auto &[called, column] : names)
-        if (known(called) == known(name))
-            return mdScheduleColumn(column);
-    return -1;
-}
-
-int meaningOf(const clsImportedRows::Names &names, const QString &name)
-{
-    const int column = namedColumn(names, name);
-    return column >= 0 ? column : mdScheduleColumn(name);
-}
-
-/// How many cells of a row name a column.
-qsizetype namesIn(const clsTextRow &row, const clsImportedRows::Names &names)
-{
-    return std::count_if(
-        row.Cells.begin(), row.Cells.end(), [&](const QString &cell) { return meaningOf(names, cell) >= 0; });
-}
 
 /// A text as the claim gives it back once it is stored.
 QString asStored(const QString &text)
@@ -54,31 +17,33 @@ QString asStored(const QString &text)
 }
 
 /// What has to be equal in a double.
-QStringList keyOf(const clsImportedRow &row)
+QStringList keyOf(const clsImportList &list, const clsImportedRow &row)
 {
     QStringList key;
     for (size_t column = 0; column < row.Cells.size(); ++column)
-        if (mdScheduleColumns()[column].kind != clsCellKind::Passed)
+        if (list.columns[column].kind != clsCellKind::Passed)
             key << asStored(row.Cells[column].Value);
     return key;
 }
 
-QStringList keyOf(const clsXMLRecord &item)
+QStringList keyOf(const clsImportList &list, const clsXMLRecord &item)
 {
     QStringList key;
-    for (const clsTableColumn &column : mdScheduleColumns())
+    for (const clsTableColumn &column : list.columns)
         if (column.kind != clsCellKind::Passed)
             key << clsCellReader::normalised(column.kind, mdValueOf(*item.field(QString::fromLatin1(column.property))));
     return key;
 }
 
-/// The items of the schedule by all that they are.
-QHash<QStringList, int> itemsByKey(const clsZR3Form &form)
+/// The items of the list by all that they are.
+QHash<QStringList, int> itemsByKey(const clsImportList &list, const clsZR3Form &form)
 {
     QHash<QStringList, int> orders;
-    for (const clsXMLRecord *item : mdClaimItems().front().items(form))
-        if (const QStringList key = keyOf(*item); !orders.contains(key))
-            orders.insert(key, mdOrderOf(*item));
+    for (const clsClaimItems &items : mdClaimItems())
+        if (items.is(QString::fromLatin1(list.items)))
+            for (const clsXMLRecord *item : items.items(form))
+                if (const QStringList key = keyOf(list, *item); !orders.contains(key))
+                    orders.insert(key, mdOrderOf(*item));
     return orders;
 }
 
@@ -87,22 +52,10 @@ bool holds(const std::vector<int> &columns, int column)
     return std::find(columns.begin(), columns.end(), column) != columns.end();
 }
 
-void store(const clsImportedRow &row, clsXMLRecord &item)
-{
-    for (size_t column = 0; column < row.Cells.size(); ++column) {
-        const clsTableColumn &known = mdScheduleColumns()[column];
-        clsXMLField &field = *item.field(QString::fromLatin1(known.property));
-        if (known.kind == clsCellKind::Tick)
-            field.writeBoolean(row.Cells[column].Value == QLatin1String("True"));
-        else if (known.kind != clsCellKind::Passed)
-            field.writeText(row.Cells[column].Value);
-    }
-}
-
 /// For each column its place in the table, -1 where the table lacks it.
-std::vector<qsizetype> placesOf(const std::vector<int> &meanings)
+std::vector<qsizetype> placesOf(const clsImportList &list, const std::vector<int> &meanings)
 {
-    std::vector<qsizetype> places(mdScheduleColumns().size(), -1);
+    std::vector<qsizetype> places(list.columns.size(), -1);
     for (size_t place = 0; place < meanings.size(); ++place)
         if (meanings[place] >= 0)
             places[size_t(meanings[place])] = qsizetype(place);
@@ -117,31 +70,20 @@ QString excessOf(const clsTextRow &text, qsizetype columns)
     return excess > 0 ? QStringLiteral("There is a cell without a column") : QString();
 }
 
-/// An enhancement that is named counts, where the table has no column that says so; and where one counts, there has to
-/// be one.
-void joinEnhancement(clsImportedRow &row, bool saysWhetherItCounts, const clsCellReader &reader)
+/// What is named counts, where the table has no column that says so; and where something counts, it has to be named.
+void joinTick(clsImportedRow &row, const clsTableColumn &column, size_t place, const clsImportList &list,
+    const std::vector<qsizetype> &places, const clsCellReader &reader)
 {
-    static const auto counts = size_t(mdScheduleColumn(QStringLiteral("includeinenhancements")));
-    static const auto name = size_t(mdScheduleColumn(QStringLiteral("enhancement")));
-    clsImportedCell &enhancement = row.Cells[name];
-    clsImportedCell &tick = row.Cells[counts];
-    if (!saysWhetherItCounts && !enhancement.Value.isEmpty())
+    const auto tickPlace = size_t(mdColumnOf(list.columns, QString::fromLatin1(column.countsBy)));
+    clsImportedCell &named = row.Cells[place];
+    clsImportedCell &tick = row.Cells[tickPlace];
+    if (places[tickPlace] < 0 && !named.Value.isEmpty())
         tick.Value = QStringLiteral("True");
-    if (tick.Value == QLatin1String("True") && enhancement.Value.isEmpty() && enhancement.Reason.isEmpty())
-        enhancement = reader.readEnhancement(enhancement.Text);
+    if (tick.Value == QLatin1String("True") && named.Value.isEmpty() && named.Reason.isEmpty())
+        named = reader.readNamed(column.kind, named.Text);
 }
 
 } // namespace
-
-int mdScheduleColumn(const QString &name)
-{
-    const auto columns = mdScheduleColumns();
-    const QString word = known(name);
-    for (size_t place = 0; place < columns.size(); ++place)
-        if (word == QLatin1String(columns[place].name) || word == known(QString::fromLatin1(columns[place].property)))
-            return int(place);
-    return -1;
-}
 
 bool clsImportedRow::isWrong() const
 {
@@ -160,7 +102,9 @@ QStringList clsImportedRow::reasons() const
     return reasons;
 }
 
-clsImportedRows::clsImportedRows(const clsZR3Form &form, QStringView text, const Names &names)
+clsImportedRows::clsImportedRows(
+    const clsZR3Form &form, const clsImportList &list, QStringView text, const Names &names)
+    : m_list(&list)
 {
     if (text.contains(QChar(u'\0'))) {
         m_error = QStringLiteral("The table holds zero bytes, which no text has: save it as CSV in UTF-8");
@@ -174,6 +118,22 @@ clsImportedRows::clsImportedRows(const clsZR3Form &form, QStringView text, const
         m_error = missingColumns();
     if (m_error.isEmpty())
         readRows(form);
+}
+
+/// What a name stands for beside the names that all tables know; -1 where nothing was said of it.
+int clsImportedRows::namedColumn(const Names &names, const QString &name) const
+{
+    for (const auto &[called, column] : names)
+        if (mdIsSameName(called, name))
+            return columnOf(column);
+    return -1;
+}
+
+/// How many cells of a row name a column.
+qsizetype clsImportedRows::namesIn(const clsTextRow &row, const Names &names) const
+{
+    return std::count_if(row.Cells.begin(), row.Cells.end(),
+        [&](const QString &cell) { return namedColumn(names, cell) >= 0 || columnOf(cell) >= 0; });
 }
 
 /// The header is the first of the rows that name the most columns: a heading may stand above it.
@@ -211,7 +171,7 @@ void clsImportedRows::giveMeanings(const Names &names)
         give(place, namedColumn(names, m_header[place]));
     const std::vector<int> said = m_meanings;
     for (qsizetype place = 0; place < m_header.size(); ++place)
-        if (const int column = mdScheduleColumn(m_header[place]); !holds(said, column))
+        if (const int column = columnOf(m_header[place]); !holds(said, column))
             give(place, column);
 }
 
@@ -221,16 +181,16 @@ void clsImportedRows::give(qsizetype place, int column)
         return;
     if (holds(m_meanings, column))
         m_error = QStringLiteral("Two columns of the table mean the same: %1")
-                      .arg(QString::fromLatin1(mdScheduleColumns()[size_t(column)].name));
+                      .arg(QString::fromLatin1(m_list->columns[size_t(column)].name));
     m_meanings[size_t(place)] = column;
 }
 
 QString clsImportedRows::missingColumns() const
 {
     QStringList missing;
-    for (const clsTableColumn &column : mdScheduleColumns()) {
+    for (const clsTableColumn &column : m_list->columns) {
         const QString name = QString::fromLatin1(column.name);
-        if (column.isRequired && !holds(m_meanings, mdScheduleColumn(name)))
+        if (column.isRequired && !holds(m_meanings, columnOf(name)))
             missing << name;
     }
     return missing.isEmpty() ? QString()
@@ -250,6 +210,10 @@ void clsImportedRows::setMeaning(const clsZR3Form &form, int place, int column)
 
 QStringList clsImportedRows::unknownColumns() const
 {
+    const auto isFigure = [&](const QString &name) {
+        return std::any_of(m_list->figures.begin(), m_list->figures.end(),
+            [&](const char *figure) { return mdIsSameName(name, QString::fromLatin1(figure)); });
+    };
     QStringList unknown;
     for (qsizetype place = 0; place < m_header.size(); ++place)
         if (m_meanings[size_t(place)] < 0 && !m_header[place].trimmed().isEmpty() && !isFigure(m_header[place]))
@@ -261,8 +225,8 @@ QStringList clsImportedRows::missingNames(const Names &names) const
 {
     QStringList missing;
     for (const auto &[called, column] : names)
-        if (std::none_of(m_header.begin(), m_header.end(),
-                [&](const QString &name) { return known(name) == known(called); }))
+        if (std::none_of(
+                m_header.begin(), m_header.end(), [&](const QString &name) { return mdIsSameName(name, called); }))
             missing << called;
     return missing;
 }
@@ -270,18 +234,21 @@ QStringList clsImportedRows::missingNames(const Names &names) const
 void clsImportedRows::readRows(const clsZR3Form &form)
 {
     const clsCellReader reader(form);
-    const QHash<QStringList, int> items = itemsByKey(form);
-    const auto columns = mdScheduleColumns();
-    const std::vector<qsizetype> places = placesOf(m_meanings);
-    const bool saysWhetherItCounts = holds(m_meanings, mdScheduleColumn(QStringLiteral("includeinenhancements")));
+    const QHash<QStringList, int> items = itemsByKey(*m_list, form);
+    const auto &columns = m_list->columns;
+    const std::vector<qsizetype> places = placesOf(*m_list, m_meanings);
     m_rows.reserve(m_texts.size());
     for (const clsTextRow &text : m_texts) {
         clsImportedRow row {.Number = int(m_rows.size()) + 1, .Line = text.Line};
         for (size_t column = 0; column < columns.size(); ++column)
             row.Cells.push_back(reader.read(columns[column].kind, text.Cells.value(places[column])));
-        joinEnhancement(row, saysWhetherItCounts, reader);
+        for (size_t column = 0; column < columns.size(); ++column)
+            if (columns[column].countsBy)
+                joinTick(row, columns[column], column, *m_list, places, reader);
         row.Reason = excessOf(text, m_header.size());
-        row.DoubleOf = row.isWrong() ? 0 : items.value(keyOf(row));
+        if (!row.isWrong() && m_list->reasonOfRow)
+            row.Reason = m_list->reasonOfRow(row);
+        row.DoubleOf = row.isWrong() ? 0 : items.value(keyOf(*m_list, row));
         row.IsChosen = row.DoubleOf == 0;
         m_rows.push_back(std::move(row));
     }
@@ -311,8 +278,8 @@ int clsImportedRows::appendTo(clsZR3Form &form) const
         return 0;
     for (const clsImportedRow &row : m_rows)
         if (row.IsChosen)
-            store(row, *form.AddScheduleOfTimeItem());
-    form.RenderScheduleOfTimeItemsForExport();
-    form.RenderAdditionalInformationItems();
+            m_list->store(form, row);
+    if (m_list->changed)
+        m_list->changed(form);
     return chosen();
 }

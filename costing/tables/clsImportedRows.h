@@ -1,30 +1,8 @@
 #pragma once
 
+#include "costing/tables/clsImportedRow.h"
 #include "costing/tables/clsTextTable.h"
-#include "costing/tables/mdTableColumns.h"
-
-#include <QHash>
-
-/// A cell of a column that is known.
-struct clsImportedCell {
-    QString Text; ///< as it stands in the table
-    QString Value; ///< as the item will have it
-    QString Reason; ///< why it can't be read; empty where it can
-};
-
-/// A row as it will be stored.
-struct clsImportedRow {
-    int Number = 0; ///< from 1, below the header
-    int Line = 0; ///< of the text
-    std::vector<clsImportedCell> Cells {}; ///< one for each column of the list
-    QString Reason {}; ///< why the row as a whole can't be read
-    int DoubleOf = 0; ///< the order of the item of the claim that it equals; 0 where there is none
-    bool IsChosen = true; ///< whether it is to be stored; doubles are not, until someone says so
-
-    bool isWrong() const;
-    /// All reasons.
-    QStringList reasons() const;
-};
+#include "costing/tables/mdImportLists.h"
 
 /// The items of a table, before they are stored: what each column means, what each cell is read as, what is wrong, and
 /// which rows the claim has already. Everything can be looked at and changed first; the claim changes by `appendTo`
@@ -35,13 +13,13 @@ public:
     using Names = std::vector<std::pair<QString, QString>>;
 
     /// Finds the separator, the header and what its columns mean, and reads the rows.
-    clsImportedRows(const clsZR3Form &form, QStringView text, const Names &names = {});
+    clsImportedRows(const clsZR3Form &form, const clsImportList &list, QStringView text, const Names &names = {});
 
     /// Why there are no rows at all; empty where there are, or might be.
     const QString &error() const { return m_error; }
     /// The header, as it stands in the table.
     const QStringList &header() const { return m_header; }
-    /// What a column of the table means, as a place in `mdScheduleColumns`; -1 where it means nothing.
+    /// What a column of the table means, as a place among those of the list; -1 where it means nothing.
     int meaningOf(int place) const { return m_meanings[size_t(place)]; }
     /// Gives a column of the table another meaning, takes it from the column that had it, and reads the rows anew.
     void setMeaning(const clsZR3Form &form, int place, int column);
@@ -63,19 +41,19 @@ public:
     int appendTo(clsZR3Form &form) const;
 
 private:
+    int namedColumn(const Names &names, const QString &name) const;
+    int columnOf(const QString &name) const { return mdColumnOf(m_list->columns, name); }
+    qsizetype namesIn(const clsTextRow &row, const Names &names) const;
     void findHeader(QStringView text, const Names &names);
     void giveMeanings(const Names &names);
     void give(qsizetype place, int column);
     void readRows(const clsZR3Form &form);
     QString missingColumns() const;
 
+    const clsImportList *m_list;
     QString m_error;
     QStringList m_header;
     std::vector<clsTextRow> m_texts; ///< the rows below the header
     std::vector<int> m_meanings; ///< for each column of the header
     std::vector<clsImportedRow> m_rows;
 };
-
-/// The place of a column in `mdScheduleColumns`, by its name or its property, in which case, blanks and underscores
-/// don't matter. -1 for another name.
-int mdScheduleColumn(const QString &name);

@@ -18,11 +18,45 @@ constexpr clsTableColumn ScheduleColumns[] = {
     {"waiting",               "Waiting",               clsCellKind::Tick},
     {"usehourlyrate",         "UseHourlyRate",         clsCellKind::Tick},
     {"includeinenhancements", "IncludeInEnhancements", clsCellKind::Tick},
-    {"enhancement",           "EnhancementUniqueID",   clsCellKind::Enhancement},
+    {"enhancement",           "EnhancementUniqueID",   clsCellKind::Enhancement, false, "includeinenhancements"},
+};
+
+constexpr clsTableColumn DisbursementColumns[] = {
+    {"orderid",               "OrderID",               clsCellKind::Passed},
+    {"counsel",               "Counsel",               clsCellKind::Tick},
+    {"counseluniqueid",       "CounselUniqueID",       clsCellKind::Counsel, false, "counsel"},
+    {"dateofwork",            "DateOfWork",            clsCellKind::DateIfAny},
+    {"description",           "Description",           clsCellKind::Text, true},
+    {"amount",                "Amount",                clsCellKind::Amount, true},
+    {"vat",                   "VAT",                   clsCellKind::AmountIfAny},
+};
+
+// The properties are those of a fee earner, so that the list of fee earners can be read too.
+constexpr clsTableColumn CommunicationsColumns[] = {
+    {"orderid",               "OrderID",               clsCellKind::Passed},
+    {"uniqueid",              "UniqueID",              clsCellKind::Passed},
+    {"feeearner",             "Reference",             clsCellKind::FeeEarner, true},
+    {"group",                 "GroupUniqueID",         clsCellKind::Passed},
+    {"date",                  "Date",                  clsCellKind::Passed},
+    {"kind",                  "Type",                  clsCellKind::CommsKind},
+    {"count",                 "Number",                clsCellKind::Count},
+    {"calls",                 "Calls",                 clsCellKind::Count},
+    {"lettersin",             "LettersIn",             clsCellKind::Count},
+    {"lettersout",            "LettersOut",            clsCellKind::Count},
 };
 // clang-format on
 
 constexpr const char *ScheduleFigures[] = {"rate", "claim"};
+
+/// A name without what doesn't matter.
+QString known(const QString &name)
+{
+    QString result;
+    for (const QChar c : name)
+        if (!c.isSpace() && c != u'_')
+            result += c.toLower();
+    return result;
+}
 
 } // namespace
 
@@ -34,6 +68,31 @@ std::span<const clsTableColumn> mdScheduleColumns()
 std::span<const char *const> mdScheduleFigures()
 {
     return ScheduleFigures;
+}
+
+std::span<const clsTableColumn> mdDisbursementColumns()
+{
+    return DisbursementColumns;
+}
+
+std::span<const clsTableColumn> mdCommunicationsColumns()
+{
+    return CommunicationsColumns;
+}
+
+int mdColumnOf(std::span<const clsTableColumn> columns, const QString &name)
+{
+    const QString word = known(name);
+    for (size_t place = 0; place < columns.size(); ++place)
+        if (word == QLatin1String(columns[place].name)
+            || word == QString::fromLatin1(columns[place].property).toLower())
+            return int(place);
+    return -1;
+}
+
+bool mdIsSameName(const QString &one, const QString &other)
+{
+    return known(one) == known(other);
 }
 
 QString mdNameOfReferred(const clsZR3Form &form, const QString &property, const QString &identity)

@@ -1,7 +1,7 @@
 #include "programs/zr3tool/clsToolCommand.h"
 
 #include "base/mdClock.h"
-#include "costing/tables/clsImportedRows.h"
+#include "costing/tables/mdTableColumns.h"
 
 #include <QCommandLineParser>
 
@@ -106,7 +106,7 @@ bool addImport(clsToolCommand &command, const QCommandLineParser &parser)
     for (const QString &map : parser.values(Map)) {
         // The name in the table may hold the sign too.
         const qsizetype sign = map.lastIndexOf(u'=');
-        if (sign < 1 || mdScheduleColumn(map.mid(sign + 1)) < 0)
+        if (sign < 1 || mdColumnOf(mdScheduleColumns(), map.mid(sign + 1)) < 0)
             return false;
         command.columns.emplace_back(map.left(sign), map.mid(sign + 1));
     }

@@ -113,7 +113,7 @@ Status mdImport(
     const auto text = textOf(console, command.items);
     if (!text)
         return Status::NoClaim;
-    clsImportedRows rows(form, *text, command.columns);
+    clsImportedRows rows(form, mdScheduleImport(), *text, command.columns);
     if (!rows.error().isEmpty()) {
         console.tell(Title, rows.error() + u'.');
         return Status::WrongRows;

@@ -11,6 +11,11 @@
 
 namespace {
 
+int columnOf(const QString &name)
+{
+    return mdColumnOf(mdScheduleColumns(), name);
+}
+
 class Import : public clsClaimTest {
 protected:
     void SetUp() override
@@ -24,7 +29,7 @@ protected:
 
     clsImportedRows read(const QString &text, const clsImportedRows::Names &names = {}) const
     {
-        return clsImportedRows(form, text, names);
+        return clsImportedRows(form, mdScheduleImport(), text, names);
     }
     /// A table of one row, whose columns are the fee earner, the code, the time and another one.
     clsImportedRow rowWith(const QString &column, const QString &cell) const
@@ -35,7 +40,7 @@ protected:
     }
     static QString valueOf(const clsImportedRow &row, const char *column)
     {
-        return row.Cells.at(size_t(mdScheduleColumn(QString::fromLatin1(column)))).Value;
+        return row.Cells.at(size_t(columnOf(QString::fromLatin1(column)))).Value;
     }
     /// What the column of a row is read as, or after an exclamation mark why it isn't.
     QString readAs(const char *column, const QString &cell) const
@@ -316,12 +321,12 @@ TEST_F(Import, AColumnCanBeGivenAnotherMeaning)
 {
     clsImportedRows rows = read("feeearner,code,time,Note,description\nAB,ACT,1:00,note,text"_q);
     EXPECT_EQ(-1, rows.meaningOf(3));
-    rows.setMeaning(form, 3, mdScheduleColumn("description"_q));
+    rows.setMeaning(form, 3, columnOf("description"_q));
     EXPECT_EQ("note"_q, valueOf(rows.rows().front(), "description"));
     EXPECT_EQ(QStringList {"description"_q}, rows.unknownColumns());
     rows.setMeaning(form, 2, -1);
     EXPECT_EQ("The table lacks a column: time"_q, rows.error());
-    rows.setMeaning(form, 2, mdScheduleColumn("time"_q));
+    rows.setMeaning(form, 2, columnOf("time"_q));
     EXPECT_EQ(QString(), rows.error());
     EXPECT_EQ(1u, rows.rows().size());
 }
@@ -337,7 +342,7 @@ TEST_F(Import, WhatTheTableOfAClaimHoldsComesBackTheSame)
         while (!emptied.ScheduleOfTimeItemsCollection().empty())
             emptied.DeleteScheduleOfTimeItem(1);
         const QByteArray csv = mdTableAsCsv(*mdClaimTable(full, u"schedule"));
-        const clsImportedRows rows(emptied, mdTextOfTable(csv));
+        const clsImportedRows rows(emptied, mdScheduleImport(), mdTextOfTable(csv));
         EXPECT_EQ(QString(), rows.error()) << name.toStdString();
         for (const clsImportedRow &row : rows.rows())
             EXPECT_FALSE(row.isWrong()) << name.toStdString() << row.reasons().join(u';').toStdString();
@@ -349,7 +354,7 @@ TEST_F(Import, WhatTheTableOfAClaimHoldsComesBackTheSame)
                 ADD_FAILURE() << change.OldItem << ' ' << change.NewItem << field.Property.toStdString() << ": "
                               << field.Old.toStdString() << " -> " << field.New.toStdString();
         // And into the claim itself it brings nothing new.
-        EXPECT_EQ(0, clsImportedRows(full, mdTextOfTable(csv)).chosen()) << name.toStdString();
+        EXPECT_EQ(0, clsImportedRows(full, mdScheduleImport(), mdTextOfTable(csv)).chosen()) << name.toStdString();
     }
     EXPECT_GT(items, 400);
 }
@@ -373,7 +378,7 @@ TEST_F(Import, BrokenTablesAreReadOrRefusedAndNeverMore)
             if (bytes.isEmpty())
                 break;
         }
-        const clsImportedRows rows(form, mdTextOfTable(bytes));
+        const clsImportedRows rows(form, mdScheduleImport(), mdTextOfTable(bytes));
         for (const clsImportedRow &row : rows.rows()) {
             EXPECT_EQ(row.isWrong(), !row.reasons().isEmpty());
             EXPECT_FALSE(row.isWrong() && row.DoubleOf > 0);
@@ -381,4 +386,123 @@ TEST_F(Import, BrokenTablesAreReadOrRefusedAndNeverMore)
                 EXPECT_TRUE(cell.Reason.isEmpty() || cell.Value.isEmpty());
         }
     }
+}
+
+namespace {
+
+class ImportDisbursements : public clsClaimTest {
+protected:
+    clsImportedRows read(const QString &text) const { return clsImportedRows(form, mdDisbursementsImport(), text); }
+    QStringList reasonsOf(const QString &cells) const
+    {
+        const clsImportedRows rows = read("description;amount;vat;counsel;counseluniqueid;dateofwork\n"_q + cells);
+        return rows.rows().size() == 1 ? rows.rows().front().reasons() : QStringList {rows.error()};
+    }
+};
+
+class ImportCommunications : public clsClaimTest {
+protected:
+    void SetUp() override
+    {
+        const auto group = claim.addGroup();
+        claim.addFeeEarner(group, "AB")->Calls = 10;
+        claim.addFeeEarner(group, "JD");
+    }
+    clsImportedRows read(const QString &text) const { return clsImportedRows(form, mdCommunicationsImport(), text); }
+    QString counts(int feeEarner) const
+    {
+        const auto of = form.FeeEarner(feeEarner);
+        return "%1 %2 %3"_q.arg(of->Calls()).arg(of->LettersIn()).arg(of->LettersOut());
+    }
+};
+
+} // namespace
+
+TEST_F(ImportDisbursements, AreStoredAsTheirBoxesReadThem)
+{
+    form.AddCounsel()->Name = "Ms Day"_q;
+    const clsImportedRows rows = read("Description,Amount,VAT,CounselUniqueID,Date of work\n"
+                                      "Court fee,£119.5,,,3/6/25\nBrief,1000,200,Ms Day,\n"_q);
+    EXPECT_EQ(QString(), rows.error());
+    EXPECT_EQ(2, rows.appendTo(form));
+    const auto fee = form.Disbursement(1);
+    EXPECT_EQ("Court fee|119.50|0.00|03/06/25"_q,
+        QStringList({fee->Description(), fee->Amount(), fee->VAT(), fee->DateOfWork()}).join(u'|'));
+    EXPECT_FALSE(fee->Counsel());
+    const auto brief = form.Disbursement(2);
+    EXPECT_TRUE(brief->Counsel()); // it names one
+    EXPECT_EQ(form.Counsel(1)->UniqueID(), brief->CounselUniqueID());
+    EXPECT_EQ(QString(), brief->DateOfWork());
+    EXPECT_EQ(1u, form.CounselDisbursementsCollection().size());
+    EXPECT_EQ(1u, form.NonCounselDisbursementsCollection().size());
+}
+
+TEST_F(ImportDisbursements, WhatIsWrong)
+{
+    EXPECT_EQ(QStringList(), reasonsOf("Fee;1;;;;"_q));
+    EXPECT_EQ(QStringList {"\"1,250\" has a comma, which amounts don't take"_q}, reasonsOf("Fee;1,250;;;;"_q));
+    EXPECT_EQ(QStringList {"There is no amount"_q}, reasonsOf("Fee;;1;;;"_q));
+    EXPECT_EQ(QStringList {"\"ten\" is no amount"_q}, reasonsOf("Fee;ten;;;;"_q));
+    EXPECT_EQ(QStringList {"\"x\" is no amount"_q}, reasonsOf("Fee;1;x;;;"_q));
+    EXPECT_EQ(QStringList {"There is no counsel"_q}, reasonsOf("Fee;1;;yes;;"_q));
+    EXPECT_EQ(QStringList {"No counsel \"Ms Day\" in this claim"_q}, reasonsOf("Fee;1;;;Ms Day;"_q));
+    EXPECT_EQ("The table lacks a column: description"_q, read("amount,vat\n1,2"_q).error());
+}
+
+TEST_F(ImportDisbursements, WhatTheTableOfAClaimHoldsIsKnownAgain)
+{
+    int items = 0;
+    for (const QString &name : QDir(mdSampleFolder()).entryList({"*.zr3"_q}, QDir::Files)) {
+        clsZR3Form full;
+        clsZR3Form emptied;
+        ASSERT_TRUE(full.LoadXML(mdSamplePath(name)));
+        ASSERT_TRUE(emptied.LoadXML(mdSamplePath(name)));
+        while (!emptied.DisbursementsCollection().empty())
+            emptied.DeleteDisbursement(1);
+        const QString csv = mdTextOfTable(mdTableAsCsv(*mdClaimTable(full, u"disbursements")));
+        const clsImportedRows again(full, mdDisbursementsImport(), csv);
+        EXPECT_EQ(0, again.chosen()) << name.toStdString();
+        const clsImportedRows rows(emptied, mdDisbursementsImport(), csv);
+        items += rows.appendTo(emptied);
+        EXPECT_EQ(full.DisbursementsCollection().size(), emptied.DisbursementsCollection().size())
+            << name.toStdString();
+        EXPECT_TRUE(mdCompareClaims(full, emptied).Totals.empty()) << name.toStdString();
+    }
+    EXPECT_GT(items, 50);
+}
+
+TEST_F(ImportCommunications, AreCounted)
+{
+    const clsImportedRows rows = read("Date;Fee Earner;Type;Number\n3/6/25;AB;Letter out;\n3/6/25;AB;letter in;2\n"
+                                      ";JD;Telephone;\n;AB;call;3\n;AB;LETTERS OUT;4\n"_q);
+    EXPECT_EQ(QString(), rows.error());
+    EXPECT_FALSE(rows.hasWrongChosen());
+    EXPECT_EQ(5, rows.appendTo(form));
+    EXPECT_EQ("13 2 5"_q, counts(1));
+    EXPECT_EQ("1 0 0"_q, counts(2));
+}
+
+TEST_F(ImportCommunications, TheListOfFeeEarnersCanBeRead)
+{
+    form.FeeEarner(2)->LettersIn = 7;
+    const QString csv = mdTextOfTable(mdTableAsCsv(*mdClaimTable(form, u"feeearners")));
+    const clsImportedRows rows = read(csv);
+    EXPECT_EQ(QString(), rows.error());
+    EXPECT_EQ(QStringList(), rows.unknownColumns());
+    EXPECT_EQ(2, rows.appendTo(form));
+    EXPECT_EQ("20 0 0"_q, counts(1));
+    EXPECT_EQ("0 14 0"_q, counts(2));
+}
+
+TEST_F(ImportCommunications, WhatIsWrong)
+{
+    const clsImportedRows rows
+        = read("feeearner,kind,count\nXY,call,\nAB,fax,\nAB,,3\nAB,call,0\nAB,call,-1\nAB,call,x\n"_q);
+    QStringList reasons;
+    for (const clsImportedRow &row : rows.rows())
+        reasons << row.reasons().join(u';');
+    EXPECT_EQ(QStringList({"No fee earner \"XY\" in this claim"_q, "\"fax\" is no call, letter in or letter out"_q,
+                  "There is nothing to count"_q, "There is nothing to count"_q, "\"-1\" is no count"_q,
+                  "\"x\" is no count"_q}),
+        reasons);
 }

@@ -169,8 +169,8 @@ TEST_F(Tables, LettersAndCallsAreSixLines)
     EXPECT_EQ("0|1|4.00|3|12.00|0.00|12.00"_q, row("communications", 0));
     EXPECT_EQ("0|2|0.00||0.00|0.00|0.00"_q, row("communications", 1));
     EXPECT_EQ("2|1|5.00|2|10.00|0.00|10.00"_q, row("communications", 4));
-    form.Communications.EnhanceCalls = true; // by one that there isn't
-    EXPECT_EQ("0|1|4.00|3|12.00|!91|!91"_q, row("communications", 0));
+    group->CallsRate = "4x"_q; // above zero, and no amount
+    EXPECT_EQ("0|1|!13|3|!13|0.00|!13"_q, row("communications", 0));
     EXPECT_TRUE(table("communications").hasFailures);
     EXPECT_EQ("2|1|5.00|2|10.00|0.00|10.00"_q, row("communications", 4));
 }

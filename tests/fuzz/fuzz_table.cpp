@@ -39,7 +39,8 @@ void mdFuzzAttack(const uint8_t *data, size_t size)
     clsZR3Form form;
     addPeople(form);
     const QString before = form.XMLOutput();
-    clsImportedRows rows(form, mdTextOfTable(QByteArray(reinterpret_cast<const char *>(data), qsizetype(size))),
+    clsImportedRows rows(form, mdScheduleImport(),
+        mdTextOfTable(QByteArray(reinterpret_cast<const char *>(data), qsizetype(size))),
         {{QStringLiteral("When"), QStringLiteral("date")}});
     attackRows(rows);
     if (rows.hasWrongChosen()) {
@@ -52,7 +53,7 @@ void mdFuzzAttack(const uint8_t *data, size_t size)
     mdFuzzRequire(added == int(form.ScheduleOfTimeItemsCollection().size()), "what is chosen is stored");
     // What was imported is written as a table and read as the same items.
     const QString text = mdTextOfTable(mdTableAsCsv(*mdClaimTable(form, u"schedule")));
-    const clsImportedRows again(form, text);
+    const clsImportedRows again(form, mdScheduleImport(), text);
     mdFuzzSame(QString(), again.error(), "a table of this program is one");
     mdFuzzRequire(int(again.rows().size()) == added && again.chosen() == 0, "items come back as they were");
     mdFuzzRequire(user.messages == 0, "nothing is told");

@@ -1,8 +1,6 @@
 #include "costing/tables/mdCsv.h"
 
-#include "base/mdNumberText.h"
-
-#include <algorithm>
+#include "base/mdCsv.h"
 
 namespace {
 
@@ -16,39 +14,27 @@ qsizetype guardsOf(const QString &text)
     return guards < text.size() && Beginnings.contains(text[guards]) ? guards : -1;
 }
 
-void addCell(QByteArray &csv, const QString &text)
+QStringList guarded(const QStringList &cells)
 {
-    const QByteArray bytes = mdWithFormulaGuard(text).toUtf8();
-    const bool isPlain = std::none_of(
-        bytes.begin(), bytes.end(), [](char c) { return c == ',' || c == '"' || c == '\r' || c == '\n'; });
-    csv += isPlain ? bytes : '"' + QByteArray(bytes).replace('"', "\"\"") + '"';
-}
-
-void addRow(QByteArray &csv, const QStringList &cells)
-{
-    for (qsizetype place = 0; place < cells.size(); ++place) {
-        if (place > 0)
-            csv += ',';
-        addCell(csv, cells[place]);
-    }
-    csv += "\r\n";
+    QStringList texts;
+    for (const QString &cell : cells)
+        texts << mdWithFormulaGuard(cell);
+    return texts;
 }
 
 } // namespace
 
 QByteArray mdTableAsCsv(const clsTable &table)
 {
-    QByteArray csv;
-    addRow(csv, table.header);
+    QByteArray csv = mdCsvLine(guarded(table.header)).toUtf8();
     for (const QStringList &row : table.rows)
-        addRow(csv, row);
+        csv += mdCsvLine(guarded(row)).toUtf8();
     return csv;
 }
 
 QString mdWithFormulaGuard(const QString &text)
 {
-    const qsizetype guards = guardsOf(text);
-    return guards > 0 || (guards == 0 && !IsNumeric(text)) ? u'\'' + text : text;
+    return guardsOf(text) > 0 ? u'\'' + text : mdGuardedText(text);
 }
 
 QString mdWithoutFormulaGuard(const QString &text)

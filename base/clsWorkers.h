@@ -4,6 +4,8 @@
 
 #include <functional>
 
+class clsEndRequests;
+
 /// Works through a row of jobs in processes of their own, so many at a time. A process does one job after the other,
 /// and is replaced by a new one once it has grown. One that dies costs the job that it had in hand and no other. What
 /// waits for its turn is bounded: while an early job takes long, the later ones wait. To be used by a program of one
@@ -27,25 +29,14 @@ public:
         std::function<void(qsizetype job)> sweep;
     };
 
-    clsWorkers();
-    ~clsWorkers();
-    clsWorkers(const clsWorkers &) = delete;
-    clsWorkers &operator=(const clsWorkers &) = delete;
+    explicit clsWorkers(clsEndRequests &requests)
+        : m_requests(requests)
+    { }
 
     /// False where the work was ended before all jobs were done. Whatever was in hand has been stopped and swept then.
     bool run(const Row &row);
 
-    /// Writes to a stream of the process, and stops where it is asked to end while its reader keeps it waiting. False
-    /// where not all was written.
-    bool write(int descriptor, const QByteArray &bytes);
-
-    /// The signal that has asked the program to end, or 0.
-    int signalToEnd() const;
-    /// Ends the program as that signal would have.
-    [[noreturn]] void endBySignal() const;
-
 private:
-    class clsRequests;
     class clsRun;
-    clsRequests *m_requests;
+    clsEndRequests &m_requests;
 };

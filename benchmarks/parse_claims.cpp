@@ -1,4 +1,5 @@
-// Parses all files of a folder one after the other, as the least that a list of claims has to do: zr3-parse-claims FOLDER
+// Parses all files of a folder one after the other, as the least that a list of claims has to do: zr3-parse-claims
+// FOLDER
 
 #include <pugixml.hpp>
 

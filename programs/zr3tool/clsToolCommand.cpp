@@ -75,8 +75,8 @@ const QString VersionOption = QStringLiteral("version");
 void addOptions(QCommandLineParser &parser)
 {
     parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsOptions);
-    for (const QString &flag :
-        {Force, KeepSheets, Quiet, Pdf, NameByFile, Newer, Full, Json, Csv, JsonLines, Doubles, HelpOption, VersionOption})
+    for (const QString &flag : {Force, KeepSheets, Quiet, Pdf, NameByFile, Newer, Full, Json, Csv, JsonLines, Doubles,
+             HelpOption, VersionOption})
         parser.addOption(QCommandLineOption(flag));
     parser.addOption(QCommandLineOption(Templates, QString(), QStringLiteral("DIR")));
     parser.addOption(QCommandLineOption(Items, QString(), QStringLiteral("ROWS")));
@@ -94,8 +94,7 @@ unsigned optionsOf(const QCommandLineParser &parser)
     };
     return group(ExportOptions, {Force, Templates, KeepSheets, Quiet, Pdf, NameByFile, Newer})
         | group(JsonOption, {Json}) | group(CsvOption, {Csv}) | group(TodayOption, {Today})
-        | group(ManyOptions, {JsonLines, Jobs})
-        | group(ImportOptions, {Items, Map, Doubles});
+        | group(ManyOptions, {JsonLines, Jobs}) | group(ImportOptions, {Items, Map, Doubles});
 }
 
 /// Adds the options of an import; false where they are wrong.

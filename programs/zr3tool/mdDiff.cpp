@@ -2,8 +2,8 @@
 
 #include "base/clsConsoleUserInterface.h"
 #include "base/clsJsonWriter.h"
-#include "base/mdPrint.h"
 #include "base/mdClaimPaths.h"
+#include "base/mdPrint.h"
 #include "costing/comparing/mdChangesReport.h"
 #include "costing/comparing/mdCompareClaims.h"
 #include "costing/comparing/mdPairFiles.h"

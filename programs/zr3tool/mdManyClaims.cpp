@@ -1,6 +1,7 @@
 #include "programs/zr3tool/mdManyClaims.h"
 
 #include "base/clsConsoleUserInterface.h"
+#include "base/clsEndRequests.h"
 #include "base/clsWorkers.h"
 #include "base/mdClaimPaths.h"
 #include "base/mdCommandLine.h"
@@ -95,7 +96,7 @@ private:
     qsizetype m_longestPath;
     clsResultForm m_form;
     clsClaimWork m_work;
-    clsWorkers m_workers;
+    clsEndRequests m_requests;
     Status m_status = Status::Done;
     bool m_isFirst = true;
 };
@@ -124,7 +125,7 @@ clsManyRun::clsManyRun(clsConsoleUserInterface &console, const Command &command,
 bool clsManyRun::write(int descriptor, const QByteArray &bytes)
 {
     m_console.clearProgress();
-    return bytes.isEmpty() || m_workers.write(descriptor, bytes);
+    return bytes.isEmpty() || m_requests.write(descriptor, bytes);
 }
 
 /// What standard output is given of a claim's part of the result.
@@ -163,7 +164,7 @@ bool clsManyRun::take(qsizetype job, const QByteArray &packed)
 {
     const clsClaimResult result = clsClaimResult::unpacked(packed);
     m_status = std::max(m_status, result.status);
-    if (!write(STDERR_FILENO, mdPrinted(stderr, result.messages)) && m_workers.signalToEnd())
+    if (!write(STDERR_FILENO, mdPrinted(stderr, result.messages)) && m_requests.signal())
         return false;
     if (!result.printed.isEmpty()) {
         if (!write(STDOUT_FILENO, printed(result.printed)))
@@ -223,10 +224,10 @@ clsWorkers::Row clsManyRun::row()
 
 Status clsManyRun::run()
 {
-    const bool isDone = open() && m_workers.run(row()) && close();
+    const bool isDone = open() && clsWorkers(m_requests).run(row()) && close();
     m_console.clearProgress();
-    if (m_workers.signalToEnd())
-        m_workers.endBySignal();
+    if (m_requests.signal())
+        m_requests.endBySignal();
     return isDone ? m_status : mdTellUnwritten();
 }
 

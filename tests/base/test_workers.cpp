@@ -1,5 +1,6 @@
 // Jobs that are done by processes of their own.
 
+#include "base/clsEndRequests.h"
 #include "base/clsWorkers.h"
 
 #include <QElapsedTimer>
@@ -35,7 +36,8 @@ protected:
             .sweep = [this](qsizetype job) { m_swept << job; }};
     }
 
-    clsWorkers m_workers;
+    clsEndRequests m_requests;
+    clsWorkers m_workers {m_requests};
     QByteArrayList m_taken;
     QList<qsizetype> m_swept;
 };
@@ -121,7 +123,7 @@ TEST_F(Workers, EndWhereTheirResultsAreRefused)
     };
     EXPECT_FALSE(m_workers.run(jobs));
     EXPECT_EQ(3, m_taken.size());
-    EXPECT_EQ(0, m_workers.signalToEnd());
+    EXPECT_EQ(0, m_requests.signal());
     EXPECT_EQ(-1, ::waitpid(-1, nullptr, WNOHANG));
 }
 
@@ -145,7 +147,7 @@ TEST_F(Workers, EndWithinASecondWhereTheProgramIsAskedTo)
     clock.start();
     EXPECT_FALSE(m_workers.run(jobs));
     EXPECT_LT(clock.elapsed(), 1200);
-    EXPECT_EQ(SIGTERM, m_workers.signalToEnd());
+    EXPECT_EQ(SIGTERM, m_requests.signal());
     EXPECT_EQ(QList<qsizetype>({0, 1}), m_swept);
     (void)::waitpid(asking, nullptr, 0);
     EXPECT_EQ(-1, ::waitpid(-1, nullptr, WNOHANG));

@@ -116,9 +116,10 @@ TEST_F(Usage, HelpIsTheSameUsageAsAResult)
     EXPECT_EQ(0, help.status);
     EXPECT_EQ("", help.err);
     EXPECT_EQ(run({}).err, help.out);
-    for (const char *word : {"list", "totals", "export", "check", "save", "--jsonl", "--csv", "--newer", "--jobs", "why", "forecast", "diff", "table", "import",
-             "--items", "--map", "--doubles", "--full", "--json", "--today", "--force", "--templates", "--keep-sheets",
-             "--quiet", "--pdf", "--name-by-file", "--help", "--version"})
+    for (const char *word :
+        {"list", "totals", "export", "check", "save", "--jsonl", "--csv", "--newer", "--jobs", "why", "forecast",
+            "diff", "table", "import", "--items", "--map", "--doubles", "--full", "--json", "--today", "--force",
+            "--templates", "--keep-sheets", "--quiet", "--pdf", "--name-by-file", "--help", "--version"})
         EXPECT_TRUE(help.out.contains(word)) << word;
 }
 

@@ -13,14 +13,11 @@
 #include <cstring>
 #include <deque>
 #include <map>
-#include <memory>
-#include <optional>
 #include <vector>
 
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/resource.h>
-#include <sys/signalfd.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -32,9 +29,6 @@ constexpr qsizetype MostWaiting = 32 << 20;
 constexpr long MostGrowth = 64 << 10;
 /// How long workers are given to clear up after themselves when the work is stopped.
 constexpr std::chrono::milliseconds TimeToEnd(600);
-/// A pipe that is ready takes as much without making its writer wait.
-constexpr qsizetype PieceOfOutput = PIPE_BUF;
-
 struct clsResultHead {
     qint64 job;
     qint64 size;
@@ -64,15 +58,6 @@ bool writeAll(int descriptor, const void *bytes, size_t size)
     return true;
 }
 
-constexpr int EndSignals[] = {SIGINT, SIGTERM, SIGHUP};
-
-/// As where it was started so that it survives the end of its terminal.
-bool isIgnored(int signal)
-{
-    struct sigaction action = {};
-    return ::sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
-}
-
 long peakMemory()
 {
     struct rusage usage = {};
@@ -87,54 +72,10 @@ long peakMemory()
 
 } // namespace
 
-/// The signals that ask the program to end. While this object lives they wait at a descriptor, where what else is
-/// waited for is waited for too.
-class clsWorkers::clsRequests {
-public:
-    clsRequests()
-    {
-        sigset_t asked;
-        sigemptyset(&asked);
-        for (const int signal : EndSignals)
-            if (!isIgnored(signal))
-                sigaddset(&asked, signal);
-        ::sigprocmask(SIG_BLOCK, &asked, &m_before);
-        m_descriptor = ::signalfd(-1, &asked, SFD_CLOEXEC | SFD_NONBLOCK);
-    }
-    ~clsRequests()
-    {
-        ::close(m_descriptor);
-        ::sigprocmask(SIG_SETMASK, &m_before, nullptr);
-    }
-
-    pollfd forPoll() const { return {m_descriptor, POLLIN, 0}; }
-    /// A new process is told to end by this one alone, and not by the terminal beside it.
-    void leaveToChild() const
-    {
-        ::close(m_descriptor);
-        for (const int signal : {SIGINT, SIGHUP})
-            std::signal(signal, SIG_IGN);
-        ::sigprocmask(SIG_SETMASK, &m_before, nullptr);
-    }
-    int signal()
-    {
-        signalfd_siginfo info = {};
-        if (m_signal == 0 && ::read(m_descriptor, &info, sizeof info) == sizeof info)
-            m_signal = int(info.ssi_signo);
-        return m_signal;
-    }
-    void readerIsGone() { m_signal = SIGPIPE; }
-
-private:
-    sigset_t m_before;
-    int m_descriptor = -1;
-    int m_signal = 0;
-};
-
 /// One run through a row of jobs.
 class clsWorkers::clsRun {
 public:
-    clsRun(const Row &row, clsRequests &requests)
+    clsRun(const Row &row, clsEndRequests &requests)
         : m_row(row)
         , m_requests(requests)
         , m_workers(size_t(std::clamp<qsizetype>(row.jobs, 1, row.atATime)))
@@ -179,7 +120,7 @@ private:
     void keep(qsizetype job, QByteArray result);
 
     const Row &m_row;
-    clsRequests &m_requests;
+    clsEndRequests &m_requests;
     std::vector<clsWorker> m_workers;
     qsizetype m_nextJob = 0;
     std::deque<qsizetype> m_returned; ///< from workers that ended before they came to them
@@ -279,7 +220,7 @@ void clsWorkers::clsRun::beWorker(int jobs, int results)
 
 void clsWorkers::clsRun::awaitResults()
 {
-    std::vector<pollfd> awaited {m_requests.forPoll()};
+    std::vector<pollfd> awaited {{m_requests.descriptor(), POLLIN, 0}};
     std::vector<clsWorker *> of;
     for (clsWorker &worker : m_workers)
         if (worker.isRunning()) {
@@ -393,66 +334,17 @@ void clsWorkers::clsRun::stop()
             m_row.sweep(worker.inHand.front());
 }
 
-clsWorkers::clsWorkers()
-    : m_requests(new clsRequests)
-{ }
-
-clsWorkers::~clsWorkers()
-{
-    delete m_requests;
-}
-
 bool clsWorkers::run(const Row &row)
 {
     // A worker that has ended is seen by its silence.
     const auto before = std::signal(SIGPIPE, SIG_IGN);
     bool isDone = false;
     try {
-        isDone = clsRun(row, *m_requests).run();
+        isDone = clsRun(row, m_requests).run();
     } catch (...) {
         std::signal(SIGPIPE, before);
         throw;
     }
     std::signal(SIGPIPE, before);
     return isDone;
-}
-
-bool clsWorkers::write(int descriptor, const QByteArray &bytes)
-{
-    for (qsizetype done = 0; done < bytes.size();) {
-        pollfd awaited[] = {m_requests->forPoll(), {descriptor, POLLOUT, 0}};
-        if (::poll(awaited, 2, -1) < 0 && errno != EINTR)
-            return false;
-        if (m_requests->signal())
-            return false;
-        if (!awaited[1].revents)
-            continue;
-        const qsizetype size = std::min(bytes.size() - done, PieceOfOutput);
-        const ssize_t count
-            = mdUninterrupted([&] { return ::write(descriptor, bytes.constData() + done, size_t(size)); });
-        if (count < 0 && errno == EPIPE)
-            m_requests->readerIsGone();
-        if (count < 0 && errno != EAGAIN)
-            return false;
-        done += std::max<ssize_t>(count, 0);
-    }
-    return true;
-}
-
-int clsWorkers::signalToEnd() const
-{
-    return m_requests->signal();
-}
-
-void clsWorkers::endBySignal() const
-{
-    const int signal = m_requests->signal();
-    std::signal(signal, SIG_DFL);
-    sigset_t own;
-    sigemptyset(&own);
-    sigaddset(&own, signal);
-    ::sigprocmask(SIG_UNBLOCK, &own, nullptr);
-    (void)::raise(signal);
-    constexpr int StatusOfSignal = 128; // as shells count
-    ::_exit(StatusOfSignal + signal);
 }

@@ -116,6 +116,32 @@ TEST_F(Comparing, FieldsStandUnderTheirScreens)
         fields());
 }
 
+TEST_F(Comparing, EachElementOfTheClaimAndItsSectionsIsCompared)
+{
+    const QStringList passedOver
+        = {"path"_q, "version"_q, "exportpath"_q, "timespent"_q, "idcounter"_q, "defaultfeeearnerlistindex"_q};
+    const QStringList lists = {"feeearnergroups"_q, "feeearners"_q, "counsel"_q, "enhancements"_q, "fasitems"_q,
+        "scheduleoftimeitems"_q, "expertinvoices"_q, "jointinstructions"_q, "disbursements"_q};
+    qsizetype changed = 0;
+    const auto change = [&](pugi::xml_node leaf) {
+        leaf.text().set(QByteArrayView(leaf.child_value()) == QByteArrayView("True") ? "False" : "7");
+        ++changed;
+    };
+    for (const pugi::xml_node child : now.XMLNode().children()) {
+        const QString name = QString::fromLatin1(child.name());
+        if (lists.contains(name))
+            continue;
+        const auto isElement = [](pugi::xml_node node) { return node.type() == pugi::node_element; };
+        if (!child.find_child(isElement) && !passedOver.contains(name))
+            change(child);
+        for (const pugi::xml_node leaf : child.children())
+            if (isElement(leaf))
+                change(leaf);
+    }
+    EXPECT_GT(changed, 200);
+    EXPECT_EQ(changed, fields().size());
+}
+
 TEST_F(Comparing, ValuesThatAreWrittenOtherwiseAreTheSame)
 {
     now.XMLNode().child("excludenonadvocacy").text().set("false");

@@ -2,6 +2,7 @@
 
 #include "costing/tables/mdClaimTable.h"
 #include "costing/tables/mdCsv.h"
+#include "costing/tables/mdTableColumns.h"
 #include "tests/formdata/clsClaimTest.h"
 
 namespace {
@@ -60,6 +61,21 @@ TEST_F(Tables, TheScheduleHasItsOwnColumns)
     // 1 1/3 hours at 60.00 are 80.00, and 10 per cent more 88.00.
     EXPECT_EQ("1|AB|03/06/2025|DPL|Drafting|01:20|yes|no|no|no|yes|yes|Speed|60.00|88.00"_q, row("schedule"));
     EXPECT_FALSE(table("schedule").hasFailures);
+}
+
+TEST_F(Tables, HaveAllThatAnItemHas)
+{
+    const auto check = [](std::span<const clsTableColumn> columns, const clsXMLRecord &item) {
+        for (const clsXMLPropertyPlace &place : item.properties()) {
+            const QString name = QString::fromLatin1(place.property->name);
+            const bool isNeverUsed = name == "TypeOfCase"_q;
+            EXPECT_EQ(!isNeverUsed, mdColumnOf(columns, name) >= 0) << name.toStdString();
+        }
+        for (const clsTableColumn &column : columns)
+            EXPECT_TRUE(item.field(QString::fromLatin1(column.property))) << column.name;
+    };
+    check(mdScheduleColumns(), *claim.addItem(feeEarner, "01:00"));
+    check(mdDisbursementColumns(), *claim.addDisbursement("1.00", "0.00"));
 }
 
 TEST_F(Tables, ItemsStandInTheirOrder)

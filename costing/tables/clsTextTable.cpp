@@ -96,27 +96,34 @@ bool isBlank(const QString &cell)
 
 clsTextTable clsTextTable::read(QStringView text, QChar separator, int mostRows)
 {
+    // Of a beginning, what is too large is told once the whole is read.
+    const bool isWhole = mostRows == MostRows;
+    const qsizetype mostInAll = isWhole ? MostCellsInAll : qsizetype(mostRows) * MostCells;
     clsTextTable table;
     clsCells cells(text, separator);
+    qsizetype inAll = 0;
     while (!cells.atEnd()) {
         clsTextRow row {cells.line(), {}};
         bool goesOn = true;
-        while (goesOn) {
-            if (row.Cells.size() >= MostCells) {
-                table.Error = QStringLiteral("Line %1 has more than %2 cells").arg(row.Line).arg(MostCells);
-                return table;
-            }
+        while (goesOn && row.Cells.size() <= MostCells) {
             row.Cells << cells.next();
             goesOn = cells.passSeparator();
         }
-        if (std::all_of(row.Cells.begin(), row.Cells.end(), isBlank))
+        inAll += row.Cells.size();
+        if (row.Cells.size() > MostCells)
+            table.Error = QStringLiteral("Line %1 has more than %2 cells").arg(row.Line).arg(MostCells);
+        else if (inAll > mostInAll)
+            table.Error = QStringLiteral("The table has more than %1 cells").arg(mostInAll);
+        else if (std::all_of(row.Cells.begin(), row.Cells.end(), isBlank))
             continue;
-        if (int(table.Rows.size()) >= mostRows) {
-            if (mostRows == MostRows)
-                table.Error = QStringLiteral("The table has more than %1 rows").arg(MostRows);
+        else if (int(table.Rows.size()) < mostRows)
+            table.Rows.push_back(row);
+        else if (isWhole)
+            table.Error = QStringLiteral("The table has more than %1 rows").arg(mostRows);
+        else
             return table;
-        }
-        table.Rows.push_back(row);
+        if (!table.Error.isEmpty())
+            return table;
     }
     if (cells.openQuotes() > 0)
         table.Error = QStringLiteral("The quotes that open in line %1 are not closed").arg(cells.openQuotes());

@@ -23,6 +23,7 @@ struct clsTextTable {
     /// What is larger is no list of work, and would only fill the memory.
     static constexpr int MostRows = 100'000;
     static constexpr int MostCells = 1'000; ///< in a row
+    static constexpr int MostCellsInAll = 2'000'000; ///< with those of the rows that are left out
     static constexpr qint64 MostBytes = 32 * 1024 * 1024;
 };
 

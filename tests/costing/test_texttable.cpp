@@ -37,6 +37,10 @@ TEST(TextTable, WhatIsTooLargeIsRefused)
 {
     EXPECT_TRUE(cellsOf(QString(1000, u',')).last().startsWith("!Line 1 has more than 1000 cells"_q));
     EXPECT_FALSE(cellsOf("a"_q + QString(999, u',')).last().startsWith(u'!'));
+    EXPECT_EQ("The table has more than 2000000 cells"_q, clsTextTable::read("\n"_q.repeated(2'000'001), u',').Error);
+    EXPECT_EQ(QString(), clsTextTable::read("\n"_q.repeated(2'000'000), u',').Error);
+    EXPECT_EQ("The table has more than 2000000 cells"_q,
+        clsTextTable::read((QString(999, u',') + "a\n"_q).repeated(2'001), u',').Error);
     EXPECT_EQ("The table has more than 100000 rows"_q, clsTextTable::read("a\n"_q.repeated(100'001), u',').Error);
     EXPECT_EQ(QString(), clsTextTable::read("a\n"_q.repeated(100'000), u',').Error);
 }

@@ -6,9 +6,9 @@
 
 namespace {
 
-QString inQuotesWhereNeeded(const QString &cell)
+QString inQuotesWhereNeeded(const QString &cell, QChar separator)
 {
-    const auto needsQuotes = [](QChar c) { return c == u',' || c == u'"' || c == u'\r' || c == u'\n'; };
+    const auto needsQuotes = [separator](QChar c) { return c == separator || c == u'"' || c == u'\r' || c == u'\n'; };
     if (std::none_of(cell.begin(), cell.end(), needsQuotes))
         return cell;
     return u'"' + QString(cell).replace(QStringLiteral("\""), QStringLiteral("\"\"")) + u'"';
@@ -23,11 +23,11 @@ QString mdGuardedText(const QString &text)
     return looksLikeFormula && !IsNumeric(text) ? u'\'' + text : text;
 }
 
-QString mdCsvLine(const QStringList &cells)
+QString mdCsvLine(const QStringList &cells, char separator)
 {
     QStringList quoted;
     quoted.reserve(cells.size());
     for (const QString &cell : cells)
-        quoted << inQuotesWhereNeeded(cell);
-    return quoted.join(u',') + QStringLiteral("\r\n");
+        quoted << inQuotesWhereNeeded(cell, QLatin1Char(separator));
+    return quoted.join(QLatin1Char(separator)) + QStringLiteral("\r\n");
 }

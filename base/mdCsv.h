@@ -9,5 +9,6 @@
 /// and is no number.
 QString mdGuardedText(const QString &text);
 
-/// A line of a table, with its end; the cells stand as they are given.
-QString mdCsvLine(const QStringList &cells);
+/// A line of a table, with its end; the cells stand as they are given. Another separator than the comma is for the
+/// clipboard.
+QString mdCsvLine(const QStringList &cells, char separator = ',');

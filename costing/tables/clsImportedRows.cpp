@@ -83,6 +83,41 @@ void joinTick(clsImportedRow &row, const clsTableColumn &column, size_t place, c
         named = reader.readNamed(column.kind, named.Text);
 }
 
+/// Reads the rows of one table.
+class clsRowReader {
+public:
+    clsRowReader(const clsZR3Form &form, const clsImportList &list, const std::vector<int> &meanings)
+        : m_list(list)
+        , m_places(placesOf(list, meanings))
+        , m_tableColumns(qsizetype(meanings.size()))
+        , m_cells(form)
+        , m_items(itemsByKey(list, form))
+    { }
+
+    clsImportedRow read(const clsTextRow &text, int number) const
+    {
+        clsImportedRow row {.Number = number, .Line = text.Line};
+        for (size_t column = 0; column < m_list.columns.size(); ++column)
+            row.Cells.push_back(m_cells.read(m_list.columns[column].kind, text.Cells.value(m_places[column])));
+        for (size_t column = 0; column < m_list.columns.size(); ++column)
+            if (m_list.columns[column].countsBy)
+                joinTick(row, m_list.columns[column], column, m_list, m_places, m_cells);
+        row.Reason = excessOf(text, m_tableColumns);
+        if (!row.isWrong() && m_list.reasonOfRow)
+            row.Reason = m_list.reasonOfRow(row);
+        row.DoubleOf = row.isWrong() ? 0 : m_items.value(keyOf(m_list, row));
+        row.IsChosen = row.DoubleOf == 0;
+        return row;
+    }
+
+private:
+    const clsImportList &m_list;
+    std::vector<qsizetype> m_places;
+    qsizetype m_tableColumns;
+    clsCellReader m_cells;
+    QHash<QStringList, int> m_items;
+};
+
 } // namespace
 
 bool clsImportedRow::isWrong() const
@@ -233,25 +268,23 @@ QStringList clsImportedRows::missingNames(const Names &names) const
 
 void clsImportedRows::readRows(const clsZR3Form &form)
 {
-    const clsCellReader reader(form);
-    const QHash<QStringList, int> items = itemsByKey(*m_list, form);
-    const auto &columns = m_list->columns;
-    const std::vector<qsizetype> places = placesOf(*m_list, m_meanings);
+    const clsRowReader reader(form, *m_list, m_meanings);
+    m_rows.clear();
     m_rows.reserve(m_texts.size());
-    for (const clsTextRow &text : m_texts) {
-        clsImportedRow row {.Number = int(m_rows.size()) + 1, .Line = text.Line};
-        for (size_t column = 0; column < columns.size(); ++column)
-            row.Cells.push_back(reader.read(columns[column].kind, text.Cells.value(places[column])));
-        for (size_t column = 0; column < columns.size(); ++column)
-            if (columns[column].countsBy)
-                joinTick(row, columns[column], column, *m_list, places, reader);
-        row.Reason = excessOf(text, m_header.size());
-        if (!row.isWrong() && m_list->reasonOfRow)
-            row.Reason = m_list->reasonOfRow(row);
-        row.DoubleOf = row.isWrong() ? 0 : items.value(keyOf(*m_list, row));
-        row.IsChosen = row.DoubleOf == 0;
-        m_rows.push_back(std::move(row));
-    }
+    for (const clsTextRow &text : m_texts)
+        m_rows.push_back(reader.read(text, int(m_rows.size()) + 1));
+}
+
+void clsImportedRows::setCell(const clsZR3Form &form, int row, int column, const QString &text)
+{
+    const auto place = std::find(m_meanings.begin(), m_meanings.end(), column) - m_meanings.begin();
+    if (place == std::ptrdiff_t(m_meanings.size()))
+        return;
+    QStringList &cells = m_texts[size_t(row)].Cells;
+    while (cells.size() <= place)
+        cells << QString();
+    cells[place] = text;
+    m_rows[size_t(row)] = clsRowReader(form, *m_list, m_meanings).read(m_texts[size_t(row)], row + 1);
 }
 
 void clsImportedRows::chooseDoubles(bool areChosen)

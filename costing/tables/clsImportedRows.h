@@ -29,6 +29,8 @@ public:
     QStringList missingNames(const Names &names) const;
 
     const std::vector<clsImportedRow> &rows() const { return m_rows; }
+    /// Puts another text into a cell of a column that the table has, and reads the row anew.
+    void setCell(const clsZR3Form &form, int row, int column, const QString &text);
     void choose(int row, bool isChosen) { m_rows[size_t(row)].IsChosen = isChosen; }
     void chooseDoubles(bool areChosen);
     /// How many rows are chosen.

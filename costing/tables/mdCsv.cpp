@@ -24,11 +24,11 @@ QStringList guarded(const QStringList &cells)
 
 } // namespace
 
-QByteArray mdTableAsCsv(const clsTable &table)
+QByteArray mdTableAsCsv(const clsTable &table, char separator)
 {
-    QByteArray csv = mdCsvLine(guarded(table.header)).toUtf8();
+    QByteArray csv = mdCsvLine(guarded(table.header), separator).toUtf8();
     for (const QStringList &row : table.rows)
-        csv += mdCsvLine(guarded(row)).toUtf8();
+        csv += mdCsvLine(guarded(row), separator).toUtf8();
     return csv;
 }
 

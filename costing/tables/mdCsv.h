@@ -4,9 +4,9 @@
 
 #include <QByteArray>
 
-/// A table as CSV: UTF-8, comma, a line end of CR LF, quotes only where they are needed. A text that a spreadsheet
-/// would run as a formula stands behind an apostrophe.
-QByteArray mdTableAsCsv(const clsTable &table);
+/// A table as CSV: UTF-8, a line end of CR LF, quotes only where they are needed; for the clipboard tabs part the
+/// cells. A text that a spreadsheet would run as a formula stands behind an apostrophe.
+QByteArray mdTableAsCsv(const clsTable &table, char separator = ',');
 
 /// A text as it is written into a table: one that begins with "=", "+", "-" or "@" and is no number gets an apostrophe
 /// before it, and so does one that begins with apostrophes and such a character.

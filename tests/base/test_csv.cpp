@@ -16,6 +16,7 @@ TEST(Csv, QuotesStandOnlyWhereACellNeedsThem)
     EXPECT_EQ("\"a,b\",\"say \"\"so\"\"\",\"a\nb\",\"c\rd\", e ,f;g\th\r\n",
         mdCsvLine({"a,b", "say \"so\"", "a\nb", "c\rd", " e ", "f;g\th"}));
     EXPECT_EQ("\r\n", mdCsvLine({}));
+    EXPECT_EQ("a,b\t\"c\td\"\r\n", mdCsvLine({"a,b", "c\td"}, '\t'));
 }
 
 TEST(Csv, ATextThatWouldBeAFormulaIsMarked)

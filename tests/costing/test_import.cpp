@@ -281,6 +281,32 @@ TEST_F(Import, AColumnCanBeGivenAnotherMeaning)
     EXPECT_EQ(1u, rows.rows().size());
 }
 
+TEST_F(Import, AWrongCellCanBePutRight)
+{
+    claim.addItem(form.FeeEarner(1), "01:00")->dDate = "03/06/25"_q;
+    clsImportedRows rows = read("feeearner,code,time,date\nX,ACT,1:00,3/6/25\nAB,ACT"_q);
+    rows.setCell(form, 0, columnOf("feeearner"_q), "AB"_q);
+    EXPECT_FALSE(rows.rows()[0].isWrong());
+    EXPECT_EQ(1, rows.rows()[0].DoubleOf);
+    EXPECT_TRUE(rows.rows()[1].isWrong());
+    rows.setCell(form, 1, columnOf("time"_q), "soon"_q);
+    EXPECT_EQ(QStringList {"\"soon\" is no time"_q}, rows.rows()[1].reasons());
+    rows.setCell(form, 1, columnOf("time"_q), "2:00"_q);
+    EXPECT_EQ(2, rows.rows()[1].Number);
+    rows.setCell(form, 1, columnOf("description"_q), "a column that the table lacks"_q);
+    EXPECT_EQ(1, rows.appendTo(form));
+    EXPECT_EQ("02:00"_q, form.ScheduleOfTimeItem(2)->TTime());
+    EXPECT_EQ(QString(), form.ScheduleOfTimeItem(2)->Description());
+}
+
+TEST_F(Import, ATableWithTabsComesBackTheSame)
+{
+    claim.addItem(form.FeeEarner(2), "01:00")->Description = "a, \"b\"\r\n=c"_q;
+    const QByteArray tabs = mdTableAsCsv(*mdClaimTable(form, u"schedule"), '\t');
+    EXPECT_TRUE(tabs.contains("1\tDay, J\t\tACT\t\"a, \"\"b\"\"\r\n=c\"\t01:00\tno\t")) << tabs.constData();
+    EXPECT_EQ(1, read(mdTextOfTable(tabs)).rows().front().DoubleOf);
+}
+
 TEST_F(Import, WhatTheTableOfAClaimHoldsComesBackTheSame)
 {
     int items = 0;

@@ -24,6 +24,7 @@ TEST_F(Usage, WrongCommandLinesGetTheUsageAndStatusOne)
         {"check"_q, "--full"_q},
         {"totals"_q, "--full"_q, claim},
         {"check"_q, "--full"_q, claim, "--force"_q},
+        {"check"_q, "--full"_q, claim, "--doubles"_q},
         {"check"_q, "--full"_q, claim, "--today"_q},
         {"check"_q, "--full"_q, claim, "--today"_q, "03/06/25"_q},
         {"check"_q, "--full"_q, claim, "--today"_q, "2025-02-30"_q},

@@ -7,17 +7,20 @@ void clsConsoleUserInterface::tell(const QString &title, const QString &text)
     clearProgress();
     ++m_messageCount;
     const QString message = title + QStringLiteral(": ") + text;
-    if (m_messageCount == 1)
-        m_firstMessage = message;
-    else if (showsOnlyFirstMessage)
+    if (m_messageCount > 1 && showsOnlyFirstMessage)
         return;
-    mdPrint(stderr, m_before + message + QStringLiteral("\r\n"));
+    m_lastText = text;
+    const QString block = m_before + message + QStringLiteral("\r\n");
+    if (collectsIn)
+        *collectsIn += block;
+    else
+        mdPrint(stderr, block);
 }
 
 void clsConsoleUserInterface::beginSubject(const QString &before)
 {
     m_before = before;
-    m_firstMessage.clear();
+    m_lastText.clear();
     m_messageCount = 0;
 }
 

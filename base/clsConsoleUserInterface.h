@@ -10,11 +10,13 @@ public:
     bool showsProgress = true;
     /// Where one failure draws several messages after it, only the first tells anything.
     bool showsOnlyFirstMessage = false;
+    /// Where this is set, messages are added to it, their lines ending in CR LF, and not written.
+    QString *collectsIn = nullptr;
 
     /// From here on messages are about something else, with which they begin.
     void beginSubject(const QString &before);
-    /// The first message about it, as it was told; empty where there was none.
-    const QString &firstMessage() const { return m_firstMessage; }
+    /// The text of the last message about it that was told, without its title.
+    const QString &lastText() const { return m_lastText; }
     /// How many of the messages told of a failure.
     int failureCount() const { return m_failureCount; }
     /// Writes a block: the title, a colon, the text.
@@ -33,7 +35,7 @@ public:
 
 private:
     QString m_before;
-    QString m_firstMessage;
+    QString m_lastText;
     int m_messageCount = 0; ///< shown or not
     int m_failureCount = 0;
     bool m_progressStands = false;

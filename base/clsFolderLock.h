@@ -9,7 +9,9 @@ class QString;
 /// knows no such locks there is none. An error where another program doesn't let go in time.
 class clsFolderLock {
 public:
-    explicit clsFolderLock(const QString &folder);
+    enum class Wait { AWhile, NotAtAll };
+
+    explicit clsFolderLock(const QString &folder, Wait wait = Wait::AWhile);
     ~clsFolderLock();
     clsFolderLock(const clsFolderLock &) = delete;
     clsFolderLock &operator=(const clsFolderLock &) = delete;

@@ -13,7 +13,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-clsFolderLock::clsFolderLock(const QString &folder)
+clsFolderLock::clsFolderLock(const QString &folder, Wait wait)
     : m_folder(QFile::encodeName(folder))
     , m_descriptor(mdUninterrupted(
           [this] { return ::open(m_folder.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC); }))
@@ -21,7 +21,7 @@ clsFolderLock::clsFolderLock(const QString &folder)
     const auto until = std::chrono::steady_clock::now() + LongestWaitForLock;
     while (
         m_descriptor >= 0 && ::flock(m_descriptor, LOCK_EX | LOCK_NB) < 0 && (errno == EWOULDBLOCK || errno == EINTR)) {
-        if (std::chrono::steady_clock::now() >= until) {
+        if (wait == Wait::NotAtAll || std::chrono::steady_clock::now() >= until) {
             ::close(m_descriptor);
             throw clsRunTimeError(clsRunTimeError::PermissionDenied);
         }

@@ -41,6 +41,13 @@ void clsJsonWriter::text(const char *key, const QString &value)
     m_text += '"';
 }
 
+void clsJsonWriter::written(const char *key, QByteArray json)
+{
+    // No text of it holds a line feed: there it is escaped.
+    json.chop(json.endsWith('\n') ? 1 : 0);
+    raw(key, json.replace('\n', '\n' + QByteArray(m_depth, ' ')));
+}
+
 void clsJsonWriter::begin(const char *key)
 {
     if (!m_first)

@@ -17,6 +17,9 @@ public:
     void text(const char *key, const QString &value);
     void number(const char *key, int value) { raw(key, QByteArray::number(value)); }
     void decimal(const char *key, double value) { raw(key, QByteArray::number(value)); }
+    void nothing(const char *key) { raw(key, "null"); }
+    /// An object or a list that another writer has written.
+    void written(const char *key, QByteArray json);
     void boolean(const char *key, bool value) { raw(key, value ? "true" : "false"); }
 
     /// Makes room for so many bytes more: what is written in pieces would else be copied as it grows.

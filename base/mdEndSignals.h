@@ -19,6 +19,19 @@ private:
     std::unique_ptr<clsPipe> m_pipe;
 };
 
+/// The same requests wait while this object lives.
+class clsEndSignalsHeld {
+public:
+    clsEndSignalsHeld();
+    ~clsEndSignalsHeld();
+    clsEndSignalsHeld(const clsEndSignalsHeld &) = delete;
+    clsEndSignalsHeld &operator=(const clsEndSignalsHeld &) = delete;
+
+private:
+    struct clsMask;
+    std::unique_ptr<clsMask> m_before;
+};
+
 /// Has a write beyond the size that files may have here (on POSIX systems SIGXFSZ) fail with an error, which the user
 /// is told, as on a full disk. Otherwise the system ends the program on the spot.
 void MakeSizeLimitAnError();

@@ -93,6 +93,25 @@ clsEndSignalScope::clsEndSignalScope(std::function<void()> handler)
 
 clsEndSignalScope::~clsEndSignalScope() = default;
 
+struct clsEndSignalsHeld::clsMask {
+    sigset_t mask;
+};
+
+clsEndSignalsHeld::clsEndSignalsHeld()
+    : m_before(std::make_unique<clsMask>())
+{
+    sigset_t held;
+    sigemptyset(&held);
+    for (const int signal : EndSignals)
+        sigaddset(&held, signal);
+    ::sigprocmask(SIG_BLOCK, &held, &m_before->mask);
+}
+
+clsEndSignalsHeld::~clsEndSignalsHeld()
+{
+    ::sigprocmask(SIG_SETMASK, &m_before->mask, nullptr);
+}
+
 void MakeSizeLimitAnError()
 {
     std::signal(SIGXFSZ, SIG_IGN);

@@ -14,15 +14,25 @@ QString mdWithoutControls(QString text)
     return text;
 }
 
-void mdPrint(std::FILE *stream, const QString &text)
+QByteArray mdPrinted(std::FILE *stream, const QString &text)
 {
     // A line feed by itself is no end of a line: it comes from a file's name.
     QStringList lines = text.split(QStringLiteral("\r\n"));
     if (mdIsTerminal(stream))
         for (QString &line : lines)
             line = mdWithoutControls(line);
-    const QByteArray bytes = lines.join(u'\n').toUtf8();
+    return lines.join(u'\n').toUtf8();
+}
+
+void mdPrint(std::FILE *stream, const QString &text)
+{
+    const QByteArray bytes = mdPrinted(stream, text);
     std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stream);
+}
+
+void mdPrintBytes(const QByteArray &bytes)
+{
+    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout);
 }
 
 bool mdIsTerminal(std::FILE *stream)

@@ -33,6 +33,9 @@ CHECK_PRINT_TIME = 500
 # Of which the schedule and its notes alone come to about thirty and to about a thousand sheets.
 SHEET_ITEMS = {"few": 500, "many": 17000}
 PLACEHOLDERS = 40
+LISTED_CLAIMS = 1000
+LISTED_ITEMS = 200
+LIST_RUNS = 7
 # What comes within a tenth of a second of a key seems to come at once; beyond it the user notices that there is a wait.
 AT_ONCE = 100
 REPETITIONS = 9
@@ -209,6 +212,27 @@ def memory_row(build):
                f"held afterwards {full['held'] / 1024:.0f} MB")
 
 
+def list_row(build):
+    """A list of many claims against one process that only parses the same files, as the clock has them."""
+    with tempfile.TemporaryDirectory(dir="/dev/shm" if Path("/dev/shm").is_dir() else None) as folder:
+        first = Path(folder) / "0.zr3"
+        subprocess.run([build / "benchmarks" / "zr3-make-claim", str(LISTED_ITEMS), first], check=True)
+        for number in range(1, LISTED_CLAIMS):
+            shutil.copy(first, Path(folder) / f"{number}.zr3")
+
+        def seconds(*command):
+            begun = time.perf_counter()
+            subprocess.run(command, check=True, stdout=subprocess.DEVNULL)
+            return time.perf_counter() - begun
+
+        runs = [(seconds(build / "program" / "zr3tool", "list", "--csv", "--jobs", "2", folder),
+                 seconds(build / "benchmarks" / "zr3-parse-claims", folder)) for _ in range(LIST_RUNS)]
+    ours, floor = (statistics.median(times) for times in zip(*runs))
+    row(f"List of {LISTED_CLAIMS:,} claims of {LISTED_ITEMS} items to parsing them", ours / floor, 2,
+        detail=f"{ours * 1000:.0f} ms in two processes against {floor * 1000:.0f} ms in one; "
+               f"{LISTED_CLAIMS / ours:,.0f} claims a second")
+
+
 def start_row(build):
     """From the start of the process to a window that waits for its user, as the clock has it."""
     # The toolkit's own screen is so small that the sheet follows the window's width and is drawn a second time.
@@ -282,6 +306,7 @@ def main(build):
     for form in SAMPLES:
         writer_row(build, form)
     memory_row(build)
+    list_row(build)
     start_row(build)
     screen_rows(build, medians)
     widths = [max(len(line[i]) for line in rows) for i in range(3)]

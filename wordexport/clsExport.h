@@ -58,6 +58,11 @@ struct clsExport {
 
     /// The name of the finished document, without its ending.
     QString documentName = form.FormType();
+    /// The folder of the sheets, below the export folder. Exports of one name there take turns.
+    QString tempFolderName = QStringLiteral("~ZR3Temp");
+    /// Other exports work in the export folder at the same time, in folders of their own: the document gets its name in
+    /// a turn with theirs.
+    bool sharesFolder = false;
 
     /// A sheet that could not be opened, saved or joined is passed over, as every failure of the word processor: the
     /// user has been told. With this set the export stops there instead, and no document comes out: for callers who

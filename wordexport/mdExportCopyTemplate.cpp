@@ -51,7 +51,7 @@ QString mdExportCopyTemplate(clsExport &run, const QString &templateName, const 
 {
     WriteLog(QStringLiteral("Begin Export Copy Template"));
     const QString fileName = templateName + QStringLiteral(".doc");
-    const QString path = QStringLiteral("%1/%2.doc").arg(mdExportTempFolder(run.exportFolder), sheetName);
+    const QString path = QStringLiteral("%1/%2.doc").arg(mdExportTempFolder(run), sheetName);
     const clsTemplate &original = templateOf(run, fileName);
     if (!run.inMemory)
         mdWriteWorkingFile(path, original.bytes);

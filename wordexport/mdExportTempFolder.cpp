@@ -5,6 +5,7 @@
 #include "base/mdCustomMessages.h"
 #include "base/mdLog.h"
 #include "base/mdSystemErrorCode.h"
+#include "wordexport/clsExport.h"
 
 #include <filesystem>
 #include <vector>
@@ -12,11 +13,6 @@
 namespace {
 
 namespace fs = std::filesystem;
-
-fs::path folderOf(const QString &exportFolder)
-{
-    return mdExportTempFolder(exportFolder).toStdString();
-}
 
 fs::file_type typeOf(const fs::path &path)
 {
@@ -72,16 +68,15 @@ std::shared_ptr<clsFolderLock> locked(const QString &folder)
 
 } // namespace
 
-QString mdExportTempFolder(const QString &exportFolder)
+QString mdExportTempFolder(const clsExport &run)
 {
-    return exportFolder + QStringLiteral("/~ZR3Temp");
+    return run.exportFolder + u'/' + run.tempFolderName;
 }
 
-std::shared_ptr<clsFolderLock> mdCreateExportTempFolder(const QString &exportFolder)
+std::shared_ptr<clsFolderLock> mdCreateExportTempFolder(const QString &path)
 {
     WriteLog(QStringLiteral("Begin Create Export Temp Folder"));
-    const QString path = mdExportTempFolder(exportFolder);
-    const fs::path folder = folderOf(exportFolder);
+    const fs::path folder = path.toStdString();
     refuseForeignFolder(folder);
     std::shared_ptr<clsFolderLock> lock;
     // The export that was waited for takes its folder with it.
@@ -91,7 +86,7 @@ std::shared_ptr<clsFolderLock> mdCreateExportTempFolder(const QString &exportFol
         if (!lock)
             return lock;
     } while (!lock->isOfWhatIsThere());
-    mdClearExportTempFolder(exportFolder, false);
+    mdClearExportTempFolder(path, false);
     // One that was left behind may be open to others. A file system without permissions is no reason to stop.
     std::error_code error;
     do
@@ -101,14 +96,24 @@ std::shared_ptr<clsFolderLock> mdCreateExportTempFolder(const QString &exportFol
     return lock;
 }
 
-void mdClearExportTempFolder(const QString &exportFolder, bool deleteFolder)
+void mdClearExportTempFolder(const QString &path, bool deleteFolder)
 {
     WriteLog(QStringLiteral("Begin Clear Export Temp Folder"));
-    const fs::path folder = folderOf(exportFolder);
+    const fs::path folder = path.toStdString();
     refuseForeignFolder(folder);
     for (const fs::path &file : filesIn(folder))
         removeOne(file);
     if (deleteFolder)
         removeOne(folder);
     WriteLog(QStringLiteral("End Clear Export Temp Folder"));
+}
+
+void mdSweepExportTempFolder(const QString &path)
+{
+    try {
+        if (!FileSystem().FolderExists(path))
+            return;
+        const clsFolderLock lock(path, clsFolderLock::Wait::NotAtAll);
+        mdClearExportTempFolder(path, true);
+    } catch (const clsRunTimeError &) { }
 }

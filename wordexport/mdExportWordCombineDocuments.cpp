@@ -2,6 +2,8 @@
 
 #include "base/clsFileSystem.h"
 #include "base/clsRunTimeError.h"
+#include "base/clsWriteLock.h"
+#include "base/mdEndSignals.h"
 #include "base/mdLog.h"
 #include "base/mdSetProgress.h"
 #include "base/mdShortenedName.h"
@@ -14,6 +16,15 @@
 
 #include <QFileInfo>
 
+namespace {
+
+QString numberInName(int number)
+{
+    return number > 1 ? QStringLiteral(" (%1)").arg(number) : QString();
+}
+
+} // namespace
+
 QString mdFinishedDocumentPath(const QString &exportFolder, const QString &name)
 {
     return QStringLiteral("%1/%2.doc").arg(exportFolder, name);
@@ -24,11 +35,21 @@ QString mdFinishedDocumentPath(const clsExport &run)
     return mdFinishedDocumentPath(run.exportFolder, run.documentName);
 }
 
-QString mdDocumentNameByFile(const QString &claimFile, const QString &formType)
+QString mdNameByFile(const QString &claimFile)
 {
-    constexpr qsizetype LongestName = 230; // bytes: the form type and the ending come to it, and names end at 255
-    const QString name = QFileInfo(claimFile).completeBaseName();
-    return mdShortenedName(name, LongestName) + u' ' + formType;
+    // Bytes: names end at 255, and to it come the form type, the number and the ending, or what a folder begins with.
+    constexpr qsizetype LongestName = 230;
+    return mdShortenedName(QFileInfo(claimFile).completeBaseName(), LongestName);
+}
+
+QString mdDocumentNameByFile(const QString &claimFile, const QString &formType, int number)
+{
+    return mdNameByFile(claimFile) + u' ' + formType + numberInName(number);
+}
+
+QString mdTempFolderNameByFile(const QString &claimFile, int number)
+{
+    return QStringLiteral("~ZR3Temp ") + mdNameByFile(claimFile) + numberInName(number);
 }
 
 void mdStopAtExistingDocument(clsExport &run)
@@ -39,10 +60,33 @@ void mdStopAtExistingDocument(clsExport &run)
     throw clsExportStopped();
 }
 
+namespace {
+
+void putInPlace(clsExport &run, const QString &joined)
+{
+    mdStopAtExistingDocument(run);
+    const QString finished = mdFinishedDocumentPath(run);
+    try {
+        mdPutDocumentInPlace(joined, finished, run.claimFile, ZipLimits::PackageBytes);
+    } catch (const clsRunTimeError &error) {
+        throw error.because(QStringLiteral("The document can't be written: ") + finished);
+    }
+}
+
+/// The same while no other export puts its own there. A request to end comes when it is done: the turn leaves no file.
+void putInPlaceInTurn(clsExport &run, const QString &joined)
+{
+    const clsEndSignalsHeld held;
+    const clsWriteLock turn(mdFinishedDocumentPath(run));
+    putInPlace(run, joined);
+}
+
+} // namespace
+
 void mdExportWordCombineDocuments(clsExport &run)
 {
     WriteLog(QStringLiteral("Begin Export Word Combine Documents"));
-    const QString folder = mdExportTempFolder(run.exportFolder);
+    const QString folder = mdExportTempFolder(run);
     const QString joined = folder + QStringLiteral("/Joined.doc");
     // The first sheet is always page 1's, and its name is taken for granted.
     const QString first = folder + QStringLiteral("/1(1).doc");
@@ -65,12 +109,9 @@ void mdExportWordCombineDocuments(clsExport &run)
     if (word.isOpen())
         throw clsExportStopped();
     word.Quit();
-    mdStopAtExistingDocument(run);
-    const QString finished = mdFinishedDocumentPath(run);
-    try {
-        mdPutDocumentInPlace(joined, finished, run.claimFile, ZipLimits::PackageBytes);
-    } catch (const clsRunTimeError &error) {
-        throw error.because(QStringLiteral("The document can't be written: ") + finished);
-    }
+    if (run.sharesFolder)
+        putInPlaceInTurn(run, joined);
+    else
+        putInPlace(run, joined);
     WriteLog(QStringLiteral("End Export Word Combine Documents"));
 }

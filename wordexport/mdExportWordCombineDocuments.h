@@ -8,8 +8,13 @@ struct clsExport;
 QString mdFinishedDocumentPath(const QString &exportFolder, const QString &name);
 QString mdFinishedDocumentPath(const clsExport &run);
 
-/// The name of a document of that form type that is named after its claim's file.
-QString mdDocumentNameByFile(const QString &claimFile, const QString &formType);
+/// What a document that is named after its claim's file begins with; two claims of one such name can be told apart by
+/// a number.
+QString mdNameByFile(const QString &claimFile);
+/// The name of such a document of that form type.
+QString mdDocumentNameByFile(const QString &claimFile, const QString &formType, int number = 1);
+/// The name of the folder of its sheets, where other exports work in the same folder.
+QString mdTempFolderNameByFile(const QString &claimFile, int number);
 
 /// Ends an export that may not replace a document where there is one.
 void mdStopAtExistingDocument(clsExport &run);

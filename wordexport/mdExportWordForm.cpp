@@ -24,7 +24,7 @@ void exportPage(clsExport &run, const clsExportPageRow &page)
 std::shared_ptr<clsFolderLock> folderOfSheets(const clsExport &run)
 {
     try {
-        return mdCreateExportTempFolder(run.exportFolder);
+        return mdCreateExportTempFolder(mdExportTempFolder(run));
     } catch (const clsRunTimeError &error) {
         throw error.because(QStringLiteral("The sheets can't be written to the folder ") + run.exportFolder);
     }
@@ -54,7 +54,7 @@ void exportSheets(clsExport &run, const clsExportForm &form)
 void sweep(const clsExport &run)
 {
     try {
-        mdClearExportTempFolder(run.exportFolder, true);
+        mdClearExportTempFolder(mdExportTempFolder(run), true);
     } catch (const clsRunTimeError &) { }
 }
 

@@ -9,6 +9,8 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
+#include <vector>
 
 class clsClaimCheck;
 
@@ -89,13 +91,19 @@ public:
 private:
     template <class Items> static auto inOrder(const Items &items)
     {
-        std::vector<const typename Items::value_type::element_type *> result;
-        result.reserve(items.size());
+        using Item = const typename Items::value_type::element_type;
+        // Each order is read once; that of a single item is nobody's concern here.
+        std::vector<std::pair<int, Item *>> byOrder;
+        byOrder.reserve(items.size());
         for (const auto &item : items)
-            result.push_back(item.get());
-        const auto before = [](const auto *left, const auto *right) { return left->OrderID() < right->OrderID(); };
-        if (!std::is_sorted(result.begin(), result.end(), before))
-            std::stable_sort(result.begin(), result.end(), before);
+            byOrder.emplace_back(items.size() > 1 ? item->OrderID() : 0, item.get());
+        const auto before = [](const auto &left, const auto &right) { return left.first < right.first; };
+        if (!std::is_sorted(byOrder.begin(), byOrder.end(), before))
+            std::stable_sort(byOrder.begin(), byOrder.end(), before);
+        std::vector<Item *> result;
+        result.reserve(byOrder.size());
+        for (const auto &[order, item] : byOrder)
+            result.push_back(item);
         return result;
     }
 

@@ -12,23 +12,28 @@ struct clsDated {
     std::optional<QDate> date;
 };
 
-/// The items on the bill, counsel's fees and the hearings of the advocacy scheme.
-template <class Look> void eachDated(clsClaimCheck &check, Look look)
+/// Those of the items on the bill, counsel's fees and the hearings of the advocacy scheme whose dates are wrong. What
+/// they are called is worked out for these alone.
+template <class IsWrong, class Look> void eachWrongDate(clsClaimCheck &check, IsWrong isWrong, Look look)
 {
     check.eachBilled([&](const clsBilledItem &billed) {
-        look(clsDated {{ScheduleScreen, "schedule", billed.order, QStringLiteral("dDate")},
-            QStringLiteral("Item %1").arg(billed.order), billed.date});
+        if (isWrong(billed.date))
+            look(clsDated {{ScheduleScreen, "schedule", billed.order, QStringLiteral("dDate")},
+                QStringLiteral("Item %1").arg(billed.order), billed.date});
     });
     check.each(check.form().DisbursementsCollection(), [&](const clsZR3Disbursement &fee, int order) {
-        if (fee.Counsel())
-            look(clsDated {{DisbursementsScreen, "disbursements", order, QStringLiteral("DateOfWork")}, mdInWords(fee),
-                mdStoredDate(fee.DateOfWork())});
+        if (!fee.Counsel())
+            return;
+        if (const auto date = mdStoredDate(fee.DateOfWork()); isWrong(date))
+            look(clsDated {
+                {DisbursementsScreen, "disbursements", order, QStringLiteral("DateOfWork")}, mdInWords(fee), date});
     });
     if (!check.isClaim1A())
         return;
     check.each(check.form().FASItemsCollection(), [&](const clsZR3FASItem &item, int order) {
-        look(clsDated {{AdvocacyScreen, "fas", order, QStringLiteral("dDate")},
-            QStringLiteral("FAS item %1").arg(order), mdStoredDate(item.dDate())});
+        if (const auto date = mdStoredDate(item.dDate()); isWrong(date))
+            look(clsDated {{AdvocacyScreen, "fas", order, QStringLiteral("dDate")},
+                QStringLiteral("FAS item %1").arg(order), date});
     });
 }
 
@@ -64,20 +69,22 @@ std::optional<QDate> certificateOf(const clsClaimCheck &check)
 
 void mdCheckDateMissing(clsClaimCheck &check)
 {
-    eachDated(check, [&](const clsDated &dated) {
-        if (!dated.date)
+    eachWrongDate(
+        check, [](const std::optional<QDate> &date) { return !date; },
+        [&](const clsDated &dated) {
             check.add(dated.place, dated.name + QStringLiteral(" has no date: enter the day of the work."));
-    });
+        });
 }
 
 void mdCheckDateFuture(clsClaimCheck &check)
 {
-    eachDated(check, [&](const clsDated &dated) {
-        if (dated.date && *dated.date > check.facts().Today)
+    eachWrongDate(
+        check, [&](const std::optional<QDate> &date) { return date && *date > check.facts().Today; },
+        [&](const clsDated &dated) {
             check.add(dated.place,
                 QStringLiteral("%1 is dated after today, %2: correct the date.")
                     .arg(mdWithApposition(dated.name, DateText(*dated.date)), DateText(check.facts().Today)));
-    });
+        });
 }
 
 void mdCheckDateBeforeCertificate(clsClaimCheck &check)

@@ -65,6 +65,12 @@ private:
     QHash<QString, const clsZR3FeeEarner *> m_earners;
 };
 
+/// The same number for items that share earner, day and minutes.
+size_t shortLikenessOf(const clsBilledItem &billed)
+{
+    return qHashMulti(0, billed.item->FeeEarnerUniqueID(), billed.date->toJulianDay(), billed.price->Minutes);
+}
+
 /// What two entries of one piece of work have in common.
 QStringList likenessOf(const clsBilledItem &billed)
 {
@@ -155,9 +161,18 @@ void mdCheckDayHours(clsClaimCheck &check)
 
 void mdCheckDoubleEntry(clsClaimCheck &check)
 {
+    // Few items share earner, day and minutes: the rest is read of those only.
+    QHash<size_t, int> sharers;
+    const auto eachWithTime = [&](auto look) {
+        check.eachBilled([&](const clsBilledItem &billed) {
+            if (billed.date && billed.hasTime())
+                look(billed, sharers[shortLikenessOf(billed)]);
+        });
+    };
+    eachWithTime([](const clsBilledItem &, int &count) { ++count; });
     QHash<QStringList, int> earlier;
-    check.eachBilled([&](const clsBilledItem &billed) {
-        if (!billed.date || !billed.hasTime())
+    eachWithTime([&](const clsBilledItem &billed, int count) {
+        if (count < 2)
             return;
         const QStringList likeness = likenessOf(billed);
         const auto known = earlier.constFind(likeness);

@@ -88,9 +88,9 @@ def figures(text):
 
 
 def message_text(text):
-    """{words in braces} stand for what differs from case to case."""
-    paragraphs = [re.sub(r"\{(.+?)\}", r"<i>\1</i>", escaped(part)).replace("\n", "<br>")
-                  for part in text.strip().split("\n\n")]
+    """{words in braces} stand for what differs from case to case. An option of zr3tool stays on one line."""
+    paragraphs = [re.sub(r"\{(.+?)\}", r"<i>\1</i>", re.sub("--[a-z-]+", r'<span class="option">\g<0></span>',
+                         escaped(part))).replace("\n", "<br>") for part in text.strip().split("\n\n")]
     return "".join(f"<p>{part}</p>" for part in paragraphs)
 
 

@@ -1,24 +1,56 @@
 #include "programs/zr3tool/clsToolCommand.h"
 
+#include "base/mdClock.h"
+#include "costing/tables/mdTableColumns.h"
+
 #include <QCommandLineParser>
 
 #include <algorithm>
 
 namespace {
 
+/// The groups of options that a command may have.
+enum OptionGroup : unsigned {
+    NoOptions = 0,
+    ExportOptions = 1,
+    JsonOption = 2,
+    ImportOptions = 4,
+    TodayOption = 8,
+    CsvOption = 16,
+    ManyOptions = 32, ///< of commands that take several claims
+};
+
 struct VerbRow {
     const char *word;
     clsToolCommand::Verb verb;
     int paths; ///< how many paths follow the word
+    unsigned options = NoOptions;
 };
 
 constexpr VerbRow Verbs[] = {
-    {"totals", clsToolCommand::Totals, 1},
-    {"export", clsToolCommand::Export, 2},
-    {"check", clsToolCommand::Check, 1},
     {"save", clsToolCommand::Save, 2},
-    {"why", clsToolCommand::Why, 3},
-    {"forecast", clsToolCommand::Forecast, 1},
+    // Its result is JSON with the option or without it.
+    {"why", clsToolCommand::Why, 3, JsonOption},
+    {"forecast", clsToolCommand::Forecast, 1, JsonOption},
+    {"diff", clsToolCommand::Diff, 2, JsonOption},
+    {"table", clsToolCommand::Table, 2},
+    {"import", clsToolCommand::Import, 2, ImportOptions},
+};
+
+/// The commands that take as many claims and folders as there are.
+struct ManyRow {
+    const char *word;
+    bool isFull; ///< with the option of that name
+    clsToolCommand::Verb verb;
+    unsigned options;
+};
+
+constexpr ManyRow ManyVerbs[] = {
+    {"totals", false, clsToolCommand::Totals, ManyOptions},
+    {"check", false, clsToolCommand::Check, ManyOptions},
+    {"check", true, clsToolCommand::CheckFull, ManyOptions | JsonOption | TodayOption},
+    {"list", false, clsToolCommand::List, ManyOptions | JsonOption | TodayOption | CsvOption},
+    {"export", false, clsToolCommand::Export, ManyOptions | ExportOptions},
 };
 
 const QString Force = QStringLiteral("force");
@@ -30,58 +62,117 @@ const QString Json = QStringLiteral("json");
 const QString Today = QStringLiteral("today");
 const QString Pdf = QStringLiteral("pdf");
 const QString NameByFile = QStringLiteral("name-by-file");
+const QString Csv = QStringLiteral("csv");
+const QString JsonLines = QStringLiteral("jsonl");
+const QString Newer = QStringLiteral("newer");
+const QString Jobs = QStringLiteral("jobs");
+const QString Items = QStringLiteral("items");
+const QString Map = QStringLiteral("map");
+const QString Doubles = QStringLiteral("doubles");
 const QString HelpOption = QStringLiteral("help");
 const QString VersionOption = QStringLiteral("version");
 
 void addOptions(QCommandLineParser &parser)
 {
     parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsOptions);
-    for (const QString &flag : {Force, KeepSheets, Quiet, Pdf, NameByFile, Full, Json, HelpOption, VersionOption})
+    for (const QString &flag : {Force, KeepSheets, Quiet, Pdf, NameByFile, Newer, Full, Json, Csv, JsonLines, Doubles,
+             HelpOption, VersionOption})
         parser.addOption(QCommandLineOption(flag));
     parser.addOption(QCommandLineOption(Templates, QString(), QStringLiteral("DIR")));
+    parser.addOption(QCommandLineOption(Items, QString(), QStringLiteral("ROWS")));
+    parser.addOption(QCommandLineOption(Map, QString(), QStringLiteral("NAME=COLUMN")));
+    parser.addOption(QCommandLineOption(Jobs, QString(), QStringLiteral("N")));
     parser.addOption(QCommandLineOption(Today, QString(), QStringLiteral("DAY")));
 }
 
-bool hasExportOptions(const QCommandLineParser &parser)
+unsigned optionsOf(const QCommandLineParser &parser)
 {
-    return parser.isSet(Force) || parser.isSet(Templates) || parser.isSet(KeepSheets) || parser.isSet(Quiet)
-        || parser.isSet(Pdf) || parser.isSet(NameByFile);
+    const auto group = [&](OptionGroup of, const QStringList &options) {
+        return std::any_of(options.begin(), options.end(), [&](const QString &option) { return parser.isSet(option); })
+            ? of
+            : NoOptions;
+    };
+    return group(ExportOptions, {Force, Templates, KeepSheets, Quiet, Pdf, NameByFile, Newer})
+        | group(JsonOption, {Json}) | group(CsvOption, {Csv}) | group(TodayOption, {Today})
+        | group(ManyOptions, {JsonLines, Jobs}) | group(ImportOptions, {Items, Map, Doubles});
 }
 
-/// `check --full`, which takes as many claims as there are and has options of its own.
-std::optional<clsToolCommand> fullCheckOf(const QCommandLineParser &parser, const QStringList &words)
+/// Adds the options of an import; false where they are wrong.
+bool addImport(clsToolCommand &command, const QCommandLineParser &parser)
 {
-    clsToolCommand command;
-    command.verb = clsToolCommand::CheckFull;
-    command.claims = words.mid(1);
-    command.json = parser.isSet(Json);
-    if (words.value(0) != QLatin1String("check") || command.claims.isEmpty() || hasExportOptions(parser))
-        return {};
+    command.items = parser.value(Items);
+    command.doubles = parser.isSet(Doubles);
+    for (const QString &map : parser.values(Map)) {
+        // The name in the table may hold the sign too.
+        const qsizetype sign = map.lastIndexOf(u'=');
+        if (sign < 1 || mdColumnOf(mdScheduleColumns(), map.mid(sign + 1)) < 0)
+            return false;
+        command.columns.emplace_back(map.left(sign), map.mid(sign + 1));
+    }
+    return !command.items.isEmpty();
+}
+
+/// Reads the values that an option of several claims has; false where one is wrong.
+bool addValues(clsToolCommand &command, const QCommandLineParser &parser)
+{
     for (const QString &day : parser.values(Today)) {
         command.today = QDate::fromString(day, QStringLiteral("yyyy-MM-dd"));
         if (!command.today.isValid())
-            return {};
+            return false;
     }
+    for (const QString &number : parser.values(Jobs)) {
+        constexpr int Most = 1000;
+        bool isNumber = false;
+        command.jobs = number.toInt(&isNumber);
+        if (!isNumber || command.jobs < 1 || command.jobs > Most)
+            return false;
+    }
+    command.templates = parser.value(Templates);
+    // As from a variable of a script that was never set: the program's own templates are not what was asked for.
+    return !parser.values(Templates).contains(QString());
+}
+
+std::optional<clsToolCommand> manyCommandOf(const ManyRow &row, const QCommandLineParser &parser)
+{
+    clsToolCommand command;
+    command.verb = row.verb;
+    command.claims = parser.positionalArguments().mid(1);
+    if (row.verb == clsToolCommand::Export && !command.claims.isEmpty())
+        command.target = command.claims.takeLast();
+    const int forms = int(parser.isSet(Json)) + int(parser.isSet(Csv)) + int(parser.isSet(JsonLines));
+    if (command.claims.isEmpty() || forms > 1 || !addValues(command, parser))
+        return {};
+    command.claim = command.claims.front();
+    command.json = parser.isSet(Json);
+    command.csv = parser.isSet(Csv);
+    command.jsonLines = parser.isSet(JsonLines);
+    command.force = parser.isSet(Force);
+    command.keepSheets = parser.isSet(KeepSheets);
+    command.quiet = parser.isSet(Quiet);
+    command.pdf = parser.isSet(Pdf);
+    command.nameByFile = parser.isSet(NameByFile);
+    command.newer = parser.isSet(Newer);
     return command;
+}
+
+template <class Rows, class IsIt> auto rowOf(const Rows &rows, IsIt isIt)
+{
+    const auto *row = std::find_if(std::begin(rows), std::end(rows), isIt);
+    return row == std::end(rows) ? nullptr : row;
 }
 
 std::optional<clsToolCommand> commandOf(const QCommandLineParser &parser)
 {
     const QStringList words = parser.positionalArguments();
-    if (parser.isSet(Full))
-        return fullCheckOf(parser, words);
-    if (parser.isSet(Today))
+    const QString word = words.value(0);
+    if (const ManyRow *row = rowOf(ManyVerbs, [&](const ManyRow &candidate) {
+            return word == QLatin1String(candidate.word) && parser.isSet(Full) == candidate.isFull;
+        }))
+        return optionsOf(parser) & ~row->options ? std::nullopt : manyCommandOf(*row, parser);
+    const VerbRow *row = rowOf(Verbs, [&](const VerbRow &candidate) { return word == QLatin1String(candidate.word); });
+    if (!row || words.size() != row->paths + 1 || parser.isSet(Full))
         return {};
-    const auto *row = std::find_if(std::begin(Verbs), std::end(Verbs),
-        [&](const VerbRow &candidate) { return !words.isEmpty() && words.first() == QLatin1String(candidate.word); });
-    if (row == std::end(Verbs) || words.size() != row->paths + 1)
-        return {};
-    if (row->verb != clsToolCommand::Export && hasExportOptions(parser))
-        return {};
-    if (parser.isSet(Json) && row->verb != clsToolCommand::Forecast && row->verb != clsToolCommand::Why)
-        return {};
-    // As from a variable of a script that was never set: the program's own templates are not what was asked for.
-    if (parser.values(Templates).contains(QString()))
+    if (optionsOf(parser) & ~row->options)
         return {};
     clsToolCommand command;
     command.verb = row->verb;
@@ -91,18 +182,27 @@ std::optional<clsToolCommand> commandOf(const QCommandLineParser &parser)
         command.which = words[3];
         return command;
     }
-    command.target = words.value(2);
-    command.force = parser.isSet(Force);
-    command.keepSheets = parser.isSet(KeepSheets);
-    command.quiet = parser.isSet(Quiet);
-    command.pdf = parser.isSet(Pdf);
-    command.nameByFile = parser.isSet(NameByFile);
     command.json = parser.isSet(Json);
-    command.templates = parser.value(Templates);
+    if (row->verb == clsToolCommand::Table) {
+        command.which = words[2];
+        return command;
+    }
+    if (row->verb == clsToolCommand::Import && !addImport(command, parser))
+        return {};
+    if (row->verb == clsToolCommand::Diff) {
+        command.claims = words.mid(1);
+        return command;
+    }
+    command.target = words.value(2);
     return command;
 }
 
 } // namespace
+
+QDate clsToolCommand::dayOfCheck() const
+{
+    return today.isValid() ? today : Now().date();
+}
 
 std::optional<clsToolCommand> clsToolCommand::read(const QStringList &arguments)
 {
@@ -126,34 +226,55 @@ QString clsToolCommand::usage()
 {
     return QStringLiteral(
         "Usage:\n"
-        "  zr3tool totals CLAIM           every figure of the bill, as JSON\n"
-        "  zr3tool export CLAIM FOLDER    the finished document into FOLDER\n"
-        "  zr3tool check  CLAIM           the blank items check\n"
-        "  zr3tool check  --full CLAIM... what is to be put right before a claim is sent\n"
+        "  zr3tool list   PATH...         one line for each claim: who, what, how much, what is wrong\n"
+        "  zr3tool totals PATH...         every figure of the bill, as JSON\n"
+        "  zr3tool export PATH... FOLDER  the finished documents into FOLDER\n"
+        "  zr3tool check  PATH...         the blank items check\n"
+        "  zr3tool check  --full PATH...  what is to be put right before a claim is sent\n"
         "  zr3tool save   CLAIM NEWFILE   brings the claim up to date and writes it to NEWFILE\n"
         "  zr3tool forecast CLAIM         the sheets and what doesn't fit its box, before any export\n"
         "  zr3tool why    CLAIM KIND N    how one figure comes about, as JSON; KIND and N are\n"
         "                                 schedule and an item's order, communications and KIND/LINE,\n"
         "                                 fas and an order, total and a key of totals, list and a column\n"
+        "  zr3tool diff   OLD NEW         what changed between two claims, or two folders of claims\n"
+        "  zr3tool table  CLAIM LIST      a list of the claim as CSV; LIST is schedule, disbursements, experts, "
+        "joint,\n"
+        "                                 fas, communications, counsel, feeearners, groups, enhancements or totals\n"
+        "  zr3tool import CLAIM NEWFILE   adds the schedule items of a table and writes the claim to NEWFILE\n"
         "  zr3tool --help | --version\n"
         "\n"
-        "Options of check --full (it takes folders too):\n"
-        "  --json             the findings as JSON\n"
+        "PATH is a claim, or a folder, which stands for all claims below it. One claim prints its own\n"
+        "result; a folder, or several paths, print a list.\n"
+        "\n"
+        "Options of all commands that take several claims:\n"
+        "  --jsonl            print each claim's result as one line of JSON as soon as its turn has come\n"
+        "  --jobs N           work on N claims at a time; without it, as many as there are processors\n"
+        "\n"
+        "Options of list and check --full:\n"
+        "  --json             print it as JSON\n"
+        "  --csv              print it as CSV (list only)\n"
         "  --today DAY        another day than today's, as YYYY-MM-DD\n"
         "\n"
         "Options of export:\n"
         "  --force            replace an existing document\n"
+        "  --newer            pass by a claim whose document is newer than itself\n"
         "  --templates DIR    the folder of the page templates\n"
         "  --keep-sheets      leave the folder ~ZR3Temp with its sheets\n"
         "  --quiet            show no progress\n"
         "  --pdf              make the same as PDF beside the document\n"
-        "  --name-by-file     name the document after the claim's file\n"
+        "  --name-by-file     name the document after the claim's file, as with several claims\n"
         "\n"
-        "Option of forecast:\n"
+        "Option of forecast and diff:\n"
         "  --json             print it as JSON\n"
         "\n"
-        "Exit status: 0 done; 1 wrong usage; 2 the claim can't be read; 3 blank items found, or an error or\n"
-        "a warning by check --full; 4 a figure can't be computed, the export failed or would fail, or the PDF\n"
-        "could not be made; 5 the document or the PDF exists already.\n"
+        "Options of import:\n"
+        "  --items TABLE      the table: CSV or separated by semicolons or tabs, with a header\n"
+        "  --map NAME=COLUMN  what a column is called in the table, such as \"Activity=code\"\n"
+        "  --doubles          add rows too that the claim has already\n"
+        "\n"
+        "Exit status, of several claims the greatest: 0 done; 1 wrong usage; 2 a claim or a table can't be read;\n"
+        "3 blank items found, an error or a warning by check --full, two claims differ, or a row of a table is\n"
+        "wrong; 4 a figure can't be computed, the export failed or would fail, or the PDF could not be made;\n"
+        "5 the document or the PDF exists already.\n"
         "A box whose text is no amount is told of and left as it is; the document is made all the same.\n");
 }

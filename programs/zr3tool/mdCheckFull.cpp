@@ -2,18 +2,15 @@
 
 #include "base/clsConsoleUserInterface.h"
 #include "base/clsJsonWriter.h"
-#include "base/mdClock.h"
 #include "base/mdPrint.h"
 #include "base/mdProgramFolder.h"
 #include "costing/checking/mdCheckClaim.h"
 #include "costing/checking/mdWhy.h"
 #include "formdata/clsZR3Form.h"
-#include "programs/zr3tool/mdClaimPaths.h"
+#include "programs/zr3tool/mdClaimSteps.h"
 #include "wordexport/clsForecast.h"
 #include "wordexport/mdBoxesToCheck.h"
 #include "wordexport/mdForecast.h"
-
-#include <QFileInfo>
 
 #include <algorithm>
 
@@ -21,25 +18,16 @@ namespace {
 
 using Status = clsExitStatus;
 
-/// What the look through a claim came to.
-struct clsCheckedClaim {
-    QString path;
-    Status status = Status::Done;
-    QString error {}; ///< why it can't be read
-    clsFindings findings {};
-};
+} // namespace
 
-clsCheckedClaim checked(const QString &path, const clsToolCommand &command, const clsConsoleUserInterface &console,
-    const clsClaimReader &read)
+clsCheckedClaim mdCheckedClaim(clsConsoleUserInterface &console, const clsToolCommand &command, const QString &path)
 {
-    clsCheckedClaim claim {.path = path};
+    clsCheckedClaim claim;
     clsZR3Form form;
-    claim.status = read(form, path);
-    if (claim.status != Status::Done) {
-        claim.error = console.firstMessage();
+    claim.status = mdLoadClaim(console, form, path, clsSoundness::InSome);
+    if (claim.status != Status::Done)
         return claim;
-    }
-    clsCheckFacts facts {.Today = command.today.isValid() ? command.today : Now().date()};
+    clsCheckFacts facts {.Today = command.dayOfCheck()};
     facts.CostsLimit = mdStoredCostsLimit(form);
     facts.Boxes = mdBoxesToCheck(mdForecast(form, TemplatesFolder()));
     claim.findings = mdCheckClaim(form, facts);
@@ -49,75 +37,53 @@ clsCheckedClaim checked(const QString &path, const clsToolCommand &command, cons
     return claim;
 }
 
-void writeClaim(clsJsonWriter &json, const clsCheckedClaim &claim)
+void mdWriteFindings(clsJsonWriter &json, const clsFindings &findings)
 {
-    json.beginObject();
-    json.text("Path", claim.path);
-    if (claim.status == Status::NoClaim) {
-        json.text("Error", claim.error);
-    } else {
-        json.beginArray("Findings");
-        for (const clsFinding &finding : claim.findings) {
-            json.beginObject();
-            json.text("Rule", finding.Rule);
-            json.text("Level", mdLevelInWords(finding.Level));
-            json.text("Screen", finding.Screen);
-            json.text("List", finding.List);
-            json.number("Item", finding.Item);
-            json.text("Property", finding.Property);
-            json.text("Text", finding.Text);
-            json.endObject();
-        }
-        json.endArray();
+    json.beginArray("Findings");
+    for (const clsFinding &finding : findings) {
+        json.beginObject();
+        json.text("Rule", finding.Rule);
+        json.text("Level", mdLevelInWords(finding.Level));
+        json.text("Screen", finding.Screen);
+        json.text("List", finding.List);
+        json.number("Item", finding.Item);
+        json.text("Property", finding.Property);
+        json.text("Text", finding.Text);
+        json.endObject();
     }
-    json.endObject();
+    json.endArray();
 }
 
-void printBytes(const QByteArray &bytes)
+QString mdFindingsInLines(const clsFindings &findings, const QString &before)
 {
-    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout);
-}
-
-/// One line for each finding; a line feed of a name is none here.
-void printLines(const clsCheckedClaim &claim, const QString &before)
-{
-    for (const clsFinding &finding : claim.findings) {
+    QString lines;
+    for (const clsFinding &finding : findings) {
         const QString line = QStringLiteral("%1%2, %3, %4, %5")
                                  .arg(before, mdLevelInWords(finding.Level), finding.Screen,
                                      QString::number(finding.Item), finding.Text);
-        mdPrint(stdout, QString(line).replace(u'\r', u' ').replace(u'\n', u' ') + QStringLiteral("\r\n"));
+        // A line feed of a name is none here.
+        lines += QString(line).replace(u'\r', u' ').replace(u'\n', u' ') + QStringLiteral("\r\n");
     }
+    return lines;
 }
 
-} // namespace
-
-Status mdCheckFull(clsConsoleUserInterface &console, const clsToolCommand &command, const clsClaimReader &read)
+Status mdCheckFull(clsConsoleUserInterface &console, const clsToolCommand &command)
 {
-    const bool isSingle = command.claims.size() == 1 && !QFileInfo(command.claims.front()).isDir();
-    Status status = Status::Done;
+    const QString path = command.claims.front();
+    const clsCheckedClaim claim = mdCheckedClaim(console, command, path);
+    if (claim.status == Status::NoClaim)
+        return claim.status;
+    if (!command.json) {
+        mdPrint(stdout, mdFindingsInLines(claim.findings));
+        return claim.status;
+    }
     clsJsonWriter json;
-    if (!isSingle) {
-        json.beginObject();
-        json.beginArray("Claims");
-    }
-    for (const QString &argument : command.claims)
-        for (const QString &path : mdClaimPaths(argument)) {
-            const QString before = isSingle ? QString() : path + QStringLiteral(": ");
-            console.beginSubject(before);
-            const clsCheckedClaim claim = checked(path, command, console, read);
-            status = std::max(status, claim.status);
-            if (command.json && !(isSingle && claim.status == Status::NoClaim))
-                writeClaim(json, claim);
-            else
-                printLines(claim, before);
-        }
-    if (!isSingle) {
-        json.endArray();
-        json.endObject();
-    }
-    if (command.json)
-        printBytes(json.bytes());
-    return status;
+    json.beginObject();
+    json.text("Path", path);
+    mdWriteFindings(json, claim.findings);
+    json.endObject();
+    mdPrintBytes(json.bytes());
+    return claim.status;
 }
 
 Status mdWhyFigure(const clsZR3Form &form, const clsToolCommand &command)
@@ -140,6 +106,6 @@ Status mdWhyFigure(const clsZR3Form &form, const clsToolCommand &command)
     }
     json.endArray();
     json.endObject();
-    printBytes(json.bytes());
+    mdPrintBytes(json.bytes());
     return why->hasFailed() ? Status::Failed : Status::Done;
 }

@@ -24,6 +24,7 @@ HANDS_ON = {
     "shell/clsWindowUserInterface.cpp": "*", "base/mdCustomMessages.h": "*", "base/mdGetFolder.h": "*",
     "base/mdSetProgress.h": "*", "base/mdSetProgress.cpp": "*", "base/clsConsoleUserInterface.h": "*",
     "base/clsConsoleUserInterface.cpp": "*", "base/mdRegistry.cpp": "mdSystemFailure",
+    "programs/zr3tool/clsClaimWork.cpp": "tell", "programs/zr3tool/mdDiff.cpp": "tell",
     "base/mdTextDocumentHandling.cpp": "mdSystemFailure", "wordexport/document/mdDocumentError.h": ERROR,
     "base/clsRunTimeError.h": ERROR, "controls/mdSpellingMenu.cpp": "tell",
     "costing/mdTotalsReport.cpp": "tell", "wordexport/mdForecast.cpp": "mdCustomMessages",

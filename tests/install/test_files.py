@@ -46,7 +46,7 @@ class Files(unittest.TestCase):
     def test_everybody_may_read_it_and_only_its_owner_write(self):
         for path in [PREFIX.parent, *PREFIX.parent.rglob("*")]:
             if not path.is_symlink():
-                programs = path.is_dir() or path.parent == PREFIX / "bin" or path.name in ("velmor-zr3", "zr3tool")
+                programs = path.is_dir() or path.parent == PREFIX / "bin" or path in (PROGRAM / "velmor-zr3", PROGRAM / "zr3tool")
                 self.assertEqual("755" if programs else "644", f"{path.stat().st_mode & 0o7777:o}", path)
 
     def test_nothing_names_the_place_where_it_was_built(self):
@@ -78,10 +78,29 @@ class Files(unittest.TestCase):
 
         page = page_of("zr3tool")
         told = run(PREFIX / "bin/zr3tool", "--help").split()
-        for word in (word.rstrip(",;.") for word in told):
-            if word.startswith("--") or word in ("totals", "export", "check", "save"):
+        for word in (word.rstrip(",;.:") for word in told):
+            if word.startswith("--") or word in ("list", "totals", "export", "check", "save", "forecast", "why", "diff",
+                                                   "table", "import"):
                 self.assertIn(word, page)
         self.assertIn("velmor-zr3", page_of("velmor-zr3"))
+
+    def test_bash_completes_what_the_tool_takes(self):
+        def completed(*words):
+            answer = run("bash", "-c", """source "$0"; complete -p zr3tool >/dev/null; COMP_WORDS=(zr3tool "$@")
+                COMP_CWORD=$#; compopt() { :; }; _zr3tool zr3tool "${!#}" "${COMP_WORDS[$# - 1]}"
+                printf '%s\\n' "${COMPREPLY[@]}" """, PREFIX / "share/bash-completion/completions/zr3tool", *words,
+                         cwd=SAMPLES)
+            return set(answer.split())
+
+        told = run(PREFIX / "bin/zr3tool", "--help")
+        options = {word.rstrip(",;.:") for word in told.split() if word.startswith("--")} - {"--help", "--version"}
+        commands = {line.split()[1] for line in told.splitlines() if line.startswith("  zr3tool ")} - {"--help"}
+        self.assertEqual(commands | {"--help", "--version"}, completed(""))
+        self.assertEqual(options, set().union(*(completed(command, "--") for command in commands)))
+        self.assertEqual({"--jobs", "--json", "--jsonl"}, completed("list", "--j"))
+        self.assertEqual({"housing-typical.zr3"}, completed("totals", "housing-t"))
+        self.assertEqual(set(), completed("totals", "README"))
+        self.assertEqual({"experts", "enhancements"}, completed("table", "a.zr3", "e"))
 
     def test_installing_again_leaves_preferences_that_are_there(self):
         prefix = installed.install(FOLDER / "again")

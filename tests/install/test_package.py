@@ -26,21 +26,28 @@ from support import main, need
 PROGRAMS = ("usr/lib/velmor-zr3/velmor-zr3", "usr/lib/velmor-zr3/zr3tool", "usr/bin/velmor-zr3")
 
 
+def packed(config, made):
+    """A package, made under the strictest mask once more, which must not get into it."""
+    run("sh", "-c", 'umask 077; exec cpack --config "$1" -B "$2" -D CPACK_OUTPUT_FILE_PREFIX="$2"', "--",
+        BUILD / config, made)
+    [package] = made.glob("*.deb")
+    return package
+
+
 def setUpModule():
-    global FOLDER, PACKAGE, UNPACKED
+    global FOLDER, PACKAGE, UNPACKED, SERVER, SERVER_UNPACKED
     need("cpack", "dpkg-deb", "dpkg-shlibdeps", "strip", "file")
     FOLDER = installed.work_folder()
-    made = FOLDER / "made"
-    # The strictest mask once more, which must not get into the package.
-    run("sh", "-c", 'umask 077; exec cpack --config "$1/CPackConfig.cmake" -B "$2" -D CPACK_OUTPUT_FILE_PREFIX="$2"', "--",
-        BUILD, made)
-    [PACKAGE] = made.glob("*.deb")
+    PACKAGE = packed("CPackConfig.cmake", FOLDER / "made")
     UNPACKED = FOLDER / "unpacked"
     run("dpkg-deb", "-x", PACKAGE, UNPACKED)
+    SERVER = packed("CPackServerConfig.cmake", FOLDER / "made for servers")
+    SERVER_UNPACKED = FOLDER / "unpacked for servers"
+    run("dpkg-deb", "-x", SERVER, SERVER_UNPACKED)
 
 
-def field(name):
-    return run("dpkg-deb", "-f", PACKAGE, name).strip()
+def field(name, package=None):
+    return run("dpkg-deb", "-f", package or PACKAGE, name).strip()
 
 
 class Contents(unittest.TestCase):
@@ -81,6 +88,42 @@ class Contents(unittest.TestCase):
             self.assertRegex(headers, r"RELRO")
             self.assertRegex(headers, r"FLAGS_1 +0x0*8000001")  # all names are bound at the start
             self.assertTrue("__stack_chk_fail" in run("objdump", "-T", UNPACKED / program), "the stack is not checked")
+
+
+class ForServers(unittest.TestCase):
+    """The package of the headless program alone."""
+
+    def test_it_has_what_the_headless_program_needs_and_no_more(self):
+        files = {str(path.relative_to(SERVER_UNPACKED)) for path in SERVER_UNPACKED.rglob("*") if not path.is_dir()}
+        templates = {f"usr/lib/velmor-zr3/Templates/{path.name}" for path in (BUILD / "program/Templates").iterdir()}
+        self.assertGreater(len(templates), 10)
+        self.assertEqual(templates | {
+            "usr/bin/zr3tool", "usr/lib/velmor-zr3/zr3tool", "usr/share/bash-completion/completions/zr3tool",
+            "usr/share/doc/zr3tool/changelog.gz", "usr/share/doc/zr3tool/copyright", "usr/share/man/man1/zr3tool.1.gz",
+        }, files)
+
+    def test_it_needs_nothing_that_draws(self):
+        depends = {word.split()[0] for word in field("Depends", SERVER).split(",")}
+        self.assertLessEqual({"libc6", "libqt6core6", "libpugixml1v5", "libzip4"}, depends)
+        self.assertEqual(["libqt6core6"], [package for package in depends if "qt" in package])
+        self.assertFalse({"hunspell-en-gb", "libhunspell-1.7-0"} & depends)
+
+    def test_the_two_are_not_installed_together(self):
+        self.assertEqual("zr3tool", field("Package", SERVER))
+        self.assertEqual("velmor-zr3", field("Conflicts", SERVER))
+        self.assertEqual("zr3tool", field("Conflicts"))
+        self.assertEqual(field("Version"), field("Version", SERVER))
+
+    def test_all_of_it_is_readable_by_everybody(self):
+        for line in run("dpkg-deb", "-c", SERVER).splitlines():
+            self.assertRegex(line, r"^(drwxr-xr-x|-rwxr-xr-x|-rw-r--r--|lrwxrwxrwx) root/root ")
+
+    def test_it_runs(self):
+        user = User(FOLDER / "server's user", SERVER_UNPACKED / "usr")
+        claim = user.claim()
+        self.assertIn(str(claim), user.run("zr3tool", "list", "--csv", claim))
+        user.run("zr3tool", "export", "--quiet", claim, user.home)
+        self.assertTrue((user.home / "Claim1.doc").is_file())
 
 
 class Life(unittest.TestCase):

@@ -49,9 +49,16 @@ TEST_F(BadInput, AMissingFolder)
     EXPECT_EQ(1, result.err.count("File Not Read"));
 }
 
-TEST_F(BadInput, AFolder)
+TEST_F(BadInput, AFolderWhereOneClaimIsAskedFor)
 {
-    expectRefused(folder.path(), notRead(folder.path(), "75 - Path/File access error"));
+    for (const QStringList &arguments : {QStringList {"save"_q, folder.path(), path("new.zr3")},
+             {"forecast"_q, folder.path()}, {"why"_q, folder.path(), "total"_q, "vat"_q}}) {
+        const clsToolResult result = run(arguments);
+        EXPECT_EQ(2, result.status) << arguments.join(u' ').toStdString();
+        EXPECT_EQ("", result.out);
+        EXPECT_EQ(notRead(folder.path(), "75 - Path/File access error"), result.err);
+    }
+    EXPECT_EQ(QStringList(), filesOf(folder.path()));
 }
 
 TEST_F(BadInput, APipeIsNotWaitedFor)

@@ -141,8 +141,9 @@ TEST_F(ToolCheckFull, SeveralClaimsAreAList)
     const QJsonArray claims = objectOf(json)["Claims"_q].toArray();
     ASSERT_EQ(4, claims.size());
     EXPECT_EQ(QStringList({"Error"_q, "Path"_q}), claims[0].toObject().keys());
-    EXPECT_TRUE(claims[0].toObject()["Error"_q].toString().startsWith("Error: There was a problem"_q));
-    EXPECT_TRUE(claims[1].toObject()["Error"_q].toString().startsWith("File Not Read: "_q));
+    // Without the title of the box.
+    EXPECT_TRUE(claims[0].toObject()["Error"_q].toString().startsWith("There was a problem opening"_q));
+    EXPECT_TRUE(claims[1].toObject()["Error"_q].toString().startsWith("There was a problem reading"_q));
     EXPECT_EQ(found, claims[2].toObject()["Path"_q].toString());
     EXPECT_EQ(1, claims[2].toObject()["Findings"_q].toArray().size());
     EXPECT_EQ(0, claims[3].toObject()["Findings"_q].toArray().size());

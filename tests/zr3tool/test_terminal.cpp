@@ -153,3 +153,24 @@ TEST_F(Terminal, ShowsTheFullCheckWithoutControlCharacters)
     EXPECT_EQ(shown, shownBy({"check"_q, "--full"_q, putClaim(form)}, STDOUT_FILENO, 3));
     EXPECT_EQ(QByteArray(shown).replace("a?[", "a\x1b["), run({"check"_q, "--full"_q, path("claim.zr3")}).out);
 }
+
+TEST_F(Terminal, ShowsATableLineByLine)
+{
+    clsZR3Form form;
+    form.AddEnhancement()->Name = m_odd + "\r\n2"_q;
+    const QString claim = putClaim(form);
+    EXPECT_EQ("orderid,uniqueid,name,rate\n1,ID1," + m_shown + "??2,0.00\n",
+        shownBy({"table"_q, claim, "enhancements"_q}, STDOUT_FILENO, 0));
+    // What goes to a file stays as it is.
+    EXPECT_EQ("orderid,uniqueid,name,rate\r\n1,ID1,\"" + m_odd.toUtf8() + "\r\n2\",0.00\r\n",
+        run({"table"_q, claim, "enhancements"_q}).out);
+}
+
+TEST_F(Terminal, ShowsWhatDiffersLineByLine)
+{
+    clsZR3Form form;
+    const QString old = putClaim(form, "old.zr3");
+    form.Notes = m_odd + "\r\n2"_q;
+    EXPECT_EQ("Form Setup, Notes: \"\" -> \"" + QByteArray(m_shown).replace("c?T", "c T") + "  2\"\n",
+        shownBy({"diff"_q, old, putClaim(form)}, STDOUT_FILENO, 3));
+}

@@ -150,7 +150,7 @@ class Figures:
         for name, (count, seconds, characters) in self.rows.items():
             print(f"{name:44} {count:6} {seconds:20.2f} {characters:11}")
         print(f"One second here is one of {SPEED} in the program. For the ends on a display it is a true one: how long it took")
-    print("until what was typed was kept, which is what would have been lost before.")
+        print("until what was typed was kept, which is what would have been lost before.")
 
 
 def look_after(life, ended, bound=PROMISED):

@@ -115,7 +115,7 @@ void oCheckPanel::showFindings()
     const bool failed = !m_state.Failure().isEmpty();
     lblNothing->setText(failed ? m_state.Failure() : QStringLiteral("Nothing found."));
     findChild<QLabel *>(QStringLiteral("lblCheckTick"))->setVisible(!failed);
-    const bool hadFocus = isAncestorOf(focusWidget()) || m_list->hasFocus();
+    const bool hadFocus = isAncestorOf(window()->focusWidget());
     m_pages->setCurrentWidget(m_state.Groups().empty() ? m_nothing : static_cast<QWidget *>(m_list));
     if (hadFocus)
         TakeFocus();

@@ -64,6 +64,12 @@ void clsWhyOpener::TakeDrawnState()
         m_drawn = mdClaimState(*Form);
 }
 
+bool clsWhyOpener::IsPreviewCurrent()
+{
+    TakeDrawnState();
+    return Form && m_drawn == mdClaimState(*Form);
+}
+
 void clsWhyOpener::AskPreview()
 {
     if (const int row = m_grid.AskedRow(); row > 0 && Form)
@@ -78,8 +84,7 @@ void clsWhyOpener::openAtRow(int row)
     m_at = m_grid.mapTo(m_sheet->parentWidget(), at);
     m_point = oWhySheet::Point::Right;
     m_sheet->setMovesRows(true);
-    TakeDrawnState();
-    if (m_drawn != mdClaimState(*Form))
+    if (!IsPreviewCurrent())
         return open(clsWhyText {QStringLiteral("The preview is older than the claim (Ctrl+T)")});
     const clsPreviewOrigin origin = m_grid.Origin(row);
     const bool isItem = origin.kind == clsPreviewOrigin::ScheduleItem;

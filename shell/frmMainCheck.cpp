@@ -7,12 +7,12 @@
 #include "preview/oFormPages.h"
 #include "preview/oPreviewGrid.h"
 #include "shell/clsCheckState.h"
+#include "shell/clsWhyOpener.h"
 #include "shell/mdOpenPanels.h"
 #include "shell/oCheckList.h"
 #include "shell/oCheckPanel.h"
 #include "shell/oPreviewArea.h"
 
-#include <QAction>
 #include <QKeyEvent>
 #include <QShortcut>
 #include <QStackedLayout>
@@ -33,15 +33,11 @@ int rowOfNumber(const oPreviewGrid &grid, int number)
     return 0;
 }
 
-/// The number of a schedule item in a preview; 0 where it has none.
-int numberOf(int orderID, clsPreviewKind kind)
+/// The row of a schedule item; 0 where it has none.
+int rowOfItem(const oPreviewGrid &grid, clsPreviewKind kind, int order)
 {
-    if (kind == clsPreviewKind::AdditionalInformation)
-        return orderID;
-    for (const auto &item : Form->ScheduleOfTimeItemsForExportCollection())
-        if (item->OrderID() == orderID)
-            return item->SOTItemNumber;
-    return 0;
+    return kind == clsPreviewKind::AdditionalInformation ? rowOfNumber(grid, order)
+                                                         : grid.RowOf({clsPreviewOrigin::ScheduleItem, order});
 }
 
 } // namespace
@@ -125,25 +121,23 @@ void frmMain::StepThroughCheck(bool forward)
 void frmMain::openFinding(int finding)
 {
     const clsFinding found = m_check->Findings()[size_t(finding)].Finding;
-    // What is set by an entry of the menu has no tab.
-    if (found.Rule == QLatin1String("costs-limit")) {
-        if (auto *entry = findChild<QAction *>(QStringLiteral("mnuCostsLimit")))
-            entry->trigger();
-        return;
-    }
+    // The limit has a dialog, and no tab.
+    if (found.Rule == QLatin1String("costs-limit"))
+        return CostsLimit();
     OpenPlace({found.Screen, found.List, found.Item, found.Property});
 }
 
 void frmMain::tintChosen()
 {
     const int chosen = m_area->isPanelOpen() ? m_checkPanel->List()->Chosen() : -1;
-    int number = 0;
-    if (chosen >= 0 && Form) {
+    int row = 0;
+    // In an older preview another item may have the number.
+    if (chosen >= 0 && m_why->IsPreviewCurrent()) {
         const clsFinding &finding = m_check->Findings()[size_t(chosen)].Finding;
         if (finding.List == QLatin1String("schedule"))
-            number = numberOf(finding.Item, m_previewKind);
+            row = rowOfItem(*sgPreview, m_previewKind, finding.Item);
     }
-    sgPreview->setTintedRow(number > 0 ? rowOfNumber(*sgPreview, number) : 0);
+    sgPreview->setTintedRow(row);
 }
 
 void frmMain::keyPressEvent(QKeyEvent *event)

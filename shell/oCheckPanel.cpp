@@ -49,6 +49,7 @@ oCheckPanel::oCheckPanel(clsCheckState &state, QWidget *parent)
     setAccessibleName(QStringLiteral("Check Claim"));
     build();
     takeFonts();
+    m_list->setKeys([this](int finding) { return m_state.KeyOf(finding); });
     connect(&m_state, &clsCheckState::Changed, this, &oCheckPanel::showFindings);
     connect(cmdClose, &QAbstractButton::clicked, this, &oCheckPanel::CloseAsked);
     showFindings();

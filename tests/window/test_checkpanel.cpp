@@ -425,13 +425,15 @@ TEST_F(CheckPanel, FollowsAnUndo)
 TEST_F(CheckPanel, KeepsTheChosenItemWhenTheItemsAreNumberedAnew)
 {
     startWithFindings();
+    addItem(*Form, "04/06/25", "00:00");
+    Form->RenderScheduleOfTimeItemsForExport();
     openPanel();
     press(Qt::Key_Down);
     ASSERT_EQ(NoTime, chosen());
     for (const auto &item : Form->ScheduleOfTimeItemsCollection())
-        item->OrderID = 4 - item->OrderID();
+        item->OrderID = 5 - item->OrderID();
     window->Activate();
-    EXPECT_TRUE(chosen().startsWith(QLatin1String("Item 1, 03/06/25,"))) << qPrintable(chosen());
+    EXPECT_TRUE(chosen().startsWith(QLatin1String("Item 2, 03/06/25,"))) << qPrintable(chosen());
 }
 
 TEST_F(CheckPanel, F8GoesOnFromTheHeadingOfAGroup)

@@ -64,12 +64,6 @@ void clsWhyOpener::TakeDrawnState()
         m_drawn = mdClaimState(*Form);
 }
 
-bool clsWhyOpener::IsPreviewCurrent()
-{
-    TakeDrawnState();
-    return Form && m_drawn == mdClaimState(*Form);
-}
-
 void clsWhyOpener::AskPreview()
 {
     if (const int row = m_grid.AskedRow(); row > 0 && Form)
@@ -84,7 +78,8 @@ void clsWhyOpener::openAtRow(int row)
     m_at = m_grid.mapTo(m_sheet->parentWidget(), at);
     m_point = oWhySheet::Point::Right;
     m_sheet->setMovesRows(true);
-    if (!IsPreviewCurrent())
+    TakeDrawnState();
+    if (m_drawn != mdClaimState(*Form))
         return open(clsWhyText {QStringLiteral("The preview is older than the claim (Ctrl+T)")});
     const clsPreviewOrigin origin = m_grid.Origin(row);
     const bool isItem = origin.kind == clsPreviewOrigin::ScheduleItem;

@@ -31,8 +31,6 @@ public:
     void AskPreview();
     /// The preview shows the claim as it now is.
     void TellDrawn() { m_drawnIsDue = true; }
-    /// Whether the preview shows the claim as it is.
-    bool IsPreviewCurrent();
     /// Notes the claim's state, where the preview was drawn and nothing has happened since.
     void TakeDrawnState();
     /// The claim changes, or what the sheet points at.

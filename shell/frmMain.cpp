@@ -337,7 +337,7 @@ void frmMain::redraw(void (*routine)(clsPreviewKind))
     routine(m_previewKind);
     m_why->TellDrawn();
     m_stripFiller->Renew();
-    tintChosen();
+    tintDrawn();
 }
 
 bool frmMain::showsFormPages() const

@@ -2,12 +2,12 @@
 
 #include "formdata/clsClaimPlace.h"
 #include "formdata/clsZR3Form.h"
+#include "formdata/mdClaimLists.h"
 #include "formdata/mdGlobals.h"
 #include "preview/mdPreview.h"
 #include "preview/oFormPages.h"
 #include "preview/oPreviewGrid.h"
 #include "shell/clsCheckState.h"
-#include "shell/clsWhyOpener.h"
 #include "shell/mdOpenPanels.h"
 #include "shell/oCheckList.h"
 #include "shell/oCheckPanel.h"
@@ -22,6 +22,7 @@
 namespace {
 
 constexpr int NumberColumn = 1;
+const QLatin1String ScheduleList("schedule");
 
 /// The row of the preview that bears the number; 0 where there is none. The captions have none.
 int rowOfNumber(const oPreviewGrid &grid, int number)
@@ -33,11 +34,20 @@ int rowOfNumber(const oPreviewGrid &grid, int number)
     return 0;
 }
 
-/// The row of a schedule item; 0 where it has none.
+/// The row of the schedule item that had that order when the preview was drawn; 0 where it has none.
 int rowOfItem(const oPreviewGrid &grid, clsPreviewKind kind, int order)
 {
     return kind == clsPreviewKind::AdditionalInformation ? rowOfNumber(grid, order)
                                                          : grid.RowOf({clsPreviewOrigin::ScheduleItem, order});
+}
+
+/// Looks at each item of the schedule, by its element and its order.
+template <class Look> void eachScheduleItem(const clsZR3Form &form, Look look)
+{
+    // As a plain record: the lists need not forget what they know of their elements.
+    const clsXMLRecord &claim = form;
+    for (const pugi::xml_node item : claim.XMLNode().child(mdClaimList(QString(ScheduleList))->element).children())
+        look(item.internal_object(), XMLDecodeText(item.child("orderid").child_value()).toInt());
 }
 
 } // namespace
@@ -127,17 +137,28 @@ void frmMain::openFinding(int finding)
     OpenPlace({found.Screen, found.List, found.Item, found.Property});
 }
 
+/// The preview was drawn. An opened list may give its items other numbers, and the preview stays as it is.
+void frmMain::tintDrawn()
+{
+    m_drawnItems.clear();
+    if (Form)
+        eachScheduleItem(*Form, [this](const void *item, int order) { m_drawnItems.insert(item, order); });
+    tintChosen();
+}
+
 void frmMain::tintChosen()
 {
     const int chosen = m_area->isPanelOpen() ? m_checkPanel->List()->Chosen() : -1;
-    int row = 0;
-    // In an older preview another item may have the number.
-    if (chosen >= 0 && m_why->IsPreviewCurrent()) {
+    int drawn = 0;
+    if (chosen >= 0 && Form) {
         const clsFinding &finding = m_check->Findings()[size_t(chosen)].Finding;
-        if (finding.List == QLatin1String("schedule"))
-            row = rowOfItem(*sgPreview, m_previewKind, finding.Item);
+        if (finding.List == ScheduleList)
+            eachScheduleItem(*Form, [&](const void *item, int order) {
+                if (order == finding.Item)
+                    drawn = m_drawnItems.value(item);
+            });
     }
-    sgPreview->setTintedRow(row);
+    sgPreview->setTintedRow(drawn > 0 ? rowOfItem(*sgPreview, m_previewKind, drawn) : 0);
 }
 
 void frmMain::keyPressEvent(QKeyEvent *event)

@@ -41,8 +41,8 @@ oCheckPanel::oCheckPanel(clsCheckState &state, QWidget *parent)
     , lblTrouble(label("lblCheckTrouble", Theme::Ink2, this))
     , m_nothing(new QWidget(this))
     , lblNothing(label("lblCheckNothing", Theme::Ink2, m_nothing))
-    , cmdClose(new oCloseButton(QStringLiteral("Close the check"), this))
     , m_list(new oCheckList(this))
+    , cmdClose(new oCloseButton(QStringLiteral("Close the check"), this))
     , m_pages(new QStackedLayout)
 {
     setObjectName(QStringLiteral("oCheckPanel"));
@@ -95,8 +95,6 @@ void oCheckPanel::build()
     all->addWidget(mdHorizontalLine(this));
     all->addWidget(lblTrouble);
     all->addLayout(m_pages, 1);
-    // A reader goes from the list to what closes it, and not the other way.
-    setTabOrder(m_list, cmdClose);
 }
 
 void oCheckPanel::takeFonts()

@@ -1,6 +1,7 @@
 #include "base/mdStateFolder.h"
 #include "controls/oCloseButton.h"
 #include "controls/oCustomButton.h"
+#include "controls/oTotalsStrip.h"
 #include "formdata/mdCostsLimit.h"
 #include "formdata/mdRunStep.h"
 #include "preview/oPreviewGrid.h"
@@ -451,6 +452,23 @@ TEST_F(CheckPanel, F8GoesOnFromTheHeadingOfAGroup)
     EXPECT_EQ(NoTime, chosen());
 }
 
+TEST_F(CheckPanel, StandsBetweenThePreviewAndTheTotalsForTheTabKey)
+{
+    startWithFindings();
+    openPanel();
+    auto &strip = control<oTotalsStrip>(*window, "oTotalsStrip");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !strip.Shown().isEmpty(); }, 5000));
+    control<QWidget>(*window, "sgPreview").setFocus();
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(list().hasFocus());
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(control<oCloseButton>(panel(), "cmdCloseCheck").hasFocus());
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(strip.isAncestorOf(QApplication::focusWidget()));
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(window->footer()->isAncestorOf(QApplication::focusWidget()));
+}
+
 TEST_F(CheckPanel, LiesOverThePreviewOfANarrowWindow)
 {
     startWithFindings(1200);
@@ -500,11 +518,11 @@ TEST_F(CheckPanel, TintsTheRowOfTheChosenFinding)
     window->PreviewScheduleOfTime();
     ASSERT_GT(grid.TintedRow(), 0) << "drawn anew";
     EXPECT_EQ(QStringLiteral("3"), grid.Text(grid.TintedRow(), 1));
-    Form->ScheduleOfTimeItemByOrderID(3)->Code = QStringLiteral("ACL");
+    for (const auto &item : Form->ScheduleOfTimeItemsCollection())
+        item->OrderID = 4 - item->OrderID();
     window->Activate();
-    EXPECT_EQ(0, grid.TintedRow()) << "the preview is older than the claim";
-    window->PreviewScheduleOfTime();
-    EXPECT_EQ(QStringLiteral("3"), grid.Text(grid.TintedRow(), 1));
+    EXPECT_TRUE(chosen().startsWith(QLatin1String("Item 1, 03/06/25,"))) << qPrintable(chosen());
+    EXPECT_EQ(QStringLiteral("3"), grid.Text(grid.TintedRow(), 1)) << "drawn before the items had other numbers";
     press(Qt::Key_End);
     EXPECT_EQ(0, grid.TintedRow()) << "a row of notes";
     press(Qt::Key_Home);

@@ -9,7 +9,7 @@
 namespace {
 
 constexpr std::string_view NotOfTheClaim[]
-    = {"path", "version", "timespent", "idcounter", "exportpath", "defaultfeeearnerlistindex"};
+    = {"path", "version", "timespent", "idcounter", "exportpath", "defaultfeeearnerlistindex", "costslimit"};
 
 std::uint64_t mixed(std::uint64_t state, std::string_view text)
 {

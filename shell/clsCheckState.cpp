@@ -1,8 +1,6 @@
 #include "shell/clsCheckState.h"
 
-#include "base/clsQuietUserInterface.h"
 #include "base/mdClock.h"
-#include "base/mdLog.h"
 #include "base/mdProgramFolder.h"
 #include "base/mdRunTimeErrorOf.h"
 #include "commands/mdPutAside.h"
@@ -12,6 +10,7 @@
 #include "formdata/mdGlobals.h"
 #include "shell/clsLongWork.h"
 #include "shell/clsPagesMaker.h"
+#include "shell/mdCopyOfClaim.h"
 #include "wordexport/clsForecast.h"
 #include "wordexport/mdBoxesToCheck.h"
 #include "wordexport/mdForecast.h"
@@ -78,20 +77,16 @@ void clsCheckState::Forget()
 
 void clsCheckState::takeClaim()
 {
-    const clsNoLogScope noLog;
-    clsQuietUserInterface quiet;
-    const clsUserInterfaceScope scope(quiet);
     m_text = Form->XMLOutput();
     m_items.reset();
     m_failure.clear();
-    auto copy = std::make_unique<clsZR3Form>();
     try {
-        copy->takeCopyOf(*Form);
+        m_copy = mdCopyOfClaim(*Form);
     } catch (const std::exception &) {
         const clsRunTimeError error = mdRunTimeErrorOf(std::current_exception());
         m_failure = error.cause().isEmpty() ? error.description() : error.cause();
+        m_copy = std::make_unique<clsZR3Form>();
     }
-    m_copy = std::move(copy);
     m_items = std::make_unique<clsFindingItems>(*m_copy);
     readKept();
 }
@@ -154,10 +149,15 @@ void clsCheckState::LookAtPrint()
     look();
 }
 
+QString clsCheckState::KeyOf(int finding) const
+{
+    return m_items->keyOf(m_findings[size_t(finding)].Finding);
+}
+
 void clsCheckState::PutAside(const std::vector<int> &findings, bool aside)
 {
     for (const int finding : findings) {
-        const QString key = m_items->keyOf(m_findings[size_t(finding)].Finding);
+        const QString key = KeyOf(finding);
         if (aside)
             m_aside << key;
         else

@@ -43,6 +43,9 @@ public:
     /// What is to be told once of what was kept; empty where there is nothing.
     QString Trouble() const { return m_trouble; }
 
+    /// What a finding is about, whatever number its item has now.
+    QString KeyOf(int finding) const;
+
     /// Calls findings, by their numbers, no mistakes, or takes that back.
     void PutAside(const std::vector<int> &findings, bool aside);
 

@@ -16,12 +16,9 @@
 #include "controls/oTimeSpentBox.h"
 #include "controls/oTotalsStrip.h"
 #include "editors/frmSection.h"
-#include "editors/mdListPlace.h"
 #include "editors/mdSections.h"
 #include "editors/mdShowPreferences.h"
 #include "editors/mdUnloadAndDummyTabClick.h"
-#include "editors/mdWayTo.h"
-#include "formdata/clsClaimPlace.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
 #include "formdata/mdGlobals.h"
@@ -39,7 +36,6 @@
 #include "shell/clsWhyOpener.h"
 #include "shell/mdMainMenu.h"
 #include "shell/mdOpenPanels.h"
-#include "shell/mdPageBoxes.h"
 #include "shell/oApplication.h"
 #include "shell/oCheckPanel.h"
 #include "shell/oPreviewArea.h"
@@ -237,25 +233,6 @@ void frmMain::tbSubSection_Click(int index, const QString &tag)
         Activate();
 }
 
-void frmMain::OpenField(const QString &target)
-{
-    clsTargetPlace place;
-    if (m_sectionOpen || !mdFindTarget(target, place))
-        return;
-    m_nextWay = [place](frmSection &screen) { mdEnterPlace(screen, place.control, place.item); };
-    tbSubSection_Click(-1, place.section);
-    m_nextWay = nullptr;
-}
-
-void frmMain::OpenPlace(const clsClaimPlace &place)
-{
-    if (m_sectionOpen)
-        return;
-    m_nextWay = mdWayTo(place);
-    tbSubSection_Click(-1, place.Screen);
-    m_nextWay = nullptr;
-}
-
 void frmMain::whileModal(const std::function<void()> &show)
 {
     {
@@ -360,7 +337,7 @@ void frmMain::redraw(void (*routine)(clsPreviewKind))
     routine(m_previewKind);
     m_why->TellDrawn();
     m_stripFiller->Renew();
-    tintChosen();
+    tintDrawn();
 }
 
 bool frmMain::showsFormPages() const
@@ -411,6 +388,8 @@ void frmMain::ShowTurned()
         refreshPreview();
     else if (Form)
         redraw(mdRedrawPreview);
+    m_stripFiller->Renew();
+    renewCheck();
 }
 
 void frmMain::tmrAutoBackup_Timer()

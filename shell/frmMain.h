@@ -3,6 +3,7 @@
 #include "preview/mdPreviewTypes.h"
 #include "wordexport/document/mdWordInstalled.h"
 
+#include <QHash>
 #include <QMainWindow>
 
 #include <functional>
@@ -126,6 +127,7 @@ private:
     void fitPreview();
     void renewCheck();
     void openFinding(int finding);
+    void tintDrawn();
     void tintChosen();
     void openDropped(const QString &path);
     /// Asks about changes, and has another claim take the place of the open one.
@@ -157,6 +159,7 @@ private:
     /// The kind of preview last shown.
     clsPreviewKind m_previewKind = clsPreviewKind::ScheduleOfTime;
     int m_drawnWidth = 0;
+    QHash<const void *, int> m_drawnItems; ///< the schedule's elements, by the order that the preview shows them under
     QString m_backupTag;
     QString m_nextSection;
     std::function<void(frmSection &screen)> m_nextWay; ///< on the screen that opens next

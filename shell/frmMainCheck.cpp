@@ -2,6 +2,7 @@
 
 #include "formdata/clsClaimPlace.h"
 #include "formdata/clsZR3Form.h"
+#include "formdata/mdClaimLists.h"
 #include "formdata/mdGlobals.h"
 #include "preview/mdPreview.h"
 #include "preview/oFormPages.h"
@@ -12,7 +13,6 @@
 #include "shell/oCheckPanel.h"
 #include "shell/oPreviewArea.h"
 
-#include <QAction>
 #include <QKeyEvent>
 #include <QShortcut>
 #include <QStackedLayout>
@@ -22,6 +22,7 @@
 namespace {
 
 constexpr int NumberColumn = 1;
+const QLatin1String ScheduleList("schedule");
 
 /// The row of the preview that bears the number; 0 where there is none. The captions have none.
 int rowOfNumber(const oPreviewGrid &grid, int number)
@@ -33,15 +34,20 @@ int rowOfNumber(const oPreviewGrid &grid, int number)
     return 0;
 }
 
-/// The number of a schedule item in a preview; 0 where it has none.
-int numberOf(int orderID, clsPreviewKind kind)
+/// The row of the schedule item that had that order when the preview was drawn; 0 where it has none.
+int rowOfItem(const oPreviewGrid &grid, clsPreviewKind kind, int order)
 {
-    if (kind == clsPreviewKind::AdditionalInformation)
-        return orderID;
-    for (const auto &item : Form->ScheduleOfTimeItemsForExportCollection())
-        if (item->OrderID() == orderID)
-            return item->SOTItemNumber;
-    return 0;
+    return kind == clsPreviewKind::AdditionalInformation ? rowOfNumber(grid, order)
+                                                         : grid.RowOf({clsPreviewOrigin::ScheduleItem, order});
+}
+
+/// Looks at each item of the schedule, by its element and its order.
+template <class Look> void eachScheduleItem(const clsZR3Form &form, Look look)
+{
+    // As a plain record: the lists need not forget what they know of their elements.
+    const clsXMLRecord &claim = form;
+    for (const pugi::xml_node item : claim.XMLNode().child(mdClaimList(QString(ScheduleList))->element).children())
+        look(item.internal_object(), XMLDecodeText(item.child("orderid").child_value()).toInt());
 }
 
 } // namespace
@@ -125,25 +131,34 @@ void frmMain::StepThroughCheck(bool forward)
 void frmMain::openFinding(int finding)
 {
     const clsFinding found = m_check->Findings()[size_t(finding)].Finding;
-    // What is set by an entry of the menu has no tab.
-    if (found.Rule == QLatin1String("costs-limit")) {
-        if (auto *entry = findChild<QAction *>(QStringLiteral("mnuCostsLimit")))
-            entry->trigger();
-        return;
-    }
+    // The limit has a dialog, and no tab.
+    if (found.Rule == QLatin1String("costs-limit"))
+        return CostsLimit();
     OpenPlace({found.Screen, found.List, found.Item, found.Property});
+}
+
+/// The preview was drawn. An opened list may give its items other numbers, and the preview stays as it is.
+void frmMain::tintDrawn()
+{
+    m_drawnItems.clear();
+    if (Form)
+        eachScheduleItem(*Form, [this](const void *item, int order) { m_drawnItems.insert(item, order); });
+    tintChosen();
 }
 
 void frmMain::tintChosen()
 {
     const int chosen = m_area->isPanelOpen() ? m_checkPanel->List()->Chosen() : -1;
-    int number = 0;
+    int drawn = 0;
     if (chosen >= 0 && Form) {
         const clsFinding &finding = m_check->Findings()[size_t(chosen)].Finding;
-        if (finding.List == QLatin1String("schedule"))
-            number = numberOf(finding.Item, m_previewKind);
+        if (finding.List == ScheduleList)
+            eachScheduleItem(*Form, [&](const void *item, int order) {
+                if (order == finding.Item)
+                    drawn = m_drawnItems.value(item);
+            });
     }
-    sgPreview->setTintedRow(number > 0 ? rowOfNumber(*sgPreview, number) : 0);
+    sgPreview->setTintedRow(drawn > 0 ? rowOfItem(*sgPreview, m_previewKind, drawn) : 0);
 }
 
 void frmMain::keyPressEvent(QKeyEvent *event)

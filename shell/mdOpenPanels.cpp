@@ -1,5 +1,6 @@
 #include "shell/mdOpenPanels.h"
 
+#include "base/clsUserInterface.h"
 #include "base/mdStateFile.h"
 
 #include <QJsonDocument>
@@ -13,9 +14,10 @@ QJsonObject panels()
 {
     const QByteArray content = mdReadStateFile(QString::fromLatin1(FileName));
     const QJsonDocument document = QJsonDocument::fromJson(content);
-    // Nothing is lost by it but which panels were open.
-    if (!content.isEmpty() && !document.isObject())
+    if (!content.isEmpty() && !document.isObject()) {
         mdSetStateFileAside(QString::fromLatin1(FileName));
+        UserInterface().tellLine(QStringLiteral("Which panels were open could not be read. The file was set aside"));
+    }
     return document.object();
 }
 

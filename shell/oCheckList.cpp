@@ -32,6 +32,15 @@ bool isSame(const clsFinding &left, const clsFinding &right)
         && left.Property == right.Property;
 }
 
+/// The place of the first of these findings; -1 where there is none.
+int placeOf(const std::vector<int> &walk, const std::vector<int> &findings)
+{
+    if (findings.empty())
+        return -1;
+    const auto at = std::find(walk.begin(), walk.end(), findings.front());
+    return at == walk.end() ? -1 : int(at - walk.begin());
+}
+
 } // namespace
 
 oCheckList::oCheckList(QWidget *parent)
@@ -105,7 +114,14 @@ void oCheckList::ShowFindings(const std::vector<clsShownFinding> &findings, cons
         restore();
         setUpdatesEnabled(true);
     }
-    emit ChosenChanged(Chosen());
+    tellChosen();
+}
+
+void oCheckList::tellChosen()
+{
+    const int chosen = Chosen();
+    m_chosenKey = chosen >= 0 && m_keyOf ? m_keyOf(chosen) : QString();
+    emit ChosenChanged(chosen);
 }
 
 void oCheckList::remember()
@@ -117,14 +133,27 @@ void oCheckList::remember()
     m_scrolled = verticalScrollBar()->value();
 }
 
+/// The finding that was chosen, whose item may have been given another number or another content. -1 where it is gone.
+int oCheckList::chosenBefore(const std::vector<int> &walk) const
+{
+    const auto isIt = [this](int finding) { return m_keyOf(finding) == m_chosenKey; };
+    int sameNumber = -1;
+    for (const int finding : walk)
+        if (isSame(m_findings[size_t(finding)].Finding, m_chosen))
+            sameNumber = finding;
+    if (!m_keyOf || m_chosenKey.isEmpty() || (sameNumber >= 0 && isIt(sameNumber)))
+        return sameNumber;
+    for (const int finding : walk)
+        if (m_findings[size_t(finding)].Finding.Rule == m_chosen.Rule && isIt(finding))
+            return finding;
+    return sameNumber;
+}
+
 /// The chosen finding stays chosen; where it is gone, the one that has come to its place.
 void oCheckList::restore()
 {
     const std::vector<int> walk = m_model->walk();
-    int wanted = -1;
-    for (const int finding : walk)
-        if (isSame(m_findings[size_t(finding)].Finding, m_chosen))
-            wanted = finding;
+    int wanted = chosenBefore(walk);
     if (wanted < 0 && m_chosenRow >= 0 && !walk.empty())
         wanted = walk[size_t(std::min(m_chosenRow, int(walk.size()) - 1))];
     if (QModelIndex index = m_model->indexOf(wanted); index.isValid()) {
@@ -140,11 +169,15 @@ void oCheckList::restore()
 
 int oCheckList::placeInWalk(const std::vector<int> &walk) const
 {
-    const std::vector<int> current = m_model->findingsOf(currentIndex());
-    if (current.empty())
+    return placeOf(walk, m_model->findingsOf(currentIndex()));
+}
+
+/// The place of the first finding of the chosen group; -1 where no group is chosen, or that of what is put aside.
+int oCheckList::firstOfGroup(const std::vector<int> &walk) const
+{
+    if (!isGroup(currentIndex()))
         return -1;
-    const auto at = std::find(walk.begin(), walk.end(), current.front());
-    return at == walk.end() ? -1 : int(at - walk.begin());
+    return placeOf(walk, m_model->findingsOf(m_model->index(0, 0, currentIndex())));
 }
 
 std::vector<int> oCheckList::ChosenFindings() const
@@ -170,7 +203,9 @@ void oCheckList::Step(bool forward)
         return;
     const int at = placeInWalk(walk);
     int next = at + (forward ? 1 : -1);
-    if (at < 0) // none yet, or a group
+    if (const int first = at < 0 ? firstOfGroup(walk) : -1; first >= 0)
+        next = forward ? first : first - 1;
+    else if (at < 0) // none yet
         next = forward ? 0 : int(walk.size()) - 1;
     if (next < 0 || next >= int(walk.size()))
         return;
@@ -284,7 +319,7 @@ void oCheckList::currentChanged(const QModelIndex &current, const QModelIndex &p
     scheduleDelayedItemsLayout();
     executeDelayedItemsLayout();
     scrollTo(current);
-    emit ChosenChanged(Chosen());
+    tellChosen();
 }
 
 void oCheckList::focusInEvent(QFocusEvent *event)

@@ -5,6 +5,8 @@
 #include <QSet>
 #include <QTreeView>
 
+#include <functional>
+
 class clsCheckDelegate;
 class clsCheckModel;
 
@@ -15,6 +17,8 @@ class oCheckList : public QTreeView {
 public:
     explicit oCheckList(QWidget *parent = nullptr);
 
+    /// What tells what a finding is about, by its number, when its item has another number than before.
+    void setKeys(std::function<QString(int finding)> keyOf) { m_keyOf = std::move(keyOf); }
     void ShowFindings(const std::vector<clsShownFinding> &findings, const std::vector<clsFindingGroup> &groups);
     /// The chosen finding, by its number; -1 where none or more than one is.
     int Chosen() const;
@@ -47,6 +51,7 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
 
 private:
+    void tellChosen();
     void remember();
     void restore();
     void takeFolding(const QModelIndex &index, bool open);
@@ -57,13 +62,17 @@ private:
     void popUpMenuOf(const QModelIndex &index);
     QString ruleOf(const QModelIndex &index) const;
     int placeInWalk(const std::vector<int> &walk) const;
+    int firstOfGroup(const std::vector<int> &walk) const;
+    int chosenBefore(const std::vector<int> &walk) const;
 
     clsCheckModel *m_model;
     clsCheckDelegate *m_delegate;
     QSet<int> m_folded; ///< the groups that the user has closed
     QSet<QString> m_unfolded; ///< the rules whose notes the user has opened
     std::vector<clsShownFinding> m_findings;
+    std::function<QString(int)> m_keyOf;
     clsFinding m_chosen {}; ///< before a renewal
+    QString m_chosenKey; ///< the same by what it is about
     int m_chosenRow = -1;
     int m_scrolled = 0;
     bool m_renewing = false;

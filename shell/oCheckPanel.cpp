@@ -41,14 +41,15 @@ oCheckPanel::oCheckPanel(clsCheckState &state, QWidget *parent)
     , lblTrouble(label("lblCheckTrouble", Theme::Ink2, this))
     , m_nothing(new QWidget(this))
     , lblNothing(label("lblCheckNothing", Theme::Ink2, m_nothing))
-    , cmdClose(new oCloseButton(QStringLiteral("Close the check"), this))
     , m_list(new oCheckList(this))
+    , cmdClose(new oCloseButton(QStringLiteral("Close the check"), this))
     , m_pages(new QStackedLayout)
 {
     setObjectName(QStringLiteral("oCheckPanel"));
     setAccessibleName(QStringLiteral("Check Claim"));
     build();
     takeFonts();
+    m_list->setKeys([this](int finding) { return m_state.KeyOf(finding); });
     connect(&m_state, &clsCheckState::Changed, this, &oCheckPanel::showFindings);
     connect(cmdClose, &QAbstractButton::clicked, this, &oCheckPanel::CloseAsked);
     showFindings();
@@ -94,8 +95,6 @@ void oCheckPanel::build()
     all->addWidget(mdHorizontalLine(this));
     all->addWidget(lblTrouble);
     all->addLayout(m_pages, 1);
-    // A reader goes from the list to what closes it, and not the other way.
-    setTabOrder(m_list, cmdClose);
 }
 
 void oCheckPanel::takeFonts()
@@ -115,7 +114,7 @@ void oCheckPanel::showFindings()
     const bool failed = !m_state.Failure().isEmpty();
     lblNothing->setText(failed ? m_state.Failure() : QStringLiteral("Nothing found."));
     findChild<QLabel *>(QStringLiteral("lblCheckTick"))->setVisible(!failed);
-    const bool hadFocus = isAncestorOf(focusWidget()) || m_list->hasFocus();
+    const bool hadFocus = isAncestorOf(window()->focusWidget());
     m_pages->setCurrentWidget(m_state.Groups().empty() ? m_nothing : static_cast<QWidget *>(m_list));
     if (hadFocus)
         TakeFocus();

@@ -42,7 +42,7 @@ private:
     QLabel *lblTrouble;
     QWidget *m_nothing;
     QLabel *lblNothing;
-    oCloseButton *cmdClose;
     oCheckList *m_list;
+    oCloseButton *cmdClose; ///< made after the list, and so behind it for the Tab key
     QStackedLayout *m_pages;
 };

@@ -74,7 +74,7 @@ class Documents(unittest.TestCase):
                 self.skipTest(f"there is no {program} on this machine")
 
     def test_titles_and_sizes(self):
-        for path, title, fewest, most in ((GUIDE, "Velmor ZR3 User Guide", 40, 100),
+        for path, title, fewest, most in ((GUIDE, "Velmor ZR3 User Guide", 40, 140),
                                           (SHORTCUTS, "Velmor ZR3 Keyboard Shortcuts", 1, 2)):
             told = information(path)
             self.assertEqual(told["Title"], title)

@@ -1,6 +1,9 @@
 #include "base/mdStateFolder.h"
 #include "controls/oCloseButton.h"
 #include "controls/oCustomButton.h"
+#include "controls/oTotalsStrip.h"
+#include "formdata/mdCostsLimit.h"
+#include "formdata/mdRunStep.h"
 #include "preview/oPreviewGrid.h"
 #include "shell/clsCheckModel.h"
 #include "shell/clsCheckState.h"
@@ -113,6 +116,14 @@ protected:
                 list().isExpanded(group) ? QString() : QStringLiteral(" folded"));
         }
         return result;
+    }
+    /// Puts a file that can't be understood into the state folder.
+    static void writeBroken(const char *name)
+    {
+        ASSERT_TRUE(MakeStateFolder());
+        QFile broken(StateFolder() + u'/' + QString::fromLatin1(name));
+        ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
+        broken.write("{");
     }
     /// Waits for the findings about printing.
     void waitForPrint() const { QTest::qWait(150); }
@@ -235,6 +246,25 @@ TEST_F(CheckPanel, EnterOpensTheEditorOfTheItemOnItsField)
     EXPECT_FALSE(chosen().isEmpty());
 }
 
+TEST_F(CheckPanel, EnterOnTheCostsLimitOpensItsDialog)
+{
+    startWithFindings();
+    mdSetCostsLimit(*Form, QStringLiteral("1.00"));
+    openPanel();
+    while (!chosen().startsWith(QLatin1String("The costs are ")) && chosen() != QLatin1String("Warnings"))
+        press(Qt::Key_Down);
+    ASSERT_TRUE(chosen().startsWith(QLatin1String("The costs are "))) << qPrintable(chosen());
+    QString opened;
+    QTimer::singleShot(300, [&] {
+        if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget())) {
+            opened = dialog->objectName();
+            QTest::keyClick(dialog, Qt::Key_Escape);
+        }
+    });
+    press(Qt::Key_Return);
+    EXPECT_EQ(QStringLiteral("frmCostsLimit"), opened);
+}
+
 TEST_F(CheckPanel, WhatIsNoMistakeIsPutAsideAndTakenBack)
 {
     startWithFindings();
@@ -342,17 +372,101 @@ TEST_F(CheckPanel, AnItemThatHasChangedSinceIsFoundAgain)
 
 TEST_F(CheckPanel, ABrokenFileIsToldInOneLine)
 {
-    ASSERT_TRUE(MakeStateFolder());
-    QFile broken(StateFolder() + QStringLiteral("/Put aside.json"));
-    ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
-    broken.write("{");
-    broken.close();
+    writeBroken("Put aside.json");
     startWithFindings();
     openPanel();
     const auto &line = control<QLabel>(panel(), "lblCheckTrouble");
     EXPECT_TRUE(line.isVisible());
     EXPECT_EQ(QStringLiteral("What was put aside could not be read. Its file has been set aside."), line.text());
     EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(CheckPanel, ABrokenFileOfOpenPanelsIsToldInOneLine)
+{
+    writeBroken("Panels.json");
+    startWithFindings();
+    EXPECT_EQ(
+        QStringList(QStringLiteral("Which panels were open could not be read. The file was set aside")), user.lines);
+    EXPECT_TRUE(user.messages.empty());
+    EXPECT_TRUE(QFile::exists(StateFolder() + QStringLiteral("/Panels.json.broken")));
+    openPanel();
+    EXPECT_EQ(1, user.lines.size()) << "told once";
+}
+
+TEST_F(CheckPanel, LeavesTheFocusWhereItIsWhenItIsRenewed)
+{
+    startWithFindings();
+    openPanel();
+    auto &grid = control<oPreviewGrid>(*window, "sgPreview");
+    grid.setFocus();
+    Form->ScheduleOfTimeItemByOrderID(3)->TTime = QStringLiteral("00:10");
+    window->Activate();
+    EXPECT_EQ(QStringLiteral("1 error, 1 warning, 5 notes"), counts());
+    EXPECT_TRUE(grid.hasFocus());
+    list().setFocus();
+    Form->ScheduleOfTimeItemByOrderID(3)->TTime = QStringLiteral("00:00");
+    window->Activate();
+    EXPECT_TRUE(list().hasFocus());
+}
+
+TEST_F(CheckPanel, FollowsAnUndo)
+{
+    startWithFindings();
+    Document().history.clear();
+    Document().history.join();
+    openPanel();
+    RunStep(QStringLiteral("Edit"), [] { Form->ScheduleOfTimeItemByOrderID(3)->TTime = QStringLiteral("00:10"); });
+    window->Activate();
+    EXPECT_EQ(QStringLiteral("1 error, 1 warning, 5 notes"), counts());
+    QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(QStringLiteral("2 errors, 1 warning, 5 notes"), counts());
+    Document().history.clear();
+}
+
+TEST_F(CheckPanel, KeepsTheChosenItemWhenTheItemsAreNumberedAnew)
+{
+    startWithFindings();
+    addItem(*Form, "04/06/25", "00:00");
+    Form->RenderScheduleOfTimeItemsForExport();
+    openPanel();
+    press(Qt::Key_Down);
+    ASSERT_EQ(NoTime, chosen());
+    for (const auto &item : Form->ScheduleOfTimeItemsCollection())
+        item->OrderID = 5 - item->OrderID();
+    window->Activate();
+    EXPECT_TRUE(chosen().startsWith(QLatin1String("Item 2, 03/06/25,"))) << qPrintable(chosen());
+}
+
+TEST_F(CheckPanel, F8GoesOnFromTheHeadingOfAGroup)
+{
+    startWithFindings();
+    openPanel();
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    ASSERT_EQ(QStringLiteral("Warnings"), chosen());
+    press(Qt::Key_F8);
+    EXPECT_TRUE(chosen().startsWith(QLatin1String("Item 2"))) << qPrintable(chosen());
+    press(Qt::Key_Up);
+    ASSERT_EQ(QStringLiteral("Warnings"), chosen());
+    press(Qt::Key_F8, Qt::ShiftModifier);
+    EXPECT_EQ(NoTime, chosen());
+}
+
+TEST_F(CheckPanel, StandsBetweenThePreviewAndTheTotalsForTheTabKey)
+{
+    startWithFindings();
+    openPanel();
+    auto &strip = control<oTotalsStrip>(*window, "oTotalsStrip");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !strip.Shown().isEmpty(); }, 5000));
+    control<QWidget>(*window, "sgPreview").setFocus();
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(list().hasFocus());
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(control<oCloseButton>(panel(), "cmdCloseCheck").hasFocus());
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(strip.isAncestorOf(QApplication::focusWidget()));
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(window->footer()->isAncestorOf(QApplication::focusWidget()));
 }
 
 TEST_F(CheckPanel, LiesOverThePreviewOfANarrowWindow)
@@ -404,6 +518,11 @@ TEST_F(CheckPanel, TintsTheRowOfTheChosenFinding)
     window->PreviewScheduleOfTime();
     ASSERT_GT(grid.TintedRow(), 0) << "drawn anew";
     EXPECT_EQ(QStringLiteral("3"), grid.Text(grid.TintedRow(), 1));
+    for (const auto &item : Form->ScheduleOfTimeItemsCollection())
+        item->OrderID = 4 - item->OrderID();
+    window->Activate();
+    EXPECT_TRUE(chosen().startsWith(QLatin1String("Item 1, 03/06/25,"))) << qPrintable(chosen());
+    EXPECT_EQ(QStringLiteral("3"), grid.Text(grid.TintedRow(), 1)) << "drawn before the items had other numbers";
     press(Qt::Key_End);
     EXPECT_EQ(0, grid.TintedRow()) << "a row of notes";
     press(Qt::Key_Home);

@@ -86,6 +86,22 @@ TEST_F(CostsLimitDialog, LeavesTheFileAsItWasWhenItIsRemoved)
     }
 }
 
+TEST_F(CostsLimitDialog, IsAStepThatCanBeTakenBack)
+{
+    savedClaim();
+    Document().history.join();
+    type("500");
+    EXPECT_EQ(QStringLiteral("Costs Limit"), Document().history.undoName());
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(QString(), mdStoredCostsLimit(*Form));
+    EXPECT_FALSE(FormIsDirty());
+    QTest::keyClick(window.get(), Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(QStringLiteral("500.00"), mdStoredCostsLimit(*Form));
+    Document().history.clear();
+}
+
 TEST_F(CostsLimitDialog, KeepsTheLimitAtCancel)
 {
     savedClaim();

@@ -1,6 +1,7 @@
 // Why a figure is what it is: the sheet over the strip and over the preview.
 
 #include "controls/oCustomButton.h"
+#include "formdata/mdCostsLimit.h"
 #include "preview/oWhySteps.h"
 #include "tests/window/clsFiguresTest.h"
 
@@ -220,7 +221,8 @@ TEST_F(WhySheet, SaysWhenThePreviewIsOlderThanTheClaim)
 {
     grid().setFocus();
     press(Qt::Key_Return);
-    Form->TimeSpent = QStringLiteral("59:59"); // the clock is no change
+    Form->TimeSpent = QStringLiteral("59:59"); // the clock is no change, nor is a limit of costs
+    mdSetCostsLimit(*Form, QStringLiteral("500"));
     press(Qt::Key_Return);
     EXPECT_EQ(QStringLiteral("Item 1"), sheet().Text().about);
     press(Qt::Key_Escape);

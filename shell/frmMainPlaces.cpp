@@ -1,0 +1,28 @@
+#include "shell/frmMain.h"
+
+#include "editors/frmSection.h"
+#include "editors/mdListPlace.h"
+#include "editors/mdWayTo.h"
+#include "formdata/clsClaimPlace.h"
+#include "shell/mdPageBoxes.h"
+
+// The ways from the main window to a place on one of its screens.
+
+void frmMain::OpenField(const QString &target)
+{
+    clsTargetPlace place;
+    if (m_sectionOpen || !mdFindTarget(target, place))
+        return;
+    m_nextWay = [place](frmSection &screen) { mdEnterPlace(screen, place.control, place.item); };
+    tbSubSection_Click(-1, place.section);
+    m_nextWay = nullptr;
+}
+
+void frmMain::OpenPlace(const clsClaimPlace &place)
+{
+    if (m_sectionOpen)
+        return;
+    m_nextWay = mdWayTo(place);
+    tbSubSection_Click(-1, place.Screen);
+    m_nextWay = nullptr;
+}

@@ -5,6 +5,7 @@
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdCostsLimit.h"
 #include "formdata/mdGlobals.h"
+#include "formdata/mdRunStep.h"
 #include "formdata/mdXMLTemplate.h"
 
 namespace {
@@ -57,6 +58,6 @@ bool mdEditCostsLimit(QWidget *owner)
     clsEditedLimit limit(mdStoredCostsLimit(*Form));
     if (!mdEditItem(owner, ScreenCostsLimit(), &limit))
         return false;
-    mdSetCostsLimit(*Form, limit.CostsLimit());
+    RunStep(QStringLiteral("Costs Limit"), [&] { mdSetCostsLimit(*Form, limit.CostsLimit()); });
     return true;
 }

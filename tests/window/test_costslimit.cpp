@@ -2,6 +2,7 @@
 
 #include "controls/oDecimalBox.h"
 #include "formdata/mdCostsLimit.h"
+#include "formdata/mdGlobals.h"
 #include "tests/window/clsFiguresTest.h"
 
 #include <QDialog>
@@ -84,6 +85,24 @@ TEST_F(CostsLimitDialog, LeavesTheFileAsItWasWhenItIsRemoved)
         entry("mnuSave").trigger();
         EXPECT_EQ(before, bytesOf(claim)) << none;
     }
+}
+
+TEST_F(CostsLimitDialog, IsAStepThatCanBeUndone)
+{
+    savedClaim();
+    type("500");
+    EXPECT_EQ(QStringLiteral("Costs Limit"), Document().history.undoName());
+    entry("mnuUndo").trigger();
+    EXPECT_EQ(QString(), mdStoredCostsLimit(*Form));
+    EXPECT_FALSE(FormIsDirty());
+    renew();
+    EXPECT_EQ(nullptr, strip().Item(QStringLiteral("limit")));
+    entry("mnuRedo").trigger();
+    EXPECT_EQ(QStringLiteral("500.00"), mdStoredCostsLimit(*Form));
+    type("700");
+    type("0.00");
+    entry("mnuUndo").trigger();
+    EXPECT_EQ(QStringLiteral("700.00"), mdStoredCostsLimit(*Form));
 }
 
 TEST_F(CostsLimitDialog, KeepsTheLimitAtCancel)

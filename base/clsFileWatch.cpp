@@ -35,6 +35,14 @@ void clsFileWatch::wasWritten(const QString &path, const QByteArray &bytes)
     m_stamp = FileStamp(path);
 }
 
+void clsFileWatch::wasLeft(const QString &path)
+{
+    clsFileWatch left;
+    left.wasRead(path, FileStamp(path));
+    if (path != m_path || left.m_path == path)
+        *this = left;
+}
+
 void clsFileWatch::wasKnown(const QString &path, const QByteArray &mark)
 {
     m_path = path;

@@ -14,6 +14,8 @@ public:
     void wasRead(const QString &path, const std::optional<clsFileStamp> &before);
     /// These bytes were written to it just now.
     void wasWritten(const QString &path, const QByteArray &bytes);
+    /// This program tried to write it and failed: what lies there now is no other program's doing.
+    void wasLeft(const QString &path);
     /// Its content was this when it was last read or written, by an earlier run of the program.
     void wasKnown(const QString &path, const QByteArray &mark);
 

@@ -30,18 +30,23 @@ size_t standsFor(const QString &text, const clsJournalHead &head)
     return seed == 0 ? 1 : seed;
 }
 
-/// Runs what must not fail, and tells the log where it does.
-template <class Step> void guarded(Step step) noexcept
+/// Runs what must not fail, and tells the log where it does. Returns the error's number, 0 for none.
+template <class Step> int guarded(Step step) noexcept
 {
+    int failure = 0;
     try {
         try {
             step();
         } catch (...) {
-            WriteLog(QStringLiteral("Journal: ") + mdRunTimeErrorOf(std::current_exception()).description());
+            failure = clsRunTimeError::OutOfMemory;
+            const clsRunTimeError error = mdRunTimeErrorOf(std::current_exception());
+            failure = error.number();
+            WriteLog(QStringLiteral("Journal: ") + error.description());
         }
     } catch (...) {
         // The log is of no more use then than the journal.
     }
+    return failure;
 }
 
 } // namespace
@@ -66,12 +71,15 @@ void clsJournal::begin(clsJournalHooks hooks)
     end();
     m_hooks = std::move(hooks);
     m_on = true;
+    Document().history.stepTaken = [this] { stepTaken(); };
 }
 
 void clsJournal::end()
 {
     finishWrite();
     letGo();
+    if (m_on)
+        Document().history.stepTaken = nullptr;
     m_hooks = {};
     m_on = false;
     m_notSaved.clear();
@@ -87,8 +95,7 @@ void clsJournal::stepTaken()
 
 std::vector<clsTypedTexts> clsJournal::typedTexts() const
 {
-    std::vector<clsTypedTexts> typed = m_hooks.typedTexts ? m_hooks.typedTexts() : std::vector<clsTypedTexts>();
-    return typed;
+    return m_hooks.typedTexts ? m_hooks.typedTexts() : std::vector<clsTypedTexts>();
 }
 
 bool clsJournal::isNeeded(const QString &text, const std::vector<clsTypedTexts> &typed) const
@@ -96,14 +103,22 @@ bool clsJournal::isNeeded(const QString &text, const std::vector<clsTypedTexts> 
     return !typed.empty() || !m_notSaved.isEmpty() || HoldsUnsavedWork(text);
 }
 
+/// What keeps the journal from being written at all is told like a disk that takes none of it.
+template <class Step> void clsJournal::keep(Step step) noexcept
+{
+    const int failure = guarded(step);
+    if (failure)
+        guarded([&] { m_notKept = FailureInWords(failure); });
+}
+
 void clsJournal::update() noexcept
 {
-    guarded([this] { bringUpToDate(false); });
+    keep([this] { bringUpToDate(false); });
 }
 
 void clsJournal::flush() noexcept
 {
-    guarded([this] {
+    keep([this] {
         finishWrite();
         bringUpToDate(true);
     });

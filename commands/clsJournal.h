@@ -26,12 +26,12 @@ public:
     clsJournal(const clsJournal &) = delete;
     clsJournal &operator=(const clsJournal &) = delete;
 
-    /// Begins to keep a journal.
+    /// Begins to keep a journal. The steps of the claim's history are its steps from then on.
     void begin(clsJournalHooks hooks);
     /// Ends it. The journal that lies there stays.
     void end();
 
-    /// Something of the claim has changed. This only notes it.
+    /// Something has changed that the history doesn't tell of. This only notes it.
     void stepTaken();
     /// Brings the journal up to date, where it isn't. The writing itself goes on in the background; while it does, this
     /// does nothing but look whether it has ended.
@@ -62,6 +62,7 @@ private:
         clsJournalHead head;
     };
 
+    template <class Step> void keep(Step step) noexcept;
     bool isNeeded(const QString &text, const std::vector<clsTypedTexts> &typed) const;
     std::vector<clsTypedTexts> typedTexts() const;
     void bringUpToDate(bool atOnce);

@@ -115,10 +115,15 @@ void clsLeftJournals::lookAt(const QString &file)
         m_all.push_back({file, contents->head});
 }
 
+/// Where that can't be done it stays, and keeps nothing else from being offered.
 void clsLeftJournals::setAside(const QString &file)
 {
+    try {
+        FileSystem().RenameFile(file, file + QStringLiteral(".broken"));
+    } catch (const clsRunTimeError &) {
+        return;
+    }
     WriteLog(QStringLiteral("Journal: broken and set aside: ") + file);
-    FileSystem().RenameFile(file, file + QStringLiteral(".broken"));
     ++m_broken;
     RemoveJournal(file);
 }
@@ -128,10 +133,14 @@ bool clsLeftJournals::open(const clsLeftJournal &left)
     auto lock = std::make_unique<clsHeldFile>(JournalLock(left.file));
     if (!lock->isHeld())
         return false;
-    std::optional<clsJournalContents> contents;
+    QByteArray bytes;
     try {
-        contents = ReadJournal(FileSystem().ReadFile(left.file));
-    } catch (const clsRunTimeError &) { }
+        bytes = FileSystem().ReadFile(left.file);
+    } catch (const clsRunTimeError &) {
+        // It may be whole all the same, and is offered again.
+        return false;
+    }
+    const auto contents = ReadJournal(bytes);
     if (!contents || !opened(*contents)) {
         setAside(left.file);
         return false;

@@ -75,7 +75,7 @@ bool loadForm(const QString &path)
 /// writes over it. Whether that could be done; nothing where there was nothing to keep.
 std::optional<bool> setOtherContentAside()
 {
-    if (Document().filePath() != Document().onDisk.path() || !Document().onDisk.changedByOthers())
+    if (!Document().changedOnDisk())
         return {};
     try {
         const QByteArray bytes = FileSystem().ReadFile(Document().filePath());
@@ -154,6 +154,8 @@ bool SaveForm(bool saveAs)
     Document().takeAsClean();
     if (written)
         Document().onDisk.wasWritten(Document().filePath(), mdToCodePage(CleanXML));
+    else if (!keptOther)
+        Document().onDisk.wasLeft(Document().filePath());
     Journal().saved(written, failure);
     if (written && keptOther)
         UserInterface().tellLine(*keptOther
@@ -221,8 +223,9 @@ void OpenFormFile(const QString &path)
 {
     // A tick of the stopwatch would write the time of the claim before into this one.
     run(formDisplay.stopTimer);
-    const QScopedValueRollback<bool> reading(Document().opening, true);
+    // Before the claim counts as being opened: the journal of one whose save failed takes its last changes along.
     Journal().leaveClaim();
+    const QScopedValueRollback<bool> reading(Document().opening, true);
     // The claim before is gone from here on, also where the load fails, and its clean text with it.
     Document().replaceForm();
     Document().takeAsClean();
@@ -244,12 +247,12 @@ void OpenFormFile(const QString &path)
 bool OpenFormText(const QByteArray &bytes, const QString &path, const QByteArray &known)
 {
     run(formDisplay.stopTimer);
-    const QScopedValueRollback<bool> reading(Document().opening, true);
     // The open claim stays until this one is whole.
     auto form = std::make_unique<clsZR3Form>();
     if (!form->LoadText(mdUtf8FromCodePage(bytes)))
         return false;
     Journal().leaveClaim();
+    const QScopedValueRollback<bool> reading(Document().opening, true);
     Document().replaceForm();
     Form = std::move(form);
     Document().givePath(path);

@@ -1,7 +1,6 @@
 #include "editors/clsListActions.h"
 
 #include "base/mdCustomMessages.h"
-#include "commands/clsJournal.h"
 #include "controls/mdIcons.h"
 #include "controls/mdLeaveFocusedBox.h"
 #include "controls/mdTheme.h"
@@ -190,7 +189,6 @@ void clsListActions::tellChanged()
     emit Changed();
     if (m_list.changed)
         m_list.changed();
-    Journal().stepTaken();
 }
 
 void clsListActions::tellWhatCanBeAdded()

@@ -2,7 +2,6 @@
 
 #include "base/clsRunTimeError.h"
 #include "base/mdLog.h"
-#include "commands/clsJournal.h"
 #include "commands/mdFileHandling.h"
 #include "controls/mdLeaveFocusedBox.h"
 #include "controls/mdTheme.h"
@@ -230,7 +229,6 @@ void frmSection::Store(clsStoring storing)
             if (storing == clsStoring::Closing || !(field.row->flags & AtCloseOnly))
                 mdStoreControl(*field.row, *field.control, *m_record);
     emit Stored();
-    Journal().stepTaken();
 }
 
 /// What an item's editor stores is part of what its list does, and the preferences are no claim.

@@ -53,6 +53,13 @@ QString clsDocument::filePath() const
     return held == m_path.held ? m_path.real : held;
 }
 
+std::optional<QDateTime> clsDocument::changedOnDisk()
+{
+    if (!form || filePath() != onDisk.path())
+        return {};
+    return onDisk.changedByOthers();
+}
+
 QString clsDocument::copyName() const
 {
     const QString real = filePath();

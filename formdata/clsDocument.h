@@ -36,6 +36,8 @@ public:
     /// holds its path in the code page, where a foreign character is a question mark: whatever touches the file asks
     /// here.
     QString filePath() const;
+    /// When another program changed the claim's file; nothing where none has, or the claim has another file by now.
+    std::optional<QDateTime> changedOnDisk();
     /// The name that a copy of the claim bears: its file's, or the fixed one of an unsaved claim.
     QString copyName() const;
 

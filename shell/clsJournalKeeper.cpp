@@ -152,7 +152,7 @@ void clsJournalKeeper::show()
     };
     if (const QString why = Journal().notSaved(); !why.isEmpty())
         add(NotSaved, QStringLiteral("Not saved: ") + why);
-    if (const auto changed = Document().onDisk.changedByOthers())
+    if (const auto changed = Document().changedOnDisk())
         add(ChangedOnDisk, changedSentence(*changed));
     for (const clsLeftJournal &one : m_left.all())
         add(NotClosed, leftSentence(one.head), one.file);

@@ -1,7 +1,6 @@
 #include "shell/frmMain.h"
 
 #include "base/mdLog.h"
-#include "commands/clsJournal.h"
 #include "commands/mdAutoDeleteBackups.h"
 #include "commands/mdAutoSave.h"
 #include "commands/mdFileHandling.h"
@@ -265,7 +264,6 @@ void frmMain::Activate()
         return;
     WriteLog(objectName() + QStringLiteral(" Opened"));
     UpdateInfo();
-    Journal().stepTaken();
     m_journal->refresh();
     // Without the mark on the tab that was clicked, the same one can be clicked again.
     tbSubSection->SwitchTo(0);

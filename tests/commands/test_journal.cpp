@@ -1,6 +1,7 @@
 // The recovery copy of the open claim: when there is one, what it holds, and when it goes.
 
 #include "base/mdCodePage.h"
+#include "formdata/mdRunStep.h"
 #include "tests/commands/clsJournalTest.h"
 
 #include <QCoreApplication>
@@ -176,6 +177,23 @@ TEST_F(JournalKept, StaysWhenASaveFails)
     EXPECT_EQ(1u, left.all().size());
 }
 
+TEST_F(JournalKept, OfAFailedSaveHoldsTheLastChangesWhenAnotherClaimIsOpened)
+{
+    const QString other = claimFrom("housing-typical.zr3", "claims/Other.zr3");
+    const QString claim = changedClaim();
+    FileSystem().faultPoint = [&](clsFileStep step, const QString &at) {
+        return step == clsFileStep::Write && at == claim ? clsFileFault {ENOSPC, 100} : clsFileFault();
+    };
+    SaveForm(false);
+    FileSystem().faultPoint = nullptr;
+    change();
+    const QByteArray last = mdToCodePage(Form->XMLOutput());
+    OpenFormFile(other);
+    ASSERT_TRUE(contents());
+    EXPECT_EQ(last, contents()->claim);
+    EXPECT_EQ(claim, contents()->head.claim);
+}
+
 TEST_F(JournalKept, ASaveAfterOneThatFailedTakesItAway)
 {
     const QString claim = changedClaim();
@@ -217,6 +235,22 @@ TEST_F(JournalKept, AFullDiskLeavesTheJournalBeforeAndSaysSo)
     EXPECT_EQ(QStringLiteral("the disk is full"), Journal().notKept());
     EXPECT_EQ(before, bytesOf(journal()));
     EXPECT_EQ(2, allFiles().size()) << "the journal and its lock";
+    FileSystem().faultPoint = nullptr;
+    Journal().flush();
+    EXPECT_TRUE(Journal().notKept().isEmpty());
+    EXPECT_EQ(mdToCodePage(Form->XMLOutput()), contents()->claim);
+}
+
+TEST_F(JournalKept, AFolderThatCannotBeLookedIntoSaysSo)
+{
+    changedClaim();
+    change();
+    FileSystem().faultPoint = [](clsFileStep step, const QString &at) {
+        return step == clsFileStep::Inspect && at.endsWith(QLatin1String(".lock")) ? clsFileFault {EIO}
+                                                                                   : clsFileFault();
+    };
+    Journal().flush();
+    EXPECT_EQ(QStringLiteral("the disk does not answer"), Journal().notKept());
     FileSystem().faultPoint = nullptr;
     Journal().flush();
     EXPECT_TRUE(Journal().notKept().isEmpty());
@@ -311,6 +345,21 @@ TEST_F(JournalKept, OfTwoUsersOfOneDatabaseFolderKnowNothingOfEachOther)
     left.look();
     EXPECT_TRUE(left.all().empty());
     EXPECT_FALSE(QFileInfo::exists(path("another user's state"))) << "looking makes nothing";
+}
+
+TEST_F(JournalKept, IsToldOfEachStepUndoAndRedo)
+{
+    savedClaim();
+    steps = 0;
+    RunStep(QStringLiteral("Notes"), change);
+    EXPECT_EQ(1, steps);
+    Document().history.undo();
+    EXPECT_EQ(2, steps);
+    Document().history.redo();
+    EXPECT_EQ(3, steps);
+    Journal().end();
+    RunStep(QStringLiteral("Notes"), change);
+    EXPECT_EQ(3, steps);
 }
 
 TEST_F(JournalKept, IsNotKeptWithoutAWindow)

@@ -156,6 +156,38 @@ TEST_F(LeftJournals, ThatAreBrokenAreSetAsideAndHarmNothing)
     EXPECT_TRUE(user.messages.empty());
 }
 
+TEST_F(LeftJournals, ThatCannotBeSetAsideKeepNoOtherFromBeingOffered)
+{
+    changedClaim();
+    kill();
+    // Before any other name.
+    const QString broken = path("state/Velmor/Journal/!.journal");
+    put(broken, "nonsense");
+    FileSystem().faultPoint = [](clsFileStep step, const QString &) {
+        return step == clsFileStep::Rename ? clsFileFault {EROFS} : clsFileFault();
+    };
+    ASSERT_EQ(1u, look().size());
+    EXPECT_EQ(path("claims/Smith.zr3"), left.all()[0].head.claim);
+    EXPECT_EQ(0, left.broken());
+    EXPECT_EQ("nonsense", bytesOf(broken));
+}
+
+TEST_F(LeftJournals, ThatCannotBeReadAreOfferedAgain)
+{
+    changedClaim();
+    kill();
+    ASSERT_EQ(1u, look().size());
+    FileSystem().faultPoint = [](clsFileStep step, const QString &at) {
+        return step == clsFileStep::Read && at.endsWith(QLatin1String(".journal")) ? clsFileFault {EIO}
+                                                                                   : clsFileFault();
+    };
+    EXPECT_FALSE(left.open(left.all().at(0)));
+    FileSystem().faultPoint = nullptr;
+    EXPECT_EQ(0, left.broken());
+    ASSERT_EQ(1u, look().size());
+    EXPECT_TRUE(left.open(left.all().at(0)));
+}
+
 TEST_F(LeftJournals, WhoseClaimIsNoneAreSetAsideAndTheOpenOneStays)
 {
     changedClaim();

@@ -101,3 +101,42 @@ TEST_F(OtherContent, IsFoundThatCameWhileTheProgramLayKilled)
     SaveForm(false);
     EXPECT_EQ(1, aside().size());
 }
+
+TEST_F(OtherContent, IsNotWhatAFailedSaveHasLeft)
+{
+    const QString claim = savedClaim();
+    const QByteArray before = bytesOf(claim);
+    change();
+    FileSystem().faultPoint = [&](clsFileStep step, const QString &at) {
+        return step == clsFileStep::Write && at == claim ? clsFileFault {ENOSPC, 100} : clsFileFault();
+    };
+    SaveForm(false);
+    ASSERT_NE(before, bytesOf(claim));
+    EXPECT_FALSE(Document().changedOnDisk());
+    FileSystem().faultPoint = nullptr;
+    SaveForm(false);
+    EXPECT_TRUE(aside().isEmpty());
+    EXPECT_TRUE(user.lines.isEmpty());
+}
+
+TEST_F(OtherContent, IsStillFoundAfterASaveThatFailed)
+{
+    const QString claim = savedClaim();
+    put(claim, bytesOf(claim) + "<!-- theirs -->");
+    change();
+    FileSystem().faultPoint = [&](clsFileStep step, const QString &at) {
+        return step == clsFileStep::OpenToWrite && at == claim ? clsFileFault {EACCES} : clsFileFault();
+    };
+    SaveForm(false);
+    EXPECT_TRUE(Document().changedOnDisk());
+    EXPECT_EQ(1, aside().size());
+}
+
+TEST_F(OtherContent, OfTheClaimThatANewOneWasBegunFromIsNone)
+{
+    const QString claim = savedClaim();
+    user.files = {claim};
+    OpenFormDialog(true);
+    put(claim, bytesOf(claim) + "<!-- theirs -->");
+    EXPECT_FALSE(Document().changedOnDisk());
+}

@@ -2,6 +2,7 @@
 
 #include "controls/oDecimalBox.h"
 #include "formdata/mdCostsLimit.h"
+#include "formdata/mdGlobals.h"
 #include "tests/window/clsFiguresTest.h"
 
 #include <QDialog>
@@ -86,20 +87,22 @@ TEST_F(CostsLimitDialog, LeavesTheFileAsItWasWhenItIsRemoved)
     }
 }
 
-TEST_F(CostsLimitDialog, IsAStepThatCanBeTakenBack)
+TEST_F(CostsLimitDialog, IsAStepThatCanBeUndone)
 {
     savedClaim();
-    Document().history.join();
     type("500");
     EXPECT_EQ(QStringLiteral("Costs Limit"), Document().history.undoName());
-    window->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-    QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier);
+    entry("mnuUndo").trigger();
     EXPECT_EQ(QString(), mdStoredCostsLimit(*Form));
     EXPECT_FALSE(FormIsDirty());
-    QTest::keyClick(window.get(), Qt::Key_Y, Qt::ControlModifier);
+    renew();
+    EXPECT_EQ(nullptr, strip().Item(QStringLiteral("limit")));
+    entry("mnuRedo").trigger();
     EXPECT_EQ(QStringLiteral("500.00"), mdStoredCostsLimit(*Form));
-    Document().history.clear();
+    type("700");
+    type("0.00");
+    entry("mnuUndo").trigger();
+    EXPECT_EQ(QStringLiteral("700.00"), mdStoredCostsLimit(*Form));
 }
 
 TEST_F(CostsLimitDialog, KeepsTheLimitAtCancel)

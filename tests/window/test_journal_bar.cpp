@@ -6,6 +6,7 @@
 #include "controls/oFooterLine.h"
 #include "controls/oNoticeBar.h"
 #include "editors/frmSection.h"
+#include "formdata/mdRunStep.h"
 #include "shell/clsJournalKeeper.h"
 #include "tests/window/clsMainWindowTest.h"
 
@@ -85,9 +86,12 @@ TEST_F(JournalBar, AStepIsWrittenSoonAfterIt)
     savedClaim();
     QTest::qWait(400);
     EXPECT_TRUE(journals().isEmpty());
-    Form->ClientDetails.Surname = QStringLiteral("Hartwell");
-    Journal().stepTaken();
+    RunStep(QStringLiteral("Client Details"), [] { Form->ClientDetails.Surname = QStringLiteral("Hartwell"); });
     EXPECT_TRUE(journals().isEmpty()) << "not inside the step";
+    QTRY_VERIFY(journal().contains("Hartwell"));
+    entry("mnuUndo").trigger();
+    QTRY_VERIFY(journals().isEmpty());
+    entry("mnuRedo").trigger();
     QTRY_VERIFY(journal().contains("Hartwell"));
 }
 

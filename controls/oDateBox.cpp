@@ -9,14 +9,33 @@
 #include "controls/oTypedText.h"
 
 #include <QBoxLayout>
+#include <QKeyEvent>
+#include <QSignalBlocker>
 
 namespace {
 
-/// A date without its year falls into the year that was typed last, into whichever date box of the program.
+/// The year that was typed last, into whichever date box of the program: a date without its year falls into it.
+int lastYear = 0;
+/// The date that Up or Down gave, until something is typed: its year is not one that was typed.
+QString steppedTo;
+
 std::optional<QString> typedDate(const QString &text)
 {
-    static int lastYear = 0;
+    if (!steppedTo.isEmpty() && text == steppedTo)
+        return text;
     return TypedDate(text, lastYear);
+}
+
+/// The date so many days later, over the one that means no date; nothing where the text is no date.
+QString stepped(const QString &text, int days)
+{
+    int year = lastYear;
+    const std::optional<QString> date = TypedDate(text, year);
+    const std::optional<QDate> day = date ? DateFromText(*date) : std::nullopt;
+    if (!day)
+        return {};
+    const QString next = DateText(day->addDays(days));
+    return next == NoDate ? DateText(day->addDays(2 * days)) : next;
 }
 
 // clang-format off
@@ -44,6 +63,7 @@ oDateBox::oDateBox(QWidget *parent)
     static_cast<QBoxLayout *>(layout())->insertWidget(0, chkShowDate);
     setTabOrder(chkShowDate, txtText);
     connect(chkShowDate, &oCheckBox::Click, this, &oDateBox::ticked);
+    connect(txtText, &QLineEdit::textEdited, this, [] { steppedTo.clear(); });
 }
 
 QString oDateBox::Text() const
@@ -69,6 +89,35 @@ void oDateBox::setText(const QString &text)
         chkShowDate->setChecked(false);
         ticked(false);
     }
+}
+
+void oDateBox::Clear()
+{
+    {
+        const QSignalBlocker quiet(chkShowDate);
+        chkShowDate->setChecked(true);
+    }
+    txtText->setEnabled(true);
+    txtText->clear();
+    txtText->validate(); // an empty box is never pink
+}
+
+/// The text box leaves both keys to this one. What was typed in it can be had back by its undo.
+void oDateBox::keyPressEvent(QKeyEvent *event)
+{
+    const int days = event->key() == Qt::Key_Up ? 1 : event->key() == Qt::Key_Down ? -1 : 0;
+    if (days == 0 || (event->modifiers() & ~Qt::KeypadModifier) || !txtText->isActive()) {
+        QFrame::keyPressEvent(event);
+        return;
+    }
+    event->accept();
+    const QString next = stepped(txtText->text(), days);
+    if (next.isEmpty())
+        return;
+    txtText->selectAll();
+    txtText->insert(next);
+    txtText->selectAll();
+    steppedTo = next;
 }
 
 void oDateBox::setShowTickBox(bool show)

@@ -7,8 +7,8 @@ class oTypedText;
 
 /// A box for a date, with or without a tick in front of it. Leaving it, and a value that the program writes, give
 /// "dd/mm/yy"; what is no date is held. A date typed without its year falls into the year that was last used in any
-/// date box of the program. With the tick, no date is the text "31/12/29" outside and an empty box inside. See
-/// oTypedText.
+/// date box of the program. Up and Down step a day. With the tick, no date is the text "31/12/29" outside and an empty
+/// box inside. See oTypedText.
 class oDateBox : public QFrame {
     Q_OBJECT
     Q_PROPERTY(QString Text READ Text WRITE setText)
@@ -21,6 +21,9 @@ public:
     /// The no-date value clears the tick, shown or not, and so disables and empties the box.
     void setText(const QString &text);
 
+    /// Empties the box for the next item: the tick is set, and no date is given yet.
+    void Clear();
+
     /// Whether the tick is set, shown or not.
     bool HasDate() const;
     /// What stands in the box, empty where nothing does.
@@ -28,6 +31,9 @@ public:
 
     bool ShowTickBox() const { return m_showTickBox; }
     void setShowTickBox(bool show);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void ticked(bool hasDate);

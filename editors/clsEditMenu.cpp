@@ -23,6 +23,7 @@ struct clsEditRow {
 constexpr clsEditRow Rows[] = {
     {"&Undo", "mnuUndo", "Ctrl+Z",              &clsEditCommands::undo, [] { return Document().history.undoName(); }},
     {"&Redo", "mnuRedo", "Ctrl+Shift+Z; Ctrl+Y", &clsEditCommands::redo, [] { return Document().history.redoName(); }},
+    {"Same &Again", "mnuSameAgain", "Ctrl+D",   &clsEditCommands::sameAgain, nullptr},
 };
 // clang-format on
 

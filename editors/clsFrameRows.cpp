@@ -17,6 +17,7 @@ namespace {
 constexpr int NarrowestLabels = 120;
 constexpr int TickRowGap = 6;
 constexpr int AnswerGap = 6;
+constexpr int BeneathGap = 6;
 constexpr int SecondColumnGap = 80;
 /// A list takes all the height that is left over. Boxes take nearly all until they are as high as they become, and then
 /// it goes below the rows.
@@ -151,6 +152,10 @@ void clsFrameRows::addControl(const clsScreenRow &row)
         addBelowCaption(row, control, true);
     else
         addBesideCaption(row, control);
+    if (row.beneath) {
+        addSpace(BeneathGap);
+        m_grid->addWidget(row.beneath(&m_frame), m_line++, 1);
+    }
     if (row.flags & NoteBeneath) {
         oBoxNote::PutBeneath(*control);
         addSpace(oBoxNote::lineBeneath());

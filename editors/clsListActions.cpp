@@ -100,30 +100,54 @@ void clsListActions::takeInsert(int key, Qt::KeyboardModifiers shift, bool *doDe
 
 void clsListActions::addItem()
 {
-    if (!mdLeaveFocusedBox(&m_screen))
-        return;
-    bool added = false;
-    RunStep([&] {
-        added = mdEditItem(&m_screen, m_list.editor(), nullptr);
-        // What the editor opened in its turn is kept even where the editor itself was cancelled.
-        tellChanged();
-        return stepOf("Add", added ? m_list.item(m_grid.Rows()) : nullptr);
-    });
-    // The next key goes on from the new item. It is the last of the claim's list, wherever the grid sorts it.
-    if (added)
-        m_grid.SelectItem(m_grid.Rows());
-    m_grid.setFocus(Qt::OtherFocusReason);
+    if (mdLeaveFocusedBox(&m_screen))
+        openEditor(nullptr);
 }
 
 void clsListActions::editItem(int index)
 {
-    const std::shared_ptr<clsXMLRecord> item = m_list.item(index);
-    RunStep([&] {
-        mdEditItem(&m_screen, m_list.editor(), item.get());
+    openEditor(m_list.item(index));
+}
+
+bool clsListActions::HasFocus() const
+{
+    return m_grid.isAncestorOf(m_screen.focusWidget());
+}
+
+void clsListActions::SameAgain()
+{
+    const int index = m_grid.SelectedItemData();
+    if (index > 0 && m_add && m_add->isEnabled() && mdLeaveFocusedBox(&m_screen))
+        openEditor(nullptr, m_list.item(index).get());
+}
+
+/// Opens the editor of an item, or of a new one, which may begin like another. "Save and Add" stores one after the
+/// other, each a step; the next key in the list goes on from the last of them.
+void clsListActions::openEditor(std::shared_ptr<clsXMLRecord> item, clsXMLRecord *like)
+{
+    std::shared_ptr<clsXMLRecord> last = item;
+    // What the editor opened in its turn is kept even where the editor itself was cancelled. A new item is the last of
+    // the claim's list, wherever the grid sorts it.
+    const auto showStored = [&](bool stored) {
         tellChanged();
-        return stepOf("Edit", item);
+        if (stored && !item)
+            last = m_list.item(m_grid.Rows());
+        return stepOf(item ? "Edit" : "Add", stored || item ? last : nullptr);
+    };
+    RunStep([&] {
+        const bool saved = mdEditItem(&m_screen, m_list.editor(), item.get(), [&](frmSection &editor) {
+            if (like)
+                editor.StartLike(*like);
+            editor.setAdded([&] {
+                Document().history.take(showStored(true));
+                item = nullptr;
+                return mdItemAsStored(m_list, *last);
+            });
+        });
+        return showStored(saved);
     });
-    select(item);
+    if (last)
+        select(last);
     m_grid.setFocus(Qt::OtherFocusReason);
 }
 

@@ -21,6 +21,10 @@ public:
     /// Shows the items as they now are, the same row selected.
     void redraw();
     int Rows() const;
+    bool HasFocus() const;
+    bool AddsItems() const { return m_add; }
+    /// Opens the editor of a new item that begins as a copy of the selected one.
+    void SameAgain();
     /// Selects the row of an item; false where it is of another list.
     bool Show(const clsZR3Item *item);
 
@@ -35,6 +39,7 @@ private:
     void takeInsert(int key, Qt::KeyboardModifiers shift, bool *doDefault);
     void addItem();
     void editItem(int index);
+    void openEditor(std::shared_ptr<clsXMLRecord> item, clsXMLRecord *like = nullptr);
     void select(const std::shared_ptr<clsXMLRecord> &item);
     void deleteItem();
     bool mayDelete(int index) const;

@@ -52,6 +52,7 @@ enum clsFieldFlag : unsigned {
     AtCloseOnly = 2048, ///< stored by the button that closes, and not on the way to another section
     CaptionAbove = 4096, ///< the caption stands over the field, where there is more height than width
     NoteBeneath = 8192, ///< notes stand in a line under the box, since there is no room for them beside it
+    Kept = 16384, ///< "Save and Add" leaves it as it is for the next item
 };
 
 struct clsScreenRow;
@@ -80,6 +81,7 @@ struct clsItemList {
     bool orderable = true;
     std::vector<clsItemColumn> columns {};
     std::vector<const char *> called {}; ///< the properties that an item is called by where a step is named
+    std::vector<const char *> told {}; ///< the same where "Save and Add" says what it stored; as `called` where empty
     void (*show)(oSGrid &grid) = nullptr; ///< hands the grid its collection
     clsFigureFaults (*faults)(const clsZR3Item &item) = nullptr; ///< what is wrong with an item
     const char *empty = ""; ///< what an empty grid says
@@ -125,6 +127,7 @@ struct clsScreenRow {
     const clsItemList *items = nullptr;
     const char *beside = nullptr; ///< a tick that stands in the line of this one, in a second column
     const char *spoken = nullptr; ///< what a screen reader says where the caption alone says too little
+    QWidget *(*beneath)(QWidget *parent) = nullptr; ///< makes what stands under the field and only tells something
 };
 
 /// A page of a frame whose pages are opened one at a time.

@@ -55,7 +55,8 @@ clsScreenUndo::clsScreenUndo(frmSection &screen, QMenuBar &menus, oListLine &lin
 {
     QMenu *edit = mdMakeEditMenu(screen,
         {.undo = [this] { run(&clsHistory::undo, &clsHistory::undoItem); },
-            .redo = [this] { run(&clsHistory::redo, &clsHistory::redoItem); }});
+            .redo = [this] { run(&clsHistory::redo, &clsHistory::redoItem); },
+            .sameAgain = screen.AddsItems() ? [this] { m_screen.SameAgain(); } : std::function<void()>()});
     // Behind "File".
     menus.insertMenu(menus.actions().value(1), edit);
 }

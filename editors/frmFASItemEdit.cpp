@@ -17,7 +17,8 @@ const clsScreen &ScreenFASItemEdit()
         .ending = clsScreenEnding::SaveCancel,
         .frames = {
             {"bxGeneral", "Family Advocacy Scheme Item", {
-                {.kind = Date, .control = "txtDate", .caption = "Date:*", .flags = Required, .member = "dDate"},
+                {.kind = Date, .control = "txtDate", .caption = "Date:*", .flags = Required | Kept,
+                 .member = "dDate"},
                 {Text,    "txtLevelOfCourt",              "Type of Judge:", 0, SpellCheck},
                 {Text,    "txtFDR",                       "Interim / FAM or FDR:", 0, SpellCheck},
                 {Integer, "txtActualTimeSpent",           "Actual Time Spent (mins):"},

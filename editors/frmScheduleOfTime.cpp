@@ -36,6 +36,7 @@ const clsItemList ScheduleItems {
         {"Enh",        "IncludeInEnhancements", 9, clsGridAlignment::Centre, false, "EnhancementUniqueID"},
     },
     .called = {"DDate", "Code", "TTime"},
+    .told = {"DDate", "FeeEarnerReference", "Code", "TTime"},
     .show = [](oSGrid &grid) { grid.setItemCollection(Form->ScheduleOfTimeItemsCollection()); },
     .faults = mdItemFaults<clsZR3ScheduleOfTimeItem>,
     .empty = "No items yet. Add one to begin.",

@@ -8,6 +8,7 @@
 #include "editors/oCodeCombo.h"
 #include "editors/oEnhancementsBox.h"
 #include "editors/oFeeEarnerCombo.h"
+#include "editors/oPriceLine.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
 
@@ -111,6 +112,7 @@ void rules(frmSection &screen)
         if (time.Text().isEmpty())
             time.setText(QStringLiteral("00:00"));
     });
+    screen.findChild<oPriceLine *>()->Follow(screen);
 }
 
 } // namespace
@@ -130,11 +132,14 @@ const clsScreen &ScreenScheduleOfTimeItemEdit()
         .ending = clsScreenEnding::SaveCancel,
         .frames = {
             {"bxGeneral", "Schedule of Time Item", {
-                {.kind = Other, .control = "cmbFeeEarner", .caption = "Fee Earner:*", .other = &FeeEarner},
-                {.kind = Date,  .control = "txtDate", .caption = "Date:*", .flags = DateTick, .member = "dDate"},
+                {.kind = Other, .control = "cmbFeeEarner", .caption = "Fee Earner:*", .flags = Kept,
+                 .other = &FeeEarner},
+                {.kind = Date,  .control = "txtDate", .caption = "Date:*", .flags = DateTick | Kept,
+                 .member = "dDate"},
                 {.kind = Other, .control = "cmbCode", .caption = "Code:*", .other = &Code},
                 {.kind = Text,  .control = "txtDescription", .caption = "Description:", .flags = SpellCheck},
-                {.kind = Time,  .control = "txtTime", .caption = "Time:*", .member = "TTime"},
+                {.kind = Time,  .control = "txtTime", .caption = "Time:*", .member = "TTime",
+                 .beneath = [](QWidget *parent) -> QWidget * { return new oPriceLine(parent); }},
                 {Separator},
                 {.kind = Tick,  .control = "chkAdvocacy", .caption = "Advocacy:"},
                 {.kind = Tick,  .control = "chkCounsel", .caption = "Counsel:", .group = 'c'},

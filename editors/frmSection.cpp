@@ -148,6 +148,7 @@ void frmSection::connectBar()
     connect(m_bar, &oScreenBar::Prev, this, &frmSection::Prev);
     connect(m_bar, &oScreenBar::Next, this, &frmSection::Next);
     connect(m_bar, &oScreenBar::Save, this, &frmSection::Save);
+    connect(m_bar, &oScreenBar::SaveAndAdd, this, &frmSection::SaveAndAdd);
     connect(m_bar, &oScreenBar::Close, this, &frmSection::Close);
     connect(m_bar, &oScreenBar::Jump, this, [this](const QString &section) { JumpTo(section, true); });
     connect(m_bar, &oScreenBar::Cancel, this, [this] {
@@ -199,12 +200,19 @@ void frmSection::Initialise(clsXMLRecord *item)
         Document().history.join();
     emit Loaded();
     m_loadedTexts = mdFieldTexts(m_fields);
-    // The first field that can take it has the focus, unless the rules have put it elsewhere.
+    // Unless the rules have put the focus elsewhere.
+    enterFirst(None);
+}
+
+/// Gives the focus, where nothing has it, to the first field that can take it and has none of the flags.
+void frmSection::enterFirst(unsigned passedOver)
+{
     for (const clsScreenField &field : m_fields) {
         if (focusWidget())
             break;
         const bool offered = field.control->isEnabledTo(this) && field.control->isVisibleTo(this);
-        if (offered && (field.control->focusProxy() || field.control->focusPolicy()))
+        if (offered && !(field.row->flags & passedOver)
+            && (field.control->focusProxy() || field.control->focusPolicy()))
             field.control->setFocus(Qt::TabFocusReason);
     }
 }
@@ -273,9 +281,14 @@ bool frmSection::checkTyped()
     return std::none_of(m_fields.begin(), m_fields.end(), holds);
 }
 
+bool frmSection::mayStore()
+{
+    return mdLeaveFocusedBox(this) && checkRequired() && checkTyped() && (!m_mayStore || m_mayStore());
+}
+
 void frmSection::Save()
 {
-    if (!mdLeaveFocusedBox(this) || !checkRequired() || !checkTyped() || (m_mayStore && !m_mayStore()))
+    if (!mayStore())
         return;
     storeAsStep(clsStoring::Closing);
     done(Accepted);

@@ -37,6 +37,8 @@ public:
     void Initialise();
     /// The same for the editor of an item, or for a new one that the first Save makes.
     void Initialise(clsXMLRecord *item);
+    /// Fills the controls of a new item with what another holds.
+    void StartLike(clsXMLRecord &other);
     /// The record that is edited; nothing while a new item has none.
     clsXMLRecord *Record() const { return m_record; }
 
@@ -44,6 +46,8 @@ public:
     /// way to another section all but those that are stored at the close only.
     void Store(clsStoring storing);
     void Save();
+    /// Stores as Save does and stays open for a new item, which begins with what its table keeps.
+    void SaveAndAdd();
     void Cancel();
     void Close();
     void Prev();
@@ -54,6 +58,13 @@ public:
     /// A rule's own check before a Save, once nothing required is missing and before anything is made or written. Where
     /// it says no, having told the user why, the screen stays.
     void setMayStore(std::function<bool()> mayStore) { m_mayStore = std::move(mayStore); }
+
+    /// Told of each item that "Save and Add" has stored; says what the item is called.
+    void setAdded(std::function<QString()> added) { m_added = std::move(added); }
+    /// Adds a copy of the item that is chosen in the list with the focus, after the user has been through its editor.
+    void SameAgain();
+    /// Whether one of its lists takes new items.
+    bool AddsItems() const;
 
     /// The control of that name; a name that the screen doesn't have is the object error.
     QWidget &Box(const char *name) const;
@@ -99,6 +110,8 @@ private:
     void buildJumpMenu();
     void connectBar();
     void makeTicksExclusive();
+    bool mayStore();
+    void enterFirst(unsigned passedOver);
     bool checkRequired();
     bool checkTyped();
     void leaveFor(const QString &section);
@@ -121,4 +134,5 @@ private:
     oListLine *m_line = nullptr;
     clsScreenUndo *m_undo = nullptr;
     std::function<bool()> m_mayStore;
+    std::function<QString()> m_added;
 };

@@ -45,6 +45,18 @@ void frmSection::buildUndo()
     }
 }
 
+bool frmSection::AddsItems() const
+{
+    return std::any_of(m_lists.begin(), m_lists.end(), [](const clsList &list) { return list.actions->AddsItems(); });
+}
+
+void frmSection::SameAgain()
+{
+    for (const clsList &list : m_lists)
+        if (list.actions->HasFocus() || m_lists.size() == 1)
+            return list.actions->SameAgain();
+}
+
 void frmSection::ShowItem(const clsZR3Item *item)
 {
     if (!item)

@@ -1,5 +1,6 @@
 #include "editors/mdItemInShort.h"
 
+#include "base/clsRunTimeError.h"
 #include "base/mdPrint.h"
 #include "editors/clsScreenTable.h"
 #include "formdata/mdLateProperty.h"
@@ -9,16 +10,31 @@ namespace {
 /// A menu with more would be wider than many a window.
 constexpr qsizetype Longest = 48;
 
-} // namespace
-
-QString mdItemInShort(const clsItemList &list, const clsXMLRecord &item)
+QString named(const clsItemList &list, const clsXMLRecord &item, const std::vector<const char *> &properties)
 {
     QStringList parts;
-    for (const char *property : list.called)
+    for (const char *property : properties)
         if (const QString part = ReadProperty(item, QString::fromLatin1(property)); !part.isEmpty())
             parts << part;
     const QString name = mdWithoutControls(parts.join(u' ').simplified());
     if (name.isEmpty())
         return list.editor ? QString::fromUtf8(list.editor().itemWord) : QString();
     return name.size() > Longest ? name.left(Longest - 1) + u'\u2026' : name;
+}
+
+} // namespace
+
+QString mdItemInShort(const clsItemList &list, const clsXMLRecord &item)
+{
+    return named(list, item, list.called);
+}
+
+QString mdItemAsStored(const clsItemList &list, const clsXMLRecord &item)
+{
+    try {
+        return named(list, item, list.told.empty() ? list.called : list.told);
+    } catch (const clsRunTimeError &) {
+        // What it points at may be missing from a file.
+        return mdItemInShort(list, item);
+    }
 }

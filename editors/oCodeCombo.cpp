@@ -41,7 +41,7 @@ oCodeCombo::oCodeCombo(QWidget *parent)
         setItemData(count() - 1, columnOf(code), Qt::ToolTipRole);
     }
     connect(this, &QComboBox::editTextChanged, this, &oCodeCombo::explain);
-    setCode(QStringLiteral("DOT"));
+    setCode(FirstCode());
     mdGuardFocusedBoxes();
 }
 

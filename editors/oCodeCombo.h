@@ -13,6 +13,9 @@ class oCodeCombo : public QComboBox, public clsHoldingBox {
 public:
     explicit oCodeCombo(QWidget *parent = nullptr);
 
+    /// What a new item begins with.
+    static QString FirstCode() { return QStringLiteral("DOT"); }
+
     QString Code() const { return currentText(); }
     void setCode(const QString &code);
 

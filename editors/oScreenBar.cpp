@@ -7,9 +7,11 @@
 #include "controls/oLeftRightButton.h"
 #include "editors/clsMnemonics.h"
 #include "editors/mdSectionRoutes.h"
+#include "editors/oStoredNote.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
+#include <QShortcut>
 
 namespace {
 
@@ -40,7 +42,13 @@ oScreenBar::oScreenBar(const clsScreen &screen, QWidget *parent)
         m_jumps.push_back(addButton(jump.control, section));
         connect(m_jumps.back(), &oCustomButton::Click, this, [this, section] { emit Jump(section); });
     }
-    row->addStretch(1);
+    if (screen.add) {
+        m_stored = new oStoredNote(this);
+        row->addWidget(m_stored, 1);
+        addSaveAndAdd();
+    } else {
+        row->addStretch(1);
+    }
     addEnding(screen.ending);
 }
 
@@ -67,6 +75,18 @@ void oScreenBar::addSwitcher(const char *section)
     connect(m_switcher, &oLeftRightButton::LeftClick, this, &oScreenBar::Prev);
     connect(m_switcher, &oLeftRightButton::RightClick, this, &oScreenBar::Next);
     layout()->addWidget(m_switcher);
+}
+
+/// It has a key and no letter: the letters of the fields stay what they are.
+void oScreenBar::addSaveAndAdd()
+{
+    oCustomButton *button = addButton("cmdSaveAndAdd", QStringLiteral("Save and Add"));
+    button->setToolTip(QStringLiteral("Stores this item and begins the next (Ctrl+Enter)"));
+    connect(button, &oCustomButton::Click, this, &oScreenBar::SaveAndAdd);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto *keys = new QShortcut(QKeySequence(Qt::CTRL | key), this);
+        connect(keys, &QShortcut::activated, this, &oScreenBar::SaveAndAdd);
+    }
 }
 
 void oScreenBar::addEnding(clsScreenEnding ending)

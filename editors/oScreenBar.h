@@ -9,6 +9,7 @@
 class clsMnemonics;
 class oCustomButton;
 class oLeftRightButton;
+class oStoredNote;
 
 /// The bar at the foot of a screen: Prev and Next at its left, then the ways to other sections, and at its right the
 /// buttons that leave the screen. On a narrow window the ways go, since the menu has them too.
@@ -18,6 +19,9 @@ class oScreenBar : public QWidget {
 public:
     oScreenBar(const clsScreen &screen, QWidget *parent);
 
+    /// What says at the left what was stored; nothing on a screen without "Save and Add".
+    oStoredNote *storedNote() const { return m_stored; }
+
     /// Gives the buttons their letters, before the fields get theirs.
     void giveLetters(clsMnemonics &letters);
 
@@ -25,6 +29,7 @@ signals:
     void Prev();
     void Next();
     void Save();
+    void SaveAndAdd();
     void Cancel();
     void Close();
     void Jump(const QString &section);
@@ -36,9 +41,11 @@ protected:
 private:
     oCustomButton *addButton(const char *name, const QString &caption);
     void addSwitcher(const char *section);
+    void addSaveAndAdd();
     void addEnding(clsScreenEnding ending);
 
     oLeftRightButton *m_switcher = nullptr;
+    oStoredNote *m_stored = nullptr;
     std::vector<oCustomButton *> m_jumps;
     std::vector<oCustomButton *> m_endings;
 };

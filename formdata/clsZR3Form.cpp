@@ -236,6 +236,11 @@ void clsZR3Form::RenderScheduleOfTimeItemsForExport()
     });
 }
 
+clsZR3Form::ScheduleOfTimeItemsList::Pointer clsZR3Form::LooseScheduleOfTimeItem()
+{
+    return ScheduleOfTimeItemsList::loose(*this);
+}
+
 void clsZR3Form::RenderAdditionalInformationItems()
 {
     clsRefill additional(m_additional);

@@ -158,6 +158,9 @@ public:
     void RenderScheduleOfTimeItemsForExport();
     const ScheduleOfTimeItemsList::Collection &ScheduleOfTimeItemsForExportCollection() const { return m_forExport; }
 
+    /// An item that stands in no list and prices itself as those of the claim do: for what is not stored yet.
+    ScheduleOfTimeItemsList::Pointer LooseScheduleOfTimeItem();
+
     /// Collects those of the export's items that have a description; to be run after the routine above.
     void RenderAdditionalInformationItems();
     const ScheduleOfTimeItemsList::Collection &AdditionalInformationItemsCollection() const { return m_additional; }

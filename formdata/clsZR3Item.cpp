@@ -14,6 +14,12 @@ void clsZR3Item::appendTo(pugi::xml_node listNode)
     XMLChanges::note();
 }
 
+void clsZR3Item::standAlone()
+{
+    m_own = std::make_shared<pugi::xml_document>();
+    bindAndLearn(m_own->append_copy(mdXMLTemplate(m_templateName)));
+}
+
 void clsZR3Item::detach(std::shared_ptr<pugi::xml_document> own)
 {
     const pugi::xml_node listed = node();

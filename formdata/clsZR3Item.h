@@ -24,6 +24,8 @@ private:
     void takeOver(pugi::xml_node element);
     /// Makes this the record of a new element at the list's end.
     void appendTo(pugi::xml_node listNode);
+    /// Makes this the record of a new element in a document of its own.
+    void standAlone();
     /// Moves the element into a document of its own, or into one that it shares with others that go with it.
     void detach(std::shared_ptr<pugi::xml_document> own = std::make_shared<pugi::xml_document>());
     void release();

@@ -68,6 +68,14 @@ public:
         return m_items.back();
     }
 
+    /// A new item with the template's defaults that stands in no list and in no tree of a claim.
+    template <class... Arguments> static Pointer loose(Arguments &...arguments)
+    {
+        const Pointer item = std::make_shared<Item>(arguments...);
+        item->standAlone();
+        return item;
+    }
+
     /// Takes the item at a place out of the list and its element out of the tree. The order of the others keeps its
     /// gap until a grid next draws them.
     void remove(int index)

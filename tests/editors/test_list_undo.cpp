@@ -79,14 +79,15 @@ TEST_F(ListUndo, TheEditMenuStandsBehindFileAndNamesTheSteps)
     for (const QAction *menu : screen->findChild<QMenuBar *>()->actions())
         menus << menu->text();
     EXPECT_EQ(QStringList({QStringLiteral("&File"), QStringLiteral("&Edit"), QStringLiteral("&Jump To")}), menus);
-    EXPECT_EQ(QStringList({QStringLiteral("&Undo (off)"), QStringLiteral("&Redo (off)")}), editEntries());
+    const QString again = QStringLiteral("Same &Again");
+    EXPECT_EQ(QStringList({QStringLiteral("&Undo (off)"), QStringLiteral("&Redo (off)"), again}), editEntries());
 
     deleteRow(Schedule, 1);
-    EXPECT_EQ(
-        QStringList({QStringLiteral("&Undo Delete 15/12/25 HFN 03:20"), QStringLiteral("&Redo (off)")}), editEntries());
+    EXPECT_EQ(QStringList({QStringLiteral("&Undo Delete 15/12/25 HFN 03:20"), QStringLiteral("&Redo (off)"), again}),
+        editEntries());
     undo();
-    EXPECT_EQ(
-        QStringList({QStringLiteral("&Undo (off)"), QStringLiteral("&Redo Delete 15/12/25 HFN 03:20")}), editEntries());
+    EXPECT_EQ(QStringList({QStringLiteral("&Undo (off)"), QStringLiteral("&Redo Delete 15/12/25 HFN 03:20"), again}),
+        editEntries());
 }
 
 TEST_F(ListUndo, ADeletedItemComesBackWhereItWas)

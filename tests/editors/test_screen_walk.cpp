@@ -137,6 +137,8 @@ TEST_P(EveryScreen, TabReachesTheButtonsBehindTheFields)
     for (const clsScreenJump &jump : screen->Screen().jumps)
         if (screen->findChild<QWidget *>(QString::fromUtf8(jump.control))->isVisible())
             order << QString::fromUtf8(jump.control);
+    if (screen->findChild<QWidget *>(QStringLiteral("cmdSaveAndAdd")))
+        order << QStringLiteral("cmdSaveAndAdd");
     order << (hasClose() ? QStringList {QStringLiteral("cmdClose")}
                          : QStringList {QStringLiteral("cmdSave"), QStringLiteral("cmdCancel")});
     EXPECT_EQ(order, reached);

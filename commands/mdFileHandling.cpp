@@ -8,6 +8,7 @@
 #include "base/mdStateFolder.h"
 #include "base/mdVersionComparison.h"
 #include "commands/clsJournal.h"
+#include "commands/clsNotStored.h"
 #include "commands/mdDatedCopy.h"
 #include "commands/mdRecoveredCopy.h"
 #include "commands/mdRunTimeErrorMessage.h"
@@ -85,6 +86,12 @@ std::optional<bool> setOtherContentAside()
     }
 }
 
+void leaveClaim()
+{
+    Journal().leaveClaim();
+    NotStored().leaveClaim();
+}
+
 /// Sets work aside that counts as saved and would be lost, and tells the user. False where no place took it.
 bool setAside()
 {
@@ -154,6 +161,7 @@ bool SaveForm(bool saveAs)
     Document().takeAsClean();
     if (written)
         Document().onDisk.wasWritten(Document().filePath(), mdToCodePage(CleanXML));
+    NotStored().claimSaved(Document().filePath());
     Journal().saved(written, failure);
     if (written && keptOther)
         UserInterface().tellLine(*keptOther
@@ -191,7 +199,7 @@ void NewForm(bool skipConfirm)
 {
     if (!skipConfirm && !ConfirmDrop())
         return;
-    Journal().leaveClaim();
+    leaveClaim();
     Document().replaceForm();
     Form->Version = GetVersionInfo();
     Form->VAT = true;
@@ -222,7 +230,7 @@ void OpenFormFile(const QString &path)
     // A tick of the stopwatch would write the time of the claim before into this one.
     run(formDisplay.stopTimer);
     const QScopedValueRollback<bool> reading(Document().opening, true);
-    Journal().leaveClaim();
+    leaveClaim();
     // The claim before is gone from here on, also where the load fails, and its clean text with it.
     Document().replaceForm();
     Document().takeAsClean();
@@ -239,6 +247,7 @@ void OpenFormFile(const QString &path)
     // backup thus asks to be saved where it lies now.
     Document().givePath(path);
     Document().onDisk.wasRead(path, before);
+    NotStored().openClaim(path);
 }
 
 bool OpenFormText(const QByteArray &bytes, const QString &path, const QByteArray &known)
@@ -249,12 +258,14 @@ bool OpenFormText(const QByteArray &bytes, const QString &path, const QByteArray
     auto form = std::make_unique<clsZR3Form>();
     if (!form->LoadText(mdUtf8FromCodePage(bytes)))
         return false;
-    Journal().leaveClaim();
+    leaveClaim();
     Document().replaceForm();
     Form = std::move(form);
     Document().givePath(path);
     // Nothing of it counts as saved.
     CleanXML.clear();
     Document().onDisk.wasKnown(path, known);
+    if (!path.isEmpty())
+        NotStored().openClaim(path);
     return true;
 }

@@ -14,6 +14,7 @@
 #include "controls/oTypedText.h"
 #include "editors/clsListActions.h"
 #include "editors/clsMnemonics.h"
+#include "editors/mdBringBack.h"
 #include "editors/mdCheckForBlanks.h"
 #include "editors/mdConfirmCancelEdit.h"
 #include "editors/mdExclusiveTicks.h"
@@ -293,6 +294,7 @@ void frmSection::Cancel()
     // Only the editors of items go through the confirmation.
     if (m_screen.itemWord && !mdConfirmCancelEdit(QString::fromUtf8(m_screen.itemWord)))
         return;
+    mdKeepNotStored(*this);
     done(Rejected);
 }
 
@@ -319,6 +321,8 @@ void frmSection::JumpTo(const QString &section, bool store)
         return;
     if (store)
         storeAsStep(clsStoring::MovingOn);
+    else
+        mdKeepNotStored(*this);
     mdUnloadAndDummyTabClick(*this, section);
 }
 
@@ -344,6 +348,7 @@ void frmSection::closeEvent(QCloseEvent *event)
         Cancel();
     } else {
         // Where there is no Cancel, this alone drops what is typed.
+        mdKeepNotStored(*this);
         done(Rejected);
     }
     event->setAccepted(!isVisible());

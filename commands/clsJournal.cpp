@@ -6,6 +6,7 @@
 #include "base/mdCodePage.h"
 #include "base/mdLog.h"
 #include "base/mdRunTimeErrorOf.h"
+#include "commands/clsNotStored.h"
 #include "commands/mdFailureInWords.h"
 #include "commands/mdLossCause.h"
 #include "formdata/clsZR3Form.h"
@@ -84,7 +85,6 @@ void clsJournal::end()
     m_on = false;
     m_notSaved.clear();
     m_notKept.clear();
-    recoveredTexts.clear();
 }
 
 void clsJournal::stepTaken()
@@ -138,8 +138,9 @@ void clsJournal::bringUpToDate(bool atOnce)
     what.head = NewJournalHead();
     what.head.claim = Document().filePath();
     what.head.known = Document().onDisk.mark();
-    what.head.typed = typed;
-    what.head.typed.insert(what.head.typed.end(), recoveredTexts.begin(), recoveredTexts.end());
+    // What was not stored before comes first: of one screen the later counts.
+    what.head.typed = NotStored().all();
+    what.head.typed.insert(what.head.typed.end(), typed.begin(), typed.end());
     write(std::move(what), atOnce);
 }
 
@@ -244,15 +245,16 @@ void clsJournal::leaveClaim() noexcept
         letGo();
     }
     m_notSaved.clear();
-    recoveredTexts.clear();
 }
 
-void clsJournal::adopt(const QString &journal, std::unique_ptr<clsHeldFile> lock, std::vector<clsTypedTexts> typed)
+void clsJournal::adopt(
+    const QString &journal, std::unique_ptr<clsHeldFile> lock, const std::vector<clsTypedTexts> &typed)
 {
     finishWrite();
     letGo();
     m_file = journal;
     m_lock = std::move(lock);
-    recoveredTexts = std::move(typed);
+    for (const clsTypedTexts &texts : typed)
+        NotStored().keep(texts);
     stepTaken();
 }

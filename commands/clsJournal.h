@@ -45,16 +45,14 @@ public:
     void saved(bool written, int failure) noexcept;
     /// The user leaves the claim, and has been asked about its changes.
     void leaveClaim() noexcept;
-    /// Goes on with a journal that an earlier run has left, whose claim has just been opened.
-    void adopt(const QString &journal, std::unique_ptr<clsHeldFile> lock, std::vector<clsTypedTexts> typed);
+    /// Goes on with a journal that an earlier run has left, whose claim has just been opened. What was typed in
+    /// the screens that were open when that one ended counts as not stored.
+    void adopt(const QString &journal, std::unique_ptr<clsHeldFile> lock, const std::vector<clsTypedTexts> &typed);
 
     /// Why the last save doesn't count as one, in words; empty where it does.
     const QString &notSaved() const { return m_notSaved; }
     /// Why the journal can't be written, in words; empty where it can.
     const QString &notKept() const { return m_notKept; }
-
-    /// What was typed in the screens that were open when the program that left the journal ended.
-    std::vector<clsTypedTexts> recoveredTexts;
 
 private:
     struct clsWrite {

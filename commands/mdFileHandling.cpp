@@ -8,6 +8,7 @@
 #include "base/mdStateFolder.h"
 #include "base/mdVersionComparison.h"
 #include "commands/clsJournal.h"
+#include "commands/clsNotStored.h"
 #include "commands/mdDatedCopy.h"
 #include "commands/mdRecoveredCopy.h"
 #include "commands/mdRunTimeErrorMessage.h"
@@ -85,6 +86,12 @@ std::optional<bool> setOtherContentAside()
     }
 }
 
+void leaveClaim()
+{
+    Journal().leaveClaim();
+    NotStored().leaveClaim();
+}
+
 /// Sets work aside that counts as saved and would be lost, and tells the user. False where no place took it.
 bool setAside()
 {
@@ -156,6 +163,7 @@ bool SaveForm(bool saveAs)
         Document().onDisk.wasWritten(Document().filePath(), mdToCodePage(CleanXML));
     else if (!keptOther)
         Document().onDisk.wasLeft(Document().filePath());
+    NotStored().claimSaved(Document().filePath());
     Journal().saved(written, failure);
     if (written && keptOther)
         UserInterface().tellLine(*keptOther
@@ -193,7 +201,7 @@ void NewForm(bool skipConfirm)
 {
     if (!skipConfirm && !ConfirmDrop())
         return;
-    Journal().leaveClaim();
+    leaveClaim();
     Document().replaceForm();
     Form->Version = GetVersionInfo();
     Form->VAT = true;
@@ -224,7 +232,7 @@ void OpenFormFile(const QString &path)
     // A tick of the stopwatch would write the time of the claim before into this one.
     run(formDisplay.stopTimer);
     // Before the claim counts as being opened: the journal of one whose save failed takes its last changes along.
-    Journal().leaveClaim();
+    leaveClaim();
     const QScopedValueRollback<bool> reading(Document().opening, true);
     // The claim before is gone from here on, also where the load fails, and its clean text with it.
     Document().replaceForm();
@@ -242,6 +250,7 @@ void OpenFormFile(const QString &path)
     // backup thus asks to be saved where it lies now.
     Document().givePath(path);
     Document().onDisk.wasRead(path, before);
+    NotStored().openClaim(path);
 }
 
 bool OpenFormText(const QByteArray &bytes, const QString &path, const QByteArray &known)
@@ -251,7 +260,8 @@ bool OpenFormText(const QByteArray &bytes, const QString &path, const QByteArray
     auto form = std::make_unique<clsZR3Form>();
     if (!form->LoadText(mdUtf8FromCodePage(bytes)))
         return false;
-    Journal().leaveClaim();
+    // Before the claim counts as being opened: the journal of one whose save failed takes its last changes along.
+    leaveClaim();
     const QScopedValueRollback<bool> reading(Document().opening, true);
     Document().replaceForm();
     Form = std::move(form);
@@ -259,5 +269,7 @@ bool OpenFormText(const QByteArray &bytes, const QString &path, const QByteArray
     // Nothing of it counts as saved.
     CleanXML.clear();
     Document().onDisk.wasKnown(path, known);
+    if (!path.isEmpty())
+        NotStored().openClaim(path);
     return true;
 }

@@ -5,6 +5,7 @@
 #include "base/mdClock.h"
 #include "base/mdOwnFolder.h"
 #include "base/mdStateFolder.h"
+#include "commands/mdTypedTextsJson.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -28,29 +29,11 @@ QByteArray markOf(QByteArrayView head, QByteArrayView claim)
     return hash.result().toHex();
 }
 
-QJsonObject objectOf(const clsTypedTexts &texts)
-{
-    QJsonArray fields;
-    for (const auto &[property, text] : texts.fields)
-        fields.append(QJsonArray {property, text});
-    return {{QStringLiteral("screen"), texts.screen}, {QStringLiteral("caption"), texts.caption},
-        {QStringLiteral("order"), texts.orderID}, {QStringLiteral("fields"), fields}};
-}
-
-clsTypedTexts typedTextsOf(const QJsonObject &object)
-{
-    clsTypedTexts texts {object[QStringLiteral("screen")].toString(), object[QStringLiteral("caption")].toString(),
-        object[QStringLiteral("order")].toInt(), {}};
-    for (const QJsonValue &field : object[QStringLiteral("fields")].toArray())
-        texts.fields.emplace_back(field[0].toString(), field[1].toString());
-    return texts;
-}
-
 QByteArray bytesOf(const clsJournalHead &head)
 {
     QJsonArray typed;
     for (const clsTypedTexts &texts : head.typed)
-        typed.append(objectOf(texts));
+        typed.append(TypedTextsObject(texts));
     const QJsonObject object {{QStringLiteral("claim"), head.claim},
         {QStringLiteral("known"), QString::fromLatin1(head.known)},
         {QStringLiteral("changed"), head.changed.toUTC().toString(Qt::ISODateWithMs)},
@@ -68,7 +51,7 @@ clsJournalHead headOf(const QJsonObject &object)
     head.process = qint64(object[QStringLiteral("process")].toDouble());
     head.machine = object[QStringLiteral("machine")].toString();
     for (const QJsonValue &texts : object[QStringLiteral("typed")].toArray())
-        head.typed.push_back(typedTextsOf(texts.toObject()));
+        head.typed.push_back(TypedTextsOf(texts.toObject()));
     return head;
 }
 

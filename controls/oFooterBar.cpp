@@ -102,6 +102,7 @@ oFooterBar::oFooterBar(QWidget *parent)
     row->addWidget(m_line);
     row->addWidget(lblDateTime);
     followFont();
+    connect(m_footerLine, &oFooterLine::Taken, this, &oFooterBar::OfferTaken);
 
     UpdateInfo();
     tmrUpdate.setObjectName(QStringLiteral("tmrUpdate"));
@@ -146,6 +147,7 @@ void oFooterBar::showProgress(int value, int maximum, const QString &text)
         bar.setValue(shown);
     if (bar.format() != text)
         bar.setFormat(text);
+    m_footerLine->standBack(shown > 0);
     if (changed)
         bar.repaint();
 }
@@ -158,12 +160,16 @@ void oFooterBar::clearProgress()
 void oFooterBar::showLine(const QString &line)
 {
     m_footerLine->tell(line);
-    placeLine();
+}
+
+void oFooterBar::showOffer(const QString &text, const QString &caption)
+{
+    m_footerLine->offer(text, caption);
 }
 
 void oFooterBar::placeLine()
 {
-    m_footerLine->setGeometry(0, 0, m_timeSpentTimer->geometry().left() - Theme::Space16, height());
+    m_footerLine->setRoom({0, 0, m_timeSpentTimer->geometry().left() - Theme::Space16, height()});
 }
 
 void oFooterBar::resizeEvent(QResizeEvent *event)

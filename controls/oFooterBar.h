@@ -25,8 +25,14 @@ public:
     void clearProgress();
     /// Tells what was done beside what was asked for; the line goes by itself.
     void showLine(const QString &line);
+    /// Offers what the button of this caption does, until that is no longer offered; nothing for an empty text.
+    void showOffer(const QString &text, const QString &caption);
     /// Writes the program's name and the present time.
     void UpdateInfo();
+
+signals:
+    /// The button of the offer was pressed.
+    void OfferTaken();
 
 protected:
     bool event(QEvent *event) override;

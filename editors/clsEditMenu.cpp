@@ -17,19 +17,23 @@ struct clsEditRow {
     /// What stands behind the text: what the entry would act on. Where that is empty the entry is off.
     QString (*object)();
     bool separatorAfter = false;
+    std::function<bool()> clsEditCommands::*can = nullptr; ///< whether it is on, where it acts on nothing with a name
 };
 
 // clang-format off
 constexpr clsEditRow Rows[] = {
     {"&Undo", "mnuUndo", "Ctrl+Z",              &clsEditCommands::undo, [] { return Document().history.undoName(); }},
-    {"&Redo", "mnuRedo", "Ctrl+Shift+Z; Ctrl+Y", &clsEditCommands::redo, [] { return Document().history.redoName(); }},
+    {"&Redo", "mnuRedo", "Ctrl+Shift+Z; Ctrl+Y", &clsEditCommands::redo, [] { return Document().history.redoName(); }, true},
     {"Same &Again", "mnuSameAgain", "Ctrl+D",   &clsEditCommands::sameAgain, nullptr},
+    {"&Bring Back", "mnuBringBack", "",         &clsEditCommands::bringBack, nullptr, false, &clsEditCommands::canBringBack},
 };
 // clang-format on
 
 /// A key stays one of the window's while its entry is off: what it acts on can come while the menu is closed.
-void connectEntry(QMenu &menu, QAction &entry, const clsEditRow &row)
+void connectEntry(QMenu &menu, QAction &entry, const clsEditRow &row, const std::function<bool()> &can)
 {
+    if (can)
+        QObject::connect(&menu, &QMenu::aboutToShow, &entry, [&entry, can] { entry.setEnabled(can()); });
     if (!row.object)
         return;
     QObject::connect(&menu, &QMenu::aboutToShow, &entry, [&entry, &row] {
@@ -85,7 +89,7 @@ QMenu *mdMakeEditMenu(QWidget &window, const clsEditCommands &commands)
         entry->setObjectName(QString::fromLatin1(row.name));
         entry->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(row.keys), QKeySequence::PortableText));
         QObject::connect(entry, &QAction::triggered, &window, commands.*row.run);
-        connectEntry(*menu, *entry, row);
+        connectEntry(*menu, *entry, row, row.can ? commands.*row.can : nullptr);
         if (row.separatorAfter)
             menu->addSeparator();
     }

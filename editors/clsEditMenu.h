@@ -10,6 +10,8 @@ struct clsEditCommands {
     std::function<void()> undo;
     std::function<void()> redo;
     std::function<void()> sameAgain {};
+    std::function<void()> bringBack;
+    std::function<bool()> canBringBack;
 };
 
 /// Makes the menu "Edit" of a window from the table of its entries, for the window to put into its bar. A text box

@@ -1,8 +1,11 @@
 #include "editors/clsScreenUndo.h"
 
+#include "controls/mdLeaveFocusedBox.h"
+#include "controls/oSGrid.h"
 #include "editors/clsEditMenu.h"
 #include "editors/clsItemChoice.h"
 #include "editors/frmSection.h"
+#include "editors/mdBringBack.h"
 #include "editors/mdFieldDiffers.h"
 #include "editors/mdScreenControls.h"
 #include "editors/oListLine.h"
@@ -56,9 +59,17 @@ clsScreenUndo::clsScreenUndo(frmSection &screen, QMenuBar &menus, oListLine &lin
     QMenu *edit = mdMakeEditMenu(screen,
         {.undo = [this] { run(&clsHistory::undo, &clsHistory::undoItem); },
             .redo = [this] { run(&clsHistory::redo, &clsHistory::redoItem); },
-            .sameAgain = screen.AddsItems() ? [this] { m_screen.SameAgain(); } : std::function<void()>()});
+            .sameAgain = screen.AddsItems() ? [this] { m_screen.SameAgain(); } : std::function<void()>(),
+            .bringBack = [this] { bringBack(); },
+            .canBringBack = [this] { return mdLatestNotStored(m_screen) != nullptr; }});
     // Behind "File".
     menus.insertMenu(menus.actions().value(1), edit);
+    connect(&m_line, &oListLine::Taken, this, &clsScreenUndo::bringBack);
+    connect(&m_screen, &frmSection::Loaded, this, &clsScreenUndo::OfferNotStored);
+    for (const clsScreenField &field : m_screen.Fields())
+        if (auto *grid = qobject_cast<oSGrid *>(field.control))
+            // Once the editor is closed that it opens.
+            connect(grid, &oSGrid::RowActivated, this, &clsScreenUndo::OfferNotStored, Qt::QueuedConnection);
 }
 
 void clsScreenUndo::TellDeleted(const QString &what)
@@ -69,6 +80,22 @@ void clsScreenUndo::TellDeleted(const QString &what)
 void clsScreenUndo::ClearLine()
 {
     m_line.Clear();
+}
+
+void clsScreenUndo::OfferNotStored()
+{
+    const clsTypedTexts *texts = mdLatestNotStored(m_screen);
+    m_line.Offer(texts ? mdNotStoredInWords(*texts) : QString(), QStringLiteral("Bring back"));
+}
+
+void clsScreenUndo::bringBack()
+{
+    const clsTypedTexts *texts = mdLatestNotStored(m_screen);
+    if (!texts || !mdLeaveFocusedBox(&m_screen))
+        return;
+    ClearLine();
+    mdWayBack (*texts)(m_screen);
+    OfferNotStored();
 }
 
 void clsScreenUndo::run(Turn turn, About about)

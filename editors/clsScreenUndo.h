@@ -12,7 +12,7 @@ class frmSection;
 class oListLine;
 
 /// Undo and redo on a screen with a list of the claim: its menu "Edit", what of the screen is read anew after them, and
-/// the line that offers a deleted item back. It belongs to the screen.
+/// the line that offers a deleted item back, and what was not stored in an item's editor. It belongs to the screen.
 class clsScreenUndo : public QObject {
     Q_OBJECT
 
@@ -23,11 +23,14 @@ public:
     void TellDeleted(const QString &what);
     /// Takes from the line what a later step has made untrue.
     void ClearLine();
+    /// Offers in the line what was typed in the editor of an item and not stored.
+    void OfferNotStored();
 
 private:
     using Turn = const clsZR3Item *(clsHistory::*)();
     using About = const clsZR3Item *(clsHistory::*)() const;
     void run(Turn turn, About about);
+    void bringBack();
 
     frmSection &m_screen;
     oListLine &m_line;

@@ -13,6 +13,7 @@
 #include "controls/oTypedText.h"
 #include "editors/clsListActions.h"
 #include "editors/clsMnemonics.h"
+#include "editors/mdBringBack.h"
 #include "editors/mdCheckForBlanks.h"
 #include "editors/mdConfirmCancelEdit.h"
 #include "editors/mdExclusiveTicks.h"
@@ -304,6 +305,7 @@ void frmSection::Cancel()
     // Only the editors of items go through the confirmation.
     if (m_screen.itemWord && !mdConfirmCancelEdit(QString::fromUtf8(m_screen.itemWord)))
         return;
+    mdKeepNotStored(*this);
     done(Rejected);
 }
 
@@ -330,6 +332,8 @@ void frmSection::JumpTo(const QString &section, bool store)
         return;
     if (store)
         storeAsStep(clsStoring::MovingOn);
+    else
+        mdKeepNotStored(*this);
     mdUnloadAndDummyTabClick(*this, section);
 }
 
@@ -355,6 +359,7 @@ void frmSection::closeEvent(QCloseEvent *event)
         Cancel();
     } else {
         // Where there is no Cancel, this alone drops what is typed.
+        mdKeepNotStored(*this);
         done(Rejected);
     }
     event->setAccepted(!isVisible());

@@ -41,6 +41,7 @@ void frmSection::buildUndo()
     m_undo = new clsScreenUndo(*this, *m_menus, *m_line);
     for (const clsList &list : m_lists) {
         connect(list.actions, &clsListActions::Changed, m_undo, &clsScreenUndo::ClearLine);
+        connect(list.actions, &clsListActions::Changed, m_undo, &clsScreenUndo::OfferNotStored);
         connect(list.actions, &clsListActions::Deleted, m_undo, &clsScreenUndo::TellDeleted);
     }
 }

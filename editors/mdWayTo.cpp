@@ -29,17 +29,11 @@ bool isFieldOf(const clsScreenField &field, const QString &property)
         [&](const QString &member) { return member == property || member + QStringLiteral("UniqueID") == property; });
 }
 
-void openPageOf(const frmSection &screen, const clsScreenField &field)
-{
-    if (field.page > 0)
-        screen.Switcher().SwitchTo(field.page);
-}
-
 void enterProperty(const frmSection &screen, const QString &property)
 {
     for (const clsScreenField &field : screen.Fields())
         if (!property.isEmpty() && mdIsControl(*field.row) && isFieldOf(field, property)) {
-            openPageOf(screen, field);
+            mdOpenPageOf(screen, field);
             mdEnterField(*field.control);
             return;
         }
@@ -96,12 +90,18 @@ void enterItem(frmSection &screen, pugi::xml_node element, const QString &proper
         const int index = grid ? indexOf(*grid, element) : 0;
         if (index == 0)
             continue;
-        openPageOf(screen, field);
+        mdOpenPageOf(screen, field);
         return activate(screen, *grid, *field.row->items, index, property);
     }
 }
 
 } // namespace
+
+void mdOpenPageOf(const frmSection &screen, const clsScreenField &field)
+{
+    if (field.page > 0)
+        screen.Switcher().SwitchTo(field.page);
+}
 
 std::function<void(frmSection &screen)> mdWayTo(const clsClaimPlace &place)
 {

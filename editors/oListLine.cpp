@@ -4,6 +4,7 @@
 #include "controls/mdLine.h"
 #include "controls/mdTheme.h"
 #include "controls/mdToolTip.h"
+#include "controls/oCustomButton.h"
 
 #include <QAccessible>
 #include <QHelpEvent>
@@ -36,8 +37,13 @@ void paintSign(QPainter &painter, const QRectF &place)
 
 oListLine::oListLine(QWidget *parent)
     : QWidget(parent)
+    , m_button(new oCustomButton(this))
 {
     setObjectName(QStringLiteral("oListLine"));
+    m_button->setObjectName(QStringLiteral("cmdListLine"));
+    m_button->setLook(oCustomButton::Look::Small);
+    m_button->hide();
+    connect(m_button, &oCustomButton::Click, this, &oListLine::Taken);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setFocusPolicy(Qt::NoFocus);
     m_timer.setObjectName(QStringLiteral("tmrListLine"));
@@ -50,13 +56,46 @@ oListLine::oListLine(QWidget *parent)
 void oListLine::Tell(const QString &text)
 {
     m_text = text;
-    setAccessibleName(text);
     // While it says something it is a stop of the Tab key, where it can be read in peace.
     setFocusPolicy(Qt::TabFocus);
     m_timer.start();
+    placeButton();
+    announce();
+}
+
+void oListLine::announce()
+{
+    setAccessibleName(Text());
     update();
     QAccessibleEvent said(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&said);
+}
+
+void oListLine::Offer(const QString &text, const QString &caption)
+{
+    if (m_offer == text)
+        return;
+    m_offer = text;
+    m_button->setCaption(caption);
+    m_button->setAccessibleDescription(text);
+    placeButton();
+    if (m_text.isEmpty())
+        announce();
+}
+
+/// The offer stands back while there is news.
+void oListLine::placeButton()
+{
+    const QSize size = m_button->sizeHint();
+    m_button->setGeometry(
+        QRect(QPoint(width() - Theme::Space24 - size.width(), (height() - size.height() + 1) / 2), size));
+    m_button->setVisible(m_text.isEmpty() && !m_offer.isEmpty());
+}
+
+void oListLine::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    placeButton();
 }
 
 void oListLine::Clear()
@@ -65,10 +104,11 @@ void oListLine::Clear()
         return;
     m_timer.stop();
     m_text.clear();
-    setAccessibleName({});
     if (hasFocus())
         focusNextPrevChild(false);
     setFocusPolicy(Qt::NoFocus);
+    setAccessibleName(m_offer);
+    placeButton();
     update();
 }
 
@@ -90,7 +130,8 @@ QSize oListLine::sizeHint() const
 
 QRect oListLine::textPlace() const
 {
-    return rect().adjusted(Theme::Space24 + Theme::scaled(SignSize) + Theme::Space8, 0, -Theme::Space24, 0);
+    const int right = m_button->isHidden() ? Theme::Space24 : width() - m_button->x() + Theme::Space12;
+    return rect().adjusted(Theme::Space24 + Theme::scaled(SignSize) + Theme::Space8, 0, -right, 0);
 }
 
 bool oListLine::event(QEvent *event)
@@ -103,8 +144,8 @@ bool oListLine::event(QEvent *event)
         QMetaObject::invokeMethod(this, &oListLine::clearWhenFree, Qt::QueuedConnection);
         break;
     case QEvent::ToolTip:
-        if (fontMetrics().horizontalAdvance(m_text) > textPlace().width())
-            QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), mdPlainToolTip(m_text), this);
+        if (fontMetrics().horizontalAdvance(Text()) > textPlace().width())
+            QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), mdPlainToolTip(Text()), this);
         return true;
     default: break;
     }
@@ -113,7 +154,8 @@ bool oListLine::event(QEvent *event)
 
 void oListLine::paintEvent(QPaintEvent *)
 {
-    if (m_text.isEmpty())
+    const QString &text = Text();
+    if (text.isEmpty())
         return;
     QPainter painter(this);
     painter.fillRect(rect(), Theme::InformationTint);
@@ -123,7 +165,7 @@ void oListLine::paintEvent(QPaintEvent *)
     paintSign(painter, sign);
     painter.setPen(Theme::Ink);
     painter.drawText(textPlace(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-        fontMetrics().elidedText(m_text, Qt::ElideRight, textPlace().width()));
+        fontMetrics().elidedText(text, Qt::ElideRight, textPlace().width()));
     if (!hasFocus())
         return;
     constexpr int Ring = 2;

@@ -91,6 +91,7 @@ frmMain::frmMain(QWidget *parent)
         [previewMenu](const QPoint &place) { previewMenu->popup(place); });
     // Once the entry that was chosen has run.
     connect(previewMenu, &QMenu::aboutToHide, sgPreview, &oPreviewGrid::ForgetPointedRow, Qt::QueuedConnection);
+    connect(oFooter, &oFooterBar::OfferTaken, this, &frmMain::BringBack);
     connect(m_why, &clsWhyOpener::PlaceChosen, this, &frmMain::OpenPlace);
     connect(m_stripFiller, &clsStripFiller::Renewed, m_why, &clsWhyOpener::TakeDrawnState);
     SetOpenSection([this](const QString &text) { tbSubSection_Click(-1, text); });
@@ -256,6 +257,7 @@ void frmMain::UpdateInfo()
     oFooter->TimeSpentTimer()->setTimeSpent(Form->TimeSpent());
     oHeader->setChip(Form->FormType());
     setWindowFilePath(path);
+    offerNotStored();
 }
 
 void frmMain::Activate()

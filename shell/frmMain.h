@@ -84,6 +84,8 @@ public:
     void FormPages();
     void WhyThisFigure();
     void CostsLimit();
+    /// Opens the screen on which something was typed and not stored, and puts that back into it.
+    void BringBack();
     void UserGuide();
     void KeyboardShortcutsList();
     void MakeASuggestion();
@@ -129,6 +131,7 @@ private:
     void openFinding(int finding);
     void tintDrawn();
     void tintChosen();
+    void offerNotStored();
     void openDropped(const QString &path);
     /// Asks about changes, and has another claim take the place of the open one.
     void openInstead(const std::function<void()> &open);

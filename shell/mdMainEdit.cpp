@@ -1,6 +1,7 @@
 #include "shell/mdMainEdit.h"
 
 #include "editors/clsEditMenu.h"
+#include "editors/mdBringBack.h"
 #include "formdata/mdGlobals.h"
 #include "shell/clsLongWork.h"
 
@@ -26,10 +27,12 @@ std::function<void()> turning(
 
 } // namespace
 
-void mdAddEditMenu(QMainWindow &window, const std::function<void()> &showTurned)
+void mdAddEditMenu(QMainWindow &window, const std::function<void()> &showTurned, const std::function<void()> &bringBack)
 {
     QMenu *edit = mdMakeEditMenu(window,
         {.undo = turning(&clsHistory::canUndo, &clsHistory::undo, showTurned),
-            .redo = turning(&clsHistory::canRedo, &clsHistory::redo, showTurned)});
+            .redo = turning(&clsHistory::canRedo, &clsHistory::redo, showTurned),
+            .bringBack = bringBack,
+            .canBringBack = [] { return mdLatestNotStored() != nullptr; }});
     window.menuBar()->insertMenu(window.menuBar()->actions().value(1), edit);
 }

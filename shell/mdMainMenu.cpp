@@ -69,5 +69,6 @@ void mdBuildMainMenu(frmMain &window)
         if (row.separatorAfter)
             menu->addSeparator();
     }
-    mdAddEditMenu(window, [&window] { window.ShowTurned(); });
+    mdAddEditMenu(
+        window, [&window] { window.ShowTurned(); }, [&window] { window.BringBack(); });
 }

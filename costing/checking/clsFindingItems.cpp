@@ -2,10 +2,9 @@
 
 #include "base/mdPrint.h"
 #include "formdata/mdClaimLists.h"
+#include "formdata/mdItemContent.h"
 
 #include <QCryptographicHash>
-
-#include <cstring>
 
 namespace {
 
@@ -47,9 +46,7 @@ QString clsFindingItems::keyOf(const clsFinding &finding)
 {
     QByteArray content = (finding.Screen + u'\n' + finding.List).toUtf8();
     if (const clsClaimList *list = finding.Item > 0 ? mdClaimList(finding.List) : nullptr)
-        for (const pugi::xml_node part : itemOf(finding, *list).children())
-            if (std::strcmp(part.name(), Order) != 0)
-                content += QByteArray("\n") + part.name() + '=' + part.child_value();
+        content += mdItemContent(itemOf(finding, *list));
     const QByteArray hash = QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex().left(32);
     return QStringLiteral("%1 %2 %3").arg(finding.Rule, finding.Property, QString::fromLatin1(hash));
 }

@@ -2,6 +2,7 @@
 
 #include "base/clsHeldFile.h"
 #include "base/mdCodePage.h"
+#include "commands/clsNotStored.h"
 #include "tests/commands/clsJournalTest.h"
 
 namespace {
@@ -82,7 +83,7 @@ TEST_F(LeftJournals, KeepWhatWasTypedInOpenScreens)
     kill();
     left.look();
     ASSERT_TRUE(left.open(left.all().at(0)));
-    EXPECT_EQ(before, Journal().recoveredTexts);
+    EXPECT_EQ(before, NotStored().all());
     Journal().flush();
     EXPECT_EQ(before, contents()->head.typed) << "a second end loses them no more than the first";
 }

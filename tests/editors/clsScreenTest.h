@@ -1,5 +1,6 @@
 #pragma once
 
+#include "commands/clsNotStored.h"
 #include "controls/oCheckBox.h"
 #include "controls/oSGrid.h"
 #include "editors/frmSection.h"
@@ -41,6 +42,7 @@ protected:
     void TearDown() override
     {
         SetOpenSection(nullptr);
+        NotStored().leaveClaim();
         Form.reset();
     }
 

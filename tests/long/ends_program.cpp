@@ -9,6 +9,7 @@
 #include "base/mdGetResourceData.h"
 #include "base/mdProgramFolder.h"
 #include "commands/clsJournal.h"
+#include "commands/clsNotStored.h"
 #include "commands/mdRecoveredCopy.h"
 #include "controls/mdApplyTheme.h"
 #include "controls/oAllPurposeBox.h"
@@ -175,7 +176,7 @@ void takeUp(frmMain &window)
         if (bar.isVisible() && button->Caption() == QLatin1String("Open"))
             button->click();
     std::printf("claim %s\n", qPrintable(Form->DetailsOfWork.DetailsOfCase()));
-    for (const clsTypedTexts &texts : Journal().recoveredTexts)
+    for (const clsTypedTexts &texts : NotStored().all())
         for (const auto &[property, text] : texts.fields)
             std::printf("typed %s\n", qPrintable(text));
     window.Save();

@@ -6,6 +6,7 @@
 #include "base/mdGetResourceData.h"
 #include "base/mdLog.h"
 #include "base/mdProgramFolder.h"
+#include "commands/clsNotStored.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
 #include "formdata/mdGlobals.h"
@@ -36,6 +37,7 @@ protected:
     }
     void TearDown() override
     {
+        NotStored().leaveClaim();
         Form.reset();
         Preferences.reset();
         CleanXML.clear();

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "commands/clsTypedTexts.h"
+
+#include <functional>
+
+class frmSection;
+
+// What was typed in a screen that was left without storing it, and how it comes back.
+
+/// Keeps what is typed in a screen that is about to be left without storing it.
+void mdKeepNotStored(const frmSection &screen);
+
+/// The latest that can be brought back from the main window; nothing where there is none.
+const clsTypedTexts *mdLatestNotStored();
+/// The latest that can be brought back on the screen of a list: of the editors of its items.
+const clsTypedTexts *mdLatestNotStored(const frmSection &list);
+
+/// "Details of Work: 781 characters not stored".
+QString mdNotStoredInWords(const clsTypedTexts &texts);
+
+/// The text of the tab on whose screen they were typed, or stands the list of the item; empty for an unknown screen.
+QString mdSectionOfNotStored(const clsTypedTexts &texts);
+
+/// What puts the texts back, once the screen of that section is shown: into it, or into the editor of the item, which
+/// it opens. Where the item has gone, that of a new one. Nothing is stored by that, and once the user stores them they
+/// are forgotten.
+std::function<void(frmSection &screen)> mdWayBack(const clsTypedTexts &texts);

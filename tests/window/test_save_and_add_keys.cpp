@@ -64,6 +64,8 @@ TEST_F(SaveAndAddKeys, AnItemOfAUsualDayTakesElevenKeysOfWhichEightCarryData)
     key(Qt::Key_Right);
     key(Qt::Key_Return);
     key(Qt::Key_Tab);
+    key(Qt::Key_Right);
+    key(Qt::Key_Right);
     key(Qt::Key_Return, Qt::NoModifier, screenIs("frmScheduleOfTime"));
     key(Qt::Key_Insert, Qt::NoModifier, screenIs("frmScheduleOfTimeItemEdit"));
     look([this] {

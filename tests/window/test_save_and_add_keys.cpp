@@ -57,7 +57,6 @@ private:
 
 TEST_F(SaveAndAddKeys, AnItemOfAUsualDayTakesElevenKeysOfWhichEightCarryData)
 {
-    constexpr int MostKeys = 12;
     const QString claim = saveClaim(path("claims/Usual.zr3"));
     step([] {}, noScreen);
     key(Qt::Key_Right);
@@ -96,7 +95,7 @@ TEST_F(SaveAndAddKeys, AnItemOfAUsualDayTakesElevenKeysOfWhichEightCarryData)
         ASSERT_EQ(3u, Form->ScheduleOfTimeItemsCollection().size());
         const auto [carrying, all] = counted();
         EXPECT_EQ(6, carrying);
-        EXPECT_LE(all, MostKeys);
+        EXPECT_LE(all, 12);
     });
     key(Qt::Key_Escape, Qt::NoModifier, screenIs("frmScheduleOfTime"));
     look([] {

@@ -58,6 +58,7 @@ private:
 TEST_F(SaveAndAddKeys, AnItemOfAUsualDayTakesElevenKeysOfWhichEightCarryData)
 {
     const QString claim = saveClaim(path("claims/Usual.zr3"));
+    step([] {}, [] { return topLevel<frmMain>() != nullptr; });
     step([] {}, noScreen);
     key(Qt::Key_Right);
     key(Qt::Key_Right);

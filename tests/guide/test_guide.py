@@ -208,7 +208,7 @@ class Keys(unittest.TestCase):
     NAMES = {"Return": "Enter", "Backtab": "Shift+Tab", "Escape": "Esc", "Plus": "Ctrl+Plus", "Equal": "Ctrl+Plus",
              "Minus": "Ctrl+Minus", "0": "Ctrl+0", "Y": "Ctrl+Y"}
     # Told with the keys that they go with; the last two only say which keys type a character.
-    PARTS = {"Alt", "F10", "S", "Backspace", "ydiaeresis"}
+    PARTS = {"Alt", "AltGr", "Control", "Meta", "Shift", "F10", "S", "Backspace", "ydiaeresis"}
 
     def setUp(self):
         self.keys = {key for group in table("keys.toml")["group"] for row in group["key"]

@@ -24,12 +24,17 @@ constexpr clsListRow Lists[] = {
     {"fas", "FAS item %1"},
 };
 
+/// A list of which no item is named leads no further than its screen.
+bool isSame(const clsWhySource &left, const clsWhySource &right)
+{
+    return left.Screen == right.Screen && left.Item == right.Item && left.Property == right.Property
+        && (left.List == right.List || left.Item == 0);
+}
+
 bool isOneOf(const std::vector<clsWhyPlace> &places, const clsWhySource &source)
 {
-    return std::any_of(places.begin(), places.end(), [&](const clsWhyPlace &place) {
-        return place.source.Screen == source.Screen && place.source.List == source.List
-            && place.source.Item == source.Item && place.source.Property == source.Property;
-    });
+    return std::any_of(
+        places.begin(), places.end(), [&](const clsWhyPlace &place) { return isSame(place.source, source); });
 }
 
 void addPlace(std::vector<clsWhyPlace> &places, const clsZR3Form &form, const clsWhySource &source)

@@ -217,6 +217,12 @@ TEST_F(WhySheet, OpensOnTheLineOfTotals)
     EXPECT_EQ(QStringLiteral("Why 4,213.49"), sheet().Text().title);
 }
 
+TEST_F(WhySheet, HasOneButtonForAScreen)
+{
+    figure("ScheduleTotal").click();
+    EXPECT_EQ(QStringList(QStringLiteral("Schedule of Time")), places());
+}
+
 TEST_F(WhySheet, SaysWhenThePreviewIsOlderThanTheClaim)
 {
     grid().setFocus();

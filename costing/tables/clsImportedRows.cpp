@@ -259,10 +259,10 @@ QStringList clsImportedRows::unknownColumns() const
 QStringList clsImportedRows::missingNames(const Names &names) const
 {
     QStringList missing;
-    for (const auto &[called, column] : names)
+    for (const auto &entry : names)
         if (std::none_of(
-                m_header.begin(), m_header.end(), [&](const QString &name) { return mdIsSameName(name, called); }))
-            missing << called;
+                m_header.begin(), m_header.end(), [&](const QString &name) { return mdIsSameName(name, entry.first); }))
+            missing << entry.first;
     return missing;
 }
 

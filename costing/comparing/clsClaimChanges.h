@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+/// A field that differs. Values are texts.
+struct clsFieldChange {
+    QString Screen; ///< the text of its tab; empty in an item
+    QString Property;
+    QString Old;
+    QString New;
+};
+
+/// An item that was added, removed or changed.
+struct clsItemChange {
+    enum Kind { Added, Removed, Changed };
+
+    QString List; ///< such as "schedule"
+    Kind Change = Changed;
+    int OldItem = 0; ///< its order, 0 where there is none
+    int NewItem = 0;
+    std::vector<clsFieldChange> Fields; ///< of an item that was added or removed, all that are not empty
+    QString Effect; ///< what it is worth now less what it was worth before; empty for a list without amounts
+};
+
+/// A single figure of the bill that differs. A form that lacks it has no text for it.
+struct clsTotalChange {
+    QString Key;
+    QString Old;
+    QString New;
+};
+
+/// What differs between two claims.
+struct clsClaimChanges {
+    std::vector<clsFieldChange> Fields;
+    std::vector<clsItemChange> Items;
+    std::vector<clsTotalChange> Totals;
+
+    bool isEmpty() const { return Fields.empty() && Items.empty() && Totals.empty(); }
+};

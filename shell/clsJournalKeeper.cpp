@@ -1,11 +1,13 @@
 #include "shell/clsJournalKeeper.h"
 
+#include "base/clsFileWatch.h"
 #include "base/mdClock.h"
 #include "commands/clsJournal.h"
 #include "commands/mdFileHandling.h"
 #include "controls/oNoticeBar.h"
 #include "editors/mdTypedTexts.h"
 #include "formdata/mdGlobals.h"
+#include "shell/mdComparison.h"
 
 #include <QFileInfo>
 #include <QLocale>
@@ -39,8 +41,10 @@ constexpr clsKindRow Kinds[] = {
 
 constexpr clsAnswerRow Answers[] = {
     {NotSaved,      "Save &As...",  &clsJournalKeeper::SaveAs},
+    {ChangedOnDisk, "&Compare",     &clsJournalKeeper::CompareTheirs},
     {ChangedOnDisk, "&Open theirs", &clsJournalKeeper::OpenTheirs},
     {NotClosed,     "&Open",        &clsJournalKeeper::OpenLeft},
+    {NotClosed,     "&Compare",     &clsJournalKeeper::CompareLeft},
     {NotClosed,     "&Discard",     &clsJournalKeeper::DiscardLeft},
     {Broken,        "O&K",          &clsJournalKeeper::BrokenRead},
 };
@@ -75,6 +79,15 @@ QString leftSentence(const clsJournalHead &head)
         = head.claim.isEmpty() ? QStringLiteral("A new claim") : QFileInfo(head.claim).completeBaseName();
     const QString day = isToday(head.changed) ? QString() : dayOf(head.changed) + QStringLiteral(", ");
     return QStringLiteral("%1 was not closed properly: changes until %2.").arg(name, day + minuteOf(head.changed));
+}
+
+bool originalChanged(const clsLeftJournal &left)
+{
+    if (left.head.claim.isEmpty())
+        return false;
+    clsFileWatch file;
+    file.wasKnown(left.head.claim, left.head.known);
+    return file.changedByOthers().has_value();
 }
 
 QString brokenSentence(int count)
@@ -170,6 +183,9 @@ clsNotice clsJournalKeeper::notice(int kind, const QString &sentence, const QStr
         if (row.kind == kind)
             result.answers.push_back(
                 {QString::fromLatin1(row.caption), [this, act = row.act, journal] { (this->*act)(journal); }});
+    // What somebody else has changed since is looked at first.
+    if (const clsLeftJournal *one = left(journal); one && originalChanged(*one))
+        std::swap(result.answers[0], result.answers[1]);
     return result;
 }
 
@@ -201,6 +217,19 @@ void clsJournalKeeper::OpenLeft(const QString &journal)
         if (const clsLeftJournal *one = left(journal))
             m_left.open(*one);
     });
+    refresh();
+}
+
+void clsJournalKeeper::CompareTheirs(const QString &)
+{
+    m_commands.compare(mdCompareWithDisk());
+    refresh();
+}
+
+void clsJournalKeeper::CompareLeft(const QString &journal)
+{
+    if (const clsLeftJournal *one = left(journal))
+        m_commands.compare(mdCompareWithJournal(*one));
     refresh();
 }
 

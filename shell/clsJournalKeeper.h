@@ -9,6 +9,7 @@
 #include <functional>
 
 class oNoticeBar;
+struct clsComparison;
 struct clsNotice;
 
 /// What the keeper has the main window do.
@@ -16,6 +17,7 @@ struct clsKeeperCommands {
     std::function<void()> saveAs;
     /// Asks about changes, and runs the step in which another claim takes the place of the open one.
     std::function<void(const std::function<void()> &open)> openInstead;
+    std::function<void(const clsComparison &comparison)> compare;
 };
 
 /// Keeps the journal while the main window is up: soon after each step, and now and then for what is typed. It shows in
@@ -43,6 +45,8 @@ public:
     // The answers of the notices. `journal` is the file of the one that the notice tells of.
     void SaveAs(const QString &journal);
     void OpenTheirs(const QString &journal);
+    void CompareTheirs(const QString &journal);
+    void CompareLeft(const QString &journal);
     void OpenLeft(const QString &journal);
     void DiscardLeft(const QString &journal);
     void BrokenRead(const QString &journal);

@@ -76,8 +76,10 @@ frmMain::frmMain(QWidget *parent)
     , m_check(new clsCheckState(this))
     , oFooter(new oFooterBar)
     , tmrAutoBackup(new QTimer(this))
-    , m_journal(new clsJournalKeeper(
-          *m_noticeBar, {[this] { SaveAs(); }, [this](const std::function<void()> &open) { openInstead(open); }}, this))
+    , m_journal(new clsJournalKeeper(*m_noticeBar,
+          {[this] { SaveAs(); }, [this](const std::function<void()> &open) { openInstead(open); },
+              [this](const clsComparison &comparison) { compare(comparison); }},
+          this))
 {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Velmor ZR3"));

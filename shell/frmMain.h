@@ -29,6 +29,7 @@ class oPreviewSheet;
 class oTabBar;
 class oTotalsStrip;
 struct clsClaimPlace;
+struct clsComparison;
 
 /// The one top-level window: a launcher and a display. Everything that is edited is edited on modal screens that it
 /// opens; its own area shows which claim this is, two rows of tabs, the preview and the status line. Its caption is
@@ -132,6 +133,7 @@ private:
     void tintDrawn();
     void tintChosen();
     void offerNotStored();
+    void compare(const clsComparison &comparison);
     void openDropped(const QString &path);
     /// Asks about changes, and has another claim take the place of the open one.
     void openInstead(const std::function<void()> &open);

@@ -1,10 +1,13 @@
 #include "shell/frmMain.h"
 
+#include "controls/mdShowModal.h"
 #include "controls/oFooterBar.h"
 #include "editors/frmSection.h"
 #include "editors/mdBringBack.h"
+#include "shell/frmCompare.h"
 
-// What was typed on a screen and not stored: the main window offers it until it is stored after all.
+// What is offered against a loss: what was typed on a screen and not stored, until it is stored after all, and what
+// differs between two states of the claim.
 
 void frmMain::offerNotStored()
 {
@@ -20,4 +23,10 @@ void frmMain::BringBack()
     m_nextWay = mdWayBack(*texts);
     tbSubSection_Click(-1, mdSectionOfNotStored(*texts));
     m_nextWay = nullptr;
+}
+
+void frmMain::compare(const clsComparison &comparison)
+{
+    frmCompare window(comparison, this);
+    whileModal([&window] { mdShowModal(window); });
 }

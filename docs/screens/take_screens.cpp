@@ -7,6 +7,7 @@
 #include "controls/frmMessageBox.h"
 #include "controls/mdApplyTheme.h"
 #include "controls/oContentSwitcher.h"
+#include "costing/comparing/mdCompareClaims.h"
 #include "editors/frmSection.h"
 #include "editors/mdEditCostsLimit.h"
 #include "editors/mdScreens.h"
@@ -20,9 +21,11 @@
 #include "preview/oWhySheet.h"
 #include "shell/clsWindowUserInterface.h"
 #include "shell/frmAbout.h"
+#include "shell/frmCompare.h"
 #include "shell/frmExportToWord.h"
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
+#include "shell/mdComparison.h"
 #include "wordexport/mdOfficeProgram.h"
 
 #include <QApplication>
@@ -255,6 +258,23 @@ void takeNotice(clsPictures &pictures, frmMain &main)
     main.resize(before);
 }
 
+/// What differs between the claim's file and its recovery copy.
+void takeCompare(clsPictures &pictures, frmMain &main)
+{
+    clsZR3Form before;
+    clsZR3Form after;
+    const QByteArray text = Form->XMLOutput().toUtf8();
+    if (!before.LoadText(text) || !after.LoadText(text))
+        return;
+    after.OutcomeOfCase.WastedCostsOrderNo = true;
+    after.ClientDetails.Surname = QStringLiteral("Hartwell-Jones");
+    after.Disbursement(1)->Amount = QStringLiteral("64.00");
+    after.DeleteScheduleOfTimeItem(2);
+    frmCompare window(
+        {QStringLiteral("On disk"), QStringLiteral("Recovery copy"), {}, mdCompareClaims(before, after)}, &main);
+    pictures.take(window, QStringLiteral("frmCompare"));
+}
+
 bool takeAll(const QString &claim, const QString &folder)
 {
     clsPictures pictures(folder);
@@ -282,6 +302,7 @@ bool takeAll(const QString &claim, const QString &folder)
     takePreferences(pictures, main);
     takeBoxes(pictures, main);
     takeNotice(pictures, main);
+    takeCompare(pictures, main);
     takeCostsLimit(pictures, main);
     main.PreviewAdditionalInformation();
     pictures.take(main, QStringLiteral("frmMain-notes"));

@@ -9,6 +9,10 @@ class QWidget;
 struct clsEditCommands {
     std::function<void()> undo;
     std::function<void()> redo;
+    std::function<void()> paste {};
+    std::function<void()> import {};
+    std::function<void()> copyList {};
+    bool hasCopyKey = true; ///< whether no key of the window's own stands in the way
 };
 
 /// Makes the menu "Edit" of a window from the table of its entries, for the window to put into its bar. A text box

@@ -4,6 +4,7 @@
 #include "editors/clsItemChoice.h"
 #include "editors/frmSection.h"
 #include "editors/mdFieldDiffers.h"
+#include "editors/mdPasteItems.h"
 #include "editors/mdScreenControls.h"
 #include "editors/oListLine.h"
 #include "formdata/mdGlobals.h"
@@ -53,9 +54,10 @@ clsScreenUndo::clsScreenUndo(frmSection &screen, QMenuBar &menus, oListLine &lin
     , m_screen(screen)
     , m_line(line)
 {
-    QMenu *edit = mdMakeEditMenu(screen,
-        {.undo = [this] { run(&clsHistory::undo, &clsHistory::undoItem); },
-            .redo = [this] { run(&clsHistory::redo, &clsHistory::redoItem); }});
+    clsEditCommands commands {.undo = [this] { run(&clsHistory::undo, &clsHistory::undoItem); },
+        .redo = [this] { run(&clsHistory::redo, &clsHistory::redoItem); }};
+    mdOfferPaste(screen, commands, [this](const QString &what) { m_line.Tell(what); });
+    QMenu *edit = mdMakeEditMenu(screen, commands);
     // Behind "File".
     menus.insertMenu(menus.actions().value(1), edit);
 }

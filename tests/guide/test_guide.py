@@ -169,7 +169,7 @@ class Sources(unittest.TestCase):
         self.assertEqual(len(entries), 19)
         edit = (ROOT / "editors/clsEditMenu.cpp").read_text(encoding="utf-8")
         edited = [entry.replace("&", "") for entry in re.findall(r'^    \{"([^"]+)",\s*"mnu', edit, flags=re.MULTILINE)]
-        self.assertEqual(edited, ["Undo", "Redo"])
+        self.assertEqual(edited, ["Undo", "Redo", "Paste Items...", "Import Items...", "Copy List"])
         entries += edited
         preferences = (ROOT / "editors/frmPreferences.cpp").read_text(encoding="utf-8")
         captions = re.findall(r'\{(?:Decimal|Tick|Text),\s*"\w+",\s*"([^"*]+)\*?"', preferences)

@@ -16,7 +16,7 @@ namespace {
 constexpr int Height = 40;
 constexpr int ListHeight = 28;
 /// What the arrow and the edges take of a list.
-constexpr int Trimmings = 56;
+constexpr int ListTrimmings = 56;
 constexpr int LeftOut = -1;
 
 } // namespace
@@ -79,7 +79,7 @@ void oPasteHeader::Place()
 int oPasteHeader::WidthFor(int section) const
 {
     return QFontMetrics(mdGridHeadingFont()).horizontalAdvance(m_model.headerData(section, Qt::Horizontal).toString())
-        + Theme::scaled(Trimmings);
+        + Theme::scaled(ListTrimmings);
 }
 
 void oPasteHeader::updateGeometries()

@@ -1,7 +1,7 @@
 #include "controls/oFooterLine.h"
 
-#include "controls/mdSigns.h"
 #include "controls/mdLine.h"
+#include "controls/mdSigns.h"
 #include "controls/mdTheme.h"
 
 #include <QAccessible>

@@ -175,9 +175,12 @@ void oNoticeBar::buildAnswers()
 {
     const auto &answers = shown().answers;
     while (m_answers.size() < answers.size()) {
+        QWidget *before = m_answers.empty() ? cmdNext : m_answers.back();
         m_answers.push_back(addButton(QStringLiteral("cmdAnswer%1").arg(m_answers.size() + 1)));
         oCustomButton *button = m_answers.back();
         m_row->addWidget(button);
+        // A new widget comes last in the order of its window.
+        setTabOrder(before, button);
         connect(button, &oCustomButton::Click, this, [this, place = m_answers.size() - 1] {
             // A copy: what it does may bring other notices.
             if (place < shown().answers.size())

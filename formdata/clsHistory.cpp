@@ -2,6 +2,7 @@
 
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdNodeImage.h"
+#include "formdata/mdXMLChanges.h"
 #include "formdata/mdXMLTemplate.h"
 
 #include <QScopedValueRollback>
@@ -213,6 +214,7 @@ const clsZR3Item *clsHistory::turn(const clsStep &step, clsTreeDirection directi
         std::for_each(step.changes.begin(), step.changes.end(), applyOne);
     else
         std::for_each(step.changes.rbegin(), step.changes.rend(), applyOne);
+    XMLChanges::note();
     if (reload)
         form.LoadElements();
     else

@@ -12,6 +12,7 @@
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
 #include "formdata/mdGlobals.h"
+#include "shell/clsLostWindow.h"
 #include "shell/clsWindowUserInterface.h"
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
@@ -111,6 +112,7 @@ int RunProgram(int argc, char **argv)
         return WriteRecoveredCopy();
     };
     const clsEndSignalScope endSignals([&application] { application.endUnasked(); });
+    const clsLostWindow lostWindow([&application] { application.endUnasked(); });
 
     if (IsNetworkPath(ProgramFolder())) {
         mdCustomMessages(

@@ -300,6 +300,19 @@ TEST_F(JournalKept, IsOnTheDiskBeforeItTakesItsName)
     EXPECT_EQ((std::vector {OpenToWrite, Write, SyncFile, Close, SyncFolder, Rename, SyncFolder}), order);
 }
 
+TEST_F(JournalKept, OfTwoUsersOfOneDatabaseFolderKnowNothingOfEachOther)
+{
+    const QStringList before = QDir(path("program/Databases")).entryList(QDir::AllEntries | QDir::Hidden);
+    changedClaim();
+    EXPECT_EQ(before, QDir(path("program/Databases")).entryList(QDir::AllEntries | QDir::Hidden));
+    kill();
+    qputenv("XDG_STATE_HOME", QFile::encodeName(path("another user's state")));
+    clsLeftJournals left;
+    left.look();
+    EXPECT_TRUE(left.all().empty());
+    EXPECT_FALSE(QFileInfo::exists(path("another user's state"))) << "looking makes nothing";
+}
+
 TEST_F(JournalKept, IsNotKeptWithoutAWindow)
 {
     Journal().end();

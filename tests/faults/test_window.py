@@ -52,8 +52,12 @@ class WindowKilled(SaveTest):
         process.wait()
         self.put_old()
         tool = self.save("new", under=self.disk, log=self.log)
-        self.assertEqual([step.operation for step in tool.steps], [step.operation for step in steps],
-                         "the window doesn't save as the tool does")
+        wanted, made = ([step.operation for step in of] for of in (tool.steps, steps))
+        # Before it the window looks whether another program has changed the file, and afterwards it reads it back.
+        begins = [place for place in range(len(made)) if made[place:place + len(wanted)] == wanted]
+        self.assertTrue(begins, f"the window doesn't save as the tool does: {made}")
+        around = made[:begins[0]] + made[begins[0] + len(wanted):]
+        self.assertLessEqual(set(around), {"stat", "open", "read", "close"})
         for step in steps if FULL else chance.sample(steps, 3):
             with self.subTest(step=step.number, operation=step.operation, seed=SEED):
                 process = self.begin(step.number, "killmid" if step.operation == "write" else "kill")

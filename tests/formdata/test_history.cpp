@@ -175,6 +175,22 @@ TEST_F(History, ADeletedItemReturnsToItsPlaceInTheFile)
     expectRecordsAgree();
 }
 
+TEST_F(History, TheMarkGoesAndComesWithATextThatIsUndoneAndDoneAgain)
+{
+    Form = std::make_unique<clsZR3Form>();
+    ASSERT_TRUE(Form->LoadXML(mdSamplePath(QStringLiteral("housing-typical.zr3"))));
+    Document().takeAsClean();
+    clsHistory &own = Document().history;
+    RunStep(QStringLiteral("Client Details"), [] { Form->ClientDetails.Surname = QStringLiteral("Hartwell-Brown"); });
+    EXPECT_TRUE(Document().isDirty());
+    own.undo();
+    EXPECT_FALSE(Document().isDirty());
+    own.redo();
+    EXPECT_TRUE(Document().isDirty());
+    own.clear();
+    Form.reset();
+}
+
 TEST_F(History, AnUndoneNewFeeEarnerLeavesTheMark)
 {
     Form = std::make_unique<clsZR3Form>();

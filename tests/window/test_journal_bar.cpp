@@ -268,6 +268,16 @@ TEST_F(JournalBar, IsTheFirstStopOfTheWindow)
 {
     leftClaim();
     EXPECT_FALSE(bar().isAncestorOf(window->focusWidget())) << "it takes no focus when it comes";
+    QWidget *tabs = window->focusWidget();
     QTest::keyClick(window.get(), Qt::Key_Backtab);
-    EXPECT_TRUE(bar().isAncestorOf(window->focusWidget()));
+    EXPECT_EQ(&control<QWidget>(bar(), "cmdAnswer2"), window->focusWidget()) << "Discard, the last of its buttons";
+    QTest::keyClick(window.get(), Qt::Key_Backtab);
+    EXPECT_EQ(&control<QWidget>(bar(), "cmdAnswer1"), window->focusWidget());
+    QTest::keyClick(window.get(), Qt::Key_Tab);
+    QTest::keyClick(window.get(), Qt::Key_Tab);
+    EXPECT_EQ(tabs, window->focusWidget());
+    QTest::keyClick(window.get(), Qt::Key_Backtab);
+    QTest::keyClick(window.get(), Qt::Key_Backtab);
+    QTest::keyClick(window.get(), Qt::Key_Backtab);
+    EXPECT_FALSE(bar().isAncestorOf(window->focusWidget())) << "before the bar comes the end of the window";
 }

@@ -300,7 +300,8 @@ TEST_F(PageBoxes, TheRowsLieWhereTheOfficeProgramPrintsTheirItems)
         EXPECT_GT(rows[QStringLiteral("disbursements")], 3) << name;
         EXPECT_GT(rows[QStringLiteral("experts")], 3) << name;
         EXPECT_GT(rows[QStringLiteral("joint")], 3) << name;
-        if (Form->FormType() == QLatin1String("Claim1A"))
-            EXPECT_GT(rows[QStringLiteral("fas")], 3);
+        if (Form->FormType() == QLatin1String("Claim1A")) {
+            EXPECT_GT(rows[QStringLiteral("fas")], 3) << name;
+        }
     }
 }

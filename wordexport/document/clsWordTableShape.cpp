@@ -165,8 +165,8 @@ int clsWordTableShape::widthOfColumns(int from, int to) const
     return width;
 }
 
-// Half of its outer lines' width is lost to each cell of a table. Where the very first cell has a line on its right too,
-// as one that spans the table has, the halves of both its lines are.
+// Half of its outer lines' width is lost to each cell of a table. Where the very first cell has a line on its right
+// too, as one that spans the table has, the halves of both its lines are.
 int clsWordTableShape::lineLoss()
 {
     if (m_lineLoss < 0) {

@@ -27,6 +27,7 @@ oPasteHeader::oPasteHeader(clsPasteModel &model, QWidget *parent)
 {
     setSectionsClickable(false);
     setHighlightSections(false);
+    setMinimumSectionSize(1);
     for (int place = 0; place < int(model.Rows().header().size()); ++place)
         addList(place);
     connect(this, &QHeaderView::sectionResized, this, &oPasteHeader::Place);

@@ -19,6 +19,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
+#include <QScrollBar>
 
 // Rows of a table that come into a list, and the list as a table.
 
@@ -458,6 +459,7 @@ TEST_F(PasteItems, InANarrowWindowTheNoteStandsBeneathItsRow)
     window->resize(1160, 500);
     QCoreApplication::processEvents();
     EXPECT_FALSE(pasted().isColumnHidden(note));
+    EXPECT_EQ(0, pasted().horizontalScrollBar()->maximum()) << "the columns share the width";
     EXPECT_EQ(pasted().rowHeight(1), pasted().rowHeight(2));
     window->resize(700, 500);
     QCoreApplication::processEvents();

@@ -160,7 +160,6 @@ QWidget *frmPasteItems::makeStatus()
     lblWhatToDo = label("lblWhatToDo", Theme::Ink2);
     lblWhatToDo->setText(QStringLiteral("Correct the cell, change the column's heading, or untick the row."));
     lblWhatToDo->setMinimumWidth(1);
-    lblWhatToDo->setWordWrap(true);
     lblWhatToDo->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     lblCounts = label("lblCounts", Theme::Ink2);
     lblTotal = label("lblTotal", Theme::Ink, true);

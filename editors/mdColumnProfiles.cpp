@@ -21,7 +21,7 @@ QJsonObject profiles()
     const QJsonDocument document = QJsonDocument::fromJson(content);
     if (!content.isEmpty() && !document.isObject()) {
         mdSetStateFileAside(QString::fromLatin1(FileName));
-        UserInterface().tellLine(QStringLiteral("What columns were taken for could not be read and is set aside"));
+        UserInterface().tellLine(QStringLiteral("The file of known columns was broken and has been set aside"));
     }
     return document.object();
 }

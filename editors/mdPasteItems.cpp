@@ -159,9 +159,7 @@ int mdCopyList(const clsPasteList &list)
 
 QString mdCopiedInWords(const clsPasteList &list, int count)
 {
-    return QStringLiteral("Copied %1 %2 of %3")
-        .arg(count)
-        .arg(count == 1 ? QStringLiteral("row") : QStringLiteral("rows"), QString::fromLatin1(list.section));
+    return QStringLiteral("Copied %1: %2 in all").arg(QString::fromLatin1(list.section)).arg(count);
 }
 
 void mdOfferPaste(frmSection &screen, clsEditCommands &commands, const std::function<void(const QString &)> &tell)

@@ -368,7 +368,7 @@ TEST_F(PasteItems, WhatCopyListMakesIsWhatPasteTakes)
     open("Schedule of Time");
     const QStringList before = schedule();
     QTest::keyClick(screen->focusWidget(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_EQ(QStringLiteral("Copied 2 rows of Schedule of Time"), screen->findChild<oListLine *>()->Text());
+    EXPECT_EQ(QStringLiteral("Copied Schedule of Time: 2 in all"), screen->findChild<oListLine *>()->Text());
     EXPECT_TRUE(clipboard().contains(u'\t'));
     const QByteArray csv = QGuiApplication::clipboard()->mimeData()->data(QStringLiteral("text/csv"));
     EXPECT_TRUE(csv.contains("17/09/2025,ACT") || csv.contains("DVE,17/09/2025")) << csv.toStdString();

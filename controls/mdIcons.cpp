@@ -94,6 +94,7 @@ constexpr struct {
     {"frmDetailsOfMonies",         Glyph::Coins},
     {"frmLateSubmission",          Glyph::Calendar},
     {"frmExportAsPdf",             Glyph::Export},
+    {"frmPasteItems",              Glyph::List},
     {"frmExportToWord",            Glyph::Export},
 };
 // clang-format on

@@ -24,6 +24,11 @@ void oButtonBar::AddButton(QWidget *button)
     m_layout->addWidget(button);
 }
 
+void oButtonBar::AddLeft(QWidget *widget)
+{
+    m_layout->insertWidget(m_left++, widget);
+}
+
 void oButtonBar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);

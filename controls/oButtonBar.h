@@ -14,6 +14,8 @@ public:
 
     /// Adds a button behind those that are there.
     void AddButton(QWidget *button);
+    /// The same at the left end.
+    void AddLeft(QWidget *widget);
 
     /// Lays a dialog out as all are: the header, the content on the canvas, and the bar.
     static void layOut(QDialog &dialog, QWidget *header, QWidget *content, oButtonBar *bar);
@@ -23,4 +25,5 @@ protected:
 
 private:
     QHBoxLayout *m_layout;
+    int m_left = 0; ///< how many stand at the left
 };

@@ -89,7 +89,7 @@ bool oGridView::event(QEvent *event)
 {
     const bool result = QTableView::event(event);
     if (event->type() == QEvent::Paint)
-        paintFrame();
+        paintFrameOf(*this);
     return result;
 }
 
@@ -100,16 +100,17 @@ void oGridView::setMarksCell(bool marksCell)
 }
 
 /// Two pixels with the focus and one without, inside the same room, so that nothing shifts.
-void oGridView::paintFrame()
+void oGridView::paintFrameOf(QTableView &table)
 {
-    QPainter painter(this);
-    if (hasFocus()) {
-        painter.fillRect(rect(), Theme::Purple);
+    QPainter painter(&table);
+    const QRect all = table.rect();
+    if (table.hasFocus()) {
+        painter.fillRect(all, Theme::Purple);
         return;
     }
-    painter.fillRect(rect(), Theme::Paper);
-    painter.fillRect(QRect(0, 0, width(), horizontalHeader()->height() + 2), Theme::Canvas);
-    mdPaintLine(painter, rect(), Qt::TopEdge | Qt::BottomEdge | Qt::LeftEdge | Qt::RightEdge, Theme::Grey);
+    painter.fillRect(all, Theme::Paper);
+    painter.fillRect(QRect(0, 0, all.width(), table.horizontalHeader()->height() + 2), Theme::Canvas);
+    mdPaintLine(painter, all, Qt::TopEdge | Qt::BottomEdge | Qt::LeftEdge | Qt::RightEdge, Theme::Grey);
 }
 
 bool oGridView::viewportEvent(QEvent *event)

@@ -28,6 +28,9 @@ public:
     /// Takes the fonts and heights of the theme and the columns of the model.
     void takeFonts();
 
+    /// Draws the frame of a table, which shows where the focus is.
+    static void paintFrameOf(QTableView &table);
+
 signals:
     /// A key went down; nothing is done with it when a listener sets `*doDefault` to false.
     void keyDown(int key, Qt::KeyboardModifiers shift, bool *doDefault);
@@ -61,7 +64,6 @@ private:
     void askForMenuAtSelectedRow();
     void hoverAt(const QPoint &position);
     void updateRow(int row);
-    void paintFrame();
     void paintEmptyState();
 
     oGridDelegate *m_delegate;

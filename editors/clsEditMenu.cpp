@@ -24,6 +24,9 @@ struct clsEditRow {
 constexpr clsEditRow Rows[] = {
     {"&Undo", "mnuUndo", "Ctrl+Z",              &clsEditCommands::undo, [] { return Document().history.undoName(); }},
     {"&Redo", "mnuRedo", "Ctrl+Shift+Z; Ctrl+Y", &clsEditCommands::redo, [] { return Document().history.redoName(); }, true},
+    {"&Paste Items...",  "mnuPasteItems",  "Ctrl+Shift+V", &clsEditCommands::paste,    nullptr},
+    {"&Import Items...", "mnuImportItems", "",             &clsEditCommands::import,   nullptr},
+    {"&Copy List",       "mnuCopyList",    "Ctrl+Shift+C", &clsEditCommands::copyList, nullptr},
     {"Same &Again", "mnuSameAgain", "Ctrl+D",   &clsEditCommands::sameAgain, nullptr},
     {"&Bring Back", "mnuBringBack", "",         &clsEditCommands::bringBack, nullptr, false, &clsEditCommands::canBringBack},
 };
@@ -88,6 +91,8 @@ QMenu *mdMakeEditMenu(QWidget &window, const clsEditCommands &commands)
         QAction *entry = menu->addAction(QString::fromLatin1(row.text));
         entry->setObjectName(QString::fromLatin1(row.name));
         entry->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(row.keys), QKeySequence::PortableText));
+        if (row.run == &clsEditCommands::copyList && !commands.hasCopyKey)
+            entry->setShortcuts(QList<QKeySequence>());
         QObject::connect(entry, &QAction::triggered, &window, commands.*row.run);
         connectEntry(*menu, *entry, row, row.can ? commands.*row.can : nullptr);
         if (row.separatorAfter)

@@ -9,9 +9,13 @@ class QWidget;
 struct clsEditCommands {
     std::function<void()> undo;
     std::function<void()> redo;
+    std::function<void()> paste {};
+    std::function<void()> import {};
+    std::function<void()> copyList {};
     std::function<void()> sameAgain {};
-    std::function<void()> bringBack;
-    std::function<bool()> canBringBack;
+    std::function<void()> bringBack {};
+    std::function<bool()> canBringBack {};
+    bool hasCopyKey = true; ///< whether no key of the window's own stands in the way
 };
 
 /// Makes the menu "Edit" of a window from the table of its entries, for the window to put into its bar. A text box

@@ -15,6 +15,7 @@ class clsXMLRecord;
 class clsZR3Item;
 class frmSection;
 class oSGrid;
+struct clsPasteList;
 struct clsScreen;
 
 /// What a row of a screen's table is: a field of some kind, or one of the rows that only arrange the others.
@@ -96,6 +97,7 @@ struct clsItemList {
     std::vector<clsItemAction> actions {}; ///< further entries, above "Delete"
     void (*changed)() = nullptr; ///< brings up to date what the claim derives from the list, after each change of it
     clsListTotal (*total)() = nullptr; ///< what stands at the right under the grid
+    const clsPasteList &(*paste)() = nullptr; ///< as what it takes rows of tables, and gives its own
 };
 
 /// A control that a table brings with it, as wide as it asks for. Loading and storing may be missing where it has no

@@ -7,6 +7,7 @@
 #include "editors/frmSection.h"
 #include "editors/mdBringBack.h"
 #include "editors/mdFieldDiffers.h"
+#include "editors/mdPasteItems.h"
 #include "editors/mdScreenControls.h"
 #include "editors/oListLine.h"
 #include "formdata/mdGlobals.h"
@@ -56,12 +57,14 @@ clsScreenUndo::clsScreenUndo(frmSection &screen, QMenuBar &menus, oListLine &lin
     , m_screen(screen)
     , m_line(line)
 {
-    QMenu *edit = mdMakeEditMenu(screen,
-        {.undo = [this] { run(&clsHistory::undo, &clsHistory::undoItem); },
-            .redo = [this] { run(&clsHistory::redo, &clsHistory::redoItem); },
-            .sameAgain = screen.AddsItems() ? [this] { m_screen.SameAgain(); } : std::function<void()>(),
-            .bringBack = [this] { bringBack(); },
-            .canBringBack = [this] { return mdLatestNotStored(m_screen) != nullptr; }});
+    clsEditCommands commands {.undo = [this] { run(&clsHistory::undo, &clsHistory::undoItem); },
+        .redo = [this] { run(&clsHistory::redo, &clsHistory::redoItem); },
+        .bringBack = [this] { bringBack(); },
+        .canBringBack = [this] { return mdLatestNotStored(m_screen) != nullptr; }};
+    if (screen.AddsItems())
+        commands.sameAgain = [this] { m_screen.SameAgain(); };
+    mdOfferPaste(screen, commands, [this](const QString &what) { m_line.Tell(what); });
+    QMenu *edit = mdMakeEditMenu(screen, commands);
     // Behind "File".
     menus.insertMenu(menus.actions().value(1), edit);
     connect(&m_line, &oListLine::Taken, this, &clsScreenUndo::bringBack);

@@ -4,6 +4,7 @@
 #include "base/mdPlayWav.h"
 #include "base/mdProgramFolder.h"
 #include "controls/oSGrid.h"
+#include "editors/clsPasteList.h"
 #include "editors/frmSection.h"
 #include "editors/mdCountComms.h"
 #include "editors/mdEditItem.h"
@@ -132,6 +133,7 @@ const clsItemList FeeEarners {
     .show = [](oSGrid &grid) { grid.setItemCollection(feeEarnersInOrder); },
     .empty = "Add a fee earner under Fee Earners / Rates first.",
     .total = mdCommunicationsListTotal,
+    .paste = mdPasteCommunications,
 };
 // clang-format on
 

@@ -1,6 +1,7 @@
 #include "editors/mdScreens.h"
 
 #include "controls/oSGrid.h"
+#include "editors/clsPasteList.h"
 #include "editors/frmSection.h"
 #include "editors/mdItemFaults.h"
 #include "formdata/clsZR3Form.h"
@@ -77,6 +78,7 @@ const clsItemList OtherDisbursements {
     .deleteEntry = "mnuDeleteDisbursement",
     .changed = separate,
     .total = mdDisbursementsListTotal,
+    .paste = mdPasteDisbursements,
 };
 // clang-format on
 

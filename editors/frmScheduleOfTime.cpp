@@ -1,6 +1,7 @@
 #include "editors/mdScreens.h"
 
 #include "controls/oSGrid.h"
+#include "editors/clsPasteList.h"
 #include "editors/frmSection.h"
 #include "editors/mdItemFaults.h"
 #include "formdata/clsZR3Form.h"
@@ -49,6 +50,7 @@ const clsItemList ScheduleItems {
     .deleteEntry = "mnuDeleteScheduleOfTimeItem",
     .changed = renderForBill,
     .total = mdScheduleListTotal,
+    .paste = mdPasteSchedule,
 };
 // clang-format on
 

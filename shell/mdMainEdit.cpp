@@ -1,7 +1,10 @@
 #include "shell/mdMainEdit.h"
 
+#include "base/clsUserInterface.h"
 #include "editors/clsEditMenu.h"
 #include "editors/mdBringBack.h"
+#include "editors/clsPasteList.h"
+#include "editors/mdPasteItems.h"
 #include "formdata/mdGlobals.h"
 #include "shell/clsLongWork.h"
 
@@ -29,9 +32,22 @@ std::function<void()> turning(
 
 void mdAddEditMenu(QMainWindow &window, const std::function<void()> &showTurned, const std::function<void()> &bringBack)
 {
+    // Of the lists it is the schedule that the window shows.
+    const auto taking = [showTurned](void (*take)(const clsPasteList &, const clsPasted &)) {
+        return [=] {
+            if (!clsLongWork::isRunning() && Form)
+                take(mdPasteSchedule(), showTurned);
+        };
+    };
     QMenu *edit = mdMakeEditMenu(window,
         {.undo = turning(&clsHistory::canUndo, &clsHistory::undo, showTurned),
             .redo = turning(&clsHistory::canRedo, &clsHistory::redo, showTurned),
+            .paste = taking(mdPasteItems),
+            .import = taking(mdImportItems),
+            .copyList = [] {
+                if (Form)
+                    UserInterface().tellLine(mdCopiedInWords(mdPasteSchedule(), mdCopyList(mdPasteSchedule())));
+            },
             .bringBack = bringBack,
             .canBringBack = [] { return mdLatestNotStored() != nullptr; }});
     window.menuBar()->insertMenu(window.menuBar()->actions().value(1), edit);

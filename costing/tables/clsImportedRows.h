@@ -4,6 +4,8 @@
 #include "costing/tables/clsTextTable.h"
 #include "costing/tables/mdImportLists.h"
 
+class clsCellReader;
+
 /// The items of a table, before they are stored: what each column means, what each cell is read as, what is wrong, and
 /// which rows the claim has already. Everything can be looked at and changed first; the claim changes by `appendTo`
 /// alone, and then by all chosen rows.
@@ -23,6 +25,13 @@ public:
     int meaningOf(int place) const { return m_meanings[size_t(place)]; }
     /// Gives a column of the table another meaning, takes it from the column that had it, and reads the rows anew.
     void setMeaning(const clsZR3Form &form, int place, int column);
+    /// Finds by what stands in its cells what a column means whose name says nothing, where one is missing; the text is
+    /// that of the table, of which then no line may name the columns at all.
+    void guessMeanings(const clsZR3Form &form, QStringView text);
+    /// How many rows stand below the header, and a cell of them as it stands there, read or not.
+    int lines() const { return int(m_texts.size()); }
+    QString textAt(int row, int place) const { return m_texts[size_t(row)].Cells.value(place); }
+
     /// The columns that mean nothing and have a text. Those that the tables of this program have beside are no news.
     QStringList unknownColumns() const;
     /// Those of the names in a table that this one doesn't have.
@@ -51,6 +60,7 @@ private:
     void give(qsizetype place, int column);
     void readRows(const clsZR3Form &form);
     QString missingColumns() const;
+    void takeWithoutHeader(QStringView text, const std::vector<clsCellKind> &kinds, const clsCellReader &reader);
 
     const clsImportList *m_list;
     QString m_error;

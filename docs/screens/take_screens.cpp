@@ -8,6 +8,8 @@
 #include "controls/mdApplyTheme.h"
 #include "controls/oContentSwitcher.h"
 #include "costing/comparing/mdCompareClaims.h"
+#include "editors/clsPasteList.h"
+#include "editors/frmPasteItems.h"
 #include "editors/frmSection.h"
 #include "editors/mdEditCostsLimit.h"
 #include "editors/mdScreens.h"
@@ -191,6 +193,20 @@ void takeCostsLimit(clsPictures &pictures, frmMain &main)
     mdEditCostsLimit(&main);
 }
 
+/// The table of the guide, with its two wrong cells.
+void takePasteItems(clsPictures &pictures, frmMain &main)
+{
+    frmPasteItems window(mdPasteSchedule(),
+        QStringLiteral("Date\tWho\tCode\tHours\tDetails\n"
+                       "17/09/25\tMO\tACL\t0:36\tAttending client by telephone on the repairs\n"
+                       "18/09/25\tOQ\tDBL\t1:10\tPreparing the landlord's repair history\n"
+                       "30/09/25\tJPR\tAEX\t0:30\tAttending the surveyor by telephone\n"
+                       "31/09/25\tMO\tACL\t0:24\tAttending client on the application\n"),
+        {QStringLiteral("Paste Items"), QStringLiteral("the clipboard"), {}}, &main);
+    window.resize(window.sizeHint().width(), window.sizeHint().height() * 2 / 3);
+    pictures.take(window, window.objectName());
+}
+
 /// The sign at a box whose text is printed smaller.
 void takePrintSign(clsPictures &pictures, frmMain &main)
 {
@@ -304,6 +320,7 @@ bool takeAll(const QString &claim, const QString &folder)
     takeNotice(pictures, main);
     takeCompare(pictures, main);
     takeCostsLimit(pictures, main);
+    takePasteItems(pictures, main);
     main.PreviewAdditionalInformation();
     pictures.take(main, QStringLiteral("frmMain-notes"));
     takeFormPages(pictures, main);

@@ -41,7 +41,7 @@ protected:
         auto *edit = screen->findChild<QMenu *>(QStringLiteral("mnuEdit"));
         emit edit->aboutToShow();
         QStringList texts;
-        for (const QAction *entry : edit->actions())
+        for (const QAction *entry : edit->actions().first(2))
             texts << entry->text() + (entry->isEnabled() ? QString() : QStringLiteral(" (off)"));
         emit edit->aboutToHide();
         QCoreApplication::processEvents();

@@ -169,7 +169,8 @@ class Sources(unittest.TestCase):
         self.assertEqual(len(entries), 19)
         edit = (ROOT / "editors/clsEditMenu.cpp").read_text(encoding="utf-8")
         edited = [entry.replace("&", "") for entry in re.findall(r'^    \{"([^"]+)",\s*"mnu', edit, flags=re.MULTILINE)]
-        self.assertEqual(edited, ["Undo", "Redo", "Same Again", "Bring Back"])
+        self.assertEqual(edited, ["Undo", "Redo", "Paste Items...", "Import Items...", "Copy List", "Same Again",
+                                  "Bring Back"])
         entries += edited
         preferences = (ROOT / "editors/frmPreferences.cpp").read_text(encoding="utf-8")
         captions = re.findall(r'\{(?:Decimal|Tick|Text),\s*"\w+",\s*"([^"*]+)\*?"', preferences)
@@ -220,20 +221,20 @@ class Keys(unittest.TestCase):
         self.assertEqual(len(keys), 10)
         edit = re.findall(r'"mnu\w+",\s*"(Ctrl[^"]*)"', self.sources.files["editors/clsEditMenu.cpp"])
         edited = [key for row in edit for key in row.split("; ")]
-        self.assertEqual(edited, ["Ctrl+Z", "Ctrl+Shift+Z", "Ctrl+Y", "Ctrl+D"])
+        self.assertEqual(edited, ["Ctrl+Z", "Ctrl+Shift+Z", "Ctrl+Y", "Ctrl+Shift+V", "Ctrl+Shift+C", "Ctrl+D"])
         self.assertLessEqual({*keys, *edited}, self.keys)
 
     def test_no_other_file_sets_a_shortcut(self):
         for file, code in self.sources.files.items():
             for set_here in re.findall(r"(?:setShortcut|QShortcut)\(([^;]*)\);", code):
-                # The menus; letters with Alt; what enlarges pages; Save and Add; what goes from finding to finding.
+                # The menus; letters with Alt; what enlarges pages; Save and Add; what goes from finding to finding, or
+                # from one wrong cell to the next.
                 if file not in ("shell/mdMainMenu.cpp", "editors/oScreenFrame.cpp", "preview/oFormPages.cpp",
-                                "editors/oScreenBar.cpp",
-                                "shell/frmMainCheck.cpp"):
+                                "editors/oScreenBar.cpp", "shell/frmMainCheck.cpp", "editors/frmPasteItems.cpp"):
                     self.assertIn("Qt::CTRL | Qt::Key_S", set_here, file)
             for standard in set(re.findall(r"QKeySequence::(\w+)", code)) - {"listFromString", "PortableText"}:
                 self.assertIn(standard, ("mnemonic", "InsertLineSeparator", "Paste"), file)
-        self.assertIn("Ctrl+S", self.keys)
+        self.assertLessEqual({"Ctrl+S", "Ctrl+Up", "Ctrl+Down"}, self.keys)
         self.assertIn("Shift+Enter", self.keys)
         self.assertIn("Ctrl+Enter", self.keys)
         self.assertIn("Ctrl+V", self.keys)

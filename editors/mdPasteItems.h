@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+class frmSection;
+struct clsEditCommands;
+struct clsPasteList;
+
+// Rows of a table into a list of the claim, and the list as a table.
+
+/// What follows when rows have come into the list; part of the step.
+using clsPasted = std::function<void()>;
+
+/// Shows the rows that the clipboard holds, and adds those that the user leaves ticked, as one step.
+void mdPasteItems(const clsPasteList &list, const clsPasted &pasted);
+/// The same for those of a file that the user chooses.
+void mdImportItems(const clsPasteList &list, const clsPasted &pasted);
+/// Puts the list on the clipboard as a table; how many items that were.
+int mdCopyList(const clsPasteList &list);
+/// What the user is then told.
+QString mdCopiedInWords(const clsPasteList &list, int count);
+
+/// Gives the menu "Edit" of a screen these entries, for the first of its lists that has them; none where no list has.
+void mdOfferPaste(frmSection &screen, clsEditCommands &commands, const std::function<void(const QString &)> &tell);

@@ -2,8 +2,8 @@
 
 #include "base/clsUserInterface.h"
 #include "editors/clsEditMenu.h"
-#include "editors/mdBringBack.h"
 #include "editors/clsPasteList.h"
+#include "editors/mdBringBack.h"
 #include "editors/mdPasteItems.h"
 #include "formdata/mdGlobals.h"
 #include "shell/clsLongWork.h"
@@ -44,10 +44,11 @@ void mdAddEditMenu(QMainWindow &window, const std::function<void()> &showTurned,
             .redo = turning(&clsHistory::canRedo, &clsHistory::redo, showTurned),
             .paste = taking(mdPasteItems),
             .import = taking(mdImportItems),
-            .copyList = [] {
-                if (Form)
-                    UserInterface().tellLine(mdCopiedInWords(mdPasteSchedule(), mdCopyList(mdPasteSchedule())));
-            },
+            .copyList =
+                [] {
+                    if (Form)
+                        UserInterface().tellLine(mdCopiedInWords(mdPasteSchedule(), mdCopyList(mdPasteSchedule())));
+                },
             .bringBack = bringBack,
             .canBringBack = [] { return mdLatestNotStored() != nullptr; }});
     window.menuBar()->insertMenu(window.menuBar()->actions().value(1), edit);

@@ -46,6 +46,8 @@ void oBoxNote::Clear(QWidget &box)
         return;
     describedPart(box).setAccessibleDescription(QString());
     // Later: the button "Use ..." of the note may be what is being pressed.
+    note->parentWidget()->removeEventFilter(note);
+    box.removeEventFilter(note);
     note->hide();
     note->setParent(nullptr);
     note->deleteLater();

@@ -6,6 +6,7 @@
 #include "tests/controls/clsBoxWindow.h"
 
 #include <QClipboard>
+#include <QResizeEvent>
 
 namespace {
 
@@ -140,4 +141,18 @@ TEST_F(BoxNotes, MoveNothing)
     QTest::qWait(20);
     EXPECT_EQ(before, box->geometry());
     EXPECT_EQ(below, other->geometry());
+}
+
+TEST_F(BoxNotes, TakeNoNoticeOfTheirBoxOnceTheyAreGone)
+{
+    auto *box = add<oDecimalBox>("txtAmount");
+    show();
+    typed(box, "1,250");
+    oBoxNote::Clear(*box);
+    // Before the note itself is deleted.
+    box->resize(box->size() + QSize(1, 0));
+    QResizeEvent wider(screen.size(), screen.size());
+    QCoreApplication::sendEvent(&screen, &wider);
+    QCoreApplication::sendEvent(box, &wider);
+    EXPECT_EQ("", words(box));
 }

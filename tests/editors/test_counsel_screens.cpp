@@ -84,8 +84,8 @@ TEST_F(CounselScreens, HaveOneFrameAndTheirButtons)
     };
     EXPECT_EQ(QStringLiteral("Counsel|Add|Close"), frames(*created(QStringLiteral("Counsel"))));
     EXPECT_EQ(QStringLiteral("Enhancements|Add|Close"), frames(*created(QStringLiteral("Enhancements"))));
-    EXPECT_EQ(QStringLiteral("Counsel Setup|Save|Cancel"), frames(frmSection(ScreenCounselEdit())));
-    EXPECT_EQ(QStringLiteral("Enhancement|Save|Cancel"), frames(frmSection(ScreenEnhancementEdit())));
+    EXPECT_EQ(QStringLiteral("Counsel Setup|Save and Add|Save|Cancel"), frames(frmSection(ScreenCounselEdit())));
+    EXPECT_EQ(QStringLiteral("Enhancement|Save and Add|Save|Cancel"), frames(frmSection(ScreenEnhancementEdit())));
 }
 
 TEST_F(CounselScreens, TheListsShowTheirColumns)

@@ -85,7 +85,8 @@ TEST_F(ReplacementEdit, BothEditorsHaveTheirButtonsAndNoMenu)
         QStringList buttons;
         for (const oCustomButton *button : screen->findChildren<oCustomButton *>())
             buttons << button->objectName() + u' ' + button->Caption();
-        QStringList expected {QStringLiteral("cmdSave Save"), QStringLiteral("cmdCancel Cancel")};
+        QStringList expected {QStringLiteral("cmdSaveAndAdd Save and Add"), QStringLiteral("cmdSave Save"),
+            QStringLiteral("cmdCancel Cancel")};
         if (rates)
             expected.prepend(QStringLiteral("cmdCalculate Calculate"));
         EXPECT_EQ(expected, buttons);

@@ -17,8 +17,10 @@ KNOWN_CIRCLES = {
     # A bill works out each figure once, with the routines of its parts, and these read the bill.
     ("costing/clsBill", "costing/mdFigureFaults", "costing/mdGetColumnTotals", "costing/mdGetCommsInfo",
      "costing/mdGetFASTotals"),
-    # The list of a screen opens the editor of an item, which is a screen.
-    ("editors/clsListActions", "editors/frmSection", "editors/mdEditItem"),
+    # The list of a screen opens the editor of an item, which is a screen. What a screen drops is kept, and brought back
+    # on a screen that is opened for it.
+    ("editors/clsListActions", "editors/frmSection", "editors/mdBringBack", "editors/mdEditItem", "editors/mdSections",
+     "editors/mdTypedTexts", "editors/mdWayTo"),
 }
 
 

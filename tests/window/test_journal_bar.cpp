@@ -274,12 +274,15 @@ TEST_F(JournalBar, IsTheFirstStopOfTheWindow)
     EXPECT_FALSE(bar().isAncestorOf(window->focusWidget())) << "it takes no focus when it comes";
     QWidget *tabs = window->focusWidget();
     QTest::keyClick(window.get(), Qt::Key_Backtab);
-    EXPECT_EQ(&control<QWidget>(bar(), "cmdAnswer2"), window->focusWidget()) << "Discard, the last of its buttons";
+    EXPECT_EQ(&control<QWidget>(bar(), "cmdAnswer3"), window->focusWidget()) << "Discard, the last of its buttons";
+    QTest::keyClick(window.get(), Qt::Key_Backtab);
+    EXPECT_EQ(&control<QWidget>(bar(), "cmdAnswer2"), window->focusWidget()) << "Compare";
     QTest::keyClick(window.get(), Qt::Key_Backtab);
     EXPECT_EQ(&control<QWidget>(bar(), "cmdAnswer1"), window->focusWidget());
-    QTest::keyClick(window.get(), Qt::Key_Tab);
-    QTest::keyClick(window.get(), Qt::Key_Tab);
+    for (int button = 1; button <= 3; ++button)
+        QTest::keyClick(window.get(), Qt::Key_Tab);
     EXPECT_EQ(tabs, window->focusWidget());
+    QTest::keyClick(window.get(), Qt::Key_Backtab);
     QTest::keyClick(window.get(), Qt::Key_Backtab);
     QTest::keyClick(window.get(), Qt::Key_Backtab);
     QTest::keyClick(window.get(), Qt::Key_Backtab);

@@ -3,6 +3,7 @@
 
 #include "base/clsWorkers.h"
 
+#include "base/clsEndRequests.h"
 #include "base/clsRunTimeError.h"
 #include "base/mdUninterrupted.h"
 

@@ -18,6 +18,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -92,22 +93,24 @@ Status makePdf(clsConsoleUserInterface &console, const clsToolCommand &command, 
 {
     const QString pdfPath = pdfBeside(document);
     QEventLoop waiting;
-    clsPdfConversion conversion(document, [&waiting] { waiting.quit(); });
+    std::optional<clsPdfConversion> conversion;
     mdSetProgress(1, 1, QStringLiteral("Making the PDF"));
-    // Where this program is told to end, the office program and its copy of the document must not stay behind.
+    // Where this program is told to end, the office program and its copy of the document must not stay behind. Watched
+    // for before either is there; the handler runs in the loop below.
     const clsEndSignalScope endSignals([&] {
-        conversion.cancel();
+        conversion->cancel();
         waiting.quit();
     });
-    if (conversion.state() == clsPdfConversion::Running)
+    conversion.emplace(document, [&waiting] { waiting.quit(); });
+    if (conversion->state() == clsPdfConversion::Running)
         waiting.exec();
     mdClearProgress();
-    if (conversion.state() == clsPdfConversion::Cancelled)
+    if (conversion->state() == clsPdfConversion::Cancelled)
         return Status::Failed;
     // Made by another program since this one has looked.
     if (!command.force && FileSystem().FileExists(pdfPath))
         return documentExists(console, pdfPath);
-    const QString pdfFailure = mdPutPdfInPlace(conversion, document, pdfPath);
+    const QString pdfFailure = mdPutPdfInPlace(*conversion, document, pdfPath);
     if (pdfFailure.isEmpty())
         return Status::Done;
     console.tell(QStringLiteral("PDF"), pdfFailure);

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-/// A file by which a program shows the others of this user that it runs: the system lets go of it however the program
-/// ends. It holds nothing. Where a file system knows no locks, nobody can tell.
+/// An empty lock file that tells this user's other programs that the program is running. The system releases the lock
+/// however the program ends. On a file system without locks the state is unknown.
 class clsHeldFile {
 public:
     enum class clsState { Free, Held, Unknown };

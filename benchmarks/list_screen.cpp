@@ -1,6 +1,6 @@
 // What a user waits for on a screen with a long list: list_screen ITEMS. Opens the Schedule of Time of a claim of that
 // many items, adds one to it by the keyboard, takes that back, and prints the milliseconds of each wait as JSON. A wait
-// lasts from the key, or the call that opens the screen, until what comes of it is painted and nothing is left to do.
+// lasts from the key press, or the call that opens the screen, until the result is painted and no event is pending.
 
 #include "benchmarks/mdMakeClaim.h"
 #include "controls/mdApplyTheme.h"

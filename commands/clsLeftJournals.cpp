@@ -137,7 +137,7 @@ bool clsLeftJournals::open(const clsLeftJournal &left)
     try {
         bytes = FileSystem().ReadFile(left.file);
     } catch (const clsRunTimeError &) {
-        // It may be whole all the same, and is offered again.
+        // The read failed, but the journal may be whole: offer it again at the next start.
         return false;
     }
     const auto contents = ReadJournal(bytes);

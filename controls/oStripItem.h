@@ -12,7 +12,7 @@ class oStripItem : public QAbstractButton {
 public:
     explicit oStripItem(QWidget *parent);
 
-    /// What the item calls its figure, for whoever hears that it was chosen.
+    /// Identifies the figure in the signals of the strip.
     void setKey(const QString &key) { m_key = key; }
     QString Key() const { return m_key; }
     /// What the item's figure is of.

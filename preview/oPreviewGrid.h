@@ -64,8 +64,8 @@ public:
     void MarkRow(int row);
     /// Marks the next row with figures in a direction, or stays where there is none.
     void MoveMark(int rows);
-    /// The row that is meant by who asks for a figure of the preview: the one under the pointer where its menu was
-    /// opened by the mouse, else the marked one, else the first in view. 0 where there is none.
+    /// The row to explain: the one under the pointer if the menu was opened by mouse, else the marked one, else the
+    /// first in view; 0 if there is none.
     int AskedRow() const;
     /// The menu that was opened by the mouse is gone.
     void ForgetPointedRow() { m_pointed = 0; }

@@ -92,7 +92,7 @@ private:
     template <class Items> static auto inOrder(const Items &items)
     {
         using Item = const typename Items::value_type::element_type;
-        // Each order is read once; that of a single item is nobody's concern here.
+        // Reads each order once, and none where there is only one item.
         std::vector<std::pair<int, Item *>> byOrder;
         byOrder.reserve(items.size());
         for (const auto &item : items)

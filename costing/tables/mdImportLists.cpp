@@ -44,8 +44,8 @@ QString communicationsCell(const clsImportedRow &row, const char *column)
     return row.Cells[size_t(mdColumnOf(mdCommunicationsColumns(), QString::fromLatin1(column)))].Value;
 }
 
-/// How many letters or calls of a kind a row stands for. The kind is the property that counts it; without a number one
-/// is meant.
+/// How many letters or calls of a kind a row stands for. The kind is the property that counts it; a row without a
+/// number counts as one.
 int countOf(const clsImportedRow &row, const char *property)
 {
     const int told = communicationsCell(row, property).toInt();

@@ -33,7 +33,7 @@ clsExitStatus mdLoadClaim(
     const clsExitStatus status = mdGuarded(console, clsExitStatus::NoClaim, [&] {
         if (!form.LoadXML(path))
             return clsExitStatus::NoClaim;
-        // Nobody can mend the claim here.
+        // Unlike in the window, the user has no way to correct the claim here.
         if (soundness == clsSoundness::InAllParts)
             form.CheckDerivedCollections();
         return clsExitStatus::Done;

@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonDocument>
 #include <QSaveFile>
 
 namespace {
@@ -23,6 +24,17 @@ QByteArray mdReadStateFile(const QString &name)
     if (!QFileInfo(file).isFile() || LeadsOverForeignLink(file.fileName()) || !file.open(QIODevice::ReadOnly))
         return {};
     return file.readAll();
+}
+
+std::optional<QJsonObject> mdReadStateObject(const QString &name)
+{
+    const QByteArray content = mdReadStateFile(name);
+    if (content.isEmpty())
+        return QJsonObject();
+    const QJsonDocument document = QJsonDocument::fromJson(content);
+    if (!document.isObject())
+        return std::nullopt;
+    return document.object();
 }
 
 bool mdWriteStateFile(const QString &name, const QByteArray &content)

@@ -21,16 +21,9 @@ QString fileName()
     return QString::fromLatin1(FileName);
 }
 
-/// Nothing where the file can't be understood. A missing one is an empty one.
 std::optional<QJsonObject> readFile()
 {
-    const QByteArray content = mdReadStateFile(fileName());
-    if (content.isEmpty())
-        return QJsonObject();
-    const QJsonDocument document = QJsonDocument::fromJson(content);
-    if (!document.isObject())
-        return std::nullopt;
-    return document.object();
+    return mdReadStateObject(fileName());
 }
 
 /// What can't be kept is lost as it would be without any of this: nothing is stopped by it.

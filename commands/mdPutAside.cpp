@@ -19,16 +19,9 @@ QString fileName()
     return QString::fromLatin1(FileName);
 }
 
-/// Nothing where the file can't be understood. A missing one is an empty one.
 std::optional<QJsonObject> claims()
 {
-    const QByteArray content = mdReadStateFile(fileName());
-    if (content.isEmpty())
-        return QJsonObject();
-    const QJsonDocument document = QJsonDocument::fromJson(content);
-    if (!document.isObject())
-        return std::nullopt;
-    return document.object();
+    return mdReadStateObject(fileName());
 }
 
 QString nameOf(const QString &claim)

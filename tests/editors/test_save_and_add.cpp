@@ -123,7 +123,7 @@ TEST_F(SaveAndAdd, TheFocusLeavesItsBoxFirstWithItsChecks)
             EXPECT_EQ(QStringLiteral("long"), editor.Box<oTimeBox>("txtTime").Text());
             EXPECT_EQ(0u, countItems());
             type(editor.Box("txtTime"), QStringLiteral("10"));
-            type(editor.Box("cmbCode"), QStringLiteral("XXX"));
+            type(editor.Box("cmbCode"), QStringLiteral("ZZZ"));
             addNext(editor);
             expectInvalidCode();
             EXPECT_EQ(0u, countItems());

@@ -86,7 +86,7 @@ void clsNotStored::openClaim(const QString &path) noexcept
             mdSetStateFileAside(fileName());
             return UserInterface().tellLine(QStringLiteral("What was typed and not stored could not be read"));
         }
-        for (const QJsonValue &texts : claims->value(m_path).toArray())
+        for (const auto &texts : claims->value(m_path).toArray())
             m_all.push_back(TypedTextsOf(texts.toObject()));
     });
 }

@@ -50,7 +50,7 @@ clsJournalHead headOf(const QJsonObject &object)
     head.changed = QDateTime::fromString(object[QStringLiteral("changed")].toString(), Qt::ISODateWithMs);
     head.process = qint64(object[QStringLiteral("process")].toDouble());
     head.machine = object[QStringLiteral("machine")].toString();
-    for (const QJsonValue &texts : object[QStringLiteral("typed")].toArray())
+    for (const auto &texts : object[QStringLiteral("typed")].toArray())
         head.typed.push_back(TypedTextsOf(texts.toObject()));
     return head;
 }

@@ -17,7 +17,7 @@ clsTypedTexts TypedTextsOf(const QJsonObject &object)
     clsTypedTexts texts {object[QStringLiteral("screen")].toString(), object[QStringLiteral("caption")].toString(),
         object[QStringLiteral("order")].toInt(), {}, object[QStringLiteral("item")].toString(),
         object[QStringLiteral("characters")].toInt()};
-    for (const QJsonValue &field : object[QStringLiteral("fields")].toArray())
+    for (const auto &field : object[QStringLiteral("fields")].toArray())
         texts.fields.emplace_back(field[0].toString(), field[1].toString());
     return texts;
 }

@@ -2,6 +2,8 @@
 // something to the n-th of them. For the tests only.
 //
 //   ZR3_FAULTS_UNDER   the folder; operations elsewhere are let through and not counted
+//   ZR3_FAULTS_FROM    a file outside that folder; operations are counted from the moment when it is there. Unset: from
+//                      the start
 //   ZR3_FAULTS_AT      which operation, counted from 1; 0 counts only
 //   ZR3_FAULTS_DO      what happens to it:
 //       fail=E       it fails with the error number E
@@ -50,6 +52,7 @@ static const struct {
 };
 
 static const char *under;
+static const char *from;
 static long fireAt;
 static enum action action;
 static const char *argument = "";
@@ -82,7 +85,13 @@ __attribute__((constructor)) static void prepare(void)
         readAction(what);
     if (log)
         logFile = (int)syscall(SYS_openat, AT_FDCWD, log, O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0600);
+    from = getenv("ZR3_FAULTS_FROM");
     under = getenv("ZR3_FAULTS_UNDER");
+}
+
+static int hasBegun(void)
+{
+    return !from || syscall(SYS_faccessat, AT_FDCWD, from, F_OK) == 0;
 }
 
 int isBelow(const char *path)
@@ -155,7 +164,7 @@ static void fire(struct step *step, enum kind kind)
 struct step beginStep(const char *operation, const char *path, enum kind kind)
 {
     struct step step = {0};
-    if (!isBelow(path))
+    if (!isBelow(path) || !hasBegun())
         return step;
     ++count;
     const int fires = action != NOTHING && count == fireAt;

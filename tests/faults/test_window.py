@@ -29,12 +29,16 @@ class WindowKilled(SaveTest):
         home = self.folder / "home"
         home.mkdir()
         self.desktop = self.enterContext(Desktop(home))
+        # How often an open claim's file is looked at before the save depends on the time that passes.
+        self.begun = self.folder / "begun"
 
     def begin(self, at=0, do=""):
-        """Opens the claim in the window, and gives the process."""
+        """Opens the claim in the window, and gives the process. Operations are counted from the save on."""
         self.log.unlink(missing_ok=True)
+        self.begun.unlink(missing_ok=True)
         self.put_old()
-        plan = {name: value for name, value in environment(self.disk, at, do, self.log).items()
+        faults = environment(self.disk, at, do, self.log, ZR3_FAULTS_FROM=str(self.begun))
+        plan = {name: value for name, value in faults.items()
                 if name == "LD_PRELOAD" or name.startswith("ZR3_FAULTS")}
         process = self.desktop.start("program", ["env", *(f"{name}={value}" for name, value in plan.items()), PROGRAM,
                                                  str(self.file)])
@@ -42,12 +46,15 @@ class WindowKilled(SaveTest):
         self.desktop.wait("the main window", lambda: self.desktop.title() == MAIN and self.desktop.fills_the_screen())
         return process
 
+    def begin_save(self):
+        self.begun.touch()
+        self.desktop.key("ctrl+s")
+
     def test_at_the_steps_of_a_save(self):
         process = self.begin()
-        read = len(steps_of(self.log))
-        self.desktop.key("ctrl+s")
+        self.begin_save()
         self.desktop.wait("the save", lambda: self.named(self.file) == "new" and names(self.disk) == ["claim.zr3"])
-        steps = steps_of(self.log)[read:]
+        steps = steps_of(self.log)
         process.kill()
         process.wait()
         self.put_old()
@@ -61,7 +68,7 @@ class WindowKilled(SaveTest):
         for step in steps if FULL else chance.sample(steps, 3):
             with self.subTest(step=step.number, operation=step.operation, seed=SEED):
                 process = self.begin(step.number, "killmid" if step.operation == "write" else "kill")
-                self.desktop.key("ctrl+s")
+                self.begin_save()
                 self.assertEqual(-signal.SIGKILL, process.wait(30))
                 place, name = self.state()
                 row = "Window killed at each step of its save"

@@ -32,6 +32,14 @@ def width(word, bold):
     return sum(advances[characters.get(ord(c), ".notdef")][0] for c in word) * SMALLEST * 20 / em
 
 
+def fits(word, bold, across):
+    """Whether a word must stand in one piece, or in pieces cut at its hyphens, in a cell that is so wide."""
+    # The office program doesn't break a word after a slash: where no other place is nearer, it cuts the word at the
+    # letter that no longer fits.
+    parts = [word] if "/" in word else PARTS.findall(word) or [word]
+    return max(width(part, bold) for part in parts) <= across - LINES
+
+
 def attribute(node, path, name="val"):
     found = node.find("/".join(W + step for step in path.split("/")))
     return None if found is None else found.get(W + name)
@@ -89,7 +97,7 @@ class Document:
             bold = attribute(paragraph, "pPr/rPr/b") is not None
             for word in (word for run in paragraph.iter(W + "r") for word in text(run).replace("\u00a0", " ").split()):
                 expected[word] += 1
-                if max(width(part, bold) for part in PARTS.findall(word) or [word]) <= across - LINES:
+                if fits(word, bold, across):
                     narrow.add(word)
         found = []
         for word, count in expected.items():

@@ -38,6 +38,12 @@ class Broken(unittest.TestCase):
         self.assertTrue(cells.stands_in_parts(parts, lambda word: shown(word, 0)))
         self.assertFalse(cells.stands_in_parts(parts, lambda word: word == "www.hartwell-dis"))
 
+    def test_a_long_word_with_a_slash_may_be_cut_anywhere(self):
+        # The whole address is 2,388 twips wide, its longest part between two hyphens 1,641.
+        self.assertFalse(cells.fits("www.hartwell-disrepair.example/2026/bundle", False, 2351))
+        self.assertTrue(cells.fits("www.hartwell-disrepair.example/2026/bundle", False, 2450))
+        self.assertTrue(cells.fits("www.hartwell-disrepair.example", False, 2351))
+
     def test_words_are_measured_in_the_smallest_type(self):
         # 833 + 556 + 333 + 222 + 556 + 556 + 222 + 222 + 556 thousandths of an em of 120 twips
         self.assertAlmostEqual(cells.width("Maribelle", False), 486.7, delta=0.5)

@@ -34,7 +34,7 @@ from real_desktop import NEEDED, Desktop, DesktopFailure
 SKIPPED = 77
 SPEED = 20
 PROMISED = 30 / SPEED
-PATIENCE = 60
+PATIENCE = 300
 ENDS, PROGRAM = os.environ["ZR3_ENDS"], os.environ["ZR3_PROGRAM"]
 SAMPLE = Path(os.environ["ZR3_SAMPLES"]) / "housing-typical.zr3"
 CLOCKS = os.environ["ZR3_CLOCKS"]

@@ -5,14 +5,10 @@
 
 #include <QCryptographicHash>
 
-namespace {
-
-QByteArray markOf(const QByteArray &bytes)
+QByteArray clsFileWatch::markOf(const QByteArray &bytes)
 {
     return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1).toHex();
 }
-
-} // namespace
 
 void clsFileWatch::wasRead(const QString &path, const std::optional<clsFileStamp> &before)
 {

@@ -19,6 +19,9 @@ public:
     /// Its content was this when it was last read or written, by an earlier run of the program.
     void wasKnown(const QString &path, const QByteArray &mark);
 
+    /// What stands for a content.
+    static QByteArray markOf(const QByteArray &bytes);
+
     const QString &path() const { return m_path; }
     /// What stands for the content that this program knows.
     const QByteArray &mark() const { return m_mark; }

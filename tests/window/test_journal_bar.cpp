@@ -1,6 +1,7 @@
 // The journal while the main window is up, and the bar that tells what of the user's work is in danger.
 
 #include "commands/clsJournal.h"
+#include "commands/mdRecoveredCopy.h"
 #include "controls/oAllPurposeBox.h"
 #include "controls/oCustomButton.h"
 #include "controls/oFooterLine.h"
@@ -177,6 +178,27 @@ TEST_F(JournalBar, OpenGoesThroughTheSaveQuestionOfAnotherClaim)
     user.answers = {clsUserInterface::No};
     press("Open");
     EXPECT_EQ(QStringLiteral("Hartwell"), Form->ClientDetails.Surname());
+}
+
+TEST_F(JournalBar, TheSameWorkIsNotOfferedTwice)
+{
+    savedClaim();
+    Form->ClientDetails.Surname = QStringLiteral("Hartwell");
+    // As at a log-off: both are left.
+    Journal().flush();
+    const QString copy = WriteRecoveredCopy().path;
+    ASSERT_FALSE(copy.isEmpty());
+    killAndStart();
+    ASSERT_TRUE(told().startsWith(QLatin1String("empty was not closed properly")));
+    user.files = {copy};
+    entry("mnuOpen").trigger();
+    EXPECT_EQ(QStringLiteral("Hartwell"), Form->ClientDetails.Surname());
+    EXPECT_FALSE(bar().isVisible());
+    EXPECT_TRUE(journals().isEmpty());
+    EXPECT_TRUE(QFileInfo::exists(copy));
+    killAndStart();
+    EXPECT_FALSE(bar().isVisible()) << "nor at the next start";
+    expectNoBox();
 }
 
 TEST_F(JournalBar, DiscardTakesItAway)

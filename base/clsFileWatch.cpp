@@ -45,10 +45,12 @@ void clsFileWatch::wasKnown(const QString &path, const QByteArray &mark)
     m_mark = mark;
     m_stamp.reset();
     m_changed.reset();
+    m_isUnreadable = false;
 }
 
 std::optional<QDateTime> clsFileWatch::changedByOthers()
 {
+    m_isUnreadable = false;
     const std::optional<clsFileStamp> stamp = FileStamp(m_path);
     if (!stamp)
         return {};
@@ -60,6 +62,8 @@ std::optional<QDateTime> clsFileWatch::changedByOthers()
         m_stamp = stamp;
         return m_changed;
     } catch (const clsRunTimeError &) {
-        return {};
+        // Its stamp is not taken: the next look reads again.
+        m_isUnreadable = true;
+        return stamp->when();
     }
 }

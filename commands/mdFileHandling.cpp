@@ -80,6 +80,9 @@ std::optional<bool> setOtherContentAside()
         return {};
     try {
         const QByteArray bytes = FileSystem().ReadFile(Document().filePath());
+        // It could not be read a moment ago, and is the known one after all.
+        if (clsFileWatch::markOf(bytes) == Document().onDisk.mark())
+            return {};
         return MakeStateFolder() && !WriteDatedCopy(StateFolder() + QStringLiteral("/Set Aside"), bytes).isEmpty();
     } catch (const clsRunTimeError &) {
         return false;

@@ -2,6 +2,8 @@
 
 #include "tests/commands/clsJournalTest.h"
 
+#include <cerrno>
+
 namespace {
 
 class OtherContent : public clsJournalTest {
@@ -87,6 +89,85 @@ TEST_F(OtherContent, IsNoneWhereTheFileIsGone)
     const QString claim = savedClaim();
     QFile::remove(claim);
     EXPECT_FALSE(Document().onDisk.changedByOthers());
+}
+
+TEST_F(OtherContent, IsFoundWhereTheFileCannotBeRead)
+{
+    const QString claim = savedClaim();
+    const QByteArray mine = bytesOf(claim);
+    put(claim, mine + "<!-- theirs -->");
+    for (const auto &[step, error] : {std::pair(clsFileStep::OpenToRead, EACCES), {clsFileStep::Read, EIO}}) {
+        FileSystem().faultPoint = [&, step = step, error = error](clsFileStep at, const QString &file) {
+            return at == step && file == claim ? clsFileFault {error} : clsFileFault();
+        };
+        EXPECT_TRUE(Document().changedOnDisk());
+        EXPECT_TRUE(Document().onDisk.isUnreadable());
+    }
+    FileSystem().faultPoint = nullptr;
+    EXPECT_TRUE(Document().changedOnDisk()) << "looked at anew";
+    EXPECT_FALSE(Document().onDisk.isUnreadable());
+    // Only its rights were changed, and given back.
+    put(claim, mine);
+    FileSystem().faultPoint = [](clsFileStep at, const QString &) {
+        return at == clsFileStep::OpenToRead ? clsFileFault {EACCES} : clsFileFault();
+    };
+    EXPECT_TRUE(Document().changedOnDisk());
+    FileSystem().faultPoint = nullptr;
+    EXPECT_FALSE(Document().changedOnDisk());
+}
+
+TEST_F(OtherContent, ThatCannotBeReadIsNotSavedOver)
+{
+    const QString claim = savedClaim();
+    const QByteArray theirs = bytesOf(claim) + "<!-- theirs -->";
+    put(claim, theirs);
+    change();
+    FileSystem().faultPoint = [&](clsFileStep step, const QString &at) {
+        return step == clsFileStep::Read && at == claim ? clsFileFault {EIO} : clsFileFault();
+    };
+    EXPECT_TRUE(SaveForm(false));
+    FileSystem().faultPoint = nullptr;
+    EXPECT_EQ(theirs, bytesOf(claim)) << "the guard of the save can't read it either";
+    ASSERT_EQ(1u, user.messages.size());
+    EXPECT_EQ(QStringLiteral("File Not Saved"), user.messages[0].title);
+    EXPECT_TRUE(Document().changedOnDisk());
+    EXPECT_TRUE(aside().isEmpty());
+    // Now it can be.
+    EXPECT_TRUE(SaveForm(false));
+    EXPECT_EQ(1, aside().size());
+    EXPECT_EQ(Form->XMLOutput(), textOf(claim));
+}
+
+TEST_F(OtherContent, ThatCouldNotBeReadForAMomentIsToldOf)
+{
+    const QString claim = savedClaim();
+    const QByteArray mine = bytesOf(claim);
+    int failures = 0;
+    FileSystem().faultPoint = [&](clsFileStep step, const QString &at) {
+        return step == clsFileStep::Read && at == claim && failures-- > 0 ? clsFileFault {EIO} : clsFileFault();
+    };
+    // Both looks of the save fail, and the guard's copy doesn't.
+    put(claim, mine + "<!-- theirs -->");
+    change();
+    failures = 2;
+    EXPECT_TRUE(SaveForm(false));
+    EXPECT_EQ(QStringList {QStringLiteral("Saved. The other program's version could not be set aside")}, user.lines);
+    // The first alone fails: it can be set aside.
+    user.lines.clear();
+    put(claim, mine + "<!-- theirs -->");
+    failures = 1;
+    EXPECT_TRUE(SaveForm(false));
+    EXPECT_EQ(1, aside().size());
+    EXPECT_EQ(QStringList {QStringLiteral("Saved. The other program's version was set aside")}, user.lines);
+    // The same, and what is there is this program's own after all.
+    user.lines.clear();
+    const QByteArray own = bytesOf(claim);
+    QFile::remove(claim);
+    put(claim, own);
+    failures = 1;
+    EXPECT_TRUE(SaveForm(false));
+    EXPECT_EQ(1, aside().size());
+    EXPECT_TRUE(user.lines.isEmpty());
 }
 
 TEST_F(OtherContent, IsFoundThatCameWhileTheProgramLayKilled)

@@ -262,6 +262,24 @@ TEST_F(JournalBar, AFileThatAnotherProgramChangedIsToldOnActivation)
     EXPECT_TRUE(user.messages[0].text.contains(QLatin1String("/Recovered/")));
 }
 
+TEST_F(JournalBar, AFileThatWasChangedAndCannotBeReadIsTold)
+{
+    const QString claim = savedClaim();
+    QFile file(claim);
+    ASSERT_TRUE(file.open(QIODevice::Append));
+    file.write(" ");
+    file.close();
+    FileSystem().faultPoint = [&](clsFileStep step, const QString &at) {
+        return step == clsFileStep::OpenToRead && at == claim ? clsFileFault {EACCES} : clsFileFault();
+    };
+    window->Activate();
+    EXPECT_EQ(today("Changed on disk at %1 by another program, and cannot be read"), told());
+    FileSystem().faultPoint = nullptr;
+    window->Activate();
+    EXPECT_EQ(today("Changed on disk at %1 by another program"), told());
+    expectNoBox();
+}
+
 TEST_F(JournalBar, AJournalThatCannotBeWrittenIsTold)
 {
     QFile(path("state")).open(QIODevice::WriteOnly);

@@ -5,14 +5,10 @@
 
 #include <QCryptographicHash>
 
-namespace {
-
-QByteArray markOf(const QByteArray &bytes)
+QByteArray clsFileWatch::markOf(const QByteArray &bytes)
 {
     return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1).toHex();
 }
-
-} // namespace
 
 void clsFileWatch::wasRead(const QString &path, const std::optional<clsFileStamp> &before)
 {
@@ -49,10 +45,12 @@ void clsFileWatch::wasKnown(const QString &path, const QByteArray &mark)
     m_mark = mark;
     m_stamp.reset();
     m_changed.reset();
+    m_isUnreadable = false;
 }
 
 std::optional<QDateTime> clsFileWatch::changedByOthers()
 {
+    m_isUnreadable = false;
     const std::optional<clsFileStamp> stamp = FileStamp(m_path);
     if (!stamp)
         return {};
@@ -64,6 +62,8 @@ std::optional<QDateTime> clsFileWatch::changedByOthers()
         m_stamp = stamp;
         return m_changed;
     } catch (const clsRunTimeError &) {
-        return {};
+        // Its stamp is not taken: the next look reads again.
+        m_isUnreadable = true;
+        return stamp->when();
     }
 }

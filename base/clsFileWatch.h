@@ -6,7 +6,8 @@
 #include <QString>
 
 /// A file as this program last read or wrote it, and whether another program has put other content in its place since.
-/// A file that is gone, or can't be read, doesn't count as changed.
+/// A file that is gone doesn't count as changed; one that another program has touched and that can't be read does, as
+/// long as it can't.
 class clsFileWatch {
 public:
     void forget() { *this = {}; }
@@ -19,15 +20,21 @@ public:
     /// Its content was this when it was last read or written, by an earlier run of the program.
     void wasKnown(const QString &path, const QByteArray &mark);
 
+    /// What stands for a content.
+    static QByteArray markOf(const QByteArray &bytes);
+
     const QString &path() const { return m_path; }
     /// What stands for the content that this program knows.
     const QByteArray &mark() const { return m_mark; }
     /// When another program changed it; nothing where none has. The file is read only where its stamp is a new one.
     std::optional<QDateTime> changedByOthers();
+    /// Whether it could not be read when that was asked last.
+    bool isUnreadable() const { return m_isUnreadable; }
 
 private:
     QString m_path;
     QByteArray m_mark;
     std::optional<clsFileStamp> m_stamp;
     std::optional<QDateTime> m_changed;
+    bool m_isUnreadable = false;
 };

@@ -7,12 +7,15 @@
 #include "base/mdOwnFolder.h"
 #include "base/mdStateFolder.h"
 #include "commands/clsJournal.h"
+#include "commands/clsNotStored.h"
 #include "commands/mdFileHandling.h"
+#include "formdata/mdGlobals.h"
 
 #include <QDir>
 #include <QSysInfo>
 
 #include <algorithm>
+
 namespace {
 
 constexpr qint64 StrayAfterSeconds = 24 * 60 * 60;
@@ -55,6 +58,13 @@ bool opened(const clsJournalContents &contents)
     }
 }
 
+/// What stands for the content of the open claim's file, as it was read or saved; empty where there is none.
+QByteArray openMark()
+{
+    const bool isOpen = Form && !Document().opening && Document().filePath() == Document().onDisk.path();
+    return isOpen ? Document().onDisk.mark() : QByteArray();
+}
+
 /// What a program left that was ended between two of its steps.
 void removeStrays(const QString &folder)
 {
@@ -87,6 +97,7 @@ void clsLeftJournals::look() noexcept
             if (!isListed)
                 lookAt(file);
         }
+        takeOpened();
         std::stable_sort(m_all.begin(), m_all.end(),
             [](const clsLeftJournal &a, const clsLeftJournal &b) { return a.head.changed < b.head.changed; });
     } catch (...) {
@@ -112,7 +123,23 @@ void clsLeftJournals::lookAt(const QString &file)
     if (isOnDisk(*contents))
         RemoveJournal(file);
     else
-        m_all.push_back({file, contents->head});
+        m_all.push_back({file, contents->head, clsFileWatch::markOf(contents->claim)});
+}
+
+/// Takes those away whose claim lies, to the byte, in the file of the open one. What was typed in their screens is
+/// offered for the open claim instead.
+void clsLeftJournals::takeOpened()
+{
+    const QByteArray opened = openMark();
+    if (opened.isEmpty())
+        return;
+    std::erase_if(m_all, [&](const clsLeftJournal &left) {
+        if (left.mark != opened || !discard(left))
+            return false;
+        for (const clsTypedTexts &texts : left.head.typed)
+            NotStored().keep(texts);
+        return true;
+    });
 }
 
 /// Where that can't be done it stays, and keeps nothing else from being offered.

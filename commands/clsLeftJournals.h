@@ -6,11 +6,13 @@
 struct clsLeftJournal {
     QString file;
     clsJournalHead head;
+    QByteArray mark {}; ///< stands for the claim in it
 };
 
 /// The journals that earlier runs have left, oldest change first. Those of other windows that run are not among them,
-/// and one in which nothing stands that the claim's own file lacks is taken away. A broken one is set aside, beside the
-/// others and under its own name with one more ending.
+/// and one in which nothing stands that the claim's own file lacks is taken away. So is one whose claim the user has
+/// opened from another file, such as the recovered copy that the same end has left: the same work is offered once. A
+/// broken one is set aside, beside the others and under its own name with one more ending.
 class clsLeftJournals {
 public:
     /// Looks anew. Only what is new in the folder is read.
@@ -28,6 +30,7 @@ public:
 
 private:
     void lookAt(const QString &file);
+    void takeOpened();
     void setAside(const QString &file);
 
     std::vector<clsLeftJournal> m_all;

@@ -7,8 +7,15 @@
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <optional>
+#include <tuple>
+#include <vector>
 
 namespace {
 
@@ -16,6 +23,8 @@ constexpr QFile::Permissions FileOwnerOnly = QFile::ReadOwner | QFile::WriteOwne
 
 constexpr qsizetype LongestStem = 180; // bytes: file names end at 255, and the time and a number follow
 constexpr int MostCopiesInASecond = 100;
+const QString TimeOfCopy = QStringLiteral("yyyy-MM-dd HH.mm.ss");
+constexpr qint64 WrittenWithinSeconds = 60; ///< of the time in its name
 
 /// The claim's file name without its extension, as every file system takes it.
 QString stem()
@@ -40,11 +49,56 @@ bool createNew(QFile &file, const QString &withoutExtension)
     return false;
 }
 
+/// A copy's name, taken apart.
+struct clsCopyName {
+    QString stem;
+    QDateTime time;
+    int number = 1;
+};
+
+std::optional<clsCopyName> partsOf(const QString &name)
+{
+    static const QRegularExpression pattern(
+        QStringLiteral(
+            "^(.+) ([0-9]{4}-[0-9]{2}-[0-9]{2} [0-9]{2}\\.[0-9]{2}\\.[0-9]{2})(?: \\(([0-9]{1,3})\\))?\\.zr3$"),
+        QRegularExpression::DotMatchesEverythingOption);
+    const QRegularExpressionMatch match = pattern.match(name);
+    if (!match.hasMatch())
+        return {};
+    const clsCopyName parts {match.captured(1), QDateTime::fromString(match.captured(2), TimeOfCopy),
+        match.hasCaptured(3) ? match.captured(3).toInt() : 1};
+    return parts.time.isValid() ? std::optional(parts) : std::nullopt;
+}
+
+struct clsOlderCopy {
+    QString path;
+    clsCopyName name;
+};
+
+/// The copies of one claim, but for the latest, that are as they were written; the newest first.
+std::vector<clsOlderCopy> olderCopies(const QFileInfo &latest)
+{
+    std::vector<clsOlderCopy> copies;
+    const auto own = partsOf(latest.fileName());
+    if (!own)
+        return copies;
+    for (const QFileInfo &file : latest.dir().entryInfoList(QDir::Files | QDir::NoSymLinks | QDir::Hidden)) {
+        const auto name = partsOf(file.fileName());
+        if (name && name->stem == own->stem && file.fileName() != latest.fileName()
+            && qAbs(name->time.secsTo(file.lastModified())) <= WrittenWithinSeconds)
+            copies.push_back({file.filePath(), *name});
+    }
+    std::sort(copies.begin(), copies.end(), [](const clsOlderCopy &a, const clsOlderCopy &b) {
+        return std::tie(a.name.time, a.name.number) > std::tie(b.name.time, b.name.number);
+    });
+    return copies;
+}
+
 } // namespace
 
 QString WriteDatedCopy(const QString &folder, const QByteArray &bytes)
 {
-    const QString name = stem() + Now().toString(QStringLiteral(" yyyy-MM-dd HH.mm.ss"));
+    const QString name = stem() + u' ' + Now().toString(TimeOfCopy);
     QFile file;
     if (!MakeOwnFolder(folder) || !createNew(file, folder + u'/' + name))
         return {};
@@ -56,4 +110,15 @@ QString WriteDatedCopy(const QString &folder, const QByteArray &bytes)
         return {};
     }
     return file.fileName();
+}
+
+void KeepNewestCopies(const QString &latest, qsizetype most) noexcept
+{
+    try {
+        const std::vector<clsOlderCopy> copies = olderCopies(QFileInfo(latest));
+        for (size_t place = size_t(qMax(qsizetype(0), most - 1)); place < copies.size(); ++place)
+            QFile::remove(copies[place].path);
+    } catch (...) {
+        // What can't be looked at stays.
+    }
 }

@@ -25,6 +25,8 @@ const QString DefaultExtension = QStringLiteral(".zr3");
 
 constexpr int FileIsNewer = 2;
 
+constexpr qsizetype MostSetAside = 10; ///< of one claim's name
+
 // The window shows what the commands do, and stands above them.
 clsFormDisplay formDisplay;
 
@@ -80,7 +82,16 @@ std::optional<bool> setOtherContentAside()
         return {};
     try {
         const QByteArray bytes = FileSystem().ReadFile(Document().filePath());
-        return MakeStateFolder() && !WriteDatedCopy(StateFolder() + QStringLiteral("/Set Aside"), bytes).isEmpty();
+        // It could not be read a moment ago, and is the known one after all.
+        if (clsFileWatch::markOf(bytes) == Document().onDisk.mark())
+            return {};
+        if (!MakeStateFolder())
+            return false;
+        const QString copy = WriteDatedCopy(StateFolder() + QStringLiteral("/Set Aside"), bytes);
+        if (copy.isEmpty())
+            return false;
+        KeepNewestCopies(copy, MostSetAside);
+        return true;
     } catch (const clsRunTimeError &) {
         return false;
     }

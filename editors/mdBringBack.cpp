@@ -109,16 +109,6 @@ int indexOf(const oSGrid &grid, const clsTypedTexts &texts)
     return found;
 }
 
-/// What waits until the editor of an item is shown over a screen.
-void putBackInEditor(frmSection &below, const clsTypedTexts &texts)
-{
-    QTimer::singleShot(0, &below, [list = &below, texts] {
-        auto *editor = qobject_cast<frmSection *>(QApplication::activeModalWidget());
-        if (editor && editor != list && editor->objectName() == texts.screen)
-            putBack(*editor, texts);
-    });
-}
-
 /// As a double click on the item's row, or the button "Add", does. It returns when the editor is closed.
 void openEditor(frmSection &screen, size_t list, const clsTypedTexts &texts)
 {
@@ -129,15 +119,21 @@ void openEditor(frmSection &screen, size_t list, const clsTypedTexts &texts)
     if (const int index = texts.orderID > 0 ? indexOf(grid, texts) : 0) {
         grid.SelectItem(index);
         const int column = field.row->items->editor ? 1 : FirstCountColumn;
-        putBackInEditor(screen, texts);
+        mdPutBackWhenShown(screen, texts);
         emit grid.RowActivated(index, grid.SelectedRow(), column);
     } else if (field.row->items->add) {
         auto &add = static_cast<oCustomButton &>(*screen.Fields()[list + 1].control);
         if (!add.isEnabled())
             return;
-        putBackInEditor(screen, texts);
+        mdPutBackWhenShown(screen, texts);
         emit add.Click();
     }
+}
+
+/// Whether there is a way back to the screen.
+bool comesBack(const clsTypedTexts &texts)
+{
+    return mdIsCostsLimit(texts) || !mdSectionOfNotStored(texts).isEmpty();
 }
 
 } // namespace
@@ -152,13 +148,13 @@ void mdKeepNotStored(const frmSection &screen)
             return field && !mdFieldDiffers(*field->row, *field->control, *record);
         });
     texts.characters = mdCharactersOf(screen, texts);
-    if (!texts.fields.empty() && !mdSectionOfNotStored(texts).isEmpty())
+    if (!texts.fields.empty() && comesBack(texts))
         NotStored().keep(std::move(texts));
 }
 
 const clsTypedTexts *mdLatestNotStored()
 {
-    return latest([](const clsTypedTexts &texts) { return !mdSectionOfNotStored(texts).isEmpty(); });
+    return latest(comesBack);
 }
 
 const clsTypedTexts *mdLatestNotStored(const frmSection &list)
@@ -184,6 +180,20 @@ QString mdSectionOfNotStored(const clsTypedTexts &texts)
             return section;
     }
     return {};
+}
+
+bool mdIsCostsLimit(const clsTypedTexts &texts)
+{
+    return texts.screen == QLatin1String(ScreenCostsLimit().name);
+}
+
+void mdPutBackWhenShown(QWidget &below, const clsTypedTexts &texts)
+{
+    QTimer::singleShot(0, &below, [owner = &below, texts] {
+        auto *editor = qobject_cast<frmSection *>(QApplication::activeModalWidget());
+        if (editor && editor != owner && editor->objectName() == texts.screen)
+            putBack(*editor, texts);
+    });
 }
 
 std::function<void(frmSection &screen)> mdWayBack(const clsTypedTexts &texts)

@@ -4,6 +4,7 @@
 
 #include <functional>
 
+class QWidget;
 class frmSection;
 
 // What was typed in a screen that was left without storing it, and how it comes back.
@@ -26,3 +27,8 @@ QString mdSectionOfNotStored(const clsTypedTexts &texts);
 /// it opens. Where the item has gone, that of a new one. Nothing is stored by that, and once the user stores them they
 /// are forgotten.
 std::function<void(frmSection &screen)> mdWayBack(const clsTypedTexts &texts);
+
+/// Whether they were typed in the dialog of the limit of costs, which lies over the main window itself.
+bool mdIsCostsLimit(const clsTypedTexts &texts);
+/// Puts the texts into the screen of theirs that is about to be shown over a window.
+void mdPutBackWhenShown(QWidget &below, const clsTypedTexts &texts);

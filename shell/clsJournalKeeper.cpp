@@ -66,11 +66,12 @@ QString minuteOf(const QDateTime &time)
     return time.toLocalTime().toString(QStringLiteral("HH:mm"));
 }
 
-QString changedSentence(const QDateTime &time)
+QString changedSentence(const QDateTime &time, bool isUnreadable)
 {
-    if (isToday(time))
-        return QStringLiteral("Changed on disk at %1 by another program").arg(minuteOf(time));
-    return QStringLiteral("Changed on disk on %1 at %2 by another program").arg(dayOf(time), minuteOf(time));
+    const QString sentence = isToday(time)
+        ? QStringLiteral("Changed on disk at %1 by another program").arg(minuteOf(time))
+        : QStringLiteral("Changed on disk on %1 at %2 by another program").arg(dayOf(time), minuteOf(time));
+    return isUnreadable ? sentence + QStringLiteral(", and cannot be read") : sentence;
 }
 
 QString leftSentence(const clsJournalHead &head)
@@ -166,7 +167,7 @@ void clsJournalKeeper::show()
     if (const QString why = Journal().notSaved(); !why.isEmpty())
         add(NotSaved, QStringLiteral("Not saved: ") + why);
     if (const auto changed = Document().changedOnDisk())
-        add(ChangedOnDisk, changedSentence(*changed));
+        add(ChangedOnDisk, changedSentence(*changed, Document().onDisk.isUnreadable()));
     for (const clsLeftJournal &one : m_left.all())
         add(NotClosed, leftSentence(one.head), one.file);
     if (const QString why = Journal().notKept(); !why.isEmpty())

@@ -5,8 +5,6 @@
 #include "controls/oButtonBar.h"
 #include "controls/oCustomButton.h"
 #include "controls/oHeaderBar.h"
-#include "formdata/mdClaimLists.h"
-#include "formdata/mdRecordInWords.h"
 #include "shell/mdComparison.h"
 
 #include <QHeaderView>
@@ -34,11 +32,7 @@ QString inLine(const QString &text)
 QString itemInWords(const clsItemChange &item)
 {
     constexpr const char *Done[] = {"added", "removed", "changed"};
-    const clsClaimList *list = mdClaimList(item.List);
-    QString name = list ? QString::fromLatin1(list->item) : item.List;
-    name[0] = name[0].toUpper();
-    const int number = item.NewItem > 0 ? item.NewItem : item.OldItem;
-    return QStringLiteral("%1 %2, %3").arg(name).arg(number).arg(QLatin1String(Done[item.Change]));
+    return QStringLiteral("%1, %2").arg(item.Name, QLatin1String(Done[item.Change]));
 }
 
 } // namespace
@@ -120,7 +114,7 @@ void frmCompare::fill(const clsComparison &comparison)
     if (!changes.Fields.empty())
         addGroup(QStringLiteral("Fields"));
     for (const clsFieldChange &field : changes.Fields)
-        addRow({field.Screen, mdPropertyInWords(field.Property), field.Old, field.New, {}});
+        addRow({field.Screen, field.Property, field.Old, field.New, {}});
     if (!changes.Items.empty())
         addGroup(QStringLiteral("Items"));
     for (const clsItemChange &item : changes.Items) {
@@ -128,15 +122,14 @@ void frmCompare::fill(const clsComparison &comparison)
         QString effect = item.Effect;
         for (const clsFieldChange &field : item.Fields)
             // What an item is called and worth stands in the first of its rows.
-            addRow({std::exchange(where, {}), mdPropertyInWords(field.Property), field.Old, field.New,
-                std::exchange(effect, {})});
+            addRow({std::exchange(where, {}), field.Property, field.Old, field.New, std::exchange(effect, {})});
         if (!where.isEmpty())
             addRow({where, {}, {}, {}, effect});
     }
     if (!changes.Totals.empty())
         addGroup(QStringLiteral("Totals"));
     for (const clsTotalChange &total : changes.Totals)
-        addRow({{}, mdPropertyInWords(total.Key), total.Old, total.New, {}});
+        addRow({{}, total.Key, total.Old, total.New, {}});
 }
 
 void frmCompare::addGroup(const QString &caption)

@@ -20,6 +20,10 @@ void frmMain::BringBack()
     const clsTypedTexts *texts = mdLatestNotStored();
     if (m_sectionOpen || !texts)
         return;
+    if (mdIsCostsLimit(*texts)) {
+        mdPutBackWhenShown(*this, *texts);
+        return CostsLimit();
+    }
     m_nextWay = mdWayBack(*texts);
     tbSubSection_Click(-1, mdSectionOfNotStored(*texts));
     m_nextWay = nullptr;

@@ -4,6 +4,7 @@
 #include "base/clsRunTimeError.h"
 #include "base/mdCodePage.h"
 #include "commands/clsLeftJournals.h"
+#include "costing/comparing/mdChangesInWords.h"
 #include "costing/comparing/mdCompareClaims.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
@@ -49,7 +50,7 @@ clsComparison mdCompareWithJournal(const clsLeftJournal &left)
             comparison.trouble = QStringLiteral("The claim's file cannot be read.");
             return;
         }
-        comparison.changes = mdCompareClaims(before, after);
+        comparison.changes = mdChangesInWords(mdCompareClaims(before, after), before, after);
     });
 }
 
@@ -64,6 +65,6 @@ clsComparison mdCompareWithDisk()
         // A copy: looking at the claim must not change it.
         clsZR3Form ours;
         if (loads(ours, mdToCodePage(Form->XMLOutput())))
-            comparison.changes = mdCompareClaims(ours, theirs);
+            comparison.changes = mdChangesInWords(mdCompareClaims(ours, theirs), ours, theirs);
     });
 }

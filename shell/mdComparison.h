@@ -4,7 +4,7 @@
 
 struct clsLeftJournal;
 
-/// What differs between two states of a claim, for the user.
+/// What differs between two states of a claim, in words for the user.
 struct clsComparison {
     QString before; ///< what the earlier state is, such as "On disk"
     QString now;

@@ -235,6 +235,12 @@ std::optional<clsWhy> mdWhyTotal(const clsBill &bill, const QString &key)
     return whyTotal(bill, totalOf(bill.form(), QLatin1String(key.toLatin1())));
 }
 
+QString mdTotalInWords(const clsZR3Form &form, const QString &key)
+{
+    const clsTotal total = totalOf(form, QLatin1String(key.toLatin1()));
+    return total ? QString::fromLatin1(total.row->words) : QString();
+}
+
 std::optional<clsWhy> mdWhyListColumn(const clsBill &bill, const QString &column)
 {
     if (column == QLatin1String("items"))

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "formdata/clsXMLRecord.h"
+
 #include <QString>
 
 #include <vector>
@@ -10,6 +12,7 @@ struct clsFieldChange {
     QString Property;
     QString Old;
     QString New;
+    clsXMLKind Kind = clsXMLKind::Text;
 };
 
 /// An item that was added, removed or changed.
@@ -17,6 +20,7 @@ struct clsItemChange {
     enum Kind { Added, Removed, Changed };
 
     QString List; ///< such as "schedule"
+    QString Name {}; ///< what it is called now: "Schedule item 2", "Fee earner AB"
     Kind Change = Changed;
     int OldItem = 0; ///< its order, 0 where there is none
     int NewItem = 0;

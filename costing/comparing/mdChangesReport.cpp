@@ -55,8 +55,8 @@ QString itemInWords(const clsItemChange &item)
     }
     if (!item.Effect.isEmpty())
         parts << QStringLiteral("effect: ") + item.Effect;
-    return QStringLiteral("%1 %2 %3, %4")
-        .arg(item.List, numbers, QString::fromLatin1(Words[item.Change]), parts.join(QStringLiteral(", ")));
+    parts.prepend(QStringLiteral("%1 %2 %3").arg(item.List, numbers, QString::fromLatin1(Words[item.Change])));
+    return parts.join(QStringLiteral(", "));
 }
 
 } // namespace

@@ -7,5 +7,5 @@ class clsJsonWriter;
 /// Writes the three lists of what differs into an object that is open.
 void mdWriteChanges(clsJsonWriter &json, const clsClaimChanges &changes);
 
-/// The same for people, a line that ends in CR LF for each; nothing where nothing differs.
+/// What differs, as it is given, a line that ends in CR LF for each; nothing where nothing differs.
 QString mdChangesInLines(const clsClaimChanges &changes, const QString &before = {});

@@ -6,6 +6,7 @@
 #include "costing/mdBillFigures.h"
 #include "costing/tables/mdClaimItems.h"
 #include "formdata/clsZR3Form.h"
+#include "formdata/mdRecordInWords.h"
 
 #include <QStringList>
 
@@ -92,7 +93,8 @@ void addChanges(
         if (isNoDifference(*row.property))
             continue;
         const QString name = QString::fromLatin1(row.property->name);
-        addChange(changes, {screenOf(name), name, mdValueOf(*before.field(name)), mdValueOf(*after.field(name))});
+        addChange(changes,
+            {screenOf(name), name, mdValueOf(*before.field(name)), mdValueOf(*after.field(name)), row.property->kind});
     }
 }
 
@@ -170,6 +172,7 @@ clsItemChange itemChange(const clsClaimItems &list, const clsItemMatch &match)
 {
     clsItemChange change;
     change.List = QString::fromLatin1(list.word);
+    change.Name = mdRecordInWords(match.New ? *match.New : *match.Old);
     change.Change = !match.Old ? clsItemChange::Added : !match.New ? clsItemChange::Removed : clsItemChange::Changed;
     change.OldItem = match.Old ? mdOrderOf(*match.Old) : 0;
     change.NewItem = match.New ? mdOrderOf(*match.New) : 0;
@@ -179,7 +182,7 @@ clsItemChange itemChange(const clsClaimItems &list, const clsItemMatch &match)
         if (name == QLatin1String("OrderID"))
             continue;
         const auto valueIn = [&](const clsXMLRecord *item) { return item ? mdValueOf(*item->field(name)) : QString(); };
-        addChange(change.Fields, {{}, name, valueIn(match.Old), valueIn(match.New)});
+        addChange(change.Fields, {{}, name, valueIn(match.Old), valueIn(match.New), place.property->kind});
     }
     change.Effect = effectOf(rowOf(list), match);
     return change;

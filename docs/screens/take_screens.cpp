@@ -7,6 +7,7 @@
 #include "controls/frmMessageBox.h"
 #include "controls/mdApplyTheme.h"
 #include "controls/oContentSwitcher.h"
+#include "costing/comparing/mdChangesInWords.h"
 #include "costing/comparing/mdCompareClaims.h"
 #include "editors/clsPasteList.h"
 #include "editors/frmPasteItems.h"
@@ -286,8 +287,9 @@ void takeCompare(clsPictures &pictures, frmMain &main)
     after.ClientDetails.Surname = QStringLiteral("Hartwell-Jones");
     after.Disbursement(1)->Amount = QStringLiteral("64.00");
     after.DeleteScheduleOfTimeItem(2);
-    frmCompare window(
-        {QStringLiteral("On disk"), QStringLiteral("Recovery copy"), {}, mdCompareClaims(before, after)}, &main);
+    frmCompare window({QStringLiteral("On disk"), QStringLiteral("Recovery copy"), {},
+                          mdChangesInWords(mdCompareClaims(before, after), before, after)},
+        &main);
     pictures.take(window, QStringLiteral("frmCompare"));
 }
 

@@ -4,6 +4,7 @@
 #include "base/clsJsonWriter.h"
 #include "base/mdClaimPaths.h"
 #include "base/mdPrint.h"
+#include "costing/comparing/mdChangesInWords.h"
 #include "costing/comparing/mdChangesReport.h"
 #include "costing/comparing/mdCompareClaims.h"
 #include "costing/comparing/mdPairFiles.h"
@@ -14,6 +15,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <utility>
 
 namespace {
 
@@ -69,6 +71,8 @@ clsComparedClaims clsDiff::compared(const QString &old, const QString &now) cons
         return result;
     }
     result.changes = mdCompareClaims(before, after);
+    if (!m_command.json)
+        result.changes = mdChangesInWords(std::move(result.changes), before, after);
     result.status = result.changes.isEmpty() ? Status::Done : Status::Differs;
     return result;
 }

@@ -3,6 +3,7 @@
 #include "base/clsHeldFile.h"
 #include "base/mdCodePage.h"
 #include "commands/clsNotStored.h"
+#include "commands/mdRecoveredCopy.h"
 #include "tests/commands/clsJournalTest.h"
 
 namespace {
@@ -109,6 +110,47 @@ TEST_F(LeftJournals, AreTakenAwayWhereTheClaimsFileHoldsAllOfThem)
     put(claim, saved);
     EXPECT_TRUE(look().empty());
     EXPECT_TRUE(allFiles().isEmpty());
+}
+
+TEST_F(LeftJournals, GoWhenTheUserOpensTheRecoveredCopyOfTheSameEnd)
+{
+    typed = {{QStringLiteral("frmCounselEdit"), QStringLiteral("Counsel"), 2,
+        {{QStringLiteral("Name"), QStringLiteral("A")}}}};
+    const QString claim = changedClaim();
+    const auto before = typed;
+    const QString copy = WriteRecoveredCopy().path;
+    ASSERT_FALSE(copy.isEmpty());
+    typed.clear();
+    kill();
+    OpenFormFile(claim);
+    EXPECT_EQ(1u, look().size()) << "the file lacks the change";
+    OpenFormFile(copy);
+    EXPECT_TRUE(look().empty());
+    EXPECT_TRUE(allFiles().isEmpty());
+    EXPECT_EQ(before, NotStored().all()) << "what was typed goes along";
+    EXPECT_TRUE(QFile::exists(copy));
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(LeftJournals, StayWhereWhatIsOpenIsNotTheSameToTheByte)
+{
+    changedClaim();
+    const QString copy = WriteRecoveredCopy().path;
+    change();
+    Journal().flush();
+    kill();
+    OpenFormFile(copy);
+    EXPECT_EQ(1u, look().size()) << "the journal has more than the copy";
+    // Nor is a claim that has no file the one of a journal.
+    NewForm(true);
+    EXPECT_EQ(1u, look().size());
+    // Another window holds it by now.
+    left = {};
+    put(copy, contents()->claim);
+    OpenFormFile(copy);
+    const clsHeldFile other(JournalLock(journal()));
+    EXPECT_TRUE(look().empty());
+    EXPECT_EQ(1, journals().size());
 }
 
 TEST_F(LeftJournals, GoWhenDiscarded)

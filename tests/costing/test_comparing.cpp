@@ -1,75 +1,15 @@
 // What differs between two claims, and what it is worth.
 
 #include "costing/comparing/mdChangesReport.h"
-#include "costing/comparing/mdCompareClaims.h"
 #include "costing/comparing/mdPairFiles.h"
-#include "tests/formdata/clsClaimTest.h"
+#include "tests/costing/clsComparingTest.h"
 #include "tests/support/mdTestPaths.h"
 
 #include <QDir>
 
 namespace {
 
-/// A claim, and a copy of it that a test changes.
-class Comparing : public clsClaimTest {
-protected:
-    void SetUp() override
-    {
-        form.VATRate = "20.00"_q;
-        group = claim.addGroup("60.00");
-        group->Reference = "A"_q;
-        feeEarner = claim.addFeeEarner(group, "AB");
-        for (const char *day : {"01/06/25", "02/06/25", "03/06/25"}) {
-            const auto item = claim.addItem(feeEarner, "01:00");
-            item->dDate = QString::fromLatin1(day);
-        }
-        now.takeCopyOf(form);
-    }
-
-    clsClaimChanges changes() const
-    {
-        const QString before = form.XMLOutput();
-        const QString after = now.XMLOutput();
-        const clsClaimChanges result = mdCompareClaims(form, now);
-        EXPECT_EQ(before, form.XMLOutput());
-        EXPECT_EQ(after, now.XMLOutput());
-        return result;
-    }
-    /// List, kind, old item, new item, effect, and the names of the fields.
-    QStringList items() const
-    {
-        static const char *const kinds[] = {"added", "removed", "changed"};
-        QStringList result;
-        for (const clsItemChange &item : changes().Items) {
-            QStringList names;
-            for (const clsFieldChange &field : item.Fields)
-                names << field.Property;
-            result << QStringList {item.List, QString::fromLatin1(kinds[item.Change]), QString::number(item.OldItem),
-                QString::number(item.NewItem), item.Effect, names.join(u',')}
-                          .join(u'|');
-        }
-        return result;
-    }
-    QStringList fields() const
-    {
-        QStringList result;
-        for (const clsFieldChange &field : changes().Fields)
-            result << QStringList {field.Screen, field.Property, field.Old, field.New}.join(u'|');
-        return result;
-    }
-    /// A total, as before and after, parted by a bar; empty where it is the same.
-    QString total(const char *key) const
-    {
-        for (const clsTotalChange &change : changes().Totals)
-            if (change.Key == QLatin1String(key))
-                return change.Old + u'|' + change.New;
-        return {};
-    }
-
-    clsZR3Form now;
-    clsTestClaim::Group group;
-    clsTestClaim::FeeEarner feeEarner;
-};
+class Comparing : public clsComparingTest { };
 
 } // namespace
 
@@ -287,16 +227,6 @@ TEST_F(Comparing, BrokenElementsAreComparedAsTheyStand)
     EXPECT_EQ(QStringList({"schedule|changed|1|0|!13|Advocacy"_q}), items());
     now.XMLScheduleOfTimeItemsNode().first_child().remove_child("advocacy");
     EXPECT_EQ(QStringList({"schedule|changed|1|0|!91|Advocacy"_q}), items());
-}
-
-TEST_F(Comparing, InLinesForPeople)
-{
-    now.ClientDetails.FirstName = "Ada\r\nMary"_q;
-    now.ScheduleOfTimeItem(2)->TTime = "01:30"_q;
-    const QStringList lines = mdChangesInLines(changes(), "a.zr3: "_q).split("\r\n"_q);
-    EXPECT_EQ("a.zr3: Client Details, FirstName: \"\" -> \"Ada  Mary\""_q, lines.value(0));
-    EXPECT_EQ("a.zr3: schedule 2 changed, TTime: \"01:00\" -> \"01:30\", effect: 30"_q, lines.value(1));
-    EXPECT_EQ("a.zr3: ScheduleTotal: \"180\" -> \"210\""_q, lines.value(2));
 }
 
 TEST(PairingFiles, ByNameAndFirstByPlace)

@@ -160,15 +160,40 @@ TEST_F(Compare, ShowsItemsWithTheirEffectAndTotals)
 {
     start();
     clsComparison comparison {QStringLiteral("A"), QStringLiteral("B"), {}, {}};
-    comparison.changes.Items = {{QStringLiteral("disbursements"), clsItemChange::Changed, 3, 3,
-        {{{}, QStringLiteral("Amount"), QStringLiteral("10.00"), QStringLiteral("12.50")},
-            {{}, QStringLiteral("Description"), QStringLiteral("Taxi\r\nto court"), QStringLiteral("Taxi")}},
-        QStringLiteral("2.50")}};
-    comparison.changes.Totals = {{QStringLiteral("FASVATTotal"), QStringLiteral("1.00"), QStringLiteral("2.00")}};
+    comparison.changes.Items
+        = {{QStringLiteral("disbursements"), QStringLiteral("Disbursement 3"), clsItemChange::Changed, 3, 3,
+            {{{}, QStringLiteral("Amount"), QStringLiteral("10.00"), QStringLiteral("12.50")},
+                {{}, QStringLiteral("Description"), QStringLiteral("Taxi\r\nto court"), QStringLiteral("Taxi")}},
+            QStringLiteral("2.50")}};
+    comparison.changes.Totals = {{QStringLiteral("Net total"), QStringLiteral("1.00"), QStringLiteral("2.00")}};
     const frmCompare dialog(comparison, window.get());
     EXPECT_EQ(QStringList({QStringLiteral("Items"), QStringLiteral("Disbursement 3, changed|Amount|10.00|12.50|2.50"),
                   QStringLiteral("Description|Taxi to court|Taxi"), QStringLiteral("Totals"),
-                  QStringLiteral("FASVAT Total|1.00|2.00")}),
+                  QStringLiteral("Net total|1.00|2.00")}),
         rowsOf(dialog));
     EXPECT_EQ(QStringLiteral("What differs"), control<QTableWidget>(dialog, "tblChanges").accessibleName());
+}
+
+TEST_F(Compare, ShowsNamesAndNoIdentities)
+{
+    savedClaim();
+    const auto counsel = Form->AddCounsel();
+    counsel->Name = QStringLiteral("Oak & Ash");
+    const auto paid = Form->AddDisbursement();
+    paid->Description = QStringLiteral("Brief");
+    paid->Counsel = true;
+    paid->CounselUniqueID = counsel->UniqueID();
+    const QString identity = counsel->UniqueID();
+    Journal().flush();
+    window.reset();
+    Form.reset();
+    CleanXML.clear();
+    start();
+    const QStringList rows = compared();
+    EXPECT_TRUE(rows.contains(QStringLiteral("Disbursement 1, added|Counsel|yes|0.00")))
+        << rows.join(u'\n').toStdString();
+    EXPECT_TRUE(rows.contains(QStringLiteral("Counsel's Name|Oak & Ash")));
+    EXPECT_TRUE(rows.contains(QStringLiteral("Counsel Oak & Ash, added|Name|Oak & Ash")));
+    EXPECT_TRUE(rows.filter(QStringLiteral("Unique ID")).isEmpty()) << rows.join(u'\n').toStdString();
+    EXPECT_TRUE(rows.filter(identity).isEmpty()) << rows.join(u'\n').toStdString();
 }

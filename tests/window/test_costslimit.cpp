@@ -1,6 +1,8 @@
 // The limit of costs: set in its dialog, kept in the claim, shown in the strip.
 
+#include "commands/clsNotStored.h"
 #include "controls/oDecimalBox.h"
+#include "controls/oFooterLine.h"
 #include "formdata/mdCostsLimit.h"
 #include "formdata/mdGlobals.h"
 #include "tests/window/clsFiguresTest.h"
@@ -9,6 +11,8 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QTimer>
+
+#include <utility>
 
 namespace {
 
@@ -112,6 +116,42 @@ TEST_F(CostsLimitDialog, KeepsTheLimitAtCancel)
     type("500", Qt::Key_Escape);
     EXPECT_EQ(QString(), mdStoredCostsLimit(*Form));
     EXPECT_FALSE(FormIsDirty());
+}
+
+TEST_F(CostsLimitDialog, BringsBackWhatWasTypedAndNotStored)
+{
+    savedClaim();
+    type("500", Qt::Key_Escape);
+    QTest::qWait(0);
+    window->Activate();
+    auto &line = control<oFooterLine>(*window, "oFooterLine");
+    EXPECT_EQ(QStringLiteral("Costs Limit: 3 characters not stored"), line.Line());
+    bool seen = false;
+    const auto bringBack = [&](Qt::Key end) {
+        QTimer::singleShot(200, [&, end] {
+            auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+            ASSERT_NE(nullptr, dialog);
+            EXPECT_EQ(QStringLiteral("frmCostsLimit"), dialog->objectName());
+            auto *box = dialog->findChild<QLineEdit *>();
+            EXPECT_EQ(QStringLiteral("500.00"), box->text());
+            EXPECT_TRUE(box->hasFocus()) << "as if typed";
+            seen = true;
+            QTest::keyClick(box, end);
+            if (dialog->isVisible())
+                dialog->done(QDialog::Rejected);
+        });
+        entry("mnuBringBack").trigger();
+        window->Activate();
+    };
+    bringBack(Qt::Key_Escape);
+    EXPECT_TRUE(std::exchange(seen, false)) << "a second Esc loses nothing";
+    EXPECT_EQ(QString(), mdStoredCostsLimit(*Form));
+    bringBack(Qt::Key_Return);
+    EXPECT_TRUE(seen);
+    EXPECT_EQ(QStringLiteral("500.00"), mdStoredCostsLimit(*Form));
+    EXPECT_EQ(QString(), line.isVisible() ? line.Line() : QString()) << "stored, and forgotten";
+    EXPECT_TRUE(NotStored().all().empty());
+    EXPECT_TRUE(user.messages.empty());
 }
 
 TEST_F(CostsLimitDialog, IsTheLastEntryButOneOfTools)

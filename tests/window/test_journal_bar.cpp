@@ -1,6 +1,7 @@
 // The journal while the main window is up, and the bar that tells what of the user's work is in danger.
 
 #include "commands/clsJournal.h"
+#include "commands/mdRecoveredCopy.h"
 #include "controls/oAllPurposeBox.h"
 #include "controls/oCustomButton.h"
 #include "controls/oFooterLine.h"
@@ -179,6 +180,27 @@ TEST_F(JournalBar, OpenGoesThroughTheSaveQuestionOfAnotherClaim)
     EXPECT_EQ(QStringLiteral("Hartwell"), Form->ClientDetails.Surname());
 }
 
+TEST_F(JournalBar, TheSameWorkIsNotOfferedTwice)
+{
+    savedClaim();
+    Form->ClientDetails.Surname = QStringLiteral("Hartwell");
+    // As at a log-off: both are left.
+    Journal().flush();
+    const QString copy = WriteRecoveredCopy().path;
+    ASSERT_FALSE(copy.isEmpty());
+    killAndStart();
+    ASSERT_TRUE(told().startsWith(QLatin1String("empty was not closed properly")));
+    user.files = {copy};
+    entry("mnuOpen").trigger();
+    EXPECT_EQ(QStringLiteral("Hartwell"), Form->ClientDetails.Surname());
+    EXPECT_FALSE(bar().isVisible());
+    EXPECT_TRUE(journals().isEmpty());
+    EXPECT_TRUE(QFileInfo::exists(copy));
+    killAndStart();
+    EXPECT_FALSE(bar().isVisible()) << "nor at the next start";
+    expectNoBox();
+}
+
 TEST_F(JournalBar, DiscardTakesItAway)
 {
     leftClaim();
@@ -238,6 +260,24 @@ TEST_F(JournalBar, AFileThatAnotherProgramChangedIsToldOnActivation)
     EXPECT_FALSE(bar().isVisible());
     ASSERT_EQ(1u, user.messages.size()) << "what was saved here is set aside, as ever";
     EXPECT_TRUE(user.messages[0].text.contains(QLatin1String("/Recovered/")));
+}
+
+TEST_F(JournalBar, AFileThatWasChangedAndCannotBeReadIsTold)
+{
+    const QString claim = savedClaim();
+    QFile file(claim);
+    ASSERT_TRUE(file.open(QIODevice::Append));
+    file.write(" ");
+    file.close();
+    FileSystem().faultPoint = [&](clsFileStep step, const QString &at) {
+        return step == clsFileStep::OpenToRead && at == claim ? clsFileFault {EACCES} : clsFileFault();
+    };
+    window->Activate();
+    EXPECT_EQ(today("Changed on disk at %1 by another program, and cannot be read"), told());
+    FileSystem().faultPoint = nullptr;
+    window->Activate();
+    EXPECT_EQ(today("Changed on disk at %1 by another program"), told());
+    expectNoBox();
 }
 
 TEST_F(JournalBar, AJournalThatCannotBeWrittenIsTold)

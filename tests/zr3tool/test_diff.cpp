@@ -64,8 +64,8 @@ TEST_F(ToolDiff, PrintsFieldsItemsAndTotals)
     const clsToolResult lines = run({"diff"_q, old, now});
     EXPECT_EQ(3, lines.status);
     EXPECT_TRUE(lines.out.startsWith("Client Details, Surname: \"\" -> \"Okafor\"\n"
-                                     "schedule 1 changed, TTime: \"01:00\" -> \"01:30\", effect: 20\n"
-                                     "ScheduleTotal: \"40\" -> \"60\"\n"))
+                                     "schedule 1 changed, Time: \"01:00\" -> \"01:30\", effect: 20.00\n"
+                                     "Schedule of time: \"40.00\" -> \"60.00\"\n"))
         << lines.out.constData();
     EXPECT_EQ(before, bytesOf(old));
     EXPECT_EQ(text, bytesOf(now));
@@ -116,7 +116,7 @@ TEST_F(ToolDiff, FoldersAreComparedByTheNamesOfTheirClaims)
     EXPECT_EQ(QStringList({"come.zr3|new|0"_q, "gone.zr3|old|0"_q, "longer.zr3||1"_q, "same.zr3||0"_q}), told);
     const clsToolResult lines = run({"diff"_q, path("old"), path("new")});
     EXPECT_TRUE(lines.out.startsWith("come.zr3: only in the new folder\ngone.zr3: only in the old folder\n"
-                                     "longer.zr3: schedule 1 changed, TTime: \"01:00\" -> \"02:00\", effect: 40\n"))
+                                     "longer.zr3: schedule 1 changed, Time: \"01:00\" -> \"02:00\", effect: 40.00\n"))
         << lines.out.constData();
     EXPECT_EQ(0, run({"diff"_q, path("old"), path("old")}).status);
     EXPECT_EQ("{\n \"Claims\": []\n}\n", run({"diff"_q, "--json"_q, path("empty"), path("empty")}).out);

@@ -17,6 +17,7 @@
 #include "shell/oSectionPanel.h"
 
 #include <QAction>
+#include <QLayout>
 #include <QScopedValueRollback>
 #include <QShortcut>
 #include <QTimer>

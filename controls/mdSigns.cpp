@@ -70,3 +70,31 @@ QPixmap mdSignPixmap(Sign sign, int side, double scale)
     mdPaintSign(painter, QRectF(0, 0, side, side), sign);
     return result;
 }
+
+void mdPaintDot(QPainter &painter, const QRectF &square, Dot dot)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    const QPointF middle = square.center();
+    switch (dot) {
+    case Dot::Empty:
+        painter.setPen(QPen(Theme::Edge, 1));
+        painter.drawEllipse(square.adjusted(0.5, 0.5, -0.5, -0.5));
+        break;
+    case Dot::Begun:
+        painter.setBrush(Theme::Ink2);
+        painter.drawEllipse(square);
+        break;
+    case Dot::Warnings:
+    case Dot::Errors: {
+        painter.setBrush(dot == Dot::Errors ? Theme::Red : Theme::Amber);
+        // Its corners stand out a little, so that it looks no smaller than a disc.
+        const double half = square.width() / 2 + 1;
+        painter.drawPolygon(QPolygonF({middle - QPointF(0, half), middle + QPointF(half, 0), middle + QPointF(0, half),
+            middle - QPointF(half, 0)}));
+        break;
+    }
+    }
+    painter.restore();
+}

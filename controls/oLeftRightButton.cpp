@@ -5,6 +5,17 @@
 
 #include <QHBoxLayout>
 
+namespace {
+
+void tellTarget(oCustomButton &button, const QString &direction, const QString &target)
+{
+    const QString words = target.isEmpty() ? QString() : direction + QStringLiteral(": ") + target;
+    button.setToolTip(words);
+    button.setAccessibleName(words.isEmpty() ? direction : words);
+}
+
+} // namespace
+
 oLeftRightButton::oLeftRightButton(QWidget *parent)
     : QFrame(parent)
     , m_btnLeft(new oCustomButton(this))
@@ -47,6 +58,16 @@ void oLeftRightButton::setRightCaption(const QString &caption)
 QString oLeftRightButton::RightCaption() const
 {
     return m_btnRight->Caption();
+}
+
+void oLeftRightButton::setLeftTarget(const QString &target)
+{
+    tellTarget(*m_btnLeft, QStringLiteral("Previous"), target);
+}
+
+void oLeftRightButton::setRightTarget(const QString &target)
+{
+    tellTarget(*m_btnRight, QStringLiteral("Next"), target);
 }
 
 void oLeftRightButton::setLeftEnabled(bool enabled)

@@ -16,6 +16,10 @@ public:
     void setRightCaption(const QString &caption);
     QString RightCaption() const;
 
+    /// Where the buttons lead, for their tooltips and for screen readers; an empty text for nowhere.
+    void setLeftTarget(const QString &target);
+    void setRightTarget(const QString &target);
+
     void setLeftEnabled(bool enabled);
     bool LeftEnabled() const;
     void setRightEnabled(bool enabled);

@@ -1,12 +1,10 @@
 #include "controls/oStripItem.h"
 
 #include "controls/mdPaintControls.h"
+#include "controls/mdRowKeys.h"
 #include "controls/mdTheme.h"
 
-#include <QKeyEvent>
 #include <QPainter>
-
-#include <limits>
 
 namespace {
 
@@ -34,21 +32,8 @@ int oStripItem::signSide()
 
 void oStripItem::keyPressEvent(QKeyEvent *event)
 {
-    constexpr int toTheEnd = std::numeric_limits<int>::max() / 2;
-    switch (event->key()) {
-    case Qt::Key_Left: emit Move(-1); return;
-    case Qt::Key_Right: emit Move(1); return;
-    case Qt::Key_Home: emit Move(-toTheEnd); return;
-    case Qt::Key_End: emit Move(toTheEnd); return;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        if (!event->isAutoRepeat())
-            click();
-        return;
-    case Qt::Key_Up:
-    case Qt::Key_Down: event->ignore(); return; // the base would walk to whatever lies above or below
-    default: QAbstractButton::keyPressEvent(event);
-    }
+    if (!mdTakeRowKey(*this, *event, [this](int steps) { emit Move(steps); }))
+        QAbstractButton::keyPressEvent(event);
 }
 
 void oStripItem::paintState(QPainter &painter) const

@@ -1,13 +1,11 @@
 #include "controls/oTabBarButton.h"
 
 #include "controls/mdAccessible.h"
+#include "controls/mdRowKeys.h"
 
 #include <QAccessibleWidget>
-#include <QKeyEvent>
 #include <QStyleOption>
 #include <QStylePainter>
-
-#include <limits>
 
 namespace {
 
@@ -100,22 +98,8 @@ QSize oTabBarButton::sizeHint() const
 
 void oTabBarButton::keyPressEvent(QKeyEvent *event)
 {
-    constexpr int toTheEnd = std::numeric_limits<int>::max() / 2;
-    switch (event->key()) {
-    case Qt::Key_Left: emit Move(-1); return;
-    case Qt::Key_Right: emit Move(1); return;
-    case Qt::Key_Home: emit Move(-toTheEnd); return;
-    case Qt::Key_End: emit Move(toTheEnd); return;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        // A key held down opens its screen once.
-        if (!event->isAutoRepeat())
-            click();
-        return;
-    case Qt::Key_Up:
-    case Qt::Key_Down: event->ignore(); return; // the base would walk to whatever lies above or below
-    default: QAbstractButton::keyPressEvent(event);
-    }
+    if (!mdTakeRowKey(*this, *event, [this](int steps) { emit Move(steps); }))
+        QAbstractButton::keyPressEvent(event);
 }
 
 bool oTabBarButton::event(QEvent *event)

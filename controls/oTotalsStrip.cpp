@@ -24,7 +24,7 @@ constexpr int LineHeight = 26;
 struct oTotalsStrip::clsForm {
     oStripLimit::clsForm limit;
     bool hasOther; ///< in the place of several figures
-    bool hasLast;
+    int gone; ///< the last turn of those that have gone altogether
 };
 
 oTotalsStrip::oTotalsStrip(QWidget *parent)
@@ -75,10 +75,11 @@ void oTotalsStrip::showTotal(const clsStripTotal &total, size_t place, bool isOt
         auto *figure = new oStripFigure(this);
         // A new widget comes last among the stops of its window.
         setTabOrder(place == 0 ? static_cast<QWidget *>(m_limit) : m_figures.back().figure, prepared(figure));
-        m_figures.push_back({figure, total.place, false, false});
+        m_figures.push_back({figure, total.place, total.turn, false, false});
     }
     clsFigure &shown = m_figures[place];
     shown.place = total.place;
+    shown.turn = total.turn;
     shown.apart = total.standsApart;
     shown.isOther = isOther;
     oStripFigure &figure = *shown.figure;
@@ -123,7 +124,7 @@ bool oTotalsStrip::shows(const clsFigure &figure, const clsForm &form) const
     if (figure.isOther)
         return form.hasOther;
     return !(figure.place == clsStripTotal::GoesIntoOther && form.hasOther)
-        && !(figure.place == clsStripTotal::GoesLast && !form.hasLast);
+        && !(figure.place == clsStripTotal::GoesAltogether && figure.turn <= form.gone);
 }
 
 int oTotalsStrip::widthIn(const clsForm &form) const
@@ -143,11 +144,13 @@ void oTotalsStrip::layOut()
 {
     using enum oStripLimit::clsForm;
     constexpr clsForm Forms[] = {
-        {WholeCaption, false, true},
-        {ShortCaption, false, true},
-        {ShortCaption, true, true},
-        {BarOnly, true, true},
-        {BarOnly, true, false},
+        {WholeCaption, false, 0},
+        {ShortCaption, false, 0},
+        {ShortCaption, true, 0},
+        {BarOnly, true, 0},
+        {BarOnly, true, 1},
+        {BarOnly, true, 2},
+        {BarOnly, true, 3},
     };
     const auto *form = std::find_if(
         std::begin(Forms), std::end(Forms) - 1, [this](const clsForm &tried) { return widthIn(tried) <= width(); });

@@ -14,7 +14,8 @@ struct clsStripTotal {
     QString figure; ///< as it is printed
     QString failure {}; ///< why it can't be computed; empty where it can
     /// What gives way first where the strip is too narrow.
-    enum clsPlace { Stays, GoesIntoOther, GoesLast } place = Stays;
+    enum clsPlace { Stays, GoesIntoOther, GoesAltogether } place = Stays;
+    int turn = 0; ///< of those that go altogether: the one of turn 1 is the first
     bool strong = false;
     bool standsApart = false; ///< behind the line
 };
@@ -60,6 +61,7 @@ private:
     struct clsFigure {
         oStripFigure *figure;
         clsStripTotal::clsPlace place;
+        int turn;
         bool apart;
         bool isOther;
     };

@@ -30,6 +30,7 @@
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
 #include "formdata/mdRunStep.h"
+#include "formdata/mdSectionTabs.h"
 
 #include <QCloseEvent>
 #include <QMenuBar>
@@ -148,6 +149,9 @@ void frmSection::connectBar()
 {
     connect(m_bar, &oScreenBar::Prev, this, &frmSection::Prev);
     connect(m_bar, &oScreenBar::Next, this, &frmSection::Next);
+    connect(m_bar, &oScreenBar::Walk, this, [this](bool behind) {
+        leaveFor(mdSectionBeside(QString::fromUtf8(m_screen.section), Form->FormType(), behind));
+    });
     connect(m_bar, &oScreenBar::Save, this, &frmSection::Save);
     connect(m_bar, &oScreenBar::SaveAndAdd, this, &frmSection::SaveAndAdd);
     connect(m_bar, &oScreenBar::Close, this, &frmSection::Close);

@@ -8,6 +8,8 @@
 #include "editors/clsMnemonics.h"
 #include "editors/mdSectionRoutes.h"
 #include "editors/oStoredNote.h"
+#include "formdata/clsZR3Form.h"
+#include "formdata/mdGlobals.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -75,6 +77,13 @@ void oScreenBar::addSwitcher(const char *section)
     connect(m_switcher, &oLeftRightButton::LeftClick, this, &oScreenBar::Prev);
     connect(m_switcher, &oLeftRightButton::RightClick, this, &oScreenBar::Next);
     layout()->addWidget(m_switcher);
+    // No screen opens without a claim, and its form type stays while one is open.
+    const QString type = Form ? Form->FormType() : QString();
+    m_switcher->setLeftTarget(mdPrevSection(name, type));
+    m_switcher->setRightTarget(mdNextSection(name, type));
+    for (const auto &[key, behind] : {std::pair(Qt::Key_PageDown, true), std::pair(Qt::Key_PageUp, false)})
+        connect(new QShortcut(QKeySequence(Qt::CTRL | key), this), &QShortcut::activated, this,
+            [this, toNext = behind] { emit Walk(toNext); });
 }
 
 /// It has a key and no letter: the letters of the fields stay what they are.

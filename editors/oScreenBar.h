@@ -28,6 +28,8 @@ public:
 signals:
     void Prev();
     void Next();
+    /// The keys for the section behind or before this one, in the order of the tabs.
+    void Walk(bool behind);
     void Save();
     void SaveAndAdd();
     void Cancel();

@@ -62,3 +62,12 @@ QStringList mdSubSectionTabs(int sectionTab, const QString &formType)
         return row.Claim1A;
     return {};
 }
+
+QString mdSectionBeside(const QString &section, const QString &formType, bool behind)
+{
+    QStringList all;
+    for (int tab = 1; tab <= rows().size(); ++tab)
+        all += mdSubSectionTabs(tab, formType);
+    const qsizetype at = all.indexOf(section);
+    return at < 0 ? QString() : all.value(at + (behind ? 1 : -1));
+}

@@ -8,3 +8,7 @@ QStringList mdSectionTabs();
 /// The texts of the second row under a tab of the first, counted from 1, for a form type; empty for any other type.
 /// Each text selects a screen: they are identifiers.
 QStringList mdSubSectionTabs(int sectionTab, const QString &formType);
+
+/// The text behind or before a text of the second rows, in the order of all these rows; empty at either end, and for a
+/// text that the form type doesn't have.
+QString mdSectionBeside(const QString &section, const QString &formType, bool behind);

@@ -30,8 +30,12 @@ void setLook(clsStripTotal &total)
     for (const char *key : IntoOther)
         if (total.key == QLatin1String(key))
             total.place = clsStripTotal::GoesIntoOther;
-    if (total.key == QLatin1String("vat"))
-        total.place = clsStripTotal::GoesLast;
+    constexpr const char *Altogether[] = {"vat", "fixedfee", "fas"}; // in this order
+    for (const char *const &key : Altogether)
+        if (total.key == QLatin1String(key)) {
+            total.place = clsStripTotal::GoesAltogether;
+            total.turn = int(&key - Altogether) + 1;
+        }
     total.strong = total.key == QLatin1String("total");
 }
 
@@ -65,7 +69,7 @@ void show(oTotalsStrip &strip, const clsClaimTotals &totals)
     for (const clsClaimTotal &total : totals.Figures)
         setLook(figures.emplace_back(shown(total, false)));
     for (const clsClaimTotal &total : totals.Apart)
-        figures.push_back(shown(total, true));
+        setLook(figures.emplace_back(shown(total, true)));
     strip.setTotals(figures, shown(totals.Other, false));
     strip.setLimit(totals.Limit ? std::optional(limitOf(*totals.Limit, totals.Costs)) : std::nullopt);
 }

@@ -16,7 +16,7 @@
 
 namespace {
 
-enum clsColumn { Where, What, Before, Now, Effect, Columns };
+enum clsColumn { Where, What, Before, After, Effect, Columns };
 
 constexpr int Width = 1000;
 constexpr int Height = 620;
@@ -63,7 +63,7 @@ frmCompare::frmCompare(const clsComparison &comparison, QWidget *parent)
     m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     for (int column = 0; column < Columns; ++column)
         m_table->setColumnWidth(column, Theme::scaled(Widths[column]));
-    m_table->horizontalHeader()->setSectionResizeMode(Now, QHeaderView::Stretch);
+    m_table->horizontalHeader()->setSectionResizeMode(After, QHeaderView::Stretch);
     fill(comparison);
 
     auto *line = new QLabel(comparison.trouble, this);

@@ -5,7 +5,6 @@
 #include "commands/mdAutoSave.h"
 #include "commands/mdFileHandling.h"
 #include "controls/mdLargestWindow.h"
-#include "controls/mdShowModal.h"
 #include "controls/mdTheme.h"
 #include "controls/oAllPurposeBox.h"
 #include "controls/oFooterBar.h"
@@ -14,14 +13,12 @@
 #include "controls/oTabBar.h"
 #include "controls/oTimeSpentBox.h"
 #include "controls/oTotalsStrip.h"
-#include "editors/frmSection.h"
 #include "editors/mdSections.h"
 #include "editors/mdShowPreferences.h"
 #include "editors/mdUnloadAndDummyTabClick.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
 #include "formdata/mdGlobals.h"
-#include "formdata/mdSectionTabs.h"
 #include "preview/mdPreview.h"
 #include "preview/oFormPages.h"
 #include "preview/oPageView.h"
@@ -38,7 +35,9 @@
 #include "shell/oApplication.h"
 #include "shell/oCheckPanel.h"
 #include "shell/oPreviewArea.h"
+#include "shell/oSectionPanel.h"
 
+#include <QHBoxLayout>
 #include <QMenu>
 #include <QMenuBar>
 #include <QResizeEvent>
@@ -140,17 +139,26 @@ void frmMain::build()
     layout->setSpacing(0);
     layout->addWidget(oHeader);
     layout->addWidget(m_noticeBar);
-    layout->addWidget(tbSection);
-    layout->addWidget(tbSubSection);
     m_previews->addWidget(pctPreview);
     m_previews->addWidget(m_formPages);
+    buildSections();
     buildCheck();
-    layout->addWidget(m_area, 1);
+    auto *right = new QVBoxLayout;
+    right->addWidget(tbSection);
+    right->addWidget(tbSubSection);
+    right->addWidget(m_area, 1);
+    auto *middle = new QHBoxLayout;
+    middle->addWidget(m_sections);
+    middle->addLayout(right, 1);
+    layout->addLayout(middle, 1);
     layout->addWidget(m_strip);
     layout->addWidget(oFooter);
     setCentralWidget(centre);
     m_why = new clsWhyOpener(*m_strip, *sgPreview, *centre, this);
     mdBuildMainMenu(*this);
+    auto *sections = findChild<QAction *>(QStringLiteral("mnuSectionList"));
+    sections->setCheckable(true);
+    sections->setIcon(QIcon()); // its place is the tick's
 }
 
 void frmMain::Load(const QString &claimPath)
@@ -158,9 +166,12 @@ void frmMain::Load(const QString &claimPath)
     placeRestored();
     setWindowState(Qt::WindowMaximized);
     // The preview takes the widths of its columns from the sheet, and it is drawn before the window shows.
+    const QSize room = screen()->availableSize();
     openCheck(mdIsPanelLeftOpen(m_checkPanel->objectName()));
-    m_area->resize(screen()->availableSize());
-    pctPreview->resize(m_area->previewWidth(m_area->width()), m_area->height());
+    openSections(mdIsPanelLeftOpen(m_sections->objectName()));
+    fitSections(room.width());
+    m_area->resize(room.width() - m_sections->shownWidth(), room.height());
+    pctPreview->resize(m_area->previewWidth(room.width()), m_area->height());
     QResizeEvent placed(pctPreview->size(), QSize());
     QCoreApplication::sendEvent(pctPreview, &placed);
     Preferences = std::make_unique<clsZR3PreferencesDatabase>();
@@ -188,51 +199,6 @@ void frmMain::placeRestored()
     restored.moveCenter(room.center());
     resize(restored.size() - frame);
     move(restored.topLeft());
-}
-
-void frmMain::buildTabs()
-{
-    tbSection->setDoRedraw(false);
-    for (const QString &text : mdSectionTabs())
-        tbSection->AddButton(text, text);
-    tbSection->SwitchTo(1);
-    tbSection->setDoRedraw(true);
-    tbSection_Click();
-}
-
-void frmMain::tbSection_Click()
-{
-    // Only here: after a New, an Open or a change of the form type the tabs stay those of the last click.
-    tbSubSection->setDoRedraw(false);
-    tbSubSection->Clear();
-    for (const QString &text : mdSubSectionTabs(tbSection->SelectedIndex(), Form->FormType()))
-        tbSubSection->AddButton(text, text);
-    tbSubSection->setDoRedraw(true);
-}
-
-void frmMain::tbSubSection_Click(int index, const QString &tag)
-{
-    // A screen that is reached from another has not been opened by the tab that is marked.
-    if (index < 0)
-        tbSubSection->SwitchTo(0);
-    m_nextSection = tag;
-    if (m_sectionOpen)
-        return;
-    const QScopedValueRollback<bool> open(m_sectionOpen, true);
-    bool shown = false;
-    while (!m_nextSection.isEmpty() && !oApplication::ending()) {
-        const std::unique_ptr<QDialog> screen(createScreen(std::exchange(m_nextSection, QString()), this));
-        if (!screen)
-            continue;
-        shown = true;
-        auto *section = qobject_cast<frmSection *>(screen.get());
-        if (const auto way = std::exchange(m_nextWay, nullptr); section && way)
-            QTimer::singleShot(0, section, [section, way] { way(*section); });
-        const QScopedValueRollback<bool> modal(m_modal, true);
-        mdShowModal(*screen);
-    }
-    if (shown)
-        Activate();
 }
 
 void frmMain::whileModal(const std::function<void()> &show)
@@ -298,6 +264,7 @@ void frmMain::resizeEvent(QResizeEvent *event)
 {
     QMainWindow::resizeEvent(event);
     m_strip->setLow(height() < Theme::scaled(LowWindow));
+    fitSections(width());
     m_why->Close();
     if (std::exchange(m_grows, false))
         QTimer::singleShot(0, this, &frmMain::drawForShownWidth);

@@ -26,6 +26,7 @@ class oNoticeBar;
 class oPreviewArea;
 class oPreviewGrid;
 class oPreviewSheet;
+class oSectionPanel;
 class oTabBar;
 class oTotalsStrip;
 struct clsClaimPlace;
@@ -83,6 +84,8 @@ public:
     void PreviewScheduleOfTime() { drawPreview(clsPreviewKind::ScheduleOfTime); }
     void PreviewAdditionalInformation() { drawPreview(clsPreviewKind::AdditionalInformation); }
     void FormPages();
+    /// Opens the list of sections and goes there, or closes it.
+    void SectionList();
     void WhyThisFigure();
     void CostsLimit();
     /// Opens the screen on which something was typed and not stored, and puts that back into it.
@@ -116,6 +119,12 @@ private:
     void placeRestored();
     void buildTabs();
     void tbSection_Click();
+    void buildSections();
+    void fitSections(int windowWidth);
+    void openSections(bool open);
+    void keepSectionsOpen(bool open);
+    void renewSections();
+    void walkSections(bool forward);
     void whileModal(const std::function<void()> &show);
     void drawPreview(clsPreviewKind kind);
     /// The grid of the preview takes the place of the form pages.
@@ -128,6 +137,7 @@ private:
     void openCheck(bool open);
     void showCheck();
     void fitPreview();
+    void focusPreview();
     void renewCheck();
     void openFinding(int finding);
     void tintDrawn();
@@ -144,6 +154,7 @@ private:
 
     oHeaderBar *oHeader;
     oNoticeBar *m_noticeBar;
+    oSectionPanel *m_sections;
     oTabBar *tbSection;
     oTabBar *tbSubSection;
     oPreviewSheet *pctPreview;
@@ -164,6 +175,7 @@ private:
     /// The kind of preview last shown.
     clsPreviewKind m_previewKind = clsPreviewKind::ScheduleOfTime;
     int m_drawnWidth = 0;
+    int m_sectionsWidth = 0; ///< that the list of sections takes at the left
     QHash<const void *, int> m_drawnItems; ///< the schedule's elements, by the order that the preview shows them under
     QString m_backupTag;
     QString m_nextSection;

@@ -12,6 +12,7 @@
 #include "shell/oCheckList.h"
 #include "shell/oCheckPanel.h"
 #include "shell/oPreviewArea.h"
+#include "shell/oSectionPanel.h"
 
 #include <QKeyEvent>
 #include <QShortcut>
@@ -108,16 +109,24 @@ void frmMain::CloseCheck()
     const bool hadFocus = m_checkPanel->isAncestorOf(focusWidget());
     openCheck(false);
     mdKeepPanelOpen(m_checkPanel->objectName(), false);
-    m_check->Postpone();
-    if (hadFocus && showsFormPages())
+    if (!m_sections->isOpen())
+        m_check->Postpone();
+    if (hadFocus)
+        focusPreview();
+}
+
+/// For the focus of a panel that closes.
+void frmMain::focusPreview()
+{
+    if (showsFormPages())
         m_formPages->TakeFocus();
-    else if (hadFocus)
+    else
         sgPreview->setFocus(Qt::OtherFocusReason);
 }
 
 void frmMain::renewCheck()
 {
-    if (m_area->isPanelOpen() && Form)
+    if ((m_area->isPanelOpen() || m_sections->isOpen()) && Form)
         m_check->RenewPrint(false);
 }
 

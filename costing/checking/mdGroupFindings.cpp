@@ -104,9 +104,19 @@ void addNotes(clsFindingGroup &group, const std::vector<clsShownFinding> &findin
     }
 }
 
-QString counted(int count, const char *one, const char *many)
+/// Those of which there are any.
+QString inWords(int errors, int warnings, int notes)
 {
-    return QStringLiteral("%1 %2").arg(count).arg(QLatin1String(count == 1 ? one : many));
+    QStringList words;
+    const auto add = [&](int count, const char *one) {
+        if (count > 0)
+            words << QString::number(count) + u' ' + QLatin1String(one)
+                    + (count == 1 ? QString() : QStringLiteral("s"));
+    };
+    add(errors, "error");
+    add(warnings, "warning");
+    add(notes, "note");
+    return words.join(QStringLiteral(", "));
 }
 
 } // namespace
@@ -142,15 +152,27 @@ int mdCountOf(const std::vector<clsFindingGroup> &groups, clsFindingGroup::clsKi
 
 QString mdCountsInWords(const std::vector<clsFindingGroup> &groups, bool withNotes)
 {
-    const int errors = mdCountOf(groups, clsFindingGroup::Errors);
-    const int warnings = mdCountOf(groups, clsFindingGroup::Warnings);
-    const int notes = withNotes ? mdCountOf(groups, clsFindingGroup::Notes) : 0;
-    QStringList words;
-    if (errors > 0)
-        words << counted(errors, "error", "errors");
-    if (warnings > 0)
-        words << counted(warnings, "warning", "warnings");
-    if (notes > 0)
-        words << counted(notes, "note", "notes");
-    return words.join(QStringLiteral(", "));
+    return inWords(mdCountOf(groups, clsFindingGroup::Errors), mdCountOf(groups, clsFindingGroup::Warnings),
+        withNotes ? mdCountOf(groups, clsFindingGroup::Notes) : 0);
+}
+
+QHash<QString, clsScreenFindings> mdFindingsByScreen(
+    const std::vector<clsShownFinding> &findings, const std::vector<clsFindingGroup> &groups)
+{
+    QHash<QString, clsScreenFindings> result;
+    for (const clsFindingGroup &group : groups) {
+        if (group.Kind != clsFindingGroup::Errors && group.Kind != clsFindingGroup::Warnings)
+            continue;
+        const auto count
+            = group.Kind == clsFindingGroup::Errors ? &clsScreenFindings::Errors : &clsScreenFindings::Warnings;
+        for (const clsFindingLine &line : group.Lines)
+            for (const int finding : line.Findings)
+                ++(result[findings[size_t(finding)].Finding.Screen].*count);
+    }
+    return result;
+}
+
+QString mdCountsInWords(const clsScreenFindings &findings)
+{
+    return inWords(findings.Errors, findings.Warnings, 0);
 }

@@ -2,6 +2,8 @@
 
 #include "costing/checking/clsFinding.h"
 
+#include <QHash>
+
 #include <vector>
 
 /// A line of the check as it is shown: one finding, or many notes of one rule.
@@ -38,3 +40,18 @@ int mdCountOf(const std::vector<clsFindingGroup> &groups, clsFindingGroup::clsKi
 
 /// "2 errors, 1 warning"; with notes also "3 notes". Empty where there is nothing to count.
 QString mdCountsInWords(const std::vector<clsFindingGroup> &groups, bool withNotes);
+
+/// How many of a screen's findings are shown, notes not counted.
+struct clsScreenFindings {
+    int Errors = 0;
+    int Warnings = 0;
+
+    bool operator==(const clsScreenFindings &other) const = default;
+};
+
+/// The same for each screen that has any, by the text of its tab.
+QHash<QString, clsScreenFindings> mdFindingsByScreen(
+    const std::vector<clsShownFinding> &findings, const std::vector<clsFindingGroup> &groups);
+
+/// "1 error, 2 warnings"; empty where there are none.
+QString mdCountsInWords(const clsScreenFindings &findings);

@@ -29,6 +29,7 @@
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
 #include "shell/mdComparison.h"
+#include "shell/oSectionList.h"
 #include "wordexport/mdOfficeProgram.h"
 
 #include <QApplication>
@@ -256,6 +257,15 @@ void takeCheck(clsPictures &pictures, frmMain &main)
     main.CloseCheck();
 }
 
+/// With the same slips.
+void takeSectionList(clsPictures &pictures, frmMain &main)
+{
+    main.SectionList();
+    main.findChild<oSectionList *>()->Choose(QStringLiteral("Schedule of Time"));
+    pictures.take(main, QStringLiteral("frmMain-sections"));
+    main.SectionList();
+}
+
 /// The bar under the header, with a claim that an earlier run has left.
 void takeNotice(clsPictures &pictures, frmMain &main)
 {
@@ -327,6 +337,7 @@ bool takeAll(const QString &claim, const QString &folder)
     pictures.take(main, QStringLiteral("frmMain-notes"));
     takeFormPages(pictures, main);
     takeCheck(pictures, main);
+    takeSectionList(pictures, main);
     return pictures.complete();
 }
 

@@ -146,3 +146,19 @@ TEST_F(GroupFindings, AFindingIsKnownAgainByItsItemsContentAndNotByItsPlace)
     item->TTime = "09:59"_q;
     EXPECT_NE(key, keyOf(2)) << "changed";
 }
+
+TEST_F(GroupFindings, AreCountedByScreenWithoutNotesAndWhatIsPutAside)
+{
+    clsShownFinding aside = shown("d", Error, "X", 4, "P");
+    aside.IsAside = true;
+    const std::vector<clsShownFinding> findings
+        = {shown("a", Warning, "X", 1, "P"), shown("b", Error, "X", 1, "P"), shown("c", Error, "X", 3, "P"),
+            shown("e", Warning, "X", 5, "P"), shown("f", Warning, "Y", 1, "P"), shown("g", Note, "Z", 1, "P"), aside};
+    const auto counts = mdFindingsByScreen(findings, mdGroupFindings(findings));
+    EXPECT_EQ(2, counts.size());
+    EXPECT_EQ((clsScreenFindings {2, 1}), counts["X"_q]) << "the warning about item 1 stands behind its error";
+    EXPECT_EQ((clsScreenFindings {0, 1}), counts["Y"_q]);
+    EXPECT_EQ("2 errors, 1 warning"_q, mdCountsInWords(counts["X"_q]));
+    EXPECT_EQ("1 warning"_q, mdCountsInWords(counts["Y"_q]));
+    EXPECT_EQ(QString(), mdCountsInWords(clsScreenFindings()));
+}

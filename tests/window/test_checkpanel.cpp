@@ -1,25 +1,11 @@
-#include "base/mdStateFolder.h"
 #include "controls/oCloseButton.h"
-#include "controls/oCustomButton.h"
 #include "controls/oTotalsStrip.h"
-#include "formdata/mdCostsLimit.h"
-#include "formdata/mdRunStep.h"
 #include "preview/oPreviewGrid.h"
-#include "shell/clsCheckModel.h"
-#include "shell/clsCheckState.h"
-#include "shell/frmExportToWord.h"
-#include "shell/oCheckList.h"
-#include "shell/oCheckPanel.h"
 #include "tests/support/mdSpokenNames.h"
-#include "tests/window/clsMainWindowTest.h"
+#include "tests/window/clsCheckPanelTest.h"
 
-#include <QApplication>
 #include <QContextMenuEvent>
-#include <QElapsedTimer>
-#include <QLabel>
-#include <QMenu>
 #include <QScrollBar>
-#include <QTimer>
 
 #include <cmath>
 
@@ -27,112 +13,7 @@
 
 namespace {
 
-class CheckPanel : public clsMainWindowTest {
-protected:
-    void SetUp() override
-    {
-        clsMainWindowTest::SetUp();
-        ASSERT_TRUE(QFile::link(QStringLiteral(ZR3_TEMPLATES), path("program/Templates")));
-        SetClock([] { return QDateTime(QDate(2026, 11, 22), QTime(14, 11)); });
-        m_stateBefore = qgetenv("XDG_STATE_HOME");
-        qputenv("XDG_STATE_HOME", QFile::encodeName(path("state")));
-    }
-    void TearDown() override
-    {
-        clsMainWindowTest::TearDown();
-        qputenv("XDG_STATE_HOME", m_stateBefore);
-    }
-
-    /// A claim with two errors, a warning and five notes.
-    void startWithFindings(int width = 1400)
-    {
-        start(sample("empty.zr3"));
-        window->resize(width, 760);
-        fill(*Form);
-    }
-    static void fill(clsZR3Form &form)
-    {
-        for (int page = 1; page <= 13; ++page)
-            form.field(QStringLiteral("IncludePage%1").arg(page))->writeBoolean(false);
-        const auto group = form.AddFeeEarnerGroup();
-        group->Reference = QStringLiteral("A");
-        for (const char *rate : {"HourlyRate", "AdvocacyRate", "CounselRate", "TravelAndWaitingRate"})
-            group->field(QString::fromLatin1(rate))->writeText(QStringLiteral("60.00"));
-        const auto feeEarner = form.AddFeeEarner();
-        feeEarner->Reference = QStringLiteral("AB");
-        feeEarner->GroupUniqueID = group->UniqueID();
-        addItem(form, "01/06/27", "00:10"); // after today
-        addItem(form, "", "00:20"); // without a date
-        addItem(form, "03/06/25", "00:00"); // no time
-        for (int i = 1; i <= 5; ++i) {
-            const auto disbursement = form.AddDisbursement();
-            disbursement->Description = QStringLiteral("Fee %1").arg(i);
-            disbursement->Amount = QStringLiteral("30.00");
-            disbursement->VAT = QStringLiteral("0.00");
-        }
-        form.RenderScheduleOfTimeItemsForExport();
-        form.SeparateCounselAndNonCounselDisbursements();
-    }
-    static void addItem(clsZR3Form &form, const char *date, const char *time)
-    {
-        const auto item = form.AddScheduleOfTimeItem();
-        item->FeeEarnerUniqueID = form.FeeEarner(1)->UniqueID();
-        item->dDate = QString::fromLatin1(date);
-        item->TTime = QString::fromLatin1(time);
-        item->Code = QStringLiteral("ASI");
-    }
-
-    oCheckPanel &panel() const { return control<oCheckPanel>(*window, "oCheckPanel"); }
-    oCheckList &list() const { return *panel().List(); }
-    QAbstractItemModel &model() const { return *list().model(); }
-    clsCheckState &state() const { return *window->findChild<clsCheckState *>(); }
-    QString counts() const { return control<QLabel>(panel(), "lblCheckCounts").text(); }
-    void openPanel() { QTest::keyClick(window.get(), Qt::Key_K, Qt::ControlModifier); }
-
-    QString chosen() const { return list().currentIndex().data().toString(); }
-    void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
-    {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
-    }
-    /// Presses a key of the menu that is open, or opens with the Menu key.
-    void chooseFromMenu(const char *entry) const
-    {
-        list().PopUpMenu(list().mapToGlobal(QPoint()));
-        auto *menu = list().findChild<QMenu *>(QStringLiteral("mnuFinding"));
-        ASSERT_TRUE(menu);
-        auto *action = menu->findChild<QAction *>(QString::fromLatin1(entry));
-        ASSERT_TRUE(action);
-        action->trigger();
-        menu->close();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-    QStringList groups() const
-    {
-        QStringList result;
-        for (int row = 0; row < model().rowCount(); ++row) {
-            const QModelIndex group = model().index(row, 0);
-            result << QStringLiteral("%1 %2%3").arg(group.data().toString(),
-                group.data(clsCheckModel::CountRole).toString(),
-                list().isExpanded(group) ? QString() : QStringLiteral(" folded"));
-        }
-        return result;
-    }
-    /// Puts a file that can't be understood into the state folder.
-    static void writeBroken(const char *name)
-    {
-        ASSERT_TRUE(MakeStateFolder());
-        QFile broken(StateFolder() + u'/' + QString::fromLatin1(name));
-        ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
-        broken.write("{");
-    }
-    /// Waits for the findings about printing.
-    void waitForPrint() const { QTest::qWait(150); }
-
-private:
-    QByteArray m_stateBefore;
-};
-
-const QString NoTime = QStringLiteral("Item 3, 03/06/25, has a time of 00:00: enter the time, or delete the item.");
+using CheckPanel = clsCheckPanelTest;
 
 } // namespace
 
@@ -214,55 +95,6 @@ TEST_F(CheckPanel, F8GoesFromFindingToFindingFromAnywhereInTheWindow)
     for (int i = 0; i < 9; ++i)
         QTest::keyClick(window.get(), Qt::Key_F8, Qt::ShiftModifier);
     EXPECT_TRUE(chosen().startsWith(QLatin1String("Item 1,")));
-}
-
-TEST_F(CheckPanel, EnterOpensTheEditorOfTheItemOnItsField)
-{
-    startWithFindings();
-    openPanel();
-    press(Qt::Key_Down);
-    QString windows, focus;
-    QTimer::singleShot(400, [&] {
-        QWidget *editor = QApplication::activeModalWidget();
-        ASSERT_TRUE(editor);
-        for (QWidget *part = editor->focusWidget(); part && part != editor; part = part->parentWidget())
-            focus += part->objectName() + u' ';
-        windows = editor->objectName();
-        QTest::keyClick(editor, Qt::Key_F8); // chooses a fee earner here, and there is none of that number
-        EXPECT_EQ(NoTime, chosen());
-        QTest::keyClicks(editor->focusWidget(), QStringLiteral("0030"));
-        QTest::keyClick(editor->focusWidget(), Qt::Key_Return); // Save
-        QTimer::singleShot(300, [] {
-            if (auto *screen = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
-                screen->reject();
-        });
-    });
-    press(Qt::Key_Return);
-    EXPECT_EQ(QStringLiteral("frmScheduleOfTimeItemEdit"), windows);
-    EXPECT_TRUE(focus.contains(QLatin1String("txtTime"))) << qPrintable(focus);
-    // By the file's order: the list has given its items other numbers when it opened.
-    EXPECT_EQ(QStringLiteral("00:30"), Form->ScheduleOfTimeItem(3)->TTime());
-    EXPECT_EQ(QStringLiteral("1 error, 1 warning, 5 notes"), counts()) << "renewed at the activation";
-    EXPECT_FALSE(chosen().isEmpty());
-}
-
-TEST_F(CheckPanel, EnterOnTheCostsLimitOpensItsDialog)
-{
-    startWithFindings();
-    mdSetCostsLimit(*Form, QStringLiteral("1.00"));
-    openPanel();
-    while (!chosen().startsWith(QLatin1String("The costs are ")) && chosen() != QLatin1String("Warnings"))
-        press(Qt::Key_Down);
-    ASSERT_TRUE(chosen().startsWith(QLatin1String("The costs are "))) << qPrintable(chosen());
-    QString opened;
-    QTimer::singleShot(300, [&] {
-        if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget())) {
-            opened = dialog->objectName();
-            QTest::keyClick(dialog, Qt::Key_Escape);
-        }
-    });
-    press(Qt::Key_Return);
-    EXPECT_EQ(QStringLiteral("frmCostsLimit"), opened);
 }
 
 TEST_F(CheckPanel, WhatIsNoMistakeIsPutAsideAndTakenBack)
@@ -359,17 +191,6 @@ TEST_F(CheckPanel, TheChosenFindingIsReadWhole)
     EXPECT_EQ(cut, list().visualRect(longOne).height());
 }
 
-TEST_F(CheckPanel, AnItemThatHasChangedSinceIsFoundAgain)
-{
-    startWithFindings();
-    openPanel();
-    press(Qt::Key_Down);
-    chooseFromMenu("mnuPutAside");
-    Form->ScheduleOfTimeItemByOrderID(3)->Code = QStringLiteral("ACL");
-    window->Activate();
-    EXPECT_EQ(QStringLiteral("2 errors, 1 warning, 5 notes"), counts());
-}
-
 TEST_F(CheckPanel, ABrokenFileIsToldInOneLine)
 {
     writeBroken("Put aside.json");
@@ -391,50 +212,6 @@ TEST_F(CheckPanel, ABrokenFileOfOpenPanelsIsToldInOneLine)
     EXPECT_TRUE(QFile::exists(StateFolder() + QStringLiteral("/Panels.json.broken")));
     openPanel();
     EXPECT_EQ(1, user.lines.size()) << "told once";
-}
-
-TEST_F(CheckPanel, LeavesTheFocusWhereItIsWhenItIsRenewed)
-{
-    startWithFindings();
-    openPanel();
-    auto &grid = control<oPreviewGrid>(*window, "sgPreview");
-    grid.setFocus();
-    Form->ScheduleOfTimeItemByOrderID(3)->TTime = QStringLiteral("00:10");
-    window->Activate();
-    EXPECT_EQ(QStringLiteral("1 error, 1 warning, 5 notes"), counts());
-    EXPECT_TRUE(grid.hasFocus());
-    list().setFocus();
-    Form->ScheduleOfTimeItemByOrderID(3)->TTime = QStringLiteral("00:00");
-    window->Activate();
-    EXPECT_TRUE(list().hasFocus());
-}
-
-TEST_F(CheckPanel, FollowsAnUndo)
-{
-    startWithFindings();
-    Document().history.clear();
-    Document().history.join();
-    openPanel();
-    RunStep(QStringLiteral("Edit"), [] { Form->ScheduleOfTimeItemByOrderID(3)->TTime = QStringLiteral("00:10"); });
-    window->Activate();
-    EXPECT_EQ(QStringLiteral("1 error, 1 warning, 5 notes"), counts());
-    QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(QStringLiteral("2 errors, 1 warning, 5 notes"), counts());
-    Document().history.clear();
-}
-
-TEST_F(CheckPanel, KeepsTheChosenItemWhenTheItemsAreNumberedAnew)
-{
-    startWithFindings();
-    addItem(*Form, "04/06/25", "00:00");
-    Form->RenderScheduleOfTimeItemsForExport();
-    openPanel();
-    press(Qt::Key_Down);
-    ASSERT_EQ(NoTime, chosen());
-    for (const auto &item : Form->ScheduleOfTimeItemsCollection())
-        item->OrderID = 5 - item->OrderID();
-    window->Activate();
-    EXPECT_TRUE(chosen().startsWith(QLatin1String("Item 2, 03/06/25,"))) << qPrintable(chosen());
 }
 
 TEST_F(CheckPanel, F8GoesOnFromTheHeadingOfAGroup)
@@ -506,86 +283,6 @@ TEST_F(CheckPanel, FitsTheColumnsOfThePreviewToWhatIsLeft)
     EXPECT_EQ(before, grid.ColumnWidth(13));
 }
 
-TEST_F(CheckPanel, TintsTheRowOfTheChosenFinding)
-{
-    startWithFindings();
-    window->PreviewScheduleOfTime();
-    auto &grid = control<oPreviewGrid>(*window, "sgPreview");
-    openPanel();
-    press(Qt::Key_Down);
-    ASSERT_GT(grid.TintedRow(), 0);
-    EXPECT_EQ(QStringLiteral("3"), grid.Text(grid.TintedRow(), 1));
-    window->PreviewScheduleOfTime();
-    ASSERT_GT(grid.TintedRow(), 0) << "drawn anew";
-    EXPECT_EQ(QStringLiteral("3"), grid.Text(grid.TintedRow(), 1));
-    for (const auto &item : Form->ScheduleOfTimeItemsCollection())
-        item->OrderID = 4 - item->OrderID();
-    window->Activate();
-    EXPECT_TRUE(chosen().startsWith(QLatin1String("Item 1, 03/06/25,"))) << qPrintable(chosen());
-    EXPECT_EQ(QStringLiteral("3"), grid.Text(grid.TintedRow(), 1)) << "drawn before the items had other numbers";
-    press(Qt::Key_End);
-    EXPECT_EQ(0, grid.TintedRow()) << "a row of notes";
-    press(Qt::Key_Home);
-    press(Qt::Key_Down);
-    EXPECT_GT(grid.TintedRow(), 0);
-    window->CloseCheck();
-    EXPECT_EQ(0, grid.TintedRow());
-}
-
-TEST_F(CheckPanel, LookingChangesNothing)
-{
-    const QString claim = sample("care-typical.zr3"); // with hearings, whose total writes while it is read
-    const auto saved = [&](bool look) {
-        start(claim);
-        window->resize(1400, 760);
-        if (look) {
-            openPanel();
-            QTest::keyClick(window.get(), Qt::Key_F8);
-            chooseFromMenu("mnuPutAside");
-            waitForPrint();
-            window->CloseCheck();
-        }
-        EXPECT_FALSE(look && FormIsDirty());
-        entry("mnuSave").trigger();
-        const QByteArray bytes = FileSystem().ReadFile(claim);
-        window.reset();
-        return bytes;
-    };
-    const QByteArray without = saved(false);
-    EXPECT_EQ(without, saved(true));
-}
-
-TEST_F(CheckPanel, HasARoomForTwoThousandFindings)
-{
-    startWithFindings();
-    Preferences->AutoRefreshPreview = false;
-    for (int i = 0; i < 2000; ++i)
-        addItem(*Form, "03/06/25", "00:00");
-    Form->RenderScheduleOfTimeItemsForExport();
-    openPanel();
-    EXPECT_EQ(2002, mdCountOf(state().Groups(), clsFindingGroup::Errors));
-    press(Qt::Key_End);
-    press(Qt::Key_Home);
-    Form->ScheduleOfTimeItem(1500)->TTime = QStringLiteral("00:05");
-    QElapsedTimer timer;
-    timer.start();
-    state().Renew();
-    list().viewport()->repaint();
-    RecordProperty("milliseconds", int(timer.elapsed()));
-    EXPECT_EQ(2001, mdCountOf(state().Groups(), clsFindingGroup::Errors));
-    EXPECT_LT(timer.elapsed(), 1000);
-}
-
-TEST_F(CheckPanel, LooksThroughTheRestOfAClaimThatCanNotBePriced)
-{
-    startWithFindings();
-    Form->ScheduleOfTimeItem(1)->FeeEarnerUniqueID = QStringLiteral("ID999");
-    Form->Disbursement(2)->Amount = QStringLiteral("much");
-    openPanel();
-    EXPECT_TRUE(chosen().contains(QLatin1String("fee earner"))) << qPrintable(chosen());
-    EXPECT_EQ(QStringLiteral("4 errors, 1 warning, 4 notes"), counts());
-}
-
 TEST_F(CheckPanel, SaysThatNothingIsFound)
 {
     start(sample("empty.zr3"));
@@ -606,52 +303,6 @@ TEST_F(CheckPanel, SaysThatNothingIsFound)
     user.answers = {clsUserInterface::No};
     entry("mnuNew").trigger();
     EXPECT_NE(QStringLiteral("2 errors, 1 warning, 5 notes"), counts()) << "another claim";
-}
-
-TEST_F(CheckPanel, LooksAtThePrintWhenTheProgramIsIdle)
-{
-    start(sample("empty.zr3"));
-    window->resize(1400, 760);
-    Form->SolicitorDetails.ContactNameForEnquiries = QString(40, u'W');
-    Form->IncludePage1 = true;
-    openPanel();
-    const auto hasPrint = [this] {
-        for (const clsShownFinding &shown : state().Findings())
-            if (shown.Finding.Rule == QLatin1String("paper"))
-                return true;
-        return false;
-    };
-    EXPECT_FALSE(hasPrint());
-    EXPECT_TRUE(QTest::qWaitFor(hasPrint, 5000));
-    Form->SolicitorDetails.ContactNameForEnquiries = QStringLiteral("B");
-    window->Activate();
-    QDialog screen(window.get());
-    screen.setModal(true);
-    screen.show();
-    waitForPrint();
-    EXPECT_TRUE(hasPrint()) << "dropped, since a screen has opened";
-    screen.close();
-    window->Activate();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !hasPrint(); }, 5000));
-}
-
-TEST_F(CheckPanel, TheExportTellsTheCountsAndLeadsToThem)
-{
-    startWithFindings();
-    QTimer::singleShot(200, [this] {
-        QWidget *dialog = QApplication::activeModalWidget();
-        ASSERT_TRUE(dialog);
-        EXPECT_EQ(QStringLiteral("2 errors, 1 warning"), control<QLabel>(*dialog, "lblCheckCounts").text());
-        EXPECT_TRUE(control<QLabel>(*dialog, "lblCheckCounts").isVisible());
-        EXPECT_TRUE(control<oCustomButton>(*dialog, "cmdExport").isEnabled());
-        QTest::keyClick(dialog, Qt::Key_S, Qt::AltModifier);
-        if (dialog->isVisible())
-            QTest::mouseClick(&control<oCustomButton>(*dialog, "cmdShowCheck"), Qt::LeftButton);
-    });
-    window->wordInstalled = [] { return true; };
-    window->ExportToWord();
-    EXPECT_TRUE(panel().isVisible());
-    EXPECT_EQ(&list(), window->focusWidget());
 }
 
 TEST_F(CheckPanel, IsReadOut)

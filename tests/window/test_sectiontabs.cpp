@@ -51,3 +51,27 @@ TEST(SectionTabs, AnyOtherTypeHasAnEmptySecondRow)
     EXPECT_TRUE(mdSubSectionTabs(0, QStringLiteral("Claim1")).isEmpty());
     EXPECT_TRUE(mdSubSectionTabs(5, QStringLiteral("Claim1")).isEmpty());
 }
+
+TEST(SectionTabs, AreWalkedInTheirOrderFromGroupToGroup)
+{
+    for (const char *type : {"Claim1", "Claim1A"}) {
+        QStringList all;
+        for (int tab = 1; tab <= 4; ++tab)
+            all += mdSubSectionTabs(tab, QString::fromLatin1(type));
+        QStringList forward {all.first()}, backward {all.last()};
+        while (!forward.last().isEmpty())
+            forward << mdSectionBeside(forward.last(), QString::fromLatin1(type), true);
+        while (!backward.first().isEmpty())
+            backward.prepend(mdSectionBeside(backward.first(), QString::fromLatin1(type), false));
+        EXPECT_EQ(all + QStringList(QString()), forward);
+        EXPECT_EQ(QStringList(QString()) + all, backward);
+    }
+    EXPECT_EQ(QStringLiteral("Client Details"),
+        mdSectionBeside(QStringLiteral("Enhancements"), QStringLiteral("Claim1"), true));
+}
+
+TEST(SectionTabs, WhatTheFormDoesNotHaveHasNoNeighbours)
+{
+    EXPECT_EQ(QString(), mdSectionBeside(QStringLiteral("Case Information"), QStringLiteral("Claim1A"), true));
+    EXPECT_EQ(QString(), mdSectionBeside(QStringLiteral("Client Details"), QStringLiteral("Claim2"), true));
+}

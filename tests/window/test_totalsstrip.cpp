@@ -155,6 +155,30 @@ TEST_F(TotalsStrip, GivesWayInANarrowWindow)
     EXPECT_EQ(4, shownAt(300).size()) << "total and counsel never go";
 }
 
+TEST_F(TotalsStrip, OfClaim1AIsNeverCutOff)
+{
+    startOn("care-typical.zr3");
+    const auto words = [this](int width) {
+        QStringList result;
+        for (const QString &shown : shownAt(width))
+            result << shown.left(shown.lastIndexOf(u' '));
+        return result.join(u'|');
+    };
+    QStringList forms {words(1600)};
+    for (int width = 1600; width > 620; --width) {
+        if (const QString shown = words(width); shown != forms.last())
+            forms << shown;
+        for (const auto *item : strip().findChildren<oStripItem *>())
+            ASSERT_TRUE(item->isHidden() || item->geometry().right() < width) << qPrintable(item->Words()) << width;
+    }
+    EXPECT_EQ(
+        QStringList({"Schedule|Letters and calls|Experts|Disbursements|VAT|Total|Counsel|Advocacy scheme|Fixed fee",
+            "Schedule|Other|VAT|Total|Counsel|Advocacy scheme|Fixed fee",
+            "Schedule|Other|Total|Counsel|Advocacy scheme|Fixed fee", "Schedule|Other|Total|Counsel|Advocacy scheme",
+            "Schedule|Other|Total|Counsel"}),
+        forms);
+}
+
 TEST_F(TotalsStrip, IsLowerInALowWindow)
 {
     startOn("housing-typical.zr3");

@@ -2,7 +2,6 @@
 
 #include "base/mdLog.h"
 #include "commands/mdAutoDeleteBackups.h"
-#include "commands/mdAutoSave.h"
 #include "commands/mdFileHandling.h"
 #include "controls/mdLargestWindow.h"
 #include "controls/mdShowModal.h"
@@ -177,6 +176,8 @@ void frmMain::Load(const QString &claimPath)
     buildTabs();
     tmrAutoBackup->start();
     m_journal->begin();
+    if (claimPath.isEmpty())
+        offerFirm();
     m_loaded = true;
 }
 
@@ -392,11 +393,4 @@ void frmMain::ShowTurned()
         redraw(mdRedrawPreview);
     m_stripFiller->Renew();
     renewCheck();
-}
-
-void frmMain::tmrAutoBackup_Timer()
-{
-    // A backup inside long work could hold a claim that is half changed, and its box would interrupt.
-    if (!clsLongWork::isRunning())
-        mdAutoBackupTick(m_backupTag);
 }

@@ -171,13 +171,14 @@ bool trapped(
 }
 
 /// The content of a file as `convert` makes a text of its bytes, an empty text where that failed.
-template <class Convert> auto readDocument(const QString &path, bool logIt, Convert convert)
+template <class Convert> auto readDocument(const QString &path, bool logIt, Convert convert, int *failure = nullptr)
 {
     if (logIt)
         WriteLog(QStringLiteral("Begin Read Text Document - ") + path);
     decltype(convert(QByteArray())) text;
-    if (!trapped(QStringLiteral("File Not Read"), QStringLiteral("There was a problem reading the following path:"),
-            path, [&] { text = convert(read(path)); }))
+    if (!trapped(
+            QStringLiteral("File Not Read"), QStringLiteral("There was a problem reading the following path:"), path,
+            [&] { text = convert(read(path)); }, failure))
         return decltype(text)();
     if (logIt)
         WriteLog(QStringLiteral("End Read Text Document - ") + path);
@@ -191,9 +192,10 @@ QString ReadTextDocument(const QString &path, bool logIt)
     return readDocument(path, logIt, [](const QByteArray &bytes) { return mdFromCodePage(bytes); });
 }
 
-QByteArray ReadTextDocumentAsUtf8(const QString &path, bool logIt)
+QByteArray ReadTextDocumentAsUtf8(const QString &path, bool logIt, int *failure)
 {
-    return readDocument(path, logIt, [](QByteArray bytes) { return mdUtf8FromCodePage(std::move(bytes)); });
+    return readDocument(
+        path, logIt, [](QByteArray bytes) { return mdUtf8FromCodePage(std::move(bytes)); }, failure);
 }
 
 bool WriteTextDocument(const QString &text, const QString &path, bool logIt, int *failure)

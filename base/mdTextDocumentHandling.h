@@ -7,8 +7,9 @@
 /// and returns an empty text, which the caller can't tell from an empty file. `logIt` logs the beginning and the end.
 QString ReadTextDocument(const QString &path, bool logIt);
 
-/// The same text in UTF-8, which costs no conversion where the file is plain ASCII, as a claim mostly is.
-QByteArray ReadTextDocumentAsUtf8(const QString &path, bool logIt);
+/// The same text in UTF-8, which costs no conversion where the file is plain ASCII, as a claim mostly is. A failure
+/// gives its number where that is asked for.
+QByteArray ReadTextDocumentAsUtf8(const QString &path, bool logIt, int *failure = nullptr);
 
 /// Replaces the whole content of a file, one byte for each character. The old content lies beside the file, under its
 /// path followed by "a", until the new one is on the disk: a crash or a failure leaves it there for the user to find.

@@ -26,10 +26,10 @@ constexpr int MostCopiesInASecond = 100;
 const QString TimeOfCopy = QStringLiteral("yyyy-MM-dd HH.mm.ss");
 constexpr qint64 WrittenWithinSeconds = 60; ///< of the time in its name
 
-/// The claim's file name without its extension, as every file system takes it.
-QString stem()
+/// A file name without its extension, as every file system takes it.
+QString stemOf(const QString &fileName)
 {
-    QString name = QFileInfo(Document().copyName()).completeBaseName();
+    QString name = QFileInfo(fileName).completeBaseName();
     for (QChar &c : name)
         if (c < u' ' || QStringLiteral("\\/:*?\"<>|").contains(c))
             c = u'_';
@@ -38,11 +38,11 @@ QString stem()
 }
 
 /// Creates a file that was not there before; false where it can't be. Two copies of one second get numbers.
-bool createNew(QFile &file, const QString &withoutExtension)
+bool createNew(QFile &file, const QString &withoutExtension, const QString &extension)
 {
     for (int number = 1; number <= MostCopiesInASecond; ++number) {
         const QString suffix = number > 1 ? QStringLiteral(" (%1)").arg(number) : QString();
-        file.setFileName(withoutExtension + suffix + QStringLiteral(".zr3"));
+        file.setFileName(withoutExtension + suffix + extension);
         if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly, FileOwnerOnly))
             return true;
     }
@@ -96,11 +96,14 @@ std::vector<clsOlderCopy> olderCopies(const QFileInfo &latest)
 
 } // namespace
 
-QString WriteDatedCopy(const QString &folder, const QByteArray &bytes)
+QString WriteDatedCopy(const QString &folder, const QByteArray &bytes, const QString &fileName)
 {
-    const QString name = stem() + u' ' + Now().toString(TimeOfCopy);
+    // A claim's copy is a claim, whatever its file was called.
+    const QString extension = fileName.isEmpty() ? QStringLiteral(".zr3") : u'.' + QFileInfo(fileName).suffix();
+    const QString name
+        = stemOf(fileName.isEmpty() ? Document().copyName() : fileName) + u' ' + Now().toString(TimeOfCopy);
     QFile file;
-    if (!MakeOwnFolder(folder) || !createNew(file, folder + u'/' + name))
+    if (!MakeOwnFolder(folder) || !createNew(file, folder + u'/' + name, extension))
         return {};
     file.close();
     try {

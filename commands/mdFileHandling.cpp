@@ -7,13 +7,16 @@
 #include "base/mdGetVersionInfo.h"
 #include "base/mdStateFolder.h"
 #include "base/mdVersionComparison.h"
+#include "commands/clsFirm.h"
 #include "commands/clsJournal.h"
 #include "commands/clsNotStored.h"
 #include "commands/mdDatedCopy.h"
+#include "commands/mdFirmFile.h"
 #include "commands/mdRecoveredCopy.h"
 #include "commands/mdRunTimeErrorMessage.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
+#include "formdata/mdClaimSetup.h"
 #include "formdata/mdGlobals.h"
 
 #include <QScopedValueRollback>
@@ -212,14 +215,30 @@ void NewForm(bool skipConfirm)
 {
     if (!skipConfirm && !ConfirmDrop())
         return;
+    // Read before the claim is replaced: reading lets timers run.
+    const std::unique_ptr<clsFirm> firm = mdFirmForNewClaims();
+    BeginForm([&firm](clsZR3Form &form) {
+        if (firm)
+            mdCopySetup(firm->form, form);
+    });
+}
+
+void BeginForm(const std::function<void(clsZR3Form &form)> &fill)
+{
     leaveClaim();
     Document().replaceForm();
     Form->Version = GetVersionInfo();
     Form->VAT = true;
     Form->VATRate = existing(Preferences).DefaultVATRate();
+    fill(*Form);
     Document().takeAsClean();
     run(formDisplay.stopTimer);
     run(formDisplay.activate);
+}
+
+QString ChooseClaim()
+{
+    return UserInterface().chooseFileToOpen(Filter);
 }
 
 void OpenFormDialog(bool clearPath)
@@ -227,7 +246,7 @@ void OpenFormDialog(bool clearPath)
     // Before the dialog: whoever then cancels it has been asked already, and keeps his claim with its changes.
     if (!ConfirmDrop())
         return;
-    const QString path = UserInterface().chooseFileToOpen(Filter);
+    const QString path = ChooseClaim();
     if (!path.isEmpty()) {
         OpenFormFile(path);
         if (clearPath)

@@ -4,6 +4,8 @@
 
 #include <functional>
 
+class clsZR3Form;
+
 // The commands that change which claim is current and whether it is on the disk. What they ask and tell passes through
 // UserInterface(), what they do to the window through the display below, so that they run without either.
 
@@ -42,6 +44,12 @@ bool ConfirmOverwrite(const QString &path);
 
 /// Begins a new claim, after the save question unless it is skipped.
 void NewForm(bool skipConfirm);
+
+/// Begins a new claim without a question; what `fill` puts into it is part of the new claim and no change.
+void BeginForm(const std::function<void(clsZR3Form &form)> &fill);
+
+/// Asks for the file of a claim; empty when the user gave none.
+QString ChooseClaim();
 
 /// Asks for a claim and opens it, after the save question. With `clearPath` the claim is cut off from its file.
 void OpenFormDialog(bool clearPath);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "editors/clsScreenTable.h"
-#include "editors/mdInOrder.h"
+#include "formdata/mdInOrder.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
 

@@ -9,6 +9,7 @@
 #include "editors/frmSection.h"
 #include "editors/mdConfirmDelete.h"
 #include "editors/mdEditItem.h"
+#include "editors/mdEditedForm.h"
 #include "editors/mdItemInShort.h"
 #include "formdata/clsXMLRecord.h"
 #include "formdata/clsZR3Form.h"
@@ -199,7 +200,7 @@ bool clsListActions::Show(const clsZR3Item *item)
 bool clsListActions::mayDelete(int index) const
 {
     const QString word = QString::fromUtf8(m_list.editor().itemWord);
-    if (m_list.keepsUsed && UniqueIDInUseInForm(*Form, m_list.item(index)->field(u"UniqueID")->readText())) {
+    if (m_list.keepsUsed && UniqueIDInUseInForm(mdEditedForm(), m_list.item(index)->field(u"UniqueID")->readText())) {
         mdCustomMessages(QStringLiteral("This %1 is in use. Please remove all uses of it before deleting").arg(word),
             QStringLiteral("Cannot Delete"));
         return false;

@@ -8,7 +8,7 @@
 #include "editors/frmSection.h"
 #include "editors/mdCountComms.h"
 #include "editors/mdEditItem.h"
-#include "editors/mdInOrder.h"
+#include "formdata/mdInOrder.h"
 #include "editors/oEnhancementsBox.h"
 #include "formdata/clsZR3FeeEarner.h"
 #include "formdata/clsZR3Form.h"

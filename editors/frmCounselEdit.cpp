@@ -1,15 +1,16 @@
 #include "editors/mdScreens.h"
 
+#include "editors/mdEditedForm.h"
+#include "editors/mdPeopleLists.h"
 #include "formdata/clsZR3Form.h"
-#include "formdata/mdGlobals.h"
 
 /// A barrister: the name, the account that the claim names beside the fee, and whether VAT is charged.
-const clsScreen &ScreenCounselEdit()
+clsScreen mdCounselEditor(const char *name)
 {
     using enum clsRowKind;
     // clang-format off
-    static const clsScreen screen {
-        .name = "frmCounselEdit",
+    return {
+        .name = name,
         .header = "Counsel",
         .subCaption = "Change settings for a barrister",
         .iconGroup = 5,
@@ -23,9 +24,14 @@ const clsScreen &ScreenCounselEdit()
             }},
         },
         .itemWord = "Counsel",
-        .add = []() -> clsXMLRecord * { return Form->AddCounsel().get(); },
+        .add = []() -> clsXMLRecord * { return mdEditedForm().AddCounsel().get(); },
         .fileMenu = false,
     };
     // clang-format on
+}
+
+const clsScreen &ScreenCounselEdit()
+{
+    static const clsScreen screen = mdCounselEditor("frmCounselEdit");
     return screen;
 }

@@ -1,8 +1,9 @@
 #include "editors/mdScreens.h"
 
+#include "editors/mdEditedForm.h"
+#include "editors/mdPeopleLists.h"
 #include "editors/oFeeEarnerGroupCombo.h"
 #include "formdata/clsZR3Form.h"
-#include "formdata/mdGlobals.h"
 
 namespace {
 
@@ -25,12 +26,12 @@ constexpr clsOtherControl Group {mdMakeOther<oFeeEarnerGroupCombo>, loadGroup, s
 } // namespace
 
 /// One fee earner: a short code, and the group that has the rates.
-const clsScreen &ScreenFeeEarnerEdit()
+clsScreen mdFeeEarnerEditor(const char *name)
 {
     using enum clsRowKind;
     // clang-format off
-    static const clsScreen screen {
-        .name = "frmFeeEarnerEdit",
+    return {
+        .name = name,
         .header = "Fee Earner",
         .subCaption = "Change settings for a fee earner",
         .iconGroup = 12,
@@ -43,9 +44,14 @@ const clsScreen &ScreenFeeEarnerEdit()
             }},
         },
         .itemWord = "Fee Earner",
-        .add = []() -> clsXMLRecord * { return Form->AddFeeEarner().get(); },
+        .add = []() -> clsXMLRecord * { return mdEditedForm().AddFeeEarner().get(); },
         .fileMenu = false,
     };
     // clang-format on
+}
+
+const clsScreen &ScreenFeeEarnerEdit()
+{
+    static const clsScreen screen = mdFeeEarnerEditor("frmFeeEarnerEdit");
     return screen;
 }

@@ -6,14 +6,16 @@
 #include "controls/oDecimalBox.h"
 #include "controls/oTypeAheadBox.h"
 #include "editors/frmSection.h"
-#include "editors/mdInOrder.h"
+#include "editors/mdEditedForm.h"
 #include "editors/mdLoadMenuFromCollection.h"
+#include "editors/mdPeopleLists.h"
 #include "editors/mdRateRows.h"
 #include "editors/mdScreenControls.h"
 #include "editors/mdShowPreferences.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
 #include "formdata/mdGlobals.h"
+#include "formdata/mdInOrder.h"
 
 #include <QAction>
 #include <QMenu>
@@ -27,7 +29,7 @@ QWidget *makeName(const clsScreenRow &, QWidget *parent)
 {
     auto *box = new oTypeAheadBox(parent);
     QStringList names;
-    for (const auto &group : mdInOrder(Form->FeeEarnerGroupsCollection()))
+    for (const auto &group : mdInOrder(mdEditedForm().FeeEarnerGroupsCollection()))
         names << group->Name();
     box->setSuggestions(names);
     return box;
@@ -98,12 +100,12 @@ void rules(frmSection &screen)
 
 /// A group of fee earners: its name, the enhancement of all its work, and the seven rates, which may be taken from a
 /// rate set of the preferences.
-const clsScreen &ScreenFeeEarnerGroupEdit()
+clsScreen mdGroupEditor(const char *name)
 {
     using enum clsRowKind;
     // clang-format off
-    static const clsScreen screen {
-        .name = "frmFeeEarnerGroupEdit",
+    return {
+        .name = name,
         .header = "Fee Earner Group",
         .subCaption = "Change settings for a fee earner group",
         .iconGroup = 12,
@@ -125,9 +127,14 @@ const clsScreen &ScreenFeeEarnerGroupEdit()
         },
         .rules = rules,
         .itemWord = "Fee Earner Group",
-        .add = []() -> clsXMLRecord * { return Form->AddFeeEarnerGroup().get(); },
+        .add = []() -> clsXMLRecord * { return mdEditedForm().AddFeeEarnerGroup().get(); },
         .fileMenu = false,
     };
     // clang-format on
+}
+
+const clsScreen &ScreenFeeEarnerGroupEdit()
+{
+    static const clsScreen screen = mdGroupEditor("frmFeeEarnerGroupEdit");
     return screen;
 }

@@ -3,9 +3,10 @@
 #include "base/mdCustomMessages.h"
 #include "controls/oSGrid.h"
 #include "editors/frmSection.h"
+#include "editors/mdEditedForm.h"
 #include "editors/mdItemFaults.h"
+#include "editors/mdPeopleLists.h"
 #include "formdata/clsZR3Form.h"
-#include "formdata/mdGlobals.h"
 
 #include <QSet>
 
@@ -15,7 +16,7 @@ namespace {
 QSet<QString> groupsInUse()
 {
     QSet<QString> named;
-    for (const auto &feeEarner : Form->FeeEarnersCollection())
+    for (const auto &feeEarner : mdEditedForm().FeeEarnersCollection())
         named << feeEarner->GroupUniqueID();
     return named;
 }
@@ -24,7 +25,7 @@ QStringList emptyGroups()
 {
     const QSet<QString> inUse = groupsInUse();
     QStringList references;
-    for (const auto &group : Form->FeeEarnerGroupsCollection())
+    for (const auto &group : mdEditedForm().FeeEarnerGroupsCollection())
         if (!inUse.contains(group->UniqueID()))
             references << group->Reference();
     return references;
@@ -44,11 +45,11 @@ void createFeeEarners(frmSection &)
     if (mdCustomMessages(question, QStringLiteral("Continue?"), clsUserInterface::YesNo, 1) != clsUserInterface::Yes)
         return;
     QSet<QString> inUse = groupsInUse();
-    for (const auto &group : Form->FeeEarnerGroupsCollection()) {
+    for (const auto &group : mdEditedForm().FeeEarnerGroupsCollection()) {
         if (inUse.contains(group->UniqueID()))
             continue;
         inUse << group->UniqueID();
-        const auto feeEarner = Form->AddFeeEarner();
+        const auto feeEarner = mdEditedForm().AddFeeEarner();
         feeEarner->Reference = group->Reference();
         feeEarner->GroupUniqueID = group->UniqueID();
     }
@@ -56,58 +57,68 @@ void createFeeEarners(frmSection &)
 
 QString whyNoFeeEarner()
 {
-    return Form->FeeEarnerGroupsCollection().empty() ? QStringLiteral("Add a group first.") : QString();
+    return mdEditedForm().FeeEarnerGroupsCollection().empty() ? QStringLiteral("Add a group first.") : QString();
 }
 
-// clang-format off
-const clsItemList Groups {
-    .columns = {
-        {"Ref",   "Reference",       25},
-        {"Name",  "Name",            50},
-        {"Enh",   "Enhance",         10, clsGridAlignment::Centre},
-        {"Enh %", "EnhancementRate", 15, clsGridAlignment::Right},
-    },
-    .called = {"Reference"},
-    .show = [](oSGrid &grid) { grid.setItemCollection(Form->FeeEarnerGroupsCollection()); },
-    .faults = mdItemFaults<clsZR3FeeEarnerGroup>,
-    .empty = "No groups yet. Add one to begin.",
-    .editor = ScreenFeeEarnerGroupEdit,
-    .item = [](int index) -> std::shared_ptr<clsXMLRecord> { return Form->FeeEarnerGroup(index); },
-    .remove = [](int index) { Form->DeleteFeeEarnerGroup(index); },
-    .keepsUsed = true,
-    .add = "cmdAddFeeEarnerGroup",
-    .menu = "mnuFeeEarnerGroups",
-    .deleteEntry = "mnuDeleteFeeEarnerGroup",
-    .actions = {{"mnuCreateFeeEarners", "&Create Fee Earners for Empty Groups", createFeeEarners,
-                 Glyph::AddPerson}},
-};
-
-const clsItemList FeeEarners {
-    .columns = {
-        {"Ref",   "Reference",      50},
-        {.caption = "Group", .property = "GroupReference", .width = 50, .faultOf = "GroupUniqueID"},
-    },
-    .called = {"Reference"},
-    .show = [](oSGrid &grid) { grid.setItemCollection(Form->FeeEarnersCollection()); },
-    .faults = mdItemFaults<clsZR3FeeEarner>,
-    .empty = "No fee earners yet. Add one to begin.",
-    .editor = ScreenFeeEarnerEdit,
-    .item = [](int index) -> std::shared_ptr<clsXMLRecord> { return Form->FeeEarner(index); },
-    .remove = [](int index) { Form->DeleteFeeEarner(index); },
-    .keepsUsed = true,
-    .add = "cmdAddFeeEarner",
-    .whyNoAdd = whyNoFeeEarner,
-    .menu = "mnuFeeEarners",
-    .deleteEntry = "mnuDeleteFeeEarner",
-};
-// clang-format on
-
 } // namespace
+
+clsItemList mdGroupList(const clsScreen &(*editor)())
+{
+    // clang-format off
+    return {
+        .columns = {
+            {"Ref",   "Reference",       25},
+            {"Name",  "Name",            50},
+            {"Enh",   "Enhance",         10, clsGridAlignment::Centre},
+            {"Enh %", "EnhancementRate", 15, clsGridAlignment::Right},
+        },
+        .called = {"Reference"},
+        .show = [](oSGrid &grid) { grid.setItemCollection(mdEditedForm().FeeEarnerGroupsCollection()); },
+        .faults = mdItemFaults<clsZR3FeeEarnerGroup>,
+        .empty = "No groups yet. Add one to begin.",
+        .editor = editor,
+        .item = [](int index) -> std::shared_ptr<clsXMLRecord> { return mdEditedForm().FeeEarnerGroup(index); },
+        .remove = [](int index) { mdEditedForm().DeleteFeeEarnerGroup(index); },
+        .keepsUsed = true,
+        .add = "cmdAddFeeEarnerGroup",
+        .menu = "mnuFeeEarnerGroups",
+        .deleteEntry = "mnuDeleteFeeEarnerGroup",
+        .actions = {{"mnuCreateFeeEarners", "&Create Fee Earners for Empty Groups", createFeeEarners,
+                     Glyph::AddPerson}},
+    };
+    // clang-format on
+}
+
+clsItemList mdFeeEarnerList(const clsScreen &(*editor)())
+{
+    // clang-format off
+    return {
+        .columns = {
+            {"Ref",   "Reference",      50},
+            {.caption = "Group", .property = "GroupReference", .width = 50, .faultOf = "GroupUniqueID"},
+        },
+        .called = {"Reference"},
+        .show = [](oSGrid &grid) { grid.setItemCollection(mdEditedForm().FeeEarnersCollection()); },
+        .faults = mdItemFaults<clsZR3FeeEarner>,
+        .empty = "No fee earners yet. Add one to begin.",
+        .editor = editor,
+        .item = [](int index) -> std::shared_ptr<clsXMLRecord> { return mdEditedForm().FeeEarner(index); },
+        .remove = [](int index) { mdEditedForm().DeleteFeeEarner(index); },
+        .keepsUsed = true,
+        .add = "cmdAddFeeEarner",
+        .whyNoAdd = whyNoFeeEarner,
+        .menu = "mnuFeeEarners",
+        .deleteEntry = "mnuDeleteFeeEarner",
+    };
+    // clang-format on
+}
 
 /// The groups of fee earners, which have the rates, and the fee earners themselves.
 const clsScreen &ScreenFeeEarnerGroups()
 {
     using enum clsRowKind;
+    static const clsItemList groups = mdGroupList(ScreenFeeEarnerGroupEdit);
+    static const clsItemList feeEarners = mdFeeEarnerList(ScreenFeeEarnerEdit);
     // clang-format off
     static const clsScreen screen {
         .name = "frmFeeEarnerGroups",
@@ -119,11 +130,11 @@ const clsScreen &ScreenFeeEarnerGroups()
         .frames = {
             {"bxFeeEarnerGroups", "Fee Earner Groups", {
                 {.kind = Items, .control = "sgFeeEarnerGroups", .caption = "Fee Earner Groups",
-                 .items = &Groups},
+                 .items = &groups},
             }},
             {.name = "bxFeeEarners", .caption = "Fee Earners", .rows = {
                 {.kind = Items, .control = "sgFeeEarners", .caption = "Fee Earners",
-                 .items = &FeeEarners},
+                 .items = &feeEarners},
             }, .startsColumn = true},
         },
     };

@@ -44,3 +44,4 @@ const clsScreen &ScreenPreferencesRateSetEdit();
 
 // Of the program, not of a claim
 const clsScreen &ScreenPreferences();
+const clsScreen &ScreenFirmAndTeam();

@@ -2,7 +2,7 @@
 
 #include "base/clsRunTimeError.h"
 #include "editors/mdComboboxSelectByItemData.h"
-#include "editors/mdInOrder.h"
+#include "formdata/mdInOrder.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
 

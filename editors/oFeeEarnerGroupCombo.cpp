@@ -1,9 +1,9 @@
 #include "editors/oFeeEarnerGroupCombo.h"
 
 #include "editors/mdComboboxSelectByItemData.h"
-#include "editors/mdInOrder.h"
+#include "editors/mdEditedForm.h"
+#include "formdata/mdInOrder.h"
 #include "formdata/clsZR3Form.h"
-#include "formdata/mdGlobals.h"
 
 #include <QSignalBlocker>
 
@@ -19,7 +19,7 @@ void oFeeEarnerGroupCombo::fill()
     refill([this] {
         if (m_showNoneOption)
             addItem(QStringLiteral("None"));
-        for (const auto &group : mdInOrder(Form->FeeEarnerGroupsCollection()))
+        for (const auto &group : mdInOrder(mdEditedForm().FeeEarnerGroupsCollection()))
             addItem(group->Reference(), group->Index);
         return 0;
     });
@@ -38,14 +38,14 @@ QString oFeeEarnerGroupCombo::SelectedFeeEarnerGroupUniqueID() const
 {
     if (!Enabled() || !currentData().isValid())
         return {};
-    return Form->FeeEarnerGroup(currentData().toInt())->UniqueID();
+    return mdEditedForm().FeeEarnerGroup(currentData().toInt())->UniqueID();
 }
 
 void oFeeEarnerGroupCombo::setSelectedFeeEarnerGroupUniqueID(const QString &uniqueID)
 {
     if (uniqueID.isEmpty())
         return;
-    const auto group = Form->FeeEarnerGroupByUniqueID(uniqueID);
+    const auto group = mdEditedForm().FeeEarnerGroupByUniqueID(uniqueID);
     {
         const QSignalBlocker quiet(this);
         if (group)

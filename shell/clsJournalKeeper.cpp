@@ -4,7 +4,6 @@
 #include "base/mdClock.h"
 #include "commands/clsJournal.h"
 #include "commands/mdFileHandling.h"
-#include "controls/oNoticeBar.h"
 #include "editors/mdTypedTexts.h"
 #include "formdata/mdGlobals.h"
 #include "shell/mdComparison.h"
@@ -134,6 +133,12 @@ void clsJournalKeeper::leave()
     Journal().end();
 }
 
+void clsJournalKeeper::setOffer(std::optional<clsNotice> offer)
+{
+    m_offer = std::move(offer);
+    refresh();
+}
+
 void clsJournalKeeper::step()
 {
     if (!m_soon.isActive())
@@ -174,6 +179,8 @@ void clsJournalKeeper::show()
         add(NotKept, QStringLiteral("No recovery copy is kept: ") + why);
     if (m_left.broken() > 0)
         add(Broken, brokenSentence(m_left.broken()));
+    if (m_offer)
+        notices.push_back(*m_offer);
     m_bar.setNotices(std::move(notices));
 }
 

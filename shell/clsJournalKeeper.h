@@ -1,16 +1,16 @@
 #pragma once
 
 #include "commands/clsLeftJournals.h"
+#include "controls/oNoticeBar.h"
 
 #include <QObject>
 #include <QTimer>
 
 #include <chrono>
 #include <functional>
+#include <optional>
 
-class oNoticeBar;
 struct clsComparison;
-struct clsNotice;
 
 /// What the keeper has the main window do.
 struct clsKeeperCommands {
@@ -39,6 +39,8 @@ public:
     void begin();
     /// Looks at the file, and for what other windows have left since, and shows what there is to tell.
     void refresh();
+    /// What waits behind all that is in danger; nothing takes it away.
+    void setOffer(std::optional<clsNotice> offer);
     /// The program ends, and the user has been asked about changes.
     void leave();
 
@@ -61,6 +63,7 @@ private:
     oNoticeBar &m_bar;
     clsKeeperCommands m_commands;
     clsLeftJournals m_left;
+    std::optional<clsNotice> m_offer;
     QTimer m_soon;
     QTimer m_regular;
     bool m_on = false;

@@ -2,7 +2,6 @@
 
 #include "base/mdLog.h"
 #include "commands/mdAutoDeleteBackups.h"
-#include "commands/mdAutoSave.h"
 #include "commands/mdFileHandling.h"
 #include "controls/mdLargestWindow.h"
 #include "controls/mdTheme.h"
@@ -188,6 +187,8 @@ void frmMain::Load(const QString &claimPath)
     buildTabs();
     tmrAutoBackup->start();
     m_journal->begin();
+    if (claimPath.isEmpty())
+        offerFirm();
     m_loaded = true;
 }
 
@@ -359,11 +360,4 @@ void frmMain::ShowTurned()
         redraw(mdRedrawPreview);
     m_stripFiller->Renew();
     renewCheck();
-}
-
-void frmMain::tmrAutoBackup_Timer()
-{
-    // A backup inside long work could hold a claim that is half changed, and its box would interrupt.
-    if (!clsLongWork::isRunning())
-        mdAutoBackupTick(m_backupTag);
 }

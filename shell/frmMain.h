@@ -68,6 +68,7 @@ public:
 
     // The commands of the menu.
     void New();
+    void NewFromClaim();
     void Open();
     void Save();
     void SaveAs();
@@ -88,6 +89,7 @@ public:
     void SectionList();
     void WhyThisFigure();
     void CostsLimit();
+    void FirmAndTeam();
     /// Opens the screen on which something was typed and not stored, and puts that back into it.
     void BringBack();
     void UserGuide();
@@ -145,6 +147,11 @@ private:
     void offerNotStored();
     void compare(const clsComparison &comparison);
     void openDropped(const QString &path);
+    /// Runs a command that asks about changes and may put another claim in the place of the open one.
+    void replaceClaim(const std::function<void()> &command);
+    /// Shows the line that tells of "Firm and Team", as long as the user has not answered it.
+    void offerFirm();
+    void endFirmOffer();
     /// Asks about changes, and has another claim take the place of the open one.
     void openInstead(const std::function<void()> &open);
     /// Takes the user's typed text into the claim and the user out of the box; false where its text doesn't fit.

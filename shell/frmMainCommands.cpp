@@ -6,6 +6,7 @@
 #include "base/mdLog.h"
 #include "base/mdProgramFolder.h"
 #include "base/mdShellExecute.h"
+#include "commands/mdAutoSave.h"
 #include "commands/mdFileHandling.h"
 #include "controls/mdLeaveFocusedBox.h"
 #include "controls/mdShowModal.h"
@@ -53,28 +54,26 @@ bool frmMain::leaveForAnotherClaim()
     return true;
 }
 
-void frmMain::New()
+void frmMain::replaceClaim(const std::function<void()> &command)
 {
     if (!leaveForAnotherClaim())
         return;
     {
         const QScopedValueRollback<bool> follows(m_drawingFollows, true);
-        NewForm(false);
+        command();
     }
     UpdateInfo();
     PreviewScheduleOfTime();
 }
 
+void frmMain::New()
+{
+    replaceClaim([] { NewForm(false); });
+}
+
 void frmMain::Open()
 {
-    if (!leaveForAnotherClaim())
-        return;
-    {
-        const QScopedValueRollback<bool> follows(m_drawingFollows, true);
-        OpenFormDialog(false);
-    }
-    UpdateInfo();
-    PreviewScheduleOfTime();
+    replaceClaim([] { OpenFormDialog(false); });
 }
 
 void frmMain::Save()
@@ -199,4 +198,11 @@ void frmMain::closeEvent(QCloseEvent *event)
     WriteLog(QStringLiteral("Program Ended\r\n") + QString(110, u'#'));
     m_loaded = false;
     emit Closed();
+}
+
+void frmMain::tmrAutoBackup_Timer()
+{
+    // A backup inside long work could hold a claim that is half changed, and its box would interrupt.
+    if (!clsLongWork::isRunning())
+        mdAutoBackupTick(m_backupTag);
 }

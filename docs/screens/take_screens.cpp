@@ -6,17 +6,21 @@
 #include "commands/mdJournalFile.h"
 #include "controls/frmMessageBox.h"
 #include "controls/mdApplyTheme.h"
+#include "controls/oCheckBox.h"
 #include "controls/oContentSwitcher.h"
+#include "controls/oDecimalBox.h"
 #include "costing/comparing/mdChangesInWords.h"
 #include "costing/comparing/mdCompareClaims.h"
 #include "editors/clsPasteList.h"
 #include "editors/frmPasteItems.h"
 #include "editors/frmSection.h"
 #include "editors/mdEditCostsLimit.h"
+#include "editors/mdEditedForm.h"
 #include "editors/mdScreens.h"
 #include "editors/mdSections.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
+#include "formdata/mdClaimSetup.h"
 #include "formdata/mdCostsLimit.h"
 #include "formdata/mdGlobals.h"
 #include "preview/oFormPages.h"
@@ -145,6 +149,24 @@ void takeEditors(clsPictures &pictures, frmMain &main)
         screen.Initialise(item.get());
         takeScreen(pictures, screen);
     }
+}
+
+/// The firm of the claim and its people, as they are kept for new claims.
+void takeFirm(clsPictures &pictures, frmMain &main)
+{
+    clsZR3Form firm;
+    mdCopySetup(*Form, firm);
+    const clsEditedFormScope edited(firm);
+    frmSection screen(ScreenFirmAndTeam(), &main);
+    screen.Initialise();
+    screen.Box<oCheckBox>("chkVAT").setChecked(firm.VAT());
+    screen.Box<oDecimalBox>("txtVATRate").setText(firm.VATRate());
+    screen.Box<oCheckBox>("chkFillNewClaims").setChecked(true);
+    screen.resize(screen.sizeHint());
+    pictures.take(screen, screen.objectName());
+    screen.Switcher().SwitchTo(2);
+    pictures.take(screen, screen.objectName() + QStringLiteral("-2"));
+    screen.close();
 }
 
 void takePreferences(clsPictures &pictures, frmMain &main)
@@ -328,6 +350,7 @@ bool takeAll(const QString &claim, const QString &folder)
     fillPreferences();
     takeEditors(pictures, main);
     takePreferences(pictures, main);
+    takeFirm(pictures, main);
     takeBoxes(pictures, main);
     takeNotice(pictures, main);
     takeCompare(pictures, main);

@@ -23,6 +23,26 @@ inline const std::vector<clsExpectedScreen> ExpectedPreferences {
     }, {{"bxPreferences", ""}}},
 };
 
+inline const std::vector<clsExpectedScreen> ExpectedFirm {
+    {"", "frmFirmAndTeam", "Firm and Team", "What new claims of your firm begin with", "solicitordetails", {
+        {"txtNameOfFirm", "Name of Firm:", nullptr, 't', 42, false, false, "bxFirm"},
+        {"txtAccountNumber", "Account Number:", nullptr, 't', 7, false, false, "bxFirm"},
+        {"txtRollNumber", "Roll Number:", nullptr, 't', 7, false, false, "bxFirm"},
+        {"txtContactNameForEnquiries", "Contact Name for Enquiries:", nullptr, 't', 35, false, false, "bxFirm"},
+        {"txtTelephoneForEnquiries", "Tel. No:", nullptr, 't', 17, false, false, "bxFirm"},
+        {"txtEmailForEnquiries", "Email Address for Enquiries:", nullptr, 't', 35, false, false, "bxFirm"},
+        {"chkVAT", "VAT:", nullptr, 'x', 0, false, false, "bxFirm"},
+        {"txtVATRate", "%", nullptr, 'm', 0, false, false, "bxFirm"},
+        {"chkFillNewClaims", "Fill new claims with these:", nullptr, 'x', 0, false, false, "bxFirm"},
+        {"sgFeeEarnerGroups", "Fee Earner Groups", nullptr, 'g', 0, false, false, "bxFirm"},
+        {"cmdAddFeeEarnerGroup", "Add", nullptr, 'b', 0, false, false, "bxFirm"},
+        {"sgFeeEarners", "Fee Earners", nullptr, 'g', 0, false, false, "bxFirm"},
+        {"cmdAddFeeEarner", "Add", nullptr, 'b', 0, false, false, "bxFirm"},
+        {"sgCounsel", "Counsel", nullptr, 'g', 0, false, false, "bxFirm"},
+        {"cmdAddCounsel", "Add", nullptr, 'b', 0, false, false, "bxFirm"},
+    }, {{"bxFirm", ""}}},
+};
+
 inline const std::vector<clsExpectedScreen> ExpectedPreferencesEditors {
     {"", "frmReplacementEdit", "Replacement", "Change input and output text", "", {
         {.control = "txtInputText", .caption = "Input Text:*", .answer = nullptr, .kind = 't', .replacements = false},

@@ -25,11 +25,12 @@ inline std::vector<clsExpectedScreen> AllExpectedScreens()
     return all;
 }
 
-/// Those, and the one screen that is neither a section nor the editor of an item.
+/// Those, and the screens that are neither a section nor the editor of an item.
 inline std::vector<clsExpectedScreen> AllWalkedScreens()
 {
     std::vector<clsExpectedScreen> all = AllExpectedScreens();
     all.insert(all.end(), ExpectedPreferences.begin(), ExpectedPreferences.end());
+    all.insert(all.end(), ExpectedFirm.begin(), ExpectedFirm.end());
     return all;
 }
 
@@ -57,8 +58,9 @@ inline std::vector<clsScreenFunction> AllItemEditors()
 /// The screen of that name which no section leads to, or nothing.
 inline const clsScreen *ScreenNamed(std::string_view name)
 {
-    if (ScreenPreferences().name == name)
-        return &ScreenPreferences();
+    for (const clsScreenFunction screen : {ScreenPreferences, ScreenFirmAndTeam})
+        if (screen().name == name)
+            return &screen();
     for (const clsScreenFunction editor : AllItemEditors())
         if (editor().name == name)
             return &editor();

@@ -9,7 +9,7 @@ FLOORS = {
     "costing": ("base", "formdata"),
     "wordexport/document": ("base",),
     "wordexport": ("base", "formdata", "costing", "wordexport/document"),
-    "commands": ("base", "formdata"),
+    "commands": ("base", "formdata", "costing"),
     "controls": ("base", "formdata"),
     "preview": ("base", "formdata", "costing", "controls"),
     "editors": ("base", "formdata", "costing", "wordexport/document", "wordexport", "commands", "controls"),

@@ -166,7 +166,7 @@ class Sources(unittest.TestCase):
     def test_every_menu_entry_and_preference_is_told(self):
         menus = (ROOT / "shell/mdMainMenu.cpp").read_text(encoding="utf-8")
         entries = [entry.replace("&", "") for entry in re.findall(r'\{"&\w+",\s*"([^"]+)"', menus)]
-        self.assertEqual(len(entries), 20)
+        self.assertEqual(len(entries), 22)
         edit = (ROOT / "editors/clsEditMenu.cpp").read_text(encoding="utf-8")
         edited = [entry.replace("&", "") for entry in re.findall(r'^    \{"([^"]+)",\s*"mnu', edit, flags=re.MULTILINE)]
         self.assertEqual(edited, ["Undo", "Redo", "Paste Items...", "Import Items...", "Copy List", "Same Again",
@@ -351,7 +351,7 @@ class Messages(unittest.TestCase):
         notes += [text for text in scan.literals(self.sources.files["editors/oSpellingNote.cpp"]) if " " in text]
         notes += [text for text in scan.literals(self.sources.files["editors/mdLoadMenuFromCollection.cpp"]) if " " in text]
         # The bar under the header: its sentences and their reasons, and no captions.
-        for file in ("shell/clsJournalKeeper.cpp", "commands/mdFailureInWords.cpp", "commands/clsJournal.cpp"):
+        for file in ("shell/clsJournalKeeper.cpp", "shell/frmMainFirm.cpp", "commands/mdFailureInWords.cpp", "commands/clsJournal.cpp"):
             notes += [text for text in scan.literals(self.sources.files[file])
                       if text.count(" ") > 1 and "&" not in text and "%" not in text.replace("%1", "")]
         self.assertGreater(len(notes), 28)

@@ -2,6 +2,7 @@
 
 #include "base/mdGetResourceData.h"
 #include "base/mdProgramFolder.h"
+#include "commands/mdFirmOffer.h"
 #include "controls/frmMessageBox.h"
 #include "controls/oHeaderBar.h"
 #include "shell/frmMain.h"
@@ -52,6 +53,7 @@ protected:
         qputenv("XDG_CONFIG_HOME", QFile::encodeName(path("config")));
         qputenv("XDG_CONFIG_DIRS", QFile::encodeName(path("machine")));
         qputenv("XDG_STATE_HOME", QFile::encodeName(path("state")));
+        mdFirmOfferAnswered();
         QFile file(path("program/Databases/Preferences Database.vzp"));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(

@@ -39,6 +39,7 @@ protected:
     }
     static void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
+        ++pressed;
         QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key(key), modifiers);
     }
     static void pressAll(const QString &text)
@@ -48,10 +49,15 @@ protected:
                 press(Qt::Key_Tab);
             else if (c == u'↓')
                 press(Qt::Key_Down);
-            else
+            else {
+                ++pressed;
                 QTest::keyClick(QGuiApplication::focusWindow(), c.toLatin1());
+            }
         }
     }
+    /// The keys that were pressed so far; a letter with Alt is one.
+    inline static int pressed = 0;
+
     /// A look at how things stand, with nothing done.
     void look(std::function<void()> at, Place place = Place::current()) { step(std::move(at), always, place); }
 

@@ -7,6 +7,7 @@
 #include "base/mdLog.h"
 #include "base/mdProgramFolder.h"
 #include "commands/clsNotStored.h"
+#include "commands/mdFirmOffer.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
 #include "formdata/mdGlobals.h"
@@ -34,6 +35,8 @@ protected:
         qputenv("XDG_STATE_HOME", QFile::encodeName(path("state")));
         SetDatabasePath(QString());
         writePreferences({});
+        // A test of the offer takes this back.
+        mdFirmOfferAnswered();
     }
     void TearDown() override
     {

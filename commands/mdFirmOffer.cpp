@@ -1,0 +1,21 @@
+#include "commands/mdFirmOffer.h"
+
+#include "base/mdStateFile.h"
+#include "commands/mdFirmFile.h"
+
+namespace {
+
+const QString FileName = QStringLiteral("Firm offer answered");
+
+} // namespace
+
+bool mdFirmIsToBeOffered()
+{
+    return mdReadStateFile(FileName).isEmpty() && !mdHasFirm();
+}
+
+void mdFirmOfferAnswered()
+{
+    // Where it can't be kept, the next start asks again.
+    mdWriteStateFile(FileName, QByteArrayLiteral("yes\n"));
+}

@@ -1,4 +1,5 @@
 #include "base/mdStateFile.h"
+#include "controls/mdGridMetrics.h"
 #include "controls/oCustomButton.h"
 #include "editors/clsPasteList.h"
 #include "editors/clsPasteModel.h"
@@ -487,4 +488,22 @@ TEST_F(PasteItems, TenThousandRowsAreQuick)
     press(Qt::Key_Space);
     EXPECT_EQ(0, window->Rows().chosen());
     EXPECT_LT(clock.elapsed(), 1000);
+}
+
+TEST_F(PasteItems, ManyWrongRowsAreQuickInANarrowWindowToo)
+{
+    constexpr int Many = 99'999;
+    QString table = QStringLiteral("Date\tFee Earner\tCode\tTime\tDescription\n");
+    for (int n = 0; n < Many; ++n)
+        table += QStringLiteral("17/09/25\tJPR\tQQQ\t0:36\tAttending client %1\n").arg(n);
+    QElapsedTimer clock;
+    clock.start();
+    look(table);
+    window->resize(700, 500);
+    QCoreApplication::processEvents();
+    window->grab();
+    EXPECT_LT(clock.elapsed(), 6000);
+    EXPECT_TRUE(pasted().isColumnHidden(cells().columnCount() - 1));
+    EXPECT_EQ(2 * mdGridRowHeight(), pasted().rowHeight(0));
+    EXPECT_EQ(2 * mdGridRowHeight(), pasted().rowHeight(Many - 1));
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/clsGridAlignment.h"
+#include "controls/clsGridColumn.h"
 #include "controls/mdIcons.h"
 #include "costing/mdFigureFaults.h"
 #include "editors/mdListTotals.h"
@@ -66,6 +66,8 @@ struct clsItemColumn {
     clsGridAlignment alignment = clsGridAlignment::Left; ///< of the heading and the cells
     bool sortKey = false; ///< the grid sorts its rows by the text of this column
     const char *faultOf = ""; ///< the property whose fault the column shows, where it isn't its own
+    clsGridRoom room = clsGridRoom::Share;
+    clsGridTexts (*texts)() = nullptr; ///< instead of a property: made at each drawing of the list
 };
 
 /// An entry of a list's pop-up menu beside "Delete".

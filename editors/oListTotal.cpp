@@ -31,6 +31,7 @@ int widthOf(const QFont &font, const QString &text)
 oListTotal::oListTotal(clsListTotal (*total)(), oSGrid &grid, QWidget *parent)
     : QWidget(parent)
     , m_total(total)
+    , m_grid(grid)
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_renewal.setSingleShot(true);
@@ -76,13 +77,14 @@ QSize oListTotal::minimumSizeHint() const
     const int sign = m_whyNot.isEmpty() ? 0 : Theme::scaled(SignGap + SignSide);
     const int width
         = widthOf(Theme::font(), word()) + widthOf(Theme::font(0, true), m_figure) + Theme::scaled(Gap) + sign;
-    return {width + contentsMargins().right(), QFontMetrics(Theme::font(0, true)).height() + 2};
+    return {width + contentsMargins().right() + m_grid.roomBehindAmounts(),
+        QFontMetrics(Theme::font(0, true)).height() + 2};
 }
 
 void oListTotal::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    QRect place = contentsRect();
+    QRect place = contentsRect().adjusted(0, 0, -m_grid.roomBehindAmounts(), 0);
     const auto write = [&](const QString &text, const QFont &font, const QColor &ink) {
         painter.setFont(font);
         painter.setPen(ink);

@@ -64,7 +64,7 @@ bool isOfColumn(const clsRunTimeError &error, const clsGridColumn &column)
 bool shows(const clsGridColumn &column, const QString &property)
 {
     const QString &own = column.faultOf.isEmpty() ? column.property : column.faultOf;
-    return column.isShown() && own.compare(property, Qt::CaseInsensitive) == 0;
+    return column.isShown() && !column.texts && own.compare(property, Qt::CaseInsensitive) == 0;
 }
 
 /// Why what a column shows is wrong; empty where it isn't.

@@ -69,7 +69,8 @@ void oListTotal::showEvent(QShowEvent *event)
 
 QSize oListTotal::sizeHint() const
 {
-    return minimumSizeHint() + QSize(widthOf(Theme::font(-1), m_counted) + Theme::scaled(Gap), 0);
+    const int counted = widthOf(Theme::font(-1), m_counted) + Theme::scaled(Gap);
+    return minimumSizeHint() + QSize(counted + m_grid.roomBehindAmounts(), 0);
 }
 
 QSize oListTotal::minimumSizeHint() const
@@ -77,14 +78,14 @@ QSize oListTotal::minimumSizeHint() const
     const int sign = m_whyNot.isEmpty() ? 0 : Theme::scaled(SignGap + SignSide);
     const int width
         = widthOf(Theme::font(), word()) + widthOf(Theme::font(0, true), m_figure) + Theme::scaled(Gap) + sign;
-    return {width + contentsMargins().right() + m_grid.roomBehindAmounts(),
-        QFontMetrics(Theme::font(0, true)).height() + 2};
+    return {width + contentsMargins().right(), QFontMetrics(Theme::font(0, true)).height() + 2};
 }
 
 void oListTotal::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    QRect place = contentsRect().adjusted(0, 0, -m_grid.roomBehindAmounts(), 0);
+    const int spare = qMax(0, width() - minimumSizeHint().width());
+    QRect place = contentsRect().adjusted(0, 0, -qMin(m_grid.roomBehindAmounts(), spare), 0);
     const auto write = [&](const QString &text, const QFont &font, const QColor &ink) {
         painter.setFont(font);
         painter.setPen(ink);

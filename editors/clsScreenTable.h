@@ -132,6 +132,7 @@ struct clsScreenRow {
     const char *beside = nullptr; ///< a tick that stands in the line of this one, in a second column
     const char *spoken = nullptr; ///< what a screen reader says where the caption alone says too little
     QWidget *(*beneath)(QWidget *parent) = nullptr; ///< makes what stands under the field and only tells something
+    QWidget *(*behind)(QWidget *parent) = nullptr; ///< the same for what stands behind it, in the rest of its line
 };
 
 /// A page of a frame whose pages are opened one at a time.

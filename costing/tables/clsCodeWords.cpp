@@ -20,31 +20,39 @@ bool isCode(const QString &text)
     return mdScheduleOfTimeCodesCollection().contains(text);
 }
 
-/// Read with each separator, the text is the table in which the most lines have a code and words.
+/// Words with a separator in them, which have no quotes around them, still belong together.
+QString wordsIn(const QStringList &cells)
+{
+    QStringList words;
+    for (const QString &cell : cells.mid(1))
+        if (const QString part = cell.simplified(); !part.isEmpty())
+            words << part;
+    return words.join(QStringLiteral(", "));
+}
+
+bool isHeader(const clsTextTable &table)
+{
+    return !table.Rows.empty() && codeIn(table.Rows[0].Cells) == Header[0].toUpper();
+}
+
+/// Read with each separator, the text is the table with a header of two columns, else that in which the most lines have
+/// a code and words.
 clsTextTable tableOf(QStringView text)
 {
     clsTextTable best;
     qsizetype most = -1;
     for (const QChar separator : {QChar(u','), QChar(u';'), QChar(u'\t')}) {
         clsTextTable table = clsTextTable::read(text, separator);
+        if (isHeader(table) && table.Rows[0].Cells.size() > 1)
+            return table;
         const auto count = std::count_if(table.Rows.begin(), table.Rows.end(),
-            [](const clsTextRow &row) { return row.Cells.size() > 1 && isCode(codeIn(row.Cells)); });
+            [](const clsTextRow &row) { return isCode(codeIn(row.Cells)) && !wordsIn(row.Cells).isEmpty(); });
         if (count > most) {
             most = count;
             best = std::move(table);
         }
     }
     return best;
-}
-
-/// Words with a separator in them, which have no quotes around them, still belong together.
-QString wordsIn(const QStringList &cells)
-{
-    QStringList words;
-    for (const QString &cell : cells.mid(1))
-        if (const QString part = mdWithoutFormulaGuard(cell).simplified(); !part.isEmpty())
-            words << part;
-    return words.join(QStringLiteral(", "));
 }
 
 } // namespace
@@ -59,13 +67,12 @@ clsCodeWords::clsCodeWords(QStringView text)
     m_error = table.Error;
     if (!m_error.isEmpty())
         return;
-    bool isFirst = true;
+    if (isHeader(table))
+        table.Rows.erase(table.Rows.begin());
     for (clsTextRow &row : table.Rows) {
+        for (QString &cell : row.Cells)
+            cell = mdWithoutFormulaGuard(cell);
         const QString code = codeIn(row.Cells);
-        const bool isHeader = isFirst && code == Header.front().toUpper();
-        isFirst = false;
-        if (isHeader)
-            continue;
         if (isCode(code) && !m_rows.contains(code)) {
             m_rows.insert(code, std::move(row.Cells));
             continue;

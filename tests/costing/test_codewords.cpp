@@ -2,7 +2,9 @@
 
 #include "base/clsFileSystem.h"
 #include "base/mdDatabasePath.h"
+#include "costing/tables/clsTextTable.h"
 #include "costing/tables/mdCodeWordsFile.h"
+#include "formdata/mdScheduleOfTimeCodesCollection.h"
 #include "tests/support/clsFolderTest.h"
 #include "tests/support/clsScriptedUserInterface.h"
 #include "tests/support/mdTestPrinting.h"
@@ -85,6 +87,28 @@ TEST(CodeWordsTable, WhatIsWrittenIsReadAgain)
     const QByteArray written = words.asCsv();
     EXPECT_EQ(QByteArray("Code,Words\r\nHFN,\"'=Final \xE2\x80\x9Chearing\xE2\x80\x9D, \xC5\x82\"\r\n"), written);
     EXPECT_EQ(QStringLiteral("=Final \u201Chearing\u201D, \u0142"), clsCodeWords(QString::fromUtf8(written)).of(Hfn));
+}
+
+TEST(CodeWordsTable, WhatIsInTheFileComesBackAsItWas)
+{
+    const QByteArray sound = "Code;Words\r\nHFN;Final hearing\r\nACT;'=a; b\r\n\"DBL\";\"Bundle, all\"\r\nXYZ;=1\r\n";
+    unsigned seed = 1;
+    const auto next = [&seed](unsigned below) { return (seed = seed * 1664525u + 1013904223u) / 65536u % below; };
+    constexpr char Pieces[] = "\",;\t\r\n'=+-@HFNACT \0\xE9";
+    for (int round = 0; round < 5'000; ++round) {
+        QByteArray bytes = sound;
+        for (unsigned change = 0; change < next(6); ++change)
+            bytes[qsizetype(next(unsigned(bytes.size())))] = Pieces[next(sizeof Pieces - 1)];
+        const clsCodeWords words(mdTextOfTable(bytes));
+        if (!words.error().isEmpty())
+            continue;
+        const QByteArray written = words.asCsv();
+        const clsCodeWords again(mdTextOfTable(written));
+        ASSERT_EQ(QString(), again.error()) << bytes.toStdString();
+        for (const QString &code : mdScheduleOfTimeCodesCollection())
+            ASSERT_EQ(words.of(code), again.of(code)) << bytes.toStdString() << '\n' << written.toStdString();
+        ASSERT_EQ(written, again.asCsv()) << bytes.toStdString();
+    }
 }
 
 TEST_F(CodeWords, WithoutAFileThereAreNone)

@@ -5,7 +5,21 @@
 
 #include <QString>
 
+#include <functional>
+
 class clsXMLRecord;
+class clsZR3Item;
+
+/// The room that a column has. Those that share it do so by their per cents; what is added behind them has room of its
+/// own, and goes where that is missing.
+enum class clsGridRoom : unsigned char {
+    Share,
+    Rest, ///< what the others leave; the first to go
+    Amount, ///< as much as an amount needs
+};
+
+/// Gives an item's text in a column that shows none of its properties, or raises the error why there is none.
+using clsGridTexts = std::function<QString(const clsZR3Item &)>;
 
 /// One column of an `oSGrid`: what its heading says and which property of the items it shows. Whoever declares one
 /// gives the first five places, and of the others those that differ.
@@ -26,7 +40,10 @@ struct clsGridColumn {
     QString helperProperty {}; ///< the helper's property that gives it; empty for a plain property
     bool forceUnderline = false;
     QString faultOf {}; ///< the property whose fault the column shows, where it isn't its own
+    clsGridRoom room = clsGridRoom::Share;
+    /// Instead of a property: asked at each fill, for what all of its rows are then read with.
+    std::function<clsGridTexts()> texts {};
 
     /// Columns without a width carry values too, but are not seen.
-    bool isShown() const { return visible && width > 0; }
+    bool isShown() const { return visible && (width > 0 || room != clsGridRoom::Share); }
 };

@@ -36,8 +36,15 @@ private:
     int m_count;
 };
 
-QString propertyText(const clsZR3Item &item, const clsGridColumn &column)
+clsGridTexts textsOf(const clsGridColumn &column)
 {
+    return column.texts ? column.texts() : clsGridTexts();
+}
+
+QString textIn(const clsGridColumn &column, const clsZR3Item &item, const clsGridTexts &texts)
+{
+    if (texts)
+        return texts(item);
     if (column.helperProperty.isEmpty())
         return ReadProperty(item, column.property);
     if (!column.helper)
@@ -57,7 +64,7 @@ bool isOfColumn(const clsRunTimeError &error, const clsGridColumn &column)
 bool shows(const clsGridColumn &column, const QString &property)
 {
     const QString &own = column.faultOf.isEmpty() ? column.property : column.faultOf;
-    return column.isShown() && own.compare(property, Qt::CaseInsensitive) == 0;
+    return column.isShown() && !column.texts && own.compare(property, Qt::CaseInsensitive) == 0;
 }
 
 /// Why what a column shows is wrong; empty where it isn't.
@@ -112,6 +119,9 @@ void clsGridModel::fill(const clsGridItems &items)
 std::vector<clsGridModel::Row> clsGridModel::readRows(const clsGridItems &items) const
 {
     const clsFillProgress progress(int(items.size()));
+    std::vector<clsGridTexts> texts;
+    for (const clsGridColumn &column : m_columns)
+        texts.push_back(textsOf(column));
     std::vector<Row> rows;
     rows.reserve(items.size());
     for (const std::shared_ptr<clsZR3Item> &item : items) {
@@ -119,8 +129,8 @@ std::vector<clsGridModel::Row> clsGridModel::readRows(const clsGridItems &items)
         Row &row = rows.emplace_back(Row {item, item->Index, 0, {}});
         row.cells.reserve(m_columns.size());
         const clsGridFaults faults = faultsOf(*item);
-        for (const clsGridColumn &column : m_columns)
-            row.cells.push_back(readCell(*item, column, faults));
+        for (size_t column = 0; column < m_columns.size(); ++column)
+            row.cells.push_back(readCell(*item, m_columns[column], texts[column], faults));
         // What no column shows is told in the first, before what stands there: that may be the item's name.
         if (clsGridCell &first = row.cells[size_t(firstShownColumn())];
             first.kind != clsGridCell::Wrong && !whyRow(faults).isEmpty())
@@ -132,13 +142,13 @@ std::vector<clsGridModel::Row> clsGridModel::readRows(const clsGridItems &items)
 }
 
 clsGridCell clsGridModel::readCell(
-    const clsZR3Item &item, const clsGridColumn &column, const clsGridFaults &faults) const
+    const clsZR3Item &item, const clsGridColumn &column, const clsGridTexts &texts, const clsGridFaults &faults) const
 {
     const clsGridCell wrong {WrongMark, clsGridCell::Wrong};
     if (!faultIn(column, faults).isEmpty())
         return wrong;
     try {
-        return clsGridCell::of(propertyText(item, column));
+        return clsGridCell::of(textIn(column, item, texts));
     } catch (const clsRunTimeError &error) {
         if (isOfColumn(error, column))
             throw;
@@ -153,7 +163,7 @@ QString clsGridModel::whyCell(const clsZR3Item &item, const clsGridColumn &colum
     if (!fault.isEmpty())
         return fault;
     try {
-        propertyText(item, column);
+        textIn(column, item, textsOf(column));
     } catch (const clsRunTimeError &error) {
         fault = error.cause().isEmpty() ? error.description() : error.cause();
     }

@@ -72,7 +72,8 @@ private:
     };
 
     clsGridFaults faultsOf(const clsZR3Item &item) const { return m_faultsOf ? m_faultsOf(item) : clsGridFaults(); }
-    clsGridCell readCell(const clsZR3Item &item, const clsGridColumn &column, const clsGridFaults &faults) const;
+    clsGridCell readCell(const clsZR3Item &item, const clsGridColumn &column, const clsGridTexts &texts,
+        const clsGridFaults &faults) const;
     QString whyCell(const clsZR3Item &item, const clsGridColumn &column, const clsGridFaults &faults) const;
     QString whyRow(const clsGridFaults &faults) const;
     std::vector<Row> readRows(const clsGridItems &items) const;

@@ -91,6 +91,7 @@ constexpr struct {
     {"frmCommunications",          Glyph::Envelope},
     {"frmCorrespondences",         Glyph::Envelope},
     {"frmCostsLimit",              Glyph::Coins},
+    {"frmCodeWords",               Glyph::Clock},
     {"frmFamilyAdvocacyScheme",    Glyph::Scales},
     {"frmFASItemEdit",             Glyph::Scales},
     {"frmActualCostsIncurred",     Glyph::Coins},

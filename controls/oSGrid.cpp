@@ -1,6 +1,7 @@
 #include "controls/oSGrid.h"
 
 #include "controls/mdGridMetrics.h"
+#include "controls/mdGridWidths.h"
 #include "controls/mdTheme.h"
 #include "controls/oGridView.h"
 #include "controls/oOrderArrows.h"
@@ -96,6 +97,16 @@ int oSGrid::roomForArrows() const
     return m_orderable ? layout()->spacing() + m_arrows->sizeHint().width() : 0;
 }
 
+int oSGrid::roomBehindAmounts() const
+{
+    const std::vector<clsGridColumn> &columns = m_model->columns();
+    if (columns.empty() || columns.back().room != clsGridRoom::Amount
+        || m_view->isColumnHidden(int(columns.size()) - 1))
+        return 0;
+    const QScrollBar &bar = *m_view->verticalScrollBar();
+    return m_view->frameWidth() + (bar.isVisible() ? bar.width() : 0) + Theme::Space8;
+}
+
 bool oSGrid::MultiSelect() const
 {
     return m_view->selectionMode() == QAbstractItemView::ExtendedSelection;
@@ -161,11 +172,15 @@ void oSGrid::drawColumns()
 void oSGrid::setColumnWidths()
 {
     const int barAndFrame = m_view->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2 * m_view->frameWidth();
-    const double share = (m_view->width() - std::max(ScrollBarRoom, barAndFrame)) / 100.0;
     const std::vector<clsGridColumn> &columns = m_model->columns();
-    for (size_t column = 0; column < columns.size(); ++column)
-        if (columns[column].isShown())
-            m_view->setColumnWidth(int(column), std::max(0, qRound(share * columns[column].width)));
+    const std::vector<int> widths = mdGridWidths(columns, m_view->width() - std::max(ScrollBarRoom, barAndFrame));
+    for (size_t column = 0; column < columns.size(); ++column) {
+        if (!columns[column].isShown())
+            continue;
+        m_view->setColumnWidth(int(column), widths[column]);
+        if (columns[column].room != clsGridRoom::Share)
+            m_view->setColumnHidden(int(column), widths[column] == 0);
+    }
 }
 
 void oSGrid::Redraw(bool keepInView)

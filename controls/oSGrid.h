@@ -27,6 +27,8 @@ public:
     void setOrderable(bool orderable);
     /// The room at the right of the rows, which the arrows take.
     int roomForArrows() const;
+    /// How far from the right edge of the rows the amounts of the last column end; 0 where no such column is shown.
+    int roomBehindAmounts() const;
     /// The menu of the window that a right click on a row pops up, by its object name.
     const QString &PopupMenuName() const { return m_popupMenuName; }
     void setPopupMenuName(const QString &name) { m_popupMenuName = name; }

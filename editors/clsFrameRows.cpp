@@ -23,6 +23,7 @@ constexpr int SecondColumnGap = 80;
 /// it goes below the rows.
 constexpr int ListStretch = 1;
 constexpr int BoxStretch = 1000;
+constexpr int BehindStretch = 1000;
 
 /// The rows that take whatever height is left over and, below their captions, the whole width.
 bool growsWithWindow(const clsScreenRow &row)
@@ -152,6 +153,8 @@ void clsFrameRows::addControl(const clsScreenRow &row)
         addBelowCaption(row, control, true);
     else
         addBesideCaption(row, control);
+    if (row.behind)
+        addBehind(row);
     if (row.beneath) {
         addSpace(BeneathGap);
         m_grid->addWidget(row.beneath(&m_frame), m_line++, 1);
@@ -160,6 +163,13 @@ void clsFrameRows::addControl(const clsScreenRow &row)
         oBoxNote::PutBeneath(*control);
         addSpace(oBoxNote::lineBeneath());
     }
+}
+
+/// In all that the stretch at the end would take.
+void clsFrameRows::addBehind(const clsScreenRow &row)
+{
+    m_cell->insertSpacing(m_cell->count() - 1, Theme::Space12);
+    m_cell->insertWidget(m_cell->count() - 1, row.behind(&m_frame), BehindStretch);
 }
 
 void clsFrameRows::addAnswer(const clsScreenRow &row, QWidget *control)

@@ -27,6 +27,7 @@ private:
     void addSeparator();
     void addQuestion(const clsScreenRow &row);
     void addControl(const clsScreenRow &row);
+    void addBehind(const clsScreenRow &row);
     void addAnswer(const clsScreenRow &row, QWidget *control);
     void addToRowBefore(const clsScreenRow &row, QWidget *control);
     void addBelowCaption(const clsScreenRow &row, QWidget *control, bool captioned);

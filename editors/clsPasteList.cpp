@@ -2,6 +2,20 @@
 
 #include "formdata/mdRecordInWords.h"
 
+namespace {
+
+/// What an item has by itself, and not its place in the claim.
+template <std::span<const clsTableColumn> (*Columns)()> QStringList ownNames()
+{
+    QStringList names;
+    for (const clsTableColumn &column : Columns())
+        if (column.kind != clsCellKind::Passed)
+            names << QString::fromLatin1(column.property);
+    return names;
+}
+
+} // namespace
+
 const clsPasteList &mdPasteSchedule()
 {
     static const clsPasteList list {
@@ -19,15 +33,20 @@ const clsPasteList &mdPasteDisbursements()
         .section = "Other Disbursements",
         .import = mdDisbursementsImport,
         .table = "disbursements",
-        .copied =
-            [] {
-                QStringList names;
-                for (const clsTableColumn &column : mdDisbursementColumns())
-                    if (column.kind != clsCellKind::Passed)
-                        names << QString::fromLatin1(column.property);
-                return names;
-            },
+        .copied = ownNames<mdDisbursementColumns>,
         .total = "amount",
+    };
+    return list;
+}
+
+const clsPasteList &mdPasteExperts()
+{
+    static const clsPasteList list {
+        .section = "Expert Invoices",
+        .import = mdExpertsImport,
+        .table = "experts",
+        .copied = ownNames<mdExpertColumns>,
+        .total = "netamount",
     };
     return list;
 }

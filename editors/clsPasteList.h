@@ -17,6 +17,7 @@ struct clsPasteList {
 
 const clsPasteList &mdPasteSchedule();
 const clsPasteList &mdPasteDisbursements();
+const clsPasteList &mdPasteExperts();
 /// Letters and calls are counted. Ctrl+Shift+C would be one of the keys that count there.
 const clsPasteList &mdPasteCommunications();
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/clsGridAlignment.h"
+#include "controls/clsGridColumn.h"
 #include "controls/mdIcons.h"
 #include "costing/mdFigureFaults.h"
 #include "editors/mdListTotals.h"
@@ -66,6 +66,8 @@ struct clsItemColumn {
     clsGridAlignment alignment = clsGridAlignment::Left; ///< of the heading and the cells
     bool sortKey = false; ///< the grid sorts its rows by the text of this column
     const char *faultOf = ""; ///< the property whose fault the column shows, where it isn't its own
+    clsGridRoom room = clsGridRoom::Share;
+    clsGridTexts (*texts)() = nullptr; ///< instead of a property: made at each drawing of the list
 };
 
 /// An entry of a list's pop-up menu beside "Delete".
@@ -130,6 +132,7 @@ struct clsScreenRow {
     const char *beside = nullptr; ///< a tick that stands in the line of this one, in a second column
     const char *spoken = nullptr; ///< what a screen reader says where the caption alone says too little
     QWidget *(*beneath)(QWidget *parent) = nullptr; ///< makes what stands under the field and only tells something
+    QWidget *(*behind)(QWidget *parent) = nullptr; ///< the same for what stands behind it, in the rest of its line
 };
 
 /// A page of a frame whose pages are opened one at a time.

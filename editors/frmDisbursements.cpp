@@ -37,6 +37,7 @@ const clsItemList ExpertInvoices {
     .menu = "mnuExpertInvoices",
     .deleteEntry = "mnuDeleteExpertInvoice",
     .total = mdExpertsListTotal,
+    .paste = mdPasteExperts,
 };
 
 const clsItemList JointInstructions {

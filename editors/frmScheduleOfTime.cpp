@@ -3,6 +3,7 @@
 #include "controls/oSGrid.h"
 #include "editors/clsPasteList.h"
 #include "editors/frmSection.h"
+#include "editors/mdItemAmounts.h"
 #include "editors/mdItemFaults.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
@@ -35,6 +36,9 @@ const clsItemList ScheduleItems {
         {"Trv",        "Travel",                9, clsGridAlignment::Centre},
         {"Wtg",        "Waiting",               9, clsGridAlignment::Centre},
         {"Enh",        "IncludeInEnhancements", 9, clsGridAlignment::Centre, false, "EnhancementUniqueID"},
+        {.caption = "Description", .property = "Description", .room = clsGridRoom::Rest},
+        {.caption = "Amount", .property = "", .alignment = clsGridAlignment::Right, .room = clsGridRoom::Amount,
+         .texts = mdScheduleAmounts},
     },
     .called = {"DDate", "Code", "TTime"},
     .told = {"DDate", "FeeEarnerReference", "Code", "TTime"},

@@ -6,6 +6,7 @@
 #include "editors/frmSection.h"
 #include "editors/mdCheckForBlanks.h"
 #include "editors/oCodeCombo.h"
+#include "editors/oCodeNote.h"
 #include "editors/oEnhancementsBox.h"
 #include "editors/oFeeEarnerCombo.h"
 #include "editors/oPriceLine.h"
@@ -113,6 +114,7 @@ void rules(frmSection &screen)
             time.setText(QStringLiteral("00:00"));
     });
     screen.findChild<oPriceLine *>()->Follow(screen);
+    screen.findChild<oCodeNote *>()->Follow(screen.Box<oCodeCombo>("cmbCode"));
 }
 
 } // namespace
@@ -136,7 +138,8 @@ const clsScreen &ScreenScheduleOfTimeItemEdit()
                  .other = &FeeEarner},
                 {.kind = Date,  .control = "txtDate", .caption = "Date:*", .flags = DateTick | Kept,
                  .member = "dDate"},
-                {.kind = Other, .control = "cmbCode", .caption = "Code:*", .other = &Code},
+                {.kind = Other, .control = "cmbCode", .caption = "Code:*", .other = &Code,
+                 .behind = [](QWidget *parent) -> QWidget * { return new oCodeNote(parent); }},
                 {.kind = Text,  .control = "txtDescription", .caption = "Description:", .flags = SpellCheck},
                 {.kind = Time,  .control = "txtTime", .caption = "Time:*", .member = "TTime",
                  .beneath = [](QWidget *parent) -> QWidget * { return new oPriceLine(parent); }},

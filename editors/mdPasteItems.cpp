@@ -6,6 +6,7 @@
 #include "commands/clsJournal.h"
 #include "controls/mdLeaveFocusedBox.h"
 #include "controls/mdShowModal.h"
+#include "controls/oContentSwitcher.h"
 #include "controls/oSGrid.h"
 #include "costing/tables/mdClaimTable.h"
 #include "costing/tables/mdCsv.h"
@@ -85,13 +86,18 @@ struct clsTakingList {
     oSGrid *grid = nullptr;
 };
 
+/// That of the open page; where it takes none, the screen's last.
 clsTakingList takingListOf(const frmSection &screen)
 {
+    clsTakingList last;
     for (const clsScreenField &field : screen.Fields())
         if (field.row->kind == clsRowKind::Items && field.row->items->paste)
-            if (auto *grid = qobject_cast<oSGrid *>(field.control))
-                return {field.row->items, grid};
-    return {};
+            if (auto *grid = qobject_cast<oSGrid *>(field.control)) {
+                last = {field.row->items, grid};
+                if (field.page == 0 || screen.Switcher().OpenPage() == field.page)
+                    return last;
+            }
+    return last;
 }
 
 /// What follows a new item of the list, as after "Add".
@@ -164,17 +170,20 @@ QString mdCopiedInWords(const clsPasteList &list, int count)
 
 void mdOfferPaste(frmSection &screen, clsEditCommands &commands, const std::function<void(const QString &)> &tell)
 {
-    const clsTakingList list = takingListOf(screen);
-    if (!list.items)
+    if (!takingListOf(screen).items)
         return;
-    const auto taking = [&screen, list](void (*take)(const clsPasteList &, const clsPasted &)) {
-        return [&screen, list, take] {
+    const auto taking = [&screen](void (*take)(const clsPasteList &, const clsPasted &)) {
+        return [&screen, take] {
+            const clsTakingList list = takingListOf(screen);
             if (mdLeaveFocusedBox(&screen))
                 take(list.items->paste(), [&screen, list] { showPasted(screen, list); });
         };
     };
     commands.paste = taking(mdPasteItems);
     commands.import = taking(mdImportItems);
-    commands.copyList = [list, tell] { tell(mdCopiedInWords(list.items->paste(), mdCopyList(list.items->paste()))); };
-    commands.hasCopyKey = list.items->paste().hasCopyKey;
+    commands.copyList = [&screen, tell] {
+        const clsPasteList &list = takingListOf(screen).items->paste();
+        tell(mdCopiedInWords(list, mdCopyList(list)));
+    };
+    commands.hasCopyKey = takingListOf(screen).items->paste().hasCopyKey;
 }

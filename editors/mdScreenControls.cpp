@@ -68,8 +68,10 @@ QWidget *makeGrid(const clsScreenRow &row, QWidget *parent)
             .width = column.width,
             .property = QString::fromUtf8(column.property),
             .sortKey = column.sortKey,
-            .visible = column.width > 0,
-            .faultOf = QString::fromUtf8(column.faultOf)});
+            .visible = column.width > 0 || column.room != clsGridRoom::Share,
+            .faultOf = QString::fromUtf8(column.faultOf),
+            .room = column.room,
+            .texts = column.texts});
     if (row.items->faults)
         grid->setFaultReader([faultsOf = row.items->faults](const clsZR3Item &item) {
             clsGridFaults faults;

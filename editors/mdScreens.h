@@ -39,6 +39,7 @@ const clsScreen &ScreenJointInstructionEdit();
 const clsScreen &ScreenFASItemEdit();
 const clsScreen &ScreenCorrespondences();
 const clsScreen &ScreenCostsLimit();
+const clsScreen &ScreenCodeWords();
 const clsScreen &ScreenReplacementEdit();
 const clsScreen &ScreenPreferencesRateSetEdit();
 

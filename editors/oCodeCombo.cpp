@@ -2,7 +2,7 @@
 
 #include "controls/mdLeaveFocusedBox.h"
 #include "controls/mdTheme.h"
-#include "formdata/clsZR3ScheduleOfTimeItem.h"
+#include "editors/clsCodeList.h"
 #include "formdata/mdScheduleOfTimeCodesCollection.h"
 
 #include <QFocusEvent>
@@ -13,16 +13,6 @@ namespace {
 
 constexpr int BoxWidth = 112;
 constexpr int LengthOfCode = 3;
-
-/// The caption of the bill's column in which the work of a code stands.
-QString columnOf(const QString &code)
-{
-    switch (clsZR3ScheduleOfTimeItem::ColumnOfCode(code)) {
-    case clsZR3ScheduleOfTimeItem::Documents: return QStringLiteral("Docs");
-    case clsZR3ScheduleOfTimeItem::Hearings: return QStringLiteral("Hrng");
-    default: return QStringLiteral("Att / Conf");
-    }
-}
 
 } // namespace
 
@@ -36,10 +26,9 @@ oCodeCombo::oCodeCombo(QWidget *parent)
     setMinimumContentsLength(LengthOfCode);
     // Qt's completes with the first code that fits, and so makes a code of every letter.
     setCompleter(nullptr);
-    for (const QString &code : mdScheduleOfTimeCodesCollection()) {
-        addItem(code);
-        setItemData(count() - 1, columnOf(code), Qt::ToolTipRole);
-    }
+    addItems(mdScheduleOfTimeCodesCollection());
+    m_list = new clsCodeList(*this);
+    connect(m_list, &clsCodeList::WordsChanged, this, &oCodeCombo::WordsChanged);
     connect(this, &QComboBox::editTextChanged, this, &oCodeCombo::explain);
     setCode(FirstCode());
     mdGuardFocusedBoxes();
@@ -55,7 +44,19 @@ void oCodeCombo::setCode(const QString &code)
 void oCodeCombo::explain()
 {
     const bool isCode = mdScheduleOfTimeCodesCollection().contains(Code());
-    setToolTip(isCode ? columnOf(Code()) : QString());
+    setToolTip(isCode ? clsCodeList::ColumnOf(Code()) : QString());
+}
+
+QString oCodeCombo::InWords() const
+{
+    return m_list->InWords(Code().toUpper());
+}
+
+void oCodeCombo::showPopup()
+{
+    m_list->MakeRoom();
+    QComboBox::showPopup();
+    m_list->ShowFoot();
 }
 
 bool oCodeCombo::leave()

@@ -31,6 +31,7 @@ int widthOf(const QFont &font, const QString &text)
 oListTotal::oListTotal(clsListTotal (*total)(), oSGrid &grid, QWidget *parent)
     : QWidget(parent)
     , m_total(total)
+    , m_grid(grid)
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_renewal.setSingleShot(true);
@@ -68,7 +69,8 @@ void oListTotal::showEvent(QShowEvent *event)
 
 QSize oListTotal::sizeHint() const
 {
-    return minimumSizeHint() + QSize(widthOf(Theme::font(-1), m_counted) + Theme::scaled(Gap), 0);
+    const int counted = widthOf(Theme::font(-1), m_counted) + Theme::scaled(Gap);
+    return minimumSizeHint() + QSize(counted + m_grid.roomBehindAmounts(), 0);
 }
 
 QSize oListTotal::minimumSizeHint() const
@@ -82,7 +84,8 @@ QSize oListTotal::minimumSizeHint() const
 void oListTotal::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    QRect place = contentsRect();
+    const int spare = qMax(0, width() - minimumSizeHint().width());
+    QRect place = contentsRect().adjusted(0, 0, -qMin(m_grid.roomBehindAmounts(), spare), 0);
     const auto write = [&](const QString &text, const QFont &font, const QColor &ink) {
         painter.setFont(font);
         painter.setPen(ink);

@@ -32,6 +32,7 @@ private:
     void renew();
 
     clsListTotal (*m_total)();
+    const oSGrid &m_grid;
     QTimer m_renewal; ///< once what the claim derives from its lists has been brought up to date
     QString m_counted;
     QString m_figure;

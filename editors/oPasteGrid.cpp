@@ -9,6 +9,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QSignalBlocker>
 
 namespace {
 
@@ -68,8 +69,8 @@ oPasteGrid::oPasteGrid(clsPasteModel &model, QWidget *parent)
     });
     connect(&m_model, &QAbstractItemModel::modelReset, this, &oPasteGrid::shareWidth);
     connect(&m_model, &QAbstractItemModel::dataChanged, this, [this](const QModelIndex &from, const QModelIndex &to) {
-        for (int row = from.row(); m_notesBeneath && row <= to.row(); ++row)
-            fitRow(row);
+        if (m_notesBeneath)
+            fitRows(from.row(), to.row());
     });
 }
 
@@ -97,10 +98,25 @@ void oPasteGrid::shareWidth()
     setColumnHidden(note, beneath);
     if (beneath || m_notesBeneath) {
         m_notesBeneath = beneath;
-        for (int row = 0; row < m_model.rowCount(); ++row)
-            fitRow(row);
+        fitRows(0, m_model.rowCount() - 1);
     }
     m_headings->Place();
+}
+
+/// Of many rows, in one go: a header that shows each change looks for the place of all rows each time.
+void oPasteGrid::fitRows(int first, int last)
+{
+    if (first == last)
+        return fitRow(first);
+    QHeaderView &heights = *verticalHeader();
+    {
+        const QSignalBlocker inBulk(&heights);
+        heights.setUpdatesEnabled(false);
+        for (int row = first; row <= last; ++row)
+            fitRow(row);
+        heights.setUpdatesEnabled(true);
+    }
+    doItemsLayout();
 }
 
 void oPasteGrid::fitRow(int row)

@@ -31,6 +31,7 @@ protected:
 private:
     void tickChosen();
     void shareWidth();
+    void fitRows(int first, int last);
     void fitRow(int row);
 
     clsPasteModel &m_model;

@@ -9,6 +9,7 @@
 #include <QHash>
 
 #include <memory>
+#include <utility>
 #include <vector>
 
 /// The items of one list element, in the order of the file, with the look-ups by place, by order and by identity.
@@ -49,9 +50,9 @@ public:
         m_items.clear();
         for (const pugi::xml_node child : listNode.children())
             if (child.type() == pugi::node_element) {
-                const auto item = std::make_shared<Item>(arguments...);
+                auto item = std::make_shared<Item>(arguments...);
                 item->takeOver(child);
-                take(item);
+                take(std::move(item));
             }
         reindex();
     }
@@ -59,13 +60,16 @@ public:
     /// Appends a new item with the template's defaults, as the last in order.
     template <class... Arguments> const Pointer &add(Arguments &...arguments)
     {
-        const Pointer item = std::make_shared<Item>(arguments...);
-        item->appendTo(m_node);
-        take(item);
+        Pointer made = std::make_shared<Item>(arguments...);
+        made->appendTo(m_node);
+        take(std::move(made));
+        // The others keep their places: many are added without a walk along all of them for each.
+        const Pointer &item = m_items.back();
+        item->Index = count();
         if constexpr (requires { item->OrderID; })
             item->OrderID = count();
-        reindex();
-        return m_items.back();
+        m_keysChanged = true;
+        return item;
     }
 
     /// A new item with the template's defaults that stands in no list and in no tree of a claim.
@@ -126,9 +130,9 @@ public:
                 m_items.push_back(std::move(*next++));
                 continue;
             }
-            const auto item = std::make_shared<Item>(arguments...);
+            auto item = std::make_shared<Item>(arguments...);
             item->takeOver(child);
-            take(item);
+            take(std::move(item));
         }
         reindex();
     }
@@ -180,12 +184,12 @@ private:
             item->release();
     }
 
-    void take(const Pointer &item)
+    void take(Pointer item)
     {
         if (m_handedOut)
             item->forgetElements();
         item->reportKeyWritesTo(&m_keysChanged);
-        m_items.push_back(item);
+        m_items.push_back(std::move(item));
     }
 
     void reindex()

@@ -2,11 +2,13 @@
 
 #include "base/mdCustomMessages.h"
 
-QStringList mdScheduleOfTimeCodesCollection()
+const QStringList &mdScheduleOfTimeCodesCollection()
 {
-    return QStringLiteral("ACL ACO ACT AEX AOS AOT ASI ASO AWI DAF DAG DAN DAP DBL DCN DFL DIC DNO DOT DPL DST HDI HFN "
-                          "HIN HOT OOT RES REX RMD ROP ROT RWE")
-        .split(u' ');
+    static const QStringList codes
+        = QStringLiteral("ACL ACO ACT AEX AOS AOT ASI ASO AWI DAF DAG DAN DAP DBL DCN DFL DIC DNO DOT DPL DST HDI HFN "
+                         "HIN HOT OOT RES REX RMD ROP ROT RWE")
+              .split(u' ');
+    return codes;
 }
 
 bool mdCheckScheduleOfTimeCode(const QString &code)

@@ -39,6 +39,11 @@ void storeDisbursement(Form &form, const clsImportedRow &row)
     storeInto(*form.AddDisbursement(), mdDisbursementColumns(), row);
 }
 
+void storeExpertInvoice(Form &form, const clsImportedRow &row)
+{
+    storeInto(*form.AddExpertInvoice(), mdExpertColumns(), row);
+}
+
 QString communicationsCell(const clsImportedRow &row, const char *column)
 {
     return row.Cells[size_t(mdColumnOf(mdCommunicationsColumns(), QString::fromLatin1(column)))].Value;
@@ -96,6 +101,17 @@ const clsImportList &mdDisbursementsImport()
         .items = "disbursements",
         .store = storeDisbursement,
         .changed = [](Form &form) { form.SeparateCounselAndNonCounselDisbursements(); },
+    };
+    return list;
+}
+
+const clsImportList &mdExpertsImport()
+{
+    static const clsImportList list {
+        .columns = mdExpertColumns(),
+        .figures = {},
+        .items = "experts",
+        .store = storeExpertInvoice,
     };
     return list;
 }

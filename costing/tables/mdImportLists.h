@@ -17,5 +17,6 @@ struct clsImportList {
 
 const clsImportList &mdScheduleImport();
 const clsImportList &mdDisbursementsImport();
+const clsImportList &mdExpertsImport();
 /// Letters and calls are counted: each row adds to the counts of its fee earner.
 const clsImportList &mdCommunicationsImport();

@@ -31,6 +31,21 @@ constexpr clsTableColumn DisbursementColumns[] = {
     {"vat",                   "VAT",                   clsCellKind::AmountIfAny},
 };
 
+constexpr clsTableColumn ExpertColumns[] = {
+    {"orderid",                   "OrderID",                   clsCellKind::Passed},
+    {"expertgroup",               "ExpertGroup",               clsCellKind::Text, true},
+    {"experttype",                "ExpertType",                clsCellKind::Text, true},
+    {"priorauthorityobtained",    "PriorAuthorityObtained",    clsCellKind::Tick},
+    {"preparationhourlyrate",     "PreparationHourlyRate",     clsCellKind::AmountIfAny},
+    {"totalprepcost",             "TotalPrepCost",             clsCellKind::AmountIfAny},
+    {"courtattendancehourlyrate", "CourtAttendanceHourlyRate", clsCellKind::AmountIfAny},
+    {"totalcourtcost",            "TotalCourtCost",            clsCellKind::AmountIfAny},
+    {"traveltimecosts",           "TravelTimeCosts",           clsCellKind::AmountIfAny},
+    {"othercosts",                "OtherCosts",                clsCellKind::AmountIfAny},
+    {"netamount",                 "NetAmount",                 clsCellKind::Amount, true},
+    {"vatamount",                 "VATAmount",                 clsCellKind::AmountIfAny},
+};
+
 // The properties are those of a fee earner, so that the list of fee earners can be read too.
 constexpr clsTableColumn CommunicationsColumns[] = {
     {"orderid",               "OrderID",               clsCellKind::Passed},
@@ -73,6 +88,11 @@ std::span<const char *const> mdScheduleFigures()
 std::span<const clsTableColumn> mdDisbursementColumns()
 {
     return DisbursementColumns;
+}
+
+std::span<const clsTableColumn> mdExpertColumns()
+{
+    return ExpertColumns;
 }
 
 std::span<const clsTableColumn> mdCommunicationsColumns()

@@ -38,6 +38,8 @@ std::span<const char *const> mdScheduleFigures();
 
 /// The columns of the disbursements.
 std::span<const clsTableColumn> mdDisbursementColumns();
+/// Those of the experts' invoices.
+std::span<const clsTableColumn> mdExpertColumns();
 /// Those of letters and calls: a row counts one of a kind, or so many, or tells how many there are of each kind.
 std::span<const clsTableColumn> mdCommunicationsColumns();
 

@@ -11,9 +11,11 @@
 #include "controls/oDecimalBox.h"
 #include "costing/comparing/mdChangesInWords.h"
 #include "costing/comparing/mdCompareClaims.h"
+#include "costing/tables/clsCodeWords.h"
 #include "editors/clsPasteList.h"
 #include "editors/frmPasteItems.h"
 #include "editors/frmSection.h"
+#include "editors/mdEditCodeWords.h"
 #include "editors/mdEditCostsLimit.h"
 #include "editors/mdEditedForm.h"
 #include "editors/mdScreens.h"
@@ -231,6 +233,22 @@ void takePasteItems(clsPictures &pictures, frmMain &main)
     pictures.take(window, window.objectName());
 }
 
+/// The window in which the firm's words for the codes are changed.
+void takeCodeWords(clsPictures &pictures, frmMain &main)
+{
+    clsCodeWords words;
+    for (const auto &[code, said] :
+        {std::pair("ACL", "Attending client"), {"ACT", "Attending court"}, {"DBL", "Preparing the bundle"},
+            {"HDI", "Directions hearing"}, {"HFN", "Final hearing"}, {"REX", "Expert's report"}})
+        words.set(QString::fromLatin1(code), QString::fromLatin1(said));
+    QTimer::singleShot(300, &main, [&] {
+        QWidget *screen = QApplication::activeModalWidget();
+        pictures.take(*screen, screen->objectName());
+        static_cast<QDialog *>(screen)->done(QDialog::Rejected);
+    });
+    mdEditCodeWords(&main, words);
+}
+
 /// The sign at a box whose text is printed smaller.
 void takePrintSign(clsPictures &pictures, frmMain &main)
 {
@@ -355,6 +373,7 @@ bool takeAll(const QString &claim, const QString &folder)
     takeNotice(pictures, main);
     takeCompare(pictures, main);
     takeCostsLimit(pictures, main);
+    takeCodeWords(pictures, main);
     takePasteItems(pictures, main);
     main.PreviewAdditionalInformation();
     pictures.take(main, QStringLiteral("frmMain-notes"));

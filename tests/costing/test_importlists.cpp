@@ -21,6 +21,11 @@ protected:
     }
 };
 
+class ImportExperts : public clsClaimTest {
+protected:
+    clsImportedRows read(const QString &text) const { return clsImportedRows(form, mdExpertsImport(), text); }
+};
+
 class ImportCommunications : public clsClaimTest {
 protected:
     void SetUp() override
@@ -90,6 +95,43 @@ TEST_F(ImportDisbursements, WhatTheTableOfAClaimHoldsIsKnownAgain)
         EXPECT_TRUE(mdCompareClaims(full, emptied).Totals.empty()) << name.toStdString();
     }
     EXPECT_GT(items, 50);
+}
+
+TEST_F(ImportExperts, AreStoredAsTheirBoxesReadThem)
+{
+    const clsImportedRows rows = read("Expert Group,Expert Type,Prior Authority Obtained,Net Amount,VAT Amount\n"
+                                      "Surveying,Surveyor,yes,£450,90\nMedical,\"Doctor, GP\",,12.5,\n"_q);
+    EXPECT_EQ(QString(), rows.error());
+    EXPECT_EQ(2, rows.appendTo(form));
+    const auto first = form.ExpertInvoice(1);
+    EXPECT_EQ("Surveying|Surveyor|450.00|90.00|0.00"_q,
+        QStringList(
+            {first->ExpertGroup(), first->ExpertType(), first->NetAmount(), first->VATAmount(), first->TotalPrepCost()})
+            .join(u'|'));
+    EXPECT_TRUE(first->PriorAuthorityObtained());
+    EXPECT_EQ("Doctor, GP"_q, form.ExpertInvoice(2)->ExpertType());
+    EXPECT_EQ("12.50"_q, form.ExpertInvoice(2)->NetAmount());
+    EXPECT_EQ("The table lacks a column: netamount"_q, read("expertgroup,experttype\na,b\n"_q).error());
+}
+
+TEST_F(ImportExperts, WhatTheTableOfAClaimHoldsIsKnownAgain)
+{
+    int items = 0;
+    for (const QString &name : QDir(mdSampleFolder()).entryList({"*.zr3"_q}, QDir::Files)) {
+        clsZR3Form full;
+        clsZR3Form emptied;
+        ASSERT_TRUE(full.LoadXML(mdSamplePath(name)));
+        ASSERT_TRUE(emptied.LoadXML(mdSamplePath(name)));
+        while (!emptied.ExpertInvoicesCollection().empty())
+            emptied.DeleteExpertInvoice(1);
+        const QString csv = mdTextOfTable(mdTableAsCsv(*mdClaimTable(full, u"experts")));
+        EXPECT_EQ(0, clsImportedRows(full, mdExpertsImport(), csv).chosen()) << name.toStdString();
+        items += clsImportedRows(emptied, mdExpertsImport(), csv).appendTo(emptied);
+        EXPECT_EQ(full.ExpertInvoicesCollection().size(), emptied.ExpertInvoicesCollection().size())
+            << name.toStdString();
+        EXPECT_TRUE(mdCompareClaims(full, emptied).Totals.empty()) << name.toStdString();
+    }
+    EXPECT_GT(items, 20);
 }
 
 TEST_F(ImportCommunications, AreCounted)

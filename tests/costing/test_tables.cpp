@@ -76,6 +76,7 @@ TEST_F(Tables, HaveAllThatAnItemHas)
     };
     check(mdScheduleColumns(), *claim.addItem(feeEarner, "01:00"));
     check(mdDisbursementColumns(), *claim.addDisbursement("1.00", "0.00"));
+    check(mdExpertColumns(), *form.AddExpertInvoice());
 }
 
 TEST_F(Tables, ItemsStandInTheirOrder)

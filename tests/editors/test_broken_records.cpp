@@ -112,8 +112,8 @@ TEST_F(BrokenRecords, TheScheduleShowsWhatIsWrongAndFollowsEveryChange)
     item->IncludeInEnhancements = true;
     const auto screen = opened(QStringLiteral("Schedule of Time"));
     auto &grid = screen->Box<oSGrid>("sgScheduleOfTime");
-    EXPECT_EQ(QStringList({QStringLiteral("!|01/02/26|20260201|DOT|!|\u2717|\u2717|\u2717|\u2717|!"),
-                  QStringLiteral("1|02/02/26|20260202|DOT|01:00|\u2717|\u2717|\u2717|\u2717|\u2717")}),
+    EXPECT_EQ(QStringList({QStringLiteral("!|01/02/26|20260201|DOT|!|\u2717|\u2717|\u2717|\u2717|!||!"),
+                  QStringLiteral("1|02/02/26|20260202|DOT|01:00|\u2717|\u2717|\u2717|\u2717|\u2717||0.00")}),
         rows(grid));
     EXPECT_EQ(QStringLiteral("Schedule item 1 names a fee earner that no longer exists"), described(grid, 0));
     EXPECT_EQ(QStringLiteral("Schedule item 1 has no time"), described(grid, 4));
@@ -137,6 +137,7 @@ TEST_F(BrokenRecords, TheScheduleShowsWhatIsWrongAndFollowsEveryChange)
     grid.Redraw(true);
     EXPECT_TRUE(rows(grid).first().startsWith(QLatin1String("! 1|01/02/26|"))) << rows(grid).first().toStdString();
     EXPECT_EQ(QStringLiteral("Schedule item 1: the hourly rate of group PTR is not an amount"), described(grid, 0));
+    EXPECT_EQ(QStringLiteral("Schedule item 1: the hourly rate of group PTR is not an amount"), described(grid, 11));
 }
 
 TEST_F(BrokenRecords, TheReasonNamesTheItemByTheNumberThatItHasNow)

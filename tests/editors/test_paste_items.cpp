@@ -1,4 +1,6 @@
 #include "base/mdStateFile.h"
+#include "controls/mdGridMetrics.h"
+#include "controls/oContentSwitcher.h"
 #include "controls/oCustomButton.h"
 #include "editors/clsPasteList.h"
 #include "editors/clsPasteModel.h"
@@ -392,6 +394,7 @@ TEST_F(PasteItems, DisbursementsAreCopiedAndPasted)
     item->Amount = QStringLiteral("255.00");
     item->VAT = QStringLiteral("0.00");
     open("Disbursements");
+    screen->Switcher().SwitchTo(4);
     entry(*screen, "mnuCopyList").trigger();
     Form->DeleteDisbursement(1);
     screen->RedrawLists();
@@ -403,6 +406,36 @@ TEST_F(PasteItems, DisbursementsAreCopiedAndPasted)
     EXPECT_EQ(QStringLiteral("Court fee"), Form->Disbursement(1)->Description());
     EXPECT_EQ(QStringLiteral("255.00"), Form->Disbursement(1)->Amount());
     EXPECT_EQ(1u, Form->NonCounselDisbursementsCollection().size()) << "what the claim derives from them";
+}
+
+TEST_F(PasteItems, OnTheExpertsPageInvoicesAreCopiedAndPasted)
+{
+    const auto invoice = Form->AddExpertInvoice();
+    invoice->ExpertGroup = QStringLiteral("Surveying");
+    invoice->ExpertType = QStringLiteral("Surveyor");
+    invoice->PriorAuthorityObtained = true;
+    invoice->TotalPrepCost = QStringLiteral("300.00");
+    invoice->NetAmount = QStringLiteral("450.00");
+    invoice->VATAmount = QStringLiteral("90.00");
+    open("Disbursements");
+    ASSERT_EQ(1, screen->Switcher().OpenPage());
+    entry(*screen, "mnuCopyList").trigger();
+    Form->DeleteExpertInvoice(1);
+    screen->RedrawLists();
+    paste([](frmPasteItems &found) {
+        EXPECT_EQ(QStringLiteral("450.00"), found.findChild<QLabel *>(QStringLiteral("lblTotal"))->text());
+        pressEnter(found);
+    });
+    EXPECT_EQ(0u, Form->DisbursementsCollection().size());
+    ASSERT_EQ(1u, Form->ExpertInvoicesCollection().size());
+    const auto again = Form->ExpertInvoice(1);
+    EXPECT_EQ(QStringLiteral("Surveying, Surveyor, 300.00, 450.00, 90.00"),
+        QStringList(
+            {again->ExpertGroup(), again->ExpertType(), again->TotalPrepCost(), again->NetAmount(), again->VATAmount()})
+            .join(QStringLiteral(", ")));
+    EXPECT_TRUE(again->PriorAuthorityObtained());
+    EXPECT_EQ(1, screen->Switcher().OpenPage());
+    EXPECT_EQ(QStringLiteral("Paste 1 item"), Document().history.undoName());
 }
 
 TEST_F(PasteItems, LettersAndCallsAreCounted)
@@ -487,4 +520,22 @@ TEST_F(PasteItems, TenThousandRowsAreQuick)
     press(Qt::Key_Space);
     EXPECT_EQ(0, window->Rows().chosen());
     EXPECT_LT(clock.elapsed(), 1000);
+}
+
+TEST_F(PasteItems, ManyWrongRowsAreQuickInANarrowWindowToo)
+{
+    constexpr int Many = 99'999;
+    QString table = QStringLiteral("Date\tFee Earner\tCode\tTime\tDescription\n");
+    for (int n = 0; n < Many; ++n)
+        table += QStringLiteral("17/09/25\tJPR\tQQQ\t0:36\tAttending client %1\n").arg(n);
+    QElapsedTimer clock;
+    clock.start();
+    look(table);
+    window->resize(700, 500);
+    QCoreApplication::processEvents();
+    window->grab();
+    EXPECT_LT(clock.elapsed(), 6000);
+    EXPECT_TRUE(pasted().isColumnHidden(cells().columnCount() - 1));
+    EXPECT_EQ(2 * mdGridRowHeight(), pasted().rowHeight(0));
+    EXPECT_EQ(2 * mdGridRowHeight(), pasted().rowHeight(Many - 1));
 }

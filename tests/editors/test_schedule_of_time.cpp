@@ -64,13 +64,12 @@ TEST_F(ScheduleOfTime, ShowsItsColumns)
         const auto &expected = columns[column];
         EXPECT_EQ(QString::fromUtf8(expected.caption), cells.model()->headerData(column, Qt::Horizontal).toString());
         EXPECT_EQ(expected.width == 0, cells.isColumnHidden(column)) << expected.caption;
-        // The last one stretches to the edge.
-        if (expected.width && column < 9) {
+        if (expected.width) {
             EXPECT_NEAR(whole * expected.width / 100, cells.columnWidth(column), 2) << expected.caption;
         }
     }
     EXPECT_EQ(
-        QStringLiteral("1|04/03/26|20260304|DST|01:50|\u2713|\u2717|\u2717|\u2717|\u2713"), rows(grid(*screen))[0]);
+        QStringLiteral("1|04/03/26|20260304|DST|01:50|\u2713|\u2717|\u2717|\u2717|\u2713||0.00"), rows(grid(*screen))[0]);
     EXPECT_TRUE(grid(*screen).Orderable());
     EXPECT_EQ(QStringLiteral("mnuScheduleOfTime"), grid(*screen).PopupMenuName());
 }

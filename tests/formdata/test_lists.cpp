@@ -2,6 +2,8 @@
 
 #include "tests/formdata/clsFormTest.h"
 
+#include <QElapsedTimer>
+
 namespace {
 
 using Error = clsRunTimeError;
@@ -48,6 +50,25 @@ TEST(Lists, AnAddedItemIsTheLastInPlaceAndOrderAndInTheFile)
                 QStringList(QList<QString>(round, QString::fromLatin1(item))), childNames(form.XMLNode().child(list)));
         });
     }
+}
+
+TEST(Lists, ManyItemsAreAddedInTheirOrderWithoutAWalkAlongAllForEach)
+{
+    clsZR3Form form;
+    constexpr int Many = 50'000;
+    QElapsedTimer clock;
+    clock.start();
+    for (int place = 1; place <= Many; ++place)
+        form.AddScheduleOfTimeItem();
+    EXPECT_LT(clock.elapsed(), 2000);
+    form.DeleteScheduleOfTimeItem(1);
+    const auto added = form.AddScheduleOfTimeItem();
+    EXPECT_EQ(Many, added->Index);
+    EXPECT_EQ(Many, added->OrderID());
+    const auto &items = form.ScheduleOfTimeItemsCollection();
+    for (int place = 1; place <= Many; ++place)
+        ASSERT_EQ(place, items[size_t(place - 1)]->Index);
+    EXPECT_EQ(items.front(), form.ScheduleOfTimeItemByOrderID(2));
 }
 
 TEST(Lists, AnItemsOutputIsItsElement)

@@ -1,10 +1,12 @@
 // The tables from which items are imported: separators, quotes, code pages, headers, and cells of all kinds. The input
-// is a file.
+// is a file, which is also read as the firm's words for the codes.
 
+#include "costing/tables/clsCodeWords.h"
 #include "costing/tables/clsImportedRows.h"
 #include "costing/tables/mdClaimTable.h"
 #include "costing/tables/mdCsv.h"
 #include "formdata/clsZR3Form.h"
+#include "formdata/mdScheduleOfTimeCodesCollection.h"
 #include "tests/fuzz/mdFuzz.h"
 
 namespace {
@@ -30,6 +32,17 @@ void attackRows(const clsImportedRows &rows)
     mdFuzzRequire(rows.error().isEmpty() || rows.rows().empty(), "a table that is none has no rows");
 }
 
+void attackWords(const QString &text)
+{
+    const clsCodeWords words(text);
+    if (!words.error().isEmpty())
+        return;
+    const clsCodeWords again(mdTextOfTable(words.asCsv()));
+    mdFuzzSame(QString(), again.error(), "words that were written are a table");
+    for (const QString &code : mdScheduleOfTimeCodesCollection())
+        mdFuzzSame(words.of(code), again.of(code), "words come back as they were");
+}
+
 } // namespace
 
 void mdFuzzAttack(const uint8_t *data, size_t size)
@@ -39,9 +52,9 @@ void mdFuzzAttack(const uint8_t *data, size_t size)
     clsZR3Form form;
     addPeople(form);
     const QString before = form.XMLOutput();
-    clsImportedRows rows(form, mdScheduleImport(),
-        mdTextOfTable(QByteArray(reinterpret_cast<const char *>(data), qsizetype(size))),
-        {{QStringLiteral("When"), QStringLiteral("date")}});
+    const QString table = mdTextOfTable(QByteArray(reinterpret_cast<const char *>(data), qsizetype(size)));
+    attackWords(table);
+    clsImportedRows rows(form, mdScheduleImport(), table, {{QStringLiteral("When"), QStringLiteral("date")}});
     attackRows(rows);
     if (rows.hasWrongChosen()) {
         mdFuzzRequire(rows.appendTo(form) == 0, "a wrong row stops all");

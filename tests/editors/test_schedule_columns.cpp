@@ -1,0 +1,124 @@
+// The description and the amount behind the schedule's columns.
+
+#include "editors/oListTotal.h"
+#include "tests/editors/clsScheduleTest.h"
+
+#include <QElapsedTimer>
+#include <QHeaderView>
+#include <QTableView>
+
+namespace {
+
+constexpr int DescriptionColumn = 10;
+constexpr int AmountColumn = 11;
+
+class ScheduleColumns : public clsScheduleTest {
+protected:
+    void SetUp() override
+    {
+        clsScheduleTest::SetUp();
+        addFeeEarners(1);
+        Form->FeeEarnerGroup(1)->HourlyRate = QStringLiteral("78.00");
+    }
+    static std::unique_ptr<frmSection> schedule() { return opened(QStringLiteral("Schedule of Time")); }
+    static oSGrid &grid(const frmSection &screen) { return screen.Box<oSGrid>("sgScheduleOfTime"); }
+    static QTableView &view(const frmSection &screen) { return *grid(screen).findChild<QTableView *>(); }
+    static QString cell(const frmSection &screen, int row, int column, int role = Qt::DisplayRole)
+    {
+        return view(screen).model()->index(row - 1, column).data(role).toString();
+    }
+    static bool isShown(const frmSection &screen, int column) { return !view(screen).isColumnHidden(column); }
+    static void setGridWidth(frmSection &screen, int width)
+    {
+        const int others = screen.width() - view(screen).width();
+        screen.resize(width + others, screen.height());
+        QCoreApplication::processEvents();
+    }
+};
+
+} // namespace
+
+TEST_F(ScheduleColumns, StandBehindThoseOfTheList)
+{
+    const Item item = addItem("15/12/25", "HFN", "03:20");
+    item->Description = QStringLiteral("Final hearing, first day");
+    const auto screen = schedule();
+    EXPECT_EQ(QStringLiteral("Final hearing, first day"), cell(*screen, 1, DescriptionColumn));
+    EXPECT_EQ(QStringLiteral("260.00"), cell(*screen, 1, AmountColumn)) << "3 1/3 hours at 78.00";
+    const QAbstractItemModel &cells = *view(*screen).model();
+    EXPECT_EQ(QStringLiteral("Description"), cells.headerData(DescriptionColumn, Qt::Horizontal).toString());
+    EXPECT_EQ(QStringLiteral("Amount"), cells.headerData(AmountColumn, Qt::Horizontal).toString());
+    EXPECT_TRUE(cells.index(0, AmountColumn).data(Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
+}
+
+TEST_F(ScheduleColumns, TheAmountFollowsTheRateAtTheNextDrawing)
+{
+    addItem("15/12/25", "DOT", "01:00");
+    const auto screen = schedule();
+    EXPECT_EQ(QStringLiteral("78.00"), cell(*screen, 1, AmountColumn));
+    Form->FeeEarnerGroup(1)->HourlyRate = QStringLiteral("1200.00");
+    screen->RedrawLists();
+    EXPECT_EQ(QStringLiteral("1,200.00"), cell(*screen, 1, AmountColumn));
+}
+
+TEST_F(ScheduleColumns, AnAmountThatCantBeComputedSaysWhy)
+{
+    addItem("15/12/25", "DOT", "");
+    addItem("16/12/25", "DOT", "01:00");
+    const auto screen = schedule();
+    EXPECT_EQ(QStringLiteral("!"), cell(*screen, 1, AmountColumn));
+    EXPECT_EQ(QStringLiteral("Schedule item 1 has no time"), cell(*screen, 1, AmountColumn, Qt::AccessibleTextRole));
+    EXPECT_EQ(QStringLiteral("78.00"), cell(*screen, 2, AmountColumn));
+}
+
+TEST_F(ScheduleColumns, WhereItIsNarrowTheDescriptionGoesFirstAndThenTheAmount)
+{
+    addItem("15/12/25", "DOT", "01:00");
+    const auto screen = schedule();
+    std::vector<std::pair<bool, bool>> seen;
+    for (int width = 1600; width >= 400; width -= 50) {
+        setGridWidth(*screen, width);
+        const std::pair<bool, bool> shown {isShown(*screen, DescriptionColumn), isShown(*screen, AmountColumn)};
+        if (seen.empty() || seen.back() != shown)
+            seen.push_back(shown);
+        // The others keep their shares of what is left, to the pixel of rounding.
+        int shared = 0;
+        for (int column = 0; column < DescriptionColumn; ++column)
+            shared += view(*screen).columnWidth(column);
+        EXPECT_NEAR(shared * 0.15, view(*screen).columnWidth(0), 6) << width;
+        EXPECT_LE(view(*screen).horizontalHeader()->length(), view(*screen).viewport()->width()) << width;
+    }
+    EXPECT_EQ((std::vector<std::pair<bool, bool>> {{true, true}, {false, true}, {false, false}}), seen);
+    setGridWidth(*screen, 1000);
+    EXPECT_TRUE(isShown(*screen, DescriptionColumn)) << "and it comes back";
+}
+
+TEST_F(ScheduleColumns, TheTotalEndsUnderTheAmounts)
+{
+    for (int day = 1; day <= 28; ++day)
+        addItem(QByteArray::number(day).rightJustified(2, '0').append("/11/25").constData(), "DOT", "01:00");
+    const auto screen = schedule();
+    const auto *total = screen->findChild<oListTotal *>(QStringLiteral("sgScheduleOfTimeTotal"));
+    ASSERT_TRUE(total);
+    const QTableView &rows = view(*screen);
+    const int column = rows.viewport()->mapTo(screen.get(), QPoint(rows.columnViewportPosition(AmountColumn), 0)).x()
+        + rows.columnWidth(AmountColumn);
+    const int sum = total->mapTo(screen.get(), QPoint(total->width() - grid(*screen).roomBehindAmounts(), 0)).x()
+        - total->contentsMargins().right();
+    EXPECT_NEAR(column - Theme::Space8, sum, 2);
+}
+
+TEST_F(ScheduleColumns, TenThousandItemsAreReadOnceAndPaintedWithoutPricing)
+{
+    for (int n = 0; n < 10'000; ++n)
+        addItem("15/12/25", "DOT", "01:00")->Description = QStringLiteral("Perusing letter %1").arg(n);
+    const auto screen = schedule();
+    QElapsedTimer clock;
+    clock.start();
+    screen->RedrawLists();
+    EXPECT_LT(clock.elapsed(), 1000);
+    // What is painted is what was read: the claim's new rate shows at the next drawing only.
+    Form->FeeEarnerGroup(1)->HourlyRate = QStringLiteral("1.00");
+    grid(*screen).grab();
+    EXPECT_EQ(QStringLiteral("78.00"), cell(*screen, 10'000, AmountColumn));
+}

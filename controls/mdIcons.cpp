@@ -86,6 +86,7 @@ constexpr struct {
     {"frmJointInstructionEdit",    Glyph::Receipt},
     {"frmCommunications",          Glyph::Envelope},
     {"frmCorrespondences",         Glyph::Envelope},
+    {"frmChangeSelected",          Glyph::List},
     {"frmCostsLimit",              Glyph::Coins},
     {"frmFamilyAdvocacyScheme",    Glyph::Scales},
     {"frmFASItemEdit",             Glyph::Scales},

@@ -37,6 +37,7 @@ const clsItemList ExpertInvoices {
     .menu = "mnuExpertInvoices",
     .deleteEntry = "mnuDeleteExpertInvoice",
     .total = mdExpertsListTotal,
+    .sum = mdExpertsListSum,
 };
 
 const clsItemList JointInstructions {
@@ -78,6 +79,8 @@ const clsItemList OtherDisbursements {
     .deleteEntry = "mnuDeleteDisbursement",
     .changed = separate,
     .total = mdDisbursementsListTotal,
+    .sum = mdDisbursementsListSum,
+    .changes = {"txtDateOfWork"},
     .paste = mdPasteDisbursements,
 };
 // clang-format on

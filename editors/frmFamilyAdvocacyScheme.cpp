@@ -34,6 +34,8 @@ const clsItemList Hearings {
     .deleteEntry = "mnuDeleteFASItem",
     .changed = [] { Form->CreateFASCollections(); },
     .total = mdHearingsListTotal,
+    .sum = mdHearingsListSum,
+    .changes = {"txtDate"},
 };
 // clang-format on
 

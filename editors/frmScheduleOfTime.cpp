@@ -50,6 +50,8 @@ const clsItemList ScheduleItems {
     .deleteEntry = "mnuDeleteScheduleOfTimeItem",
     .changed = renderForBill,
     .total = mdScheduleListTotal,
+    .sum = mdScheduleListSum,
+    .changes = {"cmbFeeEarner", "txtDate", "cmbCode", "oEnhancement"},
     .paste = mdPasteSchedule,
 };
 // clang-format on

@@ -170,7 +170,7 @@ class Sources(unittest.TestCase):
         edit = (ROOT / "editors/clsEditMenu.cpp").read_text(encoding="utf-8")
         edited = [entry.replace("&", "") for entry in re.findall(r'^    \{"([^"]+)",\s*"mnu', edit, flags=re.MULTILINE)]
         self.assertEqual(edited, ["Undo", "Redo", "Paste Items...", "Import Items...", "Copy List", "Same Again",
-                                  "Bring Back"])
+                                  "Bring Back", "Find...", "Change Selected..."])
         entries += edited
         preferences = (ROOT / "editors/frmPreferences.cpp").read_text(encoding="utf-8")
         captions = re.findall(r'\{(?:Decimal|Tick|Text),\s*"\w+",\s*"([^"*]+)\*?"', preferences)
@@ -221,7 +221,7 @@ class Keys(unittest.TestCase):
         self.assertEqual(len(keys), 10)
         edit = re.findall(r'"mnu\w+",\s*"(Ctrl[^"]*)"', self.sources.files["editors/clsEditMenu.cpp"])
         edited = [key for row in edit for key in row.split("; ")]
-        self.assertEqual(edited, ["Ctrl+Z", "Ctrl+Shift+Z", "Ctrl+Y", "Ctrl+Shift+V", "Ctrl+Shift+C", "Ctrl+D"])
+        self.assertEqual(edited, ["Ctrl+Z", "Ctrl+Shift+Z", "Ctrl+Y", "Ctrl+Shift+V", "Ctrl+Shift+C", "Ctrl+D", "Ctrl+F"])
         self.assertLessEqual({*keys, *edited}, self.keys)
 
     def test_no_other_file_sets_a_shortcut(self):

@@ -8,7 +8,6 @@
 #include "controls/oFindLine.h"
 #include "controls/oSGrid.h"
 #include "editors/frmSection.h"
-#include "editors/mdChangeSelected.h"
 #include "editors/mdConfirmDelete.h"
 #include "editors/mdEditItem.h"
 #include "editors/mdItemInShort.h"
@@ -149,7 +148,7 @@ void clsListActions::ChangeSelected()
     const auto selected
         = std::find_if(marked.begin(), marked.end(), [&](const auto &item) { return item->Index == index; });
     RunStep([&] {
-        const QString step = mdChangeSelected(m_screen, m_list, **selected, marked);
+        const QString step = m_list.change(m_screen, m_list, **selected, marked);
         if (!step.isEmpty())
             tellChanged();
         return step;

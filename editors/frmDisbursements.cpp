@@ -3,6 +3,7 @@
 #include "controls/oSGrid.h"
 #include "editors/clsPasteList.h"
 #include "editors/frmSection.h"
+#include "editors/mdChangeSelected.h"
 #include "editors/mdItemFaults.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
@@ -81,6 +82,7 @@ const clsItemList OtherDisbursements {
     .total = mdDisbursementsListTotal,
     .sum = mdDisbursementsListSum,
     .changes = {"txtDateOfWork"},
+    .change = mdChangeSelected,
     .paste = mdPasteDisbursements,
 };
 // clang-format on

@@ -3,6 +3,7 @@
 #include "controls/oSGrid.h"
 #include "editors/clsPasteList.h"
 #include "editors/frmSection.h"
+#include "editors/mdChangeSelected.h"
 #include "editors/mdItemFaults.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
@@ -52,6 +53,7 @@ const clsItemList ScheduleItems {
     .total = mdScheduleListTotal,
     .sum = mdScheduleListSum,
     .changes = {"cmbFeeEarner", "txtDate", "cmbCode", "oEnhancement"},
+    .change = mdChangeSelected,
     .paste = mdPasteSchedule,
 };
 // clang-format on

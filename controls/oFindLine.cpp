@@ -15,6 +15,7 @@
 
 namespace {
 
+constexpr int Height = 30;
 constexpr int BoxWidth = 240;
 constexpr int StateWidth = 140;
 /// Narrower, the hint goes.
@@ -50,7 +51,7 @@ oFindLine::oFindLine(oSGrid &grid, QWidget *parent)
     auto *close = new oCloseButton(QStringLiteral("Close Find"), this);
     close->setObjectName(QStringLiteral("cmdCloseFind"));
     auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, Theme::Space12);
+    row->setContentsMargins(0, 0, 0, Theme::Space12 - Theme::RingRoom); // the buttons have the rest at their edge
     row->setSpacing(Theme::Space12);
     row->addWidget(lblFind);
     row->addWidget(txtFind);
@@ -91,6 +92,8 @@ void oFindLine::takeFonts()
     for (QLabel *small : {lblState, lblHint})
         small->setFont(Theme::font(-1));
     txtFind->setFixedWidth(Theme::scaled(BoxWidth));
+    for (oCustomButton *button : {cmdPrevious, cmdNext})
+        button->setFixedHeight(Theme::scaled(Height) + 2 * Theme::RingRoom);
     lblState->setMinimumWidth(Theme::scaled(StateWidth));
 }
 

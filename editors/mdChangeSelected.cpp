@@ -1,5 +1,6 @@
 #include "editors/mdChangeSelected.h"
 
+#include "controls/mdTheme.h"
 #include "controls/oDateBox.h"
 #include "controls/oTypedText.h"
 #include "editors/clsFeeEarnerKeys.h"
@@ -13,6 +14,7 @@
 #include "formdata/mdGlobals.h"
 
 #include <QComboBox>
+#include <QGridLayout>
 
 namespace {
 
@@ -30,6 +32,25 @@ const clsScreenRow *rowOf(const clsScreen &editor, const char *control)
             if (QLatin1String(row.control) == QLatin1String(control))
                 return &row;
     return nullptr;
+}
+
+/// The room above a field goes with it.
+void showRow(const clsScreenField &field, bool shown)
+{
+    field.control->setVisible(shown);
+    if (!field.label)
+        return;
+    field.label->setVisible(shown);
+    for (QGridLayout *grid : field.label->parentWidget()->findChildren<QGridLayout *>()) {
+        int row = 0;
+        int column = 0;
+        int rows = 0;
+        int columns = 0;
+        if (const int place = grid->indexOf(field.label); place >= 0)
+            grid->getItemPosition(place, &row, &column, &rows, &columns);
+        if (row > 0)
+            grid->setRowMinimumHeight(row - 1, shown ? Theme::Space8 : 0);
+    }
 }
 
 /// The window of a change: the fields of the item's editor that can be set for several, of which one is shown.
@@ -116,10 +137,7 @@ void clsChange::choose(const frmSection &screen, int place)
     for (const clsScreenField &field : screen.Fields()) {
         if (field.control->objectName() == QLatin1String(FieldList))
             continue;
-        const bool isIt = field.control == chosen.control;
-        field.control->setVisible(isIt);
-        if (field.label)
-            field.label->setVisible(isIt);
+        showRow(field, field.control == chosen.control);
     }
 }
 

@@ -1,3 +1,4 @@
+#include "controls/mdTheme.h"
 #include "controls/oDateBox.h"
 #include "controls/oFindLine.h"
 #include "controls/oLineBox.h"
@@ -193,6 +194,10 @@ TEST_F(ChangeSelected, SetsTheDateAndKeepsTheRowsWhereverItPutsThem)
         choose(window, "Date");
         EXPECT_TRUE(window.Box("txtDate").isVisible());
         EXPECT_FALSE(window.Box("cmbFeeEarner").isVisible());
+        QCoreApplication::processEvents();
+        const auto top = [&](const char *box) { return window.Box(box).mapTo(&window, QPoint()).y(); };
+        const int gap = top("txtDate") - top("cmbField") - window.Box("cmbField").height();
+        EXPECT_LE(gap, 2 * Theme::Space8) << "what is not shown leaves no room";
         EXPECT_EQ(QStringLiteral("02/12/25"), window.Box<oDateBox>("txtDate").Text()) << "that of the selected row";
         type(window.Box("txtDate"), QStringLiteral("09/12/25"));
         window.Save();

@@ -84,6 +84,7 @@ oCustomButton *oFindLine::addButton(const char *name, const char *caption, const
     button->setGlyph(isNext ? Glyph::ChevronDown : Glyph::ChevronUp);
     button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     button->setEnabled(false);
+    button->setAttribute(Qt::WA_LayoutUsesWidgetRect); // with the room of its ring, at the height of the box
     return button;
 }
 

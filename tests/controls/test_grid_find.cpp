@@ -169,6 +169,21 @@ TEST_F(clsGridFindLine, EscClosesTheLineAndKeepsTheRow)
     EXPECT_EQ(QString(), box().text());
 }
 
+TEST_F(clsGridFindLine, StandsTwelveAboveTheGridAndIsLevel)
+{
+    addNames({"one"});
+    line->Open();
+    QCoreApplication::processEvents();
+    const auto middle = [&](const char *name) {
+        const auto *part = line->findChild<QWidget *>(QString::fromLatin1(name));
+        return part->geometry().center().y();
+    };
+    for (const char *name : {"cmdFindNext", "cmdFindPrevious", "lblFind", "cmdCloseFind"})
+        EXPECT_NEAR(middle("txtFind"), middle(name), 1) << name;
+    EXPECT_NEAR(Theme::Space12, line->height() - box().geometry().bottom() - 1, 1);
+    EXPECT_EQ(Theme::scaled(30), box().height());
+}
+
 TEST_F(clsGridFindLine, WithoutAHitNothingStepsBackAndTheRowStays)
 {
     addNames({"one", "two", "three"});

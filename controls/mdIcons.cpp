@@ -90,6 +90,7 @@ constexpr struct {
     {"frmJointInstructionEdit",    Glyph::Receipt},
     {"frmCommunications",          Glyph::Envelope},
     {"frmCorrespondences",         Glyph::Envelope},
+    {"frmChangeSelected",          Glyph::List},
     {"frmCostsLimit",              Glyph::Coins},
     {"frmCodeWords",               Glyph::Clock},
     {"frmFamilyAdvocacyScheme",    Glyph::Scales},

@@ -1,8 +1,10 @@
 #include "controls/oGridDelegate.h"
 
+#include "controls/clsGridFind.h"
 #include "controls/mdGridMetrics.h"
 #include "controls/mdLine.h"
 #include "controls/mdPaintControls.h"
+#include "controls/mdPaintFound.h"
 #include "controls/mdTheme.h"
 #include "controls/mdToolTip.h"
 
@@ -65,17 +67,14 @@ QSize oGridDelegate::sizeHint(const QStyleOptionViewItem &, const QModelIndex &)
 void oGridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     const QRect &cell = option.rect;
-    // The table knows of the cell under the mouse only; here it is the whole row.
-    QStyleOptionViewItem row = option;
-    row.state.setFlag(QStyle::State_MouseOver, index.row() == m_hoveredRow);
-    mdPaintRow(*painter, row, option.widget);
+    paintBack(*painter, option, index);
     mdPaintLine(*painter, cell, Qt::BottomEdge, Theme::Hairline);
 
     const clsGridCell &shown = modelOf(index).cell(index.row(), index.column());
     if (shown.kind == clsGridCell::Wrong)
         paintWrong(*painter, option, index);
     else if (shown.kind == clsGridCell::Text)
-        paintText(*painter, option, modelOf(index).columns()[size_t(index.column())], index.column(), shown.text);
+        paintText(*painter, option, index);
     else
         paintMark(*painter, option, index);
     if (m_marksCell && (option.state & QStyle::State_HasFocus)) {
@@ -84,14 +83,36 @@ void oGridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     }
 }
 
+void oGridDelegate::paintBack(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    if ((option.state & QStyle::State_Selected) && m_keyRow >= 0 && m_keyRow != index.row()) {
+        painter.fillRect(option.rect, Theme::Selected);
+        return;
+    }
+    // The table knows of the cell under the mouse only; here it is the whole row.
+    QStyleOptionViewItem row = option;
+    row.state.setFlag(QStyle::State_MouseOver, index.row() == m_hoveredRow);
+    mdPaintRow(painter, row, option.widget);
+}
+
+/// On the tint of a selected row the grey of rows that step back would be too pale.
+QColor oGridDelegate::inkOf(const QStyleOptionViewItem &option, const QModelIndex &index, const QColor &usual) const
+{
+    if (!(option.state & QStyle::State_Enabled))
+        return Theme::Ink3;
+    if (!m_find || !m_find->StepsBack(index.row()))
+        return usual;
+    return option.state & QStyle::State_Selected ? Theme::Ink2 : Theme::SteppedBack;
+}
+
 void oGridDelegate::paintMark(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     const bool tick = modelOf(index).cell(index.row(), index.column()).kind == clsGridCell::Tick;
-    QColor colour = tick ? Theme::Ink : option.state & QStyle::State_Selected ? Theme::Ink2 : Theme::Ink3;
-    if (!(option.state & QStyle::State_Enabled))
-        colour = Theme::Ink3;
+    const QColor cross = option.state & QStyle::State_Selected ? Theme::Ink2 : Theme::Ink3;
     painter.setFont(m_mark.font);
-    painter.setPen(colour);
+    painter.setPen(tick                            ? inkOf(option, index, Theme::Ink)
+            : option.state & QStyle::State_Enabled ? cross
+                                                   : Theme::Ink3);
     painter.drawText(insideOf(option.rect), index.data(Qt::TextAlignmentRole).toInt(), index.data().toString());
 }
 
@@ -113,16 +134,20 @@ bool oGridDelegate::isCut(
         && m_columns[size_t(number)].metrics.horizontalAdvance(text) > insideOf(option.rect).width();
 }
 
-void oGridDelegate::paintText(QPainter &painter, const QStyleOptionViewItem &option, const clsGridColumn &column,
-    int number, const QString &text) const
+void oGridDelegate::paintText(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
+    const int number = index.column();
+    const clsGridColumn &column = modelOf(index).columns()[size_t(number)];
+    const QString &text = modelOf(index).cell(index.row(), number).text;
     const Font &font = m_columns[size_t(number)];
     const QRect inside = insideOf(option.rect);
     painter.setFont(font.font);
-    painter.setPen(option.state & QStyle::State_Enabled ? column.colour : Theme::Ink3);
+    painter.setPen(inkOf(option, index, column.colour));
     const int flags = int(mdGridAlignment(column.alignment));
     if (mdGridWraps(column.alignment))
         painter.drawText(inside, flags | Qt::TextWordWrap, text);
+    else if (m_find && m_find->HitOf(index.row()) > 0)
+        mdPaintFound(painter, inside, mdGridAlignment(column.alignment), font.font, text, m_find->Words());
     else if (isCut(option, column, number, text))
         painter.drawText(
             inside, flags | Qt::TextSingleLine, font.metrics.elidedText(text, Qt::ElideRight, inside.width()));

@@ -7,6 +7,8 @@
 
 #include <vector>
 
+class clsGridFind;
+
 /// Draws the cells of a grid. Fonts are made once for a change of font and columns, not for each cell.
 class oGridDelegate : public QStyledItemDelegate {
     Q_OBJECT
@@ -18,6 +20,10 @@ public:
     void takeFonts(const std::vector<clsGridColumn> &columns);
     void setHoveredRow(int row) { m_hoveredRow = row; }
     int hoveredRow() const { return m_hoveredRow; }
+    /// Of several selected rows, the one that the keys act on has the bar; -1 where all have it.
+    void setKeyRow(int row) { m_keyRow = row; }
+    /// Lets what is looked for stand out, and the other rows step back.
+    void setFind(const clsGridFind *find) { m_find = find; }
     /// Frames the cell with the focus.
     void setMarksCell(bool marksCell) { m_marksCell = marksCell; }
 
@@ -38,12 +44,15 @@ private:
 
     void paintWrong(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
     void paintMark(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
-    void paintText(QPainter &painter, const QStyleOptionViewItem &option, const clsGridColumn &column, int number,
-        const QString &text) const;
+    void paintBack(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
+    void paintText(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
+    QColor inkOf(const QStyleOptionViewItem &option, const QModelIndex &index, const QColor &usual) const;
     bool isCut(const QStyleOptionViewItem &option, const clsGridColumn &column, int number, const QString &text) const;
 
     Font m_mark;
     std::vector<Font> m_columns;
+    const clsGridFind *m_find = nullptr;
     int m_hoveredRow = -1;
+    int m_keyRow = -1;
     bool m_marksCell = false;
 };

@@ -14,6 +14,19 @@ namespace {
 constexpr int FrameWidth = 2;
 constexpr int EmptyGlyphSize = 34;
 
+/// What marks nothing where Shift and Ctrl mark rows: dragging without a key, since a click that slips is no choice of
+/// rows, and moving on with Ctrl, since the row that is gone to would have no frame.
+bool goesToOneRow(const QEvent &event)
+{
+    if (event.type() == QEvent::MouseMove)
+        return !(static_cast<const QMouseEvent &>(event).modifiers() & (Qt::ShiftModifier | Qt::ControlModifier));
+    if (event.type() != QEvent::KeyPress)
+        return false;
+    const auto &key = static_cast<const QKeyEvent &>(event);
+    return key.modifiers().testFlag(Qt::ControlModifier) && !key.modifiers().testFlag(Qt::ShiftModifier)
+        && key.key() != Qt::Key_Space;
+}
+
 } // namespace
 
 oGridView::oGridView(clsGridModel *gridModel, QWidget *parent)
@@ -23,6 +36,12 @@ oGridView::oGridView(clsGridModel *gridModel, QWidget *parent)
     setHorizontalHeader(new oGridHeader(this));
     setModel(gridModel);
     setItemDelegate(m_delegate);
+    connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+        [this](const QModelIndex &now, const QModelIndex &before) {
+            m_delegate->setKeyRow(now.row());
+            updateRow(before.row());
+            updateRow(now.row());
+        });
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -85,6 +104,23 @@ void oGridView::selectOnly(int row, int column)
         gridModel.index(row, column), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
+void oGridView::setMarksRows(bool marksRows)
+{
+    m_marksRows = marksRows;
+    setSelectionMode(marksRows ? QAbstractItemView::ExtendedSelection : QAbstractItemView::SingleSelection);
+}
+
+void oGridView::alsoSelect(const std::vector<int> &rows)
+{
+    const int last = model()->columnCount() - 1;
+    QItemSelection selection;
+    for (size_t from = 0, to = 0; from < rows.size(); from = to) {
+        while (++to < rows.size() && rows[to] == rows[to - 1] + 1) { }
+        selection.select(model()->index(rows[from], 0), model()->index(rows[to - 1], last));
+    }
+    selectionModel()->select(selection, QItemSelectionModel::Select);
+}
+
 bool oGridView::event(QEvent *event)
 {
     const bool result = QTableView::event(event);
@@ -138,7 +174,18 @@ QItemSelectionModel::SelectionFlags oGridView::selectionCommand(const QModelInde
     const bool byMouse = event
         && (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonRelease
             || event->type() == QEvent::MouseMove);
-    return byMouse && !index.isValid() ? QItemSelectionModel::NoUpdate : QTableView::selectionCommand(index, event);
+    if (byMouse && !index.isValid())
+        return QItemSelectionModel::NoUpdate;
+    if (m_marksRows && event && goesToOneRow(*event))
+        return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+    return QTableView::selectionCommand(index, event);
+}
+
+/// The view would select all rows from the press to the pointer.
+void oGridView::setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command)
+{
+    const bool toOneRow = m_marksRows && !(command & QItemSelectionModel::Current);
+    QTableView::setSelection(toOneRow ? QRect(rect.bottomRight(), rect.bottomRight()) : rect, command);
 }
 
 void oGridView::hoverAt(const QPoint &position)
@@ -228,6 +275,16 @@ QModelIndex oGridView::moveCursor(CursorAction action, Qt::KeyboardModifiers mod
     if (model()->rowCount() > 0 && (action == MoveHome || action == MoveEnd))
         return model()->index(action == MoveHome ? 0 : model()->rowCount() - 1, std::max(0, currentIndex().column()));
     return QTableView::moveCursor(action, modifiers);
+}
+
+/// Ctrl on a marked row unmarks it: where that was the selected one, another takes its place.
+void oGridView::mousePressEvent(QMouseEvent *event)
+{
+    QTableView::mousePressEvent(event);
+    const QItemSelection selection = selectionModel()->selection();
+    if (m_marksRows && !selection.isEmpty() && !selectionModel()->isSelected(currentIndex()))
+        selectionModel()->setCurrentIndex(model()->index(selection.first().top(), std::max(0, currentIndex().column())),
+            QItemSelectionModel::NoUpdate);
 }
 
 void oGridView::mouseDoubleClickEvent(QMouseEvent *event)

@@ -5,6 +5,8 @@
 
 #include <QTableView>
 
+#include <vector>
+
 /// The table inside an `oSGrid`: whole rows are selected, keys and clicks are told to the grid in its own terms, and
 /// the frame shows where the focus is. It knows nothing of items and orders.
 class oGridView : public QTableView {
@@ -23,6 +25,12 @@ public:
     /// Selects one row, or none at a row that isn't there. The cell that Return acts on is that of the column, or stays
     /// in its own where none is given.
     void selectOnly(int row, int column = -1);
+    /// Lets Shift and Ctrl mark further rows beside the selected one, which is marked too and which alone the keys act
+    /// on.
+    void setMarksRows(bool marksRows);
+    bool marksRows() const { return m_marksRows; }
+    /// Marks further rows.
+    void alsoSelect(const std::vector<int> &rows);
     /// Frames, while the focus is here, the cell that Return acts on.
     void setMarksCell(bool marksCell);
     /// Takes the fonts and heights of the theme and the columns of the model.
@@ -48,9 +56,11 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
     QItemSelectionModel::SelectionFlags selectionCommand(
         const QModelIndex &index, const QEvent *event = nullptr) const override;
+    void setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyboardSearch(const QString &search) override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    void mousePressEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
@@ -69,4 +79,5 @@ private:
     oGridDelegate *m_delegate;
     QString m_emptyText;
     Glyph m_emptyGlyph = Glyph::List;
+    bool m_marksRows = false;
 };

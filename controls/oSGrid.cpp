@@ -81,6 +81,8 @@ void oSGrid::connectView()
     });
     connect(m_view, &oGridView::orderKeyPressed, this, [this](bool up) { moveSelectedRow(up ? -1 : 1); });
     connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this, &oSGrid::announceSelection);
+    // A marked row becomes the selected one by a click that changes no mark.
+    connect(m_view, &oGridView::pressed, this, &oSGrid::announceSelection);
     connect(m_arrows, &oOrderArrows::UpClick, this, &oSGrid::MoveUp);
     connect(m_arrows, &oOrderArrows::DownClick, this, &oSGrid::MoveDown);
     connect(m_typing, &QTimer::timeout, this, [this] { emit TimedKeyPress(m_typed); });
@@ -109,7 +111,7 @@ int oSGrid::roomBehindAmounts() const
 
 bool oSGrid::MultiSelect() const
 {
-    return m_view->selectionMode() == QAbstractItemView::ExtendedSelection;
+    return m_view->selectionMode() == QAbstractItemView::ExtendedSelection && !m_view->marksRows();
 }
 
 void oSGrid::setMultiSelect(bool multiSelect)
@@ -253,16 +255,6 @@ int oSGrid::SelectedItemData() const
     return row ? m_model->itemData(row - 1) : 0;
 }
 
-clsGridItems oSGrid::SelectedItemCollection() const
-{
-    clsGridItems items;
-    const QItemSelectionModel &selection = *m_view->selectionModel();
-    for (int row = 0; row < Rows(); ++row)
-        if (selection.rowIntersectsSelection(row))
-            items.push_back(m_model->item(row));
-    return items;
-}
-
 void oSGrid::SelectRow(int row)
 {
     m_view->selectOnly(row - 1);
@@ -321,6 +313,7 @@ void oSGrid::announceSelection()
     if (m_drawing)
         return;
     updateArrows();
+    emit MarksChange();
     const int row = SelectedRow();
     const int item = SelectedItemData();
     if (row == m_announcedRow && item == m_announcedItem)

@@ -34,6 +34,9 @@ public:
     void setPopupMenuName(const QString &name) { m_popupMenuName = name; }
     bool MultiSelect() const;
     void setMultiSelect(bool multiSelect);
+    /// Lets Shift and Ctrl mark further rows beside the selected one, for what reads `SelectedItemCollection`. All else
+    /// keeps to the one selected row.
+    void setMarksRows(bool marksRows);
     /// The line in the middle of a grid without rows, and the picture above it.
     void setEmptyText(const QString &text);
     void setEmptyGlyph(Glyph glyph);
@@ -79,6 +82,8 @@ public:
     void SelectRow(int row);
     /// Selects the row of the item of that `Index`, wherever it stands now; nothing else where there is none.
     void SelectItem(int itemData);
+    /// Selects the row of an item, and marks those of others; items that the grid doesn't show are passed over.
+    void SelectItems(const clsZR3Item *item, const clsGridItems &others);
     /// The column of the cell that Return acts on, 0 when none is selected.
     int SelectedColumn() const;
     /// Goes to a column of the selected row.
@@ -98,6 +103,8 @@ signals:
     void MouseUp(Qt::MouseButton button, Qt::KeyboardModifiers shift, const QPoint &position);
     /// Another row is selected, or another item stands in the selected row; 0 and 0 for none.
     void SelectionChange(int itemData, int row);
+    /// Other rows are selected or marked.
+    void MarksChange();
     /// Comes before the grid does anything with the key, and nothing after it when `*doDefault` is set to false.
     void KeyDown(int keyCode, Qt::KeyboardModifiers shift, bool *doDefault);
     void DeletePressed();

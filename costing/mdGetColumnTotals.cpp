@@ -87,6 +87,20 @@ private:
     clsColumnTotals m_totals;
 };
 
+template <class Items> clsColumnTotals totalsOf(const clsZR3Form &form, clsSchedulePrices &prices, const Items &items)
+{
+    clsTotalling totalling;
+    clsOnBill isOnBill(form);
+    try {
+        for (const auto &item : items)
+            if (isOnBill(*item))
+                totalling.add(form, *item, prices.of(*item));
+    } catch (const clsRunTimeError &error) {
+        totalling.failAll(error);
+    }
+    return totalling.totals();
+}
+
 } // namespace
 
 QString ColumnTimeTotal(const clsBill &bill, int column)
@@ -104,18 +118,15 @@ Money ScheduleTotal(const clsBill &bill)
     return bill.columns().schedule.get();
 }
 
+Money ScheduleTotalOf(const clsZR3Form &form, const std::vector<const clsZR3ScheduleOfTimeItem *> &items)
+{
+    clsSchedulePrices prices(form);
+    return totalsOf(form, prices, items).schedule.get();
+}
+
 clsColumnTotals AllColumnTotals(const clsZR3Form &form, clsSchedulePrices &prices)
 {
-    clsTotalling totalling;
-    clsOnBill isOnBill(form);
-    try {
-        for (const auto &item : form.ScheduleOfTimeItemsCollection())
-            if (isOnBill(*item))
-                totalling.add(form, *item, prices.of(*item));
-    } catch (const clsRunTimeError &error) {
-        totalling.failAll(error);
-    }
-    return totalling.totals();
+    return totalsOf(form, prices, form.ScheduleOfTimeItemsCollection());
 }
 
 Money AdvocacyTotal(const clsBill &bill)

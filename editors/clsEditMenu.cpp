@@ -29,6 +29,9 @@ constexpr clsEditRow Rows[] = {
     {"&Copy List",       "mnuCopyList",    "Ctrl+Shift+C", &clsEditCommands::copyList, nullptr},
     {"Same &Again", "mnuSameAgain", "Ctrl+D",   &clsEditCommands::sameAgain, nullptr},
     {"&Bring Back", "mnuBringBack", "",         &clsEditCommands::bringBack, nullptr, false, &clsEditCommands::canBringBack},
+    {"&Find...",    "mnuFind",      "Ctrl+F",   &clsEditCommands::find,      nullptr},
+    {"Change &Selected...", "mnuChangeSelected", "", &clsEditCommands::changeSelected, nullptr, false,
+     &clsEditCommands::canChangeSelected},
 };
 // clang-format on
 

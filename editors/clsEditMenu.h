@@ -15,6 +15,9 @@ struct clsEditCommands {
     std::function<void()> sameAgain {};
     std::function<void()> bringBack {};
     std::function<bool()> canBringBack {};
+    std::function<void()> find {};
+    std::function<void()> changeSelected {};
+    std::function<bool()> canChangeSelected {};
     bool hasCopyKey = true; ///< whether no key of the window's own stands in the way
 };
 

@@ -5,6 +5,7 @@
 #include "controls/oAllPurposeBox.h"
 #include "controls/oBoxNote.h"
 #include "controls/oCustomButton.h"
+#include "controls/oFindLine.h"
 #include "controls/oSGrid.h"
 #include "editors/mdScreenControls.h"
 #include "editors/oListTotal.h"
@@ -244,6 +245,9 @@ void clsFrameRows::addItems(const clsScreenRow &row, QWidget *grid)
 {
     m_answers = nullptr;
     addSpace(m_spaceBefore ? m_spaceBefore : int(Theme::Space8));
+    auto *find = new oFindLine(static_cast<oSGrid &>(*grid), &m_frame);
+    find->setObjectName(grid->objectName() + QStringLiteral("Find"));
+    m_grid->addWidget(find, m_line++, 0, 1, 2);
     m_grid->addLayout(cell(grid, true), m_line, 0, 1, 2);
     m_grid->setRowStretch(m_line++, ListStretch);
     m_frame.m_grows = true;
@@ -263,7 +267,7 @@ void clsFrameRows::addItems(const clsScreenRow &row, QWidget *grid)
     m_cell->addStretch(1);
     if (row.items->total) {
         auto &list = static_cast<oSGrid &>(*grid);
-        auto *total = new oListTotal(row.items->total, list, &m_frame);
+        auto *total = new oListTotal(row.items->total, row.items->sum, list, &m_frame);
         total->setObjectName(grid->objectName() + QStringLiteral("Total"));
         total->setContentsMargins(0, 0, list.roomForArrows(), 0); // it ends where the rows do
         m_cell->addWidget(total);

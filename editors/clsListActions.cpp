@@ -5,6 +5,7 @@
 #include "controls/mdLeaveFocusedBox.h"
 #include "controls/mdTheme.h"
 #include "controls/oCustomButton.h"
+#include "controls/oFindLine.h"
 #include "controls/oSGrid.h"
 #include "editors/frmSection.h"
 #include "editors/mdConfirmDelete.h"
@@ -18,6 +19,8 @@
 #include "formdata/mdUniqueIDInUseInForm.h"
 
 #include <QMenu>
+
+#include <algorithm>
 
 namespace {
 
@@ -34,6 +37,7 @@ clsListActions::clsListActions(frmSection &screen, const clsItemList &list, oSGr
     , m_add(add)
 {
     m_grid.setEmptyGlyph(mdTile(SectionIcons, m_screen.objectName()).glyph);
+    m_grid.setMarksRows(m_list.sum || !m_list.changes.empty());
     if (m_list.menu)
         buildMenu();
     if (m_list.remove)
@@ -112,7 +116,46 @@ void clsListActions::editItem(int index)
 
 bool clsListActions::HasFocus() const
 {
-    return m_grid.isAncestorOf(m_screen.focusWidget());
+    return m_grid.isAncestorOf(m_screen.focusWidget()) || findLine().isAncestorOf(m_screen.focusWidget());
+}
+
+bool clsListActions::IsVisible() const
+{
+    return m_grid.isVisible();
+}
+
+oFindLine &clsListActions::findLine() const
+{
+    return *m_screen.findChild<oFindLine *>(m_grid.objectName() + QStringLiteral("Find"));
+}
+
+void clsListActions::Find()
+{
+    if (mdLeaveFocusedBox(&m_screen))
+        findLine().Open();
+}
+
+bool clsListActions::CanChangeSelected() const
+{
+    return !m_list.changes.empty() && m_grid.SelectedRow() > 0;
+}
+
+void clsListActions::ChangeSelected()
+{
+    if (!CanChangeSelected() || !mdLeaveFocusedBox(&m_screen))
+        return;
+    const clsGridItems marked = m_grid.SelectedItemCollection();
+    const int index = m_grid.SelectedItemData();
+    const auto selected
+        = std::find_if(marked.begin(), marked.end(), [&](const auto &item) { return item->Index == index; });
+    RunStep([&] {
+        const QString step = m_list.change(m_screen, m_list, **selected, marked);
+        if (!step.isEmpty())
+            tellChanged();
+        return step;
+    });
+    m_grid.SelectItems(selected->get(), marked);
+    m_grid.setFocus(Qt::OtherFocusReason);
 }
 
 void clsListActions::SameAgain()

@@ -5,6 +5,7 @@
 #include <QObject>
 
 class oCustomButton;
+class oFindLine;
 class QMenu;
 
 /// What a list on a screen does with its items, as its table says: it shows them, and adds, edits and deletes them by
@@ -21,10 +22,18 @@ public:
     /// Shows the items as they now are, the same row selected.
     void redraw();
     int Rows() const;
+    /// Whether the focus is in the list or in its find line.
     bool HasFocus() const;
+    bool IsVisible() const;
     bool AddsItems() const { return m_add; }
     /// Opens the editor of a new item that begins as a copy of the selected one.
     void SameAgain();
+    /// Opens the line in which words are looked for.
+    void Find();
+    /// Sets one field of all marked items, after the user has said which and to what.
+    void ChangeSelected();
+    bool CanChangeSelected() const;
+    bool ChangesItems() const { return !m_list.changes.empty(); }
     /// Selects the row of an item; false where it is of another list.
     bool Show(const clsZR3Item *item);
 
@@ -48,6 +57,7 @@ private:
     /// The name of what is done to an item.
     QString stepOf(const char *action, const std::shared_ptr<clsXMLRecord> &item) const;
     void tellWhatCanBeAdded();
+    oFindLine &findLine() const;
 
     frmSection &m_screen;
     const clsItemList &m_list;

@@ -99,6 +99,11 @@ struct clsItemList {
     std::vector<clsItemAction> actions {}; ///< further entries, above "Delete"
     void (*changed)() = nullptr; ///< brings up to date what the claim derives from the list, after each change of it
     clsListTotal (*total)() = nullptr; ///< what stands at the right under the grid
+    clsListTotal (*sum)(const clsMarkedItems &) = nullptr; ///< the same of the marked rows
+    std::vector<const char *> changes {}; ///< the editor's fields that can be set for all marked rows at once
+    /// Sets one of them, after the user has said which and to what; the name of the step, or nothing.
+    QString (*change)(frmSection &owner, const clsItemList &list, clsZR3Item &selected, const clsMarkedItems &marked)
+        = nullptr;
     const clsPasteList &(*paste)() = nullptr; ///< as what it takes rows of tables, and gives its own
 };
 

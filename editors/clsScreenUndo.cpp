@@ -60,7 +60,12 @@ clsScreenUndo::clsScreenUndo(frmSection &screen, QMenuBar &menus, oListLine &lin
     clsEditCommands commands {.undo = [this] { run(&clsHistory::undo, &clsHistory::undoItem); },
         .redo = [this] { run(&clsHistory::redo, &clsHistory::redoItem); },
         .bringBack = [this] { bringBack(); },
-        .canBringBack = [this] { return mdLatestNotStored(m_screen) != nullptr; }};
+        .canBringBack = [this] { return mdLatestNotStored(m_screen) != nullptr; },
+        .find = [this] { m_screen.Find(); }};
+    if (screen.ChangesItems()) {
+        commands.changeSelected = [this] { m_screen.ChangeSelected(); };
+        commands.canChangeSelected = [this] { return m_screen.CanChangeSelected(); };
+    }
     if (screen.AddsItems())
         commands.sameAgain = [this] { m_screen.SameAgain(); };
     mdOfferPaste(screen, commands, [this](const QString &what) { m_line.Tell(what); });

@@ -3,6 +3,7 @@
 #include "controls/oSGrid.h"
 #include "editors/clsPasteList.h"
 #include "editors/frmSection.h"
+#include "editors/mdChangeSelected.h"
 #include "editors/mdItemFaults.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
@@ -37,6 +38,7 @@ const clsItemList ExpertInvoices {
     .menu = "mnuExpertInvoices",
     .deleteEntry = "mnuDeleteExpertInvoice",
     .total = mdExpertsListTotal,
+    .sum = mdExpertsListSum,
     .paste = mdPasteExperts,
 };
 
@@ -79,6 +81,9 @@ const clsItemList OtherDisbursements {
     .deleteEntry = "mnuDeleteDisbursement",
     .changed = separate,
     .total = mdDisbursementsListTotal,
+    .sum = mdDisbursementsListSum,
+    .changes = {"txtDateOfWork"},
+    .change = mdChangeSelected,
     .paste = mdPasteDisbursements,
 };
 // clang-format on

@@ -1,6 +1,7 @@
 #include "editors/mdScreens.h"
 
 #include "controls/oSGrid.h"
+#include "editors/mdChangeSelected.h"
 #include "editors/mdItemFaults.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
@@ -34,6 +35,9 @@ const clsItemList Hearings {
     .deleteEntry = "mnuDeleteFASItem",
     .changed = [] { Form->CreateFASCollections(); },
     .total = mdHearingsListTotal,
+    .sum = mdHearingsListSum,
+    .changes = {"txtDate"},
+    .change = mdChangeSelected,
 };
 // clang-format on
 

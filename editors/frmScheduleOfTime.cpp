@@ -3,6 +3,7 @@
 #include "controls/oSGrid.h"
 #include "editors/clsPasteList.h"
 #include "editors/frmSection.h"
+#include "editors/mdChangeSelected.h"
 #include "editors/mdItemAmounts.h"
 #include "editors/mdItemFaults.h"
 #include "formdata/clsZR3Form.h"
@@ -54,6 +55,9 @@ const clsItemList ScheduleItems {
     .deleteEntry = "mnuDeleteScheduleOfTimeItem",
     .changed = renderForBill,
     .total = mdScheduleListTotal,
+    .sum = mdScheduleListSum,
+    .changes = {"cmbFeeEarner", "txtDate", "cmbCode", "oEnhancement"},
+    .change = mdChangeSelected,
     .paste = mdPasteSchedule,
 };
 // clang-format on

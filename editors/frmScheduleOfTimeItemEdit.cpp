@@ -3,8 +3,9 @@
 #include "controls/oCheckBox.h"
 #include "controls/oDateBox.h"
 #include "controls/oTimeBox.h"
+#include "editors/clsFeeEarnerKeys.h"
 #include "editors/frmSection.h"
-#include "editors/mdCheckForBlanks.h"
+#include "editors/mdDateIsGiven.h"
 #include "editors/oCodeCombo.h"
 #include "editors/oCodeNote.h"
 #include "editors/oEnhancementsBox.h"
@@ -12,9 +13,6 @@
 #include "editors/oPriceLine.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
-
-#include <QApplication>
-#include <QKeyEvent>
 
 namespace {
 
@@ -58,49 +56,10 @@ const clsOtherControl Code {
     .store = storeCode,
 };
 
-/// Function keys choose the fee earner from every field, before any of them takes the key for itself, as lists do with
-/// F4.
-class clsFunctionKeys final : public QObject {
-public:
-    explicit clsFunctionKeys(frmSection &screen)
-        : QObject(&screen)
-        , m_screen(screen)
-    {
-        qApp->installEventFilter(this);
-    }
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() != QEvent::KeyPress)
-            return false;
-        const auto *part = qobject_cast<const QWidget *>(watched);
-        if (!part || part->window() != &m_screen)
-            return false;
-        const auto *key = static_cast<QKeyEvent *>(event);
-        return m_screen.Box<oFeeEarnerCombo>("cmbFeeEarner")
-            .SelectByKeyCode(oFeeEarnerCombo::KeyCodeOf(key->key()), key->modifiers());
-    }
-
-private:
-    frmSection &m_screen;
-};
-
-/// A box without a date is right as long as its tick says so: an item may have none. An empty one with its tick gives
-/// the no-date value as its text, so that asking for a text would not find it.
-bool dateIsGiven(const frmSection &screen)
-{
-    auto &date = screen.Box<oDateBox>("txtDate");
-    if (!date.HasDate() || mdCheckForBlanks({date.TypedText()}))
-        return true;
-    date.setFocus(Qt::TabFocusReason);
-    return false;
-}
-
 void rules(frmSection &screen)
 {
-    new clsFunctionKeys(screen);
-    screen.setMayStore([&screen] { return dateIsGiven(screen); });
+    new clsFeeEarnerKeys(screen);
+    screen.setMayStore([&screen] { return mdDateIsGiven(screen.Box<oDateBox>("txtDate")); });
     QObject::connect(&screen.Box<oCheckBox>("chkAdvocacy"), &oCheckBox::Click, &screen, [&screen](bool advocacy) {
         auto &useHourlyRate = screen.Box<oCheckBox>("chkUseHourlyRate");
         useHourlyRate.setEnabled(advocacy);

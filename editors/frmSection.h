@@ -63,6 +63,13 @@ public:
     void setAdded(std::function<QString()> added) { m_added = std::move(added); }
     /// Adds a copy of the item that is chosen in the list with the focus, after the user has been through its editor.
     void SameAgain();
+    /// Looks for words in the list that has the focus, or else the first that is to be seen.
+    void Find();
+    /// Sets one field of the rows that are marked in that list.
+    void ChangeSelected();
+    bool CanChangeSelected() const;
+    /// Whether one of its lists has fields that can be set so.
+    bool ChangesItems() const;
     /// Whether one of its lists takes new items.
     bool AddsItems() const;
 
@@ -105,6 +112,7 @@ private:
     void buildUndo();
     void storeAsStep(clsStoring storing);
     void showCounts();
+    clsListActions *listInUse() const;
     void startFiguresAtZero();
     void buildFileMenu();
     void buildJumpMenu();

@@ -8,6 +8,8 @@
 #include "editors/clsScreenUndo.h"
 #include "editors/oListLine.h"
 
+#include <QShortcut>
+
 #include <algorithm>
 
 // The lists of a screen, with what is undone on it.
@@ -36,8 +38,12 @@ void frmSection::buildLine()
 
 void frmSection::buildUndo()
 {
-    if (!m_line)
+    if (!m_line) {
+        // The preferences have lists and no menu.
+        if (!m_lists.empty())
+            connect(new QShortcut(Qt::CTRL | Qt::Key_F, this), &QShortcut::activated, this, &frmSection::Find);
         return;
+    }
     m_undo = new clsScreenUndo(*this, *m_menus, *m_line);
     for (const clsList &list : m_lists) {
         connect(list.actions, &clsListActions::Changed, m_undo, &clsScreenUndo::ClearLine);
@@ -51,11 +57,46 @@ bool frmSection::AddsItems() const
     return std::any_of(m_lists.begin(), m_lists.end(), [](const clsList &list) { return list.actions->AddsItems(); });
 }
 
+bool frmSection::ChangesItems() const
+{
+    return std::any_of(
+        m_lists.begin(), m_lists.end(), [](const clsList &list) { return list.actions->ChangesItems(); });
+}
+
 void frmSection::SameAgain()
 {
     for (const clsList &list : m_lists)
         if (list.actions->HasFocus() || m_lists.size() == 1)
             return list.actions->SameAgain();
+}
+
+clsListActions *frmSection::listInUse() const
+{
+    for (const clsList &list : m_lists)
+        if (list.actions->HasFocus())
+            return list.actions;
+    for (const clsList &list : m_lists)
+        if (list.actions->IsVisible())
+            return list.actions;
+    return nullptr;
+}
+
+void frmSection::Find()
+{
+    if (clsListActions *list = listInUse())
+        list->Find();
+}
+
+void frmSection::ChangeSelected()
+{
+    if (clsListActions *list = listInUse())
+        list->ChangeSelected();
+}
+
+bool frmSection::CanChangeSelected() const
+{
+    const clsListActions *list = listInUse();
+    return list && list->CanChangeSelected();
 }
 
 void frmSection::ShowItem(const clsZR3Item *item)

@@ -1,6 +1,7 @@
 #include "editors/mdListTotals.h"
 
 #include "costing/mdBillSummary.h"
+#include "costing/mdFigureFaults.h"
 #include "costing/mdGetColumnTotals.h"
 #include "formdata/clsOnBill.h"
 #include "formdata/mdGlobals.h"
@@ -17,6 +18,17 @@ QString counted(qsizetype count, const char *one, const char *many)
 QString items(qsizetype count)
 {
     return counted(count, "1 item", "%1 items");
+}
+
+/// "3 of 30 items".
+QString itemsOf(const clsMarkedItems &marked, qsizetype all)
+{
+    return QStringLiteral("%1 of %2").arg(marked.size()).arg(items(all));
+}
+
+template <class Item> const Item &as(const std::shared_ptr<clsZR3Item> &item)
+{
+    return static_cast<const Item &>(*item);
 }
 
 /// Letters and calls of a kind, and those of them that no line of the form bills.
@@ -80,4 +92,53 @@ clsListTotal mdCommunicationsListTotal()
             ? counted(sum.leftOut, "1 letter or call not on the bill", "%1 letters and calls not on the bill")
             : counted(sum.all, "1 letter or call", "%1 letters and calls"),
         CommsTotal(*Form)};
+}
+
+clsListTotal mdScheduleListSum(const clsMarkedItems &marked)
+{
+    clsOnBill isOnBill(*Form);
+    std::vector<const clsZR3ScheduleOfTimeItem *> chosen;
+    for (const auto &item : marked)
+        chosen.push_back(&as<clsZR3ScheduleOfTimeItem>(item));
+    const auto leftOut
+        = std::count_if(chosen.begin(), chosen.end(), [&](const auto *item) { return !isOnBill(*item); });
+    QString words = itemsOf(marked, std::ssize(Form->ScheduleOfTimeItemsCollection()));
+    if (leftOut > 0)
+        words += QStringLiteral(", %1 not on the bill").arg(leftOut);
+    return {words, ScheduleTotalOf(*Form, chosen)};
+}
+
+clsListTotal mdExpertsListSum(const clsMarkedItems &marked)
+{
+    Money sum;
+    for (const auto &item : marked)
+        sum = sum + mdExplained(*Form, as<clsZR3ExpertInvoice>(item), [&] {
+            return MoneyFromText(as<clsZR3ExpertInvoice>(item).NetAmount());
+        });
+    return {itemsOf(marked, std::ssize(Form->ExpertInvoicesCollection())), sum};
+}
+
+clsListTotal mdDisbursementsListSum(const clsMarkedItems &marked)
+{
+    Money sum;
+    qsizetype fees = 0;
+    for (const auto &item : marked) {
+        const auto &disbursement = as<clsZR3Disbursement>(item);
+        if (disbursement.Counsel())
+            ++fees;
+        else
+            sum = sum + mdExplained(*Form, disbursement, [&] { return MoneyFromText(disbursement.Amount()); });
+    }
+    QString words = itemsOf(marked, std::ssize(Form->DisbursementsCollection()));
+    if (fees > 0)
+        words += QStringLiteral(", ") + counted(fees, "without 1 counsel's fee", "without %1 counsel's fees");
+    return {words, sum};
+}
+
+clsListTotal mdHearingsListSum(const clsMarkedItems &marked)
+{
+    Money sum;
+    for (const auto &item : marked)
+        sum = sum + mdExplained(*Form, as<clsZR3FASItem>(item), [&] { return as<clsZR3FASItem>(item).Total(); });
+    return {itemsOf(marked, std::ssize(Form->FASItemsCollection())), sum};
 }

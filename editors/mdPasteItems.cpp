@@ -8,6 +8,7 @@
 #include "controls/mdShowModal.h"
 #include "controls/oContentSwitcher.h"
 #include "controls/oSGrid.h"
+#include "costing/tables/mdClaimItems.h"
 #include "costing/tables/mdClaimTable.h"
 #include "costing/tables/mdCsv.h"
 #include "editors/clsEditMenu.h"
@@ -25,6 +26,8 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QMimeData>
+
+#include <set>
 
 namespace {
 
@@ -78,6 +81,24 @@ clsTable copied(const clsTable &table, const clsPasteList &list)
         result.rows.push_back(cells);
     }
     return result;
+}
+
+/// Leaves those rows of a list's table that stand for the marked items.
+void keepMarked(clsTable &table, const clsPasteList &list, const clsMarkedItems &marked)
+{
+    std::set<const clsXMLRecord *> chosen;
+    for (const auto &item : marked)
+        chosen.insert(item.get());
+    for (const clsClaimItems &items : mdClaimItems()) {
+        if (!items.is(QString::fromLatin1(list.table)))
+            continue;
+        const std::vector<const clsXMLRecord *> all = items.items(*Form);
+        std::vector<QStringList> rows;
+        for (size_t row = 0; row < qMin(all.size(), table.rows.size()); ++row)
+            if (chosen.contains(all[row]))
+                rows.push_back(table.rows[row]);
+        table.rows = std::move(rows);
+    }
 }
 
 /// A list of a screen that takes rows, with its grid.
@@ -149,12 +170,14 @@ void mdImportItems(const clsPasteList &list, const clsPasted &pasted)
     look(list, text, source, "Import", pasted);
 }
 
-int mdCopyList(const clsPasteList &list)
+int mdCopyList(const clsPasteList &list, const clsMarkedItems &marked)
 {
     const clsBill bill(*Form);
-    const auto whole = mdClaimTable(bill, QString::fromLatin1(list.table));
+    auto whole = mdClaimTable(bill, QString::fromLatin1(list.table));
     if (!whole)
         return 0;
+    if (marked.size() > 1)
+        keepMarked(*whole, list, marked);
     const clsTable table = copied(*whole, list);
     auto *data = new QMimeData;
     data->setText(QString::fromUtf8(mdTableAsCsv(table, '\t')));
@@ -163,8 +186,10 @@ int mdCopyList(const clsPasteList &list)
     return int(table.rows.size());
 }
 
-QString mdCopiedInWords(const clsPasteList &list, int count)
+QString mdCopiedInWords(const clsPasteList &list, int count, int all)
 {
+    if (all > count)
+        return QStringLiteral("Copied %1: %2 of %3").arg(QString::fromLatin1(list.section)).arg(count).arg(all);
     return QStringLiteral("Copied %1: %2 in all").arg(QString::fromLatin1(list.section)).arg(count);
 }
 
@@ -182,8 +207,10 @@ void mdOfferPaste(frmSection &screen, clsEditCommands &commands, const std::func
     commands.paste = taking(mdPasteItems);
     commands.import = taking(mdImportItems);
     commands.copyList = [&screen, tell] {
-        const clsPasteList &list = takingListOf(screen).items->paste();
-        tell(mdCopiedInWords(list, mdCopyList(list)));
+        const clsTakingList list = takingListOf(screen);
+        const clsPasteList &table = list.items->paste();
+        const int count = mdCopyList(table, list.items->sum ? list.grid->SelectedItemCollection() : clsMarkedItems());
+        tell(mdCopiedInWords(table, count, list.items->sum ? list.grid->Rows() : 0));
     };
     commands.hasCopyKey = takingListOf(screen).items->paste().hasCopyKey;
 }

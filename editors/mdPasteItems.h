@@ -1,5 +1,7 @@
 #pragma once
 
+#include "editors/mdListTotals.h"
+
 #include <QString>
 
 #include <functional>
@@ -17,10 +19,10 @@ using clsPasted = std::function<void()>;
 void mdPasteItems(const clsPasteList &list, const clsPasted &pasted);
 /// The same for those of a file that the user chooses.
 void mdImportItems(const clsPasteList &list, const clsPasted &pasted);
-/// Puts the list on the clipboard as a table; how many items that were.
-int mdCopyList(const clsPasteList &list);
-/// What the user is then told.
-QString mdCopiedInWords(const clsPasteList &list, int count);
+/// Puts the list on the clipboard as a table, or, where several are marked, those of its items; how many that were.
+int mdCopyList(const clsPasteList &list, const clsMarkedItems &marked = {});
+/// What the user is then told; `all` where not all were copied.
+QString mdCopiedInWords(const clsPasteList &list, int count, int all = 0);
 
 /// Gives the menu "Edit" of a screen these entries, for the first of its lists that has them; none where no list has.
 void mdOfferPaste(frmSection &screen, clsEditCommands &commands, const std::function<void(const QString &)> &tell);

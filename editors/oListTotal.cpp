@@ -16,11 +16,6 @@ constexpr int Gap = 12;
 constexpr int SignGap = 5;
 constexpr int SignSide = 14;
 
-QString word()
-{
-    return QStringLiteral("Total");
-}
-
 int widthOf(const QFont &font, const QString &text)
 {
     return QFontMetrics(font).horizontalAdvance(text);
@@ -28,16 +23,39 @@ int widthOf(const QFont &font, const QString &text)
 
 } // namespace
 
-oListTotal::oListTotal(clsListTotal (*total)(), oSGrid &grid, QWidget *parent)
+oListTotal::oListTotal(
+    clsListTotal (*total)(), clsListTotal (*sum)(const clsMarkedItems &), oSGrid &grid, QWidget *parent)
     : QWidget(parent)
-    , m_total(total)
     , m_grid(grid)
+    , m_total(total)
+    , m_sum(sum)
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_renewal.setSingleShot(true);
     connect(&m_renewal, &QTimer::timeout, this, &oListTotal::renew);
     if (const auto *model = grid.findChild<clsGridModel *>())
         connect(model, &QAbstractItemModel::modelReset, &m_renewal, qOverload<>(&QTimer::start));
+    if (m_sum)
+        connect(&grid, &oSGrid::MarksChange, this, &oListTotal::followMarks);
+}
+
+/// As long as one row is selected, the total stays what it is.
+void oListTotal::followMarks()
+{
+    if (m_ofMarked || m_grid.SelectedItemCollection().size() > 1)
+        m_renewal.start();
+}
+
+clsListTotal oListTotal::totalNow()
+{
+    const clsMarkedItems marked = m_sum ? m_grid.SelectedItemCollection() : clsMarkedItems();
+    m_ofMarked = marked.size() > 1;
+    return m_ofMarked ? m_sum(marked) : m_total();
+}
+
+QString oListTotal::word() const
+{
+    return m_ofMarked ? QStringLiteral("Sum") : QStringLiteral("Total");
 }
 
 void oListTotal::renew()
@@ -45,7 +63,7 @@ void oListTotal::renew()
     if (!Form)
         return;
     try {
-        const clsListTotal total = m_total();
+        const clsListTotal total = totalNow();
         m_counted = total.counted;
         m_figure = mdFormatMoney(total.value);
         m_whyNot.clear();

@@ -13,10 +13,12 @@ class oListTotal : public QWidget {
     Q_OBJECT
 
 public:
-    oListTotal(clsListTotal (*total)(), oSGrid &grid, QWidget *parent);
+    /// `sum` may be missing, for a list whose rows aren't marked.
+    oListTotal(clsListTotal (*total)(), clsListTotal (*sum)(const clsMarkedItems &), oSGrid &grid, QWidget *parent);
 
-    /// "30 items", or what the total leaves out.
+    /// "30 items", or what the total leaves out; "3 of 30 items" where several are marked.
     QString Counted() const { return m_counted; }
+    /// What all come to, or those that are marked.
     QString Figure() const { return m_figure; }
     QString Failure() const { return m_whyNot; }
 
@@ -31,8 +33,14 @@ protected:
 private:
     void renew();
 
+    void followMarks();
+    clsListTotal totalNow();
+    QString word() const;
+
+    oSGrid &m_grid;
     clsListTotal (*m_total)();
-    const oSGrid &m_grid;
+    clsListTotal (*m_sum)(const clsMarkedItems &);
+    bool m_ofMarked = false;
     QTimer m_renewal; ///< once what the claim derives from its lists has been brought up to date
     QString m_counted;
     QString m_figure;

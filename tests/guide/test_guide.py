@@ -170,7 +170,7 @@ class Sources(unittest.TestCase):
         edit = (ROOT / "editors/clsEditMenu.cpp").read_text(encoding="utf-8")
         edited = [entry.replace("&", "") for entry in re.findall(r'^    \{"([^"]+)",\s*"mnu', edit, flags=re.MULTILINE)]
         self.assertEqual(edited, ["Undo", "Redo", "Paste Items...", "Import Items...", "Copy List", "Same Again",
-                                  "Bring Back"])
+                                  "Bring Back", "Find...", "Change Selected..."])
         entries += edited
         preferences = (ROOT / "editors/frmPreferences.cpp").read_text(encoding="utf-8")
         captions = re.findall(r'\{(?:Decimal|Tick|Text),\s*"\w+",\s*"([^"*]+)\*?"', preferences)
@@ -207,7 +207,7 @@ class Keys(unittest.TestCase):
     """The keys of the program are those of the table."""
 
     NAMES = {"Return": "Enter", "Backtab": "Shift+Tab", "Escape": "Esc", "Plus": "Ctrl+Plus", "Equal": "Ctrl+Plus",
-             "Minus": "Ctrl+Minus", "0": "Ctrl+0", "Y": "Ctrl+Y"}
+             "Minus": "Ctrl+Minus", "0": "Ctrl+0", "Y": "Ctrl+Y", "F": "Ctrl+F"}
     # Told with the keys that they go with; the last two only say which keys type a character.
     PARTS = {"Alt", "AltGr", "Control", "Meta", "Shift", "F10", "S", "Backspace", "ydiaeresis"}
 
@@ -221,17 +221,17 @@ class Keys(unittest.TestCase):
         self.assertEqual(len(keys), 11)
         edit = re.findall(r'"mnu\w+",\s*"(Ctrl[^"]*)"', self.sources.files["editors/clsEditMenu.cpp"])
         edited = [key for row in edit for key in row.split("; ")]
-        self.assertEqual(edited, ["Ctrl+Z", "Ctrl+Shift+Z", "Ctrl+Y", "Ctrl+Shift+V", "Ctrl+Shift+C", "Ctrl+D"])
+        self.assertEqual(edited, ["Ctrl+Z", "Ctrl+Shift+Z", "Ctrl+Y", "Ctrl+Shift+V", "Ctrl+Shift+C", "Ctrl+D", "Ctrl+F"])
         self.assertLessEqual({*keys, *edited}, self.keys)
 
     def test_no_other_file_sets_a_shortcut(self):
         for file, code in self.sources.files.items():
             for set_here in re.findall(r"(?:setShortcut|QShortcut)\(([^;]*)\);", code):
                 # The menus; letters with Alt; what enlarges pages; Save and Add; what goes from section to section,
-                # from finding to finding, or from one wrong cell to the next.
+                # from finding to finding, or from one wrong cell to the next; Find where a screen has no menu for it.
                 if file not in ("shell/mdMainMenu.cpp", "editors/oScreenFrame.cpp", "preview/oFormPages.cpp",
                                 "editors/oScreenBar.cpp", "shell/frmMainCheck.cpp", "shell/frmMainSections.cpp",
-                                "editors/frmPasteItems.cpp"):
+                                "editors/frmPasteItems.cpp", "editors/frmSectionLists.cpp"):
                     self.assertIn("Qt::CTRL | Qt::Key_S", set_here, file)
             for standard in set(re.findall(r"QKeySequence::(\w+)", code)) - {"listFromString", "PortableText"}:
                 self.assertIn(standard, ("mnemonic", "InsertLineSeparator", "Paste"), file)

@@ -5,24 +5,24 @@
 #include <QByteArray>
 #include <QString>
 
-/// A file as this program last read or wrote it, and whether another program has put other content in its place since.
-/// A file that is gone, or can't be read, doesn't count as changed.
+/// A file as this program last read or wrote it, and whether another program has changed its content since. A file that
+/// is missing or unreadable doesn't count as changed.
 class clsFileWatch {
 public:
     void forget() { *this = {}; }
     /// The file was read between the stamp and now.
     void wasRead(const QString &path, const std::optional<clsFileStamp> &before);
-    /// These bytes were written to it just now.
+    /// These bytes have just been written to it.
     void wasWritten(const QString &path, const QByteArray &bytes);
-    /// This program tried to write it and failed: what lies there now is no other program's doing.
+    /// This program tried to write it and failed: its present content doesn't count as another program's change.
     void wasLeft(const QString &path);
-    /// Its content was this when it was last read or written, by an earlier run of the program.
+    /// `mark` is its content as an earlier run of the program last read or wrote it.
     void wasKnown(const QString &path, const QByteArray &mark);
 
     const QString &path() const { return m_path; }
-    /// What stands for the content that this program knows.
+    /// The mark of the last content that this program read or wrote.
     const QByteArray &mark() const { return m_mark; }
-    /// When another program changed it; nothing where none has. The file is read only where its stamp is a new one.
+    /// The time of another program's change; nothing if there is none. Reads the file only if its stamp has changed.
     std::optional<QDateTime> changedByOthers();
 
 private:

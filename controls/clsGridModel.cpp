@@ -7,14 +7,14 @@
 
 namespace {
 
-/// Lists of up to this many rows fill at once, and no bar flickers for them.
+/// Lists of up to this many rows fill quickly, so no progress bar flickers for them.
 constexpr int RowsWithoutProgress = 250;
 
 constexpr char16_t TickMark = u'\u2713';
 constexpr char16_t CrossMark = u'\u2717';
 const QString WrongMark = QStringLiteral("!");
 
-/// Takes the bar away again, also when an item can't be read.
+/// Removes the progress bar, even if an item can't be read.
 class clsFillProgress {
 public:
     explicit clsFillProgress(int count)
@@ -45,7 +45,7 @@ QString propertyText(const clsZR3Item &item, const clsGridColumn &column)
     return ReadProperty(item, column.property, ReadProperty(*column.helper, column.helperProperty));
 }
 
-/// Whether an error is one of the column, which asks for what no item has, and not of the item.
+/// Whether an error comes from the column, which names a property that no item has, and not from the item.
 bool isOfColumn(const clsRunTimeError &error, const clsGridColumn &column)
 {
     const bool lacksHelper = !column.helperProperty.isEmpty() && !column.helper;
@@ -60,7 +60,7 @@ bool shows(const clsGridColumn &column, const QString &property)
     return column.isShown() && own.compare(property, Qt::CaseInsensitive) == 0;
 }
 
-/// Why what a column shows is wrong; empty where it isn't.
+/// Why a column's content is wrong; empty if it isn't.
 QString faultIn(const clsGridColumn &column, const clsGridFaults &faults)
 {
     for (const auto &[property, why] : faults)
@@ -73,7 +73,7 @@ QString faultIn(const clsGridColumn &column, const clsGridFaults &faults)
 
 clsGridCell clsGridCell::of(const QString &text)
 {
-    // The rule goes by the text alone: whatever reads as one of these words is shown so, a description too.
+    // Depends only on the text: any text that equals one of these words is shown as a mark, even a description.
     if (text == QLatin1String("True"))
         return {text, Tick};
     if (text == QLatin1String("False"))
@@ -121,7 +121,7 @@ std::vector<clsGridModel::Row> clsGridModel::readRows(const clsGridItems &items)
         const clsGridFaults faults = faultsOf(*item);
         for (const clsGridColumn &column : m_columns)
             row.cells.push_back(readCell(*item, column, faults));
-        // What no column shows is told in the first, before what stands there: that may be the item's name.
+        // A fault that no column shows is marked in the first, before its text, which may be the item's name.
         if (clsGridCell &first = row.cells[size_t(firstShownColumn())];
             first.kind != clsGridCell::Wrong && !whyRow(faults).isEmpty())
             first = {WrongMark + u' ' + first.text, clsGridCell::Wrong};
@@ -146,7 +146,7 @@ clsGridCell clsGridModel::readCell(
     }
 }
 
-/// Why a property is wrong: by its fault, or since it can't be read.
+/// Why a property is wrong: its fault, or the error in reading it.
 QString clsGridModel::whyCell(const clsZR3Item &item, const clsGridColumn &column, const clsGridFaults &faults) const
 {
     QString fault = faultIn(column, faults);
@@ -179,8 +179,8 @@ QString clsGridModel::whyWrong(int row, int column) const
     return own.isEmpty() ? whyRow(faults) : own;
 }
 
-/// Key columns as text, ascending; an orderable list by its order after them. Letters compare without regard to their
-/// case and otherwise by their codes: the same order on every machine. Rows that are equal keep the items' order.
+/// Key columns as text, ascending, then an orderable list by its order. Ignores case and otherwise compares character
+/// codes, for the same order on every machine. Equal rows keep the items' order.
 void clsGridModel::sort(std::vector<Row> &rows) const
 {
     std::vector<size_t> keys;
@@ -226,7 +226,7 @@ int clsGridModel::columnCount(const QModelIndex &parent) const
 
 QVariant clsGridModel::data(const QModelIndex &index, int role) const
 {
-    // The key that copies asks for the current cell also where there is none.
+    // The copy key asks for the current cell even if there is none.
     if (!index.isValid() || !checkIndex(index))
         return {};
     const clsGridCell &shown = cell(index.row(), index.column());

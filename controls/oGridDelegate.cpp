@@ -65,7 +65,7 @@ QSize oGridDelegate::sizeHint(const QStyleOptionViewItem &, const QModelIndex &)
 void oGridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     const QRect &cell = option.rect;
-    // The table knows of the cell under the mouse only; here it is the whole row.
+    // The table marks only the cell under the mouse; the grid marks the whole row.
     QStyleOptionViewItem row = option;
     row.state.setFlag(QStyle::State_MouseOver, index.row() == m_hoveredRow);
     mdPaintRow(*painter, row, option.widget);

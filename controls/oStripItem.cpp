@@ -46,7 +46,7 @@ void oStripItem::keyPressEvent(QKeyEvent *event)
             click();
         return;
     case Qt::Key_Up:
-    case Qt::Key_Down: event->ignore(); return; // the base would walk to whatever lies above or below
+    case Qt::Key_Down: event->ignore(); return; // the base class would move to the widget above or below
     default: QAbstractButton::keyPressEvent(event);
     }
 }

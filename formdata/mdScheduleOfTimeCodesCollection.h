@@ -2,8 +2,8 @@
 
 #include <QStringList>
 
-/// The 32 activity codes in their order. A code's meaning for the program lies only in its first letter.
+/// The 32 activity codes in order. Only a code's first letter has a meaning for the program.
 QStringList mdScheduleOfTimeCodesCollection();
 
-/// True when the text is a code, compared exactly; otherwise the user is told, and it is false.
+/// True if the text is a code, compared exactly; otherwise shows a message and returns false.
 bool mdCheckScheduleOfTimeCode(const QString &code);

@@ -4,8 +4,8 @@
 
 class clsJsonWriter;
 
-/// Writes the three lists of what differs into an object that is open.
+/// Writes the three lists of differences to the open object.
 void mdWriteChanges(clsJsonWriter &json, const clsClaimChanges &changes);
 
-/// The same for people, a line that ends in CR LF for each; nothing where nothing differs.
+/// The same for the user, one line ending in CR LF for each; empty if nothing differs.
 QString mdChangesInLines(const clsClaimChanges &changes, const QString &before = {});

@@ -22,8 +22,8 @@ struct clsFourteenDigits {
 clsFourteenDigits atFourteenDigits(double positive)
 {
     constexpr int Kept = 14;
-    // Where the last kept digit is above the third decimal, an amount can lie exactly between two of its values, and
-    // the library would round to the even one. The exact text is used instead (such a number has at most sixteen
+    // If the last kept digit is above the third decimal, an amount can be exactly halfway between two of its values,
+    // which the library would round to even. The exact text is used instead (such a number has at most sixteen
     // decimals) and rounded away from zero. Smaller numbers have no tie that would change a penny.
     constexpr double TiesMatter = 1e11;
     constexpr int ExactDecimals = 32;

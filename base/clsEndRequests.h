@@ -17,7 +17,7 @@ public:
     int descriptor() const { return m_descriptor; }
     /// The signal received, or 0.
     int signal();
-    /// Call in a new child process: only its parent ends it then, not the terminal as well.
+    /// Call in a new child process: from then on only its parent ends it, not the terminal.
     void leaveToChild() const;
 
     /// Writes to a stream of the process; gives up if a request to end arrives while the reader blocks. False if not

@@ -44,7 +44,7 @@ private:
     void flush();
 
     QByteArray m_bytes;
-    std::string m_text; ///< the text after m_bytes: appended to in small pieces, without copying m_bytes
+    std::string m_text; ///< collects text for m_bytes, so that m_bytes isn't copied for each addition
     int m_depth = 0;
     bool m_first = true;
 };

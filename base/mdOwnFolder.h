@@ -4,7 +4,7 @@
 
 // Folders private to this user, in places where others can write too.
 
-/// Creates a folder in an existing one, unless something has that path. True if the path is then a real folder of this
+/// Creates a folder in an existing one, if nothing has that path yet. True if the path is then a real folder of this
 /// user's, not a link; it is closed to others.
 bool MakeOwnFolder(const QString &path);
 

@@ -16,8 +16,8 @@
 
 namespace {
 
-/// How long an incomplete claim counts as being written: far longer than a write takes, but short enough when a damaged
-/// one is opened.
+/// How long an incomplete claim counts as being written: far longer than a write takes, but not so long that opening a
+/// damaged one becomes a nuisance.
 constexpr std::chrono::seconds LongestWrite(1);
 constexpr std::chrono::milliseconds BetweenLooks(5);
 
@@ -65,7 +65,7 @@ bool overwrittenInTurn(const QString &path, const QByteArray &bytes, const clsWr
     try {
         return overwriteUnlessLost(path, bytes, isLost);
     } catch (const clsRunTimeError &) {
-        // The other program may have deleted the file to be copied or deleted.
+        // The other program may already have deleted the file.
         if (isLost())
             return false;
         throw;

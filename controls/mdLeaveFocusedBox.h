@@ -8,10 +8,11 @@ class QWidget;
 // enough: a mouse click presses a button even if its focus was taken away, and mnemonics and default keys press one
 // that never had the focus.
 //
-// So while such a box has the focus, an application-wide filter makes the box leave before a mouse press on anything in
-// the same window that would take the focus or is a button, and before a button's mnemonic; if the box keeps the focus,
-// the event is discarded. Return in a box does the same before it reaches the default button. This includes the Cancel
-// button. Scroll bars, menus and the box's own parts are not affected; Esc and the close box reach the window.
+// So while such a box has the focus, an application-wide filter watches for a mouse press on anything in the same
+// window that would take the focus or is a button, and for a button's mnemonic. It first calls the box's leave(), and
+// discards the event if the box keeps the focus. Return in a box does the same before it reaches the default button.
+// The Cancel button is no exception. Scroll bars, menus and the box's own parts are not affected; Esc and the close box
+// reach the window.
 //
 // Menu entries and other actions don't move the focus and need not leave the box (Ctrl+S saves the claim without the
 // pending text). Those that close a screen or read its boxes call `mdLeaveFocusedBox` themselves.

@@ -28,7 +28,7 @@ bool isFilled(Look look)
     return look == Look::Default || look == Look::Danger;
 }
 
-/// The look set for a button; buttons of the toolkit's dialogues have none and only show which is the default.
+/// The look set for a button; buttons of the toolkit's dialogs have none and only show which is the default.
 Look lookOf(const QStyleOptionButton &option, const QWidget *widget)
 {
     const QVariant given = widget ? widget->property("look") : QVariant();

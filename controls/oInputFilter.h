@@ -6,7 +6,7 @@ class QApplication;
 class QWidget;
 
 /// Application-wide handling of events before the controls receive them. Underlines mnemonics while Alt is held; passes
-/// the wheel over an unfocused list on to the page; repaints a box when it becomes invalid; tells every widget about a
+/// the wheel over an unfocused list on to the page; repaints a box when it becomes invalid; notifies every widget of a
 /// new desktop font. Keeps an Alt letter without a mnemonic from being typed into a text box or choosing a list entry.
 /// Makes Shift+F10 open the menu of a text, like the Menu key. Blocks nothing else.
 class oInputFilter final : public QObject {

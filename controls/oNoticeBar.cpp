@@ -158,7 +158,7 @@ void oNoticeBar::present()
     emit Announced(m_announced);
 }
 
-/// A window that was never active would give the focus to its first tab stop.
+/// In a window that was never active, the focus would move to its first tab stop.
 void oNoticeBar::leaveFocusBehind()
 {
     if (window() == this || window()->focusWidget())

@@ -107,7 +107,7 @@ void oSpellText::rewriteText(const QString &text)
         const QString before = BoxText(editorText(), true);
         const QString after = BoxText(text, m_multiLine);
         const int start = lengthOfCommonStart(before, after);
-        // Not past the caret, which must be after the new text following a redo.
+        // Stops at the caret, which must be after the new text when the edit is redone.
         const int end = qMin(int(before.size()) - textCursor().position(),
             lengthOfCommonEnd(QStringView(before).mid(start), QStringView(after).mid(start)));
         if (before != after) {
@@ -185,7 +185,7 @@ void oSpellText::layOut()
     // The frame has a width and the document a margin; the rest of the padding is between them.
     const int inner = frameWidth() + DocumentMargin;
     const int padding = Theme::boxHeight(fontMetrics()) - fontMetrics().height();
-    // An odd pixel goes above the text, as in neighbouring boxes.
+    // An odd pixel is added above the text, as in neighbouring boxes.
     const int above = qMax(0, (padding + 1) / 2 - inner);
     // None below a single line: if its room is at all too low, the toolkit scrolls it. For several lines it reserves a
     // pixel.

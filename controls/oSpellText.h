@@ -19,7 +19,7 @@ public:
     QString Text() const;
     /// Replaces the text; can't be undone.
     void setText(const QString &text);
-    /// The same like an edit by the user: only the differing part is changed, and it can be undone.
+    /// Replaces the text as an edit by the user would: only the differing part is changed, and it can be undone.
     void rewriteText(const QString &text);
 
     /// The caret, or the start of the selection. A line break counts as two characters.

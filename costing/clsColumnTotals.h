@@ -14,7 +14,7 @@ template <class Value> struct clsFigure {
     Value value {};
     std::optional<clsRunTimeError> error {};
 
-    /// The value, or raises the error.
+    /// Returns the value or raises the error.
     const Value &get() const
     {
         if (error)

@@ -59,7 +59,7 @@ private:
             m_causes << cause;
     }
     bool mayNote() const { return m_causes.size() < MostCauses; }
-    /// Writes an item, or a line of the letters and calls; if a figure fails, adds the cause.
+    /// Writes an item, or a line of the letters and calls; if one of its figures fails, adds the cause.
     template <class Write, class... Of> void object(Write write, const Of &...of)
     {
         const qsizetype before = m_failures;

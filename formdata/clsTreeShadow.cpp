@@ -227,8 +227,7 @@ void clsTreeShadow::apply(
     applyTo(m_root, root, PartDepth, change.root, direction, records);
 }
 
-/// Changes the children to the other end of the change: first removes, then adds at the final positions, then changes
-/// the texts.
+/// Applies the change to the children: first removes, then adds at the final positions, then changes the texts.
 void clsTreeShadow::applyTo(clsNode &shadow, pugi::xml_node node, int depth, const clsSequenceChange &change,
     clsTreeDirection direction, const clsRecords &records)
 {

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-/// The last seen state of a claim's tree, for each child of the root and of its lists and sections. Comparing it with
-/// the tree gives the change since, made by any code; a change can also be applied to the tree.
+/// The last seen state of a claim's tree, for each child of the root and of its lists and sections. Comparison with the
+/// tree yields the change since, made by any code; a change can also be applied to the tree.
 class clsTreeShadow {
 public:
     /// Notified about the children of the root that hold records, while a change is applied.

@@ -20,11 +20,11 @@ protected:
 private:
     template <class Item> friend class clsZR3List;
 
-    /// Binds to an element of the list, and updates the element to the template.
+    /// Binds the item to an element of the list, and updates the element to the template.
     void takeOver(pugi::xml_node element);
-    /// Binds to a new element at the list's end.
+    /// Binds the item to a new element at the list's end.
     void appendTo(pugi::xml_node listNode);
-    /// Binds to a new element in a separate document.
+    /// Binds the item to a new element in a separate document.
     void standAlone();
     /// Moves the element to a separate document, or to one shared with other removed items.
     void detach(std::shared_ptr<pugi::xml_document> own = std::make_shared<pugi::xml_document>());

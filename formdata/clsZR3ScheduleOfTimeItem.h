@@ -11,7 +11,7 @@ class clsZR3FeeEarnerGroup;
 class clsZR3Form;
 
 /// A dated piece of work. Each read prices it from its fee earner's group, with no stored result, so that a changed
-/// rate or enhancement reprices the whole bill at once.
+/// rate or enhancement immediately reprices the whole bill.
 class clsZR3ScheduleOfTimeItem : public clsZR3Item {
 public:
     /// The columns of the bill for times.

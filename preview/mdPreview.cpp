@@ -140,7 +140,7 @@ void mdRedrawPreview(clsPreviewKind kind)
     if (last < 1 || last > grid.Rows())
         return;
     grid.BringIntoView(last, 1);
-    // The first row was probably scrolled in part: without this the preview would creep at each refresh.
+    // The first row is rarely scrolled exactly to its top: without this the preview would creep at each refresh.
     grid.SetHiddenAbove(first, hidden);
     if (grid.LastRowInView() < last)
         grid.BringIntoView(last, 1);

@@ -9,7 +9,7 @@ class oPreviewCaptions;
 
 /// The read-only grid of the preview, `sgPreview`: rows and columns that are cleared and refilled at each redraw. It
 /// paints only the rows in view, so that the longest bill scrolls as smoothly as a short one. Rows and columns are
-/// counted from 1. It can be scrolled, and the mouse does nothing else but open its menu.
+/// counted from 1. The mouse can only scroll it and open its menu.
 class oPreviewGrid : public QTableView {
     Q_OBJECT
 
@@ -64,8 +64,8 @@ public:
     void MarkRow(int row);
     /// Marks the next row with figures in a direction; does nothing if there is none.
     void MoveMark(int rows);
-    /// The row to explain: the one under the pointer if the menu was opened by mouse, else the marked one, else the
-    /// first in view; 0 if there is none.
+    /// The row to explain: the one under the pointer if the menu was opened by mouse, otherwise the marked one,
+    /// otherwise the first in view; 0 if there is none.
     int AskedRow() const;
     /// Call when a menu opened by the mouse has closed.
     void ForgetPointedRow() { m_pointed = 0; }

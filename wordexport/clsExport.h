@@ -60,8 +60,8 @@ struct clsExport {
     QString documentName = form.FormType();
     /// The folder of the sheets, below the export folder. Exports with the same name there take turns.
     QString tempFolderName = QStringLiteral("~ZR3Temp");
-    /// Other exports work in the same export folder at the same time, with separate sheet folders: the document is put
-    /// in place in a turn with theirs.
+    /// Other exports work in the same export folder at the same time, with separate sheet folders: they take turns to
+    /// put their documents in place.
     bool sharesFolder = false;
 
     /// A sheet that could not be opened, saved or joined is skipped, as after every failure of the word processor: the
@@ -105,5 +105,5 @@ struct clsExport {
     QHash<QString, clsSheetFile> sheets {};
 };
 
-/// Ends an export after the user has been told why; no document is produced.
+/// Ends an export after a message with the reason; no document is produced.
 struct clsExportStopped { };

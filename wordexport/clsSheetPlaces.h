@@ -8,8 +8,8 @@
 
 class clsMSWord;
 
-/// Where the texts of a sheet are printed on the paper, in points from its corner. Taken from the templates: places are
-/// known down to the first row that is not of exact height, and only if the sheet takes one paper page.
+/// Where the texts of a sheet are printed on the paper, in points from its corner. Taken from the templates; available
+/// for the rows above the first one that is not of exact height, and only if the sheet takes one paper page.
 class clsSheetPlaces {
 public:
     explicit clsSheetPlaces(const QString &templatesFolder)

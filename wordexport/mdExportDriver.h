@@ -5,8 +5,7 @@
 
 struct clsExport;
 
-/// Exports a claim as the document of its government form. False if the user has been told why no document was
-/// produced.
+/// Exports a claim as the document of its government form. False, after a message, if no document was produced.
 using clsExportDriver = bool (*)(clsExport &run);
 
 /// The message for a form type that has no pages.

@@ -44,7 +44,7 @@ template <auto ByOrderID> auto mdItemAt(const clsZR3Form &form, int i)
     ZR3_FIELD(placeholder, member, mdTickText(bill.form().member()), clsFillClass::TickBox, nullptr)
 #define ZR3_MONEY(placeholder, member)                                                                                 \
     ZR3_FIELD(placeholder, member, bill.form().member(), clsFillClass::Money, nullptr)
-/// A text that goes to continuation sheets if its box can't hold it.
+/// A text that is continued on further sheets if its box can't hold it.
 #define ZR3_LONG(placeholder, member, overRun)                                                                         \
     ZR3_FIELD(placeholder, member, bill.form().member(), clsFillClass::Text, &overRun)
 #define ZR3_WORKED_OUT(placeholder, expression, fill)                                                                  \

@@ -296,7 +296,7 @@ void mdExportWordClaim1aPage11(clsExport &run)
     mdOpenSheet(run, word, notes.firstSheet);
     mdReplaceRows(run, word, CommunicationsRows, 11);
     mdReplaceRows(run, word, SummaryRows, 11);
-    // The mark was replaced with the additional information.
+    // The mark has already been replaced, with the additional information.
     mdFinishSheet(run, word);
 }
 

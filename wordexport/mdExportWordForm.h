@@ -20,5 +20,5 @@ struct clsExportForm {
 };
 
 /// Runs an export: creates the sheets page by page in the temporary folder, then joins them to the finished document.
-/// False if the user has been told why none was produced.
+/// False, after a message, if none was produced.
 bool mdExportWordForm(clsExport &run, const clsExportForm &form);

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Gives the open sheet the number of the last sheet created. After a grid that did not overflow this is the first
+/// Sets the open sheet's number to that of the last sheet created. After a grid that did not overflow this is the first
 /// sheet, which then gets the number of an earlier grid's last sheet. Required behaviour; do not fix. The templates
 /// have a hidden placeholder for each mark but the first, and only the first shows.
 void markOpenSheet(const clsExport &run, clsMSWord &word)
@@ -50,7 +50,7 @@ void mdExportGrid(
     const auto noteGrid = [&](int linesAbove) {
         run.sheets[sheet].grids.push_back({QString::fromLatin1(grid.list.name), linesAbove});
     };
-    noteGrid(grid.firstOffset); // as in the template: the cells above are of exact height
+    noteGrid(grid.firstOffset); // the offset in the template: the text typed above is in a cell of exact height
     word.PassTypedBreaks(run.sheets[firstSheet].breaks);
     word.MoveCursorDown(firstOffset);
     const int count = grid.count(run.form);

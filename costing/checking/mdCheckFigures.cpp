@@ -31,8 +31,8 @@ QString sentenceOf(const clsFigureFault &fault)
     return fault.sentence.simplified() + QStringLiteral("; ") + QString::fromLatin1(advice) + u'.';
 }
 
-/// The faults that prevent a figure. If even they can't be determined, as with an order that is too large a number,
-/// that error.
+/// The faults that prevent a figure. If even they can't be determined (an order beyond 32 bits, for example), the error
+/// itself is the fault.
 template <class... Of> clsFigureFaults faultsOf(const clsClaimCheck &check, const Of &...of)
 {
     try {

@@ -26,7 +26,7 @@ public:
     /// Sets the meaning of a column of the table, removes it from the column that had it, and reads the rows again.
     void setMeaning(const clsZR3Form &form, int place, int column);
     /// If required columns are missing, guesses the meaning of unnamed columns from their cells. `text` is the table's;
-    /// it is used if no line of it names the columns.
+    /// if none of its lines names the columns, all of them are read as rows.
     void guessMeanings(const clsZR3Form &form, QStringView text);
     /// The number of rows below the header, and the original text of a cell of any column.
     int lines() const { return int(m_texts.size()); }

@@ -96,7 +96,7 @@ bool isBlank(const QString &cell)
 
 clsTextTable clsTextTable::read(QStringView text, QChar separator, int mostRows)
 {
-    // For the start of a table, its size is checked when the whole is read.
+    // If only the start is read, the size is not checked yet, but later with the whole text.
     const bool isWhole = mostRows == MostRows;
     const qsizetype mostInAll = isWhole ? MostCellsInAll : qsizetype(mostRows) * MostCells;
     clsTextTable table;

@@ -15,7 +15,7 @@ class clsWordDocument;
 /// The only class that operates the word processor: one hidden application, at most one open document, one cursor in
 /// it. Everything that the export does to a document is one of the operations below.
 ///
-/// Most operations are guarded: the instance reports its first failure, skips the rest of that operation, and the
+/// Most operations are guarded: a failed operation is abandoned, the first failure of an instance is reported, and the
 /// caller continues without notice. Operations marked "unguarded" throw clsRunTimeError instead.
 class clsMSWord {
 public:

@@ -7,7 +7,7 @@
 /// Independent of documents: the caller passes the paragraph's content and the available width.
 ///
 /// The unit is a sixth of a twip, to which the word processor that prints the forms rounds each character's width. More
-/// exact sums would give different line counts.
+/// exact sums would lead to different line counts.
 namespace TextLayout {
 
 struct Character {

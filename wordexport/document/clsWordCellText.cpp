@@ -20,7 +20,7 @@ int naturalLine(int halfPoints)
     return (halfPoints * 23 + 1) / 2;
 }
 
-// The character that stands for a non-text element of a run.
+// The character that represents a non-text element of a run.
 char32_t characterOf(const xml_node &node)
 {
     if (WordXml::is(node, "w:tab") || WordXml::is(node, "w:ptab"))
@@ -45,7 +45,7 @@ std::u32string charactersOf(std::string_view text)
 
 int widthOfPicture(const xml_node &node)
 {
-    constexpr int UnitsPerTwip = 635; // the unit of drawings
+    constexpr int UnitsPerTwip = 635; // in the unit of drawings
     return node.child("wp:inline").child("wp:extent").attribute("cx").as_int() / UnitsPerTwip;
 }
 

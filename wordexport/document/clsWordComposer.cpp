@@ -111,8 +111,8 @@ void clsWordComposer::append(clsWordPackage &source)
     moveBlocks(sourceBody, finalSection);
 }
 
-// Only the last paragraphs and the section are added to the tree, since later steps may change them. The rest goes
-// directly to the finished text: parsing it would take most of the time of joining.
+// Only the last paragraphs and the section are added to the tree, since later steps may change them. The rest is
+// appended directly to the finished text: parsing it would take most of the time of joining.
 bool clsWordComposer::appendAsItStands(const QString &path, const clsPlainText &plain)
 {
     if (plain.styles != m_styles.originalBytes())

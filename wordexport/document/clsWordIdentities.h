@@ -7,7 +7,7 @@
 #include <unordered_map>
 
 /// The values that must be unique in a document: the numbers of pictures, bookmarks and content controls, and the names
-/// of bookmarks. Uses counters, not random numbers: joining the same documents twice gives the same bytes.
+/// of bookmarks. Uses counters, not random numbers: joining the same documents twice produces the same bytes.
 class clsWordIdentities {
 public:
     /// Collects the values that the document already uses.

@@ -27,7 +27,7 @@ public:
     static clsZipPackage fromFile(const QString &path) { return fromFile(path, path); }
     static clsZipPackage fromFile(const QString &path, const QString &shownName);
 
-    /// The whole package: the same entries always give the same bytes, independent of the clock.
+    /// The whole package: the same entries always produce the same bytes, independent of the clock.
     QByteArray toBytes(Packing packing) const;
 
     const std::vector<Entry> &entries() const & { return m_entries; }

@@ -252,7 +252,7 @@ private:
     clsPages &m_pages;
     clsWordTableShape m_shape;
     bool m_mayGrow; ///< if no row may grow, the text of the cells makes no difference
-    clsWordTyped m_typed; // makes no difference to the printed text
+    clsWordTyped m_typed; // stays empty: template and typed text are measured alike
     std::map<int, Reaching> m_reaching; // by column
     qint64 m_above = 0;
 };

@@ -16,6 +16,6 @@ struct clsPlaceholderPlace {
     QRect row; ///< the cell's table row
 };
 
-/// The places of the placeholders in the table cells of a body of one page. Known down to the first row that is not of
-/// exact height.
+/// The places of the placeholders in the table cells of a body of one page. Available for the rows above the first one
+/// that is not of exact height.
 std::vector<clsPlaceholderPlace> mdPlaceholderPlaces(const pugi::xml_node &body, const clsWordLooks &looks);

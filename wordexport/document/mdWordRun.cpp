@@ -70,7 +70,7 @@ private:
 
     void addElement(char16_t c)
     {
-        // The plain character would show as another letter if the font is missing; every word processor draws the
+        // If the font is missing, the plain character would show as another letter; every word processor draws the
         // symbol element as a box.
         if (c == 0xFE || c == 0xA8) {
             xml_node symbol = m_run.append_child("w:sym");

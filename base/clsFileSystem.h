@@ -42,9 +42,10 @@ public:
     QByteArray ReadFile(const QString &path) const;
     /// Whether the file's content is exactly these bytes, without holding a second copy in memory.
     bool FileHolds(const QString &path, const QByteArray &bytes) const;
-    /// Copies a file with its permissions. If the copy has another group than the original, that group gets none. An
-    /// existing file at the target is deleted first and not written through, since it could be a link to the source. On
-    /// return the copy and its folder entry are on the disk; a failed copy leaves nothing at the target.
+    /// Copies a file with its permissions and, if possible, its group; otherwise the copy's group gets only the
+    /// permissions of others. An existing file at the target is deleted first and not written through, since it could
+    /// be a link to the source. On return the copy and its folder entry are on the disk; a failed copy leaves nothing
+    /// at the target.
     void CopyFile(const QString &from, const QString &to) const;
     /// Empties a file, or creates it readable by its owner only. An existing file keeps its permissions.
     void EmptyFile(const QString &path) const;

@@ -23,7 +23,8 @@ public:
     /// True once another program has taken over the turn.
     bool isLost() const;
 
-    /// Whether a program has its turn at the folder of the file at `path`, or died during it. Needs no write access.
+    /// Whether a program has its turn at the folder of the file at `path`, or died during it. Callers need no write
+    /// access.
     static bool isTaken(const QString &path);
 
 private:

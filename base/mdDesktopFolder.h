@@ -2,6 +2,7 @@
 
 #include <QString>
 
-/// The default export folder: the user's desktop. The folder "Desktop" in the variable "UserProfile" if that is set,
-/// otherwise the desktop of the user's directories; if that doesn't exist, the home folder. The result always exists.
+/// The default export folder: the user's desktop. If the variable "UserProfile" is set, its subfolder "Desktop";
+/// otherwise the desktop of the user's directories. If that doesn't exist, the home folder, so that the result always
+/// exists.
 QString mdDesktopFolder();

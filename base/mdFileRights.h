@@ -13,9 +13,9 @@ struct clsFileRights {
     /// The permissions of the file at a path, given its status.
     static clsFileRights of(const QByteArray &path, const struct stat &status);
 
-    /// Limits the group's permissions to those of others.
+    /// Replaces the group's permissions with those of others.
     void withoutGroup() { mode = (mode & ~mode_t(S_IRWXG)) | (mode & S_IRWXO) << 3; }
-    /// Applies them to a new file. If the file has another group, the group gets no permissions. A failure on a file
-    /// system without modes is ignored: the file was created private.
+    /// Applies them to a new file. If the group can't be set, the file's group gets only the permissions of others. A
+    /// failure on a file system without modes is ignored: the file was created private.
     void giveTo(int descriptor) const;
 };

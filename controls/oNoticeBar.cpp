@@ -170,7 +170,7 @@ void oNoticeBar::leaveFocusBehind()
     }
 }
 
-/// Buttons are reused if their captions match, so that a focused one keeps the focus.
+/// Existing buttons are reused, so that a focused one keeps the focus.
 void oNoticeBar::buildAnswers()
 {
     const auto &answers = shown().answers;

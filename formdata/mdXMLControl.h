@@ -46,7 +46,7 @@ clsXMLElement XMLLoadElement(const QString &xml, const char *name);
 /// The same from UTF-8; the element keeps the bytes.
 clsXMLElement XMLLoadElement(QByteArray utf8, const char *name);
 
-/// The serialisation of an element with its descendants, on one line: the same tree always gives the same text, which
+/// The serialisation of an element with its descendants, on one line: the same tree always has the same text, which
 /// is used to detect changes. Characters outside the file's code page are written as references.
 QString XMLElementOutput(pugi::xml_node node);
 /// True if the serialisation equals that text; doesn't build it.

@@ -15,16 +15,16 @@ constexpr int Decimals = 4;
 /// A positive number as a count of units of its fourteenth significant digit.
 struct clsFourteenDigits {
     std::int64_t count;
-    int exponent; ///< the power of ten that a unit stands for
+    int exponent; ///< the power of ten of one unit
 };
 
 // Digits of the decimal text of a number, in the form d.ddde+xx.
 clsFourteenDigits atFourteenDigits(double positive)
 {
     constexpr int Kept = 14;
-    // Where the last kept digit lies above the third decimal, an amount can lie exactly between two of its values, and
-    // the library would round to the even one. There the exact text is taken instead (such a number has at most sixteen
-    // decimals) and rounded away from zero; below, no number lies so that it would make a difference of a penny.
+    // If the last kept digit is above the third decimal, an amount can be exactly halfway between two of its values,
+    // which the library would round to even. The exact text is used instead (such a number has at most sixteen
+    // decimals) and rounded away from zero. Smaller numbers have no tie that would change a penny.
     constexpr double TiesMatter = 1e11;
     constexpr int ExactDecimals = 32;
     std::array<char, 48> text;
@@ -55,7 +55,7 @@ std::int64_t powerOfTen(int exponent)
     return power;
 }
 
-/// Divides, the half away from zero.
+/// Divides, rounding half away from zero.
 std::int64_t dividedAway(std::int64_t positive, std::int64_t divisor)
 {
     const std::int64_t rest = positive % divisor;
@@ -102,7 +102,7 @@ QString MoneyToText(Money amount)
 
 Money RoundMoney2(double pounds)
 {
-    // Beyond this lies no amount; it keeps the powers of ten below within 64 bits.
+    // Larger than any amount; keeps the powers of ten below within 64 bits.
     constexpr double OutOfRange = 1e15;
     if (!(std::abs(pounds) < OutOfRange))
         throw clsRunTimeError(clsRunTimeError::Overflow);
@@ -128,7 +128,7 @@ Money RoundMoney2(Money amount)
     const std::int64_t count = amount.tenThousandths();
     const std::int64_t rest = count % Money::PerPenny;
     const std::int64_t whole = count - rest;
-    // The outermost amounts end in 07 and 08, so that no rounding away from zero leaves the range.
+    // The largest and smallest amounts end in 07 and 08, so rounding away from zero can't leave the range.
     if (rest >= Money::PerPenny / 2)
         return Money::fromTenThousandths(whole + Money::PerPenny);
     if (rest <= -Money::PerPenny / 2)

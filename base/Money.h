@@ -6,8 +6,8 @@
 #include <compare>
 #include <cstdint>
 
-/// An amount of pounds, held as a signed 64-bit count of ten-thousandths: exact to four decimals, up to
-/// plus or minus 922,337,203,685,477.5807. Adding and subtracting is exact; what leaves the range raises error 6.
+/// An amount of pounds as a signed 64-bit count of ten-thousandths: exact to four decimals, up to plus or minus
+/// 922,337,203,685,477.5807. Addition and subtraction are exact; a result out of range raises error 6.
 class Money {
 public:
     static constexpr std::int64_t PerPound = 10'000;
@@ -48,20 +48,19 @@ private:
     std::int64_t m_tenThousandths = 0;
 };
 
-/// Strict: digits, commas between thousands (their places are not checked), one point, a sign in front, blanks around.
-/// More than four decimals are rounded half to even. A blank text or any other raises error 13, an amount out of range
-/// error 6.
+/// Strict: digits, commas between thousands (their positions are not checked), one point, a leading sign, blanks
+/// around. More than four decimals are rounded half to even. Blank or other text raises error 13, an amount out of
+/// range error 6.
 Money MoneyFromText(QStringView text);
 
-/// Multiplies by 10,000 and rounds half to even; error 6 for what is out of range or no number.
+/// Multiplies by 10,000 and rounds half to even; error 6 for NaN or a value out of range.
 Money MoneyFromDouble(double pounds);
 
 /// Plain decimal text: no grouping, no trailing zeros, no point for whole pounds.
 QString MoneyToText(Money amount);
 
-/// The amount to the penny, half away from zero on its decimal text. A double is first taken at fourteen significant
-/// digits, which is what makes 0.1 * 47.25 the 4.725 that it is on paper; error 6 for what is out of range or no
-/// number.
+/// Rounds to the penny, half away from zero, on the decimal text. A double is first reduced to fourteen significant
+/// digits, so that 0.1 * 47.25 is 4.725 as on paper; error 6 for NaN or a value out of range.
 Money RoundMoney2(double pounds);
-/// The same of an exact amount, which is rounded as it stands.
+/// The same for an exact amount, without that reduction.
 Money RoundMoney2(Money amount);

@@ -2,22 +2,22 @@
 
 #include "base/clsUserInterface.h"
 
-/// The interface of the headless tool: messages go to standard error, one block each, questions are answered with
-/// what changes nothing, and progress is one line that renews itself on a terminal.
+/// The user interface of the headless tool: messages go to standard error, one block each; questions get the answer
+/// that changes nothing; progress is one line, rewritten in place on a terminal.
 class clsConsoleUserInterface final : public clsUserInterface {
 public:
-    /// Progress is shown only where this is set and standard error is a terminal.
+    /// Progress is shown only if this is set and standard error is a terminal.
     bool showsProgress = true;
-    /// Where one failure draws several messages after it, only the first tells anything.
+    /// Shows only the first message of a subject, for failures that cause further messages.
     bool showsOnlyFirstMessage = false;
-    /// Where this is set, messages are added to it, their lines ending in CR LF, and not written.
+    /// If set, messages are appended to it, with lines ending in CR LF, instead of being written.
     QString *collectsIn = nullptr;
 
-    /// From here on messages are about something else, with which they begin.
+    /// Starts a new subject; its messages begin with `before`.
     void beginSubject(const QString &before);
-    /// The text of the last message about it that was told, without its title.
+    /// The text of the last message about the current subject, without its title.
     const QString &lastText() const { return m_lastText; }
-    /// How many of the messages told of a failure.
+    /// The number of messages that reported a failure.
     int failureCount() const { return m_failureCount; }
     /// Writes a block: the title, a colon, the text.
     void tell(const QString &title, const QString &text);

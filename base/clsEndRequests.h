@@ -4,8 +4,8 @@
 
 #include <csignal>
 
-/// The system's requests that the program ends, for one that waits for several things at once. While this object lives
-/// they wait at a descriptor; those that are ignored stay so. A program with an event loop has `clsEndSignalScope`.
+/// Requests to end the program, for code that waits on several descriptors at once. While this object lives the signals
+/// are queued at a descriptor; ignored signals stay ignored. A program with an event loop uses `clsEndSignalScope`.
 class clsEndRequests {
 public:
     clsEndRequests();
@@ -13,17 +13,17 @@ public:
     clsEndRequests(const clsEndRequests &) = delete;
     clsEndRequests &operator=(const clsEndRequests &) = delete;
 
-    /// Can be read where there is a request.
+    /// Readable when there is a request.
     int descriptor() const { return m_descriptor; }
-    /// The signal that has asked, or 0.
+    /// The signal received, or 0.
     int signal();
-    /// In a new process: it is told to end by this one alone, and not by the terminal beside it.
+    /// Call in a new child process: from then on only its parent ends it, not the terminal.
     void leaveToChild() const;
 
-    /// Writes to a stream of the process, and gives up where it is asked to end while the reader keeps it waiting.
-    /// False where not all was written; a reader that is gone counts as a request.
+    /// Writes to a stream of the process; gives up if a request to end arrives while the reader blocks. False if not
+    /// everything was written; a closed reader counts as a request.
     bool write(int descriptor, const QByteArray &bytes);
-    /// Ends the program as the signal would have.
+    /// Ends the program with the signal's default action.
     [[noreturn]] void endBySignal();
 
 private:

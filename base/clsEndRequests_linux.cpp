@@ -1,4 +1,4 @@
-// The requests to end as something that can be waited for, on Linux. Another platform needs this one file anew.
+// Requests to end as a descriptor, for Linux. Another platform needs its own version of this file.
 
 #include "base/clsEndRequests.h"
 
@@ -16,14 +16,14 @@ namespace {
 
 constexpr int EndSignals[] = {SIGINT, SIGTERM, SIGHUP};
 
-/// As where it was started so that it survives the end of its terminal.
+/// The program may have been started so that it survives the end of its terminal.
 bool isIgnored(int signal)
 {
     struct sigaction action = {};
     return ::sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
 }
 
-/// A pipe that is ready takes as much without making its writer wait.
+/// A pipe that polls as writable takes this much without blocking.
 constexpr qsizetype PieceOfOutput = PIPE_BUF;
 
 } // namespace

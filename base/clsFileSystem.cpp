@@ -1,4 +1,4 @@
-// The file operations on POSIX systems. Another platform needs this one file anew.
+// The file operations on POSIX systems. Another platform needs its own version of this file.
 
 #include "base/clsFileSystem.h"
 
@@ -21,13 +21,13 @@
 
 namespace {
 
-// More than a hundred times the largest claim. A file beyond it would take the machine's memory before it turned out
-// to be no claim.
+// More than a hundred times the largest claim. Reading a larger file would exhaust the memory before the program found
+// that it is no claim.
 constexpr qint64 LargestFile = 512 * 1024 * 1024;
 constexpr qsizetype CopyBlock = 256 * 1024;
 
 constexpr mode_t OwnerOnly = S_IRUSR | S_IWUSR;
-// A pipe must not hold the program up while it is found out that it is one.
+// Opening a pipe must not block the program before it has checked the file's type.
 constexpr int NeverBlock = O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
 
 clsFileFault asked(clsFileStep step, const QString &path)
@@ -43,7 +43,7 @@ clsFileFault asked(clsFileStep step, const QString &path)
     throw clsRunTimeError::fromSystem(systemError);
 }
 
-/// Runs one system call, after the test's fault point has been asked; an error where it fails.
+/// Runs one system call, after calling the test's fault point; raises an error if it fails.
 template <class Call> auto step(clsFileStep which, const QString &path, Call call)
 {
     if (const int fault = asked(which, path).systemError)
@@ -54,7 +54,7 @@ template <class Call> auto step(clsFileStep which, const QString &path, Call cal
     return result;
 }
 
-/// The path as the system takes it. It would end at a null character and so name another file.
+/// The path in the system's encoding. A null character would truncate it to the name of another file.
 QByteArray systemPath(const QString &path)
 {
     if (path.contains(QChar(u'\0')))
@@ -62,7 +62,7 @@ QByteArray systemPath(const QString &path)
     return QFile::encodeName(path);
 }
 
-/// An open file, closed at the latest when it goes out of scope.
+/// An open file, closed when it leaves scope at the latest.
 class clsOpenFile {
 public:
     clsOpenFile(clsFileStep which, const QString &path, int flags, mode_t mode = 0)
@@ -115,12 +115,12 @@ public:
         step(clsFileStep::SyncFile, m_path, [&] { return ::fsync(m_descriptor); });
     }
     void setRights(const clsFileRights &rights) const { rights.giveTo(m_descriptor); }
-    /// Closes it. A file system on a network may tell of a failed write only now.
+    /// Closes it. A network file system may report a failed write only now.
     void close()
     {
         const int descriptor = std::exchange(m_descriptor, -1);
         const int fault = asked(clsFileStep::Close, m_path).systemError;
-        // After an interrupted close the descriptor is gone all the same, and must not be closed twice.
+        // After an interrupted close the descriptor is already released and must not be closed again.
         const int failure = ::close(descriptor) < 0 && errno != EINTR ? errno : 0;
         if (fault || failure)
             fail(fault ? fault : failure, m_path);
@@ -143,7 +143,7 @@ private:
     int m_descriptor;
 };
 
-/// Brings the entries of a file's folder to the disk.
+/// Flushes the folder entries of a file's folder to the disk.
 void syncFolderOf(const QString &path)
 {
     const QByteArray folder = mdRealFolder(path);
@@ -162,7 +162,7 @@ bool anythingAt(const QString &path)
 
 void copyContent(const clsOpenFile &source, const QString &to, const clsFileRights &rights)
 {
-    // Born empty and private; it gets the original's rights before its content.
+    // Created empty and private; gets the original's permissions before its content.
     clsOpenFile target(clsFileStep::OpenToWrite, to, O_WRONLY | O_CREAT | O_EXCL, OwnerOnly);
     target.setRights(rights);
     QByteArray block(CopyBlock, Qt::Uninitialized);
@@ -249,7 +249,7 @@ void clsFileSystem::CopyFile(const QString &from, const QString &to) const
     try {
         copyContent(source, to, rights);
     } catch (...) {
-        // Half a copy beside the whole original would only mislead whoever looks for the better of the two.
+        // Half a copy beside the complete original would mislead a user who has to choose between them.
         mdUninterrupted([native = systemPath(to)] { return ::unlink(native.constData()); });
         throw;
     }
@@ -304,8 +304,8 @@ void clsFileSystem::RenameFile(const QString &from, const QString &to) const
 
 clsFileSystem &FileSystem()
 {
-    // A test lets operations fail at its fault point, wherever they are called. One for each thread: what goes on in
-    // the background must not meet a fault point that is just being set.
+    // Tests make operations fail at its fault point. One for each thread, because a background operation must not call
+    // a fault point while it is being set.
     static thread_local clsFileSystem fileSystem;
     return fileSystem;
 }

@@ -5,7 +5,7 @@
 
 #include <functional>
 
-/// The single steps of the file operations, in the order in which a guarded overwrite meets them.
+/// The steps of the file operations, in the order of a guarded overwrite.
 enum class clsFileStep {
     Inspect,
     OpenToRead,
@@ -20,47 +20,47 @@ enum class clsFileStep {
     Rename
 };
 
-/// What becomes of a step: nothing out of the ordinary as long as neither field is set.
+/// The fault to inject into a step; none while both fields are unset.
 struct clsFileFault {
     int systemError = 0; ///< an errno value; the step fails with it
-    qint64 atMost = -1; ///< bytes that this one read or write lets pass, before it fails where `systemError` is set
+    qint64 atMost = -1; ///< bytes that this read or write transfers, before it fails if `systemError` is set
 };
 
-/// The file operations of the core, and the one place that asks the operating system for them. An operation that fails
-/// raises a clsRunTimeError. Symbolic links are followed and kept.
+/// All file operations of the core; only this class calls the operating system for them. A failed operation raises
+/// clsRunTimeError. Symbolic links are followed and kept.
 class clsFileSystem {
 public:
-    /// True for a file of any kind that is not a folder. An error where that can't be told: taking "can't tell" for
-    /// "no" would lead an overwrite to spare the copy that guards it.
+    /// True for any file that is not a folder. Raises an error if that can't be determined: with "no" as the answer, an
+    /// overwrite would skip its backup copy.
     bool FileExists(const QString &path) const;
-    /// True for a folder that can be reached; never an error.
+    /// True for a folder that can be reached; never raises an error.
     bool FolderExists(const QString &path) const;
-    /// True where no file can have the name, since it has more characters than a name may have here.
+    /// True if the name has more characters than this file system allows.
     bool NameIsTooLong(const QString &path) const;
 
-    /// The whole content. Only a regular file is read: a pipe or a device could block for ever or never end.
+    /// The whole content. Reads only regular files: a pipe or a device could block or never end.
     QByteArray ReadFile(const QString &path) const;
-    /// Whether a file holds these bytes and no others, without a second copy of them in memory.
+    /// Whether the file's content is exactly these bytes, without holding a second copy in memory.
     bool FileHolds(const QString &path, const QByteArray &bytes) const;
-    /// Copies a file with its permissions, of which another group than the file's gets nothing. A file that is already
-    /// at the target is taken away first and not written through, since it could be a link to the very file that is
-    /// copied. The copy is on the disk, with its entry in the folder, when this returns; a copy that fails leaves
-    /// nothing at the target.
+    /// Copies a file with its permissions and, if possible, its group; otherwise the copy's group gets only the
+    /// permissions of others. An existing file at the target is deleted first and not written through, since it could
+    /// be a link to the source. On return the copy and its folder entry are on the disk; a failed copy leaves nothing
+    /// at the target.
     void CopyFile(const QString &from, const QString &to) const;
-    /// Empties a file or creates it, readable by its owner only. An existing file keeps its permissions.
+    /// Empties a file, or creates it readable by its owner only. An existing file keeps its permissions.
     void EmptyFile(const QString &path) const;
-    /// Writes a file from its start; the bytes, and the file's entry in its folder, are on the disk when this returns.
+    /// Writes a file from its start; on return the bytes and the folder entry are on the disk.
     void WriteFile(const QString &path, const QByteArray &bytes) const;
     void DeleteFile(const QString &path) const;
-    /// Gives a file another name in its folder, and takes away what bore it before: at every moment one of the two is
-    /// there, whole. The name is on the disk when this returns.
+    /// Renames a file within its folder, replacing any file of that name: at every moment one of the two exists,
+    /// complete. On return the new name is on the disk.
     void RenameFile(const QString &from, const QString &to) const;
-    /// Makes a folder that only its owner can look into. One that is there already stays as it is.
+    /// Creates a folder that only its owner can open. An existing one is not changed.
     void CreateFolder(const QString &path) const;
-    /// The same, with those that are missing on the way to it.
+    /// The same, with any missing parent folders.
     void CreateFolders(const QString &path) const;
 
-    /// Asked before each step; for tests, which let steps fail here or end the process between two of them.
+    /// Called before each step. Tests use it to make steps fail or to end the process between two steps.
     std::function<clsFileFault(clsFileStep step, const QString &path)> faultPoint;
 };
 

@@ -15,7 +15,7 @@ void clsFileWatch::wasRead(const QString &path, const std::optional<clsFileStamp
     wasKnown(path, {});
     try {
         const QByteArray mark = markOf(FileSystem().ReadFile(path));
-        // Where it changed meanwhile, which of the two contents was read is not known.
+        // If the file changed meanwhile, it is unclear which content was read.
         if (before && FileStamp(path) == before) {
             m_mark = mark;
             m_stamp = before;

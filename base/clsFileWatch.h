@@ -13,20 +13,20 @@ public:
     void forget() { *this = {}; }
     /// The file was read between the stamp and now.
     void wasRead(const QString &path, const std::optional<clsFileStamp> &before);
-    /// These bytes were written to it just now.
+    /// These bytes have just been written to it.
     void wasWritten(const QString &path, const QByteArray &bytes);
-    /// This program tried to write it and failed: what lies there now is no other program's doing.
+    /// This program tried to write it and failed: its present content doesn't count as another program's change.
     void wasLeft(const QString &path);
-    /// Its content was this when it was last read or written, by an earlier run of the program.
+    /// `mark` is its content as an earlier run of the program last read or wrote it.
     void wasKnown(const QString &path, const QByteArray &mark);
 
     /// What stands for a content.
     static QByteArray markOf(const QByteArray &bytes);
 
     const QString &path() const { return m_path; }
-    /// What stands for the content that this program knows.
+    /// The mark of the last content that this program read or wrote.
     const QByteArray &mark() const { return m_mark; }
-    /// When another program changed it; nothing where none has. The file is read only where its stamp is a new one.
+    /// The time of another program's change; nothing if there is none. Reads the file only if its stamp has changed.
     std::optional<QDateTime> changedByOthers();
     /// Whether it could not be read when that was asked last.
     bool isUnreadable() const { return m_isUnreadable; }

@@ -4,9 +4,9 @@
 
 class QString;
 
-/// Keeps the other programs of this machine out of a folder for as long as it lives. It stands on the folder itself,
-/// so that anyone who may read the folder can hold it: only for folders that are one user's alone. Where a file system
-/// knows no such locks there is none. An error where another program doesn't let go in time.
+/// Keeps other programs of this machine out of a folder while it lives. The lock is on the folder itself, and anyone
+/// with read access can hold it: use it only for folders private to one user. Without effect on a file system without
+/// locks. Raises an error if another program doesn't release its lock in time.
 class clsFolderLock {
 public:
     enum class Wait { AWhile, NotAtAll };
@@ -16,7 +16,7 @@ public:
     clsFolderLock(const clsFolderLock &) = delete;
     clsFolderLock &operator=(const clsFolderLock &) = delete;
 
-    /// False where the folder was deleted while this program waited for it, so that the lock is of no use.
+    /// False if the folder was deleted while this program waited for the lock, which is then useless.
     bool isOfWhatIsThere() const;
 
 private:

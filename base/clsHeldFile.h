@@ -2,25 +2,25 @@
 
 #include <QString>
 
-/// An empty lock file that tells this user's other programs that the program is running. The system releases the lock
+/// An empty lock file that shows this user's other programs that the program is running. The system releases the lock
 /// however the program ends. On a file system without locks the state is unknown.
 class clsHeldFile {
 public:
     enum class clsState { Free, Held, Unknown };
 
-    /// Makes the file where it is missing, and holds it unless another program does.
+    /// Creates the file if missing, and locks it unless another program holds the lock.
     explicit clsHeldFile(const QString &path);
-    /// Lets go of it; the file stays.
+    /// Releases the lock; the file stays.
     ~clsHeldFile();
     clsHeldFile(const clsHeldFile &) = delete;
     clsHeldFile &operator=(const clsHeldFile &) = delete;
 
-    /// Whether it is this object's. Also true where the file system knows no locks.
+    /// Whether this object holds the lock. Also true on a file system without locks.
     bool isHeld() const { return m_descriptor >= 0; }
 
-    /// Whether a program holds the file. A missing one is free.
+    /// Whether a program holds the file's lock. A missing file is free.
     static clsState of(const QString &path);
-    /// Whether a process of this machine runs, where a file can't tell.
+    /// Whether a process is running on this machine, for cases where a file can't show it.
     static bool processRuns(qint64 process);
 
 private:

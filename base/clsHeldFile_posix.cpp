@@ -1,4 +1,4 @@
-// Held files on POSIX systems. Another platform needs this one file anew.
+// Held files on POSIX systems. Another platform needs its own version of this file.
 
 #include "base/clsHeldFile.h"
 
@@ -21,7 +21,7 @@ namespace {
 constexpr int Flags = O_RDWR | O_NOFOLLOW | O_CLOEXEC;
 constexpr mode_t OwnerOnly = S_IRUSR | S_IWUSR;
 
-// One that looks whether the file is held has it for a moment.
+// A program that checks the lock holds it for a moment.
 constexpr int Tries = 20;
 constexpr std::chrono::milliseconds BetweenTries(5);
 
@@ -65,7 +65,7 @@ clsHeldFile::clsState clsHeldFile::of(const QString &path)
         = mdUninterrupted([native = QFile::encodeName(path)] { return ::open(native.constData(), Flags); });
     if (descriptor < 0)
         return errno == ENOENT ? clsState::Free : clsState::Unknown;
-    // Shared, so that two that look don't take each other for the holder.
+    // A shared lock, so that two programs that check at once don't take each other for the holder.
     const int error = mdUninterrupted([descriptor] { return ::flock(descriptor, LOCK_SH | LOCK_NB); }) < 0 ? errno : 0;
     ::close(descriptor);
     return error == 0 ? clsState::Free : isBusy(error) ? clsState::Held : clsState::Unknown;

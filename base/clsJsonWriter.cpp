@@ -7,7 +7,7 @@
 
 namespace {
 
-/// The library escapes the control characters below the blank; a terminal obeys those from 7F to 9F too.
+/// The library escapes the control characters below the blank; terminals also act on 7F to 9F.
 QByteArray withControlsEscaped(QByteArray json)
 {
     for (char16_t control = 0x7f; control <= 0x9f; ++control)
@@ -15,7 +15,7 @@ QByteArray withControlsEscaped(QByteArray json)
     return json;
 }
 
-/// The library's own quoting of an array with one text, without its brackets.
+/// The library's quoting: an array of one text, without its brackets.
 QByteArray quoted(const QString &text)
 {
     return withControlsEscaped(QJsonDocument(QJsonArray {text}).toJson(QJsonDocument::Compact).mid(1).chopped(1));
@@ -43,7 +43,7 @@ void clsJsonWriter::text(const char *key, const QString &value)
 
 void clsJsonWriter::written(const char *key, QByteArray json)
 {
-    // No text of it holds a line feed: there it is escaped.
+    // No string in it contains a line feed; the library escapes them.
     json.chop(json.endsWith('\n') ? 1 : 0);
     raw(key, json.replace('\n', '\n' + QByteArray(m_depth, ' ')));
 }

@@ -5,8 +5,7 @@
 
 #include <string>
 
-/// Writes JSON in the order in which it is told, which the library's own objects, sorted by key, can't keep. Keys are
-/// plain words.
+/// Writes JSON in the order of the calls; the library's objects are sorted by key. Keys are plain words.
 class clsJsonWriter {
 public:
     void beginObject(const char *key = nullptr) { open(key, '{'); }
@@ -18,14 +17,14 @@ public:
     void number(const char *key, int value) { raw(key, QByteArray::number(value)); }
     void decimal(const char *key, double value) { raw(key, QByteArray::number(value)); }
     void nothing(const char *key) { raw(key, "null"); }
-    /// An object or a list that another writer has written.
+    /// An object or list from another writer.
     void written(const char *key, QByteArray json);
     void boolean(const char *key, bool value) { raw(key, value ? "true" : "false"); }
 
-    /// Makes room for so many bytes more: what is written in pieces would else be copied as it grows.
+    /// Reserves space for that many more bytes, to avoid copying as the buffer grows.
     void expect(qsizetype bytes) { m_bytes.reserve(m_bytes.size() + bytes); }
 
-    /// All that was written.
+    /// Everything written so far.
     const QByteArray &bytes()
     {
         flush();
@@ -45,7 +44,7 @@ private:
     void flush();
 
     QByteArray m_bytes;
-    std::string m_text; ///< what comes behind it: text grows quickly here, and without being copied there
+    std::string m_text; ///< collects text for m_bytes, so that m_bytes isn't copied for each addition
     int m_depth = 0;
     bool m_first = true;
 };

@@ -1,8 +1,8 @@
 #pragma once
 
-/// Thrown where the program can't go on and the user has been told why. Each program catches it at its top and ends
-/// with the status; nothing below calls exit(), so that whatever is open is closed on the way. It is no std::exception,
-/// lest a trap for ordinary failures hold it up.
+/// Thrown when the program can't continue, after a message with the reason. Each program catches it at its top level
+/// and ends with this status; no lower code calls exit(), so destructors run. Not a std::exception, so that handlers
+/// for ordinary failures don't catch it.
 struct clsProgramEnd {
     int exitStatus = 1;
 };

@@ -2,8 +2,8 @@
 
 #include "base/clsUserInterface.h"
 
-/// An interface that shows nothing and answers so that nothing changes: the one in force until a program sets its own.
-/// Whoever needs only a few of its functions, such as a test, overrides those.
+/// A user interface that shows nothing and answers so that nothing changes: the default until a program sets one. Tests
+/// that need only a few functions override those.
 class clsQuietUserInterface : public clsUserInterface {
 public:
     Answer customMessage(const QString &, const QString &, Buttons buttons, int, int) override

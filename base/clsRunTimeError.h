@@ -5,9 +5,9 @@
 #include <exception>
 #include <string>
 
-/// A failure that nothing below the top catches: one number, one description.
-/// The numbers are the classic ones of this system's messages; whoever meets a failure of the operating system
-/// maps it to one of them, so that a user sees the same words whatever the cause's own wording is.
+/// A failure that is handled only at the top level: one number, one description. The numbers are the classic ones of
+/// this system's messages. Failures of the operating system are mapped to them, so that the user sees the same words
+/// for the same failure.
 class clsRunTimeError : public std::exception {
 public:
     enum Number {
@@ -38,17 +38,17 @@ public:
 
     /// The error with its standard description.
     explicit clsRunTimeError(int number);
-    /// The error with a description of its own, for failures that the standard words would hide (a damaged document).
+    /// The error with another description, for failures that the standard one would hide (a damaged document).
     clsRunTimeError(int number, const QString &description);
 
-    /// Number and description, made when they are asked for: a large claim may meet thousands of errors.
+    /// Number and description, built on demand: a large claim may raise thousands of errors.
     const char *what() const noexcept override;
     int number() const { return m_number; }
     const QString &description() const { return m_description; }
-    /// What in the claim it comes from, as in "Schedule item 12 names a fee earner that no longer exists"; empty where
-    /// no more is known than the description.
+    /// The part of the claim that caused it, as in "Schedule item 12 names a fee earner that no longer exists"; empty
+    /// if unknown.
     const QString &cause() const { return m_cause; }
-    /// The same error with its cause. A cause that it has already is nearer to the fault, and stays.
+    /// The same error with a cause. An existing cause is nearer to the fault and is kept.
     clsRunTimeError because(const QString &cause) const;
 
     /// The error for an errno value of the operating system.

@@ -4,7 +4,7 @@
 
 namespace {
 
-// One for the program: routines of all floors ask the user, and are not handed who answers.
+// One for the program: routines on all floors ask the user and don't get the interface as an argument.
 clsQuietUserInterface quietUserInterface;
 clsUserInterface *current = &quietUserInterface;
 

@@ -2,9 +2,8 @@
 
 #include <QString>
 
-/// Everything that the core tells or asks the user, in one small interface.
-/// The core opens no box, moves no bar and plays no sound by itself: windows, the console and the tests each
-/// stand behind this door with an implementation of their own.
+/// All messages and questions from the core to the user. The core opens no box, moves no bar and plays no sound itself:
+/// the windows, the console and the tests each implement this interface.
 class clsUserInterface {
 public:
     /// Answers of a message box.
@@ -16,43 +15,43 @@ public:
 
     virtual ~clsUserInterface() = default;
 
-    /// The answer that changes nothing, for whoever can't ask: OK, No or Cancel by the set of buttons.
+    /// The answer that changes nothing, for implementations that can't ask: OK, No or Cancel depending on the buttons.
     static Answer answerThatChangesNothing(Buttons buttons);
 
-    /// The system's own message box; `icon` is 0, 1 or 2, `timeout` is in seconds, 0 means no countdown.
+    /// The system's message box; `icon` is 0, 1 or 2, `timeout` is in seconds, 0 means no countdown.
     virtual Answer customMessage(const QString &message, const QString &title, Buttons buttons, int icon, int timeout)
         = 0;
-    /// The plain box of the system, for failures that lie below the program's own windows: silent, without a countdown.
+    /// The plain system box, for failures below the level of the program's windows: silent, without a countdown.
     virtual Answer systemMessage(const QString &message, const QString &title, SystemIcon icon, Buttons buttons) = 0;
 
-    /// A line that tells what was done beside what was asked for, and goes by itself.
+    /// A line that reports what was done in addition to the request; it disappears after a while.
     virtual void tellLine(const QString &) { }
 
-    /// Long work reports how far it is: `value` of `maximum`, with a text.
+    /// Shows the progress of long work: `value` of `maximum`, with a text.
     virtual void showProgress(int value, int maximum, const QString &text) = 0;
     virtual void clearProgress() = 0;
 
-    /// Asks for a folder, beginning at `start` where that is one; empty when the user gave none.
+    /// Asks for a folder, starting at `start` if that is a folder; empty if the user cancels.
     virtual QString chooseFolder(const QString &prompt, const QString &start) = 0;
-    /// Asks for a file to open or to save; empty when the user gave none.
+    /// Asks for a file to open or to save; empty if the user cancels.
     virtual QString chooseFileToOpen(const QString &filter) = 0;
-    /// The file's name ends in the extension, in capitals or not, whatever was typed.
+    /// The result always ends in the extension, in upper or lower case.
     virtual QString chooseFileToSave(const QString &filter, const QString &defaultExtension) = 0;
-    /// Asks for a file to export to, and proposes one; the user has agreed to replace one that is there. Empty when the
-    /// user gave none.
+    /// Asks for a file to export to, proposing one; the user has confirmed the replacement of an existing file. Empty
+    /// if the user cancels.
     virtual QString chooseFileToExport(const QString &filter, const QString &extension, const QString &proposed) = 0;
 
     /// Plays a wave file in the background; a failure is silent.
     virtual void playSound(const QString &path) = 0;
-    /// Opens a document or address with the desktop's own handler; true on success.
+    /// Opens a document or address with the desktop's handler; true on success.
     virtual bool openTarget(const QString &target) = 0;
 };
 
-/// The interface in force. There is always one: until a program sets its own, a silent one that answers
-/// OK, Cancel or No, so that a core routine called early can't fail for want of a listener.
+/// The current user interface. Never null: until a program sets one, a silent one answers OK, Cancel or No, so that
+/// core routines can be called early.
 clsUserInterface &UserInterface();
 
-/// Puts an interface in force for as long as this object lives, then the one before it again.
+/// Sets the current user interface while this object lives, then restores the previous one.
 class clsUserInterfaceScope {
 public:
     explicit clsUserInterfaceScope(clsUserInterface &userInterface);

@@ -1,5 +1,5 @@
-// Processes that work through jobs, on Linux: the requests to end are read from a descriptor. Another platform needs
-// this one file anew.
+// Worker processes on Linux; requests to end are read from a descriptor. Another platform needs its own version of this
+// file.
 
 #include "base/clsWorkers.h"
 
@@ -24,11 +24,11 @@
 
 namespace {
 
-/// What waits for its turn, in bytes, before no further job is given out.
+/// The bytes of waiting results above which no further job is started.
 constexpr qsizetype MostWaiting = 32 << 20;
-/// What a worker may grow by before a new one takes its place, in kilobytes.
+/// The growth in kilobytes after which a worker is replaced.
 constexpr long MostGrowth = 64 << 10;
-/// How long workers are given to clear up after themselves when the work is stopped.
+/// The time that workers get to clean up when the work is stopped.
 constexpr std::chrono::milliseconds TimeToEnd(600);
 struct clsResultHead {
     qint64 job;
@@ -73,7 +73,7 @@ long peakMemory()
 
 } // namespace
 
-/// One run through a row of jobs.
+/// One run through a list of jobs.
 class clsWorkers::clsRun {
 public:
     clsRun(const Row &row, clsEndRequests &requests)
@@ -99,10 +99,10 @@ public:
 private:
     struct clsWorker {
         pid_t process = 0;
-        int jobs = -1; ///< where it is told its jobs
+        int jobs = -1; ///< the pipe for its jobs
         int results = -1;
-        std::deque<qsizetype> inHand {}; ///< the first is being worked on
-        QByteArray arrived {}; ///< of a result that is not whole yet
+        std::deque<qsizetype> inHand {}; ///< the first is running
+        QByteArray arrived {}; ///< bytes of an incomplete result
 
         bool isRunning() const { return process > 0; }
     };
@@ -124,9 +124,9 @@ private:
     clsEndRequests &m_requests;
     std::vector<clsWorker> m_workers;
     qsizetype m_nextJob = 0;
-    std::deque<qsizetype> m_returned; ///< from workers that ended before they came to them
+    std::deque<qsizetype> m_returned; ///< from workers that ended before starting them
     qsizetype m_nextToTake = 0;
-    std::map<qsizetype, QByteArray> m_waiting; ///< results whose turn has not come
+    std::map<qsizetype, QByteArray> m_waiting; ///< results not yet due
     qsizetype m_bytesWaiting = 0;
 };
 
@@ -141,10 +141,10 @@ qsizetype clsWorkers::clsRun::takeJob()
 
 void clsWorkers::clsRun::giveOut()
 {
-    // Round by round, so that the last jobs are shared by all.
+    // One job per worker and round, so that all workers share the last jobs.
     for (size_t ahead = 1; ahead <= size_t(m_row.ahead); ++ahead)
         for (clsWorker &worker : m_workers) {
-            // The one that all others wait for is always given out.
+            // The job whose result is due next is always started.
             const bool isAwaited = !m_returned.empty() || m_nextJob == m_nextToTake;
             if (!hasJob() || (m_bytesWaiting > MostWaiting && !isAwaited))
                 return;
@@ -154,7 +154,7 @@ void clsWorkers::clsRun::giveOut()
                 start(worker);
             const qint64 job = takeJob();
             worker.inHand.push_back(job);
-            // One that is just ending is seen to end where its results are read.
+            // If the worker is just ending, the reader of its results notices.
             (void)writeAll(worker.jobs, &job, sizeof job);
         }
 }
@@ -172,7 +172,7 @@ void clsWorkers::clsRun::start(clsWorker &worker)
     }
     const pid_t process = ::fork();
     if (process == 0) {
-        // A pipe ends when the last process has closed it: the others' are none of this one's.
+        // A pipe ends only when the last process has closed it, so this one closes its copies of the others'.
         for (const clsWorker &other : m_workers)
             if (other.isRunning()) {
                 ::close(other.jobs);
@@ -203,7 +203,7 @@ void clsWorkers::clsRun::beWorker(int jobs, int results)
         const long atStart = peakMemory();
         qint64 job = 0;
         status = 0;
-        // The end of the jobs is also the end of the program that gave them.
+        // The end of the jobs also means that the parent has ended.
         while (readAll(jobs, &job, sizeof job)) {
             const QByteArray result = m_row.work(job);
             const clsResultHead head {job, result.size()};
@@ -215,7 +215,7 @@ void clsWorkers::clsRun::beWorker(int jobs, int results)
     } catch (...) {
         status = 1;
     }
-    // Without what an ordinary end would do a second time for the process that this one was made from.
+    // Skips the exit handlers, which belong to the parent process.
     ::_exit(status);
 }
 
@@ -274,7 +274,7 @@ void clsWorkers::clsRun::ended(clsWorker &worker)
     ::close(worker.results);
     std::deque<qsizetype> left = std::move(worker.inHand);
     worker = {};
-    // One that ended in order had nothing in hand: the jobs that it was given in advance are for another one.
+    // A worker that ended normally had no job running: its queued jobs are given to another.
     if (!left.empty() && status != 0) {
         m_row.sweep(left.front());
         keep(left.front(), m_row.lost(left.front(), WIFSIGNALED(status) ? WTERMSIG(status) : 0));
@@ -314,7 +314,7 @@ void clsWorkers::clsRun::stop()
     for (clsWorker &worker : m_workers) {
         if (!worker.isRunning())
             continue;
-        // What it still tells is read away, so that it need not wait for its reader.
+        // Drains its output, so that it doesn't block on a full pipe.
         for (char piece[4096];;) {
             const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(until - clock::now()).count();
             pollfd results {worker.results, POLLIN, 0};
@@ -337,7 +337,7 @@ void clsWorkers::clsRun::stop()
 
 bool clsWorkers::run(const Row &row)
 {
-    // A worker that has ended is seen by its silence.
+    // Ignored: the end of a worker is detected at its results pipe.
     const auto before = std::signal(SIGPIPE, SIG_IGN);
     bool isDone = false;
     try {

@@ -5,24 +5,26 @@
 class QString;
 struct stat;
 
-/// A program's turn at writing in a folder, for as long as it lives: a guarded overwrite in the midst of another would
-/// leave a mixture of both. It is a hidden file in that folder that only those can open who may write there, and it is
-/// removed with the turn. Only writers wait for it. A program that doesn't let go in time loses its turn to the next.
+/// A program's turn at writing in a folder, while this object lives: two guarded overwrites at once would leave a
+/// mixture of both. The lock is a hidden file in that folder, which only users with write access to the folder can
+/// open; it is deleted at the end of the turn. Only writers wait for it. A program that doesn't finish in time loses
+/// its turn to the next.
 class clsWriteLock {
 public:
-    /// Takes the turn at the folder in which the file at `path` lies.
+    /// Takes the turn at the folder of the file at `path`.
     explicit clsWriteLock(const QString &path);
     ~clsWriteLock();
     clsWriteLock(const clsWriteLock &) = delete;
     clsWriteLock &operator=(const clsWriteLock &) = delete;
 
-    /// True where another program may be writing at the same time: the turn was taken from it, or could not be had.
-    /// False also where the file system knows no locks, since nothing can be done about that.
+    /// True if another program may be writing at the same time: the turn was lost or could not be taken. False on a
+    /// file system without locks, where nothing can be done.
     bool isDoubtful() const { return m_doubtful; }
-    /// True once the turn has been taken away.
+    /// True once another program has taken over the turn.
     bool isLost() const;
 
-    /// Whether a program has its turn at the folder of the file at `path`, or died in it. Anyone may ask.
+    /// Whether a program has its turn at the folder of the file at `path`, or died during it. Callers need no write
+    /// access.
     static bool isTaken(const QString &path);
 
 private:

@@ -31,7 +31,7 @@ QByteArray lockFileFor(const QString &path)
     return mdRealFolder(path) + "/.velmor-zr3.lock";
 }
 
-/// Lets those open a new lock file who may write in its folder, and no others.
+/// Lets exactly the users with write access to the folder open a new lock file.
 void share(int descriptor, const QByteArray &folder)
 {
     struct stat own = {}, around = {};
@@ -45,7 +45,7 @@ void share(int descriptor, const QByteArray &folder)
         mode |= Group;
     if (around.st_mode & S_IWOTH)
         mode |= Others;
-    // Where it fails, or the file system has no modes, the others wait for the file to go.
+    // If it fails, or the file system has no modes, the others wait until the file is deleted.
     if (mode != OwnerOnly)
         (void)mdUninterrupted([&] { return ::fchmod(descriptor, mode); });
 }
@@ -60,7 +60,7 @@ bool isWithoutLocks(int error)
     return error == ENOLCK || error == ENOSYS || error == EOPNOTSUPP || error == EINVAL;
 }
 
-/// Who has the turn, as far as can be seen from outside.
+/// The holder of the turn, as far as other programs can see.
 struct clsHolder {
     explicit clsHolder(const QByteArray &file)
     {
@@ -69,7 +69,7 @@ struct clsHolder {
     }
     bool operator==(const clsHolder &other) const
     {
-        // The system gives a number that is free again to the next file.
+        // The time is compared too, because the system reuses the inode numbers of deleted files.
         return status.st_dev == other.status.st_dev && status.st_ino == other.status.st_ino
             && status.st_ctim.tv_sec == other.status.st_ctim.tv_sec
             && status.st_ctim.tv_nsec == other.status.st_ctim.tv_nsec;
@@ -90,7 +90,7 @@ clsWriteLock::~clsWriteLock()
 {
     if (m_descriptor < 0)
         return;
-    // While it is locked: a program that gets the lock of a file that is gone sees that, and tries again.
+    // Deleted while locked: a program that gets the lock of a deleted file notices that and tries again.
     if (isThere())
         (void)mdUninterrupted([&] { return ::unlink(m_file.constData()); });
     ::close(m_descriptor);
@@ -107,7 +107,7 @@ void clsWriteLock::wait()
     while ((result = tryToTake()) == Result::Busy) {
         const clsHolder now(m_file);
         if (!(now == holder)) {
-            // One more turn has been taken: the others are getting on.
+            // Another program has taken a turn, so the queue is moving.
             holder = now;
             until = clock::now() + LongestWaitForLock;
         }

@@ -1,4 +1,4 @@
-// Access lists on Linux. Another system needs this one file anew.
+// Access lists on Linux. Another system needs its own version of this file.
 
 #include "base/mdAccessList.h"
 

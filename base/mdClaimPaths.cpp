@@ -14,9 +14,9 @@ namespace {
 namespace fs = std::filesystem;
 
 struct clsEntry {
-    QByteArray name; ///< as the system gives it
+    QByteArray name; ///< in the system's encoding
     bool isFolder;
-    /// By which the entries of a folder stand as the paths below it do.
+    /// Sorts the entries of a folder in the order of the paths below it.
     QString key;
 };
 
@@ -25,8 +25,8 @@ bool isClaim(const QByteArray &name)
     return name.toLower().endsWith(".zr3");
 }
 
-/// Links to folders are not followed. What is neither a folder nor a file can't be a claim; a link that leads nowhere
-/// is one that has vanished.
+/// Links to folders are not followed. Only folders and files can be or hold claims; a dangling link counts as a claim
+/// that has disappeared.
 bool isOfInterest(const fs::directory_entry &entry, const QByteArray &name, bool &isFolder)
 {
     std::error_code error;

@@ -2,7 +2,7 @@
 
 namespace {
 
-// A test sets the time for all that asks for it.
+// Tests set the time for all callers.
 std::function<QDateTime()> clockInForce;
 
 } // namespace

@@ -4,8 +4,8 @@
 
 #include <functional>
 
-/// The present date and time of this place.
+/// The current local date and time.
 QDateTime Now();
 
-/// Puts another clock in force, for tests; an empty one puts the system's back.
+/// Replaces the clock, for tests; an empty function restores the system's.
 void SetClock(std::function<QDateTime()> clock);

@@ -35,7 +35,7 @@ char byteOf(char16_t c)
 
 bool mdIsPlainAscii(QByteArrayView bytes)
 {
-    // Eight bytes at a time, since nearly every file is plain and is looked at to its end.
+    // Eight bytes at a time, since nearly every file is plain ASCII and is scanned to its end.
     constexpr std::uint64_t HighBits = 0x8080808080808080;
     const char *at = bytes.data();
     const char *const end = at + bytes.size();

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// The path of a file's address, or the text itself where it is none.
+/// The path of a file URL, or the text itself if it is none.
 QString withoutAddress(const QString &text)
 {
     QUrl address(text);
@@ -20,7 +20,7 @@ QString withoutAddress(const QString &text)
     return address.toLocalFile();
 }
 
-/// The full path, without "." and ".." where the file is the same without them: behind a link to a folder it is not.
+/// The full path. "." and ".." are removed only if that leads to the same file; behind a link to a folder it doesn't.
 QString fullPath(const QString &path)
 {
     const QString full = QDir::current().absoluteFilePath(path);
@@ -37,7 +37,7 @@ bool isUtf8(const QByteArray &name)
     return address.toLocalFile().isEmpty() || !mdLocalFile(address).isEmpty();
 }
 
-/// A name with the bytes that can't be shown written out.
+/// A name with unprintable bytes written out.
 QString shown(const QByteArray &name)
 {
     QString text;
@@ -52,11 +52,10 @@ QString shown(const QByteArray &name)
 QString CommandLinePath(const QStringList &arguments)
 {
     QString path = arguments.join(u' ');
-    // Quotes come from the shell and are removed, unless a file of exactly this name exists: names may hold quotes
-    // here.
+    // Quotes come from the shell and are removed, unless a file of exactly this name exists: names may contain quotes.
     if (!QFileInfo::exists(path))
         path = withoutAddress(path.remove(u'"'));
-    // The claim keeps its path, which must be good wherever the program stands later.
+    // The claim keeps its path, which must stay valid when the current folder changes.
     return path.isEmpty() ? path : fullPath(path);
 }
 

@@ -3,12 +3,12 @@
 #include <QString>
 #include <QStringList>
 
-// Tables as text, by RFC 4180: a comma between cells, CR LF behind each line, quotes only where a cell needs them.
+// Tables as text, by RFC 4180: commas between cells, CR LF after each line, quotes only where needed.
 
-/// A text that a spreadsheet would take for a formula, with a "'" before it: one that begins with "=", "+", "-" or "@"
-/// and is no number.
+/// Puts a "'" before a text that a spreadsheet would take for a formula: one that begins with "=", "+", "-" or "@" and
+/// is not a number.
 QString mdGuardedText(const QString &text);
 
-/// A line of a table, with its end; the cells stand as they are given. Another separator than the comma is for the
+/// One line of a table, with its line end; the cells are not altered. Separators other than the comma are for the
 /// clipboard.
 QString mdCsvLine(const QStringList &cells, char separator = ',');

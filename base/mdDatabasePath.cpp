@@ -16,7 +16,7 @@ QString registryName()
     return QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Velmor\\ZR3") + QStringLiteral("\\Database Path");
 }
 
-/// The folder that a stored text means.
+/// The folder that a stored text refers to.
 QString folderOf(QString stored)
 {
     if (stored.endsWith(u'\\') || stored.endsWith(u'/'))
@@ -35,8 +35,8 @@ QString GetDatabasePath()
             QStringLiteral("Folder Error"), clsUserInterface::Critical, clsUserInterface::OKOnly);
         throw clsProgramEnd();
     }
-    // Written even when it has not changed, and without asking first whether it may be: where it may not, the box of
-    // the failed write shows each time. Both are meant.
+    // Written even if unchanged, and without checking access first: if it can't be written, the box of the failed write
+    // shows each time. Required behaviour; do not fix.
     SetDatabasePath(path);
     return path;
 }

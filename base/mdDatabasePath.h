@@ -2,29 +2,29 @@
 
 #include <QString>
 
-/// The database folder, without a slash at its end. Where it does not exist, the box "Folder Error" shows and the
-/// program ends (clsProgramEnd), also in the middle of its work: without the folder there are no preferences.
-/// The path is stored again at each call, which fills in the default at the first start and cleans a slash away.
+/// The database folder, without a trailing slash. If it doesn't exist, shows the box "Folder Error" and ends the
+/// program (clsProgramEnd), even in the middle of its work: without the folder there are no preferences. Each call
+/// stores the path again, which fills in the default at the first start and removes a trailing slash.
 QString GetDatabasePath();
 
-/// The database folder as it is stored or by default, whether or not it exists. Nothing is shown, logged or stored: for
-/// the moments at which the program can't talk to anybody.
+/// The stored or default database folder, whether or not it exists. Shows, logs and stores nothing, for use when no
+/// message can be shown.
 QString StoredDatabasePath();
 
-/// Whether it is certain that no database folder is stored, neither by the user nor for all users of the machine.
+/// Whether it is certain that no database folder is stored, neither for the user nor for the machine.
 bool DatabasePathIsMissing();
 
-/// Whether the folder that is stored is the default one, whatever way of writing it.
+/// Whether the stored folder is the default one, however it is written.
 bool DatabasePathIsDefault();
 
 /// Stores the database folder.
 void SetDatabasePath(const QString &path);
 
-/// Asks whether to go back to the default folder, and on Yes forgets the stored one.
+/// Asks whether to go back to the default folder; on Yes deletes the stored one.
 void ResetDatabasePath();
 
 /// The folder "Databases" beside the program.
 QString DefaultDatabasePath();
 
-/// Lets the user choose the database folder. Whether there are preferences in it is not tested.
+/// Lets the user choose the database folder. Doesn't check that it contains preferences.
 void SelectDatabasePath();

@@ -17,7 +17,7 @@ QString mdDateSerial(const QString &date)
     if (!isNumber[0] || !isNumber[1] || !isNumber[2])
         return date;
     const QDate parsed(FullYear(year, pieces[2].size()), month, day);
-    // A year that isn't written with four digits would sort wrongly among the others; nobody means one.
+    // A year that isn't written with four digits would sort wrongly; such years don't occur in practice.
     const bool sorts = parsed.isValid() && parsed.year() > 0 && parsed.year() <= 9999;
     return sorts ? parsed.toString(QStringLiteral("yyyyMMdd")) : date;
 }

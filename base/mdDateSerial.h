@@ -2,6 +2,6 @@
 
 #include <QString>
 
-/// A date of the form day/month/year as "yyyymmdd", a text that sorts as the dates do. A year of two digits up to 29 is
-/// of this century, later ones of the last. A text that is no date comes back as it is.
+/// A date of the form day/month/year as "yyyymmdd", which sorts by date. A year of two digits up to 29 is in this
+/// century, later ones in the last. Text that is not a date is returned unchanged.
 QString mdDateSerial(const QString &date);

@@ -14,7 +14,7 @@ constexpr QLatin1String MonthNames[] = {QLatin1String("january"), QLatin1String(
     QLatin1String("april"), QLatin1String("may"), QLatin1String("june"), QLatin1String("july"), QLatin1String("august"),
     QLatin1String("september"), QLatin1String("october"), QLatin1String("november"), QLatin1String("december")};
 
-/// A number of `least` to `most` digits and nothing else; -1 for any other text.
+/// A number of `least` to `most` digits; -1 for any other text.
 int plainNumber(QStringView text, qsizetype least, qsizetype most)
 {
     const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
@@ -23,7 +23,7 @@ int plainNumber(QStringView text, qsizetype least, qsizetype most)
     return text.toInt();
 }
 
-/// The number of a month, 0 or less where there is none.
+/// The number of a month; 0 or less if there is none.
 int monthFromText(QStringView text)
 {
     if (text.size() >= ShortestMonthName)
@@ -33,7 +33,7 @@ int monthFromText(QStringView text)
     return plainNumber(text, 1, 2);
 }
 
-/// A year is written with one, two or four digits; three are a year half typed.
+/// A year has one, two or four digits; three are a year half typed.
 int yearFromText(QStringView text)
 {
     const int year = text.size() == DigitsOfFullYear ? plainNumber(text, DigitsOfFullYear, DigitsOfFullYear)

@@ -7,17 +7,17 @@
 
 #include <optional>
 
-// Dates as texts, British whatever the locale of the machine: the day comes first.
+// Dates as texts, British in any locale: the day comes first.
 
-/// The text that stands for no date in a claim. A date box shows it as empty; an item without a date stores it.
+/// The text for "no date" in a claim. A date box shows it as empty; an item without a date stores it.
 inline constexpr QLatin1String NoDate("31/12/29");
 
-/// A year as it was written with so many digits: one of two digits up to 29 is of this century, later ones of the last.
+/// A year from its number of digits: two-digit years up to 29 are in this century, later ones in the last.
 int FullYear(int year, qsizetype digits);
 
-/// Reads day/month/year, and year/month/day where the year is written first with its four digits. A month is a number
-/// or the start of its English name, of three letters at least. Nothing for a day that no calendar has. The parts are
-/// never swapped to make a date of what is none: 02/13/24 may be a slip of the finger as well as a foreign habit.
+/// Reads day/month/year, or year/month/day if a four-digit year comes first. A month is a number or at least three
+/// letters of its English name. Nothing for a day that doesn't exist. Day and month are never swapped to make a date
+/// valid: 02/13/24 may be a typing error as well as an American date.
 std::optional<QDate> DateFromText(QStringView text);
 
 /// Whether `DateFromText` finds a date.

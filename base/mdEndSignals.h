@@ -3,10 +3,10 @@
 #include <functional>
 #include <memory>
 
-/// Has the handler called, from the event loop, when the system asks the program to end (on POSIX systems SIGTERM,
-/// SIGHUP and SIGINT), for as long as this object lives; then the signals are the system's again. It is called once:
-/// whatever asks again while the program is ending is ignored. It may take this object away. Without a running event
-/// loop nothing is called. To be used on the one thread only, one at a time.
+/// While this object lives, calls the handler from the event loop when the system asks the program to end (on POSIX
+/// systems SIGTERM, SIGHUP and SIGINT); its destructor restores the signals. Called once: further requests are ignored
+/// while the program ends. The handler may delete this object. Without a running event loop nothing is called. For the
+/// main thread only, one at a time.
 class clsEndSignalScope {
 public:
     explicit clsEndSignalScope(std::function<void()> handler);
@@ -19,7 +19,7 @@ private:
     std::unique_ptr<clsPipe> m_pipe;
 };
 
-/// The same requests wait while this object lives.
+/// Holds back the same requests while this object lives.
 class clsEndSignalsHeld {
 public:
     clsEndSignalsHeld();
@@ -32,6 +32,6 @@ private:
     std::unique_ptr<clsMask> m_before;
 };
 
-/// Has a write beyond the size that files may have here (on POSIX systems SIGXFSZ) fail with an error, which the user
-/// is told, as on a full disk. Otherwise the system ends the program on the spot.
+/// Makes a write beyond the file size limit (on POSIX systems SIGXFSZ) fail with an error, reported like a full disk.
+/// By default the system would kill the program.
 void MakeSizeLimitAnError();

@@ -1,4 +1,4 @@
-// The requests to end on POSIX systems. Another platform needs this one file anew.
+// Requests to end on POSIX systems. Another platform needs its own version of this file.
 
 #include "base/mdEndSignals.h"
 
@@ -18,21 +18,21 @@ namespace {
 
 constexpr int EndSignals[] = {SIGTERM, SIGHUP, SIGINT};
 
-// All that a signal's handler may touch; the system hands it nothing but the signal.
+// All that the signal handler may access; the system passes it only the signal.
 std::atomic<int> pipeEnd = -1;
 static_assert(std::atomic<int>::is_always_lock_free);
 
 extern "C" void passOn(int)
 {
     const int before = errno;
-    // A full pipe has a request in it already.
+    // A full pipe already holds a request.
     [[maybe_unused]] const auto written = ::write(pipeEnd, "", 1);
     errno = before;
 }
 
 } // namespace
 
-/// A pipe that carries a signal into the event loop: nothing but a write is safe where the signal arrives.
+/// A pipe that carries a signal into the event loop: a signal handler can safely do nothing but write.
 class clsEndSignalScope::clsPipe {
 public:
     explicit clsPipe(std::function<void()> handler)
@@ -62,7 +62,7 @@ private:
     static void listen(int signal, struct sigaction &before)
     {
         ::sigaction(signal, nullptr, &before);
-        // Started so that it survives the end of its terminal, it goes on doing so.
+        // A program started to survive the end of its terminal keeps doing so.
         if (before.sa_handler == SIG_IGN)
             return;
         struct sigaction action = {};
@@ -75,7 +75,7 @@ private:
     {
         char rest[64];
         while (::read(m_pipe[0], rest, sizeof rest) > 0) { }
-        // Taken away before it runs: it may run an event loop of its own, and may take this object away.
+        // Cleared before the call: the handler may run a nested event loop and may delete this object.
         const std::function<void()> handler = std::exchange(m_handler, nullptr);
         if (handler)
             handler();

@@ -4,8 +4,8 @@
 
 #include <memory>
 
-/// What a pointer points to; a pointer to nothing is the object error. Look-ups return nothing when they fail, and
-/// whoever needs an object all the same says so with this.
+/// Dereferences a pointer; a null pointer raises the object error. Look-ups return null when they fail; callers that
+/// need the object use this.
 template <class T> T &mdExisting(const std::shared_ptr<T> &pointer)
 {
     if (!pointer)

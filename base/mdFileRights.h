@@ -5,17 +5,17 @@
 
 class QByteArray;
 
-/// Who may read and write a file. Only files that are for POSIX systems alone include this.
+/// The permissions of a file. Only files for POSIX systems include this.
 struct clsFileRights {
     mode_t mode = S_IRUSR | S_IWUSR;
     gid_t group = gid_t(-1);
 
-    /// Those of the file at a path, with its status.
+    /// The permissions of the file at a path, given its status.
     static clsFileRights of(const QByteArray &path, const struct stat &status);
 
-    /// The group loses what not everybody has.
+    /// Replaces the group's permissions with those of others.
     void withoutGroup() { mode = (mode & ~mode_t(S_IRWXG)) | (mode & S_IRWXO) << 3; }
-    /// Gives them to a new file. Another group than the file's own gets nothing by them. A file system without modes is
-    /// no reason to fail: the file was born private.
+    /// Applies them to a new file. If the group can't be set, the file's group gets only the permissions of others. A
+    /// failure on a file system without modes is ignored: the file was created private.
     void giveTo(int descriptor) const;
 };

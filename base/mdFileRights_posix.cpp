@@ -1,4 +1,4 @@
-// Who may read and write a file, on POSIX systems. Another platform needs this one file anew.
+// File permissions on POSIX systems. Another platform needs its own version of this file.
 
 #include "base/mdFileRights.h"
 

@@ -6,18 +6,18 @@
 
 class QString;
 
-/// What the system tells of a file without reading it. Two stamps that are equal stand for one content; two that differ
-/// may do so too, as after a copy of the file has been put back.
+/// What the system reports about a file without reading it. Equal stamps mean equal content; different stamps may too,
+/// for example after a copy has been restored.
 struct clsFileStamp {
     quint64 device = 0;
     quint64 node = 0;
     qint64 size = 0;
     qint64 modified = 0; ///< in nanoseconds
-    qint64 changed = 0; ///< the same of the file's entry, which no program can set
+    qint64 changed = 0; ///< the same for the file's entry; no program can set it
 
     bool operator==(const clsFileStamp &) const = default;
     QDateTime when() const { return QDateTime::fromMSecsSinceEpoch(modified / 1000000); }
 };
 
-/// The stamp of a regular file; nothing where there is none, or it can't be told.
+/// The stamp of a regular file; nothing if there is none or it can't be read.
 std::optional<clsFileStamp> FileStamp(const QString &path);

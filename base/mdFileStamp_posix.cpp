@@ -1,4 +1,4 @@
-// Stamps of files on POSIX systems. Another platform needs this one file anew.
+// File stamps on POSIX systems. Another platform needs its own version of this file.
 
 #include "base/mdFileStamp.h"
 

@@ -43,7 +43,7 @@ Amount read(const QString &number)
     return amount;
 }
 
-// Adds one to a row of digits.
+// Adds one to a string of digits.
 QString increased(QString digits)
 {
     for (qsizetype i = digits.size() - 1; i >= 0; --i) {
@@ -56,7 +56,7 @@ QString increased(QString digits)
     return u'1' + digits;
 }
 
-// The amount in pence: at least three digits, none of them a leading zero of the pounds but a single one.
+// The amount in pence: at least three digits, with a leading zero only for zero pounds.
 QString pence(const Amount &amount)
 {
     constexpr qsizetype Places = 2;
@@ -81,7 +81,7 @@ QString mdFormatMoney(const QString &text)
     digits.insert(digits.size() - 2, u'.');
     for (qsizetype comma = digits.size() - 6; comma > 0; comma -= 3)
         digits.insert(comma, u',');
-    // An amount that rounds to nothing has no sign, so that it can be told as nothing.
+    // An amount that rounds to zero has no sign, so that callers can recognise it.
     return amount.negative && !nothing ? u'-' + digits : digits;
 }
 
@@ -91,7 +91,7 @@ QString mdFormatMoney(Money amount)
     const std::int64_t pence = RoundMoney2(amount).tenThousandths() / Money::PerPenny;
     const std::uint64_t magnitude = pence < 0 ? 0 - std::uint64_t(pence) : std::uint64_t(pence);
 
-    // From its end to its front.
+    // Filled from its end.
     std::array<char, 32> text;
     char *const end = text.data() + text.size();
     char *at = end;

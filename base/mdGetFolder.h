@@ -3,7 +3,7 @@
 #include "base/clsUserInterface.h"
 #include "base/mdLog.h"
 
-/// Asks the user for a folder, beginning at one where it is named and there; empty when none was given.
+/// Asks the user for a folder, starting at `start` if it is given and exists; empty if the user cancels.
 inline QString GetFolder(const QString &title, const QString &start = {})
 {
     WriteLog(QStringLiteral("Begin Get Folder"));

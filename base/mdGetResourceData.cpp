@@ -6,8 +6,8 @@
 #include <QFile>
 #include <QHash>
 
-// Outside any namespace, as the macro asks. It also makes the linker keep the resources, which nothing else in a
-// static library refers to.
+// Must be outside any namespace, as the macro requires. It also makes the linker keep the resources, which nothing else
+// in a static library refers to.
 static void initialiseResources()
 {
     Q_INIT_RESOURCE(resources);
@@ -31,7 +31,7 @@ QString readResource(const QString &name, const QString &group)
 
 QString GetResourceData(const QString &name, const QString &group)
 {
-    // Resources never change, so that each is read once in the life of the program.
+    // Resources never change, so each is read only once.
     static QHash<QString, QString> dictionary;
     const QString key = name + QStringLiteral(" - ") + group;
     if (const auto known = dictionary.constFind(key); known != dictionary.constEnd())

@@ -2,6 +2,6 @@
 
 #include <QString>
 
-/// A text that is compiled into the program, by its name and group; kept after its first use, since every new item of
-/// a claim asks for its template. Error 326 where there is none of that name.
+/// A text compiled into the program, by name and group; cached, since every new item of a claim needs its template.
+/// Error 326 if there is none of that name.
 QString GetResourceData(const QString &name, const QString &group);

@@ -2,6 +2,6 @@
 
 QString GetVersionInfo()
 {
-    // The three numbers come from the build file's project version.
+    // The three numbers are the build file's project version.
     return QStringLiteral("%1.%2.%3").arg(ZR3_VERSION_MAJOR).arg(ZR3_VERSION_MINOR).arg(ZR3_VERSION_REVISION);
 }

@@ -2,5 +2,5 @@
 
 #include <QString>
 
-/// The running program's version: major, minor and revision joined by points, without leading zeros.
+/// The running program's version: major, minor and revision separated by points, without leading zeros.
 QString GetVersionInfo();

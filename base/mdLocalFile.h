@@ -3,8 +3,8 @@
 #include <QFile>
 #include <QUrl>
 
-/// The path of a file's address; empty where it is no file's, and where the file's name is not UTF-8, since the text
-/// would name another file.
+/// The path of a file URL; empty if it is not a file's, or if the file's name is not UTF-8, since the text would name
+/// another file.
 inline QString mdLocalFile(const QUrl &address)
 {
     const QString path = address.toLocalFile();

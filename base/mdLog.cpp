@@ -14,11 +14,11 @@
 
 namespace {
 
-// All floors write the log, and the preferences that switch it on stand above this one. Never destroyed: they take it
-// back when they go, which can be at the very end of the program.
+// All floors write the log, and the preferences that switch it on are above this floor. Never destroyed: the
+// preferences may reset it at the very end of the program.
 std::function<bool()> &logSwitch = *new std::function<bool()>;
 
-/// Whether this user can read and write a file in a folder, and the copy that guards it.
+/// Whether this user can read and write a file in a folder, and its backup copy.
 bool canBeKept(const QString &folder, const QString &name)
 {
     const QFileInfo place(folder);
@@ -27,8 +27,8 @@ bool canBeKept(const QString &folder, const QString &name)
         && (!file.exists() || (file.isFile() && file.isReadable() && file.isWritable()));
 }
 
-/// A folder of the user's own with the day's file in it; empty where it can't be. The file is made at once, because the
-/// log can move while the user works, and the box of a new day would make no sense then.
+/// The user's private folder with the day's file in it; empty if it can't be created. Creates the file at once: the log
+/// can move while the user works, and the box of a new day would make no sense then.
 QString ownFolder(const QString &folder, const QString &name)
 {
     if (LeadsOverForeignLink(folder) || !MakeOwnFolder(folder))
@@ -38,14 +38,14 @@ QString ownFolder(const QString &folder, const QString &name)
     return made || file.exists() ? folder : QString();
 }
 
-/// The folder for the day's file in or below "Logs", empty where it can't be written in either.
+/// The folder for the day's file in or below "Logs"; empty if neither is writable.
 QString folderBelow(const QString &logs, const QString &name)
 {
     return canBeKept(logs, name) ? logs : ownFolder(logs + u'/' + OwnName(), name);
 }
 
-/// The folder beside the program, unless it is there and this user can't write the day's file in it: because it was
-/// installed for all users, or because the file is another user's. Each line would show a box.
+/// The folder beside the program, unless it exists and this user can't write the day's file in it, because it was
+/// installed for all users or the file belongs to another. Each line would show a box.
 QString folderOfLog(const QString &name)
 {
     if (!QFileInfo(LogsFolder()).isDir())
@@ -56,7 +56,7 @@ QString folderOfLog(const QString &name)
     MakeFolderLikeItsParent(withPreferences);
     if (const QString shared = folderBelow(withPreferences, name); !shared.isEmpty())
         return shared;
-    // Where this can't be written either, the boxes of each line tell.
+    // If this can't be written either, each line shows its boxes.
     const QString own = StateFolder() + QStringLiteral("/Logs");
     if (MakeStateFolder())
         ownFolder(own, name);

@@ -25,8 +25,8 @@ int digit(QChar c)
     return c.unicode() - u'0';
 }
 
-// A double holds every integer of so many digits, and every power of ten up to the last of this table; dividing one by
-// the other then gives the nearest double to the decimal number.
+// A double holds every integer of this many digits exactly, and every power of ten in this table; the quotient of the
+// two is then the nearest double to the decimal number.
 constexpr int ExactDigits = 15;
 constexpr double PowersOfTen[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
     1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
@@ -43,7 +43,7 @@ double valueOfPlainNumber(const std::string &number)
     return large ? std::numeric_limits<double>::infinity() : 0.0;
 }
 
-/// A count in the making, digit by digit; it remembers that it has left the range.
+/// Builds a count digit by digit and records overflow.
 class clsCount {
 public:
     void append(int figure)
@@ -194,7 +194,7 @@ double DoubleFromStrictText(QStringView text)
 {
     constexpr int Places = 4;
     static_cast<void>(
-        FixedFromText(text, Places, std::numeric_limits<std::int64_t>::max())); // refuses what is no number
+        FixedFromText(text, Places, std::numeric_limits<std::int64_t>::max())); // refuses text that is not a number
     return TextValue(text.toString().remove(u','));
 }
 

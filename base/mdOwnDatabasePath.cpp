@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Makes the folder, which nobody else is to read; one that is there keeps its permissions.
+/// Creates the folder, readable by this user only; an existing one keeps its permissions.
 bool makeFolder(const QString &folder)
 {
     try {
@@ -23,8 +23,8 @@ bool makeFolder(const QString &folder)
     }
 }
 
-/// Puts fresh preferences where there are none. They come under their name whole and only where nothing bears it, so
-/// that of two first starts at once neither reads half a file, nor takes away what the other has stored.
+/// Puts fresh preferences where there are none. The file appears complete and never replaces another, so that with two
+/// first starts at once neither reads half a file or overwrites the other's.
 bool putPreferences(const QString &path)
 {
     if (QFileInfo::exists(path))
@@ -40,8 +40,8 @@ bool putPreferences(const QString &path)
     return true;
 }
 
-/// Going back to the default folder stores the one beside the program, also for a user who may not write there and
-/// could never save a preference in it.
+/// Resetting the folder stores the one beside the program, even for a user who can't write there and could not save
+/// preferences in it.
 bool storedFolderIsOutOfReach()
 {
     return DatabasePathIsDefault() && !QFileInfo(DefaultDatabasePath()).isWritable();

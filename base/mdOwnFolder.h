@@ -2,21 +2,21 @@
 
 #include <QString>
 
-// Folders that are this user's alone, in places where others can write too.
+// Folders private to this user, in places where others can write too.
 
-/// Makes a folder where there is nothing, in a folder that is there. True where a real folder of this user's, and no
-/// link, lies at the path then; it is closed to others.
+/// Creates a folder in an existing one, if nothing has that path yet. True if the path is then a real folder of this
+/// user's, not a link; it is closed to others.
 bool MakeOwnFolder(const QString &path);
 
-/// Whether a real folder of this user's, and no link, lies at the path.
+/// Whether the path is a real folder of this user's, not a link.
 bool IsOwnFolder(const QString &path);
 
-/// Makes a folder that is as open to others as the one in which it lies; one that is there stays as it is.
+/// Creates a folder with the same access for others as its parent; an existing one is not changed.
 void MakeFolderLikeItsParent(const QString &path);
 
-/// Whether a link that another user has put there lies on the way to a path, or in its place. The administrator's count
-/// as trusted on the way, as where /home is one.
+/// Whether the path leads over a link made by another user, or is one. Links of the administrator are trusted on the
+/// way, for example if /home is one.
 bool LeadsOverForeignLink(const QString &path);
 
-/// The user's name as the name of a file.
+/// The user's name in a form usable as a file name.
 QString OwnName();

@@ -1,4 +1,4 @@
-// Owners and links on POSIX systems. Another platform needs this one file anew.
+// Owners and links on POSIX systems. Another platform needs its own version of this file.
 
 #include "base/mdOwnFolder.h"
 
@@ -15,8 +15,8 @@
 namespace {
 
 constexpr mode_t OwnerOnly = S_IRWXU;
-constexpr mode_t MadeWith = S_IRWXU | S_IRWXG | S_IRWXO | S_ISVTX; // the group's bit comes with the parent
-constexpr int MostLinks = 40; // as many as the system follows
+constexpr mode_t MadeWith = S_IRWXU | S_IRWXG | S_IRWXO | S_ISVTX; // the group bit is inherited from the parent
+constexpr int MostLinks = 40; // the system's own limit
 
 bool isOwn(uid_t owner)
 {
@@ -28,7 +28,7 @@ QString joined(const QString &folder, const QString &name)
     return folder.endsWith(u'/') ? folder + name : folder + u'/' + name;
 }
 
-/// Goes the way that the system would go, one name at a time. `links` is how many it may still follow.
+/// Follows the path as the system would, one name at a time. `links` is the number of links it may still follow.
 bool onlyOverTrustedLinks(const QString &path, int links)
 {
     QString here = QStringLiteral("/");
@@ -72,7 +72,7 @@ bool MakeOwnFolder(const QString &path)
         return false;
     struct stat status = {};
     const bool own = mdUninterrupted([&] { return ::fstat(folder, &status); }) == 0 && isOwn(status.st_uid);
-    // One that was there before may be open to others. A file system without permissions refuses this.
+    // An existing folder may be open to others. A file system without permissions refuses this.
     if (own && (status.st_mode & (S_IRWXG | S_IRWXO)) != 0)
         (void)mdUninterrupted([&] { return ::fchmod(folder, OwnerOnly); });
     ::close(folder);
@@ -94,7 +94,7 @@ void MakeFolderLikeItsParent(const QString &path)
     struct stat parent = {};
     if (mdUninterrupted([&] { return ::stat(around.constData(), &parent); }) != 0)
         return;
-    // Not changed afterwards: by then, somebody else could have put another folder in its place.
+    // Not changed afterwards: by then another user could have replaced the folder.
     const mode_t before = ::umask(0);
     (void)mdUninterrupted([&] { return ::mkdir(native.constData(), parent.st_mode & MadeWith); });
     ::umask(before);

@@ -4,7 +4,7 @@
 
 Money PercentageCalculate(Money amount, QStringView percentage)
 {
-    // The amount is divided before it is multiplied: the order decides the fourth decimal of some figures.
+    // Divides before multiplying: the order decides the fourth decimal of some figures.
     const double base = amount.toDouble() / 100.0;
     return MoneyFromDouble(base * TextValue(percentage));
 }

@@ -4,8 +4,8 @@
 
 namespace {
 
-// All floors play sounds, and the preferences that switch it on stand above this one. Never destroyed: they take it
-// back when they go, which can be at the very end of the program.
+// All floors play sounds, and the preferences that switch it on are above this floor. Never destroyed: the preferences
+// may reset it at the very end of the program.
 std::function<bool()> &soundSwitch = *new std::function<bool()>;
 
 } // namespace

@@ -7,6 +7,6 @@
 /// Plays a wave file in the background, if sound is on; a failure is silent.
 void PlayWav(const QString &path);
 
-/// Where the switch is read, asked at each sound. The preferences set it when they are complete and take it back with
-/// an empty one when they go: until then there is no sound.
+/// Sets the function that reads the switch, called for each sound. The preferences set it once complete and reset it
+/// with an empty one when destroyed; without it there is no sound.
 void SetSoundSwitch(std::function<bool()> isOn);

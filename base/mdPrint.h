@@ -5,18 +5,17 @@
 
 #include <cstdio>
 
-/// A text with "?" for each control character. A claim or the name of a file can hold some, and a terminal obeys them.
+/// Replaces each control character with "?". Claims and file names can contain some, and terminals act on them.
 QString mdWithoutControls(QString text);
 
-/// What a stream is given of a text whose lines end in CR LF. Where it is a terminal, control characters are shown as
-/// "?".
+/// The bytes written to a stream for a text whose lines end in CR LF. On a terminal control characters become "?".
 QByteArray mdPrinted(std::FILE *stream, const QString &text);
 
-/// Writes the same to the stream.
+/// Writes these bytes to the stream.
 void mdPrint(std::FILE *stream, const QString &text);
 
 /// Writes a result to standard output, byte for byte.
 void mdPrintBytes(const QByteArray &bytes);
 
-/// Whether a stream ends in a terminal.
+/// Whether a stream is a terminal.
 bool mdIsTerminal(std::FILE *stream);

@@ -1,4 +1,4 @@
-// Whether a stream is a terminal, on POSIX systems. Another platform needs this one file anew.
+// Whether a stream is a terminal, on POSIX systems. Another platform needs its own version of this file.
 
 #include "base/mdPrint.h"
 
@@ -16,7 +16,7 @@ QString mdWithoutControls(QString text)
 
 QByteArray mdPrinted(std::FILE *stream, const QString &text)
 {
-    // A line feed by itself is no end of a line: it comes from a file's name.
+    // A single line feed is no line end: it comes from a file name.
     QStringList lines = text.split(QStringLiteral("\r\n"));
     if (mdIsTerminal(stream))
         for (QString &line : lines)

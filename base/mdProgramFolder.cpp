@@ -5,12 +5,12 @@
 
 namespace {
 
-// A test puts the program folder elsewhere, for all that asks for it.
+// Tests move the program folder for all callers.
 QString folderInstead;
 
 QString runningProgramFolder()
 {
-    // Asked of the system, since the application object does not exist yet when the first paths are needed.
+    // From the system, because the first paths are needed before the application object exists.
     const QString folder = QFileInfo(QStringLiteral("/proc/self/exe")).canonicalPath();
     return folder.isEmpty() ? QCoreApplication::applicationDirPath() : folder;
 }

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// "1.250,00" has its point before its comma: which of the two parts the thousands can't be told.
+/// In "1.250,00" the point precedes the comma, so the thousands separator is unclear.
 bool commasPartThousands(const QString &number)
 {
     const qsizetype point = number.indexOf(u'.');

@@ -4,15 +4,15 @@
 
 #include <optional>
 
-/// What a box says of a text that it took for something other than what was probably meant.
+/// The note beside a box that read a text as something other than what was probably intended.
 struct clsReadAs {
     QString words; ///< one sentence, such as "Typed 1,250, read as 1.00: amounts take no comma"
-    QString better = {}; ///< the text that was probably meant, in the box's own form; empty where there is none
-    QString shortWords = {}; ///< the same without what was typed; empty where the words don't say it
+    QString better = {}; ///< the text that was probably intended, in the box's format; empty if unknown
+    QString shortWords = {}; ///< the same without what was typed; empty if `words` doesn't contain it
 };
 
-/// For an amount or a rate: `typed` as it was entered, `read` as TypedDecimal gives it. Nothing where the value stands.
+/// For an amount or a rate: `typed` as entered, `read` from TypedDecimal. Nothing if the value was read as typed.
 std::optional<clsReadAs> DecimalReadAs(const QString &typed, const QString &read);
 
-/// The same for a date, with `read` as TypedDate gives it.
+/// The same for a date, with `read` from TypedDate.
 std::optional<clsReadAs> DateReadAs(const QString &typed, const QString &read);

@@ -3,10 +3,9 @@
 class QByteArray;
 class QString;
 
-/// The file itself, whatever links lead to it, as the system names it; empty where there is none. Never by way of a
-/// text: a link may lead through names that no text can hold.
+/// The target of a path, with all links resolved by the system; empty if there is none. In bytes, because a link may
+/// lead through names that no text can represent.
 QByteArray mdRealPath(const QByteArray &path);
 
-/// The folder in which the file itself lies, without a slash at its end; where there is no file, the one that its path
-/// names.
+/// The folder of the resolved file, without a trailing slash; if there is no file, the folder in its path.
 QByteArray mdRealFolder(const QString &path);

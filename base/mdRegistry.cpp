@@ -22,8 +22,7 @@ QStringList stores()
     return paths;
 }
 
-/// The name as the store knows it. The store is the program's own, so that its values need no longer name than their
-/// last part.
+/// The name as a key of the store. The store belongs to this program, so the last part of a name is enough.
 QString storeKey(QString name)
 {
     const QString base = QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Velmor\\ZR3\\");
@@ -32,8 +31,7 @@ QString storeKey(QString name)
     return name.replace(u'\\', u'/');
 }
 
-/// The text of a key as it stands in a store's file; empty where it is not there. The last one counts, as for the
-/// library.
+/// The text of a key as written in a store's file; empty if missing. The last entry wins, as in the library.
 QString textAsWritten(const QString &path, const QString &key)
 {
     QFile file(path);
@@ -49,7 +47,7 @@ QString textAsWritten(const QString &path, const QString &key)
         else if (general && equals > 0 && QUrl::fromPercentEncoding(plain.left(equals).trimmed()) == key)
             text = QString::fromUtf8(plain.mid(equals + 1));
     }
-    // A semicolon begins a remark.
+    // A semicolon starts a comment.
     return text.section(u';', 0, 0).trimmed();
 }
 
@@ -65,8 +63,7 @@ public:
     {
         if (m_settings.contains(key)) {
             const QVariant value = m_settings.value(key);
-            // A path with commas that somebody wrote into the file by hand reads as a list, without the blanks beside
-            // the commas.
+            // A hand-written path with commas reads as a list, without the blanks beside the commas.
             if (value.metaType().id() == QMetaType::QStringList)
                 return textAsWritten(m_path, key);
             return value.toString();
@@ -88,7 +85,7 @@ public:
     }
 
 private:
-    /// A pipe or a folder in the store's place would hold the program up.
+    /// A pipe or a folder in place of the store would block the program.
     static QString regular(const QString &path)
     {
         const QFileInfo file(path);
@@ -117,7 +114,7 @@ std::optional<QString> firstValue(const QStringList &paths, const QString &key)
     return {};
 }
 
-/// Whether a stored text is the value, or the same folder with a slash at its end.
+/// Whether a stored text is the value, with or without a trailing slash.
 bool means(const std::optional<QString> &stored, const QString &value)
 {
     return stored && (*stored == value || *stored == value + u'/' || *stored == value + u'\\');
@@ -126,7 +123,7 @@ bool means(const std::optional<QString> &stored, const QString &value)
 void store(const QString &key, const QString &value)
 {
     clsStore user(stores().first());
-    // A machine-wide value is not copied to the user, or the administrator's next change of it would reach nobody.
+    // A machine-wide value is not copied to the user, or the administrator's next change would have no effect.
     if (!user.value(key) && means(firstValue(stores().mid(1), key), value))
         return;
     user.set(key, value);
@@ -141,7 +138,7 @@ void removeOrHide(const QString &key)
         user.remove(key);
 }
 
-/// Runs one operation between its two lines of the log; a failure shows the box instead of the second.
+/// Logs the beginning and end of an operation; a failure shows the box instead of the second line.
 template <class Operation>
 void logged(const char *what, const char *whatWasTried, const QString &name, Operation operation)
 {

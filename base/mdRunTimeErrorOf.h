@@ -4,5 +4,5 @@
 
 #include <exception>
 
-/// The run-time error that a failure counts as which nothing below the top has caught.
+/// The run-time error for a failure that was not caught below the top level.
 clsRunTimeError mdRunTimeErrorOf(const std::exception_ptr &failure);

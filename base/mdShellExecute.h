@@ -2,9 +2,8 @@
 
 #include <QString>
 
-/// Opens a document or address with the desktop's own handler; true on success. Where nothing opens it, the user is
-/// told.
+/// Opens a document or address with the desktop's handler; true on success. Shows a message if nothing opens it.
 bool ShellOpen(const QString &target);
 
-/// Tells the user that a document or address could not be opened.
+/// Shows the message that a document or address could not be opened.
 void TellNotOpened(const QString &target);

@@ -2,7 +2,7 @@
 
 #include <QFile>
 
-/// A file's name, cut at its end to so many bytes of the file system, and in no character.
+/// Shortens a file name at its end to `most` encoded bytes, without splitting a character.
 inline QString mdShortenedName(QString name, qsizetype most)
 {
     while (QFile::encodeName(name).size() > most)

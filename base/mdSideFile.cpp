@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr qsizetype ShortenedTo = 100; // bytes: some file systems take 143 in all
+constexpr qsizetype ShortenedTo = 100; // bytes: some file systems allow only 143
 constexpr qsizetype MarkDigits = 16;
 
 } // namespace

@@ -2,6 +2,6 @@
 
 #include <QString>
 
-/// The side file of a guarded overwrite: the path followed by "a". Where the name is so long that there is no room for
-/// one more letter, its end is replaced by a mark that no other file's side file has.
+/// The side file of a guarded overwrite: the path followed by "a". If the name is too long for another letter, its end
+/// is replaced by a mark unique to this file.
 QString mdSideFile(const QString &path);

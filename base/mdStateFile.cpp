@@ -20,7 +20,7 @@ QString pathOf(const QString &name)
 QByteArray mdReadStateFile(const QString &name)
 {
     QFile file(pathOf(name));
-    // A pipe would never end.
+    // Reading a pipe would never end.
     if (!QFileInfo(file).isFile() || LeadsOverForeignLink(file.fileName()) || !file.open(QIODevice::ReadOnly))
         return {};
     return file.readAll();

@@ -6,18 +6,17 @@
 
 #include <optional>
 
-// The small files of the state folder. A claim needs none of them: what can't be kept is kept no further than this
-// start of the program.
+// The small files of the state folder. No claim depends on them: without them their contents last until the program
+// ends.
 
-/// The content of a file; empty where there is none that is this user's own.
+/// The content of a file; empty if there is none that belongs to this user.
 QByteArray mdReadStateFile(const QString &name);
 
-/// The object in a JSON file, empty where there is no file; nothing where it can't be understood.
+/// The object in a JSON file, empty if there is no file; nothing if it can't be parsed.
 std::optional<QJsonObject> mdReadStateObject(const QString &name);
 
-/// Writes a file whole, so that what was there before stays until the new one is on the disk. Only its owner can read
-/// it. False where it can't be written.
+/// Writes a file atomically, readable only by its owner. False if it can't be written.
 bool mdWriteStateFile(const QString &name, const QByteArray &content);
 
-/// Keeps a file that can't be understood beside its place, for a look at it, so that a new one can be written.
+/// Renames an unreadable file, so that it can be examined and a new one written.
 void mdSetStateFileAside(const QString &name);

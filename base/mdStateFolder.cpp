@@ -23,7 +23,7 @@ bool MakeStateFolder()
     } catch (const clsRunTimeError &) {
         return false;
     }
-    // Where the user has made a link of it, the folder behind it must be the user's own.
+    // If the user has made it a link, the target must be the user's folder.
     const QString real = QFileInfo(StateFolder()).canonicalFilePath();
     return MakeOwnFolder(real.isEmpty() ? StateFolder() : real);
 }

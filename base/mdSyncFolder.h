@@ -2,6 +2,6 @@
 
 class QByteArray;
 
-/// Brings a folder's entries to the disk; 0, or the system's error. Some file systems can't, and some folders may be
-/// written but not opened: then the system's own order of writing has to do, and there is no error.
+/// Flushes a folder's entries to the disk; 0 or the system's error. If the file system can't do this, or the folder is
+/// writable but can't be opened, relies on the system's order of writing and returns 0.
 int mdSyncFolder(const QByteArray &folder);

@@ -4,14 +4,14 @@
 
 #include <system_error>
 
-/// Turns the failure of a file operation of the standard library into a run-time error; nothing where it succeeded.
+/// Raises a run-time error for a failed file operation of the standard library; does nothing on success.
 inline void mdCheckSystemError(const std::error_code &error)
 {
     if (error)
         throw clsRunTimeError::fromSystem(error.value());
 }
 
-/// Runs a file operation of the standard library, again where a signal interrupted it. A failure is a run-time error.
+/// Runs a file operation of the standard library, again if a signal interrupted it. A failure is a run-time error.
 template <class Operation> auto mdSystemOperation(Operation operation)
 {
     std::error_code error;

@@ -4,7 +4,7 @@
 #include "base/clsUserInterface.h"
 
 /// Shows the plain system box for a failure that ends an operation on a file or a stored setting: what was tried, on
-/// what, and the error's number and words. The caller then gives the operation up and goes on.
+/// what, and the error's number and text. The caller then abandons the operation and continues.
 inline void mdSystemFailure(
     const QString &title, const QString &whatWasTried, const QString &name, const clsRunTimeError &error)
 {

@@ -16,12 +16,12 @@
 
 namespace {
 
-/// How long a reader takes a claim that is no whole one for one that is being written: far longer than a program leaves
-/// it so, and not so long that opening a damaged one would be a nuisance.
+/// How long an incomplete claim counts as being written: far longer than a write takes, but not so long that opening a
+/// damaged one becomes a nuisance.
 constexpr std::chrono::seconds LongestWrite(1);
 constexpr std::chrono::milliseconds BetweenLooks(5);
 
-/// A turn can be lost only by a program that stood still in it, each time for seconds.
+/// A program loses its turn only if it hangs during it, for seconds each time.
 constexpr int MostTurns = 3;
 
 bool endsWith(const QString &path, const QByteArray &end)
@@ -29,18 +29,18 @@ bool endsWith(const QString &path, const QByteArray &end)
     return FileSystem().ReadFile(path).trimmed().endsWith(end);
 }
 
-/// True where a write that broke off has left the file torn and its side file whole. Copying the one over the other, as
-/// the guard of the next write, would lose the last whole content, and a second break-off with it everything. Whether a
-/// document is whole shows at its end, which is the end tag of its root.
+/// True if an interrupted write has left the file damaged and its side file complete. The next write would copy the
+/// damaged file over it and lose the last complete content, and a second interruption would lose everything. A complete
+/// document ends with the end tag of its root.
 bool sideFileIsTheWholeOne(const QString &path, const QString &side, const QByteArray &bytes)
 {
     const QByteArray end = bytes.mid(bytes.lastIndexOf("</"));
     return end.startsWith("</") && FileSystem().FileExists(side) && !endsWith(path, end) && endsWith(side, end);
 }
 
-/// The guarded overwrite. The order is the guard: at every moment the old content is whole in the file or in the side
-/// file, on the disk and not only in the system's memory, so that a loss of power is no worse than a crash of the
-/// program. False where it was given up, because another program has taken the turn away and may be writing.
+/// The guarded overwrite. The order of the steps is essential: at every moment the old content is complete in the file
+/// or in the side file, on the disk and not only in the system's cache, so that a power failure is no worse than a
+/// crash. False if abandoned, because another program has taken over the turn and may be writing.
 template <class IsLost> bool overwriteUnlessLost(const QString &path, const QByteArray &bytes, IsLost isLost)
 {
     const QString side = mdSideFile(path);
@@ -50,7 +50,7 @@ template <class IsLost> bool overwriteUnlessLost(const QString &path, const QByt
         return false;
     FileSystem().EmptyFile(path);
     FileSystem().WriteFile(path, bytes);
-    // The side file may be the other program's by now, and what stands in the file a mixture of both.
+    // The side file may belong to the other program by now, and the file may be a mixture of both.
     if (isLost())
         return false;
     if (FileSystem().FileExists(side))
@@ -58,14 +58,14 @@ template <class IsLost> bool overwriteUnlessLost(const QString &path, const QByt
     return true;
 }
 
-/// The same in one turn; false where that was lost.
+/// The same within one turn; false if that was lost.
 bool overwrittenInTurn(const QString &path, const QByteArray &bytes, const clsWriteLock &turn, bool isLastTurn)
 {
     const auto isLost = [&] { return !isLastTurn && turn.isLost(); };
     try {
         return overwriteUnlessLost(path, bytes, isLost);
     } catch (const clsRunTimeError &) {
-        // The other program may have removed what was to be copied or deleted.
+        // The other program may already have deleted the file.
         if (isLost())
             return false;
         throw;
@@ -88,8 +88,8 @@ void overwrite(const QString &path, const QByteArray &bytes)
             QStringLiteral("File Saved"), clsUserInterface::Information, clsUserInterface::OKOnly);
 }
 
-/// Whether a file's content may be the part of a document that was written so far. Documents end with the end tag of
-/// their root, which stands nowhere else in them; no other text shows whether it is whole.
+/// Whether a file's content may be an incomplete document. Documents end with the end tag of their root, which occurs
+/// nowhere else in them; no other text shows whether it is complete.
 bool mayBeHalfWritten(const QByteArray &bytes)
 {
     const QByteArray text = bytes.trimmed();
@@ -106,7 +106,7 @@ bool mayBeHalfWritten(const QByteArray &bytes)
     return text.mid(last) != "</" + text.mid(1, nameEnd - 1) + '>';
 }
 
-/// Whether a program is writing to the file, or died while it did.
+/// Whether a program is writing to the file, or died while writing.
 bool isBeingWritten(const QString &path)
 {
     try {
@@ -116,7 +116,7 @@ bool isBeingWritten(const QString &path)
     }
 }
 
-/// The content of the file as it stands for a moment; nothing where it changed under the reader's hands.
+/// The content of the file; nothing if it changed during the read.
 std::optional<QByteArray> readOnce(const QString &path)
 {
     try {
@@ -130,8 +130,8 @@ std::optional<QByteArray> readOnce(const QString &path)
     return {};
 }
 
-/// Readers take no lock: anyone who may read the folder could hold a lock that they wait for. Where the content can't
-/// be a whole claim they read again, and after a while take the file as it is.
+/// Readers take no lock: anyone who may read the folder could then block them. If the content can't be a complete claim
+/// they read again, and after a while accept the file as it is.
 QByteArray read(const QString &path)
 {
     const auto until = std::chrono::steady_clock::now() + LongestWrite;
@@ -140,7 +140,7 @@ QByteArray read(const QString &path)
         const std::optional<QByteArray> bytes = readOnce(path);
         if (bytes && (isLate || !mayBeHalfWritten(*bytes)))
             return *bytes;
-        // Once more after that: the write may just have ended.
+        // Once more afterwards: the write may just have ended.
         if (bytes && !isBeingWritten(path) && FileSystem().FileHolds(path, *bytes))
             return *bytes;
         if (isLate)
@@ -149,7 +149,7 @@ QByteArray read(const QString &path)
     }
 }
 
-/// Runs a file operation; false where it failed, with its box shown.
+/// Runs a file operation; on failure shows its box and returns false.
 template <class Operation>
 bool trapped(
     const QString &title, const QString &whatWasTried, const QString &path, Operation operation, int *failure = nullptr)

@@ -4,15 +4,16 @@
 #include <QString>
 
 /// The whole content of a file, one character of the code page for each byte. A failure shows the box "File Not Read"
-/// and returns an empty text, which the caller can't tell from an empty file. `logIt` logs the beginning and the end.
+/// and returns an empty text, which the caller can't distinguish from an empty file. `logIt` logs the beginning and the
+/// end.
 QString ReadTextDocument(const QString &path, bool logIt);
 
 /// The same text in UTF-8, which costs no conversion where the file is plain ASCII, as a claim mostly is. A failure
 /// gives its number where that is asked for.
 QByteArray ReadTextDocumentAsUtf8(const QString &path, bool logIt, int *failure = nullptr);
 
-/// Replaces the whole content of a file, one byte for each character. The old content lies beside the file, under its
-/// path followed by "a", until the new one is on the disk: a crash or a failure leaves it there for the user to find.
-/// A failure shows the box "File Not Saved" and gives false, and its number where that is asked for; the caller goes on
-/// as if the file were saved.
+/// Replaces the whole content of a file, one byte for each character. The old content stays beside the file, at its
+/// path followed by "a", until the new one is on the disk; a crash or failure leaves it there for the user. A failure
+/// shows the box "File Not Saved" and returns false, and its number in `failure` if given; the caller continues as if
+/// the file were saved.
 bool WriteTextDocument(const QString &text, const QString &path, bool logIt, int *failure = nullptr);

@@ -10,7 +10,7 @@ namespace {
 
 constexpr double MinutesPerHour = 60.0;
 
-/// At least two digits, the sign in front of them.
+/// At least two digits, after the sign.
 QString atLeastTwoDigits(int value)
 {
     const QString digits = QString::number(std::abs(value)).rightJustified(2, u'0');
@@ -29,7 +29,7 @@ int TimeToMinutes(QStringView timeText)
     if (colon < 0)
         throw clsRunTimeError(clsRunTimeError::SubscriptOutOfRange);
 
-    // A further colon ends the number of the minutes, and what follows it is ignored.
+    // A second colon ends the number of minutes; the text after it is ignored.
     return LongFromDouble(ofHours + TextValue(timeText.sliced(colon + 1)));
 }
 

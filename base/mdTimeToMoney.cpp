@@ -9,7 +9,7 @@ Money TimeToMoney(QStringView timeText, Money ratePerHour)
 
 Money MinutesToMoney(int minutes, Money ratePerHour)
 {
-    // Dividing first, multiplying once, on the whole time: another order gives another last digit, and the claim must
+    // Divides first, multiplies once, on the whole time: another order changes the last digit, and the claim must
     // agree to the penny with those already lodged.
     const double hours = double(minutes) / 60.0;
     return RoundMoney2(ratePerHour.toDouble() * hours);

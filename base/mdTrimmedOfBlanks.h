@@ -2,8 +2,7 @@
 
 #include <QString>
 
-/// A text without the blanks at its ends. Other white space belongs to the text, unlike what the library's own trimming
-/// takes for blank.
+/// Removes blanks from both ends. Other white space is kept, unlike in the library's trimming.
 inline QString mdTrimmedOfBlanks(const QString &text)
 {
     qsizetype first = 0;

@@ -11,7 +11,7 @@ namespace {
 
 constexpr double MinutesPerHour = 60.0;
 
-/// The year that a text of the form "dd/mm/yy" is read as.
+/// The year of a text of the form "dd/mm/yy".
 int yearOf(const QString &dateText)
 {
     return DateFromText(dateText)->year();
@@ -47,7 +47,7 @@ QString timeAsTyped(QStringView text)
     return QString::number(hours) + u':' + QString::number(minutes);
 }
 
-/// The result of a rule, nothing where it meets a number that is none or is out of range.
+/// The result of a rule; nothing if it meets a number that is invalid or out of range.
 template <class Rule> std::optional<QString> fitting(Rule rule)
 {
     try {
@@ -71,7 +71,7 @@ std::optional<QString> TypedDate(const QString &text, int &lastYear)
         date.replace(separator, u'/');
     if (date.count(u'/') == 1)
         date += u'/' + QString::number(lastYear);
-    // Judged with its year, so that 29/02 fits in leap years only.
+    // Checked with its year, so that 29/02 fits in leap years only.
     const std::optional<QDate> typed = DateFromText(date);
     if (!typed)
         return {};
@@ -100,8 +100,7 @@ std::optional<QString> TypedInteger(const QString &text)
     if (number.isEmpty())
         number = QStringLiteral("0");
     return fitting([&] {
-        // Not every number fits, and that is meant: a record counts in 32 bits, so that storing a larger one would
-        // fail.
+        // Rejects numbers beyond 32 bits, which a record can't store.
         LongFromStrictText(number);
         return number;
     });
@@ -115,7 +114,7 @@ std::optional<QString> TypedTime(const QString &text)
         return {};
     return fitting([&] {
         const QString result = MinutesToTime(TimeToMinutes(timeAsTyped(text)));
-        TimeToMinutes(result); // refuses what nobody could read again
+        TimeToMinutes(result); // refuses a result that could not be read again
         return result;
     });
 }

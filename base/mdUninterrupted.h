@@ -2,8 +2,8 @@
 
 #include <cerrno>
 
-/// Runs a system call, again where a signal interrupted it. Mounts on a network let signals interrupt calls that never
-/// are elsewhere, such as `stat` and `unlink`.
+/// Runs a system call, again if a signal interrupted it. On network mounts signals can interrupt calls that otherwise
+/// never are, such as `stat` and `unlink`.
 template <class Call> auto mdUninterrupted(Call call)
 {
     auto result = call();

@@ -29,7 +29,7 @@ int CompareVersions(const QString &fileVersion, const QString &programVersion)
     enum Result { Older = 0, Same = 1, Newer = 2 };
     if (fileVersion == programVersion)
         return Same;
-    // Both are read before they are compared, so that a damaged version is found whatever its first field says.
+    // Both are parsed before they are compared, so that a damaged version is detected whatever its first field is.
     const Fields file = fieldsOf(fileVersion);
     const Fields program = fieldsOf(programVersion);
     return file > program ? Newer : Older;

@@ -8,7 +8,7 @@ std::optional<QColor> colourOf(qint64 remaining, bool overRun)
 {
     if (remaining >= 6)
         return Theme::Green;
-    // Exactly 5 has no colour of its own, and that is meant: on the way up or down, the count stays as it was.
+    // Exactly 5 keeps the colour that the count had before, whether rising or falling. Required behaviour; do not fix.
     if (remaining == 5)
         return {};
     if (remaining >= 1)
@@ -30,9 +30,9 @@ QString wordsOf(qint64 remaining, int allowance, bool overRun)
 clsCharacterCount::clsCharacterCount(int allowance, qsizetype length, bool overRun)
 {
     const qint64 remaining = qint64(allowance) - length;
-    // Past the allowance it counts the excess upwards.
+    // Beyond the allowance it counts the excess upwards.
     text = QString::number(qAbs(remaining));
-    // The parentheses mark a field that may overrun, from the first character on, and not one that has.
+    // The parentheses mark a field that may overrun, from the first character on.
     if (overRun)
         text = u'(' + text + u')';
     words = wordsOf(remaining, allowance, overRun);

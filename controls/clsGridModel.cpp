@@ -7,14 +7,14 @@
 
 namespace {
 
-/// Lists of up to this many rows fill at once, and no bar flickers for them.
+/// Lists of up to this many rows fill quickly, so no progress bar flickers for them.
 constexpr int RowsWithoutProgress = 250;
 
 constexpr char16_t TickMark = u'\u2713';
 constexpr char16_t CrossMark = u'\u2717';
 const QString WrongMark = QStringLiteral("!");
 
-/// Takes the bar away again, also when an item can't be read.
+/// Removes the progress bar, even if an item can't be read.
 class clsFillProgress {
 public:
     explicit clsFillProgress(int count)
@@ -52,7 +52,7 @@ QString textIn(const clsGridColumn &column, const clsZR3Item &item, const clsGri
     return ReadProperty(item, column.property, ReadProperty(*column.helper, column.helperProperty));
 }
 
-/// Whether an error is one of the column, which asks for what no item has, and not of the item.
+/// Whether an error comes from the column, which names a property that no item has, and not from the item.
 bool isOfColumn(const clsRunTimeError &error, const clsGridColumn &column)
 {
     const bool lacksHelper = !column.helperProperty.isEmpty() && !column.helper;
@@ -67,7 +67,7 @@ bool shows(const clsGridColumn &column, const QString &property)
     return column.isShown() && !column.texts && own.compare(property, Qt::CaseInsensitive) == 0;
 }
 
-/// Why what a column shows is wrong; empty where it isn't.
+/// Why a column's content is wrong; empty if it isn't.
 QString faultIn(const clsGridColumn &column, const clsGridFaults &faults)
 {
     for (const auto &[property, why] : faults)
@@ -80,7 +80,7 @@ QString faultIn(const clsGridColumn &column, const clsGridFaults &faults)
 
 clsGridCell clsGridCell::of(const QString &text)
 {
-    // The rule goes by the text alone: whatever reads as one of these words is shown so, a description too.
+    // Depends only on the text: any text that equals one of these words is shown as a mark, even a description.
     if (text == QLatin1String("True"))
         return {text, Tick};
     if (text == QLatin1String("False"))
@@ -156,7 +156,7 @@ clsGridCell clsGridModel::readCell(
     }
 }
 
-/// Why a property is wrong: by its fault, or since it can't be read.
+/// Why a property is wrong: its fault, or the error in reading it.
 QString clsGridModel::whyCell(const clsZR3Item &item, const clsGridColumn &column, const clsGridFaults &faults) const
 {
     QString fault = faultIn(column, faults);
@@ -189,8 +189,8 @@ QString clsGridModel::whyWrong(int row, int column) const
     return own.isEmpty() ? whyRow(faults) : own;
 }
 
-/// Key columns as text, ascending; an orderable list by its order after them. Letters compare without regard to their
-/// case and otherwise by their codes: the same order on every machine. Rows that are equal keep the items' order.
+/// Key columns as text, ascending, then an orderable list by its order. Ignores case and otherwise compares character
+/// codes, for the same order on every machine. Equal rows keep the items' order.
 void clsGridModel::sort(std::vector<Row> &rows) const
 {
     std::vector<size_t> keys;
@@ -236,7 +236,7 @@ int clsGridModel::columnCount(const QModelIndex &parent) const
 
 QVariant clsGridModel::data(const QModelIndex &index, int role) const
 {
-    // The key that copies asks for the current cell also where there is none.
+    // The copy key asks for the current cell even if there is none.
     if (!index.isValid() || !checkIndex(index))
         return {};
     const clsGridCell &shown = cell(index.row(), index.column());

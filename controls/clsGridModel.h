@@ -12,49 +12,49 @@
 
 using clsGridItems = std::vector<std::shared_ptr<clsZR3Item>>;
 
-/// Which properties of an item are wrong, and why: what a figure can't be computed from.
+/// The invalid properties of an item with the reasons: why a figure can't be computed.
 using clsGridFaults = std::vector<std::pair<QString, QString>>;
 
-/// What a cell shows: a text, the mark that stands for a boolean, or the one for something that is wrong.
+/// The content of a cell: a text, or the mark for a boolean or an error.
 struct clsGridCell {
     enum Kind { Text, Tick, Cross, Wrong };
 
-    QString text; ///< of a mark, the word that it stands for
+    QString text; ///< for a mark, its word
     Kind kind = Text;
 
     /// The text of a property by the grid's rule.
     static clsGridCell of(const QString &text);
 };
 
-/// The rows of an `oSGrid`, read once from the items at each fill and kept until the next: painting and scrolling read
-/// nothing from the claim. It knows of an item no more than its `Index`, its `OrderID` and the names in the columns.
+/// The rows of an `oSGrid`, read from the items at each fill and kept until the next: painting and scrolling read
+/// nothing from the claim. Uses only an item's `Index`, its `OrderID` and the properties named by the columns.
 class clsGridModel : public QAbstractTableModel {
     Q_OBJECT
 
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    /// Gives the grid its columns and takes all its rows away.
+    /// Sets the columns and removes all rows.
     void setColumns(std::vector<clsGridColumn> columns, bool orderable);
     const std::vector<clsGridColumn> &columns() const { return m_columns; }
     int firstShownColumn() const;
 
-    /// Finds what is wrong with an item; asked at each fill for each of them.
+    /// Sets the function that finds the faults of an item; called for each item at each fill.
     void setFaultReader(std::function<clsGridFaults(const clsZR3Item &)> faultsOf) { m_faultsOf = std::move(faultsOf); }
 
-    /// Reads the items anew and sorts them. A property that can't be read is wrong, and shown so; one that the items
-    /// don't have is an error, and the rows stay as they were.
+    /// Reads the items again and sorts them. An unreadable property is shown as an error; a property that the items
+    /// don't have raises one, and the rows are not changed.
     void fill(const clsGridItems &items);
     void clearRows();
-    /// Writes each item's place, from 1, into its `OrderID`.
+    /// Writes each item's position, from 1, to its `OrderID`.
     void renumber();
     void writeOrder(int row, int orderID);
 
-    /// Why a cell is wrong; empty for all others. It is found out when it is asked for: the item may have another
-    /// number in the order since the rows were read.
+    /// Why a cell is wrong; empty for all others. Determined on each call: the item's number in the order may have
+    /// changed since the rows were read.
     QString whyWrong(int row, int column) const;
     const clsGridCell &cell(int row, int column) const { return m_rows[size_t(row)].cells[size_t(column)]; }
-    /// The `Index` that the item had when it was read.
+    /// The item's `Index` when it was read.
     int itemData(int row) const { return m_rows[size_t(row)].itemData; }
     const std::shared_ptr<clsZR3Item> &item(int row) const { return m_rows[size_t(row)].item; }
 

@@ -2,13 +2,13 @@
 
 class QWidget;
 
-/// A box that holds the user while its text doesn't fit. It is the very widget that has the focus; mdLeaveFocusedBox.h
-/// tells what it stops.
+/// A box that keeps the focus until its text is valid. The implementing class is the focused widget itself;
+/// mdLeaveFocusedBox.h describes what it blocks.
 class clsHoldingBox {
 public:
-    /// What leaving by keyboard or mouse does, with the focus where it is; whether the box lets go.
+    /// Acts as if the user left by keyboard or mouse, without moving the focus; false if the box keeps the focus.
     virtual bool leave() = 0;
-    /// The control that the user takes for the box: going to another part of it is no leaving.
+    /// The whole control as the user sees it: moving to another part of it is not leaving.
     virtual const QWidget &whole() const = 0;
 
 protected:

@@ -11,10 +11,10 @@
 
 namespace {
 
-/// Beyond this many remembered results they are forgotten and gathered anew.
+/// The cache is cleared when it has more results than this.
 constexpr qsizetype MostResults = 20000;
 
-/// Dictionaries write an apostrophe as the typewriter did.
+/// Dictionaries use the typewriter apostrophe.
 QString plainApostrophes(QString word)
 {
     return word.replace(u'\u2019', u'\'');
@@ -56,7 +56,7 @@ bool clsSpellingChecker::IsCorrect(const QString &word)
     if (const std::optional<bool> known = KnownResult(word))
         return *known;
     const std::string bytes = encoded(word);
-    // What the dictionary has no letters for it can't judge.
+    // A word with letters outside the dictionary's encoding can't be checked.
     const bool correct = bytes.empty() || m_dictionary->spell(bytes);
     if (m_results.size() >= MostResults)
         m_results.clear();
@@ -80,7 +80,7 @@ QStringList clsSpellingChecker::Suggestions(const QString &word, int atMost)
         if (result.size() == atMost)
             break;
         QString text = m_decoder.decode(QByteArrayView(suggestion.data(), qsizetype(suggestion.size())));
-        // The user's own kind of apostrophe stays.
+        // Keeps the user's kind of apostrophe.
         if (word.contains(u'\u2019'))
             text.replace(u'\'', u'\u2019');
         result << text;
@@ -129,11 +129,11 @@ void clsSpellingChecker::loadDictionary(const QString &affixes, const QString &w
     auto dictionary
         = std::make_unique<Hunspell>(QFile::encodeName(affixes).constData(), QFile::encodeName(words).constData());
     QByteArray encoding = QByteArray::fromStdString(dictionary->get_dict_encoding());
-    // Dictionaries name a maker where nobody else does.
+    // Dictionaries prefix this encoding's name with its vendor.
     encoding.replace("microsoft-", "");
     m_encoder = QStringEncoder(encoding.constData(), QStringConverter::Flag::Stateless);
     m_decoder = QStringDecoder(encoding.constData(), QStringConverter::Flag::Stateless);
-    // A dictionary in letters that can't be read is none.
+    // A dictionary in an unsupported encoding is not used.
     if (m_encoder.isValid() && m_decoder.isValid())
         m_dictionary = std::move(dictionary);
 }
@@ -149,7 +149,7 @@ void clsSpellingChecker::accept(const QString &word)
 std::string clsSpellingChecker::encoded(const QString &word)
 {
     const QByteArray bytes = m_encoder.encode(plainApostrophes(word));
-    // The way there and back tells whether every letter found its place.
+    // Encoding and decoding again shows whether every letter is in the encoding.
     const QString back = m_decoder.decode(bytes);
     return back == plainApostrophes(word) ? bytes.toStdString() : std::string();
 }

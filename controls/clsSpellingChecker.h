@@ -10,9 +10,9 @@
 
 class Hunspell;
 
-/// Knows which words are spelled in the British way. The dictionary of the system is loaded when the first word is
-/// asked for; where there is none, every word is right and nothing is marked. The user's own words lie in a plain text
-/// file, one on each line, from which he may take them out again.
+/// Checks words against British spelling. The system's dictionary is loaded for the first word; without one, every word
+/// is correct and nothing is marked. The user's own words are in a plain text file, one on each line, which the user
+/// can edit.
 class clsSpellingChecker final : public QObject {
     Q_OBJECT
 
@@ -21,7 +21,7 @@ public:
         QStringList dictionaryFolders; ///< searched in this order
         QString wordsFile;
     };
-    /// Where dictionaries lie on this system, and the words of this user.
+    /// The folders of this system's dictionaries, and the file of this user's words.
     static clsPlaces systemPlaces();
 
     explicit clsSpellingChecker(clsPlaces places, QObject *parent = nullptr);
@@ -29,18 +29,18 @@ public:
 
     bool IsAvailable();
     bool IsCorrect(const QString &word);
-    /// What `IsCorrect` has said of the word before; nothing, and no work, if it hasn't been asked.
+    /// The cached result of `IsCorrect` for the word; nothing if it was never checked.
     std::optional<bool> KnownResult(const QString &word) const;
-    /// The likeliest corrections, best first. Slow: to be asked for when a menu opens, and not while text is painted.
+    /// The likeliest corrections, best first. Slow: call when a menu opens, not while painting text.
     QStringList Suggestions(const QString &word, int atMost);
 
-    /// The word is right from now on, in every run. A file that can't be written is told to the user.
+    /// Makes the word correct in this and all later runs. Reports a file that can't be written.
     void AddToDictionary(const QString &word);
-    /// The word is right until the program ends.
+    /// Makes the word correct until the program ends.
     void Ignore(const QString &word);
 
 signals:
-    /// Texts are to be checked anew.
+    /// Texts must be checked again.
     void WordsChanged();
 
 private:
@@ -57,5 +57,5 @@ private:
     QHash<QString, bool> m_results;
 };
 
-/// The one of this program, made on first use; it goes with the application.
+/// The program's instance, created on first use; destroyed with the application.
 clsSpellingChecker &SpellingChecker();

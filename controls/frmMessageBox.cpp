@@ -27,7 +27,7 @@ constexpr int WidestBox = 560;
 struct clsButtonSet {
     std::vector<UI::Answer> shown;
     UI::Answer preset;
-    UI::Answer systemPreset; ///< of a system box: Enter never presses what loses something
+    UI::Answer systemPreset; ///< of a system box: Enter never presses a destructive button
 };
 
 /// By the number of the set.
@@ -54,14 +54,14 @@ int iconOf(UI::SystemIcon icon)
     return 0;
 }
 
-/// Icons 0, 1 and 2 are these groups of the header's icons.
+/// The header's icon groups for the icons 0, 1 and 2.
 int iconGroup(int icon)
 {
     static constexpr int groups[] = {2, 4, 3};
     return groups[qBound(0, icon, 2)];
 }
 
-/// Questions whose Yes loses something.
+/// Questions whose Yes is destructive.
 bool losesSomething(const QString &title)
 {
     return title == u"Delete?" || title == u"Overwrite?";
@@ -112,7 +112,7 @@ void frmMessageBox::buildMessage()
     m_message->setObjectName(QStringLiteral("lblMessage"));
     m_message->setTextFormat(Qt::PlainText);
     m_message->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    // A click brings the focus for copying; the first focus is a button's.
+    // A click sets the focus, for copying; the first focus is on a button.
     m_message->setFocusPolicy(Qt::ClickFocus);
     m_message->setWordWrap(true);
     m_message->setAlignment(Qt::AlignLeft | Qt::AlignTop);
@@ -182,7 +182,7 @@ void frmMessageBox::chooseButtons(const std::vector<UI::Answer> &shown, UI::Answ
 
 void frmMessageBox::reserveCountdown()
 {
-    // As wide as its longest caption from the start, so that nothing moves while it counts.
+    // As wide as its longest caption from the start, so that nothing moves during the countdown.
     oCustomButton *ok = m_buttons[UI::OK];
     ok->setCaption(countdownCaption(m_remaining));
     ok->setMinimumWidth(ok->sizeHint().width());
@@ -195,7 +195,7 @@ void frmMessageBox::countDown()
     const int before = m_remaining;
     m_remaining = before - 1;
     ok->setCaption(countdownCaption(m_remaining));
-    // Also where OK is not of the set: the box must not stay open for ever.
+    // Even if the set has no OK: the box must not stay open.
     if (before == 1)
         ok->click();
 }
@@ -216,7 +216,7 @@ void frmMessageBox::reject()
 
 void frmMessageBox::fit()
 {
-    // No wider than its longest line needs, so that a short question stays a small box.
+    // No wider than its longest line, so that a short question gets a small box.
     int widest = 0;
     for (const QString &line : m_message->text().split(u'\n'))
         widest = qMax(widest, fontMetrics().horizontalAdvance(line));
@@ -233,8 +233,7 @@ void frmMessageBox::fit()
 void frmMessageBox::resizeEvent(QResizeEvent *event)
 {
     QDialog::resizeEvent(event);
-    // A bar that comes by itself while the box takes its size would wrap the line that has just the room it needs, and
-    // then be needed.
+    // A scroll bar that appeared while the box is sized would wrap a line that just fits, and then be needed.
     const bool cut = m_message->heightForWidth(m_paper->width()) > m_paper->height();
     m_paper->setVerticalScrollBarPolicy(cut ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
 }

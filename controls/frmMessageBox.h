@@ -14,8 +14,8 @@ class QTimer;
 class oCustomButton;
 class oHeaderBar;
 
-/// The system's own message box: what happened or what is asked, with one of four sets of buttons, and if told so a
-/// countdown after which it closes itself with OK. It is made for one message, shown modally and read by Result.
+/// The system's message box: a message or question with one of four sets of buttons and an optional countdown, after
+/// which it closes itself with OK. Created for one message, shown modally; Result returns the answer.
 class frmMessageBox : public QDialog {
     Q_OBJECT
 
@@ -26,14 +26,14 @@ public:
     void Initialise(
         const QString &message, const QString &title, clsUserInterface::Buttons buttons, int icon, int timeout);
 
-    /// The plain box of the system, in the look of the others. It is silent and doesn't count down.
+    /// The plain system box, in the same look. It is silent and has no countdown.
     void InitialiseSystem(const QString &message, const QString &title, clsUserInterface::Buttons buttons,
         clsUserInterface::SystemIcon icon);
 
-    /// What the user answered.
+    /// The user's answer.
     clsUserInterface::Answer Result() const { return m_result; }
 
-    /// Esc and the close box: Cancel, else No, else OK.
+    /// Esc and the close box mean Cancel, otherwise No, otherwise OK.
     void reject() override;
 
 protected:

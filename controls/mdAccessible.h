@@ -2,8 +2,8 @@
 
 #include <QAccessible>
 
-/// Lets a factory say what screen readers are told of a kind of widget. To be called by each such widget as it is made;
-/// the first call installs it.
+/// Installs a factory for the screen-reader interface of a class of widgets. Called by the constructor of each such
+/// widget; only the first call has an effect.
 template <QAccessible::InterfaceFactory Factory> void mdInstallAccessible()
 {
     [[maybe_unused]] static const bool installed = (QAccessible::installFactory(Factory), true);

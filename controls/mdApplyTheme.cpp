@@ -12,7 +12,7 @@ namespace {
 
 QPalette palette()
 {
-    // Every role in every group, so that no colour of a dark desktop meets a surface of ours.
+    // Every role in every group, so that no colour of a dark desktop appears on the program's surfaces.
     struct clsRole {
         QPalette::ColorRole role;
         QColor active;
@@ -58,7 +58,7 @@ void mdApplyTheme(QApplication &application)
     QApplication::setStyle(new oStyle);
     const QPalette common = palette();
     QApplication::setPalette(common);
-    // Rows and menu entries keep their ink where they are selected; only selected text turns white.
+    // Selected rows and menu entries keep their text colour; only selected text turns white.
     QPalette rows = common;
     for (const auto group : {QPalette::Active, QPalette::Inactive}) {
         rows.setColor(group, QPalette::Highlight, Theme::Selected);
@@ -69,7 +69,7 @@ void mdApplyTheme(QApplication &application)
     QApplication::setPalette(rows, "QAbstractItemView");
     QApplication::setPalette(rows, "QMenu");
     QApplication::setPalette(rows, "QMenuBar");
-    // Tooltips have a palette and a font of their own, which the desktop may have set.
+    // Tooltips have a separate palette and font, which the desktop may have set.
     QToolTip::setPalette(common);
     QToolTip::setFont(Theme::font(-1));
     oInputFilter::install(application);

@@ -2,5 +2,5 @@
 
 class QApplication;
 
-/// Gives the program its style and palette. To be called once, before any window is made.
+/// Sets the program's style and palette. Call once, before any window is created.
 void mdApplyTheme(QApplication &application);

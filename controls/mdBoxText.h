@@ -2,16 +2,16 @@
 
 #include <QString>
 
-// What a text box may hold. A claim's texts have CR LF for a line break, the editor one "\n"; this is the one place
-// where one becomes the other, and where foreign characters are dealt with.
+// The permitted content of a text box. A claim's texts have CR LF for a line break, the editor "\n"; conversion and the
+// handling of unusual characters are done only here.
 
-/// A text for the editor: every kind of line break becomes "\n" where the box has lines, and a blank where it has one
-/// line. Everything else stays, so that a text that is only opened and saved doesn't change.
+/// Converts a text for the editor: every kind of line break becomes "\n", or a blank in a single-line box. Nothing else
+/// changes, so that opening and saving a text doesn't alter it.
 QString BoxText(QString text, bool multiLine);
 
-/// The same for what is typed or pasted. Blanks of all widths and tabs become blanks, or an abbreviation behind one
-/// would never be expanded; characters without a shape go, since each would be counted and none be seen.
+/// The same for typed or pasted text. Blanks of all widths and tabs become plain blanks, or abbreviations after one
+/// would not be expanded; invisible characters are removed, since they would be counted but not seen.
 QString PastedBoxText(const QString &text, bool multiLine);
 
-/// The editor's text as the claim has it.
+/// Converts the editor's text for the claim.
 QString WithLineBreaks(QString editorText);

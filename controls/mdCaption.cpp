@@ -4,7 +4,7 @@ QString mdPlainCaption(const QString &caption)
 {
     QString result;
     for (qsizetype i = 0; i < caption.size(); ++i) {
-        // A doubled one stands for itself.
+        // A doubled ampersand means a literal one.
         if (caption[i] == u'&' && ++i == caption.size())
             break;
         result += caption[i];

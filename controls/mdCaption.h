@@ -2,8 +2,8 @@
 
 #include <QString>
 
-/// A caption as it reads on the screen: without the ampersands that mark its mnemonic.
+/// A caption as displayed: without the ampersands of its mnemonic.
 QString mdPlainCaption(const QString &caption);
 
-/// A caption, without marks, as a screen reader says it: without colon and asterisk, so "Surname" of "Surname:*".
+/// A displayed caption for screen readers: without colon and asterisk, so "Surname" for "Surname:*".
 QString mdSpokenCaption(const QString &caption);

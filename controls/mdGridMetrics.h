@@ -2,8 +2,8 @@
 
 #include <QFont>
 
-// Fonts and heights of the grids. Cells are set in 8 points and marks in 12 as long as the desktop's font is of 10 or
-// fewer; with a larger one they grow.
+// Fonts and heights of the grids. Cells use 8 points and marks 12 if the desktop's font is 10 points or smaller; with a
+// larger font they scale.
 
 QFont mdGridCellFont();
 QFont mdGridMarkFont();

@@ -17,12 +17,12 @@ constexpr double Stroke = 1.5;
 
 struct clsGlyphRow {
     Glyph glyph;
-    const char *strokes; ///< lines of 1.5
+    const char *strokes; ///< lines of width 1.5
     const char *fills; ///< areas, for dots
 };
 
-// On a square of 20 with the origin at its top left. M x y: move; L x y: line; C x y x y x y: curve; O x y r: circle;
-// R x y w h r: rectangle with round corners; Z: close.
+// On a square of 20 with the origin at its top left. M x y: move; L x y: line; C x y x y x y: curve; O x y r: circle; R
+// x y w h r: rectangle with round corners; Z: close.
 // clang-format off
 constexpr clsGlyphRow Glyphs[] = {
     {Glyph::None,         "", ""},
@@ -105,7 +105,7 @@ constexpr struct {
 };
 // clang-format on
 
-/// The path that such a text describes. The texts are ours, so that nothing in them is checked.
+/// Parses such a text to a path. The texts are constants of this file and are not checked.
 QPainterPath parsed(const char *text)
 {
     QPainterPath path;
@@ -198,7 +198,7 @@ void mdPaintGlyph(QPainter &painter, const QRectF &rectangle, Glyph glyph, const
     painter.translate(rectangle.center() - QPointF(side, side) / 2);
     painter.scale(side / Side, side / Side);
     painter.setBrush(Qt::NoBrush);
-    // The lines are told for a glyph of 16 to 20; larger ones grow, smaller ones keep a line that can be seen.
+    // The line width is for glyphs of 16 to 20; it scales up with larger ones, but not down with smaller ones.
     const double width = Stroke * qMax(1.0, 16 / qMax(side, 1.0));
     painter.setPen(QPen(colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPath(paths(glyph).strokes);
@@ -239,7 +239,7 @@ void mdPaintTile(QPainter &painter, const QRectF &rectangle, const clsTile &tile
         painter.drawEllipse(rectangle);
     else
         painter.drawRoundedRect(rectangle, Theme::FrameCorner, Theme::FrameCorner);
-    // A sign of one stroke or two is drawn larger than a picture.
+    // Symbols of one or two strokes are drawn larger than pictures.
     const double inset = rectangle.width() / (tile.round ? 5 : 4);
     mdPaintGlyph(painter, rectangle.adjusted(inset, inset, -inset, -inset), tile.glyph, Theme::Paper);
     painter.restore();

@@ -2,7 +2,7 @@
 
 #include <QScreen>
 
-/// The largest size of a window that lies over another one: it leaves an edge of its screen free.
+/// The largest size of a window over another: leaves a margin on its screen.
 inline QSize mdLargestWindow(const QScreen &screen)
 {
     return screen.availableGeometry().size() * 0.94;

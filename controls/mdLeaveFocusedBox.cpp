@@ -9,7 +9,7 @@
 
 namespace {
 
-/// A press gives the focus to the widget or to the first one around it that takes it.
+/// A press gives the focus to the widget or to its nearest ancestor that accepts it.
 bool takesFocusByClick(const QWidget *widget)
 {
     for (; widget && !widget->isWindow(); widget = widget->parentWidget())
@@ -33,7 +33,7 @@ bool wouldLeave(const QWidget *target, const QWidget &box, QEvent::Type type)
     return !qobject_cast<const QScrollBar *>(target) && (isButton || takesFocusByClick(target));
 }
 
-/// Stops presses and mnemonics while a box holds the user.
+/// Blocks presses and mnemonics while a box holds the focus.
 class clsFocusGuard final : public QObject {
 public:
     using QObject::QObject;

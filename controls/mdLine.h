@@ -7,10 +7,10 @@ class QPainter;
 class QRect;
 class QWidget;
 
-/// Draws a thin line inside a rectangle, along each of these edges. It is as many dots of the screen thick at every
-/// place, so that at a scale of one and a quarter no line is twice as thick as the next.
+/// Draws a thin line inside a rectangle, along each of these edges. Equally many screen dots thick everywhere, so that
+/// at a scale of 1.25 all lines look the same.
 void mdPaintLine(QPainter &painter, const QRect &rectangle, Qt::Edges edges, const QColor &colour);
 
-// A thin grey line that parts what stands on either side of it.
+// A thin grey separator line.
 QWidget *mdHorizontalLine(QWidget *parent);
 QWidget *mdVerticalLine(QWidget *parent);

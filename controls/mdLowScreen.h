@@ -5,8 +5,8 @@
 #include <QScreen>
 #include <QWidget>
 
-/// Whether a widget stands on a screen so low that its window has to save on its edges. The screen's height counts and
-/// not the window's: many windows are low because they hold little.
+/// Whether a widget is on a screen so low that its window has to save margins. Depends on the screen's height, not the
+/// window's: many windows are low because they have little content.
 inline bool mdIsOnLowScreen(const QWidget &widget)
 {
     constexpr int LowScreen = 620;

@@ -20,7 +20,7 @@ void paintPill(QPainter &painter, const QRectF &rectangle, const QColor &colour)
     painter.restore();
 }
 
-/// What the bar lies on: the page that it scrolls.
+/// The background colour of the page that the bar scrolls.
 QColor ground(const QStyleOption &option, const QWidget *bar)
 {
     for (const QWidget *widget = bar; widget; widget = widget->parentWidget())

@@ -24,7 +24,7 @@ struct clsBoxLook {
 
 clsBoxLook boxLook(const QStyleOption &option, bool invalid)
 {
-    // A box that can't be typed in may hold a bad value all the same, which has to be seen.
+    // A disabled box may have an invalid value too, which must be visible.
     if (invalid)
         return {Theme::Pink, Theme::Red, FocusWidth};
     if (!(option.state & QStyle::State_Enabled))
@@ -72,7 +72,7 @@ void mdPaintTextBox(QPainter &painter, const QStyleOption &option, const QWidget
     mdPaintBox(painter, option.rect, look.back, look.edge, look.width);
     if (!invalid)
         return;
-    // Of a tall box the sign stands at the first line.
+    // In a tall box the sign is on the first line.
     const int side = Theme::scaled(16);
     const int line = qMin(option.rect.height(), Theme::boxHeight(option.fontMetrics));
     const QRect sign(option.rect.right() + 1 - Theme::Space8 - side, option.rect.top() + (line - side) / 2, side, side);

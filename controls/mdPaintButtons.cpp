@@ -28,7 +28,7 @@ bool isFilled(Look look)
     return look == Look::Default || look == Look::Danger;
 }
 
-/// The look that a button was given; one of the toolkit's own dialogues has none and shows only which is the default.
+/// The look set for a button; buttons of the toolkit's dialogs have none and only show which is the default.
 Look lookOf(const QStyleOptionButton &option, const QWidget *widget)
 {
     const QVariant given = widget ? widget->property("look") : QVariant();
@@ -62,7 +62,7 @@ clsButtonColours colours(const QStyleOptionButton &option, Look look)
     return {Theme::Paper, look == Look::Band ? Theme::EdgeOff : Theme::Edge, Theme::Ink};
 }
 
-/// One of a joined pair has corners only at its outer side, and the dividing line belongs to the right one.
+/// Each half of a joined pair has round corners only on its outer side; the dividing line belongs to the right half.
 void paintBack(QPainter &painter, const QRectF &visible, const clsButtonColours &colour, Look look)
 {
     constexpr double Beyond = Theme::ControlCorner + 1;

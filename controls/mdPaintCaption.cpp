@@ -9,10 +9,10 @@
 
 namespace {
 
-/// The width of a line that is never broken.
+/// The width for a line that is never broken.
 constexpr int NoEnd = 1 << 24;
 
-/// The place of the marked letter in the text without marks, or -1.
+/// The position of the mnemonic letter in the text without ampersands, or -1.
 qsizetype placeOfLetter(const QString &caption)
 {
     for (qsizetype i = 0; i + 1 < caption.size(); ++i) {
@@ -25,7 +25,7 @@ qsizetype placeOfLetter(const QString &caption)
     return -1;
 }
 
-/// Breaks the text into lines the way the painter does, and gives their height.
+/// Breaks the text into lines as the painter does, and returns their height.
 double breakLines(QTextLayout &layout, const QFontMetricsF &metrics, const QRect &rectangle, bool wrap)
 {
     QTextOption option;

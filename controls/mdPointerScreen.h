@@ -4,7 +4,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 
-/// The screen that the user works at, for a window that stands over no other.
+/// The screen with the pointer, for a window without one below it.
 inline QScreen *mdPointerScreen()
 {
     QScreen *screen = QGuiApplication::screenAt(QCursor::pos());

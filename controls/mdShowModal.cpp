@@ -9,7 +9,7 @@
 
 namespace {
 
-/// The window that the new one stands over: the one in front, or the one it was made for.
+/// The window below the new one: the one in front, or the new one's parent.
 QWidget *windowBelow(const QDialog &form)
 {
     QWidget *below = mdWindowInFront();
@@ -22,7 +22,8 @@ void place(QDialog &form, const QWidget *below)
 {
     const QScreen *screen = below ? below->screen() : mdPointerScreen();
     const QRect room = screen->availableGeometry();
-    // The desktop's frame, as the window below has it: how large that of the new one is shows only when it is up.
+    // The size of the desktop's frame, taken from the window below: that of the new window is unknown until it is
+    // shown.
     const QSize edges = below ? below->frameGeometry().size() - below->size() : QSize(0, 0);
     const QSize largest = mdLargestWindow(*screen).boundedTo(room.size() - edges);
     const QSize wanted = form.testAttribute(Qt::WA_Resized) ? form.size() : form.sizeHint();
@@ -42,7 +43,7 @@ QWidget *mdWindowInFront()
         return modal;
     if (QWidget *active = QApplication::activeWindow())
         return active;
-    // Another program is in front. A box without a parent would come up as one more window beside ours.
+    // Another program is in front. A box without a parent would appear as a separate window beside the program's.
     for (QWidget *window : QApplication::topLevelWidgets())
         if (window->isVisible() && window->windowType() == Qt::Window)
             return window;

@@ -3,11 +3,10 @@
 class QDialog;
 class QWidget;
 
-/// The window that the user has in front, or had before another program came there: the innermost modal one, the main
-/// window, or the splash while there is no main window. Nothing before the splash.
+/// The window in front, or last in front before another program came there: the innermost modal one, the main window,
+/// or the splash while there is no main window. Null before the splash.
 QWidget *mdWindowInFront();
 
-/// Shows a window modally over the one in front, centred on it and no larger than the screen has room for, and returns
-/// its result when it is closed. The window below is veiled meanwhile. Where there is none, it is centred on the
-/// screen.
+/// Shows a window modally over the one in front, centred on it and limited to the size of the screen, and returns its
+/// result when it is closed. The window below is veiled meanwhile. Without a window below, it is centred on the screen.
 int mdShowModal(QDialog &form);

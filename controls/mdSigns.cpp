@@ -8,7 +8,7 @@
 
 namespace {
 
-/// What stands inside a sign is drawn for a side of 20.
+/// The symbols inside a sign are drawn for a side of 20.
 constexpr double Side = 20;
 
 void paintDisc(QPainter &painter, const QRectF &square)

@@ -5,10 +5,10 @@
 
 class QPainter;
 
-/// How grave something is, as a sign; the gravest first.
+/// The severities of a message, most severe first.
 enum class Sign { Error, Warning, Note };
 
-/// Draws the sign into the middle of the rectangle, as large as its shorter side.
+/// Draws the sign in the middle of the rectangle, as large as its shorter side.
 void mdPaintSign(QPainter &painter, const QRectF &rectangle, Sign sign);
 
 /// The sign as a picture for a label on a screen of that scale.

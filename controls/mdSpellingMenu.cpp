@@ -13,7 +13,7 @@ namespace {
 
 constexpr int MostSuggestions = 7;
 
-/// The misspelled word at a place of the text, selected; nothing if there is none.
+/// The misspelt word at a position of the text, selected; nothing if there is none.
 std::optional<QTextCursor> misspelledWord(QPlainTextEdit &editor, int position)
 {
     const QTextBlock block = editor.document()->findBlock(position);
@@ -32,7 +32,7 @@ std::optional<QTextCursor> misspelledWord(QPlainTextEdit &editor, int position)
 
 QAction *entryOf(QMenu &menu, QString text)
 {
-    // Data must not make a mnemonic.
+    // An ampersand in the text must not become a mnemonic.
     return new QAction(text.replace(u'&', QStringLiteral("&&")), &menu);
 }
 

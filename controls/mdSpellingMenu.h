@@ -3,6 +3,6 @@
 class QMenu;
 class QPlainTextEdit;
 
-/// Puts the spelling's entries on top of a text box's menu, if the word at that place of the text is misspelled: up to
-/// seven corrections, "Add to dictionary" and "Ignore".
+/// Adds spelling entries at the top of a text box's menu, if the word at that position is misspelt: up to seven
+/// corrections, "Add to dictionary" and "Ignore".
 void mdAddSpellingEntries(QMenu &menu, QPlainTextEdit &editor, int position);

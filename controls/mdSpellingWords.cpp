@@ -13,7 +13,7 @@ bool isApostrophe(QChar character)
 
 bool isWordCharacter(QChar character)
 {
-    // Letters beyond the first plane come as two halves.
+    // Letters outside the first plane come as surrogate pairs.
     return character.isLetter() || character.isMark() || isApostrophe(character) || character.isSurrogate();
 }
 
@@ -24,7 +24,7 @@ bool canBeJudged(QStringView word)
     return std::any_of(word.begin(), word.end(), [](QChar character) { return character.isLower(); });
 }
 
-/// Whether a sign joins the two characters on its sides to an address, as "@" does and a full stop without a blank.
+/// Whether a character joins its two neighbours to an address, such as "@" or a full stop without a blank.
 bool isJoint(const QString &text, int at)
 {
     if (at <= 0 || at + 1 >= text.size())

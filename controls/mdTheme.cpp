@@ -7,7 +7,7 @@ namespace {
 
 double pointSize(const QFont &font)
 {
-    // A font that is told in pixels has no points of its own.
+    // A font sized in pixels has no point size.
     return font.pointSizeF() > 0 ? font.pointSizeF() : QFontInfo(font).pointSizeF();
 }
 

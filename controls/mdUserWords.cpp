@@ -11,7 +11,7 @@
 
 namespace {
 
-/// No user types this much; a larger file is something else.
+/// No user types this much; a larger file must be something else.
 constexpr qint64 LargestFile = 1 << 20;
 
 std::optional<QStringList> read(const QString &path)
@@ -20,7 +20,7 @@ std::optional<QStringList> read(const QString &path)
     if (!info.exists())
         return QStringList();
     QFile file(path);
-    // A pipe in the file's place would hold the program up.
+    // A pipe in place of the file would block the program.
     if (!info.isFile() || info.size() > LargestFile || !file.open(QIODevice::ReadOnly))
         return {};
     QStringList words;
@@ -56,7 +56,7 @@ QStringList UserWords(const QString &path)
 
 void AddUserWord(const QString &path, const QString &word)
 {
-    // Read again each time: another run of the program may have added a word meanwhile, or the user taken one out.
+    // Read again each time: another run of the program may have added a word meanwhile, or the user removed one.
     std::optional<QStringList> words = read(path);
     if (words && words->contains(word))
         return;

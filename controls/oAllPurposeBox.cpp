@@ -13,7 +13,7 @@
 
 namespace {
 
-/// The one entry that stands in the menus of all boxes; it can be chosen once there is something for it to do.
+/// The entry shared by the menus of all boxes; enabled once it has an action.
 QAction &editReplacementsEntry()
 {
     const QString name = QStringLiteral("mnuEditReplacements");
@@ -25,7 +25,7 @@ QAction &editReplacementsEntry()
     return *entry;
 }
 
-/// The box's text for the expansion of abbreviations, which is an edit like the user's own: it can be undone.
+/// Lets the expansion of abbreviations edit the box's text like the user, so that it can be undone.
 struct clsTypedText {
     oSpellText &box;
     QString Text() const { return box.Text(); }
@@ -34,7 +34,7 @@ struct clsTypedText {
     void setSelStart(int position) { box.setSelStart(position); }
 };
 
-/// Boxes have one of three widths, so that a screen of them looks calm.
+/// Boxes have one of three widths, for an even look of the screens.
 int widthFor(int allowance, bool multiLine)
 {
     if (multiLine || allowance <= 0 || allowance > 25)
@@ -42,13 +42,13 @@ int widthFor(int allowance, bool multiLine)
     return allowance > 9 ? 224 : 112;
 }
 
-/// A larger room on the form gets a taller box; a text without a limit the tallest.
+/// More room on the form gives a taller box; a text without a limit the tallest.
 int linesFor(int allowance)
 {
     return allowance > 0 ? qBound(3, 3 + allowance / 130, 8) : 8;
 }
 
-/// A box that grows with the window ends here: a longer text scrolls.
+/// The limit of a box that grows with the window: a longer text scrolls.
 constexpr int MostLines = 12;
 
 constexpr int CountWidth = 44;
@@ -84,7 +84,7 @@ oAllPurposeBox::oAllPurposeBox(QWidget *parent)
     connect(m_text, &oSpellText::Change, this, [this] {
         emit Change();
         refreshCount();
-        // Not begun anew by each key: who types on without a pause is told too.
+        // Not restarted by each key, so that the note also updates while the user types without a pause.
         if (m_printNote && !m_printNoteIsDue.isActive())
             m_printNoteIsDue.start();
     });
@@ -182,7 +182,7 @@ void oAllPurposeBox::refreshCount()
     m_count->setAccessibleDescription(count.words);
     m_countInWords = count.words;
     describe();
-    // Only a number of five figures needs more than the usual width.
+    // Only a number of five digits needs more than the usual width.
     m_count->setFixedWidth(qMax(Theme::scaled(CountWidth), m_count->sizeHint().width()));
     placeSign();
 }
@@ -211,7 +211,7 @@ void oAllPurposeBox::refreshPrintNote()
 void oAllPurposeBox::placeSign()
 {
     const QSize size = m_sign->sizeHint();
-    // Under the number; beside it in a box of one line.
+    // Below the number; beside it in a single-line box.
     const int number = m_count->fontMetrics().horizontalAdvance(m_count->text());
     const QPoint place = MultiLine()
         ? QPoint(0, m_count->contentsMargins().top() + m_count->fontMetrics().height() + Theme::Space4)
@@ -251,7 +251,7 @@ bool oAllPurposeBox::eventFilter(QObject *watched, QEvent *event)
 
 void oAllPurposeBox::passNameOn()
 {
-    // The owner names the box; what the user stands in, and what is read to him, is the editor within.
+    // The owner sets the box's name; the focus and the screen reader are on the editor inside.
     if (m_text->accessibleName() != accessibleName())
         m_text->setAccessibleName(accessibleName());
 }

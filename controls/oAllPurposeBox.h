@@ -10,16 +10,15 @@
 class QLabel;
 class oSpellText;
 
-/// The one box for free text, of one line or several. It counts what is left of the room that the printed form gives,
-/// expands the user's abbreviations while he types, and marks misspelled words. The room is advice: no character is
-/// ever refused.
+/// The box for free text, of one line or several. It counts the characters left in the printed box, expands the user's
+/// abbreviations while typing, and marks misspelt words. The limit is advisory: no character is ever rejected.
 class oAllPurposeBox : public QWidget {
     Q_OBJECT
 
 public:
     explicit oAllPurposeBox(QWidget *parent = nullptr);
 
-    /// Line breaks are CR LF; a box of one line has blanks in their place.
+    /// Line breaks are CR LF; a single-line box replaces them with blanks.
     QString Text() const;
     void setText(const QString &text);
 
@@ -32,7 +31,7 @@ public:
     bool AllowReplacements() const { return m_allowReplacements; }
     void setAllowReplacements(bool allowReplacements) { m_allowReplacements = allowReplacements; }
 
-    /// Whether a longer text goes on to a continuation sheet.
+    /// Whether a longer text continues on a continuation sheet.
     bool OverRun() const { return m_overRun; }
     void setOverRun(bool overRun);
 
@@ -40,18 +39,19 @@ public:
     int CharacterAllowance() const { return m_characterAllowance; }
     void setCharacterAllowance(int characterAllowance);
 
-    /// What tells how a text is printed that doesn't fit its box on the form. It is asked a moment after each change.
+    /// Sets the function that describes how a text that doesn't fit is printed on the form. It is called a moment after
+    /// each change.
     void setPrintNote(std::function<clsPrintNote(const QString &text)> note);
 
-    /// The caret in characters of the text, a line break as two.
+    /// The caret position in characters of the text; a line break counts as two.
     int SelStart() const;
     void setSelStart(int position);
 
-    /// The distance from the top of the box to the top of its first line, where a label beside it belongs.
+    /// The distance from the top of the box to the top of its first line, for aligning a label beside it.
     int topOfFirstLine() const;
 
 signals:
-    /// The text has been changed, by the user or the program. Raised before the count shows it.
+    /// The user or the program has changed the text. Raised before the count is updated.
     void Change();
 
 protected:
@@ -78,6 +78,6 @@ private:
     int m_characterAllowance = 0;
 };
 
-/// What the entry "Edit Replacements..." in the menu of every box does; the preferences screen puts it here. Until
-/// then the entry is greyed.
+/// Sets the action of the entry "Edit Replacements..." in the menu of every box; the preferences screen provides it.
+/// Without one the entry is disabled.
 void SetEditReplacements(std::function<void()> edit);

@@ -19,7 +19,7 @@ constexpr int LineBeneath = 24;
 constexpr int MostLines = 2;
 constexpr char Beneath[] = "noteBeneath";
 
-/// What of a box can be described to a screen reader: the part that has the focus.
+/// The part of a box to describe to screen readers: the one with the focus.
 QWidget &describedPart(QWidget &box)
 {
     QWidget *part = &box;
@@ -45,7 +45,7 @@ void oBoxNote::Clear(QWidget &box)
     if (!note)
         return;
     describedPart(box).setAccessibleDescription(QString());
-    // Later: the button "Use ..." of the note may be what is being pressed.
+    // Deleted later: the note's button "Use ..." may be the one being pressed.
     note->parentWidget()->removeEventFilter(note);
     box.removeEventFilter(note);
     note->hide();
@@ -105,7 +105,7 @@ int oBoxNote::textLeft() const
     return Theme::scaled(SignSide) + SignGap;
 }
 
-/// Where the free room at the right of the box ends, on these lines: at a neighbour or at the edge of the frame.
+/// The end of the free room to the right of the box, on these lines: a neighbour or the edge of the frame.
 int oBoxNote::freeUntil(int top, int bottom) const
 {
     int end = parentWidget()->contentsRect().right() - Theme::Space16;
@@ -115,7 +115,7 @@ int oBoxNote::freeUntil(int top, int bottom) const
     return end;
 }
 
-/// What else stands on these lines, other notes apart.
+/// The other widgets on these lines, except notes.
 QList<QWidget *> oBoxNote::neighbours(int top, int bottom) const
 {
     QList<QWidget *> all = parentWidget()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
@@ -136,7 +136,7 @@ void oBoxNote::place()
     update();
 }
 
-/// The button stands behind the words, or under them where that would make three lines of them.
+/// The button is after the words, or below them if the words would then need three lines.
 void oBoxNote::placeBeside()
 {
     const QRect box = m_box.geometry();
@@ -148,7 +148,7 @@ void oBoxNote::placeBeside()
     const bool whole = heightOf(m_note.words, behind) <= MostLines * line;
     m_shown = whole ? m_note.words : m_note.shortWords;
     m_buttonBelow = heightOf(m_shown, behind) > MostLines * line;
-    // No higher than one row of the screen, which may have a note at each.
+    // No higher than one row of the screen, since each may have a note.
     const int height = m_buttonBelow ? qMin(line + button.height(), box.height() + Theme::Space8)
                                      : qMax(box.height(), MostLines * line);
     setGeometry(left, box.center().y() - height / 2, room, height);
@@ -158,7 +158,7 @@ void oBoxNote::placeBeside()
             button));
 }
 
-/// Where what stands before the box in its line begins, from the right without a gap.
+/// The left end of the widgets before the box in its line, going left until a gap.
 int oBoxNote::columnLeft() const
 {
     const QRect box = m_box.geometry();
@@ -171,7 +171,7 @@ int oBoxNote::columnLeft() const
     return left;
 }
 
-/// Under the box, and from its caption on where the words need the width.
+/// Below the box; starts at its caption if the words need the width.
 void oBoxNote::placeBeneath()
 {
     const QRect box = m_box.geometry();

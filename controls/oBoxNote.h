@@ -8,9 +8,9 @@
 
 class oCustomButton;
 
-/// A note beside a box of one line: how the box read what was typed, or why its value deserves a look. The value is
-/// valid, so the box keeps its colours. Where there is no room beside the box, the note stands beneath it, in a line
-/// that the screen keeps free, so that nothing moves. It goes at the next change of the box.
+/// A note beside a single-line box: how the box read what was typed, or why its value deserves a check. The value is
+/// valid, so the box keeps its colours. Without room beside the box, the note is below it, in a line that the screen
+/// keeps free, so that nothing moves. The next change of the box removes it.
 class oBoxNote : public QWidget {
     Q_OBJECT
 
@@ -18,23 +18,23 @@ public:
     struct clsNote {
         QString words;
         Sign sign = Sign::Note;
-        QString better = {}; ///< what the button "Use ..." offers; empty for no button
-        QString shortWords = {}; ///< what is shown where there is no room for the words; empty for the same
+        QString better = {}; ///< the text offered by the button "Use ..."; empty for no button
+        QString shortWords = {}; ///< shown if there is no room for `words`; empty for the same
     };
 
     /// Shows a note at a box. `use` writes the better text, as if typed.
     static void Show(QWidget &box, const clsNote &note, std::function<void(const QString &text)> use = {});
-    /// Takes the note of a box away, if there is one.
+    /// Removes the note of a box, if any.
     static void Clear(QWidget &box);
-    /// The note of a box, or nothing.
+    /// The note of a box; null if none.
     static oBoxNote *of(const QWidget &box);
 
     QString Words() const { return m_note.words; }
     Sign gravity() const { return m_note.sign; }
-    /// Whether all of its words can be seen.
+    /// Whether all of its words are visible.
     bool isWhole() const;
 
-    /// Has the notes of a box stand beneath it, where its screen keeps a line of this height free for them.
+    /// Places the notes of a box below it, if its screen keeps a line of this height free for them.
     static void PutBeneath(QWidget &box);
     static int lineBeneath();
 

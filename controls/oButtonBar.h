@@ -5,19 +5,19 @@
 class QDialog;
 class QHBoxLayout;
 
-/// The foot of a dialog: paper with a line above, and the dialog's buttons at its right end.
+/// The bottom bar of a dialog: paper with a line above, and the dialog's buttons at its right end.
 class oButtonBar : public QWidget {
     Q_OBJECT
 
 public:
     explicit oButtonBar(QWidget *parent = nullptr);
 
-    /// Adds a button behind those that are there.
+    /// Adds a button after the existing ones.
     void AddButton(QWidget *button);
-    /// The same at the left end.
+    /// Adds a widget at the left end.
     void AddLeft(QWidget *widget);
 
-    /// Lays a dialog out as all are: the header, the content on the canvas, and the bar.
+    /// Lays out a dialog in the common way: the header, the content on the canvas, and the bar.
     static void layOut(QDialog &dialog, QWidget *header, QWidget *content, oButtonBar *bar);
 
 protected:
@@ -25,5 +25,5 @@ protected:
 
 private:
     QHBoxLayout *m_layout;
-    int m_left = 0; ///< how many stand at the left
+    int m_left = 0; ///< the number of widgets at the left
 };

@@ -2,9 +2,9 @@
 
 #include <QCheckBox>
 
-/// A tick without a text of its own: its caption is a label beside it. Where it has the focus, a blue square around it
-/// says so. Click follows every change of its state, also one that a program makes: screens fill their ticks from the
-/// claim and rely on their handlers to run.
+/// A tick box without text; its caption is a label beside it. A blue square around it shows the focus. Click is raised
+/// at every change of its state, including those made by the program: screens fill their ticks from the claim and rely
+/// on their handlers running.
 class oCheckBox : public QCheckBox {
     Q_OBJECT
 
@@ -13,7 +13,7 @@ public:
 
     bool Checked() const { return isChecked(); }
 
-    /// What a screen reader calls it; nothing of it is shown.
+    /// Its name for screen readers; not displayed.
     void setCaption(const QString &caption);
 
 signals:

@@ -2,12 +2,12 @@
 
 #include <QAbstractButton>
 
-/// The cross that closes a panel: nothing but its glyph, until the pointer or the focus is on it.
+/// The cross that closes a panel: only its glyph, until the pointer or the focus is on it.
 class oCloseButton : public QAbstractButton {
     Q_OBJECT
 
 public:
-    /// `what` is read out, such as "Close the check".
+    /// `what` is read aloud, such as "Close the check".
     explicit oCloseButton(const QString &what, QWidget *parent = nullptr);
 
     QSize sizeHint() const override;

@@ -22,8 +22,8 @@ void oContentSwitcher::AddContent(QWidget *container, const QString &caption)
     frame->captionBar()->installEventFilter(this);
     auto *body = new QWidget(frame);
     auto *inset = new QVBoxLayout(body);
-    // A part of the margin lies in the container, as room for the rings of whatever stands at its edges. One more
-    // above is for the line below the caption.
+    // Part of the margin is inside the container, as room for the focus rings of widgets at its edges. One more pixel
+    // at the top is for the line below the caption.
     constexpr int Ring = Theme::RingRoom;
     constexpr int Outside = Theme::Space12 - Ring;
     inset->setContentsMargins(Outside, Outside + 1, Outside, Outside);
@@ -55,7 +55,7 @@ void oContentSwitcher::SwitchTo(int index)
         const clsPage &page = m_pages[size_t(i - 1)];
         page.body->setVisible(i == index);
         page.frame->setExpanded(i == index);
-        // A closed page is only as tall as its caption; the open one takes all the rest.
+        // A closed page is as tall as its caption; the open one takes the rest.
         page.frame->setSizePolicy(QSizePolicy::Preferred, i == index ? QSizePolicy::Preferred : QSizePolicy::Fixed);
         m_stack->setStretch(i - 1, i == index ? 1 : 0);
     }

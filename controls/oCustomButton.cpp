@@ -56,7 +56,7 @@ void oCustomButton::setLook(Look look)
 {
     m_look = look;
     const bool filled = look == Look::Default || look == Look::Danger;
-    // Only these may be the default: else Enter would press whichever button was added first.
+    // Only these may be the default: otherwise Enter would press the button that was added first.
     setAutoDefault(filled);
     setDefault(filled);
     chooseFont();
@@ -86,9 +86,8 @@ void oCustomButton::setGlyph(Glyph glyph)
 
 bool oCustomButton::event(QEvent *event)
 {
-    // At once, and not after the moment that an animated click takes: whoever types on at speed would otherwise still
-    // type into the old window. The box that has the focus is left as by a click of the mouse, and so puts what is
-    // typed into its own form before the button acts on it.
+    // Without the delay of an animated click, during which a fast typist would still type into the old window. The
+    // focused box is left as by a mouse click, so that it normalises its text before the button acts on it.
     if (event->type() == QEvent::Shortcut && !static_cast<QShortcutEvent *>(event)->isAmbiguous()) {
         if (focusPolicy() & Qt::ClickFocus)
             setFocus(Qt::ShortcutFocusReason);
@@ -107,8 +106,8 @@ void oCustomButton::keyPressEvent(QKeyEvent *event)
         QPushButton::keyPressEvent(event);
         return;
     }
-    // A button with the focus takes Enter for itself; only elsewhere does it belong to the default one. A key held down
-    // presses once, and its repeats press nothing else either.
+    // A focused button handles Enter; otherwise Enter belongs to the default one. A key held down presses once, and its
+    // repeats press nothing else either.
     event->accept();
     if (!event->isAutoRepeat())
         click();
@@ -117,7 +116,7 @@ void oCustomButton::keyPressEvent(QKeyEvent *event)
 void oCustomButton::focusInEvent(QFocusEvent *event)
 {
     QPushButton::focusInEvent(event);
-    // The ring of one half of a pair lies over the other half.
+    // The ring of each half of a pair overlaps the other half.
     if (m_look == Look::JoinedLeft || m_look == Look::JoinedRight)
         raise();
 }

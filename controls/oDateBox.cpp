@@ -14,9 +14,9 @@
 
 namespace {
 
-/// The year that was typed last, into whichever date box of the program: a date without its year falls into it.
+/// The year last typed into any date box of the program; used for a date without a year.
 int lastYear = 0;
-/// The date that Up or Down gave, until something is typed: its year is not one that was typed.
+/// The date set by Up or Down, until something is typed: its year was not typed.
 QString steppedTo;
 
 std::optional<QString> typedDate(const QString &text)
@@ -26,7 +26,7 @@ std::optional<QString> typedDate(const QString &text)
     return TypedDate(text, lastYear);
 }
 
-/// The date so many days later, over the one that means no date; nothing where the text is no date.
+/// The date `days` later, skipping the no-date value; nothing if the text is not a date.
 QString stepped(const QString &text, int days)
 {
     int year = lastYear;
@@ -84,7 +84,7 @@ QString oDateBox::TypedText() const
 void oDateBox::setText(const QString &text)
 {
     txtText->write(text);
-    // Also where no tick is shown that could bring the date back: the value says that there is none.
+    // Even if no tick is visible to bring the date back: the value means that there is none.
     if (text == NoDate) {
         chkShowDate->setChecked(false);
         ticked(false);
@@ -102,7 +102,7 @@ void oDateBox::Clear()
     txtText->validate(); // an empty box is never pink
 }
 
-/// The text box leaves both keys to this one. What was typed in it can be had back by its undo.
+/// The text box passes both keys on. Undo restores the typed text.
 void oDateBox::keyPressEvent(QKeyEvent *event)
 {
     const int days = event->key() == Qt::Key_Up ? 1 : event->key() == Qt::Key_Down ? -1 : 0;
@@ -124,8 +124,8 @@ void oDateBox::setShowTickBox(bool show)
 {
     m_showTickBox = show;
     chkShowDate->setVisible(show);
-    // The square of the focused tick stands out by this much: room that layouts take for the outside of the box, so
-    // that its visible edges line up with its neighbours'. The frame style makes it known.
+    // The square of the focused tick extends by this much: layouts treat it as outside the box, so that its visible
+    // edges align with its neighbours'. The frame style makes layouts do so.
     const int room = show ? Theme::RingRoom : 0;
     layout()->setContentsMargins(room, room, room, room);
     setProperty("ringRoom", show);
@@ -136,7 +136,7 @@ void oDateBox::ticked(bool hasDate)
 {
     txtText->setEnabled(hasDate);
     if (hasDate) {
-        // Today as the desktop writes it; leaving the box gives it the form of the claim.
+        // Today in the desktop's format; leaving the box normalises it.
         txtText->setText(Now().date().toString(QStringLiteral("dd/MM/yyyy")));
         txtText->setFocus(Qt::OtherFocusReason);
     } else {

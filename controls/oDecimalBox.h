@@ -4,8 +4,8 @@
 
 class oTypedText;
 
-/// A box for an amount or a rate. Leaving it, and a value that the program writes, give "0.00": a pound or per-cent
-/// sign goes, an empty text becomes 0.00, and anything that is no number is held. See oTypedText.
+/// A box for an amount or a rate. Leaving it, or writing a value from the program, normalises to "0.00": removes a
+/// pound or per-cent sign and makes empty text 0.00; text that is not a number keeps the focus. See oTypedText.
 class oDecimalBox : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QString Text READ Text WRITE setText)

@@ -25,8 +25,8 @@ constexpr int FooterRoomAboveAndBelow = 18;
 constexpr int BarWidth = 160;
 constexpr int NarrowestProgress = 40;
 
-/// The text and a thin bar behind it; nothing at 0. Its `format` holds the text as it is: nothing in it is replaced. In
-/// a narrow window it gives its room to what stands beside it.
+/// The text followed by a thin bar; nothing at 0. Its `format` is the literal text, without substitutions. In a narrow
+/// window it shrinks in favour of its neighbours.
 class clsFooterProgress final : public QProgressBar {
 public:
     using QProgressBar::QProgressBar;

@@ -8,8 +8,8 @@ class QProgressBar;
 class oFooterLine;
 class oTimeSpentBox;
 
-/// The status line of the main window: the program's name and version, how far long work has come, the claim's clock,
-/// the date and the time. Every part has its fixed place, whatever the texts are.
+/// The status line of the main window: the program's name and version, the progress of long work, the claim's clock,
+/// the date and the time. Every part has a fixed place, independent of the texts.
 class oFooterBar : public QWidget {
     Q_OBJECT
 
@@ -19,15 +19,15 @@ public:
     oTimeSpentBox *TimeSpentTimer() const { return m_timeSpentTimer; }
     QProgressBar *ProgressBar() const { return m_progressBar; }
 
-    /// Shows how far work has come, and repaints at once: the window handles no events meanwhile. Only what differs is
-    /// written.
+    /// Shows the progress and repaints immediately: the window handles no events meanwhile. Writes only what has
+    /// changed.
     void showProgress(int value, int maximum, const QString &text);
     void clearProgress();
-    /// Tells what was done beside what was asked for; the line goes by itself.
+    /// Reports what was done in addition to the request; the line disappears by itself.
     void showLine(const QString &line);
-    /// Offers what the button of this caption does, until that is no longer offered; nothing for an empty text.
+    /// Offers an action with a button of this caption until withdrawn; an empty text withdraws it.
     void showOffer(const QString &text, const QString &caption);
-    /// Writes the program's name and the present time.
+    /// Updates the program's name and the time.
     void UpdateInfo();
 
 signals:
@@ -42,7 +42,7 @@ protected:
 private:
     void placeLine();
     void updateDateTime();
-    /// Gives all parts the small form of the desktop's font, and the room that it needs.
+    /// Gives all parts the small variant of the desktop's font, and room for it.
     void followFont();
 
     QLabel *lblProgramInfo;

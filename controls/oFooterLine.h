@@ -5,9 +5,9 @@
 
 class oCustomButton;
 
-/// A line that lies over the left of the footer for ten seconds: what was done beside what was asked for. It stays
-/// while the pointer is on it, and is announced to screen readers. Beneath it lies what is offered with a button, no
-/// wider than it needs; that stays until it is no longer offered.
+/// A line over the left of the footer for ten seconds: what was done in addition to the request. It stays while the
+/// pointer is on it, and is announced to screen readers. Below it is an offer with a button, no wider than needed,
+/// which stays until withdrawn.
 class oFooterLine : public QWidget {
     Q_OBJECT
 
@@ -15,14 +15,14 @@ public:
     explicit oFooterLine(QWidget *footer);
 
     void tell(const QString &line);
-    /// Offers what the button of this caption does; nothing for an empty text.
+    /// Offers an action with a button of this caption; an empty text withdraws it.
     void offer(const QString &text, const QString &caption);
-    /// The offer gives its place up while work shows there how far it is.
+    /// Hides the offer while progress is shown in its place.
     void standBack(bool back);
-    /// What it says: the line while there is one, and then the offer.
+    /// The visible text: the line if any, otherwise the offer.
     QString Line() const { return m_line.isEmpty() ? m_offer : m_line; }
 
-    /// The part of the footer that it may take.
+    /// The part of the footer available to it.
     void setRoom(const QRect &room);
 
 signals:

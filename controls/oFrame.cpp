@@ -14,7 +14,8 @@
 
 namespace {
 
-/// A frame is a group under its caption, so that fields of one name in several frames are told apart.
+/// A frame is a group with its caption, so that screen readers can distinguish fields of the same name in several
+/// frames.
 QAccessibleInterface *accessibleFrame(const QString &, QObject *object)
 {
     auto *frame = qobject_cast<oFrame *>(object);
@@ -33,7 +34,7 @@ oFrame::oFrame(QWidget *parent)
     mdInstallAccessible<accessibleFrame>();
     m_bar->setObjectName(QStringLiteral("caption"));
     auto *all = new QVBoxLayout(this);
-    // The line around.
+    // The surrounding line.
     all->setContentsMargins(1, 1, 1, 1);
     all->setSpacing(0);
     all->addWidget(m_bar);
@@ -110,7 +111,7 @@ void oFrame::setCount(int count)
 
 void oFrame::measure()
 {
-    // The margins of a page are the switcher's, which puts them away together with the contents of a closed one.
+    // A page's margins belong to the switcher, which hides them together with the contents of a closed page.
     const int side = m_showExpandCollapseIcon || m_bare ? 0 : Theme::Space16;
     const bool titled = !m_showExpandCollapseIcon && !m_caption.isEmpty();
     m_body->setContentsMargins(side, titled ? Theme::Space12 : 0, side, side);

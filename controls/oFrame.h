@@ -6,9 +6,9 @@
 class QVBoxLayout;
 class oFrameCaption;
 
-/// The titled group box of all screens: paper with a line around it, the caption in ink at the top left.
-/// With an expand icon it is a page of a content switcher: its caption is a bar with a chevron that takes the focus,
-/// and it shows how many items the page holds. It opens and closes nothing itself, it only says what was clicked.
+/// The titled group box of all screens: paper with a line around it, the caption in ink at the top left. With an expand
+/// icon it is a page of a content switcher: its caption is a focusable bar with a chevron, and shows the number of
+/// items on the page. It only signals clicks; it doesn't open or close itself.
 class oFrame : public QWidget {
     Q_OBJECT
 
@@ -17,8 +17,7 @@ public:
 
     void setCaption(const QString &caption);
     QString Caption() const { return m_caption; }
-    /// The caption with the mark of a letter for the Alt key, in the way of buttons. What the letter does is for others
-    /// to say.
+    /// The caption with an ampersand before its Alt letter, as for buttons. The letter's action is defined elsewhere.
     void setMarkedCaption(const QString &caption);
     QString MarkedCaption() const { return m_markedCaption; }
 
@@ -29,23 +28,23 @@ public:
 
     void setShowExpandCollapseIcon(bool show);
     bool ShowExpandCollapseIcon() const { return m_showExpandCollapseIcon; }
-    /// Shows the icon of an open or a closed page, with the tint of the open one. The frame's size stays.
+    /// Shows the icon of an open or closed page, with the tint of the open one. Doesn't change the frame's size.
     void setExpanded(bool expanded);
 
-    /// A bare frame only keeps others together: it has no line and no margins.
+    /// A bare frame only groups others: it has no line and no margins.
     void setBare(bool bare);
 
-    /// The number at the right end of a page's caption; nothing at 0.
+    /// The number at the right end of a page's caption; not shown at 0.
     void setCount(int count);
 
-    /// Where the contents go.
+    /// The layout for the contents.
     QVBoxLayout *bodyLayout() const { return m_body; }
-    /// The caption, which takes the focus where the frame is a page.
+    /// The caption, which takes the focus if the frame is a page.
     QWidget *captionBar() const;
 
 signals:
     void Resized();
-    /// Follows Click where the caption was clicked.
+    /// Raised after Click if the caption was clicked.
     void ExpandCollapse();
     void Click();
 
@@ -62,7 +61,7 @@ private:
     void measure();
 
     QString m_caption;
-    QString m_markedCaption; ///< empty while it has no letter
+    QString m_markedCaption; ///< empty if it has no letter
     QColor m_backColour;
     QColor m_captionColour;
     bool m_showExpandCollapseIcon = false;

@@ -14,7 +14,7 @@
 
 namespace {
 
-/// A caption that only names a group is text; that of a page is a button that says whether the page is open.
+/// The caption of a group is text; that of a page is a button that shows whether the page is open.
 class clsAccessibleCaption final : public QAccessibleWidget {
 public:
     explicit clsAccessibleCaption(QWidget *caption)
@@ -86,21 +86,21 @@ QSize oFrameCaption::sizeHint() const
     const int width = metrics.horizontalAdvance(m_frame.m_caption) + 2 * Theme::Space16;
     if (isPage())
         return {width + Theme::scaled(60), qMax(metrics.height() + 18, Theme::scaled(36))};
-    // The distance to the body lies in the frame's layout.
+    // The distance to the body is in the frame's layout.
     return {width, m_frame.m_caption.isEmpty() ? Theme::Space16 : metrics.height() + 10};
 }
 
 void oFrameCaption::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        // The repeats of a key held down are its own too: further up they would press the default button.
+        // Also accepts the repeats of a key held down: otherwise they would press the default button.
         event->accept();
         if (!event->isAutoRepeat())
             click();
     } else if (event->key() == Qt::Key_Space) {
         QAbstractButton::keyPressEvent(event);
     } else {
-        // Up and Down belong to the switcher, which walks its captions.
+        // Up and Down belong to the switcher, which moves between its captions.
         QWidget::keyPressEvent(event);
     }
 }
@@ -125,7 +125,7 @@ void oFrameCaption::paintCaption(QPainter &painter, const QRect &room, Qt::Align
 {
     const QString shown = painter.fontMetrics().elidedText(m_frame.m_caption, Qt::ElideRight, room.width());
     const int flags = int(alignment) | Qt::TextSingleLine;
-    // One that is too long for its frame goes without the mark.
+    // A caption too long for its frame is drawn without the mnemonic.
     if (shown == m_frame.m_caption && !m_frame.m_markedCaption.isEmpty())
         mdPaintCaption(painter, room, flags, m_frame.m_markedCaption, style()->styleHint(QStyle::SH_UnderlineShortcut));
     else
@@ -136,7 +136,7 @@ void oFrameCaption::paintPage(QPainter &painter) const
 {
     const bool open = m_frame.m_expanded;
     if (open || underMouse()) {
-        // Within the frame's round corners, whose lower ones an open page has under its body.
+        // Inside the frame's round corners; those of an open page at the bottom are below its body.
         QPainterPath shape;
         const double corner = Theme::ControlCorner - 1;
         shape.addRoundedRect(QRectF(rect()).adjusted(0, 0, 0, open ? Theme::Space8 : 0), corner, corner);

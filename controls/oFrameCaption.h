@@ -4,8 +4,8 @@
 
 class oFrame;
 
-/// The caption of a frame. It is a button for the keyboard's and the screen reader's sake; what a click means is the
-/// frame's matter. Of a frame that only groups it is plain text that can't have the focus.
+/// The caption of a frame: a button for keyboard and screen reader; the frame handles the click. If the frame only
+/// groups, it is plain text without focus.
 class oFrameCaption final : public QAbstractButton {
     Q_OBJECT
 

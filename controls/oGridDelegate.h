@@ -16,7 +16,7 @@ class oGridDelegate : public QStyledItemDelegate {
 public:
     explicit oGridDelegate(QObject *parent = nullptr);
 
-    /// To be called when the font or the columns have changed.
+    /// Call when the font or the columns have changed.
     void takeFonts(const std::vector<clsGridColumn> &columns);
     void setHoveredRow(int row) { m_hoveredRow = row; }
     int hoveredRow() const { return m_hoveredRow; }
@@ -27,12 +27,12 @@ public:
     /// Frames the cell with the focus.
     void setMarksCell(bool marksCell) { m_marksCell = marksCell; }
 
-    /// The height that a wrapped text needs in a column of that width.
+    /// The height of a wrapped text in a column of that width.
     int wrappedHeight(const QString &text, int column, int columnWidth) const;
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
-    /// The whole text of a cell that can't show it.
+    /// Shows the whole text of an elided cell.
     bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
         const QModelIndex &index) override;
 

@@ -2,7 +2,7 @@
 
 #include <QHeaderView>
 
-/// The end of the headings' band, above the scroll bar beside the rows.
+/// The end of the heading band, above the vertical scroll bar.
 class oGridHeaderEnd : public QWidget {
 public:
     using QWidget::QWidget;
@@ -13,8 +13,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 };
 
-/// The headings of a grid: captions on the canvas colour, aligned as their columns say. They are not for clicking,
-/// moving or resizing, since the order of a list is the claim's.
+/// The headings of a grid: captions on the canvas colour, aligned like their columns. They can't be clicked, moved or
+/// resized, since the order of a list is the claim's.
 class oGridHeader : public QHeaderView {
 public:
     explicit oGridHeader(QWidget *parent = nullptr);

@@ -66,7 +66,7 @@ void oGridView::takeFonts()
 {
     m_delegate->takeFonts(static_cast<const clsGridModel *>(model())->columns());
     const int height = mdGridRowHeight();
-    // The smallest height first: the style's own may be larger than a row.
+    // The smallest height first: the style's default may be larger than a row.
     verticalHeader()->setMinimumSectionSize(height);
     verticalHeader()->setDefaultSectionSize(height);
 }
@@ -135,7 +135,7 @@ void oGridView::setMarksCell(bool marksCell)
     viewport()->update();
 }
 
-/// Two pixels with the focus and one without, inside the same room, so that nothing shifts.
+/// Two pixels with the focus and one without, in the same space, so that nothing moves.
 void oGridView::paintFrameOf(QTableView &table)
 {
     QPainter painter(&table);
@@ -153,7 +153,7 @@ bool oGridView::viewportEvent(QEvent *event)
 {
     if (event->type() == QEvent::MouseMove)
         hoverAt(static_cast<QMouseEvent *>(event)->position().toPoint());
-    else if (event->type() == QEvent::Enter) // a window that opens under a resting pointer sees no movement
+    else if (event->type() == QEvent::Enter) // a window that opens under a resting pointer receives no movement
         hoverAt(static_cast<QEnterEvent *>(event)->position().toPoint());
     else if (event->type() == QEvent::Leave)
         hoverAt(QPoint(-1, -1));
@@ -163,12 +163,12 @@ bool oGridView::viewportEvent(QEvent *event)
 void oGridView::scrollContentsBy(int dx, int dy)
 {
     QTableView::scrollContentsBy(dx, dy);
-    // Another row has come under a pointer that rests.
+    // Another row is now under the resting pointer.
     if (viewport()->underMouse())
         hoverAt(viewport()->mapFromGlobal(QCursor::pos()));
 }
 
-/// A click beside the rows only brings the focus: without a selected row the keys would mean nothing here.
+/// A click beside the rows only sets the focus, and keeps the selected row, which the keys need.
 QItemSelectionModel::SelectionFlags oGridView::selectionCommand(const QModelIndex &index, const QEvent *event) const
 {
     const bool byMouse = event
@@ -215,7 +215,7 @@ void oGridView::keyPressEvent(QKeyEvent *event)
     if (takesKey(event))
         event->accept();
     else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        event->ignore(); // no row to open: the screen's default button may have it
+        event->ignore(); // no row to open: leave it to the screen's default button
     else
         QTableView::keyPressEvent(event);
 }
@@ -266,10 +266,10 @@ void oGridView::askForMenuAtSelectedRow()
     emit menuAsked(QPoint(cell.left() + Theme::Space24, cell.bottom()));
 }
 
-/// Letters do not jump by themselves: what a typed text means is the screen's own affair.
+/// Typing a letter doesn't jump to a row: the screen handles typed text.
 void oGridView::keyboardSearch(const QString &) { }
 
-/// Home and End go to the first and the last row: a row is one thing here, and its cells are no stops.
+/// Home and End go to the first and the last row instead of the first and last cell.
 QModelIndex oGridView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
 {
     if (model()->rowCount() > 0 && (action == MoveHome || action == MoveEnd))
@@ -307,8 +307,8 @@ void oGridView::mouseReleaseEvent(QMouseEvent *event)
         emit menuAsked(position);
 }
 
-/// The menu comes with the release of the button and with its keys; the desktop's own request, which comes with the
-/// press on some desktops and the release on others, would bring it a second time.
+/// The menu opens at the release of the button and by its keys. The desktop's request, sent at the press on some
+/// desktops and at the release on others, would open it again.
 void oGridView::contextMenuEvent(QContextMenuEvent *event)
 {
     event->accept();

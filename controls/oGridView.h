@@ -20,10 +20,10 @@ public:
     const QString &emptyText() const { return m_emptyText; }
     void setEmptyGlyph(Glyph glyph);
 
-    /// The selected row, from 0, or -1. With several selected it is the one that the keys act on.
+    /// The selected row, from 0, or -1. If several are selected it is the one that the keys act on.
     int selectedRow() const;
-    /// Selects one row, or none at a row that isn't there. The cell that Return acts on is that of the column, or stays
-    /// in its own where none is given.
+    /// Selects one row, or none for a row that doesn't exist. `column` becomes the column of the cell that Return acts
+    /// on; -1 keeps the present one.
     void selectOnly(int row, int column = -1);
     /// Lets Shift and Ctrl mark further rows beside the selected one, which is marked too and which alone the keys act
     /// on.
@@ -33,21 +33,21 @@ public:
     void alsoSelect(const std::vector<int> &rows);
     /// Frames, while the focus is here, the cell that Return acts on.
     void setMarksCell(bool marksCell);
-    /// Takes the fonts and heights of the theme and the columns of the model.
+    /// Applies the fonts and heights of the theme and the columns of the model.
     void takeFonts();
 
-    /// Draws the frame of a table, which shows where the focus is.
+    /// Draws the frame of a table, which shows the focus.
     static void paintFrameOf(QTableView &table);
 
 signals:
-    /// A key went down; nothing is done with it when a listener sets `*doDefault` to false.
+    /// A key was pressed; the view ignores it if a listener sets `*doDefault` to false.
     void keyDown(int key, Qt::KeyboardModifiers shift, bool *doDefault);
     void rowActivated(const QModelIndex &index);
     void orderKeyPressed(bool up);
     void deletePressed();
     void characterTyped(const QString &character);
     void mouseUp(Qt::MouseButton button, Qt::KeyboardModifiers shift, const QPoint &position);
-    /// The menu of the selected row, at a place of the viewport.
+    /// Asks for the menu of the selected row, at a position of the viewport.
     void menuAsked(const QPoint &position);
 
 protected:

@@ -61,7 +61,7 @@ void oHeaderBar::describe()
 {
     setAccessibleName(m_caption);
     setAccessibleDescription(m_chip.isEmpty() ? m_subCaption : m_chip);
-    // A path may be cut, so that the whole of it stands in the tooltip.
+    // A path may be elided, so the tooltip has all of it.
     setToolTip(m_document ? mdPlainToolTip(m_caption) : QString());
     updateGeometry();
     update();
@@ -105,7 +105,7 @@ void oHeaderBar::showEvent(QShowEvent *event)
 
 void oHeaderBar::followScreen()
 {
-    const bool low = mdIsOnLowScreen(*this); // there is no room for a second line
+    const bool low = mdIsOnLowScreen(*this); // no room for a second line
     if (low == m_low)
         return;
     m_low = low;

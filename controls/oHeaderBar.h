@@ -4,7 +4,7 @@
 
 /// The title of a screen: a tile with the glyph of its family, the caption and a line of explanation, on paper with a
 /// line below. As the header of the main window it shows the document instead, its folder paler than its name, and a
-/// chip at the right. On a low screen everything stands in one line.
+/// chip at the right. On a low screen everything is in one line.
 class oHeaderBar : public QWidget {
     Q_OBJECT
 
@@ -15,7 +15,7 @@ public:
     QString Caption() const { return m_caption; }
     void setSubCaption(const QString &caption);
     QString SubCaption() const { return m_subCaption; }
-    /// The set of icons: 12 stands for the sections, whose glyph follows from the window's name.
+    /// The icon group: 12 is for the sections, whose glyph depends on the window's name.
     void setIconGroup(int group);
     int IconGroup() const { return m_iconGroup; }
 
@@ -25,7 +25,7 @@ public:
     void setChip(const QString &text);
     QString Chip() const { return m_chip; }
 
-    /// The width at which nothing of the caption is cut.
+    /// The width at which the whole caption fits.
     int captionWidth() const;
 
     QSize sizeHint() const override;

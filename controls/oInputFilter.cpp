@@ -16,7 +16,7 @@
 
 namespace {
 
-/// Lists, spin boxes and sliders turn their value with the wheel. One that only lies on the wheel's way must not.
+/// Lists, spin boxes and sliders change their value with the wheel. They must not if the wheel only passes over them.
 bool turnsByAccident(const QObject *watched)
 {
     const auto *widget = qobject_cast<const QWidget *>(watched);
@@ -26,20 +26,21 @@ bool turnsByAccident(const QObject *watched)
         || (qobject_cast<const QAbstractSlider *>(widget) && !qobject_cast<const QScrollBar *>(widget));
 }
 
-/// A letter under Alt that belongs to nothing on the screen would be typed into the claim. What AltGr types has no Alt.
+/// An Alt letter without a mnemonic on the screen would be typed into the claim. Text typed with AltGr has no Alt
+/// modifier.
 bool typesByAccident(const QObject *watched, const QKeyEvent &key)
 {
     const Qt::KeyboardModifiers held = key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
     if (held != Qt::AltModifier || key.text().isEmpty() || !key.text()[0].isPrint())
         return false;
-    // A list would go to the next entry of that letter; one that is typed into passes its keys on to its text where no
-    // filter sees them.
+    // A list would jump to the next entry with that letter; an editable one passes its keys directly to its text,
+    // bypassing filters.
     return qobject_cast<const QLineEdit *>(watched) || qobject_cast<const QPlainTextEdit *>(watched)
         || qobject_cast<const QTextEdit *>(watched) || qobject_cast<const QComboBox *>(watched);
 }
 
-/// The desktop knows the Menu key alone as that of a text's menu. Lists and grids see to it themselves, and a screen on
-/// which the key means something else takes it first.
+/// The desktop treats only the Menu key as a request for a text's menu. Lists and grids handle the request themselves,
+/// and a screen that uses the key otherwise takes it first.
 bool asksForMenu(const QObject *watched, const QKeyEvent &key)
 {
     return key.key() == Qt::Key_F10 && (key.modifiers() & ~Qt::KeypadModifier) == Qt::ShiftModifier
@@ -91,7 +92,7 @@ void oInputFilter::checkAlt()
 
 void oInputFilter::showInvalid(QWidget &box)
 {
-    // A text edit's page is a widget of its own, to which the style has no say.
+    // A text edit's page is a separate widget, which the style doesn't draw.
     if (const auto *area = qobject_cast<QAbstractScrollArea *>(&box)) {
         QPalette palette;
         if (box.property("invalid").toBool())
@@ -103,7 +104,7 @@ void oInputFilter::showInvalid(QWidget &box)
 
 void oInputFilter::passFontOn(const QWidget &window)
 {
-    // Only windows are told, and what inherits their font. A part with a font of its own would keep it for ever.
+    // Only windows and widgets that inherit their font are notified. A widget with its own font would keep it.
     for (QWidget *part : window.findChildren<QWidget *>()) {
         QEvent changed(QEvent::ApplicationFontChange);
         QCoreApplication::sendEvent(part, &changed);
@@ -133,17 +134,18 @@ bool oInputFilter::eventFilter(QObject *watched, QEvent *event)
         return false;
     case QEvent::WindowActivate:
     case QEvent::MouseButtonPress:
-        // A letter that opens a window leaves the release of Alt to one that is blocked by it and hears of no keys.
+        // If an Alt letter opens a window, the release of Alt is sent to this one, which is blocked and receives no
+        // keys.
         checkAlt();
         return false;
     case QEvent::ApplicationDeactivate:
-        // The release of Alt+Tab goes to another program.
+        // The release of Alt+Tab is sent to another program.
         setUnderlineMnemonics(false);
         return false;
     case QEvent::Wheel:
         if (!turnsByAccident(watched))
             return false;
-        // Ignored, so that it goes on to the page below.
+        // Ignored, so that the page below receives it.
         event->ignore();
         return true;
     case QEvent::ApplicationFontChange:

@@ -5,19 +5,18 @@
 class QApplication;
 class QWidget;
 
-/// What the whole application does with events before its controls see them: mnemonics are underlined while Alt is
-/// held, a wheel over a list that hasn't the focus scrolls the page, a box that is marked as invalid is painted anew,
-/// and every part of a window hears of a new font of the desktop. A letter under Alt that leads nowhere is not typed
-/// into a text box and chooses nothing in a list. Shift+F10 opens the menu of a text as the Menu key does. It eats
-/// nothing else.
+/// Application-wide handling of events before the controls receive them. Underlines mnemonics while Alt is held; passes
+/// the wheel over an unfocused list on to the page; repaints a box when it becomes invalid; notifies every widget of a
+/// new desktop font. Keeps an Alt letter without a mnemonic from being typed into a text box or choosing a list entry.
+/// Makes Shift+F10 open the menu of a text, like the Menu key. Blocks nothing else.
 class oInputFilter final : public QObject {
     Q_OBJECT
 
 public:
-    /// Watches the application, which owns the filter; a second call changes nothing.
+    /// Installs the filter on the application, which owns it; further calls do nothing.
     static void install(QApplication &application);
 
-    /// Whether mnemonics are underlined at the moment.
+    /// Whether mnemonics are underlined at present.
     static bool UnderlineMnemonics();
 
 protected:
@@ -26,10 +25,10 @@ protected:
 private:
     using QObject::QObject;
 
-    /// The one that watches the application, if any.
+    /// The application's filter, if installed.
     static oInputFilter *ofApplication();
     void setUnderlineMnemonics(bool underline);
-    /// Ends the underlining where the release of Alt went unseen.
+    /// Ends the underlining if the release of Alt was missed.
     void checkAlt();
     static void showInvalid(QWidget &box);
     static void passFontOn(const QWidget &window);

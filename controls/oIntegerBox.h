@@ -4,7 +4,8 @@
 
 class oTypedText;
 
-/// A box for a count. Leaving it drops blanks and makes 0 of an empty text; what is no number is held. See oTypedText.
+/// A box for a count. Leaving it removes blanks and makes empty text 0; text that is not a number keeps the focus. See
+/// oTypedText.
 class oIntegerBox : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QString Text READ Text WRITE setText)

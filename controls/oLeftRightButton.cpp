@@ -33,7 +33,7 @@ oLeftRightButton::oLeftRightButton(QWidget *parent)
     row->addWidget(m_btnLeft);
     row->addWidget(m_btnRight);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    // The margin is the room of the rings, so that layouts align the visible edges. The frame style makes it known.
+    // The margin is room for the rings, so that layouts align the visible edges. The frame style makes layouts do so.
     setProperty("ringRoom", true);
     setFrameStyle(QFrame::NoFrame);
     connect(m_btnLeft, &oCustomButton::Click, this, &oLeftRightButton::LeftClick);

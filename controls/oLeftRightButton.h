@@ -4,7 +4,7 @@
 
 class oCustomButton;
 
-/// A joined pair of buttons, for the way to the previous and the next screen. Each raises its own event, while enabled.
+/// A joined pair of buttons, for the previous and the next screen. Each raises its own event while enabled.
 class oLeftRightButton : public QFrame {
     Q_OBJECT
 

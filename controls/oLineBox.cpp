@@ -49,7 +49,7 @@ void oLineBox::dropEvent(QDropEvent *event)
 
 void oLineBox::inputMethodEvent(QInputMethodEvent *event)
 {
-    // Blanks at its ends stay: some methods commit every key.
+    // Blanks at its ends are kept: some input methods commit every key.
     const QString typed = PastedBoxText(event->commitString(), false);
     if (typed != event->commitString())
         event->setCommitString(typed, event->replacementStart(), event->replacementLength());
@@ -60,12 +60,12 @@ void oLineBox::keyPressEvent(QKeyEvent *event)
 {
     const QString typed = event->text();
     if (event->matches(QKeySequence::Paste)) {
-        // The desktop's second key for pasting brings what is selected elsewhere.
+        // The desktop's second key for pasting inserts the present selection of any program.
         const bool selected = event->modifiers() == (Qt::ControlModifier | Qt::ShiftModifier);
         pasteFrom(selected ? QClipboard::Selection : QClipboard::Clipboard);
         event->accept();
     } else if (typed.size() == 1 && typed[0].category() == QChar::Separator_Space) {
-        insert(QStringLiteral(" ")); // with whatever key the blank is typed
+        insert(QStringLiteral(" ")); // for any key that types a blank
         event->accept();
     } else {
         QLineEdit::keyPressEvent(event);

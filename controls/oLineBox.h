@@ -3,8 +3,8 @@
 #include <QClipboard>
 #include <QLineEdit>
 
-/// A box of one line that cleans what comes into it other than key by key: a paste by key, menu or middle button, a
-/// drop, and what an input method commits. What the program writes stays as it is.
+/// A single-line box that cleans text not typed key by key: pasted by key, menu or middle button, dropped, or committed
+/// by an input method. Text from the program is not altered.
 class oLineBox : public QLineEdit {
     Q_OBJECT
 
@@ -12,7 +12,7 @@ public:
     using QLineEdit::QLineEdit;
 
 protected:
-    /// What is left of a text that is pasted or dropped: one line with plain blanks.
+    /// The cleaned form of a pasted or dropped text: one line with plain blanks.
     virtual QString cleaned(const QString &text) const;
 
     void contextMenuEvent(QContextMenuEvent *event) override;

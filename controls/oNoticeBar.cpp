@@ -28,7 +28,7 @@ struct clsSignLook {
     Sign sign;
     QColor edge;
     QColor tint;
-    const char *word; ///< for a screen reader, in the place of the sign
+    const char *word; ///< for screen readers, instead of the sign
 };
 
 // clang-format off
@@ -158,7 +158,7 @@ void oNoticeBar::present()
     emit Announced(m_announced);
 }
 
-/// A window that has not been active yet would give its first tab stop the focus.
+/// In a window that was never active, the focus would move to its first tab stop.
 void oNoticeBar::leaveFocusBehind()
 {
     if (window() == this || window()->focusWidget())
@@ -170,7 +170,7 @@ void oNoticeBar::leaveFocusBehind()
     }
 }
 
-/// The buttons stay where their captions do, so that one with the focus keeps it.
+/// Existing buttons are reused, so that a focused one keeps the focus.
 void oNoticeBar::buildAnswers()
 {
     const auto &answers = shown().answers;
@@ -179,10 +179,10 @@ void oNoticeBar::buildAnswers()
         m_answers.push_back(addButton(QStringLiteral("cmdAnswer%1").arg(m_answers.size() + 1)));
         oCustomButton *button = m_answers.back();
         m_row->addWidget(button);
-        // A new widget comes last in the order of its window.
+        // A new widget is last in the tab order of its window.
         setTabOrder(before, button);
         connect(button, &oCustomButton::Click, this, [this, place = m_answers.size() - 1] {
-            // A copy: what it does may bring other notices.
+            // A copy: the action may change the notices.
             if (place < shown().answers.size())
                 if (const auto act = shown().answers[place].act)
                     act();

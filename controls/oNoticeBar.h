@@ -11,7 +11,7 @@ class QHBoxLayout;
 class QLabel;
 class oCustomButton;
 
-/// What waits for the user's attention: a sentence, and what can be done.
+/// A notice for the user: a sentence, and the possible actions.
 struct clsNotice {
     struct clsAnswer {
         QString caption; ///< an ampersand marks the mnemonic
@@ -23,27 +23,27 @@ struct clsNotice {
     std::vector<clsAnswer> answers {};
 };
 
-/// The bar under the header of the main window. It shows one notice at a time and is not there without one; it waits,
-/// takes no focus when it comes, and is announced to screen readers once.
+/// The bar below the header of the main window. Shows one notice at a time and is hidden without one; doesn't take the
+/// focus when it appears, and is announced to screen readers once.
 class oNoticeBar : public QWidget {
     Q_OBJECT
 
 public:
     explicit oNoticeBar(QWidget *parent = nullptr);
 
-    /// Shows these, the gravest first. What was shown stays in sight as long as nothing graver is new.
+    /// Shows these, the most severe first. The current notice stays visible unless a more severe one is new.
     void setNotices(std::vector<clsNotice> notices);
     int count() const { return int(m_notices.size()); }
-    /// The sentence that shows; empty for none.
+    /// The visible sentence; empty if none.
     QString Sentence() const;
-    /// The next notice, after the last the first again.
+    /// Shows the next notice, after the last one the first.
     void showNext();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 signals:
-    /// Screen readers are told of the notice that shows.
+    /// Announces the visible notice to screen readers.
     void Announced(const QString &sentence);
 
 protected:

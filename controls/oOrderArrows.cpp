@@ -13,7 +13,7 @@ oOrderArrows::oOrderArrows(QWidget *parent)
     m_up->setToolTip(QStringLiteral("Move up (Alt+Up)"));
     m_down->setToolTip(QStringLiteral("Move down (Alt+Down)"));
     auto *layout = new QVBoxLayout(this);
-    // A layout gives no button room beyond its own edge.
+    // A layout leaves no room for a button beyond its edge.
     layout->setContentsMargins(Theme::RingRoom, 0, Theme::RingRoom, 0);
     layout->setSpacing(Theme::Space4);
     layout->addStretch();

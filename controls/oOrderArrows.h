@@ -6,8 +6,8 @@
 
 class oCustomButton;
 
-/// The pair of arrows that moves the selected row of a grid up or down. The keys beside them live in the grid, so that
-/// the arrows never take the focus away from the row that they move.
+/// The pair of arrows that moves the selected row of a grid up or down. The grid handles the equivalent keys, so the
+/// arrows never take the focus from the row.
 class oOrderArrows : public QWidget {
     Q_OBJECT
 

@@ -3,7 +3,7 @@
 #include <QString>
 #include <QWidget>
 
-/// What the printed box does with a text that doesn't fit it, and the same in words.
+/// How the printed form handles a text that doesn't fit its box, as a sign and in words.
 struct clsPrintNote {
     enum clsSign { Fits, Smaller, RunsOn, Cut };
 
@@ -11,11 +11,11 @@ struct clsPrintNote {
     QString words {};
 };
 
-/// Draws such a sign; it takes that size.
+/// Draws such a sign in that size.
 void mdPaintPrintSign(QPainter &painter, const QRect &place, clsPrintNote::clsSign sign);
 QSize mdPrintSignSize();
 
-/// The small sign of such a note. It shows nothing for a text that fits, and its words are its tooltip.
+/// The small sign of such a note. Shows nothing for a text that fits; its tooltip has the words.
 class oPrintSign : public QWidget {
     Q_OBJECT
 

@@ -17,14 +17,14 @@
 
 namespace {
 
-/// The least room for the scroll bar and the frame, in pixels.
+/// The minimum room for the scroll bar and the frame, in pixels.
 constexpr int ScrollBarRoom = 20;
 /// In milliseconds.
 constexpr int TypingPause = 500;
 
 } // namespace
 
-/// The grid shows and tells nothing until it is whole again.
+/// Suspends painting and signals until the grid is consistent again.
 class oSGrid::clsPaintingOff {
 public:
     explicit clsPaintingOff(oSGrid &grid)
@@ -152,7 +152,7 @@ void oSGrid::Draw()
 {
     {
         const clsPaintingOff off(*this);
-        // The columns take the rows with them, but not the place of the selection.
+        // Setting the columns removes the rows, but keeps the position of the selection.
         const int selected = SelectedRow();
         drawColumns();
         refill(selected, true);
@@ -169,8 +169,8 @@ void oSGrid::drawColumns()
     setColumnWidths();
 }
 
-/// Columns share what the scroll bar leaves of the grid, whether it is there or not: nothing shifts when it comes. With
-/// a large font the bar is wider than its usual room.
+/// The columns share the width without the scroll bar, whether or not it is visible, so that nothing moves when it
+/// appears. With a large font the bar is wider than its usual room.
 void oSGrid::setColumnWidths()
 {
     const int barAndFrame = m_view->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2 * m_view->frameWidth();
@@ -202,7 +202,7 @@ void oSGrid::refill(int selected, bool keepInView)
     const int column = SelectedColumn();
     m_model->fill(m_readItems());
     fitRows();
-    // Where the selected row is gone, the last one takes its place; where none was selected, none is.
+    // If the selected row no longer exists, selects the last one; if none was selected, none.
     m_view->selectOnly(std::min(selected, Rows()) - 1, column - 1);
     if (m_orderable)
         m_model->renumber();
@@ -213,7 +213,7 @@ void oSGrid::refill(int selected, bool keepInView)
     describe();
 }
 
-/// All rows have one height, unless a column wraps its text.
+/// All rows have the same height, unless a column wraps its text.
 void oSGrid::fitRows()
 {
     const std::vector<clsGridColumn> &columns = m_model->columns();
@@ -236,7 +236,7 @@ void oSGrid::fitRows()
     m_view->doItemsLayout();
 }
 
-/// First the end of the list and then the selected row, which so stands as far down as it will go.
+/// Scrolls to the end of the list and then to the selected row, which is then as far down as possible.
 void oSGrid::bringIntoView()
 {
     m_view->scrollToBottom();
@@ -289,8 +289,8 @@ int oSGrid::ColumnAt(const QPoint &position) const
     return m_view->indexAt(position).column() + 1;
 }
 
-/// The two items change their places at once, and with them the claim: a screen's Cancel does not undo it. Where key
-/// columns set the order, the rows stay and only the selection moves.
+/// The two items swap places immediately, and so does the claim: a screen's Cancel does not undo it. If key columns
+/// determine the order, the rows stay and only the selection moves.
 void oSGrid::moveSelectedRow(int by)
 {
     const int row = SelectedRow();
@@ -345,7 +345,7 @@ void oSGrid::captureCharacter(const QString &character)
     m_typed += character;
 }
 
-/// What a reader of the screen hears of a grid: its name from the screen, and what is painted in an empty one.
+/// Sets the screen reader's texts of a grid: its name from the screen, and the text painted in an empty one.
 void oSGrid::describe()
 {
     m_view->setAccessibleName(accessibleName());

@@ -12,20 +12,19 @@ class oGridView;
 class oOrderArrows;
 class QTimer;
 
-/// The list of every list screen. A screen declares columns by the names of properties and hands over a collection;
-/// the grid reads the items, sorts and shows them and, where it is orderable, lets the user change their order, which
-/// it writes to each item's `OrderID`. Rows and columns count from 1 in all that it tells and takes, hidden columns
-/// included.
+/// The grid of every list screen. A screen declares columns by property names and sets a collection; the grid reads,
+/// sorts and shows the items and, if orderable, lets the user change their order, which it writes to each item's
+/// `OrderID`. Rows and columns of its interface count from 1, including hidden columns.
 class oSGrid : public QWidget {
     Q_OBJECT
 
 public:
     explicit oSGrid(QWidget *parent = nullptr);
 
-    /// Shows the arrows, sorts by `OrderID` after the key columns, and numbers the items at every draw.
+    /// Shows the arrows, sorts by `OrderID` after the key columns, and renumbers the items at every draw.
     bool Orderable() const { return m_orderable; }
     void setOrderable(bool orderable);
-    /// The room at the right of the rows, which the arrows take.
+    /// The room for the arrows to the right of the rows.
     int roomForArrows() const;
     /// How far from the right edge of the rows the amounts of the last column end; 0 where no such column is shown.
     int roomBehindAmounts() const;
@@ -40,60 +39,59 @@ public:
     /// The line in the middle of a grid without rows, and the picture above it.
     void setEmptyText(const QString &text);
     void setEmptyGlyph(Glyph glyph);
-    /// Frames, while the grid has the focus, the cell that Return acts on: for lists whose columns open different
-    /// things.
+    /// With the focus, frames the cell that Return acts on: for lists whose columns open different screens.
     void setMarksCell(bool marksCell);
 
-    /// Declares one more column; it is seen from the next `Draw` on.
+    /// Declares a further column, visible after the next `Draw`.
     void AddColumn(const clsGridColumn &column) { m_columns.push_back(column); }
-    /// Forgets the columns and empties the grid.
+    /// Removes the columns and the rows.
     void ClearAll();
-    /// Empties the rows only; a `Redraw` brings them back.
+    /// Removes the rows only; a `Redraw` brings them back.
     void Clear();
 
-    /// The collection to show. It is read at each `Redraw` as it then is, and has to live for as long as that happens.
+    /// The collection to show. Read at each `Redraw`; must outlive those calls.
     template <class Item> void setItemCollection(const std::vector<std::shared_ptr<Item>> &collection)
     {
         m_readItems = [&collection] { return clsGridItems(collection.begin(), collection.end()); };
     }
     template <class Item> void setItemCollection(const std::vector<std::shared_ptr<Item>> &&collection) = delete;
-    /// The same for a collection that is put together for each `Redraw`.
+    /// The same for a collection that is rebuilt for each `Redraw`.
     void setItemCollection(std::function<clsGridItems()> collect) { m_readItems = std::move(collect); }
     clsGridItems ItemCollection() const { return m_readItems ? m_readItems() : clsGridItems(); }
 
-    /// Finds what is wrong with an item, so that its cells can show it.
+    /// Sets the function that finds the faults of an item, for its cells to show.
     void setFaultReader(std::function<clsGridFaults(const clsZR3Item &)> faultsOf)
     {
         m_model->setFaultReader(std::move(faultsOf));
     }
 
-    /// Lays out the columns and fills the rows; for once after the columns and the collection are given.
+    /// Call once, after adding the columns and setting the collection.
     void Draw();
-    /// Reads the items anew. With `keepInView` the selected row stands as far down in the window as it can.
+    /// Reads the items again. With `keepInView` scrolls the selected row as far down in the window as possible.
     void Redraw(bool keepInView);
 
-    /// The `Index` of the selected row's item, 0 when none is selected.
+    /// The `Index` of the selected row's item, 0 if none is selected.
     int SelectedItemData() const;
-    /// The number of the selected row, 0 when none is selected.
+    /// The number of the selected row, 0 if none is selected.
     int SelectedRow() const;
     /// The items of all selected rows, from the top.
     clsGridItems SelectedItemCollection() const;
-    /// Selects a row, or none at a number that no row has.
+    /// Selects a row; none for a number without a row.
     void SelectRow(int row);
-    /// Selects the row of the item of that `Index`, wherever it stands now; nothing else where there is none.
+    /// Selects the row of the item with that `Index`, in its present position; does nothing if there is none.
     void SelectItem(int itemData);
     /// Selects the row of an item, and marks those of others; items that the grid doesn't show are passed over.
     void SelectItems(const clsZR3Item *item, const clsGridItems &others);
     /// The column of the cell that Return acts on, 0 when none is selected.
     int SelectedColumn() const;
-    /// Goes to a column of the selected row.
+    /// Moves to a column of the selected row.
     void SelectColumn(int column);
     int Rows() const { return m_model->rowCount(); }
-    /// The row and the column at a position as `MouseUp` tells it, 0 where there is none.
+    /// The row and the column at a position as passed by `MouseUp`, 0 if there is none.
     int RowAt(const QPoint &position) const;
     int ColumnAt(const QPoint &position) const;
 
-    /// Moves the selected row by one; at the end of the list it does nothing. It changes the items at once.
+    /// Moves the selected row by one; does nothing at the end of the list. Changes the items immediately.
     void MoveUp() { moveSelectedRow(-1); }
     void MoveDown() { moveSelectedRow(1); }
 
@@ -101,16 +99,16 @@ signals:
     /// A double click on a row, or Return.
     void RowActivated(int itemData, int row, int column);
     void MouseUp(Qt::MouseButton button, Qt::KeyboardModifiers shift, const QPoint &position);
-    /// Another row is selected, or another item stands in the selected row; 0 and 0 for none.
+    /// Another row is selected, or the selected row has another item; 0 and 0 for none.
     void SelectionChange(int itemData, int row);
     /// Other rows are selected or marked.
     void MarksChange();
     /// Comes before the grid does anything with the key, and nothing after it when `*doDefault` is set to false.
     void KeyDown(int keyCode, Qt::KeyboardModifiers shift, bool *doDefault);
     void DeletePressed();
-    /// The user has moved the selected row, and the items have their new order.
+    /// The user has moved the selected row; the items are in their new order.
     void OrderChange();
-    /// What was typed without a pause of half a second.
+    /// The text typed without a pause of half a second.
     void TimedKeyPress(const QString &text);
 
 protected:

@@ -36,7 +36,7 @@ oSpellHighlighter::oSpellHighlighter(QPlainTextEdit *editor)
 
 oSpellHighlighter::~oSpellHighlighter()
 {
-    // Taking the lines away tells of a change, for which nobody is here any more.
+    // Removing the underlines reports a change, which must no longer be handled.
     disconnect(document(), &QTextDocument::contentsChange, this, &oSpellHighlighter::noteChange);
     disconnect(m_editor, nullptr, this, nullptr);
 }
@@ -54,7 +54,8 @@ bool oSpellHighlighter::isMisspelled(const QString &word) const
 {
     if (m_isChecking)
         return !SpellingChecker().IsCorrect(word);
-    // The toolkit asks on each key. Words that are known keep their lines, so that nothing flickers; new ones wait.
+    // The toolkit asks at each key. Words already checked keep their underline, so that nothing flickers; new ones
+    // wait.
     return !SpellingChecker().KnownResult(word).value_or(true);
 }
 
@@ -63,7 +64,7 @@ bool oSpellHighlighter::isBeingTyped(int start, int end) const
     const int caret = m_editor->textCursor().position();
     if (!m_editor->hasFocus() || caret <= start || caret > end)
         return false;
-    // While the toolkit asks, the text has just changed under the caret; later it may have come there by itself.
+    // While the toolkit asks, the text has just changed at the caret; later the caret may have been moved there.
     return !m_isChecking || caret == m_typedAt;
 }
 

@@ -7,10 +7,10 @@
 
 class QPlainTextEdit;
 
-/// Underlines the misspelled words of a text box. What has changed is looked at after a short pause, and the word that
-/// is being typed only once the caret has left it. Lives as long as its box is checked, and takes its lines with it.
+/// Underlines the misspelt words of a text box. Changes are checked after a short pause, and a word being typed only
+/// once the caret has left it. Lives as long as its box is checked; its destructor removes the underlines.
 ///
-/// Underlining lets the editor tell of a change though no text has changed; the box must see to that.
+/// Underlining makes the editor report a change though no text has changed; the box must filter that.
 class oSpellHighlighter final : public QSyntaxHighlighter {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ public:
     explicit oSpellHighlighter(QPlainTextEdit *editor);
     ~oSpellHighlighter() override;
 
-    /// Whether something waits for the end of the pause.
+    /// Whether changes wait for the end of the pause.
     bool IsWaiting() const { return m_isWaiting; }
 
 protected:
@@ -37,9 +37,9 @@ private:
 
     QPlainTextEdit *m_editor;
     QTextCharFormat m_misspelled;
-    QTextCursor m_waiting; ///< its selection spans what has changed since the last check
+    QTextCursor m_waiting; ///< its selection spans the changes since the last check
     bool m_isWaiting = false;
     bool m_isChecking = false;
-    int m_typedAt = -1; ///< where the last change left the caret, as long as it stands there
+    int m_typedAt = -1; ///< the caret after the last change, until it moves
     QTimer m_pause;
 };

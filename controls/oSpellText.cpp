@@ -17,12 +17,12 @@
 
 namespace {
 
-/// From the edge of the box to its text, at the sides.
+/// From the edge of the box to its text, on the left and right.
 constexpr int SidePadding = 9;
-/// Of the document all round: little, so that a wide frame leaves a line its room.
+/// Around the document: small, so that a wide frame leaves room for a line.
 constexpr int DocumentMargin = 1;
 
-/// How far two texts are alike, without ending within a character of two halves.
+/// The length that two texts have in common, without splitting a surrogate pair.
 int lengthOfCommonStart(const QString &first, const QString &second)
 {
     const auto [end, other] = std::mismatch(first.begin(), first.end(), second.begin(), second.end());
@@ -39,7 +39,7 @@ int lengthOfCommonEnd(QStringView first, QStringView second)
     return length > 0 && first[first.size() - length].isLowSurrogate() ? length - 1 : length;
 }
 
-/// The height of a line as the editor lays it out, which is a pixel more than the metrics say in some sizes of a font.
+/// The height of a line as laid out by the editor, in some font sizes a pixel more than the metrics.
 int laidOutLine(const QFont &font)
 {
     QTextDocument document;
@@ -61,7 +61,7 @@ oSpellText::oSpellText(QWidget *parent)
     setAttribute(Qt::WA_Hover);
     setTabChangesFocus(true);
     document()->setDocumentMargin(DocumentMargin);
-    // Highlighting makes the editor tell of a change while its document doesn't.
+    // Highlighting makes the editor report a change though its document has none.
     connect(document(), &QTextDocument::contentsChange, this, [this] { m_edited = true; });
     connect(this, &QPlainTextEdit::textChanged, this, [this] {
         if (m_edited && !m_writing)
@@ -72,14 +72,14 @@ oSpellText::oSpellText(QWidget *parent)
 
 oSpellText::~oSpellText()
 {
-    // What goes tells of no change any more, although its lines are taken away.
+    // A box being destroyed reports no more changes, although its underlines are removed.
     blockSignals(true);
     document()->disconnect(this);
 }
 
 QString oSpellText::editorText() const
 {
-    // Not the plain text, which has lost the non-breaking blanks of the claim.
+    // Not toPlainText(), which replaces the claim's non-breaking blanks.
     return document()->toRawText();
 }
 
@@ -93,7 +93,7 @@ void oSpellText::setText(const QString &text)
     {
         const QScopedValueRollback writing(m_writing, true);
         setPlainText(BoxText(text, m_multiLine));
-        // Before it is laid out, a box is too low for a line of a larger font, and the editor scrolls on by a line.
+        // Before its layout, a box is too low for a line in a larger font, and the editor scrolls by a line.
         verticalScrollBar()->setValue(0);
         m_leftWithWindow = false;
     }
@@ -107,11 +107,11 @@ void oSpellText::rewriteText(const QString &text)
         const QString before = BoxText(editorText(), true);
         const QString after = BoxText(text, m_multiLine);
         const int start = lengthOfCommonStart(before, after);
-        // Not past the caret, which is to stand behind the new text after a redo.
+        // Stops at the caret, which must be after the new text when the edit is redone.
         const int end = qMin(int(before.size()) - textCursor().position(),
             lengthOfCommonEnd(QStringView(before).mid(start), QStringView(after).mid(start)));
         if (before != after) {
-            // From the caret, which is where undo puts it back.
+            // Starts at the caret, to which undo returns.
             QTextCursor cursor = textCursor();
             cursor.beginEditBlock();
             cursor.setPosition(start);
@@ -153,7 +153,7 @@ void oSpellText::setMultiLine(bool multiLine)
     if (m_multiLine == multiLine)
         return;
     m_multiLine = multiLine;
-    // A text of several lines can't stay as it is in a box of one.
+    // A multi-line text must be converted for a single-line box.
     if (!multiLine && blockCount() > 1)
         setText(Text());
     layOut();
@@ -165,7 +165,7 @@ void oSpellText::setSpellCheck(bool spellCheck)
         return;
     const QScopedValueRollback writing(m_writing, true);
     m_highlighter = spellCheck ? std::make_unique<oSpellHighlighter>(this) : nullptr;
-    // The document may tell of a change when its lines are taken away.
+    // The document may report a change when its underlines are removed.
     m_edited = false;
 }
 
@@ -182,13 +182,13 @@ void oSpellText::layOut()
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(m_multiLine ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
     setSizePolicy(QSizePolicy::Expanding, m_multiLine ? QSizePolicy::MinimumExpanding : QSizePolicy::Fixed);
-    // The frame has a width and the document a margin; the rest of the padding lies between them.
+    // The frame has a width and the document a margin; the rest of the padding is between them.
     const int inner = frameWidth() + DocumentMargin;
     const int padding = Theme::boxHeight(fontMetrics()) - fontMetrics().height();
-    // An odd pixel lies above the text, as in the boxes beside it.
+    // An odd pixel is added above the text, as in neighbouring boxes.
     const int above = qMax(0, (padding + 1) / 2 - inner);
-    // None below a single line: if its room is the least bit too low, the toolkit lets it scroll. Of several lines it
-    // keeps a pixel back.
+    // None below a single line: if its room is at all too low, the toolkit scrolls it. For several lines it reserves a
+    // pixel.
     const int below = m_multiLine ? qMax(0, padding - 2 * inner - above - 1) : 0;
     m_lineHeight = m_multiLine ? laidOutLine(font()) : fontMetrics().height();
     const int side = qMax(0, SidePadding - inner);
@@ -219,7 +219,7 @@ QSize oSpellText::minimumSizeHint() const
 std::unique_ptr<QMenu> oSpellText::menuAt(int position)
 {
     std::unique_ptr<QMenu> menu(createStandardContextMenu());
-    // The icons are the desktop's, and differ from one to the next.
+    // Removes the icons, which are the desktop's and vary.
     const QList<QAction *> standard = menu->actions();
     for (QAction *entry : standard)
         entry->setIcon({});
@@ -233,7 +233,7 @@ std::unique_ptr<QMenu> oSpellText::menuAt(int position)
 
 void oSpellText::contextMenuEvent(QContextMenuEvent *event)
 {
-    // The key's menu is that of the caret, wherever the pointer is.
+    // The key opens the menu at the caret, wherever the pointer is.
     const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
     const int position = byKey ? textCursor().position() : cursorForPosition(event->pos()).position();
     menuAt(position)->exec(byKey ? viewport()->mapToGlobal(cursorRect().bottomLeft()) : event->globalPos());
@@ -249,7 +249,7 @@ void oSpellText::changeEvent(QEvent *event)
 void oSpellText::focusInEvent(QFocusEvent *event)
 {
     QPlainTextEdit::focusInEvent(event);
-    // The focus that comes back from a menu or from another window finds the caret where it was left.
+    // When the focus returns from a menu or another window, the caret stays.
     const Qt::FocusReason reason = event->reason();
     if (mdIsInterruption(reason) && (reason != Qt::ActiveWindowFocusReason || m_leftWithWindow))
         return;
@@ -258,7 +258,7 @@ void oSpellText::focusInEvent(QFocusEvent *event)
     moveCursor(QTextCursor::End);
     if (reason != Qt::MouseFocusReason)
         return;
-    // The click that brings the focus is still to find the text where it was aimed.
+    // The click that sets the focus must still hit the text at its target.
     horizontalScrollBar()->setValue(across);
     verticalScrollBar()->setValue(down);
 }
@@ -291,7 +291,7 @@ void oSpellText::keyPressEvent(QKeyEvent *event)
         event->ignore();
         return;
     }
-    // A line break is a line break, with Shift held too; and a blank a blank, with whatever key it is typed.
+    // Shift doesn't change a line break, nor any modifier a blank.
     QString typed = event->text();
     if (event->matches(QKeySequence::InsertLineSeparator))
         typed = QStringLiteral("\n");
@@ -306,7 +306,7 @@ void oSpellText::keyPressEvent(QKeyEvent *event)
 void oSpellText::keyReleaseEvent(QKeyEvent *event)
 {
     QPlainTextEdit::keyReleaseEvent(event);
-    // A key that is held down is released once, although the desktop may tell of a release at each repetition.
+    // A key held down is released once, although the desktop may report a release at each repetition.
     if (!event->isAutoRepeat())
         emit KeyRelease(event->key());
 }

@@ -2,8 +2,8 @@
 
 #include "controls/oStripItem.h"
 
-/// A word and a figure of the strip of totals. A figure that can't be computed is a red "!" with the sign of an error,
-/// and why is its tooltip.
+/// A label and a figure of the strip of totals. A figure that can't be computed is a red "!" with the error sign, and
+/// its tooltip gives the reason.
 class oStripFigure final : public oStripItem {
     Q_OBJECT
 
@@ -12,12 +12,12 @@ public:
 
     void setWords(const QString &words);
     QString Words() const override { return m_words; }
-    /// The figure as it is printed.
+    /// The figure in its printed form.
     void setFigure(const QString &figure);
     QString Figure() const { return m_figure; }
     void setFailure(const QString &whyNot);
     QString Failure() const { return m_whyNot; }
-    /// The one figure that counts most.
+    /// Marks the most important figure.
     void setStrong(bool strong);
 
     QSize sizeHint() const override;

@@ -4,8 +4,8 @@
 
 class QPainter;
 
-/// Something of the strip of totals that can be chosen, by a click, Enter or Space. It knows nothing of its neighbours:
-/// the strip moves the focus when it is asked to.
+/// A selectable item of the strip of totals: by a click, Enter or Space. Independent of its neighbours: the strip moves
+/// the focus at the item's request.
 class oStripItem : public QAbstractButton {
     Q_OBJECT
 
@@ -15,23 +15,23 @@ public:
     /// Identifies the figure in the signals of the strip.
     void setKey(const QString &key) { m_key = key; }
     QString Key() const { return m_key; }
-    /// What the item's figure is of.
+    /// The label of the item's figure.
     virtual QString Words() const = 0;
 
     QSize minimumSizeHint() const override { return sizeHint(); }
 
-    /// The room at either end, for the ring of the focus.
+    /// The room at either end, for the focus ring.
     static int padding();
-    /// The side of the sign of an error or a warning.
+    /// The side of the error or warning sign.
     static int signSide();
 
 signals:
-    /// An arrow key asks for a neighbour: -1 for the one before, 1 for the next, less or more for the ends.
+    /// An arrow key asks for a neighbour: -1 for the previous one, 1 for the next, less or more for the ends.
     void Move(int steps);
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
-    /// The back of an item under the pointer, and the ring of the focus.
+    /// Paints the background under the pointer, and the focus ring.
     void paintState(QPainter &painter) const;
 
 private:

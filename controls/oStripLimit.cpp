@@ -107,12 +107,12 @@ void oStripLimit::paintEvent(QPaintEvent *)
     place.setTop((height() - all) / 2);
     if (hasWords)
         paintFigures(painter, QRect(place.left(), place.top(), place.width(), line));
-    else if (look(m_limit.state).sign) // never a colour alone
+    else if (look(m_limit.state).sign) // not only by colour
         place.setRight(paintSign(painter, place.right(), rect()));
     paintBar(painter, QRectF(place.left(), place.top() + all - barHeight, place.width(), barHeight));
 }
 
-/// The sign of the state at the right end of a line; where what stands before it ends.
+/// Paints the sign of the state at the right end of a line; returns the right end of the room that is left.
 int oStripLimit::paintSign(QPainter &painter, int right, const QRect &line) const
 {
     const double side = std::min(signSide(), line.height());
@@ -152,7 +152,7 @@ void oStripLimit::paintBar(QPainter &painter, const QRectF &bar) const
     if (m_limit.state == clsStripLimit::Failed || m_limit.share <= 0)
         return;
     QRectF taken = bar;
-    // So little that it would not be seen is still as long as the bar is high.
+    // A share too small to be visible is drawn as long as the bar is high.
     taken.setWidth(std::max(bar.height(), bar.width() * std::min(1.0, m_limit.share)));
     painter.setBrush(look(m_limit.state).bar);
     painter.drawRoundedRect(taken, corner, corner);

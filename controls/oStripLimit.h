@@ -2,7 +2,7 @@
 
 #include "controls/oStripItem.h"
 
-/// How much of a limit is taken, as the strip of totals shows it.
+/// The used part of a limit, for the strip of totals.
 struct clsStripLimit {
     enum clsState { Plenty, Near, Over, Failed };
 
@@ -12,15 +12,15 @@ struct clsStripLimit {
     QString words; ///< the same in a sentence, or why the costs can't be computed
 };
 
-/// A thin bar that shows how much of the costs limit is taken, with its figures above it.
+/// A thin bar that shows the used part of the costs limit, with the figures above it.
 class oStripLimit final : public oStripItem {
     Q_OBJECT
 
 public:
-    /// How much of its words there is room for.
+    /// The forms for different amounts of room.
     enum class clsForm {
-        WholeCaption, ///< the caption stands before the bar
-        ShortCaption, ///< it stands over the bar, where there is room beside the figures
+        WholeCaption, ///< the caption is before the bar
+        ShortCaption, ///< the caption is above the bar, if there is room beside the figures
         BarOnly,
     };
 
@@ -33,7 +33,7 @@ public:
     QString Words() const override;
 
     QSize sizeHint() const override;
-    /// The width in a form that it doesn't have now.
+    /// The width in another form than the present one.
     int widthIn(clsForm form) const;
 
 protected:

@@ -24,13 +24,13 @@ bool isBox(const QWidget *widget)
     return qobject_cast<const QLineEdit *>(widget) || qobject_cast<const QComboBox *>(widget);
 }
 
-/// The room around the box of a tick, which the focus fills.
+/// The room around a tick box, which the focus fills.
 int tickRoom()
 {
     return (Theme::scaled(24) - Theme::scaled(16)) / 2;
 }
 
-/// Width of the part of a list in which its chevron stands.
+/// Width of the part of a list with its chevron.
 int listArrow()
 {
     return Theme::scaled(14) + Theme::Space16;
@@ -47,7 +47,7 @@ void oStyle::polish(QWidget *widget)
     QProxyStyle::polish(widget);
     if (isBox(widget) || isTextEdit(widget))
         widget->setAttribute(Qt::WA_Hover);
-    // The wheel must not bring the focus into a list that merely lies on its way.
+    // Turning the wheel over a list must not give it the focus.
     const bool turns = qobject_cast<QComboBox *>(widget) || qobject_cast<QAbstractSpinBox *>(widget);
     if (turns && widget->focusPolicy() == Qt::WheelFocus)
         widget->setFocusPolicy(Qt::StrongFocus);
@@ -57,7 +57,7 @@ int oStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, const QW
 {
     switch (metric) {
     case PM_DefaultFrameWidth:
-        // Wide enough that the page of a text edit leaves the round corners of its frame alone.
+        // Wide enough to keep the page of a text edit clear of the round corners of its frame.
         return isTextEdit(widget) ? 3 : isBox(widget) ? 2 : 1;
     case PM_ComboBoxFrameWidth: return 2;
     case PM_IndicatorWidth:
@@ -150,7 +150,7 @@ QSize oStyle::sizeOfTab(const QStyleOptionTab &option, const QSize &size, const 
 {
     QFont font = widget ? widget->font() : QFont();
     font.setWeight(QFont::DemiBold);
-    // As wide as it is when it is chosen, so that nothing moves.
+    // As wide as when selected, so that nothing moves.
     const int width = QFontMetrics(font).size(Qt::TextShowMnemonic, option.text).width() + 2 * Theme::Space16;
     return {qMax(width, size.width()), qMax(option.fontMetrics.height() + 20, Theme::scaled(38))};
 }
@@ -159,7 +159,7 @@ QRect oStyle::subElementRect(SubElement element, const QStyleOption *option, con
 {
     const auto without = [option](int room) { return option->rect.adjusted(room, room, -room, -room); };
     switch (element) {
-    // Layouts align the visible edges: the room for the ring is taken in sizeFromContents and given back here.
+    // Layouts align the visible edges: sizeFromContents adds the room for the ring, this subtracts it.
     case SE_PushButtonLayoutItem: return without(Theme::RingRoom);
     case SE_CheckBoxLayoutItem: return without(tickRoom());
     case SE_FrameLayoutItem:
@@ -212,7 +212,7 @@ QRect oStyle::listRect(const QStyleOptionComboBox &option, SubControl part, cons
 {
     QRect result = option.rect;
     switch (part) {
-    // A line edit inside has a small margin of its own.
+    // A line edit inside has its own small margin.
     case SC_ComboBoxEditField: result.adjust(option.editable ? 6 : 8, 2, -listArrow(), -2); break;
     case SC_ComboBoxArrow: result.setLeft(result.right() + 1 - listArrow()); break;
     case SC_ComboBoxListBoxPopup:

@@ -7,9 +7,9 @@ class QStyleOptionMenuItem;
 class QStyleOptionSlider;
 class QStyleOptionTab;
 
-/// The look of all controls: measures, hints and drawing, over a plain style of the toolkit. There is no style sheet
-/// besides it. Controls tell it what they are by dynamic properties: "look" and "glyph" of a button (see
-/// oCustomButton), "look" = "danger" of a menu's action, "invalid" (true) of a box whose text does not fit.
+/// The look of all controls: measures, hints and drawing, based on a plain style of the toolkit. There are no style
+/// sheets. Controls describe themselves by dynamic properties: "look" and "glyph" of a button (see oCustomButton),
+/// "look" = "danger" of a menu's action, "invalid" (true) of a box with an invalid text.
 class oStyle final : public QProxyStyle {
     Q_OBJECT
 

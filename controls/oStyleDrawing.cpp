@@ -15,11 +15,11 @@
 #include <QStyleOption>
 #include <QTextEdit>
 
-// What the style draws; each thing has a function of its own in mdPaintControls.h.
+// The style's drawing; mdPaintControls.h has a function for each kind of element.
 
 namespace {
 
-/// A line edit that is a part of another box lies on that box's panel.
+/// A line edit that is part of another box is on that box's panel.
 bool isPartOfBox(const QWidget *widget)
 {
     const QWidget *parent = widget ? widget->parentWidget() : nullptr;
@@ -63,7 +63,7 @@ bool oStyle::drawOurPrimitive(
 {
     switch (element) {
     case PE_PanelLineEdit: drawLineEdit(painter, option, widget); return true;
-    // The panel has drawn it.
+    // Already drawn by the panel.
     case PE_FrameLineEdit: return true;
     case PE_Frame: drawFrame(painter, option, widget); return true;
     case PE_IndicatorCheckBox: mdPaintTick(painter, option); return true;
@@ -72,7 +72,7 @@ bool oStyle::drawOurPrimitive(
     case PE_PanelItemViewRow:
         if (const auto *row = qstyleoption_cast<const QStyleOptionViewItem *>(&option)) {
             QStyleOptionViewItem whole = *row;
-            // Qt knows of the cell under the pointer; a grid tints its whole row itself.
+            // Qt marks the cell under the pointer; a grid tints its whole row itself.
             if (qobject_cast<const oGridView *>(widget))
                 whole.state.setFlag(State_MouseOver, false);
             mdPaintRow(painter, whole, widget);
@@ -83,7 +83,7 @@ bool oStyle::drawOurPrimitive(
         if (const auto *item = qstyleoption_cast<const QStyleOptionViewItem *>(&option)) {
             if (item->backgroundBrush.style() != Qt::NoBrush)
                 painter.fillRect(item->rect, item->backgroundBrush);
-            // Tables and trees have drawn the row below it, a list has not.
+            // Tables and trees have already drawn the row background, a list has not.
             if (qobject_cast<const QListView *>(widget))
                 mdPaintRow(painter, *item, widget);
             return true;
@@ -111,7 +111,7 @@ void oStyle::drawControl(
     }
     if (element == CE_ComboBoxLabel) {
         if (const auto *list = qstyleoption_cast<const QStyleOptionComboBox *>(option)) {
-            // A text that the closed list has no room for ends in an ellipsis, and not within a letter.
+            // A text too long for the closed list ends in an ellipsis, not within a letter.
             QStyleOptionComboBox ours = *list;
             const QRect room = subControlRect(CC_ComboBox, list, SC_ComboBoxEditField, widget);
             ours.currentText = list->fontMetrics.elidedText(list->currentText, Qt::ElideRight, room.width() - 2);
@@ -146,7 +146,7 @@ bool oStyle::drawOurControl(
     else if (element == CE_TabBarTabLabel && tab)
         mdPaintTabLabel(painter, *tab, underline);
     else if (element == CE_MenuBarItem && menu)
-        // Once Alt is released the menu bar has the keyboard, and the letters act alone.
+        // After Alt is released the menu bar has the keyboard focus, and the letters work without Alt.
         mdPaintMenuBarItem(painter, *menu, underline || (widget && widget->hasFocus()));
     else if (element == CE_MenuBarEmptyArea)
         painter.fillRect(option.rect, Theme::Paper);

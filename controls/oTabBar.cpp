@@ -19,7 +19,7 @@ namespace {
 
 constexpr int ScrollStep = 80;
 
-/// A view as high as the row that it scrolls sideways.
+/// A horizontally scrolling view as high as its row.
 class clsRowView final : public QScrollArea {
 public:
     using QScrollArea::QScrollArea;
@@ -44,7 +44,8 @@ oTabBar::oTabBar(QWidget *parent)
     mdInstallAccessible<accessibleRow>();
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 
-    // A new widget comes last in the order of its window. Only what takes the focus has a place in it; this takes none.
+    // A new widget is last in the tab order of its window. Only widgets that accept the focus have a place in it; this
+    // one never gets it.
     m_tabOrder->setFocusPolicy(Qt::ClickFocus);
     m_tabOrder->hide();
 
@@ -68,8 +69,8 @@ oTabBar::oTabBar(QWidget *parent)
     row->addWidget(m_scrollLeft);
     row->addWidget(m_view, 1);
     row->addWidget(m_scrollRight);
-    // Later, here and on a change of size, since both come in the middle of a pass of the layout, which would place
-    // what is shown or hidden meanwhile as it was before.
+    // Queued, here and on a change of size: both occur during a layout pass, which would place widgets shown or hidden
+    // meanwhile as before.
     connect(
         m_view->horizontalScrollBar(), &QScrollBar::rangeChanged, this, &oTabBar::showScrollers, Qt::QueuedConnection);
     connect(m_view->horizontalScrollBar(), &QScrollBar::valueChanged, this, &oTabBar::showScrollers);
@@ -82,7 +83,7 @@ QToolButton *oTabBar::addScroller(Qt::ArrowType arrow, int direction)
     scroller->setArrowType(arrow);
     scroller->setAutoRaise(true);
     scroller->setAutoRepeat(true);
-    scroller->setFocusPolicy(Qt::NoFocus); // the keys move along the row by themselves
+    scroller->setFocusPolicy(Qt::NoFocus); // the keys move along the row themselves
     scroller->setAccessibleName(direction < 0 ? QStringLiteral("Scroll left") : QStringLiteral("Scroll right"));
     scroller->hide();
     connect(scroller, &QToolButton::clicked, this, [this, direction] {
@@ -97,11 +98,11 @@ void oTabBar::setRow(Row row)
     m_row = row;
     const bool isTabs = row == Row::Tabs;
     setAccessibleName(isTabs ? QStringLiteral("Groups of sections") : QStringLiteral("Sections of the group"));
-    // The text of the first tab, and the edge of the first button, stand where the sheet of a screen begins.
+    // The text of the first tab, and the edge of the first button, align with the sheet of a screen.
     const int side = isTabs ? Theme::Space8 : Theme::Space24 - Theme::RingRoom;
     m_buttons->setContentsMargins(side, 0, side, 0);
-    m_buttons->setSpacing(0); // the room for the rings keeps the buttons apart
-    layout()->setContentsMargins(0, isTabs ? 0 : 1, 0, isTabs ? 1 : 2); // below stands the line
+    m_buttons->setSpacing(0); // the room for the rings separates the buttons
+    layout()->setContentsMargins(0, isTabs ? 0 : 1, 0, isTabs ? 1 : 2); // the line is below
     for (const clsTab &tab : m_tabs)
         tab.button->setShape(isTabs ? oTabBarButton::Shape::Tab : oTabBarButton::Shape::Button);
     updateGeometry();
@@ -111,7 +112,7 @@ void oTabBar::setRow(Row row)
 void oTabBar::Clear()
 {
     for (const clsTab &tab : m_tabs) {
-        // It may be the one whose click clears the row.
+        // Its click may be what clears the row.
         tab.button->disconnect(this);
         tab.button->hide();
         tab.button->setParent(nullptr);
@@ -131,7 +132,7 @@ void oTabBar::AddButton(const QString &caption, const QString &tag)
     if (m_tabs.empty())
         m_buttons->addStretch(1);
     m_buttons->insertWidget(m_buttons->count() - 1, button);
-    button->show(); // the layout would show it later, and a Tab key that is waiting already would pass it over
+    button->show(); // the layout would show it later, and a waiting Tab key would skip it
     setTabOrder(m_tabs.empty() ? m_tabOrder : m_tabs.back().button, button);
     m_tabs.push_back({button, tag});
     button->installEventFilter(this);
@@ -158,7 +159,7 @@ void oTabBar::setDoRedraw(bool redrawNow)
 
 void oTabBar::redraw()
 {
-    m_view->updateGeometry(); // a row that got its first button is higher than an empty one
+    m_view->updateGeometry(); // a row with a button is higher than an empty one
     const oTabBarButton *stop = m_tabs.empty() ? nullptr : m_tabs.front().button;
     for (size_t i = 0; i < m_tabs.size(); ++i) {
         const bool selected = int(i) + 1 == m_selected;
@@ -173,7 +174,7 @@ void oTabBar::clicked(const oTabBarButton *button)
 {
     const auto tab = std::find_if(m_tabs.begin(), m_tabs.end(), [&](const clsTab &t) { return t.button == button; });
     SwitchTo(int(tab - m_tabs.begin()) + 1);
-    emit Click(m_selected, QString(tab->tag)); // a copy: whoever listens may clear the row
+    emit Click(m_selected, QString(tab->tag)); // a copy: the slot may clear the row
 }
 
 void oTabBar::move(const oTabBarButton *from, int steps)
@@ -182,14 +183,14 @@ void oTabBar::move(const oTabBarButton *from, int steps)
     const int last = int(m_tabs.size()) - 1;
     const int direction = steps < 0 ? -1 : 1;
     int to = std::clamp(int(tab - m_tabs.begin()) + steps, 0, last);
-    // A key that ends on a disabled tab goes on in its direction, from the end of the row back.
+    // A key that ends on a disabled tab continues in its direction, or back from the end of the row.
     while (to >= 0 && to <= last && !m_tabs[size_t(to)].button->isEnabled())
         to += std::abs(steps) > 1 ? -direction : direction;
     if (to >= 0 && to <= last)
         m_tabs[size_t(to)].button->setFocus(Qt::OtherFocusReason);
 }
 
-/// The Tab key stops once in a row, where it was left or at the selected tab, and then leaves it.
+/// The Tab key stops once in a row, at the last focused or the selected tab, and then leaves it.
 void oTabBar::setTabStop(const oTabBarButton *stop)
 {
     for (const clsTab &tab : m_tabs)

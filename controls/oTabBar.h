@@ -9,8 +9,8 @@ class QScrollArea;
 class QToolButton;
 class oTabBarButton;
 
-/// A row of tabs, counted from 1. The first row of the main window shows which group of sections is chosen; the tabs of
-/// the second row open screens and look like buttons. It opens nothing itself: it says which tab was clicked. Left and
+/// A row of tabs, counted from 1. The first row of the main window shows the selected group of sections; the tabs of
+/// the second row open screens and look like buttons. The row only signals clicks; it opens nothing itself. Left and
 /// Right move along the row, Enter and Space click, Tab leaves; a row that is too wide scrolls.
 class oTabBar : public QWidget {
     Q_OBJECT
@@ -25,17 +25,17 @@ public:
     /// Removes every tab; the next one has the index 1 again.
     void Clear();
     void AddButton(const QString &caption, const QString &tag);
-    /// Marks the tab of an index as the selected one, without a click; 0 marks none.
+    /// Marks the tab with that index as selected, without a click; 0 for none.
     void SwitchTo(int index);
-    /// Notes the selected index; `SwitchTo` shows it as well.
+    /// Stores the selected index; `SwitchTo` shows it as well.
     void SetSelected(int index) { m_selected = index; }
     /// The index of the selected tab, 0 for none.
     int SelectedIndex() const { return m_selected; }
-    /// Painting on or off, for building a row in one go.
+    /// Switches painting on or off, for building a row in one step.
     void setDoRedraw(bool redraw);
 
 signals:
-    /// The user clicked a tab, be it the selected one again.
+    /// The user clicked a tab, possibly the selected one.
     void Click(int index, const QString &tag);
 
 protected:
@@ -60,7 +60,7 @@ private:
     int m_selected = 0;
     bool m_doRedraw = true;
     std::vector<clsTab> m_tabs;
-    QWidget *m_tabOrder; ///< where the row stands among the stops of the Tab key
+    QWidget *m_tabOrder; ///< holds the row's place in the tab order
     QScrollArea *m_view;
     QHBoxLayout *m_buttons;
     QToolButton *m_scrollLeft;

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// What a screen reader is told of a text tab; toolkit buttons are told as buttons anyway.
+/// The screen-reader interface of a text tab; other buttons use the toolkit's.
 class clsAccessibleTab final : public QAccessibleWidget {
 public:
     explicit clsAccessibleTab(oTabBarButton *button)
@@ -54,7 +54,7 @@ oTabBarButton::oTabBarButton(const QString &caption, Shape shape, QWidget *paren
     setCaption(caption);
     setFocusPolicy(Qt::ClickFocus);
     setAttribute(Qt::WA_Hover);
-    setProperty("look", QStringLiteral("band")); // where it is drawn as a button
+    setProperty("look", QStringLiteral("band")); // if it is drawn as a button
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
@@ -136,7 +136,7 @@ QStyleOptionButton oTabBarButton::buttonOption() const
     QStyleOptionButton option;
     option.initFrom(this);
     option.text = text();
-    // While its screen is open, the button stays down.
+    // The button stays down while its screen is open.
     option.state.setFlag(QStyle::State_Sunken, isDown());
     option.state.setFlag(QStyle::State_On, m_selected);
     return option;

@@ -4,8 +4,8 @@
 #include <QStyleOptionButton>
 #include <QStyleOptionTab>
 
-/// One button of a tab row, drawn as a text tab or as a button. It knows nothing of its neighbours: the row says which
-/// one is selected and moves the focus when it is asked to.
+/// One button of a tab row, drawn as a text tab or as a button. Independent of its neighbours: the row sets the
+/// selection and moves the focus at the button's request.
 class oTabBarButton final : public QAbstractButton {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ public:
     void setCaption(const QString &caption);
     bool Selected() const { return m_selected; }
     void setSelected(bool selected);
-    /// As after creation: not selected.
+    /// Resets it to the unselected state of a new one.
     void Reset() { setSelected(false); }
     void setShape(Shape shape);
     Shape shape() const { return m_shape; }
@@ -27,7 +27,8 @@ public:
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 signals:
-    /// An arrow key asks for a neighbour: -1 for the one before, 1 for the next, less or more for the ends of the row.
+    /// An arrow key asks for a neighbour: -1 for the previous one, 1 for the next, less or more for the ends of the
+    /// row.
     void Move(int steps);
 
 protected:

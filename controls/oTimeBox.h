@@ -4,8 +4,8 @@
 
 class oTypedText;
 
-/// A box for a duration, typed as 1:30, as hours with decimals or as minutes. Leaving it gives "01:30"; anything else,
-/// an empty text included, is held. What the program writes is taken as it is. See oTypedText.
+/// A box for a duration, typed as 1:30, as decimal hours or as minutes. Leaving it normalises to "01:30"; anything
+/// else, including empty text, keeps the focus. Text from the program is not altered. See oTypedText.
 class oTimeBox : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QString Text READ Text WRITE setText)
@@ -15,19 +15,19 @@ public:
 
     QString Text() const;
     void setText(const QString &text);
-    /// Normalises the text at once, or refuses it as leaving the box does; whether it fits. For a screen that is about
-    /// to read the time.
+    /// Normalises the text, or refuses it as on leaving the box; true if it is valid. For a screen that is about to
+    /// read the time.
     bool ForceFormat();
 
-    /// Whether the user is typing here, be it in a window behind another.
+    /// Whether the user is typing here, even in a window behind another.
     bool isActive() const;
-    /// The small form of the footer.
+    /// Sets the small form for the footer.
     void setCompact();
 
 signals:
     /// A key with a character was pressed: its code, 13 for Return.
     void KeyPress(int character);
-    /// The focus leaves the box, and its text fits.
+    /// The focus leaves the box, and its text is valid.
     void Left();
 
 private:

@@ -13,7 +13,7 @@
 
 #include <chrono>
 
-// The one clock of the main window's footer, under the name by which every routine reaches it.
+// The clock of the main window's footer, accessible to every routine by this name.
 oTimeSpentBox *TimeSpentBox = nullptr;
 
 namespace {
@@ -38,7 +38,7 @@ oTimeSpentBox::oTimeSpentBox(QWidget *parent)
     tmrTimer.setInterval(std::chrono::minutes(1));
 
     auto *row = new QHBoxLayout(this);
-    // The button's ring goes beyond its visible edge, to which the layout keeps.
+    // The button's ring extends beyond its visible edge, with which the layout aligns.
     row->setContentsMargins(0, Theme::RingRoom, Theme::RingRoom, Theme::RingRoom);
     row->setSpacing(Theme::Space8);
     row->addWidget(txtTime);
@@ -79,14 +79,14 @@ void oTimeSpentBox::run(bool runs)
     txtTime->setEnabled(!runs);
     if (!runs)
         tmrTimer.stop();
-    else if (!tmrTimer.isActive()) // a second start doesn't begin the minute anew
+    else if (!tmrTimer.isActive()) // a second start doesn't restart the minute
         tmrTimer.start();
     cmdStartStop->setCaption(runs ? StopCaption : StartCaption);
 }
 
 void oTimeSpentBox::fitButton()
 {
-    cmdStartStop->setLook(oCustomButton::Look::Small); // measured in the present font of the desktop
+    cmdStartStop->setLook(oCustomButton::Look::Small); // measured in the desktop's present font
     const QString shown = cmdStartStop->text();
     int widest = 0;
     for (const QLatin1String caption : {StartCaption, StopCaption}) {
@@ -107,7 +107,7 @@ bool oTimeSpentBox::event(QEvent *event)
 
 void oTimeSpentBox::tick()
 {
-    // A time that can't be counted on stays as it is: the clock must never end the program.
+    // A time that can't be increased is left unchanged: the clock must never end the program.
     try {
         txtTime->setText(TimeAfterOneMinute(txtTime->Text()));
         writeToForm();

@@ -6,8 +6,8 @@
 class oCustomButton;
 class oTimeBox;
 
-/// The running clock of the claim: a time, and a button that starts and stops it. It goes by whole minutes, and each
-/// new time goes to the claim at once. The time can't be typed while the clock runs.
+/// The running clock of the claim: a time, and a button that starts and stops it. It counts whole minutes and writes
+/// each new time to the claim immediately. The time can't be typed while the clock runs.
 class oTimeSpentBox : public QWidget {
     Q_OBJECT
 
@@ -15,7 +15,7 @@ public:
     explicit oTimeSpentBox(QWidget *parent = nullptr);
 
     QString TimeSpent() const;
-    /// Shows a time, except where the user is typing one: a refresh of the window comes at any moment.
+    /// Shows a time, unless the user is typing one: the window may be refreshed at any moment.
     void setTimeSpent(const QString &time);
 
     void StartTimer();
@@ -36,5 +36,5 @@ private:
     QTimer tmrTimer;
 };
 
-/// The clock in the footer of the main window; nothing until that is loaded.
+/// The clock in the footer of the main window; null until that is loaded.
 extern oTimeSpentBox *TimeSpentBox;

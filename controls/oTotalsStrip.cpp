@@ -14,13 +14,13 @@ namespace {
 constexpr int Height = 38;
 constexpr int LowHeight = 30;
 constexpr int WidthHint = 600;
-constexpr int Between = 8; ///< two figures, beside their own room
+constexpr int Between = 8; ///< two figures, in addition to their padding
 constexpr int AroundLine = 11;
 constexpr int LineHeight = 26;
 
 } // namespace
 
-/// What the strip gives up where there is little room, one thing after the other.
+/// The steps by which the strip shrinks, one after another.
 struct oTotalsStrip::clsForm {
     oStripLimit::clsForm limit;
     bool hasOther; ///< in the place of several figures
@@ -48,7 +48,7 @@ oStripItem *oTotalsStrip::prepared(oStripItem *item)
 
 void oTotalsStrip::setTotals(const std::vector<clsStripTotal> &totals, const clsStripTotal &other)
 {
-    // The figures that are there are written anew, so that the one with the focus keeps it.
+    // Existing figures are updated in place, so that a focused one keeps the focus.
     size_t place = 0;
     bool otherShown = false;
     for (const clsStripTotal &total : totals) {
@@ -73,7 +73,7 @@ void oTotalsStrip::showTotal(const clsStripTotal &total, size_t place, bool isOt
 {
     if (place == m_figures.size()) {
         auto *figure = new oStripFigure(this);
-        // A new widget comes last among the stops of its window.
+        // A new widget is last in the tab order of its window.
         setTabOrder(place == 0 ? static_cast<QWidget *>(m_limit) : m_figures.back().figure, prepared(figure));
         m_figures.push_back({figure, total.place, total.turn, false, false});
     }
@@ -221,7 +221,7 @@ void oTotalsStrip::move(const oStripItem *from, int steps)
     items[size_t(to)]->setFocus(Qt::OtherFocusReason);
 }
 
-/// The Tab key stops once, where the strip was left or at its first figure.
+/// The Tab key stops once, at the last focused or the first figure.
 void oTotalsStrip::setTabStop(const QWidget *stop)
 {
     const std::vector<oStripItem *> items = shownItems();

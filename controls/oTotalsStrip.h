@@ -7,9 +7,9 @@
 
 class oStripFigure;
 
-/// A figure that the strip is to show.
+/// A figure for the strip.
 struct clsStripTotal {
-    QString key; ///< by which it is known when it is chosen
+    QString key; ///< identifies it when it is chosen
     QString words;
     QString figure; ///< as it is printed
     QString failure {}; ///< why it can't be computed; empty where it can
@@ -17,29 +17,28 @@ struct clsStripTotal {
     enum clsPlace { Stays, GoesIntoOther, GoesAltogether } place = Stays;
     int turn = 0; ///< of those that go altogether: the one of turn 1 is the first
     bool strong = false;
-    bool standsApart = false; ///< behind the line
+    bool standsApart = false; ///< after the line
 };
 
-/// The totals of the claim, in one line above the footer: words, figures, and how much of the costs limit is taken. It
-/// computes nothing and opens nothing: it says which figure was chosen. It is one stop of the Tab key, and Left and
-/// Right go from figure to figure.
+/// The totals of the claim, in one line above the footer: labels, figures, and the used part of the costs limit. It
+/// only shows them and signals which was chosen. It is one tab stop; Left and Right move between the figures.
 class oTotalsStrip : public QWidget {
     Q_OBJECT
 
 public:
     explicit oTotalsStrip(QWidget *parent = nullptr);
 
-    /// Shows these, in their order; `other` stands for those that go into it while there is no room for them.
+    /// Shows these, in order; `other` replaces those that may be merged into it while there is no room for them.
     void setTotals(const std::vector<clsStripTotal> &totals, const clsStripTotal &other);
-    /// Shows no totals, for a claim that is no more.
+    /// Shows no totals, after the claim was closed.
     void Clear();
     void setLimit(const std::optional<clsStripLimit> &limit);
-    /// Saves on the height of a low window.
+    /// Reduces the height for a low window.
     void setLow(bool low);
 
-    /// The figures that show, in their order, as words and figure.
+    /// The visible figures, in order, as label and figure.
     QStringList Shown() const;
-    /// The item of a key; nothing where it does not show.
+    /// The item with that key; null if it is not visible.
     oStripItem *Item(const QString &key) const;
 
     QSize sizeHint() const override;
@@ -80,5 +79,5 @@ private:
     oStripLimit *m_limit;
     bool m_hasLimit = false;
     bool m_low = false;
-    int m_line = -1; ///< where the line before the figures apart stands
+    int m_line = -1; ///< position of the line before the separate figures
 };

@@ -12,7 +12,7 @@
 
 namespace {
 
-/// That of every text box without a limit.
+/// The width of every text box without a limit.
 constexpr int BoxWidth = 560;
 
 } // namespace
@@ -65,8 +65,8 @@ void oTypeAheadBox::keyPressEvent(QKeyEvent *event)
 {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (isReturn && suggesting()) {
-        // The list of suggestions would keep the key to itself. Return means the default button as in any other text
-        // box, unless it chooses a suggestion.
+        // The list of suggestions would consume the key. Return presses the default button as in any other text box,
+        // unless it chooses a suggestion.
         const bool chooses = completer()->popup()->currentIndex().isValid();
         completer()->popup()->hide();
         if (!chooses)
@@ -75,7 +75,7 @@ void oTypeAheadBox::keyPressEvent(QKeyEvent *event)
         return;
     }
     if (event->key() == Qt::Key_Down && !suggesting()) {
-        // A text that was loaded or chosen would suggest itself and no other.
+        // For a loaded or chosen text the only suggestion would be itself.
         suggest(isModified() ? text() : QString());
         event->accept();
         return;
@@ -85,7 +85,7 @@ void oTypeAheadBox::keyPressEvent(QKeyEvent *event)
 
 bool oTypeAheadBox::eventFilter(QObject *watched, QEvent *event)
 {
-    // Left open they would take the keys that are meant for the field that has the focus now.
+    // Left open, they would take keys meant for the newly focused field.
     if (watched == this && event->type() == QEvent::FocusOut && !hasFocus() && suggesting())
         completer()->popup()->hide();
     return oLineBox::eventFilter(watched, event);

@@ -4,9 +4,9 @@
 
 class QStringListModel;
 
-/// A text box that suggests texts while the user types, and on Down: those that begin with what is typed, whatever the
-/// capitals, and all of them while nothing is typed. The arrow at its end shows all. Nothing typed is ever changed by
-/// itself; only a suggestion that is chosen takes its place.
+/// A text box that suggests texts while the user types, and on Down: those that begin with the typed text, ignoring
+/// case, and all of them while it is empty. The arrow at its end shows all. Typed text changes only if a suggestion is
+/// chosen.
 class oTypeAheadBox : public oLineBox {
     Q_OBJECT
     Q_PROPERTY(QString Text READ Text WRITE setText)
@@ -16,7 +16,7 @@ public:
 
     QString Text() const { return text(); }
 
-    /// What is suggested, in this order; a text that comes twice is suggested once.
+    /// The suggestions in this order; duplicates are removed.
     void setSuggestions(QStringList suggestions);
     QStringList Suggestions() const;
 
@@ -25,7 +25,7 @@ public:
 protected:
     void focusInEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
-    /// Closes the suggestions before their own filter, which keeps it from the box that the focus has left it.
+    /// Closes the suggestions before their own filter, which hides the loss of focus from the box.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

@@ -25,8 +25,8 @@ oTypedText *oTypedText::inside(QWidget &box, const clsTypedKind &kind)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(Theme::Space12);
     layout->addWidget(text);
-    // Before the proxy, which would take the policy over. The box itself is no stop of the Tab key; a label's mnemonic
-    // asks for some policy.
+    // Before the proxy, which would take over the policy. The box itself is no tab stop, but a label's mnemonic
+    // requires a policy.
     box.setFocusPolicy(Qt::ClickFocus);
     box.setFocusProxy(text);
     box.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
@@ -158,7 +158,7 @@ void oTypedText::focusInEvent(QFocusEvent *event)
         return;
     m_inside = true;
     selectAll();
-    // A click would set the caret and drop the selection at once.
+    // A click would set the caret and clear the selection at once.
     m_selectsOnRelease = event->reason() == Qt::MouseFocusReason;
 }
 
@@ -168,7 +168,7 @@ void oTypedText::focusOutEvent(QFocusEvent *event)
     if (!m_inside || mdIsInterruption(event->reason()))
         return;
     m_inside = false;
-    // A box that is being disabled or hidden can't hold anybody.
+    // A box being disabled or hidden can't keep the focus.
     if (isEnabled() && isVisible() && validate())
         emit Left();
 }
@@ -176,7 +176,7 @@ void oTypedText::focusOutEvent(QFocusEvent *event)
 void oTypedText::showEvent(QShowEvent *event)
 {
     oLineBox::showEvent(event);
-    // A screen names the box; a screen reader meets the text inside.
+    // The screen names the box; a screen reader reads the text box inside.
     if (const QString name = parentWidget()->accessibleName(); !name.isEmpty())
         setAccessibleName(name);
 }
@@ -192,7 +192,7 @@ void oTypedText::keyPressEvent(QKeyEvent *event)
     const QPointer<oTypedText> self(this);
     if (!event->text().isEmpty())
         emit KeyPress(event->text().at(0).unicode());
-    // The default button of a dialog is pressed by the key that the box passes on.
+    // The box passes Return on, and a dialog presses its default button.
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (!self || (isReturn && qobject_cast<QDialog *>(window()) && !leave())) {
         event->accept();

@@ -4,11 +4,10 @@
 
 class QWidget;
 
-/// Shades a window for as long as it waits for the one above it. Whatever closes the window meanwhile takes the shade
-/// with it.
+/// Shades a window while it waits for the one above it. If the window is closed meanwhile, the shade is too.
 class oVeil {
 public:
-    /// Veils the window that a widget belongs to; nothing where there is none, or none that shows.
+    /// Veils the window of a widget; does nothing if there is none or it isn't visible.
     explicit oVeil(QWidget *below);
     ~oVeil();
     Q_DISABLE_COPY_MOVE(oVeil)

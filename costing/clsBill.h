@@ -4,7 +4,7 @@
 #include "formdata/clsSchedulePrices.h"
 
 /// The figures of a claim's bill. Each item is priced once and each sum over the items is computed once, on first use.
-/// The figures do not follow changes: the claim must not change while this object is in use. For a single figure, ask
+/// The figures do not follow changes: the claim must not change while this object is in use. For a single figure, use
 /// the claim itself.
 class clsBill {
 public:
@@ -19,7 +19,7 @@ public:
     /// The claims of the schedule's advocacy items, not yet rounded.
     const clsFigure<Money> &advocacy() const;
 
-    /// Begins anew, after the claim has changed.
+    /// Discards all cached figures, after the claim has changed.
     void forget();
 
 private:

@@ -9,12 +9,12 @@
 #include <array>
 #include <optional>
 
-/// A figure, or the error that it ends in.
+/// A figure, or the error in computing it.
 template <class Value> struct clsFigure {
     Value value {};
     std::optional<clsRunTimeError> error {};
 
-    /// The value; raises the error.
+    /// Returns the value or raises the error.
     const Value &get() const
     {
         if (error)
@@ -23,7 +23,7 @@ template <class Value> struct clsFigure {
     }
 };
 
-/// The figures of the schedule of time, for all columns at once. One that fails leaves the others alone.
+/// The figures of the schedule of time, for all columns at once. An error in one doesn't affect the others.
 struct clsColumnTotals {
     std::array<clsFigure<QString>, clsZR3ScheduleOfTimeItem::Columns> times;
     std::array<clsFigure<Money>, clsZR3ScheduleOfTimeItem::Columns> claims;

@@ -11,22 +11,22 @@
 #include <span>
 #include <string_view>
 
-// The summary of each form: its figures, each under the key that names it in the report of the totals and, in braces,
-// on the printed page.
+// The summary of each form: its figures, with the keys used in the report of the totals and, in braces, on the printed
+// page.
 
-/// A single figure of the bill, by the key under which it is printed.
+/// A single figure of the bill, with its key.
 struct clsBillFigure {
     const char *key;
     Money (*figure)(const clsBill &bill);
 };
 
-/// A figure that needs nothing of the schedule's, such as `mdOfForm<CommsTotal>`.
+/// A figure that doesn't need the schedule, such as `mdOfForm<CommsTotal>`.
 template <Money (*Figure)(const clsZR3Form &form)> Money mdOfForm(const clsBill &bill)
 {
     return Figure(bill.form());
 }
 
-/// What both forms begin with.
+/// The start of both forms' summaries.
 inline constexpr std::array SharedSummary = std::to_array<clsBillFigure>({
     {"npc", ProfitCostsTotal},
     {"nex", mdOfForm<ExpertInvoicesNetTotal>},
@@ -36,7 +36,7 @@ inline constexpr std::array SharedSummary = std::to_array<clsBillFigure>({
     {"vdibs", mdOfForm<NonCounselDisbursementsVATTotal>},
 });
 
-/// The summary of a form: what both begin with, and its own.
+/// The summary of a form: the common start and its own figures.
 template <size_t Count> consteval auto mdSummaryWith(const clsBillFigure (&own)[Count])
 {
     std::array<clsBillFigure, SharedSummary.size() + Count> all {};
@@ -64,7 +64,7 @@ inline constexpr std::array Claim1ASummary = mdSummaryWith({
     {"vtotal", VATWithAdvocacyAndCounsel},
 });
 
-/// The figure of that key in a form's summary; one that the form does not have does not compile.
+/// The figure with that key in a form's summary; a missing one is a compile-time error.
 consteval auto mdSummaryFigure(std::span<const clsBillFigure> summary, std::string_view key)
 {
     for (const clsBillFigure &row : summary)

@@ -2,14 +2,14 @@
 
 #include "costing/clsBill.h"
 
-/// The schedule items without a time. A time text without a colon is the subscript error.
+/// The number of schedule items without a time. A time without a colon is the subscript error.
 int mdCountBlankScheduleItems(const clsBill &bill);
-/// The disbursements, counsel's fees among them, whose amount and VAT are both 0.
+/// The number of disbursements, including counsel's fees, with a zero amount and VAT.
 int mdCountBlankDisbursements(const clsZR3Form &form);
-/// The text that tells the user of both counts; its line breaks are CR LF.
+/// The message with both counts; its line breaks are CR LF.
 QString mdBlankItemsMessage(const clsBill &bill);
 
-/// The user's command, on the current claim: counts what would bill nothing, and shows it. Nothing is changed, and no
-/// item named.
+/// The user's command for the current claim: counts the items that would bill nothing, and shows the counts. Changes
+/// nothing and doesn't name the items.
 void CheckForBlankItems();
 void CheckForBlankItems(const clsZR3Form &form);

@@ -10,30 +10,30 @@
 
 class clsBill;
 
-/// An amount of a claim in a list of claims, in the order of its columns.
+/// An amount in a row of a list of claims, in column order.
 struct clsClaimColumn {
     const char *key;
-    /// To the penny; nothing on a form that has no such amount, and where it can't be computed.
+    /// To the penny; nothing if the form has no such amount or it can't be computed.
     std::optional<Money> amount {};
     QString failure {}; ///< why it can't be computed
 };
 
-/// What a list of claims tells of one of them.
+/// The row of a claim in a list of claims.
 struct clsClaimColumns {
     QString formType;
     QString client; ///< title, first name, surname
     QString reference; ///< of the case
-    std::optional<int> items; ///< on the bill; nothing where it can't be told of some whether they are
+    std::optional<int> items; ///< on the bill; unset if that is undecided for some
     /// `profitcosts`, `disbursements`, `fas`, `vat`, `total`, `counsel`, `all`.
     std::vector<clsClaimColumn> amounts;
 
     bool hasFailures() const;
-    /// Why the figures that fail do, each reason once.
+    /// The reasons for failed figures, without duplicates.
     QStringList failures() const;
 };
 
-/// The keys of the amounts, in their order.
+/// The keys of the amounts, in order.
 std::vector<const char *> mdClaimAmountKeys();
 
-/// The columns of a claim. The total of the advocacy scheme's VAT may write to the claim: give it a copy.
+/// The columns of a claim. The advocacy scheme's VAT total may write to the claim: pass a copy.
 clsClaimColumns mdClaimColumns(const clsBill &bill);

@@ -15,7 +15,7 @@ namespace {
 using Item = clsZR3ScheduleOfTimeItem;
 using Group = clsZR3FeeEarnerGroup;
 
-/// The error of a reading, 0 where there is none.
+/// The error number of a read, 0 for none.
 template <class Read> int errorOf(Read read)
 {
     try {
@@ -26,7 +26,7 @@ template <class Read> int errorOf(Read read)
     }
 }
 
-/// What is wrong, and the error that comes of it.
+/// A fault and its error number.
 struct clsWrong {
     int error = 0;
     QString words {};
@@ -43,12 +43,12 @@ public:
         : m_record(&record)
     { }
 
-    /// What the record itself does: "names no fee earner".
+    /// Adds a fault of the record itself: "names no fee earner".
     void does(const char *property, const clsWrong &wrong) { add(property, wrong, QStringLiteral(" ")); }
-    /// What is the matter with something of it, if anything is: "Amount is empty".
+    /// Adds a fault of one of its properties, if there is one: "Amount is empty".
     void has(const char *property, const clsWrong &wrong) { add(property, wrong, QStringLiteral(": ")); }
     void hasAmount(const clsXMLField &field);
-    /// The error of a figure for which nothing has been found so far.
+    /// Adds the error of a figure, unless a fault has already been found.
     template <class Compute> void computes(const char *property, Compute compute);
 
     const clsFigureFaults &faults() const { return m_faults; }
@@ -61,7 +61,7 @@ private:
                 {QString::fromLatin1(property), wrong.words, name() + between + wrong.words, wrong.error});
     }
     void addError(const char *property, const clsRunTimeError &error);
-    /// Made for a fault only: most records have none.
+    /// Built only for a fault: most records have none.
     QString name() const { return m_record ? mdRecordInWords(*m_record) : m_name; }
 
     const clsXMLRecord *m_record;
@@ -71,7 +71,7 @@ private:
 
 const char TooLarge[] = " is larger than an amount can be";
 
-/// Of a stored amount.
+/// The fault of a stored amount.
 clsWrong wrongAmount(const clsXMLField &field)
 {
     const QString text = field.readText();
@@ -86,7 +86,7 @@ clsWrong wrongAmount(const clsXMLField &field)
     return {error, what + QStringLiteral(" holds ") + mdQuoted(text) + QStringLiteral(", which is not an amount")};
 }
 
-/// Of a rate, which is told with what it belongs to: the user looks for it on another screen.
+/// The fault of a rate, described with its owner: the user has to find it on another screen.
 template <class What> clsWrong wrongRate(const QString &text, What what)
 {
     const int error = errorOf([&] { MoneyFromText(text); });
@@ -137,7 +137,7 @@ QString nameOf(const Group &group)
     return QStringLiteral("group ") + mdRecordInWords(group).section(u' ', WordsOfKind);
 }
 
-/// Of an identity that points at nothing.
+/// The fault of an identity without an item.
 clsWrong wrongIdentity(const clsXMLField &identity, const char *none, const char *gone)
 {
     return {clsRunTimeError::ObjectNotSet, QString::fromLatin1(identity.isEmpty() ? none : gone)};
@@ -145,7 +145,7 @@ clsWrong wrongIdentity(const clsXMLField &identity, const char *none, const char
 
 // Schedule items
 
-/// The group that prices an item; nothing, with the fault told, where there is none.
+/// The group that prices an item; null, with the fault recorded, if there is none.
 std::shared_ptr<Group> groupOf(clsFaultList &list, const Item &item)
 {
     constexpr char Property[] = "FeeEarnerUniqueID";
@@ -221,7 +221,7 @@ void checkRates(clsFaultList &list, const Item &item, const Group &group)
             }));
 }
 
-/// Whether all figures of an item can be had, as those of nearly all items can: the lists ask for each of theirs.
+/// Whether all figures of an item can be computed, as is nearly always the case: the lists check each of their items.
 bool canBePriced(const clsZR3Form &form, const Item &item)
 {
     try {

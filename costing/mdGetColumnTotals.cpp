@@ -15,7 +15,7 @@ void addMinutes(int &total, int minutes)
         throw clsRunTimeError(clsRunTimeError::Overflow);
 }
 
-/// Adds up what `ofColumn` gives for each column. The road by the text and a double is part of the rule.
+/// Adds up the results of `ofColumn`. The conversion through text and double is required behaviour.
 template <class OfColumn> Money sumOfColumns(OfColumn ofColumn)
 {
     Money total;
@@ -24,7 +24,7 @@ template <class OfColumn> Money sumOfColumns(OfColumn ofColumn)
     return RoundMoney2(total);
 }
 
-/// The claim of an item that is priced; where it fails, the item's own error.
+/// The claim of a priced item; if that failed, raises the item's own error.
 Money claimOf(const clsZR3Form &form, const clsZR3ScheduleOfTimeItem &item, const clsSchedulePrice &price)
 {
     if (price.errorOf(clsSchedulePrice::ClaimFigure))
@@ -32,7 +32,7 @@ Money claimOf(const clsZR3Form &form, const clsZR3ScheduleOfTimeItem &item, cons
     return price.Claim;
 }
 
-/// Adds up the figures of all columns in one walk. A column keeps the first error that it meets.
+/// Adds up the figures of all columns in one pass. A column keeps its first error.
 class clsTotalling {
 public:
     void add(const clsZR3Form &form, const clsZR3ScheduleOfTimeItem &item, const clsSchedulePrice &price)
@@ -48,7 +48,7 @@ public:
         });
         attempt(m_totals.claims[column], [&] { m_totals.claims[column].value += claimOf(form, item, price); });
     }
-    /// Where it isn't known whether an item counts, or in which column, no total can go on.
+    /// If it is undecided whether an item counts, or in which column, all totals fail.
     void failAll(const clsRunTimeError &error)
     {
         for (auto &time : m_totals.times)
@@ -71,7 +71,7 @@ public:
     }
 
 private:
-    /// Goes on with a figure unless it has failed before.
+    /// Continues a figure unless it has failed before.
     template <class Value, class Compute> static void attempt(clsFigure<Value> &figure, Compute compute)
     {
         if (figure.error)

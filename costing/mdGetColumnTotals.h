@@ -21,8 +21,8 @@ Money ScheduleTotalOf(const clsZR3Form &form, const std::vector<const clsZR3Sche
 /// The figures above, worked out in one walk.
 clsColumnTotals AllColumnTotals(const clsZR3Form &form, clsSchedulePrices &prices);
 
-/// The claims of all advocacy items, also of a bill that leaves the others out. On `Claim1A` with items of the Family
-/// Advocacy Scheme it is their total instead, and the schedule's advocacy plays no part.
+/// The claims of all advocacy items, also for a bill that leaves the others out. On `Claim1A` with items of the Family
+/// Advocacy Scheme it is their total instead, and the schedule's advocacy is ignored.
 Money AdvocacyTotal(const clsBill &bill);
-/// The claims of the schedule's advocacy items, whatever the form type; not yet rounded.
+/// The claims of the schedule's advocacy items, for any form type; not yet rounded.
 clsFigure<Money> ScheduleAdvocacy(const clsZR3Form &form, clsSchedulePrices &prices);

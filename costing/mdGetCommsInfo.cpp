@@ -15,7 +15,7 @@ using FeeEarner = clsZR3FeeEarner;
 using Group = clsZR3FeeEarnerGroup;
 using Comms = clsZR3Communications;
 
-/// What a kind means for a group, a fee earner and the claim's settings.
+/// A kind's properties of a group, a fee earner and the claim's settings.
 struct KindRow {
     QString (*rate)(const Group &);
     int (*count)(const FeeEarner &);
@@ -34,7 +34,7 @@ const KindRow Kinds[] = {
         [](const Comms &c) { return c.LettersOutEnhancementUniqueID(); }},
 };
 
-/// What stands on a line: a group, and how often its fee earners wrote or called. Without a group it is empty.
+/// The content of a line: a group, and its fee earners' number of letters or calls. Empty without a group.
 struct clsLine {
     const Form &form;
     const KindRow &kind;
@@ -42,7 +42,7 @@ struct clsLine {
     int count = 0;
 };
 
-/// The fee earners by the group that they name, in the claim's order: each group would else look through all of them.
+/// The fee earners by group, in the claim's order: otherwise each group would search all of them.
 using clsByGroup = QHash<QString, std::vector<const FeeEarner *>>;
 
 clsByGroup feeEarnersByGroup(const Form &form)
@@ -53,14 +53,14 @@ clsByGroup feeEarnersByGroup(const Form &form)
     return byGroup;
 }
 
-/// Walks the groups by their order until the visitor says that it is enough.
+/// Visits the groups in order until the visitor returns true.
 template <class Visit> void walkGroups(const Form &form, const KindRow &kind, Visit isEnough)
 {
     const clsByGroup feeEarners = feeEarnersByGroup(form);
     for (int n = 1; n <= int(form.FeeEarnerGroupsCollection().size()); ++n) {
         const auto group = form.FeeEarnerGroupByOrderID(n);
         const Group &candidate = mdExisting(group);
-        // Counted without a rate too: a sum beyond 32 bits is an error in any case.
+        // Counted even without a rate: a sum beyond 32 bits is always an error.
         const int count = SumOfCounts(candidate, feeEarners.value(candidate.UniqueID()), kind.count);
         if (isEnough(clsCommsGroup {group, count, TextValue(kind.rate(candidate)) > 0}))
             return;
@@ -82,7 +82,7 @@ clsLine lineAt(const Form &form, int number, clsCommsKind kind)
     return line;
 }
 
-/// An amount as it comes out of its text: the totals add figures as they are printed.
+/// An amount converted through its text: the totals add figures as printed.
 double asPrinted(Money amount)
 {
     return TextValue(MoneyToText(amount));
@@ -102,7 +102,7 @@ Money groupEnhancementOf(const clsLine &line)
     return RoundMoney2(PercentageCalculate(basicOf(line), line.group->EnhancementRate()));
 }
 
-/// The enhancement that is set for the kind, or nothing.
+/// The enhancement set for the kind, or null.
 std::shared_ptr<clsZR3Enhancement> listedEnhancement(const Form &form, const KindRow &kind)
 {
     const Comms &settings = form.Communications;

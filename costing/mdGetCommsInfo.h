@@ -11,16 +11,16 @@ class clsZR3Enhancement;
 class clsZR3FeeEarnerGroup;
 class clsZR3Form;
 
-/// The kinds of communication, by the numbers that the bill's lines are asked for.
+/// The kinds of communication, with their numbers in the bill's lines.
 enum class clsCommsKind { Calls = 0, LettersIn = 1, LettersOut = 2 };
 
 /// The government forms have two rows for each kind: a third group is not billed.
 constexpr int CommsLines = 2;
 
-// A line is the n-th group, by order, that has both such communications and a positive rate for them. Without a group
-// on the line the money figures are 0 and the texts empty.
+// A line is the n-th group, by order, with such communications and a positive rate for them. Without a group on the
+// line the money figures are 0 and the texts empty.
 
-/// A group, its count of a kind, and whether it has a rate above zero for it.
+/// A group, its count of a kind, and whether its rate for that kind is above zero.
 struct clsCommsGroup {
     std::shared_ptr<clsZR3FeeEarnerGroup> group;
     int count;
@@ -29,13 +29,13 @@ struct clsCommsGroup {
     bool takesLine() const { return count >= 1 && hasRate; }
 };
 
-/// All groups by their order: of those that take a line, the form prints the first two.
+/// All groups in order; the form prints the first two of those that have a line.
 std::vector<clsCommsGroup> CommsGroups(const clsZR3Form &form, clsCommsKind kind);
 
-/// The enhancement that is set for a kind, or nothing.
+/// The enhancement set for a kind, or null.
 std::shared_ptr<clsZR3Enhancement> CommsEnhancement(const clsZR3Form &form, clsCommsKind kind);
 
-/// The group on a line, or nothing.
+/// The group on a line, or null.
 std::shared_ptr<clsZR3FeeEarnerGroup> CommsGroupAtLine(const clsZR3Form &form, int line, clsCommsKind kind);
 /// The group's rate for the kind, to the penny.
 Money CommsRateAtLine(const clsZR3Form &form, int line, clsCommsKind kind);
@@ -45,7 +45,7 @@ QString CommsCountAtLine(const clsZR3Form &form, int line, clsCommsKind kind);
 Money CommsBasicAtLine(const clsZR3Form &form, int line, clsCommsKind kind);
 /// The uplift from the group's own enhancement, to the penny.
 Money CommsGroupEnhancement(const clsZR3Form &form, int line, clsCommsKind kind);
-/// The uplift from the enhancement that is set for the kind, at four decimals.
+/// The uplift from the enhancement set for the kind, at four decimals.
 Money CommsListedEnhancement(const clsZR3Form &form, int line, clsCommsKind kind);
 /// The listed uplift, at four decimals, plus the group's.
 Money CommsEnhancementAtLine(const clsZR3Form &form, int line, clsCommsKind kind);

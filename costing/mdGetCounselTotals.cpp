@@ -17,7 +17,7 @@ template <class Field> Money sumOfFees(const clsZR3Form &form, Field field)
     return total;
 }
 
-/// The counsel whom the breakdown shows at a position, or nothing.
+/// The counsel at a position of the breakdown, or null.
 std::shared_ptr<clsZR3Counsel> counselAtLine(const clsZR3Form &form, int position)
 {
     const int number = int(form.CounselCollection().size());

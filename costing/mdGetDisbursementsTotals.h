@@ -4,7 +4,7 @@
 
 class clsZR3Form;
 
-// Sums of amounts as they are entered, with no rounding. An amount that is no number is the type error.
+// Sums of amounts as entered, without rounding. An amount that is not a number is the type error.
 
 Money CounselDisbursementsAmountTotal(const clsZR3Form &form);
 Money CounselDisbursementsVATTotal(const clsZR3Form &form);

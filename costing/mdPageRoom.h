@@ -1,6 +1,6 @@
 #pragma once
 
-/// How many rows of a list its page and each further sheet hold.
+/// The number of rows of a list on its page and on each further sheet.
 struct clsPageRoom {
     int first;
     int further;

@@ -16,7 +16,7 @@ namespace {
 
 using Form = clsZR3Form;
 
-/// Writes the report; a figure that fails is written as its error's number.
+/// Writes the report; a failed figure is written as its error number.
 class Report {
 public:
     explicit Report(const Form &form)
@@ -59,7 +59,7 @@ private:
             m_causes << cause;
     }
     bool mayNote() const { return m_causes.size() < MostCauses; }
-    /// Writes an item, or a line of the letters and calls, and tells what is wrong with it where a figure fails.
+    /// Writes an item, or a line of the letters and calls; if one of its figures fails, adds the cause.
     template <class Write, class... Of> void object(Write write, const Of &...of)
     {
         const qsizetype before = m_failures;

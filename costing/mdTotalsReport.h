@@ -8,10 +8,10 @@ class clsZR3Form;
 /// Every figure of the bill as one JSON object.
 struct clsTotalsReport {
     QByteArray json;
-    /// True when a figure could not be computed: it then stands as "!" and the error's number, and all others are
-    /// there, each computed on its own.
+    /// True if a figure could not be computed: it is then "!" and the error's number. The others are computed
+    /// independently.
     bool hasFailures = false;
-    /// What they come from, in words; of many only the first.
+    /// The causes in words; only the first if there are many.
     QStringList causes;
 };
 

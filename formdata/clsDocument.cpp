@@ -36,7 +36,7 @@ bool clsDocument::isDirty() const
 bool clsDocument::isCompared() const
 {
     return m_compared.form == form.get() && form->CountsChanges() && m_compared.changes == XMLChanges::count()
-        && m_compared.clean.constData() == cleanXML.constData(); // the same text, not one like it
+        && m_compared.clean.constData() == cleanXML.constData(); // the same text object, not an equal one
 }
 
 void clsDocument::givePath(const QString &path)

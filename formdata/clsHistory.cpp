@@ -23,7 +23,7 @@ pugi::xml_node childAt(pugi::xml_node parent, std::uint32_t place)
     return child == children.end() ? pugi::xml_node() : *child;
 }
 
-/// The first text that tells more than that items were renumbered; false where there is none.
+/// The first changed text that is not just a renumbering; false if there is none.
 bool firstTelling(const clsSequenceChange &change, pugi::xml_node list, clsSequenceChange::clsText &text)
 {
     std::uint32_t place = 0;
@@ -76,7 +76,7 @@ void clsHistory::join()
     if (!m_form)
         return;
     if (!knowsTree()) {
-        // The claim is another, or this is its first step: a claim that nothing changes needs no history.
+        // Another claim, or its first step: a claim that is never changed needs no history.
         clear();
         m_tree = m_form->m_root.document();
         m_shadow.take(root());
@@ -85,12 +85,12 @@ void clsHistory::join()
     keep(m_shadow.catchUp(root()));
 }
 
-/// Without a step before it, a change is part of where the history begins.
+/// A change before the first step belongs to the starting state.
 void clsHistory::keep(clsTreeChange change)
 {
     if (change.isEmpty())
         return;
-    // Steps that were undone know places that would be others.
+    // The positions recorded in undone steps would no longer be right.
     if (!change.movesNothing())
         dropUndone();
     if (m_done == 0)
@@ -155,7 +155,7 @@ bool clsHistory::canRedo() const
     return m_running == 0 && m_done < m_steps.size() && knowsTree();
 }
 
-/// An item that came or went, else the first that was changed, else the first that was moved.
+/// An item added or removed, otherwise the first one changed, otherwise the first one moved.
 clsHistory::clsLead clsHistory::leadOf(const clsTreeChange &change) const
 {
     clsLead moved;
@@ -185,7 +185,7 @@ const clsZR3Item *clsHistory::itemOf(const clsStep &step, clsTreeDirection end) 
     return element ? m_form->itemOf(element) : nullptr;
 }
 
-/// Whether a whole list or section comes or goes, as only another hand can have done.
+/// Whether a whole list or section is added or removed, which the program itself never does.
 bool clsHistory::movesParts(const clsTreeChange &change, const clsZR3Form &form)
 {
     const auto isPart = [&](const clsSequenceChange::clsUnit &unit) {

@@ -14,15 +14,15 @@ struct clsXMLDocument;
 class clsZR3Form;
 class clsZR3Item;
 
-/// What was done to the claim, step by step, and the way back: a step is found by comparing the tree with what it was
-/// after the step before, so that it holds whatever changed it. The identities given out, the time spent, the path and
-/// the like are in no step. Whether the claim counts as changed is none of its business.
+/// The history of changes to the claim, for undo and redo. A step is found by comparing the tree with its state after
+/// the previous step, so it includes changes made by any code. Identities given out, the time spent, the path and
+/// similar values are in no step. Independent of whether the claim counts as changed.
 ///
-/// It is no QUndoStack: that one is part of the windows' library, which the claim does without, can't drop its oldest
-/// steps by the memory that they take, and doesn't let a change join the step before it.
+/// Not a QUndoStack: that is in the windows' library, which the claim doesn't use, can't drop its oldest steps by
+/// memory use, and doesn't let a change join the previous step.
 class clsHistory {
 public:
-    /// What the steps may take of the memory; beyond it the oldest go.
+    /// The memory limit of the steps; beyond it the oldest are dropped.
     static constexpr size_t MostBytes = size_t(64) << 20;
 
     explicit clsHistory(std::unique_ptr<clsZR3Form> &form)
@@ -31,42 +31,42 @@ public:
     clsHistory(const clsHistory &) = delete;
     clsHistory &operator=(const clsHistory &) = delete;
 
-    /// Forgets everything, for another claim.
+    /// Discards everything, for another claim.
     void clear();
 
-    /// Runs an action, and makes what it has changed one step of the name that it returns. Actions may run inside each
-    /// other: each is a step, and none can be undone before the outermost ends.
+    /// Runs an action, and makes its changes one step with the name that it returns. Actions can be nested: each is a
+    /// step, and none can be undone before the outermost ends.
     void run(const std::function<QString()> &action);
-    /// What has changed since the last step joins that one: lists number their items when they are opened.
+    /// Adds the changes since the last step to that step: lists number their items when they are opened.
     void join();
-    /// Makes what has changed since the last step, or since `join`, a step.
+    /// Makes the changes since the last step, or since `join`, a step.
     void take(const QString &name);
 
     bool canUndo() const;
     bool canRedo() const;
-    /// The name of the step that would be undone or done again; empty where there is none.
+    /// The name of the step that would be undone or redone; empty if there is none.
     QString undoName() const { return canUndo() ? m_steps[m_done - 1].name : QString(); }
     QString redoName() const { return canRedo() ? m_steps[m_done].name : QString(); }
-    /// The item of a list that it is about, as long as it stands in the claim; nothing where it is about none.
+    /// The list item that the step is about, if it is in the claim now; null for none.
     const clsZR3Item *undoItem() const
     {
         return canUndo() ? itemOf(m_steps[m_done - 1], clsTreeDirection::Forth) : nullptr;
     }
     const clsZR3Item *redoItem() const { return canRedo() ? itemOf(m_steps[m_done], clsTreeDirection::Back) : nullptr; }
 
-    /// Takes the last step back, or does the next one again; nothing where there is none. Returns the item that it is
-    /// about, where that stands in the claim after it. The collections that the claim derives are made anew.
+    /// Undoes the last step, or redoes the next one; does nothing if there is none. Returns the item that it is about,
+    /// if that is in the claim afterwards. Rebuilds the derived collections.
     const clsZR3Item *undo();
     const clsZR3Item *redo();
 
     size_t steps() const { return m_steps.size(); }
     size_t bytes() const { return m_bytes; }
 
-    /// Called after each step, undo and redo, for a copy of the claim that is kept beside it. It must not throw.
+    /// Called after each step, undo and redo, for maintaining a copy of the claim. Must not throw.
     std::function<void()> stepTaken;
 
 private:
-    /// The item that a step is about: its list, and its places in the file before and after.
+    /// The item that a step is about: its list, and its positions in the file before and after.
     struct clsLead {
         std::string list;
         int oldPlace = -1;
@@ -90,9 +90,9 @@ private:
     static bool movesParts(const clsTreeChange &change, const clsZR3Form &form);
 
     std::unique_ptr<clsZR3Form> &m_form;
-    std::weak_ptr<clsXMLDocument> m_tree; ///< of the claim that the steps are of
+    std::weak_ptr<clsXMLDocument> m_tree; ///< of the claim to which the steps belong
     clsTreeShadow m_shadow;
-    std::deque<clsStep> m_steps; ///< those that are done, then those undone
+    std::deque<clsStep> m_steps; ///< first those done, then those undone
     size_t m_done = 0;
     size_t m_bytes = 0;
     int m_running = 0;

@@ -2,8 +2,8 @@
 
 #include "formdata/clsZR3Form.h"
 
-/// Which items of the schedule stand on the bill: all but the non-advocacy items of a `Claim1A` that leaves them out.
-/// What the claim says of all of them is read once, at the first item, so that it is for one walk over the items only.
+/// Which items of the schedule are on the bill: all but the non-advocacy items of a `Claim1A` that leaves them out.
+/// Reads the claim's own settings once, at the first item; use one object for a single loop over the items.
 class clsOnBill {
 public:
     explicit clsOnBill(const clsZR3Form &form)

@@ -46,14 +46,14 @@ clsSchedulePrices::clsSchedulePrices(const clsZR3Form &form)
     : m_form(form)
     , m_prices(form.ScheduleOfTimeItemsCollection().size())
 {
-    // All at once, in the order in which they lie in the memory: the user's order goes to and fro in it.
+    // All at once, in memory order: the user's order jumps back and forth in it.
     for (size_t place = 0; place < m_prices.size(); ++place)
         price(*form.ScheduleOfTimeItemsCollection()[place], m_prices[place]);
 }
 
 const clsSchedulePrice &clsSchedulePrices::of(const clsZR3ScheduleOfTimeItem &item)
 {
-    // An item taken out of the claim since, which an export list may still hold, has no place of its own.
+    // An item removed from the claim since, but possibly still in an export list, has no position.
     const auto place = size_t(item.Index - 1);
     const auto &items = m_form.ScheduleOfTimeItemsCollection();
     if (place >= m_prices.size() || place >= items.size() || items[place].get() != &item) {
@@ -65,7 +65,7 @@ const clsSchedulePrice &clsSchedulePrices::of(const clsZR3ScheduleOfTimeItem &it
 
 clsSchedulePrices::clsEarner &clsSchedulePrices::earnerOf(const clsZR3ScheduleOfTimeItem &item)
 {
-    // By the identity as it stands in the tree, which need not be made a text for each item.
+    // By the identity as in the tree, without converting it to a text for each item.
     const std::string_view identity = item.FeeEarnerUniqueID.content();
     if (const auto known = m_earners.find(identity); known != m_earners.end())
         return known->second;
@@ -89,7 +89,7 @@ void clsSchedulePrices::price(const clsZR3ScheduleOfTimeItem &item, clsScheduleP
     using enum Price::Figure;
     const auto note
         = [&result](Price::Figure figure, int error) { result.errors[size_t(figure)] = std::int16_t(error); };
-    // A figure that is computed of others has the error of the first of them that has one.
+    // A figure computed from others gets the first error among them.
     const auto attempt = [&](Price::Figure figure, std::initializer_list<Price::Figure> parts, auto compute) {
         for (const Price::Figure part : parts)
             if (const int error = result.errorOf(part))
@@ -109,7 +109,7 @@ void clsSchedulePrices::price(const clsZR3ScheduleOfTimeItem &item, clsScheduleP
     try {
         result.Advocacy = item.Advocacy();
     } catch (const clsRunTimeError &) { }
-    if (item.TTime.isEmpty()) // known without trying: a claim may have thousands of blank items
+    if (item.TTime.isEmpty()) // found without exceptions: a claim may have thousands of blank items
         note(TimeFigure, clsRunTimeError::SubscriptOutOfRange);
     else
         attempt(TimeFigure, {}, [&] { result.Minutes = TimeToMinutes(item.TTime()); });

@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-/// How the children of one element came from one state to the next, so that either can be had from the other: which
-/// have gone and come, with their places, and which texts are others. A text is that of a child, or of a field of it.
+/// The difference between two states of the children of one element, applicable in both directions: the children
+/// removed and added, with their positions, and the changed texts. A text belongs to a child or to one of its fields.
 class clsSequenceChange {
 public:
     struct clsUnit {
@@ -17,16 +17,16 @@ public:
         static constexpr std::uint32_t Own = 0xFFFFFFFF; ///< the text is the child's own
         std::uint32_t oldPlace;
         std::uint32_t newPlace;
-        std::uint32_t field; ///< its place in the child
+        std::uint32_t field; ///< its position in the child
         std::string_view oldText;
         std::string_view newText;
     };
 
-    std::vector<clsUnit> removed; ///< by their places before
-    std::vector<clsUnit> added; ///< by their places after
+    std::vector<clsUnit> removed; ///< by their positions before
+    std::vector<clsUnit> added; ///< by their positions after
 
     void addText(const clsText &text);
-    /// The texts in the order of the places, one at a time from `at` on; false at the end.
+    /// Iterates over the texts in the order of their positions; `at` starts at 0; false at the end.
     bool nextText(size_t &at, clsText &text) const;
 
     bool isEmpty() const { return removed.empty() && added.empty() && m_texts.empty(); }
@@ -34,10 +34,10 @@ public:
     size_t bytes() const;
 
 private:
-    std::string m_texts; ///< a list renumbered has thousands
+    std::string m_texts; ///< renumbering a list changes thousands
 };
 
-/// How a claim came from one state to the next: the children of its root, and the children of those.
+/// The difference between two states of a claim: the children of its root, and their children.
 struct clsTreeChange {
     struct clsPart {
         std::uint32_t oldPlace; ///< of the part among the children of the root
@@ -48,14 +48,14 @@ struct clsTreeChange {
     std::vector<clsPart> parts;
 
     bool isEmpty() const { return root.isEmpty() && parts.empty(); }
-    /// True when only texts are others.
+    /// True if only texts have changed.
     bool movesNothing() const;
     size_t bytes() const;
 };
 
 enum class clsTreeDirection { Back, Forth };
 
-/// The units that stand in the tree and go, and those that come, for a direction.
+/// The units to remove from the tree and those to add, for one direction.
 struct clsSequenceTurn {
     const std::vector<clsSequenceChange::clsUnit> &going;
     const std::vector<clsSequenceChange::clsUnit> &coming;

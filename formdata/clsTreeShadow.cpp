@@ -11,10 +11,10 @@
 
 namespace {
 
-constexpr int PartDepth = 1; ///< of what stands in the root
+constexpr int PartDepth = 1; ///< of the children of the root
 constexpr int UnitDepth = 2; ///< of the items of a list and the fields of a section
 
-// What no step changes: it is counted or remembered for the claim as a whole.
+// Not part of any step: counted or remembered for the whole claim.
 constexpr std::array<std::string_view, 6> Kept {
     "idcounter", "timespent", "defaultfeeearnerlistindex", "exportpath", "path", "version"};
 
@@ -31,7 +31,7 @@ pugi::xml_node childAt(pugi::xml_node parent, std::uint32_t place)
     return child;
 }
 
-/// Collects the texts by which a node differs from its image. False where it differs in anything else.
+/// Collects the texts in which a node differs from its image. False if it differs in any other way.
 bool textsThatDiffer(std::string_view image, pugi::xml_node node, std::vector<clsSequenceChange::clsText> &texts)
 {
     clsImageFields::clsField before;
@@ -62,7 +62,7 @@ bool clsTreeShadow::isKept(pugi::xml_node node, int depth)
     return depth == PartDepth && std::find(Kept.begin(), Kept.end(), node.name()) != Kept.end();
 }
 
-/// An element without a text is split into its children as soon as it has any.
+/// An element without text is split as soon as it has children.
 bool clsTreeShadow::splits(pugi::xml_node node, int depth)
 {
     return depth < UnitDepth && node.type() == pugi::node_element && !*node.value() && !mdIsPlainElement(node);
@@ -85,7 +85,7 @@ void clsTreeShadow::take(pugi::xml_node root)
     m_root = shadowOf(root, 0);
 }
 
-/// Whether the shadow is split like the node, or can be: an empty list is not until its first item comes.
+/// Whether the shadow is split like the node, or can be: an empty list is not split until its first item is added.
 bool clsTreeShadow::becomesSplit(clsNode &shadow, pugi::xml_node node, int depth)
 {
     if (depth >= UnitDepth || node.type() != pugi::node_element || *node.value())
@@ -102,8 +102,8 @@ bool clsTreeShadow::becomesSplit(clsNode &shadow, pugi::xml_node node, int depth
     return true;
 }
 
-/// Compares the children of an element with their shadows, which it makes those of the children. A child is known by
-/// its node; one whose node stands elsewhere in the order has gone and come.
+/// Compares the children of an element with their shadows, and updates the shadows. A child is identified by its node;
+/// a node in a different position counts as removed and added.
 class clsTreeShadow::clsComparison {
 public:
     clsComparison(clsNode &shadow, pugi::xml_node node, int depth, clsSequenceChange &change,
@@ -204,10 +204,10 @@ private:
     pugi::xml_node m_child;
     const int m_depth;
     clsSequenceChange &m_change;
-    std::vector<clsTreeChange::clsPart> *m_parts; ///< nothing where the children are not split themselves
+    std::vector<clsTreeChange::clsPart> *m_parts; ///< null if the children are not split themselves
     size_t m_old = 0;
     bool m_collected = false;
-    std::unordered_set<const void *> m_known; ///< of those before, whose turn is still to come
+    std::unordered_set<const void *> m_known; ///< previous children still to be visited
 };
 
 clsTreeChange clsTreeShadow::catchUp(pugi::xml_node root)
@@ -227,8 +227,7 @@ void clsTreeShadow::apply(
     applyTo(m_root, root, PartDepth, change.root, direction, records);
 }
 
-/// Makes the children those of the change's other end: first what goes, then what comes, each at its place, and then
-/// the texts.
+/// Applies the change to the children: first removes, then adds at the final positions, then changes the texts.
 void clsTreeShadow::applyTo(clsNode &shadow, pugi::xml_node node, int depth, const clsSequenceChange &change,
     clsTreeDirection direction, const clsRecords &records)
 {
@@ -289,7 +288,7 @@ void clsTreeShadow::applyTexts(
         for (; place < wanted; ++place)
             child = child.next_sibling();
         const bool isOwn = text.field == clsSequenceChange::clsText::Own;
-        // Both texts end with a zero where they stand.
+        // Both texts are zero-terminated.
         XMLSetContent(isOwn ? child : childAt(child, text.field), (forth ? text.newText : text.oldText).data());
         changed = true;
     }

@@ -8,31 +8,31 @@
 #include <string>
 #include <vector>
 
-/// What a claim's tree was when it was last looked at, child by child of the root and of its lists and sections. From
-/// it and the tree comes the change since, by whatever it was made; and it brings a change back into the tree.
+/// The last seen state of a claim's tree, for each child of the root and of its lists and sections. Comparison with the
+/// tree yields the change since, made by any code; a change can also be applied to the tree.
 class clsTreeShadow {
 public:
-    /// Told of the children of the root that hold records, while a change is brought back.
+    /// Notified about the children of the root that hold records, while a change is applied.
     struct clsRecords {
-        /// Takes the items of these elements, and their elements with them, out of a list of the claim. Returns the
-        /// elements that are none of its items and so still stand.
+        /// Removes the items of these elements, with the elements, from a list of the claim. Returns the elements that
+        /// are not items and so are still in the tree.
         std::function<std::vector<pugi::xml_node>(pugi::xml_node list, const std::vector<pugi::xml_node> &elements)> go;
-        /// The list has other elements, or they other texts.
+        /// The elements of the list, or their texts, have changed.
         std::function<void(pugi::xml_node list)> came;
     };
 
     bool isEmpty() const { return !m_root.node; }
     void clear() { m_root = {}; }
     void take(pugi::xml_node root);
-    /// What has changed since, which is part of the shadow from then on.
+    /// Returns the change since the last call and updates the shadow with it.
     clsTreeChange catchUp(pugi::xml_node root);
-    /// Brings the tree, which must be as the shadow has it, to the change's other end.
+    /// Applies the change to the tree in this direction; the tree must match the shadow.
     void apply(pugi::xml_node root, const clsTreeChange &change, clsTreeDirection direction, const clsRecords &records);
 
 private:
     struct clsNode {
-        const void *node = nullptr; ///< whose shadow this is, to tell a new one from an old one
-        std::string image; ///< whole, or, where it is split, without the children
+        const void *node = nullptr; ///< the shadowed node, to distinguish a new one from an old one
+        std::string image; ///< complete or, if it is split, without the children
         bool split = false;
         std::vector<clsNode> children {};
     };

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// A number of a few digits and nothing else, as nearly all are.
+/// A number of a few digits and nothing else, as most are.
 std::optional<int> plainNumber(const char *content)
 {
     constexpr int MostDigits = 9;
@@ -25,7 +25,7 @@ std::optional<int> plainNumber(const char *content)
     return *content == '\0' ? std::optional<int>(number) : std::nullopt;
 }
 
-/// What is wrong with a property, in words.
+/// The fault of a property, in words.
 QString causeOf(const clsXMLRecord &record, const clsXMLField &field, const char *words)
 {
     return mdSentenceOf(record,
@@ -64,7 +64,7 @@ clsXMLField::clsXMLField(clsXMLRecord &record, const clsXMLProperty &property)
         table.m_rows.push_back({&property, std::ptrdiff_t(m_offset)});
 }
 
-/// Of doubled elements it is the first; none where it is missing.
+/// The first of duplicate elements; a null node if missing.
 pugi::xml_node clsXMLField::element() const
 {
     const clsXMLRecord &own = record();
@@ -102,7 +102,7 @@ QString clsXMLField::readText() const
 bool clsXMLField::readBoolean() const
 {
     const char *text = content();
-    // As the program itself writes it, which nearly all are.
+    // Most are in the form that the program itself writes.
     if (std::strcmp(text, "True") == 0)
         return true;
     if (std::strcmp(text, "False") == 0)
@@ -142,7 +142,7 @@ void clsXMLField::writeLong(int value)
     setContent(QByteArray::number(value).constData());
 }
 
-inline clsXMLField &clsXMLRecord::fieldAt(size_t place) // which a walk over a claim asks for by the hundred thousand
+inline clsXMLField &clsXMLRecord::fieldAt(size_t place) // called some hundred thousand times in a loop over a claim
 {
     return *reinterpret_cast<clsXMLField *>(reinterpret_cast<char *>(this) + m_table->rows()[place].offset);
 }

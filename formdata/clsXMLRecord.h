@@ -14,40 +14,40 @@
 
 class clsXMLRecord;
 
-/// The kinds of value that an element can hold. Money, rates, dates and times are text at this level: only their
-/// users convert them, so that a value survives a load and a save to the last character.
+/// The kinds of value of an element. Money, rates, dates and times are text at this level: only their users convert
+/// them, so that loading and saving keeps every character.
 enum class clsXMLKind { Text, Boolean, Long };
 
-/// What is known of a property without any record at hand: declared once, by the field that bears it.
+/// The static part of a property, declared once by its field.
 struct clsXMLProperty {
     const char *name; ///< such as "DateOfBirth"
-    const char *element; ///< the name in lower case, which is the element's
+    const char *element; ///< the name in lower case: the element's name
     clsXMLKind kind;
-    bool key; ///< the record is looked up by this value, so that a write makes look-ups stale
+    bool key; ///< records are looked up by this value, so a write makes look-ups stale
 };
 
-/// The place of a property in a record of its class.
+/// The position of a property in a record of its class.
 struct clsXMLPropertyPlace {
     const clsXMLProperty *property;
     std::ptrdiff_t offset;
 };
 
-/// A property that stands in no element: its name, and how its value is read, as text. `argument` is null where the
-/// reader of the property gave none.
+/// A property without an element: its name, and the function that reads its value as text. `argument` is null if the
+/// caller gave none.
 struct clsXMLDerivedProperty {
     const char *name;
     QString (*read)(const clsXMLRecord &record, const QString *argument);
 };
 
-/// A child of a template, and the place of the property whose element it is.
+/// A child of a template, and the index of its property.
 struct clsXMLTemplateChild {
     pugi::xml_node element;
     size_t property;
 };
 
-/// The properties of one class of records in the order of their declaration. It fills itself while the first record
-/// of the class is made, from the same lines that declare the properties. What a class derives stands in a table of its
-/// own, `DerivedProperties()`, if it has one.
+/// The properties of one class of records in the order of declaration. Filled by the declarations themselves while the
+/// first record of the class is constructed. A class with derived properties lists them in a separate table,
+/// `DerivedProperties()`.
 class clsXMLPropertyTable {
 public:
     template <class Record> static clsXMLPropertyTable &of()
@@ -64,10 +64,10 @@ public:
 
     const std::vector<clsXMLPropertyPlace> &rows() const { return m_rows; }
     std::span<const clsXMLDerivedProperty> derived() const { return m_derived; }
-    /// The place of the property with that element, the number of properties where there is none. The one that is
-    /// expected is looked at first: elements mostly stand in the order of the properties.
+    /// The index of the property with that element, or the number of properties if there is none. Tries `expected`
+    /// first: elements are mostly in the order of the properties.
     size_t find(const char *element, size_t expected) const;
-    /// The children of the class's template, with the places of their properties.
+    /// The children of the class's template, with the indices of their properties.
     const std::vector<clsXMLTemplateChild> &templateChildren(const char *templateName);
 
 private:
@@ -93,30 +93,30 @@ public:
 
     inline const clsXMLProperty &property() const;
 
-    /// The element's content as it stands; a missing element is the object error.
+    /// The element's raw content; a missing element is the object error.
     const char *content() const;
-    /// True when the value is the empty text. Every encoded character stands for one of the text, so that nothing needs
-    /// decoding to know it.
+    /// True if the value is the empty text. Needs no decoding, since every encoded character stands for one of the
+    /// text.
     bool isEmpty() const { return *content() == '\0'; }
-    /// The same where a missing element is no error.
+    /// The same, but a missing element is not an error.
     bool isThereAndEmpty() const
     {
         const pugi::xml_node found = element();
         return found && *found.child_value() == '\0';
     }
-    /// Send for the element, and for its content once the element has come: for who will read many of them soon.
+    /// Prefetch the element, and its content once the element is cached: for callers that will read many of them soon.
     [[gnu::always_inline]] void fetchElement() const { mdFetch(m_element.internal_object()); }
     [[gnu::always_inline]] void fetchContent() const
     {
         if (const pugi::xml_node found = element())
             mdFetch(found.child_value());
     }
-    /// Writes the content, and nothing when it stands there already.
+    /// Writes the content, unless it is unchanged.
     void setContent(const char *content);
 
-    /// The content by the rule of each kind, for whoever knows a property only by its name.
-    /// A text is decoded; a boolean is "True" or "False" in any case or a number, and anything else is the type error;
-    /// a long is the number at the start of the content, rounded, and 0 without one.
+    /// The value by the rule of each kind, for callers that know a property only by name. A text is decoded; a boolean
+    /// is "True" or "False" in any case or a number, anything else is the type error; a long is the number at the start
+    /// of the content, rounded, and 0 if there is none.
     QString readText() const;
     bool readBoolean() const;
     int readLong() const;
@@ -129,18 +129,17 @@ private:
     inline clsXMLRecord &record() const;
     pugi::xml_node element() const;
 
-    // A claim has some hundred thousand fields: they find their record and their property by two short numbers.
-    pugi::xml_node m_element; ///< good only while the record knows its elements
+    // A claim has some hundred thousand fields, so they refer to their record and property by two small numbers.
+    pugi::xml_node m_element; ///< valid only while the record's elements are cached
     std::uint32_t m_offset; ///< from the record
-    std::uint32_t m_place; ///< among the properties of its class
+    std::uint32_t m_place; ///< index among the properties of its class
 };
 
-/// A live view of one element: its fields go to the tree on every read and write. Not copyable, since an element
-/// has one record.
+/// A live view of one element: its fields access the tree on every read and write. Not copyable, since an element has
+/// one record.
 ///
-/// A record can know its elements: then its fields have found them once, and nobody but the record adds to the children
-/// of its element or takes one away. Whoever is given the element could, so that the record looks for its elements at
-/// each read from then on.
+/// A record can cache its elements: then only the record adds or removes children of its element. Once the element has
+/// been handed out others could do so too, and from then on the record searches for its elements at each read.
 class clsXMLRecord {
 public:
     clsXMLRecord(const clsXMLRecord &) = delete;
@@ -155,11 +154,11 @@ public:
     QString XMLOutput() const { return XMLElementOutput(m_node); }
     bool XMLOutputIs(const QString &text) const { return XMLElementOutputIs(m_node, text); }
 
-    /// The record's properties, in the order of their declaration.
+    /// The record's properties, in the order of declaration.
     const std::vector<clsXMLPropertyPlace> &properties() const { return m_table->rows(); }
-    /// The properties that are computed.
+    /// The computed properties.
     std::span<const clsXMLDerivedProperty> derivedProperties() const { return m_table->derived(); }
-    /// The property of that name, or nothing.
+    /// The property with that name, or null.
     clsXMLField *field(QStringView name, Qt::CaseSensitivity letters = Qt::CaseSensitive);
     const clsXMLField *field(QStringView name, Qt::CaseSensitivity letters = Qt::CaseSensitive) const
     {
@@ -180,12 +179,12 @@ protected:
         m_node = node;
         forgetElements();
     }
-    /// Makes this the record of an element that nobody else has, and finds the elements of the fields.
+    /// Binds the record to an element that nothing else accesses, and caches the elements of the fields.
     void bindAndLearn(pugi::xml_node node);
-    /// Appends copies of the template's children that the element lacks, as GenerateNodes does.
+    /// Appends copies of the template's children that the element lacks, like GenerateNodes.
     void complete(const char *templateName);
     void forgetElements() const { m_knowsElements = false; }
-    /// Sets the flag that a write to a key property raises.
+    /// Sets the flag to be raised by writes to key properties.
     void reportKeyWritesTo(bool *keysChanged) { m_keysChanged = keysChanged; }
 
 private:
@@ -211,7 +210,7 @@ inline const clsXMLProperty &clsXMLField::property() const
     return *record().m_table->rows()[m_place].property;
 }
 
-/// A name that is part of a type, so that its lower-case twin is made by the compiler.
+/// A name as part of a type, so that the compiler generates its lower-case form.
 template <std::size_t Size> struct clsXMLName {
     char text[Size];
     consteval clsXMLName(const char (&name)[Size]) { std::copy_n(name, Size, text); }

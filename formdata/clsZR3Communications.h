@@ -2,7 +2,7 @@
 
 #include "formdata/clsZR3Section.h"
 
-/// The enhancement settings of letters and calls. Their counts live on the fee earners.
+/// The enhancement settings of letters and calls. Their counts are stored with the fee earners.
 class clsZR3Communications : public clsZR3Section {
 public:
     clsZR3Communications()

@@ -4,8 +4,8 @@
 
 class clsZR3Form;
 
-/// A barrister instructed in the case. `VAT` is stored and edited only: no figure reads it, since the VAT on a
-/// counsel's fee is what the disbursement says.
+/// A barrister instructed in the case. `VAT` is only stored and edited: the VAT on a counsel's fee is that of the
+/// disbursement.
 class clsZR3Counsel : public clsZR3Item {
 public:
     explicit clsZR3Counsel(clsZR3Form &)

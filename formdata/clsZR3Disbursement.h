@@ -4,7 +4,7 @@
 
 class clsZR3Form;
 
-/// Something that the firm paid out; with `Counsel` set it is a counsel's fee. Amounts are pounds, as text.
+/// A payment made by the firm; with `Counsel` set it is a counsel's fee. Amounts are pounds, as text.
 class clsZR3Disbursement : public clsZR3Item {
 public:
     explicit clsZR3Disbursement(clsZR3Form &)

@@ -4,7 +4,7 @@
 
 class clsZR3Form;
 
-/// A named percentage that time items and letters and calls can be enhanced by; 50.00 means fifty per cent.
+/// A named enhancement percentage for time items or letters and calls; 50.00 means fifty per cent.
 class clsZR3Enhancement : public clsZR3Item {
 public:
     explicit clsZR3Enhancement(clsZR3Form &)

@@ -4,8 +4,8 @@
 
 class clsZR3Form;
 
-/// An expert's invoice. `NetAmount` is entered and not derived: the cost fields are only reported on the form, and
-/// only `NetAmount` and `VATAmount` enter the totals. Amounts are pounds, as text.
+/// An expert's invoice. `NetAmount` is entered, not derived: the cost fields are only reported on the form, and only
+/// `NetAmount` and `VATAmount` are included in the totals. Amounts are pounds, as text.
 class clsZR3ExpertInvoice : public clsZR3Item {
 public:
     explicit clsZR3ExpertInvoice(clsZR3Form &)

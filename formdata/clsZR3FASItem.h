@@ -5,10 +5,10 @@
 
 class clsZR3Form;
 
-/// A hearing under the Family Advocacy Scheme, paid by units and fixed payments rather than by time.
+/// A hearing under the Family Advocacy Scheme, paid by units and fixed payments instead of by time.
 class clsZR3FASItem : public clsZR3Item {
 public:
-    /// What is read by name beside the fields: one row for each derived member that a list shows.
+    /// The properties read by name in addition to the fields: one row for each derived member shown in a list.
     static std::span<const clsXMLDerivedProperty> DerivedProperties();
 
     explicit clsZR3FASItem(clsZR3Form &)
@@ -31,12 +31,12 @@ public:
     clsXMLText<"ExceptionalTravelReason"> ExceptionalTravelReason {*this};
     clsXMLText<"VATForFAS"> VATForFAS {*this};
 
-    /// The date as "yyyymmdd", by which the grids sort.
+    /// The date as "yyyymmdd", for sorting in the grids.
     QString DDateSerial() const;
-    /// Units at their rate; an empty rate is the type error.
+    /// Units times their rate; an empty rate is the type error.
     Money UnitPayment() const;
     /// The percentage bolt-on of the unit payment, at four decimals.
     Money BoltOn() const;
-    /// Unit payment, bolt-on and fixed payments. Not rounded: a fraction of a penny reaches the bill as it stands.
+    /// Unit payment, bolt-on and fixed payments. Not rounded: fractions of a penny are included in the bill.
     Money Total() const;
 };

@@ -10,7 +10,7 @@ class clsZR3Form;
 /// A person who did work on the case: a short code, a group that sets the rates, and the counts of letters and calls.
 class clsZR3FeeEarner : public clsZR3Item {
 public:
-    /// What is read by name beside the fields: one row for each derived member that a list shows.
+    /// The properties read by name in addition to the fields: one row for each derived member shown in a list.
     static std::span<const clsXMLDerivedProperty> DerivedProperties();
 
     explicit clsZR3FeeEarner(clsZR3Form &form)
@@ -26,9 +26,9 @@ public:
     clsXMLLong<"LettersIn"> LettersIn {*this};
     clsXMLLong<"LettersOut"> LettersOut {*this};
 
-    /// The group that `GroupUniqueID` names, or nothing.
+    /// The group with the identity `GroupUniqueID`, or null.
     std::shared_ptr<clsZR3FeeEarnerGroup> Group() const;
-    /// That group's reference. Where a file written by hand names a group that it doesn't have, it is the object error.
+    /// That group's reference; the object error if a hand-written file refers to a missing group.
     QString GroupReference() const;
 
 private:

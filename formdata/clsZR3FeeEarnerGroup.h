@@ -8,11 +8,11 @@
 class clsZR3FeeEarner;
 class clsZR3Form;
 
-/// A grade of fee earners: the seven rates and the enhancement that price all their work. A fee earner has no rates of
-/// its own.
+/// A grade of fee earners: the seven rates and the enhancement that price all their work. Fee earners have no
+/// individual rates.
 class clsZR3FeeEarnerGroup : public clsZR3Item {
 public:
-    /// What is read by name beside the fields: one row for each derived member that a list shows.
+    /// The properties read by name in addition to the fields: one row for each derived member shown in a list.
     static std::span<const clsXMLDerivedProperty> DerivedProperties();
 
     explicit clsZR3FeeEarnerGroup(clsZR3Form &form)
@@ -38,7 +38,7 @@ public:
     /// The fee earners of this group in the form's collection order, computed on each call.
     std::vector<std::shared_ptr<clsZR3FeeEarner>> FeeEarnersCollection() const;
 
-    /// Two members that stand in the class without a use.
+    /// Two unused members of the class.
     void LoadElements() { }
     std::shared_ptr<clsZR3FeeEarner> FeeEarner(int) const { return {}; }
 

@@ -17,11 +17,11 @@ namespace {
 
 constexpr char RootElement[] = "vzrform";
 
-// It must not end in the letters of a claim's extension: a backup under this name is then never deleted by age.
+// Must not end in the extension of a claim: a backup with this name is then never deleted by age.
 const QString UnsavedFileName = QStringLiteral("Unsaved Claim.zr3-new");
 
-/// Fills a collection anew from its front. What stands in its place already is left there: a derived collection is made
-/// anew after each change, and mostly stays as it was.
+/// Refills a collection from its front, keeping elements that are already right: derived collections are rebuilt after
+/// each change, and mostly stay the same.
 template <class Collection> class clsRefill {
 public:
     explicit clsRefill(Collection &collection)
@@ -45,7 +45,7 @@ private:
     size_t m_count = 0;
 };
 
-/// Walks a list by `OrderID` from 1 to its count; a gap is the object error. `word` is what an item of it is called.
+/// Visits a list by `OrderID` from 1 to its count; a gap is the object error. `word` is the name of its items.
 template <class List, class Visit> void inOrder(const List &list, const char *word, Visit visit)
 {
     for (int n = 1; n <= list.count(); ++n) {
@@ -63,14 +63,14 @@ clsXMLElement emptyClaim()
     return XMLLoadElement(GetResourceData(QStringLiteral("xmlZR3Form"), QStringLiteral("VELMORZR3XML")), RootElement);
 }
 
-/// Raises an error that was met earlier.
+/// Raises an error found earlier.
 void raise(const std::optional<clsRunTimeError> &error)
 {
     if (error)
         throw *error;
 }
 
-/// The item at a 1-based place of a derived collection; the subscript error outside it.
+/// The item at a 1-based index of a derived collection; the subscript error if out of range.
 template <class Collection> auto itemAt(const Collection &collection, int index)
 {
     if (index < 1 || index > int(collection.size()))
@@ -117,7 +117,8 @@ bool clsZR3Form::LoadText(const QByteArray &text)
     try {
         takeRoot(root);
     } catch (...) {
-        // No record may be left on the tree that goes with the claim before: this one is an empty claim then.
+        // No record may refer to the tree of the previous claim, which is about to be deleted: this one becomes an
+        // empty claim.
         takeRoot(emptyClaim());
         throw;
     }
@@ -189,7 +190,7 @@ QString clsZR3Form::FormFileName() const
 
 QString clsZR3Form::GenerateUniqueID()
 {
-    // Strict, unlike other longs: an identity given twice would tie items to the wrong fee earner.
+    // Strict, unlike other longs: a duplicate identity would connect items to the wrong fee earner.
     const int last = LongFromStrictText(m_idCounter.readText());
     if (last == std::numeric_limits<int>::max())
         throw clsRunTimeError(clsRunTimeError::Overflow);
@@ -254,8 +255,7 @@ void clsZR3Form::RenderAdditionalInformationItems()
     }
 }
 
-/// Which items are known to have no description. They are looked through in the order in which they lie in the memory:
-/// on the way by their numbers, each would have to be fetched from far off.
+/// The items that have no description, found in memory order: by their numbers, each access would be a cache miss.
 std::vector<bool> clsZR3Form::emptyDescriptions() const
 {
     std::vector<bool> empty;

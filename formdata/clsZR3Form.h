@@ -19,7 +19,7 @@
 
 // clang-format off
 /// The lists of the claim. `Plural` names the element, the collection and the render routine, `Single` the item class and
-/// the members that deal with one item. An `Identified` list is one whose items other elements point at.
+/// the members for single items. The items of an `Identified` list are referred to by other elements.
 #define ZR3_LISTS(Identified, Plain)                                                                                   \
     Identified(FeeEarnerGroups, FeeEarnerGroup)                                                                        \
     Identified(FeeEarners, FeeEarner)                                                                                  \
@@ -31,7 +31,7 @@
     Plain(JointInstructions, JointInstruction)                                                                         \
     Plain(Disbursements, Disbursement)
 
-/// A list and its family of members. What needs the item class is compiled once, in the .cpp file.
+/// A list and its family of members. The parts that need the item class are compiled once, in the .cpp file.
 #define ZR3_LIST(Plural, Single)                                                                                       \
 public:                                                                                                                \
     using Plural##List = clsZR3List<clsZR3##Single>;                                                                   \
@@ -46,42 +46,42 @@ public:                                                                         
 private:                                                                                                               \
     Plural##List m_##Plural;
 
-/// With the look-up by identity.
+/// The same with the look-up by identity.
 #define ZR3_IDENTIFIED_LIST(Plural, Single)                                                                            \
     ZR3_LIST(Plural, Single)                                                                                           \
 public:                                                                                                                \
     const Plural##List::Pointer &Single##ByUniqueID(const QString &uniqueID) const;
 
 // clang-format on
-/// A claim: the one object that owns the live tree, hands out its sections and lists, gives out identities, and loads
-/// and saves itself. It holds no value of its own: every property goes to the tree each time.
+/// A claim: owns the live tree, provides its sections and lists, generates identities, and loads and saves itself. It
+/// stores no values: every property accesses the tree each time.
 class clsZR3Form : public clsXMLRecord {
 public:
-    /// The root of the tree. Whoever has it can change what is in the items' elements too.
+    /// The root of the tree. Callers can then also change the content of the items' elements.
     pugi::xml_node XMLNode() const;
 
     /// A valid, empty claim with the template's defaults.
     clsZR3Form();
     ~clsZR3Form();
 
-    /// Reads the claim at a path and brings it up to date. False, after a message, when it is no claim: this object is
-    /// then to be dropped, and whoever asked for the load goes on with a new claim.
+    /// Reads the claim at a path and updates it to the present template. False, after a message, if it is not a claim:
+    /// the caller must then discard this object and continue with a new claim.
     bool LoadXML(const QString &filePath);
     /// The same from the text of a claim in UTF-8, without a message.
     bool LoadText(const QByteArray &text);
-    /// Writes the claim as it stands. False where it failed, after the box of the text document routines; `failure` is
-    /// then given the error's number.
+    /// Writes the claim. False if that failed, after the box of the text document routines; `failure` then gets the
+    /// error's number.
     bool SaveXML(const QString &filePath, int *failure = nullptr) const;
-    /// Becomes a copy of another claim, which stays as it is whatever is done to this one.
+    /// Becomes an independent copy of another claim.
     void takeCopyOf(const clsZR3Form &other);
-    /// True when no element of the claim was handed out, so that each change to it is counted.
+    /// True if no element of the claim has been handed out, so that all changes to it are counted.
     bool CountsChanges() const { return XMLChanges::lastHandOut() < m_taken; }
-    /// Rebuilds every collection and hands every section its element.
+    /// Rebuilds every collection and assigns each section its element.
     void LoadElements();
 
     /// The file name in `path`, or a fixed one for a claim that was never saved.
     QString FormFileName() const;
-    /// The next identity, "ID" and a number that is never given again.
+    /// The next identity: "ID" and a number that is never reused.
     QString GenerateUniqueID();
 
     clsXMLText<"path"> path {*this};
@@ -140,38 +140,38 @@ public:
     ZR3_LISTS(ZR3_IDENTIFIED_LIST, ZR3_LIST)
 
 public:
-    /// True when the item stands on the bill: all but the non-advocacy items of a `Claim1A` that leaves them out.
+    /// True if the item is on the bill: all but the non-advocacy items of a `Claim1A` that leaves them out.
     bool IsOnBill(const clsZR3ScheduleOfTimeItem &item) const;
 
-    // The derived collections hold the objects of the lists, in `OrderID` order. Each is rebuilt whole by its routine
-    // and is not kept up to date by changes of properties. A gap in the order is the object error.
+    // The derived collections contain the objects of the lists, in `OrderID` order. Each is rebuilt completely by its
+    // routine and doesn't follow changes of properties. A gap in the order is the object error.
     //
-    // An item of which the claim doesn't say in which collection it belongs, since a tick of a file holds neither True
-    // nor False, must not keep the user from the claim: the routines go on, and the error waits until a figure or a
-    // document is asked for.
+    // An item whose collection is undecided, because a tick in the file is neither True nor False, must not make the
+    // claim inaccessible: the routines continue, and the error is raised only when a figure or a document is needed.
 
-    /// Raises the error that a routine below has met when it last ran.
+    /// Raises the error found by the last run of a routine below, if any.
     void CheckDerivedCollections() const;
 
-    /// Numbers the items that the export prints into their `SOTItemNumber` and collects them. An undecided item is
-    /// collected too and gets no number.
+    /// Collects the items for the export and numbers them in `SOTItemNumber`. Undecided items are collected too,
+    /// without a number.
     void RenderScheduleOfTimeItemsForExport();
     const ScheduleOfTimeItemsList::Collection &ScheduleOfTimeItemsForExportCollection() const { return m_forExport; }
 
-    /// An item that stands in no list and prices itself as those of the claim do: for what is not stored yet.
+    /// An item outside all lists that is priced like those of the claim, for work not stored yet.
     ScheduleOfTimeItemsList::Pointer LooseScheduleOfTimeItem();
 
-    /// Collects those of the export's items that have a description; to be run after the routine above.
+    /// Collects the export's items that have a description; run it after the routine above.
     void RenderAdditionalInformationItems();
     const ScheduleOfTimeItemsList::Collection &AdditionalInformationItemsCollection() const { return m_additional; }
     ScheduleOfTimeItemsList::Pointer AdditionalInformationItem(int index) const;
 
-    /// Collects the items with a bolt-on and those with exceptional travel; an item may stand in both or neither.
+    /// Collects the items with a bolt-on and those with exceptional travel; an item may be in both or neither.
     void CreateFASCollections();
     const FASItemsList::Collection &FASBoltOnPaymentsCollection() const { return m_boltOns; }
     const FASItemsList::Collection &FASTravelBoltOnsCollection() const { return m_travel; }
 
-    /// Parts the disbursements into counsel's fees and the others; where one is undecided, neither can be had.
+    /// Separates the disbursements into counsel's fees and others; if one is undecided, neither collection is
+    /// available.
     void SeparateCounselAndNonCounselDisbursements();
     const DisbursementsList::Collection &CounselDisbursementsCollection() const;
     const DisbursementsList::Collection &NonCounselDisbursementsCollection() const;
@@ -181,14 +181,14 @@ public:
 private:
     friend class clsHistory;
 
-    // For the history, which takes elements of lists away and brings them back.
+    // For the history, which removes list elements and restores them.
 
-    /// Takes the items of these elements out of the list of the claim that has this element. Returns the elements that
-    /// are of no item.
+    /// Removes the items of these elements from the claim's list with this element. Returns the elements that belong to
+    /// no item.
     std::vector<pugi::xml_node> dropItems(pugi::xml_node list, const std::vector<pugi::xml_node> &elements);
-    /// Makes items of the elements of that list that have none.
+    /// Creates items for the elements of that list that have none.
     void takeUpItems(pugi::xml_node list);
-    /// The item of an element, or nothing.
+    /// The item of an element, or null.
     const clsZR3Item *itemOf(pugi::xml_node element) const;
     void renderDerived();
 
@@ -210,7 +210,7 @@ private:
 
     clsXMLLong<"IDCounter"> m_idCounter {*this};
     clsXMLElement m_root;
-    quint64 m_taken = 0; ///< the count of changes when the root was taken
+    quint64 m_taken = 0; ///< the count of changes when the root was handed out
     ScheduleOfTimeItemsList::Collection m_forExport;
     ScheduleOfTimeItemsList::Collection m_additional;
     FASItemsList::Collection m_boltOns;

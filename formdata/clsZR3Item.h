@@ -2,11 +2,11 @@
 
 #include "formdata/clsXMLRecord.h"
 
-/// What every item of a list is: a record that its list makes on an element of a file, or on a new one from its
-/// template, and that can be taken out again without losing its values. It knows its elements.
+/// A list item: a record created by its list for an element of a file, or for a new one from its template, which can be
+/// removed from the list without losing its values. Its elements are cached.
 class clsZR3Item : public clsXMLRecord {
 public:
-    /// The 1-based place in the collection; held here and not in the file.
+    /// The 1-based index in the collection; not stored in the file.
     int Index = 0;
 
 protected:
@@ -20,16 +20,16 @@ protected:
 private:
     template <class Item> friend class clsZR3List;
 
-    /// Makes this the record of an element of the list, which is brought up to date with the template.
+    /// Binds the item to an element of the list, and updates the element to the template.
     void takeOver(pugi::xml_node element);
-    /// Makes this the record of a new element at the list's end.
+    /// Binds the item to a new element at the list's end.
     void appendTo(pugi::xml_node listNode);
-    /// Makes this the record of a new element in a document of its own.
+    /// Binds the item to a new element in a separate document.
     void standAlone();
-    /// Moves the element into a document of its own, or into one that it shares with others that go with it.
+    /// Moves the element to a separate document, or to one shared with other removed items.
     void detach(std::shared_ptr<pugi::xml_document> own = std::make_shared<pugi::xml_document>());
     void release();
 
     const char *m_templateName;
-    std::shared_ptr<pugi::xml_document> m_own; ///< holds the element once it is taken out of the list
+    std::shared_ptr<pugi::xml_document> m_own; ///< holds the element after removal from the list
 };

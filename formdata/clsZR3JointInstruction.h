@@ -4,7 +4,7 @@
 
 class clsZR3Form;
 
-/// A party's share in an expert who was instructed jointly. The share is a percentage, as text.
+/// A party's share in an expert instructed jointly. The share is a percentage, as text.
 class clsZR3JointInstruction : public clsZR3Item {
 public:
     explicit clsZR3JointInstruction(clsZR3Form &)

@@ -12,12 +12,12 @@
 #include <utility>
 #include <vector>
 
-/// The items of one list element, in the order of the file, with the look-ups by place, by order and by identity.
-/// The element order is the order of creation and never changes; what the user sees is the order of `OrderID`.
+/// The items of one list element, in file order, with look-ups by index, by order and by identity. The element order is
+/// the order of creation and never changes; the user sees the order of `OrderID`.
 ///
-/// The look-ups by order and by identity answer as a walk from the first item to the last would, and are answered
-/// from an index that is made anew after any change to the list or to an item's key: without it the bill would be
-/// priced in the square of its length.
+/// The look-ups by order and by identity return what a search from the first item to the last would. They use an index
+/// that is rebuilt after any change to the list or to an item's key: without it, pricing the bill would take quadratic
+/// time.
 template <class Item> class clsZR3List {
 public:
     using Pointer = std::shared_ptr<Item>;
@@ -28,7 +28,7 @@ public:
     clsZR3List(const clsZR3List &) = delete;
     clsZR3List &operator=(const clsZR3List &) = delete;
 
-    /// The list's element. Whoever has it can change what is in the items' elements too.
+    /// The list's element. Callers can then also change the content of the items' elements.
     pugi::xml_node XMLNode() const
     {
         m_handedOut = true;
@@ -40,8 +40,8 @@ public:
     const Collection &collection() const { return m_items; }
     int count() const { return int(m_items.size()); }
 
-    /// Makes the items anew from the children of the list's element; each is brought up to date as it is taken over.
-    /// Every child element is an item, whatever its name.
+    /// Rebuilds the items from the children of the list's element, and updates each to the template. Every child
+    /// element is an item, whatever its name.
     template <class... Arguments> void render(pugi::xml_node listNode, Arguments &...arguments)
     {
         releaseItems();
@@ -72,7 +72,7 @@ public:
         return item;
     }
 
-    /// A new item with the template's defaults that stands in no list and in no tree of a claim.
+    /// A new item with the template's defaults, outside all lists and claims.
     template <class... Arguments> static Pointer loose(Arguments &...arguments)
     {
         const Pointer item = std::make_shared<Item>(arguments...);
@@ -80,8 +80,8 @@ public:
         return item;
     }
 
-    /// Takes the item at a place out of the list and its element out of the tree. The order of the others keeps its
-    /// gap until a grid next draws them.
+    /// Removes the item at an index from the list and its element from the tree. The order keeps its gap until a grid
+    /// next draws the items.
     void remove(int index)
     {
         const Pointer item = at(index);
@@ -90,8 +90,8 @@ public:
         reindex();
     }
 
-    /// Takes the items of these elements, which are in the order of the file, out of the list as `remove` does. Returns
-    /// the elements that are of no item; they still stand.
+    /// Removes the items of these elements, which are in file order, like `remove`. Returns the elements that belong to
+    /// no item; they are still in the tree.
     std::vector<pugi::xml_node> drop(const std::vector<pugi::xml_node> &elements)
     {
         std::vector<pugi::xml_node> others;
@@ -100,7 +100,7 @@ public:
         auto going = elements.begin();
         const auto end = elements.end();
         for (Pointer &item : m_items) {
-            // What stands between the items is no item.
+            // Nodes between the items are not items.
             while (going != end && going->type() != pugi::node_element)
                 others.push_back(*going++);
             if (going == end || item->node() != *going) {
@@ -116,8 +116,8 @@ public:
         return others;
     }
 
-    /// Makes items of the elements that have none, each at the place that its element has. The values of the others may
-    /// have changed as well.
+    /// Creates items for the elements that have none, at their elements' positions. The values of the others may have
+    /// changed as well.
     template <class... Arguments> void takeUp(Arguments &...arguments)
     {
         Collection known = std::move(m_items);
@@ -137,7 +137,7 @@ public:
         reindex();
     }
 
-    /// The item of an element, or nothing.
+    /// The item of an element, or null.
     const Item *itemOf(pugi::xml_node element) const
     {
         for (const Pointer &item : m_items)
@@ -147,7 +147,7 @@ public:
     }
     bool isOf(pugi::xml_node listNode) const { return m_node == listNode; }
 
-    /// The item at a 1-based place; the subscript error outside the list.
+    /// The item at a 1-based index; the subscript error if out of range.
     const Pointer &at(int index) const
     {
         if (index < 1 || index > count())
@@ -155,21 +155,20 @@ public:
         return m_items[size_t(index - 1)];
     }
 
-    /// The first item with that order, or nothing. The pointer is the list's own, good until the list changes.
+    /// The first item with that order, or null. The pointer belongs to the list and is valid until the list changes.
     const Pointer &byOrder(int orderID) const
     {
         bringIndexUpToDate();
         if (orderID < 1 || orderID > count())
             return itemAt(m_byOtherOrder.value(orderID));
-        // Who asks for an item by its order walks along it, as a rule: the one a few steps on, which may lie anywhere
-        // in the memory, is sent for meanwhile.
+        // Callers usually go through the items by order: the one a few steps ahead, anywhere in memory, is prefetched.
         constexpr int StepsAhead = 8;
         if (orderID <= count() - StepsAhead)
             mdFetch(itemAt(m_byOrder[size_t(orderID + StepsAhead - 1)]).get());
         return itemAt(m_byOrder[size_t(orderID - 1)]);
     }
 
-    /// The first item with that identity, compared exactly, or nothing.
+    /// The first item with that identity, compared exactly, or null.
     const Pointer &byIdentity(const QString &uniqueID) const
     {
         bringIndexUpToDate();
@@ -177,7 +176,7 @@ public:
     }
 
 private:
-    /// The tree of the items goes: whoever still holds one meets the object error and not freed memory.
+    /// The tree of the items is about to be deleted: remaining references get the object error and not freed memory.
     void releaseItems()
     {
         for (const Pointer &item : m_items)
@@ -223,7 +222,7 @@ private:
             first = place;
     }
 
-    /// The item at a place, nothing for 0.
+    /// The item at a position; null for 0.
     const Pointer &itemAt(int place) const
     {
         static const Pointer none;
@@ -232,8 +231,8 @@ private:
 
     pugi::xml_node m_node;
     Collection m_items;
-    // The index: 1-based places, 0 for none.
-    mutable std::vector<int> m_byOrder; ///< by the orders from 1 to the number of items
+    // The index: 1-based positions, 0 for none.
+    mutable std::vector<int> m_byOrder; ///< by order, from 1 to the number of items
     mutable QHash<int, int> m_byOtherOrder;
     mutable QHash<QString, int> m_byIdentity;
     mutable bool m_keysChanged = true;

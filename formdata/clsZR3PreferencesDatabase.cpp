@@ -54,7 +54,7 @@ void clsZR3PreferencesDatabase::SaveXML() const
 
 void clsZR3PreferencesDatabase::LoadElements()
 {
-    // There is no fallback for a missing or malformed file: an administrator makes a new one.
+    // There is no fallback for a missing or malformed file: an administrator creates a new one.
     if (!m_root)
         throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
     RenderReplacements();

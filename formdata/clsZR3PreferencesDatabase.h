@@ -31,20 +31,19 @@ public:
     clsXMLText<"TravelAndWaitingRate"> TravelAndWaitingRate {*this};
 };
 
-/// The settings that outlive a claim: switches, abbreviations and rate sets, in one small file of the database folder.
-/// Changes take effect in the tree at once and reach the disk only by `SaveXML`.
+/// The settings independent of a claim: switches, abbreviations and rate sets, in one small file of the database
+/// folder. Changes take effect in the tree at once and are saved only by `SaveXML`.
 class clsZR3PreferencesDatabase : public clsXMLRecord {
 public:
     using ReplacementsList = clsZR3List<clsZR3Replacement>;
     using RateSetsList = clsZR3List<clsZR3RateSet>;
 
-    /// Loads the file of the database folder. The file is required: without it, or when it is malformed, this ends
-    /// in the object error.
-    /// Once they stand, the log and the sounds ask them whether they are on.
+    /// Loads the file of the database folder. The file is required: if it is missing or malformed, raises the object
+    /// error. Then connects the switches of the log and the sounds.
     clsZR3PreferencesDatabase();
     ~clsZR3PreferencesDatabase();
 
-    /// The root of the tree. Whoever has it can change what is in the items' elements too.
+    /// The root of the tree. Callers can then also change the content of the items' elements.
     pugi::xml_node XMLNode() const;
 
     void LoadXML(const QString &path);

@@ -102,7 +102,7 @@ clsZR3ScheduleOfTimeItem::RateRule clsZR3ScheduleOfTimeItem::RateRuleBy(int time
     return last;
 }
 
-/// The rules that apply, each overriding the one before it.
+/// Visits the rules that apply, each overriding the one before it.
 template <class Visit> void clsZR3ScheduleOfTimeItem::forEachRateRule(int timeColumn, Visit visit) const
 {
     visit(HourlyRule);

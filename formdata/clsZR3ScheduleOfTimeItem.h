@@ -10,15 +10,15 @@ class clsZR3FeeEarner;
 class clsZR3FeeEarnerGroup;
 class clsZR3Form;
 
-/// A dated piece of work. It prices itself on every read from its fee earner's group, with no stored result, so that a
-/// change of a rate or an enhancement reprices the whole bill at once.
+/// A dated piece of work. Each read prices it from its fee earner's group, with no stored result, so that a changed
+/// rate or enhancement immediately reprices the whole bill.
 class clsZR3ScheduleOfTimeItem : public clsZR3Item {
 public:
-    /// The columns of the bill in which a time can stand.
+    /// The columns of the bill for times.
     enum Column { AttendanceAndConferences = 0, Documents = 1, Hearings = 2, TravelTime = 3, WaitingTime = 4 };
     static constexpr int Columns = 5;
 
-    /// What is read by name beside the fields: one row for each derived member that a list shows.
+    /// The properties read by name in addition to the fields: one row for each derived member shown in a list.
     static std::span<const clsXMLDerivedProperty> DerivedProperties();
 
     explicit clsZR3ScheduleOfTimeItem(clsZR3Form &form)
@@ -26,7 +26,7 @@ public:
         , m_form(&form)
     { }
 
-    /// The number on the exported schedule, given by the export list; held here and not in the file.
+    /// The number on the exported schedule, set by the export list; not stored in the file.
     int SOTItemNumber = 0;
     clsXMLLong<"OrderID", true> OrderID {*this};
     clsXMLText<"FeeEarnerUniqueID"> FeeEarnerUniqueID {*this};
@@ -34,7 +34,7 @@ public:
     clsXMLText<"Code"> Code {*this};
     clsXMLText<"Description"> Description {*this};
     clsXMLText<"TTime"> TTime {*this};
-    /// Declared without a use: no template has its element and nothing reads it.
+    /// Declared but unused: no template has its element and nothing reads it.
     clsXMLLong<"TypeOfCase"> TypeOfCase {*this};
     clsXMLBoolean<"Advocacy"> Advocacy {*this};
     clsXMLBoolean<"Counsel"> Counsel {*this};
@@ -44,38 +44,38 @@ public:
     clsXMLBoolean<"IncludeInEnhancements"> IncludeInEnhancements {*this};
     clsXMLText<"EnhancementUniqueID"> EnhancementUniqueID {*this};
 
-    /// The fee earner that `FeeEarnerUniqueID` names, or nothing.
+    /// The fee earner with the identity `FeeEarnerUniqueID`, or null.
     std::shared_ptr<clsZR3FeeEarner> FeeEarner() const;
-    /// That fee earner's reference; without a fee earner it is the object error, as in all the figures below.
+    /// That fee earner's reference; without a fee earner the object error, as in all the figures below.
     QString FeeEarnerReference() const;
     QString FeeEarnerInitials() const;
     std::shared_ptr<clsZR3FeeEarnerGroup> FeeEarnerGroup() const;
-    /// The date as "yyyymmdd", by which the grids sort.
+    /// The date as "yyyymmdd", for sorting in the grids.
     QString DDateSerial() const;
 
     /// The column of the bill, 0 to 4.
     int TimeColumn() const;
-    /// The column of a code by itself, as of a piece of work that is neither travel nor waiting.
+    /// The column for a code alone, for work that is neither travel nor waiting.
     static Column ColumnOfCode(QStringView code);
-    /// Pounds per hour: a later rule overrides an earlier one, so that travel prices an advocate's journey.
+    /// Pounds per hour: a later rule overrides an earlier one, so that an advocate's journey is priced as travel.
     Money Rate() const;
     /// The time at the rate, to the penny.
     Money BasicClaim() const;
-    /// The group's and the listed enhancement added, as a percentage figure: they do not compound.
+    /// The group's and the listed enhancement added, as a percentage: they do not compound.
     Money TotalEnhancementPercentage() const;
-    /// Basic claim plus its uplift, rounded to the penny once, on the sum.
+    /// Basic claim plus its uplift; only the sum is rounded to the penny.
     Money Claim() const;
 
-    // The rules of the four figures, for whoever has the figures before them at hand already.
+    // The rules of the four figures, for callers that already have the preceding figures.
     Money RateBy(clsGroupRates &rates, int timeColumn) const;
     Money TotalEnhancementPercentageBy(clsGroupRates &rates) const;
     static Money ClaimBy(Money basicClaim, Money percentage);
-    /// The uplift that is in the claim, at four decimals.
+    /// The uplift included in the claim, at four decimals.
     static Money EnhancementBy(Money basicClaim, Money percentage);
 
-    /// What decides on the rate.
+    /// The rule that decides the rate.
     enum RateRule { HourlyRule, AdvocacyRule, CounselRule, TravelAndWaitingRule, UseHourlyRule };
-    /// The rule whose rate `RateBy` gives.
+    /// The rule behind the result of `RateBy`.
     RateRule RateRuleBy(int timeColumn) const;
 
 private:

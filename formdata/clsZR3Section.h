@@ -2,12 +2,12 @@
 
 #include "formdata/clsXMLRecord.h"
 
-/// What the fourteen sections of a claim are: plain records of which the claim holds one each. They compute nothing,
-/// test nothing and know nothing of each other. Until it is given its element, a section can't be used.
+/// The base of the fourteen sections of a claim: plain records, one of each in a claim. They compute and check nothing
+/// and are independent of each other. A section can't be used until it is assigned its element.
 class clsZR3Section : public clsXMLRecord {
 public:
     using clsXMLRecord::XMLNode;
-    /// Takes over the claim's element and brings it up to the template's children of the same section.
+    /// Binds to the claim's element and updates it to the template's children of the same section.
     void XMLNode(pugi::xml_node node);
 
     /// The name of the section's element in the claim.

@@ -2,8 +2,8 @@
 
 #include "formdata/clsZR3Section.h"
 
-// The single sections of a claim, each a table of its properties. A Yes/No question is two booleans, so that it can
-// be unanswered; the file can hold both, and only the screens keep them exclusive.
+// The single sections of a claim, each a table of its properties. A Yes/No question is two booleans, so that it can be
+// unanswered; a file can contain both, and only the screens keep them exclusive.
 
 /// The client. `MoreThan1Certificate` is a text despite its name.
 class clsZR3ClientDetails : public clsZR3Section {
@@ -68,7 +68,7 @@ public:
     clsXMLText<"SubstantiveCertificateDate"> SubstantiveCertificateDate {*this};
 };
 
-/// How the case ended. The five longs are places in the lists of mdOutcomesCollections, 0 for none.
+/// How the case ended. The five longs are positions in the lists of mdOutcomesCollections, 0 for none.
 class clsZR3OutcomeOfCase : public clsZR3Section {
 public:
     clsZR3OutcomeOfCase()
@@ -102,8 +102,8 @@ public:
     clsXMLText<"Explanation"> Explanation {*this};
 };
 
-/// What kind of family proceedings. Shown on `Claim1A` only. `OtherPubicLawChildren` lacks a letter, as its element
-/// does: existing files depend on it.
+/// The kind of family proceedings. Shown on `Claim1A` only. `OtherPubicLawChildren` lacks a letter, like its element:
+/// existing files depend on it.
 class clsZR3NatureOfProceedings : public clsZR3Section {
 public:
     clsZR3NatureOfProceedings()
@@ -123,7 +123,7 @@ public:
 };
 
 /// Actual costs of care and of private law work. Shown on `Claim1A` only. The small c in
-/// `PrivateLawcourtFamilyProceeding` is the name as it stands.
+/// `PrivateLawcourtFamilyProceeding` is required.
 class clsZR3ActualCostsIncurred : public clsZR3Section {
 public:
     clsZR3ActualCostsIncurred()
@@ -164,7 +164,7 @@ public:
     clsXMLText<"FixedFee"> FixedFee {*this};
 };
 
-/// The work done, and why an enhancement is asked for.
+/// The work done, and the reasons for an enhancement.
 class clsZR3DetailsOfWork : public clsZR3Section {
 public:
     clsZR3DetailsOfWork()
@@ -175,7 +175,7 @@ public:
     clsXMLText<"DetailsOfEnhancement"> DetailsOfEnhancement {*this};
 };
 
-/// Whether counsel's claims for payment have been paid. The class alone has the short name.
+/// Whether counsel's claims for payment have been paid. Only the class has the short name.
 class clsZR3CounselOutstandingClms : public clsZR3Section {
 public:
     clsZR3CounselOutstandingClms()
@@ -197,7 +197,7 @@ public:
     clsXMLText<"AmountRecovered"> AmountRecovered {*this};
 };
 
-/// Costs awarded to the client, and what became of them.
+/// Costs awarded to the client, and their recovery.
 class clsZR3DetailsOfCostsAwarded : public clsZR3Section {
 public:
     clsZR3DetailsOfCostsAwarded()
@@ -227,7 +227,7 @@ public:
     clsXMLText<"OfferByDebtorDetails"> OfferByDebtorDetails {*this};
 };
 
-/// Who owes the costs.
+/// The debtor of the costs.
 class clsZR3DebtorsDetails : public clsZR3Section {
 public:
     clsZR3DebtorsDetails()

@@ -2,20 +2,20 @@
 
 #include <QString>
 
-/// A list of the claim, as findings and forecasts name it.
+/// A list of the claim, as named by findings and forecasts.
 struct clsClaimList {
     const char *name; ///< such as "schedule"
-    const char *tab; ///< the text of the tab on whose screen it stands
-    const char *element; ///< that holds its items
-    const char *item; ///< what one of them is called
-    const char *calledBy; ///< the element by which an item is known; empty where it is known by its number
+    const char *tab; ///< the tab of its screen
+    const char *element; ///< contains its items
+    const char *item; ///< the word for an item
+    const char *calledBy; ///< the element that identifies an item; empty if its number does
 };
 
-/// The list of a name; nothing for an unknown one.
+/// The list with that name; null if unknown.
 const clsClaimList *mdClaimList(const QString &name);
 
-/// The text of the tab on whose screen a section is edited: "Debtor's Details" for "DebtorsDetails". Empty for an
-/// unknown section.
+/// The tab of the screen on which a section is edited: "Debtor's Details" for "DebtorsDetails". Empty for an unknown
+/// section.
 QString mdTabOfSection(const QString &section);
-/// The same of a list.
+/// The same for a list.
 QString mdTabOfList(const QString &list);

@@ -19,7 +19,7 @@ std::uint64_t mixed(std::uint64_t state, std::string_view text)
     return state ^ state >> 29;
 }
 
-/// Elements by name and content, so that it shows where one ends.
+/// Elements by name and content, with a mark for the end of each.
 std::uint64_t ofElement(std::uint64_t state, pugi::xml_node element)
 {
     state = mixed(state, element.name());
@@ -34,7 +34,7 @@ std::uint64_t ofElement(std::uint64_t state, pugi::xml_node element)
 
 std::uint64_t mdClaimState(const clsZR3Form &form)
 {
-    // As a plain record: the lists need not forget what they know of their elements.
+    // Accessed as a plain record, so that the lists keep their cached elements.
     const clsXMLRecord &claim = form;
     std::uint64_t state = 0;
     for (const pugi::xml_node child : claim.XMLNode().children())

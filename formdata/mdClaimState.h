@@ -4,7 +4,6 @@
 
 class clsZR3Form;
 
-/// A number that is another one where anything has changed in the claim that a figure or a page is made of. What the
-/// program keeps in the claim for itself, such as its path and the clock, makes no difference, nor does the limit of
-/// costs.
+/// A hash that changes with every part of the claim that affects a figure or a page. Ignores the program's own data in
+/// the claim, such as its path and the clock, and the costs limit.
 std::uint64_t mdClaimState(const clsZR3Form &form);

@@ -8,7 +8,7 @@ namespace {
 
 constexpr char Element[] = "costslimit";
 
-/// As a plain record: the lists need not forget what they know of their elements.
+/// Accessed as a plain record, so that the lists keep their cached elements.
 pugi::xml_node claimOf(const clsZR3Form &form)
 {
     const clsXMLRecord &claim = form;

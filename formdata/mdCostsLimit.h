@@ -8,12 +8,12 @@
 
 class clsZR3Form;
 
-// The limit of all costs, net of VAT. It is no property of the claim: its element is there only while a limit is set,
-// so that a claim without one is written as it always was.
+// The limit of all costs, net of VAT. Not a property of the claim: its element exists only while a limit is set, so
+// that a claim without one is saved as before.
 
-/// The limit as the claim stores it; empty where it has none.
+/// The stored limit; empty if there is none.
 QString mdStoredCostsLimit(const clsZR3Form &form);
-/// The same as an amount; nothing where there is none, and for a text that is no amount above zero.
+/// The limit as an amount; nothing if there is none, or if its text is not an amount above zero.
 std::optional<Money> mdCostsLimit(const clsZR3Form &form);
-/// Sets the limit. With a text that is empty or an amount of zero the claim has none.
+/// Sets the limit. An empty text or a zero amount removes it.
 void mdSetCostsLimit(clsZR3Form &form, const QString &limit);

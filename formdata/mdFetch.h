@@ -2,8 +2,8 @@
 
 #include <cstddef>
 
-/// Sends for what an object begins with, so that it is at hand a little later: a read would wait for the memory. It
-/// changes nothing, and no object is needed there. Always inline: the compiler takes a call for one without effect.
+/// Prefetches the start of an object into the cache, so that a later read need not wait for memory. Has no other
+/// effect; the pointer need not be valid. Always inline: the compiler would remove a call without side effects.
 [[gnu::always_inline]] inline void mdFetch(const void *object)
 {
     constexpr std::ptrdiff_t CacheLine = 64;

@@ -16,6 +16,6 @@ clsDocument &Document()
 }
 
 std::unique_ptr<clsZR3Form> &Form = document.form;
-// One file, which the whole program reads.
+// One file, read by the whole program.
 std::unique_ptr<clsZR3PreferencesDatabase> Preferences;
 QString &CleanXML = document.cleanXML;

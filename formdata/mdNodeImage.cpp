@@ -4,7 +4,7 @@
 
 namespace {
 
-// What a piece of an image begins with. Names and texts end with a zero, which none of them can hold.
+// The first character of each piece of an image. Names and texts are zero-terminated; they can't contain a zero.
 constexpr char Plain = 'p';
 constexpr char Element = 'e';
 constexpr char Attribute = 'a';
@@ -18,7 +18,7 @@ void append(std::string &image, const char *text)
     image.append(text, std::strlen(text) + 1);
 }
 
-/// The text that an element of the parser's begins with is a value of its own and no child.
+/// With this parser, the text at the start of an element is the element's value and not a child.
 const char *ownText(pugi::xml_node element)
 {
     return element.value();
@@ -61,7 +61,7 @@ void appendNode(std::string &image, pugi::xml_node node)
     image += ElementEnd;
 }
 
-/// Walks along an image.
+/// Iterates over an image.
 class ImageReader {
 public:
     explicit ImageReader(std::string_view image)
@@ -74,7 +74,7 @@ public:
         m_left.remove_prefix(1);
         return first;
     }
-    /// The name or the text that is next; it ends with a zero.
+    /// The next name or text, zero-terminated.
     const char *text()
     {
         const char *begin = m_left.data();

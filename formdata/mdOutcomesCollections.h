@@ -6,8 +6,8 @@ class clsXMLField;
 class clsXMLRecord;
 
 // The code lists of the outcome of a case, fixed by the government forms and the same for both. A claim stores the
-// place in the list, 0 for none; the forms print only the code in front of the bracket. The blank before "No
-// Selection", and the one that ends the first text of the public benefits, are part of the texts.
+// position in the list, 0 for none; the forms print only the code before the bracket. The blank before "No Selection",
+// and the trailing one in the first text of the public benefits, are part of the texts.
 
 QStringList StageOfCaseEndCollection();
 QStringList HowDidCaseEndCollection();
@@ -15,8 +15,8 @@ QStringList ResultCollection();
 QStringList ADRProposedCollection();
 QStringList PublicBenefitsAchievedCollection();
 
-/// What stands before the first ")" of a text; empty where there is none.
+/// The part of a text before the first ")"; empty if there is none.
 QString OutcomeCode(const QString &text);
-/// The code of the entry whose place in the list a field of the outcome stores; a place outside the list is the
-/// subscript error.
+/// The code of the entry at the position stored in a field of the outcome; the subscript error for a position outside
+/// the list.
 QString OutcomeCodeOf(const QStringList &list, const clsXMLRecord &outcome, const clsXMLField &field);

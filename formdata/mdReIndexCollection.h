@@ -1,6 +1,6 @@
 #pragma once
 
-/// Writes each item's 1-based place in its collection into its `Index`.
+/// Sets each item's `Index` to its 1-based position in its collection.
 template <class Collection> void ReIndexCollection(const Collection &collection)
 {
     int index = 0;

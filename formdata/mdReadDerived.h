@@ -3,7 +3,7 @@
 #include "base/clsRunTimeError.h"
 #include "formdata/clsXMLRecord.h"
 
-/// The text of a derived value, as a cell or a menu shows it.
+/// The text of a derived value, for a cell or a menu.
 inline QString mdLateText(const QString &value)
 {
     return value;
@@ -17,8 +17,7 @@ inline QString mdLateText(int value)
     return QString::number(value);
 }
 
-/// How the members of a class are called without the caller knowing it: a constant function with or without one text
-/// as its argument, or a variable.
+/// Calls a member without knowing its class: a constant function with or without one text argument, or a variable.
 template <class Member> struct clsDerivedMember;
 
 template <class Value, class Record> struct clsDerivedMember<Value (Record::*)() const> {

@@ -8,9 +8,9 @@
 namespace {
 
 struct clsRecordRow {
-    const char *element; ///< of the list that the item stands in, or of the section itself
+    const char *element; ///< of the item's list, or of the section itself
     const char *words;
-    const char *calledBy = nullptr; ///< of an item: the element by which it is known
+    const char *calledBy = nullptr; ///< of an item: the element that identifies it
 };
 
 constexpr char ByOrder[] = "orderid";
@@ -55,16 +55,16 @@ template <size_t Count> const clsRecordRow *rowOf(const clsRecordRow (&rows)[Cou
     return nullptr;
 }
 
-/// An item is known by its list: its own element may have any name.
+/// An item is recognised by its list: its own element may have any name.
 QString itemInWords(const clsRecordRow &row, pugi::xml_node item)
 {
     const QString name = XMLDecodeText(item.child(row.calledBy).child_value());
-    // One without a reference or a name is known by its place.
+    // Without a reference or a name it is identified by its order.
     return QString::fromLatin1(row.words) + u' '
         + mdWithoutControls(name.isEmpty() ? XMLDecodeText(item.child(ByOrder).child_value()) : name);
 }
 
-/// A capital begins a word unless it stands inside a row of them, and a digit unless it stands inside a number.
+/// A capital starts a word unless it is inside a run of capitals, and a digit unless it is inside a number.
 bool beginsWord(const QString &property, qsizetype at)
 {
     const QChar before = property[at - 1];
@@ -86,7 +86,7 @@ QString mdRecordInWords(const clsXMLRecord &record)
 
 QString mdPropertyInWords(const QString &property)
 {
-    // The two names that begin with the letter of their kind.
+    // The two names that start with the letter of their type.
     if (property == QLatin1String("dDate") || property == QLatin1String("TTime"))
         return property.mid(1);
     QString words;
@@ -101,7 +101,7 @@ QString mdPropertyInWords(const QString &property)
 QString mdQuoted(const QString &text)
 {
     constexpr qsizetype Longest = 40;
-    // A line break would make the rest of the text look like a line of the program's own.
+    // A line break would make the rest look like a separate line of the program's text.
     return u'"' + mdWithoutControls(text.size() > Longest ? text.left(Longest) + u'\u2026' : text) + u'"';
 }
 

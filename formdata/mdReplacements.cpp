@@ -15,7 +15,7 @@ QString KeyCodeToCharacter(int KeyCode)
     case Qt::Key_Escape: return QStringLiteral("\x1b");
     default: break;
     }
-    // The codes of the keys that type are those of their characters, letters as capitals; all others lie far above.
+    // The codes of typing keys are those of their characters, letters as capitals; all others are far larger.
     if (KeyCode < Qt::Key_Space || KeyCode > Qt::Key_ydiaeresis)
         return {};
     return QString(QChar(char16_t(KeyCode))).toLower();
@@ -35,15 +35,15 @@ QString ExpandReplacements(const QString &text)
         return text;
     const QString lineBreak = QStringLiteral("\r\n");
     const QString lineBreakAndBlank = QStringLiteral("\r\n ");
-    // With a blank at the beginning of each line, every word stands behind one.
+    // With a blank at the start of each line, every word is preceded by one.
     QString work = u' ' + text;
     work.replace(lineBreak, lineBreakAndBlank);
     const int count = int(Preferences->ReplacementsCollection().size());
     for (int index = 1; index <= count; ++index) {
         const auto replacement = Preferences->Replacement(index);
-        // The blank behind the abbreviation isn't given back. So of two equal ones side by side only the first is
-        // found: it takes the blank that the second would have to begin with. A later abbreviation sees what an earlier
-        // one has put in. Both are meant.
+        // The blank after the abbreviation is removed. So of two equal abbreviations in succession only the first is
+        // found: it consumes the blank before the second. A later abbreviation also applies to the result of an earlier
+        // one. Required behaviour; do not fix.
         work.replace(u' ' + replacement->InputText() + u' ', u' ' + replacement->OutputText());
     }
     work.remove(0, 1);

@@ -2,24 +2,24 @@
 
 #include <QString>
 
-// The user's abbreviations and their expansion while he types. Nothing here knows a window: it works on any object that
-// offers `Text()`, `setText(text)`, `SelStart()` and `setSelStart(position)`. Positions count characters of the text as
-// it stands, a line break (CR LF) as two.
+// The user's abbreviations and their expansion while typing. Independent of windows: works on any object with `Text()`,
+// `setText(text)`, `SelStart()` and `setSelStart(position)`. Positions count characters of the text, a line break (CR
+// LF) as two.
 
-/// The character that a key types, in one rule for all keys: the keyboard's state plays no part, so that a letter is
-/// always a small one. Empty for a key that types nothing. `KeyCode` is a Qt::Key.
+/// The character for a key, by one rule for all keys: modifiers are ignored, so letters are always lower-case. Empty
+/// for a key that types nothing. `KeyCode` is a Qt::Key.
 QString KeyCodeToCharacter(int KeyCode);
 
-/// Whether a text may be an abbreviation: digits and unaccented letters only. An empty text passes.
+/// Whether a text may be an abbreviation: only digits and unaccented letters. An empty text is valid.
 bool IsValidInputText(const QString &text);
 
-/// A text with every abbreviation of the preferences expanded that stands alone between a blank, or the beginning of a
-/// line, and a blank. The blank behind it goes: the one that the user has just typed is spent on the expansion.
+/// Expands every abbreviation of the preferences that is preceded by a blank or the start of a line and followed by a
+/// blank. The following blank is removed: it is the one just typed to trigger the expansion.
 QString ExpandReplacements(const QString &text);
 
-/// Expands the abbreviations in all of a box's text when the key is the space bar, and moves the caret by as much as
-/// the text has grown. The text is written even if nothing matched, so that the box raises its change on every space.
-/// True when the length has changed.
+/// If the key is the space bar, expands the abbreviations in the whole text of a box, and moves the caret by the growth
+/// of the text. The text is written even if nothing matched, so that the box raises its change on every space. True if
+/// the length has changed.
 template <class Box> bool ApplyReplacements(int KeyCode, Box &box)
 {
     if (KeyCodeToCharacter(KeyCode) != QStringLiteral(" "))
@@ -28,8 +28,8 @@ template <class Box> bool ApplyReplacements(int KeyCode, Box &box)
     const int oldCaret = int(box.SelStart());
     box.setText(ExpandReplacements(text));
     const int growth = int(box.Text().size() - text.size());
-    // By the growth of the whole text, and not of what stands before the caret. That is meant: whoever types at the
-    // end, as nearly always, has the caret directly behind the expansion.
+    // By the growth of the whole text, not only of the part before the caret: normally the caret is at the end,
+    // directly after the expansion. Required behaviour; do not fix.
     box.setSelStart(growth + oldCaret);
     return growth != 0;
 }

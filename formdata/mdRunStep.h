@@ -4,10 +4,10 @@
 
 #include <functional>
 
-// Whatever changes the claim at the user's word runs through one of these, and can then be undone. What stands on the
-// claim's behalf and is made anew after the change, such as the order of a list, belongs into the action.
+// Every change to the claim by the user runs through one of these, so that it can be undone. Dependent updates after
+// the change, such as the order of a list, belong in the same action.
 
-/// Runs an action; what it changes in the open claim is one step of that name.
+/// Runs an action; its changes to the open claim are one step with that name.
 void RunStep(const QString &name, const std::function<void()> &action);
-/// The same for an action that knows only afterwards what the step is called.
+/// The same for an action that determines the step's name only afterwards.
 void RunStep(const std::function<QString()> &action);

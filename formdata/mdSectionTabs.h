@@ -2,11 +2,11 @@
 
 #include <QStringList>
 
-/// The texts of the first row of tabs, in order. A text is caption and tag at once.
+/// The texts of the first row of tabs, in order. A text is both caption and tag.
 QStringList mdSectionTabs();
 
 /// The texts of the second row under a tab of the first, counted from 1, for a form type; empty for any other type.
-/// Each text selects a screen: they are identifiers.
+/// Each text is the identifier of a screen.
 QStringList mdSubSectionTabs(int sectionTab, const QString &formType);
 
 /// The text behind or before a text of the second rows, in the order of all these rows; empty at either end, and for a

@@ -33,7 +33,7 @@ char16_t unitOf(char c)
     return uchar(c);
 }
 
-/// The byte that one or two hexadecimal digits stand for; 0 when they are not wholly hexadecimal, or missing.
+/// The byte of one or two hexadecimal digits; 0 if they are missing or not all hexadecimal.
 template <class Character> uchar byteOf(const Character *digits, const Character *end)
 {
     int value = 0;

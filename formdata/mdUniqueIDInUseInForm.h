@@ -4,7 +4,7 @@
 
 class clsZR3Form;
 
-/// True when an identity stands in the claim a second time beside its owner's own element, so that its owner can't be
-/// deleted. It looks at the claim's text and not at its objects: thus it covers every field that holds references, and
-/// an identity that was left in a field not in use still counts, deliberately.
+/// True if an identity occurs in the claim in addition to its owner's own element, so that the owner can't be deleted.
+/// Searches the claim's text instead of its objects: this covers every field with references, and deliberately also an
+/// identity left in an unused field.
 bool UniqueIDInUseInForm(const clsZR3Form &form, const QString &uniqueID);

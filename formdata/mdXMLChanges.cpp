@@ -2,7 +2,7 @@
 
 namespace {
 
-// A record knows its element and not the claim that this is in, whose changes are counted.
+// A record has no access to its claim, so changes are counted for the whole program.
 quint64 changes = 0;
 quint64 changesAtHandOut = 0;
 

@@ -2,17 +2,17 @@
 
 #include <QtGlobal>
 
-/// Counts the changes to the elements of all records: what was found out about a claim holds for as long as the count
-/// is the same. Elements that were handed out can be changed uncounted.
+/// Counts the changes to the elements of all records: cached results about a claim are valid while the count is the
+/// same. Changes through elements that were handed out are not counted.
 namespace XMLChanges {
 
-/// One more; returns the count.
+/// Adds one and returns the count.
 quint64 note();
 quint64 count();
 
-/// An element is handed out. It counts as a change.
+/// Records that an element was handed out; counts as a change.
 void noteHandOut();
-/// The count when that was last done, 0 for never.
+/// The count at the last time an element was handed out, 0 for never.
 quint64 lastHandOut();
 
 } // namespace XMLChanges

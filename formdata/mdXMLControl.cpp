@@ -12,30 +12,30 @@
 
 namespace {
 
-// A claim is four levels deep. The bound keeps whatever walks a tree safe from a file made to exhaust it, and leaves
-// later versions all the room that they could want.
+// A claim is four levels deep. The limit protects recursive code from a malicious file, and leaves ample room for later
+// versions.
 constexpr int DeepestNesting = 1000;
 
-// Tags of a text. A bill of a hundred thousand items has fewer; rubbish that happens to parse would fill the memory.
+// Tags of a text. A bill of a hundred thousand items has fewer; garbage that happens to parse would exhaust the memory.
 constexpr qsizetype MostTags = 4'000'000;
 
-// Items of all lists together, which lie two levels below the root; the few hundred fields of the sections lie there
-// too. Each item gets all the elements of its template and an object: an empty one of four bytes becomes two thousand.
-// So many of the longest kind have fewer tags than a text may have: what was opened can be opened again after a save.
+// Items of all lists together, two levels below the root; this includes the few hundred fields of the sections. Each
+// item gets an object and all the elements of its template: an empty one of four bytes grows to two thousand. This many
+// of the largest items have fewer tags than the limit for a text, so a file that was opened can be opened again after a
+// save.
 constexpr int ItemLevel = 2;
 constexpr int MostItems = 100'000;
 
-// White space between elements carries no meaning and is dropped; comments and instructions are kept, since nothing
-// that the program does not know may be lost by a load and a save. As a fragment, so that text beside the root is seen.
-// The text that an element begins with is the element's own value and no node beside it: half of all nodes would be
-// such.
+// White space between elements has no meaning and is dropped; comments and instructions are kept, so that loading and
+// saving loses nothing unknown. Parsed as a fragment, to detect text beside the root. The text at the start of an
+// element is stored as the element's value instead of a child node, which saves half of all nodes.
 constexpr unsigned ParseOptions
     = pugi::parse_default | pugi::parse_comments | pugi::parse_pi | pugi::parse_fragment | pugi::parse_embed_pcdata;
 
 constexpr unsigned OutputFormat = pugi::format_raw | pugi::format_no_declaration;
 
-/// True when something but comments and instructions stands beside the root: the text is then no XML document, and a
-/// save, which writes the root only, would lose the rest.
+/// True if there is anything but comments and instructions beside the root: the text is then not an XML document, and a
+/// save, which writes only the root, would lose the rest.
 bool hasContentBesideRoot(const pugi::xml_document &document, pugi::xml_node root)
 {
     for (const pugi::xml_node node : document.children())
@@ -48,14 +48,14 @@ bool hasContentBesideRoot(const pugi::xml_document &document, pugi::xml_node roo
 
 bool isBlank(const char *text)
 {
-    // Hardly any text begins with a blank, and all of a claim's are asked.
+    // Called for all texts of a claim, hardly any of which starts with a blank.
     return static_cast<unsigned char>(*text) <= ' ' && text[std::strspn(text, " \t\r\n")] == '\0';
 }
 
-/// True for a text of nothing but blanks, be it a node or the value of an element.
+/// True for a text of only blanks, in a node or as the value of an element.
 bool isBlankText(const pugi::xml_node &node)
 {
-    static const char *const None = pugi::xml_node().value(); // what the library gives for no value at all
+    static const char *const None = pugi::xml_node().value(); // the library's result for no value
     const char *text = node.value();
     if (text == None || !isBlank(text))
         return false;
@@ -70,7 +70,7 @@ void removeText(const pugi::xml_node &node)
         node.text().set("");
 }
 
-/// Walks a tree that is neither too deep nor too large, and finds the texts of nothing but blanks.
+/// Checks that a tree is neither too deep nor too large, and collects the texts of only blanks.
 class TreeCheck final : public pugi::xml_tree_walker {
 public:
     std::vector<pugi::xml_node> blanks;
@@ -86,7 +86,7 @@ private:
     int m_items = 0;
 };
 
-/// Takes the serialisation piece by piece, so that it never stands in the memory twice.
+/// Receives the serialisation in pieces, so that it is never in memory twice.
 class TextWriter final : public pugi::xml_writer {
 public:
     QString text;
@@ -100,8 +100,8 @@ public:
         m_bytes += piece.size();
         m_hasReturn = m_hasReturn || piece.contains('\r');
     }
-    /// True when the text needs no reference: what this program writes is plain ASCII, which alone has as many
-    /// characters as bytes.
+    /// True if the text needs no references: the program's own output is plain ASCII, which has as many characters as
+    /// bytes.
     bool isPlain() const { return text.size() == m_bytes && !m_hasReturn; }
 
 private:
@@ -110,7 +110,7 @@ private:
     bool m_hasReturn = false;
 };
 
-/// Compares the serialisation with a text, piece by piece, for as long as it is plain.
+/// Compares the serialisation with a text, in pieces, while it is plain.
 class TextComparison final : public pugi::xml_writer {
 public:
     explicit TextComparison(QStringView text)
@@ -126,7 +126,7 @@ public:
         m_left = m_same ? m_left.sliced(piece.size()) : QStringView();
     }
     bool isSame() const { return m_same && m_left.isEmpty(); }
-    /// False when the serialisation holds what is written otherwise than it stands in the tree.
+    /// False if the serialisation has characters that are written differently from the tree.
     bool isPlain() const { return m_plain; }
 
 private:
@@ -135,16 +135,16 @@ private:
     bool m_plain = true;
 };
 
-/// True for a character that the file can't hold as itself: one outside its code page, and a carriage return, which
-/// every parser reads as a line feed. This program writes neither, but another hand may have, as a reference.
+/// True for a character that the file can't contain directly: one outside its code page, or a carriage return, which
+/// every parser reads as a line feed. This program writes neither, but other programs may, as references.
 bool needsReference(QChar c)
 {
     const char16_t code = c.unicode();
     return code == u'\r' || ((code > 0xFF || (code >= 0x80 && code < 0xA0)) && !mdInCodePage(c));
 }
 
-/// Where the piece of a text ends in which no reference is one: a comment, an instruction or raw characters. 0 where no
-/// such piece begins.
+/// The end of a piece in which references don't apply: a comment, an instruction or raw characters. 0 if there is none
+/// at the start.
 qsizetype sizeOfRawPiece(QStringView text)
 {
     constexpr std::pair<QLatin1String, QLatin1String> Pieces[] = {
@@ -158,7 +158,7 @@ qsizetype sizeOfRawPiece(QStringView text)
     return 0;
 }
 
-/// The text with those characters as references again.
+/// The text with these characters as references again.
 QString withReferences(const QString &text)
 {
     QString written;
@@ -179,7 +179,7 @@ QString withReferences(const QString &text)
     return written;
 }
 
-/// A text too short for so many of the shortest tags need not be counted through.
+/// A text too short for that many of the shortest tags need not be counted.
 bool hasTooManyTags(const QByteArray &text)
 {
     constexpr qsizetype ShortestTag = 3;
@@ -198,7 +198,7 @@ QString XMLDecodeText(const char *content)
     bool isEncoded = false;
     const char *end = content;
     for (; *end; ++end) {
-        if (uchar(*end) >= 0x80) // as only another hand can have written it
+        if (uchar(*end) >= 0x80) // written by another program
             return URLDecode(QString::fromUtf8(content));
         isEncoded = isEncoded || *end == '%' || *end == '+';
     }
@@ -213,7 +213,7 @@ void XMLSetContent(pugi::xml_node element, const char *content)
         return;
     }
     element.remove_children();
-    if (*element.child_value()) // the text that it began with is no child
+    if (*element.child_value()) // the text at its start is not a child
         element.text().set("");
 }
 
@@ -224,7 +224,7 @@ clsXMLElement XMLLoadElement(const QString &xml, const char *name)
 
 clsXMLElement XMLLoadElement(QByteArray utf8, const char *name)
 {
-    // The parser would take a zero for the end.
+    // The parser would take a zero as the end.
     if (utf8.contains('\0') || hasTooManyTags(utf8))
         return {};
     auto document = std::make_shared<clsXMLDocument>();
@@ -237,8 +237,8 @@ clsXMLElement XMLLoadElement(QByteArray utf8, const char *name)
     TreeCheck check;
     if (std::strcmp(root.name(), name) != 0 || hasContentBesideRoot(tree, root) || !tree.traverse(check))
         return {};
-    // The parser has dropped blanks between tags already, but not those written as references: a save writes them as
-    // blanks, and they would be gone only when that is read.
+    // The parser has already dropped blanks between tags, but not those written as references: a save would write these
+    // as blanks, and the next load would drop them.
     for (const pugi::xml_node &blank : check.blanks)
         removeText(blank);
     return {std::move(document), root};

@@ -7,13 +7,13 @@
 
 #include <memory>
 
-/// A tree and the text that it was made of: the names and values that are as they were read still stand there.
+/// A tree and its source text, which still contains the unchanged names and values.
 struct clsXMLDocument {
     QByteArray text;
     pugi::xml_document tree;
 };
 
-/// An element and the document in which it lives; the element is good for as long as this is.
+/// An element with its document; the element is valid while this exists.
 class clsXMLElement {
 public:
     clsXMLElement() = default;
@@ -31,23 +31,23 @@ private:
     pugi::xml_node m_node;
 };
 
-/// A text as it stands in an element: problem characters replaced, then encoded. Every write goes through here.
+/// Converts a text for an element: replaces problem characters, then encodes. Every write uses it.
 QByteArray XMLEncodeText(const QString &text);
 
-/// The text of an element's content (UTF-8). Every read goes through here.
+/// The text of an element's content (UTF-8). Every read uses it.
 QString XMLDecodeText(const char *content);
 
-/// Gives an element a content; an empty one leaves nothing in it.
+/// Sets the content of an element; an empty one leaves nothing in it.
 void XMLSetContent(pugi::xml_node element, const char *content);
 
-/// Parses a text and returns its root element, or nothing when the text is not XML, its root has another name, or it
-/// is nested so deeply, or holds so many items, that no program of this house can have written it.
+/// Parses a text and returns its root element, or nothing if the text is not XML, its root has another name, or it is
+/// nested too deeply or has too many items to come from this program.
 clsXMLElement XMLLoadElement(const QString &xml, const char *name);
-/// The same from UTF-8, which the element keeps.
+/// The same from UTF-8; the element keeps the bytes.
 clsXMLElement XMLLoadElement(QByteArray utf8, const char *name);
 
-/// The serialisation of an element with its descendants, on one line: the same tree gives the same text, which is
-/// what tells a changed claim from an unchanged one. What the code page of a file lacks stands in it as a reference.
+/// The serialisation of an element with its descendants, on one line: the same tree always has the same text, which
+/// is used to detect changes. Characters outside the file's code page are written as references.
 QString XMLElementOutput(pugi::xml_node node);
-/// True when the serialisation is that text; nothing is kept of it.
+/// True if the serialisation equals that text; doesn't build it.
 bool XMLElementOutputIs(pugi::xml_node node, const QString &text);

@@ -16,8 +16,8 @@ void GenerateNodes(pugi::xml_node node, pugi::xml_node templateRoot)
 {
     if (!node)
         return;
-    // Most elements are complete and in the template's order: then each child is found where the last one ended,
-    // and only a child out of its place costs a search.
+    // Most elements are complete and in the template's order: then each child follows the previous one, and only a
+    // child out of order needs a search.
     pugi::xml_node expected = node.first_child();
     for (const pugi::xml_node wanted : templateRoot.children()) {
         if (wanted.type() != pugi::node_element)

@@ -8,7 +8,7 @@
 
 pugi::xml_node mdXMLTemplate(const char *resourceName)
 {
-    // Templates never change: each is parsed once in the life of the program, and not for every record.
+    // Templates never change, so each is parsed once and not for every record.
     static std::map<std::string_view, pugi::xml_document, std::less<>> templates;
     const auto known = templates.find(std::string_view(resourceName));
     if (known != templates.end())
@@ -16,7 +16,7 @@ pugi::xml_node mdXMLTemplate(const char *resourceName)
 
     const QByteArray text = GetResourceData(QString::fromLatin1(resourceName), QStringLiteral("VELMORZR3XML")).toUtf8();
     pugi::xml_document document;
-    // Its copies are to be as the rest of a claim, where a text is the value of its element.
+    // Parsed with the same options as a claim, because its copies become part of one.
     if (!document.load_buffer(text.constData(), size_t(text.size()), pugi::parse_default | pugi::parse_embed_pcdata))
         throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
     return templates.emplace(resourceName, std::move(document)).first->second.document_element();

@@ -9,7 +9,7 @@
 namespace {
 
 constexpr int MostKilobytes = 96 * 1024;
-// A text of the form may send the reader to another page, or tell of one.
+// Skips references to other pages in the form's text.
 constexpr char PageName[] = R"((?<!See )\bPage\s+(\d++)(?:\s*(\(\d+\)))?+(?! is ))";
 
 } // namespace
@@ -34,7 +34,7 @@ QImage clsPdfPages::Picture(int page, const QSize &dots)
     const auto key = std::pair(page, quint64(dots.width()) << 32 | quint64(dots.height()));
     if (const QImage *kept = m_pictures.object(key))
         return *kept;
-    // The toolkit leaves what the page does not paint transparent.
+    // The toolkit leaves unpainted parts of the page transparent.
     QImage picture(dots, QImage::Format_RGB32);
     picture.fill(Qt::white);
     const QImage drawn = m_document.render(page, dots);

@@ -6,22 +6,22 @@
 #include <QImage>
 #include <QPdfDocument>
 
-/// The pages of a PDF document, held in memory and drawn as they are asked for: only those that are looked at.
+/// The pages of a PDF document, held in memory. Only the pages in view are drawn.
 class clsPdfPages {
 public:
-    /// Of a screen on which a page is as large as on paper.
+    /// For a screen on which a page has its paper size.
     static constexpr double DotsPerPoint = 96.0 / 72;
 
-    /// The bytes of the document; without pages where they are none.
+    /// `pdf` is the document; no pages if it is not a PDF.
     explicit clsPdfPages(const QByteArray &pdf);
 
     int Count() const { return m_count; }
     QByteArray Bytes() const { return m_bytes.data(); }
-    /// The size of a page, from 0, on a screen of 96 dots an inch.
+    /// The size of a page, counted from 0, on a screen of 96 dots per inch.
     QSizeF Size(int page) const;
-    /// The page as a picture of so many dots. A few pictures are kept.
+    /// The page as a picture of that size in dots. A few pictures are cached.
     QImage Picture(int page, const QSize &dots);
-    /// What the page calls itself, such as "Page 6 (1)"; "Paper page 7" where it bears no name.
+    /// The page's printed name, such as "Page 6 (1)"; "Paper page 7" if it has none.
     QString Caption(int page);
 
 private:

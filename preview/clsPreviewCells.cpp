@@ -12,7 +12,7 @@ void clsPreviewCells::RemoveAll()
 
 void clsPreviewCells::AddColumn(const QString &key, int width, int share)
 {
-    // The cells of a row stand side by side: a column more would part them.
+    // The cells of a row are contiguous, so a column can't be added later.
     if (!m_cells.empty())
         throw clsRunTimeError(clsRunTimeError::InvalidProcedureCall);
     m_columns.push_back({key, width, share});
@@ -34,7 +34,7 @@ void clsPreviewCells::ExpectRows(int count)
 void clsPreviewCells::SetCell(int row, int column, clsPreviewCell cell)
 {
     clsRow &place = rowAt(row);
-    static_cast<void>(columnAt(column)); // refuses a column that is not there
+    static_cast<void>(columnAt(column)); // checks that the column exists
     if (place.firstCell == Nothing) {
         place.firstCell = int(m_cells.size());
         m_cells.resize(m_cells.size() + m_columns.size());

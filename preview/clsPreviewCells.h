@@ -8,15 +8,15 @@
 #include <utility>
 #include <vector>
 
-/// What a row is among the others: it decides which lines are drawn around it, and nothing else.
+/// The type of a row, which only decides the lines drawn around it.
 enum class clsPreviewRowLook : unsigned char {
     Ordinary,
-    Joined, ///< a band whose cells meet without a gap, so that a word can be written across two of them
-    Captions, ///< stays in view while the rows below it scroll; a line stands under it
-    Totals, ///< a line stands above it
+    Joined, ///< a band of cells without gaps, so that a word can be written across two of them
+    Captions, ///< stays in view while the rows below scroll; with a line below
+    Totals, ///< with a line above
 };
 
-/// What a row's figures are of.
+/// What the figures of a row refer to.
 struct clsPreviewOrigin {
     enum clsKind : unsigned char { Nothing, ScheduleItem, ScheduleTotal };
 
@@ -35,22 +35,22 @@ struct clsPreviewCell {
     bool wraps() const { return mdGridWraps(alignment); }
 };
 
-/// The cells of the preview grid, counted from 1. They stand in one block, and a row to which nothing was ever written
-/// has none: half the rows of a schedule are such spacers. A place outside the grid is the subscript error.
+/// The cells of the preview grid, counted from 1. They are stored in one block; a row that was never written to has
+/// none, like the spacers that make up half the rows of a schedule. A position outside the grid is the subscript error.
 class clsPreviewCells {
 public:
     int Rows() const { return int(m_rows.size()); }
     int Columns() const { return int(m_columns.size()); }
 
     void RemoveAll();
-    /// The share, in hundredths, is that of the sheet; 0 for a column whose width is fixed.
+    /// `share` is the column's share of the sheet's width, in hundredths; 0 for a fixed width.
     void AddColumn(const QString &key, int width, int share = 0);
     void setColumnWidth(int column, int width) { const_cast<clsColumn &>(columnAt(column)).width = width; }
     void AddRow(int height);
-    /// Makes room for so many rows more, each with a spacer.
+    /// Reserves space for that many more rows, each with a spacer.
     void ExpectRows(int count);
     void SetCell(int row, int column, clsPreviewCell cell);
-    /// Says of a cell with a figure that can't be computed why it can't.
+    /// Sets the reason why a cell's figure can't be computed.
     void SetWhyNot(int row, int column, const QString &whyNot) { m_whyNot[{row, column}] = whyNot; }
     void setRowHeight(int row, int height) { rowAt(row).height = height; }
     void setRowLook(int row, clsPreviewRowLook look) { rowAt(row).look = look; }
@@ -62,13 +62,13 @@ public:
     int RowHeight(int row) const { return rowAt(row).height; }
     clsPreviewRowLook RowLook(int row) const { return rowAt(row).look; }
     clsPreviewOrigin Origin(int row) const { return rowAt(row).origin; }
-    /// True for a row to which nothing was written, not even an empty text.
+    /// True for a row that was never written to, not even with an empty text.
     bool IsSpacer(int row) const { return rowAt(row).firstCell == Nothing; }
     /// True for a row with a cell that may take more than one line.
     bool Wraps(int row) const { return rowAt(row).wraps; }
-    /// The cell, an empty one where nothing was written.
+    /// The cell; an empty one if it was never written.
     const clsPreviewCell &Cell(int row, int column) const;
-    /// Why the cell's figure can't be computed; empty for all other cells.
+    /// The reason why the cell's figure can't be computed; empty for all other cells.
     QString WhyNot(int row, int column) const;
 
 private:

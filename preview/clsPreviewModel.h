@@ -6,8 +6,8 @@
 #include <QColor>
 #include <QMap>
 
-/// Gives the cells of the preview to the grid and to whoever reads it aloud. It is read-only from outside: the grid
-/// changes the cells between `beginChange` and `endChange`, which tell the views that everything is new.
+/// Provides the cells of the preview to the grid and to screen readers. Read-only from outside: the grid changes the
+/// cells between `beginChange` and `endChange`, which make the views reload.
 class clsPreviewModel : public QAbstractTableModel {
     Q_OBJECT
 
@@ -15,7 +15,7 @@ public:
     using QAbstractTableModel::QAbstractTableModel;
 
     clsPreviewCells cells;
-    QMap<int, QColor> columnBacks; ///< by column, from 1; white for those that are not here
+    QMap<int, QColor> columnBacks; ///< by column, from 1; columns not listed are white
 
     void beginChange() { beginResetModel(); }
     void endChange() { endResetModel(); }

@@ -14,18 +14,18 @@
 
 namespace {
 
-// At a desktop font of this size; everything grows with it.
+// For a desktop font of this size; scales with it.
 constexpr double OrdinaryPoints = 10;
 constexpr int Gap = 5;
 constexpr int Padding = 6;
 constexpr int NumbersColumn = 1;
-/// What is too wide for its column is written smaller before any of it is lost, down to this part of its size.
+/// Text too wide for its column is drawn smaller, down to this part of its size, before it is cut off.
 constexpr double SmallestPart = 0.5;
 constexpr double FontStep = 0.5;
-/// What is left on either side of a text that fills its column, so that two of them don't run into each other.
+/// The space kept on either side of a text that fills its column, so that neighbouring texts don't touch.
 constexpr int LeastPadding = 2;
 
-/// The texts of a claim have the line ends of its file; the layout knows one sign for all of them.
+/// The texts of a claim have the line ends of its file; the layout requires its own separator.
 QString laidOut(QString text)
 {
     text.replace(QLatin1String("\r\n"), QString(QChar::LineSeparator));
@@ -44,7 +44,7 @@ Qt::Alignment across(clsGridAlignment alignment)
     return mdGridAlignment(alignment) & Qt::AlignHorizontal_Mask;
 }
 
-/// The width of what can't be broken: the text, or the longest word of one that wraps between words.
+/// The width of the part that can't be broken: the text or, if it wraps between words, the longest word.
 int unbrokenWidth(const clsPreviewCell &cell, const QFont &font)
 {
     const QFontMetrics metrics(font);
@@ -56,11 +56,12 @@ int unbrokenWidth(const clsPreviewCell &cell, const QFont &font)
     return widest;
 }
 
-/// Breaks a text into lines of a width; measuring and drawing go through here, so that they agree.
+/// Breaks a text into lines of a width; used for both measuring and drawing, so that they agree.
 double layOut(QTextLayout &layout, int width, Qt::Alignment alignment)
 {
     QTextOption option(alignment);
-    // Nothing of a word without blanks is lost in a note; a caption is a word or two that are never broken.
+    // In notes even a word without blanks is broken, so that nothing is cut off; the one or two words of a caption are
+    // never broken.
     option.setWrapMode(
         alignment == Qt::AlignHCenter ? QTextOption::WordWrap : QTextOption::WrapAtWordBoundaryOrAnywhere);
     layout.setTextOption(option);
@@ -135,7 +136,7 @@ clsPreviewPainter::clsPlaced clsPreviewPainter::place(int row, int column, const
     const QFont &own = font(cell.bold, cell.underline);
     const int advance = QFontMetrics(own).horizontalAdvance(cell.text);
     if (m_model.cells.RowLook(row) == clsPreviewRowLook::Joined) {
-        // Beyond its column, whose neighbour on that side is empty, so that the word is never broken.
+        // Extends into the neighbouring column, which is empty, so that the word is never broken.
         const int beyond = std::max(0, advance - rect.width());
         const bool right = across(cell.alignment) & Qt::AlignRight;
         return {rect.adjusted(right ? -beyond : 0, 0, right ? 0 : beyond, 0), true, own};
@@ -151,7 +152,7 @@ clsPreviewPainter::clsPlaced clsPreviewPainter::place(int row, int column, const
         return {padded, false, fittingFont(cell, padded.width())};
     if (cell.wraps())
         return {padded, false, own};
-    // A figure that fails to fit takes the padding too.
+    // A figure that doesn't fit uses the padding too.
     const QRect whole = rect.adjusted(LeastPadding, 0, -LeastPadding, 0);
     const QFont smaller = fittingFont(cell, whole.width());
     return {whole, oneLine && QFontMetrics(smaller).horizontalAdvance(cell.text) <= whole.width(), smaller};
@@ -178,7 +179,7 @@ void clsPreviewPainter::paintRow(QPainter &painter, int row, int top, const std:
     }
 }
 
-/// The mark reaches from line to line: over the row, and over half of the spacers around it.
+/// The mark covers the row and half of the spacers above and below.
 void clsPreviewPainter::paintMark(QPainter &painter, int row, const QRect &rect) const
 {
     constexpr int BarWidth = 3;
@@ -221,7 +222,7 @@ void clsPreviewPainter::paintCell(QPainter &painter, int row, int column, const 
         painter.setPen(Theme::Red);
     else
         painter.setPen(column == NumbersColumn && !cell.bold ? Theme::Ink2 : Theme::Ink);
-    // Captions stand in the middle of their row; the number of a tall note stands beside its first line.
+    // Captions are centred vertically in their row; the number of a tall note is aligned with its first line.
     const bool middle = alignment == Qt::AlignHCenter;
     if (!placed.fits && cell.wraps()) {
         QTextLayout layout(laidOut(cell.text), placed.font);

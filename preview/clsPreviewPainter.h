@@ -9,32 +9,32 @@
 
 class QPainter;
 
-/// Measures and draws the rows of the preview. Its fonts are made once and shared by all cells.
+/// Measures and draws the rows of the preview. Its fonts are created once and shared by all cells.
 class clsPreviewPainter {
 public:
     explicit clsPreviewPainter(const clsPreviewModel &model);
 
-    /// Makes the fonts anew, after the desktop's font has changed.
+    /// Updates the fonts after the desktop's font has changed.
     void takeFont();
 
     const QFont &font(bool bold, bool underline) const { return m_fonts[size_t(bold) + 2 * size_t(underline)]; }
     int itemHeight() const { return m_lineHeight + m_gap; }
     int spacerHeight() const { return m_gap; }
-    /// The row under a tint, 0 for none.
+    /// The tinted row; 0 for none.
     int tintedRow() const { return m_tintedRow; }
     void setTintedRow(int row) { m_tintedRow = row; }
 
-    /// The height that a row needs: little for one without cells, else that of its tallest text.
+    /// The height that a row needs: small for one without cells, otherwise that of its tallest text.
     int heightOf(int row) const;
     /// Draws a row; `lefts` are the left edges of its columns and the right edge of the last.
     void paintRow(QPainter &painter, int row, int top, const std::vector<int> &lefts) const;
-    /// Marks a row from here on; 0 for none.
+    /// Marks a row; 0 for none.
     void setMarkedRow(int row) { m_marked = row; }
-    /// True when a cell's text is cut short for want of room.
+    /// True if a cell's text is elided for lack of room.
     bool isElided(int row, int column) const;
 
 private:
-    /// Where a cell's text goes, whether it fits there in one line, and the font that it is written in.
+    /// Where a cell's text is drawn, whether it fits there in one line, and its font.
     struct clsPlaced {
         QRect rect;
         bool fits;
@@ -45,7 +45,7 @@ private:
     void paintSpacer(QPainter &painter, int row, int top, const std::vector<int> &lefts) const;
     void paintCell(QPainter &painter, int row, int column, const QRect &rect) const;
     int wrappedHeight(const clsPreviewCell &cell, const clsPlaced &placed) const;
-    /// The cell's font, so much smaller that what can't be broken has room.
+    /// The cell's font, reduced until its unbreakable text fits.
     QFont fittingFont(const clsPreviewCell &cell, int room) const;
 
     const clsPreviewModel &m_model;

@@ -33,7 +33,8 @@ void mdExportPreviewAdditionalInformationDraw(const clsZR3Form &form)
 void mdExportPreviewAdditionalInformationItemDraw(const clsZR3ScheduleOfTimeItem &item)
 {
     mdExportPreviewAddRow(true);
-    // The place in the order and not the number on the schedule, which differs once items are left out: it is meant.
+    // The position in the order, not the number on the schedule, which differs if items are left out. Required
+    // behaviour; do not fix.
     mdExportPreviewSetText(NumberColumn, QString::number(item.OrderID()), clsGridAlignment::Right, true);
     mdExportPreviewSetText(TextColumn, item.Description(), clsGridAlignment::LeftWrapped, true);
 }

@@ -21,15 +21,15 @@ constexpr int ClaimColumn = 13;
 struct clsScheduleColumn {
     int share;
     const char *caption;
-    QString (*cell)(const Item &item, const Price &price); ///< none where the column shows an amount
+    QString (*cell)(const Item &item, const Price &price); ///< null for columns that show an amount
     Alignment alignment;
-    int (*error)(const Item &item, const Price &price) = nullptr; ///< the number of the error of the cell's figure
+    int (*error)(const Item &item, const Price &price) = nullptr; ///< the number of the error in the cell's figure
     Money Price::*amount = nullptr;
 };
 
 QString dateOf(const Item &item)
 {
-    // No date is not shown at all here, not even as the dash that it is elsewhere.
+    // "No date" is empty here, while elsewhere it is shown as a dash. Required behaviour.
     const QString date = item.dDate();
     return date == NoDate ? QString() : date;
 }
@@ -40,7 +40,7 @@ QString percentageOf(const Price &price)
     return percentage == Money() ? QString() : MoneyToText(percentage);
 }
 
-/// An item of which it isn't known whether it stands on the bill has no number.
+/// If it is unclear whether an item is on the bill, it has no number.
 int errorOfNumber(const Item &item, const Price &)
 {
     return item.SOTItemNumber == 0 ? clsRunTimeError::TypeMismatch : 0;
@@ -56,7 +56,7 @@ template <int Column> QString timeIn(const Item &item, const Price &price)
     return price.TimeColumn == Column ? item.TTime() : QString();
 }
 
-/// A time of which it isn't known in which column it stands is marked in the first.
+/// If it is unclear which column a time belongs to, the error is shown in the first.
 template <int Column> int errorOfTime(const Item &, const Price &price)
 {
     if (const int error = price.errorOf(Price::ColumnFigure))
@@ -85,7 +85,7 @@ const clsScheduleColumn Columns[] = {
 };
 // clang-format on
 
-/// Draws the figures of an item that fail, each with its own reason.
+/// Draws the failed figures of an item, each with its reason.
 void drawFailures(const Item &item, const Price &price, const clsZR3Form &form)
 {
     clsFigureFaults faults;
@@ -106,7 +106,7 @@ clsPreviewOrigin originOf(const Item &item)
     try {
         return {clsPreviewOrigin::ScheduleItem, item.OrderID()};
     } catch (const clsRunTimeError &) {
-        return {}; // an order that can't be read must not keep its row from being drawn
+        return {}; // an unreadable order must not keep its row from being drawn
     }
 }
 
@@ -124,7 +124,7 @@ template <class Value, class Draw> void drawTotal(int column, const clsFigure<Va
         draw(column, figure.value);
 }
 
-/// The items of a bill lie anywhere in the memory: those that follow are sent for, step by step, while one is drawn.
+/// The items of a bill are scattered in memory: prefetches the next ones, step by step, while one is drawn.
 void fetchAhead(const clsZR3Form &form, size_t place, const clsSchedulePrices &prices)
 {
     constexpr size_t OfItem = 6;
@@ -163,7 +163,7 @@ void mdExportPreviewScheduleOfTimeInit()
     for (const clsScheduleColumn &column : Columns)
         mdExportPreviewAddColumn(column.share);
 
-    // No column is wide enough for "Preparation": it is written across the line between the two that it stands over.
+    // No column is wide enough for "Preparation": it is written across the border of the two columns below it.
     mdExportPreviewAddRow(false);
     setLookOfLastRow(clsPreviewRowLook::Joined);
     mdExportPreviewSetText(FirstTimeColumn, QStringLiteral("Prepa"), Alignment::Right, true);

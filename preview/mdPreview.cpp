@@ -33,8 +33,8 @@ const clsPreviewRoutines Routines[] = {
 };
 // clang-format on
 
-/// What had the focus before the menu bar took it, or else the first control behind the bar. The bar itself would keep
-/// a focus that it is given back, and have nobody to hand it on to.
+/// The focus before the menu bar took it, otherwise the first control after the bar. If the focus were restored to the
+/// bar, it would stay there.
 QWidget *focusOf(const QWidget &window)
 {
     auto *bar = qobject_cast<QMenuBar *>(window.focusWidget());
@@ -50,8 +50,8 @@ QWidget *focusOf(const QWidget &window)
     return next;
 }
 
-/// The grid's window is disabled while this lives. An end before the drawing's own end, by an error, leaves no half of
-/// a bill behind, and painting switched on.
+/// Disables the grid's window while this lives. If an error interrupts the drawing, empties the grid and switches
+/// painting on again.
 class clsDrawing {
 public:
     explicit clsDrawing(oPreviewGrid &grid)
@@ -70,7 +70,7 @@ public:
             mdClearProgress();
         }
         m_window->setEnabled(true);
-        if (m_focus) // disabling took it away
+        if (m_focus) // disabling removed it
             m_focus->setFocus();
         m_grid.setDrawing(false);
     }
@@ -83,7 +83,7 @@ private:
     QPointer<QWidget> m_focus;
 };
 
-/// The progress bar may let events through.
+/// The progress bar may process events.
 bool isDrawing()
 {
     return PreviewGrid && PreviewGrid->IsDrawing();
@@ -99,8 +99,8 @@ clsZR3Form &form()
 void redraw(clsPreviewKind kind)
 {
     const clsDrawing drawing(mdExportPreviewGrid());
-    // The lists are drawn as they were last made: by the load, the actions of the schedule's screen, or an export. A
-    // change of a property, such as the form type, does not make them anew. That is meant.
+    // Draws the lists as last built: by loading, the actions of the schedule's screen, or an export. A changed
+    // property, such as the form type, doesn't rebuild them. Required behaviour; do not fix.
     for (const clsPreviewRoutines &routines : Routines)
         if (routines.kind == kind) {
             routines.init();
@@ -134,13 +134,13 @@ void mdRedrawPreview(clsPreviewKind kind)
     const int last = grid.LastRowInView();
     const int hidden = first >= 1 ? grid.HiddenAbove(first) : 0;
     redraw(kind);
-    // In this order, the second step scrolls the first row up to where it was.
+    // In this order, the second step scrolls the first row back to its position.
     if (first >= 1 && first <= grid.Rows())
         grid.BringIntoView(first, 1);
     if (last < 1 || last > grid.Rows())
         return;
     grid.BringIntoView(last, 1);
-    // The first row was hardly ever at its very top: without this the bill would creep at each refresh.
+    // The first row is rarely scrolled exactly to its top: without this the preview would creep at each refresh.
     grid.SetHiddenAbove(first, hidden);
     if (grid.LastRowInView() < last)
         grid.BringIntoView(last, 1);

@@ -2,18 +2,18 @@
 
 #include "preview/mdPreviewTypes.h"
 
-/// Draws a preview of the claim anew, from the top of the grid. The grid's window is disabled meanwhile. An error in
-/// the claim leaves the grid painting and the window enabled, and goes on to the caller.
+/// Redraws a preview of the claim from the top of the grid. The window is disabled meanwhile. An error in the claim is
+/// passed on to the caller, with the grid painting and the window enabled again.
 void mdDrawPreview(clsPreviewKind kind);
 
-/// The automatic refresh: where the preferences ask for it, the same at the place to which the user had scrolled.
+/// The automatic refresh: if it is on in the preferences, redraws the preview at its scroll position.
 void mdRefreshPreview(clsPreviewKind kind);
 
-/// Fits what is drawn to another width of the grid, without drawing it anew. The row at the top stays.
+/// Fits the present rows to another width of the grid, without redrawing the preview. The row at the top stays there.
 void mdFitPreview();
 
-/// The same whatever the preferences say, for a command that goes back or forth in the claim.
+/// The same regardless of the preferences, for undo and redo.
 void mdRedrawPreview(clsPreviewKind kind);
 
-/// Empties the grid, for a claim that is no more.
+/// Empties the grid after its claim was closed.
 void mdClearPreview();

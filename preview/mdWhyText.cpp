@@ -7,7 +7,8 @@
 
 namespace {
 
-/// So many buttons the sheet has room for. Of more places there is one for each screen, and the steps lead to the rest.
+/// The number of buttons that fit on the sheet. If there are more places there is one for each screen, and the steps
+/// lead to the rest.
 constexpr size_t MostPlaces = 6;
 
 struct clsListRow {
@@ -24,7 +25,7 @@ constexpr clsListRow Lists[] = {
     {"fas", "FAS item %1"},
 };
 
-/// A list of which no item is named leads no further than its screen.
+/// A list without an item leads only to its screen.
 bool isSame(const clsWhySource &left, const clsWhySource &right)
 {
     return left.Screen == right.Screen && left.Item == right.Item && left.Property == right.Property

@@ -4,8 +4,8 @@
 
 class clsZR3Form;
 
-/// What the sheet says of a figure of the claim; `about` names what it is a figure of.
+/// The sheet's text about a figure of the claim; `about` names the item or place of the figure.
 clsWhyText mdWhyText(const clsZR3Form &form, const clsWhy &why, const QString &about);
 
-/// What an item, or the screen where there is none, is called on the sheet.
+/// The name of an item on the sheet, or of its screen if there is no item.
 QString mdSourceInWords(const clsZR3Form &form, const clsWhySource &source);

@@ -43,7 +43,7 @@ QLabel *label(QWidget *parent, const char *name, const QColor &ink)
     return made;
 }
 
-/// A line that gives way: what has no room is elided, and whole in the tooltip.
+/// A label that can shrink: elides its text and shows the whole of it in the tooltip.
 class clsElidedLabel final : public QLabel {
 public:
     using QLabel::QLabel;
@@ -59,7 +59,7 @@ protected:
     }
 };
 
-/// What stands where there are no pages: the sign of a page above the words.
+/// The label shown if there are no pages: a page symbol above the text.
 class clsNothingLabel final : public QLabel {
 public:
     using QLabel::QLabel;
@@ -321,7 +321,7 @@ void oFormPages::ShowProgress(int value, int maximum, const QString &text)
     m_progressBar->setRange(0, maximum);
     m_progressBar->setValue(value);
     showState();
-    // At once: while the claim is exported, the window handles no events.
+    // Painted immediately: the window handles no events during an export.
     m_bar->repaint();
 }
 
@@ -363,7 +363,7 @@ void oFormPages::showState()
     m_view->setAccessibleDescription(state);
     lblNothing->setText(m_making ? m_progress : m_failure);
     lblNothing->setAccessibleName(lblNothing->text());
-    // A button that goes would hand the focus to the next one.
+    // Hiding a button with the focus would move the focus to the next one.
     const bool focusGoes = cmdCancel->hasFocus() ? !m_making : cmdRefresh->hasFocus() && m_making;
     if (focusGoes)
         TakeFocus();

@@ -14,8 +14,8 @@ class oCustomButton;
 class oPageThumbnails;
 class oPageView;
 
-/// The pages of the finished form, as they will be printed: a line that says what is shown, thumbnails, and the pages
-/// themselves. It shows what it is given and makes nothing: the old pages stay until it is given new ones.
+/// The pages of the finished form as they will be printed: a status line, thumbnails and the pages. Only displays
+/// pages: the old ones stay until new ones are set.
 class oFormPages : public QWidget {
     Q_OBJECT
 
@@ -23,25 +23,25 @@ public:
     explicit oFormPages(QWidget *parent = nullptr);
     ~oFormPages() override;
 
-    /// Shows the pages of a PDF document, made of the claim as it stood then. False where it has none.
+    /// Shows the pages of a PDF document made from the claim at that time. False if it has none.
     bool ShowPages(const QByteArray &pdf, const QDateTime &asOf);
-    /// There are no pages of this claim.
+    /// Removes the pages; there are none of this claim.
     void Clear();
     bool HasPages() const { return m_pages != nullptr; }
     int Pages() const;
-    /// The document that is shown; empty without one.
+    /// The document shown; empty if none.
     QByteArray Pdf() const;
 
-    /// The pages are the claim's as it stands at this time, or as it was.
+    /// Marks the pages as up to date at that time, or as old.
     void setAsOf(const QDateTime &asOf);
     void setOld(bool old);
-    /// Says how far the making of new pages has come, until it ends.
+    /// Shows the progress of making new pages, until EndProgress.
     void ShowProgress(int value, int maximum, const QString &text);
     void EndProgress();
-    /// Why there are no new pages; empty where there is nothing to say.
+    /// Why there are no new pages; empty for none.
     void ShowFailure(const QString &sentence);
 
-    /// Gives the focus to the pages, or to what stands in their place.
+    /// Moves the focus to the pages, or to the text shown in their place.
     void TakeFocus();
 
     oPageView *View() const { return m_view; }

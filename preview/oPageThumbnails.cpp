@@ -44,7 +44,7 @@ public:
 
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &) const override
     {
-        // As wide as the list: it is centred there.
+        // As wide as the list, in which it is centred.
         const auto *list = static_cast<const QAbstractItemView *>(option.widget);
         return {list ? list->viewport()->width() : Theme::scaled(PictureWidth),
             Theme::scaled(PictureHeight) + QFontMetrics(Theme::font(-1)).height() + Theme::Space24};

@@ -4,14 +4,14 @@
 
 class clsPdfPages;
 
-/// The pages of a document as small pictures with their names, to choose one. Pages are counted from 0.
+/// The pages of a document as small named pictures, for choosing one. Pages are counted from 0.
 class oPageThumbnails : public QListView {
     Q_OBJECT
 
 public:
     explicit oPageThumbnails(QWidget *parent = nullptr);
 
-    /// They must live as long as they are shown; null for none.
+    /// `pages` must live as long as they are shown; null for none.
     void setPages(clsPdfPages *pages);
     /// Marks a page without choosing it.
     void MarkPage(int page);

@@ -77,7 +77,7 @@ QRect oPageView::PlaceOfSign(int sign) const
     const double scale = m_scale * clsPdfPages::DotsPerPoint;
     const QRect page = placeOf(shown.page);
     const QSize size = mdPrintSignSize();
-    // Left of what it tells of, where the margin has room for it, else at the margin's middle.
+    // To the left of its text if the margin has room, otherwise in the middle of the margin.
     const int right = int(shown.left * scale) - Theme::Space4;
     const int left = shown.left > 0 ? std::max(0, right - size.width()) : Theme::Space8;
     return {QPoint(page.left() + left, page.top() + int(shown.middle * scale) - size.height() / 2), size};
@@ -145,7 +145,7 @@ bool oPageView::viewportEvent(QEvent *event)
 
 bool oPageView::focusNextPrevChild(bool next)
 {
-    // From box to box, beginning with the page in view; beyond the last one to the next control.
+    // Moves from box to box, starting with the page in view; after the last one to the next control.
     int box = m_marked + (next ? 1 : -1);
     if (m_marked < 0) {
         box = next ? 0 : -1;
@@ -182,7 +182,7 @@ void oPageView::FitWidth()
 
 void oPageView::takeZoom(double scale)
 {
-    // What is in the middle stays there.
+    // Keeps the position in the middle of the view.
     QScrollBar &bar = *verticalScrollBar();
     const int half = viewport()->height() / 2;
     const double part = m_tops.empty() || m_tops.back() == 0 ? 0 : double(bar.value() + half) / m_tops.back();
@@ -205,7 +205,7 @@ double oPageView::scaleThatFits() const
     double widest = 1;
     for (int i = 0; i < m_pages->Count(); ++i)
         widest = std::max(widest, m_pages->Size(i).width());
-    // Without the width that a scroll bar takes: it must not come and go with the pages that it changes.
+    // Less the width of a scroll bar, so that the bar can't appear and disappear with the size of the pages.
     const int room = width() - verticalScrollBar()->sizeHint().width() - 2 * Gap;
     return std::clamp(room / widest, SmallestZoom / 100.0, LargestFit);
 }
@@ -261,7 +261,7 @@ int oPageView::pageInView() const
     if (!m_pages)
         return -1;
     QScrollBar &bar = *verticalScrollBar();
-    // At either end it is the outermost page, however many are in view.
+    // At either end of the range it is the first or last page, however many are in view.
     if (bar.value() == 0)
         return 0;
     if (bar.value() == bar.maximum())
@@ -276,7 +276,7 @@ void oPageView::GoTo(int page)
     verticalScrollBar()->setValue(m_tops[size_t(page)] - Gap);
     if (m_current == page)
         return;
-    // A page near the end can't be scrolled to the top, and is the current one nevertheless.
+    // Current even if it is too near the end to be scrolled to the top.
     m_current = page;
     emit CurrentPageChanged();
 }

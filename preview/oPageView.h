@@ -10,54 +10,54 @@
 
 class clsPdfPages;
 
-/// A box of a page that leads to where it is filled in.
+/// A box of a page that leads to the screen where it is filled in.
 struct clsPageBox {
     int page; ///< from 0
     QRectF points; ///< from the corner of the paper
-    QString words; ///< what it does, for the tooltip and the screen reader
-    QString target; ///< for whoever opens it
+    QString words; ///< what a click does, for the tooltip and the screen reader
+    QString target; ///< for the slot that opens it
 };
 
 /// A sign in a page's margin.
 struct clsPageSign {
     int page; ///< from 0
-    double left; ///< points, of what it stands beside; 0 where nothing is known of that
+    double left; ///< points, of the text beside it; 0 if unknown
     double middle; ///< points, from the top of the paper
     clsPrintNote note;
 };
 
-/// The pages of a document one below the other, as a sheet of paper each. It draws those in view and no others, so that
-/// three hundred pages scroll as one. Pages are counted from 0.
+/// The pages of a document one below the other, each as a sheet of paper. Draws only those in view, so that three
+/// hundred pages scroll as smoothly as one. Pages are counted from 0.
 class oPageView : public QAbstractScrollArea {
     Q_OBJECT
 
 public:
     explicit oPageView(QWidget *parent = nullptr);
 
-    /// Shows other pages, at the place of the old ones. They must live as long as they are shown; null for none.
+    /// Shows other pages at the same scroll position. They must live as long as they are shown; null for none.
     void setPages(clsPdfPages *pages);
 
-    /// What can be clicked on them, in the order of the pages.
+    /// The areas that can be clicked, in page order.
     void setBoxes(std::vector<clsPageBox> boxes);
-    /// What their margins say of the texts beside them.
+    /// The signs in the margins, about the texts beside them.
     void setSigns(std::vector<clsPageSign> signs);
     const std::vector<clsPageSign> &Signs() const { return m_signs; }
-    /// Where a sign stands in the view.
+    /// The position of a sign in the view.
     QRect PlaceOfSign(int sign) const;
-    /// The box that is marked; -1 for none.
+    /// The marked box; -1 for none.
     int MarkedBox() const { return m_marked; }
-    /// Where a box stands in the view.
+    /// The position of a box in the view.
     QRect PlaceOfBox(int box) const;
 
-    /// How large the pages are, in per cent of their size on paper.
+    /// The size of the pages, in per cent of their paper size.
     int Zoom() const;
     void setZoom(int percent);
-    /// Makes the widest page as wide as the view, at most a quarter larger than on paper; also when the view's width
+    /// Fits the widest page to the width of the view, at most a quarter larger than on paper; also whenever that width
     /// changes, until the zoom is set.
     void FitWidth();
     bool FitsWidth() const { return m_fitsWidth; }
 
-    /// The page in the middle of the view, or the one last gone to; -1 without pages.
+    /// The page in the middle of the view, or the last target of GoTo; -1 without pages.
     int CurrentPage() const { return m_current; }
     void GoTo(int page);
 
@@ -96,7 +96,7 @@ private:
     clsPdfPages *m_pages = nullptr;
     double m_scale = 1;
     bool m_fitsWidth = true;
-    std::vector<int> m_tops; ///< of the pages; one more, for the end
+    std::vector<int> m_tops; ///< of the pages, and the end
     int m_width = 0;
     int m_current = -1;
     std::vector<clsPageBox> m_boxes;

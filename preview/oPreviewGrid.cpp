@@ -14,10 +14,10 @@
 
 #include <algorithm>
 
-// The main window's, which stands above: the previews are drawn into it.
+// Set by the main window, which is on a higher floor.
 oPreviewGrid *PreviewGrid = nullptr;
 
-/// The captions of the columns over the top edge of the grid, for as long as their own row is scrolled away.
+/// Shows the column captions at the top edge of the grid while their own row is scrolled out of view.
 class oPreviewCaptions : public QWidget {
 public:
     explicit oPreviewCaptions(oPreviewGrid *grid)
@@ -55,8 +55,8 @@ oPreviewGrid::oPreviewGrid(QWidget *parent)
     setEditTriggers(NoEditTriggers);
     setSelectionMode(NoSelection);
     setTabKeyNavigation(false);
-    setFocusPolicy(Qt::TabFocus); // a left click does nothing, and so takes no focus
-    setAutoScroll(false); // to the marked row it scrolls by itself
+    setFocusPolicy(Qt::TabFocus); // a left click does nothing, so it must not take the focus
+    setAutoScroll(false); // scrolling to the marked row is done here
     setShowGrid(false);
     setWordWrap(false);
     setVerticalScrollMode(ScrollPerPixel);
@@ -70,7 +70,7 @@ oPreviewGrid::oPreviewGrid(QWidget *parent)
 
 template <class Change> void oPreviewGrid::change(Change what)
 {
-    // Whoever changes a single thing with painting on sees it at once.
+    // A single change made while painting is on is shown at once.
     const bool own = m_redraw;
     if (own)
         setRedraw(false);
@@ -104,7 +104,7 @@ void oPreviewGrid::setRedraw(bool redraw)
     viewport()->update();
 }
 
-/// Hands the widths and heights to the view, in bulk: nothing is painted and nobody is told of each of them.
+/// Passes the widths and heights to the view all together, without painting or signals for each.
 void oPreviewGrid::takeSizes()
 {
     const QSignalBlocker quietColumns(horizontalHeader());
@@ -223,7 +223,7 @@ int oPreviewGrid::topOf(int row) const
     return verticalHeader()->sectionPosition(row - 1);
 }
 
-/// The rows of the captions and half the spacer below them, which carries their line.
+/// The height of the caption rows and half of the spacer below them, which contains their line.
 int oPreviewGrid::captionsHeight() const
 {
     if (m_captionsRow < 1 || m_captionsRow >= Rows())
@@ -233,7 +233,7 @@ int oPreviewGrid::captionsHeight() const
 
 int oPreviewGrid::coveredHeight() const
 {
-    // In a very low window the rows are worth more than their captions.
+    // In a very low window the rows need the room more than their captions.
     constexpr int LeastShare = 3;
     const int height = captionsHeight();
     return height * LeastShare <= viewport()->height() ? height : 0;
@@ -313,7 +313,7 @@ void oPreviewGrid::mouseReleaseEvent(QMouseEvent *event)
 void oPreviewGrid::contextMenuEvent(QContextMenuEvent *event)
 {
     event->accept();
-    if (event->reason() == QContextMenuEvent::Mouse) // the mouse asks when its button is released
+    if (event->reason() == QContextMenuEvent::Mouse) // the mouse opens it when its button is released
         return;
     m_pointed = 0;
     const QPoint place = m_marked ? PlaceOf(m_marked).bottomLeft() : QPoint(Theme::Space16, Theme::Space16);

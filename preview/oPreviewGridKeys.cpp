@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-// The keys of the preview, and the row that the user marks to ask about its figures.
+// The keys of the preview, and marking a row to ask about its figures.
 
 int oPreviewGrid::RowOf(clsPreviewOrigin origin) const
 {
@@ -18,7 +18,7 @@ int oPreviewGrid::RowOf(clsPreviewOrigin origin) const
     return 0;
 }
 
-/// The first row with figures at or behind a row, in a direction; 0 for none.
+/// The nearest row with figures from a row on, in a direction; 0 for none.
 int oPreviewGrid::figuresFrom(int row, int direction) const
 {
     for (; row >= 1 && row <= Rows(); row += direction)
@@ -32,7 +32,7 @@ void oPreviewGrid::MarkRow(int row)
     m_marked = row >= 1 && row <= Rows() && Origin(row).kind != clsPreviewOrigin::Nothing ? row : 0;
     m_markedOrigin = m_marked ? Origin(m_marked) : clsPreviewOrigin();
     m_painter.setMarkedRow(m_marked);
-    // What is current is what a screen reader reads.
+    // Screen readers read the current row.
     selectionModel()->setCurrentIndex(
         m_marked ? m_model->index(m_marked - 1, 0) : QModelIndex(), QItemSelectionModel::NoUpdate);
     if (m_marked)
@@ -53,7 +53,7 @@ void oPreviewGrid::MoveMark(int rows)
         MarkRow(to);
 }
 
-/// After a drawing: the mark stays with what it was on, wherever that stands now.
+/// After a redraw: moves the mark to the row with the same figures.
 void oPreviewGrid::keepMark()
 {
     m_pointed = 0;

@@ -12,9 +12,9 @@
 
 namespace {
 
-constexpr int WidestSheet = 1120; // at a desktop font of the size below; it grows with it
+constexpr int WidestSheet = 1120; // at a desktop font of the size below; scales with it
 constexpr double OrdinaryPoints = 10;
-constexpr int Frame = 2; // room for the frame of the focus, which is the thickest
+constexpr int Frame = 2; // the focus frame, which is the thickest
 
 } // namespace
 
@@ -47,7 +47,7 @@ QRect oPreviewSheet::sheet() const
 
 void oPreviewSheet::placeGrid()
 {
-    // The sheet runs on below the edge of the window: there is no frame at its foot.
+    // The sheet continues below the edge of the window, so it has no bottom frame.
     m_grid->setGeometry(sheet().adjusted(Frame, Frame, -Frame, 0));
 }
 

@@ -4,8 +4,8 @@
 
 class oPreviewGrid;
 
-/// The place of the preview in the main window, `pctPreview`: it centres the grid as a sheet of paper of limited width
-/// and draws the sheet's frame. It is as tall as it is given room.
+/// The container of the preview in the main window, `pctPreview`: centres the grid as a sheet of paper of limited width
+/// and draws the sheet's frame. Takes all the height available.
 class oPreviewSheet : public QWidget {
     Q_OBJECT
 

@@ -20,7 +20,7 @@
 namespace {
 
 constexpr int Width = 340;
-constexpr int Around = 14; ///< room for the shadow and the point
+constexpr int Around = 14; ///< room for the shadow and the arrow
 constexpr int PointLength = 9;
 constexpr int PointWidth = 18;
 constexpr int HeadHeight = 46;
@@ -43,7 +43,7 @@ oCustomButton *button(const QString &name, const QString &caption)
 {
     auto *made = new oCustomButton;
     made->setObjectName(name);
-    // An ampersand in a name of the claim is no mnemonic.
+    // An ampersand in a name of the claim must not become a mnemonic.
     made->setCaption(QString(caption).replace(u'&', QStringLiteral("&&")));
     return made;
 }
@@ -125,18 +125,18 @@ void oWhySheet::fill()
         sum.push_back(steps.back());
         steps.pop_back();
     }
-    // What there is a button for need not be walked to.
+    // The steps take the focus only if one of them leads somewhere.
     m_steps->setWalked(std::any_of(steps.begin(), steps.end(), [](const clsShownStep &step) { return step.leadsOn; }));
     m_steps->setSteps(std::move(steps));
     m_sum->setSteps(std::move(sum));
     m_sum->setVisible(hasSum);
     fillPlaces();
-    // The steps are read with what has the focus first.
+    // Screen readers read the steps with the first focus.
     stops().front()->setAccessibleDescription(
         QStringList({accessibleName(), m_steps->accessibleName(), m_sum->accessibleName()}).join(QStringLiteral("; ")));
 }
 
-/// The buttons in as many lines as they need.
+/// Arranges the buttons in as many lines as they need.
 void oWhySheet::fillPlaces()
 {
     for (oCustomButton *old : m_places) {
@@ -287,7 +287,7 @@ bool oWhySheet::eventFilter(QObject *watched, QEvent *event)
         return takeKey(static_cast<QKeyEvent *>(event)->key());
     const bool isPress = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::Wheel;
     if (isPress && widget && widget != this && !isAncestorOf(widget) && widget->window() == window())
-        Close(); // the click goes on to what it was for
+        Close(); // the click is also passed on to its target
     return false;
 }
 
@@ -302,7 +302,7 @@ void oWhySheet::chooseStep(int step)
 
 void oWhySheet::choose(const clsWhySource &place)
 {
-    const clsWhySource chosen = place; // the sheet's own goes with the next figure
+    const clsWhySource chosen = place; // the sheet's own is deleted with the next figure
     Close();
     emit PlaceChosen(chosen);
 }

@@ -10,23 +10,23 @@ class QScrollArea;
 class oCloseButton;
 class oCustomButton;
 
-/// A place where something that a figure comes from can be changed.
+/// A place where one of the sources of a figure can be changed.
 struct clsWhyPlace {
     QString caption;
     clsWhySource source;
 };
 
-/// What the sheet says of a figure.
+/// The sheet's text about a figure.
 struct clsWhyText {
     QString title; ///< "Why 364.00"
     QString about {}; ///< "Item 18"
     std::vector<clsShownStep> steps {}; ///< the last is the figure
-    std::vector<clsWhyStep> origins {}; ///< what the steps were made of
+    std::vector<clsWhyStep> origins {}; ///< the sources of the steps
     std::vector<clsWhyPlace> places {}; ///< a button for each
 };
 
-/// A small sheet over its window that says how one figure comes about, with a point at the figure. It takes the focus
-/// and gives it back. Esc, a click outside and whatever is chosen on it close it.
+/// A small sheet over its window that explains a figure, with an arrow pointing at it. It takes the focus and returns
+/// it. Esc, a click outside or a choice on the sheet closes it.
 class oWhySheet : public QWidget {
     Q_OBJECT
 
@@ -36,22 +36,23 @@ public:
 
     enum class Point { Down, Right };
 
-    /// Shows a text. The point is at `at`, a place of the parent, and lies at the foot of the sheet or at its right.
+    /// Shows a text. The arrow points at `at`, in the parent's coordinates, from the bottom or the right side of the
+    /// sheet.
     void Open(const clsWhyText &text, const QPoint &at, Point point);
-    /// The focus goes back to where it was.
+    /// Returns the focus to its previous owner.
     void Close();
     bool isOpen() const { return isVisible(); }
 
-    /// Up and Down go to the rows around that of the figure, and do not scroll.
+    /// Makes Up and Down move to the rows above and below that of the figure instead of scrolling.
     void setMovesRows(bool moves) { m_movesRows = moves; }
 
     const clsWhyText &Text() const { return m_text; }
 
 signals:
     void PlaceChosen(const clsWhySource &place);
-    /// A step is a figure that has steps too.
+    /// The user chose a step that is itself an explained figure.
     void FigureAsked(const clsWhyAsked &asked, const QString &about);
-    /// The figure of the row above or below is asked for: -1 or 1.
+    /// The user asked for the figure of the row above (-1) or below (1).
     void MoveRow(int rows);
     void Closed();
 
@@ -74,7 +75,7 @@ private:
     clsWhyText m_text;
     bool m_movesRows = false;
     Point m_pointSide = Point::Down;
-    int m_pointAt = 0; ///< where the point is, along its side
+    int m_pointAt = 0; ///< the arrow's position along its side
     QPointer<QWidget> m_focusBefore;
     QLabel *lblTitle;
     QLabel *lblAbout;

@@ -15,7 +15,7 @@ constexpr int Above = 9;
 constexpr int SumAbove = 12;
 constexpr int BetweenLines = 2;
 constexpr int BeforeValue = 12;
-/// What a long text leaves to its value, so that neither is lost.
+/// The width limit of a long text, so that its value has room too.
 constexpr int WidestText = 236;
 
 QRect textRoom(const QRect &inside, int value)

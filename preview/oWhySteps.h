@@ -4,7 +4,7 @@
 
 #include <vector>
 
-/// A step as the sheet shows it.
+/// A step on the sheet.
 struct clsShownStep {
     QString text;
     QString reason {}; ///< in a second line; may be empty
@@ -13,8 +13,8 @@ struct clsShownStep {
     bool leadsOn = false; ///< there is a place where it can be changed
 };
 
-/// Steps one below the other, each with its value at the right and a line between them. Where they can be walked, a
-/// click or Enter chooses one that leads somewhere.
+/// Steps one below the other, each with its value at the right and a line between them. If they are walkable, a click
+/// or Enter chooses one that leads somewhere.
 class oWhySteps : public QWidget {
     Q_OBJECT
 
@@ -24,13 +24,13 @@ public:
     void setSteps(std::vector<clsShownStep> steps);
     /// The steps are a sum: semibold, with a strong line above.
     void setSum(bool sum);
-    /// Lets the steps be walked and chosen.
+    /// Lets the user move to the steps and choose them.
     void setWalked(bool walked);
 
     int heightFor(int width) const;
-    /// The step that is marked; -1 for none.
+    /// The marked step; -1 for none.
     int Marked() const { return m_marked; }
-    /// Marks the next step in a direction that leads somewhere; false where there is none.
+    /// Marks the next step in a direction that leads somewhere; false if there is none.
     bool MoveMark(int direction);
     QRect PlaceOf(int step) const;
 

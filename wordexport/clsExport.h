@@ -18,92 +18,92 @@ class clsFolderLock;
 struct clsGrid;
 struct clsPrintedList;
 
-/// A template that was read and found to be a sound document, with what its sheets need of it at hand.
+/// A template that has been read and checked, with what its sheets need of it.
 struct clsTemplate {
     QByteArray bytes;
     clsZipPackage content;
-    bool isPlain; ///< of its text, as `mdIsPlainText` has it
-    /// The bytes of its styles; not known before a first sheet was opened.
+    bool isPlain; ///< whether its text is plain, as defined by `mdIsPlainText`
+    /// The bytes of its styles; unset until the first sheet is opened.
     std::optional<QByteArray> styles {};
 };
 
-/// A sheet's file, as the export that wrote it knows it.
+/// A sheet's file, as recorded by the export that wrote it.
 struct clsSheetFile {
-    QString templateName; ///< the file name of the template that it was made from
+    QString templateName; ///< the file name of its template
     QString name {}; ///< such as 3(1)
     int page = 0;
-    /// Nothing but copied yet: what stands in it is what stands in the template.
+    /// Copied only: its content is still the template's.
     bool isCopy = true;
-    /// Where the text stands in it; nothing where it was not saved since it was opened.
+    /// The position of the text in it; unset if it was not saved since it was opened.
     std::optional<clsTextPlace> text {};
-    /// What would stand in it, where the sheets stay in memory.
+    /// Its content, if the sheets stay in memory.
     std::optional<clsZipPackage> kept {};
     /// The grids that were typed into it.
     std::vector<clsForecast::Grid> grids {};
-    /// The line breaks in the first cells of these, each of which pushes what stands below down by a line.
+    /// The line breaks in the first cells of these grids; each moves the following content down by a line.
     int breaks = 0;
-    /// What was typed into it and is not printed at its own size, and the paper pages that it takes.
+    /// The texts typed into it that are not printed at their own size, and its number of paper pages.
     std::vector<clsForecast::Box> boxes {};
     int paperPages = 1;
 };
 
-/// One running export: the claim that it prints and the whole of the state that its steps share.
+/// A running export: the claim it prints and all state shared by its steps.
 struct clsExport {
     clsZR3Form &form;
-    /// Where the page templates lie.
+    /// The folder of the page templates.
     QString templatesFolder;
-    /// The folder of the finished document. It starts as the claim's export folder, but it is held here: the claim
-    /// keeps its texts in the code page, which not every folder's name is in.
+    /// The folder of the finished document. Starts as the claim's export folder, but is kept here: the claim keeps its
+    /// texts in the code page, which can't represent every folder name.
     QString exportFolder = form.ExportPath();
 
-    /// The name of the finished document, without its ending.
+    /// The name of the finished document, without its extension.
     QString documentName = form.FormType();
-    /// The folder of the sheets, below the export folder. Exports of one name there take turns.
+    /// The folder of the sheets, below the export folder. Exports with the same name there take turns.
     QString tempFolderName = QStringLiteral("~ZR3Temp");
-    /// Other exports work in the export folder at the same time, in folders of their own: the document gets its name in
-    /// a turn with theirs.
+    /// Other exports work in the same export folder at the same time, with separate sheet folders: they take turns to
+    /// put their documents in place.
     bool sharesFolder = false;
 
-    /// A sheet that could not be opened, saved or joined is passed over, as every failure of the word processor: the
-    /// user has been told. With this set the export stops there instead, and no document comes out: for callers who
-    /// can't ask anybody whether an incomplete one will do.
+    /// A sheet that could not be opened, saved or joined is skipped, as after every failure of the word processor: the
+    /// user has seen a message. If this is set, the export stops instead and produces no document, for callers that
+    /// can't ask whether an incomplete one will do.
     bool stopsAtLostSheet = false;
-    /// The file in which the claim lies; empty for a claim that was never saved. Its rights are the document's.
+    /// The claim's file; empty for a claim that was never saved. The document gets its permissions.
     QString claimFile {};
-    /// Without this, a document that is there by the time of the export stops it.
+    /// If false, an existing document stops the export.
     bool mayReplace = true;
-    /// True once it did.
+    /// True once that has happened.
     bool stoppedAtDocument = false;
-    /// The sheets stay in the temporary folder when the export has ended.
+    /// The sheets stay in the temporary folder after the export.
     bool keepsSheets = false;
 
-    /// The sheets stay in memory: no folder is touched, and no document comes out.
+    /// The sheets stay in memory: no folder is touched and no document produced.
     bool inMemory = false;
 
-    /// Held while the export works in the temporary folder; nothing there is this export's without it.
+    /// Held while the export works in the temporary folder; without it nothing there may be touched.
     std::shared_ptr<clsFolderLock> folderLock {};
 
-    /// The full paths of the sheet files, in the order in which they were made.
+    /// The full paths of the sheet files, in the order in which they were created.
     QStringList ExportFileCollection {};
-    /// The number of the latest sheet of the page in hand. Each page sets it but counsel's fees, which goes on from the
-    /// page before it, as it stands.
+    /// The number of the latest sheet of the current page. Each page sets it except counsel's fees, which continues
+    /// from the page before it. Required behaviour; do not fix.
     int ExportSheetCounter = 0;
 
-    /// The claim's figures, as they stand while it is exported.
+    /// The claim's figures at the time of the export.
     clsBill bill {form};
 
     /// The properties behind the placeholders of the pages.
     QHash<std::pair<int, QString>, QString> fields {};
-    /// The grid that is being typed.
+    /// The grid being typed.
     const clsGrid *grid = nullptr;
-    /// The list whose items are typed into the open sheet, and which of them its first row shows.
+    /// The list whose items are typed into the open sheet, and the number of the item in its first row.
     const clsPrintedList *list = nullptr;
     int firstItem = 1;
 
-    /// The templates read so far, by their file names, and the files written so far, by their paths.
+    /// The templates read so far, by file name, and the files written so far, by path.
     QHash<QString, clsTemplate> templates {};
     QHash<QString, clsSheetFile> sheets {};
 };
 
-/// Ends an export after the user has been told why; no document comes out.
+/// Ends an export after a message with the reason; no document is produced.
 struct clsExportStopped { };

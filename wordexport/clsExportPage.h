@@ -8,17 +8,17 @@
 #include <array>
 #include <span>
 
-// What a page of a government form consists of, as tables. The shapes of pages (plain, grids, schedule, additional
-// information) work on these, and a page that is only tables has no code of its own.
+// The content of a government form's page, as tables. The page types (plain, grids, schedule, additional information)
+// work on these; a page that consists only of tables has no other code.
 
-/// How a value is typed. A text of "0", "0.00" or "00:00" never prints, in whatever class.
+/// How a value is typed. A text of "0", "0.00" or "00:00" is never printed, in any class.
 enum class clsFillClass {
-    Text, ///< the stored text as it stands
+    Text, ///< the stored text unchanged
     TickBox, ///< "True" or "False": a ticked or an empty box
-    Money, ///< an amount as plain text: two decimals and commas
+    Money, ///< a plain-text amount: two decimals and commas
 };
 
-/// Where a text goes that is too long for its box.
+/// The limits of a text that continues on further sheets if too long for its box.
 struct clsOverRun {
     int limit; ///< the characters that the box holds
     int cutLength; ///< the characters that one continuation sheet holds
@@ -31,20 +31,20 @@ struct clsPlaceholderRow {
     QString (*source)(const clsBill &bill);
     clsFillClass fill = clsFillClass::Text;
     const clsOverRun *overRun = nullptr;
-    const char *property = nullptr; ///< where the text is that of one field
+    const char *property = nullptr; ///< if the text is that of one field
 };
 
-/// A cell of a grid's row: what is typed for item `i` of the list, from 1.
+/// A cell of a grid's row: the text for item `i` of the list, from 1.
 struct clsPrintedCell {
     QString (*source)(const clsZR3Form &form, int i);
     clsFillClass fill = clsFillClass::Text;
-    const char *property = nullptr; ///< of the item, where the text is that of one
+    const char *property = nullptr; ///< of the item, if the text is that of one property
 };
 
 /// The list of the claim whose items a grid prints.
 struct clsPrintedList {
     const char *name; ///< such as "experts"
-    /// The order in that list of what is printed as the i-th, from 1; 0 where there is no such item.
+    /// The position in that list of the i-th printed item, from 1; 0 if there is no such item.
     int (*order)(const clsZR3Form &form, int i);
 };
 
@@ -60,24 +60,24 @@ struct clsGrid {
     clsPrintedList list;
 };
 
-/// The placeholders of a page, in the order in which they are filled in. Rows that both forms have are tables of their
-/// own, so that a page is a few tables behind each other.
+/// The placeholders of a page, in the order in which they are filled in. Rows common to both forms are separate tables,
+/// so that a page is a sequence of a few tables.
 using clsPlaceholderTables = std::array<std::span<const clsPlaceholderRow>, 4>;
 
-/// A page on which text and boxes are filled in and nothing else.
+/// A page with only text and tick boxes to fill in.
 struct clsPlainPage {
     int number;
     const char *pageTemplate;
     clsPlaceholderTables tables;
     /// The template of the panel membership sheet, on the page that has one.
     const char *panelTemplate = nullptr;
-    /// The costs pages alone bear no mark of further sheets.
+    /// Only the costs pages have no mark for further sheets.
     bool hasMark = true;
 };
 
 /// A page with grids, and with placeholders that are filled in after them.
 struct clsGridPage {
-    /// What the sheet counter is before a grid.
+    /// Whether the sheet counter continues or restarts at a grid.
     enum Counter { RunsOn, StartsAnew };
     struct Grid {
         const clsGrid *grid;
@@ -88,7 +88,7 @@ struct clsGridPage {
     const char *pageTemplate;
     std::span<const Grid> grids;
     std::span<const clsPlaceholderRow> rows;
-    /// The mark is replaced after the placeholders rather than before them. The printed page is the same.
+    /// The mark is replaced after the placeholders instead of before them. The printed page is the same.
     bool markComesLast = false;
 };
 

@@ -7,13 +7,13 @@
 #include <optional>
 #include <vector>
 
-/// What an export gives, as plain data: its sheets and the texts that are not printed at their own size.
+/// The result of an export as plain data: its sheets and the texts that are not printed at their own size.
 struct clsForecast {
-    /// The rows of a list that stand on a sheet.
+    /// The rows of a list on a sheet.
     struct Grid {
         QString List; ///< such as "experts"
         int LinesAbove; ///< from the start of the sheet
-        std::vector<int> Items {}; ///< of each row its order in that list; 0 where it is no single item's
+        std::vector<int> Items {}; ///< the position in that list of each row's item; 0 if it is not a single item
     };
     struct Sheet {
         int Page;
@@ -27,26 +27,26 @@ struct clsForecast {
 
         QString Sheet;
         QString Placeholder; ///< empty in a grid
-        QString Property; ///< such as DebtorsDetails.Address; empty where more than one field stands behind it
-        int Row; ///< in a grid, from 1; else 0
+        QString Property; ///< such as DebtorsDetails.Address; empty if the text comes from more than one field
+        int Row; ///< in a grid, from 1; otherwise 0
         int Column;
         double Size; ///< points
         double PrintedSize;
-        int Lines; ///< that it takes at its own size
+        int Lines; ///< at its own size
         clsState State;
-        QString List {}; ///< in a grid: the list of the claim whose item it is, such as "experts"
+        QString List {}; ///< in a grid: the claim's list that the item belongs to, such as "experts"
         int Item = 0; ///< its order in that list
-        int Grid = -1; ///< in a grid: its place among those of the sheet, from 0
+        int Grid = -1; ///< in a grid: its index among those of the sheet, from 0
     };
     struct Message {
         QString Title;
         QString Text;
     };
 
-    /// In the order of the finished document. One that stands in it twice is here twice, its boxes once.
+    /// In the order of the finished document. A sheet that occurs twice in it is listed twice, its boxes once.
     std::vector<Sheet> Sheets {};
     std::vector<Box> Boxes {};
-    /// No document would come out: why, as the export would tell it.
+    /// No document would be produced: the reason, as the export would report it.
     bool Fails = false;
     std::vector<Message> Messages {};
     std::optional<clsRunTimeError> Error {};

@@ -82,7 +82,7 @@ private:
     void start(const QString &program)
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        // Also where it is killed, nothing of the claim stays anywhere.
+        // Even if the office program is killed, nothing of the claim is left anywhere.
         environment.insert(QStringLiteral("TMPDIR"), m_folder.filePath(QStringLiteral("tmp")));
         m_process.setProcessEnvironment(environment);
         m_process.setWorkingDirectory(m_folder.path());
@@ -108,7 +108,7 @@ private:
 
     void finished()
     {
-        // What it may have left running has nothing to do any more.
+        // Child processes that are still running are no longer needed.
         mdKillGroup(m_group);
         mdWaitForGroup(m_group);
         if (m_process.exitStatus() != QProcess::NormalExit)
@@ -136,7 +136,7 @@ private:
             return;
         const qint64 group = m_process.processId();
         mdKillGroup(group);
-        m_process.kill(); // where it has not come to have a group yet
+        m_process.kill(); // in case it has no group yet
         m_process.waitForFinished();
         mdWaitForGroup(group);
     }
@@ -152,7 +152,7 @@ private:
     {
         fail(why, more);
         state = how;
-        // Later, so that whoever is told may drop this object.
+        // Queued, so that the callback may destroy this object.
         if (m_begun && m_ended)
             QMetaObject::invokeMethod(this, m_ended, Qt::QueuedConnection);
     }

@@ -5,17 +5,17 @@
 #include <functional>
 #include <memory>
 
-/// The conversion of one document to PDF by the office program, in processes and with a profile of its own: one that is
-/// running already is left in peace. It works on a copy of the document, in a private folder that goes with this
-/// object. Where an event loop runs it goes on by itself; elsewhere `wait` lets it.
+/// Converts one document to PDF with the office program, in a separate process group with a separate profile: an
+/// instance that is already running is not affected. Works on a copy of the document in a private folder, deleted with
+/// this object. Continues by itself where an event loop runs; otherwise call `wait`.
 class clsPdfConversion {
 public:
     enum clsState { Running, Done, Failed, Cancelled };
 
-    /// Begins. `ended` is called by the event loop, once, when it is over; not where it could not begin, as the state
-    /// then tells. It may destroy this object.
+    /// Starts. The event loop calls `ended` once when it is over; not if it could not start, as `state` then shows.
+    /// `ended` may destroy this object.
     explicit clsPdfConversion(const QString &document, std::function<void()> ended = {});
-    /// Stops it where it still runs; `ended` is not called.
+    /// Stops a running conversion; `ended` is not called.
     ~clsPdfConversion();
     clsPdfConversion(const clsPdfConversion &) = delete;
     clsPdfConversion &operator=(const clsPdfConversion &) = delete;
@@ -26,7 +26,7 @@ public:
     /// The file, once it is done.
     QString pdf() const;
 
-    /// Stops it, with all processes that it has started.
+    /// Stops it and all processes that it has started.
     void cancel();
     /// Waits until it has ended.
     clsState wait();
@@ -36,6 +36,6 @@ private:
     std::unique_ptr<clsRun> m_run;
 };
 
-/// Puts the PDF of a conversion that has ended under its name in one step, as open to others as the document is.
-/// Returns why there is none, in a sentence for the user; empty where there is one.
+/// Renames the PDF of a finished conversion into place in one step, with the document's permissions. Returns why that
+/// failed, in a sentence for the user; empty on success.
 QString mdPutPdfInPlace(const clsPdfConversion &conversion, const QString &document, const QString &pdf);

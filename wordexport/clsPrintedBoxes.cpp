@@ -33,7 +33,7 @@ clsPrintedBoxes::clsPrintedBoxes(const QString &formType, const QString &templat
         return;
     const clsSilentTrial silent;
     try {
-        // An export of an empty claim says which box belongs to which field.
+        // An export of an empty claim shows which box belongs to which field.
         clsZR3Form form;
         form.FormType = formType;
         clsExport run {.form = form, .templatesFolder = templatesFolder};

@@ -53,7 +53,7 @@ std::vector<QRectF> clsSheetPlaces::rows(const QString &templateName, int linesA
     clsMSWord word;
     if (count == 0 || !open(word, templateName))
         return found;
-    // By the steps of the export: a mark in each row tells where the row is printed.
+    // Uses the export's own steps: a mark in each row shows where the row is printed.
     word.MoveCursorDown(linesAbove);
     for (int row = 1; row <= count; ++row) {
         word.SetText(markOfRow(row), false, false, true, false);

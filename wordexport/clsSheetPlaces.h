@@ -8,8 +8,8 @@
 
 class clsMSWord;
 
-/// Where on the paper the texts of a sheet are printed, in points from its corner. The templates tell; a place is known
-/// as far down as the rows of its template are of exact height, and only while the sheet takes one paper page.
+/// Where the texts of a sheet are printed on the paper, in points from its corner. Taken from the templates; available
+/// for the rows above the first one that is not of exact height, and only if the sheet takes one paper page.
 class clsSheetPlaces {
 public:
     explicit clsSheetPlaces(const QString &templatesFolder)
@@ -18,13 +18,13 @@ public:
 
     struct clsPlace {
         QRectF cell;
-        QRectF row; ///< of the table that it stands in
+        QRectF row; ///< of the table that contains it
     };
     using clsPlaces = QHash<QString, clsPlace>;
 
     /// The cells of a template's placeholders.
     const clsPlaces &placeholders(const QString &templateName);
-    /// The rows of a grid that begins so many lines below the start of the sheet.
+    /// The rows of a grid that starts `linesAbove` lines below the start of the sheet.
     std::vector<QRectF> rows(const QString &templateName, int linesAbove, int count) const;
 
 private:

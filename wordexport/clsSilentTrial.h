@@ -4,7 +4,7 @@
 #include "base/mdLog.h"
 #include "wordexport/document/clsMSWordObserver.h"
 
-/// While it lives, nothing that is done to documents is told, logged or seen.
+/// While it lives, operations on documents show, log and report nothing.
 struct clsSilentTrial {
     clsQuietUserInterface quiet {};
     clsUserInterfaceScope userInterface {quiet};

@@ -15,7 +15,7 @@ struct clsPageRow {
     const char *screen; ///< the text of its tab
 };
 
-/// The screens that the figures of the pages come from.
+/// The screens of the figures on the pages.
 constexpr clsPageRow Pages[] = {
     {"Claim1 P4", "Disbursements"},
     {"Claim1 P5", "Schedule of Time"},
@@ -31,7 +31,7 @@ constexpr clsPageRow Pages[] = {
     {"Claim1A P11", "Communications"},
 };
 
-/// The page of a sheet as its template names it: "Claim1A P8".
+/// The page of a sheet as in its template's name: "Claim1A P8".
 QString pageOf(const clsForecast &forecast, const QString &sheetName)
 {
     for (const clsForecast::Sheet &sheet : forecast.Sheets)

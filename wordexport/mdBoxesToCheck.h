@@ -4,6 +4,6 @@
 
 struct clsForecast;
 
-/// What a forecast says of boxes, for the check of its claim: each with the screen that holds the text, and in a list
-/// with the item. A figure that is worked out has the screen that most of it comes from.
+/// The boxes of a forecast, for the check of its claim: each with the screen of the text and, in a list, the item. A
+/// calculated figure gets the screen of its main source.
 std::vector<clsPrintedBox> mdBoxesToCheck(const clsForecast &forecast);

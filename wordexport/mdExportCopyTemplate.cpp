@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Reads a template's file; a failure of the system says which file it was, since it doesn't know the name.
+/// Reads a template's file; adds the file name to an error of the system.
 QByteArray readTemplate(const QString &path)
 {
     try {
@@ -23,7 +23,7 @@ QByteArray readTemplate(const QString &path)
     }
 }
 
-/// Looks at a template that is not the build's own.
+/// Checks a template that is not one of the build's own.
 bool isPlainDocument(const clsZipPackage &content, const QString &fileName)
 {
     clsWordPackage package(content, fileName);
@@ -31,8 +31,8 @@ bool isPlainDocument(const clsZipPackage &content, const QString &fileName)
     return mdIsPlainText(package.partXml(package.mainPart()));
 }
 
-/// A template is looked at once, and as a whole: what is wrong with it would otherwise show on a sheet that was made
-/// from it, or in the finished document. The build's own were looked at when they were made, and are plain.
+/// A template is checked once and completely: a fault would otherwise show only on a sheet made from it, or in the
+/// finished document. The build's own were checked when they were built, and are plain.
 const clsTemplate &templateOf(clsExport &run, const QString &fileName)
 {
     auto known = run.templates.find(fileName);

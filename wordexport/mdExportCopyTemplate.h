@@ -4,9 +4,9 @@
 
 struct clsExport;
 
-/// Copies a template to the temporary folder as the file of a sheet and returns its full path, which the caller adds to
-/// the sheets at once. A template that is missing or is no document, and a folder that can't be written to, are
-/// run-time errors: they end the export before anything stands under the finished document's name.
+/// Copies a template to the temporary folder as a sheet's file and returns its full path, which the caller adds to the
+/// sheets at once. A missing or invalid template, or an unwritable folder, is a run-time error: it ends the export
+/// before anything has the finished document's name.
 QString mdExportCopyTemplate(clsExport &run, const QString &templateName, const QString &sheetName);
 
 /// The name of a sheet: the page's number and the sheet's in brackets, such as 3(2).

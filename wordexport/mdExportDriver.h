@@ -5,11 +5,11 @@
 
 struct clsExport;
 
-/// Exports a claim as the document of its government form. False when the user was told why no document came out.
+/// Exports a claim as the document of its government form. False, after a message, if no document was produced.
 using clsExportDriver = bool (*)(clsExport &run);
 
-/// What the user is told of a form type that has no pages.
+/// The message for a form type that has no pages.
 QString mdNoPagesMessage(const QString &formType);
 
-/// The driver of a form type, which is compared exactly; null for a type that has no pages.
+/// The driver of a form type, matched exactly; null for a type that has no pages.
 clsExportDriver mdExportDriver(QStringView formType);

@@ -17,7 +17,7 @@ const clsZR3Disbursement &counselFee(const Form &form, int i)
     return *form.CounselDisbursement(i);
 }
 
-/// Account number and name of the counsel whose fee item `i` is; the object error where it names none.
+/// The account number and name of counsel of fee item `i`; the object error if it names none.
 QString counselText(const Form &form, int i)
 {
     const clsZR3Disbursement &fee = counselFee(form, i);
@@ -28,7 +28,7 @@ QString counselText(const Form &form, int i)
     });
 }
 
-/// Amount and VAT of an item added; the type error where one is no number.
+/// Amount plus VAT of an item; the type error if either is not a number.
 template <class Item, class Amount, class VAT>
 QString grossText(const Form &form, const Item &item, Amount amount, VAT vat)
 {

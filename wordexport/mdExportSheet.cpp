@@ -48,7 +48,7 @@ void note(clsExport &run, const clsMSWord &word)
         sheet.kept = word.kept();
     else
         sheet.text = word.savedText();
-    // Each time that a sheet is open, what is typed then is fitted; what was typed before stays as it is.
+    // Each opening of a sheet fits only the text typed during it.
     std::transform(word.fitted().begin(), word.fitted().end(), std::back_inserter(sheet.boxes),
         [&](const clsFittedText &text) { return boxOf(run, sheet, text); });
     sheet.paperPages = word.paperPages();

@@ -24,8 +24,7 @@ fs::file_type typeOf(const fs::path &path)
     });
 }
 
-/// Nobody's files but the export's own may be swept away: what stands under the name must be a folder, and not a link
-/// to one.
+/// Only the export's own files may be deleted: the path must be a folder, not a link to one.
 void refuseForeignFolder(const fs::path &folder)
 {
     const fs::file_type type = typeOf(folder);
@@ -33,7 +32,7 @@ void refuseForeignFolder(const fs::path &folder)
         throw clsRunTimeError(clsRunTimeError::PathFileAccess);
 }
 
-/// The files in the folder. A folder in there is none of the export's, so that nothing at all may be swept away.
+/// The files in the folder. The export creates no subfolders; if there is one, nothing may be deleted.
 std::vector<fs::path> filesIn(const fs::path &folder)
 {
     auto entries = mdSystemOperation([&](std::error_code &error) {
@@ -53,7 +52,7 @@ void removeOne(const fs::path &path)
     mdSystemOperation([&](std::error_code &error) { return fs::remove(path, error); });
 }
 
-/// The lock on the folder, which it waits for; nothing where another export has it too long.
+/// The lock on the folder, after waiting for it; null if another export holds it too long.
 std::shared_ptr<clsFolderLock> locked(const QString &folder)
 {
     try {
@@ -79,7 +78,7 @@ std::shared_ptr<clsFolderLock> mdCreateExportTempFolder(const QString &path)
     const fs::path folder = path.toStdString();
     refuseForeignFolder(folder);
     std::shared_ptr<clsFolderLock> lock;
-    // The export that was waited for takes its folder with it.
+    // An export that ends deletes its folder, so create it again.
     do {
         FileSystem().CreateFolder(path);
         lock = locked(path);
@@ -87,7 +86,7 @@ std::shared_ptr<clsFolderLock> mdCreateExportTempFolder(const QString &path)
             return lock;
     } while (!lock->isOfWhatIsThere());
     mdClearExportTempFolder(path, false);
-    // One that was left behind may be open to others. A file system without permissions is no reason to stop.
+    // An existing folder may be open to others. Failure on a file system without permissions is ignored.
     std::error_code error;
     do
         fs::permissions(folder, fs::perms::owner_all, error);

@@ -38,8 +38,8 @@ void typeNote(clsMSWord &word, const clsZR3ScheduleOfTimeItem &item, const QStri
     }
 }
 
-/// The mark of a sheet that ended at the item at `position`. A first sheet from which only the very last item spilled
-/// has none: that is the rule.
+/// The mark of a sheet that ended at the item at `position`. A first sheet from which only the last item overflowed has
+/// none. Required behaviour; do not fix.
 QString markOf(const clsExport &run, int position, int count)
 {
     if (run.ExportSheetCounter == 1 && position >= count)
@@ -47,7 +47,7 @@ QString markOf(const clsExport &run, int position, int count)
     return mdSheetMark(run.ExportSheetCounter);
 }
 
-/// What is left of a sheet's lines, and the breaks within those that were typed. The budget doesn't count the breaks.
+/// The lines left on a sheet, and the breaks within those typed. The breaks are not subtracted from the lines.
 struct clsSheetLines {
     int left;
     int breaks = 0;
@@ -59,7 +59,7 @@ int breaksIn(const QStringList &lines)
         lines.begin(), lines.end(), 0, [](int sum, const QString &line) { return sum + mdLineBreaksIn(line); });
 }
 
-/// Fills one sheet from the item at `start` and returns the first that it could not take.
+/// Fills one sheet from the item at `start` and returns the first item that didn't fit.
 int fillSheet(
     clsExport &run, const QString &path, const clsAdditionalInformation &place, int start, clsSheetLines &sheetLines)
 {

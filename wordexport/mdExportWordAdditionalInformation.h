@@ -5,17 +5,17 @@
 struct clsAdditionalInformation;
 struct clsExport;
 
-/// The sheet that the additional information leaves for the rest of its page.
+/// The sheet on which the rest of the page continues after the additional information.
 struct clsAdditionalInformationResult {
     QString firstSheet;
-    int linesUsed; ///< how many lines were typed there, each of which pushed what follows down by one
-    int breaks; ///< within these lines, each of which pushed it down by one more
+    int linesUsed; ///< the lines typed on it; each moved the following content down by one
+    int breaks; ///< line breaks within these lines; each moved it down by one more
 };
 
-/// Exports the notes of the items that have a description: a small budget of lines on the page's own sheet, 50 on each
-/// further one. A note is never split over sheets.
+/// Exports the notes of the items that have a description: a small number of lines on the page's first sheet, 50 on
+/// each further one. A note is never split over sheets.
 clsAdditionalInformationResult mdExportWordAdditionalInformation(clsExport &run, const clsAdditionalInformation &place);
 
-/// Tells the user of the first note that no sheet could ever hold, and returns true. Without this such a note would
-/// make sheets without end.
+/// Reports the first note that no sheet could hold, and returns true. Without this check such a note would create
+/// sheets endlessly.
 bool mdNoteCanNeverFit(const clsExport &run);

@@ -15,7 +15,7 @@
 #include "wordexport/mdExportWordPlainPage.h"
 #include "wordexport/mdExportWordScheduleOfTime.h"
 
-// The ten pages of Claim 1. The rows stand in the order in which they are filled in.
+// The ten pages of Claim 1. The rows are in the order in which they are filled in.
 
 namespace {
 
@@ -79,8 +79,8 @@ const clsPlaceholderRow Page3Rows[] = {
 
 const clsPlainPage Page3 = {3, "Claim1 P3", {Page3Rows}, "Claim1 P3 Panel Membership Cont"};
 
-// Page 4: counsel's fees. The sheet counter goes on from whatever page ran before it, and so do the further sheets'
-// names and marks: that carry-over belongs to this page and stays.
+// Page 4: counsel's fees. The sheet counter continues from the previous page, and with it the names and marks of the
+// further sheets. Required behaviour of this page; do not fix.
 
 const clsGrid CounselFeesGrid = {mdCountOf<&clsZR3Form::CounselDisbursementsCollection>, CounselFeesCells, 32, 38, 9, 3,
     "Claim1 P4 Counsels Fees Cont", CounselFeesList};
@@ -91,7 +91,7 @@ const clsGridPage Page4 = {4, "Claim1 P4", Page4Grids, CounselFeesRows};
 
 const clsAdditionalInformation Page6AdditionalInformation = {6, "Claim1 P6", "Claim1 P6 Additional Info Cont", 10, 3};
 
-/// The lines above the experts' grid while no note is typed; each typed line pushes it down by one.
+/// The lines above the experts' grid without notes; each typed line moves it down by one.
 constexpr int LinesAboveExperts = 20;
 
 const clsGrid ExpertsGrid = {mdCountOf<&clsZR3Form::ExpertInvoicesCollection>, ExpertInvoiceCells, 11, 32,
@@ -122,8 +122,8 @@ void mdExportWordClaim1Page6(clsExport &run)
     mdFinishSheet(run, word);
 }
 
-// Page 7: disbursements. The counter starts anew before the second grid, so that both grids' first further sheets are
-// 7(2): the second overwrites the first, and the finished document shows it twice. It is to stay so.
+// Page 7: disbursements. The counter restarts before the second grid, so that the first further sheet of both grids is
+// 7(2): the second overwrites the first, and the finished document shows it twice. Required behaviour; do not fix.
 
 const clsGrid JointInstructionsGrid
     = {mdCountOf<&clsZR3Form::JointInstructionsCollection>, JointInstructionCells, JointInstructionsRoom.first,
@@ -190,7 +190,7 @@ const clsPlainPage Page9 = {9, "Claim1 P9", {CostsAwardedAmountsRows, CostsAward
 
 const clsPlainPage Page10 = {10, "Claim1 P10", {DebtorsDetailsRows}};
 
-// The exporters by their names; page 6 alone has steps of its own.
+// The exporters by name; only page 6 has additional steps.
 
 // clang-format off
 void mdExportWordClaim1Page1(clsExport &run) { mdExportWordPlainPage(run, Page1); }
@@ -217,7 +217,7 @@ const clsExportPageRow Pages[] = {
     {10, "Claim1 Page 10", mdExportWordClaim1Page10},
 };
 
-/// The progress bar counts to eleven although the form has ten pages; the bar has always had its last step free.
+/// The progress bar counts to eleven although the form has ten pages. Required behaviour; do not fix.
 constexpr int ProgressMaximum = 11;
 constexpr int AdditionalInformationPage = 6;
 

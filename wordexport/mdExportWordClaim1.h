@@ -2,6 +2,6 @@
 
 struct clsExport;
 
-/// Exports the claim as Claim1.doc into its export folder. False when the user was told why no document came out;
-/// failures that nothing foresees are run-time errors, and leave the finished document as it was.
+/// Exports the claim as Claim1.doc into its export folder. False, after a message, if no document was produced;
+/// unexpected failures are run-time errors, and leave an existing document unchanged.
 bool mdExportWordClaim1(clsExport &run);

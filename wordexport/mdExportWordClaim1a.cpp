@@ -18,7 +18,7 @@
 #include "wordexport/mdExportWordPlainPage.h"
 #include "wordexport/mdExportWordScheduleOfTime.h"
 
-// The thirteen pages of Claim 1A. The rows stand in the order in which they are filled in.
+// The thirteen pages of Claim 1A. The rows are in the order in which they are filled in.
 
 namespace {
 
@@ -133,8 +133,8 @@ const clsPlaceholderRow Page4Rows[] = {
 
 const clsPlainPage Page4 = {4, "Claim1A P4", {Page4Rows}};
 
-// Page 5: counsel's fees. The sheet counter goes on from whatever page ran before it, and so do the further sheets'
-// names and marks: that carry-over belongs to this page, as on Claim 1, and stays.
+// Page 5: counsel's fees. The sheet counter continues from the previous page, and with it the names and marks of the
+// further sheets, as on Claim 1. Required behaviour of this page; do not fix.
 
 const clsGrid CounselFeesGrid = {mdCountOf<&clsZR3Form::CounselDisbursementsCollection>, CounselFeesCells, 32, 38, 9, 3,
     "Claim1A P5 Counsels Fees Cont", CounselFeesList};
@@ -160,12 +160,12 @@ const clsPlaceholderRow Page6Rows[] = {
 
 const clsGridPage Page6 = {6, "Claim1A P6", Page6Grids, Page6Rows};
 
-// Page 7: disbursements. The counter runs on from the first grid to the second, so that no sheet overwrites another.
+// Page 7: disbursements. The counter continues from the first grid to the second, so that no sheet overwrites another.
 
 const clsGrid JointInstructionsGrid
     = {mdCountOf<&clsZR3Form::JointInstructionsCollection>, JointInstructionCells, JointInstructionsRoom.first,
         JointInstructionsRoom.further, 8, 5, "Claim1A P7 Expert Dibs Joint Instruction Cont", JointInstructionsList};
-// The small a is the template's name as it stands.
+// The small a is part of the template's file name.
 const clsGrid OtherDisbursementsGrid
     = {mdCountOf<&clsZR3Form::NonCounselDisbursementsCollection>, OtherDisbursementCells, OtherDisbursementsRoom.first,
         OtherDisbursementsRoom.further, 27, 3, "Claim1a P7 Other Dibs Cont", OtherDisbursementsList};
@@ -296,7 +296,7 @@ void mdExportWordClaim1aPage11(clsExport &run)
     mdOpenSheet(run, word, notes.firstSheet);
     mdReplaceRows(run, word, CommunicationsRows, 11);
     mdReplaceRows(run, word, SummaryRows, 11);
-    // The additional information has replaced the mark.
+    // The mark has already been replaced, with the additional information.
     mdFinishSheet(run, word);
 }
 
@@ -313,7 +313,7 @@ const clsPlainPage Page12
 
 const clsPlainPage Page13 = {13, "Claim1A P13", {DebtorsDetailsRows}};
 
-// The exporters by their names; page 11 alone has steps of its own.
+// The exporters by name; only page 11 has additional steps.
 
 // clang-format off
 void mdExportWordClaim1aPage1(clsExport &run) { mdExportWordPlainPage(run, Page1); }
@@ -339,7 +339,7 @@ const clsExportPageRow Pages[] = {
     {6, "Claim1a Page 6", mdExportWordClaim1aPage6},
     {7, "Claim1a Page 7", mdExportWordClaim1aPage7},
     {8, "Claim1a Page 8", mdExportWordClaim1aPage8},
-    // These two log under the words of Claim 1. It is meant.
+    // These two log under the name of Claim 1. Required behaviour; do not fix.
     {9, "Claim1 Page 9", mdExportWordClaim1aPage9},
     {10, "Claim1 Page 10", mdExportWordClaim1aPage10},
     {11, "Claim1a Page 11", mdExportWordClaim1aPage11},

@@ -37,7 +37,7 @@ QString mdFinishedDocumentPath(const clsExport &run)
 
 QString mdNameByFile(const QString &claimFile)
 {
-    // Bytes: names end at 255, and to it come the form type, the number and the ending, or what a folder begins with.
+    // Bytes: file names are limited to 255, and form type, number, and extension or folder prefix are added.
     constexpr qsizetype LongestName = 230;
     return mdShortenedName(QFileInfo(claimFile).completeBaseName(), LongestName);
 }
@@ -73,7 +73,7 @@ void putInPlace(clsExport &run, const QString &joined)
     }
 }
 
-/// The same while no other export puts its own there. A request to end comes when it is done: the turn leaves no file.
+/// The same in turn with other exports. Requests to end are held back until it is done, so that no lock file is left.
 void putInPlaceInTurn(clsExport &run, const QString &joined)
 {
     const clsEndSignalsHeld held;
@@ -88,7 +88,7 @@ void mdExportWordCombineDocuments(clsExport &run)
     WriteLog(QStringLiteral("Begin Export Word Combine Documents"));
     const QString folder = mdExportTempFolder(run);
     const QString joined = folder + QStringLiteral("/Joined.doc");
-    // The first sheet is always page 1's, and its name is taken for granted.
+    // The first sheet is always that of page 1; its name is not looked up. Required behaviour.
     const QString first = folder + QStringLiteral("/1(1).doc");
     mdWriteWorkingFile(joined, mdReadDocumentFile(first, ZipLimits::PackageBytes));
     run.sheets.insert(joined, {.templateName = run.sheets.value(first).templateName, .isCopy = false});
@@ -104,8 +104,8 @@ void mdExportWordCombineDocuments(clsExport &run)
     }
     word.TypeBackSpace();
     mdSaveSheet(run, word);
-    // A sheet that could not be joined has been told of, and is passed over. But while the joined document is not saved
-    // there is nothing that may stand under the finished name.
+    // A sheet that could not be joined has been reported and is skipped. But without a saved joined document, nothing
+    // may be put in place.
     if (word.isOpen())
         throw clsExportStopped();
     word.Quit();

@@ -20,7 +20,7 @@ void exportPage(clsExport &run, const clsExportPageRow &page)
     WriteLog(QStringLiteral("End Export Word ") + name);
 }
 
-/// The lock on the folder of the sheets. An error there ends the export, and the user has chosen the folder.
+/// The lock on the folder of the sheets. An error ends the export; the user chose the folder.
 std::shared_ptr<clsFolderLock> folderOfSheets(const clsExport &run)
 {
     try {
@@ -35,7 +35,7 @@ void takeFolder(clsExport &run)
     run.folderLock = folderOfSheets(run);
     if (!run.folderLock)
         throw clsExportStopped();
-    // Another export may have ended while this one waited for the lock.
+    // Another export may have ended during the wait for the lock.
     mdStopAtExistingDocument(run);
 }
 
@@ -44,13 +44,14 @@ void exportSheets(clsExport &run, const clsExportForm &form)
     if (!run.inMemory)
         takeFolder(run);
     for (const clsExportPageRow &page : form.pages) {
-        // The step is taken whether or not the page is included.
+        // The progress advances whether or not the page is included.
         mdSetProgress(page.number, form.progressMaximum, QStringLiteral("Exporting Page %1").arg(page.number));
         exportPage(run, page);
     }
 }
 
-/// The document stands: sheets that can't be swept away don't make its export a failure, and the next one tries again.
+/// The document is in place: failing to delete the sheets doesn't make the export a failure, and the next one tries
+/// again.
 void sweep(const clsExport &run)
 {
     try {

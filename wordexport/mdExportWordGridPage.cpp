@@ -7,9 +7,9 @@
 
 namespace {
 
-/// Gives the open sheet the number of the last sheet made. After a grid that did not overflow this is the first sheet,
-/// which then takes the number of an earlier grid's last sheet: the order of the steps is required. The templates have
-/// a hidden place for each mark but the first, and only the first shows.
+/// Sets the open sheet's number to that of the last sheet created. After a grid that did not overflow this is the first
+/// sheet, which then gets the number of an earlier grid's last sheet. Required behaviour; do not fix. The templates
+/// have a hidden placeholder for each mark but the first, and only the first shows.
 void markOpenSheet(const clsExport &run, clsMSWord &word)
 {
     if (run.ExportSheetCounter > 1)
@@ -50,7 +50,7 @@ void mdExportGrid(
     const auto noteGrid = [&](int linesAbove) {
         run.sheets[sheet].grids.push_back({QString::fromLatin1(grid.list.name), linesAbove});
     };
-    noteGrid(grid.firstOffset); // in the template: what was typed above stands in a cell of exact height
+    noteGrid(grid.firstOffset); // the offset in the template: the text typed above is in a cell of exact height
     word.PassTypedBreaks(run.sheets[firstSheet].breaks);
     word.MoveCursorDown(firstOffset);
     const int count = grid.count(run.form);
@@ -87,7 +87,7 @@ void mdReplaceFirstSheetMark(const clsExport &run, clsMSWord &word)
 
 void mdExportWordGridPage(clsExport &run, const clsGridPage &page)
 {
-    // The first sheet's name is the page's and "(1)", whatever the counter says.
+    // The first sheet is always named after the page with "(1)", regardless of the counter.
     const QString firstSheet = mdMakeSheet(run, QString::fromLatin1(page.pageTemplate), page.number, 1);
     clsMSWord word;
     mdOpenSheet(run, word, firstSheet);

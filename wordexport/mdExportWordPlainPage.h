@@ -3,5 +3,5 @@
 struct clsExport;
 struct clsPlainPage;
 
-/// Exports a page on which text and boxes are filled in: the model of all pages.
+/// Exports a page with only text and tick boxes to fill in, the simplest type of page.
 void mdExportWordPlainPage(clsExport &run, const clsPlainPage &page);

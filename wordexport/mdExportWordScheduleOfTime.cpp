@@ -42,7 +42,7 @@ void typeAndMove(clsMSWord &word, const QString &text, Fill fill, int cellsOn)
     word.MoveCursorRight(cellsOn);
 }
 
-/// Raises what keeps an item from being printed, in the order of its cells.
+/// Raises the error that keeps an item from being printed, in the order of its cells.
 void raiseErrorOf(const Item &item)
 {
     item.TimeColumn();
@@ -59,7 +59,7 @@ void typeRow(clsMSWord &word, const Item &item, const clsSchedulePrice &price)
         raiseErrorOf(item);
     typeAndMove(word, QString::number(item.SOTItemNumber), Fill::Text, 1);
     typeAndMove(word, *price.FeeEarnerInitials, Fill::Text, 1);
-    // In this column only; elsewhere no date prints as it stands.
+    // Only in this column; elsewhere the no-date text prints unchanged. Required behaviour.
     typeAndMove(word, item.dDate() == NoDate ? QString() : item.dDate(), Fill::Text, 1);
     typeAndMove(word, item.Code(), Fill::Text, price.TimeColumn + 1);
     typeAndMove(word, item.TTime(), Fill::Text, Item::Columns - price.TimeColumn);

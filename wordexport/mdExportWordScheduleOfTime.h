@@ -4,6 +4,6 @@
 
 struct clsExport;
 
-/// Exports the schedule of time: each sheet is the page's own template and holds 33 rows; the totals stand on the last
-/// sheet alone. A schedule without items still has one sheet.
+/// Exports the schedule of time: each sheet is made from the page's own template and holds 33 rows; only the last sheet
+/// has the totals. A schedule without items still gets one sheet.
 void mdExportWordScheduleOfTime(clsExport &run, const QString &pageTemplate, int pageNumber);

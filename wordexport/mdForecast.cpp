@@ -16,7 +16,7 @@
 
 namespace {
 
-/// Collects what an export would tell.
+/// Collects the messages of an export.
 class clsListener final : public clsQuietUserInterface {
 public:
     explicit clsListener(std::vector<clsForecast::Message> &messages)
@@ -42,7 +42,7 @@ private:
     std::vector<clsForecast::Message> &m_messages;
 };
 
-/// Nothing that goes on while this object lives is seen from outside.
+/// While this object lives, nothing is shown or logged.
 struct clsSilence {
     explicit clsSilence(std::vector<clsForecast::Message> &messages)
         : listener(messages)

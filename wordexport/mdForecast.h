@@ -5,12 +5,12 @@
 class clsZR3Form;
 struct clsExport;
 
-/// What an export of the claim would give, from the export's own steps on a copy of it, in memory: the claim stays as
-/// it is, nothing is told, logged or written.
+/// The result of exporting the claim, computed in memory by the export's own steps on a copy: the claim is not changed,
+/// and nothing is shown, logged or written.
 clsForecast mdForecast(const clsZR3Form &form, const QString &templatesFolder);
 
-/// What an export has given that came to its end.
+/// The result of an export that has finished.
 clsForecast mdForecastOf(const clsExport &run);
 
-/// Tells the user what the export would, and raises the error in which it would end.
+/// Shows the messages that the export would show, and raises the error that would end it.
 void mdTellAsTheExport(const clsForecast &forecast);

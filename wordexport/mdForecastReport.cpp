@@ -13,7 +13,7 @@ QString counted(int count, const QString &word)
     return QStringLiteral("%1 %2").arg(count).arg(count == 1 ? word : word + u's');
 }
 
-/// What a user knows a box by.
+/// The name of a box for the user.
 QString nameOf(const Box &box)
 {
     if (box.Row == 0)

@@ -10,5 +10,5 @@ QString mdStateInWords(clsForecast::Box::clsState state);
 
 /// A forecast as JSON.
 QByteArray mdForecastAsJson(const clsForecast &forecast);
-/// The same as a short table for people. Its lines end as those of all messages do.
+/// The same as a short table for the user, with the line ends of messages.
 QString mdForecastAsTable(const clsForecast &forecast);

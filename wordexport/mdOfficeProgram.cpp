@@ -19,7 +19,7 @@ std::optional<clsChosen> chosen;
 
 const QString Names[] = {QStringLiteral("soffice"), QStringLiteral("libreoffice")};
 
-/// Folders outside the path in which distributions and the maker's own packages put it.
+/// Folders outside the path that distributions and the publisher's packages use.
 QStringList usualFolders()
 {
     QStringList folders = {QStringLiteral("/usr/bin"), QStringLiteral("/usr/local/bin"),

@@ -2,15 +2,15 @@
 
 #include <QString>
 
-/// The office program that turns documents into pages: LibreOffice, in the path or in one of its usual places. Empty
-/// where there is none.
+/// The office program that converts documents: LibreOffice, in the path or one of its usual places. Empty if there is
+/// none.
 QString mdOfficeProgram();
 
-/// What the user is told then.
+/// The message in that case.
 QString mdNoOfficeProgramMessage();
 
-/// Puts another office program in force for as long as this object lives, and how long it may take; an empty one stands
-/// for a machine that has none.
+/// Replaces the office program and its time limit while this object lives; an empty path stands for a machine without
+/// one.
 class clsOfficeProgramScope {
 public:
     clsOfficeProgramScope(const QString &program, int longestMilliseconds);
@@ -19,5 +19,5 @@ public:
     clsOfficeProgramScope &operator=(const clsOfficeProgramScope &) = delete;
 };
 
-/// How long the office program may take for one document; then it is given up.
+/// The time limit for one document; then the conversion is abandoned.
 int mdOfficeProgramLongestMilliseconds();

@@ -4,11 +4,11 @@
 
 class QProcess;
 
-/// Lets a process that is about to start begin a group of its own, to which all processes belong that it starts.
+/// Makes a process that is about to start the leader of a new process group, which its child processes join.
 void mdGiveOwnGroup(QProcess &process);
 
-/// Ends all processes of the group that a process began. A group that has ended is no failure.
+/// Kills all processes of that group. A group that has already ended is no error.
 void mdKillGroup(qint64 process);
 
-/// Waits until such a group is gone, for a moment at most.
+/// Waits briefly until that group has ended.
 void mdWaitForGroup(qint64 process);

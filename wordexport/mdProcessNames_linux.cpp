@@ -11,8 +11,8 @@ namespace {
 
 constexpr const char *ProcessFolder = "/proc";
 
-// The program's own file where this user may ask for it, which is exact; a process of somebody else still tells
-// its name, cut at fifteen characters.
+// The process's executable if this user may read it, which is exact; for other users' processes the name, cut at
+// fifteen characters.
 QStringList namesOf(const QString &process)
 {
     QStringList names;
@@ -28,21 +28,21 @@ QStringList namesOf(const QString &process)
     return names;
 }
 
-/// The process that has started one; 0 where that can't be told.
+/// The parent of a process; 0 if unknown.
 qint64 parentOf(const QString &process)
 {
     QFile stat(process + QLatin1String("/stat"));
     if (!stat.open(QIODevice::ReadOnly))
         return 0;
-    // "PID (NAME) STATE PARENT ...", and the name may hold anything.
+    // "PID (NAME) STATE PARENT ..."; the name can contain any character.
     const QByteArray line = stat.readAll();
     return line.mid(line.lastIndexOf(')') + 1).simplified().split(' ').value(1).toLongLong();
 }
 
-/// True for a process that this program has started, be it by others.
+/// True for a process started by this program, directly or indirectly.
 bool isOwn(const QDir &folder, const QString &process)
 {
-    constexpr int Generations = 100; // more than there can be, should they change while this looks
+    constexpr int Generations = 100; // a limit in case they change during the loop
     qint64 parent = parentOf(folder.filePath(process));
     for (int i = 0; i < Generations && parent > 1; ++i) {
         if (parent == QCoreApplication::applicationPid())
@@ -62,7 +62,7 @@ QStringList mdProcessNames()
     for (const QString &entry : entries)
         if (!entry.isEmpty() && entry[0].isDigit() && !isOwn(folder, entry))
             names += namesOf(folder.filePath(entry));
-    // This program runs itself, so that an empty list is a list that could not be read.
+    // This program is running itself, so an empty list means that the list could not be read.
     if (names.isEmpty())
         throw clsRunTimeError(clsRunTimeError::PathNotFound);
     return names;

@@ -8,14 +8,14 @@
 namespace {
 
 constexpr const char *Sums[] = {
-#include "ShippedTemplates.inc" // made together with the templates
+#include "ShippedTemplates.inc" // generated with the templates
 };
 
 } // namespace
 
 bool mdIsShippedTemplate(const QByteArray &bytes)
 {
-    // The quickest of those that can't be met on purpose.
+    // The fastest hash that is safe against deliberate collisions.
     const QByteArray sum = QCryptographicHash::hash(bytes, QCryptographicHash::Blake2b_256).toHex();
     return std::any_of(std::begin(Sums), std::end(Sums), [&sum](const char *shipped) { return sum == shipped; });
 }

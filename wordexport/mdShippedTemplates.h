@@ -2,6 +2,6 @@
 
 #include <QByteArray>
 
-/// Whether these are the bytes of a page template as the build made it. Their tests have read them to the letter, so
-/// that an export need not; a template that a firm has changed, or a disk has spoilt, is another one.
+/// Whether these are the bytes of a page template from the build. The tests have checked those strictly, so the export
+/// need not; a template changed by a firm or damaged on the disk is not one of them.
 bool mdIsShippedTemplate(const QByteArray &bytes);

@@ -5,7 +5,7 @@
 
 namespace {
 
-// A test says which other programs run.
+// Tests set which other programs are running.
 clsProcessList current = mdProcessNames;
 
 } // namespace

@@ -4,18 +4,17 @@
 
 #include <functional>
 
-/// True when a separate copy of a word processor is open on this machine. Unguarded: a process list that can't
-/// be read throws clsRunTimeError.
+/// True if a separate word processor is running on this machine. Unguarded: throws clsRunTimeError if the process list
+/// can't be read.
 bool mdWordAlreadyRunning();
 
-/// Where the names of the running processes come from; the platform's own list unless a scope sets another.
+/// Returns the names of the running processes; the platform's list unless a scope sets another.
 using clsProcessList = std::function<QStringList()>;
 
-/// The names of the processes running on this machine, as the platform gives them, without those that this program has
-/// started.
+/// The names of the processes running on this machine, except those started by this program.
 QStringList mdProcessNames();
 
-/// Puts another process list in force for as long as this object lives.
+/// Replaces the process list while this object lives.
 class clsProcessListScope {
 public:
     explicit clsProcessListScope(clsProcessList list);

@@ -14,7 +14,7 @@
 
 class clsClaimCheck;
 
-/// A rule: one row of the one table of rules. The level is that of most of its findings.
+/// A rule: one row of the table of rules. The level is that of most of its findings.
 struct clsCheckRule {
     const char *id;
     clsFindingLevel level;
@@ -29,11 +29,11 @@ struct clsBilledItem {
     std::optional<QDate> date;
 
     bool hasTime() const { return !price->errorOf(clsSchedulePrice::TimeFigure); }
-    /// The beginning of a sentence: "Item 14, 03/06/25,", or "Item 14" without a date.
+    /// The start of a sentence: "Item 14, 03/06/25,", or "Item 14" without a date.
     QString words() const;
 };
 
-/// Where a finding is put right.
+/// Where to correct a finding.
 struct clsFindingPlace {
     QString screen;
     QString list {};
@@ -41,7 +41,7 @@ struct clsFindingPlace {
     QString property {};
 };
 
-/// One look through a claim: what its rules share, and what they have found. It reads the claim and writes nothing.
+/// One check of a claim: the data shared by its rules, and their findings. Only reads the claim.
 class clsClaimCheck {
 public:
     clsClaimCheck(const clsZR3Form &form, const clsCheckFacts &facts);
@@ -53,16 +53,16 @@ public:
     const clsBill &bill() const { return m_bill; }
     bool isClaim1() const { return m_isClaim1; }
     bool isClaim1A() const { return m_isClaim1A; }
-    /// Whether a page of the claim's form is printed; each form has its own number for it, 0 for none.
+    /// Whether a page of the claim's form is printed; the page has a number on each form, 0 for none.
     bool isPrinted(int claim1Page, int claim1APage) const;
 
-    /// The items on the bill, in their order. An item is left out where it can't be told whether it is on the bill.
+    /// The items on the bill, in order, without undecided ones.
     const std::vector<clsBilledItem> &billed();
 
     void add(const clsFindingPlace &place, const QString &text) { add(place, text, m_rule->level); }
     void add(const clsFindingPlace &place, const QString &text, clsFindingLevel level);
 
-    /// Looks at each item of a list by its order. One of which something can't be read is passed over.
+    /// Visits each item of a list by order. Skips an item if something in it can't be read.
     template <class Items, class Look> static void each(const Items &items, Look look)
     {
         for (const auto *item : inOrder(items))
@@ -73,7 +73,7 @@ public:
         for (const clsBilledItem &item : billed())
             unlessItFails([&] { look(item); });
     }
-    /// Runs what may meet something in the claim that can't be read.
+    /// Runs a check; false if something in the claim can't be read.
     template <class Run> static bool unlessItFails(Run run)
     {
         try {
@@ -84,7 +84,7 @@ public:
         }
     }
 
-    // What can't be computed is told once: the rules of amounts pass over an item that has been found so.
+    // Uncomputable figures are reported once: the rules of amounts skip items with such a fault.
     void noteFault(const clsXMLRecord &item) { m_withFault.insert(&item); }
     bool hasFault(const clsXMLRecord &item) const { return m_withFault.contains(&item); }
 
@@ -92,7 +92,7 @@ private:
     template <class Items> static auto inOrder(const Items &items)
     {
         using Item = const typename Items::value_type::element_type;
-        // Reads each order once, and none where there is only one item.
+        // Reads each order once; none if there is only one item.
         std::vector<std::pair<int, Item *>> byOrder;
         byOrder.reserve(items.size());
         for (const auto &item : items)

@@ -4,24 +4,24 @@
 
 #include <vector>
 
-/// How grave a finding is.
+/// The severity of a finding.
 enum class clsFindingLevel {
     Error, ///< the claim will be sent back, or money is lost
     Warning, ///< probably wrong
-    Note, ///< to be looked at
+    Note, ///< to be reviewed
 };
 
 /// "error", "warning" or "note".
 QString mdLevelInWords(clsFindingLevel level);
 
-/// Something in a claim that is to be put right, or looked at, before the claim is sent.
+/// Something in a claim to be corrected or reviewed before the claim is sent.
 struct clsFinding {
-    QString Rule; ///< its identity, such as "date-missing"
+    QString Rule; ///< the rule's identity, such as "date-missing"
     clsFindingLevel Level;
-    QString Screen; ///< that puts it right: the text of its tab
-    QString List; ///< of the screen, such as "schedule"; empty where it has none
+    QString Screen; ///< where it is corrected: the text of its tab
+    QString List; ///< of the screen, such as "schedule"; empty if it has none
     int Item; ///< the order in the list, 0 for none
-    QString Property; ///< that is wrong, by its name in the code; may be empty
-    QString Text; ///< one sentence: what is wrong, and what to do
+    QString Property; ///< the wrong one, its name in the code; may be empty
+    QString Text; ///< one sentence: the fault and what to do
 };
 using clsFindings = std::vector<clsFinding>;

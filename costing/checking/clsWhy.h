@@ -8,10 +8,10 @@
 
 #include <vector>
 
-/// Where something that a figure comes from can be changed.
+/// Where one of the sources of a figure can be changed.
 using clsWhySource = clsClaimPlace;
 
-/// A figure that can be asked about, in the words of `mdWhy`. Empty for none.
+/// A figure that can be explained, by the arguments of `mdWhy`. Empty for none.
 struct clsWhyAsked {
     QString Kind {};
     QString Which {};
@@ -19,25 +19,25 @@ struct clsWhyAsked {
     bool isEmpty() const { return Kind.isEmpty(); }
 };
 
-/// A value that is so many per cent.
+/// A value in per cent.
 struct clsPercentage {
     Money PerCent;
 };
 
-/// A step on the way to a figure.
+/// A step in the calculation of a figure.
 struct clsWhyStep {
     enum clsUnit { Words, Amount, PerCent };
 
-    QString Text; ///< what it is
-    QString Reason; ///< why it is so; may be empty
+    QString Text; ///< what the value is
+    QString Reason; ///< the reason for it; may be empty
     QString Value;
     clsWhySource Source {};
     clsUnit Unit = Words;
-    clsWhyAsked Asked {}; ///< where the value is a figure that has steps too
+    clsWhyAsked Asked {}; ///< if the value is a figure that has steps too
 
     /// Text and reason as one sentence.
     QString sentence() const;
-    /// The value as it is printed: an amount with two decimals, a percentage with its sign.
+    /// The value as printed: an amount with two decimals, a percentage with its sign.
     QString shown() const;
 
     void setValue(const QString &words) { Value = words; }
@@ -53,8 +53,8 @@ struct clsWhyStep {
     }
 };
 
-/// How a figure comes about. The last value is the figure. One that can't be computed is "!" and the number of its
-/// error, and no steps follow it.
+/// How a figure is calculated. The last value is the figure. A failed one is "!" and its error number, with no steps
+/// after it.
 class clsWhy {
 public:
     explicit clsWhy(const clsWhySource &source = {})
@@ -67,7 +67,7 @@ public:
     /// The item whose figure it is.
     const clsWhySource &source() const { return m_source; }
 
-    /// Adds a step whose value is computed: words, an amount or a percentage; nothing after one that failed.
+    /// Adds a step with a computed value: words, an amount or a percentage; does nothing after a failed step.
     template <class Compute>
     void add(const QString &text, const QString &reason, const clsWhySource &source, Compute compute)
     {
@@ -82,13 +82,13 @@ public:
             m_steps.push_back({text, error.cause(), QStringLiteral("!%1").arg(error.number()), source});
         }
     }
-    /// Says that the last step's value is a figure that can be asked about. No other follows one that failed.
+    /// Marks the last step's value as a figure that can be explained itself. Does nothing after a failed step.
     void lastCanBeAsked(const QString &kind, const QString &which)
     {
         if (m_steps.back().Asked.isEmpty())
             m_steps.back().Asked = {kind, which};
     }
-    /// Runs what adds steps; where something that they are made of can't be read, that is the last of them.
+    /// Runs a function that adds steps; if one of their sources can't be read, that is the last step.
     template <class Run> void addAll(const QString &text, Run run)
     {
         try {

@@ -12,7 +12,7 @@ constexpr clsFindingLevel Note = clsFindingLevel::Note;
 
 // clang-format off
 constexpr clsCheckRule Rules[] = {
-    {"figure",                   Error,   mdCheckFigures}, // the first: the rules of amounts ask what it has found
+    {"figure",                   Error,   mdCheckFigures}, // first: the rules of amounts use its results
     {"date-missing",             Warning, mdCheckDateMissing},
     {"date-future",              Error,   mdCheckDateFuture},
     {"date-before-certificate",  Error,   mdCheckDateBeforeCertificate},

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// A kind of letters and calls, with what of it stands where.
+/// A kind of letters and calls, with its properties.
 struct clsKindRow {
     clsCommsKind kind;
     const char *count; ///< of a fee earner
@@ -21,7 +21,7 @@ constexpr clsKindRow LettersOut = {clsCommsKind::LettersOut, "LettersOut", "Lett
 constexpr clsKindRow KindsOfFeeEarner[] = {LettersOut, LettersIn, Calls};
 constexpr clsKindRow KindsOfGroup[] = {Calls, LettersIn, LettersOut};
 
-/// The groups of each kind by its number; none of a kind of which they can't be counted.
+/// The groups by kind; none for a kind that can't be counted.
 using clsGroupsByKind = std::array<std::vector<clsCommsGroup>, 3>;
 
 clsGroupsByKind groupsOf(const clsClaimCheck &check)
@@ -32,7 +32,7 @@ clsGroupsByKind groupsOf(const clsClaimCheck &check)
     return groups;
 }
 
-/// The groups for which the form has no line.
+/// The groups without a line on the form.
 QSet<const clsZR3FeeEarnerGroup *> withoutLine(const std::vector<clsCommsGroup> &groups)
 {
     QSet<const clsZR3FeeEarnerGroup *> lost;
@@ -81,7 +81,7 @@ void mdCheckGroupNotBilled(clsClaimCheck &check)
 void mdCheckCommunicationsRateZero(clsClaimCheck &check)
 {
     const clsGroupsByKind groups = groupsOf(check);
-    // By the group, since all kinds are walked in the same order.
+    // By group, since the groups of all kinds are in the same order.
     const size_t count = std::max({groups[0].size(), groups[1].size(), groups[2].size()});
     for (size_t place = 0; place < count; ++place)
         for (const clsKindRow &row : KindsOfGroup) {

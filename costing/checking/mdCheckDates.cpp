@@ -5,15 +5,15 @@
 
 namespace {
 
-/// Something that is billed and has a date, or should have.
+/// A billed item that has or should have a date.
 struct clsDated {
     clsFindingPlace place;
     QString name;
     std::optional<QDate> date;
 };
 
-/// Those of the items on the bill, counsel's fees and the hearings of the advocacy scheme whose dates are wrong. What
-/// they are called is worked out for these alone.
+/// Visits the billed items, counsel's fees and hearings of the advocacy scheme with wrong dates. Only these get their
+/// names built.
 template <class IsWrong, class Look> void eachWrongDate(clsClaimCheck &check, IsWrong isWrong, Look look)
 {
     check.eachBilled([&](const clsBilledItem &billed) {
@@ -37,7 +37,7 @@ template <class IsWrong, class Look> void eachWrongDate(clsClaimCheck &check, Is
     });
 }
 
-/// A finding for each billed item whose date is wrong.
+/// Adds a finding for each billed item with a wrong date.
 template <class IsWrong, class Text> void addWrongDates(clsClaimCheck &check, IsWrong isWrong, Text text)
 {
     check.eachBilled([&](const clsBilledItem &billed) {
@@ -46,7 +46,7 @@ template <class IsWrong, class Text> void addWrongDates(clsClaimCheck &check, Is
     });
 }
 
-/// The earlier of the two certificates' dates; nothing where neither is one.
+/// The earlier of the two certificates' dates; nothing if neither is a date.
 template <class Section> std::optional<QDate> certificateOf(const Section &section)
 {
     const auto emergency = mdStoredDate(section.EmergencyCertificateDate());

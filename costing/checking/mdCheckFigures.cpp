@@ -6,7 +6,7 @@
 
 #include <iterator>
 
-// What can't be computed. The words are those that the lists and the messages have for it.
+// The figures that can't be computed, in the same words as in the lists and messages.
 
 namespace {
 
@@ -31,8 +31,8 @@ QString sentenceOf(const clsFigureFault &fault)
     return fault.sentence.simplified() + QStringLiteral("; ") + QString::fromLatin1(advice) + u'.';
 }
 
-/// What keeps a figure from being computed. In a claim in which not even that can be told, such as one with an order
-/// that is too large a number, it is that.
+/// The faults that prevent a figure. If even they can't be determined (an order beyond 32 bits, for example), the error
+/// itself is the fault.
 template <class... Of> clsFigureFaults faultsOf(const clsClaimCheck &check, const Of &...of)
 {
     try {
@@ -43,7 +43,7 @@ template <class... Of> clsFigureFaults faultsOf(const clsClaimCheck &check, cons
     }
 }
 
-/// One finding for an item, of the first of its faults.
+/// Adds one finding for an item: its first fault.
 template <class Item>
 void addFirst(clsClaimCheck &check, const Item &item, const clsFindingPlace &place, const clsFigureFaults &faults)
 {
@@ -131,7 +131,7 @@ void checkFixedFee(clsClaimCheck &check)
 
 void mdCheckFigures(clsClaimCheck &check)
 {
-    // In the order of the screens' lists; one that can't be read through leaves the others alone.
+    // In the order of the screens' lists; an unreadable list doesn't affect the others.
     for (const auto part :
         {checkSchedule, checkDisbursements, checkCommunications, checkAdvocacy, checkOutcome, checkFixedFee})
         check.unlessItFails([&] { part(check); });

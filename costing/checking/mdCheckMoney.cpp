@@ -28,7 +28,7 @@ clsFindingPlace placeOf(const clsZR3ExpertInvoice &, int order, const char *prop
     return {DisbursementsScreen, "experts", order, QString::fromLatin1(property)};
 }
 
-/// Looks at each item of which the figures can be had.
+/// Visits each item whose figures can be computed.
 template <class Items, class Look> void eachSound(const clsClaimCheck &check, const Items &items, Look look)
 {
     clsClaimCheck::each(items, [&](const auto &item, int order) {
@@ -52,7 +52,7 @@ bool hasCosts(const clsZR3ExpertInvoice &invoice)
         [](const clsXMLField *field) { return mdStoredAmount(*field) != Money(); });
 }
 
-/// What is the matter with the VAT of an amount; empty where nothing is.
+/// The fault in the VAT of an amount; empty if none.
 QString wrongVAT(const clsClaimCheck &check, Money amount, Money vat)
 {
     const clsZR3Form &form = check.form();
@@ -78,7 +78,7 @@ void checkVAT(clsClaimCheck &check, const Item &item, int order, Money amount, c
             QStringLiteral("%1 has VAT of %2, %3").arg(mdInWords(item), mdFormatMoney(vat), wrong));
 }
 
-/// The two amounts of the actual costs that "Load From Bill" fills.
+/// The two amounts of the actual costs filled by "Load From Bill".
 template <class Look> void eachLoaded(const clsClaimCheck &check, Look look)
 {
     if (!check.isClaim1A())
@@ -156,7 +156,7 @@ void mdCheckJointShares(clsClaimCheck &check)
     constexpr Money Whole = Money::fromTenThousandths(100 * Money::PerPound);
     struct clsExpert {
         Money shares;
-        int last = 0; ///< the place of its last share in the list
+        int last = 0; ///< index of its last share in the list
         int order = 0;
         QString type;
     };
@@ -194,7 +194,7 @@ void mdCheckLoadStale(clsClaimCheck &check)
     eachLoaded(check, [&](const clsFindingPlace &place, Money amount, const QString &words) {
         if (amount == Money())
             return;
-        // What the button writes is shown to the penny.
+        // The button writes amounts to the penny.
         const Money loaded = RoundMoney2(ProfitCostsTotal(check.bill()) - AdvocacyTotal(check.bill()));
         if (amount != loaded)
             check.add(place,

@@ -2,7 +2,7 @@
 
 #include "costing/checking/mdCheckWords.h"
 
-// What the pages ask for: questions, the reasons for an answer, and what must not be missing.
+// The requirements of the pages: answers, the reasons for them, and required fields.
 
 namespace {
 
@@ -35,7 +35,7 @@ bool hasExpertInvoice(const Form &form)
     return !form.ExpertInvoicesCollection().empty();
 }
 
-/// A question with a tick for Yes and one for No, and the page of each form that prints it, 0 for none.
+/// A question with a tick for Yes and one for No, and its page on each form, 0 for none.
 struct clsQuestionRow {
     const char *screen;
     int claim1Page;
@@ -77,7 +77,7 @@ constexpr clsQuestionRow Questions[] = {
         ZR3_PAIR(ExpertsMeetMOJStandard), hasExpertInvoice},
 };
 
-/// An answer that asks for something more.
+/// An answer that requires further text.
 struct clsReasonsRow {
     const char *screen;
     int claim1Page;
@@ -97,7 +97,7 @@ constexpr clsReasonsRow Reasons[] = {
         ZR3_FIELD(PreviousAdvice.LegalHelpYes), ZR3_FIELD(PreviousAdvice.DateLegalHelpFormSigned), true},
 };
 
-/// A field that must be there.
+/// A required field.
 struct clsMissingRow {
     enum Kind { Text, Date, Choice };
 
@@ -163,7 +163,7 @@ clsFindingPlace placeOf(const char *screen, const clsXMLField &field)
     return {screen, "", 0, QString::fromLatin1(field.property().name)};
 }
 
-/// Looks at each row whose page is printed.
+/// Visits each row whose page is printed.
 template <class Rows, class Look> void eachPrinted(const clsClaimCheck &check, const Rows &rows, Look look)
 {
     for (const auto &row : rows)

@@ -4,7 +4,7 @@
 #include "costing/mdPageRoom.h"
 #include "formdata/mdRecordInWords.h"
 
-// What is wrong on the printed sheets.
+// Faults on the printed sheets.
 
 namespace {
 
@@ -20,7 +20,7 @@ constexpr clsBoxStateRow BoxStates[] = {
     {clsPrintedBox::Cut, clsFindingLevel::Error, "is cut off at the end of its box: shorten it."},
 };
 
-/// What is printed in a box, and on which sheet.
+/// The content of a box and its sheet, in words.
 QString boxInWords(const clsPrintedBox &box)
 {
     QString what = QStringLiteral("A figure");
@@ -70,7 +70,7 @@ void mdCheckLostSheets(clsClaimCheck &check)
     const int other = int(check.form().NonCounselDisbursementsCollection().size());
     if (joint <= Joint.first || other <= Other.first)
         return;
-    // Each further sheet of the disbursements takes the place of the joint instructions' of its number.
+    // Each further sheet of the disbursements replaces the joint instructions' sheet of the same number.
     const int lostSheets = (other - Other.first + Other.further - 1) / Other.further;
     const int last = std::min(joint, Joint.first + lostSheets * Joint.further);
     const QString rows = last == Joint.first + 1

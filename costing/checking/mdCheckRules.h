@@ -4,10 +4,10 @@
 
 #include <span>
 
-/// All rules, in the order in which their findings stand.
+/// All rules, in the order of their findings.
 std::span<const clsCheckRule> mdCheckRules();
 
-// The rules by their subjects. What a rule finds is told in the table of rules.
+// The rules by subject. The table of rules describes their findings.
 
 // Figures
 void mdCheckFigures(clsClaimCheck &check);
@@ -44,7 +44,7 @@ void mdCheckQuestionOpen(clsClaimCheck &check);
 void mdCheckReasonsMissing(clsClaimCheck &check);
 void mdCheckMissing(clsClaimCheck &check);
 
-// What is printed
+// Printing
 void mdCheckEnhancementReasons(clsClaimCheck &check);
 void mdCheckPaper(clsClaimCheck &check);
 void mdCheckLostSheets(clsClaimCheck &check);

@@ -17,7 +17,7 @@ clsFindingPlace placeOf(const clsBilledItem &billed, const char *property)
     return {ScheduleScreen, "schedule", billed.order, QString::fromLatin1(property)};
 }
 
-/// The property and the words of the rate that a rule takes.
+/// The property and the name of the rate used by a rule.
 struct clsRateRow {
     const char *property;
     const char *words;
@@ -29,7 +29,7 @@ constexpr clsRateRow Rates[] = {
     {"CounselRate", "a counsel rate"},
     {"TravelAndWaitingRate", "a travel and waiting rate"},
 };
-using clsFirstItems = std::array<int, std::size(Rates)>; ///< by rate: the first item that takes it, 0 for none
+using clsFirstItems = std::array<int, std::size(Rates)>; ///< by rate: the first item that uses it, 0 for none
 
 size_t rateOf(clsZR3ScheduleOfTimeItem::RateRule rule)
 {
@@ -65,13 +65,13 @@ private:
     QHash<QString, const clsZR3FeeEarner *> m_earners;
 };
 
-/// The same number for items that share earner, day and minutes.
+/// The same number for items with the same fee earner, day and minutes.
 size_t shortLikenessOf(const clsBilledItem &billed)
 {
     return qHashMulti(0, billed.item->FeeEarnerUniqueID(), billed.date->toJulianDay(), billed.price->Minutes);
 }
 
-/// What two entries of one piece of work have in common.
+/// The values that two entries of the same work have in common.
 QStringList likenessOf(const clsBilledItem &billed)
 {
     const clsZR3ScheduleOfTimeItem &item = *billed.item;
@@ -146,7 +146,7 @@ void mdCheckDayHours(clsClaimCheck &check)
         day.last = &billed;
         day.earner = earner;
     });
-    std::map<const clsBilledItem *, const clsDay *> longDays; // by place: the items lie in their order
+    std::map<const clsBilledItem *, const clsDay *> longDays; // by address: the items are stored in order
     for (const clsDay &day : std::as_const(days))
         if (day.minutes > LongDay)
             longDays[day.last] = &day;
@@ -161,7 +161,7 @@ void mdCheckDayHours(clsClaimCheck &check)
 
 void mdCheckDoubleEntry(clsClaimCheck &check)
 {
-    // Few items share earner, day and minutes: the rest is read of those only.
+    // Few items share fee earner, day and minutes: only their other values are read.
     QHash<size_t, int> sharers;
     const auto eachWithTime = [&](auto look) {
         check.eachBilled([&](const clsBilledItem &billed) {

@@ -5,14 +5,14 @@
 
 #include <cstring>
 
-// Question marks that stand for lost characters: a file holds the characters of one code page alone, and writes "?" for
-// any other.
+// Question marks from lost characters: a file can only contain the characters of one code page, and has "?" for any
+// other.
 
 namespace {
 
 using Form = clsZR3Form;
 
-/// Texts that are no prose: amounts, rates and times. Dates and identities are known by their names.
+/// Texts that are not prose: amounts, rates and times. Dates and identities are recognised by their names.
 constexpr const char *Figures[] = {
     "TTime",
     "VATRate",
@@ -77,8 +77,8 @@ QStringList proseOf(const clsXMLRecord &record)
     return names;
 }
 
-/// The place of the first "?" that looks like a lost character, or -1. One that ends a question follows a letter and is
-/// followed by none.
+/// The position of the first "?" that looks like a lost character, or -1. One that ends a question comes after a letter
+/// and not before one.
 qsizetype lostCharacter(const QString &text)
 {
     for (qsizetype at = text.indexOf(u'?'); at >= 0; at = text.indexOf(u'?', at + 1)) {
@@ -92,20 +92,20 @@ qsizetype lostCharacter(const QString &text)
     return -1;
 }
 
-/// Whether a content can hold a question mark, encoded or not: hardly any does, and none of the others is decoded.
+/// Whether a content may contain a question mark, encoded or not: hardly any does, and the others need not be decoded.
 bool mayHoldMark(const char *content)
 {
     return std::strchr(content, '?') || std::strstr(content, "%3F") || std::strstr(content, "%3f");
 }
 
-/// The words around a place of a text.
+/// The words around a position of a text.
 QString excerptOf(const QString &text, qsizetype at)
 {
     constexpr qsizetype Around = 15;
     return text.mid(std::max<qsizetype>(0, at - Around), 2 * Around).simplified();
 }
 
-/// A screen, while its texts are looked through.
+/// A screen whose texts are being checked.
 class clsTexts {
 public:
     clsTexts(clsClaimCheck &check, const char *screen)

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// What a thing is, its number, and what it is called where it has a name. A line break would end the sentence.
+/// The type of an item, its number, and its name if it has one. A line break would end the sentence.
 QString named(const char *what, int order, const QString &name)
 {
     constexpr qsizetype Longest = 40;
@@ -20,7 +20,7 @@ QString named(const char *what, int order, const QString &name)
     return mdWithApposition(number, plain.size() > Longest ? plain.left(Longest) + u'\u2026' : plain);
 }
 
-/// The same of what is known by a reference alone.
+/// The same for items identified by a reference alone.
 QString referred(const char *what, int order, const QString &reference)
 {
     const QString plain = reference.simplified();

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Notes of one rule beyond so many share a line.
+/// If a rule has more notes than this, they share a line.
 constexpr size_t MostNotesOfARule = 3;
 
 struct clsFoldRow {
@@ -14,7 +14,7 @@ struct clsFoldRow {
     const char *words;
 };
 
-/// Each rule that can find notes. They are always more than one.
+/// The rules that find notes. The texts are only used for more than one.
 constexpr clsFoldRow Folds[] = {
     {"long-item", "%1 long items have no description."},
     {"voucher", "%1 disbursements need a voucher."},
@@ -30,7 +30,7 @@ QString foldedText(const QString &rule, size_t count)
         .arg(count);
 }
 
-/// What a finding is about; empty where that is nothing single.
+/// The item and property of a finding; empty if it has no single subject.
 QString subjectOf(const clsFinding &finding)
 {
     if (finding.Item == 0 && finding.Property.isEmpty())
@@ -39,7 +39,7 @@ QString subjectOf(const clsFinding &finding)
         .arg(finding.Screen, finding.List, QString::number(finding.Item), finding.Property);
 }
 
-/// Those that are shown: no finding below a graver one about the same.
+/// The findings to show: none with a more severe one for the same subject.
 std::vector<int> gravest(const std::vector<clsShownFinding> &findings)
 {
     QHash<QString, int> bySubject;
@@ -72,7 +72,7 @@ clsFindingGroup::clsKind groupOf(const clsShownFinding &shown)
     return clsFindingGroup::Notes;
 }
 
-/// The screen of all these notes, where it is the same.
+/// The screen of all these notes, if it is the same.
 QString screenOfAll(const std::vector<clsShownFinding> &findings, const std::vector<int> &which)
 {
     const QString &screen = findings[size_t(which.front())].Finding.Screen;
@@ -89,7 +89,7 @@ clsFindingLine lineOf(const std::vector<clsShownFinding> &findings, const std::v
     return {foldedText(first.Finding.Rule, which.size()), screenOfAll(findings, which), which};
 }
 
-/// The findings of each rule together, in a line of their own where they are too many.
+/// Adds the notes rule by rule; too many of one rule get a common line.
 void addNotes(clsFindingGroup &group, const std::vector<clsShownFinding> &findings, const std::vector<int> &notes)
 {
     QHash<QString, std::vector<int>> byRule;

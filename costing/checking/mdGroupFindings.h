@@ -6,39 +6,39 @@
 
 #include <vector>
 
-/// A line of the check as it is shown: one finding, or many notes of one rule.
+/// A line of the check's display: one finding, or several notes of one rule.
 struct clsFindingLine {
     QString Text;
     QString Place;
-    std::vector<int> Findings; ///< their numbers in the check
+    std::vector<int> Findings; ///< their indices in the check
 
     bool isFold() const { return Findings.size() > 1; }
 };
 
-/// The findings of one level, or those that were put aside.
+/// The findings of one level, or those put aside.
 struct clsFindingGroup {
     enum clsKind { Errors, Warnings, Notes, PutAside };
 
     clsKind Kind;
-    int Count = 0; ///< of the findings, also of those that share a line
+    int Count = 0; ///< of the findings, including those that share a line
     std::vector<clsFindingLine> Lines {};
 };
 
-/// A finding with all that is needed to show it.
+/// A finding with everything needed to show it.
 struct clsShownFinding {
     clsFinding Finding;
-    QString Place; ///< where it is put right, in words
+    QString Place; ///< where to correct it, in words
     bool IsAside = false;
 };
 
-/// Sorts findings into groups, the gravest first, in the order in which they stand. Of several about one item and
-/// property only the gravest is shown, not counting those that are put aside. Empty groups are left out.
+/// Sorts findings into groups, the most severe first, keeping their order. Of several for one item and property only
+/// the most severe is shown, not counting those put aside. Empty groups are omitted.
 std::vector<clsFindingGroup> mdGroupFindings(const std::vector<clsShownFinding> &findings);
 
-/// How many findings of a level are shown.
+/// The number of findings shown for a level.
 int mdCountOf(const std::vector<clsFindingGroup> &groups, clsFindingGroup::clsKind kind);
 
-/// "2 errors, 1 warning"; with notes also "3 notes". Empty where there is nothing to count.
+/// "2 errors, 1 warning"; with notes also "3 notes". Empty if there are none.
 QString mdCountsInWords(const std::vector<clsFindingGroup> &groups, bool withNotes);
 
 /// How many of a screen's findings are shown, notes not counted.

@@ -6,8 +6,8 @@
 
 #include <optional>
 
-// How the figures of the bill come about. Each step's value is the program's own figure. The claim is the same
-// afterwards. Nothing is returned for a figure that there isn't.
+// How the figures of the bill are calculated. The value of each step is the program's own figure. The claim is
+// unchanged afterwards. Nothing is returned for a figure that doesn't exist.
 
 /// An item of the schedule, by its order.
 std::optional<clsWhy> mdWhyScheduleItem(const clsBill &bill, int orderID);
@@ -15,7 +15,7 @@ std::optional<clsWhy> mdWhyScheduleItem(const clsBill &bill, int orderID);
 std::optional<clsWhy> mdWhyCommunications(const clsBill &bill, clsCommsKind kind, int line);
 /// A hearing of the advocacy scheme, by its order.
 std::optional<clsWhy> mdWhyFASItem(const clsBill &bill, int orderID);
-/// A total, or a figure of the bill's summary, by the key under which it is printed.
+/// A total, or a figure of the bill's summary, by its key.
 std::optional<clsWhy> mdWhyTotal(const clsBill &bill, const QString &key);
 /// What that total or figure is called; empty for a key that the claim's form lacks.
 QString mdTotalInWords(const clsZR3Form &form, const QString &key);
@@ -25,6 +25,6 @@ std::optional<clsWhy> mdWhyListColumn(const clsBill &bill, const QString &column
 /// A figure of the strip of totals, by its key in `mdClaimTotals`.
 std::optional<clsWhy> mdWhyClaimTotal(const clsBill &bill, const QString &key);
 
-/// One of these: "schedule" and an order, "communications" and kind and line as in "2/1", "fas" and an order, "total"
+/// Any of these: "schedule" and an order, "communications" and kind and line as in "2/1", "fas" and an order, "total"
 /// and a key, "list" and a column.
 std::optional<clsWhy> mdWhy(const clsBill &bill, const QString &kind, const QString &which);

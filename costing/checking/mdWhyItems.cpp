@@ -75,7 +75,7 @@ public:
 private:
     using Price = clsSchedulePrice;
 
-    /// A figure that is worked out already, or its error.
+    /// A figure already computed, or its error.
     Money figure(Price::Figure which, Money value) const
     {
         if (const int error = m_price.errorOf(which))
@@ -145,7 +145,7 @@ private:
 
 constexpr const char *KindsInWords[] = {"calls", "letters in", "letters out"};
 
-/// The steps of a line that a group takes.
+/// The steps of a line with a group.
 void addLine(clsWhy &why, const clsZR3Form &form, const clsZR3FeeEarnerGroup &group, clsCommsKind kind, int line)
 {
     const clsWhySource own = why.source();

@@ -13,7 +13,7 @@ namespace {
 
 using Form = clsZR3Form;
 
-/// What an item is called at the beginning of a step.
+/// The name of an item at the start of a step.
 template <class Item> QString nameOf(const Item &item)
 {
     QString words = mdInWords(item);
@@ -41,7 +41,7 @@ void addAmounts(clsWhy &why, const Form &form, const Items &items, const char *l
             [&] { return mdExplained(form, *item, [&] { return MoneyFromText(((*item).*field)()); }); });
 }
 
-/// The same of the disbursements that are counsel's fees.
+/// The same for the disbursements that are counsel's fees.
 template <class Field> void addFees(clsWhy &why, const Form &form, Field field)
 {
     for (const auto &item : form.DisbursementsCollection())

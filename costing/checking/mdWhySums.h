@@ -8,8 +8,8 @@
 
 class clsZR3FASItem;
 
-// The steps of the totals that are sums over items: one for each, in the order in which the total adds them up, so that
-// the first that fails is the one whose error the total takes.
+// The steps of the totals over items: one for each item, in the order of the addition, so that the first one that fails
+// has the total's error.
 
 void mdAddColumns(clsWhy &why, const clsBill &bill);
 void mdAddAdvocacy(clsWhy &why, const clsBill &bill);
@@ -25,8 +25,8 @@ void mdAddHearings(clsWhy &why, const clsBill &bill);
 void mdAddHearingsVAT(clsWhy &why, const clsBill &bill);
 void mdAddCommunications(clsWhy &why, const clsBill &bill);
 
-/// Leaves the VAT of hearings that have none as it is: their total writes "0" into it, and who only asks for a figure
-/// must not change the claim.
+/// Preserves the empty VAT of hearings: computing their total writes "0" to it, but explaining a figure must not change
+/// the claim.
 class clsKeptHearingsVAT {
 public:
     explicit clsKeptHearingsVAT(const clsZR3Form &form);

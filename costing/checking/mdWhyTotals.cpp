@@ -14,13 +14,13 @@ namespace {
 
 using Form = clsZR3Form;
 
-/// How a figure is made of others: their keys, and what is done with them; or of items.
+/// How a figure is calculated from others (their keys, and the operation) or from items.
 struct clsTotalRow {
     enum Shape { Sum, Difference, VAT };
 
     const char *key;
     const char *words;
-    const char *screen; ///< where it can be changed; none for a sum of several screens
+    const char *screen; ///< where it can be changed; empty for a sum of several screens
     std::array<const char *, 5> parts {};
     void (*addItems)(clsWhy &why, const clsBill &bill) = nullptr;
     Shape shape = Sum;
@@ -64,7 +64,7 @@ constexpr clsTotalRow TotalRows[] = {
         {"LoadFromBillNet"}, nullptr, clsTotalRow::VAT},
 };
 
-// What both forms' summaries begin with.
+// The start of both forms' summaries.
 constexpr clsTotalRow SharedRows[] = {
     {"npc",        Costs, "", {"ScheduleTotal", "CommsTotal"}},
     {"nex",        Experts, Spent, {}, mdAddExpertAmounts},
@@ -112,7 +112,7 @@ constexpr clsTotalRow Claim1AColumns[] = {
     {"counsel",       "Counsel's fees with VAT", "", {"ncsl", "vcsl"}},
     {"all",           "Total and counsel", "", {"total", "counsel"}},
 };
-// The strip's own
+// Figures only in the strip
 constexpr clsTotalRow StripRows[] = {
     {"other",         "Other", "", {"CommsTotal", "ExpertInvoicesNetTotal", "NonCounselDisbursementsAmountTotal"}},
     {"fixedfee",      "Fixed fee", "Actual Costs"},
@@ -127,7 +127,7 @@ constexpr clsTotalRow Claim1ALimitRows[] = {
 
 using clsRows = std::span<const clsTotalRow>;
 
-/// What a key of a claim is: how it is made, and the program's own figure.
+/// The meaning of a key for a claim: the calculation, and the program's own figure.
 struct clsTotal {
     const clsTotalRow *row = nullptr;
     const clsBillFigure *figure = nullptr;

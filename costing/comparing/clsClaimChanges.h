@@ -8,7 +8,7 @@
 
 /// A field that differs. Values are texts.
 struct clsFieldChange {
-    QString Screen; ///< the text of its tab; empty in an item
+    QString Screen; ///< the text of its tab; empty for an item's field
     QString Property;
     QString Old;
     QString New;
@@ -22,20 +22,20 @@ struct clsItemChange {
     QString List; ///< such as "schedule"
     QString Name {}; ///< what it is called now: "Schedule item 2", "Fee earner AB"
     Kind Change = Changed;
-    int OldItem = 0; ///< its order, 0 where there is none
+    int OldItem = 0; ///< its order, 0 if there is none
     int NewItem = 0;
-    std::vector<clsFieldChange> Fields; ///< of an item that was added or removed, all that are not empty
-    QString Effect; ///< what it is worth now less what it was worth before; empty for a list without amounts
+    std::vector<clsFieldChange> Fields; ///< for an added or removed item, all that are not empty
+    QString Effect; ///< its present value less its former value; empty for a list without amounts
 };
 
-/// A single figure of the bill that differs. A form that lacks it has no text for it.
+/// A single figure of the bill that differs. Its text is empty for a form without it.
 struct clsTotalChange {
     QString Key;
     QString Old;
     QString New;
 };
 
-/// What differs between two claims.
+/// The differences between two claims.
 struct clsClaimChanges {
     std::vector<clsFieldChange> Fields;
     std::vector<clsItemChange> Items;

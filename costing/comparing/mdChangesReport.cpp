@@ -95,7 +95,7 @@ QString mdChangesInLines(const clsClaimChanges &changes, const QString &before)
         lines << fromTo(total.Key, total.Old, total.New);
     QString text;
     for (QString &line : lines)
-        // A line break of a value is no end of a line here.
+        // A line break in a value must not end the line.
         text += before + line.replace(u'\r', u' ').replace(u'\n', u' ') + QStringLiteral("\r\n");
     return text;
 }

@@ -4,7 +4,7 @@
 
 class clsJsonWriter;
 
-/// Writes the three lists of what differs into an object that is open.
+/// Writes the three lists of differences to the open object.
 void mdWriteChanges(clsJsonWriter &json, const clsClaimChanges &changes);
 
 /// What differs, as it is given, a line that ends in CR LF for each; nothing where nothing differs.

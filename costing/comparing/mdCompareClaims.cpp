@@ -47,12 +47,12 @@ constexpr clsSectionRow Sections[] = {
     {"Debtor's Details",           sectionOf<&Form::DebtorsDetails>},
 };
 
-/// What changes by a save or while the program is used, and says nothing of the claim.
+/// Values changed by saving or by using the program, without a meaning for the claim.
 constexpr const char *NoDifferences[] = {
     "path", "version", "timespent", "idcounter", "exportpath", "defaultfeeearnerlistindex",
 };
 
-/// The screens of the claim's own fields, where they don't stand in its setup.
+/// The screens of the claim's own fields, except those on its setup screen.
 struct clsOwnFieldRow {
     const char *beginning; ///< of the property's name
     const char *screen;
@@ -84,7 +84,7 @@ void addChange(std::vector<clsFieldChange> &changes, const clsFieldChange &chang
         changes.push_back(change);
 }
 
-/// Compares two records of one class. `screen` names the screen of a property.
+/// Compares two records of one class. `screenOf` returns the screen of a property.
 template <class ScreenOf>
 void addChanges(
     std::vector<clsFieldChange> &changes, const clsXMLRecord &before, const clsXMLRecord &after, ScreenOf screenOf)
@@ -105,7 +105,7 @@ std::vector<clsFieldChange> fieldChanges(const Form &before, const Form &after)
     for (const clsSectionRow &row : Sections)
         addChanges(changes, row.record(before), row.record(after),
             [&](const QString &) { return QString::fromLatin1(row.screen); });
-    // The one element that is there only where it is set.
+    // The element exists only while a limit is set.
     addChange(changes,
         {QStringLiteral("Costs Limit"), QStringLiteral("CostsLimit"), mdStoredCostsLimit(before),
             mdStoredCostsLimit(after)});
@@ -132,7 +132,7 @@ template <class Item, auto Net, auto VAT> Money grossOf(const clsXMLRecord &item
 
 struct clsListRow {
     const char *word;
-    std::vector<const char *> sameIn; ///< what items that belong together have in common, where they are not equal
+    std::vector<const char *> sameIn; ///< the common properties of matching items that are not equal
     Money (*worth)(const clsXMLRecord &item) = nullptr;
 };
 
@@ -211,7 +211,7 @@ QString figureText(const clsBill &bill, const clsBillFigure *row)
     }
 }
 
-/// The figures of the bill's summary, with those that only the other form has behind them.
+/// The keys of the bill's summary, followed by those that only the other form has.
 QStringList summaryKeys(const Form &before, const Form &after)
 {
     QStringList keys;

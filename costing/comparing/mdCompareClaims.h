@@ -4,9 +4,9 @@
 
 class clsZR3Form;
 
-/// What differs between a claim and a later state of it. Both are the same afterwards. Places in the order, identities
-/// that are yet to be given, and what a save or the use of the program writes are no differences.
+/// The differences between a claim and a later state of it. Changes neither. Ignores positions in the order, the
+/// identity counter, and values written by saving or by using the program.
 ///
-/// Items of a list belong together where they are equal; then where they have the same identity, or what stands for it
-/// (date and fee earner, say), each with the first that is left.
+/// List items are matched if they are equal; the rest if they have the same identity or its substitute (such as date
+/// and fee earner), each with the first one left.
 clsClaimChanges mdCompareClaims(const clsZR3Form &before, const clsZR3Form &after);

@@ -12,7 +12,7 @@
 namespace {
 
 using Items = std::vector<const clsXMLRecord *>;
-using Key = QStringList; ///< the values that two items have to have in common
+using Key = QStringList; ///< the values that two items must have in common
 
 /// All properties but the order.
 Key wholeOf(const clsXMLRecord &item)
@@ -34,7 +34,7 @@ Key partOf(const clsXMLRecord &item, const std::vector<const char *> &properties
     return key;
 }
 
-/// Gives each old item that is still alone the first new one that is alone and has its key.
+/// Matches each unmatched old item with the first unmatched new one with the same key.
 template <class KeyOf> void pair(std::vector<clsItemMatch> &matches, Items &left, bool isEqual, KeyOf keyOf)
 {
     QHash<Key, QList<size_t>> places;

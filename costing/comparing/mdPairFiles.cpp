@@ -26,7 +26,7 @@ struct clsNamesakes {
     bool areSeveral() const { return old.size() > 1 || now.size() > 1; }
 };
 
-/// Takes the pairs of one name out of its files.
+/// Adds the pairs among the files of one name.
 void addPairs(std::vector<clsFilePair> &pairs, const QString &name, clsNamesakes files)
 {
     const bool several = files.areSeveral();

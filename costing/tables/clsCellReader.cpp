@@ -27,7 +27,7 @@ clsImportedCell wrong(const QString &text, const QString &reason)
     return {text, {}, reason};
 }
 
-/// A date with slashes between its parts, as the date box takes it.
+/// A date with slashes between its parts, for the date box.
 QString slashed(const QString &text)
 {
     QString date = text;
@@ -36,7 +36,7 @@ QString slashed(const QString &text)
     return date;
 }
 
-/// Why a text is no date: a day that its month doesn't have is the usual slip.
+/// Why a text is not a date: usually the month doesn't have that day.
 QString reasonOfDate(const QString &text)
 {
     QStringList parts = slashed(text).split(u'/');
@@ -97,7 +97,7 @@ clsImportedCell readTick(const QString &text)
     return wrong(text, QStringLiteral("%1 is neither yes nor no").arg(mdQuoted(text.trimmed())));
 }
 
-/// An amount as its box takes it, but for its comma: there 1,250 becomes 1.00, which shows at once.
+/// Reads an amount like its box, except for the comma: the box turns 1,250 into 1.00, which the user sees at once.
 clsImportedCell readAmount(const QString &text, bool mayBeMissing)
 {
     const QString amount = text.trimmed();
@@ -149,7 +149,7 @@ clsImportedCell readCommsKind(const QString &text)
     return wrong(text, QStringLiteral("%1 is no call, letter in or letter out").arg(mdQuoted(text.trimmed())));
 }
 
-/// Line breaks as a claim has them.
+/// Line breaks in the claim's form.
 QString withLineBreaks(QString text)
 {
     return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"))
@@ -157,7 +157,7 @@ QString withLineBreaks(QString text)
         .replace(QStringLiteral("\n"), QStringLiteral("\r\n"));
 }
 
-/// The identity of an item that is known by a text, which may have blanks around it.
+/// The identity of an item from its name, which may be surrounded by blanks.
 clsImportedCell readName(const QHash<QString, QString> &items, const QString &text, const char *word)
 {
     for (const QString &name : {text, text.trimmed()})
@@ -169,7 +169,7 @@ clsImportedCell readName(const QHash<QString, QString> &items, const QString &te
     return wrong(text, QStringLiteral("No %1 %2 in this claim").arg(what, mdQuoted(text.trimmed())));
 }
 
-/// The items of a list by what they are called. Of several the first in order counts.
+/// The items of a list by name. Of several with the same name the first in order counts.
 template <class Item, class Name>
 QHash<QString, QString> identitiesOf(const clsZR3Form &form, QStringView list, Name name)
 {

@@ -6,15 +6,15 @@
 
 struct clsImportedCell;
 
-/// Reads cells as the boxes of the editors read what is typed, into what an item stores.
+/// Reads cells like the boxes of the editors read typed text, and converts them to an item's stored values.
 class clsCellReader {
 public:
     explicit clsCellReader(const clsZR3Form &form);
 
     clsImportedCell read(clsCellKind kind, const QString &text) const;
-    /// A fee earner, an enhancement or a counsel that has to be there, though its name may be empty.
+    /// Reads a fee earner, enhancement or counsel that must exist, though its name may be empty.
     clsImportedCell readNamed(clsCellKind kind, const QString &text) const;
-    /// The value of an item of the claim, in the form in which a cell's would be.
+    /// The value of an item of the claim, normalised like that of a cell.
     static QString normalised(clsCellKind kind, const QString &stored);
 
 private:

@@ -10,13 +10,13 @@
 
 namespace {
 
-/// A text as the claim gives it back once it is stored.
+/// A text as the claim returns it after storing.
 QString asStored(const QString &text)
 {
     return XMLDecodeText(XMLEncodeText(text).constData());
 }
 
-/// What has to be equal in a double.
+/// The values that must be equal in a double.
 QStringList keyOf(const clsImportList &list, const clsImportedRow &row)
 {
     QStringList key;
@@ -35,7 +35,7 @@ QStringList keyOf(const clsImportList &list, const clsXMLRecord &item)
     return key;
 }
 
-/// The items of the list by all that they are.
+/// The items of the list by all their values.
 QHash<QStringList, int> itemsByKey(const clsImportList &list, const clsZR3Form &form)
 {
     QHash<QStringList, int> orders;
@@ -52,7 +52,7 @@ bool holds(const std::vector<int> &columns, int column)
     return std::find(columns.begin(), columns.end(), column) != columns.end();
 }
 
-/// For each column its place in the table, -1 where the table lacks it.
+/// The position of each column in the table, -1 if the table lacks it.
 std::vector<qsizetype> placesOf(const clsImportList &list, const std::vector<int> &meanings)
 {
     std::vector<qsizetype> places(list.columns.size(), -1);
@@ -62,7 +62,7 @@ std::vector<qsizetype> placesOf(const clsImportList &list, const std::vector<int
     return places;
 }
 
-/// Why a row as a whole can't be read: a text that stands beside the header.
+/// Why the whole row can't be read: it has texts beyond the columns of the header.
 QString excessOf(const clsTextRow &text, qsizetype columns)
 {
     const auto beyond = text.Cells.begin() + std::min(columns, text.Cells.size());
@@ -70,7 +70,7 @@ QString excessOf(const clsTextRow &text, qsizetype columns)
     return excess > 0 ? QStringLiteral("There is a cell without a column") : QString();
 }
 
-/// What is named counts, where the table has no column that says so; and where something counts, it has to be named.
+/// If the table has no tick column, a named item is ticked; if the tick is set, an item must be named.
 void joinTick(clsImportedRow &row, const clsTableColumn &column, size_t place, const clsImportList &list,
     const std::vector<qsizetype> &places, const clsCellReader &reader)
 {
@@ -155,7 +155,7 @@ clsImportedRows::clsImportedRows(
         readRows(form);
 }
 
-/// What a name stands for beside the names that all tables know; -1 where nothing was said of it.
+/// The meaning set for a name, other than the names that all tables share; -1 for none.
 int clsImportedRows::namedColumn(const Names &names, const QString &name) const
 {
     for (const auto &[called, column] : names)
@@ -164,14 +164,14 @@ int clsImportedRows::namedColumn(const Names &names, const QString &name) const
     return -1;
 }
 
-/// How many cells of a row name a column.
+/// The number of cells in a row that name a column.
 qsizetype clsImportedRows::namesIn(const clsTextRow &row, const Names &names) const
 {
     return std::count_if(row.Cells.begin(), row.Cells.end(),
         [&](const QString &cell) { return namedColumn(names, cell) >= 0 || columnOf(cell) >= 0; });
 }
 
-/// The header is the first of the rows that name the most columns: a heading may stand above it.
+/// The header is the first of the rows that name the most columns: a title may be above it.
 void clsImportedRows::findHeader(QStringView text, const Names &names)
 {
     constexpr int RowsToLookAt = 30;
@@ -198,7 +198,7 @@ void clsImportedRows::findHeader(QStringView text, const Names &names)
         std::make_move_iterator(table.Rows.end()));
 }
 
-/// What was said of a name goes before what all tables know.
+/// Meanings set for a name override the names that all tables share.
 void clsImportedRows::giveMeanings(const Names &names)
 {
     m_meanings.assign(size_t(m_header.size()), -1);

@@ -6,49 +6,48 @@
 
 class clsCellReader;
 
-/// The items of a table, before they are stored: what each column means, what each cell is read as, what is wrong, and
-/// which rows the claim has already. Everything can be looked at and changed first; the claim changes by `appendTo`
-/// alone, and then by all chosen rows.
+/// The items of a table before they are stored: the meaning of each column, the value of each cell, the faults, and
+/// which rows the claim already has. Everything can be reviewed and changed first; only `appendTo` changes the claim,
+/// adding all chosen rows.
 class clsImportedRows {
 public:
-    /// Columns that are called otherwise: the name in the table, and the name or property of the column.
+    /// Other names of columns: the name in the table, and the name or property of the column.
     using Names = std::vector<std::pair<QString, QString>>;
 
-    /// Finds the separator, the header and what its columns mean, and reads the rows.
+    /// Detects the separator, the header and the meanings of its columns, and reads the rows.
     clsImportedRows(const clsZR3Form &form, const clsImportList &list, QStringView text, const Names &names = {});
 
-    /// Why there are no rows at all; empty where there are, or might be.
+    /// Why there are no rows at all; empty otherwise.
     const QString &error() const { return m_error; }
-    /// The header, as it stands in the table.
+    /// The header, unchanged from the table.
     const QStringList &header() const { return m_header; }
-    /// What a column of the table means, as a place among those of the list; -1 where it means nothing.
+    /// The meaning of a column of the table, as an index into those of the list; -1 for none.
     int meaningOf(int place) const { return m_meanings[size_t(place)]; }
-    /// Gives a column of the table another meaning, takes it from the column that had it, and reads the rows anew.
+    /// Sets the meaning of a column of the table, removes it from the column that had it, and reads the rows again.
     void setMeaning(const clsZR3Form &form, int place, int column);
-    /// Finds by what stands in its cells what a column means whose name says nothing, where one is missing; the text is
-    /// that of the table, of which then no line may name the columns at all.
+    /// If required columns are missing, guesses the meaning of unnamed columns from their cells. `text` is the table's;
+    /// if none of its lines names the columns, all of them are read as rows.
     void guessMeanings(const clsZR3Form &form, QStringView text);
-    /// How many rows stand below the header, and a cell of them as it stands there, read or not.
+    /// The number of rows below the header, and the original text of a cell of any column.
     int lines() const { return int(m_texts.size()); }
     QString textAt(int row, int place) const { return m_texts[size_t(row)].Cells.value(place); }
 
-    /// The columns that mean nothing and have a text. Those that the tables of this program have beside are no news.
+    /// The columns without a meaning that have texts, except the additional columns of this program's own tables.
     QStringList unknownColumns() const;
-    /// Those of the names in a table that this one doesn't have.
+    /// The names that this table doesn't have.
     QStringList missingNames(const Names &names) const;
 
     const std::vector<clsImportedRow> &rows() const { return m_rows; }
-    /// Puts another text into a cell of a column that the table has, and reads the row anew.
+    /// Replaces the text of a cell in a column that the table has, and reads the row again.
     void setCell(const clsZR3Form &form, int row, int column, const QString &text);
     void choose(int row, bool isChosen) { m_rows[size_t(row)].IsChosen = isChosen; }
     void chooseDoubles(bool areChosen);
-    /// How many rows are chosen.
+    /// The number of chosen rows.
     int chosen() const;
     /// Whether one of them is wrong.
     bool hasWrongChosen() const;
 
-    /// Adds the chosen rows to the claim, in their order, and gives how many. One that is wrong can't be stored: then
-    /// nothing is.
+    /// Adds the chosen rows to the claim, in order, and returns their number. If any is wrong, adds nothing.
     int appendTo(clsZR3Form &form) const;
 
 private:

@@ -3,13 +3,13 @@
 
 #include <algorithm>
 
-// What a column means, by what stands in its cells.
+// Guesses the meaning of columns from their cells.
 
 namespace {
 
 constexpr size_t RowsToLookAt = 200;
 
-/// The kinds that are known by their cells. A tick, a count or a second amount could be anything.
+/// The kinds that can be recognised from their cells. A tick, a count or a second amount could be anything.
 bool isKnownByCells(clsCellKind kind)
 {
     switch (kind) {
@@ -24,7 +24,7 @@ bool isKnownByCells(clsCellKind kind)
     }
 }
 
-/// What a cell says for a kind: nothing, or more than nothing. A number alone may be a row's.
+/// The evidence in a cell for a kind: none, plain or marked. A plain number may be a row number.
 int weightOf(clsCellKind kind, const QString &text, const clsCellReader &reader)
 {
     constexpr int Plain = 1;
@@ -35,7 +35,7 @@ int weightOf(clsCellKind kind, const QString &text, const clsCellReader &reader)
     return isMarked ? Marked : Plain;
 }
 
-/// How well the cells of a place fit a kind; 0 where fewer than three in five do.
+/// How well the cells of a column fit a kind; 0 if fewer than three in five do.
 int fitOf(const std::vector<clsTextRow> &texts, qsizetype place, clsCellKind kind, const clsCellReader &reader)
 {
     int filled = 0;
@@ -51,7 +51,7 @@ int fitOf(const std::vector<clsTextRow> &texts, qsizetype place, clsCellKind kin
     return fitting * 5 >= filled * 3 ? weight : 0;
 }
 
-/// How much is written in a place; 0 where it holds no letters.
+/// The length of the texts in a column; 0 if they have no letters.
 int lengthOf(const std::vector<clsTextRow> &texts, qsizetype place)
 {
     int length = 0;
@@ -63,7 +63,7 @@ int lengthOf(const std::vector<clsTextRow> &texts, qsizetype place)
     return length;
 }
 
-/// The place without a meaning that a measure gives most; -1 where it gives none of them anything.
+/// The column without a meaning that has the highest measure; -1 if all are 0.
 template <class Measure> int bestPlace(const std::vector<int> &meanings, Measure measure)
 {
     int best = -1;
@@ -88,7 +88,7 @@ qsizetype widthOf(const clsTextTable &table)
 
 } // namespace
 
-/// All lines are rows, but for a first one of which no cell is a value where the next has one.
+/// All lines are rows, except a first one without any value if the second has one.
 void clsImportedRows::takeWithoutHeader(
     QStringView text, const std::vector<clsCellKind> &kinds, const clsCellReader &reader)
 {
@@ -141,7 +141,7 @@ void clsImportedRows::guessMeanings(const clsZR3Form &form, QStringView text)
         if (isKnownByCells(kind) && !isHeld(column))
             giveTo(bestPlace(m_meanings, [&](qsizetype place) { return fitOf(m_texts, place, kind, reader); }), column);
     }
-    // What is left with the most words is the description.
+    // The longest remaining texts are the description.
     for (size_t column = 0; column < m_list->columns.size(); ++column)
         if (m_list->columns[column].kind == clsCellKind::Text && !isHeld(column))
             giveTo(bestPlace(m_meanings, [&](qsizetype place) { return lengthOf(m_texts, place); }), column);

@@ -10,7 +10,7 @@ namespace {
 
 constexpr QChar Quote = u'"';
 
-/// Goes through a text cell by cell.
+/// Iterates over a text cell by cell.
 class clsCells {
 public:
     clsCells(QStringView text, QChar separator)
@@ -20,7 +20,7 @@ public:
 
     bool atEnd() const { return m_at >= m_text.size(); }
     int line() const { return m_line; }
-    /// Where quotes were opened that are not closed; 0 where there are none.
+    /// The line of an opening quote without a closing one; 0 if none.
     int openQuotes() const { return m_openQuotes; }
 
     /// The next cell, without its quotes.
@@ -34,7 +34,7 @@ public:
             ++m_at;
         return cell += m_text.sliced(from, m_at - from);
     }
-    /// Passes what stands behind a cell; whether another cell of the row follows.
+    /// Skips the separator after a cell; true if another cell of the row follows.
     bool passSeparator()
     {
         if (atEnd())
@@ -54,7 +54,7 @@ private:
         m_at += m_text.sliced(m_at).startsWith(u"\r\n") ? 2 : 1;
         ++m_line;
     }
-    /// What stands in quotes, of which two stand for one.
+    /// The content of quotes, in which two stand for one.
     QString quoted()
     {
         const int opened = m_line;
@@ -96,7 +96,7 @@ bool isBlank(const QString &cell)
 
 clsTextTable clsTextTable::read(QStringView text, QChar separator, int mostRows)
 {
-    // Of a beginning, what is too large is told once the whole is read.
+    // If only the start is read, the size is not checked yet, but later with the whole text.
     const bool isWhole = mostRows == MostRows;
     const qsizetype mostInAll = isWhole ? MostCellsInAll : qsizetype(mostRows) * MostCells;
     clsTextTable table;
@@ -134,7 +134,7 @@ QString mdTextOfTable(const QByteArray &bytes)
 {
     constexpr QByteArrayView Mark("\xEF\xBB\xBF");
     const QByteArrayView content = bytes.startsWith(Mark) ? QByteArrayView(bytes).sliced(Mark.size()) : bytes;
-    // Stateless: a sequence that breaks off at the end is an error too.
+    // Stateless: an incomplete sequence at the end is an error too.
     QStringDecoder decoder(
         QStringDecoder::Utf8, QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
     const QString text = decoder(content);

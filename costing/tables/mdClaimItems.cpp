@@ -49,7 +49,7 @@ constexpr clsClaimItems Lists[] = {
     listOf<&Form::EnhancementsCollection, clsZR3Enhancement>("enhancements"),
 };
 
-/// Runs what reads a field; nothing where the field can't be read so.
+/// Runs a read of a field; false if it fails.
 template <class Read> bool reads(Read read)
 {
     try {

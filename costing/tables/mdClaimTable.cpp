@@ -22,7 +22,7 @@ enum class Shown {
     Date,
     Reference,
     Amount,
-    AmountIfAny, ///< empty where nothing was entered
+    AmountIfAny, ///< empty if nothing was entered
 };
 
 struct clsShownRow {
@@ -77,7 +77,7 @@ QString twoDecimals(Money amount)
     return mdFormatMoney(amount).remove(u',');
 }
 
-/// A stored date as dd/mm/yyyy; what is none as it stands.
+/// A stored date as dd/mm/yyyy; any other text unchanged.
 QString dateText(const QString &stored)
 {
     if (stored == NoDate)
@@ -106,7 +106,7 @@ constexpr clsFaultsRow FaultsRows[] = {
     {"enhancements", faultsOf<clsZR3Enhancement>},
 };
 
-/// A table, while it is made.
+/// A table being built.
 class clsTableOfClaim {
 public:
     explicit clsTableOfClaim(const clsBill &bill)
@@ -120,7 +120,7 @@ public:
 
 private:
     const Form &form() const { return m_bill.form(); }
-    /// The text of a cell; the number of its error where it can't be made.
+    /// The text of a cell, or its error number.
     template <class Compute> QString cell(Compute compute)
     {
         try {

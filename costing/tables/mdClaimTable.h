@@ -7,13 +7,13 @@
 
 /// A list of the claim as a table.
 struct clsClaimTable : clsTable {
-    /// True when a figure can't be computed: it then stands as "!" and the error's number.
+    /// True if a figure can't be computed: it is then "!" and the error's number.
     bool hasFailures = false;
-    /// What they come from, in words; of many only the first.
+    /// The causes in words; only the first if there are many.
     QStringList causes {};
 };
 
-/// The list of that name: schedule, disbursements, experts, joint, fas, communications, counsel, feeearners, groups,
-/// enhancements or totals, by their order. References are shown as what the other item is called. The claim is the same
+/// The list with that name: schedule, disbursements, experts, joint, fas, communications, counsel, feeearners, groups,
+/// enhancements or totals, in order. References are shown as the name of the other item. The claim is unchanged
 /// afterwards. Nothing for another name.
 std::optional<clsClaimTable> mdClaimTable(const clsBill &bill, QStringView name);

@@ -4,7 +4,7 @@
 
 namespace {
 
-/// The apostrophes in front of a character that begins a formula; -1 where there is no such character.
+/// The number of apostrophes before a character that starts a formula; -1 if there is no such character.
 qsizetype guardsOf(const QString &text)
 {
     qsizetype guards = 0;

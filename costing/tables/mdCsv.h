@@ -4,12 +4,12 @@
 
 #include <QByteArray>
 
-/// A table as CSV: UTF-8, a line end of CR LF, quotes only where they are needed; for the clipboard tabs part the
-/// cells. A text that a spreadsheet would run as a formula stands behind an apostrophe.
+/// A table as CSV: UTF-8, line ends of CR LF, quotes only where needed; for the clipboard separated by tabs. A text
+/// that a spreadsheet would run as a formula gets an apostrophe before it.
 QByteArray mdTableAsCsv(const clsTable &table, char separator = ',');
 
-/// A text as it is written into a table: one that begins with "=", "+", "-" or "@" and is no number gets an apostrophe
-/// before it, and so does one that begins with apostrophes and such a character.
+/// A text for a table: gets an apostrophe before it if it starts with "=", "+", "-" or "@" and is not a number, or with
+/// apostrophes followed by such a character.
 QString mdWithFormulaGuard(const QString &text);
 /// The text without that apostrophe.
 QString mdWithoutFormulaGuard(const QString &text);

@@ -10,7 +10,7 @@ namespace {
 
 using Form = clsZR3Form;
 
-/// Writes what a row says into an item.
+/// Writes the values of a row to an item.
 void storeInto(clsXMLRecord &item, std::span<const clsTableColumn> columns, const clsImportedRow &row)
 {
     for (size_t place = 0; place < columns.size(); ++place) {
@@ -49,8 +49,8 @@ QString communicationsCell(const clsImportedRow &row, const char *column)
     return row.Cells[size_t(mdColumnOf(mdCommunicationsColumns(), QString::fromLatin1(column)))].Value;
 }
 
-/// How many letters or calls of a kind a row stands for. The kind is the property that counts it; a row without a
-/// number counts as one.
+/// The number of letters or calls of a kind in a row. The kind is the property that counts it; a row without a number
+/// counts as one.
 int countOf(const clsImportedRow &row, const char *property)
 {
     const int told = communicationsCell(row, property).toInt();

@@ -4,15 +4,14 @@
 
 struct clsImportedRow;
 
-/// A list that the rows of a table can be added to.
+/// A list to which the rows of a table can be added.
 struct clsImportList {
     std::span<const clsTableColumn> columns;
-    std::span<const char *const>
-        figures; ///< columns that the tables of this program have beside, and that say nothing new
-    const char *items; ///< the list in which doubles are looked for; empty where there are none
+    std::span<const char *const> figures; ///< additional columns in this program's own tables, without new information
+    const char *items; ///< the list to search for doubles; empty if there is none
     void (*store)(clsZR3Form &form, const clsImportedRow &row);
-    void (*changed)(clsZR3Form &form) = nullptr; ///< derives anew what hangs on the list
-    QString (*reasonOfRow)(const clsImportedRow &row) = nullptr; ///< why cells that are right make no row
+    void (*changed)(clsZR3Form &form) = nullptr; ///< updates the data derived from the list
+    QString (*reasonOfRow)(const clsImportedRow &row) = nullptr; ///< why valid cells don't make a valid row
 };
 
 const clsImportList &mdScheduleImport();

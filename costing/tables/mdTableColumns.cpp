@@ -63,7 +63,7 @@ constexpr clsTableColumn CommunicationsColumns[] = {
 
 constexpr const char *ScheduleFigures[] = {"rate", "claim"};
 
-/// A name without what doesn't matter.
+/// A name without case, blanks and underscores.
 QString known(const QString &name)
 {
     QString result;

@@ -4,12 +4,12 @@
 
 namespace {
 
-// No header of its own: the package has one for each entry.
+// Raw, without a header: the package has one for each entry.
 constexpr int RawWindow = -MAX_WBITS;
 
 void check(int result)
 {
-    if (result < 0 && result != Z_BUF_ERROR) // which says only that there is nothing left to do
+    if (result < 0 && result != Z_BUF_ERROR) // Z_BUF_ERROR only means that there is nothing left to do
         throw clsRunTimeError(clsRunTimeError::OutOfMemory);
 }
 
@@ -19,7 +19,7 @@ void setInput(z_stream &stream, QByteArrayView text)
     stream.avail_in = uInt(text.size());
 }
 
-/// Packs what is left of the input, and appends what comes out.
+/// Compresses the rest of the input, and appends the output.
 void pack(z_stream &stream, int flush, QByteArray &packed)
 {
     char block[16 * 1024];
@@ -33,7 +33,7 @@ void pack(z_stream &stream, int flush, QByteArray &packed)
 
 quint32 withCrc(quint32 crc, QByteArrayView text)
 {
-    if (text.isEmpty()) // without a buffer the library would begin anew
+    if (text.isEmpty()) // without a buffer the library would start again
         return crc;
     return quint32(crc32_z(crc, reinterpret_cast<const Bytef *>(text.data()), size_t(text.size())));
 }

@@ -5,13 +5,13 @@
 
 #include <zlib.h>
 
-/// A text that is packed while it grows, so that the longest document takes little memory: it is packed a hundredfold.
-/// The bytes are those that packing it in one piece would give.
+/// A text compressed while it grows (about a hundredfold), so that the longest document takes little memory. The bytes
+/// are the same as from compressing it in one piece.
 class clsDeflatedText {
 public:
     static constexpr int Level = 6;
 
-    /// A text packed to its end, with what a zip package says of it.
+    /// A finished compressed text, with its data for a zip package.
     struct Packed {
         QByteArray bytes;
         qint64 size; ///< of the text
@@ -26,7 +26,7 @@ public:
     clsDeflatedText &operator=(const clsDeflatedText &) = delete;
 
     void append(QByteArrayView text);
-    /// The text with something behind it. It can grow on afterwards, without that.
+    /// The text followed by `end`. The text itself can continue to grow, without `end`.
     Packed packedWith(QByteArrayView end) const;
 
 private:

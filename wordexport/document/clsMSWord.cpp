@@ -15,8 +15,8 @@ struct Version {
     const char *year;
 };
 
-// The first two rows are one step off the products' own numbering. They are meant: the texts are shown to users,
-// and those who have them in their notes find them as they were.
+// The first two rows are one step off the products' numbering. Required behaviour: users see these texts and may have
+// noted them.
 constexpr Version Versions[] = {
     {"7.0", "97"},
     {"8.0", "98"},
@@ -219,7 +219,7 @@ bool clsMSWord::setTextUnobserved(QString &text, bool IsTick, bool IsMoney, bool
         }
         if (IsMoney)
             text = mdFormatMoney(text);
-        // After the money, so that an amount of nothing, whether stored as a blank or as "0", prints as nothing.
+        // After the money format, so that a zero amount, stored as a blank or as "0", prints as empty.
         if (BlankZero && isZero(text))
             text = QStringLiteral(" ");
         text = withLineBreaks(text);
@@ -254,8 +254,8 @@ void clsMSWord::DoReplace(const QString &find, const QString &replacement, bool 
     QString text;
     bool typed = false;
     const bool done = guarded("DoReplace", [&] {
-        // Whether the placeholder is there is not looked at: where it is not, the cursor is left at the document's
-        // start, and the text is typed there. This is meant.
+        // Doesn't check whether the placeholder was found: if not, the cursor is at the document's start, and the text
+        // is typed there. Required behaviour; do not fix.
         document().findFirst(find);
         text = withLineBreaks(replacement);
         if (text.isEmpty())

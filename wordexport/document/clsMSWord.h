@@ -12,38 +12,38 @@
 class clsRunTimeError;
 class clsWordDocument;
 
-/// The one class through which the system touches a word processor: one hidden application, at most one open
-/// document, one cursor in it. Everything that the export does to a document is one of the operations below.
+/// The only class that operates the word processor: one hidden application, at most one open document, one cursor in
+/// it. Everything that the export does to a document is one of the operations below.
 ///
-/// Most operations guard themselves: a failure is reported once by this instance, the rest of that operation is
-/// skipped, and the caller goes on without being told. Those marked "unguarded" throw clsRunTimeError instead.
+/// Most operations are guarded: a failed operation is abandoned, the first failure of an instance is reported, and the
+/// caller continues without notice. Operations marked "unguarded" throw clsRunTimeError instead.
 class clsMSWord {
 public:
-    /// What becomes of the documents that an instance saves. Working copies live for one export only, so they are
-    /// packed in the quickest way and not forced on to the disk; a finished document gets both.
+    /// Whether a saved document is a working copy or finished. Working copies last for one export only, so they are
+    /// compressed in the fastest way and not flushed to the disk; finished documents are compressed fully and flushed.
     enum Lasting { WorkingCopy, Finished };
 
     explicit clsMSWord(Lasting lasting = WorkingCopy);
-    /// Releases the application; what was not saved is lost.
+    /// Quits the application; unsaved changes are lost.
     ~clsMSWord();
     clsMSWord(const clsMSWord &) = delete;
     clsMSWord &operator=(const clsMSWord &) = delete;
 
-    /// Once true, a further failure of this instance is no longer reported.
+    /// Once true, further failures of this instance are not reported.
     bool ErrorShown = false;
-    /// The guarded operation that runs now or ran last, for the error message.
+    /// The current or last guarded operation, for the error message.
     QString CurrentSubroutine;
 
-    /// Loads the file for editing; the cursor is at its start. An error names the file by the shown name, where one is
-    /// given: a working copy by what it was copied from.
+    /// Opens the file for editing, with the cursor at its start. Errors name the file by `shownName` if given, for
+    /// example the original of a working copy.
     void OpenDocument(const QString &path, const QString &shownName = {});
-    /// The same of a file whose content is at hand.
+    /// The same with the file's content already loaded.
     void OpenDocument(const QString &path, const QString &shownName, const clsZipPackage &content);
-    /// Makes room for what was typed, writes the document back to the file it came from, and closes it.
+    /// Fits the typed text, writes the document back to its file, and closes it.
     void SaveAndClose();
-    /// The same without a file: what would be in it stays in memory.
+    /// The same without a file: the content stays in memory.
     void KeepAndClose();
-    /// Ends the application; what was not saved is lost.
+    /// Quits the application; unsaved changes are lost.
     void Quit();
 
     /// "12.0", the first version that reads the documents written here. Unguarded.
@@ -59,49 +59,49 @@ public:
     void MoveColumns(int n);
     /// Starts a new paragraph at the cursor. Unguarded.
     void NextLine();
-    /// Types the text at the cursor, over any selected text. The text is changed in place to what is typed.
+    /// Types the text at the cursor, replacing the selection. `text` is changed to what is actually typed.
     void SetText(QString &text, bool IsTick, bool IsMoney, bool BlankZero, bool Bold);
     void SetText(QString &&text, bool IsTick, bool IsMoney, bool BlankZero, bool Bold);
     /// Inserts a hard page break.
     void PageBreak();
-    /// Replaces the first occurrence of the placeholder. One that the document does not hold is no failure: the
-    /// text is then typed before the very first character of the document.
+    /// Replaces the first occurrence of the placeholder. If the document doesn't contain it, the text is typed before
+    /// the first character of the document. Required behaviour; do not fix.
     void DoReplace(const QString &find, const QString &replacement, bool IsTick, bool IsMoney, bool BlankZero);
-    /// Removes this text wherever it is hidden, and goes to the start of the document.
+    /// Removes all hidden occurrences of this text, and moves to the start of the document.
     void RemoveHidden(const QString &text);
-    /// Appends the whole of that document to the end of this one, as sections of its own.
-    /// `plain` is what is known of the file, where it is known: such a one is appended in a fraction of the time.
+    /// Appends the whole of that document to this one, with its own sections. `plain` describes the file if it is
+    /// plain, which makes appending many times faster.
     void InsertFileAtEnd(const QString &path, const QString &shownName = {}, const clsPlainText *plain = nullptr);
     /// Deletes the character before the cursor.
     void TypeBackSpace();
 
     /// n lines down. Unguarded.
     void MoveCursorDown(int n);
-    /// Over n lines that the next MoveCursorDown does not count: breaks within what was typed. Unguarded, and no
-    /// operation of its own.
+    /// Moves down n lines that the next MoveCursorDown does not count: breaks within typed text. Unguarded, and not an
+    /// operation to the observer.
     void PassTypedBreaks(int n) { moveDown(n); }
     /// n table cells to the right. Unguarded.
     void MoveCursorRight(int n);
-    /// To the first cell of the table row; outside a table nothing happens. Unguarded.
+    /// To the first cell of the table row; does nothing outside a table. Unguarded.
     void MoveCursorToStartOfRow();
-    /// To the first cell of the next table row. The misspelling is the name. Unguarded.
+    /// To the first cell of the next table row. The misspelt name is required. Unguarded.
     void MoveSursorToNextLine();
 
-    /// What the last document that was saved prints smaller, in rows that grow, or cut.
+    /// The texts of the last saved document that are printed smaller, in grown rows, or cut off.
     const std::vector<clsFittedText> &fitted() const { return m_fitted; }
-    /// How many paper pages it takes; of a finished document that is not counted.
+    /// Its number of paper pages; not counted for a finished document.
     int paperPages() const { return m_paperPages; }
 
-    /// True while a document is open; one that could not be saved stays so.
+    /// True while a document is open; it stays open if saving fails.
     bool isOpen() const { return m_document != nullptr; }
-    /// The open document, nothing where there is none.
+    /// The open document; null if there is none.
     clsWordDocument *openDocument() const { return m_document.get(); }
-    /// The file that the last SaveAndClose wrote, empty where it failed, and where the text stands in it.
+    /// The file written by the last SaveAndClose, empty if that failed, and the position of the text in it.
     const QString &savedPath() const { return m_savedPath; }
     const clsTextPlace &savedText() const { return m_savedText; }
-    /// What the last KeepAndClose kept.
+    /// The content kept by the last KeepAndClose.
     const clsZipPackage &kept() const { return m_kept; }
-    /// True once a failure has lost a whole sheet: a document that could not be opened, saved or appended.
+    /// True once a whole sheet has been lost: a document that could not be opened, saved or appended.
     bool sheetLost() const { return m_sheetLost; }
 
 private:
@@ -109,15 +109,15 @@ private:
     bool TypeText(const QString &text);
     void ErrorHandler(const clsRunTimeError &error);
 
-    /// The open document; error 91 where there is none.
+    /// The open document; error 91 if there is none.
     clsWordDocument &document() const;
-    /// Runs one guarded operation under its name; true when it came to its end.
+    /// Runs one guarded operation under its name; true if it completed.
     template <class Operation> bool guarded(const char *name, Operation operation);
     template <class Store> void closeWith(Store store);
-    /// MoveCursorDown without its report to the observer.
+    /// MoveCursorDown without notifying the observer.
     void moveDown(int n);
     template <class Open> void openWith(const QString &path, Open open);
-    /// SetText without its report to the observer; true when the text was typed.
+    /// SetText without notifying the observer; true if the text was typed.
     bool setTextUnobserved(QString &text, bool IsTick, bool IsMoney, bool BlankZero, bool Bold);
 
     Lasting m_lasting;

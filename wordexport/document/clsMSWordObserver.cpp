@@ -2,7 +2,7 @@
 
 namespace {
 
-// One for the program: a test watches all word processors that an export makes, however deep inside.
+// One for the program: tests observe all word processors created during an export, at any depth.
 clsMSWordObserver nobody;
 clsMSWordObserver *current = &nobody;
 

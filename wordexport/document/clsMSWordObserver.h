@@ -6,9 +6,9 @@
 
 #include <vector>
 
-/// Sees every operation of every clsMSWord, in order, with the texts as they are typed in the end: U+00FE and
-/// U+00A8 for ticks, U+000B for a line break inside the paragraph, one blank for an empty replacement.
-/// For proof of what an export sends to the word processor; the operations themselves do not depend on it.
+/// Observes every operation of every clsMSWord, in order, with the texts as finally typed: U+00FE and U+00A8 for ticks,
+/// U+000B for a line break inside the paragraph, one blank for an empty replacement. For tests of what an export sends
+/// to the word processor; the operations don't depend on it.
 class clsMSWordObserver {
 public:
     virtual ~clsMSWordObserver() = default;
@@ -21,24 +21,24 @@ public:
     virtual void nextRow() { }
     virtual void newParagraph() { }
     virtual void tabs(int) { }
-    /// A placeholder gave way to a text; the text's typing is not told again by typed().
+    /// A placeholder was replaced; typed() is not called for this text.
     virtual void replaced(const QString & /*find*/, const QString & /*typedText*/, bool /*isTick*/) { }
     virtual void typed(const QString & /*textAsTyped*/, bool /*isTick*/, bool /*bold*/) { }
-    /// An operation failed. For a text that could not be typed `what` is the placeholder, or "cell" for one typed
-    /// at the cursor, and `value` the text; for the others they are the operation's name and its path, if any.
+    /// An operation failed. For a text that could not be typed, `what` is the placeholder, or "cell" for one typed at
+    /// the cursor, and `value` the text; otherwise they are the operation's name and its path, if any.
     virtual void failed(const QString & /*what*/, const QString & /*value*/) { }
     virtual void pageBreak() { }
     virtual void inserted(const QString & /*path*/) { }
     virtual void backSpace() { }
-    /// Told before the saving of the document whose texts these are; also where there are none.
+    /// Called before the document with these texts is saved; also if there are none.
     virtual void fitted(const std::vector<clsFittedText> &) { }
     virtual void savedAndClosed() { }
 };
 
-/// The observer in force; where nobody watches, one that does nothing.
+/// The current observer; by default one that does nothing.
 clsMSWordObserver &MSWordObserver();
 
-/// Puts an observer in force for as long as this object lives, then the one before it again.
+/// Sets the observer while this object lives, then restores the previous one.
 class clsMSWordObserverScope {
 public:
     explicit clsMSWordObserverScope(clsMSWordObserver &observer);

@@ -13,7 +13,7 @@ constexpr QByteArrayView BodyBegin("<w:body>");
 constexpr QByteArrayView TextEnd("</w:body></w:document>");
 constexpr QByteArrayView ParagraphEnd("</w:p>");
 
-/// The only attribute of an element has this name and value.
+/// Whether the element has exactly one attribute, with this name and value.
 bool hasOnly(const xml_node &node, const char *attribute, const char *value)
 {
     const pugi::xml_attribute first = node.first_attribute();
@@ -49,7 +49,7 @@ bool isSection(const xml_node &node)
         && std::all_of(node.begin(), node.end(), [](const xml_node &child) { return isPlain(child); });
 }
 
-/// Where the last start tag of that name begins, -1 where there is none.
+/// The position of the last start tag of that name; -1 if there is none.
 qsizetype lastStartOf(QByteArrayView tag, QByteArrayView text)
 {
     constexpr QByteArrayView Ends(" />");
@@ -59,7 +59,7 @@ qsizetype lastStartOf(QByteArrayView tag, QByteArrayView text)
     return -1;
 }
 
-/// Where the paragraph begins that a text ends with, -1 where it ends with something else.
+/// The position of the paragraph at the end of a text; -1 if it doesn't end with one.
 qsizetype startOfLastParagraph(QByteArrayView text)
 {
     const qsizetype start = lastStartOf("<w:p", text);

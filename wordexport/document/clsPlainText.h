@@ -6,29 +6,29 @@
 
 #include <optional>
 
-/// Where the main part of a document stands in its file, not packed.
+/// The position of a document's main part in its file, uncompressed.
 struct clsTextPlace {
     qint64 fileSize = 0;
     qint64 at = 0;
     qint64 size = 0;
 };
 
-/// What is known of a document whose text another one can take over as it stands, byte for byte: nothing in it bears an
-/// identity or refers to anything but styles, and a paragraph comes last.
+/// A document whose text can be appended to another byte for byte: it contains no identities, refers to nothing but
+/// styles, and ends with a paragraph.
 struct clsPlainText {
-    QByteArray styles; ///< the document's, as bytes
+    QByteArray styles; ///< the document's styles part
     clsTextPlace place;
 };
 
-/// The body of such a document in three pieces, as bytes.
+/// The body of such a document in three pieces.
 struct clsPlainBody {
     QByteArrayView blocks; ///< all but the end
-    QByteArrayView end; ///< the last paragraph, and with it the one before it: their marks may be deleted
-    QByteArrayView section; ///< the properties of the section that it ends with
+    QByteArrayView end; ///< the last paragraph and the one before it, whose marks may be deleted
+    QByteArrayView section; ///< the properties of its last section
 };
 
-/// True for a main part, as a tree, of that kind. What is typed into it makes no difference.
+/// True for the tree of a main part of this kind. Typed text makes no difference.
 bool mdIsPlainText(const pugi::xml_document &mainPart);
 
-/// Cuts a main part of that kind; nothing where the bytes are not what they should be.
+/// Splits a main part of this kind; nothing if the bytes are not as expected.
 std::optional<clsPlainBody> mdPlainBody(QByteArrayView mainPart);

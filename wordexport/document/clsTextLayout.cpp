@@ -14,13 +14,13 @@ using namespace TextLayout;
 constexpr int PerTwip = 6;
 constexpr int EmPerHalfPoint = 10 * PerTwip;
 
-// A line counts as this much shorter than it is: places are rounded when they are printed, and a line too many is
-// better than one too few.
+// Lines count as this much shorter than they are: positions are rounded in printing, and a line too many is better than
+// one too few.
 constexpr int Reserve = 1;
 
 constexpr char32_t SoftHyphen = 0xAD;
 
-// Where lines may be broken depends on the classes of the two characters beside the place.
+// Whether a line may be broken depends on the classes of the characters before and after.
 enum class Kind : std::uint8_t {
     Letter,
     Digit,
@@ -30,8 +30,8 @@ enum class Kind : std::uint8_t {
     Glue, ///< joins its neighbours
     ZeroWidthBlank,
     Hyphen,
-    Dash, ///< a break behind it and none before
-    LongDash, ///< a break on both sides
+    Dash, ///< a break after it but not before
+    LongDash, ///< a break before and after it
     Opening,
     ClosingBrace,
     Closing,
@@ -39,9 +39,9 @@ enum class Kind : std::uint8_t {
     Exclamation,
     Ellipsis,
     Slash,
-    Infix, ///< within numbers: a comma, a point
+    Infix, ///< within numbers: comma, point
     Prefix, ///< before numbers
-    Postfix, ///< behind numbers
+    Postfix, ///< after numbers
     Ideograph,
 };
 
@@ -140,7 +140,7 @@ public:
             start = end;
         } while (start < m_text.size());
         if (!m_text.empty() && m_kinds.back() == Kind::LineBreak)
-            addLine(start, start); // the empty line behind it
+            addLine(start, start); // the empty line after it
         return m_lines;
     }
 
@@ -149,7 +149,7 @@ private:
     int room() const { return roomOnLine(m_width - indent() - m_paragraph.right); }
 
     Kind kind(size_t i) const { return m_kinds[i]; }
-    // The kind of the character before a place; at the start of the paragraph as after a blank.
+    // The kind of the character before a position; the start of the paragraph counts as a blank.
     Kind kindBefore(size_t i) const { return i == 0 ? Kind::Blank : m_kinds[i - 1]; }
 
     size_t endOfLine(size_t start)
@@ -162,7 +162,7 @@ private:
             m_ends[i] = x;
             if (kind(i) == Kind::LineBreak)
                 return i + 1;
-            if (kind(i) == Kind::Blank) { // blanks at a line's end hang over it
+            if (kind(i) == Kind::Blank) { // blanks at the end of a line overhang it
                 x += m_widths[i];
                 continue;
             }
@@ -174,8 +174,8 @@ private:
         return m_text.size();
     }
 
-    // The last place for a break before a character that the line has no room for; 0 where there is none. A line that
-    // ends with a slash has no room for it.
+    // The last possible break before the first character that doesn't fit on the line; 0 if there is none. A line may
+    // be broken after a slash only if another character would fit.
     size_t placeUpTo(size_t start, size_t last, int limit) const
     {
         for (size_t i = last; i > start; --i)
@@ -184,7 +184,7 @@ private:
         return 0;
     }
 
-    // Most lines need no look at their breaks: they end with the text, or where the text says. Else 0.
+    // Most lines need no search for breaks: they end with the text or at a line break. Returns that end, otherwise 0.
     size_t endWhereAllFits(size_t start, int limit) const
     {
         int x = 0;
@@ -204,12 +204,12 @@ private:
         return before.code != SoftHyphen || x + widthOf({U'-', before.halfPoints, before.bold}) <= limit;
     }
 
-    // The end of a line that has no room for the character at `i`.
+    // The end of a line on which the character at `i` doesn't fit.
     size_t breakAt(size_t start, size_t i, size_t place)
     {
         if (place == 0)
             return brokenAt(start, i);
-        // What stands at a stop takes its tab along to the next line.
+        // Text at a tab stop moves to the next line with its tab.
         return place - 1 > start && leadsToStop(place - 1) ? place - 1 : place;
     }
 
@@ -227,7 +227,7 @@ private:
         return i;
     }
 
-    // The word around a place consists of what amounts consist of, and holds a digit.
+    // True if the word around a position has only characters of amounts, and at least one digit.
     bool isAmount(size_t place) const
     {
         size_t from = place;
@@ -253,7 +253,7 @@ private:
                 continue;
             if (tab.align == Tab::Left)
                 return stop;
-            // What stands before its stop ends at the end of the line where the stop is beyond it.
+            // If the stop is beyond the end of the line, the text before the stop ends at the end of the line.
             const int behind = widthUpToTab(i + 1);
             return std::max(x, std::min(stop, limit) - (tab.align == Tab::Right ? behind : behind / 2));
         }
@@ -275,8 +275,7 @@ private:
         return withoutBlanks;
     }
 
-    // May a line be broken before the character at `i`? As the rules of Unicode have it, with the changes that the word
-    // processors made to them.
+    // Whether a line may be broken before the character at `i`: the rules of Unicode with the word processors' changes.
     bool mayBreak(size_t i) const
     {
         const Kind before = kindBefore(i);
@@ -287,7 +286,7 @@ private:
             return false;
         if (before == Kind::ZeroWidthBlank)
             return true;
-        // Not even where a blank stands between.
+        // Not even after a blank.
         if (isOneOf(behind, {Kind::Exclamation, Kind::ClosingBrace, Kind::Closing, Kind::Infix, Kind::Slash})
             || kindBeforeBlanks(i) == Kind::Opening)
             return false;
@@ -308,8 +307,8 @@ private:
             && !isBetweenDigits(i - 1);
     }
 
-    // What slashes join stays on one line from the blank before it on, unless that is too far away. Where it begins on
-    // a line before, no break is left to it but one between letters.
+    // Words joined by slashes stay on one line from the preceding blank, unless that is too far back. If they start on
+    // an earlier line, they can only be broken between letters.
     size_t wholePath(size_t start, size_t place) const
     {
         if (place == 0 || !mayBreakBehindSlash(place))
@@ -373,14 +372,14 @@ private:
     int m_width;
     std::vector<Kind> m_kinds;
     std::vector<int> m_widths;
-    std::vector<int> m_ends; ///< of what stands before each character on its line
+    std::vector<int> m_ends; ///< the end of the text before each character on its line
     Lines m_lines;
 };
 
 int unitsOf(const Character &character)
 {
     switch (character.code) {
-    case SoftHyphen: // shows only where a line is broken behind it
+    case SoftHyphen: // visible only where a line is broken after it
     case U'\t':
     case LineBreak:
     case 0x200B:

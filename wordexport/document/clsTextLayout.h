@@ -2,26 +2,26 @@
 
 #include <vector>
 
-/// A text laid out in lines as word processors do it: as much on each line as it holds, broken at blanks and behind
-/// hyphens, a word that is wider than a whole line broken by letters. All in integers, so that the lines are the same
-/// on every machine. It knows no document: what stands in a paragraph, and how wide its place is, it is told.
+/// Lays out text in lines as word processors do: each line is filled, broken at blanks and after hyphens, and a word
+/// wider than a whole line is broken between letters. All in integers, so that the lines are the same on every machine.
+/// Independent of documents: the caller passes the paragraph's content and the available width.
 ///
-/// The unit is a sixth of a twip. That is what the word processor that prints the forms rounds each character's width
-/// to: whoever adds up more exactly counts other lines.
+/// The unit is a sixth of a twip, to which the word processor that prints the forms rounds each character's width. More
+/// exact sums would lead to different line counts.
 namespace TextLayout {
 
 struct Character {
     char32_t code;
-    int halfPoints; ///< the size
+    int halfPoints; ///< the font size
     bool bold;
 };
 
-/// What stands for a line break within a paragraph.
+/// A line break within a paragraph.
 inline constexpr char32_t LineBreak = U'\v';
 
 struct Tab {
     enum Align { Left, Centre, Right };
-    int twips; ///< from the edge of the place, whatever the paragraph's indent is
+    int twips; ///< from the edge of the area, regardless of the paragraph's indent
     Align align;
 };
 
@@ -29,28 +29,28 @@ struct Paragraph {
     std::vector<Character> text;
     int left = 0; ///< indents, in twips
     int right = 0;
-    int firstLine = 0; ///< more on the first line; less where negative
-    std::vector<Tab> tabs; ///< in the order of their places
+    int firstLine = 0; ///< in addition on the first line; may be negative
+    std::vector<Tab> tabs; ///< in the order of their positions
     int defaultTab = 720;
-    int markHalfPoints = 20; ///< the size where there is no text
+    int markHalfPoints = 20; ///< the size if there is no text
 };
 
 struct Lines {
-    /// The largest size of each line, in half points.
+    /// The largest size on each line, in half points.
     std::vector<int> sizes;
-    /// How often a word had to be broken by letters, and how often that broke an amount.
+    /// How many words, and how many amounts, had to be broken between letters.
     int brokenWords = 0;
     int brokenAmounts = 0;
-    /// A character is wider than the whole place.
+    /// A character is wider than the whole line.
     bool tooNarrow = false;
 
     int count() const { return int(sizes.size()); }
 };
 
-/// The lines of a paragraph in a place of that width in twips.
+/// The lines of a paragraph in an area of that width in twips.
 Lines layOut(const Paragraph &paragraph, int width);
 
-/// The room on a line that is so many twips wide, in sixths of a twip.
+/// The room on a line of that width in twips, in sixths of a twip.
 int roomOnLine(int width);
 
 /// The width of a character, in sixths of a twip.

@@ -26,7 +26,7 @@ clsWordBoldness::clsWordBoldness(const pugi::xml_node &styles)
 
 std::shared_ptr<const clsWordBoldness> clsWordBoldness::ofStyles(const QByteArray &styles)
 {
-    // All sheets of an export have the same styles, and each is a document that knows nothing of the others.
+    // All sheets of an export have the same styles, but each is a separate document.
     static struct {
         QByteArray styles;
         std::shared_ptr<const clsWordBoldness> boldness;
@@ -41,7 +41,7 @@ std::shared_ptr<const clsWordBoldness> clsWordBoldness::ofStyles(const QByteArra
 
 std::optional<bool> clsWordBoldness::ofStyle(const std::string &id) const
 {
-    // A chain can't be longer than there are styles; one that is goes in a circle.
+    // A chain longer than the number of styles is a cycle.
     auto style = m_styles.find(id);
     for (size_t steps = 0; style != m_styles.end() && steps < m_styles.size(); ++steps) {
         if (style->second.bold)

@@ -9,16 +9,16 @@
 #include <string>
 #include <unordered_map>
 
-/// Whether a text is bold: by its own formatting, else by the styles of run and paragraph.
+/// Whether a text is bold: from its direct formatting, otherwise from the character and paragraph styles.
 class clsWordBoldness {
 public:
-    /// `styles` is the root of the styles part; a null node where the document has none.
+    /// `styles` is the root of the styles part; a null node if the document has none.
     explicit clsWordBoldness(const pugi::xml_node &styles);
-    /// The boldness that the bytes of a styles part make. All sheets of an export have the same styles, so the last
-    /// answer is kept.
+    /// The boldness from the bytes of a styles part. All sheets of an export have the same styles, so the last result
+    /// is cached.
     static std::shared_ptr<const clsWordBoldness> ofStyles(const QByteArray &styles);
 
-    /// `format` is the w:rPr of the text, `paragraph` the paragraph that it stands in.
+    /// `format` is the w:rPr of the text, `paragraph` its paragraph.
     bool isBold(const pugi::xml_node &format, const pugi::xml_node &paragraph) const;
 
 private:

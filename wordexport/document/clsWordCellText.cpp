@@ -12,15 +12,15 @@ namespace {
 
 constexpr int HalfPointsOfNoStyle = 20;
 constexpr int TwipsPerHalfPoint = 10;
-constexpr char32_t Picture = 0xFFFC; // as wide as its size
+constexpr char32_t Picture = 0xFFFC; // as wide as its font size
 
-// The height of a line in which the font stands as its maker drew it: 1.15 of the size.
+// The natural line height of the font: 1.15 of its size.
 int naturalLine(int halfPoints)
 {
     return (halfPoints * 23 + 1) / 2;
 }
 
-// The characters that an element within a run stands for where it is no text.
+// The character that represents a non-text element of a run.
 char32_t characterOf(const xml_node &node)
 {
     if (WordXml::is(node, "w:tab") || WordXml::is(node, "w:ptab"))
@@ -45,7 +45,7 @@ std::u32string charactersOf(std::string_view text)
 
 int widthOfPicture(const xml_node &node)
 {
-    constexpr int UnitsPerTwip = 635; // of the drawing's own measure
+    constexpr int UnitsPerTwip = 635; // in the unit of drawings
     return node.child("wp:inline").child("wp:extent").attribute("cx").as_int() / UnitsPerTwip;
 }
 
@@ -57,7 +57,8 @@ int heightOfTable(const xml_node &table)
     return height;
 }
 
-// The child of an element that has no other but its properties, and these are of that name.
+// The only child of an element apart from its properties, if it has that name and `properties` is the name of the
+// properties.
 xml_node onlyChild(const xml_node &node, const char *properties, const char *name)
 {
     xml_node child = node.first_child();
@@ -97,7 +98,7 @@ bool clsWordCellText::fitsAtAGlance(
     int left = TextLayout::roomOnLine(
         place.width - look.left.value_or(0) - look.right.value_or(0) - std::max(0, look.firstLine.value_or(0)));
     for (const char *c = text.text().get(); *c != 0 && left >= 0; ++c) {
-        if (static_cast<signed char>(*c) < ' ') // what is no plain character, or begins one of several bytes
+        if (static_cast<signed char>(*c) < ' ') // a control character or the first of several bytes
             return false;
         character.code = char32_t(*c);
         left -= TextLayout::widthOf(character);
@@ -249,8 +250,9 @@ TextLayout::Paragraph clsWordCellText::Paragraph::at(int less) const
     return smaller;
 }
 
-// The exact line goes down with the largest size that shows in the paragraph, so that words of the template keep their
-// height. It is never higher than the smaller type needs: a template's wide lines would cost the typed text its size.
+// Exact line heights shrink with the largest size visible in the paragraph, so that the template's words keep their
+// height. The line is never higher than the smaller type needs: otherwise a template's wide line spacing would make the
+// typed text even smaller.
 int clsWordCellText::Paragraph::exactLine(int less) const
 {
     if (less == 0 || !holdsTyped())

@@ -11,54 +11,54 @@
 #include <string>
 #include <vector>
 
-/// The text of a table cell with all that decides how much room it takes: how high it stands at which size of the typed
-/// text, and making that smaller.
+/// The text of a table cell with everything that decides its height: measures it at smaller sizes of the typed text,
+/// and applies a smaller size.
 class clsWordCellText {
 public:
     struct Place {
-        int width; ///< twips, less the cell's margins
+        int width; ///< twips, without the cell's margins
         std::string tableStyle;
     };
-    /// Some typed text of the cell: that in place of one placeholder, or all that was typed at the cursor.
+    /// A typed text of the cell: the replacement of one placeholder, or all text typed at the cursor.
     struct Typed {
         QString placeholder;
         int halfPoints; ///< its largest size
     };
     struct Measure {
         int height = 0; ///< twips
-        int lines = 0; ///< of the paragraphs that hold typed text
-        int brokenWords = 0; ///< that typed text is in
+        int lines = 0; ///< of the paragraphs that contain typed text
+        int brokenWords = 0; ///< with typed text in them
         int brokenAmounts = 0;
         bool tooNarrow = false;
     };
 
-    /// No text is made smaller than this.
+    /// Text is never made smaller than this.
     static constexpr int SmallestHalfPoints = 12;
 
-    /// A quick look: the mark of the first text that was typed into the cell; null where there is none.
+    /// A quick check: the mark of the first text typed into the cell; null if there is none.
     static const clsWordTyped::Mark *firstTyped(const pugi::xml_node &cell, const clsWordTyped &typed);
 
-    /// A quick look at a cell that holds nothing but a short typed text, as most cells of a grid do: does it fit on one
-    /// line, in a room of that height in twips? False also where only a closer look can tell.
+    /// A quick check for a cell with only a short typed text, as in most grid cells: does it fit on one line, in that
+    /// height in twips? Also false if only an exact measurement can decide.
     static bool fitsAtAGlance(
         const pugi::xml_node &cell, const Place &place, int room, const clsWordLooks &looks, const clsWordTyped &typed);
 
     clsWordCellText(const pugi::xml_node &cell, const Place &place, const clsWordLooks &looks, clsWordTyped &typed);
 
-    /// The same of a paragraph that stands in no table.
+    /// The same for a paragraph outside tables.
     static clsWordCellText ofParagraph(
         const pugi::xml_node &paragraph, const Place &place, const clsWordLooks &looks, clsWordTyped &typed);
 
     const std::vector<Typed> &typedTexts() const { return m_texts; }
-    /// By how many half points the typed text can become smaller before all of it is at its smallest.
+    /// The number of half points by which the typed text can be reduced until all of it has the smallest size.
     int mostLess() const;
-    /// The room that the text takes with the typed text so many half points smaller.
+    /// The height of the text with the typed text reduced by `less` half points.
     Measure measure(int less) const;
-    /// The heights of its lines as it stands, with the spaces between the paragraphs, and of its tables.
+    /// The heights of its lines at the present size, including the spaces between paragraphs, and of its tables.
     std::vector<int> lineHeights() const;
-    /// The space above its first paragraph, which the heights have too.
+    /// The space above its first paragraph, included in these heights.
     int spaceAbove() const { return m_paragraphs.empty() ? 0 : m_paragraphs.front().before; }
-    /// Makes the typed text so much smaller in the document, and the exact lines of its paragraphs with it.
+    /// Reduces the typed text in the document by `less` half points, and exact line heights of its paragraphs with it.
     void shrink(int less);
 
     static int shrunk(int halfPoints, int less);
@@ -68,11 +68,11 @@ private:
 
     struct Piece {
         pugi::xml_node run;
-        size_t from; ///< of the characters of the paragraph
+        size_t from; ///< index of its first character in the paragraph
         size_t to;
-        int at; ///< where it begins, as a position of the paragraph
+        int at; ///< its start as a position of the paragraph
         bool typed;
-        bool behindOthers; ///< in its run, which then has to be split
+        bool behindOthers; ///< whether it is preceded by other text in its run, which must then be split
     };
     struct Paragraph {
         pugi::xml_node node;

@@ -17,8 +17,8 @@ xml_node bodyOf(clsWordPackage &package)
     return package.mainRoot().child("w:body");
 }
 
-// A place in the target's tree, behind its root, where a document's text is made ready before it is moved in.
-// Whatever happens, it is gone before anybody writes the tree.
+// A node in the target's tree, after its root, in which a document's text is prepared before it is moved. Always
+// removed before the tree is written.
 class clsStaging {
 public:
     explicit clsStaging(pugi::xml_document &tree)
@@ -36,14 +36,14 @@ private:
     xml_node m_place;
 };
 
-// The section that the body ends with; every body has one, if only of default values.
+// The last section of the body; created with default values if missing.
 xml_node ensureFinalSection(xml_node body)
 {
     const xml_node present = body.child("w:sectPr");
     return present ? present : body.append_child("w:sectPr");
 }
 
-// The sections of a body in order. All but the last end in a paragraph of the body itself.
+// Visits the sections of a body in order. All but the last end in a paragraph of the body itself.
 template <class Visitor> void visitSections(const xml_node &body, Visitor visitor)
 {
     for (const xml_node &child : body.children())
@@ -111,8 +111,8 @@ void clsWordComposer::append(clsWordPackage &source)
     moveBlocks(sourceBody, finalSection);
 }
 
-// Only the last paragraphs and the section become part of the tree, since what comes next may change them. The rest
-// goes straight to the finished text: reading it would take most of the time that the joining takes.
+// Only the last paragraphs and the section are added to the tree, since later steps may change them. The rest is
+// appended directly to the finished text: parsing it would take most of the time of joining.
 bool clsWordComposer::appendAsItStands(const QString &path, const clsPlainText &plain)
 {
     if (plain.styles != m_styles.originalBytes())
@@ -186,7 +186,7 @@ void clsWordComposer::mapContent(clsWordPackage &source, xml_node body)
                                   .arg(source.shownName()));
 }
 
-// A section's type tells how it begins: left at "continuous", two sheets would share a page.
+// A section's type decides how it starts: with "continuous", two sheets would share a page.
 void clsWordComposer::beginOnNewPage(xml_node firstSection)
 {
     const xml_node type = firstSection.child("w:type");
@@ -195,7 +195,7 @@ void clsWordComposer::beginOnNewPage(xml_node firstSection)
         WordXml::setAttribute(type, "w:val", "nextPage");
 }
 
-// A header that a section does not name is that of the section before it, which here is another document's.
+// A section without a header of its own inherits that of the section before it, here another document's.
 void clsWordComposer::fillMissingHeaders(xml_node firstSection)
 {
     std::set<HeaderKind> missing = m_headers;
@@ -235,7 +235,7 @@ std::string clsWordComposer::emptyHeader(const std::string &reference)
     return id;
 }
 
-// The section that the document ended with moves into its last paragraph, so that another one can follow.
+// Moves the last section's properties into the last paragraph, so that another section can follow.
 void clsWordComposer::sealLastSection(xml_node body)
 {
     const xml_node section = ensureFinalSection(body);

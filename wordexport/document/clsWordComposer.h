@@ -11,18 +11,18 @@
 #include <set>
 #include <string>
 
-/// Appends whole documents to one, each as sections of its own with its own page setup. Lives as long as the
-/// document that it appends to is open, so that each further document costs no more than the one before.
+/// Appends whole documents to one, each with its own sections and page setup. Lives as long as the target document is
+/// open, so that the cost per document doesn't grow.
 class clsWordComposer {
 public:
     explicit clsWordComposer(clsWordPackage &target);
 
-    /// Appends a document's file. One that can't be appended is an error, and the target's text is then as it was.
-    /// `plain` is what is known of the file, where it is known.
+    /// Appends a document's file. Raises an error if that fails; the target's text is then unchanged. `plain` describes
+    /// the file if it is plain.
     void append(const QString &path, const QString &shownName, const clsPlainText *plain);
 
 private:
-    /// Which header or footer: its element's name and its type.
+    /// A kind of header or footer: its element's name and its type.
     using HeaderKind = std::pair<std::string, std::string>;
 
     pugi::xml_node targetBody();
@@ -43,6 +43,6 @@ private:
     clsWordStylesOnDemand m_styles;
     clsWordListNumbers m_lists;
     clsWordKnownParts m_parts;
-    std::set<HeaderKind> m_headers; // in use anywhere so far
+    std::set<HeaderKind> m_headers; // used so far
     std::map<std::string, std::string> m_emptyHeaders;
 };

@@ -41,7 +41,7 @@ const std::unordered_map<std::string_view, Kind> Kinds = {
     {"w:instrText", Kind::BookmarkUse},
     {"w:fldSimple", Kind::BookmarkUse},
     {"w:sdtPr", Kind::Control},
-    // Comments and bound data stay behind with the parts that hold them.
+    // Comments and bound data are left behind, like the parts that contain them.
     {"w:commentRangeStart", Kind::Dropped},
     {"w:commentRangeEnd", Kind::Dropped},
     {"w:commentReference", Kind::Dropped},
@@ -51,7 +51,7 @@ const std::unordered_map<std::string_view, Kind> Kinds = {
     {"w:endnoteReference", Kind::Note},
 };
 
-// Marks of one document's own history of edits, which must not come twice in a package.
+// Attributes of a document's edit history, which must not occur twice in a package.
 bool isHistory(const char *attribute)
 {
     return std::strncmp(attribute, "w:rsid", 6) == 0 || std::strcmp(attribute, "w14:paraId") == 0
@@ -64,14 +64,14 @@ bool isFormatting(const char *name)
         || std::strcmp(name, "w:tblGrid") == 0;
 }
 
-// Most elements of a text are of the few with the shortest names, and only one of those matters.
+// Most elements of a text have one of the few shortest names, and only one of those matters.
 bool isShortName(const char *name)
 {
     constexpr size_t ShortName = 5;
     return std::strlen(name) <= ShortName && std::strcmp(name, "w:p") != 0 && std::strcmp(name, "w:tbl") != 0;
 }
 
-// What holds nothing by the format, and is taken out as a whole.
+// Elements that are empty by the format and are removed as a whole.
 bool isEmptyElement(Kind kind)
 {
     return kind == Kind::Style || kind == Kind::List || kind == Kind::BookmarkStart || kind == Kind::BookmarkEnd
@@ -97,7 +97,7 @@ bool isWordCharacter(char c)
     return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || uchar(c) >= 0x80;
 }
 
-// Renames whole words in a field's code.
+// Replaces whole words in a field's code.
 std::string withNames(std::string_view text, const std::unordered_map<std::string, std::string> &names)
 {
     std::string result;
@@ -148,7 +148,7 @@ void clsWordContentMap::mapMain(xml_node root, const xml_node &targetRoot, Map r
 
 void clsWordContentMap::mapOther(xml_node root)
 {
-    // Called in the middle of the main part's walk, when that meets a reference to a header.
+    // Called during the main part's pass, at a reference to a header.
     clsWordContentMap other(m_styles, m_lists, m_identities);
     other.map(root);
     m_hadNotes = m_hadNotes || other.m_hadNotes;
@@ -158,14 +158,14 @@ void clsWordContentMap::map(xml_node root)
 {
     mapNode(root);
     for (const auto &[id, start] : m_openBookmarks)
-        m_dropped.push_back(start); // one that never ends
+        m_dropped.push_back(start); // has no end
     renameBookmarkUses();
     removeDropped();
 }
 
 void clsWordContentMap::mapNode(xml_node node)
 {
-    // Half of a text is formatting, which refers to nothing but styles.
+    // Half of a text is formatting, which refers only to styles.
     if (m_styles.isSame() && isFormatting(node.name()))
         return;
     mapAttributes(node);
@@ -188,12 +188,12 @@ void clsWordContentMap::mapAttributes(xml_node node)
     }
 }
 
-// Whatever its prefix is, and wherever it is declared.
+// With any prefix, wherever that is declared.
 bool clsWordContentMap::isRelationshipId(const xml_node &node, const pugi::xml_attribute &attribute) const
 {
     const std::string_view name = attribute.name();
     const size_t colon = name.find(':');
-    // Nearly all attributes are of the format's own namespace.
+    // Nearly all attributes are in the format's own namespace.
     if (colon == std::string_view::npos || name.starts_with("w:") || name.starts_with("xml") || !*attribute.value())
         return false;
     const std::string declaration = "xmlns:" + std::string(name.substr(0, colon));
@@ -214,7 +214,7 @@ void clsWordContentMap::mapElement(xml_node node)
     const auto kind = Kinds.find(node.name());
     if (kind == Kinds.end())
         return;
-    // Else what a hostile document puts in there would be noted for removal a second time, within what is removed.
+    // Otherwise the content that a malicious document puts into it would be recorded for removal a second time.
     if (isEmptyElement(kind->second))
         node.remove_children();
     switch (kind->second) {
@@ -241,12 +241,12 @@ void clsWordContentMap::mapStyle(xml_node reference)
         return;
     const std::string id = m_styles.styleFor(WordXml::val(reference));
     if (id.empty())
-        m_dropped.push_back(reference); // no such style: it could mean another one where it is going
+        m_dropped.push_back(reference); // no such style: in the target the id could mean another one
     else
         WordXml::setAttribute(reference, "w:val", id);
 }
 
-// What names no style has its document's default one, which may not be that of the document it is going to.
+// An element without a style has its document's default style, which may differ from the target's.
 void clsWordContentMap::nameDefaultStyle(
     xml_node owner, const char *propertiesName, const char *styleName, const char *type)
 {
@@ -256,7 +256,7 @@ void clsWordContentMap::nameDefaultStyle(
     if (id.empty())
         return;
     xml_node properties = WordXml::ensureProperties(owner, propertiesName);
-    // Straight into the target's terms: the walk comes past this reference, and must leave it as it is.
+    // Already in the target's terms: the pass will reach this reference and must not map it.
     xml_node style = WordXml::addChild(properties, styleName);
     style.append_attribute("w:val") = id.c_str();
     m_named.insert(style.internal_object());
@@ -265,7 +265,7 @@ void clsWordContentMap::nameDefaultStyle(
 void clsWordContentMap::mapBookmarkStart(xml_node node)
 {
     const std::string name = node.attribute("w:name").value();
-    if (name == "_GoBack") { // where somebody last edited
+    if (name == "_GoBack") { // the position of the last edit
         m_dropped.push_back(node);
         return;
     }
@@ -273,7 +273,7 @@ void clsWordContentMap::mapBookmarkStart(xml_node node)
     const std::string mapped = m_identities.nextBookmark();
     m_bookmarkIds[id] = mapped;
     if (xml_node &open = m_openBookmarks[id]; open)
-        m_dropped.push_back(std::exchange(open, node)); // its end would now be this one's
+        m_dropped.push_back(std::exchange(open, node)); // its end would now match this start
     else
         open = node;
     WordXml::setAttribute(node, "w:id", mapped);
@@ -320,7 +320,7 @@ void clsWordContentMap::removeDropped()
             runs.emplace_back(levelOf(parent), parent);
     }
     m_dropped.clear();
-    // Only when nothing that was noted is left in them; the inner ones first, should runs stand in one another.
+    // Only if nothing recorded is left in them; inner runs first, in case runs are nested.
     std::sort(runs.begin(), runs.end(), std::greater());
     runs.erase(std::unique(runs.begin(), runs.end()), runs.end());
     for (const auto &[level, run] : runs)

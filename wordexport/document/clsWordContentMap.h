@@ -11,24 +11,24 @@
 class clsWordIdentities;
 class clsWordStyleImport;
 
-/// True for an element that is the same in every document with the same styles; what is in it is another question.
+/// True for an element that is the same in every document with the same styles, apart from its content.
 bool mdStandsAsItIs(const pugi::xml_node &element);
 
-/// Makes the content of one document ready to stand in another, in one walk over each of its trees: styles, lists,
-/// relationships and identities become the target's, and what belongs to one document's own history is dropped.
+/// Prepares the content of one document for another, in one pass over each of its trees: maps styles, lists,
+/// relationships and identities to the target's, and removes the document's own edit history.
 class clsWordContentMap {
 public:
     using Map = std::function<std::string(const std::string &)>;
 
     clsWordContentMap(clsWordStyleImport &styles, Map lists, clsWordIdentities &identities);
 
-    /// The main part's tree, whose relationships get new ids; it is going below the target's root, whose prefixes it
-    /// has.
+    /// Maps the main part's tree, whose relationships get new ids. It will be moved below the target's root, and uses
+    /// that root's prefixes.
     void mapMain(pugi::xml_node root, const pugi::xml_node &targetRoot, Map relationships);
-    /// The tree of a header or footer, which brings its own relationships along.
+    /// Maps the tree of a header or footer, which keeps its own relationships.
     void mapOther(pugi::xml_node root);
 
-    /// True when the content had a reference to a note, which can't be taken along.
+    /// True if the content had a reference to a note; notes can't be taken over.
     bool hadNotes() const { return m_hadNotes; }
 
 private:
@@ -54,7 +54,7 @@ private:
     std::unordered_map<std::string, std::string> m_bookmarkIds; // open bookmarks: old number, new number
     std::unordered_map<std::string, std::string> m_bookmarkNames; // those that had to change
     std::unordered_map<std::string, pugi::xml_node> m_openBookmarks;
-    std::unordered_set<const void *> m_named; // references to a style that are the target's already
+    std::unordered_set<const void *> m_named; // style references already mapped to the target
     std::vector<pugi::xml_node> m_bookmarkUses;
     std::vector<pugi::xml_node> m_dropped;
 };

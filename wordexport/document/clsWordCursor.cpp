@@ -10,7 +10,7 @@ using pugi::xml_node;
 
 namespace {
 
-// The lower part of a cell that goes over several rows: not a cell of its own to the cursor.
+// The lower part of a cell merged over several rows: not a cell for the cursor.
 bool isMergedIntoAbove(const xml_node &cell)
 {
     const xml_node merge = cell.child("w:tcPr").child("w:vMerge");
@@ -25,7 +25,7 @@ xml_node firstOwnCell(const xml_node &row)
     return cell;
 }
 
-// No table has more; a file that says so must not make the counting overflow.
+// More than any table has; a file that claims more must not make the count overflow.
 constexpr int MostColumns = 1000;
 
 int spanOf(const xml_node &cell)
@@ -38,7 +38,7 @@ int columnsBefore(const xml_node &row)
     return std::clamp(row.child("w:trPr").child("w:gridBefore").attribute("w:val").as_int(0), 0, MostColumns);
 }
 
-// Columns are those of the table's grid, not counted cells: a row may have a wide cell where others have several.
+// Columns of the table's grid, not the number of cells: a row may have one wide cell where others have several.
 int columnOf(const xml_node &cell)
 {
     const xml_node row = WordXml::containerOf(cell);
@@ -49,7 +49,7 @@ int columnOf(const xml_node &cell)
     return column;
 }
 
-// The row's cell that covers a column; beyond its ends the first or the last one.
+// The row's cell that covers a column; before or after the row's cells the first or last one.
 xml_node cellAtColumn(const xml_node &row, int column)
 {
     int end = columnsBefore(row);
@@ -91,7 +91,7 @@ void clsWordCursor::goToEnd()
     xml_node last = WordXml::lastItem(m_body, WordXml::isBlock);
     if (!last)
         last = enterContainer(m_body);
-    else if (WordXml::is(last, "w:tbl")) // a story ends with a paragraph; one that does not gets it
+    else if (WordXml::is(last, "w:tbl")) // a story ends with a paragraph; add a missing one
         last = WordXml::insertTinyParagraph(last.parent(), last);
     place(last, clsWordParagraph(last).length());
 }
@@ -169,7 +169,7 @@ xml_node clsWordCursor::enterBlock(xml_node block)
     return {};
 }
 
-// The first paragraph of a cell or of the body, which gets one where it has none.
+// The first paragraph of a cell or of the body; added if there is none.
 xml_node clsWordCursor::enterContainer(xml_node container)
 {
     for (xml_node block = WordXml::firstItem(container, WordXml::isBlock); block;

@@ -16,7 +16,7 @@ namespace {
 
 constexpr QChar LineBreak(11);
 
-// The paragraphs of the story in document order, until the visitor has seen enough.
+// Visits the paragraphs of the story in document order, until the visitor stops it.
 template <class Visitor> bool visitParagraphs(const xml_node &container, const Visitor &visitor)
 {
     for (xml_node block = WordXml::firstItem(container, WordXml::isBlock); block;
@@ -52,7 +52,7 @@ bool isHidden(const xml_node &format)
     return hidden && WordXml::isOn(hidden);
 }
 
-// What a paragraph mark says of its own insertion or deletion is not a look to take over.
+// The insertion or deletion marks of a paragraph mark are not part of the look to copy.
 constexpr const char *OfMark[] = {"w:ins", "w:del", "w:moveFrom", "w:moveTo", "w:rPrChange"};
 
 bool saysOfMark(const xml_node &format)
@@ -99,7 +99,7 @@ void clsWordDocument::save(clsZipPackage::Packing packing, bool toDisk)
     else
         mdWriteWorkingFile(m_path, bytes);
     const QByteArray &text = m_package.partBytes(m_package.mainPart());
-    // It is near the front: QByteArray's own search would take long to learn what it looks for.
+    // It is near the front: QByteArray's search would spend long on its preparation.
     const size_t place
         = std::string_view(bytes.data(), size_t(bytes.size())).find(std::string_view(text.data(), size_t(text.size())));
     m_savedText = {bytes.size(), qint64(place), text.size()};
@@ -142,7 +142,7 @@ void clsWordDocument::moved()
 
 void clsWordDocument::goToStart()
 {
-    m_package.restoreBody(); // a document that others were appended to begins there
+    m_package.restoreBody(); // the start of a joined document is in the settled text
     m_cursor.goToStart();
     moved();
 }
@@ -210,8 +210,8 @@ void clsWordDocument::removeHidden(const QString &text)
     }
 }
 
-// A sheet is searched for one placeholder after another, and all of them have a brace: the paragraphs that have one
-// are looked for once. The list may hold too many, but never too few.
+// A sheet is searched for many placeholders, all of which contain a brace: the paragraphs with a brace are collected
+// once. The list may contain too many, but never too few.
 std::vector<xml_node> &clsWordDocument::paragraphsThatMayHold(char c)
 {
     const auto known = m_placeholders.find(c);
@@ -249,7 +249,7 @@ void clsWordDocument::typeText(const QString &text)
     if (text.isEmpty())
         return;
     QString typed = text;
-    typed.replace(LineBreak, u'\n'); // which passes the cleaning
+    typed.replace(LineBreak, u'\n'); // which survives the removal of forbidden characters
     typed = WordXml::withoutForbiddenCharacters(typed);
     typed.replace(QLatin1String("\r\n"), QLatin1String("\n"));
     typed.replace(u'\r', LineBreak);
@@ -267,18 +267,18 @@ void clsWordDocument::type(const QString &typed)
     clearSelectedCell();
     clsWordParagraph paragraph(m_cursor.paragraph(), &m_typed);
     const bool symbols = m_symbolFont;
-    // Ticks are symbols of their own; only other text needs the font.
+    // Ticks are separate symbol elements; only other text needs the font.
     const bool symbolFont = symbols && !holdsTextOf(typed, isTick);
     const xml_node format = formatForTyping(paragraph.formatAt(m_cursor.from(), m_cursor.to()), symbolFont);
     const int end = paragraph.type(m_cursor.from(), m_cursor.to(), typed, format, symbols, m_found);
     m_found.clear();
     m_cursor.place(m_cursor.paragraph(), end);
-    // Typed text can bring the character into a paragraph that had none.
+    // Typed text can bring the character into further paragraphs.
     std::erase_if(m_placeholders, [&typed](const auto &known) { return typed.contains(QLatin1Char(known.first)); });
     changed();
 }
 
-// Typing over a selected cell leaves one paragraph in it, with nothing but what is typed.
+// Typing over a selected cell leaves one paragraph in it, with only the typed text.
 void clsWordDocument::clearSelectedCell()
 {
     xml_node cell = m_cursor.selectedCell();
@@ -352,8 +352,8 @@ void clsWordDocument::backSpace()
         changed();
         return;
     }
-    // At a paragraph's start it is the mark of the one before that goes. It stays where it holds more than a mark:
-    // the end of a section, or a table's end; and a cell or a document has nothing before its first paragraph.
+    // At a paragraph's start, the previous paragraph mark is deleted. It is kept if it is also the end of a section or
+    // follows a table; and the first paragraph of a cell or a document has none before it.
     const xml_node before = WordXml::previousItem(m_cursor.paragraph(), WordXml::isBlock);
     if (!WordXml::is(before, "w:p") || before.child("w:pPr").child("w:sectPr")
         || before.parent() != m_cursor.paragraph().parent())

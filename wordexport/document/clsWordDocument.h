@@ -15,31 +15,31 @@
 
 class clsWordComposer;
 
-/// One open document: its main story and the cursor in it, on which all editing is done.
+/// An open document: its main story and the cursor with which it is edited.
 class clsWordDocument {
 public:
-    /// Opens a document's file. One that can't be worked with is a clsRunTimeError that says why, and names the
-    /// document by the name that is shown.
+    /// Opens a document's file. Throws clsRunTimeError with the reason if it is unusable, naming the document by
+    /// `shownName`.
     clsWordDocument(const QString &path, const QString &shownName);
-    /// The same of a file whose content is at hand.
+    /// The same with the file's content already loaded.
     clsWordDocument(const QString &path, const QString &shownName, clsZipPackage content);
     ~clsWordDocument();
 
     const QString &path() const { return m_path; }
-    /// The document's styles, as bytes.
+    /// The document's styles part.
     QByteArray styles();
 
-    /// Makes room for what was typed, and returns what is then printed otherwise than the template has it.
+    /// Fits the typed text, and returns the texts that are then printed differently from the template.
     std::vector<clsFittedText> fit();
-    /// How many paper pages it takes when it is printed as a sheet of a joined document.
+    /// The number of paper pages when printed as a sheet of a joined document.
     int paperPages();
-    /// Where the placeholders of its table cells are printed.
+    /// Where the placeholders in its table cells are printed.
     std::vector<clsPlaceholderPlace> placeholderPlaces();
-    /// What the document's file would hold.
+    /// The content for the document's file.
     const clsZipPackage &content() { return m_package.content(); }
     /// Writes the document back to its file.
     void save(clsZipPackage::Packing packing, bool toDisk);
-    /// Where the text stands in the file that was saved last; meaningless where that was packed.
+    /// The position of the text in the last saved file; undefined if that was compressed.
     const clsTextPlace &savedText() const { return m_savedText; }
 
     void goToStart();
@@ -47,23 +47,23 @@ public:
     void cellRight();
     void rowStart();
 
-    /// Selects the first occurrence of a text in the story; where there is none, the cursor is at the start.
+    /// Selects the first occurrence of a text in the story; if there is none, moves the cursor to the start.
     void findFirst(const QString &find);
-    /// Removes this text wherever it is hidden.
+    /// Removes all hidden occurrences of this text.
     void removeHidden(const QString &text);
-    /// True when any of the selected text is bold; with nothing selected, when typed text would be.
+    /// True if any of the selected text is bold; without a selection, if typed text would be.
     bool selectionIsBold();
 
-    /// The weight and the symbol font of what is typed next; both last until the cursor is moved.
+    /// The weight and symbol font of the text typed next; both last until the cursor is moved.
     void setBold(bool bold) { m_bold = bold; }
     void setSymbolFont() { m_symbolFont = true; }
-    /// Types over the selection; character 11 and line ends are line breaks within the paragraph.
+    /// Types over the selection; character 11 and line ends become line breaks within the paragraph.
     void typeText(const QString &text);
     void typePageBreak();
     void startParagraph();
     void backSpace();
 
-    /// Appends another document's file as sections of its own; the cursor is then at the end.
+    /// Appends another document's file with its own sections; the cursor is then at the end.
     void append(const QString &path, const QString &shownName, const clsPlainText *plain);
 
 private:
@@ -82,10 +82,10 @@ private:
     clsWordCursor m_cursor;
     std::optional<bool> m_bold;
     bool m_symbolFont = false;
-    QString m_found; // the placeholder that is selected
+    QString m_found; // the selected placeholder
     clsWordTyped m_typed;
-    pugi::xml_document m_format; // holds the formatting of the text that is being typed
-    std::map<char, std::vector<pugi::xml_node>> m_placeholders; // paragraphs in order, by a character in them
+    pugi::xml_document m_format; // holds the formatting of the text being typed
+    std::map<char, std::vector<pugi::xml_node>> m_placeholders; // paragraphs in order, by a character that they contain
     std::shared_ptr<const clsWordBoldness> m_boldness;
     clsTextPlace m_savedText;
     std::unique_ptr<clsWordComposer> m_composer;

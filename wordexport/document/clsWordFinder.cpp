@@ -12,7 +12,7 @@ char32_t folded(char32_t c)
     return c == 0xA0 ? U' ' : QChar::toCaseFolded(c);
 }
 
-// The character at a position of a text that is known to be UTF-8; moves the position on.
+// Decodes the character at a position of valid UTF-8 text, and moves the position on.
 char32_t decode(const std::string &text, size_t &at)
 {
     const auto next = [&]() -> char32_t { return at < text.size() ? uchar(text[at++]) & 0x3Fu : 0u; };

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-/// Looks for a literal text without regard to case. A no-break blank counts as a blank: it is easily typed by
-/// mistake into a placeholder, and nobody sees it.
+/// Searches for a literal text, ignoring case. A no-break blank counts as a blank: it is easily typed into a
+/// placeholder by mistake, and invisible.
 class clsWordFinder {
 public:
     struct Hit {
@@ -17,9 +17,9 @@ public:
     explicit clsWordFinder(const QString &find);
 
     bool isEmpty() const { return m_find.empty(); }
-    /// A character that every text with a hit holds as it stands, 0 where there is none: for a quick first look.
+    /// A character that occurs unchanged in every text with a hit, 0 if there is none: for a quick first check.
     char sureCharacter() const;
-    /// The first hit in a UTF-8 text, in bytes; `from` is -1 where there is none.
+    /// The first hit in a UTF-8 text, in bytes; `from` is -1 if there is none.
     Hit firstIn(const std::string &text) const;
 
 private:

@@ -7,8 +7,8 @@
 
 namespace {
 
-// Numbers beyond this are no one's counting, and counting on from them would leave the format's range. Nor will
-// any count from below ever meet them.
+// Larger numbers are ignored: they don't come from counting, and counting on from them would leave the format's range.
+// New numbers never reach them.
 constexpr long Countable = 1000000000;
 
 void raise(long &last, const char *number)

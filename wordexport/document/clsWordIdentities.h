@@ -6,17 +6,17 @@
 #include <string>
 #include <unordered_map>
 
-/// What must be unique in the whole of a document: the numbers of pictures, bookmarks and content controls, and the
-/// names of bookmarks. Counters, no random numbers: the same documents joined twice give the same bytes.
+/// The values that must be unique in a document: the numbers of pictures, bookmarks and content controls, and the names
+/// of bookmarks. Uses counters, not random numbers: joining the same documents twice produces the same bytes.
 class clsWordIdentities {
 public:
-    /// Learns what the document has already.
+    /// Collects the values that the document already uses.
     explicit clsWordIdentities(clsWordPackage &document);
 
     std::string nextDrawing() { return std::to_string(++m_lastDrawing); }
     std::string nextBookmark() { return std::to_string(++m_lastBookmark); }
     std::string nextControl() { return std::to_string(++m_lastControl); }
-    /// The name itself where it is free, else a new one; either is then taken.
+    /// The name itself if it is free, otherwise a new one; reserves the result.
     std::string freeBookmarkName(const std::string &name);
 
 private:

@@ -8,7 +8,7 @@ using pugi::xml_node;
 
 namespace {
 
-// What the format says of a table without any style: 0.08 of an inch at the sides.
+// The format's default for a table without a style: 0.08 of an inch at the sides.
 constexpr int SideMarginOfNoStyle = 115;
 
 template <class Value> void take(std::optional<Value> &own, const std::optional<Value> &stronger)
@@ -26,11 +26,11 @@ std::optional<bool> onOff(const xml_node &format, const char *name)
 std::optional<int> number(const xml_node &node, const char *name)
 {
     const pugi::xml_attribute attribute = node.attribute(name);
-    constexpr int Most = 100'000; // beyond what any page has, so that no file makes the sums overflow
+    constexpr int Most = 100'000; // more than any page has, so that no file makes the sums overflow
     return attribute ? std::optional<int>(std::clamp(attribute.as_int(), -Most, Most)) : std::nullopt;
 }
 
-// Left and right are called start and end by newer programs.
+// Newer programs call left and right start and end.
 std::optional<int> number(const xml_node &node, const char *name, const char *newerName)
 {
     const std::optional<int> newer = number(node, newerName);
@@ -104,7 +104,7 @@ clsWordLooks::clsWordLooks(const xml_node &styles)
 
 std::shared_ptr<const clsWordLooks> clsWordLooks::ofStyles(const QByteArray &styles)
 {
-    // All sheets of an export have the same styles, and each is a document that knows nothing of the others.
+    // All sheets of an export have the same styles, but each is a separate document.
     static struct {
         QByteArray styles;
         std::shared_ptr<const clsWordLooks> looks;
@@ -148,8 +148,7 @@ clsWordLooks::Paragraph clsWordLooks::paragraphSaidBy(const xml_node &properties
     return look;
 }
 
-// A style and those that it is based on, the one at the bottom first. A chain that is longer than there are styles goes
-// in a circle.
+// A style and its base styles, the lowest first. A chain longer than the number of styles is a cycle.
 std::vector<const clsWordLooks::Style *> clsWordLooks::chainOf(const std::string &id, const char *type) const
 {
     std::vector<const Style *> chain;

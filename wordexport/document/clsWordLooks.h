@@ -12,8 +12,8 @@
 #include <string>
 #include <vector>
 
-/// What of the look of a text decides how much room it takes: sizes, weights, indents, spaces, tabs. By its own
-/// formatting, else by the styles of run, paragraph and table, else by the document's defaults.
+/// The properties of a text's look that decide how much room it takes: sizes, weights, indents, spaces, tabs. From its
+/// direct formatting, otherwise from the character, paragraph and table styles, otherwise from the document's defaults.
 class clsWordLooks {
 public:
     struct Run {
@@ -33,7 +33,7 @@ public:
         std::optional<int> after;
         std::optional<int> line;
         std::optional<std::string> lineRule;
-        std::map<int, std::optional<TextLayout::Tab>> tabs; ///< by their places; one without a value is taken away
+        std::map<int, std::optional<TextLayout::Tab>> tabs; ///< by position; one without a value is removed
         Run run;
 
         void takeOver(const Paragraph &stronger);
@@ -46,18 +46,18 @@ public:
         std::optional<int> bottom;
 
         void takeOver(const Margins &stronger);
-        /// Those that an element of margins says (w:tblCellMar or w:tcMar).
+        /// The margins in an element w:tblCellMar or w:tcMar.
         static Margins saidBy(const pugi::xml_node &margins);
     };
 
     explicit clsWordLooks(const pugi::xml_node &styles);
-    /// The looks that the bytes of a styles part make. All sheets of an export have the same styles, so the last answer
-    /// is kept.
+    /// The looks from the bytes of a styles part. All sheets of an export have the same styles, so the last result is
+    /// cached.
     static std::shared_ptr<const clsWordLooks> ofStyles(const QByteArray &styles);
 
-    /// The look of a paragraph that says nothing of it but its style.
+    /// The look of a paragraph that has only a style.
     const Paragraph &ofStyles(const char *paragraphStyle, const std::string &tableStyle) const;
-    /// The look of a paragraph, in a table of that style where it stands in one; its run is that of plain text in it.
+    /// The look of a paragraph, in a table of that style if it is in one; its run is that of plain text in it.
     Paragraph ofParagraph(const pugi::xml_node &paragraph, const std::string &tableStyle) const;
     /// The look of a run in a paragraph with that look.
     Run ofRun(const pugi::xml_node &format, const Run &paragraph) const;
@@ -78,6 +78,6 @@ private:
     std::map<std::string, Style> m_styles;
     std::map<std::string, std::string> m_defaults; ///< the default style of each type
     Paragraph m_documentDefault;
-    /// What paragraphs look like by their style and their table's, as far as it was asked for.
+    /// The looks of paragraphs by paragraph and table style, cached.
     mutable std::map<std::pair<std::string, std::string>, Paragraph> m_byStyles;
 };

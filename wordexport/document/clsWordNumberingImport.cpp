@@ -11,8 +11,8 @@ using pugi::xml_node;
 
 namespace {
 
-// A number beyond this is no one's counting, and counting on from it would leave the format's range. Nor will any count
-// from below ever meet it.
+// Larger numbers are ignored: they don't come from counting, and counting on from them would leave the format's range.
+// New numbers never reach them.
 constexpr int Countable = 1'000'000'000;
 
 long highest(const xml_node &root, const char *element, const char *attribute)
@@ -24,7 +24,7 @@ long highest(const xml_node &root, const char *element, const char *attribute)
     return last;
 }
 
-// The format wants eight hexadecimal digits that differ from list to list.
+// The format requires eight hexadecimal digits, different for each list.
 std::string listIdentity(long number)
 {
     return QString::number(0x5A520000 + number, 16).toUpper().toStdString();
@@ -64,7 +64,7 @@ xml_node clsWordNumberingImport::targetRoot()
 std::string clsWordNumberingImport::numberFor(const std::string &id)
 {
     if (id == "0")
-        return id; // "in no list", whatever the style says
+        return id; // "in no list", overriding the style
     const auto known = m_numbers.find(id);
     if (known != m_numbers.end())
         return known->second;
@@ -97,7 +97,7 @@ std::string clsWordNumberingImport::abstractNumberFor(const xml_node &abstract)
     m_abstractNumbers.emplace(id, mapped);
 
     xml_node root = targetRoot();
-    const xml_node firstNumber = root.child("w:num"); // all definitions stand before all lists
+    const xml_node firstNumber = root.child("w:num"); // all definitions precede all lists
     const xml_node cleanup = root.child("w:numIdMacAtCleanup");
     xml_node copy = firstNumber ? root.insert_copy_before(abstract, firstNumber)
         : cleanup               ? root.insert_copy_before(abstract, cleanup)
@@ -106,7 +106,7 @@ std::string clsWordNumberingImport::abstractNumberFor(const xml_node &abstract)
     if (const xml_node identity = copy.child("w:nsid"))
         WordXml::setAttribute(identity, "w:val", listIdentity(m_last.abstractNumber));
     for (xml_node level : copy.children("w:lvl"))
-        level.remove_child("w:lvlPicBulletId"); // the picture stays behind; the bullet's own text is there
+        level.remove_child("w:lvlPicBulletId"); // the picture is not copied; the bullet's text is
     mapStyles(copy);
     return mapped;
 }

@@ -6,22 +6,22 @@
 #include <string>
 #include <unordered_map>
 
-/// The last numbers given to lists in the document that others are appended to; -1 before they are known.
+/// The last list numbers used in the target document; -1 before they have been read.
 struct clsWordListNumbers {
     long abstractNumber = -1;
     long number = -1;
 };
 
-/// The lists of one document on their way into another. Each document's lists get numbers of their own, so that
-/// they start again instead of counting on.
+/// Imports the lists of one document into another. Each document's lists get new numbers, so that they restart instead
+/// of continuing.
 class clsWordNumberingImport {
 public:
-    /// Gives the target's id for a style's id in the source.
+    /// Returns the target's id for a style id of the source.
     using StyleMap = std::function<std::string(const std::string &)>;
 
     clsWordNumberingImport(clsWordPackage &target, clsWordListNumbers &last, clsWordPackage &source, StyleMap styles);
 
-    /// The target's number of a list, which is copied when it is first asked for.
+    /// The target's number of a list, which is copied on first use.
     std::string numberFor(const std::string &id);
 
 private:

@@ -12,8 +12,7 @@ constexpr const char *ContentTypesName = "[Content_Types].xml";
 constexpr const char *RelationshipsType = "http://schemas.openxmlformats.org/package/2006/relationships";
 constexpr const char *StrictRelationships = "http://purl.oclc.org/ooxml/officeDocument/relationships";
 
-// Honest documents nest some dozens of levels. Deeper ones are refused, since every walk down a tree costs room
-// on the stack.
+// Real documents nest a few dozen levels. Deeper ones are refused, because each walk down a tree uses stack space.
 constexpr int MaximumDepth = 400;
 
 class clsByteWriter final : public pugi::xml_writer {
@@ -27,7 +26,7 @@ public:
 
 QByteArray serialise(pugi::xml_document &tree, qsizetype expected)
 {
-    // Whatever the part was encoded in, it is written in UTF-8.
+    // The part is written in UTF-8, whatever its encoding was.
     if (pugi::xml_attribute encoding = tree.first_child().attribute("encoding");
         encoding && tree.first_child().type() == pugi::node_declaration)
         encoding.set_value("UTF-8");
@@ -54,7 +53,7 @@ std::string extensionOf(const QString &partName)
     return lower(partName.mid(partName.lastIndexOf(u'.') + 1));
 }
 
-// The name of the part that `target` means, seen from a part called `source`; empty where it leaves the package.
+// The name of the part that `target` refers to from a part called `source`; empty if it is outside the package.
 QString resolve(const QString &source, const QString &target)
 {
     QStringList segments;
@@ -147,13 +146,13 @@ void clsWordPackage::parseInto(pugi::xml_node place, int part) const
 {
     const QByteArray &bytes = m_zip.bytes(part);
     const bool utf16 = bytes.startsWith("\xFE\xFF") || bytes.startsWith("\xFF\xFE") || bytes.left(2).contains('\0');
-    // Within another tree there is no place for a part's declaration; it would be taken for damage.
+    // Within another tree a part's declaration is not allowed, and would count as damage.
     const unsigned flags
         = place.type() == pugi::node_document ? WordXml::ParseFlags : WordXml::ParseFlags & ~pugi::parse_declaration;
     const bool sound = (utf16 || bytes.isValidUtf8())
         && place.append_buffer(bytes.constData(), size_t(bytes.size()), flags)
         && WordXml::depth(place, MaximumDepth) < MaximumDepth;
-    // A fragment without a root, or with two, is no document, though a tree takes it without a word.
+    // A fragment with no root or two is not a document, although the parser accepts it.
     if (!sound || std::count_if(place.begin(), place.end(), WordXml::isElement) != 1) {
         WordXml::removeContent(place);
         throw mdPartDamaged(m_shownName, partName(part));
@@ -213,7 +212,7 @@ void clsWordPackage::restoreBody()
     body.remove_child(staging);
 }
 
-// What the tree has before the settled text and behind it; a mark stands for that meanwhile.
+// The tree's text before and after the settled text, whose place a mark holds meanwhile.
 std::pair<QByteArray, QByteArray> clsWordPackage::aroundSettledText()
 {
     pugi::xml_document &tree = partXml(m_mainPart);
@@ -221,7 +220,7 @@ std::pair<QByteArray, QByteArray> clsWordPackage::aroundSettledText()
     std::string name = "settled";
     QByteArray bytes;
     QByteArray mark;
-    do { // until the mark is one that nothing else in the text looks like
+    do { // until the mark is unique in the text
         name += '-';
         const pugi::xml_node node = body.prepend_child(pugi::node_pi);
         body.first_child().set_name(name.c_str());
@@ -236,7 +235,7 @@ std::pair<QByteArray, QByteArray> clsWordPackage::aroundSettledText()
 void clsWordPackage::writeMainPart()
 {
     const auto [head, tail] = aroundSettledText();
-    if (head != m_settledHead) { // a document that was appended since has declared prefixes there
+    if (head != m_settledHead) { // a document appended since has declared prefixes there
         const QByteArray text = m_settled->packedWith({}).text().sliced(m_settledHead.size());
         m_settled.reset();
         settleText(text);
@@ -346,7 +345,7 @@ clsWordPackage::Relations &clsWordPackage::relations(int part)
         for (const pugi::xml_node &node : tree->document_element().children("Relationship")) {
             read.list.push_back({node.attribute("Id").value(), node.attribute("Type").value(),
                 node.attribute("Target").value(), std::strcmp(node.attribute("TargetMode").value(), "External") == 0});
-            // A number beyond the counter's reach can't collide with it either.
+            // A number beyond the counter's reach can't collide with it.
             const std::string &id = read.list.back().id;
             if (id.starts_with("rId") && id.size() <= 10)
                 read.nextId = std::max(read.nextId, std::atoi(id.c_str() + 3) + 1);

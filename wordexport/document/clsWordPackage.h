@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-/// A document as a package of parts, each with a content type and relationships to others. A part is parsed only
-/// when it is asked for; one that nobody changes is written back byte for byte.
+/// A document as a package of parts, each with a content type and relationships to others. A part is parsed only on
+/// demand; an unchanged part is written back byte for byte.
 class clsWordPackage {
 public:
     struct Relationship {
@@ -20,33 +20,33 @@ public:
         bool external = false;
     };
 
-    /// The package itself, where the source of relationships is asked for.
+    /// The package itself as the source of relationships.
     static constexpr int Package = -1;
 
     static clsWordPackage fromFile(const QString &path) { return fromFile(path, path); }
     static clsWordPackage fromFile(const QString &path, const QString &shownName);
     clsWordPackage(clsZipPackage zip, const QString &shownName);
-    /// With the main part's tree below a node of another tree: what is in it can then be moved there instead of
+    /// Parses the main part's tree below a node of another tree, so that its content can be moved there instead of
     /// copied. That node must outlive the package's use.
     clsWordPackage(clsZipPackage zip, const QString &shownName, const pugi::xml_node &mainPlace);
 
     QByteArray toBytes(clsZipPackage::Packing packing) { return content().toBytes(packing); }
-    /// The parts as they are now, changes included.
+    /// The parts with all changes.
     const clsZipPackage &content();
 
-    /// The name that stands for the document in error messages.
+    /// The document's name in error messages.
     const QString &shownName() const { return m_shownName; }
-    /// The part with the text: the one that the package's own relationship leads to, whatever it is called.
+    /// The part with the text: the target of the package's own relationship, whatever its name.
     int mainPart() const { return m_mainPart; }
     /// The root element of that part.
     pugi::xml_node mainRoot();
-    /// The part that the main part is related to by a type (its last word: "styles", "numbering"), or -1.
+    /// The part to which the main part has a relationship of that type (its last word: "styles", "numbering"), or -1.
     int relatedPart(const char *typeName);
 
-    /// Text at the front of the main part's body that is finished, packed: a joined document would take a thousand
-    /// times the room as a tree. Moves all that the body holds there.
+    /// Moves the present body to the finished text at the front of the main part, which is kept compressed: as a tree,
+    /// a joined document would take a thousand times the memory.
     void settleBody();
-    /// Adds text to it that was never in the tree, whole blocks as they are written.
+    /// Adds text to it that was never in the tree, as whole blocks in their written form.
     void settleText(QByteArrayView blocks);
     /// Makes the finished text part of the tree again.
     void restoreBody();
@@ -55,29 +55,29 @@ public:
     int partCount() const { return int(m_zip.entries().size()); }
     const QString &partName(int part) const { return m_zip.entries()[size_t(part)].name; }
     const QByteArray &partBytes(int part) const { return m_zip.bytes(part); }
-    /// The bytes of a part as they are now, changes included.
+    /// The bytes of a part with all changes.
     QByteArray currentBytes(int part);
-    /// The tree of a part, parsed on the first call. Whoever changes it says so with setChanged.
+    /// The tree of a part, parsed on the first call. Callers that change it must call setChanged.
     pugi::xml_document &partXml(int part);
     void setChanged(int part) { m_parsed[part].changed = true; }
     std::string contentType(int part) const;
 
     int findPart(const QString &name) const { return m_zip.indexOf(name); }
-    /// Adds a part under that name, or with another number in it ("word/media/image2.png") where it is taken.
+    /// Adds a part under that name or, if it is taken, with another number in it ("word/media/image2.png").
     int addPart(const QString &nameLike, const QByteArray &bytes, const std::string &contentType);
 
     const std::vector<Relationship> &relationships(int part);
     const Relationship *relationship(int part, const char *id);
-    /// The part that an internal relationship leads to, or -1.
+    /// The target of an internal relationship, or -1.
     int findTarget(int part, const Relationship &relationship) const;
-    /// The same, where one that leads nowhere is an error.
+    /// The same, but a missing target is an error.
     int targetOf(int part, const Relationship &relationship) const;
     /// Adds a relationship and returns its new id.
     std::string addRelationship(int part, const std::string &type, int targetPart);
     std::string addExternalRelationship(int part, const std::string &type, const std::string &target);
-    /// Gives a new part the relationships of another, ids included.
+    /// Sets the relationships of a new part, including their ids.
     void setRelationships(int part, std::vector<Relationship> relationships);
-    /// How a part refers to another one: the absolute form, which holds wherever the part lies.
+    /// The reference to another part in absolute form, valid from any part.
     std::string referenceTo(int targetPart) const;
 
 private:
@@ -103,8 +103,8 @@ private:
     clsZipPackage m_zip;
     QString m_shownName;
     int m_mainPart = -1;
-    pugi::xml_node m_mainPlace; // of the main part's tree; a null node where it is a tree of its own
-    std::unique_ptr<clsDeflatedText> m_settled; // behind what the main part begins with
+    pugi::xml_node m_mainPlace; // of the main part's tree; a null node if it is a separate tree
+    std::unique_ptr<clsDeflatedText> m_settled; // after the head of the main part
     QByteArray m_settledHead;
     std::map<int, Parsed> m_parsed;
     std::map<int, Relations> m_relations;
@@ -112,5 +112,5 @@ private:
     std::map<std::string, std::string> m_defaultTypes; // by extension, lower case
     std::map<std::string, std::string> m_overrideTypes; // by part name, lower case
     bool m_contentTypesChanged = false;
-    std::map<QString, int> m_nextNumber; // of part names, by what surrounds the number
+    std::map<QString, int> m_nextNumber; // of part names, by the text around the number
 };

@@ -55,7 +55,7 @@ void clsWordParagraph::read() const
     m_isRead = true;
     m_leaves.clear();
     m_text.clear();
-    std::vector<bool> fieldCodes; // of the fields that are open here: is it their code, not yet their result?
+    std::vector<bool> fieldCodes; // for each open field: whether this is its code (not yet its result)
     for (xml_node run = WordXml::firstItem(m_paragraph, WordXml::isRun); run;
          run = WordXml::nextItem(run, WordXml::isRun))
         readRun(run, fieldCodes);
@@ -135,15 +135,15 @@ int clsWordParagraph::type(
     if (m_marks)
         m_marks->typed(run, std::max(0, from - startOf(run)), placeholder);
     const int count = WordRun::type(run, typed, symbols);
-    m_isRead = false; // only when somebody asks: mostly, what was typed is the last that happens to a paragraph
+    m_isRead = false; // re-read on demand only: typing is usually the last change to a paragraph
     return from + count;
 }
 
 xml_node clsWordParagraph::runForTyping(int from, int to, const xml_node &format)
 {
     if (to > from) {
-        // The run of the first selected character stays where it is and is emptied: it may stand in a hyperlink or
-        // between bookmarks, and so does what is typed over it.
+        // The run of the first selected character stays in place and is emptied: it may be in a hyperlink or between
+        // bookmarks, and the new text must be too.
         splitRunAt(to);
         const xml_node run = splitRunAt(from);
         for (const Leaf &leaf : leaves())
@@ -179,7 +179,7 @@ void clsWordParagraph::removeIfEmpty(xml_node run)
         m_marks->forget(run);
 }
 
-// Where the text of a run begins that was read; for a new one where it is typed, which counts as its start.
+// The start of a run's text as last read; for a new run the position of typing.
 int clsWordParagraph::startOf(const xml_node &run) const
 {
     for (const Leaf &leaf : leaves())
@@ -245,14 +245,14 @@ xml_node clsWordParagraph::split(int at)
 {
     xml_node following = splitRunAt(at);
     while (following && following.parent() != m_paragraph)
-        following = following.parent(); // what wraps the run goes with it
+        following = following.parent(); // wrappers of the run move with it
 
     xml_node properties = m_paragraph.child("w:pPr");
     xml_node next = m_paragraph.parent().insert_child_after("w:p", m_paragraph);
     if (properties) {
         xml_node copy = next.append_copy(properties);
         copy.remove_child("w:pageBreakBefore");
-        // A section ends with the last of its paragraphs, which is now the new one.
+        // A section ends with its last paragraph, now the new one.
         properties.remove_child("w:sectPr");
     }
     while (following) {
@@ -266,7 +266,7 @@ xml_node clsWordParagraph::split(int at)
 
 void clsWordParagraph::join(xml_node next)
 {
-    // The mark between the two goes, and with it the end of a section that the second one carries would be lost.
+    // Removing the mark between the two would also lose the end of a section in the second one.
     if (const xml_node section = next.child("w:pPr").child("w:sectPr")) {
         xml_node properties = WordXml::ensureProperties(m_paragraph, "w:pPr");
         properties.remove_child("w:sectPr");

@@ -16,7 +16,7 @@ bool isHeaderOrFooter(const std::string &contentType)
 
 void addField(QCryptographicHash &hash, QByteArrayView field)
 {
-    // With its length in front, so that two fields can't run into one another.
+    // Preceded by its length, so that adjacent fields can't be confused.
     hash.addData(QByteArray::number(field.size()) + ':');
     hash.addData(field);
 }
@@ -90,7 +90,7 @@ std::string clsWordPartImport::externalRelationship(const clsWordPackage::Relati
     return id;
 }
 
-// The relationships of a part as its copy will have them. Their ids stay: they are local to the part.
+// The relationships of a part's copy. Their ids are kept, since they are local to the part.
 Relationships clsWordPartImport::copiedRelationships(int sourcePart)
 {
     Relationships copied;
@@ -108,8 +108,7 @@ int clsWordPartImport::copyPart(int sourcePart)
     const auto done = m_parts.find(sourcePart);
     if (done != m_parts.end())
         return done->second;
-    // Parts that refer to one another in a circle do not come from a word processor, nor do chains that would take all
-    // of the stack.
+    // Word processors write no parts that refer to each other in a cycle, and no chains that would exhaust the stack.
     constexpr size_t LongestChain = 100;
     if (sourcePart == m_source.mainPart() || !m_inProgress.insert(sourcePart).second
         || m_inProgress.size() > LongestChain)

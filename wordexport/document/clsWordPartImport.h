@@ -8,27 +8,27 @@
 #include <string>
 #include <unordered_map>
 
-/// What the document that others are appended to knows of its parts: by content, so that a picture or a footer that
-/// many documents hold is there once, and its main part's relationships by type and target.
+/// The target document's parts by content, so that a picture or footer in many documents is stored once, and its main
+/// part's relationships by type and target.
 struct clsWordKnownParts {
     bool learned = false;
     std::unordered_map<std::string, int> byContent;
     std::map<std::pair<std::string, std::string>, std::string> relationships;
 };
 
-/// The parts that the content of one document refers to, on their way into another.
+/// Imports the parts that the content of one document refers to into another.
 class clsWordPartImport {
 public:
-    /// Makes the tree of a header or footer ready for the target.
+    /// Prepares the tree of a header or footer for the target.
     using ContentMap = std::function<void(pugi::xml_node root)>;
 
-    /// `targetStyles` and `sourceStyles` tell apart headers and footers that only look the same byte for byte.
+    /// `targetStyles` and `sourceStyles` distinguish headers and footers that have the same bytes but different styles.
     clsWordPartImport(clsWordPackage &target, clsWordKnownParts &known, const QByteArray &targetStyles,
         clsWordPackage &source, const QByteArray &sourceStyles, ContentMap mapContent);
 
-    /// An error where a part that the source's main part is related to is missing: before anything is copied.
+    /// Raises an error, before anything is copied, if a part that the source's main part refers to is missing.
     void checkSource();
-    /// The id in the target's main part of a relationship of the source's main part.
+    /// The id, in the target's main part, for a relationship of the source's main part.
     std::string relationshipFor(const char *id);
 
 private:

@@ -26,7 +26,7 @@ void addMissingAttributes(xml_node to, const xml_node &from)
             to.append_attribute(attribute.name()) = attribute.value();
 }
 
-// Puts properties under those that are there: what a style says itself goes before what the document says for all.
+// Adds properties below the existing ones: those of the style override the document's defaults.
 void addMissing(xml_node to, const xml_node &from)
 {
     for (const xml_node &property : from.children()) {
@@ -48,7 +48,7 @@ xml_node ensureStyleProperties(xml_node style, const char *name)
 {
     if (const xml_node present = style.child(name))
         return present;
-    // After the style's description, and the paragraph's properties before the run's.
+    // After the style's description, paragraph properties before run properties.
     for (const char *later : {"w:rPr", "w:tblPr", "w:trPr", "w:tcPr", "w:tblStylePr"})
         if (const xml_node next = style.child(later))
             return style.insert_child_before(name, next);
@@ -105,18 +105,19 @@ std::string clsWordStyleImport::styleFor(const std::string &id)
 
 std::string clsWordStyleImport::take(const xml_node &style, int number)
 {
-    // The copy must find its prefixes declared; the source's own root is renamed where they clash.
+    // The prefixes of the copy must be declared; in a conflict those of the source's root are renamed.
     xml_node copy = m_target.get().add(style, number);
     mdMergeNamespaces(definitions().root(), m_target.get().root());
     const std::string id = copy.attribute("w:styleId").value();
-    m_ids.emplace(style.attribute("w:styleId").value(), id); // before its references: styles refer in circles
+    m_ids.emplace(style.attribute("w:styleId").value(), id); // before its references: styles refer to each other in
+                                                             // cycles
     if (definitions().defaults() != m_target.get().own().defaults() && !style.child("w:basedOn")
         && std::strcmp(style.attribute("w:type").value(), "paragraph") == 0)
         addDefaults(copy);
-    // What the styles refer to is taken over after them and not within: a chain may be longer than the stack is deep.
+    // Referenced styles are copied afterwards and not recursively: a chain may be deeper than the stack.
     m_taken.push_back(copy);
     if (m_taken.size() > 1)
-        return id; // whoever took the first goes on
+        return id; // continued by the call that copied the first
     for (size_t i = 0; i < m_taken.size(); ++i)
         mapReferences(m_taken[i]);
     m_taken.clear();
@@ -139,8 +140,8 @@ void clsWordStyleImport::mapReferences(xml_node style)
         WordXml::setAttribute(list, "w:val", m_numbers(WordXml::val(list)));
 }
 
-// The document's own defaults can't come along, since a document has but one set of them: they become part of the
-// style that lies lowest, together with the format's own values where only the target's defaults say something.
+// A document has only one set of defaults, so the source's become part of the lowest style in the chain, together with
+// the format's own values for properties that only the target's defaults set.
 void clsWordStyleImport::addDefaults(xml_node style)
 {
     const xml_node defaults = definitions().root().child("w:docDefaults");

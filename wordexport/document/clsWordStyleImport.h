@@ -9,8 +9,7 @@
 #include <unordered_map>
 #include <vector>
 
-/// The styles of the document that others are appended to, read only when the first one comes whose styles are not
-/// the very same bytes.
+/// The styles of the target document, read only when the first document arrives whose styles part is not identical.
 class clsWordStylesOnDemand {
 public:
     explicit clsWordStylesOnDemand(clsWordPackage &target);
@@ -24,21 +23,21 @@ private:
     std::unique_ptr<clsWordStyles> m_styles;
 };
 
-/// The styles of one document on their way into another. A style is taken over when it is first asked for.
+/// Imports the styles of one document into another. A style is copied on first use.
 class clsWordStyleImport {
 public:
-    /// Gives the target's number for a list's number in the source.
+    /// Returns the target's number for a list number of the source.
     using NumberMap = std::function<std::string(const std::string &)>;
 
     clsWordStyleImport(clsWordStylesOnDemand &target, clsWordPackage &source, NumberMap numbers);
 
-    /// The styles as they came, to tell documents with other styles apart.
+    /// The original styles part, to distinguish documents with other styles.
     const QByteArray &sourceBytes() const { return m_sourceBytes; }
-    /// True when both documents have the very same styles, so that every id stands as it is.
+    /// True if both documents have identical styles, so that all ids stay the same.
     bool isSame() const { return m_same; }
-    /// The target's id of a style; empty where the source has no such style.
+    /// The target's id of a style; empty if the source has no such style.
     std::string styleFor(const std::string &id);
-    /// The target's id of the source's default style of a type; empty where it is the target's default too.
+    /// The target's id of the source's default style of a type; empty if it is the target's default too.
     std::string defaultFor(const char *type);
 
 private:
@@ -54,6 +53,6 @@ private:
     bool m_same;
     std::unique_ptr<clsWordStyleDefinitions::Of> m_definitions;
     std::unordered_map<std::string, std::string> m_ids;
-    std::vector<pugi::xml_node> m_taken; // whose references are still to be mapped
+    std::vector<pugi::xml_node> m_taken; // with references still to be mapped
     std::map<std::string, std::string> m_defaults;
 };

@@ -10,7 +10,7 @@ using pugi::xml_node;
 
 namespace {
 
-// What says nothing of how a text looks: identity, the order of lists of styles, the history of edits.
+// Elements without effect on the look: identity, sorting, edit history.
 constexpr const char *NoLook[] = {
     "w:name",
     "w:aliases",
@@ -38,7 +38,7 @@ bool saysNothing(const xml_node &node)
         std::begin(NoLook), std::end(NoLook), [&node](const char *name) { return WordXml::is(node, name); });
 }
 
-// The same text for the same content: attributes in one order, no history of edits.
+// Equal text for equal content: attributes sorted, no edit history.
 void describeTree(const xml_node &node, std::string &out)
 {
     if (node.type() == pugi::node_pcdata || !WordXml::isElement(node))
@@ -106,8 +106,8 @@ int clsWordStyleDefinitions::Of::number(const std::string &id)
     if (known != m_numbers.end())
         return known->second;
     const xml_node found = style(id);
-    // A style that is based on itself, however many steps round, has nothing below it at that step; nor has one at the
-    // end of a chain so long that no word processor follows it.
+    // A style in a cycle has no base style at that step; nor has one at the end of a chain too long for any word
+    // processor.
     constexpr size_t LongestChain = 200;
     if (!found || m_inProgress.size() >= LongestChain || !m_inProgress.insert(id).second)
         return -1;

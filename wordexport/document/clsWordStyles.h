@@ -6,23 +6,23 @@
 #include <string>
 #include <unordered_map>
 
-/// The definitions of styles, told apart by what they say and not by their ids, which every word processor is
-/// free to choose. Two styles with the same number look the same, including all that they are based on.
+/// The definitions of styles, identified by their content and not by their ids, which each word processor chooses
+/// freely. Styles with the same number look the same, including their base styles.
 class clsWordStyleDefinitions {
 public:
-    /// The number of a style of a document; `styles` is the root of its styles part, `numbering` that of its
-    /// numbering part.
+    /// Numbers the styles of one document; `styles` is the root of its styles part, `numbering` that of its numbering
+    /// part.
     class Of {
     public:
         Of(clsWordStyleDefinitions &definitions, const pugi::xml_node &styles, const pugi::xml_node &numbering);
 
         const pugi::xml_node &root() const { return m_styles; }
         pugi::xml_node style(const std::string &id) const;
-        /// The style that applies where none is named; a null node where there is none.
+        /// The default style of a type; a null node if there is none.
         pugi::xml_node defaultStyle(const char *type) const;
-        /// The number of the definition, -1 for a style that is not there.
+        /// The number of the definition; -1 if there is no such style.
         int number(const std::string &id);
-        /// The number of the document's defaults, which lie below all styles.
+        /// The number of the document's defaults, which are below all styles.
         int defaults() const { return m_defaults; }
 
     private:
@@ -43,15 +43,15 @@ private:
     std::unordered_map<std::string, int> m_numbers;
 };
 
-/// The styles of the document that others are appended to: identical styles are shared, different ones of the same
-/// name are taken over under a new name.
+/// The styles of the target document: identical styles are shared, different ones of the same name are copied under a
+/// new name.
 class clsWordStyles {
 public:
     explicit clsWordStyles(clsWordPackage &target);
 
-    /// The id of a style with that definition, empty where there is none yet.
+    /// The id of a style with that definition; empty if there is none yet.
     std::string find(int number) const;
-    /// Takes a copy of a style over under an id and a name that are free, and returns it.
+    /// Copies a style under a free id and name, and returns the copy.
     pugi::xml_node add(const pugi::xml_node &style, int number);
 
     clsWordStyleDefinitions &definitions() { return m_definitions; }
@@ -70,5 +70,5 @@ private:
     std::unordered_map<std::string, int> m_lastSuffix;
 };
 
-/// The part of a kind that a document is related to, added with an empty root where it has none.
+/// The part of that type that a document refers to; added with an empty root if missing.
 int mdEnsureRelatedPart(clsWordPackage &package, const char *typeName, const char *rootName);

@@ -9,7 +9,7 @@ using pugi::xml_node;
 
 namespace {
 
-// Beyond what any table has, so that nobody's file makes the sums overflow.
+// More than any table has, so that no file makes the sums overflow.
 constexpr int MostColumns = 1'000;
 constexpr int HighestRow = 100'000;
 
@@ -25,7 +25,7 @@ xml_node cellAt(const xml_node &row, int column)
     return {};
 }
 
-// In twips; the file has eighths of a point.
+// In twips; the file uses eighths of a point.
 int widthOfLine(const xml_node &line)
 {
     return line.attribute("w:sz").as_int() * 20 / 8;
@@ -145,7 +145,7 @@ void clsWordTableShape::letGrow(const xml_node &row)
     m_grown.insert(row);
 }
 
-// The word processor that prints the forms keeps where cells begin and end in ten-thousandths of their table's width.
+// The word processor that prints the forms stores cell edges in ten-thousandths of the table's width.
 int clsWordTableShape::asPrinted(int gridColumn, int width) const
 {
     constexpr int Parts = 10000;
@@ -165,8 +165,8 @@ int clsWordTableShape::widthOfColumns(int from, int to) const
     return width;
 }
 
-// Half of its outer lines' width is lost to each cell of a table. Where the very first cell has a line on its right
-// too, as one that spans the table has, the halves of both its lines are.
+// Each cell of a table loses half the width of its outer lines. If the first cell also has a line on its right, as when
+// it spans the table, it loses half of both.
 int clsWordTableShape::lineLoss()
 {
     if (m_lineLoss < 0) {
@@ -182,7 +182,7 @@ int clsWordTableShape::lineLoss()
     return m_lineLoss;
 }
 
-// The widest line along one side of a row. A table's own lines are those of cells that say nothing of theirs.
+// The widest line along one side of a row. The table's lines apply to cells without lines of their own.
 int clsWordTableShape::lineAlong(const xml_node &row, const char *side, const char *sideOfTable) const
 {
     int widest = 0;
@@ -196,7 +196,7 @@ int clsWordTableShape::lineAlong(const xml_node &row, const char *side, const ch
     return widest;
 }
 
-// The line above a row takes its room from it, and so does the one below a table's last row.
+// The line above a row reduces its height, as does the one below a table's last row.
 int clsWordTableShape::heightOfLines(const xml_node &first, const xml_node &last)
 {
     if (m_rowOfLineAbove != first) {

@@ -9,29 +9,29 @@
 #include <set>
 #include <vector>
 
-/// The measures of a table: how wide its cells are and how high its rows may be.
+/// The dimensions of a table: the widths of its cells and the permitted heights of its rows.
 class clsWordTableShape {
 public:
     clsWordTableShape(const pugi::xml_node &table, const clsWordLooks &looks);
 
     static pugi::xml_node heightOf(const pugi::xml_node &row);
     static bool isExact(const pugi::xml_node &row);
-    /// The height that a row says, in twips.
+    /// The height set for a row, in twips.
     static int heightSaidBy(const pugi::xml_node &row);
-    /// The column of the grid in which a row's first cell stands, and how many of them a cell takes.
+    /// The grid column of a row's first cell, and the number of grid columns of a cell.
     static int firstColumnOf(const pugi::xml_node &row);
     static int spanOf(const pugi::xml_node &cell);
     static bool isMergedIntoAbove(const pugi::xml_node &cell);
-    /// The last row that a cell reaches down into.
+    /// The last row of a cell merged over several rows.
     static pugi::xml_node lastRowOf(pugi::xml_node row, const pugi::xml_node &cell, int gridColumn);
 
     clsWordLooks::Margins marginsOf(const pugi::xml_node &cell) const;
     clsWordCellText::Place placeOf(const pugi::xml_node &cell, int gridColumn, const clsWordLooks::Margins &margins);
-    /// The height that a cell has for its text, from its row to the last one that it reaches into; none where it may be
-    /// of any. A row that has been made to grow counts with its old height, whatever the order of its cells.
+    /// The height available to the text of a cell, from its row to its last one; none if it is unlimited. A row that
+    /// has grown counts with its old height, so that the order of the cells doesn't matter.
     std::optional<int> roomOf(pugi::xml_node row, const pugi::xml_node &last, const pugi::xml_node &cell,
         const clsWordLooks::Margins &margins);
-    /// Lets a row of exact height become higher.
+    /// Allows a row of exact height to grow.
     void letGrow(const pugi::xml_node &row);
 
 private:
@@ -46,7 +46,7 @@ private:
     std::vector<int> m_columns;
     int m_across = 0; ///< the width of all columns
     int m_lineLoss = -1;
-    pugi::xml_node m_rowOfLineAbove; ///< the row whose line above was looked up last
+    pugi::xml_node m_rowOfLineAbove; ///< the row of the last look-up of a line above
     int m_lineAbove = 0;
     std::set<pugi::xml_node> m_grown;
 };

@@ -6,24 +6,24 @@
 
 #include <unordered_map>
 
-/// Which of an open document's text was typed into it, and so is not the template's own. It is known by the runs and
-/// lives as long as the document is open; nothing of it is in the file.
+/// Which text of an open document was typed and is not part of the template. Stored by run while the document is open;
+/// not saved in the file.
 class clsWordTyped {
 public:
     struct Mark {
-        int before; ///< the positions at the run's front that were there already
-        QString placeholder; ///< that the text replaced; empty where it was typed at the cursor
+        int before; ///< the positions before it in the run that are not typed
+        QString placeholder; ///< the replaced placeholder; empty for text typed at the cursor
     };
 
     bool isEmpty() const { return m_marks.empty(); }
-    /// The mark of a run; null where nothing was typed into it.
+    /// The mark of a run; null if nothing was typed into it.
     const Mark *of(const pugi::xml_node &run) const;
 
-    /// Text was typed into a run behind so many positions. One that has a mark keeps it.
+    /// Records text typed into a run after `before` positions. An existing mark is kept.
     void typed(const pugi::xml_node &run, int before, const QString &placeholder);
-    /// What stood in a run behind so many positions has moved to another.
+    /// The content of a run after `at` positions has moved to another run.
     void split(const pugi::xml_node &run, const pugi::xml_node &tail, int at);
-    /// A run is about to be removed, or everything below a node.
+    /// Call before a run, or everything below a node, is removed.
     void forget(const pugi::xml_node &run) { m_marks.erase(run.internal_object()); }
     void forgetBelow(const pugi::xml_node &node);
 

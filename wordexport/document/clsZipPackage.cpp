@@ -30,7 +30,7 @@ QString key(const QString &name)
     return name.toCaseFolded();
 }
 
-// Names that point outside the package when somebody unpacks it, or that no document part may have.
+// Names that would be extracted outside the package, or that no document part may have.
 bool nameIsSafe(const QString &name)
 {
     if (name.isEmpty() || name.startsWith(u'/') || name.contains(u'\\') || name.contains(QChar(0)))
@@ -51,13 +51,13 @@ Archive openArchive(const QByteArray &bytes, const QString &shownName)
     zip_error_fini(&error);
     if (!archive)
         throw mdDocumentDamaged(shownName);
-    source.release(); // the archive owns it now
+    source.release(); // now owned by the archive
     return archive;
 }
 
 void checkContainer(const QByteArray &bytes, const QString &shownName)
 {
-    // The container of the older binary format, which is also that of encrypted documents.
+    // The container of the older binary format, also used for encrypted documents.
     if (bytes.startsWith("\xD0\xCF\x11\xE0"))
         throw mdDocumentError(
             QStringLiteral("The document %1 is in the older binary format or protected by a password. "
@@ -98,14 +98,14 @@ QByteArray inflate(zip_t *archive, zip_uint64_t index, qint64 size, const QStrin
             throw mdDocumentDamaged(shownName);
         done += read;
     }
-    // Only the read that meets the end checks the sum; bytes beyond the stated size are a lie about it.
+    // The checksum is checked only by the read that reaches the end; more bytes than the stated size mean a false size.
     char beyond;
     if (zip_fread(file.get(), &beyond, 1) != 0)
         throw mdDocumentDamaged(shownName);
     return bytes;
 }
 
-/// Hands the library an entry that is packed already, which it writes as it is.
+/// Passes a compressed entry to the library, which writes it unchanged.
 class clsPackedSource {
 public:
     static zip_source_t *create(zip_t *archive, const clsDeflatedText::Packed &packed)
@@ -113,7 +113,7 @@ public:
         auto state = std::make_unique<clsPackedSource>(packed);
         zip_source_t *source = zip_source_function(archive, &clsPackedSource::answer, state.get());
         if (source)
-            static_cast<void>(state.release()); // the source owns it now
+            static_cast<void>(state.release()); // now owned by the source
         return source;
     }
     explicit clsPackedSource(const clsDeflatedText::Packed &packed)
@@ -162,7 +162,7 @@ private:
     zip_error_t m_error;
 };
 
-/// libzip reads the bytes when the archive is closed; the entry must outlive that.
+/// libzip reads the bytes when the archive is closed; the entry must live until then.
 void addTo(zip_t *archive, const clsZipPackage::Entry &entry)
 {
     zip_source_t *source = entry.packed
@@ -217,7 +217,7 @@ clsZipPackage clsZipPackage::fromBytes(const QByteArray &bytes, const QString &s
             throw mdDocumentTooLarge(shownName);
         const QString name = QString::fromUtf8(stat.name);
         if (name.endsWith(u'/') && stat.size == 0)
-            continue; // a folder's own entry is no part
+            continue; // a folder entry is not a part
         if (!nameIsSafe(name))
             throw mdDocumentError(
                 QStringLiteral("The document %1 holds a part whose name points outside the document.").arg(shownName));
@@ -233,7 +233,7 @@ QByteArray clsZipPackage::toBytes(Packing packing) const
     return packing == Stored ? stored(inOrder()) : deflated(inOrder());
 }
 
-// The order that readers expect: what describes the package, where to begin, the beginning, then the rest.
+// The order that readers expect: the content types, the relationships, the main part, then the rest.
 std::vector<const clsZipPackage::Entry *> clsZipPackage::inOrder() const
 {
     const auto rank = [this](const Entry &entry) {
@@ -271,7 +271,7 @@ QByteArray clsZipPackage::deflated(const std::vector<const Entry *> &ordered)
     zip_error_fini(&error);
     if (!archive)
         throw clsRunTimeError(clsRunTimeError::OutOfMemory);
-    zip_source_keep(source.get()); // closing the archive lets go of it, and the result is read from it afterwards
+    zip_source_keep(source.get()); // closing the archive releases it, and the result is read from it afterwards
     for (const Entry *entry : ordered)
         addTo(archive.get(), *entry);
     if (zip_close(archive.get()) != 0)

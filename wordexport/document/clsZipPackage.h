@@ -9,39 +9,38 @@
 #include <memory>
 #include <vector>
 
-/// A zip package in memory: names and bytes, in the order of the file. Nothing is ever unpacked to the disk.
-/// Reading distrusts the package: sizes, counts and names have limits, so that a hostile one gives one clear
-/// error and harms nothing.
+/// A zip package in memory: names and bytes, in the order of the file. Nothing is ever extracted to the disk. Packages
+/// are not trusted when read: sizes, counts and names have limits, so that a malicious one only causes one clear error.
 class clsZipPackage {
 public:
     struct Entry {
         QString name;
         QByteArray bytes;
-        /// Instead of the bytes, for an entry too long to be wanted unpacked.
+        /// Replaces the bytes for an entry too long to be kept uncompressed.
         std::shared_ptr<const clsDeflatedText::Packed> packed = {};
     };
-    /// How hard to pack. Stored is for files that live for moments; the format is the same.
+    /// Stored is for short-lived files; the format is the same.
     enum Packing { Stored, Deflated };
 
-    /// Reads a package; `shownName` stands for it in error messages.
+    /// Reads a package; `shownName` is its name in error messages.
     static clsZipPackage fromBytes(const QByteArray &bytes, const QString &shownName);
     static clsZipPackage fromFile(const QString &path) { return fromFile(path, path); }
     static clsZipPackage fromFile(const QString &path, const QString &shownName);
 
-    /// The whole package as bytes: the same entries give the same bytes, whatever the clock says.
+    /// The whole package: the same entries always produce the same bytes, independent of the clock.
     QByteArray toBytes(Packing packing) const;
 
     const std::vector<Entry> &entries() const & { return m_entries; }
-    const std::vector<Entry> &entries() && = delete; // a loop over those of a package of the moment would outlive it
-    /// The index of an entry, or -1. Names compare without case, as the parts of a document do.
+    const std::vector<Entry> &entries() && = delete; // a loop over a temporary package's entries would outlive it
+    /// The index of an entry, or -1. Ignores case, like the names of a document's parts.
     int indexOf(const QString &name) const;
     const QByteArray &bytes(int index) const { return m_entries[size_t(index)].bytes; }
     void setBytes(int index, const QByteArray &bytes);
     void setPacked(int index, clsDeflatedText::Packed packed);
-    /// Adds an entry under a name that is not taken.
+    /// Adds an entry under an unused name.
     int add(const QString &name, const QByteArray &bytes);
 
-    /// The entry that follows the two that every package begins with.
+    /// The entry written after the two that every package starts with.
     void setMainEntry(const QString &name) { m_mainEntry = name; }
 
 private:
@@ -54,14 +53,15 @@ private:
     QString m_mainEntry;
 };
 
-/// The limits of a package that is read. Sheets and templates hold some hundred kilobytes; these are far above
-/// that and far below what would hurt.
+/// The limits for reading packages. Sheets and templates have some hundred kilobytes; the limits are far above that and
+/// far below a harmful size.
 namespace ZipLimits {
 inline constexpr qint64 PackageBytes = 64 * 1024 * 1024;
 inline constexpr qint64 EntryBytes = 64 * 1024 * 1024;
 inline constexpr qint64 TotalBytes = 192 * 1024 * 1024;
 inline constexpr qint64 Entries = 4096;
-/// Honest text packs to a fiftieth at best; beyond this ratio, from a megabyte on, it is a bomb.
+/// Real text compresses to a fiftieth at best; entries of at least a megabyte beyond this ratio are treated as zip
+/// bombs.
 inline constexpr qint64 Ratio = 300;
 inline constexpr qint64 RatioFrom = 1024 * 1024;
 } // namespace ZipLimits

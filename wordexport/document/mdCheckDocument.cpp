@@ -12,7 +12,7 @@
 
 namespace {
 
-// What the strict reader compares with one another stays few: no honest part has a tenth of this.
+// Limits the strict reader's comparisons: no real part has a tenth of this.
 constexpr int MostAttributes = 500;
 constexpr int MostPrefixes = 1000;
 
@@ -40,7 +40,7 @@ bool isModest(const pugi::xml_node &element, int prefixes)
             [prefixes](const pugi::xml_node &child) { return isModest(child, prefixes); });
 }
 
-// The ids of relationships that the part refers to.
+// Returns the ids of the relationships that the part refers to.
 QStringList readXml(clsWordPackage &package, int part)
 {
     const clsStrictReading reading
@@ -50,7 +50,7 @@ QStringList readXml(clsWordPackage &package, int part)
     return reading.relationshipIds;
 }
 
-// The ids of the part's relationships; an error where one of them leads nowhere or isn't the only one of its id.
+// The ids of the part's relationships; an error if one has no target or a duplicate id.
 QSet<QString> checkRelationships(clsWordPackage &package, int part, const QString &name)
 {
     QSet<QString> ids;
@@ -65,7 +65,7 @@ QSet<QString> checkRelationships(clsWordPackage &package, int part, const QStrin
     return ids;
 }
 
-// The part that a part of relationships is about: "word/document.xml" of "word/_rels/document.xml.rels".
+// The part that a relationships part belongs to: "word/document.xml" for "word/_rels/document.xml.rels".
 QString sourceOf(QString relationshipsName)
 {
     return relationshipsName.remove(QLatin1String("_rels/")).chopped(int(strlen(".rels")));

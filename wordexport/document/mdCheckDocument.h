@@ -2,7 +2,7 @@
 
 class clsWordPackage;
 
-/// Looks at a document from outside as a word processor would: each part that is XML is read to the letter, and each
-/// relationship, and each reference to one, leads somewhere. What is wrong is an error that names the part. The layer
-/// itself reads what it needs and no more, and would hand the rest on as it is.
+/// Checks a document as strictly as a word processor: all XML parts must be well-formed, and all relationships and
+/// references to them must have a target. A fault is an error that names the part. The layer itself reads only what it
+/// needs, and would pass faults on.
 void mdCheckDocument(clsWordPackage &package);

@@ -2,7 +2,7 @@
 
 #include "base/clsRunTimeError.h"
 
-/// The failures of a document that is there but can't be worked with: one number, one clear sentence.
+/// The error for an existing but unusable document: one number, one clear sentence.
 inline clsRunTimeError mdDocumentError(const QString &description)
 {
     return clsRunTimeError(clsRunTimeError::InvalidFileFormat, description);

@@ -23,15 +23,15 @@ namespace {
 constexpr mode_t OwnerOnly = S_IRUSR | S_IWUSR;
 constexpr mode_t ReadAndWrite = 0666;
 
-/// Opens a new file. What a claim says is confidential: no file of it is open to others from the start.
+/// Creates a file. Claims are confidential: their files are closed to others from the start.
 int createFile(const QByteArray &path)
 {
     return mdUninterrupted(
         [&] { return ::open(path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, OwnerOnly); });
 }
 
-/// Opens a file to be written over from its start. Only one that is ours alone, under no second name, and no longer
-/// than what is to be written: it is not cut short, which would make some file systems write it to the disk at once.
+/// Opens a file to be overwritten from its start: only one that belongs to this user, has no second name, and is no
+/// longer than the new content. It is not truncated, which would make some file systems flush it to the disk at once.
 int openForOverwriting(const QByteArray &path, qsizetype size)
 {
     const int descriptor
@@ -78,12 +78,12 @@ public:
     }
 
     int get() const { return m_descriptor; }
-    /// A full disk may show only here, so that closing can fail like writing.
+    /// A full disk may show only now, so closing can fail like writing.
     bool close()
     {
         const int descriptor = m_descriptor;
         m_descriptor = -1;
-        // After an interrupted close the descriptor is gone all the same, and must not be closed twice.
+        // After an interrupted close the descriptor is already released and must not be closed again.
         return ::close(descriptor) == 0 || errno == EINTR;
     }
 
@@ -96,7 +96,7 @@ private:
     throw clsRunTimeError::fromSystem(systemError);
 }
 
-/// The rights of a claim's file, for its document.
+/// The permissions of a claim's file, for its document.
 clsFileRights rightsOfClaim(const QString &claimFile)
 {
     const QByteArray path = QFile::encodeName(claimFile);
@@ -104,16 +104,16 @@ clsFileRights rightsOfClaim(const QString &claimFile)
     if (path.isEmpty() || statusOf(path, status) != 0)
         return {};
     clsFileRights rights = clsFileRights::of(path, status);
-    // A claim that is write-protected doesn't make a document that can't be replaced.
+    // A write-protected claim must not make its document write-protected.
     rights.mode = (rights.mode & ReadAndWrite) | OwnerOnly;
     return rights;
 }
 
-// A name that is free, beside the document and hidden. A leftover of an earlier crash is passed over.
+// A free hidden name beside the document. Skips leftovers of earlier crashes.
 int createSideFile(const QByteArray &document, QByteArray &sidePath)
 {
     constexpr int Attempts = 100;
-    constexpr qsizetype LongestName = 200; // bytes: names end at 255, and some signs come to it
+    constexpr qsizetype LongestName = 200; // bytes: names are limited to 255, and some characters are added
     const qsizetype folderEnd = document.lastIndexOf('/') + 1;
     const QByteArray name = QFile::encodeName(mdShortenedName(QFile::decodeName(document.mid(folderEnd)), LongestName));
     for (int i = 0; i < Attempts; ++i) {
@@ -138,30 +138,30 @@ bool writeAll(int descriptor, const QByteArray &bytes)
     return true;
 }
 
-/// Brings the document's entry in its folder to the disk. The document has its name by then, which can't be taken back:
-/// a failure would be told of an export that has come out.
+/// Flushes the document's folder entry to the disk. Failures are ignored: the document already has its name, and an
+/// error would be reported for a successful export.
 void syncFolderOf(const QByteArray &document)
 {
     const qsizetype slash = document.lastIndexOf('/');
     (void)mdSyncFolder(slash < 0 ? QByteArray(".") : document.left(slash + 1));
 }
 
-/// The file to replace: where the name is a link, the one that it leads to, not the link.
+/// The file to replace: for a link, its target.
 QByteArray fileItself(const QString &path)
 {
     const QByteArray document = QFile::encodeName(path);
     struct stat status;
-    if (document.isEmpty()) // its side file would come to lie in the current folder
+    if (document.isEmpty()) // its side file would be created in the current folder
         throw clsRunTimeError(clsRunTimeError::PathNotFound);
     if (mdUninterrupted([&] { return ::lstat(document.constData(), &status); }) != 0 || !S_ISLNK(status.st_mode))
         return document;
-    if (statusOf(document, status) != 0) // it leads nowhere
+    if (statusOf(document, status) != 0) // a dangling link
         fail(errno);
     return mdRealPath(document);
 }
 
-/// Whether there is a document to be replaced, and its status; an error where it may not be. Taking over the name of a
-/// write-protected one would succeed, since that asks the folder only.
+/// Whether there is a document to be replaced, and its status; an error if it is write-protected. Renaming would
+/// succeed even then, since that needs only write access to the folder.
 bool mayBeReplaced(const QByteArray &document, struct stat &status)
 {
     if (statusOf(document, status) != 0)
@@ -178,7 +178,7 @@ void writeBesideAndRename(const QByteArray &document, const QByteArray &bytes, c
     QByteArray sidePath;
     clsDescriptor side(createSideFile(document, sidePath));
     if (side.get() < 0)
-        fail(errno == ENOENT ? ENOTDIR : errno); // it is the folder that was not found
+        fail(errno == ENOENT ? ENOTDIR : errno); // the missing item is the folder
     rights.giveTo(side.get());
     const bool written = writeAll(side.get(), bytes) && mdUninterrupted([&] { return ::fsync(side.get()); }) == 0
         && side.close() && renameFile(sidePath, document) == 0;
@@ -190,7 +190,7 @@ void writeBesideAndRename(const QByteArray &document, const QByteArray &bytes, c
     syncFolderOf(document);
 }
 
-/// Gives the rights to a file by its name.
+/// Sets the permissions of a file by its path.
 void giveTo(const QByteArray &path, const clsFileRights &rights)
 {
     const clsDescriptor file(
@@ -228,7 +228,7 @@ void mdPutDocumentInPlace(const QString &written, const QString &finished, const
     giveTo(from, rights);
     if (renameFile(from, document) == 0)
         syncFolderOf(document);
-    else if (errno == EXDEV) // a link may lead to another file system, where a name can't be taken over
+    else if (errno == EXDEV) // a link may lead to another file system, where renaming is impossible
         writeBesideAndRename(document, mdReadDocumentFile(written, limit), rights);
     else
         fail(errno);
@@ -244,7 +244,7 @@ void mdWriteWorkingFile(const QString &path, const QByteArray &bytes)
         descriptor = clsDescriptor(createFile(file));
     }
     if (descriptor.get() < 0)
-        fail(errno == ENOENT ? ENOTDIR : errno); // it is the folder that was not found
+        fail(errno == ENOENT ? ENOTDIR : errno); // the missing item is the folder
     if (writeAll(descriptor.get(), bytes) && descriptor.close())
         return;
     const int systemError = errno;

@@ -1,16 +1,16 @@
 #pragma once
 
-/// How wide the characters of the forms' typeface are. The table is made when the program is built, from the two files
-/// of a font that has the same widths as the typeface of the forms; any other typeface counts as this one.
+/// The character widths of the forms' typeface. The table is generated during the build from two font files with the
+/// same metrics; any other typeface is treated as this one.
 namespace FontWidths {
 
-/// The units of the widths to the em, which is the size of the type.
+/// Units of the widths per em (the font size).
 inline constexpr int Units = 2048;
 
-/// The width of a character; one that the font lacks counts as a whole em, which few are wider than.
+/// The width of a character; a character missing from the font counts as one em, which few exceed.
 int of(char32_t character, bool bold);
 
-/// The SHA-256 of the font file that the widths of a weight come from, as lower-case hexadecimal digits.
+/// The SHA-256, in lower-case hexadecimal digits, of the font file for a weight.
 const char *sourceSum(bool bold);
 
 } // namespace FontWidths

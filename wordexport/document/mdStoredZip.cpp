@@ -11,7 +11,7 @@ namespace {
 constexpr quint32 LocalHeader = 0x04034B50;
 constexpr quint32 DirectoryHeader = 0x02014B50;
 constexpr quint32 EndOfDirectory = 0x06054B50;
-constexpr qsizetype HeaderSizes = 30 + 46; // of an entry, without its name
+constexpr qsizetype HeaderSizes = 30 + 46; // per entry, without its name
 constexpr quint32 Version = 10;
 constexpr quint32 NameInUtf8 = 1 << 11;
 
@@ -36,7 +36,7 @@ private:
     QByteArray m_bytes;
 };
 
-// What both headers of an entry say.
+// The fields common to both headers of an entry.
 void putFacts(clsZipWriter &zip, const clsStoredEntry &entry, quint32 sum)
 {
     constexpr int NotPacked = 0;

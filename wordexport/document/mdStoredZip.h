@@ -4,7 +4,7 @@
 
 #include <vector>
 
-/// A fixed moment, the first that a zip can name: documents hold no clock.
+/// A fixed time, the earliest in a zip: documents contain no time.
 namespace ZipMoment {
 inline constexpr quint16 Time = 0;
 inline constexpr quint16 Date = (0 << 9) | (1 << 5) | 1;
@@ -15,6 +15,6 @@ struct clsStoredEntry {
     QByteArray bytes;
 };
 
-/// A zip of these entries, none of them packed. An export writes its sheets so by the dozen; libzip, which writes all
-/// that is packed, copies each entry several times on its way.
+/// An uncompressed zip of these entries. An export writes dozens of sheets this way; libzip, used for compressed
+/// packages, copies each entry several times.
 QByteArray mdStoredZip(const std::vector<clsStoredEntry> &entries);

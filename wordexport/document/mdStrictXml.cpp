@@ -15,26 +15,26 @@ bool isUtf16(const QByteArray &bytes)
     return bytes.startsWith("\xFE\xFF") || bytes.startsWith("\xFF\xFE");
 }
 
-// The text of a part, where all of its bytes are characters.
+// The text of a part; nothing if any of its bytes are not valid characters.
 std::optional<QString> textOf(const QByteArray &bytes)
 {
     QStringDecoder decoder(
         isUtf16(bytes) ? QStringConverter::Utf16 : QStringConverter::Utf8, QStringConverter::Flag::Stateless);
     const QString text = decoder(bytes);
-    // The reader passes over a byte order mark, and this would be the second.
+    // The decoder skips one byte order mark; this would be a second one.
     if (decoder.hasError() || !text.isValidUtf16() || text.startsWith(QChar::ByteOrderMark))
         return {};
     return text;
 }
 
-// The format knows two encodings, and the parser that the layer works with looks at the bytes to tell them.
+// The format allows two encodings; the layer's usual parser detects them from the bytes.
 bool isEncodingOf(const QByteArray &bytes, QStringView named)
 {
     return named.isEmpty()
         || named.compare(isUtf16(bytes) ? QLatin1String("UTF-16") : QLatin1String("UTF-8"), Qt::CaseInsensitive) == 0;
 }
 
-// The reader lets a later declaration of a prefix pass.
+// The reader accepts a second declaration of a prefix.
 bool declaresTwice(const QXmlStreamNamespaceDeclarations &declarations)
 {
     QSet<QStringView> prefixes;
@@ -43,7 +43,7 @@ bool declaresTwice(const QXmlStreamNamespaceDeclarations &declarations)
     return prefixes.size() < declarations.size();
 }
 
-// The reader looks at the first letter of the prefix alone.
+// The reader checks only the first letter of the prefix.
 bool isNamed(const QXmlStreamAttribute &attribute)
 {
     const QChar first = attribute.name().front();

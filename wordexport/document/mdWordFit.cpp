@@ -11,7 +11,7 @@ using pugi::xml_node;
 
 namespace {
 
-// A row in a content control whose content is locked is told not to change.
+// A row in a content control with locked content must not change.
 bool mayGrow(const xml_node &row)
 {
     for (xml_node around = row.parent(); WordXml::isWrapper(around); around = around.parent()) {
@@ -34,7 +34,7 @@ public:
         , m_shape(table, looks)
     { }
 
-    /// True when a row had to grow, so that one around the table has to as well.
+    /// True if a row had to grow, so that an enclosing row must too.
     bool fit()
     {
         bool grew = false;
@@ -88,12 +88,12 @@ private:
         return grew;
     }
 
-    // True when the row had to grow.
+    // True if the row had to grow.
     bool fitCell(const xml_node &row, const xml_node &cell, int gridColumn, int gridRow, int column)
     {
         const clsWordLooks::Margins margins = m_shape.marginsOf(cell);
         const xml_node lastRow = clsWordTableShape::lastRowOf(row, cell, gridColumn);
-        const std::optional<int> room = m_shape.roomOf(row, lastRow, cell, margins); // none where any height will do
+        const std::optional<int> room = m_shape.roomOf(row, lastRow, cell, margins); // none if the height is unlimited
         if (!room)
             return false;
         const clsWordCellText::Place place = m_shape.placeOf(cell, gridColumn, margins);
@@ -112,7 +112,7 @@ private:
             now = text.measure(++less);
         const bool inRoom = now.height <= *room && !now.tooNarrow;
         if (less == 0 && inRoom)
-            return false; // a word that no size keeps in one piece
+            return false; // no size keeps this word in one piece
         if (less > 0)
             text.shrink(less);
         clsFittedText::State state = clsFittedText::Smaller;

@@ -31,8 +31,7 @@ QByteArray emptyDocument()
 
 bool mdWordInstalled()
 {
-    // What stands behind the operations is built in; what can be missing is a working library below it. So an empty
-    // document is packed and opened again.
+    // The operations are built in; only a library can be missing. So an empty document is packed and opened again.
     try {
         clsZipPackage zip;
         zip.add(QStringLiteral("[Content_Types].xml"), ContentTypes);

@@ -1,5 +1,4 @@
 #pragma once
 
-/// True when the word processor can be started and ended again; any failure on that road makes it false and is
-/// not shown.
+/// True if the word processor can be started and ended again; false, without a message, on any failure.
 bool mdWordInstalled();

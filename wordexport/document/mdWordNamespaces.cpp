@@ -20,7 +20,7 @@ constexpr const char *PrefixLists[] = {"mc:Ignorable", "mc:ProcessContent", "mc:
 using Renames = std::map<std::string, std::string, std::less<>>;
 using Prefixes = std::set<std::string, std::less<>>;
 
-// The words of a list that is parted by blanks.
+// Visits the words of a list separated by blanks.
 template <class Visitor> void visitWords(std::string_view list, Visitor visitor)
 {
     while (!list.empty()) {
@@ -86,7 +86,7 @@ void addDeclaredBelow(const xml_node &node, Prefixes &prefixes)
 
 void renameBelow(const xml_node &node, const Renames &renames);
 
-// A prefix that an element declares anew means something else in it.
+// A prefix redeclared by an element has another meaning inside it.
 void renameIn(const xml_node &node, const Renames &renames)
 {
     const Prefixes own = declaredBy(node);
@@ -114,8 +114,7 @@ bool isDeclared(const xml_node &root, const std::string &prefix)
     return !root.attribute((std::string(Declaration) + prefix).c_str()).empty();
 }
 
-// A prefix that the root binds to the meaning and that is none of those taken; where there is none, one that it
-// declares.
+// A prefix that the root binds to the meaning and that is not taken; if there is none, declares one.
 std::string prefixFor(const std::string &wanted, const char *meaning, xml_node root, const Prefixes &taken)
 {
     for (const pugi::xml_attribute &attribute : root.attributes()) {

@@ -15,12 +15,12 @@ using pugi::xml_node;
 
 namespace {
 
-using Heights = std::vector<int>; // of lines, from above
+using Heights = std::vector<int>; // of lines, from the top
 
-/// Text that stands beside others.
+/// A column of text beside others.
 struct Column {
     Heights lines;
-    int again = 0; ///< the space above that each further page of it has too
+    int again = 0; ///< the space above that it has again on each further page
 
     int height() const { return std::accumulate(lines.begin(), lines.end(), 0); }
 };
@@ -32,7 +32,7 @@ struct PageSize {
     static PageSize of(const xml_node &section)
     {
         const auto twips = [](const pugi::xml_attribute &said, int otherwise) {
-            constexpr int Longest = 100'000; // beyond what any page has
+            constexpr int Longest = 100'000; // more than any page has
             return std::clamp(said.as_int(otherwise), -Longest, Longest);
         };
         constexpr int A4Width = 11906;
@@ -68,10 +68,10 @@ public:
         m_used += height;
     }
 
-    // What sticks out below and takes no line with it.
+    // Adds height without moving anything to the next page.
     void add(int height) { m_used += height; }
 
-    // Columns side by side, each of which takes as many of its lines on to a page as that holds.
+    // Places columns side by side, each with as many of its lines on a page as fit.
     void placeSplit(const std::vector<Column> &columns)
     {
         std::vector<size_t> next(columns.size(), 0);
@@ -82,7 +82,7 @@ public:
                 const Heights &lines = columns[i].lines;
                 int column = next[i] == 0 || next[i] == lines.size() ? 0 : columns[i].again;
                 const size_t first = next[i];
-                // An empty page takes a line in any case.
+                // An empty page always takes a line.
                 while (next[i] < lines.size()
                     && (m_used + column + lines[next[i]] <= m_height || (m_used == 0 && next[i] == first)))
                     column += lines[next[i]++];
@@ -143,7 +143,7 @@ private:
             return;
         }
         std::vector<Column> columns = columnsOf(row);
-        // The line above a row of exact height is part of that; another one comes to the text.
+        // The line above a row of exact height is part of that height; for other rows it is added to the text.
         const int line = above
             ? std::max(widestLine(above, "w:bottom", "w:insideH"), widestLine(row, "w:top", "w:insideH"))
             : widestLine(row, "w:top", "w:top");
@@ -191,7 +191,7 @@ private:
         }
     }
 
-    // Cells that reach down over several rows, of which the last one may grow.
+    // Records the cells merged over several rows whose last row may grow.
     void noteReaching(const xml_node &row)
     {
         visitCells(row, [&](const xml_node &cell, int gridColumn, bool endsHere) {
@@ -200,7 +200,7 @@ private:
         });
     }
 
-    // The lines of a row's cells. A cell that reaches down over several rows makes the last of them grow.
+    // The lines of a row's cells. A cell merged over several rows makes the last of them grow.
     std::vector<Column> columnsOf(const xml_node &row)
     {
         noteReaching(row);
@@ -223,7 +223,7 @@ private:
         return column;
     }
 
-    // The lines of a cell from above that the rows above the last one leave over.
+    // The lines of a cell that started above, less those that fit in the rows before its last one.
     Column restOf(int gridColumn)
     {
         const auto reaching = m_reaching.find(gridColumn);
@@ -251,9 +251,9 @@ private:
     const clsWordLooks &m_looks;
     clsPages &m_pages;
     clsWordTableShape m_shape;
-    bool m_mayGrow; ///< without a row that may, the text of the cells makes no difference
-    clsWordTyped m_typed; // of what is printed it makes no difference
-    std::map<int, Reaching> m_reaching; // by their columns
+    bool m_mayGrow; ///< if no row may grow, the text of the cells makes no difference
+    clsWordTyped m_typed; // stays empty: template and typed text are measured alike
+    std::map<int, Reaching> m_reaching; // by column
     qint64 m_above = 0;
 };
 
@@ -274,8 +274,8 @@ void placeParagraph(const xml_node &paragraph, const clsWordLooks &looks, int wi
         pages.begin();
 }
 
-// An empty paragraph behind another one at the end of a sheet goes where the sheets are joined: the end of the section
-// takes its place, or it is deleted.
+// An empty paragraph after another one at the end of a sheet disappears when the sheets are joined: it is replaced with
+// the end of the section or deleted.
 bool goesInJoining(const xml_node &block)
 {
     return WordXml::is(block, "w:p") && WordXml::is(WordXml::previousItem(block, WordXml::isBlock), "w:p")

@@ -38,7 +38,7 @@ public:
         m_top += std::accumulate(lines.begin(), lines.end(), 0);
     }
 
-    // False where the places below can't be known.
+    // False if the places below can't be determined.
     bool passTable(const xml_node &table)
     {
         std::vector<int> edges = {m_left + table.child("w:tblPr").child("w:tblInd").attribute("w:w").as_int()};

@@ -13,9 +13,9 @@
 struct clsPlaceholderPlace {
     QString placeholder;
     QRect cell; ///< twips, from the corner of the paper
-    QRect row; ///< of the table that the cell stands in
+    QRect row; ///< the cell's table row
 };
 
-/// The places of the placeholders in the table cells of a body that takes one page. They are known as far down as the
-/// rows are of exact height.
+/// The places of the placeholders in the table cells of a body of one page. Available for the rows above the first one
+/// that is not of exact height.
 std::vector<clsPlaceholderPlace> mdPlaceholderPlaces(const pugi::xml_node &body, const clsWordLooks &looks);

@@ -36,7 +36,7 @@ public:
         , m_symbols(symbols)
     { }
 
-    /// Returns how many positions the text takes.
+    /// Returns the number of positions of the text.
     int type(const QString &typed)
     {
         qsizetype plainFrom = 0;
@@ -70,8 +70,8 @@ private:
 
     void addElement(char16_t c)
     {
-        // The character itself, a letter in any other font, would show where that font is missing; the symbol
-        // element draws as a box in every word processor.
+        // If the font is missing, the plain character would show as another letter; every word processor draws the
+        // symbol element as a box.
         if (c == 0xFE || c == 0xA8) {
             xml_node symbol = m_run.append_child("w:sym");
             symbol.append_attribute("w:font") = "Wingdings";

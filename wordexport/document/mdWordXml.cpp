@@ -169,7 +169,7 @@ constexpr const char *Wrappers[] = {
     "w:bdo",
 };
 
-// The node itself where it is an item, else the first or last item wrapped in it.
+// The node itself if it is an item, otherwise the first or last item wrapped in it.
 xml_node itemIn(const xml_node &node, ItemTest isItem, bool backwards)
 {
     if (isItem(node))
@@ -218,7 +218,7 @@ bool isOn(const xml_node &property)
 
 bool isWrapper(const xml_node &node)
 {
-    // Asked of every element that is no item itself, mostly properties: their initials are told at a glance.
+    // Called for every element that is not an item, mostly properties: their initials allow a quick test.
     const char *name = node.name();
     if (name[0] != 'w' || name[1] != ':' || name[2] == 'p' || name[2] == 't' || name[2] == 'r')
         return false;
@@ -248,7 +248,7 @@ bool isRun(const xml_node &node)
 
 xml_node firstItem(const xml_node &container, ItemTest isItem)
 {
-    // Without the library's iterators, of which each step takes three calls.
+    // Without the library's iterators, which take three calls per step.
     for (xml_node child = container.first_child(); child; child = child.next_sibling())
         if (const xml_node found = itemIn(child, isItem, false))
             return found;
@@ -355,7 +355,7 @@ void removeContent(xml_node node)
 
 int depth(const xml_node &root, int limit)
 {
-    // Not recursive, as the library's own walk isn't: what is measured here is what would break a recursion.
+    // Not recursive, like the library's own walk: the depth to be measured could overflow the stack.
     class clsDepth final : public pugi::xml_tree_walker {
     public:
         explicit clsDepth(int most)

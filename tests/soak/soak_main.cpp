@@ -1,4 +1,4 @@
-// Lets a user who knows nothing do everything: see CONTRIBUTING.md, "Proofs".
+// Uses the program at random: see CONTRIBUTING.md, "Long-running tests".
 //
 //     soak [--seed S] [--actions N] [--samples] [--trail]
 

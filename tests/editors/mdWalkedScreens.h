@@ -12,8 +12,8 @@
 
 #include <string_view>
 
-// Every screen that is written down a second time, and with it walked by the tests. A table of screens more is a line
-// here, and the editor of an item one more below.
+// All expected screens, which the tests go through. Add a further table of screens here, and the editor of an item
+// below.
 
 inline std::vector<clsExpectedScreen> AllExpectedScreens()
 {
@@ -25,7 +25,7 @@ inline std::vector<clsExpectedScreen> AllExpectedScreens()
     return all;
 }
 
-/// Those, and the one screen that is neither a section nor the editor of an item.
+/// All of these, and the one screen that is neither a section nor the editor of an item.
 inline std::vector<clsExpectedScreen> AllWalkedScreens()
 {
     std::vector<clsExpectedScreen> all = AllExpectedScreens();
@@ -35,7 +35,7 @@ inline std::vector<clsExpectedScreen> AllWalkedScreens()
 
 using clsScreenFunction = const clsScreen &(*)();
 
-/// The editors of items, which no section leads to.
+/// The editors of items, which don't belong to a section.
 inline std::vector<clsScreenFunction> AllItemEditors()
 {
     return {
@@ -54,7 +54,7 @@ inline std::vector<clsScreenFunction> AllItemEditors()
     };
 }
 
-/// The screen of that name which no section leads to, or nothing.
+/// The screen of that name outside the sections, or null.
 inline const clsScreen *ScreenNamed(std::string_view name)
 {
     if (ScreenPreferences().name == name)

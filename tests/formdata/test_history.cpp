@@ -14,7 +14,7 @@ namespace {
 
 constexpr const char *Kept[] = {"idcounter", "timespent", "defaultfeeearnerlistindex", "exportpath", "path", "version"};
 
-/// The claim's text but for what no step changes.
+/// The claim's text without what no step changes.
 QString textOf(const clsZR3Form &form)
 {
     QString text = form.XMLOutput();
@@ -48,7 +48,7 @@ protected:
         form->ScheduleOfTimeItem(1)->OrderID = form->ScheduleOfTimeItem(2)->OrderID();
         form->ScheduleOfTimeItem(2)->OrderID = order;
     }
-    /// Every list and derived list says what a claim says that is made anew from the tree.
+    /// Expects every list and derived list to equal those of a claim built afresh from the tree.
     void expectRecordsAgree() const
     {
         clsZR3Form fresh;
@@ -397,7 +397,7 @@ TEST_F(History, KeepsTwoHundredStepsAndNoMoreThanItsMemory)
     for (int n = 0; n < 200; ++n)
         step("Notes", [&] { form->Notes = QString::number(n); });
     EXPECT_EQ(200u, history.steps());
-    // Each holds the text before and the text after.
+    // Each step stores the text before and after.
     const int length = int(clsHistory::MostBytes / 10);
     for (int n = 0; n < 12; ++n) {
         step("Long", [&] { form->Notes = QString(length, QChar(u'a' + n)); });
@@ -432,7 +432,7 @@ TEST_F(History, FindsTheItemThatAStepIsAbout)
 
 namespace {
 
-/// Does anything that a user can do to a claim.
+/// Does random things that a user can do to a claim.
 class clsWalker {
 public:
     clsWalker(clsZR3Form &form, quint64 seed)
@@ -584,7 +584,7 @@ TEST_F(History, ARandomWalkAlwaysComesToTheSameClaim)
                 ++undone;
                 ASSERT_EQ(states[at], fingerprint(*form)) << "step " << n;
             }
-            // The claim is made anew for it, which takes longer than all the rest.
+            // This builds the claim afresh, which takes longer than all the rest.
             if (n % 10 == 0 && undone != before)
                 expectRecordsAgree();
             continue;

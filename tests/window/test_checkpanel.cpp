@@ -23,7 +23,7 @@
 
 #include <cmath>
 
-// The panel with what the check has found, by keyboard.
+// The panel with the findings of the check, by keyboard.
 
 namespace {
 
@@ -94,7 +94,7 @@ protected:
     {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
     }
-    /// Presses a key of the menu that is open, or opens with the Menu key.
+    /// Presses a key in the open menu, or opens it with the Menu key.
     void chooseFromMenu(const char *entry) const
     {
         list().PopUpMenu(list().mapToGlobal(QPoint()));
@@ -117,7 +117,7 @@ protected:
         }
         return result;
     }
-    /// Puts a file that can't be understood into the state folder.
+    /// Puts a file that can't be parsed in the state folder.
     static void writeBroken(const char *name)
     {
         ASSERT_TRUE(MakeStateFolder());
@@ -228,7 +228,7 @@ TEST_F(CheckPanel, EnterOpensTheEditorOfTheItemOnItsField)
         for (QWidget *part = editor->focusWidget(); part && part != editor; part = part->parentWidget())
             focus += part->objectName() + u' ';
         windows = editor->objectName();
-        QTest::keyClick(editor, Qt::Key_F8); // chooses a fee earner here, and there is none of that number
+        QTest::keyClick(editor, Qt::Key_F8); // a fee earner's key here, but there is none of that number
         EXPECT_EQ(NoTime, chosen());
         QTest::keyClicks(editor->focusWidget(), QStringLiteral("0030"));
         QTest::keyClick(editor->focusWidget(), Qt::Key_Return); // Save
@@ -240,7 +240,7 @@ TEST_F(CheckPanel, EnterOpensTheEditorOfTheItemOnItsField)
     press(Qt::Key_Return);
     EXPECT_EQ(QStringLiteral("frmScheduleOfTimeItemEdit"), windows);
     EXPECT_TRUE(focus.contains(QLatin1String("txtTime"))) << qPrintable(focus);
-    // By the file's order: the list has given its items other numbers when it opened.
+    // In the order of the file: the list renumbered its items when it opened.
     EXPECT_EQ(QStringLiteral("00:30"), Form->ScheduleOfTimeItem(3)->TTime());
     EXPECT_EQ(QStringLiteral("1 error, 1 warning, 5 notes"), counts()) << "renewed at the activation";
     EXPECT_FALSE(chosen().isEmpty());
@@ -322,7 +322,7 @@ TEST_F(CheckPanel, TheMenuOpensByKeysAndByItsSign)
     const QRect row = list().visualRect(list().currentIndex());
     QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, QPoint(row.right() - 20, row.center().y()));
     EXPECT_TRUE(closed());
-    press(Qt::Key_Home); // a group has none
+    press(Qt::Key_Home); // a group has no menu
     press(Qt::Key_F10, Qt::ShiftModifier);
     EXPECT_FALSE(closed());
 }
@@ -534,7 +534,7 @@ TEST_F(CheckPanel, TintsTheRowOfTheChosenFinding)
 
 TEST_F(CheckPanel, LookingChangesNothing)
 {
-    const QString claim = sample("care-typical.zr3"); // with hearings, whose total writes while it is read
+    const QString claim = sample("care-typical.zr3"); // with hearings, whose total writes while being read
     const auto saved = [&](bool look) {
         start(claim);
         window->resize(1400, 760);

@@ -70,7 +70,7 @@ void check(benchmark::State &state, bool print)
     state.counters["findings"] = bench.findings();
 }
 
-// Until the panel is painted. The second one follows when the program is idle.
+// Until the panel is painted. The second measures the findings about printing, which follow when the program is idle.
 BENCHMARK_CAPTURE(check, renew, false)->Arg(200)->Arg(2000)->Arg(10000)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK_CAPTURE(check, print, true)->Arg(200)->Arg(2000)->Arg(10000)->Unit(benchmark::kMillisecond)->UseRealTime();
 

@@ -62,7 +62,7 @@ protected:
                          .arg(int(box.State));
         return boxes;
     }
-    /// All files in the export's folder, including hidden ones.
+    /// Everything in the export's folder, including hidden files.
     QStringList everythingIn() const
     {
         QStringList found;

@@ -30,7 +30,7 @@ void setNumber(uint8_t *at, uint32_t value)
         at[i] = uint8_t(value);
 }
 
-/// Reads the checksum of the part with this header; false if there is no header.
+/// Computes the checksum of the part with this header; false if there is no such part.
 bool sumOf(const uint8_t *data, size_t size, size_t header, uint32_t &sum)
 {
     if (header > size || size - header < LocalHeader || std::memcmp(data + header, "PK\3\4", 4) != 0)

@@ -323,7 +323,7 @@ TEST_F(RealPdfConversion, LeavesOneThatRunsAlreadyInPeace)
     }
     EXPECT_EQ(running, processesIn(profile, true)) << "ours has ended, and no other";
     {
-        // Nor does it survive a conversion that is stopped.
+        // Nor does stopping a conversion end it.
         clsPdfConversion conversion(document);
         EXPECT_TRUE(comesUpIn(folder.filePath(QStringLiteral("wordexport_test-"))));
         conversion.cancel();

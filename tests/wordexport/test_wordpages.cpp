@@ -106,7 +106,7 @@ TEST(mdPaperPages, ACellOverSeveralRowsMakesTheLastOneGrow)
     EXPECT_EQ(1, pagesOf(reaching(4)));
     EXPECT_EQ(1, pagesOf(reaching(6)));
     EXPECT_EQ(2, pagesOf(reaching(7)));
-    // The last row's height counts only what the rows above leave over: 60 of the third line are in the first row.
+    // Only what the rows above leave over adds to the last row's height: 60 of the third line are in the first row.
     const auto uneven = [](int room) {
         return table(row(260, "exact", cell(6, "<w:vMerge w:val=\"restart\"/>") + cell(1))
             + row(100, "atLeast", cell(1, "<w:vMerge/>") + cell(1)) + row(room, "exact", cell(1) + cell(1)));

@@ -125,7 +125,7 @@ private:
         }
     }
 
-    /// Writes a random value to a property that is neither an order nor an identity.
+    /// Writes a random value to a property that is neither a key nor the counter of identities.
     void write(Record record)
     {
         const auto &rows = record->properties();

@@ -1,4 +1,4 @@
-// The check of the claim beside the preview: how soon it is right again after a change.
+// How soon the check beside the preview is up to date after a change.
 
 #include "benchmarks/mdMakeClaim.h"
 #include "formdata/clsZR3Form.h"
@@ -12,7 +12,7 @@
 
 namespace {
 
-/// The panel on a claim of so many items, of which each fourth has no time.
+/// The panel on a claim with this many items, a quarter of which have no time.
 class CheckBench {
 public:
     explicit CheckBench(int items)
@@ -70,7 +70,7 @@ void check(benchmark::State &state, bool print)
     state.counters["findings"] = bench.findings();
 }
 
-// To the painted panel. The second is what follows when the program is idle.
+// Until the panel is painted. The second measures the findings about printing, which follow when the program is idle.
 BENCHMARK_CAPTURE(check, renew, false)->Arg(200)->Arg(2000)->Arg(10000)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK_CAPTURE(check, print, true)->Arg(200)->Arg(2000)->Arg(10000)->Unit(benchmark::kMillisecond)->UseRealTime();
 

@@ -14,7 +14,7 @@
 
 namespace {
 
-/// A claim in a file that lives as long as this program.
+/// A claim in a file that exists as long as this program.
 struct ClaimFile {
     QString path;
     QByteArray bytes;

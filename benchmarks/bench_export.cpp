@@ -1,4 +1,4 @@
-// The export of a claim of many sheets, of each form, and the least that any program would have to do for it.
+// The export of a claim with many sheets, for each form, and the minimum work that any program would have to do for it.
 
 #include "benchmarks/mdMakeClaim.h"
 #include "benchmarks/mdZipFloor.h"
@@ -19,7 +19,7 @@
 
 namespace {
 
-/// The samples of many sheets, without the endings of their files.
+/// The samples with many sheets, without the extensions of their files.
 QString sampleOf(const char *name)
 {
     return QStringLiteral(ZR3_SAMPLES "/%1").arg(QLatin1String(name));
@@ -46,7 +46,7 @@ QList<QByteArray> templatesInUse(const QString &sample)
     return templates;
 }
 
-/// Exports a claim once; false when it did not come to its end.
+/// Exports a claim once; false if it fails.
 bool exportOnce(clsZR3Form &form, int &sheets)
 {
     clsExport run {.form = form, .templatesFolder = QStringLiteral(ZR3_TEMPLATES)};
@@ -90,8 +90,8 @@ void exportFloor(benchmark::State &state, const char *name)
     state.counters["sheets"] = double(templates.size());
 }
 
-/// A made-up claim of so many items, of which the sheets that grow with it are printed: the schedule and the notes. A
-/// sheet of the one claim is then like a sheet of the other.
+/// Exports only the sheets of a generated claim that grow with its number of items: the schedule and the notes. This
+/// makes the sheets of claims of different sizes comparable.
 void exportSchedule(benchmark::State &state)
 {
     const QTemporaryDir folder;
@@ -109,7 +109,7 @@ void exportSchedule(benchmark::State &state)
     state.counters["sheets"] = sheets;
 }
 
-/// What an export of a made-up claim of so many items would give; all pages are printed.
+/// The forecast for a generated claim with this many items and all pages.
 void forecastClaim(benchmark::State &state)
 {
     clsZR3Form form;

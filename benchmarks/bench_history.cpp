@@ -1,4 +1,4 @@
-// The history of a claim: what a step costs when it is taken, and when it is taken back.
+// The history of a claim: the cost of taking and of undoing a step.
 
 #include "benchmarks/mdMakeClaim.h"
 #include "formdata/clsHistory.h"
@@ -8,7 +8,7 @@
 
 namespace {
 
-/// A claim of so many items with a history that knows it.
+/// A claim with this many items and its history.
 struct clsKnownClaim {
     explicit clsKnownClaim(int items)
     {
@@ -23,7 +23,7 @@ struct clsKnownClaim {
             return QStringLiteral("Edit");
         });
     }
-    /// The first in order goes, and all others get a new number.
+    /// Deletes the first item, which renumbers all others.
     void deleteFirst()
     {
         history.run([&] {
@@ -62,7 +62,7 @@ void undoDelete(benchmark::State &state)
     state.counters["bytes"] = double(claim.history.bytes());
 }
 
-/// Two hundred steps, every tenth of which renumbers the list: what they take of the memory.
+/// The memory of two hundred steps, every tenth of which renumbers the list.
 void steps(benchmark::State &state)
 {
     constexpr int Steps = 200;

@@ -1,4 +1,4 @@
-// The preview: drawing it anew against filling the grid with the same texts, worked out before.
+// The preview: redrawing it, compared with filling the grid with the same texts prepared in advance.
 
 #include "base/mdProgramFolder.h"
 #include "benchmarks/mdMakeClaim.h"
@@ -16,7 +16,7 @@
 
 namespace {
 
-/// The window of the preview on a claim of so many items, and a copy of what it shows.
+/// The preview's window on a claim with this many items, and a copy of the texts it shows.
 class PreviewBench {
 public:
     PreviewBench(int items, clsPreviewKind kind)
@@ -39,7 +39,7 @@ public:
     }
 
     void redraw() const { mdDrawPreview(m_kind); }
-    /// The same rows, by the same kit, from texts that are at hand: nothing of the claim is read or priced.
+    /// The same rows with the same functions, from prepared texts: the claim is neither read nor priced.
     void fill() const
     {
         oPreviewGrid &grid = *PreviewGrid;
@@ -56,7 +56,7 @@ public:
         }
         mdExportPreviewDeInit();
     }
-    /// Paints what is in view.
+    /// Paints the visible part.
     void paint() { benchmark::DoNotOptimize(m_sheet.grab()); }
 
 private:
@@ -104,7 +104,7 @@ constexpr auto Notes = clsPreviewKind::AdditionalInformation;
 constexpr auto Redraw = &PreviewBench::redraw;
 constexpr auto Fill = &PreviewBench::fill;
 
-// To the moment when it is seen, and without the painting of what is in view.
+// Until it is visible, and without painting the visible part.
 BENCHMARK_CAPTURE(preview, redraw_seen, Schedule, Redraw, true)->Arg(2000)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(preview, fill_seen, Schedule, Fill, true)->Arg(2000)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(preview, redraw, Schedule, Redraw, false)->Arg(2000)->Arg(10000)->Unit(benchmark::kMillisecond);

@@ -1,4 +1,4 @@
-// The totals below the preview and under a list: how soon they are right again after a change.
+// How soon the totals below the preview and below a list are up to date after a change.
 
 #include "benchmarks/mdMakeClaim.h"
 #include "controls/oTotalsStrip.h"

@@ -1,6 +1,5 @@
-// Opens a claim as any headless program does and prints what the process holds then and what it held at most, in
-// kilobytes: zr3-claim-memory CLAIM [FOLDER]. With a folder the claim is exported into it, and "exported" is what the
-// process held at most by then.
+// Opens a claim without a window and prints the memory of the process afterwards and its maximum, in kilobytes:
+// zr3-claim-memory CLAIM [FOLDER]. With a folder the claim is exported to it, and "exported" is the maximum at the end.
 
 #include "formdata/clsZR3Form.h"
 #include "wordexport/clsExport.h"
@@ -13,7 +12,7 @@
 
 namespace {
 
-/// One value of the system's own account of this process.
+/// One value of the kernel's status of this process.
 QByteArray statusValue(const char *name)
 {
     QFile file(QStringLiteral("/proc/self/status"));

@@ -1,13 +1,12 @@
 #!/usr/bin/env python3
-"""Drives a headless word processor through the steps of one export and prints the seconds that each run took.
+"""Drives a headless word processor through the steps of one export and prints the seconds of each run.
 
     /usr/bin/python3 drive_writer.py TEMPLATES SHEETS.json RUNS
 
-SHEETS.json is the account of a claim's sheets: the templates, and what is done to each, step by step.  Per sheet a
-template is opened, its placeholders are replaced, its cells are typed, and the sheet is stored and closed; then all
-sheets are put one after the other into one document.  The word processor runs already and has opened a document
-before the clock starts.  Nothing here is slower than it has to be: no window, no screen, each step of the cursor is one
-jump to where it ends, and the whole of it goes through one open connection.
+SHEETS.json describes a claim's sheets: the templates, and the steps for each. For each sheet a template is opened, its
+placeholders are replaced, its cells are typed, and the sheet is stored and closed; then all sheets are inserted into
+one document. The word processor is already running and has opened a document before the clock starts. Everything is as
+fast as possible: no window, no screen, each movement of the cursor is a single jump, and all steps use one connection.
 """
 
 import json
@@ -32,7 +31,7 @@ def properties(**values):
 
 
 class Writer:
-    """A word processor of our own: its own profile, its own pipe, ended at the end."""
+    """A separate word processor, with its own profile and pipe, that is ended afterwards."""
 
     def __init__(self, folder):
         self.pipe = f"zr3bench{os.getpid()}"
@@ -71,7 +70,7 @@ class Writer:
 
 
 class Sheet:
-    """One open document and the place in it where the next text goes."""
+    """An open document and the position of the next text."""
 
     def __init__(self, writer, path):
         self.document = writer.open(path)
@@ -152,7 +151,7 @@ class Sheet:
 
 
 def export(writer, templates, account, folder):
-    """The steps of one export; the number of them, and the finished document."""
+    """Performs the steps of one export; returns their number, and the finished document."""
     steps = 0
     # A sheet that is made twice is filled twice.
     made = {sheet["Name"]: sheet for sheet in account["Sheets"]}

@@ -1,6 +1,6 @@
-// What a user waits for on a screen with a long list: list_screen ITEMS. Opens the Schedule of Time of a claim of that
-// many items, adds one to it by the keyboard, takes that back, and prints the milliseconds of each wait as JSON. A wait
-// lasts from the key press, or the call that opens the screen, until the result is painted and no event is pending.
+// How long the user waits on a screen with a long list: list_screen ITEMS. Opens the Schedule of Time of a claim with
+// that many items, adds one by keyboard, undoes that, and prints the milliseconds of each wait as JSON. A wait lasts
+// from the key press, or the call that opens the screen, until the result is painted and no event is pending.
 
 #include "benchmarks/mdMakeClaim.h"
 #include "controls/mdApplyTheme.h"
@@ -32,7 +32,7 @@ constexpr int PatienceInMilliseconds = 30000;
     std::exit(1);
 }
 
-/// Waits until the window of a name, with no other in front of it, has painted itself since this was made.
+/// Waits until the window of that name, with no other in front of it, has painted itself since this object was created.
 class clsPaintWatch final : public QObject {
 public:
     explicit clsPaintWatch(const char *window)
@@ -50,7 +50,7 @@ public:
             if (timer.elapsed() > PatienceInMilliseconds)
                 fail("Nothing was painted.");
         }
-        // Whatever the painting and the key have put off is waited for too.
+        // Includes work that the painting and the key have deferred.
         QCoreApplication::processEvents();
     }
 
@@ -108,7 +108,7 @@ void addItem(frmSection &screen, clsTimes &times)
     QElapsedTimer timer;
     clsPaintWatch opened("frmScheduleOfTimeItemEdit");
     std::optional<clsPaintWatch> saved;
-    // The editor has a loop of its own: this runs in it, once the editor is there.
+    // The editor has an event loop of its own, in which this runs as soon as it is open.
     QTimer::singleShot(0, &screen, [&] {
         auto *editor = qobject_cast<frmSection *>(QApplication::activeModalWidget());
         if (!editor)
@@ -157,7 +157,7 @@ void round(int items, clsTimes &times)
         addItem(*screen, times);
         if (grid.Rows() != items + 1 || grid.SelectedItemData() != items + 1)
             fail("The new item is not the one that is chosen in the list.");
-        // Nothing brings a window back that was uncovered, and only the active one has keys of its menu.
+        // An uncovered window is not activated again, and only the active one receives its menu's keys.
         screen->activateWindow();
         if (!QTest::qWaitForWindowActive(screen.get()))
             fail("The screen did not become active again.");
@@ -184,7 +184,7 @@ int main(int argc, char **argv)
     }
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    // Without a window manager the platform has something to say on each window.
+    // Without a window manager the platform warns about each window.
     qputenv("QT_LOGGING_RULES", "default.warning=false;default.info=false;default.debug=false");
     int nameOnly = 1;
     QApplication application(nameOnly, argv);

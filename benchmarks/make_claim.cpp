@@ -1,4 +1,4 @@
-// Writes an invented claim: zr3-make-claim ITEMS FILE
+// Writes a generated claim: zr3-make-claim ITEMS FILE
 
 #include "base/mdGetVersionInfo.h"
 #include "benchmarks/mdMakeClaim.h"

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Random choices that are the same at every run and with every library.
+/// Random choices that are the same in every run and with every library.
 class Chooser {
 public:
     int below(int bound) { return int(m_random() % unsigned(bound)); }
@@ -126,8 +126,8 @@ void addSchedule(clsZR3Form &form, Chooser &chooser, int items)
         if (i % 3 == 0)
             item->Description = description(chooser);
     }
-    // The user has sorted the schedule by date since: the order has nothing to do with that of creation. The step is
-    // a prime, so that every place is taken once.
+    // As if the user had sorted the schedule by date: its order is unrelated to that of creation. The step is a prime,
+    // so every position is used once.
     constexpr qint64 Step = 7919;
     for (int i = 0; items % Step != 0 && i < items; ++i)
         form.ScheduleOfTimeItem(i + 1)->OrderID = int(i * Step % items) + 1;

@@ -5,12 +5,12 @@
 #include <utility>
 #include <vector>
 
-// The least that a program can do which makes one package from others: unpack those and pack this one. By the zip
-// library alone, with none of the house's own code.
+// The minimum work of a program that makes one package from others: decompress those and compress this one. Uses only
+// the zip library, none of our own code.
 
 using clsUnpackedFiles = std::vector<std::pair<QByteArray, QByteArray>>; ///< names and contents
 
-/// The files of a package; the program ends if it is none.
+/// The files of a package; ends the program if it is not a package.
 clsUnpackedFiles mdUnpack(const QByteArray &package);
-/// Packs files with the library's own settings and returns the size of the package.
+/// Compresses files with the library's default settings and returns the size of the package.
 qsizetype mdPack(const clsUnpackedFiles &files);

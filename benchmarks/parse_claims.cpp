@@ -1,5 +1,4 @@
-// Parses all files of a folder one after the other, as the least that a list of claims has to do: zr3-parse-claims
-// FOLDER
+// Parses all files of a folder one after the other, the minimum work for a list of claims: zr3-parse-claims FOLDER
 
 #include <pugixml.hpp>
 

@@ -3,9 +3,9 @@
 
     report.py BUILD_FOLDER
 
-Everything is measured in one run on one machine: pieces by the processor time that they take, whole processes by the
-clock.  A ratio says little about the machine, so that the bounds hold on a slow one as well as on a fast one; the times
-beside the ratios are for whoever looks for their cause.  The exit status is 0 when every bound that was measured is met.
+Everything is measured in one run on one machine: single operations by processor time, whole processes by elapsed time.
+A ratio depends little on the machine, so the bounds hold on slow and fast ones; the times beside the ratios help to
+find a cause. The exit status is 0 if every measured bound is met.
 """
 
 import json
@@ -20,7 +20,7 @@ import time
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
-# Claims of many sheets, by their form types.
+# Claims with many sheets, by form type.
 SAMPLES = {"Claim1": ROOT / "tests" / "samples" / "many-sheets", "Claim1A": ROOT / "tests" / "samples" / "many-sheets-1a"}
 ITEMS = 10000
 PREVIEW_ITEMS = 2000
@@ -30,13 +30,13 @@ FORECAST_TIME = 500
 CHECK_ITEMS = 2000
 CHECK_TIME = 50
 CHECK_PRINT_TIME = 500
-# Of which the schedule and its notes alone come to about thirty and to about a thousand sheets.
+# With these, the schedule and its notes alone take about thirty and about a thousand sheets.
 SHEET_ITEMS = {"few": 500, "many": 17000}
 PLACEHOLDERS = 40
 LISTED_CLAIMS = 1000
 LISTED_ITEMS = 200
 LIST_RUNS = 7
-# What comes within a tenth of a second of a key seems to come at once; beyond it the user notices that there is a wait.
+# A response within a tenth of a second seems immediate; a longer wait is noticed.
 AT_ONCE = 100
 REPETITIONS = 9
 PROCESS_RUNS = 15
@@ -48,7 +48,7 @@ notes = []
 
 
 def row(work, measured, bound, at_most=True, detail=""):
-    """One line of the table; what was measured is None where it could not be."""
+    """One line of the table; `measured` is None if it could not be measured."""
     if measured is None:
         rows.append((work, "-", f"{'at most' if at_most else 'at least'} {bound:g}", f"not measured: {detail}", True))
         return
@@ -60,8 +60,8 @@ def row(work, measured, bound, at_most=True, detail=""):
 
 def pieces(program):
     """The medians of the benchmark program: name to (processor time, real time) in milliseconds, and counters."""
-    # In the memory: on a disk each new file would be the slower the more files the exports before it have deleted, of
-    # which a user's one export knows nothing.
+    # In memory: on a disk a new file is slower the more files earlier exports have deleted, which doesn't affect a
+    # user's single export.
     memory = Path("/dev/shm")
     surroundings = os.environ | ({"TMPDIR": str(memory)} if memory.is_dir() else {})
     with tempfile.NamedTemporaryFile(suffix=".json") as out:
@@ -108,7 +108,8 @@ def forecast_row(medians):
 
 
 def template_row(build, medians):
-    """A sheet of ours, filled in, fitted, written and joined, against one that a template engine only fills in."""
+    """One of our sheets, filled in, fitted, written and joined, compared with one that a template engine only fills in.
+    """
     title = "A sheet by a template engine to one of ours, joined"
     folder = build / "docxtemplater"
     try:
@@ -168,7 +169,7 @@ def check_rows(medians):
 
 
 def whole_export(tool, sample):
-    """The median of the seconds that the headless tool takes for a sample, from its start to its end."""
+    """The median of the seconds that the command-line tool takes for a sample, from its start to its end."""
     seconds = []
     with tempfile.TemporaryDirectory() as folder:
         for _ in range(PROCESS_RUNS):
@@ -213,7 +214,7 @@ def memory_row(build):
 
 
 def list_row(build):
-    """A list of many claims against one process that only parses the same files, as the clock has them."""
+    """A list of many claims, compared with one process that only parses the same files, in elapsed time."""
     with tempfile.TemporaryDirectory(dir="/dev/shm" if Path("/dev/shm").is_dir() else None) as folder:
         first = Path(folder) / "0.zr3"
         subprocess.run([build / "benchmarks" / "zr3-make-claim", str(LISTED_ITEMS), first], check=True)
@@ -234,8 +235,8 @@ def list_row(build):
 
 
 def start_row(build):
-    """From the start of the process to a window that waits for its user, as the clock has it."""
-    # The toolkit's own screen is so small that the sheet follows the window's width and is drawn a second time.
+    """From the start of the process to a window that is ready for the user, in elapsed time."""
+    # Qt's default offscreen screen is so small that the sheet adapts to the window's width and is drawn a second time.
     desktop = {"synchronousWindowSystemEvents": False, "windowFrameMargins": True,
                "screens": [{"name": "desktop", "x": 0, "y": 0, "width": 1920, "height": 1080, "logicalDpi": 96,
                             "logicalBaseDpi": 96, "dpr": 1}]}
@@ -264,7 +265,7 @@ def start_row(build):
 
 
 def screen_rows(build, medians):
-    """What a user waits for on a screen with a long list, as the clock has it."""
+    """How long the user waits on a screen with a long list, in elapsed time."""
     def waits(items):
         return json.loads(subprocess.run([build / "benchmarks" / "zr3-list-screen", str(items)], check=True,
                                          capture_output=True, text=True).stdout)

@@ -1,5 +1,5 @@
-// Starts the desktop program as a user does, says on standard output when its main window can be used, and ends.
-// Usable is the moment in which the window has been painted and waits for its user with nothing left to do.
+// Starts the desktop program like a user, prints when its main window is usable, and ends. Usable means that the window
+// has been painted and has nothing left to do.
 
 #include "base/mdProgramFolder.h"
 #include "shell/mdSubMain.h"

@@ -1,6 +1,6 @@
-# Several files of a target in one compilation: the headers are read, and the templates made, once for all of them. It takes
-# less than half the time where everything is compiled, and longer where one file is, so it is for builds from nothing.
-# Which files go together is asked at each configuration, so that no file has to know of another's names.
+# Compiles several files of a target together: headers are read, and templates instantiated, once for all of them. A
+# full build takes less than half the time, a rebuild after a change to one file longer. The groups are determined at
+# each configuration, so that no file depends on another's names.
 option(ZR3_UNITY "Compile several files at a time" OFF)
 
 function(zr3_unite target)
@@ -17,7 +17,7 @@ function(zr3_unite target)
     endforeach()
     execute_process(COMMAND ${ZR3_PYTHON} -B ${CMAKE_SOURCE_DIR}/cmake/unity_groups.py 10 ${sources}
         OUTPUT_VARIABLE lines COMMAND_ERROR_IS_FATAL ANY)
-    # A line is a list: what comes apart at the ends of the lines must not at the semicolons.
+    # Each line is a list: split the output at the line ends, not at the semicolons.
     string(REPLACE ";" "|" lines "${lines}")
     string(REPLACE "\n" ";" lines "${lines}")
     set(number 0)
@@ -29,7 +29,7 @@ function(zr3_unite target)
             set_source_files_properties(${group} TARGET_DIRECTORY ${target} PROPERTIES UNITY_GROUP ${number})
         endif()
     endforeach()
-    # Not the file that is compiled, but one that it reads, has the class that no other file can see.
+    # The class with internal linkage is in a file that the compiled file includes, not in the compiled file itself.
     target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
     set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
 endfunction()

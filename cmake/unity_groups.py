@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""Says which source files of a target can be compiled together: unity_groups.py SIZE FILE...
+"""Groups the source files of a target that can be compiled together: unity_groups.py SIZE FILE...
 
-Prints one line for each group, its files parted by semicolons. Files share a group, of at most SIZE files, only where no
-name that one of them keeps to itself occurs in another: then neither can tell that it isn't alone. The code is skimmed,
-not parsed; a name that is missed ends in an error of the compiler, not in another program.
+Prints one line for each group, with its files separated by semicolons. Files share a group, of at most SIZE files, only
+if no file-local name of one occurs in another, so that compiling them together makes no difference. The code is
+scanned, not parsed; a name that is missed leads to a compiler error, not to a different program.
 """
 
 import re
@@ -12,25 +12,25 @@ import sys
 NOT_CODE = re.compile(
     r'R"(?P<mark>\w*)\(.*?\)(?P=mark)"' r"|//[^\n]*|/\*.*?\*/" r'|"(?:\\.|[^"\\\n])*"' r"|(?<!\w)'(?:\\.|[^'\\\n])+'", re.DOTALL)
 DIRECTIVE = re.compile(r"^[ \t]*#[ \t]*(?P<kind>\w+)(?:[ \t]+(?P<word>\w+))?(?:[^\n]*\\\n)*[^\n]*$", re.MULTILINE)
-# A member of something else is no use of a name of the file.
+# A member of something else is not a use of a file's name.
 MEMBER = re.compile(r"(?:\.|->|::)\s*[A-Za-z_]\w*")
 NAME = re.compile(r"[A-Za-z_]\w*")
 
 
 def declared(declaration):
-    """The name that a declaration at the level of the file introduces, if any."""
+    """The name that a file-level declaration introduces, if any."""
     previous = None
     while previous != declaration:
         previous, declaration = declaration, re.sub(r"<[^<>]*>", "", declaration)
     declaration = re.sub(r"\[\[.*?\]\]|^\s*(template|static|inline|constexpr)\b", "", declaration).strip()
     found = re.match(r"(?:class|struct|union|enum(?: class)?|using|namespace)\s+(\w+)", declaration) \
         or re.search(r"(\w+)\s*(?:[(\[=]|$)", declaration)
-    # What is in capitals is no name but a macro, such as that of a test.
+    # A name in capitals is a macro, such as that of a test.
     return found[1] if found and not found[1].isupper() else None
 
 
 def kept_names(code):
-    """The names that a file declares for itself alone: in unnamed namespaces, and as static."""
+    """The names with internal linkage in a file: in unnamed namespaces, or static."""
     names, blocks, begin, parentheses = set(), [], 0, 0
     for match in re.finditer(r"[{};()]", code):
         mark = match[0]
@@ -67,9 +67,9 @@ class File:
         code, macros = code_of(path)
         self.kept = kept_names(code) | macros
         self.used = set(NAME.findall(MEMBER.sub(" ", code))) | self.kept
-        # Another name for a type can be given twice.
+        # A type alias can be declared twice.
         self.aliases = dict(re.findall(r"^using (\w+) = ([^;]+);", code, re.MULTILINE))
-        # These bring names along that are not to be seen elsewhere.
+        # These introduce names that must not be visible in other files.
         self.brings = set(re.findall(r"^using (?:enum|namespace) [^;]+;", code, re.MULTILINE))
 
     def agrees_with(self, other):

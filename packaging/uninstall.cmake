@@ -1,5 +1,5 @@
-# Takes away what `cmake --install` put below a prefix: the files of the list that it left there, then the folders that
-# are empty without them.
+# Removes what `cmake --install` installed below a prefix: the files of the list that it left there, then the folders
+# that are empty without them.
 #     cmake -DPREFIX=FOLDER -P packaging/uninstall.cmake
 if(NOT PREFIX)
     message(FATAL_ERROR "usage: cmake -DPREFIX=FOLDER -P packaging/uninstall.cmake")
@@ -12,7 +12,7 @@ if(NOT EXISTS "${list}")
 endif()
 file(SHA256 "${CMAKE_CURRENT_LIST_DIR}/../resources/VELMORZR3XML/xmlZR3PreferencesDatabase" fresh)
 
-# A folder and those above it up to the prefix, as far as they are empty: rmdir takes no others.
+# Removes a folder and those above it, up to the prefix, if they are empty: rmdir removes no others.
 function(remove_empty folder)
     set(status 0)
     while(status EQUAL 0 AND NOT folder STREQUAL prefix)
@@ -37,7 +37,7 @@ foreach(name IN LISTS files)
     list(APPEND folders "${folder}")
 endforeach()
 file(REMOVE "${list}")
-# The list has no empty folders.
+# Empty folders are not in the list.
 list(APPEND folders "${program}/Documentation" "${program}/Logs" "${program}")
 list(REMOVE_DUPLICATES folders)
 foreach(folder IN LISTS folders)

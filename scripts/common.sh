@@ -15,7 +15,7 @@ missing_packages() {
     done < scripts/packages | sort -u
 }
 
-# Installs what is missing of some groups. The status says whether all of it is there now.
+# Installs the missing packages of some groups. The status says whether all are now installed.
 install_packages() {
     command -v dpkg-query >/dev/null || {
         say "This is no Debian machine: the packages that $0 needs are listed in scripts/packages."
@@ -29,7 +29,7 @@ install_packages() {
         command -v sudo >/dev/null || { say "These packages need root or sudo to be installed." >&2; return 1; }
         as_root=(sudo)
     fi
-    # A list that can't be fetched may still be good enough to install from.
+    # If the package lists can't be fetched, the existing ones may still do.
     "${as_root[@]}" apt-get update -qq || true
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
         apt-get install -y -qq --no-install-recommends $missing >/dev/null
@@ -56,18 +56,18 @@ configure_and_build() {
     rm -f "$log"
 }
 
-# A long build shows that it lives: every fiftieth step and the last. A short one says nothing.
+# Shows the progress of a long build: every fiftieth step and the last. A short build prints nothing.
 build_progress() { awk -F'[][/]' '/^\[[0-9]+\/[0-9]+\]/ && $3 >= 50 && ($2 % 50 == 0 || $2 == $3) { print "  " $2 " of " $3; fflush() }'; }
 
-# Whether there is a clang here that can build a program with its fuzzer.
+# Whether clang is installed and can build a program with its fuzzer.
 has_fuzzer() {
     command -v clang++ >/dev/null || return 1
     clang++ -fsanitize=fuzzer,address,undefined -x c++ -o /dev/null - 2>/dev/null \
         <<< 'extern "C" int LLVMFuzzerTestOneInput(const unsigned char *, unsigned long) { return 0; }'
 }
 
-# Makes the document validator available under a build folder: sets ZR3_VALIDATOR to its program, or, where this
-# machine can't run it, ZR3_VALIDATOR_MISSING to the reason.
+# Installs the document validator below a build folder: sets ZR3_VALIDATOR to its program, or, if this machine can't run
+# it, ZR3_VALIDATOR_MISSING to the reason.
 provide_validator() {
     local folder=$1/validator source=tests/documents output
     local program=$PWD/$folder/node_modules/.bin/ooxml-validate

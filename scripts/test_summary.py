@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""Counts the results of test runs and ends with one line: "N passed, N failed". What was skipped is told before it.
+"""Counts the results of test runs and ends with one line: "N passed, N failed". Skipped tests are listed before it.
 
     test_summary.py RESULTS.xml...
 
-The results are CTest's own files. Every skipped test is named with its reason. The exit status is 0 only when
-every file is there, tests passed, and none failed.
+The results are CTest's own files. Every skipped test is named with its reason. The exit status is 0 only if every file
+exists, tests passed, and none failed.
 """
 
 import re
@@ -20,7 +20,7 @@ def ctest_says(case):
 
 
 def reason(case):
-    """Why a test was skipped: what it printed of it, else what CTest says."""
+    """Why a test was skipped: the reason it printed, otherwise CTest's."""
     if case.get("status") == "disabled":
         return "disabled"
     output = case.findtext("system-out") or ""
@@ -31,7 +31,7 @@ def reason(case):
 def kind(case):
     if case.get("status") == "run" and case.find("failure") is None:
         return "passed"
-    # CTest calls a test whose program is missing "not run" too: that one has failed.
+    # CTest also calls a test "not run" if its program is missing: that is a failure.
     if case.get("status") == "disabled" or case.get("status") == "notrun" and ctest_says(case).startswith("SKIP_"):
         return "skipped"
     return "failed"

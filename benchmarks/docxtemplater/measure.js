@@ -1,7 +1,7 @@
 // Fills in a page template with a template engine and prints the milliseconds: node measure.js TEMPLATES PLACEHOLDERS
 //
-// It takes the template with about so many placeholders, reads it from the memory, gives each placeholder a short
-// text, and packs the result. Nothing is joined and nothing is written. The engine is warm before the clock starts.
+// Uses the template with about that many placeholders, reads it from memory, gives each placeholder a short text, and
+// compresses the result. Nothing is joined or written to a file. The engine is warm before the clock starts.
 "use strict";
 
 const fs = require("fs");

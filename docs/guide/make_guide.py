@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""Makes the two documents of the Help menu from the sources beside this file: make_guide.py FOLDER VERSION
+"""Makes the two PDFs of the Help menu from the sources beside this file: make_guide.py FOLDER VERSION
 
-The user guide is the chapters, one Markdown file each, in the order of their names; keys.toml and messages.toml are
-tables that a chapter calls for by a line of its own, such as {keys}. The list of keyboard shortcuts is keys.toml alone.
-The same sources make the same bytes.
+The user guide consists of the chapters, one Markdown file each, in the order of their names; keys.toml and
+messages.toml are tables, which a chapter inserts with a line such as {keys}. The list of keyboard shortcuts is
+keys.toml alone. The same sources make the same bytes.
 """
 
 import html
@@ -26,7 +26,7 @@ PICTURES = [ROOT / "docs/screens", ROOT / "docs/pictures"]
 GUIDE = "Velmor ZR3 User Guide"
 SHORTCUTS = "Velmor ZR3 Keyboard Shortcuts"
 
-MILLIMETRES_PER_PIXEL = 0.128  # all screens at one scale, so that their letters are of one size
+MILLIMETRES_PER_PIXEL = 0.128  # all screens at the same scale, so that their letters have the same size
 WIDEST = 164  # millimetres between the margins
 
 # The tables of messages.toml besides the messages themselves, and their headings.
@@ -50,7 +50,7 @@ def picture(name):
 
 
 def fetched(url):
-    """The pictures come from their folders, with no more colours than a screen needs; nothing comes from elsewhere."""
+    """Pictures come from their folders, with no more colours than a screen needs; nothing is fetched from elsewhere."""
     scheme, _, name = url.partition(":")
     if scheme != "picture":
         raise SystemExit(f"The sources of the guide refer to {url}.")
@@ -63,14 +63,14 @@ def fetched(url):
 # From the sources to HTML
 
 def keys_of(text):
-    """[[Ctrl+N]] is a key, or some that are pressed together."""
+    """[[Ctrl+N]] is a key, or several that are pressed together."""
     def caps(match):
         return "+".join(f"<kbd>{escaped(key)}</kbd>" for key in match[1].split("+"))
     return re.sub(r"\[\[(.+?)\]\]", caps, text)
 
 
 def captions_in(text):
-    """A field is named as on its screen, but for a colon in the middle of a sentence."""
+    """A field is named as on its screen, but without its colon in the middle of a sentence."""
     return re.sub(r":\*\*(?=[.,;:)])", "**", text)
 
 
@@ -83,12 +83,12 @@ def figure(match):
 
 
 def figures(text):
-    """A picture is a paragraph of its own: ![What it shows](frmMain.png) or ![...](frmMain.png =120), in millimetres."""
+    """A picture is a separate paragraph: ![What it shows](frmMain.png) or ![...](frmMain.png =120), in millimetres."""
     return re.sub(r"^!\[(?P<alt>.+?)\]\((?P<name>[\w.-]+)(?: =(?P<width>\d+))?\)$", figure, text, flags=re.MULTILINE)
 
 
 def message_text(text):
-    """{words in braces} stand for what differs from case to case. An option of zr3tool stays on one line."""
+    """{words in braces} stand for text that varies. An option of zr3tool stays on one line."""
     paragraphs = [re.sub(r"\{(.+?)\}", r"<i>\1</i>", re.sub("--[a-z-]+", r'<span class="option">\g<0></span>',
                          escaped(part))).replace("\n", "<br>") for part in text.strip().split("\n\n")]
     return "".join(f"<p>{part}</p>" for part in paragraphs)
@@ -120,7 +120,7 @@ def message_tables(groups):
         if "note" in group:
             made.append(f'<p>{inline(group["note"])}</p>')
         for message in group["message"]:
-            # A window that asks for a folder has nothing but its title.
+            # A window that asks for a folder has only its title.
             title = f'<p class="title">{escaped(message["title"])}</p>' if message["title"] != message["text"] else ""
             made.append(
                 f'<section class="message" id="{message_id(message)}">'
@@ -131,7 +131,7 @@ def message_tables(groups):
 
 
 def words_table(name, rows, headings):
-    """One row for each text that is shown without a message of its own."""
+    """A row for each text that is shown outside messages."""
     head = "".join(f"<th>{heading}</th>" for heading in headings)
     made = []
     for row in rows:
@@ -151,12 +151,12 @@ def first_words(text):
 
 
 def message_index(messages):
-    """Every message by its first words and by its title, in the order of the alphabet."""
+    """Every message by its first words and by its title, in alphabetical order."""
     entries = set()
     for group in messages["group"]:
         for message in group["message"]:
             entries.add((first_words(message["text"]), message_id(message), False))
-        # Messages of one title that stand side by side need the title once.
+        # Consecutive messages with the same title are listed under one title.
         titles = {message["title"]: message_id(message) for message in reversed(group["message"])
                   if message["title"] != message["text"]}
         entries |= {(title, target, True) for title, target in titles.items()}
@@ -170,17 +170,17 @@ def message_index(messages):
 
 
 def with_pages(made):
-    """Every reference to another place of the guide is followed by its page."""
+    """Adds the page number to every reference within the guide."""
     return re.sub(r'<a href="#([^"]+)">(.*?)</a>', r'<a href="#\1">\2</a> (page&nbsp;<a class="page" href="#\1"></a>)', made)
 
 
 def with_starts(made):
-    """A list that goes on after a table or a picture keeps its numbers."""
+    """A list that continues after a table or a picture keeps its numbers."""
     return re.sub(r'<ol start="(\d+)">', lambda match: f'<ol style="counter-reset: list-item {int(match[1]) - 1}">', made)
 
 
 def with_lead_ins(made):
-    """What says what a table or a listing holds stays with it, and a heading and its words with the picture of the screen."""
+    """Keeps the introduction to a table or listing with it, and a heading and its text with the screen's picture."""
     made = re.sub(r"<p>((?:(?!</p>).)*</p>\s*<(?:table|pre)\b)", r'<p class="lead-in">\1', made, flags=re.DOTALL)
     return re.sub(r"(</h[23]>\s*)<p>((?:(?!</p>).)*</p>\s*<figure>)", r'\1<p class="lead-in">\2', made, flags=re.DOTALL)
 
@@ -197,7 +197,7 @@ def chapters(tables):
 
 
 def numbered(body):
-    """Numbers the chapters, gives every heading a name to refer to, and returns the contents too."""
+    """Numbers the chapters, gives every heading an anchor, and returns the contents too."""
     contents, count = [], 0
     appendix = False
 
@@ -254,7 +254,7 @@ def shortcuts(version, keys):
 
 def write(text, path):
     document = HTML(string=text, base_url="picture:", url_fetcher=fetched)
-    # Named after what it holds, and its fonts without the time of day, so that the same sources give the same file.
+    # An identifier from the content, and fonts without a time stamp, so that the same sources make the same file.
     os.environ["SOURCE_DATE_EPOCH"] = "0"
     identifier = uuid.uuid5(uuid.NAMESPACE_URL, text).bytes
     document.write_pdf(path, identifier=identifier, variant="pdf/ua-1")

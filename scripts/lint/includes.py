@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""Looks at the #include lines of C++ sources: includes.py ROOT FILE...
+"""Checks the #include lines of C++ sources: includes.py ROOT FILE...
 
-Each kind of header has a block of its own, and the blocks stand in the order of KINDS. A first block of one header is the
-file's own, or the one whose functions it defines. Headers of this program are named from the root, and are there. The order
-within a block is clang-format's. Prints what is wrong, one line for each finding; the status is 1 if there is anything.
+Each kind of header has its own block, and the blocks are in the order of KINDS. A first block with a single header is
+the file's own header, or the one whose functions it defines. Headers of this program are named from the root, and must
+exist. clang-format sorts each block. Prints one line for each finding; the status is 1 if there are any.
 """
 
 import re
@@ -12,7 +12,7 @@ from itertools import groupby
 from pathlib import Path
 
 LIBRARIES = ("benchmark/", "gmock/", "gtest/", "hunspell/", "pugixml.hpp", "zip.h", "zlib.h")
-# In the order in which they are to stand.
+# In their required order.
 KINDS = ["the file's own header", "a header of this program", "a header of Qt", "a header of another library",
          "a standard header", "a header of the system"]
 OWN, PROGRAM, QT, LIBRARY, STANDARD, SYSTEM = range(len(KINDS))
@@ -31,7 +31,9 @@ def kind_of(mark, name):
 
 
 def blocks_of(text):
-    """The blocks of includes at the head of a file: lists of line number, mark and name. A condition ends them."""
+    """The blocks of includes at the head of a file: lists of line number, delimiter and name. A preprocessor condition
+    ends them.
+    """
     blocks, previous = [], None
     for number, line in enumerate(text.splitlines(), 1):
         found = INCLUDE.match(line)
@@ -46,7 +48,7 @@ def blocks_of(text):
 
 
 def findings(root, file):
-    """Line number and message of each."""
+    """Line number and message of each finding."""
     text = (root / file).read_text(encoding="utf-8")
     own = str(Path(file).with_suffix(".h"))
     blocks = blocks_of(text)
@@ -70,8 +72,8 @@ def findings(root, file):
         last = max(last, *kinds)
 
 
-# The place for what concerns more than one file at a time, such as which folder may include which. Each takes the root and
-# the files, and yields a file, a line number and a message.
+# For rules about several files, such as which folder may include which. Each takes the root and the files, and yields a
+# file, a line number and a message.
 RULES_OF_THE_TREE = []
 
 

@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 """Runs clang-tidy over sources: tidy.py BUILD_FOLDER FILE...
 
-The checks are those of .clang-tidy. Files are looked at several at a time, as they are compiled, and for as long as
-LONGEST: what is left then is named. A header is looked at where a file of its name, or another that is compiled, reads it.
-The status is 1 if there is a finding.
+The checks are those of .clang-tidy. Several files are checked at a time, as they are compiled, for at most LONGEST
+seconds: the rest are named. A header is checked with the source of its name, or another that includes it. The status is
+1 if there is a finding.
 """
 
 import json
@@ -22,9 +22,9 @@ from unity_groups import File, groups  # noqa: E402
 
 ROOT = Path(__file__).resolve().parents[2]
 LONGEST = 240  # seconds
-TOGETHER = 6  # files; more would let one of two processors wait for the other
+TOGETHER = 6  # files; with more, one of two processors would have to wait for the other
 
-# What is for the compiler of the build alone, its warnings among it.
+# Options only for the build's compiler, including its warnings.
 NOT_FOR_TIDY = re.compile(r"-(W.*|fpch-preprocess|flto.*|fno-fat-lto-objects)$")
 
 
@@ -58,7 +58,7 @@ def compilations(build):
 
 
 def reader_of(header, sources, headers):
-    """A compiled source that reads a header: the one of its name, or one that includes it, or what includes it."""
+    """A compiled source that reads a header: the one of its name, or one that includes it directly or indirectly."""
     own = str(Path(header).with_suffix(".cpp"))
     if own in sources:
         return own
@@ -75,7 +75,7 @@ def reader_of(header, sources, headers):
 
 
 def tidy(files, options, changed, folder, deadline):
-    """The findings in some files, or None where there was no time."""
+    """The findings in some files, or None if time ran out."""
     left = deadline - time.monotonic()
     if left <= 0:
         return None

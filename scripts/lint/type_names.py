@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""Looks for types of one name in two files: type_names.py FILE...
+"""Finds types of the same name in two files: type_names.py FILE...
 
-Two different types of one name in one program are an error that no compiler has to report. The linker's own comparison sees
-the programs; this one sees the tests too. What a .cpp file alone uses belongs into an unnamed namespace.
+Two different types of the same name in one program are an error that no compiler has to report. The linker's check
+covers the programs; this one covers the tests too. Types used in only one .cpp file belong in an unnamed namespace.
 """
 
 import re
@@ -17,7 +17,7 @@ TYPE = re.compile(r"(?:^|\s)(?:class|struct|union|enum(?: class)?)\s+(\w+)(?:\s+
 
 
 def types_of(code):
-    """The types that a file defines for all to see, with their namespaces."""
+    """The types that a file defines with external linkage, with their namespaces."""
     blocks, begin = [], 0
     for match in re.finditer(r"[{};]", code):
         declaration = code[begin:match.start()].strip()

@@ -14,8 +14,8 @@
 
 #include <gtest/gtest.h>
 
-/// A test of the shell's services: folders of its own for the program and the user's configuration, a scripted user,
-/// and nothing left behind of clocks, switches and faults.
+/// Base of tests of the shell's services: temporary folders for the program and the user's configuration and a scripted
+/// user; resets clocks, switches and faults afterwards.
 class clsShellTest : public testing::Test {
 protected:
     void SetUp() override
@@ -51,7 +51,7 @@ protected:
     }
     static bool exists(const QString &file) { return QFile::exists(file); }
 
-    /// The title and text of the only box that was shown.
+    /// Expects exactly one box, with this title and text.
     void expectOneBox(const char *title, const QString &text) const
     {
         ASSERT_EQ(1u, user.messages.size());

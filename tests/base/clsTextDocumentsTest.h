@@ -3,7 +3,7 @@
 #include "base/mdTextDocumentHandling.h"
 #include "tests/base/clsShellTest.h"
 
-/// A test of reading and writing a claim's file, which has a side file while it is written.
+/// Base of tests that read and write a claim's file, which has a side file while it is written.
 class clsTextDocumentsTest : public clsShellTest {
 protected:
     void SetUp() override
@@ -21,7 +21,7 @@ protected:
         user.messages.clear();
     }
 
-    /// All that lies in the folder of the claim, without the folders of the program.
+    /// All files in the claim's folder, without the program's folders.
     QStringList names() const { return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
 
     static QString readBox(const QString &path, const char *error)

@@ -138,7 +138,7 @@ TEST(MoneyFromText, ReachesTheLimitsAndNoFurther)
     EXPECT_EQ(Error::Overflow, errorOf([] { money(u"922337203685477.58075"); }));
     EXPECT_EQ(Error::Overflow, errorOf([] { money(u"-922337203685477.5809"); }));
     EXPECT_EQ(Error::Overflow, errorOf([] { money(u"99999999999999999999999999999999"); }));
-    // Two to the 64th ten-thousandths and its neighbours, which 64 bits would take for next to nothing.
+    // Two to the 64th ten-thousandths and its neighbours, which would wrap round to small values in 64 bits.
     EXPECT_EQ(Error::Overflow, errorOf([] { money(u"1844674407370955.1616"); }));
     EXPECT_EQ(Error::Overflow, errorOf([] { money(u"1844674407370955.2"); }));
     EXPECT_EQ(Error::Overflow, errorOf([] { money(u"1844674407370955.16155"); }));
@@ -168,7 +168,7 @@ TEST(MoneyFromDouble, OutOfRangeOrNoNumberIsOverflow)
 {
     for (const double value : {Infinity, -Infinity, NoNumber, 1e300, -1e300, 922337203685477.6, -922337203685477.7})
         EXPECT_EQ(Error::Overflow, errorOf([&] { MoneyFromDouble(value); })) << value;
-    // The double below the upper limit: ten-thousandths come in steps of 1024 there.
+    // The double below the upper limit: doubles are 1024 ten-thousandths apart there.
     EXPECT_EQ(units(Largest - 1023), MoneyFromDouble(double(Largest - 1023) / 10000.0));
     EXPECT_EQ(units(Smallest), MoneyFromDouble(-922337203685477.5808));
 }
@@ -318,7 +318,7 @@ TEST(TextValue, ReadsASignBeforeANumberOfAnyLength)
 
 TEST(TextValue, IsTheNearestDouble)
 {
-    // The C library, in its own locale, is the measure.
+    // The reference is the C library in the "C" locale.
     std::mt19937 random(2);
     for (int i = 0; i < 50'000; ++i) {
         std::string number;
@@ -446,7 +446,7 @@ TEST(TimeToMoney, PricesTheWorkedExamples)
 
 TEST(TimeToMoney, AgreesWithExactArithmetic)
 {
-    // Pence times minutes over sixty, in whole numbers, the half away from zero.
+    // Pence times minutes over sixty, in integers, half rounded away from zero.
     for (std::int64_t pence = 1; pence < 20'000; pence += 7) {
         for (int minutes = 0; minutes < 600; minutes += 11) {
             const std::int64_t product = pence * minutes;
@@ -484,7 +484,7 @@ TEST(PercentageCalculate, OutOfRangeIsOverflow)
 {
     EXPECT_EQ(Error::Overflow, errorOf([] { PercentageCalculate(units(Largest), u"101"); }));
     EXPECT_EQ(Error::Overflow, errorOf([] { PercentageCalculate(units(1), QString(400, u'9')); }));
-    // Nothing times more than any double is no number.
+    // Zero times a number beyond the range of a double is not a number.
     EXPECT_EQ(Error::Overflow, errorOf([] { PercentageCalculate(Money(), QString(400, u'9')); }));
 }
 

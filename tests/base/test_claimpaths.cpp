@@ -70,10 +70,10 @@ TEST_F(ClaimPaths, LinksToFoldersAreNotFollowedAndThoseToClaimsAre)
     ASSERT_TRUE(QFile::link(path("a"), path("c")));
     ASSERT_TRUE(QFile::link(path("a"), path("d.zr3")));
     ASSERT_TRUE(QFile::link(path("a/b.zr3"), path("e.zr3")));
-    // One that has gone is told of where it is read.
+    // A broken link is listed here and reported when it is read.
     ASSERT_TRUE(QFile::link(path("gone.zr3"), path("f.zr3")));
     EXPECT_EQ(QStringList({"a/b.zr3", "e.zr3", "f.zr3"}), found());
-    // The folder itself may be one.
+    // The given folder itself may be a link.
     EXPECT_EQ(1U, mdClaimPaths(path("c")).size());
 }
 

@@ -67,7 +67,7 @@ TEST(CodePage, ACharacterOutsideThePageBecomesAQuestionMark)
     EXPECT_EQ(QByteArray("a?b"), mdToCodePage(QString::fromUtf8("a\u0141b")));
     // The control character of 0x80 is not in the page, since its byte is the euro sign.
     EXPECT_EQ(QByteArray("?"), mdToCodePage(QStringView(u"\x80")));
-    // One for each half of a character beyond 16 bits: one byte for each character of the text.
+    // One for each UTF-16 unit: the text keeps its length.
     EXPECT_EQ(QByteArray("??"), mdToCodePage(QString::fromUtf8("\U0001F600")));
 }
 

@@ -24,7 +24,7 @@ constexpr Row Amounts[] = {
     {"1234.5", "1,234.50"},
     {"1,234.50", "1,234.50"},
     {"12,34", "1,234.00"},
-    {"1.2,3", "1.23"}, // where the commas stand is not checked
+    {"1.2,3", "1.23"}, // the position of commas is not checked
     {"999.99", "999.99"},
     {"1000", "1,000.00"},
     {"100000", "100,000.00"},
@@ -34,7 +34,7 @@ constexpr Row Amounts[] = {
     {"-1234.5", "-1,234.50"},
     {"  12 ", "12.00"},
     {"007", "7.00"},
-    // Half away from zero, on the text itself: 1.005 is no binary fraction and would round down as a double.
+    // Half away from zero, on the decimal text: 1.005 is not a binary fraction and would round down as a double.
     {"1.005", "1.01"},
     {"1.00499999", "1.00"},
     {"-1.005", "-1.01"},

@@ -1,4 +1,4 @@
-// On a mount of the network a signal may interrupt what never is elsewhere: the call is made again.
+// On a network mount a signal may interrupt calls that are never interrupted elsewhere: they are repeated.
 
 #include "base/clsFileSystem.h"
 #include "base/mdOwnDatabasePath.h"
@@ -15,7 +15,7 @@
 
 namespace {
 
-/// While it is on, each second call is interrupted, the first one to begin with.
+/// While set, every second call is interrupted, starting with the first.
 bool interrupts = false;
 int interrupted = 0;
 
@@ -29,7 +29,7 @@ bool isInterrupted()
 
 } // namespace
 
-// In the place of the system's own, also for the libraries.
+// Replaces the system's function, for the libraries too.
 extern "C" int mkdir(const char *path, mode_t mode) noexcept
 {
     if (isInterrupted()) {

@@ -118,7 +118,7 @@ mode_t modeOf(const QString &at)
 
 } // namespace
 
-/// A database folder that two users share, and the two users.
+/// A database folder shared by two users.
 class SharedLog : public Log {
 protected:
     void SetUp() override
@@ -141,7 +141,7 @@ protected:
     {
         ASSERT_EQ(0, ::chmod(QFile::encodeName(path(name)).constData(), mode)) << name;
     }
-    /// Writes two lines; how many boxes they show.
+    /// Writes two lines and returns the number of boxes shown.
     int boxesOfTwoLines(uid_t who)
     {
         return resultAsOrdinaryUser(
@@ -152,7 +152,7 @@ protected:
             },
             who);
     }
-    /// The first user's lines show the box of a day that begins.
+    /// The first user's lines show the box for a new day's file.
     void firstUserWrites() { EXPECT_EQ(1, boxesOfTwoLines(OrdinaryUser)); }
     void expectLog(const QString &below) const
     {
@@ -160,7 +160,7 @@ protected:
             bytesOf(below + QStringLiteral("/15-11-2026.txt")))
             << qPrintable(below);
     }
-    /// The folder that a user without an account is given.
+    /// The folder of a user without an account, named after the user's number.
     static QString second() { return u'/' + QString::number(SecondUser); }
 };
 
@@ -206,7 +206,7 @@ TEST_F(SharedLog, ADaysFileThatBothCanWriteIsTheOne)
 TEST_F(SharedLog, LogsThatAreClosedToTheSecondUserAreReplacedByTheirOwn)
 {
     firstUserWrites();
-    setMode("shared/Logs", 0755); // as an earlier version made them
+    setMode("shared/Logs", 0755); // as created by an earlier version
     EXPECT_EQ(0, boxesOfTwoLines(SecondUser));
     expectLog(path("state/Velmor/Logs"));
     EXPECT_EQ(mode_t(0700), modeOf(path("state/Velmor")));

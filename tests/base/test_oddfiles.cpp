@@ -1,4 +1,4 @@
-// Files that a claim is read from and written to, and that are no plain files of the user's own.
+// Reading and writing claims in files that are not plain files of the user.
 
 #include "tests/base/clsTextDocumentsTest.h"
 #include "tests/support/mdExpectError.h"
@@ -10,7 +10,7 @@
 
 namespace {
 
-/// As an ordinary user, where the tests run as the administrator, whom no permission stops.
+/// Runs as an ordinary user if the tests run as root, who ignores permissions.
 class clsOrdinaryUser {
 public:
     clsOrdinaryUser()
@@ -200,7 +200,7 @@ TEST_F(OddFiles, ASideFileIsOpenToNoOtherGroupThanItsFile)
     WriteTextDocument(next, claim, false);
     EXPECT_EQ(Firm, status.st_gid);
     EXPECT_EQ(mode_t(0660), status.st_mode & 0777);
-    // A user who is not in that group can't give it the side file, and must not give it to their own.
+    // A user outside that group can't give the side file to it, and must not give it to their own group.
     {
         const clsOrdinaryUser ordinary;
         ASSERT_TRUE(ordinary.is());
@@ -256,7 +256,7 @@ TEST_F(OddFiles, AnUnreadableFileIsPermissionDenied)
 TEST_F(OddFiles, AFileTooLargeForAnyClaimIsNotReadIntoMemory)
 {
     startWith(old);
-    ASSERT_TRUE(QFile::resize(claim, 512 * 1024 * 1024 + 1)); // a hole, which takes no room on the disk
+    ASSERT_TRUE(QFile::resize(claim, 512 * 1024 * 1024 + 1)); // a sparse file, which takes no space on the disk
     EXPECT_EQ(QString(), ReadTextDocument(claim, false));
     expectOneBox("File Not Read", readBox(claim, "7 - Out of memory"));
 }

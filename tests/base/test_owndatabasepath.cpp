@@ -36,7 +36,7 @@ protected:
     {
         return GetResourceData(QStringLiteral("xmlZR3PreferencesDatabase"), QStringLiteral("VELMORZR3XML")).toLatin1();
     }
-    /// Gives the whole place of the test to the ordinary user, who may not write in this folder of it.
+    /// Gives the whole test folder to the ordinary user, except for write access to this folder.
     void everythingIsTheUsersBut(const QString &readOnly) const
     {
         ASSERT_EQ(0, ::chmod(QFile::encodeName(readOnly).constData(), 0555));
@@ -49,7 +49,7 @@ protected:
         for (const QString &one : all)
             ASSERT_EQ(0, ::chown(QFile::encodeName(one).constData(), OrdinaryUser, OrdinaryUser));
     }
-    /// A user with a stored folder keeps it, and gets none.
+    /// A user with a stored folder keeps it and gets no new one.
     void expectNothingGiven(const QString &storeInForce, const QByteArray &content)
     {
         put(storeInForce, content);

@@ -6,7 +6,7 @@
 
 namespace {
 
-using clsTold = std::pair<std::string, std::string>; // the words, and the better text
+using clsTold = std::pair<std::string, std::string>; // the message, and the suggested text
 
 const clsTold Nothing;
 

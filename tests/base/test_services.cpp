@@ -111,7 +111,7 @@ TEST(GetResourceData, IsReadOnceAndKept)
 {
     const QString name = QStringLiteral("xmlZR3Form");
     const QString group = QStringLiteral("VELMORZR3XML");
-    // The same text object and not an equal one: the second call read nothing.
+    // The same text object, not just an equal one: the second call reads nothing.
     EXPECT_EQ(GetResourceData(name, group).constData(), GetResourceData(name, group).constData());
 }
 

@@ -5,12 +5,12 @@
 
 namespace {
 
-/// One report of long work, and what the bar is told of it.
+/// One progress report, and what it draws in the bar.
 struct clsReport {
     int value;
     int maximum;
     bool inverted;
-    int drawn; ///< NotDrawn where the bar isn't told
+    int drawn; ///< NotDrawn if the bar is not updated
 };
 
 constexpr int NotDrawn = -1;
@@ -51,7 +51,7 @@ INSTANTIATE_TEST_SUITE_P(Reports, SetProgress, testing::Values(
     clsReport {599,  600, false,      599},
     clsReport {  2,  601, false, NotDrawn},
     clsReport {600,  601, false,      600},
-    // What is left decides, not what was done.
+    // The remaining steps decide, not those done.
     clsReport {  0,  700, true,  NotDrawn},
     clsReport {100,  700, true,       600},
     clsReport {600,  700, true,  NotDrawn},

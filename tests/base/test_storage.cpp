@@ -117,7 +117,7 @@ TEST_F(Registry, ADeletedValueReadsAsEmpty)
     DeleteRegKey(Name);
     EXPECT_EQ(QString(), ReadRegKey(Name));
     EXPECT_FALSE(bytesOf(store).contains("/srv/own"));
-    DeleteRegKey(Name); // there is none any more
+    DeleteRegKey(Name); // it no longer exists
     EXPECT_TRUE(user.messages.empty());
 }
 
@@ -132,7 +132,7 @@ TEST_F(Registry, ADeletedMachineWideValueIsHiddenAndNotTouched)
 
 TEST_F(Registry, AFailureShowsTheBoxOfItsOperation)
 {
-    make(QStringLiteral("config/Velmor/ZR3.conf")); // a folder in the store's place
+    make(QStringLiteral("config/Velmor/ZR3.conf")); // a folder in place of the store
     EXPECT_EQ(QString(), ReadRegKey(Name));
     expectOneBox("Registry Key", box("reading", "75 - Path/File access error"));
     user.messages.clear();
@@ -145,7 +145,7 @@ TEST_F(Registry, AFailureShowsTheBoxOfItsOperation)
 
 TEST_F(Registry, AStoreThatCanNotBeWrittenShowsTheBox)
 {
-    put(path("config"), QByteArray()); // a file where the folder should be
+    put(path("config"), QByteArray()); // a file in place of the folder
     WriteRegKey(Name, QStringLiteral("/srv"));
     expectOneBox("Registry Key", box("writing to", "75 - Path/File access error"));
 }

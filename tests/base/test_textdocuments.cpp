@@ -1,4 +1,4 @@
-// A claim's file read and written, and what a failure or an end at any step leaves of it.
+// Reading and writing a claim's file, and the state that a failure or an end at each step leaves.
 
 #include "base/clsFolderLock.h"
 #include "base/clsWriteLock.h"
@@ -29,7 +29,7 @@ struct Step {
     bool operator==(const Step &) const = default;
 };
 
-/// The kernel itself refuses to let a file grow beyond so many bytes, first with a short write, then with an error.
+/// Makes the kernel limit the size of a file, first with a short write, then with an error.
 class clsFileSizeLimit {
 public:
     explicit clsFileSizeLimit(rlim_t bytes)
@@ -52,7 +52,7 @@ private:
 
 class TextDocuments : public clsTextDocumentsTest {
 protected:
-    /// The steps of writing `next` over the file as it stands.
+    /// The steps of writing `text` over the existing file.
     std::vector<Step> stepsOfWriting(const QString &text)
     {
         std::vector<Step> steps;
@@ -65,7 +65,7 @@ protected:
         return steps;
     }
 
-    /// Lets a write pass in several parts, so that there is a moment in the midst of it.
+    /// Splits a write into several parts, so that there is a moment in the middle of it.
     static clsFileFault shortWrite(clsFileStep step)
     {
         clsFileFault fault;
@@ -145,7 +145,7 @@ TEST_F(TextDocuments, TheStepsComeInTheOrderThatGuardsTheContent)
     const QString here = folder.path();
     const std::vector<Step> expected = {
         {Inspect, claim},
-        // the copy, complete and on the disk
+        // the copy, complete and synced to the disk
         {OpenToRead, claim},
         {Inspect, claim},
         {OpenToWrite, side},
@@ -163,7 +163,7 @@ TEST_F(TextDocuments, TheStepsComeInTheOrderThatGuardsTheContent)
         {Inspect, claim},
         {Truncate, claim},
         {Close, claim},
-        // the text, on the disk
+        // the text, synced to the disk
         {OpenToWrite, claim},
         {Inspect, claim},
         {Write, claim},
@@ -173,7 +173,7 @@ TEST_F(TextDocuments, TheStepsComeInTheOrderThatGuardsTheContent)
         {SyncFile, claim},
         {Close, claim},
         {SyncFolder, here},
-        // the copy goes
+        // the copy is deleted
         {Inspect, side},
         {Delete, side},
     };
@@ -255,7 +255,7 @@ TEST_F(TextDocuments, ATornDocumentDoesNotTakeThePlaceOfItsWholeSideFile)
 TEST_F(TextDocuments, AWholeDocumentTakesThePlaceOfAnOlderSideFile)
 {
     const QByteArray whole = QByteArrayLiteral("<a>the last one</a>\r\n");
-    // Left by a crash after the write was through, and by one in the midst of the copy.
+    // Left by a crash after the write was complete, and by one in the middle of the copy.
     for (const char *left : {"<a>the one before the last</a>", "<a>the last", ""}) {
         startWith(whole);
         put(side, left);
@@ -304,7 +304,7 @@ TEST_F(TextDocuments, AWriteThatTakesTheTurnFromAnotherProgramSaysSo)
 
 TEST_F(TextDocuments, AProgramThatHasLostItsTurnWritesAnew)
 {
-    // The step before which another program takes the turn away; it ends by the time that this one goes on.
+    // Another program takes the turn before this step, and finishes before this program continues.
     for (const clsFileStep before : {clsFileStep::Truncate, clsFileStep::SyncFile, clsFileStep::Delete}) {
         startWith(old);
         bool come = false;
@@ -407,7 +407,7 @@ TEST_F(TextDocuments, AFileThatChangesWhileItIsReadIsReadAgain)
 {
     const QByteArray before = QByteArrayLiteral("<a>1</a><!--") + QByteArray(1000, 'x') + "--></a>";
     const QByteArray after = QByteArray(before).replace('1', '2').replace('x', 'y');
-    // Between two parts of the first look, and between that and the second.
+    // Between two parts of the first reading, and between the first reading and the second.
     for (const int change : {2, 5}) {
         startWith(before);
         int reads = 0;

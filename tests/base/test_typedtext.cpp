@@ -31,13 +31,13 @@ std::string time(const char *text)
     return shown(TypedTime(QString::fromUtf8(text)));
 }
 
-/// A date as the box of a process in its year `lastYear` takes it.
+/// The shown form of a typed date, in a process whose last year is `lastYear`.
 std::string date(const char *text, int lastYear = 2023)
 {
     return shown(TypedDate(QString::fromUtf8(text), lastYear));
 }
 
-/// The memory after a date was typed.
+/// The remembered year after a date was typed.
 int yearAfter(const char *text, int lastYear)
 {
     TypedDate(QString::fromUtf8(text), lastYear);

@@ -1,4 +1,4 @@
-// Jobs that are done by processes of their own.
+// Jobs run by worker processes.
 
 #include "base/clsEndRequests.h"
 #include "base/clsWorkers.h"
@@ -18,7 +18,7 @@ namespace {
 
 class Workers : public testing::Test {
 protected:
-    /// Jobs whose result is their number and the process that has done them.
+    /// Jobs whose result is their number and the process that ran them.
     clsWorkers::Row row(qsizetype jobs, int atATime)
     {
         return {.jobs = jobs,
@@ -87,7 +87,7 @@ TEST_F(Workers, AProcessThatDiesCostsOneJob)
         EXPECT_EQ(job == 4 || job == 9, m_taken[job].contains("lost")) << job;
     EXPECT_EQ("4 lost 9", m_taken[4]);
     EXPECT_EQ("9 lost 0", m_taken[9]);
-    std::sort(m_swept.begin(), m_swept.end()); // which is seen first is chance
+    std::sort(m_swept.begin(), m_swept.end()); // their order is random
     EXPECT_EQ(QList<qsizetype>({4, 9}), m_swept);
 }
 
@@ -133,7 +133,7 @@ TEST_F(Workers, EndWithinASecondWhereTheProgramIsAskedTo)
 {
     clsWorkers::Row jobs = row(100, 2);
     jobs.work = [](qsizetype) {
-        // One that does not listen.
+        // A worker that ignores the signal.
         std::signal(SIGTERM, SIG_IGN);
         ::sleep(60);
         return QByteArray();

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Files are compiled together only where none of them can tell."""
+"""Files are compiled together only where this makes no difference to any of them."""
 
 import os
 import sys

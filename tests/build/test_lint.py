@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""What ./lint says of sources with a fault in them."""
+"""What ./lint reports of faulty sources."""
 
 import os
 import subprocess
@@ -18,7 +18,7 @@ class Lint(unittest.TestCase):
         self.folder = Path(folder.name)
 
     def findings(self, script, **sources):
-        """What a script finds in sources, whose names have __ for / and end in the letter of their kind."""
+        """What a script finds in sources, named with __ for / and ending in the letter of their kind."""
         names = []
         for name, code in sources.items():
             path = name.replace("__", "/").replace("_h", ".h").replace("_cpp", ".cpp")

@@ -12,8 +12,8 @@
 
 #include <QStringList>
 
-/// A test of what is done with the current claim: fresh preferences in a database folder of its own, a list of what
-/// reaches the window, and no claim left behind.
+/// Base of tests of commands on the current claim: fresh preferences in a temporary database folder, a record of calls
+/// to the window, and no claim left open afterwards.
 class clsDocumentTest : public clsShellTest {
 protected:
     void SetUp() override
@@ -39,7 +39,7 @@ protected:
         clsShellTest::TearDown();
     }
 
-    /// A copy of a sample claim that a test may change.
+    /// A copy of a sample claim that the test may change.
     QString claimFrom(const char *sample, const char *name = "claims/Smith.zr3") const
     {
         QFile::remove(path(name));
@@ -47,7 +47,7 @@ protected:
         QFile::setPermissions(path(name), QFile::ReadOwner | QFile::WriteOwner);
         return path(name);
     }
-    /// The same, as this program saved it there: opened again it is clean.
+    /// The same, saved there by this program, so that it is clean when it is opened again.
     QString savedClaim(const char *name = "claims/Smith.zr3")
     {
         OpenFormFile(claimFrom("housing-typical.zr3", name));
@@ -59,7 +59,7 @@ protected:
     }
     static void change() { Form->Notes = Form->Notes() + QStringLiteral("!"); }
 
-    /// The claim in a file, as text; the clean text of a claim is what lies there.
+    /// The text of the claim in a file; for a clean claim it equals the clean text.
     static QString textOf(const QString &file) { return QString::fromLatin1(bytesOf(file)); }
 
     struct Box {

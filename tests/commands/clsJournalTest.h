@@ -5,7 +5,7 @@
 
 #include <sys/stat.h>
 
-/// A test of the journal: it is kept from the start, and what a program that was killed leaves can be looked at.
+/// Base of tests of the journal: it runs from the start, and what a killed program leaves can be inspected.
 class clsJournalTest : public clsDocumentTest {
 protected:
     void SetUp() override
@@ -23,7 +23,7 @@ protected:
     {
         Journal().begin({[this] { ++steps; }, [this] { return typed; }});
     }
-    /// What the system does with a program that is killed: the lock is gone, all else stays.
+    /// What a kill leaves: the lock is released, everything else stays.
     void kill()
     {
         Journal().end();

@@ -22,7 +22,7 @@ protected:
         Preferences->AutoBackupPath = path("backups");
     }
     QString log() const { return path("program/Logs/15-11-2026.txt"); }
-    /// The messages of the log without their times.
+    /// The log's messages without their times.
     QStringList logged() const
     {
         QStringList lines = textOf(log()).split(QStringLiteral("\r\n"), Qt::SkipEmptyParts);

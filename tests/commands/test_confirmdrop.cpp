@@ -1,4 +1,4 @@
-// Work that counts as saved and is not on the disk, when another claim is to take its place.
+// Work that counts as saved but is not on the disk, when another claim is about to replace it.
 
 #include "tests/commands/clsDocumentTest.h"
 
@@ -13,7 +13,7 @@ protected:
         clsDocumentTest::SetUp();
         SetClock([] { return QDateTime(QDate(2026, 11, 21), QTime(14, 3, 22)); });
     }
-    /// A changed claim whose folder was on a drive that has been pulled out, and a save that failed for that.
+    /// A changed claim whose folder was on a drive that has been removed, and a save that failed because of that.
     QString saveOnRemovedDrive()
     {
         const QString file = savedClaim();
@@ -32,7 +32,7 @@ protected:
             QStringLiteral("A copy of your claim, %1, is in:\r\n\r\n").arg(QString::fromLatin1(why)) + copy}});
         EXPECT_EQ(work, textOf(copy));
     }
-    /// The box that says that no place took the copy.
+    /// The box that says that the copy could not be written anywhere.
     Box nowhere() const
     {
         return {QStringLiteral("Velmor ZR3"),

@@ -1,4 +1,4 @@
-// The recovery copy of the open claim: when there is one, what it holds, and when it goes.
+// The recovery copy of the open claim: when it exists, what it contains, and when it is deleted.
 
 #include "base/mdCodePage.h"
 #include "formdata/mdRunStep.h"

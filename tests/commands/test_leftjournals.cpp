@@ -1,4 +1,4 @@
-// What an earlier run has left: which journals are offered, and how one is opened and discarded.
+// Journals left by an earlier run: which are offered, and how one is opened and discarded.
 
 #include "base/clsHeldFile.h"
 #include "base/mdCodePage.h"
@@ -203,7 +203,7 @@ TEST_F(LeftJournals, ThatCannotBeSetAsideKeepNoOtherFromBeingOffered)
 {
     changedClaim();
     kill();
-    // Before any other name.
+    // Sorts before any other name.
     const QString broken = path("state/Velmor/Journal/!.journal");
     put(broken, "nonsense");
     FileSystem().faultPoint = [](clsFileStep step, const QString &) {

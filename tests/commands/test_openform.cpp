@@ -1,4 +1,4 @@
-// Opening a claim: the question before, the dialog, older and newer claims, and files that are none.
+// Opening a claim: the question before, the dialog, older and newer claims, and files that are not claims.
 
 #include "base/clsQuietUserInterface.h"
 #include "base/mdGetVersionInfo.h"
@@ -16,7 +16,7 @@ const QString NoClaim = QStringLiteral(
 
 class OpenForm : public clsDocumentTest {
 protected:
-    /// A file whose version is replaced.
+    /// A file with its version replaced.
     QString claimOfVersion(const QByteArray &version)
     {
         const QString file = savedClaim();
@@ -83,7 +83,7 @@ TEST_F(OpenForm, TheStopwatchStandsBeforeTheClaimBeforeIsGone)
 
 namespace {
 
-/// Looks at the claim while the user waits for its opening and reads about it.
+/// Inspects the claim while it is being opened and the user reads messages about it.
 class clsOnlooker final : public clsQuietUserInterface {
 public:
     int looks = 0, needingRecovery = 0;

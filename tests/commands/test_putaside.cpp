@@ -1,4 +1,4 @@
-// What is kept in the state folder of findings that are no mistakes.
+// The state folder's record of findings that are not mistakes.
 
 #include "base/mdStateFile.h"
 #include "base/mdStateFolder.h"

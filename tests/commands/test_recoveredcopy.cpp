@@ -1,4 +1,4 @@
-// The copy of a claim that would be lost at the end of the program, and the box that tells of it.
+// The copy of a claim that would be lost when the program ends, and the box that reports it.
 
 #include "base/mdDatabasePath.h"
 #include "commands/mdLossCause.h"
@@ -119,7 +119,7 @@ TEST_F(RecoveredCopy, IsNotWrittenWhereTheFileHasTheVeryContent)
     const QString file = savedClaim();
     change();
     EXPECT_EQ(clsLossCause::UnsavedChanges, FormLossCause());
-    // As a backup writes it, where the folder of backups is that of the claim.
+    // As a backup does if the backup folder is the claim's folder.
     EXPECT_TRUE(Form->SaveXML(file));
     EXPECT_TRUE(FormIsDirty());
     EXPECT_EQ(clsLossCause::None, WriteRecoveredCopy().cause);
@@ -135,7 +135,7 @@ TEST_F(RecoveredCopy, IsNotWrittenWhereOnlyThePathIsAnother)
     EXPECT_EQ(QString(), WriteRecoveredCopy().path);
     change();
     EXPECT_EQ(clsLossCause::UnsavedChanges, FormLossCause());
-    // Without its file, the open claim is all that there is.
+    // Without its file, the open claim is the only copy.
     OpenFormFile(path("claims/Smith 2.zr3"));
     QFile::remove(path("claims/Smith 2.zr3"));
     EXPECT_EQ(clsLossCause::UnsavedChanges, FormLossCause());
@@ -148,7 +148,7 @@ TEST_F(RecoveredCopy, IsNotWrittenWhereTheSavedFileHasAnotherNameNow)
     SaveForm(false);
     ASSERT_TRUE(QFile::rename(file, path("claims/Smith v. Jones.ZR3")));
     EXPECT_EQ(clsLossCause::None, WriteRecoveredCopy().cause);
-    // A side file is no claim that the user could open.
+    // The user could not open a side file as a claim.
     ASSERT_TRUE(QFile::rename(path("claims/Smith v. Jones.ZR3"), path("claims/Smith.zr3a")));
     EXPECT_EQ(clsLossCause::FileMissing, FormLossCause());
     ASSERT_TRUE(QFile::copy(mdSamplePath(QStringLiteral("empty.zr3")), path("claims/Other.zr3")));
@@ -221,7 +221,7 @@ TEST_F(RecoveredCopy, IsWrittenOnceForTheSameText)
     EXPECT_EQ(1, QDir(recovered("")).entryList(QDir::Files).size());
     change();
     EXPECT_EQ(recovered("Smith 2026-11-21 14.03.25.zr3"), WriteRecoveredCopy().path);
-    // One that is gone, or no longer what was written, is no copy.
+    // A copy that no longer exists, or has other content, doesn't count.
     put(recovered("Smith 2026-11-21 14.03.25.zr3"), "another");
     EXPECT_EQ(recovered("Smith 2026-11-21 14.03.25 (2).zr3"), WriteRecoveredCopy().path);
     QFile::remove(recovered("Smith 2026-11-21 14.03.25 (2).zr3"));
@@ -277,7 +277,7 @@ TEST_F(RecoveredCopy, GoesToTheUsersOwnFolderWhereTheStoreCanNotBeRead)
     changedClaim();
     QDir(path("program/Databases")).removeRecursively();
     QFile::remove(path("config/Velmor/ZR3.conf"));
-    make(QStringLiteral("config/Velmor/ZR3.conf")); // a folder in the store's place
+    make(QStringLiteral("config/Velmor/ZR3.conf")); // a folder in place of the store
     EXPECT_EQ(fallback("Smith 2026-11-21 14.03.22.zr3"), WriteRecoveredCopy().path);
     EXPECT_TRUE(user.messages.empty());
 }
@@ -348,7 +348,7 @@ TEST_F(RecoveredCopy, ALinkOfAnotherUsersLeadsNowhere)
     changedClaim();
     QDir(path("program/Databases")).removeRecursively();
     make(QStringLiteral("trap"));
-    // In the folder's place, above it, and behind a link of the user's own.
+    // In place of the folder, above it, and behind a link of the user's own.
     const std::pair<const char *, const char *> places[]
         = {{"state/Velmor", ""}, {"foreign", "foreign/deep"}, {"foreign", "own"}};
     for (const auto &[foreign, state] : places) {

@@ -1,4 +1,4 @@
-// What needs no window of how the program starts and ends.
+// The parts of the program's start and end that need no window.
 
 #include "base/mdCommandLine.h"
 #include "base/mdEndSignals.h"
@@ -167,7 +167,7 @@ protected:
         m_application.reset();
         clsDocumentTest::TearDown();
     }
-    /// Lets the event loop run until a condition holds; false after a long while.
+    /// Runs the event loop until a condition holds; false after a timeout.
     template <class Condition> static bool waitFor(Condition condition)
     {
         for (int i = 0; i < 500 && !condition(); ++i) {

@@ -9,7 +9,8 @@
 
 #include <gtest/gtest.h>
 
-/// A screen with whatever boxes a test puts on it, a plain text box before them, and Save and Cancel behind them.
+/// Base of tests of boxes: a screen with the test's boxes, a plain text box before them, and Save and Cancel after
+/// them.
 class BoxWindow : public testing::Test {
 protected:
     template <class Box> Box *add(const char *name)
@@ -20,7 +21,7 @@ protected:
         return box;
     }
 
-    /// Shows the screen as the user has it in front.
+    /// Shows and activates the screen.
     void show()
     {
         cmdSave.setDefault(true);
@@ -47,9 +48,9 @@ protected:
         inner(box)->setFocus(Qt::TabFocusReason);
         QTest::keyClicks(inner(box), QString::fromUtf8(text));
     }
-    /// Goes to the plain text box, if the present one lets go.
+    /// Moves to the plain text box, if the current box allows it.
     void leave() { txtOther.setFocus(Qt::TabFocusReason); }
-    /// Types a value into a box and leaves it; the text that it then has.
+    /// Types a value into a box and leaves it; returns the resulting text.
     std::string typed(QWidget *box, const char *text)
     {
         type(box, text);

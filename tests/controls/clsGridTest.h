@@ -34,7 +34,7 @@ protected:
         window.resize(500, 300);
         window.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-        // Whatever the claim itself reported.
+        // Forget messages that creating the claim caused.
         user.progress.clear();
         user.progressCleared = 0;
     }
@@ -69,7 +69,7 @@ protected:
             texts << model()->index(row - 1, number).data().toString();
         return texts;
     }
-    /// What a cell says to a reader of the screen.
+    /// The text that a screen reader gets for a cell.
     QString describes(int row, int number) const
     {
         return model()->index(row - 1, number - 1).data(Qt::AccessibleTextRole).toString();

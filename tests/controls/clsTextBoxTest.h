@@ -11,7 +11,7 @@
 #include <QTest>
 #include <QVBoxLayout>
 
-/// A window with one text box, shown and active, and a button to which the focus can go.
+/// A shown and active window with one text box, and a button that can take the focus.
 class clsTextBoxTest : public clsReplacementsTest {
 protected:
     void SetUp() override
@@ -33,7 +33,7 @@ protected:
         window.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     }
-    /// Shows the box and puts the caret behind its text.
+    /// Shows the box with the caret at the end of its text.
     void enter()
     {
         show();

@@ -172,7 +172,7 @@ TEST_F(AllPurposeBox, TheCaretCountsALineBreakAsTwo)
     box->setSelStart(4);
     type(QStringLiteral("x"));
     EXPECT_EQ(QStringLiteral("ab\r\nxcd\r\ne"), box->Text());
-    // Within a break and beyond the text, the nearest place before.
+    // Inside a break and beyond the text, the nearest position before.
     box->setSelStart(3);
     EXPECT_EQ(2, box->SelStart());
     box->setSelStart(99);
@@ -239,7 +239,7 @@ TEST_F(AllPurposeBox, ARewriteLeavesCharactersOfTwoHalvesWhole)
     QString written;
     QObject::connect(editor()->document(), &QTextDocument::contentsChange,
         [&](int from, int, int added) { written = editor()->document()->toRawText().mid(from, added); });
-    // The two begin with the same half, and the next two end with the same one.
+    // The surrogate pairs of the two begin with the same half, and those of the next two end with the same one.
     for (const char *next : {"a\U0001f601b", "a\U0001f201b"}) {
         text->rewriteText(QString::fromUtf8(next));
         EXPECT_EQ(QString::fromUtf8(next), text->Text());
@@ -372,7 +372,7 @@ TEST_F(AllPurposeBox, ItsTextStandsWhereThatOfTheOtherBoxesStands)
     const auto ink = [](QWidget &whole) {
         const QImage image = whole.grab().toImage();
         QRect result;
-        // Inside the edges.
+        // Within the edges.
         for (int y = 4; y < image.height() - 4; ++y)
             for (int x = 4; x < 60; ++x)
                 if (image.pixelColor(x, y).lightness() < 128)
@@ -386,7 +386,7 @@ TEST_F(AllPurposeBox, ItsTextStandsWhereThatOfTheOtherBoxesStands)
     ASSERT_EQ(box->height(), date->height());
     ASSERT_FALSE(ink(*box).isEmpty());
     EXPECT_EQ(ink(*date), ink(*box));
-    // A box of several lines begins at the same place.
+    // The text of a multi-line box starts at the same place.
     box->setMultiLine(true);
     box->resize(box->sizeHint());
     QCoreApplication::processEvents();

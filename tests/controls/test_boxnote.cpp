@@ -149,7 +149,7 @@ TEST_F(BoxNotes, TakeNoNoticeOfTheirBoxOnceTheyAreGone)
     show();
     typed(box, "1,250");
     oBoxNote::Clear(*box);
-    // Before the note itself is deleted.
+    // Before the deferred deletion of the note.
     box->resize(box->size() + QSize(1, 0));
     QResizeEvent wider(screen.size(), screen.size());
     QCoreApplication::sendEvent(&screen, &wider);

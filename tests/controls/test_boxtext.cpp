@@ -1,4 +1,4 @@
-// What a text box may hold.
+// Which characters a text box accepts.
 
 #include "controls/mdBoxText.h"
 #include "tests/support/mdTestPrinting.h"

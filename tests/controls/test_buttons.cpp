@@ -22,13 +22,13 @@
 
 namespace {
 
-/// The colour in the middle of the left part of a widget's visible face, free of its text.
+/// The colour in the middle of the left part of a widget's visible face, clear of its text.
 QColor faceOf(QWidget &widget)
 {
     return widget.grab().toImage().pixelColor(Theme::RingRoom + 6, widget.height() / 2);
 }
 
-/// A shown dialogue with a box to hold the focus and two buttons, Save being the default one.
+/// A shown dialogue with a box that takes the focus and two buttons, Save being the default.
 struct Dialogue : QDialog {
     Dialogue()
     {
@@ -145,7 +145,7 @@ TEST(CustomButton, AnswersItsMnemonic)
     dialogue.box->setFocus();
     const QSignalSpy cancel(dialogue.cancel, &oCustomButton::Click);
     QTest::keyClick(dialogue.box, Qt::Key_N, Qt::AltModifier);
-    // A mnemonic shows the button held down for a moment.
+    // A mnemonic shows the button pressed for a moment.
     EXPECT_TRUE(QTest::qWaitFor([&] { return cancel.count() == 1; }));
     EXPECT_EQ(QStringLiteral("Cancel"), dialogue.cancel->Caption());
 }

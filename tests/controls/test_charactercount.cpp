@@ -1,4 +1,4 @@
-// The count beside a text box: number, colour and words.
+// The count beside a text box: number, colour and text.
 
 #include "controls/clsCharacterCount.h"
 #include "controls/mdTheme.h"

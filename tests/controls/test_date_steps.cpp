@@ -7,7 +7,7 @@ class DateSteps : public BoxWindow {
 protected:
     DateSteps() { show(); }
 
-    /// What stands in the box after a text was typed and a key pressed so many times.
+    /// The text of the box after typing a text and pressing a key a number of times.
     QString stepped(const char *text, Qt::Key key, int times = 1)
     {
         type(&box, text);

@@ -34,7 +34,7 @@ protected:
         return found ? found->text() : QStringLiteral("(none)");
     }
     void second() { QMetaObject::invokeMethod(footer->findChild<QTimer *>(QStringLiteral("tmrUpdate")), "timeout"); }
-    /// How many dots of a colour the progress shows.
+    /// The number of pixels of a colour in the progress bar.
     int dots(const QColor &colour) const
     {
         const QImage image = footer->ProgressBar()->grab().toImage();
@@ -180,7 +180,7 @@ TEST_F(FooterBar, FollowsTheDesktopsFontInAllItsParts)
     large.setPointSizeF(2 * desktop.pointSizeF());
     QApplication::setFont(large);
     QCoreApplication::processEvents();
-    const oFooterBar fresh; // as the whole would be in a program started with that font
+    const oFooterBar fresh; // as in a program started with that font
     EXPECT_EQ(fresh.minimumSize(), footer->minimumSize());
     const QList<QWidget *> expected = fresh.findChildren<QWidget *>();
     const QList<QWidget *> parts = footer->findChildren<QWidget *>();

@@ -19,7 +19,7 @@ using testing::ElementsAre;
 
 namespace {
 
-/// The events of a frame in the order in which they came.
+/// The events of a frame, in their order.
 std::vector<std::string> eventsOf(const oFrame &frame, const std::function<void()> &doing)
 {
     std::vector<std::string> events;
@@ -49,7 +49,7 @@ struct Pages : oContentSwitcher {
     }
     oFrame *frame(int page) const { return findChildren<oFrame *>()[page - 1]; }
     QWidget *caption(int page) const { return frame(page)->captionBar(); }
-    /// The pages whose contents can be seen.
+    /// The pages whose contents are visible.
     std::vector<int> visible() const
     {
         std::vector<int> result;
@@ -216,7 +216,7 @@ TEST(Frame, TheLetterOfACaptionIsUnderlinedWhileAltIsHeldOfAPageToo)
             for (int x = 0; x < plain.width(); ++x)
                 if (plain.pixel(x, y) != held.pixel(x, y))
                     changed |= QRect(x, y, 1, 1);
-        // A line as long as the letter is wide, and nothing else.
+        // Only a line as long as the letter is wide.
         EXPECT_EQ(1, changed.height()) << page;
         EXPECT_GE(changed.width(), 5) << page;
         EXPECT_LE(changed.width(), 11) << page;

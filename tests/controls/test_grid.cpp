@@ -1,4 +1,4 @@
-// Lists of items in an `oSGrid`: rows, order, selection and what the grid tells its screen.
+// Lists of items in an `oSGrid`: rows, order, selection and what the grid reports to its screen.
 
 #include "tests/controls/clsGridTest.h"
 #include "tests/support/mdTestPaths.h"
@@ -17,7 +17,7 @@ TEST_F(clsGrid, ShowsEachPropertyByTheCellRule)
     grid.AddColumn({.caption = "Enh", .width = 20, .property = "enhance"});
     draw();
     EXPECT_EQ(QStringList({"MO", "-", "\u2713"}), rowTexts(1));
-    // The rule goes by the text and not by the kind of the property.
+    // The rule depends on the text, not on the kind of the property.
     EXPECT_EQ(QStringList({"DVE", "\u2713", "\u2717"}), rowTexts(2));
     EXPECT_EQ("yes", model()->index(0, 2).data(Qt::AccessibleTextRole).toString());
     EXPECT_EQ("no", model()->index(1, 2).data(Qt::AccessibleTextRole).toString());
@@ -141,7 +141,7 @@ TEST_F(clsGrid, KeyColumnsSortAsTextWhateverTheirKindAndCase)
         addGroup(text);
     grid.AddColumn({.caption = "Ref", .width = 40, .property = "Reference", .sortKey = true, .sortKind = 100});
     draw();
-    // Equal keys keep the order of the items.
+    // Items with equal keys keep their order.
     EXPECT_EQ(QStringList({"10", "9", "A", "a", "b", "B"}), column(1));
 }
 
@@ -339,7 +339,7 @@ TEST_F(clsGrid, AHelperObjectGivesTheArgumentOfAPropertyThatTakesOne)
     addGroup("A");
     grid.AddColumn(
         {.caption = "Ref", .width = 40, .property = "Reference", .helper = &form, .helperProperty = "FormType"});
-    // No property of this list takes an argument: that it arrives is seen by its refusal.
+    // No property of this list takes an argument, so the error shows that the argument is passed on.
     EXPECT_EQ(clsRunTimeError::WrongNumberOfArguments, errorOf([&] { draw(); }));
     grid.ClearAll();
     grid.AddColumn({.caption = "Ref", .width = 40, .property = "Reference", .helper = &form});

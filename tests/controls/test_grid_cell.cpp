@@ -1,4 +1,4 @@
-// The cell of the selected row that Return acts on.
+// The cell of the selected row on which Return acts.
 
 #include "tests/controls/clsGridTest.h"
 
@@ -71,7 +71,7 @@ TEST_F(clsGridCellTest, ARedrawKeepsTheColumn)
     form.DeleteFeeEarnerGroup(1);
     grid.Redraw(true);
     EXPECT_EQ(QStringLiteral("1/4"), activated());
-    // New columns are gone to anew.
+    // New columns start from the first again.
     grid.Draw();
     EXPECT_EQ(QStringLiteral("1/1"), activated());
 }

@@ -44,7 +44,7 @@ TEST_F(clsGridInput, ADoubleClickActivatesTheRow)
     QSignalSpy activated(&grid, &oSGrid::RowActivated);
     QTest::mouseDClick(view()->viewport(), Qt::LeftButton, {}, middleOf(3, 3));
     ASSERT_EQ(1, activated.count());
-    // The hidden column counts.
+    // The hidden column counts too.
     EXPECT_EQ(QVariantList({3, 3, 3}), activated[0]);
     QTest::mouseDClick(view()->viewport(), Qt::RightButton, {}, middleOf(3, 3));
     QTest::mouseDClick(view()->viewport(), Qt::LeftButton, {}, QPoint(30, middleOf(4).y() + 100));
@@ -127,7 +127,7 @@ TEST_F(clsGridInput, ASelectionIsToldOnceWithItsItem)
     grid.SelectRow(3);
     grid.Redraw(true);
     EXPECT_EQ(1, changed.count());
-    // The row stays and another item stands in it.
+    // The same row now holds another item.
     form.FeeEarnerGroup(3)->OrderID = 9;
     grid.Redraw(true);
     ASSERT_EQ(2, changed.count());
@@ -153,7 +153,7 @@ TEST_F(clsGridInput, TheArrowsMoveTheRowAndWriteTheItems)
 {
     QSignalSpy selected(&grid, &oSGrid::SelectionChange);
     QTest::mouseClick(arrow("cmdDown"), Qt::LeftButton);
-    // The neighbour, which stands in the row for a moment, is never told as the selected item.
+    // The neighbour, which is in the row for a moment, is never reported as the selected item.
     EXPECT_EQ(QList<QVariantList>({{2, 3}}), QList<QVariantList>(selected));
     EXPECT_EQ(QStringList({"G1", "G3", "G2", "G4"}), column(1));
     EXPECT_EQ(QStringList({"1", "3", "2", "4"}), orders());
@@ -240,7 +240,7 @@ TEST_F(clsGridInput, WhatIsTypedWithoutAPauseIsToldAsOneText)
     QTest::keyClicks(view(), "g 3");
     ASSERT_TRUE(QTest::qWaitFor([&] { return typed.count() == 2; }));
     EXPECT_EQ("g 3", typed[1][0].toString());
-    // What was typed means what the screen makes of it.
+    // The screen interprets typed text; the grid itself does not move.
     EXPECT_EQ(2, grid.SelectedRow());
 }
 

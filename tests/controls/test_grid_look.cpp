@@ -1,4 +1,4 @@
-// Widths, heights, places and the frame of an `oSGrid`.
+// Widths, heights, positions and the frame of an `oSGrid`.
 
 #include "tests/controls/clsGridTest.h"
 
@@ -13,7 +13,7 @@ using clsGridLook = clsGridTest;
 
 namespace {
 
-/// The desktop's font at another size, for as long as this lives.
+/// Sets the desktop's font to another size for as long as this object lives.
 class clsDesktopFont {
 public:
     explicit clsDesktopFont(int points)
@@ -187,7 +187,7 @@ TEST_F(clsGridLook, TheFrameShowsTheFocusWithoutAShift)
 
 namespace {
 
-/// The rows of which the dot before the right end of that column is of that colour.
+/// The rows whose pixel near the right end of the column has this colour.
 std::vector<int> tintedRows(oGridView &view, int column, const QColor &colour)
 {
     const QImage picture = view.viewport()->grab().toImage();
@@ -221,7 +221,7 @@ TEST_F(clsGridLook, TheWholeRowUnderThePointerIsTintedAndNoOther)
     QTest::mouseMove(view()->viewport(), place);
     QCoreApplication::processEvents();
     expect(second, "pointed at");
-    // Qt goes on to take the cell for the one under the pointer; the grid's own row counts.
+    // Qt goes on to treat the cell as the one under the pointer; the grid's own row counts.
     QEvent left(QEvent::Leave);
     QCoreApplication::sendEvent(view()->viewport(), &left);
     expect(none, "left");

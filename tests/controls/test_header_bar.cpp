@@ -12,7 +12,7 @@
 
 namespace {
 
-/// A window of that size with a header at its top.
+/// A window of a given size with a header at its top.
 struct Window : QWidget {
     Window(int width, int height)
     {
@@ -71,7 +71,7 @@ TEST(HeaderBar, OnALowScreenTheSubCaptionStandsOnTheCaptionsLine)
     };
     // A low window on a high screen keeps its two lines.
     EXPECT_EQ(62 + 1, height());
-    // With a font of twice the size the same screen holds half as much.
+    // With a font of twice the size the same screen has room for half as much.
     QFont large = desktop;
     large.setPointSizeF(2 * desktop.pointSizeF());
     QApplication::setFont(large);

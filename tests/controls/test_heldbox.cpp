@@ -16,7 +16,7 @@
 
 namespace {
 
-/// A screen on which the user has just typed a date that there is not, and is still in the box.
+/// A screen on which the user has just typed a date that does not exist, and is still in the box.
 class HeldBox : public BoxWindow {
 protected:
     oDateBox *txtDate = add<oDateBox>("txtDate");
@@ -221,7 +221,7 @@ TEST_F(HeldBox, AnOpenMenuIsNoLeaving)
     menu.addAction(QStringLiteral("Paste"));
     QTimer::singleShot(0, &menu, &QMenu::close);
     menu.exec(screen.mapToGlobal(QPoint(1, 1)));
-    screen.activateWindow(); // nobody else does that on the offscreen platform
+    screen.activateWindow(); // the offscreen platform doesn't do this itself
     EXPECT_TRUE(QTest::qWaitFor([this] { return has(txtDate); }, 1000));
     EXPECT_TRUE(isWhite(txtDate));
 }

@@ -15,7 +15,7 @@ namespace {
 
 constexpr QColor Ink {0, 0, 0};
 
-/// White, of a size in logical pixels, at a scale.
+/// A white image of a size in logical pixels, at a scale.
 QImage paper(const QSize &size, double scale)
 {
     QImage result(size * scale, QImage::Format_RGB32);
@@ -24,7 +24,7 @@ QImage paper(const QSize &size, double scale)
     return result;
 }
 
-/// How many dots thick each line of a colour is, down the dots of a column.
+/// The thickness, in pixels, of each line of a colour down a column.
 std::vector<int> thicknesses(const QImage &picture, int column, const QColor &colour)
 {
     std::vector<int> result;

@@ -20,7 +20,7 @@ using UI = clsUserInterface;
 
 namespace {
 
-/// A shown box of one message; its timer is driven by hand.
+/// A shown box with one message; the test drives its timer.
 class Box {
 public:
     Box(UI::Buttons buttons, int timeout = 0, const QString &title = QStringLiteral("Save?"),
@@ -38,7 +38,7 @@ public:
     QLabel *message() const { return form.findChild<QLabel *>(QStringLiteral("lblMessage")); }
     void tick() const { EXPECT_TRUE(QMetaObject::invokeMethod(timer(), "timeout")); }
 
-    /// The captions of the visible buttons from left to right.
+    /// The captions of the visible buttons, from left to right.
     std::vector<std::string> captions() const
     {
         std::map<int, std::string> byPlace;

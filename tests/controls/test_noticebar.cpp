@@ -140,7 +140,7 @@ TEST_F(NoticeBar, ItsButtonsAnswerKeysAndMouse)
 
 TEST_F(NoticeBar, IsAnnouncedOnce)
 {
-    // The offscreen platform has no screen reader that could be asked.
+    // The offscreen platform has no screen reader, so the signal is checked instead.
     const QSignalSpy announced(bar, &oNoticeBar::Announced);
     const std::vector<clsNotice> one {notice(Sign::Warning, "Changed on disk")};
     bar->setNotices(one);

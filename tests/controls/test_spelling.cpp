@@ -26,7 +26,7 @@ QStringList wordsOf(const char *utf8)
     return words;
 }
 
-/// A dictionary of our own, so that the rules can be tested on every machine.
+/// A small dictionary of our own, so that the rules can be tested on every machine.
 class SpellingDictionary : public clsFolderTest {
 protected:
     void putDictionary(const QByteArray &encoding, const QByteArray &words)
@@ -40,7 +40,7 @@ protected:
     }
 };
 
-/// A checked box, with the dictionary of this machine.
+/// A box with spell checking, using this machine's dictionary.
 class Spelling : public clsTextBoxTest {
 protected:
     void SetUp() override
@@ -52,7 +52,7 @@ protected:
         box->setSpellCheck(true);
     }
 
-    /// The words that are underlined, once the pause is over.
+    /// The underlined words, after the pause.
     QStringList marked()
     {
         EXPECT_TRUE(QTest::qWaitFor([this] { return !highlighter() || !highlighter()->IsWaiting(); }));
@@ -130,7 +130,7 @@ TEST_F(SpellingDictionary, TheDictionaryIsReadInItsOwnLetters)
         EXPECT_TRUE(checker.IsCorrect(QString::fromUtf8("isn’t"))) << encoding;
         EXPECT_EQ(QStringList {QStringLiteral("the")}, checker.Suggestions(QStringLiteral("teh"), 1)) << encoding;
         EXPECT_EQ(QStringList {QString::fromUtf8("isn’t")}, checker.Suggestions(QString::fromUtf8("isn’r"), 1));
-        // Letters that the dictionary hasn't can't be judged.
+        // Words with letters that the dictionary lacks can't be judged.
         EXPECT_EQ(!isUtf8, checker.IsCorrect(QString::fromUtf8("жук"))) << encoding;
     }
 }
@@ -247,7 +247,7 @@ TEST_F(Spelling, UnderliningIsNoChange)
     EXPECT_EQ(2, marked().size());
     EXPECT_EQ(0, changes.count());
     EXPECT_FALSE(editor()->document()->isUndoAvailable());
-    // And it asks for no further check.
+    // Nor does it start another check.
     QTest::qWait(50);
     EXPECT_FALSE(highlighter()->IsWaiting());
 }

@@ -50,7 +50,7 @@ void turnWheel(QWidget &over, int steps)
     const QPointF place(5, 5);
     QWheelEvent event(place, over.mapToGlobal(place), QPoint(), QPoint(0, steps * 120), Qt::NoButton, Qt::NoModifier,
         Qt::NoScrollPhase, false);
-    // Only what seems to come from the desktop goes on to the parents.
+    // Only events that seem to come from the desktop are passed on to the parents.
     QSpontaneKeyEvent::setSpontaneous(&event);
     qApp->notify(&over, &event);
 }
@@ -192,7 +192,7 @@ TEST(Style, MnemonicsOfTheMenuBarAreUnderlinedWithTheOthers)
     window.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     box->setFocus();
-    // Without the tint of an entry that is chosen.
+    // Without the tint of a selected entry.
     const auto ink = [&] {
         const QImage picture = window.menuBar()->grab().toImage();
         std::vector<bool> result;
@@ -236,7 +236,7 @@ TEST(Style, ACaptionStaysWhereItIsWhenItsLetterIsUnderlined)
                 for (int x = 0; x < plain.width(); ++x)
                     if (plain.pixel(x, y) != marked.pixel(x, y))
                         changed |= QRect(x, y, 1, 1);
-            // A line as long as the letter is wide, and nothing else.
+            // Only a line as long as the letter is wide.
             EXPECT_EQ(1, changed.height()) << caption << wrapped;
             EXPECT_GE(changed.width(), 5) << caption << wrapped;
             EXPECT_LE(changed.width(), 11) << caption << wrapped;

@@ -17,7 +17,7 @@
 
 namespace {
 
-/// The tab rows of a window, between two things that take the focus.
+/// The tab rows of a window, between two widgets that take the focus.
 class TabBar : public testing::Test {
 protected:
     TabBar()
@@ -40,12 +40,12 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     }
 
-    /// The tab of an index, in the order of the row from left to right.
+    /// The tab at an index, counted from the left.
     oTabBarButton *tab(int index)
     {
         return bar.findChild<oTabBarButton *>(QStringLiteral("tbSection") + QString::number(index));
     }
-    /// The indices of the tabs that show as selected.
+    /// The indices of the tabs shown as selected.
     std::vector<int> marked()
     {
         std::vector<int> result;
@@ -227,7 +227,7 @@ TEST_F(TabBar, TheTabKeyFindsARowThatWasMadeThisMoment)
 {
     show();
     before.setFocus();
-    // No event is handled in between: on a busy machine both keys are waiting already.
+    // No event is handled in between: on a busy machine both keys are already queued.
     addFour();
     QTest::keyClick(&before, Qt::Key_Tab);
     EXPECT_EQ(tab(1), window.focusWidget());

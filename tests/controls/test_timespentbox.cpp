@@ -21,7 +21,7 @@ protected:
     }
     ~TheClock() override { Form.reset(); }
 
-    /// A minute goes by.
+    /// Lets a minute pass.
     void minute() { QMetaObject::invokeMethod(tmrTimer, "timeout"); }
 
     oTimeSpentBox *clock;

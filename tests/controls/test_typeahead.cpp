@@ -91,7 +91,7 @@ TEST_F(TypeAhead, DownOnATextThatNobodyTypedShowsAll)
     EXPECT_EQ(3, suggested().size());
     EXPECT_EQ(QStringLiteral("Trainee"), box.Text());
     QTest::keyClick(&popup(), Qt::Key_Escape);
-    // Typed on, the text counts again.
+    // After further typing the text counts again.
     QTest::keyClick(&box, Qt::Key_Backspace);
     popup().hide();
     QTest::keyClick(&box, Qt::Key_Down);

@@ -289,7 +289,7 @@ TEST_F(TypedBoxes, SoDoesADropAndTheMiddleButton)
     EXPECT_TRUE(drop.isAccepted());
     EXPECT_EQ(QStringLiteral("12"), inner(box)->text());
     if (!QApplication::clipboard()->supportsSelection())
-        return; // the button pastes on some desktops only
+        return; // middle-click pastes only on some desktops
     inner(box)->clear();
     QApplication::clipboard()->setText(QStringLiteral("\t34\n"), QClipboard::Selection);
     QTest::mouseClick(inner(box), Qt::MiddleButton);
@@ -373,7 +373,7 @@ TEST_F(TypedBoxes, OfTheDisabledOnesOnlyTheDateBoxLetsABadValueBe)
     amount->setText(QStringLiteral("much"));
     EXPECT_TRUE(isPink(amount));
     EXPECT_TRUE(txtOther.hasFocus());
-    // What can be seen: the paper of each left of its text, and the sign at the right end of the bad one.
+    // The visible result: the background to the left of the text, and the sign at the right end of the invalid box.
     const auto paper
         = [](QWidget *box) { return inner(box)->grab().toImage().pixelColor(4, inner(box)->height() / 2); };
     const auto hasSign = [](QWidget *box) {

@@ -3,8 +3,7 @@
 #include "costing/checking/mdCheckClaim.h"
 #include "tests/formdata/clsClaimTest.h"
 
-/// A claim in which nothing is to be found, until a test changes something. Whatever looks through it must leave it as
-/// it is.
+/// A claim without findings until a test changes something. The checks must leave it unchanged.
 class clsCheckTest : public clsClaimTest {
 protected:
     void SetUp() override
@@ -26,14 +25,14 @@ protected:
         added->dDate = QString::fromLatin1(date);
         return added;
     }
-    /// A disbursement without VAT, of which nothing is to be said; 10.00 needs no voucher.
+    /// A disbursement without VAT or findings; 10.00 needs no voucher.
     std::shared_ptr<clsZR3Disbursement> addSpent(const char *amount = "10.00", const char *vat = "0.00")
     {
         const auto added = claim.addDisbursement(amount, vat);
         form.SeparateCounselAndNonCounselDisbursements();
         return added;
     }
-    /// A fee of a counsel of the claim.
+    /// A counsel's fee.
     std::shared_ptr<clsZR3Disbursement> addFee(const char *amount = "100.00", const char *vat = "0.00")
     {
         if (form.CounselCollection().empty())
@@ -68,7 +67,7 @@ protected:
         another->Reference = QString::fromLatin1(reference);
         return claim.addFeeEarner(another, reference);
     }
-    /// What a file written by hand may hold.
+    /// Content that a hand-edited file may hold.
     static void setContent(const clsXMLRecord &record, const char *element, const char *content)
     {
         ASSERT_TRUE(record.XMLNode().child(element)) << element;
@@ -82,7 +81,7 @@ protected:
         EXPECT_EQ(before, form.XMLOutput());
         return findings;
     }
-    /// All findings: rule, level, screen, list, item and property, parted by bars.
+    /// All findings: rule, level, screen, list, item and property, separated by bars.
     QStringList all() const
     {
         QStringList result;
@@ -92,7 +91,7 @@ protected:
                           .join(u'|');
         return result;
     }
-    /// The findings of a rule, without its name.
+    /// The findings of a rule, without the rule's name.
     QStringList found(const char *rule) const
     {
         const QString begin = QString::fromLatin1(rule) + u'|';
@@ -102,7 +101,7 @@ protected:
                 result << finding.mid(begin.size());
         return result;
     }
-    /// What a rule says.
+    /// The sentences of a rule's findings.
     QStringList said(const char *rule) const
     {
         QStringList result;

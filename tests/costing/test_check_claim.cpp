@@ -39,7 +39,7 @@ TEST_F(CheckClaim, HasTheRulesInTheirOrder)
 
 TEST_F(CheckClaim, PutsTheFindingsInTheOrderOfRulesListsAndItems)
 {
-    // Created in another order than the user's.
+    // Created in an order that differs from the user's.
     item->OrderID = 3;
     addDated("00:00", "")->OrderID = 1;
     addDated("00:00", "03/06/25")->OrderID = 2;
@@ -103,7 +103,7 @@ TEST_F(CheckClaim, LooksThroughTheHearingsWithoutGivingThemAVAT)
 TEST_F(CheckClaim, LooksThroughTenThousandItems)
 {
     for (int n = 2; n <= 10'000; ++n) {
-        // A day of its own for each, so that nothing is double.
+        // Each has its own day, so that none is a duplicate.
         const auto added = claim.addItem(feeEarner, "01:00");
         added->dDate = QDate(1998, 1, 1).addDays(n).toString("dd/MM/yyyy"_q);
     }
@@ -111,7 +111,7 @@ TEST_F(CheckClaim, LooksThroughTenThousandItems)
     EXPECT_EQ(QStringList(), all());
     for (int n = 1; n <= 10'000; ++n)
         form.ScheduleOfTimeItem(n)->dDate = "03/06/25"_q;
-    // All of one day: each but the first is a double, and the day has ten thousand hours.
+    // All on one day: each but the first is a duplicate, and the day has ten thousand hours.
     EXPECT_EQ(9'999, found("double-entry").size());
     EXPECT_EQ(QStringList {"error|Schedule of Time|schedule|10000|TTime"_q}, found("day-hours"));
 }

@@ -1,4 +1,4 @@
-// Days: of work without one, of work that is not done yet, before the certificate and after the final work.
+// Dates of work: missing, in the future, before the certificate, and after the final work.
 
 #include "costing/checking/mdCheckWords.h"
 #include "tests/costing/clsCheckTest.h"
@@ -50,7 +50,7 @@ TEST_F(CheckDates, MissingOfCounselsFeesAndHearings)
     const auto fee = addFee();
     fee->DateOfWork = "31/12/29"_q;
     fee->Description = "Brief\r\nfee"_q;
-    addSpent()->DateOfWork = QString(); // no counsel's
+    addSpent()->DateOfWork = QString(); // not counsel's
     addHearing("");
     EXPECT_EQ(QStringList {"warning|Disbursements|disbursements|1|DateOfWork"_q}, found("date-missing"));
     EXPECT_EQ(

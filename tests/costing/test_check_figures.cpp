@@ -1,4 +1,4 @@
-// What can't be computed is found once, with the property that is to be put right.
+// A figure that can't be computed is found once, with the property to correct.
 
 #include "tests/costing/clsCheckTest.h"
 
@@ -62,7 +62,7 @@ TEST_F(CheckFigures, OfDisbursements)
     EXPECT_EQ(QStringList {"error|Disbursements|disbursements|1|Amount"_q}, figures());
     spent->Amount = "10.00"_q;
     EXPECT_EQ(QStringList {"error|Disbursements|disbursements|1|VAT"_q}, figures());
-    spent->VAT = QString(); // an empty one is no amount either
+    spent->VAT = QString(); // an empty one isn't an amount either
     EXPECT_EQ(QStringList {"error|Disbursements|disbursements|1|VAT"_q}, figures());
     spent->VAT = "1,000.00 "_q;
     EXPECT_EQ(QStringList(), figures());
@@ -76,11 +76,11 @@ TEST_F(CheckFigures, OfCounselsFeesOnThePageOfCounsel)
     EXPECT_EQ(QStringList {"error|Disbursements|disbursements|1|CounselUniqueID"_q}, figures());
     form.IncludePage4 = false;
     EXPECT_EQ(QStringList(), figures());
-    beClaim1A(); // there it is page 5
+    beClaim1A(); // page 5 on that form
     EXPECT_EQ(QStringList {"error|Disbursements|disbursements|1|CounselUniqueID"_q}, figures());
     form.IncludePage5 = false;
     EXPECT_EQ(QStringList(), figures());
-    fee->Amount = "ten"_q; // of an amount any page is the right one
+    fee->Amount = "ten"_q; // amounts are checked whatever the page
     EXPECT_EQ(QStringList {"error|Disbursements|disbursements|1|Amount"_q}, figures());
 }
 
@@ -107,7 +107,7 @@ TEST_F(CheckFigures, OfLettersAndCallsByKindAndLine)
     EXPECT_EQ(QStringList({"error|Communications|communications|0|Calls"_q,
                   "error|Communications|communications|0|LettersIn"_q}),
         figures());
-    // Three groups, of which the second's calls stand on line 2.
+    // Three groups; the second's calls are on line 2.
     group->CallsRate = "4.00"_q;
     group->LettersInRate = "2.00"_q;
     const auto another = addEarner("B");
@@ -168,6 +168,6 @@ TEST_F(CheckFigures, OfAClaimInWhichNothingCanBeLookedUp)
     EXPECT_EQ("error|Schedule of Time|schedule|2|"_q, figures().value(1));
     EXPECT_EQ("Fee earner group A: Order ID holds \"99999999999\", which is too large a number; put it right there."_q,
         said("figure").front());
-    form.ClientDetails.Surname = QString(); // the rest is looked through
+    form.ClientDetails.Surname = QString(); // the rest is still checked
     EXPECT_EQ(1, found("missing").size());
 }

@@ -18,7 +18,7 @@ TEST_F(CheckMoney, AnAmountOfNothing)
     EXPECT_EQ(QStringList {"error|Disbursements|disbursements|1|Amount"_q}, found("amount-zero"));
     EXPECT_EQ(QStringList {"Disbursement 1, Court fee, has an amount of 0.00: enter the amount, or delete it."_q},
         said("amount-zero"));
-    spent->Amount = "none"_q; // can't be computed, which is told once
+    spent->Amount = "none"_q; // can't be computed, which is another rule's finding
     EXPECT_EQ(QStringList(), found("amount-zero"));
     EXPECT_EQ(1, found("figure").size());
 }
@@ -34,7 +34,7 @@ TEST_F(CheckMoney, AnInvoiceWithCostsAndANetAmountOfNothing)
         EXPECT_EQ(one, found("amount-zero")) << property;
         cost.writeText("0.00"_q);
     }
-    invoice->TotalPrepCost = "a lot"_q; // counts as nothing
+    invoice->TotalPrepCost = "a lot"_q; // counts as zero
     EXPECT_EQ(QStringList(), found("amount-zero"));
     invoice->TotalPrepCost = "1.00"_q;
     invoice->VATAmount = "x"_q;
@@ -55,7 +55,7 @@ TEST_F(CheckMoney, ANetAmountThatIsNotTheSumOfTheCosts)
     EXPECT_EQ(QStringList {"Expert invoice 1, Surveyor, has a net amount of 99.99, but its costs add up to 100.00: "
                            "correct one of them."_q},
         said("net-differs"));
-    invoice->NetAmount = "0"_q; // another rule's
+    invoice->NetAmount = "0"_q; // another rule's finding
     EXPECT_EQ(QStringList(), found("net-differs"));
     invoice->NetAmount = "60.00"_q;
     invoice->OtherCosts = QString();
@@ -77,7 +77,7 @@ TEST_F(CheckMoney, AVATThatIsNotThatOfTheAmount)
     form.ExpertInvoice(1)->VATAmount = "20.0101"_q;
     EXPECT_EQ(2, found("vat-differs").size());
     EXPECT_EQ("warning|Disbursements|experts|1|VATAmount"_q, found("vat-differs").back());
-    spent->VAT = "0.00"_q; // many have none
+    spent->VAT = "0.00"_q; // many invoices have none
     form.ExpertInvoice(1)->VATAmount = "x"_q;
     EXPECT_EQ(QStringList(), found("vat-differs"));
 }
@@ -129,7 +129,7 @@ TEST_F(CheckMoney, SharesOfMoreThanTheWhole)
         QStringList {"The shares in the joint expert Surveyor add up to 100.01 %: correct them to 100 or less."_q},
         said("joint-shares"));
     share("Doctor", "66.67");
-    second->OrderID = 6; // behind the last of the doctor's
+    second->OrderID = 6; // after the last of the doctor's
     EXPECT_EQ(QStringList({"warning|Disbursements|joint|5|PercentApportioned"_q,
                   "warning|Disbursements|joint|6|PercentApportioned"_q}),
         found("joint-shares"));
@@ -143,7 +143,7 @@ TEST_F(CheckMoney, AmountsLoadedFromTheBill)
     auto &costs = form.ActualCostsIncurred;
     costs.PrivateLawPreviousClaimNo = true;
     costs.PrivateLawSettlementFeeNo = true;
-    // An hour at 40.00, and an advocate's at 50.00: the button gives 40.00.
+    // An hour at 40.00, and an hour of advocacy at 50.00: the button fills in 40.00.
     addDated("01:00", "02/06/25")->Advocacy = true;
     costs.CareAndSupervisionProfitCosts = "40.00"_q;
     costs.PrivateLawProfitCosts = "0.00"_q;
@@ -157,10 +157,10 @@ TEST_F(CheckMoney, AmountsLoadedFromTheBill)
     costs.CareAndSupervisionProfitCosts = "-0.01"_q;
     EXPECT_EQ(QStringList {"error|Actual Costs||0|CareAndSupervisionProfitCosts"_q}, found("load-negative"));
     EXPECT_EQ(2, found("load-stale").size());
-    costs.CareAndSupervisionProfitCosts = "minus one"_q; // counts as nothing
+    costs.CareAndSupervisionProfitCosts = "minus one"_q; // counts as zero
     EXPECT_EQ(QStringList(), found("load-negative"));
     EXPECT_EQ(1, found("load-stale").size());
-    item->TTime = QString(); // what the bill gives can't be told
+    item->TTime = QString(); // the amount of the bill can't be computed
     EXPECT_EQ(QStringList(), found("load-stale"));
     costs.CareAndSupervisionProfitCosts = "-1.00"_q;
     EXPECT_EQ(1, found("load-negative").size());
@@ -171,13 +171,13 @@ TEST_F(CheckMoney, AmountsLoadedFromTheBill)
 
 TEST_F(CheckMoney, TheCostsLimitOfClaim1)
 {
-    // 40.00 of the item, 50.00 of counsel: 90.00 together.
+    // 40.00 for the item and 50.00 for counsel: 90.00 together.
     addFee("50.00", "10.00");
     facts.CostsLimit = "100.01"_q;
     EXPECT_EQ(QStringList(), found("costs-limit"));
-    facts.CostsLimit = "100"_q; // nine tenths
+    facts.CostsLimit = "100"_q; // 90 per cent
     EXPECT_EQ(QStringList {"note|Costs Limit||0|"_q}, found("costs-limit"));
-    facts.CostsLimit = "90.00"_q; // at it
+    facts.CostsLimit = "90.00"_q; // equal to it
     EXPECT_EQ(QStringList {"note|Costs Limit||0|"_q}, found("costs-limit"));
     facts.CostsLimit = "89.99"_q;
     EXPECT_EQ(QStringList {"error|Costs Limit||0|"_q}, found("costs-limit"));
@@ -215,12 +215,12 @@ TEST_F(CheckCommunications, AThirdGroupIsNotBilled)
         QStringList {"Fee earner C: the letters in are not billed, because two groups before have taken both lines "
                      "of the form; give them to a fee earner of one of these."_q},
         said("group-not-billed"));
-    third->LettersOut = 1; // the first of that kind, which has lines to spare
+    third->LettersOut = 1; // the first of this kind, which still has free lines
     EXPECT_EQ(QStringList {"error|Communications|feeearners|3|LettersIn"_q}, found("group-not-billed"));
     feeEarner->LettersOut = 1;
     second->LettersOut = 1;
     EXPECT_EQ(QStringList {"error|Communications|feeearners|3|LettersOut"_q}, found("group-not-billed"));
-    second->Group()->LettersInRate = "0.00"_q; // takes no line, so that the third does
+    second->Group()->LettersInRate = "0.00"_q; // uses no line, so the third group gets one
     second->Group()->LettersOutRate = "0.00"_q;
     EXPECT_EQ(QStringList(), found("group-not-billed"));
     EXPECT_EQ(2, found("communications-rate-zero").size());
@@ -242,7 +242,7 @@ TEST_F(CheckCommunications, GroupsCountByTheirOrder)
 TEST_F(CheckCommunications, AKindWithoutARate)
 {
     group->CallsRate = "0.00"_q;
-    group->LettersOutRate = QString(); // no amount counts as nothing
+    group->LettersOutRate = QString(); // an empty rate counts as zero
     EXPECT_EQ(QStringList(), found("communications-rate-zero"));
     feeEarner->LettersOut = 1;
     feeEarner->Calls = 1;

@@ -1,4 +1,4 @@
-// Questions, reasons and what must be there, on the pages that print them; and what happens on the printed sheets.
+// Questions, reasons and required fields, on the pages that print them; and problems on the printed sheets.
 
 #include "tests/costing/clsCheckTest.h"
 
@@ -30,7 +30,7 @@ protected:
 struct clsQuestion {
     const char *screen;
     const char *question;
-    int claim1Page; ///< 0 where the form doesn't ask it
+    int claim1Page; ///< 0 if the form doesn't ask it
     int claim1APage;
 };
 
@@ -84,7 +84,7 @@ TEST_F(CheckPages, QuestionsThatAreAskedOfSomeClaimsOnly)
 {
     beClaim1A(); // without private law costs, counsel's fees and experts
     EXPECT_EQ(QStringList(), found("question-open"));
-    form.ActualCostsIncurred.PrivateLawProfitCosts = "none"_q; // counts as nothing
+    form.ActualCostsIncurred.PrivateLawProfitCosts = "none"_q; // counts as zero
     EXPECT_EQ(QStringList(), found("question-open"));
     form.ActualCostsIncurred.PrivateLawProfitCosts = "0.01"_q;
     EXPECT_EQ(2, found("question-open").size());
@@ -96,7 +96,7 @@ TEST_F(CheckPages, AQuestionWithATickThatIsNone)
     EXPECT_EQ(QStringList {"Wasted costs order: neither Yes nor No is ticked; tick one."_q}, said("question-open"));
     setContent(form.OutcomeOfCase, "wastedcostsorderno", "Perhaps");
     EXPECT_EQ(QStringList(), found("question-open"));
-    setContent(form.OutcomeOfCase, "wastedcostsorderno", "1"); // a number is a tick
+    setContent(form.OutcomeOfCase, "wastedcostsorderno", "1"); // a number counts as ticked
     EXPECT_EQ(QStringList(), found("question-open"));
 }
 
@@ -173,7 +173,7 @@ TEST_F(CheckPages, WhatMustBeThereAndIsNoDateOrNoEntry)
 {
     form.CaseInformation.DateOfFinalWorkDate = "soon"_q;
     EXPECT_EQ(QStringList {"error|Case Information||0|DateOfFinalWorkDate"_q}, found("missing"));
-    form.OutcomeOfCase.Result = 99; // an entry that there isn't, which is another rule's
+    form.OutcomeOfCase.Result = 99; // no such entry, which is another rule's finding
     setContent(form.OutcomeOfCase, "stageofcaseend", "99999999999");
     EXPECT_EQ(1, found("missing").size());
     EXPECT_EQ(2, found("figure").size());
@@ -189,7 +189,7 @@ TEST_F(CheckPages, APageOfWhichNobodyKnowsWhetherItIsPrinted)
 TEST_F(CheckPages, ReasonsForTheEnhancement)
 {
     group->Enhance = true;
-    EXPECT_EQ(QStringList(), found("enhancement-reasons")); // of nothing
+    EXPECT_EQ(QStringList(), found("enhancement-reasons")); // of zero
     group->EnhancementRate = "0.01"_q;
     EXPECT_EQ(QStringList {"error|Details of Work||0|DetailsOfEnhancement"_q}, found("enhancement-reasons"));
     EXPECT_EQ(QStringList {"Items are enhanced, the first of them item 1, but no reasons are given: say why."_q},
@@ -258,7 +258,7 @@ TEST_F(CheckPages, FurtherSheetsThatOverwriteEachOther)
     EXPECT_EQ(QStringList(), found("lost-sheets"));
     setContent(*form.Disbursement(1), "counsel", "False");
     form.SeparateCounselAndNonCounselDisbursements();
-    beClaim1A(); // there the sheets are numbered through
+    beClaim1A(); // its continuation sheets are numbered consecutively
     EXPECT_EQ(QStringList(), found("lost-sheets"));
 }
 

@@ -1,4 +1,4 @@
-// The schedule: no time, no rate, too much of a day, entered twice, long without a word.
+// The schedule: no time, no rate, too much in a day, entered twice, long without a description.
 
 #include "tests/costing/clsCheckTest.h"
 
@@ -16,7 +16,7 @@ TEST_F(CheckSchedule, NoTime)
     EXPECT_EQ(QStringList {"error|Schedule of Time|schedule|1|TTime"_q}, found("time-zero"));
     EXPECT_EQ(QStringList {"Item 1, 03/06/25, has a time of 00:00: enter the time, or delete the item."_q},
         said("time-zero"));
-    item->TTime = QString(); // can't be computed, which is another rule's
+    item->TTime = QString(); // can't be computed, which is another rule's finding
     EXPECT_EQ(QStringList(), found("time-zero"));
     item->TTime = "00:00"_q;
     beClaim1A();
@@ -26,7 +26,7 @@ TEST_F(CheckSchedule, NoTime)
 
 TEST_F(CheckSchedule, NoRateForWhatIsBilled)
 {
-    group->AdvocacyRate = "0.00"_q; // taken by no item
+    group->AdvocacyRate = "0.00"_q; // used by no item
     EXPECT_EQ(QStringList(), found("rate-zero"));
     const auto hearing = addDated("01:00", "02/06/25");
     hearing->Advocacy = true;
@@ -36,7 +36,7 @@ TEST_F(CheckSchedule, NoRateForWhatIsBilled)
     hearing->TTime = "00:00"_q;
     EXPECT_EQ(QStringList(), found("rate-zero"));
     hearing->TTime = "01:00"_q;
-    hearing->UseHourlyRate = true; // takes the hourly rate
+    hearing->UseHourlyRate = true; // uses the hourly rate
     EXPECT_EQ(QStringList(), found("rate-zero"));
     group->AdvocacyRate = "none"_q; // can't be computed
     hearing->UseHourlyRate = false;
@@ -53,7 +53,7 @@ TEST_F(CheckSchedule, NoRateOfSeveralGroupsByTheirOrder)
         added->dDate = "01/06/25"_q;
         added->field(QString::fromLatin1(tick))->writeBoolean(true);
     }
-    group->HourlyRate = "0.00004"_q; // nothing, at four decimals
+    group->HourlyRate = "0.00004"_q; // zero at four decimals
     EXPECT_EQ(QStringList({"error|Fee Earners / Rates|groups|1|HourlyRate"_q,
                   "error|Fee Earners / Rates|groups|2|CounselRate"_q,
                   "error|Fee Earners / Rates|groups|2|TravelAndWaitingRate"_q}),
@@ -123,7 +123,7 @@ TEST_F(CheckSchedule, EnteredTwice)
         EXPECT_EQ(QStringList(), found("double-entry")) << property;
         field.writeText(before);
     }
-    again->IncludeInEnhancements = true; // is not among what makes them differ
+    again->IncludeInEnhancements = true; // not compared
     EXPECT_EQ(1, found("double-entry").size());
 }
 

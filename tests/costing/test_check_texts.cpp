@@ -1,4 +1,4 @@
-// Question marks that stand for characters which a file can't hold.
+// Question marks that replace characters which the file format can't hold.
 
 #include "tests/costing/clsCheckTest.h"
 
@@ -77,7 +77,7 @@ TEST_F(CheckTexts, ReadsWhatAnEarlierProgramWroteWithoutEncoding)
     EXPECT_EQ(1, found("characters").size());
     setContent(form.ClientDetails, "surname", "M%3Fller");
     EXPECT_EQ(1, found("characters").size());
-    form.ClientDetails.XMLNode().remove_child("surname"); // a field that is gone
+    form.ClientDetails.XMLNode().remove_child("surname"); // a missing field
     form.SolicitorDetails.NameOfFirm = "a?b"_q;
     EXPECT_EQ(QStringList {"warning|Solicitor Details||0|NameOfFirm"_q}, found("characters"));
 }

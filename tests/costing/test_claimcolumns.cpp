@@ -1,4 +1,4 @@
-// What a list of claims tells of one.
+// The columns of a claim in a list of claims.
 
 #include "costing/clsBill.h"
 #include "costing/mdClaimColumns.h"
@@ -17,7 +17,7 @@ protected:
         addInvoice("200.00", "40.00");
     }
 
-    /// The amounts as texts, "-" where there is none and "!" where it can't be computed.
+    /// The amounts as texts, "-" if there is none and "!" if it can't be computed.
     static QStringList amountsOf(const clsClaimColumns &columns)
     {
         QStringList texts;
@@ -57,14 +57,14 @@ TEST_F(ClaimColumns, AreThoseOfClaim1A)
     addHearing()->VATForFAS = "2.00"_q; // 10.00
     const clsClaimColumns columns = mdClaimColumns(clsBill(form));
     EXPECT_EQ(QStringList({"40"_q, "210"_q, "10"_q, "52"_q, "312"_q, "120"_q, "432"_q}), amountsOf(columns));
-    // Without the work that is no advocacy.
+    // Only advocacy is billed.
     form.ExcludeNonAdvocacy = true;
     EXPECT_EQ(0, mdClaimColumns(clsBill(form)).items);
 }
 
 TEST_F(ClaimColumns, AreRoundedEachForItself)
 {
-    // 0.0025 and 0.0025: each to nothing, and together to a penny.
+    // 0.0025 and 0.0025: each rounds to zero, their sum to a penny.
     form.ScheduleOfTimeItem(1)->TTime = "00:00"_q;
     form.Disbursement(1)->Amount = "0.0025"_q;
     form.Disbursement(1)->VAT = "0.0025"_q;

@@ -1,4 +1,4 @@
-// The figures of the strip of totals, and how they come about.
+// The figures of the totals strip, and how they are worked out.
 
 #include "base/mdFormatMoney.h"
 #include "costing/checking/mdClaimTotals.h"
@@ -38,7 +38,7 @@ protected:
             words << inWords(total);
         return words;
     }
-    /// The steps of a figure, as text and value shown; the last is the figure itself.
+    /// The steps of a figure, as text and shown value; the last is the figure itself.
     QStringList why(const char *key) const
     {
         QStringList steps;
@@ -57,7 +57,7 @@ protected:
 
 TEST_F(ClaimTotals, OfClaim1)
 {
-    // VAT: 17.5 per cent of 141.33 are 24.73275, at four decimals 24.7328; and 1.75 and 175: 201.4828.
+    // VAT: 17.5 per cent of 141.33 is 24.73275, at four decimals 24.7328; with 1.75 and 175 it is 201.4828.
     const clsClaimTotals totals = mdClaimTotals(form);
     EXPECT_EQ(QStringList({"Schedule 133.33"_q, "Letters and calls 8.00"_q, "Experts 1,000.00"_q,
                   "Disbursements 10.00"_q, "VAT 201.48"_q, "Total 1,352.81"_q}),
@@ -122,7 +122,7 @@ TEST_F(ClaimTotals, SayHowTheyComeAbout)
     EXPECT_EQ(6, why("limit").size());
 }
 
-// Each figure's reasons end in it, whatever the claim.
+// For every claim, each figure equals the last step of its explanation.
 TEST_F(ClaimTotals, AreWhereTheirReasonsEnd)
 {
     for (const QString &name : QDir(mdSampleFolder()).entryList({"*.zr3"_q}, QDir::Files, QDir::Name)) {

@@ -14,7 +14,7 @@ constexpr Kind AllKinds[] = {Kind::Calls, Kind::LettersIn, Kind::LettersOut};
 
 class Communications : public clsClaimTest {
 protected:
-    /// A group with one fee earner that has so many of each kind.
+    /// A group with one fee earner who has these counts.
     clsTestClaim::Group addGroupWith(int calls, int lettersIn, int lettersOut)
     {
         const auto group = claim.addGroup();
@@ -40,7 +40,7 @@ TEST_F(Communications, ALineIsTheNthGroupByOrderWithBothACountAndARate)
     EXPECT_FALSE(CommsGroupAtLine(form, 3, Kind::Calls));
     EXPECT_EQ(none, CommsGroupAtLine(form, 1, Kind::LettersIn));
     EXPECT_EQ(unpaid, CommsGroupAtLine(form, 2, Kind::LettersOut));
-    // The order on the screen decides, not the place in the file.
+    // The order on the screen counts, not the position in the file.
     a->OrderID = 4;
     b->OrderID = 3;
     EXPECT_EQ(b, CommsGroupAtLine(form, 1, Kind::Calls));
@@ -153,7 +153,7 @@ TEST_F(Communications, TheShownRateIsToThePennyAndThePriceTakesTheWhole)
     addGroupWith(0, 0, 100)->LettersOutRate = "1.125"_q;
     EXPECT_EQ("1.13"_q, textOf(CommsRateAtLine(form, 1, Kind::LettersOut)));
     EXPECT_EQ("112.5"_q, textOf(CommsBasicAtLine(form, 1, Kind::LettersOut)));
-    // 3 at 1.125 are 3.375: the half goes away from zero.
+    // 3 at 1.125 is 3.375: half a penny is rounded away from zero.
     clsTestClaim other;
     const auto group = other.addGroup();
     group->LettersOutRate = "1.125"_q;
@@ -192,7 +192,7 @@ TEST_F(Communications, TheTotalTakesAllKindsAndBothLines)
 
 TEST_F(Communications, TheTotalIsRoundedOnceAtItsEnd)
 {
-    // Two lines of 0.335 uplift and 3.35 basic each: 3.685 and 3.685 are 7.37; rounded one by one they would be 7.38.
+    // Two lines of 0.335 uplift and 3.35 basic each: 3.685 and 3.685 are 7.37; rounded separately they would be 7.38.
     for (int i = 0; i < 2; ++i)
         addGroupWith(1, 0, 0)->CallsRate = "3.35"_q;
     form.Communications.EnhanceCalls = true;
@@ -207,7 +207,7 @@ TEST_F(Communications, CountsBeyondThirtyTwoBitsAreTheOverflowError)
     claim.addFeeEarner(group)->Calls = 2'000'000'000;
     EXPECT_EQ(Error::Overflow, errorOf([&] { CommsGroupAtLine(form, 1, Kind::Calls); }));
     EXPECT_EQ(Error::Overflow, errorOf([&] { CommsTotal(form); }));
-    // The count is read beside the rate, also where there is none.
+    // The count is read even if there is no rate.
     group->CallsRate = "0"_q;
     EXPECT_EQ(Error::Overflow, errorOf([&] { CommsGroupAtLine(form, 1, Kind::Calls); }));
 }
@@ -229,7 +229,7 @@ TEST_F(Communications, ANegativeCountTakesNoLine)
 
 TEST_F(Communications, AClaimOfManyGroupsAndFeeEarnersComesToItsTotal)
 {
-    // Each group looking through all fee earners would take the better part of an hour.
+    // If each group searched all fee earners, this would take nearly an hour.
     constexpr int Count = 45'000;
     QByteArray groups;
     QByteArray feeEarners;

@@ -1,4 +1,4 @@
-// What differs between two claims, and what it is worth.
+// The differences between two claims, and their value.
 
 #include "costing/comparing/mdChangesReport.h"
 #include "costing/comparing/mdPairFiles.h"
@@ -62,7 +62,7 @@ TEST_F(Comparing, EachElementOfTheClaimAndItsSectionsIsCompared)
         = {"path"_q, "version"_q, "exportpath"_q, "timespent"_q, "idcounter"_q, "defaultfeeearnerlistindex"_q};
     const QStringList lists = {"feeearnergroups"_q, "feeearners"_q, "counsel"_q, "enhancements"_q, "fasitems"_q,
         "scheduleoftimeitems"_q, "expertinvoices"_q, "jointinstructions"_q, "disbursements"_q};
-    // Elements of the templates that no part of the program reads.
+    // Elements of the templates that the program doesn't read.
     const QStringList unread = {"counselunderfgf"_q, "familyproceedings"_q};
     QStringList changed;
     const auto change = [&](pugi::xml_node leaf) {
@@ -129,7 +129,7 @@ TEST_F(Comparing, AnItemThatIsChangedIsKnownByItsDateAndFeeEarner)
     now.ScheduleOfTimeItem(2)->TTime = "01:45"_q;
     EXPECT_EQ(QStringList({"schedule|changed|2|2|45|TTime"_q}), items());
     EXPECT_EQ("180|225"_q, total("ScheduleTotal"));
-    // Without its date it is another one.
+    // With a different date it is another item.
     now.ScheduleOfTimeItem(2)->dDate = "05/06/25"_q;
     ASSERT_EQ(2, items().size());
     EXPECT_TRUE(items()[0].startsWith("schedule|removed|2|0|-60|"_q));
@@ -138,7 +138,7 @@ TEST_F(Comparing, AnItemThatIsChangedIsKnownByItsDateAndFeeEarner)
 
 TEST_F(Comparing, EqualItemsAreMatchedBeforeThoseOfOneDay)
 {
-    // Two of one day: the second is as it was, so that the first is the one that was changed.
+    // Two items on one day: the second is unchanged, so the first is the changed one.
     form.ScheduleOfTimeItem(2)->dDate = "01/06/25"_q;
     form.ScheduleOfTimeItem(2)->Description = "Kept"_q;
     now.ScheduleOfTimeItem(2)->dDate = "01/06/25"_q;
@@ -154,12 +154,12 @@ TEST_F(Comparing, SeveralOfOneKeyAreMatchedInTheirOrder)
     for (clsZR3Form *of : {&form, &now})
         for (int n = 1; n <= 3; ++n)
             of->ScheduleOfTimeItem(n)->dDate = "01/06/25"_q;
-    // Of the three, which were equal, the orders are turned round and two times are changed.
+    // Three equal items: their order is reversed and two times are changed.
     now.ScheduleOfTimeItem(1)->OrderID = 3;
     now.ScheduleOfTimeItem(3)->OrderID = 1;
     now.ScheduleOfTimeItem(1)->TTime = "03:00"_q;
     now.ScheduleOfTimeItem(2)->TTime = "02:00"_q;
-    // The new one of order 1 is still equal to the old one of order 1; the others follow in their order.
+    // The new item of order 1 still equals the old item of order 1; the others are matched in their order.
     EXPECT_EQ(QStringList({"schedule|changed|2|2|60|TTime"_q, "schedule|changed|3|3|120|TTime"_q}), items());
 }
 

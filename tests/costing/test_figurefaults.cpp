@@ -1,4 +1,4 @@
-// What is wrong where a figure can't be computed: the property, and the words that the user is told.
+// The reason why a figure can't be computed: the property, and the sentence for the user.
 
 #include "costing/mdCheckForBlankItems.h"
 #include "costing/mdFigureFaults.h"
@@ -23,7 +23,7 @@ protected:
         item = claim.addItem(feeEarner, "01:00");
     }
 
-    /// What is wrong with something: the property, a bar, the sentence, for each fault.
+    /// The faults of a record, each as its property, a bar and the sentence.
     template <class... Of> QStringList wrong(const Of &...of) const
     {
         QStringList result;
@@ -33,7 +33,7 @@ protected:
         }
         return result;
     }
-    /// The cause of the error that a total ends in.
+    /// The cause of the error that a total throws.
     template <class Compute> static QString causeOf(Compute compute)
     {
         try {
@@ -63,8 +63,8 @@ QStringList one(const char *fault)
 TEST_F(FigureFaults, AnItemThatCanBePricedHasNone)
 {
     EXPECT_EQ(QStringList(), wrong(*item));
-    group->AdvocacyRate = QString(); // no advocacy
-    group->EnhancementRate = QString(); // and nothing is enhanced
+    group->AdvocacyRate = QString(); // not advocacy
+    group->EnhancementRate = QString(); // not enhanced
     item->EnhancementUniqueID = "ID99"_q;
     EXPECT_EQ(QStringList(), wrong(*item));
 }
@@ -135,7 +135,7 @@ TEST_F(FigureFaults, OfTheRatesThatTheItemTakes)
         wrong(*item));
     EXPECT_EQ(
         "AdvocacyRate|Fee earner group A: Advocacy Rate holds \"much\", which is not an amount"_q, wrong(*group).at(1));
-    // A group without a reference is known by its place.
+    // A group without a reference is named by its position.
     group->Reference = QString();
     EXPECT_EQ("|Schedule item 1: the advocacy rate of group 1 is not an amount"_q, wrong(*item).first());
 }
@@ -165,7 +165,7 @@ TEST_F(FigureFaults, StandInTheOrderInWhichTheyAreMended)
     for (const clsFigureFault &fault : mdFigureFaults(form, *item))
         properties << fault.property;
     EXPECT_EQ(QStringList({"FeeEarnerUniqueID"_q, "TTime"_q, "EnhancementUniqueID"_q}), properties);
-    // The error decides which of them is told.
+    // The error determines which of them is reported.
     EXPECT_EQ("Schedule item 1 has no time"_q, causeOf([&] { ColumnTimeTotal(form, 0); }));
     EXPECT_EQ(
         "Schedule item 1 names a fee earner that no longer exists"_q, causeOf([&] { ColumnClaimTotal(form, 0); }));
@@ -222,7 +222,7 @@ TEST_F(FigureFaults, OfLettersAndCalls)
     EXPECT_EQ(QStringList(), wrong(1, Kind::Calls));
     feeEarner->Calls = 3;
     EXPECT_EQ(QStringList(), wrong(1, Kind::Calls));
-    group->CallsRate = "4.05x"_q; // enough to stand on a line, and not to be priced
+    group->CallsRate = "4.05x"_q; // enough for a line, but not for a price
     EXPECT_EQ(one("Calls|Communications, line 1 of the calls: the calls rate of group A is not an amount"),
         wrong(1, Kind::Calls));
     EXPECT_EQ(QStringList(), wrong(2, Kind::Calls));

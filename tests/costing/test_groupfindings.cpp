@@ -1,4 +1,4 @@
-// How findings are shown: by groups, the gravest about one thing, and many notes of a rule in one line.
+// How findings are shown: grouped, only the most serious for each field, and many notes of a rule in one line.
 
 #include "costing/checking/clsFindingItems.h"
 #include "costing/checking/mdGroupFindings.h"

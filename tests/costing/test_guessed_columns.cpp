@@ -1,4 +1,4 @@
-// What a column means, by what stands in its cells.
+// Recognising columns by their content.
 
 #include "costing/tables/clsImportedRows.h"
 #include "tests/formdata/clsClaimTest.h"
@@ -13,7 +13,7 @@ protected:
         claim.addFeeEarner(group, "AB");
         claim.addFeeEarner(group, "CD");
     }
-    /// The names of what the columns mean, and after a bar why there are no rows.
+    /// The recognised columns, and after a bar the error, if there are no rows.
     QString meanings(const QString &text) const
     {
         clsImportedRows rows(form, mdScheduleImport(), text);

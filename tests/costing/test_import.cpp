@@ -1,4 +1,4 @@
-// Items of a table, before and after they are stored.
+// Items from a table, before and after they are stored.
 
 #include "costing/comparing/mdCompareClaims.h"
 #include "costing/tables/clsImportedRows.h"
@@ -31,7 +31,7 @@ protected:
     {
         return clsImportedRows(form, mdScheduleImport(), text, names);
     }
-    /// A table of one row, whose columns are the fee earner, the code, the time and another one.
+    /// A table of one row, with the columns fee earner, code, time and one more.
     clsImportedRow rowWith(const QString &column, const QString &cell) const
     {
         const clsImportedRows rows = read("feeearner\tcode\ttime\t%1\nAB\tACT\t1:00\t%2"_q.arg(column, cell));
@@ -42,13 +42,13 @@ protected:
     {
         return row.Cells.at(size_t(columnOf(QString::fromLatin1(column)))).Value;
     }
-    /// What the column of a row is read as, or after an exclamation mark why it isn't.
+    /// The value read from a column of a row, or after an exclamation mark why it can't be read.
     QString readAs(const char *column, const QString &cell) const
     {
         const clsImportedRow row = rowWith(QString::fromLatin1(column), cell);
         return row.isWrong() ? u'!' + row.reasons().join(u';') : valueOf(row, column);
     }
-    /// The same where the column is one of those that have to be there.
+    /// The same for one of the required columns.
     QString readInstead(const QString &line, const char *column) const
     {
         const clsImportedRows rows = read("feeearner;code;time\n"_q + line);
@@ -100,7 +100,7 @@ TEST_F(Import, ColumnsAreKnownByNamesPropertiesAndWhatIsSaid)
         {{"who"_q, "Fee Earner"_q}, {"ACTIVITY"_q, "code"_q}, {"hours"_q, "ttime"_q}});
     EXPECT_EQ(QString(), said.error());
     EXPECT_FALSE(said.rows().front().isWrong());
-    // What was said goes before the column that bears the name.
+    // An explicit mapping takes precedence over a column of that name.
     EXPECT_EQ(QStringList {"Code"_q}, said.unknownColumns());
 }
 
@@ -112,7 +112,7 @@ TEST_F(Import, TablesThatLackSomething)
     EXPECT_EQ("Two columns of the table mean the same: time"_q, errorOf("feeearner,code,time,TTime\nAB,ACT,1,2"_q));
     EXPECT_EQ("The quotes that open in line 2 are not closed"_q, errorOf("feeearner,code,time\nAB,ACT,\"1:00"_q));
     EXPECT_TRUE(errorOf("feeearner,code,time\nAB,ACT,1"_q + QChar(u'\0')).startsWith("The table holds zero bytes"_q));
-    // A header alone is an empty table.
+    // A table with only a header is empty.
     EXPECT_EQ(QString(), errorOf("feeearner,code,time"_q));
     EXPECT_EQ(0, read("feeearner,code,time"_q).appendTo(form));
 }
@@ -134,7 +134,7 @@ TEST_F(Import, FeeEarnersAndEnhancements)
     EXPECT_EQ(first, readInstead("AB;ACT;1:00"_q, "feeearner"));
     EXPECT_EQ(first, readInstead(" AB ;ACT;1:00"_q, "feeearner"));
     EXPECT_EQ(form.FeeEarner(2)->UniqueID(), readInstead("\"Day, J\";ACT;1:00"_q, "feeearner"));
-    // Of two with one reference it is the first in order, not the first in the file.
+    // Of two with the same reference, the first in order is used, not the first in the file.
     form.FeeEarner(1)->OrderID = 3;
     form.FeeEarner(3)->OrderID = 1;
     EXPECT_EQ(form.FeeEarner(3)->UniqueID(), readInstead("AB;ACT;1:00"_q, "feeearner"));
@@ -245,7 +245,7 @@ TEST_F(Import, DoublesAreThoseThatTheClaimHadBefore)
     clsImportedRows rows = read(text);
     EXPECT_EQ(1, rows.rows()[0].DoubleOf);
     EXPECT_FALSE(rows.rows()[0].IsChosen);
-    // Rows that are equal among themselves all count.
+    // Rows that are equal to each other all count.
     EXPECT_EQ(0, rows.rows()[2].DoubleOf);
     EXPECT_EQ(2, rows.chosen());
     rows.chooseDoubles(true);
@@ -253,7 +253,7 @@ TEST_F(Import, DoublesAreThoseThatTheClaimHadBefore)
     rows.chooseDoubles(false);
     EXPECT_EQ(2, rows.appendTo(form));
     EXPECT_EQ(0, read(text).chosen());
-    // In everything: one tick makes another item.
+    // In every field: one different tick makes another item.
     form.ScheduleOfTimeItem(1)->Waiting = true;
     EXPECT_EQ(0, read(text).rows()[0].DoubleOf);
 }
@@ -329,7 +329,7 @@ TEST_F(Import, WhatTheTableOfAClaimHoldsComesBackTheSame)
             for (const clsFieldChange &field : change.Fields)
                 ADD_FAILURE() << change.OldItem << ' ' << change.NewItem << field.Property.toStdString() << ": "
                               << field.Old.toStdString() << " -> " << field.New.toStdString();
-        // And into the claim itself it brings nothing new.
+        // Importing into the claim itself adds nothing.
         EXPECT_EQ(0, clsImportedRows(full, mdScheduleImport(), mdTextOfTable(csv)).chosen()) << name.toStdString();
     }
     EXPECT_GT(items, 400);

@@ -1,4 +1,4 @@
-// Disbursements, letters and calls of a table.
+// Disbursements, letters and calls from a table.
 
 #include "costing/comparing/mdCompareClaims.h"
 #include "costing/tables/clsImportedRows.h"
@@ -56,7 +56,7 @@ TEST_F(ImportDisbursements, AreStoredAsTheirBoxesReadThem)
         QStringList({fee->Description(), fee->Amount(), fee->VAT(), fee->DateOfWork()}).join(u'|'));
     EXPECT_FALSE(fee->Counsel());
     const auto brief = form.Disbursement(2);
-    EXPECT_TRUE(brief->Counsel()); // it names one
+    EXPECT_TRUE(brief->Counsel()); // it is assigned to a counsel
     EXPECT_EQ(form.Counsel(1)->UniqueID(), brief->CounselUniqueID());
     EXPECT_EQ(QString(), brief->DateOfWork());
     EXPECT_EQ(1u, form.CounselDisbursementsCollection().size());

@@ -1,4 +1,4 @@
-// Lists of a claim as tables.
+// A claim's lists as tables.
 
 #include "costing/tables/mdClaimTable.h"
 #include "costing/tables/mdCsv.h"
@@ -24,7 +24,7 @@ protected:
         EXPECT_TRUE(result) << name;
         return result.value_or(clsClaimTable());
     }
-    /// A row as one text, parted by bars.
+    /// A row as one text, separated by bars.
     QString row(const char *name, size_t place = 0) const
     {
         const clsClaimTable all = table(name);
@@ -119,7 +119,7 @@ TEST_F(Tables, FiguresThatFailStandAsTheirErrors)
     EXPECT_FALSE(all.causes.isEmpty());
     group->HourlyRate = "60.00"_q;
     EXPECT_EQ(QStringList({"60.00"_q, "!9"_q}), table("schedule").rows[1].mid(13));
-    // A fee earner that is gone is shown as it is stored.
+    // A missing fee earner is shown by the stored identity.
     form.ScheduleOfTimeItem(1)->FeeEarnerUniqueID = "ID99"_q;
     EXPECT_EQ("1|ID99||ACT||01:00|no|no|no|no|no|no||!91|!91"_q, row("schedule"));
 }
@@ -161,7 +161,7 @@ TEST_F(Tables, OtherListsHaveTheirProperties)
     EXPECT_EQ("1||Surveyor|no|0.00|0.00|0.00|0.00|0.00||100.00|0.00"_q, row("experts"));
     claim.addFASItem(2, "10.005", "0")->dDate = "03/06/25"_q;
     EXPECT_TRUE(row("fas").startsWith("1|03/06/2025|"_q));
-    // Half a penny goes away from zero; the VAT of a hearing may be missing.
+    // Half a penny is rounded away from zero; the VAT of a hearing may be missing.
     EXPECT_TRUE(row("fas").contains("|10.01|"_q)) << row("fas").toStdString();
     EXPECT_TRUE(row("fas").endsWith(u'|')) << row("fas").toStdString();
     EXPECT_FALSE(table("fas").hasFailures);
@@ -186,7 +186,7 @@ TEST_F(Tables, LettersAndCallsAreSixLines)
     EXPECT_EQ("0|1|4.00|3|12.00|0.00|12.00"_q, row("communications", 0));
     EXPECT_EQ("0|2|0.00||0.00|0.00|0.00"_q, row("communications", 1));
     EXPECT_EQ("2|1|5.00|2|10.00|0.00|10.00"_q, row("communications", 4));
-    group->CallsRate = "4x"_q; // above zero, and no amount
+    group->CallsRate = "4x"_q; // above zero, but not an amount
     EXPECT_EQ("0|1|!13|3|!13|0.00|!13"_q, row("communications", 0));
     EXPECT_TRUE(table("communications").hasFailures);
     EXPECT_EQ("2|1|5.00|2|10.00|0.00|10.00"_q, row("communications", 4));
@@ -195,7 +195,7 @@ TEST_F(Tables, LettersAndCallsAreSixLines)
 TEST_F(Tables, TheTotalsOfTheForm)
 {
     claim.addItem(feeEarner, "00:50");
-    form.AddFASItem()->VATForFAS = ""_q; // its total would write a nought into it
+    form.AddFASItem()->VATForFAS = ""_q; // computing its total would write a zero to it
     const clsClaimTable all = table("totals");
     EXPECT_EQ("key,value"_q, all.header.join(u','));
     EXPECT_EQ("ScheduleTotal,50.00"_q, all.rows.front().join(u','));

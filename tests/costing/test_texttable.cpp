@@ -1,11 +1,11 @@
-// Tables as they stand in a text, before anything in them means anything.
+// Splitting a text into a table, before its content is interpreted.
 
 #include "costing/tables/clsTextTable.h"
 #include "tests/formdata/clsTestClaim.h"
 
 namespace {
 
-/// A text table as rows of cells parted by bars.
+/// A text table as rows of cells separated by bars.
 QStringList cellsOf(const QString &text, QChar separator = u',')
 {
     const clsTextTable table = clsTextTable::read(text, separator);
@@ -27,7 +27,7 @@ TEST(TextTable, CellsQuotesAndLineEnds)
     EXPECT_EQ(QStringList({"1:1\r\n2|b"_q, "3:c"_q}), cellsOf("\"1\r\n2\",b\nc"_q));
     EXPECT_EQ(QStringList({"1:a\"b|cd"_q}), cellsOf("a\"b,\"c\"d"_q));
     EXPECT_EQ(QStringList({"1:a,b|c"_q}), cellsOf("a,b;c"_q, u';'));
-    // Lines without any text are none.
+    // Lines without any text are skipped.
     EXPECT_EQ(QStringList({"1:a"_q, "5:b"_q}), cellsOf("a\n\n,,\n  ,\nb\n\n"_q));
     EXPECT_EQ(
         QStringList({"1:a"_q, "2:b\n"_q, "!The quotes that open in line 2 are not closed"_q}), cellsOf("a\n\"b\n"_q));
@@ -57,6 +57,6 @@ TEST(TextTable, CodePages)
         mdTextOfTable("\xA3"
                       "1 \x96 \xE9"));
     EXPECT_EQ("aé"_q, mdTextOfTable("a\xE9"));
-    EXPECT_EQ("aÃ"_q, mdTextOfTable("a\xC3")); // the beginning of a sequence and no more
+    EXPECT_EQ("aÃ"_q, mdTextOfTable("a\xC3")); // only the beginning of a sequence
     EXPECT_EQ(QString(), mdTextOfTable(""));
 }

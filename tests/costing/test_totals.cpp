@@ -68,7 +68,7 @@ TEST_F(Totals, EachItemCountsInItsOwnColumn)
 
 TEST_F(Totals, TheTotalIsTheSumOfThePrintedItems)
 {
-    // 1 minute at 40.00 is 0.6667, printed 0.67; three of them are 2.01 and not the 2.00 of 3 minutes.
+    // 1 minute at 40.00 is 0.6667, printed 0.67; three of them are 2.01, not the 2.00 of 3 minutes.
     const auto feeEarner = claim.addFeeEarner(claim.addGroup());
     for (int i = 0; i < 3; ++i)
         claim.addItem(feeEarner, "00:01");
@@ -123,7 +123,7 @@ TEST_F(Totals, AnItemOfTheSchemeReplacesTheSchedulesAdvocacyOnClaim1A)
     EXPECT_EQ("11.255"_q, textOf(FASItemsTotal(form)));
     form.DeleteFASItem(1);
     EXPECT_EQ("50"_q, textOf(AdvocacyTotal(form)));
-    // However small it is, and though it be worth nothing.
+    // Even if it is worth nothing.
     claim.addFASItem(0, "0", "");
     EXPECT_EQ("0"_q, textOf(AdvocacyTotal(form)));
 }
@@ -133,7 +133,7 @@ TEST_F(Totals, ProfitCostsAreScheduleAndCommunications)
     const auto feeEarner = claim.addFeeEarner(claim.addGroup("100.10"));
     claim.addItem(feeEarner, "01:00");
     EXPECT_EQ("100.1"_q, textOf(ProfitCostsTotal(form)));
-    // 17.50 per cent of 100.10: the fourth decimal is kept.
+    // 17.50 per cent of 100.10, with its fourth decimal.
     EXPECT_EQ("17.5175"_q, textOf(PercentageCalculate(ProfitCostsTotal(form), form.VATRate())));
     feeEarner->LettersOut = 2;
     EXPECT_EQ("110.1"_q, textOf(ProfitCostsTotal(form)));
@@ -154,7 +154,7 @@ TEST_F(Totals, DisbursementsAreSummedExactlyByTheirDerivedCollections)
     claim.addDisbursement("1,000.50", "-3");
     claim.addDisbursement("20", "4", true);
     claim.addDisbursement("0.005", "0.001", true);
-    EXPECT_EQ(Money(), NonCounselDisbursementsAmountTotal(form)); // not parted yet
+    EXPECT_EQ(Money(), NonCounselDisbursementsAmountTotal(form)); // not separated yet
     form.SeparateCounselAndNonCounselDisbursements();
     EXPECT_EQ("1001.5001"_q, textOf(NonCounselDisbursementsAmountTotal(form)));
     EXPECT_EQ("-2.9998"_q, textOf(NonCounselDisbursementsVATTotal(form)));
@@ -204,7 +204,7 @@ TEST_F(Totals, AnItemThatCanNotBePricedStopsItsColumnAndTheTotalsAbove)
     EXPECT_EQ("01:00"_q, ColumnTimeTotal(form, 1)); // needs no price
     EXPECT_EQ(Error::ObjectNotSet, errorOf([&] { ScheduleTotal(form); }));
     EXPECT_EQ(Error::ObjectNotSet, errorOf([&] { ProfitCostsTotal(form); }));
-    EXPECT_EQ("0"_q, textOf(AdvocacyTotal(form))); // the item is no advocacy
+    EXPECT_EQ("0"_q, textOf(AdvocacyTotal(form))); // the item is not advocacy
 }
 
 TEST_F(Totals, AnItemThatIsNotBilledStopsNothing)
@@ -352,7 +352,7 @@ TEST_F(FASTotals, ABlankPaymentStopsTheTotal)
     EXPECT_EQ(Error::TypeMismatch, errorOf([&] { AdvocacyTotal(form); }));
 }
 
-// Sums and their first failing part
+// Sums, and the first part that fails
 
 TEST_F(Totals, ProfitCostsFailAsTheScheduleDoesBeforeTheCommunications)
 {

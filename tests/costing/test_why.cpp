@@ -1,4 +1,4 @@
-// How the figures of the bill come about, step by step.
+// How the figures of the bill are worked out, step by step.
 
 #include "costing/checking/mdWhy.h"
 #include "costing/mdBillFigures.h"
@@ -24,7 +24,7 @@ protected:
         item = claim.addItem(feeEarner, "03:20");
     }
 
-    /// The steps as sentence, bar, value. Asking leaves the claim as it is.
+    /// The steps, each as sentence, bar, value. Also checks that the claim is unchanged.
     QStringList steps(const char *kind, const char *which) const
     {
         const QString before = form.XMLOutput();
@@ -50,7 +50,7 @@ protected:
 
 TEST_F(Why, OfAnItem)
 {
-    // 3 1/3 hours at 50.00 are 166.67, rounded; 60 per cent of that 100.002; together 266.672, which becomes 266.67.
+    // 3 1/3 hours at 50.00 is 166.67, rounded; 60 per cent of that 100.002; together 266.672, which becomes 266.67.
     item->Advocacy = true;
     group->Enhance = true;
     group->EnhancementRate = "50.00"_q;
@@ -126,7 +126,7 @@ TEST_F(Why, OfAClaimInWhichNothingCanBeLookedUp)
 
 TEST_F(Why, OfALineOfLettersAndCalls)
 {
-    // 3 at 5.00 are 15; 12.5 per cent of that 1.875, 10 per cent 1.5; together 18.375.
+    // 3 at 5.00 is 15; 12.5 per cent of that is 1.875, 10 per cent 1.5; together 18.375.
     feeEarner->LettersOut = 3;
     group->EnhanceComms = true;
     group->EnhancementRate = "10"_q;
@@ -146,7 +146,7 @@ TEST_F(Why, OfALineOfLettersAndCalls)
 
 TEST_F(Why, OfAHearing)
 {
-    // 2 units at 90.59 are 181.18; a quarter of that 45.295; together 226.475.
+    // 2 units at 90.59 are 181.18; 25 per cent of that is 45.295; together 226.475.
     claim.addFASItem(2, "90.59", "25");
     EXPECT_EQ(QStringList({"Hearing units at their rate, 2 at 90.59.|181.18"_q, "Bolt-on of 25 %.|45.295"_q,
                   "Court bundle payment.|0"_q, "Settlement fee.|0"_q, "Exceptional travel.|0"_q, "Total.|226.475"_q}),
@@ -251,7 +251,7 @@ TEST_F(Why, EndsInTheErrorsOfTheTotals)
     }
 }
 
-// Each figure that the totals print has its reasons, which end in it.
+// Each figure of the totals equals the last step of its explanation.
 TEST_F(Why, EndsInTheFiguresOfTheTotals)
 {
     for (const QString &name : QDir(mdSampleFolder()).entryList({"*.zr3"_q}, QDir::Files, QDir::Name)) {

@@ -1,4 +1,4 @@
-"""Claims made for the tests: the fullest that the printed form holds, and one over in every grid and every text."""
+"""Generated claims: the fullest that the printed form holds, and one over in every grid and every text."""
 
 import itertools
 import xml.etree.ElementTree as ElementTree
@@ -9,7 +9,7 @@ from support import SAMPLES
 
 MILLIONS = "8888888.88"
 
-# The allowances of the texts, by their elements: those of both forms, and of each.
+# The allowances of the texts, by their elements: of both forms, and of each.
 ALLOWANCES = {
     "stagenumber": 40, "typeofcase": 40,
     "clientdetails/casereferencenumber": 30, "clientdetails/title": 7, "clientdetails/firstname": 7,
@@ -40,9 +40,9 @@ TICKS = ["", "previousadvice", "outcomeofcase", "counseloutstandingclaims", "det
 
 class Form(NamedTuple):
     """What a form prints."""
-    sample: str                 # a claim with nothing in it
+    sample: str                 # an empty claim
     allowances: dict
-    long_texts: dict            # texts that may go to a continuation sheet, and how much one such sheet takes
+    long_texts: dict            # texts that may go to a continuation sheet, and the length that one such sheet takes
     dates: list
     amounts: list
     ticks: list                 # sections
@@ -76,7 +76,7 @@ LETTERS = "NRTUDHGAEBKMPSWO"  # as wide as capitals are in running text: 6.9 pt 
 
 
 class Words:
-    """Capitals that are found again: no two words are alike."""
+    """Capitals that can be found again: no two words are alike."""
 
     def __init__(self):
         self._made = itertools.product(LETTERS, repeat=5)
@@ -90,7 +90,7 @@ class Words:
 
 
 def wide(length):
-    """Nothing is wider than this."""
+    """The widest text of this length."""
     text = ("WWWWW " * length)[:length]
     return text[:-1] + "W" if text.endswith(" ") else text
 
@@ -100,7 +100,7 @@ class Claim:
         self.root = ElementTree.parse(SAMPLES / f"{form.sample}.zr3").getroot()
         self.form = form
         self.text = text
-        self.typed = []  # what must be found on the printed pages
+        self.typed = []  # what the printed pages must contain
 
     def set(self, path, value):
         element = self.root.find(path)
@@ -144,10 +144,10 @@ class Claim:
             self.add("counsel", "counsel", uniqueid=f"C{n}", name=self.text(30), accountnumber=f"W88{n}W", vat="True")
 
     def add_items(self, count, note_lines=()):
-        """Items; the first ones have notes of that many lines."""
+        """Adds schedule items; the first ones have notes of the given numbers of lines."""
         notes = list(note_lines)
         for n in range(count):
-            # A word of 52 characters and one of 7 with the blank between them fill a line of 60.
+            # A word of 52 characters and one of 7, with a space between them, fill a line of 60.
             description = " ".join(self.text(59).replace(" ", "-") for _ in range(notes[n])) if n < len(notes) else ""
             self.add("scheduleoftimeitems", "scheduleoftimeitem", feeearneruniqueid=f"E{n % 2 + 1}", ddate="28/09/26",
                      code="AOT DPL HDI AOT AOT".split()[n % 5], description=description, ttime="88:59", advocacy="False",
@@ -176,13 +176,13 @@ class Claim:
             self.add("disbursements", "disbursement", counsel="False", counseluniqueid="", dateofwork="28/09/2026",
                      description=self.text(50), amount="888888.88", vat="88888.88")
 
-    # What a user may write at a hearing, the longest of each kind among them.
+    # Plausible entries for a hearing, including the longest of each kind.
     JUDGES = ("Lay Justices or Clerks", "Deputy District Judge", "Circuit judge", "High Court Judge")
     HEARINGS = ("FDR", "FHDRA", "Interim", "Hearing")
     DISTANCES = ("62 miles", "150 miles each way by train and car", "888 miles there and back")
 
     def add_hearings(self, count, bolt_ons, travels):
-        """Hearings; the first ones with a bolt-on's description, and with an exceptional travel."""
+        """Adds hearings; the first ones with a bolt-on description, and with exceptional travel."""
         for n in range(count):
             self.add("fasitems", "fasitem", ddate="28/09/26", levelofcourt=self.JUDGES[n % 4], fdr=self.HEARINGS[n % 4],
                      actualtimespent=1440, hearingunits=88, rateforunits="888.88", boltonclaimed="88.88",
@@ -197,7 +197,7 @@ class Claim:
 
 
 def full(form, text):
-    """Everything at its allowance and every grid full, so that but for the panel sheet each page is one sheet."""
+    """Everything at its allowance and every grid full, so that every page but the panel sheet is one sheet."""
     claim = Claim(form, text)
     claim.fill_texts()
     claim.add_people(6)
@@ -227,7 +227,7 @@ def over(form, text):
 
 
 def made(*texts):
-    """The claims that the tests make: by name "full", "over" and "wide" for Claim 1, and the same with "-1a"."""
+    """The generated claims: "full", "over" and "wide" for Claim 1, and the same with "-1a"."""
     for form, ending in ((CLAIM1, ""), (CLAIM1A, "-1a")):
         for name, make, text in (("full", full, Words), ("over", over, Words), ("wide", full, lambda: wide)):
             if name in texts:

@@ -1,9 +1,9 @@
-"""What the tests of finished documents share: the folders that they are told, exports, and skipping.
+"""Shared by the tests of finished documents: the folders passed to them, exports, and skipping.
 
     ZR3_TOOL       the headless program
     ZR3_TEMPLATES  the folder of the page templates
     ZR3_SAMPLES    the folder of the sample claims
-    ZR3_VALIDATOR  the document validator's command; where it can't be had, ZR3_VALIDATOR_MISSING says why
+    ZR3_VALIDATOR  the document validator's command; if it is not available, ZR3_VALIDATOR_MISSING says why
 """
 
 import json
@@ -15,7 +15,7 @@ import tempfile
 import unittest
 from pathlib import Path
 
-SKIPPED = 77  # what ctest knows as skipped
+SKIPPED = 77  # skipped, for ctest
 
 TOOL = os.environ.get("ZR3_TOOL", "")
 TEMPLATES = Path(os.environ.get("ZR3_TEMPLATES", ""))
@@ -25,21 +25,21 @@ ALL_SAMPLES = sorted(path.stem for path in SAMPLES.glob("*.zr3"))
 
 
 def work_folder():
-    """A folder that goes when the tests are done."""
+    """A folder that is deleted after the tests."""
     folder = tempfile.TemporaryDirectory()
     unittest.addModuleCleanup(folder.cleanup)
     return Path(folder.name)
 
 
 def need(*programs):
-    """Skips all tests of the module where a program is missing."""
+    """Skips all tests of the module if a program is missing."""
     for program in programs:
         if not shutil.which(program):
             raise unittest.SkipTest(f"there is no {program} on this machine")
 
 
 def export(claim, folder):
-    """The finished document of a claim; its sheets stay beside it in ~ZR3Temp."""
+    """Exports a claim and returns its document; its sheets stay beside it in ~ZR3Temp."""
     folder.mkdir(parents=True)
     subprocess.run([TOOL, "export", str(claim), str(folder), "--templates", str(TEMPLATES), "--keep-sheets", "--quiet"],
                    check=True)
@@ -59,7 +59,7 @@ def expectations(name):
 
 
 def main():
-    """Runs the tests of a file. Any that are skipped make the whole a skipped one, unless one has failed."""
+    """Runs the tests of a file. If any is skipped the whole counts as skipped, unless one has failed."""
     result = unittest.main(module="__main__", exit=False, verbosity=2).result
     if not result.wasSuccessful() or result.testsRun == 0 and not result.skipped:
         sys.exit(1)

@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Finished documents are sound inside: what no schema sees, and what makes a word processor ask for repair."""
+"""Finished documents are consistent: checks that no schema makes, of faults for which a word processor offers repair.
+"""
 
 import posixpath
 import re
@@ -56,7 +57,7 @@ class Document:
         self.body = self.trees[self.main].find(W + "body")
 
     def relationships(self, part):
-        """(id, type, target part, external) of a part; of the package itself for an empty name."""
+        """(id, type, target part, external) of a part's relationships; of the package's for an empty name."""
         folder, name = posixpath.split(part)
         tree = self.trees.get(posixpath.join(folder, "_rels", name + ".rels"))
         for relationship in [] if tree is None else tree:
@@ -204,7 +205,7 @@ class Stories(unittest.TestCase):
                                  len(support.expectations(name)["CombinedOrder"]))
 
     def test_every_typed_text_stands_in_the_document(self):
-        """Against what was worked out for the samples; line breaks within a text part it."""
+        """Compared with what was worked out for the samples; line breaks split a text."""
         for name in support.ALL_SAMPLES:
             expected = support.expectations(name)
             by_name = {sheet["Name"]: sheet for sheet in expected["Sheets"]}

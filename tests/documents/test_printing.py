@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Every finished document prints as it should: one page for each sheet, and on it all that was filled in."""
+"""Every finished document prints correctly: one page for each sheet, with everything that was filled in."""
 
 import re
 import subprocess
@@ -13,7 +13,7 @@ import support
 WORK = None
 PDFS = {}
 
-# How ticked and empty boxes come out as text.
+# Ticked and empty boxes in the extracted text.
 TICKED, EMPTY = "\uf0fe\u2611\u2612\u00fe", "\uf0a8\u2610\u00a8"
 
 
@@ -28,7 +28,7 @@ def setUpModule():
     printed.mkdir()
     for name, claim in made.items():
         (printed / f"{name}.doc").write_bytes(support.export(claim, WORK / name).read_bytes())
-    # One start of the word processor for all of them, in a profile of its own.
+    # The word processor is started once for all of them, with a profile of its own.
     subprocess.run(["soffice", "--headless", f"-env:UserInstallation={(WORK / 'profile').as_uri()}", "--convert-to", "pdf",
                     "--outdir", str(printed), *map(str, sorted(printed.glob("*.doc")))],
                    check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=240)
@@ -46,8 +46,9 @@ def pages(name):
 
 
 def sheets(name):
-    """The names of the sheets of an export in the order in which they were joined; only for those where no sheet was
-    made twice."""
+    """The names of the sheets of an export in the order in which they were joined; valid only if no sheet was written
+    twice.
+    """
     def key(path):
         return [int(number) for number in re.findall(r"\d+", path.stem)]
 
@@ -55,13 +56,13 @@ def sheets(name):
 
 
 def words(text):
-    """The words of a text; ticks and blanks of all kinds aside. Marks that found no placeholder stand side by side."""
+    """The words of a text, without ticks and spaces of any kind. Marks without a placeholder are adjacent."""
     text = text.replace(")(", ") (")
     return [word for word in re.split(r"[\s\u00a0\u000b]+", text) if word and not set(word) <= set(TICKED + EMPTY)]
 
 
 def typed_texts(sheet):
-    """Every text that was typed on a sheet, and how many boxes it has of each kind."""
+    """Every text that was typed on a sheet, and its number of boxes of each kind."""
     texts, ticked, empty = [], 0, 0
     marked = False
     for op in sheet["Ops"]:
@@ -80,7 +81,7 @@ def typed_texts(sheet):
 
 
 class Samples(unittest.TestCase):
-    """Against what was worked out for the samples independently of the program."""
+    """Compared with results worked out for the samples independently of the program."""
 
     maxDiff = None
 
@@ -104,7 +105,7 @@ class Samples(unittest.TestCase):
             for file, page in zip(expected["CombinedOrder"], pages(name), strict=True):
                 sheet = file.removesuffix(".doc")
                 number = sheet.split("(")[0]
-                # The first mark takes the placeholder beside the page's number.
+                # The first mark replaces the placeholder beside the page number.
                 mark = next((op[2].strip() for op in ops[sheet] if op[0] == "replace" and op[1] == "{or}"), "")
                 beside = rf"Page {number}" if number != "1" else r"\b1"
                 with self.subTest(claim=name, sheet=sheet):
@@ -137,7 +138,7 @@ class Samples(unittest.TestCase):
 class Fullest(unittest.TestCase):
     maxDiff = None
 
-    # The pages and the panel sheet; in the other claim every grid and every long text has gone over.
+    # The pages and the panel sheet; in "over" every grid and every long text has a continuation sheet.
     ORDERS = {
         "full": "1(1) 2(1) 3(1) 3(2) 4(1) 5(1) 6(1) 7(1) 8(1) 9(1) 10(1)",
         "over": "1(1) 2(1) 2(2) 3(1) 3(2) 3(3) 3(4) 4(1) 4(5) 4(6) 5(1) 5(2) 6(1) 6(2) 6(3) 6(4) 6(5) 6(6) "
@@ -153,7 +154,8 @@ class Fullest(unittest.TestCase):
             order = self.ORDERS[name.replace("wide", "full")].split()
             with self.subTest(claim=name):
                 self.assertEqual(sheets(name), order)
-                # The second grid of Claim 1's page 7 makes its 7(2) over that of the first, which stands twice.
+                # The second grid of Claim 1's page 7 writes its 7(2) over that of the first, so it is in the document
+                # twice.
                 self.assertEqual(len(pages(name)), len(order) + (name == "over"))
 
     def test_each_page_is_full_and_bears_its_number(self):
@@ -192,7 +194,7 @@ class Fullest(unittest.TestCase):
                     "expertsmeetmojstandardreasons": "6(4)"})):
             self.assertEqual(set(where), set(form.long_texts))
             claim = claims.over(form, claims.Words())
-            # Beyond page 7 of Claim 1, whose 7(2) stands twice, names and pages no longer go side by side.
+            # After page 7 of Claim 1, whose 7(2) is there twice, names and pages no longer match one to one.
             found = dict(zip(sheets(name)[:20] if form is claims.CLAIM1 else sheets(name), pages(name)))
             for path, sheet in where.items():
                 wanted = Counter(words(claim.root.find(path).text.replace("+", " ")))
@@ -221,7 +223,7 @@ class Fullest(unittest.TestCase):
                         self.assertEqual(dict(wanted - Counter(words(found[sheet]))), {})
 
     def test_the_longest_judge_stands_on_two_lines(self):
-        # A third line would be hidden by the row's edge, though it is still among the words of the file.
+        # A third line would be hidden by the row's edge, although the PDF still contains its words.
         page = str(sheets("full-1a").index("8(1)") + 1)
         boxes = subprocess.run(["pdftotext", "-bbox", "-f", page, "-l", page, str(PDFS["full-1a"]), "-"], check=True,
                                stdout=subprocess.PIPE).stdout.decode("utf-8")
@@ -244,7 +246,8 @@ class Fullest(unittest.TestCase):
                     ("12(1)", "8,888,888.88", 8), ("13(1)", "8,888,888.88", 1),
                     ("5(1)", "97,777.76", 32), ("5(1)", "3,128,888.32", 1), ("6(1)", "97,777.76", 11),
                     ("7(1)", "888,888.88", 12), ("7(1)", "977,777.76", 12), ("7(1)", "11,733,333.12", 1),
-                    # 88 units at 888.88, of which 88.88 per cent are 69,523.2159; three fixed payments of 8,888.88 and as much VAT.
+                    # 88 units at 888.88, of which 88.88 per cent are 69,523.2159; three fixed payments and the VAT of
+                    # 8,888.88 each.
                     ("8(1)", "78,221.44", 16), ("8(1)", "69,523.22", 16), ("8(1)", "8,888.88", 64),
                     ("8(1)", "174,411.30", 16),
                     ("10(1)", "88:59", 33), ("10(1)", "133,473.66", 33),
@@ -259,12 +262,12 @@ class Fullest(unittest.TestCase):
                              claims.quote_plus(claims.MILLIONS, safe=""))
 
     def test_no_total_of_a_dense_grid_is_parted(self):
-        # Of 33 items seven stand in each of the first three columns and six in the last two, at 133,473.66 each.
+        # Of the 33 items the first three columns have seven each and the last two six, at 133,473.66 each.
         schedule = (("934,315.62", 3), ("800,841.96", 2), ("4,404,630.78", 1))
         experts = (("977,777.68", 1), ("1,075,555.36", 1))
         # Sixteen hearings at 174,411.2959 and 8,888.88.
         hearings = (("2,790,580.73", 1), ("142,222.08", 1))
-        # The same of 34 items, 44 experts and 89 hearings.
+        # The same for 34 items, 44 experts and 89 hearings.
         many_items = (("934,315.62", 4), ("800,841.96", 1), ("4,538,104.44", 1))
         many_experts = (("3,911,110.72", 1), ("391,110.72", 1), ("4,302,221.44", 1))
         many_hearings = (("15,522,605.34", 1), ("791,110.32", 1))

@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
 """Every template and every finished document is valid.
 
-Each look takes seconds.  The templates, and the claims with everything over and the empty ones, which together hold every
-sheet of both forms, are looked at for the oldest and the newest office version; the rest, which is made of the same sheets,
-for the newest.  With ZR3_VALIDATE=all everything is looked at for every version that the validator knows: see tests/long.
+Each check takes seconds. The templates, the claims with everything over and the empty ones, which together contain
+every sheet of both forms, are checked for the oldest and the newest office version; the rest, which consist of the same
+sheets, for the newest. With ZR3_VALIDATE=all everything is checked for every version that the validator knows: see
+tests/long.
 """
 
 import json
@@ -35,7 +36,7 @@ def setUpModule():
 
 
 def findings(files, versions_of=lambda file: OLDEST_AND_NEWEST):
-    """What the validator says of each file: lines such as "Office2007: word/document.xml: ..."."""
+    """The validator's findings for each file: lines such as "Office2007: word/document.xml: ..."."""
     everything = os.environ.get("ZR3_VALIDATE") == "all"
 
     def run(some):
@@ -67,7 +68,7 @@ class Validity(unittest.TestCase):
                 self.assertEqual(problems[:10], [])
 
     def test_a_broken_document_is_found_out(self):
-        """Else the other tests would prove nothing."""
+        """Makes sure that the validator works at all."""
         broken = WORK / "broken.doc"
         with zipfile.ZipFile(support.TEMPLATES / "Claim1 P9.doc") as package, zipfile.ZipFile(broken, "w") as out:
             for name in package.namelist():

@@ -12,7 +12,7 @@
 
 #include <QSignalSpy>
 
-/// The counting screen of a claim with some fee earners, each with counts of its own, and two enhancements.
+/// The counting screen of a claim with some fee earners, each with counts, and two enhancements.
 class clsCommunicationsTest : public clsModalTest {
 protected:
     static constexpr int NameColumn = 1, CallsColumn = 3, LettersInColumn = 4, LettersOutColumn = 5;
@@ -60,7 +60,7 @@ protected:
     {
         QTest::mouseClick(view().viewport(), Qt::RightButton, shift, middleOf(row, column));
     }
-    /// What a user types, and waits for.
+    /// Types digits and waits until they count as a number.
     void typeNumber(const QString &text)
     {
         QSignalSpy typed(&grid(), &oSGrid::TimedKeyPress);
@@ -85,7 +85,7 @@ protected:
 
     oEnhancementsBox &enhancement(const char *name) const { return screen->Box<oEnhancementsBox>(name); }
     static QString idOf(int enhancement) { return Form->Enhancement(enhancement)->UniqueID(); }
-    /// Ticks the boxes for calls and letters out, the second enhancement for the latter.
+    /// Ticks the boxes for calls and letters out, and chooses the second enhancement for the latter.
     void changeBoxes()
     {
         for (const char *name : {"oCallsEnhancement", "oLettersOutEnhancement"})

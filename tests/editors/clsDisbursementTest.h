@@ -7,7 +7,7 @@
 #include "controls/oSGrid.h"
 #include "tests/editors/clsModalTest.h"
 
-/// The screen of the disbursements: its pages are walked by keys, and its items written down by their descriptions.
+/// The screen of the disbursements: opens its pages by keyboard and lists its items by their descriptions.
 class clsDisbursementTest : public clsModalTest {
 protected:
     static std::unique_ptr<frmSection> disbursements() { return opened(QStringLiteral("Disbursements")); }
@@ -42,7 +42,7 @@ protected:
     {
         return pages(screen)[size_t(page - 1)]->captionBar()->accessibleDescription();
     }
-    /// Walks the captions by the keys, from wherever the focus is, opens a page and enters it.
+    /// Moves through the captions by keyboard, from wherever the focus is, opens a page and enters it.
     static void openPage(frmSection &screen, int page)
     {
         const auto all = pages(screen);
@@ -59,7 +59,7 @@ protected:
     {
         return focusedName(screen) == QString::fromUtf8(name);
     }
-    /// Types over the field that has the focus.
+    /// Overwrites the field that has the focus.
     static void over(const frmSection &screen, const QString &text)
     {
         key(screen, Qt::Key_A, Qt::ControlModifier);

@@ -2,12 +2,12 @@
 
 #include <vector>
 
-// What a screen holds, written down a second time and by hand, so that a slip in one of the tables shows.
+// The expected content of a screen, written by hand, so that a mistake in one of the tables is found.
 
 struct clsExpectedField {
     const char *control;
-    const char *caption; ///< of the control; of its question where it is an answer; read out only where none is shown
-    const char *answer; ///< the caption of an answer, else nothing
+    const char *caption; ///< the control's, or for an answer the question's; only read out if none is shown
+    const char *answer; ///< the caption of an answer, else null
     /// 't' text, 'd' date, 'm' decimal, 'i' integer, 'h' time, 'x' tick, 'l' list, 'g' grid, 'b' button, 'o' any other
     char kind;
     int allowance = 0;
@@ -15,15 +15,15 @@ struct clsExpectedField {
     bool spellCheck = false;
     const char *frame = "bxGeneral";
     bool overRun = false;
-    const char *element = nullptr; ///< in which it is stored, where that isn't the control's name less its prefix
+    const char *element = nullptr; ///< where it is stored, if not named as the control without its prefix
     bool dateTick = false;
     bool replacements = true;
-    const char *second = "1"; ///< what the second entry of a list is stored as
+    const char *second = "1"; ///< how the second entry of a list is stored
 };
 
 struct clsExpectedFrame {
     const char *name;
-    const char *caption; ///< empty for one that has none
+    const char *caption; ///< empty if it has none
 };
 
 struct clsExpectedScreen {

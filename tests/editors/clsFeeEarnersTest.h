@@ -5,7 +5,7 @@
 #include "formdata/clsZR3FeeEarnerGroup.h"
 #include "tests/editors/clsModalTest.h"
 
-/// A test of the screens of fee earners: makes groups and fee earners, and opens the editor of one.
+/// Base of tests of the fee earners' screens: creates groups and fee earners, and opens the editor of one.
 class clsFeeEarnersTest : public clsModalTest {
 protected:
     static std::shared_ptr<clsZR3FeeEarnerGroup> addGroup(const char *reference, const char *name = "")
@@ -22,7 +22,7 @@ protected:
         feeEarner->GroupUniqueID = group.UniqueID();
         return feeEarner;
     }
-    /// So many fee earners of one group, whose references are their places.
+    /// Adds this many fee earners to a group, with their positions as references.
     static void addFeeEarners(int count)
     {
         const auto group = addGroup("PTR");

@@ -6,7 +6,7 @@
 
 #include <QComboBox>
 
-/// A test of a box in which an item of the claim is chosen, alone or on a screen.
+/// Base of tests of a box for choosing an item of the claim, alone or on a screen.
 class clsItemBoxTest : public clsModalTest {
 protected:
     template <class Part> static Part &part(const QWidget &box, const char *name)

@@ -6,7 +6,7 @@
 
 #include <functional>
 
-/// A test of what opens a screen and waits until it is closed: what the user does there is told before.
+/// Base of tests that open a modal screen: the user's actions on it are set up beforehand.
 class clsModalTest : public clsScreenTest {
 protected:
     /// Lets `opens` open a modal screen, and `act` use it until it is closed.
@@ -36,17 +36,17 @@ protected:
         if (below)
             activate(*below);
     }
-    /// The platform of the tests has no window manager: a window that is uncovered isn't brought back, and what was
-    /// asked for earlier may still arrive late.
+    /// The test platform has no window manager: an uncovered window isn't activated again, and earlier requests may
+    /// still arrive late.
     static void activate(QWidget &window)
     {
         QCoreApplication::processEvents();
         window.activateWindow();
-        // A window over the active one counts as active there before it has the keys.
+        // A window over the active one counts as active before it receives keys.
         EXPECT_TRUE(QTest::qWaitFor([&window] { return window.isActiveWindow(); }));
     }
     static void click(QWidget &widget) { QTest::mouseClick(&widget, Qt::LeftButton, {}, widget.rect().center()); }
-    /// A key for whatever has the focus in a window.
+    /// Sends a key to the widget of a window that has the focus.
     static void key(const QWidget &window, int which, Qt::KeyboardModifiers modifiers = {})
     {
         ASSERT_TRUE(window.focusWidget());

@@ -6,7 +6,7 @@
 #include "controls/oSGrid.h"
 #include "tests/editors/clsPreferencesTest.h"
 
-/// A test of the preferences' screen, by its pages, ticks and grids.
+/// Base of tests of the preferences' screen: its pages, ticks and grids.
 class clsPreferencesScreenTest : public clsPreferencesTest {
 protected:
     static constexpr int GeneralSettings = 1, Replacements = 2, RateSets = 3;
@@ -31,7 +31,7 @@ protected:
     {
         return *grid(screen, name).findChild<oGridView *>();
     }
-    /// The texts of a grid, each row as one.
+    /// The texts of a grid, each row as one text.
     static QStringList rows(const frmSection &screen, const char *name)
     {
         const QAbstractItemModel &model = *view(screen, name).model();

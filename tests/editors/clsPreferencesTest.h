@@ -12,7 +12,7 @@
 
 #include <QDir>
 
-/// A test of the preferences' screens: a program folder with a fresh preferences file, which has been loaded.
+/// Base of tests of the preferences' screens: a program folder with a fresh preferences file, already loaded.
 class clsPreferencesTest : public clsScreenTest {
 protected:
     void SetUp() override
@@ -51,7 +51,7 @@ protected:
         item->HourlyRate = QString::fromUtf8(hourly);
         return item;
     }
-    /// The abbreviations and their texts in the order of the file.
+    /// The abbreviations and their texts, in the order of the file.
     static QStringList replacements()
     {
         QStringList result;
@@ -67,7 +67,7 @@ protected:
         return result;
     }
 
-    /// An item's editor, filled and shown; without an item for a new one.
+    /// The editor of an item, or of a new one without `item`, filled and shown.
     static std::unique_ptr<frmSection> editor(const clsScreen &table, clsXMLRecord *item = nullptr)
     {
         auto screen = std::make_unique<frmSection>(table);

@@ -6,7 +6,7 @@
 
 #include <QLabel>
 
-/// A test of record screens: ticks are clicked and read by their names, and a text box's count is at hand.
+/// Base of tests of record screens: clicks and reads ticks by name, and finds the count of a text box.
 class clsRecordTest : public clsScreenTest {
 protected:
     static void click(const frmSection &screen, const char *box)
@@ -28,7 +28,7 @@ protected:
     {
         return screen.Box(box).property("Text").toString();
     }
-    /// On both form types, whatever is ticked, everything can be entered.
+    /// Expects that everything can be entered, on both form types and whatever is ticked.
     static void expectAllOpen(const char *section)
     {
         for (const char *type : {"Claim1", "Claim1A"}) {

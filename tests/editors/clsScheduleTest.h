@@ -8,12 +8,12 @@
 #include <QAbstractItemView>
 #include <QAction>
 
-/// A test of lists of dated items and of their editors.
+/// Base of tests of lists of dated items and of their editors.
 class clsScheduleTest : public clsFeeEarnersTest {
 protected:
     using Item = std::shared_ptr<clsZR3ScheduleOfTimeItem>;
 
-    /// An item of the first fee earner, who is made where there is none.
+    /// Adds an item of the first fee earner, who is created if there is none.
     static Item addItem(const char *date, const char *code = "DOT", const char *time = "01:00")
     {
         if (Form->FeeEarnersCollection().empty())
@@ -36,7 +36,7 @@ protected:
     {
         focusPart(screen.Box(name))->setFocus(Qt::TabFocusReason);
     }
-    /// The messages so far, which were one of that title and text, or none at all.
+    /// Expects exactly one message, with this title and text, and forgets it.
     void expectMessage(
         const char *title, const char *text, clsUserInterface::Buttons buttons = clsUserInterface::OKOnly)
     {

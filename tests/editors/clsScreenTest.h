@@ -22,10 +22,10 @@
 #include <memory>
 #include <stdexcept>
 
-/// A test of screens: a new claim, a scripted user, and windows that are shown without waiting for them to close.
+/// Base of tests of screens: a new claim, a scripted user, and windows shown without waiting for them to close.
 class clsScreenTest : public clsFolderTest {
 protected:
-    /// The editor of a made-up item with these rows.
+    /// The editor of a test item with these rows.
     static clsScreen editorOf(const std::vector<clsScreenRow> &rows)
     {
         return {.name = "frmThingEdit",
@@ -67,7 +67,7 @@ protected:
         EXPECT_TRUE(QTest::qWaitForWindowActive(&screen));
     }
 
-    /// What the user's keys reach in a control: itself or the part that takes the focus for it.
+    /// The widget in a control that receives keys: the control itself or its focus proxy.
     static QWidget *focusPart(QWidget &control)
     {
         QWidget *part = &control;
@@ -75,7 +75,7 @@ protected:
             part = part->focusProxy();
         return part;
     }
-    /// The rows of a grid as it shows them, the cells of a row with a bar between.
+    /// The rows of a grid as shown, with a bar between cells.
     static QStringList rows(const oSGrid &grid)
     {
         const auto &cells = *grid.findChild<QAbstractItemView *>()->model();
@@ -88,7 +88,7 @@ protected:
         }
         return result;
     }
-    /// An entry of a menu of the screen.
+    /// A menu entry of the screen.
     static QAction &entry(const frmSection &screen, const char *name)
     {
         auto *found = screen.findChild<QAction *>(QString::fromUtf8(name));
@@ -96,7 +96,7 @@ protected:
             throw std::runtime_error(name);
         return *found;
     }
-    /// Types a text over what stands in a box.
+    /// Replaces the text of a box by typing.
     static void type(QWidget &box, const QString &text)
     {
         QWidget *part = focusPart(box);
@@ -111,7 +111,7 @@ protected:
         ASSERT_TRUE(found) << button;
         QTest::mouseClick(found, Qt::LeftButton);
     }
-    /// Changes what stands in a field.
+    /// Changes the value of a field.
     static void change(const clsScreenField &field)
     {
         if (auto *box = qobject_cast<oCheckBox *>(field.control))
@@ -126,9 +126,9 @@ protected:
             if (auto *tick = field.control->findChild<oCheckBox *>())
                 tick->setChecked(!tick->Checked());
     }
-    /// The screen that `opens` makes, each time on a fresh record, stores its fields in the order of these elements. An
-    /// element that has gone stops the storing at its place: whatever is written before it has its new value, and
-    /// whatever comes behind it its old one.
+    /// Expects that the screen made by `opens`, each time on a fresh record, stores its fields in the order of these
+    /// elements. Each in turn is removed, which stops the storing there: earlier elements then have their new value,
+    /// later ones their old value.
     static void expectStoredInOrder(
         const std::vector<const char *> &elements, const std::function<std::unique_ptr<frmSection>()> &opens)
     {
@@ -154,7 +154,7 @@ protected:
         }
     }
 
-    /// The field of the screen that the focus is in, or nothing.
+    /// The field of the screen that has the focus, or null.
     static const clsScreenField *focusedField(const frmSection &screen)
     {
         for (const clsScreenField &field : screen.Fields()) {

@@ -15,8 +15,8 @@
 #include <functional>
 #include <string>
 
-/// What is true of every screen: the test is run for each one that is written down, with that screen open, be it a
-/// section, the editor of a new item or the preferences.
+/// A test for every screen: it runs with each expected screen open, whether a section, the editor of a new item or the
+/// preferences.
 class EveryScreen : public clsPreferencesTest, public testing::WithParamInterface<std::string> {
 protected:
     void SetUp() override
@@ -34,7 +34,7 @@ protected:
         clsPreferencesTest::TearDown();
     }
 
-    /// Something to show in the lists, and to choose from in the editors.
+    /// Adds items for the lists to show and the editors to choose from.
     static void addItems()
     {
         const auto group = Form->AddFeeEarnerGroup();
@@ -66,7 +66,7 @@ protected:
     QScrollArea &page() const { return *screen->findChild<QScrollArea *>(); }
     QWidget &content() const { return *page().widget(); }
 
-    /// Does something on each page in turn, or once on a screen without pages.
+    /// Calls `act` on each page in turn, or once on a screen without pages.
     void onEachPage(const std::function<void()> &act) const
     {
         auto *switcher = screen->findChild<oContentSwitcher *>();
@@ -88,11 +88,11 @@ protected:
     }
     bool canEnter(const clsScreenField &field) const
     {
-        // A line that only tells something isn't entered.
+        // A line that only shows a text can't be entered.
         return onOpenPage(field) && field.control->isEnabledTo(screen.get())
             && !qobject_cast<const QLabel *>(field.control);
     }
-    /// The fields of the open page, and of the frames that have none.
+    /// The fields of the open page, and of the frames without pages.
     std::vector<clsScreenField> openFields() const
     {
         std::vector<clsScreenField> result;

@@ -2,7 +2,7 @@
 
 #include "tests/editors/clsExpectedScreen.h"
 
-// The screens of the disbursements and the editors of their items. Of an item, `element` is its own.
+// The screens of the disbursements and the editors of their items, whose `element` is that of the item.
 
 // clang-format off
 inline const std::vector<clsExpectedScreen> ExpectedDisbursementScreens {

@@ -2,7 +2,7 @@
 
 #include "tests/editors/clsExpectedScreen.h"
 
-// What the screens of fee earners hold, written down a second time and by hand. An editor of an item has no section.
+// The expected content of the fee earners' screens, written by hand. An item's editor has no section.
 
 // clang-format off
 inline const std::vector<clsExpectedScreen> ExpectedFeeEarnerScreens {

@@ -7,7 +7,7 @@
 
 #include <stdexcept>
 
-// What the table of a screen says of a list.
+// The lists that a screen's table describes.
 
 /// The list that a grid shows.
 inline const clsItemList &itemsOf(const oSGrid &grid)
@@ -18,7 +18,7 @@ inline const clsItemList &itemsOf(const oSGrid &grid)
     throw std::runtime_error("no list");
 }
 
-/// Its columns, each with its caption, its property, its width in per cent, and where its texts stand.
+/// Its columns, each with its caption, property, width in per cent, and alignment.
 inline QStringList captionsOf(const oSGrid &grid)
 {
     QStringList result;

@@ -10,7 +10,7 @@
 
 #include <functional>
 
-/// Does something on the window of that name as soon as it is open over the others, and leaves it closed.
+/// Calls `use` on the window of that name as soon as it is open over the others, and expects it to be closed then.
 inline void onceOpened(const char *name, std::function<void(frmSection &)> use)
 {
     auto *watch = new QTimer(qApp);
@@ -25,7 +25,7 @@ inline void onceOpened(const char *name, std::function<void(frmSection &)> use)
             ADD_FAILURE() << name << " isn't opened";
             return;
         }
-        // The first window below may still be about to be told that it is the active one.
+        // The first window below may still have an activation event pending.
         QCoreApplication::processEvents();
         modal->activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(modal));

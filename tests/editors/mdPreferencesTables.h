@@ -3,7 +3,7 @@
 #include "tests/editors/clsExpectedScreen.h"
 
 // clang-format off
-/// Opened by the menu, and so neither a section nor the editor of an item.
+// Opened from the menu, so neither a section nor the editor of an item.
 inline const std::vector<clsExpectedScreen> ExpectedPreferences {
     {"", "frmPreferences", "Preferences", "Default settings", "", {
         {"txtDefaultVATRate", "Default VAT Rate:*", nullptr, 'm', 0, false, false, "bxPreferences"},

@@ -2,7 +2,7 @@
 
 #include "tests/editors/clsExpectedScreen.h"
 
-// The record screens from the outcome of the case to the debtor.
+// The record screens, from the outcome of the case to the debtor.
 
 // clang-format off
 inline const std::vector<clsExpectedScreen> ExpectedRecordScreens {

@@ -2,7 +2,7 @@
 
 #include "tests/editors/clsExpectedScreen.h"
 
-// The screens of the schedule of time and of the advocacy scheme, with the editors of their items, whose `element` is
+// The screens of the schedule of time and of the advocacy scheme, and the editors of their items, whose `element` is
 // that of the item.
 
 // clang-format off

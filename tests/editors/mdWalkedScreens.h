@@ -12,8 +12,8 @@
 
 #include <string_view>
 
-// Every screen that is written down a second time, and with it walked by the tests. A table of screens more is a line
-// here, and the editor of an item one more below.
+// All expected screens, which the tests go through. Add a further table of screens here, and the editor of an item
+// below.
 
 inline std::vector<clsExpectedScreen> AllExpectedScreens()
 {
@@ -36,7 +36,7 @@ inline std::vector<clsExpectedScreen> AllWalkedScreens()
 
 using clsScreenFunction = const clsScreen &(*)();
 
-/// The editors of items, which no section leads to.
+/// The editors of items, which don't belong to a section.
 inline std::vector<clsScreenFunction> AllItemEditors()
 {
     return {
@@ -55,7 +55,7 @@ inline std::vector<clsScreenFunction> AllItemEditors()
     };
 }
 
-/// The screen of that name which no section leads to, or nothing.
+/// The screen of that name outside the sections, or null.
 inline const clsScreen *ScreenNamed(std::string_view name)
 {
     for (const clsScreenFunction screen : {ScreenPreferences, ScreenFirmAndTeam})

@@ -11,7 +11,7 @@ namespace {
 
 const QString ActualCosts = QStringLiteral("Actual Costs");
 
-/// The choices of the screen, of which each box clears the others of its own.
+/// The groups of ticks on the screen; a tick clears the others of its group.
 const std::vector<std::vector<const char *>> Choices {
     {"chkCareAndSupervisionMidlands", "chkCareAndSupervisionNorth", "chkCareAndSupervisionSouth",
         "chkCareAndSupervisionWales"},
@@ -61,7 +61,7 @@ protected:
         return {QString::fromLatin1(profitCosts), QString::fromLatin1(VAT)};
     }
 
-    /// An hour at 33.33, and half an hour of advocacy at 50.00: 58.33 of which 25.00 is advocacy.
+    /// An hour at 33.33, and half an hour of advocacy at 50.00: 58.33, of which 25.00 is advocacy.
     static void addBill()
     {
         const auto group = Form->AddFeeEarnerGroup();
@@ -93,7 +93,7 @@ TEST_F(ActualCostsScreen, TickingOneOfAChoiceClearsTheOthersOfItAndNothingElse)
         click(*screen, choice.front());
         chosen.insert(choice.front());
     }
-    // Every tick of the screen belongs to a choice.
+    // Every tick of the screen belongs to a group.
     size_t ticks = 0;
     for (const clsScreenField &field : screen->Fields())
         ticks += qobject_cast<oCheckBox *>(field.control) ? 1 : 0;
@@ -170,7 +170,7 @@ TEST_F(ActualCostsScreen, ABillOfNoItemsIsNothingAndNoVAT)
 TEST_F(ActualCostsScreen, TheBillIsLoadedWithoutItsAdvocacyAndWithTheVATOfThat)
 {
     addBill();
-    // Whether VAT is charged is another question: the rate alone counts. 20 % of 33.33 are 6.666.
+    // The VAT tick has no effect, only the rate. 20 % of 33.33 is 6.666.
     Form->VAT = false;
     Form->VATRate = QStringLiteral("20");
     const auto screen = opened(ActualCosts);
@@ -187,7 +187,7 @@ TEST_F(ActualCostsScreen, TheBillIsLoadedWithoutItsAdvocacyAndWithTheVATOfThat)
 TEST_F(ActualCostsScreen, AnOddRateIsTakenAsItIsWritten)
 {
     addBill();
-    // 17.5 % of 33.33 are 5.83275, of which the fourth decimal is kept and the second shown.
+    // 17.5 % of 33.33 is 5.83275, stored with four decimals and shown with two.
     Form->VATRate = QStringLiteral("17.50");
     auto screen = opened(ActualCosts);
     press(*screen, Care.button);
@@ -212,7 +212,7 @@ TEST_F(ActualCostsScreen, OnTheSecondFormTheAdvocacySchemeIsWhatIsTakenOff)
     Form->VATRate = QStringLiteral("20");
     auto screen = opened(ActualCosts);
     press(*screen, PrivateLaw.button);
-    // 58.33 less 60.00: less than nothing is shown as it is.
+    // 58.33 less 60.00: a negative amount is shown as it is.
     EXPECT_EQ(pair("-1.67", "-0.33"), amounts(*screen, PrivateLaw));
     const oBoxNote *note = oBoxNote::of(screen->Box(PrivateLaw.profitCosts));
     ASSERT_TRUE(note);
@@ -274,7 +274,7 @@ TEST_F(ActualCostsScreen, PressedByItsLetterFromABoxItFillsTheButtonLeavesTheBox
         QTest::keyClick(screen->focusWidget(), letter, Qt::AltModifier);
         EXPECT_EQ(pair("33.33", "6.67"), amounts(*screen, group));
         EXPECT_EQ(QString::fromLatin1(group.button), focusedName(*screen));
-        // Bad input keeps the focus and is not written over.
+        // Invalid input keeps the focus and is not overwritten.
         type(screen->Box(group.profitCosts), QStringLiteral("abc"));
         QTest::keyClick(screen->focusWidget(), letter, Qt::AltModifier);
         EXPECT_EQ(pair("abc", "6.67"), amounts(*screen, group));

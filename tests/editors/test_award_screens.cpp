@@ -95,7 +95,7 @@ TEST_F(AwardScreens, ADebtorCanBeEmployedAndUnemployedAtOnceAndLegallyAidedAndNo
     EXPECT_TRUE(Form->DebtorsDetails.UnEmployed());
     EXPECT_TRUE(Form->DebtorsDetails.DebtorCLSFundedYes());
     EXPECT_TRUE(Form->DebtorsDetails.DebtorCLSFundedNo());
-    // And so they are shown again.
+    // They are shown the same way again.
     screen = opened(Debtor);
     EXPECT_TRUE(ticked(*screen, "chkEmployed"));
     EXPECT_TRUE(ticked(*screen, "chkUnemployed"));

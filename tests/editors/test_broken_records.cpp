@@ -1,4 +1,4 @@
-// Claims of a file whose values are not what the program writes: every screen opens, shows what is wrong, and mends it.
+// Claims with invalid values in the file: every screen opens, shows what is wrong, and can correct it.
 
 #include "controls/oDecimalBox.h"
 #include "controls/oTimeBox.h"
@@ -29,7 +29,7 @@ protected:
         Form->AddDisbursement();
         Form->AddFASItem();
     }
-    /// Writes a content into every element that holds a value, but for those by which the claim holds together.
+    /// Writes a content to every element with a value, except those that link the claim's records.
     static void spoilAll(pugi::xml_node node, const char *content)
     {
         static const QSet<QByteArray> kept {"orderid", "formtype", "idcounter", "version", "path"};
@@ -63,7 +63,7 @@ protected:
             result << fault.sentence;
         return result;
     }
-    /// What a cell of a list's first row says to a reader of the screen.
+    /// The text that a screen reader gets for a cell of a list's first row.
     static QString described(const oSGrid &grid, int column)
     {
         return grid.findChild<QAbstractItemView *>()->model()->index(0, column).data(Qt::AccessibleTextRole).toString();
@@ -119,7 +119,7 @@ TEST_F(BrokenRecords, TheScheduleShowsWhatIsWrongAndFollowsEveryChange)
     EXPECT_EQ(QStringLiteral("Schedule item 1 has no time"), described(grid, 4));
     EXPECT_EQ(QStringLiteral("Schedule item 1 names no enhancement"), described(grid, 9));
 
-    // Neither the order nor a deletion nor a new item minds it.
+    // Reordering, deleting and adding items still work.
     grid.SelectRow(1);
     QTest::keyClick(focusPart(grid), Qt::Key_Down, Qt::AltModifier);
     user.answers = {clsUserInterface::Yes};
@@ -129,7 +129,7 @@ TEST_F(BrokenRecords, TheScheduleShowsWhatIsWrongAndFollowsEveryChange)
     EXPECT_EQ(1, grid.Rows());
     EXPECT_EQ(1u, Form->ScheduleOfTimeItemsForExportCollection().size());
 
-    // What is wrong with the group's rates is told beside the name.
+    // Errors in the group's rates are shown beside the name.
     item->FeeEarnerUniqueID = Form->FeeEarner(1)->UniqueID();
     item->TTime = QStringLiteral("01:00");
     item->IncludeInEnhancements = false;
@@ -279,7 +279,7 @@ TEST_F(BrokenRecords, TheTickOfTheScheduleIsMendedByClosing)
     EXPECT_EQ(
         QStringLiteral("The claim: the tick Exclude Non Advocacy holds \"perhaps\", which is neither True nor False"),
         tick(*screen, "chkExcludeNonAdvocacy").toolTip());
-    screen->reject(); // Esc is Close here
+    screen->reject(); // Esc does the same as Close here
     EXPECT_FALSE(Form->ExcludeNonAdvocacy());
     Form->CheckDerivedCollections();
     EXPECT_EQ(1, Form->ScheduleOfTimeItem(1)->SOTItemNumber);

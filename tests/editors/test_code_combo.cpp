@@ -11,7 +11,7 @@ namespace {
 class CodeCombo : public clsScheduleTest {
 protected:
     static oCodeCombo &code(const frmSection &screen) { return screen.Box<oCodeCombo>("cmbCode"); }
-    /// The editor of an item, with a text typed for its code.
+    /// An item's editor, with a text typed in its code box.
     std::unique_ptr<frmSection> typed(const char *text)
     {
         item = addItem("01/02/26", "AOT");
@@ -81,18 +81,18 @@ TEST_F(CodeCombo, WhatOnlyOneCodeBeginsWithIsCompleted)
     auto screen = typed("rm");
     EXPECT_EQ(QStringLiteral("rmD"), code(*screen).Code());
     EXPECT_EQ(QStringLiteral("D"), code(*screen).lineEdit()->selectedText());
-    // One Return is enough, also while the completion is marked.
+    // One Return is enough, even while the completion is selected.
     key(*screen, Qt::Key_Return);
     EXPECT_FALSE(screen->isVisible());
     EXPECT_EQ(QStringLiteral("RMD"), item->Code());
-    // A completion that isn't wanted goes by the next letter, and by Backspace.
+    // Typing another letter, or Backspace, removes an unwanted completion.
     screen = typed("rm");
     QTest::keyClick(&code(*screen), Qt::Key_P);
     EXPECT_EQ(QStringLiteral("rmp"), code(*screen).Code());
     screen = typed("rm");
     QTest::keyClick(&code(*screen), Qt::Key_Backspace);
     EXPECT_EQ(QStringLiteral("rm"), code(*screen).Code());
-    // Nor does a letter in the middle of it bring more.
+    // A letter in the middle of the text completes nothing either.
     screen = typed("m");
     QTest::keyClick(&code(*screen), Qt::Key_Home);
     QTest::keyClick(&code(*screen), Qt::Key_R);
@@ -150,7 +150,7 @@ TEST_F(CodeCombo, TheKeyboardDoesNotLeaveAWrongCodeAndTellsItOnce)
         key(*screen, way.key, way.modifiers);
         QTest::qWait(10);
         expectHeld(*screen, "XYZ");
-        // As often as it is tried, once each time.
+        // On every attempt, once each time.
         key(*screen, way.key, way.modifiers);
         QTest::qWait(10);
         expectHeld(*screen, "XYZ");
@@ -169,7 +169,7 @@ TEST_F(CodeCombo, TheMouseDoesNotLeaveAWrongCodeAndTellsItOnce)
         EXPECT_FALSE(tick(*screen, "chkAdvocacy").Checked());
         EXPECT_FALSE(QApplication::activePopupWidget());
     }
-    // Its own parts are no leaving.
+    // Moving between its parts is not leaving it.
     const auto screen = typed("xyz");
     click(*code(*screen).lineEdit());
     EXPECT_TRUE(user.messages.empty());

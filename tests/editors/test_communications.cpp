@@ -11,7 +11,7 @@
 #include <QScrollBar>
 #include <QToolTip>
 
-// The letters and calls: their grid, and how they are counted in it.
+// The letters and calls: their grid, and counting in it.
 
 using Communications = clsCommunicationsTest;
 
@@ -101,7 +101,7 @@ TEST_F(Communications, FeeEarnersStandInTheUsersOrder)
     EXPECT_EQ(QStringLiteral("F2"), shown(2, NameColumn));
     EXPECT_EQ(QStringLiteral("F10"), shown(10, NameColumn));
     EXPECT_EQ(QStringLiteral("F1"), shown(12, NameColumn));
-    // And what is counted belongs to the fee earner of the row.
+    // Counts are added to the fee earner of the row.
     press(Qt::Key_C);
     EXPECT_EQ((Counts {4, 5, 7}), counts(12));
     EXPECT_EQ((Counts {3, 5, 7}), counts(1));
@@ -135,7 +135,7 @@ TEST_F(Communications, ShiftAloneCountsDownAndStopsAtNothing)
         press(Qt::Key_C, Qt::ShiftModifier);
     EXPECT_EQ((Counts {0, 5, 7}), counts(2));
     EXPECT_EQ(QStringList({down(), down(), down()}), takeSounds());
-    // At nothing it sounds and changes nothing.
+    // At zero it plays the sound and changes nothing.
     press(Qt::Key_C, Qt::ShiftModifier);
     EXPECT_EQ((Counts {0, 5, 7}), counts(2));
     EXPECT_EQ(QStringLiteral("0"), shown(2, CallsColumn));
@@ -188,7 +188,7 @@ TEST_F(Communications, AnEmptyGridSaysWhatToDoAndCountsNothing)
     typeNumber(QStringLiteral("1"));
     EXPECT_TRUE(user.sounds.isEmpty());
     EXPECT_TRUE(screen->isVisible());
-    // With no row to open, Return is the screen's.
+    // Without a row to open, Return acts on the screen.
     press(Qt::Key_Return);
     EXPECT_FALSE(screen->isVisible());
 }
@@ -222,7 +222,7 @@ TEST_F(Communications, ARightClickCountsInItsColumnAndRow)
 
 TEST_F(Communications, ARightClickWithControlCountsForItsOwnRow)
 {
-    // Control takes the selection from a row that has it.
+    // Control-click deselects a selected row.
     openWith(2);
     rightClick(1, CallsColumn, Qt::ControlModifier);
     EXPECT_EQ((Counts {4, 5, 7}), counts(1));
@@ -235,7 +235,7 @@ TEST_F(Communications, ARightClickWithControlCountsForItsOwnRow)
 TEST_F(Communications, QuickRightClicksCountEachAndOpenNothing)
 {
     openWith(1);
-    // As the toolkit tells of two quick clicks: the second press is a double click, with a release of its own.
+    // Two quick clicks as Qt reports them: the second press is a double click, with its own release.
     for (int i = 0; i < 3; ++i) {
         rightClick(1, CallsColumn);
         QTest::mouseDClick(view().viewport(), Qt::RightButton, {}, middleOf(1, CallsColumn));
@@ -275,7 +275,7 @@ TEST_F(Communications, ADoubleClickOpensTheTypedEntryInTheFieldOfItsColumn)
                 EXPECT_EQ(QStringLiteral("5"), entry.Box<oIntegerBox>("txtLettersIn").Text());
                 entry.Cancel();
             });
-    // The name opens nothing.
+    // The name column opens nothing.
     QTest::mouseDClick(view().viewport(), Qt::LeftButton, {}, middleOf(2, NameColumn));
     EXPECT_FALSE(QApplication::activeModalWidget());
     EXPECT_EQ((Counts {3, 5, 7}), counts(2));
@@ -285,7 +285,7 @@ TEST_F(Communications, ReturnOpensTheTypedEntryInTheFieldOfTheGridsColumn)
 {
     openWith(2);
     press(Qt::Key_Down);
-    // It starts on the calls.
+    // The mark starts on the calls.
     const auto opensIn = [this](const char *box) {
         inModal([this] { press(Qt::Key_Return); },
             [box](frmSection &entry) {
@@ -301,7 +301,7 @@ TEST_F(Communications, ReturnOpensTheTypedEntryInTheFieldOfTheGridsColumn)
     EXPECT_EQ(QStringLiteral("40"), shown(2, CallsColumn));
     press(Qt::Key_Right);
     opensIn("txtLettersIn");
-    // Counting leaves the column alone.
+    // Counting doesn't move the mark.
     press(Qt::Key_C);
     press(Qt::Key_Right);
     opensIn("txtLettersOut");
@@ -328,7 +328,7 @@ TEST_F(Communications, ATypedNumberSelectsTheRow)
     }
     typeNumber(QStringLiteral("2b"));
     EXPECT_EQ(2, grid().SelectedRow());
-    // Letters that count belong to no number.
+    // A counting letter ends the number.
     press(Qt::Key_C);
     typeNumber(QStringLiteral("5"));
     EXPECT_EQ(5, grid().SelectedRow());

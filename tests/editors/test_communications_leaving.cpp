@@ -5,7 +5,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
-// The letters and calls: the boxes beside the grid, and what is stored on which way out.
+// The letters and calls: the boxes beside the grid, and what each way of leaving stores.
 
 using CommunicationsLeaving = clsCommunicationsTest;
 
@@ -23,7 +23,7 @@ TEST_F(CommunicationsLeaving, TheBoxesShowTheClaimsSettings)
 TEST_F(CommunicationsLeaving, EveryWayOutButTheCloseBoxStoresTheBoxes)
 {
     struct Way {
-        const char *name; ///< a button's or a menu entry's, or of a key
+        const char *name; ///< of a button, a menu entry or a key
         const char *section;
     };
     const Way ways[] = {
@@ -168,7 +168,7 @@ TEST_F(CommunicationsLeaving, TheBoxesStandBelowTheGridInOneLineWhereThereIsRoom
             EXPECT_GE(field.control->width(), field.control->minimumSizeHint().width()) << size.width();
             EXPECT_GE(field.control->height(), field.control->minimumSizeHint().height()) << size.width();
         }
-        // With everything in sight there is no need to scroll.
+        // If everything is visible, there is nothing to scroll.
         if (size.height() >= 680) {
             EXPECT_EQ(0, page.verticalScrollBar()->maximum()) << size.height();
         }

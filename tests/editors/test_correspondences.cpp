@@ -11,7 +11,7 @@
 
 namespace {
 
-/// The typed entry of one fee earner's counts, opened on the second of two.
+/// The screen for typing a fee earner's counts, opened on the second of two.
 class Correspondences : public clsScreenTest {
 protected:
     std::unique_ptr<frmSection> screen = nullptr;

@@ -173,7 +173,7 @@ TEST_F(CounselBox, IsUsedByTheKeyboardAlone)
     const auto item = Form->AddDisbursement();
     const auto screen = edited(Disbursement, *item);
     auto &box = screen->Box("oCounsel");
-    // The caption's letter leads to what can be done: at first that is only to add, which it doesn't do by itself.
+    // The caption's letter moves to the first usable part: at first only the Add button, which it doesn't press.
     const auto *caption = [&] {
         for (const clsScreenField &field : screen->Fields())
             if (field.control == &box)

@@ -195,7 +195,7 @@ TEST_F(CounselScreens, AnEnhancementNeedsANameAndTakesAnyRate)
     press(*screen, "cmdSave");
     EXPECT_FALSE(screen->isVisible());
     EXPECT_EQ(QStringLiteral("12345.67"), Form->Enhancement(1)->Rate());
-    // A rate that nobody enters is no empty text, which no figure could be made of.
+    // A rate that is not entered is stored as 0.00, not as an empty text, which can't be computed with.
     screen = edited(ScreenEnhancementEdit(), nullptr);
     EXPECT_EQ(QStringLiteral("0.00"), mdTextOf(screen->Box("txtRate")));
     type(screen->Box("txtName"), QStringLiteral("Nothing"));
@@ -263,7 +263,7 @@ TEST_F(CounselScreens, AnotherRateReprices)
     item->EnhancementUniqueID = Form->Enhancement(1)->UniqueID();
     Form->Communications.EnhanceCalls = true;
     Form->Communications.CallsEnhancementUniqueID = Form->Enhancement(1)->UniqueID();
-    // Two hours at 40.00 and ten calls at 40.00, each half as much again.
+    // Two hours at 40.00 and ten calls at 40.00, each enhanced by half.
     EXPECT_EQ(QStringLiteral("120"), MoneyToText(item->Claim()));
     EXPECT_EQ(QStringLiteral("600"), MoneyToText(CommsClaimAtLine(*Form, 1, clsCommsKind::Calls)));
     const auto screen = opened(QStringLiteral("Enhancements"));

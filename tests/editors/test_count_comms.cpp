@@ -72,7 +72,7 @@ TEST(CountComms, OnlyShiftAloneCountsDown)
     EXPECT_EQ(+1, byOf(Qt::ShiftModifier | Qt::ControlModifier));
     EXPECT_EQ(+1, byOf(Qt::ShiftModifier | Qt::AltModifier));
     EXPECT_EQ(+1, byOf(Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier));
-    // What a keyboard adds of its own is no key that the user holds.
+    // Modifiers added by the keyboard, such as the keypad's, are ignored.
     EXPECT_EQ(-1, byOf(Qt::ShiftModifier | Qt::KeypadModifier));
     EXPECT_EQ(-1, byOf(Qt::ShiftModifier | Qt::GroupSwitchModifier));
 }
@@ -99,7 +99,7 @@ TEST(CountComms, ACountStopsAtNothing)
 
 TEST(CountComms, ACountBelowNothingComesBackToIt)
 {
-    // As a file may hold it that was written by hand.
+    // Content that a hand-edited file may hold.
     const Counted claim;
     claim.person->LettersIn = -5;
     mdCountComms(*claim.person, *mdCommsCountOfKey(Qt::Key_I), +1);

@@ -20,7 +20,7 @@ namespace {
 
 using Editor = const clsScreen &(*)();
 
-/// What the three editors have in common, and what each of them does with VAT.
+/// What the three editors share, and what each does with VAT.
 class DisbursementEditors : public clsScreenTest {
 protected:
     static std::unique_ptr<frmSection> edit(Editor editor, clsXMLRecord *item = nullptr)
@@ -136,7 +136,7 @@ TEST_F(DisbursementEditors, AskForEachFieldThatIsRequiredAndForNoOther)
             EXPECT_TRUE(screen->isVisible()) << missing;
             EXPECT_EQ(QString::fromUtf8(missing), focusedName(*screen));
             EXPECT_EQ(0u, row.items()) << missing;
-            // Blanks only are a text.
+            // Spaces alone are a text.
             type(screen->Box(missing), QStringLiteral(" "));
             press(*screen, "cmdSave");
             EXPECT_FALSE(screen->isVisible()) << missing;
@@ -181,7 +181,7 @@ TEST_F(DisbursementEditors, MakeTheItemAtTheFirstSaveOnly)
     }
 }
 
-/// A total can't be made of an empty amount, and the boxes of a new item start empty.
+/// A total can't be computed from an empty amount, and the boxes of a new item start empty.
 TEST_F(DisbursementEditors, AmountsThatNobodyEnteredAreStoredAsZero)
 {
     for (const clsEditorCase &row : Editors) {

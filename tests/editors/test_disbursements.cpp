@@ -98,7 +98,7 @@ TEST_F(Disbursements, PagesAreSwitchedByKeyboardAlone)
     const auto screen = disbursements();
     for (const int page : {4, 2, 3, 1})
         openPage(*screen, page);
-    // At the ends of the stack nothing more is walked to.
+    // The arrows stop at the first and the last caption.
     const auto all = pages(*screen);
     all[0]->captionBar()->setFocus(Qt::TabFocusReason);
     key(*screen, Qt::Key_Up);
@@ -120,7 +120,7 @@ TEST_F(Disbursements, ItemsAreAddedEditedAndDeletedByKeyboardAlone)
         ASSERT_TRUE(hasFocus(*screen, page.grid)) << focusedName(*screen).toStdString();
         EXPECT_EQ(QString(), count(*screen, page.page));
 
-        // "Add" behind the grid, and the fields of the editor from its first.
+        // Presses "Add" after the grid, and fills in the editor from its first field.
         for (const char *text : {"first", "second"}) {
             const auto fill = [&](frmSection &editor) {
                 for (size_t i = 0; i < page.required.size(); ++i) {
@@ -146,7 +146,7 @@ TEST_F(Disbursements, ItemsAreAddedEditedAndDeletedByKeyboardAlone)
         EXPECT_EQ(2, grid(*screen, page.grid).SelectedRow()) << page.grid;
         EXPECT_EQ(QStringLiteral("2 items"), count(*screen, page.page));
 
-        // The row by Return.
+        // Return opens the row.
         key(*screen, Qt::Key_Up);
         inModal([&] { key(*screen, Qt::Key_Return); },
             [&](frmSection &editor) {
@@ -158,7 +158,7 @@ TEST_F(Disbursements, ItemsAreAddedEditedAndDeletedByKeyboardAlone)
         EXPECT_TRUE(hasFocus(*screen, page.grid)) << page.grid;
         EXPECT_EQ(1, grid(*screen, page.grid).SelectedRow()) << page.grid;
 
-        // Delete, refused and agreed to.
+        // Delete, refused and then confirmed.
         EXPECT_TRUE(user.messages.empty());
         user.answers = {clsUserInterface::No, clsUserInterface::Yes};
         key(*screen, Qt::Key_Delete);
@@ -288,7 +288,7 @@ TEST_F(Disbursements, NothingRefersToThemSoThatNoneIsRefused)
     const auto counsel = Form->AddCounsel();
     const auto item = add("Brief fee", true);
     item->CounselUniqueID = counsel->UniqueID();
-    // The very text that another element holds.
+    // The same text in another element.
     add("twin")->Description = counsel->UniqueID();
     const auto screen = disbursements();
     openPage(*screen, 4);

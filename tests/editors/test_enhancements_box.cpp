@@ -161,7 +161,7 @@ TEST_F(EnhancementsBox, IsLoadedAndStoredByItsRow)
     EXPECT_TRUE(item->IncludeInEnhancements());
     EXPECT_EQ(first, item->EnhancementUniqueID());
 
-    // Without the tick the identity goes too, so that the enhancement is free to be deleted.
+    // Without the tick the identity is cleared too, so that the enhancement can be deleted.
     screen = edited(TimeItem, *item);
     box = &screen->Box<oEnhancementsBox>("oEnhancement");
     click(tick(*box));

@@ -4,7 +4,7 @@
 
 namespace {
 
-/// What the claim says of its experts, on the second page.
+/// The claim's statement on its experts, on the second page.
 class ExpertsStatement : public clsDisbursementTest { };
 
 } // namespace
@@ -49,7 +49,7 @@ TEST_F(ExpertsStatement, TheReasonsHaveTheirAllowanceAndRunOn)
 TEST_F(ExpertsStatement, TheStatementIsLoadedAndStoredOnTheWaysThatStore)
 {
     struct clsWay {
-        const char *button; ///< or an entry of the menu
+        const char *button; ///< or a menu entry
         bool stores;
         const char *leadsTo;
     };
@@ -128,7 +128,7 @@ TEST_F(ExpertsStatement, TheStatementIsStoredInOrder)
         Form = std::make_unique<clsZR3Form>();
         const auto screen = disbursements();
         openPage(*screen, 2);
-        // Both stand ticked only for the test, so that both elements change.
+        // Both are ticked only for this test, so that both elements change.
         no(*screen).setChecked(true);
         yes(*screen).blockSignals(true);
         yes(*screen).setChecked(true);

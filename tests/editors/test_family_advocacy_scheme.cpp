@@ -202,7 +202,7 @@ TEST_F(FamilyAdvocacyScheme, SaveWritesAllFieldsInTheirOrderAndTheyAreShownAgain
         EXPECT_EQ(QByteArray(field.stored), QByteArray(hearing->XMLNode().child(field.element).child_value()));
         EXPECT_EQ(mdTextOf(screen->Box(field.control)), mdTextOf(again->Box(field.control))) << field.control;
     }
-    // 3 units at 86.70 are 260.10, a bolt-on of 12.5 per cent 32.5125, and the payments 201.50.
+    // 3 units at 86.70 are 260.10, a bolt-on of 12.5 per cent is 32.5125, and the payments are 201.50.
     EXPECT_EQ(QStringLiteral("494.1125"), MoneyToText(hearing->Total()));
 }
 
@@ -218,7 +218,7 @@ TEST_F(FamilyAdvocacyScheme, OnlyTheDateIsRequired)
     QTest::keyClicks(screen->focusWidget(), QStringLiteral("1.2.26"));
     const Hearing hearing = saved(*screen);
     EXPECT_EQ(1u, count());
-    // What nobody has been to is a figure all the same.
+    // A field that was never entered still counts as a number.
     EXPECT_EQ(QStringLiteral("0"), MoneyToText(hearing->Total()));
     EXPECT_EQ(QStringLiteral("0.00"), hearing->VATForFAS());
     EXPECT_TRUE(user.messages.empty());
@@ -245,7 +245,7 @@ TEST_F(FamilyAdvocacyScheme, EnterSavesFromEveryField)
     const auto fields = editHearing(hearing);
     for (const clsScreenField &field : fields->Fields()) {
         const auto screen = editHearing(hearing);
-        // Each time another text, to tell a Save from a Cancel.
+        // A different text each time, to tell Save from Cancel.
         const QString typed = QStringLiteral("Leaving %1").arg(QLatin1String(field.row->control));
         type(screen->Box("txtLevelOfCourt"), typed);
         focus(*screen, field.row->control);

@@ -16,7 +16,7 @@ namespace {
 class FeeEarnerGroupCombo : public clsFeeEarnersTest { };
 class FeeEarnerCombo : public clsFeeEarnersTest {
 protected:
-    /// Shows a list alone in its window, with the focus.
+    /// Shows a list alone in a window, with the focus.
     static void showAlone(oFeeEarnerCombo &list)
     {
         list.show();
@@ -75,7 +75,7 @@ TEST_F(FeeEarnerGroupCombo, SettingAGroupTellsOfItOnceAndAnEmptyIdentityDoesNoth
     list.setSelectedFeeEarnerGroupUniqueID(solicitor->UniqueID());
     EXPECT_EQ(QStringLiteral("SOL"), list.currentText());
     EXPECT_EQ(1, changes.size());
-    // Also where it is chosen already.
+    // Even if it is already chosen.
     list.setSelectedFeeEarnerGroupUniqueID(solicitor->UniqueID());
     EXPECT_EQ(2, changes.size());
     list.setSelectedFeeEarnerGroupUniqueID(QString());
@@ -116,7 +116,7 @@ TEST_F(FeeEarnerGroupCombo, DisabledItHasNoneSelectedAndEnabledTheFirst)
     list.setEnabled(true);
     EXPECT_EQ(QStringLiteral("PTR"), list.currentText());
     EXPECT_EQ(3, changes.size());
-    // At each call, and not only where it changes something.
+    // At every call, even if the state doesn't change.
     list.setSelectedFeeEarnerGroupUniqueID(solicitor->UniqueID());
     list.setEnabled(true);
     EXPECT_EQ(QStringLiteral("PTR"), list.currentText());
@@ -125,7 +125,7 @@ TEST_F(FeeEarnerGroupCombo, DisabledItHasNoneSelectedAndEnabledTheFirst)
     list.setEnabled(false);
     EXPECT_EQ(-1, list.currentIndex());
     list.setEnabled(true);
-    // A window that is disabled for a while is no choice of anybody's.
+    // Disabling the window doesn't disable the list's choice.
     list.setSelectedFeeEarnerGroupUniqueID(solicitor->UniqueID());
     window.setEnabled(false);
     EXPECT_EQ(solicitor->UniqueID(), list.SelectedFeeEarnerGroupUniqueID());
@@ -236,7 +236,7 @@ TEST_F(FeeEarnerCombo, EveryChoiceOfTheUsersIsWhereTheNextListStarts)
 TEST_F(FeeEarnerCombo, EveryFunctionKeyOfEveryTierChoosesItsPlace)
 {
     addFeeEarners(97);
-    // The table of the keys once more, by hand.
+    // The expected tiers of keys, written by hand.
     const std::vector<Qt::KeyboardModifiers> tiers {Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier,
         Qt::AltModifier, Qt::ShiftModifier | Qt::ControlModifier, Qt::ControlModifier | Qt::AltModifier,
         Qt::ShiftModifier | Qt::AltModifier, Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier};
@@ -251,7 +251,7 @@ TEST_F(FeeEarnerCombo, EveryFunctionKeyOfEveryTierChoosesItsPlace)
             EXPECT_EQ(place, list.currentIndex());
             EXPECT_EQ(place, Form->DefaultFeeEarnerListIndex());
             EXPECT_FALSE(list.view()->isVisible()) << "F4 opens nothing";
-            // And the same as a screen passes it on.
+            // The same through the function that the screen calls.
             list.setCurrentIndex(96);
             EXPECT_TRUE(list.SelectByKeyCode(112 + key - Qt::Key_F1, held | Qt::KeypadModifier));
             EXPECT_EQ(place, list.currentIndex());

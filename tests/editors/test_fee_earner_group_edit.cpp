@@ -58,7 +58,7 @@ protected:
     }
     static QString amount(const frmSection &screen, const char *name) { return screen.Box<oDecimalBox>(name).Text(); }
     static oCheckBox &tick(const frmSection &screen, const char *name) { return screen.Box<oCheckBox>(name); }
-    /// A rate set whose rates are 1.00 and so on, counted from `first`.
+    /// Adds a rate set with the rates 1.00 and so on, counted from `first`.
     static void addRateSet(const char *name, int first)
     {
         const auto rateSet = Preferences->AddRateSet();
@@ -66,7 +66,7 @@ protected:
         for (size_t i = 0; i < Rates.size(); ++i)
             rateSet->field(QString::fromUtf8(Rates[i].member))->writeText(QString::number(first + int(i)) + ".00");
     }
-    /// Opens the menu of the rate sets as the user does.
+    /// Opens the menu of the rate sets like a user.
     static QMenu &openMenu(frmSection &screen)
     {
         press(screen, "cmdLoad");
@@ -107,7 +107,7 @@ TEST_F(FeeEarnerGroupEdit, SaveWritesAllTwelveFields)
     for (size_t i = 0; i < Rates.size(); ++i)
         EXPECT_EQ(QString::number(i + 10) + QStringLiteral(".00"),
             group->field(QString::fromUtf8(Rates[i].member))->readText());
-    // And the next opening shows them.
+    // They are shown the next time it is opened.
     const auto again = edit(group.get());
     EXPECT_EQ(QStringLiteral("PTR"), again->Box<oAllPurposeBox>("txtReference").Text());
     EXPECT_EQ(QStringLiteral("Partner"), again->Box<oTypeAheadBox>("txtName").Text());
@@ -235,7 +235,7 @@ TEST_F(FeeEarnerGroupEdit, SuggestsTheNamesOfTheClaimsGroupsInTheirOrderAndEachO
     EXPECT_EQ(QStringList({QStringLiteral("Paralegal"), QStringLiteral("Partner"), QStringLiteral("Trainee")}),
         name.Suggestions());
     type(screen->Box("txtReference"), QStringLiteral("P"));
-    // With the keyboard alone: chosen by Down and Return, saved by the next Return.
+    // By keyboard alone: chosen with Down and Return, saved with the next Return.
     QTest::keyClick(screen->focusWidget(), Qt::Key_Tab);
     QTest::keyClicks(&name, QStringLiteral("part"));
     QTest::keyClick(name.completer()->popup(), Qt::Key_Down);
@@ -267,7 +267,7 @@ TEST_F(FeeEarnerGroupEdit, LoadOffersTheRateSetsInTheirOrderOrSaysThatThereAreNo
     EXPECT_EQ(QStringList {QStringLiteral("No items available")}, shown(menu));
     EXPECT_FALSE(menu.actions().constFirst()->isEnabled());
     menu.close();
-    // The next opening has what the preferences then hold.
+    // The next time it is opened it has the preferences' current rate sets.
     addRateSet("London", 1);
     addRateSet("Criminal & Civil", 11);
     addRateSet("-", 21);
@@ -292,7 +292,7 @@ TEST_F(FeeEarnerGroupEdit, ARateSetFillsTheSevenRatesAndNothingElseUntilSave)
     const QString before = group->XMLOutput();
     const auto screen = edit(group.get());
     QMenu &menu = openMenu(*screen);
-    // With the keyboard alone: Down to the first entry and on to the second.
+    // By keyboard alone: Down to the first entry and on to the second.
     QTest::keyClick(&menu, Qt::Key_Down);
     QTest::keyClick(&menu, Qt::Key_Down);
     QTest::keyClick(&menu, Qt::Key_Return);
@@ -344,7 +344,7 @@ TEST_F(FeeEarnerGroupEdit, TheLetterOfLoadBringsItsButtonIntoViewBeforeTheMenu)
     ASSERT_TRUE(QTest::qWaitFor([&] { return !seen(); }));
     const qsizetype mark = load.text().indexOf(u'&');
     ASSERT_GE(mark, 0);
-    // Also where it has the focus and has been scrolled away.
+    // Even if it has the focus and is scrolled out of view.
     for (int time = 1; time <= 2; ++time) {
         QTest::keyClick(screen->focusWidget(), load.text()[mark + 1].toUpper().toLatin1(), Qt::AltModifier);
         auto *menu = screen->findChild<QMenu *>(QStringLiteral("mnuRateSets"));

@@ -110,7 +110,7 @@ TEST_F(FeeEarnerGroups, FeeEarnersCanBeAddedOnlyWhileThereIsAGroup)
     EXPECT_EQ(1, groups(*screen).Rows());
     EXPECT_TRUE(canAddFeeEarner(*screen));
     EXPECT_EQ(QString(), screen->Box("cmdAddFeeEarner").toolTip());
-    // A new group that nothing names has its identity once in the claim, and may go.
+    // The identity of an unused new group occurs once in the claim, and the group can be deleted.
     user.answers = {clsUserInterface::Yes};
     QTest::keyClick(screen->focusWidget(), Qt::Key_Delete);
     expectMessage(
@@ -136,7 +136,7 @@ TEST_F(FeeEarnerGroups, AFirmIsEnteredWithTheKeyboardAlone)
         EXPECT_EQ(++n, groups(*screen).SelectedRow());
     }
     EXPECT_EQ(QStringLiteral("Grade SOL"), Form->FeeEarnerGroup(2)->Name());
-    // On to the other list: its own "Add" has a letter of its own.
+    // To the other list: its "Add" has a different letter.
     const QString caption = screen->Box<oCustomButton>("cmdAddFeeEarner").text();
     const qsizetype mark = caption.indexOf(u'&');
     ASSERT_GE(mark, 0);
@@ -234,7 +234,7 @@ TEST_F(FeeEarnerGroups, AnIdentityThatIsTheWholeTextOfAnotherFieldCountsAsAUse)
     expectMessage("Cannot Delete",
         QStringLiteral("This Fee Earner is in use. Please remove all uses of it before deleting"),
         clsUserInterface::OKOnly);
-    // A part of a text is none.
+    // Part of a longer text doesn't count.
     disbursement->Description = feeEarner->UniqueID() + QStringLiteral(" lunch");
     user.answers = {clsUserInterface::Yes};
     QTest::keyClick(screen->focusWidget(), Qt::Key_Delete);
@@ -263,7 +263,7 @@ TEST_F(FeeEarnerGroups, FeeEarnersAreCreatedForEmptyGroupsOnce)
     addFeeEarner(QStringLiteral("JH"), *full);
     addGroup("A");
     addGroup("B");
-    // The order of the claim and not that of the list.
+    // The order of the claim, not of the list.
     Form->FeeEarnerGroup(2)->OrderID = 9;
     const auto screen = lists();
     const QString question = QStringLiteral("Fee Earners will be created for the following groups\r\n\r\nA, "

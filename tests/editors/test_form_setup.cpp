@@ -83,7 +83,7 @@ TEST_F(FormSetup, AGreyedTickIsKeptAndStored)
     press(*screen, "cmdClose");
     EXPECT_TRUE(Form->IncludePage12());
     EXPECT_FALSE(Form->IncludePage11());
-    // One that is changed and then greyed is stored as it was left.
+    // A box that is changed and then disabled is stored with its last value.
     Form->FormType = QStringLiteral("Claim1A");
     screen = setup();
     QTest::mouseClick(&screen->Box("chkIncludePage11"), Qt::LeftButton, {}, QPoint(12, 12));
@@ -208,16 +208,16 @@ TEST_F(FormSetup, ThePagesAndTheNotesAreReachedByTheLettersOfTheirFrames)
         ASSERT_GE(mark, 0) << frame;
         QTest::keyClick(screen.get(), caption[mark + 1].toLower().toLatin1(), Qt::AltModifier);
     };
-    // Page 1 is disabled for good.
+    // Page 1 is always disabled.
     press("bgPages");
     EXPECT_EQ(QStringLiteral("chkIncludePage2"), focusedName(*screen));
     EXPECT_TRUE(screen->Box<oCheckBox>("chkIncludePage2").Checked()) << "leads there and ticks nothing";
     press("bxNotes");
     EXPECT_EQ(QStringLiteral("txtNotes"), focusedName(*screen));
-    // The captions of fields have their own letters, and those of their frames have none.
+    // The captions of fields have letters, those of their frames have none.
     EXPECT_EQ(QString(), screen->findChild<oFrame *>(QStringLiteral("bxGeneral"))->MarkedCaption());
     EXPECT_EQ(QString(), screen->findChild<oFrame *>(QStringLiteral("bxHeaders"))->MarkedCaption());
-    // A box with bad input lets nobody go.
+    // A box with invalid input keeps the focus.
     clsScreenTest::type(screen->Box("txtVATRate"), QStringLiteral("x"));
     press("bxNotes");
     EXPECT_EQ(QStringLiteral("txtVATRate"), focusedName(*screen));

@@ -1,4 +1,4 @@
-// The totals under the lists.
+// The totals below the lists.
 
 #include "editors/oListTotal.h"
 #include "tests/editors/clsScheduleTest.h"

@@ -13,7 +13,7 @@
 #include <QMenuBar>
 #include <QTimer>
 
-// Undo and redo on the screens with lists, and the line after a delete.
+// Undo and redo on the screens with lists, and the line shown after a deletion.
 
 namespace {
 
@@ -35,7 +35,7 @@ protected:
     oListLine &line() const { return *screen->findChild<oListLine *>(); }
     QTimer &lineTimer() const { return *line().findChild<QTimer *>(QStringLiteral("tmrListLine")); }
 
-    /// The menu Edit as it opens for the user.
+    /// The menu Edit when the user opens it.
     QStringList editEntries() const
     {
         auto *edit = screen->findChild<QMenu *>(QStringLiteral("mnuEdit"));

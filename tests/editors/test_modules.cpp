@@ -139,7 +139,7 @@ TEST_F(Modules, AMenuIsSortedByAPropertyAndTheCollectionIsNot)
     QMenu menu;
     mdLoadMenuFromCollection(menu, Form->FeeEarnerGroupsCollection(), u"Reference", u"Reference");
     EXPECT_EQ(QStringList({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}), shown(menu));
-    // The entry still says where the item stands in its collection.
+    // The entry still has the item's index in its collection.
     EXPECT_EQ(2, menu.actions().at(1)->data().toInt());
     mdLoadMenuFromCollection(
         menu, Form->FeeEarnerGroupsCollection(), u"Reference", u"OrderID", clsMenuOrder::Descending);

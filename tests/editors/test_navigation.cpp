@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Walks through real modal screens: each step waits for the screen of its name, and a walk that meets none ends.
+/// Goes through real modal screens: each step waits for the screen of its name; if it doesn't appear, the test fails.
 class Navigation : public clsScreenTest {
 protected:
     struct Step {
@@ -28,7 +28,7 @@ protected:
         QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { next(); });
     }
 
-    /// As the main window does: what is asked for while a screen is open follows when that one is gone.
+    /// Like the main window: a screen requested while another is open follows after that one closes.
     void open(const QString &text)
     {
         openedTexts << text;
@@ -70,11 +70,11 @@ private:
             const Step step = m_steps.front();
             m_steps.pop_front();
             m_waited = 0;
-            // Outside the timer's own call, in which it would not run again.
+            // Not from within the timer's call, during which it would not fire again.
             QMetaObject::invokeMethod(
                 screen, [step, screen] { step.act(*screen); }, Qt::QueuedConnection);
         } else if (++m_waited > 200) {
-            // A walk that is lost fails and doesn't hang.
+            // A test that is stuck fails instead of hanging.
             ADD_FAILURE() << "stuck on " << (screen ? screen->objectName().toStdString() : "no screen");
             for (QWidget *window : QApplication::topLevelWidgets())
                 if (auto *lost = qobject_cast<frmSection *>(window))

@@ -12,7 +12,7 @@ namespace {
 struct clsList {
     const char *control;
     clsXMLField *(*field)();
-    QStringList codes; ///< in the order of their places, which the files hold
+    QStringList codes; ///< by index, which is what files store
 };
 
 QStringList split(const char *text)
@@ -20,7 +20,7 @@ QStringList split(const char *text)
     return QString::fromUtf8(text).split(u' ');
 }
 
-// Written down by hand: a file holds the place, so that a later version must not move one.
+// Written by hand: files store the index, so a later version must not move an entry.
 // clang-format off
 const clsList Lists[] = {
     {"cmbStageOfCaseEnd", [] { return Form->OutcomeOfCase.field(u"StageOfCaseEnd"); },
@@ -152,7 +152,7 @@ TEST_F(OutcomeScreens, ACaseCanBeOfAllFiveKinds)
     EXPECT_TRUE(stored.PrivateLawChildren());
     EXPECT_TRUE(stored.Finance());
     EXPECT_TRUE(stored.DomesticAbuse());
-    // Of the two questions each has its own pair.
+    // Each of the two questions has its own pair.
     EXPECT_TRUE(stored.OtherProvidersYes());
     EXPECT_FALSE(stored.OtherProvidersNo());
     EXPECT_FALSE(stored.ChangeOfSolicitorHalfFeeYes());

@@ -23,7 +23,7 @@
 #include <QMimeData>
 #include <QScrollBar>
 
-// Rows of a table that come into a list, and the list as a table.
+// Pasting rows of a table into a list, and copying a list as a table.
 
 namespace {
 
@@ -62,7 +62,7 @@ protected:
     }
     oPasteGrid &pasted() const { return *window->findChild<oPasteGrid *>(); }
     QAbstractItemModel &cells() const { return *pasted().model(); }
-    /// The cells of a row, with a bar between, the note last.
+    /// The cells of a row, separated by bars, with the note last.
     QString row(int number) const
     {
         QStringList texts;
@@ -80,7 +80,7 @@ protected:
     {
         QTest::keyClick(window->focusWidget(), Qt::Key(which), modifiers);
     }
-    /// Where the focus is, as row and column from 1, the tick being column 0.
+    /// The cell with the focus, as row and column from 1; the tick is column 0.
     std::pair<int, int> at() const
     {
         const QModelIndex current = pasted().currentIndex();
@@ -100,7 +100,7 @@ protected:
         emit list.activated(list.currentIndex());
     }
 
-    /// Presses a key in the open list screen and uses the window that it opens, until that is closed.
+    /// Presses a key in the open list screen and uses the window that it opens until that is closed.
     void inWindow(const std::function<void()> &opens, const std::function<void(frmPasteItems &)> &act)
     {
         bool isOpened = false;
@@ -131,7 +131,7 @@ protected:
         inWindow([this] { QTest::keyClick(screen->focusWidget(), Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier); },
             act);
     }
-    /// By the keys alone: a window without wrong rows has the focus on "Add".
+    /// By keyboard alone: without wrong rows the focus is on "Add".
     static void pressEnter(frmPasteItems &found) { QTest::keyClick(found.focusWidget(), Qt::Key_Return); }
     void undo() const { QTest::keyClick(screen->focusWidget(), Qt::Key_Z, Qt::ControlModifier); }
     static QStringList schedule()
@@ -328,7 +328,7 @@ TEST_F(PasteItems, CancelAddsNothing)
     const QString before = Form->XMLOutput();
     copy(withFaults());
     paste([](frmPasteItems &found) {
-        // All or nothing: with a wrong row there is no way but to cancel or to put it right.
+        // All or nothing: with a wrong row it can only be corrected or cancelled.
         QTest::keyClick(&found, Qt::Key_A, Qt::AltModifier);
         EXPECT_TRUE(found.isVisible());
         QTest::keyClick(found.focusWidget(), Qt::Key_Escape);

@@ -10,11 +10,11 @@
 
 #include <cerrno>
 
-// The preferences' screen: its general settings, and how it is closed.
+// The preferences' screen: its general settings, and closing it.
 
 using PreferencesScreen = clsPreferencesScreenTest;
 
-// What it shows
+// Content
 
 TEST_F(PreferencesScreen, HasThreePagesAndOneButton)
 {
@@ -189,7 +189,7 @@ TEST_F(PreferencesScreen, AFileThatCanNotBeWrittenIsToldOnceAndNothingIsLost)
     const QByteArray before = file();
     type(screen->Box("txtDefaultVATRate"), QStringLiteral("20"));
     FileSystem().faultPoint = [&](clsFileStep step, const QString &) {
-        // As in a folder that can only be read.
+        // As in a read-only folder.
         const bool refused = step == clsFileStep::OpenToWrite || step == clsFileStep::Delete;
         return refused ? clsFileFault {.systemError = EACCES} : clsFileFault();
     };
@@ -204,7 +204,7 @@ TEST_F(PreferencesScreen, AFileThatCanNotBeWrittenIsToldOnceAndNothingIsLost)
     EXPECT_FALSE(screen->isVisible());
     EXPECT_EQ(before, file());
     EXPECT_EQ(QStringLiteral("20.00"), Preferences->DefaultVATRate()) << "they hold until the end of the program";
-    // And go to the disk by the next close.
+    // Written to the disk by the next close.
     press(*preferences(), "cmdClose");
     EXPECT_EQ(1u, user.messages.size());
     EXPECT_TRUE(file().contains("20%2E00"));
@@ -309,7 +309,7 @@ TEST_F(PreferencesScreen, ANoteSaysWhyWordsAreNotChecked)
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&note));
     const int oneLine = note.sizeHint().height();
     EXPECT_EQ(oneLine, note.heightForWidth(note.sizeHint().width()));
-    // Where there is no room for it, it wraps.
+    // It wraps if there is not enough room.
     EXPECT_LT(note.minimumSizeHint().width(), note.sizeHint().width() / 2);
     EXPECT_GE(note.heightForWidth(note.sizeHint().width() / 2), 2 * oneLine);
 }

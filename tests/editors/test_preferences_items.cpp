@@ -42,7 +42,7 @@ protected:
     {
         return editor(ScreenPreferencesRateSetEdit(), item);
     }
-    /// What stands in the seven rate boxes, in the order of the screen.
+    /// The texts of the seven rate boxes, in the order of the screen.
     static QStringList rates(const frmSection &screen)
     {
         QStringList result;
@@ -61,7 +61,7 @@ protected:
     static QStringList calculated(const char *hourly)
     {
         const auto screen = edit();
-        // As it would be pasted: keys type no pound sign in a test.
+        // Set like a pasted text: tests can't type a pound sign.
         screen->Box("txtHourly").setFocus(Qt::TabFocusReason);
         screen->Box<oDecimalBox>("txtHourly").setText(QString::fromUtf8(hourly));
         press(*screen, "cmdCalculate");
@@ -254,7 +254,7 @@ TEST_F(RateSetEdit, CalculateTakesWhatIsTypedAlsoFromItsKey)
     QTest::keyClick(screen.get(), button->text()[mark + 1].toLower().toLatin1(), Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([&] { return text(*screen, "txtCalls") != QLatin1String("0.00"); }));
     EXPECT_EQ(list({"200.00", "20.00", "10.00", "20.00", "200.00", "200.00", "200.00"}), rates(*screen));
-    // And from the button behind the rate.
+    // Also from the button after the rate.
     type(screen->Box("txtHourly"), QStringLiteral("300"));
     QTest::keyClick(screen->focusWidget(), Qt::Key_Tab);
     EXPECT_EQ(QStringLiteral("cmdCalculate"), focusedName(*screen));
@@ -292,7 +292,7 @@ TEST_F(RateSetEdit, OnlyTheNameIsRequired)
     EXPECT_FALSE(screen->isVisible());
     EXPECT_EQ(1u, user.messages.size());
     ASSERT_EQ(1u, Preferences->RateSetsCollection().size());
-    // A rate that nobody has been to is nothing, and no empty text.
+    // A rate that was never entered is stored as zero, not as an empty text.
     EXPECT_EQ(list({"100.00", "0.00", "0.00", "0.00", "0.00", "0.00", "0.00"}), stored(*Preferences->RateSet(1)));
 }
 

@@ -5,7 +5,7 @@
 
 #include <QMenu>
 
-// The preferences' screen: its two lists, and where it is opened from.
+// The preferences' screen: its two lists, and the places from which it is opened.
 
 using PreferencesLists = clsPreferencesScreenTest;
 
@@ -227,7 +227,7 @@ TEST_F(PreferencesLists, AnItemThatGoesWhileItIsEditedIsNotWritten)
     addReplacement("cd", "below");
     const auto screen = preferences(Replacements);
     onceOpened("frmReplacementEdit", [&](frmSection &edit) {
-        // From the box's own menu the same list can be opened once more, over its editor.
+        // The box's menu can open the same list again, over its editor.
         onceOpened("frmPreferences", [&](frmSection &second) {
             user.answers = {clsUserInterface::Yes};
             grid(second, "sgReplacements").SelectRow(1);
@@ -244,7 +244,7 @@ TEST_F(PreferencesLists, AnItemThatGoesWhileItIsEditedIsNotWritten)
     EXPECT_EQ(QStringList("cd|below"), rows(*screen, "sgReplacements"));
 }
 
-// Opened once more
+// Opened again
 
 TEST_F(PreferencesLists, FromABoxOfTheirOwnThePreferencesOnlyTurnTheirPage)
 {
@@ -267,7 +267,7 @@ TEST_F(PreferencesLists, FromABoxOfTheirOwnThePreferencesOnlyTurnTheirPage)
     EXPECT_TRUE(screen->isVisible());
     EXPECT_EQ(Replacements, screen->Switcher().OpenPage());
     EXPECT_EQ(QStringLiteral("sgReplacements"), focusedName(*screen));
-    // The rows are those of the list, and what was typed is still there.
+    // The rows are those of the list, and the typed text is still there.
     user.answers = {clsUserInterface::Yes, clsUserInterface::Yes};
     grid(*screen, "sgReplacements").SelectRow(1);
     key(*screen, "sgReplacements", Qt::Key_Delete);

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// The signs at the boxes, with the templates as the build made them.
+/// The signs at the boxes, with the built templates.
 class PrintNotes : public clsScreenTest {
 protected:
     void SetUp() override
@@ -74,7 +74,7 @@ TEST_F(PrintNotes, ComeWithoutAPauseInTheTyping)
     auto &editor = *screen->Box<oAllPurposeBox>("txtAddress").findChild<QPlainTextEdit *>();
     const oPrintSign &sign = signOf(*screen, "txtAddress");
     editor.setFocus();
-    // A key each 10 ms, for as long as it takes.
+    // A key every 10 ms until the sign appears.
     for (int i = 0; i < 60 && sign.Note().sign == clsPrintNote::Fits; ++i) {
         QTest::keyClick(&editor, Qt::Key_Return);
         QTest::qWait(10);
@@ -90,7 +90,7 @@ TEST_F(PrintNotes, ShowWhatTheClaimBrings)
     ASSERT_TRUE(waitFor(signOf(*debtor, "txtAddress"), clsPrintNote::RunsOn));
     EXPECT_EQ(QStringLiteral("60 lines; the box prints 5. It will run on to another page"),
         signOf(*debtor, "txtAddress").toolTip());
-    // In a box of one line it stands beside the number.
+    // For a one-line box it is beside the number.
     const auto client = opened(QStringLiteral("Client Details"));
     const oPrintSign &sign = signOf(*client, "txtSurname");
     ASSERT_TRUE(waitFor(sign, clsPrintNote::Smaller));

@@ -21,7 +21,7 @@ namespace {
 
 class RecordScreens : public clsScreenTest {
 protected:
-    /// The element in which a field is stored, found by names written down by hand.
+    /// The element in which a field is stored, by the names in the expected tables.
     static pugi::xml_node elementOf(const clsExpectedScreen &screen, const clsExpectedField &field)
     {
         pugi::xml_node record = Form->XMLNode();
@@ -44,7 +44,7 @@ protected:
         return all;
     }
 
-    /// Gives a field a value of its own by keys and clicks; the content that its element is to have.
+    /// Gives a field a unique value by keys and clicks; returns the expected content of its element.
     static QByteArray fill(frmSection &screen, const clsExpectedField &field)
     {
         QWidget &control = screen.Box(field.control);
@@ -82,9 +82,9 @@ protected:
 void RecordScreens::expectStored(const clsExpectedScreen &expected, const clsExpectedField &field)
 {
     Form = std::make_unique<clsZR3Form>();
-    // The template holds its rate with a plain point, which the first write encodes.
+    // The template has its rate with a plain point, which the first write encodes.
     Form->VATRate = Form->VATRate();
-    // An amount that has the focus at first is a figure as soon as it is left.
+    // An amount that has the focus first becomes a number when it is left.
     if (expected.fields.front().kind == 'm' && &expected.fields.front() != &field)
         elementOf(expected, expected.fields.front()).text().set("0%2E00");
     const auto screen = opened(QString::fromUtf8(expected.section));
@@ -192,7 +192,7 @@ TEST_F(RecordScreens, TickingOneOfAPairClearsTheOtherAndNoOtherPair)
     EXPECT_TRUE(tick(*screen, "chkFurtherClaimsNo").Checked());
     EXPECT_FALSE(tick(*screen, "chkFurtherClaimsYes").Checked());
     EXPECT_TRUE(tick(*screen, "chkInclusiveOfAllSolicitorsNo").Checked());
-    // Unticking clears nothing and ticks nothing: the question is unanswered again.
+    // Unticking neither clears nor ticks anything else: the question is unanswered again.
     click(tick(*screen, "chkLegalHelpYes"));
     EXPECT_FALSE(tick(*screen, "chkLegalHelpYes").Checked());
     EXPECT_FALSE(tick(*screen, "chkLegalHelpNo").Checked());

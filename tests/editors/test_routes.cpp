@@ -14,7 +14,7 @@ struct clsWay {
     const char *nextClaim1A;
 };
 
-// Every way in full, written by hand.
+// All routes, written by hand.
 // clang-format off
 const clsWay Ways[] = {
     {"Client Details", "", "", "Solicitor Details", "Solicitor Details"},

@@ -12,7 +12,7 @@
 
 #include <QLineEdit>
 
-// "Save and Add", the price beneath the time, and "Same Again".
+// "Save and Add", the price below the time, and "Same Again".
 
 namespace {
 

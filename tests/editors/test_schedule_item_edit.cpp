@@ -32,7 +32,7 @@ protected:
         EXPECT_FALSE(screen.isVisible());
         return Form->ScheduleOfTimeItemsCollection().back();
     }
-    /// The five ticks that decide on the rate: the letter of each that is on.
+    /// The five ticks that determine the rate: one letter for each that is set.
     static QString ticks(const frmSection &screen)
     {
         QString result;
@@ -187,7 +187,7 @@ TEST_F(ScheduleItemEdit, TabLeadsToWhereTheDateIsTypedAndTheTickLiesBeforeIt)
     EXPECT_EQ(QStringLiteral("chkShowDate"), focused(*screen));
     key(*screen, Qt::Key_Space);
     EXPECT_EQ(QStringLiteral("31/12/29"), screen->Box<oDateBox>("txtDate").Text());
-    // Without a date the tick is all there is.
+    // Without a date only its tick can take the focus.
     key(*screen, Qt::Key_Tab);
     EXPECT_EQ(QStringLiteral("cmbCode"), focusedName(*screen));
     key(*screen, Qt::Key_Backtab, Qt::ShiftModifier);
@@ -259,7 +259,7 @@ TEST_F(ScheduleItemEdit, AFunctionKeyChoosesTheFeeEarnerFromEveryField)
     for (const clsScreenField &field : screen->Fields()) {
         focus(*screen, field.row->control);
         const QWidget *part = screen->focusWidget();
-        // Lists would open at F4, and menus at F10.
+        // F4 would open a list, and F10 a menu.
         for (const auto &[function, chosen] : {std::pair(Qt::Key_F4, "4"), {Qt::Key_F2, "CD"}, {Qt::Key_F10, "10"}}) {
             key(*screen, function);
             EXPECT_EQ(QString::fromUtf8(chosen), reference(*screen)) << field.row->control;
@@ -268,11 +268,11 @@ TEST_F(ScheduleItemEdit, AFunctionKeyChoosesTheFeeEarnerFromEveryField)
         EXPECT_EQ(QStringLiteral("13"), reference(*screen)) << field.row->control;
         key(*screen, Qt::Key_F2, Qt::ShiftModifier);
         EXPECT_EQ(QStringLiteral("13"), reference(*screen)) << "beyond the list";
-        key(*screen, Qt::Key_F10, Qt::ShiftModifier); // a text's menu elsewhere
+        key(*screen, Qt::Key_F10, Qt::ShiftModifier); // opens a text's menu elsewhere
         EXPECT_FALSE(QApplication::activePopupWidget()) << field.row->control;
         EXPECT_EQ(part, screen->focusWidget()) << field.row->control;
     }
-    // So are the parts of fields that the focus first passes by.
+    // This includes the parts of fields at which the focus doesn't stop first.
     for (QWidget *part : {static_cast<QWidget *>(&dateTick(*screen)),
              static_cast<QWidget *>(screen->Box("oEnhancement").findChild<QComboBox *>()),
              screen->findChild<QWidget *>(QStringLiteral("cmdSave"))}) {
@@ -411,7 +411,7 @@ TEST_F(ScheduleItemEdit, AClaimIsRoundedOnceOnTheSum)
     const Item item = saved(*screen);
     EXPECT_EQ(QStringLiteral("16.67"), MoneyToText(item->BasicClaim()));
     EXPECT_EQ(QStringLiteral("25.01"), MoneyToText(item->Claim()));
-    // Items hold no price of their own.
+    // Items store no price.
     const QString before = item->XMLOutput();
     group->HourlyRate = QStringLiteral("60.00");
     EXPECT_EQ(QStringLiteral("15"), MoneyToText(item->Claim()));

@@ -17,7 +17,7 @@ protected:
     static std::unique_ptr<frmSection> schedule() { return opened(QStringLiteral("Schedule of Time")); }
     static oSGrid &grid(const frmSection &screen) { return screen.Box<oSGrid>("sgScheduleOfTime"); }
     static QTableView &view(const frmSection &screen) { return *grid(screen).findChild<QTableView *>(); }
-    /// The dates that the grid shows, from the top.
+    /// The dates shown in the grid, from the top.
     static QStringList dates(const frmSection &screen)
     {
         QStringList result;
@@ -25,7 +25,7 @@ protected:
             result << row.section(u'|', 1, 1);
         return result;
     }
-    /// The codes of all items by their order.
+    /// The codes of all items, in their order.
     static QString codes()
     {
         QStringList result;
@@ -156,10 +156,10 @@ TEST_F(ScheduleOfTime, TheArrowsChangeTheOrderWithinADay)
     emit arrows->UpClick();
     EXPECT_EQ(QStringLiteral("ACL ACO ACT"), codes());
     EXPECT_EQ(2, grid(*screen).SelectedRow());
-    // The day comes first: an item doesn't pass one of another day.
+    // Items are sorted by day first: an item can't move past one of another day.
     key(*screen, Qt::Key_Up, Qt::AltModifier);
     EXPECT_EQ(QStringLiteral("ACL ACO ACT"), codes());
-    // The selection goes on alone, and then that item is the one to be moved: this is meant.
+    // Only the selection moves, and the next move applies to that item: required behaviour; do not fix.
     EXPECT_EQ(1, grid(*screen).SelectedRow());
     key(*screen, Qt::Key_Down, Qt::AltModifier);
     EXPECT_EQ(QStringLiteral("ACL ACO ACT"), codes());
@@ -249,12 +249,12 @@ TEST_F(ScheduleOfTime, TwentyItemsInARowNeedNoMouseAndNoNeedlessKey)
         EXPECT_EQ(QStringLiteral("sgScheduleOfTime"), focusedName(*screen));
         EXPECT_EQ(n, grid(*screen).SelectedRow());
     }
-    // Beside what is typed: Add, the fee earner, four steps and Save.
+    // Besides the typed characters: Add, the fee earner, four steps and Save.
     EXPECT_EQ(20 * 7 + typed, keys);
     EXPECT_TRUE(user.messages.empty());
     for (int n = 1; n <= 20; ++n) {
         const Item item = Form->ScheduleOfTimeItemByOrderID(n);
-        // Beyond the thirteenth the key leads nowhere, and the choice stays.
+        // Beyond the thirteenth the key does nothing, and the choice stays.
         EXPECT_EQ(QString::number(n <= 13 ? n : 13), item->FeeEarnerReference());
         EXPECT_TRUE(item->dDate().startsWith(QStringLiteral("%1/03/").arg(n, 2, 10, QLatin1Char('0'))));
         EXPECT_EQ(n % 2 ? QStringLiteral("HIN") : QStringLiteral("DST"), item->Code());

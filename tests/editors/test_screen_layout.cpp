@@ -4,7 +4,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
-// Where the rows of a table stand, on tables made for the purpose.
+// Placement of the rows of a table, tested with tables made for it.
 
 namespace {
 
@@ -12,7 +12,7 @@ using enum clsRowKind;
 
 class ScreenLayout : public clsScreenTest {
 protected:
-    /// How many listen to the application's word of where the focus is.
+    /// The number of receivers of the application's focus signal.
     static int focusListeners()
     {
         struct Listeners : QObject {

@@ -33,7 +33,7 @@ TEST(Mnemonics, CaptionsTogetherHaveAsManyLettersAsThereAre)
 {
     clsMnemonics letters;
     letters.reserve(u'S');
-    // Each has its first letter where it can. "Date" gives its own up for "Dad", which has to leave the A to "AA".
+    // Each gets its first letter if possible. "Date" gives up its own to "Dad", which must leave the A to "AA".
     EXPECT_EQ(
         QStringList({QStringLiteral("Dat&e"), QStringLiteral("&Tad"), QStringLiteral("&Dad"), QStringLiteral("&AA")}),
         letters.marked(

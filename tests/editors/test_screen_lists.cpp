@@ -12,7 +12,7 @@
 
 #include <functional>
 
-// Lists of items on a screen, their pages, and ticks beside ticks, on tables made for the purpose.
+// Lists of items on a screen, their pages, and ticks side by side, with tables made for the tests.
 
 namespace {
 
@@ -74,7 +74,7 @@ const clsItemList Counsels {
     .changed = [] { ++changes; },
 };
 
-/// Nothing can be added while there is no enhancement, and nothing is edited or deleted.
+/// Nothing can be added until there is an enhancement, and nothing can be edited or deleted.
 const clsItemList Enhancements {
     .orderable = false,
     .columns = {{"Rate", "Rate", 100, clsGridAlignment::Right}},
@@ -148,7 +148,7 @@ protected:
             result << Form->CounselByOrderID(order)->Name();
         return result;
     }
-    /// Does something in the editor that the next step opens; whoever expects none to open asks `editorsOpened`.
+    /// Calls `act` on the editor that the next step opens; tests that expect none check `editorsOpened`.
     void inEditor(std::function<void(frmSection &)> act)
     {
         QTimer::singleShot(0, qApp, [this, act = std::move(act)] {
@@ -272,7 +272,7 @@ TEST_F(ScreenLists, WhatPreventsAddingIsSaidAndAskedAgainAfterEveryChange)
     grid(*screen, "sgEnhancements").setFocus(Qt::TabFocusReason);
     QTest::keyClick(screen->focusWidget(), Qt::Key_Insert);
     EXPECT_EQ(0, editorsOpened);
-    // The other list's entry makes one, and every list of the screen shows it.
+    // The other list's entry adds an item, which every list of the screen shows.
     screen->findChild<QAction *>(QStringLiteral("mnuEnhance"))->trigger();
     EXPECT_EQ(1, actionsRun);
     EXPECT_TRUE(add.isEnabled());
@@ -303,7 +303,7 @@ TEST_F(ScreenLists, AFieldBehindAListStandsBesideItsAdd)
     EXPECT_GT(
         list.mapTo(screen.get(), list.rect().topRight()).x(), tick.mapTo(screen.get(), tick.rect().topRight()).x());
     EXPECT_GT(middle(add).y(), list.mapTo(screen.get(), list.rect().bottomLeft()).y());
-    // The tick is a field like any other.
+    // The tick works like any other field.
     QTest::mouseClick(&screen->Box("chkExcludeNonAdvocacy"), Qt::LeftButton, {}, tick.rect().center());
     press(*screen, "cmdClose");
     EXPECT_TRUE(Form->ExcludeNonAdvocacy());
@@ -325,7 +325,7 @@ TEST_F(ScreenLists, PagesOpenOneAtATimeByTheirLettersAndCountTheirItems)
     EXPECT_EQ(2, switcher.OpenPage());
     EXPECT_EQ(QStringLiteral("txtNotes"), focusedName(*screen));
     EXPECT_FALSE(screen->Box("sgCounsel").isVisible());
-    // Each page's own "Add" has the same letter.
+    // "Add" has the same letter on each page.
     switcher.SwitchTo(1);
     grid(*screen).setFocus(Qt::TabFocusReason);
     inEditor([](frmSection &open) {
@@ -335,7 +335,7 @@ TEST_F(ScreenLists, PagesOpenOneAtATimeByTheirLettersAndCountTheirItems)
     QTest::keyClick(screen->focusWidget(), Qt::Key_A, Qt::AltModifier);
     EXPECT_EQ(3, grid(*screen).Rows());
     EXPECT_EQ(QStringLiteral("3 items"), switcher.Page(1)->captionBar()->accessibleDescription());
-    // What is typed on a closed page is stored like the rest.
+    // Text typed on a page that is now closed is stored like the rest.
     type(screen->Box("txtNotes"), QStringLiteral("kept"));
     press(*screen, "cmdClose");
     EXPECT_EQ(QStringLiteral("kept"), Form->Notes());

@@ -16,7 +16,7 @@
 #include <QMenuBar>
 #include <QSignalSpy>
 
-// What a table can say beyond what the screens of today say with it, on tables made for the purpose.
+// Features of screen tables beyond those that the screens use today, with tables made for the tests.
 
 namespace {
 
@@ -65,7 +65,7 @@ const clsScreen Editor {
     .fileMenu = false,
 };
 
-/// A section with a list by place, two groups of ticks, ticks that are no pair, and ways to other sections.
+/// A section with a list stored by index, two groups of ticks, independent ticks, and routes to other sections.
 const clsScreen Outcome {
     .name = "frmOutcomeOfCase",
     .header = "Outcome of Case",
@@ -156,7 +156,7 @@ TEST_F(ScreenRows, AnEditorOfAnItemShowsAndChangesThatItem)
     type(screen->Box("txtLettersIn"), QStringLiteral("9"));
     press(*screen, "cmdSave");
     EXPECT_EQ(QStringLiteral("new"), item->Reference());
-    // A control of its own stores as it says, an unbound one not at all.
+    // A control with its own code stores as that says, an unbound one not at all.
     EXPECT_EQ(QStringLiteral("old!"), item->GroupUniqueID());
     EXPECT_EQ(3, item->LettersIn());
     EXPECT_EQ(1u, Form->FeeEarnersCollection().size());
@@ -177,7 +177,7 @@ TEST_F(ScreenRows, AWholeNumberIsStoredAsItsBoxTakesIt)
         EXPECT_FALSE(screen->isVisible()) << row.typed;
         EXPECT_EQ(row.stored, item->Calls()) << row.typed;
     }
-    // What is written to a box is judged by nobody.
+    // Text set by the program is not validated.
     const auto screen = edit(item.get());
     auto &box = screen->Box<oIntegerBox>("txtCallCount");
     box.setText(QString());
@@ -217,7 +217,7 @@ TEST_F(ScreenRows, AClosedListEndsATextThatItHasNoRoomForInAnEllipsis)
     const QString text = QStringLiteral("Judicial review of a decision of the local housing authority");
     cut.addItem(text);
     cut.resize(200, cut.sizeHint().height());
-    // The same list with a text that ends so by itself looks the same.
+    // A list with this shortened text looks the same.
     const auto looksLike = [&](const QString &shorter) {
         oScreenList list;
         list.addItem(shorter);
@@ -326,7 +326,7 @@ TEST_F(ScreenRows, ARuleMayRefuseASaveBeforeAnythingIsMade)
         ++asked;
         return agrees;
     });
-    // What is required comes first.
+    // Required fields are checked first.
     press(*screen, "cmdSave");
     EXPECT_EQ(0, asked);
     type(screen->Box("txtReference"), QStringLiteral("JH"));

@@ -18,7 +18,7 @@
 
 namespace {
 
-/// A box that text is typed into.
+/// Whether text can be typed into a control.
 bool isBox(const QWidget *control)
 {
     return qobject_cast<const oAllPurposeBox *>(control) || qobject_cast<const oDateBox *>(control)
@@ -32,7 +32,7 @@ bool isMultiLine(const QWidget *control)
     return box && box->MultiLine();
 }
 
-/// The letters that captions mark with an ampersand.
+/// Adds the letters marked with an ampersand in a caption.
 void noteLetters(const QString &caption, std::multiset<QChar> &letters)
 {
     for (qsizetype i = 0; i + 1 < caption.size(); ++i) {
@@ -44,7 +44,7 @@ void noteLetters(const QString &caption, std::multiset<QChar> &letters)
     }
 }
 
-/// The key that leads to the field of a label: a letter of the caption, or else a digit.
+/// The mnemonic of a label: a letter of the caption, or otherwise a digit.
 QChar keyOf(const oFieldLabel &label)
 {
     std::multiset<QChar> letters;
@@ -52,7 +52,7 @@ QChar keyOf(const oFieldLabel &label)
     return letters.empty() ? label.Digit() : *letters.begin();
 }
 
-/// All letters and digits that are in force on a window.
+/// All mnemonics that are active in a window.
 std::multiset<QChar> lettersOf(const frmSection &screen)
 {
     std::multiset<QChar> letters;
@@ -73,7 +73,7 @@ std::multiset<QChar> lettersOf(const frmSection &screen)
     return letters;
 }
 
-/// Whether a row of the open page is the button "Add"; one within a control of several parts has no letter.
+/// Whether the open page has the button "Add"; one inside a control of several parts has no letter.
 bool hasAdd(const std::vector<clsScreenField> &fields)
 {
     return std::any_of(fields.begin(), fields.end(), [](const clsScreenField &field) {
@@ -187,7 +187,7 @@ TEST_P(EveryScreen, AFieldIsReadOutWithTheWordsOfItsCaption)
             = QString::fromUtf8(expected.fields[i].answer ? expected.fields[i].answer : expected.fields[i].caption);
         while (caption.endsWith(u':') || caption.endsWith(u'*'))
             caption.chop(1);
-        // A caption without words has others in its place.
+        // A control without a caption has another text as its name.
         if (!saysSomething(caption))
             continue;
         openPageOf(field);
@@ -207,7 +207,7 @@ TEST_P(EveryScreen, ALetterThatNothingHasIsNotTyped)
         const QString before = mdTextOf(*field.control);
         for (const Qt::KeyboardModifiers held :
             {Qt::KeyboardModifiers(Qt::AltModifier), Qt::AltModifier | Qt::ShiftModifier}) {
-            // Straight to the box, as a letter comes that no caption and no menu takes.
+            // Sent to the box itself, like a letter that belongs to no caption or menu.
             QKeyEvent key(QEvent::KeyPress, Qt::Key_9, held, QStringLiteral("9"));
             QApplication::sendEvent(part, &key);
             EXPECT_TRUE(key.isAccepted()) << nameOf(field);
@@ -222,7 +222,7 @@ TEST_P(EveryScreen, NoLetterIsGivenTwice)
         const std::multiset<QChar> letters = lettersOf(*screen);
         for (const QChar letter : letters)
             EXPECT_EQ(1u, letters.count(letter)) << QString(letter).toStdString();
-        // The letters of the buttons are the same on every screen, and where a button is missing its letter is free.
+        // The buttons have the same letters on every screen; if a button is missing its letter is free.
         const auto has = [this](const char *button) { return screen->findChild<QWidget *>(QString::fromUtf8(button)); };
         EXPECT_EQ(screen->Screen().fileMenu ? 1u : 0u, letters.count(u'F'));
         EXPECT_EQ(has("cmdSave") ? 1u : 0u, letters.count(u'S'));
@@ -294,12 +294,12 @@ TEST_P(EveryScreen, EnterPressesTheDefaultFromEveryFieldOfOneLine)
         user.messages.clear();
         const clsScreenField &field = screen->Fields()[i];
         openPageOf(field);
-        // A grid opens its row, and a button is pressed itself.
+        // A grid opens its row, and a button is pressed.
         if (!canEnter(field) || qobject_cast<oSGrid *>(field.control) || qobject_cast<oCustomButton *>(field.control))
             continue;
         field.control->setFocus(Qt::TabFocusReason);
         QTest::keyClick(screen->focusWidget(), Qt::Key_Return);
-        // The editor of an item is empty and may refuse to be saved so, which shows that it was asked to be.
+        // The editor of an item is empty and may refuse to save; the message shows that Save was pressed.
         const bool pressed = !screen->isVisible() || (isEditor() && !user.messages.empty());
         EXPECT_NE(isMultiLine(field.control), pressed) << nameOf(field);
         ++asked;

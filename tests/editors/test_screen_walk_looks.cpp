@@ -10,16 +10,16 @@
 #include <map>
 #include <set>
 
-// The look of every screen: nothing is cut, and everything stands where it belongs.
+// The look of every screen: nothing is cut off, and everything is in its place.
 
 namespace {
 
-/// Every widget of a screen that shows something of its own.
+/// The visible fields, labels and buttons of a screen.
 std::vector<QWidget *> partsOf(const frmSection &screen, const std::vector<clsScreenField> &fields)
 {
     std::vector<QWidget *> result;
     for (const clsScreenField &field : fields) {
-        // A note that has nothing to say has no place.
+        // An empty note takes no space.
         if (qobject_cast<QLabel *>(field.control) && field.control->isHidden())
             continue;
         result.push_back(field.control);
@@ -58,14 +58,14 @@ void expectNotCut(const QWidget &part)
 
 void expectNoOverlap(const QWidget &one, const QWidget &other)
 {
-    // A tick has room for its ring around it, which may reach under its neighbour; and so has a button.
+    // Ticks and buttons have room for their focus ring around them, which may overlap their neighbour.
     const bool ring = qobject_cast<const oCheckBox *>(&one) || qobject_cast<const oCheckBox *>(&other);
     if (&one == &other || ring || one.parentWidget() != other.parentWidget() || qobject_cast<const QPushButton *>(&one))
         return;
     EXPECT_FALSE(one.geometry().intersects(other.geometry())) << nameOf(one) << " and " << nameOf(other);
 }
 
-/// Which of the parts side by side of its frame a field stands in, counted over all of them.
+/// The column of each field in its frame.
 std::map<const clsScreenRow *, int> columnsOf(const clsScreen &screen)
 {
     std::map<const clsScreenRow *, int> columns;
@@ -81,7 +81,7 @@ std::map<const clsScreenRow *, int> columnsOf(const clsScreen &screen)
     return columns;
 }
 
-/// The control itself, or what stands at its left edge where it has several parts.
+/// The control itself, or its leftmost part.
 QWidget *firstPart(QWidget &control)
 {
     if (!control.focusProxy())
@@ -147,7 +147,7 @@ TEST_P(EveryScreen, NothingIsCutAtItsOwnSize)
     onEachPage([&] {
         QTest::qWait(20);
         look.expectNothingCut(openFields());
-        // And nothing needs scrolling.
+        // Nothing needs scrolling.
         EXPECT_EQ(0, page().verticalScrollBar()->maximum());
     });
 }
@@ -200,7 +200,7 @@ TEST_P(EveryScreen, TheBoxesOfAColumnBeginAtOneEdge)
                     continue;
                 const int frame = field.control->parentWidget()->mapTo(screen.get(), QPoint()).x();
                 const auto column = columns.find(field.row);
-                // A tick's visible edge lies inside the room for its ring, also that of a tick with further parts.
+                // A tick's visible edge is inside the room for its ring, even if it has further parts.
                 const int ring = qobject_cast<oCheckBox *>(firstPart(*field.control)) ? Theme::RingRoom : 0;
                 edges[{frame, column == columns.end() ? 0 : column->second}].insert(
                     field.control->mapTo(screen.get(), QPoint()).x() + ring);
@@ -224,7 +224,7 @@ TEST_P(EveryScreen, ACaptionWiderThanTheColumnOfLabelsStandsOverItsFieldAtTheLef
             const QRect box(field.control->mapTo(screen.get(), QPoint()), field.control->size());
             const int caption = field.label->fontMetrics().horizontalAdvance(field.label->Caption());
             if (caption > Theme::scaled(300) || field.row->flags & CaptionAbove) {
-                // A box that begins with a tick has the room for its ring at its left.
+                // A box that begins with a tick has the room for its ring on its left.
                 const int ring = field.control->property("ringRoom").toBool() ? Theme::RingRoom : 0;
                 EXPECT_LT(label.bottom(), box.top() + ring) << name;
                 EXPECT_EQ(label.left(), box.left() + ring) << name;
@@ -255,10 +255,10 @@ TEST_P(EveryScreen, WhateverHasTheFocusIsInViewWithSomeRoomAroundIt)
         }
         if (!canEnter(field))
             continue;
-        // The first field had it before the window was made so low.
+        // The first field already had the focus when the window was made this low.
         screen->focusWidget()->clearFocus();
         field.control->setFocus(Qt::TabFocusReason);
-        // Of a control of several parts, the one that has the focus.
+        // In a control of several parts, the one that has the focus.
         const QWidget &part = *screen->focusWidget();
         const QRect place(part.mapTo(page().viewport(), QPoint()), part.size());
         const int first = part.mapTo(&content(), QPoint()).y();

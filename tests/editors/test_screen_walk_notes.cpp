@@ -6,7 +6,7 @@
 
 #include <set>
 
-// The room for the notes of every screen: a note at any amount or date covers nothing and is not cut.
+// The space for notes on every screen: a note at any amount or date covers nothing and is not cut off.
 
 namespace {
 
@@ -25,7 +25,7 @@ const oBoxNote::clsNote NoteOfAmount {
 
 QRect placeOf(const QWidget &part, const QWidget &page)
 {
-    // A button has room for its ring around it.
+    // A button has room for its focus ring around it.
     const int ring = qobject_cast<const QPushButton *>(&part) ? Theme::RingRoom : 0;
     return QRect(part.mapTo(&page, QPoint()), part.size()).adjusted(ring, ring, -ring, -ring);
 }

@@ -12,7 +12,7 @@
 
 #include <set>
 
-// Every screen against what is written down of it.
+// Every screen against its expected content.
 
 namespace {
 
@@ -34,7 +34,7 @@ QString frameOf(const QWidget *control)
     return control ? control->objectName() : QString();
 }
 
-/// The frames of a screen, each with its name and its caption.
+/// The frames of a screen, each with its name and caption.
 QStringList framesOf(const QWidget &screen)
 {
     QStringList result;
@@ -48,7 +48,7 @@ template <class Control> bool is(const QWidget *control)
     return qobject_cast<const Control *>(control);
 }
 
-/// 'o' for whatever is none of the known kinds.
+/// 'o' for any other kind.
 char kindOf(const QWidget *control)
 {
     if (is<oAllPurposeBox>(control))
@@ -70,7 +70,7 @@ char kindOf(const QWidget *control)
     return is<oCustomButton>(control) ? 'b' : 'o';
 }
 
-/// The caption that a field shows or, where it shows none, is read out with.
+/// The caption that a field shows or, if it shows none, its accessible name.
 void expectCaption(const clsExpectedField &field, const clsScreenField &found)
 {
     const QString caption = QString::fromUtf8(field.answer ? field.answer : field.caption);
@@ -157,11 +157,11 @@ TEST_P(EveryScreen, AQuestionStandsOverItsAnswersAndItsLetterLeadsToTheFirst)
         openPageOf(screen->Fields()[i]);
         QTest::qWait(20);
         QWidget &answer = *screen->Fields()[i].control;
-        // "Yes" alone would say nothing to whoever hears it.
+        // "Yes" alone would tell a listener nothing.
         EXPECT_EQ(mdSpokenCaption(QString::fromUtf8(field.caption)),
             QAccessible::queryAccessibleInterface(&answer)->text(QAccessible::Description))
             << field.control;
-        // Two frames may ask in the same words.
+        // Two frames may have the same question.
         oFieldLabel *question = nullptr;
         for (oFieldLabel *label : screen->findChildren<oFieldLabel *>())
             if (label->Caption() == QString::fromUtf8(field.caption) && frameOf(label) == frameOf(&answer))
@@ -174,7 +174,7 @@ TEST_P(EveryScreen, AQuestionStandsOverItsAnswersAndItsLetterLeadsToTheFirst)
         last = QString::fromUtf8(field.caption);
         EXPECT_EQ(&answer, question->buddy());
         const qsizetype mark = question->text().indexOf(u'&');
-        // A screen of many captions runs out of letters.
+        // A screen with many captions runs out of letters.
         if (mark < 0)
             continue;
         QTest::keyClick(screen.get(), question->text()[mark + 1].toLower().toLatin1(), Qt::AltModifier);

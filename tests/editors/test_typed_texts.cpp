@@ -1,4 +1,4 @@
-// What is typed in open screens and not stored, as the journal keeps it.
+// The journal's record of texts typed in open screens and not stored.
 
 #include "controls/oAllPurposeBox.h"
 #include "editors/mdEditItem.h"

@@ -19,11 +19,11 @@
 
 #include <memory>
 
-/// The page templates as the build made them.
+/// The built page templates.
 inline const QString TestTemplates = QStringLiteral(ZR3_TEMPLATES);
 
-/// A test that exports a claim into a folder of its own, with a scripted user and everything written down that goes to
-/// the word processor. The claim begins empty, with the defaults of a new one.
+/// Base of tests that export a claim to a temporary folder, with a scripted user and a record of everything sent to the
+/// word processor. The claim starts empty, with the defaults of a new one.
 class clsExportTest : public testing::Test {
 protected:
     void SetUp() override
@@ -39,7 +39,7 @@ protected:
         SetProgramFolder(QString());
     }
 
-    /// Exports the claim; what the driver of its form type gives.
+    /// Exports the claim; returns the result of its form type's driver.
     bool exportClaim()
     {
         run = std::make_unique<clsExport>(clsExport {.form = form, .templatesFolder = templates});
@@ -57,7 +57,7 @@ protected:
                 ->writeBoolean(std::find(pages.begin(), pages.end(), page) != pages.end());
     }
 
-    /// The fee earner of all items: 60 pounds an hour, "AB".
+    /// The fee earner of all items: "AB", at 60 pounds an hour.
     QString feeEarner()
     {
         if (!m_feeEarner.isEmpty())
@@ -119,7 +119,7 @@ protected:
     }
 
 public:
-    // What fills a grid with rows.
+    // Fillers of the grids' rows.
 
     void addFees(int count)
     {
@@ -165,10 +165,10 @@ protected:
         return item;
     }
 
-    // What went to a sheet, which is named as "7(1)".
+    // What was written to a sheet, which is named as "7(1)".
 
     QString mark(const QByteArray &sheet) const { return value(sheet, "{or}"); }
-    /// What replaced a placeholder, each time that it was replaced.
+    /// All texts that replaced a placeholder, in order.
     QString value(const QByteArray &sheet, const char *placeholder) const
     {
         return recorder->replacements(QString::fromLatin1(sheet), QString::fromLatin1(placeholder)).join(u'|');
@@ -182,7 +182,7 @@ protected:
     QString templateOf(const QByteArray &sheet) const { return recorder->templateOf(QString::fromLatin1(sheet)); }
     static QStringList names(const char *all) { return QString::fromLatin1(all).split(u' '); }
 
-    /// "Exporting Page 1 1/11": the steps told to the user.
+    /// The reported steps, as "Exporting Page 1 1/11".
     QStringList steps() const
     {
         QStringList told;
@@ -222,7 +222,7 @@ protected:
         ASSERT_TRUE(out.open(QIODevice::WriteOnly)) << qPrintable(file);
         ASSERT_EQ(bytes.size(), out.write(bytes));
     }
-    /// A text of that many characters: words of four letters with a blank after each, never a blank at its end.
+    /// A text of that many characters: words of four letters separated by spaces, without a space at the end.
     static QString words(int length)
     {
         QString text = QStringLiteral("word ").repeated(length / 5 + 1).left(length);
@@ -230,7 +230,7 @@ protected:
             text.back() = u'x';
         return text;
     }
-    /// A description that is cut into that many lines: words of 59 letters, each of which fills a line.
+    /// A description that is split into that many lines: words of 59 letters, each of which fills a line.
     static QString note(int lines)
     {
         QStringList words;

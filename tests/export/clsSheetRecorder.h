@@ -9,8 +9,8 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
-/// Writes down what an export sends to the word processor, sheet by sheet, in the form of the samples' sheets.json.
-/// A sheet file that is made twice stands once, as it was last made.
+/// Records what an export sends to the word processor, by sheet, in the format of the samples' sheets.json. If a sheet
+/// file is created twice, only the last version is kept.
 class clsSheetRecorder final : public clsMSWordObserver {
 public:
     clsSheetRecorder(const clsExport &run, const QString &templatesFolder)
@@ -21,7 +21,7 @@ public:
             m_templates[bytesOf(folder.filePath(file))] = QFileInfo(file).completeBaseName();
     }
 
-    /// All that the samples hold.
+    /// The record in the format of the samples.
     QJsonObject toJson() const
     {
         QJsonArray order;
@@ -53,7 +53,7 @@ public:
     QString templateOf(const QString &name) const { return at(name).templateName; }
     QJsonArray opsOf(const QString &name) const { return at(name).ops; }
 
-    /// What was done to a sheet, one short text for each operation: "down 9", "replace {or} = (2)", "cell 1,234.50".
+    /// The operations on a sheet, each as a short text: "down 9", "replace {or} = (2)", "cell 1,234.50".
     QStringList linesOf(const QString &name) const
     {
         QStringList lines;
@@ -84,7 +84,7 @@ public:
         }
         return found;
     }
-    /// The cells of a sheet's grids, row by row, each ended by the move to the next row.
+    /// The cells of a sheet's grids by row; each row ends with the move to the next one.
     QList<QStringList> rows(const QString &name) const
     {
         QList<QStringList> all;
@@ -131,7 +131,7 @@ public:
         m_open << name;
         m_typesNotes = false;
         const int made = int(m_run.ExportFileCollection.count(path));
-        if (made == 0) { // the document in which the sheets are joined; it begins as page 1's sheet
+        if (made == 0) { // the document in which the sheets are joined starts as page 1's sheet
             m_combined = QJsonArray {QStringLiteral("1(1).doc")};
             return;
         }
@@ -147,7 +147,7 @@ public:
     void movedRight(int n) override { add({QStringLiteral("right"), n}); }
     void movedToRowStart() override
     {
-        // Only the additional information goes to the start of a row before it types.
+        // Only the additional information moves to the start of a row before typing.
         m_typesNotes = true;
         add({QStringLiteral("rowstart")});
     }
@@ -208,7 +208,7 @@ private:
 
     const clsExport &m_run;
     QHash<QByteArray, QString> m_templates;
-    /// The open documents, the one that is worked on last: a page stays open while its continuation sheets are made.
+    /// The open documents, the current one last: a page stays open while its continuation sheets are created.
     QStringList m_open;
     bool m_typesNotes = false;
     QHash<QString, int> m_made;

@@ -5,9 +5,9 @@
 #include <QString>
 #include <QStringList>
 
-// What stands in a document, for the tests to read.
+// The text of a document, for the tests.
 
-/// The main part's tree of a document on the disk.
+/// The XML tree of the main part of a document on the disk.
 struct clsDocumentTree {
     explicit clsDocumentTree(const QString &path)
         : package(clsWordPackage::fromFile(path))
@@ -17,7 +17,7 @@ struct clsDocumentTree {
     pugi::xml_node body;
 };
 
-/// All texts below a node, as they follow each other.
+/// All texts below a node, concatenated.
 inline QString mdTextBelow(const pugi::xml_node &node)
 {
     QString text;
@@ -32,7 +32,7 @@ inline QString mdDocumentText(const QString &path)
     return mdTextBelow(document.body);
 }
 
-/// The placeholders that stand in a document, in the order of the text.
+/// The placeholders in a document, in the order of the text.
 inline QStringList mdPlaceholdersIn(const QString &path)
 {
     const QString text = mdDocumentText(path);

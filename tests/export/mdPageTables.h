@@ -3,14 +3,14 @@
 #include <initializer_list>
 #include <vector>
 
-// The pages of a government form as tables, written down a second time to test those of the export: which placeholder
-// shows which property, in what order and class.
+// The expected pages of the forms as tables, written by hand to test those of the export: which placeholder shows which
+// property, in what order and with what class.
 
 enum class PageClass { Text, Tick, Money };
 
 struct PageRow {
     const char *placeholder;
-    const char *property; ///< "Section.Property", or a property of the claim itself; null for what is worked out
+    const char *property; ///< "Section.Property", or a property of the claim itself; null if computed
     PageClass fill;
 };
 
@@ -19,7 +19,7 @@ struct PageTable {
     std::vector<PageRow> rows;
 };
 
-/// A continuation template and what it must hold.
+/// A continuation template and its expected content.
 struct ContinuationTemplate {
     const char *name;
     std::vector<const char *> placeholders; ///< in alphabetical order
@@ -29,18 +29,18 @@ struct FormTables {
     const char *formType;
     std::vector<PageTable> pages;
     std::vector<ContinuationTemplate> continuations;
-    unsigned ticks; ///< how many tick boxes the form has
+    unsigned ticks; ///< the form's number of tick boxes
 };
 
 extern const FormTables Claim1Tables;
 extern const FormTables Claim1ATables;
 
-// What both forms have, written once.
+// What both forms share.
 std::vector<PageRow> FirstPageOfBoth(); ///< from the stage number to the costs of the previous advice
 std::vector<PageRow> CommunicationsOfBoth(); ///< letters out, letters in and calls, and their total
 std::vector<PageRow> CostsAwardedAmountsOfBoth();
 std::vector<PageRow> CostsAwardedOfBoth(); ///< what follows the amounts
 PageTable DebtorsPageOfBoth(int number);
 
-/// The rows of several tables, one table behind the other.
+/// The rows of several tables, one after the other.
 std::vector<PageRow> Joined(std::initializer_list<std::vector<PageRow>> tables);

@@ -1,6 +1,6 @@
 #include "tests/export/clsExportTest.h"
 
-// The additional information: how many lines a note takes, and on which sheet it stands.
+// The additional information: how many lines a note takes, and on which sheet it is printed.
 
 namespace {
 
@@ -31,7 +31,7 @@ TEST_F(AdditionalInformation, ANoteAsItIsTyped)
         QStringLiteral("rowstart"),
         QStringLiteral("newpara"),
         QStringLiteral("tabs 1"),
-        QStringLiteral("settext 2"), // the item's place on the bill: the first has no description
+        QStringLiteral("settext 2"), // the item's number on the bill: the first has no description
         QStringLiteral("tabs 1"),
         QStringLiteral("settext Attending the client at length about the hearing, and"),
         QStringLiteral("newpara"),
@@ -41,7 +41,7 @@ TEST_F(AdditionalInformation, ANoteAsItIsTyped)
         QStringLiteral("settext ") + QString(42, QChar(0x2014)),
         QStringLiteral("replace {or}  "),
         QStringLiteral("open"),
-        QStringLiteral("down 23"), // 20, and the two lines and the rule
+        QStringLiteral("down 23"), // 20, plus the two lines and the rule
         QStringLiteral("open"),
         QStringLiteral("replace {or}  "),
         QStringLiteral("replace {1} \u00A8 [tick]"),
@@ -72,8 +72,8 @@ TEST_F(AdditionalInformation, NineLinesDoNotFitTheFirstSheetWhichStaysEmpty)
     EXPECT_EQ(QStringLiteral("Claim1 P6 Additional Info Cont"), recorder->templateOf(QStringLiteral("6(2)")));
     EXPECT_EQ(QStringLiteral("down 20"), secondDown("6(1)")) << "no line was used";
     EXPECT_EQ(QStringLiteral("down 3"), firstDown("6(2)"));
-    // The very last item spilled, so that the sheet's own mark is empty; the experts' grid then takes the last number,
-    // and the page's "(1)" finds no mark left.
+    // Only the very last item overflowed, so the sheet's own mark is empty; the experts' grid then uses the last
+    // number, and there is no mark left for the page's "(1)".
     EXPECT_EQ(QStringLiteral(" |(2)|(1)"), mark("6(1)"));
     EXPECT_EQ(QStringLiteral("(2)"), mark("6(2)"));
 }
@@ -84,7 +84,7 @@ TEST_F(AdditionalInformation, OneLineOfASheetAlwaysStaysEmpty)
     EXPECT_EQ(QStringList {QStringLiteral("6(1)")}, order());
     EXPECT_EQ(QStringLiteral("down 29"), secondDown("6(1)"));
 
-    exportWith({1}); // 9 and 2 are beyond the budget
+    exportWith({1}); // 9 and 2 exceed the limit
     EXPECT_EQ(2, notesOn("6(1)"));
     EXPECT_EQ(1, notesOn("6(2)"));
 }
@@ -100,12 +100,12 @@ TEST_F(AdditionalInformation, ANoteGoesWholeToTheNextSheet)
 
 TEST_F(AdditionalInformation, AFurtherSheetTakesFiftyLines)
 {
-    exportWith({9, 18, 19, 1}); // 10 and 19 and 20 make 49 lines; the last has no room
+    exportWith({9, 18, 19, 1}); // 10, 19 and 20 make 49 lines; the last has no room
     const QStringList expectedOrder = {QStringLiteral("6(1)"), QStringLiteral("6(2)"), QStringLiteral("6(3)")};
     EXPECT_EQ(expectedOrder, order());
     EXPECT_EQ(3, notesOn("6(2)"));
     EXPECT_EQ(1, notesOn("6(3)"));
-    // More than the very last item spilled from the first sheet.
+    // More than the last item overflowed from the first sheet.
     EXPECT_EQ(QStringLiteral("(1)|(3)|(1)"), mark("6(1)"));
     EXPECT_EQ(QStringLiteral("(2)"), mark("6(2)"));
     EXPECT_EQ(QStringLiteral("(3)"), mark("6(3)"));
@@ -113,7 +113,7 @@ TEST_F(AdditionalInformation, AFurtherSheetTakesFiftyLines)
 
 TEST_F(AdditionalInformation, TwoNotesThatWouldUseAllFiftyLinesAreParted)
 {
-    exportWith({9, 24, 24}); // 10 and 25: 35; 25 more is beyond 49
+    exportWith({9, 24, 24}); // 10 and 25: 35; another 25 exceeds 49
     EXPECT_EQ(2, notesOn("6(2)"));
     EXPECT_EQ(1, notesOn("6(3)"));
 }

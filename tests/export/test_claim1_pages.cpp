@@ -1,7 +1,7 @@
 #include "tests/export/clsExportTest.h"
 #include "tests/export/mdDocumentText.h"
 
-// What is particular to the pages of Claim 1: the counter that runs on from page to page, and the worked-out values.
+// Special cases of the pages of Claim 1: the counter that continues from page to page, and the computed values.
 
 namespace {
 
@@ -67,7 +67,7 @@ TEST_F(Claim1Pages, Page3WithLongTextsAndThePanelSheet)
 TEST_F(Claim1Pages, CounselsPageGoesOnFromTheCounterThatPage3Left)
 {
     includeOnly({1, 3, 4});
-    form.DetailsOfWork.DetailsOfCase = words(4000); // two further sheets: the counter arrives as 3
+    form.DetailsOfWork.DetailsOfCase = words(4000); // two continuation sheets: the counter arrives as 3
     addFees(32);
     ASSERT_TRUE(exportClaim());
     EXPECT_EQ(names("1(1) 3(1) 3(2) 3(3) 4(1)"), recorder->order());
@@ -89,7 +89,7 @@ TEST_F(Claim1Pages, CounselsPageGoesOnFromTheLastPageThatRan)
     ASSERT_TRUE(exportClaim());
     EXPECT_EQ(names("1(1) 2(1) 2(2) 4(1) 4(3)"), recorder->order());
 
-    includeOnly({1, 4}); // page 1 leaves 1
+    includeOnly({1, 4}); // page 1 leaves it at 1
     ASSERT_TRUE(exportClaim());
     EXPECT_EQ(names("1(1) 4(1) 4(2)"), recorder->order());
     EXPECT_EQ(QStringLiteral("(1)"), mark("4(1)"));
@@ -159,7 +159,7 @@ TEST_F(Claim1Pages, Page6WithoutNotesGoesDownTwentyLines)
 
 TEST_F(Claim1Pages, ANoteWithLineBreaksLeavesTheExpertsInTheirRows)
 {
-    // Where the first expert stands among the rows of its table, and what its row says.
+    // The position of the first expert in its table, and the content of its row.
     const auto expertsRow = [this](const QString &description) {
         includeOnly({1, 6});
         form.ScheduleOfTimeItemByOrderID(1)->Description = description;
@@ -370,11 +370,11 @@ TEST_F(Claim1Pages, TheVATOfTheProfitCostsIsAddedBeforeItIsRounded)
 {
     includeOnly({1, 8});
     form.VATRate = QStringLiteral("17.50");
-    addItem()->TTime = QStringLiteral("00:07"); // seven minutes at 60: 7.00, of which 17.5 per cent are 1.225
+    addItem()->TTime = QStringLiteral("00:07"); // seven minutes at 60: 7.00; 17.5 per cent of that is 1.225
     addDisbursement(QStringLiteral("Stamp"), QStringLiteral("0.00"), QStringLiteral("0.0075"));
     ASSERT_TRUE(exportClaim());
     EXPECT_EQ(QStringLiteral("1.23"), value("8(1)", "{vpc}"));
-    EXPECT_EQ(QStringLiteral("1.23"), value("8(1)", "{vtotal}")); // 1.2325, where 1.23 and 0.0075 would be 1.24
+    EXPECT_EQ(QStringLiteral("1.23"), value("8(1)", "{vtotal}")); // 1.2325, whereas 1.23 plus 0.0075 would give 1.24
     EXPECT_EQ(QStringLiteral("8.23"), value("8(1)", "{grandtotal}")); // 8.2325
 }
 

@@ -75,7 +75,7 @@ const FormTables Claim1Tables = {"Claim1", {
      }},
     {6,
      {
-         {"{or}", nullptr, Text}, // by the additional information
+         {"{or}", nullptr, Text}, // from the additional information
          {"{or}", nullptr, Text}, // after the experts' grid
          {"{1}", "ExpertsMeetMOJStandardYes", Tick},
          {"{2}", "ExpertsMeetMOJStandardNo", Tick},

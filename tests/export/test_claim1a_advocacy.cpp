@@ -1,13 +1,12 @@
 #include "tests/export/clsClaim1aTest.h"
 
-// The page of the Family Advocacy Scheme: three grids whose sheets count on, and marks that meet each other.
+// The page of the Family Advocacy Scheme: three grids whose sheets are numbered consecutively, and conflicting marks.
 
 namespace {
 
 class FamilyAdvocacyPage : public clsClaim1aTest {
 protected:
-    /// Hearings of which each of the first `boltOns` has a bolt-on's description, and of the first `travels` a
-    /// distance.
+    /// Adds hearings; the first `boltOns` have a bolt-on description, and the first `travels` a distance.
     void addHearings(int count, int boltOns = 0, int travels = 0)
     {
         clsExportTest::addHearings(count);
@@ -123,7 +122,7 @@ TEST_F(FamilyAdvocacyPage, BoltOnsBeyondSixFollowTheAdvocacySheetsNumbers)
     EXPECT_EQ(QStringLiteral("down 5"), lines("8(3)").value(1));
     EXPECT_EQ(QStringLiteral("(2)"), mark("8(2)"));
     EXPECT_EQ(QStringLiteral("(3)"), mark("8(3)"));
-    // The third grid did not overflow, so that the first sheet takes the last number, and the "(1)" is hidden.
+    // The third grid did not overflow, so the first sheet gets the last number, and the "(1)" is hidden.
     EXPECT_EQ(QStringLiteral("(3)|(1)"), mark("8(1)"));
     EXPECT_FALSE(startOf("8(1)").startsWith(u'(')) << qPrintable(startOf("8(1)"));
 }
@@ -135,8 +134,8 @@ TEST_F(FamilyAdvocacyPage, OnlyTheAdvocacyCostsOverflowing)
     keepsSheets = true;
     ASSERT_TRUE(exportClaim());
     EXPECT_EQ(names("1(1) 8(1) 8(2)"), recorder->order());
-    // Both later grids ended on the first sheet: the first of them took the placeholder, and the number of the second
-    // and the "(1)" the hidden ones.
+    // Both later grids ended on the first sheet: the first of them took the placeholder; the second's number and the
+    // "(1)" went to hidden ones.
     EXPECT_EQ(QStringLiteral("(2)|(2)|(1)"), mark("8(1)"));
     EXPECT_FALSE(startOf("8(1)").startsWith(u'(')) << qPrintable(startOf("8(1)"));
 }

@@ -1,6 +1,6 @@
 #include "tests/export/clsClaim1aTest.h"
 
-// The driver of Claim 1A: its thirteen pages, their progress and what is logged of them.
+// The driver of Claim 1A: its thirteen pages, their progress and log lines.
 
 namespace {
 
@@ -53,7 +53,7 @@ TEST_F(Claim1aDriver, LogsUnderItsNameButForPages9And10)
         QStringLiteral("Begin Export Word Claim1a Page 8"),
         QStringLiteral("Begin Export Word Claim1 Page 9"),
         QStringLiteral("Begin Export Word Panel Membership Overrun"),
-        // The panel sheet ends with its page's line, which thus stands twice.
+        // The panel sheet logs its page's end line, so that line appears twice.
         QStringLiteral("End Export Word Claim1 Page 9"),
         QStringLiteral("End Export Word Claim1 Page 9"),
         QStringLiteral("Begin Export Word Claim1 Page 10"),

@@ -3,8 +3,8 @@
 
 #include <QRegularExpression>
 
-// What is particular to the pages of Claim 1A: marks that meet each other, grids whose sheets count on, and the
-// worked-out values.
+// Special cases of the pages of Claim 1A: conflicting marks, grids whose sheets are numbered consecutively, and the
+// computed values.
 
 namespace {
 
@@ -94,7 +94,7 @@ TEST_F(Claim1aPages, AFixedFeeThatIsNoNumberIsTheTypeError)
 TEST_F(Claim1aPages, CounselsPageGoesOnFromTheCounterThatPage4Left)
 {
     includeOnly({1, 4, 5});
-    form.ActualCostsIncurred.PrivateLawWorkAtAllLevelsReasons = words(4000); // two further sheets: it arrives as 3
+    form.ActualCostsIncurred.PrivateLawWorkAtAllLevelsReasons = words(4000); // two continuation sheets: it arrives as 3
     addFees(32);
     ASSERT_TRUE(exportClaim());
     EXPECT_EQ(names("1(1) 4(1) 4(2) 4(3) 5(1)"), recorder->order());
@@ -175,7 +175,7 @@ TEST_F(Claim1aPages, Page7WithOnlyTheJointInstructionsOverflowingTakesTheLastShe
     ASSERT_TRUE(exportClaim());
     EXPECT_EQ(names("1(1) 7(1) 7(2)"), recorder->order());
     EXPECT_EQ(QStringLiteral("(2)|(1)"), mark("7(1)"));
-    // The number stands in the page box, and the "(1)" hidden behind it.
+    // The number is in the page box, and the "(1)" hidden behind it.
     EXPECT_FALSE(startOf("7(1)").startsWith(u'(')) << qPrintable(startOf("7(1)"));
     EXPECT_EQ(1, mdDocumentText(temporary() + QStringLiteral("/7(1).doc")).count(QLatin1String("(2)")));
 }
@@ -228,7 +228,7 @@ TEST_F(Claim1aPages, Page11WithoutNotesIsOneSheetWithAllFigures)
 TEST_F(Claim1aPages, Page11HasTwentyFiveLinesForItsNotes)
 {
     includeOnly({1, 11});
-    addItem(note(23)); // with its rule 24 lines: one always stays empty
+    addItem(note(23)); // 24 lines with its rule: one always stays empty
     ASSERT_TRUE(exportClaim());
     EXPECT_EQ(names("1(1) 11(1)"), recorder->order());
     EXPECT_EQ(QStringLiteral(" "), mark("11(1)"));

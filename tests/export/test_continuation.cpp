@@ -14,7 +14,7 @@ struct LongField {
     int limit;
     int cutLength;
     const char *continuationTemplate;
-    /// The marks that the page's own sheet gets when the text stays there and when it overruns.
+    /// The marks on the page's own sheet if the text fits and if it overruns.
     const char *markWithout = " ";
     const char *markWith = "(1)";
 };
@@ -32,7 +32,7 @@ const LongField LongFields[] = {
         770, 2750, "Claim1 P3 Case Details Cont"},
     {"Claim1", 3, "{detailsofenhancement}", [](clsZR3Form &form, const QString &text) { form.DetailsOfWork.DetailsOfEnhancement = text; },
         710, 2620, "Claim1 P3 Enhancement Cont"},
-    // This page is marked by its notes and again after its grid, both of which come before the text.
+    // This page is marked by its notes and again after its grid, both before the text.
     {"Claim1", 6, "{expertsmeetmojstandardreasons}", [](clsZR3Form &form, const QString &text) { form.ExpertsMeetMOJStandardReasons = text; },
         100, 2750, "Claim1 P6 Expert Dibs Standards Cont", " | ", " | "},
     {"Claim1A", 3, "{detailsofcase}", [](clsZR3Form &form, const QString &text) { form.NatureOfProceedings.DetailsOfCase = text; },
@@ -99,7 +99,7 @@ TEST_P(EachLongField, OfOneMoreGoesWholeToASheet)
 
 TEST_P(EachLongField, JustShortOfTheCutLengthFillsOneSheet)
 {
-    // With the blank after its last word it is as long as the cut length, which is not longer.
+    // With the space after its last word it has exactly the cut length, which is not longer.
     const QString text = words(GetParam().cutLength - 1);
     exportWith(text);
     EXPECT_EQ(3, run->ExportFileCollection.size());
@@ -122,14 +122,14 @@ TEST_P(EachLongField, WithoutBlanksIsOnePieceOfItsWholeLength)
     const QString text(GetParam().cutLength + 500, u'x');
     exportWith(text);
     EXPECT_EQ(QStringList {text}, texts(further(2)));
-    // It is the word that tips the line, so that an empty last piece follows it.
+    // This word tips the line, so an empty last piece follows it.
     EXPECT_EQ(QStringList {QStringLiteral(" ")}, texts(further(3)));
     EXPECT_EQ(4, run->ExportFileCollection.size());
 }
 
 TEST_P(EachLongField, OverrunsItsSheetByUpToOneWord)
 {
-    // Every word and its blank take ten characters, so that the cut comes after the first word beyond the cut length.
+    // Every word with its space is ten characters, so the cut is after the first word beyond the cut length.
     const int words = GetParam().cutLength / 10 + 1;
     const QString full = QStringLiteral("ninechars ").repeated(words).trimmed();
     exportWith(full + QStringLiteral(" tail"));
@@ -149,7 +149,7 @@ TEST_P(EachLongField, KeepsItsLineEndsWhichAreNoPlaceToCut)
     const QString body(GetParam().limit, u'x');
     exportWith(QStringLiteral("one\r\ntwo ") + body);
     EXPECT_EQ(QStringList {QStringLiteral("one\u000Btwo ") + body}, texts(further(2)));
-    // Two characters each count for the limit too.
+    // A line end counts as two characters.
     exportWith(QString(GetParam().limit - 2, u'x') + QStringLiteral("\r\n"));
     EXPECT_EQ(QStringList {QString(GetParam().limit - 2, u'x') + QStringLiteral("\u000B")}, texts(first()));
     exportWith(QString(GetParam().limit - 1, u'x') + QStringLiteral("\r\n"));

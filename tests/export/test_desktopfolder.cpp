@@ -1,7 +1,7 @@
 #include "base/mdDesktopFolder.h"
 #include "tests/export/clsExportTest.h"
 
-// Where an export goes that was given no folder.
+// The folder of an export for which none was chosen.
 
 namespace {
 

@@ -10,13 +10,13 @@
 
 #include <functional>
 
-// The driver of an export: which pages are printed, what is told on the way, and what a failure leaves behind.
+// The driver of an export: which pages are printed, what is reported, and what a failure leaves.
 
 namespace {
 
 class Driver : public clsExportTest {
 protected:
-    /// A folder with all templates, to be spoilt.
+    /// Copies all templates to a folder where they can be damaged.
     void copyTemplates()
     {
         templates = path(QStringLiteral("templates"));
@@ -24,7 +24,7 @@ protected:
         for (const QString &file : QDir(TestTemplates).entryList({QStringLiteral("*.doc")}))
             ASSERT_TRUE(QFile::copy(TestTemplates + u'/' + file, templates + u'/' + file));
     }
-    /// Spoils one part of a template.
+    /// Changes one part of a template.
     void spoil(const char *name, const char *part, const std::function<QByteArray(const QByteArray &)> &spoilt)
     {
         const QString file = templates + u'/' + QLatin1String(name);
@@ -36,7 +36,7 @@ protected:
         ASSERT_NE(before, zip.bytes(index)) << part;
         put(file, zip.toBytes(clsZipPackage::Deflated));
     }
-    /// The words of the error that ends an export; empty where none does.
+    /// The message of the error that ends an export; empty if there is none.
     QString wordsOfError()
     {
         try {
@@ -47,7 +47,7 @@ protected:
         }
         return {};
     }
-    /// What the error that ends an export comes from; empty where none does.
+    /// The cause of the error that ends an export; empty if there is none.
     QString causeOfExport()
     {
         try {
@@ -94,7 +94,7 @@ TEST_F(Driver, OnlyPage1Included)
     EXPECT_TRUE(exportClaim());
     EXPECT_EQ(QStringList {QStringLiteral("1(1)")}, recorder->order());
     EXPECT_EQ(QStringList {QStringLiteral("1(1).doc")}, recorder->combinedOrder());
-    // The backspace at the document's start changes nothing.
+    // The backspace at the start of the document has no effect.
     EXPECT_EQ(1, recorder->backSpaces);
     EXPECT_EQ(mainPartOf(temporary() + QStringLiteral("/1(1).doc")), mainPartOf(finished()));
 }
@@ -202,7 +202,7 @@ TEST_F(Driver, LogsEachStep)
         QStringLiteral("Begin Export Word Panel Membership Overrun"),
         QStringLiteral("Begin Export Copy Template"),
         QStringLiteral("End Export Copy Template"),
-        // The panel sheet ends with its page's line, which thus stands twice.
+        // The panel sheet logs its page's end line, so that line appears twice.
         QStringLiteral("End Export Word Claim1 Page 3"),
         QStringLiteral("End Export Word Claim1 Page 3"),
         QStringLiteral("Begin Export Word Claim1 Page 4"),
@@ -441,7 +441,7 @@ TEST_F(Driver, AWriteProtectedDocumentStays)
     ASSERT_TRUE(QFile::setPermissions(finished(), QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther));
     EXPECT_EQ(clsRunTimeError::PermissionDenied, resultAsOrdinaryUser(exported));
     EXPECT_EQ(QByteArray("as it was"), bytesOf(finished()));
-    // It is the document's protection and nothing else that held the export up.
+    // Only the document's protection prevented the export.
     ASSERT_TRUE(QFile::setPermissions(finished(), everybody));
     EXPECT_EQ(0, resultAsOrdinaryUser(exported));
     EXPECT_TRUE(bytesOf(finished()).startsWith("PK"));
@@ -489,13 +489,13 @@ TEST_F(Driver, AFailureOnAPageIsToldOnceAndTheExportGoesOn)
         user.messages[0].text);
     EXPECT_EQ(clsUserInterface::OKOnly, user.messages[0].buttons);
     EXPECT_EQ(0, user.messages[0].icon);
-    // The placeholders stay in the document; all others are gone.
+    // These placeholders remain in the document; all others are replaced.
     const QStringList left
         = {QStringLiteral("{totalcostsincurred}"), QStringLiteral("{precertcosts}"), QStringLiteral("{interest}")};
     EXPECT_EQ(left, mdPlaceholdersIn(finished()));
 }
 
-/// Takes the file of a sheet away when the sheets are being joined.
+/// Deletes a sheet's file when the sheets are being joined.
 class clsSheetThief : public clsMSWordObserver {
 public:
     explicit clsSheetThief(const QString &sheet)
@@ -539,7 +539,7 @@ TEST_F(Driver, ALostSheetStopsAnExportThatAsksForThat)
     EXPECT_EQ(QByteArray("as it was"), bytesOf(finished()));
 }
 
-/// Puts a folder in the place of the joined document when that is about to be saved.
+/// Creates a folder in place of the joined document when it is about to be saved.
 class clsSaveBlocker : public clsMSWordObserver {
 public:
     explicit clsSaveBlocker(const QString &joined)

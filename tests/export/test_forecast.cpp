@@ -1,4 +1,4 @@
-// What an export would give, before any export.
+// The forecast of an export.
 
 #include "tests/export/clsExportTest.h"
 #include "wordexport/mdForecast.h"
@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Collects what the document layer says of the texts of each sheet that it saves.
+/// Collects the document layer's reports on the texts of each saved sheet.
 class clsFittedObserver final : public clsMSWordObserver {
 public:
     void opened(const QString &path) override { m_sheet = QFileInfo(path).completeBaseName(); }
@@ -62,7 +62,7 @@ protected:
                          .arg(int(box.State));
         return boxes;
     }
-    /// Everything in the folder of the export, files that are hidden included.
+    /// Everything in the export's folder, including hidden files.
     QStringList everythingIn() const
     {
         QStringList found;
@@ -73,7 +73,7 @@ protected:
         return found;
     }
 
-    /// Exports the claim and holds the forecast against what then lies in the folder and was told on the way.
+    /// Exports the claim and compares the forecast with the files in the folder and the reports.
     void expectAsExported(const clsForecast &told)
     {
         keepsSheets = true;
@@ -92,13 +92,13 @@ protected:
         EXPECT_EQ(order, namesIn(told));
         QStringList boxes = boxesIn(told);
         QStringList fitted = observer.told;
-        // A sheet that another one overwrites is gone with its texts; one that is opened again tells in turns.
+        // The texts of a sheet that is overwritten are lost; a sheet that is opened again reports in a different order.
         boxes.sort();
         fitted.sort();
         EXPECT_EQ(fitted, boxes);
     }
 
-    /// A text of that many words, now and then with a line break.
+    /// A text of that many words, sometimes with a line break.
     static QString text(QRandomGenerator &random, int words)
     {
         QString text;
@@ -178,7 +178,7 @@ TEST_F(Forecast, LeavesTheClaimByteForByteAndTheFolderEmpty)
 {
     makeUp(3);
     const auto item = addItem();
-    item->SOTItemNumber = 1700; // which an export numbers anew
+    item->SOTItemNumber = 1700; // which an export renumbers
     switchLogOn();
     const QStringList folderBefore = everythingIn();
     const QString before = form.XMLOutput();
@@ -228,7 +228,7 @@ TEST_F(Forecast, ASheetThatStandsTwiceIsToldTwice)
 TEST_F(Forecast, TellsTheBoxAndThePropertyBehindIt)
 {
     includeOnly({1, 3, 9, 10});
-    // The box holds two lines at its own size.
+    // The box holds two lines at its normal size.
     form.DebtorsDetails.Address = QStringLiteral("1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n7\r\n8");
     QString lines = QStringLiteral("a");
     for (int i = 0; i < 59; ++i)
@@ -273,7 +273,7 @@ TEST_F(Forecast, TellsTheCellOfAGrid)
 
 TEST_F(Forecast, EveryFieldOfAPageIsKnownByItsProperty)
 {
-    // Of each sheet all placeholders that a field stands behind, whether its text fits or not.
+    // For each sheet all placeholders of fields, whether the text fits or not.
     for (const char *formType : {"Claim1", "Claim1A"}) {
         form.FormType = QString::fromLatin1(formType);
         ASSERT_TRUE(exportClaim());

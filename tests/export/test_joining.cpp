@@ -3,7 +3,7 @@
 #include "wordexport/document/clsPlainText.h"
 #include "wordexport/document/clsWordPackage.h"
 
-// The joining takes the sheets' texts as they stand: nobody could tell it from reading each of them.
+// The joining copies the sheets' texts without parsing; the result must be the same as with parsing.
 
 namespace {
 
@@ -16,7 +16,7 @@ TEST_P(Joining, GivesTheBytesOfTheSheetsReadAndAppendedOneByOne)
     keepsSheets = true;
     ASSERT_TRUE(exportClaim());
     for (const clsTemplate &known : run->templates)
-        EXPECT_TRUE(known.isPlain); // else this compares the one way with itself
+        EXPECT_TRUE(known.isPlain); // otherwise this would compare one way with itself
 
     const QStringList &sheets = run->ExportFileCollection;
     const QString joined = path(QStringLiteral("read.doc"));

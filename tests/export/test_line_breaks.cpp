@@ -3,7 +3,7 @@
 
 #include <map>
 
-// Line breaks in the cells of grids: whatever is typed, each text stands in its own cell.
+// Line breaks in the cells of grids: whatever is typed, each text stays in its own cell.
 
 namespace {
 
@@ -11,7 +11,7 @@ class LineBreaks : public clsExportTest {
 protected:
     using Setter = std::function<void(const QString &)>;
 
-    /// A text of an item, by a word of its own.
+    /// Sets a text of an item that can be recognised by `word`.
     template <class Text> void add(const QString &word, Text &text)
     {
         m_setters.emplace_back(word, [&text](const QString &typed) { text = typed; });
@@ -46,7 +46,7 @@ protected:
         }
     }
 
-    /// The row and the cell of each of the words in the finished document.
+    /// The row and cell of each word in the finished document.
     std::map<QString, QString> places()
     {
         std::map<QString, QString> found;

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-// The code lists as the government forms have them, word for word, and the two ways of cutting a text.
+// The code lists of the government forms, word for word, and the two ways of splitting a text.
 
 namespace {
 
@@ -153,20 +153,20 @@ struct CutRow {
 
 TEST(SplitLineIntoCollection, TestsBeforeTheWord)
 {
-    // A line is as long as its words with a blank before each, so that the width counts one blank more than is seen.
+    // The length of a line includes a space before each word, one more than is visible.
     const CutRow rows[] = {
         {"", 60, {""}}, {"one", 60, {"one"}}, {"ab cd", 6, {"ab cd"}}, // 2 + 3 + 1 is 6: not greater
         {"ab cd", 5, {"ab", "cd"}},
-        {"abcdef gh", 5, {"", "abcdef", "gh"}}, // a first word that is too long leaves an empty line before it
+        {"abcdef gh", 5, {"", "abcdef", "gh"}}, // a first word that is too long has an empty line before it
         {"abcd", 5, {"abcd"}}, // 4 + 0 + 1 is 5
         {"abcde", 5, {"", "abcde"}}, // 5 + 0 + 1 is 6
         {"ab abcdef cd", 5, {"ab", "abcdef", "cd"}},
-        {"ab  cd", 9, {"ab  cd"}}, // a run of blanks is an empty word and stays inside a line
+        {"ab  cd", 9, {"ab  cd"}}, // a run of spaces is an empty word and stays inside a line
         {"  ab", 9, {"ab"}}, // and is trimmed at its ends
         {"ab  ", 9, {"ab"}},
-        {"ab     cd", 5, {"ab", "cd"}}, // three empty words fill the line up, the fourth and the word go to the next
+        {"ab     cd", 5, {"ab", "cd"}}, // three empty words fill the line; the fourth and the word go to the next
         {"ab\r\ncd ef", 9, {"ab\r\ncd", "ef"}}, // a line end is part of its word
-        {"\tab\t cd", 9, {"\tab\t cd"}}, // only blanks are cut at and trimmed
+        {"\tab\t cd", 9, {"\tab\t cd"}}, // lines are split and trimmed only at spaces
     };
     for (const CutRow &row : rows)
         EXPECT_EQ(listOf(row.lines), mdSplitLineIntoCollection(QString::fromUtf8(row.text), row.length))
@@ -175,18 +175,18 @@ TEST(SplitLineIntoCollection, TestsBeforeTheWord)
 
 TEST(CutIntoPieces, TestsAfterTheWord)
 {
-    // A piece grows by a word and a blank; when it is longer than the cut length, it ends there.
+    // A piece grows by a word and a space; when it is longer than the cut length, it ends there.
     const CutRow rows[] = {
         {"", 5, {""}}, {"ab", 5, {"ab"}}, {"ab cd", 6, {"ab cd"}}, // 6 is not greater than 6
-        {"ab cd", 5, {"ab cd", ""}}, // the last word tips the line: an empty last piece, and so a further sheet
+        {"ab cd", 5, {"ab cd", ""}}, // the last word tips the line: an empty last piece, and so another sheet
         {"ab cd ef", 5, {"ab cd", "ef"}}, // the piece overruns by the word that tipped it
-        {"abcdefgh", 5, {"abcdefgh", ""}}, // without a blank, one piece of the whole length, and it tips the line
-        {"abcde", 5, {"abcde", ""}}, {"abcd", 5, {"abcd"}}, // 4 and a blank
-        {"ab   cd", 9, {"ab   cd"}}, // runs of blanks survive inside a piece
-        {"ab   cd", 4, {"ab", "cd"}}, // and vanish at its ends
+        {"abcdefgh", 5, {"abcdefgh", ""}}, // without a space, one piece of the whole length, which tips the line
+        {"abcde", 5, {"abcde", ""}}, {"abcd", 5, {"abcd"}}, // 4 and a space
+        {"ab   cd", 9, {"ab   cd"}}, // runs of spaces stay inside a piece
+        {"ab   cd", 4, {"ab", "cd"}}, // and are removed at its ends
         {"ab\r\ncd ef", 20, {"ab\r\ncd ef"}},
-        {"ab\r\ncd ef", 6, {"ab\r\ncd", "ef"}}, // 6 and a blank is 7; the line end is no place to cut
-        {"   ", 2, {"", ""}}, // four empty words: the third blank tips the line
+        {"ab\r\ncd ef", 6, {"ab\r\ncd", "ef"}}, // 6 and a space is 7; text is not split at a line end
+        {"   ", 2, {"", ""}}, // four empty words: the third space tips the line
     };
     for (const CutRow &row : rows)
         EXPECT_EQ(listOf(row.lines), mdCutIntoPieces(QString::fromUtf8(row.text), row.length))
@@ -198,7 +198,7 @@ TEST(TextRequiresOverRun, OnlyBeyondTheLimit)
     EXPECT_FALSE(mdTextRequiresOverRun(QString(), 0));
     EXPECT_FALSE(mdTextRequiresOverRun(QString(400, u'x'), 400));
     EXPECT_TRUE(mdTextRequiresOverRun(QString(401, u'x'), 400));
-    // A line end counts its two characters.
+    // A line end counts as two characters.
     EXPECT_TRUE(mdTextRequiresOverRun(QString(399, u'x') + QStringLiteral("\r\n"), 400));
 }
 

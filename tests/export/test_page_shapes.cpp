@@ -213,7 +213,7 @@ TEST_F(PageShapes, AnAmountThatIsNoNumberTypesNothingAndTheCursorMovesOn)
     const auto disbursement = addDisbursement(QStringLiteral("Search"));
     ASSERT_TRUE(exportClaim());
     EXPECT_EQ(4, row("7(1)", 1).size());
-    // The total of the row can't be computed, which ends the export.
+    // The row's total can't be computed, which ends the export.
     disbursement->VAT = QStringLiteral("twenty per cent");
     EXPECT_EQ(clsRunTimeError::TypeMismatch, errorOf([&] { exportClaim(); }));
     ASSERT_FALSE(user.messages.empty());

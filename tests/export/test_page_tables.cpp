@@ -2,7 +2,8 @@
 #include "tests/export/mdDocumentText.h"
 #include "tests/export/mdPageTables.h"
 
-// The pages of both forms against their tables, and whether the real templates hold exactly what the export fills in.
+// The pages of both forms against the expected tables, and whether the templates contain exactly what the export fills
+// in.
 
 namespace {
 
@@ -62,7 +63,7 @@ TEST_P(Tables, PlaceholdersAreFilledInInTheOrderOfTheTables)
 
 TEST_P(Tables, EachPlaceholderShowsItsPropertyInItsClass)
 {
-    // Every property gets a value that no other has: a text with its own name in it, an amount with its own number.
+    // Every property gets a unique value: a text with its own name in it, an amount with its own number.
     int number = 0;
     for (const PageTable &page : GetParam().pages) {
         for (const PageRow &row : page.rows) {
@@ -95,8 +96,8 @@ TEST_P(Tables, EachPlaceholderShowsItsPropertyInItsClass)
 
 TEST_P(Tables, EachTickBoxShowsItsBoolean)
 {
-    // Each box has a number of its own, and each export ticks those with one of its binary digits set: together the
-    // exports spell out which boolean stands behind which box.
+    // The boxes are numbered, and each export ticks those whose number has a certain binary digit: together the exports
+    // show which boolean belongs to which box.
     std::vector<std::pair<const PageTable *, const PageRow *>> boxes;
     for (const PageTable &page : GetParam().pages)
         for (const PageRow &row : page.rows)
@@ -128,7 +129,7 @@ TEST_P(Tables, EachTemplateHoldsThePlaceholdersOfItsPageAndNoOthers)
         QStringList expected;
         for (const PageRow &row : page.rows)
             expected << QString::fromLatin1(row.placeholder);
-        expected.removeDuplicates(); // how many marks a page has is tested with the templates
+        expected.removeDuplicates(); // the number of marks on a page is tested with the templates
         expected.sort();
         QStringList found = mdPlaceholdersIn(templateFile(pageTemplate(page)));
         found.removeDuplicates();
@@ -158,7 +159,7 @@ TEST_P(Tables, ThereAreTheTemplatesOfThisFormAndNoOthers)
         expected << QString::fromLatin1(sheet.name);
     expected.sort();
     QStringList found;
-    // One template of Claim 1A is written with a small a: the names are compared as they stand, the filter is not.
+    // One template of Claim 1A is spelt with a lower-case a: names are compared exactly, the filter ignores case.
     for (const QFileInfo &file : QDir(TestTemplates).entryInfoList({form.FormType() + QStringLiteral(" *.doc")}))
         found << file.completeBaseName();
     found.sort();

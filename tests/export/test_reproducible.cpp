@@ -2,7 +2,7 @@
 
 #include <QProcess>
 
-// The same claim and the same templates give the same bytes, wherever and whenever they are printed.
+// The same claim and templates make the same bytes, wherever and whenever they are exported.
 
 namespace {
 

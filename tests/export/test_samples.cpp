@@ -37,7 +37,7 @@ QString inOneLine(const QJsonValue &value)
     return QString::fromUtf8(QJsonDocument(QJsonArray {value}).toJson(QJsonDocument::Compact));
 }
 
-/// The first difference of two lists, said so that a reader finds the place; empty where there is none.
+/// The first difference of two lists, with its position; empty if there is none.
 QString differenceOf(const QString &what, const QJsonArray &expected, const QJsonArray &actual)
 {
     for (qsizetype i = 0; i < std::max(expected.size(), actual.size()); ++i) {

@@ -4,7 +4,7 @@
 
 #include <QRegularExpression>
 
-// The grids of the real templates: each cell that the export types lands in its place.
+// The grids of the real templates: each cell typed by the export is in its place.
 
 namespace {
 
@@ -14,7 +14,7 @@ struct TemplateGrid {
     int offset;
     int rows;
     int cells;
-    int earlierOffset; ///< a grid above it on the sheet, filled first; 0 for none
+    int earlierOffset; ///< offset of a grid above it on the sheet, filled first; 0 for none
     int earlierRows;
     int notes; ///< lines of additional information typed first
 };
@@ -99,7 +99,7 @@ TEST_P(RealTemplate, EachCellLandsInItsPlace)
     const pugi::xpath_node found = document.body.select_node(".//w:tr[w:tc[1]//w:t[starts-with(., 'r1c1 ')]]");
     ASSERT_TRUE(found) << "the first row was not found in a table's first cell";
     pugi::xml_node row = found.node();
-    // Right above stands the row with the heads of the columns.
+    // The row above has the column headings.
     const pugi::xml_node heads = row.previous_sibling("w:tr");
     ASSERT_TRUE(heads);
     EXPECT_FALSE(mdTextBelow(heads).isEmpty());
@@ -111,7 +111,7 @@ TEST_P(RealTemplate, EachCellLandsInItsPlace)
             EXPECT_EQ(cellText(number, ++cell), mdTextBelow(tc));
         EXPECT_EQ(grid.cells, cell);
     }
-    // Beyond the grid nothing was typed.
+    // Nothing was typed outside the grid.
     EXPECT_FALSE(mdTextBelow(row).contains(QLatin1String("r1c")));
 }
 

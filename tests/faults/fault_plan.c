@@ -1,19 +1,18 @@
-// Loaded before the system's library (LD_PRELOAD): counts the file operations of a program below one folder, and does
-// something to the n-th of them. For the tests only.
+// A preloaded library (LD_PRELOAD) for the tests: counts the file operations of a program below one folder, and
+// interferes with the n-th of them.
 //
-//   ZR3_FAULTS_UNDER   the folder; operations elsewhere are let through and not counted
-//   ZR3_FAULTS_FROM    a file outside that folder; operations are counted from the moment when it is there. Unset: from
-//                      the start
+//   ZR3_FAULTS_UNDER   the folder; operations elsewhere are neither changed nor counted
+//   ZR3_FAULTS_FROM    a file outside that folder; operations are counted as soon as it exists. Unset: from the start
 //   ZR3_FAULTS_AT      which operation, counted from 1; 0 counts only
 //   ZR3_FAULTS_DO      what happens to it:
 //       fail=E       it fails with the error number E
-//       failon=E     it fails so, and every later one that such a fault would stop too
-//       short        a read or write moves half of its bytes, and says so
-//       shortfail=E  a write moves half of its bytes; the next write fails with E
-//       eintr        it is interrupted by a signal before it did anything
+//       failon=E     it fails with E, and so does every later one that such a fault would stop
+//       short        a read or write transfers half of its bytes, and returns that number
+//       shortfail=E  a write transfers half of its bytes; the next write fails with E
+//       eintr        it is interrupted by a signal before it does anything
 //       kill         the process is killed before it; killmid: in the middle of a write; killafter: after it
-//       timer=U      the process is killed U microseconds later, wherever it is then
-//       stop         the process stops before it, until it is told to continue
+//       timer=U      the process is killed U microseconds later, whatever it is doing
+//       stop         the process stops before it, until it gets the signal to continue
 //       vanish=TO    the folder is renamed to TO before it
 //   ZR3_FAULTS_LOG     a file that gets a line for each operation counted: number, microseconds, operation, path,
 //   "fired"
@@ -168,7 +167,7 @@ struct step beginStep(const char *operation, const char *path, enum kind kind)
         return step;
     ++count;
     const int fires = action != NOTHING && count == fireAt;
-    // A partial write is followed by its failure, which is told as a second one.
+    // A partial write is followed by the write that fails, which is logged as a second fault.
     const int followsUp = nextWriteFails && strcmp(operation, "write") == 0;
     tell(operation, path, fires || followsUp);
     if (lastingError && isStopped(kind, lastingError))

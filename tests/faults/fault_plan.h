@@ -1,22 +1,22 @@
 #pragma once
 
-// The plan of the faults, and what the calls that stand in for the system's ask of it.
+// The plan of the faults, for the functions that replace the system's.
 
 #include <stddef.h>
 
-// What an operation does to the disk decides which lasting faults stop it.
+// How an operation affects the disk, which determines the lasting faults that stop it.
 enum kind { LOOKS, GROWS, CHANGES, CLOSES };
 
 struct step {
-    int error; // it fails with this
-    int halved; // it moves half of its bytes
+    int error; // the error number it fails with
+    int halved; // it transfers half of its bytes
     int killedAfter;
 };
 
-// Counts an operation below the folder, and does to it what is planned before it is done.
+// Counts an operation below the folder, and carries out what is planned before it.
 struct step beginStep(const char *operation, const char *path, enum kind kind);
 
-// What is planned after it is done; returns the result that it is given.
+// Carries out what is planned after it; returns the result passed to it.
 long endStep(struct step step, long result);
 
 // Whether a path lies below the folder.

@@ -1,4 +1,4 @@
-// The calls of the system's library by which a program reaches its files, each asking the plan first.
+// Replacements for the system's file functions, each of which asks the plan first.
 
 #define _GNU_SOURCE
 #include "tests/faults/fault_plan.h"
@@ -20,7 +20,7 @@
 
 enum { MOST_DESCRIPTORS = 4096 };
 
-static char *paths[MOST_DESCRIPTORS]; // of the descriptors that are open below the folder
+static char *paths[MOST_DESCRIPTORS]; // of the open descriptors below the folder
 static void *next(const char *name)
 {
     void *const found = dlsym(RTLD_NEXT, name);
@@ -29,13 +29,13 @@ static void *next(const char *name)
     return found;
 }
 
-// The system's own function of the name of the one that it stands in.
+// The system's own function that the calling one replaces.
 #define NEXT(type)                                                                                                     \
     static __typeof__(type) *real;                                                                                     \
     if (!real)                                                                                                         \
     real = (__typeof__(type) *)next(__func__)
 
-// The path of a name that may be relative to an open folder; the caller's buffer or the name itself.
+// The full path of a name that may be relative to an open folder; points to the buffer or the name itself.
 static const char *whole(int folder, const char *name, char *buffer)
 {
     if (!name || *name == '/')
@@ -73,7 +73,7 @@ static int opened(int descriptor, const char *path)
     return descriptor;
 }
 
-// The body of an operation on `path`: it fails as told, or `call` is done.
+// The body of an operation on `path`: it fails as planned, or `call` is made.
 #define OPERATION(word, path, kind, failed, call)                                                                      \
     const struct step step = beginStep(word, path, kind);                                                              \
     if (step.error) {                                                                                                  \
@@ -128,7 +128,7 @@ int close(int descriptor)
 {
     const struct step step = beginStep("close", pathOf(descriptor), CLOSES);
     forget(descriptor);
-    // It is closed whatever is said of it, as the system does it.
+    // It is closed even if it reports an error, as the system does.
     const int result = (int)syscall(SYS_close, descriptor);
     if (step.error) {
         errno = step.error;
@@ -190,7 +190,7 @@ int fstat64(int descriptor, struct stat64 *status)
     OPERATION("stat", pathOf(descriptor), LOOKS, -1, (int)syscall(SYS_fstat, descriptor, status));
 }
 
-// The operations on a name, which may be relative to the current folder or to one that is open.
+// The operations on a name, which may be relative to the current folder or to an open one.
 #define ON_NAME(word, at, kind, call)                                                                                  \
     char buffer[PATH_MAX];                                                                                             \
     OPERATION(word, whole(at, name, buffer), kind, -1, (int)(call))
@@ -225,7 +225,7 @@ int chmod(const char *name, mode_t mode)
 }
 int fchmodat(int at, const char *name, mode_t mode, int flags)
 {
-    (void)flags; // the system call has none
+    (void)flags; // the system call has no such argument
     ON_NAME("chmod", at, CHANGES, syscall(SYS_fchmodat, at, name, mode));
 }
 int mkdir(const char *name, mode_t mode)
@@ -268,7 +268,7 @@ int remove(const char *name)
     ON_NAME("unlink", AT_FDCWD, CHANGES, removeAny(name));
 }
 
-// An operation with two names counts by the second, the one that comes to be.
+// An operation with two names counts under the second, the new one.
 static int renameAny(const char *from, const char *name, unsigned flags)
 {
     ON_NAME("rename", AT_FDCWD, GROWS, syscall(SYS_renameat2, AT_FDCWD, from, AT_FDCWD, name, flags));
@@ -309,7 +309,7 @@ DIR *opendir(const char *name)
     return descriptor < 0 ? NULL : fdopendir(descriptor);
 }
 
-// The descriptor's path is forgotten before the library closes it without asking here.
+// The descriptor's path is forgotten first, because the library's own close doesn't call ours.
 int closedir(DIR *folder)
 {
     NEXT(int(DIR *));
@@ -339,5 +339,5 @@ struct dirent *readdir(DIR *folder)
 
 struct dirent64 *readdir64(DIR *folder)
 {
-    return (struct dirent64 *)readdir(folder); // the same where a file's size has 64 bits
+    return (struct dirent64 *)readdir(folder); // the version for 64-bit file sizes
 }

@@ -1,7 +1,7 @@
-// Loaded before the system's library (LD_PRELOAD): a wall clock that jumps. For the tests only.
+// A preloaded library (LD_PRELOAD) for the tests: a wall clock that jumps.
 //
-//   ZR3_CLOCK   whole seconds, parted by commas. Each look at the clock is told the true time plus the next of these,
-//               from the first again after the last.
+//   ZR3_CLOCK   whole seconds, separated by commas. Each reading returns the true time plus the next of these,
+//               starting again after the last.
 
 #define _GNU_SOURCE
 #include <stdlib.h>

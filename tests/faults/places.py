@@ -1,4 +1,4 @@
-"""Small disks of one's own, for tests of full, read-only and removed ones."""
+"""Small private disks, for tests of full, read-only and removed ones."""
 
 import ctypes
 import os
@@ -17,7 +17,7 @@ def check(result):
 
 
 def own_mounts():
-    """Gives this process a view of the disks of its own; skips all tests where the system doesn't allow it."""
+    """Gives this process its own mount namespace; skips all tests if the system doesn't permit it."""
     user, group = os.getuid(), os.getgid()
     try:
         check(libc.unshare(CLONE_NEWNS | (CLONE_NEWUSER if user else 0)))
@@ -39,7 +39,7 @@ def remount(folder, kilobytes, flags=0):
 
 
 def remove(folder):
-    """Takes the disk away as a pulled plug does, and its mount point with it."""
+    """Removes the disk and its mount point, as if it had been unplugged."""
     check(libc.umount2(os.fsencode(folder), MNT_DETACH))
     os.rmdir(folder)
 

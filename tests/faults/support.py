@@ -1,12 +1,12 @@
-"""What the tests under faults share: the tool run with a plan of faults, the claims, and what counts as whole.
+"""Shared by the fault tests: running the tool with a plan of faults, the claims, and what counts as complete.
 
     ZR3_TOOL         the headless program
     ZR3_SAMPLES      the folder of the sample claims
     ZR3_FAULTS       the library that makes file operations fail
-    ZR3_CLOCKS       the library of the clock that jumps
-    ZR3_FAULTS_FULL  set for the long run: every moment and every error, not a choice of them
-    ZR3_KILLS        how many kills at random moments the long run makes
-    ZR3_SEED         the seed of all that is random; printed, so that a run can be repeated
+    ZR3_CLOCKS       the library of the jumping clock
+    ZR3_FAULTS_FULL  set for the full run: every moment and every error, not a selection
+    ZR3_KILLS        the number of kills at random moments in the full run
+    ZR3_SEED         the random seed; printed, so that a run can be repeated
 """
 
 import errno
@@ -25,9 +25,9 @@ from collections import Counter
 from dataclasses import dataclass
 from pathlib import Path
 
-SKIPPED = 77  # what ctest knows as skipped
+SKIPPED = 77  # skipped, for ctest
 
-LOCK = ".velmor-zr3.lock"  # stays where a program was killed in its turn, until the next one takes its turn there
+LOCK = ".velmor-zr3.lock"  # stays after a kill during a save, until the next save there
 
 TOOL = os.environ.get("ZR3_TOOL", "")
 SAMPLES = Path(os.environ.get("ZR3_SAMPLES", ""))
@@ -51,7 +51,7 @@ def count(row, column, number=1):
 
 @dataclass
 class Step:
-    """One file operation that the program made."""
+    """A file operation of the program."""
     number: int
     microseconds: int
     operation: str
@@ -61,7 +61,7 @@ class Step:
 
 @dataclass
 class Result:
-    status: int  # below zero where a signal ended it
+    status: int  # negative if a signal ended it
     out: str
     err: str
     steps: list
@@ -85,7 +85,7 @@ def steps_of(log):
 
 
 def environment(under=None, at=0, do="", log=None, **more):
-    """The environment of a run in which the operation number `at` below a folder goes as `do` says."""
+    """The environment of a run in which operation number `at` below a folder is changed as `do` says."""
     wanted = {**os.environ, "XDG_CONFIG_HOME": "/nonexistent", "XDG_CONFIG_DIRS": "/nonexistent"}
     if under:
         wanted |= {"LD_PRELOAD": FAULTS, "ZR3_FAULTS_UNDER": str(under), "ZR3_FAULTS_AT": str(at),
@@ -94,7 +94,7 @@ def environment(under=None, at=0, do="", log=None, **more):
 
 
 def run(*words, under=None, at=0, do="", log=None, **options):
-    """Runs the tool to its end."""
+    """Runs the tool and waits for it."""
     if log:
         log.unlink(missing_ok=True)
     done = subprocess.run([TOOL, *map(str, words)], env=environment(under, at, do, log), capture_output=True,
@@ -104,13 +104,13 @@ def run(*words, under=None, at=0, do="", log=None, **options):
 
 
 def start(*words, under=None, at=0, do="", log=None):
-    """Starts the tool and does not wait for it."""
+    """Starts the tool without waiting for it."""
     return subprocess.Popen([TOOL, *map(str, words)], env=environment(under, at, do, log), stdout=subprocess.PIPE,
                             stderr=subprocess.PIPE)
 
 
 def claim(sample, notes=0):
-    """A sample's text, its notes filled up with so many characters."""
+    """A sample's text, with its notes filled up by that many characters."""
     text = (SAMPLES / f"{sample}.zr3").read_text("latin-1")
     if notes:
         text, found = re.subn(r"<notes>[^<]*</notes>|<notes/>", f"<notes>{sample[0] * notes}</notes>", text)
@@ -123,7 +123,7 @@ def names(folder):
 
 
 def a_part(steps):
-    """All steps in the long run; in the short one a choice of them, another at each run, that begins anywhere."""
+    """All steps in the full run; in the short one a selection with a random start."""
     if FULL or len(steps) < 40:
         return steps
     stride = len(steps) // 20
@@ -131,7 +131,7 @@ def a_part(steps):
 
 
 class FaultTest(unittest.TestCase):
-    """Has a folder of its own: claims to save in `source`, and `disk`, below which things go wrong."""
+    """Base of tests with a folder: claims to save in `source`, and `disk`, below which the faults occur."""
 
     def setUp(self):
         self.folder = Path(tempfile.mkdtemp(prefix="zr3-faults-")).resolve()
@@ -149,7 +149,7 @@ class FaultTest(unittest.TestCase):
 
 
 class SaveTest(FaultTest):
-    """Saves two claims of different sizes under one name, and knows the bytes of either save."""
+    """Base of tests that save two claims of different sizes under one name and know the bytes of both."""
 
     SAMPLES = {"old": ("housing-typical", 600_000), "new": ("care-typical", 900_000)}
 
@@ -175,12 +175,14 @@ class SaveTest(FaultTest):
         self.file.write_bytes(self.whole["old"])
 
     def named(self, file):
-        """Which of the claims a file holds whole; nothing where it holds neither."""
+        """Which of the claims a file contains completely; None if neither."""
         content = file.read_bytes() if file.exists() else None
         return next((name for name, whole in self.whole.items() if content == whole), None)
 
     def state(self):
-        """Where a whole claim lies after a fault, and which; the test fails where there is none, or litter."""
+        """Which complete claim there is after a fault, and in which file; fails if there is none or there are stray
+        files.
+        """
         self.assertLessEqual(set(names(self.disk)), {"claim.zr3", "claim.zr3a", LOCK}, "litter")
         if name := self.named(self.file):
             return "file", name
@@ -189,7 +191,7 @@ class SaveTest(FaultTest):
         return "side file", name
 
     def is_refused(self, **options):
-        """Neither a save nor an export gets anything into the folder, and each says so once."""
+        """Neither a save nor an export writes to the folder, and each reports it once."""
         result = self.save("new", **options)
         self.assertEqual((4, ["File Not Saved"]), (result.status, result.messages))
         self.assertEqual((["claim.zr3"], ("file", "old")), (names(self.disk), self.state()))
@@ -198,7 +200,7 @@ class SaveTest(FaultTest):
         self.assertEqual(["claim.zr3"], names(self.disk))
 
     def saves_again(self, name="new"):
-        """The next save works, and leaves nothing but the claim."""
+        """The next save works, and leaves only the claim."""
         again = self.save(name)
         self.assertEqual((0, ""), (again.status, again.err))
         self.assertEqual(["claim.zr3"], names(self.disk))
@@ -206,9 +208,9 @@ class SaveTest(FaultTest):
 
 
 class ExportTest(FaultTest):
-    """Exports a claim over the document of another, and knows the bytes of either."""
+    """Base of tests that export a claim over the document of another and know the bytes of both."""
 
-    PAGES = {1, 5}  # what the claims export, so that a run is short and still has continuation sheets
+    PAGES = {1, 5}  # the exported pages: a short run that still has continuation sheets
 
     def setUp(self):
         super().setUp()
@@ -234,7 +236,7 @@ class ExportTest(FaultTest):
         self.document.write_bytes(self.whole["old"])
 
     def state(self):
-        """Which document lies there; the test fails where it is none of the whole ones, or anything strange lies by."""
+        """Which document there is; fails if it is not a complete one, or there are stray files."""
         self.assertLessEqual(set(names(self.disk)), {"Claim1.doc", "~ZR3Temp"}, "litter")
         content = self.document.read_bytes()
         for name, whole in self.whole.items():
@@ -250,7 +252,7 @@ class ExportTest(FaultTest):
 
 
 def print_figures():
-    """A line for each row."""
+    """Prints a line for each row."""
     print(f"\nseed {SEED}")
     rows = list(dict.fromkeys(row for row, _ in figures))
     width = max(map(len, rows), default=0)
@@ -260,8 +262,9 @@ def print_figures():
 
 
 def main():
-    """Runs the tests of a file and prints their figures. A skipped test makes the whole a skipped one, unless another
-    has failed."""
+    """Runs the tests of a file and prints their figures. If any is skipped the whole counts as skipped, unless another
+    has failed.
+    """
     result = unittest.main(module="__main__", exit=False, verbosity=2).result
     print_figures()
     if not result.wasSuccessful() or result.testsRun == 0 and not result.skipped:

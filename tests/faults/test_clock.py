@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The clock jumps, between runs and at each look at it. No file of the program depends on it."""
+"""The clock jumps, between runs and at each reading. None of the program's files depends on it."""
 
 import time
 
@@ -28,7 +28,7 @@ class Clock(SaveTest):
         return subprocess.run([TOOL, *map(str, words)], env=with_clock(seconds), capture_output=True, timeout=120)
 
     def test_jumps_for_certain(self):
-        """The clock that is put in force is the one that programs see."""
+        """Programs do see the changed clock."""
         for name, seconds in JUMPS.items():
             seen = subprocess.run(["date", "+%s"], env=with_clock(seconds), capture_output=True, text=True, check=True)
             self.assertLess(abs(int(seen.stdout) - time.time() - int(seconds.split(",")[0])), 60, name)
@@ -56,7 +56,7 @@ class Clock(SaveTest):
                 count("Saves and exports with a clock that jumps", name)
 
     def test_files_from_times_to_come(self):
-        """What was written while the clock was wrong is read and written over like anything else."""
+        """A file written while the clock was wrong is read and overwritten like any other."""
         for year in (0, 10, 200):
             self.put_old()
             self.side.write_bytes(self.whole["old"])

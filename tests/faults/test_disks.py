@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Real disks that are full, read-only or removed. Skipped where this user may not mount any."""
+"""Real disks that are full, read-only or removed. Skipped if this user may not mount any."""
 
 import places
 from support import *
@@ -8,7 +8,7 @@ ROOMY = 100_000  # kilobytes
 
 
 class DiskTest(FaultTest):
-    """Has a disk of its own in the place of the folder."""
+    """Base of tests with a disk in place of the folder."""
 
     def setUp(self):
         super().setUp()
@@ -19,7 +19,7 @@ class DiskTest(FaultTest):
         self.addCleanup(places.libc.umount2, os.fsencode(self.disk), places.MNT_DETACH)
 
     def leave(self, kilobytes):
-        """Leaves so much room on the disk."""
+        """Fills the disk except for this much free space."""
         places.remount(self.disk, ROOMY - places.free_kilobytes(self.disk) + kilobytes)
 
 
@@ -41,7 +41,7 @@ class FullDisk(DiskTest, SaveTest):
                 self.assertEqual("new" if result.status == 0 else "old", name)
                 count("Save on a full disk", f"{'done' if result.status == 0 else 'told'}, whole in the {place}")
                 if result.status:
-                    # Full still: the guard of the torn claim holds.
+                    # The disk is still full, and the torn claim's side file is kept.
                     self.assertEqual(4, self.save("new").status)
                     self.assertEqual("old", self.state()[1])
                 places.remount(self.disk, ROOMY)
@@ -85,7 +85,7 @@ class RemovedDisk(DiskTest, SaveTest):
         self.put_old()
         process = start("save", self.sources["new"], self.file, under=self.disk, at=1, do="stop", log=self.log)
         os.waitid(os.P_PID, process.pid, os.WSTOPPED | os.WNOWAIT)
-        # The process is in this view of the disks, so that they go for it too.
+        # The process shares this mount namespace, so the disk is removed for it too.
         places.remove(self.disk)
         process.send_signal(signal.SIGCONT)
         _, err = process.communicate(timeout=60)

@@ -11,7 +11,7 @@ def microseconds(steps):
 
 
 def killed_at(seconds, row, *words):
-    """Runs zr3tool and kills it after a time, or counts that it had ended before."""
+    """Runs zr3tool and kills it after a time, or counts that it had already ended."""
     process = start(*words)
     time.sleep(seconds)
     process.kill()
@@ -21,7 +21,7 @@ def killed_at(seconds, row, *words):
 
 class SaveKilled(SaveTest):
     def kill(self, row, name, **faults):
-        """Kills a save, and tells whether it was killed; the claim is whole before and after."""
+        """Kills a save, and counts whether it was killed in time; the claim is complete before and after."""
         place, before = self.state()
         result = self.save(name, under=self.disk, log=self.log, **faults)
         after = self.checked(row, place, before, name)
@@ -33,7 +33,7 @@ class SaveKilled(SaveTest):
 
     def checked(self, row, place, before, name):
         after = self.state()
-        # What was whole before is whole still, or the claim that was being saved is.
+        # There is a complete claim: the one from before, or the one being saved.
         self.assertIn(after[1], (before, name), f"before: {before} in the {place}")
         count(row, f"whole in the {after[0]}: {'new' if after[1] == name else 'old'}")
         return after
@@ -72,7 +72,7 @@ class SaveKilled(SaveTest):
                 self.saves_again()
 
     def test_again_and_again_with_no_good_save_between(self):
-        """What one kill leaves is what the next save finds: the guard of a torn claim must not be torn by it."""
+        """The next save starts from what a kill leaves: it must not damage the side file of a torn claim."""
         row = "Save killed again and again"
         self.put_old()
         steps = self.save("new", under=self.disk, log=self.log).steps
@@ -87,7 +87,7 @@ class SaveKilled(SaveTest):
         self.saves_again()
 
     def test_twice_at_any_two_steps(self):
-        """Every pair of moments: the first kill leaves what the second one finds."""
+        """Every pair of moments: the second kill starts from what the first one leaves."""
         row = "Save killed twice, at each pair of steps"
         steps = self.save("new", under=self.disk, log=self.log).steps
         moments = [(step.number, do) for step in steps for do in ["kill"] + ["killmid"] * (step.operation == "write")]
@@ -101,7 +101,7 @@ class SaveKilled(SaveTest):
 
 class FirstSaveKilled(SaveTest):
     def test_at_each_step(self):
-        """A claim that was never saved has nothing on the disk to lose; the next save works all the same."""
+        """A claim that was never saved has nothing on the disk to lose; the next save still works."""
         self.file.unlink()
         steps = self.save("new", under=self.disk, log=self.log).steps
         for step in steps:

@@ -7,8 +7,7 @@ from support import *
 
 
 def set_limit(size):
-    """What a program does on a disk on which no file can grow beyond so many bytes: by itself the system ends it there
-    with a signal."""
+    """Limits the size of a program's files; by default the system sends a signal that ends the program there."""
     def limit():
         signal.signal(signal.SIGXFSZ, signal.SIG_DFL)
         resource.setrlimit(resource.RLIMIT_FSIZE, (size, size))
@@ -50,7 +49,7 @@ class ExportSizeLimit(ExportTest):
 
 class ReadOnlyFolder(SaveTest):
     def test_save_and_export(self):
-        """As a user whom the folder's mode binds; root it doesn't."""
+        """Runs as a user to whom the folder's mode applies, unlike root."""
         self.put_old()
         options = {}
         if os.geteuid() == 0:
@@ -90,10 +89,10 @@ class RemovedDrive(SaveTest):
                 if result.status:
                     self.assertEqual((4, ["File Not Saved"]), (result.status, result.messages))
                 self.assertFalse(self.disk.exists())
-                # The work is saved somewhere else.
+                # The work is saved elsewhere.
                 elsewhere = self.folder / "elsewhere.zr3"
                 self.assertEqual(0, run("save", self.sources["new"], elsewhere).status)
-                # What is on the drive when it is back.
+                # The content of the drive when it is mounted again.
                 self.gone.rename(self.disk)
                 place, name = self.state()
                 self.assertTrue(result.status or (place, name) == ("file", "new"))

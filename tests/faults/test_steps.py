@@ -23,19 +23,19 @@ ERRORS = {
     "readdir": [EIO],
     "flock": [EIO],
 }
-# What lasts, once it has begun, until somebody does something about it.
+# Errors that persist until somebody corrects the cause.
 LASTING = [ENOSPC, EROFS, EIO]
 
 
 def plans(step):
-    """All that can befall a step, each with the word under which it is counted."""
+    """All faults for a step, each with the word under which it is counted."""
     for error in ERRORS[step.operation]:
         yield f"fail={error}", errno.errorcode[error]
     if step.operation in ("read", "write"):
         yield "short", "short"
     if step.operation == "write":
         yield f"shortfail={ENOSPC}", "short, then ENOSPC"
-    # On a mount of the network a signal may interrupt anything.
+    # On a network mount a signal may interrupt any call.
     yield "eintr", "EINTR"
 
 
@@ -46,11 +46,11 @@ def lasting_plans(step):
 
 
 def some(ways):
-    """All of them in the long run; in the short one two."""
+    """All of them in the full run; in the short one two."""
     return ways if FULL else chance.sample(ways, min(2, len(ways)))
 
 
-# Interrupted or cut short, but not failed: the program must carry on as if nothing had been.
+# Interrupted or partial operations, which are not failures: the program must continue normally.
 HARMLESS = ("short", "eintr")
 
 
@@ -59,7 +59,7 @@ def interrupted(step):
 
 
 def some_of_each(steps):
-    """All in the long run; in the short one some steps of each operation."""
+    """All in the full run; in the short one some steps of each operation."""
     if FULL:
         return steps
     kinds = {operation: [step for step in steps if step.operation == operation]
@@ -69,7 +69,7 @@ def some_of_each(steps):
 
 class Steps(FaultTest):
     def each(self, row, make, prepare, check, steps, kinds=plans):
-        """Runs `make` with each plan at each step, and has the result checked."""
+        """Runs `make` with each plan at each step, and checks the result."""
         for step in steps:
             for do, word in some(list(kinds(step))):
                 with self.subTest(step=step.number, operation=step.operation, do=do, path=step.path, seed=SEED):
@@ -95,12 +95,12 @@ class SaveFails(SaveTest, Steps):
         return steps
 
     def is_whole(self, result, do):
-        """True where the save is done: then what failed was nothing that the file's safety hangs on."""
+        """Whether the save succeeded: then the failed operation did not affect the file's safety."""
         if do not in HARMLESS and result.status != 0:
             return False
         self.assertEqual((0, "new"), (result.status, self.named(self.file)))
-        # The turn at the folder stops no save: where it could not be had the user is told, and where its file could not
-        # be removed it stays.
+        # Problems with the lock file do not stop a save: if it can't be created the user is told, and if it can't be
+        # deleted it stays.
         turn = do not in HARMLESS and any(step.fired and step.path == str(self.disk / LOCK) for step in result.steps)
         self.assertIn(result.messages, [[], ["File Saved"]] if turn else [[]], result.err)
         self.assertIn(names(self.disk), [["claim.zr3"], [LOCK, "claim.zr3"]] if turn else [["claim.zr3"]])
@@ -136,7 +136,7 @@ class SaveFails(SaveTest, Steps):
         self.each("First save", self.save_new, remove, check, self.steps(remove))
 
     def test_after_a_save_that_broke_off(self):
-        """The file is torn and the side file whole: no failure of the next save may lose that."""
+        """The file is torn and the side file complete: no failure of the next save may lose it."""
         def tear():
             self.file.write_bytes(self.whole["new"][:5000])
             self.side.write_bytes(self.whole["old"])
@@ -184,14 +184,14 @@ class ExportFails(ExportTest, Steps):
         self.each("Export", self.export_new, self.put_old, self.is_safe, some_of_each(steps), interrupted)
 
     def test_of_the_last_steps(self):
-        """Where the document takes its name, and where the sheets go: in the short run too."""
+        """Renaming the document and deleting the sheets; in the short run too."""
         steps = self.export_new(under=self.disk, log=self.log).steps
         place = next(step.number for step in steps if step.operation == "rename" and step.path == str(self.document))
         near = [step for step in steps if place - 6 <= step.number <= place + 6]
         self.each("End of the export", self.export_new, self.put_old, self.is_safe_and_works_again, near)
 
     def test_brings_the_document_to_the_disk(self):
-        """Its content before it takes its name, and then the folder that has the name."""
+        """Syncs the document's content before it is renamed, and the folder afterwards."""
         steps = [(step.operation, step.path.rstrip("/")) for step in
                  self.export_new(under=self.disk, log=self.log).steps]
         place = steps.index(("rename", str(self.document)))
@@ -199,7 +199,7 @@ class ExportFails(ExportTest, Steps):
         self.assertIn(("fsync", str(self.disk)), steps[place:])
 
     def test_the_sheets_are_private_from_the_start(self):
-        """What could be opened by others once, for a moment, could be locked by them."""
+        """A file that others could open even for a moment, they could lock."""
         steps = self.export_new(under=self.disk, log=self.log).steps
         made = next(step.number for step in steps if step.operation == "mkdir")
         one = start("export", "--force", self.claims["new"], self.disk, under=self.disk, at=made + 1, do="stop",
@@ -225,7 +225,7 @@ class ExportFails(ExportTest, Steps):
 
 class EveryOperationIsSeen(SaveTest):
     def test_by_the_plan_of_faults(self):
-        """What is counted and made to fail is all that the system is asked for, by the system's own account."""
+        """The operations counted are all those that the system reports."""
         if not shutil.which("strace") or subprocess.run(["strace", "true"], capture_output=True).returncode:
             self.skipTest("system calls can't be traced here")
         for seen, words in ((self.disk, ["save", self.sources["new"], self.file]),

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Two programs at one file, and two exports into one folder."""
+"""Two programs on one file, and two exports to one folder."""
 
 import contextlib
 import fcntl
@@ -11,7 +11,7 @@ from support import *
 
 @contextlib.contextmanager
 def locked(folder):
-    """A lock on a folder, which anyone can hold who may read it."""
+    """Holds a lock on a folder, which anyone who may read it can take."""
     descriptor = os.open(folder, os.O_RDONLY | os.O_DIRECTORY)
     try:
         fcntl.flock(descriptor, fcntl.LOCK_EX)
@@ -24,7 +24,7 @@ class TwoSaves(SaveTest):
     ROUNDS = 300 if FULL else 15
 
     def both(self, first, second, between=0.0, **faults):
-        """Two saves side by side, the second begun after the first; both results."""
+        """Runs two saves at once, the second started after the first; returns both results."""
         processes = [start("save", self.sources[first], self.file, **faults)]
         time.sleep(between)
         processes.append(start("save", self.sources[second], self.file))
@@ -47,7 +47,7 @@ class TwoSaves(SaveTest):
                 count("Two saves of one claim side by side", f"{self.named(self.file)} at the end")
 
     def test_one_held_up_at_each_step(self):
-        """The one stands still in the midst of its save while the other comes."""
+        """One save is stopped halfway while the other starts."""
         self.put_old()
         steps = self.save("new", under=self.disk, log=self.log).steps
         for step in a_part(steps):
@@ -64,8 +64,9 @@ class TwoSaves(SaveTest):
                 count("A save held up at each step while another comes", "rounds")
 
     def test_one_that_never_goes_on(self):
-        """A program that hangs in its save holds no other up for ever: that one takes its turn away, saves and says so.
-        Where the one goes on after all, it sees that and saves anew: no mixture of both is left."""
+        """A program that hangs in its save doesn't block another for ever: that one takes over the turn, saves and
+        reports it. If the first continues after all, it notices and saves again: no mixture of both is left.
+        """
         self.put_old()
         steps = self.save("new", under=self.disk, log=self.log).steps
         held = [step for step in steps if step.operation == "flock"][0].number
@@ -85,7 +86,7 @@ class TwoSaves(SaveTest):
                 count("A save that hangs", "rounds")
 
     def test_readers_never_wait(self):
-        """Neither for a lock on the folder, which those can hold who may only read it, nor for a save that hangs."""
+        """They wait neither for a lock on the folder, which other readers can take, nor for a save that hangs."""
         self.put_old()
         with locked(self.disk):
             began = time.monotonic()
@@ -105,14 +106,14 @@ class TwoSaves(SaveTest):
                 began = time.monotonic()
                 look = run("totals", self.file)
                 self.assertLess(time.monotonic() - began, 4)
-                # A file that stays torn is shown as it is: opening the side file is left to the user.
+                # A file that stays torn is reported as it is: opening the side file is left to the user.
                 self.assertEqual(0 if place == "file" else 2, look.status, look.err)
                 one.send_signal(signal.SIGCONT)
                 self.ended([one])
                 count("A claim opened while a save hangs", "whole" if place == "file" else "told")
 
     def test_only_who_may_write_can_hold_writers_up(self):
-        """The lock file can be opened by those who may write in the folder, and by no others."""
+        """Only those who may write to the folder can open the lock file."""
         for folder_mode, mode in ((0o700, 0o600), (0o755, 0o600), (0o775, 0o660), (0o2770, 0o660), (0o777, 0o666)):
             with self.subTest(folder=oct(folder_mode)):
                 self.put_old()
@@ -128,7 +129,7 @@ class TwoSaves(SaveTest):
                 self.ended([one])
 
     def test_a_lock_that_can_not_be_had(self):
-        """It stops no save, and the user is told."""
+        """It doesn't stop a save, and the user is told."""
         self.put_old()
         (self.disk / LOCK).mkdir()
         result = self.save("new")
@@ -137,7 +138,7 @@ class TwoSaves(SaveTest):
         self.assertEqual([LOCK, "claim.zr3"], names(self.disk))
 
     def test_a_lock_that_was_left_behind(self):
-        """By a program that was killed: it stops no save, and goes with the next save."""
+        """Left by a killed program: it doesn't stop a save, and the next save deletes it."""
         self.put_old()
         (self.disk / LOCK).touch(0o600)
         began = time.monotonic()
@@ -155,13 +156,13 @@ class TwoSaves(SaveTest):
                 one.communicate()
                 out, err = other.communicate(timeout=60)
                 self.assertEqual((0, b"", b""), (other.returncode, out, err))
-                # Whichever of them was the last: the killed one may have begun after the other had ended.
+                # Either may have been the last: the killed one may have started after the other had ended.
                 self.state()
                 self.saves_again()
                 count("Two saves, one of them killed", "rounds")
 
     def test_while_others_look(self):
-        """Whoever opens the claim while it is being saved sees the one or the other whole."""
+        """Anyone who opens the claim during a save sees one complete version or the other."""
         ended = threading.Event()
         worked_out = [json.loads((SAMPLES / f"{sample}.totals.json").read_text("utf-8"))
                       for sample, _ in self.SAMPLES.values()]
@@ -204,7 +205,7 @@ class TwoExports(ExportTest):
                 self.assertEqual(["Claim1.doc"], names(self.disk))
 
     def test_without_force_behind_another(self):
-        """The document that the other has just made is not replaced."""
+        """The document that the other export has just created is not replaced."""
         self.document.unlink()
         steps = run("export", self.claims["new"], self.disk, under=self.disk, log=self.log).steps
         locks = [step.number for step in steps if step.operation == "flock"]
@@ -225,7 +226,7 @@ class TwoExports(ExportTest):
                 self.assertEqual(("new", ["Claim1.doc"]), (self.state(), names(self.disk)))
 
     def test_without_force_where_a_document_comes_meanwhile(self):
-        """One that no export has made is not replaced either."""
+        """A document from elsewhere is not replaced either."""
         self.document.unlink()
         steps = run("export", self.claims["new"], self.disk, under=self.disk, log=self.log).steps
         self.document.unlink()
@@ -239,7 +240,7 @@ class TwoExports(ExportTest):
         self.assertEqual(("old", ["Claim1.doc"]), (self.state(), names(self.disk)))
 
     def test_behind_one_that_hangs(self):
-        """It is told that another export is running, and touches neither that one's sheets nor the document."""
+        """It reports that another export is running, and touches neither its sheets nor the document."""
         self.put_old()
         one = start("export", "--force", self.claims["new"], self.disk, under=self.disk, at=100, do="stop",
                     log=self.log)

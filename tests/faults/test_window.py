@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""The program in its window, on a display of its own, is killed at the steps of the save that Ctrl+S begins.
+"""The desktop program, on a display of its own, is killed at each step of the save started by Ctrl+S.
 
-    ZR3_PROGRAM   the program with the window, beside what support.py is told
+    ZR3_PROGRAM   the desktop program; also needed are the variables of support.py
 """
 
 import sys
@@ -22,18 +22,18 @@ class WindowKilled(SaveTest):
             if not shutil.which(program):
                 self.skipTest(f"there is no {program} on this machine")
         super().setUp()
-        # A claim that was last saved elsewhere, so that its save changes it.
+        # A claim that was last saved elsewhere, so that saving changes it.
         elsewhere = self.folder / "elsewhere.zr3"
         self.assertEqual(0, run("save", self.sources["new"], elsewhere).status)
         self.whole = {"old": elsewhere.read_bytes(), "new": self.whole["new"]}
         home = self.folder / "home"
         home.mkdir()
         self.desktop = self.enterContext(Desktop(home))
-        # How often an open claim's file is looked at before the save depends on the time that passes.
+        # How often an open claim's file is checked before the save depends on the time that passes.
         self.begun = self.folder / "begun"
 
     def begin(self, at=0, do=""):
-        """Opens the claim in the window, and gives the process. Operations are counted from the save on."""
+        """Opens the claim in the window and returns the process. Operations are counted from the save on."""
         self.log.unlink(missing_ok=True)
         self.begun.unlink(missing_ok=True)
         self.put_old()
@@ -42,7 +42,7 @@ class WindowKilled(SaveTest):
                 if name == "LD_PRELOAD" or name.startswith("ZR3_FAULTS")}
         process = self.desktop.start("program", ["env", *(f"{name}={value}" for name, value in plan.items()), PROGRAM,
                                                  str(self.file)])
-        # The splash bears the title of the main window, which fills the screen.
+        # The splash has the main window's title, but only the main window fills the screen.
         self.desktop.wait("the main window", lambda: self.desktop.title() == MAIN and self.desktop.fills_the_screen())
         return process
 
@@ -60,7 +60,7 @@ class WindowKilled(SaveTest):
         self.put_old()
         tool = self.save("new", under=self.disk, log=self.log)
         wanted, made = ([step.operation for step in of] for of in (tool.steps, steps))
-        # Before it the window looks whether another program has changed the file, and afterwards it reads it back.
+        # The window first checks whether another program has changed the file, and afterwards reads it back.
         begins = [place for place in range(len(made)) if made[place:place + len(wanted)] == wanted]
         self.assertTrue(begins, f"the window doesn't save as the tool does: {made}")
         around = made[:begins[0]] + made[begins[0] + len(wanted):]

@@ -1,8 +1,8 @@
-"""Reads the includes of the program's code: which floor each file stands on, which arrows run up, which files form circles."""
+"""Reads the includes of the program's code: the floor of each file, includes of higher floors, and include cycles."""
 import re
 from pathlib import Path
 
-# From the ground up. A file includes what stands on its own floor or on a floor that its own may know.
+# From the bottom up. A file includes only its own floor and the floors listed for it.
 FLOORS = {
     "base": (),
     "formdata": ("base",),
@@ -24,7 +24,7 @@ INCLUDE = re.compile(r'^#include "([^"]+)"', re.MULTILINE)
 
 
 def floor_of(file):
-    """The floor that a file stands on, by its folder; nothing for a file of no floor."""
+    """The floor of a file, by its folder; None outside the floors."""
     folder = file.rpartition("/")[0]
     while folder and folder not in FLOORS:
         folder = folder.rpartition("/")[0]
@@ -40,13 +40,13 @@ def includes_of(root):
 
 
 def unknown_includes(includes):
-    """Quoted includes that name no file of a floor."""
+    """Quoted includes that are not files of a floor."""
     return sorted(f"{file} includes {included}" for file, those in includes.items() for included in those
                   if included not in includes and not included.endswith(".moc"))
 
 
 def arrows_up(includes):
-    """Includes of a floor that the file's own may not know, as sentences."""
+    """Includes that the file's floor does not permit, as sentences."""
     wrong = []
     for file, those in includes.items():
         own = floor_of(file)
@@ -58,12 +58,12 @@ def arrows_up(includes):
 
 
 def room_of(file):
-    """A header and its source are one room; so are the sources of one service for several systems."""
+    """A header and its source count as one unit (room), as do the sources of one service for several systems."""
     return re.sub(r"_(posix|linux|windows)$", "", file.rpartition(".")[0])
 
 
 def circles(includes):
-    """The sets of rooms that reach each other by includes, each sorted, the longest first."""
+    """The sets of rooms that include each other, each sorted, the longest first."""
     rooms = {}
     for file, those in includes.items():
         rooms.setdefault(room_of(file), set()).update(room_of(i) for i in those if i in includes)

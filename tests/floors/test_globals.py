@@ -1,4 +1,4 @@
-"""Each global or function static that can change stands in globals.toml, with its reason.
+"""Each mutable global or function static is listed in globals.toml, with its reason.
 
 test_globals.py COMPILER OBJDUMP FLOOR=FILE[:FILE...]...
 """
@@ -27,7 +27,7 @@ class Globals(unittest.TestCase):
 
 
 class TheReader(unittest.TestCase):
-    """The reader sees what can change in a small tree that is compiled on the spot."""
+    """Tests the reader on a small source tree that is compiled here."""
 
     def mutable(self, **sources):
         with tempfile.TemporaryDirectory() as folder:

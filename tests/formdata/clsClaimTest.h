@@ -2,7 +2,7 @@
 
 #include "tests/formdata/clsTestClaim.h"
 
-/// A test on a claim of its own.
+/// Base of tests of a single claim.
 class clsClaimTest : public testing::Test {
 protected:
     clsTestClaim claim;

@@ -11,7 +11,7 @@
 
 #include <gtest/gtest.h>
 
-/// A test that loads and saves claims: a folder of its own and a scripted user.
+/// Base of tests that load and save claims, with a temporary folder and a scripted user.
 class clsFormTest : public clsFolderTest {
 protected:
     clsScriptedUserInterface user;
@@ -30,20 +30,20 @@ inline QStringList childNames(pugi::xml_node node)
     return names;
 }
 
-/// A child's content as it stands in the tree.
+/// The raw content of a child element.
 inline QByteArray contentOf(pugi::xml_node node, const char *child)
 {
     return node.child(child).child_value();
 }
 
-/// Puts a content into the tree as a hand-edited file would hold it.
+/// Sets the content of a child element directly, as in a hand-edited file.
 inline void setContentOf(pugi::xml_node node, const char *child, const char *content)
 {
     ASSERT_TRUE(node.child(child));
     XMLSetContent(node.child(child), content);
 }
 
-/// Calls the visitor with the name of each section's element and the section.
+/// Calls the visitor with each section's element name and the section.
 template <class Visit> void forEachSection(clsZR3Form &form, Visit visit)
 {
     visit("clientdetails", form.ClientDetails);
@@ -62,7 +62,7 @@ template <class Visit> void forEachSection(clsZR3Form &form, Visit visit)
     visit("debtorsdetails", form.DebtorsDetails);
 }
 
-/// Calls the visitor with the item element's name, the list element's name and the collection of each list.
+/// Calls the visitor with each list's item element name, list element name and collection.
 template <class Visit> void forEachList(clsZR3Form &form, Visit visit)
 {
     visit("feeearnergroup", "feeearnergroups", form.FeeEarnerGroupsCollection());
@@ -76,7 +76,7 @@ template <class Visit> void forEachList(clsZR3Form &form, Visit visit)
     visit("disbursement", "disbursements", form.DisbursementsCollection());
 }
 
-/// One more item in each of the nine lists.
+/// Adds an item to each of the nine lists.
 inline void addToEachList(clsZR3Form &form)
 {
     form.AddFeeEarnerGroup();

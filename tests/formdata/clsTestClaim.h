@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-/// A claim that is built line by line, with a scripted user.
+/// A claim that a test builds step by step, with a scripted user.
 class clsTestClaim {
 public:
     clsScriptedUserInterface user;
@@ -22,7 +22,7 @@ public:
     using FeeEarner = std::shared_ptr<clsZR3FeeEarner>;
     using Item = std::shared_ptr<clsZR3ScheduleOfTimeItem>;
 
-    /// A group with a rate for each kind of work that no other kind has.
+    /// A group with a different rate for each kind of work.
     Group addGroup(const char *hourlyRate = "40.00")
     {
         const Group group = form.AddFeeEarnerGroup();
@@ -83,7 +83,7 @@ inline QString operator""_q(const char *text, size_t size)
     return QString::fromUtf8(text, qsizetype(size));
 }
 
-/// An amount as plain text, in the shape in which a person works it out.
+/// An amount as plain text, as one would write it by hand.
 inline QString textOf(Money amount)
 {
     return MoneyToText(amount);

@@ -9,8 +9,8 @@
 // clang-format off
 // These are tables, to be read row for row.
 
-// The file format, laid down a second time and by hand: whoever changes a template or a property must change it here
-// too, and so cannot do it unawares. Existing claims depend on every one of these names.
+// The file format, written a second time by hand: a change to a template or property must be made here too, so it can't
+// happen by accident. Existing claims depend on all these names.
 
 enum FormatKind { Text, Boolean, Long, List, Section, Carried };
 
@@ -23,7 +23,7 @@ struct FormatRow {
 /// By the name of the parent element.
 using FormatTables = std::map<std::string, std::vector<FormatRow>>;
 
-/// The children of each element, in the order of a new file. A carried element is never read: it has a name only.
+/// The children of each element, in the order of a new file. A carried element is never read: it has only a name.
 inline const FormatTables &elementTables()
 {
     static const FormatTables tables = {

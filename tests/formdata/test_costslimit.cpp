@@ -1,4 +1,4 @@
-// The limit of costs: an element that a claim has only while it is set.
+// The limit of costs: an element that exists only while a limit is set.
 
 #include "formdata/mdCostsLimit.h"
 #include "tests/formdata/clsFormTest.h"

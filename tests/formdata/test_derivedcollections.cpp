@@ -7,7 +7,7 @@ namespace {
 using Error = clsRunTimeError;
 using Numbers = std::vector<int>;
 
-/// The places in their list of the items of a collection.
+/// The list positions of the items in a collection.
 Numbers placesOf(const auto &collection)
 {
     Numbers places;
@@ -69,9 +69,9 @@ TEST(ScheduleForExport, AnItemLeftOutKeepsTheNumberThatItHad)
     EXPECT_EQ(4, form.ScheduleOfTimeItem(1)->SOTItemNumber);
     form.ExcludeNonAdvocacy = true;
     render(form);
-    EXPECT_EQ(4, form.ScheduleOfTimeItem(1)->SOTItemNumber); // left out: stale
+    EXPECT_EQ(4, form.ScheduleOfTimeItem(1)->SOTItemNumber); // left out, so not updated
     EXPECT_EQ(2, form.ScheduleOfTimeItem(2)->SOTItemNumber);
-    EXPECT_EQ(2, form.ScheduleOfTimeItem(3)->SOTItemNumber); // left out: stale
+    EXPECT_EQ(2, form.ScheduleOfTimeItem(3)->SOTItemNumber); // left out, so not updated
     EXPECT_EQ(1, form.ScheduleOfTimeItem(4)->SOTItemNumber);
 }
 
@@ -104,7 +104,7 @@ TEST(AdditionalInformation, AnItemWithoutADescriptionIsNumberedAndNotListed)
     clsZR3Form form;
     addFourItemsBackwards(form);
     form.ScheduleOfTimeItem(3)->Description = QString();
-    form.ScheduleOfTimeItem(2)->Description = QStringLiteral(" "); // a blank is a description
+    form.ScheduleOfTimeItem(2)->Description = QStringLiteral(" "); // a space is a description
     render(form);
     EXPECT_EQ((Numbers {4, 2, 1}), placesOf(form.AdditionalInformationItemsCollection()));
     EXPECT_EQ(2, form.ScheduleOfTimeItem(3)->SOTItemNumber);
@@ -140,7 +140,7 @@ TEST(FASCollections, AnItemMayStandInBothOrNeither)
     }
     for (int n = 1; n <= 5; ++n)
         form.FASItem(n)->OrderID = 6 - n;
-    EXPECT_TRUE(form.FASBoltOnPaymentsCollection().empty()); // not before its routine runs
+    EXPECT_TRUE(form.FASBoltOnPaymentsCollection().empty()); // not before its function is called
     form.CreateFASCollections();
     EXPECT_EQ((Numbers {5, 2}), placesOf(form.FASBoltOnPaymentsCollection()));
     EXPECT_EQ((Numbers {5, 4, 3}), placesOf(form.FASTravelBoltOnsCollection()));
@@ -180,7 +180,7 @@ TEST(DerivedCollections, AreRebuiltByRenderingTheirLists)
     ASSERT_EQ(1u, form.AdditionalInformationItemsCollection().size());
     ASSERT_EQ(1u, form.FASBoltOnPaymentsCollection().size());
     ASSERT_EQ(1u, form.NonCounselDisbursementsCollection().size());
-    // They hold the objects of the new lists.
+    // They contain the objects of the new lists.
     EXPECT_EQ(form.ScheduleOfTimeItem(1), form.AdditionalInformationItem(1));
     EXPECT_EQ(form.FASItem(1), form.FASBoltOnPaymentsCollection()[0]);
     EXPECT_EQ(form.Disbursement(1), form.NonCounselDisbursement(1));
@@ -208,7 +208,7 @@ TEST(DerivedCollections, AGapInTheOrderIsTheObjectErrorAndIsTold)
         told([&] { form.CreateFASCollections(); }));
     EXPECT_EQ(QStringLiteral("91 No disbursement has place 2 in the order of its list"),
         told([&] { form.SeparateCounselAndNonCounselDisbursements(); }));
-    // As a grid draws them: numbered 1 to n.
+    // Numbered 1 to n, as a grid numbers them.
     form.ScheduleOfTimeItem(2)->OrderID = 2;
     form.FASItem(2)->OrderID = 2;
     form.Disbursement(2)->OrderID = 2;
@@ -219,7 +219,7 @@ TEST(DerivedCollections, AGapInTheOrderIsTheObjectErrorAndIsTold)
     EXPECT_EQ(2u, form.NonCounselDisbursementsCollection().size());
 }
 
-// Items of which a file doesn't say where they belong
+// Items without a stored order
 
 TEST(DerivedCollections, AClaimThatDoesNotSayWhatIsOnTheBillShowsAllItemsAndNumbersNone)
 {

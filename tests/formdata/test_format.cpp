@@ -84,7 +84,7 @@ TEST(Format, APropertyIsTheElementOfItsNameInLowerCaseAndOfItsKind)
     for (const auto &[table, rows] : propertyTables())
         for (const FormatRow &property : rows) {
             const std::string element = QString::fromStdString(property.name).toLower().toStdString();
-            // The one member that never had an element.
+            // The only member that never had an element.
             if (table == "scheduleoftimeitem" && element == "typeofcase")
                 continue;
             const std::vector<FormatRow> &elements = elementTables().at(table);
@@ -104,7 +104,7 @@ TEST(Format, EveryElementButTheCarriedOnesHasAProperty)
         for (const FormatRow &row : propertyTables().at(table))
             properties.insert(QString::fromStdString(row.name).toLower().toStdString());
         if (table == "vzrform")
-            properties.insert("idcounter"); // read and written by GenerateUniqueID alone
+            properties.insert("idcounter"); // read and written only by GenerateUniqueID
         for (const FormatRow &row : elements)
             if (row.kind == Text || row.kind == Boolean || row.kind == Long) {
                 EXPECT_TRUE(properties.contains(row.name)) << table << ' ' << row.name;
@@ -116,7 +116,7 @@ TEST(Format, TheFormsPropertiesAreThoseOfTheTable)
 {
     const clsZR3Form form;
     const std::vector<FormatRow> &rows = propertyTables().at("vzrform");
-    EXPECT_EQ(rows.size() + 1, form.properties().size()); // the counter of identities is no public member
+    EXPECT_EQ(rows.size() + 1, form.properties().size()); // the counter of identities is not a public member
     for (const FormatRow &row : rows) {
         const clsXMLField *field = form.field(QString::fromStdString(row.name));
         ASSERT_TRUE(field) << row.name;
@@ -185,7 +185,7 @@ TEST(Format, ANewClaimHasEveryPropertyAtItsDefault)
                 else if (row.kind == Boolean)
                     EXPECT_EQ(row.initially == "True", field.readBoolean()) << table << ' ' << row.name;
                 else
-                    EXPECT_EQ(0, field.readLong()) << table << ' ' << row.name; // no long begins at anything else
+                    EXPECT_EQ(0, field.readLong()) << table << ' ' << row.name; // a whole number always starts at 0
             }
         }
     };

@@ -296,7 +296,7 @@ TEST_F(History, KeepsTwoHundredStepsAndNoMoreThanItsMemory)
     for (int n = 0; n < 200; ++n)
         step("Notes", [&] { form->Notes = QString::number(n); });
     EXPECT_EQ(200u, history.steps());
-    // Each holds the text before and the text after.
+    // Each step stores the text before and after.
     const int length = int(clsHistory::MostBytes / 10);
     for (int n = 0; n < 12; ++n) {
         step("Long", [&] { form->Notes = QString(length, QChar(u'a' + n)); });

@@ -1,4 +1,4 @@
-// The items of the bill and what they price themselves at.
+// The items of the bill and their prices.
 
 #include "formdata/mdScheduleOfTimeCodesCollection.h"
 #include "tests/formdata/clsClaimTest.h"
@@ -22,7 +22,7 @@ TEST_F(FeeEarners, AGroupCollectsItsOwnInTheOrderOfTheList)
     const auto first = claim.addFeeEarner(a, "X");
     claim.addFeeEarner(b, "Y");
     const auto third = claim.addFeeEarner(a, "Z");
-    first->OrderID = 3; // the order on the screen plays no part
+    first->OrderID = 3; // the order on the screen has no effect
     third->OrderID = 1;
     ASSERT_EQ(2u, a->FeeEarnersCollection().size());
     EXPECT_EQ(first, a->FeeEarnersCollection()[0]);
@@ -168,7 +168,7 @@ TEST_F(ScheduleItem, ALaterRuleOfTheRateOverridesAnEarlierOne)
 
 TEST_F(ScheduleItem, PricesTheWorkedExample)
 {
-    // 90 minutes are 1.5 hours, at 47.25 that is 70.875, so 70.88; 50 per cent of it are 35.44; together 106.32.
+    // 90 minutes are 1.5 hours, at 47.25 that is 70.875, so 70.88; 50 per cent of it is 35.44; together 106.32.
     const auto group = claim.addGroup("47.25");
     group->Enhance = true;
     group->EnhancementRate = "50.00"_q;
@@ -188,13 +188,13 @@ TEST_F(ScheduleItem, NoTimeClaimsNothing)
 
 TEST_F(ScheduleItem, EnhancementsAddAndDoNotCompound)
 {
-    // 100.00 and 60 per cent are 160.00; compounded, 50 and then 10 would be 165.00.
+    // 100.00 and 60 per cent is 160.00; compounded, 50 and then 10 would give 165.00.
     const auto group = claim.addGroup("100.00");
     group->Enhance = true;
     group->EnhancementRate = "50"_q;
     const auto item = claim.addItem(claim.addFeeEarner(group), "01:00");
     item->EnhancementUniqueID = claim.addEnhancement("10")->UniqueID();
-    EXPECT_EQ("50"_q, textOf(item->TotalEnhancementPercentage())); // named, and not included
+    EXPECT_EQ("50"_q, textOf(item->TotalEnhancementPercentage())); // named, but not included
     item->IncludeInEnhancements = true;
     EXPECT_EQ("60"_q, textOf(item->TotalEnhancementPercentage()));
     EXPECT_EQ("160"_q, textOf(item->Claim()));
@@ -205,7 +205,7 @@ TEST_F(ScheduleItem, EnhancementsAddAndDoNotCompound)
 
 TEST_F(ScheduleItem, IsRoundedOnceOnTheSum)
 {
-    // 10 minutes at 100.00 are 16.67; half of that is 8.335; the sum 25.005 rounds away from zero.
+    // 10 minutes at 100.00 is 16.67; half of that is 8.335; the sum 25.005 rounds away from zero.
     const auto group = claim.addGroup("100.00");
     group->Enhance = true;
     group->EnhancementRate = "50"_q;
@@ -216,11 +216,11 @@ TEST_F(ScheduleItem, IsRoundedOnceOnTheSum)
 
 TEST_F(ScheduleItem, FractionsOfAPennyInARateAreKeptUntilThePrice)
 {
-    // 20 hours at 10.0025 are 200.05; a rate taken to the penny would give 200.00.
+    // 20 hours at 10.0025 is 200.05; a rate rounded to the penny would give 200.00.
     const auto item = claim.addItem(claim.addFeeEarner(claim.addGroup("10.0025")), "20:00");
     EXPECT_EQ("10.0025"_q, textOf(item->Rate()));
     EXPECT_EQ("200.05"_q, textOf(item->BasicClaim()));
-    // A percentage with decimals: 12.345 per cent of 200.05 are 24.6962 (24.69617), together 224.7462.
+    // A percentage with decimals: 12.345 per cent of 200.05 is 24.6962 (24.69617), together 224.7462.
     item->IncludeInEnhancements = true;
     item->EnhancementUniqueID = claim.addEnhancement("12.345")->UniqueID();
     EXPECT_EQ("224.75"_q, textOf(item->Claim()));
@@ -233,7 +233,7 @@ TEST_F(ScheduleItem, AChangeOfARateRepricesWithoutTouchingTheItem)
     const auto enhancement = claim.addEnhancement("25");
     item->IncludeInEnhancements = true;
     item->EnhancementUniqueID = enhancement->UniqueID();
-    EXPECT_EQ("100"_q, textOf(item->Claim())); // 80 and a quarter of it
+    EXPECT_EQ("100"_q, textOf(item->Claim())); // 80 plus 25 per cent
     const QString before = item->XMLOutput();
     group->HourlyRate = "60.00"_q;
     EXPECT_EQ("60"_q, textOf(item->Rate()));
@@ -278,12 +278,12 @@ TEST_F(ScheduleItem, ABlankRateIsTheTypeErrorWhereItIsRead)
     const auto group = claim.addGroup();
     const auto item = claim.addItem(claim.addFeeEarner(group), "01:00");
     group->AdvocacyRate = QString();
-    EXPECT_EQ("40"_q, textOf(item->Rate())); // not asked for
+    EXPECT_EQ("40"_q, textOf(item->Rate())); // not read
     item->Advocacy = true;
     EXPECT_EQ(Error::TypeMismatch, errorOf([&] { item->Rate(); }));
     group->AdvocacyRate = "x"_q;
     EXPECT_EQ(Error::TypeMismatch, errorOf([&] { item->Claim(); }));
-    // The hourly rate is where every item starts from.
+    // Every item starts from the hourly rate.
     group->AdvocacyRate = "50"_q;
     group->HourlyRate = QString();
     EXPECT_EQ(Error::TypeMismatch, errorOf([&] { item->Rate(); }));
@@ -302,7 +302,7 @@ TEST_F(ScheduleItem, ABlankOrMissingEnhancementIsAnError)
     EXPECT_EQ("0"_q, textOf(item->TotalEnhancementPercentage()));
     EXPECT_EQ("40"_q, textOf(item->Claim()));
     group->EnhancementRate = QString();
-    EXPECT_EQ("40"_q, textOf(item->Claim())); // not asked for
+    EXPECT_EQ("40"_q, textOf(item->Claim())); // not read
     group->Enhance = true;
     EXPECT_EQ(Error::TypeMismatch, errorOf([&] { item->Claim(); }));
 }
@@ -321,7 +321,7 @@ TEST_F(ScheduleItem, TheDateSorts)
         {"01/02/06", "20060201"},
         {"28/02/1999", "19990228"},
         {"", ""},
-        // A year of more digits, or before the first, is a slip of the keys and would sort wrongly.
+        // A year of more digits, or before the first, is a typing error and would be sorted wrongly.
         {"01/02/20240", "01/02/20240"},
         {"01/02/-50", "01/02/-50"},
     };
@@ -339,9 +339,9 @@ TEST_F(ScheduleItem, TheDateSorts)
 
 TEST_F(FASItem, PricesTheWorkedExamples)
 {
-    // 3 units at 100.00 and an eighth of them more.
+    // 3 units at 100.00, plus 12.5 per cent.
     EXPECT_EQ("337.5"_q, textOf(claim.addFASItem(3, "100.00", "12.5")->Total()));
-    // 12.55 per cent of 10.00 are 1.255: the fraction of a penny stays.
+    // 12.55 per cent of 10.00 is 1.255: the fraction of a penny is kept.
     EXPECT_EQ("11.255"_q, textOf(claim.addFASItem(1, "10.00", "12.55")->Total()));
 }
 
@@ -351,7 +351,7 @@ TEST_F(FASItem, AddsTheFixedPaymentsWithTheirFractions)
     item->CourtBundlePayment = "1,159.00"_q;
     item->SettlementFee = "0.0001"_q;
     item->ExceptionalTravel = "32.40"_q;
-    item->VATForFAS = "999"_q; // no part of the total
+    item->VATForFAS = "999"_q; // not part of the total
     EXPECT_EQ("173.45"_q, textOf(item->UnitPayment()));
     EXPECT_EQ("43.3625"_q, textOf(item->BoltOn()));
     // 173.45 + 43.3625 + 1159 + 0.0001 + 32.40
@@ -366,7 +366,7 @@ TEST_F(FASItem, AnEmptyBoltOnIsNone)
 TEST_F(FASItem, AnEmptyAmountIsTheTypeError)
 {
     EXPECT_EQ(Error::TypeMismatch, errorOf([&] { claim.addFASItem(1, "", "0")->Total(); }));
-    EXPECT_EQ(Error::TypeMismatch, errorOf([&] { form.AddFASItem()->Total(); })); // fresh from its template
+    EXPECT_EQ(Error::TypeMismatch, errorOf([&] { form.AddFASItem()->Total(); })); // new from its template
     for (int field = 0; field < 3; ++field) {
         const auto item = claim.addFASItem(1, "1", "0");
         if (field == 0)
@@ -383,7 +383,7 @@ TEST_F(FASItem, ItsErrorsComeInTheOrderOfItsParts)
 {
     const auto item = claim.addFASItem(1, "1", "0");
     item->CourtBundlePayment = "99999999999999999999"_q; // overflow
-    item->SettlementFee = "x"_q; // type
+    item->SettlementFee = "x"_q; // type mismatch
     EXPECT_EQ(Error::Overflow, errorOf([&] { item->Total(); }));
     item->CourtBundlePayment = "x"_q;
     item->SettlementFee = "99999999999999999999"_q;

@@ -1,4 +1,4 @@
-// Properties of items by name, for those who do not know their classes.
+// Access to items' properties by name, without knowing their classes.
 
 #include "formdata/mdLateProperty.h"
 #include "formdata/mdReadDerived.h"

@@ -1,4 +1,4 @@
-// The nine lists: places, orders and identities.
+// The nine lists: positions, orders and identities.
 
 #include "tests/formdata/clsFormTest.h"
 
@@ -243,7 +243,7 @@ TEST(Lists, RenderingMakesNewObjectsInTheOrderOfTheFile)
     EXPECT_EQ((Numbers {2, 1}), ordersOf(form.JointInstructionsCollection()));
     EXPECT_EQ((Numbers {1, 2}), indexesOf(form.JointInstructionsCollection()));
     EXPECT_EQ(form.JointInstruction(1), form.JointInstructionByOrderID(2));
-    // An object from before has no element any more, since nobody could tell it that its element goes.
+    // The old object has no element any more: it isn't notified when its element is removed.
     EXPECT_EQ(Error::ObjectNotSet, errorOf([&] { first->OrderID = 5; }));
     EXPECT_EQ(form.JointInstruction(1), form.JointInstructionByOrderID(2));
 }

@@ -1,4 +1,4 @@
-// A claim to its file and back.
+// Loading and saving a claim.
 
 #include "tests/formdata/clsFormTest.h"
 #include "tests/formdata/mdFormatTables.h"
@@ -11,7 +11,7 @@ using Error = clsRunTimeError;
 
 class LoadAndSave : public clsFormTest {
 protected:
-    /// What must be told of a file that is no claim, and nothing else.
+    /// Expects only the message for a file that is not a claim.
     void expectRefused(const QString &file)
     {
         clsZR3Form form;
@@ -28,7 +28,7 @@ protected:
         EXPECT_FALSE(told.system);
     }
 
-    /// Loads a file of that text and gives back what a save writes.
+    /// Loads a file with that text and returns what a save writes.
     QByteArray saved(const QByteArray &text)
     {
         clsZR3Form form;
@@ -38,7 +38,7 @@ protected:
     }
 };
 
-/// A value for each property that nothing else has.
+/// A unique value for each property.
 struct Marks {
     int next = 0;
 
@@ -250,7 +250,7 @@ TEST_F(LoadAndSave, WhatTheProgramDoesNotKnowStaysInItsPlaceToTheLastCharacter)
 TEST_F(LoadAndSave, TheOrderOfTheFileIsKept)
 {
     clsZR3Form form;
-    // Every child of the root in the opposite order.
+    // Every child of the root, in reverse order.
     for (pugi::xml_node child = form.XMLNode().last_child(); child;) {
         const pugi::xml_node previous = child.previous_sibling();
         form.XMLNode().append_move(child);
@@ -355,7 +355,7 @@ TEST_F(LoadAndSave, ALoadThatEndsMidwayLeavesAnEmptyClaimThatCanBeUsed)
 
 namespace {
 
-/// Every property of an item whose claim is gone is the object error, to read and to write.
+/// Expects the object error when any property of an item whose claim no longer exists is read or written.
 void expectReleased(clsXMLRecord &item)
 {
     for (const clsXMLPropertyPlace &place : item.properties()) {
@@ -389,7 +389,7 @@ TEST_F(LoadAndSave, AnItemThatOutlivesItsClaimIsTheObjectError)
         } else {
             ASSERT_FALSE(form->LoadXML(put("none.zr3", "none")));
             for (const auto &item : items)
-                EXPECT_TRUE(item->XMLNode()); // the claim was not touched
+                EXPECT_TRUE(item->XMLNode()); // the claim was not changed
             continue;
         }
         for (const auto &item : items)
@@ -480,7 +480,7 @@ TEST_F(LoadAndSave, ALoadDoesNotTouchTheFile)
     clsZR3Form form;
     ASSERT_TRUE(form.LoadXML(put("old.zr3", text)));
     EXPECT_EQ(text, bytesOf(path("old.zr3")));
-    EXPECT_EQ(QString(), form.path()); // whoever opens a claim stamps it, not the load
+    EXPECT_EQ(QString(), form.path()); // opening a claim sets it, not loading
 }
 
 TEST_F(LoadAndSave, AFailedSaveShowsItsBoxAndKeepsTheClaim)

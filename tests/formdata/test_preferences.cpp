@@ -1,4 +1,4 @@
-// The settings that outlive a claim.
+// The user's settings.
 
 #include "base/clsProgramEnd.h"
 #include "base/mdDatabasePath.h"
@@ -223,7 +223,7 @@ TEST_F(Preferences, TheLogAndTheSoundsFollowTheirSwitches)
         EXPECT_TRUE(bytesOf(LogPath()).endsWith(" : on\r\n"));
         preferences.PlaySound = true;
     }
-    PlayWav(sound); // and with the preferences they are gone
+    PlayWav(sound); // cleared with the preferences
     EXPECT_EQ(1, user.sounds.size());
 }
 

@@ -1,4 +1,4 @@
-// An item that knows its elements reads as one that looks for them at each read, whatever is done to the tree.
+// An item that caches its elements reads the same as one that searches for them each time, whatever changes the tree.
 
 #include "tests/formdata/clsFormTest.h"
 
@@ -9,7 +9,7 @@ namespace {
 
 constexpr int NoElement = clsRunTimeError::ObjectNotSet;
 
-/// All that an item reads, by its fields; the number of the error where it can't be read.
+/// All that an item reads, by field; the error number if it can't be read.
 QStringList contentsOf(const clsXMLRecord &item)
 {
     QStringList contents;
@@ -27,7 +27,7 @@ class RecordReading : public clsFormTest {
 protected:
     clsZR3Form form;
 
-    /// The one item of a claim that was read from a file, whose element has this content.
+    /// The only item of a claim loaded from a file, with this element content.
     std::shared_ptr<clsZR3ScheduleOfTimeItem> itemOf(const QByteArray &content)
     {
         const QByteArray claim = "<vzrform><scheduleoftimeitems><scheduleoftimeitem><orderid>1</orderid>" + content
@@ -35,7 +35,7 @@ protected:
         EXPECT_TRUE(form.LoadXML(put("claim.zr3", claim)));
         return form.ScheduleOfTimeItem(1);
     }
-    /// Whoever has the element may change it, so that the item looks for its elements once it was asked for it.
+    /// Getting the element may lead to changes, so from then on the item searches for its elements.
     static void expectTheSameBySearch(const clsZR3ScheduleOfTimeItem &item)
     {
         const QStringList known = contentsOf(item);

@@ -1,4 +1,4 @@
-// The user's abbreviations, on a box that has nothing but a text and a caret.
+// The user's abbreviations, on a box with only a text and a caret.
 
 #include "formdata/mdReplacements.h"
 #include "tests/support/clsReplacementsTest.h"
@@ -22,7 +22,7 @@ struct Box {
 
 class Replacements : public clsReplacementsTest {
 protected:
-    /// What a text becomes whose last character, a space, has just been typed.
+    /// The result for a text whose last character, a space, has just been typed.
     static Box typed(const char *text)
     {
         Box box;
@@ -91,7 +91,7 @@ TEST_F(Replacements, AllOfTheTextIsSearched)
     box.caret = 2;
     EXPECT_TRUE(ApplyReplacements(Qt::Key_Space, box));
     EXPECT_EQ(QStringLiteral("x  abovey\r\nabovez"), box.text);
-    // Moved by the growth of the whole text, although it all lies behind the caret.
+    // Moved by the growth of the whole text, although all of it is after the caret.
     EXPECT_EQ(6, box.caret);
 }
 
@@ -99,7 +99,7 @@ TEST_F(Replacements, ALaterOneSeesWhatAnEarlierOneHasPutIn)
 {
     replace("ab", "cd x");
     replace("x", "y");
-    // No blank stands behind the x that was put in, other than one that was there before.
+    // The inserted x is followed by a space only if there was one before.
     EXPECT_EQ(QStringLiteral("cd x"), typed("ab ").text);
     EXPECT_EQ(QStringLiteral("cd y"), typed("ab  ").text);
 }
@@ -152,7 +152,7 @@ TEST_F(Replacements, TheTextIsWrittenEvenIfNothingMatches)
 TEST_F(Replacements, TheAnswerIsWhetherTheLengthHasChanged)
 {
     replace("ab", "above");
-    replace("xy", "123"); // with the blank that goes, as long as before
+    replace("xy", "123"); // as long as before, including the space that is removed
     Box box;
     box.text = QStringLiteral("ab ");
     EXPECT_TRUE(ApplyReplacements(Qt::Key_Space, box));

@@ -1,4 +1,4 @@
-// Prices that are worked out once for a whole schedule are those of the items, and fail as theirs do.
+// Prices computed once for a whole schedule equal those of the items, and fail with the same errors.
 
 #include "base/mdTimeFormatting.h"
 #include "costing/mdGetColumnTotals.h"
@@ -10,7 +10,7 @@ namespace {
 
 using Error = clsRunTimeError;
 
-/// The totals as they are worked out from the items one by one.
+/// The totals computed item by item.
 struct clsSlowTotals {
     explicit clsSlowTotals(const clsZR3Form &claim)
         : form(claim)
@@ -53,7 +53,7 @@ struct clsSlowTotals {
     const clsZR3Form &form;
 };
 
-/// Each total, asked of the claim and of a bill that is asked for all of them, is or fails as that of the items.
+/// Expects each total, from the claim and from one bill for all of them, to equal that of the items or fail like it.
 void expectSameTotals(const clsZR3Form &form)
 {
     const clsSlowTotals slow(form);
@@ -62,7 +62,7 @@ void expectSameTotals(const clsZR3Form &form)
         const int error = errorOf([&] { expected(); });
         EXPECT_EQ(error, errorOf([&] { ofClaim(); }));
         EXPECT_EQ(error, errorOf([&] { ofBill(); }));
-        EXPECT_EQ(error, errorOf([&] { ofBill(); })); // again
+        EXPECT_EQ(error, errorOf([&] { ofBill(); })); // a second time
         if (error == 0) {
             EXPECT_EQ(expected(), ofClaim());
             EXPECT_EQ(expected(), ofBill());
@@ -105,7 +105,7 @@ std::array<int, 3> errorsOf(const clsTestClaim &claim, const clsTestClaim::Item 
         errorOf([&] { AllColumnTotals(claim.form, prices).schedule.get(); })};
 }
 
-/// Each figure of an item's price has the error of the item's own member, or none.
+/// Expects each figure of an item's price to have the same error as the item's own member, or none.
 void expectSameErrors(const clsTestClaim &claim, const clsTestClaim::Item &item)
 {
     using Price = clsSchedulePrice;
@@ -163,7 +163,7 @@ TEST(SchedulePrices, FailAsTheItemsDo)
     item->TTime = QString();
     EXPECT_EQ(all(Error::SubscriptOutOfRange), errorsOf(claim, item));
     item->TTime = "01:00"_q;
-    item->IncludeInEnhancements = true; // and names none
+    item->IncludeInEnhancements = true; // without naming one
     EXPECT_EQ(all(Error::ObjectNotSet), errorsOf(claim, item));
     item->IncludeInEnhancements = false;
     group->HourlyRate = QString();
@@ -272,7 +272,7 @@ TEST(SchedulePrices, OfAnItemThatIsNoLongerInTheClaim)
 
 TEST(Bill, FailsWhereTheItemsFailAndNowhereElse)
 {
-    // Each of three items, of three columns, fails in every way, in each order of the items.
+    // Each of three items in three columns fails in every way, in each order of the items.
     clsTestClaim claim;
     const auto group = claim.addGroup();
     const auto broken = claim.addGroup("none");

@@ -67,7 +67,7 @@ TEST_F(UniqueIDInUse, OneIdentityIsNoPartOfAnother)
 {
     for (int n = 1; n <= 12; ++n)
         form.AddCounsel();
-    EXPECT_FALSE(UniqueIDInUseInForm(form, "ID1"_q)); // ID10, ID11 and ID12 stand there too
+    EXPECT_FALSE(UniqueIDInUseInForm(form, "ID1"_q)); // ID10, ID11 and ID12 exist too
     EXPECT_FALSE(UniqueIDInUseInForm(form, "ID2"_q));
     EXPECT_FALSE(UniqueIDInUseInForm(form, "ID99"_q));
 }

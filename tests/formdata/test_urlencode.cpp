@@ -44,7 +44,7 @@ TEST(URLEncode, EncodesTheWorkedExamples)
     EXPECT_EQ("%FF", URLEncode(u"\u00ff"));
     EXPECT_EQ("+++", URLEncode(u"   "));
     EXPECT_EQ("%2E%2D%5F%2F%2B%25", URLEncode(u".-_/+%"));
-    EXPECT_EQ("%80", URLEncode(u"\u20ac")); // the euro's byte in the code page
+    EXPECT_EQ("%80", URLEncode(u"\u20ac")); // the euro sign's byte in the code page
 }
 
 TEST(URLEncode, ACharacterOutsideTheCodePageBecomesAQuestionMark)
@@ -88,7 +88,7 @@ TEST(URLDecode, APairThatIsNotWhollyHexadecimalIsTheCharacterZero)
     const QChar zero(0);
     for (const char *encoded : {"%GG", "%1G", "%G1", "%  ", "%+1", "%-1", "%.5", "%%4"})
         EXPECT_EQ(QString(zero), decoded(encoded)) << encoded;
-    // The pair is skipped whole, also where its second character would begin another.
+    // The pair is skipped as a whole, even if its second character would begin another.
     EXPECT_EQ(QString(zero) + QStringLiteral("1"), decoded("%%41"));
     EXPECT_EQ(QStringLiteral("a") + zero + QStringLiteral("b"), decoded("a%zzb"));
     EXPECT_EQ(QString(zero), URLDecode(u"%\uff11\uff11")); // digits, but not ASCII ones

@@ -1,4 +1,4 @@
-// How values stand in their elements, and how they read.
+// How values are stored in their elements, and how they are read.
 
 #include "base/mdCodePage.h"
 #include "formdata/mdRecordInWords.h"
@@ -10,7 +10,7 @@ namespace {
 
 using Error = clsRunTimeError;
 
-/// What the claim's `VAT` reads from a content, or the number of its error as text.
+/// The claim's `VAT` as read from a content, or the error number as text.
 std::string booleanRead(const char *content)
 {
     clsZR3Form form;
@@ -196,7 +196,7 @@ TEST(Property, AnElementIsFoundByItsParentAndNeverByAWalkOfTheDocument)
     item->Counsel = true;
     EXPECT_FALSE(disbursement->Counsel());
     EXPECT_EQ(1u, form.CounselCollection().size());
-    // Three dates stand in two sections each.
+    // Three dates are in two sections each.
     form.CaseInformation.IssueOfProceedingsDate = QStringLiteral("01/02/03");
     EXPECT_EQ(QString(), form.OutcomeOfCase.IssueOfProceedingsDate());
 }
@@ -219,7 +219,7 @@ TEST(Property, MoreThanOneCertificateIsAText)
     EXPECT_EQ(QStringLiteral("Yes, and ABC/123"), form.ClientDetails.MoreThan1Certificate());
 }
 
-// What an error says of the record and the property
+// The record and property named in an error
 
 TEST(Values, AnErrorNamesTheRecordAndTheProperty)
 {

@@ -55,7 +55,7 @@ TEST(XMLLoadElement, ReturnsNothingForWhatIsNoXmlOrHasAnotherRoot)
 
 TEST(XMLLoadElement, ReturnsNothingForWhatFollowsOrPrecedesTheRoot)
 {
-    // Nobody could give it back: a save writes the root only.
+    // It would be lost: a save writes only the root.
     for (const char *xml : {"<root/>rubbish", "rubbish<root/>", "<root/><root/>", "<root/><other/>", "<root/></root>"})
         EXPECT_FALSE(loads(QString::fromUtf8(xml))) << xml;
 }
@@ -74,7 +74,7 @@ TEST(XMLLoadElement, RefusesNestingThatNoProgramCanHaveWritten)
 
 TEST(XMLLoadElement, RefusesMoreItemsThanAnyBillHas)
 {
-    // Short in the file, each would come to some kilobytes once it is brought up to date.
+    // Short in the file, but each would become several kilobytes when brought up to date.
     const QString list = QStringLiteral("<root><list>%1</list></root>");
     EXPECT_TRUE(loads(list.arg(QStringLiteral("<item/>").repeated(100'000))));
     EXPECT_FALSE(loads(list.arg(QStringLiteral("<item/>").repeated(100'001))));
@@ -82,7 +82,7 @@ TEST(XMLLoadElement, RefusesMoreItemsThanAnyBillHas)
 
 TEST(XMLLoadElement, TakesAsManyItemsWithAllTheirElementsAsASaveWritesThem)
 {
-    // As many elements as those of the longest kind, under short names.
+    // As many elements as the longest kind has, with short names.
     std::ptrdiff_t count = 0;
     for (const char *name :
         {"xmlZR3Counsel", "xmlZR3Disbursement", "xmlZR3Enhancement", "xmlZR3ExpertInvoice", "xmlZR3FASItem",
@@ -111,7 +111,7 @@ TEST(XMLLoadElement, ReadsUtf8AsItReadsText)
     EXPECT_EQ(xml, XMLElementOutput(XMLLoadElement(xml.toUtf8(), "root").node()));
     EXPECT_FALSE(XMLLoadElement(QByteArray("<root/>\0", 8), "root"));
     EXPECT_FALSE(XMLLoadElement(QByteArray(), "root"));
-    // What the element is read from stays as it is where somebody else holds it too.
+    // A byte array that somebody else holds too is not changed by parsing it.
     const QByteArray shared("<root>&lt;</root>");
     const clsXMLElement element = XMLLoadElement(shared, "root");
     EXPECT_STREQ("<", element.node().child_value());
@@ -141,7 +141,7 @@ TEST(XMLSetContent, TakesThePlaceOfTheTextAndLeavesNothingWhereItIsEmpty)
         XMLSetContent(node, row.content);
         EXPECT_EQ(QString::fromUtf8(row.after), XMLElementOutput(node)) << row.before;
         EXPECT_STREQ(row.content, node.child_value()) << row.before;
-        // And again, whatever the first write left.
+        // A second time, whatever the first write left.
         XMLSetContent(node, "last");
         EXPECT_STREQ("last", node.child_value()) << row.before;
         XMLSetContent(node, "");
@@ -166,7 +166,7 @@ TEST(XMLElementOutput, DropsBlanksHoweverTheyAreWritten)
 {
     EXPECT_EQ(QStringLiteral("<root><a/><b/><c> 1 </c></root>"),
         roundTrip("<root><a>&#32;&#9;</a>&#10;<b>&#13;</b><c>&#32;1&#32;</c></root>"));
-    // Beside what stays as well as alone, and a text that ends before it begins.
+    // Beside content that stays as well as alone, and a text that ends before it begins.
     EXPECT_EQ(QStringLiteral("<root><a><!-- note --><b/></a><c><b/></c><d/></root>"),
         roundTrip("<root><a>&#32;<!-- note -->&#9;<b/></a><c><b/>&#32;</c><d>&#0;</d></root>"));
 }
@@ -203,12 +203,12 @@ TEST(XMLElementOutput, OfNothingIsEmpty)
 
 TEST(XMLElementOutput, WhatTheCodePageLacksStaysAReference)
 {
-    // No save of ours writes such characters, but a file by another hand may hold them: a save would make question
-    // marks of the first, and the next parser a line feed of the last.
+    // We never save such characters, but files from elsewhere may contain them: saving would turn the first into
+    // question marks, and the next parser would turn the last into a line feed.
     EXPECT_EQ(QString::fromUtf8("<root>\u20ac&#20013;&#128512;&#128;&#13;\n</root>"),
         roundTrip("<root>&#8364;&#20013;&#x1F600;&#128;&#13;&#10;</root>"));
     EXPECT_EQ(QStringLiteral("<root a=\"&#20013;&#13;\"/>"), roundTrip("<root a=\"&#20013;&#13;\"/>"));
-    // In these a reference would be no reference.
+    // In these, a reference is not interpreted.
     const char *raw = "<root><?note a\r\nb?><!-- <? --><![CDATA[<!--]]><a>&#13;</a>x&#13;</root>";
     EXPECT_EQ(QStringLiteral("<root><?note a\r\nb?><!-- <? --><![CDATA[<!--]]><a/>x&#13;</root>"), roundTrip(raw));
 }

@@ -1,16 +1,15 @@
-# Shared by the scripts of the attack: sourced after scripts/common.sh, with the root of the repository as the current
-# folder.
+# Shared by the fuzzing scripts: sourced after scripts/common.sh, with the root of the repository as the current folder.
 
-# Seconds for one input, and megabytes for the whole process.
+# The limits: seconds for one input, and megabytes for the whole process.
 fuzz_timeout=10
 fuzz_memory=1500
 
-# An attack allocates and frees without end: without these most of its time would go into the bookkeeping of that.
+# Fuzzing allocates and frees constantly: without these options most of its time would go into bookkeeping.
 fuzz_asan=detect_stack_use_after_return=0:malloc_context_size=2:quarantine_size_mb=16:max_malloc_fill_size=256
 
 all_targets() { awk '/^[a-z]/ { print $1 }' tests/fuzz/targets; }
 
-# The files that are fed in whole, beside the corpus: seeds_of TARGET
+# The files that are used as inputs besides the corpus: seeds_of TARGET
 seeds_of() {
     local pattern
     for pattern in $(awk -v target="$1" '$1 == target { $1 = $2 = ""; print }' tests/fuzz/targets); do
@@ -18,7 +17,7 @@ seeds_of() {
     done
 }
 
-# The folders of a target's inputs: what was found once, what was written by hand, and what attacks have kept.
+# The folders of a target's inputs: past findings, hand-written seeds, and the corpus.
 input_folders() {
     local folder
     for folder in findings seeds corpus; do
@@ -26,20 +25,20 @@ input_folders() {
     done
 }
 
-# Everything that a target must bear by now: kept_inputs TARGET
+# Everything that a target must pass: kept_inputs TARGET
 kept_inputs() {
     find $(input_folders "$1") -type f | sort
     seeds_of "$1"
 }
 
-# What every attack on a target is run with: attack_options TARGET
+# The options for fuzzing a target: attack_options TARGET
 attack_options() {
     say "-max_len=$(awk -v target="$1" '$1 == target { print $2 }' tests/fuzz/targets)"
     [[ ! -f tests/fuzz/$1.dict ]] || say "-dict=tests/fuzz/$1.dict"
 }
 
-# A folder that goes when the script ends, in memory where there is room for it: sets `folder`, and the attacked
-# programs make their own in it.
+# Creates a folder that is deleted when the script ends, in memory if there is room: sets `folder`; the fuzzed programs
+# create theirs in it.
 fuzz_folder() {
     local parent=${TMPDIR:-/tmp}
     [[ ! -w /dev/shm ]] || parent=/dev/shm
@@ -58,11 +57,11 @@ fuzz() {
 
 executions() { awk '/^stat::number_of_executed_units:/ { n = $2 } END { print n + 0 }' "$1"; }
 
-# Shows a finding, keeps its input and says how to meet it again: tell_finding LOG PROGRAM TARGET
+# Shows a finding, keeps its input and says how to reproduce it: tell_finding LOG PROGRAM TARGET
 tell_finding() {
     local log=$1 program=$2 target=$3 input kept
     tail -n 60 "$log"
-    # A replayed input is named before it is run; one of an attack is written down by the fuzzer.
+    # A replayed input is named before it is run; the fuzzer writes new ones to a file.
     input=$(awk '/Test unit written to/ { print $NF }' "$log")
     [[ -n $input ]] || input=$(awk '/^Running: / { print $2 }' "$log" | tail -n 1)
     if [[ -z $input || ! -f $input ]]; then

@@ -1,4 +1,4 @@
-// The file of a claim: read, brought up to date, priced, rewritten, saved and read again.
+// A claim's file: read, brought up to date, priced, rewritten, saved and read again.
 
 #include "base/mdCodePage.h"
 #include "costing/checking/mdCheckClaim.h"
@@ -32,7 +32,7 @@ const clsFuzzWords &words()
     return words;
 }
 
-/// True when the claim was read. One that is none is told of once, and one whose lists can't be ordered is an error.
+/// Whether the claim was read. A file that is not a claim is reported once; a list that can't be ordered is an error.
 bool load(clsZR3Form &form, const QString &path)
 {
     user().messages = 0;
@@ -57,7 +57,7 @@ QByteArray figures(clsZR3Form &form)
     return json;
 }
 
-/// The check of the claim, and the reasons of some figures. Neither changes the claim, and the check never fails.
+/// The check of the claim, and the explanations of some figures. Neither changes the claim, and the check never fails.
 void lookThrough(const clsZR3Form &form)
 {
     const QString before = form.XMLOutput();
@@ -106,7 +106,7 @@ void rewrite(clsZR3Form &form)
         mdFuzzRewrite(*section);
 }
 
-/// Adds an item to each list. A counter of identities that is no number is an error, and nothing is added then.
+/// Adds an item to each list. If the counter of identities is not a number, this is an error and nothing is added.
 void enlarge(clsZR3Form &form)
 {
     mdFuzzErrorOf({Error::TypeMismatch, Error::Overflow}, "adding fails by the errors of the counter", [&] {
@@ -130,7 +130,7 @@ void enlarge(clsZR3Form &form)
     });
 }
 
-/// Saves the claim and reads it again: the same bytes and the same figures must come of it.
+/// Saves the claim and reads it again: the bytes and the figures must be the same.
 void attackRoundTrip(clsZR3Form &form, const QByteArray &expectedFigures)
 {
     const QByteArray saved = savedBytes(form, "saved.zr3");
@@ -156,15 +156,15 @@ void mdFuzzAttack(const uint8_t *data, size_t size)
     clsZR3Form form;
     if (!load(form, path))
         return;
-    // Not every input is changed in each way, so that more of them can be attacked.
+    // Not every input is changed in every way, so that more inputs can be tried.
     if (size % 2 == 0)
         rewrite(form);
     if (size % 4 == 1)
         enlarge(form);
     lookThrough(form);
     const QByteArray priced = figures(form);
-    // A flag that is none is met only now where the claim had no item that asks for it: the user has been told, and no
-    // longer has a claim that can be read.
+    // An invalid flag is found only now if the claim had no item that reads it: the user has then been told, and the
+    // claim can't be read any more.
     if (!priced.isEmpty())
         attackRoundTrip(form, priced);
 }

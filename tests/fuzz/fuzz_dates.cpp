@@ -1,4 +1,4 @@
-// The readers of dates and durations. The input is a date and a duration, parted by a line feed.
+// The readers of dates and durations. The input is a date and a duration, separated by a line feed.
 
 #include "base/mdDateSerial.h"
 #include "base/mdDateText.h"
@@ -23,7 +23,7 @@ void attackDate(const QString &text)
         const QString written = DateText(*date);
         const auto again = DateFromText(written);
         mdFuzzRequire(again && DateText(*again) == written, "a date is written in one way");
-        // The years that two digits can tell.
+        // The years that two digits can represent.
         const bool told = date->year() >= 1930 && date->year() <= 2029;
         mdFuzzRequire(!told || *again == *date, "a date written is read as itself");
         mdFuzzSame(again->toString(QStringLiteral("yyyyMMdd")), mdDateSerial(written), "a date has its serial");
@@ -52,11 +52,11 @@ void attackTime(const QString &text)
         const int minutes = TimeToMinutes(text);
         mdFuzzRequire(text.contains(u':'), "a duration has a colon");
         const QString written = MinutesToTime(minutes);
-        // The hours of the very least number, rounded down, are out of range by themselves.
+        // For the smallest number, the hours rounded down are themselves out of range.
         if (minutes > std::numeric_limits<int>::min() + 60)
             mdFuzzRequire(TimeToMinutes(written) == minutes, "a duration written is read as itself");
     });
-    // Errors take most of the time of an attack: one of the kind is enough.
+    // Errors take most of the time of fuzzing: one of each kind is enough.
     if (text.contains(u':'))
         mdFuzzErrorOf({Error::SubscriptOutOfRange, Error::Overflow}, "a minute later fails by the same errors", [&] {
             const QString later = TimeAfterOneMinute(text);

@@ -1,6 +1,6 @@
-// A document under the operations of the export. The input is a text in pieces, parted by form feeds, which no XML can
-// hold: the operations, a line for each; then the body of the document and that of one that is appended to it, and the
-// styles, the lists and the header of each, where they have any.
+// A document and the operations of the export. The input is text in parts separated by form feeds, which XML can't
+// contain: the operations, one per line; then the body of the document and of one that is appended to it, and the
+// styles, lists and header of each, if any.
 
 #include "tests/fuzz/mdFuzz.h"
 #include "tests/fuzz/mdFuzzSchema.h"
@@ -70,7 +70,7 @@ clsTestDocument documentOf(const std::vector<std::string> &pieces, size_t which)
 
 const QString Shown = QStringLiteral("attacked");
 
-/// What is wrong with a document, by the little of the schema that counts here and by the rules that no schema sees.
+/// The problems of a document, by the part of the schema that matters here and by rules that no schema covers.
 QStringList problemsOf(const clsZipPackage &zip)
 {
     QStringList problems;
@@ -85,8 +85,8 @@ QStringList problemsOf(const clsZipPackage &zip)
     return problems;
 }
 
-/// Whether a document passes the look that a page template is given: each part well-formed to the letter, and each
-/// relationship leading somewhere.
+/// Whether a document passes the check of page templates: each part strictly well-formed, and each relationship with an
+/// existing target.
 bool passesTheCheck(const clsZipPackage &zip)
 {
     return mdFuzzErrorOf({Error::InvalidFileFormat}, "a damaged document is told in one way", [&] {
@@ -95,7 +95,7 @@ bool passesTheCheck(const clsZipPackage &zip)
     }) == 0;
 }
 
-/// One operation: a letter, and what it takes.
+/// One operation: a letter and its arguments.
 void operate(clsMSWord &word, const QString &line, const QString &second)
 {
     const QString rest = line.mid(2);
@@ -120,8 +120,8 @@ void operate(clsMSWord &word, const QString &line, const QString &second)
     }
 }
 
-/// The XML of a part, but for what two ways of writing the same may differ in: a text of nothing, which a reference to
-/// the character 0 leaves, and a carriage return that was a reference, which is a blank like the line feed.
+/// The XML of a part without differences between equivalent forms: an empty text, left by a reference to the character
+/// 0, and a carriage return from a reference, which counts as a blank like the line feed.
 QByteArray withoutOddities(QByteArray xml)
 {
     xml.replace('\r', '\n');
@@ -139,14 +139,14 @@ const QByteArray &mainPartOf(const clsZipPackage &zip)
     return zip.bytes(zip.indexOf(QStringLiteral("word/document.xml")));
 }
 
-/// What was written must be readable, and written again as it is. Returns the text of the document.
+/// A saved document must be readable, and saving it again must not change it. Returns the document's text.
 QString attackRoundTrip(const QByteArray &saved, const QByteArray &mainPartBefore)
 {
     const clsZipPackage zip = clsZipPackage::fromBytes(saved, Shown);
     clsWordPackage package(zip, Shown);
     mdFuzzSame(saved, package.toBytes(clsZipPackage::Stored), "a document that was saved is saved again as it is");
     const pugi::xml_document &tree = package.partXml(package.mainPart());
-    // What the program has not written may be written in any way.
+    // Only parts written by the program have a fixed form.
     if (const QByteArray &written = mainPartOf(zip); written != mainPartBefore) {
         std::ostringstream out;
         tree.save(out, "", pugi::format_raw, pugi::encoding_utf8);
@@ -158,7 +158,7 @@ QString attackRoundTrip(const QByteArray &saved, const QByteArray &mainPartBefor
     return text;
 }
 
-/// The number of the error that the user was told of, 0 for none.
+/// The number of the error shown to the user, 0 for none.
 int errorTold()
 {
     mdFuzzRequire(user().messages <= 1, "a failure is told once");
@@ -168,7 +168,7 @@ int errorTold()
     return number.match(user().lastMessage).captured(1).toInt();
 }
 
-/// Opens the document, works on it and saves it; false where it can't be opened. `mark` is typed at the end.
+/// Opens the document, applies the operations and saves it; false if it can't be opened. `mark` is typed at the end.
 bool operateAll(const QString &path, const QString &second, const QString &operations, const QString &mark)
 {
     clsMSWord word;
@@ -204,7 +204,7 @@ void attackDocument(const clsZipPackage &first, const clsZipPackage &second, con
     const bool sound = problemsOf(first).isEmpty() && (!appends || problemsOf(second).isEmpty());
     const bool checked = passesTheCheck(first) && (!appends || passesTheCheck(second));
 
-    // Replacing makes one text again of what was appended; without it the pieces are written as they are.
+    // Replacing joins appended text runs; without it they stay as they are.
     const QString mark = operations.endsWith(u'i') ? QString() : QStringLiteral("the mark of the attack");
     if (!operateAll(path, secondPath, operations, mark))
         return;

@@ -1,5 +1,5 @@
-// The readers of numbers and amounts, and the arithmetic on what they read. The input is one text, or two parted by a
-// line feed.
+// The readers of numbers and amounts, and arithmetic on the results. The input is one text, or two separated by a line
+// feed.
 
 #include "base/Money.h"
 #include "base/mdFormatMoney.h"
@@ -19,7 +19,7 @@ namespace {
 
 using Error = clsRunTimeError;
 
-/// The number at the start of a text by another way: what belongs to it is copied out, and the C library reads that.
+/// Reads the number at the start of a text in another way: its characters are copied and read by the C library.
 double valueByLibrary(const QString &text)
 {
     QByteArray number;
@@ -39,18 +39,19 @@ double valueByLibrary(const QString &text)
     return value == 0.0 ? 0.0 : value;
 }
 
-/// The readers of whole and real numbers; true where the text is a number.
+/// The readers of whole and real numbers; true if the text is a number.
 bool attackValue(const QString &text)
 {
     const double value = TextValue(text);
     const double expected = valueByLibrary(text);
-    // What is smaller than every normal double may be nothing.
+    // Numbers smaller than every normal double may be zero.
     mdFuzzRequire(value == expected || (value == 0.0 && std::abs(expected) < std::numeric_limits<double>::min()),
         "the lenient value is the nearest double to the number at the start");
     mdFuzzRequire(!std::signbit(value) || value != 0.0, "there is no negative nothing");
     mdFuzzErrorOf({Error::Overflow}, "a lenient long is out of range or there", [&] { LongFromText(text); });
 
-    // Errors take most of the time of an attack: of a text that is no number one strict reader is asked, by its length.
+    // Errors take most of the time of fuzzing: for a text that is not a number only one strict reader, chosen by its
+    // length, is called.
     const int strict = mdFuzzErrorOf({Error::Overflow, Error::TypeMismatch}, "a strict long fails by its errors", [&] {
         const int number = LongFromStrictText(text);
         mdFuzzRequire(LongFromStrictText(QString::number(number)) == number, "a long written is read as itself");
@@ -66,7 +67,7 @@ bool attackValue(const QString &text)
     return numeric;
 }
 
-/// The amount in a text, nothing where there is none.
+/// The amount in a text, if any.
 std::optional<Money> attackAmount(const QString &text, bool numeric)
 {
     std::optional<Money> amount;
@@ -82,7 +83,7 @@ std::optional<Money> attackAmount(const QString &text, bool numeric)
     const Money rounded = RoundMoney2(*amount);
     mdFuzzRequire(rounded.tenThousandths() % Money::PerPenny == 0, "a rounded amount is whole pence");
     mdFuzzRequire(RoundMoney2(rounded) == rounded, "a rounded amount stays");
-    // In 128 bits, since the difference of the outermost amounts leaves the range.
+    // In 128 bits, since the difference of the extreme amounts is out of range.
     const __int128 moved = __int128(rounded.tenThousandths()) - amount->tenThousandths();
     mdFuzzRequire(
         moved >= -Money::PerPenny / 2 && moved <= Money::PerPenny / 2, "rounding moves by half a penny at most");
@@ -101,7 +102,7 @@ void attackPrinting(const QString &text, const std::optional<Money> &amount)
         return;
     mdFuzzSame(printed, mdFormatMoney(printed), "a printed amount prints as itself");
     mdFuzzRequire(IsNumeric(printed), "a printed amount is a number");
-    // The amount is read to four decimals first, which can tip the penny.
+    // The amount is first read to four decimals, which can change the penny.
     constexpr std::int64_t Tolerance = Money::PerPenny / 2 + 1;
     constexpr std::int64_t Large = std::numeric_limits<std::int64_t>::max() - Money::PerPenny;
     if (amount && std::abs(amount->toDouble()) < double(Large) / double(Money::PerPound) - 1.0)

@@ -44,7 +44,7 @@ void attackRecords(clsZR3PreferencesDatabase &preferences)
         mdFuzzRewrite(*item);
 }
 
-/// The abbreviations at work, as long as what they make of a text stays of a size that a box could hold.
+/// Applies the abbreviations, while the text stays of a size that a box could hold.
 void attackReplacements(const clsZR3PreferencesDatabase &preferences)
 {
     constexpr size_t Few = 6;
@@ -69,7 +69,7 @@ extern "C" int LLVMFuzzerInitialize(int *, char ***)
         GetResourceData(QStringLiteral("xmlZR3PreferencesDatabase"), QStringLiteral("VELMORZR3XML")).toLatin1());
     SetDatabasePath(mdFuzzFolder());
     Preferences = std::make_unique<clsZR3PreferencesDatabase>();
-    // Asked of an attacked file, they would have it log into a folder that is not there.
+    // Otherwise the input's preferences would switch on logging into a folder that doesn't exist.
     SetLogSwitch({});
     SetSoundSwitch({});
     return 0;

@@ -64,7 +64,7 @@ void mdFuzzAttack(const uint8_t *data, size_t size)
     }
     const int added = rows.appendTo(form);
     mdFuzzRequire(added == int(form.ScheduleOfTimeItemsCollection().size()), "what is chosen is stored");
-    // What was imported is written as a table and read as the same items.
+    // Imported items are written as a table and read as the same items.
     const QString text = mdTextOfTable(mdTableAsCsv(*mdClaimTable(form, u"schedule")));
     const clsImportedRows again(form, mdScheduleImport(), text);
     mdFuzzSame(QString(), again.error(), "a table of this program is one");

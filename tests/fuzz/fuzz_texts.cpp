@@ -1,5 +1,5 @@
-// Texts on their way into a claim, out of it and on to the sheets: the code page, the encoding, versions, and the
-// cutting into lines. The first byte is the width of a line; what follows is one text, or two parted by a line feed.
+// Texts on their way into a claim, out of it and to the sheets: the code page, the encoding, versions, and splitting
+// into lines. The first byte is the width of a line; the rest is one text, or two separated by a line feed.
 
 #include "base/mdCodePage.h"
 #include "base/mdTrimmedOfBlanks.h"
@@ -36,13 +36,13 @@ void attackEncoding(QByteArrayView bytes, const QString &text)
     mdFuzzSame(mdFromCodePage(mdToCodePage(decoded)), URLDecode(QString::fromLatin1(URLEncode(decoded))),
         "what was decoded can be encoded");
 
-    // As UTF-8, which the content of an element is: not every input is, and none may do harm.
+    // As UTF-8, like the content of an element: not every input is valid, and none may do harm.
     const QByteArray content = bytes.toByteArray();
     const QString read = XMLDecodeText(content.constData());
     mdFuzzSame(URLDecode(QString::fromUtf8(content.constData())), read, "the short way of reading is the long one");
 }
 
-/// What a text is beyond its blanks.
+/// A text without its spaces.
 QString joined(const QStringList &lines)
 {
     return lines.join(QString()).remove(u' ');

@@ -1,5 +1,5 @@
-// A document's package as bytes: the container, the content types, the relationships. The parts of the seeds are stored
-// unpacked and their sums are set right after each change, so that the changes reach what is in them.
+// The bytes of a document's package: the container, content types, relationships. The seeds' parts are stored
+// uncompressed, and their checksums are corrected after each change, so that the changes reach their content.
 
 #include "tests/fuzz/mdFuzz.h"
 #include "tests/fuzz/mdFuzzZip.h"
@@ -72,7 +72,7 @@ void attackDocument(const clsZipPackage &zip)
                 package->partXml(part);
         });
 
-    // With a part more, a relationship more and the main part written anew it is still a document.
+    // With another part, another relationship and the main part rewritten it is still a document.
     const int added = package->addPart(QStringLiteral("word/media/image1.png"), "picture", "image/png");
     const std::string id = package->addRelationship(package->mainPart(), "type/image", added);
     package->setChanged(package->mainPart());
@@ -94,7 +94,7 @@ void mdFuzzAttack(const uint8_t *data, size_t size)
             [&] { package = clsZipPackage::fromBytes(bytes, ShownName); }))
         return;
     if (package->entries().empty())
-        return; // one without parts is no document, and nobody writes it
+        return; // without parts it is not a document, and never written
     attackContainer(*package);
     attackDocument(*package);
 }

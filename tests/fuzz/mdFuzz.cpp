@@ -46,7 +46,7 @@ void mdFuzzSame(const QString &expected, const QString &actual, const char *rule
 
 const QString &mdFuzzFolder()
 {
-    // The temporary folder is that of the environment: the scripts set it to one that lies in memory.
+    // Created in the environment's temporary folder, which the scripts set to one in memory.
     static const QTemporaryDir folder;
     static const QString path = folder.path();
     return path;

@@ -10,13 +10,13 @@
 #include <cstdint>
 #include <initializer_list>
 
-// What the targets share. A target is more than "it doesn't crash": it says what must hold of every input, and a rule
-// that is broken ends the process, which the fuzzer takes for a finding.
+// Shared by the targets. A target does more than test for crashes: it states what must hold for every input. A
+// violation ends the process, which the fuzzer reports as a finding.
 
-/// The attack with one input: what each target has, and is called by the fuzzer.
+/// Tests one input: defined by each target, called by the fuzzer.
 void mdFuzzAttack(const uint8_t *data, size_t size);
 
-/// Ends the process with the rule that was broken.
+/// Ends the process with a message on the violated rule.
 [[noreturn]] void mdFuzzFail(const char *rule, const QString &shown = {});
 
 inline void mdFuzzRequire(bool holds, const char *rule)
@@ -25,7 +25,7 @@ inline void mdFuzzRequire(bool holds, const char *rule)
         mdFuzzFail(rule);
 }
 
-/// Two texts or byte arrays that must be the same; both are shown where they aren't.
+/// Requires two texts or byte arrays to be equal; shows both otherwise.
 void mdFuzzSame(const QString &expected, const QString &actual, const char *rule);
 void mdFuzzSame(const QByteArray &expected, const QByteArray &actual, const char *rule);
 
@@ -43,17 +43,17 @@ template <class Call> int mdFuzzErrorOf(std::initializer_list<int> allowed, cons
     return 0;
 }
 
-/// A folder of this process, which goes with it: the only one in which anything may be written during an attack.
+/// This process's temporary folder: the only one to which anything may be written during a test.
 const QString &mdFuzzFolder();
 
-/// Writes a file of that folder, and reads one.
+/// Write a file in that folder, and read one.
 QString mdFuzzPut(const QString &name, const QByteArray &bytes);
 QByteArray mdFuzzBytesOf(const QString &path);
 
-/// The input as text: one character of the code page for each byte, so that no byte is wasted on a broken encoding.
+/// The input as text: one character of the code page for each byte, so that no byte is wasted on an invalid encoding.
 QString mdFuzzText(const uint8_t *data, size_t size);
 
-/// A user who only counts what he is told.
+/// A user who only counts the messages.
 class clsFuzzUser final : public clsQuietUserInterface {
 public:
     int messages = 0;

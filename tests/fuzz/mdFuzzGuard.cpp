@@ -1,4 +1,4 @@
-// The linker sends all calls of these functions here first.
+// The linker redirects all calls of these functions to the ones here.
 
 #include "tests/fuzz/mdFuzzGuard.h"
 
@@ -12,7 +12,7 @@
 #include <fcntl.h>
 
 extern "C" {
-// The names are the linker's.
+// The linker requires these names.
 // NOLINTBEGIN(bugprone-reserved-identifier)
 int __real_open(const char *path, int flags, ...);
 int __real_open64(const char *path, int flags, ...);
@@ -50,7 +50,7 @@ mode_t modeOf(int flags, va_list arguments)
 
 clsFuzzGuard::clsFuzzGuard()
 {
-    mdFuzzFolder(); // made before it is guarded
+    mdFuzzFolder(); // created before it is guarded
     guarded = true;
 }
 

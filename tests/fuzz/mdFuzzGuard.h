@@ -1,7 +1,7 @@
 #pragma once
 
-/// While one lives, nothing may be written, renamed or deleted outside the folder of the attack. The fuzzer itself
-/// writes where it likes between two inputs.
+/// While an object lives, nothing may be written, renamed or deleted outside the test's folder. The fuzzer itself may
+/// write anywhere between two inputs.
 class clsFuzzGuard {
 public:
     clsFuzzGuard();

@@ -4,8 +4,8 @@
 #include "formdata/mdLateProperty.h"
 #include "tests/fuzz/mdFuzz.h"
 
-/// Reads every property of a record and writes it back: what was read must then be read again. A property that its
-/// kind can't read is one of the readers' errors, and stays; one whose element no template has is the object error.
+/// Reads every property of a record and writes it back; reading it again must give the same. A property with an invalid
+/// content is a read error and stays; one without an element in the template is the object error.
 inline void mdFuzzRewrite(clsXMLRecord &record)
 {
     using Error = clsRunTimeError;
@@ -15,7 +15,7 @@ inline void mdFuzzRewrite(clsXMLRecord &record)
             {Error::TypeMismatch, Error::Overflow, Error::ObjectNotSet}, "a property fails by its errors", [&] {
                 const QString value = ReadProperty(record, name);
                 WriteProperty(record, name, value);
-                // Writing leaves out what a claim can't hold; only what is in the code page comes back.
+                // Writing drops what a claim can't hold; only characters of the code page are read back.
                 const QString written = ReadProperty(record, name);
                 WriteProperty(record, name, written);
                 mdFuzzSame(written, ReadProperty(record, name), "a property that was written is read again");

@@ -21,10 +21,10 @@ constexpr std::string_view Wrappers[]
 
 struct Element {
     std::string_view name;
-    std::string_view properties; ///< may stand before all others, once
-    std::string_view grid; ///< may stand next
+    std::string_view properties; ///< allowed before all others, once
+    std::string_view grid; ///< allowed next
     Names contents;
-    std::string_view end; ///< may stand behind all others, once
+    std::string_view end; ///< allowed after all others, once
 };
 
 constexpr Element Elements[] = {
@@ -51,7 +51,7 @@ const Element *elementOf(std::string_view name)
 
 bool fits(const pugi::xml_node &node, Names contents, const Element &element);
 
-/// A wrapper holds what its parent may hold; a control has its content in an element of its own.
+/// A wrapper may contain what its parent may contain; a control has its content in an element of its own.
 bool wrapperFits(const pugi::xml_node &node, Names contents)
 {
     const std::string_view name = node.name();
@@ -91,7 +91,7 @@ bool fits(const pugi::xml_node &node, Names contents, const Element &element)
     return true;
 }
 
-/// Gives a new element the least that it needs; `contents` are what its parent may hold.
+/// Adds the minimum content of a new element; `contents` is what its parent may contain.
 void fill(pugi::xml_node node, Names contents)
 {
     const std::string_view name = node.name();
@@ -115,7 +115,7 @@ bool mdFuzzFitsSchema(const pugi::xml_node &container)
 
 bool mdFuzzInsertFitting(pugi::xml_node parent, size_t random)
 {
-    // What has no parent of its own is the content of a body.
+    // A node without a parent is the content of a body.
     const Element *own = parent.type() == pugi::node_document ? &Elements[0] : elementOf(parent.name());
     if (!own)
         return false;

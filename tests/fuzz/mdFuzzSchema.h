@@ -2,10 +2,10 @@
 
 #include <pugixml.hpp>
 
-/// Whether the elements below a body, a header or a cell stand where the format lets them: the little of the schema
-/// that the operations on a document rely on. What breaks it may become anything but a crash.
+/// Whether the elements below a body, a header or a cell are where the format permits them: the part of the schema on
+/// which the operations rely. For other documents anything but a crash is accepted.
 bool mdFuzzFitsSchema(const pugi::xml_node &container);
 
-/// Adds an element to one of a document where the schema lets it stand, with the least that it needs. False where the
-/// parent is none that this knows.
+/// Adds an element, with its minimum content, to an element of a document where the schema permits it. False if the
+/// parent's kind is unknown.
 bool mdFuzzInsertFitting(pugi::xml_node parent, size_t random);

@@ -4,6 +4,6 @@
 
 #include <initializer_list>
 
-/// The words of a file of this house: the names of all elements of its templates and those given beside, and values at
-/// which readers of numbers, dates, times, flags and encoded texts stumble.
+/// The vocabulary of one of our file formats: the names of all elements of its templates and the additional ones, and
+/// values that are difficult for readers of numbers, dates, times, flags and encoded texts.
 clsFuzzWords mdFuzzWordsOf(std::initializer_list<const char *> templates, std::initializer_list<const char *> further);

@@ -100,7 +100,7 @@ private:
         if (below(2))
             child.text().set(from(m_words.values).c_str());
     }
-    /// Mostly one that has the name of the node's own parent, where the node fits.
+    /// Usually one with the same name as the node's own parent, where the node fits.
     xml_node anyParentFor(xml_node node)
     {
         constexpr int Attempts = 8;
@@ -118,7 +118,7 @@ private:
         else
             parent.append_copy(node);
     }
-    void moveElsewhere(xml_node node) { anyParentFor(node).append_move(node); } // refused where it would bear itself
+    void moveElsewhere(xml_node node) { anyParentFor(node).append_move(node); } // refused if it would contain itself
     void rename(xml_node node) { node.set_name(from(m_words.elements).c_str()); }
     void setAttribute(xml_node node)
     {

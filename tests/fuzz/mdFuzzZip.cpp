@@ -6,7 +6,7 @@
 
 namespace {
 
-// Places in the headers of a zip, which lie before each part and once more in the directory at the end.
+// Offsets in the headers of a zip, which are before each part and again in the directory at the end.
 constexpr size_t LocalHeader = 30;
 constexpr size_t LocalSum = 14;
 constexpr size_t LocalSize = 18;
@@ -30,7 +30,7 @@ void setNumber(uint8_t *at, uint32_t value)
         at[i] = uint8_t(value);
 }
 
-/// The sum of the part whose header stands there; false where there is none.
+/// Computes the checksum of the part with this header; false if there is no such part.
 bool sumOf(const uint8_t *data, size_t size, size_t header, uint32_t &sum)
 {
     if (header > size || size - header < LocalHeader || std::memcmp(data + header, "PK\3\4", 4) != 0)

@@ -3,6 +3,6 @@
 #include <cstddef>
 #include <cstdint>
 
-/// Sets the checksums of all parts that are stored unpacked to what they hold: a changed package is then refused for
-/// what was changed, and not for its sum.
+/// Corrects the checksums of all uncompressed parts, so that a changed package is refused for the change and not for
+/// its checksum.
 void mdFuzzMendZip(uint8_t *data, size_t size);

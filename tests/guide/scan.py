@@ -1,7 +1,7 @@
-"""What the program says, read from its sources: every text that goes through one of the doors to the user.
+"""The program's messages, read from its sources: every text passed to one of the functions that show texts (the doors).
 
-A text stands where the door is called, or in a function or a constant that the call names. A call without a text that is
-found in one of these ways is a finding of its own, so that there is no way round the scan.
+A text is in the call itself, or in a function or a constant named in the call. A call for which no text is found in one
+of these ways is an error, so that no text escapes the scan.
 """
 
 import re
@@ -9,16 +9,16 @@ from dataclasses import dataclass, field
 
 FOLDERS = ["base", "formdata", "costing", "commands", "wordexport", "controls", "preview", "editors", "shell", "programs"]
 
-# What shows a text to the user or hands it to what does, and which of its arguments are texts.
+# Functions that show a text to the user or pass it on to one that does, and the indices of their text arguments.
 DOORS = {
     "mdCustomMessages": [0, 1], "customMessage": [0, 1], "systemMessage": [0, 1], "mdSystemFailure": [0, 1],
     "trapped": [0, 1], "logged": [1], "mdDocumentError": [0], "GetFolder": [0], "mdSetProgress": [2], "tell": [0, 1],
     "tellLine": [0],
 }
-# An error's words are the program's own only where it is given some.
+# Has words of its own only if a text is passed.
 ERROR = "clsRunTimeError"
 
-# Calls that hand on what somebody else has written, each of which is scanned where it is made.
+# Calls that pass on texts from elsewhere, each of which is scanned where it is created.
 HANDS_ON = {
     "base/clsUserInterface.h": "*", "base/clsQuietUserInterface.h": "*", "shell/clsWindowUserInterface.h": "*",
     "shell/clsWindowUserInterface.cpp": "*", "base/mdCustomMessages.h": "*", "base/mdGetFolder.h": "*",
@@ -39,7 +39,7 @@ NO_TEXT = re.compile(r"path|folder|file|document$|^(QStringLiteral|QLatin1String
 class Call:
     place: str
     door: str
-    pieces: list = field(default_factory=list)  # its words, cut where something is filled in and at the ends of lines
+    pieces: list = field(default_factory=list)  # its words, split at placeholders and line ends
 
 
 def without_comments(code):
@@ -49,7 +49,7 @@ def without_comments(code):
 
 
 def literals(code):
-    """The literals of a stretch of code; those that stand side by side are one."""
+    """The string literals of a piece of code; adjacent literals are joined."""
     code = re.sub(r'(?<!\\)"\s+"', "", code)
     return [text.replace(r"\r", "\r").replace(r"\n", "\n").replace(r"\"", '"') for text in LITERAL.findall(code)]
 
@@ -59,7 +59,7 @@ def pieces(text):
 
 
 def bracketed(code, start):
-    """The text between the bracket at start and its partner."""
+    """The text between the bracket at start and the matching one."""
     depth, position = 0, start
     while position < len(code):
         quoted = re.compile(r'"(?:[^"\\\n]|\\.)*"').match(code, position)
@@ -75,7 +75,7 @@ def bracketed(code, start):
 
 
 def arguments(code):
-    """The arguments of a call, parted at the commas that belong to it."""
+    """The arguments of a call, split at its own commas."""
     parts, depth, last, position = [], 0, 0, 0
     while position < len(code):
         quoted = re.compile(r'"(?:[^"\\\n]|\\.)*"').match(code, position)
@@ -99,17 +99,17 @@ class Sources:
                       for folder in FOLDERS for path in sorted((root / folder).rglob("*"))
                       if path.suffix in (".cpp", ".h")}
         self.all = "\n".join(self.files.values())
-        # The functions that give back a text, by their names.
+        # The functions that return a text, by name.
         self.makers = {match[1]: bracketed(self.all, match.end())
                        for match in re.finditer(r"^QString (?:\w+::)?(\w+)\([^;{}]*\)\s*(?:const\s*)?(?=\{)", self.all,
                                                 flags=re.MULTILINE)}
 
     def body(self, name):
-        """What a function of that name makes its text of; empty where there is none."""
+        """The body of the function of that name; empty if there is none."""
         return self.makers.get(name, "")
 
     def value(self, file, name):
-        """What a text of that name is made of in its file."""
+        """The initial value of a text constant in its file."""
         match = re.search(rf"\bQString {name}\s*=([^;]*);", self.files[file])
         return match[1] if match else ""
 
@@ -132,7 +132,7 @@ class Sources:
                 if handed_on == "*" or handed_on == door or door == "tell" and "zr3tool" not in file:
                     continue
                 inside = bracketed(code, match.end() - 1)
-                # A definition or a declaration, and a copy of an error, are no calls.
+                # Definitions, declarations and copies of an error are not calls.
                 if re.match(r"\s*(const|int|QString)\b", inside):
                     continue
                 place = f"{file}:{code.count(chr(10), 0, match.start()) + 1}"
@@ -142,7 +142,7 @@ class Sources:
         made = Call(place, door)
         texts = [given[i] for i in DOORS.get(door, [1]) if i < len(given)]
         for text in texts:
-            # The name of a resource is no text for the user.
+            # The name of a resource is not a text for the user.
             text = re.sub(r"GetResourceData\([^()]*(?:\([^()]*\)[^()]*)*\)", " ", text)
             for word in self.words(file, text):
                 made.pieces += pieces(word)

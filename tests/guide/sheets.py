@@ -1,4 +1,4 @@
-"""Claims that are made for what one page prints, and what stands on their sheets."""
+"""Claims made to test what one page prints, and the content of their sheets."""
 
 import json
 import re
@@ -14,7 +14,7 @@ LISTS = ["scheduleoftimeitems", "expertinvoices", "jointinstructions", "disburse
 
 
 class Claim:
-    """The people of a sample claim, with nothing else on its bill; only page 1 and those named are exported."""
+    """The people of a sample claim with an empty bill; only page 1 and the named pages are exported."""
 
     def __init__(self, sample, form, *pages):
         self.root = ElementTree.fromstring(sample.read_bytes())
@@ -33,7 +33,7 @@ class Claim:
         return self
 
     def add(self, name, count, **fields):
-        """That many items of a list; a function of a field is called with the item's number."""
+        """Adds that many items to a list; a field given as a function is called with the item's number."""
         element = {"fasitems": "fasitem"}.get(name, name.removesuffix("s"))
         for number in range(1, count + 1):
             item = ElementTree.SubElement(self.root.find(name), element)
@@ -47,7 +47,7 @@ class Claim:
         return self
 
     def add_descriptions(self, *lines):
-        """Items of the schedule, each with a description of so many lines."""
+        """Adds schedule items, each with a description of the given number of lines."""
         return self.add("scheduleoftimeitems", len(lines),
                         description=lambda number: " ".join(["n" * 59] * lines[number - 1]))
 
@@ -56,7 +56,7 @@ class Claim:
         return self.add("disbursements", count, counsel="True", counseluniqueid=counsel)
 
     def written(self):
-        """A folder with the claim's file, for as long as it is held."""
+        """A temporary folder with the claim's file."""
         folder = tempfile.TemporaryDirectory()
         (Path(folder.name) / "claim.zr3").write_bytes(ElementTree.tostring(self.root, encoding="us-ascii"))
         return folder
@@ -73,7 +73,7 @@ class Claim:
         return folder
 
     def sheets(self, tool):
-        """The sheets that an export makes, by their names, as lists of their paragraphs' texts."""
+        """The sheets of an export by name, as lists of their paragraphs' texts."""
         with self.export(tool, "--keep-sheets") as folder:
             return {path.stem: paragraphs(path) for path in Path(folder).glob("~ZR3Temp/*(*).doc")}
 
@@ -95,6 +95,6 @@ def is_hidden(run):
 
 
 def marks(sheet):
-    """What stands in brackets beside the page number of a sheet, and what stands above its first line."""
+    """The mark in brackets beside a sheet's page number, and the text above its first line."""
     beside = next(re.sub(r"^.*Page \d+", "", text).strip() for text in sheet if re.search(r"Page \d+( |$)", text))
     return beside, sheet[0].strip()

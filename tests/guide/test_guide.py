@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The user guide and the list of keys: sound as documents, and complete and to the letter beside the program.
+"""The user guide and the list of keys: sound as documents, and complete and word for word as in the program.
 
     ZR3_ROOT           the root of the repository
     ZR3_DOCUMENTATION  the folder of the finished documents
@@ -27,16 +27,16 @@ DOCUMENTATION = Path(os.environ["ZR3_DOCUMENTATION"])
 SOURCES = ROOT / "docs/guide"
 GUIDE, SHORTCUTS = DOCUMENTATION / "Velmor ZR3 User Guide.pdf", DOCUMENTATION / "Velmor ZR3 Keyboard Shortcuts.pdf"
 
-SKIPPED = 77  # what ctest knows as skipped
+SKIPPED = 77  # skipped, for ctest
 
-# Texts that no user can meet, and why. Nothing else may be missing from the guide.
+# Texts that no user can see, and why. Nothing else may be missing from the guide.
 NEVER_SHOWN = {
     "Are you sure you wish to delete the selected": "no list lets more than one row be selected",
 }
 
 
 def same(text):
-    """A text as it is compared: the setter's quotation marks and its ends of lines make no difference."""
+    """A text normalised for comparison: typographic quotation marks and line ends make no difference."""
     for mark, plain in {"‘": "'", "’": "'", "“": '"', "”": '"', "…": "...", "–": "-", "\u00a0": " "}.items():
         text = text.replace(mark, plain)
     return " ".join(text.split())
@@ -60,7 +60,7 @@ def table(name):
 
 
 def spoken(text):
-    """A message of the table as pieces: what stands in braces differs from case to case."""
+    """A message of the table, split at the texts in braces, which vary."""
     return [same(piece) for piece in re.split(r"\{.+?\}|\n", text) if scan.WORD.search(piece)]
 
 
@@ -102,7 +102,7 @@ class Documents(unittest.TestCase):
     def test_contents_lead_to_their_pages(self):
         pages = printed(GUIDE).split("\f")
         self.assertEqual(len(pages) - 1, int(information(GUIDE)["Pages"]))
-        # As laid out: else the number of a chapter that begins a page comes before the page's head.
+        # With the layout kept: otherwise the number of a chapter that starts a page comes before the page's head.
         contents = [page for page in printed(GUIDE, 2, 4, layout=True).split("\f") if same(page).startswith("Contents")]
         self.assertTrue(contents)
         rows = re.findall(r"^\s*(?:(\d+)\s+)?(\S.*?)[ .]{3,}(\d+)$", "\n".join(contents), flags=re.MULTILINE)
@@ -120,7 +120,7 @@ class Documents(unittest.TestCase):
             self.assertIn(same(heading), listed)
 
     def test_references_lead_somewhere(self):
-        # A reference without its place would be printed without a number, or with a nought.
+        # A reference without a target would be printed without a number, or with a zero.
         text = same(printed(GUIDE))
         self.assertNotRegex(text, r"\(page \)|\(page 0\)")
         for page in re.findall(r"\(page (\d+)\)", text):
@@ -145,7 +145,7 @@ class Sources(unittest.TestCase):
         self.assertGreater(len(names), 40)
         for name in names:
             self.assertTrue((ROOT / "docs/screens" / name).is_file() or (ROOT / "docs/pictures" / name).is_file(), name)
-        # Every window that is photographed is shown.
+        # Every screenshot is shown.
         for path in (ROOT / "docs/screens").glob("*.png"):
             self.assertIn(path.name, names)
 
@@ -182,7 +182,7 @@ class Sources(unittest.TestCase):
             self.assertIn(f"| **{caption}** |", told)
 
     def test_every_caption_is_told(self):
-        """Every field and question of every screen, by its name; what stands at every question is told once."""
+        """The guide names every field and question of every screen; texts common to all questions need one mention."""
         quoted = r'(?:"(?:[^"\\]|\\.)*"\s*)+'
         row = re.compile(r'\{(?:\.kind = )?(?:Text|Tick|Decimal|Integer|Date|Time|List|Other|Button|Question),\s*'
                          rf'(?:\.control = )?"\w*",\s*(?:\.caption = )?({quoted})')
@@ -204,7 +204,7 @@ class Sources(unittest.TestCase):
 
 
 class Keys(unittest.TestCase):
-    """The keys of the program are those of the table."""
+    """The program's keys are those of the table."""
 
     NAMES = {"Return": "Enter", "Backtab": "Shift+Tab", "Escape": "Esc", "Plus": "Ctrl+Plus", "Equal": "Ctrl+Plus",
              "Minus": "Ctrl+Minus", "0": "Ctrl+0", "Y": "Ctrl+Y", "F": "Ctrl+F"}
@@ -273,7 +273,7 @@ class Keys(unittest.TestCase):
 
 
 class Messages(unittest.TestCase):
-    """Every text of the program has its entry, and every entry is a text of the program, to the letter."""
+    """Every text of the program has its entry, and every entry is a text of the program, word for word."""
 
     def setUp(self):
         self.sources = scan.Sources(ROOT)
@@ -288,7 +288,7 @@ class Messages(unittest.TestCase):
         return any(all(same(piece) in entry for piece in pieces) for entry in entries)
 
     def places(self, call):
-        """Where a call's text has to stand."""
+        """The entries that may contain a call's text."""
         if "zr3tool" in call.place:
             return self.rows["tool"] + self.rows["error"]
         if call.door in ("mdDocumentError", scan.ERROR):
@@ -322,7 +322,7 @@ class Messages(unittest.TestCase):
     def test_every_text_has_its_entry(self):
         for call in self.calls:
             pieces = [piece for piece in call.pieces if piece not in NEVER_SHOWN]
-            # What one call can say in more than one way is told piece by piece; no piece may be missing.
+            # If one call has several possible messages, each piece must be found.
             whole = self.told(pieces, self.places(call))
             for piece in pieces if not whole else []:
                 self.assertTrue(self.told([piece], self.places(call)),
@@ -388,7 +388,7 @@ class Messages(unittest.TestCase):
 
 
 class Example(unittest.TestCase):
-    """The claim that the guide leads to has the figures that the guide tells."""
+    """The claim of the guide's walkthrough has the figures that the guide states."""
 
     def totals(self, name):
         claim = Path(__file__).resolve().parent / f"{name}.zr3"
@@ -420,7 +420,8 @@ class Example(unittest.TestCase):
         before, after = self.totals("okafor"), self.totals("okafor-1a")
         loaded = float(before["ProfitCostsTotal"]) - float(before["AdvocacyTotal"])
         self.assertIn(f"*{loaded:.2f}* and *{loaded * 0.2:.2f}*", text)
-        # The hearing goes from the schedule when the scheme bills it: what is left is what the button gave before.
+        # The hearing is removed from the schedule when the scheme bills it, so the rest equals what the button gave
+        # before.
         self.assertEqual(f"{loaded:.2f}", after["ProfitCostsTotal"])
         plain = sum(float(item["BasicClaim"]) for item in after["ScheduleItems"]) + 44.55 + 11.85 + 8.20 + 24.30
         self.assertIn(f"*{plain:.2f}* and *{plain * 0.2:.2f}*", text)
@@ -454,7 +455,7 @@ class Sheets(unittest.TestCase):
             exceptionaltraveldistance="", exceptionaltravelreason=lambda number: "far" if number <= travel else "")
 
     def rows(self):
-        """The rows of the table of odd marks: the page, when, beside the page number."""
+        """The rows of the table of odd marks: the page, the case, the mark beside the page number."""
         text = (SOURCES / "12-export.md").read_text(encoding="utf-8")
         table = text.split("{#odd-marks}")[1].split("\n\n", 2)[2].split("\n\n")[0]
         rows, page = [], ""
@@ -523,7 +524,7 @@ class Sheets(unittest.TestCase):
         told = re.search(r"first sheet holds (\d+) lines on Claim 1 and (\d+) on Claim 1A, a further one (\d+)", text)
         first, first_1a, further = (int(number) for number in told.groups())
         for form, page, room in (("Claim1", 6, first), ("Claim1A", 11, first_1a)):
-            # Each description has one line more, for the rule below it.
+            # The rule below each description takes one more line.
             rest = further - (room + 1) - 1
             for lines, count in (([room - 1], 1), ([room], 2), ([room, rest], 2), ([room, rest + 1], 3)):
                 made = self.claim(form, page).add_descriptions(*lines).sheets(os.environ["ZR3_TOOL"])
@@ -532,7 +533,7 @@ class Sheets(unittest.TestCase):
 
 
 class Ways(unittest.TestCase):
-    """Where the guide says that the keys of a screen lead is where they lead."""
+    """Prev and Next lead where the guide says."""
 
     def setUp(self):
         self.sources = scan.Sources(ROOT)
@@ -543,7 +544,7 @@ class Ways(unittest.TestCase):
         return {row[0]: row[1:] for row in re.findall(r'\{' + ",\\s*".join(['"([^"]*)"'] * 5) + r"\}", code)}
 
     def way(self, start, key, form):
-        """The screens that a key leads to, until it leads nowhere or where it has been."""
+        """The screens that a key leads to, until it leads nowhere or to one already visited."""
         routes, passed = self.routes(), [start]
         while True:
             ways = routes[passed[-1]][2 * (key == "Next >>"):][:2]

@@ -1,4 +1,4 @@
-"""What the tests of the installed program share: a clean place to install into, and an ordinary user who starts it.
+"""Shared by the tests of the installed program: a clean folder to install into, and an ordinary user who starts it.
 
     ZR3_BUILD    the build folder
     ZR3_SOURCES  the folder of the sources
@@ -22,7 +22,7 @@ PATIENCE = 60
 
 
 def run(*command, **options):
-    """The output of a command; one that fails is told with what it said."""
+    """The output of a command; if it fails, the error includes its output."""
     done = subprocess.run([str(word) for word in command], text=True, encoding="utf-8", errors="replace",
                           stdout=subprocess.PIPE, stderr=subprocess.STDOUT, timeout=PATIENCE, **options)
     if done.returncode != 0:
@@ -31,7 +31,7 @@ def run(*command, **options):
 
 
 def work_folder():
-    """A folder with odd characters that others may enter; it goes when the tests are done."""
+    """A folder with unusual characters that other users may enter; deleted after the tests."""
     folder = Path(tempfile.mkdtemp(prefix="zr3 \u00fcber "))
     folder.chmod(0o755)
 
@@ -44,7 +44,7 @@ def work_folder():
 
 
 def lock(folder, locked=True):
-    """Takes away, or gives back, the right to write anything in a folder, also from its owner."""
+    """Removes or restores write permission for a folder, for its owner too."""
     for path in [folder, *folder.rglob("*")]:
         if not path.is_symlink():
             mode = stat.S_IMODE(path.stat().st_mode)
@@ -52,14 +52,15 @@ def lock(folder, locked=True):
 
 
 def install(prefix):
-    """Installs into a folder, made for it if need be, under the strictest mask: what others may read is not to hang on
-    it."""
+    """Installs into a folder, created if necessary, under the strictest umask: the permissions of installed files must
+    not depend on it.
+    """
     run("sh", "-c", 'umask 077; exec cmake --install "$1" --prefix "$2"', "--", BUILD, prefix)
     return prefix
 
 
 class User:
-    """An ordinary user with a home of their own, in which there is nothing at first."""
+    """An ordinary user with an initially empty home folder."""
 
     def __init__(self, folder, prefix):
         self.home = folder
@@ -79,7 +80,7 @@ class User:
         self.preferences = self.databases / "Preferences Database.vzp"
 
     def command(self, *words):
-        """The words of a command that runs as this user."""
+        """The command line that runs a command as this user."""
         as_user = ["setpriv", f"--reuid={NOBODY}", f"--regid={NOBODY}", "--clear-groups"] if os.geteuid() == 0 else []
         settings = [f"{name}={value}" for name, value in self.surroundings.items()]
         return [*as_user, "env", "-u", "XDG_CONFIG_HOME", "-u", "XDG_DATA_HOME", *settings, *map(str, words)]
@@ -88,7 +89,7 @@ class User:
         return run(*self.command(*words), cwd=self.home)
 
     def own(self, path):
-        """Makes a file or folder this user's, with all folders on the way to it."""
+        """Makes this user the owner of a file or folder and the folders leading to it."""
         while os.geteuid() == 0 and path != self.home:
             os.chown(path, NOBODY, NOBODY)
             path = path.parent

@@ -1,4 +1,4 @@
-"""Starts the installed program on a real display, and looks at what comes up."""
+"""Starts the installed program on a real display and checks its windows."""
 
 import os
 
@@ -16,12 +16,12 @@ class Started:
         self.desktop.close()
 
     def windows(self):
-        """The titles of all windows that can be seen."""
+        """The titles of all visible windows."""
         found = self.desktop.tell("search", "--onlyvisible", "--name", ".", check=False).split()
         return sorted(self.desktop.tell("getwindowname", window, check=False) for window in found)
 
     def main_window_is_up(self):
-        # The splash bears the title of the main window, which fills the screen.
+        # The splash has the main window's title, but only the main window fills the screen.
         return self.desktop.title() == MAIN and self.desktop.fills_the_screen()
 
     def running(self, claim):
@@ -36,7 +36,7 @@ class Started:
         return False
 
     def start_and_save(self, user, claim, opener=("velmor-zr3",)):
-        """Starts the program on a claim as this user, sees the main window and no other, saves the claim and leaves."""
+        """Starts the program on a claim as this user, expects only the main window, saves the claim and exits."""
         user.surroundings["DISPLAY"] = self.desktop.surroundings["DISPLAY"]
         self.desktop.start("program", user.command(*opener, claim))
         before = claim.read_bytes()
@@ -44,7 +44,7 @@ class Started:
             self.desktop.wait("the main window", self.main_window_is_up, AssertionError)
             assert self.windows() == [MAIN], f"These windows are up: {self.windows()}"
             self.desktop.key("ctrl+s")
-            # The claim notes where it lies: so it is this one that is in the window.
+            # The claim stores its own path, so a change shows that this claim is in the window.
             self.desktop.wait("the claim to be saved", lambda: claim.read_bytes() != before, AssertionError)
             self.desktop.key("ctrl+q")
             self.desktop.wait("the end of the program", lambda: not self.running(claim), AssertionError)

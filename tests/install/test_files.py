@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""What `cmake --install` puts where, that the desktop understands it, and that it runs from there without a window."""
+"""What `cmake --install` installs where, that the desktop recognises it, and that it runs from there without a window.
+"""
 
 import gzip
 import json
@@ -131,7 +132,7 @@ class Desktop(unittest.TestCase):
         run("update-mime-database", PREFIX / "share/mime")
         run("update-desktop-database", PREFIX / "share/applications")
         user = User(FOLDER / "clerk", PREFIX)
-        # By its name, and by what is in it.
+        # By its name, and by its content.
         for name in ("claim.zr3", "claim"):
             kind = user.run("gio", "info", "-a", "standard::content-type", user.claim(name))
             self.assertIn(f"standard::content-type: {TYPE}\n", kind + "\n")
@@ -161,7 +162,7 @@ class WithoutAWindow(unittest.TestCase):
 
 class Uninstall(unittest.TestCase):
     def removed(self, prefix):
-        """Installs, puts a file of somebody else beside it, and removes."""
+        """Installs, adds a file that is not part of the program, and uninstalls."""
         installed.install(prefix)
         (prefix / "bin/another").write_text("")
         run("cmake", f"-DPREFIX={prefix}", "-P", SOURCES / "packaging/uninstall.cmake")

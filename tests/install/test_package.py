@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""The Debian package: what is in it, how it was built, and that it can be installed, started and removed, with the claims
-and preferences of the users left alone.
+"""The Debian package: its content, how it was built, and that it can be installed, started and removed without
+affecting the users' claims and preferences.
 
-It is installed into an empty root, which keeps the machine as it is. What the packages of the desktop then do by
-themselves, and whether the packages that it depends on are there, can't be seen so.
+It is installed into an empty root, so that the machine is not changed. This can't test the triggers of desktop
+packages, nor whether the packages that it depends on are available.
 """
 
 import hashlib
@@ -27,7 +27,7 @@ PROGRAMS = ("usr/lib/velmor-zr3/velmor-zr3", "usr/lib/velmor-zr3/zr3tool", "usr/
 
 
 def packed(config, made):
-    """A package, made under the strictest mask once more, which must not get into it."""
+    """A package, made once more under the strictest umask, which must not affect it."""
     run("sh", "-c", 'umask 077; exec cpack --config "$1" -B "$2" -D CPACK_OUTPUT_FILE_PREFIX="$2"', "--",
         BUILD / config, made)
     [package] = made.glob("*.deb")
@@ -86,12 +86,12 @@ class Contents(unittest.TestCase):
             headers = run("objdump", "-p", UNPACKED / program)
             self.assertNotRegex(headers, "RUNPATH|RPATH")
             self.assertRegex(headers, r"RELRO")
-            self.assertRegex(headers, r"FLAGS_1 +0x0*8000001")  # all names are bound at the start
+            self.assertRegex(headers, r"FLAGS_1 +0x0*8000001")  # all symbols are bound at the start
             self.assertTrue("__stack_chk_fail" in run("objdump", "-T", UNPACKED / program), "the stack is not checked")
 
 
 class ForServers(unittest.TestCase):
-    """The package of the headless program alone."""
+    """The package of the command-line program alone."""
 
     def test_it_has_what_the_headless_program_needs_and_no_more(self):
         files = {str(path.relative_to(SERVER_UNPACKED)) for path in SERVER_UNPACKED.rglob("*") if not path.is_dir()}
@@ -131,7 +131,7 @@ class Life(unittest.TestCase):
 
     def dpkg(self, *words):
         as_root = [] if os.geteuid() == 0 else ["fakeroot"]
-        # The packages that it depends on are not in the empty root, and neither is a place of the log.
+        # The empty root has neither the packages it depends on nor a folder for the log.
         run(*as_root, "dpkg", f"--root={self.root}", "--force-depends", "--force-not-root", "--log=/dev/null", *words)
 
     def setUp(self):
@@ -144,7 +144,7 @@ class Life(unittest.TestCase):
             (database / folder).mkdir(parents=True)
         (database / "status").touch()
         self.dpkg("-i", PACKAGE)
-        # Ordinary users, and only they, meet a folder that they may not write.
+        # Only ordinary users are affected by a folder without write permission.
         installed.lock(self.root / "usr")
 
     def everything(self, folder):

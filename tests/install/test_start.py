@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
-"""That the installed program starts on a real display for users who may not write its folder: no box, the claim in the
-window, and a database folder of their own for whoever had none."""
+"""The installed program starts on a real display for users who may not write to its folder: no box, the claim in the
+window, and a new database folder for users who had none.
+"""
 
 import shutil
 import sys

@@ -1,4 +1,4 @@
-"""What a finished document says of its sheets, rows and cells."""
+"""The sheets, rows and cells of a finished document."""
 
 import re
 import subprocess
@@ -11,9 +11,9 @@ from lxml import etree
 
 W = "{http://schemas.openxmlformats.org/wordprocessingml/2006/main}"
 SMALLEST = 6
-LINES = 16                      # twips that a cell's lines take of its width, at most
+LINES = 16                      # twips that a cell's borders take from its width, at most
 AMOUNT = re.compile(r"\d[\d,]*\.\d\d")
-# Where a word may go on on the next line.
+# The parts of a word between which a line may break.
 PARTS = re.compile(r"[^\s\u00a0/-]+[/-]*|[/-]+")
 
 
@@ -27,15 +27,15 @@ def font(bold):
 
 
 def width(word, bold):
-    """Of a word in the smallest type, in twips."""
+    """The width of a word at the smallest size, in twips."""
     characters, advances, em = font(bold)
     return sum(advances[characters.get(ord(c), ".notdef")][0] for c in word) * SMALLEST * 20 / em
 
 
 def fits(word, bold, across):
-    """Whether a word must stand in one piece, or in pieces cut at its hyphens, in a cell that is so wide."""
-    # The office program doesn't break a word after a slash: where no other place is nearer, it cuts the word at the
-    # letter that no longer fits.
+    """Whether a word, or each of its parts between hyphens, fits into a cell of this width."""
+    # The office program doesn't break a word after a slash: if there is no nearer break, it cuts the word at the letter
+    # that no longer fits.
     parts = [word] if "/" in word else PARTS.findall(word) or [word]
     return max(width(part, bold) for part in parts) <= across - LINES
 
@@ -51,7 +51,7 @@ def text(node):
 
 
 def with_low_row(document):
-    """The markup of a document with the row of its longest text a third as high."""
+    """The markup of a document in which the row of the longest text is a third of its height."""
     root = etree.fromstring(document)
     rows = [row for row in root.iter(W + "tr") if attribute(row, "trPr/trHeight", "hRule") == "exact"]
     longest = max(rows, key=lambda row: max(len(text(cell)) for cell in row.iter(W + "tc")))
@@ -61,7 +61,7 @@ def with_low_row(document):
 
 
 def stands_in_parts(parts, shown):
-    """Whether the parts of a word, or some of them joined, are words that `shown` knows."""
+    """Whether `shown` knows the parts of a word, or some of them joined."""
     return not parts or any(shown("".join(parts[:end])) and stands_in_parts(parts[end:], shown)
                             for end in range(1, len(parts) + 1))
 
@@ -78,7 +78,7 @@ class Document:
         self.grown_rows = sum(height.get(W + "hRule") != "exact" for height in self.root.iter(W + "trHeight"))
 
     def paragraphs(self):
-        """Those of cells, each with its cell's width less its insets."""
+        """The paragraphs of cells, each with its cell's width less its insets."""
         for cell in self.root.iter(W + "tc"):
             across = int(attribute(cell, "tcPr/tcW", "w"))
             for paragraph in cell.findall(W + "p"):
@@ -91,7 +91,7 @@ class Document:
                    for paragraph, _ in self.paragraphs())
 
     def broken(self, shown):
-        """The amounts and words that don't stand in one piece on the pages, though they are narrow enough for it."""
+        """The amounts and words that are broken on the pages although they are narrow enough."""
         expected, narrow = Counter(), set()
         for paragraph, across in self.paragraphs():
             bold = attribute(paragraph, "pPr/rPr/b") is not None

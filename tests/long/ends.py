@@ -1,16 +1,16 @@
 #!/usr/bin/env python3
-"""The program is ended in every way that there is while its user types, saves and exports, and started again.
+"""The program is ended in every possible way while its user types, saves and exports, and started again.
 
     ends.py [--kills N] [--seed S]
 
-Each word that is typed bears a number, and the moment at which it was typed is noted. The journal is kept twenty times
-as fast as in the program, so that the thirty seconds that are promised are one and a half here: an end comes too soon
-after the start else. Of the words typed longer ago than that before an end, none may be missing.
+Each typed word has a number, and its time is recorded. The journal runs twenty times as fast as in the program, so that
+the promised thirty seconds are one and a half here; otherwise most ends would come too soon after the start. No word
+typed longer than that before an end may be missing.
 
     ZR3_ENDS       the program with its typist
     ZR3_PROGRAM    the program as it is delivered
     ZR3_SAMPLES    the folder of the sample claims
-    ZR3_CLOCKS     the library of the clock that jumps
+    ZR3_CLOCKS     the library of the jumping clock
 """
 
 import argparse
@@ -55,7 +55,7 @@ def words_in(text):
 
 
 class Life:
-    """A folder of its own, in which the program is started and ended."""
+    """A folder in which the program is started and ended."""
 
     def __init__(self):
         self.folder = Path(tempfile.mkdtemp(prefix="zr3-ends-"))
@@ -88,7 +88,7 @@ class Life:
                                 stdout=subprocess.PIPE, stderr=subprocess.STDOUT, **options)
 
     def rows(self):
-        """What the typist has noted: what, number, and the moment in seconds."""
+        """The typist's notes: what, number, and the time in seconds."""
         log = self.folder / "typed"
         rows = [line.split() for line in log.read_text().splitlines()] if log.exists() else []
         return [(row[0], int(row[1]), int(row[2]) / 1e9) for row in rows if len(row) == 3]
@@ -101,7 +101,7 @@ class Life:
             time.sleep(0.01)
 
     def wait_for(self, what):
-        """Waits for the typist to begin something, and not for ever: it is random what it does."""
+        """Waits, for a limited time, until the typist starts something: its actions are random."""
         end = time.monotonic() + 4 * PROMISED
         while what and time.monotonic() < end and self.rows()[-1][0] != what:
             time.sleep(0.002)
@@ -110,7 +110,7 @@ class Life:
         return sorted((self.state / "Velmor" / "Journal").glob("*.journal"))
 
     def recovered(self):
-        """The words that are on the disk: in the claim, in its side file and in the journal."""
+        """The words on the disk: in the claim, in its side file and in the journal."""
         found = []
         for file in [self.claim, self.claim.with_suffix(".zr3a"), *self.journals()]:
             if file.exists():
@@ -118,7 +118,7 @@ class Life:
         return max(found)
 
     def lost(self, ended):
-        """Seconds and characters that are lost, and in the midst of what the end came."""
+        """The seconds and characters that are lost, and what the typist was doing at the end."""
         rows = self.rows()
         words = [(number, moment) for what, number, moment in rows if what == "word"]
         have = self.recovered()
@@ -129,7 +129,7 @@ class Life:
         return seconds, sum(len(f"zq{number} ") for number, _ in missing), doing
 
     def next(self):
-        """The next start: what the bar says, and what there is after it was taken up, saved and closed."""
+        """The next start: the bar's message, and the words left after the claim was recovered, saved and closed."""
         done = subprocess.run([ENDS, "next", self.folder], env=self.environment(), capture_output=True, text=True,
                               timeout=PATIENCE)
         assert done.returncode == 0, done.stdout + done.stderr
@@ -154,7 +154,7 @@ class Figures:
 
 
 def look_after(life, ended, bound=PROMISED):
-    """What is promised of every end, and that the next start brings back what is on the disk."""
+    """Checks the promised limit of the loss, and that the next start recovers what is on the disk."""
     seconds, characters, doing = life.lost(ended)
     assert seconds <= bound, f"{seconds:.2f} s of typing are lost while {doing}"
     have = life.recovered()
@@ -168,7 +168,7 @@ def look_after(life, ended, bound=PROMISED):
     return seconds, characters, doing
 
 
-# In the midst of what a kill is to come, how often of a hundred, and how many seconds that lasts at most.
+# What a kill is to interrupt, how many of a hundred, and how many seconds that lasts at most.
 MOMENTS = ((None, 50, PROMISED), ("save", 30, 0.06), ("export", 20, 0.6))
 
 
@@ -189,7 +189,7 @@ def killed(seed):
 
 
 def signalled(number, log_off=False, environment=None, bound=None):
-    """A signal on which the program ends by itself, which it does with all that was typed."""
+    """A signal on which the program ends itself, keeping everything that was typed."""
     with Life() as life:
         if log_off:
             (life.folder / "log-off").touch()
@@ -206,7 +206,7 @@ def signalled(number, log_off=False, environment=None, bound=None):
 
 JUMPS = "0,86400,-86400,31536000,-31536000,3600,-3600"
 
-# A title, and what makes the end. Only SIGQUIT ends the program at once, as it is meant to.
+# A title, and the function that ends the program. Only SIGQUIT ends it at once: required behaviour.
 WAYS = {
     "SIGTERM": lambda: signalled(signal.SIGTERM),
     "SIGHUP": lambda: signalled(signal.SIGHUP),
@@ -223,7 +223,7 @@ def elsewhere(life):
 
 
 def without_a_place(prepare):
-    """The state folder takes nothing: the work goes on, and the claim can be saved."""
+    """The state folder can't be written: work continues, and the claim can be saved."""
     with Life() as life:
         prepare(life)
         process = life.start()
@@ -252,7 +252,7 @@ def state_is_a_foreign_link(life):
 
 
 def fill(file):
-    """Writes a file until the disk takes no more."""
+    """Writes a file until the disk is full."""
     descriptor = os.open(file, os.O_WRONLY | os.O_CREAT)
     try:
         while True:
@@ -263,7 +263,7 @@ def fill(file):
 
 
 def full_disk(end):
-    """A state folder on a disk that fills up while the journal is written; the claim lies elsewhere."""
+    """The state folder is on a disk that becomes full while the journal is written; the claim is elsewhere."""
     import ctypes
     libc = ctypes.CDLL(None, use_errno=True)
     with Life() as life:
@@ -313,14 +313,14 @@ class Display:
         return any(self.TITLE in file.read_bytes().decode("latin-1") for file in self.life.journals())
 
     def end(self, how):
-        """Waits for what was typed to be kept, ends the program, and looks for it."""
+        """Waits until the typed text is kept, ends the program, and looks for the text."""
         typed = time.monotonic()
         while not self.kept():
             assert time.monotonic() - typed < 30, "not kept within thirty seconds"
             time.sleep(0.1)
         took = time.monotonic() - typed
         how(self)
-        # A program without a window would hold its journal back from the next start.
+        # A process still running without a window would keep its journal from the next start.
         self.process.wait(PATIENCE)
         assert self.kept(), "what was typed is gone"
         said = self.life.next()

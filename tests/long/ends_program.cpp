@@ -1,4 +1,4 @@
-// The program with a user who types, saves and exports without a pause, until somebody ends it: see tests/long/ends.py.
+// The program with a user who types, saves and exports without pause until it is ended: see tests/long/ends.py.
 //
 //     ends_program type FOLDER CLAIM SPEED    numbers each word that it types, and writes number and moment into
 //                                             FOLDER/typed; the journal is kept SPEED times as fast as in the program
@@ -42,7 +42,7 @@ namespace {
 
 constexpr int BetweenActions = 7; ///< in milliseconds
 
-/// Yes to whatever is asked.
+/// Answers Yes to every question.
 class clsUser final : public clsQuietUserInterface {
 public:
     explicit clsUser(QString folder)
@@ -72,7 +72,7 @@ long long now()
     return time.tv_sec * 1000000000LL + time.tv_nsec;
 }
 
-/// Does the next thing whenever the program is free to take it.
+/// Performs the next action whenever the program is ready for it.
 class clsTypist : public QObject {
 public:
     clsTypist(frmMain &window, const QString &folder)
@@ -93,7 +93,7 @@ private:
             std::abort();
     }
 
-    /// A timer of its own for each, since one that opens a screen does not come again until that is closed.
+    /// Each has its own timer, since one that opens a screen does not fire again until that is closed.
     void turn()
     {
         QTimer::singleShot(BetweenActions, this, [this] {
@@ -157,7 +157,7 @@ void makeFolder(const QString &folder)
             GetResourceData(QStringLiteral("xmlZR3PreferencesDatabase"), QStringLiteral("VELMORZR3XML")).toLatin1());
 }
 
-/// The log-off by a desktop that then ends the program.
+/// A log-off by a desktop that then ends the program.
 void logOff(oApplication &application)
 {
     alignas(QSessionManager) char noSession[sizeof(QSessionManager)] = {};
@@ -167,7 +167,7 @@ void logOff(oApplication &application)
     ::raise(SIGKILL);
 }
 
-/// Tells what the bar says, takes it up, saves, and leaves.
+/// Prints the bar's message, opens the claim, saves it, and exits.
 void takeUp(frmMain &window)
 {
     auto &bar = *window.findChild<oNoticeBar *>();

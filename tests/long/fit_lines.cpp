@@ -2,8 +2,8 @@
 //
 //     fit_lines DOCUMENT
 //
-// One number for each row with text. Each row is given no height at all, so that the fit of the typed text has to tell
-// the lines of every cell; the document itself is not written.
+// Prints a number for each row with text. The rows are given a height of zero, so that the fit of the typed text
+// reports the lines of every cell; the document itself is not written.
 
 #include "wordexport/document/clsWordPackage.h"
 #include "wordexport/document/mdWordFit.h"

@@ -1,10 +1,10 @@
-"""What the forecast tells of made-up claims against what the export makes and the word processor prints.
+"""The forecasts of generated claims, compared with their exports and the printed pages.
 
     forecasts.py [--claims N] [--seed S]
 
 The claims are the samples with texts of any length and with line breaks in every field and grid, within the allowances
-and far beyond. For each, the sheets, their names and their order are those of the export; and each sheet takes as many
-paper pages as are printed of it. ZR3_TOOL is the headless program, ZR3_SAMPLES the folder of the samples.
+and far beyond. For each, the forecast must have the sheets of the export, with their names and order, and the number of
+paper pages on which each is printed. ZR3_TOOL is the headless program, ZR3_SAMPLES the folder of the samples.
 """
 
 import argparse
@@ -21,7 +21,7 @@ from pathlib import Path
 from urllib.parse import quote_plus
 
 SKIPPED = 77
-AT_A_TIME = 20          # claims that are printed by one start of the word processor
+AT_A_TIME = 20          # claims printed by one start of the word processor
 TOOL = os.environ["ZR3_TOOL"]
 SAMPLES = sorted(Path(os.environ["ZR3_SAMPLES"]).glob("*.zr3"))
 
@@ -39,7 +39,7 @@ Featherstonehaugh 12/03/25 1,250.00 and/or POSSESSION instructions re-draft e.g.
 
 
 def text(source, words, breaks):
-    """So many words; behind how many of a hundred a line break stands."""
+    """A text with that many words, and line breaks after that percentage of them."""
     return "".join(source.choice(WORDS) + ("\r\n" if source.randrange(100) < breaks else " ") for _ in range(words)).strip()
 
 
@@ -73,7 +73,7 @@ def printed(folder, documents):
 
 
 def runs_of(pages):
-    """The page number of each sheet that was printed, and its paper pages. A sheet begins with its head."""
+    """The page number of each printed sheet, and its paper pages. A sheet begins with its head."""
     runs = []
     for number, page in enumerate(pages):
         head = re.search(r"Claim 1A? +Page (\d+)", "\n".join(page.split("\n")[:6]))

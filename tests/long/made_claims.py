@@ -1,5 +1,5 @@
-"""Claims made up for the long proofs: in every field and every cell of a grid texts with line breaks, long words, long
-names and capitals, within what the printed boxes are made for or beyond it. The same seed makes the same claims.
+"""Generates claims for the long-running tests: every field and grid cell has a text with line breaks, long words, long
+names and capitals, within the capacity of the printed boxes or beyond it. The same seed gives the same claims.
 """
 
 import math
@@ -13,8 +13,8 @@ sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "documents"))
 
 from claims import CLAIM1, CLAIM1A, Claim                       # noqa: E402
 
-# Lines of six points that each box holds, and how many of the widest letters stand on one: what a text may take to be
-# within its allowance. Every other field has a row for two lines of its own.
+# The lines of six points that each box holds, and the widest letters that fit on one: the limits of a text within its
+# allowance. Every other field has a row of its own for two lines.
 FULL_WIDTH = 80
 BOXES = {
     "clientdetails/morethan1certificate": (5, FULL_WIDTH),
@@ -35,7 +35,7 @@ BOXES = {
     "debtorsdetails/information": (28, FULL_WIDTH),
 }
 FIELD = (2, 40)
-# The widest letters that stand on a line of a cell of six points, by what the cell holds, and its characters.
+# The number of the widest letters on a line of a cell at six points, by the cell's content, and its characters.
 CELLS = {
     "counsel": (30, 30), "experttype": (15, 12), "partyname": (20, 20), "solicitor": (20, 20),
     "certificatereference": (20, 20), "description": (50, 50), "boltondescription": (35, 80), "distance": (30, 36),
@@ -61,7 +61,7 @@ HEARINGS = ["FDR", "FHDRA", "Interim", "Hearing", "Final hearing"]
 
 
 class Writer:
-    """Makes texts of one manner or another."""
+    """Generates texts of several styles."""
 
     def __init__(self, source):
         self.random = source
@@ -96,7 +96,7 @@ class Writer:
         return manner(length)
 
     def lines(self, length, count):
-        """A text of at most so many characters on at most so many lines, some of them empty."""
+        """A text of at most that many characters on at most that many lines, some of them empty."""
         if count == 1 or length < 4 or self.random.random() < 0.3:
             return self.text(length)
         if self.random.random() < 0.3:
@@ -151,7 +151,7 @@ class Maker:
         return self.writer.beyond(allowance, 2)
 
     def line(self, kind):
-        """Of a cell from which the export goes on by counting lines: a break in it would lead astray."""
+        """The text of a cell from which the export moves by counting lines, so it must have no line break."""
         return " ".join(self.cell(kind).split())
 
     def amount(self, digits=None):
@@ -199,7 +199,7 @@ class Maker:
             self.add_hearings()
 
     def note(self, n):
-        """The description of an item, which goes to the additional information."""
+        """The description of an item, for the additional information."""
         if n > 3 or self.random.random() < 0.5:
             return ""
         return self.writer.text(self.random.randint(5, 300))
@@ -218,7 +218,7 @@ class Maker:
 
 
 def made(seed, number):
-    """Claim `number` of a seed: both forms in turn, and within and beyond the allowances in turn."""
+    """Claim `number` of a seed: alternating between both forms, and between texts within and beyond the allowances."""
     source = random.Random(f"{seed}/{number}")
     maker = Maker(CLAIM1A if number % 2 else CLAIM1, source, number // 2 % 2 == 0)
     maker.fill_fields()

@@ -1,12 +1,12 @@
-"""A run through many claims that is broken off and taken up again, against one that is not.
+"""A run through many claims that is interrupted and resumed, compared with one that is not.
 
     many.py [--claims N]
 
-The claims are small, in folders of twenty of the same names, and a few of them are broken. One run exports them all; a
-second one is asked to end twice in the midst of its work, is then taken up by --newer, and must have made the same
-documents, byte for byte. After each end there are whole documents and nothing else. Where GNU parallel is there, the
-recipe of the guide has to come to the same too. Prints claims a second and the largest memory of a process. ZR3_TOOL is
-the headless program, ZR3_SAMPLES the folder of the samples.
+The claims are small, in folders of twenty with the same names, and a few of them are broken. One run exports them all;
+a second one is stopped twice, resumed with --newer, and must have made the same documents, byte for byte. After each
+stop there are only complete documents. If GNU parallel is installed, the guide's recipe must give the same result.
+Prints claims per second and the largest memory of a process. ZR3_TOOL is the headless program, ZR3_SAMPLES the folder
+of the samples.
 """
 
 import argparse
@@ -27,11 +27,11 @@ TOOL = os.environ["ZR3_TOOL"]
 SAMPLE = Path(os.environ["ZR3_SAMPLES"]) / "housing-typical.zr3"
 IN_A_FOLDER = 20
 EVERY_BROKEN = 50
-TO_END = 1.0            # seconds that a run may take to end when it is asked to
+TO_END = 1.0            # seconds in which a run must end after the signal
 
 
 def made_claims(folder, count):
-    """Claims of one page, each with a name of its own in it."""
+    """Claims of one page, each with its name in it."""
     text = re.sub(r"<(includepage(?!1>)\d+)>[^<]*<", r"<\1>False<", SAMPLE.read_text("latin-1"))
     for number in range(count):
         path = folder / f"{number // IN_A_FOLDER:05}" / f"client {number % IN_A_FOLDER}.zr3"
@@ -43,7 +43,7 @@ def made_claims(folder, count):
 
 
 def sums(folder):
-    """What a folder holds, by names; every file has to be a document."""
+    """The checksums of the files in a folder, by name; every file must be a document."""
     found = {}
     for path in folder.rglob("*"):
         if path.is_file() or path.suffix != "":
@@ -63,7 +63,7 @@ def lines_of(text):
 
 
 def broken_off(command, out, after, how):
-    """Starts a run and asks it to end once there are so many documents."""
+    """Starts a run and sends a signal once there are that many documents."""
     with subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL) as run:
         while run.poll() is None and sum(1 for _ in os.scandir(out)) < after:
             time.sleep(0.01)
@@ -119,7 +119,7 @@ def list_all(claims, count):
 
 
 def by_engine(folder, claims):
-    """The recipe of the guide, on this machine alone, against runs without the engine."""
+    """The guide's recipe, on this machine only, compared with runs without GNU parallel."""
     if shutil.which("parallel") is None:
         print("there is no GNU parallel on this machine: its recipe was not tried")
         return
@@ -127,7 +127,7 @@ def by_engine(folder, claims):
     recipe = f"mkdir -p engine/{{/}} && {TOOL} export --jsonl --newer --force {{}} engine/{{/}}"
     words = ["parallel", "--will-cite", "--sshlogin", "2/:", "--workdir", folder, "--joblog", "run.log", recipe]
     paths = "".join(f"claims/{name}\n" for name in slices)
-    for expected in (False, True):  # the second time everything is passed by
+    for expected in (False, True):  # the second time everything is skipped
         run = subprocess.run(words, input=paths, cwd=folder, capture_output=True, text=True)
         told = [line for line in lines_of(run.stdout) if "Error" not in line]
         assert told and all(line.get("PassedBy", False) == expected for line in told), run.stderr[:500]

@@ -1,4 +1,4 @@
-"""What stands where on the pages of a printed document, and what a row of exact height kept from being seen."""
+"""Where words are on the pages of a printed document, and what rows of exact height hide."""
 
 import html
 import re
@@ -7,7 +7,7 @@ import zipfile
 from collections import Counter
 from typing import NamedTuple
 
-NEAR = 0.6                      # points: nothing moves by less where a row grows
+NEAR = 0.6                      # points: nothing moves by less if a row grows
 
 WORD = re.compile(r'<word xMin="([-\d.]+)" yMin="([-\d.]+)" xMax="[-\d.]+" yMax="[-\d.]+">(.*?)</word>', re.S)
 
@@ -19,7 +19,7 @@ class Word(NamedTuple):
 
 
 def write_growing(document, copy):
-    """A copy of a document in which every row grows with its text."""
+    """Writes a copy of a document in which every row grows with its text."""
     with zipfile.ZipFile(document) as source, zipfile.ZipFile(copy, "w", zipfile.ZIP_DEFLATED) as target:
         for name in source.namelist():
             data = source.read(name)
@@ -40,8 +40,9 @@ def texts(page):
 
 
 def hidden(printed, growing):
-    """What the pages don't show whole, told in words: where rows may grow, a word appears, stands on another page or
-    further down. Empty where nothing is hidden."""
+    """What the pages don't show completely, as sentences: if the rows may grow, a word appears, is on another page or
+    further down. Empty if nothing is hidden.
+    """
     found = []
     if len(printed) != len(growing):
         found.append(f"{len(printed)} pages, {len(growing)} where rows grow")

@@ -1,11 +1,11 @@
-"""Made-up claims on paper: nothing that was typed is missing or half hidden, and each sheet is one page.
+"""Generated claims as printed: no typed text is missing or partly hidden, and each sheet is one page.
 
     paper.py [--claims N] [--seed S] [--keep FOLDER]
 
-Each claim is exported and printed twice: as it is, and as a copy in which every row of exact height may grow. Where a row
-cut something off, the copy shows a word more, on another page or further down. Within the allowances there are as many
-pages as sheets; beyond them a sheet that runs on has a row that was made to grow. Amounts are in one piece, and so are
-words that are no wider than their cell in the smallest type. Each run also plants a cut, which has to be found.
+Each claim is exported and printed twice: as it is, and as a copy in which every row of exact height may grow. If a row
+cuts something off, a word of the copy is additional, on another page or further down. Within the allowances there are
+as many pages as sheets; beyond them a sheet that runs on has a row that was allowed to grow. Amounts are not broken,
+nor are words that at the smallest size are not wider than their cell. Each run also plants a cut, which must be found.
 
     ZR3_TOOL       the headless program
     ZR3_TEMPLATES  the folder of the page templates
@@ -30,7 +30,7 @@ import made_claims              # noqa: E402
 import page_words               # noqa: E402
 
 SKIPPED = 77
-AT_ONCE = 24                    # claims to a start of the word processor
+AT_ONCE = 24                    # claims per start of the word processor
 
 
 def export(made, folder):
@@ -55,7 +55,7 @@ def growing_name(document):
 
 
 def plant_cut(document, planted):
-    """Takes the height of the last row with an answer's typed text."""
+    """Lowers the last row that has an answer's typed text."""
     with zipfile.ZipFile(document) as source, zipfile.ZipFile(planted, "w") as target:
         for name in source.namelist():
             data = source.read(name)
@@ -65,7 +65,7 @@ def plant_cut(document, planted):
 
 
 def faults(made, document):
-    """What is wrong with a printed claim, and what there is to count of it."""
+    """The faults of a printed claim, and its counts for the statistics."""
     printed = page_words.pages(document.with_suffix(".pdf"))
     found = page_words.hidden(printed, page_words.pages(growing_name(document).with_suffix(".pdf")))
     told = cells.Document(document)

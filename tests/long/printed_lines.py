@@ -1,12 +1,12 @@
-"""Lines that the layout counts against lines that the word processor prints, for random texts in random cells.
+"""Compares the lines counted by the layout with those printed by the word processor, for random texts and cells.
 
     printed_lines.py [--texts N] [--seed S]
 
-The texts are made of what people type into a claim: words, names, capitals, amounts, dates, references, addresses with
-line breaks, e-mail addresses, bits in another size or weight. The cells have the styles of the forms and any width. At
-most one text in 500 may be counted higher than it is printed, and none lower. An amount behind its sign is no such text:
-too wide for its cell, it is printed into the inset, on which the layout doesn't count. It may never be counted lower.
-ZR3_FIT_LINES is the program that counts.
+The texts are like those of real claims: words, names, capitals, amounts, dates, references, addresses with line breaks,
+e-mail addresses, parts in another size or weight. The cells have the styles of the forms and any width. At most one
+text in 500 may be counted with more lines than are printed, and none with fewer. An amount after a pound sign is
+excepted from the first rule: if it is too wide for its cell, it is printed into the inset, which the layout doesn't
+use. ZR3_FIT_LINES is the program that counts.
 """
 
 import argparse
@@ -33,7 +33,7 @@ SKIPPED = 77
 ONE_IN = 500
 STYLES = [look.ANSWER, look.GRID, look.DENSE_GRID, look.SCHEDULE, look.BOX, look.LONG_BOX, look.SHEET_BOX,
           look.GRAND_TOTAL, look.QUESTION]
-ANCHOR = 1300                   # twips: room for the number of a text
+ANCHOR = 1300                   # twips: space for the number of a text
 MOST_LINES = 40
 
 WORDS = """the of and to in a client counsel conference advice hearing possession disrepair landlord tenant damp mould
@@ -58,7 +58,7 @@ def postcode(random):
 
 
 def slashed(random):
-    """An address of the web, or words and numbers with slashes and hyphens."""
+    """A web address, or words and numbers with slashes and hyphens."""
     parts = [random.choice(WORDS) for _ in range(random.randint(2, 5))] + [str(random.randrange(3000))]
     random.shuffle(parts)
     start = random.choice(["", "", "www.", "https://"])
@@ -93,7 +93,7 @@ def text(random):
 
 
 def content(random):
-    """The runs of a paragraph: as a rule one, now and then more of several sizes and weights."""
+    """The runs of a paragraph: usually one, sometimes several of different sizes and weights."""
     if random.random() < 0.85:
         return (Run(text(random)),)
     return tuple(Run(text(random) + " ", size=random.choice([None, 6, 7.5, 9]), bold=random.choice([None, True, False]))
@@ -110,7 +110,7 @@ class Made(NamedTuple):
 def row(random, number):
     style = random.choice(STYLES)
     width = min(int(random.triangular(700, 6600, 1800)) + style.left + style.right, 6600)
-    if random.random() < 0.06:              # an amount behind its sign
+    if random.random() < 0.06:              # an amount after a pound sign
         paragraph = Paragraph(style, ("\u00a3\t", amount(random)), tabs=(Tab(look.RIGHT, width - style.right),))
     else:
         paragraph = Paragraph(style, content(random), align=random.choice([look.LEFT, look.LEFT, look.RIGHT, look.CENTRE]))

@@ -17,7 +17,7 @@
 
 #include <gtest/gtest.h>
 
-/// A window with the preview in it, a claim, and a scripted user.
+/// A window with the preview, a claim, and a scripted user.
 class clsPreviewTest : public testing::Test {
 protected:
     void SetUp() override
@@ -65,7 +65,7 @@ protected:
             addItem();
         makeLists();
     }
-    /// What the schedule's screen does after each of its actions.
+    /// Rebuilds the lists that the preview shows, as the schedule's screen does after each action.
     static void makeLists()
     {
         Form->RenderScheduleOfTimeItemsForExport();

@@ -1,4 +1,4 @@
-// The small kit that both previews are drawn with.
+// The functions that both previews are drawn with.
 
 #include "tests/preview/clsPreviewTest.h"
 
@@ -8,7 +8,7 @@ using Alignment = clsGridAlignment;
 
 class PreviewKit : public clsPreviewTest {
 protected:
-    /// What a cell shows that this text is written to.
+    /// The text that a cell shows.
     static QString shown(const char *text, bool money)
     {
         mdExportPreviewInit();
@@ -32,7 +32,7 @@ TEST_F(PreviewKit, WhatIsZeroIsNotShown)
     EXPECT_EQ(QStringLiteral("-0.01"), shown("-0.005", true));
     EXPECT_EQ(QString(), shown("-0.004", true));
     EXPECT_EQ(QStringLiteral("0"), shown("0", false));
-    EXPECT_EQ(QStringLiteral("0.00"), shown("0.00", false)); // a text is not looked at as money
+    EXPECT_EQ(QStringLiteral("0.00"), shown("0.00", false)); // a text is not formatted as money
     EXPECT_EQ(QStringLiteral("00:01"), shown("00:01", false));
 }
 

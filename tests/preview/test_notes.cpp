@@ -28,14 +28,14 @@ protected:
     }
 };
 
-/// The text that an element stands for: bytes of the code page, of which the samples use two signs beyond Latin 1.
+/// Decodes an element's content: bytes of the code page; the samples use two characters beyond Latin 1.
 QString decoded(QString encoded)
 {
     const QByteArray bytes = QByteArray::fromPercentEncoding(encoded.replace(u'+', u' ').toLatin1());
     return QString::fromLatin1(bytes).replace(QChar(0x92), QChar(0x2019)).replace(QChar(0x96), QChar(0x2013));
 }
 
-/// The notes of a claim by their order, read from its file without the program.
+/// The notes of a claim by their order, read from its file without the program's code.
 std::map<int, QString> notesOf(const QString &path)
 {
     std::map<int, QString> notes;
@@ -127,7 +127,7 @@ TEST_F(NotesPreview, ANoteOfManyLinesIsOneTallRow)
     addNote(QStringLiteral("one\r\ntwo\r\nthree\r\n\r\nfive"));
     addNote(QStringLiteral("short"));
     addNote(QStringLiteral("a word and another ").repeated(40));
-    addNote(QString(2000, u'x')); // without a blank
+    addNote(QString(2000, u'x')); // without a space
     draw();
     ASSERT_EQ(8, grid().Rows());
     const int line = QFontMetrics(grid().CellFont(true, false)).height();
@@ -138,7 +138,7 @@ TEST_F(NotesPreview, ANoteOfManyLinesIsOneTallRow)
     EXPECT_GT(grid().RowHeight(8), 8 * line);
     EXPECT_EQ(grid().RowHeight(6), grid().rowHeight(5));
 
-    // The lines are drawn inside the row, to its foot.
+    // The lines are drawn inside the row, down to its bottom edge.
     const QImage picture = grid().viewport()->grab().toImage();
     const int left = grid().ColumnWidth(1);
     const int foot = grid().rowViewportPosition(1) + grid().RowHeight(2);
@@ -182,5 +182,5 @@ TEST_F(NotesPreview, ItsRoutinesSwitchPainting)
     mdExportPreviewAdditionalInformationDraw(*Form);
     mdExportPreviewAdditionalInformationDeInit();
     EXPECT_TRUE(grid().updatesEnabled());
-    EXPECT_EQ(0, grid().Rows()); // the list of the export was not made
+    EXPECT_EQ(0, grid().Rows()); // the export's list does not exist yet
 }

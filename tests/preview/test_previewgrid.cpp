@@ -1,4 +1,4 @@
-// The grid of the preview: what it holds, what is in view, and what it answers to.
+// The grid of the preview: its content, scrolling and keys.
 
 #include "controls/mdTheme.h"
 #include "tests/preview/clsPreviewTest.h"
@@ -35,7 +35,7 @@ TEST_F(PreviewGridControl, PlacesOutsideItAreTheSubscriptError)
             errorOf([&] { grid().SetCell(place.first, place.second, QString(), Alignment::Left); }));
         EXPECT_EQ(clsRunTimeError::SubscriptOutOfRange, errorOf([&] { grid().Text(place.first, place.second); }));
     }
-    EXPECT_TRUE(grid().updatesEnabled()); // an error leaves painting on
+    EXPECT_TRUE(grid().updatesEnabled()); // an error leaves painting enabled
     EXPECT_EQ(QStringLiteral("x"), grid().Text(1, 1));
 }
 
@@ -88,7 +88,7 @@ TEST_F(PreviewGridControl, RowsInViewAndBringingIntoView)
     EXPECT_GT(last, 20);
     EXPECT_LT(last, 60);
 
-    grid().BringIntoView(5, 1); // in view already
+    grid().BringIntoView(5, 1); // already in view
     EXPECT_EQ(0, bar().value());
     grid().BringIntoView(300, 1);
     EXPECT_EQ(300, grid().LastRowInView());
@@ -131,7 +131,7 @@ TEST_F(PreviewGridControl, KeysScrollIt)
     EXPECT_EQ(0, bar().value());
     const int last = grid().LastRowInView();
     QTest::keyClick(&grid(), Qt::Key_PageDown);
-    EXPECT_LE(grid().FirstRowInView(), last); // nothing is skipped
+    EXPECT_LE(grid().FirstRowInView(), last); // no row is skipped
     EXPECT_GT(grid().FirstRowInView(), last - 6);
     QTest::keyClick(&grid(), Qt::Key_PageUp);
     EXPECT_EQ(0, bar().value());
@@ -251,7 +251,7 @@ TEST_F(PreviewGridControl, EachLineBetweenTheRowsIsOneDotThickAtAScaleOfOneAndAQ
 
 namespace {
 
-/// The preview in a large font of the desktop, on a small screen.
+/// The preview with a large desktop font, on a small screen.
 class PreviewInALargeFont : public PreviewGridControl {
 protected:
     void SetUp() override
@@ -284,7 +284,7 @@ TEST_F(PreviewInALargeFont, TheWordOverTheColumnsIsNotBroken)
     fill(1);
     EXPECT_EQ(QStringLiteral("ration"), grid().Text(1, 6));
     EXPECT_EQ(grid().RowHeight(5), grid().RowHeight(1)) << "a line, as an item has";
-    // It runs on over the next column, which is empty there.
+    // The text continues over the next column, which is empty there.
     const QFontMetrics metrics(grid().CellFont(true, false));
     const int beyond = metrics.horizontalAdvance(QStringLiteral("ration")) - grid().ColumnWidth(6);
     ASSERT_GT(beyond, 3) << "it has to be wider than its column for this test to tell anything";
@@ -309,7 +309,7 @@ TEST_F(PreviewInALargeFont, FiguresAndCaptionsAreWrittenSmallerBeforeAnythingIsC
     for (int row = 1; row <= grid().Rows(); ++row)
         for (int column = 1; column <= grid().Columns(); ++column)
             EXPECT_EQ(QString(), grid().ToolTipAt(cell(row, column).center())) << row << ' ' << column;
-    // "Code" in bold letters of the desktop's size would run into the captions beside it.
+    // "Code" in bold at the desktop's size would overlap the adjacent captions.
     const QImage picture = grid().viewport()->grab().toImage();
     const QRect code = cell(3, 4);
     for (int y = code.top(); y <= code.bottom(); ++y)
@@ -342,7 +342,7 @@ TEST_F(PreviewGridControl, TheSheetIsCentredAndOfLimitedWidth)
     EXPECT_EQ(sheet->height(), grid().geometry().bottom() + 1);
     grid().clearFocus();
     const QImage picture = sheet->grab().toImage();
-    // All around but for the foot, where the sheet runs on below the edge.
+    // On all sides except the bottom, where the sheet continues below the edge.
     const QRect frame = grid().geometry().adjusted(-2, -2, 2, 0);
     const int right = frame.right();
     for (const QPoint place : {QPoint(frame.left(), 300), QPoint(right, 300), QPoint(600, frame.top())})
@@ -370,7 +370,7 @@ TEST_F(PreviewGridControl, ALargerFontMakesHigherRows)
     QCoreApplication::processEvents();
     EXPECT_GT(grid().rowHeight(4), item * 3 / 2);
     EXPECT_EQ(10, grid().rowHeight(3));
-    mdDrawPreview(clsPreviewKind::ScheduleOfTime); // captions may take a second line, but no word is broken
+    mdDrawPreview(clsPreviewKind::ScheduleOfTime); // captions may wrap to a second line, but no word is split
     EXPECT_LE(grid().RowHeight(3), 2 * grid().RowHeight(5));
     QApplication::setFont(before);
     QCoreApplication::processEvents();
@@ -381,7 +381,7 @@ TEST_F(PreviewGridControl, PaintsOnlyTheRowsInView)
 {
     fill(2000);
     ASSERT_EQ(4007, grid().Rows());
-    // The last rows come from the end of the list, and nothing above them is walked through: the bar says where.
+    // The last rows are found from the end of the list, without going through those above: the progress shows it.
     grid().BringIntoView(4007, 1);
     EXPECT_EQ(4007, grid().LastRowInView());
     EXPECT_EQ(QStringLiteral("2000"), grid().Text(4003, 1));

@@ -1,4 +1,4 @@
-// When the preview is redrawn, and from where.
+// When the preview is redrawn, and at which scroll position.
 
 #include "base/mdGetResourceData.h"
 #include "base/mdProgramFolder.h"
@@ -29,7 +29,7 @@ protected:
             GetResourceData(QStringLiteral("xmlZR3PreferencesDatabase"), QStringLiteral("VELMORZR3XML")).toLatin1());
         file.close();
         SetProgramFolder(folder.path());
-        qputenv("HOME", QFile::encodeName(folder.path())); // the registry of each test is its own
+        qputenv("HOME", QFile::encodeName(folder.path())); // each test has its own registry
         Preferences = std::make_unique<clsZR3PreferencesDatabase>();
         Preferences->AutoRefreshPreview = true;
     }
@@ -60,7 +60,7 @@ TEST_F(PreviewRefresh, WithoutThePreferenceTheOldPreviewStands)
     addItems(1);
     mdRefreshPreview(Schedule);
     EXPECT_EQ(11, grid().Rows());
-    mdDrawPreview(Schedule); // the menu redraws all the same
+    mdDrawPreview(Schedule); // choosing it in the menu still redraws it
     EXPECT_EQ(13, grid().Rows());
     Preferences->AutoRefreshPreview = true;
     addItems(1);
@@ -103,7 +103,7 @@ TEST_F(PreviewRefresh, ARememberedRowBeyondTheLastIsIgnored)
     mdDrawPreview(Schedule);
     bar().setValue(bar().maximum());
     leaveItems(3);
-    mdRefreshPreview(Schedule); // neither row is left
+    mdRefreshPreview(Schedule); // neither row exists any more
     EXPECT_EQ(13, grid().Rows());
     EXPECT_EQ(0, bar().value());
 
@@ -112,7 +112,7 @@ TEST_F(PreviewRefresh, ARememberedRowBeyondTheLastIsIgnored)
     bar().setValue(bar().maximum());
     const int first = grid().FirstRowInView();
     ASSERT_LT(first, 600);
-    leaveItems((first - 3) / 2 + 1); // the first row is left, the last is not
+    leaveItems((first - 3) / 2 + 1); // the first row still exists, the last does not
     mdRefreshPreview(Schedule);
     EXPECT_LE(grid().FirstRowInView(), first);
     EXPECT_GE(grid().LastRowInView(), first);
@@ -197,7 +197,7 @@ TEST_F(PreviewRefresh, TheFocusOfTheMenuBarGoesBackToWhatHadIt)
     mdDrawPreview(Schedule);
     EXPECT_TRUE(box->hasFocus());
     EXPECT_FALSE(bar->activeAction()) << "no entry stays chosen";
-    // It may have come by it in another way, and then knows of nobody.
+    // If the bar got the focus in another way, it doesn't know the previous widget.
     bar->setFocus();
     mdDrawPreview(Schedule);
     EXPECT_TRUE(first->hasFocus());

@@ -26,8 +26,8 @@ protected:
         mdDrawPreview(clsPreviewKind::ScheduleOfTime);
     }
     static QStringList emptyRow() { return QStringList(QList<QString>(13)); }
-    /// Two groups at 60 with a fee earner each, and items of 1, 2 and 3 hours, of which the second is documents and the
-    /// second fee earner's.
+    /// Two groups at 60 with a fee earner each, and items of 1, 2 and 3 hours, the second of which is documents and by
+    /// the second fee earner.
     static void SetUpClaim()
     {
         Form = std::make_unique<clsZR3Form>();
@@ -45,8 +45,8 @@ protected:
     }
 };
 
-/// The rows of the schedule that a sample must show, from what its export was worked out to type: there every figure is
-/// typed, and what is zero shows here as nothing.
+/// The rows that the schedule of a sample must show, from the expected texts of its export, which include every figure;
+/// zero is shown as an empty cell here.
 class clsExpectedSchedule {
 public:
     std::vector<QStringList> items;
@@ -187,7 +187,7 @@ TEST_F(SchedulePreview, TheSplitWordReadsAcrossTheLineBetweenItsColumns)
                 return true;
         return false;
     };
-    // No more than the space between two letters on either side.
+    // At most the gap between two letters on either side.
     EXPECT_TRUE(inked(line - 1) || inked(line - 2) || inked(line - 3));
     EXPECT_TRUE(inked(line) || inked(line + 1) || inked(line + 2));
     EXPECT_FALSE(inked(line - 60));
@@ -202,7 +202,7 @@ TEST_F(SchedulePreview, WithoutItemsEveryTotalIsEmpty)
     EXPECT_EQ(QStringLiteral("FE"), grid().Text(3, 2));
     for (int row = 4; row <= 7; ++row)
         EXPECT_EQ(emptyRow(), rowTexts(row));
-    EXPECT_EQ(grid().RowHeight(3), grid().RowHeight(5)); // the rows of the totals stand all the same
+    EXPECT_EQ(grid().RowHeight(3), grid().RowHeight(5)); // the rows of the totals are still there
     EXPECT_EQ(grid().RowHeight(3), grid().RowHeight(7));
     EXPECT_TRUE(user.progress.empty());
     EXPECT_EQ(1, user.progressCleared);
@@ -275,7 +275,7 @@ TEST_F(SchedulePreview, ShowsTheListsAsTheyWereLastMade)
     Form->ScheduleOfTimeItem(2)->Advocacy = true;
     draw();
     ASSERT_EQ(13, grid().Rows());
-    // Neither of these makes the lists anew.
+    // Neither of these updates the lists.
     Form->FormType = QStringLiteral("Claim1A");
     Form->ExcludeNonAdvocacy = true;
     mdDrawPreview(clsPreviewKind::ScheduleOfTime);
@@ -338,7 +338,7 @@ TEST_F(SchedulePreview, ReportsItsProgressInThisWindowOnly)
         EXPECT_EQ(QStringLiteral("Drawing"), text);
         enabled = enabled && window.isEnabled();
         EXPECT_FALSE(grid().updatesEnabled());
-        mdDrawPreview(clsPreviewKind::AdditionalInformation); // an event that the bar let through
+        mdDrawPreview(clsPreviewKind::AdditionalInformation); // an event handled while progress is shown
     };
     draw();
     EXPECT_EQ(3, calls);
@@ -357,7 +357,7 @@ TEST_F(SchedulePreview, AnErrorLeavesTheWindowUsable)
     EXPECT_TRUE(grid().updatesEnabled());
     EXPECT_TRUE(window.isEnabled());
     Form = std::make_unique<clsZR3Form>();
-    draw(); // and the next drawing is whole
+    draw(); // the next drawing is complete
     EXPECT_EQ(7, grid().Rows());
 }
 
@@ -365,7 +365,7 @@ TEST_F(SchedulePreview, AnErrorLeavesTheWindowUsable)
 
 namespace {
 
-/// The columns of a row whose figures can't be computed, with the reason that they share.
+/// The columns of a row that can't be computed, with their common reason.
 struct clsFailedRow {
     QList<int> columns;
     QString why;
@@ -441,7 +441,7 @@ TEST_F(FailedFigures, OfAnItemAreMarkedAndAllOthersAreThere)
         EXPECT_EQ(QStringLiteral("180.00"), grid().Text(FirstItemRow + 4, 13)) << "the item behind it";
         EXPECT_FALSE(sheet->grab().isNull());
         SetUpClaim();
-        draw(); // once it is mended nothing is left of it
+        draw(); // after the correction the error is gone
         for (int line = 1; line <= grid().Rows(); ++line)
             expectFailed(line, {}, "");
     }
@@ -467,7 +467,7 @@ TEST_F(FailedFigures, OfTheTotalsAreThoseWithAPartThatFails)
         "Schedule item 3 has the time \"90\", which is not one; "
         "Schedule item 2 names a fee earner that no longer exists");
 
-    // Of which column an item is decides on all of them.
+    // An item's column affects all columns.
     Form->ScheduleOfTimeItem(1)->XMLNode().child("waiting").text().set("perhaps");
     draw();
     const char *tick = "Schedule item 1: the tick Waiting holds \"perhaps\", which is neither True nor False";
@@ -548,5 +548,5 @@ TEST_F(SchedulePreview, TwoThousandItems)
     std::vector<int> told;
     for (const auto &progress : user.progress)
         told.push_back(progress.value);
-    EXPECT_EQ((std::vector {1, 600, 1200, 1800}), told); // thinned for a long list
+    EXPECT_EQ((std::vector {1, 600, 1200, 1800}), told); // fewer reports for a long list
 }

@@ -5,18 +5,18 @@
 #include <iterator>
 #include <random>
 
-/// The one source of chance: the same seed throws the same dice, on every machine.
+/// The only source of randomness: the same seed gives the same numbers on every machine.
 class clsDice {
 public:
     explicit clsDice(quint64 seed)
         : m_engine(seed)
     { }
 
-    /// From 0 up to, but not including, the number of sides.
+    /// A number from 0 up to, but not including, the number of sides.
     int below(int sides) { return sides > 0 ? int(m_engine() % quint64(sides)) : 0; }
     int from(int least, int most) { return least + below(most - least + 1); }
     bool chance(int percent) { return below(100) < percent; }
-    /// One of a list that isn't empty.
+    /// A random element of a list that isn't empty.
     template <class List> decltype(auto) oneOf(List &&list) { return list[size_t(below(int(std::size(list))))]; }
 
 private:

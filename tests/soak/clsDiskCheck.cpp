@@ -13,8 +13,8 @@
 
 namespace {
 
-/// The report of a claim's figures, a line each. Without the printed numbers of the schedule's items: they stand in no
-/// file, and each drawing and each export gives them anew.
+/// The report of a claim's figures, one per line, without the printed numbers of the schedule's items: these are not
+/// saved, and are set again by each drawing and export.
 QList<QByteArray> figuresOf(const clsZR3Form &form)
 {
     QList<QByteArray> lines = mdTotalsReport(form).json.split('\n');
@@ -22,8 +22,8 @@ QList<QByteArray> figuresOf(const clsZR3Form &form)
     return lines;
 }
 
-/// The same of the claim that is being written. Totalling writes 0 into an empty VAT of an advocacy item, which is
-/// meant, but between a claim's text and its file it would be a change that nobody made.
+/// The same for the claim that is being written. Totalling writes 0 to an empty VAT of an advocacy item, which is
+/// required behaviour, but here it would make a difference between the claim and its file.
 QList<QByteArray> figuresWhileWriting(const clsZR3Form &form)
 {
     std::vector<std::shared_ptr<clsZR3FASItem>> empty;

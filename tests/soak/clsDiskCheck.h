@@ -6,8 +6,8 @@
 
 #include <vector>
 
-/// Looks at what the program has written: each saved claim must load to the same text and the same figures that it had
-/// when it was saved, and each exported document must be sound and without a placeholder.
+/// Checks what the program writes: each saved claim must load with the same text and figures that it had when it was
+/// saved, and each exported document must be sound and without placeholders.
 class clsDiskCheck {
 public:
     clsDiskCheck() = default;
@@ -15,11 +15,11 @@ public:
     clsDiskCheck(const clsDiskCheck &) = delete;
     clsDiskCheck &operator=(const clsDiskCheck &) = delete;
 
-    /// Looks from now on.
+    /// Starts checking.
     void begin();
-    /// To be told when an export has told the user that it is complete.
+    /// Call when the user has been told that an export is complete.
     void exported();
-    /// What is wrong with what was written since the last call; empty where nothing is.
+    /// The problems with what was written since the last call; empty if there are none.
     QString whatIsWrong();
 
     int saves() const { return m_saves; }
@@ -32,7 +32,7 @@ private:
         QList<QByteArray> figures;
     };
 
-    /// The claim as it stands while it is being written: the action that saved it may go on to the next claim.
+    /// Keeps the claim as it is while it is being written: the action that saved it may open the next claim.
     void aboutToWrite(const QString &path);
 
     static QString wrongWith(const clsSaved &saved);

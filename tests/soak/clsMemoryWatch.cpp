@@ -8,7 +8,7 @@
 #include <malloc.h>
 
 #if defined(__SANITIZE_ADDRESS__)
-// Not every compiler brings the header of it.
+// Not every compiler has the header for this.
 extern "C" size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
@@ -17,8 +17,8 @@ namespace {
 constexpr size_t WarmUp = 5;
 constexpr size_t FewestAfterIt = 9;
 
-/// What the caches of glyphs, pictures and fonts may still gain behind the warm-up: they fill with what a random walk
-/// happens to show, and have an upper limit. A font that is needed late, for one odd letter, takes one of the two.
+/// The caches of glyphs, pictures and fonts may still grow by this much after the warm-up: they depend on what a random
+/// run shows, and are limited. A font needed late, for one unusual letter, takes half of this.
 constexpr qint64 HeapBound = 2 * 1024 * 1024;
 /// Objects are counted exactly.
 constexpr qint64 ObjectBound = 0;

@@ -4,24 +4,24 @@
 
 #include <vector>
 
-/// The memory at the moments at which the program is at rest: an empty new claim, and every screen closed. What was
-/// used in between must have been given back by then.
+/// The memory used while the program is at rest: an empty new claim, and all screens closed. Everything used in between
+/// must have been released by then.
 ///
-/// The rule: the first rest points are the warm-up, in which fonts, pictures and dictionaries are read once. Of those
-/// behind them, the lowest figure of the last third may not lie above the highest of the first third by more than a
-/// bound. A leak that grows lifts every later figure and with it the lowest; a cache that fills and empties does not.
+/// The rule: the first rest points are the warm-up, in which fonts, pictures and dictionaries are loaded once. After
+/// that, the lowest figure of the last third must not exceed the highest of the first third by more than a bound. A
+/// growing leak raises all later figures and so the lowest; a cache that fills and empties does not.
 class clsMemoryWatch {
 public:
     struct clsPoint {
         int action;
         qint64 heap; ///< bytes in use
-        qint64 objects; ///< of the toolkit, below the application and its windows
-        qint64 windows; ///< of the top
+        qint64 objects; ///< of Qt, below the application and its windows
+        qint64 windows; ///< top-level ones
     };
 
     /// Measures now.
     void take(int action);
-    /// What grows, in words; empty where nothing does, and where there are too few points to tell.
+    /// A description of what grows; empty if nothing does, or if there are too few points to tell.
     QString whatGrows() const;
     const std::vector<clsPoint> &points() const { return m_points; }
 

@@ -25,11 +25,11 @@
 
 namespace {
 
-/// An action that takes longer counts as hung. A large claim under the sanitizers on a busy machine takes its time.
+/// An action that takes longer counts as hung. A large claim with sanitizers on a busy machine is slow.
 constexpr unsigned SecondsOfAnAction = 300;
 constexpr qint64 MillisecondsForTheKeys = 20000;
 constexpr int AnswersOfABox = 12;
-/// Often enough for a trend, also in a short walk, and seldom enough for a claim to become something in between.
+/// Often enough for a trend even in a short run, and rarely enough for a claim to grow in between.
 constexpr int Rests = 15;
 constexpr int FewestBetweenRests = 50;
 constexpr int MostBetweenRests = 200;
@@ -56,7 +56,7 @@ int clsSoak::run()
         std::fprintf(stderr, "No temporary folder can be made.\n");
         return 2;
     }
-    // Another word processor on the tester's machine is no business of the soak.
+    // Another word processor on the tester's machine must not affect the soak.
     const clsProcessListScope noProcesses([] { return QStringList(); });
     m_claims = mdMakeSoakFolder(m_folder.path(), m_dice, m_options.samplesOnly);
     m_disk.begin();
@@ -74,7 +74,7 @@ void clsSoak::fail(const QString &what)
         application->end(1);
 }
 
-/// From the start of the program to its end.
+/// One life of the program, from its start to its end.
 void clsSoak::live()
 {
     ++m_lives;
@@ -106,7 +106,7 @@ void clsSoak::live()
                                      footer->showProgress(value, maximum, text);
                                  },
             [footer = window->footer()] { footer->clearProgress(); }});
-        // Claims that the program refuses, or warns of, bring a box up before the window.
+        // Claims that the program refuses or warns about show a box before the window.
         QTimer::singleShot(1, &application, [this] { turn(); });
         window->Load(claim);
         window->setWindowState(Qt::WindowNoState);
@@ -123,12 +123,12 @@ void clsSoak::live()
     Preferences.reset();
 }
 
-/// The next action, as soon as there is room for it: this comes with each turn of each loop of events.
+/// Takes the next action as soon as possible; called in each iteration of each event loop.
 void clsSoak::turn()
 {
     if (oApplication::ending())
         return;
-    // Not at once: everything that the last action has left to be done comes first.
+    // Not immediately: pending work of the last action comes first.
     QTimer::singleShot(1, qApp, [this] { turn(); });
     if (!isFree() || waitsForKeys())
         return;
@@ -139,8 +139,8 @@ void clsSoak::turn()
         oApplication::instance()->end(1);
 }
 
-/// Events go on between two keys of an action, which may not be overtaken by the next one. What it opens with a loop of
-/// its own is the place of the next.
+/// Events are handled between two keys of an action; the next action must wait for its end, unless the action has
+/// opened a nested event loop.
 bool clsSoak::isFree() const
 {
     if (!m_loops.empty() && QThread::currentThread()->loopLevel() <= m_loops.back())
@@ -162,7 +162,7 @@ bool clsSoak::waitsForKeys()
     return true;
 }
 
-/// What must hold after every action.
+/// Checks what must hold after every action.
 void clsSoak::check()
 {
     QString wrong;
@@ -214,7 +214,7 @@ void clsSoak::takeAction(QWidget &front)
     fail(QStringLiteral("nothing can be done on ") + mdNameOf(front));
 }
 
-/// Closes whatever is open without keeping anything, begins a new claim and measures.
+/// Closes everything without saving, starts a new claim and measures.
 void clsSoak::comeToRest(QWidget &front)
 {
     if (++m_triesToRest > TriesToRest)
@@ -234,7 +234,7 @@ void clsSoak::comeToRest(QWidget &front)
 
 void clsSoak::leaveBox(const QWidget &front)
 {
-    // Nothing is saved on the way, and every editor is left.
+    // Answers No to saving, and leaves every editor.
     const bool asksToSave = front.windowTitle() == QLatin1String("Save?");
     auto *button = front.findChild<QWidget *>(QLatin1String(asksToSave ? "cmdNo" : "cmdYes"));
     if (!button || !Hands::click(*button))
@@ -243,7 +243,7 @@ void clsSoak::leaveBox(const QWidget &front)
 
 void clsSoak::beginAnew()
 {
-    // A time that doesn't fit would hold its user in the status line.
+    // An invalid time would keep the focus in the status bar.
     if (m_triesToRest % 8 == 7) {
         Hands::key(Qt::Key_A, Qt::ControlModifier);
         Hands::type(QStringLiteral("0:00"));
@@ -260,8 +260,8 @@ void clsSoak::measure(QWidget &window)
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
-    // The dictionary, which the first box with a text reads, is a large part of all: it counts at every rest or at
-    // none.
+    // The dictionary, which is loaded for the first box with a text, takes much of the memory: load it now, so that it
+    // counts at every rest.
     SpellingChecker().IsAvailable();
     m_memory.take(m_trail.actions());
     const clsMemoryWatch::clsPoint &point = m_memory.points().back();

@@ -20,19 +20,19 @@ class frmMain;
 struct clsSoakOptions {
     quint64 seed = 1;
     int actions = 1000;
-    bool samplesOnly = false; ///< no random claims, and no broken one
+    bool samplesOnly = false; ///< no random claims and no broken one
     bool tellsAll = false;
 };
 
-/// A user who does at random whatever can be done with the program's windows, one action after the other, while
-/// everything that must always hold is looked at after each of them. He starts the program again where he has ended it.
+/// A user who does random things in the program's windows, one action after the other; after each, everything that must
+/// always hold is checked. If an action ends the program, it is started again.
 class clsSoak {
 public:
     explicit clsSoak(const clsSoakOptions &options);
 
-    /// Takes all actions; the status of the process.
+    /// Performs all actions; returns the exit status of the process.
     int run();
-    /// Something that must not happen has happened: the first of it ends the soak.
+    /// Reports something that must not happen; the first report ends the soak.
     void fail(const QString &what);
     const clsTrail &trail() const { return m_trail; }
 
@@ -60,7 +60,7 @@ private:
     clsDiskCheck m_disk;
     QStringList m_claims;
     std::vector<int>
-        m_loops; ///< of each action that has not returned: the depth of the loop of events that it began in
+        m_loops; ///< for each action that has not returned, the level of the event loop in which it started
     std::map<QString, int> m_boxes;
     std::map<QString, int> m_allowed;
     QElapsedTimer m_waiting;

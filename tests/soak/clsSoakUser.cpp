@@ -4,7 +4,7 @@
 
 namespace {
 
-/// Names that a claim is saved under; a second save to one of them asks about the overwriting.
+/// Names to save a claim under; saving to one a second time asks about overwriting.
 const char16_t *const Names[] = {u"one.zr3", u"two.zr3", u"with blanks.zr3", u"quote's \"name\".zr3", u"100% #1.zr3",
     u"Ünïcode é.zr3", u"日本.zr3", u"no extension", u"UPPER.ZR3", u"a&b+c.zr3"};
 

@@ -10,9 +10,8 @@
 
 class clsDice;
 
-/// The user's eyes and ears: boxes come up as they do for everyone, and are answered by keys and clicks like any other
-/// window. Only the choice of files and folders is thrown by the dice, and nothing outside the soak's folder is
-/// touched.
+/// The user interface of the soak: boxes are shown as usual, and answered by keys and clicks like any other window.
+/// Only files and folders are chosen at random, and nothing outside the soak's folder is touched.
 class clsSoakUser final : public clsUserInterface {
 public:
     clsSoakUser(clsDice &dice, const QString &folder);
@@ -24,11 +23,11 @@ public:
 
     /// The claims that can be opened.
     QStringList claims;
-    /// The boxes that were shown, by their titles.
+    /// The number of boxes shown, by title.
     std::map<QString, int> boxes;
-    /// Told of each message of the program's own kind before it is shown.
+    /// Called before each of the program's own messages is shown.
     std::function<void(const QString &title)> onMessage;
-    /// Told of a run-time error that nothing has caught; its box is not shown.
+    /// Called for an uncaught run-time error; its box is not shown.
     std::function<void(const QString &text)> onRunTimeError;
 
     Answer customMessage(const QString &message, const QString &title, Buttons buttons, int icon, int timeout) override;

@@ -5,14 +5,14 @@
 #include <deque>
 #include <map>
 
-/// What was done, in words: counted by kind, and the last of it kept for whoever has to find out why it went wrong.
+/// The trail of actions: counted by kind, with the last ones kept for finding the cause of a failure.
 class clsTrail {
 public:
     explicit clsTrail(bool tellsAll)
         : m_tellsAll(tellsAll)
     { }
 
-    /// To be said before an action, so that the one that ends the program is known too.
+    /// Call before an action, so that one that ends the program is known too.
     void say(const char *kind, const QString &words);
     /// Something between the actions, which is not counted.
     void note(const QString &words);

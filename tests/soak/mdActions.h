@@ -8,23 +8,23 @@ class QWidget;
 class clsDice;
 class clsTrail;
 
-/// Where the user is, and what decides on what is done there.
+/// The user's situation, which determines what can be done.
 struct clsScene {
     QWidget &front; ///< the window, box or popup in front
     clsDice &dice;
     clsTrail &trail;
 };
 
-/// One kind of action: how often it comes, and what it does. It says in words what it is about to do before it does it,
-/// and is false, with nothing said or done, where the window has nothing to do it on.
+/// A kind of action: its frequency, and its function. The function describes in the trail what it is about to do; it
+/// returns false, having done nothing, if the window offers nothing to do it on.
 struct clsSoakAction {
     const char *kind;
     int weight;
     bool (*act)(clsScene &scene);
 };
 
-/// What a user can do with the window in front.
+/// The possible actions on the window in front.
 std::span<const clsSoakAction> mdActionsFor(const QWidget &front);
 
-/// What a widget is called in the trail.
+/// A widget's name in the trail.
 QString mdNameOf(const QWidget &widget);

@@ -8,14 +8,14 @@ namespace {
 
 struct clsAllowed {
     const char *begins; ///< of the message
-    const char *figure; ///< of the claim's own report that must have failed the same way
+    const char *figure; ///< in the claim's report, for the figure that must have failed too
     const char *why;
 };
 
 constexpr clsAllowed Allowed[] = {
-    // A figure that can't be computed is never passed over: an export ends with the error, and the claim is set aside;
-    // previews and lists mark it. It takes amounts beyond nine hundred million million pounds, which the soak types now
-    // and then.
+    // A figure that can't be computed is always reported: an export ends with the error, and the claim is set aside;
+    // previews and lists mark it. This takes amounts beyond nine hundred million million pounds, which the soak
+    // sometimes types.
     {"Run-time error '6'", "\"!6\"", "a figure of the claim is larger than money can be"},
 };
 

@@ -2,6 +2,6 @@
 
 #include <QString>
 
-/// Why a run-time error that has ended the program is no mistake of it, by what the claim says; empty where nothing
-/// explains it. The few that there are stand in one table, each with its reason.
+/// The reason why a run-time error that ended the program was correct, according to the claim's figures; empty if there
+/// is none. The few cases are in one table, each with its reason.
 QString mdWhyAllowed(const QString &message);

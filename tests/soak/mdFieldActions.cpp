@@ -24,10 +24,10 @@
 
 namespace {
 
-/// A list is not made longer than this by hand: what a large one does is seen with the large claims.
+/// Lists are not made longer than this by hand: the large claims test large lists.
 constexpr int LongestList = 60;
 
-/// One of the widgets of a class that the user sees and can use; nothing where there is none.
+/// One of the visible and enabled widgets of a class; null if there is none.
 template <class Widget, class Fits> Widget *some(const clsScene &scene, Fits fits)
 {
     std::vector<Widget *> found;
@@ -44,7 +44,7 @@ bool isTypedInto(const QWidget &widget)
     return (line && !line->isReadOnly()) || (text && !text->isReadOnly());
 }
 
-/// The kind of the row that a widget is a part of; a text where no table knows it.
+/// The kind of a widget's row; a text if no table has it.
 clsRowKind kindOf(const QWidget &widget)
 {
     if (const auto *screen = qobject_cast<const frmSection *>(widget.window()))
@@ -54,7 +54,7 @@ clsRowKind kindOf(const QWidget &widget)
     return widget.objectName() == QLatin1String("txtText") ? clsRowKind::Time : clsRowKind::Text;
 }
 
-/// To a field as a user goes there: by a click where it is seen, else by the Tab key, which also scrolls to it.
+/// Goes to a field like a user: by a click if it is visible, otherwise by the Tab key, which also scrolls to it.
 bool goTo(QWidget &field)
 {
     if (field.hasFocus() || Hands::click(field))
@@ -63,8 +63,8 @@ bool goTo(QWidget &field)
     return field.hasFocus();
 }
 
-/// The digits that were typed in a grid mean a row once there has been a pause. It is waited for, so that what comes
-/// next does not depend on how fast the machine is.
+/// Digits typed in a grid count as a row number only after a pause. Waiting for it here makes the next action
+/// independent of the machine's speed.
 void waitForTypedNumber(const oSGrid &grid)
 {
     for (const QTimer *timer : grid.findChildren<QTimer *>(QString(), Qt::FindDirectChildrenOnly))

@@ -2,7 +2,7 @@
 
 struct clsScene;
 
-// What a user does with the fields of a window, found by their kinds: whatever screen it is, and whatever is on it.
+// The user's actions on the fields of any window, found by their kinds.
 
 bool mdTypeIntoField(clsScene &scene);
 bool mdUseList(clsScene &scene);

@@ -6,27 +6,27 @@
 
 class QWidget;
 
-/// The hands of the user: keys go to the window that has them, clicks to what is seen. All of it takes the road of real
-/// input through the window system's side of the toolkit, so that a modal window, a popup or a box that holds its user
-/// is in the way as it would be on a desk.
+/// The user's input: keys go to the focused window, clicks to what is visible. It all goes through Qt's window-system
+/// interface like real input, so that a modal window, a popup or a box that holds the focus blocks it as it would on a
+/// desktop.
 namespace Hands {
 
-/// The popup, the modal window or the main window that is in front; nothing while there is none.
+/// The popup, the modal window or the main window in front; null if there is none.
 QWidget *front();
-/// Whether the window in front has the keys; asks for them where it has not, since this platform has no window manager.
+/// Whether the window in front has the focus; requests it otherwise, since this platform has no window manager.
 bool ready();
 
 void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-/// Types letters of the keyboard one by one. Longer texts, and whatever has no key, are pasted.
+/// Types letters of the keyboard one by one. Longer texts, and characters without a key, are pasted.
 void type(const QString &text);
 
-/// Whether the point of a widget can be seen and so clicked.
+/// Whether a point of a widget is visible and can be clicked.
 bool canClick(const QWidget &widget, const QPoint &at);
-/// A click in the middle of what is seen of a widget; false where nothing is.
+/// Clicks the middle of a widget's visible part; false if there is none.
 bool click(QWidget &widget, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 void clickAt(QWidget &widget, const QPoint &at, Qt::MouseButton button = Qt::LeftButton,
     Qt::KeyboardModifiers modifiers = Qt::NoModifier, bool twice = false);
-/// Turns the wheel over a widget; upwards where positive.
+/// Turns the wheel over a widget; upwards if positive.
 void wheel(QWidget &widget, int notches, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
 } // namespace Hands

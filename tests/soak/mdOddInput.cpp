@@ -14,7 +14,7 @@ QString text(const char16_t *letters)
 const char *const Words[] = {"attended", "client", "on", "hearing", "the", "Smith", "v", "council", "letter", "pc",
     "disrepair", "of", "damp", "flat", "instructing", "expert", "report", "recieved", "bundle", "2", "hours", "ct"};
 
-// No letters between braces: those would be looked for as a placeholder that an export has left.
+// No letters between braces: these would look like placeholders left by an export.
 const char16_t *const OddTexts[] = {u"", u" ", u"  two  blanks ", u"&", u"<b>&amp;</b>", u"%41%", u"a+b=c%2B", u"\"'`",
     u"£1,000.50", u"€ – “quoted”", u"é à ü ñ ß", u"日本語", u"عربى", u"e\u0301\u0302\u0303", u"\U0001F600",
     u"tab\there", u"line\nbreak", u"line\r\nbreak\r\n", u"\u2028", u"\u00A0", u"\u0001\u0007", u"ID1", u"True", u"{",

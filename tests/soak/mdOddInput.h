@@ -6,8 +6,8 @@
 
 class clsDice;
 
-/// What a user might enter in a field of a kind: mostly what fits, now and then what is odd, far too long or wrong.
+/// Something that a user might enter in a field of this kind: usually valid, sometimes odd, far too long or wrong.
 QString mdOddInput(clsDice &dice, clsRowKind kind);
 
-/// The same, but always what the box of the kind would leave in the claim.
+/// The same, but always a value that the box would store unchanged.
 QString mdFittingInput(clsDice &dice, clsRowKind kind);

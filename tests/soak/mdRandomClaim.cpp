@@ -18,12 +18,12 @@ constexpr clsScreenFunction Sections[] = {ScreenFormSetup, ScreenClientDetails, 
     ScreenActualCostsIncurred, ScreenDetailsOfWork, ScreenCounselOutstandingClaims, ScreenDetailsOfMonies,
     ScreenDetailsOfCostsAwarded, ScreenDebtorsDetails, ScreenDisbursements, ScreenCommunications};
 
-/// An item list: its editor, and how many there are at most; 0 for as many as the claim is asked to have.
+/// An item list: its editor, and its maximum number of items; 0 for the number requested for the claim.
 struct clsItems {
     clsScreenFunction editor;
     int most;
 };
-// What others point at comes first.
+// Items to which others refer come first.
 constexpr clsItems Items[] = {{ScreenFeeEarnerGroupEdit, 5}, {ScreenFeeEarnerEdit, 15}, {ScreenCounselEdit, 6},
     {ScreenEnhancementEdit, 4}, {ScreenScheduleOfTimeItemEdit, 0}, {ScreenDisbursementEdit, 30},
     {ScreenExpertInvoiceEdit, 12}, {ScreenJointInstructionEdit, 12}, {ScreenFASItemEdit, 30}};
@@ -33,7 +33,7 @@ template <class Collection> QString someID(clsDice &dice, const Collection &item
     return items.empty() ? QString() : dice.oneOf(items)->UniqueID();
 }
 
-/// The identity of an item of the list that a property of that name points into.
+/// The identity of an item in the list to which a property of that name refers.
 QString someIDFor(clsDice &dice, QStringView property)
 {
     if (property.startsWith(u"Group"))
@@ -61,7 +61,7 @@ void fillRow(clsDice &dice, const clsScreenRow &row, clsXMLRecord &record)
         field->writeText(mdFittingInput(dice, row.kind));
 }
 
-/// What the table leaves to a control of its own: who or what the record points at, and codes.
+/// Fills fields that have controls of their own: references to other items, and codes.
 void fillReferences(clsDice &dice, clsXMLRecord &record)
 {
     for (const clsXMLPropertyPlace &place : record.properties()) {
@@ -72,7 +72,7 @@ void fillReferences(clsDice &dice, clsXMLRecord &record)
             continue;
         const QString id = someIDFor(dice, name);
         record.field(name)->writeText(id);
-        // The tick of an enhancement, or of a counsel, which asks for one.
+        // The tick of an enhancement or a counsel, which needs one.
         QString tick = name.left(name.size() - 8);
         if (tick.endsWith(QLatin1String("Enhancement")))
             tick = tick.size() > 11 ? QStringLiteral("Enhance") + tick.chopped(11)
@@ -101,7 +101,7 @@ void mdWriteRandomClaim(clsDice &dice, int items, const QString &path)
     Form = std::make_unique<clsZR3Form>();
     for (const clsItems &list : Items) {
         const clsScreen &editor = list.editor();
-        // Nothing is without what it points at: one item at least.
+        // At least one item, so that references have a target.
         for (int count = list.most == 0 ? items : dice.from(1, list.most); count > 0; --count)
             fill(dice, editor, *editor.add());
     }

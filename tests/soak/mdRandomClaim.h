@@ -4,6 +4,6 @@
 
 class clsDice;
 
-/// Writes a claim to a file whose every field of every screen was thrown by the dice, with so many items in its longest
-/// list. It makes it from the tables of the screens, so that a new field is in it without another line here.
+/// Writes a claim to a file, with a random value in every field of every screen and this many items in its longest
+/// list. It uses the tables of the screens, so that new fields are included automatically.
 void mdWriteRandomClaim(clsDice &dice, int items, const QString &path);

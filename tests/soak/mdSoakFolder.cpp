@@ -11,7 +11,7 @@
 
 namespace {
 
-/// The items of the longest list of the random claims. The last is as large as claims get.
+/// The number of items in the longest list of each random claim. The last is as large as claims get.
 constexpr int ItemsOfClaims[] = {0, 1, 3, 12, 25, 33, 34, 60, 90, 150, 1500};
 
 void write(const QString &path, const QByteArray &bytes)
@@ -53,7 +53,7 @@ QStringList mdMakeSoakFolder(const QString &folder, clsDice &dice, bool samplesO
         claims << in("claims/") + QStringLiteral("random of %1.zr3").arg(items);
         mdWriteRandomClaim(dice, items, claims.last());
     }
-    // What is no claim is refused, and a new one begins.
+    // A file that is not a claim is refused, and a new claim is started.
     claims << in("claims/broken.zr3");
     write(claims.last(), "<vzrform><path>");
     return claims;

@@ -4,10 +4,9 @@
 
 class clsDice;
 
-/// Makes the folder in which the soak lives: the program's own with its preferences, one to export to, one for backups,
-/// and claims to open. The result is their paths. Beside the samples these are random claims and a broken one, unless
-/// only the samples are asked for.
+/// Creates the folder for the soak: the program's own with its preferences, one for exports, one for backups, and
+/// claims to open. Returns the claims' paths: the samples and, unless `samplesOnly`, random claims and a broken one.
 QStringList mdMakeSoakFolder(const QString &folder, clsDice &dice, bool samplesOnly);
 
-/// Takes away what only grows, such as the log of the day.
+/// Deletes what only grows, such as the day's log.
 void mdTidySoakFolder(const QString &folder);

@@ -73,7 +73,7 @@ bool mdPressKeys(clsScene &scene)
     scene.trail.say("keys", mdNameOf(scene.front) + u' ' + words.join(u' '));
     const QPointer<QWidget> window = &scene.front;
     for (const clsKey &key : keys) {
-        // What has come or gone in between is for the next action.
+        // Windows that opened or closed in between are left to the next action.
         if (!window || Hands::front() != window || !Hands::ready())
             break;
         Hands::key(key.key, key.modifiers);

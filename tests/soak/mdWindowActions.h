@@ -2,7 +2,7 @@
 
 struct clsScene;
 
-// What a user does with a window as a whole.
+// The user's actions on a window as a whole.
 
 bool mdPressKeys(clsScene &scene);
 bool mdPressShortcut(clsScene &scene);

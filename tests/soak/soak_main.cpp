@@ -1,4 +1,4 @@
-// Lets a user who knows nothing do everything: see CONTRIBUTING.md, "Proofs".
+// Uses the program at random: see CONTRIBUTING.md, "Long-running tests".
 //
 //     soak [--seed S] [--actions N] [--samples] [--trail]
 
@@ -18,10 +18,10 @@ namespace {
 
 clsSoak *running = nullptr;
 
-/// A warning of the toolkit is a mistake of ours.
+/// A Qt warning is an error in our code.
 void failOnWarning(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
-    // But not these: the offscreen platform tells of whatever takes a window manager, such as raising a menu.
+    // Except these: the offscreen platform reports everything that needs a window manager, such as raising a menu.
     if (message.startsWith(QLatin1String("This plugin does not support ")))
         return;
     std::fprintf(stderr, "%s\n", qPrintable(message));
@@ -35,7 +35,7 @@ void printTrail()
         soak->trail().printLast();
 }
 
-/// The program has crashed, or hangs. What is printed here is not safe in a signal, but there is nothing left to lose.
+/// The program has crashed or hangs. Printing is not safe in a signal handler, but there is nothing left to lose.
 void onSignal(int signal)
 {
     std::fprintf(stderr, signal == SIGALRM ? "FAILED: the action does not end\n" : "FAILED: signal %d\n", signal);
@@ -75,12 +75,12 @@ int main(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
     QStandardPaths::setTestModeEnabled(true);
-    // What another program makes in its own time is no walk that a seed repeats.
+    // The timing of another program would make a seed unrepeatable.
     const clsOfficeProgramScope noOfficeProgram({}, 0);
     clsSoak soak(options);
     running = &soak;
     std::signal(SIGALRM, onSignal);
-    // The sanitizers look at the others themselves, and abort then.
+    // The sanitizers handle the other signals themselves, and then abort.
     std::signal(SIGABRT, onSignal);
 #if !defined(__SANITIZE_ADDRESS__)
     for (const int signal : {SIGSEGV, SIGBUS, SIGFPE})

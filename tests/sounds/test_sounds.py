@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""That every sound which the program plays lies beside it, and is short and soft.
+"""Every sound that the program plays is in the program folder, and is short and soft.
 
     test_sounds.py FOLDER OF THE SOURCES  FOLDER OF THE SOUNDS
 """
@@ -31,7 +31,7 @@ class Sounds(unittest.TestCase):
                 self.assertLess(sound.getnframes() / sound.getframerate(), 0.5)
                 self.assertLess(max(map(abs, samples)), 32767 // 2)
                 self.assertGreater(max(map(abs, samples)), 32767 // 20)
-                # It begins and ends in silence, and so doesn't click.
+                # It begins and ends in silence, so it doesn't click.
                 self.assertLess(max(abs(samples[0]), abs(samples[-1])), 300)
 
 

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-/// A test that has a folder of its own for its files.
+/// Base of tests with a temporary folder.
 class clsFolderTest : public testing::Test {
 protected:
     QString path(const char *name) const { return folder.filePath(QString::fromUtf8(name)); }

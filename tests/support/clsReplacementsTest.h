@@ -6,7 +6,7 @@
 #include "formdata/mdGlobals.h"
 #include "tests/base/clsShellTest.h"
 
-/// A test in which the user has preferences, at first without abbreviations.
+/// Base of tests with preferences, initially without abbreviations.
 class clsReplacementsTest : public clsShellTest {
 protected:
     void SetUp() override
@@ -16,7 +16,7 @@ protected:
         make(QStringLiteral("program/Logs"));
         put(path("program/Databases/Preferences Database.vzp"),
             GetResourceData(QStringLiteral("xmlZR3PreferencesDatabase"), QStringLiteral("VELMORZR3XML")).toLatin1());
-        // Said outright: a window test's settings stay the same from one test to the next.
+        // Set explicitly: the settings of window tests persist from one test to the next.
         SetDatabasePath(path("program/Databases"));
         Preferences = std::make_unique<clsZR3PreferencesDatabase>();
     }

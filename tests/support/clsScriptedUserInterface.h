@@ -7,8 +7,8 @@
 #include <deque>
 #include <vector>
 
-/// The interface of the tests: answers are given in advance, every message is recorded word for word.
-/// A question without an answer prepared for it gets the last button of its set, as a user who closes the box.
+/// The tests' user interface: answers are set in advance, and all messages are recorded. A question without a prepared
+/// answer gets the last button of its set, as if the user closed the box.
 class clsScriptedUserInterface final : public clsUserInterface {
 public:
     struct Message {
@@ -32,13 +32,13 @@ public:
     std::vector<Message> messages;
     std::vector<Progress> progress;
     int progressCleared = 0;
-    QStringList lines; ///< what was told without a box
+    QStringList lines; ///< texts shown without a box
     QStringList prompts;
-    QStringList starts; ///< where each choice of a folder was to begin
+    QStringList starts; ///< the start folder of each folder choice
     QStringList proposed; ///< for each file to export to
     QStringList sounds;
     QStringList opened;
-    bool opens = true; ///< whether there is a program for what is opened
+    bool opens = true; ///< whether a program is found for the opened target
 
     Answer customMessage(const QString &message, const QString &title, Buttons buttons, int icon, int timeout) override
     {

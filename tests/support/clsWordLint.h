@@ -12,7 +12,7 @@
 #include <set>
 #include <string>
 
-/// Rules of a sound document that no schema sees: what makes a word processor ask for repair, lose a text or show
+/// Rules for valid documents that no schema covers: violations make a word processor offer repair, lose text or show
 /// another document's footer. Each problem is one line.
 class clsWordLint {
 public:
@@ -49,7 +49,7 @@ private:
 
     static bool isRelationships(const QString &name) { return name.endsWith(QLatin1String(".rels")); }
 
-    // A part that is well-formed but for the letter is read, changed and written without a word.
+    // Reads parts strictly: a lenient parser would accept, change and write a malformed part without an error.
     void checkParts()
     {
         for (int part = 0; part < m_package.partCount(); ++part) {
@@ -70,7 +70,7 @@ private:
                 continue;
             if (m_package.contentType(part).empty())
                 problem(QStringLiteral("part without a content type: ") + name);
-            // Properties of the whole package are reached from the package itself.
+            // Properties of the whole package belong to the package itself.
             if (!reached.contains(part) && !name.startsWith(QLatin1String("docProps/")))
                 problem(QStringLiteral("part that nothing refers to: ") + name);
         }

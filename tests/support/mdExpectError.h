@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-/// The number of the run-time error that the call raises, 0 when it raises none.
+/// The number of the run-time error that the call raises, 0 if none.
 template <class Call> int errorOf(Call call)
 {
     try {

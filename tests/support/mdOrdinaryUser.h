@@ -3,12 +3,12 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-/// A user who is not the administrator, who may read and write everything; and another such one.
+/// Two ordinary users; root could read and write everything.
 inline constexpr uid_t OrdinaryUser = 65534;
 inline constexpr uid_t SecondUser = 65432;
 
-/// Runs a call whose result is from 0 to 250 as a user who is not the administrator: in a child process where the
-/// tests run as the administrator. Where they don't, it is the tests' own user, whoever is asked for.
+/// Runs a call whose result is from 0 to 250 as an ordinary user: in a child process if the tests run as root.
+/// Otherwise it runs as the tests' own user, whatever `who` is.
 template <class Call> int resultAsOrdinaryUser(Call call, uid_t who = OrdinaryUser)
 {
     constexpr int Failed = 255;

@@ -8,14 +8,14 @@
 
 #include <algorithm>
 
-// What screen readers call the controls of a window.
+// The accessible names of a window's controls.
 
 inline bool saysSomething(const QString &text)
 {
     return std::any_of(text.begin(), text.end(), [](QChar c) { return c.isLetter(); });
 }
 
-/// What a control is called. A list is called by its choice, and its caption is told by its label or description.
+/// The accessible name of a control. A list is named by its choice, and its caption is its label or description.
 inline QString spokenName(QWidget &control)
 {
     const QAccessibleInterface &spoken = *QAccessible::queryAccessibleInterface(&control);
@@ -28,7 +28,7 @@ inline QString spokenName(QWidget &control)
     return caption.remove(u':').remove(u'*');
 }
 
-/// A name that says something, be it with the question that is read out with an answer.
+/// Whether the name is meaningful, if necessary with the question that is read out with an answer.
 inline bool hasSensibleName(QWidget &control)
 {
     const QString name = spokenName(control);
@@ -37,12 +37,12 @@ inline bool hasSensibleName(QWidget &control)
         && !name.contains(QLatin1String("&&")) && (saysSomething(name) || saysSomething(more));
 }
 
-/// Everything in a window that is seen and can have the focus; how many there are.
+/// Checks everything visible in a window that can have the focus; returns how many there are.
 inline int expectSensibleNames(const QWidget &window)
 {
     int asked = 0;
     for (QWidget *part : window.findChildren<QWidget *>()) {
-        // Of a control of several parts they have the names.
+        // In a control of several parts, the parts have the names.
         if (!part->isVisible() || part->focusPolicy() == Qt::NoFocus || part->focusProxy())
             continue;
         EXPECT_TRUE(hasSensibleName(*part))

@@ -4,5 +4,5 @@
 
 /// The folder of the sample claims.
 QString mdSampleFolder();
-/// A file of the sample claims, each with the figures and the sheets that must come of it.
+/// A sample claim or one of its files of expected figures and sheets.
 QString mdSamplePath(const QString &file);

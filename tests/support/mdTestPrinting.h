@@ -7,7 +7,7 @@
 
 #include <ostream>
 
-// How a failed comparison shows the values of this house.
+// How GoogleTest prints our value types.
 
 inline void PrintTo(const QString &text, std::ostream *out)
 {

@@ -8,10 +8,10 @@
 
 namespace {
 
-/// A warning of the toolkit is a mistake of ours.
+/// A Qt warning is an error in our code.
 void failOnWarning(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
-    // But not these: the offscreen platform tells of whatever takes a window manager, such as raising a menu.
+    // Except these: the offscreen platform reports everything that needs a window manager, such as raising a menu.
     if (message.startsWith(QLatin1String("This plugin does not support ")))
         return;
     if (type == QtWarningMsg || type == QtCriticalMsg)
@@ -25,7 +25,7 @@ void failOnWarning(QtMsgType type, const QMessageLogContext &, const QString &me
 int main(int argc, char **argv)
 {
     testing::InitGoogleMock(&argc, argv);
-    // Nothing of the tester's own settings reaches a test, and nothing of a test gets there.
+    // Keeps the tester's own settings and the tests apart.
     const QTemporaryDir home;
     for (const char *name : {"HOME", "XDG_CONFIG_HOME", "XDG_CONFIG_DIRS", "XDG_DATA_HOME", "XDG_STATE_HOME"})
         qputenv(name, home.path().toLocal8Bit());

@@ -1,9 +1,9 @@
-"""What the export asks of each template.
+"""What the export needs from each template.
 
-These tables are kept by hand and know nothing of the sources that the templates are made from.
+These tables are kept by hand, independently of the sources from which the templates are made.
 """
 
-# Every template but those of WITHOUT_MARK has {or} beside these.
+# Every template except those of WITHOUT_MARK also has {or}.
 PLACEHOLDERS = {
     "Claim1 P1":
         "1 2 9 10 11 stagenumber typeofcase casereferencenumber title firstname surname "
@@ -64,7 +64,7 @@ PLACEHOLDERS = {
     "Claim1A P6 Expert Dibs Standards Cont": "expertsmeetmojstandardreasons",
     "Claim1A P7": "dibsnet dibsvat dibstotal",
     "Claim1A P7 Expert Dibs Joint Instruction Cont": "",
-    "Claim1a P7 Other Dibs Cont": "",           # with a small letter
+    "Claim1a P7 Other Dibs Cont": "",           # lower-case a
     "Claim1A P8": "actot acvat",
     "Claim1A P8 Advocacy Costs Cont": "",
     "Claim1A P8 Bolt on Payments Cont": "",
@@ -90,7 +90,7 @@ PLACEHOLDERS = {
 }
 WITHOUT_MARK = {"Claim1 P9", "Claim1A P12"}
 
-# Sheets that are marked more than once have hidden spares of {or}, so many.
+# Sheets that are marked more than once have this many hidden spares of {or}.
 SPARES = {"Claim1 P4": 1, "Claim1 P6": 2, "Claim1A P5": 1, "Claim1A P7": 1, "Claim1A P8": 2}
 
 TICKS = {
@@ -162,7 +162,7 @@ TOTALS = {
 # Rate, unit payment, bolt-on, bundle, settlement, travel, total and VAT.
 ADVOCACY_MONEY = [5, 6, 8, 9, 10, 11, 12, 13]
 
-# Lines above the first row, rows, cells of a row, and which cells hold money.
+# Lines above the first row, rows, cells per row, and the cells with money.
 GRIDS = {
     "Claim1 P4": [(9, 32, 4, [3])],
     "Claim1 P4 Counsels Fees Cont": [(3, 38, 4, [3])],
@@ -194,7 +194,7 @@ PLACES = {
     "Claim1A P11 Additional Info Cont": (2, 50),
 }
 
-# Characters that the screens let into each answer, and the export on to a sheet that continues one.
+# The characters that the screens allow for each answer, and that the export puts on a continuation sheet.
 FIRST_PAGE = {
     "typeofcase": 40, "stagenumber": 40, "casereferencenumber": 30, "title": 7, "firstname": 7,
     "surname": 17, "morethan1certificate": 130, "accountnumber": 7, "rollnumber": 7,
@@ -233,14 +233,14 @@ ALLOWANCES = {
     "Claim1A P12": COSTS_AWARDED,
     "Claim1A P13": DEBTOR,
 }
-# The same for the cells of a grid, which is known by the number of its cells; 4 only where three hold money.
+# The same for the cells of a grid, identified by its number of cells; 4 only if three hold money.
 CELL_ALLOWANCES = {
     2: {1: 35},                             # bolt-ons
     3: {2: 35},                             # exceptional travel
     4: {0: 35},                             # other disbursements
     5: {0: 12, 1: 20, 2: 20, 3: 20},        # joint instruction
 }
-# Columns that are narrower than those of other amounts, and what they must hold: hourly rates of experts and of the
-# schedule, and the rate and the three fixed payments of a hearing, of which none comes near six figures.
+# Columns narrower than other amounts, and what they must hold: hourly rates of experts and of the schedule, and the
+# rate and the three fixed payments of a hearing, none of which comes near six figures.
 RATE, PAYMENT = "9,999.99", "99,999.99"
 NARROW = {12: {3: RATE, 5: RATE}, 13: {9: RATE}, 14: {5: PAYMENT, 9: PAYMENT, 10: PAYMENT, 11: PAYMENT}}

@@ -1,30 +1,30 @@
-"""Which printed words stand beside each answer, by sheet and section.
+"""The printed words beside each answer, by sheet and section.
 
-These tables are kept by hand, from what each placeholder is filled with and what the screens call that; they know
-nothing of the sources that the templates are made from. {or} stands beside the page's number and isn't among them.
+These tables are kept by hand, from the content of each placeholder and its name on the screens, independently of the
+sources from which the templates are made. {or}, which is beside the page number, is not included.
 """
 
 from typing import NamedTuple
 
 
 class Tick(NamedTuple):
-    """A box before its word; the question stands at its left or above."""
+    """A box before its word; the question is on its left or above."""
     question: str
     word: str
 
 
 class InRow(NamedTuple):
-    """An answer with its label at the left."""
+    """An answer with its label on the left."""
     label: str
 
 
 class Sum(NamedTuple):
-    """An amount of a table: its row's label at the left, its column's head above."""
+    """An amount of a table: its row's label on the left, its column heading above."""
     row: str
     column: str
 
 
-# A plain text is a label right above its answer, as wide as that.
+# A plain text is a label directly above its answer, with the same width.
 
 
 def yes_no(question, yes, no):
@@ -101,7 +101,7 @@ def outcome(stage, how, result, adr, benefits, costs, damages, prop, wasted):
     }
 
 
-# --- Pages that both forms have --------------------------------------------
+# --- Pages of both forms ---------------------------------------------------
 
 DETAILS_OF_WORK = {
     "detailsofcase": "Describe the work done for which you claim, and anything that explains the time it took",
@@ -359,14 +359,14 @@ CLAIM1A = {
 
 CAPTIONS = {**CLAIM1, **CLAIM1A}
 
-# Answers with the same captions: the order in which they are read.
+# Answers with the same captions, in reading order.
 IN_ORDER = {
     "Claim1 P8": "csl1 cslamt1 csl2 cslamt2 csl3 cslamt3 csl4 cslamt4 csl5 cslamt5 csl6 cslamt6",
 }
 
-# --- Heads of the grids ----------------------------------------------------
+# --- Grid headings ---------------------------------------------------------
 
-# From the left, in the order in which the export fills the cells of a row; with its group where a column has one.
+# From the left, in the order in which the export fills a row's cells; with the group of a column, if any.
 COUNSEL_HEADS = ["Number", "Counsel", "Date", "Amount £"]
 SCHEDULE_HEADS = [
     "Work: Item", "Work: Fee earner", "Work: Date", "Work: Code",

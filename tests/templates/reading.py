@@ -1,6 +1,6 @@
-"""Reading a page template, and where the templates are.
+"""Reading page templates, and their folder.
 
-    ZR3_TEMPLATES  the folder of the page templates; without it they are made into a folder of the tests' own
+    ZR3_TEMPLATES  the folder of the page templates; if unset they are made in a temporary folder
 """
 
 import os
@@ -14,7 +14,7 @@ from pathlib import Path
 from lxml import etree
 
 SCRIPT = Path(__file__).resolve().parents[2] / "resources" / "templates" / "make_templates.py"
-SKIPPED = 77  # what ctest knows as skipped
+SKIPPED = 77  # skipped, for ctest
 
 W = "{http://schemas.openxmlformats.org/wordprocessingml/2006/main}"
 
@@ -54,8 +54,9 @@ class Template:
                        etree.fromstring(self.parts["word/styles.xml"]).iter(W + "style")}
 
     def lines(self):
-        """As the cursor of the export counts on its way down: a paragraph of the
-        body, or a row with the paragraphs of its first cell."""
+        """The lines that the export's cursor counts on its way down: a paragraph of the body, or a row with the
+        paragraphs of its first cell.
+        """
         for block in self.body:
             if block.tag == W + "p":
                 yield block, None
@@ -64,7 +65,7 @@ class Template:
                     yield paragraph, row
 
     def property(self, paragraph, tag):
-        """Of a paragraph: its own, or its style's."""
+        """A paragraph's own property, or its style's."""
         found = find(paragraph, "pPr", tag)
         if found is None:
             found = find(self.styles[value(find(paragraph, "pPr", "pStyle"))], "pPr", tag)
@@ -85,7 +86,7 @@ class Template:
                     if t.text == "{%s}" % name)
 
     def is_right(self, run):
-        """At the right end of its cell, by its paragraph or by a right tab."""
+        """Whether it is at the right end of its cell, by its paragraph or a right tab."""
         paragraph = run.getparent()
         if value(self.property(paragraph, "jc")) == "right":
             return True

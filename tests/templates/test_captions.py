@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Each answer of the page templates stands beside the printed words that ask for it.
+"""Each answer of the page templates is beside the printed words that ask for it.
 
     ZR3_TEMPLATES=FOLDER /usr/bin/python3 test_captions.py
 """
@@ -24,13 +24,13 @@ def setUpModule():
 
 
 def wording(node):
-    """The words of a cell; the lines that it is broken into side by side."""
+    """The words of a cell, with its lines joined."""
     parts = (" " if part.tag != W + "t" else part.text for part in node.iter(W + "t", W + "tab", W + "br"))
     return " ".join("".join(parts).replace("\u00a0", " ").split())
 
 
 class Box(NamedTuple):
-    """A cell of a table; its edges are twips."""
+    """A cell of a table; its edges are in twips."""
     begin: int
     end: int
     text: str
@@ -42,7 +42,7 @@ class Box(NamedTuple):
 
     @property
     def is_key(self):
-        """The letter of a question."""
+        """Whether it is the letter of a question."""
         return re.fullmatch("[a-z]", self.text) is not None
 
 
@@ -57,7 +57,7 @@ def boxes(row):
 
 
 class Sheet:
-    """The rows of a template from the top, tables aside, and where on them the placeholders are."""
+    """The rows of a template from the top, without tables, and the positions of the placeholders on them."""
 
     def __init__(self, template):
         self.template = template
@@ -79,18 +79,18 @@ class Sheet:
         return ""
 
     def word(self, name):
-        """What stands right behind a box."""
+        """The text directly after a box."""
         return wording(self.template.run_of(name).getnext())
 
     def label_above(self, name):
-        """Of a field: on the row right above, as wide as its answer."""
+        """The label of a field, on the row directly above and as wide as its answer."""
         r, c = self.places[name]
         box = self.rows[r][c]
         return " ".join(above.text for above in self.rows[r - 1]
                         if above.is_printed and (above.begin, above.end) == (box.begin, box.end))
 
     def label_beside(self, name):
-        """The printed words nearest at the left. A cell that is blank goes on with what stands above it."""
+        """The nearest printed words on the left. A blank cell continues what is above it."""
         r, c = self.places[name]
         left = self.rows[r][:c]
         while left and left[-1].fill != TINT:
@@ -106,14 +106,14 @@ class Sheet:
                     if (above.begin, above.end) == (box.begin, box.end) and above.text)
 
     def head_above(self, name):
-        """Of an amount: the nearest printed words above that end where its cell ends, so that both are one column."""
+        """The column heading of an amount: the nearest printed words above that end where its cell ends."""
         r, c = self.places[name]
         end = self.rows[r][c].end
         return next((box.text for row in reversed(self.rows[:r]) for box in row if box.is_printed and box.end == end),
                     "")
 
     def question(self, name):
-        """At the left; where a row has nothing but boxes, above."""
+        """On the left; above if a row has only boxes."""
         beside = self.label_beside(name)
         if beside:
             return beside
@@ -137,7 +137,7 @@ class Sheet:
         return self.label_above(name)
 
     def heads(self, first_row):
-        """Of the grid's columns, each with its group."""
+        """The headings of the grid's columns, each with its group."""
         r = next(i for i, row in enumerate(self.template.document.iter(W + "tr")) if row is first_row)
         groups = self.rows[r - 2] if r >= 2 else []
         has_groups = len(groups) > 1 and all(box.is_printed for box in groups)

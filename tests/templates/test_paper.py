@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The page templates on paper, laid out by a word processor.
+"""The printed page templates, laid out by a word processor.
 
     ZR3_TEMPLATES=FOLDER /usr/bin/python3 test_paper.py
 """
@@ -23,7 +23,7 @@ from reading import Template, W, find, text, words
 
 FOLDER = None
 
-# Capitals, the widest that an answer is in practice; each ends on a mark of its own.
+# Capitals, the widest that an answer is in practice; each ends with its own mark.
 CAPITALS = ("THE CLIENT APPLIED FOR AN ORDER THAT THE CHILD LIVE WITH HER. THE RESPONDENT FATHER "
             "OPPOSED, AND A REPORT WAS DIRECTED. ")
 AMOUNT = "123,456.78"
@@ -42,7 +42,7 @@ def capitals(length, mark):
 
 
 def type_into(paragraph, typed):
-    """In the look of the paragraph mark, as the export does."""
+    """In the format of the paragraph mark, as in the export."""
     run = etree.SubElement(paragraph, W + "r")
     run.append(etree.fromstring(etree.tostring(find(paragraph, "pPr", "rPr"))))
     etree.SubElement(run, W + "t").text = typed
@@ -61,8 +61,7 @@ def write(template, folder):
 
 
 class Filled:
-    """A template with every answer at its allowance and every grid at its capacity, and what the
-    paper must show for it."""
+    """A template with every answer at its allowance and every grid full, and what the printed page must show for it."""
 
     def __init__(self, path):
         self.template = Template(path)
@@ -101,7 +100,7 @@ class Filled:
 
 @unittest.skipIf(TOOLS, "not installed here: " + ", ".join(TOOLS))
 class Paper(unittest.TestCase):
-    """One page, whatever is filled in; and whatever is allowed can be read on it."""
+    """One page, whatever is filled in; and everything within the allowances is legible on it."""
 
     def lay_out(self, folder):
         subprocess.run(

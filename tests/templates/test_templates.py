@@ -48,7 +48,7 @@ ORDERS = {
     "styles": "docDefaults latentStyles style",
     "settings": "zoom defaultTabStop characterSpacingControl compat decimalSymbol listSeparator",
 }
-FREE_ORDER = {"r": {"t", "tab", "br"}}  # these come as the text has them
+FREE_ORDER = {"r": {"t", "tab", "br"}}  # these are in the order of the text
 
 
 FOLDER = None
@@ -68,7 +68,7 @@ def span(cell):
 
 
 def without_borders(row):
-    """The last row of a table has its lower edge; else a grid's rows are equal."""
+    """The last row of a table has its bottom border; otherwise a grid's rows are equal."""
     copy = etree.fromstring(etree.tostring(row))
     for borders in list(copy.iter(W + "tcBorders")):
         borders.getparent().remove(borders)
@@ -76,7 +76,7 @@ def without_borders(row):
 
 
 def on_each(check):
-    """Makes a check of one template a test of them all, which says where it fails."""
+    """Turns a check of one template into a test of them all, which names the template that fails."""
     @functools.wraps(check)
     def test(self):
         self.assertEqual(len(TEMPLATES), 20 + 26)
@@ -97,7 +97,7 @@ class Placeholders(unittest.TestCase):
         found = Counter(t.text for t in template.document.iter(W + "t")
                         if "{" in t.text or "}" in t.text)
         self.assertEqual(found, Counter("{%s}" % name for name in expected))
-        # The search ignores case and may meet the text of several runs.
+        # The search ignores case, and a match may span several runs.
         whole = "".join(text(p) for p in template.document.iter(W + "p")).lower()
         for name in expected:
             self.assertEqual(whole.count("{%s}" % name), expected.count(name), name)
@@ -192,7 +192,7 @@ class Grids(unittest.TestCase):
                 width = number(find(cell, "tcPr", "tcW"), "w")
             self.assertIsNone(next(paragraph.iter(W + "br"), None))
             size = number(find(paragraph, "pPr", "rPr", "sz")) / 2
-            # Half an em a letter is more than running text takes.
+            # Half an em per letter is more than running text takes.
             self.assertLess(len(text(paragraph)) * size / 2 * 20, width, text(paragraph))
 
     @on_each

@@ -22,7 +22,7 @@ QString clsFieldMarks::typed(const clsExpectedScreen &screen, const clsExpectedF
     QString typed, shown;
     switch (field.kind) {
     case 'd': {
-        // A day and a month of one digit, which the box fills up.
+        // A day and a month of one digit, which the box pads.
         const int day = 1 + n % 9, month = 1 + n / 9 % 9, year = 10 + n / 81;
         typed = QStringLiteral("%1.%2.%3").arg(day).arg(month).arg(year);
         shown = QStringLiteral("0%1/0%2/%3").arg(day).arg(month).arg(year);

@@ -14,13 +14,13 @@
 
 #include <QComboBox>
 
-/// A walk of a user through all tabs of the main window, all pages of each screen and all items of each list, with a
-/// stop at each field. It starts and leaves everything by clicks and keys.
+/// Goes through all tabs of the main window, all pages of each screen and all items of each list, stopping at each
+/// field. Uses only clicks and keys.
 class clsFieldWalk : public clsMainWindowTest {
 protected:
-    /// How the walk comes to a list's items: by adding them, or by opening those that are there.
+    /// How a list's items are reached: by adding them, or by opening existing ones.
     enum class Items { Added, Opened };
-    /// What is done at a field, and at the end of a screen before it is left. Items count from 1; a section has 0.
+    /// What to do at a field, and at the end of a screen before leaving it. Items count from 1; a section has 0.
     struct clsStop {
         Items items;
         std::function<void(frmSection &, const clsExpectedScreen &, const clsExpectedField &, int item)> field;
@@ -45,7 +45,7 @@ protected:
         }
     }
 
-    /// The page that a control stands on is opened by a click on its caption, where it isn't the open one.
+    /// Clicks the caption of a control's page, if that isn't open.
     static void openPageOf(const frmSection &screen, const QWidget &control)
     {
         for (const clsScreenField &field : screen.Fields())
@@ -55,7 +55,7 @@ protected:
     }
     static void type(QWidget &box, const QString &text) { Hands::type(box, text); }
     static void click(QWidget &widget) { Hands::click(widget); }
-    /// Chooses from the first entry so many down. Before, the list was on another one, so that it is a choice.
+    /// Chooses the entry this many below the first. The list is first moved elsewhere, so that it changes.
     static void choose(QComboBox &list, int down)
     {
         list.setFocus(Qt::TabFocusReason);
@@ -89,7 +89,7 @@ private:
         throw std::runtime_error(std::string("no screen ") + (name ? name : section));
     }
 
-    /// Opens a modal screen by whatever opens it, and uses it until it is closed.
+    /// Opens a modal screen and uses it until it is closed.
     static void inScreen(
         const char *name, const std::function<void()> &opens, const std::function<void(frmSection &)> &use)
     {

@@ -8,7 +8,7 @@
 
 #include <QSignalSpy>
 
-/// A test of the main window's figures.
+/// Base of tests of the main window's figures.
 class clsFiguresTest : public clsMainWindowTest {
 protected:
     /// Starts on a claim and waits until its totals are shown.
@@ -17,7 +17,7 @@ protected:
         start(sample(claim));
         wait();
     }
-    /// Until the strip has been filled from the claim as it now is.
+    /// Updates the strip and waits for it.
     void renew()
     {
         window->Activate();

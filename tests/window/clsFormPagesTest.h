@@ -16,7 +16,7 @@
 
 #include <optional>
 
-/// A PDF of some pages, each with its name at the head.
+/// A PDF of several pages, each with its name at the head.
 inline QByteArray mdPdfOf(int pages)
 {
     QBuffer buffer;
@@ -35,7 +35,7 @@ inline QByteArray mdPdfOf(int pages)
     return buffer.data();
 }
 
-/// A test of the form pages, with a script for the office program.
+/// Base of tests of the form pages, with a script as the office program.
 class clsFormPagesTest : public clsMainWindowTest {
 protected:
     void SetUp() override
@@ -50,7 +50,7 @@ protected:
         m_office.reset();
     }
 
-    /// A script that stands for the office program. It counts its runs, and $3 is the folder for its PDF.
+    /// A script in place of the office program. It counts its runs, and $3 is the folder for its PDF.
     void officeProgram(const QByteArray &steps, int longestMilliseconds = 60000)
     {
         QFile pdf(path("ready.pdf"));
@@ -94,7 +94,7 @@ protected:
         entry("mnuFormPages").trigger();
         ASSERT_TRUE(wait());
     }
-    /// As many as the script gives.
+    /// As many as the script makes.
     static void includeThreePages()
     {
         for (int number = 4; number <= 13; ++number)
@@ -108,7 +108,7 @@ protected:
                 return int(i);
         return -1;
     }
-    /// Closes the screen that opens next; its name, and the field that has the focus.
+    /// Closes the next screen that opens; returns its name, and the field that has the focus.
     static void closeScreen(QString &focus)
     {
         QTimer::singleShot(300, [&focus] {

@@ -7,7 +7,7 @@
 
 #include <functional>
 
-/// The real interface. What it opens is modal, so that a test says beforehand what is to be done with it.
+/// Base of tests of the real user interface. Its windows are modal, so actions on them are set up beforehand.
 class clsInterfaceTest : public clsWindowTest {
 protected:
     template <class Window> void whenShown(std::function<void(Window &)> step)

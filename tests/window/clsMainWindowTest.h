@@ -8,7 +8,7 @@
 #include "shell/frmMain.h"
 #include "tests/window/clsWindowTest.h"
 
-/// A test of the main window.
+/// Base of tests of the main window.
 class clsMainWindowTest : public clsWindowTest {
 protected:
     void TearDown() override
@@ -17,7 +17,7 @@ protected:
         clsWindowTest::TearDown();
     }
 
-    /// The window as the program makes it, on a claim or a new one.
+    /// Creates the window like the program, on a claim or a new one.
     void start(const QString &claimPath = {})
     {
         window = std::make_unique<frmMain>();
@@ -41,7 +41,7 @@ protected:
     QAction &entry(const char *name) const { return control<QAction>(*window, name); }
     oTabBar &row(const char *name) const { return control<oTabBar>(*window, name); }
 
-    /// The captions of a row of tabs, as they stand.
+    /// The captions of a row of tabs.
     QStringList tabs(const char *name) const
     {
         QStringList captions;

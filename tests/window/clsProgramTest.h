@@ -22,7 +22,7 @@
 #include <functional>
 #include <vector>
 
-/// What a run of the program is watched by: it is asked every few milliseconds, from the first event on.
+/// Called every few milliseconds while the program runs, from the first event on.
 inline std::function<void()> onTick;
 
 inline void startTicking()
@@ -67,7 +67,7 @@ protected:
 
     QString path(const char *relative) const { return folder.filePath(QString::fromUtf8(relative)); }
 
-    /// The status of the program, watched by a step that is asked until it says that it is done.
+    /// Runs the program and returns its status; calls `step` repeatedly until it returns true.
     int run(const std::vector<QByteArray> &arguments, std::function<bool()> step)
     {
         QElapsedTimer patience;
@@ -92,7 +92,7 @@ protected:
         return status;
     }
 
-    /// The files that were set aside.
+    /// The recovered copies.
     QStringList recovered() const { return QDir(path("program/Databases/Recovered")).entryList(QDir::Files); }
 
     static QString header()
@@ -100,13 +100,13 @@ protected:
         const auto *window = topLevel<frmMain>();
         return window && window->isVisible() ? window->findChild<oHeaderBar *>()->Caption() : QString();
     }
-    /// The message box that is up, if any.
+    /// The open message box, if any.
     static frmMessageBox *messageBox() { return qobject_cast<frmMessageBox *>(QApplication::activeModalWidget()); }
     static QString textOf(const frmMessageBox &box)
     {
         return box.findChild<QLabel *>(QStringLiteral("lblMessage"))->text();
     }
-    /// Presses OK in the box of a title; false where it is not up.
+    /// Presses OK in the box with this title; false if it is not open.
     static bool press(const QString &title)
     {
         frmMessageBox *box = messageBox();

@@ -10,8 +10,8 @@
 #include <optional>
 #include <source_location>
 
-/// A user who sits before the real windows of the program and has a keyboard: one step after the other, each as soon as
-/// the one before has had its effect.
+/// A user with only a keyboard in front of the program's real windows: each step is taken as soon as the previous one
+/// has had its effect.
 class clsWholeWayTest : public clsProgramTest {
 protected:
     void SetUp() override
@@ -21,7 +21,7 @@ protected:
         ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("export")));
     }
 
-    /// A step: what the user does, and what he then waits for.
+    /// A step: what the user does, and the result that is then awaited.
     using Place = std::source_location;
     void step(std::function<void()> does, std::function<bool()> waitsFor, Place place = Place::current())
     {
@@ -32,7 +32,7 @@ protected:
     {
         step([=] { press(key, modifiers); }, std::move(waitsFor), place);
     }
-    /// A text, in which a tabulator and an arrow down are the keys of that name.
+    /// Types a text, in which a tabulator and a down arrow stand for these keys.
     void type(const QString &text, Place place = Place::current())
     {
         step([=] { pressAll(text); }, always, place);
@@ -71,7 +71,7 @@ protected:
             window.activateWindow();
         return hasKeys();
     }
-    /// While one window goes and another comes, there may be none for a moment. A user does not type then.
+    /// Between two windows, none may be active for a moment. A user does not type then.
     static bool somethingHasKeys()
     {
         QWidget *window = QApplication::activeModalWidget();
@@ -104,7 +104,7 @@ protected:
         QWidget *modal = QApplication::activeModalWidget();
         return modal ? modal->findChild<Control *>(QString::fromLatin1(name)) : nullptr;
     }
-    /// Whether the focus is in that control, or in a part of it.
+    /// Whether the focus is in that control or a part of it.
     static bool focusIn(const char *name)
     {
         for (const QWidget *part = QApplication::focusWidget(); part; part = part->parentWidget())
@@ -118,7 +118,7 @@ protected:
         return box ? box->Text() : QStringLiteral("(no box)");
     }
 
-    /// Takes all steps; the result is the status of the program.
+    /// Takes all steps; returns the status of the program.
     int walk(const std::vector<QByteArray> &arguments)
     {
         size_t next = 0;
@@ -132,7 +132,7 @@ protected:
                     return false;
                 taken = true;
                 take(now);
-                // The last one ends the program, and nobody is there to see what it did.
+                // The last one ends the program, so its result can't be checked.
                 if (next + 1 < m_steps.size())
                     return false;
                 ++next;
@@ -140,7 +140,7 @@ protected:
             }
             if (isBeingTaken())
                 return false;
-            // Another word processor on the tester's machine is asked about, and lets the export go on.
+            // If another word processor is running on the tester's machine, a question appears before the export.
             if (boxIs("Word Instances")())
                 QTimer::singleShot(0, QCoreApplication::instance(),
                     [] { QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_Return); });
@@ -163,7 +163,7 @@ private:
         unsigned line;
     };
 
-    /// From a timer of its own: what it opens has an event loop of its own, too.
+    /// From a separate timer, because the step may open a nested event loop.
     void take(const clsStep &now)
     {
         m_begun = false;
@@ -174,8 +174,8 @@ private:
             now.does();
         });
     }
-    /// Events go on between two keys of a step, which may not be overtaken by the next one. A key that opens a window
-    /// returns when that has gone; what is done there is not in its way.
+    /// Events are handled between two keys of a step; the next step must wait for its end. A key that opens a window
+    /// returns only when that is closed, but steps in that window may go ahead.
     bool isBeingTaken() const { return !m_begun || m_pressing == QApplication::activeModalWidget(); }
 
     QString m_shown;

@@ -22,7 +22,7 @@
 
 #include <gtest/gtest.h>
 
-/// A test of windows: a program folder of its own, no stored database folder, a scripted user, and no claim and no
+/// Base of tests of windows: a temporary program folder, no stored database folder, a scripted user, and no claim or
 /// preferences left behind.
 class clsWindowTest : public testing::Test {
 protected:
@@ -51,7 +51,7 @@ protected:
 
     QString path(const char *relative) const { return folder.filePath(QString::fromUtf8(relative)); }
 
-    /// The preferences file of the program folder, with some switches on.
+    /// Writes the preferences file of the program folder, with these switches on.
     void writePreferences(std::initializer_list<const char *> switchedOn) const
     {
         QString text = GetResourceData(QStringLiteral("xmlZR3PreferencesDatabase"), QStringLiteral("VELMORZR3XML"));
@@ -65,7 +65,7 @@ protected:
         file.write(text.toLatin1());
     }
 
-    /// A copy of a sample claim that a test may change.
+    /// A copy of a sample claim that the test may change.
     QString sample(const char *name) const
     {
         const QString copy = path("claims") + u'/' + QString::fromLatin1(name);

@@ -4,8 +4,8 @@
 
 #include <QStringList>
 
-// What the tables of the screens don't say, for a walk through all of them: where their tabs stand, where their lists
-// lie in the file, and what is chosen and ticked in them. Written by hand, as those are.
+// What the screens' tables don't say, for going through all of them: the tabs, the lists' elements in the file, and
+// what is chosen and ticked. Written by hand.
 
 struct clsTabsOfType {
     const char *formType;
@@ -13,35 +13,35 @@ struct clsTabsOfType {
         rows; ///< a tab of the first row, and the second row
 };
 
-/// A list of items on a screen, as the user works it and as the file has it.
+/// A list of items, on the screen and in the file.
 struct clsItemsOfScreen {
     const char *grid;
-    const char *add; ///< empty where its items are only opened
+    const char *add; ///< empty if its items are only opened
     const char *editor;
     const char *path; ///< of the items in the claim
-    int items; ///< so many are added
+    int items; ///< the number added
 };
 
-/// Where the table of an editor leaves open what a field is stored in.
+/// The elements of editors' fields that their tables don't state.
 struct clsOwnElement {
     const char *screen;
     const char *control;
     const char *element;
 };
 
-/// What is chosen in a list: from its first entry so many down.
+/// A choice in a list: this many entries below the first.
 struct clsChosen {
     const char *screen;
-    int item; ///< which of the list's items, from 1; 0 on a section
+    int item; ///< the list's item, from 1; 0 on a section
     const char *control;
     int down;
     const char *element;
     const char *content;
     const char *shown;
-    const char *flag = nullptr; ///< the element of the tick before the list, where there is one
+    const char *flag = nullptr; ///< the element of the tick before the list, if any
 };
 
-/// Ticks of which one takes the others away.
+/// Ticks that exclude each other.
 struct clsExclusiveTicks {
     const char *screen;
     std::vector<const char *> controls;
@@ -139,13 +139,13 @@ inline const std::vector<clsExclusiveTicks> ExclusiveTicks {
     {"frmDetailsOfCostsAwarded", {"chkOfferByDebtorYes", "chkOfferByDebtorNo"}},
 };
 
-/// The ticks of a new claim, all on one screen; all others start unticked. The first page's can't be clicked.
+/// The ticks set in a new claim, all on one screen; the first page's can't be clicked.
 inline const std::vector<const char *> TickedInANewClaim {
     "chkVAT", "chkIncludePage2", "chkIncludePage3", "chkIncludePage4", "chkIncludePage5", "chkIncludePage6",
     "chkIncludePage7", "chkIncludePage8", "chkIncludePage9", "chkIncludePage10", "chkIncludePage11", "chkIncludePage12",
     "chkIncludePage13",
 };
 
-/// Ticks without which another field can't be filled, or can't any more: they are clicked once.
+/// Ticks that enable or disable another field: they are clicked once.
 inline const std::vector<const char *> TicksOfOthers {"chkVAT", "chkEnhance", "chkAdvocacy"};
 // clang-format on

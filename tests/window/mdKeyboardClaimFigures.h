@@ -4,10 +4,10 @@
 #include <QJsonObject>
 #include <QString>
 
-/// The report of the claim that is entered by keyboard, worked out with pen and paper. The rates of its two groups:
+/// The expected report of the claim that is entered by keyboard, worked out by hand. The rates of its two groups:
 ///
 ///            hourly  calls  in    out   advocacy  counsel  travel and waiting
-///     PA      47.25   4.15  2.05  4.05     71.15    38.65               29.45   enhanced by 50 %, and its letters too
+///     PA      47.25   4.15  2.05  4.05     71.15    38.65               29.45   enhanced by 50 %, letters too
 ///     TR      33.33   3.65  1.85  3.75     58.50    30.15               25.75
 namespace KeyboardClaim {
 
@@ -37,9 +37,9 @@ inline constexpr clsItemFigures Items[] = {
     {3, "29.45", "24.54",  "50", "36.81"},
     //  8  TR, waiting: 35 / 60 x 25.75 = 15.0208, that is 15.02.
     {4, "25.75", "15.02",  "0",  "15.02"},
-    //  9  PA, advocacy and travel, where travel has the last word: 2 h x 29.45 = 58.90; uplift 29.45.
+    //  9  PA, advocacy and travel, where travel takes precedence: 2 h x 29.45 = 58.90; uplift 29.45.
     {3, "29.45", "58.9",   "50", "88.35"},
-    // 10  PA, also in the list's enhancement of 10 %: 10 / 60 x 47.25 = 7.875, that is 7.88; 60 % of it 4.728; 12.608.
+    // 10  PA, with the listed enhancement of 10 %: 10 / 60 x 47.25 = 7.875, that is 7.88; 60 % of it 4.728; 12.608.
     {0, "47.25", "7.88",   "60", "12.61"},
     // 11  TR, research: 20 / 60 x 33.33 = 11.11.
     {1, "33.33", "11.11",  "0",  "11.11"},
@@ -63,11 +63,11 @@ inline constexpr clsLineFigures Lines[] = {
     // Calls. PA: 3 + 1 of its two fee earners, 4 x 4.15 = 16.60; uplift 8.30. TR: 7 x 3.65 = 25.55.
     {0, 1, "4.15", "4",  "16.6",  "8.3",    "24.9"},
     {0, 2, "3.65", "7",  "25.55", "0",      "25.55"},
-    // Letters in. PA has none, so that the first line is TR's: 4 x 1.85 = 7.40.
+    // Letters in. PA has none, so the first line is TR's: 4 x 1.85 = 7.40.
     {1, 1, "1.85", "4",  "7.4",   "0",      "7.4"},
     {1, 2, "0",    "",   "0",     "0",      "0"},
-    // Letters out, with the list's 10 %. PA: 5 + 2, 7 x 4.05 = 28.35; its own uplift 14.175 is rounded to 14.18, the
-    // list's 2.835 is not. TR: 12 x 3.75 = 45.00; the list's uplift 4.50.
+    // Letters out, with the listed 10 %. PA: 5 + 2, 7 x 4.05 = 28.35; its own uplift 14.175 is rounded to 14.18, the
+    // listed one, 2.835, is not. TR: 12 x 3.75 = 45.00; the listed uplift 4.50.
     {2, 1, "4.05", "7",  "28.35", "17.015", "45.365"},
     {2, 2, "3.75", "12", "45",    "4.5",    "49.5"},
 };
@@ -108,7 +108,7 @@ inline constexpr clsFigure Totals[] = {
     {"FASVATTotal",                        "0"},
     {"CommsTotal",                         "152.72"},  // 24.90 + 25.55 + 7.40 + 45.365 + 49.50 = 152.715
     {"ProfitCostsTotal",                   "800.16"},  // 647.44 + 152.72
-    {"ProfitCostsVAT",                     "160.032"}, // tax is not rounded to pence
+    {"ProfitCostsVAT",                     "160.032"}, // VAT is not rounded to pence
     {"AdvocacyVAT",                        "43.236"},
     {"LoadFromBillNet",                    "583.98"},  // 800.16 - 216.18
     {"LoadFromBillVAT",                    "116.796"},
@@ -151,7 +151,7 @@ inline QJsonArray communications()
     return array;
 }
 
-/// The breakdown by counsel stands on the form where there are at least two.
+/// The form shows the breakdown by counsel if there are at least two.
 inline QJsonArray counselAtLine()
 {
     QJsonArray array;

@@ -1,4 +1,4 @@
-"""A real display with a window manager and a keyboard, for as long as a test needs it."""
+"""A real display with a window manager and keyboard, for tests."""
 
 import contextlib
 import os
@@ -14,7 +14,7 @@ WIDTH, HEIGHT = 1366, 768
 
 
 class DesktopFailure(Exception):
-    """The display or its manager failed, which says nothing of the program."""
+    """The display or its window manager failed, which is not the program's fault."""
 
 
 def ended(process):
@@ -31,7 +31,7 @@ def last_lines(log, count=20):
 
 
 class Desktop:
-    """Is up as soon as it is made; what its processes say lies in files of the folder."""
+    """Starts when it is created; the output of its processes is in files of the folder."""
 
     def __init__(self, folder):
         self.folder = folder
@@ -57,10 +57,10 @@ class Desktop:
         self.close()
 
     def display(self):
-        # The server takes a number that is free by itself, so that any number of these can run beside each other.
-        # -r: a key that is let go of late, on a busy machine, is no key that is held down.
-        # Without -noreset it starts anew whenever its last client leaves, and refuses whoever comes in that moment:
-        # the first clients are the short-lived ones that ask whether the window manager is up.
+        # The server chooses a free number itself, so that any number of these can run in parallel. -r: otherwise a key
+        # released late, on a busy machine, would repeat. Without -noreset it restarts whenever its last client leaves,
+        # and refuses connections meanwhile: the first clients are the short-lived ones that check whether the window
+        # manager is running.
         reader, writer = os.pipe()
         with os.fdopen(reader) as told:
             self.start("display server", ["Xvfb", "-displayfd", str(writer), "-screen", "0", f"{WIDTH}x{HEIGHT}x24",
@@ -74,7 +74,7 @@ class Desktop:
         return ":" + number
 
     def manages(self):
-        """Whether the window manager does what it is asked. What it says of itself it says before it listens."""
+        """Whether the window manager carries out requests. It announces itself before it listens."""
         self.tell("set_num_desktops", "1", check=False)
         return self.tell("get_num_desktops", check=False) == "1"
 
@@ -82,7 +82,7 @@ class Desktop:
         return self.folder / f"{name}.log"
 
     def start(self, name, command, **options):
-        """Starts a process whose output lies in a file of its name."""
+        """Starts a process whose output goes to a file of its name."""
         with self.log(name).open("wb") as log:
             self.processes[name] = subprocess.Popen(command, env=self.surroundings, stdin=subprocess.DEVNULL,
                                                     stdout=log, stderr=subprocess.STDOUT, **options)
@@ -93,7 +93,7 @@ class Desktop:
             ended(process)
 
     def report(self):
-        """Prints how each process is and what it said last."""
+        """Prints the state of each process and its last output."""
         for name, process in self.processes.items():
             state = process.poll()
             print(f"The {name} " + ("runs." if state is None else f"has ended with status {state}."))
@@ -101,7 +101,7 @@ class Desktop:
                 print(f"    {line}")
 
     def check(self):
-        """A desktop that is broken raises DesktopFailure."""
+        """Raises DesktopFailure if the desktop is broken."""
         for name in ("display server", "window manager"):
             if name in self.processes and self.processes[name].poll() is not None:
                 raise DesktopFailure(f"The {name} has ended.")

@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""Walks through the program as it is delivered, in a real window of a real display, with nothing but the keyboard.
+"""Uses the program as it is delivered, in a window on a real display, by keyboard alone.
 
     real_window.py PROGRAM CLAIM [FOLDER FOR PICTURES]
 
-Exit status 77, with the reason, where this machine has no display server, window manager or keyboard driver to try it
-with. A desktop that fails before the program has a window is started anew; a failure of the program never is.
+Exit status 77, with the reason, if this machine has no display server, window manager or keyboard driver. A desktop
+that fails before the program has a window is restarted; a failure of the program is not retried.
 """
 
 import re
@@ -24,7 +24,7 @@ ATTEMPTS = 3
 
 
 def exports_into(claim, folder):
-    """Gives the claim an export folder, in the encoding of the file."""
+    """Gives the claim an export folder, in the file's encoding."""
     text = claim.read_text("latin-1")
     encoded = quote(str(folder), safe="")
     for character, code in (("-", "%2D"), ("_", "%5F"), (".", "%2E"), ("~", "%7E")):
@@ -35,7 +35,7 @@ def exports_into(claim, folder):
 
 
 class Walk:
-    """The program on a desktop, and what the keys do in it."""
+    """The program on a desktop, used by keyboard."""
 
     def __init__(self, desktop, program, claim, pictures):
         self.desktop = desktop
@@ -48,7 +48,7 @@ class Walk:
         self.desktop.picture(self.pictures, name)
 
     def runs(self):
-        """Ends the test when the program has ended by itself."""
+        """Ends the test if the program has ended by itself."""
         if self.program.poll() is None:
             return
         if not self.up and "could not connect to display" in self.desktop.log("program").read_text("utf-8", "replace"):
@@ -56,11 +56,11 @@ class Walk:
         sys.exit("The program has ended.")
 
     def window(self, *titles):
-        """Waits for one of these windows to be the active one, and gives its title."""
+        """Waits until one of these windows is active, and returns its title."""
         def shown():
             self.runs()
             self.title = self.desktop.title()
-            # The splash bears the title of the main window, which fills the screen.
+            # The splash has the main window's title, but only the main window fills the screen.
             return self.title in titles and (self.title != MAIN or self.desktop.fills_the_screen())
 
         try:

@@ -26,7 +26,7 @@
 
 namespace {
 
-/// A test with an application of its own, which may end.
+/// Base of tests with an application of their own, which may end.
 class Application : public testing::Test {
 protected:
     void SetUp() override
@@ -36,11 +36,11 @@ protected:
             ++copies;
             return copy;
         };
-        // A loop that nothing ends is a failure, and not a hanging test.
+        // An endless event loop fails instead of hanging.
         QTimer::singleShot(5000, application.get(), [] { QCoreApplication::exit(99); });
     }
 
-    /// Runs a step as an event of the loop; the status with which the program ends.
+    /// Runs a step as an event of the loop; returns the status with which the program ends.
     int statusOf(const std::function<void()> &step)
     {
         QTimer::singleShot(0, application.get(), step);
@@ -177,7 +177,7 @@ TEST_F(Application, LoopsWithinLoopsEndAndNoFurtherEventIsDelivered)
         });
         QEventLoop inner;
         inner.exec();
-        // What stands on the road back meets an application that delivers nothing more.
+        // Code that runs while the stack unwinds meets an application that no longer delivers events.
         EXPECT_TRUE(oApplication::ending());
         QDialog late;
         late.exec();
@@ -251,7 +251,7 @@ TEST_F(Application, ASystemQuestionThatTheEndClosesChangesNothing)
 
 TEST_F(Application, TheDesktopsQuestionBeforeTheSessionsEndWritesTheCopyAndEndsNothing)
 {
-    // Only the desktop can make a session, and what is connected to the signal does not look at it.
+    // Only the desktop can create a session; the connected slot doesn't use its argument.
     alignas(QSessionManager) char noSession[sizeof(QSessionManager)] = {};
     void *arguments[] = {nullptr, noSession};
     const QMetaMethod signal = QMetaMethod::fromSignal(&QGuiApplication::commitDataRequest);

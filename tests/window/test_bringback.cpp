@@ -1,4 +1,4 @@
-// What was typed on a screen and not stored, and how it comes back.
+// Texts typed on a screen and not stored, and how they are restored.
 
 #include "base/mdCodePage.h"
 #include "commands/clsJournal.h"
@@ -31,12 +31,12 @@ protected:
         clsMainWindowTest::TearDown();
         NotStored().leaveClaim();
     }
-    /// Does something that opens a screen, and uses that.
+    /// Calls `open`, which opens a screen, and uses that screen.
     void inScreen(const std::function<void()> &open, const Use &use)
     {
         bool used = false;
         QTimer::singleShot(0, window.get(), [&] {
-            // What puts texts back waits for the screen too.
+            // The code that restores texts waits for the screen too.
             QTimer::singleShot(0, window.get(), [&] {
                 auto *screen = qobject_cast<frmSection *>(QApplication::activeModalWidget());
                 ASSERT_TRUE(screen);
@@ -71,7 +71,7 @@ protected:
         QTest::keyClicks(part, text);
     }
     static void escape(frmSection &screen) { QTest::keyClick(screen.focusWidget(), Qt::Key_Escape); }
-    /// Types into Details of Work, and leaves it by Esc.
+    /// Types in Details of Work, and leaves it with Esc.
     void lose(const QString &text)
     {
         inSection("Details of Work", [&](frmSection &screen) {
@@ -98,13 +98,13 @@ protected:
         QFile file(path("state/Velmor/Not stored.json"));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
-    /// The program ends without its user and comes anew.
+    /// Ends the program without the user and starts it again.
     void startAnew(const QString &claim)
     {
         window.reset();
         Form.reset();
         CleanXML.clear();
-        // As in a new process, which knows nothing.
+        // Cleared, as in a new process.
         NotStored() = clsNotStored();
         start(claim);
     }
@@ -384,7 +384,7 @@ TEST_F(BringBack, WhatAJournalHoldsAsTypedIsOffered)
     inSection("Details of Work", [&](frmSection &screen) {
         type(screen.Box("txtDetailsOfCase"), sixteen);
         Journal().flush();
-        // What ends here is the program: the screen goes without its user.
+        // The program ends here: the screen is closed without the user.
         screen.done(QDialog::Rejected);
     });
     startAnew({});

@@ -1,4 +1,4 @@
-// The program opens a claim of which some figures can't be computed, and names what an error comes from.
+// The program opens a claim in which some figures can't be computed, and reports the cause of errors.
 
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
@@ -15,7 +15,7 @@ namespace {
 
 class BrokenClaims : public clsProgramTest {
 protected:
-    /// A sample with the content of an element changed, the first one below a list or section.
+    /// A sample with the content of one element changed: the first of that name below a list or section.
     QString spoilt(const char *sample, const char *below, const char *element, const char *content)
     {
         QFile file(mdSamplePath(QString::fromLatin1(sample)));
@@ -38,7 +38,7 @@ protected:
         written.write(text);
         return claim;
     }
-    /// How many cells of the preview are marked.
+    /// The number of marked cells in the preview.
     static int marks()
     {
         int count = 0;

@@ -9,7 +9,7 @@
 
 #include <cmath>
 
-// The panel with what the check has found, by keyboard.
+// The panel with the findings of the check, by keyboard.
 
 namespace {
 
@@ -154,7 +154,7 @@ TEST_F(CheckPanel, TheMenuOpensByKeysAndByItsSign)
     const QRect row = list().visualRect(list().currentIndex());
     QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, QPoint(row.right() - 20, row.center().y()));
     EXPECT_TRUE(closed());
-    press(Qt::Key_Home); // a group has none
+    press(Qt::Key_Home); // a group has no menu
     press(Qt::Key_F10, Qt::ShiftModifier);
     EXPECT_FALSE(closed());
 }

@@ -1,4 +1,4 @@
-// A whole claim from an empty form to the saved file, by keys alone, and its figures by the program's own tool.
+// A whole claim from an empty form to the saved file, by keyboard alone, with its figures from the program's own tool.
 
 #include "controls/oSGrid.h"
 #include "formdata/clsZR3Form.h"
@@ -11,16 +11,16 @@
 
 namespace {
 
-/// What is typed into a control; the Tab key leads from one to the next.
+/// What is typed into a control; the Tab key moves from one to the next.
 struct clsEntry {
     const char *control;
-    const char *keys = ""; ///< a blank is the space bar, which ticks
+    const char *keys = ""; ///< a space stands for the space bar, which ticks
 };
 
 struct clsScheduleItem {
-    int feeEarner; ///< by its function key; 0 where it is that of the item before
-    const char *date; ///< the year is remembered; nothing where the tick is taken off
-    const char *code; ///< nothing where it is to stay "DOT"
+    int feeEarner; ///< by its function key; 0 if the same as for the previous item
+    const char *date; ///< the year is remembered; empty if the date is unticked
+    const char *code; ///< empty if it stays "DOT"
     const char *description;
     const char *minutes;
     const char *ticks; ///< their letters
@@ -63,7 +63,7 @@ protected:
     {
         key(letter, Qt::AltModifier, std::move(waitsFor), place);
     }
-    /// Opens the editor of a new item, fills it and is back with it.
+    /// Opens the editor of a new item, fills it in and returns.
     void add(char letter, const char *editor, const char *screen, std::vector<clsEntry> entries,
         Place place = Place::current())
     {
@@ -213,7 +213,7 @@ void ClaimByKeyboard::enterSchedule()
         key(Qt::Key_Return, Qt::NoModifier, screenIs("frmScheduleOfTime"));
     }
     look([] { EXPECT_EQ(12, onScreen<oSGrid>("sgScheduleOfTime")->Rows()); });
-    // On this form the way goes round here, so that the disbursements are reached by their button.
+    // On this form Next loops here, so the disbursements are opened by their button.
     next("frmCounselOutstandingClaims");
     next("frmDetailsOfWork");
     next("frmScheduleOfTime");
@@ -227,7 +227,7 @@ void ClaimByKeyboard::enterDisbursements()
             {"txtPreparationHourlyRate", "80"}, {"txtTotalPrepCost", "960"}, {"txtCourtAttendanceHourlyRate"},
             {"txtTotalCourtCost"}, {"txtTravelTimeCosts"}, {"txtOtherCosts"}, {"txtNetAmount", "1234.56"},
             {"txtVATAmount"}, {"cmdCalculate", " "}});
-    // From the grid up to the captions of the pages, and down to the fourth.
+    // From the grid up to the pages' captions, and down to the fourth.
     key(Qt::Key_Backtab, Qt::ShiftModifier);
     type(QStringLiteral("↓↓↓"));
     key(Qt::Key_Return, Qt::NoModifier, [] { return onScreen<oSGrid>("sgOtherDisbursements")->isVisible(); });
@@ -247,7 +247,7 @@ void ClaimByKeyboard::enterCommunications()
     type(QStringLiteral("cccc"));
     key(Qt::Key_C, Qt::ShiftModifier);
     type(QStringLiteral("ooooo"));
-    // The second, by its number: a figure at a time is typed.
+    // The second, by its number: the counts are typed.
     key(Qt::Key_2, Qt::NoModifier, rowIs(2));
     key(Qt::Key_Return, Qt::NoModifier, screenIs("frmCorrespondences"));
     enter({{"txtCalls", "7"}, {"txtLettersIn", "4"}, {"txtLettersOut", "12"}});
@@ -308,7 +308,7 @@ void expectSections(const clsZR3Form &saved)
     EXPECT_EQ(QStringLiteral("Larch Lettings"), saved.DebtorsDetails.SurnameOrOrganisation());
 }
 
-/// What doesn't show in the figures.
+/// What the figures don't show.
 void expectSchedule(const clsZR3Form &saved)
 {
     EXPECT_EQ(QStringLiteral("02/06/25"), saved.ScheduleOfTimeItemByOrderID(1)->dDate());
@@ -323,7 +323,7 @@ void expectSchedule(const clsZR3Form &saved)
 
 TEST_F(ClaimByKeyboard, IsTheBillThatPenAndPaperGive)
 {
-    longestRun = 60000; // some 700 keys, on a machine that may have other work
+    longestRun = 60000; // some 700 keys, on a machine that may be busy
     const QString claim = path("claims/Holloway.zr3");
     enterFormSetup();
     enterFeeEarners();

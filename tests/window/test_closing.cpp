@@ -6,7 +6,7 @@
 
 #include <cerrno>
 
-// How the main window is left: what is asked, what is set aside where a save fails, and what holds it open.
+// Leaving the main window: the questions, the copies if a save fails, and what keeps it open.
 
 namespace {
 

@@ -1,4 +1,4 @@
-// What differs between two states of a claim, in a window.
+// The window with the differences between two states of a claim.
 
 #include "commands/clsJournal.h"
 #include "commands/mdJournalFile.h"
@@ -48,7 +48,7 @@ protected:
         file.seek(0);
         file.write(bytes);
     }
-    /// Presses "Compare" in the bar by the keyboard, and tells what the window shows.
+    /// Presses "Compare" in the bar by keyboard, and returns what the window shows.
     QStringList compared()
     {
         QStringList rows;
@@ -139,7 +139,7 @@ TEST_F(Compare, TheOpenClaimIsHeldAgainstWhatAnotherProgramWrote)
     const QString claim = savedClaim();
     Form->ClientDetails.Surname = QStringLiteral("Hartwell");
     Form->AddDisbursement()->Description = QStringLiteral("Taxi");
-    QTest::qWait(1100); // the stamp of the file has to be another one
+    QTest::qWait(1100); // the file needs a different time stamp
     change(claim, "</vzrform>", " </vzrform>");
     window->journal().refresh();
     EXPECT_EQ(QStringList({QStringLiteral("Compare"), QStringLiteral("Open theirs")}), answers());

@@ -1,4 +1,4 @@
-// The limit of costs: set in its dialog, kept in the claim, shown in the strip.
+// The limit of costs: entered in its dialog, saved in the claim, shown in the strip.
 
 #include "commands/clsNotStored.h"
 #include "controls/oDecimalBox.h"
@@ -24,7 +24,7 @@ protected:
         EXPECT_TRUE(read.open(QIODevice::ReadOnly));
         return read.readAll();
     }
-    /// Opens the dialog and types into its box, by the keyboard alone; `end` is the key that leaves it.
+    /// Opens the dialog and types into its box, by keyboard alone; `end` is the key that leaves it.
     void type(const char *amount, Qt::Key end = Qt::Key_Return)
     {
         bool seen = false;
@@ -55,7 +55,7 @@ protected:
         return *item;
     }
 
-    QString found; ///< what stood in the box when the dialog opened
+    QString found; ///< the text of the box when the dialog opened
 };
 
 } // namespace
@@ -164,7 +164,7 @@ TEST_F(CostsLimitDialog, IsTheLastEntryButOneOfTools)
 
 TEST_F(CostsLimitDialog, IsABarOfTheStrip)
 {
-    startOn("housing-typical.zr3"); // 9,407.12 net and 1,588.49 of counsel: 10,995.61
+    startOn("housing-typical.zr3"); // 9,407.12 net and 1,588.49 for counsel: 10,995.61
     struct clsCase {
         const char *limit;
         clsStripLimit::clsState state;
@@ -176,7 +176,7 @@ TEST_F(CostsLimitDialog, IsABarOfTheStrip)
             clsCase {"20000", clsStripLimit::Plenty, "10,995.61 of 20,000.00",
                 "10,995.61 net of VAT with counsel; 9,004.39 left"},
             {"12217.35", clsStripLimit::Plenty, "10,995.61 of 12,217.35",
-                "10,995.61 net of VAT with counsel; 1,221.74 left"}, // nine tenths are 10,995.615
+                "10,995.61 net of VAT with counsel; 1,221.74 left"}, // 90 per cent is 10,995.615
             {"12217.34", clsStripLimit::Near, "10,995.61 of 12,217.34",
                 "10,995.61 net of VAT with counsel; 1,221.73 left"}, // 10,995.606
             {"10995.61", clsStripLimit::Near, "10,995.61 of 10,995.61", "10,995.61 net of VAT with counsel; 0.00 left"},

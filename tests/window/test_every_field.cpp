@@ -10,7 +10,7 @@
 
 namespace {
 
-/// A claim in which every field of every screen has a value of its own.
+/// A claim in which every field of every screen has a unique value.
 class EveryField : public clsFieldWalk {
 protected:
     void fillAll(const clsTabsOfType &type, clsFieldMarks &marks)
@@ -22,14 +22,14 @@ protected:
                 },
                 [&](frmSection &screen, const auto &expected, int) {
                     clickExclusives(screen, expected, marks);
-                    // Without VAT its rate, which was typed before, can't be typed any more.
+                    // Without VAT the rate, which was typed before, can no longer be typed.
                     if (std::string_view(expected.name) == "frmFormSetup")
                         click(screen.Box("chkVAT"));
                 }});
     }
     void fill(frmSection &screen, const clsExpectedScreen &expected, const clsExpectedField &field, int item,
         clsFieldMarks &marks);
-    /// Of each group that was clicked through, and of which the last tick now stands, clicks the one that is to stay.
+    /// In each group that was clicked through, and in which the last tick is now set, clicks the one that is to stay.
     static void clickExclusives(frmSection &screen, const clsExpectedScreen &expected, const clsFieldMarks &marks)
     {
         for (const clsExclusiveTicks &group : ExclusiveTicks) {
@@ -41,7 +41,7 @@ protected:
         }
     }
 
-    /// Saves the claim as a file, begins a new one and opens the file again, each by its key.
+    /// Saves the claim to a file, starts a new one and opens the file again, each by its key.
     void saveAndOpenAgain(const QString &file)
     {
         user.files = {file};
@@ -71,7 +71,7 @@ protected:
                 [](frmSection &, const auto &, int) {}});
         EXPECT_EQ(marks.fields(), looked);
     }
-    /// The tick or the list of a control that has both; else the control.
+    /// The tick or the list of a control that has both; otherwise the control.
     static QWidget &part(QWidget &control, char kind)
     {
         if (control.inherits("oCounselBox") || control.inherits("oEnhancementsBox"))
@@ -120,7 +120,7 @@ void EveryField::expectStored(const clsFieldMarks &marks, const QString &file)
             const pugi::xml_node element = document.select_node(("/vzrform/" + mark.path).c_str()).node();
             EXPECT_TRUE(element) << mark.where << ": no " << mark.path;
             EXPECT_EQ(mark.content, QByteArray(element.child_value())) << mark.where << " in " << mark.path;
-            // What is ticked or chosen has no value of its own.
+            // Ticks and choices have no unique value.
             if (std::string_view("xl").find(mark.kind) == std::string_view::npos) {
                 EXPECT_EQ(1, bytes.count('>' + mark.content + '<')) << mark.where;
             }
@@ -147,7 +147,7 @@ void EveryField::prove(const clsTabsOfType &type, clsFieldMarks &marks, int fiel
     ASSERT_NO_FATAL_FAILURE(saveAndOpenAgain(file));
     expectStored(marks, file);
     expectShown(type, marks);
-    // Every screen was stored on the way, with nothing typed.
+    // Every screen was stored on the way, without any typing.
     EXPECT_EQ(file, header());
     EXPECT_FALSE(FormIsDirty());
     EXPECT_TRUE(user.messages.empty());
@@ -155,9 +155,9 @@ void EveryField::prove(const clsTabsOfType &type, clsFieldMarks &marks, int fiel
 
 } // namespace
 
-// The first page always goes with the export; a Claim1 has ten. Of the ticks that exclude each other each one has its
-// turn: there are up to three in a group on a Claim1, up to four on a Claim1A. The bits tell sixteen fields of a screen
-// apart on a Claim1A, and with those of a Claim1 all fields of the first screen, which is the longest.
+// The first page is always exported; a Claim1 has ten pages. Each of the ticks that exclude each other is set in turn:
+// a group has up to three on a Claim1, and up to four on a Claim1A. The bits distinguish sixteen fields of a screen on
+// a Claim1A, and together with those of a Claim1 all fields of the first screen, which is the longest.
 
 TEST_F(EveryField, OfAClaim1IsStoredInItsElementAndShownAgain)
 {

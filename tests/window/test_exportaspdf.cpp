@@ -61,7 +61,7 @@ TEST_F(PdfExport, TenOneAfterTheOtherLeaveNothingBehind)
 {
     workingOfficeProgram();
     start(sample("housing-typical.zr3"));
-    // Other programs' folders come and go in the common one.
+    // Other programs create and delete folders in the common one.
     const QByteArray common = qgetenv("TMPDIR");
     const QString own = path("temporary");
     ASSERT_TRUE(QDir().mkpath(own));

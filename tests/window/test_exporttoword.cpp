@@ -62,7 +62,7 @@ protected:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArrayLiteral("(no file)");
     }
 
-    /// Only page 1, so that an export takes no time.
+    /// Only page 1, so that an export is fast.
     static void includeOnlyPage1()
     {
         for (int page = 2; page <= 13; ++page)
@@ -192,7 +192,7 @@ TEST_F(ExportToWord, SaysWhatItGaveAndOpensIt)
     press("cmdOpenDocument");
     EXPECT_EQ(QStringList(path("out/Claim1.doc")), user.opened);
 
-    // An export that gives nothing takes the line back.
+    // An export without a result removes the line.
     Form->FormType = QStringLiteral("Claim9");
     press("cmdExport");
     EXPECT_EQ(QString(), line.text());
@@ -363,7 +363,7 @@ TEST_F(ExportToWord, TheDocumentHasTheRightsOfTheClaimsFile)
     includeOnlyPage1();
     open(path("out"));
     const auto owner = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
-    // Never saved; saved; saved under a name that the claim itself can't hold.
+    // Never saved; saved; saved under a name that the claim itself can't store.
     const QString foreign = folder.filePath(QStringLiteral("\u6cd5.zr3"));
     for (const QString &claim : {QString(), path("claim.zr3"), foreign}) {
         if (!claim.isEmpty()) {

@@ -33,7 +33,7 @@ TEST_F(FileDialogs, ChoosesAFolder)
 
 namespace {
 
-/// Types a folder, as the toolkit's dialog may have it when that is done at speed: a folder above is still selected.
+/// Types a folder while a parent folder is still selected, as can happen in Qt's dialog when typing fast.
 void typeOver(QFileDialog &dialog, const QString &selected, const QString &typed)
 {
     auto &name = *dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
@@ -169,7 +169,7 @@ TEST_F(FileDialogs, BeginsInTheFolderOfTheClaimElseInTheOneLastUsed)
     whenShown<QFileDialog>([&](QFileDialog &dialog) { EXPECT_EQ(path("other"), dialog.directory().path()); });
     EXPECT_EQ(QString(), windows.chooseFileToOpen(filter));
 
-    // A claim that can't hold the name of its folder lies in it all the same.
+    // A claim that can't store the name of its folder is still in that folder.
     Preferences = std::make_unique<clsZR3PreferencesDatabase>();
     const QString foreign = folder.filePath(QString::fromUtf8("Żółw"));
     QDir().mkpath(foreign);
@@ -287,7 +287,7 @@ TEST_F(FileDialogs, ExportingProposesANameAndReplacesNothingUnasked)
     });
     EXPECT_EQ(proposed, windows.chooseFileToExport(filter, QStringLiteral(".pdf"), proposed));
 
-    // The name that the dialog has asked about is not yet the whole.
+    // The name in the dialog's question is not yet complete.
     QFile other(path("claims/Smith v. Jones.pdf"));
     ASSERT_TRUE(other.open(QIODevice::WriteOnly));
     for (const char *answer : {"cmdNo", "cmdYes"}) {

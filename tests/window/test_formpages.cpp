@@ -22,7 +22,7 @@ TEST_F(FormPages, StandBesideTheGridUntilItIsCalledBack)
         EXPECT_TRUE(page().isVisible());
         EXPECT_FALSE(grid.isVisible());
         EXPECT_TRUE(page().View()->hasFocus());
-        user.answers = {clsUserInterface::No}; // nothing is to be saved
+        user.answers = {clsUserInterface::No}; // don't save
         entry(back).trigger();
         EXPECT_FALSE(page().isVisible()) << back;
         EXPECT_TRUE(grid.isVisible()) << back;
@@ -58,7 +58,7 @@ TEST_F(FormPages, TheSameClaimIsNotConvertedTwice)
     showPages();
     showPages();
     EXPECT_EQ(1, runs());
-    // What no page shows is no change, and neither is one that was taken back.
+    // Neither a change that no page shows nor one that was undone counts.
     Form->TimeSpent = QStringLiteral("09:59");
     Form->ExportPath = path("claims");
     window->Activate();
@@ -130,7 +130,7 @@ TEST_F(FormPages, WhatFailedIsNotTriedAgainAtEachActivation)
     activate();
     EXPECT_EQ(2, runs());
     EXPECT_EQ(QStringLiteral("LibreOffice failed to make the PDF (exit status 7)."), state());
-    // Until the claim changes,
+    // Not again until the claim changes,
     const QString failed = Form->ClientDetails.Surname();
     change();
     activate();
@@ -142,7 +142,7 @@ TEST_F(FormPages, WhatFailedIsNotTriedAgainAtEachActivation)
     EXPECT_EQ(4, runs());
     showPages();
     EXPECT_EQ(5, runs());
-    // Once there have been new pages, the old failure is forgotten.
+    // After new pages, the old failure is forgotten.
     workingOfficeProgram();
     showPages();
     EXPECT_EQ(6, runs());
@@ -307,7 +307,7 @@ TEST_F(FormPages, ZoomByKeysAndFitTheWidth)
     EXPECT_EQ(QStringLiteral("90 %"), zoom());
     QTest::keyClick(window.get(), Qt::Key_0, Qt::ControlModifier);
     EXPECT_EQ(fitting, view.Zoom());
-    // A view of any width: the page and an edge, and never more than a quarter larger than on paper.
+    // At any width: the page and a margin, but never more than a quarter larger than on paper.
     window->resize(2400, 760);
     EXPECT_EQ(125, view.Zoom());
     window->resize(700, 760);
@@ -347,7 +347,7 @@ TEST_F(FormPages, ThreeHundredPagesAreQuick)
     QTest::keyClick(pages.View(), Qt::Key_End);
     pages.grab();
     EXPECT_EQ(299, pages.View()->CurrentPage());
-    // All of them drawn would take many times as long.
+    // Drawing all of them would take many times as long.
     EXPECT_LT(timer.elapsed(), 2000);
 }
 

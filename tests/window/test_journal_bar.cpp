@@ -1,4 +1,4 @@
-// The journal while the main window is up, and the bar that tells what of the user's work is in danger.
+// The journal while the main window is open, and the bar that reports dangers to the user's work.
 
 #include "commands/clsJournal.h"
 #include "commands/mdRecoveredCopy.h"
@@ -43,7 +43,7 @@ protected:
         QFile file(path("state/Velmor/Journal/") + journals().value(0));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
-    /// The window goes without its user, as in a kill, and comes anew.
+    /// Removes the window without the user, as in a kill, and starts a new one.
     void killAndStart(const QString &claim = {})
     {
         Journal().flush();

@@ -140,7 +140,7 @@ TEST_F(MainMenu, WithoutAWordThereIsNoExport)
 
 namespace {
 
-/// The name of the modal window that an entry opens; it is closed again.
+/// The name of the modal window that an entry opens; closes it again.
 QString modalOf(QAction &entry)
 {
     QString name;

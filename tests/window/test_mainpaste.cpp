@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Rows that come into the schedule from the main window.
+/// Pasting rows into the schedule from the main window.
 class MainPaste : public clsMainWindowTest {
 protected:
     void TearDown() override

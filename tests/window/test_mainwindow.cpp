@@ -98,7 +98,7 @@ TEST_F(MainWindow, OpensTheClaimOfTheCommandLineAndShowsItsBill)
 {
     const QString claim = sample("housing-typical.zr3");
     start(claim);
-    // It lies elsewhere than where it was saved, so that it counts as changed.
+    // It is not where it was saved, so it counts as changed.
     EXPECT_EQ(claim + u'*', header());
     EXPECT_GT(preview().Rows(), 10);
     EXPECT_TRUE(user.messages.empty());
@@ -119,7 +119,7 @@ TEST_F(MainWindow, AfterASaveTheFullPathStandsWithoutTheMark)
     entry("mnuSave").trigger();
     EXPECT_EQ(path("claims/empty.zr3"), header());
     Form->ClientDetails.Surname = QStringLiteral("Hartwell");
-    // At the next run of the routine, and not at the change.
+    // At the next update, not at the change itself.
     EXPECT_EQ(path("claims/empty.zr3"), header());
     window->Activate();
     EXPECT_EQ(path("claims/empty.zr3*"), header());
@@ -214,7 +214,7 @@ TEST_F(MainWindow, ATimeThatDoesNotFitHoldsTheClaim)
     EXPECT_TRUE(user.messages.empty());
     EXPECT_EQ(QStringLiteral("Hartwell"), Form->ClientDetails.Surname());
     EXPECT_EQ(QStringLiteral("soon"), TimeSpentBox->TimeSpent());
-    // But not the end of the program.
+    // But it doesn't prevent closing the program.
     EXPECT_TRUE(window->close());
 }
 
@@ -333,7 +333,7 @@ TEST_F(MainWindow, TheFirstDrawingHasTheWidthOfTheSheetThatIsShown)
     for (const bool maximised : {true, false}) {
         window = std::make_unique<frmMain>();
         window->Load({});
-        if (!maximised) { // as on a desktop that gives the window another size than it asked for
+        if (!maximised) { // as on a desktop that gives the window a different size
             window->setWindowState(Qt::WindowNoState);
             window->resize(1300, 700);
         }
@@ -391,7 +391,7 @@ TEST_F(MainWindow, WhatIsNoClaimIsNotTakenFromADrag)
     start();
     drop({QUrl::fromLocalFile(path("claims/letter.doc"))});
     drop({QUrl(QStringLiteral("https://www.velmor.example/claim.zr3"))});
-    // Its name is no text: as one it would be that of another file.
+    // Its name is not valid text: converted to text it would be that of another file.
     drop({QUrl(QStringLiteral("file:///%FF.zr3"))});
     drop({QUrl::fromLocalFile(path("a.zr3")), QUrl::fromLocalFile(path("b.zr3"))});
     EXPECT_EQ(QStringLiteral("New ZR3 File"), header());
@@ -421,7 +421,7 @@ TEST_F(MainWindow, RestoredItStandsOnTheScreenWithItsFrame)
     show(*window);
     EXPECT_TRUE(window->isMaximized());
     window->showNormal();
-    // A desktop's frame is up to 40 pixels high, which the window doesn't know of before it is shown.
+    // A desktop's frame is up to 40 pixels high, which the window doesn't know before it is shown.
     const QRect room = window->screen()->availableGeometry();
     EXPECT_TRUE(
         QTest::qWaitFor([&] { return room.contains(QRect(window->pos(), window->size() + QSize(0, 40))); }, 1000))

@@ -5,7 +5,7 @@
 #include <QDialog>
 #include <QTimer>
 
-// From the main window straight to a place of the claim: its screen, the editor of its item, its field.
+// From the main window straight to a place in the claim: its screen, the editor of its item, its field.
 
 namespace {
 

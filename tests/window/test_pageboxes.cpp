@@ -34,7 +34,7 @@ TEST_F(PageBoxes, ABoxOpensItsScreenOnItsField)
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, place);
     EXPECT_EQ(QStringLiteral("frmClientDetails txtSurname"), focus);
     EXPECT_TRUE(page().isVisible());
-    // Beside all boxes there is nothing to open.
+    // Outside the boxes nothing can be opened.
     QTest::mouseMove(view.viewport(), {2, 2});
     EXPECT_EQ(-1, view.MarkedBox());
     EXPECT_EQ(state(), view.accessibleDescription());
@@ -138,7 +138,7 @@ TEST_F(PageBoxes, WhatIsPrintedSmallerHasItsSignInTheMargin)
     EXPECT_EQ(1, signs[size_t(sign)].page);
     view.setZoom(100);
     view.verticalScrollBar()->setValue(view.PlaceOfSign(sign).center().y() - view.viewport()->height() / 2);
-    // Beside the box, and left of it.
+    // Beside the box, on its left.
     const QRect place = view.PlaceOfSign(sign);
     const QRect whole = view.PlaceOfBox(box);
     EXPECT_TRUE(whole.top() <= place.center().y() && place.center().y() <= whole.bottom());
@@ -150,7 +150,7 @@ TEST_F(PageBoxes, WhatIsPrintedSmallerHasItsSignInTheMargin)
         for (int y = 0; y < drawn.height(); ++y)
             blue += drawn.pixelColor(x, y) == Theme::Blue;
     EXPECT_GT(blue, 5);
-    // Its words are the tooltip's, and the box says them too.
+    // The tooltip shows its text, which is also in the box's description.
     QHelpEvent asked(QEvent::ToolTip, place.center(), view.viewport()->mapToGlobal(place.center()));
     QApplication::sendEvent(view.viewport(), &asked);
     EXPECT_EQ(signs[size_t(sign)].note.words, QToolTip::text());
@@ -191,7 +191,7 @@ TEST_F(PageBoxes, ASheetThatRunsOnHasItsSignAtItsHead)
                              "Explanation: runs on to another page"),
         signs[1].note.words);
     EXPECT_TRUE(mdPageMarks(given, QStringLiteral("Claim1"), 4).signs.empty());
-    // Where the grown row leaves the sheet on its page, what stands below it has moved.
+    // If the sheet with the grown row stays on one page, everything below the row has moved.
     given.Sheets[1].PaperPages = 1;
     const auto moved = mdPageMarks(given, QStringLiteral("Claim1"), 2);
     EXPECT_EQ(0, moved.signs.back().left);
@@ -292,7 +292,7 @@ TEST_F(PageBoxes, TheRowsLieWhereTheOfficeProgramPrintsTheirItems)
                 within = within
                     || box.points.adjusted(-3, -3, 3, 3)
                            .contains(pdf.getSelectionAtIndex(box.page, int(at), int(word.size())).boundingRectangle());
-            // Counsel's fees show counsel's name in the place of a description.
+            // Counsel's fees show counsel's name instead of a description.
             EXPECT_TRUE(within || list == QLatin1String("disbursements")) << name << ' ' << qPrintable(box.target);
             rows[list] += within;
         }

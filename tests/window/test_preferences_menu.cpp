@@ -12,13 +12,13 @@
 
 #include <functional>
 
-// The preferences, as they are reached from the program: by the menu, and from a box of any screen.
+// The preferences, opened from the program: from the menu, and from a box on any screen.
 
 namespace {
 
 class PreferencesMenu : public clsMainWindowTest {
 protected:
-    /// The same, and notes that the screen was opened.
+    /// The same, and records that the screen was opened.
     void onceOpened(const char *name, std::function<void(frmSection &)> use)
     {
         ::onceOpened(name, [this, name, use = std::move(use)](frmSection &screen) {
@@ -34,7 +34,7 @@ protected:
     {
         QTest::mouseClick(&screen.Box(tick), Qt::LeftButton, {}, QPoint(12, 12));
     }
-    /// The entry of the menu that a box pops up.
+    /// The entry of a box's context menu.
     static QAction *editReplacements(const oAllPurposeBox &box)
     {
         const auto menu = box.findChild<oSpellText *>()->menuAt(0);
@@ -118,7 +118,7 @@ TEST_F(PreferencesMenu, EditReplacementsOpensTheSecondPageOverTheScreenOfTheBox)
             press(screen, "cmdClose");
         });
         edit->trigger();
-        // At once, at the next blank.
+        // At the next space, without closing the screen.
         EXPECT_TRUE(client.isVisible());
         QWidget *editor = surname.focusProxy();
         editor->setFocus();

@@ -65,7 +65,7 @@ TEST_F(Program, TheWholeCommandLineIsOnePath)
 
 TEST_F(Program, AClaimWhoseNameIsNoTextIsRefused)
 {
-    // As a text it would be the name of another file.
+    // Converted to text it would be the name of another file.
     ASSERT_TRUE(QFile::copy(mdSamplePath(QStringLiteral("empty.zr3")), path("claims/\xef\xbf\xbd.zr3")));
     for (const QByteArray &name : {QFile::encodeName(path("claims/")) + "\xff.zr3",
              "file://" + QFile::encodeName(path("claims/")).toPercentEncoding("/") + "%FF.zr3"}) {
@@ -223,7 +223,7 @@ TEST_F(Program, ASignalWhileTheFirstClaimIsOpenedShowsNoWindow)
         if (!box)
             return false;
         EXPECT_EQ(QStringLiteral("File Not Read"), box->windowTitle());
-        // What still happens on the way back has happened by then.
+        // Everything that happens while the stack unwinds has happened by then.
         QObject::connect(oApplication::instance(), &QCoreApplication::aboutToQuit,
             [&shown] { shown = topLevel<frmMain>() && topLevel<frmMain>()->isVisible(); });
         std::raise(SIGTERM);
@@ -309,7 +309,7 @@ TEST_F(Program, AnExportWithoutItsTemplatesEndsTheProgramAndKeepsTheClaim)
             QTimer::singleShot(0, button, &QPushButton::click);
         } else if (const frmMessageBox *box = messageBox()) {
             text = textOf(*box);
-            // Another word processor may run where the tests do.
+            // Another word processor may be running on the tester's machine.
             return !press(QStringLiteral("Word Instances")) && press(QStringLiteral("Velmor ZR3"));
         }
         return false;

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// The main window with screens that only note that they were opened, and then do as told.
+/// The main window with screens that only record that they were opened, and then act as the test says.
 class Sections : public clsMainWindowTest {
 protected:
     void startWithScreens(const QString &claimPath = {})
@@ -116,7 +116,7 @@ TEST_F(Sections, NextOpensTheFollowingScreenWhenThePresentOneIsGone)
     window->tbSubSection_Click(1, QStringLiteral("A"));
     EXPECT_EQ(60, opened.size());
     EXPECT_EQ(QStringLiteral("ABCABC"), opened.mid(0, 6).join(QString()));
-    // One after the other, and never one inside the other.
+    // One after the other, never nested.
     EXPECT_EQ(1, deepest);
     EXPECT_EQ(nullptr, QApplication::activeModalWidget());
 }
@@ -154,7 +154,7 @@ TEST_F(Sections, TabsWorkByKeyboard)
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     EXPECT_EQ(2, row("tbSection").SelectedIndex());
-    QCoreApplication::processEvents(); // the new row shows
+    QCoreApplication::processEvents(); // the new row is shown
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);

@@ -125,7 +125,7 @@ TEST_F(Splash, CapitalsAndOtherKeysOnlyRestartTheTimer)
 {
     for (const char16_t capital : {u'P', u'R', u'D'})
         QTest::sendKeyEvent(QTest::Press, splash.get(), Qt::Key(capital), QString(capital), Qt::ShiftModifier);
-    // With Control held, a letter's key has the character of a control code.
+    // With Control held, a letter's key has a control character as its text.
     QTest::sendKeyEvent(QTest::Press, splash.get(), Qt::Key_P, QString(QChar(16)), Qt::ControlModifier);
     QTest::keyClick(splash.get(), Qt::Key_Shift);
     timer->stop();

@@ -4,7 +4,7 @@
 #include "tests/support/mdSpokenNames.h"
 #include "tests/window/clsMainWindowTest.h"
 
-// What screen readers call everything that can have the focus, on the windows of the program itself.
+// The accessible names of everything that can have the focus, on the program's own windows.
 
 namespace {
 

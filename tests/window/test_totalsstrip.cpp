@@ -91,7 +91,7 @@ TEST_F(TotalsStrip, MarksAFigureThatCantBeComputed)
     EXPECT_EQ(QStringLiteral("Experts can't be computed"), figure("ExpertInvoicesNetTotal").accessibleName());
     EXPECT_EQ(QStringLiteral("4,213.49"), figure("ScheduleTotal").Figure());
     EXPECT_EQ(QString(), figure("ScheduleTotal").toolTip());
-    // It is put right.
+    // The error is corrected.
     Form->ExpertInvoiceByOrderID(1)->NetAmount = QStringLiteral("1.00");
     renew();
     EXPECT_EQ(QString(), figure("total").toolTip());

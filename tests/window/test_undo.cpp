@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Undo and redo in the main window, by the keyboard.
+/// Undo and redo in the main window, by keyboard.
 class Undo : public clsMainWindowTest {
 protected:
     void TearDown() override

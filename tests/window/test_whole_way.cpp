@@ -29,7 +29,7 @@ TEST_F(WholeWay, FromTheClaimToTheDocument)
     const auto headerIs = [](const QString &text) { return [text] { return header() == text; }; };
     const auto formTypeIs = [](const char *type) { return [type] { return Form->FormType() == QLatin1String(type); }; };
 
-    // The claim was moved, so that it is marked as changed at once.
+    // The claim was moved, so it is marked as changed at once.
     step([] {}, headerIs(claim + u'*'));
     step([] {}, noScreen);
 
@@ -43,7 +43,7 @@ TEST_F(WholeWay, FromTheClaimToTheDocument)
     type(QStringLiteral("Zarquon"));
     look([] { EXPECT_EQ(QStringLiteral("Zarquon"), textOf("txtTitle")); });
 
-    // On to the next screen and back: both ways store.
+    // To the next screen and back: both store.
     key(Qt::Key_X, Qt::AltModifier, screenIs("frmSolicitorDetails"));
     look([] { EXPECT_EQ(QStringLiteral("Zarquon"), Form->ClientDetails.Title()); });
     key(Qt::Key_P, Qt::AltModifier, screenIs("frmClientDetails"));
@@ -57,7 +57,7 @@ TEST_F(WholeWay, FromTheClaimToTheDocument)
     });
     key(Qt::Key_S, Qt::ControlModifier, headerIs(claim));
 
-    // The other form type and back again.
+    // The other form type, and back again.
     const auto changeType = [&](int arrow, const char *type) {
         key(Qt::Key_Backtab, Qt::ShiftModifier);
         key(Qt::Key_Home);
@@ -77,7 +77,7 @@ TEST_F(WholeWay, FromTheClaimToTheDocument)
     key(Qt::Key_I, Qt::ControlModifier, [] { return PreviewGrid->Columns() == 2; });
     key(Qt::Key_T, Qt::ControlModifier, [] { return PreviewGrid->Columns() == 13; });
 
-    // The export, into a folder that is pasted: a half-typed one would be thrown back at each letter.
+    // The export, to a pasted folder: an incomplete path would be refused at each letter.
     key(Qt::Key_W, Qt::ControlModifier, screenIs("frmExportToWord"));
     look([&] { QGuiApplication::clipboard()->setText(path("export")); });
     key(Qt::Key_A, Qt::ControlModifier);
@@ -86,7 +86,7 @@ TEST_F(WholeWay, FromTheClaimToTheDocument)
     key(Qt::Key_Return, Qt::NoModifier, screenIs("frmExportToWord"));
     key(Qt::Key_C, Qt::AltModifier, noScreen);
 
-    // The export folder is part of the claim, so that there is something to save.
+    // The export folder is part of the claim, so there is something to save.
     key(Qt::Key_Q, Qt::ControlModifier, boxIs("Save?"));
     key(Qt::Key_Return);
 

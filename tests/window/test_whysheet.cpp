@@ -33,7 +33,7 @@ protected:
         press(Qt::Key_Return);
     }
     oCustomButton &button(const char *name) const { return control<oCustomButton>(sheet(), name); }
-    /// The windows that a press opens over the main one, the outer first; they are closed again.
+    /// The windows that `press` opens over the main one, the outermost first; closes them again.
     static QStringList opened(const std::function<void()> &press)
     {
         QStringList names;
@@ -198,10 +198,10 @@ TEST_F(WhySheet, LeadsToTheItemAndItsGroup)
     press(Qt::Key_Return);
     EXPECT_EQ(QStringList({"frmScheduleOfTime", "frmScheduleOfTimeItemEdit"}),
         opened([this] { button("cmdPlace1").click(); }));
-    window->activateWindow(); // no desktop does it here
+    window->activateWindow(); // there is no desktop to do it
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     EXPECT_TRUE(grid().hasFocus());
-    // The list has numbered its items anew.
+    // The list has renumbered its items.
     entry("mnuPreviewScheduleOfTime").trigger();
     press(Qt::Key_Return);
     EXPECT_EQ(
@@ -227,7 +227,7 @@ TEST_F(WhySheet, SaysWhenThePreviewIsOlderThanTheClaim)
 {
     grid().setFocus();
     press(Qt::Key_Return);
-    Form->TimeSpent = QStringLiteral("59:59"); // the clock is no change, nor is a limit of costs
+    Form->TimeSpent = QStringLiteral("59:59"); // neither the stopwatch nor a limit of costs counts as a change
     mdSetCostsLimit(*Form, QStringLiteral("500"));
     press(Qt::Key_Return);
     EXPECT_EQ(QStringLiteral("Item 1"), sheet().Text().about);
@@ -259,7 +259,7 @@ TEST_F(WhySheet, IsAnEntryOfTheMenuForTheRowUnderThePointer)
     EXPECT_EQ(QStringLiteral("Item 3"), sheet().Text().about);
     press(Qt::Key_Escape);
     QCoreApplication::processEvents();
-    // From the menu bar it is the marked row, which that one now is, or the first in view.
+    // From the menu bar it is the marked row, which is now that one, or the first in view.
     grid().MarkRow(0);
     entry("mnuWhyThisFigure").trigger();
     EXPECT_EQ(QStringLiteral("Item 1"), sheet().Text().about);

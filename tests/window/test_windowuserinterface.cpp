@@ -79,7 +79,7 @@ TEST_F(WindowUserInterface, CustomMessagesAreTheSystemsOwnBox)
 
 TEST_F(WindowUserInterface, WhateverIsAskedVeilsTheWindowBelow)
 {
-    // The offscreen platform has no window manager: each time it has to be told which window is the active one.
+    // The offscreen platform has no window manager: each time the active window must be set explicitly.
     QWidget below;
     const auto show = [](QWidget &window) {
         window.show();
@@ -129,7 +129,7 @@ TEST_F(WindowUserInterface, ABoxOverADisabledWindowCanBeAnswered)
 
 namespace {
 
-/// In the middle of a screen, but for the window manager's frame.
+/// In the middle of a screen, apart from the window manager's frame.
 void expectInTheMiddle(const QWidget &box, const QScreen &screen)
 {
     const QPoint off = box.geometry().center() - screen.availableGeometry().center();
@@ -146,7 +146,7 @@ TEST_F(WindowUserInterface, ABoxBeforeTheMainWindowStandsOverTheSplash)
     show(splash);
     const auto stands = [&](const QWidget &box) {
         EXPECT_EQ(&splash, box.parentWidget());
-        // A place that was not asked for is the window manager's to choose, and that is a corner.
+        // Without a requested position the window manager chooses one, usually a corner.
         EXPECT_TRUE(box.testAttribute(Qt::WA_Moved));
         expectInTheMiddle(box, *splash.screen());
     };
@@ -257,7 +257,7 @@ public slots:
     void open(const QUrl &url) { opened << url; }
 };
 
-/// The desktop's opener, as a script in a folder that is the only one in the search path.
+/// A script as the desktop's opener, in a folder that is the only one in the search path.
 class clsOpenerScope {
 public:
     explicit clsOpenerScope(const QString &folder, const QByteArray &script = {})
@@ -283,7 +283,7 @@ private:
 
 TEST_F(WindowUserInterface, OpensFilesAndAddresses)
 {
-    const clsOpenerScope none(path("none")); // then it is the toolkit's to find one
+    const clsOpenerScope none(path("none")); // then Qt looks for one
     clsOpener opener;
     for (const char *scheme : {"file", "https", "mailto"})
         QDesktopServices::setUrlHandler(QString::fromLatin1(scheme), &opener, "open");
@@ -321,7 +321,7 @@ TEST_F(WindowUserInterface, AnOpenerThatFindsNoProgramIsToldOf)
     const clsOpenerScope opener(path("bin"), "exit 3");
     EXPECT_TRUE(windows.openTarget(path("claims")));
     {
-        // Not in the middle of other work.
+        // Not during other work.
         const clsLongWork work;
         QTest::qWait(300);
         EXPECT_TRUE(user.messages.empty());
@@ -338,7 +338,7 @@ TEST_F(WindowUserInterface, ASoundThatIsNotThereIsSilent)
 {
     windows.playSound(path("program/Sounds/Alert.wav"));
     {
-        // One that comes after its owner's end is nothing either.
+        // Nothing happens after its owner's end either.
         clsWindowUserInterface gone;
         gone.playSound(path("program/Sounds/Alert.wav"));
     }

@@ -2,7 +2,7 @@
 
 #include "tests/wordexport/clsTestDocument.h"
 
-/// The end of a sheet: a paragraph that takes next to no room.
+/// The end of a sheet: a paragraph that takes almost no space.
 inline const QString Tail
     = QStringLiteral("<w:p><w:pPr><w:spacing w:before=\"0\" w:after=\"0\" w:line=\"20\" w:lineRule=\"exact\"/>"
                      "<w:rPr><w:sz w:val=\"2\"/></w:rPr></w:pPr></w:p>");
@@ -22,7 +22,7 @@ inline QString withSection(const QString &sectionXml)
     return QStringLiteral("<w:p><w:pPr>%1</w:pPr></w:p>").arg(sectionXml);
 }
 
-/// Documents that are joined in their order, and the result proved sound.
+/// Joins documents in their order and checks the result.
 class clsJoin {
 public:
     explicit clsJoin(const std::vector<clsTestDocument> &documents, bool backSpace = false)
@@ -41,7 +41,7 @@ public:
 
     QString body() const { return bodyXml(path); }
     QString text() const { return plain(path); }
-    /// A part's root element's content.
+    /// The content of a part's root element.
     QString part(const QString &name) const
     {
         clsWordPackage package = clsWordPackage::fromFile(path);

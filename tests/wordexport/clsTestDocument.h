@@ -15,7 +15,7 @@
 #include <sstream>
 #include <vector>
 
-/// A small document made in the test: the XML of its body, and what else it needs.
+/// A small document made by a test: the XML of its body, and other parts if needed.
 struct clsTestDocument {
     struct Part {
         QString name;
@@ -111,7 +111,7 @@ struct clsTestDocument {
     QByteArray bytes() const { return zip().toBytes(clsZipPackage::Deflated); }
 };
 
-/// A folder that holds the documents of one test.
+/// A folder with the documents of one test.
 class clsTestFolder {
 public:
     QString path(const QString &name) const { return m_folder.filePath(name); }
@@ -151,8 +151,8 @@ inline QString bodyXml(const QString &path)
     return innerXml(package.partXml(package.mainPart()).document_element().child("w:body"));
 }
 
-/// Opens a document, lets the test work on it, saves it and returns what is read from it then. Whatever was done to it,
-/// the result is a sound document.
+/// Opens a document, lets the test edit it, saves it and returns what is then read from it. The result must be a sound
+/// document.
 inline QString afterEditing(const clsTestDocument &document, const std::function<void(clsMSWord &)> &edit,
     QString (*read)(const QString &path) = bodyXml)
 {
@@ -166,8 +166,8 @@ inline QString afterEditing(const clsTestDocument &document, const std::function
     return read(path);
 }
 
-/// The text of a body: paragraphs end with "/", cells are parted by "|", rows by "||"; breaks within a paragraph
-/// show as "^", tabs as "~", ticked and empty boxes as "[x]" and "[ ]".
+/// The text of a body: paragraphs end with "/", cells are separated by "|", rows by "||"; breaks within a paragraph are
+/// shown as "^", tabs as "~", ticked and empty boxes as "[x]" and "[ ]".
 inline void appendPlain(const pugi::xml_node &node, QString &out)
 {
     if (WordXml::is(node, "w:t"))
@@ -201,7 +201,7 @@ inline QString plainAfterEditing(const clsTestDocument &document, const std::fun
     return afterEditing(document, edit, plain);
 }
 
-// Shorthand of the bodies.
+// Shorthand for bodies.
 inline QString r(const QString &text, const QString &format = {})
 {
     return QStringLiteral("<w:r>%1<w:t xml:space=\"preserve\">%2</w:t></w:r>")

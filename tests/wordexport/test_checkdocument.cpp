@@ -2,13 +2,13 @@
 #include "tests/wordexport/clsTestDocument.h"
 #include "wordexport/document/mdCheckDocument.h"
 
-// The look at a document from outside, part by part.
+// The check of a document from outside, part by part.
 
 namespace {
 
 const QString Damaged = QStringLiteral("The document X.doc is damaged: its part ");
 
-/// What is wrong with a package, without the words before it; empty where it is sound.
+/// The problem of a package, without the surrounding words; empty if there is none.
 QString complaintAbout(const clsZipPackage &zip)
 {
     try {
@@ -22,7 +22,7 @@ QString complaintAbout(const clsZipPackage &zip)
     return {};
 }
 
-/// A document with a picture that its text and its header show, a link, and settings that the layer never reads.
+/// A document with a picture in its text and its header, a link, and settings that the layer never reads.
 clsTestDocument wholeDocument()
 {
     const QString type = QStringLiteral("application/vnd.openxmlformats-officedocument.wordprocessingml.%1+xml");

@@ -2,7 +2,7 @@
 #include "tests/wordexport/clsJoin.h"
 #include "wordexport/document/mdCheckDocument.h"
 
-// Documents that are joined: their sections, lists, parts, footers and identities.
+// Joining documents: their sections, lists, parts, footers and identities.
 
 namespace {
 
@@ -28,7 +28,7 @@ TEST(InsertFileAtEnd, ADocumentThatEndsWithATableOrASectionsEndGetsATinyParagrap
 {
     const QString ended = withSection(section(page(50)));
     for (const QString &body : {grid(1, 1), ended}) {
-        // A document may break the rule that a body ends with a paragraph; what is joined to it may not.
+        // A document may break the rule that a body ends with a paragraph; the joined document must not.
         const clsJoin join({clsTestDocument(body + section(page(100))), sheet(QStringLiteral("b"))});
         EXPECT_TRUE(join.body().startsWith(body
             + QStringLiteral("<w:p><w:pPr><w:spacing w:before=\"0\" w:after=\"0\" w:line=\"20\" w:lineRule=\"exact\"/>"
@@ -175,7 +175,7 @@ TEST(JoinedParts, LinksToTheWebStayLinks)
 
 TEST(JoinedParts, PartsOfPartsComeAlongWithTheirOwnRelationships)
 {
-    // A chart with a workbook, as one part that refers to another.
+    // A chart with a workbook: a part that refers to another.
     clsTestDocument document(QStringLiteral("<w:p><w:r><w:object r:id=\"rId9\"/></w:r></w:p>") + section(page(100)));
     document.parts.push_back({QStringLiteral("word/charts/chart1.xml"), "<c r:id='rId1' xmlns:r='x'/>",
         QStringLiteral("application/chart+xml"), QStringLiteral("chart"), QStringLiteral("rId9")});
@@ -215,7 +215,7 @@ TEST(JoinedParts, ADocumentWithAMissingPartIsRefusedAndTheTargetStaysAsItWas)
 
 TEST(JoinedParts, AChainOfPartsThatNoWordProcessorWritesIsRefused)
 {
-    constexpr int Length = 1900; // each with its relationships, a package may not hold many more
+    constexpr int Length = 1900; // each has relationships, and the size of a package is limited
     clsTestDocument chain(QStringLiteral("<w:p><w:r><w:object r:id=\"rId9\"/></w:r></w:p>") + section(page(100)));
     for (int i = 0; i < Length; ++i) {
         const QString name = QStringLiteral("word/charts/%1%2.xml%3");
@@ -265,7 +265,7 @@ TEST(JoinedFooters, ADocumentWithoutAFooterDoesNotTakeTheOneBefore)
     const clsJoin join({withFooter(QStringLiteral("one")), sheet(QStringLiteral("b")), sheet(QStringLiteral("c")),
         withFooter(QStringLiteral("four"), "first")});
     EXPECT_EQ(join.part(QStringLiteral("word/footer2.xml")), QStringLiteral("<w:p/>"));
-    // The empty one for both that have none, and for the last one's default footer.
+    // The empty footer serves both documents that have none, and the last one's default footer.
     EXPECT_EQ(join.body().count(QStringLiteral("<w:footerReference w:type=\"default\" r:id=\"rId8\"/>")), 3);
 }
 
@@ -335,14 +335,14 @@ TEST(JoinedNamespaces, APrefixKeepsItsMeaningWhereAnElementDeclaresItAnew)
         + section(page(100)));
     second.rootAttributes = QStringLiteral("xmlns:x=\"urn:two\"");
     const clsJoin join({first, second});
-    // The document has a prefix for "two", which an element of the second one uses for something else.
+    // The document has a prefix for "two", which an element of the second document uses for something else.
     EXPECT_TRUE(join.body().contains(
         QStringLiteral("<x2:note x2:kind=\"k\"/><x:note xmlns:x=\"urn:three\" x:kind=\"k\"><x:in/></x:note>"
                        "<x2:note xmlns:y=\"urn:four\" x2:kind=\"k\" y:kind=\"k\"/>")))
         << join.body().toStdString();
 }
 
-/// A document whose text uses another prefix for relationships than its root, or has one of its own.
+/// A document whose text uses another prefix for relationships than its root, or declares its own.
 clsZipPackage withPrefix(const clsTestDocument &document, const char *rootPrefix, const QByteArray &ownDeclaration)
 {
     clsZipPackage zip = document.zip();
@@ -438,13 +438,13 @@ TEST(InsertFileAtEnd, ATextThatLooksLikeTheLayersOwnMarksDoesNoHarm)
 {
     clsTestDocument made(QStringLiteral("<?settled-?>") + p(QStringLiteral("a")) + section(page(100)));
     const clsJoin join({made, made, made});
-    EXPECT_EQ(join.body().count(QStringLiteral("<?settled-?>")), 1); // that of the first; an appended one is no text
+    EXPECT_EQ(join.body().count(QStringLiteral("<?settled-?>")), 1); // the first's; an appended one is not text
     EXPECT_EQ(join.text(), QStringLiteral("a/a/a/"));
 }
 
 TEST(InsertFileAtEnd, ADocumentNestedBeyondAllMeasureIsRefused)
 {
-    // Taking it out of the tree again level by level within the level above would need more stack than there is.
+    // Recursive removal from the tree, level by level, would overflow the stack.
     constexpr int Depth = 300000;
     const clsTestDocument deep(QStringLiteral("<w:p>").repeated(Depth) + QStringLiteral("</w:p>").repeated(Depth));
     const clsTestFolder folder;
@@ -453,7 +453,7 @@ TEST(InsertFileAtEnd, ADocumentNestedBeyondAllMeasureIsRefused)
     const clsUserInterfaceScope scope(user);
     clsMSWord word(clsMSWord::Finished);
     word.OpenDocument(path);
-    // Stored, since it packs so well that it would be refused for that.
+    // Stored uncompressed, because it would be refused for its compression ratio.
     word.InsertFileAtEnd(folder.write(QStringLiteral("b.doc"), deep.zip().toBytes(clsZipPackage::Stored)));
     EXPECT_TRUE(word.sheetLost());
     ASSERT_EQ(user.messages.size(), 1u);

@@ -3,7 +3,7 @@
 
 namespace {
 
-/// The document with a "#" typed where the cursor has come to.
+/// The document with a "#" typed at the cursor's position.
 QString markedAfter(const QString &body, const std::function<void(clsMSWord &)> &moves)
 {
     return plainAfterEditing(clsTestDocument(body), [&](clsMSWord &word) {
@@ -17,7 +17,7 @@ QString markedDown(const QString &body, int n)
     return markedAfter(body, [n](clsMSWord &word) { word.MoveCursorDown(n); });
 }
 
-/// A table whose cells hold texts, one string per row, cells parted by blanks.
+/// A table with texts in its cells, one string per row, cells separated by spaces.
 QString table(const QStringList &rows)
 {
     QStringList lines;

@@ -1,4 +1,4 @@
-// A text that is packed while it grows.
+// A text that is compressed while it grows.
 
 #include "tests/support/mdTestPrinting.h"
 #include "wordexport/document/clsDeflatedText.h"
@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Rows that are much alike, as those of a document are, with a number that is none of its neighbours'.
+/// Similar rows, like those of a document, each with a different number.
 QByteArray rows(int count)
 {
     QByteArray text;
@@ -57,6 +57,6 @@ TEST(DeflatedText, GrowsOnAfterItWasPackedWithAnEnd)
 
 TEST(DeflatedText, KnowsTheSumOfItsText)
 {
-    // The check value of this sum, as it is published with the algorithm.
+    // The check value published with this checksum's algorithm.
     EXPECT_EQ(0xCBF43926, packed("123456789", 4).crc);
 }

@@ -45,7 +45,7 @@ protected:
     {
         ASSERT_EQ(chmod(QFile::encodeName(path(name)).constData(), mode), 0);
     }
-    /// Puts a document in place, for a claim of that mode; for one that was never saved where it is 0.
+    /// Puts a document in place, for a claim with this mode; 0 for one that was never saved.
     void putInPlace(mode_t claim) const
     {
         put(QStringLiteral("written"), "new");
@@ -60,7 +60,7 @@ protected:
     QTemporaryDir folder;
 };
 
-/// No file may grow beyond this for as long as the object lives, as on a disk that is full.
+/// Limits the size of files while the object lives, like a full disk.
 class clsFileSizeLimit {
 public:
     explicit clsFileSizeLimit(rlim_t bytes)
@@ -114,7 +114,7 @@ TEST_F(mdDocumentFile, AWorkingFileIsWrittenOverItsOwnShorterOneOnly)
     EXPECT_EQ(fileOf("sheet.doc"), own);
     EXPECT_EQ(mdReadDocumentFile(sheet, 100), QByteArray("filled in"));
 
-    // A second name of it keeps what it has.
+    // A hard link to it keeps its content.
     ASSERT_EQ(::link(qPrintable(sheet), qPrintable(path(QStringLiteral("theirs")))), 0);
     mdWriteWorkingFile(sheet, "filled in anew");
     EXPECT_EQ(mdReadDocumentFile(path(QStringLiteral("theirs")), 100), QByteArray("filled in"));
@@ -215,7 +215,7 @@ TEST_F(mdDocumentFile, ANewFileIsItsOwnersAlone)
 
 TEST_F(mdDocumentFile, AFinishedDocumentHasTheRightsOfItsClaim)
 {
-    // One that is write-protected doesn't make a document that can't be replaced, and none can be run.
+    // A write-protected claim doesn't make a document that can't be replaced, and no document is executable.
     for (const auto &[claim, document] : {std::pair(0600, 0600), std::pair(0640, 0640), std::pair(0664, 0664),
              std::pair(0644, 0644), std::pair(0444, 0644), std::pair(0755, 0644), std::pair(0, 0600)}) {
         putInPlace(mode_t(claim));
@@ -264,7 +264,7 @@ TEST_F(mdDocumentFile, AnotherGroupGetsNoRightsByTheDocument)
     ASSERT_EQ(stat(QFile::encodeName(path(QStringLiteral("a.doc"))).constData(), &status), 0);
     EXPECT_EQ(status.st_gid, Firm);
     EXPECT_EQ(status.st_mode & 07777, 0640u);
-    // A user who is not in that group can't give it the document, and must not give it to their own.
+    // A user outside that group can't give the document to it, and must not give it to their own group.
     ASSERT_TRUE(QFile::remove(path(QStringLiteral("a.doc"))));
     setMode(QString(), 0777);
     ASSERT_EQ(chmod(claim.constData(), 0664), 0);
@@ -280,7 +280,7 @@ TEST_F(mdDocumentFile, AnotherGroupGetsNoRightsByTheDocument)
 
 TEST_F(mdDocumentFile, AnAccessListOfTheClaimOpensNothingToItsGroup)
 {
-    // For the owner and one more user; the mode shows the list's mask as the group's rights.
+    // For the owner and one more user; the mode shows the list's mask as the group's permissions.
     struct clsEntry {
         quint16 tag, rights;
         quint32 user;
@@ -338,13 +338,13 @@ TEST_F(mdDocumentFile, AWriteProtectedFileIsNotReplaced)
     EXPECT_EQ(resultAsOrdinaryUser(write), clsRunTimeError::PermissionDenied);
     EXPECT_EQ(mdReadDocumentFile(path(QStringLiteral("a.doc")), 100), QByteArray("old"));
     EXPECT_EQ(names(), QStringList {QStringLiteral("a.doc")});
-    // It is the file's protection and nothing else that held the writer up.
+    // Only the file's protection prevented the write.
     ASSERT_EQ(chmod(name.constData(), 0666), 0);
     EXPECT_EQ(resultAsOrdinaryUser(write), 0);
     EXPECT_EQ(mdReadDocumentFile(path(QStringLiteral("a.doc")), 100), QByteArray("new"));
 }
 
-/// The current folder is another one for as long as the object lives.
+/// Changes the current folder while the object lives.
 class clsCurrentFolder {
 public:
     explicit clsCurrentFolder(const QString &folder) { EXPECT_TRUE(QDir::setCurrent(folder)); }

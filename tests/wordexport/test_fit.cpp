@@ -2,7 +2,7 @@
 
 namespace {
 
-// A table of one row of exact height and one cell without margins, whose paragraph has lines of exactly that height.
+// A table with one row of exact height and one cell without margins, whose paragraph has lines of exactly that height.
 struct Box {
     int width;
     int height;
@@ -41,7 +41,7 @@ QString tableOf(const QString &rows, int width)
 
 class clsFit : public testing::Test {
 protected:
-    /// Types the text in place of the placeholder of a box, and returns the body.
+    /// Types a text in place of a box's placeholder, and returns the body.
     QString fillBox(Box box, const QString &text)
     {
         if (box.content.isEmpty())
@@ -93,8 +93,8 @@ TEST_F(clsFit, WhatFitsIsLeftAsItIs)
     EXPECT_FALSE(body.contains(QStringLiteral("<w:sz w:val=\"14\"")));
 }
 
-// Three lines in 25 points: at 7 points a line takes 1.15 times that, 161 twips, three of them 483; at 7.5 they would
-// take 519.
+// Three lines in 25 points: at 7 points a line takes 1.15 times that, 161 twips, and three of them 483; at 7.5 they
+// would take 519.
 TEST_F(clsFit, ALineTooManyMakesTheTypedTextSmallerAndItsLinesLower)
 {
     const QString body = fillBox(Answer, QStringLiteral("14 Mill Lane\r\nLeeds\r\nLS1 4AB"));
@@ -142,7 +142,7 @@ TEST_F(clsFit, ARowThatGrowsByItselfIsNotLookedAt)
     EXPECT_TRUE(fitted.empty());
 }
 
-// With words of the template beside it the line stays as high as they need, so that smaller type helps only in width.
+// Next to words of the template the line keeps the height that they need, so that a smaller size saves only width.
 TEST_F(clsFit, TheTemplatesOwnWordsKeepTheirSize)
 {
     Box box = Answer;
@@ -156,7 +156,7 @@ TEST_F(clsFit, TheTemplatesOwnWordsKeepTheirSize)
     EXPECT_TRUE(body.contains(QStringLiteral("w:line=\"250\"")));
 }
 
-// The words of the template stand in the run that is typed on, and are parted from it.
+// The template's words are in the run in which text is typed, and are split from it.
 TEST_F(clsFit, TextTypedBehindTheTemplatesWordsIsMadeSmallerAlone)
 {
     Box box = Answer;
@@ -178,8 +178,8 @@ TEST_F(clsFit, TextTypedBehindTheTemplatesWordsIsMadeSmallerAlone)
     EXPECT_TRUE(bodyXml(path).contains(r(QStringLiteral("Name: "), format(20))));
 }
 
-// Three lines of 9 points are more than two of its lines hold. "Child and Adolescent" has 9449 thousandths of an em,
-// 1134 twips at 6 points and 1228 at 6.5, where it would take three lines again, of 137 twips each.
+// Three lines of 9 points don't fit into two of its lines. "Child and Adolescent" has 9449 thousandths of an em, 1134
+// twips at 6 points and 1228 at 6.5, where it would need three lines again, of 137 twips each.
 TEST_F(clsFit, AGridCellKeepsTheLastWord)
 {
     const Box cell {1200, 400, 190, 18, {}};
@@ -240,8 +240,8 @@ TEST_F(clsFit, RowsOfAGridAreCountedFromItsFirst)
     EXPECT_EQ(word.fitted()[0].row, 2);
 }
 
-// Of lines of 15 twips the word processor that prints the forms takes the halves of both from every cell of the table
-// where its first cell has both, and else half of one. Four M of ten points are not quite 667 twips wide.
+// For lines of 15 twips the word processor that prints the forms deducts half of both from every cell of the table if
+// its first cell has both, otherwise half of one. Four M of ten points are not quite 667 twips wide.
 TEST_F(clsFit, TheLinesBesideATablesFirstCellTakeRoomFromAllItsCells)
 {
     const auto isSmaller = [](const char *sides, int width) {
@@ -267,7 +267,7 @@ TEST_F(clsFit, TheLinesBesideATablesFirstCellTakeRoomFromAllItsCells)
     EXPECT_TRUE(isSmaller("left right", 667 + 14));
 }
 
-// Two lines of 250 twips fill a row of 500 but for the line above it, of half a point.
+// Two lines of 250 twips fill a row of 500, except for the half-point line above it.
 TEST_F(clsFit, TheLineAboveARowTakesItsRoom)
 {
     const QString lined = QStringLiteral("<w:tcBorders><w:top w:val=\"single\" w:sz=\"4\"/></w:tcBorders></w:tcPr>");
@@ -287,7 +287,7 @@ TEST_F(clsFit, TheLineAboveARowTakesItsRoom)
     }
 }
 
-// The first cell makes its row grow; the amount in the second is kept whole all the same, as if it stood before it.
+// The first cell makes its row grow; the amount in the second is still kept whole, as if it came first.
 TEST_F(clsFit, ARowThatGrewForOneCellKeepsTheAmountsOfTheOthersWhole)
 {
     const Box first {1000, 400, 160, 15, {}};

@@ -6,7 +6,7 @@
 
 namespace {
 
-// The widths are those that the maker of the typeface publishes, in thousandths of the em.
+// The widths published by the typeface's maker, in thousandths of an em.
 struct Row {
     char32_t character;
     int regular;

@@ -1,5 +1,6 @@
-"""The table of widths that is compiled into the program is what its script makes of the font files, and holds the width
-of each character that the fonts have."""
+"""The compiled table of widths equals what its script makes of the font files, and has the width of each character of
+the fonts.
+"""
 
 import os
 import re

@@ -1,6 +1,6 @@
 #include "tests/wordexport/clsJoin.h"
 
-// The styles of documents that are joined.
+// The styles of joined documents.
 
 namespace {
 
@@ -58,7 +58,7 @@ TEST(JoinedStyles, DifferentStylesOfTheSameNameAreKeptApart)
              NormalStyle.arg(20) + style(QStringLiteral("A"), QStringLiteral("Answer"), QStringLiteral("<w:i/>"))),
             second, second});
     EXPECT_EQ(join.body().count(QStringLiteral("<w:pStyle w:val=\"A\"/>")), 1);
-    EXPECT_EQ(join.body().count(QStringLiteral("<w:pStyle w:val=\"A_2\"/>")), 2); // and shared by those that agree
+    EXPECT_EQ(join.body().count(QStringLiteral("<w:pStyle w:val=\"A_2\"/>")), 2); // shared by those that are equal
     const QString styles = join.part(QStringLiteral("word/styles.xml"));
     EXPECT_TRUE(styles.endsWith(QStringLiteral(
         "<w:style w:type=\"paragraph\" w:styleId=\"A_2\" w:customStyle=\"1\"><w:name w:val=\"Answer (2)\"/>"
@@ -132,7 +132,7 @@ TEST(JoinedStyles, StylesThatAreBasedOnOneAnotherInACircleAreNoTrap)
 
 TEST(JoinedStyles, AChainOfStylesOfAnyLengthIsNoTrap)
 {
-    // Each refers to the one after it. Followed one within the other they would take more room than the stack has.
+    // Each refers to the next. Following them recursively would overflow the stack.
     constexpr int Length = 20000;
     const char *const references[] = {"basedOn", "next", "link"};
     QString chain;

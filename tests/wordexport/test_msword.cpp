@@ -85,7 +85,7 @@ TEST_F(clsMSWordFailures, EachGuardedOperationReportsUnderTheNameThatFailed)
         {"SaveAndClose", [](clsMSWord &w) { w.SaveAndClose(); }},
         {"NextColumn", [](clsMSWord &w) { w.NextColumn(); }},
         {"NextColumn", [](clsMSWord &w) { w.MoveColumns(2); }},
-        // Without a tick or an amount the first step that needs the document is the weight.
+        // Without a tick or an amount, setting the weight is the first step that needs the document.
         {"SetBold", [](clsMSWord &w) { w.SetText(QStringLiteral("a"), false, false, false, false); }},
         {"SetText", [](clsMSWord &w) { w.SetText(QStringLiteral("True"), true, false, false, false); }},
         {"PageBreak", [](clsMSWord &w) { w.PageBreak(); }},
@@ -188,7 +188,7 @@ TEST_F(clsMSWordFailures, OneInstanceEditsSeveralDocumentsOneAfterAnother)
     EXPECT_EQ(plain(folder.path(QStringLiteral("b.doc"))), QStringLiteral("y{x}/"));
 }
 
-// What SetText makes of a text, for a cell.
+// The text that SetText makes in a cell.
 QString typedInto(const QString &given, bool tick, bool money, bool blankZero)
 {
     return plainAfterEditing(
@@ -241,7 +241,7 @@ TEST(SetText, LineEndsBreakWithinTheParagraphAndTabsAreBlanks)
 {
     EXPECT_EQ(typedInto(QStringLiteral("a\r\n\r\nb\tc"), false, false, true), QStringLiteral("a^^b c/"));
     EXPECT_EQ(typedInto(QStringLiteral("\r\n"), false, false, true), QStringLiteral("^/"));
-    // A single line end has no other way to show either.
+    // A single line end can't be shown in any other way either.
     EXPECT_EQ(typedInto(QStringLiteral("a\nb\rc"), false, false, true), QStringLiteral("a^b^c/"));
 }
 
@@ -297,7 +297,7 @@ TEST(SetText, IsBoldOnlyAsTold)
     EXPECT_EQ(typedBold(mark.arg(QString()), false),
         mark.arg(QStringLiteral("<w:r><w:rPr><w:b w:val=\"0\"/></w:rPr>") + text));
 
-    // A bold style needs the word against it, and none for it.
+    // With a bold style, not bold needs the element and bold doesn't.
     const QString styles = QStringLiteral(
         "<w:style w:type=\"paragraph\" w:styleId=\"Strong\"><w:name w:val=\"Strong\"/><w:rPr><w:b/></w:rPr></w:style>"
         "<w:style w:type=\"paragraph\" w:styleId=\"On\"><w:name w:val=\"On\"/><w:basedOn w:val=\"Strong\"/></w:style>");

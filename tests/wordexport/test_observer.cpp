@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Writes each event as a line.
+/// Records each event as a line.
 class clsRecorder final : public clsMSWordObserver {
 public:
     QStringList events;

@@ -13,7 +13,7 @@ QByteArray number(quint32 value, int bytes)
     return out;
 }
 
-/// A zip written by hand, so that it can say what no library would write.
+/// A zip written by hand, which can have faults that no library would write.
 struct clsRawEntry {
     QByteArray name;
     QByteArray data;
@@ -46,7 +46,7 @@ clsRawEntry stored(const QByteArray &name, const QByteArray &data)
     return {name, data, quint32(data.size()), 0, 0, crc};
 }
 
-/// What a clsMSWord that opens these bytes tells the user, without the words around it.
+/// The message of a clsMSWord that opens these bytes, without the surrounding words.
 QString complaintAbout(const QByteArray &bytes)
 {
     clsScriptedUserInterface user;
@@ -276,12 +276,12 @@ TEST(HostilePackages, ASecondRootIsDamage)
     }
 }
 
-/// What is joined to a document of one paragraph "first", and the failures told.
+/// A document of one paragraph "first" with another one joined to it, and the reported failures.
 struct clsAppended {
     explicit clsAppended(const clsTestDocument &document)
     {
         clsTestDocument first(p(QStringLiteral("first")));
-        first.styles = QStringLiteral("<w:style w:type=\"paragraph\" w:styleId=\"own\"/>"); // so that styles differ
+        first.styles = QStringLiteral("<w:style w:type=\"paragraph\" w:styleId=\"own\"/>"); // so that the styles differ
         const clsUserInterfaceScope scope(user);
         const clsTestFolder folder;
         const QString path = folder.write(QStringLiteral("first.doc"), first);
@@ -376,7 +376,7 @@ TEST(clsZipPackage, WritesTheSameBytesWhateverTheClockAndTheTimeZoneSay)
     qunsetenv("TZ");
     tzset();
     EXPECT_EQ(first, second);
-    // No names of hosts, no times but the fixed one, no descriptors behind the data.
+    // No host names, only the fixed time, no descriptors after the data.
     EXPECT_EQ(first.mid(10, 4), QByteArray("\0\0\x21\0", 4));
     EXPECT_EQ(first[6] & 8, 0);
 }
@@ -396,7 +396,7 @@ TEST(clsZipPackage, StoredSaysTheSumAndTheSizesOfEachEntry)
 {
     clsZipPackage zip;
     zip.add(QStringLiteral("empty"), {});
-    zip.add(QString(QChar(0xE9)), "123456789"); // its sum is the one that the algorithm is checked by
+    zip.add(QString(QChar(0xE9)), "123456789"); // its checksum is the algorithm's check value
     const QByteArray stored = zip.toBytes(clsZipPackage::Stored);
     EXPECT_EQ(stored.size(), (30 + 46) * 2 + 2 * (5 + 2) + 9 + 22);
     EXPECT_EQ(stored.mid(30 + 5, 4), "PK\3\4");

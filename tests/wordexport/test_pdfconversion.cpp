@@ -1,4 +1,4 @@
-// The conversion of a document by the office program, which here is a script, and at the end the real one.
+// Converting a document with the office program: with scripts in its place, and at the end with the real one.
 
 #include "tests/support/clsFolderTest.h"
 #include "tests/support/mdTestPrinting.h"
@@ -39,14 +39,14 @@ protected:
         document = put("Claim1.doc", "the document");
     }
 
-    /// A script in the place of the office program.
+    /// A script in place of the office program.
     QString script(const QByteArray &steps, const char *name = "soffice") const
     {
         const QString file = put(name, "#!/bin/sh\nhere='" + QFile::encodeName(folder.path()) + "'\n" + steps + '\n');
         QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         return file;
     }
-    /// The steps of a script that makes a PDF as the office program does: into the folder that it is told.
+    /// Script steps that make a PDF like the office program: in the given output folder.
     static QByteArray makesPdf()
     {
         return "while [ $# -gt 1 ]; do [ \"$1\" = --outdir ] && out=$2; shift; done\n"
@@ -62,11 +62,11 @@ protected:
     static bool isAlive(qint64 process)
     {
         QFile stat(QStringLiteral("/proc/%1/stat").arg(process));
-        // What has ended and was not waited for yet is no process any more.
+        // A zombie no longer counts as a process.
         return stat.open(QIODevice::ReadOnly) && !stat.readAll().contains(") Z ");
     }
 
-    /// The sentence that a conversion with such a program fails with.
+    /// The message of a conversion that fails with this program.
     QString failureOf(const QString &program, int longest = Long) const
     {
         const clsOfficeProgramScope scope(program, longest);
@@ -227,7 +227,7 @@ TEST_F(PdfConversion, WhatTheProgramHasStartedIsNotAmongTheProcesses)
         EXPECT_FALSE(mdProcessNames().contains(name));
     }
     QFile::remove(path("self"));
-    // One that is not this program's: its parent has ended.
+    // Not this program's process: its parent has ended.
     ASSERT_TRUE(QProcess::startDetached(program, {}));
     waitForFile("self");
     EXPECT_TRUE(mdProcessNames().contains(name));
@@ -242,7 +242,7 @@ TEST_F(PdfConversion, OneThatHangsIsGivenUpAfterAMinute)
 
 namespace {
 
-/// The office program that is installed.
+/// The installed office program.
 class RealPdfConversion : public PdfConversion {
 protected:
     void SetUp() override
@@ -252,12 +252,12 @@ protected:
         PdfConversion::SetUp();
         ASSERT_TRUE(QFile::remove(document));
         ASSERT_TRUE(QFile::copy(QStringLiteral(ZR3_TEMPLATES "/Claim1 P1.doc"), document));
-        // What is converted lies below this folder then.
+        // The conversion then takes place below this folder.
         qputenv("TMPDIR", QFile::encodeName(folder.path()));
     }
     void TearDown() override { qunsetenv("TMPDIR"); }
 
-    /// The names, or the numbers, of the processes that name a folder in their arguments.
+    /// The names, or the numbers, of the processes that have a folder in their arguments.
     static QStringList processesIn(const QString &place, bool numbers = false)
     {
         QStringList found;
@@ -323,7 +323,7 @@ TEST_F(RealPdfConversion, LeavesOneThatRunsAlreadyInPeace)
     }
     EXPECT_EQ(running, processesIn(profile, true)) << "ours has ended, and no other";
     {
-        // Nor does it go with one that is stopped.
+        // Nor does stopping a conversion end it.
         clsPdfConversion conversion(document);
         EXPECT_TRUE(comesUpIn(folder.filePath(QStringLiteral("wordexport_test-"))));
         conversion.cancel();

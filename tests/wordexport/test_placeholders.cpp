@@ -82,7 +82,7 @@ TEST(DoReplace, BoldnessOfAStyleIsKeptWithoutSayingItAgain)
         "<w:style w:type=\"character\" w:styleId=\"C\"><w:name w:val=\"C\"/><w:rPr><w:b/></w:rPr></w:style>");
     EXPECT_EQ(replaced(p(QStringLiteral("{x}")), QStringLiteral("{x}"), QStringLiteral("new"), styles),
         p(QStringLiteral("new")));
-    // Bold in both styles is not bold, and so is what is typed over it.
+    // Bold in both styles cancels out, and so it does in the text typed over it.
     const QString toggled = QStringLiteral("<w:rStyle w:val=\"C\"/>");
     EXPECT_EQ(
         replaced(paragraph(r(QStringLiteral("{x}"), toggled)), QStringLiteral("{x}"), QStringLiteral("new"), styles),

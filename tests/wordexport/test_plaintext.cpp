@@ -1,4 +1,4 @@
-// Documents whose text another one takes over as it stands.
+// Documents whose text another document takes over unchanged.
 
 #include "tests/support/clsScriptedUserInterface.h"
 #include "tests/wordexport/clsTestDocument.h"
@@ -66,7 +66,7 @@ TEST(PlainText, EndsWithAParagraphAndASection)
     EXPECT_FALSE(isPlain(mainPart(Last + Section + "<!-- note -->")));
     EXPECT_FALSE(isPlain(mainPart("stray" + Last + Section)));
     EXPECT_FALSE(isPlain(mainPart(Last + "<w:sectPr><w:headerReference r:id=\"rId1\"/></w:sectPr>")));
-    // Such a last paragraph could not be told from the one within it.
+    // This last paragraph could not be distinguished from the one inside it.
     const QByteArray nested = paragraph("<w:r><w:pict>" + Last + "</w:pict></w:r>");
     EXPECT_FALSE(isPlain(mainPart(nested + Section)));
     EXPECT_FALSE(isPlain(mainPart(nested + Last + Section)));
@@ -112,7 +112,7 @@ TEST(PlainText, IsNotCutWhereItIsNotWhatItShouldBe)
 
 namespace {
 
-/// Two sheets as the layer itself writes them.
+/// Two sheets as written by the layer itself.
 class PlainJoin : public testing::Test {
 protected:
     void SetUp() override
@@ -137,7 +137,7 @@ protected:
         EXPECT_EQ(folder.path(name), word.savedPath());
         return word.savedText();
     }
-    /// The bytes of both, joined.
+    /// The bytes of the two joined sheets.
     QByteArray joined(const clsPlainText *known)
     {
         folder.write(QStringLiteral("Joined.doc"), folder.read(QStringLiteral("a.doc")));
@@ -201,6 +201,6 @@ TEST_F(PlainJoin, KnowsNoSavedTextWhereNothingWasSaved)
     word.OpenDocument(folder.path(QStringLiteral("a.doc")));
     word.SaveAndClose();
     EXPECT_FALSE(word.savedPath().isEmpty());
-    word.SaveAndClose(); // nothing is open
+    word.SaveAndClose(); // no document is open
     EXPECT_TRUE(word.savedPath().isEmpty());
 }

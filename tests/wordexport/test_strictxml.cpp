@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-// What a reading to the letter takes and what it refuses. Half of what it refuses passes the parser of the layer.
+// What the strict reader accepts and refuses. The layer's parser accepts half of what it refuses.
 
 namespace {
 

@@ -11,7 +11,7 @@ using TextLayout::Paragraph;
 using TextLayout::Tab;
 
 // At 10 points a digit is 1139 units wide, which is 667 sixths of a twip (1139 * 1200 / 2048 = 667.4), an "i" 267, a
-// blank 333, a hyphen 400 (682 units). A line loses a sixth as reserve: ten digits need (6670 + 1) / 6, which is 1112
+// space 333, a hyphen 400 (682 units). Each line has a sixth as reserve: ten digits need (6670 + 1) / 6, which is 1112
 // twips.
 constexpr int TenDigits = 1112;
 
@@ -41,7 +41,7 @@ TEST(TextLayout, ALineHoldsWhatItsWidthHoldsAndNotATwipLess)
 {
     EXPECT_EQ(linesOf(QStringLiteral("0000000000"), TenDigits), 1);
     EXPECT_EQ(linesOf(QStringLiteral("0000000000"), TenDigits - 1), 2);
-    // Two words: 10 digits, a blank and 5 "i": 6670 + 333 + 1335 + 1 = 8339, 1390 twips.
+    // Two words: 10 digits, a space and 5 "i": 6670 + 333 + 1335 + 1 = 8339, 1390 twips.
     EXPECT_EQ(linesOf(QStringLiteral("0000000000 iiiii"), 1390), 1);
     EXPECT_EQ(linesOf(QStringLiteral("0000000000 iiiii"), 1389), 2);
 }
@@ -62,21 +62,21 @@ TEST(TextLayout, BlanksHangOverTheEndOfALine)
 
 struct Row {
     const char16_t *text;
-    int lines; ///< in a place for ten digits
+    int lines; ///< in a space for ten digits
 };
 
-// Each text has twelve to twenty characters, so that it takes two lines where it may be broken well and three where a
-// break at the wrong place would need it.
+// Each text has twelve to twenty characters, so that it takes two lines if it may be broken in a good place, and three
+// if it would need a break in a wrong place.
 constexpr Row Breaks[] = {
-    {u"00000000-nnnnnnnnn", 2}, // behind the hyphen
-    {u"nnnnnnnnn\u00A0nnnnnnnnn", 2}, // by letters, since a no-break blank is no place
+    {u"00000000-nnnnnnnnn", 2}, // after the hyphen
+    {u"nnnnnnnnn\u00A0nnnnnnnnn", 2}, // between letters, since a no-break space is not a break
     {u"nnnnnn nnnnn\u00A0nn nn", 2},
-    {u"nnnnn nnnn/nnnn nnn", 3}, // a slash is no place where the word has a line to itself
-    {u"nnnnnnn/nnnnnnnn nn", 3}, // but one in a word that is wider: 7, 8 and 2 letters
+    {u"nnnnn nnnn/nnnn nnn", 3}, // a slash is not a break if the word has a line to itself
+    {u"nnnnnnn/nnnnnnnn nn", 3}, // but it is in a word that is wider: 7, 8 and 2 letters
     {u"nnnn nnnnn / nnnnn", 3}, // and it stays with the word before it
-    {u"nn nnn-nn/nnnnnnn", 3}, // a word with a slash leaves the line whole, and then has no break but between letters
+    {u"nn nnn-nn/nnnnnnn", 3}, // a word with a slash moves down whole, and is then broken between letters
     {u"nnn-nnnnn/nnnnnn", 3}, // a line that would end with the slash ends with the hyphen
-    {u"00000 0000/0000 000", 3}, // no date is broken there
+    {u"00000 0000/0000 000", 3}, // dates are not broken there
     {u"nnnnn nnnn,nnnn nnn", 3},
     {u"nnnnn nnn\u2013nnnn nnn", 2},
     {u"nnnnn nn\u00ADnnnn nnnn", 2},
@@ -91,7 +91,7 @@ TEST(TextLayout, LinesAreBrokenWhereWordProcessorsBreakThem)
 
 TEST(TextLayout, AWordWiderThanALineIsBrokenByLetters)
 {
-    // It begins on a line of its own.
+    // It starts on a new line.
     const Lines lines = TextLayout::layOut(paragraph(QStringLiteral("nnn nnnnnnnnnnnn")), TenDigits);
     EXPECT_EQ(lines.count(), 3);
     EXPECT_EQ(lines.brokenWords, 1);
@@ -102,7 +102,7 @@ TEST(TextLayout, AWordWiderThanALineIsBrokenByLetters)
 
 TEST(TextLayout, ABrokenAmountIsTold)
 {
-    // A comma is as wide as a blank: 1,234,567.00 needs 9 * 667 + 3 * 333 + 1 = 7003 sixths, 1168 twips.
+    // A comma is as wide as a space: 1,234,567.00 needs 9 * 667 + 3 * 333 + 1 = 7003 sixths, 1168 twips.
     EXPECT_EQ(TextLayout::layOut(paragraph(QStringLiteral("1,234,567.00")), 1168).brokenAmounts, 0);
     EXPECT_EQ(TextLayout::layOut(paragraph(QStringLiteral("1,234,567.00")), 1167).brokenAmounts, 1);
     EXPECT_EQ(TextLayout::layOut(paragraph(QStringLiteral("1,234,567.0x")), 1160).brokenAmounts, 0);
@@ -143,9 +143,9 @@ TEST(TextLayout, TabsLeadToTheirStops)
     Paragraph tabbed = paragraph(QStringLiteral("0\t0"));
     tabbed.tabs = {{500, Tab::Left}};
     EXPECT_EQ(TextLayout::layOut(tabbed, 612).count(), 1); // 500 + (667 + 1) / 6 = 611.3
-    EXPECT_EQ(TextLayout::layOut(tabbed, 611).count(), 3); // the tab goes along, and leaves no room again
+    EXPECT_EQ(TextLayout::layOut(tabbed, 611).count(), 3); // the tab moves too, and leaves no space again
     tabbed.tabs = {{500, Tab::Right}};
-    // A stop beyond the end of the line counts as its end: 2 * 667 + 1 = 1335, 223 twips.
+    // A tab stop beyond the end of the line counts as its end: 2 * 667 + 1 = 1335, 223 twips.
     EXPECT_EQ(TextLayout::layOut(tabbed, 500).count(), 1);
     EXPECT_EQ(TextLayout::layOut(tabbed, 223).count(), 1);
     EXPECT_EQ(TextLayout::layOut(tabbed, 222).count(), 2);
@@ -154,7 +154,7 @@ TEST(TextLayout, TabsLeadToTheirStops)
     EXPECT_EQ(TextLayout::layOut(tabbed, 831).count(), 2);
 }
 
-// Twelve digits are more than a line. They go to the next one together with the tab before them, from there alone to
+// Twelve digits are more than a line. They move to the next line together with the tab before them, from there alone to
 // the third, and on to the fourth.
 TEST(TextLayout, AWordThatIsWiderThanItsLineLeavesItsTabBehind)
 {

@@ -1,4 +1,4 @@
-// How many paper pages a body takes. A page of these tests is 1000 twips high, a line of text 100.
+// How many paper pages a body takes. In these tests a page is 1000 twips high, a line of text 100.
 
 #include "wordexport/document/mdWordPages.h"
 
@@ -18,7 +18,7 @@ int pagesOf(const std::string &blocks)
     return mdPaperPages(document.first_child(), clsWordLooks(pugi::xml_node()));
 }
 
-/// A paragraph of so many exact lines.
+/// A paragraph of that many exact lines.
 std::string paragraph(int lines, const std::string &properties = {}, const std::string &spacing = {})
 {
     std::string text = "a";
@@ -67,20 +67,20 @@ TEST(mdPaperPages, ARowThatGrowsIsAsHighAsItsHighestCell)
 {
     EXPECT_EQ(1, pagesOf(table(row(300, "atLeast", cell(4) + cell(7)) + row(300, "exact", cell(1)))));
     EXPECT_EQ(2, pagesOf(table(row(300, "atLeast", cell(4) + cell(8)) + row(300, "exact", cell(1)))));
-    // One that says no height at all is as high as its text.
+    // A row without a height is as high as its text.
     EXPECT_EQ(2, pagesOf(table("<w:tr>" + cell(8) + "</w:tr>" + row(300, "exact", cell(1)))));
     EXPECT_EQ(1, pagesOf(table(row(700, "atLeast", cell(4)) + row(300, "exact", cell(1)))));
 }
 
 TEST(mdPaperPages, ARowThatMayNotBeSplitBeginsAPageUnlessItIsHigherThanOne)
 {
-    // 300, then 800 on the next page, and no room there for 300 more.
+    // 300, then 800 on the next page, which has no room for 300 more.
     const std::string before = row(300, "exact", cell(1));
     EXPECT_EQ(3, pagesOf(table(before + row(100, "atLeast", cell(8)) + row(300, "exact", cell(1)))));
-    // Split, 7 lines stand on the first page and 1 on the second.
+    // Split, 7 lines are on the first page and 1 on the second.
     EXPECT_EQ(2, pagesOf(table(before + row(100, "atLeast", cell(8), true) + row(300, "exact", cell(1)))));
     EXPECT_EQ(3, pagesOf(table(before + row(100, "atLeast", cell(10)) + row(300, "exact", cell(1)))));
-    // Higher than a page: 7 lines on the first one, 4 on the second.
+    // Higher than a page: 7 lines on the first, 4 on the second.
     EXPECT_EQ(2, pagesOf(table(before + row(100, "atLeast", cell(11)) + row(300, "exact", cell(1)))));
     EXPECT_EQ(4, pagesOf(table(before + row(100, "atLeast", cell(28)))));
 }
@@ -91,7 +91,7 @@ TEST(mdPaperPages, EachPageOfASplitRowHasTheSpaceAboveItsText)
         return "<w:tc><w:tcPr><w:tcW w:w=\"1000\" w:type=\"dxa\"/></w:tcPr>" + paragraph(lines, {}, "w:before=\"50\"")
             + "</w:tc>";
     };
-    // 9 lines to a page instead of 10, and below the last of them 50 are left.
+    // 9 lines per page instead of 10, with 50 left below the last of them.
     EXPECT_EQ(2, pagesOf(table(row(100, "atLeast", spaced(18)) + row(50, "exact", cell(1)))));
     EXPECT_EQ(3, pagesOf(table(row(100, "atLeast", spaced(18)) + row(51, "exact", cell(1)))));
     EXPECT_EQ(3, pagesOf(table(row(100, "atLeast", spaced(19)))));
@@ -106,7 +106,7 @@ TEST(mdPaperPages, ACellOverSeveralRowsMakesTheLastOneGrow)
     EXPECT_EQ(1, pagesOf(reaching(4)));
     EXPECT_EQ(1, pagesOf(reaching(6)));
     EXPECT_EQ(2, pagesOf(reaching(7)));
-    // Of the last row's height only what the rows above leave over: 60 of the third line stand in the first row.
+    // Only what the rows above leave over adds to the last row's height: 60 of the third line are in the first row.
     const auto uneven = [](int room) {
         return table(row(260, "exact", cell(6, "<w:vMerge w:val=\"restart\"/>") + cell(1))
             + row(100, "atLeast", cell(1, "<w:vMerge/>") + cell(1)) + row(room, "exact", cell(1) + cell(1)));
@@ -132,7 +132,7 @@ TEST(mdPaperPages, LinesTakeRoomWhereARowGrowsAndBelowATable)
     EXPECT_EQ(1, grown(lined("top", 4), 290));
     EXPECT_EQ(2, grown(lined("top", 4), 291));
     EXPECT_EQ(1, grown("<w:tcBorders><w:top w:val=\"nil\" w:sz=\"4\"/></w:tcBorders>", 300));
-    // The lines of rows of exact height are part of it.
+    // The borders of rows of exact height are part of it.
     EXPECT_EQ(1, pagesOf(table(row(1000, "exact", cell(1, lined("top", 6))))));
 }
 
@@ -142,7 +142,7 @@ TEST(mdPaperPages, TheParagraphThatGoesInJoiningTakesNoRoom)
     EXPECT_EQ(1, pagesOf(paragraph(9) + empty + empty));
     EXPECT_EQ(2, pagesOf(paragraph(9) + empty + empty + empty));
     EXPECT_EQ(2, pagesOf(paragraph(9) + empty + paragraph(1)));
-    // The one behind a table has to stay.
+    // The paragraph after a table must stay.
     EXPECT_EQ(2, pagesOf(table(row(1000, "exact", cell(1))) + empty));
 }
 
@@ -155,7 +155,7 @@ TEST(mdPaperPages, BreaksBeginPages)
 
 TEST(mdPaperPages, AnythingIsCounted)
 {
-    // Rows that say what no table can be, and pages without room.
+    // Rows with impossible heights, and pages without room.
     EXPECT_EQ(2, pagesOf(table(row(2147483647, "exact", cell(1)) + row(2147483647, "atLeast", cell(1)))));
     pugi::xml_document document;
     ASSERT_TRUE(document.load_string(

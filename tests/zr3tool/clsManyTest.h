@@ -6,10 +6,10 @@
 
 #include <filesystem>
 
-/// A test on several claims.
+/// Base of tests with several claims.
 class clsManyTest : public clsToolTest {
 protected:
-    /// A claim of an hour at 40.00, in a folder below the test's own.
+    /// A claim of one hour at 40.00, in a folder below the test's.
     QString addClaim(const QString &name, const QString &formType = "Claim1"_q) const
     {
         clsZR3Form form;
@@ -35,7 +35,7 @@ protected:
         EXPECT_TRUE(QDir(folder.path()).mkpath("out"_q));
         return path("out");
     }
-    /// How they are told apart in a folder: the paths below it.
+    /// The text with paths relative to the claims' folder.
     QByteArray below(const QByteArray &text) const { return QByteArray(text).replace((claims() + u'/').toUtf8(), ""); }
     static QJsonArray claimsOf(const clsToolResult &result)
     {

@@ -30,20 +30,20 @@ inline QString operator""_q(const char *text, size_t size)
     return QString::fromUtf8(text, qsizetype(size));
 }
 
-/// What a run of the tool came to.
+/// The result of running the tool.
 struct clsToolResult {
     int status = -1; ///< -1 where it crashed or did not end
     QByteArray out;
     QByteArray err;
 };
 
-/// A test that runs the tool in a folder of its own, without a display and with a configuration of its own.
+/// Base of tests that run the tool with a temporary folder and configuration, and without a display.
 class clsToolTest : public clsFolderTest {
 protected:
     void SetUp() override
     {
         ASSERT_TRUE(folder.isValid());
-        // Processes are waited for by the library's application object.
+        // The library's application object is needed to wait for processes.
         static int count = 1;
         static char name[] = "zr3tool_test";
         static char *arguments[] = {name, nullptr};
@@ -78,8 +78,8 @@ protected:
         return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
     }
 
-    /// Makes a run one of a user who may not read and write everything; empty where the tests' own user is one. Nothing
-    /// where no other user can run the program, because of where it lies.
+    /// Setup that makes a run one of an ordinary user; empty if the tests' own user is one. Nothing if no other user
+    /// can run the program from its folder.
     std::optional<std::function<void()>> asOrdinaryUser() const
     {
         if (geteuid() != 0)
@@ -93,7 +93,7 @@ protected:
             return std::nullopt;
         return change;
     }
-    /// Makes a run one on a disk that is full: no file can grow beyond so many bytes.
+    /// Setup that makes a run one on a full disk: files can't grow beyond this size.
     static std::function<void()> withFilesOfAtMost(rlim_t bytes)
     {
         return [bytes] {
@@ -104,7 +104,7 @@ protected:
         };
     }
 
-    /// Writes a claim as a file of the folder.
+    /// Writes a claim to a file in the folder.
     QString putClaim(const clsZR3Form &form, const char *name = "claim.zr3") const
     {
         return put(name, form.XMLOutput().toLatin1());

@@ -1,4 +1,4 @@
-// What is no claim: one message, status 2, and no result.
+// Files that are not claims: one message, status 2, and no result.
 
 #include "tests/zr3tool/clsToolTest.h"
 
@@ -12,7 +12,7 @@ const QByteArray NoClaim
 
 class BadInput : public clsToolTest {
 protected:
-    /// Runs each command on a file that is no claim; each must tell that message and nothing else.
+    /// Runs each command on a file that is not a claim; each must print only that message.
     void expectRefused(const QString &file, const QByteArray &message)
     {
         ASSERT_TRUE(QDir(folder.path()).mkpath("out"_q));
@@ -111,7 +111,7 @@ TEST_F(BadInput, WhatIsNoClaim)
 
 TEST_F(BadInput, TwoHundredMegabytesOfNothing)
 {
-    // A file with a hole: it takes no room on the disk.
+    // A sparse file, which takes no space on the disk.
     QFile file(path("large.zr3"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     ASSERT_TRUE(file.resize(200'000'000));
@@ -187,7 +187,7 @@ TEST_F(BadInput, ANameThatIsNotUtf8IsRefused)
         return QByteArray("File Name: The name of this file or folder has characters that the program can't read:\n\n")
             + name + "\n\nPlease rename it and try again.\n";
     };
-    // The shell makes the name, which no text can hold.
+    // Created by the shell, because a QString can't hold this name.
     const auto runAs = [&](const char *words) {
         return runProgram("sh"_q,
             {"-c"_q, "odd=$(printf '\\377'); exec \"$0\" "_q + QString::fromLatin1(words), QStringLiteral(ZR3_TOOL),
@@ -223,7 +223,7 @@ TEST_F(BadInput, ACurrentFolderWhoseNameIsNotUtf8TakesNoFileByARelativeName)
                     + QString::fromLatin1(words),
                 QStringLiteral(ZR3_TOOL), claim});
     };
-    // The folder that the text of the name would be.
+    // The folder that the name would become as a text.
     ASSERT_TRUE(QDir(folder.path()).mkpath(QString(QChar::ReplacementCharacter)));
     const clsToolResult refused = runThere("save \"$1\" new.zr3");
     EXPECT_EQ(4, refused.status);

@@ -1,4 +1,4 @@
-// The blank items check, and claims brought up to date.
+// The blank items check, and bringing claims up to date.
 
 #include "base/mdGetVersionInfo.h"
 #include "formdata/mdXMLControl.h"
@@ -93,7 +93,7 @@ TEST_F(ToolSave, EverySampleStaysAsItWasButForItsStamps)
         EXPECT_EQ(before, bytesOf(claim));
         EXPECT_EQ(QStringList {"new.zr3"_q}, filesOf(folder.path()));
         if (name == "older-file"_q)
-            continue; // gains elements: below
+            continue; // gains elements: see below
         EXPECT_EQ(stamped(before.trimmed(), path("new.zr3")), bytesOf(path("new.zr3")));
     }
 }
@@ -105,7 +105,7 @@ TEST_F(ToolSave, AnOlderFileGainsWhatItLacksAndBillsTheSame)
     EXPECT_EQ(0, result.status);
     EXPECT_EQ(QJsonDocument::fromJson(bytesOf(mdSamplePath("older-file.totals.json"_q))),
         QJsonDocument::fromJson(result.out));
-    // It lacked a list and a section, which stand there now, once each, and the white space is gone.
+    // It lacked a list and a section, which are now there once each, and the white space has been removed.
     const QByteArray saved = bytesOf(path("new.zr3"));
     const QByteArray old = bytesOf(mdSamplePath("older-file.zr3"_q));
     ASSERT_TRUE(old.contains('\n'));
@@ -199,7 +199,7 @@ TEST_F(ToolSave, ADiskThatIsFullIsToldOnceAndTheOldFileStaysBesideIt)
         EXPECT_EQ("File Not Saved: There was a problem writing to the following path:\n\n" + path("new.zr3").toUtf8()
                 + "\n\nThe error reported is:\n\n61 - Disk full\n",
             result.err);
-        // The old text is whole under the name, or under that of the copy made to guard it.
+        // The old text is complete under its name, or under that of its side file.
         const bool guarded = QFile::exists(path("new.zr3a"));
         EXPECT_EQ(limit >= rlim_t(older.size()), guarded);
         EXPECT_EQ(older, bytesOf(path(guarded ? "new.zr3a" : "new.zr3")));

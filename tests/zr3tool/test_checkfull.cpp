@@ -1,4 +1,4 @@
-// The full check, and the reasons of figures, as the tool prints them.
+// The full check, and the explanations of figures, as the tool prints them.
 
 #include "tests/zr3tool/clsToolTest.h"
 
@@ -8,7 +8,7 @@ namespace {
 
 class ToolCheckFull : public clsToolTest {
 protected:
-    /// A claim of one page that nobody reads: its one item is found to have no time.
+    /// A claim with one page ticked; its one item has no time, which is found.
     QString claimWithFinding(const char *name = "claim.zr3", const char *time = "00:00")
     {
         clsZR3Form form;
@@ -100,7 +100,7 @@ TEST_F(ToolCheckFull, TellsOfWhatIsNotPrintedAtItsOwnSize)
 {
     clsZR3Form form;
     form.DebtorsDetails.Address = "1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n7\r\n8"_q;
-    // Counsel's fee is the first of the list and not among the others, of which the second one is too long.
+    // Counsel's fee is the first of the list and not counted among the others, the second of which is too long.
     const QString descriptions[] = {"Brief fee"_q, "Court fee"_q, "Interpreter "_q.repeated(40)};
     for (const QString &description : descriptions) {
         const auto item = form.AddDisbursement();
@@ -135,7 +135,7 @@ TEST_F(ToolCheckFull, SeveralClaimsAreAList)
     EXPECT_EQ(3, lines.status);
     EXPECT_EQ(found.toUtf8() + ": " + m_found, lines.out);
     const clsToolResult json = run({"check"_q, "--full"_q, none, missing, found, fine, "--json"_q});
-    EXPECT_EQ(3, json.status); // the greatest of 2, 2, 3 and 0
+    EXPECT_EQ(3, json.status); // the highest of 2, 2, 3 and 0
     EXPECT_TRUE(json.err.startsWith(none.toUtf8() + ": Error: There was a problem")) << json.err.constData();
     EXPECT_TRUE(json.err.contains("\n" + missing.toUtf8() + ": File Not Read: ")) << json.err.constData();
     const QJsonArray claims = objectOf(json)["Claims"_q].toArray();

@@ -1,4 +1,4 @@
-// What differs between claims, as the tool prints it.
+// The differences between claims, as the tool prints them.
 
 #include "tests/zr3tool/clsToolTest.h"
 
@@ -8,7 +8,7 @@ namespace {
 
 class ToolDiff : public clsToolTest {
 protected:
-    /// A claim of an item at 40.00 an hour.
+    /// A claim with one item at 40.00 an hour.
     QString claimWithTime(const char *name, const char *time = "01:00")
     {
         clsZR3Form form;
@@ -91,7 +91,7 @@ TEST_F(ToolDiff, ClaimsThatCanNotBeRead)
     EXPECT_EQ(2, both.status);
     EXPECT_TRUE(both.err.startsWith(missing.toUtf8() + ": File Not Read: ")) << both.err.constData();
     EXPECT_TRUE(both.err.contains("\n" + none.toUtf8() + ": Error: ")) << both.err.constData();
-    // A folder and a claim are no two of a kind.
+    // A folder can't be compared with a claim.
     EXPECT_EQ(2, run({"diff"_q, folder.path(), claim}).status);
 }
 

@@ -1,4 +1,4 @@
-// The finished document, and what a failure leaves: nothing that was not there before.
+// The finished document, and failures, which leave no new files.
 
 #include "tests/export/mdDocumentText.h"
 #include "tests/zr3tool/clsToolTest.h"
@@ -37,7 +37,8 @@ protected:
                 ->writeBoolean(std::find(pages.begin(), pages.end(), page) != pages.end());
     }
 
-    /// A failed export: status 4, that message alone, and the folder as it was, with and without a document in it.
+    /// Expects a failed export: status 4, only that message, and the folder unchanged, with and without a document in
+    /// it.
     void expectFailure(const QStringList &arguments, const QByteArray &message)
     {
         clsToolResult result = run(arguments);
@@ -65,7 +66,7 @@ TEST_F(ToolExport, MakesTheDocumentAndNothingElse)
     const clsToolResult result = run({"export"_q, claim, out()});
     EXPECT_EQ(0, result.status);
     EXPECT_EQ("", result.out);
-    EXPECT_EQ("", result.err); // no terminal, no progress
+    EXPECT_EQ("", result.err); // no progress without a terminal
     EXPECT_EQ(QStringList {"Claim1.doc"_q}, filesOf(out()));
     EXPECT_TRUE(bytesOf(path("out/Claim1.doc")).startsWith("PK"));
     EXPECT_EQ(before, bytesOf(claim));
@@ -180,7 +181,7 @@ TEST_F(ToolExport, AFolderThatCanNotBeWrittenIsAFailure)
 
 TEST_F(ToolExport, ANoteThatCanNeverFitEndsTheExportBeforeItsFirstSheet)
 {
-    // Two words of 40 characters do not stand on one line of 60: so many words, so many lines.
+    // Two words of 40 characters don't fit on one line of 60: one line for each word.
     clsZR3Form form;
     fill(form);
     includePages(form, {1, 6});
@@ -213,7 +214,7 @@ TEST_F(ToolExport, TheFormTypeDecidesWhichDocumentComesOut)
 TEST_F(ToolExport, AFormTypeWithoutPagesIsAFailure)
 {
     clsZR3Form form;
-    form.FormType = "Claim1a"_q; // the case counts
+    form.FormType = "Claim1a"_q; // case matters
     expectFailure({"export"_q, putClaim(form), out()},
         "Export: There are no pages for the form type \"Claim1a\" of this claim.\n");
 }
@@ -323,7 +324,7 @@ TEST_F(ToolExport, ADiskThatIsFullLeavesTheOldDocumentAndNothingElse)
     ASSERT_GT(sheet, templateSize);
     QDir(out()).removeRecursively();
     ASSERT_TRUE(QDir(folder.path()).mkpath("out"_q));
-    // What can't be written: a copy of a template, a sheet that was filled in.
+    // Either a copy of a template or a filled-in sheet can't be written.
     for (const qint64 limit : {qint64(0), templateSize - 1, templateSize + 1}) {
         SCOPED_TRACE(limit);
         for (const bool older : {false, true}) {
@@ -458,7 +459,7 @@ TEST_F(ToolExport, ATerminalShowsTheProgressUnlessItIsToBeQuiet)
 
 TEST_F(ToolExport, TheSheetsAreTheirOwnersAlone)
 {
-    // A folder that was left behind may have been anybody's to read.
+    // A folder left by an earlier run may have been readable by anyone.
     for (const bool leftBehind : {false, true}) {
         if (leftBehind) {
             ASSERT_EQ(0, chmod(QFile::encodeName(path("out/~ZR3Temp")).constData(), 0755));

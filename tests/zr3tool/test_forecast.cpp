@@ -1,4 +1,4 @@
-// What the forecast prints, and what it leaves alone.
+// What the forecast prints, and what it doesn't change.
 
 #include "tests/zr3tool/clsToolTest.h"
 
@@ -23,7 +23,7 @@ TEST_F(ToolForecast, PrintsItsKeysInTheirOrder)
     for (const char *key : {"Sheets", "Page", "Sheet", "Template", "PaperPages", "SheetCount", "PaperPages", "Boxes",
              "Sheet", "Placeholder", "Property", "Row", "Column", "Size", "PrintedSize", "Lines", "State"}) {
         const QByteArray quoted = '"' + QByteArray(key) + "\":";
-        // Of the sheets' keys only the first sheet's are looked at.
+        // Only the first sheet's keys are compared.
         if (QByteArray(key) == "SheetCount")
             at = 0;
         at = result.out.indexOf(quoted, at);

@@ -1,4 +1,4 @@
-// What the tool writes is JSON, whatever a claim holds.
+// The tool writes valid JSON, whatever a claim contains.
 
 #include "base/clsJsonWriter.h"
 #include "tests/support/mdTestPrinting.h"
@@ -21,7 +21,7 @@ TEST(JsonWriter, WritesEveryTextAsTheLibraryQuotesItButForControlsThatItLeaves)
         writer.text("key", text);
         writer.endObject();
         QByteArray quoted = QJsonDocument(QJsonArray {text}).toJson(QJsonDocument::Compact).mid(1).chopped(1);
-        // The library escapes none of these, which a terminal obeys.
+        // Qt escapes none of these, which control a terminal.
         for (char16_t c = 0x7f; c <= 0x9f; ++c)
             quoted.replace(
                 QString(QChar(c)).toUtf8(), QStringLiteral("\\u%1").arg(int(c), 4, 16, QChar(u'0')).toUtf8());

@@ -64,7 +64,7 @@ TEST_F(List, IsJson)
     EXPECT_EQ("{\n \"Claims\": [\n  " + row + "\n ]\n}\n", below(run({"list"_q, "--json"_q, claims()}).out));
     EXPECT_EQ(QByteArray(row).replace("\n   ", "").replace("\n  ", "") + "\n",
         below(run({"list"_q, "--jsonl"_q, claims()}).out));
-    // One claim is a list too.
+    // A single claim is a list too.
     EXPECT_EQ(1, claimsOf(run({"list"_q, "--json"_q, claims() + "/a.zr3"_q})).size());
 }
 

@@ -16,7 +16,7 @@ TEST_F(Many, TotalsAreAListOfWhatEachClaimPrints)
     const clsToolResult result = run({"totals"_q, claims()});
     EXPECT_EQ(0, result.status);
     EXPECT_EQ("", result.err);
-    // Each report stands as it is, three steps further in.
+    // Each report is unchanged, but indented by three more.
     const QByteArray nested = QByteArray(one).trimmed().replace("\n", "\n   ");
     EXPECT_EQ("{\n \"Claims\": [\n  {\n   \"Path\": \"a.zr3\",\n   \"Totals\": " + nested
             + "\n  },\n  {\n   \"Path\": \"b/two.zr3\",\n   \"Totals\": " + nested + "\n  }\n ]\n}\n",
@@ -35,7 +35,7 @@ TEST_F(Many, AFolderIsAListAlsoOfOneClaimOrNone)
     EXPECT_EQ("", run({"totals"_q, "--jsonl"_q, claims()}).out);
     addClaim("a.zr3"_q);
     EXPECT_EQ(1, claimsOf(run({"totals"_q, claims()})).size());
-    // And the one claim itself is what it always was.
+    // The report of a single claim is unchanged.
     EXPECT_TRUE(run({"totals"_q, claims() + "/a.zr3"_q}).out.startsWith("{\n \"FormType\": \"Claim1\",\n"));
 }
 
@@ -97,7 +97,7 @@ TEST_F(Many, ALineForEachClaim)
     const QByteArray one = run({"totals"_q, claims() + "/a.zr3"_q}).out;
     EXPECT_EQ(QJsonDocument::fromJson(one).object(), lines[0]["Totals"_q].toObject());
     EXPECT_EQ("{\"Path\": \"b.zr3\",\"Error\": \"" + m_noClaim + "\"}", below(totals.out.split('\n')[1]));
-    // Also of one claim.
+    // Also for one claim.
     const clsToolResult single = run({"totals"_q, "--jsonl"_q, claims() + "/a.zr3"_q});
     EXPECT_EQ(totals.out.left(totals.out.indexOf('\n') + 1), single.out);
     const clsToolResult check = run({"check"_q, "--jsonl"_q, claims() + "/a.zr3"_q});
@@ -139,7 +139,7 @@ TEST_F(Many, AFolderThatCanNotBeReadIsTold)
 TEST_F(Many, ANameThatIsNoTextIsRefusedByItself)
 {
     addClaim("a.zr3"_q);
-    // The library's own start of processes takes texts only.
+    // Through a shell, because QProcess takes only texts.
     const clsToolResult result = runProgram("/bin/sh"_q,
         {"-c"_q, "exec \"$0\" totals --jsonl \"$1/a.zr3\" \"$(printf 'b\\377.zr3')\""_q, QStringLiteral(ZR3_TOOL),
             claims()});

@@ -12,14 +12,14 @@ protected:
     {
         return run(QStringList {"export"_q, claims(), out()} + more);
     }
-    /// Copies a claim of many sheets so many times.
+    /// Copies a claim with many sheets that many times.
     void addLongClaims(int count) const
     {
         const QByteArray claim = bytesOf(mdSamplePath("many-sheets.zr3"_q));
         for (int i = 0; i < count; ++i)
             putBelow("%1.zr3"_q.arg(i), claim);
     }
-    /// Whether each document of the folder is a whole one.
+    /// Expects each document in the folder to be complete.
     void expectWholeDocuments() const
     {
         const QByteArray whole = bytesOf(out() + "/whole.doc"_q);
@@ -102,7 +102,7 @@ TEST_F(ManyExports, ADocumentThatIsNewerThanItsClaimIsPassedBy)
     setAge(out() + "/done Claim1.doc"_q, 50);
     setAge(out() + "/changed Claim1.doc"_q, 150);
     const clsToolResult result = exported({"--newer"_q, "--jsonl"_q});
-    EXPECT_EQ(5, result.status); // the one that is older may not be replaced
+    EXPECT_EQ(5, result.status); // an older document may not be replaced
     const auto lines = linesOf(result);
     ASSERT_EQ(3, lines.size());
     EXPECT_TRUE(lines[0].contains("Error"_q));
@@ -156,7 +156,7 @@ TEST_F(ManyExports, StopWithinASecondAndLeaveNothingHalfDone)
         ASSERT_EQ(0, ::kill(pid_t(process.processId()), signal));
         ASSERT_TRUE(process.waitForFinished());
         EXPECT_LT(clock.elapsed(), 1000);
-        EXPECT_EQ(QProcess::CrashExit, process.exitStatus()); // by the signal
+        EXPECT_EQ(QProcess::CrashExit, process.exitStatus()); // ended by the signal
         EXPECT_EQ(signal, process.exitCode());
         expectWholeDocuments();
         EXPECT_LT(filesOf(out()).size(), 61);

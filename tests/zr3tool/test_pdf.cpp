@@ -1,4 +1,4 @@
-// The PDF beside the document, and the name after the claim's file.
+// The PDF beside the document, and naming the document after the claim's file.
 
 #include "tests/zr3tool/clsToolTest.h"
 
@@ -24,7 +24,7 @@ protected:
     }
     void TearDown() override { qputenv("PATH", m_path); }
 
-    /// Puts a script before the office program that is installed.
+    /// Puts a script before the installed office program in the path.
     void useOfficeProgram(const QByteArray &steps)
     {
         ASSERT_TRUE(QDir(folder.path()).mkpath("bin"_q));
@@ -104,7 +104,7 @@ TEST_F(ToolPdf, IsReplacedOnlyByForce)
     EXPECT_EQ("older", bytesOf(path("out/Claim1.pdf")));
     EXPECT_EQ(0, run({"export"_q, "--pdf"_q, "--force"_q, claim, "out"_q}).status);
     EXPECT_EQ("%PDF-1.6 new\n", bytesOf(path("out/Claim1.pdf")));
-    // Without --pdf the one that is there is nobody's business.
+    // Without --pdf an existing PDF is not touched.
     EXPECT_TRUE(QFile::remove(path("out/Claim1.doc")));
     EXPECT_EQ(0, run({"export"_q, claim, "out"_q}).status);
 }
@@ -117,7 +117,7 @@ TEST_F(ToolPdf, OneThatCanNotBeMadeLeavesTheDocumentAndSaysWhy)
     EXPECT_EQ("PDF: LibreOffice failed to make the PDF (exit status 3).\n", failed.err);
     EXPECT_EQ(QStringList({"Claim1.doc"_q}), found());
     EXPECT_TRUE(bytesOf(path("out/Claim1.doc")).startsWith("PK"));
-    // Nor is there one of an export that failed.
+    // Nor is one left by an export that failed.
     useOneThatWorks();
     EXPECT_EQ(4, run({"export"_q, "--pdf"_q, "--force"_q, claim, "missing"_q}).status);
     EXPECT_EQ(QStringList({"Claim1.doc"_q}), found());

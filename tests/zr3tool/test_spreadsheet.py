@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The list of claims as a spreadsheet opens it: no text becomes a date or a formula, and the amounts are numbers.
+"""The list of claims opened in a spreadsheet: no text becomes a date or a formula, and the amounts are numbers.
 
 ZR3_TOOL is the headless program, ZR3_SAMPLES the folder of the samples.
 """
@@ -20,9 +20,9 @@ TOOL = os.environ["ZR3_TOOL"]
 SAMPLE = Path(os.environ["ZR3_SAMPLES"]) / "housing-typical.zr3"
 REFERENCES = ["=1+1", "+44 20 7946 0000", "-2-3", "@SUM(1)", '=HYPERLINK("http://x","y")', "1/2", "03/06/25", "2025-06-03",
               "12:30", "3-4-5", "12.5%", "Jan 5", "TRUE", 'it\'s, "so"']
-# As the spreadsheet's own window has it: comma, UTF-8, British English, special numbers not looked for.
+# The defaults of the import window: comma, UTF-8, British English, no detection of special numbers.
 READ = "Text - txt - csv (StarCalc):44,34,76,1,,2057,false,false,false"
-# Formulas are written as such, and not as what they come to.
+# Exported as formulas, not as their values.
 WRITTEN = "csv:Text - txt - csv (StarCalc):44,34,76,1,,0,false,true,true"
 
 

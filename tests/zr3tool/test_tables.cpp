@@ -1,4 +1,4 @@
-// Tables out of a claim and into it, as the tool prints and reads them.
+// Tables from a claim and into it, as the tool prints and reads them.
 
 #include "tests/zr3tool/clsToolTest.h"
 
@@ -6,7 +6,7 @@ namespace {
 
 class ToolTable : public clsToolTest {
 protected:
-    /// A claim of a fee earner and an item at 40.00 an hour.
+    /// A claim with a fee earner and an item at 40.00 an hour.
     QString claimWithItem(const char *description = "Work")
     {
         clsZR3Form form;
@@ -24,7 +24,7 @@ protected:
         m_claim = claimWithItem();
         return run(QStringList {"import"_q, m_claim, path("new.zr3"), "--items"_q, put("rows.csv", rows)} + options);
     }
-    /// The schedule of the new claim; empty where there is none.
+    /// The schedule of the new claim; empty if there is none.
     QByteArray schedule() const
     {
         return isWritten() ? run({"table"_q, path("new.zr3"), "schedule"_q}).out : QByteArray();
@@ -93,7 +93,7 @@ TEST_F(ToolImport, AddsTheRowsAndWritesTheNewFile)
     EXPECT_EQ(Header + First + "2,AB,04/06/2025,DPL,a; b,01:30,no,no,no,no,no,no,,40.00,60.00\r\n"
             + "3,AB,,ACT,,00:30,no,no,no,no,no,no,,40.00,20.00\r\n",
         schedule());
-    // The claim itself stays as it was; the new one is written as by save.
+    // The claim itself is unchanged; the new one is written like a save.
     EXPECT_EQ(First, run({"table"_q, m_claim, "schedule"_q}).out.mid(Header.size()));
     clsZR3Form written;
     ASSERT_TRUE(written.LoadXML(path("new.zr3")));

@@ -1,4 +1,4 @@
-// What a terminal is shown of a claim and of the names of files.
+// What a terminal shows of claims and file names.
 
 #include "tests/zr3tool/clsToolTest.h"
 
@@ -15,7 +15,7 @@ protected:
     {
         clsToolTest::SetUp();
         ASSERT_EQ(0, openpty(&m_reader, &m_terminal, nullptr, nullptr, nullptr));
-        // The line ends as the tool wrote them.
+        // Line ends as the tool writes them.
         termios asWritten = {};
         ASSERT_EQ(0, tcgetattr(m_terminal, &asWritten));
         cfmakeraw(&asWritten);
@@ -29,8 +29,8 @@ protected:
         clsToolTest::TearDown();
     }
 
-    /// Runs the tool with one of its streams at the terminal; what stands there after the progress has been cleared,
-    /// which must be without control characters but for line feeds.
+    /// Runs the tool with one of its streams on the terminal. Returns the text shown after the progress has been
+    /// cleared, which must have no control characters except line feeds.
     QByteArray shownBy(const QStringList &arguments, int stream, int status)
     {
         const clsToolResult result = run(arguments, {}, [this, stream] {
@@ -47,7 +47,7 @@ protected:
         return shown;
     }
 
-    /// What is written to a terminal reaches its other side a little later, and in pieces.
+    /// Text written to a terminal arrives at the other side a little later, and in pieces.
     QByteArray whatArrives() const
     {
         constexpr int LongestWait = 500; // milliseconds
@@ -63,7 +63,7 @@ protected:
         return all;
     }
 
-    /// A text that would clear the screen and begin a line of its own.
+    /// A text that would clear the screen and start a line.
     const QString m_odd = QString::fromUtf8("a\x1b[2Jb\302\201c\nTotals: d\x7f.zr3");
     const QByteArray m_shown = "a?[2Jb?c?Totals: d?.zr3";
 
@@ -79,7 +79,7 @@ TEST_F(Terminal, ShowsTheNameOfAFileWithoutItsControlCharacters)
     const QByteArray before = "File Not Read: There was a problem reading the following path:\n\n";
     const QByteArray after = "\n\nThe error reported is:\n\n53 - File not found\n";
     EXPECT_EQ(before + m_shown + after, shownBy({"totals"_q, m_odd}, STDERR_FILENO, 2));
-    // What goes to a file stays as it is.
+    // Output to a file is unchanged.
     EXPECT_EQ(before + m_odd.toUtf8() + after, run({"totals"_q, m_odd}).err);
 }
 
@@ -110,7 +110,7 @@ TEST_F(Terminal, ShowsTheFiguresWithTheirControlCharactersEscaped)
     const QByteArray shown = shownBy({"totals"_q, putClaim(form)}, STDOUT_FILENO, 0);
     EXPECT_TRUE(shown.contains(R"("FormType": "a\u001b[2Jb\u0081c\nTotals: d\u007f.zr3")")) << shown.constData();
     EXPECT_EQ(m_odd, QJsonDocument::fromJson(shown)["FormType"_q].toString());
-    // Wherever the figures go.
+    // Wherever the figures are written.
     EXPECT_EQ(shown, run({"totals"_q, path("claim.zr3")}).out);
 }
 
@@ -161,7 +161,7 @@ TEST_F(Terminal, ShowsATableLineByLine)
     const QString claim = putClaim(form);
     EXPECT_EQ("orderid,uniqueid,name,rate\n1,ID1," + m_shown + "??2,0.00\n",
         shownBy({"table"_q, claim, "enhancements"_q}, STDOUT_FILENO, 0));
-    // What goes to a file stays as it is.
+    // Output to a file is unchanged.
     EXPECT_EQ("orderid,uniqueid,name,rate\r\n1,ID1,\"" + m_odd.toUtf8() + "\r\n2\",0.00\r\n",
         run({"table"_q, claim, "enhancements"_q}).out);
 }

@@ -8,7 +8,7 @@ namespace {
 
 class ToolTotals : public clsToolTest {
 protected:
-    /// The report of a claim, which must come out with that status; standard error has one message where figures fail.
+    /// The report of a claim, which must have that status; standard error has one message if figures fail.
     QJsonObject report(const clsZR3Form &form, int status)
     {
         const clsToolResult result = run({"totals"_q, putClaim(form)});
@@ -23,7 +23,7 @@ protected:
         return json;
     }
 
-    /// What the last report told of what its failures come from, a line each.
+    /// The causes of the failures in the last report, one per line.
     QByteArray words;
 
     static QStringList keysInOrder(const QByteArray &json)
@@ -41,7 +41,7 @@ std::string textOf(const QJsonValue &value)
     return QJsonDocument(QJsonArray {value}).toJson(QJsonDocument::Compact).mid(1).chopped(1).toStdString();
 }
 
-/// The text under a key, by its name.
+/// The text of a key.
 QString at(const QJsonObject &json, const char *key)
 {
     return json[QString::fromLatin1(key)].toString("(no text)"_q);
@@ -110,7 +110,7 @@ TEST_F(ToolTotals, AFigureThatFailsIsItsErrorAndAllOthersAreThere)
 {
     clsZR3Form form;
     fill(form);
-    addItem(form, "02:00")->Advocacy = true; // 100, but the hourly rate is where every item starts from
+    addItem(form, "02:00")->Advocacy = true; // 100; but every item starts from the hourly rate
     form.FeeEarner(1)->Calls = 3; // 12
     form.FeeEarnerGroup(1)->HourlyRate = QString();
     const auto expert = form.AddExpertInvoice();
@@ -164,7 +164,7 @@ TEST_F(ToolTotals, EachErrorHasItsNumber)
     clsZR3Form form;
     fill(form);
     addItem(form, "90"); // no colon
-    addItem(form, "01:00")->FeeEarnerUniqueID = QString(); // nobody
+    addItem(form, "01:00")->FeeEarnerUniqueID = QString(); // no fee earner
     addItem(form, "999999999:00"); // 59,999,999,940 minutes
     const QJsonObject json = report(form, 4);
     const char *claims[] = {"40", "!9", "!91", "!6"};
@@ -172,7 +172,7 @@ TEST_F(ToolTotals, EachErrorHasItsNumber)
         EXPECT_EQ(QString::fromLatin1(claims[i]), at(json["ScheduleItems"_q][i].toObject(), "Claim"));
     EXPECT_EQ("40"_q, at(json["ScheduleItems"_q][1].toObject(), "Rate"));
     EXPECT_EQ("!91"_q, at(json["ScheduleItems"_q][2].toObject(), "Rate"));
-    // The first failing part gives its error.
+    // The first part that fails determines the error.
     EXPECT_EQ("!9"_q, json["ColumnTimeTotal"_q][0].toString());
     EXPECT_EQ("!9"_q, json["ColumnClaimTotal"_q][0].toString());
     EXPECT_EQ("!9"_q, at(json, "ScheduleTotal"));
@@ -187,7 +187,7 @@ TEST_F(ToolTotals, EachErrorHasItsNumber)
 
 TEST_F(ToolTotals, ASumTakesTheErrorOfItsFirstFailingPart)
 {
-    // Profit costs 91, experts 13, disbursements 6: in this order they are added.
+    // Profit costs 91, experts 13, disbursements 6, added in this order.
     clsZR3Form form;
     fill(form);
     form.ScheduleOfTimeItem(1)->FeeEarnerUniqueID = QString();
@@ -211,7 +211,7 @@ TEST_F(ToolTotals, ASumTakesTheErrorOfItsFirstFailingPart)
 
     form.FormType = "Claim1A"_q;
     form.DeleteExpertInvoice(1);
-    form.AddFASItem(); // without its amounts: 13 too, but behind the disbursements' 6
+    form.AddFASItem(); // without its amounts: also 13, but after the disbursements' 6
     summary = report(form, 4)["Summary"_q].toObject();
     EXPECT_EQ("!13"_q, at(summary, "nfas"));
     for (const char *key : {"nsubtotal", "ntotal"})
@@ -241,14 +241,14 @@ TEST_F(ToolTotals, ANumberThatIsNoneIsReadAsFarAsItGoes)
     const QJsonObject json = report(form, 0);
     EXPECT_EQ("3"_q, at(json["Communications"_q][0].toObject(), "Count"));
     EXPECT_EQ("20 per cent"_q, at(json, "VATRate"));
-    EXPECT_EQ("10.4"_q, at(json, "ProfitCostsVAT")); // a fifth of 40 and 3 times 4
+    EXPECT_EQ("10.4"_q, at(json, "ProfitCostsVAT")); // 20 per cent of 40 and 3 times 4
 }
 
 TEST_F(ToolTotals, TotallingLeavesTheFileAlone)
 {
     clsZR3Form form;
     fill(form);
-    form.AddFASItem(); // its empty VAT is given "0" while totalling
+    form.AddFASItem(); // its empty VAT is set to "0" while totalling
     const QString claim = putClaim(form);
     const QByteArray before = bytesOf(claim);
     EXPECT_EQ(4, run({"totals"_q, claim}).status); // its other amounts are empty

@@ -1,4 +1,4 @@
-// A claim that was changed in every way has the figures of the same claim read anew: nothing that is kept goes stale.
+// After any change a claim has the same figures as when it is read again: nothing cached becomes stale.
 
 #include "base/clsRunTimeError.h"
 #include "costing/mdTotalsReport.h"
@@ -87,7 +87,7 @@ private:
         }
     }
 
-    /// Takes an item out, and closes the gap that it leaves.
+    /// Removes an item and closes the gap in the order.
     void remove(clsZR3Form &form)
     {
         forOneList(form, [&](const auto &collection, auto take) {
@@ -125,7 +125,7 @@ private:
         }
     }
 
-    /// A value of a property that keeps no order and names no item of its own.
+    /// Writes a random value to a property that is neither a key nor the counter of identities.
     void write(Record record)
     {
         const auto &rows = record->properties();
@@ -155,7 +155,7 @@ private:
         }
     }
 
-    /// Changes the tree behind the record's back, in ways that a load leaves as they are.
+    /// Changes the tree directly, in ways that loading leaves unchanged.
     void meddle(Record record)
     {
         pugi::xml_node node = record->XMLNode();
@@ -175,7 +175,7 @@ private:
     std::mt19937 m_random;
 };
 
-/// All figures, and what is told of those that fail; the number of the error where a list can't be ordered.
+/// All figures, and the reasons of those that fail; the error number if a list can't be ordered.
 QByteArray figures(clsZR3Form &form)
 {
     try {

@@ -228,6 +228,30 @@ TEST_F(FirmFile, WhatCannotBeReadIsToldWithItsLine)
     EXPECT_EQ(QStringLiteral(": two of its columns are called Name"), mdReadFirmCsv("Kind,Name,NAME\r\n", firm));
 }
 
+TEST_F(FirmFile, ADamagedTableIsToldOrReadAsItIsWritten)
+{
+    const QByteArray whole = mdFirmAsCsv(*filledFirm());
+    int read = 0, told = 0;
+    for (qsizetype at = 0; at < whole.size(); at += 5)
+        for (const QByteArray &damage : {QByteArray(), QByteArray("\""), QByteArray(","), QByteArray("\r\n"),
+                 QByteArray("'="), QByteArray("\xFF"), QByteArray(1, '\0')}) {
+            QByteArray damaged = whole;
+            damaged.replace(at, 1, damage);
+            clsFirm firm;
+            if (!mdReadFirmCsv(damaged, firm).isEmpty()) {
+                ++told;
+                continue;
+            }
+            ++read;
+            const QByteArray written = mdFirmAsCsv(firm);
+            clsFirm again;
+            ASSERT_EQ(QString(), mdReadFirmCsv(written, again)) << written.constData();
+            ASSERT_EQ(written, mdFirmAsCsv(again)) << at;
+        }
+    EXPECT_LT(100, read);
+    EXPECT_LT(100, told);
+}
+
 TEST_F(FirmFile, TenThousandPeopleAreReadInASecond)
 {
     QByteArray lines = "Group,A,Grade A,,,,78,\r\n";

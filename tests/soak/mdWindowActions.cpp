@@ -34,6 +34,7 @@ const clsKey Keys[] = {
     {"Ctrl+A",    Qt::Key_A, Qt::ControlModifier}, {"Ctrl+C", Qt::Key_C, Qt::ControlModifier},
     {"Ctrl+X",    Qt::Key_X, Qt::ControlModifier}, {"Ctrl+V", Qt::Key_V, Qt::ControlModifier},
     {"Ctrl+Home", Qt::Key_Home, Qt::ControlModifier}, {"Ctrl+End", Qt::Key_End, Qt::ControlModifier},
+    {"Ctrl+PageDown", Qt::Key_PageDown, Qt::ControlModifier}, {"Ctrl+PageUp", Qt::Key_PageUp, Qt::ControlModifier},
     {"Shift+End", Qt::Key_End, Qt::ShiftModifier}, {"Alt+Down", Qt::Key_Down, Qt::AltModifier},
     {"F1",        Qt::Key_F1}, {"F2", Qt::Key_F2}, {"F4", Qt::Key_F4}, {"F10", Qt::Key_F10},
     {"Shift+F2",  Qt::Key_F2, Qt::ShiftModifier}, {"Ctrl+Alt+F3", Qt::Key_F3, Qt::ControlModifier | Qt::AltModifier},
@@ -45,6 +46,7 @@ const clsKey Shortcuts[] = {
     {"Ctrl+S", Qt::Key_S, Qt::ControlModifier}, {"Ctrl+S", Qt::Key_S, Qt::ControlModifier},
     {"Ctrl+W", Qt::Key_W, Qt::ControlModifier},
     {"Ctrl+P", Qt::Key_P, Qt::ControlModifier},
+    {"Ctrl+L", Qt::Key_L, Qt::ControlModifier},
     {"Ctrl+T", Qt::Key_T, Qt::ControlModifier}, {"Ctrl+I", Qt::Key_I, Qt::ControlModifier},
 };
 // clang-format on

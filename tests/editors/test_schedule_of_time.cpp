@@ -68,8 +68,8 @@ TEST_F(ScheduleOfTime, ShowsItsColumns)
             EXPECT_NEAR(whole * expected.width / 100, cells.columnWidth(column), 2) << expected.caption;
         }
     }
-    EXPECT_EQ(
-        QStringLiteral("1|04/03/26|20260304|DST|01:50|\u2713|\u2717|\u2717|\u2717|\u2713||0.00"), rows(grid(*screen))[0]);
+    EXPECT_EQ(QStringLiteral("1|04/03/26|20260304|DST|01:50|\u2713|\u2717|\u2717|\u2717|\u2713||0.00"),
+        rows(grid(*screen))[0]);
     EXPECT_TRUE(grid(*screen).Orderable());
     EXPECT_EQ(QStringLiteral("mnuScheduleOfTime"), grid(*screen).PopupMenuName());
 }

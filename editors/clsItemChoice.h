@@ -1,9 +1,9 @@
 #pragma once
 
 #include "editors/clsScreenTable.h"
-#include "formdata/mdInOrder.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
+#include "formdata/mdInOrder.h"
 
 #include <QFrame>
 #include <QString>

@@ -8,11 +8,11 @@
 #include "editors/frmSection.h"
 #include "editors/mdCountComms.h"
 #include "editors/mdEditItem.h"
-#include "formdata/mdInOrder.h"
 #include "editors/oEnhancementsBox.h"
 #include "formdata/clsZR3FeeEarner.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
+#include "formdata/mdInOrder.h"
 #include "formdata/mdRecordInWords.h"
 #include "formdata/mdRunStep.h"
 

@@ -2,9 +2,9 @@
 
 #include "base/clsRunTimeError.h"
 #include "editors/mdComboboxSelectByItemData.h"
-#include "formdata/mdInOrder.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
+#include "formdata/mdInOrder.h"
 
 #include <QAbstractItemView>
 #include <QKeyEvent>

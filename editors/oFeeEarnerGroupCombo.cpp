@@ -2,8 +2,8 @@
 
 #include "editors/mdComboboxSelectByItemData.h"
 #include "editors/mdEditedForm.h"
-#include "formdata/mdInOrder.h"
 #include "formdata/clsZR3Form.h"
+#include "formdata/mdInOrder.h"
 
 #include <QSignalBlocker>
 

@@ -90,10 +90,10 @@ std::optional<bool> setOtherContentAside()
             return {};
         if (!MakeStateFolder())
             return false;
-        const QString copy = WriteDatedCopy(StateFolder() + QStringLiteral("/Set Aside"), bytes);
-        if (copy.isEmpty())
+        const QString aside = WriteDatedCopy(StateFolder() + QStringLiteral("/Set Aside"), bytes);
+        if (aside.isEmpty())
             return false;
-        KeepNewestCopies(copy, MostSetAside);
+        KeepNewestCopies(aside, MostSetAside);
         return true;
     } catch (const clsRunTimeError &) {
         return false;

@@ -59,6 +59,12 @@ bool clsHistory::knowsTree() const
     return tree && m_form && tree == m_form->m_root.document();
 }
 
+/// Whether the tree is known to be as the shadow has it. To compare the two takes long with a long claim.
+bool clsHistory::isCaughtUp() const
+{
+    return m_form->CountsChanges() && m_caughtUp == XMLChanges::count();
+}
+
 void clsHistory::run(const std::function<QString()> &action)
 {
     if (m_running == 0)
@@ -80,9 +86,13 @@ void clsHistory::join()
         clear();
         m_tree = m_form->m_root.document();
         m_shadow.take(root());
+        m_caughtUp = XMLChanges::count();
         return;
     }
+    if (isCaughtUp())
+        return;
     keep(m_shadow.catchUp(root()));
+    m_caughtUp = XMLChanges::count();
 }
 
 /// A change before the first step belongs to the starting state.
@@ -106,7 +116,10 @@ void clsHistory::take(const QString &name)
         return;
     if (!knowsTree())
         return join();
+    if (isCaughtUp())
+        return;
     clsTreeChange change = m_shadow.catchUp(root());
+    m_caughtUp = XMLChanges::count();
     if (change.isEmpty())
         return;
     dropUndone();
@@ -214,7 +227,7 @@ const clsZR3Item *clsHistory::turn(const clsStep &step, clsTreeDirection directi
         std::for_each(step.changes.begin(), step.changes.end(), applyOne);
     else
         std::for_each(step.changes.rbegin(), step.changes.rend(), applyOne);
-    XMLChanges::note();
+    m_caughtUp = XMLChanges::note();
     if (reload)
         form.LoadElements();
     else

@@ -80,6 +80,7 @@ private:
 
     pugi::xml_node root() const;
     bool knowsTree() const;
+    bool isCaughtUp() const;
     void keep(clsTreeChange change);
     void dropUndone();
     void dropOldest();
@@ -92,6 +93,7 @@ private:
     std::unique_ptr<clsZR3Form> &m_form;
     std::weak_ptr<clsXMLDocument> m_tree; ///< of the claim to which the steps belong
     clsTreeShadow m_shadow;
+    quint64 m_caughtUp = 0; ///< the count of changes when the shadow last caught up with the tree
     std::deque<clsStep> m_steps; ///< first those done, then those undone
     size_t m_done = 0;
     size_t m_bytes = 0;

@@ -6,6 +6,7 @@
 #include "tests/support/mdTestPaths.h"
 
 #include <QRegularExpression>
+#include <QStringList>
 
 #include <algorithm>
 #include <memory>
@@ -75,9 +76,12 @@ protected:
         }
         for (int order = 1; order <= int(fresh.ScheduleOfTimeItemsCollection().size()); ++order)
             ASSERT_EQ(fresh.ScheduleOfTimeItemByOrderID(order)->Index, form->ScheduleOfTimeItemByOrderID(order)->Index);
+        QStringList sections;
+        forEachSection(fresh, [&](const char *, const clsZR3Section &section) { sections << section.XMLOutput(); });
+        qsizetype at = 0;
         forEachSection(*form, [&](const char *name, const clsZR3Section &section) {
             EXPECT_EQ(name, QString::fromLatin1(section.elementName()));
-            EXPECT_EQ(XMLElementOutput(form->XMLNode().child(name)), section.XMLOutput());
+            EXPECT_EQ(sections[at++], section.XMLOutput());
         });
     }
     template <class Items> static void expectSameItems(const Items &expected, const Items &found)

@@ -11,6 +11,8 @@ namespace {
 
 constexpr int LineBelow = 2;
 constexpr int LineHeight = 2;
+/// Where the beginning isn't shown: at least so many characters before the word, as far as there are.
+constexpr qsizetype WordsBefore = 8;
 
 /// A stretch of the text that is drawn in one go.
 struct clsPiece {
@@ -53,6 +55,16 @@ std::vector<std::pair<qsizetype, qsizetype>> mdPlacesOf(const QStringList &words
     return places;
 }
 
+QString mdShownPart(const QString &text, const QStringList &words, const QFontMetrics &metrics, int width)
+{
+    const QString beginning = metrics.elidedText(text, Qt::ElideRight, width);
+    const auto places = mdPlacesOf(words, text);
+    if (beginning == text || places.empty() || !mdPlacesOf(words, beginning).empty())
+        return beginning;
+    const qsizetype from = text.lastIndexOf(u' ', std::max<qsizetype>(0, places.front().first - WordsBefore)) + 1;
+    return from == 0 ? beginning : metrics.elidedText(u'\u2026' + text.mid(from), Qt::ElideRight, width);
+}
+
 void mdPaintFound(QPainter &painter, const QRect &place, Qt::Alignment alignment, const QFont &font,
     const QString &text, const QStringList &words)
 {
@@ -70,7 +82,7 @@ void mdPaintFound(QPainter &painter, const QRect &place, Qt::Alignment alignment
     // What semibold takes more is taken from the room of the text.
     const int more = std::max(0, widthOf(pieces) - plainMetrics.horizontalAdvance(text));
     if (widthOf(pieces) > place.width())
-        pieces = piecesOf(plainMetrics.elidedText(text, Qt::ElideRight, place.width() - more), words);
+        pieces = piecesOf(mdShownPart(text, words, plainMetrics, place.width() - more), words);
 
     int left = place.left();
     if (alignment & Qt::AlignRight)

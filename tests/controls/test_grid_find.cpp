@@ -279,6 +279,19 @@ TEST(PaintFound, PlacesThatOverlapAreOne)
     EXPECT_EQ(Places(), mdPlacesOf({}, "Final"));
 }
 
+TEST(PaintFound, ATextThatIsTooLongIsShownAroundTheWord)
+{
+    const QFontMetrics metrics {QFont()};
+    const QString text = "Attending on the Guardian before the hearing of the claim for possession of the house";
+    const int width = metrics.horizontalAdvance("Attending on the Guardian befo");
+    EXPECT_EQ(text, mdShownPart(text, {"hearing"}, metrics, 10000));
+    const QString around = mdShownPart(text, {"hearing"}, metrics, width);
+    EXPECT_TRUE(around.startsWith(u"\u2026before the hearing")) << around.toStdString();
+    EXPECT_LE(metrics.horizontalAdvance(around), width);
+    EXPECT_TRUE(mdShownPart(text, {"guardian"}, metrics, width).startsWith("Attending on"));
+    EXPECT_TRUE(mdShownPart(text, {"zzz"}, metrics, width).startsWith("Attending on")) << "found in another column";
+}
+
 TEST_F(clsGridMarks, ShiftMarksFromTheSelectedRowOnAndAMoveUnmarks)
 {
     press(Qt::Key_Down, Qt::ShiftModifier);

@@ -1,6 +1,7 @@
 #include "commands/clsLeftJournals.h"
 
 #include "base/clsFileSystem.h"
+#include "base/clsFileWatch.h"
 #include "base/clsHeldFile.h"
 #include "base/clsRunTimeError.h"
 #include "base/mdLog.h"

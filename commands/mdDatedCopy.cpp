@@ -58,7 +58,7 @@ struct clsCopyName {
 
 std::optional<clsCopyName> partsOf(const QString &name)
 {
-    static const QRegularExpression pattern(
+    const QRegularExpression pattern(
         QStringLiteral(
             "^(.+) ([0-9]{4}-[0-9]{2}-[0-9]{2} [0-9]{2}\\.[0-9]{2}\\.[0-9]{2})(?: \\(([0-9]{1,3})\\))?\\.zr3$"),
         QRegularExpression::DotMatchesEverythingOption);

@@ -1,6 +1,7 @@
 #include "commands/mdFileHandling.h"
 
 #include "base/clsFileSystem.h"
+#include "base/clsFileWatch.h"
 #include "base/mdCodePage.h"
 #include "base/mdCustomMessages.h"
 #include "base/mdGetResourceData.h"

@@ -29,6 +29,7 @@ constexpr clsMenuRow MenuRows[] = {
     {"&File",    "&Export to Word",               "mnuExportToWord",                 "Ctrl+W", &frmMain::ExportToWord,                 true},
     {"&File",    "E&xit",                         "mnuExit",                         "Ctrl+Q", &frmMain::Exit,                         true},
     {"&File",    "Export as &PDF...",             "mnuExportAsPdf",                  "",       &frmMain::ExportAsPdf},
+    {"&File",    "&Folder of Claims...",          "mnuFolderOfClaims",               "",       &frmMain::FolderOfClaims, false, Glyph::Folder},
     {"&Tools",   "&Preferences",                  "mnuPreferences",                  "Ctrl+P", &frmMain::ShowPreferences,              true, Glyph::Sliders},
     {"&Tools",   "&Check For Blank Time / Values", "mnuCheckForBlankItems",          "",       &frmMain::CheckForBlank,                  true},
     {"&Tools",   "Chec&k Claim",                  "mnuCheckClaim",                   "Ctrl+K", &frmMain::CheckClaim},

@@ -8,6 +8,7 @@
 #include "programs/zr3tool/mdClaimSteps.h"
 #include "wordexport/clsExport.h"
 #include "wordexport/clsPdfConversion.h"
+#include "wordexport/mdDocumentExists.h"
 #include "wordexport/mdExportDriver.h"
 #include "wordexport/mdExportTempFolder.h"
 #include "wordexport/mdExportWordCombineDocuments.h"
@@ -27,9 +28,7 @@ using Status = clsExitStatus;
 /// What the user is told of a document that is there and may not be replaced.
 Status documentExists(clsConsoleUserInterface &console, const QString &document)
 {
-    console.tell(QStringLiteral("Export"),
-        QStringLiteral("The document %1 exists already. Give --force to replace it.")
-            .arg(QDir::toNativeSeparators(document)));
+    console.tell(QStringLiteral("Export"), mdDocumentExistsMessage(document));
     return Status::DocumentExists;
 }
 

@@ -26,6 +26,7 @@ const clsEntry Entries[] = {
     {"File",    "Export to Word",                "mnuExportToWord",                 "Ctrl+W", true},
     {"File",    "Exit",                          "mnuExit",                         "Ctrl+Q", true},
     {"File",    "Export as PDF...",              "mnuExportAsPdf",                  "",       false},
+    {"File",    "Folder of Claims...",           "mnuFolderOfClaims",               "",       false},
     {"Edit",    "Undo",                          "mnuUndo",                         "Ctrl+Z", false},
     {"Edit",    "Redo",                          "mnuRedo",                         "Ctrl+Shift+Z", true},
     {"Edit",    "Paste Items...",                "mnuPasteItems",                   "Ctrl+Shift+V", false},

@@ -5,8 +5,8 @@
 #include "shell/clsFolderModel.h"
 #include "shell/frmCompare.h"
 #include "shell/mdComparison.h"
-#include "wordexport/mdDocumentExists.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -17,6 +17,9 @@
 namespace {
 
 using Result = clsFolderWork::clsResult;
+
+/// How the headless program ends what it says of a document that is there and may not be replaced.
+const QString HowToReplace = QStringLiteral(" Give --force to replace it.");
 
 QString claimsInWords(qsizetype count)
 {
@@ -151,9 +154,9 @@ void clsFolderActions::exported(const QStringList &paths, const QString &target,
         QString error = wordIn(line, "Error");
         if (error.isEmpty())
             continue;
-        if (mdIsDocumentExistsMessage(error)) {
+        if (error.endsWith(HowToReplace)) {
             there << wordIn(line, "Path");
-            error.chop(mdHowToReplace().size());
+            error.chop(HowToReplace.size());
         }
         details.rows.push_back({mdNameOfClaim(wordIn(line, "Path")), error});
     }

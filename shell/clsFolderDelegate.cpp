@@ -73,7 +73,7 @@ void clsFolderDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
 {
     painter->save();
     paintBack(*painter, option, index);
-    const QRect room = option.rect.adjusted(Theme::Space8, 0, -Theme::Space8, -1);
+    const QRect room = option.rect.adjusted(CellEdge, 0, -CellEdge, -1);
     if (index.column() == Model::Claim)
         paintClaim(*painter, room, index);
     else if (index.column() != Model::Changed && !rowOf(index).isRead())
@@ -122,7 +122,7 @@ void clsFolderDelegate::paintReason(
     const int left = table.columnViewportPosition(Model::Form);
     const int right = header.isSectionHidden(Model::Changed) ? table.viewport()->width()
                                                              : table.columnViewportPosition(Model::Changed);
-    const QRect whole(left + Theme::Space8, option.rect.top(), right - left - 2 * Theme::Space8, option.rect.height());
+    const QRect whole(left + CellEdge, option.rect.top(), right - left - 2 * CellEdge, option.rect.height());
     painter.setClipRect(option.rect.adjusted(0, 1, 0, -1));
     const int side = Theme::scaled(SignSide);
     mdPaintSign(painter, QRectF(whole.left(), whole.top() + (whole.height() - side) / 2.0, side, side), Sign::Error);

@@ -9,6 +9,9 @@ class clsFolderDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
 public:
+    /// Between a text and the end of its cell.
+    static constexpr int CellEdge = 6;
+
     explicit clsFolderDelegate(QObject *parent = nullptr);
 
     /// To be called when the desktop's font has changed.

@@ -3,6 +3,7 @@
 #include "controls/mdGridMetrics.h"
 #include "controls/mdPaintControls.h"
 #include "controls/mdTheme.h"
+#include "shell/clsFolderDelegate.h"
 
 #include <QAccessible>
 #include <QKeyEvent>
@@ -61,7 +62,7 @@ void oFolderHeader::paintSection(QPainter *painter, const QRect &rectangle, int 
     painter->setPen(Theme::Ink2);
     const auto alignment = Qt::Alignment(model()->headerData(section, orientation(), Qt::TextAlignmentRole).toInt());
     const QString caption = model()->headerData(section, orientation(), Qt::DisplayRole).toString();
-    const QRect inside = rectangle.adjusted(Theme::Space8, 0, -Theme::Space8, -1);
+    const QRect inside = rectangle.adjusted(clsFolderDelegate::CellEdge, 0, -clsFolderDelegate::CellEdge, -1);
     const QString shown = metrics.elidedText(caption, Qt::ElideRight, inside.width());
     painter->drawText(inside, int(alignment) | Qt::TextSingleLine, shown);
     if (sortIndicatorSection() == section) {

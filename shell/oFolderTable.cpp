@@ -18,11 +18,11 @@ namespace {
 
 using Model = clsFolderModel;
 
-/// A text that each column has room for; that of the claim takes what is left.
+/// A text that each column has room for; those of the claim and the client share what is left.
 constexpr const char *Fitting[Model::Columns]
-    = {"Hartwell disrepair LA-20417", "1A", "Mrs Jane Hartwell", "LA-20417/A", "0,000", "000,000.00", "000,000.00",
+    = {"Hartwell disrepair LA-20", "1A", "Mrs Jane Hartwell", "NB0859611/A", "0,000", "000,000.00", "000,000.00",
         "00,000.00", "00,000.00", "00,000.00", "000,000.00", "000,000.00", "000", "000", "00/00/00 00:00"};
-constexpr int SignRoom = 4; ///< beside a heading, besides the cell's own edge
+constexpr int SignRoom = 6; ///< beside a heading, besides the cell's own edge
 constexpr int FocusFrame = 2;
 
 /// What gives way first.
@@ -182,7 +182,7 @@ int oFolderTable::widthOf(int column) const
     const QString heading = m_claims.headerData(column, Qt::Horizontal).toString();
     return std::max(strong.horizontalAdvance(heading) + SignRoom,
                strong.horizontalAdvance(QString::fromLatin1(Fitting[column])))
-        + 2 * Theme::Space8;
+        + 2 * clsFolderDelegate::CellEdge;
 }
 
 void oFolderTable::placeColumns()
@@ -198,7 +198,9 @@ void oFolderTable::placeColumns()
         if (gives)
             needed -= widths[column];
     }
-    widths[Model::Claim] += std::max(0, room - needed);
+    const int left = std::max(0, room - needed);
+    widths[Model::Client] += left / 3;
+    widths[Model::Claim] += left - left / 3;
     for (int column = 0; column < Model::Columns; ++column)
         if (!m_header->isSectionHidden(column))
             m_header->resizeSection(column, widths[column]);

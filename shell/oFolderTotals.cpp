@@ -3,6 +3,7 @@
 #include "controls/mdGridMetrics.h"
 #include "controls/mdPaintControls.h"
 #include "controls/mdTheme.h"
+#include "shell/clsFolderDelegate.h"
 #include "shell/oFolderHeader.h"
 #include "shell/oFolderTable.h"
 
@@ -66,7 +67,7 @@ void oFolderTotals::paintEvent(QPaintEvent *)
     const int offset = m_table.viewport()->mapTo(&m_table, QPoint()).x();
     const auto cell = [&](int column) {
         const QRect whole(offset + m_table.columnViewportPosition(column), 0, m_table.columnWidth(column), height());
-        return whole.adjusted(Theme::Space8, 0, -Theme::Space8, 0);
+        return whole.adjusted(clsFolderDelegate::CellEdge, 0, -clsFolderDelegate::CellEdge, 0);
     };
     // Up to the first sum, since nothing else stands there.
     QRect captionRoom = cell(Model::Claim);

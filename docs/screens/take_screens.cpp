@@ -313,6 +313,13 @@ void takeFolder(clsPictures &pictures, const QString &samples, frmMain &main)
     if (broken.open(QIODevice::WriteOnly))
         broken.write("<zr3form>");
     broken.close();
+    QDateTime changed(QDate(2026, 11, 2), QTime(9, 15));
+    for (const QFileInfo &file : QDir(claims).entryInfoList(QDir::Files)) {
+        QFile claim(file.filePath());
+        claim.open(QIODevice::ReadWrite);
+        claim.setFileTime(changed, QFileDevice::FileModificationTime);
+        changed = changed.addSecs(169'620);
+    }
     frmFolderOfClaims window(claims, &main);
     window.resize(1366, 560);
     window.show();

@@ -8,7 +8,6 @@
 #include "programs/zr3tool/mdClaimSteps.h"
 #include "wordexport/clsExport.h"
 #include "wordexport/clsPdfConversion.h"
-#include "wordexport/mdDocumentExists.h"
 #include "wordexport/mdExportDriver.h"
 #include "wordexport/mdExportTempFolder.h"
 #include "wordexport/mdExportWordCombineDocuments.h"
@@ -28,7 +27,9 @@ using Status = clsExitStatus;
 /// What the user is told of a document that is there and may not be replaced.
 Status documentExists(clsConsoleUserInterface &console, const QString &document)
 {
-    console.tell(QStringLiteral("Export"), mdDocumentExistsMessage(document));
+    console.tell(QStringLiteral("Export"),
+        QStringLiteral("The document %1 exists already. Give --force to replace it.")
+            .arg(QDir::toNativeSeparators(document)));
     return Status::DocumentExists;
 }
 

@@ -234,17 +234,17 @@ bool clsManyRun::work()
 /// Goes on with what changes; true where the reader has gone.
 bool clsManyRun::follow()
 {
-    const auto tell = [this](const QByteArray &line) { return write(STDOUT_FILENO, line + '\n'); };
+    const auto writeLine = [this](const QByteArray &line) { return write(STDOUT_FILENO, line + '\n'); };
     clsFollowedClaims claims(m_requests);
     m_jobs = claims.changed(m_jobs);
     for (qsizetype known = -1;;) {
         if (!work())
             return false;
         for (const QString &path : claims.gone())
-            if (!tell(mdGoneAsLine(path)))
+            if (!writeLine(mdGoneAsLine(path)))
                 return false;
         if (const bool isNews = known != claims.count() || !m_jobs.empty() || !claims.gone().isEmpty();
-            isNews && !tell(mdCountAsLine(claims.count())))
+            isNews && !writeLine(mdCountAsLine(claims.count())))
             return false;
         known = claims.count();
         if (!claims.wait())

@@ -79,7 +79,7 @@ void frmFolderOfClaims::connectAll()
     connect(&m_actions->Work(), &clsFolderWork::Progress, this, &frmFolderOfClaims::showProgress);
     connect(&m_actions->Work(), &clsFolderWork::Changed, this, &frmFolderOfClaims::showButtons);
     connect(m_table, &oFolderTable::OpenAsked, this, &frmFolderOfClaims::openRow);
-    connect(m_table, &QWidget::customContextMenuRequested, this, &frmFolderOfClaims::showMenu);
+    connect(m_table, &oFolderTable::MenuAsked, this, &frmFolderOfClaims::showMenu);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this, &frmFolderOfClaims::showChosen);
     connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, this, &frmFolderOfClaims::showButtons);
     connect(txtFilter, &QLineEdit::textChanged, this, [this](const QString &words) {
@@ -160,11 +160,14 @@ void frmFolderOfClaims::take(const clsFolderNews &news)
         m_model->Remove(news.gone);
     });
     m_trouble = news.trouble;
+    const bool isFirst = news.isUpToDate && m_readAt.isEmpty();
     if (news.isUpToDate)
         m_readAt = Now().toString(QStringLiteral("HH:mm"));
     if (!m_table->currentIndex().isValid() && m_claims->rowCount() > 0)
         m_table->selectionModel()->setCurrentIndex(m_claims->index(0, 0), QItemSelectionModel::NoUpdate);
     showState();
+    if (isFirst)
+        announce(*lblState);
 }
 
 /// What the header and the line above the list say of the folder as a whole.
@@ -277,7 +280,7 @@ void frmFolderOfClaims::showMenu(const QPoint &place)
         action->setEnabled(button->isEnabled());
         connect(action, &QAction::triggered, button, &QAbstractButton::click);
     }
-    menu.exec(m_table->viewport()->mapToGlobal(place));
+    menu.exec(place);
 }
 
 void frmFolderOfClaims::chooseFolder()

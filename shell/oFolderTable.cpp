@@ -8,6 +8,7 @@
 #include "shell/clsShownClaims.h"
 #include "shell/oFolderHeader.h"
 
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -53,7 +54,6 @@ oFolderTable::oFolderTable(clsShownClaims &claims, QWidget *parent)
     auto *end = new oGridHeaderEnd(this);
     end->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     addScrollBarWidget(end, Qt::AlignTop);
-    setContextMenuPolicy(Qt::CustomContextMenu);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setVerticalScrollMode(ScrollPerItem);
     verticalHeader()->hide();
@@ -149,6 +149,14 @@ void oFolderTable::keyPressEvent(QKeyEvent *event)
         return;
     }
     QTableView::keyPressEvent(event);
+}
+
+/// Below the row where it is asked for by a key.
+void oFolderTable::contextMenuEvent(QContextMenuEvent *event)
+{
+    const bool isByKey = event->reason() == QContextMenuEvent::Keyboard && currentIndex().isValid();
+    const QRect row = visualRect(currentIndex());
+    emit MenuAsked(isByKey ? viewport()->mapToGlobal(row.bottomLeft()) : event->globalPos());
 }
 
 void oFolderTable::currentChanged(const QModelIndex &current, const QModelIndex &previous)

@@ -31,8 +31,10 @@ signals:
     /// The row with the focus is to be opened.
     void OpenAsked();
     void ColumnsPlaced();
+    void MenuAsked(const QPoint &place);
 
 protected:
+    void contextMenuEvent(QContextMenuEvent *event) override;
     bool event(QEvent *event) override;
     bool viewportEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;

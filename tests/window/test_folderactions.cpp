@@ -4,6 +4,8 @@
 #include "tests/window/clsFolderTest.h"
 #include "tests/window/clsMainWindowTest.h"
 
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QProgressBar>
 #include <QTableWidget>
 #include <QTimer>
@@ -75,6 +77,42 @@ TEST_F(FolderActions, NothingChosenTurnsThemOff)
     choose({0});
     for (const char *name : {"cmdCheck", "cmdCompare", "cmdExport", "cmdExportAsPdf"})
         EXPECT_TRUE(button(name).isEnabled()) << name;
+}
+
+TEST_F(FolderActions, TheMenuOfTheRowsHasThem)
+{
+    put("empty.zr3", "a.zr3");
+    start();
+    read(1);
+    choose({0});
+    QStringList entries;
+    QTimer::singleShot(0, window.get(), [&] {
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        ASSERT_TRUE(menu);
+        const QPoint row = table().viewport()->mapToGlobal(table().visualRect(table().currentIndex()).bottomLeft());
+        EXPECT_EQ(row, menu->pos());
+        for (const QAction *action : menu->actions())
+            entries << QString(action->text()).remove(u'&');
+        menu->close();
+    });
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, {0, 0}, {0, 0});
+    QCoreApplication::sendEvent(&table(), &event);
+    EXPECT_EQ((QStringList {"Open", "Check", "Compare...", "Export", "Export as PDF"}), entries);
+}
+
+TEST_F(FolderActions, WhatIsAskedForMeanwhileWaitsForItsTurn)
+{
+    put("many-sheets.zr3", "a.zr3");
+    put("empty.zr3", "b.zr3");
+    start();
+    read(2);
+    choose({0});
+    user.folders = {out()};
+    press("cmdExport");
+    choose({1});
+    press("cmdCheck");
+    QTRY_VERIFY_WITH_TIMEOUT(told().startsWith("1 claim checked: "), Patience);
+    EXPECT_EQ(QStringList("a Claim1.doc"), documents(out()));
 }
 
 TEST_F(FolderActions, ExportsTheChosenClaimsUnderTheirNames)

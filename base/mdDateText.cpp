@@ -1,8 +1,7 @@
 #include "base/mdDateText.h"
 
-#include <QList>
-
 #include <algorithm>
+#include <numeric>
 
 namespace {
 
@@ -20,7 +19,8 @@ int plainNumber(QStringView text, qsizetype least, qsizetype most)
     const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
     if (text.size() < least || text.size() > most || !std::all_of(text.begin(), text.end(), isDigit))
         return -1;
-    return text.toInt();
+    return std::accumulate(
+        text.begin(), text.end(), 0, [](int number, QChar digit) { return number * 10 + digit.digitValue(); });
 }
 
 /// The number of a month; 0 or less if there is none.
@@ -52,9 +52,12 @@ int FullYear(int year, qsizetype digits)
 
 std::optional<QDate> DateFromText(QStringView text)
 {
-    const QList<QStringView> parts = text.split(u'/');
-    if (parts.size() != 3)
+    const qsizetype first = text.indexOf(u'/');
+    const qsizetype second = text.indexOf(u'/', first + 1);
+    if (first < 0 || second < 0 || text.indexOf(u'/', second + 1) >= 0)
         return {};
+    const QStringView parts[]
+        = {text.first(first), text.sliced(first + 1, second - first - 1), text.sliced(second + 1)};
     const bool yearFirst = parts[0].size() == DigitsOfFullYear;
     const int day = plainNumber(parts[yearFirst ? 2 : 0], 1, 2);
     const int month = monthFromText(parts[1]);

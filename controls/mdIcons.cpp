@@ -102,6 +102,8 @@ constexpr struct {
     {"frmExportAsPdf",             Glyph::Export},
     {"frmPasteItems",              Glyph::List},
     {"frmExportToWord",            Glyph::Export},
+    {"frmFolderOfClaims",          Glyph::Folder},
+    {"frmFolderResults",           Glyph::List},
 };
 // clang-format on
 

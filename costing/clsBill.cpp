@@ -1,6 +1,7 @@
 #include "costing/clsBill.h"
 
 #include "costing/mdGetColumnTotals.h"
+#include "costing/mdGetCommsInfo.h"
 
 clsSchedulePrices &clsBill::prices() const
 {
@@ -23,8 +24,16 @@ const clsFigure<Money> &clsBill::advocacy() const
     return *m_advocacy;
 }
 
+Money clsBill::communications() const
+{
+    if (!m_communications)
+        m_communications = CommsTotal(m_form);
+    return *m_communications;
+}
+
 void clsBill::forget()
 {
+    m_communications.reset();
     m_advocacy.reset();
     m_columns.reset();
     m_prices.reset();

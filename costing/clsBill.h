@@ -19,7 +19,10 @@ public:
     /// The claims of the schedule's advocacy items, not yet rounded.
     const clsFigure<Money> &advocacy() const;
 
-    /// Discards all cached figures, after the claim has changed.
+    /// The total of the letters and calls.
+    Money communications() const;
+
+    /// Begins anew, after the claim has changed.
     void forget();
 
 private:
@@ -27,4 +30,5 @@ private:
     mutable std::optional<clsSchedulePrices> m_prices;
     mutable std::optional<clsColumnTotals> m_columns;
     mutable std::optional<clsFigure<Money>> m_advocacy;
+    mutable std::optional<Money> m_communications; ///< one that fails is worked out anew
 };

@@ -53,10 +53,10 @@ clsByGroup feeEarnersByGroup(const Form &form)
     return byGroup;
 }
 
-/// Visits the groups in order until the visitor returns true.
-template <class Visit> void walkGroups(const Form &form, const KindRow &kind, Visit isEnough)
+/// Walks the groups by their order until the visitor says that it is enough.
+template <class Visit>
+void walkGroups(const Form &form, const clsByGroup &feeEarners, const KindRow &kind, Visit isEnough)
 {
-    const clsByGroup feeEarners = feeEarnersByGroup(form);
     for (int n = 1; n <= int(form.FeeEarnerGroupsCollection().size()); ++n) {
         const auto group = form.FeeEarnerGroupByOrderID(n);
         const Group &candidate = mdExisting(group);
@@ -67,11 +67,11 @@ template <class Visit> void walkGroups(const Form &form, const KindRow &kind, Vi
     }
 }
 
-clsLine lineAt(const Form &form, int number, clsCommsKind kind)
+clsLine lineAt(const Form &form, const clsByGroup &feeEarners, int number, clsCommsKind kind)
 {
     clsLine line {form, Kinds[int(kind)]};
     int found = 0;
-    walkGroups(form, line.kind, [&](const clsCommsGroup &candidate) {
+    walkGroups(form, feeEarners, line.kind, [&](const clsCommsGroup &candidate) {
         found += candidate.takesLine();
         if (found != number)
             return false;
@@ -82,7 +82,12 @@ clsLine lineAt(const Form &form, int number, clsCommsKind kind)
     return line;
 }
 
-/// An amount converted through its text: the totals add figures as printed.
+clsLine lineAt(const Form &form, int number, clsCommsKind kind)
+{
+    return lineAt(form, feeEarnersByGroup(form), number, kind);
+}
+
+/// An amount as it comes out of its text: the totals add figures as they are printed.
 double asPrinted(Money amount)
 {
     return TextValue(MoneyToText(amount));
@@ -137,7 +142,7 @@ Money claimOf(const clsLine &line)
 std::vector<clsCommsGroup> CommsGroups(const clsZR3Form &form, clsCommsKind kind)
 {
     std::vector<clsCommsGroup> groups;
-    walkGroups(form, Kinds[int(kind)], [&](const clsCommsGroup &group) {
+    walkGroups(form, feeEarnersByGroup(form), Kinds[int(kind)], [&](const clsCommsGroup &group) {
         groups.push_back(group);
         return false;
     });
@@ -195,15 +200,35 @@ Money CommsClaimAtLine(const clsZR3Form &form, int line, clsCommsKind kind)
 Money CommsTotal(const clsZR3Form &form)
 {
     Money total;
+    std::optional<clsByGroup> feeEarners;
     for (int line = 1; line <= CommsLines; ++line)
         for (const clsCommsKind kind : {clsCommsKind::Calls, clsCommsKind::LettersIn, clsCommsKind::LettersOut})
-            mdExplained(form, line, kind,
-                [&] { total = total + MoneyFromDouble(asPrinted(CommsClaimAtLine(form, line, kind))); });
+            mdExplained(form, line, kind, [&] {
+                if (!feeEarners)
+                    feeEarners = feeEarnersByGroup(form);
+                total = total + MoneyFromDouble(asPrinted(claimOf(lineAt(form, *feeEarners, line, kind))));
+            });
     return RoundMoney2(total);
 }
 
 Money ProfitCostsTotal(const clsBill &bill)
 {
     const double schedule = asPrinted(ScheduleTotal(bill));
-    return RoundMoney2(MoneyFromDouble(schedule + asPrinted(CommsTotal(bill.form()))));
+    return RoundMoney2(MoneyFromDouble(schedule + asPrinted(bill.communications())));
+}
+
+bool CommsAreSound(const clsBill &bill)
+{
+    const clsZR3Form &form = bill.form();
+    try {
+        bill.communications();
+        const clsByGroup feeEarners = feeEarnersByGroup(form);
+        for (int line = 1; line <= CommsLines; ++line)
+            for (const clsCommsKind kind : {clsCommsKind::Calls, clsCommsKind::LettersIn, clsCommsKind::LettersOut})
+                if (const clsLine found = lineAt(form, feeEarners, line, kind); found.group)
+                    MoneyFromText(found.kind.rate(*found.group));
+        return true;
+    } catch (const clsRunTimeError &) {
+        return false;
+    }
 }

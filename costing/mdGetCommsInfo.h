@@ -56,3 +56,6 @@ Money CommsClaimAtLine(const clsZR3Form &form, int line, clsCommsKind kind);
 Money CommsTotal(const clsZR3Form &form);
 /// Schedule of time plus communications, to the penny.
 Money ProfitCostsTotal(const clsBill &bill);
+
+/// Whether all lines have their figures, as those of nearly all claims do. Where not, the faults of a line tell more.
+bool CommsAreSound(const clsBill &bill);

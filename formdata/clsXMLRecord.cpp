@@ -178,6 +178,11 @@ void clsXMLRecord::complete(const char *templateName)
     }
 }
 
+const clsXMLField &clsXMLRecord::field(const clsXMLPropertyPlace &place) const
+{
+    return const_cast<clsXMLRecord *>(this)->fieldAt(size_t(&place - m_table->rows().data()));
+}
+
 clsXMLField *clsXMLRecord::field(QStringView name, Qt::CaseSensitivity letters)
 {
     for (const clsXMLPropertyPlace &row : m_table->rows())

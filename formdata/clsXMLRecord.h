@@ -165,6 +165,9 @@ public:
         return const_cast<clsXMLRecord *>(this)->field(name, letters);
     }
 
+    /// The property at a place of the class.
+    const clsXMLField &field(const clsXMLPropertyPlace &place) const;
+
 protected:
     explicit clsXMLRecord(clsXMLPropertyTable &table)
         : m_table(&table)

@@ -74,6 +74,8 @@ public:
     void SaveAs();
     void ExportToWord();
     void ExportAsPdf();
+    /// Shows the claims of a folder; one of them may be opened from there.
+    void FolderOfClaims();
     void Exit() { close(); }
     void ShowPreferences();
     void CheckForBlank();

@@ -14,6 +14,7 @@
 #include "controls/oTimeSpentBox.h"
 #include "costing/mdCheckForBlankItems.h"
 #include "editors/mdShowPreferences.h"
+#include "formdata/mdGlobals.h"
 #include "preview/mdPreview.h"
 #include "shell/clsCheckState.h"
 #include "shell/clsFormPages.h"
@@ -22,9 +23,11 @@
 #include "shell/frmAbout.h"
 #include "shell/frmExportAsPdf.h"
 #include "shell/frmExportToWord.h"
+#include "shell/frmFolderOfClaims.h"
 
 #include <QCloseEvent>
 #include <QDragEnterEvent>
+#include <QFileInfo>
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QTimer>
@@ -112,6 +115,15 @@ void frmMain::ExportToWord()
 void frmMain::ExportAsPdf()
 {
     whileModal([this] { mdExportAsPdf(m_pages->CurrentPdf(), this); });
+}
+
+void frmMain::FolderOfClaims()
+{
+    const QString claim = Document().filePath();
+    frmFolderOfClaims folder(claim.isEmpty() ? QString() : QFileInfo(claim).absolutePath(), this);
+    whileModal([&folder] { mdShowModal(folder); });
+    if (const QString chosen = folder.ChosenClaim(); !chosen.isEmpty())
+        openInstead([&chosen] { OpenFormFile(chosen); });
 }
 
 void frmMain::ShowPreferences()

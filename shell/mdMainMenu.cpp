@@ -30,6 +30,7 @@ constexpr clsMenuRow MenuRows[] = {
     {"&File",    "E&xit",                         "mnuExit",                         "Ctrl+Q", &frmMain::Exit,                         true},
     {"&File",    "New &From Claim...",            "mnuNewFromClaim",                 "",       &frmMain::NewFromClaim},
     {"&File",    "Export as &PDF...",             "mnuExportAsPdf",                  "",       &frmMain::ExportAsPdf},
+    {"&File",    "&Folder of Claims...",          "mnuFolderOfClaims",               "",       &frmMain::FolderOfClaims, false, Glyph::Folder},
     {"&Tools",   "&Preferences",                  "mnuPreferences",                  "Ctrl+P", &frmMain::ShowPreferences,              true, Glyph::Sliders},
     {"&Tools",   "&Check For Blank Time / Values", "mnuCheckForBlankItems",          "",       &frmMain::CheckForBlank,                  true},
     {"&Tools",   "Chec&k Claim",                  "mnuCheckClaim",                   "Ctrl+K", &frmMain::CheckClaim},

@@ -10,12 +10,12 @@ QString clsBilledItem::words() const
     return date ? mdWithApposition(number, DateText(*date)) : number;
 }
 
-clsClaimCheck::clsClaimCheck(const clsZR3Form &form, const clsCheckFacts &facts)
-    : m_form(form)
+clsClaimCheck::clsClaimCheck(const clsBill &bill, const clsCheckFacts &facts)
+    : m_bill(bill)
+    , m_form(bill.form())
     , m_facts(facts)
-    , m_bill(form)
-    , m_isClaim1(form.FormType() == QLatin1String("Claim1"))
-    , m_isClaim1A(form.FormType() == QLatin1String("Claim1A"))
+    , m_isClaim1(m_form.FormType() == QLatin1String("Claim1"))
+    , m_isClaim1A(m_form.FormType() == QLatin1String("Claim1A"))
 { }
 
 clsFindings clsClaimCheck::run(const clsCheckRule *begin, const clsCheckRule *end)
@@ -23,6 +23,21 @@ clsFindings clsClaimCheck::run(const clsCheckRule *begin, const clsCheckRule *en
     for (m_rule = begin; m_rule != end; ++m_rule)
         unlessItFails([this] { m_rule->find(*this); });
     return std::move(m_findings);
+}
+
+clsFindingCounts clsClaimCheck::count(const clsCheckRule *begin, const clsCheckRule *end)
+{
+    m_counts.emplace();
+    for (m_rule = begin; m_rule != end; ++m_rule)
+        if (m_rule->level != clsFindingLevel::Note)
+            unlessItFails([this] { m_rule->find(*this); });
+    return *std::exchange(m_counts, {});
+}
+
+void clsClaimCheck::countOne(clsFindingLevel level)
+{
+    m_counts->errors += level == clsFindingLevel::Error;
+    m_counts->warnings += level == clsFindingLevel::Warning;
 }
 
 bool clsClaimCheck::isPrinted(int claim1Page, int claim1APage) const
@@ -52,6 +67,10 @@ const std::vector<clsBilledItem> &clsClaimCheck::billed()
 
 void clsClaimCheck::add(const clsFindingPlace &place, const QString &text, clsFindingLevel level)
 {
+    if (m_counts) {
+        countOne(level);
+        return;
+    }
     m_findings.push_back(
         {QString::fromLatin1(m_rule->id), level, place.screen, place.list, place.item, place.property, text});
 }

@@ -14,7 +14,8 @@
 
 class clsClaimCheck;
 
-/// A rule: one row of the table of rules. The level is that of most of its findings.
+/// A rule: one row of the one table of rules. The level is that of most of its findings; one of notes finds nothing
+/// else.
 struct clsCheckRule {
     const char *id;
     clsFindingLevel level;
@@ -41,12 +42,20 @@ struct clsFindingPlace {
     QString property {};
 };
 
-/// One check of a claim: the data shared by its rules, and their findings. Only reads the claim.
+/// What a rule says of a finding.
+struct clsToldFinding {
+    clsFindingPlace place;
+    QString text;
+};
+
+/// One look through a claim: what its rules share, and what they have found. It reads the claim and writes nothing.
 class clsClaimCheck {
 public:
-    clsClaimCheck(const clsZR3Form &form, const clsCheckFacts &facts);
+    clsClaimCheck(const clsBill &bill, const clsCheckFacts &facts);
 
     clsFindings run(const clsCheckRule *begin, const clsCheckRule *end);
+    /// The same, without what is said of the findings.
+    clsFindingCounts count(const clsCheckRule *begin, const clsCheckRule *end);
 
     const clsZR3Form &form() const { return m_form; }
     const clsCheckFacts &facts() const { return m_facts; }
@@ -61,6 +70,16 @@ public:
 
     void add(const clsFindingPlace &place, const QString &text) { add(place, text, m_rule->level); }
     void add(const clsFindingPlace &place, const QString &text, clsFindingLevel level);
+    /// Adds what `told` gives, which is not asked where findings are only counted.
+    template <class Told> void add(Told told)
+    {
+        if (m_counts) {
+            countOne(m_rule->level);
+            return;
+        }
+        const clsToldFinding finding = told();
+        add(finding.place, finding.text);
+    }
 
     /// Visits each item of a list by order. Skips an item if something in it can't be read.
     template <class Items, class Look> static void each(const Items &items, Look look)
@@ -107,15 +126,18 @@ private:
         return result;
     }
 
+    void countOne(clsFindingLevel level);
+
+    const clsBill &m_bill;
     const clsZR3Form &m_form;
     const clsCheckFacts &m_facts;
-    clsBill m_bill;
     bool m_isClaim1;
     bool m_isClaim1A;
     std::optional<std::vector<clsBilledItem>> m_billed;
     QSet<const clsXMLRecord *> m_withFault;
     const clsCheckRule *m_rule = nullptr;
     clsFindings m_findings;
+    std::optional<clsFindingCounts> m_counts; ///< while findings are only counted
 };
 
 // The screens, by their tabs, and their lists.

@@ -25,3 +25,9 @@ struct clsFinding {
     QString Text; ///< one sentence: the fault and what to do
 };
 using clsFindings = std::vector<clsFinding>;
+
+/// How many findings there are of the levels that matter to a list of claims.
+struct clsFindingCounts {
+    int errors = 0;
+    int warnings = 0;
+};

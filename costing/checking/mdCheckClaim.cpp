@@ -51,12 +51,19 @@ std::span<const clsCheckRule> mdCheckRules()
 
 clsFindings mdCheckClaim(const clsZR3Form &form, const clsCheckFacts &facts)
 {
-    return clsClaimCheck(form, facts).run(std::begin(Rules), std::end(Rules));
+    const clsBill bill(form);
+    return clsClaimCheck(bill, facts).run(std::begin(Rules), std::end(Rules));
+}
+
+clsFindingCounts mdCountFindings(const clsBill &bill, const clsCheckFacts &facts)
+{
+    return clsClaimCheck(bill, facts).count(std::begin(Rules), std::end(Rules));
 }
 
 clsFindings mdCheckPrint(const clsZR3Form &form, const clsCheckFacts &facts)
 {
     const auto *paper = std::find_if(
         std::begin(Rules), std::end(Rules), [](const clsCheckRule &rule) { return rule.find == mdCheckPaper; });
-    return clsClaimCheck(form, facts).run(paper, paper + 1);
+    const clsBill bill(form);
+    return clsClaimCheck(bill, facts).run(paper, paper + 1);
 }

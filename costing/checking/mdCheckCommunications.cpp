@@ -3,6 +3,7 @@
 #include "costing/checking/mdCheckWords.h"
 #include "costing/mdGetCommsInfo.h"
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -58,6 +59,8 @@ void mdCheckGroupNotBilled(clsClaimCheck &check)
     std::array<QSet<const clsZR3FeeEarnerGroup *>, 3> lostGroups;
     for (size_t kind = 0; kind < groups.size(); ++kind)
         lostGroups[kind] = withoutLine(groups[kind]);
+    if (std::ranges::all_of(lostGroups, [](const auto &lost) { return lost.isEmpty(); }))
+        return;
     check.each(check.form().FeeEarnersCollection(), [&](const clsZR3FeeEarner &feeEarner, int order) {
         const auto group = feeEarner.Group();
         QStringList lost;

@@ -18,22 +18,28 @@ template <class IsWrong, class Look> void eachWrongDate(clsClaimCheck &check, Is
 {
     check.eachBilled([&](const clsBilledItem &billed) {
         if (isWrong(billed.date))
-            look(clsDated {{ScheduleScreen, "schedule", billed.order, QStringLiteral("dDate")},
-                QStringLiteral("Item %1").arg(billed.order), billed.date});
+            look([&] {
+                return clsDated {{ScheduleScreen, "schedule", billed.order, QStringLiteral("dDate")},
+                    QStringLiteral("Item %1").arg(billed.order), billed.date};
+            });
     });
     check.each(check.form().DisbursementsCollection(), [&](const clsZR3Disbursement &fee, int order) {
         if (!fee.Counsel())
             return;
         if (const auto date = mdStoredDate(fee.DateOfWork()); isWrong(date))
-            look(clsDated {
-                {DisbursementsScreen, "disbursements", order, QStringLiteral("DateOfWork")}, mdInWords(fee), date});
+            look([&] {
+                return clsDated {
+                    {DisbursementsScreen, "disbursements", order, QStringLiteral("DateOfWork")}, mdInWords(fee), date};
+            });
     });
     if (!check.isClaim1A())
         return;
     check.each(check.form().FASItemsCollection(), [&](const clsZR3FASItem &item, int order) {
         if (const auto date = mdStoredDate(item.dDate()); isWrong(date))
-            look(clsDated {{AdvocacyScreen, "fas", order, QStringLiteral("dDate")},
-                QStringLiteral("FAS item %1").arg(order), date});
+            look([&] {
+                return clsDated {{AdvocacyScreen, "fas", order, QStringLiteral("dDate")},
+                    QStringLiteral("FAS item %1").arg(order), date};
+            });
     });
 }
 
@@ -42,7 +48,10 @@ template <class IsWrong, class Text> void addWrongDates(clsClaimCheck &check, Is
 {
     check.eachBilled([&](const clsBilledItem &billed) {
         if (billed.date && isWrong(*billed.date))
-            check.add({ScheduleScreen, "schedule", billed.order, QStringLiteral("dDate")}, text(billed));
+            check.add([&] {
+                return clsToldFinding {
+                    {ScheduleScreen, "schedule", billed.order, QStringLiteral("dDate")}, text(billed)};
+            });
     });
 }
 
@@ -71,8 +80,12 @@ void mdCheckDateMissing(clsClaimCheck &check)
 {
     eachWrongDate(
         check, [](const std::optional<QDate> &date) { return !date; },
-        [&](const clsDated &dated) {
-            check.add(dated.place, dated.name + QStringLiteral(" has no date: enter the day of the work."));
+        [&](auto dated) {
+            check.add([&] {
+                const clsDated item = dated();
+                return clsToldFinding {
+                    item.place, item.name + QStringLiteral(" has no date: enter the day of the work.")};
+            });
         });
 }
 
@@ -80,10 +93,13 @@ void mdCheckDateFuture(clsClaimCheck &check)
 {
     eachWrongDate(
         check, [&](const std::optional<QDate> &date) { return date && *date > check.facts().Today; },
-        [&](const clsDated &dated) {
-            check.add(dated.place,
-                QStringLiteral("%1 is dated after today, %2: correct the date.")
-                    .arg(mdWithApposition(dated.name, DateText(*dated.date)), DateText(check.facts().Today)));
+        [&](auto dated) {
+            check.add([&] {
+                const clsDated item = dated();
+                return clsToldFinding {item.place,
+                    QStringLiteral("%1 is dated after today, %2: correct the date.")
+                        .arg(mdWithApposition(item.name, DateText(*item.date)), DateText(check.facts().Today))};
+            });
         });
 }
 

@@ -84,6 +84,8 @@ void checkDisbursements(clsClaimCheck &check)
 
 void checkCommunications(clsClaimCheck &check)
 {
+    if (CommsAreSound(check.bill()))
+        return;
     for (const clsCommsKind kind : {clsCommsKind::Calls, clsCommsKind::LettersIn, clsCommsKind::LettersOut})
         for (int line = 1; line <= CommsLines; ++line)
             addFirst(check, check.form().Communications, {CommunicationsScreen, "communications"},

@@ -52,30 +52,35 @@ bool hasCosts(const clsZR3ExpertInvoice &invoice)
         [](const clsXMLField *field) { return mdStoredAmount(*field) != Money(); });
 }
 
-/// The fault in the VAT of an amount; empty if none.
-QString wrongVAT(const clsClaimCheck &check, Money amount, Money vat)
-{
-    const clsZR3Form &form = check.form();
-    if (vat == Money())
-        return {};
-    if (!form.VAT())
-        return QStringLiteral("but the claim charges no VAT: take it off, or tick VAT in Form Setup.");
-    const QString rate = form.VATRate();
-    const Money right = PercentageCalculate(amount, rate);
-    if (vat - right <= OnePenny && right - vat <= OnePenny)
-        return {};
-    return QStringLiteral("but %1 % of %2 is %3: correct it.")
-        .arg(QString::number(TextValue(rate)), mdFormatMoney(amount), mdFormatMoney(right));
-}
+/// The VAT that a claim charges, read once for all of its items.
+struct clsChargedVAT {
+    bool isCharged;
+    QString rate;
+
+    explicit clsChargedVAT(const clsZR3Form &form)
+        : isCharged(form.VAT())
+        , rate(isCharged ? form.VATRate() : QString())
+    { }
+};
 
 template <class Item>
-void checkVAT(clsClaimCheck &check, const Item &item, int order, Money amount, const clsXMLField &vatField)
+void checkVAT(clsClaimCheck &check, const clsChargedVAT &charged, const Item &item, int order, Money amount,
+    const clsXMLField &vatField)
 {
     const Money vat = mdStoredAmount(vatField);
-    const QString wrong = wrongVAT(check, amount, vat);
-    if (!wrong.isEmpty())
-        check.add(placeOf(item, order, vatField.property().name),
-            QStringLiteral("%1 has VAT of %2, %3").arg(mdInWords(item), mdFormatMoney(vat), wrong));
+    if (vat == Money())
+        return;
+    const Money right = charged.isCharged ? PercentageCalculate(amount, charged.rate) : Money();
+    if (charged.isCharged && vat - right <= OnePenny && right - vat <= OnePenny)
+        return;
+    check.add([&] {
+        const QString wrong = charged.isCharged
+            ? QStringLiteral("but %1 % of %2 is %3: correct it.")
+                  .arg(QString::number(TextValue(charged.rate)), mdFormatMoney(amount), mdFormatMoney(right))
+            : QStringLiteral("but the claim charges no VAT: take it off, or tick VAT in Form Setup.");
+        return clsToldFinding {placeOf(item, order, vatField.property().name),
+            QStringLiteral("%1 has VAT of %2, %3").arg(mdInWords(item), mdFormatMoney(vat), wrong)};
+    });
 }
 
 /// The two amounts of the actual costs filled by "Load From Bill".
@@ -107,8 +112,10 @@ void mdCheckAmountZero(clsClaimCheck &check)
 {
     eachSound(check, check.form().DisbursementsCollection(), [&](const clsZR3Disbursement &item, int order) {
         if (mdStoredAmount(item.Amount) == Money())
-            check.add(placeOf(item, order, "Amount"),
-                mdInWords(item) + QStringLiteral(" has an amount of 0.00: enter the amount, or delete it."));
+            check.add([&] {
+                return clsToldFinding {placeOf(item, order, "Amount"),
+                    mdInWords(item) + QStringLiteral(" has an amount of 0.00: enter the amount, or delete it.")};
+            });
     });
     eachSound(check, check.form().ExpertInvoicesCollection(), [&](const clsZR3ExpertInvoice &item, int order) {
         if (mdStoredAmount(item.NetAmount) == Money() && hasCosts(item))
@@ -121,7 +128,9 @@ void mdCheckNetDiffers(clsClaimCheck &check)
 {
     eachSound(check, check.form().ExpertInvoicesCollection(), [&](const clsZR3ExpertInvoice &item, int order) {
         const Money net = mdStoredAmount(item.NetAmount);
-        if (const Money costs = costsOf(item); net != Money() && net != costs)
+        if (net == Money())
+            return;
+        if (const Money costs = costsOf(item); net != costs)
             check.add(placeOf(item, order, "NetAmount"),
                 QStringLiteral("%1 has a net amount of %2, but its costs add up to %3: correct one of them.")
                     .arg(mdInWords(item), mdFormatMoney(net), mdFormatMoney(costs)));
@@ -130,11 +139,12 @@ void mdCheckNetDiffers(clsClaimCheck &check)
 
 void mdCheckVATDiffers(clsClaimCheck &check)
 {
+    const clsChargedVAT charged(check.form());
     eachSound(check, check.form().DisbursementsCollection(), [&](const clsZR3Disbursement &item, int order) {
-        checkVAT(check, item, order, mdStoredAmount(item.Amount), item.VAT);
+        checkVAT(check, charged, item, order, mdStoredAmount(item.Amount), item.VAT);
     });
     eachSound(check, check.form().ExpertInvoicesCollection(), [&](const clsZR3ExpertInvoice &item, int order) {
-        checkVAT(check, item, order, mdStoredAmount(item.NetAmount), item.VATAmount);
+        checkVAT(check, charged, item, order, mdStoredAmount(item.NetAmount), item.VATAmount);
     });
 }
 

@@ -9,6 +9,8 @@
 #include <array>
 #include <climits>
 #include <map>
+#include <string>
+#include <string_view>
 
 namespace {
 
@@ -53,16 +55,18 @@ public:
 
     const clsZR3FeeEarner *of(const clsZR3ScheduleOfTimeItem &item)
     {
-        const QString identity = item.FeeEarnerUniqueID();
-        const auto known = m_earners.constFind(identity);
-        if (known != m_earners.constEnd())
-            return *known;
-        return *m_earners.insert(identity, m_form.FeeEarnerByUniqueID(identity).get());
+        // As it stands in the tree, which need not be made a text for each item.
+        const std::string_view identity = item.FeeEarnerUniqueID.content();
+        const auto known = m_earners.find(identity);
+        if (known != m_earners.end())
+            return known->second;
+        const auto *earner = m_form.FeeEarnerByUniqueID(item.FeeEarnerUniqueID()).get();
+        return m_earners.emplace(identity, earner).first->second;
     }
 
 private:
     const clsZR3Form &m_form;
-    QHash<QString, const clsZR3FeeEarner *> m_earners;
+    std::map<std::string, const clsZR3FeeEarner *, std::less<>> m_earners;
 };
 
 /// The same number for items with the same fee earner, day and minutes.
@@ -89,8 +93,10 @@ void mdCheckTimeZero(clsClaimCheck &check)
 {
     check.eachBilled([&](const clsBilledItem &billed) {
         if (billed.hasTime() && billed.price->Minutes == 0)
-            check.add(placeOf(billed, "TTime"),
-                billed.words() + QStringLiteral(" has a time of 00:00: enter the time, or delete the item."));
+            check.add([&] {
+                return clsToldFinding {placeOf(billed, "TTime"),
+                    billed.words() + QStringLiteral(" has a time of 00:00: enter the time, or delete the item.")};
+            });
     });
 }
 
@@ -163,25 +169,31 @@ void mdCheckDoubleEntry(clsClaimCheck &check)
 {
     // Few items share fee earner, day and minutes: only their other values are read.
     QHash<size_t, int> sharers;
-    const auto eachWithTime = [&](auto look) {
-        check.eachBilled([&](const clsBilledItem &billed) {
-            if (billed.date && billed.hasTime())
-                look(billed, sharers[shortLikenessOf(billed)]);
-        });
-    };
-    eachWithTime([](const clsBilledItem &, int &count) { ++count; });
-    QHash<QStringList, int> earlier;
-    eachWithTime([&](const clsBilledItem &billed, int count) {
-        if (count < 2)
+    std::vector<std::pair<const clsBilledItem *, size_t>> withTime;
+    check.eachBilled([&](const clsBilledItem &billed) {
+        if (!billed.date || !billed.hasTime())
             return;
+        const size_t likeness = shortLikenessOf(billed);
+        ++sharers[likeness];
+        withTime.emplace_back(&billed, likeness);
+    });
+    std::erase_if(withTime, [&](const auto &row) { return sharers.value(row.second) < 2; });
+    QHash<QStringList, int> earlier;
+    const auto look = [&](const clsBilledItem &billed) {
         const QStringList likeness = likenessOf(billed);
         const auto known = earlier.constFind(likeness);
         if (known == earlier.constEnd())
             earlier.insert(likeness, billed.order);
         else
-            check.add(placeOf(billed, ""),
-                QStringLiteral("%1 equals item %2: delete one, or say what differs.").arg(billed.words()).arg(*known));
-    });
+            check.add([&] {
+                return clsToldFinding {placeOf(billed, ""),
+                    QStringLiteral("%1 equals item %2: delete one, or say what differs.")
+                        .arg(billed.words())
+                        .arg(*known)};
+            });
+    };
+    for (const auto &[billed, likeness] : withTime)
+        check.unlessItFails([&] { look(*billed); });
 }
 
 void mdCheckLongItem(clsClaimCheck &check)

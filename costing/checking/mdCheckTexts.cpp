@@ -3,7 +3,9 @@
 #include "formdata/mdRecordInWords.h"
 #include "formdata/mdSectionTabs.h"
 
+#include <algorithm>
 #include <cstring>
+#include <string_view>
 
 // Question marks from lost characters: a file can only contain the characters of one code page, and has "?" for any
 // other.
@@ -12,69 +14,71 @@ namespace {
 
 using Form = clsZR3Form;
 
-/// Texts that are not prose: amounts, rates and times. Dates and identities are recognised by their names.
-constexpr const char *Figures[] = {
-    "TTime",
-    "VATRate",
-    "TotalCostsIncurred",
+/// Texts that are no prose: amounts, rates and times. Dates and identities are known by their names.
+constexpr std::string_view Figures[] = {
+    "AdvocacyRate",
+    "Amount",
+    "AmountRecovered",
+    "BoltOnClaimed",
+    "CallsRate",
     "CareAndSupervisionProfitCosts",
     "CareAndSupervisionProfitCostsVAT",
-    "PrivateLawProfitCosts",
-    "PrivateLawProfitCostsVAT",
-    "FixedFee",
-    "Value",
-    "AmountRecovered",
-    "PreCertificateCosts",
+    "CounselRate",
+    "CourtAttendanceHourlyRate",
+    "CourtBundlePayment",
+    "DebtorsIncome",
+    "DeterminationAmount",
     "DuringCertificateCostsLSC",
     "DuringCertificateCostsMarketRates",
-    "TotalCostsAwarded",
-    "LegalHelpInPreCertificateCostsAmount",
-    "InterestOnAllCosts",
-    "DeterminationAmount",
-    "DebtorsIncome",
     "EnhancementRate",
+    "ExceptionalTravel",
+    "FixedFee",
     "HourlyRate",
-    "CallsRate",
+    "InterestOnAllCosts",
+    "LegalHelpInPreCertificateCostsAmount",
     "LettersInRate",
     "LettersOutRate",
-    "AdvocacyRate",
-    "CounselRate",
-    "TravelAndWaitingRate",
-    "Rate",
-    "Amount",
-    "VAT",
-    "PreparationHourlyRate",
-    "TotalPrepCost",
-    "CourtAttendanceHourlyRate",
-    "TotalCourtCost",
-    "TravelTimeCosts",
-    "OtherCosts",
     "NetAmount",
-    "VATAmount",
+    "OtherCosts",
     "PercentApportioned",
+    "PreCertificateCosts",
+    "PreparationHourlyRate",
+    "PrivateLawProfitCosts",
+    "PrivateLawProfitCostsVAT",
+    "Rate",
     "RateForUnits",
-    "BoltOnClaimed",
-    "CourtBundlePayment",
     "SettlementFee",
-    "ExceptionalTravel",
+    "TTime",
+    "TotalCostsAwarded",
+    "TotalCostsIncurred",
+    "TotalCourtCost",
+    "TotalPrepCost",
+    "TravelAndWaitingRate",
+    "TravelTimeCosts",
+    "VAT",
+    "VATAmount",
     "VATForFAS",
+    "VATRate",
+    "Value",
 };
+static_assert(std::ranges::is_sorted(Figures));
 
 bool isProse(const clsXMLProperty &property)
 {
     return property.kind == clsXMLKind::Text && !std::strstr(property.name, "Date")
         && !std::strstr(property.name, "UniqueID")
-        && std::none_of(std::begin(Figures), std::end(Figures),
-            [&](const char *figure) { return std::strcmp(figure, property.name) == 0; });
+        && !std::ranges::binary_search(Figures, std::string_view(property.name));
 }
 
-QStringList proseOf(const clsXMLRecord &record)
+using clsProse = std::vector<const clsXMLPropertyPlace *>;
+
+clsProse proseOf(const clsXMLRecord &record)
 {
-    QStringList names;
+    clsProse prose;
     for (const clsXMLPropertyPlace &row : record.properties())
         if (isProse(*row.property))
-            names << QString::fromLatin1(row.property->name);
-    return names;
+            prose.push_back(&row);
+    return prose;
 }
 
 /// The position of the first "?" that looks like a lost character, or -1. One that ends a question comes after a letter
@@ -118,19 +122,19 @@ public:
     void field(const clsXMLField &field, const clsXMLRecord &record) { text(field, record, "", 0); }
     template <class Items> void items(const char *list, const Items &items)
     {
-        QStringList prose;
+        clsProse prose;
         m_check.each(items, [&](const auto &item, int order) {
-            if (prose.isEmpty())
+            if (prose.empty())
                 prose = proseOf(item);
             texts(item, prose, list, order);
         });
     }
 
 private:
-    void texts(const clsXMLRecord &record, const QStringList &prose, const char *list, int order)
+    void texts(const clsXMLRecord &record, const clsProse &prose, const char *list, int order)
     {
-        for (const QString &name : prose)
-            text(*record.field(name), record, list, order);
+        for (const clsXMLPropertyPlace *place : prose)
+            text(record.field(*place), record, list, order);
     }
     void text(const clsXMLField &field, const clsXMLRecord &record, const char *list, int order)
     {

@@ -37,9 +37,9 @@ QString mdWithApposition(const QString &beginning, const QString &words)
 std::optional<QDate> mdStoredDate(const QString &text)
 {
     QString date = mdTrimmedOfBlanks(text);
-    for (QChar &c : date)
-        if (c == u'.' || c == u' ' || c == u'-')
-            c = u'/';
+    const auto stands = [](QChar c) { return c == u'.' || c == u' ' || c == u'-'; };
+    if (std::any_of(date.cbegin(), date.cend(), stands)) // few dates have to be changed, and so copied
+        std::replace_if(date.begin(), date.end(), stands, QChar(u'/'));
     if (date == NoDate)
         return {};
     return DateFromText(date);

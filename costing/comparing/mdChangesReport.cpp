@@ -2,7 +2,11 @@
 
 #include "base/clsJsonWriter.h"
 
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QStringList>
+
+#include <algorithm>
 
 namespace {
 
@@ -31,6 +35,31 @@ void writeItem(clsJsonWriter &json, const clsItemChange &item)
     json.endArray();
     json.text("Effect", item.Effect);
     json.endObject();
+}
+
+QString textIn(const QJsonObject &object, const char *key)
+{
+    return object[QLatin1String(key)].toString();
+}
+
+std::vector<clsFieldChange> readFields(const QJsonObject &object)
+{
+    std::vector<clsFieldChange> fields;
+    for (const auto &value : object[QLatin1String("Fields")].toArray()) {
+        const QJsonObject field = value.toObject();
+        fields.push_back(
+            {textIn(field, "Screen"), textIn(field, "Property"), textIn(field, "Old"), textIn(field, "New")});
+    }
+    return fields;
+}
+
+clsItemChange readItem(const QJsonObject &item)
+{
+    const auto *const word = std::find(std::begin(Words), std::end(Words), textIn(item, "Change"));
+    return {textIn(item, "List"),
+        word == std::end(Words) ? clsItemChange::Changed : clsItemChange::Kind(word - std::begin(Words)),
+        item[QLatin1String("OldItem")].toInt(), item[QLatin1String("NewItem")].toInt(), readFields(item),
+        textIn(item, "Effect")};
 }
 
 /// "was" before "is".
@@ -82,6 +111,19 @@ void mdWriteChanges(clsJsonWriter &json, const clsClaimChanges &changes)
         writeValues(json, total.Old, total.New);
     }
     json.endArray();
+}
+
+clsClaimChanges mdReadChanges(const QJsonObject &object)
+{
+    clsClaimChanges changes;
+    changes.Fields = readFields(object);
+    for (const auto &item : object[QLatin1String("Items")].toArray())
+        changes.Items.push_back(readItem(item.toObject()));
+    for (const auto &value : object[QLatin1String("Totals")].toArray()) {
+        const QJsonObject total = value.toObject();
+        changes.Totals.push_back({textIn(total, "Key"), textIn(total, "Old"), textIn(total, "New")});
+    }
+    return changes;
 }
 
 QString mdChangesInLines(const clsClaimChanges &changes, const QString &before)

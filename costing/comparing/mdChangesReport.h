@@ -2,10 +2,14 @@
 
 #include "costing/comparing/clsClaimChanges.h"
 
+class QJsonObject;
 class clsJsonWriter;
 
 /// Writes the three lists of differences to the open object.
 void mdWriteChanges(clsJsonWriter &json, const clsClaimChanges &changes);
 
-/// What differs, as it is given, a line that ends in CR LF for each; nothing where nothing differs.
+/// Reads them from such an object.
+clsClaimChanges mdReadChanges(const QJsonObject &object);
+
+/// The differences, a line ending in CR LF for each; empty if there are none.
 QString mdChangesInLines(const clsClaimChanges &changes, const QString &before = {});

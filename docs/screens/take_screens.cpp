@@ -9,6 +9,7 @@
 #include "controls/oCheckBox.h"
 #include "controls/oContentSwitcher.h"
 #include "controls/oDecimalBox.h"
+#include "controls/oHeaderBar.h"
 #include "costing/comparing/mdChangesInWords.h"
 #include "costing/comparing/mdCompareClaims.h"
 #include "costing/tables/clsCodeWords.h"
@@ -32,6 +33,7 @@
 #include "shell/frmAbout.h"
 #include "shell/frmCompare.h"
 #include "shell/frmExportToWord.h"
+#include "shell/frmFolderOfClaims.h"
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
 #include "shell/mdComparison.h"
@@ -39,7 +41,10 @@
 #include "wordexport/mdOfficeProgram.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QLineEdit>
+#include <QTableView>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
@@ -343,6 +348,44 @@ void takeCompare(clsPictures &pictures, frmMain &main)
     pictures.take(window, QStringLiteral("frmCompare"));
 }
 
+/// The samples under names of invented clients, as a firm would have them.
+void takeFolder(clsPictures &pictures, const QString &samples, frmMain &main)
+{
+    const QTemporaryDir folder;
+    const QString claims = folder.filePath(QStringLiteral("Claims/2026"));
+    QDir().mkpath(claims);
+    for (const auto &[sample, name] : {std::pair("care-typical", "Abbot care order LA-20388"),
+             {"carried-counter", "Bexley possession LA-20402"}, {"advocacy-only", "Carrow injunction LA-20371"},
+             {"joint-only", "Dunmore disrepair LA-20395"}, {"exactly-full", "Fenn judicial review LA-20411"},
+             {"housing-typical", "Hartwell disrepair LA-20417"}, {"older-file", "Iqbal homelessness LA-20420"},
+             {"many-sheets", "Kendrick possession LA-20405"}, {"many-sheets-1a", "Lomax finance LA-20379"}})
+        QFile::copy(QStringLiteral("%1/%2.zr3").arg(samples, QLatin1String(sample)),
+            QStringLiteral("%1/%2.zr3").arg(claims, QLatin1String(name)));
+    QFile broken(claims + QStringLiteral("/Jessop care order LA-20398.zr3"));
+    if (broken.open(QIODevice::WriteOnly))
+        broken.write("<zr3form>");
+    broken.close();
+    QDateTime changed(QDate(2026, 11, 2), QTime(9, 15));
+    for (const QFileInfo &file : QDir(claims).entryInfoList(QDir::Files)) {
+        QFile claim(file.filePath());
+        claim.open(QIODevice::ReadWrite);
+        claim.setFileTime(changed, QFileDevice::FileModificationTime);
+        changed = changed.addSecs(169'620);
+    }
+    frmFolderOfClaims window(claims, &main);
+    window.resize(1366, 560);
+    window.show();
+    QTest::qWait(2000);
+    auto *table = window.findChild<QTableView *>();
+    for (const int row : {3, 5, 7})
+        table->selectionModel()->select(
+            table->model()->index(row, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    // Whoever looks at the pictures need not know where they were taken.
+    auto *header = window.findChild<oHeaderBar *>();
+    header->setSubCaption(QString(header->SubCaption()).replace(claims, QStringLiteral("/home/costs/Claims/2026")));
+    pictures.take(window, window.objectName());
+}
+
 bool takeAll(const QString &claim, const QString &folder)
 {
     clsPictures pictures(folder);
@@ -380,6 +423,7 @@ bool takeAll(const QString &claim, const QString &folder)
     takeFormPages(pictures, main);
     takeCheck(pictures, main);
     takeSectionList(pictures, main);
+    takeFolder(pictures, QFileInfo(claim).path(), main);
     return pictures.complete();
 }
 

@@ -18,6 +18,7 @@ enum OptionGroup : unsigned {
     TodayOption = 8,
     CsvOption = 16,
     ManyOptions = 32, ///< of commands that take several claims
+    FollowOption = 64,
 };
 
 struct VerbRow {
@@ -49,7 +50,7 @@ constexpr ManyRow ManyVerbs[] = {
     {"totals", false, clsToolCommand::Totals, ManyOptions},
     {"check", false, clsToolCommand::Check, ManyOptions},
     {"check", true, clsToolCommand::CheckFull, ManyOptions | JsonOption | TodayOption},
-    {"list", false, clsToolCommand::List, ManyOptions | JsonOption | TodayOption | CsvOption},
+    {"list", false, clsToolCommand::List, ManyOptions | JsonOption | TodayOption | CsvOption | FollowOption},
     {"export", false, clsToolCommand::Export, ManyOptions | ExportOptions},
 };
 
@@ -64,6 +65,7 @@ const QString Pdf = QStringLiteral("pdf");
 const QString NameByFile = QStringLiteral("name-by-file");
 const QString Csv = QStringLiteral("csv");
 const QString JsonLines = QStringLiteral("jsonl");
+const QString Follow = QStringLiteral("follow");
 const QString Newer = QStringLiteral("newer");
 const QString Jobs = QStringLiteral("jobs");
 const QString Items = QStringLiteral("items");
@@ -75,8 +77,8 @@ const QString VersionOption = QStringLiteral("version");
 void addOptions(QCommandLineParser &parser)
 {
     parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsOptions);
-    for (const QString &flag : {Force, KeepSheets, Quiet, Pdf, NameByFile, Newer, Full, Json, Csv, JsonLines, Doubles,
-             HelpOption, VersionOption})
+    for (const QString &flag : {Force, KeepSheets, Quiet, Pdf, NameByFile, Newer, Full, Json, Csv, JsonLines, Follow,
+             Doubles, HelpOption, VersionOption})
         parser.addOption(QCommandLineOption(flag));
     parser.addOption(QCommandLineOption(Templates, QString(), QStringLiteral("DIR")));
     parser.addOption(QCommandLineOption(Items, QString(), QStringLiteral("ROWS")));
@@ -94,7 +96,8 @@ unsigned optionsOf(const QCommandLineParser &parser)
     };
     return group(ExportOptions, {Force, Templates, KeepSheets, Quiet, Pdf, NameByFile, Newer})
         | group(JsonOption, {Json}) | group(CsvOption, {Csv}) | group(TodayOption, {Today})
-        | group(ManyOptions, {JsonLines, Jobs}) | group(ImportOptions, {Items, Map, Doubles});
+        | group(ManyOptions, {JsonLines, Jobs}) | group(FollowOption, {Follow})
+        | group(ImportOptions, {Items, Map, Doubles});
 }
 
 /// Adds the options of an import; false where they are wrong.
@@ -140,12 +143,16 @@ std::optional<clsToolCommand> manyCommandOf(const ManyRow &row, const QCommandLi
     if (row.verb == clsToolCommand::Export && !command.claims.isEmpty())
         command.target = command.claims.takeLast();
     const int forms = int(parser.isSet(Json)) + int(parser.isSet(Csv)) + int(parser.isSet(JsonLines));
+    // What changes is told line by line.
+    if (parser.isSet(Follow) && !parser.isSet(JsonLines))
+        return {};
     if (command.claims.isEmpty() || forms > 1 || !addValues(command, parser))
         return {};
     command.claim = command.claims.front();
     command.json = parser.isSet(Json);
     command.csv = parser.isSet(Csv);
     command.jsonLines = parser.isSet(JsonLines);
+    command.follow = parser.isSet(Follow);
     command.force = parser.isSet(Force);
     command.keepSheets = parser.isSet(KeepSheets);
     command.quiet = parser.isSet(Quiet);
@@ -253,6 +260,7 @@ QString clsToolCommand::usage()
         "Options of list and check --full:\n"
         "  --json             print it as JSON\n"
         "  --csv              print it as CSV (list only)\n"
+        "  --follow           with --jsonl: go on until told to end, and print what changes (list only)\n"
         "  --today DAY        another day than today's, as YYYY-MM-DD\n"
         "\n"
         "Options of export:\n"

@@ -36,6 +36,7 @@ struct clsToolCommand {
     bool json = false;
     bool csv = false;
     bool jsonLines = false;
+    bool follow = false; ///< a list goes on with whatever changes
     std::optional<int> jobs {}; ///< how many claims are worked on at a time, where it is given
     QString target; ///< the folder of an export, the new file of a save
     bool force = false;

@@ -7,6 +7,7 @@
 #include "base/mdCommandLine.h"
 #include "base/mdPrint.h"
 #include "programs/zr3tool/clsClaimWork.h"
+#include "programs/zr3tool/clsFollowedClaims.h"
 #include "programs/zr3tool/mdClaimSteps.h"
 #include "programs/zr3tool/mdListClaim.h"
 #include "programs/zr3tool/mdPlainReports.h"
@@ -47,10 +48,9 @@ QHash<QString, QString> refusedOf(const QByteArrayList &arguments)
     return refused;
 }
 
-std::vector<clsClaimJob> jobsOf(const Command &command, const QByteArrayList &arguments)
+std::vector<clsClaimJob> jobsOf(const Command &command, const QHash<QString, QString> &refused)
 {
     std::vector<clsClaimJob> jobs;
-    const QHash<QString, QString> refused = refusedOf(arguments);
     for (const QString &argument : command.claims) {
         if (refused.contains(argument)) {
             jobs.push_back({argument, QStringLiteral("File Name"), refused[argument]});
@@ -80,6 +80,8 @@ public:
 private:
     bool open();
     bool close();
+    bool work();
+    bool follow();
     bool take(qsizetype job, const QByteArray &packed);
     bool print(const clsClaimResult &result);
     bool write(int descriptor, const QByteArray &bytes);
@@ -91,6 +93,7 @@ private:
 
     clsConsoleUserInterface &m_console;
     const Command &m_command;
+    QHash<QString, QString> m_refused; ///< arguments that the program's texts can't hold, and why
     std::vector<clsClaimJob> m_jobs;
     bool m_isList;
     qsizetype m_longestPath;
@@ -112,7 +115,8 @@ qsizetype longestPath(const std::vector<clsClaimJob> &jobs)
 clsManyRun::clsManyRun(clsConsoleUserInterface &console, const Command &command, const QByteArrayList &arguments)
     : m_console(console)
     , m_command(command)
-    , m_jobs(jobsOf(command, arguments))
+    , m_refused(refusedOf(arguments))
+    , m_jobs(jobsOf(command, m_refused))
     , m_isList(isList(command))
     , m_longestPath(longestPath(m_jobs))
     , m_form(mdResultForm(command))
@@ -222,9 +226,36 @@ clsWorkers::Row clsManyRun::row()
         .sweep = [this](qsizetype job) { sweep(job); }};
 }
 
+bool clsManyRun::work()
+{
+    return clsWorkers(m_requests).run(row());
+}
+
+/// Goes on with what changes; true where the reader has gone.
+bool clsManyRun::follow()
+{
+    const auto writeLine = [this](const QByteArray &line) { return write(STDOUT_FILENO, line + '\n'); };
+    clsFollowedClaims claims(m_requests);
+    m_jobs = claims.changed(m_jobs);
+    for (qsizetype known = -1;;) {
+        if (!work())
+            return false;
+        for (const QString &path : claims.gone())
+            if (!writeLine(mdGoneAsLine(path)))
+                return false;
+        if (const bool isNews = known != claims.count() || !m_jobs.empty() || !claims.gone().isEmpty();
+            isNews && !writeLine(mdCountAsLine(claims.count())))
+            return false;
+        known = claims.count();
+        if (!claims.wait())
+            return true;
+        m_jobs = claims.changed(jobsOf(m_command, m_refused));
+    }
+}
+
 Status clsManyRun::run()
 {
-    const bool isDone = open() && clsWorkers(m_requests).run(row()) && close();
+    const bool isDone = open() && (m_command.follow ? follow() : work()) && close();
     m_console.clearProgress();
     if (m_requests.signal())
         m_requests.endBySignal();

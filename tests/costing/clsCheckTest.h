@@ -78,10 +78,18 @@ protected:
     {
         const QString before = form.XMLOutput();
         const clsFindings findings = mdCheckClaim(form, facts);
+        const clsFindingCounts counts = mdCountFindings(clsBill(form), facts);
+        EXPECT_EQ(countOf(findings, clsFindingLevel::Error), counts.errors);
+        EXPECT_EQ(countOf(findings, clsFindingLevel::Warning), counts.warnings);
         EXPECT_EQ(before, form.XMLOutput());
         return findings;
     }
-    /// All findings: rule, level, screen, list, item and property, separated by bars.
+    static int countOf(const clsFindings &findings, clsFindingLevel level)
+    {
+        return int(std::count_if(
+            findings.begin(), findings.end(), [level](const clsFinding &finding) { return finding.Level == level; }));
+    }
+    /// All findings: rule, level, screen, list, item and property, parted by bars.
     QStringList all() const
     {
         QStringList result;

@@ -1,8 +1,11 @@
 // The check of a claim as a whole: the rules' order, both forms, broken and large claims.
 
 #include "costing/checking/mdCheckRules.h"
+#include "costing/mdClaimColumns.h"
 #include "tests/costing/clsCheckTest.h"
+#include "tests/support/mdTestPaths.h"
 
+#include <QDir>
 #include <QSet>
 
 namespace {
@@ -65,6 +68,25 @@ TEST_F(CheckClaim, LooksThroughANewClaim)
     }
     EXPECT_EQ(QSet<QString>({"question-open"_q, "missing"_q}), rules);
     EXPECT_EQ(14, missing); // six of page 1, seven of page 2, one of page 3
+}
+
+TEST_F(CheckClaim, CountsWhatItFindsInTheSamples)
+{
+    facts.Today = QDate(2025, 12, 31);
+    int errors = 0;
+    for (const QString &sample : QDir(mdSampleFolder()).entryList({"*.zr3"_q}, QDir::Files)) {
+        clsZR3Form read;
+        ASSERT_TRUE(read.LoadXML(mdSamplePath(sample))) << sample.toStdString();
+        const clsFindings findings = mdCheckClaim(read, facts);
+        // After the columns, as a list of claims has it.
+        const clsBill bill(read);
+        mdClaimColumns(bill);
+        const clsFindingCounts counts = mdCountFindings(bill, facts);
+        EXPECT_EQ(countOf(findings, clsFindingLevel::Error), counts.errors) << sample.toStdString();
+        EXPECT_EQ(countOf(findings, clsFindingLevel::Warning), counts.warnings) << sample.toStdString();
+        errors += counts.errors;
+    }
+    EXPECT_LT(100, errors);
 }
 
 TEST_F(CheckClaim, LooksAtNothingOfAFormThatThereIsNot)

@@ -27,6 +27,7 @@ const clsEntry Entries[] = {
     {"File",    "Exit",                          "mnuExit",                         "Ctrl+Q", true},
     {"File",    "New From Claim...",             "mnuNewFromClaim",                 "",       false},
     {"File",    "Export as PDF...",              "mnuExportAsPdf",                  "",       false},
+    {"File",    "Folder of Claims...",           "mnuFolderOfClaims",               "",       false},
     {"Edit",    "Undo",                          "mnuUndo",                         "Ctrl+Z", false},
     {"Edit",    "Redo",                          "mnuRedo",                         "Ctrl+Shift+Z", true},
     {"Edit",    "Paste Items...",                "mnuPasteItems",                   "Ctrl+Shift+V", false},

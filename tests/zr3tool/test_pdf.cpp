@@ -152,3 +152,51 @@ TEST_F(ToolPdf, TheOfficeProgramThatIsInstalledMakesOne)
     EXPECT_EQ(0, result.status) << result.err.constData();
     EXPECT_TRUE(bytesOf(path("out/Claim1.pdf")).startsWith("%PDF-"));
 }
+
+TEST_F(ToolPdf, OfSeveralClaimsOneStandsBesideEachDocument)
+{
+    useOneThatWorks();
+    QDir(folder.path()).mkpath("claims/sub"_q);
+    ASSERT_TRUE(QFile::copy(claim, path("claims/Lee.zr3")));
+    ASSERT_TRUE(QFile::copy(claim, path("claims/sub/Lee.zr3")));
+    put("claims/broken.zr3", "<");
+    const clsToolResult result = run({"export"_q, "--pdf"_q, "--jsonl"_q, "--jobs"_q, "2"_q, "claims"_q, "out"_q});
+    EXPECT_EQ(2, result.status);
+    EXPECT_EQ(
+        QStringList({"Lee Claim1 (2).doc"_q, "Lee Claim1 (2).pdf"_q, "Lee Claim1.doc"_q, "Lee Claim1.pdf"_q}), found());
+    QStringList made;
+    for (const QByteArray &line : result.out.trimmed().split('\n'))
+        made << QJsonDocument::fromJson(line).object()["PDF"_q].toString();
+    EXPECT_EQ(QStringList({path("out/Lee Claim1.pdf"), QString(), path("out/Lee Claim1 (2).pdf")}), made);
+}
+
+TEST_F(ToolPdf, OneOfSeveralThatFailsStopsNoOther)
+{
+    // The first that comes fails.
+    useOfficeProgram("mkdir '" + QFile::encodeName(path("was here"))
+        + "' 2>/dev/null && exit 1\n"
+          "while [ $# -gt 1 ]; do [ \"$1\" = --outdir ] && out=$2; shift; done\n"
+          "echo '%PDF-1.6 new' >\"$out/document.pdf\"");
+    QDir(folder.path()).mkpath("claims"_q);
+    for (const char *name : {"claims/a.zr3", "claims/b.zr3", "claims/c.zr3"})
+        ASSERT_TRUE(QFile::copy(claim, path(name)));
+    const clsToolResult result = run({"export"_q, "--pdf"_q, "--jobs"_q, "1"_q, "claims"_q, "out"_q});
+    EXPECT_EQ(4, result.status);
+    EXPECT_TRUE(result.err.startsWith("claims/a.zr3: PDF: ")) << result.err.constData();
+    EXPECT_EQ(QStringList({"a Claim1.doc"_q, "b Claim1.doc"_q, "b Claim1.pdf"_q, "c Claim1.doc"_q, "c Claim1.pdf"_q}),
+        found());
+}
+
+TEST_F(ToolPdf, TheOfficeProgramThatIsInstalledMakesThoseOfSeveralClaimsAtATime)
+{
+    if (QStandardPaths::findExecutable("soffice"_q).isEmpty())
+        GTEST_SKIP() << "no office program is installed";
+    QDir(folder.path()).mkpath("claims"_q);
+    for (const char *name : {"claims/a.zr3", "claims/b.zr3", "claims/c.zr3"})
+        ASSERT_TRUE(QFile::copy(claim, path(name)));
+    const clsToolResult result = run({"export"_q, "--pdf"_q, "--jobs"_q, "2"_q, "claims"_q, "out"_q});
+    EXPECT_EQ(0, result.status) << result.err.constData();
+    for (const char *name : {"out/a Claim1.pdf", "out/b Claim1.pdf", "out/c Claim1.pdf"})
+        EXPECT_TRUE(bytesOf(path(name)).startsWith("%PDF-")) << name;
+    EXPECT_EQ(6, found().size()) << "nothing else is left";
+}

@@ -86,6 +86,9 @@ TEST_F(Usage, WrongCommandLinesGetTheUsageAndStatusOne)
         {"list"_q, claim, "--jobs=two"_q},
         {"list"_q, claim, "--jobs="_q},
         {"list"_q, claim, "--newer"_q},
+        {"list"_q, claim, "--follow"_q},
+        {"list"_q, claim, "--follow"_q, "--json"_q},
+        {"check"_q, claim, "--follow"_q, "--jsonl"_q},
         {"list"_q, claim, "--full"_q},
         {"list"_q, claim, "--today"_q, "2025-02-30"_q},
         {"totals"_q, claim, claim, "--csv"_q},
@@ -118,9 +121,9 @@ TEST_F(Usage, HelpIsTheSameUsageAsAResult)
     EXPECT_EQ("", help.err);
     EXPECT_EQ(run({}).err, help.out);
     for (const char *word :
-        {"list", "totals", "export", "check", "save", "--jsonl", "--csv", "--newer", "--jobs", "why", "forecast",
-            "diff", "table", "import", "--items", "--map", "--doubles", "--full", "--json", "--today", "--force",
-            "--templates", "--keep-sheets", "--quiet", "--pdf", "--name-by-file", "--help", "--version"})
+        {"list", "totals", "export", "check", "save", "--jsonl", "--csv", "--follow", "--newer", "--jobs", "why",
+            "forecast", "diff", "table", "import", "--items", "--map", "--doubles", "--full", "--json", "--today",
+            "--force", "--templates", "--keep-sheets", "--quiet", "--pdf", "--name-by-file", "--help", "--version"})
         EXPECT_TRUE(help.out.contains(word)) << word;
 }
 

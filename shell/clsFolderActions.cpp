@@ -1,0 +1,260 @@
+#include "shell/clsFolderActions.h"
+
+#include "controls/mdShowModal.h"
+#include "costing/comparing/mdChangesReport.h"
+#include "shell/clsFolderModel.h"
+#include "shell/frmCompare.h"
+#include "shell/mdComparison.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+
+namespace {
+
+using Result = clsFolderWork::clsResult;
+
+/// How the headless program ends what it says of a document that is there and may not be replaced.
+const QString HowToReplace = QStringLiteral(" Give --force to replace it.");
+
+QString claimsInWords(qsizetype count)
+{
+    return count == 1 ? QStringLiteral("1 claim") : QStringLiteral("%1 claims").arg(count);
+}
+
+QString countInWords(qsizetype count, const char *one)
+{
+    return QStringLiteral("%1 %2%3").arg(count).arg(QLatin1String(one), QLatin1String(count == 1 ? "" : "s"));
+}
+
+QString wordIn(const QJsonObject &object, const char *key)
+{
+    return object[QLatin1String(key)].toString();
+}
+
+std::vector<QJsonObject> linesOf(const Result &result)
+{
+    std::vector<QJsonObject> lines;
+    for (const QByteArray &line : result.printed.split('\n'))
+        if (const QJsonObject object = QJsonDocument::fromJson(line).object(); !object.isEmpty())
+            lines.push_back(object);
+    return lines;
+}
+
+/// "Costs", or "Schedule of Time, item 4".
+QString placeInWords(const QJsonObject &finding)
+{
+    const int item = finding[QLatin1String("Item")].toInt();
+    const QString screen = wordIn(finding, "Screen");
+    return item > 0 ? QStringLiteral("%1, item %2").arg(screen).arg(item) : screen;
+}
+
+/// A level with a capital, as a list begins with it.
+QString levelInWords(const QJsonObject &finding)
+{
+    QString level = wordIn(finding, "Level");
+    if (!level.isEmpty())
+        level[0] = level[0].toUpper();
+    return level;
+}
+
+} // namespace
+
+clsFolderActions::clsFolderActions(clsFolderModel &model, QWidget *window)
+    : QObject(window)
+    , m_model(model)
+    , m_window(window)
+{ }
+
+clsFolderActions::~clsFolderActions() = default;
+
+/// Tells of a run that did not come to its end.
+bool clsFolderActions::stopped(const Result &result, const QString &what)
+{
+    if (result.isCancelled)
+        emit Told({what + QStringLiteral(" cancelled.")});
+    else if (result.status < 0)
+        emit Told({what + QStringLiteral(" stopped: ") + result.trouble, true});
+    return result.isCancelled || result.status < 0;
+}
+
+void clsFolderActions::Check(const QStringList &paths)
+{
+    m_work.Start({QStringLiteral("Checking"),
+        QStringList {QStringLiteral("check"), QStringLiteral("--full"), QStringLiteral("--jsonl")} + paths, paths,
+        [this, paths](const Result &result) { checked(paths, result); }});
+}
+
+void clsFolderActions::checked(const QStringList &paths, const Result &result)
+{
+    clsFolderResults details {.caption = QStringLiteral("Check"),
+        .subCaption = QStringLiteral("What is found in the chosen claims"),
+        .headings = {QStringLiteral("Claim"), QStringLiteral("Level"), QStringLiteral("Where"), QStringLiteral("What")},
+        .rows = {}};
+    int errors = 0;
+    int warnings = 0;
+    int unread = 0;
+    for (const QJsonObject &line : linesOf(result)) {
+        const QString path = wordIn(line, "Path");
+        const QString name = mdNameOfClaim(path);
+        if (line.contains(QLatin1String("Error"))) {
+            ++unread;
+            details.rows.push_back({name, QStringLiteral("Can't be read"), {}, wordIn(line, "Error")});
+            continue;
+        }
+        int ofClaim[2] = {};
+        for (const auto &value : line[QLatin1String("Findings")].toArray()) {
+            const QJsonObject finding = value.toObject();
+            const QString level = wordIn(finding, "Level");
+            ofClaim[0] += level == QLatin1String("error");
+            ofClaim[1] += level == QLatin1String("warning");
+            details.rows.push_back({name, levelInWords(finding), placeInWords(finding), wordIn(finding, "Text")});
+        }
+        m_model.TakeCounts(path, ofClaim[0], ofClaim[1]);
+        errors += ofClaim[0];
+        warnings += ofClaim[1];
+    }
+    if (stopped(result, QStringLiteral("Check")))
+        return;
+    clsFolderOutcome outcome {
+        QStringLiteral("%1 checked: %2, %3")
+            .arg(claimsInWords(paths.size()), countInWords(errors, "error"), countInWords(warnings, "warning")),
+        unread > 0};
+    if (unread > 0)
+        outcome.text += QStringLiteral(", %1 can't be read").arg(unread);
+    if (!details.rows.empty())
+        outcome.details = details;
+    emit Told(outcome);
+}
+
+void clsFolderActions::Export(const QStringList &paths, const QString &target, bool pdf, bool replaces)
+{
+    QStringList arguments {QStringLiteral("export"), QStringLiteral("--jsonl"), QStringLiteral("--name-by-file")};
+    if (pdf)
+        arguments << QStringLiteral("--pdf");
+    if (replaces)
+        arguments << QStringLiteral("--force");
+    m_work.Start({pdf ? QStringLiteral("Exporting as PDF") : QStringLiteral("Exporting"),
+        arguments + paths + QStringList(target), paths,
+        [this, paths, target, pdf](const Result &result) { exported(paths, target, pdf, result); }});
+}
+
+void clsFolderActions::exported(const QStringList &paths, const QString &target, bool pdf, const Result &result)
+{
+    clsFolderResults details {.caption = QStringLiteral("Export"),
+        .subCaption = QStringLiteral("Claims whose documents were not made"),
+        .headings = {QStringLiteral("Claim"), QStringLiteral("Why")},
+        .rows = {}};
+    QStringList there;
+    for (const QJsonObject &line : linesOf(result)) {
+        QString error = wordIn(line, "Error");
+        if (error.isEmpty())
+            continue;
+        if (error.endsWith(HowToReplace)) {
+            there << wordIn(line, "Path");
+            error.chop(HowToReplace.size());
+        }
+        details.rows.push_back({mdNameOfClaim(wordIn(line, "Path")), error});
+    }
+    if (stopped(result, QStringLiteral("Export")))
+        return;
+    const qsizetype failed = qsizetype(details.rows.size());
+    clsFolderOutcome outcome {QStringLiteral("%1 of %2 exported to %3")
+                                  .arg(paths.size() - failed)
+                                  .arg(claimsInWords(paths.size()), QDir::toNativeSeparators(target)),
+        failed > 0};
+    if (failed > 0)
+        outcome.details = details;
+    if (!there.isEmpty()) {
+        outcome.text += QStringLiteral("; %1 already there").arg(countInWords(there.size(), "document"));
+        outcome.replace = [this, there, target, pdf] { Export(there, target, pdf, true); };
+    }
+    emit Told(outcome);
+}
+
+void clsFolderActions::CompareTwo(const QString &before, const QString &now)
+{
+    m_work.Start({QStringLiteral("Comparing %1 with %2").arg(mdNameOfClaim(now), mdNameOfClaim(before)),
+        {QStringLiteral("diff"), QStringLiteral("--json"), before, now}, {},
+        [this, before, now](const Result &result) { compared(result, before, now); }});
+}
+
+void clsFolderActions::compared(const Result &result, const QString &before, const QString &now)
+{
+    if (stopped(result, QStringLiteral("Compare")))
+        return;
+    const QJsonDocument document = QJsonDocument::fromJson(result.printed);
+    if (!document.isObject()) {
+        emit Told({QStringLiteral("They cannot be compared: ") + result.trouble, true});
+        return;
+    }
+    emit Told({});
+    show({mdNameOfClaim(before), mdNameOfClaim(now), {}, mdReadChanges(document.object())}, m_window);
+}
+
+void clsFolderActions::show(const clsComparison &comparison, QWidget *parent) const
+{
+    frmCompare window(comparison, parent);
+    mdShowModal(window);
+}
+
+void clsFolderActions::CompareWith(const QStringList &paths, const QString &folder, const QString &other)
+{
+    // A folder of links holds the chosen claims and no other, each at its place.
+    m_links = std::make_unique<QTemporaryDir>();
+    const QString start = folder.endsWith(u'/') ? folder : folder + u'/';
+    for (const QString &path : paths) {
+        const QString link
+            = m_links->filePath(path.startsWith(start) ? path.mid(start.size()) : QFileInfo(path).fileName());
+        QDir().mkpath(QFileInfo(link).path());
+        QFile::link(path, link);
+    }
+    m_work.Start({QStringLiteral("Comparing %1 with those of %2")
+                      .arg(claimsInWords(paths.size()), QDir::toNativeSeparators(other)),
+        {QStringLiteral("diff"), QStringLiteral("--json"), other, m_links->path()}, {},
+        [this, other](const Result &result) { comparedAll(result, other); }});
+}
+
+void clsFolderActions::comparedAll(const Result &result, const QString &other)
+{
+    m_links.reset();
+    if (stopped(result, QStringLiteral("Compare")))
+        return;
+    const QJsonDocument document = QJsonDocument::fromJson(result.printed);
+    if (!document.isObject()) {
+        emit Told({QStringLiteral("They cannot be compared: ") + result.trouble, true});
+        return;
+    }
+    clsFolderResults results {.caption = QStringLiteral("Compare"),
+        .subCaption
+        = QStringLiteral("The chosen claims and those of the same name in %1").arg(QDir::toNativeSeparators(other)),
+        .headings = {QStringLiteral("Claim"), QStringLiteral("What differs")},
+        .rows = {}};
+    std::vector<clsComparison> comparisons;
+    for (const auto &value : document.object()[QLatin1String("Claims")].toArray()) {
+        const QJsonObject pair = value.toObject();
+        const QString only = wordIn(pair, "Only");
+        if (only == QLatin1String("old"))
+            continue;
+        clsComparison comparison {
+            QStringLiteral("Other folder"), QStringLiteral("This folder"), wordIn(pair, "Error"), mdReadChanges(pair)};
+        if (only == QLatin1String("new"))
+            comparison.trouble = QStringLiteral("There is none of this name in the other folder.");
+        const clsClaimChanges &changes = comparison.changes;
+        const size_t count = changes.Fields.size() + changes.Items.size() + changes.Totals.size();
+        const QString what = !comparison.trouble.isEmpty() ? comparison.trouble
+            : count == 0                                   ? QStringLiteral("Nothing differs.")
+                                                           : countInWords(qsizetype(count), "difference");
+        results.rows.push_back({mdNameOfClaim(wordIn(pair, "Name")), what});
+        comparisons.push_back(std::move(comparison));
+    }
+    results.openCaption = QStringLiteral("&Show");
+    results.open = [this, comparisons](int row, QWidget *parent) { show(comparisons[size_t(row)], parent); };
+    emit Told({});
+    frmFolderResults window(results, m_window);
+    mdShowModal(window);
+}

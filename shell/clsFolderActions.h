@@ -1,0 +1,55 @@
+#pragma once
+
+#include "shell/clsFolderWork.h"
+#include "shell/frmFolderResults.h"
+
+#include <QObject>
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+
+class QTemporaryDir;
+class clsFolderModel;
+struct clsComparison;
+
+/// What work on the chosen claims came to, for the line that tells of it.
+struct clsFolderOutcome {
+    QString text;
+    bool hasFailed = false;
+    std::optional<clsFolderResults> details {};
+    std::function<void()> replace {}; ///< makes the documents anew that were there already
+};
+
+/// What can be done with the chosen claims of a folder. The claims are read by processes beside the window.
+class clsFolderActions : public QObject {
+    Q_OBJECT
+
+public:
+    clsFolderActions(clsFolderModel &model, QWidget *window);
+    ~clsFolderActions() override;
+
+    clsFolderWork &Work() { return m_work; }
+
+    void Check(const QStringList &paths);
+    void Export(const QStringList &paths, const QString &target, bool pdf, bool replaces = false);
+    void CompareTwo(const QString &before, const QString &now);
+    /// With the claims of the same names in another folder.
+    void CompareWith(const QStringList &paths, const QString &folder, const QString &other);
+
+signals:
+    void Told(const clsFolderOutcome &outcome);
+
+private:
+    void checked(const QStringList &paths, const clsFolderWork::clsResult &result);
+    void exported(const QStringList &paths, const QString &target, bool pdf, const clsFolderWork::clsResult &result);
+    void compared(const clsFolderWork::clsResult &result, const QString &before, const QString &now);
+    void comparedAll(const clsFolderWork::clsResult &result, const QString &other);
+    void show(const clsComparison &comparison, QWidget *parent) const;
+    bool stopped(const clsFolderWork::clsResult &result, const QString &what);
+
+    clsFolderModel &m_model;
+    QWidget *m_window;
+    clsFolderWork m_work;
+    std::unique_ptr<QTemporaryDir> m_links; ///< to the claims that are compared
+};

@@ -1,0 +1,95 @@
+#pragma once
+
+#include "shell/clsShownClaims.h"
+
+#include <QDialog>
+
+class QLabel;
+class QProgressBar;
+class clsFolderActions;
+class clsFolderReader;
+class oCheckBox;
+class oCustomButton;
+class oFolderTable;
+class oFolderTotals;
+class oHeaderBar;
+class oLineBox;
+struct clsFolderNews;
+struct clsFolderOutcome;
+
+/// The claims of a folder and of those below it, one row each: what they are worth and what is wrong with them. The
+/// list follows the files. It is accepted when a claim is to be opened.
+class frmFolderOfClaims : public QDialog {
+    Q_OBJECT
+
+public:
+    /// `tool` is the headless program. `folder` is the one to begin with where none was shown before.
+    explicit frmFolderOfClaims(const QString &folder, QWidget *parent = nullptr, const QString &tool = {});
+    ~frmFolderOfClaims() override;
+
+    /// The claim that is to be opened.
+    const QString &ChosenClaim() const { return m_chosenClaim; }
+    void ShowFolder(const QString &folder);
+
+    void done(int result) override;
+    QSize sizeHint() const override;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void build();
+    QWidget *makeHeader();
+    QWidget *makeList();
+    QWidget *makeProgress();
+    QWidget *makeBar();
+    void makeTabOrder();
+    void connectAll();
+    void restore(const QString &folder);
+    void keep() const;
+
+    void take(const clsFolderNews &news);
+    void showState();
+    void showChosen();
+    void showButtons();
+    void showProgress(const QString &what, int done, int all);
+    void tell(const clsFolderOutcome &outcome);
+    void showMenu(const QPoint &place);
+
+    void chooseFolder();
+    void openRow();
+    void exportChosen(bool pdf);
+    void compareChosen();
+    QStringList chosenPaths() const;
+
+    clsFolderModel *m_model;
+    clsShownClaims *m_claims;
+    clsFolderReader *m_reader;
+    clsFolderActions *m_actions;
+    oHeaderBar *m_header;
+    oFolderTable *m_table;
+    oFolderTotals *m_totals;
+    oLineBox *txtFilter;
+    oCheckBox *chkOnlyWithErrors;
+    QLabel *lblState;
+    QWidget *m_progress;
+    QLabel *lblProgress;
+    QProgressBar *pbProgress;
+    oCustomButton *cmdCancel;
+    oCustomButton *cmdReplace;
+    oCustomButton *cmdDetails;
+    oCustomButton *cmdChooseFolder;
+    oCustomButton *cmdOpen;
+    oCustomButton *cmdCheck;
+    oCustomButton *cmdCompare;
+    oCustomButton *cmdExport;
+    oCustomButton *cmdExportAsPdf;
+    oCustomButton *cmdClose;
+
+    QString m_folder;
+    QString m_trouble; ///< why the folder can't be read
+    QString m_readAt; ///< the time; empty until all is read
+    QString m_chosenClaim;
+    std::function<void()> m_replace;
+    std::function<void()> m_details;
+};

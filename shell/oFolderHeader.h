@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QHeaderView>
+
+/// The headings of the list of claims. A click sorts by one, and so does Enter; the keys walk them.
+class oFolderHeader : public QHeaderView {
+    Q_OBJECT
+
+public:
+    explicit oFolderHeader(QWidget *parent = nullptr);
+
+    QSize sizeHint() const override;
+
+signals:
+    void SortAsked(int section);
+
+protected:
+    void paintSection(QPainter *painter, const QRect &rectangle, int section) const override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void goTo(int section);
+    void step(int direction);
+    void tell();
+
+    int m_at = 0; ///< the heading with the focus
+};

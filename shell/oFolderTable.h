@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QTableView>
+
+#include <functional>
+
+class clsFolderDelegate;
+class clsShownClaims;
+class oFolderHeader;
+
+/// The list of the claims of a folder. Where it is narrow, columns give way.
+class oFolderTable : public QTableView {
+    Q_OBJECT
+
+public:
+    explicit oFolderTable(clsShownClaims &claims, QWidget *parent = nullptr);
+
+    oFolderHeader *Header() const { return m_header; }
+    /// The rows that are chosen, from the top.
+    QList<int> ChosenRows() const;
+    /// Sorts by a column, and the other way round where it is sorted by it already.
+    void SortBy(int column);
+    /// Lets the claims change without moving the row that the user looks at.
+    void KeepPlace(const std::function<void()> &change);
+    /// What stands in the middle while there are no rows.
+    void setEmptyText(const QString &text);
+
+    QSize minimumSizeHint() const override;
+
+signals:
+    /// The row with the focus is to be opened.
+    void OpenAsked();
+    void ColumnsPlaced();
+    void MenuAsked(const QPoint &place);
+
+protected:
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    bool event(QEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+
+private:
+    int widthOf(int column) const;
+    void placeColumns();
+    void hoverAt(const QPoint &place);
+
+    clsShownClaims &m_claims;
+    oFolderHeader *m_header;
+    clsFolderDelegate *m_delegate;
+    QString m_emptyText;
+    int m_hoveredRow = -1;
+};

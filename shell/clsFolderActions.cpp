@@ -179,7 +179,7 @@ void clsFolderActions::exported(const QStringList &paths, const QString &target,
 void clsFolderActions::CompareTwo(const QString &before, const QString &now)
 {
     m_work.Start({QStringLiteral("Comparing %1 with %2").arg(mdNameOfClaim(now), mdNameOfClaim(before)),
-        {QStringLiteral("diff"), QStringLiteral("--json"), before, now}, {},
+        {QStringLiteral("diff"), QStringLiteral("--json"), QStringLiteral("--words"), before, now}, {},
         [this, before, now](const Result &result) { compared(result, before, now); }});
 }
 
@@ -215,7 +215,7 @@ void clsFolderActions::CompareWith(const QStringList &paths, const QString &fold
     }
     m_work.Start({QStringLiteral("Comparing %1 with those of %2")
                       .arg(claimsInWords(paths.size()), QDir::toNativeSeparators(other)),
-        {QStringLiteral("diff"), QStringLiteral("--json"), other, m_links->path()}, {},
+        {QStringLiteral("diff"), QStringLiteral("--json"), QStringLiteral("--words"), other, m_links->path()}, {},
         [this, other](const Result &result) { comparedAll(result, other); }});
 }
 

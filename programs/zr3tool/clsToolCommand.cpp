@@ -19,6 +19,7 @@ enum OptionGroup : unsigned {
     CsvOption = 16,
     ManyOptions = 32, ///< of commands that take several claims
     FollowOption = 64,
+    WordsOption = 128,
 };
 
 struct VerbRow {
@@ -33,7 +34,7 @@ constexpr VerbRow Verbs[] = {
     // Its result is JSON with the option or without it.
     {"why", clsToolCommand::Why, 3, JsonOption},
     {"forecast", clsToolCommand::Forecast, 1, JsonOption},
-    {"diff", clsToolCommand::Diff, 2, JsonOption},
+    {"diff", clsToolCommand::Diff, 2, JsonOption | WordsOption},
     {"table", clsToolCommand::Table, 2},
     {"import", clsToolCommand::Import, 2, ImportOptions},
 };
@@ -66,6 +67,7 @@ const QString NameByFile = QStringLiteral("name-by-file");
 const QString Csv = QStringLiteral("csv");
 const QString JsonLines = QStringLiteral("jsonl");
 const QString Follow = QStringLiteral("follow");
+const QString Words = QStringLiteral("words");
 const QString Newer = QStringLiteral("newer");
 const QString Jobs = QStringLiteral("jobs");
 const QString Items = QStringLiteral("items");
@@ -78,7 +80,7 @@ void addOptions(QCommandLineParser &parser)
 {
     parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsOptions);
     for (const QString &flag : {Force, KeepSheets, Quiet, Pdf, NameByFile, Newer, Full, Json, Csv, JsonLines, Follow,
-             Doubles, HelpOption, VersionOption})
+             Words, Doubles, HelpOption, VersionOption})
         parser.addOption(QCommandLineOption(flag));
     parser.addOption(QCommandLineOption(Templates, QString(), QStringLiteral("DIR")));
     parser.addOption(QCommandLineOption(Items, QString(), QStringLiteral("ROWS")));
@@ -96,7 +98,7 @@ unsigned optionsOf(const QCommandLineParser &parser)
     };
     return group(ExportOptions, {Force, Templates, KeepSheets, Quiet, Pdf, NameByFile, Newer})
         | group(JsonOption, {Json}) | group(CsvOption, {Csv}) | group(TodayOption, {Today})
-        | group(ManyOptions, {JsonLines, Jobs}) | group(FollowOption, {Follow})
+        | group(ManyOptions, {JsonLines, Jobs}) | group(FollowOption, {Follow}) | group(WordsOption, {Words})
         | group(ImportOptions, {Items, Map, Doubles});
 }
 
@@ -190,6 +192,7 @@ std::optional<clsToolCommand> commandOf(const QCommandLineParser &parser)
         return command;
     }
     command.json = parser.isSet(Json);
+    command.words = parser.isSet(Words);
     if (row->verb == clsToolCommand::Table) {
         command.which = words[2];
         return command;
@@ -272,8 +275,9 @@ QString clsToolCommand::usage()
         "  --pdf              make the same as PDF beside the document\n"
         "  --name-by-file     name the document after the claim's file, as with several claims\n"
         "\n"
-        "Option of forecast and diff:\n"
+        "Options of forecast and diff:\n"
         "  --json             print it as JSON\n"
+        "  --words            diff only: names in place of identities and stored values, also in JSON\n"
         "\n"
         "Options of import:\n"
         "  --items TABLE      the table: CSV or separated by semicolons or tabs, with a header\n"

@@ -34,6 +34,7 @@ struct clsToolCommand {
     bool doubles = false;
     QDate today; ///< stands in for the machine's day, where it is given
     bool json = false;
+    bool words = false; ///< names in place of stored values, also in JSON
     bool csv = false;
     bool jsonLines = false;
     bool follow = false; ///< a list goes on with whatever changes

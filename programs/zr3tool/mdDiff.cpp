@@ -71,7 +71,7 @@ clsComparedClaims clsDiff::compared(const QString &old, const QString &now) cons
         return result;
     }
     result.changes = mdCompareClaims(before, after);
-    if (!m_command.json)
+    if (!m_command.json || m_command.words)
         result.changes = mdChangesInWords(std::move(result.changes), before, after);
     result.status = result.changes.isEmpty() ? Status::Done : Status::Differs;
     return result;

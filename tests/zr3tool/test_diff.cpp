@@ -67,6 +67,12 @@ TEST_F(ToolDiff, PrintsFieldsItemsAndTotals)
                                      "schedule 1 changed, Time: \"01:00\" -> \"01:30\", effect: 20.00\n"
                                      "Schedule of time: \"40.00\" -> \"60.00\"\n"))
         << lines.out.constData();
+    const clsToolResult words = run({"diff"_q, "--json"_q, "--words"_q, old, now});
+    EXPECT_EQ(3, words.status);
+    const QJsonObject item = objectOf(words)["Items"_q].toArray().at(0).toObject();
+    EXPECT_EQ("Time"_q, item["Fields"_q].toArray().at(0).toObject()["Property"_q].toString());
+    EXPECT_EQ("20.00"_q, item["Effect"_q].toString());
+    EXPECT_EQ("Schedule of time"_q, objectOf(words)["Totals"_q].toArray().at(0).toObject()["Key"_q].toString());
     EXPECT_EQ(before, bytesOf(old));
     EXPECT_EQ(text, bytesOf(now));
 }

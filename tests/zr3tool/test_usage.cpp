@@ -40,6 +40,7 @@ TEST_F(Usage, WrongCommandLinesGetTheUsageAndStatusOne)
         {"diff"_q, claim},
         {"diff"_q, claim, claim, claim},
         {"diff"_q, claim, claim, "--quiet"_q},
+        {"forecast"_q, claim, "--words"_q},
         {"table"_q},
         {"table"_q, claim},
         {"table"_q, claim, "Schedule"_q},
@@ -120,10 +121,10 @@ TEST_F(Usage, HelpIsTheSameUsageAsAResult)
     EXPECT_EQ(0, help.status);
     EXPECT_EQ("", help.err);
     EXPECT_EQ(run({}).err, help.out);
-    for (const char *word :
-        {"list", "totals", "export", "check", "save", "--jsonl", "--csv", "--follow", "--newer", "--jobs", "why",
-            "forecast", "diff", "table", "import", "--items", "--map", "--doubles", "--full", "--json", "--today",
-            "--force", "--templates", "--keep-sheets", "--quiet", "--pdf", "--name-by-file", "--help", "--version"})
+    for (const char *word : {"list", "totals", "export", "check", "save", "--jsonl", "--csv", "--follow", "--newer",
+             "--jobs", "why", "forecast", "diff", "table", "import", "--items", "--map", "--doubles", "--full",
+             "--json", "--words", "--today", "--force", "--templates", "--keep-sheets", "--quiet", "--pdf",
+             "--name-by-file", "--help", "--version"})
         EXPECT_TRUE(help.out.contains(word)) << word;
 }
 

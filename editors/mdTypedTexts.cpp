@@ -35,7 +35,7 @@ QString mdItemMark(const clsXMLRecord &item)
     const QString uniqueID = identity ? identity->readText() : QString();
     if (!uniqueID.isEmpty())
         return uniqueID;
-    const QByteArray content = mdItemContent(item.XMLNode());
+    const QByteArray content = mdItemContent(item.XMLNodeToRead());
     return QString::fromLatin1(QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex().left(32));
 }
 

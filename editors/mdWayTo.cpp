@@ -51,8 +51,7 @@ int columnOf(const clsItemList &list, const QString &property)
 /// The element of an item of the claim; nothing where there is none of that order.
 pugi::xml_node elementOf(const clsClaimList &list, int order)
 {
-    const clsXMLRecord &claim = *Form;
-    for (const pugi::xml_node item : claim.XMLNode().child(list.element).children())
+    for (const pugi::xml_node item : Form->XMLNodeToRead().child(list.element).children())
         if (XMLDecodeText(item.child("orderid").child_value()).toInt() == order)
             return item;
     return {};
@@ -62,7 +61,7 @@ pugi::xml_node elementOf(const clsClaimList &list, int order)
 int indexOf(const oSGrid &grid, pugi::xml_node element)
 {
     for (const auto &item : grid.ItemCollection())
-        if (std::as_const(*item).XMLNode() == element)
+        if (item->XMLNodeToRead() == element)
             return item->Index;
     return 0;
 }

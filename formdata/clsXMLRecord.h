@@ -145,6 +145,9 @@ public:
     clsXMLRecord(const clsXMLRecord &) = delete;
     clsXMLRecord &operator=(const clsXMLRecord &) = delete;
 
+    /// The element, for reading only: a change through it would be neither counted nor noticed.
+    pugi::xml_node XMLNodeToRead() const { return m_node; }
+    /// The element, for a caller that may change what is below it.
     pugi::xml_node XMLNode() const
     {
         forgetElements();

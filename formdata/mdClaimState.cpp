@@ -34,10 +34,8 @@ std::uint64_t ofElement(std::uint64_t state, pugi::xml_node element)
 
 std::uint64_t mdClaimState(const clsZR3Form &form)
 {
-    // Accessed as a plain record, so that the lists keep their cached elements.
-    const clsXMLRecord &claim = form;
     std::uint64_t state = 0;
-    for (const pugi::xml_node child : claim.XMLNode().children())
+    for (const pugi::xml_node child : form.XMLNodeToRead().children())
         if (std::find(std::begin(NotOfTheClaim), std::end(NotOfTheClaim), std::string_view(child.name()))
             == std::end(NotOfTheClaim))
             state = ofElement(state, child);

@@ -8,13 +8,6 @@ namespace {
 
 constexpr char Element[] = "costslimit";
 
-/// Accessed as a plain record, so that the lists keep their cached elements.
-pugi::xml_node claimOf(const clsZR3Form &form)
-{
-    const clsXMLRecord &claim = form;
-    return claim.XMLNode();
-}
-
 std::optional<Money> amountOf(const QString &text)
 {
     try {
@@ -28,7 +21,7 @@ std::optional<Money> amountOf(const QString &text)
 
 QString mdStoredCostsLimit(const clsZR3Form &form)
 {
-    return XMLDecodeText(claimOf(form).child(Element).child_value());
+    return XMLDecodeText(form.XMLNodeToRead().child(Element).child_value());
 }
 
 std::optional<Money> mdCostsLimit(const clsZR3Form &form)
@@ -39,7 +32,8 @@ std::optional<Money> mdCostsLimit(const clsZR3Form &form)
 
 void mdSetCostsLimit(clsZR3Form &form, const QString &limit)
 {
-    pugi::xml_node claim = claimOf(form);
+    // Accessed as a plain record, so that the lists keep their cached elements.
+    pugi::xml_node claim = static_cast<const clsXMLRecord &>(form).XMLNode();
     if (amountOf(limit) == Money()) {
         while (claim.remove_child(Element)) { }
         return;

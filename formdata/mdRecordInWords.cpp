@@ -77,7 +77,7 @@ bool beginsWord(const QString &property, qsizetype at)
 
 QString mdRecordInWords(const clsXMLRecord &record)
 {
-    const pugi::xml_node node = record.XMLNode();
+    const pugi::xml_node node = record.XMLNodeToRead();
     if (const clsRecordRow *row = rowOf(Items, node.parent().name()))
         return itemInWords(*row, node);
     const clsRecordRow *row = rowOf(Sections, node.name());

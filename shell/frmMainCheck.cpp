@@ -45,9 +45,7 @@ int rowOfItem(const oPreviewGrid &grid, clsPreviewKind kind, int order)
 /// Looks at each item of the schedule, by its element and its order.
 template <class Look> void eachScheduleItem(const clsZR3Form &form, Look look)
 {
-    // As a plain record: the lists need not forget what they know of their elements.
-    const clsXMLRecord &claim = form;
-    for (const pugi::xml_node item : claim.XMLNode().child(mdClaimList(QString(ScheduleList))->element).children())
+    for (const pugi::xml_node item : form.XMLNodeToRead().child(mdClaimList(QString(ScheduleList))->element).children())
         look(item.internal_object(), XMLDecodeText(item.child("orderid").child_value()).toInt());
 }
 

@@ -22,9 +22,7 @@ pugi::xml_node clsFindingItems::itemOf(const clsFinding &finding, const clsClaim
     auto found = m_items.find(finding.List);
     if (found == m_items.end()) {
         found = m_items.emplace(finding.List, QHash<int, pugi::xml_node>()).first;
-        // Accessed as a plain record, so that the lists keep their cached elements.
-        const clsXMLRecord &claim = m_form;
-        for (const pugi::xml_node item : claim.XMLNode().child(list.element).children())
+        for (const pugi::xml_node item : m_form.XMLNodeToRead().child(list.element).children())
             found->second.insert(textOf(item, Order).toInt(), item);
     }
     return found->second.value(finding.Item);

@@ -1,6 +1,9 @@
 // The limit of costs: an element that exists only while a limit is set.
 
+#include "formdata/mdClaimState.h"
 #include "formdata/mdCostsLimit.h"
+#include "formdata/mdRecordInWords.h"
+#include "formdata/mdXMLChanges.h"
 #include "tests/formdata/clsFormTest.h"
 #include "tests/support/mdTestPaths.h"
 
@@ -73,6 +76,21 @@ TEST_F(CostsLimit, IsWrittenAsAllTextsAre)
     EXPECT_EQ("12%2C000", contentOf(form.XMLNode(), "costslimit"));
     EXPECT_EQ("12,000"_q, mdStoredCostsLimit(form));
     EXPECT_EQ(MoneyFromText(u"12000"), mdCostsLimit(form));
+}
+
+// A claim whose elements were handed out is compared whole at each undo and each activation of the window.
+TEST_F(CostsLimit, IsReadWithoutHandingOutElements)
+{
+    clsZR3Form form;
+    const auto item = form.AddDisbursement();
+    const quint64 before = XMLChanges::lastHandOut();
+    EXPECT_EQ(QString(), mdStoredCostsLimit(form));
+    EXPECT_FALSE(mdCostsLimit(form));
+    mdRecordInWords(*item);
+    mdClaimState(form);
+    EXPECT_EQ(before, XMLChanges::lastHandOut());
+    form.XMLNode();
+    EXPECT_LT(before, XMLChanges::lastHandOut());
 }
 
 TEST_F(CostsLimit, IsNoneWhereTheTextIsNoAmountAboveZero)

@@ -1,8 +1,10 @@
 // The list of the claims of a folder: what it shows, and that it follows the files.
 
+#include "controls/mdGridMetrics.h"
 #include "controls/oHeaderBar.h"
 #include "shell/clsFolderModel.h"
 #include "shell/oFolderHeader.h"
+#include "shell/oFolderTotals.h"
 #include "tests/support/mdSpokenNames.h"
 #include "tests/window/clsFolderTest.h"
 
@@ -302,4 +304,11 @@ TEST_F(Folder, FiveThousandRowsComeInAtTheirPlaces)
     EXPECT_EQ("124,975.00", shown.Sums(list.ChosenRows()).text(Column::Total));
     list.SortBy(Column::Total);
     EXPECT_LT(waited.elapsed(), 3000);
+    // The sums have room beneath their columns.
+    oFolderTotals totals(list);
+    clsFolderSums large = shown.SumsOfAll();
+    large.amounts[clsFolderRow::Total] = Money::fromTenThousandths(9'876'543'210'1234);
+    totals.Show(QStringLiteral("All"), large);
+    EXPECT_LT(QFontMetrics(mdGridHeadingFont()).horizontalAdvance(QStringLiteral("9,876,543,210.12")),
+        list.columnWidth(Column::Total));
 }

@@ -165,6 +165,19 @@ void oFolderTable::keyPressEvent(QKeyEvent *event)
     QTableView::keyPressEvent(event);
 }
 
+/// The keys go from row to row: cells are not gone to, so that letters always look for a claim.
+QModelIndex oFolderTable::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    QScrollBar &across = *horizontalScrollBar();
+    switch (action) {
+    case MoveHome: return m_claims.index(0, Model::Claim);
+    case MoveEnd: return m_claims.index(m_claims.rowCount() - 1, Model::Claim);
+    case MoveLeft: across.triggerAction(QAbstractSlider::SliderSingleStepSub); return currentIndex();
+    case MoveRight: across.triggerAction(QAbstractSlider::SliderSingleStepAdd); return currentIndex();
+    default: return QTableView::moveCursor(action, modifiers);
+    }
+}
+
 /// Below the row where it is asked for by a key.
 void oFolderTable::contextMenuEvent(QContextMenuEvent *event)
 {

@@ -62,6 +62,14 @@ TEST_F(Folder, AddsUpWhatIsChosen)
     EXPECT_TRUE(totals().contains("Total 21,608.62")) << totals().toStdString();
     QTest::keyClick(&table(), Qt::Key_A, Qt::ControlModifier);
     EXPECT_TRUE(totals().startsWith("3 of 3 claims chosen, "));
+    QTest::keyClick(&table(), Qt::Key_End);
+    EXPECT_EQ(2, table().currentIndex().row());
+    QTest::keyClick(&table(), Qt::Key_Right);
+    QTest::keyClick(&table(), Qt::Key_A); // letters look for a claim
+    EXPECT_EQ("a", table().currentIndex().data().toString());
+    EXPECT_TRUE(totals().startsWith("1 of 3 claims chosen, "));
+    QTest::keyClick(&table(), Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_TRUE(totals().startsWith("3 claims, ")) << "nothing is chosen";
 }
 
 TEST_F(Folder, AClaimThatCantBeReadHasTheReasonAndIsInNoTotal)

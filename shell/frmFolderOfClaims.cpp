@@ -210,6 +210,7 @@ void frmFolderOfClaims::showChosen()
 
 void frmFolderOfClaims::showButtons()
 {
+    QWidget *focused = focusWidget();
     const bool isChosen = m_table->selectionModel()->hasSelection();
     const bool isRunning = m_actions->Work().isRunning();
     cmdOpen->setEnabled(m_table->currentIndex().isValid());
@@ -226,6 +227,9 @@ void frmFolderOfClaims::showButtons()
         cmdReplace->hide();
         cmdDetails->hide();
     }
+    // From a button that is off or gone, the toolkit would go to the next one, which is "Close".
+    if (focused && (!focused->isEnabled() || focused->isHidden()))
+        m_table->setFocus();
 }
 
 void frmFolderOfClaims::showProgress(const QString &what, int done, int all)

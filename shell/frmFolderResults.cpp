@@ -7,16 +7,54 @@
 #include "controls/oCustomButton.h"
 #include "controls/oHeaderBar.h"
 
+#include <QAbstractTableModel>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QTableWidget>
+#include <QTableView>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
 constexpr int ResultsWidth = 1000;
 constexpr int ResultsHeight = 560;
-constexpr int ColumnWidth = 190;
+constexpr int WidestColumn = 240;
+
+/// The rows as they are: a check of many claims has many thousands.
+class clsResultsModel : public QAbstractTableModel {
+public:
+    clsResultsModel(const clsFolderResults &results, QObject *parent)
+        : QAbstractTableModel(parent)
+        , m_results(results)
+    { }
+
+    int rowCount(const QModelIndex &parent = {}) const override
+    {
+        return parent.isValid() ? 0 : int(m_results.rows.size());
+    }
+    int columnCount(const QModelIndex &parent = {}) const override
+    {
+        return parent.isValid() ? 0 : int(m_results.headings.size());
+    }
+    QVariant data(const QModelIndex &index, int role) const override
+    {
+        const QString text = m_results.rows[size_t(index.row())].value(index.column());
+        switch (role) {
+        case Qt::DisplayRole: return text.simplified();
+        case Qt::ToolTipRole: return mdPlainToolTip(text);
+        default: return {};
+        }
+    }
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override
+    {
+        return orientation == Qt::Horizontal && role == Qt::DisplayRole ? m_results.headings.value(section)
+                                                                        : QVariant();
+    }
+
+private:
+    const clsFolderResults &m_results;
+};
 
 oCustomButton *buttonOf(const char *name, const QString &caption, QWidget *parent)
 {
@@ -31,7 +69,7 @@ oCustomButton *buttonOf(const char *name, const QString &caption, QWidget *paren
 frmFolderResults::frmFolderResults(const clsFolderResults &results, QWidget *parent)
     : QDialog(parent)
     , m_results(results)
-    , m_table(new QTableWidget(int(results.rows.size()), int(results.headings.size()), this))
+    , m_table(new QTableView(this))
 {
     setObjectName(QStringLiteral("frmFolderResults"));
     setWindowTitle(results.caption);
@@ -43,7 +81,7 @@ frmFolderResults::frmFolderResults(const clsFolderResults &results, QWidget *par
     auto *bar = new oButtonBar(this);
     if (m_results.open) {
         auto *open = buttonOf("cmdShow", m_results.openCaption, this);
-        open->setEnabled(m_table->rowCount() > 0);
+        open->setEnabled(!m_results.rows.empty());
         connect(open, &oCustomButton::Click, this, &frmFolderResults::openRow);
         bar->AddLeft(open);
     }
@@ -54,8 +92,7 @@ frmFolderResults::frmFolderResults(const clsFolderResults &results, QWidget *par
     oButtonBar::layOut(*this, header, m_table, bar);
     // The table takes all of the height.
     static_cast<QBoxLayout *>(layout()->itemAt(1)->layout())->setStretchFactor(m_table, 1);
-    if (m_table->rowCount() > 0)
-        m_table->setCurrentCell(0, 0);
+    m_table->setCurrentIndex(m_table->model()->index(0, 0));
     m_table->setFocus();
 }
 
@@ -68,7 +105,7 @@ void frmFolderResults::fill()
 {
     m_table->setObjectName(QStringLiteral("tblResults"));
     m_table->setAccessibleName(m_results.caption);
-    m_table->setHorizontalHeaderLabels(m_results.headings);
+    m_table->setModel(new clsResultsModel(m_results, this));
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -79,14 +116,11 @@ void frmFolderResults::fill()
     m_table->verticalHeader()->setDefaultSectionSize(mdGridRowHeight());
     m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_table->horizontalHeader()->setStretchLastSection(true);
-    m_table->horizontalHeader()->setDefaultSectionSize(Theme::scaled(ColumnWidth));
-    for (int row = 0; row < m_table->rowCount(); ++row)
-        for (int column = 0; column < m_table->columnCount(); ++column) {
-            const QString text = m_results.rows[size_t(row)].value(column);
-            auto *cell = new QTableWidgetItem(text.simplified());
-            cell->setToolTip(mdPlainToolTip(text));
-            m_table->setItem(row, column, cell);
-        }
+    // Of the rows in view the widest counts.
+    m_table->resizeColumnsToContents();
+    for (int column = 0; column + 1 < m_table->model()->columnCount(); ++column)
+        m_table->setColumnWidth(
+            column, std::min(Theme::scaled(WidestColumn), m_table->columnWidth(column) + Theme::Space16));
     m_table->installEventFilter(this);
     connect(m_table, &QAbstractItemView::doubleClicked, this, &frmFolderResults::openRow);
 }
@@ -105,6 +139,6 @@ bool frmFolderResults::eventFilter(QObject *watched, QEvent *event)
 
 void frmFolderResults::openRow()
 {
-    if (m_results.open && m_table->currentRow() >= 0)
-        m_results.open(m_table->currentRow(), this);
+    if (m_results.open && m_table->currentIndex().isValid())
+        m_results.open(m_table->currentIndex().row(), this);
 }

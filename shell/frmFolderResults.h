@@ -6,7 +6,7 @@
 #include <functional>
 #include <vector>
 
-class QTableWidget;
+class QTableView;
 
 /// What work on several claims came to, as rows.
 struct clsFolderResults {
@@ -35,5 +35,5 @@ private:
     void openRow();
 
     clsFolderResults m_results;
-    QTableWidget *m_table;
+    QTableView *m_table;
 };

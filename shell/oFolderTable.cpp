@@ -5,7 +5,6 @@
 #include "controls/oGridHeader.h"
 #include "controls/oGridView.h"
 #include "shell/clsFolderDelegate.h"
-#include "shell/clsShownClaims.h"
 #include "shell/oFolderHeader.h"
 
 #include <QContextMenuEvent>
@@ -101,6 +100,21 @@ void oFolderTable::KeepPlace(const std::function<void()> &change)
     verticalScrollBar()->setValue(top + kept.row() - before);
 }
 
+void oFolderTable::FitSums(const clsFolderSums &sums)
+{
+    const QFontMetrics strong(mdGridHeadingFont());
+    bool isWider = false;
+    for (int column = 0; column < Model::Columns; ++column) {
+        const int width = strong.horizontalAdvance(sums.text(column));
+        if (width <= m_sumWidths[size_t(column)])
+            continue;
+        m_sumWidths[size_t(column)] = width;
+        isWider = true;
+    }
+    if (isWider)
+        placeColumns();
+}
+
 void oFolderTable::setEmptyText(const QString &text)
 {
     m_emptyText = text;
@@ -151,6 +165,19 @@ void oFolderTable::keyPressEvent(QKeyEvent *event)
     QTableView::keyPressEvent(event);
 }
 
+/// The keys go from row to row: cells are not gone to, so that letters always look for a claim.
+QModelIndex oFolderTable::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    QScrollBar &across = *horizontalScrollBar();
+    switch (action) {
+    case MoveHome: return m_claims.index(0, Model::Claim);
+    case MoveEnd: return m_claims.index(m_claims.rowCount() - 1, Model::Claim);
+    case MoveLeft: across.triggerAction(QAbstractSlider::SliderSingleStepSub); return currentIndex();
+    case MoveRight: across.triggerAction(QAbstractSlider::SliderSingleStepAdd); return currentIndex();
+    default: return QTableView::moveCursor(action, modifiers);
+    }
+}
+
 /// Below the row where it is asked for by a key.
 void oFolderTable::contextMenuEvent(QContextMenuEvent *event)
 {
@@ -188,8 +215,8 @@ int oFolderTable::widthOf(int column) const
 {
     const QFontMetrics strong(mdGridHeadingFont());
     const QString heading = m_claims.headerData(column, Qt::Horizontal).toString();
-    return std::max(strong.horizontalAdvance(heading) + SignRoom,
-               strong.horizontalAdvance(QString::fromLatin1(Fitting[column])))
+    return std::max({strong.horizontalAdvance(heading) + SignRoom,
+               strong.horizontalAdvance(QString::fromLatin1(Fitting[column])), m_sumWidths[size_t(column)]})
         + 2 * clsFolderDelegate::CellEdge;
 }
 

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "shell/clsShownClaims.h"
+
 #include <QTableView>
 
+#include <array>
 #include <functional>
 
 class clsFolderDelegate;
-class clsShownClaims;
 class oFolderHeader;
 
 /// The list of the claims of a folder. Where it is narrow, columns give way.
@@ -22,6 +24,8 @@ public:
     void SortBy(int column);
     /// Lets the claims change without moving the row that the user looks at.
     void KeepPlace(const std::function<void()> &change);
+    /// Gives each column room for its sum, which stands beneath it.
+    void FitSums(const clsFolderSums &sums);
     /// What stands in the middle while there are no rows.
     void setEmptyText(const QString &text);
 
@@ -38,6 +42,7 @@ protected:
     bool event(QEvent *event) override;
     bool viewportEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
@@ -51,5 +56,6 @@ private:
     oFolderHeader *m_header;
     clsFolderDelegate *m_delegate;
     QString m_emptyText;
+    std::array<int, clsFolderModel::Columns> m_sumWidths {}; ///< the widest so far, so that nothing goes to and fro
     int m_hoveredRow = -1;
 };

@@ -36,6 +36,7 @@ void oFolderTotals::Show(const QString &caption, const clsFolderSums &sums)
 {
     m_caption = caption;
     m_sums = sums;
+    m_table.FitSums(sums);
     QStringList parts {caption};
     for (int column = 0; column < Model::Columns; ++column)
         if (const QString sum = sums.text(column); !sum.isEmpty())

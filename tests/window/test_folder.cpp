@@ -1,8 +1,10 @@
 // The list of the claims of a folder: what it shows, and that it follows the files.
 
+#include "controls/mdGridMetrics.h"
 #include "controls/oHeaderBar.h"
 #include "shell/clsFolderModel.h"
 #include "shell/oFolderHeader.h"
+#include "shell/oFolderTotals.h"
 #include "tests/support/mdSpokenNames.h"
 #include "tests/window/clsFolderTest.h"
 
@@ -60,6 +62,14 @@ TEST_F(Folder, AddsUpWhatIsChosen)
     EXPECT_TRUE(totals().contains("Total 21,608.62")) << totals().toStdString();
     QTest::keyClick(&table(), Qt::Key_A, Qt::ControlModifier);
     EXPECT_TRUE(totals().startsWith("3 of 3 claims chosen, "));
+    QTest::keyClick(&table(), Qt::Key_End);
+    EXPECT_EQ(2, table().currentIndex().row());
+    QTest::keyClick(&table(), Qt::Key_Right);
+    QTest::keyClick(&table(), Qt::Key_A); // letters look for a claim
+    EXPECT_EQ("a", table().currentIndex().data().toString());
+    EXPECT_TRUE(totals().startsWith("1 of 3 claims chosen, "));
+    QTest::keyClick(&table(), Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_TRUE(totals().startsWith("3 claims, ")) << "nothing is chosen";
 }
 
 TEST_F(Folder, AClaimThatCantBeReadHasTheReasonAndIsInNoTotal)
@@ -302,4 +312,11 @@ TEST_F(Folder, FiveThousandRowsComeInAtTheirPlaces)
     EXPECT_EQ("124,975.00", shown.Sums(list.ChosenRows()).text(Column::Total));
     list.SortBy(Column::Total);
     EXPECT_LT(waited.elapsed(), 3000);
+    // The sums have room beneath their columns.
+    oFolderTotals totals(list);
+    clsFolderSums large = shown.SumsOfAll();
+    large.amounts[clsFolderRow::Total] = Money::fromTenThousandths(9'876'543'210'1234);
+    totals.Show(QStringLiteral("All"), large);
+    EXPECT_LT(QFontMetrics(mdGridHeadingFont()).horizontalAdvance(QStringLiteral("9,876,543,210.12")),
+        list.columnWidth(Column::Total));
 }

@@ -7,7 +7,7 @@
 #include <QContextMenuEvent>
 #include <QMenu>
 #include <QProgressBar>
-#include <QTableWidget>
+#include <QTableView>
 #include <QTimer>
 
 namespace {
@@ -39,11 +39,12 @@ protected:
     static QStringList rowsOf(QWidget *dialog)
     {
         QStringList rows;
-        const auto *table = dialog ? dialog->findChild<QTableWidget *>() : nullptr;
-        for (int row = 0; table && row < table->rowCount(); ++row) {
+        const auto *table = dialog ? dialog->findChild<QTableView *>() : nullptr;
+        const auto *model = table ? table->model() : nullptr;
+        for (int row = 0; model && row < model->rowCount(); ++row) {
             QStringList cells;
-            for (int column = 0; column < table->columnCount(); ++column)
-                cells << (table->item(row, column) ? table->item(row, column)->text() : QString());
+            for (int column = 0; column < model->columnCount(); ++column)
+                cells << model->index(row, column).data().toString();
             rows << cells.join(u'|');
         }
         if (dialog)
@@ -127,6 +128,7 @@ TEST_F(FolderActions, ExportsTheChosenClaimsUnderTheirNames)
     user.folders = {out()};
     press("cmdExport");
     EXPECT_FALSE(button("cmdExport").isEnabled()) << "while it runs";
+    EXPECT_TRUE(table().hasFocus()) << "and not the button that closes the window";
     EXPECT_FALSE(button("cmdExportAsPdf").isEnabled());
     EXPECT_TRUE(button("cmdCancel").isVisible());
     EXPECT_TRUE(told().startsWith("Exporting: Abbot, 1 of 3")) << told().toStdString();

@@ -19,10 +19,12 @@ void writeValues(clsJsonWriter &json, const QString &before, const QString &afte
     json.endObject();
 }
 
-void writeItem(clsJsonWriter &json, const clsItemChange &item)
+void writeItem(clsJsonWriter &json, const clsItemChange &item, bool withNames)
 {
     json.beginObject();
     json.text("List", item.List);
+    if (withNames)
+        json.text("Name", item.Name);
     json.text("Change", QString::fromLatin1(Words[item.Change]));
     json.number("OldItem", item.OldItem);
     json.number("NewItem", item.NewItem);
@@ -56,7 +58,7 @@ std::vector<clsFieldChange> readFields(const QJsonObject &object)
 clsItemChange readItem(const QJsonObject &item)
 {
     const auto *const word = std::find(std::begin(Words), std::end(Words), textIn(item, "Change"));
-    return {textIn(item, "List"),
+    return {textIn(item, "List"), textIn(item, "Name"),
         word == std::end(Words) ? clsItemChange::Changed : clsItemChange::Kind(word - std::begin(Words)),
         item[QLatin1String("OldItem")].toInt(), item[QLatin1String("NewItem")].toInt(), readFields(item),
         textIn(item, "Effect")};
@@ -90,7 +92,7 @@ QString itemInWords(const clsItemChange &item)
 
 } // namespace
 
-void mdWriteChanges(clsJsonWriter &json, const clsClaimChanges &changes)
+void mdWriteChanges(clsJsonWriter &json, const clsClaimChanges &changes, bool withNames)
 {
     json.beginArray("Fields");
     for (const clsFieldChange &field : changes.Fields) {
@@ -102,7 +104,7 @@ void mdWriteChanges(clsJsonWriter &json, const clsClaimChanges &changes)
     json.endArray();
     json.beginArray("Items");
     for (const clsItemChange &item : changes.Items)
-        writeItem(json, item);
+        writeItem(json, item, withNames);
     json.endArray();
     json.beginArray("Totals");
     for (const clsTotalChange &total : changes.Totals) {

@@ -5,8 +5,8 @@
 class QJsonObject;
 class clsJsonWriter;
 
-/// Writes the three lists of differences to the open object.
-void mdWriteChanges(clsJsonWriter &json, const clsClaimChanges &changes);
+/// Writes the three lists of differences to the open object; on request with what each item is called.
+void mdWriteChanges(clsJsonWriter &json, const clsClaimChanges &changes, bool withNames = false);
 
 /// Reads them from such an object.
 clsClaimChanges mdReadChanges(const QJsonObject &object);

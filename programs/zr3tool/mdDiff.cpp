@@ -88,7 +88,7 @@ Status clsDiff::ofClaims(const QString &old, const QString &now)
     }
     clsJsonWriter json;
     json.beginObject();
-    mdWriteChanges(json, result.changes);
+    mdWriteChanges(json, result.changes, m_command.words);
     json.endObject();
     mdPrintBytes(json.bytes());
     return result.status;
@@ -106,7 +106,7 @@ Status clsDiff::writePair(clsJsonWriter &json, const clsFilePair &pair) const
     if (result.status == Status::NoClaim)
         json.text("Error", result.error);
     else
-        mdWriteChanges(json, result.changes);
+        mdWriteChanges(json, result.changes, m_command.words);
     json.endObject();
     if (m_command.json)
         return result.status;

@@ -72,6 +72,7 @@ TEST_F(ToolDiff, PrintsFieldsItemsAndTotals)
     const QJsonObject item = objectOf(words)["Items"_q].toArray().at(0).toObject();
     EXPECT_EQ("Time"_q, item["Fields"_q].toArray().at(0).toObject()["Property"_q].toString());
     EXPECT_EQ("20.00"_q, item["Effect"_q].toString());
+    EXPECT_EQ("Schedule item 1"_q, item["Name"_q].toString());
     EXPECT_EQ("Schedule of time"_q, objectOf(words)["Totals"_q].toArray().at(0).toObject()["Key"_q].toString());
     EXPECT_EQ(before, bytesOf(old));
     EXPECT_EQ(text, bytesOf(now));

@@ -1,4 +1,5 @@
 #include "base/mdStateFile.h"
+#include "commands/mdFileHandling.h"
 #include "controls/mdGridMetrics.h"
 #include "controls/oContentSwitcher.h"
 #include "controls/oCustomButton.h"

@@ -193,8 +193,12 @@ def signalled(number, log_off=False, environment=None, bound=None):
     with Life() as life:
         if log_off:
             (life.folder / "log-off").touch()
-        process = life.start(environment=environment or {}, preexec_fn=lambda: resource.setrlimit(
-            resource.RLIMIT_CORE, (0, 0)))
+        def prepare():
+            resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
+            # An ignored signal would be inherited, as under nohup.
+            signal.signal(number, signal.SIG_DFL)
+
+        process = life.start(environment=environment or {}, preexec_fn=prepare)
         life.wait_for_words(process, 150)
         process.send_signal(number)
         process.communicate(timeout=PATIENCE)

@@ -8,6 +8,10 @@
 #include "costing/mdGetColumnTotals.h"
 #include "formdata/clsZR3Form.h"
 
+#include <QHash>
+
+#include <optional>
+
 namespace {
 
 using Form = clsZR3Form;

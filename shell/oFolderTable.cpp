@@ -25,8 +25,10 @@ constexpr const char *Fitting[Model::Columns]
 constexpr int SignRoom = 6; ///< beside a heading, besides the cell's own edge
 constexpr int FocusFrame = 2;
 
-/// What gives way first.
-constexpr Model::Column FirstToGo[] = {Model::All, Model::Changed, Model::Items, Model::Scheme, Model::Reference};
+/// What gives way first. The claim and its total never do.
+constexpr Model::Column FirstToGo[]
+    = {Model::All, Model::Changed, Model::Items, Model::Scheme, Model::Reference, Model::Form, Model::VAT,
+        Model::Counsel, Model::Client, Model::Disbursements, Model::ProfitCosts, Model::Warnings, Model::Errors};
 
 } // namespace
 

@@ -192,8 +192,8 @@ void mdCheckDoubleEntry(clsClaimCheck &check)
                         .arg(*known)};
             });
     };
-    for (const auto &[billed, likeness] : withTime)
-        check.unlessItFails([&] { look(*billed); });
+    for (const auto &row : withTime)
+        check.unlessItFails([&] { look(*row.first); });
 }
 
 void mdCheckLongItem(clsClaimCheck &check)

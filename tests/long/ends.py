@@ -195,8 +195,8 @@ def signalled(number, log_off=False, environment=None, bound=None):
             (life.folder / "log-off").touch()
         def prepare():
             resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
-            # An ignored signal would be inherited, as under nohup.
-            signal.signal(number, signal.SIG_DFL)
+            # The program would inherit that it is ignored, as under nohup.
+            signal.signal(signal.SIGHUP, signal.SIG_DFL)
 
         process = life.start(environment=environment or {}, preexec_fn=prepare)
         life.wait_for_words(process, 150)

@@ -39,7 +39,7 @@ constexpr clsMenuRow MenuRows[] = {
     {"&Preview", "&Schedule of Time",             "mnuPreviewScheduleOfTime",        "Ctrl+T", &frmMain::PreviewScheduleOfTime},
     {"&Preview", "&Additional Information",       "mnuPreviewAdditionalInformation", "Ctrl+I", &frmMain::PreviewAdditionalInformation, true},
     {"&Preview", "&Form Pages",                   "mnuFormPages",                    "Ctrl+G", &frmMain::FormPages},
-    {"&Preview", "Section &List",                 "mnuSectionList",                  "Ctrl+L", &frmMain::SectionList},
+    {"&Preview", "Se&ctions",                     "mnuSectionList",                  "Ctrl+L", &frmMain::SectionList},
     {"&Preview", "&Why This Figure",              "mnuWhyThisFigure",                "",       &frmMain::WhyThisFigure},
     {"&Help",    "&User Guide",                   "mnuUserGuide",                    "",       &frmMain::UserGuide},
     {"&Help",    "&Keyboard Shortcuts List",      "mnuKeyboardShortcutsList",        "",       &frmMain::KeyboardShortcutsList,        true},

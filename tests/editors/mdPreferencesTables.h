@@ -43,6 +43,49 @@ inline const std::vector<clsExpectedScreen> ExpectedFirm {
     }, {{"bxFirm", ""}}},
 };
 
+inline clsExpectedField ExpectedCode(const char *control, const char *caption, const char *frame)
+{
+    return {.control = control, .caption = caption, .answer = nullptr, .kind = 't', .frame = frame,
+        .replacements = false};
+}
+
+inline const std::vector<clsExpectedScreen> ExpectedCodes {
+    {"", "frmCodeWords", "Codes", "Your firm's words for the codes, for all users of the database folder", "", {
+        ExpectedCode("txtACL", "ACL:", "bxAttendances"),
+        ExpectedCode("txtACO", "ACO:", "bxAttendances"),
+        ExpectedCode("txtACT", "ACT:", "bxAttendances"),
+        ExpectedCode("txtAEX", "AEX:", "bxAttendances"),
+        ExpectedCode("txtAOS", "AOS:", "bxAttendances"),
+        ExpectedCode("txtAOT", "AOT:", "bxAttendances"),
+        ExpectedCode("txtASI", "ASI:", "bxAttendances"),
+        ExpectedCode("txtASO", "ASO:", "bxAttendances"),
+        ExpectedCode("txtAWI", "AWI:", "bxAttendances"),
+        ExpectedCode("txtHDI", "HDI:", "bxHearings"),
+        ExpectedCode("txtHFN", "HFN:", "bxHearings"),
+        ExpectedCode("txtHIN", "HIN:", "bxHearings"),
+        ExpectedCode("txtHOT", "HOT:", "bxHearings"),
+        ExpectedCode("txtDAF", "DAF:", "bxDocuments"),
+        ExpectedCode("txtDAG", "DAG:", "bxDocuments"),
+        ExpectedCode("txtDAN", "DAN:", "bxDocuments"),
+        ExpectedCode("txtDAP", "DAP:", "bxDocuments"),
+        ExpectedCode("txtDBL", "DBL:", "bxDocuments"),
+        ExpectedCode("txtDCN", "DCN:", "bxDocuments"),
+        ExpectedCode("txtDFL", "DFL:", "bxDocuments"),
+        ExpectedCode("txtDIC", "DIC:", "bxDocuments"),
+        ExpectedCode("txtDNO", "DNO:", "bxDocuments"),
+        ExpectedCode("txtDOT", "DOT:", "bxDocuments"),
+        ExpectedCode("txtDPL", "DPL:", "bxDocuments"),
+        ExpectedCode("txtDST", "DST:", "bxDocuments"),
+        ExpectedCode("txtOOT", "OOT:", "bxDocuments"),
+        ExpectedCode("txtRES", "RES:", "bxDocuments"),
+        ExpectedCode("txtREX", "REX:", "bxDocuments"),
+        ExpectedCode("txtRMD", "RMD:", "bxDocuments"),
+        ExpectedCode("txtROP", "ROP:", "bxDocuments"),
+        ExpectedCode("txtROT", "ROT:", "bxDocuments"),
+        ExpectedCode("txtRWE", "RWE:", "bxDocuments"),
+    }, {{"bxAttendances", "Att / Conf"}, {"bxHearings", "Hrng"}, {"bxDocuments", "Docs"}}},
+};
+
 inline const std::vector<clsExpectedScreen> ExpectedPreferencesEditors {
     {"", "frmReplacementEdit", "Replacement", "Change input and output text", "", {
         {.control = "txtInputText", .caption = "Input Text:*", .answer = nullptr, .kind = 't', .replacements = false},

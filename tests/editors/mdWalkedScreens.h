@@ -29,8 +29,8 @@ inline std::vector<clsExpectedScreen> AllExpectedScreens()
 inline std::vector<clsExpectedScreen> AllWalkedScreens()
 {
     std::vector<clsExpectedScreen> all = AllExpectedScreens();
-    all.insert(all.end(), ExpectedPreferences.begin(), ExpectedPreferences.end());
-    all.insert(all.end(), ExpectedFirm.begin(), ExpectedFirm.end());
+    for (const auto *table : {&ExpectedPreferences, &ExpectedFirm, &ExpectedCodes})
+        all.insert(all.end(), table->begin(), table->end());
     return all;
 }
 
@@ -58,7 +58,7 @@ inline std::vector<clsScreenFunction> AllItemEditors()
 /// The screen of that name outside the sections, or null.
 inline const clsScreen *ScreenNamed(std::string_view name)
 {
-    for (const clsScreenFunction screen : {ScreenPreferences, ScreenFirmAndTeam})
+    for (const clsScreenFunction screen : {ScreenPreferences, ScreenFirmAndTeam, ScreenCodeWords})
         if (screen().name == name)
             return &screen();
     for (const clsScreenFunction editor : AllItemEditors())

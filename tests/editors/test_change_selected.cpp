@@ -1,4 +1,5 @@
 #include "controls/mdTheme.h"
+#include "controls/oContentSwitcher.h"
 #include "controls/oDateBox.h"
 #include "controls/oFindLine.h"
 #include "controls/oLineBox.h"
@@ -9,6 +10,7 @@
 #include "editors/oListTotal.h"
 #include "formdata/clsZR3Disbursement.h"
 #include "formdata/clsZR3Enhancement.h"
+#include "formdata/clsZR3ExpertInvoice.h"
 #include "formdata/clsZR3FASItem.h"
 #include "tests/editors/clsScheduleTest.h"
 
@@ -160,6 +162,26 @@ TEST_F(ChangeSelected, CopyListTakesTheMarkedRows)
     EXPECT_EQ(QStringLiteral("Copied Schedule of Time: 4 in all"), screen->findChild<oListLine *>()->Text());
 }
 
+TEST_F(ChangeSelected, CopyListTakesTheMarkedRowsOfTheOpenPage)
+{
+    for (const char *type : {"Surveyor", "Engineer", "Psychologist"}) {
+        Form->AddExpertInvoice()->ExpertType = QString::fromLatin1(type);
+        Form->AddDisbursement()->Description = QStringLiteral("Fee");
+    }
+    open("Disbursements");
+    mark(2, 3, "sgExpertInvoices");
+    EXPECT_EQ(QStringLiteral("2 of 3 items"), total("sgExpertInvoices").first());
+    entry(*screen, "mnuCopyList").trigger();
+    const QStringList lines = QGuiApplication::clipboard()->text().trimmed().split(u'\n');
+    ASSERT_EQ(3, lines.size()) << "the heading and two rows";
+    EXPECT_TRUE(lines[1].contains(QStringLiteral("Engineer"))) << lines[1].toStdString();
+    EXPECT_TRUE(lines[2].contains(QStringLiteral("Psychologist"))) << lines[2].toStdString();
+    EXPECT_EQ(QStringLiteral("Copied Expert Invoices: 2 of 3"), screen->findChild<oListLine *>()->Text());
+    screen->Switcher().SwitchTo(4);
+    entry(*screen, "mnuCopyList").trigger();
+    EXPECT_EQ(QStringLiteral("Copied Other Disbursements: 3 in all"), screen->findChild<oListLine *>()->Text());
+}
+
 TEST_F(ChangeSelected, SetsTheFeeEarnerOfAllMarkedRowsAsOneStep)
 {
     addItems();
@@ -206,6 +228,10 @@ TEST_F(ChangeSelected, SetsTheDateAndKeepsTheRowsWhereverItPutsThem)
     EXPECT_EQ(QStringList({"09/12", "09/12"}), markedDates());
     EXPECT_EQ(QStringLiteral("03/12/25"), Form->ScheduleOfTimeItemsForExportCollection()[0]->dDate())
         << "the bill follows";
+    undo();
+    EXPECT_EQ(QStringLiteral("01/12 DVE ACT|02/12 DVE DPL|03/12 DVE HFN|04/12 DVE ACL"), stored());
+    EXPECT_EQ(QStringLiteral("01/12/25"), Form->ScheduleOfTimeItemsForExportCollection()[0]->dDate());
+    EXPECT_FALSE(Document().history.canUndo()) << "the rows' new numbers are part of the step";
 }
 
 TEST_F(ChangeSelected, AFieldIsCheckedAsInTheEditorOfTheItem)

@@ -1,5 +1,6 @@
 // The description and the amount behind the schedule's columns.
 
+#include "controls/oFindLine.h"
 #include "editors/oListTotal.h"
 #include "tests/editors/clsScheduleTest.h"
 
@@ -91,6 +92,28 @@ TEST_F(ScheduleColumns, WhereItIsNarrowTheDescriptionGoesFirstAndThenTheAmount)
     EXPECT_EQ((std::vector<std::pair<bool, bool>> {{true, true}, {false, true}, {false, false}}), seen);
     setGridWidth(*screen, 1000);
     EXPECT_TRUE(isShown(*screen, DescriptionColumn)) << "and it comes back";
+}
+
+TEST_F(ScheduleColumns, FindLooksInThemAlsoWhereTheyHaveNoRoom)
+{
+    addItem("15/12/25", "DOT", "01:00")->Description = QStringLiteral("Reading the survey");
+    addItem("16/12/25", "DOT", "02:00")->Description = QStringLiteral("Preparing the bundle");
+    addItem("17/12/25", "DOT", "03:00")->Description = QStringLiteral("Reading the bundle");
+    const auto screen = schedule();
+    const auto *line = screen->findChild<oFindLine *>(QStringLiteral("sgScheduleOfTimeFind"));
+    const auto find = [&](const char *words) {
+        key(*screen, Qt::Key_F, Qt::ControlModifier);
+        type(*screen->focusWidget(), QString::fromLatin1(words));
+        return line->State();
+    };
+    EXPECT_EQ(QStringLiteral("hit 1 of 2"), find("bundle"));
+    EXPECT_EQ(2, grid(*screen).SelectedRow());
+    EXPECT_EQ(QStringLiteral("hit 1 of 1"), find("bundle 234.00")) << "three hours at 78.00";
+    EXPECT_EQ(3, grid(*screen).SelectedRow());
+    setGridWidth(*screen, 400);
+    ASSERT_FALSE(isShown(*screen, DescriptionColumn));
+    EXPECT_EQ(QStringLiteral("hit 1 of 1"), find("survey"));
+    EXPECT_EQ(1, grid(*screen).SelectedRow());
 }
 
 TEST_F(ScheduleColumns, TheTotalEndsUnderTheAmounts)

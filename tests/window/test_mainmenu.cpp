@@ -42,7 +42,7 @@ const clsEntry Entries[] = {
     {"Preview", "Schedule of Time",              "mnuPreviewScheduleOfTime",        "Ctrl+T", false},
     {"Preview", "Additional Information",        "mnuPreviewAdditionalInformation", "Ctrl+I", true},
     {"Preview", "Form Pages",                    "mnuFormPages",                    "Ctrl+G", false},
-    {"Preview", "Section List",                  "mnuSectionList",                  "Ctrl+L", false},
+    {"Preview", "Sections",                      "mnuSectionList",                  "Ctrl+L", false},
     {"Preview", "Why This Figure",               "mnuWhyThisFigure",                "",       false},
     {"Help",    "User Guide",                    "mnuUserGuide",                    "",       false},
     {"Help",    "Keyboard Shortcuts List",       "mnuKeyboardShortcutsList",        "",       true},

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// The groups of options that a command may have.
+/// Groups of options; a command allows some of them.
 enum OptionGroup : unsigned {
     NoOptions = 0,
     ExportOptions = 1,
@@ -17,19 +17,19 @@ enum OptionGroup : unsigned {
     ImportOptions = 4,
     TodayOption = 8,
     CsvOption = 16,
-    ManyOptions = 32, ///< of commands that take several claims
+    ManyOptions = 32, ///< for commands that take several claims
 };
 
 struct VerbRow {
     const char *word;
     clsToolCommand::Verb verb;
-    int paths; ///< how many paths follow the word
+    int paths; ///< the number of paths after the word
     unsigned options = NoOptions;
 };
 
 constexpr VerbRow Verbs[] = {
     {"save", clsToolCommand::Save, 2},
-    // Its result is JSON with the option or without it.
+    // JSON with or without the option.
     {"why", clsToolCommand::Why, 3, JsonOption},
     {"forecast", clsToolCommand::Forecast, 1, JsonOption},
     {"diff", clsToolCommand::Diff, 2, JsonOption},
@@ -37,10 +37,10 @@ constexpr VerbRow Verbs[] = {
     {"import", clsToolCommand::Import, 2, ImportOptions},
 };
 
-/// The commands that take as many claims and folders as there are.
+/// The commands that take any number of claims and folders.
 struct ManyRow {
     const char *word;
-    bool isFull; ///< with the option of that name
+    bool isFull; ///< with the option "full"
     clsToolCommand::Verb verb;
     unsigned options;
 };
@@ -97,13 +97,13 @@ unsigned optionsOf(const QCommandLineParser &parser)
         | group(ManyOptions, {JsonLines, Jobs}) | group(ImportOptions, {Items, Map, Doubles});
 }
 
-/// Adds the options of an import; false where they are wrong.
+/// Reads the options of an import; false if they are invalid.
 bool addImport(clsToolCommand &command, const QCommandLineParser &parser)
 {
     command.items = parser.value(Items);
     command.doubles = parser.isSet(Doubles);
     for (const QString &map : parser.values(Map)) {
-        // The name in the table may hold the sign too.
+        // The last sign, because the name in the table may contain one too.
         const qsizetype sign = map.lastIndexOf(u'=');
         if (sign < 1 || mdColumnOf(mdScheduleColumns(), map.mid(sign + 1)) < 0)
             return false;
@@ -112,7 +112,7 @@ bool addImport(clsToolCommand &command, const QCommandLineParser &parser)
     return !command.items.isEmpty();
 }
 
-/// Reads the values that an option of several claims has; false where one is wrong.
+/// Reads options that have values; false if one is invalid.
 bool addValues(clsToolCommand &command, const QCommandLineParser &parser)
 {
     for (const QString &day : parser.values(Today)) {
@@ -128,7 +128,7 @@ bool addValues(clsToolCommand &command, const QCommandLineParser &parser)
             return false;
     }
     command.templates = parser.value(Templates);
-    // As from a variable of a script that was never set: the program's own templates are not what was asked for.
+    // An empty value, as from an unset variable of a script, must not select the program's own templates.
     return !parser.values(Templates).contains(QString());
 }
 

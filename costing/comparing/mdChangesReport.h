@@ -7,5 +7,5 @@ class clsJsonWriter;
 /// Writes the three lists of differences to the open object.
 void mdWriteChanges(clsJsonWriter &json, const clsClaimChanges &changes);
 
-/// What differs, as it is given, a line that ends in CR LF for each; nothing where nothing differs.
+/// The differences as they are, one line each, ending in CR LF; empty if there are none.
 QString mdChangesInLines(const clsClaimChanges &changes, const QString &before = {});

@@ -55,7 +55,7 @@ protected:
             }
         }
     }
-    /// The keys that were pressed so far; a letter with Alt is one.
+    /// The number of keys pressed so far; a letter with Alt counts as one.
     inline static int pressed = 0;
 
     /// A look at how things stand, with nothing done.

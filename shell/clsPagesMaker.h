@@ -67,5 +67,5 @@ private:
     QString m_failure;
 };
 
-/// A claim's text without what no page shows: its path, the time spent on it, its counters.
+/// A claim's text without the values that no page shows: its path, the time spent on it, its counters.
 QString mdPrintedText(const clsZR3Form &form);

@@ -20,7 +20,7 @@ void SetFormDisplay(clsFormDisplay display);
 /// True if there is a claim whose text differs from the clean one.
 bool FormIsDirty();
 
-/// Asks whether to save a changed claim. True if the user lets it be closed.
+/// Asks whether to save a changed claim. True if the claim may be closed.
 bool ConfirmClose();
 
 /// Asks as above before another claim replaces it. Work that counts as saved but is not on the disk, because its save

@@ -116,8 +116,7 @@ void clsItemChoice::fill()
         m_list->clear();
         for (const clsChoiceItem &item : items)
             m_list->addItem(item.name, item.index);
-        // A list selects its first entry automatically; here nothing is chosen until the user or a stored value chooses
-        // it.
+        // A list selects its first entry automatically; this one needs a choice by the user or a stored value.
         m_list->setCurrentIndex(-1);
         mdComboboxSelectByItemData(*m_list, selected);
     }

@@ -14,7 +14,7 @@
 
 namespace {
 
-/// The command for Undo or Redo, if one is possible.
+/// The command for Undo or Redo; it does nothing if there is no such step.
 std::function<void()> turning(
     bool (clsHistory::*can)() const, const clsZR3Item *(clsHistory::*turn)(), const std::function<void()> &showTurned)
 {

@@ -39,7 +39,7 @@ struct clsGridColumn {
     const clsXMLRecord *helper = nullptr; ///< provides the argument of a property that takes one; outlives the column
     QString helperProperty {}; ///< the helper's property with that argument; empty for a plain property
     bool forceUnderline = false;
-    QString faultOf {}; ///< the property whose fault the column shows, where it isn't its own
+    QString faultOf {}; ///< the property whose fault the column shows, if not its own
     clsGridRoom room = clsGridRoom::Share;
     /// Instead of a property: called at each fill; the returned function then reads all rows.
     std::function<clsGridTexts()> texts {};

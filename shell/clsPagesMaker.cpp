@@ -127,7 +127,7 @@ bool clsPagesMaker::exportCopy(const clsZR3Form &form)
             listener.told = mdNoPagesMessage(copy.FormType());
         m_sheets = finished ? mdForecastOf(run) : clsForecast();
     } catch (const std::exception &) {
-        // Catches everything, so that this object can't stay in the running state.
+        // No error of any kind may leave this object in the running state.
         const clsRunTimeError error = mdRunTimeErrorOf(std::current_exception());
         listener.told = error.cause().isEmpty() ? error.description() : error.cause();
     }

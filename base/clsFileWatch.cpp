@@ -62,7 +62,7 @@ std::optional<QDateTime> clsFileWatch::changedByOthers()
         m_stamp = stamp;
         return m_changed;
     } catch (const clsRunTimeError &) {
-        // Its stamp is not taken: the next look reads again.
+        // The stamp is not stored, so that the next check reads the file again.
         m_isUnreadable = true;
         return stamp->when();
     }

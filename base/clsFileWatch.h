@@ -5,9 +5,9 @@
 #include <QByteArray>
 #include <QString>
 
-/// A file as this program last read or wrote it, and whether another program has put other content in its place since.
-/// A file that is gone doesn't count as changed; one that another program has touched and that can't be read does, as
-/// long as it can't.
+/// A file as this program last read or wrote it, and whether another program has changed its content since. A deleted
+/// file doesn't count as changed. A file that another program has touched and that can't be read counts as changed
+/// until it can be read.
 class clsFileWatch {
 public:
     void forget() { *this = {}; }
@@ -20,7 +20,7 @@ public:
     /// `mark` is its content as an earlier run of the program last read or wrote it.
     void wasKnown(const QString &path, const QByteArray &mark);
 
-    /// What stands for a content.
+    /// Identifies a content.
     static QByteArray markOf(const QByteArray &bytes);
 
     const QString &path() const { return m_path; }
@@ -28,7 +28,7 @@ public:
     const QByteArray &mark() const { return m_mark; }
     /// The time of another program's change; nothing if there is none. Reads the file only if its stamp has changed.
     std::optional<QDateTime> changedByOthers();
-    /// Whether it could not be read when that was asked last.
+    /// Whether the last check could not read it.
     bool isUnreadable() const { return m_isUnreadable; }
 
 private:

@@ -35,7 +35,7 @@ Amount read(const QString &number)
             (point ? amount.decimals : amount.whole) += c;
         else if (c == u'.' && !point)
             point = true;
-        else if (c != u',') // where the commas stand is not checked, as in every reader of amounts
+        else if (c != u',') // the positions of the commas are not checked, as in all readers of amounts
             throw clsRunTimeError(clsRunTimeError::TypeMismatch);
     }
     if (amount.whole.isEmpty() && amount.decimals.isEmpty())

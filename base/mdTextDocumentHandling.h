@@ -8,8 +8,8 @@
 /// end.
 QString ReadTextDocument(const QString &path, bool logIt);
 
-/// The same text in UTF-8, which costs no conversion where the file is plain ASCII, as a claim mostly is. A failure
-/// gives its number where that is asked for.
+/// The same text in UTF-8, without a conversion if the file is plain ASCII, as most claims are. The number of a failure
+/// is stored in `failure` if given.
 QByteArray ReadTextDocumentAsUtf8(const QString &path, bool logIt, int *failure = nullptr);
 
 /// Replaces the whole content of a file, one byte for each character. The old content stays beside the file, at its

@@ -5,16 +5,16 @@
 #include <QHash>
 #include <QStringList>
 
-/// The firm as it is kept for new claims. Its details, groups, fee earners and counsel stand in a form like those of a
-/// claim, which is never opened, saved or exported.
+/// The firm that fills new claims. Its details, groups, fee earners and counsel are held in a claim form that is never
+/// opened, saved or exported.
 struct clsFirm {
     clsZR3Form form;
     bool fillsNewClaims = false;
 
-    /// The bytes of the file that it was read from; empty where there was none.
+    /// The bytes of the file it was read from; empty if there was none.
     QByteArray bytes;
 
-    // What another version of the program has put into the file, and this one knows nothing of.
+    // Columns and cells that another version of the program wrote to the file and this one doesn't know.
     QStringList otherColumns {};
-    QHash<QString, QStringList> otherCells {}; ///< of each row, by the item's identity; the firm's own has none
+    QHash<QString, QStringList> otherCells {}; ///< by the item's identity, which is empty for the firm's row
 };

@@ -31,7 +31,7 @@ size_t standsFor(const QString &text, const clsJournalHead &head)
     return seed == 0 ? 1 : seed;
 }
 
-/// Runs what must not fail, and tells the log where it does. Returns the error's number, 0 for none.
+/// Runs a step and logs its error instead of raising it. Returns the error's number, 0 for none.
 template <class Step> int guarded(Step step) noexcept
 {
     int failure = 0;
@@ -45,7 +45,7 @@ template <class Step> int guarded(Step step) noexcept
             WriteLog(QStringLiteral("Journal: ") + error.description());
         }
     } catch (...) {
-        // The log is of no more use then than the journal.
+        // The log failed too.
     }
     return failure;
 }
@@ -54,7 +54,7 @@ template <class Step> int guarded(Step step) noexcept
 
 clsJournal &Journal()
 {
-    // One for the program's one document, whose changes all floors above tell of.
+    // The program has one document, and all higher floors report its changes.
     static clsJournal journal;
     return journal;
 }
@@ -103,7 +103,7 @@ bool clsJournal::isNeeded(const QString &text, const std::vector<clsTypedTexts> 
     return !typed.empty() || !m_notSaved.isEmpty() || HoldsUnsavedWork(text);
 }
 
-/// What keeps the journal from being written at all is told like a disk that takes none of it.
+/// A failure before the write is reported like one of the write itself.
 template <class Step> void clsJournal::keep(Step step) noexcept
 {
     const int failure = guarded(step);
@@ -138,7 +138,7 @@ void clsJournal::bringUpToDate(bool atOnce)
     what.head = NewJournalHead();
     what.head.claim = Document().filePath();
     what.head.known = Document().onDisk.mark();
-    // What was not stored before comes first: of one screen the later counts.
+    // Text not stored earlier comes first: of one screen the later entry counts.
     what.head.typed = NotStored().all();
     what.head.typed.insert(what.head.typed.end(), typed.begin(), typed.end());
     write(std::move(what), atOnce);
@@ -156,7 +156,7 @@ void clsJournal::write(clsWrite what, bool atOnce)
     startWrite(std::move(what), atOnce);
 }
 
-/// In the background, since a large claim on a slow disk would be felt while typing.
+/// In the background: on a slow disk, writing a large claim would delay typing.
 void clsJournal::startWrite(clsWrite what, bool atOnce)
 {
     auto work = [file = m_file, what = std::move(what)] {
@@ -181,7 +181,7 @@ void clsJournal::finishWrite()
     m_notKept = failure ? FailureInWords(failure) : QString();
 }
 
-/// Sees to a file of this process's own. False where there is no place for it.
+/// Makes sure that this process has a journal file with a lock. False if it can't be created.
 bool clsJournal::takeFile()
 {
     if (!MakeJournalFolder())

@@ -8,17 +8,17 @@
 
 class clsHeldFile;
 
-/// What a journal needs of the window; any of it may be empty.
+/// What a journal needs from the window; each may be empty.
 struct clsJournalHooks {
-    std::function<void()> stepTaken; ///< something changed: `update` is to be called soon, and not at once
-    std::function<std::vector<clsTypedTexts>()> typedTexts; ///< what is typed in the open screens
+    std::function<void()> stepTaken; ///< something changed: call `update` soon, but not at once
+    std::function<std::vector<clsTypedTexts>()> typedTexts; ///< the text typed in the open screens
 };
 
-/// The recovery copy of the open claim, kept in the state folder while the claim has changes that its file lacks, or
-/// something is typed in an open screen. It is the window's to call `update` often enough: after each step, and now and
-/// then. It goes when the claim is saved or given up by the user, and stays when the program ends in any other way. A
-/// save that could not be written and read back doesn't count as one here. It shows nothing, asks nothing, never fails,
-/// and touches nothing of the claim. Without a window nothing is kept.
+/// The recovery copy of the open claim. It is kept in the state folder while the claim has changes that its file lacks,
+/// or text is typed in an open screen. The window calls `update` after each step and at intervals. The journal is
+/// removed when the user saves the claim or discards its changes, and stays if the program ends in any other way. A
+/// save that could not be written and read back doesn't count as one here. Shows and asks nothing, never fails and
+/// never changes the claim. Without a window no journal is kept.
 class clsJournal {
 public:
     clsJournal();
@@ -26,32 +26,32 @@ public:
     clsJournal(const clsJournal &) = delete;
     clsJournal &operator=(const clsJournal &) = delete;
 
-    /// Begins to keep a journal. The steps of the claim's history are its steps from then on.
+    /// Starts a journal, which follows the claim's history from then on.
     void begin(clsJournalHooks hooks);
-    /// Ends it. The journal that lies there stays.
+    /// Stops keeping the journal; its file stays.
     void end();
 
-    /// Something has changed that the history doesn't tell of. This only notes it.
+    /// Notes a change that the history doesn't report.
     void stepTaken();
-    /// Brings the journal up to date, where it isn't. The writing itself goes on in the background; while it does, this
-    /// does nothing but look whether it has ended.
+    /// Writes the journal in the background if it is out of date. While a write is running this only checks whether it
+    /// has finished.
     void update() noexcept;
-    /// The same at once: it is on the disk when this returns, where the disk takes it.
+    /// The same at once: on return the journal is on the disk, unless the disk refused it.
     void flush() noexcept;
-    /// Whether a write goes on in the background.
+    /// Whether a background write is running.
     bool isWriting() const { return m_writing.valid(); }
 
-    /// The claim was written to its file, or that failed with this error.
+    /// The claim was written to its file, or the write failed with this error.
     void saved(bool written, int failure) noexcept;
-    /// The user leaves the claim, and has been asked about its changes.
+    /// The user leaves the claim and has answered the question about its changes.
     void leaveClaim() noexcept;
-    /// Goes on with a journal that an earlier run has left, whose claim has just been opened. What was typed in
-    /// the screens that were open when that one ended counts as not stored.
+    /// Continues a journal that an earlier run left, whose claim was just opened. The text typed in the screens open at
+    /// its end counts as not stored.
     void adopt(const QString &journal, std::unique_ptr<clsHeldFile> lock, const std::vector<clsTypedTexts> &typed);
 
-    /// Why the last save doesn't count as one, in words; empty where it does.
+    /// Why the last save doesn't count, in words; empty if it does.
     const QString &notSaved() const { return m_notSaved; }
-    /// Why the journal can't be written, in words; empty where it can.
+    /// Why the journal can't be written, in words; empty if it can.
     const QString &notKept() const { return m_notKept; }
 
 private:
@@ -76,11 +76,11 @@ private:
     QString m_file;
     std::unique_ptr<clsHeldFile> m_lock;
     std::future<int> m_writing; ///< the error's number, 0 for none
-    size_t m_held = 0; ///< stands for what the journal holds; 0 for nothing
+    size_t m_held = 0; ///< hash of what the journal holds; 0 for nothing
     size_t m_underWay = 0;
     QString m_notSaved;
     QString m_notKept;
 };
 
-/// The journal of the program's one document.
+/// The journal of the open document.
 clsJournal &Journal();

@@ -30,7 +30,7 @@ QStringList filesIn(const QString &folder, const QString &pattern)
     return files;
 }
 
-/// Whether the program that keeps a journal runs. Where the file system knows no locks, its process tells.
+/// Whether the program that keeps a journal is running. On a file system without locks its process is checked.
 bool runs(const QString &file, const clsJournalHead &head)
 {
     const auto state = clsHeldFile::of(JournalLock(file));
@@ -39,7 +39,7 @@ bool runs(const QString &file, const clsJournalHead &head)
     return head.machine == QSysInfo::machineHostName() && clsHeldFile::processRuns(head.process);
 }
 
-/// The claim's own file holds all of it, as after an end between a save and the journal's removal.
+/// Whether the claim's own file holds everything, as after an end between a save and the journal's removal.
 bool isOnDisk(const clsJournalContents &contents)
 {
     try {
@@ -59,14 +59,14 @@ bool opened(const clsJournalContents &contents)
     }
 }
 
-/// What stands for the content of the open claim's file, as it was read or saved; empty where there is none.
+/// The mark of the open claim's file as it was last read or saved; empty if there is none.
 QByteArray openMark()
 {
     const bool isOpen = Form && !Document().opening && Document().filePath() == Document().onDisk.path();
     return isOpen ? Document().onDisk.mark() : QByteArray();
 }
 
-/// What a program left that was ended between two of its steps.
+/// Removes files left by a program that ended between two steps.
 void removeStrays(const QString &folder)
 {
     for (const QString &pattern : {QStringLiteral("*.lock"), QStringLiteral("*.part")})
@@ -102,7 +102,7 @@ void clsLeftJournals::look() noexcept
         std::stable_sort(m_all.begin(), m_all.end(),
             [](const clsLeftJournal &a, const clsLeftJournal &b) { return a.head.changed < b.head.changed; });
     } catch (...) {
-        // What can't be looked at can't be offered.
+        // A journal that can't be read is not offered.
     }
 }
 
@@ -127,8 +127,8 @@ void clsLeftJournals::lookAt(const QString &file)
         m_all.push_back({file, contents->head, clsFileWatch::markOf(contents->claim)});
 }
 
-/// Takes those away whose claim lies, to the byte, in the file of the open one. What was typed in their screens is
-/// offered for the open claim instead.
+/// Deletes the journals whose claim is byte for byte the file of the open one. Text typed in their screens is offered
+/// for the open claim instead.
 void clsLeftJournals::takeOpened()
 {
     const QByteArray opened = openMark();
@@ -143,7 +143,7 @@ void clsLeftJournals::takeOpened()
     });
 }
 
-/// Where that can't be done it stays, and keeps nothing else from being offered.
+/// If the rename fails the journal stays, and the others are still offered.
 void clsLeftJournals::setAside(const QString &file)
 {
     try {
@@ -165,7 +165,7 @@ bool clsLeftJournals::open(const clsLeftJournal &left)
     try {
         bytes = FileSystem().ReadFile(left.file);
     } catch (const clsRunTimeError &) {
-        // The read failed, but the journal may be whole: offer it again at the next start.
+        // The journal may still be complete: offer it again at the next start.
         return false;
     }
     const auto contents = ReadJournal(bytes);

@@ -2,30 +2,30 @@
 
 #include "commands/mdJournalFile.h"
 
-/// A journal whose program ended without leaving its claim properly.
+/// A journal whose program ended without closing its claim properly.
 struct clsLeftJournal {
     QString file;
     clsJournalHead head;
-    QByteArray mark {}; ///< stands for the claim in it
+    QByteArray mark {}; ///< hash of its claim
 };
 
-/// The journals that earlier runs have left, oldest change first. Those of other windows that run are not among them,
-/// and one in which nothing stands that the claim's own file lacks is taken away. So is one whose claim the user has
-/// opened from another file, such as the recovered copy that the same end has left: the same work is offered once. A
-/// broken one is set aside, beside the others and under its own name with one more ending.
+/// The journals that earlier runs left, oldest change first. Leaves out the journals of other running windows. Deletes
+/// a journal that adds nothing to the claim's own file, and one whose claim the user has opened from another file, such
+/// as the recovered copy from the same crash, so that the same work is not offered twice. A broken journal is renamed
+/// with an additional extension in the same folder.
 class clsLeftJournals {
 public:
-    /// Looks anew. Only what is new in the folder is read.
+    /// Looks again; reads only what is new in the folder.
     void look() noexcept;
     const std::vector<clsLeftJournal> &all() const { return m_all; }
-    /// How many broken ones were set aside since the user was told.
+    /// The number of broken journals set aside since the user was last told.
     int broken() const { return m_broken; }
     void brokenWereTold() { m_broken = 0; }
 
-    /// Opens the claim of a journal in the place of the open one, which the user has agreed to leave. It counts as
-    /// changed and has its old path, and its journal goes on. False where that can't be, and then nothing has changed.
+    /// Opens the claim of a journal in place of the open one, which the user has agreed to leave. The claim counts as
+    /// changed and has its old path, and its journal continues. False, with nothing changed, if that fails.
     bool open(const clsLeftJournal &left);
-    /// Takes it away; false where another window has it by now.
+    /// Deletes a journal; false if another window has taken it meanwhile.
     bool discard(const clsLeftJournal &left);
 
 private:

@@ -26,7 +26,7 @@ std::optional<QJsonObject> readFile()
     return mdReadStateObject(fileName());
 }
 
-/// What can't be kept is lost as it would be without any of this: nothing is stopped by it.
+/// A failure loses the typed text, but must not stop the caller.
 template <class Step> void guarded(Step step) noexcept
 {
     try {
@@ -38,6 +38,7 @@ template <class Step> void guarded(Step step) noexcept
 
 clsNotStored &NotStored()
 {
+    // The program has one document; screens and commands report what was not stored in it.
     static clsNotStored notStored;
     return notStored;
 }
@@ -107,7 +108,7 @@ void clsNotStored::write()
 {
     if (m_path.isEmpty())
         return;
-    // Read anew: another window may have kept something of another claim since.
+    // Read again: another window may have kept text of another claim meanwhile.
     QJsonObject claims = readFile().value_or(QJsonObject());
     const bool wasThere = claims.contains(m_path);
     QJsonArray kept;

@@ -4,24 +4,24 @@
 
 #include <vector>
 
-/// What was typed in screens of the open claim and not stored, since the user left them without a Save or the program
-/// ended: one for each screen, the latest last. It is kept in the state folder by the claim's path, so that it is there
-/// at the next start, and forgotten when it is stored after all or another claim takes the place of this one. Nothing
-/// of it touches the claim, and where it can't be written it is kept no longer than the program runs.
+/// Text that was typed in screens of the open claim but not stored, because the user left them without Save or the
+/// program ended: one entry per screen, the latest last. It is kept in the state folder under the claim's path, so that
+/// it is there at the next start, and forgotten once it is stored or another claim is opened. The claim itself is never
+/// changed. If the file can't be written, the text is kept only until the program ends.
 class clsNotStored {
 public:
     const std::vector<clsTypedTexts> &all() const { return m_all; }
 
-    /// Keeps what was typed in a screen, in the place of what was kept of it before.
+    /// Keeps the text typed in a screen, replacing what was kept for that screen.
     void keep(clsTypedTexts texts) noexcept;
-    /// Forgets what is kept of a screen.
+    /// Forgets what was kept for a screen.
     void forget(const QString &screen) noexcept;
 
-    /// Another claim takes the place of the open one: all of it is forgotten.
+    /// Forgets everything: another claim replaces the open one.
     void leaveClaim() noexcept;
-    /// A claim was opened: what an earlier run has kept for it is there again.
+    /// A claim was opened: restores what an earlier run kept for it.
     void openClaim(const QString &path) noexcept;
-    /// The claim was saved, and may have another path since.
+    /// The claim was saved, possibly under a new path.
     void claimSaved(const QString &path) noexcept;
 
 private:
@@ -32,5 +32,5 @@ private:
     QString m_path;
 };
 
-/// What was not stored of the program's one document.
+/// The text not stored in the open document.
 clsNotStored &NotStored();

@@ -3,9 +3,9 @@
 #include <QString>
 #include <QStringList>
 
-/// Why the claim, as it stands, is whole nowhere but in the program.
+/// Why the claim in its present state exists only in memory.
 enum class clsLossCause {
-    None, ///< it is whole in a file, or there is none of the user's work in it
+    None, ///< a file holds all of it, or it has none of the user's work
     UnsavedChanges,
     SaveFailed,
     FileChanged, ///< by another program, after it was saved
@@ -13,9 +13,9 @@ enum class clsLossCause {
     FileUnreadable,
 };
 
-/// What became of a claim that was to be set aside.
+/// The result of writing a recovered copy.
 struct clsRecoveredCopy {
     clsLossCause cause = clsLossCause::None;
-    QString path; ///< of the copy; empty where there was nothing to write, or no place to write it to
-    QStringList tried; ///< the folders that didn't take it, where none did
+    QString path; ///< of the copy; empty if there was nothing to write or nowhere to write it
+    QStringList tried; ///< the folders that refused it, if all did
 };

@@ -11,7 +11,8 @@ namespace {
 
 constexpr qint64 DaysKept = 60;
 
-/// The letters alone, with or without a point before them. A backup of an unsaved claim ends in others and is kept.
+/// Tests the letters only, with or without a point before them. A backup of an unsaved claim has another ending and is
+/// kept.
 bool isBackup(const QFileInfo &file)
 {
     return file.fileName().right(3).toLower() == QLatin1String("zr3");

@@ -1,5 +1,5 @@
 #pragma once
 
-/// Deletes what is older than sixty days from the backup folder, where the preferences ask for it. Every file counts
-/// whose name ends in the letters of a claim, whoever wrote it. A failure is an error, and the rest is left.
+/// Deletes backups older than sixty days from the backup folder if the preferences ask for it. Any file whose name ends
+/// in a claim's extension counts, whichever program wrote it. A failure raises an error and leaves the remaining files.
 void mdAutoDeleteBackups();

@@ -19,8 +19,8 @@ void autoSave()
     WriteLog(QStringLiteral("Begin Autosave"));
     if (!Form || !Preferences)
         throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
-    // Whether backups are written is up to this folder alone. The preference `AutoBackup` is a hint to the user on the
-    // preferences screen and no switch: that is meant.
+    // Only the existence of this folder decides whether backups are written. The preference `AutoBackup` is a hint on
+    // the preferences screen, not a switch. Required behaviour; do not fix.
     const QString folder = Preferences->AutoBackupPath();
     if (!FileSystem().FolderExists(folder)) {
         WriteLog(QStringLiteral("Autosave cancelled. Path not found"));
@@ -32,7 +32,7 @@ void autoSave()
 
 QString noted(const QDateTime &time)
 {
-    // With its offset, so that ten minutes are ten minutes in the night in which the clocks change, too.
+    // With the UTC offset, so that ten minutes stay ten minutes when the clocks change.
     return time.toOffsetFromUtc(time.offsetFromUtc()).toString(Qt::ISODate);
 }
 
@@ -51,8 +51,8 @@ void mdAutoBackupTick(QString &tag)
 {
     const QDateTime last = QDateTime::fromString(tag, Qt::ISODate);
     const qint64 seconds = last.isValid() ? last.secsTo(Now()) : 0;
-    // A time that is yet to come was noted before the clock was set back. Waiting until it comes round again would
-    // leave the claim without a backup for hours, or years.
+    // A time in the future was set before the clock was put back. Waiting for it would leave the claim without a backup
+    // for hours or years.
     if (!last.isValid() || seconds < 0) {
         tag = noted(Now());
         return;

@@ -2,11 +2,11 @@
 
 #include <QString>
 
-/// Writes the claim as it stands into the backup folder, under its own file name; one backup for each name. The claim
-/// itself is not touched and stays changed. Without the folder nothing is written. No failure reaches the caller; one
-/// of the write shows its box, at each backup anew until the cause is gone, which is meant.
+/// Writes the claim to the backup folder under its own file name, replacing the last backup of that name. The claim
+/// itself is not touched and still counts as changed. Does nothing if the folder is missing. Raises no error; a failed
+/// write shows its box at every backup until the cause is removed. Required behaviour; do not fix.
 void mdAutoSave();
 
-/// One tick of the timer for backups. `tag` is the time from which the ten minutes are counted, empty until the first
-/// tick has noted it: a first backup is due ten minutes after that. It is due whether or not the claim has changed.
+/// One tick of the backup timer. `tag` is the time from which the ten minutes are counted, and is empty until the first
+/// tick has set it: the first backup is due ten minutes later, whether or not the claim has changed.
 void mdAutoBackupTick(QString &tag);

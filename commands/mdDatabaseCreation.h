@@ -1,5 +1,5 @@
 #pragma once
 
-/// Lets an administrator choose or make a database folder, writes fresh preferences into it (existing ones are
-/// overwritten without a question) and stores it as the database folder.
+/// Lets an administrator choose or create a database folder, writes new preferences into it (without asking, even over
+/// existing ones) and stores it as the database folder.
 void CreateDatabases();

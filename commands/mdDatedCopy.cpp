@@ -21,12 +21,12 @@ namespace {
 
 constexpr QFile::Permissions FileOwnerOnly = QFile::ReadOwner | QFile::WriteOwner;
 
-constexpr qsizetype LongestStem = 180; // bytes: file names end at 255, and the time and a number follow
+constexpr qsizetype LongestStem = 180; // bytes: file names are limited to 255, and the time and a number follow
 constexpr int MostCopiesInASecond = 100;
 const QString TimeOfCopy = QStringLiteral("yyyy-MM-dd HH.mm.ss");
 constexpr qint64 WrittenWithinSeconds = 60; ///< of the time in its name
 
-/// A file name without its extension, as every file system takes it.
+/// A file name without its extension, valid on every file system.
 QString stemOf(const QString &fileName)
 {
     QString name = QFileInfo(fileName).completeBaseName();
@@ -37,7 +37,7 @@ QString stemOf(const QString &fileName)
     return name.isEmpty() ? QStringLiteral("Claim") : name;
 }
 
-/// Creates a file that was not there before; false where it can't be. Two copies of one second get numbers.
+/// Creates a new file; false if that fails. Copies made in the same second are numbered.
 bool createNew(QFile &file, const QString &withoutExtension, const QString &extension)
 {
     for (int number = 1; number <= MostCopiesInASecond; ++number) {
@@ -49,7 +49,7 @@ bool createNew(QFile &file, const QString &withoutExtension, const QString &exte
     return false;
 }
 
-/// A copy's name, taken apart.
+/// The parts of a copy's name.
 struct clsCopyName {
     QString stem;
     QDateTime time;
@@ -75,7 +75,7 @@ struct clsOlderCopy {
     clsCopyName name;
 };
 
-/// The copies of one claim, but for the latest, that are as they were written; the newest first.
+/// The unchanged copies of one claim except the latest, newest first.
 std::vector<clsOlderCopy> olderCopies(const QFileInfo &latest)
 {
     std::vector<clsOlderCopy> copies;
@@ -98,7 +98,7 @@ std::vector<clsOlderCopy> olderCopies(const QFileInfo &latest)
 
 QString WriteDatedCopy(const QString &folder, const QByteArray &bytes, const QString &fileName)
 {
-    // A claim's copy is a claim, whatever its file was called.
+    // The copy of a claim always gets a claim's extension.
     const QString extension = fileName.isEmpty() ? QStringLiteral(".zr3") : u'.' + QFileInfo(fileName).suffix();
     const QString name
         = stemOf(fileName.isEmpty() ? Document().copyName() : fileName) + u' ' + Now().toString(TimeOfCopy);
@@ -122,6 +122,6 @@ void KeepNewestCopies(const QString &latest, qsizetype most) noexcept
         for (size_t place = size_t(qMax(qsizetype(0), most - 1)); place < copies.size(); ++place)
             QFile::remove(copies[place].path);
     } catch (...) {
-        // What can't be looked at stays.
+        // A copy that can't be examined is kept.
     }
 }

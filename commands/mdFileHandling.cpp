@@ -29,9 +29,9 @@ const QString DefaultExtension = QStringLiteral(".zr3");
 
 constexpr int FileIsNewer = 2;
 
-constexpr qsizetype MostSetAside = 10; ///< of one claim's name
+constexpr qsizetype MostSetAside = 10; ///< of files with the same name
 
-// The window shows what the commands do, and stands above them.
+// The commands change the window, which is on a higher floor.
 clsFormDisplay formDisplay;
 
 void run(const std::function<void()> &action)
@@ -64,29 +64,29 @@ void warnOfNewerVersion(const QString &fileVersion)
         QStringLiteral("Version Error"));
 }
 
-/// Loads the file into the current claim, and begins a new one where it is none; true when it was loaded.
+/// Loads the file into the current claim; if it is not a claim, starts a new one and returns false.
 bool loadForm(const QString &path)
 {
     if (!Form->LoadXML(path)) {
         NewForm(true);
         return false;
     }
-    // New elements that an older file got by being loaded count as clean.
+    // Elements that loading adds to an older file count as clean.
     Document().takeAsClean();
     if (CompareVersions(Form->Version(), GetVersionInfo()) == FileIsNewer)
         warnOfNewerVersion(Form->Version());
     return true;
 }
 
-/// Keeps what another program has put into the claim's file since this one read or saved it: the save that follows
-/// writes over it. Whether that could be done; nothing where there was nothing to keep.
+/// Sets aside what another program wrote to the claim's file since this one read or saved it, because the coming save
+/// overwrites it. Returns whether that succeeded; nothing if there was nothing to keep.
 std::optional<bool> setOtherContentAside()
 {
     if (!Document().changedOnDisk())
         return {};
     try {
         const QByteArray bytes = FileSystem().ReadFile(Document().filePath());
-        // It could not be read a moment ago, and is the known one after all.
+        // The file could not be read a moment ago, but has the known content.
         if (clsFileWatch::markOf(bytes) == Document().onDisk.mark())
             return {};
         if (!MakeStateFolder())
@@ -107,10 +107,10 @@ void leaveClaim()
     NotStored().leaveClaim();
 }
 
-/// Sets work aside that counts as saved and would be lost, and tells the user. False where no place took it.
+/// Sets aside work that counts as saved but would be lost, and tells the user. False if no folder accepted it.
 bool setAside()
 {
-    // A claim that still counts as changed has been given up by the user.
+    // The user has already chosen not to save a claim that still counts as changed.
     if (FormIsDirty())
         return true;
     const clsRecoveredCopy copy = WriteRecoveredCopy();
@@ -163,16 +163,16 @@ bool SaveForm(bool saveAs)
     clsZR3Form &form = existing(Form);
     if ((form.path.isEmpty() || saveAs) && !SaveFormDialog())
         return false;
-    // Before the text is written, so that it is part of it.
+    // Set before the text is written, so that the text contains it.
     form.Version = GetVersionInfo();
     const std::optional<bool> keptOther = setOtherContentAside();
-    // Where the end comes in the midst of the save, the journal must not be the older of the two.
+    // If the program ends during the save, the journal must not be older than the file.
     Journal().flush();
     int failure = 0;
     const bool written = form.SaveXML(Document().filePath(), &failure);
     Document().lastSave = written ? clsDocument::clsSaved::Written : clsDocument::clsSaved::Failed;
-    // Also after a write that failed. That is meant: its box has told the user, and the old content lies beside the
-    // file.
+    // Also after a failed write: its box has told the user, and the old content is kept beside the file. Required
+    // behaviour; do not fix.
     Document().takeAsClean();
     if (written)
         Document().onDisk.wasWritten(Document().filePath(), mdToCodePage(CleanXML));
@@ -204,7 +204,7 @@ bool ConfirmOverwrite(const QString &path)
         if (!FileSystem().FileExists(path))
             return true;
     } catch (const clsRunTimeError &) {
-        // What keeps the program from looking keeps it from writing too, and the write tells the user why.
+        // The write will fail for the same reason, and will tell the user.
         return true;
     }
     return mdCustomMessages(QStringLiteral("The chosen file path already exists. Would you like to overwrite it?"),
@@ -244,7 +244,7 @@ QString ChooseClaim()
 
 void OpenFormDialog(bool clearPath)
 {
-    // Before the dialog: whoever then cancels it has been asked already, and keeps his claim with its changes.
+    // Before the dialog: a user who cancels it has already been asked, and keeps the claim with its changes.
     if (!ConfirmDrop())
         return;
     const QString path = ChooseClaim();
@@ -260,12 +260,12 @@ void OpenFormDialog(bool clearPath)
 
 void OpenFormFile(const QString &path)
 {
-    // A tick of the stopwatch would write the time of the claim before into this one.
+    // A stopwatch tick would write the old claim's time into this one.
     run(formDisplay.stopTimer);
-    // Before the claim counts as being opened: the journal of one whose save failed takes its last changes along.
+    // Before `opening` is set: if a save failed, the journal still takes the claim's last changes.
     leaveClaim();
     const QScopedValueRollback<bool> reading(Document().opening, true);
-    // The claim before is gone from here on, also where the load fails, and its clean text with it.
+    // From here on the old claim and its clean text are gone, even if the load fails.
     Document().replaceForm();
     Document().takeAsClean();
     const std::optional<clsFileStamp> before = FileStamp(path);
@@ -273,12 +273,12 @@ void OpenFormFile(const QString &path)
         if (!loadForm(path))
             return;
     } catch (...) {
-        // The failure goes on to the top. Nothing of the user's is in a claim that was never opened.
+        // Passed on to the top level. A claim that was never opened holds none of the user's work.
         Document().takeAsClean();
         throw;
     }
-    // After the clean text was taken: a path that differs from the one in the file counts as a change. A copy or a
-    // backup thus asks to be saved where it lies now.
+    // After the clean text was taken: a path that differs from the one in the file counts as a change, so a copy or
+    // backup asks to be saved in its present place.
     Document().givePath(path);
     Document().onDisk.wasRead(path, before);
     NotStored().openClaim(path);
@@ -287,17 +287,17 @@ void OpenFormFile(const QString &path)
 bool OpenFormText(const QByteArray &bytes, const QString &path, const QByteArray &known)
 {
     run(formDisplay.stopTimer);
-    // The open claim stays until this one is whole.
+    // The open claim stays until the new one is complete.
     auto form = std::make_unique<clsZR3Form>();
     if (!form->LoadText(mdUtf8FromCodePage(bytes)))
         return false;
-    // Before the claim counts as being opened: the journal of one whose save failed takes its last changes along.
+    // Before `opening` is set: if a save failed, the journal still takes the claim's last changes.
     leaveClaim();
     const QScopedValueRollback<bool> reading(Document().opening, true);
     Document().replaceForm();
     Form = std::move(form);
     Document().givePath(path);
-    // Nothing of it counts as saved.
+    // Nothing in it counts as saved.
     CleanXML.clear();
     Document().onDisk.wasKnown(path, known);
     if (!path.isEmpty())

@@ -18,7 +18,7 @@ namespace {
 const QString FileName = QStringLiteral("Firm.csv");
 const QString AsideName = QStringLiteral("Firm.csv.broken");
 
-/// Quietly: the preferences lie in the same folder, and have told of one that is missing.
+/// Doesn't report a missing folder: the preferences are in the same folder and have reported it.
 QString pathOf(const QString &name)
 {
     return StoredDatabasePath() + u'/' + name;
@@ -33,7 +33,7 @@ std::unique_ptr<clsFirm> emptyFirm()
     return firm;
 }
 
-/// Keeps a file that can't be understood beside its place, so that it can be put right. One line tells why.
+/// Renames a file with invalid content so that it can be repaired, and tells the user why in one line.
 void setAside(const QString &reason)
 {
     try {
@@ -45,7 +45,7 @@ void setAside(const QString &reason)
     }
 }
 
-/// The firm in the file; the error of the file system where it can't be read.
+/// The firm in the file; raises the file system's error if it can't be read.
 std::unique_ptr<clsFirm> readFile()
 {
     auto firm = emptyFirm();
@@ -60,7 +60,8 @@ std::unique_ptr<clsFirm> readFile()
     return firm;
 }
 
-/// Keeps another user's content that this one has not seen; whether there was any. The error where it can't be kept.
+/// Sets aside another user's content that this program hasn't read; false if there was none. Raises an error on
+/// failure.
 bool keepOthers(const QByteArray &known)
 {
     if (!mdHasFirm())
@@ -83,7 +84,8 @@ void tellSaved(bool keptOthers, bool fillsNewClaims)
         UserInterface().tellLine(QStringLiteral("Saved. New claims are not filled with these"));
 }
 
-/// In one step, so that nobody ever reads half of it. Whoever can read the preferences can read the new file.
+/// Renamed into place, so that no reader sees a half-written file. The new file has the permissions of the old one, or
+/// of the preferences.
 void replaceFile(const QByteArray &bytes)
 {
     const QString path = pathOf(FileName);

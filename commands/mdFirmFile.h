@@ -4,20 +4,19 @@
 
 struct clsFirm;
 
-// The firm's file in the database folder, for all users of the folder.
+// The firm's file in the database folder, shared by all users of that folder.
 
-/// Whether there is a file, of whatever content.
+/// Whether there is such a file, whatever its content.
 bool mdHasFirm();
 
-/// The firm as it is kept, or one without people that has the VAT of a new claim. A file that can't be understood is
-/// set aside and told in one line. Nothing where the file can't be read at all, which is told in a box: what was put
-/// into its place would lose it.
+/// The firm in the file, or an empty one with the VAT of a new claim. A file with invalid content is set aside and
+/// reported in one line. Null, after a box, if the file can't be read at all: saving a new firm would then overwrite
+/// it.
 std::unique_ptr<clsFirm> mdReadFirm();
 
-/// Keeps the firm; false, after a box, where it can't be kept. What another user has put into the file since it was
-/// read is set aside, and told.
+/// Saves the firm; false, after a box, if that fails. If another user changed the file since it was read, their version
+/// is set aside and the user is told.
 bool mdWriteFirm(clsFirm &firm);
 
-/// The firm that new claims are filled from; nothing where the user doesn't want that. What is wrong with the file is
-/// told in one line.
+/// The firm that fills new claims; null if the user doesn't want that. A fault in the file is reported in one line.
 std::unique_ptr<clsFirm> mdFirmForNewClaims();

@@ -16,6 +16,6 @@ bool mdFirmIsToBeOffered()
 
 void mdFirmOfferAnswered()
 {
-    // Where it can't be kept, the next start asks again.
+    // If this fails, the next start offers it again.
     mdWriteStateFile(FileName, QByteArrayLiteral("yes\n"));
 }

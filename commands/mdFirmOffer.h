@@ -1,7 +1,7 @@
 #pragma once
 
-/// Whether the user is to be told that there is "Firm and Team": until it is used or the offer is put away.
+/// Whether to tell the user about "Firm and Team": until it is used or the offer is dismissed.
 bool mdFirmIsToBeOffered();
 
-/// The user has used it, or doesn't want to hear of it again.
+/// The user has used it or dismissed the offer.
 void mdFirmOfferAnswered();

@@ -14,17 +14,17 @@
 
 namespace {
 
-/// What a row is of.
+/// The kinds of rows.
 enum clsKind { Firm, Group, FeeEarner, Counsel, Kinds };
 
 constexpr const char *KindNames[Kinds] = {"Firm", "Group", "Fee Earner", "Counsel"};
 
-/// A column, and the property that it holds of each kind; null where a kind has no such property.
+/// A column and its property in each kind of row; null if that kind has none.
 struct clsColumn {
     const char *name;
     const char *properties[Kinds];
     clsCellKind kind = clsCellKind::Text;
-    bool isRequired = false; ///< where it is of a group, a fee earner or a counsel
+    bool isRequired = false; ///< in rows of groups, fee earners and counsel
 };
 
 // clang-format off
@@ -51,11 +51,11 @@ constexpr clsColumn Columns[] = {
 };
 // clang-format on
 
-// What stands in no property as it is.
+// Columns that aren't plain properties.
 constexpr char KindColumn[] = "Kind";
 constexpr char FillColumn[] = "Fill New Claims"; ///< of the firm
 constexpr char GroupColumn[] = "Group"; ///< of a fee earner: the group's reference
-constexpr char NumberColumn[] = "Group Number"; ///< its place among the groups, where the reference alone doesn't tell
+constexpr char NumberColumn[] = "Group Number"; ///< the group's place in its list, if its reference is not unique
 
 QString latin(const char *text)
 {
@@ -75,7 +75,7 @@ const clsXMLField *fieldOf(const clsXMLRecord &record, const char *property)
     return property ? record.field(latin(property)) : nullptr;
 }
 
-/// The field of a row. The firm's stand in the solicitor's details and in the claim itself.
+/// A field of the firm's row, from the solicitor's details or from the claim itself.
 const clsXMLField *firmField(const clsZR3Form &form, const char *property)
 {
     const clsXMLField *field = fieldOf(form.SolicitorDetails, property);
@@ -91,7 +91,7 @@ QString cellOf(const clsColumn &column, const clsXMLField *field)
     return field->readBoolean() ? QStringLiteral("Yes") : QStringLiteral("No");
 }
 
-/// Makes the table, row by row.
+/// Builds the table row by row.
 class clsWriter {
 public:
     explicit clsWriter(const clsFirm &firm)
@@ -154,7 +154,7 @@ private:
     clsTable m_table;
 };
 
-/// Takes the rows of a table up. What can't be read ends it.
+/// Reads the rows of a table, up to the first that is invalid.
 class clsReader {
 public:
     explicit clsReader(clsFirm &firm)
@@ -169,7 +169,7 @@ public:
             return QStringLiteral(": ") + table.Error;
         if (!takeHeader(table))
             return m_trouble;
-        // The groups first, wherever they stand, since the fee earners name them.
+        // Groups first, wherever they are in the table: fee earners refer to them.
         for (const bool isGroup : {true, false})
             for (size_t i = 1; i < table.Rows.size(); ++i)
                 if ((kindOf(table.Rows[i]) == Group) == isGroup && !takeRow(table.Rows[i]))
@@ -178,7 +178,7 @@ public:
     }
 
 private:
-    /// Spreadsheets part the cells as their country does.
+    /// Which separator a spreadsheet writes depends on its locale.
     static clsTextTable tableOf(const QString &text)
     {
         for (const char separator : {',', ';', '\t'}) {
@@ -283,7 +283,7 @@ private:
         const bool isEmpty = text.trimmed().isEmpty();
         if (isEmpty && column.isRequired && kind != Firm)
             return stop(QStringLiteral("there is no %1").arg(latin(column.name).toLower()));
-        // What is left out keeps what a new item has, and the firm what a new claim has.
+        // An empty cell keeps the default of a new item, and in the firm's row that of a new claim.
         if (isEmpty)
             return true;
         const clsImportedCell cell = m_cells.read(column.kind, text);

@@ -17,7 +17,7 @@
 
 namespace {
 
-// "Velmor ZR3 journal 1", the size of the head and of the claim, and the mark of both; then both.
+// "Velmor ZR3 journal 1", the sizes of the head and of the claim, and the mark of both; then both.
 constexpr char Begin[] = "Velmor ZR3 journal 1";
 constexpr qsizetype LongestFirstLine = 200;
 

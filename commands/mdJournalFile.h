@@ -9,14 +9,14 @@
 #include <optional>
 #include <vector>
 
-// A journal: the recovery copy of a claim that has changes, as one file.
+// A journal: the recovery copy of a changed claim in one file.
 
-/// What a journal holds beside the claim.
+/// What a journal holds besides the claim.
 struct clsJournalHead {
-    QString claim; ///< the claim's path; empty where it was never saved
-    QByteArray known; ///< what stands for the content of that file when this program last read or wrote it
-    QDateTime changed; ///< when the last change was made
-    qint64 process = 0; ///< whose it is, and on which machine
+    QString claim; ///< the claim's path; empty if it was never saved
+    QByteArray known; ///< the mark of that file's content when this program last read or wrote it
+    QDateTime changed; ///< time of the last change
+    qint64 process = 0; ///< the process that keeps it, and its machine
     QString machine;
     std::vector<clsTypedTexts> typed;
 };
@@ -26,23 +26,23 @@ struct clsJournalContents {
     QByteArray claim; ///< the bytes of the claim's file
 };
 
-/// The head of a journal of this process, now.
+/// A journal head for this process at the present time.
 clsJournalHead NewJournalHead();
 
 /// The bytes of a journal.
 QByteArray JournalBytes(const clsJournalHead &head, const QByteArray &claim);
-/// What stands in the bytes; nothing where they are no whole journal.
+/// The contents of a journal; nothing if the bytes are not a complete one.
 std::optional<clsJournalContents> ReadJournal(const QByteArray &bytes);
 
-/// The folder of the journals, in the state folder.
+/// The folder for journals, in the state folder.
 QString JournalFolder();
-/// Makes it where it is missing; false where it isn't this user's alone then.
+/// Creates the folder if it is missing; false if it doesn't then belong to this user only.
 bool MakeJournalFolder();
-/// The end of a journal's name, and of the names of the files beside it.
+/// The extension of a journal; the files beside it have it in their names.
 inline constexpr char JournalEnd[] = ".journal";
-/// The file that is held while the journal's program runs.
+/// The lock file that is held while the journal's program runs.
 QString JournalLock(const QString &journal);
-/// Puts a journal in the place of the one before, which stays where that fails. A failure is an error.
+/// Replaces a journal. On failure raises an error and leaves the old one.
 void WriteJournal(const QString &journal, const QByteArray &bytes);
-/// Takes a journal and what lies beside it away; never fails.
+/// Deletes a journal and the files that belong to it; never fails.
 void RemoveJournal(const QString &journal);

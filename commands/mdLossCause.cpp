@@ -23,7 +23,7 @@ bool holds(const QString &path, const QByteArray &bytes)
     }
 }
 
-/// Whether the claim's file has this content, or another one beside it, under a name that the file was given since.
+/// Whether the claim's file has this content, or another claim in its folder, in case the file was renamed.
 bool isOnDisk(const QByteArray &bytes)
 {
     const QString path = Document().filePath();
@@ -37,8 +37,8 @@ bool isOnDisk(const QByteArray &bytes)
         [&](const QFileInfo &file) { return file.size() == bytes.size() && holds(file.filePath(), bytes); });
 }
 
-/// A claim's text without the path that it holds, which counts as a change where a claim lies elsewhere than it was
-/// saved, and is no work of the user's.
+/// A claim's text without its path. A claim opened from another folder counts as changed by its path, but that is not
+/// the user's work.
 struct clsAroundPath {
     explicit clsAroundPath(const QString &text)
     {
@@ -85,7 +85,7 @@ clsLossCause FormLossCause() noexcept
     try {
         return Document().opening || !Form ? clsLossCause::None : lossCause();
     } catch (...) {
-        // A claim that can't even be compared is not known to be safe.
+        // If the comparison fails, assume that there are unsaved changes.
         return clsLossCause::UnsavedChanges;
     }
 }

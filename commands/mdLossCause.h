@@ -4,11 +4,11 @@
 
 #include <QString>
 
-/// Why the end of the program would lose work: the claim has changes, or it counts as saved and its last save did not
-/// get through, or its file is no longer what was saved. None where a file of its folder has the very same content, and
-/// while a claim is still being opened. Shows nothing and never fails.
+/// Why work would be lost if the program ended now: the claim has changes, or it counts as saved but its last save
+/// failed or its file has changed since. None if a file in the claim's folder has the same content, and while a claim
+/// is being opened. Shows nothing and never fails.
 clsLossCause FormLossCause() noexcept;
 
-/// Whether the claim's text, as given, has work in it that the clean one lacks. The path that a claim holds is none, as
-/// of a copy that was opened where it lies.
+/// Whether a text of the claim has work that the clean text lacks. A changed path alone is not work: a copy opened from
+/// another folder has one.
 bool HoldsUnsavedWork(const QString &text);

@@ -20,7 +20,7 @@ bool isClaim(clsZR3Form &form, const QByteArray &text)
     }
 }
 
-/// Reads the claim at a path; false after one message.
+/// Reads the claim at a path; false after a message.
 bool readClaim(clsZR3Form &form, const QString &path)
 {
     int failure = 0;

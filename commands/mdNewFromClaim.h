@@ -1,5 +1,5 @@
 #pragma once
 
-/// Asks for a claim, after the save question, and begins a new one with its firm, groups, fee earners, counsel and
-/// enhancements and on its form. Where that is no claim or can't be read, the user is told and the open one stays.
+/// Asks for a claim, after the save question, and starts a new one of the same form with its firm, groups, fee earners,
+/// counsel and enhancements. If the file is not a claim or can't be read, the user is told and the open claim stays.
 void NewFromClaimDialog();

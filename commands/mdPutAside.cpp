@@ -49,7 +49,7 @@ bool mdKeepPutAside(const QString &claim, const QSet<QString> &keys)
 {
     if (claim.isEmpty())
         return false;
-    // Read anew: another window may have kept something of another claim since.
+    // Read again: another window may have changed the entry of another claim meanwhile.
     QJsonObject all = claims().value_or(QJsonObject());
     QStringList sorted(keys.begin(), keys.end());
     std::sort(sorted.begin(), sorted.end());

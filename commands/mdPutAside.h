@@ -3,14 +3,14 @@
 #include <QSet>
 #include <QString>
 
-/// The findings of a claim that the user has called no mistake, by their keys.
+/// The keys of a claim's findings that the user has dismissed.
 struct clsPutAside {
     QSet<QString> keys {};
-    bool wasBroken = false; ///< the file could not be understood, and has been set aside
+    bool wasBroken = false; ///< the file was invalid and has been set aside
 };
 
-/// What is kept for a claim, by its path; nothing for one without a path.
+/// The keys kept for a claim, by its path; none for a claim without a path.
 clsPutAside mdReadPutAside(const QString &claim);
 
-/// Keeps the keys for a claim in the place of those before; false where they can't be kept.
+/// Replaces the keys kept for a claim; false on failure.
 bool mdKeepPutAside(const QString &claim, const QSet<QString> &keys);

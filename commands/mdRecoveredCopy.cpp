@@ -23,10 +23,10 @@ bool lastCopyHolds(const QByteArray &bytes)
     }
 }
 
-/// Writes the copy to the first place that takes it.
+/// Writes the copy to the first folder that accepts it.
 void writeNew(clsRecoveredCopy &copy, const QByteArray &bytes)
 {
-    // The database folder may have gone, or belong to others: the user's last copy must not depend on it.
+    // The database folder may be missing or belong to others; the last copy must not depend on it.
     for (const QString &parent : {StoredDatabasePath(), StateFolder()}) {
         const QString folder = parent + QStringLiteral("/Recovered");
         if (parent != StateFolder() || MakeStateFolder())
@@ -44,7 +44,7 @@ clsRecoveredCopy writeCopy()
     if (copy.cause == clsLossCause::None)
         return copy;
     const QByteArray bytes = mdToCodePage(Form->XMLOutput());
-    // A desktop that ends its session asks more than once.
+    // A desktop that ends its session may ask more than once.
     if (lastCopyHolds(bytes)) {
         copy.path = Document().lastCopy.path;
         return copy;

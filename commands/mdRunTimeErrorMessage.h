@@ -3,9 +3,9 @@
 #include "base/clsRunTimeError.h"
 #include "commands/clsRecoveredCopy.h"
 
-/// What became of the work that was not saved, as the user is told; empty where there was nothing to write.
+/// Tells the user what happened to the unsaved work; empty if there was nothing to write.
 QString mdRecoveredCopyMessage(const clsRecoveredCopy &copy);
 
-/// The text of the box that an error shows when nothing has caught it: its number, its description, its cause where
-/// that is known, and what became of the work that was not saved.
+/// The text of the box for an uncaught error: its number, its description, its cause if known, and what happened to the
+/// unsaved work.
 QString mdRunTimeErrorMessage(const clsRunTimeError &error, const clsRecoveredCopy &copy);

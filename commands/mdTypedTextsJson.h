@@ -4,6 +4,6 @@
 
 #include <QJsonObject>
 
-/// What is typed in a screen, as it is kept in the files of the state folder.
+/// The text typed in a screen, in the format of the files in the state folder.
 QJsonObject TypedTextsObject(const clsTypedTexts &texts);
 clsTypedTexts TypedTextsOf(const QJsonObject &object);

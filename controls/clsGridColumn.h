@@ -10,15 +10,15 @@
 class clsXMLRecord;
 class clsZR3Item;
 
-/// The room that a column has. Those that share it do so by their per cents; what is added behind them has room of its
-/// own, and goes where that is missing.
+/// How a column gets its width. `Share` columns divide the width by their percentages; columns added after them need a
+/// fixed width and are hidden if there is no room.
 enum class clsGridRoom : unsigned char {
     Share,
-    Rest, ///< what the others leave; the first to go
-    Amount, ///< as much as an amount needs
+    Rest, ///< what the others leave; hidden first
+    Amount, ///< as wide as an amount
 };
 
-/// Gives an item's text in a column that shows none of its properties, or raises the error why there is none.
+/// Returns an item's text for a column that shows no property, or raises the error why there is none.
 using clsGridTexts = std::function<QString(const clsZR3Item &)>;
 
 /// A column of an `oSGrid`: its heading and the property of the items that it shows. Declarations give the first five
@@ -39,9 +39,9 @@ struct clsGridColumn {
     const clsXMLRecord *helper = nullptr; ///< provides the argument of a property that takes one; outlives the column
     QString helperProperty {}; ///< the helper's property with that argument; empty for a plain property
     bool forceUnderline = false;
-    QString faultOf {}; ///< the property whose fault the column shows, where it isn't its own
+    QString faultOf {}; ///< the property whose fault the column shows, if not its own
     clsGridRoom room = clsGridRoom::Share;
-    /// Instead of a property: asked at each fill, for what all of its rows are then read with.
+    /// Instead of a property: called at each fill; the returned function then reads all rows.
     std::function<clsGridTexts()> texts {};
 
     /// Columns without a width carry values too, but are not seen.

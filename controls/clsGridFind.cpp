@@ -6,7 +6,7 @@
 
 namespace {
 
-/// A tick or a cross is no word.
+/// Ticks and crosses are not searched.
 bool hasWords(const clsGridCell &cell)
 {
     return cell.kind == clsGridCell::Text || cell.kind == clsGridCell::Wrong;

@@ -7,25 +7,25 @@
 
 class clsGridModel;
 
-/// What is looked for in a grid: words, and the rows that hold all of them, each word in any of the columns that are
-/// seen. Nothing is hidden and no row moves. Rows count from 0.
+/// A search in a grid: words, and the rows that contain all of them, each word in any visible column. Hides and moves
+/// no rows. Rows count from 0.
 class clsGridFind : public QObject {
     Q_OBJECT
 
 public:
     clsGridFind(const clsGridModel &model, QObject *parent);
 
-    /// Words stand between blanks, and their case doesn't matter. An empty text looks for nothing.
+    /// Sets the words, separated by blanks; case is ignored. An empty text searches for nothing.
     void setText(const QString &text);
     const QStringList &Words() const { return m_words; }
 
     int Hits() const { return int(m_hits.size()); }
-    /// A row's number among the hits, from 1, and 0 for a row that is none.
+    /// A row's number among the hits, from 1; 0 for other rows.
     int HitOf(int row) const;
-    /// The hit behind a row, or before it, from one end of the list on to the other; -1 where there is none.
+    /// The hit after or before a row, continuing at the other end of the list; -1 if there is none.
     int NextOf(int row) const;
     int PreviousOf(int row) const;
-    /// A row that holds none of it, while others do.
+    /// Whether a row is drawn pale: it is no hit, but other rows are.
     bool StepsBack(int row) const { return !m_hits.empty() && HitOf(row) == 0; }
 
 signals:

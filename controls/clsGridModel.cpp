@@ -131,7 +131,7 @@ std::vector<clsGridModel::Row> clsGridModel::readRows(const clsGridItems &items)
         const clsGridFaults faults = faultsOf(*item);
         for (size_t column = 0; column < m_columns.size(); ++column)
             row.cells.push_back(readCell(*item, m_columns[column], texts[column], faults));
-        // What no column shows is told in the first, before what stands there: that may be the item's name.
+        // For a fault that no column shows, the first visible cell gets the mark before its text, such as a name.
         if (clsGridCell &first = row.cells[size_t(firstShownColumn())];
             first.kind != clsGridCell::Wrong && !whyRow(faults).isEmpty())
             first = {WrongMark + u' ' + first.text, clsGridCell::Wrong};

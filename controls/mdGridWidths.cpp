@@ -8,7 +8,7 @@
 
 namespace {
 
-/// What an amount has room for, and the fewest characters that are worth a column of texts.
+/// The text that an amount column must hold, and the minimum number of characters for a text column.
 const QString WidestAmount = QStringLiteral("999,999.99");
 constexpr int FewestCharacters = 16;
 
@@ -22,7 +22,7 @@ int headingWidth(const clsGridColumn &column)
     return withMargins(QFontMetrics(mdGridHeadingFont()).horizontalAdvance(column.caption));
 }
 
-/// What the columns that share the room need of it, so that no heading is cut.
+/// The minimum width of the `Share` columns, so that no heading is cut off.
 int leastOfShares(const std::vector<clsGridColumn> &columns)
 {
     int least = 0;
@@ -40,7 +40,7 @@ int leastOf(const clsGridColumn &column)
     return std::max(withMargins(content), headingWidth(column));
 }
 
-/// The room of the added columns of a kind; 0 where there is too little for them.
+/// The width of the added columns of a kind; 0 if there is too little room for them.
 int roomOf(const std::vector<clsGridColumn> &columns, clsGridRoom kind, int room)
 {
     int width = 0;
@@ -57,7 +57,7 @@ std::vector<int> mdGridWidths(const std::vector<clsGridColumn> &columns, int roo
     const int least = leastOfShares(columns);
     const int amounts = roomOf(columns, clsGridRoom::Amount, room - least);
     const int rest = amounts > 0 ? roomOf(columns, clsGridRoom::Rest, room - least - amounts) : 0;
-    // Beside a column of texts the others take no more than half of a wide grid.
+    // If there is a text column, the `Share` columns get at most half of a wide grid.
     const int shared = rest > 0 ? std::max(least, std::min(room / 2, room - amounts - rest)) : room - amounts;
     std::vector<int> widths;
     for (const clsGridColumn &column : columns) {

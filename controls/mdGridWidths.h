@@ -4,5 +4,5 @@
 
 #include <vector>
 
-/// The widths of the columns of a grid that has so much room for them; 0 for those that have no place in it.
+/// The widths of a grid's columns for an available width; 0 for those without room.
 std::vector<int> mdGridWidths(const std::vector<clsGridColumn> &columns, int room);

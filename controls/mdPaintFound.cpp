@@ -11,10 +11,10 @@ namespace {
 
 constexpr int LineBelow = 2;
 constexpr int LineHeight = 2;
-/// Where the beginning isn't shown: at least so many characters before the word, as far as there are.
+/// If the beginning isn't shown, at least this many characters before the word, as far as available.
 constexpr qsizetype WordsBefore = 8;
 
-/// A stretch of the text that is drawn in one go.
+/// A part of the text drawn in one font.
 struct clsPiece {
     QString text;
     bool found;
@@ -79,7 +79,7 @@ void mdPaintFound(QPainter &painter, const QRect &place, Qt::Alignment alignment
         return width;
     };
     std::vector<clsPiece> pieces = piecesOf(text, words);
-    // What semibold takes more is taken from the room of the text.
+    // The additional width of the semibold text reduces the room for the text.
     const int more = std::max(0, widthOf(pieces) - plainMetrics.horizontalAdvance(text));
     if (widthOf(pieces) > place.width())
         pieces = piecesOf(mdShownPart(text, words, plainMetrics, place.width() - more), words);

@@ -15,12 +15,12 @@ bool mdTakeRowKey(QAbstractButton &button, QKeyEvent &event, const std::function
     case Qt::Key_End: move(toTheEnd); return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        // A key held down opens its screen once.
+        // A held key opens the screen only once.
         if (!event.isAutoRepeat())
             button.click();
         return true;
     case Qt::Key_Up:
-    case Qt::Key_Down: event.ignore(); return true; // the base would walk to whatever lies above or below
+    case Qt::Key_Down: event.ignore(); return true; // the base class would move to the nearest button above or below
     default: return false;
     }
 }

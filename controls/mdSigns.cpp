@@ -89,7 +89,7 @@ void mdPaintDot(QPainter &painter, const QRectF &square, Dot dot)
     case Dot::Warnings:
     case Dot::Errors: {
         painter.setBrush(dot == Dot::Errors ? Theme::Red : Theme::Amber);
-        // Its corners stand out a little, so that it looks no smaller than a disc.
+        // The corners extend a little beyond the square, so that it doesn't look smaller than a disc.
         const double half = square.width() / 2 + 1;
         painter.drawPolygon(QPolygonF({middle - QPointF(0, half), middle + QPointF(half, 0), middle + QPointF(0, half),
             middle - QPointF(half, 0)}));

@@ -14,7 +14,7 @@ void mdPaintSign(QPainter &painter, const QRectF &rectangle, Sign sign);
 /// The sign as a picture for a label on a screen of that scale.
 QPixmap mdSignPixmap(Sign sign, int side, double scale);
 
-/// How a section stands, as a dot: a ring, a disc, and two diamonds.
+/// A section's state as a dot: a ring, a disc, and two diamonds.
 enum class Dot { Empty, Begun, Warnings, Errors };
 
 /// Draws the dot to fill the square.

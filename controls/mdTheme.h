@@ -27,7 +27,7 @@ inline constexpr QColor Stripe        {250, 250, 250}; ///< every second column 
 inline constexpr QColor Ink           {0x23, 0x1F, 0x26}; ///< text
 inline constexpr QColor Ink2          {0x5B, 0x55, 0x62}; ///< secondary text, headings of columns
 inline constexpr QColor Ink3          {0x8A, 0x84, 0x91}; ///< disabled text, the cross in a grid
-inline constexpr QColor SteppedBack   {0x74, 0x6E, 0x7B}; ///< rows that don't hold the words looked for
+inline constexpr QColor SteppedBack   {0x74, 0x6E, 0x7B}; ///< rows without the words searched for
 inline constexpr QColor Edge          {0x8F, 0x88, 0x96}; ///< border of boxes and buttons
 inline constexpr QColor EdgeOff       {0xCF, 0xCA, 0xD3}; ///< the same, disabled
 inline constexpr QColor Line          {0xDD, 0xD8, 0xE0}; ///< border of frames and bars

@@ -18,7 +18,7 @@ namespace {
 constexpr int Height = 30;
 constexpr int BoxWidth = 240;
 constexpr int StateWidth = 140;
-/// Narrower, the hint goes.
+/// The hint is hidden in a narrower line.
 constexpr int RoomForHint = 720;
 
 QLabel *label(const char *name, const QString &text, const QColor &colour, QWidget *parent)
@@ -51,7 +51,7 @@ oFindLine::oFindLine(oSGrid &grid, QWidget *parent)
     auto *close = new oCloseButton(QStringLiteral("Close Find"), this);
     close->setObjectName(QStringLiteral("cmdCloseFind"));
     auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, Theme::Space12 - Theme::RingRoom); // the buttons have the rest at their edge
+    row->setContentsMargins(0, 0, 0, Theme::Space12 - Theme::RingRoom); // the buttons' own edges add the rest
     row->setSpacing(Theme::Space12);
     row->addWidget(lblFind);
     row->addWidget(txtFind);
@@ -84,7 +84,7 @@ oCustomButton *oFindLine::addButton(const char *name, const char *caption, const
     button->setGlyph(isNext ? Glyph::ChevronDown : Glyph::ChevronUp);
     button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     button->setEnabled(false);
-    button->setAttribute(Qt::WA_LayoutUsesWidgetRect); // with the room of its ring, at the height of the box
+    button->setAttribute(Qt::WA_LayoutUsesWidgetRect); // includes the ring's margin, so that it is level with the box
     return button;
 }
 
@@ -116,7 +116,7 @@ void oFindLine::Close()
     txtFind->clear();
 }
 
-/// Goes to the first hit from the row on where the search began; without one the row stays.
+/// Selects the first hit at or after the row where the search started; if there is none, the row stays selected.
 void oFindLine::look()
 {
     m_find->setText(txtFind->text());

@@ -9,17 +9,17 @@ class oLineBox;
 class oSGrid;
 class QLabel;
 
-/// The line above a list in which words are looked for: rows that hold them keep their ink, the others step back, and
-/// Enter and Shift+Enter go from hit to hit. It takes no room while it is closed.
+/// The line above a list for finding words: rows that contain them keep their colour, the others become pale, and Enter
+/// and Shift+Enter move from hit to hit. It takes no space while closed.
 class oFindLine : public QWidget {
     Q_OBJECT
 
 public:
     oFindLine(oSGrid &grid, QWidget *parent);
 
-    /// Opens it, or goes back to it where it is open.
+    /// Opens the line, or returns the focus to it if it is open.
     void Open();
-    /// Closes it, and the list is as it was, but for the row.
+    /// Closes the line and restores the list's appearance; the selected row stays.
     void Close();
     /// "hit 2 of 3".
     QString State() const;
@@ -45,5 +45,5 @@ private:
     oCustomButton *cmdPrevious;
     oCustomButton *cmdNext;
     QLabel *lblHint;
-    int m_from = 0; ///< the row that the search goes on from while words are typed
+    int m_from = 0; ///< the row where the search starts while words are typed
 };

@@ -89,13 +89,13 @@ void oGridDelegate::paintBack(QPainter &painter, const QStyleOptionViewItem &opt
         painter.fillRect(option.rect, Theme::Selected);
         return;
     }
-    // The table knows of the cell under the mouse only; here it is the whole row.
+    // The table highlights only the cell under the mouse; here the whole row is highlighted.
     QStyleOptionViewItem row = option;
     row.state.setFlag(QStyle::State_MouseOver, index.row() == m_hoveredRow);
     mdPaintRow(painter, row, option.widget);
 }
 
-/// On the tint of a selected row the grey of rows that step back would be too pale.
+/// On the background of a selected row the usual pale grey would be too faint.
 QColor oGridDelegate::inkOf(const QStyleOptionViewItem &option, const QModelIndex &index, const QColor &usual) const
 {
     if (!(option.state & QStyle::State_Enabled))

@@ -20,9 +20,9 @@ public:
     void takeFonts(const std::vector<clsGridColumn> &columns);
     void setHoveredRow(int row) { m_hoveredRow = row; }
     int hoveredRow() const { return m_hoveredRow; }
-    /// Of several selected rows, the one that the keys act on has the bar; -1 where all have it.
+    /// Sets the row with the bar if several are selected: the one that the keys act on. -1 for all of them.
     void setKeyRow(int row) { m_keyRow = row; }
-    /// Lets what is looked for stand out, and the other rows step back.
+    /// Highlights the words of a search and draws the other rows pale.
     void setFind(const clsGridFind *find) { m_find = find; }
     /// Frames the cell with the focus.
     void setMarksCell(bool marksCell) { m_marksCell = marksCell; }

@@ -14,8 +14,8 @@ namespace {
 constexpr int FrameWidth = 2;
 constexpr int EmptyGlyphSize = 34;
 
-/// What marks nothing where Shift and Ctrl mark rows: dragging without a key, since a click that slips is no choice of
-/// rows, and moving on with Ctrl, since the row that is gone to would have no frame.
+/// Whether an event selects a single row even if Shift and Ctrl mark rows: dragging without a key, since a slipped
+/// click must not mark rows, and moving with Ctrl, since the new current row would have no frame.
 bool goesToOneRow(const QEvent &event)
 {
     if (event.type() == QEvent::MouseMove)
@@ -181,7 +181,7 @@ QItemSelectionModel::SelectionFlags oGridView::selectionCommand(const QModelInde
     return QTableView::selectionCommand(index, event);
 }
 
-/// The view would select all rows from the press to the pointer.
+/// The base class would select all rows from the press to the pointer.
 void oGridView::setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command)
 {
     const bool toOneRow = m_marksRows && !(command & QItemSelectionModel::Current);
@@ -277,7 +277,7 @@ QModelIndex oGridView::moveCursor(CursorAction action, Qt::KeyboardModifiers mod
     return QTableView::moveCursor(action, modifiers);
 }
 
-/// Ctrl on a marked row unmarks it: where that was the selected one, another takes its place.
+/// Ctrl on a marked row unmarks it; if it was the selected one, another becomes selected.
 void oGridView::mousePressEvent(QMouseEvent *event)
 {
     QTableView::mousePressEvent(event);

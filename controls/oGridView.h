@@ -7,8 +7,8 @@
 
 #include <vector>
 
-/// The table inside an `oSGrid`: whole rows are selected, keys and clicks are told to the grid in its own terms, and
-/// the frame shows where the focus is. It knows nothing of items and orders.
+/// The table inside an `oSGrid`: selects whole rows, passes keys and clicks to the grid in the grid's terms, and shows
+/// the focus by its frame. Knows nothing of items and orders.
 class oGridView : public QTableView {
     Q_OBJECT
 
@@ -25,11 +25,11 @@ public:
     /// Selects one row, or none for a row that doesn't exist. `column` becomes the column of the cell that Return acts
     /// on; -1 keeps the present one.
     void selectOnly(int row, int column = -1);
-    /// Lets Shift and Ctrl mark further rows beside the selected one, which is marked too and which alone the keys act
-    /// on.
+    /// Lets Shift and Ctrl mark more rows in addition to the selected one, which is also marked and which alone the
+    /// keys act on.
     void setMarksRows(bool marksRows);
     bool marksRows() const { return m_marksRows; }
-    /// Marks further rows.
+    /// Marks more rows.
     void alsoSelect(const std::vector<int> &rows);
     /// Frames, while the focus is here, the cell that Return acts on.
     void setMarksCell(bool marksCell);

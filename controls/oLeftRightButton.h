@@ -16,7 +16,7 @@ public:
     void setRightCaption(const QString &caption);
     QString RightCaption() const;
 
-    /// Where the buttons lead, for their tooltips and for screen readers; an empty text for nowhere.
+    /// Sets the buttons' targets for tooltips and screen readers; empty for none.
     void setLeftTarget(const QString &target);
     void setRightTarget(const QString &target);
 

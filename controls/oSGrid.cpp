@@ -81,7 +81,7 @@ void oSGrid::connectView()
     });
     connect(m_view, &oGridView::orderKeyPressed, this, [this](bool up) { moveSelectedRow(up ? -1 : 1); });
     connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this, &oSGrid::announceSelection);
-    // A marked row becomes the selected one by a click that changes no mark.
+    // A click that changes no mark makes a marked row the selected one.
     connect(m_view, &oGridView::pressed, this, &oSGrid::announceSelection);
     connect(m_arrows, &oOrderArrows::UpClick, this, &oSGrid::MoveUp);
     connect(m_arrows, &oOrderArrows::DownClick, this, &oSGrid::MoveDown);

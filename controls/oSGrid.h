@@ -26,15 +26,16 @@ public:
     void setOrderable(bool orderable);
     /// The room for the arrows to the right of the rows.
     int roomForArrows() const;
-    /// How far from the right edge of the rows the amounts of the last column end; 0 where no such column is shown.
+    /// The distance from the right edge of the rows to the end of the amounts in the last column; 0 if no such column
+    /// is visible.
     int roomBehindAmounts() const;
     /// The menu of the window that a right click on a row pops up, by its object name.
     const QString &PopupMenuName() const { return m_popupMenuName; }
     void setPopupMenuName(const QString &name) { m_popupMenuName = name; }
     bool MultiSelect() const;
     void setMultiSelect(bool multiSelect);
-    /// Lets Shift and Ctrl mark further rows beside the selected one, for what reads `SelectedItemCollection`. All else
-    /// keeps to the one selected row.
+    /// Lets Shift and Ctrl mark more rows in addition to the selected one, for users of `SelectedItemCollection`.
+    /// Everything else uses only the selected row.
     void setMarksRows(bool marksRows);
     /// The line in the middle of a grid without rows, and the picture above it.
     void setEmptyText(const QString &text);
@@ -80,7 +81,7 @@ public:
     void SelectRow(int row);
     /// Selects the row of the item with that `Index`, in its present position; does nothing if there is none.
     void SelectItem(int itemData);
-    /// Selects the row of an item, and marks those of others; items that the grid doesn't show are passed over.
+    /// Selects the row of an item and marks the rows of others; items not in the grid are skipped.
     void SelectItems(const clsZR3Item *item, const clsGridItems &others);
     /// The column of the cell that Return acts on, 0 when none is selected.
     int SelectedColumn() const;
@@ -101,7 +102,7 @@ signals:
     void MouseUp(Qt::MouseButton button, Qt::KeyboardModifiers shift, const QPoint &position);
     /// Another row is selected, or the selected row has another item; 0 and 0 for none.
     void SelectionChange(int itemData, int row);
-    /// Other rows are selected or marked.
+    /// The selected or marked rows have changed.
     void MarksChange();
     /// Comes before the grid does anything with the key, and nothing after it when `*doDefault` is set to false.
     void KeyDown(int keyCode, Qt::KeyboardModifiers shift, bool *doDefault);

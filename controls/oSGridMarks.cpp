@@ -3,7 +3,7 @@
 
 #include <set>
 
-// The rows that are marked beside the selected one.
+// The rows marked in addition to the selected one.
 
 void oSGrid::setMarksRows(bool marksRows)
 {

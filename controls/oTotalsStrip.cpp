@@ -24,7 +24,7 @@ constexpr int LineHeight = 26;
 struct oTotalsStrip::clsForm {
     oStripLimit::clsForm limit;
     bool hasOther; ///< in the place of several figures
-    int gone; ///< the last turn of those that have gone altogether
+    int gone; ///< the last `turn` among the figures left out
 };
 
 oTotalsStrip::oTotalsStrip(QWidget *parent)

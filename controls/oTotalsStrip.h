@@ -12,12 +12,12 @@ struct clsStripTotal {
     QString key; ///< identifies it when it is chosen
     QString words;
     QString figure; ///< as it is printed
-    QString failure {}; ///< why it can't be computed; empty where it can
-    /// What gives way first where the strip is too narrow.
+    QString failure {}; ///< why it can't be computed; empty if it can
+    /// How it makes room if the strip is too narrow.
     enum clsPlace { Stays, GoesIntoOther, GoesAltogether } place = Stays;
-    int turn = 0; ///< of those that go altogether: the one of turn 1 is the first
+    int turn = 0; ///< among those left out altogether; 1 is the first
     bool strong = false;
-    bool standsApart = false; ///< after the line
+    bool standsApart = false; ///< shown after the line
 };
 
 /// The totals of the claim, in one line above the footer: labels, figures, and the used part of the costs limit. It

@@ -34,7 +34,7 @@ bool beginsCode(const QString &typed)
         codes.begin(), codes.end(), [&](const QString &code) { return code.startsWith(typed, Qt::CaseInsensitive); });
 }
 
-/// The list itself goes with one letter from code to code.
+/// Typing one letter repeatedly moves from code to code; the list itself does that.
 bool isOneLetterAgain(const QString &typed)
 {
     return typed.size() > 1 && typed.count(typed[0], Qt::CaseInsensitive) == typed.size() && beginsCode(typed.left(1));
@@ -65,7 +65,7 @@ QString clsCodeList::InWords(const QString &code) const
     return mdScheduleOfTimeCodesCollection().contains(code) ? gapped(ColumnOf(code), m_words.of(code)) : QString();
 }
 
-/// The codes stay the list's texts; what stands behind them is theirs to be drawn, and to be read out.
+/// The codes stay the list's texts; the words are stored beside them, for drawing and screen readers.
 void clsCodeList::readWords()
 {
     m_words = mdReadCodeWords();
@@ -111,7 +111,7 @@ void clsCodeList::makeFoot()
     popup->layout()->addWidget(m_foot);
 }
 
-/// The list has its place by then, which is beneath its box or, where there is no room, above it.
+/// Called after the list is placed: below its box or, if there is no room, above it.
 void clsCodeList::ShowFoot()
 {
     if (!m_foot)
@@ -134,7 +134,7 @@ void clsCodeList::ShowFoot()
 void clsCodeList::edit()
 {
     m_box.hidePopup();
-    // Once the list has gone: it keeps the keys and the mouse to itself.
+    // After the list has closed, because it grabs the keyboard and mouse.
     QTimer::singleShot(0, this, [this] {
         if (!mdEditCodeWords(m_box.window(), m_words))
             return;
@@ -156,7 +156,7 @@ bool clsCodeList::eventFilter(QObject *watched, QEvent *event)
     return true;
 }
 
-/// What begins a code is the list's own affair, and so are its keys.
+/// Searches the words only; the list itself handles typed codes and all other keys.
 bool clsCodeList::takesKey(int key, const QString &text)
 {
     if (key == Qt::Key_Tab && m_foot) {
@@ -177,7 +177,7 @@ bool clsCodeList::takesKey(int key, const QString &text)
     return true;
 }
 
-/// The first code with words of which one begins so; -1 where there is none.
+/// The first code with a word that begins with `typed`; -1 if there is none.
 int clsCodeList::rowOfWords(const QString &typed) const
 {
     for (int row = 0; row < m_box.count() && !typed.isEmpty(); ++row)

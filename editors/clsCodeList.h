@@ -8,22 +8,22 @@
 class QComboBox;
 class QLabel;
 
-/// The open list of the codes: behind each code the column of the bill in which it stands and the firm's words, which
-/// typing finds, and beneath them the button that opens these words to be changed. The list's own texts are the codes.
+/// The drop-down list of the codes. Beside each code it shows the bill's column and the firm's words, which can be
+/// found by typing; below is a button that opens the words for editing. The texts of the list itself are the codes.
 class clsCodeList : public QObject {
     Q_OBJECT
 
 public:
     explicit clsCodeList(QComboBox &box);
 
-    /// The caption of the column in which the work of a code stands.
+    /// The caption of the bill's column for work with this code.
     static QString ColumnOf(const QString &code);
-    /// The column and the words, with a gap between; empty for what is no code.
+    /// The column and the words, with a gap between; empty for an invalid code.
     QString InWords(const QString &code) const;
 
-    /// Makes room for the words, before the list opens.
+    /// Makes the list wide enough for the words; call before it opens.
     void MakeRoom();
-    /// Puts the button beneath the open list.
+    /// Shows the button below the open list.
     void ShowFoot();
 
 signals:

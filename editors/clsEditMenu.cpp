@@ -12,12 +12,12 @@ namespace {
 struct clsEditRow {
     const char *text; ///< an ampersand marks the mnemonic
     const char *name; ///< object name
-    const char *keys; ///< with a semicolon and a blank between
+    const char *keys; ///< separated by a semicolon and a space
     std::function<void()> clsEditCommands::*run;
-    /// What stands behind the text: what the entry would act on. Where that is empty the entry is off.
+    /// The name of what the entry would act on, shown after its text. The entry is disabled if it is empty.
     QString (*object)();
     bool separatorAfter = false;
-    std::function<bool()> clsEditCommands::*can = nullptr; ///< whether it is on, where it acts on nothing with a name
+    std::function<bool()> clsEditCommands::*can = nullptr; ///< whether it is enabled, without a name to act on
 };
 
 // clang-format off
@@ -35,7 +35,8 @@ constexpr clsEditRow Rows[] = {
 };
 // clang-format on
 
-/// A key stays one of the window's while its entry is off: what it acts on can come while the menu is closed.
+/// Entries are disabled only while the menu is open, so that their keys keep working when something to act on appears
+/// later.
 void connectEntry(QMenu &menu, QAction &entry, const clsEditRow &row, const std::function<bool()> &can)
 {
     if (can)
@@ -51,8 +52,8 @@ void connectEntry(QMenu &menu, QAction &entry, const clsEditRow &row, const std:
         &menu, &QMenu::aboutToHide, &entry, [&entry] { entry.setEnabled(true); }, Qt::QueuedConnection);
 }
 
-/// Keeps Ctrl+Y from the menu while a text box has the focus, and lets the box redo. Of the other keys the boxes see to
-/// that themselves; this one is theirs on some desktops only.
+/// Keeps Ctrl+Y from the menu while a text box has the focus, so that the box can redo. Text boxes claim the other keys
+/// themselves, but this one only on some desktops.
 class clsRedoOfBoxes final : public QObject {
 public:
     explicit clsRedoOfBoxes(QWidget &window)

@@ -5,7 +5,7 @@
 class QMenu;
 class QWidget;
 
-/// What the entries of the menu "Edit" do in a window. What a window leaves out it doesn't offer.
+/// The actions of a window's menu "Edit". An entry without an action is left out.
 struct clsEditCommands {
     std::function<void()> undo;
     std::function<void()> redo;
@@ -18,9 +18,9 @@ struct clsEditCommands {
     std::function<void()> find {};
     std::function<void()> changeSelected {};
     std::function<bool()> canChangeSelected {};
-    bool hasCopyKey = true; ///< whether no key of the window's own stands in the way
+    bool hasCopyKey = true; ///< false if the window itself uses the key
 };
 
-/// Makes the menu "Edit" of a window from the table of its entries, for the window to put into its bar. A text box
-/// keeps the keys of undo and redo to itself while it has the focus.
+/// Creates a window's menu "Edit" from the table of its entries; the window adds it to its menu bar. A focused text box
+/// keeps the keys of Undo and Redo for itself.
 QMenu *mdMakeEditMenu(QWidget &window, const clsEditCommands &commands);

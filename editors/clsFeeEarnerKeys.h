@@ -4,8 +4,8 @@
 
 class frmSection;
 
-/// Function keys choose the fee earner from every field of a screen, before any of them takes the key for itself, as
-/// lists do with F4. Where the list of fee earners isn't shown they do nothing. It belongs to the screen.
+/// Lets function keys choose the fee earner from every field of a screen, before the field can use the key itself, as
+/// lists use F4. Does nothing while the list of fee earners is hidden. Owned by the screen.
 class clsFeeEarnerKeys final : public QObject {
 public:
     explicit clsFeeEarnerKeys(frmSection &screen);

@@ -20,13 +20,13 @@ constexpr int TickRowGap = 6;
 constexpr int AnswerGap = 6;
 constexpr int BeneathGap = 6;
 constexpr int SecondColumnGap = 80;
-/// A list takes all the height that is left over. Boxes take nearly all until they are as high as they become, and then
-/// it goes below the rows.
+/// A list takes all spare height. Boxes take nearly all of it until they reach their maximum; the rest is then left
+/// below the rows.
 constexpr int ListStretch = 1;
 constexpr int BoxStretch = 1000;
 constexpr int BehindStretch = 1000;
 
-/// The rows that take whatever height is left over and, below their captions, the whole width.
+/// Rows that take the spare height and, below their captions, the whole width.
 bool growsWithWindow(const clsScreenRow &row)
 {
     return row.kind == clsRowKind::Text && (row.flags & MultiLine);
@@ -113,7 +113,7 @@ void clsFrameRows::addSeparator()
     if (m_page == 0) {
         m_frame.m_hairlines.push_back(hairline);
     } else {
-        // On a page, which is painted over the frame, it is as wide as the fields.
+        // A page covers what the frame paints, so here the widget draws the hairline, as wide as the fields.
         QPalette palette = hairline->palette();
         palette.setColor(QPalette::Window, Theme::Hairline);
         hairline->setPalette(palette);
@@ -166,7 +166,7 @@ void clsFrameRows::addControl(const clsScreenRow &row)
     }
 }
 
-/// In all that the stretch at the end would take.
+/// Adds a widget with all the width that the stretch at the end would get.
 void clsFrameRows::addBehind(const clsScreenRow &row)
 {
     m_cell->insertSpacing(m_cell->count() - 1, Theme::Space12);
@@ -180,7 +180,7 @@ void clsFrameRows::addAnswer(const clsScreenRow &row, QWidget *control)
     control->setAccessibleDescription(m_asked);
     if (!m_question)
         return;
-    // The question's letter leads to its first answer and ticks nothing.
+    // The question's letter leads to its first answer without ticking it.
     m_question->setBuddy(control);
     m_question->setTicks(false);
     m_question = nullptr;
@@ -188,7 +188,7 @@ void clsFrameRows::addAnswer(const clsScreenRow &row, QWidget *control)
 
 void clsFrameRows::addToRowBefore(const clsScreenRow &row, QWidget *control)
 {
-    // Before the stretch at the end, and what stands behind that.
+    // Before the stretch at the end, and before a total after that.
     int place = m_cell->count() - (m_cellHasTotal ? 2 : 1);
     m_cell->insertSpacing(place++, followsButton(row) ? Theme::Space8 : Theme::Space24);
     if (row.kind != clsRowKind::Button && !(row.flags & NoCaption)) {
@@ -240,7 +240,7 @@ void clsFrameRows::addBesideCaption(const clsScreenRow &row, QWidget *control)
     m_lastWasTick = tick;
 }
 
-/// A grid fills the frame, and what adds to it stands in a line of its own below.
+/// A grid fills the frame; its "Add" and total are in a line below.
 void clsFrameRows::addItems(const clsScreenRow &row, QWidget *grid)
 {
     m_answers = nullptr;
@@ -269,13 +269,13 @@ void clsFrameRows::addItems(const clsScreenRow &row, QWidget *grid)
         auto &list = static_cast<oSGrid &>(*grid);
         auto *total = new oListTotal(row.items->total, row.items->sum, list, &m_frame);
         total->setObjectName(grid->objectName() + QStringLiteral("Total"));
-        total->setContentsMargins(0, 0, list.roomForArrows(), 0); // it ends where the rows do
+        total->setContentsMargins(0, 0, list.roomForArrows(), 0); // ends where the rows end
         m_cell->addWidget(total);
     }
     m_grid->addLayout(m_cell, m_line++, 0, 1, 2);
 }
 
-/// The captions of the second column end at one edge, and so the ticks behind them begin at one.
+/// The captions of the second column are right-aligned, so that their ticks line up.
 void clsFrameRows::addInSecondColumn(const clsScreenRow &row, QWidget *tick)
 {
     QHBoxLayout *line = m_tickCells.at(QString::fromUtf8(row.beside));
@@ -298,7 +298,7 @@ oFieldLabel *clsFrameRows::label(const clsScreenRow &row, oFieldLabel::Place pla
     return result;
 }
 
-/// The place of a field: at the left, no wider than it asks for, unless it is to fill the frame.
+/// Places a field at the left with its preferred width, or makes it fill the frame.
 QHBoxLayout *clsFrameRows::cell(QWidget *control, bool wholeWidth)
 {
     m_cell = new QHBoxLayout;
@@ -309,15 +309,15 @@ QHBoxLayout *clsFrameRows::cell(QWidget *control, bool wholeWidth)
     return m_cell;
 }
 
-/// A caption that the column of labels has no room for stands above its field. Only a tick keeps it beside, wrapped,
-/// since a tick on a line of its own would lose it.
+/// Whether a caption is too wide for the label column and goes above its field. A tick's caption is wrapped beside it
+/// instead, because a tick alone on a line would look lost.
 bool clsFrameRows::standsAbove(const clsScreenRow &row) const
 {
     const oFieldLabel beside(QString::fromUtf8(row.caption), oFieldLabel::Place::Beside, &m_frame);
     return row.flags & CaptionAbove || (row.kind != clsRowKind::Tick && beside.wordWrap());
 }
 
-/// Buttons of one line belong together.
+/// Whether a button follows a button on the same line.
 bool clsFrameRows::followsButton(const clsScreenRow &row) const
 {
     const clsScreenField &before = *(m_frame.m_fields.end() - 2);

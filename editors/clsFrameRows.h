@@ -10,14 +10,14 @@ class QGridLayout;
 class QHBoxLayout;
 class oTickLayout;
 
-/// Turns the rows of a frame's table, or of one of its pages, into widgets, one after the other: it makes each control
-/// and its caption and finds them a place. It lives while a frame is made.
+/// Creates the widgets for the rows of a frame's table, or of one of its pages, with their captions, and lays them out.
+/// Exists only while a frame is built.
 class clsFrameRows {
 public:
-    /// `parts` takes what the rows give.
+    /// The rows are added to `parts`.
     clsFrameRows(oScreenFrame &frame, QBoxLayout &parts, const std::vector<clsScreenRow> &rows, int page = 0);
 
-    /// With a number of columns, all ticks stand in a grid of so many.
+    /// If a number of columns is given, all ticks are arranged in a grid of that many.
     void layOut(int tickColumns = 0);
 
 private:
@@ -47,13 +47,13 @@ private:
     const int m_page;
     QGridLayout *m_grid = nullptr; ///< the part being filled: labels in column 0, fields in column 1
     int m_line = 0;
-    int m_spaceBefore = 0; ///< what the next row asks for above it, once there is one
-    QHBoxLayout *m_cell = nullptr; ///< of the last field, for one that stands behind it
-    bool m_cellHasTotal = false; ///< a total stands at the right end of the last field's line
-    std::map<QString, QHBoxLayout *> m_tickCells; ///< by the ticks' names, for those that stand beside them
-    std::vector<oFieldLabel *> m_secondColumn; ///< the captions of those
+    int m_spaceBefore = 0; ///< spacing requested by the next row, above it
+    QHBoxLayout *m_cell = nullptr; ///< of the last field, for a field to its right
+    bool m_cellHasTotal = false; ///< the last field's line ends with a total
+    std::map<QString, QHBoxLayout *> m_tickCells; ///< by the ticks' names, for fields beside them
+    std::vector<oFieldLabel *> m_secondColumn; ///< captions of those fields
     oTickLayout *m_answers = nullptr; ///< of the question that is open
-    oFieldLabel *m_question = nullptr; ///< the open question, until its first answer is known
-    QString m_asked; ///< what the open question asks, which is read out with each of its answers
+    oFieldLabel *m_question = nullptr; ///< the open question, until its first answer has been created
+    QString m_asked; ///< text of the open question, read out with each of its answers
     bool m_lastWasTick = false;
 };

@@ -14,7 +14,8 @@ namespace {
 
 enum class clsMember { Flag, Identity };
 
-/// A table that names no two properties of its record is a mistake, which shows when the screen is opened.
+/// A table that doesn't name two properties of its record is a programming error, which appears when the screen is
+/// opened.
 clsXMLField &fieldOf(const clsScreenRow &row, const clsChoiceSource &source, clsXMLRecord &record, clsMember member)
 {
     const QString both = QString::fromUtf8(row.member ? row.member : source.members);
@@ -37,12 +38,12 @@ clsItemChoice::clsItemChoice(QFrame &box, const clsChoiceSource &source)
     m_tick->setCaption(QString::fromUtf8(source.tickCaption));
     m_list->setObjectName(QString::fromUtf8(source.list));
     m_list->setAccessibleName(QString::fromUtf8(source.listCaption));
-    // A screen reader calls a list by its choice and tells its caption by a label, which this one lacks.
+    // Screen readers announce a list by its choice and use a label for its caption; this list has none.
     m_list->setAccessibleDescription(m_list->accessibleName());
     m_list->setEnabled(false);
 
-    // Room for the square of the focused tick, which layouts take for the outside of the box, so that its visible edge
-    // lines up with its neighbours'. The frame style makes it known.
+    // Room for the focus ring of the tick. Layouts treat it as outside the box, so that the box's visible edge lines up
+    // with its neighbours'; setting the frame style makes the style apply this.
     m_row->setContentsMargins(Theme::RingRoom, Theme::RingRoom, Theme::RingRoom, Theme::RingRoom);
     m_row->setSpacing(Theme::Space8);
     m_row->addWidget(m_tick);
@@ -51,7 +52,7 @@ clsItemChoice::clsItemChoice(QFrame &box, const clsChoiceSource &source)
     box.setProperty("ringRoom", true);
     box.setFrameStyle(QFrame::NoFrame);
 
-    // Before the proxy, which would take the policy over. The box itself is no stop of the Tab key.
+    // Before the proxy, which would otherwise receive the policy. The box itself is not a tab stop.
     box.setFocusPolicy(Qt::ClickFocus);
     box.setFocusProxy(m_tick);
     box.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
@@ -76,13 +77,13 @@ void clsItemChoice::setTicked(bool ticked)
 void clsItemChoice::ticked(bool isTicked)
 {
     m_list->setEnabled(isTicked);
-    // At either change: also what is unticked shows what a tick would bring back.
+    // On both changes: even an unticked list shows what ticking would choose.
     if (m_list->currentIndex() < 0 && m_list->count() > 0)
         m_list->setCurrentIndex(0);
     emit Click(isTicked);
 }
 
-/// Beside its buttons a list may be too narrow for a name.
+/// Beside buttons the list may be too narrow for a name.
 void clsItemChoice::showWhole()
 {
     m_list->setToolTip(mdPlainToolTip(m_list->currentText()));
@@ -115,7 +116,7 @@ void clsItemChoice::fill()
         m_list->clear();
         for (const clsChoiceItem &item : items)
             m_list->addItem(item.name, item.index);
-        // A list selects the first entry that it is given. Here nothing is chosen before it is remembered or asked for.
+        // A list selects its first entry automatically; this one needs a choice by the user or a stored value.
         m_list->setCurrentIndex(-1);
         mdComboboxSelectByItemData(*m_list, selected);
     }
@@ -150,7 +151,7 @@ void clsItemChoice::load(const clsScreenRow &row, clsXMLRecord &record)
             throw;
         m_tick->setToolTip(error.cause());
     }
-    // What a file ticks although the claim has no such item can be taken back.
+    // Lets the user remove a tick that a file sets although the claim has no such item.
     if (Ticked())
         m_tick->setEnabled(true);
     setUniqueID(fieldOf(row, m_source, record, clsMember::Identity).readText());

@@ -14,33 +14,33 @@ class oCheckBox;
 class oScreenList;
 class QHBoxLayout;
 
-/// An item of the claim as a list offers it.
+/// An item of the claim as an entry of a list.
 struct clsChoiceItem {
     QString name;
-    int index; ///< the item's `Index`, by which the list remembers it
+    int index; ///< the item's `Index`, stored as the entry's data
 };
 
-/// One of the claim's lists, as a choice asks for its items.
+/// How a choice reads the items of one of the claim's lists.
 struct clsChoiceList {
     std::vector<clsChoiceItem> (*items)(); ///< in the user's order
     QString (*uniqueIDOf)(int index);
-    int (*indexOf)(const QString &uniqueID); ///< 0 for an identity that no item has
+    int (*indexOf)(const QString &uniqueID); ///< 0 for an unknown identity
 };
 
-/// Of which of the claim's lists one item is chosen, and how the parts of the box are called.
+/// The list of the claim to choose from, and the names of the box's parts.
 struct clsChoiceSource {
     const char *tick; ///< object name
-    const char *tickCaption; ///< what is read out for the tick
+    const char *tickCaption; ///< read out for the tick
     const char *list; ///< object name
-    const char *listCaption; ///< what is read out for the list
-    const char *members; ///< the properties of tick and identity, where the row names none
-    const char *whyNoTick; ///< what the tick says while the claim has no such item
+    const char *listCaption; ///< read out for the list
+    const char *members; ///< the properties of tick and identity, if the row names none
+    const char *whyNoTick; ///< shown at the tick while the claim has no such item
     clsChoiceList from;
 };
 
-/// A tick, and a list in which, while it is ticked, one of the claim's items is chosen. It makes both at the left of a
-/// box whose caption stands outside of it, and keeps them in step: a tick, or taking it away, chooses the first item
-/// where none is chosen. Filling chooses nothing: what is ticked while there is no item stays without one until then.
+/// A tick and a list, enabled while it is ticked, to choose one of the claim's items. Creates both at the left of a box
+/// that has its caption outside and keeps them consistent: changing the tick chooses the first item if none is chosen.
+/// Filling the list chooses nothing: a tick set while there are no items stays without one.
 class clsItemChoice : public QObject {
     Q_OBJECT
 
@@ -49,34 +49,34 @@ public:
 
     bool Ticked() const;
     void setTicked(bool ticked);
-    /// The identity of the chosen item, and nothing while there is no tick, whatever is chosen.
+    /// The identity of the chosen item; empty while unticked.
     QString UniqueID() const;
-    /// Chooses the item of that identity, ticked or not. Without such an item the choice stays as it was: in
-    /// particular, an empty identity doesn't undo it.
+    /// Chooses the item with that identity, ticked or not. Without such an item the choice stays unchanged: in
+    /// particular, an empty identity doesn't clear it.
     void setUniqueID(const QString &uniqueID);
     /// The `Index` of the chosen item, 0 for none.
     int SelectedIndex() const;
 
-    /// Reads the claim's items anew and keeps the choice.
+    /// Reads the claim's items again and keeps the choice.
     void fill();
     /// The identity of the chosen item, ticked or not.
     QString ChosenID() const;
-    /// Reads the claim's items anew and chooses the one of that identity, or none where there is no such item.
+    /// Reads the claim's items again and chooses the one with that identity, or none if there is no such item.
     void fillFor(const QString &uniqueID);
 
-    /// Copies the two properties of a record in and out: first the flag, then the identity. A row names them as its
-    /// member, with a blank between; without a member they are those of the source.
+    /// Copies the two properties of a record in and out: first the flag, then the identity. The row's member names
+    /// both, separated by a space; without a member the source's names are used.
     void load(const clsScreenRow &row, clsXMLRecord &record);
     void store(const clsScreenRow &row, clsXMLRecord &record) const;
 
-    /// What else belongs to the box stands behind the list.
+    /// The layout for further widgets after the list.
     QHBoxLayout &row() const { return *m_row; }
     oCheckBox &tick() const { return *m_tick; }
 
 signals:
     /// The tick has changed.
     void Click(bool ticked);
-    /// Another item is chosen.
+    /// Another item has been chosen.
     void Change();
 
 private:
@@ -89,7 +89,8 @@ private:
     QHBoxLayout *m_row;
 };
 
-/// A list of the claim by three members of the form: its collection, an item by its `Index`, one by its identity.
+/// A list of the claim, given by three members of the form: its collection, an item by its `Index`, one by its
+/// identity.
 template <auto Collection, auto ByIndex, auto ByUniqueID> constexpr clsChoiceList mdChoiceList()
 {
     return {
@@ -107,7 +108,7 @@ template <auto Collection, auto ByIndex, auto ByUniqueID> constexpr clsChoiceLis
     };
 }
 
-/// A box with a choice, its `choice()`, as a control that a table brings with it.
+/// A box with a choice, returned by its `choice()`, for use as a control of a table.
 template <class Box> constexpr clsOtherControl mdChoiceControl()
 {
     return {

@@ -24,7 +24,7 @@
 
 namespace {
 
-/// The icon group whose glyphs are those of the families of windows.
+/// The icon group with the glyphs of the window families.
 constexpr int SectionIcons = 12;
 
 } // namespace
@@ -165,13 +165,13 @@ void clsListActions::SameAgain()
         openEditor(nullptr, m_list.item(index).get());
 }
 
-/// Opens the editor of an item, or of a new one, which may begin like another. "Save and Add" stores one after the
-/// other, each a step; the next key in the list goes on from the last of them.
+/// Opens the editor of an item, or of a new one, possibly filled from another. "Save and Add" stores items one by one,
+/// each as a step; afterwards the last one is selected.
 void clsListActions::openEditor(std::shared_ptr<clsXMLRecord> item, clsXMLRecord *like)
 {
     std::shared_ptr<clsXMLRecord> last = item;
-    // What the editor opened in its turn is kept even where the editor itself was cancelled. A new item is the last of
-    // the claim's list, wherever the grid sorts it.
+    // Changes made in editors opened from this one are kept even if it was cancelled. A new item is the last in the
+    // claim's list, whatever the grid's sort order.
     const auto showStored = [&](bool stored) {
         tellChanged();
         if (stored && !item)
@@ -195,7 +195,7 @@ void clsListActions::openEditor(std::shared_ptr<clsXMLRecord> item, clsXMLRecord
     m_grid.setFocus(Qt::OtherFocusReason);
 }
 
-/// Selects an item wherever it now is: from its editor the same list can have been opened once more, and changed.
+/// Selects an item wherever it is now: its editor may have opened and changed the same list.
 void clsListActions::select(const std::shared_ptr<clsXMLRecord> &item)
 {
     for (int index = 1; index <= m_grid.Rows(); ++index)
@@ -217,7 +217,7 @@ void clsListActions::deleteItem()
     emit Deleted(mdItemInShort(m_list, *item));
 }
 
-/// The item has its new place already, and what its list looked like before is known from the last step.
+/// The item has already moved; the history knows the previous order from the last step.
 void clsListActions::tellMoved()
 {
     tellChanged();
@@ -239,7 +239,7 @@ bool clsListActions::Show(const clsZR3Item *item)
     return false;
 }
 
-/// Whether nothing else of the claim points at the item, where that matters, and the user agrees.
+/// Asks the user, after checking that nothing else refers to the item if the list requires that.
 bool clsListActions::mayDelete(int index) const
 {
     const QString word = QString::fromUtf8(m_list.editor().itemWord);
@@ -251,7 +251,7 @@ bool clsListActions::mayDelete(int index) const
     return mdConfirmDelete(word);
 }
 
-/// The lists first, then what the claim derives from them.
+/// Redraws the lists first, then updates what the claim derives from them.
 void clsListActions::tellChanged()
 {
     emit Changed();

@@ -8,39 +8,39 @@ class oCustomButton;
 class oFindLine;
 class QMenu;
 
-/// What a list on a screen does with its items, as its table says: it shows them, and adds, edits and deletes them by
-/// mouse and keys. It belongs to its grid.
+/// Shows the items of a screen's list, and lets the user add, edit and delete them by mouse and keyboard as the list's
+/// table specifies. Owned by the grid.
 class clsListActions : public QObject {
     Q_OBJECT
 
 public:
-    /// `add` is the list's button, or nothing.
+    /// `add` is the list's button, or null.
     clsListActions(frmSection &screen, const clsItemList &list, oSGrid &grid, oCustomButton *add);
 
-    /// Lays out the columns and shows the items, the first selected.
+    /// Sets up the columns, shows the items and selects the first.
     void draw();
-    /// Shows the items as they now are, the same row selected.
+    /// Shows the current items and keeps the selected row.
     void redraw();
     int Rows() const;
-    /// Whether the focus is in the list or in its find line.
+    /// Whether the list or its find line has the focus.
     bool HasFocus() const;
     bool IsVisible() const;
     bool AddsItems() const { return m_add; }
-    /// Opens the editor of a new item that begins as a copy of the selected one.
+    /// Opens the editor for a new item that starts as a copy of the selected one.
     void SameAgain();
-    /// Opens the line in which words are looked for.
+    /// Opens the line for finding words.
     void Find();
-    /// Sets one field of all marked items, after the user has said which and to what.
+    /// Asks the user for a field and its value, and sets it in all marked items.
     void ChangeSelected();
     bool CanChangeSelected() const;
     bool ChangesItems() const { return !m_list.changes.empty(); }
-    /// Selects the row of an item; false where it is of another list.
+    /// Selects an item's row; false if the item belongs to another list.
     bool Show(const clsZR3Item *item);
 
 signals:
-    /// An item was added, edited, deleted or moved by the user: all lists of the screen are to be shown anew.
+    /// The user has added, edited, deleted or moved an item: all lists of the screen must be redrawn.
     void Changed();
-    /// What is called so has just been deleted by the user.
+    /// The user has deleted the item with this name.
     void Deleted(const QString &item);
 
 private:
@@ -54,7 +54,7 @@ private:
     bool mayDelete(int index) const;
     void tellChanged();
     void tellMoved();
-    /// The name of what is done to an item.
+    /// The name of a step on an item.
     QString stepOf(const char *action, const std::shared_ptr<clsXMLRecord> &item) const;
     void tellWhatCanBeAdded();
     oFindLine &findLine() const;

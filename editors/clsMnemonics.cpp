@@ -7,23 +7,23 @@
 
 namespace {
 
-/// Letters and digits that every keyboard has under Alt.
+/// Letters and digits that every keyboard can type with Alt.
 bool isKey(QChar c)
 {
     return c.unicode() < 128 && c.isLetterOrNumber();
 }
 
-/// Gives letters to captions, one after the other.
+/// Assigns letters to captions, one caption at a time.
 class clsSeating {
 public:
-    /// Gives one of these letters to a caption, the first that is free or else one whose holder can take another.
+    /// Assigns a caption one of these letters: the first free one, otherwise one whose caption can change to another.
     void seat(const QString &letters)
     {
         m_letters << letters;
         QSet<QChar> asked;
         seat(int(m_letters.size()) - 1, asked);
     }
-    /// The letter of a caption among those it was seated with, or -1.
+    /// The index of a caption's letter among those passed to `seat`, or -1.
     qsizetype choice(int caption) const
     {
         for (auto holder = m_holders.begin(); holder != m_holders.end(); ++holder)
@@ -69,7 +69,7 @@ QString clsMnemonics::markedAt(const QString &caption, qsizetype place)
     return unmarked(caption.left(place)) + u'&' + unmarked(caption.mid(place));
 }
 
-/// Where a letter stands that can be given, the best place first.
+/// Positions of letters that can be assigned, best first.
 QList<qsizetype> clsMnemonics::placesIn(const QString &caption) const
 {
     QList<qsizetype> beginnings;

@@ -3,25 +3,25 @@
 #include <QSet>
 #include <QStringList>
 
-/// Gives each caption of a screen a letter of its own for the Alt key. A letter is given once; a caption for which none
-/// is left goes without. The captions themselves are never changed: only the mark is put in.
+/// Assigns each caption of a screen its own Alt letter. A letter is assigned once; a caption gets none if all of its
+/// letters are taken. Captions don't change except for the mark.
 class clsMnemonics {
 public:
-    /// Keeps a letter from being given, since a menu or a button has it for good.
+    /// Reserves a letter that a menu or button always uses.
     void reserve(QChar letter) { m_taken.insert(letter.toUpper()); }
 
-    /// The caption with the mark before the letter picked for it: the first free one that begins a word, else the first
-    /// free one at all. Every "&" of the caption's own is doubled.
+    /// The caption with a mark before its letter: the first free letter at the beginning of a word, otherwise the first
+    /// free one. Existing "&" are doubled.
     QString marked(const QString &caption);
-    /// The same with a letter that is fixed. The caption must hold it.
+    /// The same with a given letter, which must occur in the caption.
     QString marked(const QString &caption, QChar letter);
-    /// The same for captions together, so that as many as can have a letter get one: a caption gives its letter up for
-    /// another of its own where a later one has no choice.
+    /// Marks captions together, so that as many as possible get a letter: a caption changes to another of its letters
+    /// if a later one has no alternative.
     QStringList marked(const QStringList &captions);
-    /// The next digit that nothing has, for a caption that has to go without a letter; nothing when all are given.
+    /// The next unassigned digit, for a caption without a letter; null if all are assigned.
     QChar digit();
 
-    /// A caption without a letter, as a label or button has to be given it.
+    /// A caption without a letter, with each "&" doubled for use in a label or button.
     static QString unmarked(const QString &caption);
 
 private:

@@ -4,7 +4,7 @@
 
 namespace {
 
-/// What an item has by itself, and not its place in the claim.
+/// The item's own columns, without its position in the claim.
 template <std::span<const clsTableColumn> (*Columns)()> QStringList ownNames()
 {
     QStringList names;

@@ -4,22 +4,22 @@
 
 #include <QStringList>
 
-/// A list that takes rows of a table and gives its own as one.
+/// A list that can import rows of a table and be copied as one.
 struct clsPasteList {
-    const char *section; ///< what the user calls it
+    const char *section; ///< the name the user knows
     const clsImportList &(*import)();
     const char *table; ///< its table in the claim
-    /// The columns of that table that are copied, where it isn't all of them.
+    /// The columns that are copied, if not all of them.
     QStringList (*copied)() = nullptr;
-    const char *total = nullptr; ///< the column that is summed while the rows are looked at
+    const char *total = nullptr; ///< the column that is summed in the preview of the rows
     bool hasCopyKey = true;
 };
 
 const clsPasteList &mdPasteSchedule();
 const clsPasteList &mdPasteDisbursements();
 const clsPasteList &mdPasteExperts();
-/// Letters and calls are counted. Ctrl+Shift+C would be one of the keys that count there.
+/// Without the copy key: letters and calls are counted by keys, and Ctrl+Shift+C would be one of them.
 const clsPasteList &mdPasteCommunications();
 
-/// A column's name for the user.
+/// The name of a column as shown to the user.
 QString mdColumnCaption(const clsTableColumn &column);

@@ -28,7 +28,7 @@ void clsPasteModel::SetMeaning(int place, int column)
     emit Changed();
 }
 
-/// What the user said of a row holds however its cells are read.
+/// Applies the user's ticks again after the cells have been read in another way.
 void clsPasteModel::keepTicks()
 {
     for (auto tick = m_ticks.constBegin(); tick != m_ticks.constEnd(); ++tick)
@@ -36,13 +36,13 @@ void clsPasteModel::keepTicks()
             m_rows.choose(tick.key(), tick.value());
 }
 
-/// Nothing while the rows can't be read at all.
+/// Null if the rows can't be read at all.
 const clsImportedRow *clsPasteModel::rowAt(int row) const
 {
     return size_t(row) < m_rows.rows().size() ? &m_rows.rows()[size_t(row)] : nullptr;
 }
 
-/// Nothing for what is no cell of a column that is stored.
+/// Null for a cell that is not in a stored column.
 const clsImportedCell *clsPasteModel::cellAt(const QModelIndex &index) const
 {
     const int place = index.column() - FirstPlace;
@@ -92,7 +92,7 @@ void clsPasteModel::tellAll()
     emit Changed();
 }
 
-/// A row that is wrong as a whole, or in a column that the table lacks, has its tick to go to.
+/// If a row is wrong as a whole, or because of a missing column, its tick counts as the wrong cell.
 QModelIndex clsPasteModel::NextWrong(const QModelIndex &from, int direction) const
 {
     const int cells = columnCount();
@@ -102,7 +102,7 @@ QModelIndex clsPasteModel::NextWrong(const QModelIndex &from, int direction) con
         const QModelIndex found = index(int(at / cells), int(at % cells));
         const clsImportedRow *row = rowAt(found.row());
         if (!row || !row->IsChosen || !row->isWrong()) {
-            // To the row's edge: most rows are right.
+            // Skips to the row's edge: most rows are right.
             at = direction > 0 ? qint64(found.row()) * cells + cells - 1 : qint64(found.row()) * cells;
             continue;
         }
@@ -151,7 +151,7 @@ QString clsPasteModel::noteOf(int row) const
     return shown->DoubleOf > 0 ? QStringLiteral("As item %1 of the claim").arg(shown->DoubleOf) : QString();
 }
 
-/// A cell as the item will have it; what another item is called by, and what can't be read, as it stands.
+/// The cell's text as the item will have it. References to other items and invalid cells keep their original text.
 QString clsPasteModel::textOf(const QModelIndex &index) const
 {
     if (index.column() == Number)
@@ -203,7 +203,7 @@ bool clsPasteModel::setData(const QModelIndex &index, const QVariant &value, int
     if (role != Qt::EditRole || !cellAt(index) || value == data(index, Qt::EditRole))
         return false;
     m_rows.setCell(*Form, index.row(), m_rows.meaningOf(index.column() - FirstPlace), value.toString());
-    // A row that is no double any more, or has become one, is ticked as such unless the user has said otherwise.
+    // A changed row may have become a double or stopped being one, which decides its tick unless the user has set it.
     keepTicks();
     emit dataChanged(this->index(index.row(), 0), this->index(index.row(), NoteColumn()));
     emit Changed();

@@ -7,16 +7,16 @@
 
 #include <vector>
 
-/// The rows of a table, as they will be stored: a tick, a number, the columns of the table, and a note.
+/// The rows of a table as they will be stored: a tick, a number, the columns of the table, and a note.
 class clsPasteModel : public QAbstractTableModel {
     Q_OBJECT
 
 public:
     enum { Tick, Number, FirstPlace };
     enum Role {
-        WrongRole = Qt::UserRole, ///< whether a cell keeps its row from being stored
-        DoubleRole, ///< whether the row equals an item of the claim
-        OffRole, ///< whether a cell will not be stored
+        WrongRole = Qt::UserRole, ///< the cell prevents its row from being stored
+        DoubleRole, ///< the row equals an item of the claim
+        OffRole, ///< the cell will not be stored
     };
 
     clsPasteModel(clsImportedRows rows, const clsImportList &list, QObject *parent = nullptr);
@@ -24,13 +24,13 @@ public:
     const clsImportedRows &Rows() const { return m_rows; }
     const clsImportList &List() const { return m_list; }
     int NoteColumn() const { return FirstPlace + int(m_rows.header().size()); }
-    /// The column of the list that a column of the table means; nothing where it is left out.
+    /// The list's column for a column of the table; null if it is left out.
     const clsTableColumn *MeaningOf(int place) const;
     void SetMeaning(int place, int column);
     bool IsTicked(int row) const;
     void SetTicked(const std::vector<int> &rows, bool areTicked);
     void TickDoubles(bool areTicked);
-    /// The cell that is wrong in the next ticked row behind, or before, another; invalid where there is none.
+    /// The next wrong cell of a ticked row after or before the given one; invalid if there is none.
     QModelIndex NextWrong(const QModelIndex &from, int direction) const;
     int WrongRows() const;
     int DoublesLeftOut() const;
@@ -43,7 +43,7 @@ public:
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
 signals:
-    /// Rows, ticks or meanings are others now.
+    /// Rows, ticks or meanings have changed.
     void Changed();
 
 private:
@@ -57,5 +57,5 @@ private:
 
     clsImportedRows m_rows;
     const clsImportList &m_list;
-    QHash<int, bool> m_ticks; ///< what the user has said of single rows
+    QHash<int, bool> m_ticks; ///< set by the user for single rows
 };

@@ -17,7 +17,7 @@
 
 namespace {
 
-/// What the user has chosen on a screen, and the fields in which nothing was changed since they were filled.
+/// The choices on a screen, and the fields that the user hasn't changed since they were filled.
 class clsUntouched {
 public:
     clsUntouched(frmSection &screen, std::set<const QWidget *> &changed)
@@ -34,10 +34,10 @@ public:
         for (clsItemChoice *choice : screen.findChildren<clsItemChoice *>())
             m_choices.push_back({choice, choice->ChosenID()});
     }
-    /// Reads them anew from the claim.
+    /// Reloads them from the claim.
     void reload() const
     {
-        // Their items may have gone, or have other places now, whether or not the choice was changed.
+        // Always: the items may have been removed or moved, even if the choice itself hasn't changed.
         for (const auto &[choice, chosen] : m_choices)
             choice->fillFor(chosen);
         for (const clsScreenField &field : m_fields)
@@ -70,13 +70,13 @@ clsScreenUndo::clsScreenUndo(frmSection &screen, QMenuBar &menus, oListLine &lin
         commands.sameAgain = [this] { m_screen.SameAgain(); };
     mdOfferPaste(screen, commands, [this](const QString &what) { m_line.Tell(what); });
     QMenu *edit = mdMakeEditMenu(screen, commands);
-    // Behind "File".
+    // After "File".
     menus.insertMenu(menus.actions().value(1), edit);
     connect(&m_line, &oListLine::Taken, this, &clsScreenUndo::bringBack);
     connect(&m_screen, &frmSection::Loaded, this, &clsScreenUndo::OfferNotStored);
     for (const clsScreenField &field : m_screen.Fields())
         if (auto *grid = qobject_cast<oSGrid *>(field.control))
-            // Once the editor is closed that it opens.
+            // Queued, to run after the editor that it opens has closed.
             connect(grid, &oSGrid::RowActivated, this, &clsScreenUndo::OfferNotStored, Qt::QueuedConnection);
 }
 
@@ -113,7 +113,7 @@ void clsScreenUndo::run(Turn turn, About about)
         return;
     ClearLine();
     const clsUntouched untouched(m_screen, m_changed);
-    // Of an item that goes the row is shown, of one that comes or changes the item itself.
+    // For a removed item show its row first; for an added or changed one, the item itself afterwards.
     m_screen.ShowItem((history.*about)());
     const clsZR3Item *item = (history.*turn)();
     untouched.reload();

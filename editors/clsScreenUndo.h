@@ -11,19 +11,19 @@ class clsZR3Item;
 class frmSection;
 class oListLine;
 
-/// Undo and redo on a screen with a list of the claim: its menu "Edit", what of the screen is read anew after them, and
-/// the line that offers a deleted item back, and what was not stored in an item's editor. It belongs to the screen.
+/// Undo and Redo on a screen with a list of the claim: the menu "Edit", reloading the screen after a step, and the line
+/// that offers to restore a deleted item or text not stored in an item's editor. Owned by the screen.
 class clsScreenUndo : public QObject {
     Q_OBJECT
 
 public:
     clsScreenUndo(frmSection &screen, QMenuBar &menus, oListLine &line);
 
-    /// Says in the line what the last step has deleted.
+    /// Shows in the line what the last step has deleted.
     void TellDeleted(const QString &what);
-    /// Takes from the line what a later step has made untrue.
+    /// Clears a message that is no longer true after a later step.
     void ClearLine();
-    /// Offers in the line what was typed in the editor of an item and not stored.
+    /// Offers in the line the text typed in an item's editor but not stored.
     void OfferNotStored();
 
 private:
@@ -34,5 +34,5 @@ private:
 
     frmSection &m_screen;
     oListLine &m_line;
-    std::set<const QWidget *> m_changed; ///< fields that were seen to hold what the user has put there
+    std::set<const QWidget *> m_changed; ///< fields found to contain changes by the user
 };

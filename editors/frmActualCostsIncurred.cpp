@@ -13,7 +13,7 @@
 
 namespace {
 
-/// The button of a group, and the two amounts that it takes from the bill.
+/// A group's button, and the two amounts that it fills from the bill.
 struct clsLoadFromBill {
     const char *button;
     const char *profitCosts;
@@ -27,8 +27,8 @@ constexpr clsLoadFromBill LoadFromBill[] = {
 };
 // clang-format on
 
-/// Overwrites what was typed, without asking; nothing is stored before Save. The tax is that of the amount as the box
-/// shows it, and is taken whether or not the claim says that VAT is charged.
+/// Overwrites typed amounts without asking; nothing is stored before Save. The VAT is computed from the amount as shown
+/// in the box, whether or not the claim charges VAT.
 void loadFromBill(const frmSection &screen, const clsLoadFromBill &row)
 {
     auto &profitCosts = screen.Box<oDecimalBox>(row.profitCosts);
@@ -55,10 +55,10 @@ void rules(frmSection &screen)
 
 } // namespace
 
-/// What the fixed-fee schemes ask about care and about private law cases. The groups are not tied to each other nor to
-/// the kind of the case: everything stays open. Ticks of one letter are one choice, also the levels of work, although
-/// their question reads as if several could apply. "Load From Bill" stands behind the amounts that it fills, so that
-/// they are in view when they change.
+/// Care proceedings and private law cases under the fixed-fee schemes. The groups depend neither on each other nor on
+/// the kind of case: everything stays enabled. Ticks with the same letter are exclusive, including the levels of work,
+/// although that question reads as if several could apply. "Load From Bill" comes after the amounts that it fills, so
+/// that they are visible when they change.
 const clsScreen &ScreenActualCostsIncurred()
 {
     using enum clsRowKind;

@@ -3,7 +3,7 @@
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
 
-/// The client. Seven characters for a first name are what the printed box holds.
+/// The client. The printed box for the first name holds seven characters.
 const clsScreen &ScreenClientDetails()
 {
     using enum clsRowKind;

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// The words while they are edited. They are of no claim.
+/// The words while they are edited; not part of a claim.
 class clsEditedCodes final : public clsXMLRecord {
 public:
     explicit clsEditedCodes(const clsCodeWords &words)
@@ -63,7 +63,7 @@ private:
     pugi::xml_document m_own;
 };
 
-/// What the user has changed.
+/// The words changed by the user.
 QHash<QString, QString> changesIn(const frmSection &screen, const clsCodeWords &words)
 {
     QHash<QString, QString> changes;

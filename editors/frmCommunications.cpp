@@ -28,7 +28,7 @@ oSGrid &gridOf(const frmSection &screen)
     return screen.Box<oSGrid>("sgCommunications");
 }
 
-/// Counts for the selected fee earner; without one nothing happens. It sounds also where a count of 0 stays 0.
+/// Counts for the selected fee earner; does nothing if there is none. Plays the sound even if the count stays 0.
 void count(oSGrid &grid, const clsCommsCount &what, Qt::KeyboardModifiers shift)
 {
     const int index = grid.SelectedItemData();
@@ -43,7 +43,7 @@ void count(oSGrid &grid, const clsCommsCount &what, Qt::KeyboardModifiers shift)
     PlayWav(ProgramPath(QString::fromUtf8(step.sound)));
 }
 
-/// The letters that count are no typed text, so that a row's number can be typed right behind one.
+/// The counting letters are not passed on as typed text, so that a row number can be typed directly after one.
 void keyDown(oSGrid &grid, int key, Qt::KeyboardModifiers shift, bool *doDefault)
 {
     const clsCommsCount *what = mdCommsCountOfKey(key);
@@ -53,8 +53,8 @@ void keyDown(oSGrid &grid, int key, Qt::KeyboardModifiers shift, bool *doDefault
     count(grid, *what, shift);
 }
 
-/// A right click counts in the column under the pointer. Held with Control, the press has taken the selection from the
-/// row, which gets it back.
+/// A right click counts in the column under the pointer. With Control held the press deselects the row, which is
+/// therefore selected again.
 void mouseUp(oSGrid &grid, Qt::MouseButton button, Qt::KeyboardModifiers shift, const QPoint &position)
 {
     const clsCommsCount *what = mdCommsCountAtColumn(grid.ColumnAt(position));
@@ -64,7 +64,7 @@ void mouseUp(oSGrid &grid, Qt::MouseButton button, Qt::KeyboardModifiers shift, 
     count(grid, *what, shift);
 }
 
-/// Opens the typed entry in the field of the column; the column of the names has none.
+/// Opens the editor of counts in the field of the column; does nothing for the column of names.
 void typeCounts(frmSection &screen, int feeEarner, int column)
 {
     const clsCommsCount *what = mdCommsCountAtColumn(column);
@@ -101,17 +101,16 @@ void rules(frmSection &screen)
         [&screen](int feeEarner, int, int column) { typeCounts(screen, feeEarner, column); });
     QObject::connect(
         &grid, &oSGrid::TimedKeyPress, &screen, [&grid](const QString &text) { selectTypedRow(grid, text); });
-    // Return opens something from the start, and the user sees what.
+    // Return works from the start, and the marked cell shows what it opens.
     grid.setMarksCell(true);
     grid.setEmptyGlyph(Glyph::People);
-    // Over the headings; a cell has a tooltip of its own.
+    // For the headings; cells have their own tooltips.
     grid.setToolTip(QString::fromUtf8(HowToCount));
     grid.setAccessibleDescription(QString::fromUtf8(HowToCount));
     QObject::connect(&screen, &frmSection::Loaded, &screen, [&grid] { grid.SelectColumn(CallsColumn); });
 }
 
-/// In the order that the user gave them. The grid's own sort would put the tenth before the second, since it compares
-/// texts.
+/// In the user's order. The grid's own sort compares texts and would put the tenth before the second.
 clsGridItems feeEarnersInOrder()
 {
     clsGridItems items;
@@ -139,9 +138,9 @@ const clsItemList FeeEarners {
 
 } // namespace
 
-/// The letters and calls of each fee earner, counted in the grid by the keys C, I and O or by a right click, down with
-/// Shift. The counts go straight to the claim; the boxes below the grid are stored when the screen is left, but not by
-/// the menu "Save" or the close box.
+/// The letters and calls of each fee earner, counted in the grid by the keys C, I and O or a right click, with Shift
+/// downwards. Counts are stored in the claim at once; the boxes below the grid are stored on leaving the screen, but
+/// not by the menu "Save" or the close box.
 const clsScreen &ScreenCommunications()
 {
     using enum clsRowKind;

@@ -1,7 +1,7 @@
 #include "editors/mdScreens.h"
 
-/// The counts of one fee earner, typed instead of counted. None is required, in spite of the asterisks, which are
-/// meant: a box that is left empty says 0.
+/// The counts of one fee earner, typed instead of counted. None is required despite the asterisks: an empty box becomes
+/// 0. Required behaviour; do not fix.
 const clsScreen &ScreenCorrespondences()
 {
     using enum clsRowKind;

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// The limit while it is edited. It is no element of the claim, which has one only while a limit is set.
+/// The limit while it is edited. Not an element of the claim, which has one only while a limit is set.
 class clsEditedLimit final : public clsXMLRecord {
 public:
     explicit clsEditedLimit(const QString &stored)
@@ -29,7 +29,7 @@ private:
 
 } // namespace
 
-/// The limit of all costs. An empty box, or 0.00, takes it away.
+/// The limit of all costs. An empty box or 0.00 removes it.
 const clsScreen &ScreenCostsLimit()
 {
     using enum clsRowKind;

@@ -28,7 +28,7 @@ clsItemList mdCounselList(const clsScreen &(*editor)())
     // clang-format on
 }
 
-/// The barristers of the case, to whom the disbursements point.
+/// The barristers of the case, to whom the disbursements refer.
 const clsScreen &ScreenCounsel()
 {
     using enum clsRowKind;

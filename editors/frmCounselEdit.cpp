@@ -4,7 +4,7 @@
 #include "editors/mdPeopleLists.h"
 #include "formdata/clsZR3Form.h"
 
-/// A barrister: the name, the account that the claim names beside the fee, and whether VAT is charged.
+/// A barrister: the name, the account printed beside the fee, and whether VAT is charged.
 clsScreen mdCounselEditor(const char *name)
 {
     using enum clsRowKind;

@@ -3,8 +3,8 @@
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
 
-/// Who owes the costs. Unlike on every other screen no tick clears another one here, neither those of the debtor's
-/// work nor those of the question: that is meant, and the export prints what it is given.
+/// Who owes the costs. Unlike on every other screen, ticks are not exclusive here, neither those of the debtor's work
+/// nor those of the question; the export prints them as they are. Required behaviour; do not fix.
 const clsScreen &ScreenDebtorsDetails()
 {
     using enum clsRowKind;

@@ -3,9 +3,10 @@
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
 
-/// Costs awarded to the client, and what became of them. The total is typed and not added up, and an amount that hangs
-/// on a question stays open whatever the answer. Only one of the forms prints the total: its frame says so, within the
-/// order of the others, and stays open too. The frames behind it, which only keep that order, have no caption.
+/// Costs awarded to the client, and what was recovered of them. The total is typed, not computed, and amounts that
+/// depend on a question stay enabled whatever the answer. Only one of the forms prints the total: its frame says so at
+/// its place in the order, and also stays enabled. The frames after it exist only to keep that order and have no
+/// caption.
 const clsScreen &ScreenDetailsOfCostsAwarded()
 {
     using enum clsRowKind;

@@ -3,7 +3,7 @@
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
 
-/// The work that is claimed, and why an enhancement is asked for. Both texts run on to continuation sheets.
+/// The work claimed, and the reasons for an enhancement. Both texts can run on to continuation sheets.
 const clsScreen &ScreenDetailsOfWork()
 {
     using enum clsRowKind;

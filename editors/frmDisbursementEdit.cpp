@@ -14,8 +14,8 @@ void rules(frmSection &screen)
 
 } // namespace
 
-/// Something that the firm paid out; with the tick it is a counsel's fee. The amounts bear an asterisk and are not
-/// asked for at Save, since their boxes are never blank.
+/// A payment made by the firm; with the tick it is a counsel's fee. The amounts have an asterisk but are not checked by
+/// Save, because their boxes are never blank.
 const clsScreen &ScreenDisbursementEdit()
 {
     using enum clsRowKind;

@@ -10,7 +10,8 @@
 
 namespace {
 
-/// The bill and the printed pages know counsel's fees and the others apart, each in the order of the grid.
+/// The bill and the printed pages list counsel's fees and other disbursements separately, each in the order of the
+/// grid.
 void separate()
 {
     Form->SeparateCounselAndNonCounselDisbursements();
@@ -95,9 +96,9 @@ void rules(frmSection &screen)
 
 } // namespace
 
-/// Everything that the firm paid out: experts, what they have to meet and share, and the other disbursements. The
-/// statement about experts belongs to the claim itself and is stored on every way out but the close box; the menu's
-/// ways to other sections leave it, as its Save does.
+/// Everything that the firm paid out: experts, joint instructions, and other disbursements. The statement about experts
+/// belongs to the claim itself. It is stored on every way out except the close box; the menu's links to other sections
+/// and its Save don't store it.
 const clsScreen &ScreenDisbursements()
 {
     using enum clsRowKind;

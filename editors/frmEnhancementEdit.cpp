@@ -3,7 +3,7 @@
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
 
-/// A named percentage. Any rate is taken, one of nothing too, which has no effect.
+/// A named percentage. Any rate is allowed, even an empty one, which has no effect.
 const clsScreen &ScreenEnhancementEdit()
 {
     using enum clsRowKind;
@@ -18,7 +18,7 @@ const clsScreen &ScreenEnhancementEdit()
         .frames = {
             {"bxGeneral", "Enhancement", {
                 {Text,    "txtName", "Name:*", 0, Required},
-                // Marked as required and not asked for: a Save looks at the name only.
+                // Marked as required but not checked: Save only checks the name.
                 {Decimal, "txtRate", "Rate:*"},
             }},
         },

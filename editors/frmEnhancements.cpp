@@ -29,7 +29,7 @@ const clsItemList EnhancementList {
 
 } // namespace
 
-/// The named percentages of the claim, to which time items and letters and calls point.
+/// The named percentages of the claim, used by schedule items, letters and calls.
 const clsScreen &ScreenEnhancements()
 {
     using enum clsRowKind;

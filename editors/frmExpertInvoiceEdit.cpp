@@ -13,7 +13,7 @@ void rules(frmSection &screen)
 
 } // namespace
 
-/// One expert's invoice. The net amount is entered and not summed: the costs above it are only reported on the form.
+/// One expert's invoice. The net amount is entered, not computed: the costs above it are only printed on the form.
 const clsScreen &ScreenExpertInvoiceEdit()
 {
     using enum clsRowKind;

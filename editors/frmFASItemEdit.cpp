@@ -3,7 +3,7 @@
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
 
-/// A hearing that is paid by units, with its bolt-ons and fixed payments. Its VAT is typed and not worked out.
+/// A hearing paid by units, with its bolt-ons and fixed payments. Its VAT is typed, not computed.
 const clsScreen &ScreenFASItemEdit()
 {
     using enum clsRowKind;

@@ -43,8 +43,8 @@ const clsItemList Hearings {
 
 } // namespace
 
-/// The hearings that are paid by units. While there is one, they stand for the advocacy of the bill. The screen writes
-/// nothing of its own: its button only closes it.
+/// Hearings paid by units. If there are any, they replace the advocacy on the bill. The screen itself stores nothing:
+/// its button only closes it.
 const clsScreen &ScreenFamilyAdvocacyScheme()
 {
     // clang-format off

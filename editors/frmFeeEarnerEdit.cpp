@@ -13,7 +13,7 @@ void loadGroup(const clsScreenRow &, QWidget &control, clsXMLRecord &record)
         static_cast<clsZR3FeeEarner &>(record).GroupUniqueID());
 }
 
-/// A fee earner of a file whose group is missing keeps what it says, until one is chosen.
+/// If a file's group is missing, the fee earner keeps its identity until the user chooses another.
 void storeGroup(const clsScreenRow &, const QWidget &control, clsXMLRecord &record)
 {
     const QString chosen = static_cast<const oFeeEarnerGroupCombo &>(control).SelectedFeeEarnerGroupUniqueID();
@@ -25,7 +25,7 @@ constexpr clsOtherControl Group {mdMakeOther<oFeeEarnerGroupCombo>, loadGroup, s
 
 } // namespace
 
-/// One fee earner: a short code, and the group that has the rates.
+/// A fee earner: a short code, and the group with the rates.
 clsScreen mdFeeEarnerEditor(const char *name)
 {
     using enum clsRowKind;

@@ -24,7 +24,7 @@ namespace {
 
 constexpr int RateSetsPage = 3;
 
-/// The names of the claim's groups are suggested, so that groups of one grade are called the same.
+/// Suggests the names of the claim's groups, so that groups of the same grade get the same name.
 QWidget *makeName(const clsScreenRow &, QWidget *parent)
 {
     auto *box = new oTypeAheadBox(parent);
@@ -47,7 +47,7 @@ void storeName(const clsScreenRow &, const QWidget &control, clsXMLRecord &recor
 
 constexpr clsOtherControl Name {makeName, loadName, storeName};
 
-/// Without an enhancement there is no rate of it, and none of the communications.
+/// Without an enhancement, its rate and the one for communications don't apply.
 void enhanceChanged(const frmSection &screen, bool enhance)
 {
     auto &rate = screen.Box<oDecimalBox>("txtEnhancementRate");
@@ -60,7 +60,7 @@ void enhanceChanged(const frmSection &screen, bool enhance)
     communications.setChecked(false);
 }
 
-/// Copies the rates of a rate set into the boxes that are named after them, and nothing into the group.
+/// Copies the rates of a rate set to the boxes with their names; the group itself doesn't change.
 void loadRateSet(const frmSection &screen, const clsZR3RateSet &rateSet)
 {
     for (const clsScreenField &field : screen.Fields())
@@ -69,7 +69,7 @@ void loadRateSet(const frmSection &screen, const clsZR3RateSet &rateSet)
                 box->setText(rate->readText());
 }
 
-/// The menu is made anew whenever it is opened, so that it always holds the rate sets as they were last edited.
+/// The menu is filled whenever it opens, so that it shows the current rate sets.
 void makeRateSetMenu(frmSection &screen)
 {
     auto *menu = new QMenu(&screen);
@@ -80,7 +80,7 @@ void makeRateSetMenu(frmSection &screen)
         [&screen](const QAction *entry) { loadRateSet(screen, *Preferences->RateSet(entry->data().toInt())); });
     auto &load = screen.Box<oCustomButton>("cmdLoad");
     QObject::connect(&load, &oCustomButton::Click, menu, [menu, &load] {
-        // On a low screen its letter may be pressed while it is scrolled out of sight: the focus brings it into view.
+        // If the letter is pressed while the button is scrolled out of view, the focus scrolls to it.
         load.clearFocus();
         load.setFocus(Qt::ShortcutFocusReason);
         menu->popup(load.mapToGlobal(QPoint(Theme::RingRoom, load.height())));
@@ -98,7 +98,7 @@ void rules(frmSection &screen)
 
 } // namespace
 
-/// A group of fee earners: its name, the enhancement of all its work, and the seven rates, which may be taken from a
+/// A group of fee earners: its name, the enhancement of all its work, and the seven rates, which can be copied from a
 /// rate set of the preferences.
 clsScreen mdGroupEditor(const char *name)
 {

@@ -12,7 +12,7 @@
 
 namespace {
 
-/// The groups that some fee earner names.
+/// The groups that at least one fee earner belongs to.
 QSet<QString> groupsInUse()
 {
     QSet<QString> named;
@@ -31,7 +31,7 @@ QStringList emptyGroups()
     return references;
 }
 
-/// For a firm whose groups are its people: each group without a fee earner gets one of its own name.
+/// For a firm with one group for each person: each empty group gets a fee earner with the group's name.
 void createFeeEarners(frmSection &)
 {
     const QStringList references = emptyGroups();
@@ -113,7 +113,7 @@ clsItemList mdFeeEarnerList(const clsScreen &(*editor)())
     // clang-format on
 }
 
-/// The groups of fee earners, which have the rates, and the fee earners themselves.
+/// The groups of fee earners, with their rates, and the fee earners themselves.
 const clsScreen &ScreenFeeEarnerGroups()
 {
     using enum clsRowKind;

@@ -36,7 +36,7 @@ void rules(frmSection &screen)
         [&screen](bool checked) { screen.Box("txtVATRate").setEnabled(checked); });
 }
 
-// What is no solicitor's detail, and so in no record of the screen.
+// Values outside the solicitor's details, which the screen's record doesn't hold.
 
 void load(const frmSection &screen, const clsFirm &firm)
 {
@@ -55,7 +55,7 @@ void store(const frmSection &screen, clsFirm &firm)
 
 } // namespace
 
-/// The firm, its people and its counsel, for new claims. The lists and their editors are those of a claim.
+/// The firm, its people and its counsel for new claims. The lists and editors are the same as in a claim.
 const clsScreen &ScreenFirmAndTeam()
 {
     using enum clsRowKind;
@@ -113,7 +113,7 @@ bool mdShowFirmAndTeam(QWidget *owner)
     frmSection screen(ScreenFirmAndTeam(), owner);
     QObject::connect(&screen, &frmSection::Loaded, &screen, [&] { load(screen, *firm); });
     bool kept = false;
-    // Before the screen closes, so that nothing is lost where the file can't be written.
+    // Before the screen closes, so that nothing is lost if the file can't be written.
     screen.setMayStore([&] {
         screen.Store(clsStoring::Closing);
         store(screen, *firm);

@@ -15,7 +15,7 @@ QStringList formTypes()
     return {QStringLiteral("Claim1"), QStringLiteral("Claim1A")};
 }
 
-/// The form Claim1 has ten pages. The ticks of the others keep their state while they are disabled, and it is stored.
+/// Claim1 has ten pages. The ticks of the other pages keep their state while disabled, and are stored.
 void formTypeChanged(const frmSection &screen)
 {
     const QString type = screen.Box<QComboBox>("cmbFormType").currentText();
@@ -30,18 +30,18 @@ void rules(frmSection &screen)
     QObject::connect(&screen.Box<QComboBox>("cmbFormType"), &QComboBox::currentIndexChanged, &screen,
         [&screen] { formTypeChanged(screen); });
     formTypeChanged(screen);
-    // The rate keeps its text while it is disabled: the totals go on using it.
+    // The rate keeps its text while disabled: the totals still use it.
     QObject::connect(&screen.Box<oCheckBox>("chkVAT"), &oCheckBox::Click, &screen,
         [&screen](bool checked) { screen.Box("txtVATRate").setEnabled(checked); });
-    // No export goes without the first page, whatever a file says.
+    // Every export includes the first page, whatever the file says.
     QObject::connect(&screen, &frmSection::Loaded, &screen,
         [&screen] { screen.Box<oCheckBox>("chkIncludePage1").setChecked(true); });
 }
 
 } // namespace
 
-/// What kind of claim this is: the form, VAT, the ticks of its first page, the pages that the export makes, and the
-/// user's own notes. It writes to the claim itself, and its one button stores.
+/// The kind of claim: the form, VAT, the ticks of its first page, the pages to export, and the user's notes. The record
+/// is the claim itself, and the only button stores.
 const clsScreen &ScreenFormSetup()
 {
     using enum clsRowKind;

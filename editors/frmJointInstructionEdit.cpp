@@ -3,7 +3,7 @@
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
 
-/// A party's share in an expert who was instructed jointly.
+/// A party's share of a jointly instructed expert.
 const clsScreen &ScreenJointInstructionEdit()
 {
     using enum clsRowKind;
@@ -11,7 +11,7 @@ const clsScreen &ScreenJointInstructionEdit()
     static const clsScreen screen {
         .name = "frmJointInstructionEdit",
         .header = "Joint Instruction",
-        // Misspelled, and meant so: the users know the screen by this line.
+        // The misspelling is required: users know the screen by this line. Do not fix.
         .subCaption = "Change a joint instructiuon's settings",
         .iconGroup = 12,
         .width = clsScreenWidth::Edit,

@@ -3,8 +3,8 @@
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
 
-/// What kind of family proceedings. A case can be of several kinds, whose ticks are independent; only the two
-/// questions are pairs.
+/// The kind of family proceedings. A case can be of several kinds, whose ticks are independent; only the two questions
+/// are pairs.
 const clsScreen &ScreenNatureOfProceedings()
 {
     using enum clsRowKind;

@@ -4,9 +4,9 @@
 #include "formdata/mdGlobals.h"
 #include "formdata/mdOutcomesCollections.h"
 
-/// How the case ended. A list is stored by the place of its entry, so that the order of the lists is part of the file
-/// format. What was awarded can be several things at once. The last two frames only say that their dates belong to one
-/// form type: they stay open on both.
+/// How the case ended. A list is stored by the position of its entry, so the order of its entries is part of the file
+/// format. Several kinds of award can be ticked together. The captions of the last two frames say that their dates
+/// belong to one form type; they are enabled for both.
 const clsScreen &ScreenOutcomeOfCase()
 {
     using enum clsRowKind;

@@ -58,7 +58,7 @@ clsImportedRows read(const clsPasteList &list, const QString &text)
     return rows;
 }
 
-/// The line above the columns, short enough for its place.
+/// The header line above the columns, shortened to fit.
 QString headingLine(const QStringList &header)
 {
     constexpr qsizetype Longest = 90;
@@ -186,7 +186,7 @@ QWidget *frmPasteItems::makeBar()
     };
     cmdNextWrong = button("cmdNextWrong", QStringLiteral("&Next Wrong Row"));
     connect(cmdNextWrong, &oCustomButton::Click, this, [this] {
-        // Behind the last one the first is the next.
+        // After the last one, continues with the first.
         if (!m_grid->GoToWrong(1)) {
             m_grid->setCurrentIndex({});
             m_grid->GoToWrong(1);
@@ -221,7 +221,7 @@ void frmPasteItems::makeTabOrder()
         next(widget);
 }
 
-/// The first wrong cell; else what the user has come for.
+/// Focuses the first wrong cell, otherwise the button that adds the rows if it is enabled.
 void frmPasteItems::focusFirst()
 {
     if (m_grid->GoToWrong(1))
@@ -274,7 +274,7 @@ void frmPasteItems::showState()
     cmdAdd->setAccessibleDescription(whyOff);
 }
 
-/// Of a list without a sum, and where it would be too large, nothing.
+/// Empty for a list without a sum, and if the sum would overflow.
 QString frmPasteItems::totalOfChosen() const
 {
     if (!m_list.total || Rows().chosen() == 0)

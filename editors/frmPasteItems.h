@@ -12,17 +12,17 @@ class oPasteGrid;
 class QLabel;
 struct clsPasteList;
 
-/// The rows of a table as they will be stored in a list of the claim. What a column means, a cell and which rows are
-/// added can be changed first; the claim is not touched before it is closed by "Add".
+/// Shows the rows of a table as they will be stored in a list of the claim. The user can first change the meaning of a
+/// column, a cell, and which rows are added; the claim doesn't change until "Add" closes the window.
 class frmPasteItems : public QDialog {
     Q_OBJECT
 
 public:
-    /// What the rows come from.
+    /// The source of the rows.
     struct clsSource {
         QString title; ///< "Paste Items"
         QString from; ///< "the clipboard"
-        QString empty; ///< what stands in place of the rows where the text holds none
+        QString empty; ///< shown instead of rows if the text has none
     };
 
     frmPasteItems(const clsPasteList &list, const QString &text, const clsSource &source, QWidget *parent = nullptr);

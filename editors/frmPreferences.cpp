@@ -23,12 +23,12 @@ void browse(const frmSection &screen)
 
 void rules(frmSection &screen)
 {
-    // That is all that the tick does: the path is stored and backed up to whether it is set or not.
+    // The tick has no other effect: the path is stored and used for backups whether or not it is set.
     QObject::connect(&screen.Box<oCheckBox>("chkAutoBackup"), &oCheckBox::Click, &screen,
         [&screen](bool checked) { screen.Box("cmdAutoBackupPathBrowse").setEnabled(checked); });
     QObject::connect(&screen.Box<oCustomButton>("cmdAutoBackupPathBrowse"), &oCustomButton::Click, &screen,
         [&screen] { browse(screen); });
-    // Nothing else brings the preferences to the disk, the lists included, which change at once.
+    // The only place that writes the preferences to disk, including the lists, which change at once.
     QObject::connect(&screen, &frmSection::Stored, &screen, [] { Preferences->SaveXML(); });
 }
 
@@ -92,7 +92,7 @@ const clsItemList &rateSets()
 
 } // namespace
 
-/// The settings that outlive a claim. Nothing is checked: an empty rate is stored as such.
+/// Settings for all claims. Nothing is checked: an empty rate is stored as such.
 const clsScreen &ScreenPreferences()
 {
     using enum clsRowKind;

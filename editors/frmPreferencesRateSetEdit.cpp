@@ -11,7 +11,7 @@
 
 namespace {
 
-/// What a rate is of the hourly one.
+/// A rate as a fraction of the hourly one.
 struct clsShare {
     const char *control;
     double factor;
@@ -42,7 +42,7 @@ void rules(frmSection &screen)
 
 } // namespace
 
-/// A named set of rates, from which a fee earner group can take its own.
+/// A named set of rates to copy to fee earner groups.
 const clsScreen &ScreenPreferencesRateSetEdit()
 {
     using enum clsRowKind;

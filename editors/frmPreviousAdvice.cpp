@@ -3,8 +3,8 @@
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
 
-/// Advice under legal help before the certificate. The second frame only says that its question belongs to one form
-/// type: its fields stay open on both, and so does the box for the reasons, whatever is ticked above it.
+/// Advice under legal help before the certificate. The second frame's caption says that its question belongs to one
+/// form type: its fields stay enabled for both, and so does the box for the reasons, whatever is ticked above it.
 const clsScreen &ScreenPreviousAdvice()
 {
     using enum clsRowKind;

@@ -27,8 +27,8 @@ void rules(frmSection &screen)
 
 } // namespace
 
-/// An abbreviation and the text that it stands for. The abbreviation's own box expands nothing: it would put the text
-/// in its place as soon as a blank is typed behind it.
+/// An abbreviation and its full text. The box of the abbreviation expands nothing: it would replace the abbreviation as
+/// soon as a blank is typed after it.
 const clsScreen &ScreenReplacementEdit()
 {
     using enum clsRowKind;

@@ -17,7 +17,7 @@ void renderForBill()
     Form->RenderAdditionalInformationItems();
 }
 
-/// Whoever does a piece of work sets its price.
+/// The fee earner determines the price of an item.
 QString whyNoAdd()
 {
     return Form->FeeEarnersCollection().empty() ? QStringLiteral("Add a fee earner under Fee Earners / Rates first.")
@@ -64,14 +64,14 @@ const clsItemList ScheduleItems {
 
 void rules(frmSection &screen)
 {
-    // What stands on the bill depends on the tick and on the order, which the arrows change.
+    // The bill depends on the tick and on the order of the items.
     QObject::connect(&screen, &frmSection::Stored, &screen, renderForBill);
 }
 
 } // namespace
 
-/// The dated work of the bill. The tick takes effect where the screen is closed by its button only; all other ways out
-/// leave it as it was, and that is meant.
+/// The dated work of the bill. The tick is stored only if the screen is closed by its button. Required behaviour; do
+/// not fix.
 const clsScreen &ScreenScheduleOfTime()
 {
     using enum clsRowKind;

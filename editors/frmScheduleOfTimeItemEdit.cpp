@@ -26,7 +26,7 @@ void loadFeeEarner(const clsScreenRow &, QWidget &control, clsXMLRecord &record)
     static_cast<oFeeEarnerCombo &>(control).setSelectedFeeEarner(itemOf(record).FeeEarner());
 }
 
-/// An item of a file whose fee earner is missing keeps what it says, until one is chosen.
+/// If a file's fee earner is missing, the item keeps its identity until the user chooses another.
 void storeFeeEarner(const clsScreenRow &, const QWidget &control, clsXMLRecord &record)
 {
     const auto &list = static_cast<const oFeeEarnerCombo &>(control);
@@ -66,7 +66,7 @@ void rules(frmSection &screen)
         if (!advocacy)
             useHourlyRate.setChecked(false);
     });
-    // A time has a colon from the first: without one the item could not be priced.
+    // A new time starts with a colon: without one the item could not be priced.
     QObject::connect(&screen, &frmSection::Loaded, &screen, [&screen] {
         auto &time = screen.Box<oTimeBox>("txtTime");
         if (time.Text().isEmpty())
@@ -78,8 +78,8 @@ void rules(frmSection &screen)
 
 } // namespace
 
-/// A piece of work: whose, when, what and how long, and in which capacity, which decides on its rate. Advocacy goes
-/// with each of the three that exclude each other: an advocate may attend counsel, travel or wait.
+/// A piece of work: the fee earner, date, code, time and capacity, which determines the rate. Advocacy can be combined
+/// with each of three exclusive ticks: an advocate may attend counsel, travel or wait.
 const clsScreen &ScreenScheduleOfTimeItemEdit()
 {
     using enum clsRowKind;

@@ -55,7 +55,7 @@ constexpr clsWidth Widths[] = {
 };
 // clang-format on
 
-/// A list is as high as this; all other screens are as high as what they show.
+/// The initial height of a list; other screens are as high as their content.
 constexpr int ListHeight = 680;
 constexpr int LowestWindow = 300;
 
@@ -128,8 +128,8 @@ void frmSection::buildFileMenu()
     QAction *save = file->addAction(QStringLiteral("&Save"));
     save->setObjectName(QStringLiteral("mnuSave"));
     save->setShortcut(Qt::CTRL | Qt::Key_S);
-    // The claim as it stands, without the store step. That is meant: the button closes the section, the key protects
-    // the work done so far.
+    // Saves the claim without storing this screen: the button closes the section, the key saves the work so far.
+    // Required behaviour; do not fix.
     connect(save, &QAction::triggered, this, [] { SaveForm(false); });
 }
 
@@ -157,9 +157,9 @@ void frmSection::connectBar()
     connect(m_bar, &oScreenBar::Close, this, &frmSection::Close);
     connect(m_bar, &oScreenBar::Jump, this, [this](const QString &section) { JumpTo(section, true); });
     connect(m_bar, &oScreenBar::Cancel, this, [this] {
-        // A box with bad input holds the focus and so all buttons, this one too; Esc and the close box are free. Only
-        // on a screen without this button Esc is Close, which stores and which such a box keeps, so that nothing typed
-        // is lost.
+        // A box with invalid text keeps the focus and blocks all buttons, including this one, but not Esc and the close
+        // box. On a screen without this button Esc is Close, which stores and is blocked too, so that typed text isn't
+        // lost.
         if (mdLeaveFocusedBox(this))
             Cancel();
     });
@@ -200,16 +200,16 @@ void frmSection::Initialise(clsXMLRecord *item)
     for (const clsList &list : m_lists)
         list.actions->draw();
     showCounts();
-    // A list numbers its items when it is drawn.
+    // Drawing the lists has numbered their items, which belongs to the last step.
     if (m_undo)
         Document().history.join();
     emit Loaded();
     m_loadedTexts = mdFieldTexts(m_fields);
-    // Unless the rules have put the focus elsewhere.
+    // Unless the rules have set the focus.
     enterFirst(None);
 }
 
-/// Gives the focus, where nothing has it, to the first field that can take it and has none of the flags.
+/// If nothing has the focus, sets it to the first field that can take it and has none of the flags `passedOver`.
 void frmSection::enterFirst(unsigned passedOver)
 {
     for (const clsScreenField &field : m_fields) {
@@ -222,7 +222,7 @@ void frmSection::enterFirst(unsigned passedOver)
     }
 }
 
-/// A figure that nobody has been to would be stored as nothing, and then the item could not be priced.
+/// A number that the user hasn't visited would be stored as empty, and the item could not be priced.
 void frmSection::startFiguresAtZero()
 {
     for (const clsScreenField &field : m_fields) {
@@ -244,7 +244,7 @@ void frmSection::Store(clsStoring storing)
     emit Stored();
 }
 
-/// What an item's editor stores is part of what its list does, and the preferences are no claim.
+/// Item editors store within the step of their list, and the preferences are not part of the claim.
 void frmSection::storeAsStep(clsStoring storing)
 {
     if (m_screen.fileMenu)
@@ -270,9 +270,9 @@ bool frmSection::checkRequired()
     return false;
 }
 
-/// What a file has brought into a box that the user has not been to may be no value at all. The editor of an item
-/// stores none of it and goes to its box. What fits is stored as it stands, and so is an amount that is empty until its
-/// box has had the focus; only a time takes its form.
+/// A box that the user hasn't visited may hold an invalid value from a file. An item's editor then stores nothing and
+/// focuses the box. Valid text is stored unchanged, as is an amount that is empty until its box has had the focus; only
+/// a time is reformatted.
 bool frmSection::checkTyped()
 {
     if (!m_screen.itemWord)
@@ -306,7 +306,7 @@ void frmSection::Close()
 
 void frmSection::Cancel()
 {
-    // Only the editors of items go through the confirmation.
+    // Only item editors call the confirmation.
     if (m_screen.itemWord && !mdConfirmCancelEdit(QString::fromUtf8(m_screen.itemWord)))
         return;
     mdKeepNotStored(*this);
@@ -323,7 +323,8 @@ void frmSection::Next()
     leaveFor(mdNextSection(QString::fromUtf8(m_screen.section), Form->FormType()));
 }
 
-/// Moving on always saves; only Cancel drops changes. A form of an unknown type leads nowhere, and nothing happens.
+/// Moving on always stores; only Cancel discards changes. For an unknown form type there is no target, and nothing
+/// happens.
 void frmSection::leaveFor(const QString &section)
 {
     if (!section.isEmpty())
@@ -362,7 +363,7 @@ void frmSection::closeEvent(QCloseEvent *event)
     if (m_screen.ending == clsScreenEnding::SaveCancel) {
         Cancel();
     } else {
-        // Where there is no Cancel, this alone drops what is typed.
+        // On a screen without Cancel this is the only way to discard typed text.
         mdKeepNotStored(*this);
         done(Rejected);
     }

@@ -19,12 +19,12 @@ class oScreenBar;
 class oScreenPage;
 class QMenuBar;
 
-/// What a screen is stored for.
+/// Why a screen is stored.
 enum class clsStoring { Closing, MovingOn };
 
-/// A screen of the claim, made from its table: a section, a list, or the editor of an item. It holds no data between
-/// openings: it copies its record into the controls when it is initialised, and back when it stores. Whatever a single
-/// screen does beyond that is wired by its rules, which find the controls by their names.
+/// A screen of the claim, created from its table: a section, a list, or the editor of an item. It keeps no data between
+/// openings: initialising copies its record into the controls, storing copies them back. Anything beyond that is set up
+/// by the screen's rules, which find the controls by name.
 class frmSection : public QDialog {
     Q_OBJECT
 
@@ -33,76 +33,76 @@ public:
 
     const clsScreen &Screen() const { return m_screen; }
 
-    /// Tells the log, and fills the controls from the section's record.
+    /// Logs the opening and fills the controls from the section's record.
     void Initialise();
-    /// The same for the editor of an item, or for a new one that the first Save makes.
+    /// The same for an item's editor; without an item the first Save creates one.
     void Initialise(clsXMLRecord *item);
-    /// Fills the controls of a new item with what another holds.
+    /// Fills the controls of a new item from another item.
     void StartLike(clsXMLRecord &other);
-    /// The record that is edited; nothing while a new item has none.
+    /// The edited record; null while a new item has none.
     clsXMLRecord *Record() const { return m_record; }
 
-    /// Writes the controls to the record, in the order of the table: all of them where the screen closes, and on the
-    /// way to another section all but those that are stored at the close only.
+    /// Writes the controls to the record in the order of the table: all of them when the screen closes; on the way to
+    /// another section, without those stored only on closing.
     void Store(clsStoring storing);
     void Save();
-    /// Stores as Save does and stays open for a new item, which begins with what its table keeps.
+    /// Saves and stays open for a new item, with the fields that its table keeps.
     void SaveAndAdd();
     void Cancel();
     void Close();
     void Prev();
     void Next();
-    /// Leaves for another section, with the store step or without it.
+    /// Leaves for another section, with or without storing.
     void JumpTo(const QString &section, bool store);
 
-    /// A rule's own check before a Save, once nothing required is missing and before anything is made or written. Where
-    /// it says no, having told the user why, the screen stays.
+    /// Sets a rule's own check for Save, run after the required fields are found filled and before anything is created
+    /// or written. If it returns false, having told the user why, the screen stays open.
     void setMayStore(std::function<bool()> mayStore) { m_mayStore = std::move(mayStore); }
 
-    /// Told of each item that "Save and Add" has stored; says what the item is called.
+    /// Sets the function called for each item that "Save and Add" stores; returns the item's name.
     void setAdded(std::function<QString()> added) { m_added = std::move(added); }
-    /// Adds a copy of the item that is chosen in the list with the focus, after the user has been through its editor.
+    /// Opens the editor with a copy of the item selected in the focused list, and adds it on Save.
     void SameAgain();
-    /// Looks for words in the list that has the focus, or else the first that is to be seen.
+    /// Finds words in the focused list, otherwise in the first visible one.
     void Find();
-    /// Sets one field of the rows that are marked in that list.
+    /// Sets one field of the rows marked in that list.
     void ChangeSelected();
     bool CanChangeSelected() const;
-    /// Whether one of its lists has fields that can be set so.
+    /// Whether one of its lists has fields that can be set this way.
     bool ChangesItems() const;
-    /// Whether one of its lists takes new items.
+    /// Whether items can be added to one of its lists.
     bool AddsItems() const;
 
-    /// The control of that name; a name that the screen doesn't have is the object error.
+    /// The control with that name; an unknown name raises the object error.
     QWidget &Box(const char *name) const;
-    /// The same as what it is: `Box<oDecimalBox>("txtVATRate")`.
+    /// The same with its type: `Box<oDecimalBox>("txtVATRate")`.
     template <class Control> Control &Box(const char *name) const { return static_cast<Control &>(Box(name)); }
-    /// All fields, in the order of the table; behind a list stands its button "Add".
+    /// All fields, in the order of the table; a list is followed by its button "Add".
     const std::vector<clsScreenField> &Fields() const { return m_fields; }
-    /// What was in the fields when they were filled.
+    /// The texts of the fields when they were filled.
     const QStringList &LoadedTexts() const { return m_loadedTexts; }
-    /// The switcher of a screen with pages; the object error where there is none.
+    /// The switcher of a screen with pages; raises the object error if there is none.
     oContentSwitcher &Switcher() const;
-    /// Shows all lists as they now are, and what can be added to them.
+    /// Redraws all lists and updates what can be added to them.
     void RedrawLists();
-    /// Selects the row of an item in the list that it is of, and opens that list's page; nothing where no list has it.
+    /// Selects an item's row in its list and opens that list's page; does nothing if no list has it.
     void ShowItem(const clsZR3Item *item);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 signals:
-    /// The controls have just been filled from the record.
+    /// The controls have been filled from the record.
     void Loaded();
-    /// The record has just been written.
+    /// The record has been written.
     void Stored();
 
 public slots:
-    /// Esc: Cancel, or Close on a screen that has no other way out, so that nothing typed is lost.
+    /// Esc: Cancel, or Close on a screen without Cancel, so that typed text isn't lost.
     void reject() override;
 
 protected:
-    /// The close box leaves without storing, on every screen, and as Cancel does where there is one.
+    /// The close box leaves every screen without storing; if there is a Cancel, it does the same.
     void closeEvent(QCloseEvent *event) override;
 
 private:
@@ -138,7 +138,7 @@ private:
         int page;
     };
     std::vector<clsList> m_lists;
-    // Of a screen with a list of the claim.
+    // On a screen with a list of the claim.
     oListLine *m_line = nullptr;
     clsScreenUndo *m_undo = nullptr;
     std::function<bool()> m_mayStore;

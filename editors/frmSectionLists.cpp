@@ -12,7 +12,7 @@
 
 #include <algorithm>
 
-// The lists of a screen, with what is undone on it.
+// The lists of a screen, and Undo on it.
 
 void frmSection::buildLists()
 {
@@ -27,8 +27,8 @@ void frmSection::buildLists()
     }
 }
 
-/// Before the bar, which the Tab key comes to after it. The preferences, whose lists are none of the claim's, have no
-/// menu of the claim's file either.
+/// Before the bar, so that it comes first in the tab order. The preferences, whose lists are not part of the claim,
+/// also have no menu for the claim's file.
 void frmSection::buildLine()
 {
     const auto isList = [](const clsScreenField &field) { return field.row->kind == clsRowKind::Items; };
@@ -39,7 +39,7 @@ void frmSection::buildLine()
 void frmSection::buildUndo()
 {
     if (!m_line) {
-        // The preferences have lists and no menu.
+        // The preferences have lists but no menu.
         if (!m_lists.empty())
             connect(new QShortcut(Qt::CTRL | Qt::Key_F, this), &QShortcut::activated, this, &frmSection::Find);
         return;

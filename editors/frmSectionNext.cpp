@@ -6,7 +6,7 @@
 #include "editors/oScreenBar.h"
 #include "editors/oStoredNote.h"
 
-// The editor of an item that goes on with the next one, or begins like another.
+// Item editors that continue with the next item, or start from another one.
 
 void frmSection::StartLike(clsXMLRecord &other)
 {
@@ -22,7 +22,7 @@ void frmSection::SaveAndAdd()
     Store(clsStoring::Closing);
     m_bar->storedNote()->Tell(m_added ? m_added() : QString::fromUtf8(m_screen.itemWord));
     m_record = nullptr;
-    // It goes to where the next item begins, also within the box that it is in.
+    // Moves the focus to where the next item starts, even within the same box.
     if (QWidget *focused = focusWidget())
         focused->clearFocus();
     for (const clsScreenField &field : m_fields)

@@ -3,7 +3,7 @@
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
 
-/// The firm that claims.
+/// The claiming firm.
 const clsScreen &ScreenSolicitorDetails()
 {
     using enum clsRowKind;

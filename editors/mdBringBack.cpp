@@ -22,17 +22,17 @@
 
 namespace {
 
-/// The column of the list of communications behind which its editor stands.
+/// The communications list opens its editor from this column on.
 constexpr int FirstCountColumn = 2;
 
-/// The editor of a list's items; nothing for a list without one.
+/// The editor of a list's items; null for a list without one.
 const clsScreen *editorOf(const clsScreenRow &row)
 {
     if (row.kind != clsRowKind::Items)
         return nullptr;
     if (row.items->editor)
         return &row.items->editor();
-    // Its counts are opened by the rules of the screen.
+    // The screen's rules open this editor.
     return row.control == QLatin1String("sgCommunications") ? &ScreenCorrespondences() : nullptr;
 }
 
@@ -52,7 +52,7 @@ bool holdsListOf(const clsScreen &screen, const QString &editor)
     });
 }
 
-/// The latest of which a condition holds.
+/// The latest entry that fulfils a condition.
 template <class Condition> const clsTypedTexts *latest(Condition condition)
 {
     const std::vector<clsTypedTexts> &all = NotStored().all();
@@ -68,8 +68,8 @@ const clsScreenField *fieldOf(const frmSection &screen, const QString &property)
     return nullptr;
 }
 
-/// Each takes the form that leaving its box would give it. The focus goes to the first that doesn't fit, which holds it
-/// as if it had been typed right now, or to the first.
+/// Each box reformats its text as on leaving it. The focus goes to the first box with invalid text, which holds it as
+/// if the user had just typed it, otherwise to the first box.
 void enter(const frmSection &screen, const std::vector<const clsScreenField *> &fields)
 {
     const auto refuses = [](const clsScreenField *field) {
@@ -94,7 +94,7 @@ void putBack(frmSection &screen, const clsTypedTexts &texts)
     enter(screen, put);
 }
 
-/// The number of the item in its grid; 0 where it has gone, and for a new one.
+/// The number of the item in its grid; 0 if it no longer exists or is new.
 int indexOf(const oSGrid &grid, const clsTypedTexts &texts)
 {
     int found = 0;
@@ -102,14 +102,14 @@ int indexOf(const oSGrid &grid, const clsTypedTexts &texts)
         const clsXMLField *order = item->field(u"OrderID");
         const bool isThere = order && order->readText() == QString::number(texts.orderID);
         const bool isIt = texts.item.isEmpty() ? isThere : mdItemMark(*item) == texts.item;
-        // Of several that are equal, the one at its place.
+        // Of several equal items, the one with the same order.
         if (isIt && (found == 0 || isThere))
             found = item->Index;
     }
     return found;
 }
 
-/// As a double click on the item's row, or the button "Add", does. It returns when the editor is closed.
+/// Does the same as a double click on the item's row or the button "Add". Returns when the editor is closed.
 void openEditor(frmSection &screen, size_t list, const clsTypedTexts &texts)
 {
     const clsScreenField &field = screen.Fields()[list];
@@ -130,7 +130,7 @@ void openEditor(frmSection &screen, size_t list, const clsTypedTexts &texts)
     }
 }
 
-/// Whether there is a way back to the screen.
+/// Whether the screen can be opened again.
 bool comesBack(const clsTypedTexts &texts)
 {
     return mdIsCostsLimit(texts) || !mdSectionOfNotStored(texts).isEmpty();
@@ -141,7 +141,7 @@ bool comesBack(const clsTypedTexts &texts)
 void mdKeepNotStored(const frmSection &screen)
 {
     clsTypedTexts texts = mdTypedIn(screen);
-    // What an undo has read anew since the screen was filled is nothing that was typed.
+    // Fields that Undo has reloaded since the screen was filled were not typed.
     if (clsXMLRecord *record = screen.Record())
         std::erase_if(texts.fields, [&](const auto &one) {
             const clsScreenField *field = fieldOf(screen, one.first);

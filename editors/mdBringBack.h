@@ -7,28 +7,28 @@
 class QWidget;
 class frmSection;
 
-// What was typed in a screen that was left without storing it, and how it comes back.
+// Restores text typed in a screen that was left without storing.
 
-/// Keeps what is typed in a screen that is about to be left without storing it.
+/// Keeps the text typed in a screen that is about to be left without storing.
 void mdKeepNotStored(const frmSection &screen);
 
-/// The latest that can be brought back from the main window; nothing where there is none.
+/// The latest text that can be restored from the main window; null if there is none.
 const clsTypedTexts *mdLatestNotStored();
-/// The latest that can be brought back on the screen of a list: of the editors of its items.
+/// The latest text from an item's editor that can be restored on the screen of its list.
 const clsTypedTexts *mdLatestNotStored(const frmSection &list);
 
 /// "Details of Work: 781 characters not stored".
 QString mdNotStoredInWords(const clsTypedTexts &texts);
 
-/// The text of the tab on whose screen they were typed, or stands the list of the item; empty for an unknown screen.
+/// The tab text of the screen where it was typed, or of the screen with the item's list; empty for an unknown screen.
 QString mdSectionOfNotStored(const clsTypedTexts &texts);
 
-/// What puts the texts back, once the screen of that section is shown: into it, or into the editor of the item, which
-/// it opens. Where the item has gone, that of a new one. Nothing is stored by that, and once the user stores them they
-/// are forgotten.
+/// Returns a function that restores the texts once the screen of their section is shown: on that screen, or in the
+/// item's editor, which it opens. If the item no longer exists, it opens the editor of a new one. Stores nothing
+/// itself; the texts are forgotten once the user stores them.
 std::function<void(frmSection &screen)> mdWayBack(const clsTypedTexts &texts);
 
-/// Whether they were typed in the dialog of the limit of costs, which lies over the main window itself.
+/// Whether they were typed in the costs limit dialog, which belongs to the main window.
 bool mdIsCostsLimit(const clsTypedTexts &texts);
-/// Puts the texts into the screen of theirs that is about to be shown over a window.
+/// Restores the texts in their screen, which is about to open over `below`.
 void mdPutBackWhenShown(QWidget &below, const clsTypedTexts &texts);

@@ -26,10 +26,10 @@ double rate()
 void mdCalculateVAT(const oDecimalBox &netBox, oDecimalBox &vatBox)
 {
     const Money amount = MoneyFromDouble(TextValue(netBox.Text()));
-    // The amount is divided before it is multiplied: the order decides the last digit of some figures.
+    // Divides before multiplying: the order affects the last digit of some amounts.
     const double base = amount.toDouble() / 100.0;
     const double product = rate() * base;
-    // The whole figure goes to the box, whose own format is the one rounding of it.
+    // Passes the unrounded amount, which the box rounds once.
     vatBox.setText(QString::number(product, 'f', QLocale::FloatingPointShortest));
 }
 

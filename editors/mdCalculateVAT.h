@@ -3,10 +3,10 @@
 class frmSection;
 class oDecimalBox;
 
-/// Writes the VAT on what the net box holds, at the claim's rate, into the other box. A rate that is no number is the
-/// type error; the form setup always leaves a number.
+/// Writes the VAT on the net box's amount, at the claim's rate, to the other box. Raises the type error if the rate is
+/// not a number; the form setup always leaves a number.
 void mdCalculateVAT(const oDecimalBox &netBox, oDecimalBox &vatBox);
 
-/// Lets the screen's button "Calculate" do that for the boxes of these names. It writes to the box only, so that the
-/// user can overtype the result, and any VAT may be saved.
+/// Connects the screen's button "Calculate" to that for the named boxes. Only the box changes, so that the user can
+/// overtype the result and save any VAT.
 void mdCalculateVATByButton(frmSection &screen, const char *netBox, const char *vatBox);

@@ -34,7 +34,7 @@ const clsScreenRow *rowOf(const clsScreen &editor, const char *control)
     return nullptr;
 }
 
-/// The room above a field goes with it.
+/// Hides the space above a field with it.
 void showRow(const clsScreenField &field, bool shown)
 {
     field.control->setVisible(shown);
@@ -53,14 +53,15 @@ void showRow(const clsScreenField &field, bool shown)
     }
 }
 
-/// The window of a change: the fields of the item's editor that can be set for several, of which one is shown.
+/// The window for changing several items: the fields of the item's editor that can be set together, one visible at a
+/// time.
 class clsChange {
 public:
     clsChange(const clsItemList &list, const clsMarkedItems &marked);
 
     const clsScreen &screen() const { return m_screen; }
     void prepare(frmSection &screen, clsZR3Item &selected);
-    /// What was set, such as "Fee Earner".
+    /// The name of the changed field, such as "Fee Earner".
     QString caption() const { return captionOf(*m_rows[m_chosen]); }
 
 private:
@@ -74,7 +75,7 @@ private:
     void store(const frmSection &screen) const;
 
     const clsMarkedItems &m_marked;
-    std::vector<const clsScreenRow *> m_rows; ///< as they stand in the editor
+    std::vector<const clsScreenRow *> m_rows; ///< as in the editor
     size_t m_chosen = 0;
     QByteArray m_subCaption;
     clsScreen m_screen;
@@ -141,7 +142,7 @@ void clsChange::choose(const frmSection &screen, int place)
     }
 }
 
-/// In the order of the editor's own checks.
+/// In the same order as the editor's checks.
 bool clsChange::mayChange(const frmSection &screen) const
 {
     QWidget &control = *chosenField(screen).control;
@@ -168,7 +169,7 @@ void clsChange::store(const frmSection &screen) const
 QString mdChangeSelected(frmSection &owner, const clsItemList &list, clsZR3Item &selected, const clsMarkedItems &marked)
 {
     clsChange change(list, marked);
-    // The list of fee earners keeps its choice for the next new item, which this is none.
+    // The list of fee earners stores its choice for the next new item; this is not a new item.
     const int chosenForNew = Form->DefaultFeeEarnerListIndex();
     const bool changed
         = mdEditItem(&owner, change.screen(), nullptr, [&](frmSection &screen) { change.prepare(screen, selected); });

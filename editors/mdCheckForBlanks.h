@@ -2,6 +2,6 @@
 
 #include <QStringList>
 
-/// Looks at the texts of required fields in their order. At the first that is empty it shows one message and returns
-/// False; blanks alone count as filled.
+/// Checks the texts of required fields in order. Shows one message for the first empty one and returns false; a text of
+/// blanks counts as filled.
 bool mdCheckForBlanks(const QStringList &texts);

@@ -2,5 +2,5 @@
 
 #include "editors/clsScreenTable.h"
 
-/// Gives a field what it has in the editor of a new item.
+/// Sets a field to its value in the editor of a new item.
 void mdClearControl(const clsScreenRow &row, QWidget &control);

@@ -12,7 +12,7 @@
 namespace {
 
 constexpr char FileName[] = "Columns.json";
-/// Over these the file begins anew, so that it can't grow for ever.
+/// Beyond this number the file starts again, so that it can't grow without limit.
 constexpr int MostProfiles = 200;
 
 QJsonObject profiles()
@@ -26,7 +26,7 @@ QJsonObject profiles()
     return document.object();
 }
 
-/// By which a table is known again; empty where it names no column.
+/// Identifies a table; empty if it names no columns.
 QString keyOf(const clsImportedRows &rows, const clsPasteList &list)
 {
     const QString line = rows.header().join(u'\t').simplified();

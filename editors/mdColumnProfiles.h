@@ -4,10 +4,9 @@ class clsImportedRows;
 class clsZR3Form;
 struct clsPasteList;
 
-// What the columns of a table with such a header line were taken for, kept in the state folder from one paste to the
-// next.
+// Stores in the state folder which meanings the user gave to the columns below a header line.
 
-/// Gives the columns the meanings that they had the last time.
+/// Applies the meanings used last time for these columns.
 void mdUseColumnProfile(clsImportedRows &rows, const clsZR3Form &form, const clsPasteList &list);
-/// Keeps the meanings that they now have. A table without a header line leaves nothing.
+/// Stores the present meanings. Does nothing for a table without a header line.
 void mdKeepColumnProfile(const clsImportedRows &rows, const clsPasteList &list);

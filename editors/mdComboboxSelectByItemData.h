@@ -3,5 +3,5 @@
 class QComboBox;
 class QVariant;
 
-/// Selects the first entry whose data equals the value. Without one, the selection stays as it was.
+/// Selects the first entry whose data equals the value; if there is none, keeps the selection.
 void mdComboboxSelectByItemData(QComboBox &combo, const QVariant &value);

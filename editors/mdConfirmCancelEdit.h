@@ -2,9 +2,8 @@
 
 #include <QString>
 
-/// Whether an item's editor may be left without saving. It asks nothing and always agrees: every Cancel closes at once.
-/// The editors go through it all the same, so that a question could be put back in one place: with the word for what
-/// they edit, and a detail where the word alone would not tell the item.
+/// Whether an item's editor may be left without saving. Always true, without a question. The editors still call it,
+/// with the item's name and a detail that identifies it, so that a question can be added in one place.
 inline bool mdConfirmCancelEdit([[maybe_unused]] const QString &what, [[maybe_unused]] const QString &detail = {})
 {
     return true;

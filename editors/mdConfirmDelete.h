@@ -2,5 +2,5 @@
 
 #include <QString>
 
-/// Asks whether an item, or the selected ones, may go. True on Yes only.
+/// Asks whether to delete an item or the selected ones. True only for Yes.
 bool mdConfirmDelete(const QString &what, bool many = false);

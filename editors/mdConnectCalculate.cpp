@@ -9,7 +9,8 @@ void mdConnectCalculate(frmSection &screen, std::function<void()> calculate)
 {
     auto &button = screen.Box<oCustomButton>("cmdCalculate");
     QObject::connect(&button, &oCustomButton::Click, &screen, [&button, calculate = std::move(calculate)] {
-        // Pressed by its letter the button hasn't the focus yet, and a box that has it doesn't format what is written.
+        // A button pressed by its letter doesn't have the focus yet, and a focused box doesn't format text written to
+        // it.
         button.setFocus(Qt::ShortcutFocusReason);
         calculate();
     });

@@ -4,6 +4,6 @@
 
 class frmSection;
 
-/// Lets the screen's button "Calculate" write to boxes of the screen: it has the focus when `calculate` is called,
-/// however it was pressed.
+/// Connects the screen's button "Calculate". The button has the focus when `calculate` is called, however it was
+/// pressed.
 void mdConnectCalculate(frmSection &screen, std::function<void()> calculate);

@@ -39,7 +39,7 @@ const clsCommsCount *mdCommsCountAtColumn(int column)
 
 const clsCommsStep &mdCommsStep(Qt::KeyboardModifiers shift)
 {
-    // Exactly Shift: with Control or Alt beside it the count goes up. That is meant.
+    // Exactly Shift: with Control or Alt as well, it counts up. Required behaviour; do not fix.
     constexpr Qt::KeyboardModifiers state = Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier;
     return (shift & state) == Qt::ShiftModifier ? Down : Up;
 }
@@ -49,13 +49,13 @@ void mdCountComms(clsZR3FeeEarner &feeEarner, const clsCommsCount &count, int by
     clsXMLField *field = feeEarner.field(QString::fromUtf8(count.count));
     if (!field)
         throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
-    // At its largest a count holds, as it does at 0: a key that is pressed once more must not end the program.
+    // The count stops at its maximum as it does at 0, because an overflow error would end the program.
     constexpr qint64 Largest = std::numeric_limits<int>::max();
     qint64 counted = 0;
     try {
         counted = field->readLong();
     } catch (const clsRunTimeError &error) {
-        // A number of a file that is too large is shown as wrong, and typed anew.
+        // A number in a file that is too large is shown as wrong and has to be typed again.
         if (error.number() != clsRunTimeError::Overflow)
             throw;
         return;

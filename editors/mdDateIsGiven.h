@@ -2,6 +2,6 @@
 
 class oDateBox;
 
-/// Whether a box that may have no date has what its tick says; where it hasn't, the user is told and led to it. An
-/// empty one with its tick gives the no-date value as its text, so that asking for a text would not find it.
+/// Whether an optional date box has a date if its tick is set; otherwise tells the user and focuses the box. An empty
+/// ticked box returns the no-date value as its text, so a check for an empty text would miss it.
 bool mdDateIsGiven(oDateBox &box);

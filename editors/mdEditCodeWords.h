@@ -3,5 +3,5 @@
 class QWidget;
 class clsCodeWords;
 
-/// Lets the user change the firm's words for the codes, over a window. True when they were saved.
+/// Lets the user edit the firm's words for the codes. True if they were saved.
 bool mdEditCodeWords(QWidget *owner, const clsCodeWords &words);

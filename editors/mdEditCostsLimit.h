@@ -2,5 +2,5 @@
 
 class QWidget;
 
-/// Lets the user set the open claim's limit of costs, or take it away, over a window. True when it was saved.
+/// Lets the user set or remove the open claim's costs limit. True if it was saved.
 bool mdEditCostsLimit(QWidget *owner);

@@ -7,7 +7,7 @@
 
 namespace {
 
-// The tables of the screens are static, and reach what they show without an object of their own.
+// The tables of the screens are static, and which form they show is known only while a window is open.
 clsZR3Form *inPlaceOfClaim = nullptr;
 
 } // namespace

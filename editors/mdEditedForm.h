@@ -2,11 +2,11 @@
 
 class clsZR3Form;
 
-/// The form whose groups, fee earners and counsel the screens show and change: the open claim, or the firm's while
+/// The form whose groups, fee earners and counsel the screens show and change: the open claim, or the firm's form while
 /// "Firm and Team" is open.
 clsZR3Form &mdEditedForm();
 
-/// Puts the firm's form in the place of the open claim for as long as this object lives.
+/// Replaces the open claim by the firm's form while this object lives.
 class clsEditedFormScope {
 public:
     explicit clsEditedFormScope(clsZR3Form &form);

@@ -2,7 +2,6 @@
 
 class QWidget;
 
-/// Gives the focus to a field as its letter does: to the part that takes it for the whole or, while that is disabled,
-/// to the first that can be entered, such as the tick of a date that is switched off. False where none can, and then
-/// the focus stays.
+/// Sets the focus to a field as its letter does: to its focus proxy or, if that is disabled, to the first part that can
+/// take it, such as the tick of a date that is switched off. False, without moving the focus, if no part can take it.
 bool mdEnterField(QWidget &field);

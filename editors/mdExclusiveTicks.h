@@ -6,10 +6,10 @@
 
 class oCheckBox;
 
-/// The name that the two boxes of a Yes/No pair have in common, such as "chkLegalHelp"; empty for any other control.
+/// The common part of the names of a Yes/No pair, such as "chkLegalHelp"; empty for any other control.
 QString mdPairOf(const QString &control);
 
-/// Lets a box that becomes ticked clear the others. Unticking clears nothing, so that all can stand unticked. Loading a
-/// box ticks it like a user: where a file has several ticked, the one loaded last wins, and saving the screen drops the
-/// others from the claim. That is meant: a question has one answer.
+/// Makes boxes exclusive: ticking one clears the others; all may be unticked. Loading ticks a box like the user does:
+/// if a file has several ticked, the last one loaded stays ticked, and saving the screen removes the others from the
+/// claim. Required behaviour; do not fix.
 void mdMakeExclusive(const std::vector<oCheckBox *> &boxes);

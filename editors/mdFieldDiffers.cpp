@@ -13,7 +13,7 @@ struct clsContent {
     QByteArray content;
 };
 
-/// The properties that a row stores: the two of a choice stand in its member with a blank between.
+/// The properties that a row stores; the member of a choice names two, separated by a space.
 std::vector<clsContent> contentsOf(const clsScreenRow &row, clsXMLRecord &record)
 {
     std::vector<clsContent> contents;

@@ -2,6 +2,6 @@
 
 #include "editors/clsScreenTable.h"
 
-/// True when a field of a screen says something else than its record, so that storing it would change the record, which
-/// stays as it is. A field that can't be stored as it stands differs too.
+/// Whether storing a field would change the record, which itself is not changed. A field whose text can't be stored
+/// also differs.
 bool mdFieldDiffers(const clsScreenRow &row, const QWidget &control, clsXMLRecord &record);

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Whether a tab's screen keeps the properties of that record: the claim's own stand on several.
+/// Whether a tab's screen edits the properties of that record; the claim's own are on several screens.
 bool isScreenOf(const QString &tab, const QString &record)
 {
     if (!record.isEmpty())

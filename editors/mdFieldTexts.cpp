@@ -36,7 +36,7 @@ void choose(clsItemChoice &choice, const QString &text)
     choice.setUniqueID(text.section(u' ', 1));
 }
 
-/// What a list doesn't have by now can't be chosen.
+/// An entry that the list no longer has can't be chosen.
 void choose(QComboBox &list, const QString &text)
 {
     if (list.isEditable())
@@ -45,7 +45,7 @@ void choose(QComboBox &list, const QString &text)
         list.setCurrentIndex(entry);
 }
 
-/// As the user does it, so that the box looks at it when it is left.
+/// As typed by the user, so that the box validates it on leaving.
 void type(QWidget &box, QLineEdit &line, const QString &text)
 {
     if (auto *tick = box.findChild<oCheckBox *>())

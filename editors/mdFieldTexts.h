@@ -4,12 +4,11 @@
 
 #include <QStringList>
 
-/// What is in the fields of a screen, each as a text, in their order. What the record has no property for is empty
-/// here.
+/// The texts of a screen's fields, in their order. Empty for a field without a property.
 QStringList mdFieldTexts(const std::vector<clsScreenField> &fields);
 
-/// Whether the text of a field is typed, and not a tick or a choice from a list.
+/// Whether the text of a field is typed, rather than ticked or chosen.
 bool mdHoldsTyping(const clsScreenField &field);
 
-/// Puts such a text into a field, as the user would.
+/// Enters such a text into a field, as the user would.
 void mdPutFieldText(const clsScreenField &field, const QString &text);

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// A text as the caption of a menu entry: its "&" are no access keys, and a lone "-" is no separator.
+/// A text as the caption of a menu entry: "&" doesn't mark a mnemonic, and a lone "-" is not a separator.
 inline QString mdFormatTextForMenu(const QString &text)
 {
     if (text == QLatin1String("-"))

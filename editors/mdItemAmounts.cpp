@@ -9,7 +9,7 @@
 
 clsGridTexts mdScheduleAmounts()
 {
-    // All at once, as the preview does.
+    // All prices at once, as in the preview.
     const auto prices = std::make_shared<clsSchedulePrices>(*Form);
     return [prices](const clsZR3Item &item) {
         const auto &work = static_cast<const clsZR3ScheduleOfTimeItem &>(item);

@@ -2,5 +2,6 @@
 
 #include "controls/clsGridColumn.h"
 
-/// What each item of the open claim's schedule comes to. Where one can't be priced it is the error, with the reason.
+/// The amount of each item in the open claim's schedule. An item that can't be priced raises its error, with the
+/// reason.
 clsGridTexts mdScheduleAmounts();

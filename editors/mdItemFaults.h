@@ -4,7 +4,7 @@
 #include "editors/mdEditedForm.h"
 #include "formdata/clsZR3Form.h"
 
-/// What is wrong with an item of a list of the claim, for the list's table.
+/// The faults of an item, for the table of its list.
 template <class Item> clsFigureFaults mdItemFaults(const clsZR3Item &item)
 {
     return mdFigureFaults(mdEditedForm(), static_cast<const Item &>(item));

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// A menu with more would be wider than many a window.
+/// A longer text would make the menu wider than many windows.
 constexpr qsizetype Longest = 48;
 
 QString named(const clsItemList &list, const clsXMLRecord &item, const std::vector<const char *> &properties)
@@ -34,7 +34,7 @@ QString mdItemAsStored(const clsItemList &list, const clsXMLRecord &item)
     try {
         return named(list, item, list.told.empty() ? list.called : list.told);
     } catch (const clsRunTimeError &) {
-        // What it points at may be missing from a file.
+        // In a file, the referenced item may be missing.
         return mdItemInShort(list, item);
     }
 }

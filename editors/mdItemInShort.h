@@ -5,9 +5,9 @@
 class clsXMLRecord;
 struct clsItemList;
 
-/// What an item of a list is called in the name of a step, such as "15/12/25 HFN 03:20", by the properties that its
-/// list's table names for that; what kind of item it is where all of them are empty.
+/// A short name of a list's item for a step, such as "15/12/25 HFN 03:20", made of the properties that the list's table
+/// specifies; the kind of item if all of them are empty.
 QString mdItemInShort(const clsItemList &list, const clsXMLRecord &item);
 
-/// The same for what "Save and Add" says of it: "15/12/25 DVE HFN 03:20".
+/// The same for the message of "Save and Add": "15/12/25 DVE HFN 03:20".
 QString mdItemAsStored(const clsItemList &list, const clsXMLRecord &item);

@@ -10,12 +10,12 @@ class QWidget;
 struct clsListPlace {
     QString section; ///< the text of the section's tab
     QString control; ///< the object name of its grid
-    QString caption; ///< what the list is called there
+    QString caption; ///< the list's caption there
 };
 
-/// The place of a list such as "experts", as the forecast names it; nothing for another name.
+/// The place of a list such as "experts", by its name in the forecast; nothing for an unknown name.
 std::optional<clsListPlace> mdListPlace(const QString &list);
 
-/// Goes to a control of an open screen, on its page where the screen has pages; in a grid to the item of that order,
-/// if it has one.
+/// Sets the focus to a control of an open screen, on its page if the screen has pages; in a grid to the item with that
+/// order, if there is one.
 void mdEnterPlace(const QWidget &screen, const QString &control, int order = 0);

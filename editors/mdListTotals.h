@@ -9,23 +9,23 @@
 
 class clsZR3Item;
 
-/// The total under a list of the claim.
+/// The total below a list of the claim.
 struct clsListTotal {
-    QString counted; ///< how many items there are, or how many of them the total leaves out
+    QString counted; ///< the number of items, or of those left out of the total
     Money value;
 };
 
-// They follow the bill: each is the figure that is printed. Where it can't be computed it is that error.
+// The totals are the printed figures of the bill. Raises the error of a figure that can't be computed.
 
 clsListTotal mdScheduleListTotal();
 clsListTotal mdExpertsListTotal();
-/// Counsel's fees are billed apart.
+/// Without counsel's fees, which are billed separately.
 clsListTotal mdDisbursementsListTotal();
 clsListTotal mdHearingsListTotal();
-/// Of each kind two groups are billed, and none without a rate.
+/// Two groups of each kind are billed, and only those with a rate.
 clsListTotal mdCommunicationsListTotal();
 
-// The same of the items that are marked in a list.
+// The same for the items marked in a list.
 
 using clsMarkedItems = std::vector<std::shared_ptr<clsZR3Item>>;
 

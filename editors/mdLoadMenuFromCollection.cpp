@@ -18,7 +18,7 @@ const clsXMLField &property(const clsXMLRecord &record, QStringView name)
     return *field;
 }
 
-/// Numbers by their value, everything else by its characters. Equal ones keep the order of the collection.
+/// Sorts numbers by value, everything else by characters. Equal entries keep the order of the collection.
 void sort(std::vector<clsMenuItem> &items, QStringView name, clsMenuOrder order)
 {
     const auto less = [name](const clsMenuItem &a, const clsMenuItem &b) {

@@ -8,21 +8,21 @@
 
 class QMenu;
 
-/// How a menu's copy of a collection is sorted.
+/// The sort order of a menu's entries.
 enum class clsMenuOrder { Ascending, Descending };
 
-/// An item of a menu's collection: the record, by whose properties the entry is named and sorted, and the item's
-/// `Index`, which the entry carries as its data, so that whoever picks it finds the item again.
+/// An item for a menu: the record, whose properties name and sort the entry, and the item's `Index`, which becomes the
+/// entry's data.
 struct clsMenuItem {
     const clsXMLRecord *record;
     int index;
 };
 
-/// Fills a popup menu. Its first entry is kept and stands for an empty collection; the others are made anew.
+/// Fills a popup menu. Keeps its first entry, shown for an empty collection, and replaces the others.
 void mdLoadMenuFromCollection(QMenu &menu, std::vector<clsMenuItem> items, QStringView captionProperty,
     QStringView sortProperty = {}, clsMenuOrder order = clsMenuOrder::Ascending);
 
-/// The same for a list of the claim or of the preferences, which stays in its own order.
+/// The same for a list of the claim or the preferences, whose own order doesn't change.
 template <class Collection>
 void mdLoadMenuFromCollection(QMenu &menu, const Collection &collection, QStringView captionProperty,
     QStringView sortProperty = {}, clsMenuOrder order = clsMenuOrder::Ascending) requires requires

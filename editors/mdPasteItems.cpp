@@ -83,7 +83,7 @@ clsTable copied(const clsTable &table, const clsPasteList &list)
     return result;
 }
 
-/// Leaves those rows of a list's table that stand for the marked items.
+/// Keeps only the rows of a list's table that belong to the marked items.
 void keepMarked(clsTable &table, const clsPasteList &list, const clsMarkedItems &marked)
 {
     std::set<const clsXMLRecord *> chosen;
@@ -101,13 +101,13 @@ void keepMarked(clsTable &table, const clsPasteList &list, const clsMarkedItems 
     }
 }
 
-/// A list of a screen that takes rows, with its grid.
+/// A screen's list that can import rows, with its grid.
 struct clsTakingList {
     const clsItemList *items = nullptr;
     oSGrid *grid = nullptr;
 };
 
-/// That of the open page; where it takes none, the screen's last.
+/// The list of the open page; if that can't import rows, the screen's last one that can.
 clsTakingList takingListOf(const frmSection &screen)
 {
     clsTakingList last;
@@ -121,13 +121,14 @@ clsTakingList takingListOf(const frmSection &screen)
     return last;
 }
 
-/// What follows a new item of the list, as after "Add".
+/// Updates the screen as after "Add".
 void showPasted(frmSection &screen, const clsTakingList &list)
 {
     screen.RedrawLists();
     if (list.items->changed)
         list.items->changed();
-    // The last of the claim's list, wherever the grid sorts it. Fee earners, who are counted for, stay as they were.
+    // The last item of the claim's list, whatever the grid's sort order. Lists without an item function, such as
+    // communications, keep their selection.
     if (list.items->item)
         for (const auto &item : list.grid->ItemCollection())
             if (item->Index == list.grid->Rows()) {

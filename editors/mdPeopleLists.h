@@ -2,7 +2,7 @@
 
 #include "editors/clsScreenTable.h"
 
-// The lists of people, which a claim and the firm both have; only the names of their editors differ.
+// The lists of people in a claim and in the firm; they differ only in the names of their editors.
 
 clsItemList mdGroupList(const clsScreen &(*editor)());
 clsItemList mdFeeEarnerList(const clsScreen &(*editor)());

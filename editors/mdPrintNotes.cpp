@@ -16,8 +16,8 @@
 
 namespace {
 
-/// The boxes of the claim's form, found once: that takes longer than a key press may. They are found anew where the
-/// form type or a template is another.
+/// The boxes of the claim's form, cached because finding them takes too long for a key press. Found again after a
+/// change of the form type or a template.
 clsPrintedBoxes &boxesOf(const QString &formType)
 {
     struct clsKnown {
@@ -60,7 +60,7 @@ clsPrintNote noteOf(const clsPrintedFit &fit)
 
 clsPrintNote noteFor(const clsScreenRow &row, const QString &property, const QString &text)
 {
-    // What is too long for its box leaves it, for continuation sheets.
+    // A text too long for its box is printed on continuation sheets instead.
     if (!Form || text.isEmpty() || ((row.flags & OverRun) && text.size() > row.allowance))
         return {};
     const auto fit = boxesOf(Form->FormType()).fit(property, text);
@@ -73,7 +73,7 @@ void mdShowPrintNotes(const clsScreen &screen, const std::vector<clsScreenField>
 {
     if (!Form || !screen.record || !(screen.section || screen.record() == Form.get()))
         return;
-    // A section of the claim bears its screen's name; the claim's own properties have no other.
+    // Properties of a section have the screen's name as a prefix; the claim's own have none.
     const QString prefix = screen.record() == Form.get() ? QString() : QString::fromUtf8(screen.name).mid(3) + u'.';
     for (const clsScreenField &field : fields)
         if (auto *box = qobject_cast<oAllPurposeBox *>(field.control); box && field.row->allowance > 0)

@@ -5,5 +5,5 @@
 struct clsScreen;
 struct clsScreenField;
 
-/// Lets the text boxes of a section's screen tell what their printed boxes do with a text that doesn't fit.
+/// Makes the text boxes of a section's screen show how a text that doesn't fit its printed box will be printed.
 void mdShowPrintNotes(const clsScreen &screen, const std::vector<clsScreenField> &fields);

@@ -4,10 +4,10 @@
 
 #include <initializer_list>
 
-// The seven rates of a fee earner group, which a rate set has too: both editors show them as the same rows.
+// The seven rates of a fee earner group or rate set, for the editors of both.
 
-/// The rows of the rates; `besideHourly` stand behind the hourly one.
+/// The rows of the rates, with `besideHourly` after the hourly one.
 std::vector<clsScreenRow> mdRateRows(const std::vector<clsScreenRow> &besideHourly = {});
 
-/// The rows of several tables, one table behind the other.
+/// Joins the rows of several tables.
 std::vector<clsScreenRow> mdJoinedRows(std::initializer_list<std::vector<clsScreenRow>> tables);

@@ -99,7 +99,7 @@ QWidget *make(const clsScreenRow &row, QWidget *parent)
     }
 }
 
-/// A table that names no property of its record is a mistake, which shows when the screen is opened.
+/// A table that names an unknown property is a programming error, which appears when the screen is opened.
 clsXMLField &fieldOf(const clsScreenRow &row, clsXMLRecord &record)
 {
     clsXMLField *field = record.field(mdMemberOf(row));
@@ -116,8 +116,8 @@ void setTextOf(QWidget &control, const QString &text)
         control.setProperty("Text", text);
 }
 
-/// Runs what reads a property. A file may hold what is none of its values: the screen must open all the same, so that
-/// it can be mended there, and the control says what is wrong.
+/// Reads a property. A file may hold an invalid value: the screen must still open so that the user can correct it, and
+/// the control shows what is wrong.
 template <class Read> bool reads(QWidget &control, Read read)
 {
     try {
@@ -132,7 +132,7 @@ template <class Read> bool reads(QWidget &control, Read read)
     }
 }
 
-/// Selects by place or by text. Of what it doesn't have, the list shows nothing.
+/// Selects by position or by text. For a value that isn't an entry the list shows nothing.
 void loadList(QComboBox &list, const clsXMLField &field)
 {
     int entry = -1;
@@ -150,7 +150,7 @@ void loadTick(oCheckBox &tick, const clsXMLField &field)
     tick.setChecked(ticked);
 }
 
-/// A number that is too large stands in its box as it is, and the box asks for another.
+/// A number that is too large is shown unchanged, and the box asks for another.
 void loadNumber(QWidget &control, const clsXMLField &field)
 {
     int number = 0;
@@ -160,7 +160,7 @@ void loadNumber(QWidget &control, const clsXMLField &field)
         setTextOf(control, field.readText());
 }
 
-/// A list in which nothing is selected, since it lacks what the record says, leaves the record alone.
+/// If nothing is selected, because the list has no entry for the stored value, the record doesn't change.
 void storeList(const QComboBox &list, clsXMLField &field)
 {
     if (list.currentIndex() < 0 && !list.isEditable())
@@ -171,7 +171,7 @@ void storeList(const QComboBox &list, clsXMLField &field)
         field.writeText(list.currentText());
 }
 
-/// What the box of a whole number has judged good, commas between the figures included; empty is none.
+/// The number in a box that has already checked it, possibly with commas; 0 if empty.
 int longOf(const QString &text)
 {
     return text.isEmpty() ? 0 : LongFromStrictText(text);

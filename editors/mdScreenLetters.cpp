@@ -10,12 +10,12 @@
 
 namespace {
 
-/// File, Edit, Jump To, Save, Add, Close and Cancel. They have their letters on every screen: where one of them is
-/// missing, its letter leads to nothing, and not to something else.
+/// File, Edit, Jump To, Save, Add, Close and Cancel. They have these letters on every screen; if one of them is missing
+/// its letter stays unused.
 constexpr QLatin1String FixedLetters("FEJSACN");
 
-/// The first "Add" of a screen, and that of each page, of which only one is open, has its letter on every screen; a
-/// second one takes what there is.
+/// The first "Add" of a screen, and that of each page, because only one page is open, has its fixed letter; any other
+/// gets a free letter.
 void giveButtons(const std::vector<clsScreenField> &fields, clsMnemonics &letters, bool adds)
 {
     for (const clsScreenField &field : fields) {
@@ -29,7 +29,7 @@ void giveButtons(const std::vector<clsScreenField> &fields, clsMnemonics &letter
     }
 }
 
-/// Whether the first field of a frame has a caption to lead to it: its own or its question's, or it is a button.
+/// Whether the first field of a frame is a button or can be reached by a caption: its own or its question's.
 bool hasCaption(const oScreenFrame &frame)
 {
     if (frame.switcher())

@@ -2,7 +2,7 @@
 
 #include "editors/clsScreenTable.h"
 
-// The tables of the screens, one to a file that bears the window's name.
+// The tables of the screens, each in a file named after its window.
 
 // Sections
 const clsScreen &ScreenFormSetup();
@@ -43,6 +43,6 @@ const clsScreen &ScreenCodeWords();
 const clsScreen &ScreenReplacementEdit();
 const clsScreen &ScreenPreferencesRateSetEdit();
 
-// Of the program, not of a claim
+// Not part of a claim
 const clsScreen &ScreenPreferences();
 const clsScreen &ScreenFirmAndTeam();

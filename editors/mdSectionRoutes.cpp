@@ -2,7 +2,7 @@
 
 namespace {
 
-/// Where Prev and Next lead. `Same` stands for what the column before it says: the way does not depend on the form
+/// The targets of Prev and Next. `Same` means the same target as in the column before: it doesn't depend on the form
 /// type.
 struct clsRoute {
     const char *section;
@@ -37,8 +37,8 @@ constexpr clsRoute Routes[] = {
 };
 // clang-format on
 
-/// The target of one way. Only where the ways differ is the form type asked: it is compared with one name, then with
-/// the other, and a form of neither type leads nowhere.
+/// Chooses a target. The form type matters only if the targets differ: it is compared with the two names, and any other
+/// type has no target.
 QString target(const char *claim1, const char *claim1A, const QString &formType)
 {
     if (claim1A == Same || formType == QLatin1String("Claim1"))

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-/// The section that the Prev button leads to from a section, for a form type; empty where there is none. Where the two
-/// form types differ, a type that is neither "Claim1" nor "Claim1A" leads nowhere.
+/// The section that Prev leads to from a section, for a form type; empty if there is none. If the form types have
+/// different routes, a type other than "Claim1" and "Claim1A" leads nowhere.
 QString mdPrevSection(const QString &section, const QString &formType);
-/// The same for the Next button.
+/// The same for Next.
 QString mdNextSection(const QString &section, const QString &formType);

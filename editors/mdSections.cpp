@@ -6,7 +6,7 @@
 namespace {
 
 struct clsSection {
-    const char *text; ///< of the tab, and the section's identity
+    const char *text; ///< the tab's text, which identifies the section
     const clsScreen &(*table)();
 };
 

@@ -7,14 +7,14 @@ class QDialog;
 class QWidget;
 struct clsScreen;
 
-/// The screen behind a text of the section tabs, filled and ready to be shown; it belongs to the caller. Nothing for a
-/// text that opens no screen. Each opening makes it anew, a list screen too: the one instance that other screens may
-/// reach is forgotten when its window is closed, so that nothing is kept from one opening to the next.
+/// Creates the screen of a section tab, filled and ready to be shown; the caller owns it. Null for a text without a
+/// screen. Every opening creates a new one, even of a list screen: the instance that other screens may use is forgotten
+/// when its window is closed, so that no data is kept between openings.
 QDialog *mdCreateScreen(const QString &section, QWidget *parent);
 
-/// The window's name of the screen behind a text, such as "frmClientDetails"; empty for an unknown text.
+/// The window name of the screen behind a tab, such as "frmClientDetails"; empty for an unknown text.
 QString mdScreenName(const QString &section);
-/// The table of the screen behind a text; nothing for an unknown text.
+/// The table of the screen behind a tab; null for an unknown text.
 const clsScreen *mdScreenOf(const QString &section);
 /// All texts, in the order of the table.
 QStringList mdSectionTexts();

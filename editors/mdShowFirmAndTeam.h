@@ -2,5 +2,5 @@
 
 class QWidget;
 
-/// Shows the firm as it is kept for new claims, and returns when it is closed. True when it was kept.
+/// Shows the firm for new claims until the user closes it. True if it was saved.
 bool mdShowFirmAndTeam(QWidget *owner);

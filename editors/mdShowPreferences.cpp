@@ -9,7 +9,7 @@
 
 namespace {
 
-/// The preferences that are open already, in this window or below it; nothing where there are none.
+/// The preferences if they are open, in this window or below it; otherwise null.
 frmSection *openPreferences(QWidget *owner)
 {
     for (QWidget *at = owner; at; at = at->parentWidget()) {
@@ -20,7 +20,7 @@ frmSection *openPreferences(QWidget *owner)
     return nullptr;
 }
 
-/// Opens a page of the preferences as they are, and puts the focus into it.
+/// Opens a page of the open preferences and sets the focus to it.
 void turnTo(const frmSection &screen, int page)
 {
     screen.Switcher().SwitchTo(page);
@@ -32,7 +32,7 @@ void turnTo(const frmSection &screen, int page)
     }
 }
 
-/// What is stored for each field of a screen; nothing for those that store nothing.
+/// The stored value of each field; empty for fields that store nothing.
 std::vector<QByteArray> settingsOf(const frmSection &screen)
 {
     std::vector<QByteArray> result;
@@ -43,8 +43,8 @@ std::vector<QByteArray> settingsOf(const frmSection &screen)
     return result;
 }
 
-/// Shows what has been stored over the screen since then, so that its Close doesn't put the old settings back. What
-/// was typed in other fields stays.
+/// Updates the fields whose settings have been stored since, so that this screen's Close doesn't overwrite them. Text
+/// typed in other fields stays.
 void showChanges(frmSection &screen, const std::vector<QByteArray> &before)
 {
     const std::vector<QByteArray> now = settingsOf(screen);
@@ -59,7 +59,7 @@ void showChanges(frmSection &screen, const std::vector<QByteArray> &before)
 void showNew(QWidget *owner, int page)
 {
     frmSection screen(ScreenPreferences(), owner);
-    // Before the screen looks for the field that the focus begins in.
+    // Before the screen determines the initial focus.
     screen.Switcher().SwitchTo(page);
     screen.Initialise();
     mdShowModal(screen);
@@ -74,7 +74,7 @@ void mdShowPreferences(QWidget *owner, int page)
         return showNew(owner, page);
     if (below == owner->window())
         return turnTo(*below, page);
-    // An editor of an item stands between and keeps what is typed in it.
+    // There is an item's editor in between, which keeps its typed text.
     const std::vector<QByteArray> before = settingsOf(*below);
     showNew(owner, page);
     showChanges(*below, before);

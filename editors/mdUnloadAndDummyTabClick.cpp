@@ -8,7 +8,7 @@ namespace {
 
 std::function<void(const QString &)> &openSectionInForce()
 {
-    // A screen leads to another by way of the main window, which stands above it.
+    // Screens open each other through the main window, which is on a higher floor.
     static std::function<void(const QString &)> openSection;
     return openSection;
 }

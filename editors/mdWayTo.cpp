@@ -17,13 +17,13 @@
 
 namespace {
 
-/// A field that is made of several parts names all their properties; one that chooses an item of the claim stands for
-/// the property that holds its identity.
+/// A field made of several parts has the properties of all of them; one that chooses an item of the claim has the
+/// property with its identity.
 bool isFieldOf(const clsScreenField &field, const QString &property)
 {
     QStringList members = mdMemberOf(*field.row).split(u' ');
     const QString control = QString::fromUtf8(field.row->control);
-    if (control.startsWith(u'o')) // one of our own, which has a shorter prefix
+    if (control.startsWith(u'o')) // a control of the program's own, with a shorter prefix
         members << control.mid(1);
     return std::any_of(members.begin(), members.end(),
         [&](const QString &member) { return member == property || member + QStringLiteral("UniqueID") == property; });
@@ -39,7 +39,7 @@ void enterProperty(const frmSection &screen, const QString &property)
         }
 }
 
-/// The column of a list that shows a property, or its first.
+/// The list's column that shows a property, otherwise its first.
 int columnOf(const clsItemList &list, const QString &property)
 {
     for (size_t i = 0; i < list.columns.size(); ++i)
@@ -48,7 +48,7 @@ int columnOf(const clsItemList &list, const QString &property)
     return 1;
 }
 
-/// The element of an item of the claim; nothing where there is none of that order.
+/// The element of the claim's item with that order; null if there is none.
 pugi::xml_node elementOf(const clsClaimList &list, int order)
 {
     for (const pugi::xml_node item : Form->XMLNodeToRead().child(list.element).children())
@@ -57,7 +57,7 @@ pugi::xml_node elementOf(const clsClaimList &list, int order)
     return {};
 }
 
-/// The number of an item in a grid, 0 for one that isn't there.
+/// The number of an item in a grid; 0 if it isn't there.
 int indexOf(const oSGrid &grid, pugi::xml_node element)
 {
     for (const auto &item : grid.ItemCollection())
@@ -66,7 +66,7 @@ int indexOf(const oSGrid &grid, pugi::xml_node element)
     return 0;
 }
 
-/// As a double click on the item's row does. It returns only when the editor is closed, so that the field is entered
+/// Does the same as a double click on the item's row. Returns only when the editor is closed, so the field is focused
 /// from the editor's event loop.
 void activate(frmSection &screen, oSGrid &grid, const clsItemList &list, int index, const QString &property)
 {

@@ -6,10 +6,10 @@ struct clsClaimPlace;
 class frmSection;
 struct clsScreenField;
 
-/// What goes to a place of the claim on its screen, once that is shown: to the field of its property or, for an item of
-/// a list, to its row and on to the item's editor, where the list has one. It returns when the editor is closed. The
-/// item is found here and now: the screen may give its items other numbers when it opens.
+/// Returns a function that goes to a place of the claim once its screen is shown: to the field of its property or, for
+/// an item of a list, to its row and into the item's editor, if the list has one. The function returns when the editor
+/// is closed. The item is looked up in this call, because opening the screen may renumber the items.
 std::function<void(frmSection &screen)> mdWayTo(const clsClaimPlace &place);
 
-/// Opens the page of a screen on which a field stands.
+/// Opens the page of a screen that has a field.
 void mdOpenPageOf(const frmSection &screen, const clsScreenField &field);

@@ -24,7 +24,7 @@ oCodeCombo::oCodeCombo(QWidget *parent)
     setFocusPolicy(Qt::StrongFocus);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(LengthOfCode);
-    // Qt's completes with the first code that fits, and so makes a code of every letter.
+    // Qt's completer uses the first code that fits, and would complete every single letter.
     setCompleter(nullptr);
     addItems(mdScheduleOfTimeCodesCollection());
     m_list = new clsCodeList(*this);
@@ -40,7 +40,7 @@ void oCodeCombo::setCode(const QString &code)
     setEditText(code);
 }
 
-/// The tooltip says in which column of the bill the work will stand.
+/// The tooltip shows the bill's column for the work.
 void oCodeCombo::explain()
 {
     const bool isCode = mdScheduleOfTimeCodesCollection().contains(Code());
@@ -84,7 +84,7 @@ bool oCodeCombo::event(QEvent *event)
 {
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent *>(event)->key();
-        // Before the focus goes, so that the message finds it here and nowhere else.
+        // Before the focus moves, so that the message appears while this box has it.
         if ((key == Qt::Key_Tab || key == Qt::Key_Backtab) && !leave()) {
             event->accept();
             return true;
@@ -98,7 +98,7 @@ void oCodeCombo::keyPressEvent(QKeyEvent *event)
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        // One press saves, also while what is completed is still marked.
+        // A single press saves, even while the completed part is still selected.
         lineEdit()->deselect();
         event->ignore();
         return;
@@ -106,7 +106,7 @@ void oCodeCombo::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Down:
     case Qt::Key_PageUp:
     case Qt::Key_PageDown:
-        // From what is typed, and not from what was chosen before.
+        // Steps from the typed code, not from the one chosen before.
         if (const int typed = findText(Code().toUpper(), Qt::MatchExactly | Qt::MatchCaseSensitive); typed >= 0)
             setCurrentIndex(typed);
         break;
@@ -117,7 +117,7 @@ void oCodeCombo::keyPressEvent(QKeyEvent *event)
         complete();
 }
 
-/// Only where what is typed leaves no choice: anything else would be a code that nobody has meant.
+/// Completes only if a single code is possible; any other choice would be a guess.
 void oCodeCombo::complete()
 {
     QLineEdit &text = *lineEdit();
@@ -144,8 +144,8 @@ void oCodeCombo::focusOutEvent(QFocusEvent *event)
         setCode(code);
         return;
     }
-    // The focus comes back at once, so that whatever took it finds the user held here. The message is left to that, or
-    // else comes when it is done: a message in the middle of a change of the focus would be in its way.
+    // Returns the focus at once, so that the window that took it sees the user held here. The message is left to that
+    // window or comes after it, because a message during a focus change would interfere.
     m_untold = true;
     setFocus(Qt::OtherFocusReason);
     QTimer::singleShot(0, this, [this] {

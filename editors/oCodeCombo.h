@@ -6,21 +6,21 @@
 
 class clsCodeList;
 
-/// The list of activity codes, in which a code can be typed as well: it completes what only one code begins with, and
-/// on leaving turns it to upper case and checks it. What is no code is told once, and the user is held until it is one;
-/// Esc and the close box are free. A code that the program writes is shown as it is and not checked.
+/// The list of activity codes, in which a code can also be typed. It completes an unambiguous beginning, and on leaving
+/// turns the code to upper case and checks it. An invalid code is reported once and holds the focus until it is valid;
+/// Esc and the close box still work. A code set by the program is shown without a check.
 class oCodeCombo : public QComboBox, public clsHoldingBox {
     Q_OBJECT
 
 public:
     explicit oCodeCombo(QWidget *parent = nullptr);
 
-    /// What a new item begins with.
+    /// The code of a new item.
     static QString FirstCode() { return QStringLiteral("DOT"); }
 
     QString Code() const { return currentText(); }
     void setCode(const QString &code);
-    /// The column of the code and the firm's words for it; empty while what is typed is no code.
+    /// The code's column and the firm's words for it; empty while the typed text is not a code.
     QString InWords() const;
 
     bool leave() override;

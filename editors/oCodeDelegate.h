@@ -4,7 +4,7 @@
 
 class QComboBox;
 
-/// Draws a code, and behind it, in the second ink, its column and the firm's words.
+/// Draws a code and, in the secondary colour, its column and the firm's words.
 class oCodeDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
@@ -13,7 +13,7 @@ public:
 
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    /// What the rows of a list need, up to the widest that is worth it.
+    /// The width needed by the rows of a list, up to a maximum.
     static int WidthFor(const QComboBox &box);
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;

@@ -4,15 +4,15 @@
 
 class oCodeCombo;
 
-/// What the chosen code stands for, behind its box: the column of the bill and the firm's words. What is cut is whole
-/// in the tooltip; a screen reader hears it with the box.
+/// Explains the chosen code beside its box: the bill's column and the firm's words. The tooltip has the whole text if
+/// it is cut off; screen readers read it with the box.
 class oCodeNote : public QWidget {
     Q_OBJECT
 
 public:
     using QWidget::QWidget;
 
-    /// Follows the code of a box from now on.
+    /// Shows the code of this box from now on.
     void Follow(oCodeCombo &box);
     const QString &Words() const { return m_words; }
 

@@ -45,7 +45,7 @@ oCounselBox::oCounselBox(QWidget *parent)
     fill();
 }
 
-/// A button of the box. It has no letter: the letters of a screen are given to its rows.
+/// Adds a button without a letter: letters are assigned only to the screen's rows.
 oCustomButton *oCounselBox::addButton(const char *name, const char *caption, const char *spokenCaption)
 {
     auto *button = new oCustomButton(this);
@@ -80,7 +80,7 @@ void oCounselBox::fill()
 {
     m_choice->fill();
     enableEdit();
-    // The caption's letter leads to what can be done: with no counsel to tick for, that is to add one.
+    // The caption's letter leads to the tick or, if there is no counsel yet, to the button that adds one.
     setFocusProxy(m_choice->tick().isEnabled() ? static_cast<QWidget *>(&m_choice->tick()) : cmdAddCounsel);
 }
 
@@ -95,10 +95,10 @@ void oCounselBox::enableEdit()
     cmdEditCounsel->setEnabled(m_choice->Ticked() && m_choice->SelectedIndex());
 }
 
-/// Opens the editor of a counsel, or of a new one. A name that was changed in it shows at once.
+/// Opens the editor of a counsel, or of a new one; a changed name is shown at once.
 void oCounselBox::edit(const std::shared_ptr<clsZR3Counsel> &counsel)
 {
-    // A step, also where the item is cancelled then over whose editor this stands.
+    // A step of its own, kept even if the item's editor below is cancelled.
     RunStep(counsel ? QStringLiteral("Edit Counsel") : QStringLiteral("Add Counsel"), [&] {
         mdEditItem(window(), ScreenCounselEdit(), counsel.get());
         fill();

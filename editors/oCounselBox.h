@@ -9,8 +9,8 @@ class clsZR3Counsel;
 class oCustomButton;
 struct clsOtherControl;
 
-/// A tick, a list of the claim's counsel, one of whom is chosen while it is ticked, and two buttons that add a counsel
-/// and edit the chosen one on the spot. It has no text of its own: its row's caption is that of the tick.
+/// A tick, a list of the claim's counsel, enabled while it is ticked, and two buttons to add a counsel and to edit the
+/// chosen one. Has no caption: the row's caption belongs to the tick.
 class oCounselBox : public QFrame {
     Q_OBJECT
 
@@ -19,18 +19,18 @@ public:
 
     bool Counsel() const;
     void setCounsel(bool counsel);
-    /// The identity of the chosen counsel; empty while unticked, also where one is chosen.
+    /// The identity of the chosen counsel; empty while unticked, even if one is chosen.
     QString CounselUniqueID() const;
     /// Chooses a counsel; an empty identity changes nothing.
     void setCounselUniqueID(const QString &uniqueID);
 
-    /// Reads the claim's counsel anew and keeps the chosen one.
+    /// Reads the claim's counsel again and keeps the choice.
     void fill();
 
     clsItemChoice &choice() const { return *m_choice; }
 
 signals:
-    /// Another counsel is chosen, by the user or by the program; nothing stands for none.
+    /// The user or the program has chosen another counsel; null for none.
     void Change(const std::shared_ptr<clsZR3Counsel> &counsel);
 
 private:
@@ -46,7 +46,7 @@ private:
 
 /// The box as a row of a screen's table, which loads and stores `Counsel` and then `CounselUniqueID`:
 ///
-///     {.kind = Other, .control = "oCounsel", .caption = "Counsel:", .other = &CounselOfItem},
+/// {.kind = Other, .control = "oCounsel", .caption = "Counsel:", .other = &CounselOfItem},
 ///
-/// Where the record calls them otherwise, the row's member names both, with a blank between.
+/// If the record's properties have other names, the row's member names both, separated by a space.
 extern const clsOtherControl CounselOfItem;

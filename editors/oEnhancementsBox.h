@@ -5,8 +5,8 @@
 class clsItemChoice;
 struct clsOtherControl;
 
-/// A tick, and a list of the claim's enhancements, one of which is chosen while it is ticked. It has no text of its
-/// own: its row's caption is that of the tick.
+/// A tick and a list of the claim's enhancements, enabled while it is ticked. Has no caption: the row's caption belongs
+/// to the tick.
 class oEnhancementsBox : public QFrame {
     Q_OBJECT
 
@@ -15,12 +15,12 @@ public:
 
     bool IncludeInEnhancements() const;
     void setIncludeInEnhancements(bool include);
-    /// The identity of the chosen enhancement; empty while unticked, also where one is chosen.
+    /// The identity of the chosen enhancement; empty while unticked, even if one is chosen.
     QString EnhancementUniqueID() const;
     /// Chooses an enhancement; an empty identity changes nothing.
     void setEnhancementUniqueID(const QString &uniqueID);
 
-    /// Reads the claim's enhancements anew and keeps the chosen one.
+    /// Reads the claim's enhancements again and keeps the choice.
     void fill();
 
     clsItemChoice &choice() const { return *m_choice; }
@@ -31,7 +31,7 @@ private:
 
 /// The box as a row of a screen's table, which loads and stores `IncludeInEnhancements` and then `EnhancementUniqueID`:
 ///
-///     {.kind = Other, .control = "oEnhancement", .caption = "Include in Enhancements:", .other = &EnhancementsOfItem},
+/// {.kind = Other, .control = "oEnhancement", .caption = "Include in Enhancements:", .other = &EnhancementsOfItem},
 ///
-/// Where the record calls them otherwise, the row's member names both: "EnhanceCalls CallsEnhancementUniqueID".
+/// If the record's properties have other names, the row's member names both: "EnhanceCalls CallsEnhancementUniqueID".
 extern const clsOtherControl EnhancementsOfItem;

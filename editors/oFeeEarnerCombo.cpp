@@ -17,7 +17,8 @@ struct clsKeyTier {
     const char *prefix;
 };
 
-// The prefix of the last tier has no blank behind it: its labels read "Shift-Control-AltF1" and so on. That is meant.
+// The last prefix has no space at its end: its labels read "Shift-Control-AltF1" and so on. Required behaviour; do not
+// fix.
 // clang-format off
 constexpr clsKeyTier Tiers[] = {
     {Qt::NoModifier,                                              0, ""},
@@ -44,7 +45,7 @@ int offsetOf(Qt::KeyboardModifiers modifiers)
     return 0;
 }
 
-/// What stands before the reference at a place, which counts from 0; nothing for a place that no key reaches.
+/// The key shown before the reference at a position, counted from 0; empty if no key reaches it.
 QString labelOf(int place)
 {
     for (const clsKeyTier &tier : Tiers)
@@ -53,7 +54,7 @@ QString labelOf(int place)
     return {};
 }
 
-/// The place of the fee earner that was chosen last; a file may hold a number that is none.
+/// The position of the fee earner chosen last; a file may hold an invalid number.
 int lastChosen()
 {
     try {
@@ -69,7 +70,7 @@ oFeeEarnerCombo::oFeeEarnerCombo(QWidget *parent)
     : oScreenList(parent)
 {
     connect(this, &QComboBox::currentIndexChanged, this, &oFeeEarnerCombo::Change);
-    // The next new item starts on the fee earner that the user chose for this one.
+    // The next new item starts with the fee earner that the user chose for this one.
     connect(this, &QComboBox::activated, this, [](int place) { Form->DefaultFeeEarnerListIndex = place; });
     view()->installEventFilter(this);
     fill();
@@ -113,8 +114,8 @@ bool oFeeEarnerCombo::SelectByKeyCode(int keyCode, Qt::KeyboardModifiers modifie
         setCurrentIndex(place);
         emit activated(place);
     }
-    // Consumed beyond the end of the list as well, so that a key never does something else just because the claim has
-    // few fee earners.
+    // Also consumed beyond the end of the list, so that a key doesn't do something else just because the claim has few
+    // fee earners.
     return true;
 }
 
@@ -130,7 +131,7 @@ bool oFeeEarnerCombo::takeKey(const QKeyEvent &event)
 
 bool oFeeEarnerCombo::event(QEvent *event)
 {
-    // Neither a menu nor a shortcut gets a function key while the list has the focus.
+    // While the list has the focus, function keys go neither to menus nor to shortcuts.
     if (event->type() == QEvent::ShortcutOverride && KeyCodeOf(static_cast<QKeyEvent *>(event)->key())) {
         event->accept();
         return true;
@@ -140,7 +141,7 @@ bool oFeeEarnerCombo::event(QEvent *event)
 
 bool oFeeEarnerCombo::eventFilter(QObject *watched, QEvent *event)
 {
-    // The open list: what a key chooses closes it.
+    // In the open list, choosing by a key closes it.
     if (watched == view() && event->type() == QEvent::KeyPress && takeKey(*static_cast<QKeyEvent *>(event))) {
         hidePopup();
         return true;

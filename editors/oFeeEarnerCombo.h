@@ -6,29 +6,29 @@
 
 class clsZR3FeeEarner;
 
-/// The list of the claim's fee earners. The first 96 of them are each chosen by a function key with or without Shift,
-/// Control and Alt, which stands before their reference. It fills itself when it is made and starts on the fee earner
-/// that the user chose last, in whichever list of this kind.
+/// The list of the claim's fee earners. Function keys, with or without Shift, Control and Alt, choose the first 96; the
+/// key is shown before the reference. Fills itself on construction and starts on the fee earner that the user chose
+/// last in any list of this kind.
 class oFeeEarnerCombo : public oScreenList {
     Q_OBJECT
 
 public:
     explicit oFeeEarnerCombo(QWidget *parent = nullptr);
 
-    /// Fills the list anew and selects the entry that was chosen last, else the first.
+    /// Fills the list again and selects the entry chosen last, otherwise the first.
     void fill();
 
-    /// The chosen fee earner, or nothing in a claim without any.
+    /// The chosen fee earner; null in a claim without fee earners.
     std::shared_ptr<clsZR3FeeEarner> SelectedFeeEarner() const;
-    /// Chooses a fee earner; none for nothing.
+    /// Chooses a fee earner; null clears the choice.
     void setSelectedFeeEarner(const std::shared_ptr<clsZR3FeeEarner> &feeEarner);
-    /// The identity of the chosen fee earner, or an empty text.
+    /// The identity of the chosen fee earner; empty if there is none.
     QString SelectedFeeEarnerUniqueID() const;
 
-    /// Chooses by a function key, whose codes are 112 to 123. True when the key is one, and so consumed, also where the
-    /// list isn't as long. Screens pass their keys on to it; the list's own come by themselves.
+    /// Chooses by the code of a function key, 112 to 123. True, so that the key is consumed, for every such code, even
+    /// beyond the end of the list. Screens pass on their keys; the list handles its own.
     bool SelectByKeyCode(int keyCode, Qt::KeyboardModifiers modifiers);
-    /// The code of a key as `SelectByKeyCode` takes it; 0 for one that is no function key from F1 to F12.
+    /// The code of a key for `SelectByKeyCode`; 0 if it is not F1 to F12.
     static int KeyCodeOf(int key);
 
 signals:

@@ -17,7 +17,7 @@ namespace {
 constexpr int WidestQuestion = 640;
 constexpr int WidestLabels = 300;
 
-/// What the letter ticks: the field itself, or the tick that stands first in it.
+/// What the letter toggles: the field itself, or a tick at its beginning.
 QAbstractButton *tickOf(QWidget &field)
 {
     auto *button = qobject_cast<QAbstractButton *>(&field);
@@ -37,14 +37,14 @@ oFieldLabel::oFieldLabel(const QString &caption, Place place, QWidget *parent)
     , m_place(place)
 {
     setTextFormat(Qt::PlainText);
-    setAccessibleName(caption); // without the marks of the letter
+    setAccessibleName(caption); // without the mnemonic marks
     if (place == Place::Beside)
         setContentsMargins(0, 0, Gap, 0);
     setWordWrap(place == Place::Above || (place == Place::Beside && sizeHint().width() > WidestBeside()));
     if (place == Place::Above) {
         setMaximumWidth(Theme::scaled(WidestQuestion));
         setAlignment(Qt::AlignLeft | Qt::AlignTop);
-        // As high as its lines are at the width that it gets, and not at the one that it would like.
+        // The height depends on the actual width, not on the preferred one.
         QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Preferred);
         policy.setHeightForWidth(true);
         setSizePolicy(policy);
@@ -81,7 +81,7 @@ void oFieldLabel::setTopOfFirstLine(int top)
     setContentsMargins(0, top, Gap, 0);
 }
 
-/// A layout asks for the width of the frame, also where the label takes less of it.
+/// Layouts pass the frame's width, even if the label uses less of it.
 int oFieldLabel::heightForWidth(int width) const
 {
     return QLabel::heightForWidth(qMin(width, maximumWidth()));
@@ -91,7 +91,7 @@ bool oFieldLabel::event(QEvent *event)
 {
     if (event->type() != QEvent::Shortcut || !buddy())
         return QLabel::event(event);
-    // A box with bad input lets nobody go, neither by a letter.
+    // A box with invalid text keeps the focus, even if a letter is pressed.
     if (!mdLeaveFocusedBox(window()) || !mdEnterField(*buddy()))
         return true;
     if (QAbstractButton *tick = tickOf(*buddy()); tick && m_ticks)
@@ -99,7 +99,7 @@ bool oFieldLabel::event(QEvent *event)
     return true;
 }
 
-/// Behind the caption, on its first line.
+/// After the caption, on its first line.
 QRect oFieldLabel::placeOfDigit() const
 {
     if (m_place == Place::Beside) {
@@ -119,7 +119,7 @@ void oFieldLabel::paintEvent(QPaintEvent *event)
     QPainter painter(this);
     QFont underlined = font();
     underlined.setUnderline(true);
-    // It has to fit the gap, clear of the colon.
+    // Must fit the gap without touching the colon.
     const double part = double(Gap - 2) / fontMetrics().horizontalAdvance(m_digit);
     underlined.setPointSizeF(QFontInfo(font()).pointSizeF() * qMin(1.0, part));
     painter.setFont(underlined);

@@ -4,39 +4,39 @@
 
 #include <QLabel>
 
-/// The caption of a field or of a question. Its letter leads to the field; a tick is ticked by its own letter, but not
-/// by that of the question whose first answer it is. A caption without a letter may have a digit instead, which shows
-/// behind it while Alt is held.
+/// The caption of a field or question. Its letter leads to the field and toggles a tick, except for the letter of a
+/// question, which only leads to its first answer. A caption without a letter may have a digit instead, shown after it
+/// while Alt is held.
 class oFieldLabel : public QLabel {
     Q_OBJECT
 
 public:
     enum class Place {
-        Beside, ///< left of its field, in the column of labels, and wrapped where it is wider than the column
-        Above, ///< over its field or answers, as wide as the frame
+        Beside, ///< left of its field, in the label column; wrapped if it is too wide for the column
+        Above, ///< above its field or answers, as wide as the frame
         Answer, ///< left of one of several answers to a question
     };
 
-    /// The room behind a caption beside its field, where its digit shows; the ring of a tick may begin behind it.
+    /// The space between a caption and its field, where the digit is shown; a tick's focus ring may begin there.
     static constexpr int Gap = Theme::Space12 - Theme::RingRoom;
-    /// The widest that the column of labels becomes.
+    /// The maximum width of the label column.
     static int WidestBeside();
 
     oFieldLabel(const QString &caption, Place place, QWidget *parent);
 
-    /// The caption as the table has it.
+    /// The caption in the table.
     const QString &Caption() const { return m_caption; }
     Place place() const { return m_place; }
-    /// Makes this the caption of a field: leads to it, and is pale while it is disabled.
+    /// Makes this the caption of a field: leads to it, and is pale while the field is disabled.
     void setField(QWidget *field);
-    /// Whether a tick is ticked by this label's letter.
+    /// Whether this label's letter toggles a tick.
     void setTicks(bool ticks) { m_ticks = ticks; }
-    /// A key that leads to the field under Alt although the caption doesn't hold it.
+    /// Sets an Alt key for the field that isn't in the caption.
     void setDigit(QChar digit);
     QChar Digit() const { return m_digit; }
-    /// Keeps a long caption in one line, where it has the whole width of the frame and not only the column of labels.
+    /// Keeps a long caption on one line if it has the whole width of the frame, not only the label column.
     void setOneLine();
-    /// Keeps the label level with a tall box's first line.
+    /// Keeps the label level with the first line of a tall box.
     void setTopOfFirstLine(int top);
 
     int heightForWidth(int width) const override;

@@ -56,7 +56,7 @@ oListLine::oListLine(QWidget *parent)
 void oListLine::Tell(const QString &text)
 {
     m_text = text;
-    // While it says something it is a stop of the Tab key, where it can be read in peace.
+    // A tab stop while it shows a message, so that there is time to read it.
     setFocusPolicy(Qt::TabFocus);
     m_timer.start();
     placeButton();
@@ -83,7 +83,7 @@ void oListLine::Offer(const QString &text, const QString &caption)
         announce();
 }
 
-/// The offer stands back while there is news.
+/// The offer is hidden while there is a message.
 void oListLine::placeButton()
 {
     const QSize size = m_button->sizeHint();
@@ -140,7 +140,7 @@ bool oListLine::event(QEvent *event)
     case QEvent::FocusIn:
     case QEvent::FocusOut: update(); [[fallthrough]];
     case QEvent::Leave:
-        // Once the pointer or the focus is really gone.
+        // After the pointer or the focus has left.
         QMetaObject::invokeMethod(this, &oListLine::clearWhenFree, Qt::QueuedConnection);
         break;
     case QEvent::ToolTip:

@@ -5,9 +5,9 @@
 
 class oCustomButton;
 
-/// The line above the button bar of a list: what was just deleted, and how it comes back. It waits for ten seconds, and
-/// longer while the pointer or the focus is on it. Beneath that it offers what can be done here, which stays until it
-/// is no longer so. Its room is always there, so that nothing moves.
+/// The line above a list's button bar, which shows what was just deleted and how to restore it for ten seconds, longer
+/// while the pointer or the focus is on it. With lower priority it shows an offer, which stays until it no longer
+/// applies. Its space is always reserved, so that nothing moves.
 class oListLine : public QWidget {
     Q_OBJECT
 
@@ -15,17 +15,17 @@ public:
     explicit oListLine(QWidget *parent = nullptr);
 
     void Tell(const QString &text);
-    /// Empties the line, for what is no longer true.
+    /// Removes a message that is no longer true.
     void Clear();
-    /// Offers what the button of this caption does; nothing for an empty text.
+    /// Shows an offer with a button of this caption; an empty text removes it.
     void Offer(const QString &text, const QString &caption);
-    /// What it says: the news while there are some, and then the offer.
+    /// The shown text: the message if there is one, otherwise the offer.
     const QString &Text() const { return m_text.isEmpty() ? m_offer : m_text; }
 
     QSize sizeHint() const override;
 
 signals:
-    /// The button of the offer was pressed.
+    /// The offer's button was pressed.
     void Taken();
 
 protected:

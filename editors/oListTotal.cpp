@@ -39,7 +39,7 @@ oListTotal::oListTotal(
         connect(&grid, &oSGrid::MarksChange, this, &oListTotal::followMarks);
 }
 
-/// As long as one row is selected, the total stays what it is.
+/// While only one row is selected the total doesn't change.
 void oListTotal::followMarks()
 {
     if (m_ofMarked || m_grid.SelectedItemCollection().size() > 1)

@@ -7,23 +7,23 @@
 
 class oSGrid;
 
-/// The total under a list, at its right end: how many items, and what they come to on the bill. It follows its grid. A
-/// total that can't be computed is a red "!" with the sign of an error, and why is its tooltip.
+/// The total below a list, at its right end: the number of items and their amount on the bill. Follows the grid. For a
+/// total that can't be computed it shows a red "!" with the error sign, and the reason as a tooltip.
 class oListTotal : public QWidget {
     Q_OBJECT
 
 public:
-    /// `sum` may be missing, for a list whose rows aren't marked.
+    /// `sum` is null for a list whose rows can't be marked.
     oListTotal(clsListTotal (*total)(), clsListTotal (*sum)(const clsMarkedItems &), oSGrid &grid, QWidget *parent);
 
-    /// "30 items", or what the total leaves out; "3 of 30 items" where several are marked.
+    /// "30 items", or what the total leaves out; "3 of 30 items" if several are marked.
     QString Counted() const { return m_counted; }
-    /// What all come to, or those that are marked.
+    /// The amount of all items, or of the marked ones.
     QString Figure() const { return m_figure; }
     QString Failure() const { return m_whyNot; }
 
     QSize sizeHint() const override;
-    /// Where there is little room the count gives way, and is in the tooltip.
+    /// If there is little room the count is only in the tooltip.
     QSize minimumSizeHint() const override;
 
 protected:
@@ -41,7 +41,7 @@ private:
     clsListTotal (*m_total)();
     clsListTotal (*m_sum)(const clsMarkedItems &);
     bool m_ofMarked = false;
-    QTimer m_renewal; ///< once what the claim derives from its lists has been brought up to date
+    QTimer m_renewal; ///< delayed until the claim has updated what it derives from its lists
     QString m_counted;
     QString m_figure;
     QString m_whyNot;

@@ -21,7 +21,7 @@ constexpr int SignSide = 12;
 constexpr int PillHeight = 16;
 constexpr int WrongEdge = 2;
 
-/// A row that has a line for its note beneath keeps its cells in its first line.
+/// If a row has its note in a second line, the cells are in the first.
 QRect lineOf(const QRect &cell)
 {
     return {cell.left(), cell.top(), cell.width(), qMin(cell.height(), mdGridRowHeight())};
@@ -56,7 +56,7 @@ void paintTick(QPainter &painter, const QStyleOptionViewItem &option, const QMod
     mdPaintTick(painter, tick);
 }
 
-/// The pill that says what the note is about; where it ends.
+/// Draws the pill that says what the note is about; returns its right edge.
 int paintPill(QPainter &painter, const QRect &room)
 {
     const QString word = QStringLiteral("double");

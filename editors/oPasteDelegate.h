@@ -2,7 +2,7 @@
 
 #include <QStyledItemDelegate>
 
-/// Draws the rows that are looked at before they are stored: ticks, wrong cells in pink, and what a row's note says.
+/// Draws the rows to be imported: ticks, wrong cells in pink, and the row's note.
 class oPasteDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
@@ -11,9 +11,9 @@ public:
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
-    /// The whole text of a cell that can't show it.
+    /// Shows the whole text of a cell that is cut off.
     bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
         const QModelIndex &index) override;
-    /// The note of a row, into a room beside the row or beneath it.
+    /// Draws a row's note in an area beside or below the row.
     static void paintNote(QPainter &painter, const QRect &room, const QModelIndex &note);
 };

@@ -74,7 +74,7 @@ oPasteGrid::oPasteGrid(clsPasteModel &model, QWidget *parent)
     });
 }
 
-/// Text has what the others leave, and where the note has no room beside its row it goes beneath.
+/// Text columns get the width left by the others; if there is no room for the notes, they go below their rows.
 void oPasteGrid::shareWidth()
 {
     const int note = m_model.NoteColumn();
@@ -103,7 +103,7 @@ void oPasteGrid::shareWidth()
     m_headings->Place();
 }
 
-/// Of many rows, in one go: a header that shows each change looks for the place of all rows each time.
+/// Resizes rows together: after each single change the header would recompute the positions of all rows.
 void oPasteGrid::fitRows(int first, int last)
 {
     if (first == last)
@@ -153,13 +153,13 @@ bool oPasteGrid::GoToWrong(int direction)
     if (!wrong.isValid())
         return false;
     setFocus(Qt::OtherFocusReason);
-    // Not as the keys that are held would have it.
+    // Independently of the modifier keys held.
     selectionModel()->setCurrentIndex(wrong, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     scrollTo(wrong);
     return true;
 }
 
-/// All of them as the row with the focus was not.
+/// Sets all selected rows to the opposite of the current row's tick.
 void oPasteGrid::tickChosen()
 {
     std::vector<int> rows;
@@ -170,7 +170,7 @@ void oPasteGrid::tickChosen()
 
 void oPasteGrid::keyPressEvent(QKeyEvent *event)
 {
-    // What the box of a cell leaves; Enter has stored it by then.
+    // Keys that a cell's editor ignores; Enter has already stored its text.
     if (state() == EditingState) {
         event->accept();
         return;

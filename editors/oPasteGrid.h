@@ -5,8 +5,7 @@
 class clsPasteModel;
 class oPasteHeader;
 
-/// The rows that are looked at before they are stored. Space ticks the chosen rows, Enter or typing edits a cell, a
-/// click on a tick changes it.
+/// The rows to be imported. Space ticks the selected rows, Enter or typing edits a cell, a click on a tick toggles it.
 class oPasteGrid : public QTableView {
     Q_OBJECT
 
@@ -14,10 +13,10 @@ public:
     oPasteGrid(clsPasteModel &model, QWidget *parent);
 
     oPasteHeader &Headings() const { return *m_headings; }
-    /// What stands in place of rows while there are none.
+    /// The text shown while there are no rows.
     void setEmptyText(const QString &text) { m_emptyText = text; }
     const QString &EmptyText() const { return m_emptyText; }
-    /// Goes to the next wrong cell, or the one before; false where there is none.
+    /// Moves to the next or previous wrong cell; false if there is none.
     bool GoToWrong(int direction);
 
 protected:

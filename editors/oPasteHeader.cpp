@@ -15,7 +15,7 @@ namespace {
 
 constexpr int Height = 40;
 constexpr int ListHeight = 28;
-/// What the arrow and the edges take of a list.
+/// Width of a list's arrow and edges.
 constexpr int ListTrimmings = 56;
 constexpr int LeftOut = -1;
 

@@ -7,17 +7,16 @@
 class clsPasteModel;
 class QComboBox;
 
-/// The headings of the rows that are looked at before they are stored: over each column of the table a list of what it
-/// can mean.
+/// The headings of the rows to be imported: above each column of the table a list of its possible meanings.
 class oPasteHeader : public QHeaderView {
     Q_OBJECT
 
 public:
     oPasteHeader(clsPasteModel &model, QWidget *parent);
 
-    /// Puts the lists where their columns are.
+    /// Moves the lists above their columns.
     void Place();
-    /// What the heading of a column needs.
+    /// The width needed by a column's heading.
     int WidthFor(int section) const;
     /// The lists, from left to right.
     const std::vector<QComboBox *> &Lists() const { return m_lists; }

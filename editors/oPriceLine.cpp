@@ -48,7 +48,7 @@ void oPriceLine::Follow(frmSection &screen)
     m_renewal.start();
 }
 
-/// As it would be stored now, with the time that its box would make of what is typed.
+/// Prices the item as it would be stored now, with the time in the form that its box would give it.
 void oPriceLine::renew()
 {
     if (!Form)
@@ -73,7 +73,7 @@ void oPriceLine::renew()
             tell(start + basic + QStringLiteral("; with ") + MoneyToText(percentage) + QStringLiteral(" %: "),
                 mdFormatMoney(m_item->Claim()));
     } catch (const clsRunTimeError &) {
-        tell({}, {}); // a rate of a file that is no number, or an enhancement that is gone
+        tell({}, {}); // a rate in the file isn't a number, or an enhancement is missing
     }
 }
 

@@ -8,8 +8,8 @@
 class clsZR3ScheduleOfTimeItem;
 class frmSection;
 
-/// The price of a schedule item as it stands in its editor, beneath the time. The claim's own arithmetic prices it, on
-/// an item that is in no list.
+/// Shows the price of a schedule item in its editor, below the time. Computed by the claim's own pricing on a temporary
+/// item.
 class oPriceLine : public QLabel {
     Q_OBJECT
 
@@ -19,7 +19,7 @@ public:
 
     /// Follows the boxes of an editor from now on.
     void Follow(frmSection &screen);
-    /// What it says, as plain text.
+    /// The shown text, without formatting.
     QString Words() const { return accessibleName(); }
 
     QSize sizeHint() const override;
@@ -33,6 +33,6 @@ private:
     void tell(const QString &reason, const QString &result);
 
     frmSection *m_screen = nullptr;
-    QTimer m_renewal; ///< once for all boxes that change together
+    QTimer m_renewal; ///< combines changes of several boxes
     std::shared_ptr<clsZR3ScheduleOfTimeItem> m_item;
 };

@@ -17,10 +17,10 @@
 
 namespace {
 
-/// A window narrower than this has no room for the jumps.
+/// Below this width there is no room for the links.
 constexpr int RoomForJumps = 820;
 
-/// The letters that these buttons have on every screen.
+/// The fixed letters of these buttons.
 struct clsFixedLetter {
     const char *caption;
     char letter;
@@ -63,7 +63,7 @@ oCustomButton *oScreenBar::addButton(const char *name, const QString &caption)
     return button;
 }
 
-/// Which end of the way a screen stands at does not depend on the form type.
+/// Whether a section is the first or last does not depend on the form type.
 void oScreenBar::addSwitcher(const char *section)
 {
     const QString name = QString::fromUtf8(section);
@@ -77,7 +77,7 @@ void oScreenBar::addSwitcher(const char *section)
     connect(m_switcher, &oLeftRightButton::LeftClick, this, &oScreenBar::Prev);
     connect(m_switcher, &oLeftRightButton::RightClick, this, &oScreenBar::Next);
     layout()->addWidget(m_switcher);
-    // No screen opens without a claim, and its form type stays while one is open.
+    // Screens open only with a claim, and its form type doesn't change while one is open.
     const QString type = Form ? Form->FormType() : QString();
     m_switcher->setLeftTarget(mdPrevSection(name, type));
     m_switcher->setRightTarget(mdNextSection(name, type));
@@ -86,7 +86,7 @@ void oScreenBar::addSwitcher(const char *section)
             [this, toNext = behind] { emit Walk(toNext); });
 }
 
-/// It has a key and no letter: the letters of the fields stay what they are.
+/// It has a key instead of a letter, so that the letters of the fields don't change.
 void oScreenBar::addSaveAndAdd()
 {
     oCustomButton *button = addButton("cmdSaveAndAdd", QStringLiteral("Save and Add"));
@@ -117,7 +117,7 @@ void oScreenBar::giveLetters(clsMnemonics &letters)
         for (const clsFixedLetter &row : FixedLetters)
             if (button->Caption() == QLatin1String(row.caption))
                 button->setCaption(letters.marked(button->Caption(), QLatin1Char(row.letter)));
-    // At an end of the way a letter would be wasted.
+    // A disabled end doesn't need a letter.
     if (m_switcher && m_switcher->LeftEnabled())
         m_switcher->setLeftCaption(letters.marked(m_switcher->LeftCaption()));
     if (m_switcher && m_switcher->RightEnabled())

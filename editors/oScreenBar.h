@@ -11,24 +11,24 @@ class oCustomButton;
 class oLeftRightButton;
 class oStoredNote;
 
-/// The bar at the foot of a screen: Prev and Next at its left, then the ways to other sections, and at its right the
-/// buttons that leave the screen. On a narrow window the ways go, since the menu has them too.
+/// The bar at the bottom of a screen: Prev and Next at the left, then links to other sections, and at the right the
+/// buttons that leave the screen. Narrow windows hide the links, which are also in the menu.
 class oScreenBar : public QWidget {
     Q_OBJECT
 
 public:
     oScreenBar(const clsScreen &screen, QWidget *parent);
 
-    /// What says at the left what was stored; nothing on a screen without "Save and Add".
+    /// Shows at the left what was stored; null on a screen without "Save and Add".
     oStoredNote *storedNote() const { return m_stored; }
 
-    /// Gives the buttons their letters, before the fields get theirs.
+    /// Assigns letters to the buttons; call before the fields get theirs.
     void giveLetters(clsMnemonics &letters);
 
 signals:
     void Prev();
     void Next();
-    /// The keys for the section behind or before this one, in the order of the tabs.
+    /// Keys for the next or previous section, in the order of the tabs.
     void Walk(bool behind);
     void Save();
     void SaveAndAdd();

@@ -39,8 +39,8 @@ void oScreenFrame::addPages(const clsScreenFrame &frame)
     for (const clsScreenPage &page : frame.pages) {
         auto *container = new QWidget(this);
         auto *parts = new QVBoxLayout(container);
-        parts->setContentsMargins(0, 0, 0, 0); // the switcher's pages have theirs
-        // The caption is made before the fields, so that the Tab key meets it before them.
+        parts->setContentsMargins(0, 0, 0, 0); // the switcher's pages have margins
+        // The page's caption is created before its fields, so that it comes first in the tab order.
         m_switcher->AddContent(container, QString::fromUtf8(page.caption));
         clsFrameRows(*this, *parts, page.rows, ++number).layOut();
     }

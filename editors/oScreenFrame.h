@@ -11,17 +11,17 @@ class oFieldLabel;
 class QBoxLayout;
 class QGridLayout;
 
-/// A field as it stands on a screen.
+/// A field on a screen.
 struct clsScreenField {
     const clsScreenRow *row;
     QWidget *control;
-    oFieldLabel *label; ///< nothing where the field has no caption of its own
-    int page = 0; ///< of the frame's switcher, from 1; 0 where the frame has none
+    oFieldLabel *label; ///< null if the field has no caption of its own
+    int page = 0; ///< of the frame's switcher, from 1; 0 if the frame has none
 };
 
-/// A frame of a screen with its fields, laid out from its table: a column of labels with the boxes beside it, questions
-/// over their answers, hairlines where the subject changes, and two parts side by side where the table has a break and
-/// the window the room.
+/// A frame of a screen with its fields, laid out from its table: a label column with the boxes to its right, questions
+/// above their answers, hairlines between subjects, and two parts side by side if the table has a break and the window
+/// has room.
 class oScreenFrame : public oFrame {
     Q_OBJECT
 
@@ -29,25 +29,25 @@ public:
     oScreenFrame(const clsScreenFrame &frame, QWidget *parent);
 
     const std::vector<clsScreenField> &fields() const { return m_fields; }
-    /// The labels that can be given a letter, in the order of the table.
+    /// The labels that can have a letter, in the order of the table.
     const std::vector<oFieldLabel *> &labels() const { return m_labels; }
-    /// Whether a box in it grows with the window.
+    /// Whether one of its boxes grows with the window.
     bool grows() const { return m_grows; }
 
-    /// Gives the caption a letter, which leads to the first field that can take the focus; with pages, each of their
-    /// captions, which opens its page first.
+    /// Assigns the caption a letter, which leads to the first field that can take the focus; in a frame with pages each
+    /// page's caption gets one, which also opens the page.
     void giveLetter(clsMnemonics &letters);
 
-    /// Of the frame's pages; nothing where it has none.
+    /// The switcher of the frame's pages; null if it has none.
     oContentSwitcher *switcher() const { return m_switcher; }
 
-    /// The width of the column of labels; 0 for a frame without one, which then has no use for another's.
+    /// The width of the label column; 0 for a frame without one, which ignores the common width.
     int labelColumn() const { return m_labelColumn; }
     void setLabelColumn(int width);
 
-    /// Puts the parts of the frame side by side, or one below the other.
+    /// Puts the frame's parts side by side or one below the other.
     void setSideBySide(bool sideBySide);
-    /// The width below which something would be cut, with the parts one below the other.
+    /// The minimum width with the parts one below the other and nothing cut off.
     int narrowestWidth() const;
 
 protected:
@@ -57,7 +57,7 @@ private:
     friend class clsFrameRows;
 
     void addPages(const clsScreenFrame &frame);
-    /// What stands below the parts side by side.
+    /// The layout below the side-by-side parts.
     QBoxLayout &belowColumns();
     void giveLetter(oFrame &caption, clsMnemonics &letters, int page);
     void enter(int page);

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int ShortWidth = 224;
 constexpr int LongWidth = 560;
-/// What the arrow and the edges take of the width.
+/// Width of the arrow and edges.
 constexpr int Trimmings = 48;
 constexpr int FewestCharacters = 8;
 

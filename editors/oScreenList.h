@@ -4,9 +4,9 @@
 
 #include <functional>
 
-/// A list of a screen, in one of two widths: that of a short text, or, for long entries, whatever the frame has. Its
-/// entries never make a screen wider than its window: opened, it is as wide as they are, and closed, a text that is cut
-/// is whole in the tooltip.
+/// A list on a screen, with the width of a short text or, for long entries, the width available in the frame. Its
+/// entries never widen a screen: the open list is as wide as its entries, and when it is closed the tooltip has the
+/// whole of a text that is cut off.
 class oScreenList : public QComboBox {
     Q_OBJECT
 
@@ -17,8 +17,8 @@ public:
     void showPopup() override;
 
 protected:
-    /// Fills the list anew and tells nobody: `addEntries` adds its entries and returns which of them to select. The
-    /// first is, where there is no such entry.
+    /// Refills the list without signals: `addEntries` adds the entries and returns the one to select; the first if that
+    /// is invalid.
     void refill(const std::function<int()> &addEntries);
 
     bool event(QEvent *event) override;

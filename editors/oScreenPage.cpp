@@ -14,13 +14,13 @@ namespace {
 
 constexpr int RoomForTwoColumns = 1040;
 constexpr int WidestContent = 1400;
-/// A field and a bit: enough to scroll in.
+/// A little more than a field: enough to scroll in.
 constexpr int LowestPage = 104;
-/// The left column holds the boxes and is the wider one.
+/// The left column has the boxes and is wider.
 constexpr int LeftShare = 4;
 constexpr int RightShare = 3;
 
-/// Whether a frame stands in a column, by itself or in a line of it.
+/// Whether a frame is in a column, directly or in a line of it.
 bool holds(const QLayout &column, const QWidget &frame)
 {
     for (int place = 0; place < column.count(); ++place) {
@@ -51,7 +51,7 @@ oScreenPage::oScreenPage(QWidget *parent)
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, const QWidget *now) { showFocus(now); });
 }
 
-/// The fields go after the page itself, one of them with the focus, and its loss is told to whoever listens.
+/// The fields are destroyed after the page, one of them possibly with the focus, and that still emits focusChanged.
 oScreenPage::~oScreenPage()
 {
     disconnect(qApp, nullptr, this, nullptr);
@@ -72,7 +72,7 @@ void oScreenPage::addFrame(oScreenFrame *frame, const clsScreenFrame &table)
     m_frames.push_back(frame);
 }
 
-/// The line of the column's last frame, which is made where the frame stands alone as yet.
+/// The line with the column's last frame, created if the frame is not in a line yet.
 QBoxLayout &oScreenPage::lineAtEndOf(QVBoxLayout &column)
 {
     const int last = column.count() - 1;
@@ -105,7 +105,7 @@ void oScreenPage::complete()
     alignLabels();
 }
 
-/// Frames below each other begin their boxes at one edge.
+/// Aligns the boxes of frames below each other.
 void oScreenPage::alignLabels() const
 {
     std::map<int, int> widest;
@@ -116,7 +116,7 @@ void oScreenPage::alignLabels() const
         frame->setLabelColumn(widest[columnOf(labels)]);
 }
 
-/// One column or two is a question of the width alone, so that it can be asked for a width that is not there yet.
+/// Chooses one column or two by the width alone, so that it also works for a width not yet applied.
 void oScreenPage::arrange(int width) const
 {
     const QMargins edges = m_columns->contentsMargins();
@@ -148,7 +148,7 @@ QSize oScreenPage::sizeHint() const
     return {minimumSizeHint().width(), heightFor(width())};
 }
 
-/// As narrow as the widest frame, which then stands alone in its line.
+/// As narrow as the widest frame alone on its line.
 QSize oScreenPage::minimumSizeHint() const
 {
     int width = 0;
@@ -164,10 +164,10 @@ void oScreenPage::resizeEvent(QResizeEvent *event)
     const bool low = mdIsOnLowScreen(*this);
     const int edge = low ? Theme::Space16 : Theme::Space24;
     m_columns->setContentsMargins(edge, Theme::Space16, edge, Theme::Space16);
-    // Not the width that the scroll bar leaves: its coming and going must not change the arrangement.
+    // The width including the scroll bar: showing or hiding it must not change the arrangement.
     arrange(width());
     QScrollArea::resizeEvent(event);
-    // Once the frames have found their new places.
+    // After the frames have been moved.
     QMetaObject::invokeMethod(
         this, [this] { showFocus(window()->focusWidget()); }, Qt::QueuedConnection);
 }
@@ -180,7 +180,7 @@ void oScreenPage::showFocus(const QWidget *focused)
     QScrollBar *bar = verticalScrollBar();
     const int top = place.top() - Theme::Space24;
     const int bottom = place.bottom() + 1 + Theme::Space24 - viewport()->height();
-    // A box taller than the page shows its beginning.
+    // Of a box taller than the page, shows the top.
     if (bar->value() < bottom)
         bar->setValue(bottom);
     if (bar->value() > top)

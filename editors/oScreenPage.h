@@ -10,9 +10,8 @@ class QVBoxLayout;
 class oScreenFrame;
 struct clsScreenFrame;
 
-/// The middle of a screen: its frames in one column or, where there is room, in two. It alone scrolls, and only up and
-/// down; whatever gets the focus comes into view, and stays there when the window
-/// shrinks.
+/// The middle of a screen: its frames in one column or, if there is room, in two. Only this part scrolls, and only
+/// vertically; a focused field is scrolled into view and stays visible when the window shrinks.
 class oScreenPage : public QScrollArea {
     Q_OBJECT
 
@@ -22,15 +21,15 @@ public:
 
     /// The parent of the frames.
     QWidget *content() const { return widget(); }
-    /// Puts a frame below the ones before, at the top of the second column, or in one line with the last, as its table
-    /// says.
+    /// Adds a frame below the others, at the top of the second column, or in one line with the last, as its table
+    /// specifies.
     void addFrame(oScreenFrame *frame, const clsScreenFrame &table);
     const std::vector<oScreenFrame *> &frames() const { return m_frames; }
-    /// Lets the frames of a column begin their boxes at one edge, and gives the height that is left over to those that
-    /// grow, or leaves it below them. To be called once, at last.
+    /// Aligns the boxes of all frames in a column, and gives spare height to frames that grow or leaves it below them.
+    /// Call once, after adding the frames.
     void complete();
 
-    /// The height that the frames take at a width of the page.
+    /// The height of the frames at that page width.
     int heightFor(int width) const;
 
     QSize sizeHint() const override;
@@ -41,7 +40,7 @@ protected:
 
 private:
     QBoxLayout &lineAtEndOf(QVBoxLayout &column);
-    /// What the captions of a frame need, and the column that it stands in where there are two.
+    /// The label width of a frame and, in a two-column layout, its column.
     struct clsLabels {
         int width = 0;
         int column = 0;
@@ -55,5 +54,5 @@ private:
     std::vector<QBoxLayout *> m_lines; ///< of frames beside each other
     std::vector<oScreenFrame *> m_frames;
     std::map<oScreenFrame *, clsLabels> m_ownLabels;
-    mutable bool m_wide = false; ///< how it was arranged last
+    mutable bool m_wide = false; ///< the last arrangement
 };

@@ -4,13 +4,13 @@
 
 class clsSpellingChecker;
 
-/// A plain line that says why words are not checked; where they are, it isn't there.
+/// A line that says why spelling isn't checked; hidden if it is.
 class oSpellingNote final : public QLabel {
     Q_OBJECT
 
 public:
     oSpellingNote(clsSpellingChecker &checker, QWidget *parent);
 
-    /// One line; it wraps only where there is no room for it.
+    /// One line; it wraps only if there is no room.
     QSize sizeHint() const override;
 };

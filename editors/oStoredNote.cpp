@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Held down for the next key, such as Ctrl+Enter once more.
+/// Modifier keys, which are held for the next key, such as Ctrl+Enter again.
 bool isHeld(int key)
 {
     return key == Qt::Key_Control || key == Qt::Key_Shift || key == Qt::Key_Alt || key == Qt::Key_AltGr

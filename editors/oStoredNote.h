@@ -2,14 +2,14 @@
 
 #include <QLabel>
 
-/// What "Save and Add" has just stored, at the left of the bar, until the next key in a box of the screen.
+/// Shows what "Save and Add" has just stored, at the left of the bar, until the next key press in a box of the screen.
 class oStoredNote : public QLabel {
     Q_OBJECT
 
 public:
     explicit oStoredNote(QWidget *parent);
 
-    /// Says what an item is called that was stored.
+    /// Shows the name of the stored item.
     void Tell(const QString &item);
 
     QSize sizeHint() const override;

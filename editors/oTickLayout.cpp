@@ -8,7 +8,7 @@
 
 namespace {
 
-/// From a caption to its tick, from one tick to the next caption, and from line to line.
+/// Between a caption and its tick, between a tick and the next caption, and between lines.
 int gap()
 {
     return Theme::Space8;
@@ -79,7 +79,7 @@ oTickLayout::clsMeasure oTickLayout::measure() const
     return result;
 }
 
-/// 0 stands for one line in which each takes the room that it needs.
+/// The number of columns; 0 means one line in which each takes the width it needs.
 int oTickLayout::columnsFor(int width, const clsMeasure &measure) const
 {
     if (m_columns > 0)

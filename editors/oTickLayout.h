@@ -5,8 +5,8 @@
 #include <memory>
 #include <vector>
 
-/// Ticks with their captions before them, side by side: all in one line while there is room for it, else in columns of
-/// equal width; or in a fixed number of columns from the start.
+/// Ticks with their captions before them: all on one line if there is room, otherwise in columns of equal width; or
+/// always in a fixed number of columns.
 class oTickLayout : public QLayout {
     Q_OBJECT
 
@@ -14,7 +14,7 @@ public:
     explicit oTickLayout(int columns = 0);
     ~oTickLayout() override;
 
-    /// Puts a tick and its caption behind the ones before.
+    /// Adds a tick and its caption at the end.
     void addTick(QWidget *label, QWidget *tick);
 
     void addItem(QLayoutItem *item) override;
@@ -31,9 +31,9 @@ public:
 
 private:
     struct clsMeasure {
-        int label = 0; ///< the widest caption
-        int pair = 0; ///< the widest caption with its tick
-        int line = 0; ///< all of them in one line
+        int label = 0; ///< width of the widest caption
+        int pair = 0; ///< width of the widest caption with its tick
+        int line = 0; ///< width of all of them on one line
         int height = 0; ///< of one line
         int count = 0;
     };
@@ -44,5 +44,5 @@ private:
     int heightOf(int rows, const clsMeasure &measure) const;
 
     int m_columns;
-    std::vector<std::unique_ptr<QLayoutItem>> m_items; ///< caption and tick in turn
+    std::vector<std::unique_ptr<QLayoutItem>> m_items; ///< captions and ticks alternately
 };

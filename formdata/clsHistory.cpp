@@ -59,7 +59,7 @@ bool clsHistory::knowsTree() const
     return tree && m_form && tree == m_form->m_root.document();
 }
 
-/// Whether the tree is known to be as the shadow has it. To compare the two takes long with a long claim.
+/// Whether the tree is known to equal the shadow. Comparing the two would take long for a long claim.
 bool clsHistory::isCaughtUp() const
 {
     return m_form->CountsChanges() && m_caughtUp == XMLChanges::count();

@@ -63,7 +63,7 @@ public:
         Pointer made = std::make_shared<Item>(arguments...);
         made->appendTo(m_node);
         take(std::move(made));
-        // The others keep their places: many are added without a walk along all of them for each.
+        // Only the new item is numbered, so that adding many doesn't take quadratic time.
         const Pointer &item = m_items.back();
         item->Index = count();
         if constexpr (requires { item->OrderID; })

@@ -15,12 +15,12 @@ const clsXMLField &fieldOf(const clsXMLRecord &record, const char *name)
     return *record.field(QString::fromLatin1(name));
 }
 
-/// Whether a content, as it stands in the file, says no more than an empty one.
+/// Whether a stored content counts as empty.
 bool saysNothing(const char *content)
 {
     if (*content == '\0' || std::strcmp(content, "False") == 0)
         return true;
-    // A figure, a time, or something of white space: zeros and what parts them.
+    // An amount, a time or blanks: only zeros and separators.
     const QString text = XMLDecodeText(content).trimmed();
     return text == NoDate
         || std::all_of(text.begin(), text.end(), [](QChar c) { return c == u'0' || c == u'.' || c == u':'; });
@@ -37,7 +37,7 @@ bool holdsAny(const clsXMLRecord &record)
         [&](const clsXMLPropertyPlace &place) { return holds(fieldOf(record, place.property->name)); });
 }
 
-/// What the screen Form Setup writes to the claim itself. The VAT rate of a new claim comes from the preferences.
+/// The properties of the claim itself that Form Setup stores. The VAT rate of a new claim comes from the preferences.
 constexpr const char *SetupProperties[] = {"FormType", "VAT", "IncludePanelMembershipContSheet", "CostsAssessedByLSC",
     "CostsAssessedByCourt", "ExceptionalCaseFunding", "MentalHealth", "VHCC", "StageNumber", "TypeOfCase", "Notes",
     "IncludePage1", "IncludePage2", "IncludePage3", "IncludePage4", "IncludePage5", "IncludePage6", "IncludePage7",
@@ -59,7 +59,7 @@ bool hasDisbursements(const clsZR3Form &form)
         || holds(form.ExpertsMeetMOJStandardNo) || holds(form.ExpertsMeetMOJStandardReasons);
 }
 
-/// The counts of letters and calls stand with the fee earners.
+/// The counts of letters and calls are stored with the fee earners.
 bool hasCommunications(const clsZR3Form &form)
 {
     const auto &feeEarners = form.FeeEarnersCollection();

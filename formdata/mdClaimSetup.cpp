@@ -8,7 +8,7 @@
 
 namespace {
 
-/// What is the case's and not the firm's.
+/// Belongs to the case, not to the firm.
 const QStringList &ofTheCase()
 {
     static const QStringList names {QStringLiteral("CaseReference"), QStringLiteral("Calls"),
@@ -16,7 +16,7 @@ const QStringList &ofTheCase()
     return names;
 }
 
-/// As the values stand, so that what can't be read is told where it is used, as in the other claim.
+/// Copies stored values unchanged, so that an invalid one is reported where it is used, as in the other claim.
 void copyFields(const clsXMLRecord &from, clsXMLRecord &to)
 {
     for (const clsXMLPropertyPlace &place : from.properties()) {
@@ -47,7 +47,7 @@ template <class Collection> int largestOf(const Collection &items)
     return largest;
 }
 
-/// The count of identities as it stands, or where a file was written by hand the largest that was given.
+/// The stored identity counter or, if a hand-written file has a lower one, the largest identity.
 int lastIdentity(const clsZR3Form &form)
 {
     bool isNumber = false;

@@ -9,6 +9,6 @@ QStringList mdSectionTabs();
 /// Each text is the identifier of a screen.
 QStringList mdSubSectionTabs(int sectionTab, const QString &formType);
 
-/// The text behind or before a text of the second rows, in the order of all these rows; empty at either end, and for a
+/// The text after or before a text of the second rows, in the order of all these rows; empty at either end, and for a
 /// text that the form type doesn't have.
 QString mdSectionBeside(const QString &section, const QString &formType, bool behind);

@@ -18,7 +18,7 @@ constexpr int SignSide = 14;
 constexpr int ChevronSide = 12;
 constexpr int Indent = 46;
 constexpr int NoteIndent = 58;
-constexpr int RightRoom = 44; ///< for the menu sign, so that no line breaks anew under the pointer
+constexpr int RightRoom = 44; ///< for the menu sign, so that lines don't break differently under the pointer
 constexpr int MenuWidth = 28;
 constexpr int MenuHeight = 24;
 constexpr int MostLines = 2;
@@ -41,7 +41,7 @@ bool isOpen(const QStyleOptionViewItem &option, const QModelIndex &index)
     return tree && tree->isExpanded(index);
 }
 
-/// The chosen line shows its sentence whole: no pointer is needed to read it.
+/// The selected line shows its whole sentence, so that it can be read without a pointer.
 bool isChosen(const QStyleOptionViewItem &option, const QModelIndex &index)
 {
     const auto *view = qobject_cast<const QAbstractItemView *>(option.widget);
@@ -58,7 +58,7 @@ std::optional<Sign> signOf(const QModelIndex &index)
     }
 }
 
-/// A square of that side in the middle of the rectangle's height.
+/// A square of that side, vertically centred in the rectangle.
 QRect square(const QRect &rectangle, int left, int side)
 {
     return {left, rectangle.top() + (rectangle.height() - side) / 2, side, side};

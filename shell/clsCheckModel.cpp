@@ -4,12 +4,12 @@
 
 namespace {
 
-// An index bears the way to its parent: nothing for a group, the group's row and one for a line, and above these bits
-// the line's row and one for a note below it.
+// An index holds the path to its parent: 0 for a group; the group's row + 1 for a line; for a note the same, with the
+// line's row + 1 in the bits above.
 constexpr int GroupBits = 3;
 constexpr quintptr GroupMask = (quintptr(1) << GroupBits) - 1;
 
-/// What stands in the group, as a single one is read out.
+/// The group's caption, in the singular if it is a level, to be read out.
 QString levelOf(clsFindingGroup::clsKind kind)
 {
     const QString caption = mdGroupCaption(kind);

@@ -4,7 +4,7 @@
 
 #include <QAbstractItemModel>
 
-/// The findings of the check as a tree: groups, their lines, and below a line of many notes each of these.
+/// The findings of the check as a tree: groups, their lines, and single notes below a line that collects many.
 class clsCheckModel : public QAbstractItemModel {
     Q_OBJECT
 
@@ -12,20 +12,20 @@ public:
     enum clsKind { Group, Line, Note };
     enum clsRole {
         KindRole = Qt::UserRole,
-        GroupRole, ///< which group it belongs to, as clsFindingGroup::clsKind
+        GroupRole, ///< the group, as clsFindingGroup::clsKind
         PlaceRole,
-        CountRole, ///< of the findings that a line or a group stands for
+        CountRole, ///< the number of findings in a line or group
     };
 
     using QAbstractItemModel::QAbstractItemModel;
 
     void take(const std::vector<clsShownFinding> &findings, const std::vector<clsFindingGroup> &groups);
 
-    /// The findings that a line stands for, by their numbers; none for a group.
+    /// The numbers of a line's findings; none for a group.
     std::vector<int> findingsOf(const QModelIndex &index) const;
-    /// The line of a finding; nothing for one that is not shown.
+    /// The line of a finding; invalid if it is not shown.
     QModelIndex indexOf(int finding) const;
-    /// The findings that are shown and not put aside, in the order of the lines.
+    /// The findings shown and not dismissed, in the order of the lines.
     std::vector<int> walk() const;
 
     QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override;

@@ -19,7 +19,7 @@
 
 namespace {
 
-/// So long nothing else happens before the printed texts are looked at.
+/// Idle time before the printed texts are checked.
 constexpr int IdleMilliseconds = 80;
 
 } // namespace
@@ -91,7 +91,7 @@ void clsCheckState::takeClaim()
     readKept();
 }
 
-/// A claim that was saved under another name keeps what was put aside in it until then.
+/// After Save As the claim keeps its dismissals.
 void clsCheckState::readKept()
 {
     const QString path = Document().filePath();
@@ -134,11 +134,11 @@ void clsCheckState::group()
 
 void clsCheckState::LookAtPrint()
 {
-    // A screen that has opened in the meantime drops it; the activation after that screen comes back to it.
+    // Skipped if a screen has opened meanwhile; the activation after that screen calls it again.
     const bool isFree = m_overScreen || !QApplication::activeModalWidget();
     if (!m_copy || !m_failure.isEmpty() || !isFree || clsLongWork::isRunning())
         return;
-    // The menu of a finding names it by its number.
+    // The open menu refers to a finding by its number.
     if (QApplication::activePopupWidget())
         return m_idle.start();
     const QString text = mdPrintedText(*m_copy);
@@ -164,7 +164,7 @@ void clsCheckState::PutAside(const std::vector<int> &findings, bool aside)
             m_aside.remove(key);
     }
     mdKeepPutAside(m_asideOf, m_aside);
-    // Others may be about an item of the same content.
+    // Other findings may be about an item with the same content.
     for (clsShownFinding &shown : m_findings)
         shown.IsAside = m_aside.contains(m_items->keyOf(shown.Finding));
     group();

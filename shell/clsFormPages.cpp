@@ -102,7 +102,7 @@ void clsFormPages::ended(clsPagesMaker::clsResult result)
     }
     m_shown = m_making;
     m_notMade.clear();
-    // It may have changed while its pages were drawn.
+    // The claim may have changed while its pages were drawn.
     if (Form)
         Activate(Preferences && Preferences->AutoRefreshPreview());
 }

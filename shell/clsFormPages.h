@@ -7,22 +7,22 @@
 
 class oFormPages;
 
-/// Keeps the form pages of the main window in step with the claim: has them made when they are asked for, and knows
-/// whether those that are shown are still the claim's.
+/// Keeps the form pages of the main window in step with the claim: has them made on request, and knows whether the ones
+/// on display are up to date.
 class clsFormPages : public QObject {
     Q_OBJECT
 
 public:
     explicit clsFormPages(oFormPages &page, QObject *parent = nullptr);
 
-    /// Shows the claim's pages; they are made where those at hand are not the claim's as it stands.
+    /// Shows the claim's pages; makes them if those available are out of date.
     void Show();
-    /// The claim may have changed: the pages are made anew, or marked as old. What could not be made is not tried again
-    /// before the claim has changed.
+    /// The claim may have changed: makes the pages again or marks them as old. After a failure they are not tried again
+    /// until the claim changes.
     void Activate(bool makesAnew);
-    /// The claim is no more, and its pages go with it.
+    /// The claim was closed: removes its pages.
     void Forget();
-    /// The pages of the claim as it stands, where they are at hand; else nothing.
+    /// The PDF of the pages if it is up to date, else empty.
     QByteArray CurrentPdf() const;
 
     clsPagesMaker &Maker() { return m_maker; }
@@ -35,8 +35,8 @@ private:
     oFormPages &m_page;
     clsPagesMaker m_maker;
     QString m_shown; ///< the claim's text that the pages show
-    QByteArray m_document; ///< that they were made of
-    QString m_making; ///< the same of those that are being made
-    QString m_notMade; ///< the same of those that could not be made, or were cancelled
+    QByteArray m_document; ///< the document that they were made from
+    QString m_making; ///< the text of the pages in progress
+    QString m_notMade; ///< the text of pages that failed or were cancelled
     QDateTime m_begun;
 };

@@ -13,9 +13,9 @@
 
 namespace {
 
-constexpr std::chrono::milliseconds BetweenLooks(50); ///< while a write goes on
+constexpr std::chrono::milliseconds BetweenLooks(50); ///< while a write is running
 
-/// What is told, the gravest first.
+/// The kinds of notice, most serious first.
 enum clsKind { NotSaved, ChangedOnDisk, NotClosed, NotKept, Broken };
 
 struct clsKindRow {
@@ -191,7 +191,7 @@ clsNotice clsJournalKeeper::notice(int kind, const QString &sentence, const QStr
         if (row.kind == kind)
             result.answers.push_back(
                 {QString::fromLatin1(row.caption), [this, act = row.act, journal] { (this->*act)(journal); }});
-    // What somebody else has changed since is looked at first.
+    // If the original has changed since, comparing comes first.
     if (const clsLeftJournal *one = left(journal); one && originalChanged(*one))
         std::swap(result.answers[0], result.answers[1]);
     return result;
@@ -219,7 +219,7 @@ void clsJournalKeeper::OpenTheirs(const QString &)
 
 void clsJournalKeeper::OpenLeft(const QString &journal)
 {
-    // Looked for again after the question: another window may have opened it meanwhile.
+    // Looked up again after the question: another window may have opened it meanwhile.
     m_commands.openInstead([this, journal] {
         m_left.look();
         if (const clsLeftJournal *one = left(journal))

@@ -12,17 +12,17 @@
 
 struct clsComparison;
 
-/// What the keeper has the main window do.
+/// What the keeper asks of the main window.
 struct clsKeeperCommands {
     std::function<void()> saveAs;
-    /// Asks about changes, and runs the step in which another claim takes the place of the open one.
+    /// Asks about changes, then runs the step that replaces the open claim.
     std::function<void(const std::function<void()> &open)> openInstead;
     std::function<void(const clsComparison &comparison)> compare;
 };
 
-/// Keeps the journal while the main window is up: soon after each step, and now and then for what is typed. It shows in
-/// the bar what of the user's work is in danger: a save that failed, a file that another program has changed, a claim
-/// that was not closed properly, a journal that can't be written.
+/// Updates the journal while the main window is open: soon after each step, and at intervals for typed text. Shows
+/// notices in the bar about work at risk: a failed save, a file changed by another program, a claim that was not closed
+/// properly, a journal that can't be written.
 class clsJournalKeeper : public QObject {
     Q_OBJECT
 
@@ -30,21 +30,21 @@ public:
     clsJournalKeeper(oNoticeBar &bar, clsKeeperCommands commands, QObject *parent);
     ~clsJournalKeeper() override;
 
-    /// How long after a step it is written, and how often the rest is looked at: far oftener than the thirty seconds
-    /// that are promised. By the monotonic clock.
+    /// The delay of a write after a step, and the interval of the other checks, by the monotonic clock. Both are far
+    /// below the promised thirty seconds.
     std::chrono::milliseconds afterStep {300};
     std::chrono::milliseconds between {10000};
 
-    /// From here on the journal is kept, and what earlier runs have left is offered.
+    /// Starts the journal and offers those that earlier runs left.
     void begin();
-    /// Looks at the file, and for what other windows have left since, and shows what there is to tell.
+    /// Checks the claim's file and the journals left by other windows since, and updates the notices.
     void refresh();
-    /// What waits behind all that is in danger; nothing takes it away.
+    /// A notice shown when nothing is at risk; without a value it is removed.
     void setOffer(std::optional<clsNotice> offer);
-    /// The program ends, and the user has been asked about changes.
+    /// The program ends, and the user has answered the question about changes.
     void leave();
 
-    // The answers of the notices. `journal` is the file of the one that the notice tells of.
+    // The answers to the notices. `journal` is the file of the journal that the notice is about.
     void SaveAs(const QString &journal);
     void OpenTheirs(const QString &journal);
     void CompareTheirs(const QString &journal);

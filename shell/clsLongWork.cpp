@@ -7,7 +7,7 @@ namespace {
 
 constexpr int PatienceMilliseconds = 200;
 
-// The work that runs: asked from below it, by timers and boxes that no object of the work reaches.
+// The running work. Timers and boxes that ask for it have no access to an object of it.
 clsLongWork *outermost = nullptr;
 
 } // namespace

@@ -2,9 +2,9 @@
 
 #include <QElapsedTimer>
 
-/// Work on the window's thread that takes the user's time: a redraw, an export, a large claim that is opened.
-/// It runs as long as such an object lives. The timers go on firing below it, and whoever must not meet a half-done
-/// state asks here first. The busy cursor comes when the work has lasted a moment, so that short work does not flicker.
+/// Long work on the GUI thread, such as a redraw, an export or the opening of a large claim. It runs for the lifetime
+/// of such an object. Timers still fire during it, so code that must not see a half-finished state checks this class
+/// first. The busy cursor appears only after a moment, so that it doesn't flicker in short work.
 class clsLongWork {
 public:
     clsLongWork();
@@ -14,9 +14,9 @@ public:
 
     static bool isRunning();
 
-    /// Shows the busy cursor if the work has lasted long enough; to be called at its steps.
+    /// Shows the busy cursor if the work has lasted long enough; call at each step.
     static void showWaiting();
-    /// Takes the busy cursor away while the user is asked something; the next step brings it back.
+    /// Hides the busy cursor while the user is asked something; the next step shows it again.
     static void hideWaiting();
 
 private:

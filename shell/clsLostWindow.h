@@ -4,8 +4,8 @@
 
 #include <functional>
 
-/// Tells where another program has destroyed a window of this one, which the toolkit takes no notice of: the program
-/// would run on without a window that its user could reach, and hold its journal back from the next start.
+/// Detects that another program has destroyed one of this program's windows, which the toolkit ignores. The program
+/// would otherwise run on with no usable window, and keep its journal from being offered at the next start.
 class clsLostWindow final : public QAbstractNativeEventFilter {
 public:
     explicit clsLostWindow(std::function<void()> lost);

@@ -1,4 +1,4 @@
-// What the X server tells of destroyed windows; on other platforms there is nothing to be told.
+// Detects destroyed windows from the X server's events; other platforms have no such check.
 
 #include "shell/clsLostWindow.h"
 
@@ -11,10 +11,10 @@
 
 namespace {
 
-/// The protocol's event, as it is laid down there.
+/// The event as defined by the X11 protocol.
 struct clsDestroyNotify {
     static constexpr quint8 Type = 17;
-    static constexpr quint8 TypeBits = 0x7F; ///< without the mark of events that another program has made up
+    static constexpr quint8 TypeBits = 0x7F; ///< without the flag of events sent by other programs
 
     quint8 type;
     quint8 unused;
@@ -23,7 +23,7 @@ struct clsDestroyNotify {
     quint32 window;
 };
 
-/// Whether a window of the program is shown as this one. One that the toolkit has taken away itself is none any more.
+/// Whether a visible window of the program has this id. One that the toolkit has closed itself no longer counts.
 bool isShown(quint32 id)
 {
     const QWindowList windows = QGuiApplication::topLevelWindows();

@@ -28,7 +28,7 @@ constexpr int ExportsShare = 30; ///< of the progress
 constexpr int TickMilliseconds = 200;
 constexpr qint64 FirstExpectedMilliseconds = 6000;
 
-/// What an export would tell, for the one message at the end, and how far it is.
+/// Collects the messages of an export for the one message at the end, and passes on its progress.
 class clsPagesListener final : public clsQuietUserInterface {
 public:
     explicit clsPagesListener(std::function<void(int, int, const QString &)> progress)
@@ -127,7 +127,7 @@ bool clsPagesMaker::exportCopy(const clsZR3Form &form)
             listener.told = mdNoPagesMessage(copy.FormType());
         m_sheets = finished ? mdForecastOf(run) : clsForecast();
     } catch (const std::exception &) {
-        // Whatever it is, it must not leave this object running without end.
+        // No error of any kind may leave this object in the running state.
         const clsRunTimeError error = mdRunTimeErrorOf(std::current_exception());
         listener.told = error.cause().isEmpty() ? error.description() : error.cause();
     }
@@ -148,7 +148,7 @@ void clsPagesMaker::convert()
 
 void clsPagesMaker::showConverting()
 {
-    // The office program doesn't say how far it is: the bar nears its end by the time that it took before.
+    // The office program reports no progress: the bar approaches its end at the pace of the previous conversion.
     const double part = 1 - std::exp(-1.5 * double(m_converting.elapsed()) / double(m_expected));
     emit Progress(ExportsShare + int((ProgressMaximum - ExportsShare) * part), ProgressMaximum,
         m_sheets.PaperPages() == 1 ? QStringLiteral("Drawing 1 page")

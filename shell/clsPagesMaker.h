@@ -14,16 +14,15 @@ class QTemporaryDir;
 class clsPdfConversion;
 class clsZR3Form;
 
-/// Makes the finished pages of a claim as PDF: an export of a copy of it into a private folder, and the office
-/// program's conversion of that, in a process beside the window. Neither the claim nor its export folder is touched. It
-/// makes one set of pages at a time.
+/// Makes the PDF pages of a claim: exports a copy of it into a private folder and has the office program convert the
+/// document in a separate process. Changes neither the claim nor its export folder. Makes one set of pages at a time.
 class clsPagesMaker : public QObject {
     Q_OBJECT
 
 public:
     enum clsResult {
         Made,
-        Unchanged, ///< the document is that of the pages made before, which still hold
+        Unchanged, ///< the document equals that of the previous pages, which are still valid
         Cancelled,
         Failed,
     };
@@ -31,18 +30,18 @@ public:
     explicit clsPagesMaker(QObject *parent = nullptr);
     ~clsPagesMaker() override;
 
-    /// Begins. `madeBefore` is the document of pages that are at hand, if any. `Ended` follows, perhaps at once.
+    /// Starts. `madeBefore` is the document of the existing pages, if any. `Ended` follows, possibly at once.
     void Start(const clsZR3Form &form, const QByteArray &madeBefore = {});
     void Cancel();
     bool isRunning() const { return m_folder != nullptr; }
 
-    // Of the pages made last.
+    // The pages made last.
     const QByteArray &Pdf() const { return m_pdf; }
-    /// What names the document that they were made of: the same document, the same name.
+    /// Identifies the document that they were made from: equal for equal documents.
     const QByteArray &Document() const { return m_document; }
-    /// Its sheets.
+    /// The sheets of that document.
     const clsForecast &Sheets() const { return m_sheets; }
-    /// Why there are none, in a sentence.
+    /// Why there are no pages, as a sentence.
     const QString &Failure() const { return m_failure; }
 
 signals:
@@ -68,5 +67,5 @@ private:
     QString m_failure;
 };
 
-/// A claim's text less what no page shows: where it lies, the time spent on it, its counters.
+/// A claim's text without the values that no page shows: its path, the time spent on it, its counters.
 QString mdPrintedText(const clsZR3Form &form);

@@ -11,7 +11,7 @@ namespace {
 
 constexpr int RowHeight = 23;
 constexpr int CaptionHeight = 28;
-constexpr int FoldedCaptionHeight = 15; ///< only a line, between the dots of two groups
+constexpr int FoldedCaptionHeight = 15; ///< only a line between the dots of two groups
 constexpr int DotSide = 9;
 constexpr int DotMiddle = 22;
 constexpr int TextLeft = 38;
@@ -49,7 +49,7 @@ void clsSectionDelegate::paint(QPainter *painter, const QStyleOptionViewItem &op
     if (isCaption(index)) {
         paintCaption(*painter, option.rect, index.data().toString());
     } else {
-        // No row is marked while the list is not where the user is: no screen is open.
+        // No row is highlighted while the list is without focus: no screen is open.
         QStyleOptionViewItem row = option;
         row.state.setFlag(QStyle::State_Selected,
             (option.state & QStyle::State_Selected) && option.widget && option.widget->hasFocus());
@@ -69,7 +69,7 @@ void clsSectionDelegate::paintCaption(QPainter &painter, const QRect &row, const
     }
     painter.setFont(m_caption);
     painter.setPen(Theme::Ink2);
-    // The first has a little more room above it.
+    // The first has a little more space above it.
     const int height = Theme::scaled(CaptionHeight);
     painter.drawText(QRect(row.left() + Theme::Space16, row.bottom() + 1 - height, row.width(), height),
         Qt::AlignVCenter | Qt::AlignLeft, text);

@@ -3,8 +3,8 @@
 #include <QFont>
 #include <QStyledItemDelegate>
 
-/// Draws the rows of the list of sections: captions, and sections with their dots and numbers. Folded it draws the dots
-/// alone.
+/// Draws the rows of the section list: captions, and sections with their dots and numbers. When folded it draws only
+/// the dots.
 class clsSectionDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
@@ -12,7 +12,7 @@ public:
     explicit clsSectionDelegate(QObject *parent = nullptr);
 
     void setFolded(bool folded) { m_folded = folded; }
-    /// The desktop's font is another one.
+    /// Call after the desktop's font has changed.
     void takeFonts();
 
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;

@@ -8,7 +8,7 @@
 
 #include <vector>
 
-/// The sections of a form in the order of its tabs, each group below its caption, and how each section stands.
+/// The sections of a form in the order of its tabs, with a caption above each group, and the state of each section.
 class clsSectionModel : public QAbstractListModel {
     Q_OBJECT
 
@@ -18,12 +18,12 @@ public:
     using QAbstractListModel::QAbstractListModel;
 
     void take(const QString &formType, const QSet<QString> &begun, const QHash<QString, clsScreenFindings> &findings);
-    /// The row of a section; -1 where the form has none of that text.
+    /// The row of a section; -1 if the form doesn't have it.
     int rowOf(const QString &section) const;
 
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
-    /// The captions can't be chosen.
+    /// Captions can't be selected.
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
 private:

@@ -13,8 +13,8 @@
 namespace {
 
 constexpr int BusyMilliseconds = 20;
-constexpr int AfterShowMilliseconds = 50; ///< the window is to be there first
-constexpr int NearlyAll = 10; ///< a limit is nearly reached when less than one such part of it is left
+constexpr int AfterShowMilliseconds = 50; ///< after the window is shown
+constexpr int NearlyAll = 10; ///< a limit is nearly reached when less than 1/NearlyAll of it is left
 
 clsStripTotal shown(const clsClaimTotal &total, bool apart)
 {
@@ -23,7 +23,7 @@ clsStripTotal shown(const clsClaimTotal &total, bool apart)
     return result;
 }
 
-/// What gives way in a narrow strip, and what counts most, by the key of the figure.
+/// Sets what is left out of a narrow strip and what is emphasised, by the figure's key.
 void setLook(clsStripTotal &total)
 {
     constexpr const char *IntoOther[] = {"CommsTotal", "ExpertInvoicesNetTotal", "NonCounselDisbursementsAmountTotal"};
@@ -106,7 +106,7 @@ void clsStripFiller::Forget()
 
 void clsStripFiller::fill()
 {
-    // Work that lets events through may have left the claim half loaded.
+    // Work that processes events may have left the claim half loaded.
     if (clsLongWork::isRunning())
         return m_idle.start(BusyMilliseconds);
     if (!Form)
@@ -115,7 +115,7 @@ void clsStripFiller::fill()
         const auto copy = mdCopyOfClaim(*Form);
         show(m_strip, mdClaimTotals(*copy));
     } catch (const std::exception &) {
-        // A claim of which no copy can be looked at: its lists tell the user what is wrong.
+        // The claim can't be copied; its lists report what is wrong.
         m_strip.Clear();
     }
     emit Renewed();

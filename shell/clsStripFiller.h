@@ -5,17 +5,16 @@
 
 class oTotalsStrip;
 
-/// Fills the strip of totals from the open claim, at a moment when the program has nothing else to do. It works on a
-/// copy: looking changes nothing.
+/// Fills the strip of totals from a copy of the open claim, which thus stays unchanged, when the program is idle.
 class clsStripFiller : public QObject {
     Q_OBJECT
 
 public:
     explicit clsStripFiller(oTotalsStrip &strip, QObject *parent = nullptr);
 
-    /// The claim may have changed.
+    /// Call when the claim may have changed.
     void Renew();
-    /// The claim is no more.
+    /// Call when the claim was closed.
     void Forget();
 
 protected:

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int RateColumn = 10; ///< from here on the sheet leaves the preview in sight
+constexpr int RateColumn = 10; ///< from here on the sheet leaves the preview visible
 } // namespace
 
 clsWhyOpener::clsWhyOpener(oTotalsStrip &strip, oPreviewGrid &grid, QWidget &window, QObject *parent)
@@ -106,7 +106,7 @@ void clsWhyOpener::moveRow(int rows)
 
 void clsWhyOpener::goOn(const clsWhyAsked &asked, const QString &about)
 {
-    m_sheet->setMovesRows(false); // it is no longer the row's figure
+    m_sheet->setMovesRows(false); // no longer the row's figure
     open(mdWhy(bill(), asked.Kind, asked.Which), about);
 }
 

@@ -15,25 +15,25 @@ class clsZR3Form;
 class oPreviewGrid;
 class oTotalsStrip;
 
-/// Opens the sheet that says how a figure comes about: for the figures of the strip and for the rows of the preview.
-/// It looks at a copy of the claim, made when it is first asked and kept while the sheet is open.
+/// Opens the sheet that explains how a figure is computed, for the figures of the strip and the rows of the preview.
+/// Computes on a copy of the claim, made on first use and kept while the sheet is open.
 class clsWhyOpener : public QObject {
     Q_OBJECT
 
 public:
-    /// The sheet lies over `window`.
+    /// The sheet is shown over `window`.
     clsWhyOpener(oTotalsStrip &strip, oPreviewGrid &grid, QWidget &window, QObject *parent = nullptr);
     ~clsWhyOpener() override;
 
-    /// The figure of a key of the strip.
+    /// Explains the strip's figure with this key.
     void AskStrip(const QString &key);
-    /// The row of the preview that is asked about.
+    /// Explains the selected row of the preview.
     void AskPreview();
-    /// The preview shows the claim as it now is.
+    /// The preview has been drawn from the present claim.
     void TellDrawn() { m_drawnIsDue = true; }
-    /// Notes the claim's state, where the preview was drawn and nothing has happened since.
+    /// Notes the claim's state if the preview was just drawn.
     void TakeDrawnState();
-    /// The claim changes, or what the sheet points at.
+    /// Call when the claim changes, or the figure that the sheet points to.
     void Close();
 
     oWhySheet &Sheet() const { return *m_sheet; }
@@ -58,5 +58,5 @@ private:
     QPoint m_at;
     oWhySheet::Point m_point = oWhySheet::Point::Down;
     std::uint64_t m_drawn = 0; ///< the claim's state when the preview was drawn
-    bool m_drawnIsDue = false; ///< it was drawn, and the state has still to be noted: the start has no time for it
+    bool m_drawnIsDue = false; ///< drawn, but the state is not noted yet: there is no time for it at the start
 };

@@ -25,8 +25,8 @@ namespace {
 
 constexpr int RepaintMilliseconds = 50;
 
-/// A filter as the commands give it, "text|pattern", again and again for more than one, as the toolkit's dialog takes
-/// it: the patterns in brackets at the end of the text, where many texts have them already.
+/// Converts a filter "text|pattern|text|pattern..." to the form of the toolkit's dialog, with the patterns in brackets
+/// after the text, unless the text already has them there.
 QStringList nameFilters(const QString &filter)
 {
     const QStringList pieces = filter.split(u'|');
@@ -40,7 +40,7 @@ QStringList nameFilters(const QString &filter)
     return filters;
 }
 
-/// Shows a box and gives the user's answer.
+/// Shows a box and returns the user's answer.
 clsUserInterface::Answer answered(
     clsUserInterface::Buttons buttons, const std::function<void(frmMessageBox &box)> &initialise)
 {
@@ -50,7 +50,7 @@ clsUserInterface::Answer answered(
     frmMessageBox box(mdWindowInFront());
     initialise(box);
     mdShowModal(box);
-    // A box that the program's end has closed was not answered.
+    // A box closed by the program's end was not answered.
     return oApplication::ending() ? clsUserInterface::answerThatChangesNothing(buttons) : box.Result();
 }
 
@@ -59,7 +59,7 @@ bool isAddress(const QString &target)
     return target.startsWith(QLatin1String("mailto:")) || target.contains(QLatin1String("://"));
 }
 
-/// The dialog itself adds an extension only to a name without any dot: "Smith v. Jones" has one.
+/// The dialog adds an extension only to names without a dot, such as not to "Smith v. Jones".
 QString withExtension(const QString &path, const QString &extension)
 {
     return path.isEmpty() || path.endsWith(extension, Qt::CaseInsensitive) ? path : path + extension;
@@ -107,7 +107,7 @@ void clsWindowUserInterface::letWindowsRepaint()
     if (m_repainting || oApplication::ending()
         || (m_repainted.isValid() && m_repainted.elapsed() < RepaintMilliseconds))
         return;
-    // What a timer starts inside is not to meet the work half done.
+    // Timers that fire during the repaint must see that work is running.
     const clsLongWork work;
     m_repainting = true;
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
@@ -156,7 +156,7 @@ QString clsWindowUserInterface::chooseFileToSave(const QString &filter, const QS
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setDefaultSuffix(defaultExtension);
-    // The program asks before it overwrites; two questions would be one too many.
+    // The program itself asks before it overwrites.
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     return chosen(withExtension(dialog.Choose(), defaultExtension));
 }
@@ -172,7 +172,7 @@ QString clsWindowUserInterface::chooseFileToExport(
     dialog.selectFile(QFileInfo(proposed).fileName());
     const QString given = dialog.Choose();
     const QString path = withExtension(given, extension);
-    // The dialog has asked about the name that was typed, and not about the one that it has become.
+    // The dialog has only asked about the typed name, not the one with the extension.
     if (path.isEmpty() || (path != given && !ConfirmOverwrite(path)))
         return {};
     return chosen(path);
@@ -180,7 +180,7 @@ QString clsWindowUserInterface::chooseFileToExport(
 
 void clsWindowUserInterface::playSound(const QString &path)
 {
-    // Later, since the first sound wakes the desktop's audio, which can take longer than the box that it announces.
+    // Delayed: the first sound starts the desktop's audio, which can take longer than opening the box.
     QTimer::singleShot(0, QCoreApplication::instance(), [this, path, alive = std::weak_ptr(m_alive)] {
         if (alive.expired() || !QFileInfo(path).isFile() || QMediaDevices::defaultAudioOutput().isNull())
             return;

@@ -10,11 +10,11 @@
 class QSoundEffect;
 class QWidget;
 
-/// The windows' side of the one door to the user: message boxes, the footer's progress, the desktop's file dialogs,
-/// sounds and opener. Boxes belong to the window that is active when they come.
+/// The user interface of the windows: message boxes, progress in the footer, the desktop's file dialogs, sounds and
+/// opener. A box belongs to the window that is active when it opens.
 class clsWindowUserInterface final : public clsUserInterface {
 public:
-    /// Where progress shows, and lines that go by themselves; all may be empty, as before there is a main window.
+    /// Displays progress and short-lived lines; all may be empty, as before the main window exists.
     struct clsProgressDisplay {
         std::function<void(int value, int maximum, const QString &text)> show;
         std::function<void()> clear;
@@ -29,8 +29,7 @@ public:
     Answer customMessage(const QString &message, const QString &title, Buttons buttons, int icon, int timeout) override;
     Answer systemMessage(const QString &message, const QString &title, SystemIcon icon, Buttons buttons) override;
     void tellLine(const QString &line) override;
-    /// Long work hands the thread to the windows here now and then, so that they can repaint. The user's own input
-    /// waits until the work has ended.
+    /// Also lets the windows repaint during long work. The user's input waits until the work has ended.
     void showProgress(int value, int maximum, const QString &text) override;
     void clearProgress() override;
     QString chooseFolder(const QString &prompt, const QString &start) override;
@@ -42,7 +41,7 @@ public:
 
 private:
     void letWindowsRepaint();
-    /// The folder in which a dialog begins: the wanted one, where it is there.
+    /// The start folder of a dialog: the wanted one if it exists.
     QString startFolder(const QString &wanted = {}) const;
     QString chosen(const QString &path);
 
@@ -51,6 +50,6 @@ private:
     bool m_repainting = false;
     QString m_lastFolder;
     std::unique_ptr<QSoundEffect> m_sound;
-    /// A sound that is still to come asks whether this object is there yet.
+    /// Lets a delayed sound check whether this object still exists.
     std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
 };

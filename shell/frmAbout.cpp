@@ -19,7 +19,7 @@
 
 namespace {
 
-/// A link that is marked as soon as the Tab key reaches it, so that Enter opens it.
+/// A link that is selected when it gets the focus by Tab, so that Enter opens it.
 class oLink final : public QLabel {
 public:
     using QLabel::QLabel;

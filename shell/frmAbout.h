@@ -6,12 +6,12 @@ class QFormLayout;
 class oCustomButton;
 class oFrame;
 
-/// The box that tells which program this is, what its export writes with, and where help is.
+/// Shows the program's version, the format of its exports and where to find help.
 class frmAbout : public QDialog {
     Q_OBJECT
 
 public:
-    /// `wordInstalled` is what mdWordInstalled found.
+    /// `wordInstalled` is the result of mdWordInstalled.
     frmAbout(bool wordInstalled, QWidget *parent = nullptr);
 
 private:

@@ -23,7 +23,7 @@ constexpr int Height = 620;
 constexpr int RowHeight = 28;
 constexpr int Widths[Columns] = {220, 180, 220, 220, 100};
 
-/// In one line, whatever breaks the text has.
+/// On one line, without line breaks.
 QString inLine(const QString &text)
 {
     return text.simplified();
@@ -93,7 +93,7 @@ frmCompare::frmCompare(const clsComparison &comparison, QWidget *parent)
     auto *bar = new oButtonBar(this);
     bar->AddButton(close);
     oButtonBar::layOut(*this, header, content, bar);
-    // The table takes all of the height.
+    // The table gets all the spare height.
     static_cast<QBoxLayout *>(layout()->itemAt(1)->layout())->setStretchFactor(content, 1);
     if (m_table->rowCount() > 0) {
         m_table->setCurrentCell(1, 0);
@@ -121,7 +121,7 @@ void frmCompare::fill(const clsComparison &comparison)
         QString where = itemInWords(item);
         QString effect = item.Effect;
         for (const clsFieldChange &field : item.Fields)
-            // What an item is called and worth stands in the first of its rows.
+            // An item's name and amount are in the first of its rows.
             addRow({std::exchange(where, {}), field.Property, field.Old, field.New, std::exchange(effect, {})});
         if (!where.isEmpty())
             addRow({where, {}, {}, {}, effect});

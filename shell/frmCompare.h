@@ -5,7 +5,7 @@
 class QTableWidget;
 struct clsComparison;
 
-/// Shows what differs between two states of a claim: fields, items and totals. It changes nothing.
+/// Shows the differences between two states of a claim: fields, items and totals. Changes nothing.
 class frmCompare : public QDialog {
     Q_OBJECT
 

@@ -33,7 +33,7 @@ QString title()
     return QStringLiteral("Export as PDF");
 }
 
-/// Beside the claim and under its name; a claim that was never saved has its form's name in the folder of its exports.
+/// The claim's folder and name; for a claim that was never saved, the form's name in the export folder.
 QString proposedPath()
 {
     const QString claim = Document().filePath();
@@ -116,7 +116,7 @@ void frmExportAsPdf::build()
 clsPagesMaker::clsResult frmExportAsPdf::Make()
 {
     m_result = clsPagesMaker::Cancelled;
-    // Once it shows: an export of many items takes a moment.
+    // After the dialog is visible: an export of many items takes a moment.
     QTimer::singleShot(0, this, [this] { m_maker.Start(*Form); });
     mdShowModal(*this);
     return m_result;
@@ -125,7 +125,7 @@ clsPagesMaker::clsResult frmExportAsPdf::Make()
 void frmExportAsPdf::done(int result)
 {
     if (m_maker.isRunning())
-        m_maker.Cancel(); // which closes it
+        m_maker.Cancel(); // which closes the dialog
     else
         QDialog::done(result);
 }

@@ -7,14 +7,14 @@
 class QLabel;
 class QProgressBar;
 
-/// Says how far the making of a claim's pages is, and lets the user cancel it. It closes by itself.
+/// Shows the progress of making a claim's pages and lets the user cancel. Closes by itself.
 class frmExportAsPdf : public QDialog {
     Q_OBJECT
 
 public:
     explicit frmExportAsPdf(QWidget *parent = nullptr);
 
-    /// Shows itself until the pages of the claim are made, or not.
+    /// Stays open until the pages are made or have failed.
     clsPagesMaker::clsResult Make();
 
     const clsPagesMaker &Maker() const { return m_maker; }
@@ -30,6 +30,6 @@ private:
     QProgressBar *pbProgress;
 };
 
-/// Exports the claim's pages as a PDF of the user's choice. `atHand` is the PDF of the claim as it stands, where there
-/// is one already. What keeps it from coming out the user is told in one message.
+/// Exports the claim's pages as a PDF to a path that the user chooses. `atHand` is an up-to-date PDF of the claim, if
+/// there is one. A failure is reported in one message.
 void mdExportAsPdf(const QByteArray &atHand, QWidget *parent);

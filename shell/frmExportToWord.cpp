@@ -124,7 +124,7 @@ void frmExportToWord::build()
     lblOutcome->setObjectName(QStringLiteral("lblOutcome"));
     lblOutcome->setTextFormat(Qt::PlainText);
     lblOutcome->setWordWrap(true);
-    // Room for two lines from the beginning, so that nothing moves when there is something to say.
+    // Always room for two lines, so that nothing moves when text appears.
     lblOutcome->setMinimumHeight(2 * lblOutcome->fontMetrics().lineSpacing());
     lblOutcome->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     bxGeneral->bodyLayout()->addWidget(lblOutcome);
@@ -154,7 +154,7 @@ QWidget *frmExportToWord::makeCheckLine()
     line->addWidget(lblCheckCounts);
     line->addWidget(cmdShowCheck);
     line->addStretch(1);
-    // What the printed texts add comes a moment later, and must not move anything.
+    // Findings about printed texts come a moment later, and must not move anything.
     QSizePolicy keepsRoom = m_checkLine->sizePolicy();
     keepsRoom.setRetainSizeWhenHidden(m_check != nullptr);
     m_checkLine->setSizePolicy(keepsRoom);
@@ -186,8 +186,8 @@ void frmExportToWord::showCounts()
 
 void frmExportToWord::txtExportPath_Change()
 {
-    // A folder that is being typed is none until its last letter, so that typing throws the box back to the desktop at
-    // once. That is meant: the box never holds what is no folder.
+    // A path being typed is not a folder until its last letter, so that the box falls back to the desktop at once.
+    // Required behaviour; do not fix: the box always holds an existing folder.
     QString text = txtExportPath->text();
     while (text.size() > 1 && (text.endsWith(u'\\') || text.endsWith(u'/')))
         text.chop(1);
@@ -222,7 +222,7 @@ void frmExportToWord::showOutcome(const QString &document, const QString &text)
     m_document = document;
     cmdOpenDocument->setEnabled(!document.isEmpty());
     lblOutcome->setText(text);
-    // More than the two lines that have their room.
+    // More room if two lines are not enough.
     lblOutcome->setMinimumHeight(
         std::max(lblOutcome->minimumHeight(), lblOutcome->heightForWidth(lblOutcome->width())));
 }
@@ -265,7 +265,7 @@ bool frmExportToWord::exportForm()
     const clsLongWork work;
     const QScopedValueRollback<bool> exporting(m_exporting, true);
     const clsExportDriver driver = mdExportDriver(Form->FormType());
-    // A form type that no form has runs nothing, and the export is complete all the same.
+    // An unknown form type exports nothing and still counts as complete.
     if (!driver)
         return true;
     clsExport run {*Form, TemplatesFolder()};
@@ -293,7 +293,7 @@ void frmExportToWord::cmdExport_Click()
     const bool finished = exportForm();
     setEnabled(true);
     cmdExport->setFocus();
-    // Without a document the user has been told why.
+    // If there is no document the user has already been told why.
     if (finished)
         mdCustomMessages(
             QStringLiteral("Exporting is complete."), QStringLiteral("Export Complete"), clsUserInterface::OKOnly, 2);

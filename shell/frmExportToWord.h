@@ -8,20 +8,20 @@ class QLineEdit;
 class oCustomButton;
 class oFrame;
 
-/// The dialog of the export: where the document goes, and the button that makes it. Its box holds an existing folder
-/// at all times. Below stand how much the check of the claim has found, which hinders no export, and what an export
-/// gave. While an export runs the dialog is disabled; there is no way of cancelling.
+/// The export dialog: the folder for the document and the button that makes it. Its box always holds an existing
+/// folder. Below are the number of findings of the check, which doesn't prevent an export, and the result of an export.
+/// The dialog is disabled while an export is running, which can't be cancelled.
 class frmExportToWord : public QDialog {
     Q_OBJECT
 
 public:
-    /// Without the state of the check nothing is said of it.
+    /// Without `check` the dialog shows no findings.
     explicit frmExportToWord(QWidget *parent = nullptr, clsCheckState *check = nullptr);
 
-    /// Whether the user has left the dialog to look at what the check has found.
+    /// Whether the user has left the dialog to see the findings.
     bool leadsToCheck() const { return m_leadsToCheck; }
 
-    /// An export that runs holds the dialog open.
+    /// Can't be closed while an export is running.
     void done(int result) override;
 
 private:
@@ -54,8 +54,8 @@ private:
     QLabel *lblOutcome;
     oCustomButton *cmdExport;
     oCustomButton *cmdClose;
-    QString m_document; ///< the one that the last export made
+    QString m_document; ///< made by the last export
     bool m_exporting = false;
     bool m_leadsToCheck = false;
-    bool m_mayReplace = false; ///< the user has been asked about the document that is there
+    bool m_mayReplace = false; ///< the user has agreed to overwrite the existing document
 };

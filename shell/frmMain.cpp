@@ -50,7 +50,7 @@ namespace {
 
 constexpr int AutoBackupMilliseconds = 10000;
 constexpr int ReplacementsPage = 2;
-constexpr int FrameHeight = 40; ///< room for that of the desktop, which is known only once the window is up
+constexpr int FrameHeight = 40; ///< for the desktop's window frame, whose size is known only after the window is shown
 constexpr int LowWindow = 620;
 constexpr int LongestGrowth = 1000; ///< in milliseconds
 
@@ -89,17 +89,17 @@ frmMain::frmMain(QWidget *parent)
     auto *previewMenu = menuBar()->findChild<QMenu *>(QStringLiteral("mnuPreview"));
     connect(sgPreview, &oPreviewGrid::RightClick, previewMenu,
         [previewMenu](const QPoint &place) { previewMenu->popup(place); });
-    // Once the entry that was chosen has run.
+    // Queued, to run after the chosen entry.
     connect(previewMenu, &QMenu::aboutToHide, sgPreview, &oPreviewGrid::ForgetPointedRow, Qt::QueuedConnection);
     connect(oFooter, &oFooterBar::OfferTaken, this, &frmMain::BringBack);
     connect(m_why, &clsWhyOpener::PlaceChosen, this, &frmMain::OpenPlace);
     connect(m_stripFiller, &clsStripFiller::Renewed, m_why, &clsWhyOpener::TakeDrawnState);
     SetOpenSection([this](const QString &text) { tbSubSection_Click(-1, text); });
-    // From a box of whatever screen is open, over that screen.
+    // Called from a box on any open screen, and shown over that screen.
     SetEditReplacements([] { mdShowPreferences(QApplication::activeWindow(), ReplacementsPage); });
     connect(m_formPages->View(), &oPageView::BoxChosen, this, &frmMain::OpenField);
     connect(m_formPages, &oFormPages::ExportAsPdf, this, &frmMain::ExportAsPdf);
-    // The stopwatch stops wherever another claim takes the place of this one.
+    // The stopwatch stops whenever another claim replaces this one.
     const auto stopTimer = [this] {
         oFooter->TimeSpentTimer()->StopTimer();
         m_pages->Forget();
@@ -157,14 +157,14 @@ void frmMain::build()
     mdBuildMainMenu(*this);
     auto *sections = findChild<QAction *>(QStringLiteral("mnuSectionList"));
     sections->setCheckable(true);
-    sections->setIcon(QIcon()); // its place is the tick's
+    sections->setIcon(QIcon()); // the tick uses its place
 }
 
 void frmMain::Load(const QString &claimPath)
 {
     placeRestored();
     setWindowState(Qt::WindowMaximized);
-    // The preview takes the widths of its columns from the sheet, and it is drawn before the window shows.
+    // The preview takes its column widths from the sheet, and is drawn before the window is shown.
     const QSize room = screen()->availableSize();
     openCheck(mdIsPanelLeftOpen(m_checkPanel->objectName()));
     openSections(mdIsPanelLeftOpen(m_sections->objectName()));
@@ -236,7 +236,7 @@ void frmMain::Activate()
     WriteLog(objectName() + QStringLiteral(" Opened"));
     UpdateInfo();
     m_journal->refresh();
-    // Without the mark on the tab that was clicked, the same one can be clicked again.
+    // Unmarks the clicked tab, so that it can be clicked again.
     tbSubSection->SwitchTo(0);
     refreshPreview();
     m_stripFiller->Renew();
@@ -250,7 +250,7 @@ void frmMain::showEvent(QShowEvent *event)
     if (std::exchange(m_wasShown, true))
         return;
     QTimer::singleShot(0, this, [this] {
-        // Many a desktop makes it as large as the screen only after it is shown; some never do.
+        // Many desktops maximise a window only after it is shown; some never do.
         m_grows = isMaximized() && size() == normalGeometry().size();
         if (!m_grows)
             return drawForShownWidth();
@@ -274,8 +274,8 @@ void frmMain::resizeEvent(QResizeEvent *event)
 void frmMain::drawForShownWidth()
 {
     m_grows = false;
-    // Where the desktop gave the window another size than it asked for, the first drawing has not the sheet's width.
-    // Not inside work that lets events through: the claim may be half loaded.
+    // The desktop may have given the window another size than requested, so that the first drawing doesn't fit. Not
+    // during work that processes events: the claim may be half loaded.
     if (m_loaded && !showsFormPages() && !m_drawingFollows && !clsLongWork::isRunning()
         && m_drawnWidth != sgPreview->width())
         drawPreview(m_previewKind);
@@ -286,7 +286,7 @@ bool frmMain::event(QEvent *event)
     const bool handled = QMainWindow::event(event);
     if (event->type() != QEvent::WindowActivate || !m_loaded || m_modal)
         return handled;
-    // Another program may have been in front since the routine ran, and the claim may count as changed by now.
+    // Another program may have been in front since the routine ran, and the claim may have changed.
     if (!std::exchange(m_activationDone, false)) {
         Activate();
         return handled;
@@ -341,7 +341,7 @@ void frmMain::drawPreview(clsPreviewKind kind)
 
 void frmMain::refreshPreview()
 {
-    // The grid is drawn when it is returned to.
+    // The grid is drawn when it is shown again.
     if (showsFormPages()) {
         if (!m_drawingFollows && Form && Preferences)
             m_pages->Activate(Preferences->AutoRefreshPreview());

@@ -32,9 +32,9 @@ class oTotalsStrip;
 struct clsClaimPlace;
 struct clsComparison;
 
-/// The one top-level window: a launcher and a display. Everything that is edited is edited on modal screens that it
-/// opens; its own area shows which claim this is, two rows of tabs, the preview and the status line. Its caption is
-/// constant, the document's name and its mark stand in the header.
+/// The only top-level window. It displays the claim and opens the modal screens on which everything is edited. It shows
+/// which claim is open, two rows of tabs, the preview and the status line. Its caption is constant; the document's name
+/// and changed mark are in the header.
 class frmMain : public QMainWindow {
     Q_OBJECT
 
@@ -42,25 +42,26 @@ public:
     explicit frmMain(QWidget *parent = nullptr);
     ~frmMain() override;
 
-    /// What the window does once, before it is shown: the preferences, the globals, old backups, the claim at the path
-    /// or a new one for an empty path, the tabs. The order is required.
+    /// Prepares the window before it is shown: the preferences, the globals, old backups, the claim at the path or a
+    /// new one for an empty path, the tabs. The order is required.
     void Load(const QString &claimPath);
 
-    /// Refreshes the header and the stopwatch from the claim.
+    /// Updates the header and the stopwatch from the claim.
     void UpdateInfo();
-    /// The activation routine: on the return from every modal screen and after each document command.
+    /// Updates everything after a modal screen has closed and after each document command.
     void Activate();
-    /// Shows the claim as it is after a step was undone or done again, at the place to which the user had scrolled: the
-    /// preview too, whether or not it is refreshed by itself elsewhere. Nothing else would tell that anything happened.
+    /// Shows the claim after Undo or Redo, keeping the scroll position. Always draws the preview, whatever the
+    /// preference for refreshing it: the user would otherwise see no effect.
     void ShowTurned();
-    /// Opens the screen of a text, as a click on its tab does. While a screen is open the text is remembered, and its
-    /// screen follows when that one is gone. An unknown or empty text does nothing.
+    /// Opens the screen with this text, like a click on its tab. If a screen is open, the text is stored and its screen
+    /// opens after that one closes. An unknown or empty text does nothing.
     void tbSubSection_Click(int index, const QString &tag);
-    /// Opens the screen on which a property is entered, with the focus on its field.
+    /// Opens the screen on which a property is entered and sets the focus to its field.
     void OpenField(const QString &property);
-    /// Opens the screen of a place of the claim, and over it the editor of its item, with the focus on its field.
+    /// Opens the screen of a place in the claim, and the editor of its item if there is one, and sets the focus to the
+    /// field.
     void OpenPlace(const clsClaimPlace &place);
-    /// One tick of the timer for backups.
+    /// One tick of the backup timer.
     void tmrAutoBackup_Timer();
 
     oFooterBar *footer() const { return oFooter; }
@@ -79,33 +80,33 @@ public:
     void Exit() { close(); }
     void ShowPreferences();
     void CheckForBlank();
-    /// Opens the panel with what the check finds, and goes there.
+    /// Opens the check panel and sets the focus to it.
     void CheckClaim();
     void CloseCheck();
-    /// Goes to the next finding of the check or the one before.
+    /// Moves to the next or previous finding.
     void StepThroughCheck(bool forward);
     void PreviewScheduleOfTime() { drawPreview(clsPreviewKind::ScheduleOfTime); }
     void PreviewAdditionalInformation() { drawPreview(clsPreviewKind::AdditionalInformation); }
     void FormPages();
-    /// Opens the list of sections and goes there, or closes it.
+    /// Opens the section list and sets the focus to it, or closes it.
     void SectionList();
     void WhyThisFigure();
     void CostsLimit();
     void FirmAndTeam();
-    /// Opens the screen on which something was typed and not stored, and puts that back into it.
+    /// Opens the screen with text that was typed but not stored, and restores that text.
     void BringBack();
     void UserGuide();
     void KeyboardShortcutsList();
     void MakeASuggestion();
     void About();
 
-    /// Whether there is a word processor; tests put another answer here.
+    /// Whether a word processor is installed; tests replace it.
     std::function<bool()> wordInstalled = mdWordInstalled;
-    /// Makes the screen of a text, nothing for a text without one.
+    /// Creates the screen of a text; null if it has none.
     std::function<QDialog *(const QString &text, QWidget *parent)> createScreen;
 
 signals:
-    /// The user has left the program, and whatever was to be saved is saved.
+    /// The user has left the program, and everything has been saved.
     void Closed();
 
 protected:
@@ -119,7 +120,7 @@ protected:
 
 private:
     void build();
-    /// The size and place to which the window is restored, on the screen as a whole.
+    /// Sets the size and place that the window has when it is not maximised.
     void placeRestored();
     void buildTabs();
     void tbSection_Click();
@@ -131,7 +132,7 @@ private:
     void walkSections(bool forward);
     void whileModal(const std::function<void()> &show);
     void drawPreview(clsPreviewKind kind);
-    /// The grid of the preview takes the place of the form pages.
+    /// Replaces the form pages by the preview's grid.
     void returnToGrid();
     bool showsFormPages() const;
     void drawForShownWidth();
@@ -149,16 +150,16 @@ private:
     void offerNotStored();
     void compare(const clsComparison &comparison);
     void openDropped(const QString &path);
-    /// Runs a command that asks about changes and may put another claim in the place of the open one.
+    /// Runs a command that asks about changes and may replace the open claim.
     void replaceClaim(const std::function<void()> &command);
-    /// Shows the line that tells of "Firm and Team", as long as the user has not answered it.
+    /// Shows the line that offers "Firm and Team" until the user has answered it.
     void offerFirm();
     void endFirmOffer();
-    /// Asks about changes, and has another claim take the place of the open one.
+    /// Asks about changes, then replaces the open claim.
     void openInstead(const std::function<void()> &open);
-    /// Takes the user's typed text into the claim and the user out of the box; false where its text doesn't fit.
+    /// Stores the text typed in the focused box and takes the focus from it; false if the text is not valid.
     bool leaveForAnotherClaim();
-    /// Asks about changes, and sees to it that a claim whose save failed is kept; false when the program is to stay.
+    /// Asks about changes and keeps a claim whose save failed; false if the program must not end.
     bool confirmExit();
 
     oHeaderBar *oHeader;
@@ -181,24 +182,24 @@ private:
     QTimer *tmrAutoBackup;
     clsJournalKeeper *m_journal;
 
-    /// The kind of preview last shown.
+    /// The last preview shown.
     clsPreviewKind m_previewKind = clsPreviewKind::ScheduleOfTime;
     int m_drawnWidth = 0;
-    int m_sectionsWidth = 0; ///< that the list of sections takes at the left
-    QHash<const void *, int> m_drawnItems; ///< the schedule's elements, by the order that the preview shows them under
+    int m_sectionsWidth = 0; ///< width that the section list takes up at the left
+    QHash<const void *, int> m_drawnItems; ///< the schedule's elements and their order in the preview
     QString m_backupTag;
     QString m_nextSection;
-    std::function<void(frmSection &screen)> m_nextWay; ///< on the screen that opens next
+    std::function<void(frmSection &screen)> m_nextWay; ///< applied to the next screen that opens
     bool m_sectionOpen = false;
     bool m_loaded = false;
     bool m_wasShown = false;
-    /// It is shown, and the desktop has not made it as large as the screen yet.
+    /// Shown, but the desktop hasn't enlarged it to the screen yet.
     bool m_grows = false;
     bool m_redrawing = false;
-    /// A command that ends with drawing the preview is at work: to refresh it before would be to draw it twice.
+    /// A command that ends by drawing the preview is running; a refresh before would draw it twice.
     bool m_drawingFollows = false;
-    /// A modal window of this one's is up, and the activation routine follows when it is gone.
+    /// A modal window is open; the activation routine runs after it closes.
     bool m_modal = false;
-    /// The routine has run for an activation that the desktop is still to tell of.
+    /// The routine has already run for an activation event that is still to come.
     bool m_activationDone = false;
 };

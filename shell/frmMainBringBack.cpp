@@ -6,8 +6,8 @@
 #include "editors/mdBringBack.h"
 #include "shell/frmCompare.h"
 
-// What is offered against a loss: what was typed on a screen and not stored, until it is stored after all, and what
-// differs between two states of the claim.
+// Offers that protect the user's work: text typed on a screen and not stored, until it is stored, and the differences
+// between two states of the claim.
 
 void frmMain::offerNotStored()
 {

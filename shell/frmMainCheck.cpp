@@ -18,14 +18,14 @@
 #include <QShortcut>
 #include <QStackedLayout>
 
-// What the main window does with the findings of the check.
+// The check's findings in the main window.
 
 namespace {
 
 constexpr int NumberColumn = 1;
 const QLatin1String ScheduleList("schedule");
 
-/// The row of the preview that bears the number; 0 where there is none. The captions have none.
+/// The preview's row with this number; 0 if there is none. Captions have no number.
 int rowOfNumber(const oPreviewGrid &grid, int number)
 {
     const QString text = QString::number(number);
@@ -35,14 +35,14 @@ int rowOfNumber(const oPreviewGrid &grid, int number)
     return 0;
 }
 
-/// The row of the schedule item that had that order when the preview was drawn; 0 where it has none.
+/// The row of the schedule item that had this order when the preview was drawn; 0 if it has none.
 int rowOfItem(const oPreviewGrid &grid, clsPreviewKind kind, int order)
 {
     return kind == clsPreviewKind::AdditionalInformation ? rowOfNumber(grid, order)
                                                          : grid.RowOf({clsPreviewOrigin::ScheduleItem, order});
 }
 
-/// Looks at each item of the schedule, by its element and its order.
+/// Calls `look` with the element and order of each schedule item.
 template <class Look> void eachScheduleItem(const clsZR3Form &form, Look look)
 {
     for (const pugi::xml_node item : form.XMLNodeToRead().child(mdClaimList(QString(ScheduleList))->element).children())
@@ -63,7 +63,7 @@ void frmMain::buildCheck()
     connect(m_checkPanel->List(), &oCheckList::ChosenChanged, this, &frmMain::tintChosen);
     connect(m_checkPanel->List(), &oCheckList::AsideChanged, this,
         [this](bool aside) { m_check->PutAside(m_checkPanel->List()->ChosenFindings(), aside); });
-    // The keys of the main window alone: on screens the function keys choose fee earners.
+    // Shortcuts of the main window only: on screens the function keys choose fee earners.
     for (const auto &[key, forward] :
         {std::pair(QKeySequence(Qt::Key_F8), true), std::pair(QKeySequence(Qt::SHIFT | Qt::Key_F8), false)})
         connect(new QShortcut(key, this), &QShortcut::activated, this,
@@ -80,7 +80,7 @@ void frmMain::openCheck(bool open)
 
 void frmMain::fitPreview()
 {
-    // The grid is drawn anew when the form pages give way to it.
+    // The grid is drawn again when it replaces the form pages.
     if (!m_loaded || showsFormPages())
         return;
     mdFitPreview();
@@ -113,7 +113,7 @@ void frmMain::CloseCheck()
         focusPreview();
 }
 
-/// For the focus of a panel that closes.
+/// For a closing panel that had the focus.
 void frmMain::focusPreview()
 {
     if (showsFormPages())
@@ -138,13 +138,13 @@ void frmMain::StepThroughCheck(bool forward)
 void frmMain::openFinding(int finding)
 {
     const clsFinding found = m_check->Findings()[size_t(finding)].Finding;
-    // The limit has a dialog, and no tab.
+    // The limit has a dialog instead of a tab.
     if (found.Rule == QLatin1String("costs-limit"))
         return CostsLimit();
     OpenPlace({found.Screen, found.List, found.Item, found.Property});
 }
 
-/// The preview was drawn. An opened list may give its items other numbers, and the preview stays as it is.
+/// Notes the orders that the preview shows: opening a list may renumber its items without redrawing the preview.
 void frmMain::tintDrawn()
 {
     m_drawnItems.clear();

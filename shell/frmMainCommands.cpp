@@ -33,11 +33,11 @@
 #include <QTimer>
 #include <QUrl>
 
-// The commands of the main window's menu, the claim that is dropped on it, and its end.
+// The commands of the main window's menu, claims dropped on the window, and closing it.
 
 namespace {
 
-/// The claim among what is dragged on to the window, empty where there is none or more than one.
+/// The path of a claim dragged onto the window; empty if there is none or more than one.
 QString draggedClaim(const QMimeData &data)
 {
     const QList<QUrl> urls = data.urls();
@@ -81,7 +81,8 @@ void frmMain::Open()
 
 void frmMain::Save()
 {
-    // Whether or not the box lets go: a text that doesn't fit is not in the claim, and must not hold its save up.
+    // Saves even if the box refuses to lose the focus: an invalid text is not in the claim, and must not prevent its
+    // save.
     mdLeaveFocusedBox(this);
     SaveForm(false);
     UpdateInfo();
@@ -169,7 +170,7 @@ void frmMain::dropEvent(QDropEvent *event)
     if (path.isEmpty())
         return;
     event->acceptProposedAction();
-    // Later: the program that the file came from waits until this event is handled.
+    // Delayed: the program that the file was dragged from waits until this event is handled.
     QTimer::singleShot(0, this, [this, path] { openDropped(path); });
 }
 
@@ -194,7 +195,7 @@ void frmMain::openInstead(const std::function<void()> &open)
 
 bool frmMain::confirmExit()
 {
-    // A text that doesn't fit holds nobody who leaves the program.
+    // An invalid text doesn't keep the user from leaving the program.
     mdLeaveFocusedBox(this);
     return ConfirmExit();
 }
@@ -214,7 +215,7 @@ void frmMain::closeEvent(QCloseEvent *event)
 
 void frmMain::tmrAutoBackup_Timer()
 {
-    // A backup inside long work could hold a claim that is half changed, and its box would interrupt.
+    // A backup during long work could contain a half-changed claim, and its box would interrupt.
     if (!clsLongWork::isRunning())
         mdAutoBackupTick(m_backupTag);
 }

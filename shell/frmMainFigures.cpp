@@ -4,8 +4,7 @@
 #include "formdata/mdGlobals.h"
 #include "shell/clsWhyOpener.h"
 
-// The figures in the main window: how they come about, where they can be changed, and the limit that they are held
-// against.
+// Figures in the main window: how they are computed, where to change them, and the costs limit.
 
 void frmMain::WhyThisFigure()
 {

@@ -4,7 +4,7 @@
 #include "shell/clsJournalKeeper.h"
 #include "shell/frmMain.h"
 
-// The firm in the main window: its entries of the menus, and the line that offers it at a first start.
+// The firm in the main window: its menu entries, and the line that offers it at the first start.
 
 void frmMain::NewFromClaim()
 {

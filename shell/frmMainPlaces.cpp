@@ -6,7 +6,7 @@
 #include "formdata/clsClaimPlace.h"
 #include "shell/mdPageBoxes.h"
 
-// The ways from the main window to a place on one of its screens.
+// Opens places on screens from the main window.
 
 void frmMain::OpenField(const QString &target)
 {

@@ -24,7 +24,7 @@
 
 #include <utility>
 
-// The ways from the main window to the screens of the sections: the two rows of tabs, and the list at the left.
+// Opens the screens of sections from the main window: by the two rows of tabs and the section list.
 
 void frmMain::buildTabs()
 {
@@ -38,7 +38,7 @@ void frmMain::buildTabs()
 
 void frmMain::tbSection_Click()
 {
-    // Only here: after a New, an Open or a change of the form type the tabs stay those of the last click.
+    // Only here: after New, Open or a change of the form type the tabs stay as of the last click.
     tbSubSection->setDoRedraw(false);
     tbSubSection->Clear();
     for (const QString &text : mdSubSectionTabs(tbSection->SelectedIndex(), Form->FormType()))
@@ -48,7 +48,7 @@ void frmMain::tbSection_Click()
 
 void frmMain::tbSubSection_Click(int index, const QString &tag)
 {
-    // A screen that is reached from another has not been opened by the tab that is marked.
+    // A screen opened from another screen doesn't belong to the marked tab.
     if (index < 0)
         tbSubSection->SwitchTo(0);
     m_nextSection = tag;
@@ -80,7 +80,7 @@ void frmMain::buildSections()
     connect(
         m_sections->List(), &oSectionList::Opened, this, [this](const QString &text) { tbSubSection_Click(-1, text); });
     connect(m_check, &clsCheckState::Changed, this, &frmMain::renewSections);
-    // Screens have these keys too, and a box of the main window has no use for them.
+    // Screens use these keys too; boxes of the main window don't need them.
     for (const auto &[key, forward] : {std::pair(Qt::Key_PageDown, true), std::pair(Qt::Key_PageUp, false)})
         connect(new QShortcut(QKeySequence(Qt::CTRL | key), this), &QShortcut::activated, this,
             [this, toNext = forward] { walkSections(toNext); });
@@ -94,7 +94,7 @@ void frmMain::walkSections(bool forward)
     m_sections->List()->setFocus(Qt::OtherFocusReason);
 }
 
-/// The list takes its room from all that stands beside it.
+/// The list takes its width from everything beside it.
 void frmMain::fitSections(int windowWidth)
 {
     m_sections->fit(windowWidth);
@@ -103,7 +103,7 @@ void frmMain::fitSections(int windowWidth)
     entry->setChecked(m_sections->isOpen());
     if (std::exchange(m_sectionsWidth, m_sections->shownWidth()) == m_sections->shownWidth())
         return;
-    // What the layout does later is done now: the columns of the preview are as wide as it is.
+    // Applies the layout now: the preview's column widths depend on its width.
     centralWidget()->layout()->activate();
     fitPreview();
 }

@@ -56,15 +56,14 @@ frmSplash::frmSplash(QWidget *parent)
 {
     setObjectName(QStringLiteral("frmSplash"));
     setWindowTitle(QStringLiteral("Velmor ZR3"));
-    // Nothing is logged yet, since there are no preferences; the splash announces itself like every window all the
-    // same.
+    // Has no effect, because without preferences nothing is logged; kept like in every other window.
     WriteLog(objectName() + QStringLiteral(" Opened"));
     setFocusPolicy(Qt::StrongFocus);
     setFixedSize(Theme::scaled(SplashWidth), Theme::scaled(SplashHeight));
     build();
 
     tmrInit->setObjectName(QStringLiteral("tmrInit"));
-    tmrInit->setTimerType(Qt::PreciseTimer); // any other may take a twentieth longer
+    tmrInit->setTimerType(Qt::PreciseTimer); // other timer types may take five per cent longer
     tmrInit->setInterval(750);
     connect(tmrInit, &QTimer::timeout, this, &frmSplash::tmrInit_Timer);
     tmrInit->start();
@@ -99,7 +98,7 @@ void frmSplash::showEvent(QShowEvent *event)
     QRect frame = rect();
     frame.moveCenter(mdPointerScreen()->availableGeometry().center());
     move(frame.topLeft());
-    // The keys are to work from the first moment.
+    // The keys must work from the first moment.
     raise();
     activateWindow();
     setFocus();
@@ -113,7 +112,7 @@ void frmSplash::paintEvent(QPaintEvent *)
 
 void frmSplash::keyPressEvent(QKeyEvent *event)
 {
-    // While the main window is being made it can show boxes, and a key that lands here meanwhile must not begin anew.
+    // The main window may show boxes while it is created; a key pressed then must not start it again.
     if (m_initialised)
         return;
     tmrInit->stop();

@@ -4,20 +4,20 @@
 
 class QTimer;
 
-/// The window that stands while the program begins. It gives an administrator three quarters of a second in which a key
-/// opens one of the commands for the place of the databases; then it asks for the main window, once.
-/// It stays alive, hidden, to the end of the program.
+/// The window shown while the program starts. For three quarters of a second an administrator can press a key to open
+/// one of the database folder commands; then it requests the main window, once. It stays alive, hidden, until the
+/// program ends.
 class frmSplash : public QWidget {
     Q_OBJECT
 
 public:
     explicit frmSplash(QWidget *parent = nullptr);
 
-    /// Leaves the screen to the main window. There is no way back.
+    /// Hides the splash for the rest of the run.
     void StepAside();
 
 signals:
-    /// The time is over: the main window is to be made.
+    /// The time is up: create the main window.
     void Initialised();
 
 protected:

@@ -18,7 +18,7 @@ bool loads(clsZR3Form &form, const QByteArray &bytes)
     return form.LoadText(mdUtf8FromCodePage(bytes));
 }
 
-/// Runs what reads and compares; what goes wrong is told in the window.
+/// Reads and compares; an error is shown in the window.
 template <class Step> clsComparison guarded(clsComparison comparison, Step step)
 {
     try {
@@ -62,7 +62,7 @@ clsComparison mdCompareWithDisk()
             comparison.trouble = QStringLiteral("The claim's file cannot be read.");
             return;
         }
-        // A copy: looking at the claim must not change it.
+        // A copy, so that the claim doesn't change.
         clsZR3Form ours;
         if (loads(ours, mdToCodePage(Form->XMLOutput())))
             comparison.changes = mdChangesInWords(mdCompareClaims(ours, theirs), ours, theirs);

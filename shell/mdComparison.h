@@ -4,17 +4,17 @@
 
 struct clsLeftJournal;
 
-/// What differs between two states of a claim, in words for the user.
+/// The differences between two states of a claim, in words for the user.
 struct clsComparison {
-    QString before; ///< what the earlier state is, such as "On disk"
+    QString before; ///< caption of the earlier state, such as "On disk"
     QString now;
-    QString trouble; ///< why it could not be told, or against what else it was held; empty where all is well
+    QString trouble; ///< why the comparison failed or used another state; empty if all is well
     clsClaimChanges changes;
 };
 
-/// Between the file of a claim that was not closed properly and its recovery copy. Where there is no file the copy is
-/// held against an empty claim.
+/// Compares the file of a claim that was not closed properly with its recovery copy. If there is no file, the copy is
+/// compared with an empty claim.
 clsComparison mdCompareWithJournal(const clsLeftJournal &left);
 
-/// Between the open claim and its file as it now is, which another program has changed.
+/// Compares the open claim with its file, which another program has changed.
 clsComparison mdCompareWithDisk();

@@ -4,6 +4,6 @@
 
 struct clsForecast;
 
-/// What an export gave, in a line: where the document is, how many sheets and pages of paper, and which texts are not
-/// printed at their own size.
+/// The result of an export in one line: the document's path, the number of sheets and pages, and the texts not printed
+/// at their full size.
 QString mdExportOutcome(const QString &document, const clsForecast &given);

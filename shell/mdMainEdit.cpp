@@ -14,13 +14,13 @@
 
 namespace {
 
-/// A command that takes a step back, or does one again, where there is one.
+/// The command for Undo or Redo; it does nothing if there is no such step.
 std::function<void()> turning(
     bool (clsHistory::*can)() const, const clsZR3Item *(clsHistory::*turn)(), const std::function<void()> &showTurned)
 {
     return [=] {
         clsHistory &history = Document().history;
-        // What draws the claim lets events through.
+        // Drawing the claim processes events.
         if (clsLongWork::isRunning() || !(history.*can)())
             return;
         (history.*turn)();
@@ -32,7 +32,7 @@ std::function<void()> turning(
 
 void mdAddEditMenu(QMainWindow &window, const std::function<void()> &showTurned, const std::function<void()> &bringBack)
 {
-    // Of the lists it is the schedule that the window shows.
+    // Acts on the schedule, the list that the window shows.
     const auto taking = [showTurned](void (*take)(const clsPasteList &, const clsPasted &)) {
         return [=] {
             if (!clsLongWork::isRunning() && Form)

@@ -4,6 +4,6 @@
 
 class QUrl;
 
-/// Opens a document or address with the program that the desktop has for it; false where there is none. Where that
-/// turns out only after the return, `failed` is run.
+/// Opens a document or address with the desktop's program for it; false if there is none. If that turns out only after
+/// the return, runs `failed`.
 bool mdOpenOnDesktop(const QUrl &url, const std::function<void()> &failed);

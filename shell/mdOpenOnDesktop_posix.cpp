@@ -13,7 +13,7 @@
 
 namespace {
 
-/// The opener may last as long as what it opened, whose own end is no failure to open it.
+/// The opener may run as long as the document is open; its end after that time is no failure.
 constexpr int LongestSearch = 10000;
 constexpr int LookAgain = 200;
 
@@ -32,8 +32,8 @@ bool mdOpenOnDesktop(const QUrl &url, const std::function<void()> &failed)
     const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
     if (opener.isEmpty())
         return QDesktopServices::openUrl(url);
-    // The toolkit would start the opener and forget it, but only its end tells whether it found a program. It has no
-    // owner and a separate session, since what it opened must not end with us.
+    // Started here and not by the toolkit, which would ignore the opener's exit status. It has no parent and its own
+    // session, because the opened program must not end with this one.
     auto *process = new QProcess;
     process->setStandardInputFile(QProcess::nullDevice());
     process->setStandardOutputFile(QProcess::nullDevice());

@@ -15,12 +15,12 @@ namespace {
 using Sheet = clsForecast::Sheet;
 using Box = clsForecast::Box;
 
-/// Signs that are nearer to each other than that are one.
+/// Signs nearer to each other than this are merged.
 constexpr double SignHeight = 14;
 constexpr double HeadOfSheet = 14;
 constexpr qsizetype MostLines = 8;
 
-/// The target of an item of a list, or of the whole list.
+/// The target of an item in a list; item 0 means the list.
 QString targetOf(const QString &list, int item)
 {
     return QStringLiteral("%1:%2").arg(list).arg(item);
@@ -31,7 +31,7 @@ QString nameOf(const clsListPlace &place, int item)
     return item > 0 ? QStringLiteral("item %1 of %2").arg(item).arg(place.caption) : place.caption;
 }
 
-/// What becomes of a text, in words.
+/// What happens to a text in print, in words.
 QString whatHappens(const Box &box)
 {
     switch (box.State) {
@@ -52,7 +52,7 @@ clsPrintNote::clsSign signOf(Box::clsState state)
     return clsPrintNote::Cut;
 }
 
-/// Finds the marks of one sheet after the other.
+/// Collects the marks sheet by sheet.
 class clsPageMarker {
 public:
     clsPageMarker(const clsForecast &sheets, const QString &formType)
@@ -67,13 +67,13 @@ public:
         m_paperPage = paperPage;
         m_first = m_marks.boxes.size();
         m_rows.clear();
-        // A row that has grown moves what is below it.
+        // A row that has grown moves everything below it.
         m_isAsTemplate = sheet.PaperPages == 1
             && std::none_of(m_forecast.Boxes.begin(), m_forecast.Boxes.end(),
                 [&](const Box &box) { return box.Sheet == sheet.Name && box.State == Box::RunsOn; });
         if (m_isAsTemplate) {
             addRows();
-            // A further sheet repeats what its page's own has a box for.
+            // A continuation sheet repeats fields that the page's first sheet already has boxes for.
             if (sheet.Name == QStringLiteral("%1(1)").arg(sheet.Page))
                 addFields();
         }
@@ -129,7 +129,7 @@ private:
             if (same->note.words.count(u'\n') < MostLines)
                 same->note.words += u'\n' + words;
         }
-        // Who comes to the box by the keyboard is told too.
+        // For keyboard users the box has the same text as the sign.
         const QString target = targetOfText(box);
         for (size_t i = m_first; i < m_marks.boxes.size(); ++i)
             if (m_marks.boxes[i].target == target)
@@ -162,7 +162,7 @@ private:
         return field ? field->caption : QStringLiteral("a text");
     }
 
-    /// Empty where it isn't known.
+    /// Empty if unknown.
     QRectF placeOf(const Box &box)
     {
         if (!m_isAsTemplate)
@@ -179,8 +179,8 @@ private:
     clsPageMarks m_marks;
     const Sheet *m_sheet = nullptr;
     int m_paperPage = 0;
-    bool m_isAsTemplate = false; ///< the places of the sheet are those of its template
-    size_t m_first = 0; ///< of the sheet's boxes
+    bool m_isAsTemplate = false; ///< the sheet has the layout of its template
+    size_t m_first = 0; ///< index of the sheet's first box
     std::vector<std::vector<QRectF>> m_rows; ///< of the sheet's grids
 };
 

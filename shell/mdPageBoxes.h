@@ -6,25 +6,24 @@
 
 struct clsForecast;
 
-/// What stands beside and on the pages of a finished form.
+/// What to show on and beside the pages of a finished form.
 struct clsPageMarks {
-    /// The boxes that lead to their fields, and the rows of lists that lead to their items. A sheet on which a
-    /// row has grown has none.
+    /// Links to fields, and from rows of lists to their items. None on a sheet with a row that has grown.
     std::vector<clsPageBox> boxes;
-    /// The signs of texts that are not printed at their own size. Where the place isn't known, as on such a sheet,
-    /// the sign stands at the head of the sheet.
+    /// Signs for texts not printed at their full size. If the place is unknown, as on such a sheet, the sign is at its
+    /// top.
     std::vector<clsPageSign> signs;
 };
 
-/// None of either where the pages are not as many as they should be.
+/// Empty if the number of pages is not the forecast one.
 clsPageMarks mdPageMarks(const clsForecast &sheets, const QString &formType, int pages);
 
-/// Where the target of such a box is entered.
+/// Where the target of a box is entered.
 struct clsTargetPlace {
     QString section; ///< the text of the section's tab
     QString control; ///< the object name of its field or grid
     int item = 0; ///< its order in the list; 0 for none
 };
 
-/// False where it has no place.
+/// False if the target has no place.
 bool mdFindTarget(const QString &target, clsTargetPlace &place);

@@ -21,7 +21,7 @@
 #include <QDir>
 #include <QIcon>
 
-// Outside any namespace, as the macro asks; it also makes the linker keep the pictures.
+// Outside any namespace, as the macro requires; it also makes the linker keep the pictures.
 static void initialiseIcons()
 {
     Q_INIT_RESOURCE(icons);
@@ -29,7 +29,7 @@ static void initialiseIcons()
 
 namespace {
 
-/// The claim that the command line asks for, or the name in it that can't be used.
+/// The claim requested on the command line, or the name in it that can't be used.
 struct clsAskedFor {
     clsAskedFor(int argc, char **argv)
     {
@@ -57,7 +57,7 @@ QIcon programIcon()
     return icon;
 }
 
-/// Everything that the program's end takes down, in that order: the windows, then what they show.
+/// Destroys the windows first, then the data they show.
 struct clsProgram {
     frmSplash splash;
     std::unique_ptr<frmMain> main;
@@ -82,7 +82,7 @@ void showMain(clsProgram &program, oApplication &application, clsWindowUserInter
         [footer = window->footer()](const QString &line) { footer->showLine(line); },
     });
     window->Load(claim.path);
-    // The system may have asked for the end while the user was asked or told something.
+    // The system may have requested the end while a box was open.
     if (oApplication::ending())
         return;
     window->show();
@@ -96,18 +96,18 @@ void showMain(clsProgram &program, oApplication &application, clsWindowUserInter
 int RunProgram(int argc, char **argv)
 {
     MakeSizeLimitAnError();
-    // The whole command line is a claim's path. None of it is a switch, not the toolkit's own either.
+    // The whole command line is the path of a claim; there are no options, not even the toolkit's.
     const clsAskedFor claim(argc, argv);
     int nameOnly = 1;
     oApplication application(nameOnly, argv);
     mdApplyTheme(application);
     QApplication::setWindowIcon(programIcon());
-    // By this name the desktop knows whose windows these are.
+    // The desktop identifies the program's windows by this name.
     QGuiApplication::setDesktopFileName(QStringLiteral("velmor-zr3"));
     clsWindowUserInterface user;
     const clsUserInterfaceScope scope(user);
     application.writeRecoveredCopy = [] {
-        // With what is typed in the open screens, which the copy of the claim lacks.
+        // Includes text typed in open screens, which the copy of the claim lacks.
         Journal().flush();
         return WriteRecoveredCopy();
     };

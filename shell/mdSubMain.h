@@ -1,4 +1,4 @@
 #pragma once
 
-/// The program: from the first window to the end. The result is the status of the process.
+/// Runs the program; returns the exit status of the process.
 int RunProgram(int argc, char **argv);

@@ -24,9 +24,9 @@ void tellWithoutBox(QString text)
 oApplication::oApplication(int &argc, char **argv)
     : QApplication(argc, argv)
 {
-    // The splash stays alive, hidden, to the end; the end is the main window's to tell.
+    // The splash stays alive, hidden; the main window decides when the program ends.
     setQuitOnLastWindowClosed(false);
-    // The desktop may yet change its mind about ending the session, so the program only makes sure of the work.
+    // The desktop may still cancel the end of the session, so this only saves a copy.
     connect(
         this, &QGuiApplication::commitDataRequest, this, [this] { recoveredCopy(); }, Qt::DirectConnection);
 }
@@ -55,7 +55,7 @@ void oApplication::guarded(const std::function<void()> &step)
 
 int oApplication::run()
 {
-    // An end that came before the first event would be forgotten by the loop.
+    // An exit requested before the event loop starts would be lost.
     if (!m_ending)
         exec();
     m_ending = true;
@@ -73,7 +73,7 @@ void oApplication::end(int status)
 
 void oApplication::endUnasked()
 {
-    // The user still reads about a failure: its copy is written, and the end is that failure's.
+    // The user is still reading an error message: its copy is written, and the program ends with its status.
     if (m_failing)
         return end(1);
     endWithCopy(0);
@@ -84,12 +84,12 @@ void oApplication::endWithCopy(int status)
     if (m_ending)
         return;
     const clsRecoveredCopy copy = recoveredCopy();
-    // First, so that the log shows no box any more.
+    // First, so that the log can't show a box any more.
     end(status);
     try {
         tellWithoutBox(mdRecoveredCopyMessage(copy));
     } catch (...) {
-        // The copy is what counts.
+        // Only the copy is essential.
     }
 }
 
@@ -104,7 +104,7 @@ bool oApplication::notify(QObject *receiver, QEvent *event)
 
 bool oApplication::event(QEvent *event)
 {
-    // Only the desktop sends this one, and only when the session is over.
+    // Only the desktop sends this event, when the session ends.
     if (event->type() == QEvent::Quit) {
         endUnasked();
         return true;
@@ -114,7 +114,7 @@ bool oApplication::event(QEvent *event)
 
 void oApplication::fail(const std::exception_ptr &failure)
 {
-    // What fails while the user still reads the first message follows from the first failure.
+    // Errors that occur while the first message is open follow from the first error.
     if (m_failing || m_ending)
         return;
     m_failing = true;
@@ -127,7 +127,7 @@ void oApplication::fail(const std::exception_ptr &failure)
 
 clsRecoveredCopy oApplication::recoveredCopy() const
 {
-    // Whatever becomes of the copy, the end goes on.
+    // The program must end even if the copy fails.
     try {
         return writeRecoveredCopy ? writeRecoveredCopy() : clsRecoveredCopy();
     } catch (...) {

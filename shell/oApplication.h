@@ -7,31 +7,30 @@
 #include <exception>
 #include <functional>
 
-/// The application: its event loop, and the net below everything that runs in it. A failure that nothing below has
-/// caught is told to the user, the claim's unsaved work is set aside, and the program ends with status 1; from then on
-/// no event reaches anything, so that no window works on with a state that is only half done.
+/// The application with its event loop and the handler for uncaught errors. After an uncaught error the user gets a
+/// message, the claim's unsaved work is set aside and the program ends with status 1. No further events are delivered,
+/// so that no window continues in an inconsistent state.
 class oApplication : public QApplication {
     Q_OBJECT
 
 public:
     oApplication(int &argc, char **argv);
 
-    /// The application of this process, or nothing where another kind of application runs.
+    /// The application of this process; null if it is not an oApplication.
     static oApplication *instance();
-    /// True once this process is about to end by itself.
+    /// True once this process is ending.
     static bool ending();
 
-    /// Writes the copy of a claim with unsaved changes.
+    /// Writes the recovered copy of a claim with unsaved changes.
     std::function<clsRecoveredCopy()> writeRecoveredCopy;
 
-    /// Runs a step that no event brings, over the same net.
+    /// Runs a step outside the event loop with the same error handling.
     void guarded(const std::function<void()> &step);
-    /// Runs the events until the program ends; its status.
+    /// Runs the event loop until the program ends; returns the exit status.
     int run();
     /// Ends the program: all loops end, and no further event is delivered.
     void end(int status);
-    /// Ends it where nobody can be asked any more; unsaved changes are set aside, and the log and standard error say
-    /// where.
+    /// Ends the program without questions. Unsaved changes are set aside; the log and standard error say where.
     void endUnasked();
 
     bool notify(QObject *receiver, QEvent *event) override;

@@ -32,7 +32,7 @@ bool isSame(const clsFinding &left, const clsFinding &right)
         && left.Property == right.Property;
 }
 
-/// The place of the first of these findings; -1 where there is none.
+/// The position of the first of these findings; -1 if there is none.
 int placeOf(const std::vector<int> &walk, const std::vector<int> &findings)
 {
     if (findings.empty())
@@ -133,7 +133,8 @@ void oCheckList::remember()
     m_scrolled = verticalScrollBar()->value();
 }
 
-/// The finding that was chosen, whose item may have been given another number or another content. -1 where it is gone.
+/// The finding that was selected before, whose item may have another number or other content now. -1 if it no longer
+/// exists.
 int oCheckList::chosenBefore(const std::vector<int> &walk) const
 {
     const auto isIt = [this](int finding) { return m_keyOf(finding) == m_chosenKey; };
@@ -149,7 +150,7 @@ int oCheckList::chosenBefore(const std::vector<int> &walk) const
     return sameNumber;
 }
 
-/// The chosen finding stays chosen; where it is gone, the one that has come to its place.
+/// Selects the same finding again or, if it no longer exists, the one now in its place.
 void oCheckList::restore()
 {
     const std::vector<int> walk = m_model->walk();
@@ -157,7 +158,7 @@ void oCheckList::restore()
     if (wanted < 0 && m_chosenRow >= 0 && !walk.empty())
         wanted = walk[size_t(std::min(m_chosenRow, int(walk.size()) - 1))];
     if (QModelIndex index = m_model->indexOf(wanted); index.isValid()) {
-        // Of what is folded the line that is seen.
+        // In a folded group, selects the visible parent.
         while (index.parent().isValid() && !isExpanded(index.parent()))
             index = index.parent();
         choose(index);
@@ -172,7 +173,7 @@ int oCheckList::placeInWalk(const std::vector<int> &walk) const
     return placeOf(walk, m_model->findingsOf(currentIndex()));
 }
 
-/// The place of the first finding of the chosen group; -1 where no group is chosen, or that of what is put aside.
+/// The position of the first finding in the selected group; -1 if no group or the dismissed ones are selected.
 int oCheckList::firstOfGroup(const std::vector<int> &walk) const
 {
     if (!isGroup(currentIndex()))
@@ -205,7 +206,7 @@ void oCheckList::Step(bool forward)
     int next = at + (forward ? 1 : -1);
     if (const int first = at < 0 ? firstOfGroup(walk) : -1; first >= 0)
         next = forward ? first : first - 1;
-    else if (at < 0) // none yet
+    else if (at < 0) // nothing selected yet
         next = forward ? 0 : int(walk.size()) - 1;
     if (next < 0 || next >= int(walk.size()))
         return;
@@ -225,7 +226,7 @@ void oCheckList::activate(const QModelIndex &index)
         toggle(index);
 }
 
-/// What comes to be seen is brought into view, as much of it as there is room for.
+/// Scrolls to what has been unfolded, as much of it as fits.
 void oCheckList::toggle(const QModelIndex &index)
 {
     setExpanded(index, !isExpanded(index));
@@ -282,7 +283,7 @@ void oCheckList::keyPressEvent(QKeyEvent *event)
     if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)
         return popUpMenuOf(currentIndex());
     QTreeView::keyPressEvent(event);
-    // Those that the list has no use for are the window's.
+    // The window handles keys that the list doesn't use.
     if (event->key() == Qt::Key_Escape)
         event->ignore();
 }
@@ -306,7 +307,7 @@ void oCheckList::mouseDoubleClickEvent(QMouseEvent *event)
     const QModelIndex index = indexAt(place);
     if (event->button() == Qt::LeftButton && m_model->findingsOf(index).size() == 1)
         activate(index);
-    else // a second click in quick succession
+    else // a fast second click
         mousePressEvent(event);
 }
 
@@ -315,7 +316,7 @@ void oCheckList::currentChanged(const QModelIndex &current, const QModelIndex &p
     QTreeView::currentChanged(current, previous);
     if (m_renewing)
         return;
-    // The chosen line is as high as its sentence.
+    // The selected line is as high as its sentence.
     scheduleDelayedItemsLayout();
     executeDelayedItemsLayout();
     scrollTo(current);
@@ -326,7 +327,7 @@ void oCheckList::focusInEvent(QFocusEvent *event)
 {
     QTreeView::focusInEvent(event);
     if (!selectionModel()->hasSelection() && m_model->rowCount() > 0) {
-        // The first finding, where it can be seen.
+        // The first finding, if its group is open.
         const QModelIndex group = m_model->index(0, 0);
         choose(isExpanded(group) ? m_model->index(0, 0, group) : group);
     }
@@ -369,7 +370,7 @@ void oCheckList::resizeEvent(QResizeEvent *event)
 void oCheckList::scrollContentsBy(int dx, int dy)
 {
     QTreeView::scrollContentsBy(dx, dy);
-    viewport()->update(); // the frame stays where it is
+    viewport()->update(); // the frame must not scroll
 }
 
 void oCheckList::paintEvent(QPaintEvent *event)

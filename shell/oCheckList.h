@@ -10,31 +10,31 @@
 class clsCheckDelegate;
 class clsCheckModel;
 
-/// The list of what the check has found. It keeps its place and what is folded when the findings are renewed.
+/// The list of the check's findings. Keeps its scroll position and folded groups when the findings are renewed.
 class oCheckList : public QTreeView {
     Q_OBJECT
 
 public:
     explicit oCheckList(QWidget *parent = nullptr);
 
-    /// What tells what a finding is about, by its number, when its item has another number than before.
+    /// Sets the function that identifies what a finding is about, even after its item has been renumbered.
     void setKeys(std::function<QString(int finding)> keyOf) { m_keyOf = std::move(keyOf); }
     void ShowFindings(const std::vector<clsShownFinding> &findings, const std::vector<clsFindingGroup> &groups);
-    /// The chosen finding, by its number; -1 where none or more than one is.
+    /// The number of the selected finding; -1 if none or several are selected.
     int Chosen() const;
-    /// All those of the chosen line.
+    /// All findings of the selected line.
     std::vector<int> ChosenFindings() const;
-    /// Chooses the finding behind or before the chosen one, and unfolds where it stands. At the ends nothing happens.
+    /// Selects the next or previous finding and unfolds its group. Does nothing at the ends.
     void Step(bool forward);
-    /// The menu of the chosen line, beside it.
+    /// Opens the menu of the selected line.
     void PopUpMenu(const QPoint &place);
 
 signals:
-    /// Another finding is chosen, or none: its number, or -1.
+    /// The selection has changed: the finding's number, or -1 for none.
     void ChosenChanged(int finding);
-    /// The user wants to go to where the finding is put right.
+    /// The user wants to go to the place where the finding can be corrected.
     void Opened(int finding);
-    /// The user calls the findings of the chosen line no mistakes, or takes that back.
+    /// The user dismisses the findings of the selected line, or restores them.
     void AsideChanged(bool aside);
 
 protected:
@@ -67,12 +67,12 @@ private:
 
     clsCheckModel *m_model;
     clsCheckDelegate *m_delegate;
-    QSet<int> m_folded; ///< the groups that the user has closed
-    QSet<QString> m_unfolded; ///< the rules whose notes the user has opened
+    QSet<int> m_folded; ///< groups that the user has closed
+    QSet<QString> m_unfolded; ///< rules whose notes the user has opened
     std::vector<clsShownFinding> m_findings;
     std::function<QString(int)> m_keyOf;
     clsFinding m_chosen {}; ///< before a renewal
-    QString m_chosenKey; ///< the same by what it is about
+    QString m_chosenKey; ///< its key
     int m_chosenRow = -1;
     int m_scrolled = 0;
     bool m_renewing = false;

@@ -121,7 +121,7 @@ void oCheckPanel::showFindings()
     m_list->setAccessibleDescription(counts.isEmpty() ? lblNothing->text() : counts);
 }
 
-/// Where there is no room for all, the notes are left out.
+/// Leaves out the notes if there is no room.
 void oCheckPanel::showCounts()
 {
     const QString all = mdCountsInWords(m_state.Groups(), true);

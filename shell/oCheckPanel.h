@@ -8,8 +8,8 @@ class clsCheckState;
 class oCheckList;
 class oCloseButton;
 
-/// What the check has found, beside the preview: a heading with the counts, and the list or, where there is nothing,
-/// the word for it.
+/// The findings of the check, beside the preview: a heading with the counts, and the list or, without findings, a short
+/// text.
 class oCheckPanel : public QWidget {
     Q_OBJECT
 
@@ -17,7 +17,7 @@ public:
     explicit oCheckPanel(clsCheckState &state, QWidget *parent = nullptr);
 
     oCheckList *List() const { return m_list; }
-    /// Gives the focus to the list, or to the closing button while there is no list.
+    /// Sets the focus to the list, or to the close button if there is no list.
     void TakeFocus();
 
     QSize sizeHint() const override;
@@ -43,6 +43,6 @@ private:
     QWidget *m_nothing;
     QLabel *lblNothing;
     oCheckList *m_list;
-    oCloseButton *cmdClose; ///< made after the list, and so behind it for the Tab key
+    oCloseButton *cmdClose; ///< created after the list, and so after it in the tab order
     QStackedLayout *m_pages;
 };

@@ -12,7 +12,7 @@
 
 namespace {
 
-// At a desktop font of 10 points.
+// For a 10-point desktop font.
 constexpr int Width = 860;
 constexpr int Height = 520;
 constexpr int NarrowestColumn = 80;
@@ -33,8 +33,8 @@ QString oFileDialog::Choose()
 
 void oFileDialog::accept()
 {
-    // The toolkit's dialog selects the folders on the way while a path is typed, may keep one of them selected, and
-    // takes what is selected before what is typed.
+    // While a path is typed the toolkit's dialog selects the folders on its way, may keep one selected, and prefers the
+    // selection to the typed text.
     const auto *name = findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
     auto *list = findChild<QListView *>(QStringLiteral("listView"));
     if (name && list && !name->text().isEmpty()
@@ -46,7 +46,7 @@ void oFileDialog::accept()
 void oFileDialog::showEvent(QShowEvent *event)
 {
     QFileDialog::showEvent(event);
-    // Here, since the dialog first restores the widths of its last use.
+    // Set here, because the dialog first restores the widths of its last use.
     auto *details = findChild<QTreeView *>(QStringLiteral("treeView"));
     auto *places = findChild<QListView *>(QStringLiteral("sidebar"));
     if (!details || !places)
@@ -54,5 +54,5 @@ void oFileDialog::showEvent(QShowEvent *event)
     places->setMinimumWidth(places->sizeHintForColumn(0) + 2 * places->frameWidth());
     details->header()->setMinimumSectionSize(Theme::scaled(NarrowestColumn));
     details->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    details->header()->setStretchLastSection(false); // it would take what is left, and no more
+    details->header()->setStretchLastSection(false); // otherwise limited to the remaining width
 }

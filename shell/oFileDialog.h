@@ -2,15 +2,15 @@
 
 #include <QFileDialog>
 
-/// The dialog for files and folders: the desktop's own where it has one. In the toolkit's, which stands in for it
-/// elsewhere, the name that is typed counts, and the columns of the list have the room that they need.
+/// The dialog for files and folders: the desktop's own if it has one. In the toolkit's dialog, used otherwise, the
+/// typed name takes precedence, and the columns of the list are wide enough.
 class oFileDialog final : public QFileDialog {
     Q_OBJECT
 
 public:
     oFileDialog(QWidget *parent, const QString &caption, const QString &folder);
 
-    /// Shows it; the path that was chosen, or nothing.
+    /// Shows the dialog; returns the chosen path, empty if none.
     QString Choose();
 
 protected:

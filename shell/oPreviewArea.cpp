@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int WideWindow = 1280; ///< from here on the two stand side by side
+constexpr int WideWindow = 1280; ///< from here on the two are side by side
 
 } // namespace
 

@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-/// The preview with the panel at its right. In a narrow window the panel lies over the preview.
+/// The preview with the panel to its right, or over it in a narrow window.
 class oPreviewArea : public QWidget {
     Q_OBJECT
 
@@ -11,16 +11,16 @@ public:
 
     void setPanelOpen(bool open);
     bool isPanelOpen() const { return m_open; }
-    /// Whether the panel is open and hides a part of the preview.
+    /// Whether the panel is open and covers part of the preview.
     bool panelLiesOver() const;
-    /// What is left to the preview in a window of that width.
+    /// The width left for the preview in a window of that width.
     int previewWidth(int windowWidth) const;
 
     QSize sizeHint() const override { return m_preview->sizeHint(); }
     QSize minimumSizeHint() const override { return {0, 0}; }
 
 signals:
-    /// The panel has come to stand beside the preview, or no longer does: what is left to the preview is other.
+    /// The panel has moved beside the preview or away from it, which changes the preview's width.
     void BesideChanged();
 
 protected:

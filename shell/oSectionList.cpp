@@ -67,7 +67,7 @@ void oSectionList::Choose(const QString &section)
     choose(m_model->index(m_model->rowOf(section)));
 }
 
-/// The first section from a row on, in steps; an invalid index where there is none.
+/// The first section at or after `row` in direction `step`; invalid if there is none.
 QModelIndex oSectionList::sectionFrom(int row, int step) const
 {
     for (; row >= 0 && row < m_model->rowCount(); row += step)
@@ -98,7 +98,7 @@ QModelIndex oSectionList::moveCursor(CursorAction action, Qt::KeyboardModifiers)
     case MovePageDown: to = sectionFrom(std::min(last, row + page), -1); break;
     case MoveHome: to = sectionFrom(0, 1); break;
     case MoveEnd: to = sectionFrom(last, -1); break;
-    default: break; // there is nothing at its sides
+    default: break; // nothing to the left or right
     }
     return to.isValid() ? to : currentIndex();
 }
@@ -107,13 +107,13 @@ void oSectionList::keyPressEvent(QKeyEvent *event)
 {
     const bool enters = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (enters && !(event->modifiers() & ~Qt::KeypadModifier)) {
-        // A key held down opens its screen once.
+        // A held key opens the screen only once.
         if (!event->isAutoRepeat() && currentIndex().isValid())
             emit Opened(Chosen());
         return;
     }
     QListView::keyPressEvent(event);
-    // Those that the list has no use for are the window's.
+    // The window handles keys that the list doesn't use.
     if (event->key() == Qt::Key_Escape)
         event->ignore();
 }
@@ -144,7 +144,7 @@ bool oSectionList::event(QEvent *event)
 void oSectionList::scrollContentsBy(int dx, int dy)
 {
     QListView::scrollContentsBy(dx, dy);
-    viewport()->update(); // the frame stays where it is
+    viewport()->update(); // the frame must not scroll
 }
 
 void oSectionList::paintEvent(QPaintEvent *event)

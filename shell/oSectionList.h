@@ -8,27 +8,27 @@
 class clsSectionDelegate;
 class clsSectionModel;
 
-/// All sections of the form, and how each stands. It knows nothing of screens: it says which section is wanted.
+/// All sections of the form with their states. Knows nothing of screens: it only signals which section is wanted.
 class oSectionList : public QListView {
     Q_OBJECT
 
 public:
     explicit oSectionList(QWidget *parent = nullptr);
 
-    /// Shows the sections of a form type. The chosen one stays chosen.
+    /// Shows the sections of a form type and keeps the selection.
     void ShowSections(
         const QString &formType, const QSet<QString> &begun, const QHash<QString, clsScreenFindings> &findings);
-    /// Shows the dots alone, or the rows whole.
+    /// Shows only the dots, or whole rows.
     void setFolded(bool folded);
-    /// The chosen section; empty where none is.
+    /// The selected section; empty if there is none.
     QString Chosen() const;
-    /// Chooses a section; nothing for one that the form doesn't have.
+    /// Selects a section; does nothing if the form doesn't have it.
     void Choose(const QString &section);
-    /// Chooses the section behind or before the chosen one. At the ends nothing happens.
+    /// Selects the next or previous section. Does nothing at the ends.
     void Step(bool forward);
 
 signals:
-    /// The user wants the screen of this section.
+    /// The user wants to open this section's screen.
     void Opened(const QString &section);
 
 protected:

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int Width = 232;
 constexpr int FoldedWidth = 44;
-constexpr int RoomForWords = 1100; ///< below it the window shows the dots alone
+constexpr int RoomForWords = 1100; ///< below this width only the dots are shown
 constexpr int RoomForDots = 960;
 constexpr int CrossSide = 24; ///< lower than the caption beside it
 
@@ -27,9 +27,9 @@ oSectionPanel::oSectionPanel(QWidget *parent)
     setObjectName(QStringLiteral("oSectionPanel"));
     setAccessibleName(QStringLiteral("Section List"));
     cmdClose->setObjectName(QStringLiteral("cmdCloseSections"));
-    // The list is one stop of the Tab key; the menu has an entry that closes it.
+    // The list is one tab stop; a menu entry also closes it.
     cmdClose->setFocusPolicy(Qt::NoFocus);
-    // It may lie over a row.
+    // The cross may cover part of a row.
     cmdClose->setAutoFillBackground(true);
     QPalette palette;
     palette.setColor(QPalette::Window, Theme::Paper);
@@ -81,7 +81,7 @@ void oSectionPanel::place()
     showClose();
 }
 
-/// The cross shows while the pointer or the focus is here. The dots leave no room for it.
+/// The cross is shown while the pointer or the focus is here, but not beside dots.
 void oSectionPanel::showClose()
 {
     cmdClose->setVisible(!isFolded() && (underMouse() || m_list->hasFocus()));

@@ -5,8 +5,8 @@
 class oCloseButton;
 class oSectionList;
 
-/// The list of sections at the left of the main window. It gives way in a narrow window: first to its dots, then
-/// altogether.
+/// The section list at the left of the main window. As the window gets narrower it shrinks to its dots, then
+/// disappears.
 class oSectionPanel : public QWidget {
     Q_OBJECT
 
@@ -16,12 +16,12 @@ public:
     oSectionList *List() const { return m_list; }
 
     void setOpen(bool open);
-    /// Whether the user has it open, be there room for it or not.
+    /// Whether the user has opened it, even if there is no room for it.
     bool isOpen() const { return m_open; }
-    /// Takes the room that there is for it in a window of that width.
+    /// Takes the width available to it in a window of that width.
     void fit(int windowWidth);
     static bool hasRoom(int windowWidth);
-    /// What it takes of the window's width.
+    /// The width that it takes up.
     int shownWidth() const;
 
 signals:

@@ -104,7 +104,7 @@ void addNotes(clsFindingGroup &group, const std::vector<clsShownFinding> &findin
     }
 }
 
-/// Those of which there are any.
+/// Omits counts of 0.
 QString inWords(int errors, int warnings, int notes)
 {
     QStringList words;

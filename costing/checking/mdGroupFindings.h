@@ -41,7 +41,7 @@ int mdCountOf(const std::vector<clsFindingGroup> &groups, clsFindingGroup::clsKi
 /// "2 errors, 1 warning"; with notes also "3 notes". Empty if there are none.
 QString mdCountsInWords(const std::vector<clsFindingGroup> &groups, bool withNotes);
 
-/// How many of a screen's findings are shown, notes not counted.
+/// The number of a screen's shown findings, without notes.
 struct clsScreenFindings {
     int Errors = 0;
     int Warnings = 0;
@@ -49,9 +49,9 @@ struct clsScreenFindings {
     bool operator==(const clsScreenFindings &other) const = default;
 };
 
-/// The same for each screen that has any, by the text of its tab.
+/// The numbers for each screen with findings, by the text of its tab.
 QHash<QString, clsScreenFindings> mdFindingsByScreen(
     const std::vector<clsShownFinding> &findings, const std::vector<clsFindingGroup> &groups);
 
-/// "1 error, 2 warnings"; empty where there are none.
+/// "1 error, 2 warnings"; empty if there are none.
 QString mdCountsInWords(const clsScreenFindings &findings);

@@ -17,7 +17,7 @@ std::optional<clsWhy> mdWhyCommunications(const clsBill &bill, clsCommsKind kind
 std::optional<clsWhy> mdWhyFASItem(const clsBill &bill, int orderID);
 /// A total, or a figure of the bill's summary, by its key.
 std::optional<clsWhy> mdWhyTotal(const clsBill &bill, const QString &key);
-/// What that total or figure is called; empty for a key that the claim's form lacks.
+/// The name of that total or figure; empty for a key that the claim's form doesn't have.
 QString mdTotalInWords(const clsZR3Form &form, const QString &key);
 /// A column of a list of claims that holds a figure of the bill.
 std::optional<clsWhy> mdWhyListColumn(const clsBill &bill, const QString &column);

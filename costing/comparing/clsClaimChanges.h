@@ -20,7 +20,7 @@ struct clsItemChange {
     enum Kind { Added, Removed, Changed };
 
     QString List; ///< such as "schedule"
-    QString Name {}; ///< what it is called now: "Schedule item 2", "Fee earner AB"
+    QString Name {}; ///< its present name: "Schedule item 2", "Fee earner AB"
     Kind Change = Changed;
     int OldItem = 0; ///< its order, 0 if there is none
     int NewItem = 0;

@@ -18,7 +18,7 @@ using Form = clsZR3Form;
 constexpr QLatin1String Identity("UniqueID");
 
 struct clsChoiceRow {
-    const char *property; ///< that stores a place in a list
+    const char *property; ///< stores a position in a list
     QStringList (*entries)();
 };
 
@@ -37,7 +37,7 @@ bool refersToAnItem(const QString &property)
 
 QString tickInWords(const QString &value)
 {
-    // A tick that is broken stands as it is.
+    // An invalid tick is shown unchanged.
     return value == QLatin1String("True") ? QStringLiteral("yes")
         : value == QLatin1String("False") ? QStringLiteral("no")
                                           : value;
@@ -68,7 +68,7 @@ QString valueInWords(const Form &form, const clsFieldChange &field, const QStrin
 
 QString propertyInWords(const QString &property)
 {
-    // Beside the tick "Counsel".
+    // There is also the tick "Counsel".
     if (property == QLatin1String("CounselUniqueID"))
         return QStringLiteral("Counsel's Name");
     return mdPropertyInWords(refersToAnItem(property) ? property.chopped(Identity.size()) : property);
@@ -80,7 +80,7 @@ clsFieldChange inWords(const clsFieldChange &field, const Form &before, const Fo
     words.Property = propertyInWords(field.Property);
     words.Old = valueInWords(before, field, field.Old);
     words.New = valueInWords(after, field, field.New);
-    // Two items of one name are told apart by their identities.
+    // Two items with the same name are distinguished by their identities.
     if (words.Old == words.New) {
         words.Old += QStringLiteral(" (%1)").arg(field.Old);
         words.New += QStringLiteral(" (%1)").arg(field.New);
@@ -88,7 +88,7 @@ clsFieldChange inWords(const clsFieldChange &field, const Form &before, const Fo
     return words;
 }
 
-/// A figure, or the error in its place.
+/// An amount, or the error in its place.
 QString amountInWords(const QString &amount)
 {
     if (amount.isEmpty() || amount.startsWith(u'!'))
@@ -114,7 +114,7 @@ std::vector<clsTotalChange> totalsInWords(
     for (const clsTotalChange &total : totals) {
         clsTotalChange told {
             totalInWords(total.Key, before, after), amountInWords(total.Old), amountInWords(total.New)};
-        // Less than a penny between them
+        // They differ by less than a penny.
         if (told.Old == told.New)
             told = {told.Key, total.Old, total.New};
         if (std::none_of(words.begin(), words.end(), [&](const auto &earlier) { return areEqual(earlier, told); }))

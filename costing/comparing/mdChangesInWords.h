@@ -4,7 +4,7 @@
 
 class clsZR3Form;
 
-/// What differs between two claims, for people: properties and totals by their names, ticks as yes and no, the chosen
-/// entry of a list and the item that an identity refers to by its name, amounts with two decimals. An item's own
-/// identity is left out, and so is a total that says the same as one before it.
+/// The differences between two claims in words: properties and totals by their names, ticks as yes and no, the chosen
+/// entry of a list and the referenced item by name, amounts with two decimals. Omits an item's own identity, and a
+/// total that repeats an earlier one.
 clsClaimChanges mdChangesInWords(clsClaimChanges changes, const clsZR3Form &before, const clsZR3Form &after);

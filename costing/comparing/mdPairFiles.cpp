@@ -18,7 +18,7 @@ QString fileName(const QString &path)
     return path.mid(path.lastIndexOf(u'/') + 1);
 }
 
-/// The files of one name, as paths below their folders.
+/// The files with the same name, as paths below their folders.
 struct clsNamesakes {
     QStringList old;
     QStringList now;
@@ -26,7 +26,7 @@ struct clsNamesakes {
     bool areSeveral() const { return old.size() > 1 || now.size() > 1; }
 };
 
-/// Adds the pairs among the files of one name.
+/// Adds the pairs among the files with the same name.
 void addPairs(std::vector<clsFilePair> &pairs, const QString &name, clsNamesakes files)
 {
     const bool several = files.areSeveral();

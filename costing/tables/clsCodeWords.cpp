@@ -20,7 +20,7 @@ bool isCode(const QString &text)
     return mdScheduleOfTimeCodesCollection().contains(text);
 }
 
-/// Words with a separator in them, which have no quotes around them, still belong together.
+/// Unquoted words that contain a separator are joined again.
 QString wordsIn(const QStringList &cells)
 {
     QStringList words;
@@ -35,8 +35,8 @@ bool isHeader(const clsTextTable &table)
     return !table.Rows.empty() && codeIn(table.Rows[0].Cells) == Header[0].toUpper();
 }
 
-/// Read with each separator, the text is the table with a header of two columns, else that in which the most lines have
-/// a code and words.
+/// Tries each separator: takes the one that results in a header of two columns, otherwise the one with the most lines
+/// that have a code and words.
 clsTextTable tableOf(QStringView text)
 {
     clsTextTable best;

@@ -6,27 +6,27 @@
 
 #include <vector>
 
-/// The firm's own words for the codes of the schedule, as a table of two columns, code and words. What its lines hold
-/// beside is kept as it is; a line that can't be used is passed over, kept, and told by its number.
+/// The firm's own words for the codes of the schedule, as a table of two columns, code and words. Further cells of a
+/// line are kept. An invalid line is skipped but kept, and reported by its number.
 class clsCodeWords {
 public:
     clsCodeWords() = default;
-    /// Those of a table: with or without a header, separated by commas, semicolons or tabs.
+    /// Parses a table, with or without a header, separated by commas, semicolons or tabs.
     explicit clsCodeWords(QStringView text);
 
-    /// Why the text is no table; empty where it is one.
+    /// Why the text is not a table; empty if it is.
     const QString &error() const { return m_error; }
-    /// The words for a code; empty where the firm has none.
+    /// The words for a code; empty if there are none.
     QString of(const QString &code) const;
     void set(const QString &code, const QString &words);
-    /// Which lines can't be used, in words; empty where all can.
+    /// A text that names the invalid lines; empty if there are none.
     QString wrongLinesInWords() const;
 
-    /// The table in UTF-8, with a header: the codes in their order, then the lines that can't be used.
+    /// The table in UTF-8, with a header: the codes in their order, then the invalid lines.
     QByteArray asCsv() const;
 
 private:
-    QHash<QString, QStringList> m_rows; ///< by their codes
+    QHash<QString, QStringList> m_rows; ///< by code
     std::vector<QStringList> m_unused;
     QStringList m_wrongLines;
     QString m_error;

@@ -54,7 +54,7 @@ private:
         m_at += m_text.sliced(m_at).startsWith(u"\r\n") ? 2 : 1;
         ++m_line;
     }
-    /// The content of quotes, in which two stand for one.
+    /// The content of quotes, in which a doubled quote stands for one.
     QString quoted()
     {
         const int opened = m_line;

@@ -31,7 +31,7 @@ void setAside(const QString &path)
     }
 }
 
-/// A new file is for the same users as the preferences beside it.
+/// Gives a new file the permissions of the preferences beside it.
 void shareWithUsers(const QString &path)
 {
     const QFileInfo preferences(pathOf(QStringLiteral("Preferences Database.vzp")));
@@ -39,7 +39,7 @@ void shareWithUsers(const QString &path)
         QFile::setPermissions(path, preferences.permissions());
 }
 
-/// The words of the file; an error where it can't be read.
+/// The words in the file; raises an error if it can't be read.
 clsCodeWords read(const QString &path)
 {
     if (!FileSystem().FileExists(path))
@@ -75,14 +75,14 @@ bool mdWriteCodeWords(const QHash<QString, QString> &words)
     try {
         all = read(path);
     } catch (const clsRunTimeError &error) {
-        // What can't be read must not be written over.
+        // A file that can't be read must not be overwritten.
         mdCustomMessages(cantBeRead(error), QStringLiteral("Codes"));
         return false;
     }
     for (auto word = words.constBegin(); word != words.constEnd(); ++word)
         all.set(word.key(), word.value());
     const bool isNew = !QFileInfo::exists(path);
-    // The bytes of UTF-8 pass as characters of the code page, each as itself.
+    // Each byte of the UTF-8 text is passed as one character of the code page.
     if (!WriteTextDocument(mdFromCodePage(all.asCsv()), path, false))
         return false;
     if (isNew)

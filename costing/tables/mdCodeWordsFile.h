@@ -2,12 +2,12 @@
 
 #include "costing/tables/clsCodeWords.h"
 
-// The firm's words for the codes, "Codes.csv" in the database folder, which all its users share.
+// The firm's words for the codes: "Codes.csv" in the database folder, shared by all its users.
 
-/// The words as they now stand; none where there is no file. A file that is no table is set aside, and the user is told
-/// in one line.
+/// The words in the file; none if there is no file. A file that is not a table is set aside, and the user is told in
+/// one line.
 clsCodeWords mdReadCodeWords();
 
-/// Puts words into the file as it now stands, where another user may have changed others since. False, after a
-/// message, where it can't be written.
+/// Writes words to the file, keeping the others that another user may have changed meanwhile. False, after a message,
+/// on failure.
 bool mdWriteCodeWords(const QHash<QString, QString> &words);

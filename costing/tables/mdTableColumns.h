@@ -38,9 +38,9 @@ std::span<const char *const> mdScheduleFigures();
 
 /// The columns of the disbursements.
 std::span<const clsTableColumn> mdDisbursementColumns();
-/// Those of the experts' invoices.
+/// The columns of the experts' invoices.
 std::span<const clsTableColumn> mdExpertColumns();
-/// Those of letters and calls: a row counts one of a kind, or so many, or tells how many there are of each kind.
+/// The columns of letters and calls: a row counts one or a number of one kind, or has a count for each kind.
 std::span<const clsTableColumn> mdCommunicationsColumns();
 
 /// The index of a column, by its name or its property, ignoring case, blanks and underscores. -1 for another name.

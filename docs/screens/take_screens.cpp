@@ -1,5 +1,5 @@
-// Takes a picture of every window of the program on a claim, one file for each: take_screens CLAIM FOLDER.
-// The windows are the program's own, drawn without a display; only the claim and the time are made up.
+// Takes a picture of every window of the program with a claim, each in a file: take_screens CLAIM FOLDER. The windows
+// are the program's real ones, drawn without a display; only the claim and the time are invented.
 
 #include "base/mdClock.h"
 #include "base/mdProgramFolder.h"
@@ -61,7 +61,7 @@ public:
         : m_folder(folder)
     { }
 
-    /// Shows the window until it is drawn, and takes its picture, or that of a part of it.
+    /// Shows the window until it is drawn, and saves a picture of it or of a part.
     void take(QWidget &window, const QString &name, const std::function<QRect()> &part = {})
     {
         window.show();
@@ -86,7 +86,7 @@ private:
     bool m_complete = true;
 };
 
-/// A picture of each page of a screen that has any, else of the screen.
+/// A picture of each page of a screen, or of a screen without pages.
 void takeScreen(clsPictures &pictures, QDialog &screen)
 {
     screen.resize(screen.sizeHint());
@@ -106,7 +106,7 @@ void takeSections(clsPictures &pictures, frmMain &main)
             takeScreen(pictures, *screen);
 }
 
-/// What the editors of single items are opened on: the first of each list of the claim.
+/// The items for the item editors: the first of each list in the claim.
 struct clsEditor {
     const clsScreen &(*table)();
     std::shared_ptr<clsXMLRecord> (*item)();
@@ -128,7 +128,7 @@ constexpr clsEditor Editors[] = {
 };
 // clang-format on
 
-/// A few abbreviations and rate sets, as a firm would have them.
+/// A few abbreviations and rate sets, as a firm would have.
 void fillPreferences()
 {
     for (const auto &[input, output] : {std::pair("att", "Attending"), std::pair("dft", "Drafting"),
@@ -158,7 +158,7 @@ void takeEditors(clsPictures &pictures, frmMain &main)
     }
 }
 
-/// The firm of the claim and its people, as they are kept for new claims.
+/// The claim's firm and people, as "Firm and Team" for new claims.
 void takeFirm(clsPictures &pictures, frmMain &main)
 {
     clsZR3Form firm;
@@ -198,7 +198,7 @@ void takeBoxes(clsPictures &pictures, frmMain &main)
     exportToWord.close();
 }
 
-/// The sheet over the preview: item 7 is enhanced.
+/// The sheet over the preview, for item 7, which has an enhancement.
 void takeWhy(clsPictures &pictures, frmMain &main)
 {
     auto *grid = main.findChild<oPreviewGrid *>();
@@ -212,7 +212,7 @@ void takeWhy(clsPictures &pictures, frmMain &main)
     grid->MarkRow(0);
 }
 
-/// Over a limit that is nearly reached.
+/// Shows the dialog with a limit that is nearly reached.
 void takeCostsLimit(clsPictures &pictures, frmMain &main)
 {
     QTimer::singleShot(300, &main, [&] {
@@ -224,7 +224,7 @@ void takeCostsLimit(clsPictures &pictures, frmMain &main)
     mdEditCostsLimit(&main);
 }
 
-/// The table of the guide, with its two wrong cells.
+/// The table in the guide, with its two wrong cells.
 void takePasteItems(clsPictures &pictures, frmMain &main)
 {
     frmPasteItems window(mdPasteSchedule(),
@@ -238,7 +238,7 @@ void takePasteItems(clsPictures &pictures, frmMain &main)
     pictures.take(window, window.objectName());
 }
 
-/// The window in which the firm's words for the codes are changed.
+/// The window for editing the firm's words for the codes.
 void takeCodeWords(clsPictures &pictures, frmMain &main)
 {
     clsCodeWords words;
@@ -254,7 +254,7 @@ void takeCodeWords(clsPictures &pictures, frmMain &main)
     mdEditCodeWords(&main, words);
 }
 
-/// The sign at a box whose text is printed smaller.
+/// The sign at a box whose text will be printed smaller.
 void takePrintSign(clsPictures &pictures, frmMain &main)
 {
     const QString address = Form->DebtorsDetails.Address();
@@ -273,7 +273,7 @@ void takePrintSign(clsPictures &pictures, frmMain &main)
     Form->DebtorsDetails.Address = address;
 }
 
-/// The office program draws the pages; without one the picture stays as it is.
+/// The office program draws the pages; without it the existing picture is kept.
 void takeFormPages(clsPictures &pictures, frmMain &main)
 {
     constexpr int LongestWait = 60'000;
@@ -285,7 +285,7 @@ void takeFormPages(clsPictures &pictures, frmMain &main)
         pictures.take(main, QStringLiteral("frmMain-pages"));
 }
 
-/// With a few slips, which nothing after this shows.
+/// With a few errors, which later pictures don't show.
 void takeCheck(clsPictures &pictures, frmMain &main)
 {
     Form->ScheduleOfTimeItemByOrderID(2)->dDate = QStringLiteral("25/08/27");
@@ -302,7 +302,7 @@ void takeCheck(clsPictures &pictures, frmMain &main)
     main.CloseCheck();
 }
 
-/// With the same slips.
+/// With the same errors.
 void takeSectionList(clsPictures &pictures, frmMain &main)
 {
     main.SectionList();
@@ -311,7 +311,7 @@ void takeSectionList(clsPictures &pictures, frmMain &main)
     main.SectionList();
 }
 
-/// The bar under the header, with a claim that an earlier run has left.
+/// The bar below the header, with a claim left by an earlier run.
 void takeNotice(clsPictures &pictures, frmMain &main)
 {
     clsJournalHead head = NewJournalHead();
@@ -330,7 +330,7 @@ void takeNotice(clsPictures &pictures, frmMain &main)
     main.resize(before);
 }
 
-/// What differs between the claim's file and its recovery copy.
+/// The differences between the claim's file and its recovery copy.
 void takeCompare(clsPictures &pictures, frmMain &main)
 {
     clsZR3Form before;
@@ -394,7 +394,7 @@ bool takeAll(const QString &claim, const QString &folder)
     splash.hide();
     frmMain main;
     main.Load(claim);
-    // Whoever looks at the pictures need not know where they were taken.
+    // Replaces the paths of the machine that takes the pictures.
     Form->path = QStringLiteral("/home/costs/Claims/2026/Hartwell disrepair LA-20417.zr3");
     Form->ExportPath = QStringLiteral("/home");
     main.setWindowState(Qt::WindowNoState);
@@ -403,7 +403,7 @@ bool takeAll(const QString &claim, const QString &folder)
     main.PreviewScheduleOfTime();
     mdSetCostsLimit(*Form, QStringLiteral("12000.00"));
     main.Activate();
-    QTest::qWait(200); // for the totals
+    QTest::qWait(200); // until the totals are shown
     pictures.take(main, QStringLiteral("frmMain"));
     takeWhy(pictures, main);
     takeSections(pictures, main);
@@ -438,7 +438,7 @@ int main(int argc, char **argv)
     SetProgramFolder(QStringLiteral(ZR3_PROGRAM_FOLDER));
     SetClock([] { return QDateTime(QDate(2026, 11, 21), QTime(14, 3)); });
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" ZR3_SCREEN);
-    // Without a window manager the platform has something to say on each window.
+    // Without a window manager the platform plugin would log a warning for each window.
     qputenv("QT_LOGGING_RULES", "default.warning=false;default.info=false;default.debug=false");
     QApplication application(argc, argv);
     QFont font(QStringLiteral("DejaVu Sans"));

@@ -8,11 +8,12 @@
 
 #include <unistd.h>
 
-/// Gives a user who starts the program for the first time a database folder, and becomes the program.
+/// Creates a database folder for a user who starts the program for the first time, then replaces itself with the
+/// program.
 int main(int, char **argv)
 {
     MakeSizeLimitAnError();
-    // The folder of what runs now is that of the commands.
+    // This executable is in the folder of commands, not in the program folder.
     SetProgramFolder(QDir::cleanPath(ProgramPath(QStringLiteral(ZR3_FROM_COMMANDS_TO_PROGRAM))));
     GiveOwnDatabasePath();
     QByteArray program = QFile::encodeName(ProgramPath(QStringLiteral("velmor-zr3")));

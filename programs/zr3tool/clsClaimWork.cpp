@@ -55,7 +55,7 @@ clsClaimWork::clsClaimWork(
     , m_longestPath(longestPath)
 { }
 
-/// An object as the form has it: in one line, or at its place in the list.
+/// An object in the output format: on one line, or indented for its place in the list.
 template <class Write> QByteArray clsClaimWork::json(Write write) const
 {
     clsJsonWriter writer;
@@ -64,7 +64,7 @@ template <class Write> QByteArray clsClaimWork::json(Write write) const
     bytes.chop(1);
     if (m_form == clsResultForm::Json)
         return bytes.replace("\n", "\n  ");
-    // No text holds a line feed: there it is escaped. What stands before a line are its blanks.
+    // Line feeds within texts are escaped, so each one here is followed only by indentation.
     QByteArray line;
     line.reserve(bytes.size());
     bool isIndent = false;
@@ -88,7 +88,7 @@ template <class Write> QByteArray clsClaimWork::jsonOf(const clsClaimJob &job, W
     });
 }
 
-/// What stands in the place of a claim's result.
+/// The output for a claim without a result.
 QByteArray clsClaimWork::failure(const clsClaimJob &job, Status status) const
 {
     const QString text = m_console.lastText();

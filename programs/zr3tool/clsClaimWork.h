@@ -7,39 +7,40 @@
 
 class clsConsoleUserInterface;
 
-/// One of the claims of a command.
+/// A claim to process.
 struct clsClaimJob {
     QString path;
-    /// Why it, or the folder of that path, can't be looked into: title and text of a message; empty where it can.
+    /// Title and text of the message if the path or its folder can't be read; empty otherwise.
     QString errorTitle {};
     QString error {};
-    int number = 1; ///< of several whose documents would have one name
+    int number = 1; ///< counts claims whose documents would have the same name
 };
 
-/// What a command came to on one of its claims.
+/// A command's result for one claim.
 struct clsClaimResult {
     clsExitStatus status = clsExitStatus::Done;
     QByteArray
-        printed {}; ///< its part of the result: text whose lines end in CR LF, CSV, or JSON without the last line end
-    QString messages {}; ///< their lines end in CR LF
+        printed {}; ///< its part of the result: text with CR LF line ends, CSV, or JSON without the last line end
+    QString messages {}; ///< lines end in CR LF
 
     QByteArray packed() const;
     static clsClaimResult unpacked(const QByteArray &bytes);
 };
 
-/// What the results of a command are printed as.
+/// The output format of a command's results.
 enum class clsResultForm { Nothing, Text, Csv, Json, JsonLines };
 
 clsResultForm mdResultForm(const clsToolCommand &command);
 
-/// Works on claims for a command, one after the other.
+/// Runs a command on claims, one after the other.
 class clsClaimWork {
 public:
-    /// `isList` where each message begins with the path of its claim, whose longest has so many characters.
+    /// With `isList` each message begins with its claim's path; `longestPath` is the length of the longest, in
+    /// characters.
     clsClaimWork(clsConsoleUserInterface &console, const clsToolCommand &command, bool isList, qsizetype longestPath);
 
     clsClaimResult on(const clsClaimJob &job);
-    /// The result where something else than the claim has failed.
+    /// The result after a failure outside the claim itself.
     clsClaimResult failed(const clsClaimJob &job, clsExitStatus status, const QString &title, const QString &text);
 
 private:

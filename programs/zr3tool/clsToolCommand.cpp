@@ -9,7 +9,7 @@
 
 namespace {
 
-/// The groups of options that a command may have.
+/// Groups of options; a command allows some of them.
 enum OptionGroup : unsigned {
     NoOptions = 0,
     ExportOptions = 1,
@@ -25,13 +25,13 @@ enum OptionGroup : unsigned {
 struct VerbRow {
     const char *word;
     clsToolCommand::Verb verb;
-    int paths; ///< how many paths follow the word
+    int paths; ///< the number of paths after the word
     unsigned options = NoOptions;
 };
 
 constexpr VerbRow Verbs[] = {
     {"save", clsToolCommand::Save, 2},
-    // Its result is JSON with the option or without it.
+    // JSON with or without the option.
     {"why", clsToolCommand::Why, 3, JsonOption},
     {"forecast", clsToolCommand::Forecast, 1, JsonOption},
     {"diff", clsToolCommand::Diff, 2, JsonOption | WordsOption},
@@ -39,10 +39,10 @@ constexpr VerbRow Verbs[] = {
     {"import", clsToolCommand::Import, 2, ImportOptions},
 };
 
-/// The commands that take as many claims and folders as there are.
+/// The commands that take any number of claims and folders.
 struct ManyRow {
     const char *word;
-    bool isFull; ///< with the option of that name
+    bool isFull; ///< with the option "full"
     clsToolCommand::Verb verb;
     unsigned options;
 };
@@ -102,13 +102,13 @@ unsigned optionsOf(const QCommandLineParser &parser)
         | group(ImportOptions, {Items, Map, Doubles});
 }
 
-/// Adds the options of an import; false where they are wrong.
+/// Reads the options of an import; false if they are invalid.
 bool addImport(clsToolCommand &command, const QCommandLineParser &parser)
 {
     command.items = parser.value(Items);
     command.doubles = parser.isSet(Doubles);
     for (const QString &map : parser.values(Map)) {
-        // The name in the table may hold the sign too.
+        // The last sign, because the name in the table may contain one too.
         const qsizetype sign = map.lastIndexOf(u'=');
         if (sign < 1 || mdColumnOf(mdScheduleColumns(), map.mid(sign + 1)) < 0)
             return false;
@@ -117,7 +117,7 @@ bool addImport(clsToolCommand &command, const QCommandLineParser &parser)
     return !command.items.isEmpty();
 }
 
-/// Reads the values that an option of several claims has; false where one is wrong.
+/// Reads options that have values; false if one is invalid.
 bool addValues(clsToolCommand &command, const QCommandLineParser &parser)
 {
     for (const QString &day : parser.values(Today)) {
@@ -133,7 +133,7 @@ bool addValues(clsToolCommand &command, const QCommandLineParser &parser)
             return false;
     }
     command.templates = parser.value(Templates);
-    // As from a variable of a script that was never set: the program's own templates are not what was asked for.
+    // An empty value, as from an unset variable of a script, must not select the program's own templates.
     return !parser.values(Templates).contains(QString());
 }
 

@@ -13,26 +13,26 @@ enum class clsExitStatus {
     Done = 0,
     WrongUsage = 1,
     NoClaim = 2,
-    BlankItems = 3, ///< or something else that a check has found
+    BlankItems = 3, ///< also for other findings of a check
     Differs = 3,
     WrongRows = 3,
     Failed = 4,
     DocumentExists = 5,
 };
 
-/// A command line, read.
+/// A parsed command line.
 struct clsToolCommand {
     enum Verb { Totals, Export, Check, CheckFull, List, Save, Forecast, Why, Diff, Table, Import, Help, Version };
 
     Verb verb = Help;
     QString claim;
-    QStringList claims; ///< of a command that takes several: claims and folders
-    QString kind; ///< of the figure that is asked for
-    QString which; ///< and which of its kind; the list of a table
+    QStringList claims; ///< claims and folders, for a command that takes several
+    QString kind; ///< the kind of the requested figure
+    QString which; ///< which figure of that kind; for a table, its list
     QString items; ///< the table of an import
-    std::vector<std::pair<QString, QString>> columns; ///< what its columns are called and mean
+    std::vector<std::pair<QString, QString>> columns; ///< the table's column names and their meaning
     bool doubles = false;
-    QDate today; ///< stands in for the machine's day, where it is given
+    QDate today; ///< replaces today's date, if given
     bool json = false;
     bool words = false; ///< names in place of stored values, also in JSON
     bool csv = false;
@@ -50,7 +50,7 @@ struct clsToolCommand {
 
     QDate dayOfCheck() const;
 
-    /// The command that the arguments (without the program's name) ask for; nothing where they are wrong.
+    /// Parses the arguments, without the program's name; nothing if they are invalid.
     static std::optional<clsToolCommand> read(const QStringList &arguments);
     static QString usage();
 };

@@ -46,7 +46,7 @@ Status check(const clsZR3Form &form)
 Status save(const clsConsoleUserInterface &console, clsZR3Form &form, const QString &newFile)
 {
     const int failuresBefore = console.failureCount();
-    // Not read back from the claim, which keeps its texts in the code page: a file's name may have other characters.
+    // Not read back from the claim, which stores its texts in the code page: a file name may have other characters.
     const QString path = QFileInfo(newFile).absoluteFilePath();
     form.path = path;
     form.Version = GetVersionInfo();
@@ -101,8 +101,8 @@ Status runOnClaim(clsConsoleUserInterface &console, const clsToolCommand &comman
     });
 }
 
-/// Refuses names that the command's texts can't hold; nothing where all is well. Of several claims each is refused by
-/// itself.
+/// Refuses names that the program's texts can't represent; nothing if all are valid. Of several claims each is refused
+/// separately.
 std::optional<Status> refusal(
     clsConsoleUserInterface &console, const clsToolCommand &command, const QByteArrayList &arguments)
 {
@@ -111,7 +111,7 @@ std::optional<Status> refusal(
     if (isMany)
         names.removeIf([&](const QByteArray &name) { return command.claims.contains(QFile::decodeName(name)); });
     QByteArray name = NameNotInUtf8(names);
-    // What is written is named by its whole path.
+    // A relative target is expanded with the current folder's name.
     if (name.isEmpty() && !command.target.isEmpty() && QDir::isRelativePath(command.target))
         name = NameNotInUtf8({CurrentFolderName()});
     if (name.isEmpty())
@@ -121,7 +121,6 @@ std::optional<Status> refusal(
     return refused == command.claim || command.claims.contains(refused) ? Status::NoClaim : Status::Failed;
 }
 
-/// Runs a command on claims.
 Status runOn(clsConsoleUserInterface &console, const clsToolCommand &command, const QByteArrayList &names)
 {
     if (const auto refused = refusal(console, command, names))

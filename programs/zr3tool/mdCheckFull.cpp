@@ -61,7 +61,7 @@ QString mdFindingsInLines(const clsFindings &findings, const QString &before)
         const QString line = QStringLiteral("%1%2, %3, %4, %5")
                                  .arg(before, mdLevelInWords(finding.Level), finding.Screen,
                                      QString::number(finding.Item), finding.Text);
-        // A line feed of a name is none here.
+        // A line break in a name must not start a new line.
         lines += QString(line).replace(u'\r', u' ').replace(u'\n', u' ') + QStringLiteral("\r\n");
     }
     return lines;

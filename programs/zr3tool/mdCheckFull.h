@@ -7,21 +7,21 @@ class clsConsoleUserInterface;
 class clsJsonWriter;
 class clsZR3Form;
 
-/// What the look through a claim came to.
+/// The result of checking a claim.
 struct clsCheckedClaim {
     clsExitStatus status = clsExitStatus::Done;
     clsFindings findings {};
 };
 
-/// Reads a claim and looks through it; what keeps it from that is told.
+/// Reads and checks a claim; failures to do so are reported.
 clsCheckedClaim mdCheckedClaim(clsConsoleUserInterface &console, const clsToolCommand &command, const QString &path);
 
 void mdWriteFindings(clsJsonWriter &json, const clsFindings &findings);
-/// One line for each finding, with what stands before it.
+/// One line for each finding, starting with `before`.
 QString mdFindingsInLines(const clsFindings &findings, const QString &before = {});
 
-/// Looks through the one claim of a command line and prints what it has found.
+/// Checks the only claim of a command line and prints the findings.
 clsExitStatus mdCheckFull(clsConsoleUserInterface &console, const clsToolCommand &command);
 
-/// Prints how a figure of a claim comes about.
+/// Prints how a figure of a claim is computed.
 clsExitStatus mdWhyFigure(const clsZR3Form &form, const clsToolCommand &command);

@@ -28,7 +28,7 @@ clsExitStatus mdGuarded(
 clsExitStatus mdLoadClaim(
     clsConsoleUserInterface &console, clsZR3Form &form, const QString &path, clsSoundness soundness)
 {
-    // That a file which can't be read is no claim either goes without saying.
+    // If the file can't be read, only that is reported, and not also that it is not a claim.
     console.showsOnlyFirstMessage = true;
     const clsExitStatus status = mdGuarded(console, clsExitStatus::NoClaim, [&] {
         if (!form.LoadXML(path))

@@ -7,13 +7,13 @@
 class clsConsoleUserInterface;
 class clsZR3Form;
 
-/// Runs a step; a run-time error in it is told, and the status says what it stands for.
+/// Runs a step. A run-time error in it is reported, and the result is then `onError`.
 clsExitStatus mdGuarded(
     clsConsoleUserInterface &console, clsExitStatus onError, const std::function<clsExitStatus()> &step);
 
-/// Whether a claim has to be sound in all its parts to be of use.
+/// Whether every part of a claim must be valid.
 enum class clsSoundness { InAllParts, InSome };
 
-/// Reads the claim of a path; what keeps it from that is told.
+/// Reads the claim at a path; failures are reported.
 clsExitStatus mdLoadClaim(clsConsoleUserInterface &console, clsZR3Form &form, const QString &path,
     clsSoundness soundness = clsSoundness::InAllParts);

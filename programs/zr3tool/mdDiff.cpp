@@ -21,7 +21,7 @@ namespace {
 
 using Status = clsExitStatus;
 
-/// What the comparison of two claims came to.
+/// The result of comparing two claims.
 struct clsComparedClaims {
     Status status = Status::Done;
     QString error {}; ///< why one of them can't be read
@@ -64,7 +64,7 @@ clsComparedClaims clsDiff::compared(const QString &old, const QString &now) cons
     clsComparedClaims result;
     clsZR3Form before;
     clsZR3Form after;
-    // Both are tried, so that all that is wrong is told at once.
+    // Tries to read both, so that all failures are reported at once.
     const bool readsOld = canRead(before, old, result);
     if (!canRead(after, now, result) || !readsOld) {
         result.status = Status::NoClaim;
@@ -117,7 +117,7 @@ Status clsDiff::writePair(clsJsonWriter &json, const clsFilePair &pair) const
     return result.status;
 }
 
-/// The claims of a folder; what can't be looked into is told.
+/// The claims in a folder; failures to read it are reported.
 QStringList clsDiff::claimsOf(const QString &folder, Status &status) const
 {
     QStringList claims;

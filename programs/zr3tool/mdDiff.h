@@ -4,5 +4,5 @@
 
 class clsConsoleUserInterface;
 
-/// Prints what differs between two claims, or between the claims of two folders.
+/// Prints the differences between two claims, or between the claims of two folders.
 clsExitStatus mdDiff(clsConsoleUserInterface &console, const clsToolCommand &command);

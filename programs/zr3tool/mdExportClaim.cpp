@@ -24,7 +24,7 @@ namespace {
 
 using Status = clsExitStatus;
 
-/// What the user is told of a document that is there and may not be replaced.
+/// Reports that the document exists and may not be replaced.
 Status documentExists(clsConsoleUserInterface &console, const QString &document)
 {
     console.tell(QStringLiteral("Export"),
@@ -38,14 +38,14 @@ Status exportSheetsAndDocument(clsConsoleUserInterface &console, clsExport &run)
     if (const clsExportDriver driver = mdExportDriver(run.form.FormType())) {
         if (driver(run))
             return Status::Done;
-        // Made by another program since this one has looked.
+        // Another program has created it since the check.
         return run.stoppedAtDocument ? documentExists(console, mdFinishedDocumentPath(run)) : Status::Failed;
     }
     console.tell(QStringLiteral("Export"), mdNoPagesMessage(run.form.FormType()));
     return Status::Failed;
 }
 
-/// Sweeps away what a failed export left in its folder. The failure itself has been told, so that this is silent.
+/// Deletes what a failed export left in its folder. Silent: the failure itself has been reported.
 void sweep(const clsExport &run)
 {
     try {
@@ -59,7 +59,7 @@ QString pdfBeside(const QString &document)
     return document.chopped(QStringLiteral(".doc").size()) + QStringLiteral(".pdf");
 }
 
-/// What an export would put into its folder.
+/// The files that an export would write.
 QStringList filesOf(const clsToolCommand &command, const QString &document)
 {
     QStringList files = {document};
@@ -68,7 +68,7 @@ QStringList filesOf(const clsToolCommand &command, const QString &document)
     return files;
 }
 
-/// What lies where an export would put its files, unless it may replace that; empty where nothing does.
+/// The first existing file or folder that an export would overwrite without permission; empty if there is none.
 QString whatMayNotBeReplaced(const clsToolCommand &command, const QString &document)
 {
     const QStringList files = filesOf(command, document);
@@ -78,7 +78,7 @@ QString whatMayNotBeReplaced(const clsToolCommand &command, const QString &docum
     return {};
 }
 
-/// Whether all that an export would make is there, and newer than the claim.
+/// Whether all the files of an export exist and are newer than the claim.
 bool isNewerThanClaim(const clsToolCommand &command, const QString &document, const QString &claim)
 {
     const QDateTime changed = QFileInfo(claim).lastModified();
@@ -95,8 +95,8 @@ Status makePdf(clsConsoleUserInterface &console, const clsToolCommand &command, 
     QEventLoop waiting;
     std::optional<clsPdfConversion> conversion;
     mdSetProgress(1, 1, QStringLiteral("Making the PDF"));
-    // Where this program is told to end, the office program and its copy of the document must not stay behind. Watched
-    // for before either is there; the handler runs in the loop below.
+    // If this program is asked to end, the office program and its copy of the document must not stay behind. Set up
+    // before either exists; the handler runs in the loop below.
     const clsEndSignalScope endSignals([&] {
         conversion->cancel();
         waiting.quit();
@@ -107,7 +107,7 @@ Status makePdf(clsConsoleUserInterface &console, const clsToolCommand &command, 
     mdClearProgress();
     if (conversion->state() == clsPdfConversion::Cancelled)
         return Status::Failed;
-    // Made by another program since this one has looked.
+    // Another program has created it since the check.
     if (!command.force && FileSystem().FileExists(pdfPath))
         return documentExists(console, pdfPath);
     const QString pdfFailure = mdPutPdfInPlace(*conversion, document, pdfPath);

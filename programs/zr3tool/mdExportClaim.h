@@ -5,22 +5,22 @@
 class clsConsoleUserInterface;
 class clsZR3Form;
 
-/// Where the document of one claim goes.
+/// Where to write the document of one claim.
 struct clsExportPlace {
     QString claim; ///< its path
     bool isNamedByFile = false;
-    int number = 1; ///< of several claims whose documents would have one name
-    bool sharesFolder = false; ///< other exports work there at the same time
+    int number = 1; ///< counts claims whose documents would have the same name
+    bool sharesFolder = false; ///< other exports use the folder at the same time
 };
 
-/// What an export came to.
+/// The result of an export.
 struct clsExportOutcome {
     clsExitStatus status = clsExitStatus::Failed;
     QString document; ///< its path
-    bool isPassedBy = false; ///< it was there, and newer than its claim
-    QString pdf {}; ///< the same as PDF, where that was asked for and made
+    bool isPassedBy = false; ///< the document already existed and is newer than its claim
+    QString pdf {}; ///< the PDF's path, if one was requested and made
 };
 
-/// Exports a claim that is open.
+/// Exports an open claim.
 clsExportOutcome mdExportClaim(
     clsConsoleUserInterface &console, clsZR3Form &form, const clsToolCommand &command, const clsExportPlace &place);

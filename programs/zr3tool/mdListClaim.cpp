@@ -13,13 +13,12 @@
 
 namespace {
 
-/// What kind of cell a column has.
 enum class clsCell { Text, Count, Amount };
 
 struct clsListColumn {
     const char *key;
     clsCell kind;
-    /// Characters in the table for people; longer cells take more.
+    /// In characters, for the readable table; longer cells widen their line.
     int width;
     QString (*cell)(const clsListedClaim &claim);
 };
@@ -94,7 +93,7 @@ QString inOneLine(QString text)
     return text.replace(QStringLiteral("\r\n"), QStringLiteral(" ")).replace(u'\r', u' ').replace(u'\n', u' ');
 }
 
-/// A line for people, from the cells of the columns.
+/// A line of the readable table.
 template <class CellOf> QString textLine(qsizetype longestPath, CellOf cellOf)
 {
     QString line;

@@ -10,24 +10,25 @@ class clsJsonWriter;
 struct clsListedClaim {
     clsExitStatus status = clsExitStatus::Done;
     QString path;
-    std::optional<clsClaimColumns> columns {}; ///< nothing of a claim that can't be read
+    std::optional<clsClaimColumns> columns {}; ///< none for a claim that can't be read
     int errors = 0;
     int warnings = 0;
     QString changed {};
     QString error {};
 };
 
-/// Reads a claim for the list; what keeps it from that, or a figure from being computed, is told. The forms are not
-/// forecast, which takes longer than all else: what is printed smaller or cut is not among the errors and warnings.
+/// Reads a claim for the list; failures to read it or to compute a figure are reported. Doesn't forecast the forms,
+/// which would take longer than everything else, so the errors and warnings don't include texts that print smaller or
+/// cut off.
 clsListedClaim mdListedClaim(clsConsoleUserInterface &console, const clsToolCommand &command, const QString &path);
-/// One that can't be read.
+/// The list entry of a claim that can't be read.
 clsListedClaim mdUnlistedClaim(const QString &path, clsExitStatus status, const QString &error);
 
-// Its line, as a table of each kind has it, and the line that such a table begins with.
+// A claim's CSV line, and the header line.
 
 QString mdListAsCsv(const clsListedClaim &claim);
 QString mdListAsCsvHeader();
-/// For people. Paths have so many characters.
+/// A readable table; `longestPath` is the width of the path column in characters.
 QString mdListAsText(const clsListedClaim &claim, qsizetype longestPath);
 QString mdListAsTextHeader(qsizetype longestPath);
 void mdWriteListed(clsJsonWriter &json, const clsListedClaim &claim);

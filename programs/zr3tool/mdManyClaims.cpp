@@ -32,13 +32,13 @@ namespace {
 using Status = clsExitStatus;
 using Command = clsToolCommand;
 
-/// Whether the results are a list, also of one claim or none.
+/// Whether the results are a list, even of one claim or none.
 bool isList(const Command &command)
 {
     return command.verb == Command::List || command.claims.size() != 1 || QFileInfo(command.claims.front()).isDir();
 }
 
-/// The arguments that the program's texts can't hold, as they come out there, and what the user is told of them.
+/// The arguments that are not valid UTF-8, decoded as the program's texts show them, each with its message.
 QHash<QString, QString> refusedOf(const QByteArrayList &arguments)
 {
     QHash<QString, QString> refused;
@@ -62,8 +62,8 @@ std::vector<clsClaimJob> jobsOf(const Command &command, const QHash<QString, QSt
     return jobs;
 }
 
-/// Documents are told apart by a number where their claims' files have one name. It depends on nothing but the paths,
-/// so that a run that is taken up again gives the same names.
+/// Numbers the claims whose files have the same name, so that their documents have different ones. Depends only on the
+/// paths, so that a repeated run gives the same names.
 void numberNames(std::vector<clsClaimJob> &jobs)
 {
     QHash<QString, int> counts;
@@ -106,7 +106,7 @@ private:
 
 qsizetype longestPath(const std::vector<clsClaimJob> &jobs)
 {
-    qsizetype longest = 4; // the word above them
+    qsizetype longest = 4; // the length of the column's heading
     for (const clsClaimJob &job : jobs)
         longest = std::max(longest, job.path.size());
     return longest;
@@ -132,7 +132,7 @@ bool clsManyRun::write(int descriptor, const QByteArray &bytes)
     return bytes.isEmpty() || m_requests.write(descriptor, bytes);
 }
 
-/// What standard output is given of a claim's part of the result.
+/// A claim's part of the result, as written to standard output.
 QByteArray clsManyRun::printed(const QByteArray &result) const
 {
     switch (m_form) {
@@ -179,7 +179,7 @@ bool clsManyRun::take(qsizetype job, const QByteArray &packed)
     return true;
 }
 
-/// The application object of a worker, for the processes that it starts. It ends with its process.
+/// The application object of a worker, needed to start processes. Never deleted: it lasts as long as the worker.
 struct clsWorkerApplication {
     int count = 1;
     char name[sizeof "zr3tool"] = "zr3tool";

@@ -6,13 +6,12 @@
 
 class clsConsoleUserInterface;
 
-/// Whether a command is about a list of claims, or prints a line for each, rather than about the one file that it
-/// names.
+/// Whether a command processes a list of claims or prints a line for each, rather than processing the one named file.
 bool mdIsAboutMany(const clsToolCommand &command);
 
-/// Runs a command on the claims that its paths stand for, by processes of their own, and prints the results in the
-/// order of the paths. One claim's failure stops no other; the status is the greatest of all. Where the program is
-/// asked to end, nothing half done stays behind. Before it there must be no application object of the toolkit. The
-/// arguments are those of the command line as the system gives them.
+/// Runs a command on all claims at its paths, in worker processes, and prints the results in the order of the paths. A
+/// claim that fails doesn't stop the others; the status is the greatest of all. If the program is asked to end, no
+/// unfinished files stay behind. Call before creating any Qt application object. `arguments` are the raw command-line
+/// arguments.
 clsExitStatus mdRunOnMany(
     clsConsoleUserInterface &console, const clsToolCommand &command, const QByteArrayList &arguments);

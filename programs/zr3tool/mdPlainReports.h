@@ -7,22 +7,22 @@ class clsConsoleUserInterface;
 class clsJsonWriter;
 class clsZR3Form;
 
-/// Tells of figures that can't be computed, where there are some; the status says whether there are.
+/// Reports the figures that can't be computed, if any; the status says whether there are any.
 clsExitStatus mdTellTotals(clsConsoleUserInterface &console, const clsTotalsReport &report);
 
-/// What the check of blank items has found.
+/// The result of the check for blank items.
 struct clsBlankItems {
     int scheduleItems = 0;
     int disbursements = 0;
-    QString message; ///< its lines end in CR LF
+    QString message; ///< lines end in CR LF
 
     bool isFound() const { return scheduleItems > 0 || disbursements > 0; }
 };
 
 clsBlankItems mdBlankItems(const clsZR3Form &form);
-/// Its message with an end to its last line.
+/// The message, with an end to its last line.
 QString mdBlankItemsInLines(const clsBlankItems &blank);
 void mdWriteBlankItems(clsJsonWriter &json, const clsBlankItems &blank);
 
-/// Tells that a result did not reach its reader, say on a full disk: a failure like any other.
+/// Reports that a result could not be written, for example to a full disk.
 clsExitStatus mdTellUnwritten();

@@ -26,7 +26,7 @@ void print(clsTable table)
         mdPrintBytes(mdTableAsCsv(table));
         return;
     }
-    // A line break of a text is a control character like any other.
+    // Line breaks within a text are replaced like other control characters.
     for (QStringList &row : table.rows)
         for (QString &cell : row)
             cell = mdWithoutControls(cell);
@@ -38,7 +38,7 @@ QString causesOf(const QStringList &causes)
     return causes.isEmpty() ? QString() : QStringLiteral("\r\n") + causes.join(QStringLiteral("\r\n"));
 }
 
-/// The text of the table that is imported; nothing, after a message, where it can't be read.
+/// The text of the imported table; nothing, after a message, if it can't be read.
 std::optional<QString> textOf(clsConsoleUserInterface &console, const QString &path)
 {
     const QString shown = QDir::toNativeSeparators(path);
@@ -62,7 +62,7 @@ QString rowInWords(const clsImportedRow &row)
     return QStringLiteral("Row %1 (line %2): ").arg(row.Number).arg(row.Line);
 }
 
-/// Tells of each wrong row; whether there is one.
+/// Reports each wrong row; true if there is one.
 bool tellWrongRows(clsConsoleUserInterface &console, const clsImportedRows &rows)
 {
     bool areWrong = false;

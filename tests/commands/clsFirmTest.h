@@ -7,7 +7,7 @@
 
 inline const QByteArray FirmHeader = "Kind,Reference,Name,Group,VAT,VAT Rate,Hourly Rate,Fill New Claims\r\n";
 
-/// A test of the firm's table and file.
+/// Tests of the firm's table and file.
 class clsFirmTest : public clsDocumentTest {
 protected:
     QString file() const { return path("program/Databases/Firm.csv"); }
@@ -21,7 +21,7 @@ protected:
     }
 };
 
-/// A text for each property, some with what a table has to guard.
+/// A text for each property; some need a guard in a table.
 inline QString firmTextFor(const char *property, int number)
 {
     const QString names[] = {QStringLiteral("A, \"B\"; C"), QStringLiteral("=1+1"), QStringLiteral("'=x"),
@@ -34,7 +34,7 @@ inline bool isFirmAmount(const char *property)
     return QByteArray(property).endsWith("Rate");
 }
 
-/// Gives each of a record's properties a value of its own, but for those that the lists keep.
+/// Sets each of a record's properties to a different value, except those that the lists maintain.
 inline void fillRecord(clsXMLRecord &record, int &number)
 {
     for (const clsXMLPropertyPlace &place : record.properties()) {
@@ -70,7 +70,7 @@ inline std::unique_ptr<clsFirm> filledFirm()
     return firm;
 }
 
-/// All values of a record, without its identities.
+/// All values of a record except its identities.
 inline QStringList valuesOf(const clsXMLRecord &record)
 {
     QStringList values;

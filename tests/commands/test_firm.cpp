@@ -1,4 +1,4 @@
-// The firm's file, and the claims that begin with it.
+// The firm's file, and new claims filled from it.
 
 #include "base/mdStateFolder.h"
 #include "commands/mdFirmOffer.h"
@@ -192,7 +192,7 @@ TEST_F(FirmFile, AFilledClaimStaysWholeWhenItsFormChanges)
         clsZR3Form again;
         ASSERT_TRUE(again.LoadXML(path("claims/a.zr3")));
         EXPECT_EQ(4u, again.FeeEarnersCollection().size());
-        // A claim is stored in its code page: what that lacks is a question mark in any claim.
+        // A claim is stored in its code page: a character not in it becomes a question mark, as in any claim.
         EXPECT_EQ(valuesOf(*Form).size(), valuesOf(again).size());
     }
 }

@@ -1,4 +1,4 @@
-// The firm as a table: what is written, what is read, and what can't be.
+// The firm as a table: writing, reading, and invalid tables.
 
 #include "tests/commands/clsFirmTest.h"
 
@@ -157,7 +157,7 @@ TEST_F(FirmTable, TenThousandPeopleAreReadInASecond)
     QElapsedTimer timer;
     timer.start();
     NewForm(true);
-    EXPECT_GT(5000, timer.elapsed()); // a second without sanitizers
+    EXPECT_GT(5000, timer.elapsed()); // takes a second without sanitizers
     EXPECT_EQ(10000u, Form->FeeEarnersCollection().size());
     EXPECT_EQ(QStringLiteral("F9999"), Form->FeeEarnerByOrderID(10000)->Reference());
 }

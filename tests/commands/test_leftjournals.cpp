@@ -141,10 +141,10 @@ TEST_F(LeftJournals, StayWhereWhatIsOpenIsNotTheSameToTheByte)
     kill();
     OpenFormFile(copy);
     EXPECT_EQ(1u, look().size()) << "the journal has more than the copy";
-    // Nor is a claim that has no file the one of a journal.
+    // Nor does a claim without a file match a journal.
     NewForm(true);
     EXPECT_EQ(1u, look().size());
-    // Another window holds it by now.
+    // Another window now holds it.
     left = {};
     put(copy, contents()->claim);
     OpenFormFile(copy);

@@ -1,4 +1,4 @@
-// A new claim with the firm and the people of another.
+// A new claim with the firm and the people of another claim.
 
 #include "base/mdGetVersionInfo.h"
 #include "commands/mdNewFromClaim.h"
@@ -16,7 +16,7 @@ protected:
         user.files = {claim};
         NewFromClaimDialog();
     }
-    /// What the claim has of work, dates and the client: everything but what may be taken along.
+    /// The claim's work, dates and client: everything except what may be copied.
     static QString rest(clsZR3Form &form)
     {
         pugi::xml_document copy;

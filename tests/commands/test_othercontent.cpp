@@ -68,7 +68,7 @@ TEST_F(OtherContent, IsKeptTenTimesOfOneClaimAndNothingElseIsTouched)
     const QByteArray theirs = bytesOf(claim) + "<!-- theirs -->";
     const QString asideFolder = path("state/Velmor/Set Aside/");
     int minute = 0;
-    // A file under the name of a copy, last changed at a time.
+    // Creates a file with a copy's name and the given time of change.
     const auto putAged = [&](const QString &name, const QDateTime &changed) {
         put(asideFolder + name, "x");
         QFile file(asideFolder + name);
@@ -109,7 +109,7 @@ TEST_F(OtherContent, IsKeptTenTimesOfOneClaimAndNothingElseIsTouched)
     saveOverTheirs();
     EXPECT_FALSE(QFile::exists(asideFolder + oldest));
     EXPECT_TRUE(QFile::exists(asideFolder + second));
-    // The clock was put back: the copy of this save is the one that must not go.
+    // The clock was put back: this save's copy must still not be deleted.
     minute = 9;
     saveOverTheirs();
     SetClock([] { return QDateTime(QDate(2019, 1, 1), QTime(0, 0)); });
@@ -168,7 +168,7 @@ TEST_F(OtherContent, IsFoundWhereTheFileCannotBeRead)
     FileSystem().faultPoint = nullptr;
     EXPECT_TRUE(Document().changedOnDisk()) << "looked at anew";
     EXPECT_FALSE(Document().onDisk.isUnreadable());
-    // Only its rights were changed, and given back.
+    // Only its permissions were changed, and restored.
     put(claim, mine);
     FileSystem().faultPoint = [](clsFileStep at, const QString &) {
         return at == clsFileStep::OpenToRead ? clsFileFault {EACCES} : clsFileFault();
@@ -194,7 +194,7 @@ TEST_F(OtherContent, ThatCannotBeReadIsNotSavedOver)
     EXPECT_EQ(QStringLiteral("File Not Saved"), user.messages[0].title);
     EXPECT_TRUE(Document().changedOnDisk());
     EXPECT_TRUE(aside().isEmpty());
-    // Now it can be.
+    // Now it succeeds.
     EXPECT_TRUE(SaveForm(false));
     EXPECT_EQ(1, aside().size());
     EXPECT_EQ(Form->XMLOutput(), textOf(claim));
@@ -208,20 +208,20 @@ TEST_F(OtherContent, ThatCouldNotBeReadForAMomentIsToldOf)
     FileSystem().faultPoint = [&](clsFileStep step, const QString &at) {
         return step == clsFileStep::Read && at == claim && failures-- > 0 ? clsFileFault {EIO} : clsFileFault();
     };
-    // Both looks of the save fail, and the guard's copy doesn't.
+    // Both checks during the save fail, but the copy of the guarded overwrite succeeds.
     put(claim, mine + "<!-- theirs -->");
     change();
     failures = 2;
     EXPECT_TRUE(SaveForm(false));
     EXPECT_EQ(QStringList {QStringLiteral("Saved. The other program's version could not be set aside")}, user.lines);
-    // The first alone fails: it can be set aside.
+    // Only the first fails: the content can be set aside.
     user.lines.clear();
     put(claim, mine + "<!-- theirs -->");
     failures = 1;
     EXPECT_TRUE(SaveForm(false));
     EXPECT_EQ(1, aside().size());
     EXPECT_EQ(QStringList {QStringLiteral("Saved. The other program's version was set aside")}, user.lines);
-    // The same, and what is there is this program's own after all.
+    // The same, but the content turns out to be this program's own.
     user.lines.clear();
     const QByteArray own = bytesOf(claim);
     QFile::remove(claim);

@@ -1,4 +1,4 @@
-// The state folder where it is another user's link, and journals whose program ends in the midst of a write.
+// A state folder that is another user's link, and journals whose program ends during a write.
 
 #include "base/mdCodePage.h"
 #include "base/mdStateFile.h"
@@ -22,7 +22,7 @@ protected:
         NotStored() = clsNotStored();
         clsJournalTest::TearDown();
     }
-    /// Puts a link of another user's to the folder "trap" at a path.
+    /// Creates a link, owned by another user, to the folder "trap".
     void putForeignLink(const QString &at) const
     {
         const QByteArray link = QFile::encodeName(at);
@@ -37,7 +37,8 @@ protected:
             files << QDir(path(at)).relativeFilePath(all.next());
         return files;
     }
-    /// A claim is changed, typed in, and saved over what another program wrote. Nothing of it may be kept.
+    /// Changes a claim, types in it, and saves it over another program's content. No file may be written to the link's
+    /// target.
     void expectNothingIsWritten()
     {
         const QString claim = changedClaim();
@@ -52,7 +53,7 @@ protected:
         EXPECT_EQ(
             QStringList {QStringLiteral("Saved. The other program's version could not be set aside")}, user.lines);
     }
-    /// What another user has put there is neither offered nor read.
+    /// Another user's files there are neither offered nor read.
     void expectNothingIsRead(const QString &behind)
     {
         clsJournalHead head = NewJournalHead();
@@ -74,9 +75,9 @@ TEST_F(StateFolderUse, ThatIsReachedByALinkOfAnotherUsersIsNeitherWrittenNorRead
     if (::geteuid() != 0)
         GTEST_SKIP() << "only the administrator can make a link for another user";
     struct clsPlace {
-        const char *link; ///< of the other user
-        const char *state; ///< the folder that the program is told; empty for the usual one
-        const char *behind; ///< where the program's own folder would be
+        const char *link; ///< another user's link
+        const char *state; ///< the state folder passed to the program; empty for the default
+        const char *behind; ///< where the program's folder would be
     };
     for (const clsPlace &place : {clsPlace {"state/Velmor", "", "trap"},
              {"foreign", "foreign/deep", "trap/deep/Velmor"}, {"foreign", "own", "trap/Velmor"}}) {
@@ -94,7 +95,7 @@ TEST_F(StateFolderUse, ThatIsReachedByALinkOfAnotherUsersIsNeitherWrittenNorRead
         make(QString::fromLatin1(place.behind) + QStringLiteral("/Journal"));
         expectNothingIsRead(path(place.behind));
         EXPECT_EQ(2, filesIn("trap").size()) << "nor is what lies there touched";
-        // As soon as it is a folder of the user's own, all is kept again.
+        // Once it is the user's own folder, everything is kept again.
         ASSERT_TRUE(QFile::remove(path(place.link)));
         if (place.state == std::string("own"))
             make(QStringLiteral("foreign"));

@@ -1,4 +1,4 @@
-// The words that are looked for in a grid, and the rows that are marked in it.
+// Finding words in a grid, and marked rows.
 
 #include "tests/controls/clsGridTest.h"
 
@@ -52,7 +52,7 @@ protected:
     {
         return QRect(0, view()->rowViewportPosition(row - 1), view()->viewport()->width(), view()->rowHeight(row - 1));
     }
-    /// How many pixels of a row have a colour.
+    /// The number of a row's pixels with a colour.
     int count(int row, const QColor &colour, int from = 4) const
     {
         const QImage image = view()->viewport()->grab(rowPlace(row).adjusted(from, 0, 0, 0)).toImage();
@@ -62,7 +62,7 @@ protected:
                 found += image.pixelColor(x, y) == colour;
         return found;
     }
-    /// The darkest that its text is.
+    /// The darkest pixel of its text.
     int darkest(int row) const
     {
         const QImage image = view()->viewport()->grab(rowPlace(row).adjusted(4, 0, 0, 0)).toImage();

@@ -4,7 +4,7 @@
 #include "costing/comparing/mdCompareClaims.h"
 #include "tests/formdata/clsClaimTest.h"
 
-/// A claim, and a copy of it that a test changes.
+/// A claim, and a copy of it for the test to change.
 class clsComparingTest : public clsClaimTest {
 protected:
     void SetUp() override
@@ -45,7 +45,7 @@ protected:
         return result;
     }
     clsClaimChanges inWords() const { return mdChangesInWords(changes(), form, now); }
-    /// What the user is shown of the fields of an item: name, before, after.
+    /// The fields of an item as shown to the user: name, before, after.
     QStringList itemInWords(size_t place) const
     {
         const clsClaimChanges words = inWords();
@@ -62,7 +62,7 @@ protected:
             result << QStringList {field.Screen, field.Property, field.Old, field.New}.join(u'|');
         return result;
     }
-    /// A total, as before and after, parted by a bar; empty where it is the same.
+    /// A total before and after, separated by a bar; empty if it is the same.
     QString total(const char *key) const
     {
         for (const clsTotalChange &change : changes().Totals)

@@ -1,4 +1,4 @@
-// What differs between two claims, in words for people.
+// The differences between two claims in words.
 
 #include "costing/comparing/mdChangesReport.h"
 #include "tests/costing/clsComparingTest.h"
@@ -28,7 +28,7 @@ TEST_F(InWords, AnItemIsKnownByItsName)
     ASSERT_EQ(1u, words.Fields.size());
     EXPECT_EQ("Letters Out Enhancement"_q, words.Fields[0].Property);
     EXPECT_EQ("Urgent"_q, words.Fields[0].New);
-    // Another fee earner makes it another item of its day.
+    // With another fee earner it doesn't match the same day's item.
     ASSERT_EQ(3u, words.Items.size());
     EXPECT_EQ("Schedule item 1"_q, words.Items[0].Name);
     EXPECT_EQ("Fee Earner|AB|"_q, itemInWords(0).value(0));
@@ -46,10 +46,10 @@ TEST_F(InWords, IdentitiesAreLeftOut)
     now.AddCounsel()->Name = "Ash"_q;
     EXPECT_EQ(QStringList({"Name||Ash"_q, "VAT||no"_q}), itemInWords(0));
     EXPECT_EQ("Counsel Ash"_q, inWords().Items[0].Name);
-    // One that no item has is all that there is to show.
+    // An identity without an item is shown unchanged.
     now.ScheduleOfTimeItem(1)->EnhancementUniqueID = "ID99"_q;
     EXPECT_EQ(QStringList {"Enhancement||ID99"_q}, itemInWords(0));
-    // Two of one name are told apart by theirs.
+    // Items with the same name are shown with their identities.
     const auto namesake = form.AddFeeEarnerGroup();
     namesake->Reference = "A"_q;
     now.takeCopyOf(form);
@@ -71,14 +71,14 @@ TEST_F(InWords, PlacesInAListAreItsEntriesAndTotalsAreNamedOnce)
     EXPECT_EQ("99"_q, words.Fields[1].New);
     EXPECT_EQ("no"_q, words.Fields[2].Old);
     EXPECT_EQ("Perhaps"_q, words.Fields[2].New);
-    // "ProfitCostsTotal" and the summary's "npc" are one figure; 22 hours at 60.00.
+    // "ProfitCostsTotal" and the summary's "npc" are the same figure: 22 hours at 60.00.
     QStringList totals;
     for (const clsTotalChange &total : words.Totals)
         totals << QStringList {total.Key, total.Old, total.New}.join(u'|');
     EXPECT_EQ(1, totals.count("Profit costs|180.00|1,320.00"_q)) << totals.join(u'\n').toStdString();
     EXPECT_EQ(1, totals.count("Total with VAT|216.00|1,584.00"_q));
     EXPECT_EQ(0, totals.filter("npc"_q).size());
-    // The other form's figures have their names too, and an error stays one.
+    // The figures of the other form also have names, and errors are shown as such.
     now.FormType = "Claim1A"_q;
     now.ScheduleOfTimeItem(1)->TTime = "soon"_q;
     words = inWords();

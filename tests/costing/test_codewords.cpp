@@ -1,4 +1,4 @@
-// The firm's words for the codes, and the file in which they are kept.
+// The firm's words for the codes, and their file.
 
 #include "base/clsFileSystem.h"
 #include "base/mdDatabasePath.h"

@@ -1,4 +1,4 @@
-// Tables as LibreOffice Calc writes them; how they were made is told beside them.
+// Tables written by LibreOffice Calc; a file beside them says how they were made.
 
 #include "base/clsFileSystem.h"
 #include "costing/tables/clsImportedRows.h"
@@ -20,7 +20,7 @@ protected:
         const QString path = mdSamplePath("calc/"_q + QString::fromLatin1(file));
         return clsImportedRows(form, list, mdTextOfTable(FileSystem().ReadFile(path)));
     }
-    /// What the cells of a row are read as; a reason stands after an exclamation mark.
+    /// The values read from a row's cells; a reason follows an exclamation mark.
     static QString row(const clsImportedRows &rows, const clsImportList &list, size_t number,
         std::initializer_list<const char *> columns)
     {
@@ -52,7 +52,7 @@ TEST_F(Spreadsheets, WorkIsReadBelowItsHeading)
         ASSERT_EQ(4u, rows.rows().size()) << file;
         EXPECT_EQ("15/12/25|HFN|Final \"hearing\", first day|03:20|True"_q, work(rows, 1));
         EXPECT_EQ("03/02/25|DOT|Line one\r\nline two \u2013 caf\u00E9|01:30|False"_q, work(rows, 2)) << file;
-        // With its decimals, as Calc shows it, a number is hours, as in the box.
+        // A number with decimals, as Calc shows it, is read as hours, as in the box.
         EXPECT_EQ("31/12/29|REX|=SUM(1;2) as a text|90:00|False"_q, work(rows, 3)) << file;
         EXPECT_EQ("16/12/25|ACT|Attending court|00:45|False"_q, work(rows, 4)) << file;
         EXPECT_EQ(4, rows.rows()[0].Line) << file;

@@ -25,7 +25,7 @@ inline std::vector<clsExpectedScreen> AllExpectedScreens()
     return all;
 }
 
-/// Those, and the screens that are neither a section nor the editor of an item.
+/// The same, and the screens that are neither sections nor item editors.
 inline std::vector<clsExpectedScreen> AllWalkedScreens()
 {
     std::vector<clsExpectedScreen> all = AllExpectedScreens();

@@ -21,7 +21,7 @@
 
 #include <iostream>
 
-// Marked rows of a list: their sum, "Copy List" and "Change Selected". And "Find" on the screens.
+// Marked rows of a list: their sum, "Copy List" and "Change Selected". Also "Find" on the screens.
 
 namespace {
 
@@ -55,7 +55,7 @@ protected:
         Document().takeAsClean();
     }
     oSGrid &grid(const char *name = "sgScheduleOfTime") const { return screen->Box<oSGrid>(name); }
-    /// Marks from one row on to another, by keys.
+    /// Marks rows by keys.
     void mark(int from, int to, const char *name = "sgScheduleOfTime") const
     {
         focusPart(grid(name))->setFocus();
@@ -63,7 +63,7 @@ protected:
         for (int row = from; row < to; ++row)
             key(*screen, Qt::Key_Down, Qt::ShiftModifier);
     }
-    /// The entry as the menu shows it.
+    /// Whether the menu offers the entry.
     bool offers() const
     {
         auto *edit = screen->findChild<QMenu *>(QStringLiteral("mnuEdit"));
@@ -77,7 +77,7 @@ protected:
     {
         inModal([&] { entry(*screen, "mnuChangeSelected").trigger(); }, act);
     }
-    /// Chooses the field by its name and leads into it.
+    /// Chooses the field by its name and focuses it.
     static void choose(frmSection &window, const char *field)
     {
         window.Box<QComboBox>("cmbField").setCurrentText(QString::fromUtf8(field));

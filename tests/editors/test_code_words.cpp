@@ -1,4 +1,4 @@
-// The firm's words behind the codes: in the open list, beside the box, and in their window.
+// The firm's words for the codes: in the open list, beside the box, and in their window.
 
 #include "base/clsFileSystem.h"
 #include "base/mdDatabasePath.h"
@@ -47,7 +47,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowExposed(list().window()));
     }
     QString current() const { return list().currentIndex().data().toString(); }
-    /// Presses "Codes..." and does something in the window that opens.
+    /// Presses "Codes..." and calls `act` with the window that opens.
     void inCodes(const std::function<void(frmSection &)> &act)
     {
         openList();

@@ -1,4 +1,4 @@
-// The description and the amount behind the schedule's columns.
+// The description and amount columns at the end of the schedule.
 
 #include "controls/oFindLine.h"
 #include "editors/oListTotal.h"
@@ -82,7 +82,7 @@ TEST_F(ScheduleColumns, WhereItIsNarrowTheDescriptionGoesFirstAndThenTheAmount)
         const std::pair<bool, bool> shown {isShown(*screen, DescriptionColumn), isShown(*screen, AmountColumn)};
         if (seen.empty() || seen.back() != shown)
             seen.push_back(shown);
-        // The others keep their shares of what is left, to the pixel of rounding.
+        // The other columns share the remaining width, within rounding.
         int shared = 0;
         for (int column = 0; column < DescriptionColumn; ++column)
             shared += view(*screen).columnWidth(column);
@@ -140,7 +140,7 @@ TEST_F(ScheduleColumns, TenThousandItemsAreReadOnceAndPaintedWithoutPricing)
     clock.start();
     screen->RedrawLists();
     EXPECT_LT(clock.elapsed(), 1000);
-    // What is painted is what was read: the claim's new rate shows at the next drawing only.
+    // Painting uses the values already read: a changed rate appears only at the next draw.
     Form->FeeEarnerGroup(1)->HourlyRate = QStringLiteral("1.00");
     grid(*screen).grab();
     EXPECT_EQ(QStringLiteral("78.00"), cell(*screen, 10'000, AmountColumn));

@@ -1,4 +1,4 @@
-// From section to section: where Prev and Next say that they lead, and the keys that walk the tabs.
+// From section to section: the targets of Prev and Next, and the keys that follow the order of the tabs.
 
 #include "controls/oCustomButton.h"
 #include "controls/oLeftRightButton.h"
@@ -20,7 +20,7 @@ protected:
         SetOpenSection([this](const QString &text) { target = text; });
     }
 
-    /// Opens the section, presses the key in what has the focus, or in a control, and says where that leads.
+    /// Opens the section, presses the key in the focused widget or in a control, and returns the target.
     QString leadsTo(const QString &section, Qt::Key key, const char *control = nullptr)
     {
         target.clear();
@@ -100,7 +100,7 @@ TEST_F(WalkKeys, TheKeysWalkTheTabsInTheirOrder)
     for (const char *type : {"Claim1", "Claim1A"}) {
         Form->FormType = QString::fromLatin1(type);
         const QStringList all = sections(type);
-        for (int i = 4; i < all.size(); ++i) { // from the first with Prev and Next on
+        for (int i = 4; i < all.size(); ++i) { // from the first with Prev and Next
             EXPECT_EQ(all.value(i + 1), leadsTo(all[i], Qt::Key_PageDown)) << type << ' ' << qPrintable(all[i]);
             EXPECT_EQ(all.value(i - 1), leadsTo(all[i], Qt::Key_PageUp)) << type << ' ' << qPrintable(all[i]);
         }

@@ -11,7 +11,7 @@
 #include <algorithm>
 #include <memory>
 
-/// The claim's text but for what no step changes.
+/// The claim's text without the values that steps don't change.
 inline QString mdTextThatStepsChange(const clsZR3Form &form)
 {
     QString text = form.XMLOutput();
@@ -33,7 +33,7 @@ template <class Collection> void mdRenumber(const Collection &collection)
         item->OrderID = ++order;
 }
 
-/// A claim with a history of its own.
+/// A claim with a separate history.
 class clsHistoryTest : public clsFormTest {
 protected:
     void SetUp() override { load(QStringLiteral("housing-typical.zr3")); }
@@ -57,7 +57,7 @@ protected:
         form->ScheduleOfTimeItem(1)->OrderID = form->ScheduleOfTimeItem(2)->OrderID();
         form->ScheduleOfTimeItem(2)->OrderID = order;
     }
-    /// Every list and derived list says what a claim says that is made anew from the tree.
+    /// Every list and derived list equals that of a new claim loaded from the tree.
     void expectRecordsAgree() const
     {
         clsZR3Form fresh;

@@ -1,4 +1,4 @@
-// Which sections of a claim hold something.
+// Which sections of a claim have content.
 
 #include "formdata/mdBegunSections.h"
 #include "formdata/mdSectionTabs.h"

@@ -1,4 +1,4 @@
-// Undo and redo of single steps, and what the history keeps.
+// Undo and redo of single steps, and what the history stores.
 
 #include "formdata/mdRunStep.h"
 #include "tests/formdata/clsHistoryTest.h"

@@ -1,4 +1,4 @@
-// A random walk over everything that changes a claim, with undo and redo in between.
+// Random sequences of all kinds of changes to a claim, with undo and redo in between.
 
 #include "tests/formdata/clsHistoryTest.h"
 #include "tests/soak/clsDice.h"
@@ -10,10 +10,10 @@
 
 namespace {
 
-/// Does anything that a user can do to a claim.
+/// Makes any change that a user can make to a claim.
 class clsWalker {
 public:
-    /// `byOtherHands` also changes the tree past the records, which no one counts.
+    /// With `byOtherHands` it also changes the tree without the records, which isn't counted.
     clsWalker(clsZR3Form &form, quint64 seed, bool byOtherHands)
         : m_form(form)
         , m_dice(seed)
@@ -39,7 +39,7 @@ private:
             = {QString(), QStringLiteral("x"), QStringLiteral("a & b <c>\r\n%41+"), QString(300, u'é')};
         return Texts[m_dice.below(4)] + (m_dice.chance(50) ? QString::number(m_dice.below(1000)) : QString());
     }
-    /// Asks for no element, which would count as handed out.
+    /// Doesn't access the element, which would count as handed out.
     static bool has(const clsXMLRecord &record, const char *element)
     {
         const QString output = record.XMLOutput();
@@ -146,12 +146,12 @@ QByteArray fingerprint(const clsZR3Form &form)
     return QCryptographicHash::hash(mdTextThatStepsChange(form).toUtf8(), QCryptographicHash::Sha1);
 }
 
-/// Each claim on the way, and where the walk stands among them.
+/// The claim after each step, and the current position among them.
 class HistoryWalk : public clsHistoryTest {
 protected:
     static int steps()
     {
-        // Each compares the whole claim with one that is made anew; tests/long/steps takes more.
+        // Each step compares the whole claim with a newly loaded one; tests/long/steps runs more of them.
 #ifdef __SANITIZE_ADDRESS__
         constexpr int Short = 200;
 #else
@@ -160,7 +160,7 @@ protected:
         const int told = qEnvironmentVariableIntValue("ZR3_WALK_STEPS");
         return told > 0 ? told : Short;
     }
-    /// A change, with the rebuilding that follows it on a screen.
+    /// Makes a change, and rebuilds what a screen would rebuild after it.
     void goOn(clsWalker &walker)
     {
         step("Step", [&] {
@@ -176,7 +176,7 @@ protected:
         }
         expectRecordsAgree();
     }
-    /// So many steps back or forth, as far as there are any.
+    /// Undoes or redoes that many steps, or as many as there are.
     void turn(bool back, int times)
     {
         for (; times > 0 && (back ? history.canUndo() : history.canRedo()); --times) {

@@ -11,7 +11,7 @@
 #include <QLabel>
 #include <QMenu>
 
-/// A test of the panel with what the check has found.
+/// Tests of the check panel.
 class clsCheckPanelTest : public clsMainWindowTest {
 protected:
     void SetUp() override
@@ -79,7 +79,7 @@ protected:
     {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
     }
-    /// Presses a key of the menu that is open, or opens with the Menu key.
+    /// Chooses an entry of the selected line's menu.
     void chooseFromMenu(const char *entry) const
     {
         list().PopUpMenu(list().mapToGlobal(QPoint()));
@@ -102,7 +102,7 @@ protected:
         }
         return result;
     }
-    /// Puts a file that can't be understood into the state folder.
+    /// Writes an invalid file to the state folder.
     static void writeBroken(const char *name)
     {
         ASSERT_TRUE(MakeStateFolder());

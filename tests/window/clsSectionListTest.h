@@ -12,7 +12,7 @@
 
 #include <functional>
 
-/// A test of the list of all sections.
+/// Tests of the list of all sections.
 class clsSectionListTest : public clsCheckPanelTest {
 protected:
     void startOn(const char *claim, int width = 1400)
@@ -42,7 +42,7 @@ protected:
             all << list().model()->index(i, 0).data().toString();
         return all;
     }
-    /// What the list of a form is to hold: the captions of the first row of tabs, each with its second row.
+    /// The expected list for a form: the captions of the first row of tabs, each followed by its second row.
     static QStringList expected(const char *type)
     {
         QStringList all;
@@ -50,7 +50,7 @@ protected:
             all << mdSectionTabs()[tab - 1] << mdSubSectionTabs(tab, QString::fromLatin1(type));
         return all;
     }
-    /// Does something that opens a screen, and closes that. The screen's name.
+    /// Calls `act`, which opens a screen, and closes that screen. Returns its name.
     QString screenAfter(const std::function<void()> &act) const
     {
         QString name;

@@ -32,7 +32,7 @@ protected:
     {
         step([=] { press(key, modifiers); }, std::move(waitsFor), place);
     }
-    /// Types a text, in which a tabulator and a down arrow stand for these keys.
+    /// Types a text, in which a tab character and a down arrow mean these keys.
     void type(const QString &text, Place place = Place::current())
     {
         step([=] { pressAll(text); }, always, place);
@@ -55,10 +55,10 @@ protected:
             }
         }
     }
-    /// The keys that were pressed so far; a letter with Alt is one.
+    /// The number of keys pressed so far; a letter with Alt counts as one.
     inline static int pressed = 0;
 
-    /// A look at how things stand, with nothing done.
+    /// Looks at the present state without doing anything.
     void look(std::function<void()> at, Place place = Place::current()) { step(std::move(at), always, place); }
 
     static bool always() { return true; }

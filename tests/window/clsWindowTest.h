@@ -35,7 +35,7 @@ protected:
         qputenv("XDG_STATE_HOME", QFile::encodeName(path("state")));
         SetDatabasePath(QString());
         writePreferences({});
-        // A test of the offer takes this back.
+        // Tests of the offer reset this.
         mdFirmOfferAnswered();
     }
     void TearDown() override

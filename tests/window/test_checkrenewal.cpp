@@ -8,7 +8,7 @@
 #include <QElapsedTimer>
 #include <QTimer>
 
-// What the panel shows as the claim changes, and the places to which its findings lead.
+// The panel's content as the claim changes, and the places that its findings open.
 
 namespace {
 
@@ -28,7 +28,7 @@ TEST_F(CheckRenewal, EnterOpensTheEditorOfTheItemOnItsField)
         for (QWidget *part = editor->focusWidget(); part && part != editor; part = part->parentWidget())
             focus += part->objectName() + u' ';
         windows = editor->objectName();
-        QTest::keyClick(editor, Qt::Key_F8); // chooses a fee earner here, and there is none of that number
+        QTest::keyClick(editor, Qt::Key_F8); // chooses a fee earner here; there is none with that number
         EXPECT_EQ(NoTime, chosen());
         QTest::keyClicks(editor->focusWidget(), QStringLiteral("0030"));
         QTest::keyClick(editor->focusWidget(), Qt::Key_Return); // Save
@@ -40,7 +40,7 @@ TEST_F(CheckRenewal, EnterOpensTheEditorOfTheItemOnItsField)
     press(Qt::Key_Return);
     EXPECT_EQ(QStringLiteral("frmScheduleOfTimeItemEdit"), windows);
     EXPECT_TRUE(focus.contains(QLatin1String("txtTime"))) << qPrintable(focus);
-    // By the file's order: the list has given its items other numbers when it opened.
+    // In the file's order: the list renumbered its items when it opened.
     EXPECT_EQ(QStringLiteral("00:30"), Form->ScheduleOfTimeItem(3)->TTime());
     EXPECT_EQ(QStringLiteral("1 error, 1 warning, 5 notes"), counts()) << "renewed at the activation";
     EXPECT_FALSE(chosen().isEmpty());
@@ -148,7 +148,7 @@ TEST_F(CheckRenewal, TintsTheRowOfTheChosenFinding)
 
 TEST_F(CheckRenewal, LookingChangesNothing)
 {
-    const QString claim = sample("care-typical.zr3"); // with hearings, whose total writes while it is read
+    const QString claim = sample("care-typical.zr3"); // with hearings, whose total is written while it is read
     const auto saved = [&](bool look) {
         start(claim);
         window->resize(1400, 760);

@@ -1,4 +1,4 @@
-// The firm and its people in the window: the dialog, the line that offers it, and the claims that begin with it.
+// The firm and its people in the window: the dialog, the line that offers it, and claims filled from it.
 
 #include "commands/clsJournal.h"
 #include "controls/oAllPurposeBox.h"
@@ -57,7 +57,7 @@ protected:
         onceOpened("frmFirmAndTeam", use);
         entry("mnuFirmAndTeam").trigger();
     }
-    /// Adds an item to a list of the dialog by its editor.
+    /// Adds an item to one of the dialog's lists with its editor.
     static void add(const frmSection &screen, int page, const char *button, const char *editor,
         const std::function<void(frmSection &)> &use)
     {
@@ -80,7 +80,7 @@ protected:
         add(screen, 4, "cmdAddCounsel", "frmFirmCounselEdit",
             [](frmSection &counsel) { type(counsel, "txtName", "Ada Brook"); });
     }
-    /// The firm with its people, kept.
+    /// Saves the firm with its people.
     void keepFirm(bool fills = true)
     {
         open([&](frmSection &screen) {
@@ -238,7 +238,7 @@ TEST_F(FirmAndTeam, TheOpenClaimHasNoPartInIt)
     EXPECT_FALSE(Document().history.canUndo());
     EXPECT_TRUE(NotStored().all().empty()) << "no claim's text is kept";
     EXPECT_TRUE(user.messages.empty());
-    // What the claim's own screens show is the claim's.
+    // The claim's own screens show the claim's data.
     onceOpened("frmFeeEarnerGroups", [](frmSection &screen) {
         EXPECT_EQ(int(Form->FeeEarnerGroupsCollection().size()), screen.Box<oSGrid>("sgFeeEarnerGroups").Rows());
         press(screen, "cmdClose");

@@ -1,4 +1,4 @@
-// A firm and its people, by keys alone: in the screens of a claim, and once for all new claims.
+// A firm and its people by keys alone: on the screens of a claim, and once for all new claims.
 
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
@@ -8,7 +8,7 @@ namespace {
 
 class FirmByKeyboard : public clsWholeWayTest {
 protected:
-    /// Types a text into each field, with a Tab between two of them.
+    /// Types a text into each field, with Tab between them.
     void fields(const QStringList &texts, Place place = Place::current())
     {
         step([texts] { pressAll(texts.join(u'\t')); }, always, place);
@@ -51,7 +51,7 @@ protected:
         fields({QStringLiteral("Ada Brook"), QStringLiteral("12AB"), QStringLiteral(" ")});
         alt('S', screenIs(screen));
     }
-    /// The claim as it stands, without what tells two apart that say the same.
+    /// The claim without the values that differ between claims with the same content.
     static QString content()
     {
         clsZR3Form copy;
@@ -99,7 +99,7 @@ TEST_F(FirmByKeyboard, IsTypedOnceAndANewClaimTakesOneKey)
         typed = content();
     });
 
-    // Once for all of them, from the bar.
+    // Once for all new claims, opened from the bar.
     alt('M', screenIs("frmFirmAndTeam"));
     fields({QStringLiteral("Hartwell Shaw LLP"), QStringLiteral("1A234B"), {}, QStringLiteral("Jane Shaw"),
         QStringLiteral("0113 496 0000"), QStringLiteral("js@hartwell.example"), {}, {}, QStringLiteral(" ")});
@@ -120,7 +120,7 @@ TEST_F(FirmByKeyboard, IsTypedOnceAndANewClaimTakesOneKey)
         EXPECT_EQ(typed, content()) << "the open claim stays as it is";
     });
 
-    // The claim before is given up, which takes the two keys of its question and is not the new one's.
+    // Discards the previous claim; the two keys for its question don't count for the new one.
     key('N', Qt::ControlModifier, boxIs("Save?"));
     alt('O', [] { return noScreen() && header() == QLatin1String("New ZR3 File"); });
     step([] { keys(); }, always);

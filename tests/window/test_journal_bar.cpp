@@ -184,7 +184,7 @@ TEST_F(JournalBar, TheSameWorkIsNotOfferedTwice)
 {
     savedClaim();
     Form->ClientDetails.Surname = QStringLiteral("Hartwell");
-    // As at a log-off: both are left.
+    // As when logging off: both remain.
     Journal().flush();
     const QString copy = WriteRecoveredCopy().path;
     ASSERT_FALSE(copy.isEmpty());

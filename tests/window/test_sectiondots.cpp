@@ -6,7 +6,7 @@
 #include <QAbstractItemModelTester>
 #include <QElapsedTimer>
 
-// What the list of sections holds, and how it says that each of them stands.
+// Which sections the list has, and how it shows their states.
 
 namespace {
 
@@ -91,7 +91,7 @@ TEST_F(SectionDots, CountsWhatIsFoundInThePrintedPages)
     openList();
     Form->SolicitorDetails.NameOfFirm = QString(3000, u'W');
     window->Activate();
-    const QString before = spoken("Solicitor Details"); // not yet looked at as it is printed
+    const QString before = spoken("Solicitor Details"); // printed texts not checked yet
     EXPECT_TRUE(QTest::qWaitFor([&] { return spoken("Solicitor Details") != before; }, 5000)) << qPrintable(before);
 }
 

@@ -3,7 +3,7 @@
 
 #include <cmath>
 
-// The list of all sections at the left of the main window: its place, its keys, and what it opens.
+// The section list at the left of the main window: its place, its keys, and the screens it opens.
 
 namespace {
 

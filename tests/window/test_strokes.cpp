@@ -1,4 +1,4 @@
-// How many keys the items of a schedule take, with Save alone and with "Save and Add".
+// The number of keys needed for the items of a schedule, with Save alone and with "Save and Add".
 
 #include "controls/oSGrid.h"
 #include "formdata/clsZR3Form.h"
@@ -18,7 +18,7 @@ struct clsEntered {
 };
 
 // clang-format off
-/// A claim of a usual size, by its dates.
+/// A schedule of typical size, by date.
 constexpr clsEntered Items[] = {
     {1, "2/6",   "ACT", "1:12"}, {1, "2/6",   "DPL", "0:48"}, {2, "3/6",   "ACL", "0:54"}, {1, "9/6",   "DNO", "0:30"},
     {1, "10/6",  "AEX", "0:24"}, {1, "1/7",   "ACL", "0:42"}, {1, "8/10",  "HIN", "1:25"}, {1, "8/10",  "OOT", "0:50"},
@@ -30,7 +30,7 @@ constexpr clsEntered Items[] = {
 };
 // clang-format on
 
-/// Keys, of which some say what the item is and the others only lead on.
+/// Counts of keys: those that enter data, and those that only move on.
 struct clsKeys {
     int data = 0;
     int way = 0;
@@ -59,7 +59,7 @@ protected:
             feeEarner->GroupUniqueID = group->UniqueID();
         }
     }
-    /// Third tab of the first row, and the third of its sections.
+    /// The third tab of the first row, and its third section.
     void openSchedule()
     {
         step([] {}, [this] { return header().startsWith(claim); });
@@ -96,10 +96,10 @@ protected:
         press(key, modifiers);
         ++counted.way;
     }
-    /// What was pressed since it was last asked.
+    /// The keys pressed since the last call.
     clsKeys taken() { return std::exchange(counted, clsKeys()); }
 
-    /// In the editor of a new item, without its first and last key.
+    /// In the editor of a new item, without its first and last keys.
     void enterFromTheBeginning(const clsEntered &item)
     {
         data(Qt::Key(Qt::Key_F1 + item.feeEarner - 1));
@@ -110,7 +110,7 @@ protected:
         way(Qt::Key_T, Qt::AltModifier);
         data(item.time);
     }
-    /// A few days on are steps, where these are fewer keys.
+    /// Steps to a date a few days later if that takes fewer keys.
     void enterDate(const char *before, const char *date)
     {
         const QStringList from = QString::fromLatin1(before).split(u'/');
@@ -121,7 +121,7 @@ protected:
         for (int day = 0; day < days; ++day)
             data(Qt::Key_Up);
     }
-    /// In the editor that keeps what the item before said.
+    /// In the editor that keeps the values of the previous item.
     void enterAfter(const clsEntered &before, const clsEntered &item)
     {
         if (item.feeEarner != before.feeEarner)
@@ -195,7 +195,7 @@ TEST_F(Strokes, AnItemOfAUsualDayTakesElevenKeysOfWhichEightCarryData)
     EXPECT_EQ(0, closeAndEnd());
 }
 
-// The first item types the year, which is remembered for the others.
+// The year is typed for the first item and remembered for the others.
 
 TEST_F(Strokes, TwentyFiveItemsWithSaveAlone)
 {

@@ -5,7 +5,7 @@
 #include "benchmarks/mdMakeClaim.h"
 #include "controls/mdApplyTheme.h"
 #include "controls/oSGrid.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/mdSections.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
@@ -103,14 +103,14 @@ struct clsTimes {
 };
 
 /// Opens the editor on a new item, fills it in and saves it.
-void addItem(frmSection &screen, clsTimes &times)
+void addItem(frmScreen &screen, clsTimes &times)
 {
     QElapsedTimer timer;
     clsPaintWatch opened("frmScheduleOfTimeItemEdit");
     std::optional<clsPaintWatch> saved;
     // The editor has an event loop of its own, in which this runs as soon as it is open.
     QTimer::singleShot(0, &screen, [&] {
-        auto *editor = qobject_cast<frmSection *>(QApplication::activeModalWidget());
+        auto *editor = qobject_cast<frmScreen *>(QApplication::activeModalWidget());
         if (!editor)
             fail("The editor of an item did not open.");
         opened.wait();
@@ -144,8 +144,8 @@ void round(int items, clsTimes &times)
         clsPaintWatch opened("frmScheduleOfTime");
         QElapsedTimer timer;
         timer.start();
-        const std::unique_ptr<frmSection> screen(
-            dynamic_cast<frmSection *>(mdCreateScreen(QStringLiteral("Schedule of Time"), nullptr)));
+        const std::unique_ptr<frmScreen> screen(
+            dynamic_cast<frmScreen *>(mdCreateScreen(QStringLiteral("Schedule of Time"), nullptr)));
         screen->show();
         opened.wait();
         times.open.push_back(milliseconds(timer));

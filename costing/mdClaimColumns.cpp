@@ -3,7 +3,7 @@
 #include "base/clsRunTimeError.h"
 #include "costing/clsBill.h"
 #include "costing/mdBillFigures.h"
-#include "formdata/clsOnBill.h"
+#include "formdata/clsBillFilter.h"
 #include "formdata/clsZR3Form.h"
 
 #include <algorithm>
@@ -25,7 +25,7 @@ QString clientOf(const clsZR3Form &form)
 std::optional<int> itemsOnBill(const clsZR3Form &form)
 {
     try {
-        clsOnBill isOnBill(form);
+        clsBillFilter isOnBill(form);
         const auto &items = form.ScheduleOfTimeItemsCollection();
         return int(std::count_if(items.begin(), items.end(), [&](const auto &item) { return isOnBill(*item); }));
     } catch (const clsRunTimeError &) {

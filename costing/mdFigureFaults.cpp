@@ -1,8 +1,8 @@
 #include "costing/mdFigureFaults.h"
 
 #include "base/Money.h"
-#include "base/mdExisting.h"
 #include "base/mdNumberText.h"
+#include "base/mdRequired.h"
 #include "base/mdTimeFormatting.h"
 #include "base/mdTimeToMoney.h"
 #include "base/mdTrimmedOfBlanks.h"
@@ -226,9 +226,9 @@ bool canBePriced(const clsZR3Form &form, const Item &item)
 {
     try {
         const auto group = item.FeeEarnerGroup();
-        clsGroupRates rates(mdExisting(group));
-        const Money basic = TimeToMoney(item.TTime(), item.RateBy(rates, item.TimeColumn()));
-        item.ClaimBy(basic, item.TotalEnhancementPercentageBy(rates));
+        clsGroupRates rates(mdRequired(group));
+        const Money basic = TimeToMoney(item.TTime(), item.rateFrom(rates, item.TimeColumn()));
+        item.claimFrom(basic, item.totalEnhancementPercentageFrom(rates));
         form.IsOnBill(item);
         return true;
     } catch (const clsRunTimeError &) {

@@ -4,7 +4,7 @@
 #include "base/mdTimeFormatting.h"
 #include "costing/mdFigureFaults.h"
 #include "costing/mdGetFASTotals.h"
-#include "formdata/clsOnBill.h"
+#include "formdata/clsBillFilter.h"
 #include "formdata/clsSchedulePrices.h"
 
 namespace {
@@ -90,7 +90,7 @@ private:
 template <class Items> clsColumnTotals totalsOf(const clsZR3Form &form, clsSchedulePrices &prices, const Items &items)
 {
     clsTotalling totalling;
-    clsOnBill isOnBill(form);
+    clsBillFilter isOnBill(form);
     try {
         for (const auto &item : items)
             if (isOnBill(*item))

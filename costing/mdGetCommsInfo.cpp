@@ -1,8 +1,8 @@
 #include "costing/mdGetCommsInfo.h"
 
-#include "base/mdExisting.h"
 #include "base/mdNumberText.h"
 #include "base/mdPercentageCalculate.h"
+#include "base/mdRequired.h"
 #include "base/mdSumOf.h"
 #include "costing/mdFigureFaults.h"
 #include "costing/mdGetColumnTotals.h"
@@ -63,7 +63,7 @@ void walkGroups(const Form &form, const clsByGroup &feeEarners, const KindRow &k
 {
     for (int n = 1; n <= int(form.FeeEarnerGroupsCollection().size()); ++n) {
         const auto group = form.FeeEarnerGroupByOrderID(n);
-        const Group &candidate = mdExisting(group);
+        const Group &candidate = mdRequired(group);
         // Counted even without a rate: a sum beyond 32 bits is always an error.
         const int count = SumOfCounts(candidate, feeEarners.value(candidate.UniqueID()), kind.count);
         if (isEnough(clsCommsGroup {group, count, TextValue(kind.rate(candidate)) > 0}))

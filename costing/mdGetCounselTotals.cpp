@@ -1,6 +1,6 @@
 #include "costing/mdGetCounselTotals.h"
 
-#include "base/mdExisting.h"
+#include "base/mdRequired.h"
 #include "base/mdSumOf.h"
 #include "costing/mdFigureFaults.h"
 #include "formdata/clsZR3Form.h"
@@ -24,7 +24,7 @@ std::shared_ptr<clsZR3Counsel> counselAtLine(const clsZR3Form &form, int positio
     if (number < 2 || position > number)
         return {};
     const auto counsel = form.CounselByOrderID(position);
-    mdExisting(counsel);
+    mdRequired(counsel);
     return counsel;
 }
 

@@ -2,7 +2,7 @@
 
 #include "base/clsJsonWriter.h"
 #include "base/clsRunTimeError.h"
-#include "base/mdExisting.h"
+#include "base/mdRequired.h"
 #include "costing/clsBill.h"
 #include "costing/mdBillFigures.h"
 #include "costing/mdCheckForBlankItems.h"
@@ -10,7 +10,7 @@
 #include "costing/mdGetColumnTotals.h"
 #include "costing/mdGetCommsInfo.h"
 #include "costing/mdGetCounselTotals.h"
-#include "formdata/clsOnBill.h"
+#include "formdata/clsBillFilter.h"
 
 namespace {
 
@@ -73,7 +73,7 @@ private:
 
     void figures(std::span<const clsBillFigure> rows);
     void scheduleItems();
-    void scheduleItem(int orderID, const clsZR3ScheduleOfTimeItem &item, clsOnBill &isOnBill);
+    void scheduleItem(int orderID, const clsZR3ScheduleOfTimeItem &item, clsBillFilter &isOnBill);
     void fasItems();
     void communications();
     void communicationLine(int line, clsCommsKind kind);
@@ -118,18 +118,18 @@ void Report::figures(std::span<const clsBillFigure> rows)
 void Report::scheduleItems()
 {
     constexpr qsizetype BytesOfItem = 240;
-    clsOnBill isOnBill(m_form);
+    clsBillFilter isOnBill(m_form);
     const int count = int(m_form.ScheduleOfTimeItemsCollection().size());
     m_json.expect(count * BytesOfItem);
     m_json.beginArray("ScheduleItems");
     for (int n = 1; n <= count; ++n) {
         m_bill.prices().fetch(m_form.ScheduleOfTimeItemByOrderID(n + 2).get());
-        scheduleItem(n, mdExisting(m_form.ScheduleOfTimeItemByOrderID(n)), isOnBill);
+        scheduleItem(n, mdRequired(m_form.ScheduleOfTimeItemByOrderID(n)), isOnBill);
     }
     m_json.endArray();
 }
 
-void Report::scheduleItem(int orderID, const clsZR3ScheduleOfTimeItem &item, clsOnBill &isOnBill)
+void Report::scheduleItem(int orderID, const clsZR3ScheduleOfTimeItem &item, clsBillFilter &isOnBill)
 {
     const clsSchedulePrice &price = m_bill.prices().of(item);
     using Price = clsSchedulePrice;

@@ -1,12 +1,12 @@
 #include "editors/clsFeeEarnerKeys.h"
 
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/oFeeEarnerCombo.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 
-clsFeeEarnerKeys::clsFeeEarnerKeys(frmSection &screen)
+clsFeeEarnerKeys::clsFeeEarnerKeys(frmScreen &screen)
     : QObject(&screen)
     , m_screen(screen)
 {

@@ -7,7 +7,7 @@
 #include "controls/oCustomButton.h"
 #include "controls/oFindLine.h"
 #include "controls/oSGrid.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/mdConfirmDelete.h"
 #include "editors/mdEditItem.h"
 #include "editors/mdEditedForm.h"
@@ -29,7 +29,7 @@ constexpr int SectionIcons = 12;
 
 } // namespace
 
-clsListActions::clsListActions(frmSection &screen, const clsItemList &list, oSGrid &grid, oCustomButton *add)
+clsListActions::clsListActions(frmScreen &screen, const clsItemList &list, oSGrid &grid, oCustomButton *add)
     : QObject(&grid)
     , m_screen(screen)
     , m_list(list)
@@ -179,7 +179,7 @@ void clsListActions::openEditor(std::shared_ptr<clsXMLRecord> item, clsXMLRecord
         return stepOf(item ? "Edit" : "Add", stored || item ? last : nullptr);
     };
     RunStep([&] {
-        const bool saved = mdEditItem(&m_screen, m_list.editor(), item.get(), [&](frmSection &editor) {
+        const bool saved = mdEditItem(&m_screen, m_list.editor(), item.get(), [&](frmScreen &editor) {
             if (like)
                 editor.StartLike(*like);
             editor.setAdded([&] {

@@ -15,7 +15,7 @@ class clsListActions : public QObject {
 
 public:
     /// `add` is the list's button, or null.
-    clsListActions(frmSection &screen, const clsItemList &list, oSGrid &grid, oCustomButton *add);
+    clsListActions(frmScreen &screen, const clsItemList &list, oSGrid &grid, oCustomButton *add);
 
     /// Sets up the columns, shows the items and selects the first.
     void draw();
@@ -59,7 +59,7 @@ private:
     void tellWhatCanBeAdded();
     oFindLine &findLine() const;
 
-    frmSection &m_screen;
+    frmScreen &m_screen;
     const clsItemList &m_list;
     oSGrid &m_grid;
     oCustomButton *m_add;

@@ -13,7 +13,7 @@
 class QWidget;
 class clsXMLRecord;
 class clsZR3Item;
-class frmSection;
+class frmScreen;
 class oSGrid;
 struct clsPasteList;
 struct clsScreen;
@@ -74,7 +74,7 @@ struct clsItemColumn {
 struct clsItemAction {
     const char *name; ///< object name
     const char *caption;
-    void (*run)(frmSection &screen); ///< all lists of the screen are redrawn after it
+    void (*run)(frmScreen &screen); ///< all lists of the screen are redrawn after it
     Glyph glyph = Glyph::None;
 };
 
@@ -102,7 +102,7 @@ struct clsItemList {
     clsListTotal (*sum)(const clsMarkedItems &) = nullptr; ///< the total of the marked rows
     std::vector<const char *> changes {}; ///< the editor's fields that can be set for all marked rows at once
     /// Asks for one of those fields and its value, and sets it; returns the step's name, empty if cancelled.
-    QString (*change)(frmSection &owner, const clsItemList &list, clsZR3Item &selected, const clsMarkedItems &marked)
+    QString (*change)(frmScreen &owner, const clsItemList &list, clsZR3Item &selected, const clsMarkedItems &marked)
         = nullptr;
     const clsPasteList &(*paste)() = nullptr; ///< how rows of tables are imported and copied
 };
@@ -181,7 +181,7 @@ struct clsScreen {
     const char *section = nullptr; ///< the section's text, if the screen has Prev and Next
     clsXMLRecord *(*record)() = nullptr; ///< the record of a section; an item's editor gets its item instead
     std::vector<clsScreenFrame> frames {};
-    void (*rules)(frmSection &screen) = nullptr; ///< run once, before the controls are filled
+    void (*rules)(frmScreen &screen) = nullptr; ///< run once, before the controls are filled
     std::vector<clsScreenJump> jumps {};
     const char *itemWord = nullptr; ///< in an item's editor: the item's name in questions
     clsXMLRecord *(*add)() = nullptr; ///< in an item's editor opened without an item: creates it on the first Save

@@ -4,7 +4,7 @@
 #include "controls/oSGrid.h"
 #include "editors/clsEditMenu.h"
 #include "editors/clsItemChoice.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/mdBringBack.h"
 #include "editors/mdFieldDiffers.h"
 #include "editors/mdPasteItems.h"
@@ -20,7 +20,7 @@ namespace {
 /// The choices on a screen, and the fields that the user hasn't changed since they were filled.
 class clsUntouched {
 public:
-    clsUntouched(frmSection &screen, std::set<const QWidget *> &changed)
+    clsUntouched(frmScreen &screen, std::set<const QWidget *> &changed)
         : m_screen(screen)
     {
         for (const clsScreenField &field : screen.Fields()) {
@@ -45,14 +45,14 @@ public:
     }
 
 private:
-    frmSection &m_screen;
+    frmScreen &m_screen;
     std::vector<clsScreenField> m_fields;
     std::vector<std::pair<clsItemChoice *, QString>> m_choices;
 };
 
 } // namespace
 
-clsScreenUndo::clsScreenUndo(frmSection &screen, QMenuBar &menus, oListLine &line)
+clsScreenUndo::clsScreenUndo(frmScreen &screen, QMenuBar &menus, oListLine &line)
     : QObject(&screen)
     , m_screen(screen)
     , m_line(line)
@@ -73,7 +73,7 @@ clsScreenUndo::clsScreenUndo(frmSection &screen, QMenuBar &menus, oListLine &lin
     // After "File".
     menus.insertMenu(menus.actions().value(1), edit);
     connect(&m_line, &oListLine::Taken, this, &clsScreenUndo::bringBack);
-    connect(&m_screen, &frmSection::Loaded, this, &clsScreenUndo::OfferNotStored);
+    connect(&m_screen, &frmScreen::Loaded, this, &clsScreenUndo::OfferNotStored);
     for (const clsScreenField &field : m_screen.Fields())
         if (auto *grid = qobject_cast<oSGrid *>(field.control))
             // Queued, to run after the editor that it opens has closed.

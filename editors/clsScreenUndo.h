@@ -8,7 +8,7 @@ class QMenuBar;
 class QWidget;
 class clsHistory;
 class clsZR3Item;
-class frmSection;
+class frmScreen;
 class oListLine;
 
 /// Undo and Redo on a screen with a list of the claim: the menu "Edit", reloading the screen after a step, and the line
@@ -17,7 +17,7 @@ class clsScreenUndo : public QObject {
     Q_OBJECT
 
 public:
-    clsScreenUndo(frmSection &screen, QMenuBar &menus, oListLine &line);
+    clsScreenUndo(frmScreen &screen, QMenuBar &menus, oListLine &line);
 
     /// Shows in the line what the last step has deleted.
     void TellDeleted(const QString &what);
@@ -32,7 +32,7 @@ private:
     void run(Turn turn, About about);
     void bringBack();
 
-    frmSection &m_screen;
+    frmScreen &m_screen;
     oListLine &m_line;
     std::set<const QWidget *> m_changed; ///< fields found to contain changes by the user
 };

@@ -7,7 +7,7 @@
 #include "controls/oDecimalBox.h"
 #include "costing/mdGetColumnTotals.h"
 #include "costing/mdGetCommsInfo.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
 
@@ -29,7 +29,7 @@ constexpr clsLoadFromBill LoadFromBill[] = {
 
 /// Overwrites typed amounts without asking; nothing is stored before Save. The VAT is computed from the amount as shown
 /// in the box, whether or not the claim charges VAT.
-void loadFromBill(const frmSection &screen, const clsLoadFromBill &row)
+void loadFromBill(const frmScreen &screen, const clsLoadFromBill &row)
 {
     auto &profitCosts = screen.Box<oDecimalBox>(row.profitCosts);
     const Money all = ProfitCostsTotal(*Form);
@@ -46,7 +46,7 @@ void loadFromBill(const frmSection &screen, const clsLoadFromBill &row)
         oBoxNote::Clear(profitCosts);
 }
 
-void rules(frmSection &screen)
+void rules(frmScreen &screen)
 {
     for (const clsLoadFromBill &row : LoadFromBill)
         QObject::connect(&screen.Box<oCustomButton>(row.button), &oCustomButton::Click, &screen,

@@ -3,7 +3,7 @@
 #include "controls/oAllPurposeBox.h"
 #include "controls/oHeaderBar.h"
 #include "costing/tables/mdCodeWordsFile.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/mdEditCodeWords.h"
 #include "editors/mdEditItem.h"
 #include "formdata/clsXMLRecord.h"
@@ -64,7 +64,7 @@ private:
 };
 
 /// The words changed by the user.
-QHash<QString, QString> changesIn(const frmSection &screen, const clsCodeWords &words)
+QHash<QString, QString> changesIn(const frmScreen &screen, const clsCodeWords &words)
 {
     QHash<QString, QString> changes;
     for (const QString &code : mdScheduleOfTimeCodesCollection()) {
@@ -139,7 +139,7 @@ const clsScreen &ScreenCodeWords()
 bool mdEditCodeWords(QWidget *owner, const clsCodeWords &words)
 {
     clsEditedCodes edited(words);
-    return mdEditItem(owner, ScreenCodeWords(), &edited, [&](frmSection &screen) {
+    return mdEditItem(owner, ScreenCodeWords(), &edited, [&](frmScreen &screen) {
         if (const QString wrong = words.wrongLinesInWords(); !wrong.isEmpty())
             screen.findChild<oHeaderBar *>(QStringLiteral("oHeader"))->setSubCaption(wrong);
         screen.setMayStore([&] {

@@ -5,7 +5,7 @@
 #include "base/mdProgramFolder.h"
 #include "controls/oSGrid.h"
 #include "editors/clsPasteList.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/mdCountComms.h"
 #include "editors/mdEditItem.h"
 #include "editors/oEnhancementsBox.h"
@@ -23,7 +23,7 @@ constexpr int CallsColumn = 3;
 constexpr char HowToCount[] = "C, I and O count a call, a letter in and a letter out; with Shift, down.\n"
                               "A right click in a column does the same. Return or a double click types the figures.";
 
-oSGrid &gridOf(const frmSection &screen)
+oSGrid &gridOf(const frmScreen &screen)
 {
     return screen.Box<oSGrid>("sgCommunications");
 }
@@ -65,7 +65,7 @@ void mouseUp(oSGrid &grid, Qt::MouseButton button, Qt::KeyboardModifiers shift, 
 }
 
 /// Opens the editor of counts in the field of the column; does nothing for the column of names.
-void typeCounts(frmSection &screen, int feeEarner, int column)
+void typeCounts(frmScreen &screen, int feeEarner, int column)
 {
     const clsCommsCount *what = mdCommsCountAtColumn(column);
     if (!what)
@@ -73,7 +73,7 @@ void typeCounts(frmSection &screen, int feeEarner, int column)
     const auto item = Form->FeeEarner(feeEarner);
     RunStep(QStringLiteral("Correspondences ") + item->Reference(), [&] {
         mdEditItem(&screen, ScreenCorrespondences(), item.get(),
-            [what](frmSection &editor) { editor.Box(what->field).setFocus(Qt::TabFocusReason); });
+            [what](frmScreen &editor) { editor.Box(what->field).setFocus(Qt::TabFocusReason); });
         gridOf(screen).Redraw(false);
     });
     gridOf(screen).setFocus(Qt::OtherFocusReason);
@@ -88,7 +88,7 @@ void selectTypedRow(oSGrid &grid, const QString &text)
         grid.SelectRow(row);
 }
 
-void rules(frmSection &screen)
+void rules(frmScreen &screen)
 {
     oSGrid &grid = gridOf(screen);
     QObject::connect(&grid, &oSGrid::KeyDown, &screen,
@@ -107,7 +107,7 @@ void rules(frmSection &screen)
     // For the headings; cells have their own tooltips.
     grid.setToolTip(QString::fromUtf8(HowToCount));
     grid.setAccessibleDescription(QString::fromUtf8(HowToCount));
-    QObject::connect(&screen, &frmSection::Loaded, &screen, [&grid] { grid.SelectColumn(CallsColumn); });
+    QObject::connect(&screen, &frmScreen::Loaded, &screen, [&grid] { grid.SelectColumn(CallsColumn); });
 }
 
 /// In the user's order. The grid's own sort compares texts and would put the tenth before the second.

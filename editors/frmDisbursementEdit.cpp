@@ -7,7 +7,7 @@
 
 namespace {
 
-void rules(frmSection &screen)
+void rules(frmScreen &screen)
 {
     mdCalculateVATByButton(screen, "txtAmount", "txtVAT");
 }

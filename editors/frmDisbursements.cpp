@@ -2,7 +2,7 @@
 
 #include "controls/oSGrid.h"
 #include "editors/clsPasteList.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/mdChangeSelected.h"
 #include "editors/mdItemFaults.h"
 #include "formdata/clsZR3Form.h"
@@ -89,9 +89,9 @@ const clsItemList OtherDisbursements {
 };
 // clang-format on
 
-void rules(frmSection &screen)
+void rules(frmScreen &screen)
 {
-    QObject::connect(&screen, &frmSection::Stored, &screen, separate);
+    QObject::connect(&screen, &frmScreen::Stored, &screen, separate);
 }
 
 } // namespace

@@ -6,7 +6,7 @@
 
 namespace {
 
-void rules(frmSection &screen)
+void rules(frmScreen &screen)
 {
     mdCalculateVATByButton(screen, "txtNetAmount", "txtVATAmount");
 }

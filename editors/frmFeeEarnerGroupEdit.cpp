@@ -5,7 +5,7 @@
 #include "controls/oCustomButton.h"
 #include "controls/oDecimalBox.h"
 #include "controls/oTypeAheadBox.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/mdEditedForm.h"
 #include "editors/mdLoadMenuFromCollection.h"
 #include "editors/mdPeopleLists.h"
@@ -48,7 +48,7 @@ void storeName(const clsScreenRow &, const QWidget &control, clsXMLRecord &recor
 constexpr clsOtherControl Name {makeName, loadName, storeName};
 
 /// Without an enhancement, its rate and the one for communications don't apply.
-void enhanceChanged(const frmSection &screen, bool enhance)
+void enhanceChanged(const frmScreen &screen, bool enhance)
 {
     auto &rate = screen.Box<oDecimalBox>("txtEnhancementRate");
     auto &communications = screen.Box<oCheckBox>("chkEnhanceComms");
@@ -61,7 +61,7 @@ void enhanceChanged(const frmSection &screen, bool enhance)
 }
 
 /// Copies the rates of a rate set to the boxes with their names; the group itself doesn't change.
-void loadRateSet(const frmSection &screen, const clsZR3RateSet &rateSet)
+void loadRateSet(const frmScreen &screen, const clsZR3RateSet &rateSet)
 {
     for (const clsScreenField &field : screen.Fields())
         if (auto *box = qobject_cast<oDecimalBox *>(field.control))
@@ -70,7 +70,7 @@ void loadRateSet(const frmSection &screen, const clsZR3RateSet &rateSet)
 }
 
 /// The menu is filled whenever it opens, so that it shows the current rate sets.
-void makeRateSetMenu(frmSection &screen)
+void makeRateSetMenu(frmScreen &screen)
 {
     auto *menu = new QMenu(&screen);
     menu->setObjectName(QStringLiteral("mnuRateSets"));
@@ -87,7 +87,7 @@ void makeRateSetMenu(frmSection &screen)
     });
 }
 
-void rules(frmSection &screen)
+void rules(frmScreen &screen)
 {
     QObject::connect(&screen.Box<oCheckBox>("chkEnhance"), &oCheckBox::Click, &screen,
         [&screen](bool enhance) { enhanceChanged(screen, enhance); });

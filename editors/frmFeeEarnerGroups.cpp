@@ -2,7 +2,7 @@
 
 #include "base/mdCustomMessages.h"
 #include "controls/oSGrid.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/mdEditedForm.h"
 #include "editors/mdItemFaults.h"
 #include "editors/mdPeopleLists.h"
@@ -32,7 +32,7 @@ QStringList emptyGroups()
 }
 
 /// For a firm with one group for each person: each empty group gets a fee earner with the group's name.
-void createFeeEarners(frmSection &)
+void createFeeEarners(frmScreen &)
 {
     const QStringList references = emptyGroups();
     if (references.isEmpty()) {

@@ -4,7 +4,7 @@
 #include "controls/mdShowModal.h"
 #include "controls/oCheckBox.h"
 #include "controls/oDecimalBox.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/mdEditedForm.h"
 #include "editors/mdPeopleLists.h"
 #include "editors/mdScreens.h"
@@ -30,7 +30,7 @@ const clsScreen &screenCounsel()
     return screen;
 }
 
-void rules(frmSection &screen)
+void rules(frmScreen &screen)
 {
     QObject::connect(&screen.Box<oCheckBox>("chkVAT"), &oCheckBox::Click, &screen,
         [&screen](bool checked) { screen.Box("txtVATRate").setEnabled(checked); });
@@ -38,7 +38,7 @@ void rules(frmSection &screen)
 
 // Values outside the solicitor's details, which the screen's record doesn't hold.
 
-void load(const frmSection &screen, const clsFirm &firm)
+void load(const frmScreen &screen, const clsFirm &firm)
 {
     screen.Box<oCheckBox>("chkVAT").setChecked(firm.form.VAT());
     screen.Box<oDecimalBox>("txtVATRate").setText(firm.form.VATRate());
@@ -46,7 +46,7 @@ void load(const frmSection &screen, const clsFirm &firm)
     screen.Box<oCheckBox>("chkFillNewClaims").setChecked(firm.fillsNewClaims);
 }
 
-void store(const frmSection &screen, clsFirm &firm)
+void store(const frmScreen &screen, clsFirm &firm)
 {
     firm.form.VAT = screen.Box<oCheckBox>("chkVAT").isChecked();
     firm.form.VATRate = screen.Box<oDecimalBox>("txtVATRate").Text();
@@ -110,8 +110,8 @@ bool mdShowFirmAndTeam(QWidget *owner)
         return false;
     const QByteArray before = mdFirmAsCsv(*firm);
     const clsEditedFormScope edited(firm->form);
-    frmSection screen(ScreenFirmAndTeam(), owner);
-    QObject::connect(&screen, &frmSection::Loaded, &screen, [&] { load(screen, *firm); });
+    frmScreen screen(ScreenFirmAndTeam(), owner);
+    QObject::connect(&screen, &frmScreen::Loaded, &screen, [&] { load(screen, *firm); });
     bool kept = false;
     // Before the screen closes, so that nothing is lost if the file can't be written.
     screen.setMayStore([&] {

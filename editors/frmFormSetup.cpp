@@ -2,7 +2,7 @@
 
 #include "controls/oCheckBox.h"
 #include "controls/oDecimalBox.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
 
@@ -16,7 +16,7 @@ QStringList formTypes()
 }
 
 /// Claim1 has ten pages. The ticks of the other pages keep their state while disabled, and are stored.
-void formTypeChanged(const frmSection &screen)
+void formTypeChanged(const frmScreen &screen)
 {
     const QString type = screen.Box<QComboBox>("cmbFormType").currentText();
     if (type != QLatin1String("Claim1") && type != QLatin1String("Claim1A"))
@@ -25,7 +25,7 @@ void formTypeChanged(const frmSection &screen)
         screen.Box(page).setEnabled(type == QLatin1String("Claim1A"));
 }
 
-void rules(frmSection &screen)
+void rules(frmScreen &screen)
 {
     QObject::connect(&screen.Box<QComboBox>("cmbFormType"), &QComboBox::currentIndexChanged, &screen,
         [&screen] { formTypeChanged(screen); });
@@ -34,8 +34,8 @@ void rules(frmSection &screen)
     QObject::connect(&screen.Box<oCheckBox>("chkVAT"), &oCheckBox::Click, &screen,
         [&screen](bool checked) { screen.Box("txtVATRate").setEnabled(checked); });
     // Every export includes the first page, whatever the file says.
-    QObject::connect(&screen, &frmSection::Loaded, &screen,
-        [&screen] { screen.Box<oCheckBox>("chkIncludePage1").setChecked(true); });
+    QObject::connect(
+        &screen, &frmScreen::Loaded, &screen, [&screen] { screen.Box<oCheckBox>("chkIncludePage1").setChecked(true); });
 }
 
 } // namespace

@@ -6,14 +6,14 @@
 #include "controls/oCheckBox.h"
 #include "controls/oCustomButton.h"
 #include "controls/oSGrid.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/oSpellingNote.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
 #include "formdata/mdGlobals.h"
 
 namespace {
 
-void browse(const frmSection &screen)
+void browse(const frmScreen &screen)
 {
     auto &box = screen.Box<oAllPurposeBox>("txtAutoBackupPath");
     const QString folder = GetFolder(QStringLiteral("Please select a folder to backup to..."), box.Text());
@@ -21,7 +21,7 @@ void browse(const frmSection &screen)
         box.setText(folder);
 }
 
-void rules(frmSection &screen)
+void rules(frmScreen &screen)
 {
     // The tick has no other effect: the path is stored and used for backups whether or not it is set.
     QObject::connect(&screen.Box<oCheckBox>("chkAutoBackup"), &oCheckBox::Click, &screen,
@@ -29,7 +29,7 @@ void rules(frmSection &screen)
     QObject::connect(&screen.Box<oCustomButton>("cmdAutoBackupPathBrowse"), &oCustomButton::Click, &screen,
         [&screen] { browse(screen); });
     // The only place that writes the preferences to disk, including the lists, which change at once.
-    QObject::connect(&screen, &frmSection::Stored, &screen, [] { Preferences->SaveXML(); });
+    QObject::connect(&screen, &frmScreen::Stored, &screen, [] { Preferences->SaveXML(); });
 }
 
 QWidget *makeSpellingNote(const clsScreenRow &, QWidget *parent)

@@ -3,7 +3,7 @@
 #include "base/Money.h"
 #include "base/mdNumberText.h"
 #include "controls/oDecimalBox.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/mdConnectCalculate.h"
 #include "editors/mdRateRows.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
@@ -28,14 +28,14 @@ constexpr clsShare Shares[] = {
 };
 // clang-format on
 
-void calculate(const frmSection &screen)
+void calculate(const frmScreen &screen)
 {
     const double hourly = MoneyFromDouble(TextValue(screen.Box<oDecimalBox>("txtHourly").Text())).toDouble();
     for (const clsShare &share : Shares)
         screen.Box<oDecimalBox>(share.control).setText(MoneyToText(RoundMoney2(hourly * share.factor)));
 }
 
-void rules(frmSection &screen)
+void rules(frmScreen &screen)
 {
     mdConnectCalculate(screen, [&screen] { calculate(screen); });
 }

@@ -2,14 +2,14 @@
 
 #include "base/mdCustomMessages.h"
 #include "controls/oAllPurposeBox.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
 #include "formdata/mdGlobals.h"
 #include "formdata/mdReplacements.h"
 
 namespace {
 
-bool mayStore(const frmSection &screen)
+bool mayStore(const frmScreen &screen)
 {
     auto &inputText = screen.Box<oAllPurposeBox>("txtInputText");
     if (IsValidInputText(inputText.Text()))
@@ -20,7 +20,7 @@ bool mayStore(const frmSection &screen)
     return false;
 }
 
-void rules(frmSection &screen)
+void rules(frmScreen &screen)
 {
     screen.setMayStore([&screen] { return mayStore(screen); });
 }

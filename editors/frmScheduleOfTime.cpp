@@ -2,7 +2,7 @@
 
 #include "controls/oSGrid.h"
 #include "editors/clsPasteList.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/mdChangeSelected.h"
 #include "editors/mdItemAmounts.h"
 #include "editors/mdItemFaults.h"
@@ -62,10 +62,10 @@ const clsItemList ScheduleItems {
 };
 // clang-format on
 
-void rules(frmSection &screen)
+void rules(frmScreen &screen)
 {
     // The bill depends on the tick and on the order of the items.
-    QObject::connect(&screen, &frmSection::Stored, &screen, renderForBill);
+    QObject::connect(&screen, &frmScreen::Stored, &screen, renderForBill);
 }
 
 } // namespace

@@ -4,7 +4,7 @@
 #include "controls/oDateBox.h"
 #include "controls/oTimeBox.h"
 #include "editors/clsFeeEarnerKeys.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/mdDateIsGiven.h"
 #include "editors/oCodeCombo.h"
 #include "editors/oCodeNote.h"
@@ -56,7 +56,7 @@ const clsOtherControl Code {
     .store = storeCode,
 };
 
-void rules(frmSection &screen)
+void rules(frmScreen &screen)
 {
     new clsFeeEarnerKeys(screen);
     screen.setMayStore([&screen] { return mdDateIsGiven(screen.Box<oDateBox>("txtDate")); });
@@ -67,7 +67,7 @@ void rules(frmSection &screen)
             useHourlyRate.setChecked(false);
     });
     // A new time starts with a colon: without one the item could not be priced.
-    QObject::connect(&screen, &frmSection::Loaded, &screen, [&screen] {
+    QObject::connect(&screen, &frmScreen::Loaded, &screen, [&screen] {
         auto &time = screen.Box<oTimeBox>("txtTime");
         if (time.Text().isEmpty())
             time.setText(QStringLiteral("00:00"));

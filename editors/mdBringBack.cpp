@@ -4,7 +4,7 @@
 #include "controls/oCustomButton.h"
 #include "controls/oSGrid.h"
 #include "controls/oTypedText.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/mdEnterField.h"
 #include "editors/mdFieldDiffers.h"
 #include "editors/mdFieldTexts.h"
@@ -60,7 +60,7 @@ template <class Condition> const clsTypedTexts *latest(Condition condition)
     return found == all.rend() ? nullptr : &*found;
 }
 
-const clsScreenField *fieldOf(const frmSection &screen, const QString &property)
+const clsScreenField *fieldOf(const frmScreen &screen, const QString &property)
 {
     for (const clsScreenField &field : screen.Fields())
         if (mdIsControl(*field.row) && mdMemberOf(*field.row) == property)
@@ -70,7 +70,7 @@ const clsScreenField *fieldOf(const frmSection &screen, const QString &property)
 
 /// Each box reformats its text as on leaving it. The focus goes to the first box with invalid text, which holds it as
 /// if the user had just typed it, otherwise to the first box.
-void enter(const frmSection &screen, const std::vector<const clsScreenField *> &fields)
+void enter(const frmScreen &screen, const std::vector<const clsScreenField *> &fields)
 {
     const auto refuses = [](const clsScreenField *field) {
         auto *typed = field->control->findChild<oTypedText *>();
@@ -82,7 +82,7 @@ void enter(const frmSection &screen, const std::vector<const clsScreenField *> &
     mdEnterField(*fields.front()->control);
 }
 
-void putBack(frmSection &screen, const clsTypedTexts &texts)
+void putBack(frmScreen &screen, const clsTypedTexts &texts)
 {
     std::vector<const clsScreenField *> put;
     for (const auto &[property, text] : texts.fields)
@@ -90,7 +90,7 @@ void putBack(frmSection &screen, const clsTypedTexts &texts)
             mdPutFieldText(*field, text);
             put.push_back(field);
         }
-    QObject::connect(&screen, &frmSection::Stored, &screen, [name = texts.screen] { NotStored().forget(name); });
+    QObject::connect(&screen, &frmScreen::Stored, &screen, [name = texts.screen] { NotStored().forget(name); });
     enter(screen, put);
 }
 
@@ -110,7 +110,7 @@ int indexOf(const oSGrid &grid, const clsTypedTexts &texts)
 }
 
 /// Does the same as a double click on the item's row or the button "Add". Returns when the editor is closed.
-void openEditor(frmSection &screen, size_t list, const clsTypedTexts &texts)
+void openEditor(frmScreen &screen, size_t list, const clsTypedTexts &texts)
 {
     const clsScreenField &field = screen.Fields()[list];
     mdOpenPageOf(screen, field);
@@ -138,7 +138,7 @@ bool comesBack(const clsTypedTexts &texts)
 
 } // namespace
 
-void mdKeepNotStored(const frmSection &screen)
+void mdKeepNotStored(const frmScreen &screen)
 {
     clsTypedTexts texts = mdTypedIn(screen);
     // Fields that Undo has reloaded since the screen was filled were not typed.
@@ -157,7 +157,7 @@ const clsTypedTexts *mdLatestNotStored()
     return latest(comesBack);
 }
 
-const clsTypedTexts *mdLatestNotStored(const frmSection &list)
+const clsTypedTexts *mdLatestNotStored(const frmScreen &list)
 {
     return latest([&](const clsTypedTexts &texts) { return holdsListOf(list.Screen(), texts.screen); });
 }
@@ -190,15 +190,15 @@ bool mdIsCostsLimit(const clsTypedTexts &texts)
 void mdPutBackWhenShown(QWidget &below, const clsTypedTexts &texts)
 {
     QTimer::singleShot(0, &below, [owner = &below, texts] {
-        auto *editor = qobject_cast<frmSection *>(QApplication::activeModalWidget());
+        auto *editor = qobject_cast<frmScreen *>(QApplication::activeModalWidget());
         if (editor && editor != owner && editor->objectName() == texts.screen)
             putBack(*editor, texts);
     });
 }
 
-std::function<void(frmSection &screen)> mdWayBack(const clsTypedTexts &texts)
+std::function<void(frmScreen &screen)> mdWayBack(const clsTypedTexts &texts)
 {
-    return [texts](frmSection &screen) {
+    return [texts](frmScreen &screen) {
         if (screen.objectName() == texts.screen)
             return putBack(screen, texts);
         const std::vector<clsScreenField> &fields = screen.Fields();

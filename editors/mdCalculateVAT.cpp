@@ -3,7 +3,7 @@
 #include "base/Money.h"
 #include "base/mdNumberText.h"
 #include "controls/oDecimalBox.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/mdConnectCalculate.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
@@ -33,7 +33,7 @@ void mdCalculateVAT(const oDecimalBox &netBox, oDecimalBox &vatBox)
     vatBox.setText(QString::number(product, 'f', QLocale::FloatingPointShortest));
 }
 
-void mdCalculateVATByButton(frmSection &screen, const char *netBox, const char *vatBox)
+void mdCalculateVATByButton(frmScreen &screen, const char *netBox, const char *vatBox)
 {
     const auto &net = screen.Box<oDecimalBox>(netBox);
     auto &vat = screen.Box<oDecimalBox>(vatBox);

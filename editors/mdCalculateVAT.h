@@ -1,6 +1,6 @@
 #pragma once
 
-class frmSection;
+class frmScreen;
 class oDecimalBox;
 
 /// Writes the VAT on the net box's amount, at the claim's rate, to the other box. Raises the type error if the rate is
@@ -9,4 +9,4 @@ void mdCalculateVAT(const oDecimalBox &netBox, oDecimalBox &vatBox);
 
 /// Connects the screen's button "Calculate" to that for the named boxes. Only the box changes, so that the user can
 /// overtype the result and save any VAT.
-void mdCalculateVATByButton(frmSection &screen, const char *netBox, const char *vatBox);
+void mdCalculateVATByButton(frmScreen &screen, const char *netBox, const char *vatBox);

@@ -4,7 +4,7 @@
 #include "controls/oDateBox.h"
 #include "controls/oTypedText.h"
 #include "editors/clsFeeEarnerKeys.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/mdCheckForBlanks.h"
 #include "editors/mdDateIsGiven.h"
 #include "editors/mdEditItem.h"
@@ -60,7 +60,7 @@ public:
     clsChange(const clsItemList &list, const clsMarkedItems &marked);
 
     const clsScreen &screen() const { return m_screen; }
-    void prepare(frmSection &screen, clsZR3Item &selected);
+    void prepare(frmScreen &screen, clsZR3Item &selected);
     /// The name of the changed field, such as "Fee Earner".
     QString caption() const { return captionOf(*m_rows[m_chosen]); }
 
@@ -69,10 +69,10 @@ private:
     {
         return QString::fromUtf8(row.caption).remove(u':').remove(u'*');
     }
-    const clsScreenField &chosenField(const frmSection &screen) const;
-    void choose(const frmSection &screen, int place);
-    bool mayChange(const frmSection &screen) const;
-    void store(const frmSection &screen) const;
+    const clsScreenField &chosenField(const frmScreen &screen) const;
+    void choose(const frmScreen &screen, int place);
+    bool mayChange(const frmScreen &screen) const;
+    void store(const frmScreen &screen) const;
 
     const clsMarkedItems &m_marked;
     std::vector<const clsScreenRow *> m_rows; ///< as in the editor
@@ -106,7 +106,7 @@ clsChange::clsChange(const clsItemList &list, const clsMarkedItems &marked)
     m_screen.frames.push_back({.name = "bxGeneral", .caption = list.editor().header, .rows = rows});
 }
 
-void clsChange::prepare(frmSection &screen, clsZR3Item &selected)
+void clsChange::prepare(frmScreen &screen, clsZR3Item &selected)
 {
     for (const clsScreenField &field : screen.Fields())
         mdLoadControl(*field.row, *field.control, selected);
@@ -123,15 +123,15 @@ void clsChange::prepare(frmSection &screen, clsZR3Item &selected)
         if (QLatin1String(row->control) == QLatin1String("cmbFeeEarner"))
             new clsFeeEarnerKeys(screen);
     screen.setMayStore([this, &screen] { return mayChange(screen); });
-    QObject::connect(&screen, &frmSection::Stored, &screen, [this, &screen] { store(screen); });
+    QObject::connect(&screen, &frmScreen::Stored, &screen, [this, &screen] { store(screen); });
 }
 
-const clsScreenField &clsChange::chosenField(const frmSection &screen) const
+const clsScreenField &clsChange::chosenField(const frmScreen &screen) const
 {
     return screen.Fields()[m_chosen + (m_rows.size() > 1 ? 1 : 0)];
 }
 
-void clsChange::choose(const frmSection &screen, int place)
+void clsChange::choose(const frmScreen &screen, int place)
 {
     m_chosen = size_t(place);
     const clsScreenField &chosen = chosenField(screen);
@@ -143,7 +143,7 @@ void clsChange::choose(const frmSection &screen, int place)
 }
 
 /// In the same order as the editor's checks.
-bool clsChange::mayChange(const frmSection &screen) const
+bool clsChange::mayChange(const frmScreen &screen) const
 {
     QWidget &control = *chosenField(screen).control;
     const unsigned flags = m_rows[m_chosen]->flags;
@@ -157,7 +157,7 @@ bool clsChange::mayChange(const frmSection &screen) const
     return !(flags & DateTick) || mdDateIsGiven(static_cast<oDateBox &>(control));
 }
 
-void clsChange::store(const frmSection &screen) const
+void clsChange::store(const frmScreen &screen) const
 {
     const clsScreenField &field = chosenField(screen);
     for (const auto &item : m_marked)
@@ -166,13 +166,13 @@ void clsChange::store(const frmSection &screen) const
 
 } // namespace
 
-QString mdChangeSelected(frmSection &owner, const clsItemList &list, clsZR3Item &selected, const clsMarkedItems &marked)
+QString mdChangeSelected(frmScreen &owner, const clsItemList &list, clsZR3Item &selected, const clsMarkedItems &marked)
 {
     clsChange change(list, marked);
     // The list of fee earners stores its choice for the next new item; this is not a new item.
     const int chosenForNew = Form->DefaultFeeEarnerListIndex();
     const bool changed
-        = mdEditItem(&owner, change.screen(), nullptr, [&](frmSection &screen) { change.prepare(screen, selected); });
+        = mdEditItem(&owner, change.screen(), nullptr, [&](frmScreen &screen) { change.prepare(screen, selected); });
     if (Form->DefaultFeeEarnerListIndex() != chosenForNew)
         Form->DefaultFeeEarnerListIndex = chosenForNew;
     return changed ? QStringLiteral("Change %1 of %2").arg(change.caption(), items(marked.size())) : QString();

@@ -1,11 +1,11 @@
 #include "editors/mdConnectCalculate.h"
 
 #include "controls/oCustomButton.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 
 #include <utility>
 
-void mdConnectCalculate(frmSection &screen, std::function<void()> calculate)
+void mdConnectCalculate(frmScreen &screen, std::function<void()> calculate)
 {
     auto &button = screen.Box<oCustomButton>("cmdCalculate");
     QObject::connect(&button, &oCustomButton::Click, &screen, [&button, calculate = std::move(calculate)] {

@@ -2,8 +2,8 @@
 
 #include <functional>
 
-class frmSection;
+class frmScreen;
 
 /// Connects the screen's button "Calculate". The button has the focus when `calculate` is called, however it was
 /// pressed.
-void mdConnectCalculate(frmSection &screen, std::function<void()> calculate);
+void mdConnectCalculate(frmScreen &screen, std::function<void()> calculate);

@@ -1,12 +1,12 @@
 #include "editors/mdEditItem.h"
 
 #include "controls/mdShowModal.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 
 bool mdEditItem(
-    QWidget *owner, const clsScreen &editor, clsXMLRecord *item, const std::function<void(frmSection &screen)> &prepare)
+    QWidget *owner, const clsScreen &editor, clsXMLRecord *item, const std::function<void(frmScreen &screen)> &prepare)
 {
-    frmSection screen(editor, owner ? owner->window() : nullptr);
+    frmScreen screen(editor, owner ? owner->window() : nullptr);
     screen.Initialise(item);
     if (prepare)
         prepare(screen);

@@ -3,7 +3,7 @@
 #include "costing/mdBillSummary.h"
 #include "costing/mdFigureFaults.h"
 #include "costing/mdGetColumnTotals.h"
-#include "formdata/clsOnBill.h"
+#include "formdata/clsBillFilter.h"
 #include "formdata/mdGlobals.h"
 
 #include <algorithm>
@@ -56,7 +56,7 @@ clsCounted countedOf(const clsZR3Form &form, clsCommsKind kind)
 clsListTotal mdScheduleListTotal()
 {
     const auto &all = Form->ScheduleOfTimeItemsCollection();
-    clsOnBill isOnBill(*Form);
+    clsBillFilter isOnBill(*Form);
     const auto leftOut = std::count_if(all.begin(), all.end(), [&](const auto &item) { return !isOnBill(*item); });
     return {leftOut ? counted(leftOut, "1 item not on the bill", "%1 items not on the bill") : items(std::ssize(all)),
         ScheduleTotal(*Form)};
@@ -96,7 +96,7 @@ clsListTotal mdCommunicationsListTotal()
 
 clsListTotal mdScheduleListSum(const clsMarkedItems &marked)
 {
-    clsOnBill isOnBill(*Form);
+    clsBillFilter isOnBill(*Form);
     std::vector<const clsZR3ScheduleOfTimeItem *> chosen;
     for (const auto &item : marked)
         chosen.push_back(&as<clsZR3ScheduleOfTimeItem>(item));

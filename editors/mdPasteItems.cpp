@@ -14,7 +14,7 @@
 #include "editors/clsEditMenu.h"
 #include "editors/clsPasteList.h"
 #include "editors/frmPasteItems.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/mdColumnProfiles.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3Item.h"
@@ -108,7 +108,7 @@ struct clsTakingList {
 };
 
 /// The list of the open page; if that can't import rows, the screen's last one that can.
-clsTakingList takingListOf(const frmSection &screen)
+clsTakingList takingListOf(const frmScreen &screen)
 {
     clsTakingList last;
     for (const clsScreenField &field : screen.Fields())
@@ -122,7 +122,7 @@ clsTakingList takingListOf(const frmSection &screen)
 }
 
 /// Updates the screen as after "Add".
-void showPasted(frmSection &screen, const clsTakingList &list)
+void showPasted(frmScreen &screen, const clsTakingList &list)
 {
     screen.RedrawLists();
     if (list.items->changed)
@@ -194,7 +194,7 @@ QString mdCopiedInWords(const clsPasteList &list, int count, int all)
     return QStringLiteral("Copied %1: %2 in all").arg(QString::fromLatin1(list.section)).arg(count);
 }
 
-void mdOfferPaste(frmSection &screen, clsEditCommands &commands, const std::function<void(const QString &)> &tell)
+void mdOfferPaste(frmScreen &screen, clsEditCommands &commands, const std::function<void(const QString &)> &tell)
 {
     if (!takingListOf(screen).items)
         return;

@@ -6,7 +6,7 @@
 
 #include <functional>
 
-class frmSection;
+class frmScreen;
 struct clsEditCommands;
 struct clsPasteList;
 
@@ -26,4 +26,4 @@ int mdCopyList(const clsPasteList &list, const clsMarkedItems &marked = {});
 QString mdCopiedInWords(const clsPasteList &list, int count, int all = 0);
 
 /// Adds these commands for the screen's first list that supports them; none if no list does.
-void mdOfferPaste(frmSection &screen, clsEditCommands &commands, const std::function<void(const QString &)> &tell);
+void mdOfferPaste(frmScreen &screen, clsEditCommands &commands, const std::function<void(const QString &)> &tell);

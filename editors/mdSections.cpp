@@ -1,6 +1,6 @@
 #include "editors/mdSections.h"
 
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/mdScreens.h"
 
 namespace {
@@ -51,7 +51,7 @@ QDialog *mdCreateScreen(const QString &section, QWidget *parent)
     const clsSection *row = sectionOf(section);
     if (!row)
         return nullptr;
-    auto *screen = new frmSection(row->table(), parent);
+    auto *screen = new frmScreen(row->table(), parent);
     screen->Initialise();
     return screen;
 }

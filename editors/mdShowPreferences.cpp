@@ -2,7 +2,7 @@
 
 #include "controls/mdShowModal.h"
 #include "controls/oContentSwitcher.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/mdScreenControls.h"
 #include "editors/mdScreens.h"
 #include "formdata/clsXMLRecord.h"
@@ -10,10 +10,10 @@
 namespace {
 
 /// The preferences if they are open, in this window or below it; otherwise null.
-frmSection *openPreferences(QWidget *owner)
+frmScreen *openPreferences(QWidget *owner)
 {
     for (QWidget *at = owner; at; at = at->parentWidget()) {
-        auto *screen = qobject_cast<frmSection *>(at);
+        auto *screen = qobject_cast<frmScreen *>(at);
         if (screen && screen->isVisible() && &screen->Screen() == &ScreenPreferences())
             return screen;
     }
@@ -21,7 +21,7 @@ frmSection *openPreferences(QWidget *owner)
 }
 
 /// Opens a page of the open preferences and sets the focus to it.
-void turnTo(const frmSection &screen, int page)
+void turnTo(const frmScreen &screen, int page)
 {
     screen.Switcher().SwitchTo(page);
     for (const clsScreenField &field : screen.Fields()) {
@@ -33,7 +33,7 @@ void turnTo(const frmSection &screen, int page)
 }
 
 /// The stored value of each field; empty for fields that store nothing.
-std::vector<QByteArray> settingsOf(const frmSection &screen)
+std::vector<QByteArray> settingsOf(const frmScreen &screen)
 {
     std::vector<QByteArray> result;
     for (const clsScreenField &field : screen.Fields()) {
@@ -45,7 +45,7 @@ std::vector<QByteArray> settingsOf(const frmSection &screen)
 
 /// Updates the fields whose settings have been stored since, so that this screen's Close doesn't overwrite them. Text
 /// typed in other fields stays.
-void showChanges(frmSection &screen, const std::vector<QByteArray> &before)
+void showChanges(frmScreen &screen, const std::vector<QByteArray> &before)
 {
     const std::vector<QByteArray> now = settingsOf(screen);
     for (size_t i = 0; i < now.size(); ++i) {
@@ -58,7 +58,7 @@ void showChanges(frmSection &screen, const std::vector<QByteArray> &before)
 
 void showNew(QWidget *owner, int page)
 {
-    frmSection screen(ScreenPreferences(), owner);
+    frmScreen screen(ScreenPreferences(), owner);
     // Before the screen determines the initial focus.
     screen.Switcher().SwitchTo(page);
     screen.Initialise();
@@ -69,7 +69,7 @@ void showNew(QWidget *owner, int page)
 
 void mdShowPreferences(QWidget *owner, int page)
 {
-    frmSection *below = openPreferences(owner);
+    frmScreen *below = openPreferences(owner);
     if (!below)
         return showNew(owner, page);
     if (below == owner->window())

@@ -1,7 +1,7 @@
 #include "editors/mdTypedTexts.h"
 
 #include "base/mdNumberText.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/mdFieldTexts.h"
 #include "editors/mdScreenControls.h"
 #include "formdata/clsXMLRecord.h"
@@ -39,7 +39,7 @@ QString mdItemMark(const clsXMLRecord &item)
     return QString::fromLatin1(QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex().left(32));
 }
 
-int mdCharactersOf(const frmSection &screen, const clsTypedTexts &texts)
+int mdCharactersOf(const frmScreen &screen, const clsTypedTexts &texts)
 {
     qsizetype characters = 0;
     for (const auto &[property, text] : texts.fields)
@@ -49,7 +49,7 @@ int mdCharactersOf(const frmSection &screen, const clsTypedTexts &texts)
     return int(characters);
 }
 
-clsTypedTexts mdTypedIn(const frmSection &screen)
+clsTypedTexts mdTypedIn(const frmScreen &screen)
 {
     const clsScreen &table = screen.Screen();
     clsTypedTexts texts {screen.objectName(), QString::fromUtf8(table.section ? table.section : table.header), 0, {}};
@@ -69,14 +69,14 @@ clsTypedTexts mdTypedIn(const frmSection &screen)
 
 std::vector<clsTypedTexts> mdTypedTexts()
 {
-    std::vector<const frmSection *> screens;
+    std::vector<const frmScreen *> screens;
     for (const QWidget *window : QApplication::topLevelWidgets())
-        if (const auto *screen = qobject_cast<const frmSection *>(window); screen && screen->isVisible())
+        if (const auto *screen = qobject_cast<const frmScreen *>(window); screen && screen->isVisible())
             screens.push_back(screen);
     std::sort(screens.begin(), screens.end(),
-        [](const frmSection *a, const frmSection *b) { return depthOf(*a) < depthOf(*b); });
+        [](const frmScreen *a, const frmScreen *b) { return depthOf(*a) < depthOf(*b); });
     std::vector<clsTypedTexts> typed;
-    for (const frmSection *screen : screens)
+    for (const frmScreen *screen : screens)
         if (clsTypedTexts texts = mdTypedIn(*screen); !texts.fields.empty())
             typed.push_back(std::move(texts));
     return typed;

@@ -5,13 +5,13 @@
 #include <vector>
 
 class clsXMLRecord;
-class frmSection;
+class frmScreen;
 
 /// The text typed in a screen and not stored: the fields that have changed since they were filled.
-clsTypedTexts mdTypedIn(const frmSection &screen);
+clsTypedTexts mdTypedIn(const frmScreen &screen);
 
 /// How many characters of it are typed.
-int mdCharactersOf(const frmSection &screen, const clsTypedTexts &texts);
+int mdCharactersOf(const frmScreen &screen, const clsTypedTexts &texts);
 
 /// Identifies an item wherever it is in its list: its identity or, without one, its content.
 QString mdItemMark(const clsXMLRecord &item);

@@ -2,7 +2,7 @@
 
 #include "controls/oContentSwitcher.h"
 #include "controls/oSGrid.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/mdEnterField.h"
 #include "editors/mdScreenControls.h"
 #include "formdata/clsClaimPlace.h"
@@ -29,7 +29,7 @@ bool isFieldOf(const clsScreenField &field, const QString &property)
         [&](const QString &member) { return member == property || member + QStringLiteral("UniqueID") == property; });
 }
 
-void enterProperty(const frmSection &screen, const QString &property)
+void enterProperty(const frmScreen &screen, const QString &property)
 {
     for (const clsScreenField &field : screen.Fields())
         if (!property.isEmpty() && mdIsControl(*field.row) && isFieldOf(field, property)) {
@@ -68,21 +68,21 @@ int indexOf(const oSGrid &grid, pugi::xml_node element)
 
 /// Does the same as a double click on the item's row. Returns only when the editor is closed, so the field is focused
 /// from the editor's event loop.
-void activate(frmSection &screen, oSGrid &grid, const clsItemList &list, int index, const QString &property)
+void activate(frmScreen &screen, oSGrid &grid, const clsItemList &list, int index, const QString &property)
 {
     const int column = columnOf(list, property);
     grid.setFocus(Qt::OtherFocusReason);
     grid.SelectItem(index);
     grid.SelectColumn(column);
     QTimer::singleShot(0, &screen, [below = &screen, property] {
-        const auto *editor = qobject_cast<frmSection *>(QApplication::activeModalWidget());
+        const auto *editor = qobject_cast<frmScreen *>(QApplication::activeModalWidget());
         if (editor && editor != below)
             enterProperty(*editor, property);
     });
     emit grid.RowActivated(index, grid.SelectedRow(), column);
 }
 
-void enterItem(frmSection &screen, pugi::xml_node element, const QString &property)
+void enterItem(frmScreen &screen, pugi::xml_node element, const QString &property)
 {
     for (const clsScreenField &field : screen.Fields()) {
         auto *grid = qobject_cast<oSGrid *>(field.control);
@@ -96,18 +96,18 @@ void enterItem(frmSection &screen, pugi::xml_node element, const QString &proper
 
 } // namespace
 
-void mdOpenPageOf(const frmSection &screen, const clsScreenField &field)
+void mdOpenPageOf(const frmScreen &screen, const clsScreenField &field)
 {
     if (field.page > 0)
         screen.Switcher().SwitchTo(field.page);
 }
 
-std::function<void(frmSection &screen)> mdWayTo(const clsClaimPlace &place)
+std::function<void(frmScreen &screen)> mdWayTo(const clsClaimPlace &place)
 {
     const clsClaimList *list = place.Item > 0 && Form ? mdClaimList(place.List) : nullptr;
     if (!list)
-        return [property = place.Property](frmSection &screen) { enterProperty(screen, property); };
-    return [element = elementOf(*list, place.Item), property = place.Property](frmSection &screen) {
+        return [property = place.Property](frmScreen &screen) { enterProperty(screen, property); };
+    return [element = elementOf(*list, place.Item), property = place.Property](frmScreen &screen) {
         if (element)
             enterItem(screen, element, property);
     };

@@ -5,7 +5,7 @@
 #include "base/mdTypedText.h"
 #include "controls/mdTheme.h"
 #include "controls/oTimeBox.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/mdScreenControls.h"
 #include "editors/oFeeEarnerCombo.h"
 #include "formdata/clsZR3Form.h"
@@ -28,11 +28,11 @@ oPriceLine::oPriceLine(QWidget *parent)
 
 oPriceLine::~oPriceLine() = default;
 
-void oPriceLine::Follow(frmSection &screen)
+void oPriceLine::Follow(frmScreen &screen)
 {
     m_screen = &screen;
     const auto changed = qOverload<>(&QTimer::start);
-    connect(&screen, &frmSection::Loaded, &m_renewal, changed);
+    connect(&screen, &frmScreen::Loaded, &m_renewal, changed);
     for (const clsScreenField &field : screen.Fields()) {
         QList<QWidget *> parts = field.control->findChildren<QWidget *>();
         parts << field.control;

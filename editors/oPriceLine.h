@@ -6,7 +6,7 @@
 #include <memory>
 
 class clsZR3ScheduleOfTimeItem;
-class frmSection;
+class frmScreen;
 
 /// Shows the price of a schedule item in its editor, below the time. Computed by the claim's own pricing on a temporary
 /// item.
@@ -18,7 +18,7 @@ public:
     ~oPriceLine() override;
 
     /// Follows the boxes of an editor from now on.
-    void Follow(frmSection &screen);
+    void Follow(frmScreen &screen);
     /// The shown text, without formatting.
     QString Words() const { return accessibleName(); }
 
@@ -32,7 +32,7 @@ private:
     void renew();
     void tell(const QString &reason, const QString &result);
 
-    frmSection *m_screen = nullptr;
+    frmScreen *m_screen = nullptr;
     QTimer m_renewal; ///< combines changes of several boxes
     std::shared_ptr<clsZR3ScheduleOfTimeItem> m_item;
 };

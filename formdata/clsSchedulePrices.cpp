@@ -57,8 +57,8 @@ const clsSchedulePrice &clsSchedulePrices::of(const clsZR3ScheduleOfTimeItem &it
     const auto place = size_t(item.Index - 1);
     const auto &items = m_form.ScheduleOfTimeItemsCollection();
     if (place >= m_prices.size() || place >= items.size() || items[place].get() != &item) {
-        price(item, m_strangers.emplace_back());
-        return m_strangers.back();
+        price(item, m_unlisted.emplace_back());
+        return m_unlisted.back();
     }
     return m_prices[place];
 }
@@ -115,9 +115,9 @@ void clsSchedulePrices::price(const clsZR3ScheduleOfTimeItem &item, clsScheduleP
         attempt(TimeFigure, {}, [&] { result.Minutes = TimeToMinutes(item.TTime()); });
     attempt(ColumnFigure, {}, [&] { result.TimeColumn = std::int16_t(item.TimeColumn()); });
     if (earner.rates) {
-        attempt(RateFigure, {ColumnFigure}, [&] { result.Rate = item.RateBy(*earner.rates, result.TimeColumn); });
+        attempt(RateFigure, {ColumnFigure}, [&] { result.Rate = item.rateFrom(*earner.rates, result.TimeColumn); });
         attempt(PercentageFigure, {},
-            [&] { result.TotalEnhancementPercentage = item.TotalEnhancementPercentageBy(*earner.rates); });
+            [&] { result.TotalEnhancementPercentage = item.totalEnhancementPercentageFrom(*earner.rates); });
     } else {
         note(RateFigure, clsRunTimeError::ObjectNotSet);
         note(PercentageFigure, clsRunTimeError::ObjectNotSet);
@@ -125,5 +125,5 @@ void clsSchedulePrices::price(const clsZR3ScheduleOfTimeItem &item, clsScheduleP
     attempt(BasicClaimFigure, {RateFigure, TimeFigure},
         [&] { result.BasicClaim = MinutesToMoney(result.Minutes, result.Rate); });
     attempt(ClaimFigure, {PercentageFigure, BasicClaimFigure},
-        [&] { result.Claim = item.ClaimBy(result.BasicClaim, result.TotalEnhancementPercentage); });
+        [&] { result.Claim = item.claimFrom(result.BasicClaim, result.TotalEnhancementPercentage); });
 }

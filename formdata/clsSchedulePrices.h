@@ -96,7 +96,7 @@ private:
 
     const clsZR3Form &m_form;
     std::vector<clsSchedulePrice> m_prices; ///< by the item's position in the claim
-    std::deque<clsSchedulePrice> m_strangers;
+    std::deque<clsSchedulePrice> m_unlisted;
     std::map<std::string, clsEarner, std::less<>> m_earners; ///< by identity as in the tree
     std::vector<std::shared_ptr<clsZR3FeeEarnerGroup>> m_groups;
     std::vector<std::unique_ptr<clsGroupRates>> m_rates;

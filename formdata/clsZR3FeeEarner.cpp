@@ -1,6 +1,6 @@
 #include "formdata/clsZR3FeeEarner.h"
 
-#include "base/mdExisting.h"
+#include "base/mdRequired.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdReadDerived.h"
 
@@ -21,5 +21,5 @@ std::shared_ptr<clsZR3FeeEarnerGroup> clsZR3FeeEarner::Group() const
 
 QString clsZR3FeeEarner::GroupReference() const
 {
-    return mdExisting(Group()).Reference();
+    return mdRequired(Group()).Reference();
 }

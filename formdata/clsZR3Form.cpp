@@ -6,7 +6,7 @@
 #include "base/mdNumberText.h"
 #include "base/mdSetProgress.h"
 #include "base/mdTextDocumentHandling.h"
-#include "formdata/clsOnBill.h"
+#include "formdata/clsBillFilter.h"
 #include "formdata/mdXMLChanges.h"
 #include "formdata/mdXMLGenerateNodes.h"
 #include "formdata/mdXMLTemplate.h"
@@ -208,7 +208,7 @@ bool clsZR3Form::IncludePage(int page) const
 
 bool clsZR3Form::IsOnBill(const clsZR3ScheduleOfTimeItem &item) const
 {
-    return clsOnBill(*this)(item);
+    return clsBillFilter(*this)(item);
 }
 
 void clsZR3Form::CheckDerivedCollections() const
@@ -222,7 +222,7 @@ void clsZR3Form::RenderScheduleOfTimeItemsForExport()
     clsRefill forExport(m_forExport);
     m_scheduleError.reset();
     int number = 0;
-    clsOnBill isOnBill(*this);
+    clsBillFilter isOnBill(*this);
     inOrder(m_ScheduleOfTimeItems, "schedule item", [&](const ScheduleOfTimeItemsList::Pointer &item) {
         try {
             if (!isOnBill(*item))

@@ -1,8 +1,8 @@
 #include "formdata/clsZR3ScheduleOfTimeItem.h"
 
 #include "base/mdDateSerial.h"
-#include "base/mdExisting.h"
 #include "base/mdPercentageCalculate.h"
+#include "base/mdRequired.h"
 #include "base/mdTimeToMoney.h"
 #include "formdata/clsSchedulePrices.h"
 #include "formdata/clsZR3Form.h"
@@ -45,7 +45,7 @@ std::shared_ptr<clsZR3FeeEarner> clsZR3ScheduleOfTimeItem::FeeEarner() const
 
 QString clsZR3ScheduleOfTimeItem::FeeEarnerReference() const
 {
-    return mdExisting(FeeEarner()).Reference();
+    return mdRequired(FeeEarner()).Reference();
 }
 
 QString clsZR3ScheduleOfTimeItem::FeeEarnerInitials() const
@@ -55,7 +55,7 @@ QString clsZR3ScheduleOfTimeItem::FeeEarnerInitials() const
 
 std::shared_ptr<clsZR3FeeEarnerGroup> clsZR3ScheduleOfTimeItem::FeeEarnerGroup() const
 {
-    return mdExisting(FeeEarner()).Group();
+    return mdRequired(FeeEarner()).Group();
 }
 
 QString clsZR3ScheduleOfTimeItem::DDateSerial() const
@@ -84,18 +84,18 @@ clsZR3ScheduleOfTimeItem::Column clsZR3ScheduleOfTimeItem::ColumnOfCode(QStringV
 Money clsZR3ScheduleOfTimeItem::Rate() const
 {
     const auto group = FeeEarnerGroup();
-    clsGroupRates rates(mdExisting(group));
-    return RateBy(rates, TimeColumn());
+    clsGroupRates rates(mdRequired(group));
+    return rateFrom(rates, TimeColumn());
 }
 
-Money clsZR3ScheduleOfTimeItem::RateBy(clsGroupRates &rates, int timeColumn) const
+Money clsZR3ScheduleOfTimeItem::rateFrom(clsGroupRates &rates, int timeColumn) const
 {
     Money rate;
     forEachRateRule(timeColumn, [&](RateRule rule) { rate = rateOf(rates, rule); });
     return rate;
 }
 
-clsZR3ScheduleOfTimeItem::RateRule clsZR3ScheduleOfTimeItem::RateRuleBy(int timeColumn) const
+clsZR3ScheduleOfTimeItem::RateRule clsZR3ScheduleOfTimeItem::rateRuleFrom(int timeColumn) const
 {
     RateRule last = HourlyRule;
     forEachRateRule(timeColumn, [&](RateRule rule) { last = rule; });
@@ -124,16 +124,16 @@ Money clsZR3ScheduleOfTimeItem::BasicClaim() const
 Money clsZR3ScheduleOfTimeItem::TotalEnhancementPercentage() const
 {
     const auto group = FeeEarnerGroup();
-    clsGroupRates rates(mdExisting(group));
-    return TotalEnhancementPercentageBy(rates);
+    clsGroupRates rates(mdRequired(group));
+    return totalEnhancementPercentageFrom(rates);
 }
 
-Money clsZR3ScheduleOfTimeItem::TotalEnhancementPercentageBy(clsGroupRates &rates) const
+Money clsZR3ScheduleOfTimeItem::totalEnhancementPercentageFrom(clsGroupRates &rates) const
 {
     Money percentage = rates.Enhancement();
     if (IncludeInEnhancements()) {
         const auto listed = m_form->EnhancementByUniqueID(EnhancementUniqueID());
-        percentage = percentage + MoneyFromText(mdExisting(listed).Rate());
+        percentage = percentage + MoneyFromText(mdRequired(listed).Rate());
     }
     return percentage;
 }
@@ -141,10 +141,10 @@ Money clsZR3ScheduleOfTimeItem::TotalEnhancementPercentageBy(clsGroupRates &rate
 Money clsZR3ScheduleOfTimeItem::Claim() const
 {
     const Money percentage = TotalEnhancementPercentage();
-    return ClaimBy(BasicClaim(), percentage);
+    return claimFrom(BasicClaim(), percentage);
 }
 
-Money clsZR3ScheduleOfTimeItem::ClaimBy(Money basicClaim, Money percentage)
+Money clsZR3ScheduleOfTimeItem::claimFrom(Money basicClaim, Money percentage)
 {
     return RoundMoney2(basicClaim + EnhancementBy(basicClaim, percentage));
 }

@@ -67,16 +67,16 @@ public:
     Money Claim() const;
 
     // The rules of the four figures, for callers that already have the preceding figures.
-    Money RateBy(clsGroupRates &rates, int timeColumn) const;
-    Money TotalEnhancementPercentageBy(clsGroupRates &rates) const;
-    static Money ClaimBy(Money basicClaim, Money percentage);
+    Money rateFrom(clsGroupRates &rates, int timeColumn) const;
+    Money totalEnhancementPercentageFrom(clsGroupRates &rates) const;
+    static Money claimFrom(Money basicClaim, Money percentage);
     /// The uplift included in the claim, at four decimals.
     static Money EnhancementBy(Money basicClaim, Money percentage);
 
     /// The rule that decides the rate.
     enum RateRule { HourlyRule, AdvocacyRule, CounselRule, TravelAndWaitingRule, UseHourlyRule };
-    /// The rule behind the result of `RateBy`.
-    RateRule RateRuleBy(int timeColumn) const;
+    /// The rule behind the result of `rateFrom`.
+    RateRule rateRuleFrom(int timeColumn) const;
 
 private:
     template <class Visit> void forEachRateRule(int timeColumn, Visit visit) const;

@@ -17,7 +17,7 @@ class clsFormPages;
 class clsJournalKeeper;
 class clsStripFiller;
 class clsWhyOpener;
-class frmSection;
+class frmScreen;
 class oCheckPanel;
 class oFooterBar;
 class oFormPages;
@@ -189,7 +189,7 @@ private:
     QHash<const void *, int> m_drawnItems; ///< the schedule's elements and their order in the preview
     QString m_backupTag;
     QString m_nextSection;
-    std::function<void(frmSection &screen)> m_nextWay; ///< applied to the next screen that opens
+    std::function<void(frmScreen &screen)> m_nextWay; ///< applied to the next screen that opens
     bool m_sectionOpen = false;
     bool m_loaded = false;
     bool m_wasShown = false;

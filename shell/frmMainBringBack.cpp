@@ -2,7 +2,7 @@
 
 #include "controls/mdShowModal.h"
 #include "controls/oFooterBar.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/mdBringBack.h"
 #include "shell/frmCompare.h"
 

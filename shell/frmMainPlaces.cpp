@@ -1,6 +1,6 @@
 #include "shell/frmMain.h"
 
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/mdListPlace.h"
 #include "editors/mdWayTo.h"
 #include "formdata/clsClaimPlace.h"
@@ -13,7 +13,7 @@ void frmMain::OpenField(const QString &target)
     clsTargetPlace place;
     if (m_sectionOpen || !mdFindTarget(target, place))
         return;
-    m_nextWay = [place](frmSection &screen) { mdEnterPlace(screen, place.control, place.item); };
+    m_nextWay = [place](frmScreen &screen) { mdEnterPlace(screen, place.control, place.item); };
     tbSubSection_Click(-1, place.section);
     m_nextWay = nullptr;
 }

@@ -2,7 +2,7 @@
 
 #include "controls/mdShowModal.h"
 #include "controls/oTabBar.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdBegunSections.h"
 #include "formdata/mdGlobals.h"
@@ -63,7 +63,7 @@ void frmMain::tbSubSection_Click(int index, const QString &tag)
             continue;
         shown = true;
         m_sections->List()->Choose(section);
-        auto *made = qobject_cast<frmSection *>(screen.get());
+        auto *made = qobject_cast<frmScreen *>(screen.get());
         if (const auto way = std::exchange(m_nextWay, nullptr); made && way)
             QTimer::singleShot(0, made, [made, way] { way(*made); });
         const QScopedValueRollback<bool> modal(m_modal, true);

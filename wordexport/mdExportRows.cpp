@@ -1,6 +1,6 @@
 #include "wordexport/mdExportRows.h"
 
-#include "base/mdExisting.h"
+#include "base/mdRequired.h"
 #include "base/mdSumOf.h"
 #include "costing/mdFigureFaults.h"
 #include "costing/mdGetCommsInfo.h"
@@ -23,7 +23,7 @@ QString counselText(const Form &form, int i)
     const clsZR3Disbursement &fee = counselFee(form, i);
     return mdExplained(form, fee, [&] {
         const auto named = form.CounselByUniqueID(fee.CounselUniqueID());
-        const clsZR3Counsel &counsel = mdExisting(named);
+        const clsZR3Counsel &counsel = mdRequired(named);
         return counsel.AccountNumber() + QStringLiteral(" - ") + counsel.Name();
     });
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Money.h"
-#include "base/mdExisting.h"
+#include "base/mdRequired.h"
 #include "wordexport/clsExportPage.h"
 
 // Short forms for the rows of a page's table: a placeholder, the property that it shows, and the class in which it is
@@ -31,7 +31,7 @@ template <auto Collection> int mdOrderIn(const clsZR3Form &form, int i)
 template <auto ByOrderID> auto mdItemAt(const clsZR3Form &form, int i)
 {
     auto item = (form.*ByOrderID)(i);
-    mdExisting(item);
+    mdRequired(item);
     return item;
 }
 

@@ -2,7 +2,7 @@
 
 #include "base/mdDateText.h"
 #include "costing/checking/mdCheckWords.h"
-#include "formdata/clsOnBill.h"
+#include "formdata/clsBillFilter.h"
 
 QString clsBilledItem::words() const
 {
@@ -56,7 +56,7 @@ const std::vector<clsBilledItem> &clsClaimCheck::billed()
     if (m_billed)
         return *m_billed;
     m_billed.emplace();
-    clsOnBill isOnBill(m_form);
+    clsBillFilter isOnBill(m_form);
     clsSchedulePrices &prices = m_bill.prices();
     each(m_form.ScheduleOfTimeItemsCollection(), [&](const clsZR3ScheduleOfTimeItem &item, int order) {
         if (isOnBill(item))

@@ -113,7 +113,7 @@ void mdCheckRateZero(clsClaimCheck &check)
         const clsZR3FeeEarner *earner = earners.of(*billed.item);
         if (!groups.contains(earner))
             groups[earner] = earner->Group().get();
-        const size_t rate = rateOf(billed.item->RateRuleBy(price.TimeColumn));
+        const size_t rate = rateOf(billed.item->rateRuleFrom(price.TimeColumn));
         int &first = taken[groups[earner]][rate];
         if (first == 0)
             first = billed.order;

@@ -1,8 +1,8 @@
 #include "costing/checking/mdWhy.h"
 
-#include "base/mdExisting.h"
 #include "base/mdFormatMoney.h"
 #include "base/mdNumberText.h"
+#include "base/mdRequired.h"
 #include "costing/checking/mdCheckWords.h"
 #include "costing/mdFigureFaults.h"
 #include "formdata/clsZR3Form.h"
@@ -89,14 +89,14 @@ private:
         m_group = earner ? earner->Group() : nullptr;
         m_why.add(earner ? mdInWords(*earner) : QStringLiteral("Fee earner"), m_group ? m_group->Name() : QString(),
             m_group ? groupSource(*m_group) : m_own, [this] {
-                mdExplained(m_form, m_item, [this] { mdExisting(m_group); });
+                mdExplained(m_form, m_item, [this] { mdRequired(m_group); });
                 return inSentence(*m_group);
             });
     }
     void rate()
     {
         const bool isKnown = !m_price.errorOf(Price::RateFigure);
-        const clsRateRow *row = isKnown ? &rateRow(m_item.RateRuleBy(m_price.TimeColumn)) : nullptr;
+        const clsRateRow *row = isKnown ? &rateRow(m_item.rateRuleFrom(m_price.TimeColumn)) : nullptr;
         m_why.add(row ? QString::fromLatin1(row->rate) : QStringLiteral("Rate"),
             row ? QString::fromLatin1(row->reason) : QString(), m_group ? groupSource(*m_group) : m_own,
             [this] { return figure(Price::RateFigure, m_price.Rate); });
@@ -119,7 +119,7 @@ private:
             m_why.add(listed ? listed->Name() : QStringLiteral("Enhancement"), {},
                 listed ? enhancementSource(*listed) : m_own, [&] {
                     return mdExplained(
-                        m_form, m_item, [&] { return clsPercentage {MoneyFromText(mdExisting(listed).Rate())}; });
+                        m_form, m_item, [&] { return clsPercentage {MoneyFromText(mdRequired(listed).Rate())}; });
                 });
         }
         m_why.add(QStringLiteral("Percentages together"), {}, m_own,

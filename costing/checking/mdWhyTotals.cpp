@@ -4,7 +4,7 @@
 #include "costing/checking/mdCheckWords.h"
 #include "costing/checking/mdWhySums.h"
 #include "costing/mdBillFigures.h"
-#include "formdata/clsOnBill.h"
+#include "formdata/clsBillFilter.h"
 
 #include <algorithm>
 #include <array>
@@ -221,7 +221,7 @@ clsWhy whyItems(const clsBill &bill)
     clsWhy why(source);
     why.add(QStringLiteral("Items of the schedule"), {}, source, [&] { return QString::number(items.size()); });
     why.add(QStringLiteral("Items on the bill"), {}, source, [&] {
-        clsOnBill isOnBill(bill.form());
+        clsBillFilter isOnBill(bill.form());
         return QString::number(
             std::count_if(items.begin(), items.end(), [&](const auto &item) { return isOnBill(*item); }));
     });

@@ -15,7 +15,7 @@
 #include "costing/tables/clsCodeWords.h"
 #include "editors/clsPasteList.h"
 #include "editors/frmPasteItems.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/mdEditCodeWords.h"
 #include "editors/mdEditCostsLimit.h"
 #include "editors/mdEditedForm.h"
@@ -152,7 +152,7 @@ void takeEditors(clsPictures &pictures, frmMain &main)
 {
     for (const clsEditor &row : Editors) {
         const std::shared_ptr<clsXMLRecord> item = row.item();
-        frmSection screen(row.table(), &main);
+        frmScreen screen(row.table(), &main);
         screen.Initialise(item.get());
         takeScreen(pictures, screen);
     }
@@ -164,7 +164,7 @@ void takeFirm(clsPictures &pictures, frmMain &main)
     clsZR3Form firm;
     mdCopySetup(*Form, firm);
     const clsEditedFormScope edited(firm);
-    frmSection screen(ScreenFirmAndTeam(), &main);
+    frmScreen screen(ScreenFirmAndTeam(), &main);
     screen.Initialise();
     screen.Box<oCheckBox>("chkVAT").setChecked(firm.VAT());
     screen.Box<oDecimalBox>("txtVATRate").setText(firm.VATRate());
@@ -178,7 +178,7 @@ void takeFirm(clsPictures &pictures, frmMain &main)
 
 void takePreferences(clsPictures &pictures, frmMain &main)
 {
-    frmSection screen(ScreenPreferences(), &main);
+    frmScreen screen(ScreenPreferences(), &main);
     screen.Initialise();
     takeScreen(pictures, screen);
 }

@@ -19,7 +19,7 @@ protected:
 
     using Counts = std::vector<int>;
 
-    std::unique_ptr<frmSection> screen = nullptr;
+    std::unique_ptr<frmScreen> screen = nullptr;
 
     void SetUp() override
     {

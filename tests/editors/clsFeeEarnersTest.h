@@ -29,9 +29,9 @@ protected:
         for (int n = 1; n <= count; ++n)
             addFeeEarner(QString::number(n), *group);
     }
-    static std::unique_ptr<frmSection> edit(const clsScreen &editor, clsXMLRecord *item)
+    static std::unique_ptr<frmScreen> edit(const clsScreen &editor, clsXMLRecord *item)
     {
-        auto screen = std::make_unique<frmSection>(editor);
+        auto screen = std::make_unique<frmScreen>(editor);
         screen->Initialise(item);
         show(*screen);
         return screen;

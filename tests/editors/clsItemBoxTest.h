@@ -35,9 +35,9 @@ protected:
         enhancement->Name = QString::fromUtf8(name);
         return enhancement->UniqueID();
     }
-    static std::unique_ptr<frmSection> edited(const clsScreen &table, clsXMLRecord &record)
+    static std::unique_ptr<frmScreen> edited(const clsScreen &table, clsXMLRecord &record)
     {
-        auto screen = std::make_unique<frmSection>(table);
+        auto screen = std::make_unique<frmScreen>(table);
         screen->Initialise(&record);
         show(*screen);
         return screen;

@@ -10,13 +10,13 @@
 class clsModalTest : public clsScreenTest {
 protected:
     /// Lets `opens` open a modal screen, and `act` use it until it is closed.
-    static void inModal(const std::function<void()> &opens, const std::function<void(frmSection &)> &act)
+    static void inModal(const std::function<void()> &opens, const std::function<void(frmScreen &)> &act)
     {
         bool opened = false;
         int patience = 500;
         QTimer waiting;
         QObject::connect(&waiting, &QTimer::timeout, &waiting, [&] {
-            auto *screen = qobject_cast<frmSection *>(QApplication::activeModalWidget());
+            auto *screen = qobject_cast<frmScreen *>(QApplication::activeModalWidget());
             if (!screen && --patience > 0)
                 return;
             waiting.stop();

@@ -11,28 +11,28 @@ class clsPreferencesScreenTest : public clsPreferencesTest {
 protected:
     static constexpr int GeneralSettings = 1, Replacements = 2, RateSets = 3;
 
-    static std::unique_ptr<frmSection> preferences(int page = GeneralSettings)
+    static std::unique_ptr<frmScreen> preferences(int page = GeneralSettings)
     {
-        auto screen = std::make_unique<frmSection>(ScreenPreferences());
+        auto screen = std::make_unique<frmScreen>(ScreenPreferences());
         screen->Switcher().SwitchTo(page);
         screen->Initialise();
         show(*screen);
         return screen;
     }
-    static oCheckBox &tick(const frmSection &screen, const char *name) { return screen.Box<oCheckBox>(name); }
-    static void click(const frmSection &screen, const char *name)
+    static oCheckBox &tick(const frmScreen &screen, const char *name) { return screen.Box<oCheckBox>(name); }
+    static void click(const frmScreen &screen, const char *name)
     {
         QTest::mouseClick(&screen.Box(name), Qt::LeftButton, {}, QPoint(12, 12));
     }
-    static bool browses(const frmSection &screen) { return screen.Box("cmdAutoBackupPathBrowse").isEnabled(); }
+    static bool browses(const frmScreen &screen) { return screen.Box("cmdAutoBackupPathBrowse").isEnabled(); }
 
-    static oSGrid &grid(const frmSection &screen, const char *name) { return screen.Box<oSGrid>(name); }
-    static QAbstractItemView &view(const frmSection &screen, const char *name)
+    static oSGrid &grid(const frmScreen &screen, const char *name) { return screen.Box<oSGrid>(name); }
+    static QAbstractItemView &view(const frmScreen &screen, const char *name)
     {
         return *grid(screen, name).findChild<oGridView *>();
     }
     /// The texts of a grid, each row as one text.
-    static QStringList rows(const frmSection &screen, const char *name)
+    static QStringList rows(const frmScreen &screen, const char *name)
     {
         const QAbstractItemModel &model = *view(screen, name).model();
         QStringList result;
@@ -44,7 +44,7 @@ protected:
         }
         return result;
     }
-    static void key(const frmSection &screen, const char *name, int key)
+    static void key(const frmScreen &screen, const char *name, int key)
     {
         QTest::keyClick(&view(screen, name), Qt::Key(key));
     }

@@ -68,13 +68,13 @@ protected:
     }
 
     /// The editor of an item, or of a new one without `item`, filled and shown.
-    static std::unique_ptr<frmSection> editor(const clsScreen &table, clsXMLRecord *item = nullptr)
+    static std::unique_ptr<frmScreen> editor(const clsScreen &table, clsXMLRecord *item = nullptr)
     {
-        auto screen = std::make_unique<frmSection>(table);
+        auto screen = std::make_unique<frmScreen>(table);
         screen->Initialise(item);
         show(*screen);
         return screen;
     }
 
-    static QString text(const frmSection &screen, const char *box) { return mdTextOf(screen.Box(box)); }
+    static QString text(const frmScreen &screen, const char *box) { return mdTextOf(screen.Box(box)); }
 };

@@ -9,14 +9,14 @@
 /// Base of tests of record screens: clicks and reads ticks by name, and finds the count of a text box.
 class clsRecordTest : public clsScreenTest {
 protected:
-    static void click(const frmSection &screen, const char *box)
+    static void click(const frmScreen &screen, const char *box)
     {
         QWidget &control = screen.Box(box);
         QTest::mouseClick(&control, Qt::LeftButton, {}, control.rect().center());
     }
-    static bool ticked(const frmSection &screen, const char *box) { return screen.Box<oCheckBox>(box).Checked(); }
+    static bool ticked(const frmScreen &screen, const char *box) { return screen.Box<oCheckBox>(box).Checked(); }
     /// The number beside a text box.
-    static const QLabel &countOf(const frmSection &screen, const char *box)
+    static const QLabel &countOf(const frmScreen &screen, const char *box)
     {
         return *screen.Box(box).findChild<QLabel *>(QStringLiteral("lblCharacterAllowance"));
     }
@@ -24,7 +24,7 @@ protected:
     {
         return label.palette().color(QPalette::Active, QPalette::WindowText);
     }
-    static QString textOf(const frmSection &screen, const char *box)
+    static QString textOf(const frmScreen &screen, const char *box)
     {
         return screen.Box(box).property("Text").toString();
     }

@@ -25,14 +25,14 @@ protected:
         item->TTime = QString::fromUtf8(time);
         return item;
     }
-    static std::unique_ptr<frmSection> editItem(const Item &item = nullptr)
+    static std::unique_ptr<frmScreen> editItem(const Item &item = nullptr)
     {
         return edit(ScreenScheduleOfTimeItemEdit(), item.get());
     }
     static size_t countItems() { return Form->ScheduleOfTimeItemsCollection().size(); }
 
-    static oCheckBox &tick(const frmSection &screen, const char *name) { return screen.Box<oCheckBox>(name); }
-    static void focus(const frmSection &screen, const char *name)
+    static oCheckBox &tick(const frmScreen &screen, const char *name) { return screen.Box<oCheckBox>(name); }
+    static void focus(const frmScreen &screen, const char *name)
     {
         focusPart(screen.Box(name))->setFocus(Qt::TabFocusReason);
     }

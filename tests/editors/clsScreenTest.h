@@ -3,7 +3,7 @@
 #include "commands/clsNotStored.h"
 #include "controls/oCheckBox.h"
 #include "controls/oSGrid.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/mdSections.h"
 #include "editors/mdUnloadAndDummyTabClick.h"
 #include "formdata/clsZR3Form.h"
@@ -47,20 +47,20 @@ protected:
     }
 
     /// The screen of a section, filled and shown.
-    static std::unique_ptr<frmSection> opened(const QString &section)
+    static std::unique_ptr<frmScreen> opened(const QString &section)
     {
         auto screen = created(section);
         show(*screen);
         return screen;
     }
-    static std::unique_ptr<frmSection> created(const QString &section)
+    static std::unique_ptr<frmScreen> created(const QString &section)
     {
-        std::unique_ptr<frmSection> screen(dynamic_cast<frmSection *>(mdCreateScreen(section, nullptr)));
+        std::unique_ptr<frmScreen> screen(dynamic_cast<frmScreen *>(mdCreateScreen(section, nullptr)));
         if (!screen)
             throw std::runtime_error("no screen " + section.toStdString());
         return screen;
     }
-    static void show(frmSection &screen)
+    static void show(frmScreen &screen)
     {
         screen.resize(screen.sizeHint());
         screen.show();
@@ -89,7 +89,7 @@ protected:
         return result;
     }
     /// A menu entry of the screen.
-    static QAction &entry(const frmSection &screen, const char *name)
+    static QAction &entry(const frmScreen &screen, const char *name)
     {
         auto *found = screen.findChild<QAction *>(QString::fromUtf8(name));
         if (!found)
@@ -105,7 +105,7 @@ protected:
         QTest::keyClick(part, Qt::Key_Delete);
         QTest::keyClicks(part, text);
     }
-    static void press(frmSection &screen, const char *button)
+    static void press(frmScreen &screen, const char *button)
     {
         auto *found = screen.findChild<QWidget *>(QString::fromUtf8(button));
         ASSERT_TRUE(found) << button;
@@ -130,7 +130,7 @@ protected:
     /// elements. Each in turn is removed, which stops the storing there: earlier elements then have their new value,
     /// later ones their old value.
     static void expectStoredInOrder(
-        const std::vector<const char *> &elements, const std::function<std::unique_ptr<frmSection>()> &opens)
+        const std::vector<const char *> &elements, const std::function<std::unique_ptr<frmScreen>()> &opens)
     {
         for (size_t gone = 0; gone < elements.size(); ++gone) {
             const auto screen = opens();
@@ -155,7 +155,7 @@ protected:
     }
 
     /// The field of the screen that has the focus, or null.
-    static const clsScreenField *focusedField(const frmSection &screen)
+    static const clsScreenField *focusedField(const frmScreen &screen)
     {
         for (const clsScreenField &field : screen.Fields()) {
             const QWidget *focused = screen.focusWidget();
@@ -164,7 +164,7 @@ protected:
         }
         return nullptr;
     }
-    static QString focusedName(const frmSection &screen)
+    static QString focusedName(const frmScreen &screen)
     {
         const clsScreenField *field = focusedField(screen);
         return field ? field->control->objectName() : QString();

@@ -56,7 +56,7 @@ protected:
         const clsScreen *table = ScreenNamed(GetParam());
         if (!table)
             throw std::runtime_error("no screen " + GetParam());
-        screen = std::make_unique<frmSection>(*table);
+        screen = std::make_unique<frmScreen>(*table);
         screen->Initialise(nullptr);
         show(*screen);
     }
@@ -104,5 +104,5 @@ protected:
     static std::string nameOf(const clsScreenField &field) { return field.control->objectName().toStdString(); }
 
     clsExpectedScreen expected {};
-    std::unique_ptr<frmSection> screen;
+    std::unique_ptr<frmScreen> screen;
 };

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controls/oSGrid.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 
 #include <QStringList>
 
@@ -12,7 +12,7 @@
 /// The list that a grid shows.
 inline const clsItemList &itemsOf(const oSGrid &grid)
 {
-    for (const clsScreenField &field : static_cast<const frmSection *>(grid.window())->Fields())
+    for (const clsScreenField &field : static_cast<const frmScreen *>(grid.window())->Fields())
         if (field.control == &grid)
             return *field.row->items;
     throw std::runtime_error("no list");

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 
 #include <QApplication>
 #include <QTest>
@@ -11,11 +11,11 @@
 #include <functional>
 
 /// Calls `use` on the window of that name as soon as it is open over the others, and expects it to be closed then.
-inline void onceOpened(const char *name, std::function<void(frmSection &)> use)
+inline void onceOpened(const char *name, std::function<void(frmScreen &)> use)
 {
     auto *watch = new QTimer(qApp);
     QObject::connect(watch, &QTimer::timeout, watch, [watch, name, use, asked = 0]() mutable {
-        auto *modal = qobject_cast<frmSection *>(QApplication::activeModalWidget());
+        auto *modal = qobject_cast<frmScreen *>(QApplication::activeModalWidget());
         const bool open = modal && modal->objectName() == QLatin1String(name) && modal->isVisible();
         if (!open && ++asked < 1000)
             return;

@@ -44,7 +44,7 @@ protected:
         clsRecordTest::SetUp();
         Form->FormType = QStringLiteral("Claim1A");
     }
-    static std::set<std::string> allTicked(const frmSection &screen)
+    static std::set<std::string> allTicked(const frmScreen &screen)
     {
         std::set<std::string> result;
         for (const clsScreenField &field : screen.Fields())
@@ -52,7 +52,7 @@ protected:
                 result.insert(field.row->control);
         return result;
     }
-    static std::pair<QString, QString> amounts(const frmSection &screen, const clsGroup &group)
+    static std::pair<QString, QString> amounts(const frmScreen &screen, const clsGroup &group)
     {
         return {textOf(screen, group.profitCosts), textOf(screen, group.VAT)};
     }

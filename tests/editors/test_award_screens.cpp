@@ -16,7 +16,7 @@ const char *const Amounts[] = {"txtPreCertificateCosts", "txtDuringCertificateCo
 
 class AwardScreens : public clsRecordTest {
 protected:
-    static QStringList amounts(const frmSection &screen)
+    static QStringList amounts(const frmScreen &screen)
     {
         QStringList result;
         for (const char *box : Amounts)

@@ -69,7 +69,7 @@ protected:
         return grid.findChild<QAbstractItemView *>()->model()->index(0, column).data(Qt::AccessibleTextRole).toString();
     }
     /// Saves an editor, which must close.
-    static void save(frmSection &screen)
+    static void save(frmScreen &screen)
     {
         press(screen, "cmdSave");
         EXPECT_FALSE(screen.isVisible());

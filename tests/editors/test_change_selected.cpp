@@ -73,12 +73,12 @@ protected:
         QCoreApplication::processEvents();
         return offered;
     }
-    void change(const std::function<void(frmSection &)> &act) const
+    void change(const std::function<void(frmScreen &)> &act) const
     {
         inModal([&] { entry(*screen, "mnuChangeSelected").trigger(); }, act);
     }
     /// Chooses the field by its name and focuses it.
-    static void choose(frmSection &window, const char *field)
+    static void choose(frmScreen &window, const char *field)
     {
         window.Box<QComboBox>("cmbField").setCurrentText(QString::fromUtf8(field));
     }
@@ -104,7 +104,7 @@ protected:
         return dates;
     }
 
-    std::unique_ptr<frmSection> screen;
+    std::unique_ptr<frmScreen> screen;
 };
 
 } // namespace
@@ -188,7 +188,7 @@ TEST_F(ChangeSelected, SetsTheFeeEarnerOfAllMarkedRowsAsOneStep)
     open();
     mark(2, 4);
     EXPECT_TRUE(offers());
-    change([](frmSection &window) {
+    change([](frmScreen &window) {
         EXPECT_EQ(QStringLiteral("Change Selected"), window.windowTitle());
         EXPECT_EQ(QStringLiteral("cmbField"), focused(window));
         EXPECT_TRUE(window.Box("cmbFeeEarner").isVisible());
@@ -212,7 +212,7 @@ TEST_F(ChangeSelected, SetsTheDateAndKeepsTheRowsWhereverItPutsThem)
     addItems();
     open();
     mark(1, 2);
-    change([](frmSection &window) {
+    change([](frmScreen &window) {
         choose(window, "Date");
         EXPECT_TRUE(window.Box("txtDate").isVisible());
         EXPECT_FALSE(window.Box("cmbFeeEarner").isVisible());
@@ -240,7 +240,7 @@ TEST_F(ChangeSelected, AFieldIsCheckedAsInTheEditorOfTheItem)
     open();
     mark(1, 2);
     const QString before = stored();
-    change([this, &before](frmSection &window) {
+    change([this, &before](frmScreen &window) {
         choose(window, "Date");
         auto &date = window.Box<oDateBox>("txtDate");
         date.setText(QString());
@@ -267,7 +267,7 @@ TEST_F(ChangeSelected, SetsTheEnhancement)
     Form->AddEnhancement()->Name = QStringLiteral("Complexity");
     open();
     mark(3, 4);
-    change([](frmSection &window) {
+    change([](frmScreen &window) {
         choose(window, "Include in Enhancements");
         window.Box<oEnhancementsBox>("oEnhancement").setIncludeInEnhancements(true);
         window.Save();
@@ -285,7 +285,7 @@ TEST_F(ChangeSelected, CancelChangesNothingAndAsksNothing)
     open();
     mark(1, 2);
     const QString before = Form->XMLOutput();
-    change([](frmSection &window) {
+    change([](frmScreen &window) {
         key(window, Qt::Key_F2);
         window.reject();
     });
@@ -333,7 +333,7 @@ TEST_F(ChangeSelected, AListWithOneSuchFieldShowsItAtOnce)
         Form->AddFASItem()->dDate = QString::fromLatin1(date);
     open("Family Advocacy Scheme");
     mark(1, 2, "sgFamilyAdvocacyScheme");
-    change([this](frmSection &window) {
+    change([this](frmScreen &window) {
         EXPECT_FALSE(window.findChild<QComboBox *>(QStringLiteral("cmbField")));
         type(window.Box("txtDate"), QString());
         window.Save();
@@ -359,7 +359,7 @@ TEST_F(ChangeSelected, TenThousandItemsAreChangedAtOnce)
     EXPECT_EQ(QStringLiteral("10000 of 10000 items"), total().first());
     const qint64 marked = time.restart();
     qint64 changed = 0;
-    change([&](frmSection &window) {
+    change([&](frmScreen &window) {
         key(window, Qt::Key_F2);
         time.restart();
         window.Save();

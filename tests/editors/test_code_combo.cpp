@@ -10,16 +10,16 @@ namespace {
 
 class CodeCombo : public clsScheduleTest {
 protected:
-    static oCodeCombo &code(const frmSection &screen) { return screen.Box<oCodeCombo>("cmbCode"); }
+    static oCodeCombo &code(const frmScreen &screen) { return screen.Box<oCodeCombo>("cmbCode"); }
     /// An item's editor, with a text typed in its code box.
-    std::unique_ptr<frmSection> typed(const char *text)
+    std::unique_ptr<frmScreen> typed(const char *text)
     {
         item = addItem("01/02/26", "AOT");
         auto screen = editItem(item);
         type(code(*screen), QString::fromUtf8(text));
         return screen;
     }
-    void expectHeld(const frmSection &screen, const char *text)
+    void expectHeld(const frmScreen &screen, const char *text)
     {
         expectInvalidCode();
         EXPECT_TRUE(screen.isVisible());

@@ -48,14 +48,14 @@ protected:
     }
     QString current() const { return list().currentIndex().data().toString(); }
     /// Presses "Codes..." and calls `act` with the window that opens.
-    void inCodes(const std::function<void(frmSection &)> &act)
+    void inCodes(const std::function<void(frmScreen &)> &act)
     {
         openList();
         auto *change = list().window()->findChild<oCustomButton *>(QStringLiteral("cmdCodeWords"));
         ASSERT_TRUE(change);
         bool opened = false;
         QTimer::singleShot(100, screen.get(), [&] {
-            auto *codes = qobject_cast<frmSection *>(QApplication::activeModalWidget());
+            auto *codes = qobject_cast<frmScreen *>(QApplication::activeModalWidget());
             ASSERT_TRUE(codes);
             ASSERT_EQ(QStringLiteral("frmCodeWords"), codes->objectName());
             opened = true;
@@ -67,10 +67,10 @@ protected:
         QTest::qWait(300);
         EXPECT_TRUE(opened);
     }
-    static oAllPurposeBox &words(const frmSection &codes, const char *name) { return codes.Box<oAllPurposeBox>(name); }
+    static oAllPurposeBox &words(const frmScreen &codes, const char *name) { return codes.Box<oAllPurposeBox>(name); }
 
     Item item;
-    std::unique_ptr<frmSection> screen;
+    std::unique_ptr<frmScreen> screen;
 };
 
 } // namespace
@@ -162,7 +162,7 @@ TEST_F(CodeWordsList, BesideTheBoxStandsWhatTheCodeIs)
 TEST_F(CodeWordsList, TheWordsAreChangedFromTheList)
 {
     open();
-    inCodes([](frmSection &codes) {
+    inCodes([](frmScreen &codes) {
         EXPECT_EQ(QStringLiteral("Final hearing"), words(codes, "txtHFN").Text());
         words(codes, "txtHFN").setText(QStringLiteral("Last hearing"));
         words(codes, "txtAOT").setText(QStringLiteral("Attending others"));
@@ -180,16 +180,16 @@ TEST_F(CodeWordsList, TheWordsAreChangedFromTheList)
 TEST_F(CodeWordsList, CancelAndASaveWithoutAChangeLeaveTheFile)
 {
     open();
-    inCodes([](frmSection &codes) { words(codes, "txtHFN").setText(QStringLiteral("Last hearing")); });
+    inCodes([](frmScreen &codes) { words(codes, "txtHFN").setText(QStringLiteral("Last hearing")); });
     EXPECT_EQ(QByteArray(Csv), bytesOf(path("Databases/Codes.csv")));
-    inCodes([](frmSection &codes) { codes.Save(); });
+    inCodes([](frmScreen &codes) { codes.Save(); });
     EXPECT_EQ(QByteArray(Csv), bytesOf(path("Databases/Codes.csv")));
 }
 
 TEST_F(CodeWordsList, WhatCantBeWrittenIsToldOnceAndNothingTypedIsLost)
 {
     open();
-    inCodes([this](frmSection &codes) {
+    inCodes([this](frmScreen &codes) {
         words(codes, "txtHFN").setText(QStringLiteral("Last hearing"));
         FileSystem().faultPoint = [](clsFileStep step, const QString &) {
             return clsFileFault {step == clsFileStep::OpenToWrite || step == clsFileStep::Truncate ? EACCES : 0};
@@ -214,7 +214,7 @@ TEST_F(CodeWordsList, LinesThatCantBeUsedAreToldInTheListAndInTheWindow)
         texts << label->text();
     EXPECT_TRUE(texts.contains(told));
     box().hidePopup();
-    inCodes([&](frmSection &codes) {
+    inCodes([&](frmScreen &codes) {
         EXPECT_EQ(told, codes.findChild<oHeaderBar *>(QStringLiteral("oHeader"))->SubCaption());
     });
     EXPECT_TRUE(user.messages.empty());

@@ -269,7 +269,7 @@ TEST_F(Communications, ADoubleClickOpensTheTypedEntryInTheFieldOfItsColumn)
         = {{CallsColumn, "txtCalls"}, {LettersInColumn, "txtLettersIn"}, {LettersOutColumn, "txtLettersOut"}};
     for (const auto &[column, box] : columns)
         inModal([this, at = column] { QTest::mouseDClick(view().viewport(), Qt::LeftButton, {}, middleOf(2, at)); },
-            [name = box](frmSection &entry) {
+            [name = box](frmScreen &entry) {
                 EXPECT_EQ(QStringLiteral("frmCorrespondences"), entry.objectName());
                 EXPECT_EQ(QString::fromUtf8(name), focusedName(entry));
                 EXPECT_EQ(QStringLiteral("5"), entry.Box<oIntegerBox>("txtLettersIn").Text());
@@ -288,7 +288,7 @@ TEST_F(Communications, ReturnOpensTheTypedEntryInTheFieldOfTheGridsColumn)
     // The mark starts on the calls.
     const auto opensIn = [this](const char *box) {
         inModal([this] { press(Qt::Key_Return); },
-            [box](frmSection &entry) {
+            [box](frmScreen &entry) {
                 EXPECT_EQ(QString::fromUtf8(box), focusedName(entry));
                 QTest::keyClicks(entry.focusWidget(), QStringLiteral("40"));
                 QTest::keyClick(entry.focusWidget(), Qt::Key_Return);

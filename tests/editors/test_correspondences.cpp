@@ -14,7 +14,7 @@ namespace {
 /// The screen for typing a fee earner's counts, opened on the second of two.
 class Correspondences : public clsScreenTest {
 protected:
-    std::unique_ptr<frmSection> screen = nullptr;
+    std::unique_ptr<frmScreen> screen = nullptr;
 
     void SetUp() override
     {
@@ -23,7 +23,7 @@ protected:
         const auto person = Form->AddFeeEarner();
         person->Calls = 12;
         person->LettersOut = 345;
-        screen = std::make_unique<frmSection>(ScreenCorrespondences());
+        screen = std::make_unique<frmScreen>(ScreenCorrespondences());
         screen->Initialise(person.get());
         show(*screen);
     }

@@ -35,7 +35,7 @@ TEST_F(CounselBox, WithoutCounselThereIsNothingToTickUntilOneIsAdded)
     for (const QWidget *each : box->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly))
         EXPECT_TRUE(each->isVisible());
     inModal([&] { click(add(*box)); },
-        [](frmSection &screen) {
+        [](frmScreen &screen) {
             EXPECT_EQ(QStringLiteral("frmCounselEdit"), screen.objectName());
             type(screen.Box("txtName"), QStringLiteral("Ms A. Barrister"));
             press(screen, "cmdSave");
@@ -55,7 +55,7 @@ TEST_F(CounselBox, CancellingAnAddAddsNobody)
 {
     const auto box = shown<oCounselBox>();
     inModal([&] { click(add(*box)); },
-        [](frmSection &screen) {
+        [](frmScreen &screen) {
             type(screen.Box("txtName"), QStringLiteral("Ms A. Barrister"));
             press(screen, "cmdCancel");
         });
@@ -72,7 +72,7 @@ TEST_F(CounselBox, AddingKeepsTheChosenCounsel)
     box->setCounselUniqueID(second);
     QSignalSpy changed(box.get(), &oCounselBox::Change);
     inModal([&] { click(add(*box)); },
-        [](frmSection &screen) {
+        [](frmScreen &screen) {
             type(screen.Box("txtName"), QStringLiteral("Ms C"));
             press(screen, "cmdSave");
         });
@@ -89,7 +89,7 @@ TEST_F(CounselBox, EditOpensTheChosenCounselAndShowsTheNewName)
     box->setCounsel(true);
     box->setCounselUniqueID(second);
     inModal([&] { click(edit(*box)); },
-        [](frmSection &screen) {
+        [](frmScreen &screen) {
             EXPECT_EQ(QStringLiteral("Mr B"), mdTextOf(screen.Box("txtName")));
             type(screen.Box("txtName"), QStringLiteral("Mr Bee"));
             press(screen, "cmdSave");
@@ -184,7 +184,7 @@ TEST_F(CounselBox, IsUsedByTheKeyboardAlone)
     key(*screen, letter, Qt::AltModifier);
     EXPECT_EQ(QStringLiteral("cmdAddCounsel"), focused(*screen));
     inModal([&] { key(*screen, Qt::Key_Space); },
-        [](frmSection &editor) {
+        [](frmScreen &editor) {
             EXPECT_EQ(QStringLiteral("txtName"), focusedName(editor));
             QTest::keyClicks(editor.focusWidget(), QStringLiteral("Ms A"));
             key(editor, Qt::Key_Return);
@@ -202,7 +202,7 @@ TEST_F(CounselBox, IsUsedByTheKeyboardAlone)
     EXPECT_EQ(QStringLiteral("cmdAddCounsel"), focused(*screen));
     key(*screen, Qt::Key_Tab);
     EXPECT_EQ(QStringLiteral("cmdEditCounsel"), focused(*screen));
-    inModal([&] { key(*screen, Qt::Key_Return); }, [](frmSection &editor) { key(editor, Qt::Key_Escape); });
+    inModal([&] { key(*screen, Qt::Key_Return); }, [](frmScreen &editor) { key(editor, Qt::Key_Escape); });
     EXPECT_TRUE(screen->isVisible());
     EXPECT_EQ(QStringLiteral("cmdEditCounsel"), focused(*screen));
     key(*screen, Qt::Key_Tab);

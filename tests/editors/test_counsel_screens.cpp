@@ -17,9 +17,9 @@ namespace {
 
 class CounselScreens : public clsModalTest {
 protected:
-    static std::unique_ptr<frmSection> edited(const clsScreen &table, clsXMLRecord *record)
+    static std::unique_ptr<frmScreen> edited(const clsScreen &table, clsXMLRecord *record)
     {
-        auto screen = std::make_unique<frmSection>(table);
+        auto screen = std::make_unique<frmScreen>(table);
         screen->Initialise(record);
         show(*screen);
         return screen;
@@ -35,8 +35,8 @@ protected:
         enhancement->Name = QString::fromUtf8(name);
         enhancement->Rate = QString::fromUtf8(rate);
     }
-    static oSGrid &counsel(const frmSection &screen) { return screen.Box<oSGrid>("sgCounsel"); }
-    static oSGrid &enhancements(const frmSection &screen) { return screen.Box<oSGrid>("sgEnhancements"); }
+    static oSGrid &counsel(const frmScreen &screen) { return screen.Box<oSGrid>("sgCounsel"); }
+    static oSGrid &enhancements(const frmScreen &screen) { return screen.Box<oSGrid>("sgEnhancements"); }
     static QStringList counselInOrder()
     {
         QStringList result;
@@ -73,7 +73,7 @@ protected:
 
 TEST_F(CounselScreens, HaveOneFrameAndTheirButtons)
 {
-    const auto frames = [](const frmSection &screen) {
+    const auto frames = [](const frmScreen &screen) {
         QStringList result;
         for (const oFrame *frame : screen.findChildren<oFrame *>())
             result << frame->Caption();
@@ -84,8 +84,8 @@ TEST_F(CounselScreens, HaveOneFrameAndTheirButtons)
     };
     EXPECT_EQ(QStringLiteral("Counsel|Add|Close"), frames(*created(QStringLiteral("Counsel"))));
     EXPECT_EQ(QStringLiteral("Enhancements|Add|Close"), frames(*created(QStringLiteral("Enhancements"))));
-    EXPECT_EQ(QStringLiteral("Counsel Setup|Save and Add|Save|Cancel"), frames(frmSection(ScreenCounselEdit())));
-    EXPECT_EQ(QStringLiteral("Enhancement|Save and Add|Save|Cancel"), frames(frmSection(ScreenEnhancementEdit())));
+    EXPECT_EQ(QStringLiteral("Counsel Setup|Save and Add|Save|Cancel"), frames(frmScreen(ScreenCounselEdit())));
+    EXPECT_EQ(QStringLiteral("Enhancement|Save and Add|Save|Cancel"), frames(frmScreen(ScreenEnhancementEdit())));
 }
 
 TEST_F(CounselScreens, TheListsShowTheirColumns)
@@ -268,7 +268,7 @@ TEST_F(CounselScreens, AnotherRateReprices)
     EXPECT_EQ(QStringLiteral("600"), MoneyToText(CommsClaimAtLine(*Form, 1, clsCommsKind::Calls)));
     const auto screen = opened(QStringLiteral("Enhancements"));
     inModal([&] { key(*screen, Qt::Key_Return); },
-        [](frmSection &editor) {
+        [](frmScreen &editor) {
             type(editor.Box("txtRate"), QStringLiteral("25"));
             press(editor, "cmdSave");
         });
@@ -296,7 +296,7 @@ TEST_F(CounselScreens, TheListsAreUsedByTheKeyboardAlone)
     EXPECT_EQ(QStringLiteral("sgEnhancements"), focusedName(*screen));
     for (const char *name : {"Novel", "Urgent"})
         inModal([&] { key(*screen, Qt::Key_A, Qt::AltModifier); },
-            [name](frmSection &editor) {
+            [name](frmScreen &editor) {
                 EXPECT_EQ(QStringLiteral("txtName"), focusedName(editor));
                 QTest::keyClicks(editor.focusWidget(), QString::fromUtf8(name));
                 key(editor, Qt::Key_Tab);
@@ -308,7 +308,7 @@ TEST_F(CounselScreens, TheListsAreUsedByTheKeyboardAlone)
     EXPECT_EQ(QStringLiteral("12.50"), Form->Enhancement(2)->Rate());
     EXPECT_EQ(2, enhancements(*screen).SelectedRow());
     inModal([&] { key(*screen, Qt::Key_Return); },
-        [](frmSection &editor) {
+        [](frmScreen &editor) {
             EXPECT_EQ(QStringLiteral("Urgent"), mdTextOf(editor.Box("txtName")));
             key(editor, Qt::Key_Escape);
         });

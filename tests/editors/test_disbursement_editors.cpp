@@ -23,14 +23,14 @@ using Editor = const clsScreen &(*)();
 /// What the three editors share, and what each does with VAT.
 class DisbursementEditors : public clsScreenTest {
 protected:
-    static std::unique_ptr<frmSection> edit(Editor editor, clsXMLRecord *item = nullptr)
+    static std::unique_ptr<frmScreen> edit(Editor editor, clsXMLRecord *item = nullptr)
     {
-        auto screen = std::make_unique<frmSection>(editor());
+        auto screen = std::make_unique<frmScreen>(editor());
         screen->Initialise(item);
         show(*screen);
         return screen;
     }
-    static QString text(const frmSection &screen, const char *box) { return mdTextOf(screen.Box(box)); }
+    static QString text(const frmScreen &screen, const char *box) { return mdTextOf(screen.Box(box)); }
     static void addCounsel(const char *name) { Form->AddCounsel()->Name = QString::fromUtf8(name); }
 };
 
@@ -61,7 +61,7 @@ const std::vector<clsEditorCase> Editors {
 };
 // clang-format on
 
-const clsExpectedScreen &expectedOf(const frmSection &screen)
+const clsExpectedScreen &expectedOf(const frmScreen &screen)
 {
     return *std::find_if(ExpectedDisbursementScreens.begin(), ExpectedDisbursementScreens.end(),
         [&](const clsExpectedScreen &row) { return QLatin1String(row.name) == screen.objectName(); });

@@ -122,7 +122,7 @@ TEST_F(Disbursements, ItemsAreAddedEditedAndDeletedByKeyboardAlone)
 
         // Presses "Add" after the grid, and fills in the editor from its first field.
         for (const char *text : {"first", "second"}) {
-            const auto fill = [&](frmSection &editor) {
+            const auto fill = [&](frmScreen &editor) {
                 for (size_t i = 0; i < page.required.size(); ++i) {
                     EXPECT_EQ(QString::fromUtf8(page.required[i]), focusedName(editor));
                     over(editor, QString::fromUtf8(text));
@@ -149,7 +149,7 @@ TEST_F(Disbursements, ItemsAreAddedEditedAndDeletedByKeyboardAlone)
         // Return opens the row.
         key(*screen, Qt::Key_Up);
         inModal([&] { key(*screen, Qt::Key_Return); },
-            [&](frmSection &editor) {
+            [&](frmScreen &editor) {
                 over(editor, QStringLiteral("changed"));
                 key(editor, Qt::Key_Return);
             });
@@ -191,7 +191,7 @@ TEST_F(Disbursements, AMenuDeletesAndADoubleClickEdits)
             QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, second);
             QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, second);
         },
-        [](frmSection &editor) {
+        [](frmScreen &editor) {
             EXPECT_EQ(QStringLiteral("two"), editor.Box<oAllPurposeBox>("txtDescription").Text());
             press(editor, "cmdCancel");
         });
@@ -206,7 +206,7 @@ TEST_F(Disbursements, ACancelledAddLeavesNothing)
         const auto screen = disbursements();
         openPage(*screen, page.page);
         inModal([&] { key(*screen, Qt::Key_Insert); },
-            [](frmSection &editor) { QTest::keyClick(editor.focusWidget(), Qt::Key_Escape); });
+            [](frmScreen &editor) { QTest::keyClick(editor.focusWidget(), Qt::Key_Escape); });
         EXPECT_EQ(0, page.count()) << page.editor;
         EXPECT_TRUE(hasFocus(*screen, page.grid)) << page.grid;
     }
@@ -223,7 +223,7 @@ TEST_F(Disbursements, ADisbursementSavedAsCounselsMovesToTheFeesAtOnceAndBack)
     const auto setCounsel = [&](bool counsel) {
         grid(*screen, "sgOtherDisbursements").SelectRow(2);
         inModal([&] { key(*screen, Qt::Key_Return); },
-            [counsel](frmSection &editor) {
+            [counsel](frmScreen &editor) {
                 editor.Box<oCounselBox>("oCounsel").setCounsel(counsel);
                 press(editor, "cmdSave");
             });
@@ -256,7 +256,7 @@ TEST_F(Disbursements, BothCollectionsFollowAddDeleteAndOrder)
     EXPECT_EQ(QStringList({QStringLiteral("a"), QStringLiteral("b")}), others());
 
     inModal([&] { key(*screen, Qt::Key_Insert); },
-        [](frmSection &editor) {
+        [](frmScreen &editor) {
             over(editor, QStringLiteral("c"));
             press(editor, "cmdSave");
         });
@@ -306,14 +306,14 @@ TEST_F(Disbursements, WithoutCounselTheTickIsDisabledUntilOneIsAddedInTheBox)
     const auto screen = disbursements();
     openPage(*screen, 4);
     inModal([&] { key(*screen, Qt::Key_Insert); },
-        [](frmSection &editor) {
+        [](frmScreen &editor) {
             over(editor, QStringLiteral("Brief fee"));
             auto &box = editor.Box<oCounselBox>("oCounsel");
             const auto *tick = box.findChild<oCheckBox *>(QStringLiteral("chkCounsel"));
             ASSERT_TRUE(tick);
             EXPECT_FALSE(tick->isEnabled());
             inModal([&] { press(editor, "cmdAddCounsel"); },
-                [](frmSection &counsel) {
+                [](frmScreen &counsel) {
                     over(counsel, QStringLiteral("Ms Lacey"));
                     key(counsel, Qt::Key_Return);
                 });

@@ -189,7 +189,7 @@ TEST_F(EnhancementsBox, TheRowMayNameTheProperties)
 
 TEST_F(EnhancementsBox, APropertyThatTheRecordLacksIsAnError)
 {
-    frmSection wrong(TimeItem);
+    frmScreen wrong(TimeItem);
     EXPECT_EQ(clsRunTimeError::ObjectNotSet, errorOf([&wrong] { wrong.Initialise(Form->AddCounsel().get()); }));
 }
 

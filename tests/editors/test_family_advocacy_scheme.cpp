@@ -16,9 +16,9 @@ class FamilyAdvocacyScheme : public clsScheduleTest {
 protected:
     using Hearing = std::shared_ptr<clsZR3FASItem>;
 
-    static std::unique_ptr<frmSection> hearings() { return opened(QStringLiteral("Family Advocacy Scheme")); }
-    static oSGrid &grid(const frmSection &screen) { return screen.Box<oSGrid>("sgFamilyAdvocacyScheme"); }
-    static std::unique_ptr<frmSection> editHearing(const Hearing &hearing = nullptr)
+    static std::unique_ptr<frmScreen> hearings() { return opened(QStringLiteral("Family Advocacy Scheme")); }
+    static oSGrid &grid(const frmScreen &screen) { return screen.Box<oSGrid>("sgFamilyAdvocacyScheme"); }
+    static std::unique_ptr<frmScreen> editHearing(const Hearing &hearing = nullptr)
     {
         return edit(ScreenFASItemEdit(), hearing.get());
     }
@@ -31,7 +31,7 @@ protected:
             hearing->field(QString::fromUtf8(amount))->writeText(QStringLiteral("0.00"));
         return hearing;
     }
-    static Hearing saved(frmSection &screen)
+    static Hearing saved(frmScreen &screen)
     {
         key(screen, Qt::Key_Return);
         EXPECT_FALSE(screen.isVisible());
@@ -92,7 +92,7 @@ TEST_F(FamilyAdvocacyScheme, AddEditAndDeleteKeepTheContinuationPagesUpToDate)
     addHearing("01/02/26");
     const auto screen = hearings();
     inModal([&] { key(*screen, Qt::Key_A, Qt::AltModifier); },
-        [](frmSection &editor) {
+        [](frmScreen &editor) {
             EXPECT_EQ(QStringLiteral("frmFASItemEdit"), editor.objectName());
             EXPECT_EQ(QStringLiteral("txtDate"), focusedName(editor));
             QTest::keyClicks(editor.focusWidget(), QStringLiteral("5.1.26"));
@@ -106,7 +106,7 @@ TEST_F(FamilyAdvocacyScheme, AddEditAndDeleteKeepTheContinuationPagesUpToDate)
     EXPECT_EQ(1u, Form->FASBoltOnPaymentsCollection().size());
     EXPECT_EQ(1u, Form->FASTravelBoltOnsCollection().size()) << "a distance without a reason";
     inModal([&] { key(*screen, Qt::Key_Return); },
-        [](frmSection &editor) {
+        [](frmScreen &editor) {
             type(editor.Box("txtBoltOnDescription"), QString());
             type(editor.Box("txtExceptionalTravelDistance"), QString());
             type(editor.Box("txtExceptionalTravelReason"), QStringLiteral("None closer"));
@@ -285,7 +285,7 @@ TEST_F(FamilyAdvocacyScheme, AnyHearingStandsForTheAdvocacyOfTheBill)
     EXPECT_EQ(QStringLiteral("60"), advocacyOf("Claim1A"));
     const auto screen = hearings();
     inModal([&] { key(*screen, Qt::Key_Insert); },
-        [](frmSection &editor) {
+        [](frmScreen &editor) {
             QTest::keyClicks(editor.focusWidget(), QStringLiteral("5.1.26"));
             type(editor.Box("txtSettlementFee"), QStringLiteral("0.01"));
             key(editor, Qt::Key_Return);

@@ -6,7 +6,7 @@ namespace {
 
 class FeeEarnerEdit : public clsFeeEarnersTest {
 protected:
-    static std::unique_ptr<frmSection> edit(clsXMLRecord *item)
+    static std::unique_ptr<frmScreen> edit(clsXMLRecord *item)
     {
         return clsFeeEarnersTest::edit(ScreenFeeEarnerEdit(), item);
     }

@@ -52,12 +52,12 @@ protected:
         clsFeeEarnersTest::TearDown();
     }
 
-    static std::unique_ptr<frmSection> edit(clsXMLRecord *item)
+    static std::unique_ptr<frmScreen> edit(clsXMLRecord *item)
     {
         return clsFeeEarnersTest::edit(ScreenFeeEarnerGroupEdit(), item);
     }
-    static QString amount(const frmSection &screen, const char *name) { return screen.Box<oDecimalBox>(name).Text(); }
-    static oCheckBox &tick(const frmSection &screen, const char *name) { return screen.Box<oCheckBox>(name); }
+    static QString amount(const frmScreen &screen, const char *name) { return screen.Box<oDecimalBox>(name).Text(); }
+    static oCheckBox &tick(const frmScreen &screen, const char *name) { return screen.Box<oCheckBox>(name); }
     /// Adds a rate set with the rates 1.00 and so on, counted from `first`.
     static void addRateSet(const char *name, int first)
     {
@@ -67,7 +67,7 @@ protected:
             rateSet->field(QString::fromUtf8(Rates[i].member))->writeText(QString::number(first + int(i)) + ".00");
     }
     /// Opens the menu of the rate sets like a user.
-    static QMenu &openMenu(frmSection &screen)
+    static QMenu &openMenu(frmScreen &screen)
     {
         press(screen, "cmdLoad");
         auto *menu = screen.findChild<QMenu *>(QStringLiteral("mnuRateSets"));
@@ -319,7 +319,7 @@ TEST_F(FeeEarnerGroupEdit, EditRateSetsOpensThatPageOfThePreferencesAndLoadHasWh
     const auto screen = edit(nullptr);
     type(screen->Box("txtReference"), QStringLiteral("PTR"));
     inModal([&] { press(*screen, "cmdEditRateSets"); },
-        [](frmSection &preferences) {
+        [](frmScreen &preferences) {
             EXPECT_EQ(QStringLiteral("frmPreferences"), preferences.objectName());
             EXPECT_EQ(3, preferences.Switcher().OpenPage());
             addRateSet("Leeds", 11);

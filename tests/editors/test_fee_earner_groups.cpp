@@ -11,10 +11,10 @@ namespace {
 
 class FeeEarnerGroups : public clsFeeEarnersTest {
 protected:
-    static std::unique_ptr<frmSection> lists() { return opened(QStringLiteral("Fee Earners / Rates")); }
-    static oSGrid &groups(const frmSection &screen) { return screen.Box<oSGrid>("sgFeeEarnerGroups"); }
-    static oSGrid &feeEarners(const frmSection &screen) { return screen.Box<oSGrid>("sgFeeEarners"); }
-    static bool canAddFeeEarner(const frmSection &screen) { return screen.Box("cmdAddFeeEarner").isEnabled(); }
+    static std::unique_ptr<frmScreen> lists() { return opened(QStringLiteral("Fee Earners / Rates")); }
+    static oSGrid &groups(const frmScreen &screen) { return screen.Box<oSGrid>("sgFeeEarnerGroups"); }
+    static oSGrid &feeEarners(const frmScreen &screen) { return screen.Box<oSGrid>("sgFeeEarners"); }
+    static bool canAddFeeEarner(const frmScreen &screen) { return screen.Box("cmdAddFeeEarner").isEnabled(); }
     void expectMessage(const char *title, const QString &text, clsUserInterface::Buttons buttons)
     {
         ASSERT_EQ(1u, user.messages.size());
@@ -101,7 +101,7 @@ TEST_F(FeeEarnerGroups, FeeEarnersCanBeAddedOnlyWhileThereIsAGroup)
     EXPECT_FALSE(canAddFeeEarner(*screen));
     EXPECT_EQ(QStringLiteral("Add a group first."), screen->Box("cmdAddFeeEarner").toolTip());
     inModal([&] { press(*screen, "cmdAddFeeEarnerGroup"); },
-        [](frmSection &editor) {
+        [](frmScreen &editor) {
             EXPECT_EQ(QStringLiteral("frmFeeEarnerGroupEdit"), editor.objectName());
             type(editor.Box("txtReference"), QStringLiteral("PTR"));
             type(editor.Box("txtName"), QStringLiteral("Partner"));
@@ -126,7 +126,7 @@ TEST_F(FeeEarnerGroups, AFirmIsEnteredWithTheKeyboardAlone)
     int n = 0;
     for (const char *reference : {"PTR", "SOL"}) {
         inModal([&] { key(*screen, Qt::Key_A, Qt::AltModifier); },
-            [reference](frmSection &editor) {
+            [reference](frmScreen &editor) {
                 QTest::keyClicks(editor.focusWidget(), QString::fromUtf8(reference));
                 key(editor, Qt::Key_Tab);
                 QTest::keyClicks(editor.focusWidget(), QStringLiteral("Grade ") + QString::fromUtf8(reference));
@@ -141,7 +141,7 @@ TEST_F(FeeEarnerGroups, AFirmIsEnteredWithTheKeyboardAlone)
     const qsizetype mark = caption.indexOf(u'&');
     ASSERT_GE(mark, 0);
     inModal([&] { key(*screen, Qt::Key(caption[mark + 1].toUpper().unicode()), Qt::AltModifier); },
-        [](frmSection &editor) {
+        [](frmScreen &editor) {
             EXPECT_EQ(QStringLiteral("frmFeeEarnerEdit"), editor.objectName());
             QTest::keyClicks(editor.focusWidget(), QStringLiteral("JH"));
             key(editor, Qt::Key_Tab);
@@ -164,7 +164,7 @@ TEST_F(FeeEarnerGroups, ADoubleClickEditsTheRowAndAGroupsNewReferenceShowsInBoth
     const QPoint second = view.visualRect(view.model()->index(1, 0)).center();
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, second);
     inModal([&] { QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, second); },
-        [&solicitor](frmSection &editor) {
+        [&solicitor](frmScreen &editor) {
             EXPECT_EQ(solicitor.get(), editor.Record());
             type(editor.Box("txtReference"), QStringLiteral("ASO"));
             press(editor, "cmdSave");
@@ -319,7 +319,7 @@ TEST_F(FeeEarnerGroups, AnEditorThatIsLeftByItsCloseBoxMakesNothing)
 {
     addGroup("PTR");
     const auto screen = lists();
-    inModal([&] { press(*screen, "cmdAddFeeEarner"); }, [](frmSection &editor) { editor.close(); });
+    inModal([&] { press(*screen, "cmdAddFeeEarner"); }, [](frmScreen &editor) { editor.close(); });
     EXPECT_TRUE(Form->FeeEarnersCollection().empty());
     EXPECT_EQ(QStringLiteral("sgFeeEarners"), focusedName(*screen));
 }

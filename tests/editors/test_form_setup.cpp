@@ -12,10 +12,10 @@ namespace {
 
 class FormSetup : public clsScreenTest {
 protected:
-    static std::unique_ptr<frmSection> setup() { return opened(QStringLiteral("Form Setup")); }
-    static oCheckBox &tick(const frmSection &screen, const char *name) { return screen.Box<oCheckBox>(name); }
-    static QComboBox &type(const frmSection &screen) { return screen.Box<QComboBox>("cmbFormType"); }
-    static bool lastPagesEnabled(const frmSection &screen)
+    static std::unique_ptr<frmScreen> setup() { return opened(QStringLiteral("Form Setup")); }
+    static oCheckBox &tick(const frmScreen &screen, const char *name) { return screen.Box<oCheckBox>(name); }
+    static QComboBox &type(const frmScreen &screen) { return screen.Box<QComboBox>("cmbFormType"); }
+    static bool lastPagesEnabled(const frmScreen &screen)
     {
         const bool enabled = screen.Box("chkIncludePage11").isEnabled();
         for (const char *page : {"chkIncludePage12", "chkIncludePage13"})

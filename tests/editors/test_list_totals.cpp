@@ -9,7 +9,7 @@ namespace {
 
 class ListTotals : public clsScheduleTest {
 protected:
-    static oListTotal &total(const frmSection &screen, const char *grid)
+    static oListTotal &total(const frmScreen &screen, const char *grid)
     {
         auto *found = screen.findChild<oListTotal *>(QString::fromLatin1(grid) + QStringLiteral("Total"));
         if (!found)
@@ -17,7 +17,7 @@ protected:
         QTest::qWait(20);
         return *found;
     }
-    static QStringList shown(const frmSection &screen, const char *grid)
+    static QStringList shown(const frmScreen &screen, const char *grid)
     {
         const oListTotal &found = total(screen, grid);
         return {found.Counted(), found.Figure()};

@@ -64,7 +64,7 @@ protected:
         return result;
     }
 
-    std::unique_ptr<frmSection> screen;
+    std::unique_ptr<frmScreen> screen;
     static constexpr const char *Schedule = "sgScheduleOfTime";
 };
 
@@ -130,14 +130,14 @@ TEST_F(ListUndo, AddedEditedAndMovedItemsAreSteps)
     EXPECT_NE(before, moved);
 
     inModal([&] { QTest::keyClick(screen->focusWidget(), Qt::Key_Return); },
-        [](frmSection &editor) {
+        [](frmScreen &editor) {
             type(editor.Box("txtTime"), QStringLiteral("02:30"));
             editor.Save();
         });
     EXPECT_EQ(QStringLiteral("Edit 01/01/26 ABC 02:30"), Document().history.undoName());
 
     inModal([&] { QTest::keyClick(screen->focusWidget(), Qt::Key_Insert); },
-        [](frmSection &editor) {
+        [](frmScreen &editor) {
             EXPECT_FALSE(Document().history.canUndo()) << "no step goes back under an open editor";
             type(editor.Box("txtDate"), QStringLiteral("05/01/26"));
             type(editor.Box("cmbCode"), QStringLiteral("ACT"));
@@ -165,7 +165,7 @@ TEST_F(ListUndo, ACancelledEditorIsNoStep)
     open("Schedule of Time");
     focusPart(grid(Schedule))->setFocus();
     inModal(
-        [&] { QTest::keyClick(screen->focusWidget(), Qt::Key_Return); }, [](frmSection &editor) { editor.Cancel(); });
+        [&] { QTest::keyClick(screen->focusWidget(), Qt::Key_Return); }, [](frmScreen &editor) { editor.Cancel(); });
     EXPECT_FALSE(Document().history.canUndo());
 }
 

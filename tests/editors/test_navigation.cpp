@@ -17,7 +17,7 @@ class Navigation : public clsScreenTest {
 protected:
     struct Step {
         const char *screen;
-        std::function<void(frmSection &)> act;
+        std::function<void(frmScreen &)> act;
     };
 
     void SetUp() override
@@ -51,9 +51,9 @@ protected:
         m_timer.stop();
         EXPECT_TRUE(m_steps.empty()) << m_steps.size() << " steps were not taken";
     }
-    static void goNext(frmSection &screen) { press(screen, "btnRight"); }
-    static void goBack(frmSection &screen) { press(screen, "btnLeft"); }
-    static void cancel(frmSection &screen) { press(screen, "cmdCancel"); }
+    static void goNext(frmScreen &screen) { press(screen, "btnRight"); }
+    static void goBack(frmScreen &screen) { press(screen, "btnLeft"); }
+    static void cancel(frmScreen &screen) { press(screen, "cmdCancel"); }
 
     QStringList openedTexts;
     size_t mostAlive = 0;
@@ -61,11 +61,11 @@ protected:
 private:
     void next()
     {
-        auto *screen = qobject_cast<frmSection *>(QApplication::activeModalWidget());
+        auto *screen = qobject_cast<frmScreen *>(QApplication::activeModalWidget());
         if (screen && !m_steps.empty() && screen->objectName() == QString::fromUtf8(m_steps.front().screen)) {
             size_t alive = 0;
             for (QWidget *window : QApplication::topLevelWidgets())
-                alive += qobject_cast<frmSection *>(window) ? 1 : 0;
+                alive += qobject_cast<frmScreen *>(window) ? 1 : 0;
             mostAlive = qMax(mostAlive, alive);
             const Step step = m_steps.front();
             m_steps.pop_front();
@@ -77,7 +77,7 @@ private:
             // A test that is stuck fails instead of hanging.
             ADD_FAILURE() << "stuck on " << (screen ? screen->objectName().toStdString() : "no screen");
             for (QWidget *window : QApplication::topLevelWidgets())
-                if (auto *lost = qobject_cast<frmSection *>(window))
+                if (auto *lost = qobject_cast<frmScreen *>(window))
                     lost->done(QDialog::Rejected);
         }
     }
@@ -95,11 +95,11 @@ TEST_F(Navigation, NextStoresAndOpensTheNextAndCancelThereDropsOnlyItsOwn)
 {
     walk(QStringLiteral("Client Details"),
         {{"frmClientDetails",
-             [](frmSection &screen) {
+             [](frmScreen &screen) {
                  type(screen.Box("txtSurname"), QStringLiteral("Hartwell"));
                  goNext(screen);
              }},
-            {"frmSolicitorDetails", [](frmSection &screen) {
+            {"frmSolicitorDetails", [](frmScreen &screen) {
                  EXPECT_EQ(QStringLiteral("Hartwell"), Form->ClientDetails.Surname());
                  type(screen.Box("txtNameOfFirm"), QStringLiteral("Oak"));
                  cancel(screen);
@@ -113,7 +113,7 @@ TEST_F(Navigation, PrevStoresToo)
 {
     walk(QStringLiteral("Solicitor Details"),
         {{"frmSolicitorDetails",
-             [](frmSection &screen) {
+             [](frmScreen &screen) {
                  type(screen.Box("txtNameOfFirm"), QStringLiteral("Oak"));
                  goBack(screen);
              }},
@@ -138,7 +138,7 @@ TEST_F(Navigation, AClaim1APassesCaseInformationBy)
 TEST_F(Navigation, WhereTheTypesDifferAFormOfNeitherStaysWhereItIs)
 {
     Form->FormType = QStringLiteral("Claim2");
-    walk(QStringLiteral("Previous Advice"), {{"frmPreviousAdvice", [](frmSection &screen) {
+    walk(QStringLiteral("Previous Advice"), {{"frmPreviousAdvice", [](frmScreen &screen) {
                                                   goNext(screen);
                                                   EXPECT_TRUE(screen.isVisible());
                                                   cancel(screen);
@@ -199,7 +199,7 @@ TEST_F(Navigation, AModalScreenStandsOverTheWindowBelowAndVeilsIt)
     below.setGeometry(100, 60, 600, 500);
     below.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&below));
-    walk(QStringLiteral("Client Details"), {{"frmClientDetails", [&below](frmSection &screen) {
+    walk(QStringLiteral("Client Details"), {{"frmClientDetails", [&below](frmScreen &screen) {
                                                  EXPECT_TRUE(below.findChild<QWidget *>(QStringLiteral("oVeil")));
                                                  EXPECT_TRUE(screen.isModal());
                                                  const QRect room = screen.screen()->availableGeometry();
@@ -215,7 +215,7 @@ TEST_F(Navigation, AWindowBelowThatGoesTakesItsVeilAlong)
     auto below = std::make_unique<QWidget>();
     below->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(below.get()));
-    walk(QStringLiteral("Client Details"), {{"frmClientDetails", [&below](frmSection &screen) {
+    walk(QStringLiteral("Client Details"), {{"frmClientDetails", [&below](frmScreen &screen) {
                                                  below.reset();
                                                  cancel(screen);
                                              }}});

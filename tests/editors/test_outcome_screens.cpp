@@ -37,7 +37,7 @@ const QString Outcome = QStringLiteral("Outcome of Case");
 
 class OutcomeScreens : public clsRecordTest {
 protected:
-    static QComboBox &list(const frmSection &screen, const char *name) { return screen.Box<QComboBox>(name); }
+    static QComboBox &list(const frmScreen &screen, const char *name) { return screen.Box<QComboBox>(name); }
 };
 
 } // namespace

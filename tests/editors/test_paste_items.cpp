@@ -145,7 +145,7 @@ protected:
         return items;
     }
 
-    std::unique_ptr<frmSection> screen;
+    std::unique_ptr<frmScreen> screen;
     std::unique_ptr<frmPasteItems> window;
 
 private:

@@ -11,7 +11,7 @@ namespace {
 
 class ReplacementEdit : public clsPreferencesTest {
 protected:
-    static std::unique_ptr<frmSection> edit(clsXMLRecord *item = nullptr)
+    static std::unique_ptr<frmScreen> edit(clsXMLRecord *item = nullptr)
     {
         return editor(ScreenReplacementEdit(), item);
     }
@@ -38,12 +38,12 @@ void ReplacementEdit::expectInvalidCharacters(const QString &inputText)
 
 class RateSetEdit : public clsPreferencesTest {
 protected:
-    static std::unique_ptr<frmSection> edit(clsXMLRecord *item = nullptr)
+    static std::unique_ptr<frmScreen> edit(clsXMLRecord *item = nullptr)
     {
         return editor(ScreenPreferencesRateSetEdit(), item);
     }
     /// The texts of the seven rate boxes, in the order of the screen.
-    static QStringList rates(const frmSection &screen)
+    static QStringList rates(const frmScreen &screen)
     {
         QStringList result;
         for (const char *box : {"txtHourly", "txtCalls", "txtLettersIn", "txtLettersOut", "txtAdvocacy", "txtCounsel",

@@ -52,7 +52,7 @@ TEST_F(PreferencesLists, ReplacementsByKeyboardAlone)
     const auto screen = preferences(Replacements);
     EXPECT_EQ(QStringLiteral("sgReplacements"), focusedName(*screen));
     const auto add = [&](const char *input, const char *output) {
-        onceOpened("frmReplacementEdit", [&](frmSection &edit) {
+        onceOpened("frmReplacementEdit", [&](frmScreen &edit) {
             QTest::keyClicks(edit.focusWidget(), QString::fromUtf8(input));
             QTest::keyClick(edit.focusWidget(), Qt::Key_Tab);
             QTest::keyClicks(edit.focusWidget(), QString::fromUtf8(output));
@@ -69,7 +69,7 @@ TEST_F(PreferencesLists, ReplacementsByKeyboardAlone)
     EXPECT_EQ(3, grid(*screen, "sgReplacements").SelectedItemData());
 
     // The second row is the second item, the last row the first item.
-    onceOpened("frmReplacementEdit", [&](frmSection &edit) {
+    onceOpened("frmReplacementEdit", [&](frmScreen &edit) {
         EXPECT_EQ(QStringLiteral("mm"), text(edit, "txtInputText"));
         QTest::keyClick(edit.focusWidget(), Qt::Key_Tab);
         QTest::keyClicks(edit.focusWidget(), QStringLiteral("s"));
@@ -102,7 +102,7 @@ TEST_F(PreferencesLists, RateSetsByKeyboardAlone)
     const auto screen = preferences(RateSets);
     EXPECT_EQ(QStringLiteral("sgRateSets"), focusedName(*screen));
     for (const char *name : {"Outer", "Inner"}) {
-        onceOpened("frmPreferencesRateSetEdit", [&](frmSection &edit) {
+        onceOpened("frmPreferencesRateSetEdit", [&](frmScreen &edit) {
             QTest::keyClicks(edit.focusWidget(), QString::fromUtf8(name));
             QTest::keyClick(edit.focusWidget(), Qt::Key_Tab);
             QTest::keyClicks(edit.focusWidget(), QStringLiteral("100"));
@@ -117,7 +117,7 @@ TEST_F(PreferencesLists, RateSetsByKeyboardAlone)
     EXPECT_EQ(
         QStringList({QStringLiteral("Outer") + rates, QStringLiteral("Inner") + rates}), rows(*screen, "sgRateSets"));
     EXPECT_EQ(2, grid(*screen, "sgRateSets").SelectedRow());
-    onceOpened("frmPreferencesRateSetEdit", [&](frmSection &edit) {
+    onceOpened("frmPreferencesRateSetEdit", [&](frmScreen &edit) {
         EXPECT_EQ(QStringLiteral("Outer"), text(edit, "txtName"));
         QTest::keyClicks(edit.focusWidget(), QStringLiteral(" London"));
         QTest::keyClick(edit.focusWidget(), Qt::Key_Return);
@@ -165,7 +165,7 @@ TEST_F(PreferencesLists, TheMenusDeleteTooAndTheButtonsAdd)
         EXPECT_EQ(QStringLiteral("Add"), add.Caption());
         EXPECT_TRUE(add.isEnabled());
         bool opened = false;
-        onceOpened(list.editor, [&](frmSection &edit) {
+        onceOpened(list.editor, [&](frmScreen &edit) {
             opened = true;
             press(edit, "cmdCancel");
         });
@@ -191,7 +191,7 @@ TEST_F(PreferencesLists, OpensOnThePageThatIsAskedFor)
 {
     for (const int page : {GeneralSettings, Replacements, RateSets}) {
         bool opened = false;
-        onceOpened("frmPreferences", [&](frmSection &screen) {
+        onceOpened("frmPreferences", [&](frmScreen &screen) {
             opened = true;
             EXPECT_EQ(page, screen.Switcher().OpenPage());
             press(screen, "cmdClose");
@@ -207,8 +207,8 @@ TEST_F(PreferencesLists, AnAbbreviationWorksAtTheNextBlank)
     box.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
     type(box, QStringLiteral("ab"));
-    onceOpened("frmPreferences", [&](frmSection &screen) {
-        onceOpened("frmReplacementEdit", [&](frmSection &edit) {
+    onceOpened("frmPreferences", [&](frmScreen &screen) {
+        onceOpened("frmReplacementEdit", [&](frmScreen &edit) {
             type(edit.Box("txtInputText"), QStringLiteral("ab"));
             type(edit.Box("txtOutputText"), QStringLiteral("above"));
             press(edit, "cmdSave");
@@ -226,9 +226,9 @@ TEST_F(PreferencesLists, AnItemThatGoesWhileItIsEditedIsNotWritten)
     addReplacement("ab", "above");
     addReplacement("cd", "below");
     const auto screen = preferences(Replacements);
-    onceOpened("frmReplacementEdit", [&](frmSection &edit) {
+    onceOpened("frmReplacementEdit", [&](frmScreen &edit) {
         // The box's menu can open the same list again, over its editor.
-        onceOpened("frmPreferences", [&](frmSection &second) {
+        onceOpened("frmPreferences", [&](frmScreen &second) {
             user.answers = {clsUserInterface::Yes};
             grid(second, "sgReplacements").SelectRow(1);
             key(second, "sgReplacements", Qt::Key_Delete);
@@ -288,10 +288,10 @@ TEST_F(PreferencesLists, OpenedOverAnEditorTheyLeaveNothingStaleBelow)
     const auto screen = preferences();
     type(screen->Box("txtAutoBackupPath"), QStringLiteral("/typed"));
     screen->Switcher().SwitchTo(Replacements);
-    onceOpened("frmReplacementEdit", [&](frmSection &edit) {
+    onceOpened("frmReplacementEdit", [&](frmScreen &edit) {
         EXPECT_EQ(QStringLiteral("cd"), text(edit, "txtInputText"));
         type(edit.Box("txtOutputText"), QStringLiteral("beneath"));
-        onceOpened("frmPreferences", [&](frmSection &second) {
+        onceOpened("frmPreferences", [&](frmScreen &second) {
             EXPECT_NE(screen.get(), &second);
             EXPECT_EQ(Replacements, second.Switcher().OpenPage());
             EXPECT_EQ(QString(), text(second, "txtAutoBackupPath"));

@@ -22,7 +22,7 @@ protected:
         SetProgramFolder(QString());
     }
 
-    static const oPrintSign &signOf(frmSection &screen, const char *box)
+    static const oPrintSign &signOf(frmScreen &screen, const char *box)
     {
         return *screen.Box<oAllPurposeBox>(box).findChild<oPrintSign *>();
     }

@@ -45,7 +45,7 @@ protected:
     }
 
     /// Gives a field a unique value by keys and clicks; returns the expected content of its element.
-    static QByteArray fill(frmSection &screen, const clsExpectedField &field)
+    static QByteArray fill(frmScreen &screen, const clsExpectedField &field)
     {
         QWidget &control = screen.Box(field.control);
         switch (field.kind) {
@@ -71,12 +71,12 @@ protected:
             return tick->Checked() ? QStringLiteral("True") : QStringLiteral("False");
         return mdTextOf(control);
     }
-    static void pressEnd(frmSection &screen)
+    static void pressEnd(frmScreen &screen)
     {
         press(screen, screen.Screen().ending == clsScreenEnding::Close ? "cmdClose" : "cmdSave");
     }
     static void expectStored(const clsExpectedScreen &expected, const clsExpectedField &field);
-    static oCheckBox &tick(const frmSection &screen, const char *name) { return screen.Box<oCheckBox>(name); }
+    static oCheckBox &tick(const frmScreen &screen, const char *name) { return screen.Box<oCheckBox>(name); }
 };
 
 void RecordScreens::expectStored(const clsExpectedScreen &expected, const clsExpectedField &field)

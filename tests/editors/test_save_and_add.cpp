@@ -39,12 +39,12 @@ protected:
         screen = opened(QStringLiteral("Schedule of Time"));
         focusPart(screen->Box("sgScheduleOfTime"))->setFocus();
     }
-    static void addNext(const frmSection &editor, Qt::Key enter = Qt::Key_Return)
+    static void addNext(const frmScreen &editor, Qt::Key enter = Qt::Key_Return)
     {
         key(editor, enter, Qt::ControlModifier);
     }
-    static oStoredNote &note(const frmSection &editor) { return *editor.findChild<oStoredNote *>(); }
-    static QString price(const frmSection &editor)
+    static oStoredNote &note(const frmScreen &editor) { return *editor.findChild<oStoredNote *>(); }
+    static QString price(const frmScreen &editor)
     {
         QTest::qWait(1);
         return editor.findChild<oPriceLine *>()->Words();
@@ -57,7 +57,7 @@ protected:
         return result.join(u'|');
     }
 
-    std::unique_ptr<frmSection> screen;
+    std::unique_ptr<frmScreen> screen;
 };
 
 } // namespace
@@ -66,7 +66,7 @@ TEST_F(SaveAndAdd, StoresOneItemAfterTheOtherAndKeepsDateAndFeeEarner)
 {
     openSchedule();
     inModal([&] { key(*screen, Qt::Key_Insert); },
-        [](frmSection &editor) {
+        [](frmScreen &editor) {
             type(editor.Box("txtDate"), QStringLiteral("12/12/25"));
             type(editor.Box("cmbCode"), QStringLiteral("AWI"));
             type(editor.Box("txtDescription"), QStringLiteral("Words"));
@@ -116,7 +116,7 @@ TEST_F(SaveAndAdd, TheFocusLeavesItsBoxFirstWithItsChecks)
 {
     openSchedule();
     inModal([&] { key(*screen, Qt::Key_Insert); },
-        [this](frmSection &editor) {
+        [this](frmScreen &editor) {
             type(editor.Box("txtDate"), QStringLiteral("12/12/25"));
             type(editor.Box("txtTime"), QStringLiteral("long"));
             addNext(editor);
@@ -137,7 +137,7 @@ TEST_F(SaveAndAdd, AnItemThatWasOpenedIsOneStepAndTheNextAnother)
     addItem("01/02/26", "ACT", "01:00");
     openSchedule();
     inModal([&] { key(*screen, Qt::Key_Return); },
-        [](frmSection &editor) {
+        [](frmScreen &editor) {
             type(editor.Box("txtTime"), QStringLiteral("2:00"));
             addNext(editor);
             EXPECT_EQ(1u, countItems());
@@ -245,7 +245,7 @@ TEST_F(SaveAndAdd, SameAgainIsANewItemThatBeginsLikeTheChosenOne)
     first->Advocacy = true;
     openSchedule();
     inModal([&] { key(*screen, Qt::Key_D, Qt::ControlModifier); },
-        [](frmSection &editor) {
+        [](frmScreen &editor) {
             EXPECT_FALSE(editor.Record());
             type(editor.Box("txtTime"), QStringLiteral("2:00"));
             editor.Save();
@@ -262,7 +262,7 @@ TEST_F(SaveAndAdd, SameAgainIsOfTheListWithTheFocusAndGivesItsOwnIdentity)
 {
     screen = opened(QStringLiteral("Fee Earners / Rates"));
     focusPart(screen->Box("sgFeeEarners"))->setFocus();
-    inModal([&] { key(*screen, Qt::Key_D, Qt::ControlModifier); }, [](frmSection &editor) { editor.Save(); });
+    inModal([&] { key(*screen, Qt::Key_D, Qt::ControlModifier); }, [](frmScreen &editor) { editor.Save(); });
     ASSERT_EQ(3u, Form->FeeEarnersCollection().size());
     EXPECT_EQ(Form->FeeEarner(1)->Reference(), Form->FeeEarner(3)->Reference());
     EXPECT_NE(Form->FeeEarner(1)->UniqueID(), Form->FeeEarner(3)->UniqueID());

@@ -21,15 +21,15 @@ protected:
         addFeeEarners(1);
         Form->FeeEarnerGroup(1)->HourlyRate = QStringLiteral("78.00");
     }
-    static std::unique_ptr<frmSection> schedule() { return opened(QStringLiteral("Schedule of Time")); }
-    static oSGrid &grid(const frmSection &screen) { return screen.Box<oSGrid>("sgScheduleOfTime"); }
-    static QTableView &view(const frmSection &screen) { return *grid(screen).findChild<QTableView *>(); }
-    static QString cell(const frmSection &screen, int row, int column, int role = Qt::DisplayRole)
+    static std::unique_ptr<frmScreen> schedule() { return opened(QStringLiteral("Schedule of Time")); }
+    static oSGrid &grid(const frmScreen &screen) { return screen.Box<oSGrid>("sgScheduleOfTime"); }
+    static QTableView &view(const frmScreen &screen) { return *grid(screen).findChild<QTableView *>(); }
+    static QString cell(const frmScreen &screen, int row, int column, int role = Qt::DisplayRole)
     {
         return view(screen).model()->index(row - 1, column).data(role).toString();
     }
-    static bool isShown(const frmSection &screen, int column) { return !view(screen).isColumnHidden(column); }
-    static void setGridWidth(frmSection &screen, int width)
+    static bool isShown(const frmScreen &screen, int column) { return !view(screen).isColumnHidden(column); }
+    static void setGridWidth(frmScreen &screen, int width)
     {
         const int others = screen.width() - view(screen).width();
         screen.resize(width + others, screen.height());

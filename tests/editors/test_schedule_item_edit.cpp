@@ -12,28 +12,28 @@ namespace {
 
 class ScheduleItemEdit : public clsScheduleTest {
 protected:
-    static oFeeEarnerCombo &feeEarner(const frmSection &screen) { return screen.Box<oFeeEarnerCombo>("cmbFeeEarner"); }
-    static QString reference(const frmSection &screen)
+    static oFeeEarnerCombo &feeEarner(const frmScreen &screen) { return screen.Box<oFeeEarnerCombo>("cmbFeeEarner"); }
+    static QString reference(const frmScreen &screen)
     {
         const auto selected = feeEarner(screen).SelectedFeeEarner();
         return selected ? selected->Reference() : QString();
     }
-    static oCheckBox &dateTick(const frmSection &screen)
+    static oCheckBox &dateTick(const frmScreen &screen)
     {
         return *screen.Box("txtDate").findChild<oCheckBox *>(QStringLiteral("chkShowDate"));
     }
-    static oEnhancementsBox &enhancement(const frmSection &screen)
+    static oEnhancementsBox &enhancement(const frmScreen &screen)
     {
         return screen.Box<oEnhancementsBox>("oEnhancement");
     }
-    static Item saved(frmSection &screen)
+    static Item saved(frmScreen &screen)
     {
         key(screen, Qt::Key_Return);
         EXPECT_FALSE(screen.isVisible());
         return Form->ScheduleOfTimeItemsCollection().back();
     }
     /// The five ticks that determine the rate: one letter for each that is set.
-    static QString ticks(const frmSection &screen)
+    static QString ticks(const frmScreen &screen)
     {
         QString result;
         for (const char *name : {"chkAdvocacy", "chkCounsel", "chkTravel", "chkWaiting", "chkUseHourlyRate"})

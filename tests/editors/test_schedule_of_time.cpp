@@ -14,11 +14,11 @@ namespace {
 
 class ScheduleOfTime : public clsScheduleTest {
 protected:
-    static std::unique_ptr<frmSection> schedule() { return opened(QStringLiteral("Schedule of Time")); }
-    static oSGrid &grid(const frmSection &screen) { return screen.Box<oSGrid>("sgScheduleOfTime"); }
-    static QTableView &view(const frmSection &screen) { return *grid(screen).findChild<QTableView *>(); }
+    static std::unique_ptr<frmScreen> schedule() { return opened(QStringLiteral("Schedule of Time")); }
+    static oSGrid &grid(const frmScreen &screen) { return screen.Box<oSGrid>("sgScheduleOfTime"); }
+    static QTableView &view(const frmScreen &screen) { return *grid(screen).findChild<QTableView *>(); }
     /// The dates shown in the grid, from the top.
-    static QStringList dates(const frmSection &screen)
+    static QStringList dates(const frmScreen &screen)
     {
         QStringList result;
         for (const QString &row : rows(grid(screen)))
@@ -40,7 +40,7 @@ protected:
             result << QString::number(item->SOTItemNumber) + item->Code();
         return result.join(u' ');
     }
-    static oCheckBox &exclude(const frmSection &screen) { return tick(screen, "chkExcludeNonAdvocacy"); }
+    static oCheckBox &exclude(const frmScreen &screen) { return tick(screen, "chkExcludeNonAdvocacy"); }
 };
 
 } // namespace
@@ -179,7 +179,7 @@ TEST_F(ScheduleOfTime, ADoubleClickEditsTheRowsItemAndFollowsIt)
             QTest::mouseClick(cells.viewport(), Qt::LeftButton, {}, second);
             QTest::mouseDClick(cells.viewport(), Qt::LeftButton, {}, second);
         },
-        [](frmSection &editor) {
+        [](frmScreen &editor) {
             EXPECT_EQ(QStringLiteral("frmScheduleOfTimeItemEdit"), editor.objectName());
             type(editor.Box("txtDate"), QStringLiteral("9.2.26"));
             key(editor, Qt::Key_Return);
@@ -198,7 +198,7 @@ TEST_F(ScheduleOfTime, ANewItemIsSelectedWhereItsDatePutsIt)
     addItem("09/02/26", "ACO");
     const auto screen = schedule();
     inModal([&] { key(*screen, Qt::Key_Insert); },
-        [](frmSection &editor) {
+        [](frmScreen &editor) {
             EXPECT_EQ(QStringLiteral("cmbFeeEarner"), focusedName(editor));
             type(editor.Box("txtDate"), QStringLiteral("5.2.26"));
             type(editor.Box("txtDescription"), QStringLiteral("Told"));
@@ -210,7 +210,7 @@ TEST_F(ScheduleOfTime, ANewItemIsSelectedWhereItsDatePutsIt)
     EXPECT_EQ(QStringLiteral("1ACL 2DOT 3ACO"), exported());
     ASSERT_EQ(1u, Form->AdditionalInformationItemsCollection().size());
     EXPECT_EQ(QStringLiteral("Told"), Form->AdditionalInformationItemsCollection()[0]->Description());
-    inModal([&] { press(*screen, "cmdAddScheduleOfTimeItem"); }, [](frmSection &editor) { editor.close(); });
+    inModal([&] { press(*screen, "cmdAddScheduleOfTimeItem"); }, [](frmScreen &editor) { editor.close(); });
     EXPECT_EQ(3u, countItems());
     EXPECT_EQ(2, grid(*screen).SelectedRow());
 }
@@ -234,7 +234,7 @@ TEST_F(ScheduleOfTime, TwentyItemsInARowNeedNoMouseAndNoNeedlessKey)
         const QString time = QString::number(6 * n);
         typed += int(day.size()) + 3 + int(time.size());
         inModal([&] { press(screen.get(), Qt::Key_A, Qt::AltModifier); },
-            [&](frmSection &editor) {
+            [&](frmScreen &editor) {
                 press(&editor, Qt::Key_F1 + (n - 1) % 12, n > 12 ? Qt::ShiftModifier : Qt::NoModifier);
                 press(&editor, Qt::Key_Tab);
                 write(&editor, day);

@@ -36,7 +36,7 @@ TEST_F(ScreenLayout, ButtonsOfOneLineStandCloserThanAFieldAndItsButton)
         {Button, "cmdThird", "Third", 0, SameRow},
         {Tick, "chkLast", "Last:", 0, SameRow | Unbound | NoCaption},
     });
-    frmSection screen(table);
+    frmScreen screen(table);
     show(screen);
     const auto gap = [&screen](const char *left, const char *right) {
         return screen.Box(right).geometry().left() - screen.Box(left).geometry().right() - 1;
@@ -52,7 +52,7 @@ TEST_F(ScreenLayout, APageThatGoesHearsNothingOfTheFocusOfItsFields)
     const int before = focusListeners();
     int whileItGoes = -1;
     {
-        frmSection screen(table);
+        frmScreen screen(table);
         show(screen);
         EXPECT_EQ(before + 1, focusListeners());
         QObject::connect(
@@ -66,7 +66,7 @@ TEST_F(ScreenLayout, WhatHasTheFocusStaysInViewWhenTheWindowShrinks)
     std::vector<clsScreenRow> rows(30, {Text, "txtReference", "Reference:"});
     rows.push_back({Text, "txtGroupUniqueID", "Last:"});
     const clsScreen table = editorOf(rows);
-    frmSection screen(table);
+    frmScreen screen(table);
     show(screen);
     screen.resize(640, 2000);
     QTest::qWait(20);
@@ -92,7 +92,7 @@ TEST_F(ScreenLayout, BoxesGrowToTwelveLinesAndWhatIsLeftOverLiesBelow)
         {Text, "txtSecond", "Second:", 60, MultiLine | Unbound | CaptionAbove},
         {Text, "txtLast", "Last:", 0, Unbound},
     });
-    frmSection screen(table);
+    frmScreen screen(table);
     show(screen);
     const auto top = [&screen](const char *name) { return screen.Box(name).mapTo(&screen, QPoint()).y(); };
     const auto bottom = [&](const char *name) { return top(name) + screen.Box(name).height(); };

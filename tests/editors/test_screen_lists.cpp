@@ -67,7 +67,7 @@ const clsItemList Counsels {
     .menu = "mnuCounsel",
     .deleteEntry = "mnuDeleteCounsel",
     .actions = {{"mnuEnhance", "Enhance",
-        [](frmSection &) {
+        [](frmScreen &) {
             ++actionsRun;
             Form->AddEnhancement();
         }}},
@@ -129,9 +129,9 @@ protected:
         changes = 0;
         actionsRun = 0;
     }
-    static std::unique_ptr<frmSection> shown(const clsScreen &table)
+    static std::unique_ptr<frmScreen> shown(const clsScreen &table)
     {
-        auto screen = std::make_unique<frmSection>(table);
+        auto screen = std::make_unique<frmScreen>(table);
         screen->Initialise();
         show(*screen);
         return screen;
@@ -149,10 +149,10 @@ protected:
         return result;
     }
     /// Calls `act` on the editor that the next step opens; tests that expect none check `editorsOpened`.
-    void inEditor(std::function<void(frmSection &)> act)
+    void inEditor(std::function<void(frmScreen &)> act)
     {
         QTimer::singleShot(0, qApp, [this, act = std::move(act)] {
-            auto *open = dynamic_cast<frmSection *>(QApplication::activeModalWidget());
+            auto *open = dynamic_cast<frmScreen *>(QApplication::activeModalWidget());
             if (!open)
                 return;
             ++editorsOpened;
@@ -161,7 +161,7 @@ protected:
                 open->close();
         });
     }
-    static oSGrid &grid(frmSection &screen, const char *name = "sgCounsel") { return screen.Box<oSGrid>(name); }
+    static oSGrid &grid(frmScreen &screen, const char *name = "sgCounsel") { return screen.Box<oSGrid>(name); }
     int editorsOpened = 0;
 };
 
@@ -180,7 +180,7 @@ TEST_F(ScreenLists, AddByLetterOrInsertMakesAnItemAtSaveAndSelectsIt)
 {
     addCounsel({QStringLiteral("A")});
     const auto screen = shown(SideBySide);
-    inEditor([](frmSection &open) {
+    inEditor([](frmScreen &open) {
         EXPECT_EQ(nullptr, open.Record());
         type(open.Box("txtName"), QStringLiteral("B"));
         QTest::keyClick(open.focusWidget(), Qt::Key_Return);
@@ -191,7 +191,7 @@ TEST_F(ScreenLists, AddByLetterOrInsertMakesAnItemAtSaveAndSelectsIt)
     EXPECT_EQ(2, grid(*screen).SelectedRow());
     EXPECT_EQ(QStringLiteral("sgCounsel"), focusedName(*screen));
     EXPECT_EQ(1, changes);
-    inEditor([](frmSection &open) { open.Cancel(); });
+    inEditor([](frmScreen &open) { open.Cancel(); });
     QTest::keyClick(screen->focusWidget(), Qt::Key_Insert);
     EXPECT_EQ(2, editorsOpened);
     EXPECT_EQ(2, grid(*screen).Rows());
@@ -204,7 +204,7 @@ TEST_F(ScreenLists, ReturnEditsTheRowsItemAndKeepsTheRow)
     addCounsel({QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")});
     const auto screen = shown(SideBySide);
     QTest::keyClick(screen->focusWidget(), Qt::Key_Down);
-    inEditor([](frmSection &open) {
+    inEditor([](frmScreen &open) {
         EXPECT_EQ(QStringLiteral("B"), open.Box<oAllPurposeBox>("txtName").Text());
         type(open.Box("txtName"), QStringLiteral("Beta"));
         open.Save();
@@ -328,7 +328,7 @@ TEST_F(ScreenLists, PagesOpenOneAtATimeByTheirLettersAndCountTheirItems)
     // "Add" has the same letter on each page.
     switcher.SwitchTo(1);
     grid(*screen).setFocus(Qt::TabFocusReason);
-    inEditor([](frmSection &open) {
+    inEditor([](frmScreen &open) {
         type(open.Box("txtName"), QStringLiteral("C"));
         open.Save();
     });
@@ -343,7 +343,7 @@ TEST_F(ScreenLists, PagesOpenOneAtATimeByTheirLettersAndCountTheirItems)
 
 TEST_F(ScreenLists, TicksOfTheSecondColumnStandInTheLinesOfTheFirstAndUnderEachOther)
 {
-    frmSection screen(editor());
+    frmScreen screen(editor());
     screen.Initialise(nullptr);
     show(screen);
     const auto place

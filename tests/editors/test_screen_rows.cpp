@@ -93,16 +93,16 @@ const clsScreen Outcome {
 
 class ScreenRows : public clsScreenTest {
 protected:
-    static std::unique_ptr<frmSection> edit(clsXMLRecord *item)
+    static std::unique_ptr<frmScreen> edit(clsXMLRecord *item)
     {
-        auto screen = std::make_unique<frmSection>(Editor);
+        auto screen = std::make_unique<frmScreen>(Editor);
         screen->Initialise(item);
         show(*screen);
         return screen;
     }
-    static std::unique_ptr<frmSection> outcome()
+    static std::unique_ptr<frmScreen> outcome()
     {
-        auto screen = std::make_unique<frmSection>(Outcome);
+        auto screen = std::make_unique<frmScreen>(Outcome);
         screen->Initialise();
         show(*screen);
         return screen;
@@ -363,7 +363,7 @@ TEST_F(ScreenRows, AControlOfItsOwnIsMadeFromItsRowAndIsAsWideAsItAsksFor)
             .allowance = 9999,
             .flags = NoCaption,
             .other = &Pair}}}};
-    frmSection screen(table);
+    frmScreen screen(table);
     show(screen);
     EXPECT_EQ(screen.Box("oBare").sizeHint().width(), screen.Box("oBare").width());
 }
@@ -400,7 +400,7 @@ TEST_F(ScreenRows, ANameThatTheScreenLacksAndAPropertyThatTheRecordLacksAreError
     EXPECT_EQ(clsRunTimeError::ObjectNotSet, errorOf([&screen] { screen->Box("txtNothing"); }));
     clsScreen wrong = Outcome;
     wrong.record = []() -> clsXMLRecord * { return &Form->ClientDetails; };
-    frmSection other(wrong);
+    frmScreen other(wrong);
     EXPECT_EQ(clsRunTimeError::ObjectNotSet, errorOf([&other] { other.Initialise(); }));
 }
 

@@ -53,7 +53,7 @@ QChar keyOf(const oFieldLabel &label)
 }
 
 /// All mnemonics that are active in a window.
-std::multiset<QChar> lettersOf(const frmSection &screen)
+std::multiset<QChar> lettersOf(const frmScreen &screen)
 {
     std::multiset<QChar> letters;
     for (const QAction *menu : screen.findChild<QMenuBar *>()->actions())

@@ -15,7 +15,7 @@
 namespace {
 
 /// The visible fields, labels and buttons of a screen.
-std::vector<QWidget *> partsOf(const frmSection &screen, const std::vector<clsScreenField> &fields)
+std::vector<QWidget *> partsOf(const frmScreen &screen, const std::vector<clsScreenField> &fields)
 {
     std::vector<QWidget *> result;
     for (const clsScreenField &field : fields) {
@@ -92,7 +92,7 @@ QWidget *firstPart(QWidget &control)
 
 class clsLook {
 public:
-    explicit clsLook(frmSection &screen)
+    explicit clsLook(frmScreen &screen)
         : m_screen(screen)
     { }
     void resize(QSize size)
@@ -115,7 +115,7 @@ public:
     }
 
 private:
-    frmSection &m_screen;
+    frmScreen &m_screen;
 };
 
 } // namespace

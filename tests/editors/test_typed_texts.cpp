@@ -46,7 +46,7 @@ TEST_F(TypedTexts, OfAnItemHaveItsPlaceInTheList)
     auto second = Form->AddCounsel();
     second->OrderID = 2;
     const auto list = opened(QStringLiteral("Counsel"));
-    frmSection editor(ScreenCounselEdit(), list.get());
+    frmScreen editor(ScreenCounselEdit(), list.get());
     editor.Initialise(second.get());
     show(editor);
     const clsScreenField *text = nullptr;

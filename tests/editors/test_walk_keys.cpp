@@ -31,12 +31,12 @@ protected:
         EXPECT_EQ(target.isEmpty(), screen->isVisible());
         return target;
     }
-    static QString spoken(const frmSection &screen, const char *button)
+    static QString spoken(const frmScreen &screen, const char *button)
     {
         auto *found = screen.findChild<QWidget *>(QString::fromLatin1(button));
         return QAccessible::queryAccessibleInterface(found)->text(QAccessible::Name);
     }
-    static QString tip(const frmSection &screen, const char *button)
+    static QString tip(const frmScreen &screen, const char *button)
     {
         return screen.findChild<QWidget *>(QString::fromLatin1(button))->toolTip();
     }

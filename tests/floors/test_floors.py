@@ -10,7 +10,7 @@ ROOT = Path(__file__).resolve().parents[2]
 # The cycles of more than two rooms, each with its reason.
 KNOWN_CIRCLES = {
     # An item reads the claim that contains it (its fee earner, its group), and the claim contains the items.
-    ("formdata/clsOnBill", "formdata/clsSchedulePrices", "formdata/clsZR3FeeEarner", "formdata/clsZR3FeeEarnerGroup",
+    ("formdata/clsBillFilter", "formdata/clsSchedulePrices", "formdata/clsZR3FeeEarner", "formdata/clsZR3FeeEarnerGroup",
      "formdata/clsZR3Form", "formdata/clsZR3ScheduleOfTimeItem"),
     # Each file operation is logged, and the log is a file in the folder set in the registry.
     ("base/mdDatabasePath", "base/mdGetFolder", "base/mdLog", "base/mdRegistry", "base/mdTextDocumentHandling"),
@@ -19,7 +19,7 @@ KNOWN_CIRCLES = {
      "costing/mdGetFASTotals"),
     # The list of a screen opens an item's editor, which is a screen. Input dropped by a screen is kept, and restored in
     # a screen that is opened for it.
-    ("editors/clsListActions", "editors/frmSection", "editors/mdBringBack", "editors/mdEditItem", "editors/mdSections",
+    ("editors/clsListActions", "editors/frmScreen", "editors/mdBringBack", "editors/mdEditItem", "editors/mdSections",
      "editors/mdTypedTexts", "editors/mdWayTo"),
 }
 

@@ -231,7 +231,7 @@ class Keys(unittest.TestCase):
                 # from finding to finding, or from one wrong cell to the next; Find where a screen has no menu for it.
                 if file not in ("shell/mdMainMenu.cpp", "editors/oScreenFrame.cpp", "preview/oFormPages.cpp",
                                 "editors/oScreenBar.cpp", "shell/frmMainCheck.cpp", "shell/frmMainSections.cpp",
-                                "editors/frmPasteItems.cpp", "editors/frmSectionLists.cpp"):
+                                "editors/frmPasteItems.cpp", "editors/frmScreenLists.cpp"):
                     self.assertIn("Qt::CTRL | Qt::Key_S", set_here, file)
             for standard in set(re.findall(r"QKeySequence::(\w+)", code)) - {"listFromString", "PortableText"}:
                 self.assertIn(standard, ("mnemonic", "InsertLineSeparator", "Paste"), file)

@@ -15,7 +15,7 @@
 #include "controls/oAllPurposeBox.h"
 #include "controls/oCustomButton.h"
 #include "controls/oNoticeBar.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "formdata/clsZR3Form.h"
 #include "formdata/clsZR3PreferencesDatabase.h"
 #include "formdata/mdGlobals.h"
@@ -104,7 +104,7 @@ private:
     void act()
     {
         QWidget *modal = QApplication::activeModalWidget();
-        if (auto *screen = qobject_cast<frmSection *>(modal))
+        if (auto *screen = qobject_cast<frmScreen *>(modal))
             return type(*screen);
         if (auto *dialog = qobject_cast<frmExportToWord *>(modal))
             return exportOnce(*dialog);
@@ -122,7 +122,7 @@ private:
             m_window.tbSubSection_Click(1, QStringLiteral("Details of Work"));
         }
     }
-    void type(frmSection &screen)
+    void type(frmScreen &screen)
     {
         if (chance(4))
             return screen.Close();

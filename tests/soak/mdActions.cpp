@@ -69,7 +69,7 @@ std::span<const clsSoakAction> mdActionsFor(const QWidget &front)
 {
     if (front.windowType() == Qt::Popup)
         return OnPopups;
-    if (front.inherits("frmSection"))
+    if (front.inherits("frmScreen"))
         return front.findChild<oSGrid *>() ? std::span<const clsSoakAction>(OnLists) : OnSections;
     if (front.inherits("frmExportToWord"))
         return OnExport;

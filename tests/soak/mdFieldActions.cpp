@@ -3,7 +3,7 @@
 #include "controls/oContentSwitcher.h"
 #include "controls/oFrame.h"
 #include "controls/oSGrid.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "tests/soak/clsDice.h"
 #include "tests/soak/clsTrail.h"
 #include "tests/soak/mdActions.h"
@@ -47,7 +47,7 @@ bool isTypedInto(const QWidget &widget)
 /// The kind of a widget's row; a text if no table has it.
 clsRowKind kindOf(const QWidget &widget)
 {
-    if (const auto *screen = qobject_cast<const frmSection *>(widget.window()))
+    if (const auto *screen = qobject_cast<const frmScreen *>(widget.window()))
         for (const clsScreenField &field : screen->Fields())
             if (field.control == &widget || field.control->isAncestorOf(&widget))
                 return field.row->kind;

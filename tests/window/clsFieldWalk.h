@@ -4,7 +4,7 @@
 #include "controls/oContentSwitcher.h"
 #include "controls/oFrame.h"
 #include "controls/oSGrid.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/mdScreenControls.h"
 #include "tests/editors/clsModalTest.h"
 #include "tests/editors/mdOnceOpened.h"
@@ -23,8 +23,8 @@ protected:
     /// What to do at a field, and at the end of a screen before leaving it. Items count from 1; a section has 0.
     struct clsStop {
         Items items;
-        std::function<void(frmSection &, const clsExpectedScreen &, const clsExpectedField &, int item)> field;
-        std::function<void(frmSection &, const clsExpectedScreen &, int item)> leaving;
+        std::function<void(frmScreen &, const clsExpectedScreen &, const clsExpectedField &, int item)> field;
+        std::function<void(frmScreen &, const clsExpectedScreen &, int item)> leaving;
     };
 
     void everyTab(const clsTabsOfType &type, const clsStop &stop) const
@@ -40,13 +40,13 @@ protected:
                 const clsExpectedScreen screen = screenOf(text, nullptr);
                 inScreen(
                     screen.name, [&] { clickTab("tbSubSection", text); },
-                    [&](frmSection &opened) { throughScreen(opened, screen, 0, stop); });
+                    [&](frmScreen &opened) { throughScreen(opened, screen, 0, stop); });
             }
         }
     }
 
     /// Clicks the caption of a control's page, if that isn't open.
-    static void openPageOf(const frmSection &screen, const QWidget &control)
+    static void openPageOf(const frmScreen &screen, const QWidget &control)
     {
         for (const clsScreenField &field : screen.Fields())
             if (field.control == &control && field.page > 0 && screen.Switcher().OpenPage() != field.page)
@@ -91,11 +91,11 @@ private:
 
     /// Opens a modal screen and uses it until it is closed.
     static void inScreen(
-        const char *name, const std::function<void()> &opens, const std::function<void(frmSection &)> &use)
+        const char *name, const std::function<void()> &opens, const std::function<void(frmScreen &)> &use)
     {
         QWidget *below = QApplication::activeWindow();
         const auto used = std::make_shared<bool>(false);
-        onceOpened(name, [used, use](frmSection &screen) {
+        onceOpened(name, [used, use](frmScreen &screen) {
             *used = true;
             use(screen);
         });
@@ -105,7 +105,7 @@ private:
             Hands::activate(*below);
     }
 
-    static void throughScreen(frmSection &screen, const clsExpectedScreen &expected, int item, const clsStop &stop)
+    static void throughScreen(frmScreen &screen, const clsExpectedScreen &expected, int item, const clsStop &stop)
     {
         EXPECT_EQ(expected.fields.size(), screen.Fields().size()) << expected.name << ": its table lacks fields";
         for (const clsExpectedField &field : expected.fields) {
@@ -121,7 +121,7 @@ private:
         Hands::press(screen, screen.Screen().ending == clsScreenEnding::Close ? "cmdClose" : "cmdSave");
     }
 
-    static void throughItems(frmSection &screen, const char *grid, const clsStop &stop)
+    static void throughItems(frmScreen &screen, const char *grid, const clsStop &stop)
     {
         for (const clsItemsOfScreen &list : ItemsOfScreens) {
             if (std::string_view(list.grid) != grid)
@@ -132,7 +132,7 @@ private:
                 inScreen(
                     list.editor,
                     [&] { adds ? Hands::press(screen, list.add) : openItem(screen.Box<oSGrid>(grid), item); },
-                    [&](frmSection &opened) { throughScreen(opened, editor, item, stop); });
+                    [&](frmScreen &opened) { throughScreen(opened, editor, item, stop); });
             }
             EXPECT_EQ(list.items, screen.Box<oSGrid>(grid).Rows()) << grid;
             return;

@@ -11,7 +11,7 @@
 #include "controls/oFooterLine.h"
 #include "controls/oNoticeBar.h"
 #include "controls/oSGrid.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "editors/oListLine.h"
 #include "tests/window/clsMainWindowTest.h"
 
@@ -24,7 +24,7 @@ namespace {
 
 class BringBack : public clsMainWindowTest {
 protected:
-    using Use = std::function<void(frmSection &)>;
+    using Use = std::function<void(frmScreen &)>;
 
     void TearDown() override
     {
@@ -38,7 +38,7 @@ protected:
         QTimer::singleShot(0, window.get(), [&] {
             // The code that restores texts waits for the screen too.
             QTimer::singleShot(0, window.get(), [&] {
-                auto *screen = qobject_cast<frmSection *>(QApplication::activeModalWidget());
+                auto *screen = qobject_cast<frmScreen *>(QApplication::activeModalWidget());
                 ASSERT_TRUE(screen);
                 ASSERT_TRUE(QTest::qWaitForWindowActive(screen));
                 use(*screen);
@@ -70,16 +70,16 @@ protected:
         QTest::keyClick(part, Qt::Key_A, Qt::ControlModifier);
         QTest::keyClicks(part, text);
     }
-    static void escape(frmSection &screen) { QTest::keyClick(screen.focusWidget(), Qt::Key_Escape); }
+    static void escape(frmScreen &screen) { QTest::keyClick(screen.focusWidget(), Qt::Key_Escape); }
     /// Types in Details of Work, and leaves it with Esc.
     void lose(const QString &text)
     {
-        inSection("Details of Work", [&](frmSection &screen) {
+        inSection("Details of Work", [&](frmScreen &screen) {
             type(screen.Box("txtDetailsOfCase"), text);
             escape(screen);
         });
     }
-    static QString details(frmSection &screen) { return screen.Box<oAllPurposeBox>("txtDetailsOfCase").Text(); }
+    static QString details(frmScreen &screen) { return screen.Box<oAllPurposeBox>("txtDetailsOfCase").Text(); }
 
     oFooterLine &line() const { return control<oFooterLine>(*window, "oFooterLine"); }
     QString footer() const { return line().isVisible() ? line().Line() : QString(); }
@@ -118,7 +118,7 @@ TEST_F(BringBack, NothingIsOfferedWhereNothingWasTyped)
     savedClaim();
     EXPECT_FALSE(isOffered(*window));
     EXPECT_EQ(QString(), footer());
-    inSection("Details of Work", [](frmSection &screen) { escape(screen); });
+    inSection("Details of Work", [](frmScreen &screen) { escape(screen); });
     EXPECT_FALSE(isOffered(*window));
     entry("mnuBringBack").trigger();
     EXPECT_EQ(QString(), footer());
@@ -135,7 +135,7 @@ TEST_F(BringBack, AnEscIsTakenBackByTheButtonAndStoredByItsUser)
     EXPECT_TRUE(user.messages.empty());
 
     inScreen([this] { pressButton(); },
-        [&](frmSection &screen) {
+        [&](frmScreen &screen) {
             EXPECT_EQ(QStringLiteral("frmDetailsOfWork"), screen.objectName());
             EXPECT_EQ(sixteen, details(screen));
             EXPECT_TRUE(screen.Box("txtDetailsOfCase").isAncestorOf(screen.focusWidget()));
@@ -154,20 +154,20 @@ TEST_F(BringBack, TheMenuBringsItBackAndASecondEscLosesNothing)
     lose(sixteen);
     EXPECT_TRUE(isOffered(*window));
     inScreen([this] { entry("mnuBringBack").trigger(); },
-        [&](frmSection &screen) {
+        [&](frmScreen &screen) {
             EXPECT_EQ(sixteen, details(screen));
             escape(screen);
         });
     EXPECT_TRUE(isOffered(*window));
     inScreen(
-        [this] { entry("mnuBringBack").trigger(); }, [&](frmSection &screen) { EXPECT_EQ(sixteen, details(screen)); });
+        [this] { entry("mnuBringBack").trigger(); }, [&](frmScreen &screen) { EXPECT_EQ(sixteen, details(screen)); });
 }
 
 TEST_F(BringBack, ALaterLossTakesThePlaceOfTheEarlierOfItsScreen)
 {
     savedClaim();
     lose(sixteen);
-    inSection("Client Details", [](frmSection &screen) {
+    inSection("Client Details", [](frmScreen &screen) {
         type(screen.Box("txtSurname"), QStringLiteral("X"));
         screen.close();
     });
@@ -175,7 +175,7 @@ TEST_F(BringBack, ALaterLossTakesThePlaceOfTheEarlierOfItsScreen)
     lose(QStringLiteral("Mould"));
     EXPECT_EQ(QStringLiteral("Details of Work: 5 characters not stored"), footer());
     EXPECT_EQ(2u, NotStored().all().size());
-    inScreen([this] { pressButton(); }, [](frmSection &screen) { screen.Save(); });
+    inScreen([this] { pressButton(); }, [](frmScreen &screen) { screen.Save(); });
     EXPECT_EQ(QStringLiteral("Mould"), Form->DetailsOfWork.DetailsOfCase());
     EXPECT_EQ(QStringLiteral("Client Details: 1 character not stored"), footer()) << "the one before is next";
 }
@@ -184,7 +184,7 @@ TEST_F(BringBack, ASaveOfOtherTextsForgetsNothing)
 {
     savedClaim();
     lose(sixteen);
-    inSection("Details of Work", [](frmSection &screen) {
+    inSection("Details of Work", [](frmScreen &screen) {
         type(screen.Box("txtDetailsOfCase"), QStringLiteral("Other"));
         screen.Save();
     });
@@ -194,13 +194,13 @@ TEST_F(BringBack, ASaveOfOtherTextsForgetsNothing)
 TEST_F(BringBack, TicksAndChoicesComeBackWithoutBeingCounted)
 {
     savedClaim();
-    inSection("Nature of Proceedings", [](frmSection &screen) {
+    inSection("Nature of Proceedings", [](frmScreen &screen) {
         auto &tick = screen.Box<oCheckBox>("chkOtherProvidersYes");
         tick.setChecked(!tick.Checked());
         escape(screen);
     });
     EXPECT_EQ(QStringLiteral("Nature of Proceedings: changes not stored"), footer());
-    inScreen([this] { pressButton(); }, [](frmSection &screen) { screen.Save(); });
+    inScreen([this] { pressButton(); }, [](frmScreen &screen) { screen.Save(); });
     EXPECT_TRUE(Form->NatureOfProceedings.OtherProvidersYes());
 }
 
@@ -210,14 +210,14 @@ TEST_F(BringBack, AnItemComesBackInItsEditorOverItsList)
     const QString before = Form->XMLOutput();
     const auto item = Form->ScheduleOfTimeItem(2);
     const QString description = item->Description();
-    inSection("Schedule of Time", [&](frmSection &list) {
+    inSection("Schedule of Time", [&](frmScreen &list) {
         auto &grid = list.Box<oSGrid>("sgScheduleOfTime");
         auto &listLine = control<oListLine>(list, "oListLine");
         EXPECT_EQ(QString(), listLine.Text());
         EXPECT_FALSE(isOffered(list));
         grid.SelectItem(2);
         inScreen([&] { emit grid.RowActivated(2, grid.SelectedRow(), 1); },
-            [&](frmSection &editor) {
+            [&](frmScreen &editor) {
                 type(editor.Box("txtDescription"), QStringLiteral("Reading"));
                 auto *hasDate = editor.Box("txtDate").findChild<oCheckBox *>();
                 hasDate->setChecked(true);
@@ -230,7 +230,7 @@ TEST_F(BringBack, AnItemComesBackInItsEditorOverItsList)
         EXPECT_EQ(description, item->Description());
         EXPECT_TRUE(isOffered(list));
         inScreen([&] { QTest::keyClick(&control<oCustomButton>(list, "cmdListLine"), Qt::Key_Space); },
-            [&](frmSection &editor) {
+            [&](frmScreen &editor) {
                 EXPECT_EQ(item.get(), editor.Record());
                 EXPECT_EQ(QStringLiteral("Reading"), editor.Box<oAllPurposeBox>("txtDescription").Text());
                 EXPECT_EQ(QStringLiteral("03/02/26"), editor.Box<oDateBox>("txtDate").Text());
@@ -248,10 +248,10 @@ TEST_F(BringBack, AnItemIsFoundWhereItHasBeenMovedTo)
 {
     start(sample("housing-typical.zr3"));
     QString description;
-    inSection("Schedule of Time", [&](frmSection &list) {
+    inSection("Schedule of Time", [&](frmScreen &list) {
         auto &grid = list.Box<oSGrid>("sgScheduleOfTime");
         inScreen([&] { emit grid.RowActivated(3, 3, 1); },
-            [&](frmSection &editor) {
+            [&](frmScreen &editor) {
                 description = editor.Box<oAllPurposeBox>("txtDescription").Text();
                 type(editor.Box("txtDescription"), QStringLiteral("Reading"));
                 escape(editor);
@@ -262,7 +262,7 @@ TEST_F(BringBack, AnItemIsFoundWhereItHasBeenMovedTo)
     QTimer patience;
     patience.setInterval(10);
     QObject::connect(&patience, &QTimer::timeout, window.get(), [&] {
-        auto *editor = qobject_cast<frmSection *>(QApplication::activeModalWidget());
+        auto *editor = qobject_cast<frmScreen *>(QApplication::activeModalWidget());
         if (!editor || editor->objectName() != QLatin1String("frmScheduleOfTimeItemEdit")
             || editor->Box<oAllPurposeBox>("txtDescription").Text() != QLatin1String("Reading"))
             return;
@@ -287,15 +287,15 @@ TEST_F(BringBack, ANewItemComesBackAsANewOne)
 {
     start(sample("housing-typical.zr3"));
     const size_t items = Form->DisbursementsCollection().size();
-    inSection("Disbursements", [&](frmSection &list) {
+    inSection("Disbursements", [&](frmScreen &list) {
         inScreen([&] { emit list.Box<oCustomButton>("cmdAddDisbursement").Click(); },
-            [&](frmSection &editor) {
+            [&](frmScreen &editor) {
                 type(editor.Box("txtDescription"), QStringLiteral("Taxi"));
                 type(editor.Box("txtAmount"), QStringLiteral("12.5"));
                 escape(editor);
             });
         EXPECT_EQ(items, Form->DisbursementsCollection().size());
-        inScreen([&] { control<QAction>(list, "mnuBringBack").trigger(); }, [](frmSection &editor) { editor.Save(); });
+        inScreen([&] { control<QAction>(list, "mnuBringBack").trigger(); }, [](frmScreen &editor) { editor.Save(); });
     });
     ASSERT_EQ(items + 1, Form->DisbursementsCollection().size());
     EXPECT_EQ(QStringLiteral("Taxi"), Form->Disbursement(int(items) + 1)->Description());
@@ -305,15 +305,15 @@ TEST_F(BringBack, ANewItemComesBackAsANewOne)
 TEST_F(BringBack, WhatDoesNotFitHoldsItsBoxAsWhenItWasTyped)
 {
     start(sample("housing-typical.zr3"));
-    inSection("Schedule of Time", [&](frmSection &list) {
+    inSection("Schedule of Time", [&](frmScreen &list) {
         auto &grid = list.Box<oSGrid>("sgScheduleOfTime");
         inScreen([&] { emit grid.RowActivated(1, 1, 1); },
-            [&](frmSection &editor) {
+            [&](frmScreen &editor) {
                 type(editor.Box("txtDate"), QStringLiteral("yesterday"));
                 escape(editor);
             });
         inScreen([&] { control<QAction>(list, "mnuBringBack").trigger(); },
-            [&](frmSection &editor) {
+            [&](frmScreen &editor) {
                 EXPECT_TRUE(editor.Box("txtDate").isAncestorOf(editor.focusWidget()));
                 editor.Save();
                 EXPECT_TRUE(editor.isVisible());
@@ -324,7 +324,7 @@ TEST_F(BringBack, WhatDoesNotFitHoldsItsBoxAsWhenItWasTyped)
 TEST_F(BringBack, OutlivesTheProgram)
 {
     const QString claim = savedClaim();
-    inSection("Details of Work", [](frmSection &screen) {
+    inSection("Details of Work", [](frmScreen &screen) {
         screen.Box<oAllPurposeBox>("txtDetailsOfCase").setText(QStringLiteral("The flat is damp — née Ö"));
         escape(screen);
     });
@@ -332,7 +332,7 @@ TEST_F(BringBack, OutlivesTheProgram)
         QFile::permissions(path("state/Velmor/Not stored.json")));
     startAnew(claim);
     EXPECT_EQ(QStringLiteral("Details of Work: 24 characters not stored"), footer());
-    inScreen([this] { pressButton(); }, [](frmSection &screen) { screen.Save(); });
+    inScreen([this] { pressButton(); }, [](frmScreen &screen) { screen.Save(); });
     EXPECT_EQ(QStringLiteral("The flat is damp — née Ö"), Form->DetailsOfWork.DetailsOfCase());
     startAnew(claim);
     EXPECT_EQ(QString(), footer());
@@ -381,7 +381,7 @@ TEST_F(BringBack, ABrokenFileIsSetAsideAndToldInALine)
 TEST_F(BringBack, WhatAJournalHoldsAsTypedIsOffered)
 {
     const QString claim = savedClaim();
-    inSection("Details of Work", [&](frmSection &screen) {
+    inSection("Details of Work", [&](frmScreen &screen) {
         type(screen.Box("txtDetailsOfCase"), sixteen);
         Journal().flush();
         // The program ends here: the screen is closed without the user.
@@ -394,14 +394,14 @@ TEST_F(BringBack, WhatAJournalHoldsAsTypedIsOffered)
         if (answer->isVisible() && answer->Caption() == QLatin1String("Open"))
             answer->click();
     EXPECT_EQ(QStringLiteral("Details of Work: 16 characters not stored"), footer());
-    inScreen([this] { pressButton(); }, [](frmSection &screen) { screen.Save(); });
+    inScreen([this] { pressButton(); }, [](frmScreen &screen) { screen.Save(); });
     EXPECT_EQ(sixteen, Form->DetailsOfWork.DetailsOfCase());
 }
 
 TEST_F(BringBack, AnUndoOnAListIsNothingThatWasTyped)
 {
     start(sample("housing-typical.zr3"));
-    inSection("Schedule of Time", [](frmSection &screen) { screen.close(); });
+    inSection("Schedule of Time", [](frmScreen &screen) { screen.close(); });
     EXPECT_EQ(QString(), footer());
 }
 

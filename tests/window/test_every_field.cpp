@@ -17,20 +17,20 @@ protected:
     {
         everyTab(type,
             {Items::Added,
-                [&](frmSection &screen, const auto &expected, const auto &field, int item) {
+                [&](frmScreen &screen, const auto &expected, const auto &field, int item) {
                     fill(screen, expected, field, item, marks);
                 },
-                [&](frmSection &screen, const auto &expected, int) {
+                [&](frmScreen &screen, const auto &expected, int) {
                     clickExclusives(screen, expected, marks);
                     // Without VAT the rate, which was typed before, can no longer be typed.
                     if (std::string_view(expected.name) == "frmFormSetup")
                         click(screen.Box("chkVAT"));
                 }});
     }
-    void fill(frmSection &screen, const clsExpectedScreen &expected, const clsExpectedField &field, int item,
+    void fill(frmScreen &screen, const clsExpectedScreen &expected, const clsExpectedField &field, int item,
         clsFieldMarks &marks);
     /// In each group that was clicked through, and in which the last tick is now set, clicks the one that is to stay.
-    static void clickExclusives(frmSection &screen, const clsExpectedScreen &expected, const clsFieldMarks &marks)
+    static void clickExclusives(frmScreen &screen, const clsExpectedScreen &expected, const clsFieldMarks &marks)
     {
         for (const clsExclusiveTicks &group : ExclusiveTicks) {
             const char *stays = marks.tickedOf(group);
@@ -62,13 +62,13 @@ protected:
         int looked = 0;
         everyTab(type,
             {Items::Opened,
-                [&](frmSection &screen, const auto &expected, const auto &field, int item) {
+                [&](frmScreen &screen, const auto &expected, const auto &field, int item) {
                     const auto &values = marks.of(expected, field, item);
                     looked += values.empty() ? 0 : 1;
                     for (const clsMark &mark : values)
                         EXPECT_EQ(mark.shown, shown(part(screen.Box(field.control), mark.kind))) << mark.where;
                 },
-                [](frmSection &, const auto &, int) {}});
+                [](frmScreen &, const auto &, int) {}});
         EXPECT_EQ(marks.fields(), looked);
     }
     /// The tick or the list of a control that has both; otherwise the control.
@@ -86,8 +86,8 @@ protected:
     QStringList disabled;
 };
 
-void EveryField::fill(frmSection &screen, const clsExpectedScreen &expected, const clsExpectedField &field, int item,
-    clsFieldMarks &marks)
+void EveryField::fill(
+    frmScreen &screen, const clsExpectedScreen &expected, const clsExpectedField &field, int item, clsFieldMarks &marks)
 {
     QWidget &control = screen.Box(field.control);
     if (!control.isEnabledTo(&screen)) {

@@ -9,7 +9,7 @@
 #include "controls/oNoticeBar.h"
 #include "controls/oSGrid.h"
 #include "controls/oTypeAheadBox.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "tests/editors/mdOnceOpened.h"
 #include "tests/window/clsMainWindowTest.h"
 
@@ -48,42 +48,42 @@ protected:
     {
         QTest::mouseClick(&control<oCustomButton>(screen, button), Qt::LeftButton);
     }
-    static void type(const frmSection &screen, const char *box, const char *text)
+    static void type(const frmScreen &screen, const char *box, const char *text)
     {
         screen.Box<oAllPurposeBox>(box).setText(QString::fromUtf8(text));
     }
-    void open(const std::function<void(frmSection &)> &use)
+    void open(const std::function<void(frmScreen &)> &use)
     {
         onceOpened("frmFirmAndTeam", use);
         entry("mnuFirmAndTeam").trigger();
     }
     /// Adds an item to one of the dialog's lists with its editor.
-    static void add(const frmSection &screen, int page, const char *button, const char *editor,
-        const std::function<void(frmSection &)> &use)
+    static void add(const frmScreen &screen, int page, const char *button, const char *editor,
+        const std::function<void(frmScreen &)> &use)
     {
         screen.Switcher().SwitchTo(page);
-        onceOpened(editor, [&](frmSection &item) {
+        onceOpened(editor, [&](frmScreen &item) {
             use(item);
             press(item, "cmdSave");
         });
         press(screen, button);
     }
-    static void addTeam(const frmSection &screen)
+    static void addTeam(const frmScreen &screen)
     {
-        add(screen, 2, "cmdAddFeeEarnerGroup", "frmFirmGroupEdit", [](frmSection &group) {
+        add(screen, 2, "cmdAddFeeEarnerGroup", "frmFirmGroupEdit", [](frmScreen &group) {
             type(group, "txtReference", "SOL");
             group.Box<oTypeAheadBox>("txtName").setText(QStringLiteral("Solicitor"));
             group.Box<oDecimalBox>("txtHourly").setText(QStringLiteral("47.25"));
         });
         add(screen, 3, "cmdAddFeeEarner", "frmFirmFeeEarnerEdit",
-            [](frmSection &feeEarner) { type(feeEarner, "txtReference", "AB"); });
+            [](frmScreen &feeEarner) { type(feeEarner, "txtReference", "AB"); });
         add(screen, 4, "cmdAddCounsel", "frmFirmCounselEdit",
-            [](frmSection &counsel) { type(counsel, "txtName", "Ada Brook"); });
+            [](frmScreen &counsel) { type(counsel, "txtName", "Ada Brook"); });
     }
     /// Saves the firm with its people.
     void keepFirm(bool fills = true)
     {
-        open([&](frmSection &screen) {
+        open([&](frmScreen &screen) {
             type(screen, "txtNameOfFirm", "Hartwell");
             type(screen, "txtEmailForEnquiries", "js@hartwell.example");
             addTeam(screen);
@@ -131,10 +131,10 @@ TEST_F(FirmAndTeam, ADismissedOfferStaysAway)
 TEST_F(FirmAndTeam, AUsedOfferStaysAway)
 {
     start();
-    onceOpened("frmFirmAndTeam", [](frmSection &screen) { press(screen, "cmdClose"); });
+    onceOpened("frmFirmAndTeam", [](frmScreen &screen) { press(screen, "cmdClose"); });
     answer("Firm and Team...");
     EXPECT_EQ(Offer, told()) << "nothing was entered";
-    onceOpened("frmFirmAndTeam", [](frmSection &screen) {
+    onceOpened("frmFirmAndTeam", [](frmScreen &screen) {
         type(screen, "txtNameOfFirm", "Hartwell");
         press(screen, "cmdClose");
     });
@@ -170,7 +170,7 @@ TEST_F(FirmAndTeam, TheOfferStandsBehindWhatIsInDanger)
 TEST_F(FirmAndTeam, KeepsWhatIsEnteredAndShowsItAgain)
 {
     start();
-    open([](frmSection &screen) {
+    open([](frmScreen &screen) {
         EXPECT_EQ(1, screen.Switcher().OpenPage());
         EXPECT_TRUE(screen.Box<oCheckBox>("chkVAT").isChecked());
         EXPECT_EQ(Preferences->DefaultVATRate(), screen.Box<oDecimalBox>("txtVATRate").Text());
@@ -184,7 +184,7 @@ TEST_F(FirmAndTeam, KeepsWhatIsEnteredAndShowsItAgain)
     });
     EXPECT_TRUE(user.messages.empty());
     EXPECT_EQ(QStringList(QStringLiteral("Saved. New claims are not filled with these")), user.lines);
-    open([](frmSection &screen) {
+    open([](frmScreen &screen) {
         for (const char *box : {"txtNameOfFirm", "txtAccountNumber", "txtRollNumber", "txtContactNameForEnquiries",
                  "txtTelephoneForEnquiries", "txtEmailForEnquiries"})
             EXPECT_EQ(QLatin1String(box + 3), screen.Box<oAllPurposeBox>(box).Text());
@@ -195,7 +195,7 @@ TEST_F(FirmAndTeam, KeepsWhatIsEnteredAndShowsItAgain)
         EXPECT_FALSE(screen.Box("txtVATRate").isEnabled());
         screen.reject(); // Esc
     });
-    open([](frmSection &screen) {
+    open([](frmScreen &screen) {
         EXPECT_FALSE(screen.Box<oCheckBox>("chkVAT").isChecked());
         EXPECT_FALSE(screen.Box("txtVATRate").isEnabled());
         type(screen, "txtNameOfFirm", "dropped");
@@ -208,12 +208,12 @@ TEST_F(FirmAndTeam, KeepsWhatIsEnteredAndShowsItAgain)
 TEST_F(FirmAndTeam, ALookWritesNothing)
 {
     start();
-    open([](frmSection &screen) { press(screen, "cmdClose"); });
+    open([](frmScreen &screen) { press(screen, "cmdClose"); });
     EXPECT_FALSE(QFile::exists(file()));
     keepFirm();
     const QDateTime before = QFileInfo(file()).lastModified();
     QTest::qWait(20);
-    open([](frmSection &screen) { press(screen, "cmdClose"); });
+    open([](frmScreen &screen) { press(screen, "cmdClose"); });
     EXPECT_EQ(before, QFileInfo(file()).lastModified());
 }
 
@@ -223,9 +223,9 @@ TEST_F(FirmAndTeam, TheOpenClaimHasNoPartInIt)
     entry("mnuSave").trigger();
     const QString before = Form->XMLOutput();
     keepFirm();
-    open([](frmSection &screen) {
+    open([](frmScreen &screen) {
         screen.Switcher().SwitchTo(2);
-        onceOpened("frmFirmGroupEdit", [](frmSection &group) {
+        onceOpened("frmFirmGroupEdit", [](frmScreen &group) {
             type(group, "txtReference", "not stored");
             press(group, "cmdCancel");
         });
@@ -239,7 +239,7 @@ TEST_F(FirmAndTeam, TheOpenClaimHasNoPartInIt)
     EXPECT_TRUE(NotStored().all().empty()) << "no claim's text is kept";
     EXPECT_TRUE(user.messages.empty());
     // The claim's own screens show the claim's data.
-    onceOpened("frmFeeEarnerGroups", [](frmSection &screen) {
+    onceOpened("frmFeeEarnerGroups", [](frmScreen &screen) {
         EXPECT_EQ(int(Form->FeeEarnerGroupsCollection().size()), screen.Box<oSGrid>("sgFeeEarnerGroups").Rows());
         press(screen, "cmdClose");
     });
@@ -250,7 +250,7 @@ TEST_F(FirmAndTeam, WhoIsInUseStays)
 {
     start();
     keepFirm();
-    open([this](frmSection &screen) {
+    open([this](frmScreen &screen) {
         screen.Switcher().SwitchTo(2);
         emit screen.Box<oSGrid>("sgFeeEarnerGroups").DeletePressed();
         ASSERT_EQ(1u, user.messages.size());
@@ -269,7 +269,7 @@ TEST_F(FirmAndTeam, WhoIsInUseStays)
 TEST_F(FirmAndTeam, AFullDiskKeepsTheDialogWithAllThatWasEntered)
 {
     start();
-    open([this](frmSection &screen) {
+    open([this](frmScreen &screen) {
         type(screen, "txtNameOfFirm", "Hartwell");
         FileSystem().faultPoint = [](clsFileStep step, const QString &) {
             return clsFileFault {step == clsFileStep::Write ? ENOSPC : 0, -1};

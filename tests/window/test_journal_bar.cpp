@@ -6,7 +6,7 @@
 #include "controls/oCustomButton.h"
 #include "controls/oFooterLine.h"
 #include "controls/oNoticeBar.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "formdata/mdRunStep.h"
 #include "shell/clsJournalKeeper.h"
 #include "tests/window/clsMainWindowTest.h"
@@ -104,7 +104,7 @@ TEST_F(JournalBar, WhatIsTypedIsWrittenNowAndThen)
     window->journal().begin();
     bool kept = false;
     QTimer::singleShot(0, window.get(), [&] {
-        auto *screen = qobject_cast<frmSection *>(QApplication::activeModalWidget());
+        auto *screen = qobject_cast<frmScreen *>(QApplication::activeModalWidget());
         ASSERT_TRUE(screen);
         screen->Box<oAllPurposeBox>("txtSurname").setText(QStringLiteral("Typed and not stored"));
         QElapsedTimer patience;

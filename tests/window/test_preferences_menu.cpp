@@ -3,7 +3,7 @@
 #include "controls/oContentSwitcher.h"
 #include "controls/oCustomButton.h"
 #include "controls/oSpellText.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "preview/oPreviewGrid.h"
 #include "tests/editors/mdOnceOpened.h"
 #include "tests/window/clsMainWindowTest.h"
@@ -19,18 +19,18 @@ namespace {
 class PreferencesMenu : public clsMainWindowTest {
 protected:
     /// The same, and records that the screen was opened.
-    void onceOpened(const char *name, std::function<void(frmSection &)> use)
+    void onceOpened(const char *name, std::function<void(frmScreen &)> use)
     {
-        ::onceOpened(name, [this, name, use = std::move(use)](frmSection &screen) {
+        ::onceOpened(name, [this, name, use = std::move(use)](frmScreen &screen) {
             opened << QString::fromLatin1(name);
             use(screen);
         });
     }
-    static void press(const frmSection &screen, const char *button)
+    static void press(const frmScreen &screen, const char *button)
     {
         QTest::mouseClick(&control<oCustomButton>(screen, button), Qt::LeftButton);
     }
-    static void click(const frmSection &screen, const char *tick)
+    static void click(const frmScreen &screen, const char *tick)
     {
         QTest::mouseClick(&screen.Box(tick), Qt::LeftButton, {}, QPoint(12, 12));
     }
@@ -59,7 +59,7 @@ TEST_F(PreferencesMenu, TheEntryAndItsKeyOpenTheFirstPage)
     start();
     EXPECT_TRUE(entry("mnuPreferences").isEnabled());
     for (const bool byKey : {false, true}) {
-        onceOpened("frmPreferences", [](frmSection &screen) {
+        onceOpened("frmPreferences", [](frmScreen &screen) {
             EXPECT_EQ(1, screen.Switcher().OpenPage());
             press(screen, "cmdClose");
         });
@@ -88,7 +88,7 @@ TEST_F(PreferencesMenu, AnAutomaticRefreshBeginsWithTheClose)
     Form->ScheduleOfTimeItem(1)->TTime = QStringLiteral("07:37");
     window->Activate();
     EXPECT_FALSE(text().contains(QLatin1String("07:37"))) << "the switch is still off";
-    onceOpened("frmPreferences", [](frmSection &screen) {
+    onceOpened("frmPreferences", [](frmScreen &screen) {
         click(screen, "chkAutoRefreshPreview");
         press(screen, "cmdClose");
     });
@@ -101,15 +101,15 @@ TEST_F(PreferencesMenu, AnAutomaticRefreshBeginsWithTheClose)
 TEST_F(PreferencesMenu, EditReplacementsOpensTheSecondPageOverTheScreenOfTheBox)
 {
     start();
-    onceOpened("frmClientDetails", [this](frmSection &client) {
+    onceOpened("frmClientDetails", [this](frmScreen &client) {
         auto &surname = client.Box<oAllPurposeBox>("txtSurname");
         QAction *edit = editReplacements(surname);
         ASSERT_TRUE(edit);
         EXPECT_TRUE(edit->isEnabled());
-        onceOpened("frmPreferences", [&](frmSection &screen) {
+        onceOpened("frmPreferences", [&](frmScreen &screen) {
             EXPECT_EQ(2, screen.Switcher().OpenPage());
             EXPECT_EQ(&client, screen.parentWidget());
-            onceOpened("frmReplacementEdit", [](frmSection &item) {
+            onceOpened("frmReplacementEdit", [](frmScreen &item) {
                 item.Box<oAllPurposeBox>("txtInputText").setText(QStringLiteral("hw"));
                 item.Box<oAllPurposeBox>("txtOutputText").setText(QStringLiteral("Hartwell"));
                 press(item, "cmdSave");

@@ -1,6 +1,6 @@
 #include "controls/oCheckBox.h"
 #include "controls/oSGrid.h"
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 #include "formdata/mdRunStep.h"
 #include "preview/oPreviewGrid.h"
 #include "tests/window/clsMainWindowTest.h"
@@ -21,11 +21,11 @@ protected:
         Document().history.clear();
     }
     /// Opens a section from the main window and uses its screen.
-    void inScreen(const char *section, const std::function<void(frmSection &)> &act)
+    void inScreen(const char *section, const std::function<void(frmScreen &)> &act)
     {
         bool used = false;
         QTimer::singleShot(0, window.get(), [&] {
-            auto *screen = qobject_cast<frmSection *>(QApplication::activeModalWidget());
+            auto *screen = qobject_cast<frmScreen *>(QApplication::activeModalWidget());
             ASSERT_TRUE(screen);
             ASSERT_TRUE(QTest::qWaitForWindowActive(screen));
             act(*screen);
@@ -49,7 +49,7 @@ protected:
     }
     void enterSurname(const char *surname)
     {
-        inScreen("Client Details", [&](frmSection &screen) {
+        inScreen("Client Details", [&](frmScreen &screen) {
             type(screen.Box("txtSurname"), QString::fromUtf8(surname));
             screen.Save();
         });
@@ -83,7 +83,7 @@ TEST_F(Undo, TakesScreensBackInTheOtherOrder)
     EXPECT_EQ(before, Form->XMLOutput()) << "nothing to undo";
 
     enterSurname("Smith & Sons");
-    inScreen("Details of Work", [](frmSection &screen) {
+    inScreen("Details of Work", [](frmScreen &screen) {
         type(screen.Box("txtDetailsOfCase"), QStringLiteral("New words"));
         screen.Save();
     });
@@ -145,7 +145,7 @@ TEST_F(Undo, AChangeOfTheFormTypeIsOneStep)
 {
     start(sample("housing-typical.zr3"));
     const QString before = Form->XMLOutput();
-    inScreen("Form Setup", [](frmSection &screen) {
+    inScreen("Form Setup", [](frmScreen &screen) {
         screen.Box<QComboBox>("cmbFormType").setCurrentText(QStringLiteral("Claim1A"));
         screen.Box<oCheckBox>("chkMentalHealth").setChecked(true);
         screen.Close();
@@ -164,7 +164,7 @@ TEST_F(Undo, ThePreviewShowsIt)
     start(sample("housing-typical.zr3"));
     ASSERT_FALSE(Preferences->AutoRefreshPreview());
     const int before = previewRows();
-    inScreen("Schedule of Time", [this](frmSection &screen) {
+    inScreen("Schedule of Time", [this](frmScreen &screen) {
         user.answers = {clsUserInterface::Yes};
         auto &grid = screen.Box<oSGrid>("sgScheduleOfTime");
         grid.setFocus();
@@ -184,7 +184,7 @@ TEST_F(Undo, AStepOfAListCanBeTakenBackInTheMainWindow)
 {
     start(sample("housing-typical.zr3"));
     QString before;
-    inScreen("Schedule of Time", [&](frmSection &screen) {
+    inScreen("Schedule of Time", [&](frmScreen &screen) {
         before = Form->XMLOutput();
         user.answers = {clsUserInterface::Yes};
         screen.Box<oSGrid>("sgScheduleOfTime").setFocus();

@@ -25,11 +25,11 @@ enum class clsStoring { Closing, MovingOn };
 /// A screen of the claim, created from its table: a section, a list, or the editor of an item. It keeps no data between
 /// openings: initialising copies its record into the controls, storing copies them back. Anything beyond that is set up
 /// by the screen's rules, which find the controls by name.
-class frmSection : public QDialog {
+class frmScreen : public QDialog {
     Q_OBJECT
 
 public:
-    explicit frmSection(const clsScreen &screen, QWidget *parent = nullptr);
+    explicit frmScreen(const clsScreen &screen, QWidget *parent = nullptr);
 
     const clsScreen &Screen() const { return m_screen; }
 

@@ -4,9 +4,9 @@
 
 /// Which items of the schedule are on the bill: all but the non-advocacy items of a `Claim1A` that leaves them out.
 /// Reads the claim's own settings once, at the first item; use one object for a single loop over the items.
-class clsOnBill {
+class clsBillFilter {
 public:
-    explicit clsOnBill(const clsZR3Form &form)
+    explicit clsBillFilter(const clsZR3Form &form)
         : m_form(form)
     { }
 

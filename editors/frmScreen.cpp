@@ -1,4 +1,4 @@
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 
 #include "base/clsRunTimeError.h"
 #include "base/mdLog.h"
@@ -69,7 +69,7 @@ int widthOf(clsScreenWidth width)
 
 } // namespace
 
-frmSection::frmSection(const clsScreen &screen, QWidget *parent)
+frmScreen::frmScreen(const clsScreen &screen, QWidget *parent)
     : QDialog(parent)
     , m_screen(screen)
     , m_header(new oHeaderBar(this))
@@ -111,7 +111,7 @@ frmSection::frmSection(const clsScreen &screen, QWidget *parent)
         screen.rules(*this);
 }
 
-void frmSection::buildFrames()
+void frmScreen::buildFrames()
 {
     for (const clsScreenFrame &table : m_screen.frames) {
         auto *frame = new oScreenFrame(table, m_page->content());
@@ -122,7 +122,7 @@ void frmSection::buildFrames()
     m_page->complete();
 }
 
-void frmSection::buildFileMenu()
+void frmScreen::buildFileMenu()
 {
     QMenu *file = m_menus->addMenu(QStringLiteral("&File"));
     QAction *save = file->addAction(QStringLiteral("&Save"));
@@ -133,7 +133,7 @@ void frmSection::buildFileMenu()
     connect(save, &QAction::triggered, this, [] { SaveForm(false); });
 }
 
-void frmSection::buildJumpMenu()
+void frmScreen::buildJumpMenu()
 {
     QMenu *jumpTo = m_menus->addMenu(QStringLiteral("&Jump To"));
     clsMnemonics letters;
@@ -145,16 +145,16 @@ void frmSection::buildJumpMenu()
     }
 }
 
-void frmSection::connectBar()
+void frmScreen::connectBar()
 {
-    connect(m_bar, &oScreenBar::Prev, this, &frmSection::Prev);
-    connect(m_bar, &oScreenBar::Next, this, &frmSection::Next);
+    connect(m_bar, &oScreenBar::Prev, this, &frmScreen::Prev);
+    connect(m_bar, &oScreenBar::Next, this, &frmScreen::Next);
     connect(m_bar, &oScreenBar::Walk, this, [this](bool behind) {
         leaveFor(mdSectionBeside(QString::fromUtf8(m_screen.section), Form->FormType(), behind));
     });
-    connect(m_bar, &oScreenBar::Save, this, &frmSection::Save);
-    connect(m_bar, &oScreenBar::SaveAndAdd, this, &frmSection::SaveAndAdd);
-    connect(m_bar, &oScreenBar::Close, this, &frmSection::Close);
+    connect(m_bar, &oScreenBar::Save, this, &frmScreen::Save);
+    connect(m_bar, &oScreenBar::SaveAndAdd, this, &frmScreen::SaveAndAdd);
+    connect(m_bar, &oScreenBar::Close, this, &frmScreen::Close);
     connect(m_bar, &oScreenBar::Jump, this, [this](const QString &section) { JumpTo(section, true); });
     connect(m_bar, &oScreenBar::Cancel, this, [this] {
         // A box with invalid text keeps the focus and blocks all buttons, including this one, but not Esc and the close
@@ -165,7 +165,7 @@ void frmSection::connectBar()
     });
 }
 
-void frmSection::makeTicksExclusive()
+void frmScreen::makeTicksExclusive()
 {
     std::map<QString, std::vector<oCheckBox *>> groups;
     for (const clsScreenField &field : m_fields) {
@@ -182,12 +182,12 @@ void frmSection::makeTicksExclusive()
         mdMakeExclusive(boxes);
 }
 
-void frmSection::Initialise()
+void frmScreen::Initialise()
 {
     Initialise(m_screen.record ? m_screen.record() : nullptr);
 }
 
-void frmSection::Initialise(clsXMLRecord *item)
+void frmScreen::Initialise(clsXMLRecord *item)
 {
     WriteLog(objectName() + QStringLiteral(" Opened"));
     m_record = item;
@@ -210,7 +210,7 @@ void frmSection::Initialise(clsXMLRecord *item)
 }
 
 /// If nothing has the focus, sets it to the first field that can take it and has none of the flags `passedOver`.
-void frmSection::enterFirst(unsigned passedOver)
+void frmScreen::enterFirst(unsigned passedOver)
 {
     for (const clsScreenField &field : m_fields) {
         if (focusWidget())
@@ -223,7 +223,7 @@ void frmSection::enterFirst(unsigned passedOver)
 }
 
 /// A number that the user hasn't visited would be stored as empty, and the item could not be priced.
-void frmSection::startFiguresAtZero()
+void frmScreen::startFiguresAtZero()
 {
     for (const clsScreenField &field : m_fields) {
         if (auto *amount = qobject_cast<oDecimalBox *>(field.control))
@@ -233,7 +233,7 @@ void frmSection::startFiguresAtZero()
     }
 }
 
-void frmSection::Store(clsStoring storing)
+void frmScreen::Store(clsStoring storing)
 {
     if (!m_record && m_screen.add)
         m_record = m_screen.add();
@@ -245,7 +245,7 @@ void frmSection::Store(clsStoring storing)
 }
 
 /// Item editors store within the step of their list, and the preferences are not part of the claim.
-void frmSection::storeAsStep(clsStoring storing)
+void frmScreen::storeAsStep(clsStoring storing)
 {
     if (m_screen.fileMenu)
         RunStep(QString::fromUtf8(m_screen.section ? m_screen.section : m_screen.header), [&] { Store(storing); });
@@ -253,7 +253,7 @@ void frmSection::storeAsStep(clsStoring storing)
         Store(storing);
 }
 
-bool frmSection::checkRequired()
+bool frmScreen::checkRequired()
 {
     QStringList texts;
     QWidget *firstEmpty = nullptr;
@@ -273,7 +273,7 @@ bool frmSection::checkRequired()
 /// A box that the user hasn't visited may hold an invalid value from a file. An item's editor then stores nothing and
 /// focuses the box. Valid text is stored unchanged, as is an amount that is empty until its box has had the focus; only
 /// a time is reformatted.
-bool frmSection::checkTyped()
+bool frmScreen::checkTyped()
 {
     if (!m_screen.itemWord)
         return true;
@@ -286,12 +286,12 @@ bool frmSection::checkTyped()
     return std::none_of(m_fields.begin(), m_fields.end(), holds);
 }
 
-bool frmSection::mayStore()
+bool frmScreen::mayStore()
 {
     return mdLeaveFocusedBox(this) && checkRequired() && checkTyped() && (!m_mayStore || m_mayStore());
 }
 
-void frmSection::Save()
+void frmScreen::Save()
 {
     if (!mayStore())
         return;
@@ -299,12 +299,12 @@ void frmSection::Save()
     done(Accepted);
 }
 
-void frmSection::Close()
+void frmScreen::Close()
 {
     Save();
 }
 
-void frmSection::Cancel()
+void frmScreen::Cancel()
 {
     // Only item editors call the confirmation.
     if (m_screen.itemWord && !mdConfirmCancelEdit(QString::fromUtf8(m_screen.itemWord)))
@@ -313,25 +313,25 @@ void frmSection::Cancel()
     done(Rejected);
 }
 
-void frmSection::Prev()
+void frmScreen::Prev()
 {
     leaveFor(mdPrevSection(QString::fromUtf8(m_screen.section), Form->FormType()));
 }
 
-void frmSection::Next()
+void frmScreen::Next()
 {
     leaveFor(mdNextSection(QString::fromUtf8(m_screen.section), Form->FormType()));
 }
 
 /// Moving on always stores; only Cancel discards changes. For an unknown form type there is no target, and nothing
 /// happens.
-void frmSection::leaveFor(const QString &section)
+void frmScreen::leaveFor(const QString &section)
 {
     if (!section.isEmpty())
         JumpTo(section, true);
 }
 
-void frmSection::JumpTo(const QString &section, bool store)
+void frmScreen::JumpTo(const QString &section, bool store)
 {
     if (!mdLeaveFocusedBox(this))
         return;
@@ -342,7 +342,7 @@ void frmSection::JumpTo(const QString &section, bool store)
     mdUnloadAndDummyTabClick(*this, section);
 }
 
-QWidget &frmSection::Box(const char *name) const
+QWidget &frmScreen::Box(const char *name) const
 {
     for (const clsScreenField &field : m_fields)
         if (field.control->objectName() == QLatin1String(name))
@@ -350,7 +350,7 @@ QWidget &frmSection::Box(const char *name) const
     throw clsRunTimeError(clsRunTimeError::ObjectNotSet);
 }
 
-void frmSection::reject()
+void frmScreen::reject()
 {
     if (m_screen.ending == clsScreenEnding::Close)
         Close();
@@ -358,7 +358,7 @@ void frmSection::reject()
         Cancel();
 }
 
-void frmSection::closeEvent(QCloseEvent *event)
+void frmScreen::closeEvent(QCloseEvent *event)
 {
     if (m_screen.ending == clsScreenEnding::SaveCancel) {
         Cancel();
@@ -370,7 +370,7 @@ void frmSection::closeEvent(QCloseEvent *event)
     event->setAccepted(!isVisible());
 }
 
-QSize frmSection::sizeHint() const
+QSize frmScreen::sizeHint() const
 {
     const int width = qMax(widthOf(m_screen.width), minimumSizeHint().width());
     if (m_screen.width == clsScreenWidth::List || !m_lists.empty())
@@ -380,7 +380,7 @@ QSize frmSection::sizeHint() const
     return {width, around + m_page->heightFor(width)};
 }
 
-QSize frmSection::minimumSizeHint() const
+QSize frmScreen::minimumSizeHint() const
 {
     return {qMax(m_page->minimumSizeHint().width(), m_bar->minimumSizeHint().width()), Theme::scaled(LowestWindow)};
 }

@@ -1,4 +1,4 @@
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 
 #include "editors/mdClearControl.h"
 #include "editors/mdFieldTexts.h"
@@ -8,14 +8,14 @@
 
 // Item editors that continue with the next item, or start from another one.
 
-void frmSection::StartLike(clsXMLRecord &other)
+void frmScreen::StartLike(clsXMLRecord &other)
 {
     for (const clsScreenField &field : m_fields)
         mdLoadControl(*field.row, *field.control, other);
     m_loadedTexts = mdFieldTexts(m_fields);
 }
 
-void frmSection::SaveAndAdd()
+void frmScreen::SaveAndAdd()
 {
     if (!m_screen.add || !mayStore())
         return;

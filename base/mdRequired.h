@@ -6,7 +6,7 @@
 
 /// Dereferences a pointer; a null pointer raises the object error. Look-ups return null when they fail; callers that
 /// need the object use this.
-template <class T> T &mdExisting(const std::shared_ptr<T> &pointer)
+template <class T> T &mdRequired(const std::shared_ptr<T> &pointer)
 {
     if (!pointer)
         throw clsRunTimeError(clsRunTimeError::ObjectNotSet);

@@ -1,4 +1,4 @@
-#include "editors/frmSection.h"
+#include "editors/frmScreen.h"
 
 #include "base/clsRunTimeError.h"
 #include "controls/oContentSwitcher.h"
@@ -14,7 +14,7 @@
 
 // The lists of a screen, and Undo on it.
 
-void frmSection::buildLists()
+void frmScreen::buildLists()
 {
     for (size_t i = 0; i < m_fields.size(); ++i) {
         auto *grid = qobject_cast<oSGrid *>(m_fields[i].control);
@@ -23,25 +23,25 @@ void frmSection::buildLists()
         const clsItemList &list = *m_fields[i].row->items;
         auto *add = list.add ? static_cast<oCustomButton *>(m_fields[i + 1].control) : nullptr;
         m_lists.push_back({new clsListActions(*this, list, *grid, add), m_fields[i].page});
-        connect(m_lists.back().actions, &clsListActions::Changed, this, &frmSection::RedrawLists);
+        connect(m_lists.back().actions, &clsListActions::Changed, this, &frmScreen::RedrawLists);
     }
 }
 
 /// Before the bar, so that it comes first in the tab order. The preferences, whose lists are not part of the claim,
 /// also have no menu for the claim's file.
-void frmSection::buildLine()
+void frmScreen::buildLine()
 {
     const auto isList = [](const clsScreenField &field) { return field.row->kind == clsRowKind::Items; };
     if (m_screen.fileMenu && std::any_of(m_fields.begin(), m_fields.end(), isList))
         m_line = new oListLine(this);
 }
 
-void frmSection::buildUndo()
+void frmScreen::buildUndo()
 {
     if (!m_line) {
         // The preferences have lists but no menu.
         if (!m_lists.empty())
-            connect(new QShortcut(Qt::CTRL | Qt::Key_F, this), &QShortcut::activated, this, &frmSection::Find);
+            connect(new QShortcut(Qt::CTRL | Qt::Key_F, this), &QShortcut::activated, this, &frmScreen::Find);
         return;
     }
     m_undo = new clsScreenUndo(*this, *m_menus, *m_line);
@@ -52,25 +52,25 @@ void frmSection::buildUndo()
     }
 }
 
-bool frmSection::AddsItems() const
+bool frmScreen::AddsItems() const
 {
     return std::any_of(m_lists.begin(), m_lists.end(), [](const clsList &list) { return list.actions->AddsItems(); });
 }
 
-bool frmSection::ChangesItems() const
+bool frmScreen::ChangesItems() const
 {
     return std::any_of(
         m_lists.begin(), m_lists.end(), [](const clsList &list) { return list.actions->ChangesItems(); });
 }
 
-void frmSection::SameAgain()
+void frmScreen::SameAgain()
 {
     for (const clsList &list : m_lists)
         if (list.actions->HasFocus() || m_lists.size() == 1)
             return list.actions->SameAgain();
 }
 
-clsListActions *frmSection::listInUse() const
+clsListActions *frmScreen::listInUse() const
 {
     for (const clsList &list : m_lists)
         if (list.actions->HasFocus())
@@ -81,25 +81,25 @@ clsListActions *frmSection::listInUse() const
     return nullptr;
 }
 
-void frmSection::Find()
+void frmScreen::Find()
 {
     if (clsListActions *list = listInUse())
         list->Find();
 }
 
-void frmSection::ChangeSelected()
+void frmScreen::ChangeSelected()
 {
     if (clsListActions *list = listInUse())
         list->ChangeSelected();
 }
 
-bool frmSection::CanChangeSelected() const
+bool frmScreen::CanChangeSelected() const
 {
     const clsListActions *list = listInUse();
     return list && list->CanChangeSelected();
 }
 
-void frmSection::ShowItem(const clsZR3Item *item)
+void frmScreen::ShowItem(const clsZR3Item *item)
 {
     if (!item)
         return;
@@ -108,21 +108,21 @@ void frmSection::ShowItem(const clsZR3Item *item)
             Switcher().SwitchTo(list.page);
 }
 
-void frmSection::RedrawLists()
+void frmScreen::RedrawLists()
 {
     for (const clsList &list : m_lists)
         list.actions->redraw();
     showCounts();
 }
 
-void frmSection::showCounts()
+void frmScreen::showCounts()
 {
     for (const clsList &list : m_lists)
         if (list.page > 0)
             Switcher().setCount(list.page, list.actions->Rows());
 }
 
-oContentSwitcher &frmSection::Switcher() const
+oContentSwitcher &frmScreen::Switcher() const
 {
     auto *switcher = findChild<oContentSwitcher *>();
     if (!switcher)

@@ -28,7 +28,7 @@ constexpr clsMenuRow MenuRows[] = {
     {"&File",    "Save &As...",                   "mnuSaveAs",                       "",       &frmMain::SaveAs,                       true},
     {"&File",    "&Export to Word",               "mnuExportToWord",                 "Ctrl+W", &frmMain::ExportToWord,                 true},
     {"&File",    "E&xit",                         "mnuExit",                         "Ctrl+Q", &frmMain::Exit,                         true},
-    {"&File",    "New &From Claim...",            "mnuNewFromClaim",                 "",       &frmMain::NewFromClaim},
+    {"&File",    "New From &Claim...",            "mnuNewFromClaim",                 "",       &frmMain::NewFromClaim},
     {"&File",    "Export as &PDF...",             "mnuExportAsPdf",                  "",       &frmMain::ExportAsPdf},
     {"&File",    "&Folder of Claims...",          "mnuFolderOfClaims",               "",       &frmMain::FolderOfClaims, false, Glyph::Folder},
     {"&Tools",   "&Preferences",                  "mnuPreferences",                  "Ctrl+P", &frmMain::ShowPreferences,              true, Glyph::Sliders},

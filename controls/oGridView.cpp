@@ -100,8 +100,8 @@ void oGridView::selectOnly(int row, int column)
     const auto &gridModel = *static_cast<const clsGridModel *>(model());
     if (column < 0)
         column = currentIndex().isValid() ? currentIndex().column() : gridModel.firstShownColumn();
-    selectionModel()->setCurrentIndex(
-        gridModel.index(row, column), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    m_anchor = gridModel.index(row, column);
+    selectionModel()->setCurrentIndex(m_anchor, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 void oGridView::setMarksRows(bool marksRows)
@@ -181,11 +181,16 @@ QItemSelectionModel::SelectionFlags oGridView::selectionCommand(const QModelInde
     return QTableView::selectionCommand(index, event);
 }
 
-/// The base class would select all rows from the press to the pointer.
+/// The base class would select all rows from the press to the pointer, and with Shift from the row last reached by
+/// hand, even if another was selected since.
 void oGridView::setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command)
 {
-    const bool toOneRow = m_marksRows && !(command & QItemSelectionModel::Current);
-    QTableView::setSelection(toOneRow ? QRect(rect.bottomRight(), rect.bottomRight()) : rect, command);
+    QRect rows = rect;
+    if (m_marksRows && !(command & QItemSelectionModel::Current))
+        rows.setTopLeft(rect.bottomRight());
+    else if (m_marksRows && m_anchor.isValid())
+        rows.setTopLeft(visualRect(m_anchor).center());
+    QTableView::setSelection(rows, command);
 }
 
 void oGridView::hoverAt(const QPoint &position)
@@ -212,12 +217,15 @@ void oGridView::keyPressEvent(QKeyEvent *event)
         event->accept();
         return;
     }
+    const QModelIndex before = currentIndex();
     if (takesKey(event))
         event->accept();
     else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         event->ignore(); // no row to open: leave it to the screen's default button
     else
         QTableView::keyPressEvent(event);
+    if (currentIndex() != before && !(event->modifiers() & Qt::ShiftModifier))
+        m_anchor = currentIndex();
 }
 
 bool oGridView::takesKey(QKeyEvent *event)
@@ -281,6 +289,9 @@ QModelIndex oGridView::moveCursor(CursorAction action, Qt::KeyboardModifiers mod
 void oGridView::mousePressEvent(QMouseEvent *event)
 {
     QTableView::mousePressEvent(event);
+    const QModelIndex pressed = indexAt(event->position().toPoint());
+    if (pressed.isValid() && !(event->modifiers() & Qt::ShiftModifier))
+        m_anchor = pressed;
     const QItemSelection selection = selectionModel()->selection();
     if (m_marksRows && !selection.isEmpty() && !selectionModel()->isSelected(currentIndex()))
         selectionModel()->setCurrentIndex(model()->index(selection.first().top(), std::max(0, currentIndex().column())),

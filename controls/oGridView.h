@@ -3,6 +3,7 @@
 #include "controls/mdIcons.h"
 #include "controls/oGridDelegate.h"
 
+#include <QPersistentModelIndex>
 #include <QTableView>
 
 #include <vector>
@@ -80,4 +81,5 @@ private:
     QString m_emptyText;
     Glyph m_emptyGlyph = Glyph::List;
     bool m_marksRows = false;
+    QPersistentModelIndex m_anchor; ///< where the rows begin that Shift marks
 };

@@ -372,3 +372,24 @@ TEST_F(clsGrid, ShowsTheScheduleOfASampleClaim)
             rowTexts(row));
     }
 }
+
+TEST_F(clsGrid, ShiftMarksFromTheRowThatWasSelectedLast)
+{
+    addGroups(6);
+    addReferenceColumn();
+    grid.setMarksRows(true);
+    draw();
+    const auto marked = [this] { return grid.SelectedItemCollection().size(); };
+    const auto press = [this](Qt::Key key, Qt::KeyboardModifiers shift) { QTest::keyClick(view(), key, shift); };
+    grid.SelectRow(1);
+    press(Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(2u, marked());
+    // As Find does, or an undo that shows its item.
+    grid.SelectRow(4);
+    press(Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(2u, marked()) << "rows 4 and 5";
+    EXPECT_EQ(5, grid.SelectedRow());
+    press(Qt::Key_Home, Qt::NoModifier);
+    press(Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(2u, marked()) << "rows 1 and 2";
+}

@@ -157,7 +157,7 @@ QString clsPasteModel::commaOf(const clsImportedRow &row) const
     for (size_t column = 0; column < row.Cells.size(); ++column)
         if (const clsImportedCell &cell = row.Cells[column];
             m_list.columns[column].kind == clsCellKind::Time && cell.Text.contains(u','))
-            return QStringLiteral("%1 is read as %2: times take no comma").arg(cell.Text.trimmed(), cell.Value);
+            return QStringLiteral("%1 read as %2: times take no comma").arg(cell.Text.trimmed(), cell.Value);
     return {};
 }
 

@@ -24,6 +24,8 @@ constexpr QFile::Permissions FileOwnerOnly = QFile::ReadOwner | QFile::WriteOwne
 constexpr qsizetype LongestStem = 180; // bytes: file names are limited to 255, and the time and a number follow
 constexpr int MostCopiesInASecond = 100;
 const QString TimeOfCopy = QStringLiteral("yyyy-MM-dd HH.mm.ss");
+const QString NameOfCopy = QStringLiteral(
+    "^(.+) ([0-9]{4}-[0-9]{2}-[0-9]{2} [0-9]{2}\\.[0-9]{2}\\.[0-9]{2})(?: \\(([0-9]{1,3})\\))?\\.zr3$");
 constexpr qint64 WrittenWithinSeconds = 60; ///< of the time in its name
 
 /// A file name without its extension, valid on every file system.
@@ -58,10 +60,7 @@ struct clsCopyName {
 
 std::optional<clsCopyName> partsOf(const QString &name)
 {
-    const QRegularExpression pattern(
-        QStringLiteral(
-            "^(.+) ([0-9]{4}-[0-9]{2}-[0-9]{2} [0-9]{2}\\.[0-9]{2}\\.[0-9]{2})(?: \\(([0-9]{1,3})\\))?\\.zr3$"),
-        QRegularExpression::DotMatchesEverythingOption);
+    const QRegularExpression pattern(NameOfCopy, QRegularExpression::DotMatchesEverythingOption);
     const QRegularExpressionMatch match = pattern.match(name);
     if (!match.hasMatch())
         return {};

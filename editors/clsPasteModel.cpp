@@ -148,7 +148,17 @@ QString clsPasteModel::noteOf(int row) const
         return {};
     if (shown->isWrong())
         return shown->reasons().join(QStringLiteral("; "));
-    return shown->DoubleOf > 0 ? QStringLiteral("As item %1 of the claim").arg(shown->DoubleOf) : QString();
+    return shown->DoubleOf > 0 ? QStringLiteral("As item %1 of the claim").arg(shown->DoubleOf) : commaOf(*shown);
+}
+
+/// A time is read as in its box, which passes a comma over: 1,5 of a spreadsheet is a quarter of an hour there.
+QString clsPasteModel::commaOf(const clsImportedRow &row) const
+{
+    for (size_t column = 0; column < row.Cells.size(); ++column)
+        if (const clsImportedCell &cell = row.Cells[column];
+            m_list.columns[column].kind == clsCellKind::Time && cell.Text.contains(u','))
+            return QStringLiteral("%1 read as %2: times take no comma").arg(cell.Text.trimmed(), cell.Value);
+    return {};
 }
 
 /// The cell's text as the item will have it. References to other items and invalid cells keep their original text.
@@ -189,7 +199,9 @@ QVariant clsPasteModel::data(const QModelIndex &index, int role) const
         if (index.column() == Tick)
             return IsTicked(index.row()) ? QStringLiteral("ticked") : QStringLiteral("not ticked");
         return isWrongCell(index) ? textOf(index) + QStringLiteral(": ") + cellAt(index)->Reason : textOf(index);
-    case WrongRole: return isWrongCell(index);
+    case WrongRole:
+        return isWrongCell(index)
+            || (index.column() == NoteColumn() && IsTicked(index.row()) && rowAt(index.row())->isWrong());
     case DoubleRole: return rowAt(index.row()) && !rowAt(index.row())->isWrong() && rowAt(index.row())->DoubleOf > 0;
     case OffRole:
         return !IsTicked(index.row())

@@ -52,6 +52,7 @@ private:
     bool isWrongCell(const QModelIndex &index) const;
     QString textOf(const QModelIndex &index) const;
     QString noteOf(int row) const;
+    QString commaOf(const clsImportedRow &row) const;
     void keepTicks();
     void tellAll();
 

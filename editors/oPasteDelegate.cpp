@@ -85,17 +85,19 @@ void oPasteDelegate::paintNote(QPainter &painter, const QRect &room, const QMode
     QRect inside = room;
     const bool isDouble = note.data(clsPasteModel::DoubleRole).toBool();
     const bool isOff = isDouble || note.data(clsPasteModel::OffRole).toBool();
-    painter.setFont(fontOf(!isOff));
+    const bool isWrong = note.data(clsPasteModel::WrongRole).toBool();
+    painter.setFont(fontOf(isWrong));
     if (note.data().toString().isEmpty())
         return;
     if (isDouble) {
         inside.setLeft(paintPill(painter, inside) + Theme::Space8);
     } else if (!isOff) {
         const int side = Theme::scaled(SignSide);
-        mdPaintSign(painter, QRect(inside.left(), inside.center().y() - side / 2, side, side), Sign::Error);
+        mdPaintSign(painter, QRect(inside.left(), inside.center().y() - side / 2, side, side),
+            isWrong ? Sign::Error : Sign::Note);
         inside.setLeft(inside.left() + side + Theme::Space8);
     }
-    painter.setPen(isOff ? Theme::Ink2 : Theme::Red);
+    painter.setPen(isWrong ? Theme::Red : isOff ? Theme::Ink2 : Theme::Ink);
     painter.drawText(inside, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
         painter.fontMetrics().elidedText(note.data().toString(), Qt::ElideRight, inside.width()));
 }

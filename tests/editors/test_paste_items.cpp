@@ -204,6 +204,15 @@ TEST_F(PasteItems, AWrongCellHoldsTheButtonAndHasTheFocus)
     EXPECT_EQ(std::make_pair(3, 2), at());
 }
 
+TEST_F(PasteItems, ATimeWithACommaSaysHowItIsReadAndHoldsNothing)
+{
+    look(QStringLiteral("date\tfeeearner\tcode\ttime\n17/09/25\tDVE\tACT\t1,5\n18/09/25\tDVE\tACT\t1.5\n"));
+    EXPECT_EQ(QStringLiteral("17/09/25|DVE|ACT|00:15|1,5 read as 00:15: times take no comma"), row(1));
+    EXPECT_EQ(QStringLiteral("18/09/25|DVE|ACT|01:30|"), row(2));
+    EXPECT_FALSE(cells().index(0, cells().columnCount() - 1).data(clsPasteModel::WrongRole).toBool());
+    EXPECT_TRUE(add().isEnabled());
+}
+
 TEST_F(PasteItems, ACellIsPutRightByTypingAndARowLeftOutBySpace)
 {
     look(withFaults());

@@ -170,7 +170,7 @@ bool trapped(
     }
 }
 
-/// The content of a file as `convert` makes a text of its bytes, an empty text where that failed.
+/// The text that `convert` returns for the bytes of a file; empty if the file could not be read.
 template <class Convert> auto readDocument(const QString &path, bool logIt, Convert convert, int *failure = nullptr)
 {
     if (logIt)

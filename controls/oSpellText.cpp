@@ -258,7 +258,7 @@ void oSpellText::focusInEvent(QFocusEvent *event)
     moveCursor(QTextCursor::End);
     if (reason != Qt::MouseFocusReason)
         return;
-    // The click that sets the focus must still hit the text at its target.
+    // Scroll back, so that the click that set the focus places the caret where the user clicked.
     horizontalScrollBar()->setValue(across);
     verticalScrollBar()->setValue(down);
 }

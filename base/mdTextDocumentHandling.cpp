@@ -149,7 +149,7 @@ QByteArray read(const QString &path)
     }
 }
 
-/// Runs a file operation; on failure shows its box and returns false.
+/// Runs a file operation; on failure shows its message box and returns false.
 template <class Operation>
 bool trapped(
     const QString &title, const QString &whatWasTried, const QString &path, Operation operation, int *failure = nullptr)

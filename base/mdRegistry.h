@@ -13,7 +13,7 @@ QString ReadRegKey(const QString &name);
 /// The same without box and log: empty on failure.
 QString ReadRegKeyQuietly(const QString &name);
 
-/// Whether it is certain that a name has no text: all stores were readable and none has it.
+/// True if a name certainly has no text: all stores were readable and none contains it.
 bool RegKeyIsMissing(const QString &name);
 
 /// Stores a text for this user.

@@ -58,7 +58,7 @@ template <class IsLost> bool overwriteUnlessLost(const QString &path, const QByt
     return true;
 }
 
-/// The same within one turn; false if that was lost.
+/// Overwrites the file during this turn; false if another program has taken over the turn.
 bool overwrittenInTurn(const QString &path, const QByteArray &bytes, const clsWriteLock &turn, bool isLastTurn)
 {
     const auto isLost = [&] { return !isLastTurn && turn.isLost(); };

@@ -10,7 +10,7 @@
 /// The text under a name; empty if there is none.
 QString ReadRegKey(const QString &name);
 
-/// The same without box and log: empty on failure.
+/// The same without message and log; empty on failure.
 QString ReadRegKeyQuietly(const QString &name);
 
 /// True if a name certainly has no text: all stores were readable and none contains it.

@@ -102,7 +102,7 @@ QString MoneyToText(Money amount)
 
 Money RoundMoney2(double pounds)
 {
-    // Larger than any amount; keeps the powers of ten below within 64 bits.
+    // Larger than any amount; small enough that the powers of ten used below fit in 64 bits.
     constexpr double OutOfRange = 1e15;
     if (!(std::abs(pounds) < OutOfRange))
         throw clsRunTimeError(clsRunTimeError::Overflow);

@@ -22,7 +22,7 @@
 namespace {
 
 // More than a hundred times the largest claim. Reading a larger file would exhaust the memory before the program found
-// that it is no claim.
+// that it is not a claim.
 constexpr qint64 LargestFile = 512 * 1024 * 1024;
 constexpr qsizetype CopyBlock = 256 * 1024;
 

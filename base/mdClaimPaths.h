@@ -6,7 +6,7 @@
 
 /// A claim that a path refers to, or the reason why it was not found.
 struct clsClaimPath {
-    QString path; ///< the given path, "/" and the rest
+    QString path; ///< the given path or, for a claim in a folder, that path, "/" and the path below it
     /// Why it, or the folder of that path, can't be read: the title and text of a message; otherwise empty.
     QString errorTitle {};
     QString error {};

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// The path of a file URL, or the text itself if it is none.
+/// The path of a file URL, or the text itself if it isn't one.
 QString withoutAddress(const QString &text)
 {
     QUrl address(text);
@@ -20,7 +20,8 @@ QString withoutAddress(const QString &text)
     return address.toLocalFile();
 }
 
-/// The full path. "." and ".." are removed only if that leads to the same file; behind a link to a folder it doesn't.
+/// The full path. "." and ".." are removed only if the result is the same file: after a link to a folder, ".." leads
+/// elsewhere.
 QString fullPath(const QString &path)
 {
     const QString full = QDir::current().absoluteFilePath(path);

@@ -35,8 +35,8 @@ QString GetDatabasePath()
             QStringLiteral("Folder Error"), clsUserInterface::Critical, clsUserInterface::OKOnly);
         throw clsProgramEnd();
     }
-    // Written even if unchanged, and without checking access first: if it can't be written, the box of the failed write
-    // shows each time. Required behaviour; do not fix.
+    // Written even if unchanged, and without checking access first: if it can't be written, the error message appears
+    // each time. Required behaviour; do not fix.
     SetDatabasePath(path);
     return path;
 }

@@ -32,7 +32,7 @@ extern "C" void passOn(int)
 
 } // namespace
 
-/// A pipe that carries a signal into the event loop: a signal handler can safely do nothing but write.
+/// A pipe that carries a signal into the event loop: writing is all that a signal handler can safely do.
 class clsEndSignalScope::clsPipe {
 public:
     explicit clsPipe(std::function<void()> handler)

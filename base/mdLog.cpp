@@ -56,7 +56,7 @@ QString folderOfLog(const QString &name)
     MakeFolderLikeItsParent(withPreferences);
     if (const QString shared = folderBelow(withPreferences, name); !shared.isEmpty())
         return shared;
-    // If this can't be written either, each line shows its boxes.
+    // If this folder can't be written to either, each logged line shows an error box.
     const QString own = StateFolder() + QStringLiteral("/Logs");
     if (MakeStateFolder())
         ownFolder(own, name);

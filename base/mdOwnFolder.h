@@ -14,8 +14,8 @@ bool IsOwnFolder(const QString &path);
 /// Creates a folder with the same access for others as its parent; an existing one is not changed.
 void MakeFolderLikeItsParent(const QString &path);
 
-/// Whether the path leads over a link made by another user, or is one. Links of the administrator are trusted on the
-/// way, for example if /home is one.
+/// Whether the path is a link made by another user, or contains one. Links of the administrator within the path are
+/// trusted, for example if /home is one.
 bool LeadsOverForeignLink(const QString &path);
 
 /// The user's name in a form usable as a file name.

@@ -16,7 +16,7 @@ QString mdWithoutControls(QString text)
 
 QByteArray mdPrinted(std::FILE *stream, const QString &text)
 {
-    // A single line feed is no line end: it comes from a file name.
+    // A line feed alone doesn't end a line: it comes from a file name.
     QStringList lines = text.split(QStringLiteral("\r\n"));
     if (mdIsTerminal(stream))
         for (QString &line : lines)

@@ -138,7 +138,7 @@ void removeOrHide(const QString &key)
         user.remove(key);
 }
 
-/// Logs the beginning and end of an operation; a failure shows the box instead of the second line.
+/// Logs the beginning and end of an operation; a failure shows the message box instead of the second line.
 template <class Operation>
 void logged(const char *what, const char *whatWasTried, const QString &name, Operation operation)
 {

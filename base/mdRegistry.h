@@ -10,10 +10,10 @@
 /// The text under a name; empty if there is none.
 QString ReadRegKey(const QString &name);
 
-/// The same without box and log: empty on failure.
+/// The same without message and log; empty on failure.
 QString ReadRegKeyQuietly(const QString &name);
 
-/// Whether it is certain that a name has no text: all stores were readable and none has it.
+/// True if a name certainly has no text: all stores were readable and none contains it.
 bool RegKeyIsMissing(const QString &name);
 
 /// Stores a text for this user.

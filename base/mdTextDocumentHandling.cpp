@@ -58,7 +58,7 @@ template <class IsLost> bool overwriteUnlessLost(const QString &path, const QByt
     return true;
 }
 
-/// The same within one turn; false if that was lost.
+/// Overwrites the file during this turn; false if another program has taken over the turn.
 bool overwrittenInTurn(const QString &path, const QByteArray &bytes, const clsWriteLock &turn, bool isLastTurn)
 {
     const auto isLost = [&] { return !isLastTurn && turn.isLost(); };
@@ -149,7 +149,7 @@ QByteArray read(const QString &path)
     }
 }
 
-/// Runs a file operation; on failure shows its box and returns false.
+/// Runs a file operation; on failure shows its message box and returns false.
 template <class Operation>
 bool trapped(
     const QString &title, const QString &whatWasTried, const QString &path, Operation operation, int *failure = nullptr)
@@ -170,7 +170,7 @@ bool trapped(
     }
 }
 
-/// The content of a file as `convert` makes a text of its bytes, an empty text where that failed.
+/// The text that `convert` returns for the bytes of a file; empty if the file could not be read.
 template <class Convert> auto readDocument(const QString &path, bool logIt, Convert convert, int *failure = nullptr)
 {
     if (logIt)

@@ -12,7 +12,7 @@ import sys
 NOT_CODE = re.compile(
     r'R"(?P<mark>\w*)\(.*?\)(?P=mark)"' r"|//[^\n]*|/\*.*?\*/" r'|"(?:\\.|[^"\\\n])*"' r"|(?<!\w)'(?:\\.|[^'\\\n])+'", re.DOTALL)
 DIRECTIVE = re.compile(r"^[ \t]*#[ \t]*(?P<kind>\w+)(?:[ \t]+(?P<word>\w+))?(?:[^\n]*\\\n)*[^\n]*$", re.MULTILINE)
-# A member of something else is not a use of a file's name.
+# A member with the same name as a file-local one doesn't count as a use of it.
 MEMBER = re.compile(r"(?:\.|->|::)\s*[A-Za-z_]\w*")
 NAME = re.compile(r"[A-Za-z_]\w*")
 

@@ -138,7 +138,7 @@ void clsJournal::bringUpToDate(bool atOnce)
     what.head = NewJournalHead();
     what.head.claim = Document().filePath();
     what.head.known = Document().onDisk.mark();
-    // Text not stored earlier comes first: of one screen the later entry counts.
+    // Text not stored earlier comes first: if there are two entries for a screen, the later counts.
     what.head.typed = NotStored().all();
     what.head.typed.insert(what.head.typed.end(), typed.begin(), typed.end());
     write(std::move(what), atOnce);

@@ -4,7 +4,7 @@
 
 /// Writes the claim to the backup folder under its own file name, replacing the last backup of that name. The claim
 /// itself is not touched and still counts as changed. Does nothing if the folder is missing. Raises no error; a failed
-/// write shows its box at every backup until the cause is removed. Required behaviour; do not fix.
+/// write shows a message box at every backup until the cause is removed. Required behaviour; do not fix.
 void mdAutoSave();
 
 /// One tick of the backup timer. `tag` is the time from which the ten minutes are counted, and is empty until the first

@@ -33,7 +33,7 @@ bool ConfirmDrop();
 bool ConfirmExit();
 
 /// Writes the claim to its path, asking for one if it has none or with `saveAs`. False if the user chose none. A failed
-/// write has shown its box and counts as saved.
+/// write is reported in a message box, and the claim counts as saved.
 bool SaveForm(bool saveAs);
 
 /// Asks for a path and sets it in the claim; false if the user chose none or refused to overwrite a file.

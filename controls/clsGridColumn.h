@@ -18,7 +18,7 @@ enum class clsGridRoom : unsigned char {
     Amount, ///< as wide as an amount
 };
 
-/// Returns an item's text for a column that shows no property, or raises the error why there is none.
+/// Returns an item's text for a column that shows no property, or raises the error that explains why it has none.
 using clsGridTexts = std::function<QString(const clsZR3Item &)>;
 
 /// A column of an `oSGrid`: its heading and the property of the items that it shows. Declarations give the first five

@@ -7,8 +7,8 @@
 
 class clsGridModel;
 
-/// A search in a grid: words, and the rows that contain all of them, each word in any visible column. Hides and moves
-/// no rows. Rows count from 0.
+/// A search in a grid: words, and the rows that contain all of them, each word in any visible column. Rows are
+/// neither hidden nor moved. They count from 0.
 class clsGridFind : public QObject {
     Q_OBJECT
 
@@ -25,7 +25,7 @@ public:
     /// The hit after or before a row, continuing at the other end of the list; -1 if there is none.
     int NextOf(int row) const;
     int PreviousOf(int row) const;
-    /// Whether a row is drawn pale: it is no hit, but other rows are.
+    /// Whether a row is drawn pale: it isn't a hit, but other rows are.
     bool StepsBack(int row) const { return !m_hits.empty() && HitOf(row) == 0; }
 
 signals:

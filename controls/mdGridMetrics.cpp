@@ -18,7 +18,7 @@ QFont fontOf(double points, bool semibold)
     return Theme::font(points * std::max(1.0, base / BasePoints) - base, semibold);
 }
 
-/// Heights stop shrinking where their fonts do; other sizes of the program don't.
+/// Like the grid's fonts, these heights have a minimum; other sizes of the program don't.
 int scaledWithFonts(double pixels)
 {
     return std::max(qRound(pixels), Theme::scaled(pixels));

@@ -42,7 +42,7 @@ int widthFor(int allowance, bool multiLine)
     return allowance > 9 ? 224 : 112;
 }
 
-/// More room on the form gives a taller box; a text without a limit the tallest.
+/// The more room the form has, the taller the box; a text without a limit gets the tallest.
 int linesFor(int allowance)
 {
     return allowance > 0 ? qBound(3, 3 + allowance / 130, 8) : 8;

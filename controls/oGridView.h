@@ -21,7 +21,7 @@ public:
     const QString &emptyText() const { return m_emptyText; }
     void setEmptyGlyph(Glyph glyph);
 
-    /// The selected row, from 0, or -1. If several are selected it is the one that the keys act on.
+    /// The selected row, from 0, or -1. If several are selected, it is the row that the keys act on.
     int selectedRow() const;
     /// Selects one row, or none for a row that doesn't exist. `column` becomes the column of the cell that Return acts
     /// on; -1 keeps the present one.

@@ -40,7 +40,7 @@ bool typesByAccident(const QObject *watched, const QKeyEvent &key)
 }
 
 /// The desktop treats only the Menu key as a request for a text's menu. Lists and grids handle the request themselves,
-/// and a screen that uses the key otherwise takes it first.
+/// and a screen that uses the key for something else gets it first.
 bool asksForMenu(const QObject *watched, const QKeyEvent &key)
 {
     return key.key() == Qt::Key_F10 && (key.modifiers() & ~Qt::KeypadModifier) == Qt::ShiftModifier

@@ -187,8 +187,8 @@ void oSpellText::layOut()
     const int padding = Theme::boxHeight(fontMetrics()) - fontMetrics().height();
     // An odd pixel is added above the text, as in neighbouring boxes.
     const int above = qMax(0, (padding + 1) / 2 - inner);
-    // None below a single line: if its room is at all too low, the toolkit scrolls it. For several lines it reserves a
-    // pixel.
+    // None below a single line: the toolkit would scroll the line if its room were even a pixel too low. For several
+    // lines the toolkit reserves a pixel.
     const int below = m_multiLine ? qMax(0, padding - 2 * inner - above - 1) : 0;
     m_lineHeight = m_multiLine ? laidOutLine(font()) : fontMetrics().height();
     const int side = qMax(0, SidePadding - inner);
@@ -258,7 +258,7 @@ void oSpellText::focusInEvent(QFocusEvent *event)
     moveCursor(QTextCursor::End);
     if (reason != Qt::MouseFocusReason)
         return;
-    // The click that sets the focus must still hit the text at its target.
+    // Scroll back, so that the click that set the focus places the caret where the user clicked.
     horizontalScrollBar()->setValue(across);
     verticalScrollBar()->setValue(down);
 }

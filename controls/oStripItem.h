@@ -4,7 +4,7 @@
 
 class QPainter;
 
-/// A selectable item of the strip of totals: by a click, Enter or Space. Independent of its neighbours: the strip moves
+/// An item of the strip of totals, selected by a click, Enter or Space. Independent of its neighbours: the strip moves
 /// the focus at the item's request.
 class oStripItem : public QAbstractButton {
     Q_OBJECT

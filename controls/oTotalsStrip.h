@@ -15,7 +15,7 @@ struct clsStripTotal {
     QString failure {}; ///< why it can't be computed; empty if it can
     /// How it makes room if the strip is too narrow.
     enum clsPlace { Stays, GoesIntoOther, GoesAltogether } place = Stays;
-    int turn = 0; ///< among those left out altogether; 1 is the first
+    int turn = 0; ///< for GoesAltogether: the order in which figures are left out; 1 is the first
     bool strong = false;
     bool standsApart = false; ///< shown after the line
 };

@@ -25,7 +25,7 @@ oTypedText *oTypedText::inside(QWidget &box, const clsTypedKind &kind)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(Theme::Space12);
     layout->addWidget(text);
-    // Before the proxy, which would take over the policy. The box itself is no tab stop, but a label's mnemonic
+    // Before the proxy, which would take over the policy. The box itself is not a tab stop, but a label's mnemonic
     // requires a policy.
     box.setFocusPolicy(Qt::ClickFocus);
     box.setFocusProxy(text);

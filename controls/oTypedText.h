@@ -32,7 +32,7 @@ public:
     /// Creates the text box of a typed box, fills the box with it and makes it the box's focus proxy.
     static oTypedText *inside(QWidget &box, const clsTypedKind &kind);
 
-    /// Writes a text from the program; writing the present text is no change.
+    /// Writes a text from the program; writing the present text is not a change.
     void write(const QString &text);
     /// Normalises the text, or refuses it and takes the focus; true if it is valid.
     bool validate();

@@ -22,7 +22,7 @@ public:
     /// The total of the letters and calls.
     Money communications() const;
 
-    /// Begins anew, after the claim has changed.
+    /// Forgets all cached figures. Call when the claim has changed.
     void forget();
 
 private:
@@ -30,5 +30,5 @@ private:
     mutable std::optional<clsSchedulePrices> m_prices;
     mutable std::optional<clsColumnTotals> m_columns;
     mutable std::optional<clsFigure<Money>> m_advocacy;
-    mutable std::optional<Money> m_communications; ///< one that fails is worked out anew
+    mutable std::optional<Money> m_communications; ///< not set if it failed, so that it is computed again
 };

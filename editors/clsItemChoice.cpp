@@ -42,8 +42,8 @@ clsItemChoice::clsItemChoice(QFrame &box, const clsChoiceSource &source)
     m_list->setAccessibleDescription(m_list->accessibleName());
     m_list->setEnabled(false);
 
-    // Room for the focus ring of the tick. Layouts treat it as outside the box, so that the box's visible edge lines up
-    // with its neighbours'; setting the frame style makes the style apply this.
+    // Room for the focus ring of the tick. Layouts ignore this room, so that the box's visible edge lines up with its
+    // neighbours'; setting the frame style makes the style apply this.
     m_row->setContentsMargins(Theme::RingRoom, Theme::RingRoom, Theme::RingRoom, Theme::RingRoom);
     m_row->setSpacing(Theme::Space8);
     m_row->addWidget(m_tick);

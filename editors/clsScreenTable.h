@@ -29,7 +29,7 @@ enum class clsRowKind {
     List, ///< one entry of several; stored by its position, or as text if the property is a text
     Button,
     Items, ///< a grid with a list of the claim, and "Add" below it
-    Other, ///< a control that the row creates itself, such as one made of several
+    Other, ///< a control created by the row, such as one composed of several
     Question, ///< a caption of full width; the ticks after it are its answers, in one line
     Separator, ///< a hairline between subjects
     ColumnBreak, ///< splits a single long frame into two columns if there is room

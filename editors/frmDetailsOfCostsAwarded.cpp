@@ -3,9 +3,9 @@
 #include "formdata/clsZR3Form.h"
 #include "formdata/mdGlobals.h"
 
-/// Costs awarded to the client, and what was recovered of them. The total is typed, not computed, and amounts that
-/// depend on a question stay enabled whatever the answer. Only one of the forms prints the total: its frame says so at
-/// its place in the order, and also stays enabled. The frames after it exist only to keep that order and have no
+/// Costs awarded to the client, and how much of them was recovered. The total is typed, not computed, and amounts that
+/// depend on a question stay enabled whatever the answer. Only one of the forms prints the total, as the caption of its
+/// frame says; it stays enabled for both. The frames after it exist only to keep the fields in order and have no
 /// caption.
 const clsScreen &ScreenDetailsOfCostsAwarded()
 {

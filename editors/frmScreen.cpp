@@ -128,7 +128,7 @@ void frmScreen::buildFileMenu()
     QAction *save = file->addAction(QStringLiteral("&Save"));
     save->setObjectName(QStringLiteral("mnuSave"));
     save->setShortcut(Qt::CTRL | Qt::Key_S);
-    // Saves the claim without storing this screen: the button closes the section, the key saves the work so far.
+    // Saves the claim without this screen's changes: only the screen's button stores them, and closes the screen.
     // Required behaviour; do not fix.
     connect(save, &QAction::triggered, this, [] { SaveForm(false); });
 }
@@ -200,7 +200,7 @@ void frmScreen::Initialise(clsXMLRecord *item)
     for (const clsList &list : m_lists)
         list.actions->draw();
     showCounts();
-    // Drawing the lists has numbered their items, which belongs to the last step.
+    // Drawing the lists renumbers their items; this change is added to the last undo step.
     if (m_undo)
         Document().history.join();
     emit Loaded();

@@ -34,7 +34,7 @@ const clsScreenRow *rowOf(const clsScreen &editor, const char *control)
     return nullptr;
 }
 
-/// Hides the space above a field with it.
+/// Shows or hides a field, its label and the space above it.
 void showRow(const clsScreenField &field, bool shown)
 {
     field.control->setVisible(shown);

@@ -31,7 +31,7 @@ template <class Item> const Item &as(const std::shared_ptr<clsZR3Item> &item)
     return static_cast<const Item &>(*item);
 }
 
-/// Letters and calls of a kind, and how many of them no line of the form bills.
+/// The number of letters or calls of a kind, and how many of them are on no line of the form and so not billed.
 struct clsCounted {
     qint64 all = 0;
     qint64 leftOut = 0;

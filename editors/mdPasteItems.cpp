@@ -107,7 +107,7 @@ struct clsTakingList {
     oSGrid *grid = nullptr;
 };
 
-/// The list of the open page; if that can't import rows, the screen's last one that can.
+/// The list of the open page or, if that can't import rows, the last list of the screen that can.
 clsTakingList takingListOf(const frmScreen &screen)
 {
     clsTakingList last;

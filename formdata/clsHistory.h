@@ -15,8 +15,8 @@ class clsZR3Form;
 class clsZR3Item;
 
 /// The history of changes to the claim, for undo and redo. A step is found by comparing the tree with its state after
-/// the previous step, so it includes changes made by any code. Identities given out, the time spent, the path and
-/// similar values are in no step. Independent of whether the claim counts as changed.
+/// the previous step, so it includes changes made by any code. The identity counter, the time spent, the path and
+/// similar values are not part of a step. Independent of whether the claim counts as changed.
 ///
 /// Not a QUndoStack: that is in the windows' library, which the claim doesn't use, can't drop its oldest steps by
 /// memory use, and doesn't let a change join the previous step.

@@ -22,8 +22,8 @@ public:
         std::string_view newText;
     };
 
-    std::vector<clsUnit> removed; ///< by their positions before
-    std::vector<clsUnit> added; ///< by their positions after
+    std::vector<clsUnit> removed; ///< by their positions before the change
+    std::vector<clsUnit> added; ///< by their positions after the change
 
     void addText(const clsText &text);
     /// Iterates over the texts in the order of their positions; `at` starts at 0; false at the end.

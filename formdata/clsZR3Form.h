@@ -69,7 +69,7 @@ public:
     bool LoadXML(const QString &filePath);
     /// The same from the text of a claim in UTF-8, without a message.
     bool LoadText(const QByteArray &text);
-    /// Writes the claim. False if that failed, after the box of the text document routines; `failure` then gets the
+    /// Writes the claim. False, after a message of the text document routines, if that failed; `failure` then gets the
     /// error's number.
     bool SaveXML(const QString &filePath, int *failure = nullptr) const;
     /// Becomes an independent copy of another claim.

@@ -25,7 +25,7 @@ namespace {
 
 int widthOf(const oPreviewGrid &grid, int percent)
 {
-    // The shares of a preview add up to 100; the other three parts are room for the scroll bar.
+    // The percentages of the columns add up to 100; three more parts leave room for the scroll bar.
     constexpr double Parts = 103;
     return LongFromDouble(grid.width() / Parts * percent);
 }

@@ -18,7 +18,7 @@ namespace {
 
 using Result = clsFolderWork::clsResult;
 
-/// How the headless program ends what it says of a document that is there and may not be replaced.
+/// The end of the command-line program's message about an existing document that it may not replace.
 const QString HowToReplace = QStringLiteral(" Give --force to replace it.");
 
 QString claimsInWords(qsizetype count)
@@ -53,7 +53,7 @@ QString placeInWords(const QJsonObject &finding)
     return item > 0 ? QStringLiteral("%1, item %2").arg(screen).arg(item) : screen;
 }
 
-/// A level with a capital, as a list begins with it.
+/// A level with a capital letter, for the start of a cell.
 QString levelInWords(const QJsonObject &finding)
 {
     QString level = wordIn(finding, "Level");
@@ -72,7 +72,7 @@ clsFolderActions::clsFolderActions(clsFolderModel &model, QWidget *window)
 
 clsFolderActions::~clsFolderActions() = default;
 
-/// Tells of a run that did not come to its end.
+/// Reports a run that was cancelled or failed to finish.
 bool clsFolderActions::stopped(const Result &result, const QString &what)
 {
     if (result.isCancelled)
@@ -204,7 +204,7 @@ void clsFolderActions::show(const clsComparison &comparison, QWidget *parent) co
 
 void clsFolderActions::CompareWith(const QStringList &paths, const QString &folder, const QString &other)
 {
-    // A folder of links holds the chosen claims and no other, each at its place.
+    // A folder of links to the chosen claims only, each at its path below the folder.
     m_links = std::make_unique<QTemporaryDir>();
     const QString start = folder.endsWith(u'/') ? folder : folder + u'/';
     for (const QString &path : paths) {

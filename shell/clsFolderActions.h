@@ -13,15 +13,15 @@ class QTemporaryDir;
 class clsFolderModel;
 struct clsComparison;
 
-/// What work on the chosen claims came to, for the line that tells of it.
+/// The outcome of work on the chosen claims, for the line that reports it.
 struct clsFolderOutcome {
     QString text;
     bool hasFailed = false;
     std::optional<clsFolderResults> details {};
-    std::function<void()> replace {}; ///< makes the documents anew that were there already
+    std::function<void()> replace {}; ///< exports again, replacing the documents that already existed
 };
 
-/// What can be done with the chosen claims of a folder. The claims are read by processes beside the window.
+/// The actions on the chosen claims of a folder. The claims are read by separate processes.
 class clsFolderActions : public QObject {
     Q_OBJECT
 
@@ -34,7 +34,7 @@ public:
     void Check(const QStringList &paths);
     void Export(const QStringList &paths, const QString &target, bool pdf, bool replaces = false);
     void CompareTwo(const QString &before, const QString &now);
-    /// With the claims of the same names in another folder.
+    /// Compares with the claims of the same names in another folder.
     void CompareWith(const QStringList &paths, const QString &folder, const QString &other);
 
 signals:
@@ -51,5 +51,5 @@ private:
     clsFolderModel &m_model;
     QWidget *m_window;
     clsFolderWork m_work;
-    std::unique_ptr<QTemporaryDir> m_links; ///< to the claims that are compared
+    std::unique_ptr<QTemporaryDir> m_links; ///< links to the claims being compared
 };

@@ -89,13 +89,13 @@ void clsFolderDelegate::paintBack(QPainter &painter, const QStyleOptionViewItem 
     row.state.setFlag(QStyle::State_MouseOver, index.row() == m_hoveredRow);
     mdPaintRow(painter, row, option.widget);
     mdPaintLine(painter, option.rect, Qt::BottomEdge, Theme::Hairline);
-    // The row that the keys are at, chosen or not.
+    // The current row, chosen or not.
     const QTableView &table = tableOf(option);
     if (table.hasFocus() && table.currentIndex().row() == index.row())
         mdPaintLine(painter, option.rect, Qt::TopEdge | Qt::BottomEdge, Theme::Purple);
 }
 
-/// The claim's name, and behind it the folder that it lies in.
+/// The claim's name, followed by its folder.
 void clsFolderDelegate::paintClaim(QPainter &painter, const QRect &room, const QModelIndex &index) const
 {
     const QFontMetrics strong(m_semibold);
@@ -113,7 +113,7 @@ void clsFolderDelegate::paintClaim(QPainter &painter, const QRect &room, const Q
         QFontMetrics(m_font).elidedText(folder, Qt::ElideMiddle, rest.width()));
 }
 
-/// The part of the reason that falls into this cell.
+/// The part of the reason that is visible in this cell.
 void clsFolderDelegate::paintReason(
     QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {

@@ -3,18 +3,18 @@
 #include <QFont>
 #include <QStyledItemDelegate>
 
-/// Draws the claims of a folder. A claim that can't be read has the reason in the place of its figures, across their
+/// Draws the claims of a folder. A claim that can't be read shows the reason instead of its figures, across their
 /// columns.
 class clsFolderDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
 public:
-    /// Between a text and the end of its cell.
+    /// The space between a text and the edge of its cell.
     static constexpr int CellEdge = 6;
 
     explicit clsFolderDelegate(QObject *parent = nullptr);
 
-    /// To be called when the desktop's font has changed.
+    /// Call when the desktop's font has changed.
     void takeFonts();
     void setHoveredRow(int row) { m_hoveredRow = row; }
 

@@ -35,7 +35,7 @@ constexpr clsFolderColumn FolderColumns[Model::Columns] = {
     {"Changed", Qt::AlignLeft},
 };
 
-/// Nothing for none.
+/// Empty for 0.
 QString countInWords(std::optional<int> count)
 {
     return count.value_or(0) > 0 ? QString::number(*count) : QString();
@@ -50,7 +50,7 @@ QString dayInWords(const QString &changed)
     return changed.mid(8, 2) + u'/' + changed.mid(5, 2) + u'/' + changed.mid(2, 2) + changed.mid(10);
 }
 
-/// Claims without a number stand together, below all others.
+/// Claims without a number are sorted together, below all others.
 QVariant numberOrLeast(std::optional<qint64> number)
 {
     return number.value_or(std::numeric_limits<qint64>::min());
@@ -108,7 +108,7 @@ void Model::Remove(const QStringList &paths)
             m_places.erase(place);
         }
     std::sort(gone.begin(), gone.end());
-    // From the end, in runs, so that a folder that is gone as a whole takes one step.
+    // From the end, in runs, so that removing a whole folder takes one step.
     for (size_t end = gone.size(); end > 0;) {
         size_t begin = end - 1;
         while (begin > 0 && gone[begin - 1] == gone[begin] - 1)

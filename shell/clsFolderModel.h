@@ -8,8 +8,7 @@
 
 #include <vector>
 
-/// The claims of a folder as rows. A claim is told apart by its path: what is read anew takes the place of what was
-/// there.
+/// The claims of a folder as rows. A claim is identified by its path: when it is read again, its row is replaced.
 class clsFolderModel : public QAbstractTableModel {
     Q_OBJECT
 
@@ -34,21 +33,21 @@ public:
     };
     enum Role {
         SortRole = Qt::UserRole, ///< what the rows are sorted by
-        FolderRole, ///< below the one that is shown; empty for that one
-        FailedRole, ///< whether the figure can't be worked out
+        FolderRole, ///< the subfolder of the folder shown; empty for that folder itself
+        FailedRole, ///< true if the figure can't be computed
     };
 
     using QAbstractTableModel::QAbstractTableModel;
 
-    /// Begins anew with the claims of another folder.
+    /// Removes all rows and starts with another folder.
     void Clear(const QString &folder);
     void Take(const std::vector<clsFolderRow> &rows);
     void Remove(const QStringList &paths);
-    /// The numbers of the whole check, which knows of the printed pages too; they hold until the claim is read anew.
+    /// The numbers found by the full check, which includes the printed pages; kept until the claim is read again.
     void TakeCounts(const QString &path, int errors, int warnings);
 
     const clsFolderRow &RowAt(int row) const { return m_rows[size_t(row)]; }
-    /// How many can't be read.
+    /// The number of claims that can't be read.
     int UnreadCount() const;
     int RowOf(const QString &path) const { return m_places.value(path, -1); }
 

@@ -8,9 +8,9 @@
 
 namespace {
 
-/// What comes in is shown in one go so often, in milliseconds.
+/// The interval at which new rows are shown together, in milliseconds.
 constexpr int Batch = 250;
-/// The pause before a reader that has ended is started anew.
+/// The pause before a reader that has ended is restarted, in milliseconds.
 constexpr int Again = 5000;
 
 } // namespace
@@ -78,7 +78,7 @@ void clsFolderReader::readLine(const QByteArray &line)
     }
     m_news.isUpToDate = false;
     const bool isGone = object[QLatin1String("gone")].toBool();
-    // The folder itself has a line while it can't be looked into.
+    // A line about the folder itself says that it can't be read, or can be again.
     if (path == m_folder) {
         m_news.trouble = isGone ? QString() : object[QLatin1String("error")].toString().simplified();
     } else if (isGone) {
@@ -100,7 +100,7 @@ void clsFolderReader::takeGone(const QString &path)
 void clsFolderReader::takeUpToDate()
 {
     m_news.isUpToDate = true;
-    // What went while no reader looked.
+    // Claims deleted while no reader was running.
     for (const QString &path : m_known - m_seen)
         if (!m_news.gone.contains(path))
             m_news.gone << path;
@@ -121,7 +121,7 @@ void clsFolderReader::ended()
 void clsFolderReader::tell()
 {
     clsFolderNews news = std::exchange(m_news, {});
-    // Until the reader tells otherwise.
+    // Kept until the reader reports a change.
     m_news.trouble = news.trouble;
     emit Arrived(news);
 }

@@ -10,16 +10,16 @@
 
 #include <vector>
 
-/// What has been read of a folder since it was told last.
+/// What has been read from a folder since the last report.
 struct clsFolderNews {
     std::vector<clsFolderRow> rows;
-    QStringList gone; ///< paths
-    QString trouble; ///< why the folder as a whole can't be read; empty while all is well
-    bool isUpToDate = false; ///< all that is there has been told
+    QStringList gone; ///< paths of deleted claims
+    QString trouble; ///< why the folder as a whole can't be read; empty if it can
+    bool isUpToDate = false; ///< all claims of the folder have been reported
 };
 
-/// Reads the claims of a folder and goes on with what changes. All of the folder is looked at by processes beside the
-/// window, so that a drive that is slow or gone keeps nobody waiting.
+/// Reads the claims of a folder, and reads them again when they change. Only separate processes access the folder, so
+/// that a slow or missing drive doesn't block the window.
 class clsFolderReader : public QObject {
     Q_OBJECT
 
@@ -46,8 +46,8 @@ private:
     clsToolProcess m_process;
     QString m_folder;
     clsFolderNews m_news;
-    QSet<QString> m_known; ///< paths that were told, by this reader or the one before
-    QSet<QString> m_seen; ///< by this one
-    QTimer m_batch; ///< until what has come in is told
-    QTimer m_again; ///< until a reader that has ended is started anew
+    QSet<QString> m_known; ///< paths reported so far, by this process or an earlier one
+    QSet<QString> m_seen; ///< paths reported by this process
+    QTimer m_batch; ///< until the collected rows are reported
+    QTimer m_again; ///< until a reader that has ended is restarted
 };

@@ -15,7 +15,7 @@ std::optional<int> countIn(const QJsonObject &line, const char *key)
 
 std::optional<Money> amountIn(const QJsonObject &line, const char *key)
 {
-    // It has two decimals, always.
+    // Always has two decimals.
     bool isNumber = false;
     const qint64 pennies = line[QLatin1String(key)].toString().remove(u'.').toLongLong(&isNumber);
     return isNumber ? std::optional(Money::fromTenThousandths(pennies * Money::PerPenny)) : std::nullopt;

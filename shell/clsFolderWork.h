@@ -9,30 +9,30 @@
 #include <deque>
 #include <functional>
 
-/// Work on several claims by processes beside the window: one run at a time, the next when that has ended.
+/// Work on several claims by separate processes, one run at a time; further runs wait in a queue.
 class clsFolderWork : public QObject {
     Q_OBJECT
 
 public:
-    /// What a run came to.
+    /// The outcome of a run.
     struct clsResult {
-        int status = -1; ///< that of the headless program; -1 where it did not come to its end
+        int status = -1; ///< the exit status of the command-line program; -1 if it did not finish
         bool isCancelled = false;
         QByteArray printed;
-        QString trouble; ///< why it did not come to its end, or what it had to say
+        QString trouble; ///< why it did not finish, or its error output
     };
 
     struct clsRun {
         QString what; ///< such as "Exporting"
         QStringList arguments;
-        QStringList claims; ///< for each of which a line is printed; none where nothing tells how far it is
+        QStringList claims; ///< a line is printed for each, as progress; empty if the run has no progress
         std::function<void(const clsResult &)> done; ///< called once it has ended or is cancelled
     };
 
     using QObject::QObject;
 
     void Start(clsRun run);
-    /// Stops what runs and drops what waits.
+    /// Stops the present run and drops the waiting ones.
     void Cancel();
     bool isRunning() const { return m_process != nullptr; }
 
@@ -40,7 +40,7 @@ public:
 
 signals:
     void Progress(const QString &what, int done, int all);
-    /// It runs, or no longer.
+    /// A run has started, or the last has ended.
     void Changed();
 
 private:
@@ -50,7 +50,7 @@ private:
     void end(const clsResult &result);
 
     clsToolProcess m_process;
-    std::deque<clsRun> m_runs; ///< the first is the one that runs
+    std::deque<clsRun> m_runs; ///< the first is running
     QByteArray m_printed;
     int m_lines = 0;
 };

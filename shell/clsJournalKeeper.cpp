@@ -191,7 +191,7 @@ clsNotice clsJournalKeeper::notice(int kind, const QString &sentence, const QStr
         if (row.kind == kind)
             result.answers.push_back(
                 {QString::fromLatin1(row.caption), [this, act = row.act, journal] { (this->*act)(journal); }});
-    // If the original has changed since, comparing comes first.
+    // If the original has changed since, "Compare" is the first button.
     if (const clsLeftJournal *one = left(journal); one && originalChanged(*one))
         std::swap(result.answers[0], result.answers[1]);
     return result;

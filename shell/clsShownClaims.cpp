@@ -118,6 +118,6 @@ bool clsShownClaims::lessThan(const QModelIndex &left, const QModelIndex &right)
     const auto order = QVariant::compare(one, other);
     if (order != QPartialOrdering::Equivalent)
         return order == QPartialOrdering::Less;
-    // Equal ones stand by their paths, whatever came in first.
+    // Equal rows are sorted by path, regardless of the order in which they were read.
     return m_model.RowAt(left.row()).path < m_model.RowAt(right.row()).path;
 }

@@ -5,14 +5,14 @@
 #include <QItemSelection>
 #include <QSortFilterProxyModel>
 
-/// What is added up of some claims. Claims that can't be read are counted in no sum.
+/// The sums of some claims. Claims that can't be read are left out of the sums.
 struct clsFolderSums {
     int claims = 0;
     int unread = 0;
     int items = 0;
     int errors = 0;
     int warnings = 0;
-    std::array<std::optional<Money>, clsFolderRow::Amounts> amounts; ///< nothing for one that is out of range
+    std::array<std::optional<Money>, clsFolderRow::Amounts> amounts; ///< nothing for a sum that is out of range
 
     clsFolderSums() { amounts.fill(Money()); }
 
@@ -21,14 +21,14 @@ struct clsFolderSums {
     QString text(int column) const;
 };
 
-/// The claims of a folder that the filter lets through, in the order that the user has chosen.
+/// The claims of a folder that match the filter, in the chosen order.
 class clsShownClaims : public QSortFilterProxyModel {
     Q_OBJECT
 
 public:
     explicit clsShownClaims(clsFolderModel &model, QObject *parent = nullptr);
 
-    /// All of these words are to be in the claim's name, folder, client, reference or error.
+    /// Shows only claims with all of these words in their name, folder, client, reference or error.
     void setWords(const QString &words);
     void setOnlyWithErrors(bool only);
 

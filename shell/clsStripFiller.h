@@ -14,7 +14,7 @@ public:
 
     /// Call when the claim may have changed.
     void Renew();
-    /// Call when the claim was closed.
+    /// Call when the claim has been closed.
     void Forget();
 
 protected:

@@ -58,5 +58,5 @@ private:
     QPoint m_at;
     oWhySheet::Point m_point = oWhySheet::Point::Down;
     std::uint64_t m_drawn = 0; ///< the claim's state when the preview was drawn
-    bool m_drawnIsDue = false; ///< drawn, but the state is not noted yet: there is no time for it at the start
+    bool m_drawnIsDue = false; ///< drawn, but m_drawn is not set yet, to save time at the start
 };

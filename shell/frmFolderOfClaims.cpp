@@ -28,14 +28,14 @@
 namespace {
 
 constexpr char StateName[] = "Folder.json";
-constexpr int PathLength = 90; ///< characters of a folder that the header shows
+constexpr int PathLength = 90; ///< the longest path that the header shows, in characters
 
 QString claimsInWords(qsizetype count)
 {
     return count == 1 ? QStringLiteral("1 claim") : QStringLiteral("%1 claims").arg(count);
 }
 
-/// Without its middle where it is long.
+/// Shortens a long path by leaving out its middle.
 QString shortened(const QString &path)
 {
     if (path.size() <= PathLength)
@@ -44,7 +44,7 @@ QString shortened(const QString &path)
     return path.left(Half) + QStringLiteral("...") + path.right(Half);
 }
 
-/// Has a screen reader read the words out.
+/// Announces the words to a screen reader.
 void announce(QLabel &label)
 {
     QAccessibleEvent event(&label, QAccessible::Alert);
@@ -170,7 +170,7 @@ void frmFolderOfClaims::take(const clsFolderNews &news)
         announce(*lblState);
 }
 
-/// What the header and the line above the list say of the folder as a whole.
+/// The texts of the header and of the line above the list, about the folder as a whole.
 void frmFolderOfClaims::showState()
 {
     if (m_folder.isEmpty()) {
@@ -227,7 +227,7 @@ void frmFolderOfClaims::showButtons()
         cmdReplace->hide();
         cmdDetails->hide();
     }
-    // From a button that is off or gone, the toolkit would go to the next one, which is "Close".
+    // From a disabled or hidden button, the toolkit would move the focus to the next one, which is "Close".
     if (focused && (!focused->isEnabled() || focused->isHidden()))
         m_table->setFocus();
 }
@@ -319,7 +319,7 @@ void frmFolderOfClaims::exportChosen(bool pdf)
         m_actions->Export(paths, target, pdf);
 }
 
-/// Two chosen claims with each other; else the chosen ones with those of another folder.
+/// Compares two chosen claims with each other; otherwise the chosen claims with those of another folder.
 void frmFolderOfClaims::compareChosen()
 {
     const QList<int> rows = m_table->ChosenRows();

@@ -17,17 +17,17 @@ class oLineBox;
 struct clsFolderNews;
 struct clsFolderOutcome;
 
-/// The claims of a folder and of those below it, one row each: what they are worth and what is wrong with them. The
-/// list follows the files. It is accepted when a claim is to be opened.
+/// The claims of a folder and its subfolders, one row each, with their figures and errors. The list is updated when
+/// the files change. The dialog is accepted when the user opens a claim.
 class frmFolderOfClaims : public QDialog {
     Q_OBJECT
 
 public:
-    /// `tool` is the headless program. `folder` is the one to begin with where none was shown before.
+    /// `tool` is the path of the command-line program. `folder` is the folder to start with if none was shown before.
     explicit frmFolderOfClaims(const QString &folder, QWidget *parent = nullptr, const QString &tool = {});
     ~frmFolderOfClaims() override;
 
-    /// The claim that is to be opened.
+    /// The claim that the user opens.
     const QString &ChosenClaim() const { return m_chosenClaim; }
     void ShowFolder(const QString &folder);
 

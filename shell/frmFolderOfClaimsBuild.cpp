@@ -19,7 +19,7 @@
 
 #include <algorithm>
 
-// What the window is made of.
+// The widgets of the window and their layout.
 
 namespace {
 
@@ -69,7 +69,7 @@ void frmFolderOfClaims::build()
 
 QSize frmFolderOfClaims::sizeHint() const
 {
-    // The fonts of the list don't shrink below those that it is drawn for.
+    // The list's fonts don't shrink below their design size, so the window doesn't either.
     return {std::max(FolderWidth, Theme::scaled(FolderWidth)), std::max(FolderHeight, Theme::scaled(FolderHeight))};
 }
 
@@ -186,7 +186,7 @@ QWidget *frmFolderOfClaims::makeBar()
     return bar;
 }
 
-/// As the window is read.
+/// In reading order.
 void frmFolderOfClaims::makeTabOrder()
 {
     QWidget *before = cmdChooseFolder;

@@ -21,7 +21,7 @@ constexpr int ResultsWidth = 1000;
 constexpr int ResultsHeight = 560;
 constexpr int WidestColumn = 240;
 
-/// The rows as they are: a check of many claims has many thousands.
+/// Reads the rows without copying them: a check of many claims has many thousands.
 class clsResultsModel : public QAbstractTableModel {
 public:
     clsResultsModel(const clsFolderResults &results, QObject *parent)
@@ -90,7 +90,7 @@ frmFolderResults::frmFolderResults(const clsFolderResults &results, QWidget *par
     connect(close, &oCustomButton::Click, this, &QDialog::accept);
     bar->AddButton(close);
     oButtonBar::layOut(*this, header, m_table, bar);
-    // The table takes all of the height.
+    // The table takes all remaining height.
     static_cast<QBoxLayout *>(layout()->itemAt(1)->layout())->setStretchFactor(m_table, 1);
     m_table->setCurrentIndex(m_table->model()->index(0, 0));
     m_table->setFocus();
@@ -116,7 +116,7 @@ void frmFolderResults::fill()
     m_table->verticalHeader()->setDefaultSectionSize(mdGridRowHeight());
     m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_table->horizontalHeader()->setStretchLastSection(true);
-    // Of the rows in view the widest counts.
+    // Measures only the visible rows.
     m_table->resizeColumnsToContents();
     for (int column = 0; column + 1 < m_table->model()->columnCount(); ++column)
         m_table->setColumnWidth(

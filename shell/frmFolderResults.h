@@ -8,15 +8,15 @@
 
 class QTableView;
 
-/// What work on several claims came to, as rows.
+/// The results of work on several claims, as rows.
 struct clsFolderResults {
     QString caption;
     QString subCaption;
     QStringList headings;
     std::vector<QStringList> rows;
-    /// Shows more of a row; nothing where there is no more.
+    /// Shows the details of a row; null if there are none.
     std::function<void(int row, QWidget *parent)> open {};
-    QString openCaption {}; ///< of the button that does it
+    QString openCaption {}; ///< of the button that calls `open`
 };
 
 class frmFolderResults : public QDialog {

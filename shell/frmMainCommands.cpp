@@ -215,7 +215,7 @@ void frmMain::closeEvent(QCloseEvent *event)
 
 void frmMain::tmrAutoBackup_Timer()
 {
-    // A backup during long work could contain a half-changed claim, and its box would interrupt.
+    // A backup during long work could contain a half-changed claim, and its error message would interrupt the work.
     if (!clsLongWork::isRunning())
         mdAutoBackupTick(m_backupTag);
 }

@@ -56,7 +56,7 @@ frmSplash::frmSplash(QWidget *parent)
 {
     setObjectName(QStringLiteral("frmSplash"));
     setWindowTitle(QStringLiteral("Velmor ZR3"));
-    // Has no effect, because without preferences nothing is logged; kept like in every other window.
+    // Has no effect, because without preferences nothing is logged; kept as in every other window.
     WriteLog(objectName() + QStringLiteral(" Opened"));
     setFocusPolicy(Qt::StrongFocus);
     setFixedSize(Theme::scaled(SplashWidth), Theme::scaled(SplashHeight));

@@ -13,7 +13,7 @@
 
 namespace {
 
-/// The opener may run as long as the document is open; its end after that time is no failure.
+/// The opener may run as long as the document is open; if it ends later, that is not a failure.
 constexpr int LongestSearch = 10000;
 constexpr int LookAgain = 200;
 

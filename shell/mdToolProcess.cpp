@@ -7,7 +7,7 @@
 
 namespace {
 
-/// How long a process is given to clear up after itself, in milliseconds.
+/// The time that a process has to clean up, in milliseconds.
 constexpr int TimeToEnd = 3000;
 
 } // namespace
@@ -26,7 +26,7 @@ void clsLeaveProcess::operator()(QProcess *process) const
     }
     process->closeReadChannel(QProcess::StandardOutput);
     process->closeReadChannel(QProcess::StandardError);
-    // It is nobody's child: the end of the program does not wait for it.
+    // The object has no parent, so that the end of the program doesn't wait for the process.
     QObject::connect(process, &QProcess::finished, process, &QObject::deleteLater);
     QObject::connect(process, &QProcess::errorOccurred, process, &QObject::deleteLater);
     QTimer::singleShot(TimeToEnd, process, &QProcess::kill);

@@ -14,7 +14,7 @@ namespace {
 
 constexpr double SignSide = 7;
 
-/// A triangle whose point shows which way the rows run.
+/// A triangle that shows the sort direction.
 void paintSortSign(QPainter &painter, const QRectF &place, Qt::SortOrder order)
 {
     const double middle = place.center().y();
@@ -66,7 +66,7 @@ void oFolderHeader::paintSection(QPainter *painter, const QRect &rectangle, int 
     const QString shown = metrics.elidedText(caption, Qt::ElideRight, inside.width());
     painter->drawText(inside, int(alignment) | Qt::TextSingleLine, shown);
     if (sortIndicatorSection() == section) {
-        // Before a word that stands at the right, so that the word stays over its figures.
+        // To the left of a right-aligned heading, so that the heading stays above its figures.
         const int width = metrics.horizontalAdvance(shown);
         const double left = alignment & Qt::AlignLeft ? inside.left() + width + Theme::Space4
             : alignment & Qt::AlignRight              ? inside.right() - width - Theme::Space4 - SignSide
@@ -128,7 +128,7 @@ void oFolderHeader::goTo(int section)
     tell();
 }
 
-/// What a screen reader says of the heading with the focus.
+/// Announces the heading with the focus to a screen reader.
 void oFolderHeader::tell()
 {
     if (!model() || m_at < 0 || m_at >= count())

@@ -2,7 +2,7 @@
 
 #include <QHeaderView>
 
-/// The headings of the list of claims. A click sorts by one, and so does Enter; the keys walk them.
+/// The headings of the list of claims. A click or Enter sorts by a heading; Left and Right move between them.
 class oFolderHeader : public QHeaderView {
     Q_OBJECT
 

@@ -18,14 +18,14 @@ namespace {
 
 using Model = clsFolderModel;
 
-/// A text that each column has room for; those of the claim and the client share what is left.
+/// A text that fits into each column; the columns of the claim and the client share the remaining width.
 constexpr const char *Fitting[Model::Columns]
     = {"Hartwell disrepair LA-20", "1A", "Mrs Jane Hartwell", "NB0859611/A", "0,000", "000,000.00", "000,000.00",
         "00,000.00", "00,000.00", "00,000.00", "000,000.00", "000,000.00", "000", "000", "00/00/00 00:00"};
-constexpr int SignRoom = 6; ///< beside a heading, besides the cell's own edge
+constexpr int SignRoom = 6; ///< beside a heading, in addition to the cell's edge
 constexpr int FocusFrame = 2;
 
-/// What gives way first. The claim and its total never do.
+/// The order in which columns are left out. The claim and its total never are.
 constexpr Model::Column FirstToGo[]
     = {Model::All, Model::Changed, Model::Items, Model::Scheme, Model::Reference, Model::Form, Model::VAT,
         Model::Counsel, Model::Client, Model::Disbursements, Model::ProfitCosts, Model::Warnings, Model::Errors};
@@ -95,7 +95,7 @@ void oFolderTable::KeepPlace(const std::function<void()> &change)
     const QPersistentModelIndex kept = isSeen ? current : m_claims.index(top, 0);
     const int before = kept.row();
     change();
-    // From its top the list is followed as it grows.
+    // A list at its top stays there while it grows.
     if (!kept.isValid() || (!isSeen && top == 0))
         return;
     executeDelayedItemsLayout(); // the scroll bar has to know of the new rows
@@ -167,7 +167,7 @@ void oFolderTable::keyPressEvent(QKeyEvent *event)
     QTableView::keyPressEvent(event);
 }
 
-/// The keys go from row to row: cells are not gone to, so that letters always look for a claim.
+/// Keys move between rows and never between cells, so that typed letters always search the claims' names.
 QModelIndex oFolderTable::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
 {
     QScrollBar &across = *horizontalScrollBar();
@@ -180,7 +180,7 @@ QModelIndex oFolderTable::moveCursor(CursorAction action, Qt::KeyboardModifiers 
     }
 }
 
-/// Below the row where it is asked for by a key.
+/// If opened by a key, the menu appears below the current row.
 void oFolderTable::contextMenuEvent(QContextMenuEvent *event)
 {
     const bool isByKey = event->reason() == QContextMenuEvent::Keyboard && currentIndex().isValid();
@@ -191,7 +191,7 @@ void oFolderTable::contextMenuEvent(QContextMenuEvent *event)
 void oFolderTable::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {
     QTableView::currentChanged(current, previous);
-    // The lines around the row run over all of its cells.
+    // The lines around the current row span all its cells.
     viewport()->update();
 }
 

@@ -10,7 +10,7 @@
 class clsFolderDelegate;
 class oFolderHeader;
 
-/// The list of the claims of a folder. Where it is narrow, columns give way.
+/// The list of the claims of a folder. A narrow list leaves out columns.
 class oFolderTable : public QTableView {
     Q_OBJECT
 
@@ -18,21 +18,21 @@ public:
     explicit oFolderTable(clsShownClaims &claims, QWidget *parent = nullptr);
 
     oFolderHeader *Header() const { return m_header; }
-    /// The rows that are chosen, from the top.
+    /// The chosen rows, from the top.
     QList<int> ChosenRows() const;
-    /// Sorts by a column, and the other way round where it is sorted by it already.
+    /// Sorts by a column; reverses the order if the list is already sorted by it.
     void SortBy(int column);
-    /// Lets the claims change without moving the row that the user looks at.
+    /// Runs `change`, which changes the claims, and keeps the visible rows in place.
     void KeepPlace(const std::function<void()> &change);
-    /// Gives each column room for its sum, which stands beneath it.
+    /// Gives each column room for its sum, which is shown below it.
     void FitSums(const clsFolderSums &sums);
-    /// What stands in the middle while there are no rows.
+    /// The text shown in the middle while there are no rows.
     void setEmptyText(const QString &text);
 
     QSize minimumSizeHint() const override;
 
 signals:
-    /// The row with the focus is to be opened.
+    /// The user wants to open the current row.
     void OpenAsked();
     void ColumnsPlaced();
     void MenuAsked(const QPoint &place);
@@ -56,6 +56,6 @@ private:
     oFolderHeader *m_header;
     clsFolderDelegate *m_delegate;
     QString m_emptyText;
-    std::array<int, clsFolderModel::Columns> m_sumWidths {}; ///< the widest so far, so that nothing goes to and fro
+    std::array<int, clsFolderModel::Columns> m_sumWidths {}; ///< the widest so far, so that columns don't keep changing
     int m_hoveredRow = -1;
 };

@@ -70,7 +70,7 @@ void oFolderTotals::paintEvent(QPaintEvent *)
         const QRect whole(offset + m_table.columnViewportPosition(column), 0, m_table.columnWidth(column), height());
         return whole.adjusted(clsFolderDelegate::CellEdge, 0, -clsFolderDelegate::CellEdge, 0);
     };
-    // Up to the first sum, since nothing else stands there.
+    // Up to the first sum, because nothing else is shown there.
     QRect captionRoom = cell(Model::Claim);
     for (int column = Model::Form; column < Model::Items; ++column)
         captionRoom.setRight(std::max(captionRoom.right(), cell(column).right()));

@@ -6,14 +6,14 @@
 
 class oFolderTable;
 
-/// What the chosen claims come to, in the lines of the columns above it.
+/// The sums of the chosen claims, aligned with the columns of the list above.
 class oFolderTotals : public QWidget {
     Q_OBJECT
 
 public:
     explicit oFolderTotals(oFolderTable &table, QWidget *parent = nullptr);
 
-    /// `caption` says of which claims.
+    /// `caption` says which claims are added up.
     void Show(const QString &caption, const clsFolderSums &sums);
 
     QSize sizeHint() const override;

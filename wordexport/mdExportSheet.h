@@ -13,7 +13,7 @@ inline const QString SheetMarkPlaceholder = QStringLiteral("{or}");
 /// Copies a template as a sheet's file, adds it to the sheets of the export and returns its path.
 QString mdMakeSheet(clsExport &run, const QString &templateName, int pageNumber, int sheetNumber);
 
-// Open and save a sheet. If it is lost, the export stops if it is set to do so.
+// Open and save a sheet. A lost sheet stops the export if `run` says so.
 
 void mdOpenSheet(clsExport &run, clsMSWord &word, const QString &path);
 void mdSaveSheet(clsExport &run, clsMSWord &word);

@@ -9,7 +9,7 @@ struct clsExport;
 struct clsAdditionalInformationResult {
     QString firstSheet;
     int linesUsed; ///< the lines typed on it; each moved the following content down by one
-    int breaks; ///< line breaks within these lines; each moved it down by one more
+    int breaks; ///< line breaks within these lines; each moved that content down by another line
 };
 
 /// Exports the notes of the items that have a description: a small number of lines on the page's first sheet, 50 on

@@ -55,7 +55,7 @@ public:
 
     const clsZR3FeeEarner *of(const clsZR3ScheduleOfTimeItem &item)
     {
-        // As it stands in the tree, which need not be made a text for each item.
+        // The tree's own bytes, to avoid creating a text for each item.
         const std::string_view identity = item.FeeEarnerUniqueID.content();
         const auto known = m_earners.find(identity);
         if (known != m_earners.end())

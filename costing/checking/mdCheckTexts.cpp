@@ -14,7 +14,7 @@ namespace {
 
 using Form = clsZR3Form;
 
-/// Texts that are no prose: amounts, rates and times. Dates and identities are known by their names.
+/// Texts that are not prose: amounts, rates and times. Dates and identities are recognised by their names.
 constexpr std::string_view Figures[] = {
     "AdvocacyRate",
     "Amount",

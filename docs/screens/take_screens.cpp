@@ -380,7 +380,7 @@ void takeFolder(clsPictures &pictures, const QString &samples, frmMain &main)
     for (const int row : {3, 5, 7})
         table->selectionModel()->select(
             table->model()->index(row, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
-    // Whoever looks at the pictures need not know where they were taken.
+    // The pictures must not show this machine's paths.
     auto *header = window.findChild<oHeaderBar *>();
     header->setSubCaption(QString(header->SubCaption()).replace(claims, QStringLiteral("/home/costs/Claims/2026")));
     pictures.take(window, window.objectName());

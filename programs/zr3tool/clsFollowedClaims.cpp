@@ -12,7 +12,7 @@
 
 namespace {
 
-/// The pause after a look, in milliseconds, and how many times longer than the look it is.
+/// The pause after a pass, in milliseconds, and how many times longer than the pass it is.
 constexpr qint64 ShortestPause = 700;
 constexpr qint64 LongestPause = 30'000;
 constexpr qint64 PauseToLook = 20;
@@ -29,7 +29,7 @@ std::vector<clsClaimJob> clsFollowedClaims::changed(const std::vector<clsClaimJo
     QHash<QString, clsKnown> now;
     std::vector<clsClaimJob> news;
     for (const clsClaimJob &job : found) {
-        // Taken before the claim is read: what changes meanwhile is news the next time.
+        // Taken before the claim is read, so that a change during the reading is found at the next pass.
         const clsKnown state {job.error.isEmpty() ? FileStamp(job.path) : std::nullopt, job.error};
         if (const auto known = m_known.constFind(job.path); known == m_known.cend() || *known != state)
             news.push_back(job);

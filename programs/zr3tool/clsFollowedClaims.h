@@ -13,20 +13,20 @@
 
 class clsEndRequests;
 
-/// The claims of a list that is kept up to date. It looks at the files again and again: a drive of another machine
-/// doesn't tell of changes. The longer a look takes, the longer is the pause before the next.
+/// The claims of a list that is kept up to date. Polls the files, because a network drive doesn't report changes. The
+/// longer one pass takes, the longer the pause before the next.
 class clsFollowedClaims {
 public:
     explicit clsFollowedClaims(clsEndRequests &requests)
         : m_requests(requests)
     { }
 
-    /// Of the claims that are there now, those that are new or have changed since the last time.
+    /// Those of the present claims that are new or have changed since the last call.
     std::vector<clsClaimJob> changed(const std::vector<clsClaimJob> &found);
-    /// What was there the time before and is no more.
+    /// The paths deleted between the last two calls.
     const QStringList &gone() const { return m_gone; }
     qsizetype count() const { return m_known.size(); }
-    /// Pauses; false where the program is to end, or the reader of its results is gone.
+    /// Pauses; false if the program has been asked to end, or its output is no longer read.
     bool wait();
 
 private:
@@ -40,12 +40,11 @@ private:
     clsEndRequests &m_requests;
     QHash<QString, clsKnown> m_known;
     QStringList m_gone;
-    QElapsedTimer m_look; ///< since the look began
-    qint64 m_took = 0; ///< in milliseconds
+    QElapsedTimer m_look; ///< since the pass began
+    qint64 m_took = 0; ///< the last pass, in milliseconds
 };
 
-// What a list that is kept up to date has between the lines of its claims: one that is gone, and how many there are now
-// that all that has changed is told.
+// Lines of such a list other than its claims: a deleted claim, and the number of claims after each round of changes.
 
 QByteArray mdGoneAsLine(const QString &path);
 QByteArray mdCountAsLine(qsizetype count);

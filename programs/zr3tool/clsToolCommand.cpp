@@ -145,7 +145,7 @@ std::optional<clsToolCommand> manyCommandOf(const ManyRow &row, const QCommandLi
     if (row.verb == clsToolCommand::Export && !command.claims.isEmpty())
         command.target = command.claims.takeLast();
     const int forms = int(parser.isSet(Json)) + int(parser.isSet(Csv)) + int(parser.isSet(JsonLines));
-    // What changes is told line by line.
+    // Changes are written line by line, so only JSON lines fit.
     if (parser.isSet(Follow) && !parser.isSet(JsonLines))
         return {};
     if (command.claims.isEmpty() || forms > 1 || !addValues(command, parser))

@@ -37,8 +37,8 @@ struct clsToolCommand {
     bool words = false; ///< names in place of stored values, also in JSON
     bool csv = false;
     bool jsonLines = false;
-    bool follow = false; ///< a list goes on with whatever changes
-    std::optional<int> jobs {}; ///< how many claims are worked on at a time, where it is given
+    bool follow = false; ///< a list keeps running and reports changes
+    std::optional<int> jobs {}; ///< how many claims are processed at a time, if given
     QString target; ///< the folder of an export, the new file of a save
     bool force = false;
     bool keepSheets = false;

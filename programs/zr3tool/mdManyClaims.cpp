@@ -231,7 +231,7 @@ bool clsManyRun::work()
     return clsWorkers(m_requests).run(row());
 }
 
-/// Goes on with what changes; true where the reader has gone.
+/// Reports changes until the program is asked to end or its output is no longer read; false if a write fails.
 bool clsManyRun::follow()
 {
     const auto writeLine = [this](const QByteArray &line) { return write(STDOUT_FILENO, line + '\n'); };

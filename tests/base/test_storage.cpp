@@ -223,7 +223,7 @@ TEST_F(DatabasePath, AMachineWidePathWithASlashAtItsEndIsNotCopiedToTheUser)
 {
     make(QStringLiteral("firm"));
     for (const char end : {'/', '\\'}) {
-        // The mark itself is doubled where it begins an escape in the file.
+        // A backslash begins an escape in the file, so it is written twice.
         putMachineWide(path("firm").toUtf8() + (end == '\\' ? QByteArray("\\\\") : QByteArray(1, end)));
         EXPECT_EQ(path("firm"), GetDatabasePath());
         EXPECT_FALSE(exists(store)) << end;

@@ -253,7 +253,7 @@ TEST_F(Import, DoublesAreThoseThatTheClaimHadBefore)
     rows.chooseDoubles(false);
     EXPECT_EQ(2, rows.appendTo(form));
     EXPECT_EQ(0, read(text).chosen());
-    // In every field: one different tick makes another item.
+    // A duplicate is equal in every field: one different tick makes it another item.
     form.ScheduleOfTimeItem(1)->Waiting = true;
     EXPECT_EQ(0, read(text).rows()[0].DoubleOf);
 }

@@ -6,7 +6,7 @@
 
 struct clsExpectedField {
     const char *control;
-    const char *caption; ///< the control's, or for an answer the question's; only read out if none is shown
+    const char *caption; ///< of the control or of the answer's question; if unlabelled, the screen reader name
     const char *answer; ///< the caption of an answer, else null
     /// 't' text, 'd' date, 'm' decimal, 'i' integer, 'h' time, 'x' tick, 'l' list, 'g' grid, 'b' button, 'o' any other
     char kind;

@@ -150,7 +150,7 @@ TEST_F(CodeCombo, TheKeyboardDoesNotLeaveAWrongCodeAndTellsItOnce)
         key(*screen, way.key, way.modifiers);
         QTest::qWait(10);
         expectHeld(*screen, "XYZ");
-        // On every attempt, once each time.
+        // Every further attempt shows one message.
         key(*screen, way.key, way.modifiers);
         QTest::qWait(10);
         expectHeld(*screen, "XYZ");

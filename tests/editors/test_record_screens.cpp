@@ -84,7 +84,7 @@ void RecordScreens::expectStored(const clsExpectedScreen &expected, const clsExp
     Form = std::make_unique<clsZR3Form>();
     // The template has its rate with a plain point, which the first write encodes.
     Form->VATRate = Form->VATRate();
-    // An amount that has the focus first becomes a number when it is left.
+    // If the first field of the screen is an amount, leaving it makes it a number.
     if (expected.fields.front().kind == 'm' && &expected.fields.front() != &field)
         elementOf(expected, expected.fields.front()).text().set("0%2E00");
     const auto screen = opened(QString::fromUtf8(expected.section));

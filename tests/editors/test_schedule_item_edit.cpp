@@ -272,7 +272,7 @@ TEST_F(ScheduleItemEdit, AFunctionKeyChoosesTheFeeEarnerFromEveryField)
         EXPECT_FALSE(QApplication::activePopupWidget()) << field.row->control;
         EXPECT_EQ(part, screen->focusWidget()) << field.row->control;
     }
-    // This includes the parts of fields at which the focus doesn't stop first.
+    // This includes parts of a field other than the one that gets its focus, and the buttons.
     for (QWidget *part : {static_cast<QWidget *>(&dateTick(*screen)),
              static_cast<QWidget *>(screen->Box("oEnhancement").findChild<QComboBox *>()),
              screen->findChild<QWidget *>(QStringLiteral("cmdSave"))}) {

@@ -251,7 +251,7 @@ TEST_P(EveryScreen, EveryCaptionHasALetterOrADigitWhereAllOfItsLettersAreTaken)
             const QChar key = keyOf(*label);
             if (!key.isNull() && key != label->Digit())
                 continue;
-            // Where the digits are used up too, a caption goes without.
+            // A caption may have neither letter nor digit if all digits are used.
             for (const char16_t digit : std::u16string_view(key.isNull() ? u"1234567890" : u""))
                 EXPECT_TRUE(letters.count(QChar(digit))) << label->Caption().toStdString();
             for (const QChar c : label->Caption())

@@ -1,7 +1,7 @@
 #include "tests/export/mdPageTables.h"
 
 // clang-format off
-// These are tables, to be read row for row.
+// Tables, one row per line.
 
 using enum PageClass;
 

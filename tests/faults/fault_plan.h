@@ -13,10 +13,10 @@ struct step {
     int killedAfter;
 };
 
-// Counts an operation below the folder, and carries out what is planned before it.
+// Counts an operation below the folder, and carries out what is planned to happen before it.
 struct step beginStep(const char *operation, const char *path, enum kind kind);
 
-// Carries out what is planned after it; returns the result passed to it.
+// Carries out what is planned after the operation; returns the operation's `result`.
 long endStep(struct step step, long result);
 
 // Whether a path lies below the folder.

@@ -7,7 +7,7 @@
 #include <vector>
 
 // clang-format off
-// These are tables, to be read row for row.
+// Tables, one row per line.
 
 // The file format, written a second time by hand: a change to a template or property must be made here too, so it can't
 // happen by accident. Existing claims depend on all these names.

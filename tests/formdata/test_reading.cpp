@@ -1,4 +1,4 @@
-// An item that caches its elements reads the same as one that searches for them each time, whatever changes the tree.
+// An item that caches its elements reads the same as one that searches for them each time, however the tree is changed.
 
 #include "tests/formdata/clsFormTest.h"
 

@@ -141,7 +141,7 @@ TEST(XMLSetContent, TakesThePlaceOfTheTextAndLeavesNothingWhereItIsEmpty)
         XMLSetContent(node, row.content);
         EXPECT_EQ(QString::fromUtf8(row.after), XMLElementOutput(node)) << row.before;
         EXPECT_STREQ(row.content, node.child_value()) << row.before;
-        // A second time, whatever the first write left.
+        // A second write works, whatever the first has left.
         XMLSetContent(node, "last");
         EXPECT_STREQ("last", node.child_value()) << row.before;
         XMLSetContent(node, "");

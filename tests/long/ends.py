@@ -168,7 +168,7 @@ def look_after(life, ended, bound=PROMISED):
     return seconds, characters, doing
 
 
-# What a kill is to interrupt, how many of a hundred, and how many seconds that lasts at most.
+# What a kill interrupts, how many kills of a hundred, and how many seconds that work lasts at most.
 MOMENTS = ((None, 50, PROMISED), ("save", 30, 0.06), ("export", 20, 0.6))
 
 

@@ -93,7 +93,7 @@ private:
             std::abort();
     }
 
-    /// Each has its own timer, since one that opens a screen does not fire again until that is closed.
+    /// Each has its own timer, since a timer that opens a screen does not fire again until the screen is closed.
     void turn()
     {
         QTimer::singleShot(BetweenActions, this, [this] {

@@ -14,7 +14,7 @@ sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "documents"))
 from claims import CLAIM1, CLAIM1A, Claim                       # noqa: E402
 
 # The lines of six points that each box holds, and the widest letters that fit on one: the limits of a text within its
-# allowance. Every other field has a row of its own for two lines.
+# allowance. Each of the other fields has its own row of two lines.
 FULL_WIDTH = 80
 BOXES = {
     "clientdetails/morethan1certificate": (5, FULL_WIDTH),

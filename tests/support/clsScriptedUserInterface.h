@@ -32,7 +32,7 @@ public:
     std::vector<Message> messages;
     std::vector<Progress> progress;
     int progressCleared = 0;
-    QStringList lines; ///< texts shown without a box
+    QStringList lines; ///< texts shown without a message box
     QStringList prompts;
     QStringList starts; ///< the start folder of each folder choice
     QStringList proposed; ///< for each file to export to

@@ -35,7 +35,7 @@ public:
     QString typed(const clsExpectedScreen &screen, const clsExpectedField &field, int item);
     /// How often a tick is clicked.
     int clicksOf(const clsExpectedScreen &screen, const clsExpectedField &field) const;
-    /// Records a tick that is clicked that often, and those that exclude it.
+    /// Records a tick clicked `clicksOf` times, and the ticks that exclude it.
     void clicked(const clsExpectedScreen &screen, const clsExpectedField &field, int item);
     /// Records the choice in a list, and the tick before it, if any.
     void chosen(const clsExpectedScreen &screen, const clsChosen &row);

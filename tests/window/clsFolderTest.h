@@ -42,7 +42,7 @@ protected:
         window->resize(1400, 700);
         show(*window);
     }
-    /// Until all that is there has been read.
+    /// Waits until the whole folder has been read.
     void read(int rows)
     {
         QTRY_COMPARE_WITH_TIMEOUT(table().model()->rowCount(), rows, Patience);

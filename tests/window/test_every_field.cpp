@@ -29,7 +29,8 @@ protected:
     }
     void fill(frmScreen &screen, const clsExpectedScreen &expected, const clsExpectedField &field, int item,
         clsFieldMarks &marks);
-    /// In each group that was clicked through, and in which the last tick is now set, clicks the one that is to stay.
+    /// In each group that was clicked through, and in which the last tick is now set, clicks the tick that should stay
+    /// set.
     static void clickExclusives(frmScreen &screen, const clsExpectedScreen &expected, const clsFieldMarks &marks)
     {
         for (const clsExclusiveTicks &group : ExclusiveTicks) {

@@ -38,7 +38,7 @@ TEST_F(Folder, ShowsTheFiguresOfItsClaims)
     EXPECT_EQ((QStringList {"Abbot", "Hartwell"}), names());
     EXPECT_EQ("1A", cell(0, Column::Form));
     EXPECT_EQ("2025", table().model()->index(0, 0).data(Column::FolderRole).toString());
-    // As the totals of the samples have them.
+    // From the samples' totals.
     EXPECT_EQ("5,080.66", cell(1, Column::ProfitCosts));
     EXPECT_EQ("10,804.31", cell(1, Column::Total));
     EXPECT_EQ("", cell(1, Column::Scheme)) << "Claim 1 has no such amount";
@@ -76,7 +76,7 @@ TEST_F(Folder, AClaimThatCantBeReadHasTheReasonAndIsInNoTotal)
 {
     put("housing-typical.zr3", "good.zr3");
     putBytes("broken.zr3", "<zr3form>");
-    // As large as a claim may not be, and no bytes on the disk.
+    // Larger than a claim may be, without using space on the disk.
     ASSERT_EQ(0, truncate(QFile::encodeName(putBytes("large.zr3", "<")).constData(), 100 << 20));
     ASSERT_TRUE(QFile::link(claims() + "/nowhere", claims() + "/vanished.zr3"));
     const QString locked = put("housing-typical.zr3", "locked.zr3");
@@ -262,7 +262,7 @@ TEST_F(Folder, AMissingToolIsToldAndClosingWaitsForNothing)
     show(*window);
     QTRY_VERIFY(table().accessibleDescription().contains("zr3tool is missing beside the program"));
     window.reset();
-    // One that hears nothing, as on a drive that is gone.
+    // A tool that ignores signals, as on a drive that no longer responds.
     QFile script(path("deaf"));
     ASSERT_TRUE(script.open(QIODevice::WriteOnly));
     script.write("#!/bin/sh\ntrap '' TERM\nwhile :; do sleep 1; done\n");
@@ -294,7 +294,7 @@ TEST_F(Folder, FiveThousandRowsComeInAtTheirPlaces)
         std::vector<clsFolderRow> rows;
         for (int at = from; at < from + Batch; ++at) {
             clsFolderRow row;
-            // Not in the order in which they are to stand.
+            // Not in sorted order.
             row.path = QStringLiteral("/claims/%1.zr3").arg((at * 7919) % Rows, 4, 10, QLatin1Char('0'));
             row.formType = QStringLiteral("Claim1");
             row.amounts[clsFolderRow::Total] = Money::fromTenThousandths(at * 100);
@@ -317,7 +317,7 @@ TEST_F(Folder, FiveThousandRowsComeInAtTheirPlaces)
     EXPECT_EQ("124,975.00", shown.Sums(list.ChosenRows()).text(Column::Total));
     list.SortBy(Column::Total);
     EXPECT_LT(waited.elapsed(), 3000);
-    // The sums have room beneath their columns.
+    // The sums fit below their columns.
     oFolderTotals totals(list);
     clsFolderSums large = shown.SumsOfAll();
     large.amounts[clsFolderRow::Total] = Money::fromTenThousandths(9'876'543'210'1234);

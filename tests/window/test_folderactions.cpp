@@ -1,4 +1,4 @@
-// What is done with the chosen claims of a folder.
+// The actions on the chosen claims of a folder.
 
 #include "shell/clsFolderModel.h"
 #include "tests/window/clsFolderTest.h"
@@ -28,7 +28,7 @@ protected:
         QTest::keyClick(&button(name), Qt::Key_Space);
     }
     void expectTold(const QString &text) const { QTRY_COMPARE_WITH_TIMEOUT(told(), text, Patience); }
-    /// Rows of the list that a button shows.
+    /// The rows of the results that a button opens.
     QStringList results(const char *name) const
     {
         QStringList rows;

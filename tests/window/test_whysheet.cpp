@@ -259,7 +259,7 @@ TEST_F(WhySheet, IsAnEntryOfTheMenuForTheRowUnderThePointer)
     EXPECT_EQ(QStringLiteral("Item 3"), sheet().Text().about);
     press(Qt::Key_Escape);
     QCoreApplication::processEvents();
-    // From the menu bar it is the marked row, which is now that one, or the first in view.
+    // From the menu bar the command explains the marked row or, if none is marked, the first in view.
     grid().MarkRow(0);
     entry("mnuWhyThisFigure").trigger();
     EXPECT_EQ(QStringLiteral("Item 1"), sheet().Text().about);

@@ -338,7 +338,7 @@ TEST_F(WindowUserInterface, ASoundThatIsNotThereIsSilent)
 {
     windows.playSound(path("program/Sounds/Alert.wav"));
     {
-        // Nothing happens after its owner's end either.
+        // Nothing happens after the object is destroyed either.
         clsWindowUserInterface gone;
         gone.playSound(path("program/Sounds/Alert.wav"));
     }

@@ -32,7 +32,7 @@ inline QString operator""_q(const char *text, size_t size)
 
 /// The result of running the tool.
 struct clsToolResult {
-    int status = -1; ///< -1 where it crashed or did not end
+    int status = -1; ///< -1 if it crashed or did not end
     QByteArray out;
     QByteArray err;
 };

@@ -1,4 +1,4 @@
-// The list of claims that goes on with what changes.
+// The list of claims that keeps running and reports changes.
 
 #include "tests/zr3tool/clsManyTest.h"
 
@@ -20,7 +20,7 @@ protected:
         tool.setStandardErrorFile(QProcess::nullDevice());
         tool.start(QStringLiteral(ZR3_TOOL), {"list"_q, "--jsonl"_q, "--follow"_q, claims()}, QIODevice::ReadOnly);
     }
-    /// The next line; an empty object where none comes in time.
+    /// The next line; an empty object if none arrives in time.
     QJsonObject next()
     {
         QElapsedTimer waited;

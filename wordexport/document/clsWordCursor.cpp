@@ -49,7 +49,7 @@ int columnOf(const xml_node &cell)
     return column;
 }
 
-// The row's cell that covers a column; before or after the row's cells the first or last one.
+// The row's cell that covers a column; the first or last cell for a column before or after all cells.
 xml_node cellAtColumn(const xml_node &row, int column)
 {
     int end = columnsBefore(row);

@@ -57,7 +57,7 @@ public:
 
     /// The look of a paragraph that has only a style.
     const Paragraph &ofStyles(const char *paragraphStyle, const std::string &tableStyle) const;
-    /// The look of a paragraph, in a table of that style if it is in one; its run is that of plain text in it.
+    /// The look of a paragraph, and of plain text in it; `tableStyle` is the style of the table it is in, if any.
     Paragraph ofParagraph(const pugi::xml_node &paragraph, const std::string &tableStyle) const;
     /// The look of a run in a paragraph with that look.
     Run ofRun(const pugi::xml_node &format, const Run &paragraph) const;

@@ -146,7 +146,7 @@ void clsWordPackage::parseInto(pugi::xml_node place, int part) const
 {
     const QByteArray &bytes = m_zip.bytes(part);
     const bool utf16 = bytes.startsWith("\xFE\xFF") || bytes.startsWith("\xFF\xFE") || bytes.left(2).contains('\0');
-    // Within another tree a part's declaration is not allowed, and would count as damage.
+    // Inside another tree an XML declaration is not allowed: parsed there, it would be reported as damage.
     const unsigned flags
         = place.type() == pugi::node_document ? WordXml::ParseFlags : WordXml::ParseFlags & ~pugi::parse_declaration;
     const bool sound = (utf16 || bytes.isValidUtf8())

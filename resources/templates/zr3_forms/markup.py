@@ -177,7 +177,7 @@ def row_element(row, grid, row_above, is_last):
 
 def table_element(rows):
     """The columns of the file are all edges of all rows; a cell spans as many as
-    it needs, and remains one cell for whoever counts cells."""
+    it needs, and still counts as one cell."""
     grid = sorted({stop for row in rows for stop in edges(row.cells)})
     width = look.units(look.ACROSS)
     if any(edges(row.cells)[-1] != width for row in rows):

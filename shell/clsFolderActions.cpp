@@ -5,6 +5,7 @@
 #include "shell/clsFolderModel.h"
 #include "shell/frmCompare.h"
 #include "shell/mdComparison.h"
+#include "wordexport/mdExportWordCombineDocuments.h"
 
 #include <QDir>
 #include <QFile>
@@ -12,7 +13,10 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSet>
 #include <QTemporaryDir>
+
+#include <memory>
 
 namespace {
 
@@ -45,6 +49,14 @@ std::vector<QJsonObject> linesOf(const Result &result)
     return lines;
 }
 
+bool haveNamesakes(const QStringList &paths)
+{
+    QSet<QString> names;
+    for (const QString &path : paths)
+        names << mdNameByFile(path);
+    return names.size() < paths.size();
+}
+
 /// "Costs", or "Schedule of Time, item 4".
 QString placeInWords(const QJsonObject &finding)
 {
@@ -70,16 +82,17 @@ clsFolderActions::clsFolderActions(clsFolderModel &model, QWidget *window)
     , m_window(window)
 { }
 
-clsFolderActions::~clsFolderActions() = default;
-
-/// Reports a run that was cancelled or failed to finish.
-bool clsFolderActions::stopped(const Result &result, const QString &what)
+/// Reports a run that was cancelled or failed to finish. `isWhole` is false if it did not report all its claims.
+bool clsFolderActions::stopped(const Result &result, const QString &what, bool isWhole)
 {
+    const bool isStopped = result.status < 0 || !isWhole;
     if (result.isCancelled)
         emit Told({what + QStringLiteral(" cancelled.")});
-    else if (result.status < 0)
-        emit Told({what + QStringLiteral(" stopped: ") + result.trouble, true});
-    return result.isCancelled || result.status < 0;
+    else if (isStopped)
+        emit Told({what + QStringLiteral(" stopped: ")
+                + (result.trouble.isEmpty() ? QStringLiteral("zr3tool has ended before it was done.") : result.trouble),
+            true});
+    return result.isCancelled || isStopped;
 }
 
 void clsFolderActions::Check(const QStringList &paths)
@@ -98,7 +111,8 @@ void clsFolderActions::checked(const QStringList &paths, const Result &result)
     int errors = 0;
     int warnings = 0;
     int unread = 0;
-    for (const QJsonObject &line : linesOf(result)) {
+    const std::vector<QJsonObject> lines = linesOf(result);
+    for (const QJsonObject &line : lines) {
         const QString path = wordIn(line, "Path");
         const QString name = mdNameOfClaim(path);
         if (line.contains(QLatin1String("Error"))) {
@@ -118,7 +132,7 @@ void clsFolderActions::checked(const QStringList &paths, const Result &result)
         errors += ofClaim[0];
         warnings += ofClaim[1];
     }
-    if (stopped(result, QStringLiteral("Check")))
+    if (stopped(result, QStringLiteral("Check"), qsizetype(lines.size()) >= paths.size()))
         return;
     clsFolderOutcome outcome {
         QStringLiteral("%1 checked: %2, %3")
@@ -150,7 +164,8 @@ void clsFolderActions::exported(const QStringList &paths, const QString &target,
         .headings = {QStringLiteral("Claim"), QStringLiteral("Why")},
         .rows = {}};
     QStringList there;
-    for (const QJsonObject &line : linesOf(result)) {
+    const std::vector<QJsonObject> lines = linesOf(result);
+    for (const QJsonObject &line : lines) {
         QString error = wordIn(line, "Error");
         if (error.isEmpty())
             continue;
@@ -160,7 +175,7 @@ void clsFolderActions::exported(const QStringList &paths, const QString &target,
         }
         details.rows.push_back({mdNameOfClaim(wordIn(line, "Path")), error});
     }
-    if (stopped(result, QStringLiteral("Export")))
+    if (stopped(result, QStringLiteral("Export"), qsizetype(lines.size()) >= paths.size()))
         return;
     const qsizetype failed = qsizetype(details.rows.size());
     clsFolderOutcome outcome {QStringLiteral("%1 of %2 exported to %3")
@@ -171,7 +186,9 @@ void clsFolderActions::exported(const QStringList &paths, const QString &target,
         outcome.details = details;
     if (!there.isEmpty()) {
         outcome.text += QStringLiteral("; %1 already there").arg(countInWords(there.size(), "document"));
-        outcome.replace = [this, there, target, pdf] { Export(there, target, pdf, true); };
+        // Documents of claims of one name are numbered in the order of all claims of the run.
+        const QStringList again = haveNamesakes(paths) ? paths : there;
+        outcome.replace = [this, again, target, pdf] { Export(again, target, pdf, true); };
     }
     emit Told(outcome);
 }
@@ -204,24 +221,24 @@ void clsFolderActions::show(const clsComparison &comparison, QWidget *parent) co
 
 void clsFolderActions::CompareWith(const QStringList &paths, const QString &folder, const QString &other)
 {
-    // A folder of links to the chosen claims only, each at its path below the folder.
-    m_links = std::make_unique<QTemporaryDir>();
+    // A folder of links to the chosen claims only, each at its path below the folder. It exists as long as its run,
+    // since others may wait behind that.
+    const auto links = std::make_shared<QTemporaryDir>();
     const QString start = folder.endsWith(u'/') ? folder : folder + u'/';
     for (const QString &path : paths) {
         const QString link
-            = m_links->filePath(path.startsWith(start) ? path.mid(start.size()) : QFileInfo(path).fileName());
+            = links->filePath(path.startsWith(start) ? path.mid(start.size()) : QFileInfo(path).fileName());
         QDir().mkpath(QFileInfo(link).path());
         QFile::link(path, link);
     }
     m_work.Start({QStringLiteral("Comparing %1 with those of %2")
                       .arg(claimsInWords(paths.size()), QDir::toNativeSeparators(other)),
-        {QStringLiteral("diff"), QStringLiteral("--json"), QStringLiteral("--words"), other, m_links->path()}, {},
-        [this, other](const Result &result) { comparedAll(result, other); }});
+        {QStringLiteral("diff"), QStringLiteral("--json"), QStringLiteral("--words"), other, links->path()}, {},
+        [this, other, links](const Result &result) { comparedAll(result, other); }});
 }
 
 void clsFolderActions::comparedAll(const Result &result, const QString &other)
 {
-    m_links.reset();
     if (stopped(result, QStringLiteral("Compare")))
         return;
     const QJsonDocument document = QJsonDocument::fromJson(result.printed);
@@ -235,6 +252,7 @@ void clsFolderActions::comparedAll(const Result &result, const QString &other)
         .headings = {QStringLiteral("Claim"), QStringLiteral("What differs")},
         .rows = {}};
     std::vector<clsComparison> comparisons;
+    bool isPaired = false;
     for (const auto &value : document.object()[QLatin1String("Claims")].toArray()) {
         const QJsonObject pair = value.toObject();
         const QString only = wordIn(pair, "Only");
@@ -249,8 +267,14 @@ void clsFolderActions::comparedAll(const Result &result, const QString &other)
         const QString what = !comparison.trouble.isEmpty() ? comparison.trouble
             : count == 0                                   ? QStringLiteral("Nothing differs.")
                                                            : countInWords(qsizetype(count), "difference");
+        isPaired |= only.isEmpty();
         results.rows.push_back({mdNameOfClaim(wordIn(pair, "Name")), what});
         comparisons.push_back(std::move(comparison));
+    }
+    // The other folder can't be read, so that nothing is known of what it holds.
+    if (!isPaired && !result.trouble.isEmpty()) {
+        emit Told({QStringLiteral("They cannot be compared: ") + result.trouble, true});
+        return;
     }
     results.openCaption = QStringLiteral("&Show");
     results.open = [this, comparisons](int row, QWidget *parent) { show(comparisons[size_t(row)], parent); };

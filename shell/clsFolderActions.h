@@ -6,10 +6,8 @@
 #include <QObject>
 #include <QStringList>
 
-#include <memory>
 #include <optional>
 
-class QTemporaryDir;
 class clsFolderModel;
 struct clsComparison;
 
@@ -27,7 +25,6 @@ class clsFolderActions : public QObject {
 
 public:
     clsFolderActions(clsFolderModel &model, QWidget *window);
-    ~clsFolderActions() override;
 
     clsFolderWork &Work() { return m_work; }
 
@@ -46,10 +43,9 @@ private:
     void compared(const clsFolderWork::clsResult &result, const QString &before, const QString &now);
     void comparedAll(const clsFolderWork::clsResult &result, const QString &other);
     void show(const clsComparison &comparison, QWidget *parent) const;
-    bool stopped(const clsFolderWork::clsResult &result, const QString &what);
+    bool stopped(const clsFolderWork::clsResult &result, const QString &what, bool isWhole = true);
 
     clsFolderModel &m_model;
     QWidget *m_window;
     clsFolderWork m_work;
-    std::unique_ptr<QTemporaryDir> m_links; ///< links to the claims being compared
 };

@@ -5,6 +5,7 @@
 #include "base/mdLog.h"
 #include "base/mdStateFile.h"
 #include "controls/mdShowModal.h"
+#include "controls/mdToolTip.h"
 #include "controls/oCheckBox.h"
 #include "controls/oCustomButton.h"
 #include "controls/oHeaderBar.h"
@@ -100,7 +101,7 @@ void frmFolderOfClaims::connectAll()
     click(cmdExportAsPdf, [this] { exportChosen(true); });
     click(cmdClose, [this] { reject(); });
     click(cmdCancel, [this] { m_actions->Work().Cancel(); });
-    click(cmdReplace, [this] { m_replace(); });
+    click(cmdReplace, [this] { std::exchange(m_replace, {})(); });
     click(cmdDetails, [this] { m_details(); });
 }
 
@@ -183,7 +184,7 @@ void frmFolderOfClaims::showState()
         if (const int unread = m_model->UnreadCount(); unread > 0)
             told += QStringLiteral(", %1 cannot be read").arg(unread);
         m_header->setSubCaption(told);
-        m_header->setToolTip(QDir::toNativeSeparators(m_folder));
+        m_header->setToolTip(mdPlainToolTip(QDir::toNativeSeparators(m_folder)));
         lblState->setText(!m_trouble.isEmpty() ? QStringLiteral("Not up to date")
                 : m_readAt.isEmpty()           ? QStringLiteral("Reading...")
                                                : QStringLiteral("Read at %1; kept up to date").arg(m_readAt));
@@ -191,7 +192,7 @@ void frmFolderOfClaims::showState()
                 : m_readAt.isEmpty()               ? QStringLiteral("Reading the claims...")
                 : m_model->rowCount() > 0          ? QStringLiteral("No claim matches the filter.")
                                                    : QStringLiteral("No claims in this folder."));
-        lblState->setToolTip(m_trouble);
+        lblState->setToolTip(mdPlainToolTip(m_trouble));
     }
     showChosen();
 }
@@ -251,10 +252,17 @@ void frmFolderOfClaims::tell(const clsFolderOutcome &outcome)
         frmFolderResults window(*details, this);
         mdShowModal(window);
     };
-    if (m_actions->Work().isRunning())
-        return; // the next run shows itself
-    m_progress->setVisible(!outcome.text.isEmpty());
-    lblProgress->setText(outcome.text);
+    if (m_actions->Work().isRunning()) {
+        // The next run shows itself, and the failure is told when that has ended.
+        if (outcome.hasFailed)
+            m_failures << outcome.text;
+        return;
+    }
+    QStringList texts = std::exchange(m_failures, {});
+    if (!outcome.text.isEmpty())
+        texts << outcome.text;
+    m_progress->setVisible(!texts.isEmpty());
+    lblProgress->setText(texts.join(QStringLiteral("; ")));
     cmdReplace->setVisible(bool(outcome.replace));
     cmdDetails->setVisible(outcome.details.has_value());
     announce(*lblProgress);
@@ -330,7 +338,9 @@ void frmFolderOfClaims::compareChosen()
         m_actions->CompareTwo((isLater ? two : one).path, (isLater ? one : two).path);
         return;
     }
+    // Taken before the question, since the list follows the files meanwhile.
+    const QStringList paths = chosenPaths();
     const QString other = GetFolder(QStringLiteral("Choose the folder to compare with"), m_folder);
     if (!other.isEmpty())
-        m_actions->CompareWith(chosenPaths(), m_folder, other);
+        m_actions->CompareWith(paths, m_folder, other);
 }

@@ -90,6 +90,7 @@ private:
     QString m_trouble; ///< why the folder can't be read
     QString m_readAt; ///< the time; empty until all is read
     QString m_chosenClaim;
+    QStringList m_failures; ///< of runs that others waited behind, not told yet
     std::function<void()> m_replace;
     std::function<void()> m_details;
 };

@@ -36,9 +36,9 @@ protected:
     }
     QString claims() const { return path("claims"); }
 
-    void start()
+    void start(const QString &tool = QStringLiteral(ZR3_TOOL))
     {
-        window = std::make_unique<frmFolderOfClaims>(claims(), nullptr, QStringLiteral(ZR3_TOOL));
+        window = std::make_unique<frmFolderOfClaims>(claims(), nullptr, tool);
         window->resize(1400, 700);
         show(*window);
     }

@@ -143,6 +143,15 @@ TEST_F(Folder, AnEmptyFolderAndOneThatGoesSaySo)
     read(1);
 }
 
+TEST_F(Folder, MarkUpInItsNameIsShownAsItIs)
+{
+    ASSERT_TRUE(QDir().mkpath(path("<b>x")));
+    start();
+    window->ShowFolder(path("<b>x"));
+    const QString tip = control<QWidget>(*window, "oHeader").toolTip();
+    EXPECT_TRUE(tip.contains("&lt;b&gt;x")) << tip.toStdString();
+}
+
 TEST_F(Folder, WithoutAFolderItAsksForNoneAndOffersTheChoice)
 {
     window = std::make_unique<frmFolderOfClaims>(QString(), nullptr, QStringLiteral(ZR3_TOOL));

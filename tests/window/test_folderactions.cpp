@@ -22,6 +22,17 @@ protected:
         ASSERT_TRUE(QDir().mkpath(out()));
     }
     QString out() const { return path("out"); }
+    /// With a script in place of the headless program, which it may run as $TOOL.
+    void startWith(const char *script)
+    {
+        QFile tool(path("tool"));
+        ASSERT_TRUE(tool.open(QIODevice::WriteOnly));
+        tool.write("#!/bin/sh\nTOOL='" ZR3_TOOL "'\n");
+        tool.write(script);
+        tool.close();
+        tool.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+        start(tool.fileName());
+    }
     void press(const char *name) const
     {
         ASSERT_TRUE(button(name).isEnabled()) << name;
@@ -163,6 +174,65 @@ TEST_F(FolderActions, ADocumentThatIsThereStaysUntilItIsReplaced)
     EXPECT_FALSE(button("cmdReplace").isVisible());
 }
 
+TEST_F(FolderActions, ReplacingKeepsTheNumbersOfClaimsOfOneName)
+{
+    put("empty.zr3", "2025/Hartwell.zr3");
+    put("empty.zr3", "2026/Hartwell.zr3");
+    QFile second(out() + "/Hartwell Claim1 (2).doc");
+    ASSERT_TRUE(second.open(QIODevice::WriteOnly));
+    second.close();
+    start();
+    read(2);
+    choose({0, 1});
+    user.folders = {out()};
+    press("cmdExport");
+    expectTold("1 of 2 claims exported to " + out() + "; 1 document already there");
+    press("cmdReplace");
+    QTRY_VERIFY_WITH_TIMEOUT(told().startsWith("2 of 2 claims exported"), Patience);
+    EXPECT_LT(0, QFileInfo(second).size()) << "and not the first one's again";
+}
+
+TEST_F(FolderActions, AFailureIsToldAfterWhatWaitedBehindIt)
+{
+    put("empty.zr3", "a.zr3");
+    putBytes("b.zr3", "<");
+    start();
+    read(2);
+    choose({0, 1});
+    user.folders = {out()};
+    press("cmdExport");
+    choose({0});
+    press("cmdCheck");
+    QTRY_VERIFY_WITH_TIMEOUT(told().contains("1 claim checked: "), Patience);
+    EXPECT_TRUE(told().startsWith("1 of 2 claims exported to " + out() + "; ")) << told().toStdString();
+}
+
+TEST_F(FolderActions, ARunThatDidNotTellOfAllClaimsIsNoSuccess)
+{
+    put("empty.zr3", "a.zr3");
+    startWith("[ \"$1\" = list ] && exec \"$TOOL\" \"$@\"\necho 'Too many processes.' >&2\nexit 4\n");
+    read(1);
+    choose({0});
+    user.folders = {out()};
+    press("cmdExport");
+    expectTold("Export stopped: Too many processes.");
+    press("cmdCheck");
+    expectTold("Check stopped: Too many processes.");
+}
+
+TEST_F(FolderActions, AnOtherFolderThatCantBeReadIsTold)
+{
+    put("empty.zr3", "a.zr3");
+    startWith("[ \"$1\" = list ] && exec \"$TOOL\" \"$@\"\n"
+              "echo '{\"Claims\": [{\"Name\": \"a.zr3\", \"Only\": \"new\"}]}'\n"
+              "echo 'Permission denied.' >&2\nexit 3\n");
+    read(1);
+    choose({0});
+    user.folders = {out()};
+    press("cmdCompare");
+    expectTold("They cannot be compared: Permission denied.");
+}
+
 TEST_F(FolderActions, CancelStopsAndLeavesNothingHalfDone)
 {
     for (int number = 0; number < 12; ++number)
@@ -259,6 +329,30 @@ TEST_F(FolderActions, ComparesWithTheClaimsOfTheSameNamesElsewhere)
     EXPECT_TRUE(rows[0].contains(QRegularExpression("^a\\|\\d+ differences$"))) << rows[0].toStdString();
     EXPECT_EQ("b|Nothing differs.", rows[1]);
     EXPECT_EQ("c|There is none of this name in the other folder.", rows[2]);
+}
+
+TEST_F(FolderActions, ComparisonsThatWaitKeepTheirClaims)
+{
+    put("empty.zr3", "a.zr3");
+    put("empty.zr3", "b.zr3");
+    start();
+    read(2);
+    user.folders = {out(), out()};
+    QStringList rows;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, window.get(), [&] {
+        if (auto *dialog = QApplication::activeModalWidget())
+            rows << rowsOf(dialog);
+    });
+    poll.start(20);
+    for (const int row : {0, 1}) {
+        choose({row});
+        press("cmdCompare");
+    }
+    const auto have = [&](const char *name) {
+        return rows.contains(QLatin1String(name) + "|There is none of this name in the other folder.");
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(have("a") && have("b"), Patience);
 }
 
 namespace {

@@ -80,7 +80,7 @@ void clsFolderReader::readLine(const QByteArray &line)
     const bool isGone = object[QLatin1String("gone")].toBool();
     // The folder itself has a line while it can't be looked into.
     if (path == m_folder) {
-        m_news.trouble = isGone ? QString() : object[QLatin1String("error")].toString().simplified();
+        m_news.trouble = isGone ? QString() : object[QLatin1String("error")].toString().remove(u'\r').trimmed();
     } else if (isGone) {
         takeGone(path);
     } else {

@@ -80,7 +80,7 @@ void clsFolderReader::readLine(const QByteArray &line)
     const bool isGone = object[QLatin1String("gone")].toBool();
     // A line about the folder itself says that it can't be read, or can be again.
     if (path == m_folder) {
-        m_news.trouble = isGone ? QString() : object[QLatin1String("error")].toString().simplified();
+        m_news.trouble = isGone ? QString() : object[QLatin1String("error")].toString().remove(u'\r').trimmed();
     } else if (isGone) {
         takeGone(path);
     } else {

@@ -138,6 +138,8 @@ TEST_F(Folder, AnEmptyFolderAndOneThatGoesSaySo)
     QTRY_COMPARE_WITH_TIMEOUT(table().accessibleDescription(), QStringLiteral("No claims in this folder."), Patience);
     ASSERT_TRUE(QDir().rmdir(claims()));
     QTRY_COMPARE_WITH_TIMEOUT(state(), QStringLiteral("Not up to date"), Patience);
+    const QString trouble = table().accessibleDescription();
+    EXPECT_TRUE(trouble.contains(claims() + u'\n')) << "on lines of their own: " << trouble.toStdString();
     ASSERT_TRUE(QDir().mkpath(claims()));
     put("empty.zr3", "a.zr3");
     read(1);

@@ -3,6 +3,7 @@
 #include "controls/oFooterBar.h"
 #include "controls/oFooterLine.h"
 #include "controls/oNoticeBar.h"
+#include "tests/support/mdTry.h"
 
 #include <QAccessible>
 #include <QLabel>

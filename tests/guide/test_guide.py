@@ -477,7 +477,7 @@ class Sheets(unittest.TestCase):
             (counsel, "Both", "5(1)", self.claim("Claim1A", 4, 5).write(levels, self.LONG).add_fees(33)),
             (page_6, "Only the experts", "6(1)", six("Claim1", 6).add("expertinvoices", 12)),
             (page_6, "only the reasons", "6(1)", six("Claim1", 6).write(reasons, self.LONG)),
-            (page_6, "very last", "6(1)", six("Claim1", 6).add_descriptions(8, 8)),
+            (page_6, "only its last", "6(1)", six("Claim1", 6).add_descriptions(8, 8)),
             ("Claim 1, page 7", joint_7, "7(1)", self.claim("Claim1", 7).add("jointinstructions", 15)),
             ("Claim 1A, page 6", "Only the reasons", "6(1)", six("Claim1A", 6).write(reasons, self.LONG)),
             ("Claim 1A, page 7", joint_7, "7(1)", self.claim("Claim1A", 7).add("jointinstructions", 15)),
@@ -485,7 +485,7 @@ class Sheets(unittest.TestCase):
             (page_8, "only the bolt-on", "8(1)", self.hearings(7, bolt_ons=7)),
             (page_8, "hearings and the bolt-on", "8(1)", self.hearings(17, bolt_ons=7)),
             (page_8, "hearings and the exceptional", "8(1)", self.hearings(17, travel=11)),
-            ("Claim 1A, page 11", "very last", "11(1)", self.claim("Claim1A", 11).add_descriptions(10, 15)),
+            ("Claim 1A, page 11", "only its last", "11(1)", self.claim("Claim1A", 11).add_descriptions(10, 15)),
         ]
         rows = self.rows()
         used = set()

@@ -10,6 +10,7 @@
 #include "base/mdProgramFolder.h"
 #include "commands/clsJournal.h"
 #include "commands/clsNotStored.h"
+#include "commands/mdFirmOffer.h"
 #include "commands/mdRecoveredCopy.h"
 #include "controls/mdApplyTheme.h"
 #include "controls/oAllPurposeBox.h"
@@ -205,6 +206,8 @@ int main(int argc, char **argv)
             logOff(application);
         application.endUnasked();
     });
+    // The bar is for the recovery copy.
+    mdFirmOfferAnswered();
     auto window = std::make_unique<frmMain>();
     QObject::connect(window.get(), &frmMain::Closed, &application, [&application] { application.end(0); });
     if (mode == QLatin1String("type") && argc == 5) {

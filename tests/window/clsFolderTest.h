@@ -3,23 +3,11 @@
 #include "controls/oCustomButton.h"
 #include "shell/frmFolderOfClaims.h"
 #include "shell/oFolderTable.h"
+#include "tests/support/mdTry.h"
 #include "tests/window/clsWindowTest.h"
 
 #include <QFileInfo>
 #include <QLabel>
-
-// The macros of QtTest only end the test function: outside of QtTest's own tests their failure is counted nowhere.
-#undef QTRY_VERIFY_WITH_TIMEOUT
-#undef QTRY_COMPARE_WITH_TIMEOUT
-#undef QTRY_VERIFY
-#define QTRY_VERIFY_WITH_TIMEOUT(condition, timeout)                                                                   \
-    ASSERT_TRUE(QTest::qWaitFor([&] { return bool(condition); }, timeout)) << #condition
-#define QTRY_COMPARE_WITH_TIMEOUT(actual, expected, timeout)                                                           \
-    do {                                                                                                               \
-        (void)QTest::qWaitFor([&] { return (actual) == (expected); }, timeout);                                        \
-        ASSERT_EQ(expected, actual);                                                                                   \
-    } while (false)
-#define QTRY_VERIFY(condition) QTRY_VERIFY_WITH_TIMEOUT(condition, 5000)
 
 /// A test of the list of the claims of a folder.
 class clsFolderTest : public clsWindowTest {

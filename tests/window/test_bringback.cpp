@@ -13,6 +13,7 @@
 #include "controls/oSGrid.h"
 #include "editors/frmScreen.h"
 #include "editors/oListLine.h"
+#include "tests/support/mdTry.h"
 #include "tests/window/clsMainWindowTest.h"
 
 #include <QComboBox>

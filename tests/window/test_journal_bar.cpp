@@ -9,6 +9,7 @@
 #include "editors/frmScreen.h"
 #include "formdata/mdRunStep.h"
 #include "shell/clsJournalKeeper.h"
+#include "tests/support/mdTry.h"
 #include "tests/window/clsMainWindowTest.h"
 
 #include <QLabel>

@@ -67,7 +67,7 @@ const QString NameByFile = QStringLiteral("name-by-file");
 const QString Csv = QStringLiteral("csv");
 const QString JsonLines = QStringLiteral("jsonl");
 const QString Follow = QStringLiteral("follow");
-const QString Words = QStringLiteral("words");
+const QString InWords = QStringLiteral("words");
 const QString Newer = QStringLiteral("newer");
 const QString Jobs = QStringLiteral("jobs");
 const QString Items = QStringLiteral("items");
@@ -80,7 +80,7 @@ void addOptions(QCommandLineParser &parser)
 {
     parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsOptions);
     for (const QString &flag : {Force, KeepSheets, Quiet, Pdf, NameByFile, Newer, Full, Json, Csv, JsonLines, Follow,
-             Words, Doubles, HelpOption, VersionOption})
+             InWords, Doubles, HelpOption, VersionOption})
         parser.addOption(QCommandLineOption(flag));
     parser.addOption(QCommandLineOption(Templates, QString(), QStringLiteral("DIR")));
     parser.addOption(QCommandLineOption(Items, QString(), QStringLiteral("ROWS")));
@@ -98,7 +98,7 @@ unsigned optionsOf(const QCommandLineParser &parser)
     };
     return group(ExportOptions, {Force, Templates, KeepSheets, Quiet, Pdf, NameByFile, Newer})
         | group(JsonOption, {Json}) | group(CsvOption, {Csv}) | group(TodayOption, {Today})
-        | group(ManyOptions, {JsonLines, Jobs}) | group(FollowOption, {Follow}) | group(WordsOption, {Words})
+        | group(ManyOptions, {JsonLines, Jobs}) | group(FollowOption, {Follow}) | group(WordsOption, {InWords})
         | group(ImportOptions, {Items, Map, Doubles});
 }
 
@@ -192,7 +192,7 @@ std::optional<clsToolCommand> commandOf(const QCommandLineParser &parser)
         return command;
     }
     command.json = parser.isSet(Json);
-    command.words = parser.isSet(Words);
+    command.words = parser.isSet(InWords);
     if (row->verb == clsToolCommand::Table) {
         command.which = words[2];
         return command;

@@ -6,7 +6,7 @@
 #include "shell/oFolderHeader.h"
 #include "shell/oFolderTotals.h"
 #include "tests/support/mdSpokenNames.h"
-#include "tests/window/clsFolderTest.h"
+#include "tests/window/clsClaimFolderTest.h"
 
 #include <QElapsedTimer>
 #include <QLineEdit>
@@ -18,7 +18,7 @@
 namespace {
 
 using Column = clsFolderModel;
-class Folder : public clsFolderTest {
+class Folder : public clsClaimFolderTest {
 protected:
     QString totals() const
     {

@@ -1,7 +1,7 @@
 // The actions on the chosen claims of a folder.
 
 #include "shell/clsFolderModel.h"
-#include "tests/window/clsFolderTest.h"
+#include "tests/window/clsClaimFolderTest.h"
 #include "tests/window/clsMainWindowTest.h"
 
 #include <QContextMenuEvent>
@@ -14,11 +14,11 @@ namespace {
 
 using Column = clsFolderModel;
 
-class FolderActions : public clsFolderTest {
+class FolderActions : public clsClaimFolderTest {
 protected:
     void SetUp() override
     {
-        clsFolderTest::SetUp();
+        clsClaimFolderTest::SetUp();
         ASSERT_TRUE(QDir().mkpath(out()));
     }
     QString out() const { return path("out"); }

@@ -10,7 +10,7 @@
 #include <QLabel>
 
 /// A test of the list of the claims of a folder.
-class clsFolderTest : public clsWindowTest {
+class clsClaimFolderTest : public clsWindowTest {
 protected:
     void TearDown() override
     {

@@ -283,7 +283,8 @@ TEST_F(JournalBar, AFileThatWasChangedAndCannotBeReadIsTold)
 
 TEST_F(JournalBar, AJournalThatCannotBeWrittenIsTold)
 {
-    QFile(path("state")).open(QIODevice::WriteOnly);
+    QDir(path("state")).removeRecursively();
+    ASSERT_TRUE(QFile(path("state")).open(QIODevice::WriteOnly));
     savedClaim();
     Form->ClientDetails.Surname = QStringLiteral("Hartwell");
     Journal().stepTaken();

@@ -200,17 +200,25 @@ void clsFolderActions::CompareTwo(const QString &before, const QString &now)
         [this, before, now](const Result &result) { compared(result, before, now); }});
 }
 
-void clsFolderActions::compared(const Result &result, const QString &before, const QString &now)
+/// The object printed by a comparison; nothing, after a message, if there is none.
+std::optional<QJsonObject> clsFolderActions::readComparison(const Result &result)
 {
     if (stopped(result, QStringLiteral("Compare")))
-        return;
+        return {};
     const QJsonDocument document = QJsonDocument::fromJson(result.printed);
-    if (!document.isObject()) {
-        emit Told({QStringLiteral("They cannot be compared: ") + result.trouble, true});
+    if (document.isObject())
+        return document.object();
+    emit Told({QStringLiteral("They cannot be compared: ") + result.trouble, true});
+    return {};
+}
+
+void clsFolderActions::compared(const Result &result, const QString &before, const QString &now)
+{
+    const std::optional<QJsonObject> comparison = readComparison(result);
+    if (!comparison)
         return;
-    }
     emit Told({});
-    show({mdNameOfClaim(before), mdNameOfClaim(now), {}, mdReadChanges(document.object())}, m_window);
+    show({mdNameOfClaim(before), mdNameOfClaim(now), {}, mdReadChanges(*comparison)}, m_window);
 }
 
 void clsFolderActions::show(const clsComparison &comparison, QWidget *parent) const
@@ -239,13 +247,9 @@ void clsFolderActions::CompareWith(const QStringList &paths, const QString &fold
 
 void clsFolderActions::comparedAll(const Result &result, const QString &other)
 {
-    if (stopped(result, QStringLiteral("Compare")))
+    const std::optional<QJsonObject> printed = readComparison(result);
+    if (!printed)
         return;
-    const QJsonDocument document = QJsonDocument::fromJson(result.printed);
-    if (!document.isObject()) {
-        emit Told({QStringLiteral("They cannot be compared: ") + result.trouble, true});
-        return;
-    }
     clsFolderResults results {.caption = QStringLiteral("Compare"),
         .subCaption
         = QStringLiteral("The chosen claims and those of the same name in %1").arg(QDir::toNativeSeparators(other)),
@@ -253,7 +257,7 @@ void clsFolderActions::comparedAll(const Result &result, const QString &other)
         .rows = {}};
     std::vector<clsComparison> comparisons;
     bool isPaired = false;
-    for (const auto &value : document.object()[QLatin1String("Claims")].toArray()) {
+    for (const auto &value : (*printed)[QLatin1String("Claims")].toArray()) {
         const QJsonObject pair = value.toObject();
         const QString only = wordIn(pair, "Only");
         if (only == QLatin1String("old"))

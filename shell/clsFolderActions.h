@@ -3,6 +3,7 @@
 #include "shell/clsFolderWork.h"
 #include "shell/frmFolderResults.h"
 
+#include <QJsonObject>
 #include <QObject>
 #include <QStringList>
 
@@ -40,6 +41,7 @@ signals:
 private:
     void checked(const QStringList &paths, const clsFolderWork::clsResult &result);
     void exported(const QStringList &paths, const QString &target, bool pdf, const clsFolderWork::clsResult &result);
+    std::optional<QJsonObject> readComparison(const clsFolderWork::clsResult &result);
     void compared(const clsFolderWork::clsResult &result, const QString &before, const QString &now);
     void comparedAll(const clsFolderWork::clsResult &result, const QString &other);
     void show(const clsComparison &comparison, QWidget *parent) const;

@@ -282,7 +282,7 @@ TEST(PaintFound, PlacesThatOverlapAreOne)
 TEST(PaintFound, ATextThatIsTooLongIsShownAroundTheWord)
 {
     const QFontMetrics metrics {QFont()};
-    const QString text = "Attending on the Guardian before the hearing of the claim for possession of the house";
+    const QString text = "Attending on the Guardian before the hearing of the application to adjourn the trial";
     const int width = metrics.horizontalAdvance("Attending on the Guardian befo");
     EXPECT_EQ(text, mdShownPart(text, {"hearing"}, metrics, 10000));
     const QString around = mdShownPart(text, {"hearing"}, metrics, width);

@@ -45,7 +45,7 @@ TEST_F(TheClock, TheButtonStartsAndStopsIt)
 {
     press(cmdStartStop);
     EXPECT_TRUE(tmrTimer->isActive());
-    EXPECT_FALSE(txtTime->isEnabled()) << "nobody types against the clock";
+    EXPECT_FALSE(txtTime->isEnabled()) << "disabled while the clock runs";
     EXPECT_EQ(QStringLiteral("Stop"), cmdStartStop->text());
     press(cmdStartStop);
     EXPECT_FALSE(tmrTimer->isActive());

@@ -107,7 +107,7 @@ TEST_F(CounselBox, EditNeedsTheTickAndAChosenCounsel)
     EXPECT_FALSE(edit(box).isEnabled());
     addCounsel("Ms A");
     box.fill();
-    EXPECT_FALSE(edit(box).isEnabled()) << "ticked, but nobody is chosen";
+    EXPECT_FALSE(edit(box).isEnabled()) << "ticked, but no counsel is chosen";
     box.setCounselUniqueID(Form->Counsel(1)->UniqueID());
     EXPECT_TRUE(edit(box).isEnabled());
     box.setCounsel(false);

@@ -83,7 +83,7 @@ TEST_F(PageBoxes, ASheetThatRunsOnHasNoBoxes)
     EXPECT_EQ((QSet<int> {0, 1, 2}), boxes({sheet(1, "1(1)", 1), sheet(2, "2(1)", 1), sheet(3, "3(1)", 1)}, 3));
     EXPECT_EQ((QSet<int> {0, 3}), boxes({sheet(1, "1(1)", 1), sheet(2, "2(1)", 2), sheet(3, "3(1)", 1)}, 4));
     EXPECT_EQ((QSet<int> {0, 2}), boxes({sheet(1, "1(1)", 1), sheet(2, "2(2)", 1), sheet(3, "3(1)", 1)}, 3));
-    EXPECT_TRUE(boxes({sheet(1, "1(1)", 1)}, 2).isEmpty()) << "pages that nobody reckoned with";
+    EXPECT_TRUE(boxes({sheet(1, "1(1)", 1)}, 2).isEmpty()) << "more pages than expected";
 }
 
 TEST_F(PageBoxes, ARowOfAListOpensItsItem)

@@ -3,8 +3,8 @@
 namespace {
 
 // One for the program: tests observe all word processors created during an export, at any depth.
-clsMSWordObserver nobody;
-clsMSWordObserver *current = &nobody;
+clsMSWordObserver noObserver;
+clsMSWordObserver *current = &noObserver;
 
 } // namespace
 
